@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvel {
+
+/// The files below the program folder. Names are relative to it, with `\` and `/` alike; a name that leads out of the
+/// folder names no file. No call throws.
+class dateien {
+public:
+    explicit dateien(std::filesystem::path programmordner) : ordner_(std::move(programmordner)) {}
+
+    /// Place of the file on the disk; empty if the name leads out of the program folder.
+    std::filesystem::path pfad(std::string_view name) const;
+    const std::filesystem::path& programmordner() const { return ordner_; }
+
+    /// The file's lines as UTF-8, without line ends; at most `zeilen_max` of them, each cut at 4000 bytes.
+    /// None if the file cannot be read.
+    std::optional<std::vector<std::string>> zeilen_lesen(std::string_view name, std::size_t zeilen_max) const;
+
+    /// Writes Windows-1252 lines with CRLF, creating folders as needed. Either the whole new file stands afterwards, or
+    /// the result is false and the old one is untouched.
+    bool zeilen_schreiben(std::string_view name, const std::vector<std::string>& zeilen) const;
+
+    /// These report success; a failure changes nothing.
+    bool ordner_anlegen(std::string_view name) const;
+    bool umbenennen(std::string_view alt, std::string_view neu) const;
+    bool kopieren(std::string_view alt, std::string_view neu) const;
+    bool loeschen(std::string_view name) const;
+
+    /// Names (without folder) of the files in `ordner` that begin and end as given, in the order of their names.
+    std::vector<std::string> auflisten(std::string_view ordner, std::string_view anfang, std::string_view ende) const;
+
+private:
+    std::filesystem::path ordner_;
+};
+
+}  // namespace tarvel

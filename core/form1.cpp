@@ -1,0 +1,252 @@
+#include "core/form1.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int kleiner_bildschirm_px = 720;  // on a lower screen lanes 5 and 6 cannot be used
+constexpr zeit_ms sperrzuschlag_ms = 100;   // a single race accepts laps only this much above the entered minimum
+
+/// Number as text without needless zeros, "." as decimal mark.
+std::string zahl_text(double zahl) {
+    if (zahl == std::trunc(zahl) && std::abs(zahl) < 1e15) {
+        return std::to_string(static_cast<long long>(zahl));
+    }
+    std::string text = std::to_string(zahl);
+    text.erase(text.find_last_not_of('0') + 1);
+    return text;
+}
+
+void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
+    const double zahl = zahl_lesen(wert.text());
+    if (zahl < min || zahl > max) {
+        wert.text(ersatz);
+    }
+}
+
+}  // namespace
+
+form1::form1(umgebung um) : um_(um) {
+    Command1.bei_klick = [this] { Command1_Click(); };
+    Command2.bei_klick = [this] {
+        if (beenden) {
+            beenden();
+        }
+    };
+    command_tasten.bei_klick = [this] { um_.fenster.zeigen("Tastaturbelegung", anzeige_art::modal); };
+    rennart.bei_aenderung = [this] {
+        rennart_geaendert();
+        renndauer.fokus_setzen();
+    };
+    for (std::size_t i = 0; i < spur.size(); ++i) {
+        spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };
+    }
+    for (feld* zahlenfeld : {&stddauer, &renndauer, &wertmin, &massstab}) {
+        zahlenfeld->laenge_max(8);
+    }
+    for (feld& laenge : lspur) {
+        laenge.laenge_max(8);
+    }
+}
+
+void form1::laden() {
+    version_label.text("V " + std::string(programm_version));
+    dauerlabel.text("Renndauer");
+    Label8.text("Stunden");
+    Label9.text("Rundenzeiten kleiner");
+    Label10.text("sec verwerfen");
+    Label2.text("Maßstab 1/");
+    t_aktiv.text("Tankfunktion");
+    t_aktiv.sichtbar(false);
+    label_spurlaenge.text("Spurlänge");
+    Command1.text("Einzelrennen");
+    Command2.text("Ende");
+    command_tasten.text("Tastaturbelegung");
+
+    rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
+    std::vector<std::string> namen{um_.txt.kein_fahrer};
+    namen.insert(namen.end(), um_.txt.fahrer_standard.begin(), um_.txt.fahrer_standard.end());
+    std::vector<std::string> fahrzeuge{um_.txt.standardfahrzeug_text};
+    fahrzeuge.insert(fahrzeuge.end(), um_.txt.fahrzeuge_standard.begin(), um_.txt.fahrzeuge_standard.end());
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        spur[i].text("Spur/Auto " + std::to_string(nummer));
+        fahrer[i].eintraege(namen);
+        fahrer[i].frei(true);
+        auto_[i].eintraege(fahrzeuge);
+        auto_[i].frei(true);
+    }
+    rennart_geaendert();
+}
+
+void form1::standard_setzen() {
+    rennart.text(um_.txt.text_zeit);
+    stddauer.text("0");
+    renndauer.text("5");
+    wertmin.text("5");
+    massstab.text("43");
+    t_aktiv.gesetzt(false);
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        spur[i].gesetzt(nummer <= 4);
+        lspur[i].text("25");
+        fahrer[i].text(um_.txt.fahrer_standard[nummer]);
+        auto_[i].text(um_.txt.standardfahrzeug_text);
+        spur_geaendert(i);
+    }
+    rennart_geaendert();
+}
+
+void form1::modus_anzeigen() {
+    const messhardware& hardware = um_.einst.hardware;
+    const std::array<bool, 8> in_kraft{hardware.hw_simulation, hardware.hw_iow,           hardware.hw_race_control,
+                                       hardware.hw_lpt,        hardware.hw_4x4_modus > 3, hardware.hw_timekeeper,
+                                       hardware.hw_cu,         hardware.hw_uart};
+    for (std::size_t i = 0; i < in_kraft.size(); ++i) {
+        if (in_kraft[i]) {
+            modus_label.text(um_.txt.hardware_name[i]);
+            return;
+        }
+    }
+}
+
+void form1::rennart_geaendert() {
+    if (rennart.text() != um_.txt.text_zeit && rennart.text() != um_.txt.text_runden) {
+        rennart.text(um_.txt.text_zeit);
+    }
+    const bool zeitrennen = rennart.text() == um_.txt.text_zeit;
+    Label19.text(zeitrennen ? "Minuten" : "Runden");
+    stddauer.aktiviert(zeitrennen);
+    Label8.sichtbar(zeitrennen);
+    um_.param.renn_art_text = rennart.text();
+}
+
+void form1::spur_geaendert(std::size_t index) {
+    const bool an = spur[index].gesetzt();
+    lspur[index].aktiviert(an);
+    fahrer[index].aktiviert(an);
+    auto_[index].aktiviert(an);
+}
+
+void form1::werte_pruefen() {
+    const auto punkt_statt_komma = [](feld& zahlenfeld) {
+        std::string text = zahlenfeld.text();
+        werte_pruefen2(text);
+        zahlenfeld.text(text);
+    };
+    for (feld& laenge : lspur) {
+        punkt_statt_komma(laenge);
+        begrenzen(laenge, 1, 10000, "25");
+    }
+    punkt_statt_komma(wertmin);
+    begrenzen(wertmin, 0.1, 59, "5");
+
+    const double stunden = zahl_lesen(stddauer.text());
+    if (stunden > 24) {
+        stddauer.text("24");
+    } else if (stunden <= 0) {
+        stddauer.text("0");
+    }
+
+    const bool rundenrennen = rennart.text() == um_.txt.text_runden;
+    const double dauer = zahl_lesen(renndauer.text());
+    if (dauer < 0) {
+        renndauer.text(rundenrennen ? "1" : "0");
+    } else if (rundenrennen && dauer > 9999) {
+        renndauer.text("9999");
+    } else if (!rundenrennen && dauer > 59) {
+        renndauer.text("59");
+    }
+}
+
+void form1::renndauer_normalisieren() {
+    std::string text = renndauer.text();
+    werte_pruefen2(text);
+    const std::size_t punkt = text.find('.');
+    dauer_minuten_ = zahl_lesen(text.substr(0, punkt));
+    std::string sekunden = punkt == std::string::npos ? "00" : text.substr(punkt + 1);
+    if (sekunden.size() == 1) {
+        sekunden += "0";  // 5,3 means five and a half minutes
+    }
+    dauer_sekunden_ = static_cast<int>(ganzzahl_lesen(sekunden, 0, 59));
+
+    std::string neu = zahl_text(dauer_minuten_);
+    if (dauer_sekunden_ >= 1) {
+        neu += "," + ziffern(dauer_sekunden_, 2);
+    }
+    renndauer.text(neu);
+}
+
+zeit_ms form1::renndauer_lesen() const {
+    return std::llround(zahl_lesen(stddauer.text()) * 3600000 + dauer_minuten_ * 60000) + dauer_sekunden_ * 1000;
+}
+
+void form1::spuren_zaehlen() {
+    um_.param.spuren_anzahl = 0;
+    for (const int nummer : alle_spuren) {
+        um_.param.spur_aktiv[nummer] = spur[feld_index(nummer)].gesetzt();
+        um_.param.spuren_anzahl += um_.param.spur_aktiv[nummer] ? 1 : 0;
+    }
+}
+
+bool form1::renndauer_zulaessig() const {
+    const double dauer = zahl_lesen(renndauer.text());
+    if (um_.param.renn_art_text == um_.txt.text_runden) {
+        return dauer >= 1 && dauer <= 9999 && um_.param.renndauer_ms != 0;
+    }
+    return dauer <= 59 && um_.param.renndauer_ms != 0;
+}
+
+void form1::rennen_uebergeben() {
+    renn_parameter& param = um_.param;
+    for (const int nummer : alle_spuren) {
+        param.fahrer_name[nummer] = fahrer[feld_index(nummer)].text();
+        param.spurlaenge[nummer] = zahl_lesen(lspur[feld_index(nummer)].text());
+    }
+    const bool rundenrennen = param.renn_art_text == um_.txt.text_runden;
+    param.renn_ziel = rundenrennen ? ganzzahl_lesen(renndauer.text(), 1, 9999) : param.renndauer_ms;
+}
+
+void form1::Command1_Click() {
+    renn_parameter& param = um_.param;
+    param.auswertung_nach_rennen = um_.einst.auswertung_nach;
+    param.wettkampf_kein = true;
+    if (um_.bildschirm.groesse().hoehe < kleiner_bildschirm_px) {
+        for (const std::size_t index : {std::size_t{4}, std::size_t{5}}) {
+            spur[index].gesetzt(false);
+            spur_geaendert(index);
+        }
+    }
+    param.renn_art_text = rennart.text();
+    param.tank_aktiv = t_aktiv.gesetzt();
+    if (bahnstrom_ein) {
+        bahnstrom_ein();
+    }
+    werte_pruefen();
+    param.min_rundenzeit_ms = std::llround(zahl_lesen(wertmin.text()) * 1000) + sperrzuschlag_ms;
+    renndauer_normalisieren();
+    param.renndauer_ms = renndauer_lesen();
+    param.renndauer_rest_ms = param.renndauer_ms;
+    if (!renndauer_zulaessig()) {
+        um_.meldungen.zeigen(um_.txt.meldung[13], um_.txt.titel[1]);
+        param.training_laeuft = false;
+        renndauer.fokus_setzen();
+        return;
+    }
+    spuren_zaehlen();
+    rennen_uebergeben();
+    if (param.spuren_anzahl == 0) {
+        um_.meldungen.zeigen(um_.txt.meldung[12], um_.txt.titel[1]);
+        param.training_laeuft = false;
+        spur[0].fokus_setzen();
+        return;
+    }
+    um_.fenster.zeigen("bahn1", anzeige_art::modal);
+}
+
+}  // namespace tarvel

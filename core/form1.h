@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "core/einstellungen.h"
+#include "core/fensterregister.h"
+#include "core/renn_parameter.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "platform/bildschirm.h"
+#include "platform/meldungen.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// The main window: the form on which a race is set up. Its control arrays count the lanes from 0.
+class form1 {
+public:
+    struct umgebung {
+        const einstellungen& einst;
+        const texte& txt;
+        renn_parameter& param;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        const plattform::bildschirm& bildschirm;
+    };
+
+    explicit form1(umgebung um);
+
+    bezeichnung version_label;
+    auswahl rennart;
+    bezeichnung dauerlabel;
+    feld stddauer;  ///< hours of a time race
+    bezeichnung Label8;
+    feld renndauer;  ///< `M,SS` minutes and seconds, or laps
+    bezeichnung Label19;
+    bezeichnung Label9;
+    feld wertmin;  ///< shortest lap in seconds
+    bezeichnung Label10;
+    bezeichnung Label2;
+    feld massstab;
+    haken t_aktiv;
+    std::array<haken, spuren_max> spur;
+    std::array<feld, spuren_max> lspur;  ///< metres
+    std::array<auswahl, spuren_max> fahrer;
+    std::array<auswahl, spuren_max> auto_;
+    bezeichnung label_spurlaenge;
+    bezeichnung modus_label;  ///< status line: the timing hardware in force
+    befehl Command1;          ///< single race
+    befehl Command2;          ///< end of the program
+    befehl command_tasten;    ///< key assignment
+
+    /// Switches the track power on; filled by the part that owns the outputs.
+    std::function<void()> bahnstrom_ein;
+    /// Ends the program.
+    std::function<void()> beenden;
+
+    /// Load handler of the window.
+    void laden();
+    /// Every field to its default.
+    void standard_setzen();
+    void modus_anzeigen();
+
+    /// Brings every field within its limits, silently.
+    void werte_pruefen();
+    /// Parses `renndauer` and writes it back in its tidy form.
+    void renndauer_normalisieren();
+    /// Fills `spur_aktiv` and `spuren_anzahl`.
+    void spuren_zaehlen();
+    /// Begins a single race: corrections, checks with their messages, hand-over, race window.
+    void Command1_Click();
+    void rennart_geaendert();
+
+private:
+    bool renndauer_zulaessig() const;
+    void rennen_uebergeben();
+    void spur_geaendert(std::size_t index);
+    zeit_ms renndauer_lesen() const;
+
+    umgebung um_;
+    double dauer_minuten_ = 0;
+    int dauer_sekunden_ = 0;
+};
+
+}  // namespace tarvel

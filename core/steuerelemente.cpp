@@ -1,0 +1,91 @@
+#include "core/steuerelemente.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+
+void steuerelement::text(std::string_view neu) {
+    if (text_ == neu) {
+        return;
+    }
+    text_.assign(neu);
+    melden();
+}
+
+void steuerelement::fokus_setzen() {
+    fokuswunsch_ = true;
+    melden();
+}
+
+bool steuerelement::fokuswunsch_abholen() {
+    return std::exchange(fokuswunsch_, false);
+}
+
+void befehl::klicken() {
+    if (bedienbar() && bei_klick) {
+        bei_klick();
+    }
+}
+
+void feld::eingeben(std::string_view neu) {
+    if (!bedienbar() || neu == text()) {
+        return;
+    }
+    text(neu);
+    if (bei_aenderung) {
+        bei_aenderung();
+    }
+}
+
+void haken::umschalten() {
+    if (!bedienbar()) {
+        return;
+    }
+    gesetzt(!gesetzt());
+    if (bei_aenderung) {
+        bei_aenderung();
+    }
+}
+
+void auswahl::eingeben(std::string_view neu) {
+    if (!bedienbar() || neu == text()) {
+        return;
+    }
+    if (!frei_ && std::find(eintraege_.begin(), eintraege_.end(), neu) == eintraege_.end()) {
+        return;
+    }
+    text(neu);
+    if (bei_aenderung) {
+        bei_aenderung();
+    }
+}
+
+void liste::hinzufuegen(std::string_view zeile) {
+    zeilen_.emplace_back(zeile);
+    melden();
+}
+
+void liste::leeren() {
+    if (zeilen_.empty()) {
+        return;
+    }
+    zeilen_.clear();
+    markiert_ = -1;
+    ++stand_;
+    melden();
+}
+
+void liste::markieren(int zeile) {
+    setzen(markiert_, std::clamp(zeile, -1, static_cast<int>(zeilen_.size()) - 1));
+}
+
+void bild::datei(std::string_view neu) {
+    if (datei_ == neu) {
+        return;
+    }
+    datei_.assign(neu);
+    melden();
+}
+
+}  // namespace tarvel

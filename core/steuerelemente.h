@@ -1,0 +1,200 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The controls of a window as values: what a window's logic sets and reads, and what its drawing shows.
+///
+/// A setter that changes nothing notifies nobody, so the race tick may write every control each millisecond. What the
+/// operator does arrives through `klicken`, `eingeben`, `umschalten` and `markieren`; these do nothing on a control
+/// that is hidden or disabled, whoever calls them.
+namespace tarvel {
+
+/// 24-bit colour, lowest byte red.
+using farbe = std::uint32_t;
+
+namespace farben {
+inline constexpr farbe rot = 0x0000FF;
+}
+
+/// Told of each change of a control, from within the setter: it may only take a note.
+class steuer_beobachter {
+public:
+    virtual ~steuer_beobachter() = default;
+    virtual void geaendert() = 0;
+};
+
+class steuerelement {
+public:
+    steuerelement() = default;
+    steuerelement(const steuerelement&) = delete;
+    steuerelement& operator=(const steuerelement&) = delete;
+    virtual ~steuerelement() = default;
+
+    void beobachten(steuer_beobachter* beobachter) { beobachter_ = beobachter; }
+
+    const std::string& text() const { return text_; }
+    void text(std::string_view neu);
+    bool sichtbar() const { return sichtbar_; }
+    void sichtbar(bool neu) { setzen(sichtbar_, neu); }
+    bool aktiviert() const { return aktiviert_; }
+    void aktiviert(bool neu) { setzen(aktiviert_, neu); }
+    bool bedienbar() const { return sichtbar_ && aktiviert_; }
+
+    /// Colours are empty where the drawing's own palette holds.
+    std::optional<farbe> schriftfarbe() const { return schriftfarbe_; }
+    void schriftfarbe(std::optional<farbe> neu) { setzen(schriftfarbe_, neu); }
+    std::optional<farbe> hintergrund() const { return hintergrund_; }
+    void hintergrund(std::optional<farbe> neu) { setzen(hintergrund_, neu); }
+
+    /// Font size in the units of the window's design size; 0 leaves it to the drawing.
+    double schriftgroesse() const { return schriftgroesse_; }
+    void schriftgroesse(double neu) { setzen(schriftgroesse_, neu); }
+
+    /// Asks for the input focus; the drawing takes the wish once.
+    void fokus_setzen();
+    bool fokuswunsch_abholen();
+
+protected:
+    template <class T>
+    void setzen(T& feld, const T& neu) {
+        if (feld == neu) {
+            return;
+        }
+        feld = neu;
+        melden();
+    }
+    void melden() const {
+        if (beobachter_ != nullptr) {
+            beobachter_->geaendert();
+        }
+    }
+
+private:
+    steuer_beobachter* beobachter_ = nullptr;
+    std::string text_;
+    std::optional<farbe> schriftfarbe_;
+    std::optional<farbe> hintergrund_;
+    double schriftgroesse_ = 0;
+    bool sichtbar_ = true;
+    bool aktiviert_ = true;
+    bool fokuswunsch_ = false;
+};
+
+/// A label.
+class bezeichnung : public steuerelement {
+public:
+    /// Left edge in design units where a view places the label itself; 0 leaves it to the drawing.
+    double links() const { return links_; }
+    void links(double neu) { setzen(links_, neu); }
+
+private:
+    double links_ = 0;
+};
+
+/// A frame around other controls, with `text` as its title.
+class rahmen : public steuerelement {
+public:
+    /// Row of the window that the frame stands in, from 0, where the logic orders the frames.
+    int reihe() const { return reihe_; }
+    void reihe(int neu) { setzen(reihe_, neu); }
+
+private:
+    int reihe_ = 0;
+};
+
+/// A command: a button.
+class befehl : public steuerelement {
+public:
+    std::function<void()> bei_klick;
+    void klicken();
+};
+
+/// A text field.
+class feld : public steuerelement {
+public:
+    std::function<void()> bei_aenderung;
+    void eingeben(std::string_view neu);
+
+    /// Most characters that the operator may type; 0 is no limit.
+    int laenge_max() const { return laenge_max_; }
+    void laenge_max(int neu) { setzen(laenge_max_, neu); }
+
+private:
+    int laenge_max_ = 0;
+};
+
+/// A tick box.
+class haken : public steuerelement {
+public:
+    std::function<void()> bei_aenderung;
+    bool gesetzt() const { return gesetzt_; }
+    void gesetzt(bool neu) { setzen(gesetzt_, neu); }
+    void umschalten();
+
+private:
+    bool gesetzt_ = false;
+};
+
+/// A choice from a list. Its text is one of the entries, or free text if `frei` is set.
+class auswahl : public steuerelement {
+public:
+    std::function<void()> bei_aenderung;
+    const std::vector<std::string>& eintraege() const { return eintraege_; }
+    void eintraege(std::vector<std::string> neu) { setzen(eintraege_, neu); }
+    bool frei() const { return frei_; }
+    void frei(bool neu) { setzen(frei_, neu); }
+    void eingeben(std::string_view neu);
+
+private:
+    std::vector<std::string> eintraege_;
+    bool frei_ = false;
+};
+
+/// A list of text rows, indexed from 0, with at most one selected row.
+class liste : public steuerelement {
+public:
+    const std::vector<std::string>& zeilen() const { return zeilen_; }
+    void hinzufuegen(std::string_view zeile);
+    void leeren();
+    /// Makes room, so that rows up to this number are added without an allocation.
+    void vormerken(std::size_t anzahl) { zeilen_.reserve(anzahl); }
+
+    /// Selected row, -1 for none. A row that does not exist selects the nearest one.
+    int markiert() const { return markiert_; }
+    void markieren(int zeile);
+
+    /// Changes with every change other than an added row, so that a drawing can tell the two apart.
+    unsigned stand() const { return stand_; }
+
+private:
+    std::vector<std::string> zeilen_;
+    int markiert_ = -1;
+    unsigned stand_ = 0;
+};
+
+/// A picture: the name of its file below the program folder, empty for none.
+class bild : public steuerelement {
+public:
+    const std::string& datei() const { return datei_; }
+    void datei(std::string_view neu);
+
+private:
+    std::string datei_;
+};
+
+/// A drawn shape.
+class form : public steuerelement {
+public:
+    std::optional<farbe> randfarbe() const { return randfarbe_; }
+    void randfarbe(std::optional<farbe> neu) { setzen(randfarbe_, neu); }
+
+private:
+    std::optional<farbe> randfarbe_;
+};
+
+}  // namespace tarvel

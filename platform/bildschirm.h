@@ -1,0 +1,17 @@
+#pragma once
+
+namespace tarvel::plattform {
+
+struct groesse_px {
+    int breite = 0;
+    int hoehe = 0;
+};
+
+class bildschirm {
+public:
+    virtual ~bildschirm() = default;
+    /// The whole screen that the windows open on.
+    virtual groesse_px groesse() const = 0;
+};
+
+}  // namespace tarvel::plattform

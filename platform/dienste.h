@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+
+#include "platform/bildschirm.h"
+#include "platform/kalender.h"
+#include "platform/klang.h"
+#include "platform/meldungen.h"
+#include "platform/prozess.h"
+#include "platform/uhr.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel::plattform {
+
+/// All that the program needs of the machine. The references outlive the program.
+struct dienste {
+    plattform::uhr& uhr;
+    plattform::zeitgeber_dienst& zeitgeber;
+    plattform::meldungen& meldungen;
+    plattform::klang& klang;
+    plattform::kalender& kalender;
+    plattform::bildschirm& bildschirm;
+    plattform::prozess& prozess;
+    std::filesystem::path programmordner;  ///< all files of the program lie below it
+};
+
+}  // namespace tarvel::plattform

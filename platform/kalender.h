@@ -1,0 +1,21 @@
+#pragma once
+
+namespace tarvel::plattform {
+
+/// Local date and time of day.
+struct datum_uhrzeit {
+    int jahr = 0;
+    int monat = 1;  ///< 1 to 12
+    int tag = 1;    ///< 1 to 31
+    int stunde = 0;
+    int minute = 0;
+    int sekunde = 0;
+};
+
+class kalender {
+public:
+    virtual ~kalender() = default;
+    virtual datum_uhrzeit jetzt() const = 0;
+};
+
+}  // namespace tarvel::plattform

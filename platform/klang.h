@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace tarvel::plattform {
+
+/// Plays one wave file at a time and returns at once; a later sound cuts the earlier one.
+class klang {
+public:
+    virtual ~klang() = default;
+    /// `datei` is a name below the program folder. A missing file plays nothing.
+    virtual void spielen(std::string_view datei) = 0;
+};
+
+}  // namespace tarvel::plattform

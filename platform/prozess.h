@@ -1,0 +1,14 @@
+#pragma once
+
+namespace tarvel::plattform {
+
+class prozess {
+public:
+    virtual ~prozess() = default;
+    /// False if this user already runs the program; the first call decides for the life of the process.
+    virtual bool ist_einzige_instanz() = 0;
+    /// Leaves the event loop.
+    virtual void beenden() = 0;
+};
+
+}  // namespace tarvel::plattform
