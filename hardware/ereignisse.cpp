@@ -1,0 +1,24 @@
+#include "hardware/ereignisse.h"
+
+namespace tarvel {
+
+void ereignis_tabelle::ereignis_melden(ereignis_art nummer) {
+    (*this)[nummer].ereignis_zeit = messzeit;
+    (*this)[nummer].aktiv = true;
+}
+
+void ereignis_tabelle::ruhe_herstellen() {
+    constexpr std::size_t zeilen = 42;
+    for (ereignis_zeile& zeile : std::span(zeilen_).first(zeilen)) {
+        zeile.aktiv = false;
+        zeile.pegel = zeile.pegel_ruhe;
+    }
+}
+
+void ereignis_tabelle::rundenzaehlung_leeren() {
+    for (const ereignis_art nummer : art::rundenzaehlung) {
+        (*this)[nummer].aktiv = false;
+    }
+}
+
+}  // namespace tarvel

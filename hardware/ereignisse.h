@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+
+#include "core/spuren.h"
+#include "platform/uhr.h"
+
+/// Sensor events. A source sets the row of its event, the race logic reads and clears it in its own tick: no queue, no
+/// callback. A second edge before the tick overwrites the first.
+namespace tarvel {
+
+/// Number of everything that a hardware port can mean, inputs and outputs in one list. The irregular order stands in
+/// assignment files: lanes 1 to 4 came first and run downwards, lanes 5 and 6 were added behind them.
+using ereignis_art = int;
+
+namespace art {
+inline constexpr ereignis_art chaostaster = 1;
+inline constexpr ereignis_art ampel_gruen = 3;
+inline constexpr spuren<ereignis_art> rundenzaehlung{{16, 15, 14, 13, 34, 35}};
+inline constexpr ereignis_art anzahl = 60;  ///< arts 0 to 59
+}  // namespace art
+
+struct ereignis_zeile {
+    bool aktiv = false;       ///< an edge waits for the race logic
+    bool pegel = false;       ///< level read in this poll
+    bool pegel_ruhe = false;  ///< rest level of the line, taken when the race gets ready
+    zeit_ms ereignis_zeit = 0;
+};
+
+class ereignis_tabelle {
+public:
+    static constexpr int zeilen_anzahl = 62;
+
+    ereignis_zeile& operator[](ereignis_art nummer) { return zeilen_.at(static_cast<std::size_t>(nummer)); }
+    const ereignis_zeile& operator[](ereignis_art nummer) const { return zeilen_.at(static_cast<std::size_t>(nummer)); }
+
+    /// Plain delivery: stamps the row with `messzeit`.
+    void ereignis_melden(ereignis_art nummer);
+    /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
+    void ruhe_herstellen();
+    /// Forgets waiting crossings of all lanes.
+    void rundenzaehlung_leeren();
+
+    zeit_ms messzeit = 0;         ///< stamp of the last race tick
+    spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
+
+private:
+    std::array<ereignis_zeile, zeilen_anzahl> zeilen_{};
+};
+
+/// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device.
+class messquelle {
+public:
+    virtual ~messquelle() = default;
+    /// Each `renntimer2` tick: reads the device and delivers.
+    virtual void abfragen() = 0;
+    /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.
+    virtual void abtasten() = 0;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,55 @@
+#include "hardware/tastatur.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int zeile_chaostaster = 53;  // + lane
+constexpr int zeile_rundenabzug = 60;  // + lane
+constexpr int erste_ereigniszeile = 13;
+constexpr int letzte_ereigniszeile = ereignis_tabelle::zeilen_anzahl - 1;
+
+}  // namespace
+
+bool tastatur::ist(int taste, int zeile) const {
+    return taste != tastenbelegung::keine_taste && taste == belegung_.taste(zeile);
+}
+
+bool tastatur::sondertaste_auswerten(int taste, bool chaos) {
+    bool erledigt = false;
+    if (ist(taste, tastenbelegung::zeile_nacht) && !rennen_.beendet()) {
+        rennen_.bildschirm_dunkel();
+        erledigt = true;
+    }
+    if (chaos) {
+        ereignisse_.ereignis_melden(art::chaostaster);
+        erledigt = true;
+    }
+    for (const int spur : alle_spuren) {
+        if (ist(taste, zeile_rundenabzug + spur) && rennen_.runde_abziehen(spur)) {
+            erledigt = true;
+        }
+    }
+    return erledigt;
+}
+
+void tastatur::taste_auswerten(int taste) {
+    bool chaos = ist(taste, tastenbelegung::zeile_chaos);
+    for (const int spur : alle_spuren) {
+        if (ist(taste, zeile_chaostaster + spur)) {
+            // a personal button acts as the common chaos key from here on
+            ereignisse_.chaos_fahrer[spur] = true;
+            taste = belegung_.taste(tastenbelegung::zeile_chaos);
+            chaos = true;
+        }
+    }
+    if (sondertaste_auswerten(taste, chaos)) {
+        return;
+    }
+    for (int zeile = erste_ereigniszeile; zeile <= letzte_ereigniszeile; ++zeile) {
+        if (ist(taste, zeile)) {
+            ereignisse_.ereignis_melden(zeile);
+        }
+    }
+}
+
+}  // namespace tarvel

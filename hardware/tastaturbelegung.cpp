@@ -1,0 +1,95 @@
+#include "hardware/tastaturbelegung.h"
+
+#include <set>
+
+#include "core/spuren.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int erstes_druckbares = 32;
+constexpr int loeschzeichen = 127;
+
+/// Code of a field's character; `keine_taste` for a blank or empty field, 0 for a character that no key can be.
+int feldcode(const std::string& zeichen) {
+    if (gekuerzt(zeichen).empty()) {
+        return tastenbelegung::keine_taste;
+    }
+    const int code = ansi_code(zeichen).value_or(0);
+    return code >= erstes_druckbares && code != loeschzeichen ? code : 0;
+}
+
+}  // namespace
+
+tastaturbelegung::tastaturbelegung(umgebung um) : um_(um) {
+    for (feld& zeichen : taste) {
+        zeichen.laenge_max(1);
+    }
+    Command1.bei_klick = [this] { uebernehmen(); };
+    Command2.bei_klick = [this] { um_.fenster.entladen("Tastaturbelegung"); };
+    const auto vorbelegen = [this](belegung_stufe stufe) {
+        tastenbelegung vorlage;
+        vorlage.vorbelegen(stufe);
+        anzeigen(vorlage);
+    };
+    Command3.bei_klick = [vorbelegen] { vorbelegen(belegung_stufe::standard); };
+    Command4.bei_klick = [vorbelegen] { vorbelegen(belegung_stufe::alle); };
+    Command5.bei_klick = [this] {
+        for (feld& zeichen : taste) {
+            zeichen.text("");
+        }
+    };
+}
+
+void tastaturbelegung::laden() {
+    for (const int spur : alle_spuren) {
+        Frame.at(static_cast<std::size_t>(spur)).text("Spur " + std::to_string(spur) + "/Auto " + std::to_string(spur));
+    }
+    Frame[0].text("sonstige Tastenbelegung");
+    Command1.text("Übernehmen");
+    Command2.text("Abbrechen");
+    Command3.text("Standard");
+    Command4.text("alle belegen");
+    Command5.text("Felder löschen");
+    anzeigen(um_.belegung);
+    taste.at(static_cast<std::size_t>(tastenzeilen().front().zeile)).fokus_setzen();
+}
+
+void tastaturbelegung::anzeigen(const tastenbelegung& belegung) {
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        const int code = belegung.taste(zeile.zeile);
+        taste.at(static_cast<std::size_t>(zeile.zeile))
+            .text(code == tastenbelegung::keine_taste ? std::string() : ansi_zeichen(code));
+    }
+}
+
+bool tastaturbelegung::pruefen() {
+    std::set<int> vergeben;
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        feld& zeichen = taste.at(static_cast<std::size_t>(zeile.zeile));
+        const int code = feldcode(zeichen.text());
+        const bool doppelt = code > tastenbelegung::keine_taste && !vergeben.insert(code).second;
+        if (code == 0 || doppelt) {
+            um_.meldungen.zeigen(doppelt ? "Felder doppelt belegt!!!" : "Ungültiges Zeichen!!!", um_.txt.titel[1]);
+            zeichen.fokus_setzen();
+            return false;
+        }
+    }
+    return true;
+}
+
+void tastaturbelegung::uebernehmen() {
+    if (!pruefen()) {
+        return;
+    }
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        um_.belegung.taste(zeile.zeile, feldcode(taste.at(static_cast<std::size_t>(zeile.zeile)).text()));
+    }
+    if (!um_.belegung.speichern(um_.ablage)) {
+        um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
+    }
+    um_.fenster.entladen("Tastaturbelegung");
+}
+
+}  // namespace tarvel

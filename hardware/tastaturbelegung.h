@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+
+#include "core/fensterregister.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "hardware/tastenbelegung.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The window in which the keys are assigned: one field of one character per row of `tastenzeilen`.
+class tastaturbelegung {
+public:
+    struct umgebung {
+        tastenbelegung& belegung;
+        const texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+    };
+
+    explicit tastaturbelegung(umgebung um);
+
+    std::array<feld, tastenbelegung::zeile_max + 1> taste;  ///< index is the row; rows without a name have no field
+    std::array<rahmen, spuren_max + 1> Frame;               ///< 1 to 6 the lanes, 0 the keys of the whole track
+    befehl Command1;                                        ///< confirm
+    befehl Command2;                                        ///< cancel
+    befehl Command3;                                        ///< "Standard"
+    befehl Command4;                                        ///< "alle belegen"
+    befehl Command5;                                        ///< "Felder löschen"
+
+    /// Load handler: shows the assignment in force.
+    void laden();
+
+private:
+    void anzeigen(const tastenbelegung& belegung);
+    bool pruefen();
+    void uebernehmen();
+
+    umgebung um_;
+};
+
+}  // namespace tarvel

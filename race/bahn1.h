@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+
+#include "core/spuren.h"
+#include "core/steuerelemente.h"
+
+namespace tarvel {
+
+/// A clock of the race window: its parts are labels of their own.
+struct rennuhr_felder {
+    rahmen uhrframe;
+    bezeichnung stunden;
+    bezeichnung minuten;
+    bezeichnung sekunden;
+    bezeichnung tausendstel;
+    bezeichnung nach_stunden;  ///< separators behind the part; this one goes with the hours
+    bezeichnung nach_minuten;
+    bezeichnung nach_sekunden;
+};
+
+/// The controls of the race window. Their arrays are indexed by lane or, as `std::array`, by lane - 1.
+struct bahn1 {
+    spuren<bezeichnung> namenslabel;
+    spuren<bezeichnung> zaehler;  ///< laps
+    spuren<bezeichnung> lrunde;   ///< last lap
+    spuren<bezeichnung> brunde;   ///< best lap
+    spuren<bezeichnung> straflabel;
+    spuren<form> bahnshape;                        ///< background of the lane
+    std::array<bezeichnung, spuren_max> l_PosAnz;  ///< place
+    std::array<liste, spuren_max> t_liste;         ///< laps, row n holds lap n
+    std::array<bild, spuren_max> ampel_rt;         ///< small lights of the lane: lit while visible
+    std::array<bild, spuren_max> ampel_ge;
+    std::array<bild, spuren_max> ampel_gr;
+
+    rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
+    rennuhr_felder uhr2;  ///< second clock: time driven
+    bezeichnung nachlauflabel;
+    bezeichnung ziel_label;  ///< what is driven for
+    rahmen Frame1;
+    befehl Command1;          ///< start
+    befehl Command2;          ///< abort without a result
+    befehl Command4;          ///< end with the result so far
+    rahmen Nachtabschaltung;  ///< dark cover over the whole window
+
+    double zaehler_schrift = 0;  ///< font size of `zaehler` at the start, in design units
+};
+
+}  // namespace tarvel

@@ -1,0 +1,37 @@
+#include "race/positionen.h"
+
+#include <string>
+#include <utility>
+
+namespace tarvel {
+
+void positionen::aufstellen() {
+    int naechste = 1;
+    for (const int spur : alle_spuren) {
+        const std::size_t index = feld_index(spur);
+        const bool dabei = um_.param.spur_aktiv[spur];
+        position_.at(index) = dabei ? naechste++ : 0;
+        um_.bahn.l_PosAnz.at(index).text(std::to_string(position_.at(index)));
+        um_.bahn.l_PosAnz.at(index).sichtbar(dabei);
+    }
+}
+
+void positionen::positions_pruefung() {
+    for (const int a : alle_spuren) {
+        for (const int b : alle_spuren) {
+            const bool beide_dabei = um_.param.spur_aktiv[a] && um_.param.spur_aktiv[b];
+            if (beide_dabei && um_.zustand.spur[a].runden > um_.zustand.spur[b].runden &&
+                position_[feld_index(a)] > position_[feld_index(b)]) {
+                positionen_tauschen(feld_index(a), feld_index(b));
+            }
+        }
+    }
+}
+
+void positionen::positionen_tauschen(std::size_t a, std::size_t b) {
+    std::swap(position_.at(a), position_.at(b));
+    um_.bahn.l_PosAnz.at(b).text(std::to_string(position_.at(b)));
+    um_.bahn.l_PosAnz.at(a).text(std::to_string(position_.at(a)));
+}
+
+}  // namespace tarvel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include "core/spuren.h"
+#include "platform/uhr.h"
+#include "race/rundenspeicher.h"
+
+namespace tarvel {
+
+/// Debounce of a lane's lap sensor.
+enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
+
+struct spur_zustand {
+    int runden = -1;             ///< laps counted; -1 before the first crossing, which makes it 0
+    int runden_zeile = 0;        ///< always `runden` + 1: the row of the lap store that the next crossing fills
+    zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
+    zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
+    int strafzeit = 0;           ///< time penalty in seconds
+    bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
+    bool disqualifiziert = false;
+    bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
+    bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
+    bool tank_halt = false;          ///< held for a moment after a full tank
+    sensorsperre sperre = sensorsperre::unbestimmt;
+};
+
+/// The record of the running race. Reset at each race.
+struct renn_zustand {
+    spuren<spur_zustand> spur;
+    rundenspeicher rundenzeiten;
+
+    zeit_ms start_zeit = 0;         ///< stamp of the race start
+    zeit_ms pause_abzug = 0;        ///< sum of the pauses; moves the end of the race, not its start
+    zeit_ms renn_ende_zeit = 0;     ///< `start_zeit` + duration
+    zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
+    int fuehrungsrunden = 0;        ///< most laps that any lane has reached
+    int nachlauf_minuten = 0;       ///< minutes of the run-on so far
+    int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
+    bool rennen_beendet = true;
+    bool chaos_aktiv = false;       ///< the race is paused
+    bool ende_eingeleitet = false;  ///< guards against a second reason to end
+    bool endesound_gespielt = false;
+    bool rennabbruch = false;          ///< stopped by hand: the result is not a normal finish
+    std::string minuten_gefahren;      ///< minutes on the second clock when the race ended
+    std::string rennen_start_uhrzeit;  ///< date and time of day
+    std::string rennen_ende_uhrzeit;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,141 @@
+#include "race/rennablauf.h"
+
+#include "core/zeit.h"
+
+namespace tarvel {
+
+rennablauf::rennablauf(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
+    um_.zeitgeber.renntimer->bei_tick = [this] { renntimer_tick(); };
+    um_.zeitgeber.renntimer2->bei_tick = [this] { renntimer2_tick(); };
+    um_.zeitgeber.renntimer3->bei_tick = [this] { renntimer3_tick(); };
+    um_.zeitgeber.nachlauftimer1->bei_tick = [this] { t_.ende.nachlauf_tick(); };
+}
+
+void rennablauf::laden() {
+    um_.zustand.rennen_beendet = true;
+    t_.ansicht.spaltenansicht_oeffnen();
+    t_.ansicht.farben_setzen();
+    rennen_zuruecksetzen();
+    um_.bahn.Command1.aktiviert(true);
+    um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command4.aktiviert(false);
+    um_.bahn.Command1.fokus_setzen();
+}
+
+void rennablauf::entladen() {
+    um_.zeitgeber.alle_aus();
+    um_.zustand.rennen_beendet = true;
+    um_.bahn.Nachtabschaltung.sichtbar(false);
+}
+
+void rennablauf::rennen_zuruecksetzen() {
+    renn_zustand& zustand = um_.zustand;
+    for (const int spur : alle_spuren) {
+        spur_zustand& frisch = zustand.spur[spur];
+        const int strafzeit = frisch.strafzeit;  // belongs to the start, not to the reset
+        frisch = {};
+        frisch.strafzeit = strafzeit;
+        frisch.ziel_erreicht = !um_.param.spur_aktiv[spur] || !um_.haupt.spur.at(feld_index(spur)).gesetzt();
+        zustand.rundenzeiten.leeren(spur, 0);
+        zustand.rundenzeiten.beste(spur, 0);
+    }
+    zustand.pause_abzug = 0;
+    zustand.fuehrungsrunden = 0;
+    t_.ende.zuruecksetzen();
+    t_.ansicht.anzeigen_leeren();
+    t_.plaetze.aufstellen();
+    t_.uhr.zuruecksetzen();
+}
+
+void rennablauf::rennstart_vorbereiten() {
+    um_.zustand.rennen_beendet = false;
+    um_.zustand.chaos_aktiv = false;
+    um_.sounds.spielen(sound::rennstart_vorbereitet);
+    rennen_zuruecksetzen();
+    um_.ereignisse.ruhe_herstellen();
+    for (spur_zustand& spur : um_.zustand.spur) {
+        spur.tank_halt = false;
+        spur.strafzeit = 0;
+    }
+    t_.uhr.restzeit_vorbereiten();
+    um_.bahn.Command1.aktiviert(false);
+    um_.bahn.Command2.aktiviert(false);
+    um_.bahn.Command4.aktiviert(false);
+    if (um_.einst.nachtrennen_modus > 0) {
+        t_.ansicht.bildschirm_dunkel();
+    }
+    if (um_.einst.start_ampel_modus == 0 || !um_.fenster.kennt("Form2")) {
+        rennen_starten();
+    } else {
+        um_.fenster.zeigen("Form2");
+    }
+}
+
+void rennablauf::rennen_starten() {
+    renn_zustand& zustand = um_.zustand;
+    um_.zeitgeber.rennen_aus();
+    zustand.start_zeit = um_.zeit.ereignis_zeit_lesen();
+    zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
+    zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
+    um_.ereignisse.messzeit = zustand.start_zeit;
+    um_.ereignisse[art::ampel_gruen].aktiv = false;
+    um_.zeitgeber.rennen_an();
+    um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command4.aktiviert(true);
+    um_.sounds.spielen(sound::rennen_gestartet);
+    um_.ereignisse.rundenzaehlung_leeren();
+    for (const int spur : alle_spuren) {
+        zustand.spur[spur].start_zeit = zustand.start_zeit;
+        zustand.rundenzeiten.setzen(spur, 0, 0, zustand.start_zeit);
+    }
+    t_.ansicht.freigeben();
+}
+
+void rennablauf::renntimer_tick() {
+    // Tank contacts and refuelling of all lanes come first here.
+    renn_zustand& zustand = um_.zustand;
+    if (!zustand.rennen_beendet && !zustand.chaos_aktiv) {
+        um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
+        t_.zaehlung.runden_auswerten();
+    }
+    for (const int spur : alle_spuren) {
+        if (zustand.spur[spur].runden >= 0) {
+            um_.bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
+        }
+    }
+    // Sectors, sound sensors and the chaos triggers are looked at here.
+    for (spur_zustand& spur : zustand.spur) {
+        spur.runden_zeile = spur.runden + 1;
+    }
+    if (zustand.rennen_beendet) {
+        return;
+    }
+    t_.uhr.rennuhr_anzeigen();
+    t_.ende.pruefen();
+    t_.uhr.rennuhr_anzeigen();
+}
+
+void rennablauf::renntimer2_tick() {
+    for (messquelle* quelle : quellen_) {
+        quelle->abfragen();
+    }
+    if (!um_.einst.rc_ziel_sensor34) {
+        return;
+    }
+    for (const int spur : {1, 2}) {
+        const ereignis_zeile& zweiter = um_.ereignisse[art::rundenzaehlung[spur + 2]];
+        if (zweiter.aktiv) {
+            ereignis_zeile& erster = um_.ereignisse[art::rundenzaehlung[spur]];
+            erster.aktiv = true;
+            erster.ereignis_zeit = zweiter.ereignis_zeit;
+        }
+    }
+}
+
+void rennablauf::renntimer3_tick() {
+    for (messquelle* quelle : quellen_) {
+        quelle->abtasten();
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,121 @@
+#include "race/rennansicht.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr double zaehler_schrift_spalte = 2600;  // design units
+constexpr const char* leere_zeit = "00:00:000";
+
+void uhr_texte(rennuhr_felder& uhr, const trennzeichen_tabelle& trennzeichen) {
+    uhr.nach_stunden.text(trennzeichen[0]);
+    uhr.nach_minuten.text(trennzeichen[0]);
+    uhr.nach_sekunden.text(trennzeichen[1]);
+}
+
+}  // namespace
+
+double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl) {
+    return std::min(breite_px / std::max(spuren_anzahl, 1) / entwurf::spalte, hoehe_px / entwurf::hoehe);
+}
+
+void rennansicht::texte_setzen() {
+    bahn1& bahn = um_.bahn;
+    const bool zeitrennen = um_.ist_zeitrennen();
+    bahn.uhr1.uhrframe.text(zeitrennen ? "Restzeit" : "Rennzeit");
+    bahn.uhr2.uhrframe.text("Rennzeit");
+    uhr_texte(bahn.uhr1, um_.einst.trennzeichen);
+    uhr_texte(bahn.uhr2, um_.einst.trennzeichen);
+    bahn.nachlauflabel.text("Nachlaufzeit");
+    bahn.Command1.text("Rennstart");
+    bahn.Command2.text("Rennabbruch");
+    bahn.Command4.text("Rennende");
+    std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
+    if (zeitrennen) {
+        const zeit_teile dauer = zeit_zerlegen(um_.param.renndauer_ms);
+        ziel = dauer.stunden > 0 ? std::to_string(dauer.stunden) + " h " : "";
+        ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " min";
+    }
+    bahn.ziel_label.text(ziel);
+}
+
+void rennansicht::spaltenansicht_oeffnen() {
+    bahn1& bahn = um_.bahn;
+    texte_setzen();
+    bahn.zaehler_schrift = zaehler_schrift_spalte;
+    for (const int spur : alle_spuren) {
+        const std::size_t index = feld_index(spur);
+        const bool dabei = um_.param.spur_aktiv[spur];
+        bahn.namenslabel[spur].text(um_.param.fahrer_name[spur]);
+        for (steuerelement* element :
+             {static_cast<steuerelement*>(&bahn.namenslabel[spur]), static_cast<steuerelement*>(&bahn.zaehler[spur]),
+              static_cast<steuerelement*>(&bahn.lrunde[spur]), static_cast<steuerelement*>(&bahn.brunde[spur]),
+              static_cast<steuerelement*>(&bahn.bahnshape[spur]), static_cast<steuerelement*>(&bahn.t_liste[index])}) {
+            element->sichtbar(dabei);
+        }
+        bahn.t_liste[index].vormerken(runden_max + 1);
+    }
+    bahn.Nachtabschaltung.sichtbar(false);
+}
+
+void rennansicht::farben_setzen() {
+    bahn1& bahn = um_.bahn;
+    for (const int spur : alle_spuren) {
+        const farbe spurfarbe = um_.einst.farben_spur[spur];
+        bahn.namenslabel[spur].schriftfarbe(spurfarbe);
+        bahn.lrunde[spur].schriftfarbe(spurfarbe);
+        bahn.brunde[spur].schriftfarbe(spurfarbe);
+        bahn.l_PosAnz.at(feld_index(spur)).schriftfarbe(spurfarbe);
+        bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
+        bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
+        bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);
+        bahn.bahnshape[spur].hintergrund(um_.einst.farben_ampel[1]);
+    }
+    for (rennuhr_felder* uhr : {&bahn.uhr1, &bahn.uhr2}) {
+        uhr->uhrframe.schriftfarbe(um_.einst.farben_schrift[2]);
+        for (bezeichnung* teil : {&uhr->stunden, &uhr->minuten, &uhr->sekunden, &uhr->tausendstel, &uhr->nach_stunden,
+                                  &uhr->nach_minuten, &uhr->nach_sekunden}) {
+            teil->schriftfarbe(um_.einst.farben_schrift[1]);
+        }
+    }
+    bahn.nachlauflabel.schriftfarbe(um_.einst.farben_schrift[1]);
+    bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
+}
+
+void rennansicht::kleine_ampel(int spur, bool rot, bool gruen) {
+    const bool dabei = um_.param.spur_aktiv[spur];
+    um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(dabei && rot);
+    um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
+    um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(dabei && gruen);
+}
+
+void rennansicht::anzeigen_leeren() {
+    bahn1& bahn = um_.bahn;
+    for (const int spur : alle_spuren) {
+        bahn.zaehler[spur].text("0");
+        bahn.zaehler[spur].schriftgroesse(bahn.zaehler_schrift);
+        bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
+        bahn.lrunde[spur].text(leere_zeit);
+        bahn.brunde[spur].text(leere_zeit);
+        bahn.straflabel[spur].sichtbar(false);
+        bahn.t_liste.at(feld_index(spur)).leeren();
+        bahn.bahnshape[spur].randfarbe(std::nullopt);
+        kleine_ampel(spur, true, false);
+    }
+}
+
+void rennansicht::freigeben() {
+    for (const int spur : alle_spuren) {
+        kleine_ampel(spur, false, true);
+    }
+}
+
+void rennansicht::bildschirm_dunkel() {
+    um_.bahn.Nachtabschaltung.sichtbar(!um_.bahn.Nachtabschaltung.sichtbar());
+}
+
+}  // namespace tarvel

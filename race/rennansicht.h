@@ -1,0 +1,40 @@
+#pragma once
+
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// The design size of the race window. Font sizes of its controls are in these units.
+namespace entwurf {
+inline constexpr double breite = 19200;
+inline constexpr double hoehe = 15360;
+inline constexpr double spalte = 3200;  ///< width of one column
+}  // namespace entwurf
+
+/// Pixels per design unit in a column view of this size: the scale of the column's width or of the window's height,
+/// whichever is smaller.
+double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl);
+
+/// Builds the race window for the lanes of the race, and puts its displays in the state before the start.
+class rennansicht {
+public:
+    explicit rennansicht(const renn_umgebung& um) : um_(um) {}
+
+    /// Captions, and one column for each lane in the race; the controls of the other lanes are hidden.
+    void spaltenansicht_oeffnen();
+    void farben_setzen();
+    /// Counters, times and lists as before the first crossing.
+    void anzeigen_leeren();
+    /// All cars may drive: their small lights show green.
+    void freigeben();
+    /// Toggles the dark cover.
+    void bildschirm_dunkel();
+
+private:
+    void texte_setzen();
+    void kleine_ampel(int spur, bool rot, bool gruen);
+
+    renn_umgebung um_;
+};
+
+}  // namespace tarvel

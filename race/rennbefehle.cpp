@@ -1,0 +1,40 @@
+#include "race/rennbefehle.h"
+
+namespace tarvel {
+
+rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
+    : um_(um), t_(t), tastatur_(um.ereignisse, belegung, *this) {
+    um_.bahn.Command1.bei_klick = [this] { t_.ablauf.rennstart_vorbereiten(); };
+    um_.bahn.Command2.bei_klick = [this] { rennen_abbrechen(); };
+    um_.bahn.Command4.bei_klick = [this] { rennen_beenden(); };
+}
+
+void rennbefehle::taste(int code) {
+    tastatur_.taste_auswerten(code);
+    t_.zaehlung.zaehler_nachfuehren();
+    // Tank contacts are looked at here too.
+}
+
+void rennbefehle::rennen_abbrechen() {
+    um_.fenster.entladen("Form2");
+    um_.param.training_laeuft = false;
+    um_.sounds.spielen(sound::rennen_abgebrochen);
+    um_.zeitgeber.alle_aus();
+    t_.ende.ausgaben_endzustand();
+    um_.zustand.chaos_aktiv = false;
+    um_.zustand.rennabbruch = true;
+    um_.fenster.entladen("bahn1");
+    um_.fenster.zeigen("Form1");
+}
+
+void rennbefehle::rennen_beenden() {
+    if (um_.zustand.rennen_beendet) {
+        return;
+    }
+    um_.fenster.entladen("Form2");
+    um_.zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    um_.zustand.rennabbruch = true;
+    t_.ende.rennende_ablauf();
+}
+
+}  // namespace tarvel

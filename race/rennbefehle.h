@@ -1,0 +1,38 @@
+#pragma once
+
+#include "hardware/tastatur.h"
+#include "race/rennablauf.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// The commands and keys of the race window.
+class rennbefehle : private tasten_rennen {
+public:
+    struct teile {
+        rennablauf& ablauf;
+        rennende& ende;
+        rundenzaehlung& zaehlung;
+        rennansicht& ansicht;
+    };
+
+    rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung);
+
+    /// A key press in the race window; `code` is the Windows-1252 value of the typed character.
+    void taste(int code);
+    /// Stops the race without a result. Also what closing the window means, in every state of the race.
+    void rennen_abbrechen();
+    /// Ends the race by hand: it gets its result from what it has.
+    void rennen_beenden();
+
+private:
+    bool beendet() const override { return um_.zustand.rennen_beendet; }
+    void bildschirm_dunkel() override { t_.ansicht.bildschirm_dunkel(); }
+    bool runde_abziehen(int spur) override { return t_.zaehlung.runde_abziehen(spur); }
+
+    renn_umgebung um_;
+    teile t_;
+    tastatur tastatur_;
+};
+
+}  // namespace tarvel

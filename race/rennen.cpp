@@ -1,0 +1,19 @@
+#include "race/rennen.h"
+
+namespace tarvel {
+
+rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
+    : zeit(dienste.uhr),
+      zeitgeber(dienste.zeitgeber),
+      sounds(um.einst, dienste.klang),
+      umgebung{zustand, um.param,    um.einst,  um.txt, um.haupt,   bahn1,           um.ereignisse,
+               zeit,    um.ausgaben, zeitgeber, sounds, um.fenster, dienste.kalender},
+      plaetze(umgebung),
+      uhr(umgebung),
+      ende(umgebung, uhr),
+      zaehlung(umgebung, plaetze, ende),
+      ansicht(umgebung),
+      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht}),
+      befehle(umgebung, {ablauf, ende, zaehlung, ansicht}, um.belegung) {}
+
+}  // namespace tarvel

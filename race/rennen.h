@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/dienste.h"
+#include "race/rennbefehle.h"
+
+namespace tarvel {
+
+/// The race with all its parts. What it works on beside them is owned by the program.
+struct rennen {
+    struct umfeld {
+        renn_parameter& param;
+        const einstellungen& einst;
+        const texte& txt;
+        form1& haupt;
+        ereignis_tabelle& ereignisse;
+        const tastenbelegung& belegung;
+        tarvel::ausgaben& ausgaben;
+        fensterregister& fenster;
+    };
+
+    rennen(const plattform::dienste& dienste, const umfeld& um);
+    rennen(const rennen&) = delete;
+    rennen& operator=(const rennen&) = delete;
+
+    renn_zustand zustand;
+    tarvel::bahn1 bahn1;
+    zeitbasis zeit;
+    rennzeitgeber zeitgeber;
+    rennsounds sounds;
+    renn_umgebung umgebung;
+    positionen plaetze;
+    rennuhr uhr;
+    rennende ende;
+    rundenzaehlung zaehlung;
+    rennansicht ansicht;
+    rennablauf ablauf;
+    rennbefehle befehle;
+};
+
+}  // namespace tarvel

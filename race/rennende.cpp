@@ -1,0 +1,150 @@
+#include "race/rennende.h"
+
+#include <algorithm>
+
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int nachlauf_minuten_max = 2;
+
+template <class Praedikat>
+bool eine_spur(Praedikat praedikat) {
+    return std::any_of(alle_spuren.begin(), alle_spuren.end(), praedikat);
+}
+
+}  // namespace
+
+void rennende::zuruecksetzen() {
+    um_.zustand.ende_eingeleitet = false;
+    um_.zustand.endesound_gespielt = false;
+    um_.zustand.rennabbruch = false;
+    um_.zustand.nachlauf_minuten = 0;
+    um_.zeitgeber.nachlauftimer1->aus();
+    um_.bahn.nachlauflabel.sichtbar(false);
+    um_.bahn.uhr1.uhrframe.sichtbar(true);
+}
+
+bool rennende::am_ziel(int spur) const {
+    return um_.zustand.spur[spur].runden == um_.param.renn_ziel && um_.haupt.spur.at(feld_index(spur)).gesetzt();
+}
+
+void rennende::pruefen() {
+    renn_zustand& zustand = um_.zustand;
+    if (um_.ist_rundenrennen()) {
+        for (const int spur : alle_spuren) {
+            if (am_ziel(spur) && !zustand.spur[spur].ziel_erreicht) {
+                spur_ziel_setzen(spur);
+            }
+        }
+    }
+    zustand.ziele_anzahl = static_cast<int>(
+        std::count_if(zustand.spur.begin(), zustand.spur.end(), [](const spur_zustand& s) { return s.ziel_erreicht; }));
+    const int unbenutzt = spuren_max - um_.param.spuren_anzahl;
+    if (!zustand.endesound_gespielt && zustand.ziele_anzahl == unbenutzt + 1) {
+        um_.sounds.spielen(sound::erster_im_ziel);
+        zustand.endesound_gespielt = true;
+    }
+    if (um_.zeitgeber.nachlauftimer1->laeuft()) {
+        if (zustand.ziele_anzahl == spuren_max) {
+            um_.zeitgeber.rennen_aus();
+            rennende_ablauf();
+        }
+    } else if (ist_zu_ende()) {
+        rennende_einleiten();
+    }
+}
+
+bool rennende::ist_zu_ende() const {
+    const renn_zustand& zustand = um_.zustand;
+    if (zustand.ziele_anzahl == spuren_max ||
+        eine_spur([&](int spur) { return zustand.spur[spur].runden == runden_max; })) {
+        return true;
+    }
+    if (um_.ist_zeitrennen()) {
+        return um_.ereignisse.messzeit >= zustand.renn_ende_zeit + zustand.pause_abzug;
+    }
+    return um_.einst.zielmodus_erster &&
+           eine_spur([&](int spur) { return am_ziel(spur) && !zustand.spur[spur].disqualifiziert; });
+}
+
+void rennende::rennende_einleiten() {
+    renn_zustand& zustand = um_.zustand;
+    if (zustand.ende_eingeleitet) {
+        return;
+    }
+    zustand.ende_eingeleitet = true;
+    zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
+    if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
+        nachlauf_runden_starten();
+        return;
+    }
+    uhr_.auf_null_stellen();
+    if (um_.ist_zeitrennen() && !um_.einst.zielmodus_erster) {
+        nachlauf_zeit_starten();
+    } else {
+        rennende_ablauf();
+    }
+}
+
+void rennende::nachlauf_zeit_starten() {
+    um_.bahn.nachlauflabel.sichtbar(true);
+    um_.bahn.uhr1.uhrframe.sichtbar(false);
+    um_.zeitgeber.nachlauftimer1->an();
+}
+
+void rennende::nachlauf_runden_starten() {
+    for (const int spur : alle_spuren) {
+        if (um_.zustand.spur[spur].runden == um_.param.renn_ziel) {
+            spur_ziel_setzen(spur);
+        }
+    }
+    um_.zeitgeber.nachlauftimer1->an();
+}
+
+void rennende::nachlauf_tick() {
+    if (++um_.zustand.nachlauf_minuten >= nachlauf_minuten_max) {
+        um_.bahn.nachlauflabel.sichtbar(false);
+        um_.bahn.uhr1.uhrframe.sichtbar(true);
+        rennende_ablauf();
+    }
+}
+
+void rennende::spur_ziel_setzen(int spur) {
+    um_.zustand.spur[spur].ziel_erreicht = true;
+    um_.ausgaben.relais_on(spur);
+    um_.bahn.bahnshape[spur].randfarbe(farben::rot);
+    um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(false);
+    um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
+    if (!um_.einst.darstellung_zeile) {
+        um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(true);
+    }
+    um_.ausgaben.zieleinfahrt_melden(spur);
+}
+
+void rennende::ausgaben_endzustand() {
+    um_.ausgaben.ampelnRoff(0);
+    um_.ausgaben.ampelnGRoff();
+    um_.ausgaben.relais_off(0);
+}
+
+void rennende::rennende_ablauf() {
+    renn_zustand& zustand = um_.zustand;
+    if (zustand.rennen_beendet) {
+        return;
+    }
+    zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
+    um_.zeitgeber.nachlauftimer1->aus();
+    if (um_.ist_zeitrennen()) {
+        uhr_.tausendstel_auf_null();
+    }
+    um_.sounds.spielen(sound::rennen_beendet);
+    zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
+    ausgaben_endzustand();
+    um_.fenster.zeigen("auswertung", anzeige_art::modal);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "race/rennuhr.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// Decides when a race is over and hands it to the result window.
+class rennende {
+public:
+    rennende(const renn_umgebung& um, rennuhr& uhr) : um_(um), uhr_(uhr) {}
+
+    /// Fresh flags for a new race.
+    void zuruecksetzen();
+    /// The end tests of one race tick.
+    void pruefen();
+    /// Ends the race proper, perhaps with a run-on first. Safe to call many times in one tick.
+    void rennende_einleiten();
+    /// Stops the race and opens the result. Does nothing if the race is over.
+    void rennende_ablauf();
+    /// One lane is home.
+    void spur_ziel_setzen(int spur);
+    /// Lamps off and power on, as after every race.
+    void ausgaben_endzustand();
+    /// One minute of the run-on is over.
+    void nachlauf_tick();
+
+private:
+    bool am_ziel(int spur) const;
+    bool ist_zu_ende() const;
+    void nachlauf_zeit_starten();
+    void nachlauf_runden_starten();
+
+    renn_umgebung um_;
+    rennuhr& uhr_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/einstellungen.h"
+#include "platform/klang.h"
+
+namespace tarvel {
+
+namespace sound {
+inline constexpr int rennstart_vorbereitet = 1;
+inline constexpr int rennen_gestartet = 2;
+inline constexpr int rennen_beendet = 3;
+inline constexpr int rennen_abgebrochen = 4;
+inline constexpr int beste_runde = 6;  // + lane
+inline constexpr int runde = 37;
+inline constexpr int erster_im_ziel = 47;
+}  // namespace sound
+
+/// Plays the sounds of race events by their number 1 to 64, if sounds are on.
+class rennsounds {
+public:
+    rennsounds(const einstellungen& einst, plattform::klang& klang) : einst_(einst), klang_(klang) {}
+
+    /// An event without a file plays nothing.
+    void spielen(int nummer) const;
+
+private:
+    const einstellungen& einst_;
+    plattform::klang& klang_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <vector>
+
+#include "core/spuren.h"
+#include "platform/uhr.h"
+
+namespace tarvel {
+
+/// Most laps of a lane.
+inline constexpr int runden_max = 9999;
+
+/// The lap store: for each lane and row the lap time and the stamp of the crossing that closed it. Lap n lies in row n;
+/// the first crossing, which only starts the count, fills row 0. Rows outside 0 to 10000 hold nothing: reading one
+/// gives 0, writing one does nothing.
+class rundenspeicher {
+public:
+    rundenspeicher() : zeilen_(zeilen_anzahl) {}
+
+    zeit_ms rundenzeit(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).rundenzeit[spur] : 0; }
+    zeit_ms stempel(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).stempel[spur] : 0; }
+    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel);
+    void leeren(int spur, int zeile) { setzen(spur, zeile, 0, 0); }
+    void zeile_kopieren(int spur, int von, int nach);
+
+    /// Best lap in ms, 0 until there is one.
+    zeit_ms beste(int spur) const { return beste_[spur]; }
+    void beste(int spur, zeit_ms zeit) { beste_[spur] = zeit; }
+
+private:
+    static constexpr int zeilen_anzahl = runden_max + 2;
+
+    struct eintrag {
+        spuren<zeit_ms> rundenzeit;
+        spuren<zeit_ms> stempel;
+    };
+
+    static bool gibt_es(int zeile) { return zeile >= 0 && zeile < zeilen_anzahl; }
+    const eintrag& an(int zeile) const { return zeilen_[static_cast<std::size_t>(zeile)]; }
+
+    std::vector<eintrag> zeilen_;
+    spuren<zeit_ms> beste_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/einstellungen.h"
+#include "core/fensterregister.h"
+#include "core/form1.h"
+#include "core/renn_parameter.h"
+#include "core/texte.h"
+#include "hardware/ausgaben.h"
+#include "hardware/ereignisse.h"
+#include "hardware/zeitbasis.h"
+#include "platform/kalender.h"
+#include "race/bahn1.h"
+#include "race/renn_zustand.h"
+#include "race/rennsounds.h"
+#include "race/zeitgeber.h"
+
+namespace tarvel {
+
+/// What the parts of the race work on together.
+struct renn_umgebung {
+    renn_zustand& zustand;
+    renn_parameter& param;
+    const einstellungen& einst;
+    const texte& txt;
+    form1& haupt;
+    bahn1& bahn;
+    ereignis_tabelle& ereignisse;
+    zeitbasis& zeit;
+    tarvel::ausgaben& ausgaben;
+    const rennzeitgeber& zeitgeber;
+    const rennsounds& sounds;
+    fensterregister& fenster;
+    const plattform::kalender& kalender;
+
+    bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
+    bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }
+};
+
+}  // namespace tarvel

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "core/spuren.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// The timers of the race window.
+struct rennzeitgeber {
+    explicit rennzeitgeber(plattform::zeitgeber_dienst& dienst);
+
+    std::unique_ptr<plattform::zeitgeber> renntimer;   ///< the race tick
+    std::unique_ptr<plattform::zeitgeber> renntimer2;  ///< polls the devices
+    std::unique_ptr<plattform::zeitgeber> renntimer3;  ///< samples the devices
+    std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
+    /// One per lane, index lane - 1: blocks the next crossing after a counted lap.
+    std::array<std::unique_ptr<plattform::zeitgeber>, spuren_max> tankwartetimer;
+
+    void rennen_an() const;
+    void rennen_aus() const;
+    void alle_aus() const;
+};
+
+}  // namespace tarvel
