@@ -1,0 +1,72 @@
+#include "results/platzierung.h"
+
+#include <array>
+#include <compare>
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+using vergleich = std::partial_ordering;
+
+vergleich mehr_meter(const platz_werte& x, const platz_werte& y) {
+    return y.meter <=> x.meter;
+}
+
+vergleich mehr_runden(const platz_werte& x, const platz_werte& y) {
+    return y.runden <=> x.runden;
+}
+
+vergleich weniger_zeit(const platz_werte& x, const platz_werte& y) {
+    return x.gesamtzeit <=> y.gesamtzeit;
+}
+
+vergleich schnellere_runde(const platz_werte& x, const platz_werte& y) {
+    return x.beste_runde <=> y.beste_runde;
+}
+
+using schluessel = vergleich (*)(const platz_werte&, const platz_werte&);
+using schluessel_folge = std::array<schluessel, 3>;
+
+schluessel_folge schluessel_von(sortier_modus modus) {
+    switch (modus) {
+        case sortier_modus::meter:
+            return {mehr_meter, weniger_zeit, schnellere_runde};
+        case sortier_modus::beste:
+            return {schnellere_runde, mehr_runden, weniger_zeit};
+        case sortier_modus::runden:
+            break;
+    }
+    return {mehr_runden, weniger_zeit, schnellere_runde};
+}
+
+}  // namespace
+
+sortier_modus sortier_modus_von(int wert) {
+    return wert >= 1 && wert <= 3 ? static_cast<sortier_modus>(wert) : sortier_modus::runden;
+}
+
+spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus modus) {
+    const schluessel_folge folge = schluessel_von(modus);
+    spuren<int> rang{alle_spuren};
+    for (int a = 1; a <= spuren_max; ++a) {
+        for (int b = a; b <= spuren_max; ++b) {
+            const platz_werte& x = werte[rang[a]];
+            const platz_werte& y = werte[rang[b]];
+            std::size_t stufe = 0;
+            while (stufe + 1 < folge.size() && folge.at(stufe)(x, y) == 0) {
+                ++stufe;
+            }
+            if (folge.at(stufe)(x, y) > 0) {
+                std::swap(rang[a], rang[b]);
+            }
+            const bool dritter_schluessel = stufe + 1 == folge.size();
+            if (dritter_schluessel && !werte[a].aktiv) {
+                std::swap(rang[a], rang[b]);
+            }
+        }
+    }
+    return rang;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/spuren.h"
+#include "platform/uhr.h"
+
+namespace tarvel {
+
+/// What a lane brings to the standing.
+struct platz_werte {
+    bool aktiv = false;
+    int runden = 0;
+    double meter = 0;
+    zeit_ms gesamtzeit = 0;   ///< laps plus penalties
+    zeit_ms beste_runde = 0;  ///< 0 for none
+};
+
+enum class sortier_modus { meter = 1, runden = 2, beste = 3 };
+
+/// Any value outside 1 to 3 means laps.
+sortier_modus sortier_modus_von(int wert);
+
+/// Lanes in the order of the standing, index 1 the winner. Inactive lanes come last.
+///
+/// The order of ties is fixed by the exchange sort itself: after the keys of a pair it looks whether the lane whose
+/// number is the place just sorted is inactive, and then exchanges the pair once more.
+spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus modus);
+
+}  // namespace tarvel

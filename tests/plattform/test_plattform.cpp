@@ -1,0 +1,117 @@
+#include "tests/plattform/test_plattform.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+namespace fs = std::filesystem;
+
+namespace tarvel::test {
+
+class virtueller_zeitgeber final : public plattform::zeitgeber {
+public:
+    virtueller_zeitgeber(test_plattform& maschine, int intervall_ms) : maschine_(maschine), intervall_(intervall_ms) {}
+    virtueller_zeitgeber(const virtueller_zeitgeber&) = delete;
+    virtueller_zeitgeber& operator=(const virtueller_zeitgeber&) = delete;
+    ~virtueller_zeitgeber() override { aus(); }
+
+    void intervall(int ms) override {
+        intervall_ = ms;
+        if (laeuft()) {
+            aus();
+            an();
+        }
+    }
+    void an() override {
+        if (laeuft_) {
+            return;
+        }
+        laeuft_ = true;
+        if (intervall_ > 0) {
+            faellig = maschine_.jetzt_ + intervall_;
+            maschine_.laufende_.push_back(this);
+        }
+    }
+    void aus() override {
+        laeuft_ = false;
+        std::erase(maschine_.laufende_, this);
+    }
+    bool laeuft() const override { return laeuft_; }
+
+    void feuern() {
+        faellig += intervall_;
+        if (bei_tick) {
+            bei_tick();
+        }
+    }
+
+    zeit_ms faellig = 0;
+
+private:
+    test_plattform& maschine_;
+    int intervall_;
+    bool laeuft_ = false;
+};
+
+test_plattform::test_plattform() {
+    static std::atomic<int> nummer{0};
+    const auto start = std::chrono::steady_clock::now().time_since_epoch().count();
+    ordner_ = fs::temp_directory_path() / ("tarvel-test-" + std::to_string(start) + "-" + std::to_string(++nummer));
+    fs::create_directories(ordner_);
+}
+
+test_plattform::~test_plattform() {
+    std::error_code egal;
+    fs::remove_all(ordner_, egal);
+}
+
+plattform::dienste test_plattform::dienste() {
+    return {*this, *this, *this, *this, kalender_, *this, *this, ordner_};
+}
+
+void test_plattform::laufen(zeit_ms dauer) {
+    const zeit_ms ende = jetzt_ + dauer;
+    while (true) {
+        virtueller_zeitgeber* naechster = nullptr;
+        for (virtueller_zeitgeber* zeitgeber : laufende_) {
+            if (zeitgeber->faellig <= ende && (naechster == nullptr || zeitgeber->faellig < naechster->faellig)) {
+                naechster = zeitgeber;
+            }
+        }
+        if (naechster == nullptr) {
+            break;
+        }
+        jetzt_ = naechster->faellig;
+        naechster->feuern();
+    }
+    jetzt_ = ende;
+}
+
+std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art /*art*/, int intervall_ms) {
+    return std::make_unique<virtueller_zeitgeber>(*this, intervall_ms);
+}
+
+void test_plattform::zeigen(std::string_view text, std::string_view titel) {
+    meldungen_gezeigt.push_back({std::string(text), std::string(titel)});
+    if (waehrend_meldung) {
+        waehrend_meldung();
+    }
+}
+
+std::string test_plattform::datei_lesen(const std::string& name) const {
+    std::ifstream datei(ordner_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(datei), {}};
+}
+
+void test_plattform::datei_schreiben(const std::string& name, const std::string& bytes) const {
+    fs::create_directories((ordner_ / name).parent_path());
+    std::ofstream(ordner_ / name, std::ios::binary) << bytes;
+}
+
+bool test_plattform::datei_da(const std::string& name) const {
+    return fs::exists(ordner_ / name);
+}
+
+}  // namespace tarvel::test

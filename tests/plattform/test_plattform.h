@@ -1,0 +1,74 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/dienste.h"
+
+namespace tarvel::test {
+
+class virtueller_zeitgeber;
+
+/// A machine without screen, hardware and real time: a clock that only `laufen` moves, message boxes and sounds on
+/// record, and a program folder of its own that goes with it.
+class test_plattform final : private plattform::uhr,
+                             private plattform::zeitgeber_dienst,
+                             private plattform::meldungen,
+                             private plattform::klang,
+                             private plattform::bildschirm,
+                             private plattform::prozess {
+public:
+    struct meldung {
+        std::string text;
+        std::string titel;
+        bool operator==(const meldung&) const = default;
+    };
+
+    test_plattform();
+    test_plattform(const test_plattform&) = delete;
+    test_plattform& operator=(const test_plattform&) = delete;
+    ~test_plattform() override;
+
+    plattform::dienste dienste();
+
+    /// Lets this much time pass; timers fire in the order in which they are due.
+    void laufen(zeit_ms dauer);
+    zeit_ms jetzt() const override { return jetzt_; }
+
+    std::filesystem::path ordner() const { return ordner_; }
+    /// Raw bytes of a file of the program folder; empty if there is none.
+    std::string datei_lesen(const std::string& name) const;
+    void datei_schreiben(const std::string& name, const std::string& bytes) const;
+    bool datei_da(const std::string& name) const;
+
+    std::vector<meldung> meldungen_gezeigt;
+    std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
+    std::vector<std::string> sounds;
+    plattform::groesse_px bildschirm_groesse{1920, 1080};
+    bool erste_instanz = true;
+    int beendet = 0;  ///< how often the process was asked to end
+
+private:
+    friend class virtueller_zeitgeber;
+
+    std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, int intervall_ms) override;
+    void zeigen(std::string_view text, std::string_view titel) override;
+    void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
+    bool ist_einzige_instanz() override { return erste_instanz; }
+    void beenden() override { ++beendet; }
+    plattform::groesse_px groesse() const override { return bildschirm_groesse; }
+
+    struct feste_uhrzeit final : plattform::kalender {
+        plattform::datum_uhrzeit jetzt() const override { return {2026, 11, 21, 14, 3, 22}; }
+    };
+
+    feste_uhrzeit kalender_;
+    zeit_ms jetzt_ = 1000000;
+    std::vector<virtueller_zeitgeber*> laufende_;
+    std::filesystem::path ordner_;
+};
+
+}  // namespace tarvel::test

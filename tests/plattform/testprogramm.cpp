@@ -1,0 +1,43 @@
+#include "tests/plattform/testprogramm.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace tarvel::test {
+
+testprogramm::testprogramm() : p(maschine.dienste()) {
+    p.starten();
+}
+
+void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+    p.form1.rennart.eingeben(rennart);
+    p.form1.renndauer.eingeben(dauer);
+    for (const int nummer : alle_spuren) {
+        haken& spur = p.form1.spur.at(feld_index(nummer));
+        if (spur.gesetzt() != (std::find(lanes.begin(), lanes.end(), nummer) != lanes.end())) {
+            spur.umschalten();
+        }
+    }
+    p.form1.Command1.klicken();
+}
+
+void testprogramm::starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+    einrichten(rennart, dauer, lanes);
+    bahn().Command1.klicken();
+}
+
+void testprogramm::taste(std::string_view zeichen) {
+    p.rennen.befehle.taste(ansi_code(zeichen).value_or(0));
+    maschine.laufen(1);
+}
+
+void testprogramm::runde_nach(zeit_ms dauer, std::string_view tasten) {
+    maschine.laufen(dauer - 1);
+    for (const char zeichen : tasten) {
+        p.rennen.befehle.taste(zeichen);
+    }
+    maschine.laufen(1);
+}
+
+}  // namespace tarvel::test

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <initializer_list>
+#include <string_view>
+
+#include "programm/programm.h"
+#include "tests/plattform/test_plattform.h"
+
+namespace tarvel::test {
+
+/// A started program on the test machine, driven as its user drives it.
+struct testprogramm {
+    testprogramm();
+
+    /// Sets up a race on the main window and opens the race window. `dauer` as typed, race kind by the entry's text.
+    void einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
+    /// As above, and presses start.
+    void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
+    /// A key press in the race window, and the tick that takes it.
+    void taste(std::string_view zeichen);
+    /// Time passes, then the cars of these lanes cross the line one after the other in one tick.
+    void runde_nach(zeit_ms dauer, std::string_view tasten);
+
+    bahn1& bahn() { return p.rennen.bahn1; }
+    spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
+
+    test_plattform maschine;
+    programm p;
+};
+
+}  // namespace tarvel::test

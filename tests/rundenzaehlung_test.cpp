@@ -1,0 +1,227 @@
+#include "race/rundenzaehlung.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+class Rundenzaehlung : public testing::Test {
+protected:
+    void SetUp() override { t.starten("Zeit", "10", {1, 2}); }
+
+    zeit_ms rundenzeit(int spur, int runde) const { return t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
+    const std::vector<std::string>& liste(int spur) { return t.bahn().t_liste.at(feld_index(spur)).zeilen(); }
+
+    test::testprogramm t;
+};
+
+TEST_F(Rundenzaehlung, ErsteUeberfahrtStartetNurDieZaehlung) {
+    t.runde_nach(1000, "1");  // far below the minimum lap
+    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.bahn().zaehler[1].text(), "0");
+    EXPECT_EQ(t.bahn().lrunde[1].text(), "00:00:000");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 0);
+    EXPECT_EQ(liste(1), (std::vector<std::string>{" 0. 00,998"}));
+    EXPECT_EQ(t.bahn().zaehler[1].schriftfarbe(), t.p.einst.farben_spur[1]);
+    EXPECT_EQ(t.bahn().zaehler[2].schriftfarbe(), t.p.einst.farben_schrift[2]);
+}
+
+TEST_F(Rundenzaehlung, ZaehltRundenZeitenUndBesteRundeJeSpur) {
+    t.runde_nach(1000, "12");
+    t.runde_nach(8123, "1");
+    t.runde_nach(500, "2");
+    t.runde_nach(7000, "1");
+    t.runde_nach(3000, "1");  // below the minimum: vanishes, and the next lap is timed from the older stamp
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, 3);
+    EXPECT_EQ(rundenzeit(1, 1), 8123);
+    EXPECT_EQ(rundenzeit(1, 2), 7500);
+    EXPECT_EQ(rundenzeit(1, 3), 9000);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 7500);
+    EXPECT_EQ(t.bahn().lrunde[1].text(), "09,000");
+    EXPECT_EQ(t.bahn().brunde[1].text(), "07,500");
+    EXPECT_EQ(liste(1).back(), " 3. 09,000");
+    EXPECT_EQ(t.bahn().t_liste[0].markiert(), 3);
+    EXPECT_EQ(rundenzeit(2, 1), 8623);
+    EXPECT_EQ(t.spur(2).runden, 1);
+    EXPECT_EQ(t.p.rennen.zustand.fuehrungsrunden, 3);
+}
+
+TEST_F(Rundenzaehlung, SperrtHundertMillisekundenNachJederRunde) {
+    t.p.param.min_rundenzeit_ms = 10;
+    t.runde_nach(1000, "1");
+    t.runde_nach(50, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.runde_nach(60, "1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(rundenzeit(1, 1), 110);
+}
+
+TEST_F(Rundenzaehlung, ZweiFlankenImSelbenTickSindEineMitDemSpaeterenStempel) {
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(8000);
+    ereignis_zeile& ereignis = t.p.ereignisse[16];
+    ereignis.aktiv = true;
+    ereignis.ereignis_zeit = t.p.ereignisse.messzeit - 40;
+    t.p.ereignisse.ereignis_melden(16);
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(rundenzeit(1, 1), 8001);
+}
+
+TEST_F(Rundenzaehlung, GehaltenerKontaktZaehltNurEinmal) {
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(8000);
+    t.p.ereignisse[16].pegel = true;  // away from rest: the car stands in the sensor
+    t.p.ereignisse.ereignis_melden(16);
+    t.maschine.laufen(1);
+    for (int tick = 0; tick < 300; ++tick) {
+        t.p.ereignisse.ereignis_melden(16);
+        t.maschine.laufen(1);
+    }
+    EXPECT_EQ(t.spur(1).runden, 1);
+    t.p.ereignisse[16].pegel = false;
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, 2);
+}
+
+TEST_F(Rundenzaehlung, PauseHebtDasMinimumFuerGenauEineRunde) {
+    t.runde_nach(1000, "1");
+    t.spur(1).pause_abzug = 2000;
+    t.runde_nach(6000, "1");  // 6000 < 5100 + 2000
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.runde_nach(2000, "1");
+    EXPECT_EQ(rundenzeit(1, 1), 6000);
+    EXPECT_EQ(t.spur(1).pause_abzug, 0);
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(rundenzeit(1, 2), 6000);
+}
+
+TEST_F(Rundenzaehlung, ZeitstrafeVerlaengertJedeRundeUmTausendstel) {
+    t.runde_nach(1000, "1");
+    t.spur(1).strafzeit = 5;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(rundenzeit(1, 1), 8005);
+}
+
+TEST_F(Rundenzaehlung, GesperrteUndAusgeschiedeneSpurenZaehlenNicht) {
+    t.runde_nach(1000, "12");
+    t.spur(1).tank_strafe_aktiv = true;
+    t.spur(2).disqualifiziert = true;
+    t.bahn().zaehler[2].text("Dis.");
+    t.runde_nach(8000, "12345");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.spur(2).runden, 0);
+    EXPECT_EQ(t.bahn().zaehler[2].text(), "Dis.");
+    EXPECT_EQ(t.spur(3).runden, -1) << "not in the race";
+    t.spur(1).tank_strafe_aktiv = false;
+    t.spur(1).tank_halt = true;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.p.einst.tank_art = 2;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+}
+
+TEST_F(Rundenzaehlung, StartzeitJeSpurAmSensor) {
+    t.p.einst.start_zeit_sensor = true;
+    t.runde_nach(3000, "1");
+    EXPECT_EQ(liste(1).front(), " 0. 00,000");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(rundenzeit(1, 1), 8000);
+}
+
+TEST_F(Rundenzaehlung, SchriftDesZaehlersSchrumpft) {
+    t.runde_nach(1000, "1");
+    const double voll = t.bahn().zaehler_schrift;
+    const auto bis = [&](int runden) {
+        t.spur(1).runden = runden - 1;
+        t.runde_nach(8000, "1");
+        return t.bahn().zaehler[1].schriftgroesse();
+    };
+    EXPECT_DOUBLE_EQ(bis(99), voll);
+    EXPECT_DOUBLE_EQ(bis(100), 0.8 * voll);
+    EXPECT_DOUBLE_EQ(bis(1000), 0.6 * voll);
+}
+
+TEST_F(Rundenzaehlung, RundenabzugNimmtDieRundeAusDemSpeicher) {
+    t.p.belegung.vorbelegen(belegung_stufe::standard);
+    t.runde_nach(1000, "1");
+    t.runde_nach(8000, "1");
+    t.runde_nach(7000, "1");
+    t.taste("!");
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(t.bahn().zaehler[1].text(), "1");
+    t.runde_nach(5999, "1");  // timed from the crossing before the one that was taken off
+    EXPECT_EQ(rundenzeit(1, 2), 13000);
+    t.taste("!");
+    t.taste("!");
+    t.taste("!");
+    EXPECT_EQ(t.spur(1).runden, 0) << "a lane at 0 stays at 0";
+}
+
+TEST_F(Rundenzaehlung, AbzugVorDerErstenUeberfahrtGehtTiefer) {
+    t.p.belegung.vorbelegen(belegung_stufe::standard);
+    for (int mal = 0; mal < 3; ++mal) {
+        t.taste("!");
+    }
+    EXPECT_EQ(t.spur(1).runden, -4);
+    for (int mal = 0; mal < 5; ++mal) {
+        t.runde_nach(8000, "1");
+    }
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(liste(1).size(), 2U);
+    t.spur(2).disqualifiziert = true;
+    t.taste("\"");
+    EXPECT_EQ(t.spur(2).runden, -1);
+}
+
+TEST_F(Rundenzaehlung, PlaetzeFolgenAlleinDenRunden) {
+    t.bahn().Command2.klicken();
+    t.starten("Zeit", "10", {2, 5});
+    EXPECT_EQ(t.bahn().l_PosAnz[1].text(), "1");
+    EXPECT_EQ(t.bahn().l_PosAnz[4].text(), "2");
+    EXPECT_FALSE(t.bahn().l_PosAnz[0].sichtbar());
+    t.runde_nach(1000, "5");
+    EXPECT_EQ(t.bahn().l_PosAnz[4].text(), "1");
+    t.runde_nach(1000, "2");
+    EXPECT_EQ(t.bahn().l_PosAnz[4].text(), "1") << "who reached the lap first stays ahead";
+    t.runde_nach(8000, "25");
+    EXPECT_EQ(t.bahn().l_PosAnz[4].text(), "1");
+    t.runde_nach(8000, "2");
+    EXPECT_EQ(t.bahn().l_PosAnz[1].text(), "1");
+    EXPECT_EQ(t.bahn().l_PosAnz[4].text(), "2");
+}
+
+struct geraet_mit_spur_drei : messquelle {
+    explicit geraet_mit_spur_drei(ereignis_tabelle& ziel) : ereignisse(ziel) {}
+    void abfragen() override {
+        if (std::exchange(flanke, false)) {
+            ereignisse[14].ereignis_zeit = 4711;
+            ereignisse[14].aktiv = true;
+        }
+    }
+    void abtasten() override { ++proben; }
+    ereignis_tabelle& ereignisse;
+    bool flanke = false;
+    int proben = 0;
+};
+
+TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
+    geraet_mit_spur_drei geraet(t.p.ereignisse);
+    t.p.rennen.ablauf.anschliessen(geraet);
+    t.p.einst.rc_ziel_sensor34 = true;
+    geraet.flanke = true;
+    t.maschine.laufen(3);
+    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.stempel(1, 0), 4711);
+    EXPECT_EQ(t.spur(3).runden, -1);
+    EXPECT_EQ(geraet.proben, 3);
+}
+
+}  // namespace
+}  // namespace tarvel

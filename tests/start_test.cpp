@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "programm/programm.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+TEST(Start, LegtOrdnerAnUndZeigtDieFensterDerReiheNach) {
+    test::testprogramm t;
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form3"));
+    for (const char* ordner :
+         {"Bestzeiten", "Einzelrennen", "auto-Einzelrennen", "Wettkampf", "Wettkampf-Zwischenstand", "Tagesrennen"}) {
+        EXPECT_TRUE(t.maschine.datei_da(std::string("Ergebnisse/") + ordner)) << ordner;
+    }
+    t.maschine.laufen(500);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Update_form"));
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form3"));
+    t.maschine.laufen(1500);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+    t.p.fenster.zeigen("Form3");
+    t.p.form3.Command1.klicken();
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+}
+
+TEST(Start, ZweiteInstanzEndetOhneFensterUndOhneDateien) {
+    test::test_plattform maschine;
+    maschine.erste_instanz = false;
+    maschine.datei_schreiben("auto-1.csv", "alt");
+    programm p(maschine.dienste());
+    EXPECT_FALSE(p.starten());
+    ASSERT_EQ(maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(maschine.meldungen_gezeigt[0].text, "Programm ist bereits gestartet");
+    EXPECT_EQ(maschine.meldungen_gezeigt[0].titel, "Tarvel");
+    EXPECT_EQ(maschine.beendet, 1);
+    EXPECT_FALSE(p.fenster.ist_offen("Form1"));
+    EXPECT_TRUE(maschine.datei_da("auto-1.csv"));
+}
+
+TEST(Start, RaeumtAlteDateienUmUndAuf) {
+    test::test_plattform maschine;
+    maschine.datei_schreiben("a.bst", "1");
+    maschine.datei_schreiben("b.bst", "2");
+    maschine.datei_schreiben("tvk_UART.ini", "u");
+    maschine.datei_schreiben("auto-alt.csv", "");
+    maschine.datei_schreiben("Ergebnisse/auto-Einzelrennen/auto-1.csv", "");
+    maschine.datei_schreiben("Ergebnisse/auto-Einzelrennen/meins.csv", "bleibt");
+    maschine.datei_schreiben("Ergebnisse/Wettkampf-Zwischenstand/x.wta", "");
+    programm p(maschine.dienste());
+    EXPECT_TRUE(p.starten());
+    EXPECT_EQ(maschine.datei_lesen("Ergebnisse/Bestzeiten/a.bst"), "1");
+    EXPECT_EQ(maschine.datei_lesen("Ergebnisse/Bestzeiten/b.bst"), "2");
+    EXPECT_FALSE(maschine.datei_da("a.bst"));
+    EXPECT_EQ(maschine.datei_lesen("tvk_at2560.uart"), "u");
+    EXPECT_FALSE(maschine.datei_da("auto-alt.csv"));
+    EXPECT_FALSE(maschine.datei_da("Ergebnisse/auto-Einzelrennen/auto-1.csv"));
+    EXPECT_TRUE(maschine.datei_da("Ergebnisse/auto-Einzelrennen/meins.csv"));
+    EXPECT_FALSE(maschine.datei_da("Ergebnisse/Wettkampf-Zwischenstand/x.wta"));
+}
+
+TEST(Start, VorhandeneNeueDateiWirdNichtUeberschrieben) {
+    test::test_plattform maschine;
+    maschine.datei_schreiben("tvk_UART.ini", "alt");
+    maschine.datei_schreiben("tvk_at2560.uart", "neu");
+    programm p(maschine.dienste());
+    p.starten();
+    EXPECT_EQ(maschine.datei_lesen("tvk_at2560.uart"), "neu");
+    EXPECT_TRUE(maschine.datei_da("tvk_UART.ini"));
+}
+
+TEST(Start, EndeSchliesstAllesUndLaeuftEinmal) {
+    test::testprogramm t;
+    t.starten("Zeit", "5", {1});
+    t.maschine.laufen(1000);
+    t.p.programm_beenden();
+    t.p.form1.Command2.klicken();
+    EXPECT_EQ(t.maschine.beendet, 1);
+    for (const char* name : {"Form1", "Form3", "Update_form", "bahn1", "auswertung"}) {
+        EXPECT_FALSE(t.p.fenster.ist_offen(name)) << name;
+    }
+    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
+}
+
+TEST(Start, ZweiProgrammeInEinemProzessStoerenSichNicht) {
+    test::testprogramm eins;
+    test::testprogramm zwei;
+    eins.starten("Runden", "2", {1});
+    zwei.starten("Zeit", "5", {2});
+    eins.runde_nach(1000, "1");
+    EXPECT_EQ(eins.spur(1).runden, 0);
+    EXPECT_EQ(zwei.spur(1).runden, -1);
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,214 @@
+#include "hardware/tastatur.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/text.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+class Tastatur : public testing::Test {
+protected:
+    feld& taste(int zeile) { return t.p.tastaturbelegung.taste.at(static_cast<std::size_t>(zeile)); }
+    std::string letzte_meldung() const {
+        return t.maschine.meldungen_gezeigt.empty() ? "" : t.maschine.meldungen_gezeigt.back().text;
+    }
+
+    test::testprogramm t;
+};
+
+TEST_F(Tastatur, JedeZeileHatEinenNamenUndAlleBelegenIstEindeutig) {
+    std::set<int> zeilen;
+    std::set<int> codes;
+    tastenbelegung alle;
+    alle.vorbelegen(belegung_stufe::alle);
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        EXPECT_TRUE(zeilen.insert(zeile.zeile).second) << zeile.zeile;
+        EXPECT_TRUE(codes.insert(alle.taste(zeile.zeile)).second) << zeile.name;
+    }
+    EXPECT_EQ(zeilen.size(), 48U);
+}
+
+TEST_F(Tastatur, GrossbuchstabeIstEineAndereTaste) {
+    t.starten("Zeit", "5", {1});
+    t.p.rennen.befehle.taste('q');
+    EXPECT_TRUE(t.p.ereignisse[32].aktiv);
+    t.p.ereignisse[32].aktiv = false;
+    t.p.rennen.befehle.taste('Q');
+    EXPECT_FALSE(t.p.ereignisse[32].aktiv);
+}
+
+TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
+    t.p.belegung.taste(56, '1');  // the same key as lane 1's lap
+    t.starten("Zeit", "5", {1});
+    t.taste("1");
+    EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[3]);
+    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_EQ(t.spur(1).runden, -1);
+}
+
+TEST_F(Tastatur, PersoenlicherChaosknopfOhneGemeinsameTasteLoestNichtsAnderesAus) {
+    t.p.belegung.taste(tastenbelegung::zeile_chaos, tastenbelegung::keine_taste);
+    t.p.belegung.taste(tastenbelegung::zeile_nacht, tastenbelegung::keine_taste);
+    t.p.belegung.taste(54, 'y');
+    t.starten("Zeit", "5", {1});
+    t.taste("y");
+    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+}
+
+TEST_F(Tastatur, NachtbildschirmNurImRennen) {
+    t.starten("Zeit", "1", {1});
+    t.taste("n");
+    EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
+    t.taste("n");
+    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+    t.maschine.laufen(60000);
+    t.taste("n");
+    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+}
+
+TEST_F(Tastatur, AbzugstasteEinesAusgeschiedenenFaelltDurch) {
+    t.p.belegung.taste(61, 'x');
+    t.p.belegung.taste(42, 'x');
+    t.starten("Zeit", "5", {1});
+    t.taste("x");
+    EXPECT_FALSE(t.p.ereignisse[42].aktiv);
+    t.spur(1).disqualifiziert = true;
+    t.taste("x");
+    EXPECT_TRUE(t.p.ereignisse[42].aktiv);
+}
+
+TEST_F(Tastatur, ZaehlerBleibtBeiZehntausendHaengen) {
+    t.starten("Zeit", "5", {1});
+    t.spur(1).runden = 10000;
+    t.p.rennen.befehle.taste('x');
+    EXPECT_EQ(t.spur(1).runden, 9999);
+    EXPECT_EQ(t.bahn().zaehler[1].text(), "9999");
+}
+
+TEST_F(Tastatur, JedeTasteInJedemZustandIstUngefaehrlich) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
+    const auto alle_tasten = [this] {
+        for (int code = -1; code <= 256; ++code) {
+            t.p.rennen.befehle.taste(code);
+        }
+        t.maschine.laufen(3);
+    };
+    t.einrichten("Zeit", "1", {1, 6});
+    alle_tasten();
+    t.bahn().Command1.klicken();
+    alle_tasten();
+    t.maschine.laufen(30000);
+    alle_tasten();
+    t.maschine.laufen(60000);
+    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    alle_tasten();
+    t.p.auswertung.Command5.klicken();
+    alle_tasten();
+}
+
+TEST_F(Tastatur, ZeitstempelKollidierenNicht) {
+    zeitbasis& zeit = t.p.rennen.zeit;
+    const zeit_ms jetzt = zeit.messzeit_lesen();
+    std::vector<zeit_ms> zuschlaege;
+    for (int mal = 0; mal < 11; ++mal) {
+        zuschlaege.push_back(zeit.ereignis_zeit_lesen() - jetzt);
+    }
+    EXPECT_EQ(zuschlaege, (std::vector<zeit_ms>{1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1}));
+}
+
+TEST_F(Tastatur, DateiGehtHinUndZurueck) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
+    const dateien ablage(t.maschine.ordner());
+    ASSERT_TRUE(t.p.belegung.speichern(ablage));
+    const std::string bytes = t.maschine.datei_lesen("tvk_taste.ini");
+    EXPECT_EQ(bytes.substr(0, 12), " 99 \r\n 52 \r\n");  // row 1, then lane 4's lap in row 13
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 55);
+    tastenbelegung gelesen;
+    ASSERT_TRUE(gelesen.laden(ablage));
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        EXPECT_EQ(gelesen.taste(zeile.zeile), t.p.belegung.taste(zeile.zeile));
+    }
+}
+
+TEST_F(Tastatur, BeschaedigteDateiLaesstDieStandardtasten) {
+    const dateien ablage(t.maschine.ordner());
+    std::string gut;
+    for (int zeile = 0; zeile < 55; ++zeile) {
+        gut += " 65 \r\n";
+    }
+    for (const std::string& kaputt :
+         {std::string(), std::string("\0\xFF\xFE", 3), gut.substr(0, 300), "x" + gut, "-5\r\n" + gut, "\r\n" + gut}) {
+        t.maschine.datei_schreiben("tvk_taste.ini", kaputt);
+        tastenbelegung belegung;
+        EXPECT_FALSE(belegung.laden(ablage));
+        EXPECT_EQ(belegung.taste(16), '1');
+    }
+    t.maschine.datei_schreiben("tvk_taste.ini", "99999999999999999999\r\n0\r\n" + gut);
+    tastenbelegung belegung;
+    EXPECT_TRUE(belegung.laden(ablage));
+    EXPECT_EQ(belegung.taste(1), tastenbelegung::keine_taste);
+    EXPECT_EQ(belegung.taste(13), tastenbelegung::keine_taste);
+    EXPECT_EQ(belegung.taste(14), 'A');
+}
+
+TEST_F(Tastatur, FensterUebernimmtUndSpeichert) {
+    t.p.form1.command_tasten.klicken();
+    EXPECT_EQ(taste(16).text(), "1");
+    EXPECT_EQ(taste(61).text(), "");
+    taste(16).eingeben("ß");
+    taste(15).eingeben(" ");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_FALSE(t.p.fenster.ist_offen("Tastaturbelegung"));
+    EXPECT_EQ(t.p.belegung.taste(16), 0xDF);
+    EXPECT_EQ(t.p.belegung.taste(15), tastenbelegung::keine_taste);
+
+    programm spaeter(t.maschine.dienste());
+    spaeter.starten();
+    EXPECT_EQ(spaeter.belegung.taste(16), 0xDF);
+}
+
+TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
+    t.p.form1.command_tasten.klicken();
+    taste(15).eingeben("1");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), "Felder doppelt belegt!!!");
+    taste(15).eingeben("漢");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), "Ungültiges Zeichen!!!");
+    EXPECT_TRUE(t.p.fenster.ist_offen("Tastaturbelegung"));
+    t.p.tastaturbelegung.Command2.klicken();
+    EXPECT_EQ(t.p.belegung.taste(15), '2') << "cancelling keeps the old keys";
+    EXPECT_FALSE(t.maschine.datei_da("tvk_taste.ini"));
+}
+
+TEST_F(Tastatur, FensterVorlagen) {
+    t.p.form1.command_tasten.klicken();
+    t.p.tastaturbelegung.Command3.klicken();
+    EXPECT_EQ(taste(63).text(), "§");
+    EXPECT_EQ(taste(42).text(), "");
+    t.p.tastaturbelegung.Command4.klicken();
+    EXPECT_EQ(taste(50).text(), "ü");
+    EXPECT_EQ(taste(17).text(), "ß");
+    t.p.tastaturbelegung.Command5.klicken();
+    EXPECT_EQ(taste(16).text(), "");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    EXPECT_EQ(t.p.belegung.taste(16), tastenbelegung::keine_taste);
+}
+
+TEST_F(Tastatur, NichtSchreibbarMeldetSichUndBehaeltDieBelegung) {
+    std::filesystem::create_directory(t.maschine.ordner() / "tvk_taste.ini.neu");
+    t.p.form1.command_tasten.klicken();
+    taste(16).eingeben("k");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), t.p.txt.meldung[4]);
+    EXPECT_EQ(t.p.belegung.taste(16), 'k');
+}
+
+}  // namespace
+}  // namespace tarvel
