@@ -41,7 +41,7 @@ std::array<std::string, sounds_max + 1> einstellungen::standard_sounds() {
     std::array<std::string, sounds_max + 1> dateien;
     for (const sound_reihe& reihe : reihen) {
         for (int i = 0; i < reihe.anzahl; ++i) {
-            std::string& datei = dateien.at(static_cast<std::size_t>(reihe.erste + i));
+            std::string& datei = dateien.at(static_cast<std::size_t>(reihe.erste) + static_cast<std::size_t>(i));
             datei = "sound\\" + std::string(reihe.stamm);
             if (reihe.beginn >= 0) {
                 datei += std::to_string(reihe.beginn + i * reihe.schritt);

@@ -183,7 +183,8 @@ void form1::renndauer_normalisieren() {
 }
 
 zeit_ms form1::renndauer_lesen() const {
-    return std::llround(zahl_lesen(stddauer.text()) * 3600000 + dauer_minuten_ * 60000) + dauer_sekunden_ * 1000;
+    return std::llround(zahl_lesen(stddauer.text()) * 3600000 + dauer_minuten_ * 60000) +
+           zeit_ms{1000} * dauer_sekunden_;
 }
 
 void form1::spuren_zaehlen() {

@@ -145,7 +145,7 @@ class auswahl : public steuerelement {
 public:
     std::function<void()> bei_aenderung;
     const std::vector<std::string>& eintraege() const { return eintraege_; }
-    void eintraege(std::vector<std::string> neu) { setzen(eintraege_, neu); }
+    void eintraege(const std::vector<std::string>& neu) { setzen(eintraege_, neu); }
     bool frei() const { return frei_; }
     void frei(bool neu) { setzen(frei_, neu); }
     void eingeben(std::string_view neu);

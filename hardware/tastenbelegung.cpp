@@ -62,6 +62,10 @@ void tastenbelegung::taste(int zeile, int code) {
     tasten_.at(static_cast<std::size_t>(zeile)) = code >= 1 && code <= 255 ? code : keine_taste;
 }
 
+bool tastenbelegung::ist_belegt(int code) const {
+    return code != keine_taste && std::find(tasten_.begin(), tasten_.end(), code) != tasten_.end();
+}
+
 void tastenbelegung::vorbelegen(belegung_stufe stufe) {
     tasten_.fill(keine_taste);
     for (const tastenzeile& zeile : tastenzeilen()) {

@@ -41,6 +41,7 @@ public:
     int taste(int zeile) const { return tasten_.at(static_cast<std::size_t>(zeile)); }
     /// Codes outside 1 to 255 count as no key.
     void taste(int zeile, int code);
+    bool ist_belegt(int code) const;
     void vorbelegen(belegung_stufe stufe);
 
     /// False leaves the assignment as it was: no file, a file that is too short, or a line that is no number.

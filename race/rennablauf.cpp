@@ -61,6 +61,7 @@ void rennablauf::rennstart_vorbereiten() {
     um_.bahn.Command1.aktiviert(false);
     um_.bahn.Command2.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
+    um_.bahn.Frame1.fokus_setzen();  // a second press of the same key must not reach the next command
     if (um_.einst.nachtrennen_modus > 0) {
         t_.ansicht.bildschirm_dunkel();
     }

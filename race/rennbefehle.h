@@ -20,6 +20,8 @@ public:
 
     /// A key press in the race window; `code` is the Windows-1252 value of the typed character.
     void taste(int code);
+    /// Whether that key does anything in a race.
+    bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
     /// Stops the race without a result. Also what closing the window means, in every state of the race.
     void rennen_abbrechen();
     /// Ends the race by hand: it gets its result from what it has.
@@ -32,6 +34,7 @@ private:
 
     renn_umgebung um_;
     teile t_;
+    const tastenbelegung& belegung_;
     tastatur tastatur_;
 };
 

@@ -129,7 +129,7 @@ void auswertung::spur_anzeigen(int spur) {
     const platz_werte& werte = werte_[spur];
     const trennzeichen_tabelle& trennzeichen = um_.einst.trennzeichen;
     fahrer[i].text(um_.param.fahrer_name[spur]);
-    fahrer[i].schriftfarbe(um_.einst.farben_spur[spur]);
+    Frame[i].schriftfarbe(um_.einst.farben_spur[spur]);
     runden_aus[i].text(zustand.disqualifiziert ? "Dis." : std::to_string(std::max(zustand.runden, 0)));
     beste_aus[i].text(zeit_formatieren(werte.beste_runde, false, trennzeichen));
     zeit_aus[i].text(zeit_formatieren(werte.gesamtzeit, true, trennzeichen));

@@ -54,10 +54,10 @@ spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus mo
             const platz_werte& x = werte[rang[a]];
             const platz_werte& y = werte[rang[b]];
             std::size_t stufe = 0;
-            while (stufe + 1 < folge.size() && folge.at(stufe)(x, y) == 0) {
+            while (stufe + 1 < folge.size() && std::is_eq(folge.at(stufe)(x, y))) {
                 ++stufe;
             }
-            if (folge.at(stufe)(x, y) > 0) {
+            if (std::is_gt(folge.at(stufe)(x, y))) {
                 std::swap(rang[a], rang[b]);
             }
             const bool dritter_schluessel = stufe + 1 == folge.size();

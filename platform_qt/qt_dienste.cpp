@@ -1,0 +1,31 @@
+#include "platform_qt/qt_dienste.h"
+
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QScreen>
+#include <chrono>
+
+namespace tarvel::qt {
+
+zeit_ms QtUhr::jetzt() const {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+plattform::datum_uhrzeit QtKalender::jetzt() const {
+    const QDateTime moment = QDateTime::currentDateTime();
+    const QDate tag = moment.date();
+    const QTime zeit = moment.time();
+    return {tag.year(), tag.month(), tag.day(), zeit.hour(), zeit.minute(), zeit.second()};
+}
+
+plattform::groesse_px QtBildschirm::groesse() const {
+    const QSize groesse = QGuiApplication::primaryScreen()->size();
+    return {groesse.width(), groesse.height()};
+}
+
+plattform::dienste QtDienste::dienste() {
+    return {uhr_, zeitgeber_, meldungen_, klang_, kalender_, bildschirm_, prozess_, ordner_};
+}
+
+}  // namespace tarvel::qt

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/meldungen.h"
+
+namespace tarvel::qt {
+
+class QtMeldungen final : public plattform::meldungen {
+public:
+    void zeigen(std::string_view text, std::string_view titel) override;
+};
+
+}  // namespace tarvel::qt

@@ -1,0 +1,33 @@
+#include "platform_qt/qt_prozess.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace tarvel::qt {
+namespace {
+
+QString sperrdatei() {
+    QString ordner = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (ordner.isEmpty()) {
+        ordner = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    }
+    QDir().mkpath(ordner);
+    return ordner + "/tarvel.lock";
+}
+
+}  // namespace
+
+QtProzess::QtProzess() : sperre_(sperrdatei()) {
+    sperre_.setStaleLockTime(0);  // only a dead owner makes the lock stale, however long the club evening lasts
+}
+
+bool QtProzess::ist_einzige_instanz() {
+    return sperre_.isLocked() || sperre_.tryLock(0) || sperre_.error() != QLockFile::LockFailedError;
+}
+
+void QtProzess::beenden() {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+}  // namespace tarvel::qt

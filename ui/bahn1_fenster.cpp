@@ -1,0 +1,169 @@
+#include "ui/bahn1_fenster.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "core/text.h"
+#include "race/rennansicht.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+// font sizes in design units
+constexpr double schrift_uhr = 1750;
+constexpr double schrift_uhr2 = 780;
+constexpr double schrift_ziel = 620;
+constexpr double schrift_knopf = 420;
+
+const char* const knopf_regeln =
+    "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
+    " padding: 6px 18px; }"
+    "QPushButton:hover { background: #383d47; }"
+    "QPushButton:focus { border: 2px solid #ffffff; }"
+    "QPushButton:disabled { color: #6a707c; background: #1c1f24; border-color: #33373f; }"
+    "QPushButton[rolle=\"haupt\"]:enabled { background: #1d8a3c; border-color: #37b35a; font-weight: bold; }"
+    "QPushButton[rolle=\"haupt\"]:focus { border: 2px solid #ffffff; }";
+
+}  // namespace
+
+Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
+    : Fenster("bahn1", takt, eltern), logik_(logik) {
+    setWindowTitle("Rennbildschirm");
+    QPalette dunkel = palette();
+    dunkel.setColor(QPalette::Window, stil::farbe_von(logik.umgebung.einst.farben_ampel[1]));
+    dunkel.setColor(QPalette::WindowText, Qt::white);
+    setPalette(dunkel);
+
+    binder().skala(spalten_skala(1024, 768, spuren_max));
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(8, 4, 8, 8);
+    aufbau->setSpacing(4);
+    aufbau->addWidget(uhrenzeile());
+    auto* spalten = new QHBoxLayout;
+    spalten->setSpacing(6);
+    for (const int spur : alle_spuren) {
+        auto* spalte = new Rennspalte(logik.bahn1, spur, binder(), this);
+        spalten->addWidget(spalte, 1);
+        spalten_.push_back(spalte);
+    }
+    aufbau->addLayout(spalten, 1);
+    aufbau->addWidget(befehlszeile());
+    nachtabschaltung();
+    setMinimumSize(640, 480);
+    resize(1280, 1024);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+QWidget* Bahn1Fenster::uhrenzeile() {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(8, 0, 8, 0);
+    TextAnzeige* ziel = binder().anzeige(logik_.bahn1.ziel_label, "ziel_label", schrift_ziel);
+    ziel->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    TextAnzeige* nachlauf = binder().anzeige(logik_.bahn1.nachlauflabel, "nachlauflabel", schrift_uhr * 0.8);
+    nachlauf->setFett(true);
+    auto* haupt = new Uhranzeige(logik_.bahn1.uhr1, 1, schrift_uhr, binder(), this);
+    auto* zweite = new Uhranzeige(logik_.bahn1.uhr2, 2, schrift_uhr2, binder(), this);
+    aufbau->addWidget(ziel, 2);
+    aufbau->addWidget(haupt, 4);
+    aufbau->addWidget(nachlauf, 4);
+    aufbau->addWidget(zweite, 2);
+    return zeile;
+}
+
+QWidget* Bahn1Fenster::befehlszeile() {
+    auto* zeile = new QWidget(this);
+    zeile->setStyleSheet(knopf_regeln);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(4, 2, 4, 0);
+    aufbau->setSpacing(12);
+    QPushButton* start = binder().knopf(logik_.bahn1.Command1, "Command1");
+    start->setProperty("rolle", "haupt");
+    QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
+    QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
+    aufbau->addWidget(start, 2);
+    aufbau->addWidget(ende, 1);
+    aufbau->addStretch(2);
+    aufbau->addWidget(abbruch, 1);
+    knoepfe_ = {start, ende, abbruch};
+    setTabOrder(start, ende);
+    setTabOrder(ende, abbruch);
+    binder().verbinden(logik_.bahn1.Frame1, zeile, "Frame1", {});
+    return zeile;
+}
+
+void Bahn1Fenster::nachtabschaltung() {
+    nacht_ = new QWidget(this);
+    nacht_->setAutoFillBackground(true);
+    QPalette schwarz;
+    schwarz.setColor(QPalette::Window, Qt::black);
+    nacht_->setPalette(schwarz);
+    binder().verbinden(logik_.bahn1.Nachtabschaltung, nacht_, "Nachtabschaltung", [this] {
+        nacht_->setGeometry(rect());
+        nacht_->raise();
+        nacht_->setVisible(logik_.bahn1.Nachtabschaltung.sichtbar());
+    });
+}
+
+void Bahn1Fenster::aufschlagen() {
+    if (!isVisible()) {
+        setGeometry(screen()->availableGeometry());
+        showMaximized();
+    }
+    skalieren();
+    raise();
+    activateWindow();
+}
+
+void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    nacht_->setGeometry(rect());
+    skalieren();
+}
+
+void Bahn1Fenster::skalieren() {
+    const int anzahl = std::max(logik_.umgebung.param.spuren_anzahl, 1);
+    const double skala = spalten_skala(width(), height(), anzahl);
+    binder().skala(skala);
+    for (Rennspalte* spalte : spalten_) {
+        spalte->skalieren(skala);
+    }
+    for (QPushButton* knopf : knoepfe_) {
+        QFont schrift = knopf->font();
+        schrift.setPixelSize(std::max(13, static_cast<int>(std::lround(schrift_knopf * skala))));
+        knopf->setFont(schrift);
+    }
+}
+
+bool Bahn1Fenster::eventFilter(QObject* ziel, QEvent* ereignis) {
+    // The first receiver only: an ignored key travels on to the parents, and would count again there.
+    const QWidget* empfaenger = focusWidget() != nullptr ? focusWidget() : this;
+    if (ereignis->type() == QEvent::KeyPress && ziel == empfaenger && isActiveWindow()) {
+        return taste(*static_cast<QKeyEvent*>(ereignis));
+    }
+    return Fenster::eventFilter(ziel, ereignis);
+}
+
+bool Bahn1Fenster::taste(const QKeyEvent& ereignis) {
+    const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
+    const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
+    const auto code = ansi_code(ereignis.text().toStdString());
+    if (!code || strg != alt) {  // both together are AltGr
+        return false;
+    }
+    if (!logik_.befehle.ist_belegt(*code)) {
+        return false;
+    }
+    if (!ereignis.isAutoRepeat()) {  // a key that is held is one press
+        logik_.befehle.taste(*code);
+    }
+    return true;
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <vector>
+
+#include "race/rennen.h"
+#include "ui/fenster.h"
+#include "ui/rennspalte.h"
+#include "ui/uhranzeige.h"
+
+class QGridLayout;
+class QHBoxLayout;
+
+namespace tarvel::ui {
+
+/// The race window, to be read from a distance. All characters typed while it is in front go to the race.
+class Bahn1Fenster : public Fenster {
+public:
+    Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern);
+
+    void aufschlagen() override;
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
+private:
+    QWidget* uhrenzeile();
+    QWidget* befehlszeile();
+    void nachtabschaltung();
+    void skalieren();
+    bool taste(const QKeyEvent& ereignis);
+
+    rennen& logik_;
+    std::vector<Rennspalte*> spalten_;
+    std::vector<QPushButton*> knoepfe_;
+    QWidget* nacht_ = nullptr;
+};
+
+}  // namespace tarvel::ui

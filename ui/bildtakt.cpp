@@ -1,0 +1,37 @@
+#include "ui/bildtakt.h"
+
+#include <algorithm>
+
+namespace tarvel::ui {
+
+Bildtakt::Bildtakt() {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setInterval(bild_ms);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ausfuehren(); });
+}
+
+void Bildtakt::vormerken(Abgleich* abgleich) {
+    offen_.push_back(abgleich);
+    if (!timer_.isActive()) {
+        timer_.start();
+    }
+}
+
+void Bildtakt::vergessen(Abgleich* abgleich) {
+    std::erase(offen_, abgleich);
+    std::replace(in_arbeit_.begin(), in_arbeit_.end(), abgleich, static_cast<Abgleich*>(nullptr));
+}
+
+void Bildtakt::ausfuehren() {
+    timer_.stop();
+    in_arbeit_.swap(offen_);
+    for (std::size_t i = 0; i < in_arbeit_.size(); ++i) {
+        if (in_arbeit_[i] != nullptr) {
+            in_arbeit_[i]->abgleichen();
+        }
+    }
+    in_arbeit_.clear();
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,228 @@
+#include "ui/binder.h"
+
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStringList>
+#include <cmath>
+#include <utility>
+
+#include "ui/listenmodell.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+QString als_text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+template <class Widget>
+void text_nachfuehren(Widget* widget, const steuerelement& element) {
+    const QString text = als_text(element.text());
+    if (widget->text() != text) {
+        widget->setText(text);
+    }
+}
+
+}  // namespace
+
+class Binder::Bindung final : public steuer_beobachter, public Abgleich {
+public:
+    Bindung(Bildtakt& takt, steuerelement& element, QWidget* widget, std::function<void()> abgleich)
+        : takt_(takt), element_(element), widget_(widget), abgleich_(std::move(abgleich)) {
+        element_.beobachten(this);
+        abgleichen();
+    }
+    Bindung(const Bindung&) = delete;
+    Bindung& operator=(const Bindung&) = delete;
+    ~Bindung() override {
+        element_.beobachten(nullptr);
+        takt_.vergessen(this);
+    }
+
+    void geaendert() override {
+        if (!std::exchange(vorgemerkt_, true)) {
+            takt_.vormerken(this);
+        }
+    }
+
+    void abgleichen() override {
+        vorgemerkt_ = false;
+        widget_->setEnabled(element_.aktiviert());
+        if (abgleich_) {
+            abgleich_();
+        }
+        if (element_.fokuswunsch_abholen()) {
+            widget_->setFocus(Qt::OtherFocusReason);
+        }
+    }
+
+private:
+    Bildtakt& takt_;
+    steuerelement& element_;
+    QWidget* widget_;
+    std::function<void()> abgleich_;
+    bool vorgemerkt_ = false;
+};
+
+Binder::Binder(QString fenster, Bildtakt& takt, QWidget* eltern)
+    : takt_(takt), fenster_(std::move(fenster)), eltern_(eltern) {}
+
+Binder::~Binder() = default;
+
+void Binder::verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich) {
+    widget->setObjectName(fenster_ + "." + name);
+    bindungen_.push_back(std::make_unique<Bindung>(takt_, element, widget, std::move(abgleich)));
+}
+
+void Binder::skala(double px_je_einheit) {
+    if (px_je_einheit == skala_) {
+        return;
+    }
+    skala_ = px_je_einheit;
+    for (const auto& schrift : schriften_) {
+        schrift();
+    }
+}
+
+QLabel* Binder::label(bezeichnung& element, const QString& name) {
+    auto* widget = new QLabel(eltern_);
+    widget->setTextFormat(Qt::PlainText);
+    verbinden(element, widget, name, [&element, widget] {
+        widget->setVisible(element.sichtbar());
+        text_nachfuehren(widget, element);
+    });
+    return widget;
+}
+
+TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double entwurf) {
+    auto* widget = new TextAnzeige(eltern_);
+    widget->setAccessibleName(name);
+    auto schrift = [this, &element, widget, entwurf] {
+        const double einheiten = element.schriftgroesse() > 0 ? element.schriftgroesse() : entwurf;
+        widget->setSchriftPx(static_cast<int>(std::lround(einheiten * skala_)));
+    };
+    schriften_.emplace_back(schrift);
+    verbinden(element, widget, name, [&element, widget, schrift] {
+        widget->setVisible(element.sichtbar());
+        schrift();
+        widget->setText(als_text(element.text()));
+        if (element.schriftfarbe()) {
+            widget->setFarbe(stil::farbe_von(*element.schriftfarbe()));
+        }
+    });
+    return widget;
+}
+
+TextAnzeige* Binder::beschriftung(const QString& text, double entwurf) {
+    auto* widget = new TextAnzeige(eltern_);
+    widget->setText(text);
+    schriften_.emplace_back(
+        [this, widget, entwurf] { widget->setSchriftPx(static_cast<int>(std::lround(entwurf * skala_))); });
+    return widget;
+}
+
+QPushButton* Binder::knopf(befehl& element, const QString& name) {
+    auto* widget = new QPushButton(eltern_);
+    widget->setAutoDefault(true);
+    QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
+    verbinden(element, widget, name, [&element, widget] {
+        widget->setVisible(element.sichtbar());
+        text_nachfuehren(widget, element);
+    });
+    return widget;
+}
+
+QLineEdit* Binder::zeile(feld& element, const QString& name, const QString& ansage) {
+    auto* widget = new QLineEdit(eltern_);
+    widget->setAccessibleName(ansage);
+    QObject::connect(widget, &QLineEdit::textEdited, widget,
+                     [&element](const QString& text) { element.eingeben(text.toStdString()); });
+    verbinden(element, widget, name, [&element, widget] {
+        widget->setVisible(element.sichtbar());
+        widget->setMaxLength(element.laenge_max() > 0 ? element.laenge_max() : 32767);
+        text_nachfuehren(widget, element);
+    });
+    return widget;
+}
+
+QCheckBox* Binder::kasten(haken& element, const QString& name) {
+    auto* widget = new QCheckBox(eltern_);
+    QObject::connect(widget, &QCheckBox::clicked, widget, [&element] { element.umschalten(); });
+    verbinden(element, widget, name, [&element, widget] {
+        widget->setVisible(element.sichtbar());
+        text_nachfuehren(widget, element);
+        widget->setChecked(element.gesetzt());
+    });
+    return widget;
+}
+
+QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QString& ansage) {
+    auto* widget = new QComboBox(eltern_);
+    widget->setAccessibleName(ansage);
+    widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    widget->setMinimumContentsLength(6);
+    widget->setInsertPolicy(QComboBox::NoInsert);
+    const auto eingeben = [&element](const QString& text) { element.eingeben(text.toStdString()); };
+    QObject::connect(widget, &QComboBox::textActivated, widget, eingeben);
+    QObject::connect(widget, &QComboBox::editTextChanged, widget, eingeben);
+    verbinden(element, widget, name, [&element, widget] {
+        const QSignalBlocker still(widget);
+        widget->setVisible(element.sichtbar());
+        if (widget->isEditable() != element.frei()) {
+            widget->setEditable(element.frei());
+        }
+        QStringList eintraege;
+        for (const std::string& eintrag : element.eintraege()) {
+            eintraege << als_text(eintrag);
+        }
+        QStringList vorhanden;
+        for (int i = 0; i < widget->count(); ++i) {
+            vorhanden << widget->itemText(i);
+        }
+        if (vorhanden != eintraege) {
+            widget->clear();
+            widget->addItems(eintraege);
+        }
+        const QString text = als_text(element.text());
+        if (widget->currentText() != text) {
+            widget->setCurrentIndex(widget->findText(text));
+            if (element.frei()) {
+                widget->setEditText(text);
+            }
+        }
+    });
+    return widget;
+}
+
+QListView* Binder::listenfeld(liste& element, const QString& name, const QString& ansage) {
+    auto* widget = new QListView(eltern_);
+    widget->setAccessibleName(ansage);
+    widget->setUniformItemSizes(true);
+    widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* modell = new ListenModell(element, widget);
+    widget->setModel(modell);
+    QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
+                     [&element](const QModelIndex& zeile) { element.markieren(zeile.row()); });
+    verbinden(element, widget, name, [&element, widget, modell] {
+        widget->setVisible(element.sichtbar());
+        const QSignalBlocker still(widget->selectionModel());
+        modell->abgleichen();
+        const QModelIndex zeile = modell->index(element.markiert());
+        if (zeile.isValid() && widget->currentIndex() != zeile) {
+            widget->setCurrentIndex(zeile);
+            widget->scrollTo(zeile);
+        }
+    });
+    return widget;
+}
+
+Lampe* Binder::lampe(bild& element, const QString& name, const QColor& farbe) {
+    auto* widget = new Lampe(farbe, eltern_);
+    widget->setAccessibleName(name);
+    verbinden(element, widget, name, [&element, widget] { widget->setLeuchtet(element.sichtbar()); });
+    return widget;
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "core/steuerelemente.h"
+#include "ui/bildtakt.h"
+#include "ui/lampe.h"
+#include "ui/textanzeige.h"
+
+namespace tarvel::ui {
+
+/// Makes a widget for each control of one window and keeps the two in step: what the operator does goes to the control
+/// at once, what the logic changes reaches the widget with the next frame. Widgets are named `window.control`.
+class Binder {
+public:
+    Binder(QString fenster, Bildtakt& takt, QWidget* eltern);
+    Binder(const Binder&) = delete;
+    Binder& operator=(const Binder&) = delete;
+    ~Binder();
+
+    QLabel* label(bezeichnung& element, const QString& name);
+    /// A large display with a font of `entwurf` design units, unless the control names its own.
+    TextAnzeige* anzeige(steuerelement& element, const QString& name, double entwurf);
+    /// A display of fixed text that scales with the others.
+    TextAnzeige* beschriftung(const QString& text, double entwurf);
+    QPushButton* knopf(befehl& element, const QString& name);
+    QLineEdit* zeile(feld& element, const QString& name, const QString& ansage);
+    QCheckBox* kasten(haken& element, const QString& name);
+    QComboBox* auswahlfeld(auswahl& element, const QString& name, const QString& ansage);
+    QListView* listenfeld(liste& element, const QString& name, const QString& ansage);
+    Lampe* lampe(bild& element, const QString& name, const QColor& farbe);
+    /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.
+    void verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich);
+
+    /// Pixels per design unit for all displays of the window.
+    void skala(double px_je_einheit);
+    double skala() const { return skala_; }
+
+private:
+    class Bindung;
+
+    Bildtakt& takt_;
+    QString fenster_;
+    QWidget* eltern_;  ///< of each new widget, until a layout takes it
+    double skala_ = 1;
+    std::vector<std::unique_ptr<Bindung>> bindungen_;
+    std::vector<std::function<void()>> schriften_;
+};
+
+}  // namespace tarvel::ui

@@ -1,0 +1,57 @@
+#include "ui/fenster.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <algorithm>
+
+namespace tarvel::ui {
+
+Fenster::Fenster(const QString& name, Bildtakt& takt, QWidget* eltern)
+    : QWidget(eltern, Qt::Window), binder_(name, takt, this) {
+    setObjectName(name);
+}
+
+void Fenster::closeEvent(QCloseEvent* ereignis) {
+    ereignis->ignore();
+    if (bei_schliessen) {
+        bei_schliessen();
+    }
+}
+
+void Fenster::zentrieren() {
+    constexpr int rahmen_px = 40;  // title bar and edges of the desktop
+    const QRect platz = screen()->availableGeometry();
+    resize(std::min(width(), platz.width()), std::min(height(), platz.height() - rahmen_px));
+    move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));
+}
+
+void Fenster::aufschlagen() {
+    if (!isVisible()) {
+        zentrieren();
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void Fensterverwaltung::zeigen(const std::string& name, anzeige_art art) {
+    const auto gefunden = fenster_.find(name);
+    if (gefunden == fenster_.end()) {
+        return;
+    }
+    Fenster* fenster = gefunden->second;
+    if (!fenster->isVisible()) {
+        fenster->setWindowModality(art == anzeige_art::modal ? Qt::ApplicationModal : Qt::NonModal);
+    }
+    takt_.ausfuehren();
+    fenster->aufschlagen();
+}
+
+void Fensterverwaltung::verbergen(const std::string& name) {
+    const auto gefunden = fenster_.find(name);
+    if (gefunden != fenster_.end()) {
+        gefunden->second->hide();
+    }
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <map>
+
+#include "core/fensterregister.h"
+#include "ui/binder.h"
+
+namespace tarvel::ui {
+
+/// A window of the program. It is made once and then shown and hidden as the register says; what closing it means is
+/// for the logic to decide.
+class Fenster : public QWidget {
+public:
+    Fenster(const QString& name, Bildtakt& takt, QWidget* eltern);
+
+    std::function<void()> bei_schliessen;
+    /// Places the window on its screen and shows it.
+    virtual void aufschlagen();
+
+protected:
+    Binder& binder() { return binder_; }
+    void closeEvent(QCloseEvent* ereignis) override;
+    void zentrieren();
+
+private:
+    Binder binder_;
+};
+
+/// Shows and hides the windows for the register.
+class Fensterverwaltung final : public fensteranzeige {
+public:
+    explicit Fensterverwaltung(Bildtakt& takt) : takt_(takt) {}
+    void aufnehmen(const std::string& name, Fenster* fenster) { fenster_[name] = fenster; }
+
+    void zeigen(const std::string& name, anzeige_art art) override;
+    void verbergen(const std::string& name) override;
+
+private:
+    Bildtakt& takt_;
+    std::map<std::string, Fenster*> fenster_;
+};
+
+}  // namespace tarvel::ui

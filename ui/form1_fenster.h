@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QGridLayout>
+
+#include "core/form1.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The main window.
+class Form1Fenster : public Fenster {
+public:
+    Form1Fenster(form1& logik, const einstellungen& einst, Bildtakt& takt);
+
+private:
+    QWidget* rennen_gruppe();
+    QWidget* spuren_gruppe(const einstellungen& einst);
+    QWidget* befehlszeile();
+    void spur_zeile(QGridLayout* raster, int spur, const QColor& farbe);
+
+    form1& logik_;
+};
+
+}  // namespace tarvel::ui

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace tarvel::ui {
+
+/// A round lamp of a start light, lit or dark.
+class Lampe : public QWidget {
+public:
+    explicit Lampe(const QColor& farbe, QWidget* eltern = nullptr);
+    void setLeuchtet(bool leuchtet);
+    bool leuchtet() const { return leuchtet_; }
+    QSize sizeHint() const override { return {24, 24}; }
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QColor farbe_;
+    bool leuchtet_ = false;
+};
+
+}  // namespace tarvel::ui

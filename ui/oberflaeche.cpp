@@ -1,0 +1,33 @@
+#include "ui/oberflaeche.h"
+
+namespace tarvel::ui {
+
+Oberflaeche::Oberflaeche(programm& p)
+    : update_form(p.update_form, takt),
+      form1(p.form1, p.einst, takt),
+      form3(p.form3, p.ablage, takt, &form1),
+      bahn1(p.rennen, takt, &form1),
+      auswertung(p.auswertung, takt, &bahn1),
+      tastatur(p.tastaturbelegung, takt, &form1),
+      p_(p) {
+    fenster.aufnehmen("Update_form", &update_form);
+    fenster.aufnehmen("Form1", &form1);
+    fenster.aufnehmen("Form3", &form3);
+    fenster.aufnehmen("bahn1", &bahn1);
+    fenster.aufnehmen("auswertung", &auswertung);
+    fenster.aufnehmen("Tastaturbelegung", &tastatur);
+    p.fenster.anzeigen_auf(&fenster);
+
+    form1.bei_schliessen = [&p] { p.programm_beenden(); };
+    form3.bei_schliessen = [&p] { p.fenster.entladen("Form3"); };
+    update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
+    bahn1.bei_schliessen = [&p] { p.rennen.befehle.rennen_abbrechen(); };
+    auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
+    tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
+}
+
+Oberflaeche::~Oberflaeche() {
+    p_.fenster.anzeigen_auf(nullptr);
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "programm/programm.h"
+#include "ui/auswertung_fenster.h"
+#include "ui/bahn1_fenster.h"
+#include "ui/fenster.h"
+#include "ui/form1_fenster.h"
+#include "ui/start_fenster.h"
+#include "ui/tastatur_fenster.h"
+
+namespace tarvel::ui {
+
+/// All windows of a program. Must go before the program.
+class Oberflaeche {
+public:
+    explicit Oberflaeche(programm& p);
+    Oberflaeche(const Oberflaeche&) = delete;
+    Oberflaeche& operator=(const Oberflaeche&) = delete;
+    ~Oberflaeche();
+
+    Bildtakt takt;
+    Fensterverwaltung fenster{takt};
+    UpdateFenster update_form;
+    Form1Fenster form1;
+    Form3Fenster form3;
+    Bahn1Fenster bahn1;
+    AuswertungFenster auswertung;
+    TastaturFenster tastatur;
+
+private:
+    programm& p_;
+};
+
+}  // namespace tarvel::ui

@@ -1,0 +1,123 @@
+#include "ui/rennspalte.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+// font sizes in design units
+constexpr double schrift_name = 760;
+constexpr double schrift_platz = 820;
+constexpr double schrift_zaehler = 2600;
+constexpr double schrift_titel = 330;
+constexpr double schrift_zeit = 1100;
+constexpr double schrift_liste = 560;
+constexpr double schrift_strafe = 480;
+constexpr double lampe_groesse = 620;
+
+const QColor leise(150, 156, 166);
+
+}  // namespace
+
+Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) : QWidget(eltern) {
+    const std::size_t index = feld_index(spur);
+    const QString nummer = QString::number(spur);
+    const QString ansage = QString("Spur %1: ").arg(spur);
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setSpacing(0);
+
+    const auto titel = [&](const QString& text) {
+        TextAnzeige* anzeige = binder.beschriftung(text, schrift_titel);
+        anzeige->setFarbe(leise);
+        aufbau->addWidget(anzeige);
+    };
+    const auto zeigen = [&](steuerelement& element, const QString& name, double entwurf) {
+        TextAnzeige* anzeige = binder.anzeige(element, name + "_" + nummer, entwurf);
+        anzeige->setAccessibleName(ansage + name);
+        anzeige->setFett(true);
+        aufbau->addWidget(anzeige);
+    };
+    zeigen(bahn.namenslabel[spur], "namenslabel", schrift_name);
+    aufbau->addWidget(kopfzeile(bahn, spur, binder));
+    zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
+    titel("letzte Runde");
+    zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);
+    titel("beste Runde");
+    zeigen(bahn.brunde[spur], "brunde", schrift_zeit);
+    zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);
+    liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), ansage + "Rundenliste");
+    liste_->setFrameShape(QFrame::NoFrame);
+    liste_->setFocusPolicy(Qt::NoFocus);
+    liste_->setSelectionMode(QAbstractItemView::NoSelection);
+    liste_->setStyleSheet("background: transparent; border: none; color: #d7dae0;");
+    liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    aufbau->addWidget(liste_, 1);
+
+    binder.verbinden(bahn.bahnshape[spur], this, "bahnshape_" + nummer, [this, &bahn, spur] {
+        setVisible(bahn.bahnshape[spur].sichtbar());
+        const auto rand = bahn.bahnshape[spur].randfarbe();
+        randfarbe_ = rand ? stil::farbe_von(*rand) : QColor();
+        spurfarbe_ = stil::farbe_von(bahn.namenslabel[spur].schriftfarbe().value_or(0));
+        update();
+    });
+}
+
+QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
+    const std::size_t index = feld_index(spur);
+    const QString nummer = QString::number(index);
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    lampen_ = {binder.lampe(bahn.ampel_rt.at(index), "ampel_rt_" + nummer, QColor(255, 40, 30)),
+               binder.lampe(bahn.ampel_ge.at(index), "ampel_ge_" + nummer, QColor(255, 200, 20)),
+               binder.lampe(bahn.ampel_gr.at(index), "ampel_gr_" + nummer, QColor(30, 230, 70))};
+    aufbau->addStretch();
+    for (Lampe* lampe : lampen_) {
+        aufbau->addWidget(lampe);
+    }
+    aufbau->addStretch();
+    TextAnzeige* titel = binder.beschriftung("Platz", schrift_titel);
+    titel->setMusterText("Platz");
+    titel->setFarbe(leise);
+    aufbau->addWidget(titel);
+    TextAnzeige* platz = binder.anzeige(bahn.l_PosAnz.at(index), "l_PosAnz_" + nummer, schrift_platz);
+    platz->setAccessibleName(QString("Spur %1: Platz").arg(spur));
+    platz->setMusterText("0");
+    platz->setFett(true);
+    aufbau->addWidget(platz);
+    aufbau->addStretch();
+    return zeile;
+}
+
+void Rennspalte::skalieren(double skala) {
+    QFont schrift = liste_->font();
+    schrift.setPixelSize(std::max(8, static_cast<int>(std::lround(schrift_liste * skala))));
+    liste_->setFont(schrift);
+    const int kante = std::max(8, static_cast<int>(std::lround(lampe_groesse * skala)));
+    for (Lampe* lampe : lampen_) {
+        lampe->setFixedSize(kante, kante);
+    }
+    const int rand = std::max(4, static_cast<int>(std::lround(110 * skala)));
+    layout()->setContentsMargins(rand, 10 + rand, rand, rand);
+}
+
+void Rennspalte::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    const QRectF flaeche = QRectF(rect()).adjusted(3, 3, -3, -3);
+    const bool im_ziel = randfarbe_.isValid();
+    maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), im_ziel ? 5 : 1));
+    maler.setBrush(QColor(18, 20, 24));
+    maler.drawRoundedRect(flaeche, 10, 10);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(spurfarbe_);
+    maler.drawRoundedRect(QRectF(flaeche.left() + 8, flaeche.top() + 4, flaeche.width() - 16, 6), 3, 3);
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+#include "race/bahn1.h"
+#include "ui/binder.h"
+
+namespace tarvel::ui {
+
+/// One lane of the race window as a column: name, place, laps, last and best lap, the list of laps.
+class Rennspalte : public QWidget {
+public:
+    Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern);
+
+    /// Brings the list's font and the spacing to the scale of the window.
+    void skalieren(double skala);
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QWidget* kopfzeile(bahn1& bahn, int spur, Binder& binder);
+
+    QListView* liste_ = nullptr;
+    std::vector<Lampe*> lampen_;
+    QColor spurfarbe_;
+    QColor randfarbe_;
+};
+
+}  // namespace tarvel::ui

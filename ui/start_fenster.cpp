@@ -1,0 +1,44 @@
+#include "ui/start_fenster.h"
+
+#include <QHBoxLayout>
+#include <QPixmap>
+#include <QVBoxLayout>
+
+#include "core/texte.h"
+#include "ui/streckenbild.h"
+
+namespace tarvel::ui {
+
+Form3Fenster::Form3Fenster(form3& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern)
+    : Fenster("Form3", takt, eltern) {
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    setWindowTitle("Tarvel");
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(0, 0, 0, 12);
+    auto* gezeichnet = new Streckenbild;
+    gezeichnet->setTitel("Tarvel", "Version " + QString::fromUtf8(programm_version.data(),
+                                                                  static_cast<qsizetype>(programm_version.size())));
+    auto* foto = new QLabel;
+    foto->setAlignment(Qt::AlignCenter);
+    aufbau->addWidget(gezeichnet, 1);
+    aufbau->addWidget(foto, 1);
+    binder().verbinden(logik.Picture1, foto, "Picture1", [&logik, &ablage, foto, gezeichnet] {
+        const QPixmap bild(QString::fromStdU16String(ablage.pfad(logik.Picture1.datei()).u16string()));
+        foto->setPixmap(bild);
+        foto->setVisible(!bild.isNull());
+        gezeichnet->setVisible(bild.isNull());
+    });
+    QPushButton* knopf = binder().knopf(logik.Command1, "Command1");
+    knopf->setMinimumWidth(120);
+    aufbau->addWidget(knopf, 0, Qt::AlignHCenter);
+    resize(760, 330);
+}
+
+UpdateFenster::UpdateFenster(update_form& logik, Bildtakt& takt) : Fenster("Update_form", takt, nullptr) {
+    setWindowTitle("Tarvel");
+    auto* aufbau = new QHBoxLayout(this);
+    aufbau->addWidget(binder().label(logik.Label1, "Label1"), 0, Qt::AlignCenter);
+    resize(380, 90);
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "programm/startfenster.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The picture shown for two seconds after program start.
+class Form3Fenster : public Fenster {
+public:
+    Form3Fenster(form3& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern);
+};
+
+/// Shown while best-time files move at program start.
+class UpdateFenster : public Fenster {
+public:
+    UpdateFenster(update_form& logik, Bildtakt& takt);
+};
+
+}  // namespace tarvel::ui

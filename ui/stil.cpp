@@ -1,0 +1,66 @@
+#include "ui/stil.h"
+
+#include <QFont>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace tarvel::ui::stil {
+namespace {
+
+const char* const regeln = R"(
+QGroupBox { background: #ffffff; border: 1px solid #d0d4db; border-radius: 8px; margin-top: 26px; padding: 8px; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 4px; top: 3px; color: #c41e2a; }
+QLineEdit, QComboBox { background: #ffffff; border: 1px solid #aab1bd; border-radius: 5px; padding: 3px 7px;
+                       min-height: 24px; selection-background-color: #c41e2a; }
+QLineEdit:focus, QComboBox:focus { border: 2px solid #c41e2a; padding: 2px 6px; }
+QLineEdit:disabled, QComboBox:disabled { background: #eceef1; color: #9aa1ad; }
+QComboBox::drop-down { border: none; width: 26px; }
+QPushButton { background: #ffffff; border: 1px solid #aab1bd; border-radius: 6px; padding: 7px 16px; }
+QPushButton:hover { background: #f2f4f7; }
+QPushButton:pressed { background: #e2e5ea; }
+QPushButton:focus { border: 2px solid #c41e2a; padding: 6px 15px; }
+QPushButton:disabled { color: #9aa1ad; background: #eceef1; border-color: #d0d4db; }
+QPushButton[rolle="haupt"] { background: #c41e2a; color: #ffffff; border: 1px solid #9d1721; font-weight: bold; }
+QPushButton[rolle="haupt"]:hover { background: #d62a37; }
+QPushButton[rolle="haupt"]:pressed { background: #a51823; }
+QPushButton[rolle="haupt"]:focus { border: 2px solid #1c2028; }
+QPushButton[rolle="haupt"]:disabled { background: #d9a5a9; border-color: #d0d4db; color: #ffffff; }
+QCheckBox { spacing: 8px; }
+QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; }
+)";
+
+}  // namespace
+
+void anwenden(QApplication& anwendung) {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QFont grundschrift = QApplication::font();
+    grundschrift.setPixelSize(15);
+    QApplication::setFont(grundschrift);
+    QPalette palette;
+    palette.setColor(QPalette::Window, flaeche);
+    palette.setColor(QPalette::WindowText, schrift);
+    palette.setColor(QPalette::Base, karte);
+    palette.setColor(QPalette::Text, schrift);
+    palette.setColor(QPalette::Button, karte);
+    palette.setColor(QPalette::ButtonText, schrift);
+    palette.setColor(QPalette::Highlight, akzent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, schrift_leise);
+    QApplication::setPalette(palette);
+    anwendung.setStyleSheet(regeln);
+}
+
+QColor farbe_von(farbe zahl) {
+    return {static_cast<int>(zahl & 0xFFU), static_cast<int>((zahl >> 8U) & 0xFFU),
+            static_cast<int>((zahl >> 16U) & 0xFFU)};
+}
+
+QColor auf_hell(const QColor& farbe) {
+    QColor dunkler = farbe;
+    while (dunkler.lightness() > 110 || (dunkler.green() > 150 && dunkler.lightness() > 80)) {
+        dunkler = dunkler.darker(112);
+    }
+    return dunkler;
+}
+
+}  // namespace tarvel::ui::stil

@@ -1,0 +1,78 @@
+#include "ui/tastatur_fenster.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/spuren.h"
+
+namespace tarvel::ui {
+
+TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidget* eltern)
+    : Fenster("Tastaturbelegung", takt, eltern), logik_(logik) {
+    setWindowTitle("Tastaturbelegung");
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(16, 8, 16, 12);
+    auto* hinweis = new QLabel(
+        "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld "
+        "hat keine Taste.");
+    hinweis->setWordWrap(true);
+    aufbau->addWidget(hinweis);
+    auto* raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    for (const int spur : alle_spuren) {
+        raster->addWidget(gruppe(spur), (spur - 1) / 3, (spur - 1) % 3);
+    }
+    raster->addWidget(gruppe(0), 0, 3, 2, 1);
+    aufbau->addLayout(raster, 1);
+    aufbau->addSpacing(8);
+    aufbau->addWidget(befehlszeile());
+    resize(940, 700);
+}
+
+QGroupBox* TastaturFenster::gruppe(int spur) {
+    rahmen& rahmen_element = logik_.Frame.at(static_cast<std::size_t>(spur));
+    auto* kasten = new QGroupBox;
+    auto* raster = new QGridLayout(kasten);
+    raster->setVerticalSpacing(4);
+    binder().verbinden(rahmen_element, kasten, "Frame_" + QString::number(spur),
+                       [&rahmen_element, kasten] { kasten->setTitle(QString::fromStdString(rahmen_element.text())); });
+    int platz = 0;
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        if (zeile.spur != spur) {
+            continue;
+        }
+        const QString name = QString::fromUtf8(zeile.name.data(), static_cast<qsizetype>(zeile.name.size()));
+        const QString ansage = spur > 0 ? QString("%1 Spur %2").arg(name).arg(spur) : name;
+        QLineEdit* feld = binder().zeile(logik_.taste.at(static_cast<std::size_t>(zeile.zeile)),
+                                         "taste_" + QString::number(zeile.zeile), ansage);
+        feld->setFixedWidth(46);
+        feld->setAlignment(Qt::AlignCenter);
+        raster->addWidget(new QLabel(name), platz, 0);
+        raster->addWidget(feld, platz, 1);
+        ++platz;
+    }
+    raster->setColumnStretch(0, 1);
+    raster->setRowStretch(platz, 1);
+    return kasten;
+}
+
+QWidget* TastaturFenster::befehlszeile() {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    QPushButton* uebernehmen = binder().knopf(logik_.Command1, "Command1");
+    uebernehmen->setProperty("rolle", "haupt");
+    aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"));
+    aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
+    aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));
+    aufbau->addStretch();
+    aufbau->addWidget(uebernehmen);
+    aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"));
+    for (QPushButton* knopf : zeile->findChildren<QPushButton*>()) {
+        knopf->setMinimumHeight(42);
+    }
+    return zeile;
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hardware/tastaturbelegung.h"
+#include "ui/fenster.h"
+
+class QGridLayout;
+class QGroupBox;
+
+namespace tarvel::ui {
+
+/// The window in which the keys are assigned.
+class TastaturFenster : public Fenster {
+public:
+    TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidget* eltern);
+
+private:
+    QGroupBox* gruppe(int spur);
+    QWidget* befehlszeile();
+
+    tastaturbelegung& logik_;
+};
+
+}  // namespace tarvel::ui

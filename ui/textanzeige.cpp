@@ -1,0 +1,84 @@
+#include "ui/textanzeige.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+
+namespace tarvel::ui {
+namespace {
+
+constexpr double kleinste_verkleinerung = 0.55;
+
+}  // namespace
+
+TextAnzeige::TextAnzeige(QWidget* eltern) : QWidget(eltern), schrift_(font()) {}
+
+void TextAnzeige::setText(const QString& text) {
+    if (text_ == text) {
+        return;
+    }
+    text_ = text;
+    setAccessibleDescription(text);
+    update();
+}
+
+void TextAnzeige::setSchriftPx(int px) {
+    if (schrift_.pixelSize() == px) {
+        return;
+    }
+    schrift_.setPixelSize(std::max(px, 6));
+    updateGeometry();
+    update();
+}
+
+void TextAnzeige::setFett(bool fett) {
+    schrift_.setBold(fett);
+    updateGeometry();
+    update();
+}
+
+void TextAnzeige::setFarbe(const QColor& farbe) {
+    if (farbe_ != farbe) {
+        farbe_ = farbe;
+        update();
+    }
+}
+
+void TextAnzeige::setAusrichtung(Qt::Alignment ausrichtung) {
+    ausrichtung_ = ausrichtung;
+    update();
+}
+
+void TextAnzeige::setMusterText(const QString& muster) {
+    muster_ = muster;
+    updateGeometry();
+}
+
+QSize TextAnzeige::sizeHint() const {
+    const QFontMetrics masse(schrift_);
+    return {masse.horizontalAdvance(muster_.isEmpty() ? text_ : muster_) + 2, masse.height()};
+}
+
+QSize TextAnzeige::minimumSizeHint() const {
+    return {1, 1};
+}
+
+void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::TextAntialiasing);
+    maler.setPen(farbe_.isValid() ? farbe_ : palette().color(QPalette::WindowText));
+    QFont schrift = schrift_;
+    QString text = text_;
+    const QFontMetricsF masse(schrift);
+    const double breite = std::max(masse.horizontalAdvance(text), 1.0);
+    const double faktor = std::min(width() / breite, height() / masse.capHeight());
+    if (faktor < 1) {
+        schrift.setPixelSize(
+            std::max(6, static_cast<int>(schrift.pixelSize() * std::max(faktor, kleinste_verkleinerung))));
+        text = QFontMetrics(schrift).elidedText(text, Qt::ElideRight, width());
+    }
+    maler.setFont(schrift);
+    maler.drawText(rect(), static_cast<int>(ausrichtung_) | Qt::TextSingleLine, text);
+}
+
+}  // namespace tarvel::ui

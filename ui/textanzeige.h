@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tarvel::ui {
+
+/// One line of text that fills its place: it shrinks rather than push its neighbours, and a change of the text repaints
+/// this widget alone. Cut with "…" if it would become too small to read.
+class TextAnzeige : public QWidget {
+public:
+    explicit TextAnzeige(QWidget* eltern = nullptr);
+
+    void setText(const QString& text);
+    QString text() const { return text_; }
+    void setSchriftPx(int px);
+    void setFett(bool fett);
+    void setFarbe(const QColor& farbe);
+    void setAusrichtung(Qt::Alignment ausrichtung);
+    /// Takes the width of this text at the given size, whatever is shown.
+    void setMusterText(const QString& muster);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QString text_;
+    QString muster_;
+    QFont schrift_;
+    QColor farbe_;
+    Qt::Alignment ausrichtung_ = Qt::AlignCenter;
+};
+
+}  // namespace tarvel::ui
