@@ -114,9 +114,9 @@ TEST_F(Tastatur, JedeTasteInJedemZustandIstUngefaehrlich) {
 TEST_F(Tastatur, ZeitstempelKollidierenNicht) {
     zeitbasis& zeit = t.p.rennen.zeit;
     const zeit_ms jetzt = zeit.messzeit_lesen();
-    std::vector<zeit_ms> zuschlaege;
-    for (int mal = 0; mal < 11; ++mal) {
-        zuschlaege.push_back(zeit.ereignis_zeit_lesen() - jetzt);
+    std::vector<zeit_ms> zuschlaege(11);
+    for (zeit_ms& zuschlag : zuschlaege) {
+        zuschlag = zeit.ereignis_zeit_lesen() - jetzt;
     }
     EXPECT_EQ(zuschlaege, (std::vector<zeit_ms>{1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1}));
 }

@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QTest>
+
+#include "tests/plattform/testprogramm.h"
+#include "ui/oberflaeche.h"
+
+namespace tarvel {
+namespace {
+
+/// The program with its real windows, on the test machine.
+class Oberflaeche : public testing::Test {
+protected:
+    template <class Widget>
+    Widget* finde(QWidget& fenster, const char* name) {
+        auto* widget = fenster.findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+    void klick(QWidget& fenster, const char* name) {
+        QTest::mouseClick(finde<QAbstractButton>(fenster, name), Qt::LeftButton);
+    }
+    void tippen(QWidget& fenster, const char* name, const char* text) {
+        auto* zeile = finde<QLineEdit>(fenster, name);
+        zeile->selectAll();
+        QTest::keyClicks(zeile, text);
+    }
+    /// Keys as the window system sends them: to the widget that has the focus.
+    void taste(QWidget& fenster, char zeichen) {
+        fenster.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
+        QTest::keyClick(fenster.focusWidget() != nullptr ? fenster.focusWidget() : &fenster, zeichen);
+    }
+    QString anzeige(QWidget& fenster, const char* name) {
+        o.takt.ausfuehren();
+        return finde<ui::TextAnzeige>(fenster, name)->text();
+    }
+
+    test::testprogramm t;
+    ui::Oberflaeche o{t.p};
+
+    void SetUp() override {
+        t.p.fenster.zeigen("Form1");
+        o.takt.ausfuehren();
+    }
+};
+
+TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
+    klick(o.form1, "Form1.spur_2");
+    klick(o.form1, "Form1.spur_3");
+    tippen(o.form1, "Form1.renndauer", "0,30");
+    tippen(o.form1, "Form1.lspur_0", "10");
+    finde<QComboBox>(o.form1, "Form1.fahrer_0")->setEditText("Käthe");
+    klick(o.form1, "Form1.Command1");
+    ASSERT_TRUE(o.bahn1.isVisible());
+    EXPECT_EQ(anzeige(o.bahn1, "bahn1.namenslabel_1"), "Käthe");
+    EXPECT_FALSE(finde<QWidget>(o.bahn1, "bahn1.bahnshape_3")->isVisible());
+    klick(o.bahn1, "bahn1.Command1");
+    t.maschine.laufen(1000);
+    taste(o.bahn1, '1');
+    taste(o.bahn1, '2');
+    t.maschine.laufen(8000);
+    taste(o.bahn1, '2');
+    t.maschine.laufen(1000);
+    EXPECT_EQ(anzeige(o.bahn1, "bahn1.zaehler_2"), "1");
+    EXPECT_EQ(anzeige(o.bahn1, "bahn1.lrunde_2"), "08,000");
+    EXPECT_EQ(anzeige(o.bahn1, "bahn1.l_PosAnz_1"), "1");
+    EXPECT_EQ(finde<QListView>(o.bahn1, "bahn1.t_liste_1")->model()->rowCount(), 2);
+    t.maschine.laufen(21000);
+    ASSERT_TRUE(o.auswertung.isVisible());
+    EXPECT_EQ(anzeige(o.auswertung, "auswertung.fahrer_0"), "Käthe");
+    EXPECT_EQ(anzeige(o.auswertung, "auswertung.platz_1"), "1.");
+    EXPECT_LT(finde<QWidget>(o.auswertung, "auswertung.Frame_1")->y(),
+              finde<QWidget>(o.auswertung, "auswertung.Frame_0")->y());
+    klick(o.auswertung, "auswertung.Command5");
+    EXPECT_FALSE(o.auswertung.isVisible());
+    EXPECT_FALSE(o.bahn1.isVisible());
+    EXPECT_TRUE(o.form1.isVisible());
+}
+
+TEST_F(Oberflaeche, TasteZaehltEinmalUndGehaltenGarNichtNoch) {
+    t.p.belegung.vorbelegen(belegung_stufe::standard);
+    t.starten("Zeit", "5", {1});
+    t.spur(1).runden = 5;
+    o.takt.ausfuehren();
+    taste(o.bahn1, '!');
+    EXPECT_EQ(t.spur(1).runden, 4);
+    QKeyEvent gehalten(QEvent::KeyPress, Qt::Key_Exclam, Qt::ShiftModifier, "!", true);
+    QCoreApplication::sendEvent(o.bahn1.focusWidget() != nullptr ? o.bahn1.focusWidget() : &o.bahn1, &gehalten);
+    EXPECT_EQ(t.spur(1).runden, 4);
+}
+
+TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {
+    t.einrichten("Zeit", "5", {1});
+    o.takt.ausfuehren();
+    for (int mal = 0; mal < 3; ++mal) {
+        QWidget* ziel = o.bahn1.focusWidget();
+        QTest::keyClick(ziel != nullptr ? ziel : &o.bahn1, Qt::Key_Return);
+        o.takt.ausfuehren();
+        t.maschine.laufen(50);
+    }
+    EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft());
+    EXPECT_TRUE(o.bahn1.isVisible());
+}
+
+TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
+    t.einrichten("Zeit", "1", {1});
+    o.bahn1.close();
+    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    t.starten("Zeit", "1", {1});
+    t.maschine.laufen(500);
+    o.bahn1.close();
+    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
+    t.starten("Zeit", "1", {1});
+    t.maschine.laufen(60001);
+    o.auswertung.close();
+    EXPECT_FALSE(o.bahn1.isVisible());
+    t.p.form1.command_tasten.klicken();
+    o.tastatur.close();
+    EXPECT_FALSE(t.p.fenster.ist_offen("Tastaturbelegung"));
+    t.p.fenster.zeigen("Form3");
+    o.form3.close();
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+    o.form1.close();
+    EXPECT_EQ(t.maschine.beendet, 1);
+    EXPECT_FALSE(o.form1.isVisible());
+}
+
+TEST_F(Oberflaeche, JedesFeldHatNamenUndAnsage) {
+    for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.tastatur)}) {
+        for (const QLineEdit* zeile : fenster->findChildren<QLineEdit*>()) {
+            if (zeile->window() == fenster && qobject_cast<QComboBox*>(zeile->parentWidget()) == nullptr) {
+                EXPECT_FALSE(zeile->accessibleName().isEmpty()) << zeile->objectName().toStdString();
+                EXPECT_TRUE(zeile->objectName().startsWith(fenster->objectName() + "."))
+                    << zeile->objectName().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(Oberflaeche, UnfugInDenFeldernWirdBerichtigt) {
+    for (const char* name : {"Form1.renndauer", "Form1.stddauer", "Form1.wertmin", "Form1.massstab", "Form1.lspur_0"}) {
+        tippen(o.form1, name, "-9e99xy,.,");
+    }
+    klick(o.form1, "Form1.Command1");
+    o.takt.ausfuehren();
+    EXPECT_EQ(finde<QLineEdit>(o.form1, "Form1.lspur_0")->text(), "25");
+    EXPECT_EQ(finde<QLineEdit>(o.form1, "Form1.wertmin")->text(), "5");
+    EXPECT_FALSE(o.bahn1.isVisible());
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+}
+
+TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
+    for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.bahn1),
+                             static_cast<QWidget*>(&o.auswertung), static_cast<QWidget*>(&o.tastatur)}) {
+        const QSize platz = fenster->minimumSizeHint();
+        EXPECT_LE(platz.width(), 1024) << fenster->objectName().toStdString();
+        EXPECT_LE(platz.height(), 740) << fenster->objectName().toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace tarvel

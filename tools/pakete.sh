@@ -1,0 +1,18 @@
+# Sourced by run.sh and test.sh: pakete_sicherstellen <package>... installs what is missing, without a question.
+pakete_sicherstellen() {
+    command -v dpkg-query >/dev/null || return 0
+    local fehlend=() paket
+    for paket in "$@"; do
+        dpkg-query -W -f='${Status}' "$paket" 2>/dev/null | grep -q 'install ok installed' || fehlend+=("$paket")
+    done
+    [ ${#fehlend[@]} -eq 0 ] && return 0
+    local als_root=()
+    [ "$(id -u)" -eq 0 ] || als_root=(sudo)
+    echo "Installiere: ${fehlend[*]}"
+    "${als_root[@]}" apt-get update -qq
+    "${als_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${fehlend[@]}" >/dev/null
+}
+
+# qt6-base-dev brings the run-time libraries and the window system plugin with it
+PAKETE_BAU=(g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core)
+PAKETE_TEST=(libgtest-dev)

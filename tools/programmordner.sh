@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds the release program and lays the program folder Tarvel/ out. A file that is there stays as it is, but for the
+# program itself.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. tools/pakete.sh
+pakete_sicherstellen "${PAKETE_BAU[@]}"
+
+# A newer compiler may know new warnings; they must not keep anybody from racing.
+cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" >/dev/null
+cmake --build --preset release --target tarvel
+
+mkdir -p Tarvel
+cp -f build/release/ui/tarvel Tarvel/tarvel.neu
+mv -f Tarvel/tarvel.neu Tarvel/tarvel
+if [ -d data ]; then
+    (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
+        [ -e "Tarvel/$datei" ] && continue
+        mkdir -p "Tarvel/$(dirname "$datei")"
+        cp "data/$datei" "Tarvel/$datei"
+    done
+fi

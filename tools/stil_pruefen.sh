@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Format and static checks of our own code. They hold for the tool version of Debian 12; others format differently.
+#   tools/stil_pruefen.sh            both
+#   tools/stil_pruefen.sh format     the format alone
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. tools/pakete.sh
+pakete_sicherstellen clang-format clang-tidy
+
+version=14
+case "$(clang-format --version)" in
+*"version $version."*) ;;
+*)
+    echo "clang-format $version nicht vorhanden: Stil nicht geprüft"
+    exit 0
+    ;;
+esac
+git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror
+[ "${1:-}" = format ] && exit 0
+cmake --preset debug -DTARVEL_BENCHMARKS=OFF >/dev/null
+git ls-files '*.cpp' | grep -v '^benchmarks/' | xargs -P 2 -n 4 clang-tidy -p build/debug --quiet 2>/dev/null
