@@ -177,7 +177,8 @@ void form1::renndauer_normalisieren() {
 
     std::string neu = zahl_text(dauer_minuten_);
     if (dauer_sekunden_ >= 1) {
-        neu += "," + ziffern(dauer_sekunden_, 2);
+        neu += ',';
+        neu += ziffern(dauer_sekunden_, 2);
     }
     renndauer.text(neu);
 }

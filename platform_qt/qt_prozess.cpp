@@ -27,7 +27,9 @@ bool QtProzess::ist_einzige_instanz() {
 }
 
 void QtProzess::beenden() {
-    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+    // not quit(): that would ask the windows again, and they leave closing to the logic
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
 }
 
 }  // namespace tarvel::qt

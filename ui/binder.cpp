@@ -195,13 +195,14 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QStr
     return widget;
 }
 
-QListView* Binder::listenfeld(liste& element, const QString& name, const QString& ansage) {
+QListView* Binder::listenfeld(liste& element, const QString& name, const QString& ansage, Qt::Alignment ausrichtung) {
     auto* widget = new QListView(eltern_);
     widget->setAccessibleName(ansage);
     widget->setUniformItemSizes(true);
     widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* modell = new ListenModell(element, widget);
+    modell->setAusrichtung(ausrichtung);
     widget->setModel(modell);
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
                      [&element](const QModelIndex& zeile) { element.markieren(zeile.row()); });

@@ -35,7 +35,8 @@ public:
     QLineEdit* zeile(feld& element, const QString& name, const QString& ansage);
     QCheckBox* kasten(haken& element, const QString& name);
     QComboBox* auswahlfeld(auswahl& element, const QString& name, const QString& ansage);
-    QListView* listenfeld(liste& element, const QString& name, const QString& ansage);
+    QListView* listenfeld(liste& element, const QString& name, const QString& ansage,
+                          Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter);
     Lampe* lampe(bild& element, const QString& name, const QColor& farbe);
     /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.
     void verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich);

@@ -4,10 +4,13 @@ namespace tarvel::ui {
 
 QVariant ListenModell::data(const QModelIndex& zeile, int rolle) const {
     const auto nummer = static_cast<std::size_t>(zeile.row());
-    if (rolle != Qt::DisplayRole || !zeile.isValid() || nummer >= quelle_.zeilen().size()) {
+    if (!zeile.isValid() || nummer >= quelle_.zeilen().size()) {
         return {};
     }
-    return QString::fromStdString(quelle_.zeilen()[nummer]);
+    if (rolle == Qt::TextAlignmentRole) {
+        return static_cast<int>(ausrichtung_);
+    }
+    return rolle == Qt::DisplayRole ? QVariant(QString::fromStdString(quelle_.zeilen()[nummer])) : QVariant();
 }
 
 void ListenModell::abgleichen() {

@@ -14,9 +14,11 @@ public:
     int rowCount(const QModelIndex& eltern = {}) const override { return eltern.isValid() ? 0 : anzahl_; }
     QVariant data(const QModelIndex& zeile, int rolle) const override;
     void abgleichen();
+    void setAusrichtung(Qt::Alignment ausrichtung) { ausrichtung_ = ausrichtung; }
 
 private:
     const liste& quelle_;
+    Qt::Alignment ausrichtung_ = Qt::AlignLeft | Qt::AlignVCenter;
     int anzahl_ = 0;
     unsigned stand_ = 0;
 };

@@ -51,7 +51,8 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     titel("beste Runde");
     zeigen(bahn.brunde[spur], "brunde", schrift_zeit);
     zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);
-    liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), ansage + "Rundenliste");
+    liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), ansage + "Rundenliste",
+                               Qt::AlignCenter);
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setFocusPolicy(Qt::NoFocus);
     liste_->setSelectionMode(QAbstractItemView::NoSelection);
