@@ -13,6 +13,8 @@ namespace fs = std::filesystem;
 namespace tarvel {
 namespace {
 
+constexpr const char* neben_endung = ".tarvel-neu";
+
 constexpr std::size_t zeile_max = 4000;
 constexpr std::uintmax_t datei_max = std::uintmax_t{16} * 1024 * 1024;  // far above any file of the program
 
@@ -20,9 +22,20 @@ fs::path aus_utf8(std::string_view text) {
     return {std::u8string(text.begin(), text.end())};
 }
 
+/// Empty for a name that cannot be told in UTF-8.
 std::string als_utf8(const fs::path& pfad) {
-    const std::u8string text = pfad.u8string();
-    return {text.begin(), text.end()};
+    try {
+        const std::u8string text = pfad.u8string();
+        return {text.begin(), text.end()};
+    } catch (const std::system_error&) {
+        return {};
+    }
+}
+
+/// Folders from Windows hold upper-case names too.
+bool gleich_ohne_gross_klein(std::string_view a, std::string_view b) {
+    const auto klein = [](char zeichen) { return zeichen >= 'A' && zeichen <= 'Z' ? zeichen + 32 : zeichen; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return klein(x) == klein(y); });
 }
 
 }  // namespace
@@ -30,7 +43,12 @@ std::string als_utf8(const fs::path& pfad) {
 fs::path dateien::pfad(std::string_view name) const {
     std::string text(name);
     std::replace(text.begin(), text.end(), '\\', '/');
-    const fs::path ziel = aus_utf8(text).lexically_normal();
+    fs::path ziel;
+    try {
+        ziel = aus_utf8(text).lexically_normal();
+    } catch (const std::system_error&) {
+        return {};
+    }
     if (ziel.is_absolute() || ziel.has_root_path() || (!ziel.empty() && *ziel.begin() == "..")) {
         return {};
     }
@@ -69,9 +87,12 @@ bool dateien::zeilen_schreiben(std::string_view name, const std::vector<std::str
     }
     fs::create_directories(datei.parent_path(), fehler);
     fs::path daneben = datei;
-    daneben += ".neu";
+    daneben += neben_endung;
     {
         std::ofstream ausgabe(daneben, std::ios::binary | std::ios::trunc);
+        if (!ausgabe) {
+            return false;
+        }
         for (const std::string& zeile : zeilen) {
             ausgabe << nach_1252(zeile) << "\r\n";
         }
@@ -118,7 +139,7 @@ bool dateien::kopieren(std::string_view alt, std::string_view neu) const {
 bool dateien::loeschen(std::string_view name) const {
     const fs::path datei = pfad(name);
     std::error_code fehler;
-    return !datei.empty() && fs::remove(datei, fehler) && !fehler;
+    return !datei.empty() && fs::is_regular_file(datei, fehler) && fs::remove(datei, fehler) && !fehler;
 }
 
 std::vector<std::string> dateien::auflisten(std::string_view ordner, std::string_view anfang,
@@ -133,8 +154,9 @@ std::vector<std::string> dateien::auflisten(std::string_view ordner, std::string
          eintrag.increment(fehler)) {
         std::error_code egal;
         std::string name = als_utf8(eintrag->path().filename());
-        if (eintrag->is_regular_file(egal) && name.size() >= anfang.size() + ende.size() && name.starts_with(anfang) &&
-            name.ends_with(ende)) {
+        if (eintrag->is_regular_file(egal) && name.size() >= anfang.size() + ende.size() &&
+            gleich_ohne_gross_klein(std::string_view(name).substr(0, anfang.size()), anfang) &&
+            gleich_ohne_gross_klein(std::string_view(name).substr(name.size() - ende.size()), ende)) {
             namen.push_back(std::move(name));
         }
     }

@@ -17,7 +17,6 @@ public:
 
     /// Place of the file on the disk; empty if the name leads out of the program folder.
     std::filesystem::path pfad(std::string_view name) const;
-    const std::filesystem::path& programmordner() const { return ordner_; }
 
     /// The file's lines as UTF-8, without line ends; at most `zeilen_max` of them, each cut at 4000 bytes.
     /// None if the file cannot be read.
@@ -33,7 +32,8 @@ public:
     bool kopieren(std::string_view alt, std::string_view neu) const;
     bool loeschen(std::string_view name) const;
 
-    /// Names (without folder) of the files in `ordner` that begin and end as given, in the order of their names.
+    /// Names (without folder) of the files in `ordner` that begin and end as given, in upper or lower case, in the
+    /// order of their names.
     std::vector<std::string> auflisten(std::string_view ordner, std::string_view anfang, std::string_view ende) const;
 
 private:

@@ -10,17 +10,8 @@ namespace tarvel {
 namespace {
 
 constexpr int kleiner_bildschirm_px = 720;  // on a lower screen lanes 5 and 6 cannot be used
-constexpr zeit_ms sperrzuschlag_ms = 100;   // a single race accepts laps only this much above the entered minimum
-
-/// Number as text without needless zeros, "." as decimal mark.
-std::string zahl_text(double zahl) {
-    if (zahl == std::trunc(zahl) && std::abs(zahl) < 1e15) {
-        return std::to_string(static_cast<long long>(zahl));
-    }
-    std::string text = std::to_string(zahl);
-    text.erase(text.find_last_not_of('0') + 1);
-    return text;
-}
+constexpr int name_laenge_max = 40;
+constexpr zeit_ms sperrzuschlag_ms = 100;  // a single race accepts laps only this much above the entered minimum
 
 void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
     const double zahl = zahl_lesen(wert.text());
@@ -31,7 +22,11 @@ void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
 
 }  // namespace
 
-form1::form1(umgebung um) : um_(um) {
+form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000)) {
+    timer1_->bei_tick = [this] {
+        timer1_->aus();
+        bildschirm_anpassen();
+    };
     Command1.bei_klick = [this] { Command1_Click(); };
     Command2.bei_klick = [this] {
         if (beenden) {
@@ -80,8 +75,26 @@ void form1::laden() {
         fahrer[i].frei(true);
         auto_[i].eintraege(fahrzeuge);
         auto_[i].frei(true);
+        fahrer[i].laenge_max(name_laenge_max);
+        auto_[i].laenge_max(name_laenge_max);
     }
+    farben_einstellen();
     rennart_geaendert();
+    timer1_->an();
+}
+
+void form1::farben_einstellen() {
+    for (const int nummer : alle_spuren) {
+        spurfarbe.at(feld_index(nummer)).hintergrund(um_.einst.farben_spur[nummer]);
+    }
+}
+
+bool form1::kleiner_bildschirm() const {
+    return um_.bildschirm.groesse().hoehe < kleiner_bildschirm_px;
+}
+
+void form1::bildschirm_anpassen() {
+    startbild.sichtbar(!kleiner_bildschirm());  // the fields need the room
 }
 
 void form1::standard_setzen() {
@@ -168,14 +181,14 @@ void form1::renndauer_normalisieren() {
     std::string text = renndauer.text();
     werte_pruefen2(text);
     const std::size_t punkt = text.find('.');
-    dauer_minuten_ = zahl_lesen(text.substr(0, punkt));
+    dauer_minuten_ = ganzzahl_lesen(text.substr(0, punkt), 0, 99999999);
     std::string sekunden = punkt == std::string::npos ? "00" : text.substr(punkt + 1);
     if (sekunden.size() == 1) {
         sekunden += "0";  // 5,3 means five and a half minutes
     }
-    dauer_sekunden_ = static_cast<int>(ganzzahl_lesen(sekunden, 0, 59));
+    dauer_sekunden_ = ganzzahl_lesen(sekunden, 0, 59);
 
-    std::string neu = zahl_text(dauer_minuten_);
+    std::string neu = std::to_string(dauer_minuten_);
     if (dauer_sekunden_ >= 1) {
         neu += ',';
         neu += ziffern(dauer_sekunden_, 2);
@@ -184,8 +197,7 @@ void form1::renndauer_normalisieren() {
 }
 
 zeit_ms form1::renndauer_lesen() const {
-    return std::llround(zahl_lesen(stddauer.text()) * 3600000 + dauer_minuten_ * 60000) +
-           zeit_ms{1000} * dauer_sekunden_;
+    return std::llround(zahl_lesen(stddauer.text()) * 3600000) + dauer_minuten_ * 60000 + dauer_sekunden_ * 1000;
 }
 
 void form1::spuren_zaehlen() {
@@ -218,7 +230,7 @@ void form1::Command1_Click() {
     renn_parameter& param = um_.param;
     param.auswertung_nach_rennen = um_.einst.auswertung_nach;
     param.wettkampf_kein = true;
-    if (um_.bildschirm.groesse().hoehe < kleiner_bildschirm_px) {
+    if (kleiner_bildschirm()) {
         for (const std::size_t index : {std::size_t{4}, std::size_t{5}}) {
             spur[index].gesetzt(false);
             spur_geaendert(index);

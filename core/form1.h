@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
@@ -24,6 +25,7 @@ public:
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         const plattform::bildschirm& bildschirm;
+        plattform::zeitgeber_dienst& zeitgeber;
     };
 
     explicit form1(umgebung um);
@@ -46,10 +48,12 @@ public:
     std::array<auswahl, spuren_max> fahrer;
     std::array<auswahl, spuren_max> auto_;
     bezeichnung label_spurlaenge;
-    bezeichnung modus_label;  ///< status line: the timing hardware in force
-    befehl Command1;          ///< single race
-    befehl Command2;          ///< end of the program
-    befehl command_tasten;    ///< key assignment
+    bild startbild;                          ///< picture over the fields
+    std::array<form, spuren_max> spurfarbe;  ///< colour of the lane
+    bezeichnung modus_label;                 ///< status line: the timing hardware in force
+    befehl Command1;                         ///< single race
+    befehl Command2;                         ///< end of the program
+    befehl command_tasten;                   ///< key assignment
 
     /// Switches the track power on; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
@@ -58,8 +62,10 @@ public:
 
     /// Load handler of the window.
     void laden();
+    void entladen() { timer1_->aus(); }
     /// Every field to its default.
     void standard_setzen();
+    void farben_einstellen();
     void modus_anzeigen();
 
     /// Brings every field within its limits, silently.
@@ -78,9 +84,13 @@ private:
     void spur_geaendert(std::size_t index);
     zeit_ms renndauer_lesen() const;
 
+    void bildschirm_anpassen();
+    bool kleiner_bildschirm() const;
+
     umgebung um_;
-    double dauer_minuten_ = 0;
-    int dauer_sekunden_ = 0;
+    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< once, a second after the window has appeared
+    zeit_ms dauer_minuten_ = 0;
+    zeit_ms dauer_sekunden_ = 0;
 };
 
 }  // namespace tarvel

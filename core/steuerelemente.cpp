@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/text.h"
+
 namespace tarvel {
 
 void steuerelement::text(std::string_view neu) {
@@ -28,7 +30,10 @@ void befehl::klicken() {
     }
 }
 
-void feld::eingeben(std::string_view neu) {
+void eingabe_element::eingeben(std::string_view neu) {
+    if (laenge_max_ > 0) {
+        neu = links(neu, static_cast<std::size_t>(laenge_max_));
+    }
     if (!bedienbar() || neu == text()) {
         return;
     }
@@ -49,15 +54,8 @@ void haken::umschalten() {
 }
 
 void auswahl::eingeben(std::string_view neu) {
-    if (!bedienbar() || neu == text()) {
-        return;
-    }
-    if (!frei_ && std::find(eintraege_.begin(), eintraege_.end(), neu) == eintraege_.end()) {
-        return;
-    }
-    text(neu);
-    if (bei_aenderung) {
-        bei_aenderung();
+    if (frei_ || std::find(eintraege_.begin(), eintraege_.end(), neu) != eintraege_.end()) {
+        eingabe_element::eingeben(neu);
     }
 }
 

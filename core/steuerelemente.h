@@ -114,11 +114,12 @@ public:
     void klicken();
 };
 
-/// A text field.
-class feld : public steuerelement {
+/// A control that the operator types into.
+class eingabe_element : public steuerelement {
 public:
     std::function<void()> bei_aenderung;
-    void eingeben(std::string_view neu);
+    /// What is too long is cut.
+    virtual void eingeben(std::string_view neu);
 
     /// Most characters that the operator may type; 0 is no limit.
     int laenge_max() const { return laenge_max_; }
@@ -127,6 +128,9 @@ public:
 private:
     int laenge_max_ = 0;
 };
+
+/// A text field.
+class feld : public eingabe_element {};
 
 /// A tick box.
 class haken : public steuerelement {
@@ -141,14 +145,13 @@ private:
 };
 
 /// A choice from a list. Its text is one of the entries, or free text if `frei` is set.
-class auswahl : public steuerelement {
+class auswahl : public eingabe_element {
 public:
-    std::function<void()> bei_aenderung;
     const std::vector<std::string>& eintraege() const { return eintraege_; }
     void eintraege(const std::vector<std::string>& neu) { setzen(eintraege_, neu); }
     bool frei() const { return frei_; }
     void frei(bool neu) { setzen(frei_, neu); }
-    void eingeben(std::string_view neu);
+    void eingeben(std::string_view neu) override;
 
 private:
     std::vector<std::string> eintraege_;

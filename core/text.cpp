@@ -9,11 +9,11 @@ namespace {
 
 constexpr char32_t ungueltig = 0xFFFD;
 
-/// Code points of the bytes 0x80 to 0x9F; 0 where Windows-1252 has no character.
-constexpr std::array<char32_t, 32> oberer_steuerbereich{0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-                                                        0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+/// Code points of the bytes 0x80 to 0x9F.
+constexpr std::array<char32_t, 32> oberer_steuerbereich{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 bool ist_folgebyte(char zeichen) {
     return (static_cast<unsigned char>(zeichen) & 0xC0U) == 0x80U;
@@ -33,8 +33,10 @@ char32_t naechstes_zeichen(std::string_view& rest) {
     for (std::size_t i = 1; i <= folgen; ++i) {
         zeichen = (zeichen << 6U) | (static_cast<unsigned char>(rest[i]) & 0x3FU);
     }
-    rest.remove_prefix(folgen + 1);
-    return zeichen;
+    constexpr std::array<char32_t, 4> kleinstes{0, 0x80, 0x800, 0x10000};
+    const bool zu_lang = zeichen < kleinstes.at(folgen);
+    rest.remove_prefix(zu_lang ? 1 : folgen + 1);
+    return zu_lang ? ungueltig : zeichen;
 }
 
 void anhaengen(std::string& text, char32_t zeichen) {
@@ -56,7 +58,7 @@ std::optional<int> code_von(char32_t zeichen) {
         return static_cast<int>(zeichen);
     }
     const auto* const stelle = std::find(oberer_steuerbereich.begin(), oberer_steuerbereich.end(), zeichen);
-    if (zeichen == 0 || stelle == oberer_steuerbereich.end()) {
+    if (stelle == oberer_steuerbereich.end()) {
         return std::nullopt;
     }
     return 0x80 + static_cast<int>(stelle - oberer_steuerbereich.begin());
@@ -71,6 +73,14 @@ bool ist_ziffer(char zeichen) {
 std::size_t laenge(std::string_view text) {
     return static_cast<std::size_t>(
         std::count_if(text.begin(), text.end(), [](char zeichen) { return !ist_folgebyte(zeichen); }));
+}
+
+std::string_view links(std::string_view text, std::size_t anzahl) {
+    std::size_t ende = 0;
+    while (ende < text.size() && (ist_folgebyte(text[ende]) || anzahl-- > 0)) {
+        ++ende;
+    }
+    return text.substr(0, ende);
 }
 
 std::string_view gekuerzt(std::string_view text) {
@@ -88,17 +98,18 @@ double zahl_lesen(std::string_view text) {
         text.remove_prefix(1);
     }
     double wert = 0;
-    double stelle = 0;  // weight of the next decimal; 0 in front of the decimal mark
+    double stelle = 1;  // weight of the last digit read
+    bool nach_punkt = false;
     for (const char zeichen : text) {
-        if (zeichen == '.' && stelle == 0) {
-            stelle = 0.1;
+        if (zeichen == '.' && !nach_punkt) {
+            nach_punkt = true;
         } else if (!ist_ziffer(zeichen)) {
             break;
-        } else if (stelle == 0) {
-            wert = wert * 10 + (zeichen - '0');
-        } else {
-            wert += (zeichen - '0') * stelle;
+        } else if (nach_punkt) {
             stelle /= 10;
+            wert += (zeichen - '0') * stelle;
+        } else {
+            wert = wert * 10 + (zeichen - '0');
         }
     }
     return negativ ? -wert : wert;
@@ -155,9 +166,7 @@ std::optional<int> ansi_code(std::string_view zeichen) {
 std::string ansi_zeichen(int code) {
     std::string text;
     const auto byte = static_cast<unsigned>(code) & 0xFFU;
-    const bool sonderfall = byte >= 0x80 && byte < 0xA0;
-    const char32_t zeichen = sonderfall ? oberer_steuerbereich.at(byte - 0x80) : byte;
-    anhaengen(text, sonderfall && zeichen == 0 ? U'?' : zeichen);
+    anhaengen(text, byte >= 0x80 && byte < 0xA0 ? oberer_steuerbereich.at(byte - 0x80) : byte);
     return text;
 }
 

@@ -9,6 +9,8 @@
 namespace tarvel {
 
 std::size_t laenge(std::string_view text);
+/// The first `anzahl` characters.
+std::string_view links(std::string_view text, std::size_t anzahl);
 
 /// Without blanks and tabs at both ends.
 std::string_view gekuerzt(std::string_view text);
@@ -27,7 +29,8 @@ std::string ziffern(std::int64_t zahl, int stellen);
 /// Replaces each "," in `text` by "."; the text is changed in place.
 void werte_pruefen2(std::string& text);
 
-/// Characters outside Windows-1252 become "?". Broken UTF-8 becomes "?" too.
+/// Characters outside Windows-1252 become "?", and so does broken UTF-8. The five bytes without a character stand for
+/// the control characters of the same number, so that no byte is lost on the way.
 std::string nach_1252(std::string_view utf8);
 std::string von_1252(std::string_view bytes);
 

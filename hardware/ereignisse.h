@@ -19,7 +19,6 @@ namespace art {
 inline constexpr ereignis_art chaostaster = 1;
 inline constexpr ereignis_art ampel_gruen = 3;
 inline constexpr spuren<ereignis_art> rundenzaehlung{{16, 15, 14, 13, 34, 35}};
-inline constexpr ereignis_art anzahl = 60;  ///< arts 0 to 59
 }  // namespace art
 
 struct ereignis_zeile {

@@ -14,16 +14,8 @@ bool tastatur::ist(int taste, int zeile) const {
     return taste != tastenbelegung::keine_taste && taste == belegung_.taste(zeile);
 }
 
-bool tastatur::sondertaste_auswerten(int taste, bool chaos) {
+bool tastatur::rundenabzug_auswerten(int taste) {
     bool erledigt = false;
-    if (ist(taste, tastenbelegung::zeile_nacht) && !rennen_.beendet()) {
-        rennen_.bildschirm_dunkel();
-        erledigt = true;
-    }
-    if (chaos) {
-        ereignisse_.ereignis_melden(art::chaostaster);
-        erledigt = true;
-    }
     for (const int spur : alle_spuren) {
         if (ist(taste, zeile_rundenabzug + spur) && rennen_.runde_abziehen(spur)) {
             erledigt = true;
@@ -34,15 +26,23 @@ bool tastatur::sondertaste_auswerten(int taste, bool chaos) {
 
 void tastatur::taste_auswerten(int taste) {
     bool chaos = ist(taste, tastenbelegung::zeile_chaos);
+    bool nacht = ist(taste, tastenbelegung::zeile_nacht) && !rennen_.beendet();
     for (const int spur : alle_spuren) {
         if (ist(taste, zeile_chaostaster + spur)) {
-            // a personal button acts as the common chaos key from here on
+            // a personal button acts as the common chaos key from here on, and as nothing else
             ereignisse_.chaos_fahrer[spur] = true;
             taste = belegung_.taste(tastenbelegung::zeile_chaos);
             chaos = true;
+            nacht = false;
         }
     }
-    if (sondertaste_auswerten(taste, chaos)) {
+    if (nacht) {
+        rennen_.bildschirm_dunkel();
+    }
+    if (chaos) {
+        ereignisse_.ereignis_melden(art::chaostaster);
+    }
+    if (rundenabzug_auswerten(taste) || nacht || chaos) {
         return;
     }
     for (int zeile = erste_ereigniszeile; zeile <= letzte_ereigniszeile; ++zeile) {

@@ -28,7 +28,7 @@ public:
 
 private:
     bool ist(int taste, int zeile) const;
-    bool sondertaste_auswerten(int taste, bool chaos);
+    bool rundenabzug_auswerten(int taste);
 
     ereignis_tabelle& ereignisse_;
     const tastenbelegung& belegung_;

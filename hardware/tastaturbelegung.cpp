@@ -83,6 +83,7 @@ void tastaturbelegung::uebernehmen() {
     if (!pruefen()) {
         return;
     }
+    um_.belegung.leeren();
     for (const tastenzeile& zeile : tastenzeilen()) {
         um_.belegung.taste(zeile.zeile, feldcode(taste.at(static_cast<std::size_t>(zeile.zeile)).text()));
     }

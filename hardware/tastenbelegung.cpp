@@ -67,7 +67,7 @@ bool tastenbelegung::ist_belegt(int code) const {
 }
 
 void tastenbelegung::vorbelegen(belegung_stufe stufe) {
-    tasten_.fill(keine_taste);
+    leeren();
     for (const tastenzeile& zeile : tastenzeilen()) {
         if (zeile.ab <= stufe) {
             taste(zeile.zeile, ansi_code(zeile.taste).value_or(keine_taste));

@@ -42,6 +42,7 @@ public:
     /// Codes outside 1 to 255 count as no key.
     void taste(int zeile, int code);
     bool ist_belegt(int code) const;
+    void leeren() { tasten_.fill(keine_taste); }
     void vorbelegen(belegung_stufe stufe);
 
     /// False leaves the assignment as it was: no file, a file that is too short, or a line that is no number.

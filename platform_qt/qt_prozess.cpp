@@ -8,10 +8,8 @@ namespace tarvel::qt {
 namespace {
 
 QString sperrdatei() {
-    QString ordner = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (ordner.isEmpty()) {
-        ordner = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-    }
+    // the same place from the desktop and from a bare shell: no folder that hangs on the session
+    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
     QDir().mkpath(ordner);
     return ordner + "/tarvel.lock";
 }

@@ -10,7 +10,7 @@ namespace tarvel {
 programm::programm(const plattform::dienste& d)
     : dienste(d),
       ablage(d.programmordner),
-      form1({einst, txt, param, fenster, d.meldungen, d.bildschirm}),
+      form1({einst, txt, param, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, form1, ereignisse, belegung, ausgaben, fenster}),
@@ -26,7 +26,7 @@ programm::programm(const plattform::dienste& d)
 }
 
 void programm::fenster_anmelden() {
-    fenster.anmelden("Form1", {[this] { form1.laden(); }, {}});
+    fenster.anmelden("Form1", {[this] { form1.laden(); }, [this] { form1.entladen(); }});
     fenster.anmelden("Form3", {[this] { form3.laden(); }, [this] { form3.entladen(); }});
     fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
     fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});

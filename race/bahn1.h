@@ -33,6 +33,7 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_ge;
     std::array<bild, spuren_max> ampel_gr;
 
+    form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
     rennuhr_felder uhr2;  ///< second clock: time driven
     bezeichnung nachlauflabel;

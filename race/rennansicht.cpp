@@ -64,6 +64,7 @@ void rennansicht::spaltenansicht_oeffnen() {
 
 void rennansicht::farben_setzen() {
     bahn1& bahn = um_.bahn;
+    bahn.hintergrund.hintergrund(um_.einst.farben_ampel[1]);
     for (const int spur : alle_spuren) {
         const farbe spurfarbe = um_.einst.farben_spur[spur];
         bahn.namenslabel[spur].schriftfarbe(spurfarbe);
@@ -74,6 +75,7 @@ void rennansicht::farben_setzen() {
         bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.bahnshape[spur].hintergrund(um_.einst.farben_ampel[1]);
+        bahn.bahnshape[spur].schriftfarbe(spurfarbe);
     }
     for (rennuhr_felder* uhr : {&bahn.uhr1, &bahn.uhr2}) {
         uhr->uhrframe.schriftfarbe(um_.einst.farben_schrift[2]);

@@ -30,7 +30,7 @@ TEST_F(Dateien, SchreibtWindowsTextUndLegtOrdnerAn) {
 
 TEST_F(Dateien, FehlgeschlagenesSchreibenLaesstDieAlteDatei) {
     maschine.datei_schreiben("alt.ini", "alt\r\n");
-    std::filesystem::create_directory(maschine.ordner() / "alt.ini.neu");  // the place beside the file is taken
+    std::filesystem::create_directory(maschine.ordner() / "alt.ini.tarvel-neu");  // the place beside the file is taken
     EXPECT_FALSE(ablage.zeilen_schreiben("alt.ini", {"neu"}));
     EXPECT_EQ(maschine.datei_lesen("alt.ini"), "alt\r\n");
 }

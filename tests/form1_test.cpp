@@ -107,6 +107,13 @@ TEST_F(Form1, UnzulaessigeLaengeStartetNicht) {
     EXPECT_EQ(t.p.param.renn_ziel, 9999);
 }
 
+TEST_F(Form1, HinterEinerMeldungGehtDieZeitWeiter) {
+    t.p.fenster.zeigen("Form3");
+    t.maschine.waehrend_meldung = [this] { t.maschine.laufen(2000); };
+    t.einrichten("Zeit", "0", {1});
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+}
+
 TEST_F(Form1, OhneSpurKeinRennen) {
     t.einrichten("Zeit", "5", {});
     EXPECT_EQ(t.maschine.meldungen_gezeigt, meldungen{keine_spur});
@@ -136,6 +143,17 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechs) {
     t.maschine.bildschirm_groesse = {1280, 720};
     t.einrichten("Zeit", "5", {1, 5, 6});
     EXPECT_EQ(t.p.param.spuren_anzahl, 3);
+}
+
+TEST_F(Form1, KleinerBildschirmGibtDenFeldernDenPlatzDesBildes) {
+    t.maschine.laufen(1000);
+    EXPECT_TRUE(f.startbild.sichtbar());
+    test::test_plattform klein;
+    klein.bildschirm_groesse = {1024, 600};
+    programm p(klein.dienste());
+    p.starten();
+    klein.laufen(1000);
+    EXPECT_FALSE(p.form1.startbild.sichtbar());
 }
 
 TEST_F(Form1, RennartStelltDieFelderUm) {

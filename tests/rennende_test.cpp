@@ -191,6 +191,14 @@ TEST_F(Rennende, VonHandBeendetGibtGenauEinErgebnis) {
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{"sound\\re.wav"});
 }
 
+TEST_F(Rennende, FortgesetzteUhrZeigtDieRenndauer) {
+    t.starten("Zeit", "2", {1});
+    t.maschine.laufen(5001);
+    t.p.rennen.uhr.fortsetzen_uhreinstellen();
+    EXPECT_EQ(uhr(t.bahn().uhr1), "00:02:00,000");
+    EXPECT_EQ(uhr(t.bahn().uhr2), "00:00:05,000");
+}
+
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});

@@ -6,7 +6,22 @@
 namespace tarvel {
 namespace {
 
-TEST(Start, LegtOrdnerAnUndZeigtDieFensterDerReiheNach) {
+struct fenster_protokoll : fensteranzeige {
+    std::vector<std::string> gezeigt;
+    void zeigen(const std::string& name, anzeige_art /*art*/) override { gezeigt.push_back(name); }
+    void verbergen(const std::string& /*name*/) override {}
+};
+
+TEST(Start, ZeigtDieFensterDerReiheNach) {
+    test::test_plattform maschine;
+    programm p(maschine.dienste());
+    fenster_protokoll protokoll;
+    p.fenster.anzeigen_auf(&protokoll);
+    p.starten();
+    EXPECT_EQ(protokoll.gezeigt, (std::vector<std::string>{"Update_form", "Form1", "Form3"}));
+}
+
+TEST(Start, LegtOrdnerAnUndSchliesstDieStartbilder) {
     test::testprogramm t;
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
     EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
@@ -25,10 +40,11 @@ TEST(Start, LegtOrdnerAnUndZeigtDieFensterDerReiheNach) {
     EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
 }
 
-TEST(Start, ZweiteInstanzEndetOhneFensterUndOhneDateien) {
+TEST(Start, ZweiteInstanzMeldetSichUndRuehrtNichtsAn) {
     test::test_plattform maschine;
     maschine.erste_instanz = false;
     maschine.datei_schreiben("auto-1.csv", "alt");
+    maschine.datei_schreiben("tvk_taste.ini", "unsinn");
     programm p(maschine.dienste());
     EXPECT_FALSE(p.starten());
     ASSERT_EQ(maschine.meldungen_gezeigt.size(), 1U);
@@ -37,6 +53,8 @@ TEST(Start, ZweiteInstanzEndetOhneFensterUndOhneDateien) {
     EXPECT_EQ(maschine.beendet, 1);
     EXPECT_FALSE(p.fenster.ist_offen("Form1"));
     EXPECT_TRUE(maschine.datei_da("auto-1.csv"));
+    EXPECT_EQ(maschine.datei_lesen("tvk_taste.ini"), "unsinn");
+    EXPECT_FALSE(maschine.datei_da("Ergebnisse/Einzelrennen"));
 }
 
 TEST(Start, RaeumtAlteDateienUmUndAuf) {

@@ -42,6 +42,13 @@ TEST(Steuerelemente, GesperrtesOderVerborgenesNimmtNichtsAn) {
     EXPECT_FALSE(box.gesetzt());
 }
 
+TEST(Steuerelemente, ZuLangeEingabeWirdGekuerzt) {
+    feld text;
+    text.laenge_max(3);
+    text.eingeben("äöüß");
+    EXPECT_EQ(text.text(), "äöü");
+}
+
 TEST(Steuerelemente, FesteAuswahlNimmtNurIhreEintraege) {
     auswahl wahl;
     wahl.eintraege({"Zeit", "Runden"});

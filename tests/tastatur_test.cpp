@@ -60,6 +60,15 @@ TEST_F(Tastatur, PersoenlicherChaosknopfOhneGemeinsameTasteLoestNichtsAnderesAus
     EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
 }
 
+TEST_F(Tastatur, PersoenlicherChaosknopfSchaltetNieDieNacht) {
+    t.p.belegung.taste(tastenbelegung::zeile_nacht, 'c');  // the common chaos key
+    t.p.belegung.taste(54, 'y');
+    t.starten("Zeit", "5", {1});
+    t.taste("y");
+    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+}
+
 TEST_F(Tastatur, NachtbildschirmNurImRennen) {
     t.starten("Zeit", "1", {1});
     t.taste("n");
@@ -196,13 +205,15 @@ TEST_F(Tastatur, FensterVorlagen) {
     EXPECT_EQ(taste(17).text(), "ß");
     t.p.tastaturbelegung.Command5.klicken();
     EXPECT_EQ(taste(16).text(), "");
+    t.p.belegung.taste(40, 'x');  // a row without a field, from a file
     t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_FALSE(t.p.belegung.ist_belegt('x'));
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
     EXPECT_EQ(t.p.belegung.taste(16), tastenbelegung::keine_taste);
 }
 
 TEST_F(Tastatur, NichtSchreibbarMeldetSichUndBehaeltDieBelegung) {
-    std::filesystem::create_directory(t.maschine.ordner() / "tvk_taste.ini.neu");
+    std::filesystem::create_directory(t.maschine.ordner() / "tvk_taste.ini.tarvel-neu");
     t.p.form1.command_tasten.klicken();
     taste(16).eingeben("k");
     t.p.tastaturbelegung.Command1.klicken();

@@ -14,6 +14,7 @@ TEST(Text, ZahlLesenStopptAmErstenFremdenZeichen) {
     EXPECT_EQ(zahl_lesen("-3"), -3);
     EXPECT_EQ(zahl_lesen("+.5"), 0.5);
     EXPECT_EQ(zahl_lesen("1.2.3"), 1.2);
+    EXPECT_EQ(zahl_lesen("0." + std::string(400, '0') + "99"), 0);
     for (const char* ohne_ziffern : {"", " ", "-", ".", "abc", "--5", "ü"}) {
         EXPECT_EQ(zahl_lesen(ohne_ziffern), 0) << ohne_ziffern;
     }
@@ -27,6 +28,8 @@ TEST(Text, GanzzahlBleibtInIhrenGrenzen) {
 
 TEST(Text, ZeichenstattBytes) {
     EXPECT_EQ(laenge("Müller"), 6U);
+    EXPECT_EQ(links("Müller", 2), "Mü");
+    EXPECT_EQ(links("Mü", 5), "Mü");
     EXPECT_EQ(gekuerzt("\t Käfer \t"), "Käfer");
     EXPECT_EQ(gekuerzt("   "), "");
 }
@@ -36,16 +39,13 @@ TEST(Text, Windows1252HinUndZurueck) {
     for (int code = 1; code < 256; ++code) {
         alle.push_back(static_cast<char>(code));
     }
-    for (const char luecke : {'\x81', '\x8D', '\x8F', '\x90', '\x9D'}) {
-        std::erase(alle, luecke);
-    }
     EXPECT_EQ(nach_1252(von_1252(alle)), alle);
     EXPECT_EQ(nach_1252("ä€–ł漢"), "\xE4\x80\x96??");
-    EXPECT_EQ(von_1252("\xDF\x81"), "ß?");
+    EXPECT_EQ(von_1252("\xDF"), "ß");
 }
 
 TEST(Text, KaputtesUtf8WirdFragezeichenOhneSchaden) {
-    for (const char* kaputt : {"\xC3", "a\xE2\x82", "\xF0\x9F\x98", "\xFF\xFE", "\x80"}) {
+    for (const char* kaputt : {"\xC3", "a\xE2\x82", "\xF0\x9F\x98", "\xFF\xFE", "\x80", "\xE0\x81\x81"}) {
         const std::string bytes = nach_1252(kaputt);
         EXPECT_NE(bytes.find('?'), std::string::npos);
         EXPECT_LE(bytes.size(), 3U);

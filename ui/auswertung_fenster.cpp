@@ -35,8 +35,7 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, Bildtakt& takt, QWidget*
     aufbau->addLayout(reihen_, 1);
 
     auto* knoepfe = new QHBoxLayout;
-    QPushButton* zurueck = binder().knopf(logik.Command5, "Command5");
-    zurueck->setProperty("rolle", "haupt");
+    QPushButton* zurueck = binder().hauptknopf(logik.Command5, "Command5");
     zurueck->setMinimumSize(200, 46);
     knoepfe->addStretch();
     knoepfe->addWidget(zurueck);
@@ -61,7 +60,7 @@ void AuswertungFenster::ordnen() {
         reihen_->addWidget(zeile, 1);
     }
     for (std::size_t i = 1; i < folge.size(); ++i) {
-        setTabOrder(folge[i - 1], folge[i]);
+        setTabOrder(folge[i - 1]->tabziel(), folge[i]->tabziel());
     }
     skalieren();
 }

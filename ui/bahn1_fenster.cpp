@@ -35,10 +35,15 @@ const char* const knopf_regeln =
 Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("bahn1", takt, eltern), logik_(logik) {
     setWindowTitle("Rennbildschirm");
-    QPalette dunkel = palette();
-    dunkel.setColor(QPalette::Window, stil::farbe_von(logik.umgebung.einst.farben_ampel[1]));
-    dunkel.setColor(QPalette::WindowText, Qt::white);
-    setPalette(dunkel);
+    auto* grund = new QWidget(this);  // stands for the whole area, takes no room itself
+    grund->setAttribute(Qt::WA_TransparentForMouseEvents);
+    grund->resize(0, 0);
+    binder().verbinden(logik.bahn1.hintergrund, grund, "hintergrund", [this, &logik] {
+        QPalette dunkel = palette();
+        dunkel.setColor(QPalette::Window, stil::farbe_von(logik.bahn1.hintergrund.hintergrund().value_or(0)));
+        dunkel.setColor(QPalette::WindowText, Qt::white);
+        setPalette(dunkel);
+    });
 
     binder().skala(spalten_skala(1024, 768, spuren_max));
     auto* aufbau = new QVBoxLayout(this);
@@ -83,8 +88,7 @@ QWidget* Bahn1Fenster::befehlszeile() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(4, 2, 4, 0);
     aufbau->setSpacing(12);
-    QPushButton* start = binder().knopf(logik_.bahn1.Command1, "Command1");
-    start->setProperty("rolle", "haupt");
+    QPushButton* start = binder().hauptknopf(logik_.bahn1.Command1, "Command1");
     QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
     QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
     aufbau->addWidget(start, 2);
@@ -107,7 +111,6 @@ void Bahn1Fenster::nachtabschaltung() {
     binder().verbinden(logik_.bahn1.Nachtabschaltung, nacht_, "Nachtabschaltung", [this] {
         nacht_->setGeometry(rect());
         nacht_->raise();
-        nacht_->setVisible(logik_.bahn1.Nachtabschaltung.sichtbar());
     });
 }
 
@@ -116,6 +119,7 @@ void Bahn1Fenster::aufschlagen() {
         setGeometry(screen()->availableGeometry());
         showMaximized();
     }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     skalieren();
     raise();
     activateWindow();

@@ -7,9 +7,6 @@
 #include "ui/rennspalte.h"
 #include "ui/uhranzeige.h"
 
-class QGridLayout;
-class QHBoxLayout;
-
 namespace tarvel::ui {
 
 /// The race window, to be read from a distance. All characters typed while it is in front go to the race.

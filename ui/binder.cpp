@@ -24,6 +24,29 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
     }
 }
 
+/// A field for a single character takes the next one in place of the old, however it got the focus.
+class Eingabezeile final : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void focusInEvent(QFocusEvent* ereignis) override {
+        QLineEdit::focusInEvent(ereignis);
+        ersetzbar_machen();
+    }
+    void mouseReleaseEvent(QMouseEvent* ereignis) override {
+        QLineEdit::mouseReleaseEvent(ereignis);
+        ersetzbar_machen();
+    }
+
+private:
+    void ersetzbar_machen() {
+        if (maxLength() == 1) {
+            selectAll();
+        }
+    }
+};
+
 }  // namespace
 
 class Binder::Bindung final : public steuer_beobachter, public Abgleich {
@@ -49,6 +72,7 @@ public:
     void abgleichen() override {
         vorgemerkt_ = false;
         widget_->setEnabled(element_.aktiviert());
+        widget_->setVisible(element_.sichtbar());
         if (abgleich_) {
             abgleich_();
         }
@@ -88,10 +112,7 @@ void Binder::skala(double px_je_einheit) {
 QLabel* Binder::label(bezeichnung& element, const QString& name) {
     auto* widget = new QLabel(eltern_);
     widget->setTextFormat(Qt::PlainText);
-    verbinden(element, widget, name, [&element, widget] {
-        widget->setVisible(element.sichtbar());
-        text_nachfuehren(widget, element);
-    });
+    verbinden(element, widget, name, [&element, widget] { text_nachfuehren(widget, element); });
     return widget;
 }
 
@@ -104,7 +125,6 @@ TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double
     };
     schriften_.emplace_back(schrift);
     verbinden(element, widget, name, [&element, widget, schrift] {
-        widget->setVisible(element.sichtbar());
         schrift();
         widget->setText(als_text(element.text()));
         if (element.schriftfarbe()) {
@@ -124,22 +144,29 @@ TextAnzeige* Binder::beschriftung(const QString& text, double entwurf) {
 
 QPushButton* Binder::knopf(befehl& element, const QString& name) {
     auto* widget = new QPushButton(eltern_);
-    widget->setAutoDefault(true);
-    QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
-    verbinden(element, widget, name, [&element, widget] {
-        widget->setVisible(element.sichtbar());
-        text_nachfuehren(widget, element);
-    });
+    knopf_verbinden(widget, element, name);
     return widget;
 }
 
+QPushButton* Binder::hauptknopf(befehl& element, const QString& name) {
+    auto* widget = new QPushButton(eltern_);
+    widget->setProperty("rolle", "haupt");  // before the style looks at the widget for the first time
+    knopf_verbinden(widget, element, name);
+    return widget;
+}
+
+void Binder::knopf_verbinden(QPushButton* widget, befehl& element, const QString& name) {
+    widget->setAutoDefault(true);
+    QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
+    verbinden(element, widget, name, [&element, widget] { text_nachfuehren(widget, element); });
+}
+
 QLineEdit* Binder::zeile(feld& element, const QString& name, const QString& ansage) {
-    auto* widget = new QLineEdit(eltern_);
+    auto* widget = new Eingabezeile(eltern_);
     widget->setAccessibleName(ansage);
     QObject::connect(widget, &QLineEdit::textEdited, widget,
                      [&element](const QString& text) { element.eingeben(text.toStdString()); });
     verbinden(element, widget, name, [&element, widget] {
-        widget->setVisible(element.sichtbar());
         widget->setMaxLength(element.laenge_max() > 0 ? element.laenge_max() : 32767);
         text_nachfuehren(widget, element);
     });
@@ -150,7 +177,6 @@ QCheckBox* Binder::kasten(haken& element, const QString& name) {
     auto* widget = new QCheckBox(eltern_);
     QObject::connect(widget, &QCheckBox::clicked, widget, [&element] { element.umschalten(); });
     verbinden(element, widget, name, [&element, widget] {
-        widget->setVisible(element.sichtbar());
         text_nachfuehren(widget, element);
         widget->setChecked(element.gesetzt());
     });
@@ -168,9 +194,12 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QStr
     QObject::connect(widget, &QComboBox::editTextChanged, widget, eingeben);
     verbinden(element, widget, name, [&element, widget] {
         const QSignalBlocker still(widget);
-        widget->setVisible(element.sichtbar());
         if (widget->isEditable() != element.frei()) {
             widget->setEditable(element.frei());
+            widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
+        }
+        if (element.frei() && element.laenge_max() > 0) {
+            widget->lineEdit()->setMaxLength(element.laenge_max());
         }
         QStringList eintraege;
         for (const std::string& eintrag : element.eintraege()) {
@@ -207,9 +236,13 @@ QListView* Binder::listenfeld(liste& element, const QString& name, const QString
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
                      [&element](const QModelIndex& zeile) { element.markieren(zeile.row()); });
     verbinden(element, widget, name, [&element, widget, modell] {
-        widget->setVisible(element.sichtbar());
         const QSignalBlocker still(widget->selectionModel());
         modell->abgleichen();
+        if (element.schriftfarbe()) {
+            QPalette palette = widget->palette();
+            palette.setColor(QPalette::Text, stil::farbe_von(*element.schriftfarbe()));
+            widget->setPalette(palette);
+        }
         const QModelIndex zeile = modell->index(element.markiert());
         if (zeile.isValid() && widget->currentIndex() != zeile) {
             widget->setCurrentIndex(zeile);
@@ -222,7 +255,10 @@ QListView* Binder::listenfeld(liste& element, const QString& name, const QString
 Lampe* Binder::lampe(bild& element, const QString& name, const QColor& farbe) {
     auto* widget = new Lampe(farbe, eltern_);
     widget->setAccessibleName(name);
-    verbinden(element, widget, name, [&element, widget] { widget->setLeuchtet(element.sichtbar()); });
+    verbinden(element, widget, name, [&element, widget] {
+        widget->setLeuchtet(element.sichtbar());
+        widget->setVisible(true);  // a lamp that is out is still to be seen
+    });
     return widget;
 }
 

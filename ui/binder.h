@@ -32,6 +32,8 @@ public:
     /// A display of fixed text that scales with the others.
     TextAnzeige* beschriftung(const QString& text, double entwurf);
     QPushButton* knopf(befehl& element, const QString& name);
+    /// The command that a window is there for.
+    QPushButton* hauptknopf(befehl& element, const QString& name);
     QLineEdit* zeile(feld& element, const QString& name, const QString& ansage);
     QCheckBox* kasten(haken& element, const QString& name);
     QComboBox* auswahlfeld(auswahl& element, const QString& name, const QString& ansage);
@@ -43,10 +45,11 @@ public:
 
     /// Pixels per design unit for all displays of the window.
     void skala(double px_je_einheit);
-    double skala() const { return skala_; }
 
 private:
     class Bindung;
+
+    void knopf_verbinden(QPushButton* widget, befehl& element, const QString& name);
 
     Bildtakt& takt_;
     QString fenster_;

@@ -56,7 +56,6 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidge
     aufbau->addWidget(liste_, 4);
 
     binder.verbinden(logik.Frame.at(index_), this, "Frame_" + nummer, [this] {
-        setVisible(gezeigt());
         spurfarbe_ = stil::farbe_von(logik_.Frame.at(index_).schriftfarbe().value_or(0));
         update();
         if (bei_umzug) {
@@ -80,6 +79,9 @@ QWidget* Ergebniszeile::zelle(steuerelement& element, const QString& name, const
     wert->setFett(true);
     TextAnzeige* darunter = binder.anzeige(*zusatz, zusatz_name, schrift_zusatz);
     darunter->setAusrichtung(links_mitte);
+    QSizePolicy platz_halten = darunter->sizePolicy();
+    platz_halten.setRetainSizeWhenHidden(true);
+    darunter->setSizePolicy(platz_halten);
     aufbau->addStretch();
     aufbau->addWidget(kopf);
     aufbau->addWidget(wert);

@@ -16,6 +16,8 @@ public:
     int reihe() const { return logik_.Frame.at(index_).reihe(); }
     bool gezeigt() const { return logik_.Frame.at(index_).sichtbar(); }
     void skalieren(double skala);
+    /// What the Tab key reaches in the row.
+    QWidget* tabziel() const { return liste_; }
     /// Called when the row has changed.
     std::function<void()> bei_umzug;
 

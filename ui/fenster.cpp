@@ -29,6 +29,7 @@ void Fenster::aufschlagen() {
     if (!isVisible()) {
         zentrieren();
     }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();

@@ -32,14 +32,14 @@ QLabel* spaltenkopf(const QString& text) {
 
 }  // namespace
 
-Form1Fenster::Form1Fenster(form1& logik, const einstellungen& einst, Bildtakt& takt)
-    : Fenster("Form1", takt, nullptr), logik_(logik) {
+Form1Fenster::Form1Fenster(form1& logik, Bildtakt& takt) : Fenster("Form1", takt, nullptr), logik_(logik) {
     setWindowTitle("Tarvel");
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(0);
 
-    auto* kopf = new Streckenbild;
+    auto* kopf = new Streckenbild(this);
+    binder().verbinden(logik.startbild, kopf, "startbild", {});
     kopf->setMinimumHeight(110);
     kopf->setTitel("Tarvel", "Zeitmessung und Rennleitung für die Modellrennbahn");
     auto* kopf_aufbau = new QHBoxLayout(kopf);
@@ -52,7 +52,7 @@ Form1Fenster::Form1Fenster(form1& logik, const einstellungen& einst, Bildtakt& t
     inhalt->setContentsMargins(18, 4, 18, 14);
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
-    inhalt->addWidget(spuren_gruppe(einst), 3);
+    inhalt->addWidget(spuren_gruppe(), 3);
     inhalt->addSpacing(8);
     inhalt->addWidget(befehlszeile());
     aufbau->addLayout(inhalt, 5);
@@ -106,7 +106,7 @@ QWidget* Form1Fenster::rennen_gruppe() {
     return gruppe;
 }
 
-QWidget* Form1Fenster::spuren_gruppe(const einstellungen& einst) {
+QWidget* Form1Fenster::spuren_gruppe() {
     auto* gruppe = new QGroupBox("Spuren");
     auto* raster = new QGridLayout(gruppe);
     raster->setHorizontalSpacing(10);
@@ -117,7 +117,7 @@ QWidget* Form1Fenster::spuren_gruppe(const einstellungen& einst) {
     raster->addWidget(spaltenkopf("Fahrer"), 0, 4);
     raster->addWidget(spaltenkopf("Fahrzeug"), 0, 5);
     for (const int spur : alle_spuren) {
-        spur_zeile(raster, spur, stil::farbe_von(einst.farben_spur[spur]));
+        spur_zeile(raster, spur);
         raster->setRowStretch(spur, 1);
     }
     raster->setColumnStretch(4, 3);
@@ -125,13 +125,17 @@ QWidget* Form1Fenster::spuren_gruppe(const einstellungen& einst) {
     return gruppe;
 }
 
-void Form1Fenster::spur_zeile(QGridLayout* raster, int spur, const QColor& farbe) {
+void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     const std::size_t i = feld_index(spur);
     const QString nummer = QString::number(i);
     const QString ansage = QString(" Spur %1").arg(spur);
-    auto* fleck = new QLabel;
+    auto* fleck = new QLabel(this);
     fleck->setFixedSize(14, 26);
-    fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;").arg(farbe.name()));
+    form& spurfarbe = logik_.spurfarbe.at(i);
+    binder().verbinden(spurfarbe, fleck, "spurfarbe_" + nummer, [&spurfarbe, fleck] {
+        fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;")
+                                 .arg(stil::farbe_von(spurfarbe.hintergrund().value_or(0)).name()));
+    });
     QCheckBox* kasten = binder().kasten(logik_.spur.at(i), "spur_" + nummer);
     QLineEdit* laenge = binder().zeile(logik_.lspur.at(i), "lspur_" + nummer, "Spurlänge in Metern," + ansage);
     schmal(laenge);
@@ -150,10 +154,8 @@ QWidget* Form1Fenster::befehlszeile() {
     auto* zeile = new QWidget;
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
-    QPushButton* rennen = binder().knopf(logik_.Command1, "Command1");
-    rennen->setProperty("rolle", "haupt");
+    QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
     rennen->setMinimumSize(220, 48);
-    rennen->setDefault(true);
     QPushButton* tasten = binder().knopf(logik_.command_tasten, "command_tasten");
     QPushButton* ende = binder().knopf(logik_.Command2, "Command2");
     for (QPushButton* knopf : {tasten, ende}) {

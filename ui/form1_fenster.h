@@ -10,13 +10,13 @@ namespace tarvel::ui {
 /// The main window.
 class Form1Fenster : public Fenster {
 public:
-    Form1Fenster(form1& logik, const einstellungen& einst, Bildtakt& takt);
+    Form1Fenster(form1& logik, Bildtakt& takt);
 
 private:
     QWidget* rennen_gruppe();
-    QWidget* spuren_gruppe(const einstellungen& einst);
+    QWidget* spuren_gruppe();
     QWidget* befehlszeile();
-    void spur_zeile(QGridLayout* raster, int spur, const QColor& farbe);
+    void spur_zeile(QGridLayout* raster, int spur);
 
     form1& logik_;
 };

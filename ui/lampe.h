@@ -10,7 +10,6 @@ class Lampe : public QWidget {
 public:
     explicit Lampe(const QColor& farbe, QWidget* eltern = nullptr);
     void setLeuchtet(bool leuchtet);
-    bool leuchtet() const { return leuchtet_; }
     QSize sizeHint() const override { return {24, 24}; }
 
 protected:

@@ -4,7 +4,7 @@ namespace tarvel::ui {
 
 Oberflaeche::Oberflaeche(programm& p)
     : update_form(p.update_form, takt),
-      form1(p.form1, p.einst, takt),
+      form1(p.form1, takt),
       form3(p.form3, p.ablage, takt, &form1),
       bahn1(p.rennen, takt, &form1),
       auswertung(p.auswertung, takt, &bahn1),

@@ -56,15 +56,15 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setFocusPolicy(Qt::NoFocus);
     liste_->setSelectionMode(QAbstractItemView::NoSelection);
-    liste_->setStyleSheet("background: transparent; border: none; color: #d7dae0;");
+    liste_->setStyleSheet("background: transparent; border: none;");
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     aufbau->addWidget(liste_, 1);
 
     binder.verbinden(bahn.bahnshape[spur], this, "bahnshape_" + nummer, [this, &bahn, spur] {
-        setVisible(bahn.bahnshape[spur].sichtbar());
-        const auto rand = bahn.bahnshape[spur].randfarbe();
-        randfarbe_ = rand ? stil::farbe_von(*rand) : QColor();
-        spurfarbe_ = stil::farbe_von(bahn.namenslabel[spur].schriftfarbe().value_or(0));
+        const form& flaeche = bahn.bahnshape[spur];
+        randfarbe_ = flaeche.randfarbe() ? stil::farbe_von(*flaeche.randfarbe()) : QColor();
+        spurfarbe_ = stil::farbe_von(flaeche.schriftfarbe().value_or(0));
+        grundfarbe_ = stil::farbe_von(flaeche.hintergrund().value_or(0));
         update();
     });
 }
@@ -114,7 +114,7 @@ void Rennspalte::paintEvent(QPaintEvent* /*ereignis*/) {
     const QRectF flaeche = QRectF(rect()).adjusted(3, 3, -3, -3);
     const bool im_ziel = randfarbe_.isValid();
     maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), im_ziel ? 5 : 1));
-    maler.setBrush(QColor(18, 20, 24));
+    maler.setBrush(grundfarbe_);
     maler.drawRoundedRect(flaeche, 10, 10);
     maler.setPen(Qt::NoPen);
     maler.setBrush(spurfarbe_);

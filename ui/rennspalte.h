@@ -25,6 +25,7 @@ private:
     std::vector<Lampe*> lampen_;
     QColor spurfarbe_;
     QColor randfarbe_;
+    QColor grundfarbe_;
 };
 
 }  // namespace tarvel::ui

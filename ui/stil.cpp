@@ -4,6 +4,11 @@
 #include <QPalette>
 #include <QStyleFactory>
 
+/// The pictures lie in a static library: without this call nobody would register them. Not possible inside a namespace.
+static void bilder_bereitstellen() {
+    Q_INIT_RESOURCE(bilder);
+}
+
 namespace tarvel::ui::stil {
 namespace {
 
@@ -15,6 +20,7 @@ QLineEdit, QComboBox { background: #ffffff; border: 1px solid #aab1bd; border-ra
 QLineEdit:focus, QComboBox:focus { border: 2px solid #c41e2a; padding: 2px 6px; }
 QLineEdit:disabled, QComboBox:disabled { background: #eceef1; color: #9aa1ad; }
 QComboBox::drop-down { border: none; width: 26px; }
+QComboBox::down-arrow { image: url(:/bilder/pfeil.png); width: 20px; height: 20px; }
 QPushButton { background: #ffffff; border: 1px solid #aab1bd; border-radius: 6px; padding: 7px 16px; }
 QPushButton:hover { background: #f2f4f7; }
 QPushButton:pressed { background: #e2e5ea; }
@@ -32,6 +38,7 @@ QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; 
 }  // namespace
 
 void anwenden(QApplication& anwendung) {
+    bilder_bereitstellen();
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QFont grundschrift = QApplication::font();
     grundschrift.setPixelSize(15);
@@ -53,14 +60,6 @@ void anwenden(QApplication& anwendung) {
 QColor farbe_von(farbe zahl) {
     return {static_cast<int>(zahl & 0xFFU), static_cast<int>((zahl >> 8U) & 0xFFU),
             static_cast<int>((zahl >> 16U) & 0xFFU)};
-}
-
-QColor auf_hell(const QColor& farbe) {
-    QColor dunkler = farbe;
-    while (dunkler.lightness() > 110 || (dunkler.green() > 150 && dunkler.lightness() > 80)) {
-        dunkler = dunkler.darker(112);
-    }
-    return dunkler;
 }
 
 }  // namespace tarvel::ui::stil

@@ -13,9 +13,9 @@ namespace {
 /// The centre line of a lane on a canvas of 100 by 100; lanes lie side by side.
 QPainterPath spurlinie(double versatz) {
     QPainterPath pfad;
-    pfad.moveTo(38, 112 + versatz * 0.2);
-    pfad.cubicTo(55, 96 + versatz, 58, 58 + versatz * 1.6, 72, 46 + versatz * 1.2);
-    pfad.cubicTo(82, 37 + versatz, 90, 34 + versatz, 108, 20 + versatz);
+    pfad.moveTo(50, 112 + versatz * 0.2);
+    pfad.cubicTo(63, 96 + versatz, 64, 58 + versatz * 1.6, 76, 46 + versatz * 1.2);
+    pfad.cubicTo(85, 37 + versatz, 90, 34 + versatz, 108, 20 + versatz);
     return pfad;
 }
 

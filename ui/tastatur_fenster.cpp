@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "core/spuren.h"
@@ -18,13 +19,19 @@ TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidge
         "hat keine Taste.");
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
-    auto* raster = new QGridLayout;
+    auto* rollen = new QScrollArea;
+    rollen->setFrameShape(QFrame::NoFrame);
+    rollen->setWidgetResizable(true);
+    auto* gruppen = new QWidget;
+    auto* raster = new QGridLayout(gruppen);
+    raster->setContentsMargins(0, 0, 0, 0);
     raster->setHorizontalSpacing(10);
     for (const int spur : alle_spuren) {
         raster->addWidget(gruppe(spur), (spur - 1) / 3, (spur - 1) % 3);
     }
     raster->addWidget(gruppe(0), 0, 3, 2, 1);
-    aufbau->addLayout(raster, 1);
+    rollen->setWidget(gruppen);
+    aufbau->addWidget(rollen, 1);
     aufbau->addSpacing(8);
     aufbau->addWidget(befehlszeile());
     resize(940, 700);
@@ -61,8 +68,7 @@ QWidget* TastaturFenster::befehlszeile() {
     auto* zeile = new QWidget(this);
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
-    QPushButton* uebernehmen = binder().knopf(logik_.Command1, "Command1");
-    uebernehmen->setProperty("rolle", "haupt");
+    QPushButton* uebernehmen = binder().hauptknopf(logik_.Command1, "Command1");
     aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"));
     aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
     aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));

@@ -3,7 +3,6 @@
 #include "hardware/tastaturbelegung.h"
 #include "ui/fenster.h"
 
-class QGridLayout;
 class QGroupBox;
 
 namespace tarvel::ui {

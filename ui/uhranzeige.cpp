@@ -46,7 +46,6 @@ Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, double entwurf, Binder& 
     }
     aufbau->addStretch();
     binder.verbinden(uhr.uhrframe, this, "uhrframe" + ziffer, [this, &uhr, titel] {
-        setVisible(uhr.uhrframe.sichtbar());
         titel->setText(QString::fromStdString(uhr.uhrframe.text()));
         if (uhr.uhrframe.schriftfarbe()) {
             titel->setFarbe(stil::farbe_von(*uhr.uhrframe.schriftfarbe()));

@@ -12,7 +12,8 @@ namespace tarvel::test {
 
 class virtueller_zeitgeber final : public plattform::zeitgeber {
 public:
-    virtueller_zeitgeber(test_plattform& maschine, int intervall_ms) : maschine_(maschine), intervall_(intervall_ms) {}
+    virtueller_zeitgeber(test_plattform& maschine, plattform::zeitgeber_art art, int intervall_ms)
+        : maschine_(maschine), art_(art), intervall_(intervall_ms) {}
     virtueller_zeitgeber(const virtueller_zeitgeber&) = delete;
     virtueller_zeitgeber& operator=(const virtueller_zeitgeber&) = delete;
     ~virtueller_zeitgeber() override { aus(); }
@@ -41,7 +42,8 @@ public:
     bool laeuft() const override { return laeuft_; }
 
     void feuern() {
-        faellig += intervall_;
+        const bool holt_nach = art_ == plattform::zeitgeber_art::zaehlend;
+        faellig = (holt_nach ? faellig : maschine_.jetzt_) + intervall_;
         if (bei_tick) {
             bei_tick();
         }
@@ -51,6 +53,7 @@ public:
 
 private:
     test_plattform& maschine_;
+    plattform::zeitgeber_art art_;
     int intervall_;
     bool laeuft_ = false;
 };
@@ -83,14 +86,14 @@ void test_plattform::laufen(zeit_ms dauer) {
         if (naechster == nullptr) {
             break;
         }
-        jetzt_ = naechster->faellig;
+        jetzt_ = std::max(jetzt_, naechster->faellig);
         naechster->feuern();
     }
     jetzt_ = ende;
 }
 
-std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art /*art*/, int intervall_ms) {
-    return std::make_unique<virtueller_zeitgeber>(*this, intervall_ms);
+std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art art, int intervall_ms) {
+    return std::make_unique<virtueller_zeitgeber>(*this, art, intervall_ms);
 }
 
 void test_plattform::zeigen(std::string_view text, std::string_view titel) {

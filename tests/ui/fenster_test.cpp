@@ -154,9 +154,52 @@ TEST_F(Oberflaeche, UnfugInDenFeldernWirdBerichtigt) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
 }
 
+TEST_F(Oberflaeche, NamenBleibenWieGetippt) {
+    auto* fahrer = finde<QComboBox>(o.form1, "Form1.fahrer_0");
+    fahrer->lineEdit()->selectAll();
+    QTest::keyClicks(fahrer->lineEdit(), "k");
+    QTest::keyClick(fahrer->lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(t.p.form1.fahrer[0].text(), "k");
+}
+
+TEST_F(Oberflaeche, TastenfeldErsetztSeinZeichenAuchMitDerMaus) {
+    klick(o.form1, "Form1.command_tasten");
+    auto* zeile = finde<QLineEdit>(o.tastatur, "Tastaturbelegung.taste_16");
+    QTest::mouseClick(zeile, Qt::LeftButton);
+    QTest::keyClicks(zeile, "k");
+    EXPECT_EQ(t.p.tastaturbelegung.taste[16].text(), "k");
+}
+
+TEST_F(Oberflaeche, VerkleinertesFensterKommtGrossWieder) {
+    klick(o.form1, "Form1.command_tasten");
+    o.tastatur.showMinimized();
+    o.tastatur.close();
+    klick(o.form1, "Form1.command_tasten");
+    EXPECT_FALSE(o.tastatur.isMinimized());
+}
+
+TEST_F(Oberflaeche, TabFolgtImErgebnisDenPlaetzen) {
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(6000, "2");
+    o.takt.ausfuehren();
+    auto* erste = finde<QListView>(o.auswertung, "auswertung.liste_1");
+    erste->setFocus();
+    QTest::keyClick(erste, Qt::Key_Tab);
+    EXPECT_EQ(o.auswertung.focusWidget()->objectName(), "auswertung.liste_0");
+}
+
+TEST_F(Oberflaeche, FarbenKommenAusDenEinstellungen) {
+    t.p.einst.farben_spur[1] = 0x00FF00;
+    t.einrichten("Zeit", "5", {1});
+    o.takt.ausfuehren();
+    const QImage spalte = finde<QWidget>(o.bahn1, "bahn1.bahnshape_1")->grab().toImage();
+    EXPECT_EQ(spalte.pixelColor(spalte.width() / 2, 9), QColor(0, 255, 0));
+}
+
 TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
-    for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.bahn1),
-                             static_cast<QWidget*>(&o.auswertung), static_cast<QWidget*>(&o.tastatur)}) {
+    for (QWidget* fenster :
+         {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.auswertung), static_cast<QWidget*>(&o.tastatur)}) {
         const QSize platz = fenster->minimumSizeHint();
         EXPECT_LE(platz.width(), 1024) << fenster->objectName().toStdString();
         EXPECT_LE(platz.height(), 740) << fenster->objectName().toStdString();
