@@ -97,22 +97,13 @@ void form1::bildschirm_anpassen() {
     startbild.sichtbar(!kleiner_bildschirm());  // the fields need the room
 }
 
-void form1::standard_setzen() {
-    rennart.text(um_.txt.text_zeit);
-    stddauer.text("0");
-    renndauer.text("5");
-    wertmin.text("5");
-    massstab.text("43");
-    t_aktiv.gesetzt(false);
-    for (const int nummer : alle_spuren) {
-        const std::size_t i = feld_index(nummer);
-        spur[i].gesetzt(nummer <= 4);
-        lspur[i].text("25");
-        fahrer[i].text(um_.txt.fahrer_standard[nummer]);
-        auto_[i].text(um_.txt.standardfahrzeug_text);
-        spur_geaendert(i);
+void form1::spuren_nach_laden() {
+    for (std::size_t i = 0; i < spur.size(); ++i) {
+        const bool offen = i < 4 || spur[i].gesetzt();
+        lspur[i].aktiviert(offen);
+        fahrer[i].aktiviert(offen);
+        auto_[i].aktiviert(offen);
     }
-    rennart_geaendert();
 }
 
 void form1::modus_anzeigen() {
@@ -126,6 +117,10 @@ void form1::modus_anzeigen() {
             return;
         }
     }
+}
+
+void form1::einstellungsname_anzeigen(std::string_view name) {
+    Label6.text("Einstellungsdatei: " + std::string(name));
 }
 
 void form1::rennart_geaendert() {

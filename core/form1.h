@@ -50,6 +50,7 @@ public:
     bezeichnung label_spurlaenge;
     bild startbild;                          ///< picture over the fields
     std::array<form, spuren_max> spurfarbe;  ///< colour of the lane
+    bezeichnung Label6;                      ///< settings file in force
     bezeichnung modus_label;                 ///< status line: the timing hardware in force
     befehl Command1;                         ///< single race
     befehl Command2;                         ///< end of the program
@@ -64,9 +65,11 @@ public:
     void laden();
     void entladen() { timer1_->aus(); }
     /// Every field to its default.
-    void standard_setzen();
+    /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
+    void spuren_nach_laden();
     void farben_einstellen();
     void modus_anzeigen();
+    void einstellungsname_anzeigen(std::string_view name);
 
     /// Brings every field within its limits, silently.
     void werte_pruefen();

@@ -123,6 +123,16 @@ std::int64_t ganzzahl_lesen(std::string_view text, std::int64_t min, std::int64_
     return wert >= static_cast<double>(max) ? max : static_cast<std::int64_t>(wert);
 }
 
+std::string zahl_text(double zahl, char komma) {
+    const long long millionstel = std::llround(std::abs(zahl) * 1e6);
+    std::string text = std::to_string(millionstel / 1000000) + komma + ziffern(millionstel % 1000000, 6);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == komma) {
+        text.pop_back();
+    }
+    return zahl < 0 && millionstel != 0 ? "-" + text : text;
+}
+
 std::string ziffern(std::int64_t zahl, int stellen) {
     zahl = std::max<std::int64_t>(zahl, 0);
     std::string text(static_cast<std::size_t>(stellen), '0');

@@ -22,6 +22,9 @@ double zahl_lesen(std::string_view text);
 /// `zahl_lesen`, cut to its whole part and held within the given limits.
 std::int64_t ganzzahl_lesen(std::string_view text, std::int64_t min, std::int64_t max);
 
+/// The number without needless zeros, with at most six decimals behind `komma`.
+std::string zahl_text(double zahl, char komma);
+
 /// Whole number with leading zeros; of a longer number only its last digits: 7 with 2 digits is "07", 123 is "23".
 /// Negative numbers count as 0.
 std::string ziffern(std::int64_t zahl, int stellen);

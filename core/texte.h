@@ -21,6 +21,7 @@ struct texte {
     std::array<std::string, 2> titel{"Hinweis", "Fehlermeldung"};
     std::array<std::string, 28> meldung;  ///< index 1 to 27
 
+    std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";
     spuren<std::string> fahrer_standard;
     std::string standardfahrzeug_text = "Standardfahrzeug";

@@ -5,6 +5,7 @@
 
 #include "core/dateien.h"
 #include "core/einstellungen.h"
+#include "core/einstellungsdatei.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
 #include "core/renn_parameter.h"
@@ -44,6 +45,9 @@ public:
     tarvel::ausgaben ausgaben;
 
     tarvel::form1 form1;
+    einstellungsdatei datei;
+    std::string einstell_datei;          ///< current settings file, without its folder once it is loaded
+    std::string einstell_standarddatei;  ///< the one the program starts with
     tarvel::form3 form3;
     tarvel::update_form update_form;
     tarvel::rennen rennen;
@@ -55,8 +59,12 @@ private:
     void texte_standard_setzen();
     void hardware_standard_setzen();
     void einstellungen_standard_setzen();
+    void start_datei_bestimmen();
     void einstellungen_laden();
+    void einstellungen_speichern(std::string_view name);
     void hardware_starten();
+
+    int modus_4x4_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
 
     bool programm_beendet_ = false;
 };

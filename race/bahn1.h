@@ -38,12 +38,14 @@ struct bahn1 {
     rennuhr_felder uhr2;  ///< second clock: time driven
     bezeichnung nachlauflabel;
     bezeichnung ziel_label;  ///< what is driven for
+    bezeichnung werbe_label;
     rahmen Frame1;
     befehl Command1;          ///< start
     befehl Command2;          ///< abort without a result
     befehl Command4;          ///< end with the result so far
     rahmen Nachtabschaltung;  ///< dark cover over the whole window
 
+    bool zeilenansicht = false;  ///< one row per lane, else one column
     double zaehler_schrift = 0;  ///< font size of `zaehler` at the start, in design units
 };
 

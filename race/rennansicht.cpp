@@ -31,6 +31,7 @@ void rennansicht::texte_setzen() {
     uhr_texte(bahn.uhr1, um_.einst.trennzeichen);
     uhr_texte(bahn.uhr2, um_.einst.trennzeichen);
     bahn.nachlauflabel.text("Nachlaufzeit");
+    bahn.werbe_label.text(um_.txt.werbetext);
     bahn.Command1.text("Rennstart");
     bahn.Command2.text("Rennabbruch");
     bahn.Command4.text("Rennende");
@@ -46,6 +47,7 @@ void rennansicht::texte_setzen() {
 void rennansicht::spaltenansicht_oeffnen() {
     bahn1& bahn = um_.bahn;
     texte_setzen();
+    bahn.zeilenansicht = false;
     bahn.zaehler_schrift = zaehler_schrift_spalte;
     for (const int spur : alle_spuren) {
         const std::size_t index = feld_index(spur);
@@ -81,10 +83,10 @@ void rennansicht::farben_setzen() {
         uhr->uhrframe.schriftfarbe(um_.einst.farben_schrift[2]);
         for (bezeichnung* teil : {&uhr->stunden, &uhr->minuten, &uhr->sekunden, &uhr->tausendstel, &uhr->nach_stunden,
                                   &uhr->nach_minuten, &uhr->nach_sekunden}) {
-            teil->schriftfarbe(um_.einst.farben_schrift[1]);
+            teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
-    bahn.nachlauflabel.schriftfarbe(um_.einst.farben_schrift[1]);
+    bahn.nachlauflabel.schriftfarbe(um_.einst.farben_schrift[2]);
     bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
 }
 

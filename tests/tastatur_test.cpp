@@ -192,7 +192,9 @@ TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
     EXPECT_TRUE(t.p.fenster.ist_offen("Tastaturbelegung"));
     t.p.tastaturbelegung.Command2.klicken();
     EXPECT_EQ(t.p.belegung.taste(15), '2') << "cancelling keeps the old keys";
-    EXPECT_FALSE(t.maschine.datei_da("tvk_taste.ini"));
+    tastenbelegung gespeichert;
+    EXPECT_TRUE(gespeichert.laden(dateien(t.maschine.ordner())));
+    EXPECT_EQ(gespeichert.taste(15), '2');
 }
 
 TEST_F(Tastatur, FensterVorlagen) {

@@ -20,6 +20,7 @@ constexpr double schrift_uhr = 1750;
 constexpr double schrift_uhr2 = 780;
 constexpr double schrift_ziel = 620;
 constexpr double schrift_knopf = 420;
+constexpr double schrift_werbung = 380;
 
 const char* const knopf_regeln =
     "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
@@ -93,7 +94,9 @@ QWidget* Bahn1Fenster::befehlszeile() {
     QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
     aufbau->addWidget(start, 2);
     aufbau->addWidget(ende, 1);
-    aufbau->addStretch(2);
+    TextAnzeige* werbung = binder().anzeige(logik_.bahn1.werbe_label, "werbe_label", schrift_werbung);
+    werbung->setFarbe(QColor(150, 156, 166));
+    aufbau->addWidget(werbung, 2);
     aufbau->addWidget(abbruch, 1);
     knoepfe_ = {start, ende, abbruch};
     setTabOrder(start, ende);

@@ -8,6 +8,7 @@ namespace tarvel::test {
 
 testprogramm::testprogramm() : p(maschine.dienste()) {
     p.starten();
+    maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }
 
 void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {

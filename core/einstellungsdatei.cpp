@@ -1,0 +1,161 @@
+#include "core/einstellungsdatei.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/einstellungstabelle.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view ende_marke = "{EOF}";
+constexpr std::size_t zeilen_max = 200000;  // a competition adds its own lines
+
+std::size_t platz(int z) {
+    return static_cast<std::size_t>(z);
+}
+
+}  // namespace
+
+bool einstellungsdatei::kopf_pruefen(std::string_view kopf) {
+    if (!kopf.starts_with(einstellungs_kopf)) {
+        return false;
+    }
+    if (kopf.substr(einstellungs_kopf.size()) != programm_version) {
+        um_.meldungen.zeigen(um_.ziel.txt.meldung[19], um_.ziel.txt.titel[0]);
+    }
+    return true;
+}
+
+void einstellungsdatei::einlesen(std::string_view datei, bool wettkampfdatei) {
+    zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
+    rest_.clear();
+    fehler_laden_ = true;
+    const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
+    std::size_t i = wettkampfdatei ? 1 : 0;
+    if (!inhalt || inhalt->size() <= i + 1 || !kopf_pruefen((*inhalt)[i])) {
+        return;
+    }
+    zeilen_[0] = (*inhalt)[i];
+    i += 2;  // the line behind the header is blank
+    bool vollstaendig = false;
+    for (int z = 1; z <= z::letzte_gelesene && !vollstaendig; ++z) {
+        if (i == inhalt->size()) {
+            return;  // ends in the middle
+        }
+        zeilen_[platz(z)] = gekuerzt((*inhalt)[i++]);
+        vollstaendig = zeilen_[platz(z)] == ende_marke;
+    }
+    fehler_laden_ = false;
+    rest_.assign(inhalt->begin() + static_cast<std::ptrdiff_t>(i), inhalt->end());
+    wahrheitswoerter_uebersetzen();
+}
+
+void einstellungsdatei::wahrheitswoerter_uebersetzen() {
+    const std::string wahr = zeile(z::wahr_wort);
+    const std::string falsch = zeile(z::falsch_wort);
+    for (int z = 1; z <= z::letzte_gelesene; ++z) {
+        if (z == z::wahr_wort || z == z::falsch_wort) {
+            continue;
+        }
+        std::string& text = zeilen_[platz(z)];
+        if (text == wahr) {
+            text = "Wahr";
+        } else if (text == falsch) {
+            text = "Falsch";
+        }
+    }
+}
+
+void einstellungsdatei::pruefen() {
+    const auto& tabelle = einstellungstabelle();
+    for (int z = 1; z <= z::letzte_gelesene; ++z) {
+        if (tabelle[platz(z)].pruefen && tabelle[platz(z)].pruefen(zeilen_, z) == zeilen_urteil::abgelehnt) {
+            fehler_laden_ = true;
+        }
+    }
+}
+
+void einstellungsdatei::uebernehmen(int modus_4x4_start) {
+    const auto& tabelle = einstellungstabelle();
+    for (int z = 1; z <= z::letzte_gelesene; ++z) {
+        if (tabelle[platz(z)].laden) {
+            tabelle[platz(z)].laden(um_.ziel, zeile(z));
+        }
+    }
+    einstellungen& einst = um_.ziel.einst;
+    einst.sektor_an[0] = std::any_of(einst.sektor_an.begin() + 1, einst.sektor_an.end(), [](bool an) { return an; });
+    hardware_folgen(modus_4x4_start);
+    wechselschema_uebernehmen();
+    cu_spuren_uebernehmen();
+    um_.ziel.haupt.spuren_nach_laden();
+}
+
+void einstellungsdatei::hardware_folgen(int modus_4x4_start) {
+    messhardware& hardware = um_.ziel.einst.hardware;
+    if (modus_4x4_start != 0) {
+        hardware.hw_iow = hardware.hw_race_control = hardware.hw_lpt = hardware.hw_timekeeper = false;
+        hardware.hw_4x4_modus = modus_4x4_start;
+    }
+    hardware.hw_simulation = !hardware.hw_iow && !hardware.hw_race_control && !hardware.hw_lpt &&
+                             !hardware.hw_timekeeper && hardware.hw_4x4_modus < 4;
+}
+
+void einstellungsdatei::wechselschema_uebernehmen() {
+    einstellungen& einst = um_.ziel.einst;
+    std::array<int, 8> schema{};
+    for (std::size_t i = 1; i < schema.size(); ++i) {
+        schema.at(i) = static_cast<int>(ganzzahl_lesen(zeile(z::schema_erste + static_cast<int>(i) - 1), 0, 8));
+        if (schema.at(i) < 1 || schema.at(i) > 7) {
+            return;
+        }
+    }
+    einst.wechsel_schema = schema;
+    if (!zeile(z::schema_name).empty()) {
+        einst.wechselschema_name = zeile(z::schema_name);
+    }
+}
+
+void einstellungsdatei::cu_spuren_uebernehmen() {
+    const std::string& erste = zeile(z::cu_spur_erste);
+    if (erste.empty() || erste == ende_marke) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        const std::string& text = zeile(z::cu_spur_erste + spur - 1);
+        const double wert = zahl_lesen(text);
+        if (!text.empty() && wert >= 0 && wert <= 15) {
+            um_.ziel.einst.cu_spur_wert[spur] = static_cast<int>(wert);
+        }
+    }
+}
+
+void einstellungsdatei::standard_setzen() {
+    zeilen_.clear();
+    for (const einstellungszeile& zeile : einstellungstabelle()) {
+        if (zeile.standard_setzen) {
+            zeile.standard_setzen(um_.ziel);
+        }
+        zeilen_.push_back(zeile.standard_aus_texten ? zeile.standard_aus_texten(um_.ziel.txt) : zeile.standard);
+    }
+    uebernehmen(0);
+}
+
+std::vector<std::string> einstellungsdatei::schreiben() const {
+    std::vector<std::string> inhalt;
+    for (const einstellungszeile& zeile : einstellungstabelle()) {
+        inhalt.push_back(zeile.schreiben(um_.ziel));
+    }
+    inhalt.insert(inhalt.begin() + 1, "");
+    return inhalt;
+}
+
+void einstellungsdatei::speichern(std::string_view datei) {
+    fehler_laden_ = !um_.ablage.zeilen_schreiben(datei, schreiben());
+    if (fehler_laden_) {
+        um_.meldungen.zeigen(um_.ziel.txt.meldung[4], um_.ziel.txt.titel[1]);
+    }
+}
+
+}  // namespace tarvel

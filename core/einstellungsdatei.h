@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dateien.h"
+#include "core/einstellungszeile.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// A settings file in its three stages: read, check, take over. No setting changes before the third.
+class einstellungsdatei {
+public:
+    struct umgebung {
+        const dateien& ablage;
+        einstellungs_ziel ziel;
+        plattform::meldungen& meldungen;
+    };
+
+    explicit einstellungsdatei(umgebung um) : um_(um) {}
+
+    /// True after a failed read, check or write.
+    bool fehler_laden() const { return fehler_laden_; }
+    /// The lines of the last file read, by their number Z.
+    const einstellungs_zeilen& zeilen() const { return zeilen_; }
+
+    /// First stage. A competition file has one line in front of the header, and goes on behind the settings: what
+    /// stands there is left in `rest`.
+    void einlesen(std::string_view datei, bool wettkampfdatei = false);
+    /// Second stage: refuses the file or mends single lines.
+    void pruefen();
+    /// Third stage. A start that asks for a mode of the 4x4 module gives it in `modus_4x4_start`, else 0.
+    void uebernehmen(int modus_4x4_start);
+    /// The lines behind the settings of a competition file.
+    const std::vector<std::string>& rest() const { return rest_; }
+
+    /// Every value to its default.
+    void standard_setzen();
+    /// The whole file as it is written.
+    std::vector<std::string> schreiben() const;
+    /// A failure shows its message and leaves the old file.
+    void speichern(std::string_view datei);
+
+private:
+    bool kopf_pruefen(std::string_view kopf);
+    void wahrheitswoerter_uebersetzen();
+    void hardware_folgen(int modus_4x4_start);
+    void wechselschema_uebernehmen();
+    void cu_spuren_uebernehmen();
+    const std::string& zeile(int z) const { return zeilen_.at(static_cast<std::size_t>(z)); }
+
+    umgebung um_;
+    einstellungs_zeilen zeilen_;
+    std::vector<std::string> rest_;
+    bool fehler_laden_ = false;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "core/einstellungszeile.h"
+
+namespace tarvel {
+
+/// Lines Z 0 to Z 347 of a settings file. Reader, checker, taker-over, writer and defaults all work on this one table.
+const std::vector<einstellungszeile>& einstellungstabelle();
+
+inline constexpr std::string_view einstellungs_kopf = "Tarvel Version ";
+
+namespace z {
+inline constexpr int wahr_wort = 114;  ///< the words that the writing system used for true and false
+inline constexpr int falsch_wort = 115;
+inline constexpr int schema_name = 323;
+inline constexpr int schema_erste = 324;   ///< seven numbers
+inline constexpr int cu_spur_erste = 338;  ///< six numbers
+inline constexpr int letzte_gelesene = 344;
+inline constexpr int letzte = 347;
+}  // namespace z
+
+}  // namespace tarvel

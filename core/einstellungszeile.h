@@ -1,0 +1,99 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/einstellungen.h"
+#include "core/form1.h"
+#include "core/texte.h"
+
+namespace tarvel {
+
+/// What a settings file fills and is written from: the record, and the fields of the main window.
+struct einstellungs_ziel {
+    einstellungen& einst;
+    form1& haupt;
+    const texte& txt;
+};
+
+/// The lines of a settings file by their number Z; line 0 is the header.
+using einstellungs_zeilen = std::vector<std::string>;
+
+enum class zeilen_urteil { gut, abgelehnt };
+
+/// One line of the settings file. The file is positional: a value is found by its line number alone.
+struct einstellungszeile {
+    /// Tests the line, perhaps mends it. Empty for a line that is not tested.
+    std::function<zeilen_urteil(einstellungs_zeilen&, int z)> pruefen = {};
+    /// Takes the line over. Empty for a line that is not read.
+    std::function<void(const einstellungs_ziel&, const std::string& zeile)> laden = {};
+    /// The line as it is written.
+    std::function<std::string(const einstellungs_ziel&)> schreiben = {};
+    /// The line that gives the default.
+    std::string standard = {};
+    /// Gives the default instead where it is a word of the language.
+    std::function<std::string(const texte&)> standard_aus_texten = {};
+    /// Sets the default directly where taking the line over could not.
+    std::function<void(const einstellungs_ziel&)> standard_setzen = {};
+};
+
+template <class T>
+using zugriff = std::function<T&(const einstellungs_ziel&)>;
+
+/// A value of the record.
+template <class T>
+zugriff<T> wert(T einstellungen::*feld) {
+    return [feld](const einstellungs_ziel& ziel) -> T& { return ziel.einst.*feld; };
+}
+
+namespace pruefung {
+
+using art = std::function<zeilen_urteil(einstellungs_zeilen&, int)>;
+
+/// Limits are inclusive.
+art ablehnen_ausser(double min, double max);
+art reparieren_ausser(double min, double max, std::string_view ersatz);
+art reparieren_wenn_keins(std::vector<std::string> erlaubt, std::string_view ersatz);
+/// Only the two words.
+art nur_wahrheitswert();
+art nur_text(std::string_view text);
+
+}  // namespace pruefung
+
+/// How a truth value is taken over.
+enum class wahr_laden {
+    beide,          ///< only the two words change it
+    nur_wahr,       ///< any other text gives false
+    nicht_falsch,   ///< any other text gives true
+    falsch_loescht  ///< "Falsch" clears it, anything else leaves it
+};
+
+/// When a number is taken over: always, or only within these limits.
+struct zahl_laden {
+    double min = 0;
+    double max = -1;
+    bool immer() const { return max < min; }
+};
+
+namespace zeile {
+
+einstellungszeile titel(std::string_view text, bool geprueft);
+einstellungszeile leer();
+einstellungszeile frei();
+einstellungszeile ganzzahl(zugriff<int> ziel, int standard, pruefung::art pruefen = {}, zahl_laden laden = {});
+einstellungszeile bruch(zugriff<double> ziel, std::string_view standard, pruefung::art pruefen);
+/// A number of an event; one that does not exist counts as 0, no function.
+einstellungszeile ereignis(zugriff<int> ziel, int standard);
+/// `mit_blank` tells whether the number is written with its blanks.
+einstellungszeile farbwert(zugriff<farbe> ziel, farbe standard, bool mit_blank);
+einstellungszeile wahrheit(zugriff<bool> ziel, bool standard, wahr_laden laden, bool geprueft);
+/// Texts shorter than `mindestens` characters leave the value.
+einstellungszeile text(zugriff<std::string> ziel, std::string_view standard, std::size_t mindestens = 0,
+                       pruefung::art pruefen = {});
+einstellungszeile hauptfeld(zugriff<steuerelement> ziel, std::string_view standard, pruefung::art pruefen = {});
+einstellungszeile kasten(zugriff<haken> ziel, bool standard, bool mit_blank);
+
+}  // namespace zeile
+}  // namespace tarvel

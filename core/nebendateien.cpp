@@ -1,0 +1,90 @@
+#include "core/nebendateien.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view trennzeichen_datei = "trennzeichen.ini";
+constexpr std::string_view s6_datei = "tvk_s6.ini";
+constexpr std::string_view werbe_datei = "tvk.ini";
+constexpr std::string_view standard_einstellungen = "Einstellungen\\einstellungen.ini";
+
+/// The fields of a file: separated by commas or line ends, with or without quotes.
+std::vector<std::string> felder_lesen(const dateien& ablage, std::string_view datei, std::size_t anzahl) {
+    std::vector<std::string> felder;
+    for (const std::string& zeile : ablage.zeilen_lesen(datei, anzahl).value_or(std::vector<std::string>{})) {
+        std::string_view rest = zeile;
+        while (felder.size() < anzahl) {
+            rest = gekuerzt(rest);
+            const bool zitat = rest.starts_with('"');
+            const std::size_t ende = zitat ? rest.find('"', 1) : rest.find(',');
+            felder.emplace_back(zitat ? rest.substr(1, ende == std::string_view::npos ? ende : ende - 1)
+                                      : gekuerzt(rest.substr(0, ende)));
+            const std::size_t komma = ende == std::string_view::npos ? ende : rest.find(',', ende);
+            if (komma == std::string_view::npos) {
+                break;
+            }
+            rest.remove_prefix(komma + 1);
+        }
+    }
+    return felder;
+}
+
+}  // namespace
+
+bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel) {
+    constexpr int erstes_druckbares = 32;
+    const std::vector<std::string> felder = felder_lesen(ablage, trennzeichen_datei, ziel.size());
+    trennzeichen_tabelle neu;
+    if (felder.size() < neu.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < neu.size(); ++i) {
+        const auto code = static_cast<int>(ganzzahl_lesen(felder[i], 0, 256));
+        if (code < erstes_druckbares || code > 255) {
+            return false;
+        }
+        neu.at(i) = ansi_zeichen(code);
+    }
+    ziel = neu;
+    return true;
+}
+
+bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& werte) {
+    std::vector<std::string> zeilen;
+    for (const std::string& zeichen : werte) {
+        zeilen.push_back(" " + std::to_string(ansi_code(zeichen).value_or('?')) + " ");
+    }
+    return ablage.zeilen_schreiben(trennzeichen_datei, zeilen);
+}
+
+void tvk_ini_laden(const dateien& ablage, std::string& ziel) {
+    const std::vector<std::string> felder = felder_lesen(ablage, werbe_datei, 1);
+    if (!felder.empty() && !felder.front().empty()) {
+        ziel = felder.front();
+    }
+}
+
+s6_start s6_laden(const dateien& ablage) {
+    std::vector<std::string> felder = felder_lesen(ablage, s6_datei, 5);
+    felder.resize(5);
+    s6_start start{felder[0], felder[1], felder[2], felder[3], felder[4]};
+    if (start.zustand.empty()) {
+        start.zustand = "0";
+    }
+    if (start.einstell_datei.empty()) {
+        start.einstell_datei = standard_einstellungen;
+    }
+    return start;
+}
+
+bool s6_speichern(const dateien& ablage, const s6_start& werte) {
+    return ablage.zeilen_schreiben(
+        s6_datei, {werte.zustand, werte.modus, werte.einstell_datei, werte.naechster_zustand, werte.naechster_modus});
+}
+
+}  // namespace tarvel

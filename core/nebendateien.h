@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "core/dateien.h"
+#include "core/zeit.h"
+
+/// The small files beside the settings.
+namespace tarvel {
+
+/// `trennzeichen.ini`: the character codes of the three separators, one a line. False leaves `ziel` as it was.
+bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel);
+bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& werte);
+
+/// `tvk.ini`: the line of advertising in the race window. A missing or empty file leaves `ziel`.
+void tvk_ini_laden(const dateien& ablage, std::string& ziel);
+
+/// `tvk_s6.ini`: with which settings file and in which mode of the 4x4 module the program starts, and how the start
+/// after this one.
+struct s6_start {
+    std::string zustand = "0";
+    std::string modus;
+    std::string einstell_datei;
+    std::string naechster_zustand;
+    std::string naechster_modus;
+};
+
+s6_start s6_laden(const dateien& ablage);
+bool s6_speichern(const dateien& ablage, const s6_start& werte);
+
+}  // namespace tarvel

@@ -1,0 +1,18 @@
+// Writes the files that an installed program starts with from the built-in defaults. Usage: grunddateien <folder>
+// Run it after a change of the defaults, with the checkout's data/ as folder.
+
+#include <cstdio>
+#include <filesystem>
+
+#include "core/dateien.h"
+#include "tests/plattform/testprogramm.h"
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fprintf(stderr, "grunddateien <Ordner>\n");
+        return 2;
+    }
+    const tarvel::test::testprogramm t;
+    const tarvel::dateien ziel{std::filesystem::path(argv[1])};
+    return ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) ? 0 : 1;
+}
