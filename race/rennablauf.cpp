@@ -113,7 +113,9 @@ void rennablauf::renntimer_tick() {
     }
     t_.uhr.rennuhr_anzeigen();
     t_.ende.pruefen();
-    t_.uhr.rennuhr_anzeigen();
+    if (!zustand.rennen_beendet) {  // else the clock stands as the end has left it
+        t_.uhr.rennuhr_anzeigen();
+    }
 }
 
 void rennablauf::renntimer2_tick() {

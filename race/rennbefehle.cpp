@@ -17,6 +17,7 @@ void rennbefehle::taste(int code) {
 
 void rennbefehle::rennen_abbrechen() {
     um_.fenster.entladen("Form2");
+    um_.fenster.entladen("auswertung");
     um_.param.training_laeuft = false;
     um_.sounds.spielen(sound::rennen_abgebrochen);
     um_.zeitgeber.alle_aus();

@@ -97,7 +97,7 @@ void rennende::nachlauf_zeit_starten() {
 
 void rennende::nachlauf_runden_starten() {
     for (const int spur : alle_spuren) {
-        if (um_.zustand.spur[spur].runden == um_.param.renn_ziel) {
+        if (um_.zustand.spur[spur].runden == um_.param.renn_ziel && !um_.zustand.spur[spur].ziel_erreicht) {
             spur_ziel_setzen(spur);
         }
     }
@@ -118,7 +118,7 @@ void rennende::spur_ziel_setzen(int spur) {
     um_.bahn.bahnshape[spur].randfarbe(farben::rot);
     um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(false);
     um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
-    if (!um_.einst.darstellung_zeile) {
+    if (!um_.bahn.zeilenansicht) {
         um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(true);
     }
     um_.ausgaben.zieleinfahrt_melden(spur);

@@ -82,7 +82,7 @@ void rundenzaehlung::zaehler_zeigen(int spur) {
     zaehler.text(std::to_string(runden));
     if (runden == 100) {
         zaehler.schriftgroesse(0.8 * um_.bahn.zaehler_schrift);
-    } else if (runden == 1000 && um_.einst.darstellung_zeile) {
+    } else if (runden == 1000 && um_.bahn.zeilenansicht) {
         zaehler.links(zaehler.links() / 2);
     } else if (runden == 1000) {
         zaehler.schriftgroesse(0.6 * um_.bahn.zaehler_schrift);

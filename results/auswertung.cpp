@@ -16,6 +16,17 @@ constexpr double meter_inaktiv = -100.0;
 constexpr zeit_ms gesamtzeit_inaktiv = 999999999;
 constexpr zeit_ms beste_inaktiv = 999999;
 
+/// km/h; 0 for no time.
+double tempo(double meter, zeit_ms zeit) {
+    return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / 3600000);
+}
+
+/// With two decimals.
+std::string dezimal(double zahl) {
+    const long long hundertstel = std::llround(zahl * 100);
+    return std::to_string(hundertstel / 100) + "," + ziffern(hundertstel % 100, 2);
+}
+
 }  // namespace
 
 auswertung::auswertung(const renn_umgebung& um) : um_(um) {
@@ -35,6 +46,9 @@ void auswertung::laden() {
     }
     kopf_schreiben();
     auswertung_anzeigen();
+    if (sortier_modus_von(um_.param.auswertung_nach_rennen) == sortier_modus::meter) {
+        auswertung_anzeigen();  // the standing goes by the metres that are shown, so they must be there first
+    }
     Command5.fokus_setzen();
 }
 
@@ -54,7 +68,7 @@ void auswertung::platzierung_berechnen() {
     for (const int spur : alle_spuren) {
         platz_werte& werte = werte_[spur];
         werte.aktiv = um_.param.spur_aktiv[spur];
-        werte.runden = um_.zustand.spur[spur].runden;
+        werte.runden = std::max(um_.zustand.spur[spur].runden, -1);
         std::string meter = ges_meter.at(feld_index(spur)).text();
         werte_pruefen2(meter);
         werte.meter = std::max(zahl_lesen(meter), 0.0);
@@ -83,7 +97,8 @@ void auswertung::platzierung_berechnen() {
         const zeit_ms abstand = werte_[spur].gesamtzeit - werte_[fuehrende_spur_].gesamtzeit;
         bezeichnung& label = abstandlabel.at(feld_index(spur));
         label.sichtbar(werte_[spur].aktiv && spur != fuehrende_spur_);
-        label.text("+ " + zeit_formatieren(abstand, true, um_.einst.trennzeichen));
+        // a car that is laps behind may have the lower time
+        label.text((abstand < 0 ? "- " : "+ ") + zeit_formatieren(std::abs(abstand), true, um_.einst.trennzeichen));
     }
 }
 
@@ -148,15 +163,6 @@ void auswertung::rundenliste_schreiben(int spur) {
                 std::to_string(runde) + ".  " +
                 zeit_formatieren(um_.zustand.rundenzeiten.rundenzeit(spur, runde), true, um_.einst.trennzeichen));
     }
-}
-
-double auswertung::tempo(double meter, zeit_ms zeit) const {
-    return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / 3600000);
-}
-
-std::string auswertung::dezimal(double zahl) const {
-    const long long hundertstel = std::llround(zahl * 100);
-    return std::to_string(hundertstel / 100) + um_.einst.trennzeichen[1] + ziffern(hundertstel % 100, 2);
 }
 
 void auswertung::cmd5_fortsetzung() {

@@ -54,8 +54,6 @@ private:
     void meter_auswerten();
     void spur_anzeigen(int spur);
     void rundenliste_schreiben(int spur);
-    double tempo(double meter, zeit_ms zeit) const;
-    std::string dezimal(double zahl) const;
 
     renn_umgebung um_;
     spuren<platz_werte> werte_;

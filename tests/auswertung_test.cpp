@@ -37,7 +37,7 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     EXPECT_EQ(a.liste[1].zeilen(), (std::vector<std::string>{"1.  00:08,000", "2.  00:07,500", "3.  00:06,500"}));
     EXPECT_FALSE(a.abstandlabel[1].sichtbar());
     EXPECT_EQ(a.runden_aus[0].text(), "2");
-    EXPECT_EQ(a.abstandlabel[0].text(), "+ 00:00,000") << "a lane behind in laps may be ahead in time";
+    EXPECT_EQ(a.abstandlabel[0].text(), "- 00:06,500") << "a lane behind in laps may be ahead in time";
     EXPECT_EQ(a.ges_meter[0].text(), "50,00 m");
     // 25 m in 7.5 s, and 50 m in 15.5 s
     EXPECT_EQ(a.kmh_label[0].text(), "12,00 / 11,61 km/h");
@@ -68,6 +68,25 @@ TEST_F(Auswertung, OhneUeberfahrtNullRundenUndAusgeschiedeneHinten) {
     EXPECT_EQ(a.runden_aus[2].text(), "0");
     EXPECT_EQ(a.zeit_aus[2].text(), "00:00,000");
     EXPECT_EQ(a.kmh_label[2].text(), "0,00 / 0,00 km/h");
+}
+
+TEST_F(Auswertung, MeterUndBesteRundeAlsMassstabGeltenImFenster) {
+    t.p.form1.lspur[1].eingeben("20");
+    t.p.einst.auswertung_nach = 1;
+    const auto fahren = [this] {
+        t.starten("Zeit", "1", {1, 2});
+        t.runde_nach(1000, "12");
+        t.runde_nach(6000, "2");
+        t.runde_nach(1000, "1");
+        t.maschine.laufen(60000);
+    };
+    fahren();
+    EXPECT_EQ(a.ges_meter[0].text(), "25,00 m");
+    EXPECT_EQ(a.platzierung(1), 1) << "more metres in the same laps";
+    a.Command5.klicken();
+    t.p.einst.auswertung_nach = 3;
+    fahren();
+    EXPECT_EQ(a.platzierung(2), 1) << "the better lap";
 }
 
 TEST_F(Auswertung, StrafzeitZaehltZurGesamtzeit) {

@@ -48,6 +48,66 @@ TEST_F(Rennende, UhrenEinesZeitrennens) {
     EXPECT_TRUE(beendet());
 }
 
+TEST_F(Rennende, UhrenEinesRundenrennens) {
+    t.einrichten("Runden", "1", {1, 2});
+    EXPECT_EQ(uhr(t.bahn().uhr1), "00:00:00,000");
+    t.bahn().Command1.klicken();
+    t.runde_nach(3600001, "1");
+    EXPECT_EQ(uhr(t.bahn().uhr1), "01:00:00,000");
+    EXPECT_TRUE(t.bahn().uhr1.stunden.sichtbar());
+    t.maschine.laufen(9);
+    EXPECT_EQ(uhr(t.bahn().uhr1), "01:00:00,009");
+    EXPECT_EQ(uhr(t.bahn().uhr2), "01:00:00,009");
+    t.runde_nach(6000, "1");
+    ASSERT_TRUE(beendet());
+    t.maschine.laufen(100);
+    EXPECT_EQ(uhr(t.bahn().uhr1), "01:00:00,000") << "minutes, seconds and thousandths stand at zero";
+}
+
+TEST_F(Rennende, ZweiteRennenImSelbenProgrammBeginnenGanzVonVorn) {
+    t.p.belegung.vorbelegen(belegung_stufe::standard);
+    for (int rennen = 0; rennen < 2; ++rennen) {
+        t.maschine.sounds.clear();
+        t.starten("Runden", "2", {1, 2});
+        EXPECT_FALSE(t.p.rennen.zustand.rennabbruch);
+        t.runde_nach(1000, "12");
+        t.runde_nach(6000 + 500 * rennen, "1");
+        EXPECT_EQ(t.bahn().brunde[1].text(), rennen == 0 ? "06,000" : "06,500");
+        EXPECT_EQ(t.p.rennen.zustand.fuehrungsrunden, 1);
+        t.spur(2).strafzeit = 7;
+        t.spur(2).pause_abzug = 400;
+        t.runde_nach(6000, "1");
+        ASSERT_TRUE(beendet()) << rennen;
+        EXPECT_EQ(std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\ez.wav"), 1);
+        t.p.auswertung.Command5.klicken();
+        t.starten("Zeit", "1", {1});
+        EXPECT_EQ(t.spur(2).strafzeit, 0);
+        EXPECT_EQ(t.spur(2).pause_abzug, 0);
+        EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 0);
+        t.bahn().Command4.klicken();
+        t.p.auswertung.Command5.klicken();
+    }
+}
+
+TEST_F(Rennende, UeberfahrtVorDemStartZaehltNicht) {
+    t.einrichten("Zeit", "5", {1});
+    t.taste("1");
+    t.p.ereignisse[35].aktiv = true;
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(5);
+    EXPECT_EQ(t.spur(1).runden, -1);
+    EXPECT_FALSE(t.bahn().Command1.aktiviert());
+    EXPECT_EQ(t.p.rennen.zustand.rennen_start_uhrzeit, "21.11.2026-14:03:22");
+}
+
+TEST_F(Rennende, NachtrennenBeginntUnterDerAbdeckung) {
+    t.p.einst.nachtrennen_modus = 1;
+    t.starten("Zeit", "5", {1});
+    EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
+    t.bahn().Command2.klicken();
+    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+}
+
 TEST_F(Rennende, StundenErscheinenMitIhrenTrennern) {
     t.p.form1.stddauer.eingeben("1");
     t.einrichten("Zeit", "1", {1});
@@ -113,6 +173,8 @@ TEST_F(Rennende, ZeitrennenLetzterImZielGibtJedemNochEineUeberfahrt) {
     t.runde_nach(20000, "2");
     EXPECT_TRUE(beendet());
     EXPECT_EQ(t.spur(2).runden, 1);
+    EXPECT_FALSE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
+    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
 }
 
 TEST_F(Rennende, NachlaufDauertHoechstensZweiMinuten) {
@@ -137,7 +199,9 @@ TEST_F(Rennende, RundenrennenErsterImZielEndetFuerAlle) {
     ASSERT_TRUE(beendet());
     EXPECT_TRUE(gespielt("sound\\ez.wav"));
     EXPECT_TRUE(geraet.enthaelt({schaltung::ausgang::bahnstrom_aus, 3, true}));
-    EXPECT_TRUE(geraet.enthaelt({schaltung::ausgang::zieleinfahrt, 3, true}));
+    EXPECT_EQ(std::count(geraet.befehle.begin(), geraet.befehle.end(),
+                         (schaltung{schaltung::ausgang::zieleinfahrt, 3, true})),
+              1);
     EXPECT_FALSE(geraet.enthaelt({schaltung::ausgang::zieleinfahrt, 1, true}));
     EXPECT_EQ(t.spur(1).runden, 1);
 }
@@ -173,7 +237,8 @@ TEST_F(Rennende, AktuelleRundeBeendenLaesstJedenAusfahren) {
     t.runde_nach(6000, "1");
     EXPECT_TRUE(t.spur(1).ziel_erreicht);
     EXPECT_FALSE(beendet());
-    t.runde_nach(500, "2");
+    t.maschine.laufen(1);
+    t.runde_nach(499, "2");
     EXPECT_TRUE(t.spur(2).ziel_erreicht);
     t.runde_nach(500, "3");
     EXPECT_TRUE(beendet());
@@ -200,12 +265,15 @@ TEST_F(Rennende, FortgesetzteUhrZeigtDieRenndauer) {
 }
 
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
+    ausgabe_protokoll geraet;
+    t.p.ausgaben.anschliessen(geraet);
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
     t.maschine.laufen(61000);  // in the run-on
     t.bahn().Command2.klicken();
     EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
     EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
+    EXPECT_EQ(geraet.befehle.back(), (schaltung{schaltung::ausgang::bahnstrom_aus, 0, false}));
     t.maschine.laufen(300000);
     EXPECT_FALSE(beendet());
     EXPECT_EQ(t.maschine.sounds.back(), "sound\\ra.wav");
@@ -215,19 +283,45 @@ TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
     EXPECT_TRUE(t.bahn().uhr1.uhrframe.sichtbar());
 }
 
+TEST_F(Rennende, CountdownKommtAufDieMillisekunde) {
+    struct ansage {
+        zeit_ms vor_ende;
+        const char* datei;
+    };
+    t.p.einst.sound_dateien[64] = "sound\\frei.wav";
+    t.starten("Zeit", "6", {1});
+    t.maschine.laufen(1);
+    zeit_ms rest = 360000;
+    for (const ansage& a : {ansage{300500, "sound\\m5.wav"},
+                            {120500, "sound\\m2.wav"},
+                            {60500, "sound\\m1.wav"},
+                            {42500, "sound\\frei.wav"},
+                            {30500, "sound\\s30.wav"},
+                            {20500, "sound\\s20.wav"},
+                            {10200, "sound\\s10.wav"},
+                            {9200, "sound\\s9.wav"},
+                            {8200, "sound\\s8.wav"},
+                            {7200, "sound\\s7.wav"},
+                            {6200, "sound\\s6.wav"},
+                            {5200, "sound\\s5.wav"},
+                            {4200, "sound\\s4.wav"},
+                            {3150, "sound\\s3.wav"},
+                            {2150, "sound\\s2.wav"},
+                            {1100, "sound\\s1.wav"}}) {
+        t.maschine.laufen(rest - a.vor_ende - 1);
+        EXPECT_FALSE(gespielt(a.datei)) << a.datei;
+        t.maschine.laufen(1);
+        EXPECT_TRUE(gespielt(a.datei)) << a.datei;
+        rest = a.vor_ende;
+    }
+    EXPECT_EQ(t.maschine.sounds.size(), 2U + 16U) << "each once, beside the two of the start";
+}
+
 TEST_F(Rennende, CountdownSpieltNurWasDieRenndauerHergibt) {
-    t.starten("Zeit", "1,3", {1});
-    t.maschine.laufen(30000);
-    EXPECT_TRUE(gespielt("sound\\m1.wav"));
-    EXPECT_FALSE(gespielt("sound\\m2.wav"));
+    t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
-    EXPECT_TRUE(beendet());
-    const std::vector<std::string> ende{"sound\\s30.wav", "sound\\s20.wav", "sound\\s10.wav", "sound\\s9.wav",
-                                        "sound\\s8.wav",  "sound\\s7.wav",  "sound\\s6.wav",  "sound\\s5.wav",
-                                        "sound\\s4.wav",  "sound\\s3.wav",  "sound\\s2.wav",  "sound\\s1.wav",
-                                        "sound\\re.wav"};
-    ASSERT_GE(t.maschine.sounds.size(), ende.size());
-    EXPECT_TRUE(std::equal(ende.rbegin(), ende.rend(), t.maschine.sounds.rbegin()));
+    EXPECT_FALSE(gespielt("sound\\m1.wav"));
+    EXPECT_TRUE(gespielt("sound\\s30.wav"));
 }
 
 TEST_F(Rennende, ZehnSekundenRennenZaehltNichtHerunter) {
@@ -238,7 +332,7 @@ TEST_F(Rennende, ZehnSekundenRennenZaehltNichtHerunter) {
 }
 
 TEST_F(Rennende, BesteRundeKlingtErstNachDenErstenRundenUndAusHeisstAus) {
-    t.starten("Zeit", "10", {1});
+    t.starten("Zeit", "10", {1, 2});
     t.runde_nach(1000, "1");
     for (int runde = 1; runde <= 6; ++runde) {
         EXPECT_FALSE(gespielt("sound\\sr1.wav")) << runde;
@@ -246,6 +340,10 @@ TEST_F(Rennende, BesteRundeKlingtErstNachDenErstenRundenUndAusHeisstAus) {
     }
     EXPECT_TRUE(gespielt("sound\\sr1.wav"));
     EXPECT_TRUE(gespielt("sound\\rd.wav"));
+    t.spur(2).runden = 8;
+    t.p.rennen.zustand.rundenzeiten.beste(2, 99999);
+    t.runde_nach(6000, "2");
+    EXPECT_TRUE(gespielt("sound\\sr2.wav"));
     t.p.einst.sound_an = false;
     t.maschine.sounds.clear();
     t.runde_nach(6000, "1");

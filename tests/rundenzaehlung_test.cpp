@@ -54,11 +54,11 @@ TEST_F(Rundenzaehlung, ZaehltRundenZeitenUndBesteRundeJeSpur) {
 TEST_F(Rundenzaehlung, SperrtHundertMillisekundenNachJederRunde) {
     t.p.param.min_rundenzeit_ms = 10;
     t.runde_nach(1000, "1");
-    t.runde_nach(50, "1");
+    t.runde_nach(99, "1");
     EXPECT_EQ(t.spur(1).runden, 0);
-    t.runde_nach(60, "1");
+    t.runde_nach(2, "1");
     EXPECT_EQ(t.spur(1).runden, 1);
-    EXPECT_EQ(rundenzeit(1, 1), 110);
+    EXPECT_EQ(rundenzeit(1, 1), 101);
 }
 
 TEST_F(Rundenzaehlung, ZweiFlankenImSelbenTickSindEineMitDemSpaeterenStempel) {
@@ -74,18 +74,18 @@ TEST_F(Rundenzaehlung, ZweiFlankenImSelbenTickSindEineMitDemSpaeterenStempel) {
 }
 
 TEST_F(Rundenzaehlung, GehaltenerKontaktZaehltNurEinmal) {
+    t.p.param.min_rundenzeit_ms = 10;
     t.runde_nach(1000, "1");
     t.maschine.laufen(8000);
     t.p.ereignisse[16].pegel = true;  // away from rest: the car stands in the sensor
-    t.p.ereignisse.ereignis_melden(16);
-    t.maschine.laufen(1);
     for (int tick = 0; tick < 300; ++tick) {
         t.p.ereignisse.ereignis_melden(16);
         t.maschine.laufen(1);
     }
     EXPECT_EQ(t.spur(1).runden, 1);
     t.p.ereignisse[16].pegel = false;
-    t.runde_nach(6000, "1");
+    t.maschine.laufen(1);
+    t.runde_nach(200, "1");
     EXPECT_EQ(t.spur(1).runden, 2);
 }
 
@@ -99,6 +99,36 @@ TEST_F(Rundenzaehlung, PauseHebtDasMinimumFuerGenauEineRunde) {
     EXPECT_EQ(t.spur(1).pause_abzug, 0);
     t.runde_nach(6000, "1");
     EXPECT_EQ(rundenzeit(1, 2), 6000);
+    t.p.param.min_rundenzeit_ms = -100000;
+    t.spur(1).pause_abzug = 7000;
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(rundenzeit(1, 3), 0) << "never below zero";
+}
+
+TEST_F(Rundenzaehlung, InDerPauseZaehltNichts) {
+    t.runde_nach(1000, "1");
+    t.p.rennen.zustand.chaos_aktiv = true;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+}
+
+TEST_F(Rundenzaehlung, FruehstartSperreZaehltErstDanachUndAbDemStart) {
+    t.spur(1).fruehstart_sperre = true;
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, -1);
+    t.spur(1).fruehstart_sperre = false;
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(rundenzeit(1, 0), 11998);
+}
+
+TEST_F(Rundenzaehlung, ErsteRundeIstDieErsteBesteUndVerborgeneListenBleibenLeer) {
+    t.bahn().t_liste[0].sichtbar(false);
+    t.p.rennen.zustand.rundenzeiten.beste(1, 100);  // as a start without a reset would leave it
+    t.runde_nach(1000, "1");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 8000);
+    EXPECT_TRUE(liste(1).empty());
 }
 
 TEST_F(Rundenzaehlung, ZeitstrafeVerlaengertJedeRundeUmTausendstel) {
@@ -201,12 +231,13 @@ struct geraet_mit_spur_drei : messquelle {
     explicit geraet_mit_spur_drei(ereignis_tabelle& ziel) : ereignisse(ziel) {}
     void abfragen() override {
         if (std::exchange(flanke, false)) {
-            ereignisse[14].ereignis_zeit = 4711;
-            ereignisse[14].aktiv = true;
+            ereignisse[art].ereignis_zeit = 4711;
+            ereignisse[art].aktiv = true;
         }
     }
     void abtasten() override { ++proben; }
     ereignis_tabelle& ereignisse;
+    ereignis_art art = 14;
     bool flanke = false;
     int proben = 0;
 };
@@ -221,6 +252,10 @@ TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.stempel(1, 0), 4711);
     EXPECT_EQ(t.spur(3).runden, -1);
     EXPECT_EQ(geraet.proben, 3);
+    geraet.art = 13;
+    geraet.flanke = true;
+    t.maschine.laufen(3);
+    EXPECT_EQ(t.spur(2).runden, 0);
 }
 
 }  // namespace

@@ -50,7 +50,6 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);
     titel("beste Runde");
     zeigen(bahn.brunde[spur], "brunde", schrift_zeit);
-    zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);
     liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), ansage + "Rundenliste",
                                Qt::AlignCenter);
     liste_->setFrameShape(QFrame::NoFrame);
@@ -59,6 +58,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     liste_->setStyleSheet("background: transparent; border: none;");
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     aufbau->addWidget(liste_, 1);
+    zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);
 
     binder.verbinden(bahn.bahnshape[spur], this, "bahnshape_" + nummer, [this, &bahn, spur] {
         const form& flaeche = bahn.bahnshape[spur];
