@@ -111,6 +111,12 @@ bool dateien::zeilen_schreiben(std::string_view name, const std::vector<std::str
     return true;
 }
 
+bool dateien::gibt_es(std::string_view name) const {
+    const fs::path datei = pfad(name);
+    std::error_code fehler;
+    return !datei.empty() && fs::is_regular_file(datei, fehler);
+}
+
 bool dateien::ordner_anlegen(std::string_view name) const {
     const fs::path ordner = pfad(name);
     std::error_code fehler;

@@ -26,6 +26,9 @@ public:
     /// the result is false and the old one is untouched.
     bool zeilen_schreiben(std::string_view name, const std::vector<std::string>& zeilen) const;
 
+    /// There is a file of that name.
+    bool gibt_es(std::string_view name) const;
+
     /// These report success; a failure changes nothing.
     bool ordner_anlegen(std::string_view name) const;
     bool umbenennen(std::string_view alt, std::string_view neu) const;

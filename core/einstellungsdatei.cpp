@@ -18,23 +18,23 @@ std::size_t platz(int z) {
 
 }  // namespace
 
-bool einstellungsdatei::kopf_pruefen(std::string_view kopf) {
+bool einstellungsdatei::kopf_pruefen(std::string_view kopf, version_melden melden) {
     if (!kopf.starts_with(einstellungs_kopf)) {
         return false;
     }
-    if (kopf.substr(einstellungs_kopf.size()) != programm_version) {
+    if (melden == version_melden::ja && kopf.substr(einstellungs_kopf.size()) != programm_version) {
         um_.meldungen.zeigen(um_.ziel.txt.meldung[19], um_.ziel.txt.titel[0]);
     }
     return true;
 }
 
-void einstellungsdatei::einlesen(std::string_view datei, bool wettkampfdatei) {
+void einstellungsdatei::einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
     zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
     rest_.clear();
     fehler_laden_ = true;
     const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
     std::size_t i = wettkampfdatei ? 1 : 0;
-    if (!inhalt || inhalt->size() <= i + 1 || !kopf_pruefen((*inhalt)[i])) {
+    if (!inhalt || inhalt->size() <= i + 1 || !kopf_pruefen((*inhalt)[i], melden)) {
         return;
     }
     zeilen_[0] = (*inhalt)[i];

@@ -10,6 +10,9 @@
 
 namespace tarvel {
 
+/// Whether reading a file of another version says so.
+enum class version_melden { ja, nein };
+
 /// A settings file in its three stages: read, check, take over. No setting changes before the third.
 class einstellungsdatei {
 public:
@@ -28,7 +31,7 @@ public:
 
     /// First stage. A competition file has one line in front of the header, and goes on behind the settings: what
     /// stands there is left in `rest`.
-    void einlesen(std::string_view datei, bool wettkampfdatei = false);
+    void einlesen(std::string_view datei, bool wettkampfdatei = false, version_melden melden = version_melden::ja);
     /// Second stage: refuses the file or mends single lines.
     void pruefen();
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `modus_4x4_start`, else 0.
@@ -44,7 +47,7 @@ public:
     void speichern(std::string_view datei);
 
 private:
-    bool kopf_pruefen(std::string_view kopf);
+    bool kopf_pruefen(std::string_view kopf, version_melden melden);
     void wahrheitswoerter_uebersetzen();
     void hardware_folgen(int modus_4x4_start);
     void wechselschema_uebernehmen();

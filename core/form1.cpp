@@ -28,11 +28,16 @@ form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::ze
         bildschirm_anpassen();
     };
     Command1.bei_klick = [this] { Command1_Click(); };
-    Command2.bei_klick = [this] {
-        if (beenden) {
-            beenden();
-        }
+    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
+        knopf.bei_klick = [&wohin] {
+            if (wohin) {
+                wohin();
+            }
+        };
     };
+    weitergeben(Command2, beenden);
+    weitergeben(Command5, einstellungen_speichern);
+    weitergeben(Command7, einstellungen_laden);
     command_tasten.bei_klick = [this] { um_.fenster.zeigen("Tastaturbelegung", anzeige_art::modal); };
     rennart.bei_aenderung = [this] {
         rennart_geaendert();
@@ -61,6 +66,8 @@ void form1::laden() {
     label_spurlaenge.text("Spurlänge");
     Command1.text("Einzelrennen");
     Command2.text("Ende");
+    Command5.text("Speichern");
+    Command7.text("Laden");
     command_tasten.text("Tastaturbelegung");
 
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
@@ -170,6 +177,11 @@ void form1::werte_pruefen() {
     } else if (!rundenrennen && dauer > 59) {
         renndauer.text("59");
     }
+}
+
+void form1::vor_dem_speichern_pruefen() {
+    werte_pruefen();
+    begrenzen(massstab, 1, 500, "43");
 }
 
 void form1::renndauer_normalisieren() {

@@ -54,12 +54,16 @@ public:
     bezeichnung modus_label;                 ///< status line: the timing hardware in force
     befehl Command1;                         ///< single race
     befehl Command2;                         ///< end of the program
+    befehl Command5;                         ///< save the settings
+    befehl Command7;                         ///< load settings
     befehl command_tasten;                   ///< key assignment
 
     /// Switches the track power on; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
     /// Ends the program.
     std::function<void()> beenden;
+    std::function<void()> einstellungen_speichern;
+    std::function<void()> einstellungen_laden;
 
     /// Load handler of the window.
     void laden();
@@ -73,6 +77,8 @@ public:
 
     /// Brings every field within its limits, silently.
     void werte_pruefen();
+    /// The same, and the scale, which a settings file refuses beyond its limits.
+    void vor_dem_speichern_pruefen();
     /// Parses `renndauer` and writes it back in its tidy form.
     void renndauer_normalisieren();
     /// Fills `spur_aktiv` and `spuren_anzahl`.

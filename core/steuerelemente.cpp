@@ -78,6 +78,23 @@ void liste::markieren(int zeile) {
     setzen(markiert_, std::clamp(zeile, -1, static_cast<int>(zeilen_.size()) - 1));
 }
 
+void liste::auswaehlen(int zeile) {
+    if (!bedienbar()) {
+        return;
+    }
+    markieren(zeile);
+    if (bei_auswahl) {
+        bei_auswahl();
+    }
+}
+
+void liste::doppelklicken(int zeile) {
+    auswaehlen(zeile);
+    if (bedienbar() && bei_doppelklick && markiert_ >= 0) {
+        bei_doppelklick();
+    }
+}
+
 void bild::datei(std::string_view neu) {
     if (datei_ == neu) {
         return;

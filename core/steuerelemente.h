@@ -171,6 +171,12 @@ public:
     int markiert() const { return markiert_; }
     void markieren(int zeile);
 
+    /// The operator selects a row, or means it with a double click.
+    std::function<void()> bei_auswahl;
+    std::function<void()> bei_doppelklick;
+    void auswaehlen(int zeile);
+    void doppelklicken(int zeile);
+
     /// Changes with every change other than an added row, so that a drawing can tell the two apart.
     unsigned stand() const { return stand_; }
 

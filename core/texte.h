@@ -20,6 +20,18 @@ struct texte {
     std::string text_runden = "Runden";
     std::array<std::string, 2> titel{"Hinweis", "Fehlermeldung"};
     std::array<std::string, 28> meldung;  ///< index 1 to 27
+    std::array<std::string, 12> datei_text{"Speichern",
+                                           "Speichern unter",
+                                           "Laden",
+                                           "Laden von",
+                                           "Einstellungen speichern",
+                                           "Einstellungen laden",
+                                           "Fahrzeugliste laden",
+                                           "Fahrzeugliste speichern",
+                                           "Fahrerliste laden",
+                                           "Fahrerliste speichern",
+                                           "Abbrechen",
+                                           "Alle Dateien anzeigen *.*"};
 
     std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";

@@ -4,11 +4,13 @@
 
 namespace tarvel::plattform {
 
-/// Message boxes. `zeigen` returns when the operator has closed the box; timers go on ticking meanwhile.
+/// Message boxes. They return when the operator has closed the box; timers go on ticking meanwhile.
 class meldungen {
 public:
     virtual ~meldungen() = default;
     virtual void zeigen(std::string_view text, std::string_view titel) = 0;
+    /// A question with yes and no; closing the box means no.
+    virtual bool fragen(std::string_view text, std::string_view titel) = 0;
 };
 
 }  // namespace tarvel::plattform

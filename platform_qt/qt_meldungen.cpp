@@ -6,15 +6,33 @@
 
 namespace tarvel::qt {
 
+namespace {
+
+QString als_text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+}  // namespace
+
 void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
-    const auto als_text = [](std::string_view utf8) {
-        return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    };
     QMessageBox box(QMessageBox::Warning, als_text(titel), als_text(text), QMessageBox::Ok,
                     QApplication::activeWindow());
     box.setObjectName("meldung");
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+bool QtMeldungen::fragen(std::string_view text, std::string_view titel) {
+    QMessageBox box(QMessageBox::Question, als_text(titel), als_text(text), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setObjectName("frage");
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* ja = box.addButton("Ja", QMessageBox::YesRole);
+    QPushButton* nein = box.addButton("Nein", QMessageBox::NoRole);
+    box.setDefaultButton(nein);
+    box.setEscapeButton(nein);
+    box.exec();
+    return box.clickedButton() == ja;
 }
 
 }  // namespace tarvel::qt

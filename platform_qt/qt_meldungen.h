@@ -7,6 +7,7 @@ namespace tarvel::qt {
 class QtMeldungen final : public plattform::meldungen {
 public:
     void zeigen(std::string_view text, std::string_view titel) override;
+    bool fragen(std::string_view text, std::string_view titel) override;
 };
 
 }  // namespace tarvel::qt

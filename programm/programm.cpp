@@ -32,7 +32,10 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, form1, ereignisse, belegung, ausgaben, fenster}),
       auswertung(rennen.umgebung),
-      tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}) {
+      tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
+      speichernfenster({ablage, txt, fenster, d.meldungen}) {
+    form1.einstellungen_speichern = [this] { speichern_oeffnen(); };
+    form1.einstellungen_laden = [this] { laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
     form1.bahnstrom_ein = [this] {
         ausgaben.ampelnRoff(0);
@@ -48,6 +51,7 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
     fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, {}});
+    fenster.anmelden("speichernfenster", {});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
 }
 
@@ -121,7 +125,7 @@ void programm::einstellungen_laden() {
         einstellungen_speichern("Einstellungen\\" + einstell_datei);
     }
     form1.farben_einstellen();
-    if (einst.aut_loeschen) {
+    if (einst.aut_loeschen && !laden_aus_menue_) {
         auto_dateien_loeschen(ablage);
     }
     ergebnis_ordner_anlegen(ablage);
@@ -130,15 +134,51 @@ void programm::einstellungen_laden() {
 
 void programm::einstellungen_speichern(std::string_view name) {
     datei.speichern(name);
-    form1.einstellungsname_anzeigen(einstellungsname(name));
+    if (!datei.fehler_laden()) {
+        einstell_datei = einstellungsname(name);
+    }
+    form1.einstellungsname_anzeigen(einstell_datei);
     belegung.speichern(ablage);
+}
+
+void programm::speichern_oeffnen() {
+    form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+    speichernfenster.oeffnen({true, txt.datei_text[4], txt.datei_text[1], txt.datei_text[0], "Einstellungen", ".ini",
+                              einstell_datei, [this](const std::string& name) {
+                                  einstellungen_speichern("Einstellungen\\" + name);
+                                  return !datei.fehler_laden();
+                              }});
+}
+
+void programm::laden_oeffnen() {
+    speichernfenster.oeffnen({false, txt.datei_text[5], txt.datei_text[3], txt.datei_text[2], "Einstellungen", ".ini",
+                              einstell_datei,
+                              [this](const std::string& name) { return einstellungen_aus_menue_laden(name); }});
+}
+
+bool programm::einstellungen_aus_menue_laden(const std::string& name) {
+    const std::string pfad = "Einstellungen\\" + name;
+    datei.einlesen(pfad, false, version_melden::nein);
+    datei.pruefen();
+    if (datei.fehler_laden()) {
+        dienste.meldungen.zeigen("Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen",
+                                 txt.titel[1]);
+        return false;
+    }
+    laden_aus_menue_ = true;
+    einstell_datei = pfad;
+    einstellungen_laden();
+    laden_aus_menue_ = false;
+    return true;
 }
 
 void programm::hardware_starten() {
     ausgaben.ruhezustand();
     form1.modus_anzeigen();
-    fenster.zeigen("Form1");
-    fenster.zeigen("Form3");
+    if (!laden_aus_menue_) {
+        fenster.zeigen("Form1");
+        fenster.zeigen("Form3");
+    }
 }
 
 void programm::programm_beenden() {
@@ -147,8 +187,8 @@ void programm::programm_beenden() {
     }
     programm_beendet_ = true;
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 6> reihenfolge{"auswertung",       "bahn1",      "Form3", "Form1",
-                                                          "Tastaturbelegung", "Update_form"};
+    constexpr std::array<std::string_view, 7> reihenfolge{
+        "auswertung", "bahn1", "Form3", "speichernfenster", "Form1", "Tastaturbelegung", "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

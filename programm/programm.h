@@ -9,6 +9,7 @@
 #include "core/fensterregister.h"
 #include "core/form1.h"
 #include "core/renn_parameter.h"
+#include "core/speichernfenster.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
@@ -53,6 +54,7 @@ public:
     tarvel::rennen rennen;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
+    tarvel::speichernfenster speichernfenster;
 
 private:
     void fenster_anmelden();
@@ -62,10 +64,14 @@ private:
     void start_datei_bestimmen();
     void einstellungen_laden();
     void einstellungen_speichern(std::string_view name);
+    void speichern_oeffnen();
+    void laden_oeffnen();
+    bool einstellungen_aus_menue_laden(const std::string& name);
     void hardware_starten();
 
     int modus_4x4_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
 
+    bool laden_aus_menue_ = false;  ///< a load on the operator's command, not at start
     bool programm_beendet_ = false;
 };
 

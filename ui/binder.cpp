@@ -234,7 +234,9 @@ QListView* Binder::listenfeld(liste& element, const QString& name, const QString
     modell->setAusrichtung(ausrichtung);
     widget->setModel(modell);
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
-                     [&element](const QModelIndex& zeile) { element.markieren(zeile.row()); });
+                     [&element](const QModelIndex& zeile) { element.auswaehlen(zeile.row()); });
+    QObject::connect(widget, &QListView::doubleClicked, widget,
+                     [&element](const QModelIndex& zeile) { element.doppelklicken(zeile.row()); });
     verbinden(element, widget, name, [&element, widget, modell] {
         const QSignalBlocker still(widget->selectionModel());
         modell->abgleichen();

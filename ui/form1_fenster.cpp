@@ -55,6 +55,7 @@ Form1Fenster::Form1Fenster(form1& logik, Bildtakt& takt) : Fenster("Form1", takt
     inhalt->addWidget(spuren_gruppe(), 3);
     inhalt->addSpacing(8);
     inhalt->addWidget(befehlszeile());
+    inhalt->addWidget(statuszeile());
     aufbau->addLayout(inhalt, 5);
     resize(980, 700);
 }
@@ -162,23 +163,32 @@ QWidget* Form1Fenster::befehlszeile() {
         knopf->setMinimumHeight(48);
     }
     ende->setMinimumWidth(110);
-    QLabel* modus = binder().label(logik_.modus_label, "modus_label");
-    modus->setStyleSheet("color: #626a78;");
-    modus->setToolTip("Womit gemessen wird. Im Simulationsmodus zählt die Tastatur die Runden.");
-    QLabel* einstelldatei = binder().label(logik_.Label6, "Label6");
-    einstelldatei->setStyleSheet("color: #626a78;");
-    auto* status = new QVBoxLayout;
-    status->setSpacing(2);
-    status->addStretch();
-    status->addWidget(modus, 0, Qt::AlignRight);
-    status->addWidget(einstelldatei, 0, Qt::AlignRight);
-    status->addStretch();
+    QPushButton* speichern = binder().knopf(logik_.Command5, "Command5");
+    QPushButton* laden = binder().knopf(logik_.Command7, "Command7");
+    speichern->setToolTip("Einstellungen und die Felder dieses Fensters in eine Datei speichern");
+    laden->setToolTip("Einstellungen und die Felder dieses Fensters aus einer Datei laden");
+    for (QPushButton* knopf : {speichern, laden}) {
+        knopf->setMinimumHeight(48);
+    }
     aufbau->addWidget(rennen);
+    aufbau->addWidget(speichern);
+    aufbau->addWidget(laden);
     aufbau->addWidget(tasten);
     aufbau->addStretch();
-    aufbau->addLayout(status);
-    aufbau->addSpacing(16);
     aufbau->addWidget(ende);
+    return zeile;
+}
+
+QWidget* Form1Fenster::statuszeile() {
+    auto* zeile = new QWidget;
+    zeile->setStyleSheet("color: #626a78;");
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(2, 0, 2, 0);
+    QLabel* modus = binder().label(logik_.modus_label, "modus_label");
+    modus->setToolTip("Womit gemessen wird. Im Simulationsmodus zählt die Tastatur die Runden.");
+    aufbau->addWidget(modus);
+    aufbau->addStretch();
+    aufbau->addWidget(binder().label(logik_.Label6, "Label6"));
     return zeile;
 }
 

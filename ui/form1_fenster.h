@@ -16,6 +16,7 @@ private:
     QWidget* rennen_gruppe();
     QWidget* spuren_gruppe();
     QWidget* befehlszeile();
+    QWidget* statuszeile();
     void spur_zeile(QGridLayout* raster, int spur);
 
     form1& logik_;

@@ -9,6 +9,7 @@ Oberflaeche::Oberflaeche(programm& p)
       bahn1(p.rennen, takt, &form1),
       auswertung(p.auswertung, takt, &bahn1),
       tastatur(p.tastaturbelegung, takt, &form1),
+      speichern(p.speichernfenster, takt, &form1),
       p_(p) {
     fenster.aufnehmen("Update_form", &update_form);
     fenster.aufnehmen("Form1", &form1);
@@ -16,6 +17,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("bahn1", &bahn1);
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
+    fenster.aufnehmen("speichernfenster", &speichern);
     p.fenster.anzeigen_auf(&fenster);
 
     form1.bei_schliessen = [&p] { p.programm_beenden(); };
@@ -23,6 +25,7 @@ Oberflaeche::Oberflaeche(programm& p)
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
     bahn1.bei_schliessen = [&p] { p.rennen.befehle.rennen_abbrechen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
+    speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
 }
 

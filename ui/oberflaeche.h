@@ -5,6 +5,7 @@
 #include "ui/bahn1_fenster.h"
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
+#include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
 
@@ -26,6 +27,7 @@ public:
     Bahn1Fenster bahn1;
     AuswertungFenster auswertung;
     TastaturFenster tastatur;
+    SpeichernFenster speichern;
 
 private:
     programm& p_;

@@ -103,6 +103,11 @@ void test_plattform::zeigen(std::string_view text, std::string_view titel) {
     }
 }
 
+bool test_plattform::fragen(std::string_view text, std::string_view titel) {
+    fragen_gestellt.push_back({std::string(text), std::string(titel)});
+    return antwort;
+}
+
 std::string test_plattform::datei_lesen(const std::string& name) const {
     std::ifstream datei(ordner_ / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(datei), {}};

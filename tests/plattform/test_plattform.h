@@ -47,6 +47,8 @@ public:
     bool datei_da(const std::string& name) const;
 
     std::vector<meldung> meldungen_gezeigt;
+    std::vector<meldung> fragen_gestellt;
+    bool antwort = false;                    ///< to every question
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::vector<std::string> sounds;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
@@ -58,6 +60,7 @@ private:
 
     std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, int intervall_ms) override;
     void zeigen(std::string_view text, std::string_view titel) override;
+    bool fragen(std::string_view text, std::string_view titel) override;
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
     bool ist_einzige_instanz() override { return erste_instanz; }
     void beenden() override { ++beendet; }

@@ -201,7 +201,7 @@ TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
     for (QWidget* fenster :
          {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.auswertung), static_cast<QWidget*>(&o.tastatur)}) {
         const QSize platz = fenster->minimumSizeHint();
-        EXPECT_LE(platz.width(), 1024) << fenster->objectName().toStdString();
+        EXPECT_LE(platz.width(), 1000) << fenster->objectName().toStdString();
         EXPECT_LE(platz.height(), 740) << fenster->objectName().toStdString();
     }
 }

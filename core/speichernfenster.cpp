@@ -1,0 +1,89 @@
+#include "core/speichernfenster.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int name_laenge_max = 100;
+
+/// Characters that no file system of the program's users takes in a name.
+bool ist_dateiname(const std::string& name) {
+    const bool steuerzeichen =
+        std::any_of(name.begin(), name.end(), [](char zeichen) { return static_cast<unsigned char>(zeichen) < ' '; });
+    return !steuerzeichen && name.find_first_of("\\/:*?\"<>|") == std::string::npos && !name.starts_with('.');
+}
+
+}  // namespace
+
+speichernfenster::speichernfenster(umgebung um) : um_(um) {
+    name.laenge_max(name_laenge_max);
+    dateiliste.bei_auswahl = [this] {
+        const int zeile = dateiliste.markiert();
+        if (zeile >= 0) {
+            name.text(dateiliste.zeilen().at(static_cast<std::size_t>(zeile)));
+        }
+    };
+    dateiliste.bei_doppelklick = [this] { ausfuehren(); };
+    alle_dateien.bei_aenderung = [this] { liste_fuellen(); };
+    Command1.bei_klick = [this] { ausfuehren(); };
+    Command2.bei_klick = [this] { um_.fenster.entladen("speichernfenster"); };
+}
+
+void speichernfenster::oeffnen(dateiauftrag auftrag) {
+    auftrag_ = std::move(auftrag);
+    titel.text(auftrag_.titel);
+    ueberschrift.text(auftrag_.ueberschrift);
+    Command1.text(auftrag_.knopf);
+    Command2.text(um_.txt.datei_text[10]);
+    alle_dateien.text(um_.txt.datei_text[11]);
+    alle_dateien.gesetzt(false);
+    name.text(auftrag_.vorschlag);
+    liste_fuellen();
+    um_.fenster.zeigen("speichernfenster", anzeige_art::modal);
+    name.fokus_setzen();
+}
+
+void speichernfenster::liste_fuellen() {
+    dateiliste.leeren();
+    const std::string endung = alle_dateien.gesetzt() ? "" : auftrag_.endung;
+    for (const std::string& datei : um_.ablage.auflisten(auftrag_.ordner, "", endung)) {
+        dateiliste.hinzufuegen(datei);
+    }
+}
+
+void speichernfenster::melden(const std::string& text) {
+    um_.meldungen.zeigen(text, um_.txt.titel[0]);
+    name.fokus_setzen();
+}
+
+void speichernfenster::ausfuehren() {
+    std::string datei(gekuerzt(name.text()));
+    if (datei.empty()) {
+        melden("Bitte Dateinamen eingeben.");
+        return;
+    }
+    if (!ist_dateiname(datei)) {
+        melden("Der Dateiname enthält ein unzulässiges Zeichen.");
+        return;
+    }
+    if (!um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei) && datei.find('.') == std::string::npos) {
+        datei += auftrag_.endung;
+    }
+    const std::string pfad = auftrag_.ordner + "\\" + datei;
+    if (!auftrag_.speichern && !um_.ablage.gibt_es(pfad)) {
+        melden("Die Datei " + datei + " ist nicht vorhanden.");
+        return;
+    }
+    if (auftrag_.speichern && um_.ablage.gibt_es(pfad) &&
+        !um_.meldungen.fragen("Die Datei " + datei + " ist bereits vorhanden. Überschreiben?", um_.txt.titel[0])) {
+        return;
+    }
+    if (auftrag_.ausfuehren(datei)) {
+        um_.fenster.entladen("speichernfenster");
+    }
+}
+
+}  // namespace tarvel

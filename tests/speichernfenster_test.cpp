@@ -1,0 +1,103 @@
+#include "core/speichernfenster.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+class Speichernfenster : public testing::Test {
+protected:
+    speichernfenster& s = t_.p.speichernfenster;
+    test::testprogramm& t = t_;
+
+    void speichern_als(const char* name) {
+        t.p.form1.Command5.klicken();
+        s.name.eingeben(name);
+        s.Command1.klicken();
+    }
+    std::string letzte_meldung() const {
+        return t_.maschine.meldungen_gezeigt.empty() ? "" : t_.maschine.meldungen_gezeigt.back().text;
+    }
+
+private:
+    test::testprogramm t_;
+};
+
+TEST_F(Speichernfenster, SpeichertUnterEinemNamenUndLaedtWieder) {
+    t.p.form1.fahrer[0].eingeben("Käthe");
+    speichern_als("Klubabend");
+    EXPECT_FALSE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/Klubabend.ini"));
+    EXPECT_EQ(t.p.form1.Label6.text(), "Einstellungsdatei: Klubabend.ini");
+    t.p.form1.fahrer[0].eingeben("Jörg");
+    t.maschine.datei_schreiben("auto-1.csv", "");
+
+    t.p.form1.Command7.klicken();
+    EXPECT_EQ(s.titel.text(), "Einstellungen laden");
+    EXPECT_EQ(s.ueberschrift.text(), "Laden von");
+    EXPECT_EQ(s.dateiliste.zeilen(), (std::vector<std::string>{"Klubabend.ini", "einstellungen.ini"}));
+    s.dateiliste.doppelklicken(0);
+    EXPECT_FALSE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_EQ(t.p.form1.fahrer[0].text(), "Käthe");
+    EXPECT_TRUE(t.maschine.datei_da("auto-1.csv")) << "only the start of the program tidies up";
+}
+
+TEST_F(Speichernfenster, FragtVorDemUeberschreiben) {
+    const std::string alt = t.maschine.datei_lesen("Einstellungen/einstellungen.ini");
+    t.p.form1.massstab.eingeben("32");
+    speichern_als("einstellungen.ini");
+    ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), alt);
+    EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster"));
+    t.maschine.antwort = true;
+    s.Command1.klicken();
+    EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), alt);
+}
+
+TEST_F(Speichernfenster, FalscheDateiWirdNichtGeladenUndNichtUeberschrieben) {
+    t.maschine.datei_schreiben("Einstellungen/fremd.ini", "[section]\r\nkey=1\r\n");
+    t.p.form1.Command7.klicken();
+    s.name.eingeben("fremd");
+    s.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), "Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen");
+    EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/fremd.ini"), "[section]\r\nkey=1\r\n");
+    EXPECT_EQ(t.p.form1.Label6.text(), "Einstellungsdatei: einstellungen.ini");
+    s.name.eingeben("gibt es nicht");
+    s.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), "Die Datei gibt es nicht.ini ist nicht vorhanden.");
+}
+
+TEST_F(Speichernfenster, NamenFuehrenNichtAusDemOrdner) {
+    for (const char* name : {"", "   ", "../fremd", "a\\b", "c:x", "was?", ".ini", "a\tb"}) {
+        speichern_als(name);
+        EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster")) << name;
+        s.Command2.klicken();
+    }
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 8U);
+    EXPECT_FALSE(t.maschine.datei_da("fremd.ini"));
+}
+
+TEST_F(Speichernfenster, AlleDateienZeigtAuchAndere) {
+    t.maschine.datei_schreiben("Einstellungen/notiz.txt", "");
+    t.p.form1.Command7.klicken();
+    EXPECT_EQ(s.dateiliste.zeilen().size(), 1U);
+    s.alle_dateien.umschalten();
+    EXPECT_EQ(s.dateiliste.zeilen().size(), 2U);
+}
+
+TEST_F(Speichernfenster, FelderAusserhalbIhrerGrenzenMachenKeineUngueltigeDatei) {
+    t.p.form1.lspur[0].eingeben("0");
+    t.p.form1.renndauer.eingeben("-3");
+    t.p.form1.massstab.eingeben("0");
+    speichern_als("grenzen");
+    t.p.form1.Command7.klicken();
+    s.name.eingeben("grenzen");
+    s.Command1.klicken();
+    EXPECT_EQ(letzte_meldung(), "");
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/speichernfenster.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window in which a file is chosen.
+class SpeichernFenster : public Fenster {
+public:
+    SpeichernFenster(speichernfenster& logik, Bildtakt& takt, QWidget* eltern);
+};
+
+}  // namespace tarvel::ui
