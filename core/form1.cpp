@@ -71,16 +71,10 @@ void form1::laden() {
     command_tasten.text("Tastaturbelegung");
 
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
-    std::vector<std::string> namen{um_.txt.kein_fahrer};
-    namen.insert(namen.end(), um_.txt.fahrer_standard.begin(), um_.txt.fahrer_standard.end());
-    std::vector<std::string> fahrzeuge{um_.txt.standardfahrzeug_text};
-    fahrzeuge.insert(fahrzeuge.end(), um_.txt.fahrzeuge_standard.begin(), um_.txt.fahrzeuge_standard.end());
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
         spur[i].text("Spur/Auto " + std::to_string(nummer));
-        fahrer[i].eintraege(namen);
         fahrer[i].frei(true);
-        auto_[i].eintraege(fahrzeuge);
         auto_[i].frei(true);
         fahrer[i].laenge_max(name_laenge_max);
         auto_[i].laenge_max(name_laenge_max);
@@ -88,6 +82,22 @@ void form1::laden() {
     farben_einstellen();
     rennart_geaendert();
     timer1_->an();
+}
+
+void form1::listen_zeigen(const namensliste& fahrerliste, const namensliste& fahrzeugliste) {
+    const auto mit_standard = [](const std::string& standard, const namensliste& liste) {
+        std::vector<std::string> namen{standard};
+        for (const listeneintrag& eintrag : liste.eintraege()) {
+            namen.push_back(eintrag.name);
+        }
+        return namen;
+    };
+    const auto fahrernamen = mit_standard(um_.txt.kein_fahrer, fahrerliste);
+    const auto fahrzeugnamen = mit_standard(um_.txt.standardfahrzeug_text, fahrzeugliste);
+    for (std::size_t i = 0; i < fahrer.size(); ++i) {
+        fahrer.at(i).eintraege(fahrernamen);
+        auto_.at(i).eintraege(fahrzeugnamen);
+    }
 }
 
 void form1::farben_einstellen() {

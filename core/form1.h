@@ -6,6 +6,7 @@
 
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
+#include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
@@ -72,6 +73,8 @@ public:
     /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
     void spuren_nach_laden();
     void farben_einstellen();
+    /// Fills the choices of drivers and vehicles; what is chosen on the lanes stays.
+    void listen_zeigen(const namensliste& fahrerliste, const namensliste& fahrzeugliste);
     void modus_anzeigen();
     void einstellungsname_anzeigen(std::string_view name);
 

@@ -26,6 +26,8 @@ std::string einstellungsname(std::string_view pfad) {
 programm::programm(const plattform::dienste& d)
     : dienste(d),
       ablage(d.programmordner),
+      fahrerliste("Fahrerliste:", {txt.fahrer_standard.begin(), txt.fahrer_standard.end()}),
+      fahrzeugliste("Fahrzeugliste:", txt.fahrzeuge_standard),
       form1({einst, txt, param, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, d.meldungen}),
       form3(d.zeitgeber, fenster),
@@ -69,6 +71,7 @@ bool programm::starten() {
         return false;
     }
     tvk_ini_laden(ablage, txt.werbetext);
+    listen_laden();
     start_datei_bestimmen();
     einstellungen_laden();
     return true;
@@ -86,6 +89,24 @@ void programm::einstellungen_standard_setzen() {
     fenster.laden("Form1");
     datei.standard_setzen();
     belegung.vorbelegen(belegung_stufe::erststart);
+}
+
+void programm::listen_laden() {
+    // An unusable list is made anew from the built-in names.
+    const auto laden = [this](namensliste& liste, const std::string& name, int nicht_geladen, int nicht_gespeichert) {
+        if (liste.laden(ablage, name)) {
+            return;
+        }
+        dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_geladen)), txt.titel[1]);
+        if (!liste.speichern(ablage, name)) {
+            dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_gespeichert)), txt.titel[1]);
+        }
+    };
+    laden(fahrzeugliste, "Listen\\fahrzeuge.kfz", 7, 2);
+    laden(fahrerliste, "Listen\\fahrer.lst", 8, 3);
+    form1.listen_zeigen(fahrerliste, fahrzeugliste);
+    fahrer_datei = "fahrer.lst";
+    fahrzeug_datei = "fahrzeuge.kfz";
 }
 
 void programm::start_datei_bestimmen() {

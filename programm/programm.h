@@ -45,6 +45,11 @@ public:
     tastenbelegung belegung;
     tarvel::ausgaben ausgaben;
 
+    namensliste fahrerliste;
+    namensliste fahrzeugliste;
+    std::string fahrer_datei;
+    std::string fahrzeug_datei;
+
     tarvel::form1 form1;
     einstellungsdatei datei;
     std::string einstell_datei;          ///< current settings file, without its folder once it is loaded
@@ -61,6 +66,7 @@ private:
     void texte_standard_setzen();
     void hardware_standard_setzen();
     void einstellungen_standard_setzen();
+    void listen_laden();
     void start_datei_bestimmen();
     void einstellungen_laden();
     void einstellungen_speichern(std::string_view name);

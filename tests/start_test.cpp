@@ -21,6 +21,30 @@ TEST(Start, ZeigtDieFensterDerReiheNach) {
     EXPECT_EQ(protokoll.gezeigt, (std::vector<std::string>{"Update_form", "Form1", "Form3"}));
 }
 
+TEST(Start, ErsterStartImLeerenOrdnerMeldetUndLegtAllesAn) {
+    test::test_plattform maschine;
+    programm p(maschine.dienste());
+    p.starten();
+    ASSERT_EQ(maschine.meldungen_gezeigt.size(), 3U);
+    EXPECT_EQ(maschine.meldungen_gezeigt[0].text, p.txt.meldung[7]);
+    EXPECT_EQ(maschine.meldungen_gezeigt[1].text, p.txt.meldung[8]);
+    EXPECT_EQ(maschine.meldungen_gezeigt[2].text, p.txt.meldung[9]);
+    maschine.meldungen_gezeigt.clear();
+    programm zweiter(maschine.dienste());
+    zweiter.starten();
+    EXPECT_TRUE(maschine.meldungen_gezeigt.empty());
+}
+
+TEST(Start, MitgelieferteDateienGebenEinenStartOhneMeldung) {
+    test::test_plattform maschine;
+    std::filesystem::copy(std::filesystem::path(TARVEL_QUELLEN) / "data", maschine.ordner(),
+                          std::filesystem::copy_options::recursive);
+    programm p(maschine.dienste());
+    p.starten();
+    EXPECT_TRUE(maschine.meldungen_gezeigt.empty());
+    EXPECT_EQ(p.form1.fahrer[0].eintraege().size(), 7U);
+}
+
 TEST(Start, LegtOrdnerAnUndSchliesstDieStartbilder) {
     test::testprogramm t;
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());

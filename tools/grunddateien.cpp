@@ -14,5 +14,8 @@ int main(int argc, char** argv) {
     }
     const tarvel::test::testprogramm t;
     const tarvel::dateien ziel{std::filesystem::path(argv[1])};
-    return ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) ? 0 : 1;
+    const bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
+                             t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
+                             t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz");
+    return geschrieben ? 0 : 1;
 }

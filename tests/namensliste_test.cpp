@@ -1,0 +1,78 @@
+#include "core/namensliste.h"
+
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using eintraege = std::vector<listeneintrag>;
+
+class Namensliste : public testing::Test {
+protected:
+    bool laden(const std::vector<std::string>& zeilen) {
+        EXPECT_TRUE(ablage.zeilen_schreiben("l.lst", zeilen));
+        return liste.laden(ablage, "l.lst");
+    }
+
+    test::test_plattform maschine;
+    dateien ablage{maschine.ordner()};
+    namensliste liste{"Fahrerliste:", {"Fahrer 1", "Fahrer 2"}};
+    const eintraege eingebaut{{"Fahrer 1", ""}, {"Fahrer 2", ""}};
+};
+
+TEST_F(Namensliste, NamenUndBilderGehenHinUndZurueck) {
+    ASSERT_TRUE(laden({"Fahrerliste:", "Jörg", "Anna", "Max", "{pic}", "joerg", "", "max", "{ende}"}));
+    EXPECT_EQ(liste.eintraege(), (eintraege{{"Jörg", "joerg"}, {"Anna", ""}, {"Max", "max"}}));
+    EXPECT_EQ(liste.bild_von("Jörg"), "joerg");
+    EXPECT_EQ(liste.bild_von("niemand"), "");
+    liste.bild_zuordnen("Anna");
+    ASSERT_TRUE(liste.speichern(ablage, "Listen\\neu.lst"));
+    EXPECT_EQ(maschine.datei_lesen("Listen/neu.lst"),
+              "Fahrerliste:\r\nJ\xF6rg\r\nAnna\r\nMax\r\n{pic}\r\njoerg\r\nAnna\r\nmax\r\n{ende}\r\n");
+    EXPECT_TRUE(laden({"Fahrerliste:", "{ende}"}));
+    EXPECT_TRUE(liste.eintraege().empty());
+}
+
+TEST_F(Namensliste, UnbrauchbareDateiGibtDieEingebautenNamen) {
+    EXPECT_FALSE(liste.laden(ablage, "fehlt.lst"));
+    for (const std::vector<std::string>& zeilen : {std::vector<std::string>{},
+                                                   {"Fahrerliste:"},
+                                                   {"Fahrzeugliste:", "Viper", "{pic}", "", "{ende}"},
+                                                   {"Fahrerliste:", "Anna", "{pic}", ""}}) {
+        EXPECT_FALSE(laden(zeilen));
+        EXPECT_EQ(liste.eintraege(), eingebaut);
+    }
+}
+
+TEST_F(Namensliste, HundertNamenUndNichtMehr) {
+    std::vector<std::string> zeilen{"Fahrerliste:"};
+    for (int nummer = 1; nummer <= 100; ++nummer) {
+        zeilen.push_back("F" + std::to_string(nummer));
+    }
+    std::vector<std::string> genau = zeilen;
+    genau.emplace_back("{pic}");
+    genau.insert(genau.end(), 100, "bild");
+    genau.emplace_back("{ende}");
+    EXPECT_TRUE(laden(genau));
+    EXPECT_EQ(liste.eintraege().size(), 100U);
+    EXPECT_EQ(liste.eintraege().back().bild, "bild");
+    zeilen.emplace_back("F101");
+    zeilen.insert(zeilen.end(), {"{pic}", "bild", "{ende}"});
+    EXPECT_TRUE(laden(zeilen));
+    EXPECT_EQ(liste.eintraege().size(), 100U);
+    EXPECT_EQ(liste.eintraege().front().bild, "") << "the pictures lie beyond the list";
+}
+
+TEST_F(Namensliste, GeladeneListeAendertDieGewaehltenFahrerNicht) {
+    maschine.datei_schreiben("Listen/fahrer.lst", "Fahrerliste:\r\nAnna\r\n{pic}\r\n\r\n{ende}\r\n");
+    programm p(maschine.dienste());
+    p.starten();
+    EXPECT_EQ(p.form1.fahrer[0].eintraege(), (std::vector<std::string>{"kein Fahrer", "Anna"}));
+    EXPECT_EQ(p.form1.fahrer[0].text(), "Fahrer 1");
+}
+
+}  // namespace
+}  // namespace tarvel
