@@ -105,7 +105,7 @@ einstellungszeile frei() {
     return fest("frei");
 }
 
-einstellungszeile ganzzahl(zugriff<int> ziel, int standard, pruefung::art pruefen, zahl_laden laden) {
+einstellungszeile ganzzahl(const zugriff<int>& ziel, int standard, pruefung::art pruefen, zahl_laden laden) {
     return {std::move(pruefen),
             [ziel, laden](const einstellungs_ziel& e, const std::string& zeile) {
                 const bool leer_oder_ausser = zeile.empty() || ausser(zeile, laden.min, laden.max);
@@ -117,13 +117,13 @@ einstellungszeile ganzzahl(zugriff<int> ziel, int standard, pruefung::art pruefe
             std::to_string(standard)};
 }
 
-einstellungszeile bruch(zugriff<double> ziel, std::string_view standard, pruefung::art pruefen) {
+einstellungszeile bruch(const zugriff<double>& ziel, std::string_view standard, pruefung::art pruefen) {
     return {std::move(pruefen),
             [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e) = zahl_lesen(zeile); },
             [ziel](const einstellungs_ziel& e) { return mit_blanks(zahl_text(ziel(e), ',')); }, std::string(standard)};
 }
 
-einstellungszeile ereignis(zugriff<int> ziel, int standard) {
+einstellungszeile ereignis(const zugriff<int>& ziel, int standard) {
     einstellungszeile neu = ganzzahl(ziel, standard);
     neu.laden = [ziel](const einstellungs_ziel& e, const std::string& zeile) {
         ziel(e) = ausser(zeile, 0, ereignis_max) ? 0 : ganz(zeile);
@@ -131,7 +131,7 @@ einstellungszeile ereignis(zugriff<int> ziel, int standard) {
     return neu;
 }
 
-einstellungszeile farbwert(zugriff<farbe> ziel, farbe standard, bool mit_blank) {
+einstellungszeile farbwert(const zugriff<farbe>& ziel, farbe standard, bool mit_blank) {
     return {{},
             [ziel](const einstellungs_ziel& e, const std::string& zeile) {
                 ziel(e) = static_cast<farbe>(ganzzahl_lesen(zeile, 0, farbe_max));
@@ -143,7 +143,7 @@ einstellungszeile farbwert(zugriff<farbe> ziel, farbe standard, bool mit_blank) 
             std::to_string(standard)};
 }
 
-einstellungszeile wahrheit(zugriff<bool> ziel, bool standard, wahr_laden laden, bool geprueft) {
+einstellungszeile wahrheit(const zugriff<bool>& ziel, bool standard, wahr_laden laden, bool geprueft) {
     einstellungszeile neu{geprueft ? pruefung::nur_wahrheitswert() : pruefung::art(),
                           [ziel, laden](const einstellungs_ziel& e, const std::string& zeile) {
                               const bool ist_wahr = zeile == wahr;
@@ -159,7 +159,7 @@ einstellungszeile wahrheit(zugriff<bool> ziel, bool standard, wahr_laden laden, 
     return neu;
 }
 
-einstellungszeile text(zugriff<std::string> ziel, std::string_view standard, std::size_t mindestens,
+einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standard, std::size_t mindestens,
                        pruefung::art pruefen) {
     return {std::move(pruefen),
             [ziel, mindestens](const einstellungs_ziel& e, const std::string& zeile) {
@@ -170,12 +170,12 @@ einstellungszeile text(zugriff<std::string> ziel, std::string_view standard, std
             [ziel](const einstellungs_ziel& e) { return ziel(e); }, std::string(standard)};
 }
 
-einstellungszeile hauptfeld(zugriff<steuerelement> ziel, std::string_view standard, pruefung::art pruefen) {
+einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen) {
     return {std::move(pruefen), [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).text(zeile); },
             [ziel](const einstellungs_ziel& e) { return ziel(e).text(); }, std::string(standard)};
 }
 
-einstellungszeile kasten(zugriff<haken> ziel, bool standard, bool mit_blank) {
+einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank) {
     return {pruefung::ablehnen_ausser(0, 1),
             [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).gesetzt(ganz(zeile) != 0); },
             [ziel, mit_blank](const einstellungs_ziel& e) {

@@ -82,18 +82,18 @@ namespace zeile {
 einstellungszeile titel(std::string_view text, bool geprueft);
 einstellungszeile leer();
 einstellungszeile frei();
-einstellungszeile ganzzahl(zugriff<int> ziel, int standard, pruefung::art pruefen = {}, zahl_laden laden = {});
-einstellungszeile bruch(zugriff<double> ziel, std::string_view standard, pruefung::art pruefen);
+einstellungszeile ganzzahl(const zugriff<int>& ziel, int standard, pruefung::art pruefen = {}, zahl_laden laden = {});
+einstellungszeile bruch(const zugriff<double>& ziel, std::string_view standard, pruefung::art pruefen);
 /// A number of an event; one that does not exist counts as 0, no function.
-einstellungszeile ereignis(zugriff<int> ziel, int standard);
+einstellungszeile ereignis(const zugriff<int>& ziel, int standard);
 /// `mit_blank` tells whether the number is written with its blanks.
-einstellungszeile farbwert(zugriff<farbe> ziel, farbe standard, bool mit_blank);
-einstellungszeile wahrheit(zugriff<bool> ziel, bool standard, wahr_laden laden, bool geprueft);
+einstellungszeile farbwert(const zugriff<farbe>& ziel, farbe standard, bool mit_blank);
+einstellungszeile wahrheit(const zugriff<bool>& ziel, bool standard, wahr_laden laden, bool geprueft);
 /// Texts shorter than `mindestens` characters leave the value.
-einstellungszeile text(zugriff<std::string> ziel, std::string_view standard, std::size_t mindestens = 0,
+einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standard, std::size_t mindestens = 0,
                        pruefung::art pruefen = {});
-einstellungszeile hauptfeld(zugriff<steuerelement> ziel, std::string_view standard, pruefung::art pruefen = {});
-einstellungszeile kasten(zugriff<haken> ziel, bool standard, bool mit_blank);
+einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen = {});
+einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank);
 
 }  // namespace zeile
 }  // namespace tarvel
