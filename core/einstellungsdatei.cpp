@@ -28,7 +28,7 @@ bool einstellungsdatei::kopf_pruefen(std::string_view kopf, version_melden melde
     return true;
 }
 
-void einstellungsdatei::einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
+void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
     zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
     rest_.clear();
     fehler_laden_ = true;
@@ -68,7 +68,7 @@ void einstellungsdatei::wahrheitswoerter_uebersetzen() {
     }
 }
 
-void einstellungsdatei::pruefen() {
+void einstellungsdatei::einstellungsdatei_pruefen() {
     const auto& tabelle = einstellungstabelle();
     for (int z = 1; z <= z::letzte_gelesene; ++z) {
         if (tabelle[platz(z)].pruefen && tabelle[platz(z)].pruefen(zeilen_, z) == zeilen_urteil::abgelehnt) {
@@ -77,7 +77,7 @@ void einstellungsdatei::pruefen() {
     }
 }
 
-void einstellungsdatei::uebernehmen(int modus_4x4_start) {
+void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
     const auto& tabelle = einstellungstabelle();
     for (int z = 1; z <= z::letzte_gelesene; ++z) {
         if (tabelle[platz(z)].laden) {
@@ -131,7 +131,7 @@ void einstellungsdatei::cu_spuren_uebernehmen() {
     }
 }
 
-void einstellungsdatei::standard_setzen() {
+void einstellungsdatei::einstellungen_standard_setzen() {
     zeilen_.clear();
     for (const einstellungszeile& zeile : einstellungstabelle()) {
         if (zeile.standard_setzen) {
@@ -139,7 +139,7 @@ void einstellungsdatei::standard_setzen() {
         }
         zeilen_.push_back(zeile.standard_aus_texten ? zeile.standard_aus_texten(um_.ziel.txt) : zeile.standard);
     }
-    uebernehmen(0);
+    einstellungen_uebernehmen(0);
 }
 
 std::vector<std::string> einstellungsdatei::schreiben() const {
@@ -151,7 +151,7 @@ std::vector<std::string> einstellungsdatei::schreiben() const {
     return inhalt;
 }
 
-void einstellungsdatei::speichern(std::string_view datei) {
+void einstellungsdatei::einstellungen_speichern(std::string_view datei) {
     fehler_laden_ = !um_.ablage.zeilen_schreiben(datei, schreiben());
     if (fehler_laden_) {
         um_.meldungen.zeigen(um_.ziel.txt.meldung[4], um_.ziel.txt.titel[1]);

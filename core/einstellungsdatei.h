@@ -31,20 +31,21 @@ public:
 
     /// First stage. A competition file has one line in front of the header, and goes on behind the settings: what
     /// stands there is left in `rest`.
-    void einlesen(std::string_view datei, bool wettkampfdatei = false, version_melden melden = version_melden::ja);
+    void einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei = false,
+                                    version_melden melden = version_melden::ja);
     /// Second stage: refuses the file or mends single lines.
-    void pruefen();
+    void einstellungsdatei_pruefen();
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `modus_4x4_start`, else 0.
-    void uebernehmen(int modus_4x4_start);
+    void einstellungen_uebernehmen(int modus_4x4_start);
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 
     /// Every value to its default.
-    void standard_setzen();
+    void einstellungen_standard_setzen();
     /// The whole file as it is written.
     std::vector<std::string> schreiben() const;
     /// A failure shows its message and leaves the old file.
-    void speichern(std::string_view datei);
+    void einstellungen_speichern(std::string_view datei);
 
 private:
     bool kopf_pruefen(std::string_view kopf, version_melden melden);

@@ -87,7 +87,7 @@ void tastaturbelegung::uebernehmen() {
     for (const tastenzeile& zeile : tastenzeilen()) {
         um_.belegung.taste(zeile.zeile, feldcode(taste.at(static_cast<std::size_t>(zeile.zeile)).text()));
     }
-    if (!um_.belegung.speichern(um_.ablage)) {
+    if (!um_.belegung.tastenbelegung_speichern(um_.ablage)) {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
     }
     um_.fenster.entladen("Tastaturbelegung");

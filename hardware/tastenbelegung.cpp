@@ -75,7 +75,7 @@ void tastenbelegung::vorbelegen(belegung_stufe stufe) {
     }
 }
 
-bool tastenbelegung::laden(const dateien& ablage) {
+bool tastenbelegung::tastenbelegung_laden(const dateien& ablage) {
     constexpr std::size_t zeilen_anzahl = 1 + zeile_max - erste_reihe + 1;
     const auto zeilen = ablage.zeilen_lesen(datei, zeilen_anzahl);
     const auto ist_zahl = [](const std::string& zeile) {
@@ -93,7 +93,7 @@ bool tastenbelegung::laden(const dateien& ablage) {
     return true;
 }
 
-bool tastenbelegung::speichern(const dateien& ablage) const {
+bool tastenbelegung::tastenbelegung_speichern(const dateien& ablage) const {
     std::vector<std::string> zeilen;
     const auto schreiben = [&](int reihe) { zeilen.push_back(" " + std::to_string(taste(reihe)) + " "); };
     schreiben(zeile_chaos);

@@ -46,8 +46,8 @@ public:
     void vorbelegen(belegung_stufe stufe);
 
     /// False leaves the assignment as it was: no file, a file that is too short, or a line that is no number.
-    bool laden(const dateien& ablage);
-    bool speichern(const dateien& ablage) const;
+    bool tastenbelegung_laden(const dateien& ablage);
+    bool tastenbelegung_speichern(const dateien& ablage) const;
 
 private:
     std::array<int, zeile_max + 1> tasten_{};

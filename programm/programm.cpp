@@ -87,7 +87,7 @@ void programm::hardware_standard_setzen() {
 
 void programm::einstellungen_standard_setzen() {
     fenster.laden("Form1");
-    datei.standard_setzen();
+    datei.einstellungen_standard_setzen();
     belegung.vorbelegen(belegung_stufe::erststart);
 }
 
@@ -126,12 +126,12 @@ void programm::start_datei_bestimmen() {
 }
 
 void programm::einstellungen_laden() {
-    datei.einlesen(einstell_datei);
+    datei.einstellungsdatei_einlesen(einstell_datei);
     if (!datei.fehler_laden()) {
-        datei.pruefen();
+        datei.einstellungsdatei_pruefen();
     }
     if (!datei.fehler_laden()) {
-        datei.uebernehmen(modus_4x4_start_);
+        datei.einstellungen_uebernehmen(modus_4x4_start_);
     }
     einstell_datei = einstellungsname(einstell_datei);
     form1.einstellungsname_anzeigen(einstell_datei);
@@ -141,7 +141,7 @@ void programm::einstellungen_laden() {
         hardware_standard_setzen();
         einstellungen_standard_setzen();
     }
-    belegung.laden(ablage);  // the keys are a file of their own: damaged settings do not cost them
+    belegung.tastenbelegung_laden(ablage);  // the keys are a file of their own: damaged settings do not cost them
     if (unbrauchbar) {
         einstellungen_speichern("Einstellungen\\" + einstell_datei);
     }
@@ -154,12 +154,12 @@ void programm::einstellungen_laden() {
 }
 
 void programm::einstellungen_speichern(std::string_view name) {
-    datei.speichern(name);
+    datei.einstellungen_speichern(name);
     if (!datei.fehler_laden()) {
         einstell_datei = einstellungsname(name);
     }
     form1.einstellungsname_anzeigen(einstell_datei);
-    belegung.speichern(ablage);
+    belegung.tastenbelegung_speichern(ablage);
 }
 
 void programm::speichern_oeffnen() {
@@ -179,8 +179,8 @@ void programm::laden_oeffnen() {
 
 bool programm::einstellungen_aus_menue_laden(const std::string& name) {
     const std::string pfad = "Einstellungen\\" + name;
-    datei.einlesen(pfad, false, version_melden::nein);
-    datei.pruefen();
+    datei.einstellungsdatei_einlesen(pfad, false, version_melden::nein);
+    datei.einstellungsdatei_pruefen();
     if (datei.fehler_laden()) {
         dienste.meldungen.zeigen("Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen",
                                  txt.titel[1]);

@@ -22,7 +22,7 @@ struct spur_zustand {
     bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
     bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
     bool tank_halt = false;          ///< held for a moment after a full tank
-    sensorsperre sperre = sensorsperre::unbestimmt;
+    sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 };
 
 /// The record of the running race. Reset at each race.

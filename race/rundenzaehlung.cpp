@@ -13,7 +13,7 @@ constexpr int zwischen_zwei_kontakten = 2;  // `tank_art`
 }  // namespace
 
 bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
-    sensorsperre& sperre = um_.zustand.spur[spur].sperre;
+    sensorsperre& sperre = um_.zustand.spur[spur].sensor_sperre;
     if (!(ereignis.aktiv && sperre == sensorsperre::eben_gezaehlt)) {
         sperre = sensorsperre::bereit;
     } else if (ereignis.pegel == ereignis.pegel_ruhe) {
@@ -52,7 +52,7 @@ bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit) const {
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
-    zustand.sperre = sensorsperre::eben_gezaehlt;
+    zustand.sensor_sperre = sensorsperre::eben_gezaehlt;
     um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
     const bool nachlauf = um_.zeitgeber.nachlauftimer1->laeuft();
     if (zustand.runden == runden_max) {  // the store is full: the car can still come home

@@ -91,7 +91,7 @@ TEST_F(Einstellungsdatei, GespeichertGeladenGespeichertIstGleichBisAufsByte) {
     q.einst.sektor_an[2] = true;
     q.einst.sektor_laenge[3][4] = "7.5";
     q.einst.hardware.hw_cu = true;
-    q.datei.speichern(datei);
+    q.datei.einstellungen_speichern(datei);
     const std::string erste = t.maschine.datei_lesen(datei);
     EXPECT_NE(erste.find("J\xF6rg \x80\r\n"), std::string::npos);
     EXPECT_NE(erste.find("\r\n-1 \r\n"), std::string::npos);
@@ -106,7 +106,7 @@ TEST_F(Einstellungsdatei, GespeichertGeladenGespeichertIstGleichBisAufsByte) {
     EXPECT_TRUE(spaeter.einst.sektor_an[0]);
     EXPECT_EQ(spaeter.einst.tank_warnung, 12) << "the reader stops at the comma";
     spaeter.einst.tank_warnung = 12.5;
-    spaeter.datei.speichern(datei);
+    spaeter.datei.einstellungen_speichern(datei);
     EXPECT_EQ(t.maschine.datei_lesen(datei), erste);
 }
 
@@ -230,12 +230,12 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     wettkampf.insert(wettkampf.begin(), "Wettkampfdatei: Vereinsmeister");
     wettkampf.emplace_back("Teilnehmer");
     ASSERT_TRUE(ablage.zeilen_schreiben("w.wtk", wettkampf));
-    t.p.datei.einlesen("w.wtk", true);
-    t.p.datei.pruefen();
+    t.p.datei.einstellungsdatei_einlesen("w.wtk", true);
+    t.p.datei.einstellungsdatei_pruefen();
     EXPECT_FALSE(t.p.datei.fehler_laden());
     ASSERT_FALSE(t.p.datei.rest().empty());
     EXPECT_EQ(t.p.datei.rest().back(), "Teilnehmer");
-    t.p.datei.einlesen("w.wtk");
+    t.p.datei.einstellungsdatei_einlesen("w.wtk");
     EXPECT_TRUE(t.p.datei.fehler_laden());
 }
 
@@ -243,7 +243,7 @@ TEST_F(Einstellungsdatei, NichtSchreibbarMeldetSichUndLaesstDieAlteDatei) {
     const std::string alt = t.maschine.datei_lesen(datei);
     std::filesystem::create_directory(t.maschine.ordner() / (std::string(datei) + ".tarvel-neu"));
     t.p.einst.tank_inhalt = 99;
-    t.p.datei.speichern(datei);
+    t.p.datei.einstellungen_speichern(datei);
     EXPECT_TRUE(t.p.datei.fehler_laden());
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text,
               "Fehler beim Schreiben der Datei. Die Einstellungen wurde nicht gespeichert.");
@@ -252,11 +252,11 @@ TEST_F(Einstellungsdatei, NichtSchreibbarMeldetSichUndLaesstDieAlteDatei) {
 
 TEST_F(Einstellungsdatei, BeschaedigteEinstellungenKostenDieTastenNicht) {
     t.p.belegung.taste(16, 'k');
-    ASSERT_TRUE(t.p.belegung.speichern(ablage));
+    ASSERT_TRUE(t.p.belegung.tastenbelegung_speichern(ablage));
     EXPECT_FALSE(start_mit({{1, "kaputt"}}));
     EXPECT_EQ(p->belegung.taste(16), 'k');
     tastenbelegung gespeichert;
-    ASSERT_TRUE(gespeichert.laden(ablage));
+    ASSERT_TRUE(gespeichert.tastenbelegung_laden(ablage));
     EXPECT_EQ(gespeichert.taste(16), 'k');
 }
 
@@ -282,10 +282,10 @@ TEST_F(Einstellungsdatei, VeraenderteDateienBringenNichtsZuFall) {
             }
         }
         t.maschine.datei_schreiben(datei, bytes);
-        t.p.datei.einlesen(datei);
-        t.p.datei.pruefen();
+        t.p.datei.einstellungsdatei_einlesen(datei);
+        t.p.datei.einstellungsdatei_pruefen();
         if (!t.p.datei.fehler_laden()) {
-            t.p.datei.uebernehmen(0);
+            t.p.datei.einstellungen_uebernehmen(0);
         }
     }
 }

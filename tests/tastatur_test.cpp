@@ -133,12 +133,12 @@ TEST_F(Tastatur, ZeitstempelKollidierenNicht) {
 TEST_F(Tastatur, DateiGehtHinUndZurueck) {
     t.p.belegung.vorbelegen(belegung_stufe::alle);
     const dateien ablage(t.maschine.ordner());
-    ASSERT_TRUE(t.p.belegung.speichern(ablage));
+    ASSERT_TRUE(t.p.belegung.tastenbelegung_speichern(ablage));
     const std::string bytes = t.maschine.datei_lesen("tvk_taste.ini");
     EXPECT_EQ(bytes.substr(0, 12), " 99 \r\n 52 \r\n");  // row 1, then lane 4's lap in row 13
     EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 55);
     tastenbelegung gelesen;
-    ASSERT_TRUE(gelesen.laden(ablage));
+    ASSERT_TRUE(gelesen.tastenbelegung_laden(ablage));
     for (const tastenzeile& zeile : tastenzeilen()) {
         EXPECT_EQ(gelesen.taste(zeile.zeile), t.p.belegung.taste(zeile.zeile));
     }
@@ -154,12 +154,12 @@ TEST_F(Tastatur, BeschaedigteDateiLaesstDieStandardtasten) {
          {std::string(), std::string("\0\xFF\xFE", 3), gut.substr(0, 300), "x" + gut, "-5\r\n" + gut, "\r\n" + gut}) {
         t.maschine.datei_schreiben("tvk_taste.ini", kaputt);
         tastenbelegung belegung;
-        EXPECT_FALSE(belegung.laden(ablage));
+        EXPECT_FALSE(belegung.tastenbelegung_laden(ablage));
         EXPECT_EQ(belegung.taste(16), '1');
     }
     t.maschine.datei_schreiben("tvk_taste.ini", "99999999999999999999\r\n0\r\n" + gut);
     tastenbelegung belegung;
-    EXPECT_TRUE(belegung.laden(ablage));
+    EXPECT_TRUE(belegung.tastenbelegung_laden(ablage));
     EXPECT_EQ(belegung.taste(1), tastenbelegung::keine_taste);
     EXPECT_EQ(belegung.taste(13), tastenbelegung::keine_taste);
     EXPECT_EQ(belegung.taste(14), 'A');
@@ -193,7 +193,7 @@ TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
     t.p.tastaturbelegung.Command2.klicken();
     EXPECT_EQ(t.p.belegung.taste(15), '2') << "cancelling keeps the old keys";
     tastenbelegung gespeichert;
-    EXPECT_TRUE(gespeichert.laden(dateien(t.maschine.ordner())));
+    EXPECT_TRUE(gespeichert.tastenbelegung_laden(dateien(t.maschine.ordner())));
     EXPECT_EQ(gespeichert.taste(15), '2');
 }
 
