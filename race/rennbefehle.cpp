@@ -28,6 +28,19 @@ void rennbefehle::rennen_abbrechen() {
     um_.fenster.zeigen("Form1");
 }
 
+void rennbefehle::fenster_schliessen() {
+    if (um_.zustand.rennen_beendet) {
+        if (!um_.fenster.ist_offen("auswertung")) {
+            rennen_abbrechen();
+        }
+        return;
+    }
+    const bool ja = um_.meldungen.fragen("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", um_.txt.titel[0]);
+    if (ja && !um_.zustand.rennen_beendet) {  // it may have come to its end meanwhile
+        rennen_abbrechen();
+    }
+}
+
 void rennbefehle::rennen_beenden() {
     if (um_.zustand.rennen_beendet) {
         return;

@@ -22,8 +22,10 @@ public:
     void taste(int code);
     /// Whether that key does anything in a race.
     bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
-    /// Stops the race without a result. Also what closing the window means, in every state of the race.
+    /// Stops the race without a result.
     void rennen_abbrechen();
+    /// Closing the window means the same, but a race that runs is not lost to a slip of the hand: it asks first.
+    void fenster_schliessen();
     /// Ends the race by hand: it gets its result from what it has.
     void rennen_beenden();
 

@@ -9,6 +9,7 @@
 #include "hardware/ereignisse.h"
 #include "hardware/zeitbasis.h"
 #include "platform/kalender.h"
+#include "platform/meldungen.h"
 #include "race/bahn1.h"
 #include "race/renn_zustand.h"
 #include "race/rennsounds.h"
@@ -31,6 +32,7 @@ struct renn_umgebung {
     const rennsounds& sounds;
     fensterregister& fenster;
     const plattform::kalender& kalender;
+    plattform::meldungen& meldungen;
 
     bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
     bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }

@@ -1,6 +1,7 @@
 #include "ui/auswertung_fenster.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <algorithm>
 
 #include "ui/stil.h"
@@ -45,6 +46,10 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, Bildtakt& takt, QWidget*
 }
 
 void AuswertungFenster::aufschlagen() {
+    if (!isVisible()) {
+        const QSize platz = screen()->availableGeometry().size();
+        resize(platz.width() * 9 / 10, platz.height() * 9 / 10);
+    }
     Fenster::aufschlagen();
     skalieren();
 }

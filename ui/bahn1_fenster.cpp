@@ -119,7 +119,8 @@ void Bahn1Fenster::nachtabschaltung() {
 
 void Bahn1Fenster::aufschlagen() {
     if (!isVisible()) {
-        setGeometry(screen()->availableGeometry());
+        const QRect platz = screen()->availableGeometry();
+        setGeometry(platz.adjusted(platz.width() / 16, platz.height() / 12, -platz.width() / 16, -platz.height() / 16));
         showMaximized();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -218,6 +218,7 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QStr
             widget->setCurrentIndex(widget->findText(text));
             if (element.frei()) {
                 widget->setEditText(text);
+                widget->lineEdit()->setCursorPosition(0);
             }
         }
     });
@@ -230,6 +231,7 @@ QListView* Binder::listenfeld(liste& element, const QString& name, const QString
     widget->setUniformItemSizes(true);
     widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    widget->setTextElideMode(Qt::ElideNone);
     auto* modell = new ListenModell(element, widget);
     modell->setAusrichtung(ausrichtung);
     widget->setModel(modell);

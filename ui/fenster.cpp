@@ -1,7 +1,9 @@
 #include "ui/fenster.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -16,6 +18,11 @@ void Fenster::closeEvent(QCloseEvent* ereignis) {
     if (bei_schliessen) {
         bei_schliessen();
     }
+}
+
+void Fenster::escape_schliesst() {
+    auto* taste = new QShortcut(Qt::Key_Escape, this);
+    QObject::connect(taste, &QShortcut::activated, this, [this] { close(); });
 }
 
 void Fenster::zentrieren() {
@@ -53,6 +60,20 @@ void Fensterverwaltung::verbergen(const std::string& name) {
     if (gefunden != fenster_.end()) {
         gefunden->second->hide();
     }
+}
+
+bool Fensterverwaltung::eventFilter(QObject* ziel, QEvent* ereignis) {
+    const bool druck = ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick;
+    if (druck && ziel->isWidgetType()) {
+        QWidget* fenster = static_cast<QWidget*>(ziel)->window();
+        const bool eben = seit_druck_.isValid() && seit_druck_.elapsed() < QApplication::doubleClickInterval();
+        if (eben && druck_fenster_ != nullptr && druck_fenster_ != fenster && !druck_fenster_->isVisible()) {
+            return true;
+        }
+        seit_druck_.start();
+        druck_fenster_ = fenster;
+    }
+    return QObject::eventFilter(ziel, ereignis);
 }
 
 }  // namespace tarvel::ui

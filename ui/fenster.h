@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QElapsedTimer>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -18,6 +20,8 @@ public:
     std::function<void()> bei_schliessen;
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
+    /// The Escape key closes the window.
+    void escape_schliesst();
 
 protected:
     Binder& binder() { return binder_; }
@@ -29,16 +33,20 @@ private:
 };
 
 /// Shows and hides the windows for the register.
-class Fensterverwaltung final : public fensteranzeige {
+class Fensterverwaltung final : public QObject, public fensteranzeige {
 public:
     explicit Fensterverwaltung(Bildtakt& takt) : takt_(takt) {}
     void aufnehmen(const std::string& name, Fenster* fenster) { fenster_[name] = fenster; }
 
     void zeigen(const std::string& name, anzeige_art art) override;
     void verbergen(const std::string& name) override;
+    /// The second half of a double click must not hit what lay behind the window that the first half closed.
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
     Bildtakt& takt_;
+    QElapsedTimer seit_druck_;  ///< of a mouse button
+    QPointer<QWidget> druck_fenster_;
     std::map<std::string, Fenster*> fenster_;
 };
 

@@ -142,12 +142,12 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     schmal(laenge);
     QComboBox* fahrer = binder().auswahlfeld(logik_.fahrer.at(i), "fahrer_" + nummer, "Fahrer" + ansage);
     QComboBox* fahrzeug = binder().auswahlfeld(logik_.auto_.at(i), "auto_" + nummer, "Fahrzeug" + ansage);
-    raster->addWidget(fleck, spur, 0);
-    raster->addWidget(kasten, spur, 1);
-    raster->addWidget(laenge, spur, 2);
-    raster->addWidget(new QLabel("m"), spur, 3);
-    raster->addWidget(fahrer, spur, 4);
-    raster->addWidget(fahrzeug, spur, 5);
+    raster->addWidget(fleck, spur, 0, Qt::AlignVCenter);
+    raster->addWidget(kasten, spur, 1, Qt::AlignVCenter);
+    raster->addWidget(laenge, spur, 2, Qt::AlignVCenter);
+    raster->addWidget(new QLabel("m"), spur, 3, Qt::AlignVCenter);
+    raster->addWidget(fahrer, spur, 4, Qt::AlignVCenter);
+    raster->addWidget(fahrzeug, spur, 5, Qt::AlignVCenter);
     tabfolge({kasten, laenge, fahrer, fahrzeug});
 }
 

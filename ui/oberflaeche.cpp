@@ -1,5 +1,7 @@
 #include "ui/oberflaeche.h"
 
+#include <QCoreApplication>
+
 namespace tarvel::ui {
 
 Oberflaeche::Oberflaeche(programm& p)
@@ -20,10 +22,13 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("speichernfenster", &speichern);
     p.fenster.anzeigen_auf(&fenster);
 
+    QCoreApplication::instance()->installEventFilter(&fenster);
+    tastatur.escape_schliesst();
+    speichern.escape_schliesst();
     form1.bei_schliessen = [&p] { p.programm_beenden(); };
     form3.bei_schliessen = [&p] { p.fenster.entladen("Form3"); };
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
-    bahn1.bei_schliessen = [&p] { p.rennen.befehle.rennen_abbrechen(); };
+    bahn1.bei_schliessen = [&p] { p.rennen.befehle.fenster_schliessen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };

@@ -15,13 +15,14 @@ namespace {
 constexpr double schrift_name = 760;
 constexpr double schrift_platz = 820;
 constexpr double schrift_zaehler = 2600;
-constexpr double schrift_titel = 330;
+constexpr double schrift_titel = 380;
+constexpr double schrift_spur = 560;
 constexpr double schrift_zeit = 1100;
 constexpr double schrift_liste = 560;
 constexpr double schrift_strafe = 480;
-constexpr double lampe_groesse = 620;
+constexpr double lampe_groesse = 440;
 
-const QColor leise(150, 156, 166);
+const QColor leise(190, 195, 203);
 
 }  // namespace
 
@@ -64,6 +65,9 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
         const form& flaeche = bahn.bahnshape[spur];
         randfarbe_ = flaeche.randfarbe() ? stil::farbe_von(*flaeche.randfarbe()) : QColor();
         spurfarbe_ = stil::farbe_von(flaeche.schriftfarbe().value_or(0));
+        QPalette schild = nummer_->palette();
+        schild.setColor(QPalette::Window, spurfarbe_);
+        nummer_->setPalette(schild);
         grundfarbe_ = stil::farbe_von(flaeche.hintergrund().value_or(0));
         update();
     });
@@ -78,6 +82,13 @@ QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
     lampen_ = {binder.lampe(bahn.ampel_rt.at(index), "ampel_rt_" + nummer, QColor(255, 40, 30)),
                binder.lampe(bahn.ampel_ge.at(index), "ampel_ge_" + nummer, QColor(255, 200, 20)),
                binder.lampe(bahn.ampel_gr.at(index), "ampel_gr_" + nummer, QColor(30, 230, 70))};
+    nummer_ = binder.beschriftung(QString::number(spur), schrift_spur);
+    nummer_->setMusterText("0 ");
+    nummer_->setFett(true);
+    nummer_->setFarbe(Qt::black);
+    nummer_->setToolTip("Spur");
+    nummer_->setAutoFillBackground(true);
+    aufbau->addWidget(nummer_);
     aufbau->addStretch();
     for (Lampe* lampe : lampen_) {
         aufbau->addWidget(lampe);
@@ -98,7 +109,9 @@ QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
 
 void Rennspalte::skalieren(double skala) {
     QFont schrift = liste_->font();
-    schrift.setPixelSize(std::max(8, static_cast<int>(std::lround(schrift_liste * skala))));
+    // "9999. 00,000" fits the column
+    const double breite_px = width() > 0 ? width() / 7.6 : schrift_liste * skala;
+    schrift.setPixelSize(std::max(8, static_cast<int>(std::lround(std::min(schrift_liste * skala, breite_px)))));
     liste_->setFont(schrift);
     const int kante = std::max(8, static_cast<int>(std::lround(lampe_groesse * skala)));
     for (Lampe* lampe : lampen_) {

@@ -22,6 +22,7 @@ private:
     QWidget* kopfzeile(bahn1& bahn, int spur, Binder& binder);
 
     QListView* liste_ = nullptr;
+    TextAnzeige* nummer_ = nullptr;  ///< number of the lane, which is its key
     std::vector<Lampe*> lampen_;
     QColor spurfarbe_;
     QColor randfarbe_;

@@ -19,6 +19,8 @@ QLineEdit, QComboBox { background: #ffffff; border: 1px solid #aab1bd; border-ra
                        min-height: 24px; selection-background-color: #c41e2a; }
 QLineEdit:focus, QComboBox:focus { border: 2px solid #c41e2a; padding: 2px 6px; }
 QLineEdit:disabled, QComboBox:disabled { background: #eceef1; color: #9aa1ad; }
+QComboBox { combobox-popup: 0; }
+QPushButton { outline: none; }
 QComboBox::drop-down { border: none; width: 26px; }
 QComboBox::down-arrow { image: url(:/bilder/pfeil.png); width: 20px; height: 20px; }
 QPushButton { background: #ffffff; border: 1px solid #aab1bd; border-radius: 6px; padding: 7px 16px; }

@@ -7,7 +7,7 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr double kleinste_verkleinerung = 0.55;
+constexpr double kleinste_verkleinerung = 0.4;
 
 }  // namespace
 

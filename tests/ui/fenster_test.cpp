@@ -114,6 +114,10 @@ TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(500);
     o.bahn1.close();
+    EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft()) << "the answer was no";
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    t.maschine.antwort = true;
+    o.bahn1.close();
     EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
@@ -174,7 +178,7 @@ TEST_F(Oberflaeche, VerkleinertesFensterKommtGrossWieder) {
     klick(o.form1, "Form1.command_tasten");
     o.tastatur.showMinimized();
     o.tastatur.close();
-    klick(o.form1, "Form1.command_tasten");
+    t.p.form1.command_tasten.klicken();
     EXPECT_FALSE(o.tastatur.isMinimized());
 }
 
@@ -187,6 +191,17 @@ TEST_F(Oberflaeche, TabFolgtImErgebnisDenPlaetzen) {
     erste->setFocus();
     QTest::keyClick(erste, Qt::Key_Tab);
     EXPECT_EQ(o.auswertung.focusWidget()->objectName(), "auswertung.liste_0");
+}
+
+TEST_F(Oberflaeche, DoppelklickTrifftNichtsImFensterDahinter) {
+    t.starten("Zeit", "1", {1});
+    t.maschine.laufen(60001);
+    klick(o.auswertung, "auswertung.Command5");
+    klick(o.form1, "Form1.Command2");
+    EXPECT_EQ(t.maschine.beendet, 0);
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    klick(o.form1, "Form1.Command2");
+    EXPECT_EQ(t.maschine.beendet, 1);
 }
 
 TEST_F(Oberflaeche, FarbenKommenAusDenEinstellungen) {
