@@ -44,7 +44,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
         anzeige->setFett(true);
         aufbau->addWidget(anzeige);
     };
-    zeigen(bahn.namenslabel[spur], "namenslabel", schrift_name);
+    aufbau->addWidget(namenszeile(bahn, spur, binder));
     aufbau->addWidget(kopfzeile(bahn, spur, binder));
     zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
     titel("letzte Runde");
@@ -73,22 +73,35 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     });
 }
 
+QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(4);
+    nummer_ = binder.beschriftung(QString::number(spur), schrift_spur);
+    nummer_->setMusterText("00");
+    nummer_->setFett(true);
+    nummer_->setFarbe(Qt::black);
+    nummer_->setToolTip("Spur");
+    nummer_->setAutoFillBackground(true);
+    TextAnzeige* name = binder.anzeige(bahn.namenslabel[spur], "namenslabel_" + QString::number(spur), schrift_name);
+    name->setAccessibleName(QString("Spur %1: Fahrer").arg(spur));
+    name->setFett(true);
+    aufbau->addWidget(nummer_, 0, Qt::AlignVCenter);
+    aufbau->addWidget(name, 1);
+    return zeile;
+}
+
 QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
     const std::size_t index = feld_index(spur);
     const QString nummer = QString::number(index);
     auto* zeile = new QWidget(this);
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(4);
     lampen_ = {binder.lampe(bahn.ampel_rt.at(index), "ampel_rt_" + nummer, QColor(255, 40, 30)),
                binder.lampe(bahn.ampel_ge.at(index), "ampel_ge_" + nummer, QColor(255, 200, 20)),
                binder.lampe(bahn.ampel_gr.at(index), "ampel_gr_" + nummer, QColor(30, 230, 70))};
-    nummer_ = binder.beschriftung(QString::number(spur), schrift_spur);
-    nummer_->setMusterText("0 ");
-    nummer_->setFett(true);
-    nummer_->setFarbe(Qt::black);
-    nummer_->setToolTip("Spur");
-    nummer_->setAutoFillBackground(true);
-    aufbau->addWidget(nummer_);
     aufbau->addStretch();
     for (Lampe* lampe : lampen_) {
         aufbau->addWidget(lampe);

@@ -19,6 +19,7 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
+    QWidget* namenszeile(bahn1& bahn, int spur, Binder& binder);
     QWidget* kopfzeile(bahn1& bahn, int spur, Binder& binder);
 
     QListView* liste_ = nullptr;
