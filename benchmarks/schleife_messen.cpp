@@ -32,7 +32,9 @@ int main(int argc, char** argv) {
     tarvel::ui::stil::anwenden(anwendung);
     const int sekunden = argc > 1 ? std::max(1, std::atoi(argv[1])) : 10;
     const QTemporaryDir ordner;
-    tarvel::qt::QtDienste maschine(std::filesystem::path(ordner.path().toStdU16String()));
+    const std::filesystem::path programmordner(ordner.path().toStdU16String());
+    std::filesystem::copy(TARVEL_DATEN, programmordner, std::filesystem::copy_options::recursive);
+    tarvel::qt::QtDienste maschine(programmordner);
     tarvel::programm p(maschine.dienste());
     tarvel::ui::Oberflaeche oberflaeche(p);
     if (!p.starten()) {
