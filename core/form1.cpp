@@ -128,12 +128,11 @@ void form1::modus_anzeigen() {
     const std::array<bool, 8> in_kraft{hardware.hw_simulation, hardware.hw_iow,           hardware.hw_race_control,
                                        hardware.hw_lpt,        hardware.hw_4x4_modus > 3, hardware.hw_timekeeper,
                                        hardware.hw_cu,         hardware.hw_uart};
-    for (std::size_t i = 0; i < in_kraft.size(); ++i) {
-        if (in_kraft[i]) {
-            modus_label.text(um_.txt.hardware_name[i]);
-            return;
-        }
+    std::size_t modus = 0;  // the keyboard alone, unless a device is in force beside its flag
+    for (std::size_t i = 1; i < in_kraft.size() && modus == 0; ++i) {
+        modus = in_kraft[i] ? i : 0;
     }
+    modus_label.text(um_.txt.hardware_name[modus]);
 }
 
 void form1::einstellungsname_anzeigen(std::string_view name) {

@@ -218,6 +218,8 @@ TEST_F(Einstellungsdatei, HardwareSchliesstSichAus) {
     EXPECT_TRUE(start_mit({{66, "Wahr"}}));
     EXPECT_FALSE(p->einst.hardware.hw_simulation);
     EXPECT_EQ(p->form1.modus_label.text(), "IOW 40 USB");
+    EXPECT_TRUE(start_mit({{252, "Wahr"}}));
+    EXPECT_EQ(p->form1.modus_label.text(), "Carrera Control Unit");
     t.maschine.datei_schreiben("tvk_s6.ini", "2\r\n5\r\nEinstellungen\\einstellungen.ini\r\n0\r\n\r\n");
     EXPECT_TRUE(start_mit({{66, "Wahr"}}));
     EXPECT_FALSE(p->einst.hardware.hw_iow);
