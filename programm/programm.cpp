@@ -1,5 +1,6 @@
 #include "programm/programm.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -12,13 +13,15 @@ namespace {
 
 /// The file's name below the settings folder.
 std::string einstellungsname(std::string_view pfad) {
+    std::string name(pfad);
+    std::replace(name.begin(), name.end(), '/', '\\');
     for (const std::string_view vorspann :
          {std::string_view("\\Einstellungen\\"), std::string_view("Einstellungen\\")}) {
-        if (pfad.starts_with(vorspann)) {
-            pfad.remove_prefix(vorspann.size());
+        if (name.starts_with(vorspann)) {
+            name.erase(0, vorspann.size());
         }
     }
-    return std::string(pfad);
+    return name;
 }
 
 }  // namespace

@@ -227,6 +227,13 @@ TEST_F(Einstellungsdatei, HardwareSchliesstSichAus) {
     EXPECT_EQ(s6_laden(ablage).zustand, "0") << "the request lasts one start";
 }
 
+TEST_F(Einstellungsdatei, StartdateiMitSchraegstrichLiegtImSelbenOrdner) {
+    t.maschine.datei_schreiben("tvk_s6.ini", "0\r\n\r\nEinstellungen/klub.ini\r\n0\r\n\r\n");
+    EXPECT_FALSE(start_mit({})) << "the file is not there yet";
+    EXPECT_EQ(p->form1.Label6.text(), "Einstellungsdatei: klub.ini");
+    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/klub.ini"));
+}
+
 TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     std::vector<std::string> wettkampf = grund;
     wettkampf.insert(wettkampf.begin(), "Wettkampfdatei: Vereinsmeister");
