@@ -93,7 +93,7 @@ void rennablauf::rennen_starten() {
 }
 
 void rennablauf::renntimer_tick() {
-    // Tank contacts and refuelling of all lanes come first here.
+    // Place of fuel: tank_kontakte_auswerten, then tank_alle_spuren.
     renn_zustand& zustand = um_.zustand;
     if (!zustand.rennen_beendet && !zustand.chaos_aktiv) {
         um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
@@ -104,7 +104,7 @@ void rennablauf::renntimer_tick() {
             um_.bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
         }
     }
-    // Sectors, sound sensors and the chaos triggers are looked at here.
+    // Place of sectors, sound sensors and the chaos triggers, in this order.
     for (spur_zustand& spur : zustand.spur) {
         spur.runden_zeile = spur.runden + 1;
     }
