@@ -27,7 +27,28 @@ form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::ze
         timer1_->aus();
         bildschirm_anpassen();
     };
-    Command1.bei_klick = [this] { Command1_Click(); };
+    befehle_verbinden();
+    rennart.bei_aenderung = [this] {
+        rennart_geaendert();
+        renndauer.fokus_setzen();
+    };
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };
+        fahrer[i].bei_aenderung = [this, nummer] { fahrer_Change(nummer); };
+        auto_[i].bei_aenderung = [this, nummer] { autobild_anzeigen(nummer); };
+        fahrer[i].frei(true);
+        auto_[i].frei(true);
+        fahrer[i].laenge_max(name_laenge_max);
+        auto_[i].laenge_max(name_laenge_max);
+        lspur[i].laenge_max(8);
+    }
+    for (feld* zahlenfeld : {&stddauer, &renndauer, &wertmin, &massstab}) {
+        zahlenfeld->laenge_max(8);
+    }
+}
+
+void form1::befehle_verbinden() {
     const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
         knopf.bei_klick = [&wohin] {
             if (wohin) {
@@ -35,74 +56,25 @@ form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::ze
             }
         };
     };
+    Command1.bei_klick = [this] { Command1_Click(); };
     weitergeben(Command2, beenden);
     weitergeben(Command5, einstellungen_speichern);
+    weitergeben(Command6, bahnstrom_ein);
     weitergeben(Command7, einstellungen_laden);
+    weitergeben(Command10, fahrzeugbilder_uebernehmen);
+    weitergeben(Command12, bahnstrom_aus);
+    weitergeben(Command13, fahrerbilder_uebernehmen);
+    Command4.bei_klick = [this] { einstellungen_rufen(einstellungen_oeffnen); };
+    Command8.bei_klick = [this] { einstellungen_rufen(fahrer_oeffnen); };
+    Command9.bei_klick = [this] { einstellungen_rufen(fahrzeuge_oeffnen); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen("Tastaturbelegung", anzeige_art::modal); };
-    rennart.bei_aenderung = [this] {
-        rennart_geaendert();
-        renndauer.fokus_setzen();
-    };
-    for (std::size_t i = 0; i < spur.size(); ++i) {
-        spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };
-    }
-    for (feld* zahlenfeld : {&stddauer, &renndauer, &wertmin, &massstab}) {
-        zahlenfeld->laenge_max(8);
-    }
-    for (feld& laenge : lspur) {
-        laenge.laenge_max(8);
-    }
 }
 
-void form1::laden() {
-    version_label.text("V " + std::string(programm_version));
-    dauerlabel.text("Renndauer");
-    Label8.text("Stunden");
-    Label9.text("Rundenzeiten kleiner");
-    Label10.text("sec verwerfen");
-    Label2.text("Maßstab 1/");
-    t_aktiv.text("Tankfunktion");
-    t_aktiv.sichtbar(false);
-    label_spurlaenge.text("Spurlänge");
-    Command1.text("Einzelrennen");
-    Command2.text("Ende");
-    Command5.text("Speichern");
-    Command7.text("Laden");
-    command_tasten.text("Tastaturbelegung");
-
-    rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
-    for (const int nummer : alle_spuren) {
-        const std::size_t i = feld_index(nummer);
-        spur[i].text("Spur/Auto " + std::to_string(nummer));
-        fahrer[i].frei(true);
-        auto_[i].frei(true);
-        fahrer[i].laenge_max(name_laenge_max);
-        auto_[i].laenge_max(name_laenge_max);
-    }
-    farben_einstellen();
-    rennart_geaendert();
-    timer1_->an();
-}
-
-void form1::listen_zeigen(const namensliste& fahrerliste, const namensliste& fahrzeugliste) {
-    const auto mit_standard = [](const std::string& standard, const namensliste& liste) {
-        std::vector<std::string> namen{standard};
-        for (const listeneintrag& eintrag : liste.eintraege()) {
-            namen.push_back(eintrag.name);
-        }
-        return namen;
-    };
-    const auto fahrernamen = mit_standard(um_.txt.kein_fahrer, fahrerliste);
-    const auto fahrzeugnamen = mit_standard(um_.txt.standardfahrzeug_text, fahrzeugliste);
-    for (std::size_t i = 0; i < fahrer.size(); ++i) {
-        fahrer.at(i).eintraege(fahrernamen);
-        auto_.at(i).eintraege(fahrzeugnamen);
-    }
-}
-
-void form1::farben_einstellen() {
-    for (const int nummer : alle_spuren) {
-        spurfarbe.at(feld_index(nummer)).hintergrund(um_.einst.farben_spur[nummer]);
+void form1::einstellungen_rufen(const std::function<void()>& wohin) {
+    spuren_zaehlen();
+    vor_dem_speichern_pruefen();  // the options window writes these fields too
+    if (wohin) {
+        wohin();
     }
 }
 
@@ -114,37 +86,12 @@ void form1::bildschirm_anpassen() {
     startbild.sichtbar(!kleiner_bildschirm());  // the fields need the room
 }
 
-void form1::spuren_nach_laden() {
-    for (std::size_t i = 0; i < spur.size(); ++i) {
-        const bool offen = i < 4 || spur[i].gesetzt();
-        lspur[i].aktiviert(offen);
-        fahrer[i].aktiviert(offen);
-        auto_[i].aktiviert(offen);
-    }
-}
-
-void form1::modus_anzeigen() {
-    const messhardware& hardware = um_.einst.hardware;
-    const std::array<bool, 8> in_kraft{hardware.hw_simulation, hardware.hw_iow,           hardware.hw_race_control,
-                                       hardware.hw_lpt,        hardware.hw_4x4_modus > 3, hardware.hw_timekeeper,
-                                       hardware.hw_cu,         hardware.hw_uart};
-    std::size_t modus = 0;  // the keyboard alone, unless a device is in force beside its flag
-    for (std::size_t i = 1; i < in_kraft.size() && modus == 0; ++i) {
-        modus = in_kraft[i] ? i : 0;
-    }
-    modus_label.text(um_.txt.hardware_name[modus]);
-}
-
-void form1::einstellungsname_anzeigen(std::string_view name) {
-    Label6.text("Einstellungsdatei: " + std::string(name));
-}
-
 void form1::rennart_geaendert() {
     if (rennart.text() != um_.txt.text_zeit && rennart.text() != um_.txt.text_runden) {
         rennart.text(um_.txt.text_zeit);
     }
     const bool zeitrennen = rennart.text() == um_.txt.text_zeit;
-    Label19.text(zeitrennen ? "Minuten" : "Runden");
+    Label19.text(zeitrennen ? wort_minuten_ : wort_runden_);
     stddauer.aktiviert(zeitrennen);
     Label8.sichtbar(zeitrennen);
     um_.param.renn_art_text = rennart.text();

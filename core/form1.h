@@ -23,6 +23,9 @@ public:
         const einstellungen& einst;
         const texte& txt;
         renn_parameter& param;
+        const dateien& ablage;
+        const namensliste& fahrerliste;
+        const namensliste& fahrzeugliste;
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         const plattform::bildschirm& bildschirm;
@@ -32,6 +35,11 @@ public:
     explicit form1(umgebung um);
 
     bezeichnung version_label;
+    bezeichnung untertitel;  ///< what the program is, over the start picture
+    bild startbild;          ///< picture over the fields
+
+    rahmen Frame_rennen;
+    bezeichnung Label_rennart;
     auswahl rennart;
     bezeichnung dauerlabel;
     feld stddauer;  ///< hours of a time race
@@ -44,37 +52,69 @@ public:
     bezeichnung Label2;
     feld massstab;
     haken t_aktiv;
+
+    rahmen Frame_spuren;
+    bezeichnung label_spurlaenge;  ///< captions of the columns
+    bezeichnung Label_meter;
+    bezeichnung Label_fahrer;
+    bezeichnung Label_auto;
+    bezeichnung Label_bestzeit;
+    std::array<form, spuren_max> spurfarbe;  ///< colour of the lane
     std::array<haken, spuren_max> spur;
     std::array<feld, spuren_max> lspur;  ///< metres
     std::array<auswahl, spuren_max> fahrer;
     std::array<auswahl, spuren_max> auto_;
-    bezeichnung label_spurlaenge;
-    bild startbild;                          ///< picture over the fields
-    std::array<form, spuren_max> spurfarbe;  ///< colour of the lane
-    bezeichnung Label6;                      ///< settings file in force
-    bezeichnung modus_label;                 ///< status line: the timing hardware in force
-    befehl Command1;                         ///< single race
-    befehl Command2;                         ///< end of the program
-    befehl Command5;                         ///< save the settings
-    befehl Command7;                         ///< load settings
-    befehl command_tasten;                   ///< key assignment
+    std::array<bild, spuren_max> fahrerbild;
+    std::array<bild, spuren_max> autobild;
+    std::array<bezeichnung, spuren_max> Label_fahrzeug;  ///< best time of the lane
 
-    /// Switches the track power on; filled by the part that owns the outputs.
+    bezeichnung Label6;       ///< settings file in force
+    bezeichnung modus_label;  ///< status line: the timing hardware in force
+    bezeichnung Label7;       ///< "Bahnstrom"
+    befehl Command1;          ///< single race
+    befehl Command2;          ///< end of the program
+    befehl Command4;          ///< options
+    befehl Command5;          ///< save the settings
+    befehl Command6;          ///< track power on
+    befehl Command7;          ///< load settings
+    befehl Command8;          ///< options, page of the drivers
+    befehl Command9;          ///< options, page of the vehicles
+    befehl Command10;         ///< take over the pictures of the vehicles
+    befehl Command12;         ///< track power off
+    befehl Command13;         ///< take over the pictures of the drivers
+    befehl command_tasten;    ///< key assignment
+
+    /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
+    std::function<void()> bahnstrom_aus;
     /// Ends the program.
     std::function<void()> beenden;
     std::function<void()> einstellungen_speichern;
     std::function<void()> einstellungen_laden;
+    /// Opens the options on the page that the operator asked for.
+    std::function<void()> einstellungen_oeffnen;
+    std::function<void()> fahrer_oeffnen;
+    std::function<void()> fahrzeuge_oeffnen;
+    std::function<void()> fahrerbilder_uebernehmen;
+    std::function<void()> fahrzeugbilder_uebernehmen;
 
     /// Load handler of the window.
     void laden();
     void entladen() { timer1_->aus(); }
-    /// Every field to its default.
+    /// The texts of the window.
+    sprachliste sprache_m2();
     /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
     void spuren_nach_laden();
     void farben_einstellen();
     /// Fills the choices of drivers and vehicles; what is chosen on the lanes stays.
-    void listen_zeigen(const namensliste& fahrerliste, const namensliste& fahrzeugliste);
+    void listen_zeigen();
+    /// Picture of the driver of this name on a lane.
+    void fahrerbild_laden(const std::string& name, int nummer);
+    /// Picture of the vehicle on a lane, if vehicle pictures are wanted.
+    void autobild_anzeigen(int nummer);
+    void bilder_anzeigen();
+    /// What is said behind the number of pictures taken over.
+    const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
     void einstellungsname_anzeigen(std::string_view name);
 
@@ -96,11 +136,20 @@ private:
     void spur_geaendert(std::size_t index);
     zeit_ms renndauer_lesen() const;
 
+    void befehle_verbinden();
+    void fahrer_Change(int nummer);
+    void ansagen_setzen();
+    void einstellungen_rufen(const std::function<void()>& wohin);
     void bildschirm_anpassen();
     bool kleiner_bildschirm() const;
 
     umgebung um_;
     std::unique_ptr<plattform::zeitgeber> timer1_;  ///< once, a second after the window has appeared
+    std::string wort_spur_;
+    std::string wort_minuten_;
+    std::string wort_runden_;
+    std::string wort_einstellungsdatei_;
+    std::string wort_bilder_;
     zeit_ms dauer_minuten_ = 0;
     zeit_ms dauer_sekunden_ = 0;
 };

@@ -1,8 +1,8 @@
 #include "core/namensliste.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
-#include <utility>
 
 namespace tarvel {
 namespace {
@@ -10,13 +10,9 @@ namespace {
 constexpr std::size_t zeilen_max = 204;  // line 0 to 203
 constexpr std::string_view bild_marke = "{pic}";
 constexpr std::string_view ende_marke = "{ende}";
+constexpr std::array<std::string_view, 2> bild_endungen{".jpg", ".gif"};
 
 }  // namespace
-
-namensliste::namensliste(std::string kopfwort, std::vector<std::string> eingebaut)
-    : kopfwort_(std::move(kopfwort)), eingebaut_(std::move(eingebaut)) {
-    eingebaute_setzen();
-}
 
 void namensliste::eingebaute_setzen() {
     eintraege_.clear();
@@ -29,7 +25,7 @@ bool namensliste::laden(const dateien& ablage, std::string_view datei) {
     const std::vector<std::string> zeilen = ablage.zeilen_lesen(datei, zeilen_max).value_or(std::vector<std::string>{});
     const auto ende = std::find(zeilen.begin(), zeilen.end(), ende_marke);
     const bool abgerissen = ende == zeilen.end() && zeilen.size() < zeilen_max;
-    if (zeilen.empty() || zeilen.front() != kopfwort_ || abgerissen) {
+    if (zeilen.empty() || zeilen.front() != art_.kopfwort || abgerissen) {
         eingebaute_setzen();
         return false;
     }
@@ -54,7 +50,7 @@ bool namensliste::laden(const dateien& ablage, std::string_view datei) {
 bool namensliste::speichern(const dateien& ablage, std::string_view datei) const {
     const auto schluss =
         std::find_if(eintraege_.begin(), eintraege_.end(), [](const listeneintrag& e) { return e.name.empty(); });
-    std::vector<std::string> zeilen{kopfwort_};
+    std::vector<std::string> zeilen{art_.kopfwort};
     std::transform(eintraege_.begin(), schluss, std::back_inserter(zeilen), [](const auto& e) { return e.name; });
     zeilen.emplace_back(bild_marke);
     std::transform(eintraege_.begin(), schluss, std::back_inserter(zeilen), [](const auto& e) { return e.bild; });
@@ -62,18 +58,52 @@ bool namensliste::speichern(const dateien& ablage, std::string_view datei) const
     return ablage.zeilen_schreiben(datei, zeilen);
 }
 
-std::string namensliste::bild_von(std::string_view name) const {
-    const auto gefunden =
-        std::find_if(eintraege_.begin(), eintraege_.end(), [&](const listeneintrag& e) { return e.name == name; });
-    return gefunden == eintraege_.end() ? "" : gefunden->bild;
+void namensliste::hinzufuegen(std::string_view name) {
+    if (!voll()) {
+        eintraege_.push_back({std::string(name), ""});
+    }
 }
 
-void namensliste::bild_zuordnen(std::string_view stamm) {
-    for (listeneintrag& eintrag : eintraege_) {
-        if (eintrag.name == stamm) {
-            eintrag.bild = stamm;
+void namensliste::entfernen(std::size_t zeile) {
+    if (zeile < eintraege_.size()) {
+        eintraege_.erase(eintraege_.begin() + static_cast<std::ptrdiff_t>(zeile));
+    }
+}
+
+void namensliste::bild_setzen(std::size_t zeile, std::string_view stamm) {
+    if (zeile < eintraege_.size()) {
+        eintraege_[zeile].bild = stamm;
+    }
+}
+
+std::string namensliste::bilddatei(const dateien& ablage, std::string_view name) const {
+    const auto gefunden =
+        std::find_if(eintraege_.begin(), eintraege_.end(), [&](const listeneintrag& e) { return e.name == name; });
+    if (gefunden != eintraege_.end() && !gefunden->bild.empty()) {
+        for (const std::string_view endung : bild_endungen) {
+            std::string datei = art_.bildordner + "/" + gefunden->bild + std::string(endung);
+            if (ablage.gibt_es(datei)) {
+                return datei;
+            }
         }
     }
+    return art_.bildordner + "/" + art_.standardbild;
+}
+
+int namensliste::bilder_uebernehmen(const dateien& ablage, std::string_view ausser) {
+    int anzahl = 0;
+    for (const std::string_view endung : bild_endungen) {
+        for (const std::string& datei : ablage.auflisten(art_.bildordner, "", endung)) {
+            const std::string stamm = datei.substr(0, datei.size() - endung.size());
+            for (listeneintrag& eintrag : eintraege_) {
+                if (eintrag.name == stamm && stamm != ausser) {
+                    eintrag.bild = stamm;
+                    ++anzahl;
+                }
+            }
+        }
+    }
+    return anzahl;
 }
 
 }  // namespace tarvel

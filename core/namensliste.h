@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/dateien.h"
@@ -21,24 +22,43 @@ class namensliste {
 public:
     static constexpr std::size_t namen_max = 100;
 
-    /// `kopfwort` is the first line of its files, `eingebaut` the names that stand in for an unusable file.
-    namensliste(std::string kopfwort, std::vector<std::string> eingebaut);
+    /// What tells a list of drivers from one of vehicles.
+    struct art {
+        std::string kopfwort;      ///< first line of its files
+        std::string bildordner;    ///< folder of its pictures
+        std::string standardbild;  ///< file shown for an entry without a picture
+    };
+
+    explicit namensliste(art a) : art_(std::move(a)) {}
+
+    /// The names that stand in for an unusable file.
+    void eingebaut(std::vector<std::string> namen) { eingebaut_ = std::move(namen); }
 
     /// False for a file that is missing, has another first line or no end: then the built-in names stand.
     bool laden(const dateien& ablage, std::string_view datei);
     /// Writes up to the first entry without a name.
     bool speichern(const dateien& ablage, std::string_view datei) const;
 
+    const art& listenart() const { return art_; }
     const std::vector<listeneintrag>& eintraege() const { return eintraege_; }
-    /// Picture of a name; empty for none, or for a name that is not in the list.
-    std::string bild_von(std::string_view name) const;
-    /// A row with the name of a picture file takes it as its picture. `stamm` is the file's name without its extension.
-    void bild_zuordnen(std::string_view stamm);
+    bool voll() const { return eintraege_.size() >= namen_max; }
+    /// Appends a name without a picture, unless the list is full.
+    void hinzufuegen(std::string_view name);
+    /// Rows count from 0; one that does not exist changes nothing.
+    void entfernen(std::size_t zeile);
+    void leeren() { eintraege_.clear(); }
+    void bild_setzen(std::size_t zeile, std::string_view stamm);
+
+    /// File of the picture of a name: the standard picture if the name is unknown or its picture is not there.
+    std::string bilddatei(const dateien& ablage, std::string_view name) const;
+    /// Every row with the name of a file in the picture folder takes it as its picture; `ausser` is the stem of a file
+    /// that is left out. Returns the number of these rows.
+    int bilder_uebernehmen(const dateien& ablage, std::string_view ausser);
 
 private:
     void eingebaute_setzen();
 
-    std::string kopfwort_;
+    art art_;
     std::vector<std::string> eingebaut_;
     std::vector<listeneintrag> eintraege_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/felder.h"
 #include "core/text.h"
 
 namespace tarvel {
@@ -13,32 +14,11 @@ constexpr std::string_view s6_datei = "tvk_s6.ini";
 constexpr std::string_view werbe_datei = "tvk.ini";
 constexpr std::string_view standard_einstellungen = "Einstellungen\\einstellungen.ini";
 
-/// The fields of a file: separated by commas or line ends, with or without quotes.
-std::vector<std::string> felder_lesen(const dateien& ablage, std::string_view datei, std::size_t anzahl) {
-    std::vector<std::string> felder;
-    for (const std::string& zeile : ablage.zeilen_lesen(datei, anzahl).value_or(std::vector<std::string>{})) {
-        std::string_view rest = zeile;
-        while (felder.size() < anzahl) {
-            rest = gekuerzt(rest);
-            const bool zitat = rest.starts_with('"');
-            const std::size_t ende = zitat ? rest.find('"', 1) : rest.find(',');
-            felder.emplace_back(zitat ? rest.substr(1, ende == std::string_view::npos ? ende : ende - 1)
-                                      : gekuerzt(rest.substr(0, ende)));
-            const std::size_t komma = ende == std::string_view::npos ? ende : rest.find(',', ende);
-            if (komma == std::string_view::npos) {
-                break;
-            }
-            rest.remove_prefix(komma + 1);
-        }
-    }
-    return felder;
-}
-
 }  // namespace
 
 bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel) {
     constexpr int erstes_druckbares = 32;
-    const std::vector<std::string> felder = felder_lesen(ablage, trennzeichen_datei, ziel.size());
+    const auto felder = felder_lesen(ablage, trennzeichen_datei, ziel.size()).value_or(std::vector<std::string>{});
     trennzeichen_tabelle neu;
     if (felder.size() < neu.size()) {
         return false;
@@ -63,14 +43,14 @@ bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& w
 }
 
 void tvk_ini_laden(const dateien& ablage, std::string& ziel) {
-    const std::vector<std::string> felder = felder_lesen(ablage, werbe_datei, 1);
-    if (!felder.empty() && !felder.front().empty()) {
-        ziel = felder.front();
+    const auto felder = felder_lesen(ablage, werbe_datei, 1);
+    if (felder && !felder->empty() && !felder->front().empty()) {
+        ziel = felder->front();
     }
 }
 
 s6_start s6_laden(const dateien& ablage) {
-    std::vector<std::string> felder = felder_lesen(ablage, s6_datei, 5);
+    std::vector<std::string> felder = felder_lesen(ablage, s6_datei, 5).value_or(std::vector<std::string>{});
     felder.resize(5);
     s6_start start{felder[0], felder[1], felder[2], felder[3], felder[4]};
     if (start.zustand.empty()) {

@@ -18,7 +18,8 @@ bool ist_dateiname(const std::string& name) {
 
 }  // namespace
 
-speichernfenster::speichernfenster(umgebung um) : um_(um) {
+speichernfenster::speichernfenster(umgebung um, std::string_view fenstername, std::string_view sprachdatei)
+    : um_(um), fenstername_(fenstername), sprachdatei_(sprachdatei) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {
         const int zeile = dateiliste.markiert();
@@ -29,10 +30,21 @@ speichernfenster::speichernfenster(umgebung um) : um_(um) {
     dateiliste.bei_doppelklick = [this] { ausfuehren(); };
     alle_dateien.bei_aenderung = [this] { liste_fuellen(); };
     Command1.bei_klick = [this] { ausfuehren(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen("speichernfenster"); };
+    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername_); };
+}
+
+sprachliste speichernfenster::sprache() {
+    sprachliste texte(sprachdatei_);
+    texte.ueberschrift("Dateien").text("Bitte Dateinamen eingeben.", wort_.name_fehlt);
+    texte.text("Der Dateiname enthält ein unzulässiges Zeichen.", wort_.zeichen).text("Die Datei", wort_.die_datei);
+    texte.text("ist nicht vorhanden.", wort_.nicht_vorhanden);
+    texte.text("ist bereits vorhanden. Überschreiben?", wort_.ueberschreiben);
+    texte.text("Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen", wort_.ungueltig);
+    return texte.ansage("Dateiname", name).ansage("Vorhandene Dateien", dateiliste);
 }
 
 void speichernfenster::oeffnen(dateiauftrag auftrag) {
+    um_.fenster.laden(fenstername_);
     auftrag_ = std::move(auftrag);
     titel.text(auftrag_.titel);
     ueberschrift.text(auftrag_.ueberschrift);
@@ -42,7 +54,7 @@ void speichernfenster::oeffnen(dateiauftrag auftrag) {
     alle_dateien.gesetzt(false);
     name.text(auftrag_.vorschlag);
     liste_fuellen();
-    um_.fenster.zeigen("speichernfenster", anzeige_art::modal);
+    um_.fenster.zeigen(fenstername_, anzeige_art::modal);
     name.fokus_setzen();
 }
 
@@ -62,11 +74,11 @@ void speichernfenster::melden(const std::string& text) {
 void speichernfenster::ausfuehren() {
     std::string datei(gekuerzt(name.text()));
     if (datei.empty()) {
-        melden("Bitte Dateinamen eingeben.");
+        melden(wort_.name_fehlt);
         return;
     }
     if (!ist_dateiname(datei)) {
-        melden("Der Dateiname enthält ein unzulässiges Zeichen.");
+        melden(wort_.zeichen);
         return;
     }
     if (!um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei) && datei.find('.') == std::string::npos) {
@@ -74,15 +86,15 @@ void speichernfenster::ausfuehren() {
     }
     const std::string pfad = auftrag_.ordner + "\\" + datei;
     if (!auftrag_.speichern && !um_.ablage.gibt_es(pfad)) {
-        melden("Die Datei " + datei + " ist nicht vorhanden.");
+        melden(wort_.die_datei + " " + datei + " " + wort_.nicht_vorhanden);
         return;
     }
     if (auftrag_.speichern && um_.ablage.gibt_es(pfad) &&
-        !um_.meldungen.fragen("Die Datei " + datei + " ist bereits vorhanden. Überschreiben?", um_.txt.titel[0])) {
+        !um_.meldungen.fragen(wort_.die_datei + " " + datei + " " + wort_.ueberschreiben, um_.txt.titel[0])) {
         return;
     }
     if (auftrag_.ausfuehren(datei)) {
-        um_.fenster.entladen("speichernfenster");
+        um_.fenster.entladen(fenstername_);
     }
 }
 

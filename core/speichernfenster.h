@@ -34,7 +34,8 @@ public:
         plattform::meldungen& meldungen;
     };
 
-    explicit speichernfenster(umgebung um);
+    /// `fenstername` is the window's name in the register, `sprachdatei` the file of its texts.
+    speichernfenster(umgebung um, std::string_view fenstername, std::string_view sprachdatei);
 
     rahmen titel;  ///< carries the window's title
     bezeichnung ueberschrift;
@@ -44,14 +45,31 @@ public:
     befehl Command1;  ///< does it
     befehl Command2;  ///< cancel
 
+    void laden() { sprache().anwenden(um_.ablage); }
     void oeffnen(dateiauftrag auftrag);
+    /// The texts of the window.
+    sprachliste sprache();
+    /// What is said of a file that is none of the program's.
+    const std::string& ungueltig_text() const { return wort_.ungueltig; }
 
 private:
     void liste_fuellen();
     void ausfuehren();
     void melden(const std::string& text);
 
+    struct worte {
+        std::string name_fehlt;
+        std::string zeichen;
+        std::string die_datei;
+        std::string nicht_vorhanden;
+        std::string ueberschreiben;
+        std::string ungueltig;
+    };
+
     umgebung um_;
+    std::string fenstername_;
+    std::string sprachdatei_;
+    worte wort_;
     dateiauftrag auftrag_;
 };
 

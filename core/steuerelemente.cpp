@@ -7,12 +7,24 @@
 
 namespace tarvel {
 
-void steuerelement::text(std::string_view neu) {
-    if (text_ == neu) {
+void steuerelement::text_setzen(std::string& ziel, std::string_view neu) {
+    if (ziel == neu) {
         return;
     }
-    text_.assign(neu);
+    ziel.assign(neu);
     melden();
+}
+
+void steuerelement::text(std::string_view neu) {
+    text_setzen(text_, neu);
+}
+
+void steuerelement::tipp(std::string_view neu) {
+    text_setzen(tipp_, neu);
+}
+
+void steuerelement::ansage(std::string_view neu) {
+    text_setzen(ansage_, neu);
 }
 
 void steuerelement::fokus_setzen() {
@@ -95,12 +107,14 @@ void liste::doppelklicken(int zeile) {
     }
 }
 
-void bild::datei(std::string_view neu) {
-    if (datei_ == neu) {
+void farbfeld::waehlen(farbe neu) {
+    if (!bedienbar() || neu == wert_) {
         return;
     }
-    datei_.assign(neu);
-    melden();
+    wert(neu);
+    if (bei_aenderung) {
+        bei_aenderung();
+    }
 }
 
 }  // namespace tarvel

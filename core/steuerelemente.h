@@ -45,6 +45,13 @@ public:
     void aktiviert(bool neu) { setzen(aktiviert_, neu); }
     bool bedienbar() const { return sichtbar_ && aktiviert_; }
 
+    /// Shown while the pointer rests on the control.
+    const std::string& tipp() const { return tipp_; }
+    void tipp(std::string_view neu);
+    /// What a screen reader calls the control where its text is not its name.
+    const std::string& ansage() const { return ansage_; }
+    void ansage(std::string_view neu);
+
     /// Colours are empty where the drawing's own palette holds.
     std::optional<farbe> schriftfarbe() const { return schriftfarbe_; }
     void schriftfarbe(std::optional<farbe> neu) { setzen(schriftfarbe_, neu); }
@@ -68,6 +75,7 @@ protected:
         feld = neu;
         melden();
     }
+    void text_setzen(std::string& ziel, std::string_view neu);
     void melden() const {
         if (beobachter_ != nullptr) {
             beobachter_->geaendert();
@@ -77,6 +85,8 @@ protected:
 private:
     steuer_beobachter* beobachter_ = nullptr;
     std::string text_;
+    std::string tipp_;
+    std::string ansage_;
     std::optional<farbe> schriftfarbe_;
     std::optional<farbe> hintergrund_;
     double schriftgroesse_ = 0;
@@ -190,10 +200,30 @@ private:
 class bild : public steuerelement {
 public:
     const std::string& datei() const { return datei_; }
-    void datei(std::string_view neu);
+    void datei(std::string_view neu) { text_setzen(datei_, neu); }
+    /// File that is shown where `datei` cannot be.
+    const std::string& ersatz() const { return ersatz_; }
+    void ersatz(std::string_view neu) { text_setzen(ersatz_, neu); }
+    /// The same file holds another picture now.
+    void neu_laden() { setzen(auflage_, auflage_ + 1); }
+    unsigned auflage() const { return auflage_; }
 
 private:
     std::string datei_;
+    std::string ersatz_;
+    unsigned auflage_ = 0;
+};
+
+/// A colour that the operator chooses.
+class farbfeld : public steuerelement {
+public:
+    std::function<void()> bei_aenderung;
+    farbe wert() const { return wert_; }
+    void wert(farbe neu) { setzen(wert_, neu); }
+    void waehlen(farbe neu);
+
+private:
+    farbe wert_ = 0;
 };
 
 /// A drawn shape.

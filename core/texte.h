@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/dateien.h"
+#include "core/sprache.h"
 #include "core/spuren.h"
 
 namespace tarvel {
@@ -16,32 +18,35 @@ inline constexpr std::string_view programm_name = "Tarvel";
 struct texte {
     texte();
 
-    std::string text_zeit = "Zeit";  ///< the kinds of race; always compared with these two, never with a literal
-    std::string text_runden = "Runden";
-    std::array<std::string, 2> titel{"Hinweis", "Fehlermeldung"};
+    void sprache_m1_laden(const dateien& ablage) { sprache_m1().anwenden(ablage); }
+    void sprache_tx1_laden(const dateien& ablage) { sprache_tx1().anwenden(ablage); }
+    void sprache_usb2_laden(const dateien& ablage) { sprache_usb2().anwenden(ablage); }
+    /// The language files of the shared texts.
+    std::vector<sprachliste> alle_gruppen();
+
+    std::string text_zeit;  ///< the kinds of race; always compared with these two, never with a literal
+    std::string text_runden;
+    std::array<std::string, 2> titel;
     std::array<std::string, 28> meldung;  ///< index 1 to 27
-    std::array<std::string, 12> datei_text{"Speichern",
-                                           "Speichern unter",
-                                           "Laden",
-                                           "Laden von",
-                                           "Einstellungen speichern",
-                                           "Einstellungen laden",
-                                           "Fahrzeugliste laden",
-                                           "Fahrzeugliste speichern",
-                                           "Fahrerliste laden",
-                                           "Fahrerliste speichern",
-                                           "Abbrechen",
-                                           "Alle Dateien anzeigen *.*"};
+    std::array<std::string, 12> datei_text;
 
     std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";
     spuren<std::string> fahrer_standard;
-    std::string standardfahrzeug_text = "Standardfahrzeug";
+    std::string standardfahrzeug_text;
     std::vector<std::string> fahrzeuge_standard{"Formel 1",       "Porsche GT3", "Peugeot 206", "Peugeot 307",
                                                 "Subaru Impreza", "Viper",       "Corvette",    "Mini Cooper S"};
-    std::array<std::string, 8> hardware_name{"Simulationsmodus",     "IOW 40 USB", "Race Control",
-                                             "Druckeranschluss",     "4x4 USB",    "Timekeeper",
-                                             "Carrera Control Unit", "AT-2560 USB"};
+    std::array<std::string, 8> hardware_name;
+    std::array<std::string, 5> modus_name;  ///< track modes of a digital-capable device
+    std::string nicht_aktiv_text;
+    std::array<std::string, 20> tx_text;        ///< of the 4x4 USB module
+    std::array<std::string, 60> ereignis_name;  ///< index is the event number
+
+private:
+    sprachliste sprache_m1();
+    sprachliste sprache_tx1();
+    /// The names of the events, from the last to the first.
+    sprachliste sprache_usb2();
 };
 
 }  // namespace tarvel

@@ -43,17 +43,42 @@ tastaturbelegung::tastaturbelegung(umgebung um) : um_(um) {
 }
 
 void tastaturbelegung::laden() {
-    for (const int spur : alle_spuren) {
-        Frame.at(static_cast<std::size_t>(spur)).text("Spur " + std::to_string(spur) + "/Auto " + std::to_string(spur));
-    }
-    Frame[0].text("sonstige Tastenbelegung");
-    Command1.text("Übernehmen");
-    Command2.text("Abbrechen");
-    Command3.text("Standard");
-    Command4.text("alle belegen");
-    Command5.text("Felder löschen");
+    sprache_e_tast().anwenden(um_.ablage);
     anzeigen(um_.belegung);
     taste.at(static_cast<std::size_t>(tastenzeilen().front().zeile)).fokus_setzen();
+}
+
+sprachliste tastaturbelegung::sprache_e_tast() {
+    sprachliste texte("language/language_e_tast.txt");
+    texte.ueberschrift("Tastaturbelegung").text("Tastaturbelegung", titel);
+    texte.text(
+        "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld hat keine Taste.",
+        hinweis);
+    for (const int spur : alle_spuren) {
+        const std::string nummer = std::to_string(spur);
+        texte.text("Spur " + nummer + "/Auto " + nummer, Frame.at(static_cast<std::size_t>(spur)));
+    }
+    texte.text("sonstige Tastenbelegung", Frame[0]).text("Übernehmen", Command1).text("Abbrechen", Command2);
+    texte.text("Standard", Command3).text("alle belegen", Command4).text("Felder löschen", Command5);
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        if (zeile.spur <= 1) {  // the rows of a lane have the same names on every lane
+            texte.text(zeile.name, [this, name = zeile.name](const std::string& neu) { zeile_benennen(name, neu); });
+        }
+    }
+    texte.text("Felder doppelt belegt!!!", doppelt_text_);
+    return texte.text("Ungültiges Zeichen!!!", ungueltig_text_);
+}
+
+void tastaturbelegung::zeile_benennen(std::string_view name, const std::string& neu) {
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        if (zeile.name == name) {
+            const auto nummer = static_cast<std::size_t>(zeile.zeile);
+            const std::string davor =
+                zeile.spur > 0 ? Frame.at(static_cast<std::size_t>(zeile.spur)).text() + ": " : "";
+            Label.at(nummer).text(neu);
+            taste.at(nummer).ansage(davor + neu);
+        }
+    }
 }
 
 void tastaturbelegung::anzeigen(const tastenbelegung& belegung) {
@@ -71,7 +96,7 @@ bool tastaturbelegung::pruefen() {
         const int code = feldcode(zeichen.text());
         const bool doppelt = code > tastenbelegung::keine_taste && !vergeben.insert(code).second;
         if (code == 0 || doppelt) {
-            um_.meldungen.zeigen(doppelt ? "Felder doppelt belegt!!!" : "Ungültiges Zeichen!!!", um_.txt.titel[1]);
+            um_.meldungen.zeigen(doppelt ? doppelt_text_ : ungueltig_text_, um_.txt.titel[1]);
             zeichen.fokus_setzen();
             return false;
         }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <string>
+#include <string_view>
 
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
@@ -24,22 +26,30 @@ public:
     explicit tastaturbelegung(umgebung um);
 
     std::array<feld, tastenbelegung::zeile_max + 1> taste;  ///< index is the row; rows without a name have no field
-    std::array<rahmen, spuren_max + 1> Frame;               ///< 1 to 6 the lanes, 0 the keys of the whole track
-    befehl Command1;                                        ///< confirm
-    befehl Command2;                                        ///< cancel
-    befehl Command3;                                        ///< "Standard"
-    befehl Command4;                                        ///< "alle belegen"
-    befehl Command5;                                        ///< "Felder löschen"
+    std::array<bezeichnung, tastenbelegung::zeile_max + 1> Label;  ///< what the row means
+    rahmen titel;                                                  ///< carries the window's title
+    bezeichnung hinweis;                                           ///< how the fields are meant
+    std::array<rahmen, spuren_max + 1> Frame;                      ///< 1 to 6 the lanes, 0 the keys of the whole track
+    befehl Command1;                                               ///< confirm
+    befehl Command2;                                               ///< cancel
+    befehl Command3;                                               ///< "Standard"
+    befehl Command4;                                               ///< "alle belegen"
+    befehl Command5;                                               ///< "Felder löschen"
 
     /// Load handler: shows the assignment in force.
     void laden();
+    /// The texts of the window.
+    sprachliste sprache_e_tast();
 
 private:
     void anzeigen(const tastenbelegung& belegung);
+    void zeile_benennen(std::string_view name, const std::string& neu);
     bool pruefen();
     void uebernehmen();
 
     umgebung um_;
+    std::string doppelt_text_;
+    std::string ungueltig_text_;
 };
 
 }  // namespace tarvel

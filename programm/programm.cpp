@@ -29,16 +29,18 @@ std::string einstellungsname(std::string_view pfad) {
 programm::programm(const plattform::dienste& d)
     : dienste(d),
       ablage(d.programmordner),
-      fahrerliste("Fahrerliste:", {txt.fahrer_standard.begin(), txt.fahrer_standard.end()}),
-      fahrzeugliste("Fahrzeugliste:", txt.fahrzeuge_standard),
-      form1({einst, txt, param, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
+      fahrerliste({"Fahrerliste:", "pictures", "nopic.jpg"}),
+      fahrzeugliste({"Fahrzeugliste:", "slotcars", "nocar.gif"}),
+      form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, d.meldungen}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
-      rennen(d, {param, einst, txt, form1, ereignisse, belegung, ausgaben, fenster}),
+      rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
       auswertung(rennen.umgebung),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
-      speichernfenster({ablage, txt, fenster, d.meldungen}) {
+      speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
+      fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
+                             "language\\language_s2.txt") {
     form1.einstellungen_speichern = [this] { speichern_oeffnen(); };
     form1.einstellungen_laden = [this] { laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
@@ -47,7 +49,26 @@ programm::programm(const plattform::dienste& d)
         ausgaben.ampelnGRon();
         ausgaben.relais_off(0);
     };
+    form1.bahnstrom_aus = [this] {
+        ausgaben.relais_on(0);
+        ausgaben.ampelnGRoff();
+    };
+    form1.fahrerbilder_uebernehmen = [this] { bilder_uebernehmen(fahrerliste, "Listen\\" + fahrer_datei, 3, "nopic"); };
+    form1.fahrzeugbilder_uebernehmen = [this] {
+        bilder_uebernehmen(fahrzeugliste, "Listen\\" + fahrzeug_datei, 2, "");
+    };
     fenster_anmelden();
+}
+
+void programm::bilder_uebernehmen(namensliste& liste, const std::string& datei_name, int nicht_gespeichert,
+                                  std::string_view ausser) {
+    const int anzahl = liste.bilder_uebernehmen(ablage, ausser);
+    form1.bilder_anzeigen();
+    if (!liste.speichern(ablage, datei_name)) {
+        dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_gespeichert)), txt.titel[1]);
+        return;
+    }
+    dienste.meldungen.zeigen(std::to_string(anzahl) + " " + form1.bilder_text(), txt.titel[0]);
 }
 
 void programm::fenster_anmelden() {
@@ -56,7 +77,8 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
     fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, {}});
-    fenster.anmelden("speichernfenster", {});
+    fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
+    fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
 }
 
@@ -64,7 +86,7 @@ bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
     fenster.zeigen("Update_form");
-    texte_standard_setzen();
+    texte_laden();
     hardware_standard_setzen();
     einstellungen_standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
@@ -80,8 +102,23 @@ bool programm::starten() {
     return true;
 }
 
-void programm::texte_standard_setzen() {
+void programm::texte_laden() {
     txt = {};
+    txt.sprache_m1_laden(ablage);
+    txt.sprache_tx1_laden(ablage);
+    fahrerliste.eingebaut({txt.fahrer_standard.begin(), txt.fahrer_standard.end()});
+    fahrzeugliste.eingebaut(txt.fahrzeuge_standard);
+}
+
+std::vector<sprachliste> programm::sprachdateien() {
+    std::vector<sprachliste> alle = txt.alle_gruppen();
+    alle.push_back(form1.sprache_m2());
+    alle.push_back(rennen.ansicht.sprache_r());
+    alle.push_back(auswertung.sprache_a());
+    alle.push_back(tastaturbelegung.sprache_e_tast());
+    alle.push_back(speichernfenster.sprache());
+    alle.push_back(fahrerspeichernfenster.sprache());
+    return alle;
 }
 
 void programm::hardware_standard_setzen() {
@@ -107,7 +144,7 @@ void programm::listen_laden() {
     };
     laden(fahrzeugliste, "Listen\\fahrzeuge.kfz", 7, 2);
     laden(fahrerliste, "Listen\\fahrer.lst", 8, 3);
-    form1.listen_zeigen(fahrerliste, fahrzeugliste);
+    form1.listen_zeigen();
     fahrer_datei = "fahrer.lst";
     fahrzeug_datei = "fahrzeuge.kfz";
 }
@@ -149,6 +186,7 @@ void programm::einstellungen_laden() {
         einstellungen_speichern("Einstellungen\\" + einstell_datei);
     }
     form1.farben_einstellen();
+    form1.bilder_anzeigen();
     if (einst.aut_loeschen && !laden_aus_menue_) {
         auto_dateien_loeschen(ablage);
     }
@@ -185,8 +223,7 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
     datei.einstellungsdatei_einlesen(pfad, false, version_melden::nein);
     datei.einstellungsdatei_pruefen();
     if (datei.fehler_laden()) {
-        dienste.meldungen.zeigen("Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen",
-                                 txt.titel[1]);
+        dienste.meldungen.zeigen(speichernfenster.ungueltig_text(), txt.titel[1]);
         return false;
     }
     laden_aus_menue_ = true;
@@ -211,8 +248,9 @@ void programm::programm_beenden() {
     }
     programm_beendet_ = true;
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 7> reihenfolge{
-        "auswertung", "bahn1", "Form3", "speichernfenster", "Form1", "Tastaturbelegung", "Update_form"};
+    constexpr std::array<std::string_view, 8> reihenfolge{
+        "auswertung",       "bahn1", "fahrerspeichernfenster", "Form3",
+        "speichernfenster", "Form1", "Tastaturbelegung",       "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/dateien.h"
 #include "core/einstellungen.h"
@@ -10,6 +11,7 @@
 #include "core/form1.h"
 #include "core/renn_parameter.h"
 #include "core/speichernfenster.h"
+#include "core/sprache.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
@@ -34,6 +36,9 @@ public:
     bool starten();
     /// The only way out. Runs once.
     void programm_beenden();
+
+    /// The language files of all windows.
+    std::vector<sprachliste> sprachdateien();
 
     plattform::dienste dienste;
     dateien ablage;
@@ -60,16 +65,20 @@ public:
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;
+    tarvel::speichernfenster fahrerspeichernfenster;
 
 private:
     void fenster_anmelden();
-    void texte_standard_setzen();
+    void texte_laden();
     void hardware_standard_setzen();
     void einstellungen_standard_setzen();
     void listen_laden();
     void start_datei_bestimmen();
     void einstellungen_laden();
     void einstellungen_speichern(std::string_view name);
+    /// `nicht_gespeichert` is the message for a failed write.
+    void bilder_uebernehmen(namensliste& liste, const std::string& datei_name, int nicht_gespeichert,
+                            std::string_view ausser);
     void speichern_oeffnen();
     void laden_oeffnen();
     bool einstellungen_aus_menue_laden(const std::string& name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
@@ -33,6 +34,12 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_ge;
     std::array<bild, spuren_max> ampel_gr;
 
+    rahmen titel;                     ///< carries the window's title
+    spuren<bezeichnung> Label_spur;   ///< number of the lane
+    spuren<bezeichnung> Label_platz;  ///< captions of the displays
+    spuren<bezeichnung> Label_lrunde;
+    spuren<bezeichnung> Label_brunde;
+
     form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
     rennuhr_felder uhr2;  ///< second clock: time driven
@@ -44,6 +51,19 @@ struct bahn1 {
     befehl Command2;          ///< abort without a result
     befehl Command4;          ///< end with the result so far
     rahmen Nachtabschaltung;  ///< dark cover over the whole window
+
+    struct worte {
+        std::string restzeit;
+        std::string rennzeit;
+        std::string stunden;
+        std::string minuten;
+        std::string spur;
+        std::string fahrer;
+        std::string runden;
+        std::string rundenliste;
+        std::string strafzeit;
+    };
+    worte wort;  ///< of the window's language, for texts that are put together
 
     bool zeilenansicht = false;  ///< one row per lane, else one column
     double zaehler_schrift = 0;  ///< font size of `zaehler` at the start, in design units

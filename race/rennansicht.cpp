@@ -26,22 +26,55 @@ double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl) {
 void rennansicht::texte_setzen() {
     bahn1& bahn = um_.bahn;
     const bool zeitrennen = um_.ist_zeitrennen();
-    bahn.uhr1.uhrframe.text(zeitrennen ? "Restzeit" : "Rennzeit");
-    bahn.uhr2.uhrframe.text("Rennzeit");
+    sprache_r().anwenden(um_.ablage);
+    bahn.uhr1.uhrframe.text(zeitrennen ? bahn.wort.restzeit : bahn.wort.rennzeit);
+    bahn.uhr2.uhrframe.text(bahn.wort.rennzeit);
     uhr_texte(bahn.uhr1, um_.einst.trennzeichen);
     uhr_texte(bahn.uhr2, um_.einst.trennzeichen);
-    bahn.nachlauflabel.text("Nachlaufzeit");
     bahn.werbe_label.text(um_.txt.werbetext);
-    bahn.Command1.text("Rennstart");
-    bahn.Command2.text("Rennabbruch");
-    bahn.Command4.text("Rennende");
     std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
     if (zeitrennen) {
         const zeit_teile dauer = zeit_zerlegen(um_.param.renndauer_ms);
-        ziel = dauer.stunden > 0 ? std::to_string(dauer.stunden) + " h " : "";
-        ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " min";
+        ziel = dauer.stunden > 0 ? std::to_string(dauer.stunden) + " " + bahn.wort.stunden + " " : "";
+        ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +
+                bahn.wort.minuten;
     }
     bahn.ziel_label.text(ziel);
+    ansagen_setzen();
+}
+
+void rennansicht::ansagen_setzen() {
+    bahn1& bahn = um_.bahn;
+    for (const int spur : alle_spuren) {
+        const std::size_t index = feld_index(spur);
+        const auto ansagen = [&](steuerelement& element, const std::string& was) {
+            element.ansage(bahn.wort.spur + " " + std::to_string(spur) + ": " + was);
+        };
+        bahn.Label_spur[spur].text(std::to_string(spur));
+        bahn.Label_spur[spur].tipp(bahn.wort.spur);
+        ansagen(bahn.namenslabel[spur], bahn.wort.fahrer);
+        ansagen(bahn.zaehler[spur], bahn.wort.runden);
+        ansagen(bahn.lrunde[spur], bahn.Label_lrunde[spur].text());
+        ansagen(bahn.brunde[spur], bahn.Label_brunde[spur].text());
+        ansagen(bahn.straflabel[spur], bahn.wort.strafzeit);
+        ansagen(bahn.l_PosAnz.at(index), bahn.Label_platz[spur].text());
+        ansagen(bahn.t_liste.at(index), bahn.wort.rundenliste);
+    }
+}
+
+sprachliste rennansicht::sprache_r() {
+    bahn1& bahn = um_.bahn;
+    sprachliste texte("language\\language_r.txt");
+    texte.ueberschrift("Rennbildschirm").text("Rennbildschirm", bahn.titel);
+    texte.text("Rennstart", bahn.Command1).text("Rennabbruch", bahn.Command2).text("Rennende", bahn.Command4);
+    texte.text("Nachlaufzeit", bahn.nachlauflabel);
+    texte.text("Restzeit", bahn.wort.restzeit).text("Rennzeit", bahn.wort.rennzeit);
+    texte.text("h", bahn.wort.stunden).text("min", bahn.wort.minuten);
+    texte.text("Spur", bahn.wort.spur).fuer_alle("Platz", bahn.Label_platz);
+    texte.fuer_alle("letzte Runde", bahn.Label_lrunde).fuer_alle("beste Runde", bahn.Label_brunde);
+    texte.text("Fahrer", bahn.wort.fahrer).text("Runden", bahn.wort.runden);
+    texte.text("Rundenliste", bahn.wort.rundenliste).text("Strafzeit", bahn.wort.strafzeit);
+    return texte;
 }
 
 void rennansicht::spaltenansicht_oeffnen() {

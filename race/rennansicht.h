@@ -29,9 +29,12 @@ public:
     void freigeben();
     /// Toggles the dark cover.
     void bildschirm_dunkel();
+    /// The texts of the race window.
+    sprachliste sprache_r();
 
 private:
     void texte_setzen();
+    void ansagen_setzen();
     void kleine_ampel(int spur, bool rot, bool gruen);
 
     renn_umgebung um_;

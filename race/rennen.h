@@ -11,6 +11,7 @@ struct rennen {
         renn_parameter& param;
         const einstellungen& einst;
         const texte& txt;
+        const dateien& ablage;
         form1& haupt;
         ereignis_tabelle& ereignisse;
         const tastenbelegung& belegung;

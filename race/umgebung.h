@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
@@ -23,6 +24,7 @@ struct renn_umgebung {
     renn_parameter& param;
     const einstellungen& einst;
     const texte& txt;
+    const dateien& ablage;
     form1& haupt;
     bahn1& bahn;
     ereignis_tabelle& ereignisse;

@@ -39,7 +39,8 @@ void auswertung::laden() {
     if (!um_.einst.zielmodus_erster) {
         um_.zeitgeber.rennen_aus();
     }
-    Command5.text("Hauptmenü");
+    sprache_a().anwenden(um_.ablage);
+    ansagen_setzen();
     meter_fortsetzung_.fuellen({});
     for (bezeichnung& meter : ges_meter) {
         meter.text("");
@@ -52,11 +53,38 @@ void auswertung::laden() {
     Command5.fokus_setzen();
 }
 
+sprachliste auswertung::sprache_a() {
+    sprachliste texte("language\\language_a.txt");
+    texte.ueberschrift("Auswertung").text("Auswertung des Rennens", titel).text("Hauptmenü", Command5);
+    texte.text("Zeitrennen", wort_.zeitrennen).text("Rundenrennen", wort_.rundenrennen);
+    texte.text("vorzeitig beendet", wort_.vorzeitig).text("Strafzeit", wort_.strafzeit);
+    texte.text("Spur", wort_.spur).fuer_alle("Runden", Label_runden).fuer_alle("Gesamtzeit", Label_zeit);
+    texte.fuer_alle("beste Runde", Label_beste);
+    texte.text("Geschwindigkeit beste Runde / Durchschnittsgeschwindigkeit", wort_.tempo);
+    return texte.text("Rundenliste", wort_.rundenliste);
+}
+
+void auswertung::ansagen_setzen() {
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        Label_spur[i].text(wort_.spur + " " + std::to_string(spur));
+        const auto ansagen = [&](steuerelement& element, const std::string& was) {
+            element.ansage(Label_spur[i].text() + ": " + was);
+        };
+        ansagen(runden_aus[i], Label_runden[i].text());
+        ansagen(zeit_aus[i], Label_zeit[i].text());
+        ansagen(beste_aus[i], Label_beste[i].text());
+        ansagen(liste[i], wort_.rundenliste);
+        beste_aus[i].tipp(wort_.tempo);
+        kmh_label[i].tipp(wort_.tempo);
+    }
+}
+
 void auswertung::kopf_schreiben() {
-    std::string kopf = um_.param.renn_art_text == um_.txt.text_zeit ? "Zeitrennen" : "Rundenrennen";
+    std::string kopf = um_.param.renn_art_text == um_.txt.text_zeit ? wort_.zeitrennen : wort_.rundenrennen;
     kopf += "  ·  " + um_.bahn.ziel_label.text();
     if (um_.zustand.rennabbruch) {
-        kopf += "  ·  vorzeitig beendet";
+        kopf += "  ·  " + wort_.vorzeitig;
     }
     std::string ende = um_.zustand.rennen_ende_uhrzeit;
     std::replace(ende.begin(), ende.end(), '-', ' ');
@@ -152,7 +180,7 @@ void auswertung::spur_anzeigen(int spur) {
                       dezimal(tempo(um_.param.spurlaenge[spur] * std::max(zustand.runden, 0), werte.gesamtzeit)) +
                       " km/h");
     aus_straflabel[i].sichtbar(zustand.strafzeit > 0);
-    aus_straflabel[i].text("Strafzeit: " + std::to_string(zustand.strafzeit) + " sec");
+    aus_straflabel[i].text(wort_.strafzeit + ": " + std::to_string(zustand.strafzeit) + " sec");
     rundenliste_schreiben(spur);
 }
 

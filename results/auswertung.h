@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "core/steuerelemente.h"
 #include "race/umgebung.h"
@@ -17,6 +18,10 @@ public:
     std::array<rahmen, spuren_max> Frame;  ///< all of a lane; its row is the place
     std::array<bezeichnung, spuren_max> platz;
     std::array<bezeichnung, spuren_max> fahrer;
+    std::array<bezeichnung, spuren_max> Label_spur;  ///< captions of the cells
+    std::array<bezeichnung, spuren_max> Label_runden;
+    std::array<bezeichnung, spuren_max> Label_zeit;
+    std::array<bezeichnung, spuren_max> Label_beste;
     std::array<bezeichnung, spuren_max> runden_aus;
     std::array<bezeichnung, spuren_max> beste_aus;
     std::array<bezeichnung, spuren_max> zeit_aus;
@@ -26,6 +31,7 @@ public:
     std::array<bezeichnung, spuren_max> aus_straflabel;
     std::array<tarvel::liste, spuren_max> liste;
     bezeichnung kopf_label;  ///< what was driven, and when
+    rahmen titel;            ///< carries the window's title
     befehl Command5;         ///< back to the main window
 
     /// Load handler: ends the race for the lap engine and shows the standing.
@@ -36,6 +42,8 @@ public:
     void platzierung_berechnen();
     /// Leaves to the main window.
     void cmd5_fortsetzung();
+    /// The texts of the window.
+    sprachliste sprache_a();
 
     /// Place 1 to 6 of a lane.
     int platzierung(int spur) const { return platzierung_[spur]; }
@@ -50,12 +58,24 @@ private:
         double meter = 0;
     };
 
+    struct worte {
+        std::string zeitrennen;
+        std::string rundenrennen;
+        std::string vorzeitig;
+        std::string spur;
+        std::string rundenliste;
+        std::string strafzeit;
+        std::string tempo;  ///< names the two speeds
+    };
+
     void kopf_schreiben();
+    void ansagen_setzen();
     void meter_auswerten();
     void spur_anzeigen(int spur);
     void rundenliste_schreiben(int spur);
 
     renn_umgebung um_;
+    worte wort_;
     spuren<platz_werte> werte_;
     spuren<int> platzierung_;
     spuren<meter_stand> meter_fortsetzung_;

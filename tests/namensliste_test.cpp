@@ -12,6 +12,8 @@ using eintraege = std::vector<listeneintrag>;
 
 class Namensliste : public testing::Test {
 protected:
+    Namensliste() { liste.eingebaut({"Fahrer 1", "Fahrer 2"}); }
+
     bool laden(const std::vector<std::string>& zeilen) {
         EXPECT_TRUE(ablage.zeilen_schreiben("l.lst", zeilen));
         return liste.laden(ablage, "l.lst");
@@ -19,21 +21,39 @@ protected:
 
     test::test_plattform maschine;
     dateien ablage{maschine.ordner()};
-    namensliste liste{"Fahrerliste:", {"Fahrer 1", "Fahrer 2"}};
+    namensliste liste{{"Fahrerliste:", "pictures", "nopic.jpg"}};
     const eintraege eingebaut{{"Fahrer 1", ""}, {"Fahrer 2", ""}};
 };
 
 TEST_F(Namensliste, NamenUndBilderGehenHinUndZurueck) {
     ASSERT_TRUE(laden({"Fahrerliste:", "Jörg", "Anna", "Max", "{pic}", "joerg", "", "max", "{ende}"}));
     EXPECT_EQ(liste.eintraege(), (eintraege{{"Jörg", "joerg"}, {"Anna", ""}, {"Max", "max"}}));
-    EXPECT_EQ(liste.bild_von("Jörg"), "joerg");
-    EXPECT_EQ(liste.bild_von("niemand"), "");
-    liste.bild_zuordnen("Anna");
+    liste.bild_setzen(1, "Anna");
     ASSERT_TRUE(liste.speichern(ablage, "Listen\\neu.lst"));
     EXPECT_EQ(maschine.datei_lesen("Listen/neu.lst"),
               "Fahrerliste:\r\nJ\xF6rg\r\nAnna\r\nMax\r\n{pic}\r\njoerg\r\nAnna\r\nmax\r\n{ende}\r\n");
     EXPECT_TRUE(laden({"Fahrerliste:", "{ende}"}));
     EXPECT_TRUE(liste.eintraege().empty());
+}
+
+TEST_F(Namensliste, BilddateiNurWennSieDaIst) {
+    ASSERT_TRUE(
+        laden({"Fahrerliste:", "Jörg", "Anna", "Max", "Eva", "{pic}", "joerg", "", "..\\..\\max", "eva", "{ende}"}));
+    maschine.datei_schreiben("pictures/joerg.jpg", "x");
+    maschine.datei_schreiben("max.jpg", "x");
+    EXPECT_EQ(liste.bilddatei(ablage, "Jörg"), "pictures/joerg.jpg");
+    for (const char* ohne : {"Anna", "Max", "Eva", "niemand", ""}) {
+        EXPECT_EQ(liste.bilddatei(ablage, ohne), "pictures/nopic.jpg") << ohne;
+    }
+}
+
+TEST_F(Namensliste, BilduebernahmeNachDemNamenDerDatei) {
+    ASSERT_TRUE(laden({"Fahrerliste:", "Anna", "nopic", "Max", "Anna", "{pic}", "alt", "", "", "", "{ende}"}));
+    for (const char* datei : {"Anna.JPG", "nopic.jpg", "max.jpg", "Max.txt", "Max"}) {
+        maschine.datei_schreiben(std::string("pictures/") + datei, "x");
+    }
+    EXPECT_EQ(liste.bilder_uebernehmen(ablage, "nopic"), 2);
+    EXPECT_EQ(liste.eintraege(), (eintraege{{"Anna", "Anna"}, {"nopic", ""}, {"Max", ""}, {"Anna", "Anna"}}));
 }
 
 TEST_F(Namensliste, UnbrauchbareDateiGibtDieEingebautenNamen) {

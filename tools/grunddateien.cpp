@@ -12,10 +12,13 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "grunddateien <Ordner>\n");
         return 2;
     }
-    const tarvel::test::testprogramm t;
+    tarvel::test::testprogramm t;
     const tarvel::dateien ziel{std::filesystem::path(argv[1])};
-    const bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
-                             t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
-                             t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz");
+    bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
+                       t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
+                       t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz");
+    for (const tarvel::sprachliste& sprache : t.p.sprachdateien()) {
+        geschrieben = ziel.zeilen_schreiben(sprache.datei(), sprache.deutsche_datei()) && geschrieben;
+    }
     return geschrieben ? 0 : 1;
 }

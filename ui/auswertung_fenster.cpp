@@ -16,7 +16,7 @@ constexpr double breite_entwurf_px = 1000;
 
 AuswertungFenster::AuswertungFenster(auswertung& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("auswertung", takt, eltern) {
-    setWindowTitle("Auswertung des Rennens");
+    binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(16, 10, 16, 12);
     QLabel* kopf = binder().label(logik.kopf_label, "kopf_label");

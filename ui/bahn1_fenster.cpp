@@ -35,7 +35,7 @@ const char* const knopf_regeln =
 
 Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("bahn1", takt, eltern), logik_(logik) {
-    setWindowTitle("Rennbildschirm");
+    binder().fenstertitel(logik.bahn1.titel);
     auto* grund = new QWidget(this);  // stands for the whole area, takes no room itself
     grund->setAttribute(Qt::WA_TransparentForMouseEvents);
     grund->resize(0, 0);

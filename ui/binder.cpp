@@ -1,5 +1,7 @@
 #include "ui/binder.h"
 
+#include <QImageReader>
+#include <QPixmap>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -22,6 +24,20 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
     if (widget->text() != text) {
         widget->setText(text);
     }
+}
+
+/// The picture as large as fits; null if there is none that can be read.
+QPixmap bild_lesen(const dateien& ablage, const std::string& datei, QSize groesse) {
+    const std::filesystem::path pfad = datei.empty() ? std::filesystem::path() : ablage.pfad(datei);
+    if (pfad.empty()) {
+        return {};
+    }
+    QImageReader leser(QString::fromStdU16String(pfad.u16string()));
+    leser.setDecideFormatFromContent(true);  // a picture keeps its kind when it is copied under another name
+    leser.setAutoTransform(true);
+    const QImage inhalt = leser.read();
+    return inhalt.isNull() ? QPixmap()
+                           : QPixmap::fromImage(inhalt.scaled(groesse, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 /// A field for a single character takes the next one in place of the old, however it got the focus.
@@ -73,6 +89,7 @@ public:
         vorgemerkt_ = false;
         widget_->setEnabled(element_.aktiviert());
         widget_->setVisible(element_.sichtbar());
+        hinweise_nachfuehren();
         if (abgleich_) {
             abgleich_();
         }
@@ -82,6 +99,16 @@ public:
     }
 
 private:
+    void hinweise_nachfuehren() {
+        if (!element_.ansage().empty()) {
+            widget_->setAccessibleName(als_text(element_.ansage()));
+        }
+        const QString tipp = als_text(element_.tipp());
+        if (widget_->toolTip() != tipp) {
+            widget_->setToolTip(tipp);
+        }
+    }
+
     Bildtakt& takt_;
     steuerelement& element_;
     QWidget* widget_;
@@ -118,7 +145,6 @@ QLabel* Binder::label(bezeichnung& element, const QString& name) {
 
 TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double entwurf) {
     auto* widget = new TextAnzeige(eltern_);
-    widget->setAccessibleName(name);
     auto schrift = [this, &element, widget, entwurf] {
         const double einheiten = element.schriftgroesse() > 0 ? element.schriftgroesse() : entwurf;
         widget->setSchriftPx(static_cast<int>(std::lround(einheiten * skala_)));
@@ -134,9 +160,8 @@ TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double
     return widget;
 }
 
-TextAnzeige* Binder::beschriftung(const QString& text, double entwurf) {
+TextAnzeige* Binder::beschriftung(double entwurf) {
     auto* widget = new TextAnzeige(eltern_);
-    widget->setText(text);
     schriften_.emplace_back(
         [this, widget, entwurf] { widget->setSchriftPx(static_cast<int>(std::lround(entwurf * skala_))); });
     return widget;
@@ -161,9 +186,39 @@ void Binder::knopf_verbinden(QPushButton* widget, befehl& element, const QString
     verbinden(element, widget, name, [&element, widget] { text_nachfuehren(widget, element); });
 }
 
-QLineEdit* Binder::zeile(feld& element, const QString& name, const QString& ansage) {
+QGroupBox* Binder::gruppe(rahmen& element, const QString& name) {
+    auto* widget = new QGroupBox(eltern_);
+    verbinden(element, widget, name, [&element, widget] { widget->setTitle(als_text(element.text())); });
+    return widget;
+}
+
+QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse, const dateien& ablage) {
+    auto* widget = new QLabel(eltern_);
+    widget->setFixedSize(groesse);
+    widget->setAlignment(Qt::AlignCenter);
+    struct gezeigt {
+        std::string datei;
+        unsigned auflage = 0;
+    };
+    verbinden(element, widget, name, [&element, widget, groesse, &ablage, alt = gezeigt{"\n"}]() mutable {
+        if (alt.datei == element.datei() && alt.auflage == element.auflage()) {
+            return;
+        }
+        alt = {element.datei(), element.auflage()};
+        QPixmap pixmap = bild_lesen(ablage, element.datei(), groesse);
+        widget->setPixmap(pixmap.isNull() ? bild_lesen(ablage, element.ersatz(), groesse) : pixmap);
+    });
+    return widget;
+}
+
+void Binder::fenstertitel(rahmen& element) {
+    auto* traeger = new QWidget(eltern_);  // stands for the window, takes no room
+    traeger->resize(0, 0);
+    verbinden(element, traeger, "titel", [this, &element] { eltern_->setWindowTitle(als_text(element.text())); });
+}
+
+QLineEdit* Binder::zeile(feld& element, const QString& name) {
     auto* widget = new Eingabezeile(eltern_);
-    widget->setAccessibleName(ansage);
     QObject::connect(widget, &QLineEdit::textEdited, widget,
                      [&element](const QString& text) { element.eingeben(text.toStdString()); });
     verbinden(element, widget, name, [&element, widget] {
@@ -183,9 +238,8 @@ QCheckBox* Binder::kasten(haken& element, const QString& name) {
     return widget;
 }
 
-QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QString& ansage) {
+QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
     auto* widget = new QComboBox(eltern_);
-    widget->setAccessibleName(ansage);
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget->setMinimumContentsLength(6);
     widget->setInsertPolicy(QComboBox::NoInsert);
@@ -225,9 +279,8 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name, const QStr
     return widget;
 }
 
-QListView* Binder::listenfeld(liste& element, const QString& name, const QString& ansage, Qt::Alignment ausrichtung) {
+QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment ausrichtung) {
     auto* widget = new QListView(eltern_);
-    widget->setAccessibleName(ansage);
     widget->setUniformItemSizes(true);
     widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -258,7 +311,6 @@ QListView* Binder::listenfeld(liste& element, const QString& name, const QString
 
 Lampe* Binder::lampe(bild& element, const QString& name, const QColor& farbe) {
     auto* widget = new Lampe(farbe, eltern_);
-    widget->setAccessibleName(name);
     verbinden(element, widget, name, [&element, widget] {
         widget->setLeuchtet(element.sichtbar());
         widget->setVisible(true);  // a lamp that is out is still to be seen

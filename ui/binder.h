@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -10,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/dateien.h"
 #include "core/steuerelemente.h"
 #include "ui/bildtakt.h"
 #include "ui/lampe.h"
@@ -29,15 +31,20 @@ public:
     QLabel* label(bezeichnung& element, const QString& name);
     /// A large display with a font of `entwurf` design units, unless the control names its own.
     TextAnzeige* anzeige(steuerelement& element, const QString& name, double entwurf);
-    /// A display of fixed text that scales with the others.
-    TextAnzeige* beschriftung(const QString& text, double entwurf);
+    /// A display of text that no control of its own stands for; it scales with the others.
+    TextAnzeige* beschriftung(double entwurf);
+    QGroupBox* gruppe(rahmen& element, const QString& name);
+    /// The picture in a frame of this size.
+    QLabel* bildfeld(bild& element, const QString& name, QSize groesse, const dateien& ablage);
+    /// The title of the window.
+    void fenstertitel(rahmen& element);
     QPushButton* knopf(befehl& element, const QString& name);
     /// The command that a window is there for.
     QPushButton* hauptknopf(befehl& element, const QString& name);
-    QLineEdit* zeile(feld& element, const QString& name, const QString& ansage);
+    QLineEdit* zeile(feld& element, const QString& name);
     QCheckBox* kasten(haken& element, const QString& name);
-    QComboBox* auswahlfeld(auswahl& element, const QString& name, const QString& ansage);
-    QListView* listenfeld(liste& element, const QString& name, const QString& ansage,
+    QComboBox* auswahlfeld(auswahl& element, const QString& name);
+    QListView* listenfeld(liste& element, const QString& name,
                           Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter);
     Lampe* lampe(bild& element, const QString& name, const QColor& farbe);
     /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.

@@ -36,21 +36,18 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidge
     platz->setFett(true);
     aufbau->addWidget(platz);
 
-    QWidget* name = zelle(logik.fahrer.at(index_), "fahrer_" + nummer, QString("Spur %1").arg(spur), schrift_name,
-                          binder, &logik.aus_straflabel.at(index_), "aus_straflabel_" + nummer);
-    aufbau->addWidget(name, 5);
-    aufbau->addWidget(zelle(logik.runden_aus.at(index_), "runden_aus_" + nummer, "Runden", schrift_runden, binder,
-                            &logik.ges_meter.at(index_), "ges_meter_" + nummer),
-                      3);
-    aufbau->addWidget(zelle(logik.zeit_aus.at(index_), "zeit_aus_" + nummer, "Gesamtzeit", schrift_wert, binder,
-                            &logik.abstandlabel.at(index_), "abstandlabel_" + nummer),
-                      4);
-    QWidget* beste = zelle(logik.beste_aus.at(index_), "beste_aus_" + nummer, "beste Runde", schrift_wert, binder,
-                           &logik.kmh_label.at(index_), "kmh_label_" + nummer);
-    beste->setToolTip("Geschwindigkeit beste Runde / Durchschnittsgeschwindigkeit");
-    aufbau->addWidget(beste, 5);
+    const std::size_t i = index_;
+    aufbau->addWidget(
+        zelle({logik.Label_spur[i], logik.fahrer[i], logik.aus_straflabel[i], "fahrer", schrift_name}, binder), 5);
+    aufbau->addWidget(
+        zelle({logik.Label_runden[i], logik.runden_aus[i], logik.ges_meter[i], "runden_aus", schrift_runden}, binder),
+        3);
+    aufbau->addWidget(
+        zelle({logik.Label_zeit[i], logik.zeit_aus[i], logik.abstandlabel[i], "zeit_aus", schrift_wert}, binder), 4);
+    aufbau->addWidget(
+        zelle({logik.Label_beste[i], logik.beste_aus[i], logik.kmh_label[i], "beste_aus", schrift_wert}, binder), 5);
 
-    liste_ = binder.listenfeld(logik.liste.at(index_), "liste_" + nummer, QString("Rundenliste Spur %1").arg(spur));
+    liste_ = binder.listenfeld(logik.liste.at(index_), "liste_" + nummer);
     liste_->setMinimumWidth(150);
     liste_->setMinimumHeight(60);
     aufbau->addWidget(liste_, 4);
@@ -64,20 +61,19 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidge
     });
 }
 
-QWidget* Ergebniszeile::zelle(steuerelement& element, const QString& name, const QString& titel, double entwurf,
-                              Binder& binder, steuerelement* zusatz, const QString& zusatz_name) {
+QWidget* Ergebniszeile::zelle(const zelle_inhalt& inhalt, Binder& binder) {
+    const QString nummer = "_" + QString::number(index_);
     auto* feld = new QWidget(this);
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(0);
-    TextAnzeige* kopf = binder.beschriftung(titel, schrift_titel);
+    TextAnzeige* kopf = binder.anzeige(inhalt.titel, "Label_" + inhalt.name + nummer, schrift_titel);
     kopf->setFarbe(stil::schrift_leise);
     kopf->setAusrichtung(links_mitte);
-    TextAnzeige* wert = binder.anzeige(element, name, entwurf);
-    wert->setAccessibleName(titel);
+    TextAnzeige* wert = binder.anzeige(inhalt.wert, inhalt.name + nummer, inhalt.entwurf);
     wert->setAusrichtung(links_mitte);
     wert->setFett(true);
-    TextAnzeige* darunter = binder.anzeige(*zusatz, zusatz_name, schrift_zusatz);
+    TextAnzeige* darunter = binder.anzeige(inhalt.zusatz, inhalt.name + "_zusatz" + nummer, schrift_zusatz);
     darunter->setAusrichtung(links_mitte);
     QSizePolicy platz_halten = darunter->sizePolicy();
     platz_halten.setRetainSizeWhenHidden(true);

@@ -25,8 +25,15 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    QWidget* zelle(steuerelement& element, const QString& name, const QString& titel, double entwurf, Binder& binder,
-                   steuerelement* zusatz = nullptr, const QString& zusatz_name = {});
+    /// One figure of the row with the captions over and under it.
+    struct zelle_inhalt {
+        steuerelement& titel;
+        steuerelement& wert;
+        steuerelement& zusatz;
+        QString name;  ///< of the figure's control
+        double entwurf;
+    };
+    QWidget* zelle(const zelle_inhalt& inhalt, Binder& binder);
 
     auswertung& logik_;
     std::size_t index_;

@@ -11,6 +11,9 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
+constexpr int knopfhoehe = 44;
+constexpr QSize bildgroesse(52, 36);
+const char* const leise = "color: #626a78;";
 
 void schmal(QLineEdit* feld) {
     feld->setFixedWidth(feldbreite);
@@ -24,15 +27,10 @@ void tabfolge(const std::vector<QWidget*>& folge) {
     }
 }
 
-QLabel* spaltenkopf(const QString& text) {
-    auto* kopf = new QLabel(text);
-    kopf->setStyleSheet("color: #626a78;");
-    return kopf;
-}
-
 }  // namespace
 
-Form1Fenster::Form1Fenster(form1& logik, Bildtakt& takt) : Fenster("Form1", takt, nullptr), logik_(logik) {
+Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
+    : Fenster("Form1", takt, nullptr), logik_(logik), ablage_(ablage) {
     setWindowTitle("Tarvel");
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(0, 0, 0, 0);
@@ -40,8 +38,11 @@ Form1Fenster::Form1Fenster(form1& logik, Bildtakt& takt) : Fenster("Form1", takt
 
     auto* kopf = new Streckenbild(this);
     binder().verbinden(logik.startbild, kopf, "startbild", {});
-    kopf->setMinimumHeight(110);
-    kopf->setTitel("Tarvel", "Zeitmessung und Rennleitung für die Modellrennbahn");
+    kopf->setMinimumHeight(84);
+    auto* unterzeile = new QWidget(this);
+    unterzeile->resize(0, 0);  // the picture draws the line itself
+    binder().verbinden(logik.untertitel, unterzeile, "untertitel",
+                       [kopf, &logik] { kopf->setTitel("Tarvel", QString::fromStdString(logik.untertitel.text())); });
     auto* kopf_aufbau = new QHBoxLayout(kopf);
     QLabel* version = binder().label(logik.version_label, "version_label");
     version->setStyleSheet("color: #cdd2dc; background: transparent;");
@@ -53,33 +54,31 @@ Form1Fenster::Form1Fenster(form1& logik, Bildtakt& takt) : Fenster("Form1", takt
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
     inhalt->addWidget(spuren_gruppe(), 3);
-    inhalt->addSpacing(8);
-    inhalt->addWidget(befehlszeile());
+    inhalt->addSpacing(4);
+    inhalt->addWidget(rennbefehle());
+    inhalt->addWidget(werkzeugbefehle());
     inhalt->addWidget(statuszeile());
     aufbau->addLayout(inhalt, 5);
     resize(980, 700);
 }
 
 QWidget* Form1Fenster::rennen_gruppe() {
-    auto* gruppe = new QGroupBox("Rennen");
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_rennen, "Frame_rennen");
     auto* raster = new QGridLayout(gruppe);
     raster->setHorizontalSpacing(8);
     raster->setVerticalSpacing(8);
 
-    QComboBox* art = binder().auswahlfeld(logik_.rennart, "rennart", "Rennart");
+    QComboBox* art = binder().auswahlfeld(logik_.rennart, "rennart");
     art->setMinimumWidth(130);
-    QLineEdit* stunden = binder().zeile(logik_.stddauer, "stddauer", "Renndauer Stunden");
-    QLineEdit* dauer = binder().zeile(logik_.renndauer, "renndauer", "Renndauer Minuten oder Runden");
-    dauer->setToolTip(
-        "Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden.\n"
-        "Im Rundenrennen die Zahl der Runden.");
-    QLineEdit* kuerzeste = binder().zeile(logik_.wertmin, "wertmin", "Kürzeste Rundenzeit in Sekunden");
-    QLineEdit* massstab = binder().zeile(logik_.massstab, "massstab", "Maßstab eins zu");
+    QLineEdit* stunden = binder().zeile(logik_.stddauer, "stddauer");
+    QLineEdit* dauer = binder().zeile(logik_.renndauer, "renndauer");
+    QLineEdit* kuerzeste = binder().zeile(logik_.wertmin, "wertmin");
+    QLineEdit* massstab = binder().zeile(logik_.massstab, "massstab");
     for (QLineEdit* feld : {stunden, dauer, kuerzeste, massstab}) {
         schmal(feld);
     }
 
-    raster->addWidget(new QLabel("Rennart"), 0, 0);
+    raster->addWidget(binder().label(logik_.Label_rennart, "Label_rennart"), 0, 0);
     raster->addWidget(art, 0, 1);
     raster->setColumnMinimumWidth(2, 24);
     raster->addWidget(binder().label(logik_.dauerlabel, "dauerlabel"), 0, 3);
@@ -108,28 +107,40 @@ QWidget* Form1Fenster::rennen_gruppe() {
 }
 
 QWidget* Form1Fenster::spuren_gruppe() {
-    auto* gruppe = new QGroupBox("Spuren");
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_spuren, "Frame_spuren");
     auto* raster = new QGridLayout(gruppe);
     raster->setHorizontalSpacing(10);
-    raster->setVerticalSpacing(4);
-    QLabel* laenge = binder().label(logik_.label_spurlaenge, "label_spurlaenge");
-    laenge->setStyleSheet("color: #626a78;");
-    raster->addWidget(laenge, 0, 2);
-    raster->addWidget(spaltenkopf("Fahrer"), 0, 4);
-    raster->addWidget(spaltenkopf("Fahrzeug"), 0, 5);
+    raster->setVerticalSpacing(3);
+    const auto kopf = [&](bezeichnung& element, const QString& name, int spalte, befehl* knopf = nullptr,
+                          const QString& knopfname = {}) {
+        auto* zelle = new QHBoxLayout;
+        QLabel* titel = binder().label(element, name);
+        titel->setStyleSheet(leise);
+        zelle->addWidget(titel);
+        if (knopf != nullptr) {
+            zelle->addStretch();
+            zelle->addWidget(binder().knopf(*knopf, knopfname));
+        }
+        raster->addLayout(zelle, 0, spalte);
+    };
+    kopf(logik_.label_spurlaenge, "label_spurlaenge", 2);
+    kopf(logik_.Label_meter, "Label_meter", 3);
+    kopf(logik_.Label_fahrer, "Label_fahrer", 5, &logik_.Command13, "Command13");
+    kopf(logik_.Label_auto, "Label_auto", 7, &logik_.Command10, "Command10");
+    kopf(logik_.Label_bestzeit, "Label_bestzeit", 8);
     for (const int spur : alle_spuren) {
         spur_zeile(raster, spur);
         raster->setRowStretch(spur, 1);
     }
-    raster->setColumnStretch(4, 3);
     raster->setColumnStretch(5, 3);
+    raster->setColumnStretch(7, 3);
+    raster->setColumnMinimumWidth(8, 76);
     return gruppe;
 }
 
 void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     const std::size_t i = feld_index(spur);
     const QString nummer = QString::number(i);
-    const QString ansage = QString(" Spur %1").arg(spur);
     auto* fleck = new QLabel(this);
     fleck->setFixedSize(14, 26);
     form& spurfarbe = logik_.spurfarbe.at(i);
@@ -138,55 +149,72 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
                                  .arg(stil::farbe_von(spurfarbe.hintergrund().value_or(0)).name()));
     });
     QCheckBox* kasten = binder().kasten(logik_.spur.at(i), "spur_" + nummer);
-    QLineEdit* laenge = binder().zeile(logik_.lspur.at(i), "lspur_" + nummer, "Spurlänge in Metern," + ansage);
+    QLineEdit* laenge = binder().zeile(logik_.lspur.at(i), "lspur_" + nummer);
     schmal(laenge);
-    QComboBox* fahrer = binder().auswahlfeld(logik_.fahrer.at(i), "fahrer_" + nummer, "Fahrer" + ansage);
-    QComboBox* fahrzeug = binder().auswahlfeld(logik_.auto_.at(i), "auto_" + nummer, "Fahrzeug" + ansage);
-    raster->addWidget(fleck, spur, 0, Qt::AlignVCenter);
-    raster->addWidget(kasten, spur, 1, Qt::AlignVCenter);
-    raster->addWidget(laenge, spur, 2, Qt::AlignVCenter);
-    raster->addWidget(new QLabel("m"), spur, 3, Qt::AlignVCenter);
-    raster->addWidget(fahrer, spur, 4, Qt::AlignVCenter);
-    raster->addWidget(fahrzeug, spur, 5, Qt::AlignVCenter);
+    QComboBox* fahrer = binder().auswahlfeld(logik_.fahrer.at(i), "fahrer_" + nummer);
+    QComboBox* fahrzeug = binder().auswahlfeld(logik_.auto_.at(i), "auto_" + nummer);
+    const std::vector<QWidget*> zeile{
+        fleck,
+        kasten,
+        laenge,
+        nullptr,
+        binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, ablage_),
+        fahrer,
+        binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, ablage_),
+        fahrzeug,
+        binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer)};
+    for (std::size_t spalte = 0; spalte < zeile.size(); ++spalte) {
+        if (zeile[spalte] != nullptr) {
+            raster->addWidget(zeile[spalte], spur, static_cast<int>(spalte), Qt::AlignVCenter);
+        }
+    }
     tabfolge({kasten, laenge, fahrer, fahrzeug});
 }
 
-QWidget* Form1Fenster::befehlszeile() {
+QPushButton* Form1Fenster::hoher_knopf(befehl& element, const QString& name) {
+    QPushButton* knopf = binder().knopf(element, name);
+    knopf->setMinimumHeight(knopfhoehe);
+    return knopf;
+}
+
+QWidget* Form1Fenster::rennbefehle() {
     auto* zeile = new QWidget;
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
-    rennen->setMinimumSize(220, 48);
-    QPushButton* tasten = binder().knopf(logik_.command_tasten, "command_tasten");
-    QPushButton* ende = binder().knopf(logik_.Command2, "Command2");
-    for (QPushButton* knopf : {tasten, ende}) {
-        knopf->setMinimumHeight(48);
-    }
-    ende->setMinimumWidth(110);
-    QPushButton* speichern = binder().knopf(logik_.Command5, "Command5");
-    QPushButton* laden = binder().knopf(logik_.Command7, "Command7");
-    speichern->setToolTip("Einstellungen und die Felder dieses Fensters in eine Datei speichern");
-    laden->setToolTip("Einstellungen und die Felder dieses Fensters aus einer Datei laden");
-    for (QPushButton* knopf : {speichern, laden}) {
-        knopf->setMinimumHeight(48);
-    }
+    rennen->setMinimumSize(220, knopfhoehe);
     aufbau->addWidget(rennen);
-    aufbau->addWidget(speichern);
-    aufbau->addWidget(laden);
-    aufbau->addWidget(tasten);
     aufbau->addStretch();
+    aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
+    aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));
+    aufbau->addWidget(hoher_knopf(logik_.Command12, "Command12"));
+    aufbau->addStretch();
+    QPushButton* ende = hoher_knopf(logik_.Command2, "Command2");
+    ende->setMinimumWidth(110);
     aufbau->addWidget(ende);
+    return zeile;
+}
+
+QWidget* Form1Fenster::werkzeugbefehle() {
+    auto* zeile = new QWidget;
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->addWidget(hoher_knopf(logik_.Command4, "Command4"));
+    aufbau->addWidget(hoher_knopf(logik_.Command8, "Command8"));
+    aufbau->addWidget(hoher_knopf(logik_.Command9, "Command9"));
+    aufbau->addWidget(hoher_knopf(logik_.command_tasten, "command_tasten"));
+    aufbau->addStretch();
+    aufbau->addWidget(hoher_knopf(logik_.Command5, "Command5"));
+    aufbau->addWidget(hoher_knopf(logik_.Command7, "Command7"));
     return zeile;
 }
 
 QWidget* Form1Fenster::statuszeile() {
     auto* zeile = new QWidget;
-    zeile->setStyleSheet("color: #626a78;");
+    zeile->setStyleSheet(leise);
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(2, 0, 2, 0);
-    QLabel* modus = binder().label(logik_.modus_label, "modus_label");
-    modus->setToolTip("Womit gemessen wird. Im Simulationsmodus zählt die Tastatur die Runden.");
-    aufbau->addWidget(modus);
+    aufbau->addWidget(binder().label(logik_.modus_label, "modus_label"));
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label6, "Label6"));
     return zeile;

@@ -10,16 +10,19 @@ namespace tarvel::ui {
 /// The main window.
 class Form1Fenster : public Fenster {
 public:
-    Form1Fenster(form1& logik, Bildtakt& takt);
+    Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt);
 
 private:
     QWidget* rennen_gruppe();
     QWidget* spuren_gruppe();
-    QWidget* befehlszeile();
+    QWidget* rennbefehle();
+    QWidget* werkzeugbefehle();
+    QPushButton* hoher_knopf(befehl& element, const QString& name);
     QWidget* statuszeile();
     void spur_zeile(QGridLayout* raster, int spur);
 
     form1& logik_;
+    const dateien& ablage_;
 };
 
 }  // namespace tarvel::ui

@@ -6,12 +6,13 @@ namespace tarvel::ui {
 
 Oberflaeche::Oberflaeche(programm& p)
     : update_form(p.update_form, takt),
-      form1(p.form1, takt),
+      form1(p.form1, p.ablage, takt),
       form3(p.form3, p.ablage, takt, &form1),
       bahn1(p.rennen, takt, &form1),
       auswertung(p.auswertung, takt, &bahn1),
       tastatur(p.tastaturbelegung, takt, &form1),
-      speichern(p.speichernfenster, takt, &form1),
+      speichern(p.speichernfenster, "speichernfenster", takt, &form1),
+      fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &form1),
       p_(p) {
     fenster.aufnehmen("Update_form", &update_form);
     fenster.aufnehmen("Form1", &form1);
@@ -20,17 +21,20 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
+    fenster.aufnehmen("fahrerspeichernfenster", &fahrerspeichern);
     p.fenster.anzeigen_auf(&fenster);
 
     QCoreApplication::instance()->installEventFilter(&fenster);
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
+    fahrerspeichern.escape_schliesst();
     form1.bei_schliessen = [&p] { p.programm_beenden(); };
     form3.bei_schliessen = [&p] { p.fenster.entladen("Form3"); };
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
     bahn1.bei_schliessen = [&p] { p.rennen.befehle.fenster_schliessen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
+    fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
 }
 

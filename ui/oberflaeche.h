@@ -28,6 +28,7 @@ public:
     AuswertungFenster auswertung;
     TastaturFenster tastatur;
     SpeichernFenster speichern;
+    SpeichernFenster fahrerspeichern;
 
 private:
     programm& p_;

@@ -29,30 +29,27 @@ const QColor leise(190, 195, 203);
 Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) : QWidget(eltern) {
     const std::size_t index = feld_index(spur);
     const QString nummer = QString::number(spur);
-    const QString ansage = QString("Spur %1: ").arg(spur);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setSpacing(0);
 
-    const auto titel = [&](const QString& text) {
-        TextAnzeige* anzeige = binder.beschriftung(text, schrift_titel);
+    const auto titel = [&](bezeichnung& element, const QString& name) {
+        TextAnzeige* anzeige = binder.anzeige(element, name + "_" + nummer, schrift_titel);
         anzeige->setFarbe(leise);
         aufbau->addWidget(anzeige);
     };
     const auto zeigen = [&](steuerelement& element, const QString& name, double entwurf) {
         TextAnzeige* anzeige = binder.anzeige(element, name + "_" + nummer, entwurf);
-        anzeige->setAccessibleName(ansage + name);
         anzeige->setFett(true);
         aufbau->addWidget(anzeige);
     };
     aufbau->addWidget(namenszeile(bahn, spur, binder));
     aufbau->addWidget(kopfzeile(bahn, spur, binder));
     zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
-    titel("letzte Runde");
+    titel(bahn.Label_lrunde[spur], "Label_lrunde");
     zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);
-    titel("beste Runde");
+    titel(bahn.Label_brunde[spur], "Label_brunde");
     zeigen(bahn.brunde[spur], "brunde", schrift_zeit);
-    liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), ansage + "Rundenliste",
-                               Qt::AlignCenter);
+    liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), Qt::AlignCenter);
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setFocusPolicy(Qt::NoFocus);
     liste_->setSelectionMode(QAbstractItemView::NoSelection);
@@ -78,14 +75,12 @@ QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(4);
-    nummer_ = binder.beschriftung(QString::number(spur), schrift_spur);
+    nummer_ = binder.anzeige(bahn.Label_spur[spur], "Label_spur_" + QString::number(spur), schrift_spur);
     nummer_->setMusterText("00");
     nummer_->setFett(true);
     nummer_->setFarbe(Qt::black);
-    nummer_->setToolTip("Spur");
     nummer_->setAutoFillBackground(true);
     TextAnzeige* name = binder.anzeige(bahn.namenslabel[spur], "namenslabel_" + QString::number(spur), schrift_name);
-    name->setAccessibleName(QString("Spur %1: Fahrer").arg(spur));
     name->setFett(true);
     aufbau->addWidget(nummer_, 0, Qt::AlignVCenter);
     aufbau->addWidget(name, 1);
@@ -107,12 +102,11 @@ QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
         aufbau->addWidget(lampe);
     }
     aufbau->addStretch();
-    TextAnzeige* titel = binder.beschriftung("Platz", schrift_titel);
+    TextAnzeige* titel = binder.anzeige(bahn.Label_platz[spur], "Label_platz_" + QString::number(spur), schrift_titel);
     titel->setMusterText("Platz");
     titel->setFarbe(leise);
     aufbau->addWidget(titel);
     TextAnzeige* platz = binder.anzeige(bahn.l_PosAnz.at(index), "l_PosAnz_" + nummer, schrift_platz);
-    platz->setAccessibleName(QString("Spur %1: Platz").arg(spur));
     platz->setMusterText("0");
     platz->setFett(true);
     aufbau->addWidget(platz);

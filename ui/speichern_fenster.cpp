@@ -5,8 +5,8 @@
 
 namespace tarvel::ui {
 
-SpeichernFenster::SpeichernFenster(speichernfenster& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("speichernfenster", takt, eltern) {
+SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name, Bildtakt& takt, QWidget* eltern)
+    : Fenster(name, takt, eltern) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(16, 12, 16, 12);
     aufbau->setSpacing(8);
@@ -14,14 +14,13 @@ SpeichernFenster::SpeichernFenster(speichernfenster& logik, Bildtakt& takt, QWid
     auto* kopf_aufbau = new QHBoxLayout(kopf);
     kopf_aufbau->setContentsMargins(0, 0, 0, 0);
     kopf_aufbau->addWidget(binder().label(logik.ueberschrift, "ueberschrift"));
-    binder().verbinden(logik.titel, kopf, "titel",
-                       [this, &logik] { setWindowTitle(QString::fromStdString(logik.titel.text())); });
-    QLineEdit* name = binder().zeile(logik.name, "name", "Dateiname");
-    QListView* liste = binder().listenfeld(logik.dateiliste, "dateiliste", "Vorhandene Dateien");
+    binder().fenstertitel(logik.titel);
+    QLineEdit* dateiname = binder().zeile(logik.name, "name");
+    QListView* liste = binder().listenfeld(logik.dateiliste, "dateiliste");
     QPushButton* ausfuehren = binder().hauptknopf(logik.Command1, "Command1");
-    QObject::connect(name, &QLineEdit::returnPressed, ausfuehren, [&logik] { logik.Command1.klicken(); });
+    QObject::connect(dateiname, &QLineEdit::returnPressed, ausfuehren, [&logik] { logik.Command1.klicken(); });
     aufbau->addWidget(kopf);
-    aufbau->addWidget(name);
+    aufbau->addWidget(dateiname);
     aufbau->addWidget(liste, 1);
     aufbau->addWidget(binder().kasten(logik.alle_dateien, "alle_dateien"));
     auto* knoepfe = new QHBoxLayout;

@@ -11,12 +11,10 @@ namespace tarvel::ui {
 
 TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("Tastaturbelegung", takt, eltern), logik_(logik) {
-    setWindowTitle("Tastaturbelegung");
+    binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(16, 8, 16, 12);
-    auto* hinweis = new QLabel(
-        "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld "
-        "hat keine Taste.");
+    QLabel* hinweis = binder().label(logik.hinweis, "hinweis");
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
     auto* rollen = new QScrollArea;
@@ -38,24 +36,21 @@ TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidge
 }
 
 QGroupBox* TastaturFenster::gruppe(int spur) {
-    rahmen& rahmen_element = logik_.Frame.at(static_cast<std::size_t>(spur));
-    auto* kasten = new QGroupBox;
+    QGroupBox* kasten =
+        binder().gruppe(logik_.Frame.at(static_cast<std::size_t>(spur)), "Frame_" + QString::number(spur));
     auto* raster = new QGridLayout(kasten);
     raster->setVerticalSpacing(4);
-    binder().verbinden(rahmen_element, kasten, "Frame_" + QString::number(spur),
-                       [&rahmen_element, kasten] { kasten->setTitle(QString::fromStdString(rahmen_element.text())); });
     int platz = 0;
     for (const tastenzeile& zeile : tastenzeilen()) {
         if (zeile.spur != spur) {
             continue;
         }
-        const QString name = QString::fromUtf8(zeile.name.data(), static_cast<qsizetype>(zeile.name.size()));
-        const QString ansage = spur > 0 ? QString("%1 Spur %2").arg(name).arg(spur) : name;
-        QLineEdit* feld = binder().zeile(logik_.taste.at(static_cast<std::size_t>(zeile.zeile)),
-                                         "taste_" + QString::number(zeile.zeile), ansage);
+        const auto nummer = static_cast<std::size_t>(zeile.zeile);
+        const QString ziffer = QString::number(zeile.zeile);
+        QLineEdit* feld = binder().zeile(logik_.taste.at(nummer), "taste_" + ziffer);
         feld->setFixedWidth(46);
         feld->setAlignment(Qt::AlignCenter);
-        raster->addWidget(new QLabel(name), platz, 0);
+        raster->addWidget(binder().label(logik_.Label.at(nummer), "Label_" + ziffer), platz, 0);
         raster->addWidget(feld, platz, 1);
         ++platz;
     }

@@ -19,7 +19,7 @@ Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, double entwurf, Binder& 
     auto* gestapelt = new QVBoxLayout(this);
     gestapelt->setContentsMargins(0, 0, 0, 0);
     gestapelt->setSpacing(0);
-    TextAnzeige* titel = binder.beschriftung({}, schrift_titel);
+    TextAnzeige* titel = binder.beschriftung(schrift_titel);
     gestapelt->addWidget(titel);
     auto* aufbau = new QHBoxLayout;
     aufbau->setSpacing(0);

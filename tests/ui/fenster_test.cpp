@@ -136,6 +136,7 @@ TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
 
 TEST_F(Oberflaeche, JedesFeldHatNamenUndAnsage) {
     for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.tastatur)}) {
+        t.p.fenster.zeigen(fenster->objectName().toStdString());
         for (const QLineEdit* zeile : fenster->findChildren<QLineEdit*>()) {
             if (zeile->window() == fenster && qobject_cast<QComboBox*>(zeile->parentWidget()) == nullptr) {
                 EXPECT_FALSE(zeile->accessibleName().isEmpty()) << zeile->objectName().toStdString();

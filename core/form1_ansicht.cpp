@@ -1,0 +1,146 @@
+#include <string>
+
+#include "core/form1.h"
+#include "core/text.h"
+
+namespace tarvel {
+
+sprachliste form1::sprache_m2() {
+    sprachliste texte("language/language_m2.txt");
+    texte.ueberschrift("Hauptfenster").ueberschrift("Form1");
+    texte.text("Spur/Auto", [this](const std::string& wort) {
+        wort_spur_ = wort;
+        for (const int nummer : alle_spuren) {
+            spur[feld_index(nummer)].text(wort + " " + std::to_string(nummer));
+        }
+    });
+    texte.text("Spurlänge", label_spurlaenge).text("Bestzeit", Label_bestzeit).text("Bahnstrom", Label7);
+    texte.text("Einstellungsdatei: ", wort_einstellungsdatei_).text("Maßstab 1/", Label2).text("Stunden", Label8);
+    texte.text("Minuten", wort_minuten_).ueberschrift("Zeit").text("Runden", wort_runden_);
+    texte.text("Rundenzeiten kleiner", Label9).text("sec verwerfen", Label10).text("Tankfunktion", t_aktiv);
+    texte.text("Renndauer", dauerlabel).text("Einzelrennen", Command1).text("Ende", Command2);
+    texte.text("Einstellungen", Command4).text("Speichern", Command5).text("EIN", Command6).text("Laden", Command7);
+    texte.text("Fahrer", Command8).text("Fahrzeuge", Command9).text("Bildübernahme", Command10);
+    texte.text("AUS", Command12).text("Bildübernahme", Command13).text("Tastaturbelegung", command_tasten);
+    texte.text("Zeitmessung und Rennleitung für die Modellrennbahn", untertitel);
+    texte.text("Rennen", Frame_rennen).text("Spuren", Frame_spuren).text("Rennart", Label_rennart);
+    texte.text("m", Label_meter).text("Fahrer", Label_fahrer).text("Fahrzeug", Label_auto);
+    texte.tipp(
+        "Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden. Im Rundenrennen die Zahl der Runden.",
+        renndauer);
+    texte.tipp("Einstellungen und die Felder dieses Fensters in eine Datei speichern", Command5);
+    texte.tipp("Einstellungen und die Felder dieses Fensters aus einer Datei laden", Command7);
+    texte.tipp("Womit gemessen wird. Im Simulationsmodus zählt die Tastatur die Runden.", modus_label);
+    texte.tipp("Fahrzeugbilder aus dem Ordner slotcars den Fahrzeugen gleichen Namens zuordnen", Command10);
+    texte.tipp("Fahrerbilder aus dem Ordner pictures den Fahrern gleichen Namens zuordnen", Command13);
+    texte.tipp("Bahnstrom einschalten", Command6).tipp("Bahnstrom ausschalten", Command12);
+    texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
+    return texte.text("Bilder wurden zugeordnet.", wort_bilder_);
+}
+
+void form1::ansagen_setzen() {
+    rennart.ansage(Label_rennart.text());
+    stddauer.ansage(dauerlabel.text() + " " + Label8.text());
+    renndauer.ansage(dauerlabel.text() + " " + wort_minuten_ + "/" + wort_runden_);
+    wertmin.ansage(Label9.text() + " " + Label10.text());
+    massstab.ansage(Label2.text());
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        const std::string auf_spur = ", " + spur[i].text();
+        lspur[i].ansage(label_spurlaenge.text() + auf_spur);
+        fahrer[i].ansage(Label_fahrer.text() + auf_spur);
+        auto_[i].ansage(Label_auto.text() + auf_spur);
+        Label_fahrzeug[i].ansage(Label_bestzeit.text() + auf_spur);
+    }
+}
+
+void form1::laden() {
+    version_label.text("V " + std::string(programm_version));
+    sprache_m2().anwenden(um_.ablage);
+    ansagen_setzen();
+    t_aktiv.sichtbar(false);
+    rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
+    for (bezeichnung& bestzeit : Label_fahrzeug) {
+        bestzeit.text("–");
+    }
+    farben_einstellen();
+    rennart_geaendert();
+    timer1_->an();
+}
+
+void form1::listen_zeigen() {
+    const auto mit_standard = [](const std::string& standard, const namensliste& liste) {
+        std::vector<std::string> namen{standard};
+        for (const listeneintrag& eintrag : liste.eintraege()) {
+            namen.push_back(eintrag.name);
+        }
+        return namen;
+    };
+    const auto fahrernamen = mit_standard(um_.txt.kein_fahrer, um_.fahrerliste);
+    const auto fahrzeugnamen = mit_standard(um_.txt.standardfahrzeug_text, um_.fahrzeugliste);
+    for (std::size_t i = 0; i < fahrer.size(); ++i) {
+        fahrer.at(i).eintraege(fahrernamen);
+        auto_.at(i).eintraege(fahrzeugnamen);
+    }
+}
+
+void form1::fahrerbild_laden(const std::string& name, int nummer) {
+    bild& anzeige = fahrerbild.at(feld_index(nummer));
+    const namensliste::art& art = um_.fahrerliste.listenart();
+    anzeige.ersatz(art.bildordner + "/" + art.standardbild);
+    anzeige.datei(um_.fahrerliste.bilddatei(um_.ablage, name));
+}
+
+void form1::autobild_anzeigen(int nummer) {
+    bild& anzeige = autobild.at(feld_index(nummer));
+    const namensliste::art& art = um_.fahrzeugliste.listenart();
+    anzeige.sichtbar(um_.einst.fahrzeugbild_an);
+    anzeige.ersatz(art.bildordner + "/" + art.standardbild);
+    anzeige.datei(um_.fahrzeugliste.bilddatei(um_.ablage, auto_.at(feld_index(nummer)).text()));
+}
+
+void form1::bilder_anzeigen() {
+    for (const int nummer : alle_spuren) {
+        fahrerbild_laden(fahrer[feld_index(nummer)].text(), nummer);
+        autobild_anzeigen(nummer);
+        fahrerbild[feld_index(nummer)].neu_laden();
+        autobild[feld_index(nummer)].neu_laden();
+    }
+}
+
+void form1::fahrer_Change(int nummer) {
+    fahrerbild_laden(fahrer[feld_index(nummer)].text(), nummer);
+}
+
+void form1::farben_einstellen() {
+    for (const int nummer : alle_spuren) {
+        spurfarbe.at(feld_index(nummer)).hintergrund(um_.einst.farben_spur[nummer]);
+    }
+}
+
+void form1::spuren_nach_laden() {
+    for (std::size_t i = 0; i < spur.size(); ++i) {
+        const bool offen = i < 4 || spur[i].gesetzt();
+        lspur[i].aktiviert(offen);
+        fahrer[i].aktiviert(offen);
+        auto_[i].aktiviert(offen);
+    }
+}
+
+void form1::modus_anzeigen() {
+    const messhardware& hardware = um_.einst.hardware;
+    const std::array<bool, 8> in_kraft{hardware.hw_simulation, hardware.hw_iow,           hardware.hw_race_control,
+                                       hardware.hw_lpt,        hardware.hw_4x4_modus > 3, hardware.hw_timekeeper,
+                                       hardware.hw_cu,         hardware.hw_uart};
+    std::size_t modus = 0;  // the keyboard alone, unless a device is in force beside its flag
+    for (std::size_t i = 1; i < in_kraft.size() && modus == 0; ++i) {
+        modus = in_kraft[i] ? i : 0;
+    }
+    modus_label.text(um_.txt.hardware_name[modus]);
+}
+
+void form1::einstellungsname_anzeigen(std::string_view name) {
+    Label6.text(wort_einstellungsdatei_ + std::string(name));
+}
+
+}  // namespace tarvel

@@ -1,0 +1,98 @@
+#include "core/sprache.h"
+
+#include <gtest/gtest.h>
+
+#include "core/felder.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using zeilen = std::vector<std::string>;
+
+class Sprache : public testing::Test {
+protected:
+    /// A program that finds these lines in one file of the language folder.
+    programm& mit_datei(const std::string& name, const zeilen& inhalt) {
+        EXPECT_TRUE(ablage.zeilen_schreiben("language/" + name, inhalt));
+        p = std::make_unique<programm>(maschine.dienste());
+        p->starten();
+        return *p;
+    }
+
+    test::test_plattform maschine;
+    dateien ablage{maschine.ordner()};
+    std::unique_ptr<programm> p;
+};
+
+TEST_F(Sprache, MitgelieferteDateienUndLeserPassenZusammen) {
+    test::testprogramm t;
+    const dateien mitgeliefert{std::filesystem::path(TARVEL_QUELLEN) / "data"};
+    for (const sprachliste& sprache : t.p.sprachdateien()) {
+        EXPECT_EQ(mitgeliefert.zeilen_lesen(sprache.datei(), 10000), sprache.deutsche_datei())
+            << sprache.datei() << ": run tools/grunddateien";
+    }
+}
+
+TEST_F(Sprache, FelderMitUndOhneAnfuehrungszeichen) {
+    ASSERT_TRUE(ablage.zeilen_schreiben("f.txt", {"\"a, b\" , c,,  d ", "", "\"offen", "e"}));
+    EXPECT_EQ(felder_lesen(ablage, "f.txt", 10), (zeilen{"a, b", "c", "", "d", "", "offen", "e"}));
+    EXPECT_EQ(felder_lesen(ablage, "f.txt", 2), (zeilen{"a, b", "c"}));
+    EXPECT_EQ(felder_lesen(ablage, "fehlt.txt", 2), std::nullopt);
+    EXPECT_EQ(als_feld("sag \"ja\""), "\"sag 'ja'\"");
+}
+
+TEST_F(Sprache, KurzeDateiLaesstDenRestDeutsch) {
+    zeilen inhalt{"heading", "Standard car", "Driver", "Time", "Laps", "Note", ""};
+    inhalt.emplace_back("message one");
+    const programm& kurz = mit_datei("language_m1.txt", inhalt);
+    EXPECT_EQ(kurz.txt.titel[0], "Note");
+    EXPECT_EQ(kurz.txt.titel[1], "") << "an empty line is an empty text";
+    EXPECT_EQ(kurz.txt.meldung[1], "message one");
+    EXPECT_EQ(kurz.txt.meldung[2], "Fehler beim Schreiben der Datei. Die Fahrzeugliste wurde nicht gespeichert.");
+    EXPECT_EQ(kurz.fahrerliste.eintraege().at(5).name, "Driver 6");
+    EXPECT_EQ(kurz.form1.fahrer[0].text(), "Driver 1");
+}
+
+TEST_F(Sprache, UebersetzteRennartAendertWederDateiNochRennen) {
+    programm& uebersetzt = mit_datei("language_m1.txt", {"", "Car", "Driver", "Time", "Laps"});
+    uebersetzt.form1.rennart.eingeben("Laps");
+    uebersetzt.form1.renndauer.eingeben("12");
+    const zeilen datei = uebersetzt.datei.schreiben();
+    EXPECT_EQ(datei.at(30), "3");
+    ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/einstellungen.ini", datei));
+    programm neu(maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(neu.form1.rennart.text(), "Laps");
+    EXPECT_FALSE(neu.form1.stddauer.aktiviert());
+    neu.form1.Command1.klicken();
+    EXPECT_EQ(neu.rennen.bahn1.ziel_label.text(), "12 Laps");
+}
+
+TEST_F(Sprache, HauptfensterNimmtSeineTexteDerReiheNach) {
+    const programm& englisch = mit_datei(
+        "language_m2.txt", {"x", "\"y\"", "Lane", "Length", "Best", "Power", "\"Settings file: \"", "Scale 1/"});
+    EXPECT_EQ(englisch.form1.spur[3].text(), "Lane 4");
+    EXPECT_EQ(englisch.form1.label_spurlaenge.text(), "Length");
+    EXPECT_EQ(englisch.form1.Label6.text(), "Settings file: einstellungen.ini");
+    EXPECT_EQ(englisch.form1.Label2.text(), "Scale 1/");
+    EXPECT_EQ(englisch.form1.Label8.text(), "Stunden");
+    EXPECT_EQ(englisch.form1.fahrer[1].ansage(), "Fahrer, Lane 2");
+}
+
+TEST_F(Sprache, EreignisnamenStehenRueckwaertsInDerDatei) {
+    zeilen inhalt;
+    for (int zeile = 1; zeile <= 59; ++zeile) {
+        inhalt.push_back("n" + std::to_string(zeile));
+    }
+    ASSERT_TRUE(ablage.zeilen_schreiben("language/language_e_usb2.txt", inhalt));
+    texte txt;
+    txt.sprache_usb2_laden(ablage);
+    EXPECT_EQ(txt.ereignis_name[52], "n1");
+    EXPECT_EQ(txt.ereignis_name[0], "n53");
+    EXPECT_EQ(txt.ereignis_name[53], "Zwischenzeit 2, Spur 6");
+    EXPECT_EQ(txt.ereignis_name[59], "Chaostaster Fahrer 6");
+}
+
+}  // namespace
+}  // namespace tarvel
