@@ -6,6 +6,7 @@
 #include <iterator>
 #include <system_error>
 
+#include "core/ordnerblick.h"
 #include "core/text.h"
 
 namespace fs = std::filesystem;
@@ -18,37 +19,16 @@ constexpr const char* neben_endung = ".tarvel-neu";
 constexpr std::size_t zeile_max = 4000;
 constexpr std::uintmax_t datei_max = std::uintmax_t{16} * 1024 * 1024;  // far above any file of the program
 
-fs::path aus_utf8(std::string_view text) {
-    return {std::u8string(text.begin(), text.end())};
-}
-
-/// Empty for a name that cannot be told in UTF-8.
-std::string als_utf8(const fs::path& pfad) {
-    try {
-        const std::u8string text = pfad.u8string();
-        return {text.begin(), text.end()};
-    } catch (const std::system_error&) {
-        return {};
-    }
-}
-
-/// Folders from Windows hold upper-case names too.
-bool gleich_ohne_gross_klein(std::string_view a, std::string_view b) {
-    const auto klein = [](char zeichen) { return zeichen >= 'A' && zeichen <= 'Z' ? zeichen + 32 : zeichen; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return klein(x) == klein(y); });
-}
-
 }  // namespace
 
 fs::path dateien::pfad(std::string_view name) const {
     std::string text(name);
     std::replace(text.begin(), text.end(), '\\', '/');
-    fs::path ziel;
-    try {
-        ziel = aus_utf8(text).lexically_normal();
-    } catch (const std::system_error&) {
+    const fs::path roh = pfad_aus_utf8(text);
+    if (roh.empty() && !text.empty()) {
         return {};
     }
+    const fs::path ziel = roh.lexically_normal();
     if (ziel.is_absolute() || ziel.has_root_path() || (!ziel.empty() && *ziel.begin() == "..")) {
         return {};
     }
@@ -142,6 +122,29 @@ bool dateien::kopieren(std::string_view alt, std::string_view neu) const {
            !fehler;
 }
 
+bool dateien::hereinkopieren(const fs::path& quelle, std::string_view neu) const {
+    const fs::path nach = pfad(neu);
+    std::error_code fehler;
+    if (nach.empty() || !fs::is_regular_file(quelle, fehler) || fs::file_size(quelle, fehler) > datei_max || fehler) {
+        return false;
+    }
+    if (fs::equivalent(quelle, nach, fehler)) {
+        return true;
+    }
+    fs::create_directories(nach.parent_path(), fehler);
+    fs::path daneben = nach;
+    daneben += neben_endung;
+    std::error_code misslungen;
+    fs::copy_file(quelle, daneben, fs::copy_options::overwrite_existing, misslungen);
+    if (!misslungen) {
+        fs::rename(daneben, nach, misslungen);
+    }
+    if (misslungen) {
+        fs::remove(daneben, fehler);
+    }
+    return !misslungen;
+}
+
 bool dateien::loeschen(std::string_view name) const {
     const fs::path datei = pfad(name);
     std::error_code fehler;
@@ -159,10 +162,9 @@ std::vector<std::string> dateien::auflisten(std::string_view ordner, std::string
     for (fs::directory_iterator eintrag(ort, fehler), schluss; !fehler && eintrag != schluss;
          eintrag.increment(fehler)) {
         std::error_code egal;
-        std::string name = als_utf8(eintrag->path().filename());
+        std::string name = pfad_als_utf8(eintrag->path().filename());
         if (eintrag->is_regular_file(egal) && name.size() >= anfang.size() + ende.size() &&
-            gleich_ohne_gross_klein(std::string_view(name).substr(0, anfang.size()), anfang) &&
-            gleich_ohne_gross_klein(std::string_view(name).substr(name.size() - ende.size()), ende)) {
+            endet_auf(std::string_view(name).substr(0, anfang.size()), anfang) && endet_auf(name, ende)) {
             namen.push_back(std::move(name));
         }
     }

@@ -34,6 +34,8 @@ public:
     bool umbenennen(std::string_view alt, std::string_view neu) const;
     bool kopieren(std::string_view alt, std::string_view neu) const;
     bool loeschen(std::string_view name) const;
+    /// Copies a file from anywhere on the machine, of at most 16 MB; the old file of the name is whole until then.
+    bool hereinkopieren(const std::filesystem::path& quelle, std::string_view neu) const;
 
     /// Names (without folder) of the files in `ordner` that begin and end as given, in upper or lower case, in the
     /// order of their names.

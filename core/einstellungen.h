@@ -19,8 +19,14 @@ struct messhardware {
     bool hw_lpt = false;
     int hw_4x4_modus = 3;  ///< 3 off, above 3 on
     bool hw_timekeeper = false;
+    int tk_spurmodus = 0;  ///< track mode of the Timekeeper, index in `texte::modus_name`
     bool hw_cu = false;
     bool hw_uart = false;
+
+    /// Index in `texte::hardware_name` of the device in force; 0 is the keyboard alone.
+    int modus() const;
+    /// The keyboard counts as the hardware while none of the devices does that has no keyboard beside it.
+    void simulation_ableiten();
 };
 
 /// What the operator sets for all races. Its defaults stand in the table of the settings file.
@@ -141,7 +147,12 @@ struct einstellungen {
     std::string sound_ordner;
     std::array<std::string, sounds_max + 1> sound_dateien;  ///< index 1 to 64, empty for no sound
 
-    trennzeichen_tabelle trennzeichen{":", ",", ";"};  ///< kept in a file of their own
+    /// Brings the values up to date that follow from others; none of them stands in a file.
+    void folgen_ableiten();
+    int ampel_takt = 1500;                ///< ms per step of the start light
+    spuren<std::string> cu_reglerbefehl;  ///< command for the controller of each lane
+
+    trennzeichen_tabelle trennzeichen = trennzeichen_standard;  ///< kept in a file of their own
 };
 
 }  // namespace tarvel

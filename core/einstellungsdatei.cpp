@@ -89,6 +89,7 @@ void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
     hardware_folgen(modus_4x4_start);
     wechselschema_uebernehmen();
     cu_spuren_uebernehmen();
+    einst.folgen_ableiten();
     um_.ziel.haupt.spuren_nach_laden();
 }
 
@@ -98,8 +99,7 @@ void einstellungsdatei::hardware_folgen(int modus_4x4_start) {
         hardware.hw_iow = hardware.hw_race_control = hardware.hw_lpt = hardware.hw_timekeeper = false;
         hardware.hw_4x4_modus = modus_4x4_start;
     }
-    hardware.hw_simulation = !hardware.hw_iow && !hardware.hw_race_control && !hardware.hw_lpt &&
-                             !hardware.hw_timekeeper && hardware.hw_4x4_modus < 4;
+    hardware.simulation_ableiten();
 }
 
 void einstellungsdatei::wechselschema_uebernehmen() {

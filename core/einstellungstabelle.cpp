@@ -26,21 +26,6 @@ private:
     std::vector<einstellungszeile> zeilen_;
 };
 
-/// An element of an array of the record.
-template <class T, std::size_t N>
-zugriff<T> element(std::array<T, N> e::*feld, std::size_t index) {
-    return [feld, index](const ziel& a) -> T& { return (a.einst.*feld).at(index); };
-}
-
-template <class T>
-zugriff<T> je_spur(spuren<T> e::*feld, int spur) {
-    return [feld, spur](const ziel& a) -> T& { return (a.einst.*feld)[spur]; };
-}
-
-zugriff<bool> hardware(bool messhardware::*feld) {
-    return [feld](const ziel& a) -> bool& { return a.einst.hardware.*feld; };
-}
-
 template <class T>
 zugriff<steuerelement> haupt(T form1::*feld) {
     return [feld](const ziel& a) -> steuerelement& { return a.haupt.*feld; };

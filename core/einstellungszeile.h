@@ -5,18 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/einstellungen.h"
-#include "core/form1.h"
-#include "core/texte.h"
+#include "core/einstellungszugriff.h"
 
 namespace tarvel {
-
-/// What a settings file fills and is written from: the record, and the fields of the main window.
-struct einstellungs_ziel {
-    einstellungen& einst;
-    form1& haupt;
-    const texte& txt;
-};
 
 /// The lines of a settings file by their number Z; line 0 is the header.
 using einstellungs_zeilen = std::vector<std::string>;
@@ -38,15 +29,6 @@ struct einstellungszeile {
     /// Sets the default directly where taking the line over could not.
     std::function<void(const einstellungs_ziel&)> standard_setzen = {};
 };
-
-template <class T>
-using zugriff = std::function<T&(const einstellungs_ziel&)>;
-
-/// A value of the record.
-template <class T>
-zugriff<T> wert(T einstellungen::*feld) {
-    return [feld](const einstellungs_ziel& ziel) -> T& { return ziel.einst.*feld; };
-}
 
 namespace pruefung {
 

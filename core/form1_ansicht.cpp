@@ -128,15 +128,12 @@ void form1::spuren_nach_laden() {
 }
 
 void form1::modus_anzeigen() {
-    const messhardware& hardware = um_.einst.hardware;
-    const std::array<bool, 8> in_kraft{hardware.hw_simulation, hardware.hw_iow,           hardware.hw_race_control,
-                                       hardware.hw_lpt,        hardware.hw_4x4_modus > 3, hardware.hw_timekeeper,
-                                       hardware.hw_cu,         hardware.hw_uart};
-    std::size_t modus = 0;  // the keyboard alone, unless a device is in force beside its flag
-    for (std::size_t i = 1; i < in_kraft.size() && modus == 0; ++i) {
-        modus = in_kraft[i] ? i : 0;
+    const int modus = um_.einst.hardware.modus();
+    std::string status = um_.txt.hardware_name.at(static_cast<std::size_t>(modus));
+    if (um_.einst.hardware.hw_timekeeper) {
+        status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
     }
-    modus_label.text(um_.txt.hardware_name[modus]);
+    modus_label.text(status);
 }
 
 void form1::einstellungsname_anzeigen(std::string_view name) {

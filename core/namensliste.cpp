@@ -58,6 +58,10 @@ bool namensliste::speichern(const dateien& ablage, std::string_view datei) const
     return ablage.zeilen_schreiben(datei, zeilen);
 }
 
+bool namensliste::ist_marke(std::string_view name) {
+    return name == bild_marke || name == ende_marke;
+}
+
 void namensliste::hinzufuegen(std::string_view name) {
     if (!voll()) {
         eintraege_.push_back({std::string(name), ""});

@@ -39,6 +39,9 @@ public:
     /// Writes up to the first entry without a name.
     bool speichern(const dateien& ablage, std::string_view datei) const;
 
+    /// The text is one of the marks that divide a list file, and so can be no name.
+    static bool ist_marke(std::string_view name);
+
     const art& listenart() const { return art_; }
     const std::vector<listeneintrag>& eintraege() const { return eintraege_; }
     bool voll() const { return eintraege_.size() >= namen_max; }

@@ -71,6 +71,32 @@ void auswahl::eingeben(std::string_view neu) {
     }
 }
 
+int auswahl::platz() const {
+    const auto an = [this](int i) { return eintraege_.at(static_cast<std::size_t>(i)); };
+    const int anzahl = static_cast<int>(eintraege_.size());
+    if (platz_ >= 0 && platz_ < anzahl && an(platz_) == text()) {
+        return platz_;
+    }
+    const auto gefunden = std::find(eintraege_.begin(), eintraege_.end(), text());
+    return gefunden == eintraege_.end() ? -1 : static_cast<int>(gefunden - eintraege_.begin());
+}
+
+void auswahl::platz(int neu) {
+    const bool gibt_es = neu >= 0 && neu < static_cast<int>(eintraege_.size());
+    platz_ = gibt_es ? neu : -1;
+    text(gibt_es ? eintraege_.at(static_cast<std::size_t>(neu)) : std::string());
+}
+
+void auswahl::waehlen(int neu) {
+    if (!bedienbar() || neu < 0 || neu >= static_cast<int>(eintraege_.size()) || neu == platz()) {
+        return;
+    }
+    platz(neu);
+    if (bei_aenderung) {
+        bei_aenderung();
+    }
+}
+
 void liste::hinzufuegen(std::string_view zeile) {
     zeilen_.emplace_back(zeile);
     melden();

@@ -163,8 +163,16 @@ public:
     void frei(bool neu) { setzen(frei_, neu); }
     void eingeben(std::string_view neu) override;
 
+    /// Chosen entry from 0, also where two entries read the same; -1 for a text that is no entry.
+    int platz() const;
+    /// A place without an entry chooses nothing.
+    void platz(int neu);
+    /// The operator chooses the entry.
+    void waehlen(int neu);
+
 private:
     std::vector<std::string> eintraege_;
+    int platz_ = -1;
     bool frei_ = false;
 };
 

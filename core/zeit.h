@@ -20,6 +20,7 @@ zeit_teile zeit_zerlegen(zeit_ms zeit);
 
 /// 0: between hours, minutes and seconds; 1: between seconds and thousandths; 2: between the columns of result files.
 using trennzeichen_tabelle = std::array<std::string, 3>;
+inline const trennzeichen_tabelle trennzeichen_standard{":", ",", ";"};
 
 /// Long: minutes, seconds, thousandths ("01:23,456"), hours dropped. Short: seconds and thousandths only ("23,456"), so
 /// a lap of 65 s shows as "05,000". Negative durations count as 0.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dienste.h"
+#include "platform_qt/qt_klang.h"
 #include "platform_qt/qt_meldungen.h"
 #include "platform_qt/qt_prozess.h"
 #include "platform_qt/qt_zeitgeber.h"
@@ -22,12 +23,6 @@ public:
     plattform::groesse_px groesse() const override;
 };
 
-/// No sound files belong to the program yet, so there is nothing to play.
-class StummerKlang final : public plattform::klang {
-public:
-    void spielen(std::string_view /*datei*/) override {}
-};
-
 /// The machine as Qt and the operating system give it. Needs a running QApplication.
 class QtDienste {
 public:
@@ -38,11 +33,11 @@ private:
     QtUhr uhr_;
     QtZeitgeberDienst zeitgeber_{uhr_};
     QtMeldungen meldungen_;
-    StummerKlang klang_;
     QtKalender kalender_;
     QtBildschirm bildschirm_;
     QtProzess prozess_;
     std::filesystem::path ordner_;
+    QtKlang klang_{ordner_};
 };
 
 }  // namespace tarvel::qt

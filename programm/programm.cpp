@@ -40,7 +40,17 @@ programm::programm(const plattform::dienste& d)
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
-                             "language\\language_s2.txt") {
+                             "language\\language_s2.txt"),
+      fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
+      einstellungsfenster(
+          {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
+          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
+    hauptfenster_verbinden();
+    optionen_verbinden();
+    fenster_anmelden();
+}
+
+void programm::hauptfenster_verbinden() {
     form1.einstellungen_speichern = [this] { speichern_oeffnen(); };
     form1.einstellungen_laden = [this] { laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
@@ -57,7 +67,28 @@ programm::programm(const plattform::dienste& d)
     form1.fahrzeugbilder_uebernehmen = [this] {
         bilder_uebernehmen(fahrzeugliste, "Listen\\" + fahrzeug_datei, 2, "");
     };
-    fenster_anmelden();
+    using f = tarvel::einstellungsfenster;
+    form1.einstellungen_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_start_ziel); };
+    form1.fahrer_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrer); };
+    form1.fahrzeuge_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrzeuge); };
+}
+
+void programm::optionen_verbinden() {
+    einstellungsfenster.einstellungen_speichern = [this] {
+        einstellungen_speichern("Einstellungen\\" + einstell_datei);
+        return !datei.fehler_laden();
+    };
+    einstellungsfenster.nach_uebernahme = [this] {
+        form1.listen_zeigen();
+        form1.farben_einstellen();
+        form1.bilder_anzeigen();
+        form1.modus_anzeigen();
+    };
+    einstellungsfenster.hardware_starten = [this] {
+        laden_aus_menue_ = true;  // the main window is on the screen already
+        hardware_starten();
+        laden_aus_menue_ = false;
+    };
 }
 
 void programm::bilder_uebernehmen(namensliste& liste, const std::string& datei_name, int nicht_gespeichert,
@@ -79,6 +110,8 @@ void programm::fenster_anmelden() {
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, {}});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
+    fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
+    fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, {}});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
 }
 
@@ -118,6 +151,10 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(tastaturbelegung.sprache_e_tast());
     alle.push_back(speichernfenster.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
+    alle.push_back(fahrerbild_laden.sprache_fbl());
+    for (sprachliste& sprache : einstellungsfenster.sprachdateien()) {
+        alle.push_back(std::move(sprache));
+    }
     return alle;
 }
 
@@ -248,9 +285,9 @@ void programm::programm_beenden() {
     }
     programm_beendet_ = true;
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 8> reihenfolge{
-        "auswertung",       "bahn1", "fahrerspeichernfenster", "Form3",
-        "speichernfenster", "Form1", "Tastaturbelegung",       "Update_form"};
+    constexpr std::array<std::string_view, 10> reihenfolge{
+        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form3",
+        "speichernfenster", "Form1", "Tastaturbelegung", "fahrerbild_laden",       "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

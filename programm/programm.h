@@ -17,6 +17,8 @@
 #include "hardware/ereignisse.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
+#include "optionen/bildwahl.h"
+#include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
 #include "race/rennen.h"
@@ -66,8 +68,11 @@ public:
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;
     tarvel::speichernfenster fahrerspeichernfenster;
+    tarvel::bildwahl fahrerbild_laden;
+    tarvel::einstellungsfenster einstellungsfenster;
 
 private:
+    void hauptfenster_verbinden();
     void fenster_anmelden();
     void texte_laden();
     void hardware_standard_setzen();
@@ -82,6 +87,7 @@ private:
     void speichern_oeffnen();
     void laden_oeffnen();
     bool einstellungen_aus_menue_laden(const std::string& name);
+    void optionen_verbinden();
     void hardware_starten();
 
     int modus_4x4_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none

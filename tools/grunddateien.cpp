@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/dateien.h"
+#include "core/nebendateien.h"
 #include "tests/plattform/testprogramm.h"
 
 int main(int argc, char** argv) {
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
                        t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
                        t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz");
+    geschrieben = tarvel::trennzeichen_speichern(ziel, t.p.einst.trennzeichen) && geschrieben;
     for (const tarvel::sprachliste& sprache : t.p.sprachdateien()) {
         geschrieben = ziel.zeilen_schreiben(sprache.datei(), sprache.deutsche_datei()) && geschrieben;
     }

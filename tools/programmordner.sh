@@ -15,7 +15,12 @@ cp -f build/release/ui/tarvel Tarvel/tarvel.neu
 mv -f Tarvel/tarvel.neu Tarvel/tarvel
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
-        [ -e "Tarvel/$datei" ] && continue
+        if [ -e "Tarvel/$datei" ]; then
+            # Language files go by the place of each text: one with another number of texts is of another version.
+            case $datei in ./language*/*) ;; *) continue ;; esac
+            [ "$(wc -l <"Tarvel/$datei")" -eq "$(wc -l <"data/$datei")" ] && continue
+            mv -f "Tarvel/$datei" "Tarvel/$datei.alt"
+        fi
         mkdir -p "Tarvel/$(dirname "$datei")"
         cp "data/$datei" "Tarvel/$datei"
     done

@@ -1,5 +1,7 @@
 #include "ui/binder.h"
 
+#include <QAbstractItemView>
+#include <QColorDialog>
 #include <QImageReader>
 #include <QPixmap>
 #include <QScrollBar>
@@ -10,9 +12,12 @@
 
 #include "ui/listenmodell.h"
 #include "ui/stil.h"
+#include "ui/umbruchkasten.h"
 
 namespace tarvel::ui {
 namespace {
+
+constexpr int bildlaufleiste_px = 28;
 
 QString als_text(const std::string& utf8) {
     return QString::fromStdString(utf8);
@@ -27,8 +32,7 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
 }
 
 /// The picture as large as fits; null if there is none that can be read.
-QPixmap bild_lesen(const dateien& ablage, const std::string& datei, QSize groesse) {
-    const std::filesystem::path pfad = datei.empty() ? std::filesystem::path() : ablage.pfad(datei);
+QPixmap bild_lesen(const std::filesystem::path& pfad, QSize groesse) {
     if (pfad.empty()) {
         return {};
     }
@@ -192,21 +196,56 @@ QGroupBox* Binder::gruppe(rahmen& element, const QString& name) {
     return widget;
 }
 
-QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse, const dateien& ablage) {
+QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse,
+                         std::function<std::filesystem::path(const std::string&)> pfad) {
     auto* widget = new QLabel(eltern_);
     widget->setFixedSize(groesse);
     widget->setAlignment(Qt::AlignCenter);
-    struct gezeigt {
-        std::string datei;
-        unsigned auflage = 0;
+    const auto lesen = [groesse, pfad = std::move(pfad)](const std::string& datei) {
+        return datei.empty() ? QPixmap() : bild_lesen(pfad(datei), groesse);
     };
-    verbinden(element, widget, name, [&element, widget, groesse, &ablage, alt = gezeigt{"\n"}]() mutable {
-        if (alt.datei == element.datei() && alt.auflage == element.auflage()) {
+    unsigned auflage = 0;
+    verbinden(element, widget, name, [&element, widget, lesen, auflage, datei = std::string("\n")]() mutable {
+        if (datei == element.datei() && auflage == element.auflage()) {
             return;
         }
-        alt = {element.datei(), element.auflage()};
-        QPixmap pixmap = bild_lesen(ablage, element.datei(), groesse);
-        widget->setPixmap(pixmap.isNull() ? bild_lesen(ablage, element.ersatz(), groesse) : pixmap);
+        datei = element.datei();
+        auflage = element.auflage();
+        const QPixmap eigenes = lesen(element.datei());
+        widget->setPixmap(eigenes.isNull() ? lesen(element.ersatz()) : eigenes);
+    });
+    return widget;
+}
+
+QRadioButton* Binder::wahlknopf(haken& element, const QString& name) {
+    auto* widget = new QRadioButton(eltern_);
+    QObject::connect(widget, &QRadioButton::clicked, widget, [&element] {
+        if (!element.gesetzt()) {
+            element.umschalten();
+        }
+    });
+    verbinden(element, widget, name, [&element, widget] {
+        text_nachfuehren(widget, element);
+        widget->setChecked(element.gesetzt());
+    });
+    return widget;
+}
+
+QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
+    auto* widget = new QPushButton(eltern_);
+    widget->setAutoDefault(true);
+    QObject::connect(widget, &QPushButton::clicked, widget, [&element, widget] {
+        auto* dialog = new QColorDialog(stil::farbe_von(element.wert()), widget);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(dialog, &QColorDialog::colorSelected, widget,
+                         [&element](const QColor& gewaehlt) { element.waehlen(stil::zahl_von(gewaehlt)); });
+        dialog->open();
+    });
+    verbinden(element, widget, name, [&element, widget] {
+        const QColor gewaehlt = stil::farbe_von(element.wert());
+        const QString schrift = qGray(gewaehlt.rgb()) > 140 ? "#1c2028" : "#ffffff";
+        widget->setText(gewaehlt.name());
+        widget->setStyleSheet(QString("QPushButton { background: %1; color: %2; }").arg(gewaehlt.name(), schrift));
     });
     return widget;
 }
@@ -224,12 +263,15 @@ QLineEdit* Binder::zeile(feld& element, const QString& name) {
     verbinden(element, widget, name, [&element, widget] {
         widget->setMaxLength(element.laenge_max() > 0 ? element.laenge_max() : 32767);
         text_nachfuehren(widget, element);
+        if (!widget->hasFocus()) {
+            widget->setCursorPosition(0);  // a long text is read from its beginning
+        }
     });
     return widget;
 }
 
 QCheckBox* Binder::kasten(haken& element, const QString& name) {
-    auto* widget = new QCheckBox(eltern_);
+    auto* widget = new UmbruchKasten(eltern_);
     QObject::connect(widget, &QCheckBox::clicked, widget, [&element] { element.umschalten(); });
     verbinden(element, widget, name, [&element, widget] {
         text_nachfuehren(widget, element);
@@ -244,7 +286,13 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
     widget->setMinimumContentsLength(6);
     widget->setInsertPolicy(QComboBox::NoInsert);
     const auto eingeben = [&element](const QString& text) { element.eingeben(text.toStdString()); };
-    QObject::connect(widget, &QComboBox::textActivated, widget, eingeben);
+    QObject::connect(widget, &QComboBox::activated, widget, [&element, widget, eingeben](int platz) {
+        if (element.frei()) {
+            eingeben(widget->itemText(platz));
+        } else {
+            element.waehlen(platz);
+        }
+    });
     QObject::connect(widget, &QComboBox::editTextChanged, widget, eingeben);
     verbinden(element, widget, name, [&element, widget] {
         const QSignalBlocker still(widget);
@@ -266,14 +314,15 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
         if (vorhanden != eintraege) {
             widget->clear();
             widget->addItems(eintraege);
+            widget->view()->setMinimumWidth(widget->view()->sizeHintForColumn(0) + bildlaufleiste_px);
         }
         const QString text = als_text(element.text());
-        if (widget->currentText() != text) {
+        if (!element.frei()) {
+            widget->setCurrentIndex(element.platz());
+        } else if (widget->currentText() != text) {
             widget->setCurrentIndex(widget->findText(text));
-            if (element.frei()) {
-                widget->setEditText(text);
-                widget->lineEdit()->setCursorPosition(0);
-            }
+            widget->setEditText(text);
+            widget->lineEdit()->setCursorPosition(0);
         }
     });
     return widget;

@@ -7,11 +7,12 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QRadioButton>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <vector>
 
-#include "core/dateien.h"
 #include "core/steuerelemente.h"
 #include "ui/bildtakt.h"
 #include "ui/lampe.h"
@@ -35,7 +36,13 @@ public:
     TextAnzeige* beschriftung(double entwurf);
     QGroupBox* gruppe(rahmen& element, const QString& name);
     /// The picture in a frame of this size.
-    QLabel* bildfeld(bild& element, const QString& name, QSize groesse, const dateien& ablage);
+    /// `pfad` tells where the file of a picture lies; empty for nowhere.
+    QLabel* bildfeld(bild& element, const QString& name, QSize groesse,
+                     std::function<std::filesystem::path(const std::string&)> pfad);
+    /// One of several tick boxes of which exactly one is set.
+    QRadioButton* wahlknopf(haken& element, const QString& name);
+    /// A swatch that opens the colour dialog.
+    QPushButton* farbknopf(farbfeld& element, const QString& name);
     /// The title of the window.
     void fenstertitel(rahmen& element);
     QPushButton* knopf(befehl& element, const QString& name);

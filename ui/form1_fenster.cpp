@@ -153,14 +153,15 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     schmal(laenge);
     QComboBox* fahrer = binder().auswahlfeld(logik_.fahrer.at(i), "fahrer_" + nummer);
     QComboBox* fahrzeug = binder().auswahlfeld(logik_.auto_.at(i), "auto_" + nummer);
+    const auto im_ordner = [this](const std::string& datei) { return ablage_.pfad(datei); };
     const std::vector<QWidget*> zeile{
         fleck,
         kasten,
         laenge,
         nullptr,
-        binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, ablage_),
+        binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, im_ordner),
         fahrer,
-        binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, ablage_),
+        binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, im_ordner),
         fahrzeug,
         binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer)};
     for (std::size_t spalte = 0; spalte < zeile.size(); ++spalte) {

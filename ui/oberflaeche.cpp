@@ -12,7 +12,9 @@ Oberflaeche::Oberflaeche(programm& p)
       auswertung(p.auswertung, takt, &bahn1),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
-      fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &form1),
+      einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
+      bildwahl(p.fahrerbild_laden, takt, &einstellungen),
+      fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &einstellungen),
       p_(p) {
     fenster.aufnehmen("Update_form", &update_form);
     fenster.aufnehmen("Form1", &form1);
@@ -21,12 +23,16 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
+    fenster.aufnehmen("einstellungen", &einstellungen);
+    fenster.aufnehmen("fahrerbild_laden", &bildwahl);
     fenster.aufnehmen("fahrerspeichernfenster", &fahrerspeichern);
     p.fenster.anzeigen_auf(&fenster);
 
     QCoreApplication::instance()->installEventFilter(&fenster);
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
+    einstellungen.escape_schliesst();
+    bildwahl.escape_schliesst();
     fahrerspeichern.escape_schliesst();
     form1.bei_schliessen = [&p] { p.programm_beenden(); };
     form3.bei_schliessen = [&p] { p.fenster.entladen("Form3"); };
@@ -35,6 +41,8 @@ Oberflaeche::Oberflaeche(programm& p)
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
+    einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };
+    bildwahl.bei_schliessen = [&p] { p.fahrerbild_laden.abbrechen(); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
 }
 

@@ -3,6 +3,8 @@
 #include "programm/programm.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
+#include "ui/bildwahl_fenster.h"
+#include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
 #include "ui/speichern_fenster.h"
@@ -28,6 +30,8 @@ public:
     AuswertungFenster auswertung;
     TastaturFenster tastatur;
     SpeichernFenster speichern;
+    EinstellungenFenster einstellungen;
+    BildwahlFenster bildwahl;
     SpeichernFenster fahrerspeichern;
 
 private:

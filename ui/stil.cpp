@@ -33,7 +33,9 @@ QPushButton[rolle="haupt"]:hover { background: #d62a37; }
 QPushButton[rolle="haupt"]:pressed { background: #a51823; }
 QPushButton[rolle="haupt"]:focus { border: 2px solid #1c2028; }
 QPushButton[rolle="haupt"]:disabled { background: #d9a5a9; border-color: #d0d4db; color: #ffffff; }
-QCheckBox { spacing: 8px; }
+QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
+QListView::item { padding: 3px 4px; }
+QListView::item:selected { background: #c41e2a; color: #ffffff; }
 QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; }
 )";
 
@@ -62,6 +64,11 @@ void anwenden(QApplication& anwendung) {
 QColor farbe_von(farbe zahl) {
     return {static_cast<int>(zahl & 0xFFU), static_cast<int>((zahl >> 8U) & 0xFFU),
             static_cast<int>((zahl >> 16U) & 0xFFU)};
+}
+
+farbe zahl_von(const QColor& farbton) {
+    return static_cast<farbe>(farbton.red()) | static_cast<farbe>(farbton.green()) << 8U |
+           static_cast<farbe>(farbton.blue()) << 16U;
 }
 
 }  // namespace tarvel::ui::stil

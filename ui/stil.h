@@ -18,5 +18,6 @@ inline const QColor schrift_leise{98, 106, 120};
 void anwenden(QApplication& anwendung);
 
 QColor farbe_von(farbe zahl);
+farbe zahl_von(const QColor& farbton);
 
 }  // namespace tarvel::ui::stil

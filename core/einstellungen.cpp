@@ -1,0 +1,41 @@
+#include "core/einstellungen.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int dragrace_ampel = 6;
+
+/// The Control Unit's command that sets up a controller: the car as a digit of sixteen, the value in two decimal
+/// digits, and the car again as the check character.
+std::string reglerbefehl(int spur, int wert) {
+    const char auto_ziffer = static_cast<char>('0' + 2 * (spur - 1));
+    const char pruefzeichen = static_cast<char>('0' + (2 * (spur - 1) + 8) % 10);
+    return {'J', '2',          auto_ziffer, static_cast<char>('0' + wert / 10), static_cast<char>('0' + wert % 10),
+            '1', pruefzeichen, '$'};
+}
+
+}  // namespace
+
+int messhardware::modus() const {
+    const std::array<bool, 8> in_kraft{hw_simulation,    hw_iow,        hw_race_control, hw_lpt,
+                                       hw_4x4_modus > 3, hw_timekeeper, hw_cu,           hw_uart};
+    for (std::size_t i = 1; i < in_kraft.size(); ++i) {  // a device goes before the keyboard beside it
+        if (in_kraft.at(i)) {
+            return static_cast<int>(i);
+        }
+    }
+    return 0;
+}
+
+void messhardware::simulation_ableiten() {
+    hw_simulation = !hw_iow && !hw_race_control && !hw_lpt && !hw_timekeeper && hw_4x4_modus < 4;
+}
+
+void einstellungen::folgen_ableiten() {
+    ampel_takt = start_ampel_modus == dragrace_ampel ? 500 : 1500;
+    for (const int spur : alle_spuren) {
+        cu_reglerbefehl[spur] = reglerbefehl(spur, cu_spur_wert[spur]);
+    }
+}
+
+}  // namespace tarvel

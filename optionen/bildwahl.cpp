@@ -1,0 +1,136 @@
+#include "optionen/bildwahl.h"
+
+#include <array>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+#include "core/ordnerblick.h"
+
+namespace fs = std::filesystem;
+
+namespace tarvel {
+namespace {
+
+constexpr const char* darueber = "..";
+
+/// The file begins as pictures of the two kinds do.
+bool ist_bild(const fs::path& datei) {
+    std::array<char, 4> anfang{};
+    std::ifstream eingabe(datei, std::ios::binary);
+    eingabe.read(anfang.data(), anfang.size());
+    const std::string_view gelesen(anfang.data(), static_cast<std::size_t>(eingabe.gcount()));
+    return gelesen.starts_with("\xFF\xD8\xFF") || gelesen.starts_with("GIF8");
+}
+
+/// The entry's name, as far as a file can carry it.
+std::string dateistamm(std::string name) {
+    for (char& zeichen : name) {
+        const bool erlaubt = static_cast<unsigned char>(zeichen) >= ' ' &&
+                             std::string_view("\\/:*?\"<>|").find(zeichen) == std::string_view::npos;
+        zeichen = erlaubt ? zeichen : '_';
+    }
+    if (name.starts_with('.')) {
+        name.front() = '_';
+    }
+    return name;
+}
+
+}  // namespace
+
+bildwahl::bildwahl(umgebung um) : um_(um) {
+    laufwerk.bei_aenderung = [this] { ordner_zeigen(pfad_aus_utf8(laufwerk.text())); };
+    ordner.bei_doppelklick = [this] { ordner_betreten(); };
+    datei.bei_auswahl = [this] { datei_gewaehlt(); };
+    datei.bei_doppelklick = [this] { uebernehmen(); };
+    Command1.bei_klick = [this] { uebernehmen(); };
+    Command2.bei_klick = [this] { abbrechen(); };
+}
+
+sprachliste bildwahl::sprache_fbl() {
+    sprachliste texte("language\\language_fbl.txt");
+    texte.ueberschrift("Bild zuordnen").text("Laufwerk", Label_laufwerk).text("Ordner", Label_ordner);
+    texte.text("Bilddatei", Label_datei).text("Übernehmen", Command1).text("Abbrechen", Command2);
+    texte.text("Die Datei ist kein Bild.", kein_bild_text_);
+    return texte.text("Das Bild konnte nicht kopiert werden.", nicht_kopiert_text_);
+}
+
+void bildwahl::oeffnen(auftrag a) {
+    um_.fenster.laden("fahrerbild_laden");
+    auftrag_ = std::move(a);
+    titel.text(auftrag_.titel);
+    laufwerk.ansage(Label_laufwerk.text());
+    ordner.ansage(Label_ordner.text());
+    datei.ansage(Label_datei.text());
+    laufwerk.eintraege(laufwerke());
+    std::error_code fehler;
+    if (ort_.empty() || !fs::is_directory(ort_, fehler)) {
+        ort_ = fs::absolute(um_.ablage.pfad(auftrag_.bildordner), fehler);
+    }
+    ordner_zeigen(ort_);
+    um_.fenster.zeigen("fahrerbild_laden", anzeige_art::modal);
+    ordner.fokus_setzen();
+}
+
+void bildwahl::ordner_zeigen(const fs::path& ort) {
+    ort_ = ort.lexically_normal();
+    pfad.text(pfad_als_utf8(ort_));
+    const std::string wurzel = pfad_als_utf8(ort_.root_path());
+    for (const std::string& kandidat : laufwerk.eintraege()) {
+        if (pfad_aus_utf8(kandidat) == ort_.root_path() || kandidat == wurzel) {
+            laufwerk.text(kandidat);
+        }
+    }
+    const ordnerblick blick = ordner_ansehen(ort_, {".jpg", ".gif"});
+    ordner.leeren();
+    ordner.hinzufuegen(darueber);
+    for (const std::string& name : blick.ordner) {
+        ordner.hinzufuegen(name);
+    }
+    datei.leeren();
+    for (const std::string& name : blick.dateien) {
+        datei.hinzufuegen(name);
+    }
+    datei_gewaehlt();
+}
+
+void bildwahl::ordner_betreten() {
+    if (ordner.markiert() < 0) {
+        return;
+    }
+    const std::string ziel = ordner.zeilen().at(static_cast<std::size_t>(ordner.markiert()));
+    ordner_zeigen(ziel == darueber ? ort_.parent_path() : ort_ / pfad_aus_utf8(ziel));
+}
+
+void bildwahl::datei_gewaehlt() {
+    const bool gewaehlt = datei.markiert() >= 0;
+    Command1.aktiviert(gewaehlt);
+    vorschau.datei(
+        gewaehlt ? pfad_als_utf8(ort_ / pfad_aus_utf8(datei.zeilen().at(static_cast<std::size_t>(datei.markiert()))))
+                 : std::string());
+}
+
+void bildwahl::uebernehmen() {
+    if (datei.markiert() < 0) {
+        return;
+    }
+    const fs::path quelle = pfad_aus_utf8(vorschau.datei());
+    const std::string stamm = dateistamm(auftrag_.name);
+    if (!ist_bild(quelle)) {
+        um_.meldungen.zeigen(kein_bild_text_, um_.txt.titel[0]);
+        return;
+    }
+    if (!um_.ablage.hereinkopieren(quelle, auftrag_.bildordner + "/" + stamm + ".jpg")) {
+        um_.meldungen.zeigen(nicht_kopiert_text_, um_.txt.titel[1]);
+        return;
+    }
+    um_.fenster.entladen("fahrerbild_laden");
+    auftrag_.fertig(stamm);
+}
+
+void bildwahl::abbrechen() {
+    um_.fenster.entladen("fahrerbild_laden");
+    auftrag_.fertig(std::string(abgebrochen));
+}
+
+}  // namespace tarvel

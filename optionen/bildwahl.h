@@ -1,0 +1,70 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "core/dateien.h"
+#include "core/fensterregister.h"
+#include "core/sprache.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The window `fahrerbild_laden`: finds a picture anywhere on the machine and copies it to the pictures of the program.
+class bildwahl {
+public:
+    /// What comes back instead of a name when the operator cancels.
+    static constexpr std::string_view abgebrochen = "--cancel--";
+
+    struct umgebung {
+        const dateien& ablage;
+        const texte& txt;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+    };
+    struct auftrag {
+        std::string titel;
+        std::string bildordner;
+        std::string name;  ///< entry that the picture is for; names the copy
+        /// Gets the stem of the copy, or `abgebrochen`.
+        std::function<void(const std::string&)> fertig;
+    };
+
+    explicit bildwahl(umgebung um);
+
+    rahmen titel;
+    bezeichnung Label_laufwerk;
+    auswahl laufwerk;
+    bezeichnung pfad;
+    bezeichnung Label_ordner;
+    tarvel::liste ordner;  ///< row 0 leads one folder up
+    bezeichnung Label_datei;
+    tarvel::liste datei;
+    bild vorschau;    ///< its file is a full path
+    befehl Command1;  ///< take it
+    befehl Command2;  ///< cancel
+
+    void laden() { sprache_fbl().anwenden(um_.ablage); }
+    void oeffnen(auftrag a);
+    void abbrechen();
+    /// The texts of the window.
+    sprachliste sprache_fbl();
+
+private:
+    void ordner_zeigen(const std::filesystem::path& ort);
+    void ordner_betreten();
+    void datei_gewaehlt();
+    void uebernehmen();
+
+    umgebung um_;
+    auftrag auftrag_;
+    std::filesystem::path ort_;
+    std::string kein_bild_text_;
+    std::string nicht_kopiert_text_;
+};
+
+}  // namespace tarvel

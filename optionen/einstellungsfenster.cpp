@@ -1,0 +1,282 @@
+#include "optionen/einstellungsfenster.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "core/nebendateien.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t hardware_4x4 = 4;
+constexpr std::size_t erste_hardware_gruppe = 1;
+
+}  // namespace
+
+einstellungsfenster::einstellungsfenster(umgebung um, listen l)
+    : fahrerseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
+                  {l.fahrer, l.fahrer_datei, ".lst", "Fahrerverwaltung", "Fahrerliste voll.",
+                   "neues Fahrerbild zuordnen", 8, 8, 3}),
+      fahrzeugseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
+                    {l.fahrzeuge, l.fahrzeug_datei, ".kfz", "Fahrzeugverwaltung", "Fahrzeugliste voll.",
+                     "neues Fahrzeugbild zuordnen", 6, 7, 2}),
+      um_(um) {
+    seiten_[seite_start_ziel] = optionsseiten::start_ziel();
+    seiten_[seite_wettkampf] = optionsseiten::wettkampf_training();
+    seiten_[seite_tanken] = optionsseiten::tanken_chaos();
+    seiten_[seite_sektoren] = optionsseiten::sektoren_topspeed();
+    seiten_[seite_bestzeiten] = optionsseiten::bestzeiten();
+    seiten_[seite_hardware] = optionsseiten::messhardware();
+    seiten_[seite_sounds] = optionsseiten::sounds();
+    seiten_[seite_farben] = optionsseiten::farben();
+    seiten_[seite_trennzeichen] = optionsseiten::trennzeichen();
+    seitenliste.bei_auswahl = [this] { seite_zeigen(seitenliste.markiert()); };
+    for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
+        hardware.at(nummer).bei_aenderung = [this, nummer] { hardware_waehlen(nummer); };
+    }
+    Command1.bei_klick = [this] { Command1_Click(); };
+    Command2.bei_klick = [this] { um_.fenster.entladen("einstellungen"); };
+    sounds_verbinden();
+}
+
+sprachliste einstellungsfenster::sprache_e() {
+    sprachliste texte("language/language_e.txt");
+    texte.ueberschrift("Einstellungen").text("Einstellungen", titel).text("Übernehmen", Command1);
+    texte.text("Abbrechen", Command2).text("Parameter außerhalb gültiger Werte", grenzen_titel_);
+    texte.text("Die alte Einstellung wird beibehalten.", alte_bleibt_).ansage("Seiten", seitenliste);
+    texte.text("Zeitmessung mit", hardware_rahmen);
+    for (int nummer = 0; nummer < seiten_anzahl; ++nummer) {
+        if (optionsseite* seite = zeilenseite(nummer)) {
+            seite->texte_nennen(texte);
+        } else {
+            (nummer == seite_fahrer ? fahrerseite : fahrzeugseite).texte_nennen(texte);
+        }
+    }
+    return texte;
+}
+
+sprachliste einstellungsfenster::sprache_e_s() {
+    sprachliste texte("language/language_e_s.txt");
+    texte.ueberschrift("Sounds");
+    const std::vector<std::string> deutsch = optionsseiten::sound_ereignisse();
+    for (std::size_t i = 0; i < deutsch.size(); ++i) {
+        texte.text(deutsch[i], zeile("sound_dateien_" + std::to_string(i + 1)).beschriftung);
+    }
+    return texte;
+}
+
+std::vector<sprachliste> einstellungsfenster::sprachdateien() {
+    std::vector<sprachliste> alle;
+    alle.push_back(sprache_e());
+    alle.push_back(sprache_e_s());
+    return alle;
+}
+
+void einstellungsfenster::laden() {
+    for (const sprachliste& sprache : sprachdateien()) {
+        sprache.anwenden(um_.ablage);
+    }
+    um_.txt.sprache_usb2_laden(um_.ablage);
+    seitenliste.leeren();
+    for (int nummer = 0; nummer < seiten_anzahl; ++nummer) {
+        const optionsseite* seite = zeilenseite(nummer);
+        const rahmen& name = seite != nullptr         ? seite->titel
+                             : nummer == seite_fahrer ? fahrerseite.titel
+                                                      : fahrzeugseite.titel;
+        seitenliste.hinzufuegen(name.text());
+    }
+    for (std::size_t i = 0; i < hardware.size(); ++i) {
+        hardware.at(i).text(um_.txt.hardware_name.at(i));
+    }
+    fuer_alle_zeilen([](optionszeile& z) {
+        std::visit(
+            [&z](auto& element) {
+                using art = std::decay_t<decltype(element)>;
+                if constexpr (std::is_same_v<art, haken>) {
+                    element.text(z.beschriftung.text());  // a tick box carries its caption itself
+                } else if constexpr (std::is_base_of_v<steuerelement, art>) {
+                    element.ansage(z.beschriftung.text() + " " + z.einheit.text());
+                } else if constexpr (std::is_same_v<art, soundfeld>) {
+                    element.datei.ansage(z.beschriftung.text());
+                    element.abspielen.ansage(z.beschriftung.text());
+                }
+            },
+            z.element);
+    });
+    trennzeichen_fehlen_ = !trennzeichen_laden(um_.ablage, um_.ziel.einst.trennzeichen);
+    if (trennzeichen_fehlen_) {
+        um_.ziel.einst.trennzeichen = trennzeichen_standard;
+        um_.meldungen.zeigen(um_.txt.meldung[25], um_.txt.titel[1]);
+    }
+    werte_zeigen();
+}
+
+void einstellungsfenster::oeffnen(seitennummer erste) {
+    um_.fenster.laden("einstellungen");
+    seite_zeigen(erste);
+    um_.fenster.zeigen("einstellungen", anzeige_art::modal);
+    if (erste == seite_fahrer || erste == seite_fahrzeuge) {
+        (erste == seite_fahrer ? fahrerseite : fahrzeugseite).name.fokus_setzen();
+    } else {
+        seitenliste.fokus_setzen();
+    }
+}
+
+void einstellungsfenster::fuer_alle_zeilen(const std::function<void(optionszeile&)>& tun) {
+    for (const optionsseite_zeiger& seite : seiten_) {
+        if (seite != nullptr) {
+            for (const auto& gruppe : seite->gruppen) {
+                for (const optionszeile_zeiger& eine : gruppe->zeilen) {
+                    tun(*eine);
+                }
+            }
+        }
+    }
+}
+
+optionszeile& einstellungsfenster::zeile(std::string_view name) {
+    optionszeile* gefunden = nullptr;
+    fuer_alle_zeilen([&](optionszeile& eine) { gefunden = eine.name == name ? &eine : gefunden; });
+    assert(gefunden != nullptr);
+    return *gefunden;
+}
+
+void einstellungsfenster::seite_zeigen(int nummer) {
+    if (nummer < 0 || nummer >= seiten_anzahl) {
+        return;
+    }
+    seitenliste.markieren(nummer);
+    for (int andere = 0; andere < seiten_anzahl; ++andere) {
+        seitenrahmen.at(static_cast<std::size_t>(andere)).sichtbar(andere == nummer);
+    }
+    if (nummer == seite_sounds) {
+        sounds_auffrischen();
+    }
+}
+
+void einstellungsfenster::hardware_waehlen(std::size_t nummer) {
+    for (std::size_t andere = 0; andere < hardware.size(); ++andere) {
+        hardware.at(andere).gesetzt(andere == nummer);
+    }
+    auto& modus = std::get<auswahl>(zeile("optModus").element);
+    if (nummer == hardware_4x4 && modus.platz() < 0) {
+        modus.platz(0);
+    }
+    hardware_gruppen_zeigen();
+}
+
+void einstellungsfenster::hardware_gruppen_zeigen() {
+    const auto& gruppen = seiten_[seite_hardware]->gruppen;
+    for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
+        optionsgruppe& gruppe = *gruppen.at(nummer + erste_hardware_gruppe);
+        gruppe.titel.sichtbar(hardware.at(nummer).gesetzt() && !gruppe.zeilen.empty());
+    }
+}
+
+void einstellungsfenster::hardware_uebernehmen() {
+    const auto gewaehlt = [this](std::size_t nummer) { return hardware.at(nummer).gesetzt(); };
+    messhardware& h = um_.ziel.einst.hardware;
+    h.hw_iow = gewaehlt(1);
+    h.hw_race_control = gewaehlt(2);
+    h.hw_lpt = gewaehlt(3);
+    h.hw_4x4_modus = gewaehlt(hardware_4x4) ? std::max(h.hw_4x4_modus, 4) : 3;
+    h.hw_timekeeper = gewaehlt(5);
+    h.hw_cu = gewaehlt(6);
+    h.hw_uart = gewaehlt(7);
+    h.simulation_ableiten();
+}
+
+void einstellungsfenster::werte_zeigen() {
+    fuer_alle_zeilen([this](optionszeile& eine) {
+        if (eine.zeigen) {
+            eine.zeigen(um_.ziel);
+        }
+    });
+    const auto in_kraft = static_cast<std::size_t>(um_.ziel.einst.hardware.modus());
+    for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
+        hardware.at(nummer).gesetzt(nummer == in_kraft);
+    }
+    hardware_gruppen_zeigen();
+    fahrerseite.zeigen();
+    fahrzeugseite.zeigen();
+}
+
+void einstellungsfenster::werte_uebernehmen() {
+    fuer_alle_zeilen([this](optionszeile& eine) {
+        if (eine.uebernehmen) {
+            eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
+                um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);
+            });
+        }
+    });
+    einstellungen& einst = um_.ziel.einst;
+    hardware_uebernehmen();
+    einst.fahrzeug_wechseln = einst.fahrzeug_wechseln || einst.centermode;
+    einst.sektor_an[0] = std::any_of(einst.sektor_an.begin() + 1, einst.sektor_an.end(), [](bool an) { return an; });
+    sektoranzeige_trennen();
+    einst.folgen_ableiten();
+}
+
+void einstellungsfenster::sektoranzeige_trennen() {
+    einstellungen& einst = um_.ziel.einst;
+    if (einst.sektor_anzeige != 0 && einst.sektor_anzeige == einst.topspeed_anzeige) {
+        einst.topspeed_anzeige = einst.sektor_anzeige == 1 ? 2 : 1;  // both would stand in the same place
+    }
+}
+
+void einstellungsfenster::Command1_Click() {
+    const int alte_hardware = um_.ziel.einst.hardware.modus();
+    const trennzeichen_tabelle alte_trennzeichen = um_.ziel.einst.trennzeichen;
+    werte_uebernehmen();
+    bool gespeichert = fahrerseite.uebernehmen();
+    gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
+    if (nach_uebernahme) {
+        nach_uebernahme();
+    }
+    if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != alte_trennzeichen) {
+        trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
+        if (trennzeichen_fehlen_) {
+            um_.meldungen.zeigen(um_.txt.meldung[24], um_.txt.titel[1]);
+            gespeichert = false;
+        }
+    }
+    gespeichert = (!einstellungen_speichern || einstellungen_speichern()) && gespeichert;
+    if (hardware_starten && um_.ziel.einst.hardware.modus() != alte_hardware) {
+        hardware_starten();
+    }
+    if (gespeichert) {
+        um_.fenster.entladen("einstellungen");
+    } else {
+        werte_zeigen();
+    }
+}
+
+void einstellungsfenster::sounds_verbinden() {
+    for (int nummer = 1; nummer <= sounds_max; ++nummer) {
+        auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);
+        sound.abspielen.text("▶");
+        sound.abspielen.bei_klick = [this, &sound] { um_.klang.spielen(sound.datei.text()); };
+        sound.datei.bei_aenderung = [this, &sound] {
+            sound.abspielen.aktiviert(um_.ablage.gibt_es(sound.datei.text()));
+        };
+    }
+}
+
+void einstellungsfenster::sounds_auffrischen() {
+    std::string ordner(gekuerzt(std::get<feld>(zeile("sound_ordner").element).text()));
+    if (ordner.empty()) {
+        ordner = "sound";
+    }
+    std::vector<std::string> vorhanden;
+    for (const std::string& datei : um_.ablage.auflisten(ordner, "", ".wav")) {
+        vorhanden.push_back(ordner + "\\" + datei);
+    }
+    for (int nummer = 1; nummer <= sounds_max; ++nummer) {
+        auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);
+        sound.datei.eintraege(vorhanden);
+        sound.datei.bei_aenderung();
+    }
+}
+
+}  // namespace tarvel

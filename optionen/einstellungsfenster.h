@@ -1,0 +1,111 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/dateien.h"
+#include "core/einstellungszugriff.h"
+#include "core/fensterregister.h"
+#include "core/sprache.h"
+#include "core/steuerelemente.h"
+#include "optionen/listenseite.h"
+#include "optionen/optionsseite.h"
+#include "platform/klang.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The options window `einstellungen`: shows every value of the settings and takes them over, within their limits.
+class einstellungsfenster {
+public:
+    /// The pages in their order. Those of drivers and vehicles are lists, all others rows.
+    enum seitennummer {
+        seite_start_ziel,
+        seite_wettkampf,
+        seite_tanken,
+        seite_sektoren,
+        seite_fahrer,
+        seite_fahrzeuge,
+        seite_bestzeiten,
+        seite_hardware,
+        seite_sounds,
+        seite_farben,
+        seite_trennzeichen,
+        seiten_anzahl
+    };
+
+    struct umgebung {
+        einstellungs_ziel ziel;
+        texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        plattform::klang& klang;
+        speichernfenster& dateiwahl;
+        bildwahl& bilder;
+    };
+    struct listen {
+        namensliste& fahrer;
+        std::string& fahrer_datei;
+        namensliste& fahrzeuge;
+        std::string& fahrzeug_datei;
+    };
+
+    einstellungsfenster(umgebung um, listen l);
+    einstellungsfenster(const einstellungsfenster&) = delete;
+    einstellungsfenster& operator=(const einstellungsfenster&) = delete;
+
+    rahmen titel;
+    liste seitenliste;                               ///< the titles of the pages
+    std::array<rahmen, seiten_anzahl> seitenrahmen;  ///< the pages; only the chosen one is visible
+    rahmen hardware_rahmen;
+    std::array<haken, 8> hardware;  ///< of them exactly one is set
+    befehl Command1;                ///< take over and save
+    befehl Command2;                ///< cancel
+    listenseite fahrerseite;
+    listenseite fahrzeugseite;
+
+    /// Writes the current settings file; false after a failure.
+    std::function<bool()> einstellungen_speichern;
+    /// What has to follow new values: lists, colours, pictures of the main window.
+    std::function<void()> nach_uebernahme;
+    /// Another timing hardware is in force.
+    std::function<void()> hardware_starten;
+
+    /// Load handler: all texts and all values.
+    void laden();
+    /// Opens the window on a page.
+    void oeffnen(seitennummer erste);
+    /// The language files of the window.
+    std::vector<sprachliste> sprachdateien();
+
+    /// The rows of a page; null for the pages that are lists.
+    optionsseite* zeilenseite(int nummer) { return seiten_.at(static_cast<std::size_t>(nummer)).get(); }
+    /// A row by the name of its control; it must exist.
+    optionszeile& zeile(std::string_view name);
+
+private:
+    sprachliste sprache_e();
+    sprachliste sprache_e_s();
+    void seite_zeigen(int nummer);
+    void hardware_waehlen(std::size_t nummer);
+    void hardware_gruppen_zeigen();
+    void hardware_uebernehmen();
+    void sounds_verbinden();
+    void sounds_auffrischen();
+    void werte_zeigen();
+    void werte_uebernehmen();
+    void sektoranzeige_trennen();
+    void Command1_Click();
+    void fuer_alle_zeilen(const std::function<void(optionszeile&)>& tun);
+
+    umgebung um_;
+    std::array<optionsseite_zeiger, seiten_anzahl> seiten_;
+    std::string grenzen_titel_;
+    std::string alte_bleibt_;
+    bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
+};
+
+}  // namespace tarvel

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/dateien.h"
+#include "core/namensliste.h"
+#include "core/speichernfenster.h"
+#include "core/sprache.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "optionen/bildwahl.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The page of the drivers, and in the same way that of the vehicles. It works on a copy: the program's list changes
+/// when the window takes the values over. Pictures and list files are written at once.
+class listenseite {
+public:
+    /// What the two pages differ in.
+    struct art {
+        namensliste& liste;
+        std::string& datei;  ///< of the list, below the folder of the lists
+        std::string endung;
+        std::string deutsch;    ///< title of the page
+        std::string voll;       ///< said when the list has no room
+        std::string bildtitel;  ///< of the window that a picture is chosen in
+        int laden_text;         ///< of `texte::datei_text`; the text for saving is the next one
+        int nicht_geladen;      ///< of `texte::meldung`
+        int nicht_gespeichert;  ///< of `texte::meldung`
+    };
+    struct umgebung {
+        const dateien& ablage;
+        const texte& txt;
+        plattform::meldungen& meldungen;
+        speichernfenster& dateiwahl;
+        bildwahl& bilder;
+    };
+
+    listenseite(umgebung um, art a);
+
+    rahmen titel;
+    bezeichnung Label_name;
+    feld name;  ///< to be added
+    liste namen;
+    bild vorschau;  ///< picture of the selected entry
+    befehl hinzufuegen;
+    befehl entfernen;
+    befehl alle_loeschen;
+    befehl Liste_laden;
+    befehl Liste_speichern;
+    befehl kein_bild;
+    befehl anderes_bild;
+
+    void texte_nennen(sprachliste& texte);
+    /// Shows the program's list.
+    void zeigen();
+    /// The program takes the page's list, and its file is written if the list has changed. False after a failed write.
+    bool uebernehmen();
+
+private:
+    void befehle_verbinden();
+    void anzeigen(int markiert);
+    void auswahl_folgen();
+    void name_hinzufuegen();
+    void laden_oeffnen();
+    void speichern_oeffnen();
+    void bild_neu_zuordnen();
+    void bild_setzen(const std::string& stamm);
+    void melden(int nummer);
+
+    umgebung um_;
+    art art_;
+    namensliste kopie_;
+    std::string datei_;
+    std::string voll_text_;
+    std::string bildtitel_text_;
+};
+
+}  // namespace tarvel

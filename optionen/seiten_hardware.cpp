@@ -1,0 +1,161 @@
+#include <cstdlib>
+
+#include "core/text.h"
+#include "optionen/optionsseite.h"
+
+namespace tarvel::optionsseiten {
+namespace {
+
+using namespace option;
+using e = einstellungen;
+
+constexpr int comports_max = 20;
+
+std::vector<std::string_view> comports(std::string_view keiner, int anzahl, std::vector<std::string>& ablage) {
+    ablage.clear();
+    for (int nummer = 1; nummer <= anzahl; ++nummer) {
+        ablage.push_back("COM" + std::to_string(nummer));
+    }
+    std::vector<std::string_view> eintraege{keiner};
+    eintraege.insert(eintraege.end(), ablage.begin(), ablage.end());
+    return eintraege;
+}
+
+/// A port number, with 0 for none.
+optionszeile_zeiger comport(const beschriftet& b, const zugriff<int>& ziel, int anzahl) {
+    std::vector<std::string> namen;
+    return wahl(b, ziel, 0, comports("Kein Comport", anzahl, namen));
+}
+
+std::vector<std::string> comport_namen() {
+    std::vector<std::string> namen;
+    comports("", comports_max, namen);
+    return namen;
+}
+
+/// The address of the printer port, in hexadecimal digits.
+optionszeile_zeiger lpt_adresse() {
+    optionszeile_zeiger zeile = leeres_feld({"lpt_text", "Druckeranschluß:", "hexadezimal"}, 4);
+    feld* element = &std::get<feld>(zeile->element);
+    zeile->zeigen = [element](const einstellungs_ziel& z) {
+        constexpr std::string_view zeichen = "0123456789ABCDEF";
+        std::string text;
+        for (unsigned rest = static_cast<unsigned>(z.einst.lpt_adresse); rest > 0 || text.empty(); rest /= 16) {
+            text.insert(text.begin(), zeichen.at(rest % 16));
+        }
+        element->text(text);
+    };
+    zeile->uebernehmen = [element](const einstellungs_ziel& z, const auto&) {
+        const std::string text(gekuerzt(element->text()));
+        if (!text.empty() && text.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos) {
+            z.einst.lpt_adresse = static_cast<int>(std::strtol(text.c_str(), nullptr, 16));
+        }
+    };
+    return zeile;
+}
+
+void allgemein(optionsseite& seite) {
+    seite.gruppe("Alle Messgeräte", 0)
+        << kasten({"zeit_methode_alt", "alternative Sensorzeit"}, wert(&e::zeit_methode_alt))
+        << kasten({"sensorkalibrierung", "Sensorkalibrierung"}, wert(&e::sensorkalibrierung))
+        << kasten({"bahnstabsch", "Bahnstromabschaltung umkehren"}, wert(&e::bahnstrom_invers))
+        << kasten({"opt_ampel", "Ampelschaltung umkehren"}, wert(&e::ampel_invers));
+}
+
+void race_control(optionsseite& seite) {
+    optionsgruppe& gruppe = seite.gruppe("Race Control", 1);
+    gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc_com_port), comport_namen())
+           << entweder({"rc_mod1", "Modus"}, wert(&e::rc_mod1), "Modus 1", "Modus 2")
+           << zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc_level), begrenzt(0, 130))
+           << zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc_delay_ms), begrenzt(0, 50))
+           << zahl({"selPostMS", "Nachlauf (ms)", "0 bis 15"}, wert(&e::rc_post_ms), begrenzt(0, 15))
+           << kasten({"cbxRevZZ", "Reverse 1 - 2"}, wert(&e::rc_rev_zz))
+           << kasten({"cbxRevSZ", "Reverse 3 - 4"}, wert(&e::rc_rev_sz))
+           << kasten({"check_rctank", "bis Überfahrt Sensor 3 + 4"}, wert(&e::rc_tank_sensor34))
+           << kasten({"check_rcziel", "Rennende auf Sensor 3 + 4"}, wert(&e::rc_ziel_sensor34));
+    for (std::size_t sensor = 0; sensor < 4; ++sensor) {
+        const std::string nummer = std::to_string(sensor + 1);
+        optionszeile_zeiger zeile = wahl({"selSpur_" + nummer, "Sensor " + nummer}, element(&e::rc_sensor, sensor), 13,
+                                         {"Spur 4", "Spur 3", "Spur 2", "Spur 1"});
+        gruppe << std::move(zeile);
+    }
+    gruppe << kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc_schalter))
+           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc_wert), begrenzt(-9999, 99999));
+}
+
+void druckeranschluss(optionsseite& seite) {
+    optionsgruppe& gruppe = seite.gruppe("Druckeranschluss", 1);
+    gruppe << lpt_adresse();
+    constexpr std::array<int, 5> eingangspins{10, 11, 12, 13, 15};
+    for (std::size_t i = 0; i < eingangspins.size(); ++i) {
+        gruppe << ereignis({"ecomb_" + std::to_string(i + 1), "Eingang Pin " + std::to_string(eingangspins.at(i))},
+                           element(&e::lpt_eingang, i + 1));
+    }
+    for (std::size_t i = 1; i <= 12; ++i) {
+        const std::string pin = i <= 8 ? "Ausgang Pin " + std::to_string(i + 1) : "Ausgang " + std::to_string(i);
+        gruppe << ereignis({"comb_" + std::to_string(i), pin}, element(&e::lpt_ausgang, i));
+    }
+}
+
+void modul_4x4(optionsseite& seite) {
+    optionsgruppe& gruppe = seite.gruppe("4x4 USB", 1);
+    gruppe << wahl({"optModus", "Modus"},
+                   [](const einstellungs_ziel& z) -> int& { return z.einst.hardware.hw_4x4_modus; }, 4,
+                   {"Digital IR-Modus", "PRO-X Lochposition", "PRO-X Lochzählung", "Kontakt Modus"})
+           << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6_option));
+    for (std::size_t i = 1; i <= 8; ++i) {
+        gruppe << ereignis({"s6_eingang_" + std::to_string(i), "Eingang " + std::to_string(i)},
+                           element(&e::s6_eingang, i));
+    }
+    for (const int spur : alle_spuren) {
+        for (std::size_t modus = 1; modus <= 4; ++modus) {
+            const std::string s = std::to_string(spur);
+            const std::string m = std::to_string(modus);
+            gruppe << ereignis(
+                {"s6_eingang_modus_" + s + "_" + m, "Spur " + s + " in Modus " + m},
+                [spur, modus](const einstellungs_ziel& z) -> int& { return z.einst.s6_eingang_modus[spur].at(modus); });
+        }
+    }
+}
+
+void control_unit(optionsseite& seite) {
+    optionsgruppe& gruppe = seite.gruppe("Carrera Control Unit", 1);
+    gruppe << comport({"cu_comport", "COM-Port"}, wert(&e::cu_modus), comports_max)
+           << kasten({"opt_cu_tankautomatik", "automatische Tankfunktion"}, wert(&e::cu_tankautomatik))
+           << kasten({"opt_cu_prgstart", "Rennstart über Software"}, wert(&e::cu_sondermodus))
+           << kasten({"opt_cu_alterRZ", "Blackbox mit Rundenzähler 30342 verwenden"}, wert(&e::cu_option));
+    for (const int spur : alle_spuren) {
+        const std::string nummer = std::to_string(spur);
+        gruppe << zahl({"cu_spur_wert_" + nummer, "Regler " + nummer, "0 bis 15"}, je_spur(&e::cu_spur_wert, spur),
+                       begrenzt(0, 15));
+    }
+}
+
+void at_2560(optionsseite& seite) {
+    seite.gruppe("AT-2560 USB", 1)
+        << comport({"uart_port", "COM-Port"}, wert(&e::uart_port), 16)
+        << wortliste({"uart_baud", "Baudrate"}, wert(&e::uart_baud),
+                     {"4800", "9600", "19200", "38400", "57600", "115200"})
+        << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart_datenbits), begrenzt(4, 8))
+        << wortliste({"uart_parity", "Parität"}, wert(&e::uart_parity), {"N", "E", "O", "M", "S"})
+        << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart_stopbits), {"1", "1.5", "2"})
+        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60);
+}
+
+}  // namespace
+
+optionsseite_zeiger messhardware() {
+    auto seite = std::make_unique<optionsseite>("Messhardware");
+    allgemein(*seite);
+    seite->gruppe("Simulationsmodus", 1);  // the keyboard has its own window
+    seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow_datei), 60);
+    race_control(*seite);
+    druckeranschluss(*seite);
+    modul_4x4(*seite);
+    seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk_datei), 60);
+    control_unit(*seite);
+    at_2560(*seite);
+    return seite;
+}
+
+}  // namespace tarvel::optionsseiten

@@ -1,0 +1,126 @@
+#include <algorithm>
+#include <optional>
+
+#include "core/text.h"
+#include "optionen/optionsseite.h"
+
+namespace tarvel::optionsseiten {
+namespace {
+
+using namespace option;
+using e = einstellungen;
+using schema = std::array<int, 8>;
+
+constexpr int pausenzeichen = 7;
+
+/// "1-6-5-4-3-2-P"
+std::string schema_text(const schema& folge) {
+    std::string text;
+    for (std::size_t i = 1; i < folge.size(); ++i) {
+        text += i > 1 ? "-" : "";
+        text += folge.at(i) == pausenzeichen ? "P" : std::to_string(folge.at(i));
+    }
+    return text;
+}
+
+/// Seven different marks, with or without signs between them: the lanes and the pause.
+std::optional<schema> schema_lesen(const std::string& text) {
+    schema folge{};
+    std::size_t anzahl = 0;
+    for (const char zeichen : text) {
+        if (zeichen == '-' || zeichen == ' ') {
+            continue;
+        }
+        const bool pause = zeichen == 'P' || zeichen == 'p';
+        const int wert = pause ? pausenzeichen : zeichen - '0';
+        const bool gueltig = pause || (wert >= 1 && wert < pausenzeichen);
+        if (!gueltig || std::find(folge.begin(), folge.end(), wert) != folge.end() || ++anzahl >= folge.size()) {
+            return std::nullopt;
+        }
+        folge.at(anzahl) = wert;
+    }
+    return anzahl + 1 == folge.size() ? std::optional(folge) : std::nullopt;
+}
+
+optionszeile_zeiger wechselschema() {
+    optionszeile_zeiger zeile = leeres_feld({"wechsel_schema", "Reihenfolge der Spuren, P = Pause", ""}, 20);
+    optionszeile* zeiger = zeile.get();
+    feld* element = &std::get<feld>(zeile->element);
+    zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen](sprachliste& texte) {
+        davor(texte);
+        texte.text("Schema ungültig", zeiger->grenzen_meldung);
+    };
+    zeile->zeigen = [element](const einstellungs_ziel& z) { element->text(schema_text(z.einst.wechsel_schema)); };
+    zeile->uebernehmen = [element, zeiger](const einstellungs_ziel& z, const optionszeile::melder& melden) {
+        if (element->text() == schema_text(z.einst.wechsel_schema)) {
+            return;
+        }
+        if (const auto folge = schema_lesen(element->text())) {
+            z.einst.wechsel_schema = *folge;
+        } else {
+            melden(zeiger->grenzen_meldung);
+        }
+    };
+    return zeile;
+}
+
+/// The length of the warm-up has limits of its own for laps and for seconds.
+optionszeile_zeiger einfahrdauer() {
+    optionszeile_zeiger zeile = leeres_feld({"w_edauertext", "Einfahrdauer", "max 99 Runden oder 999 Sekunden"}, 4);
+    feld* element = &std::get<feld>(zeile->element);
+    zeile->zeigen = [element](const einstellungs_ziel& z) { element->text(zahl_als_text(z.einst.w_edauer)); };
+    zeile->uebernehmen = [element](const einstellungs_ziel& z, const auto&) {
+        const zahl_regel regel =
+            z.einst.w_edauer_runden ? zahl_regel{1, 99, {}, 2, 10} : zahl_regel{1, 999, {}, 60, 999};
+        const double zahl = zahl_im_feld(*element);
+        const double gilt = zahl < regel.min ? regel.darunter : zahl > regel.max ? regel.darueber : zahl;
+        z.einst.w_edauer = static_cast<int>(gilt);
+    };
+    return zeile;
+}
+
+}  // namespace
+
+optionsseite_zeiger wettkampf_training() {
+    auto seite = std::make_unique<optionsseite>("Wettkampf/Training");
+    seite->gruppe("Wettkampf", 0) << wahl({"wechselauswahl", "Wechselmodus"}, wert(&e::w_wechselmodus), 1,
+                                          {"Wechselmodus normaler Wettkampf", "Jeder gegen Jeden / 2spurig",
+                                           "CU Modus, nur einmal fahren!"})
+                                  << kasten({"dummy_opt", "Freie Slots ausblenden"}, wert(&e::freie_slots))
+                                  << kasten({"w_speichern", "Wettkampf nach jedem Rennen speichern"},
+                                            wert(&e::w_speichern))
+                                  << kasten({"opt_centermode", "Centermode"}, wert(&e::centermode));
+    seite->gruppe("Wechselschema", 0) << text({"Wechselschemaauswahl", "Name"}, wert(&e::wechselschema_name), 80)
+                                      << wechselschema();
+    seite->gruppe("Einfahren", 1) << kasten({"w_einfahren_an", "Einfahrzeit aktivieren"}, wert(&e::w_einfahren_an))
+                                  << entweder({"w_edauer1", "Einfahren nach"}, wert(&e::w_edauer_runden), "Runden",
+                                              "Sekunden")
+                                  << einfahrdauer();
+    seite->gruppe("Automatischer Ablauf", 1)
+        << kasten({"w_autom", "automatischer Wettkampf Ablauf"}, wert(&e::w_autom))
+        << zahl({"w_zeit1", "Wartezeit bis Rennbeginn", "Sekunden"}, wert(&e::w_zeit1),
+                {1, 300, "Autom. Wettkampfablauf: Wartezeit bis Rennbeginn außerhalb des gültigen Bereichs (1-300)."},
+                1000)
+        << zahl({"w_zeit2", "Wartezeit nach Einfahrfunktion", "Sekunden"}, wert(&e::w_zeit2),
+                {1, 300,
+                 "Autom. Wettkampfablauf: Wartezeit nach Einfahrfunktion außerhalb des gültigen Bereichs (1-300)."},
+                1000);
+    seite->gruppe("Training", 1) << wahl({"cmb_training", "Trainingsart"}, wert(&e::training_art), 0,
+                                         {"normales Training", "Intervaltraining", "Dauertraining"})
+                                 << zahl({"txt_trainingwechseldauer", "Countdown bis zum Fahrerwechsel", "Sekunden"},
+                                         wert(&e::training_wechseldauer), begrenzt(0, 1000))
+                                 << wahl({"cmb_trainingweiter", "danach"}, wert(&e::training_weiter), 0,
+                                         {"neu starten", "fortsetzen"});
+    return seite;
+}
+
+optionsseite_zeiger bestzeiten() {
+    auto seite = std::make_unique<optionsseite>("Bestzeitverwaltung");
+    seite->gruppe("Bestzeiten", 0) << text({"beste_datei", "Bestzeitdatei"}, wert(&e::beste_datei), 60)
+                                   << wahl({"Combo1", "Speicherung"}, wert(&e::beste_modus), 0,
+                                           {"Bestzeiten deaktiviert", "automatische Speicherung",
+                                            "manuelle Speicherung!"});
+    return seite;
+}
+
+}  // namespace tarvel::optionsseiten

@@ -1,0 +1,412 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/text.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using meldungen = std::vector<test::test_plattform::meldung>;
+using f = einstellungsfenster;
+
+constexpr const char* bleibt = " Die alte Einstellung wird beibehalten.";
+constexpr const char* grenzen_titel = "Parameter außerhalb gültiger Werte";
+
+class Optionen : public testing::Test {
+protected:
+    Optionen() { oeffnen(); }
+
+    void oeffnen() { t.p.form1.Command4.klicken(); }
+    bool offen() { return t.p.fenster.ist_offen("einstellungen"); }
+    template <class Element>
+    Element& element(const std::string& name) {
+        return std::get<Element>(fenster.zeile(name).element);
+    }
+    void tippen(const std::string& name, std::string_view text) { element<feld>(name).eingeben(text); }
+    void waehlen(const std::string& name, int platz) { element<auswahl>(name).waehlen(platz); }
+    void kreuzen(const std::string& name) { element<haken>(name).umschalten(); }
+    /// Takes over and opens again.
+    void uebernehmen() {
+        fenster.Command1.klicken();
+        EXPECT_FALSE(offen());
+        oeffnen();
+    }
+    /// Types into one field, takes over, and returns the messages of that.
+    meldungen nach_eingabe(const std::string& name, std::string_view text) {
+        t.maschine.meldungen_gezeigt.clear();
+        tippen(name, text);
+        uebernehmen();
+        return t.maschine.meldungen_gezeigt;
+    }
+
+    test::testprogramm t;
+    einstellungsfenster& fenster = t.p.einstellungsfenster;
+    einstellungen& einst = t.p.einst;
+};
+
+struct grenze {
+    const char* name;
+    const char* meldung;
+    std::vector<const char*> ausserhalb;
+    const char* unten;
+    const char* oben;
+    std::function<double(const einstellungen&)> wert;
+    double wert_unten;
+    double wert_oben;
+};
+
+TEST_F(Optionen, GrenzenMitMeldungLassenDenAltenWertUndNehmenDieAnderen) {
+    using e = einstellungen;
+    const std::vector<grenze> grenzen{
+        {"f_strafzeit",
+         "Stromunterbrechung bei Frühstart außerhalb des gültigen Bereichs (0-300).",
+         {"-1", "301"},
+         "0",
+         "300",
+         [](const e& x) { return x.fruehstart_strafzeit + x.fruehstart_schritte; },
+         0,
+         30300},
+        {"t_wartezeit",
+         "Wartezeit bis Tankbeginn außerhalb des gültigen Bereichs (0-60).",
+         {"60,1", "-0,1"},
+         "0",
+         "60",
+         [](const e& x) { return x.tank_wartezeit; },
+         0,
+         6000},
+        {"t_inhalt_w",
+         "Tankinhalt außerhalb des gültigen Bereichs (1-100).",
+         {"0", "101", "", "viel"},
+         "1",
+         "100",
+         [](const e& x) { return x.tank_inhalt; },
+         1,
+         100},
+        {"t_verbrauch_w",
+         "Benzinverbrauch außerhalb des gültigen Bereichs (1-30).",
+         {"0", "31"},
+         "1",
+         "30",
+         [](const e& x) { return x.tank_verbrauch; },
+         1,
+         30},
+        {"t_rundenzeit_w",
+         "Durchschn. Rundenzeit außerhalb des gültigen Bereichs (1-300).",
+         {"0", "301"},
+         "1",
+         "300",
+         [](const e& x) { return x.tank_rundenzeit; },
+         1,
+         300},
+        {"t_warnung",
+         "in Box bei Literzahl außerhalb des gültigen Bereichs.",
+         {"0,9", "50,1"},
+         "1",
+         "50",
+         [](const e& x) { return x.tank_warnung; },
+         1,
+         50},
+        {"w_zeit1",
+         "Autom. Wettkampfablauf: Wartezeit bis Rennbeginn außerhalb des gültigen Bereichs (1-300).",
+         {"0", "301"},
+         "1",
+         "300",
+         [](const e& x) { return x.w_zeit1; },
+         1000,
+         300000},
+        {"w_zeit2",
+         "Autom. Wettkampfablauf: Wartezeit nach Einfahrfunktion außerhalb des gültigen Bereichs (1-300).",
+         {"0", "301"},
+         "1",
+         "300",
+         [](const e& x) { return x.w_zeit2; },
+         1000,
+         300000},
+        {"t_strafzeit",
+         "Strafzeit bei leerem Tank außerhalb des gültigen Bereichs (0-60).",
+         {"-1", "61"},
+         "0",
+         "60",
+         [](const e& x) { return x.tank_strafzeit; },
+         0,
+         6000},
+        {"chaos_durch",
+         "Timeout bei Sensordurchfahrt außerhalb des gültigen Bereichs (0-10).",
+         {"10,5", "-1"},
+         "0",
+         "10",
+         [](const e& x) { return x.sensor_timeout; },
+         0,
+         10000},
+    };
+    for (const grenze& g : grenzen) {
+        for (const char* text : g.ausserhalb) {
+            const double vorher = g.wert(einst);
+            kreuzen("formelcheck");
+            const bool soll = element<haken>("formelcheck").gesetzt();
+            EXPECT_EQ(nach_eingabe(g.name, text), (meldungen{{std::string(g.meldung) + bleibt, grenzen_titel}}))
+                << g.name << " " << text;
+            EXPECT_EQ(g.wert(einst), vorher) << g.name << " " << text;
+            EXPECT_EQ(einst.runde_beenden, soll) << "the other values are taken over";
+        }
+        for (const auto& gezeigt : nach_eingabe(g.name, g.unten)) {
+            EXPECT_NE(gezeigt.text, std::string(g.meldung) + bleibt);  // a tiny tank leaves no room for its warning
+        }
+        EXPECT_EQ(g.wert(einst), g.wert_unten) << g.name;
+        EXPECT_TRUE(nach_eingabe(g.name, g.oben).empty()) << g.name;
+        EXPECT_EQ(g.wert(einst), g.wert_oben) << g.name;
+    }
+}
+
+TEST_F(Optionen, KommaUndPunktSindDasselbe) {
+    EXPECT_TRUE(nach_eingabe("t_wartezeit", "1,25").empty());
+    EXPECT_EQ(einst.tank_wartezeit, 125);
+    EXPECT_EQ(element<feld>("t_wartezeit").text(), "1,25");
+    EXPECT_TRUE(nach_eingabe("t_wartezeit", "2.5").empty());
+    EXPECT_EQ(einst.tank_wartezeit, 250);
+    EXPECT_TRUE(nach_eingabe("sektor_laenge_2_6", "3,5").empty());
+    EXPECT_EQ(einst.sektor_laenge[2][6], "3.5");
+}
+
+TEST_F(Optionen, StilleKorrekturen) {
+    struct fall {
+        const char* name;
+        const char* text;
+        std::function<int(const einstellungen&)> wert;
+        int soll;
+    };
+    using e = einstellungen;
+    const auto beste = [](const e& x) { return x.snd_beste_runde; };
+    const auto justierung = [](const e& x) { return x.tanksensor_justierung; };
+    const auto chaos = [](const e& x) { return x.chaos_strafzeit; };
+    const auto training = [](const e& x) { return x.training_wechseldauer; };
+    const auto einfahren = [](const e& x) { return x.w_edauer; };
+    const auto lpt = [](const e& x) { return x.lpt_adresse; };
+    const auto laufen = [&](const std::vector<fall>& faelle) {
+        for (const fall& eine : faelle) {
+            EXPECT_TRUE(nach_eingabe(eine.name, eine.text).empty());
+            EXPECT_EQ(eine.wert(einst), eine.soll) << eine.name << " " << eine.text;
+        }
+    };
+    laufen({{"snd_beste", "0", beste, 5},
+            {"snd_beste", "10", beste, 10},
+            {"snd_beste", "11", beste, 5},
+            {"txt_justierung_aufeinemsensortanken", "11", justierung, 12},
+            {"txt_justierung_aufeinemsensortanken", "101", justierung, 100},
+            {"e_ch_strafzeit", "123456", chaos, 1234},
+            {"txt_trainingwechseldauer", "1001", training, 1000},
+            {"w_edauertext", "0", einfahren, 2},
+            {"w_edauertext", "100", einfahren, 10},
+            {"lpt_text", "2f8", lpt, 0x2F8},
+            {"lpt_text", "XYZ", lpt, 0x2F8}});
+    waehlen("w_edauer1", 1);
+    laufen({{"w_edauertext", "0", einfahren, 60}, {"w_edauertext", "1000", einfahren, 999}});
+}
+
+TEST_F(Optionen, WasAusAnderenWertenFolgt) {
+    EXPECT_EQ(einst.ampel_takt, 1500);
+    waehlen("start_ampel_combo", 6);
+    uebernehmen();
+    EXPECT_EQ(einst.ampel_takt, 500);
+
+    kreuzen("fahrzeug_wechseln");
+    uebernehmen();
+    EXPECT_FALSE(einst.fahrzeug_wechseln);
+    kreuzen("opt_centermode");
+    uebernehmen();
+    EXPECT_TRUE(einst.fahrzeug_wechseln);
+
+    waehlen("sektor_anzeige", 1);
+    waehlen("topspeed_anzeige", 1);
+    uebernehmen();
+    EXPECT_EQ(einst.topspeed_anzeige, 2);
+    waehlen("sektor_anzeige", 2);
+    uebernehmen();
+    EXPECT_EQ(einst.topspeed_anzeige, 1);
+
+    kreuzen("nachtrennen");
+    EXPECT_EQ(einst.nachtrennen_modus, 0);
+    uebernehmen();
+    EXPECT_EQ(einst.nachtrennen_modus, 1);
+    kreuzen("nachtampel");
+    uebernehmen();
+    EXPECT_EQ(einst.nachtrennen_modus, 2);
+    kreuzen("nachtrennen");  // the light of a night race goes with it
+    uebernehmen();
+    EXPECT_EQ(einst.nachtrennen_modus, 0);
+}
+
+TEST_F(Optionen, ReglerbefehleDerControlUnit) {
+    const spuren<std::string> werksbefehle{{"J201518$", "J221510$", "J241512$", "J261514$", "J281516$", "J2:1518$"}};
+    EXPECT_EQ(einst.cu_reglerbefehl.werte_, werksbefehle.werte_);
+    EXPECT_TRUE(nach_eingabe("cu_spur_wert_3", "7").empty());
+    EXPECT_EQ(einst.cu_reglerbefehl[3], "J240712$");
+}
+
+TEST_F(Optionen, WechselschemaNurVollstaendig) {
+    for (const char* text : {"123456", "1-2-3-4-5-6-6", "0-1-2-3-4-5-6", "1-2-3-4-5-6-P-1", "Unfug"}) {
+        const auto gezeigt = nach_eingabe("wechsel_schema", text);
+        ASSERT_EQ(gezeigt.size(), 1U) << text;
+        EXPECT_EQ(gezeigt[0].text, std::string("Schema ungültig") + bleibt);
+        EXPECT_EQ(einst.wechsel_schema, (std::array<int, 8>{0, 1, 6, 5, 4, 3, 2, 7}));
+    }
+    EXPECT_TRUE(nach_eingabe("wechsel_schema", "P123456").empty());
+    EXPECT_EQ(einst.wechsel_schema, (std::array<int, 8>{0, 7, 1, 2, 3, 4, 5, 6}));
+}
+
+TEST_F(Optionen, AbbrechenAendertNichts) {
+    const auto vorher = t.p.datei.schreiben();
+    tippen("t_inhalt_w", "99");
+    kreuzen("formelcheck");
+    waehlen("start_ampel_combo", 0);
+    fenster.hardware[3].umschalten();
+    fenster.fahrerseite.alle_loeschen.klicken();
+    fenster.Command2.klicken();
+    EXPECT_FALSE(offen());
+    EXPECT_EQ(t.p.datei.schreiben(), vorher);
+    oeffnen();
+    EXPECT_EQ(element<feld>("t_inhalt_w").text(), "60");
+    EXPECT_TRUE(fenster.hardware[0].gesetzt());
+    EXPECT_EQ(fenster.fahrerseite.namen.zeilen().size(), 6U);
+}
+
+TEST_F(Optionen, EineMesshardwareZurZeit) {
+    const auto gesetzt = [this] {
+        std::vector<std::size_t> nummern;
+        for (std::size_t i = 0; i < fenster.hardware.size(); ++i) {
+            if (fenster.hardware.at(i).gesetzt()) {
+                nummern.push_back(i);
+            }
+        }
+        return nummern;
+    };
+    for (const std::size_t nummer : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 0U}) {
+        fenster.hardware.at(nummer).umschalten();
+        uebernehmen();
+        EXPECT_EQ(gesetzt(), (std::vector<std::size_t>{nummer}));
+        EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? 4 : 3);
+        EXPECT_EQ(einst.hardware.hw_simulation, nummer == 0 || nummer > 5) << nummer;
+        const std::string zusatz = nummer == 5 ? ": Kein Modus" : "";
+        EXPECT_EQ(t.p.form1.modus_label.text(), t.p.txt.hardware_name.at(nummer) + zusatz);
+    }
+}
+
+TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
+    const std::vector<std::string> vorher = t.p.datei.schreiben();
+    const auto aendern = [](optionszeile& zeile) {
+        if (auto* kasten = std::get_if<haken>(&zeile.element)) {
+            kasten->aktiviert(true);
+            kasten->gesetzt(!kasten->gesetzt());
+        } else if (auto* eingabe = std::get_if<feld>(&zeile.element)) {
+            const bool zahl =
+                !eingabe->text().empty() && eingabe->text().find_first_not_of("0123456789,") == std::string::npos;
+            const std::string neue_zahl = zahl_lesen(eingabe->text()) == 3 ? "4" : "3";
+            eingabe->text(zeile.name.starts_with("trennzeichen") ? "#" : zahl ? neue_zahl : eingabe->text() + "x");
+        } else if (auto* liste = std::get_if<auswahl>(&zeile.element)) {
+            const int anzahl = static_cast<int>(liste->eintraege().size());
+            liste->platz((liste->platz() + 1) % anzahl);
+        } else if (auto* farbe_element = std::get_if<farbfeld>(&zeile.element)) {
+            farbe_element->wert(farbe_element->wert() ^ 0x010203U);
+        } else if (auto* sound = std::get_if<soundfeld>(&zeile.element)) {
+            sound->datei.text("sound\\neu.wav");
+        }
+    };
+    for (int nummer = 0; nummer < f::seiten_anzahl; ++nummer) {
+        if (optionsseite* seite = fenster.zeilenseite(nummer)) {
+            for (const auto& gruppe : seite->gruppen) {
+                for (const auto& zeile : gruppe->zeilen) {
+                    aendern(*zeile);
+                }
+            }
+        }
+    }
+    element<feld>("wechsel_schema").text("P-1-6-5-4-3-2");
+    element<feld>("t_inhalt_w").text("40");
+    element<haken>("opt_centermode").gesetzt(false);  // it would set another value back
+    fenster.hardware[4].umschalten();
+    waehlen("optModus", 2);
+    t.maschine.meldungen_gezeigt.clear();
+    fenster.Command1.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt, meldungen{});
+    const std::vector<std::string> nachher = t.p.datei.schreiben();
+
+    // What the window may leave as it was: the fields of the main window, the titles and words of the file, the flags
+    // of the other hardware, and the centre mode.
+    std::set<int> unveraendert;
+    for (int z = 1; z <= 343; ++z) {
+        const std::string& zeile = nachher.at(static_cast<std::size_t>(z) + 1);
+        if (zeile == vorher.at(static_cast<std::size_t>(z) + 1) && !zeile.empty() && !zeile.starts_with('[')) {
+            unveraendert.insert(z);
+        }
+    }
+    std::set<int> erlaubt{26, 27, 28, 29, 30, 33, 57, 66, 67, 68, 114, 115, 181, 182, 183, 230, 245, 252, 298};
+    for (const int block : {1, 7, 13, 19, 217, 223}) {
+        for (int z = block + 1; z <= block + 4; ++z) {
+            erlaubt.insert(z);
+        }
+    }
+    for (int z = 1; z <= 343; ++z) {
+        EXPECT_EQ(unveraendert.count(z), erlaubt.count(z))
+            << "Z " << z << ": " << nachher.at(static_cast<std::size_t>(z) + 1);
+    }
+
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt, meldungen{});
+    EXPECT_EQ(neu.datei.schreiben(), nachher);
+    EXPECT_EQ(neu.einst.trennzeichen, (trennzeichen_tabelle{"#", "#", "#"}));
+}
+
+TEST_F(Optionen, TrennzeichenDateiWirdGemeldetUndNurNachAenderungGeschrieben) {
+    fenster.Command2.klicken();
+    t.maschine.datei_schreiben("trennzeichen.ini", "Unfug");
+    t.maschine.meldungen_gezeigt.clear();
+    oeffnen();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{t.p.txt.meldung[25], "Fehlermeldung"}}));
+    uebernehmen();
+    EXPECT_EQ(t.maschine.datei_lesen("trennzeichen.ini"), " 58 \r\n 44 \r\n 59 \r\n");
+    t.maschine.datei_schreiben("trennzeichen.ini", "58,44,59\r\n");
+    uebernehmen();
+    EXPECT_EQ(t.maschine.datei_lesen("trennzeichen.ini"), "58,44,59\r\n") << "nothing has changed";
+    std::filesystem::create_directory(t.maschine.ordner() / "trennzeichen.ini.tarvel-neu");
+    tippen("trennzeichen_0", ".");
+    t.maschine.meldungen_gezeigt.clear();
+    fenster.Command1.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{t.p.txt.meldung[24], "Fehlermeldung"}}));
+    EXPECT_TRUE(offen()) << "the operator sees that it is not saved";
+    EXPECT_EQ(t.maschine.datei_lesen("trennzeichen.ini"), "58,44,59\r\n");
+}
+
+TEST_F(Optionen, SpeichertInDieGeltendeDatei) {
+    t.p.form1.Command5.klicken();
+    t.p.speichernfenster.name.eingeben("klub");
+    t.p.speichernfenster.Command1.klicken();
+    EXPECT_TRUE(nach_eingabe("t_inhalt_w", "77").empty());
+    EXPECT_NE(t.maschine.datei_lesen("Einstellungen/klub.ini").find("\r\n 77 \r\n"), std::string::npos);
+    EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini").find("\r\n 77 \r\n"), std::string::npos);
+}
+
+TEST_F(Optionen, SoundsAusDemOrdnerZurAuswahlUndZumAnhoeren) {
+    t.maschine.datei_schreiben("sound/rs.wav", "RIFF");
+    t.maschine.datei_schreiben("musik/hymne.WAV", "RIFF");
+    fenster.seitenliste.auswaehlen(f::seite_sounds);
+    auto& start = element<soundfeld>("sound_dateien_2");
+    auto& ende = element<soundfeld>("sound_dateien_3");
+    EXPECT_EQ(start.datei.eintraege(), (std::vector<std::string>{"sound\\rs.wav"}));
+    EXPECT_FALSE(ende.abspielen.aktiviert()) << "there is no such file";
+    start.abspielen.klicken();
+    EXPECT_EQ(t.maschine.sounds, (std::vector<std::string>{"sound\\rs.wav"}));
+    ende.datei.eingeben("musik\\hymne.WAV");
+    ende.abspielen.klicken();
+    EXPECT_EQ(t.maschine.sounds.back(), "musik\\hymne.WAV");
+    tippen("sound_ordner", "musik");
+    fenster.seitenliste.auswaehlen(f::seite_sounds);
+    EXPECT_EQ(start.datei.eintraege(), (std::vector<std::string>{"musik\\hymne.WAV"}));
+    EXPECT_EQ(fenster.zeile("sound_dateien_55").beschriftung.text(), "noch 9 Sekunden");
+    EXPECT_EQ(fenster.zeile("sound_dateien_42").beschriftung.text(), "Soundsensor 5");
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,51 @@
+#include "ui/bildwahl_fenster.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/ordnerblick.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr QSize vorschaugroesse(320, 240);
+
+}  // namespace
+
+BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* eltern)
+    : Fenster("fahrerbild_laden", takt, eltern) {
+    binder().fenstertitel(logik.titel);
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(16, 12, 16, 12);
+    auto* oben = new QHBoxLayout;
+    oben->addWidget(binder().label(logik.Label_laufwerk, "Label_laufwerk"));
+    oben->addWidget(binder().auswahlfeld(logik.laufwerk, "laufwerk"));
+    oben->addWidget(binder().label(logik.pfad, "pfad"), 1);
+    aufbau->addLayout(oben);
+
+    auto* mitte = new QHBoxLayout;
+    mitte->setSpacing(14);
+    const auto spalte = [&](bezeichnung& titel, tarvel::liste& liste, const QString& name) {
+        auto* paar = new QVBoxLayout;
+        paar->addWidget(binder().label(titel, "Label_" + name));
+        QListView* widget = binder().listenfeld(liste, name);
+        paar->addWidget(widget, 1);
+        mitte->addLayout(paar, 1);
+        return widget;
+    };
+    QListView* ordner = spalte(logik.Label_ordner, logik.ordner, "ordner");
+    QObject::connect(ordner, &QListView::activated, ordner,
+                     [&logik](const QModelIndex& zeile) { logik.ordner.doppelklicken(zeile.row()); });
+    spalte(logik.Label_datei, logik.datei, "datei");
+    mitte->addWidget(binder().bildfeld(logik.vorschau, "vorschau", vorschaugroesse, pfad_aus_utf8), 0, Qt::AlignTop);
+    aufbau->addLayout(mitte, 1);
+
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->addStretch();
+    knoepfe->addWidget(binder().hauptknopf(logik.Command1, "Command1"));
+    knoepfe->addWidget(binder().knopf(logik.Command2, "Command2"));
+    aufbau->addLayout(knoepfe);
+    resize(860, 480);
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "optionen/bildwahl.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window in which a picture is found on the machine.
+class BildwahlFenster : public Fenster {
+public:
+    BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* eltern);
+};
+
+}  // namespace tarvel::ui

@@ -1,0 +1,65 @@
+#include "ui/umbruchkasten.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <algorithm>
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int schmalste_zeile = 90;
+constexpr int rand = 2;
+constexpr int unendlich = 10000;
+
+}  // namespace
+
+UmbruchKasten::UmbruchKasten(QWidget* eltern) : QCheckBox(eltern) {
+    QSizePolicy platz(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    platz.setHeightForWidth(true);
+    setSizePolicy(platz);
+}
+
+int UmbruchKasten::einzug() const {
+    return style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) + 8;
+}
+
+QRect UmbruchKasten::textflaeche(int breite) const {
+    const int platz = std::max(breite - einzug() - rand, schmalste_zeile);
+    return fontMetrics().boundingRect(QRect(0, 0, platz, unendlich), Qt::AlignLeft | Qt::TextWordWrap, text());
+}
+
+QSize UmbruchKasten::sizeHint() const {
+    const QRect flaeche = textflaeche(unendlich);
+    return {einzug() + flaeche.width() + 2 * rand, heightForWidth(unendlich)};
+}
+
+QSize UmbruchKasten::minimumSizeHint() const {
+    return {einzug() + schmalste_zeile + 2 * rand, heightForWidth(unendlich)};
+}
+
+int UmbruchKasten::heightForWidth(int breite) const {
+    const int kasten = style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this);
+    return std::max(textflaeche(breite).height(), kasten) + 2 * rand + 2;
+}
+
+void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
+    QStylePainter maler(this);
+    QStyleOptionButton stand;
+    initStyleOption(&stand);
+    QStyleOptionButton kasten = stand;
+    kasten.rect = QRect(rand, 0, style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
+                        style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this));
+    kasten.rect.moveTop(rand + (fontMetrics().height() - kasten.rect.height()) / 2);
+    maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
+    const QRect schrift = rect().adjusted(einzug() + rand, rand, 0, -rand);
+    maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, palette(), isEnabled(), text(),
+                       QPalette::WindowText);
+    if (hasFocus()) {
+        QStyleOptionFocusRect rahmen;
+        rahmen.initFrom(this);
+        rahmen.rect = schrift.adjusted(-3, -1, 0, 1);
+        maler.drawPrimitive(QStyle::PE_FrameFocusRect, rahmen);
+    }
+}
+
+}  // namespace tarvel::ui

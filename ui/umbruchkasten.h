@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QCheckBox>
+
+namespace tarvel::ui {
+
+/// A tick box whose text goes on in further lines where the place is narrow.
+class UmbruchKasten : public QCheckBox {
+public:
+    explicit UmbruchKasten(QWidget* eltern = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int breite) const override;
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+    bool hitButton(const QPoint& ort) const override { return rect().contains(ort); }
+
+private:
+    QRect textflaeche(int breite) const;
+    int einzug() const;
+};
+
+}  // namespace tarvel::ui
