@@ -113,7 +113,7 @@ public:
     /// Picture of the vehicle on a lane, if vehicle pictures are wanted.
     void autobild_anzeigen(int nummer);
     void bilder_anzeigen();
-    /// What is said behind the number of pictures taken over.
+    /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
     void einstellungsname_anzeigen(std::string_view name);

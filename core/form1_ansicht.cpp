@@ -35,7 +35,7 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahrerbilder aus dem Ordner pictures den Fahrern gleichen Namens zuordnen", Command13);
     texte.tipp("Bahnstrom einschalten", Command6).tipp("Bahnstrom ausschalten", Command12);
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
-    return texte.text("Bilder wurden zugeordnet.", wort_bilder_);
+    return texte.text("Zugeordnete Bilder: ", wort_bilder_);
 }
 
 void form1::ansagen_setzen() {

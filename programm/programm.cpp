@@ -99,7 +99,7 @@ void programm::bilder_uebernehmen(namensliste& liste, const std::string& datei_n
         dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_gespeichert)), txt.titel[1]);
         return;
     }
-    dienste.meldungen.zeigen(std::to_string(anzahl) + " " + form1.bilder_text(), txt.titel[0]);
+    dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
 }
 
 void programm::fenster_anmelden() {

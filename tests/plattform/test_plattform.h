@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,9 @@ public:
         std::string text;
         std::string titel;
         bool operator==(const meldung&) const = default;
+        friend std::ostream& operator<<(std::ostream& aus, const meldung& m) {
+            return aus << m.titel << ": " << m.text;
+        }
     };
 
     test_plattform();
