@@ -83,6 +83,9 @@ void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
         if (tabelle[platz(z)].laden) {
             tabelle[platz(z)].laden(um_.ziel, zeile(z));
         }
+        if (z == z::vor_den_bestzeiten && bestzeiten_laden) {
+            bestzeiten_laden();
+        }
     }
     einstellungen& einst = um_.ziel.einst;
     einst.sektor_an[0] = std::any_of(einst.sektor_an.begin() + 1, einst.sektor_an.end(), [](bool an) { return an; });

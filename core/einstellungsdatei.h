@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,8 @@ public:
     void einstellungsdatei_pruefen();
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `modus_4x4_start`, else 0.
     void einstellungen_uebernehmen(int modus_4x4_start);
+    /// Runs in the middle of taking over, as soon as it is known which best times are wanted.
+    std::function<void()> bestzeiten_laden;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 

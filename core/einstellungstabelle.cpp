@@ -316,7 +316,7 @@ void erweitert(tabelle& t) {  // Z 256 to Z 299
       << zeile::text(wert(&e::uart_baud), "57600", 0,
                      reparieren_wenn_keins({"4800", "9600", "19200", "38400", "57600", "115200"}, "57600"))
       << zeile::ganzzahl(wert(&e::uart_datenbits), 8, reparieren_ausser(4, 8, "8"))
-      << zeile::text(wert(&e::uart_parity), "N", 0, reparieren_wenn_keins({"E", "O", "N", "M", "S"}, "N"))
+      << zeile::text(wert(&e::uart_parity), "N", 0, reparieren_wenn_nicht_in("EONMSO", "N"))
       << zeile::text(wert(&e::uart_stopbits), "1", 0, reparieren_wenn_keins({"1", "1.5", "1,5", "2"}, "1"))
       << zeile::wahrheit(hardware(&messhardware::hw_uart), false, nur_wahr, false) << zeile::leer();
 }

@@ -67,6 +67,15 @@ art reparieren_wenn_keins(std::vector<std::string> erlaubt, std::string_view ers
     };
 }
 
+art reparieren_wenn_nicht_in(std::string_view worte, std::string_view ersatz) {
+    return [worte = std::string(worte), neu = std::string(ersatz)](einstellungs_zeilen& zeilen, int z) {
+        if (an(zeilen, z).empty() || worte.find(an(zeilen, z)) == std::string::npos) {
+            an(zeilen, z) = neu;
+        }
+        return zeilen_urteil::gut;
+    };
+}
+
 art nur_wahrheitswert() {
     return [](einstellungs_zeilen& zeilen, int z) {
         return ablehnen_wenn(an(zeilen, z) != wahr && an(zeilen, z) != falsch);

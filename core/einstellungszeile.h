@@ -38,6 +38,8 @@ using art = std::function<zeilen_urteil(einstellungs_zeilen&, int)>;
 art ablehnen_ausser(double min, double max);
 art reparieren_ausser(double min, double max, std::string_view ersatz);
 art reparieren_wenn_keins(std::vector<std::string> erlaubt, std::string_view ersatz);
+/// Mends a line that is no part of `worte`, or empty.
+art reparieren_wenn_nicht_in(std::string_view worte, std::string_view ersatz);
 /// Only the two words.
 art nur_wahrheitswert();
 art nur_text(std::string_view text);

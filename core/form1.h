@@ -113,6 +113,8 @@ public:
     /// Picture of the vehicle on a lane, if vehicle pictures are wanted.
     void autobild_anzeigen(int nummer);
     void bilder_anzeigen();
+    /// Best time of each lane; none is kept yet.
+    void bestzeiten_anzeigen();
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();

@@ -60,9 +60,7 @@ void form1::laden() {
     ansagen_setzen();
     t_aktiv.sichtbar(false);
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
-    for (bezeichnung& bestzeit : Label_fahrzeug) {
-        bestzeit.text("–");
-    }
+    bestzeiten_anzeigen();
     farben_einstellen();
     rennart_geaendert();
     timer1_->an();
@@ -108,8 +106,15 @@ void form1::bilder_anzeigen() {
     }
 }
 
+void form1::bestzeiten_anzeigen() {
+    for (bezeichnung& bestzeit : Label_fahrzeug) {
+        bestzeit.text("–");
+    }
+}
+
 void form1::fahrer_Change(int nummer) {
     fahrerbild_laden(fahrer[feld_index(nummer)].text(), nummer);
+    bestzeiten_anzeigen();
 }
 
 void form1::farben_einstellen() {

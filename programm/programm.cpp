@@ -74,6 +74,7 @@ void programm::hauptfenster_verbinden() {
 }
 
 void programm::optionen_verbinden() {
+    datei.bestzeiten_laden = [this] { form1.bestzeiten_anzeigen(); };
     einstellungsfenster.einstellungen_speichern = [this] {
         einstellungen_speichern("Einstellungen\\" + einstell_datei);
         return !datei.fehler_laden();

@@ -90,6 +90,7 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
         QComboBox* widget = binder_.auswahlfeld(sound->datei, name);
         widget->setMinimumContentsLength(9);
         raster->addWidget(widget, platz, 1);
+        raster->setColumnStretch(1, 1);  // file names are longer than captions
         QPushButton* abspielen = binder_.knopf(sound->abspielen, name + "_abspielen");
         abspielen->setMaximumWidth(44);
         raster->addWidget(abspielen, platz, 2);

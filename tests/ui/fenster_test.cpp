@@ -6,48 +6,12 @@
 #include <QListView>
 #include <QTest>
 
-#include "tests/plattform/testprogramm.h"
-#include "ui/oberflaeche.h"
+#include "tests/ui/oberflaeche_probe.h"
 
 namespace tarvel {
 namespace {
 
-/// The program with its real windows, on the test machine.
-class Oberflaeche : public testing::Test {
-protected:
-    template <class Widget>
-    Widget* finde(QWidget& fenster, const char* name) {
-        auto* widget = fenster.findChild<Widget*>(name);
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
-    }
-    void klick(QWidget& fenster, const char* name) {
-        QTest::mouseClick(finde<QAbstractButton>(fenster, name), Qt::LeftButton);
-    }
-    void tippen(QWidget& fenster, const char* name, const char* text) {
-        auto* zeile = finde<QLineEdit>(fenster, name);
-        zeile->selectAll();
-        QTest::keyClicks(zeile, text);
-    }
-    /// Keys as the window system sends them: to the widget that has the focus.
-    void taste(QWidget& fenster, char zeichen) {
-        fenster.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
-        QTest::keyClick(fenster.focusWidget() != nullptr ? fenster.focusWidget() : &fenster, zeichen);
-    }
-    QString anzeige(QWidget& fenster, const char* name) {
-        o.takt.ausfuehren();
-        return finde<ui::TextAnzeige>(fenster, name)->text();
-    }
-
-    test::testprogramm t;
-    ui::Oberflaeche o{t.p};
-
-    void SetUp() override {
-        t.p.fenster.zeigen("Form1");
-        o.takt.ausfuehren();
-    }
-};
+class Oberflaeche : public test::OberflaecheProbe {};
 
 TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
     klick(o.form1, "Form1.spur_2");

@@ -1,0 +1,120 @@
+#include <QColorDialog>
+#include <QListView>
+#include <QScrollArea>
+
+#include "core/text.h"
+#include "tests/ui/oberflaeche_probe.h"
+
+namespace tarvel {
+namespace {
+
+using f = einstellungsfenster;
+
+class OptionenFenster : public test::OberflaecheProbe {
+protected:
+    void oeffnen() {
+        QTest::qWait(QApplication::doubleClickInterval() + 1);  // the click that closed the window was another one
+        klick(o.form1, "Form1.Command4");
+        o.takt.ausfuehren();
+        ASSERT_TRUE(o.einstellungen.isVisible());
+    }
+    void seite(int nummer) {
+        auto* seiten = finde<QListView>(o.einstellungen, "einstellungen.seitenliste");
+        seiten->setCurrentIndex(seiten->model()->index(nummer, 0));
+        o.takt.ausfuehren();
+        QCoreApplication::processEvents();
+    }
+    bool gesetzt(const char* name) { return finde<QAbstractButton>(o.einstellungen, name)->isChecked(); }
+};
+
+TEST_F(OptionenFenster, TastaturFuehrtDurchAlleSeitenUndNichtsIstAbgeschnitten) {
+    oeffnen();
+    o.einstellungen.resize(1010, 700);
+    auto* seiten = finde<QListView>(o.einstellungen, "einstellungen.seitenliste");
+    ASSERT_EQ(seiten->model()->rowCount(), static_cast<int>(f::seiten_anzahl));
+    for (int nummer = 0; nummer < f::seiten_anzahl; ++nummer) {
+        o.takt.ausfuehren();
+        QCoreApplication::processEvents();
+        const QString titel = seiten->currentIndex().data().toString();
+        int gezeigt = 0;
+        for (QScrollArea* flaeche : o.einstellungen.findChildren<QScrollArea*>()) {
+            if (flaeche->isVisible()) {
+                ++gezeigt;
+                EXPECT_LE(flaeche->widget()->width(), flaeche->viewport()->width()) << titel.toStdString();
+            }
+        }
+        EXPECT_EQ(gezeigt, nummer == f::seite_fahrer || nummer == f::seite_fahrzeuge ? 0 : 1) << titel.toStdString();
+        for (const QWidget* eingabe : o.einstellungen.findChildren<QWidget*>()) {
+            const bool feld = qobject_cast<const QLineEdit*>(eingabe) != nullptr ||
+                              qobject_cast<const QComboBox*>(eingabe) != nullptr;
+            if (feld && eingabe->isVisible() && eingabe->objectName().startsWith("einstellungen.")) {
+                EXPECT_FALSE(eingabe->accessibleName().trimmed().isEmpty()) << eingabe->objectName().toStdString();
+            }
+        }
+        QTest::keyClick(seiten, Qt::Key_Down);
+    }
+}
+
+TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
+    oeffnen();
+    klick(o.einstellungen, "einstellungen.formelcheck");
+    auto* ampel = finde<QComboBox>(o.einstellungen, "einstellungen.start_ampel_combo");
+    QTest::keyClick(ampel, Qt::Key_Down);
+    seite(f::seite_tanken);
+    tippen(o.einstellungen, "einstellungen.t_inhalt_w", "88");
+    seite(f::seite_hardware);
+    klick(o.einstellungen, "einstellungen.hardware6");
+    klick(o.einstellungen, "einstellungen.hardware6");
+    o.takt.ausfuehren();
+    EXPECT_TRUE(finde<QWidget>(o.einstellungen, "einstellungen.cu_comport")->isVisible());
+    EXPECT_FALSE(finde<QWidget>(o.einstellungen, "einstellungen.uart_baud")->isVisible());
+    seite(f::seite_farben);
+    klick(o.einstellungen, "einstellungen.farben_spur_2");
+    auto* dialog = o.einstellungen.findChild<QColorDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->setCurrentColor(QColor(1, 2, 3));
+    dialog->accept();
+    seite(f::seite_fahrer);
+    tippen(o.einstellungen, "einstellungen.fahrer_name", "Kaethe");
+    QTest::keyClick(finde<QLineEdit>(o.einstellungen, "einstellungen.fahrer_name"), Qt::Key_Return);
+    klick(o.einstellungen, "einstellungen.Command1");
+    EXPECT_FALSE(o.einstellungen.isVisible());
+
+    EXPECT_TRUE(t.p.einst.runde_beenden);
+    EXPECT_EQ(t.p.einst.start_ampel_modus, 2);
+    EXPECT_EQ(t.p.einst.tank_inhalt, 88);
+    EXPECT_TRUE(t.p.einst.hardware.hw_cu);
+    EXPECT_EQ(t.p.einst.farben_spur[2], 0x030201U);
+    o.takt.ausfuehren();
+    auto* fahrer = finde<QComboBox>(o.form1, "Form1.fahrer_0");
+    EXPECT_EQ(fahrer->itemText(fahrer->count() - 1), "Kaethe");
+    oeffnen();
+    EXPECT_TRUE(gesetzt("einstellungen.formelcheck"));
+    EXPECT_TRUE(gesetzt("einstellungen.hardware6"));
+    EXPECT_EQ(ampel->currentText(), "Startampel 5 rot");
+    EXPECT_EQ(finde<QLineEdit>(o.einstellungen, "einstellungen.t_inhalt_w")->text(), "88");
+}
+
+TEST_F(OptionenFenster, EscapeVerwirft) {
+    oeffnen();
+    klick(o.einstellungen, "einstellungen.formelcheck");
+    o.einstellungen.close();
+    EXPECT_FALSE(o.einstellungen.isVisible());
+    EXPECT_FALSE(t.p.einst.runde_beenden);
+    oeffnen();
+    EXPECT_FALSE(gesetzt("einstellungen.formelcheck"));
+}
+
+TEST_F(OptionenFenster, KaputtesBildZeigtDasStandardbild) {
+    QPixmap(8, 8).save(QString::fromStdString((t.maschine.ordner() / "gut.jpg").string()), "JPG");
+    t.maschine.datei_schreiben("pictures/nopic.jpg", t.maschine.datei_lesen("gut.jpg"));
+    t.maschine.datei_schreiben("pictures/Fahrer 1.jpg", "\xFF\xD8\xFF kaputt");
+    klick(o.form1, "Form1.Command13");
+    o.takt.ausfuehren();
+    EXPECT_EQ(t.p.form1.fahrerbild[0].datei(), "pictures/Fahrer 1.jpg");
+    const QPixmap gezeigt = finde<QLabel>(o.form1, "Form1.fahrerbild_0")->pixmap();
+    EXPECT_FALSE(gezeigt.isNull());
+}
+
+}  // namespace
+}  // namespace tarvel
