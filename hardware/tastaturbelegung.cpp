@@ -55,8 +55,9 @@ sprachliste tastaturbelegung::sprache_e_tast() {
         "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld hat keine Taste.",
         hinweis);
     for (const int spur : alle_spuren) {
-        const std::string nummer = std::to_string(spur);
-        texte.text("Spur " + nummer + "/Auto " + nummer, Frame.at(static_cast<std::size_t>(spur)));
+        std::string rahmentext = "Spur " + std::to_string(spur);
+        rahmentext += "/Auto " + std::to_string(spur);
+        texte.text(rahmentext, Frame.at(static_cast<std::size_t>(spur)));
     }
     texte.text("sonstige Tastenbelegung", Frame[0]).text("Übernehmen", Command1).text("Abbrechen", Command2);
     texte.text("Standard", Command3).text("alle belegen", Command4).text("Felder löschen", Command5);

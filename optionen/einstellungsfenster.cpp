@@ -268,9 +268,10 @@ void einstellungsfenster::sounds_auffrischen() {
     if (ordner.empty()) {
         ordner = "sound";
     }
+    const std::string davor = ordner + "\\";
     std::vector<std::string> vorhanden;
     for (const std::string& datei : um_.ablage.auflisten(ordner, "", ".wav")) {
-        vorhanden.push_back(ordner + "\\" + datei);
+        vorhanden.push_back(davor + datei);
     }
     for (int nummer = 1; nummer <= sounds_max; ++nummer) {
         auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);

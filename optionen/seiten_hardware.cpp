@@ -108,12 +108,13 @@ void modul_4x4(optionsseite& seite) {
                            element(&e::s6_eingang, i));
     }
     for (const int spur : alle_spuren) {
+        const std::string name = "s6_eingang_modus_" + std::to_string(spur) + "_";
+        const std::string text = "Spur " + std::to_string(spur) + " in Modus ";
         for (std::size_t modus = 1; modus <= 4; ++modus) {
-            const std::string s = std::to_string(spur);
             const std::string m = std::to_string(modus);
-            gruppe << ereignis(
-                {"s6_eingang_modus_" + s + "_" + m, "Spur " + s + " in Modus " + m},
-                [spur, modus](const einstellungs_ziel& z) -> int& { return z.einst.s6_eingang_modus[spur].at(modus); });
+            gruppe << ereignis({name + m, text + m}, [spur, modus](const einstellungs_ziel& z) -> int& {
+                return z.einst.s6_eingang_modus[spur].at(modus);
+            });
         }
     }
 }

@@ -350,9 +350,11 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
             widget->setPalette(palette);
         }
         const QModelIndex zeile = modell->index(element.markiert());
-        if (zeile.isValid() && widget->currentIndex() != zeile) {
+        const bool hervorgehoben = widget->currentIndex() == zeile && widget->selectionModel()->isSelected(zeile);
+        if (zeile.isValid() && !hervorgehoben) {  // the focus alone makes a row current without selecting it
             widget->setCurrentIndex(zeile);
             widget->scrollTo(zeile);
+            widget->viewport()->update();
         }
     });
     return widget;
