@@ -16,16 +16,36 @@ namespace {
 
 constexpr const char* neben_endung = ".tarvel-neu";
 
+/// Refused by one file system or another.
+bool unzulaessig(char zeichen) {
+    return static_cast<unsigned char>(zeichen) < ' ' ||
+           std::string_view("\\/:*?\"<>|").find(zeichen) != std::string_view::npos;
+}
+
 constexpr std::size_t zeile_max = 4000;
 constexpr std::uintmax_t datei_max = std::uintmax_t{16} * 1024 * 1024;  // far above any file of the program
 
 }  // namespace
 
+bool dateiname_zulaessig(std::string_view name) {
+    return std::none_of(name.begin(), name.end(), unzulaessig) && !name.starts_with('.');
+}
+
+std::string als_dateiname(std::string_view text) {
+    std::string name(text);
+    std::replace_if(name.begin(), name.end(), unzulaessig, '_');
+    if (name.starts_with('.')) {
+        name.front() = '_';
+    }
+    return name;
+}
+
 fs::path dateien::pfad(std::string_view name) const {
     std::string text(name);
     std::replace(text.begin(), text.end(), '\\', '/');
     const fs::path roh = pfad_aus_utf8(text);
-    if (roh.empty() && !text.empty()) {
+    const bool unlesbar = roh.empty() && !text.empty();
+    if (unlesbar || text.find('\0') != std::string::npos) {
         return {};
     }
     const fs::path ziel = roh.lexically_normal();
@@ -163,8 +183,8 @@ std::vector<std::string> dateien::auflisten(std::string_view ordner, std::string
          eintrag.increment(fehler)) {
         std::error_code egal;
         std::string name = pfad_als_utf8(eintrag->path().filename());
-        if (eintrag->is_regular_file(egal) && name.size() >= anfang.size() + ende.size() &&
-            endet_auf(std::string_view(name).substr(0, anfang.size()), anfang) && endet_auf(name, ende)) {
+        if (eintrag->is_regular_file(egal) && !endet_auf(name, neben_endung) &&
+            name.size() >= anfang.size() + ende.size() && beginnt_mit(name, anfang) && endet_auf(name, ende)) {
             namen.push_back(std::move(name));
         }
     }

@@ -9,6 +9,11 @@
 
 namespace tarvel {
 
+/// No sign in the name that some file system of the program's users refuses.
+bool dateiname_zulaessig(std::string_view name);
+/// The text as a name that every file system takes: other signs become "_".
+std::string als_dateiname(std::string_view text);
+
 /// The files below the program folder. Names are relative to it, with `\` and `/` alike; a name that leads out of the
 /// folder names no file. No call throws.
 class dateien {

@@ -1,5 +1,8 @@
 #include "core/einstellungen.h"
 
+#include <algorithm>
+#include <tuple>
+
 namespace tarvel {
 namespace {
 
@@ -31,8 +34,17 @@ void messhardware::simulation_ableiten() {
     hw_simulation = !hw_iow && !hw_race_control && !hw_lpt && !hw_timekeeper && hw_4x4_modus < 4;
 }
 
+bool einstellungen::hardware_anders_als(const einstellungen& andere) const {
+    const auto gewaehlt = [](const einstellungen& e) {
+        return std::tie(e.hardware, e.rc_com_port, e.lpt_adresse, e.tk_datei, e.iow_datei, e.cu_modus, e.uart_port,
+                        e.uart_baud, e.uart_datenbits, e.uart_parity, e.uart_stopbits, e.uart_datei);
+    };
+    return gewaehlt(*this) != gewaehlt(andere);
+}
+
 void einstellungen::folgen_ableiten() {
     ampel_takt = start_ampel_modus == dragrace_ampel ? 500 : 1500;
+    sektor_an[0] = std::any_of(sektor_an.begin() + 1, sektor_an.end(), [](bool an) { return an; });
     for (const int spur : alle_spuren) {
         cu_reglerbefehl[spur] = reglerbefehl(spur, cu_spur_wert[spur]);
     }

@@ -23,10 +23,12 @@ struct messhardware {
     bool hw_cu = false;
     bool hw_uart = false;
 
+    static constexpr int timekeeper = 5;  ///< its `modus`
     /// Index in `texte::hardware_name` of the device in force; 0 is the keyboard alone.
     int modus() const;
     /// The keyboard counts as the hardware while none of the devices does that has no keyboard beside it.
     void simulation_ableiten();
+    bool operator==(const messhardware&) const = default;
 };
 
 /// What the operator sets for all races. Its defaults stand in the table of the settings file.
@@ -147,6 +149,8 @@ struct einstellungen {
     std::string sound_ordner;
     std::array<std::string, sounds_max + 1> sound_dateien;  ///< index 1 to 64, empty for no sound
 
+    /// The timing hardware has to be started anew after a change from `andere`.
+    bool hardware_anders_als(const einstellungen& andere) const;
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();
     int ampel_takt = 1500;                ///< ms per step of the start light

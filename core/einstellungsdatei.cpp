@@ -1,7 +1,7 @@
 #include "core/einstellungsdatei.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 
 #include "core/einstellungstabelle.h"
 #include "core/text.h"
@@ -9,7 +9,8 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view ende_marke = "{EOF}";
+constexpr std::string_view ende_marke = einstellungs_ende;
+constexpr std::string_view wettkampf_kopf = "Wettkampfdatei: ";
 constexpr std::size_t zeilen_max = 200000;  // a competition adds its own lines
 
 std::size_t platz(int z) {
@@ -31,6 +32,7 @@ bool einstellungsdatei::kopf_pruefen(std::string_view kopf, version_melden melde
 void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
     zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
     rest_.clear();
+    wettkampfdatei_ = wettkampfdatei;
     fehler_laden_ = true;
     const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
     std::size_t i = wettkampfdatei ? 1 : 0;
@@ -83,12 +85,14 @@ void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
         if (tabelle[platz(z)].laden) {
             tabelle[platz(z)].laden(um_.ziel, zeile(z));
         }
+        if (z == z::ende_wettkampf && wettkampfdatei_) {
+            rennen_des_wettkampfs_uebernehmen();
+        }
         if (z == z::vor_den_bestzeiten && bestzeiten_laden) {
             bestzeiten_laden();
         }
     }
     einstellungen& einst = um_.ziel.einst;
-    einst.sektor_an[0] = std::any_of(einst.sektor_an.begin() + 1, einst.sektor_an.end(), [](bool an) { return an; });
     hardware_folgen(modus_4x4_start);
     wechselschema_uebernehmen();
     cu_spuren_uebernehmen();
@@ -103,6 +107,17 @@ void einstellungsdatei::hardware_folgen(int modus_4x4_start) {
         hardware.hw_4x4_modus = modus_4x4_start;
     }
     hardware.simulation_ableiten();
+}
+
+void einstellungsdatei::rennen_des_wettkampfs_uebernehmen() {
+    renn_parameter& param = um_.param;
+    const form1& haupt = um_.ziel.haupt;
+    param.renn_art_text = haupt.rennart.text();
+    param.tank_aktiv = haupt.t_aktiv.gesetzt();
+    param.min_rundenzeit_ms = std::llround(zahl_lesen(haupt.wertmin.text()) * 1000);
+    param.renndauer_ms = std::llround(zahl_lesen(haupt.stddauer.text()) * 3600000 +
+                                      zahl_lesen(haupt.renndauer.text()) * 60000);  // knows no seconds
+    param.renndauer_rest_ms = param.renndauer_ms;
 }
 
 void einstellungsdatei::wechselschema_uebernehmen() {
@@ -136,6 +151,7 @@ void einstellungsdatei::cu_spuren_uebernehmen() {
 
 void einstellungsdatei::einstellungen_standard_setzen() {
     zeilen_.clear();
+    wettkampfdatei_ = false;
     for (const einstellungszeile& zeile : einstellungstabelle()) {
         if (zeile.standard_setzen) {
             zeile.standard_setzen(um_.ziel);
@@ -151,6 +167,12 @@ std::vector<std::string> einstellungsdatei::schreiben() const {
         inhalt.push_back(zeile.schreiben(um_.ziel));
     }
     inhalt.insert(inhalt.begin() + 1, "");
+    return inhalt;
+}
+
+std::vector<std::string> einstellungsdatei::schreiben_fuer_wettkampf(std::string_view wettkampf) const {
+    std::vector<std::string> inhalt = schreiben();
+    inhalt.insert(inhalt.begin(), std::string(wettkampf_kopf) + std::string(wettkampf));
     return inhalt;
 }
 

@@ -7,6 +7,7 @@
 
 #include "core/dateien.h"
 #include "core/einstellungszeile.h"
+#include "core/renn_parameter.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
@@ -20,6 +21,7 @@ public:
     struct umgebung {
         const dateien& ablage;
         einstellungs_ziel ziel;
+        renn_parameter& param;
         plattform::meldungen& meldungen;
     };
 
@@ -27,9 +29,6 @@ public:
 
     /// True after a failed read, check or write.
     bool fehler_laden() const { return fehler_laden_; }
-    /// The lines of the last file read, by their number Z.
-    const einstellungs_zeilen& zeilen() const { return zeilen_; }
-
     /// First stage. A competition file has one line in front of the header, and goes on behind the settings: what
     /// stands there is left in `rest`.
     void einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei = false,
@@ -47,6 +46,8 @@ public:
     void einstellungen_standard_setzen();
     /// The whole file as it is written.
     std::vector<std::string> schreiben() const;
+    /// The settings as a competition file begins with them; its own data follow behind.
+    std::vector<std::string> schreiben_fuer_wettkampf(std::string_view wettkampf) const;
     /// A failure shows its message and leaves the old file.
     void einstellungen_speichern(std::string_view datei);
 
@@ -54,6 +55,7 @@ private:
     bool kopf_pruefen(std::string_view kopf, version_melden melden);
     void wahrheitswoerter_uebersetzen();
     void hardware_folgen(int modus_4x4_start);
+    void rennen_des_wettkampfs_uebernehmen();
     void wechselschema_uebernehmen();
     void cu_spuren_uebernehmen();
     const std::string& zeile(int z) const { return zeilen_.at(static_cast<std::size_t>(z)); }
@@ -62,6 +64,7 @@ private:
     einstellungs_zeilen zeilen_;
     std::vector<std::string> rest_;
     bool fehler_laden_ = false;
+    bool wettkampfdatei_ = false;  ///< what was read last
 };
 
 }  // namespace tarvel

@@ -86,14 +86,15 @@ void fahrer_block(tabelle& t, int spur) {
     einstellungszeile fahrzeug = zeile::hauptfeld(haupt(&form1::auto_, i), "");
     fahrzeug.standard_aus_texten = [](const texte& txt) { return txt.standardfahrzeug_text; };
     t << zeile::titel("[Fahrer" + std::to_string(spur) + "]", true)
-      << zeile::kasten([i](const ziel& a) -> haken& { return a.haupt.spur.at(i); }, spur <= 4, false)
-      << zeile::hauptfeld(haupt(&form1::lspur, i), "25", ablehnen_ausser(1, 10000)) << std::move(fahrer)
+      << zeile::kasten([i](const ziel& a) -> haken& { return a.haupt.spur.at(i); }, spur <= 4, false,
+                       nur_eines_von({"0", "1"}))
+      << zeile::zahlenfeld(haupt(&form1::lspur, i), "25", ablehnen_ausser(1, 10000)) << std::move(fahrer)
       << std::move(fahrzeug) << zeile::leer();
 }
 
 /// The race kind is kept as a number, whatever its words are in the language of the day.
 einstellungszeile rennart() {
-    return {ablehnen_ausser(2, 3),
+    return {nur_eines_von({"2", "3"}),
             [](const ziel& a, const std::string& text) {
                 a.haupt.rennart.text(zahl_lesen(text) == 3 ? a.txt.text_runden : a.txt.text_zeit);
                 a.haupt.rennart_geaendert();
@@ -155,10 +156,10 @@ einstellungszeile gruppenzeile(einstellungszeile neu) {
 void rennen(tabelle& t) {  // Z 25 to Z 64
     t << zeile::titel("[allgemein]", true) << zeile::hauptfeld(haupt(&form1::massstab), "43", ablehnen_ausser(1, 500))
       << zeile::hauptfeld(haupt(&form1::stddauer), "0")
-      << zeile::hauptfeld(haupt(&form1::renndauer), "5", ablehnen_ausser(0, 9999)) << rennart()
-      << zeile::hauptfeld(haupt(&form1::wertmin), "5", ablehnen_ausser(0, 59)) << zeile::leer();
+      << zeile::zahlenfeld(haupt(&form1::renndauer), "5", ablehnen_ausser(0, 9999)) << rennart()
+      << zeile::zahlenfeld(haupt(&form1::wertmin), "5", ablehnen_ausser(0, 59)) << zeile::leer();
     t << zeile::titel("[Tankoptionen]", true)
-      << zeile::kasten([](const ziel& a) -> haken& { return a.haupt.t_aktiv; }, false, true)
+      << zeile::kasten([](const ziel& a) -> haken& { return a.haupt.t_aktiv; }, false, true, ablehnen_ausser(0, 1))
       << zeile::ganzzahl(wert(&e::tank_art), 1, ablehnen_ausser(1, 2))
       << zeile::ganzzahl(wert(&e::tank_straf_option), 3, ablehnen_ausser(0, 4))
       << zeile::ganzzahl(wert(&e::tank_inhalt), 60, ablehnen_ausser(1, 100))
@@ -343,7 +344,8 @@ void ab_version_183(tabelle& t) {  // Z 300 to Z 347
     for (const int spur : alle_spuren) {
         t << gruppenzeile(zeile::ganzzahl(je_spur(&e::cu_spur_wert, spur), 15));
     }
-    t << tanksensor_justierung() << zeile::leer() << zeile::titel("{EOF}", false) << zeile::titel("Tarvel 2026", false);
+    t << tanksensor_justierung() << zeile::leer() << zeile::titel(einstellungs_ende, false)
+      << zeile::titel("Tarvel 2026", false);
 }
 
 std::vector<einstellungszeile> aufbauen() {

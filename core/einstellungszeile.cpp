@@ -23,6 +23,15 @@ std::string mit_blanks(const std::string& zahl) {
     return (zahl.starts_with('-') ? "" : " ") + zahl + " ";
 }
 
+/// What is typed as the reader will find it again: without blanks at its ends, in one line, and never the mark that
+/// ends a file.
+std::string als_zeile(const std::string& text) {
+    std::string zeile(gekuerzt(text));
+    std::replace_if(
+        zeile.begin(), zeile.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return zeile == einstellungs_ende ? std::string() : zeile;
+}
+
 int ganz(const std::string& zeile) {
     constexpr int grenze = std::numeric_limits<int>::max();
     return static_cast<int>(ganzzahl_lesen(zeile, -grenze, grenze));
@@ -76,10 +85,14 @@ art reparieren_wenn_nicht_in(std::string_view worte, std::string_view ersatz) {
     };
 }
 
-art nur_wahrheitswert() {
-    return [](einstellungs_zeilen& zeilen, int z) {
-        return ablehnen_wenn(an(zeilen, z) != wahr && an(zeilen, z) != falsch);
+art nur_eines_von(std::vector<std::string> erlaubt) {
+    return [erlaubt = std::move(erlaubt)](einstellungs_zeilen& zeilen, int z) {
+        return ablehnen_wenn(std::find(erlaubt.begin(), erlaubt.end(), an(zeilen, z)) == erlaubt.end());
     };
+}
+
+art nur_wahrheitswert() {
+    return nur_eines_von({std::string(wahr), std::string(falsch)});
 }
 
 art nur_text(std::string_view text) {
@@ -170,22 +183,34 @@ einstellungszeile wahrheit(const zugriff<bool>& ziel, bool standard, wahr_laden 
 
 einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standard, std::size_t mindestens,
                        pruefung::art pruefen) {
-    return {std::move(pruefen),
-            [ziel, mindestens](const einstellungs_ziel& e, const std::string& zeile) {
-                if (laenge(zeile) >= mindestens) {
-                    ziel(e) = zeile;
-                }
-            },
-            [ziel](const einstellungs_ziel& e) { return ziel(e); }, std::string(standard)};
+    einstellungszeile neu{std::move(pruefen),
+                          [ziel, mindestens](const einstellungs_ziel& e, const std::string& zeile) {
+                              if (laenge(zeile) >= mindestens) {
+                                  ziel(e) = zeile;
+                              }
+                          },
+                          [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e)); }, std::string(standard)};
+    neu.standard_setzen = [ziel, text = std::string(standard)](const einstellungs_ziel& e) { ziel(e) = text; };
+    return neu;
 }
 
 einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen) {
     return {std::move(pruefen), [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).text(zeile); },
-            [ziel](const einstellungs_ziel& e) { return ziel(e).text(); }, std::string(standard)};
+            [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e).text()); }, std::string(standard)};
 }
 
-einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank) {
-    return {pruefung::ablehnen_ausser(0, 1),
+einstellungszeile zahlenfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen) {
+    einstellungszeile neu = hauptfeld(ziel, standard, std::move(pruefen));
+    neu.schreiben = [davor = neu.schreiben](const einstellungs_ziel& e) {
+        std::string zeile = davor(e);
+        werte_pruefen2(zeile);
+        return zeile;
+    };
+    return neu;
+}
+
+einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank, pruefung::art pruefen) {
+    return {std::move(pruefen),
             [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).gesetzt(ganz(zeile) != 0); },
             [ziel, mit_blank](const einstellungs_ziel& e) {
                 const std::string zahl = ziel(e).gesetzt() ? "1" : "0";

@@ -9,6 +9,9 @@
 
 namespace tarvel {
 
+/// The line that ends the settings in a file.
+inline constexpr std::string_view einstellungs_ende = "{EOF}";
+
 /// The lines of a settings file by their number Z; line 0 is the header.
 using einstellungs_zeilen = std::vector<std::string>;
 
@@ -40,6 +43,8 @@ art reparieren_ausser(double min, double max, std::string_view ersatz);
 art reparieren_wenn_keins(std::vector<std::string> erlaubt, std::string_view ersatz);
 /// Mends a line that is no part of `worte`, or empty.
 art reparieren_wenn_nicht_in(std::string_view worte, std::string_view ersatz);
+/// Exactly one of these texts.
+art nur_eines_von(std::vector<std::string> erlaubt);
 /// Only the two words.
 art nur_wahrheitswert();
 art nur_text(std::string_view text);
@@ -76,8 +81,10 @@ einstellungszeile wahrheit(const zugriff<bool>& ziel, bool standard, wahr_laden 
 /// Texts shorter than `mindestens` characters leave the value.
 einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standard, std::size_t mindestens = 0,
                        pruefung::art pruefen = {});
+/// A field that holds a number: a comma is written as a point.
+einstellungszeile zahlenfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen = {});
 einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen = {});
-einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank);
+einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank, pruefung::art pruefen);
 
 }  // namespace zeile
 }  // namespace tarvel

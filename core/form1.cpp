@@ -10,8 +10,7 @@ namespace tarvel {
 namespace {
 
 constexpr int kleiner_bildschirm_px = 720;  // on a lower screen lanes 5 and 6 cannot be used
-constexpr int name_laenge_max = 40;
-constexpr zeit_ms sperrzuschlag_ms = 100;  // a single race accepts laps only this much above the entered minimum
+constexpr zeit_ms sperrzuschlag_ms = 100;   // a single race accepts laps only this much above the entered minimum
 
 void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
     const double zahl = zahl_lesen(wert.text());
@@ -39,8 +38,8 @@ form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::ze
         auto_[i].bei_aenderung = [this, nummer] { autobild_anzeigen(nummer); };
         fahrer[i].frei(true);
         auto_[i].frei(true);
-        fahrer[i].laenge_max(name_laenge_max);
-        auto_[i].laenge_max(name_laenge_max);
+        fahrer[i].laenge_max(namensliste::name_laenge_max);
+        auto_[i].laenge_max(namensliste::name_laenge_max);
         lspur[i].laenge_max(8);
     }
     for (feld* zahlenfeld : {&stddauer, &renndauer, &wertmin, &massstab}) {

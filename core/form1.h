@@ -21,7 +21,7 @@ class form1 {
 public:
     struct umgebung {
         const einstellungen& einst;
-        const texte& txt;
+        texte& txt;
         renn_parameter& param;
         const dateien& ablage;
         const namensliste& fahrerliste;
@@ -118,7 +118,10 @@ public:
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
-    void einstellungsname_anzeigen(std::string_view name);
+    /// Whether there are outputs that the track power commands switch.
+    void bahnstrom_schaltbar(bool schaltbar);
+    /// The settings file in force, and the one that the program starts with.
+    void einstellungsname_anzeigen(std::string_view name, std::string_view standard);
 
     /// Brings every field within its limits, silently.
     void werte_pruefen();
@@ -152,6 +155,7 @@ private:
     std::string wort_runden_;
     std::string wort_einstellungsdatei_;
     std::string wort_bilder_;
+    std::string wort_standarddatei_;
     zeit_ms dauer_minuten_ = 0;
     zeit_ms dauer_sekunden_ = 0;
 };

@@ -33,9 +33,11 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Womit gemessen wird. Im Simulationsmodus zählt die Tastatur die Runden.", modus_label);
     texte.tipp("Fahrzeugbilder aus dem Ordner slotcars den Fahrzeugen gleichen Namens zuordnen", Command10);
     texte.tipp("Fahrerbilder aus dem Ordner pictures den Fahrern gleichen Namens zuordnen", Command13);
-    texte.tipp("Bahnstrom einschalten", Command6).tipp("Bahnstrom ausschalten", Command12);
+    texte.tipp("Bahnstrom einschalten; braucht Messhardware mit Ausgängen", Command6);
+    texte.tipp("Bahnstrom ausschalten; braucht Messhardware mit Ausgängen", Command12);
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
-    return texte.text("Zugeordnete Bilder: ", wort_bilder_);
+    texte.text("Zugeordnete Bilder: ", wort_bilder_).text("Beim Programmstart: ", wort_standarddatei_);
+    return texte.text("kein Fahrer", um_.txt.kein_fahrer);
 }
 
 void form1::ansagen_setzen() {
@@ -132,17 +134,25 @@ void form1::spuren_nach_laden() {
     }
 }
 
+void form1::bahnstrom_schaltbar(bool schaltbar) {
+    for (steuerelement* element : {static_cast<steuerelement*>(&Label7), static_cast<steuerelement*>(&Command6),
+                                   static_cast<steuerelement*>(&Command12)}) {
+        element->aktiviert(schaltbar);
+    }
+}
+
 void form1::modus_anzeigen() {
     const int modus = um_.einst.hardware.modus();
     std::string status = um_.txt.hardware_name.at(static_cast<std::size_t>(modus));
-    if (um_.einst.hardware.hw_timekeeper) {
+    if (modus == messhardware::timekeeper) {
         status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
     }
     modus_label.text(status);
 }
 
-void form1::einstellungsname_anzeigen(std::string_view name) {
+void form1::einstellungsname_anzeigen(std::string_view name, std::string_view standard) {
     Label6.text(wort_einstellungsdatei_ + std::string(name));
+    Label6.tipp(wort_standarddatei_ + std::string(standard));
 }
 
 }  // namespace tarvel

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <iterator>
+#include <set>
 
 namespace tarvel {
 namespace {
@@ -10,7 +12,7 @@ namespace {
 constexpr std::size_t zeilen_max = 204;  // line 0 to 203
 constexpr std::string_view bild_marke = "{pic}";
 constexpr std::string_view ende_marke = "{ende}";
-constexpr std::array<std::string_view, 2> bild_endungen{".jpg", ".gif"};
+constexpr std::array<std::string_view, 4> bild_endungen{".jpg", ".gif", ".JPG", ".GIF"};
 
 }  // namespace
 
@@ -80,12 +82,10 @@ void namensliste::bild_setzen(std::size_t zeile, std::string_view stamm) {
     }
 }
 
-std::string namensliste::bilddatei(const dateien& ablage, std::string_view name) const {
-    const auto gefunden =
-        std::find_if(eintraege_.begin(), eintraege_.end(), [&](const listeneintrag& e) { return e.name == name; });
-    if (gefunden != eintraege_.end() && !gefunden->bild.empty()) {
+std::string namensliste::bilddatei(const dateien& ablage, std::size_t zeile) const {
+    if (zeile < eintraege_.size() && !eintraege_[zeile].bild.empty()) {
         for (const std::string_view endung : bild_endungen) {
-            std::string datei = art_.bildordner + "/" + gefunden->bild + std::string(endung);
+            std::string datei = art_.bildordner + "/" + eintraege_[zeile].bild + std::string(endung);
             if (ablage.gibt_es(datei)) {
                 return datei;
             }
@@ -94,17 +94,24 @@ std::string namensliste::bilddatei(const dateien& ablage, std::string_view name)
     return art_.bildordner + "/" + art_.standardbild;
 }
 
+std::string namensliste::bilddatei(const dateien& ablage, std::string_view name) const {
+    const auto gefunden =
+        std::find_if(eintraege_.begin(), eintraege_.end(), [&](const listeneintrag& e) { return e.name == name; });
+    return bilddatei(ablage, static_cast<std::size_t>(gefunden - eintraege_.begin()));
+}
+
 int namensliste::bilder_uebernehmen(const dateien& ablage, std::string_view ausser) {
-    int anzahl = 0;
-    for (const std::string_view endung : bild_endungen) {
+    std::set<std::string, std::less<>> staemme;
+    for (const std::string_view endung : {std::string_view(".jpg"), std::string_view(".gif")}) {
         for (const std::string& datei : ablage.auflisten(art_.bildordner, "", endung)) {
-            const std::string stamm = datei.substr(0, datei.size() - endung.size());
-            for (listeneintrag& eintrag : eintraege_) {
-                if (eintrag.name == stamm && stamm != ausser) {
-                    eintrag.bild = stamm;
-                    ++anzahl;
-                }
-            }
+            staemme.insert(datei.substr(0, datei.size() - endung.size()));
+        }
+    }
+    int anzahl = 0;
+    for (listeneintrag& eintrag : eintraege_) {
+        if (eintrag.name != ausser && staemme.contains(eintrag.name)) {
+            eintrag.bild = eintrag.name;
+            ++anzahl;
         }
     }
     return anzahl;

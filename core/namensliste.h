@@ -16,11 +16,11 @@ struct listeneintrag {
 };
 
 /// A list of drivers or of vehicles with their pictures, as it stands in a file. The standard entry in front of the
-/// list
-/// ("kein Fahrer", "Standardfahrzeug") belongs to the program and is never written.
+/// list ("kein Fahrer", "Standardfahrzeug") belongs to the program and is never written.
 class namensliste {
 public:
     static constexpr std::size_t namen_max = 100;
+    static constexpr int name_laenge_max = 40;  ///< characters that the operator may type
 
     /// What tells a list of drivers from one of vehicles.
     struct art {
@@ -52,7 +52,9 @@ public:
     void leeren() { eintraege_.clear(); }
     void bild_setzen(std::size_t zeile, std::string_view stamm);
 
-    /// File of the picture of a name: the standard picture if the name is unknown or its picture is not there.
+    /// File of the picture of a row from 0: the standard picture if there is no such row, or its picture is not there.
+    std::string bilddatei(const dateien& ablage, std::size_t zeile) const;
+    /// The same for the first row of this name.
     std::string bilddatei(const dateien& ablage, std::string_view name) const;
     /// Every row with the name of a file in the picture folder takes it as its picture; `ausser` is the stem of a file
     /// that is left out. Returns the number of these rows.

@@ -17,7 +17,7 @@ constexpr std::string_view standard_einstellungen = "Einstellungen\\einstellunge
 }  // namespace
 
 bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel) {
-    constexpr int erstes_druckbares = 32;
+    constexpr int tabulator = 9;
     const auto felder = felder_lesen(ablage, trennzeichen_datei, ziel.size()).value_or(std::vector<std::string>{});
     trennzeichen_tabelle neu;
     if (felder.size() < neu.size()) {
@@ -25,7 +25,7 @@ bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel) {
     }
     for (std::size_t i = 0; i < neu.size(); ++i) {
         const auto code = static_cast<int>(ganzzahl_lesen(felder[i], 0, 256));
-        if (code < erstes_druckbares || code > 255) {
+        if ((code < erstes_druckbares && code != tabulator) || code > 255) {
             return false;
         }
         neu.at(i) = ansi_zeichen(code);
@@ -63,8 +63,8 @@ s6_start s6_laden(const dateien& ablage) {
 }
 
 bool s6_speichern(const dateien& ablage, const s6_start& werte) {
-    return ablage.zeilen_schreiben(
-        s6_datei, {werte.zustand, werte.modus, werte.einstell_datei, werte.naechster_zustand, werte.naechster_modus});
+    return ablage.zeilen_schreiben(s6_datei, {werte.zustand, werte.modus, als_feld(werte.einstell_datei),
+                                              werte.naechster_zustand, werte.naechster_modus});
 }
 
 }  // namespace tarvel

@@ -33,10 +33,13 @@ std::string pfad_als_utf8(const fs::path& pfad) {
     }
 }
 
+bool beginnt_mit(std::string_view name, std::string_view anfang) {
+    return name.size() >= anfang.size() &&
+           std::equal(anfang.begin(), anfang.end(), name.begin(), [](char a, char b) { return klein(a) == klein(b); });
+}
+
 bool endet_auf(std::string_view name, std::string_view endung) {
-    return name.size() >= endung.size() &&
-           std::equal(endung.begin(), endung.end(), name.end() - static_cast<std::ptrdiff_t>(endung.size()),
-                      [](char a, char b) { return klein(a) == klein(b); });
+    return name.size() >= endung.size() && beginnt_mit(name.substr(name.size() - endung.size()), endung);
 }
 
 ordnerblick ordner_ansehen(const fs::path& ort, const std::vector<std::string>& endungen) {

@@ -24,6 +24,7 @@ std::filesystem::path pfad_aus_utf8(std::string_view text);
 std::string pfad_als_utf8(const std::filesystem::path& pfad);
 
 /// Upper-case and lower-case letters of ASCII count as the same.
+bool beginnt_mit(std::string_view name, std::string_view anfang);
 bool endet_auf(std::string_view name, std::string_view endung);
 
 }  // namespace tarvel

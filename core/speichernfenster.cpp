@@ -1,20 +1,14 @@
 #include "core/speichernfenster.h"
 
-#include <algorithm>
+#include <utility>
 
+#include "core/ordnerblick.h"
 #include "core/text.h"
 
 namespace tarvel {
 namespace {
 
 constexpr int name_laenge_max = 100;
-
-/// Characters that no file system of the program's users takes in a name.
-bool ist_dateiname(const std::string& name) {
-    const bool steuerzeichen =
-        std::any_of(name.begin(), name.end(), [](char zeichen) { return static_cast<unsigned char>(zeichen) < ' '; });
-    return !steuerzeichen && name.find_first_of("\\/:*?\"<>|") == std::string::npos && !name.starts_with('.');
-}
 
 }  // namespace
 
@@ -77,11 +71,11 @@ void speichernfenster::ausfuehren() {
         melden(wort_.name_fehlt);
         return;
     }
-    if (!ist_dateiname(datei)) {
+    if (!dateiname_zulaessig(datei)) {
         melden(wort_.zeichen);
         return;
     }
-    if (!um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei) && datei.find('.') == std::string::npos) {
+    if (!um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei) && !endet_auf(datei, auftrag_.endung)) {
         datei += auftrag_.endung;
     }
     const std::string pfad = auftrag_.ordner + "\\" + datei;

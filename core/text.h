@@ -37,6 +37,9 @@ void werte_pruefen2(std::string& text);
 std::string nach_1252(std::string_view utf8);
 std::string von_1252(std::string_view bytes);
 
+/// The first Windows-1252 value that prints something.
+inline constexpr int erstes_druckbares = 32;
+
 /// Windows-1252 value of a text of exactly one character; none if there is no such value.
 std::optional<int> ansi_code(std::string_view zeichen);
 /// The character of a Windows-1252 value from 0 to 255.

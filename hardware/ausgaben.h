@@ -28,6 +28,9 @@ public:
     /// `geraet` must outlive the race; devices are switched in the order of their connection.
     void anschliessen(ausgabe_geraet& geraet) { geraete_.push_back(&geraet); }
 
+    /// There is something to switch.
+    bool angeschlossen() const { return !geraete_.empty(); }
+
     void ampelnGRon() { schalten({schaltung::ausgang::ampel_gruen, 0, true}); }
     void ampelnGRoff() { schalten({schaltung::ausgang::ampel_gruen, 0, false}); }
     void ampelnRon(int lampe) { schalten({schaltung::ausgang::ampel_rot, lampe, true}); }

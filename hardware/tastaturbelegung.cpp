@@ -8,7 +8,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int erstes_druckbares = 32;
 constexpr int loeschzeichen = 127;
 
 /// Code of a field's character; `keine_taste` for a blank or empty field, 0 for a character that no key can be.

@@ -23,19 +23,6 @@ bool ist_bild(const fs::path& datei) {
     return gelesen.starts_with("\xFF\xD8\xFF") || gelesen.starts_with("GIF8");
 }
 
-/// The entry's name, as far as a file can carry it.
-std::string dateistamm(std::string name) {
-    for (char& zeichen : name) {
-        const bool erlaubt = static_cast<unsigned char>(zeichen) >= ' ' &&
-                             std::string_view("\\/:*?\"<>|").find(zeichen) == std::string_view::npos;
-        zeichen = erlaubt ? zeichen : '_';
-    }
-    if (name.starts_with('.')) {
-        name.front() = '_';
-    }
-    return name;
-}
-
 }  // namespace
 
 bildwahl::bildwahl(umgebung um) : um_(um) {
@@ -115,7 +102,10 @@ void bildwahl::uebernehmen() {
         return;
     }
     const fs::path quelle = pfad_aus_utf8(vorschau.datei());
-    const std::string stamm = dateistamm(auftrag_.name);
+    std::string stamm = als_dateiname(auftrag_.name);
+    if (stamm == auftrag_.standardstamm) {
+        stamm += '_';  // the stand-in picture of all others stays
+    }
     if (!ist_bild(quelle)) {
         um_.meldungen.zeigen(kein_bild_text_, um_.txt.titel[0]);
         return;

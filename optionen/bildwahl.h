@@ -29,7 +29,8 @@ public:
     struct auftrag {
         std::string titel;
         std::string bildordner;
-        std::string name;  ///< entry that the picture is for; names the copy
+        std::string standardstamm;  ///< of the picture for entries without one
+        std::string name;           ///< entry that the picture is for; names the copy
         /// Gets the stem of the copy, or `abgebrochen`.
         std::function<void(const std::string&)> fertig;
     };

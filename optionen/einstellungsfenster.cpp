@@ -16,11 +16,11 @@ constexpr std::size_t erste_hardware_gruppe = 1;
 
 einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     : fahrerseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
-                  {l.fahrer, l.fahrer_datei, ".lst", "Fahrerverwaltung", "Fahrerliste voll.",
+                  {l.fahrer, l.fahrer_datei, um.txt.kein_fahrer, ".lst", "Fahrerverwaltung", "Fahrerliste voll.",
                    "neues Fahrerbild zuordnen", 8, 8, 3}),
       fahrzeugseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
-                    {l.fahrzeuge, l.fahrzeug_datei, ".kfz", "Fahrzeugverwaltung", "Fahrzeugliste voll.",
-                     "neues Fahrzeugbild zuordnen", 6, 7, 2}),
+                    {l.fahrzeuge, l.fahrzeug_datei, um.txt.standardfahrzeug_text, ".kfz", "Fahrzeugverwaltung",
+                     "Fahrzeugliste voll.", "neues Fahrzeugbild zuordnen", 6, 7, 2}),
       um_(um) {
     seiten_[seite_start_ziel] = optionsseiten::start_ziel();
     seiten_[seite_wettkampf] = optionsseiten::wettkampf_training();
@@ -213,7 +213,6 @@ void einstellungsfenster::werte_uebernehmen() {
     einstellungen& einst = um_.ziel.einst;
     hardware_uebernehmen();
     einst.fahrzeug_wechseln = einst.fahrzeug_wechseln || einst.centermode;
-    einst.sektor_an[0] = std::any_of(einst.sektor_an.begin() + 1, einst.sektor_an.end(), [](bool an) { return an; });
     sektoranzeige_trennen();
     einst.folgen_ableiten();
 }
@@ -226,15 +225,14 @@ void einstellungsfenster::sektoranzeige_trennen() {
 }
 
 void einstellungsfenster::Command1_Click() {
-    const int alte_hardware = um_.ziel.einst.hardware.modus();
-    const trennzeichen_tabelle alte_trennzeichen = um_.ziel.einst.trennzeichen;
+    const einstellungen vorher = um_.ziel.einst;
     werte_uebernehmen();
     bool gespeichert = fahrerseite.uebernehmen();
     gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
     if (nach_uebernahme) {
         nach_uebernahme();
     }
-    if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != alte_trennzeichen) {
+    if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != vorher.trennzeichen) {
         trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
         if (trennzeichen_fehlen_) {
             um_.meldungen.zeigen(um_.txt.meldung[24], um_.txt.titel[1]);
@@ -242,7 +240,7 @@ void einstellungsfenster::Command1_Click() {
         }
     }
     gespeichert = (!einstellungen_speichern || einstellungen_speichern()) && gespeichert;
-    if (hardware_starten && um_.ziel.einst.hardware.modus() != alte_hardware) {
+    if (hardware_starten && um_.ziel.einst.hardware_anders_als(vorher)) {
         hardware_starten();
     }
     if (gespeichert) {
@@ -255,6 +253,7 @@ void einstellungsfenster::Command1_Click() {
 void einstellungsfenster::sounds_verbinden() {
     for (int nummer = 1; nummer <= sounds_max; ++nummer) {
         auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);
+        sounds_.push_back(&sound);
         sound.abspielen.text("▶");
         sound.abspielen.bei_klick = [this, &sound] { um_.klang.spielen(sound.datei.text()); };
         sound.datei.bei_aenderung = [this, &sound] {
@@ -273,10 +272,9 @@ void einstellungsfenster::sounds_auffrischen() {
     for (const std::string& datei : um_.ablage.auflisten(ordner, "", ".wav")) {
         vorhanden.push_back(davor + datei);
     }
-    for (int nummer = 1; nummer <= sounds_max; ++nummer) {
-        auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);
-        sound.datei.eintraege(vorhanden);
-        sound.datei.bei_aenderung();
+    for (soundfeld* sound : sounds_) {
+        sound->datei.eintraege(vorhanden);
+        sound->datei.bei_aenderung();
     }
 }
 

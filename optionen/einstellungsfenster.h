@@ -18,6 +18,7 @@
 namespace tarvel {
 
 /// The options window `einstellungen`: shows every value of the settings and takes them over, within their limits.
+/// What is taken over is in force even if it could not be saved; the window stays open then.
 class einstellungsfenster {
 public:
     /// The pages in their order. Those of drivers and vehicles are lists, all others rows.
@@ -48,9 +49,9 @@ public:
     };
     struct listen {
         namensliste& fahrer;
-        std::string& fahrer_datei;
+        const std::string& fahrer_datei;
         namensliste& fahrzeuge;
-        std::string& fahrzeug_datei;
+        const std::string& fahrzeug_datei;
     };
 
     einstellungsfenster(umgebung um, listen l);
@@ -103,6 +104,7 @@ private:
 
     umgebung um_;
     std::array<optionsseite_zeiger, seiten_anzahl> seiten_;
+    std::vector<soundfeld*> sounds_;  ///< in the order of their numbers, from 1 on at index 0
     std::string grenzen_titel_;
     std::string alte_bleibt_;
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew

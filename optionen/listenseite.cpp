@@ -8,13 +8,17 @@
 namespace tarvel {
 namespace {
 
-constexpr int name_laenge_max = 40;
 constexpr std::string_view listenordner = "Listen";
+
+/// As the file will give it back.
+std::string lesbarer_name(const std::string& text) {
+    return von_1252(nach_1252(gekuerzt(text)));
+}
 
 }  // namespace
 
 listenseite::listenseite(umgebung um, art a) : um_(um), art_(std::move(a)), kopie_(art_.liste) {
-    name.laenge_max(name_laenge_max);
+    name.laenge_max(namensliste::name_laenge_max);
     namen.bei_auswahl = [this] { auswahl_folgen(); };
     befehle_verbinden();
 }
@@ -71,25 +75,26 @@ void listenseite::auswahl_folgen() {
     alle_loeschen.aktiviert(!kopie_.eintraege().empty());
     const namensliste::art& bilder = kopie_.listenart();
     vorschau.ersatz(bilder.bildordner + "/" + bilder.standardbild);
-    vorschau.datei(kopie_.bilddatei(
-        um_.ablage, gewaehlt ? kopie_.eintraege().at(static_cast<std::size_t>(namen.markiert())).name : std::string()));
+    const std::size_t zeile = gewaehlt ? static_cast<std::size_t>(namen.markiert()) : namensliste::namen_max;
+    vorschau.datei(kopie_.bilddatei(um_.ablage, zeile));
     vorschau.neu_laden();
 }
 
 void listenseite::name_hinzufuegen() {
-    const std::string neu(gekuerzt(name.text()));
+    const std::string neu = lesbarer_name(name.text());
     const auto& eintraege = kopie_.eintraege();
     const auto gefunden =
         std::find_if(eintraege.begin(), eintraege.end(), [&](const listeneintrag& e) { return e.name == neu; });
-    if (neu.empty() || namensliste::ist_marke(neu)) {  // neither can stand in a file
+    if (kopie_.voll()) {
+        um_.meldungen.zeigen(voll_text_, um_.txt.titel[0]);
+        return;
+    }
+    if (neu.empty() || neu == art_.standard || namensliste::ist_marke(neu)) {  // none of them can stand in a file
         name.fokus_setzen();
         return;
     }
     if (gefunden != eintraege.end()) {
         anzeigen(static_cast<int>(gefunden - eintraege.begin()));
-    } else if (kopie_.voll()) {
-        um_.meldungen.zeigen(voll_text_, um_.txt.titel[0]);
-        return;
     } else {
         kopie_.hinzufuegen(neu);
         anzeigen(static_cast<int>(eintraege.size()) - 1);
@@ -135,7 +140,9 @@ void listenseite::bild_neu_zuordnen() {
         return;
     }
     const std::string& eintrag = kopie_.eintraege().at(static_cast<std::size_t>(zeile)).name;
-    um_.bilder.oeffnen({bildtitel_text_, kopie_.listenart().bildordner, eintrag, [this](const std::string& stamm) {
+    const namensliste::art& bilder = kopie_.listenart();
+    const std::string standardstamm = bilder.standardbild.substr(0, bilder.standardbild.find('.'));
+    um_.bilder.oeffnen({bildtitel_text_, bilder.bildordner, standardstamm, eintrag, [this](const std::string& stamm) {
                             if (stamm != bildwahl::abgebrochen) {
                                 bild_setzen(stamm);
                             }
@@ -150,16 +157,15 @@ void listenseite::bild_setzen(const std::string& stamm) {
 }
 
 bool listenseite::uebernehmen() {
-    art_.datei = datei_;
-    if (kopie_.eintraege() == art_.liste.eintraege()) {
+    if (kopie_.eintraege() == art_.liste.eintraege() && !nicht_geschrieben_) {
         return true;
     }
     art_.liste = kopie_;
-    if (!art_.liste.speichern(um_.ablage, std::string(listenordner) + "\\" + datei_)) {
+    nicht_geschrieben_ = !art_.liste.speichern(um_.ablage, std::string(listenordner) + "\\" + art_.datei);
+    if (nicht_geschrieben_) {
         melden(art_.nicht_gespeichert);
-        return false;
     }
-    return true;
+    return !nicht_geschrieben_;
 }
 
 }  // namespace tarvel

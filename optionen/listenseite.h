@@ -14,14 +14,16 @@
 
 namespace tarvel {
 
-/// The page of the drivers, and in the same way that of the vehicles. It works on a copy: the program's list changes
-/// when the window takes the values over. Pictures and list files are written at once.
+/// The page of the drivers, and in the same way that of the vehicles. It works on a copy: the program's list and the
+/// file that it starts from change when the window takes the values over. Pictures, and lists that are saved under a
+/// name, are written at once.
 class listenseite {
 public:
     /// What the two pages differ in.
     struct art {
         namensliste& liste;
-        std::string& datei;  ///< of the list, below the folder of the lists
+        const std::string& datei;     ///< that the program starts from, below the folder of the lists
+        const std::string& standard;  ///< the entry in front of every list, which belongs to the program
         std::string endung;
         std::string deutsch;    ///< title of the page
         std::string voll;       ///< said when the list has no room
@@ -73,7 +75,8 @@ private:
     umgebung um_;
     art art_;
     namensliste kopie_;
-    std::string datei_;
+    std::string datei_;  ///< last one loaded or saved here
+    bool nicht_geschrieben_ = false;
     std::string voll_text_;
     std::string bildtitel_text_;
 };

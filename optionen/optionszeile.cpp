@@ -105,12 +105,16 @@ optionszeile_zeiger zahl(const beschriftet& b, const zugriff<int>& ziel, const z
     return std::move(zeile);
 }
 
-optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel, int laenge_max) {
+optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel, int laenge_max,
+                         std::size_t mindestens) {
     auto [zeile, element] = neue_zeile<feld>(b);
     element->laenge_max(laenge_max);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->text(ziel(z)); };
-    zeile->uebernehmen = [ziel, e = element](const einstellungs_ziel& z, const auto&) {
-        ziel(z) = gekuerzt(e->text());  // the file's reader cuts blanks off as well
+    zeile->uebernehmen = [ziel, mindestens, e = element](const einstellungs_ziel& z, const auto&) {
+        const std::string_view neu = gekuerzt(e->text());  // the file's reader cuts blanks off as well
+        if (laenge(neu) >= mindestens) {
+            ziel(z) = neu;
+        }
     };
     return std::move(zeile);
 }
@@ -180,13 +184,14 @@ optionszeile_zeiger farbwahl(const beschriftet& b, const zugriff<farbe>& ziel) {
     return std::move(zeile);
 }
 
-optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel) {
+optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel, std::string_view leer) {
     auto [zeile, element] = neue_zeile<soundfeld>(b);
     element->datei.frei(true);
     element->datei.laenge_max(200);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->datei.text(ziel(z)); };
-    zeile->uebernehmen = [ziel, e = element](const einstellungs_ziel& z, const auto&) {
-        ziel(z) = gekuerzt(e->datei.text());
+    zeile->uebernehmen = [ziel, leer, e = element](const einstellungs_ziel& z, const auto&) {
+        const std::string_view neu = gekuerzt(e->datei.text());
+        ziel(z) = neu.empty() ? leer : neu;
     };
     return std::move(zeile);
 }

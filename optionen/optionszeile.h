@@ -67,7 +67,9 @@ namespace option {
 optionszeile_zeiger kasten(const beschriftet& b, const zugriff<bool>& ziel);
 /// The field shows the value divided by `faktor`.
 optionszeile_zeiger zahl(const beschriftet& b, const zugriff<int>& ziel, const zahl_regel& regel, int faktor = 1);
-optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel, int laenge_max);
+/// A text of fewer characters than `mindestens` leaves the old one.
+optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel, int laenge_max,
+                         std::size_t mindestens = 0);
 /// A length that is kept as text, with a decimal point.
 optionszeile_zeiger meter(const beschriftet& b, const zugriff<std::string>& ziel);
 /// The first entry stands for the value `erster`, each further one for the next number.
@@ -82,7 +84,8 @@ optionszeile_zeiger wortliste(const beschriftet& b, const zugriff<std::string>& 
 /// A choice among the events.
 optionszeile_zeiger ereignis(const beschriftet& b, const zugriff<int>& ziel);
 optionszeile_zeiger farbwahl(const beschriftet& b, const zugriff<farbe>& ziel);
-optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel);
+/// An emptied field counts as `leer`.
+optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel, std::string_view leer);
 /// A row whose ways the caller fills.
 optionszeile_zeiger leeres_feld(const beschriftet& b, int laenge_max);
 optionszeile_zeiger leerer_kasten(const beschriftet& b);

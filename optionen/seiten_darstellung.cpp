@@ -34,7 +34,6 @@ optionszeile_zeiger trennzeichen_zeile(const std::string& name, const std::strin
     feld* element = &std::get<feld>(zeile->element);
     zeile->zeigen = [element, nummer](const einstellungs_ziel& z) { element->text(z.einst.trennzeichen.at(nummer)); };
     zeile->uebernehmen = [element, nummer](const einstellungs_ziel& z, const auto&) {
-        constexpr int erstes_druckbares = 32;
         if (ansi_code(element->text()).value_or(0) >= erstes_druckbares) {  // the file holds no other
             z.einst.trennzeichen.at(nummer) = element->text();
         }
@@ -71,6 +70,7 @@ std::vector<std::string> sound_ereignisse() {
 }
 
 optionsseite_zeiger sounds() {
+    constexpr int erste_bleibende = 48;  // from here on an empty line in the file leaves the old name
     auto seite = std::make_unique<optionsseite>("Sounds");
     seite->gruppe("Wiedergabe", 0) << kasten({"sound_an", "Sounds abspielen"}, wert(&e::sound_an))
                                    << zahl({"snd_beste", "'beste Runde' ab Runde", "1 bis 10"},
@@ -81,8 +81,9 @@ optionsseite_zeiger sounds() {
         optionsgruppe& ziel = seite->gruppe(gruppe.name, gruppe.spalte);
         for (const auto& [erste, letzte] : gruppe.bereiche) {
             for (int nummer = erste; nummer <= letzte; ++nummer) {
+                const std::string_view leer = nummer < erste_bleibende ? "" : "-";
                 ziel << sound({"sound_dateien_" + std::to_string(nummer), ""},
-                              element(&e::sound_dateien, static_cast<std::size_t>(nummer)));
+                              element(&e::sound_dateien, static_cast<std::size_t>(nummer)), leer);
             }
         }
     }

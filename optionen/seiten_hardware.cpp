@@ -11,26 +11,20 @@ using e = einstellungen;
 
 constexpr int comports_max = 20;
 
-std::vector<std::string_view> comports(std::string_view keiner, int anzahl, std::vector<std::string>& ablage) {
-    ablage.clear();
+std::vector<std::string> comport_namen(int anzahl) {
+    std::vector<std::string> namen;
     for (int nummer = 1; nummer <= anzahl; ++nummer) {
-        ablage.push_back("COM" + std::to_string(nummer));
+        namen.push_back("COM" + std::to_string(nummer));
     }
-    std::vector<std::string_view> eintraege{keiner};
-    eintraege.insert(eintraege.end(), ablage.begin(), ablage.end());
-    return eintraege;
+    return namen;
 }
 
 /// A port number, with 0 for none.
 optionszeile_zeiger comport(const beschriftet& b, const zugriff<int>& ziel, int anzahl) {
-    std::vector<std::string> namen;
-    return wahl(b, ziel, 0, comports("Kein Comport", anzahl, namen));
-}
-
-std::vector<std::string> comport_namen() {
-    std::vector<std::string> namen;
-    comports("", comports_max, namen);
-    return namen;
+    const std::vector<std::string> namen = comport_namen(anzahl);
+    std::vector<std::string_view> eintraege{"Kein Comport"};
+    eintraege.insert(eintraege.end(), namen.begin(), namen.end());
+    return wahl(b, ziel, 0, eintraege);
 }
 
 /// The address of the printer port, in hexadecimal digits.
@@ -64,7 +58,7 @@ void allgemein(optionsseite& seite) {
 
 void race_control(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Race Control", 1);
-    gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc_com_port), comport_namen())
+    gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc_com_port), comport_namen(comports_max))
            << entweder({"rc_mod1", "Modus"}, wert(&e::rc_mod1), "Modus 1", "Modus 2")
            << zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc_level), begrenzt(0, 130))
            << zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc_delay_ms), begrenzt(0, 50))
@@ -80,7 +74,7 @@ void race_control(optionsseite& seite) {
         gruppe << std::move(zeile);
     }
     gruppe << kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc_schalter))
-           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc_wert), begrenzt(-9999, 99999));
+           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc_wert), begrenzt(-999999999, 999999999));
 }
 
 void druckeranschluss(optionsseite& seite) {
@@ -140,7 +134,7 @@ void at_2560(optionsseite& seite) {
         << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart_datenbits), begrenzt(4, 8))
         << wortliste({"uart_parity", "Parität"}, wert(&e::uart_parity), {"N", "E", "O", "M", "S"})
         << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart_stopbits), {"1", "1.5", "2"})
-        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60);
+        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60, 6);
 }
 
 }  // namespace

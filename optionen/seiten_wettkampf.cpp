@@ -90,7 +90,7 @@ optionsseite_zeiger wettkampf_training() {
                                   << kasten({"w_speichern", "Wettkampf nach jedem Rennen speichern"},
                                             wert(&e::w_speichern))
                                   << kasten({"opt_centermode", "Centermode"}, wert(&e::centermode));
-    seite->gruppe("Wechselschema", 0) << text({"Wechselschemaauswahl", "Name"}, wert(&e::wechselschema_name), 80)
+    seite->gruppe("Wechselschema", 0) << text({"Wechselschemaauswahl", "Name"}, wert(&e::wechselschema_name), 80, 1)
                                       << wechselschema();
     seite->gruppe("Einfahren", 1) << kasten({"w_einfahren_an", "Einfahrzeit aktivieren"}, wert(&e::w_einfahren_an))
                                   << entweder({"w_edauer1", "Einfahren nach"}, wert(&e::w_edauer_runden), "Runden",
@@ -116,7 +116,7 @@ optionsseite_zeiger wettkampf_training() {
 
 optionsseite_zeiger bestzeiten() {
     auto seite = std::make_unique<optionsseite>("Bestzeitverwaltung");
-    seite->gruppe("Bestzeiten", 0) << text({"beste_datei", "Bestzeitdatei"}, wert(&e::beste_datei), 60)
+    seite->gruppe("Bestzeiten", 0) << text({"beste_datei", "Bestzeitdatei"}, wert(&e::beste_datei), 60, 1)
                                    << wahl({"Combo1", "Speicherung"}, wert(&e::beste_modus), 0,
                                            {"Bestzeiten deaktiviert", "automatische Speicherung",
                                             "manuelle Speicherung!"});

@@ -3,25 +3,22 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "core/nebendateien.h"
 #include "core/ordner.h"
+#include "core/ordnerblick.h"
 #include "core/text.h"
 
 namespace tarvel {
 namespace {
 
-/// The file's name below the settings folder.
-std::string einstellungsname(std::string_view pfad) {
-    std::string name(pfad);
-    std::replace(name.begin(), name.end(), '/', '\\');
-    for (const std::string_view vorspann :
-         {std::string_view("\\Einstellungen\\"), std::string_view("Einstellungen\\")}) {
-        if (name.starts_with(vorspann)) {
-            name.erase(0, vorspann.size());
-        }
-    }
-    return name;
+constexpr std::string_view einstellungsordner = "Einstellungen\\";
+constexpr std::string_view standard_einstellungen = "einstellungen.ini";
+
+std::string mit_rueckstrichen(std::string text) {
+    std::replace(text.begin(), text.end(), '/', '\\');
+    return text;
 }
 
 }  // namespace
@@ -32,7 +29,7 @@ programm::programm(const plattform::dienste& d)
       fahrerliste({"Fahrerliste:", "pictures", "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", "slotcars", "nocar.gif"}),
       form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
-      datei({ablage, {einst, form1, txt}, d.meldungen}),
+      datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
@@ -76,7 +73,7 @@ void programm::hauptfenster_verbinden() {
 void programm::optionen_verbinden() {
     datei.bestzeiten_laden = [this] { form1.bestzeiten_anzeigen(); };
     einstellungsfenster.einstellungen_speichern = [this] {
-        einstellungen_speichern("Einstellungen\\" + einstell_datei);
+        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
         return !datei.fehler_laden();
     };
     einstellungsfenster.nach_uebernahme = [this] {
@@ -112,7 +109,8 @@ void programm::fenster_anmelden() {
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
-    fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, {}});
+    // a picture that was chosen is copied at once, also if the list is not taken over
+    fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, [this] { form1.bilder_anzeigen(); }});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
 }
 
@@ -187,18 +185,38 @@ void programm::listen_laden() {
     fahrzeug_datei = "fahrzeuge.kfz";
 }
 
+std::string programm::einstellungsname(std::string_view pfad) const {
+    std::string name = mit_rueckstrichen(std::string(pfad));
+    const std::string programm_pfad = mit_rueckstrichen(pfad_als_utf8(dienste.programmordner));
+    for (const std::string_view vorspann :
+         {std::string_view(programm_pfad), std::string_view("\\"), einstellungsordner}) {
+        if (name.starts_with(vorspann)) {
+            name.erase(0, vorspann.size());
+        }
+    }
+    return name;
+}
+
 void programm::start_datei_bestimmen() {
+    constexpr int modul_aus = 3;
     s6_start start = s6_laden(ablage);
     const bool neustart = start.zustand == "2";
     einstell_datei = start.einstell_datei;
-    modus_4x4_start_ = neustart ? static_cast<int>(ganzzahl_lesen(start.modus, 0, 7)) : 0;
+    const std::string name = einstellungsname(einstell_datei);
+    if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
+        einstell_datei = std::string(einstellungsordner) + std::string(standard_einstellungen);
+    } else if (name.size() + einstellungsordner.size() < einstell_datei.size()) {
+        einstell_datei = std::string(einstellungsordner) + name;
+    }
+    const auto modus = static_cast<int>(ganzzahl_lesen(start.modus, 0, 7));
+    modus_4x4_start_ = neustart && modus >= modul_aus ? modus : 0;
     if (!neustart) {
         einstell_standarddatei = einstell_datei;
     }
     if (neustart || start.zustand == "0") {  // a restart request lasts one start only
         start.zustand = start.naechster_zustand;
         start.modus = start.naechster_modus;
-        start.einstell_datei = "Einstellungen\\einstellungen.ini";
+        start.einstell_datei = std::string(einstellungsordner) + std::string(standard_einstellungen);
         s6_speichern(ablage, start);
     }
 }
@@ -209,10 +227,10 @@ void programm::einstellungen_laden() {
         datei.einstellungsdatei_pruefen();
     }
     if (!datei.fehler_laden()) {
-        datei.einstellungen_uebernehmen(modus_4x4_start_);
+        datei.einstellungen_uebernehmen(std::exchange(modus_4x4_start_, 0));
     }
     einstell_datei = einstellungsname(einstell_datei);
-    form1.einstellungsname_anzeigen(einstell_datei);
+    form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));
     const bool unbrauchbar = datei.fehler_laden();
     if (unbrauchbar) {
         dienste.meldungen.zeigen(txt.meldung[9], txt.titel[1]);
@@ -221,7 +239,7 @@ void programm::einstellungen_laden() {
     }
     belegung.tastenbelegung_laden(ablage);  // the keys are a file of their own: damaged settings do not cost them
     if (unbrauchbar) {
-        einstellungen_speichern("Einstellungen\\" + einstell_datei);
+        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
     }
     form1.farben_einstellen();
     form1.bilder_anzeigen();
@@ -237,7 +255,7 @@ void programm::einstellungen_speichern(std::string_view name) {
     if (!datei.fehler_laden()) {
         einstell_datei = einstellungsname(name);
     }
-    form1.einstellungsname_anzeigen(einstell_datei);
+    form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));
     belegung.tastenbelegung_speichern(ablage);
 }
 
@@ -245,7 +263,7 @@ void programm::speichern_oeffnen() {
     form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
     speichernfenster.oeffnen({true, txt.datei_text[4], txt.datei_text[1], txt.datei_text[0], "Einstellungen", ".ini",
                               einstell_datei, [this](const std::string& name) {
-                                  einstellungen_speichern("Einstellungen\\" + name);
+                                  einstellungen_speichern(std::string(einstellungsordner) + name);
                                   return !datei.fehler_laden();
                               }});
 }
@@ -257,7 +275,7 @@ void programm::laden_oeffnen() {
 }
 
 bool programm::einstellungen_aus_menue_laden(const std::string& name) {
-    const std::string pfad = "Einstellungen\\" + name;
+    const std::string pfad = std::string(einstellungsordner) + name;
     datei.einstellungsdatei_einlesen(pfad, false, version_melden::nein);
     datei.einstellungsdatei_pruefen();
     if (datei.fehler_laden()) {
@@ -274,6 +292,7 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
 void programm::hardware_starten() {
     ausgaben.ruhezustand();
     form1.modus_anzeigen();
+    form1.bahnstrom_schaltbar(ausgaben.angeschlossen());
     if (!laden_aus_menue_) {
         fenster.zeigen("Form1");
         fenster.zeigen("Form3");

@@ -78,6 +78,8 @@ private:
     void hardware_standard_setzen();
     void einstellungen_standard_setzen();
     void listen_laden();
+    /// The file's name below the settings folder.
+    std::string einstellungsname(std::string_view pfad) const;
     void start_datei_bestimmen();
     void einstellungen_laden();
     void einstellungen_speichern(std::string_view name);

@@ -19,6 +19,7 @@ TEST_F(Dateien, NamenFuehrenNieAusDemProgrammordner) {
         EXPECT_FALSE(ablage.zeilen_schreiben(name, {"x"})) << name;
         EXPECT_FALSE(ablage.zeilen_lesen(name, 10)) << name;
     }
+    EXPECT_TRUE(ablage.pfad(std::string_view("a.ini\0b", 7)).empty()) << "the system would take it for a.ini";
     EXPECT_EQ(ablage.pfad("a\\..\\b.txt"), maschine.ordner() / "b.txt");
 }
 

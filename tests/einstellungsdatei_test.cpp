@@ -114,10 +114,13 @@ TEST_F(Einstellungsdatei, UnzulaessigeZeilenVerwerfenDieGanzeDatei) {
     for (const auto& [nummer, text] : std::vector<std::pair<int, std::string>>{{0, "Tarvel  Version 2.23"},
                                                                                {1, "[Fahrer 1]"},
                                                                                {2, "2"},
+                                                                               {2, ""},
+                                                                               {8, "0.5"},
                                                                                {3, "10001"},
                                                                                {26, "0"},
                                                                                {28, "-1"},
                                                                                {29, "4"},
+                                                                               {29, "2.5"},
                                                                                {36, "101"},
                                                                                {40, "0"},
                                                                                {48, "Ja"},
@@ -220,23 +223,19 @@ TEST_F(Einstellungsdatei, HardwareSchliesstSichAus) {
     EXPECT_EQ(p->form1.modus_label.text(), "IOW 40 USB");
     EXPECT_TRUE(start_mit({{252, "Wahr"}}));
     EXPECT_EQ(p->form1.modus_label.text(), "Carrera Control Unit");
-    t.maschine.datei_schreiben("tvk_s6.ini", "2\r\n5\r\nEinstellungen\\einstellungen.ini\r\n0\r\n\r\n");
-    EXPECT_TRUE(start_mit({{66, "Wahr"}}));
-    EXPECT_FALSE(p->einst.hardware.hw_iow);
-    EXPECT_EQ(p->einst.hardware.hw_4x4_modus, 5);
-    EXPECT_EQ(s6_laden(ablage).zustand, "0") << "the request lasts one start";
-}
-
-TEST_F(Einstellungsdatei, StartdateiMitSchraegstrichLiegtImSelbenOrdner) {
-    t.maschine.datei_schreiben("tvk_s6.ini", "0\r\n\r\nEinstellungen/klub.ini\r\n0\r\n\r\n");
-    EXPECT_FALSE(start_mit({})) << "the file is not there yet";
-    EXPECT_EQ(p->form1.Label6.text(), "Einstellungsdatei: klub.ini");
-    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/klub.ini"));
 }
 
 TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
-    std::vector<std::string> wettkampf = grund;
-    wettkampf.insert(wettkampf.begin(), "Wettkampfdatei: Vereinsmeister");
+    programm quelle(t.maschine.dienste());
+    quelle.starten();
+    quelle.form1.stddauer.text("1");
+    quelle.form1.renndauer.text("10");
+    quelle.form1.rennart.text("Runden");
+    quelle.form1.wertmin.text("4.5");
+    quelle.form1.t_aktiv.gesetzt(true);
+    std::vector<std::string> wettkampf = quelle.datei.schreiben_fuer_wettkampf("Vereinsmeister");
+    EXPECT_EQ(wettkampf.front(), "Wettkampfdatei: Vereinsmeister");
+    EXPECT_EQ(wettkampf.size(), grund.size() + 1);
     wettkampf.emplace_back("Teilnehmer");
     ASSERT_TRUE(ablage.zeilen_schreiben("w.wtk", wettkampf));
     t.p.datei.einstellungsdatei_einlesen("w.wtk", true);
@@ -244,6 +243,12 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     EXPECT_FALSE(t.p.datei.fehler_laden());
     ASSERT_FALSE(t.p.datei.rest().empty());
     EXPECT_EQ(t.p.datei.rest().back(), "Teilnehmer");
+    t.p.datei.einstellungen_uebernehmen(0);
+    EXPECT_EQ(t.p.param.renn_art_text, "Runden");
+    EXPECT_EQ(t.p.param.min_rundenzeit_ms, 4500);
+    EXPECT_EQ(t.p.param.renndauer_ms, 3600000 + 600000);
+    EXPECT_EQ(t.p.param.renndauer_rest_ms, t.p.param.renndauer_ms);
+    EXPECT_TRUE(t.p.param.tank_aktiv);
     t.p.datei.einstellungsdatei_einlesen("w.wtk");
     EXPECT_TRUE(t.p.datei.fehler_laden());
 }

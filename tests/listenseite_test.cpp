@@ -95,6 +95,42 @@ TEST_F(Listenseite, NichtSchreibbareListeWirdGemeldet) {
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna") << "nothing the operator has typed is lost";
 }
 
+TEST_F(Listenseite, MisslungenesSchreibenWirdNachgeholt) {
+    const auto im_weg = t.maschine.ordner() / "Listen/fahrer.lst.tarvel-neu";
+    std::filesystem::create_directory(im_weg);
+    hinzufuegen("Anna");
+    uebernehmen();
+    std::filesystem::remove(im_weg);
+    uebernehmen();
+    EXPECT_FALSE(t.p.fenster.ist_offen("einstellungen"));
+    EXPECT_NE(t.maschine.datei_lesen("Listen/fahrer.lst").find("Anna"), std::string::npos);
+}
+
+TEST_F(Listenseite, GeltendeListeIstBeimNaechstenStartDa) {
+    fahrer.Liste_speichern.klicken();
+    t.p.fahrerspeichernfenster.name.eingeben("klub");
+    t.p.fahrerspeichernfenster.Command1.klicken();
+    hinzufuegen("Łukas");  // no sign of the files' code page
+    EXPECT_EQ(fahrer.namen.zeilen().back(), "?ukas") << "shown as it will be kept";
+    uebernehmen();
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(neu.fahrerliste.eintraege().back().name, "?ukas");
+}
+
+TEST_F(Listenseite, StandardbildGehoertAllen) {
+    bild_anlegen("pictures/nopic.jpg", "\xFF\xD8\xFF Standard");
+    bild_anlegen("pictures/foto.jpg");
+    hinzufuegen("nopic");
+    hinzufuegen("kein Fahrer");
+    EXPECT_EQ(fahrer.namen.zeilen().back(), "nopic") << "the standard entry is in every list already";
+    fahrer.anderes_bild.klicken();
+    bilder.datei.auswaehlen(0);
+    bilder.Command1.klicken();
+    EXPECT_EQ(t.maschine.datei_lesen("pictures/nopic.jpg"), "\xFF\xD8\xFF Standard");
+    EXPECT_EQ(fahrer.vorschau.datei(), "pictures/nopic_.jpg");
+}
+
 TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     bild_anlegen("kamera/foto 17.JPG");
     bild_anlegen("kamera/text.jpg", "kein Bild");

@@ -245,6 +245,21 @@ TEST_F(Optionen, ReglerbefehleDerControlUnit) {
     EXPECT_EQ(einst.cu_reglerbefehl[3], "J240712$");
 }
 
+TEST_F(Optionen, WasDieDateiNichtAnnimmtNimmtAuchDasFensterNicht) {
+    for (const char* name : {"uart_datei", "beste_datei", "Wechselschemaauswahl"}) {
+        const std::string vorher = element<feld>(name).text();
+        EXPECT_TRUE(nach_eingabe(name, "").empty());
+        EXPECT_EQ(element<feld>(name).text(), vorher) << name;
+    }
+    element<soundfeld>("sound_dateien_1").datei.eingeben("");
+    element<soundfeld>("sound_dateien_55").datei.eingeben("");
+    uebernehmen();
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(neu.einst.sound_dateien[1], "");
+    EXPECT_EQ(neu.einst.sound_dateien[55], "-") << "an empty line would bring the old sound back";
+}
+
 TEST_F(Optionen, WechselschemaNurVollstaendig) {
     for (const char* text : {"123456", "1-2-3-4-5-6-6", "0-1-2-3-4-5-6", "1-2-3-4-5-6-P-1", "Unfug"}) {
         const auto gezeigt = nach_eingabe("wechsel_schema", text);

@@ -80,6 +80,13 @@ TEST_F(Speichernfenster, NamenFuehrenNichtAusDemOrdner) {
     EXPECT_FALSE(t.maschine.datei_da("fremd.ini"));
 }
 
+TEST_F(Speichernfenster, EinPunktImNamenIstNochKeineEndung) {
+    speichern_als("Klub 2.0");
+    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/Klub 2.0.ini"));
+    speichern_als("klub.INI");
+    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/klub.INI"));
+}
+
 TEST_F(Speichernfenster, AlleDateienZeigtAuchAndere) {
     t.maschine.datei_schreiben("Einstellungen/notiz.txt", "");
     t.p.form1.Command7.klicken();

@@ -34,6 +34,21 @@ TEST_F(Sprache, MitgelieferteDateienUndLeserPassenZusammen) {
     }
 }
 
+TEST_F(Sprache, UebersetzteDateienHabenJedenText) {
+    test::testprogramm t;
+    const dateien englisch{std::filesystem::path(TARVEL_QUELLEN) / "data"};
+    for (const sprachliste& sprache : t.p.sprachdateien()) {
+        std::string name = sprache.datei();
+        name.replace(0, name.find_first_of("/\\"), "language-en");
+        const auto inhalt = englisch.zeilen_lesen(name, 10000);
+        ASSERT_TRUE(inhalt) << name;
+        EXPECT_EQ(inhalt->size(), sprache.anzahl()) << name;
+        const auto felder = felder_lesen(englisch, name, 10000);
+        const bool zeilenweise = sprache.deutsche_datei().front().front() != '"';
+        EXPECT_TRUE(zeilenweise || felder->size() == sprache.anzahl()) << name << " has an open quote";
+    }
+}
+
 TEST_F(Sprache, FelderMitUndOhneAnfuehrungszeichen) {
     ASSERT_TRUE(ablage.zeilen_schreiben("f.txt", {"\"a, b\" , c,,  d ", "", "\"offen", "e"}));
     EXPECT_EQ(felder_lesen(ablage, "f.txt", 10), (zeilen{"a, b", "c", "", "d", "", "offen", "e"}));

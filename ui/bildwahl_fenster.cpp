@@ -28,14 +28,10 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* elter
     const auto spalte = [&](bezeichnung& titel, tarvel::liste& liste, const QString& name) {
         auto* paar = new QVBoxLayout;
         paar->addWidget(binder().label(titel, "Label_" + name));
-        QListView* widget = binder().listenfeld(liste, name);
-        paar->addWidget(widget, 1);
+        paar->addWidget(binder().listenfeld(liste, name), 1);
         mitte->addLayout(paar, 1);
-        return widget;
     };
-    QListView* ordner = spalte(logik.Label_ordner, logik.ordner, "ordner");
-    QObject::connect(ordner, &QListView::activated, ordner,
-                     [&logik](const QModelIndex& zeile) { logik.ordner.doppelklicken(zeile.row()); });
+    spalte(logik.Label_ordner, logik.ordner, "ordner");
     spalte(logik.Label_datei, logik.datei, "datei");
     mitte->addWidget(binder().bildfeld(logik.vorschau, "vorschau", vorschaugroesse, pfad_aus_utf8), 0, Qt::AlignTop);
     aufbau->addLayout(mitte, 1);

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QWheelEvent>
 #include <cmath>
 #include <utility>
 
@@ -65,6 +66,15 @@ private:
             selectAll();
         }
     }
+};
+
+/// The wheel scrolls the page and never turns a choice on the way.
+class Auswahlfeld final : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void wheelEvent(QWheelEvent* ereignis) override { ereignis->ignore(); }
 };
 
 }  // namespace
@@ -281,7 +291,7 @@ QCheckBox* Binder::kasten(haken& element, const QString& name) {
 }
 
 QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
-    auto* widget = new QComboBox(eltern_);
+    auto* widget = new Auswahlfeld(eltern_);
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget->setMinimumContentsLength(6);
     widget->setInsertPolicy(QComboBox::NoInsert);
@@ -339,7 +349,8 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     widget->setModel(modell);
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
                      [&element](const QModelIndex& zeile) { element.auswaehlen(zeile.row()); });
-    QObject::connect(widget, &QListView::doubleClicked, widget,
+    // the Enter key as well as a double click
+    QObject::connect(widget, &QListView::activated, widget,
                      [&element](const QModelIndex& zeile) { element.doppelklicken(zeile.row()); });
     verbinden(element, widget, name, [&element, widget, modell] {
         const QSignalBlocker still(widget->selectionModel());

@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <filesystem>
 #include <system_error>
 
@@ -11,6 +13,10 @@ int main(int argc, char** argv) {
     QApplication anwendung(argc, argv);
     QApplication::setApplicationName("Tarvel");
     QApplication::setQuitOnLastWindowClosed(false);
+    QTranslator qt_texte;  // of the colour dialog and the like
+    if (qt_texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&qt_texte);
+    }
     tarvel::ui::stil::anwenden(anwendung);
 
     const std::filesystem::path ordner(QCoreApplication::applicationDirPath().toStdU16String());

@@ -1,6 +1,7 @@
 #include <QColorDialog>
 #include <QListView>
 #include <QScrollArea>
+#include <QWheelEvent>
 
 #include "core/text.h"
 #include "tests/ui/oberflaeche_probe.h"
@@ -103,6 +104,37 @@ TEST_F(OptionenFenster, EscapeVerwirft) {
     EXPECT_FALSE(t.p.einst.runde_beenden);
     oeffnen();
     EXPECT_FALSE(gesetzt("einstellungen.formelcheck"));
+}
+
+TEST_F(OptionenFenster, DoppelklickBetrittEinenOrdner) {
+    std::filesystem::create_directories(t.maschine.ordner() / "pictures/a/b/c");
+    oeffnen();
+    seite(f::seite_fahrer);
+    klick(o.einstellungen, "einstellungen.Command40");
+    o.takt.ausfuehren();
+    auto* ordner = finde<QListView>(o.bildwahl, "fahrerbild_laden.ordner");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&o.bildwahl));
+    const auto doppelklick = [&](int zeile) {
+        const QPoint ort = ordner->visualRect(ordner->model()->index(zeile, 0)).center();
+        QTest::mouseClick(ordner->viewport(), Qt::LeftButton, {}, ort);
+        QTest::mouseDClick(ordner->viewport(), Qt::LeftButton, {}, ort);
+        o.takt.ausfuehren();
+    };
+    doppelklick(1);
+    EXPECT_TRUE(t.p.fahrerbild_laden.pfad.text().ends_with("pictures/a")) << t.p.fahrerbild_laden.pfad.text();
+    doppelklick(0);
+    EXPECT_TRUE(t.p.fahrerbild_laden.pfad.text().ends_with("pictures")) << t.p.fahrerbild_laden.pfad.text();
+}
+
+TEST_F(OptionenFenster, MausradAendertKeineAuswahl) {
+    oeffnen();
+    auto* ampel = finde<QComboBox>(o.einstellungen, "einstellungen.start_ampel_combo");
+    ampel->setFocus();
+    const QPointF ort(5, 5);
+    QWheelEvent rad(ort, ampel->mapToGlobal(ort), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+    QCoreApplication::sendEvent(ampel, &rad);
+    EXPECT_EQ(ampel->currentIndex(), 1);
 }
 
 TEST_F(OptionenFenster, KaputtesBildZeigtDasStandardbild) {
