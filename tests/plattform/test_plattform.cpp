@@ -58,10 +58,10 @@ private:
     bool laeuft_ = false;
 };
 
-test_plattform::test_plattform() {
+test_plattform::test_plattform(const fs::path& unter) {
     static std::atomic<int> nummer{0};
     const auto start = std::chrono::steady_clock::now().time_since_epoch().count();
-    ordner_ = fs::temp_directory_path() / ("tarvel-test-" + std::to_string(start) + "-" + std::to_string(++nummer));
+    ordner_ = unter / ("tarvel-test-" + std::to_string(start) + "-" + std::to_string(++nummer));
     fs::create_directories(ordner_);
 }
 

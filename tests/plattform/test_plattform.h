@@ -14,7 +14,7 @@ namespace tarvel::test {
 class virtueller_zeitgeber;
 
 /// A machine without screen, hardware and real time: a clock that only `laufen` moves, message boxes and sounds on
-/// record, and a program folder of its own that goes with it.
+/// record, and a program folder of its own below `unter` that goes with it.
 class test_plattform final : private plattform::uhr,
                              private plattform::zeitgeber_dienst,
                              private plattform::meldungen,
@@ -31,7 +31,7 @@ public:
         }
     };
 
-    test_plattform();
+    explicit test_plattform(const std::filesystem::path& unter = std::filesystem::temp_directory_path());
     test_plattform(const test_plattform&) = delete;
     test_plattform& operator=(const test_plattform&) = delete;
     ~test_plattform() override;

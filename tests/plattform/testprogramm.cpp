@@ -6,7 +6,7 @@
 
 namespace tarvel::test {
 
-testprogramm::testprogramm() : p(maschine.dienste()) {
+testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter), p(maschine.dienste()) {
     p.starten();
     maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <initializer_list>
 #include <string_view>
 
@@ -10,7 +11,7 @@ namespace tarvel::test {
 
 /// A started program on the test machine, driven as its user drives it.
 struct testprogramm {
-    testprogramm();
+    explicit testprogramm(const std::filesystem::path& unter = std::filesystem::temp_directory_path());
 
     /// Sets up a race on the main window and opens the race window. `dauer` as typed, race kind by the entry's text.
     void einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
