@@ -9,7 +9,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view ende_marke = einstellungs_ende;
 constexpr std::string_view wettkampf_kopf = "Wettkampfdatei: ";
 constexpr std::size_t zeilen_max = 200000;  // a competition adds its own lines
 
@@ -46,8 +45,10 @@ void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool 
         if (i == inhalt->size()) {
             return;  // ends in the middle
         }
-        zeilen_[platz(z)] = gekuerzt((*inhalt)[i++]);
-        vollstaendig = zeilen_[platz(z)] == ende_marke;
+        std::string& neue = zeilen_[platz(z)];
+        neue = gekuerzt((*inhalt)[i++]);
+        vollstaendig = neue == einstellungs_ende;
+        neue = vollstaendig ? std::string() : neue;  // the mark is no value of the line it stands in
     }
     fehler_laden_ = false;
     rest_.assign(inhalt->begin() + static_cast<std::ptrdiff_t>(i), inhalt->end());
@@ -137,7 +138,7 @@ void einstellungsdatei::wechselschema_uebernehmen() {
 
 void einstellungsdatei::cu_spuren_uebernehmen() {
     const std::string& erste = zeile(z::cu_spur_erste);
-    if (erste.empty() || erste == ende_marke) {
+    if (erste.empty()) {  // a file of an older version ends before
         return;
     }
     for (const int spur : alle_spuren) {

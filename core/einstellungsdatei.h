@@ -29,6 +29,8 @@ public:
 
     /// True after a failed read, check or write.
     bool fehler_laden() const { return fehler_laden_; }
+    /// The lines of the last file read, by their number Z.
+    const einstellungs_zeilen& zeilen() const { return zeilen_; }
     /// First stage. A competition file has one line in front of the header, and goes on behind the settings: what
     /// stands there is left in `rest`.
     void einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei = false,

@@ -26,9 +26,11 @@ std::string mit_blanks(const std::string& zahl) {
 /// What is typed as the reader will find it again: without blanks at its ends, in one line, and never the mark that
 /// ends a file.
 std::string als_zeile(const std::string& text) {
-    std::string zeile(gekuerzt(text));
-    std::replace_if(
-        zeile.begin(), zeile.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    std::string zeile = text;
+    for (char& zeichen : zeile) {
+        zeichen = zeichen == '\r' || zeichen == '\n' ? ' ' : zeichen;
+    }
+    zeile = gekuerzt(zeile);
     return zeile == einstellungs_ende ? std::string() : zeile;
 }
 

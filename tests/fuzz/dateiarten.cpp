@@ -39,16 +39,27 @@ std::string volle_liste(const std::string& kopf) {
     return als_bytes(zeilen);
 }
 
-std::string alle_tasten(const werkbank& bank) {
+std::string alle_tasten(werkbank& bank) {
     tastenbelegung belegung;
     belegung.vorbelegen(belegung_stufe::alle);
     fordern(belegung.tastenbelegung_speichern(bank.ausgang), "keys cannot be written");
     return bank.t.maschine.datei_lesen("ausgang/tvk_taste.ini");
 }
 
+/// The German files of the main window and of the shared texts: fields in one, lines in the other.
+std::vector<std::string> sprachdateien(werkbank& bank) {
+    std::vector<std::string> bytes;
+    for (const sprachliste& sprache : bank.t.p.sprachdateien()) {
+        if (sprache.datei().ends_with("_m1.txt") || sprache.datei().ends_with("_m2.txt")) {
+            bytes.push_back(als_bytes(sprache.deutsche_datei()));
+        }
+    }
+    return bytes;
+}
+
 }  // namespace
 
-std::vector<dateiart> dateiarten(const werkbank& bank) {
+std::vector<dateiart> dateiarten(werkbank& bank) {
     const std::vector<std::string> zeilen = bank.t.p.datei.schreiben();
     const std::string einstellungen = als_bytes(zeilen);
     return {
@@ -67,6 +78,7 @@ std::vector<dateiart> dateiarten(const werkbank& bank) {
           "\"2\", 6 ,\"Einstellungen\\klub.ini\",\"0\",\"\"\r\n"},
          startdatei_lesen},
         {"tasten", {alle_tasten(bank)}, tasten_lesen},
+        {"sprache", sprachdateien(bank), sprache_lesen},
     };
 }
 

@@ -20,7 +20,7 @@ struct dateiart {
 };
 
 /// All kinds. A new one gets its row here, and its name in the CMake list of the targets.
-std::vector<dateiart> dateiarten(const werkbank& bank);
+std::vector<dateiart> dateiarten(werkbank& bank);
 
 bool einstellungen_lesen(werkbank& bank, std::string_view bytes);
 bool wettkampfdatei_lesen(werkbank& bank, std::string_view bytes);
@@ -29,5 +29,6 @@ bool trennzeichen_lesen(werkbank& bank, std::string_view bytes);
 bool werbezeile_lesen(werkbank& bank, std::string_view bytes);
 bool startdatei_lesen(werkbank& bank, std::string_view bytes);
 bool tasten_lesen(werkbank& bank, std::string_view bytes);
+bool sprache_lesen(werkbank& bank, std::string_view bytes);
 
 }  // namespace tarvel::test

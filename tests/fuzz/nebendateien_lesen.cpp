@@ -10,9 +10,10 @@
 namespace tarvel::test {
 namespace {
 
-/// The program writes no quotes around its fields, so not every text comes back.
+/// Most fields are written without quotes, and quotes in a field are changed, so not every text comes back.
 bool kommt_zurueck(const std::string& text) {
-    return text.find(',') == std::string::npos && gekuerzt(text) == text;
+    constexpr std::size_t mit_zitat_max = 3998;  // of the bytes of a line
+    return text.find_first_of(",\"") == std::string::npos && gekuerzt(text) == text && laenge(text) <= mit_zitat_max;
 }
 
 std::array<std::string, 5> felder(const s6_start& start) {
@@ -38,7 +39,8 @@ bool trennzeichen_lesen(werkbank& bank, std::string_view bytes) {
         return false;
     }
     for (const std::string& zeichen : werte) {
-        fordern(ansi_code(zeichen).value_or(0) >= ' ', "a separator is one character that can be seen");
+        const int code = ansi_code(zeichen).value_or(0);
+        fordern(code >= ' ' || code == '\t', "a separator is one character that can be seen");
     }
     trennzeichen_tabelle zurueck = vorher;
     fordern(trennzeichen_speichern(bank.ausgang, werte), "separators cannot be written");
