@@ -18,7 +18,7 @@ std::size_t platz(int z) {
 
 }  // namespace
 
-bool einstellungsdatei::kopf_pruefen(std::string_view kopf, version_melden melden) {
+bool einstellungsdatei::version_pruefen(std::string_view kopf, version_melden melden) {
     if (!kopf.starts_with(einstellungs_kopf)) {
         return false;
     }
@@ -35,7 +35,7 @@ void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool 
     fehler_laden_ = true;
     const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
     std::size_t i = wettkampfdatei ? 1 : 0;
-    if (!inhalt || inhalt->size() <= i + 1 || !kopf_pruefen((*inhalt)[i], melden)) {
+    if (!inhalt || inhalt->size() <= i + 1 || !version_pruefen((*inhalt)[i], melden)) {
         return;
     }
     zeilen_[0] = (*inhalt)[i];
@@ -80,7 +80,7 @@ void einstellungsdatei::einstellungsdatei_pruefen() {
     }
 }
 
-void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
+void einstellungsdatei::einstellungen_uebernehmen(int hw_4x4_modus_start) {
     const auto& tabelle = einstellungstabelle();
     for (int z = 1; z <= z::letzte_gelesene; ++z) {
         if (tabelle[platz(z)].laden) {
@@ -89,23 +89,23 @@ void einstellungsdatei::einstellungen_uebernehmen(int modus_4x4_start) {
         if (z == z::ende_wettkampf && wettkampfdatei_) {
             rennen_des_wettkampfs_uebernehmen();
         }
-        if (z == z::vor_den_bestzeiten && bestzeiten_laden) {
-            bestzeiten_laden();
+        if (z == z::vor_den_bestzeiten && beste_zeiten_laden) {
+            beste_zeiten_laden();
         }
     }
     einstellungen& einst = um_.ziel.einst;
-    hardware_folgen(modus_4x4_start);
+    hardware_folgen(hw_4x4_modus_start);
     wechselschema_uebernehmen();
     cu_spuren_uebernehmen();
     einst.folgen_ableiten();
     um_.ziel.haupt.spuren_nach_laden();
 }
 
-void einstellungsdatei::hardware_folgen(int modus_4x4_start) {
+void einstellungsdatei::hardware_folgen(int hw_4x4_modus_start) {
     messhardware& hardware = um_.ziel.einst.hardware;
-    if (modus_4x4_start != 0) {
+    if (hw_4x4_modus_start != 0) {
         hardware.hw_iow = hardware.hw_race_control = hardware.hw_lpt = hardware.hw_timekeeper = false;
-        hardware.hw_4x4_modus = modus_4x4_start;
+        hardware.hw_4x4_modus = hw_4x4_modus_start;
     }
     hardware.simulation_ableiten();
 }

@@ -37,10 +37,10 @@ public:
                                     version_melden melden = version_melden::ja);
     /// Second stage: refuses the file or mends single lines.
     void einstellungsdatei_pruefen();
-    /// Third stage. A start that asks for a mode of the 4x4 module gives it in `modus_4x4_start`, else 0.
-    void einstellungen_uebernehmen(int modus_4x4_start);
+    /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`, else 0.
+    void einstellungen_uebernehmen(int hw_4x4_modus_start);
     /// Runs in the middle of taking over, as soon as it is known which best times are wanted.
-    std::function<void()> bestzeiten_laden;
+    std::function<void()> beste_zeiten_laden;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 
@@ -54,9 +54,9 @@ public:
     void einstellungen_speichern(std::string_view datei);
 
 private:
-    bool kopf_pruefen(std::string_view kopf, version_melden melden);
+    bool version_pruefen(std::string_view kopf, version_melden melden);
     void wahrheitswoerter_uebersetzen();
-    void hardware_folgen(int modus_4x4_start);
+    void hardware_folgen(int hw_4x4_modus_start);
     void rennen_des_wettkampfs_uebernehmen();
     void wechselschema_uebernehmen();
     void cu_spuren_uebernehmen();

@@ -103,6 +103,7 @@ public:
     void entladen() { timer1_->aus(); }
     /// The texts of the window.
     sprachliste sprache_m2();
+    void sprache_m2_laden() { sprache_m2().anwenden(um_.ablage); }
     /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
     void spuren_nach_laden();
     void farben_einstellen();
@@ -114,7 +115,7 @@ public:
     void autobild_anzeigen(int nummer);
     void bilder_anzeigen();
     /// Best time of each lane; none is kept yet.
-    void bestzeiten_anzeigen();
+    void beste_zeiten_anzeigen();
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();

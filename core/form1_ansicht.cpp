@@ -58,11 +58,11 @@ void form1::ansagen_setzen() {
 
 void form1::laden() {
     version_label.text("V " + std::string(programm_version));
-    sprache_m2().anwenden(um_.ablage);
+    sprache_m2_laden();
     ansagen_setzen();
     t_aktiv.sichtbar(false);
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
-    bestzeiten_anzeigen();
+    beste_zeiten_anzeigen();
     farben_einstellen();
     rennart_geaendert();
     timer1_->an();
@@ -108,7 +108,7 @@ void form1::bilder_anzeigen() {
     }
 }
 
-void form1::bestzeiten_anzeigen() {
+void form1::beste_zeiten_anzeigen() {
     for (bezeichnung& bestzeit : Label_fahrzeug) {
         bestzeit.text("–");
     }
@@ -116,7 +116,7 @@ void form1::bestzeiten_anzeigen() {
 
 void form1::fahrer_Change(int nummer) {
     fahrerbild_laden(fahrer[feld_index(nummer)].text(), nummer);
-    bestzeiten_anzeigen();
+    beste_zeiten_anzeigen();
 }
 
 void form1::farben_einstellen() {

@@ -49,7 +49,7 @@ optionszeile_zeiger fruehstart_strafzeit() {
 
 /// At most half a tank, whatever size the tank has just been given.
 optionszeile_zeiger tankwarnung() {
-    optionszeile_zeiger zeile = leeres_feld({"t_warnung", "in Box bei Literzahl", "Liter"}, 8);
+    optionszeile_zeiger zeile = leeres_feld({"t_warnung", "Tankwarnung bei", "Liter"}, 8);
     optionszeile* zeiger = zeile.get();
     feld* element = &std::get<feld>(zeile->element);
     zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen](sprachliste& texte) {

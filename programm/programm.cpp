@@ -13,6 +13,9 @@
 namespace tarvel {
 namespace {
 
+constexpr std::string_view fahrer_bildordner = "pictures";
+constexpr std::string_view fahrzeug_bildordner = "slotcars";
+const std::string listenordner = "Listen\\";
 constexpr std::string_view einstellungsordner = "Einstellungen\\";
 constexpr std::string_view standard_einstellungen = "einstellungen.ini";
 
@@ -26,8 +29,8 @@ std::string mit_rueckstrichen(std::string text) {
 programm::programm(const plattform::dienste& d)
     : dienste(d),
       ablage(d.programmordner),
-      fahrerliste({"Fahrerliste:", "pictures", "nopic.jpg"}),
-      fahrzeugliste({"Fahrzeugliste:", "slotcars", "nocar.gif"}),
+      fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
+      fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
       form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       form3(d.zeitgeber, fenster),
@@ -60,9 +63,13 @@ void programm::hauptfenster_verbinden() {
         ausgaben.relais_on(0);
         ausgaben.ampelnGRoff();
     };
-    form1.fahrerbilder_uebernehmen = [this] { bilder_uebernehmen(fahrerliste, "Listen\\" + fahrer_datei, 3, "nopic"); };
+    form1.fahrerbilder_uebernehmen = [this] {
+        const int anzahl = fahrerliste.bilder_uebernehmen(ablage, "nopic");
+        bilder_melden(anzahl, fahrerliste_speichern());
+    };
     form1.fahrzeugbilder_uebernehmen = [this] {
-        bilder_uebernehmen(fahrzeugliste, "Listen\\" + fahrzeug_datei, 2, "");
+        const int anzahl = fahrzeugliste.bilder_uebernehmen(ablage, "");
+        bilder_melden(anzahl, fahrzeugliste_speichern());
     };
     using f = tarvel::einstellungsfenster;
     form1.einstellungen_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_start_ziel); };
@@ -71,7 +78,7 @@ void programm::hauptfenster_verbinden() {
 }
 
 void programm::optionen_verbinden() {
-    datei.bestzeiten_laden = [this] { form1.bestzeiten_anzeigen(); };
+    datei.beste_zeiten_laden = [this] { form1.beste_zeiten_anzeigen(); };
     einstellungsfenster.einstellungen_speichern = [this] {
         einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
         return !datei.fehler_laden();
@@ -89,15 +96,11 @@ void programm::optionen_verbinden() {
     };
 }
 
-void programm::bilder_uebernehmen(namensliste& liste, const std::string& datei_name, int nicht_gespeichert,
-                                  std::string_view ausser) {
-    const int anzahl = liste.bilder_uebernehmen(ablage, ausser);
+void programm::bilder_melden(int anzahl, bool gespeichert) {
     form1.bilder_anzeigen();
-    if (!liste.speichern(ablage, datei_name)) {
-        dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_gespeichert)), txt.titel[1]);
-        return;
+    if (gespeichert) {
+        dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
     }
-    dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
 }
 
 void programm::fenster_anmelden() {
@@ -118,7 +121,10 @@ bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
     fenster.zeigen("Update_form");
-    texte_laden();
+    texte_standard_setzen();
+    txt.sprache_m1_laden(ablage);
+    txt.sprache_tx1_laden(ablage);
+    eingebaute_namen_setzen();
     hardware_standard_setzen();
     einstellungen_standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
@@ -128,16 +134,19 @@ bool programm::starten() {
         return false;
     }
     tvk_ini_laden(ablage, txt.werbetext);
-    listen_laden();
+    fahrzeugliste_laden();
+    fahrerliste_laden();
+    form1.listen_zeigen();
     start_datei_bestimmen();
     einstellungen_laden();
     return true;
 }
 
-void programm::texte_laden() {
+void programm::texte_standard_setzen() {
     txt = {};
-    txt.sprache_m1_laden(ablage);
-    txt.sprache_tx1_laden(ablage);
+}
+
+void programm::eingebaute_namen_setzen() {
     fahrerliste.eingebaut({txt.fahrer_standard.begin(), txt.fahrer_standard.end()});
     fahrzeugliste.eingebaut(txt.fahrzeuge_standard);
 }
@@ -167,22 +176,34 @@ void programm::einstellungen_standard_setzen() {
     belegung.vorbelegen(belegung_stufe::erststart);
 }
 
-void programm::listen_laden() {
-    // An unusable list is made anew from the built-in names.
-    const auto laden = [this](namensliste& liste, const std::string& name, int nicht_geladen, int nicht_gespeichert) {
-        if (liste.laden(ablage, name)) {
-            return;
-        }
-        dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_geladen)), txt.titel[1]);
-        if (!liste.speichern(ablage, name)) {
-            dienste.meldungen.zeigen(txt.meldung.at(static_cast<std::size_t>(nicht_gespeichert)), txt.titel[1]);
-        }
-    };
-    laden(fahrzeugliste, "Listen\\fahrzeuge.kfz", 7, 2);
-    laden(fahrerliste, "Listen\\fahrer.lst", 8, 3);
-    form1.listen_zeigen();
-    fahrer_datei = "fahrer.lst";
-    fahrzeug_datei = "fahrzeuge.kfz";
+void programm::fahrzeugliste_laden() {
+    if (!fahrzeugliste.laden(ablage, listenordner + fahrzeug_datei)) {
+        dienste.meldungen.zeigen(txt.meldung[7], txt.titel[1]);
+        fahrzeugliste_speichern();
+    }
+}
+
+void programm::fahrerliste_laden() {
+    if (!fahrerliste.laden(ablage, listenordner + fahrer_datei)) {
+        dienste.meldungen.zeigen(txt.meldung[8], txt.titel[1]);
+        fahrerliste_speichern();
+    }
+}
+
+bool programm::fahrzeugliste_speichern() {
+    const bool geschrieben = fahrzeugliste.speichern(ablage, listenordner + fahrzeug_datei);
+    if (!geschrieben) {
+        dienste.meldungen.zeigen(txt.meldung[2], txt.titel[1]);
+    }
+    return geschrieben;
+}
+
+bool programm::fahrerliste_speichern() {
+    const bool geschrieben = fahrerliste.speichern(ablage, listenordner + fahrer_datei);
+    if (!geschrieben) {
+        dienste.meldungen.zeigen(txt.meldung[3], txt.titel[1]);
+    }
+    return geschrieben;
 }
 
 std::string programm::einstellungsname(std::string_view pfad) const {
@@ -209,7 +230,7 @@ void programm::start_datei_bestimmen() {
         einstell_datei = std::string(einstellungsordner) + name;
     }
     const auto modus = static_cast<int>(ganzzahl_lesen(start.modus, 0, 7));
-    modus_4x4_start_ = neustart && modus >= modul_aus ? modus : 0;
+    hw_4x4_modus_start_ = neustart && modus >= modul_aus ? modus : 0;
     if (!neustart) {
         einstell_standarddatei = einstell_datei;
     }
@@ -227,7 +248,7 @@ void programm::einstellungen_laden() {
         datei.einstellungsdatei_pruefen();
     }
     if (!datei.fehler_laden()) {
-        datei.einstellungen_uebernehmen(std::exchange(modus_4x4_start_, 0));
+        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, 0));
     }
     einstell_datei = einstellungsname(einstell_datei);
     form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));

@@ -54,8 +54,8 @@ public:
 
     namensliste fahrerliste;
     namensliste fahrzeugliste;
-    std::string fahrer_datei;
-    std::string fahrzeug_datei;
+    std::string fahrer_datei = "fahrer.lst";  ///< below the folder of the lists
+    std::string fahrzeug_datei = "fahrzeuge.kfz";
 
     tarvel::form1 form1;
     einstellungsdatei datei;
@@ -74,25 +74,30 @@ public:
 private:
     void hauptfenster_verbinden();
     void fenster_anmelden();
-    void texte_laden();
+    void texte_standard_setzen();
+    void eingebaute_namen_setzen();
     void hardware_standard_setzen();
     void einstellungen_standard_setzen();
-    void listen_laden();
+    /// An unusable list is made anew from the built-in names.
+    void fahrzeugliste_laden();
+    void fahrerliste_laden();
+    /// A failure shows its message.
+    bool fahrzeugliste_speichern();
+    bool fahrerliste_speichern();
     /// The file's name below the settings folder.
     std::string einstellungsname(std::string_view pfad) const;
     void start_datei_bestimmen();
     void einstellungen_laden();
     void einstellungen_speichern(std::string_view name);
-    /// `nicht_gespeichert` is the message for a failed write.
-    void bilder_uebernehmen(namensliste& liste, const std::string& datei_name, int nicht_gespeichert,
-                            std::string_view ausser);
+    /// Tells how many pictures were taken over, once they are kept.
+    void bilder_melden(int anzahl, bool gespeichert);
     void speichern_oeffnen();
     void laden_oeffnen();
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
     void hardware_starten();
 
-    int modus_4x4_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
+    int hw_4x4_modus_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
 
     bool laden_aus_menue_ = false;  ///< a load on the operator's command, not at start
     bool programm_beendet_ = false;
