@@ -7,10 +7,10 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
-#include <QWheelEvent>
 #include <cmath>
 #include <utility>
 
+#include "ui/eingabefelder.h"
 #include "ui/listenmodell.h"
 #include "ui/stil.h"
 #include "ui/umbruchkasten.h"
@@ -44,38 +44,6 @@ QPixmap bild_lesen(const std::filesystem::path& pfad, QSize groesse) {
     return inhalt.isNull() ? QPixmap()
                            : QPixmap::fromImage(inhalt.scaled(groesse, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
-
-/// A field for a single character takes the next one in place of the old, however it got the focus.
-class Eingabezeile final : public QLineEdit {
-public:
-    using QLineEdit::QLineEdit;
-
-protected:
-    void focusInEvent(QFocusEvent* ereignis) override {
-        QLineEdit::focusInEvent(ereignis);
-        ersetzbar_machen();
-    }
-    void mouseReleaseEvent(QMouseEvent* ereignis) override {
-        QLineEdit::mouseReleaseEvent(ereignis);
-        ersetzbar_machen();
-    }
-
-private:
-    void ersetzbar_machen() {
-        if (maxLength() == 1) {
-            selectAll();
-        }
-    }
-};
-
-/// The wheel scrolls the page and never turns a choice on the way.
-class Auswahlfeld final : public QComboBox {
-public:
-    using QComboBox::QComboBox;
-
-protected:
-    void wheelEvent(QWheelEvent* ereignis) override { ereignis->ignore(); }
-};
 
 }  // namespace
 

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel::test {
+
+using meldungen = std::vector<test_plattform::meldung>;
+constexpr const char* bleibt = " Die alte Einstellung wird beibehalten.";
+constexpr const char* grenzen_titel = "Parameter außerhalb gültiger Werte";
+
+/// The options window of a started program, opened.
+class OptionenProbe : public testing::Test {
+protected:
+    OptionenProbe() { oeffnen(); }
+
+    void oeffnen() { t.p.form1.Command4.klicken(); }
+    bool offen() { return t.p.fenster.ist_offen("einstellungen"); }
+    template <class Element>
+    Element& element(const std::string& name) {
+        return std::get<Element>(fenster.zeile(name).element);
+    }
+    void tippen(const std::string& name, std::string_view text) { element<feld>(name).eingeben(text); }
+    void waehlen(const std::string& name, int platz) { element<auswahl>(name).waehlen(platz); }
+    void kreuzen(const std::string& name) { element<haken>(name).umschalten(); }
+    /// Takes over and opens again.
+    void uebernehmen() {
+        fenster.Command1.klicken();
+        EXPECT_FALSE(offen());
+        oeffnen();
+    }
+    /// Types into one field, takes over, and returns the messages of that.
+    meldungen nach_eingabe(const std::string& name, std::string_view text) {
+        t.maschine.meldungen_gezeigt.clear();
+        tippen(name, text);
+        uebernehmen();
+        return t.maschine.meldungen_gezeigt;
+    }
+
+    testprogramm t;
+    einstellungsfenster& fenster = t.p.einstellungsfenster;
+    einstellungen& einst = t.p.einst;
+};
+
+}  // namespace tarvel::test
