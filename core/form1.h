@@ -35,8 +35,9 @@ public:
     explicit form1(umgebung um);
 
     bezeichnung version_label;
-    bezeichnung untertitel;  ///< what the program is, over the start picture
-    bild startbild;          ///< picture over the fields
+    bezeichnung untertitel;            ///< what the program is, over the start picture
+    bild startbild;                    ///< picture over the fields
+    std::array<bild, 2> eigenes_bild;  ///< of the club, beside the start picture where the files are there
 
     rahmen Frame_rennen;
     bezeichnung Label_rennart;

@@ -61,6 +61,11 @@ void form1::laden() {
     sprache_m2_laden();
     ansagen_setzen();
     t_aktiv.sichtbar(false);
+    constexpr std::array<std::string_view, 2> startbilder{"tvkpic1.jpg", "tvkpic2.jpg"};
+    for (std::size_t i = 0; i < startbilder.size(); ++i) {
+        eigenes_bild.at(i).datei(startbilder.at(i));
+        eigenes_bild.at(i).sichtbar(um_.ablage.gibt_es(startbilder.at(i)));
+    }
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
     beste_zeiten_anzeigen();
     farben_einstellen();

@@ -13,6 +13,7 @@ namespace {
 constexpr int feldbreite = 74;
 constexpr int knopfhoehe = 44;
 constexpr QSize bildgroesse(52, 36);
+constexpr QSize eigenes_bild_groesse(140, 80);
 const char* const leise = "color: #626a78;";
 
 void schmal(QLineEdit* feld) {
@@ -44,6 +45,13 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     binder().verbinden(logik.untertitel, unterzeile, "untertitel",
                        [kopf, &logik] { kopf->setTitel("Tarvel", QString::fromStdString(logik.untertitel.text())); });
     auto* kopf_aufbau = new QHBoxLayout(kopf);
+    kopf_aufbau->setContentsMargins(9, 0, 9, 0);
+    kopf_aufbau->addStretch();
+    for (std::size_t i = 0; i < logik.eigenes_bild.size(); ++i) {
+        kopf_aufbau->addWidget(binder().bildfeld(logik.eigenes_bild.at(i), "eigenes_bild_" + QString::number(i),
+                                                 eigenes_bild_groesse,
+                                                 [this](const std::string& datei) { return ablage_.pfad(datei); }));
+    }
     QLabel* version = binder().label(logik.version_label, "version_label");
     version->setStyleSheet("color: #cdd2dc; background: transparent;");
     kopf_aufbau->addWidget(version, 0, Qt::AlignRight | Qt::AlignTop);
