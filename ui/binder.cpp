@@ -213,7 +213,7 @@ QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
     auto* widget = new QPushButton(eltern_);
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element, widget] {
-        auto* dialog = new QColorDialog(stil::farbe_von(element.wert()), widget);
+        auto* dialog = new QColorDialog(stil::farbe_von(element.wert()), widget->window());
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         QObject::connect(dialog, &QColorDialog::colorSelected, widget,
                          [&element](const QColor& gewaehlt) { element.waehlen(stil::zahl_von(gewaehlt)); });
@@ -221,7 +221,7 @@ QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
     });
     verbinden(element, widget, name, [&element, widget] {
         const QColor gewaehlt = stil::farbe_von(element.wert());
-        const QString schrift = qGray(gewaehlt.rgb()) > 140 ? "#1c2028" : "#ffffff";
+        const QString schrift = qGray(gewaehlt.rgb()) > 120 ? "#1c2028" : "#ffffff";
         widget->setText(gewaehlt.name());
         widget->setStyleSheet(QString("QPushButton { background: %1; color: %2; }").arg(gewaehlt.name(), schrift));
     });

@@ -12,7 +12,7 @@ constexpr std::string_view unberuehrt = "\n";  // stands for a built-in text, an
 
 /// Reads the file into texts of its own. True if every text was there.
 bool texte_lesen(werkbank& bank, std::string_view datei, sprachliste::form form) {
-    constexpr std::size_t zeile_max = 4000 * 3;  // in bytes of UTF-8
+    constexpr std::size_t zeile_max = std::size_t{4000} * 3;  // in bytes of UTF-8
     std::array<std::string, 40> texte;
     sprachliste sprache(datei, form);
     for (std::string& text : texte) {
