@@ -81,13 +81,14 @@ public:
     }
 
 private:
-    void hinweise_nachfuehren() {
-        if (!element_.ansage().empty()) {
-            widget_->setAccessibleName(als_text(element_.ansage()));
+    void hinweise_nachfuehren() {  // they hardly ever change, and a clock comes here with every frame
+        if (ansage_ != element_.ansage()) {
+            ansage_ = element_.ansage();
+            widget_->setAccessibleName(als_text(ansage_));
         }
-        const QString tipp = als_text(element_.tipp());
-        if (widget_->toolTip() != tipp) {
-            widget_->setToolTip(tipp);
+        if (tipp_ != element_.tipp()) {
+            tipp_ = element_.tipp();
+            widget_->setToolTip(als_text(tipp_));
         }
     }
 
@@ -95,6 +96,8 @@ private:
     steuerelement& element_;
     QWidget* widget_;
     std::function<void()> abgleich_;
+    std::string ansage_;
+    std::string tipp_;
     bool vorgemerkt_ = false;
 };
 
