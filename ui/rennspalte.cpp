@@ -53,7 +53,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setFocusPolicy(Qt::NoFocus);
     liste_->setSelectionMode(QAbstractItemView::NoSelection);
-    liste_->setStyleSheet("background: transparent; border: none;");
+    liste_->setStyleSheet("QListView { background: transparent; border: none; } QListView::item { padding: 0px; }");
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     aufbau->addWidget(liste_, 1);
     zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);

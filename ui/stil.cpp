@@ -34,7 +34,7 @@ QPushButton[rolle="haupt"]:pressed { background: #a51823; }
 QPushButton[rolle="haupt"]:focus { border: 2px solid #1c2028; }
 QPushButton[rolle="haupt"]:disabled { background: #d9a5a9; border-color: #d0d4db; color: #ffffff; }
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
-QListView::item { padding: 3px 4px; }
+QListView::item { padding: 3px 6px; border: 0px solid transparent; border-radius: 3px; }
 QListView::item:selected { background: #c41e2a; color: #ffffff; }
 QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; }
 )";
