@@ -53,7 +53,7 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
                                                  [this](const std::string& datei) { return ablage_.pfad(datei); }));
     }
     QLabel* version = binder().label(logik.version_label, "version_label");
-    version->setStyleSheet("color: #cdd2dc; background: transparent;");
+    version->setStyleSheet("color: #cdd2dc; background: transparent; padding-top: 8px;");
     kopf_aufbau->addWidget(version, 0, Qt::AlignRight | Qt::AlignTop);
     aufbau->addWidget(kopf, 2);
 
