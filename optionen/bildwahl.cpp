@@ -68,7 +68,7 @@ void bildwahl::ordner_zeigen(const fs::path& ort) {
             laufwerk.text(kandidat);
         }
     }
-    const ordnerblick blick = ordner_ansehen(ort_, {".jpg", ".gif"});
+    const ordnerblick blick = ordner_ansehen(ort_, {".jpg", ".jpeg", ".gif"});
     ordner.leeren();
     ordner.hinzufuegen(darueber);
     for (const std::string& name : blick.ordner) {

@@ -157,6 +157,9 @@ void listenseite::bild_setzen(const std::string& stamm) {
 }
 
 bool listenseite::uebernehmen() {
+    if (!name.text().empty()) {
+        name_hinzufuegen();  // typed, and meant to be in the list
+    }
     if (kopie_.eintraege() == art_.liste.eintraege() && !nicht_geschrieben_) {
         return true;
     }

@@ -22,7 +22,7 @@ const std::vector<soundgruppe>& soundgruppen() {
         {"Chaos", {{5, 6}}, 0},
         {"Beste Runde", {{7, 12}}, 0},
         {"Tanken", {{25, 36}}, 0},
-        {"Restzeit", {{49, 53}, {64, 64}, {54, 63}}, 1},
+        {"Restzeit", {{49, 51}, {64, 64}, {52, 63}}, 1},
         {"Strafen", {{13, 24}}, 1},
         {"Soundsensoren", {{38, 45}}, 1},
     };

@@ -156,6 +156,12 @@ TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     EXPECT_EQ(fahrer.vorschau.datei(), "pictures/nopic.jpg");
 }
 
+TEST_F(Listenseite, GetippterNameGehtBeimUebernehmenNichtVerloren) {
+    fahrer.name.eingeben("Anna");
+    uebernehmen();
+    EXPECT_EQ(t.p.fahrerliste.eintraege().back().name, "Anna");
+}
+
 TEST_F(Listenseite, AbgebrocheneBildwahlAendertNichts) {
     fahrer.anderes_bild.klicken();
     bilder.Command2.klicken();

@@ -77,6 +77,9 @@ public:
         }
         if (element_.fokuswunsch_abholen()) {
             widget_->setFocus(Qt::OtherFocusReason);
+            if (auto* zeile = qobject_cast<QLineEdit*>(widget_)) {
+                zeile->selectAll();  // what is typed next replaces the old text
+            }
         }
     }
 
@@ -320,6 +323,12 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     widget->setModel(modell);
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
                      [&element](const QModelIndex& zeile) { element.auswaehlen(zeile.row()); });
+    QObject::connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, widget, [&element, widget] {
+        const QModelIndex zeile = widget->model()->index(element.markiert(), 0);
+        if (zeile.isValid() && !widget->selectionModel()->hasSelection()) {  // a click beside the rows
+            widget->selectionModel()->select(zeile, QItemSelectionModel::Select);
+        }
+    });
     // the Enter key as well as a double click
     QObject::connect(widget, &QListView::activated, widget,
                      [&element](const QModelIndex& zeile) { element.doppelklicken(zeile.row()); });

@@ -22,13 +22,20 @@ void Fenster::closeEvent(QCloseEvent* ereignis) {
 
 void Fenster::escape_schliesst() {
     auto* taste = new QShortcut(Qt::Key_Escape, this);
-    QObject::connect(taste, &QShortcut::activated, this, [this] { close(); });
+    QObject::connect(taste, &QShortcut::activated, this, [this] {
+        if (QWidget* liste = QApplication::activePopupWidget()) {
+            liste->close();  // an open choice goes first
+        } else {
+            close();
+        }
+    });
 }
 
 void Fenster::zentrieren() {
     constexpr int rahmen_px = 40;  // title bar and edges of the desktop
+    constexpr int seiten_px = 12;
     const QRect platz = screen()->availableGeometry();
-    resize(std::min(width(), platz.width()), std::min(height(), platz.height() - rahmen_px));
+    resize(std::min(width(), platz.width() - seiten_px), std::min(height(), platz.height() - rahmen_px));
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));
 }
 

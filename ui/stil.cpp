@@ -57,6 +57,9 @@ void anwenden(QApplication& anwendung) {
     palette.setColor(QPalette::Highlight, akzent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::PlaceholderText, schrift_leise);
+    for (const QPalette::ColorRole rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, rolle, schrift_gesperrt);
+    }
     QApplication::setPalette(palette);
     anwendung.setStyleSheet(regeln);
 }

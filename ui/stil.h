@@ -14,6 +14,7 @@ inline const QColor karte{255, 255, 255};
 inline const QColor linie{208, 212, 219};
 inline const QColor schrift{28, 32, 40};
 inline const QColor schrift_leise{98, 106, 120};
+inline const QColor schrift_gesperrt{154, 161, 173};
 
 void anwenden(QApplication& anwendung);
 

@@ -63,12 +63,11 @@ QWidget* TastaturFenster::befehlszeile() {
     auto* zeile = new QWidget(this);
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
-    QPushButton* uebernehmen = binder().hauptknopf(logik_.Command1, "Command1");
     aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"));
     aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
     aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));
     aufbau->addStretch();
-    aufbau->addWidget(uebernehmen);
+    aufbau->addWidget(binder().hauptknopf(logik_.Command1, "Command1"));
     aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"));
     for (QPushButton* knopf : zeile->findChildren<QPushButton*>()) {
         knopf->setMinimumHeight(42);

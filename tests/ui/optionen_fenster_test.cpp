@@ -106,6 +106,20 @@ TEST_F(OptionenFenster, EscapeVerwirft) {
     EXPECT_FALSE(gesetzt("einstellungen.formelcheck"));
 }
 
+TEST_F(OptionenFenster, EscapeSchliesstErstDieOffeneAuswahl) {
+    oeffnen();
+    auto* ampel = finde<QComboBox>(o.einstellungen, "einstellungen.start_ampel_combo");
+    ampel->showPopup();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(o.einstellungen.isVisible());
+    seite(f::seite_fahrer);
+    auto* seiten = finde<QListView>(o.einstellungen, "einstellungen.seitenliste");
+    QTest::mouseClick(seiten->viewport(), Qt::LeftButton, {}, QPoint(20, seiten->viewport()->height() - 5));
+    EXPECT_TRUE(seiten->selectionModel()->isSelected(seiten->model()->index(f::seite_fahrer, 0)));
+}
+
 TEST_F(OptionenFenster, DoppelklickBetrittEinenOrdner) {
     std::filesystem::create_directories(t.maschine.ordner() / "pictures/a/b/c");
     oeffnen();
