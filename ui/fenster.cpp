@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
-#include <QShortcut>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -20,15 +20,12 @@ void Fenster::closeEvent(QCloseEvent* ereignis) {
     }
 }
 
-void Fenster::escape_schliesst() {
-    auto* taste = new QShortcut(Qt::Key_Escape, this);
-    QObject::connect(taste, &QShortcut::activated, this, [this] {
-        if (QWidget* liste = QApplication::activePopupWidget()) {
-            liste->close();  // an open choice goes first
-        } else {
-            close();
-        }
-    });
+void Fenster::keyPressEvent(QKeyEvent* ereignis) {
+    if (escape_schliesst_ && ereignis->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(ereignis);
+    }
 }
 
 void Fenster::zentrieren() {

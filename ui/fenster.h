@@ -20,16 +20,18 @@ public:
     std::function<void()> bei_schliessen;
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
-    /// The Escape key closes the window.
-    void escape_schliesst();
+    /// The Escape key closes the window, unless an open choice takes the key.
+    void escape_schliesst() { escape_schliesst_ = true; }
 
 protected:
     Binder& binder() { return binder_; }
     void closeEvent(QCloseEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
     void zentrieren();
 
 private:
     Binder binder_;
+    bool escape_schliesst_ = false;
 };
 
 /// Shows and hides the windows for the register.

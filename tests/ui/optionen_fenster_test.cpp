@@ -99,7 +99,7 @@ TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
 TEST_F(OptionenFenster, EscapeVerwirft) {
     oeffnen();
     klick(o.einstellungen, "einstellungen.formelcheck");
-    o.einstellungen.close();
+    QTest::keyClick(finde<QListView>(o.einstellungen, "einstellungen.seitenliste"), Qt::Key_Escape);
     EXPECT_FALSE(o.einstellungen.isVisible());
     EXPECT_FALSE(t.p.einst.runde_beenden);
     oeffnen();
