@@ -31,6 +31,7 @@ form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::ze
         rennart_geaendert();
         renndauer.fokus_setzen();
     };
+    t_aktiv.bei_aenderung = [this] { tankoptionen_zeigen(); };
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
         spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };

@@ -53,6 +53,7 @@ public:
     bezeichnung Label2;
     feld massstab;
     haken t_aktiv;
+    bezeichnung tank_label;  ///< the tank options, while fuel is driven for
 
     rahmen Frame_spuren;
     bezeichnung label_spurlaenge;  ///< captions of the columns
@@ -117,6 +118,8 @@ public:
     void bilder_anzeigen();
     /// Best time of each lane; none is kept yet.
     void beste_zeiten_anzeigen();
+    /// The tank options beside the tick box that switches fuel on.
+    void tankoptionen_zeigen();
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
@@ -157,6 +160,8 @@ private:
     std::string wort_runden_;
     std::string wort_einstellungsdatei_;
     std::string wort_bilder_;
+    std::string wort_liter_;
+    std::string wort_verbrauch_;
     std::string wort_standarddatei_;
     zeit_ms dauer_minuten_ = 0;
     zeit_ms dauer_sekunden_ = 0;

@@ -37,7 +37,8 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Bahnstrom ausschalten; braucht Messhardware mit Ausgängen", Command12);
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
     texte.text("Zugeordnete Bilder: ", wort_bilder_).text("Beim Programmstart: ", wort_standarddatei_);
-    return texte.text("kein Fahrer", um_.txt.kein_fahrer);
+    texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
+    return texte.text("Liter je Runde", wort_verbrauch_);
 }
 
 void form1::ansagen_setzen() {
@@ -60,7 +61,7 @@ void form1::laden() {
     version_label.text("V " + std::string(programm_version));
     sprache_m2_laden();
     ansagen_setzen();
-    t_aktiv.sichtbar(false);
+    tankoptionen_zeigen();
     constexpr std::array<std::string_view, 2> startbilder{"tvkpic1.jpg", "tvkpic2.jpg"};
     for (std::size_t i = 0; i < startbilder.size(); ++i) {
         eigenes_bild.at(i).datei(startbilder.at(i));
@@ -113,6 +114,12 @@ void form1::bilder_anzeigen() {
     }
 }
 
+void form1::tankoptionen_zeigen() {
+    tank_label.sichtbar(t_aktiv.gesetzt());
+    tank_label.text(std::to_string(um_.einst.tank_inhalt) + " " + wort_liter_ + ", " +
+                    std::to_string(um_.einst.tank_verbrauch) + " " + wort_verbrauch_);
+}
+
 void form1::beste_zeiten_anzeigen() {
     for (bezeichnung& bestzeit : Label_fahrzeug) {
         bestzeit.text("–");
@@ -131,6 +138,7 @@ void form1::farben_einstellen() {
 }
 
 void form1::spuren_nach_laden() {
+    tankoptionen_zeigen();
     for (std::size_t i = 0; i < spur.size(); ++i) {
         const bool offen = i < 4 || spur[i].gesetzt();
         lspur[i].aktiviert(offen);

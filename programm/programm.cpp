@@ -88,6 +88,7 @@ void programm::optionen_verbinden() {
         form1.farben_einstellen();
         form1.bilder_anzeigen();
         form1.modus_anzeigen();
+        form1.tankoptionen_zeigen();
     };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already

@@ -168,5 +168,13 @@ TEST_F(Form1, RennartStelltDieFelderUm) {
     EXPECT_TRUE(f.stddauer.aktiviert());
 }
 
+TEST(Form1Tank, HakenZeigtDieTankoptionen) {
+    test::testprogramm t;
+    EXPECT_FALSE(t.p.form1.tank_label.sichtbar());
+    t.p.form1.t_aktiv.umschalten();
+    EXPECT_TRUE(t.p.form1.tank_label.sichtbar());
+    EXPECT_EQ(t.p.form1.tank_label.text(), "60 Liter, 7 Liter je Runde");
+}
+
 }  // namespace
 }  // namespace tarvel
