@@ -12,7 +12,6 @@ namespace {
 constexpr std::string_view trennzeichen_datei = "trennzeichen.ini";
 constexpr std::string_view s6_datei = "tvk_s6.ini";
 constexpr std::string_view werbe_datei = "tvk.ini";
-constexpr std::string_view standard_einstellungen = "Einstellungen\\einstellungen.ini";
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/dateien.h"
 #include "core/zeit.h"
@@ -14,6 +15,9 @@ bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& w
 
 /// `tvk.ini`: the line of advertising in the race window. A missing or empty file leaves `ziel`.
 void tvk_ini_laden(const dateien& ablage, std::string& ziel);
+
+/// The settings file that a start takes unless another is named.
+inline constexpr std::string_view standard_einstellungen = "Einstellungen\\einstellungen.ini";
 
 /// `tvk_s6.ini`: with which settings file and in which mode of the 4x4 module the program starts, and how the start
 /// after this one.

@@ -17,7 +17,6 @@ constexpr std::string_view fahrer_bildordner = "pictures";
 constexpr std::string_view fahrzeug_bildordner = "slotcars";
 const std::string listenordner = "Listen\\";
 constexpr std::string_view einstellungsordner = "Einstellungen\\";
-constexpr std::string_view standard_einstellungen = "einstellungen.ini";
 
 std::string mit_rueckstrichen(std::string text) {
     std::replace(text.begin(), text.end(), '/', '\\');
@@ -226,7 +225,7 @@ void programm::start_datei_bestimmen() {
     einstell_datei = start.einstell_datei;
     const std::string name = einstellungsname(einstell_datei);
     if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
-        einstell_datei = std::string(einstellungsordner) + std::string(standard_einstellungen);
+        einstell_datei = standard_einstellungen;
     } else if (name.size() + einstellungsordner.size() < einstell_datei.size()) {
         einstell_datei = std::string(einstellungsordner) + name;
     }
@@ -238,7 +237,7 @@ void programm::start_datei_bestimmen() {
     if (neustart || start.zustand == "0") {  // a restart request lasts one start only
         start.zustand = start.naechster_zustand;
         start.modus = start.naechster_modus;
-        start.einstell_datei = std::string(einstellungsordner) + std::string(standard_einstellungen);
+        start.einstell_datei = standard_einstellungen;
         s6_speichern(ablage, start);
     }
 }
