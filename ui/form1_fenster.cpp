@@ -106,7 +106,7 @@ QWidget* Form1Fenster::rennen_gruppe() {
     verwerfen->addWidget(kuerzeste);
     verwerfen->addWidget(binder().label(logik_.Label10, "Label10"));
     verwerfen->addSpacing(24);
-    verwerfen->addWidget(binder().kasten(logik_.t_aktiv, "t_aktiv"));
+    verwerfen->addWidget(binder().kasten(logik_.t_aktiv, "t_aktiv"), 0, Qt::AlignVCenter);
     verwerfen->addWidget(binder().label(logik_.tank_label, "tank_label"));
     verwerfen->addStretch();
     raster->addLayout(verwerfen, 1, 4);
