@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     for (auto& spur : p.form1.spur) {
         spur.gesetzt(true);
     }
+    p.einst.start_ampel_modus = 0;
     p.form1.Command1.klicken();
     p.rennen.bahn1.Command1.klicken();
 

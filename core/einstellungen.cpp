@@ -6,8 +6,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int dragrace_ampel = 6;
-
 /// The Control Unit's command that sets up a controller: the car as a digit of sixteen, the value in two decimal
 /// digits, and the car again as the check character.
 std::string reglerbefehl(int spur, int wert) {

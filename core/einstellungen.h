@@ -10,6 +10,8 @@
 namespace tarvel {
 
 inline constexpr int sounds_max = 64;
+/// `start_ampel_modus` of the drag race.
+inline constexpr int dragrace_ampel = 6;
 
 /// Which timing hardware is in force. The keyboard works beside each of them.
 struct messhardware {
@@ -153,7 +155,7 @@ struct einstellungen {
     bool hardware_anders_als(const einstellungen& andere) const;
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();
-    int ampel_takt = 1500;                ///< ms per step of the start light
+    int ampel_takt = 1500;                ///< ms of the last step of the start light
     spuren<std::string> cu_reglerbefehl;  ///< command for the controller of each lane
 
     trennzeichen_tabelle trennzeichen = trennzeichen_standard;  ///< kept in a file of their own

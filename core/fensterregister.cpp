@@ -35,6 +35,13 @@ void fensterregister::zeigen(std::string_view name, anzeige_art art) {
     }
 }
 
+void fensterregister::verbergen(std::string_view name) {
+    const auto gefunden = fenster_.find(name);
+    if (gefunden != fenster_.end() && std::exchange(gefunden->second.offen, false) && anzeige_ != nullptr) {
+        anzeige_->verbergen(gefunden->first);
+    }
+}
+
 void fensterregister::entladen(std::string_view name) {
     const auto gefunden = fenster_.find(name);
     if (gefunden == fenster_.end() || !gefunden->second.geladen) {

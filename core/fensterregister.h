@@ -38,6 +38,8 @@ public:
     /// Loads the window without showing it, if it is not loaded.
     void laden(std::string_view name);
     void zeigen(std::string_view name, anzeige_art art = anzeige_art::frei);
+    /// Takes the window off the screen; it stays loaded.
+    void verbergen(std::string_view name);
     void entladen(std::string_view name);
     /// Loaded and on the screen.
     bool ist_offen(std::string_view name) const;

@@ -1,12 +1,23 @@
 #pragma once
 
-#include <vector>
+#include <array>
+#include <cstddef>
+
+#include "core/einstellungen.h"
+#include "hardware/iow_bericht.h"
 
 namespace tarvel {
 
-/// One switching of an output. `nummer` is the red lamp (1 to 5) or the lane (1 to 6), 0 for all of them.
+/// One switching of an output. `nummer` is the red lamp (1 to 5) or the lane (1 to 6), 0 for all of them and for
+/// outputs that there is one of.
 struct schaltung {
-    enum class ausgang { ampel_gruen, ampel_rot, bahnstrom_aus, zieleinfahrt };
+    enum class ausgang {
+        ampel_rot,
+        ampel_gruen,
+        bahnstrom,  ///< `an` tells the output itself: with plain wiring the lane has power, with inverted it has none
+        chaosanzeige,  ///< lamp that is lit while the race is paused
+        rennende       ///< signal while the result is shown
+    };
     ausgang was;
     int nummer;
     bool an;
@@ -14,41 +25,66 @@ struct schaltung {
     bool operator==(const schaltung&) const = default;
 };
 
-/// A device that drives outputs.
+/// A device that drives outputs. What it has no output for, it leaves alone.
 class ausgabe_geraet {
 public:
     virtual ~ausgabe_geraet() = default;
     virtual void schalten(const schaltung& befehl) = 0;
 };
 
+/// The devices beside the IO board, in the order in which each switching goes through them.
+enum class ausgabe_platz { modul_4x4, druckeranschluss, timekeeper, at_2560 };
+
 /// Lamps, track power and signals. The race calls these routines and never looks at which devices are connected;
-/// without a device each of them is valid and does nothing.
+/// without a device each of them is valid and changes only the image of the IO board's report. Lamps and lanes that do
+/// not exist are ignored.
 class ausgaben {
 public:
-    /// `geraet` must outlive the race; devices are switched in the order of their connection.
-    void anschliessen(ausgabe_geraet& geraet) { geraete_.push_back(&geraet); }
+    explicit ausgaben(const einstellungen& einst) : einst_(einst) {}
 
+    iow_bericht bericht;
+
+    /// `geraet` must outlive the connection. One device a place.
+    void anschliessen(ausgabe_platz platz, ausgabe_geraet& geraet) { an(platz) = &geraet; }
+    void trennen(ausgabe_platz platz) { an(platz) = nullptr; }
     /// There is something to switch.
-    bool angeschlossen() const { return !geraete_.empty(); }
+    bool angeschlossen() const;
 
-    void ampelnGRon() { schalten({schaltung::ausgang::ampel_gruen, 0, true}); }
-    void ampelnGRoff() { schalten({schaltung::ausgang::ampel_gruen, 0, false}); }
-    void ampelnRon(int lampe) { schalten({schaltung::ausgang::ampel_rot, lampe, true}); }
-    void ampelnRoff(int lampe) { schalten({schaltung::ausgang::ampel_rot, lampe, false}); }
+    void ampelnGRon() { gruene_lampe(true); }
+    void ampelnGRoff() { gruene_lampe(false); }
+    void ampelnRon(int lampe) { rote_lampen(lampe, true); }
+    void ampelnRoff(int lampe) { rote_lampen(lampe, false); }
     /// Shut-off on: the lane loses track power.
-    void relais_on(int spur) { schalten({schaltung::ausgang::bahnstrom_aus, spur, true}); }
+    void relais_on(int spur) { bahnstrom(spur, false); }
     /// Shut-off off: the lane has track power.
-    void relais_off(int spur) { schalten({schaltung::ausgang::bahnstrom_aus, spur, false}); }
-    /// "Signalausgabe Zieleinfahrt": a lane is home.
-    void zieleinfahrt_melden(int spur) { schalten({schaltung::ausgang::zieleinfahrt, spur, true}); }
+    void relais_off(int spur) { bahnstrom(spur, true); }
 
+    /// All power off, all lamps red and the chaos lamp lit; and back, with the IO board as it was before.
+    void chaos_an();
+    void chaos_aus();
+    /// A lane is home: signal of the IO board.
+    void zieleinfahrt_melden();
+    /// The signal at the end of the race, on all devices.
+    void rennende_signal(bool an);
+
+    /// State at power-up: every output at rest, but the lanes have power in either wiring.
+    void einschalten();
+    /// Every output of the IO board at rest, as the calibration of the sensors needs it.
+    void kalibrieren();
     /// Rest state between races: red off, green on, power on.
     void ruhezustand();
 
 private:
-    void schalten(const schaltung& befehl);
+    static constexpr std::size_t plaetze = 4;
 
-    std::vector<ausgabe_geraet*> geraete_;
+    ausgabe_geraet*& an(ausgabe_platz platz) { return geraete_.at(static_cast<std::size_t>(platz)); }
+    void gruene_lampe(bool an);
+    void rote_lampen(int lampe, bool an);
+    void bahnstrom(int spur, bool strom);
+    void geraete_schalten(const schaltung& befehl) const;
+
+    const einstellungen& einst_;
+    std::array<ausgabe_geraet*, plaetze> geraete_{};
 };
 
 }  // namespace tarvel

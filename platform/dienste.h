@@ -9,6 +9,7 @@
 #include "platform/prozess.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
+#include "platform/zufall.h"
 
 namespace tarvel::plattform {
 
@@ -21,6 +22,7 @@ struct dienste {
     plattform::kalender& kalender;
     plattform::bildschirm& bildschirm;
     plattform::prozess& prozess;
+    plattform::zufall& zufall;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };
 

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QGuiApplication>
+#include <QRandomGenerator>
 #include <QScreen>
 #include <chrono>
 
@@ -24,8 +25,12 @@ plattform::groesse_px QtBildschirm::groesse() const {
     return {groesse.width(), groesse.height()};
 }
 
+double QtZufall::bruchteil() {
+    return QRandomGenerator::global()->generateDouble();
+}
+
 plattform::dienste QtDienste::dienste() {
-    return {uhr_, zeitgeber_, meldungen_, klang_, kalender_, bildschirm_, prozess_, ordner_};
+    return {uhr_, zeitgeber_, meldungen_, klang_, kalender_, bildschirm_, prozess_, zufall_, ordner_};
 }
 
 }  // namespace tarvel::qt

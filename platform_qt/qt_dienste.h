@@ -23,6 +23,11 @@ public:
     plattform::groesse_px groesse() const override;
 };
 
+class QtZufall final : public plattform::zufall {
+public:
+    double bruchteil() override;
+};
+
 /// The machine as Qt and the operating system give it. Needs a running QApplication.
 class QtDienste {
 public:
@@ -36,6 +41,7 @@ private:
     QtKalender kalender_;
     QtBildschirm bildschirm_;
     QtProzess prozess_;
+    QtZufall zufall_;
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
 };

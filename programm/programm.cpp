@@ -28,6 +28,7 @@ std::string mit_rueckstrichen(std::string text) {
 programm::programm(const plattform::dienste& d)
     : dienste(d),
       ablage(d.programmordner),
+      ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
       form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
@@ -35,7 +36,8 @@ programm::programm(const plattform::dienste& d)
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
-      auswertung(rennen.umgebung),
+      startampel(rennen, einst, d.zeitgeber),
+      auswertung(rennen.umgebung, d.zeitgeber),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
@@ -108,7 +110,8 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Form3", {[this] { form3.laden(); }, [this] { form3.entladen(); }});
     fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
     fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});
-    fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, {}});
+    fenster.anmelden("Form2", {[this] { startampel.laden(); }, [this] { startampel.entladen(); }});
+    fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
@@ -311,6 +314,7 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
 }
 
 void programm::hardware_starten() {
+    ausgaben.einschalten();
     ausgaben.ruhezustand();
     form1.modus_anzeigen();
     form1.bahnstrom_schaltbar(ausgaben.angeschlossen());
@@ -325,9 +329,10 @@ void programm::programm_beenden() {
         return;
     }
     programm_beendet_ = true;
+    ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 10> reihenfolge{
-        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form3",
+    constexpr std::array<std::string_view, 11> reihenfolge{
+        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form2",      "Form3",
         "speichernfenster", "Form1", "Tastaturbelegung", "fahrerbild_laden",       "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);

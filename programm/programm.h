@@ -23,6 +23,7 @@
 #include "programm/startfenster.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
+#include "start/startampel.h"
 
 namespace tarvel {
 
@@ -64,6 +65,7 @@ public:
     tarvel::form3 form3;
     tarvel::update_form update_form;
     tarvel::rennen rennen;
+    tarvel::startampel startampel;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;

@@ -62,6 +62,8 @@ struct bahn1 {
         std::string runden;
         std::string rundenliste;
         std::string strafzeit;
+        std::string startampel;
+        std::string fruehstart;
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -22,6 +22,7 @@ struct spur_zustand {
     bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
     bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
     bool tank_halt = false;          ///< held for a moment after a full tank
+    bool strom_aus = false;          ///< a penalty has cut the track power
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 };
 
@@ -36,6 +37,8 @@ struct renn_zustand {
     zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
     int fuehrungsrunden = 0;        ///< most laps that any lane has reached
     int nachlauf_minuten = 0;       ///< minutes of the run-on so far
+    int fruehstart_zaehler = 0;     ///< hundredths of a second of the false-start penalty so far
+    int ampel_takt = 1500;          ///< ms of the last step of the start light, for this start
     int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
     bool rennen_beendet = true;
     bool chaos_aktiv = false;       ///< the race is paused

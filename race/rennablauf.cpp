@@ -13,9 +13,16 @@ rennablauf::rennablauf(const renn_umgebung& um, const teile& t) : um_(um), t_(t)
 
 void rennablauf::laden() {
     um_.zustand.rennen_beendet = true;
+    if (um_.einst.sensorkalibrierung) {
+        um_.ausgaben.kalibrieren();
+    }
     t_.ansicht.spaltenansicht_oeffnen();
     t_.ansicht.farben_setzen();
     rennen_zuruecksetzen();
+    vor_dem_start();
+}
+
+void rennablauf::vor_dem_start() {
     um_.bahn.Command1.aktiviert(true);
     um_.bahn.Command2.aktiviert(true);
     um_.bahn.Command4.aktiviert(false);
@@ -41,13 +48,28 @@ void rennablauf::rennen_zuruecksetzen() {
     }
     zustand.pause_abzug = 0;
     zustand.fuehrungsrunden = 0;
+    zustand.fruehstart_zaehler = 0;
+    um_.zeitgeber.f_straftimer->aus();
+    um_.zeitgeber.f_straftimer2->aus();
     t_.ende.zuruecksetzen();
     t_.ansicht.anzeigen_leeren();
     t_.plaetze.aufstellen();
     t_.uhr.zuruecksetzen();
 }
 
+void rennablauf::ampel_takt_bestimmen() {
+    constexpr int startzeit_variabel = 2;
+    um_.zustand.ampel_takt = um_.einst.ampel_takt;
+    if (um_.einst.start_option != startzeit_variabel) {
+        return;
+    }
+    const double zufall = um_.zufall.bruchteil();
+    um_.zustand.ampel_takt = um_.einst.start_ampel_modus == dragrace_ampel ? static_cast<int>((zufall * 5 + 1) * 500)
+                                                                           : static_cast<int>(zufall * 4 + 1) * 1000;
+}
+
 void rennablauf::rennstart_vorbereiten() {
+    um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
     um_.zustand.rennen_beendet = false;
     um_.zustand.chaos_aktiv = false;
     um_.sounds.spielen(sound::rennstart_vorbereitet);
@@ -58,6 +80,7 @@ void rennablauf::rennstart_vorbereiten() {
         spur.strafzeit = 0;
     }
     t_.uhr.restzeit_vorbereiten();
+    ampel_takt_bestimmen();
     um_.bahn.Command1.aktiviert(false);
     um_.bahn.Command2.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
@@ -65,29 +88,46 @@ void rennablauf::rennstart_vorbereiten() {
     if (um_.einst.nachtrennen_modus > 0) {
         t_.ansicht.bildschirm_dunkel();
     }
-    if (um_.einst.start_ampel_modus == 0 || !um_.fenster.kennt("Form2")) {
+    if (um_.einst.start_ampel_modus == 0) {
         rennen_starten();
     } else {
         um_.fenster.zeigen("Form2");
     }
 }
 
+void rennablauf::start_abgebrochen() {
+    um_.zustand.rennen_beendet = true;
+    um_.bahn.Nachtabschaltung.sichtbar(false);
+    vor_dem_start();
+}
+
 void rennablauf::rennen_starten() {
+    rennen_starten(um_.zeit.ereignis_zeit_lesen());
+    befehle_freigeben();
+}
+
+void rennablauf::befehle_freigeben() {
+    um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command4.aktiviert(true);
+}
+
+void rennablauf::rennen_starten(zeit_ms stempel) {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.rennen_aus();
-    zustand.start_zeit = um_.zeit.ereignis_zeit_lesen();
+    zustand.start_zeit = stempel;
     zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     um_.ereignisse.messzeit = zustand.start_zeit;
     um_.ereignisse[art::ampel_gruen].aktiv = false;
     um_.zeitgeber.rennen_an();
-    um_.bahn.Command2.aktiviert(true);
-    um_.bahn.Command4.aktiviert(true);
     um_.sounds.spielen(sound::rennen_gestartet);
     um_.ereignisse.rundenzaehlung_leeren();
     for (const int spur : alle_spuren) {
-        zustand.spur[spur].start_zeit = zustand.start_zeit;
-        zustand.rundenzeiten.setzen(spur, 0, 0, zustand.start_zeit);
+        zeit_ms& start_zeit = zustand.spur[spur].start_zeit;
+        if (!um_.einst.start_zeit_sensor || start_zeit == 0) {
+            start_zeit = stempel;
+        }
+        zustand.rundenzeiten.setzen(spur, 0, 0, start_zeit);
     }
     t_.ansicht.freigeben();
 }
@@ -104,7 +144,9 @@ void rennablauf::renntimer_tick() {
             um_.bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
         }
     }
-    // Place of sectors, sound sensors and the chaos triggers, in this order.
+    // Place of sectors.
+    t_.sensoren.soundsensoren_pruefen();
+    // Place of the chaos triggers.
     for (spur_zustand& spur : zustand.spur) {
         spur.runden_zeile = spur.runden + 1;
     }
@@ -118,10 +160,14 @@ void rennablauf::renntimer_tick() {
     }
 }
 
-void rennablauf::renntimer2_tick() {
+void rennablauf::quellen_abfragen() {
     for (messquelle* quelle : quellen_) {
         quelle->abfragen();
     }
+}
+
+void rennablauf::renntimer2_tick() {
+    quellen_abfragen();
     if (!um_.einst.rc_ziel_sensor34) {
         return;
     }

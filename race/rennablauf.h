@@ -7,6 +7,7 @@
 #include "race/rennende.h"
 #include "race/rennuhr.h"
 #include "race/rundenzaehlung.h"
+#include "race/soundsensoren.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
@@ -20,6 +21,7 @@ public:
         rennende& ende;
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
+        soundsensoren& sensoren;
     };
 
     rennablauf(const renn_umgebung& um, const teile& t);
@@ -32,13 +34,25 @@ public:
     void rennen_zuruecksetzen();
     /// All that comes before the start light, and hands over to it.
     void rennstart_vorbereiten();
-    /// The clock and the race timers start.
+    /// Without a start light: the clock and the race timers start, and the commands are free at once.
     void rennen_starten();
+    /// The work of every start, timed from `stempel`. Lanes that have been stamped by a false start keep their stamp if
+    /// each lane is timed from its own first crossing.
+    void rennen_starten(zeit_ms stempel);
+    /// The commands of the running race.
+    void befehle_freigeben();
+    /// The start light has been stopped before green: ready for another start.
+    void start_abgebrochen();
+    /// Polls all devices.
+    void quellen_abfragen();
 
     /// `quelle` is polled in the race's ticks; it must outlive the race.
     void anschliessen(messquelle& quelle) { quellen_.push_back(&quelle); }
 
 private:
+    /// The commands before a start.
+    void vor_dem_start();
+    void ampel_takt_bestimmen();
     void renntimer_tick();
     void renntimer2_tick();
     void renntimer3_tick();

@@ -74,6 +74,7 @@ sprachliste rennansicht::sprache_r() {
     texte.fuer_alle("letzte Runde", bahn.Label_lrunde).fuer_alle("beste Runde", bahn.Label_brunde);
     texte.text("Fahrer", bahn.wort.fahrer).text("Runden", bahn.wort.runden);
     texte.text("Rundenliste", bahn.wort.rundenliste).text("Strafzeit", bahn.wort.strafzeit);
+    texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
     return texte;
 }
 
@@ -123,11 +124,11 @@ void rennansicht::farben_setzen() {
     bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
 }
 
-void rennansicht::kleine_ampel(int spur, bool rot, bool gruen) {
+void rennansicht::kleine_ampel(int spur, kleines_licht licht) {
     const bool dabei = um_.param.spur_aktiv[spur];
-    um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(dabei && rot);
+    um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(dabei && licht == kleines_licht::rot);
     um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
-    um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(dabei && gruen);
+    um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(dabei && licht == kleines_licht::gruen);
 }
 
 void rennansicht::anzeigen_leeren() {
@@ -141,13 +142,15 @@ void rennansicht::anzeigen_leeren() {
         bahn.straflabel[spur].sichtbar(false);
         bahn.t_liste.at(feld_index(spur)).leeren();
         bahn.bahnshape[spur].randfarbe(std::nullopt);
-        kleine_ampel(spur, true, false);
+        kleine_ampel(spur, kleines_licht::rot);
     }
 }
 
 void rennansicht::freigeben() {
     for (const int spur : alle_spuren) {
-        kleine_ampel(spur, false, true);
+        if (!um_.zustand.spur[spur].strom_aus) {
+            kleine_ampel(spur, kleines_licht::gruen);
+        }
     }
 }
 

@@ -15,6 +15,9 @@ inline constexpr double spalte = 3200;  ///< width of one column
 /// whichever is smaller.
 double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl);
 
+/// The small light of a lane.
+enum class kleines_licht { rot, gruen };
+
 /// Builds the race window for the lanes of the race, and puts its displays in the state before the start.
 class rennansicht {
 public:
@@ -25,8 +28,9 @@ public:
     void farben_setzen();
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
-    /// All cars may drive: their small lights show green.
+    /// The race runs: the small light of each lane that has power shows green.
     void freigeben();
+    void kleine_ampel(int spur, kleines_licht licht);
     /// Toggles the dark cover.
     void bildschirm_dunkel();
     /// The texts of the race window.
@@ -35,7 +39,6 @@ public:
 private:
     void texte_setzen();
     void ansagen_setzen();
-    void kleine_ampel(int spur, bool rot, bool gruen);
 
     renn_umgebung um_;
 };

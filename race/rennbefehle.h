@@ -20,6 +20,8 @@ public:
 
     /// A key press in the race window; `code` is the Windows-1252 value of the typed character.
     void taste(int code);
+    /// The key as an event alone: what the start light takes of it.
+    void taste_auswerten(int code) { tastatur_.taste_auswerten(code); }
     /// Whether that key does anything in a race.
     bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
     /// Stops the race without a result.

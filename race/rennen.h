@@ -2,6 +2,7 @@
 
 #include "platform/dienste.h"
 #include "race/rennbefehle.h"
+#include "race/strafen.h"
 
 namespace tarvel {
 
@@ -34,6 +35,8 @@ struct rennen {
     rennende ende;
     rundenzaehlung zaehlung;
     rennansicht ansicht;
+    tarvel::strafen strafen;
+    soundsensoren sensoren;
     rennablauf ablauf;
     rennbefehle befehle;
 };

@@ -121,7 +121,7 @@ void rennende::spur_ziel_setzen(int spur) {
     if (!um_.bahn.zeilenansicht) {
         um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(true);
     }
-    um_.ausgaben.zieleinfahrt_melden(spur);
+    um_.ausgaben.zieleinfahrt_melden();
 }
 
 void rennende::ausgaben_endzustand() {
@@ -142,6 +142,7 @@ void rennende::rennende_ablauf() {
         uhr_.tausendstel_auf_null();
     }
     um_.sounds.spielen(sound::rennen_beendet);
+    um_.zeitgeber.f_straftimer->aus();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
     um_.fenster.zeigen("auswertung", anzeige_art::modal);

@@ -11,7 +11,9 @@ inline constexpr int rennen_gestartet = 2;
 inline constexpr int rennen_beendet = 3;
 inline constexpr int rennen_abgebrochen = 4;
 inline constexpr int beste_runde = 6;  // + lane
+inline constexpr int fruehstart = 12;  // + lane
 inline constexpr int runde = 37;
+inline constexpr int ampelschritt = 46;
 inline constexpr int erster_im_ziel = 47;
 }  // namespace sound
 

@@ -11,6 +11,7 @@
 #include "hardware/zeitbasis.h"
 #include "platform/kalender.h"
 #include "platform/meldungen.h"
+#include "platform/zufall.h"
 #include "race/bahn1.h"
 #include "race/renn_zustand.h"
 #include "race/rennsounds.h"
@@ -34,6 +35,7 @@ struct renn_umgebung {
     const rennsounds& sounds;
     fensterregister& fenster;
     const plattform::kalender& kalender;
+    plattform::zufall& zufall;
     plattform::meldungen& meldungen;
 
     bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }

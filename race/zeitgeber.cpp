@@ -4,14 +4,29 @@ namespace tarvel {
 
 using plattform::zeitgeber_art;
 
+namespace {
+
+/// A lock-out: it only switches itself off.
+std::unique_ptr<plattform::zeitgeber> einmalig(plattform::zeitgeber_dienst& dienst, int intervall_ms) {
+    auto zeitgeber = dienst.erzeugen(zeitgeber_art::abfragend, intervall_ms);
+    zeitgeber->bei_tick = [sperre = zeitgeber.get()] { sperre->aus(); };
+    return zeitgeber;
+}
+
+}  // namespace
+
 rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
     : renntimer(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       renntimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
-      nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000)) {
+      nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000)),
+      f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
+      f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0)) {
     for (auto& sperre : tankwartetimer) {
-        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 100);
-        sperre->bei_tick = [zeitgeber = sperre.get()] { zeitgeber->aus(); };
+        sperre = einmalig(dienst, 100);
+    }
+    for (auto& sperre : soundtrigger) {
+        sperre = einmalig(dienst, 3000);
     }
 }
 
@@ -30,7 +45,12 @@ void rennzeitgeber::rennen_aus() const {
 void rennzeitgeber::alle_aus() const {
     rennen_aus();
     nachlauftimer1->aus();
+    f_straftimer->aus();
+    f_straftimer2->aus();
     for (const auto& sperre : tankwartetimer) {
+        sperre->aus();
+    }
+    for (const auto& sperre : soundtrigger) {
         sperre->aus();
     }
 }

@@ -8,6 +8,8 @@
 
 namespace tarvel {
 
+inline constexpr int soundsensoren_max = 8;
+
 /// The timers of the race window.
 struct rennzeitgeber {
     explicit rennzeitgeber(plattform::zeitgeber_dienst& dienst);
@@ -16,6 +18,10 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> renntimer2;  ///< polls the devices
     std::unique_ptr<plattform::zeitgeber> renntimer3;  ///< samples the devices
     std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
+    std::unique_ptr<plattform::zeitgeber> f_straftimer;   ///< counts the false-start penalty in hundredths of a second
+    std::unique_ptr<plattform::zeitgeber> f_straftimer2;  ///< keeps the lanes locked for one minimum lap after it
+    /// Hold-off of each sound sensor.
+    std::array<std::unique_ptr<plattform::zeitgeber>, soundsensoren_max> soundtrigger;
     /// One per lane, index lane - 1: blocks the next crossing after a counted lap.
     std::array<std::unique_ptr<plattform::zeitgeber>, spuren_max> tankwartetimer;
 

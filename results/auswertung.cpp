@@ -16,6 +16,8 @@ constexpr double meter_inaktiv = -100.0;
 constexpr zeit_ms gesamtzeit_inaktiv = 999999999;
 constexpr zeit_ms beste_inaktiv = 999999;
 
+constexpr int zielsignal_ms = 3000;
+
 /// km/h; 0 for no time.
 double tempo(double meter, zeit_ms zeit) {
     return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / 3600000);
@@ -29,7 +31,9 @@ std::string dezimal(double zahl) {
 
 }  // namespace
 
-auswertung::auswertung(const renn_umgebung& um) : um_(um) {
+auswertung::auswertung(const renn_umgebung& um, plattform::zeitgeber_dienst& zeitgeber)
+    : um_(um), zieltimer_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, zielsignal_ms)) {
+    zieltimer_->bei_tick = [this] { zielsignal_beenden(); };
     Command5.bei_klick = [this] { cmd5_fortsetzung(); };
 }
 
@@ -39,6 +43,8 @@ void auswertung::laden() {
     if (!um_.einst.zielmodus_erster) {
         um_.zeitgeber.rennen_aus();
     }
+    um_.ausgaben.rennende_signal(true);
+    zieltimer_->an();
     sprache_a().anwenden(um_.ablage);
     ansagen_setzen();
     meter_fortsetzung_.fuellen({});
@@ -51,6 +57,17 @@ void auswertung::laden() {
         auswertung_anzeigen();  // the standing goes by the metres that are shown, so they must be there first
     }
     Command5.fokus_setzen();
+}
+
+void auswertung::entladen() {
+    if (zieltimer_->laeuft()) {
+        zielsignal_beenden();
+    }
+}
+
+void auswertung::zielsignal_beenden() {
+    zieltimer_->aus();
+    um_.ausgaben.rennende_signal(false);
 }
 
 sprachliste auswertung::sprache_a() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string>
 
 #include "core/steuerelemente.h"
@@ -13,7 +14,7 @@ namespace tarvel {
 /// arrays count the lanes from 0.
 class auswertung {
 public:
-    explicit auswertung(const renn_umgebung& um);
+    auswertung(const renn_umgebung& um, plattform::zeitgeber_dienst& zeitgeber);
 
     std::array<rahmen, spuren_max> Frame;  ///< all of a lane; its row is the place
     std::array<bezeichnung, spuren_max> platz;
@@ -36,6 +37,8 @@ public:
 
     /// Load handler: ends the race for the lap engine and shows the standing.
     void laden();
+    /// Unload handler: the signal at the race end does not outlast the window.
+    void entladen();
     /// Everything anew from the race record.
     void auswertung_anzeigen();
     /// Computes `platzierung`, `gesamtzeit` and the gaps.
@@ -69,12 +72,14 @@ private:
     };
 
     void kopf_schreiben();
+    void zielsignal_beenden();
     void ansagen_setzen();
     void meter_auswerten();
     void spur_anzeigen(int spur);
     void rundenliste_schreiben(int spur);
 
     renn_umgebung um_;
+    std::unique_ptr<plattform::zeitgeber> zieltimer_;  ///< ends the signal at the race end
     worte wort_;
     spuren<platz_werte> werte_;
     spuren<int> platzierung_;

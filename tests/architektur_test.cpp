@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// From the ground up: a folder includes only from itself and from those in front of it.
-const std::vector<std::string> ordner{"platform", "core",     "optionen",    "hardware", "race",
+const std::vector<std::string> ordner{"platform", "core",     "optionen",    "hardware", "race", "start",
                                       "results",  "programm", "platform_qt", "ui"};
 
 std::size_t stufe(const std::string& name) {

@@ -4,10 +4,13 @@
 
 #include <algorithm>
 
+#include "tests/plattform/ausgabe_protokoll.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel {
 namespace {
+
+using ausgang = schaltung::ausgang;
 
 class Rennende : public testing::Test {
 protected:
@@ -20,14 +23,6 @@ protected:
     }
 
     test::testprogramm t;
-};
-
-struct ausgabe_protokoll : ausgabe_geraet {
-    std::vector<schaltung> befehle;
-    void schalten(const schaltung& befehl) override { befehle.push_back(befehl); }
-    bool enthaelt(const schaltung& befehl) const {
-        return std::find(befehle.begin(), befehle.end(), befehl) != befehle.end();
-    }
 };
 
 TEST_F(Rennende, UhrenEinesZeitrennens) {
@@ -137,8 +132,8 @@ TEST_F(Rennende, PauseHaeltDieUhrAnUndVerschiebtDasEnde) {
 }
 
 TEST_F(Rennende, ZeitrennenErsterImZielEndetBeiNull) {
-    ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(geraet);
+    test::ausgabe_protokoll geraet;
+    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.starten("Zeit", "1", {1, 2});
     t.runde_nach(1000, "1");
     t.maschine.laufen(59001);
@@ -148,9 +143,11 @@ TEST_F(Rennende, ZeitrennenErsterImZielEndetBeiNull) {
     EXPECT_EQ(t.p.rennen.zustand.minuten_gefahren, "01");
     EXPECT_EQ(t.p.rennen.zustand.rennen_ende_uhrzeit, "21.11.2026-14:03:22");
     EXPECT_EQ(t.maschine.sounds.back(), "sound\\re.wav");
-    EXPECT_EQ(geraet.befehle.back(), (schaltung{schaltung::ausgang::bahnstrom_aus, 0, false}));
+    EXPECT_TRUE(geraet.ist_an(ausgang::bahnstrom, 1));
+    EXPECT_TRUE(geraet.ist_an(ausgang::rennende, 0));
     t.runde_nach(7000, "1");
     EXPECT_EQ(t.spur(1).runden, 0) << "no lap counts behind the result";
+    EXPECT_FALSE(geraet.ist_an(ausgang::rennende, 0)) << "the signal has ended by itself";
 }
 
 TEST_F(Rennende, ZeitrennenLetzterImZielGibtJedemNochEineUeberfahrt) {
@@ -189,8 +186,8 @@ TEST_F(Rennende, NachlaufDauertHoechstensZweiMinuten) {
 }
 
 TEST_F(Rennende, RundenrennenErsterImZielEndetFuerAlle) {
-    ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(geraet);
+    test::ausgabe_protokoll geraet;
+    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.starten("Runden", "2", {1, 3});
     t.runde_nach(1000, "13");
     t.runde_nach(6000, "13");
@@ -198,11 +195,8 @@ TEST_F(Rennende, RundenrennenErsterImZielEndetFuerAlle) {
     t.runde_nach(6000, "3");
     ASSERT_TRUE(beendet());
     EXPECT_TRUE(gespielt("sound\\ez.wav"));
-    EXPECT_TRUE(geraet.enthaelt({schaltung::ausgang::bahnstrom_aus, 3, true}));
-    EXPECT_EQ(std::count(geraet.befehle.begin(), geraet.befehle.end(),
-                         (schaltung{schaltung::ausgang::zieleinfahrt, 3, true})),
-              1);
-    EXPECT_FALSE(geraet.enthaelt({schaltung::ausgang::zieleinfahrt, 1, true}));
+    EXPECT_EQ(std::count(geraet.befehle.begin(), geraet.befehle.end(), schaltung{ausgang::bahnstrom, 3, false}), 1);
+    EXPECT_FALSE(geraet.enthaelt({ausgang::bahnstrom, 1, false}));
     EXPECT_EQ(t.spur(1).runden, 1);
 }
 
@@ -265,15 +259,15 @@ TEST_F(Rennende, FortgesetzteUhrZeigtDieRenndauer) {
 }
 
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
-    ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(geraet);
+    test::ausgabe_protokoll geraet;
+    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
     t.maschine.laufen(61000);  // in the run-on
     t.bahn().Command2.klicken();
     EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
     EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
-    EXPECT_EQ(geraet.befehle.back(), (schaltung{schaltung::ausgang::bahnstrom_aus, 0, false}));
+    EXPECT_EQ(geraet.befehle.back(), (schaltung{ausgang::bahnstrom, 0, true}));
     t.maschine.laufen(300000);
     EXPECT_FALSE(beendet());
     EXPECT_EQ(t.maschine.sounds.back(), "sound\\ra.wav");

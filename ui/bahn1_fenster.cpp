@@ -1,16 +1,14 @@
 #include "ui/bahn1_fenster.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
-#include "core/text.h"
 #include "race/rennansicht.h"
 #include "ui/stil.h"
+#include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
 namespace {
@@ -63,7 +61,9 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
     nachtabschaltung();
     setMinimumSize(640, 480);
     resize(1280, 1024);
-    QCoreApplication::instance()->installEventFilter(this);
+    new Tastenfaenger(
+        this, [&logik](int code) { return logik.befehle.ist_belegt(code); },
+        [&logik](int code) { logik.befehle.taste(code); });
 }
 
 QWidget* Bahn1Fenster::uhrenzeile() {
@@ -147,31 +147,6 @@ void Bahn1Fenster::skalieren() {
         schrift.setPixelSize(std::max(13, static_cast<int>(std::lround(schrift_knopf * skala))));
         knopf->setFont(schrift);
     }
-}
-
-bool Bahn1Fenster::eventFilter(QObject* ziel, QEvent* ereignis) {
-    // The first receiver only: an ignored key travels on to the parents, and would count again there.
-    const QWidget* empfaenger = focusWidget() != nullptr ? focusWidget() : this;
-    if (ereignis->type() == QEvent::KeyPress && ziel == empfaenger && isActiveWindow()) {
-        return taste(*static_cast<QKeyEvent*>(ereignis));
-    }
-    return Fenster::eventFilter(ziel, ereignis);
-}
-
-bool Bahn1Fenster::taste(const QKeyEvent& ereignis) {
-    const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
-    const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
-    const auto code = ansi_code(ereignis.text().toStdString());
-    if (!code || strg != alt) {  // both together are AltGr
-        return false;
-    }
-    if (!logik_.befehle.ist_belegt(*code)) {
-        return false;
-    }
-    if (!ereignis.isAutoRepeat()) {  // a key that is held is one press
-        logik_.befehle.taste(*code);
-    }
-    return true;
 }
 
 }  // namespace tarvel::ui

@@ -15,7 +15,6 @@ public:
     Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern);
 
     void aufschlagen() override;
-    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -25,7 +24,6 @@ private:
     QWidget* befehlszeile();
     void nachtabschaltung();
     void skalieren();
-    bool taste(const QKeyEvent& ereignis);
 
     rennen& logik_;
     std::vector<Rennspalte*> spalten_;

@@ -7,14 +7,15 @@ namespace tarvel::ui {
 Bildtakt::Bildtakt() {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(bild_ms);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ausfuehren(); });
 }
 
 void Bildtakt::vormerken(Abgleich* abgleich) {
     offen_.push_back(abgleich);
     if (!timer_.isActive()) {
-        timer_.start();
+        const auto her =
+            static_cast<int>(std::min<qint64>(seit_bild_.isValid() ? seit_bild_.elapsed() : bild_ms, bild_ms));
+        timer_.start(bild_ms - her);
     }
 }
 
@@ -25,6 +26,7 @@ void Bildtakt::vergessen(Abgleich* abgleich) {
 
 void Bildtakt::ausfuehren() {
     timer_.stop();
+    seit_bild_.start();
     in_arbeit_.swap(offen_);
     for (std::size_t i = 0; i < in_arbeit_.size(); ++i) {
         if (in_arbeit_[i] != nullptr) {

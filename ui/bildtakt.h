@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <vector>
 
@@ -13,7 +14,7 @@ public:
 };
 
 /// The frame clock: however often controls change, their widgets are brought up to date once per frame. Idle while
-/// nothing changes.
+/// nothing changes; the first change after that shows with the next turn of the loop.
 class Bildtakt {
 public:
     static constexpr int bild_ms = 16;
@@ -26,6 +27,7 @@ public:
 
 private:
     QTimer timer_;
+    QElapsedTimer seit_bild_;
     std::vector<Abgleich*> offen_;
     std::vector<Abgleich*> in_arbeit_;
 };

@@ -3,7 +3,12 @@
 #include <QColor>
 #include <QWidget>
 
+class QPainter;
+
 namespace tarvel::ui {
+
+/// Draws a round lamp that fills the rectangle.
+void lampe_malen(QPainter& maler, const QRectF& platz, const QColor& farbe, bool leuchtet);
 
 /// A round lamp of a start light, lit or dark.
 class Lampe : public QWidget {

@@ -9,6 +9,7 @@ Oberflaeche::Oberflaeche(programm& p)
       form1(p.form1, p.ablage, takt),
       form3(p.form3, p.ablage, takt, &form1),
       bahn1(p.rennen, takt, &form1),
+      form2(p.startampel, p.einst, p.ablage, takt, &bahn1),
       auswertung(p.auswertung, takt, &bahn1),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
@@ -20,6 +21,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("Form1", &form1);
     fenster.aufnehmen("Form3", &form3);
     fenster.aufnehmen("bahn1", &bahn1);
+    fenster.aufnehmen("Form2", &form2);
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
@@ -29,6 +31,7 @@ Oberflaeche::Oberflaeche(programm& p)
     p.fenster.anzeigen_auf(&fenster);
 
     QCoreApplication::instance()->installEventFilter(&fenster);
+    form2.escape_schliesst();
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
     einstellungen.escape_schliesst();
@@ -38,6 +41,7 @@ Oberflaeche::Oberflaeche(programm& p)
     form3.bei_schliessen = [&p] { p.fenster.entladen("Form3"); };
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
     bahn1.bei_schliessen = [&p] { p.rennen.befehle.fenster_schliessen(); };
+    form2.bei_schliessen = [&p] { p.startampel.fenster_schliessen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };

@@ -7,6 +7,7 @@
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
+#include "ui/form2_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
@@ -27,6 +28,7 @@ public:
     Form1Fenster form1;
     Form3Fenster form3;
     Bahn1Fenster bahn1;
+    Form2Fenster form2;
     AuswertungFenster auswertung;
     TastaturFenster tastatur;
     SpeichernFenster speichern;

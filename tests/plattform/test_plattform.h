@@ -20,7 +20,8 @@ class test_plattform final : private plattform::uhr,
                              private plattform::meldungen,
                              private plattform::klang,
                              private plattform::bildschirm,
-                             private plattform::prozess {
+                             private plattform::prozess,
+                             private plattform::zufall {
 public:
     struct meldung {
         std::string text;
@@ -57,7 +58,8 @@ public:
     std::vector<std::string> sounds;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
-    int beendet = 0;  ///< how often the process was asked to end
+    double zufallszahl = 0;  ///< from 0 up to below 1
+    int beendet = 0;         ///< how often the process was asked to end
 
 private:
     friend class virtueller_zeitgeber;
@@ -68,6 +70,7 @@ private:
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
     bool ist_einzige_instanz() override { return erste_instanz; }
     void beenden() override { ++beendet; }
+    double bruchteil() override { return zufallszahl; }
     plattform::groesse_px groesse() const override { return bildschirm_groesse; }
 
     struct feste_uhrzeit final : plattform::kalender {

@@ -12,6 +12,7 @@ testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter)
 }
 
 void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+    p.einst.start_ampel_modus = 0;
     p.form1.rennart.eingeben(rennart);
     p.form1.renndauer.eingeben(dauer);
     for (const int nummer : alle_spuren) {

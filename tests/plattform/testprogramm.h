@@ -13,7 +13,8 @@ namespace tarvel::test {
 struct testprogramm {
     explicit testprogramm(const std::filesystem::path& unter = std::filesystem::temp_directory_path());
 
-    /// Sets up a race on the main window and opens the race window. `dauer` as typed, race kind by the entry's text.
+    /// Sets up a race without a start light on the main window and opens the race window. `dauer` as typed, race kind
+    /// by the entry's text.
     void einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
     /// As above, and presses start.
     void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);

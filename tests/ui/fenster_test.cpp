@@ -24,6 +24,9 @@ TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
     EXPECT_EQ(anzeige(o.bahn1, "bahn1.namenslabel_1"), "Käthe");
     EXPECT_FALSE(finde<QWidget>(o.bahn1, "bahn1.bahnshape_3")->isVisible());
     klick(o.bahn1, "bahn1.Command1");
+    EXPECT_TRUE(o.form2.isVisible());
+    t.maschine.laufen(11000 + 2000);
+    EXPECT_FALSE(o.form2.isVisible());
     t.maschine.laufen(1000);
     taste(o.bahn1, '1');
     taste(o.bahn1, '2');

@@ -1,0 +1,38 @@
+#include "hardware/iow_bericht.h"
+
+#include <cstddef>
+
+namespace tarvel {
+namespace {
+
+constexpr int ports = 4;
+constexpr int bits_je_port = 8;
+
+}  // namespace
+
+iow_belegung::iow_belegung() {
+    for (int platz = 0; platz < ports * bits_je_port; ++platz) {
+        zuweisen(platz + 1, platz / bits_je_port + 1, platz % bits_je_port);
+    }
+}
+
+void iow_belegung::zuweisen(ereignis_art nummer, int port, int bit) {
+    if (nummer < 1 || nummer >= static_cast<int>(stellen_.size()) || port < 1 || port > ports || bit < 0 ||
+        bit >= bits_je_port) {
+        return;
+    }
+    stellen_.at(static_cast<std::size_t>(nummer)) = {port, static_cast<std::uint8_t>(1U << static_cast<unsigned>(bit))};
+}
+
+void iow_bericht::schalten(ereignis_art nummer, bool an) {
+    const auto [port, maske] = belegung[nummer];
+    std::uint8_t& byte = ausgang_.at(static_cast<std::size_t>(port));
+    byte = static_cast<std::uint8_t>(an ? byte & ~maske : byte | maske);
+}
+
+bool iow_bericht::ist_an(ereignis_art nummer) const {
+    const auto [port, maske] = belegung[nummer];
+    return maske != 0 && (ausgang_.at(static_cast<std::size_t>(port)) & maske) == 0;
+}
+
+}  // namespace tarvel

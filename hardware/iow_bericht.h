@@ -1,0 +1,65 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+
+#include "hardware/ereignisse.h"
+
+namespace tarvel {
+
+/// Which bit of the IO board's report means which event or output.
+class iow_belegung {
+public:
+    /// `port` is a byte of the report, 1 to 4; `maske` is one of its bits. Both are 0 for what has no place on the
+    /// board.
+    struct stelle {
+        int port = 0;
+        std::uint8_t maske = 0;
+    };
+
+    /// The factory assignment: numbers 1 to 32 on the 32 bits in order.
+    iow_belegung();
+
+    void leeren() { stellen_ = {}; }
+    /// Numbers outside 1 to 59, ports outside 1 to 4 and bits outside 0 to 7 assign nothing.
+    void zuweisen(ereignis_art nummer, int port, int bit);
+    stelle operator[](ereignis_art nummer) const { return stellen_.at(static_cast<std::size_t>(nummer)); }
+
+private:
+    std::array<stelle, 60> stellen_{};
+};
+
+/// The image of the IO board's output report. It is kept and written in every mode: without a board the write fails.
+/// An output is active while its bit is 0.
+class iow_bericht {
+public:
+    /// Byte 0 is the report number, always 0; the ports follow.
+    using bytes = std::array<std::uint8_t, 8>;
+
+    iow_belegung belegung;
+    /// Hands the report to the board, false if that failed. Empty without a board.
+    std::function<bool(std::span<const std::uint8_t>)> senden;
+
+    void schalten(ereignis_art nummer, bool an);
+    void ruhe() { ausgang_ = in_ruhe; }
+    /// Keeps the image as it is, for `wiederherstellen`.
+    void sichern() { sicherung_ = ausgang_; }
+    void wiederherstellen() { ausgang_ = sicherung_; }
+
+    void schreiben() { schreibfehler_ = !senden || !senden(ausgang_); }
+    bool schreibfehler() const { return schreibfehler_; }
+
+    const bytes& ausgang() const { return ausgang_; }
+    bool ist_an(ereignis_art nummer) const;
+
+private:
+    static constexpr bytes in_ruhe{0, 255, 255, 255, 255, 255, 255, 255};
+
+    bytes ausgang_ = in_ruhe;
+    bytes sicherung_ = in_ruhe;
+    bool schreibfehler_ = false;
+};
+
+}  // namespace tarvel

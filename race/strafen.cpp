@@ -1,0 +1,71 @@
+#include "race/strafen.h"
+
+#include <string>
+
+#include "core/zeit.h"
+
+namespace tarvel {
+
+strafen::strafen(const renn_umgebung& um, rennansicht& ansicht) : um_(um), ansicht_(ansicht) {
+    um_.zeitgeber.f_straftimer->bei_tick = [this] { f_straftimer_tick(); };
+    um_.zeitgeber.f_straftimer2->bei_tick = [this] { f_straftimer2_tick(); };
+}
+
+void strafen::zeitstrafe(int spur, int sekunden) {
+    um_.zustand.spur[spur].strafzeit += sekunden;
+    straflabel_zeigen(spur);
+}
+
+void strafen::straflabel_zeigen(int spur) {
+    bezeichnung& label = um_.bahn.straflabel[spur];
+    label.text(um_.bahn.wort.strafzeit + ": " + std::to_string(um_.zustand.spur[spur].strafzeit) + " sec");
+    label.sichtbar(um_.param.spur_aktiv[spur]);
+}
+
+void strafen::spur_strom_aus(int spur) {
+    um_.zustand.spur[spur].strom_aus = true;
+    um_.ausgaben.relais_on(spur);
+    ansicht_.kleine_ampel(spur, kleines_licht::rot);
+}
+
+void strafen::spur_strom_an(int spur) {
+    um_.zustand.spur[spur].strom_aus = false;
+    um_.ausgaben.relais_off(spur);
+    if (um_.zeitgeber.renntimer->laeuft()) {
+        ansicht_.kleine_ampel(spur, kleines_licht::gruen);
+    }
+}
+
+void strafen::nullzeile_eintragen(int spur) {
+    liste& runden = um_.bahn.t_liste.at(feld_index(spur));
+    if (runden.sichtbar()) {
+        runden.hinzufuegen(" 0. " + zeit_formatieren(0, false, um_.einst.trennzeichen));
+        runden.markieren(0);
+    }
+}
+
+void strafen::f_straftimer_tick() {
+    um_.zeitgeber.f_straftimer2->intervall(static_cast<int>(um_.param.min_rundenzeit_ms));
+    if (++um_.zustand.fruehstart_zaehler < um_.einst.fruehstart_strafzeit) {
+        return;
+    }
+    um_.ausgaben.bericht.schreiben();
+    for (const int spur : alle_spuren) {
+        if (um_.zustand.spur[spur].fruehstart_sperre) {
+            spur_strom_an(spur);
+            nullzeile_eintragen(spur);
+            um_.zeitgeber.f_straftimer2->an();
+        }
+    }
+    um_.zustand.fruehstart_zaehler = 0;
+    um_.zeitgeber.f_straftimer->aus();
+}
+
+void strafen::f_straftimer2_tick() {
+    um_.zeitgeber.f_straftimer2->aus();
+    for (spur_zustand& spur : um_.zustand.spur) {
+        spur.fruehstart_sperre = false;
+    }
+}
+
+}  // namespace tarvel

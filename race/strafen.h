@@ -1,0 +1,33 @@
+#pragma once
+
+#include "race/rennansicht.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// Punishment of single lanes: time added to the result, track power cut for a while.
+class strafen {
+public:
+    strafen(const renn_umgebung& um, rennansicht& ansicht);
+
+    /// Adds whole seconds to the lane's penalty and shows the sum.
+    void zeitstrafe(int spur, int sekunden);
+    void straflabel_zeigen(int spur);
+
+    /// Cuts the lane's power; its small light goes to red.
+    void spur_strom_aus(int spur);
+    void spur_strom_an(int spur);
+
+    /// A hundredth of a second of the false-start penalty. At its end all locked lanes get their power back and stay
+    /// locked for one more minimum lap, so that rolling on over the sensor is no lap.
+    void f_straftimer_tick();
+    void f_straftimer2_tick();
+
+private:
+    void nullzeile_eintragen(int spur);
+
+    renn_umgebung um_;
+    rennansicht& ansicht_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace tarvel {
+
+/// One of the start lights that can be chosen.
+struct ampelmodus {
+    enum class zweite_reihe {
+        keine,
+        gruen,  ///< dark until green
+        rot     ///< in step with the first row
+    };
+
+    int rote_schritte;  ///< 3 to 5
+    zweite_reihe reihe2;
+    bool lampenbild;  ///< row of lamps; else the drag tree, or nothing on the screen
+    bool verborgen;   ///< only the real lamps light
+};
+
+/// The light of `start_ampel_modus` 1 to 9. A number beyond the list stands for the first one: a start needs a light.
+const ampelmodus& ampelmodus_von(int start_ampel_modus);
+
+}  // namespace tarvel

@@ -1,0 +1,282 @@
+#include "start/startampel.h"
+
+#include <string>
+
+namespace tarvel {
+namespace {
+
+constexpr int vorlauf_ms = 2000;
+constexpr int schritt_ms = 1500;
+constexpr int drag_vor_ms = 2000;  // steps of the tree's white lights
+constexpr int drag_gelb_ms = 500;
+constexpr int freigabe_ms = 2000;
+
+constexpr farbe weiss = 16777215;
+constexpr farbe gelb = 65535;
+constexpr farbe gruen = 0x00E040;
+constexpr farbe dunkel = 0x303030;
+
+constexpr int taste_nacht = 110;  // "n"
+
+constexpr const char* rt_an = "rt_an";
+constexpr const char* rt_aus = "rt_aus";
+constexpr const char* gr_an = "gr_an";
+constexpr const char* gr_aus = "gr_aus";
+
+using plattform::zeitgeber_art;
+using reihe2 = ampelmodus::zweite_reihe;
+
+}  // namespace
+
+startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_dienst& zeitgeber)
+    : r_(r), um_(r.umgebung), einst_(einst), fruehstart_(r.umgebung, r.strafen) {
+    const auto kette = [&](int ms, auto tick) {
+        auto neu = zeitgeber.erzeugen(zeitgeber_art::zaehlend, ms);
+        neu->bei_tick = std::move(tick);
+        return neu;
+    };
+    Timer1_ = kette(vorlauf_ms, [this] {
+        Timer1_->aus();
+        rot_.front()->an();
+    });
+    for (std::size_t i = 0; i < rot_max; ++i) {
+        rot_.at(i) = kette(schritt_ms, [this, i] { rot_tick(i + 1); });
+    }
+    Timer7_ = kette(schritt_ms, [this] { gruen_tick(); });
+    Timer8_ = kette(freigabe_ms, [this] { freigabe_tick(); });
+    fruehstarttimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    fruehstarttimer_->bei_tick = [this] { fruehstart_tick(); };
+    ampelaus_timer_ = kette(1, [this] {
+        ampelaus_timer_->aus();
+        um_.fenster.verbergen("Form2");
+    });
+    for (const int spur : alle_spuren) {
+        stw_[spur] = kette(1, [this, spur] { strom_tick(spur); });
+    }
+    fruehstart_.strom_unterbrechen = [this](int spur) { stw_[spur]->an(); };
+    fruehstart_.start_abbrechen = [this] { start_abbrechen(); };
+    fenster.abbrampel.bei_klick = [this] { abbrampel_klick(); };
+}
+
+void startampel::laden() {
+    lampen_aufstellen();
+    ampel_laeuft_ = true;
+    gruen_erreicht_ = false;
+    abgebrochen_ = false;
+    texte_setzen();
+    fenster.Nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus == 2);
+    Timer7_->intervall(um_.zustand.ampel_takt);
+    const bool drag = um_.einst.start_ampel_modus == dragrace_ampel;
+    for (std::size_t i = 0; i < rot_max; ++i) {
+        const int drag_ms = i < 3 ? drag_vor_ms : drag_gelb_ms;
+        rot_.at(i)->intervall(drag ? drag_ms : schritt_ms);
+    }
+    fruehstart_.zuruecksetzen();
+    Timer1_->an();
+    fruehstarttimer_->an();
+    if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
+        ampelaus_timer_->an();
+    }
+    fenster.titel.fokus_setzen();  // a second press of the key that started must not stop the start
+}
+
+void startampel::texte_setzen() {
+    fenster.titel.text(um_.bahn.wort.startampel);
+    fenster.Label_prestage.text("Prestage");
+    fenster.Label_stage.text("Stage");
+    fenster.Label1.text(um_.txt.meldung[17]);
+    fenster.Label1.sichtbar(false);
+    fenster.Label_fruehstart.sichtbar(false);
+    fenster.abbrampel.text(um_.txt.meldung[18]);
+    fenster.abbrampel.aktiviert(true);
+}
+
+void startampel::ampel_bild(std::size_t nummer, const char* name) {
+    fenster.ampelbild.at(nummer - 1).datei(std::string("ampel/") + name + ".gif");
+}
+
+void startampel::alle_lampen(const char* reihe1, const char* reihe2) {
+    for (std::size_t n = 1; n <= rot_max; ++n) {
+        ampel_bild(n, reihe1);
+        ampel_bild(n + rot_max, reihe2);
+    }
+}
+
+void startampel::lampen_aufstellen() {
+    const ampelmodus& modus = ampelmodus_von(um_.einst.start_ampel_modus);
+    alle_lampen(rt_aus, modus.reihe2 == reihe2::rot ? rt_aus : gr_aus);
+    for (std::size_t i = 0; i < rot_max; ++i) {
+        const bool da = modus.lampenbild && static_cast<int>(i) < modus.rote_schritte;
+        fenster.ampelbild.at(i).sichtbar(da);
+        fenster.ampelbild.at(i + rot_max).sichtbar(da);
+    }
+    fenster.dragbaum.sichtbar(um_.einst.start_ampel_modus == dragrace_ampel);
+    for (form& licht : fenster.Shape11) {
+        licht.hintergrund(dunkel);
+    }
+    for (form& licht : fenster.Shape12) {
+        licht.hintergrund(dunkel);
+    }
+}
+
+void startampel::dragbaum_schalten(std::size_t schritt) {
+    if (schritt == 1) {
+        for (form& licht : fenster.Shape11) {
+            licht.hintergrund(weiss);
+        }
+    } else if (schritt >= 3) {
+        const std::size_t paar = 2 * (schritt - 3);
+        fenster.Shape12.at(paar).hintergrund(gelb);
+        fenster.Shape12.at(paar + 1).hintergrund(gelb);
+    }
+}
+
+void startampel::rot_tick(std::size_t schritt) {
+    rot_.at(schritt - 1)->aus();
+    const ampelmodus& modus = ampelmodus_von(um_.einst.start_ampel_modus);
+    if (um_.einst.start_ampel_modus == dragrace_ampel) {
+        dragbaum_schalten(schritt);
+    } else {
+        ampel_bild(schritt, rt_an);
+        if (modus.reihe2 == reihe2::rot) {
+            ampel_bild(schritt + rot_max, rt_an);
+        }
+    }
+    um_.ausgaben.ampelnRon(static_cast<int>(schritt));
+    um_.sounds.spielen(sound::ampelschritt);
+    if (static_cast<int>(schritt) == modus.rote_schritte) {
+        Timer7_->an();
+    } else {
+        rot_.at(schritt)->an();
+    }
+}
+
+void startampel::gruen_zeigen() {
+    const bool mit_gruen = ampelmodus_von(um_.einst.start_ampel_modus).reihe2 == reihe2::gruen;
+    alle_lampen(rt_aus, mit_gruen ? gr_an : rt_aus);
+    constexpr std::size_t gruenes_paar = 6;
+    fenster.Shape12.at(gruenes_paar).hintergrund(gruen);
+    fenster.Shape12.at(gruenes_paar + 1).hintergrund(gruen);
+}
+
+void startampel::gruen_tick() {
+    Timer7_->aus();
+    if (gruen_erreicht_) {
+        return;
+    }
+    Timer8_->an();
+    fruehstart_tick();  // an edge of this very moment is still a false start
+    if (abgebrochen_) {
+        return;
+    }
+    gruen_zeigen();
+    gruen_erreicht_ = true;
+    fenster.abbrampel.aktiviert(false);
+    um_.ausgaben.ampelnRoff(0);
+    um_.ausgaben.ampelnGRon();
+    r_.ablauf.rennen_starten(um_.zeit.messzeit_lesen());
+    fruehstarttimer_->aus();
+    um_.zeitgeber.f_straftimer->an();
+}
+
+void startampel::freigabe_tick() {
+    Timer8_->aus();
+    r_.ablauf.befehle_freigeben();
+    for (const int spur : alle_spuren) {
+        um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
+        um_.ereignisse[art::tanken_aus[spur]].aktiv = false;
+    }
+    um_.fenster.entladen("Form2");
+}
+
+void startampel::fruehstart_tick() {
+    r_.ablauf.quellen_abfragen();
+    if (fruehstart_.pruefen()) {
+        fruehstart_zeigen();
+    }
+}
+
+void startampel::fruehstart_zeigen() {
+    std::string nummern;
+    for (const int spur : alle_spuren) {
+        if (fruehstart_.erkannt(spur)) {
+            nummern += nummern.empty() ? " " : ", ";
+            nummern += std::to_string(spur);
+        }
+    }
+    fenster.Label_fruehstart.text(um_.bahn.wort.fruehstart + ": " + um_.bahn.wort.spur + nummern);
+    fenster.Label_fruehstart.sichtbar(true);
+}
+
+void startampel::strom_tick(int spur) {
+    stw_[spur]->aus();
+    r_.strafen.spur_strom_aus(spur);
+}
+
+void startampel::zeitgeber_aus() {
+    Timer1_->aus();
+    for (const auto& schritt : rot_) {
+        schritt->aus();
+    }
+    Timer7_->aus();
+    Timer8_->aus();
+    fruehstarttimer_->aus();
+}
+
+void startampel::start_abbrechen() {
+    abgebrochen_ = true;
+    zeitgeber_aus();
+    fenster.Label1.sichtbar(true);
+    fenster.abbrampel.text("OK");
+    fenster.abbrampel.fokus_setzen();
+    ampelaus_timer_->aus();
+    um_.fenster.zeigen("Form2");  // a hidden light comes out: somebody must see why, and press the button
+}
+
+void startampel::abbrampel_klick() {
+    um_.ausgaben.ampelnRon(1);
+    um_.ausgaben.ampelnGRoff();
+    um_.sounds.spielen(sound::rennen_abgebrochen);
+    for (const int spur : alle_spuren) {
+        stw_[spur]->aus();
+        r_.strafen.spur_strom_an(spur);
+    }
+    zeitgeber_aus();
+    r_.ablauf.start_abgebrochen();
+    fenster.Nachtabschaltung.sichtbar(false);
+    um_.fenster.entladen("Form2");
+}
+
+void startampel::fenster_schliessen() {
+    fenster.abbrampel.klicken();  // does nothing after green
+}
+
+void startampel::entladen() {
+    ampel_laeuft_ = false;
+    zeitgeber_aus();
+    ampelaus_timer_->aus();
+    for (const auto& unterbrechung : stw_) {
+        unterbrechung->aus();
+    }
+    constexpr int ohne = 0;
+    constexpr int runde_abzug = 4;
+    constexpr int zeitstrafe = 5;
+    if (einst_.fruehstart_option == ohne || einst_.fruehstart_option == runde_abzug ||
+        einst_.fruehstart_option == zeitstrafe) {
+        einst_.fruehstart_strafzeit = 10;  // these actions cut no power, so the lock ends a tenth of a second from now
+    }
+}
+
+bool startampel::ist_belegt(int code) const {
+    return code == taste_nacht || r_.befehle.ist_belegt(code);
+}
+
+void startampel::taste(int code) {
+    r_.befehle.taste_auswerten(code);
+    if (code == taste_nacht) {
+        fenster.Nachtabschaltung.sichtbar(!fenster.Nachtabschaltung.sichtbar());
+    }
+    fruehstart_.tanksensor_als_rundensensor();
+}
+
+}  // namespace tarvel
