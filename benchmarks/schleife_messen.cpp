@@ -2,20 +2,15 @@
 // Prints the gaps between race ticks and the share of one core. Usage: schleife_messen [seconds]
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <filesystem>
 #include <vector>
 
-#include "core/text.h"
-#include "platform_qt/qt_dienste.h"
-#include "ui/oberflaeche.h"
-#include "ui/stil.h"
+#include "benchmarks/messprogramm.h"
 
 namespace {
 
@@ -29,21 +24,12 @@ double anteil(const std::vector<double>& sortiert, double stelle) {
 
 int main(int argc, char** argv) {
     QApplication anwendung(argc, argv);
-    tarvel::ui::stil::anwenden(anwendung);
     const int sekunden = argc > 1 ? std::max(1, std::atoi(argv[1])) : 10;
-    const QTemporaryDir ordner;
-    const std::filesystem::path programmordner(ordner.path().toStdU16String());
-    std::filesystem::copy(TARVEL_DATEN, programmordner, std::filesystem::copy_options::recursive);
-    tarvel::qt::QtDienste maschine(programmordner);
-    tarvel::programm p(maschine.dienste());
-    tarvel::ui::Oberflaeche oberflaeche(p);
-    if (!p.starten()) {
+    messung::messprogramm m;
+    if (!m.starten()) {
         return 1;
     }
-    p.fenster.entladen("Form3");
-    for (auto& spur : p.form1.spur) {
-        spur.gesetzt(true);
-    }
+    tarvel::programm& p = m.p;
     p.einst.start_ampel_modus = 0;
     p.form1.Command1.klicken();
     p.rennen.bahn1.Command1.klicken();

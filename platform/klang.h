@@ -8,6 +8,8 @@ namespace tarvel::plattform {
 class klang {
 public:
     virtual ~klang() = default;
+    /// Reads the file ahead of time, so that its first play waits for nothing.
+    virtual void bereitstellen(std::string_view datei) = 0;
     /// `datei` is a name below the program folder. A missing file plays nothing.
     virtual void spielen(std::string_view datei) = 0;
 };

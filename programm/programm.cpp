@@ -90,6 +90,7 @@ void programm::optionen_verbinden() {
         form1.bilder_anzeigen();
         form1.modus_anzeigen();
         form1.tankoptionen_zeigen();
+        rennen.sounds.bereitstellen();
     };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
@@ -267,6 +268,7 @@ void programm::einstellungen_laden() {
     }
     form1.farben_einstellen();
     form1.bilder_anzeigen();
+    rennen.sounds.bereitstellen();
     if (einst.aut_loeschen && !laden_aus_menue_) {
         auto_dateien_loeschen(ablage);
     }

@@ -11,4 +11,15 @@ void rennsounds::spielen(int nummer) const {
     }
 }
 
+void rennsounds::bereitstellen() const {
+    if (!einst_.sound_an) {
+        return;
+    }
+    for (const std::string& datei : einst_.sound_dateien) {
+        if (!datei.empty()) {
+            klang_.bereitstellen(datei);
+        }
+    }
+}
+
 }  // namespace tarvel

@@ -24,6 +24,8 @@ public:
 
     /// An event without a file plays nothing.
     void spielen(int nummer) const;
+    /// Has the files of all events read ahead, after the settings have changed.
+    void bereitstellen() const;
 
 private:
     const einstellungen& einst_;

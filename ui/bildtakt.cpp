@@ -13,9 +13,8 @@ Bildtakt::Bildtakt() {
 void Bildtakt::vormerken(Abgleich* abgleich) {
     offen_.push_back(abgleich);
     if (!timer_.isActive()) {
-        const auto her =
-            static_cast<int>(std::min<qint64>(seit_bild_.isValid() ? seit_bild_.elapsed() : bild_ms, bild_ms));
-        timer_.start(bild_ms - her);
+        const qint64 her = seit_bild_.isValid() ? seit_bild_.elapsed() : bild_ms;
+        timer_.start(static_cast<int>(std::max<qint64>(bild_ms - her, vorlauf_ms)));
     }
 }
 

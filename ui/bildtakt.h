@@ -14,10 +14,12 @@ public:
 };
 
 /// The frame clock: however often controls change, their widgets are brought up to date once per frame. Idle while
-/// nothing changes; the first change after that shows with the next turn of the loop.
+/// nothing changes; the first change after that shows almost at once.
 class Bildtakt {
 public:
     static constexpr int bild_ms = 16;
+    /// Drawing takes milliseconds: what the logic has due within the next one, such as cutting the power, comes first.
+    static constexpr int vorlauf_ms = 2;
 
     Bildtakt();
     void vormerken(Abgleich* abgleich);

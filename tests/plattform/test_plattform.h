@@ -67,6 +67,7 @@ private:
     std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, int intervall_ms) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
+    void bereitstellen(std::string_view /*datei*/) override {}
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
     bool ist_einzige_instanz() override { return erste_instanz; }
     void beenden() override { ++beendet; }
