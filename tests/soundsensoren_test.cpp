@@ -1,0 +1,49 @@
+#include "race/soundsensoren.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using namen = std::vector<std::string>;
+
+TEST(Soundsensoren, JederSensorHatSeinenSoundUndSeineSperre) {
+    test::testprogramm t;
+    for (int nummer = 38; nummer <= 45; ++nummer) {
+        t.p.einst.sound_dateien.at(static_cast<std::size_t>(nummer)) = "sound\\" + std::to_string(nummer) + ".wav";
+    }
+    t.starten("Zeit", "5", {1});
+    t.maschine.laufen(10);
+    t.maschine.sounds.clear();
+    for (const int art : {17, 20, 9, 12}) {
+        t.p.ereignisse.ereignis_melden(art);
+        t.maschine.laufen(1);
+    }
+    EXPECT_EQ(t.maschine.sounds, (namen{"sound\\41.wav", "sound\\38.wav", "sound\\45.wav", "sound\\42.wav"}));
+    t.p.ereignisse.ereignis_melden(17);
+    t.maschine.laufen(2990);
+    EXPECT_EQ(t.maschine.sounds.size(), 4U);
+    EXPECT_TRUE(t.p.ereignisse[17].aktiv) << "waits for the end of the hold-off";
+    t.maschine.laufen(10);
+    EXPECT_EQ(t.maschine.sounds.back(), "sound\\41.wav");
+    EXPECT_EQ(t.maschine.sounds.size(), 5U);
+    EXPECT_FALSE(t.p.ereignisse[17].aktiv);
+
+    t.p.einst.sound_an = false;
+    t.p.ereignisse.ereignis_melden(18);
+    t.maschine.laufen(100);
+    EXPECT_TRUE(t.p.ereignisse[18].aktiv) << "with sounds off the sensors are not read";
+    t.p.einst.sound_an = true;
+    t.p.einst.sound_dateien[40].clear();
+    t.maschine.laufen(1);
+    EXPECT_FALSE(t.p.ereignisse[18].aktiv) << "an event without a sound is taken too";
+    EXPECT_EQ(t.maschine.sounds.size(), 5U);
+}
+
+}  // namespace
+}  // namespace tarvel
