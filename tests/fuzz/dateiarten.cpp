@@ -1,13 +1,174 @@
 #include "tests/fuzz/dateiarten.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <array>
+#include <stdexcept>
 
+#include "core/nebendateien.h"
+#include "core/sprache.h"
 #include "core/text.h"
 #include "hardware/tastenbelegung.h"
 
+namespace fs = std::filesystem;
+
 namespace tarvel::test {
 namespace {
+
+constexpr std::size_t zeile_max = 4000;
+constexpr std::size_t texte_anzahl = 40;  // of the language file that no program has
+
+/// A million files each written once are no work for a disk.
+fs::path schneller_ordner() {
+    const fs::path im_speicher = "/dev/shm";
+    return fs::is_directory(im_speicher) ? im_speicher : fs::temp_directory_path();
+}
+
+bool ist_eine_zeile(const std::string& text) {
+    return text.find('\n') == std::string::npos && laenge(text) <= zeile_max;
+}
+
+bool liste_lesen(const werkbank& bank, const char* kopfwort, std::string_view datei) {
+    using eintraege = std::vector<listeneintrag>;
+    namensliste liste({kopfwort, "pictures", "nopic.jpg"});
+    liste.eingebaut({"A"});
+    if (!liste.laden(bank.eingang, datei)) {
+        fordern(liste.eintraege() == eintraege{{"A", ""}}, "an unusable list leaves its names");
+        return false;
+    }
+    eintraege gelesen = liste.eintraege();
+    fordern(gelesen.size() <= namensliste::namen_max, "more names than rows");
+    fordern(liste.speichern(bank.ausgang, datei), "list cannot be written");
+    fordern(liste.laden(bank.ausgang, datei), "a list that the program has written it refuses");
+    gelesen.erase(std::find_if(gelesen.begin(), gelesen.end(), [](const auto& e) { return e.name.empty(); }),
+                  gelesen.end());
+    fordern(liste.eintraege() == gelesen, "a list changes on the way through its file");
+    return true;
+}
+
+bool namensliste_lesen(werkbank& bank, const std::string& bytes) {
+    bank.legen("namen.lst", bytes);
+    const bool fahrer = liste_lesen(bank, "Fahrerliste:", "namen.lst");
+    const bool fahrzeuge = liste_lesen(bank, "Fahrzeugliste:", "namen.lst");
+    fordern(!fahrer || !fahrzeuge, "a list of drivers is no list of vehicles");
+    return fahrer || fahrzeuge;
+}
+
+bool trennzeichen_lesen(werkbank& bank, const std::string& bytes) {
+    const trennzeichen_tabelle vorher{"(", "€", ")"};
+    trennzeichen_tabelle werte = vorher;
+    bank.legen("trennzeichen.ini", bytes);
+    if (!trennzeichen_laden(bank.eingang, werte)) {
+        fordern(werte == vorher, "an unusable file changes the separators");
+        return false;
+    }
+    for (const std::string& zeichen : werte) {
+        const int code = ansi_code(zeichen).value_or(0);
+        fordern(code >= ' ' || code == '\t', "a separator is one character that can be seen");
+    }
+    trennzeichen_tabelle zurueck = vorher;
+    fordern(trennzeichen_speichern(bank.ausgang, werte), "separators cannot be written");
+    fordern(trennzeichen_laden(bank.ausgang, zurueck) && zurueck == werte,
+            "separators change on the way through their file");
+    return true;
+}
+
+bool werbezeile_lesen(werkbank& bank, const std::string& bytes) {
+    const std::string vorher = "\n";  // no file holds it
+    std::string text = vorher;
+    bank.legen("tvk.ini", bytes);
+    tvk_ini_laden(bank.eingang, text);
+    if (text == vorher) {
+        return false;
+    }
+    fordern(!text.empty() && ist_eine_zeile(text), "advertising is one line");
+    fordern(!text.starts_with('"'), "advertising keeps its quotes");
+    fordern(von_1252(nach_1252(text)) == text, "advertising has characters that no file of the program holds");
+    return true;
+}
+
+std::array<std::string, 5> felder(const s6_start& start) {
+    return {start.zustand, start.modus, start.einstell_datei, start.naechster_zustand, start.naechster_modus};
+}
+
+/// Most fields are written without quotes, and quotes in a field are changed, so not every text comes back.
+bool kommt_zurueck(const std::string& text) {
+    return text.find_first_of(",\"") == std::string::npos && gekuerzt(text) == text && laenge(text) + 2 <= zeile_max;
+}
+
+bool startdatei_lesen(werkbank& bank, const std::string& bytes) {
+    bank.legen("tvk_s6.ini", bytes);
+    const s6_start start = s6_laden(bank.eingang);
+    fordern(!start.zustand.empty() && !start.einstell_datei.empty(), "a start without its state or its settings");
+    const fs::path ort = bank.eingang.pfad(start.einstell_datei);
+    fordern(ort.empty() || *ort.lexically_relative(bank.t.maschine.ordner()).begin() != "..",
+            "the settings lie outside the program folder");
+    fordern(s6_speichern(bank.ausgang, start), "start file cannot be written");
+    const auto vorher = felder(start);
+    fordern(std::none_of(vorher.begin(), vorher.end(), [](const auto& f) { return f.starts_with('"'); }),
+            "a field keeps its quotes");
+    fordern(!std::all_of(vorher.begin(), vorher.end(), kommt_zurueck) || felder(s6_laden(bank.ausgang)) == vorher,
+            "a start changes on the way through its file");
+    return start.zustand == "2";
+}
+
+std::array<int, tastenbelegung::zeile_max + 1> codes(const tastenbelegung& belegung) {
+    std::array<int, tastenbelegung::zeile_max + 1> werte{};
+    std::generate(werte.begin(), werte.end(), [&, zeile = 0]() mutable { return belegung.taste(zeile++); });
+    return werte;
+}
+
+bool tasten_lesen(werkbank& bank, const std::string& bytes) {
+    tastenbelegung belegung;
+    const auto vorher = codes(belegung);
+    bank.legen("tvk_taste.ini", bytes);
+    if (!belegung.tastenbelegung_laden(bank.eingang)) {
+        fordern(codes(belegung) == vorher, "an unusable file changes the keys");
+        return false;
+    }
+    for (const int code : codes(belegung)) {
+        fordern(code >= 1 && code <= 255, "a key code that no key has");
+    }
+    tastenbelegung zurueck;
+    fordern(belegung.tastenbelegung_speichern(bank.ausgang), "keys cannot be written");
+    fordern(zurueck.tastenbelegung_laden(bank.ausgang) && codes(zurueck) == codes(belegung),
+            "keys change on the way through their file");
+    return true;
+}
+
+/// Reads the file into texts of its own. True if every text was there.
+bool texte_lesen(const werkbank& bank, sprachliste::form form) {
+    const std::string unberuehrt = "\n";  // stands for a built-in text, and in no file
+    std::vector<std::string> texte(texte_anzahl);
+    sprachliste sprache("language/language_m1.txt", form);
+    for (std::string& text : texte) {
+        sprache.text(unberuehrt, text);
+    }
+    sprache.anwenden(bank.eingang);
+    const auto ende = std::find(texte.begin(), texte.end(), unberuehrt);
+    fordern(std::count(ende, texte.end(), unberuehrt) == texte.end() - ende, "a text behind the end of its file");
+    fordern(std::all_of(texte.begin(), ende, ist_eine_zeile), "a text is one line");
+    return ende == texte.end();
+}
+
+bool sprache_lesen(werkbank& bank, const std::string& bytes) {
+    programm& p = bank.t.p;
+    const auto anwenden = [&] {
+        p.txt.sprache_m1_laden(bank.eingang);
+        p.form1.sprache_m2().anwenden(bank.eingang);
+        p.form1.rennart_geaendert();
+    };
+    bank.legen("language/language_m1.txt", bytes);
+    bank.legen("language/language_m2.txt", bytes);
+    const bool als_zeilen = texte_lesen(bank, sprachliste::form::zeilen);
+    const bool als_felder = texte_lesen(bank, sprachliste::form::felder);
+    fordern(als_felder || !als_zeilen, "a line is at least one field");
+    anwenden();
+    fs::remove_all(bank.t.maschine.ordner() / "language");
+    anwenden();
+    fordern(p.txt.text_runden == "Runden" && p.form1.Command1.text() == "Einzelrennen",
+            "without its file a text is not German");
+    return als_felder;
+}
 
 std::string als_bytes(const std::vector<std::string>& zeilen) {
     std::string bytes;
@@ -28,29 +189,26 @@ std::string alte_einstellungen(std::vector<std::string> zeilen) {
     return als_bytes(zeilen);
 }
 
-std::string volle_liste(const std::string& kopf) {
-    std::vector<std::string> zeilen{kopf};
-    for (int nummer = 1; nummer <= 100; ++nummer) {
-        zeilen.push_back("F" + std::to_string(nummer));
-    }
+std::string volle_liste() {
+    std::vector<std::string> zeilen(101, "Max");
+    zeilen.front() = "Fahrerliste:";
     zeilen.emplace_back("{pic}");
     zeilen.insert(zeilen.end(), 100, "bild");
     zeilen.emplace_back("{ende}");
     return als_bytes(zeilen);
 }
 
-std::string alle_tasten(werkbank& bank) {
+std::string alle_tasten(const werkbank& bank) {
     tastenbelegung belegung;
     belegung.vorbelegen(belegung_stufe::alle);
     fordern(belegung.tastenbelegung_speichern(bank.ausgang), "keys cannot be written");
     return bank.t.maschine.datei_lesen("ausgang/tvk_taste.ini");
 }
 
-/// The German files of the main window and of the shared texts: fields in one, lines in the other.
-std::vector<std::string> sprachdateien(werkbank& bank) {
+std::vector<std::string> sprachdateien(programm& p) {
     std::vector<std::string> bytes;
-    for (const sprachliste& sprache : bank.t.p.sprachdateien()) {
-        if (sprache.datei().ends_with("_m1.txt") || sprache.datei().ends_with("_m2.txt")) {
+    for (const sprachliste& sprache : p.sprachdateien()) {
+        if (sprache.anzahl() >= texte_anzahl) {
             bytes.push_back(als_bytes(sprache.deutsche_datei()));
         }
     }
@@ -59,26 +217,38 @@ std::vector<std::string> sprachdateien(werkbank& bank) {
 
 }  // namespace
 
-std::vector<dateiart> dateiarten(werkbank& bank) {
+werkbank::werkbank() : t(schneller_ordner()) {}
+
+void werkbank::legen(const std::string& name, const std::string& bytes) {
+    t.maschine.meldungen_gezeigt.clear();
+    t.maschine.datei_schreiben(name, bytes);
+}
+
+void fordern(bool erfuellt, const char* was) {
+    if (!erfuellt) {
+        throw std::logic_error(was);
+    }
+}
+
+std::map<std::string, dateiart> dateiarten(werkbank& bank) {
     const std::vector<std::string> zeilen = bank.t.p.datei.schreiben();
     const std::string einstellungen = als_bytes(zeilen);
     return {
-        {"einstellungen", {einstellungen, alte_einstellungen(zeilen)}, einstellungen_lesen},
+        {"einstellungen", {{einstellungen, alte_einstellungen(zeilen)}, einstellungen_lesen}},
         {"wettkampfdatei",
-         {"Wettkampfdatei: Vereinsmeister\r\n" + einstellungen + "Teilnehmer\r\n 2 \r\n"},
-         wettkampfdatei_lesen},
+         {{"Wettkampfdatei: Vereinsmeister\r\n" + einstellungen + "Teilnehmer\r\n 2 \r\n"}, wettkampfdatei_lesen}},
         {"namensliste",
-         {"Fahrerliste:\r\nJ\xF6rg\r\nAnna\r\n{pic}\r\njoerg\r\n\r\n{ende}\r\n", volle_liste("Fahrerliste:"),
-          bank.t.maschine.datei_lesen("Listen/fahrzeuge.kfz")},
-         namensliste_lesen},
-        {"trennzeichen", {" 58 \r\n 44 \r\n 59 \r\n", "183,46,124"}, trennzeichen_lesen},
-        {"werbezeile", {"\"Bahn, Bier und Benzin\"\r\n", "Bahn und Bier\r\n"}, werbezeile_lesen},
+         {{"Fahrerliste:\r\nJ\xF6rg\r\nAnna\r\n{pic}\r\njoerg\r\n\r\n{ende}\r\n", volle_liste(),
+           bank.t.maschine.datei_lesen("Listen/fahrzeuge.kfz")},
+          namensliste_lesen}},
+        {"trennzeichen", {{" 58 \r\n 44 \r\n 59 \r\n", "183,46,124"}, trennzeichen_lesen}},
+        {"werbezeile", {{"\"Bahn, Bier und Benzin\"\r\n", "Bahn und Bier\r\n"}, werbezeile_lesen}},
         {"startdatei",
-         {"2\r\n5\r\nEinstellungen\\einstellungen.ini\r\n0\r\n\r\n",
-          "\"2\", 6 ,\"Einstellungen\\klub.ini\",\"0\",\"\"\r\n"},
-         startdatei_lesen},
-        {"tasten", {alle_tasten(bank)}, tasten_lesen},
-        {"sprache", sprachdateien(bank), sprache_lesen},
+         {{"2\r\n5\r\nEinstellungen\\einstellungen.ini\r\n0\r\n\r\n",
+           "\"2\", 6 ,\"Einstellungen\\klub.ini\",\"0\",\"\"\r\n"},
+          startdatei_lesen}},
+        {"tasten", {{alle_tasten(bank)}, tasten_lesen}},
+        {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},
     };
 }
 

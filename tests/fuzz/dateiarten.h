@@ -1,34 +1,42 @@
 #pragma once
 
+#include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "tests/fuzz/werkbank.h"
+#include "core/dateien.h"
+#include "tests/plattform/testprogramm.h"
 
 namespace tarvel::test {
 
-/// Lays the bytes into the file, lets the program read it and holds what it made of it against what must be true of
-/// any file. Tells whether the file was accepted; throws when something is wrong.
-using leseversuch = bool (*)(werkbank&, std::string_view bytes);
+/// What all readings share and none starts anew: a program, and folders in memory where the system has such.
+struct werkbank {
+    werkbank();
+    /// Lays the bytes of this reading into a file of the program folder. They stay there until the next reading.
+    void legen(const std::string& name, const std::string& bytes);
+
+    testprogramm t;
+    dateien eingang{t.maschine.ordner()};
+    dateien ausgang{t.maschine.ordner() / "ausgang"};  ///< where readings write: what they were given stays as it was
+};
+
+/// Ends the reading with what is wrong.
+void fordern(bool erfuellt, const char* was);
+
+/// Lets the program read a file of these bytes and holds what it made of it against what must be true of any file.
+/// Tells whether the file was accepted; throws when something is wrong.
+using leseversuch = bool (*)(werkbank&, const std::string& bytes);
 
 /// One kind of file that the program reads.
 struct dateiart {
-    std::string name;
     std::vector<std::string> gute;  ///< bytes of files that are accepted, as seeds of all others
     leseversuch lesen;
 };
 
-/// All kinds. A new one gets its row here, and its name in the CMake list of the targets.
-std::vector<dateiart> dateiarten(werkbank& bank);
+/// All kinds by their names. A new one gets its row here, and its name in the CMake list of the targets.
+std::map<std::string, dateiart> dateiarten(werkbank& bank);
 
-bool einstellungen_lesen(werkbank& bank, std::string_view bytes);
-bool wettkampfdatei_lesen(werkbank& bank, std::string_view bytes);
-bool namensliste_lesen(werkbank& bank, std::string_view bytes);
-bool trennzeichen_lesen(werkbank& bank, std::string_view bytes);
-bool werbezeile_lesen(werkbank& bank, std::string_view bytes);
-bool startdatei_lesen(werkbank& bank, std::string_view bytes);
-bool tasten_lesen(werkbank& bank, std::string_view bytes);
-bool sprache_lesen(werkbank& bank, std::string_view bytes);
+bool einstellungen_lesen(werkbank& bank, const std::string& bytes);
+bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes);
 
 }  // namespace tarvel::test

@@ -1,24 +1,19 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <random>
 #include <string>
 #include <vector>
 
 namespace tarvel::test {
 
-/// Random numbers that are the same with every compiler and cheap to start anew.
-class zufall {
-public:
-    explicit zufall(std::uint64_t saat) : zustand_(saat) {}
+/// Random numbers that are the same with every compiler.
+using zufall = std::mt19937_64;
 
-    std::uint64_t zahl();
-    /// From 0 to `grenze` - 1; 0 for a limit of 0.
-    std::size_t unter(std::size_t grenze) { return grenze == 0 ? 0 : static_cast<std::size_t>(zahl() % grenze); }
-
-private:
-    std::uint64_t zustand_;
-};
+/// From 0 to `grenze` - 1.
+inline std::size_t unter(zufall& z, std::size_t grenze) {
+    return static_cast<std::size_t>(z() % grenze);
+}
 
 inline constexpr std::size_t bytes_max = 65536;
 
