@@ -11,7 +11,6 @@ namespace tarvel::test {
 
 using meldungen = std::vector<test_plattform::meldung>;
 constexpr const char* bleibt = " Die alte Einstellung wird beibehalten.";
-constexpr const char* grenzen_titel = "Parameter außerhalb gültiger Werte";
 
 /// The options window of a started program, opened.
 class OptionenProbe : public testing::Test {
@@ -33,7 +32,16 @@ protected:
         EXPECT_FALSE(offen());
         oeffnen();
     }
-    /// Types into one field, takes over, and returns the messages of that.
+    /// Change one value and take over.
+    void nach_wahl(const std::string& name, int platz) {
+        waehlen(name, platz);
+        uebernehmen();
+    }
+    void nach_kreuz(const std::string& name) {
+        kreuzen(name);
+        uebernehmen();
+    }
+    /// The same for a field that is typed into; returns the messages of that.
     meldungen nach_eingabe(const std::string& name, std::string_view text) {
         t.maschine.meldungen_gezeigt.clear();
         tippen(name, text);
