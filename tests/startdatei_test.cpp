@@ -8,9 +8,9 @@ namespace {
 
 class Startdatei : public testing::Test {
 protected:
-    /// Starts with these five fields in the file that names the settings of the start.
-    programm& start_mit(const std::string& felder) {
-        t.maschine.datei_schreiben("tvk_s6.ini", felder);
+    /// Starts with this file of settings.
+    programm& start_mit(const std::string& datei, const std::string& zustand_und_modus = "0\r\n\r\n") {
+        t.maschine.datei_schreiben("tvk_s6.ini", zustand_und_modus + datei + "\r\n0\r\n\r\n");
         t.maschine.meldungen_gezeigt.clear();
         p = std::make_unique<programm>(t.maschine.dienste());
         p->starten();
@@ -27,7 +27,7 @@ TEST_F(Startdatei, SchreibweisenDesOrdnersMeinenDasselbe) {
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/klub, alt.ini", t.p.datei.schreiben()));
     const std::string voll = (t.maschine.ordner() / "Einstellungen").string();
     for (const std::string& ordner : {std::string("Einstellungen/"), std::string("Einstellungen\\"), voll + "/"}) {
-        const programm& neu = start_mit("0\r\n\r\n\"" + ordner + "klub, alt.ini\"\r\n0\r\n\r\n");
+        const programm& neu = start_mit("\"" + ordner + "klub, alt.ini\"");
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << ordner;
         EXPECT_EQ(neu.einst.tank_inhalt, 42) << ordner;
         EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: klub, alt.ini");
@@ -36,7 +36,7 @@ TEST_F(Startdatei, SchreibweisenDesOrdnersMeinenDasselbe) {
 }
 
 TEST_F(Startdatei, FehlendeWirdMitDenStandardwertenAngelegt) {
-    const programm& neu = start_mit("0\r\n\r\nEinstellungen/klub.ini\r\n0\r\n\r\n");
+    const programm& neu = start_mit("Einstellungen/klub.ini");
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: klub.ini");
     EXPECT_TRUE(t.maschine.datei_da("Einstellungen/klub.ini"));
@@ -46,7 +46,7 @@ TEST_F(Startdatei, NieEineAndereDatei) {
     const std::string liste = t.maschine.datei_lesen("Listen/fahrer.lst");
     for (const char* name :
          {"Einstellungen\\..\\Listen\\fahrer.lst", "..\\Listen\\fahrer.lst", "C:\\x.ini", "/etc/x"}) {
-        const programm& neu = start_mit("0\r\n\r\n" + std::string(name) + "\r\n0\r\n\r\n");
+        const programm& neu = start_mit(name);
         EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: einstellungen.ini") << name;
         EXPECT_EQ(t.maschine.datei_lesen("Listen/fahrer.lst"), liste) << name;
     }
@@ -55,7 +55,7 @@ TEST_F(Startdatei, NieEineAndereDatei) {
 TEST_F(Startdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
     t.p.einst.hardware.hw_iow = true;
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/iow.ini", t.p.datei.schreiben()));
-    programm& neu = start_mit("2\r\n5\r\nEinstellungen\\iow.ini\r\n0\r\n\r\n");
+    programm& neu = start_mit("Einstellungen\\iow.ini", "2\r\n5\r\n");
     EXPECT_FALSE(neu.einst.hardware.hw_iow);
     EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 5);
     EXPECT_EQ(s6_laden(ablage).zustand, "0");
@@ -64,8 +64,8 @@ TEST_F(Startdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
     neu.speichernfenster.Command1.klicken();
     EXPECT_TRUE(neu.einst.hardware.hw_iow) << "what is loaded later counts as it stands";
     EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 3);
-    EXPECT_EQ(start_mit("2\r\n1\r\nEinstellungen\\iow.ini\r\n0\r\n\r\n").einst.hardware.hw_4x4_modus, 3)
-        << "there is no such mode";
+    start_mit("Einstellungen\\iow.ini", "2\r\n1\r\n");
+    EXPECT_EQ(p->einst.hardware.hw_4x4_modus, 3) << "there is no such mode";
 }
 
 TEST_F(Startdatei, WasGetipptWirdKommtSoZurueckWieEsGeschriebenWurde) {
@@ -77,7 +77,7 @@ TEST_F(Startdatei, WasGetipptWirdKommtSoZurueckWieEsGeschriebenWurde) {
     const auto geschrieben = t.p.datei.schreiben();
     EXPECT_EQ(geschrieben.at(29), "5.30");
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/einstellungen.ini", geschrieben));
-    const programm& neu = start_mit("0\r\n\r\n\r\n0\r\n\r\n");
+    const programm& neu = start_mit("");
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << "the name of the mark that ends the file is no end of it";
     EXPECT_EQ(neu.form1.fahrer[1].text(), "Max");
     EXPECT_TRUE(neu.einst.grosse_zeit);
