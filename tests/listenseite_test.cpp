@@ -22,7 +22,12 @@ protected:
         fahrer.hinzufuegen.klicken();
     }
     void uebernehmen() { t.p.einstellungsfenster.Command1.klicken(); }
-    /// A picture of the machine's disk, outside the program folder's own pictures.
+    /// Presses the button that opens the window for a list's file, and names the file.
+    void mit_datei(befehl& knopf, std::string_view datei) {
+        knopf.klicken();
+        t.p.fahrerspeichernfenster.name.eingeben(datei);
+        t.p.fahrerspeichernfenster.Command1.klicken();
+    }
     void bild_anlegen(const std::string& name, const std::string& bytes = "\xFF\xD8\xFF\xE0 Bild") {
         t.maschine.datei_schreiben(name, bytes);
     }
@@ -64,42 +69,30 @@ TEST_F(Listenseite, MehrAlsHundertNamenNimmtKeineListe) {
 
 TEST_F(Listenseite, ListenLassenSichSpeichernUndLaden) {
     hinzufuegen("Anna");
-    fahrer.Liste_speichern.klicken();
+    mit_datei(fahrer.Liste_speichern, "klub");
     EXPECT_EQ(t.p.fahrerspeichernfenster.titel.text(), "Fahrerliste speichern");
-    t.p.fahrerspeichernfenster.name.eingeben("klub");
-    t.p.fahrerspeichernfenster.Command1.klicken();
     EXPECT_TRUE(t.maschine.datei_da("Listen/klub.lst"));
     fahrer.alle_loeschen.klicken();
-    fahrer.Liste_laden.klicken();
-    t.p.fahrerspeichernfenster.name.eingeben("klub.lst");
-    t.p.fahrerspeichernfenster.Command1.klicken();
+    mit_datei(fahrer.Liste_laden, "klub.lst");
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna");
     EXPECT_EQ(t.p.form1.fahrer[0].eintraege().size(), 7U) << "the main window's choice stays until it is taken over";
 
     t.maschine.datei_schreiben("Listen/falsch.lst", "Fahrzeugliste:\r\n{pic}\r\n{ende}\r\n");
-    fahrer.Liste_laden.klicken();
-    t.p.fahrerspeichernfenster.name.eingeben("falsch.lst");
-    t.p.fahrerspeichernfenster.Command1.klicken();
+    mit_datei(fahrer.Liste_laden, "falsch.lst");
     EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{t.p.txt.meldung[8], "Fehlermeldung"}}));
     EXPECT_EQ(fahrer.namen.zeilen().size(), 6U) << "the built-in names stand in";
 }
 
-TEST_F(Listenseite, NichtSchreibbareListeWirdGemeldet) {
-    std::filesystem::create_directory(t.maschine.ordner() / "Listen/fahrer.lst.tarvel-neu");
+TEST_F(Listenseite, MisslungenesSchreibenWirdGemeldetUndNachgeholt) {
+    const auto im_weg = t.maschine.ordner() / "Listen/fahrer.lst.tarvel-neu";
+    std::filesystem::create_directory(im_weg);
     const std::string vorher = t.maschine.datei_lesen("Listen/fahrer.lst");
-    hinzufuegen("Anna");
+    fahrer.name.eingeben("Anna");  // typed only: it counts as well
     uebernehmen();
     EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{t.p.txt.meldung[3], "Fehlermeldung"}}));
     EXPECT_EQ(t.maschine.datei_lesen("Listen/fahrer.lst"), vorher);
     EXPECT_TRUE(t.p.fenster.ist_offen("einstellungen"));
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna") << "nothing the operator has typed is lost";
-}
-
-TEST_F(Listenseite, MisslungenesSchreibenWirdNachgeholt) {
-    const auto im_weg = t.maschine.ordner() / "Listen/fahrer.lst.tarvel-neu";
-    std::filesystem::create_directory(im_weg);
-    hinzufuegen("Anna");
-    uebernehmen();
     std::filesystem::remove(im_weg);
     uebernehmen();
     EXPECT_FALSE(t.p.fenster.ist_offen("einstellungen"));
@@ -107,9 +100,7 @@ TEST_F(Listenseite, MisslungenesSchreibenWirdNachgeholt) {
 }
 
 TEST_F(Listenseite, GeltendeListeIstBeimNaechstenStartDa) {
-    fahrer.Liste_speichern.klicken();
-    t.p.fahrerspeichernfenster.name.eingeben("klub");
-    t.p.fahrerspeichernfenster.Command1.klicken();
+    mit_datei(fahrer.Liste_speichern, "klub");
     hinzufuegen("Łukas");  // no sign of the files' code page
     EXPECT_EQ(fahrer.namen.zeilen().back(), "?ukas") << "shown as it will be kept";
     uebernehmen();
@@ -136,8 +127,6 @@ TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     bild_anlegen("kamera/text.jpg", "kein Bild");
     hinzufuegen("A/B: \"Ä\"");
     fahrer.anderes_bild.klicken();
-    EXPECT_EQ(bilder.titel.text(), "neues Fahrerbild zuordnen");
-    EXPECT_EQ(bilder.ordner.zeilen().front(), "..");
     bilder.ordner.doppelklicken(0);
     const auto& ordner = bilder.ordner.zeilen();
     bilder.ordner.doppelklicken(static_cast<int>(std::find(ordner.begin(), ordner.end(), "kamera") - ordner.begin()));
@@ -154,12 +143,6 @@ TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     EXPECT_TRUE(t.maschine.datei_da("pictures/A_B_ _Ä_.jpg"));
     fahrer.kein_bild.klicken();
     EXPECT_EQ(fahrer.vorschau.datei(), "pictures/nopic.jpg");
-}
-
-TEST_F(Listenseite, GetippterNameGehtBeimUebernehmenNichtVerloren) {
-    fahrer.name.eingeben("Anna");
-    uebernehmen();
-    EXPECT_EQ(t.p.fahrerliste.eintraege().back().name, "Anna");
 }
 
 TEST_F(Listenseite, AbgebrocheneBildwahlAendertNichts) {

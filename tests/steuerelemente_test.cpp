@@ -7,14 +7,12 @@
 namespace tarvel {
 namespace {
 
-struct zaehlender_beobachter : steuer_beobachter {
-    int mal = 0;
-    void geaendert() override { ++mal; }
-};
-
 TEST(Steuerelemente, NurEineAenderungMeldetSich) {
+    struct : steuer_beobachter {
+        int mal = 0;
+        void geaendert() override { ++mal; }
+    } beobachter;
     bezeichnung label;
-    zaehlender_beobachter beobachter;
     label.beobachten(&beobachter);
     label.text("00");
     label.text("00");
@@ -42,14 +40,11 @@ TEST(Steuerelemente, GesperrtesOderVerborgenesNimmtNichtsAn) {
     EXPECT_FALSE(box.gesetzt());
 }
 
-TEST(Steuerelemente, ZuLangeEingabeWirdGekuerzt) {
+TEST(Steuerelemente, EingabenBleibenInIhrenGrenzen) {
     feld text;
     text.laenge_max(3);
     text.eingeben("äöüß");
     EXPECT_EQ(text.text(), "äöü");
-}
-
-TEST(Steuerelemente, FesteAuswahlNimmtNurIhreEintraege) {
     auswahl wahl;
     wahl.eintraege({"Zeit", "Runden"});
     wahl.eingeben("Runden");
