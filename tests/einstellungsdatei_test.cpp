@@ -49,20 +49,25 @@ TEST_F(Einstellungsdatei, MitgelieferteDateiHatDieStandardwerteAnIhremPlatz) {
 
 TEST_F(Einstellungsdatei, GespeichertGeladenGespeichertIstGleichBisAufsByte) {
     programm& q = t.p;
+    q.form1.fahrer[0].text("{EOF}");
+    q.form1.fahrer[1].text("  Max ");
     q.form1.fahrer[2].text("Jörg €");
     q.form1.rennart.text("Runden");
+    q.form1.renndauer.text("5,30");
+    q.einst.tk_datei = "{EOF}";
     q.einst.tank_warnung = 12.5;
     q.einst.chaos_strafzeit = -1;
     q.einst.sektor_an[2] = true;
     q.einst.hardware.hw_cu = true;
     q.datei.einstellungen_speichern(datei);
     const std::string erste = t.maschine.datei_lesen(datei);
-    for (const char* zeile : {"\r\nJ\xF6rg \x80\r\n", "\r\n-1 \r\n", "\r\n 12,5 \r\n"}) {
+    for (const char* zeile : {"\r\nJ\xF6rg \x80\r\n", "\r\n5.30\r\n", "\r\n-1 \r\n", "\r\n 12,5 \r\n"}) {
         EXPECT_NE(erste.find(zeile), std::string::npos) << zeile;
     }
     programm spaeter(t.maschine.dienste());
     spaeter.starten();
-    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << "the name of the mark that ends the file is no end of it";
+    EXPECT_EQ(spaeter.form1.fahrer[1].text(), "Max");
     EXPECT_EQ(spaeter.form1.fahrer[2].text(), "Jörg €");
     EXPECT_EQ(spaeter.form1.Label19.text(), "Runden");
     EXPECT_TRUE(spaeter.einst.sektor_an[0]);

@@ -68,21 +68,5 @@ TEST_F(Startdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
     EXPECT_EQ(p->einst.hardware.hw_4x4_modus, 3) << "there is no such mode";
 }
 
-TEST_F(Startdatei, WasGetipptWirdKommtSoZurueckWieEsGeschriebenWurde) {
-    t.p.form1.fahrer[0].eingeben("{EOF}");
-    t.p.form1.fahrer[1].eingeben("  Max ");
-    t.p.form1.renndauer.eingeben("5,30");
-    t.p.einst.tk_datei = "{EOF}";
-    t.p.einst.grosse_zeit = true;
-    const auto geschrieben = t.p.datei.schreiben();
-    EXPECT_EQ(geschrieben.at(29), "5.30");
-    ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/einstellungen.ini", geschrieben));
-    const programm& neu = start_mit("");
-    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << "the name of the mark that ends the file is no end of it";
-    EXPECT_EQ(neu.form1.fahrer[1].text(), "Max");
-    EXPECT_TRUE(neu.einst.grosse_zeit);
-    EXPECT_EQ(neu.datei.schreiben(), geschrieben);
-}
-
 }  // namespace
 }  // namespace tarvel

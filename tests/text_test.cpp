@@ -8,21 +8,14 @@ namespace tarvel {
 namespace {
 
 TEST(Text, ZahlLesenStopptAmErstenFremdenZeichen) {
-    const std::vector<std::pair<std::string, double>> zahlen{{"5", 5},
-                                                             {"  7.25 m", 7.25},
-                                                             {"7,5", 7},
-                                                             {"-3", -3},
-                                                             {"+.5", 0.5},
-                                                             {"1.2.3", 1.2},
-                                                             {"0." + std::string(400, '0') + "99", 0},
-                                                             {"", 0},
-                                                             {"-", 0},
-                                                             {".", 0},
-                                                             {"abc", 0},
-                                                             {"--5", 0},
-                                                             {"ü", 0}};
-    for (const auto& [text, zahl] : zahlen) {
-        EXPECT_EQ(zahl_lesen(text), zahl) << text;
+    EXPECT_EQ(zahl_lesen("  7.25 m"), 7.25);
+    EXPECT_EQ(zahl_lesen("7,5"), 7);
+    EXPECT_EQ(zahl_lesen("-3"), -3);
+    EXPECT_EQ(zahl_lesen("+.5"), 0.5);
+    EXPECT_EQ(zahl_lesen("1.2.3"), 1.2);
+    EXPECT_EQ(zahl_lesen("0." + std::string(400, '0') + "99"), 0);
+    for (const char* ohne_ziffern : {"", " ", "-", ".", "abc", "--5", "ü"}) {
+        EXPECT_EQ(zahl_lesen(ohne_ziffern), 0) << ohne_ziffern;
     }
 }
 
@@ -47,7 +40,6 @@ TEST(Text, Windows1252HinUndZurueck) {
     }
     EXPECT_EQ(nach_1252(von_1252(alle)), alle);
     EXPECT_EQ(nach_1252("ä€–ł漢"), "\xE4\x80\x96??");
-    EXPECT_EQ(von_1252("\xDF"), "ß");
 }
 
 TEST(Text, KaputtesUtf8WirdFragezeichenOhneSchaden) {
@@ -59,7 +51,6 @@ TEST(Text, KaputtesUtf8WirdFragezeichenOhneSchaden) {
 }
 
 TEST(Text, AnsiCodeNurFuerGenauEinZeichen) {
-    EXPECT_EQ(ansi_code("1"), 49);
     EXPECT_EQ(ansi_code("ü"), 252);
     EXPECT_EQ(ansi_code("€"), 128);
     EXPECT_FALSE(ansi_code("ł"));

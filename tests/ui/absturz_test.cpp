@@ -35,14 +35,13 @@ protected:
 TEST_F(Absturz, MittenImSchreibenBleibtDieAlteOderDieNeueDatei) {
     constexpr int male = 30;
     constexpr std::size_t alle_zeilen = 30000;
-    const auto eine = test::dauer_zeilen(false);
-    const auto andere = test::dauer_zeilen(true);
     int angefangene = 0;
     for (int mal = 0; mal < male; ++mal) {
         ASSERT_NO_FATAL_FAILURE(schreiben_und_toeten(1 + mal * 7 % male));
         const auto zeilen = ablage.zeilen_lesen(test::dauer_datei, alle_zeilen);
         ASSERT_TRUE(zeilen);
-        ASSERT_TRUE(*zeilen == eine || *zeilen == andere) << zeilen->size() << " lines after kill " << mal;
+        ASSERT_TRUE(*zeilen == test::dauer_zeilen(false) || *zeilen == test::dauer_zeilen(true))
+            << zeilen->size() << " lines after kill " << mal;
         angefangene += maschine.datei_da(neben_datei) ? 1 : 0;
     }
     EXPECT_GT(angefangene, 0) << "no kill fell into the writing";

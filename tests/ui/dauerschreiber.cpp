@@ -11,10 +11,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     const tarvel::dateien ablage{std::filesystem::path(argv[1])};
-    const std::vector<std::string> eine = tarvel::test::dauer_zeilen(false);
-    const std::vector<std::string> andere = tarvel::test::dauer_zeilen(true);
-    while (ablage.zeilen_schreiben(tarvel::test::dauer_datei, eine) &&
-           ablage.zeilen_schreiben(tarvel::test::dauer_datei, andere)) {
+    for (bool zweiter = false;
+         ablage.zeilen_schreiben(tarvel::test::dauer_datei, tarvel::test::dauer_zeilen(zweiter));) {
+        zweiter = !zweiter;
     }
     return 1;
 }

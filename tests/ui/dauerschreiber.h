@@ -10,11 +10,7 @@ inline constexpr const char* dauer_datei = "Einstellungen/dauer.ini";
 
 /// Its two contents: long enough that a kill falls into the writing, and of different length.
 inline std::vector<std::string> dauer_zeilen(bool zweiter) {
-    constexpr std::size_t anzahl = 20000;
-    std::vector<std::string> zeilen{"Tarvel Version 2.23"};
-    zeilen.resize(zweiter ? anzahl : anzahl + 1, zweiter ? "die andere Fassung" : "die eine Fassung");
-    zeilen.emplace_back("{EOF}");
-    return zeilen;
+    return {zweiter ? std::size_t{20000} : std::size_t{20001}, zweiter ? "die andere Fassung" : "die eine Fassung"};
 }
 
 }  // namespace tarvel::test
