@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "core/einstellungstabelle.h"
-#include "core/nebendateien.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel {
@@ -181,14 +180,6 @@ TEST_F(Einstellungsdatei, AeltereDateienUndAndereVersion) {
     EXPECT_FALSE(start_mit_datei(verschoben));
 }
 
-TEST_F(Einstellungsdatei, HardwareSchliesstSichAus) {
-    EXPECT_TRUE(start_mit({{66, "Wahr"}}));
-    EXPECT_FALSE(p->einst.hardware.hw_simulation);
-    EXPECT_EQ(p->form1.modus_label.text(), "IOW 40 USB");
-    EXPECT_TRUE(start_mit({{252, "Wahr"}}));
-    EXPECT_EQ(p->form1.modus_label.text(), "Carrera Control Unit");
-}
-
 TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     form1& haupt = t.p.form1;
     haupt.stddauer.text("1");
@@ -236,21 +227,6 @@ TEST_F(Einstellungsdatei, BeschaedigteEinstellungenKostenDieTastenNicht) {
     tastenbelegung gespeichert;
     ASSERT_TRUE(gespeichert.tastenbelegung_laden(ablage));
     EXPECT_EQ(gespeichert.taste(16), 'k');
-}
-
-TEST(Nebendateien, KaputteTrennzeichenLassenDieAlten) {
-    test::test_plattform maschine;
-    const dateien ablage(maschine.ordner());
-    const trennzeichen_tabelle werte{"·", "€", "\t"};
-    trennzeichen_tabelle gelesen;
-    ASSERT_TRUE(trennzeichen_speichern(ablage, werte));
-    EXPECT_TRUE(trennzeichen_laden(ablage, gelesen));
-    EXPECT_EQ(gelesen, werte);
-    for (const char* kaputt : {"", "58\r\n44", "58,44,x", "58\r\n300\r\n59", "1\r\n2\r\n3"}) {
-        maschine.datei_schreiben("trennzeichen.ini", kaputt);
-        EXPECT_FALSE(trennzeichen_laden(ablage, gelesen)) << kaputt;
-        EXPECT_EQ(gelesen, werte);
-    }
 }
 
 }  // namespace

@@ -65,16 +65,10 @@ TEST_F(Namensliste, UnbrauchbareDateiGibtDieEingebautenNamen) {
 }
 
 TEST_F(Namensliste, HundertNamenUndNichtMehr) {
-    std::vector<std::string> zeilen(101, "Max");
+    std::vector<std::string> zeilen(102, "Max");
     zeilen.front() = "Fahrerliste:";
-    std::vector<std::string> zu_viele = zeilen;
-    zeilen.emplace_back("{pic}");
-    zeilen.insert(zeilen.end(), 100, "bild");
-    zeilen.emplace_back("{ende}");
+    zeilen.insert(zeilen.end(), {"{pic}", "bild", "{ende}"});
     EXPECT_TRUE(laden(zeilen));
-    EXPECT_EQ(liste.eintraege(), eintraege(100, {"Max", "bild"}));
-    zu_viele.insert(zu_viele.end(), {"F101", "{pic}", "bild", "{ende}"});
-    EXPECT_TRUE(laden(zu_viele));
     EXPECT_EQ(liste.eintraege(), eintraege(100, {"Max", ""})) << "the pictures lie beyond the list";
 }
 
