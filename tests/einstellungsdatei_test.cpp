@@ -130,6 +130,7 @@ TEST_F(Einstellungsdatei, EinzelneZeilenWerdenBerichtigt) {
                                    {332, "irgendwas", "Wahr"},
                                    {334, "irgendwas", "Wahr"}};
     std::vector<std::pair<int, std::string>> gelesen;
+    gelesen.reserve(faelle.size());
     for (const fall& eine : faelle) {
         gelesen.emplace_back(eine.z, eine.gelesen);
     }
