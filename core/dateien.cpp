@@ -68,7 +68,7 @@ std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view n
     std::vector<std::string> zeilen;
     std::string zeile;
     while (zeilen.size() < zeilen_max && std::getline(eingabe, zeile)) {
-        if (!zeile.empty() && zeile.back() == '\r') {
+        while (!zeile.empty() && zeile.back() == '\r') {
             zeile.pop_back();
         }
         zeilen.push_back(von_1252(std::string_view(zeile).substr(0, zeile_max)));

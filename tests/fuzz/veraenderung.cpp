@@ -27,7 +27,7 @@ std::string wort(zufall& z) {
     using namespace std::string_view_literals;
     constexpr std::string_view worte =
         "|-1|0|1|7|-0.5|0.5|7.5|7,5|59|60|255|256|300001|-99999999999|1e9|NaN|+3|-|.|| |Wahr|Falsch|{EOF}|{pic}|{ende}|"
-        "Fahrerliste:|\"|,|\"a,b\"|\n|\0|\t|\x1A|..\\..\\x|/etc/passwd|\x80\x81\xFC\xFF|"sv;
+        "Fahrerliste:|\"|,|\"a,b\"|\n|\r|\0|\t|\x1A|..\\..\\x|/etc/passwd|\x80\x81\xFC\xFF|"sv;
     constexpr std::array<std::size_t, 5> laengen{11, 400, 3999, 4001, 12000};
     if (unter(z, 30) == 0) {
         return std::string(laengen.at(unter(z, laengen.size())), '9');
