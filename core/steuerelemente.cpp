@@ -112,6 +112,16 @@ void liste::leeren() {
     melden();
 }
 
+void liste::letzte_entfernen() {
+    if (zeilen_.empty()) {
+        return;
+    }
+    zeilen_.pop_back();
+    markiert_ = std::min(markiert_, static_cast<int>(zeilen_.size()) - 1);
+    ++stand_;
+    melden();
+}
+
 void liste::markieren(int zeile) {
     setzen(markiert_, std::clamp(zeile, -1, static_cast<int>(zeilen_.size()) - 1));
 }

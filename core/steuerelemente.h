@@ -182,6 +182,7 @@ public:
     const std::vector<std::string>& zeilen() const { return zeilen_; }
     void hinzufuegen(std::string_view zeile);
     void leeren();
+    void letzte_entfernen();
     /// Makes room, so that rows up to this number are added without an allocation.
     void vormerken(std::size_t anzahl) { zeilen_.reserve(anzahl); }
 
@@ -239,9 +240,13 @@ class form : public steuerelement {
 public:
     std::optional<farbe> randfarbe() const { return randfarbe_; }
     void randfarbe(std::optional<farbe> neu) { setzen(randfarbe_, neu); }
+    /// Of a bar, in the unit of its full height.
+    double hoehe() const { return hoehe_; }
+    void hoehe(double neu) { setzen(hoehe_, neu); }
 
 private:
     std::optional<farbe> randfarbe_;
+    double hoehe_ = 0;
 };
 
 }  // namespace tarvel

@@ -14,6 +14,9 @@ namespace tarvel {
 inline constexpr std::string_view programm_version = "2.23";
 inline constexpr std::string_view programm_name = "Tarvel";
 
+/// What the counter of a lane shows that is out.
+inline constexpr std::string_view disqualifiziert_text = "Dis.";
+
 /// The texts that several windows share, with their German defaults.
 struct texte {
     texte();

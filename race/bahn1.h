@@ -27,7 +27,10 @@ struct bahn1 {
     spuren<bezeichnung> lrunde;   ///< last lap
     spuren<bezeichnung> brunde;   ///< best lap
     spuren<bezeichnung> straflabel;
-    spuren<form> bahnshape;                        ///< background of the lane
+    spuren<form> bahnshape;  ///< background of the lane
+    spuren<rahmen> frame_tank;
+    spuren<bezeichnung> t_bahn;                    ///< litres
+    std::array<form, spuren_max> tankbalken;       ///< the same as a bar
     std::array<bezeichnung, spuren_max> l_PosAnz;  ///< place
     std::array<liste, spuren_max> t_liste;         ///< laps, row n holds lap n
     std::array<bild, spuren_max> ampel_rt;         ///< small lights of the lane: lit while visible
@@ -67,8 +70,9 @@ struct bahn1 {
     };
     worte wort;  ///< of the window's language, for texts that are put together
 
-    bool zeilenansicht = false;  ///< one row per lane, else one column
-    double zaehler_schrift = 0;  ///< font size of `zaehler` at the start, in design units
+    bool zeilenansicht = false;   ///< one row per lane, else one column
+    double zaehler_schrift = 0;   ///< font size of `zaehler` at the start, in design units
+    double tank_balkenhoehe = 1;  ///< height of `tankbalken` at a full tank
 };
 
 }  // namespace tarvel

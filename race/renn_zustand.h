@@ -19,10 +19,16 @@ struct spur_zustand {
     int strafzeit = 0;           ///< time penalty in seconds
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
     bool disqualifiziert = false;
-    bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
-    bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
-    bool tank_halt = false;          ///< held for a moment after a full tank
-    bool strom_aus = false;          ///< a penalty has cut the track power
+    bool fruehstart_sperre = false;    ///< serves a penalty and counts nothing
+    double tank_inhalt = 0;            ///< litres
+    bool tank_kontakt = false;         ///< stands on the tank contact
+    zeit_ms tankt_seit = 0;            ///< stamp up to which refuelling has come, 0 while the lane does not refuel
+    int tank_wartezaehler = 0;         ///< hundredths of a second of the wait before refuelling
+    int tank_strafzaehler = 0;         ///< hundredths of a second of the penalty of an empty tank
+    bool tank_runde_genommen = false;  ///< that penalty holds back a lap
+    bool tank_strafe_aktiv = false;    ///< serves the penalty of an empty tank
+    bool tank_halt = false;            ///< held for a moment after a full tank
+    bool strom_aus = false;            ///< a penalty has cut the track power
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 };
 

@@ -53,6 +53,7 @@ void rennablauf::rennen_zuruecksetzen() {
     um_.zeitgeber.f_straftimer2->aus();
     t_.ende.zuruecksetzen();
     t_.ansicht.anzeigen_leeren();
+    t_.tank.zuruecksetzen();
     t_.plaetze.aufstellen();
     t_.uhr.zuruecksetzen();
 }
@@ -133,7 +134,8 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
 }
 
 void rennablauf::renntimer_tick() {
-    // Place of fuel: tank_kontakte_auswerten, then tank_alle_spuren.
+    t_.tank.tank_kontakte_auswerten();
+    t_.tank.tank_alle_spuren();
     renn_zustand& zustand = um_.zustand;
     if (!zustand.rennen_beendet && !zustand.chaos_aktiv) {
         um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();

@@ -21,6 +21,7 @@ public:
         rennende& ende;
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
+        tanken& tank;
         soundsensoren& sensoren;
     };
 

@@ -74,6 +74,7 @@ sprachliste rennansicht::sprache_r() {
     texte.fuer_alle("letzte Runde", bahn.Label_lrunde).fuer_alle("beste Runde", bahn.Label_brunde);
     texte.text("Fahrer", bahn.wort.fahrer).text("Runden", bahn.wort.runden);
     texte.text("Rundenliste", bahn.wort.rundenliste).text("Strafzeit", bahn.wort.strafzeit);
+    texte.fuer_alle("Tankinhalt", bahn.frame_tank);
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
     return texte;
 }
@@ -94,6 +95,9 @@ void rennansicht::spaltenansicht_oeffnen() {
             element->sichtbar(dabei);
         }
         bahn.t_liste[index].vormerken(runden_max + 1);
+        bahn.frame_tank[spur].sichtbar(dabei && um_.param.tank_aktiv);
+        bahn.t_bahn[spur].sichtbar(!um_.einst.tankanzeige_grafisch);
+        bahn.tankbalken[index].sichtbar(um_.einst.tankanzeige_grafisch);
     }
     bahn.Nachtabschaltung.sichtbar(false);
 }
@@ -105,6 +109,7 @@ void rennansicht::farben_setzen() {
         const farbe spurfarbe = um_.einst.farben_spur[spur];
         bahn.namenslabel[spur].schriftfarbe(spurfarbe);
         bahn.lrunde[spur].schriftfarbe(spurfarbe);
+        bahn.frame_tank[spur].schriftfarbe(spurfarbe);
         bahn.brunde[spur].schriftfarbe(spurfarbe);
         bahn.l_PosAnz.at(feld_index(spur)).schriftfarbe(spurfarbe);
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);

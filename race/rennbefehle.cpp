@@ -12,7 +12,7 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
 void rennbefehle::taste(int code) {
     tastatur_.taste_auswerten(code);
     t_.zaehlung.zaehler_nachfuehren();
-    // Place of tank_kontakte_auswerten.
+    t_.tank.tank_kontakte_auswerten();
 }
 
 void rennbefehle::rennen_abbrechen() {

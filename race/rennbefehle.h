@@ -14,6 +14,7 @@ public:
         rennende& ende;
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
+        tanken& tank;
     };
 
     rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung);

@@ -12,11 +12,16 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       plaetze(umgebung),
       uhr(umgebung),
       ende(umgebung, uhr),
-      zaehlung(umgebung, plaetze, ende),
       ansicht(umgebung),
       strafen(umgebung, ansicht),
+      tanken(umgebung, strafen),
+      zaehlung(umgebung, plaetze, ende, tanken),
       sensoren(umgebung),
-      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, sensoren}),
-      befehle(umgebung, {ablauf, ende, zaehlung, ansicht}, um.belegung) {}
+      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, tanken, sensoren}),
+      befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken}, um.belegung) {
+    tanken.rundenzeiten_pruefen = [this](zeit_ms dauer, int zeile, int spur) {
+        zaehlung.rundenzeiten_pruefen(dauer, zeile, spur);
+    };
+}
 
 }  // namespace tarvel

@@ -33,9 +33,10 @@ struct rennen {
     positionen plaetze;
     rennuhr uhr;
     rennende ende;
-    rundenzaehlung zaehlung;
     rennansicht ansicht;
     tarvel::strafen strafen;
+    tarvel::tanken tanken;
+    rundenzaehlung zaehlung;
     soundsensoren sensoren;
     rennablauf ablauf;
     rennbefehle befehle;

@@ -73,6 +73,9 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
     if (zustand.runden >= 0) {  // laps taken off before the first crossing come first
         zaehler_zeigen(spur);
         rundenzeiten_pruefen(zeit, zustand.runden_zeile, spur);
+        if (um_.param.tank_aktiv) {
+            tanken_.tank_verbrauch_rechnen(zeit, spur);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "race/positionen.h"
 #include "race/rennende.h"
+#include "race/tanken.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
@@ -10,8 +11,8 @@ namespace tarvel {
 /// crossing that breaks a rule vanishes silently.
 class rundenzaehlung {
 public:
-    rundenzaehlung(const renn_umgebung& um, positionen& plaetze, rennende& ende)
-        : um_(um), plaetze_(plaetze), ende_(ende) {}
+    rundenzaehlung(const renn_umgebung& um, positionen& plaetze, rennende& ende, tanken& t)
+        : um_(um), plaetze_(plaetze), ende_(ende), tanken_(t) {}
 
     /// One lap step over all lanes, once per race tick.
     void runden_auswerten();
@@ -34,6 +35,7 @@ private:
     renn_umgebung um_;
     positionen& plaetze_;
     rennende& ende_;
+    tanken& tanken_;
 };
 
 }  // namespace tarvel

@@ -28,6 +28,11 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
     for (auto& sperre : soundtrigger) {
         sperre = einmalig(dienst, 3000);
     }
+    for (const int spur : alle_spuren) {
+        tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
+        wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500);
+        t_straftimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
+    }
 }
 
 void rennzeitgeber::rennen_an() const {
@@ -52,6 +57,11 @@ void rennzeitgeber::alle_aus() const {
     }
     for (const auto& sperre : soundtrigger) {
         sperre->aus();
+    }
+    for (const int spur : alle_spuren) {
+        tanktimer[spur]->aus();
+        wartetimer[spur]->aus();
+        t_straftimer[spur]->aus();
     }
 }
 

@@ -20,6 +20,10 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
     std::unique_ptr<plattform::zeitgeber> f_straftimer;   ///< counts the false-start penalty in hundredths of a second
     std::unique_ptr<plattform::zeitgeber> f_straftimer2;  ///< keeps the lanes locked for one minimum lap after it
+    spuren<std::unique_ptr<plattform::zeitgeber>> tanktimer;   ///< wait before refuelling, in hundredths of a second
+    spuren<std::unique_ptr<plattform::zeitgeber>> wartetimer;  ///< ends the hold of a lane with a full tank
+    spuren<std::unique_ptr<plattform::zeitgeber>>
+        t_straftimer;  ///< penalty of an empty tank, in hundredths of a second
     /// Hold-off of each sound sensor.
     std::array<std::unique_ptr<plattform::zeitgeber>, soundsensoren_max> soundtrigger;
     /// One per lane, index lane - 1: blocks the next crossing after a counted lap.

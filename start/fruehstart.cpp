@@ -6,12 +6,6 @@
 #include <string>
 
 namespace tarvel {
-namespace {
-
-constexpr const char* disqualifiziert_text = "Dis.";
-
-}  // namespace
-
 void fruehstart::zuruecksetzen() {
     einer_ = false;
     for (const int spur : alle_spuren) {

@@ -20,6 +20,8 @@ constexpr double schrift_spur = 560;
 constexpr double schrift_zeit = 1100;
 constexpr double schrift_liste = 560;
 constexpr double schrift_strafe = 480;
+constexpr double schrift_tank = 620;
+constexpr double hoehe_tank = 520;
 constexpr double lampe_groesse = 440;
 
 const QColor leise(190, 195, 203);
@@ -45,6 +47,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     aufbau->addWidget(namenszeile(bahn, spur, binder));
     aufbau->addWidget(kopfzeile(bahn, spur, binder));
     zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
+    aufbau->addWidget(tankzeile(bahn, spur, binder));
     titel(bahn.Label_lrunde[spur], "Label_lrunde");
     zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);
     titel(bahn.Label_brunde[spur], "Label_brunde");
@@ -87,6 +90,30 @@ QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
     return zeile;
 }
 
+QWidget* Rennspalte::tankzeile(bahn1& bahn, int spur, Binder& binder) {
+    const std::size_t index = feld_index(spur);
+    const QString nummer = QString::number(spur);
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(4, 0, 4, 0);
+    TextAnzeige* titel = binder.beschriftung(schrift_titel);
+    titel->setFarbe(leise);
+    aufbau->addWidget(titel);
+    TextAnzeige* liter = binder.anzeige(bahn.t_bahn[spur], "t_bahn_" + nummer, schrift_tank);
+    liter->setFett(true);
+    liter->setMusterText("00,00");
+    aufbau->addWidget(liter, 1);
+    balken_ = new Tankbalken(zeile);
+    aufbau->addWidget(balken_, 1);
+    binder.verbinden(bahn.tankbalken.at(index), balken_, "tankbalken_" + QString::number(index), [this, &bahn, index] {
+        const form& balken = bahn.tankbalken.at(index);
+        balken_->setStand(balken.hoehe() / bahn.tank_balkenhoehe, stil::farbe_von(balken.hintergrund().value_or(0)));
+    });
+    binder.verbinden(bahn.frame_tank[spur], zeile, "frame_tank_" + nummer,
+                     [titel, &bahn, spur] { titel->setText(QString::fromStdString(bahn.frame_tank[spur].text())); });
+    return zeile;
+}
+
 QWidget* Rennspalte::kopfzeile(bahn1& bahn, int spur, Binder& binder) {
     const std::size_t index = feld_index(spur);
     const QString nummer = QString::number(index);
@@ -124,6 +151,7 @@ void Rennspalte::skalieren(double skala) {
     for (Lampe* lampe : lampen_) {
         lampe->setFixedSize(kante, kante);
     }
+    balken_->setFixedHeight(std::max(12, static_cast<int>(std::lround(hoehe_tank * skala))));
     const int rand = std::max(4, static_cast<int>(std::lround(110 * skala)));
     layout()->setContentsMargins(rand, 10 + rand, rand, rand);
 }

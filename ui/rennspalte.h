@@ -4,6 +4,7 @@
 
 #include "race/bahn1.h"
 #include "ui/binder.h"
+#include "ui/tankbalken.h"
 
 namespace tarvel::ui {
 
@@ -20,8 +21,10 @@ protected:
 
 private:
     QWidget* namenszeile(bahn1& bahn, int spur, Binder& binder);
+    QWidget* tankzeile(bahn1& bahn, int spur, Binder& binder);
     QWidget* kopfzeile(bahn1& bahn, int spur, Binder& binder);
 
+    Tankbalken* balken_ = nullptr;
     QListView* liste_ = nullptr;
     TextAnzeige* nummer_ = nullptr;  ///< number of the lane, which is its key
     std::vector<Lampe*> lampen_;

@@ -1,0 +1,258 @@
+#include "race/tanken.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "core/text.h"
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+constexpr farbe hellrot = 0x8080FF;
+constexpr farbe gruen = 0x00C000;
+constexpr double schritt_liter = 0.1;
+constexpr zeit_ms schritt_ms = 10;
+constexpr double tank_liter_drei_stellen = 100;
+
+enum class leer_aktion { disqualifikation = 1, runde_weg = 2, stromunterbrechung = 3, zeitstrafe = 4 };
+enum class rundenzaehlung_auf { keinem_tanksensor, tanksensor_1, tanksensor_2 };
+
+double runden_auf(double wert, double je_eins) {
+    return std::round(wert * je_eins) / je_eins;
+}
+
+}  // namespace
+
+double verbrauch(zeit_ms zeit, int liter_je_runde, int nominal_s) {
+    const zeit_teile teile = zeit_zerlegen(zeit);
+    const double rest = static_cast<double>(teile.millisekunden) / 1000;
+    const double sekunden = static_cast<double>(teile.minuten * 60 + teile.sekunden) + rest;
+    const double nominal = liter_je_runde;
+    const double mindestens = 2 * nominal / 3;
+    const double hoechstens = nominal + nominal + 0.75;
+    const double je_zeit = sekunden > 0 ? nominal * nominal_s / sekunden : hoechstens;
+    return runden_auf(std::min(std::max(je_zeit, mindestens), hoechstens) + rest, 100);
+}
+
+tanken::tanken(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {
+    for (const int spur : alle_spuren) {
+        um_.zeitgeber.tanktimer[spur]->bei_tick = [this, spur] { tanktimer_tick(spur); };
+        um_.zeitgeber.wartetimer[spur]->bei_tick = [this, spur] { wartetimer_tick(spur); };
+        um_.zeitgeber.t_straftimer[spur]->bei_tick = [this, spur] { t_straftimer_tick(spur); };
+    }
+}
+
+void tanken::zuruecksetzen() {
+    for (const int spur : alle_spuren) {
+        um_.zeitgeber.tanktimer[spur]->aus();
+        um_.zeitgeber.wartetimer[spur]->aus();
+        um_.zeitgeber.t_straftimer[spur]->aus();
+        um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
+        fuellstand_zeigen(spur);
+        tankfarbe(spur, gruen);
+    }
+}
+
+void tanken::fuellstand_zeigen(int spur) {
+    const double stand = um_.zustand.spur[spur].tank_inhalt;
+    const auto hundertstel = std::lround(stand * 100);
+    std::string text = std::to_string(hundertstel / 100);
+    if (stand < tank_liter_drei_stellen) {
+        text += "," + ziffern(hundertstel % 100, 2);
+    }
+    um_.bahn.t_bahn[spur].text(text);
+    um_.bahn.tankbalken.at(feld_index(spur))
+        .hoehe(std::max(stand, 0.0) * um_.bahn.tank_balkenhoehe / um_.einst.tank_inhalt);
+}
+
+void tanken::tankfarbe(int spur, farbe neu) {
+    um_.bahn.t_bahn[spur].schriftfarbe(neu);
+    um_.bahn.tankbalken.at(feld_index(spur)).hintergrund(neu);
+}
+
+void tanken::tank_kontakte_auswerten() {
+    for (const int spur : alle_spuren) {
+        kontakt_auswerten(spur);
+    }
+}
+
+void tanken::kontakt_auswerten(int spur) {
+    ereignis_zeile& ein = um_.ereignisse[art::tanken_ein[spur]];
+    ereignis_zeile& aus = um_.ereignisse[art::tanken_aus[spur]];
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (aus.aktiv) {
+        zustand.tank_kontakt = false;
+    }
+    if (ein.aktiv && !zustand.tank_kontakt) {
+        um_.zeitgeber.tanktimer[spur]->an();
+    }
+    const auto modus = static_cast<rundenzaehlung_auf>(um_.einst.tank_runden_modus);
+    const bool ueberfahrt = (modus == rundenzaehlung_auf::tanksensor_2 && aus.aktiv) ||
+                            (modus == rundenzaehlung_auf::tanksensor_1 && ein.aktiv);
+    if (ueberfahrt && !zustand.tank_kontakt) {
+        um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur]);
+    }
+    if (um_.param.tank_aktiv && ein.aktiv) {
+        zustand.tank_kontakt = true;
+    }
+    ein.aktiv = false;
+    aus.aktiv = false;
+}
+
+void tanken::tank_alle_spuren() {
+    if (!um_.param.tank_aktiv) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        const bool tankt = zustand.tank_kontakt && !um_.zeitgeber.tanktimer[spur]->laeuft() &&
+                           !zustand.disqualifiziert && !um_.zustand.chaos_aktiv && !zustand.ziel_erreicht;
+        if (!tankt) {
+            zustand.tankt_seit = 0;
+            continue;
+        }
+        if (zustand.tankt_seit == 0) {
+            zustand.tankt_seit = um_.ereignisse.messzeit;
+        }
+        while (zustand.tank_kontakt && um_.ereignisse.messzeit - zustand.tankt_seit >= schritt_ms) {
+            zustand.tankt_seit += schritt_ms;
+            tanken_spur(spur);
+        }
+    }
+}
+
+void tanken::tanken_spur(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
+        const double vorher = zustand.tank_inhalt;
+        zustand.tank_inhalt = runden_auf(vorher + schritt_liter, 10);
+        const int nominal = um_.einst.tank_verbrauch;
+        tankfarbe(spur, vorher > 4 * nominal ? gruen : vorher > 2 * nominal ? hellrot : farben::rot);
+        fuellstand_zeigen(spur);
+    }
+    if (zustand.tank_inhalt >= um_.einst.tank_inhalt) {
+        voll(spur);
+    }
+}
+
+void tanken::voll(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    um_.zeitgeber.tanktimer[spur]->aus();
+    if (um_.einst.tank_runden_modus != 0) {
+        zustand.tank_halt = true;
+        um_.zeitgeber.wartetimer[spur]->an();
+    }
+    zustand.tank_wartezaehler = 0;
+    zustand.tank_kontakt = false;
+    um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
+    um_.ereignisse[art::tanken_aus[spur]].aktiv = false;
+}
+
+void tanken::tank_verbrauch_rechnen(zeit_ms zeit, int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    const double stand =
+        runden_auf(zustand.tank_inhalt - verbrauch(zeit, um_.einst.tank_verbrauch, um_.einst.tank_rundenzeit), 100);
+    zustand.tank_inhalt = std::max(stand, 0.0);
+    warnen(spur, stand);
+    if (stand <= 0) {
+        leer(spur);
+    }
+    fuellstand_zeigen(spur);
+}
+
+void tanken::warnen(int spur, double stand) {
+    if (stand < 2 * um_.einst.tank_warnung) {
+        tankfarbe(spur, hellrot);
+    }
+    if (stand <= um_.einst.tank_warnung) {
+        tankfarbe(spur, farben::rot);
+        um_.sounds.spielen(sound::tankwarnung + spur);
+    }
+}
+
+bool tanken::runde_nehmen(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (zustand.runden <= 0) {
+        return false;
+    }
+    --zustand.runden;
+    --zustand.runden_zeile;
+    um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
+    um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
+    return true;
+}
+
+void tanken::leer(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    um_.sounds.spielen(sound::tank_leer + spur);
+    tankfarbe(spur, um_.einst.farben_schrift[2]);
+    switch (static_cast<leer_aktion>(um_.einst.tank_straf_option)) {
+        case leer_aktion::disqualifikation:
+            um_.bahn.zaehler[spur].text(disqualifiziert_text);
+            zustand.disqualifiziert = true;
+            zustand.ziel_erreicht = true;
+            strafen_.spur_strom_aus(spur);
+            um_.sounds.spielen(sound::disqualifiziert + spur);
+            break;
+        case leer_aktion::runde_weg:
+            runde_nehmen(spur);
+            break;
+        case leer_aktion::stromunterbrechung:
+            zustand.tank_strafzaehler = 0;
+            zustand.tank_runde_genommen = runde_nehmen(spur) || zustand.tank_runde_genommen;
+            strafen_.spur_strom_aus(spur);
+            um_.zeitgeber.t_straftimer[spur]->an();
+            zustand.tank_strafe_aktiv = true;
+            break;
+        case leer_aktion::zeitstrafe:
+            strafen_.zeitstrafe(spur, um_.einst.tank_strafzeit / 100);
+            break;
+    }
+}
+
+void tanken::tanktimer_tick(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (++zustand.tank_wartezaehler >= um_.einst.tank_wartezeit) {
+        um_.zeitgeber.tanktimer[spur]->aus();
+        zustand.tank_wartezaehler = 0;
+    }
+}
+
+void tanken::wartetimer_tick(int spur) {
+    um_.zustand.spur[spur].tank_halt = false;
+    if (!um_.zustand.spur[spur].tank_kontakt) {
+        um_.zeitgeber.wartetimer[spur]->aus();
+    }
+}
+
+void tanken::t_straftimer_tick(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (++zustand.tank_strafzaehler < um_.einst.tank_strafzeit) {
+        return;
+    }
+    um_.zeitgeber.t_straftimer[spur]->aus();
+    strafen_.spur_strom_an(spur);
+    zustand.tank_strafe_aktiv = false;
+    zustand.tank_strafzaehler = 0;
+    if (!std::exchange(zustand.tank_runde_genommen, false)) {  // the tank was empty before the first lap
+        return;
+    }
+    rundenspeicher& speicher = um_.zustand.rundenzeiten;
+    if (um_.ist_rundenrennen() && zustand.runden == um_.param.renn_ziel - 1) {
+        const zeit_ms verloren = zeit_ms{10} * um_.einst.tank_strafzeit;
+        const int zeile = zustand.runden_zeile;
+        speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren,
+                        speicher.stempel(spur, zeile) + verloren);
+    }
+    ++zustand.runden;
+    ++zustand.runden_zeile;
+    um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
+    const zeit_ms zeit = um_.ereignisse.messzeit - speicher.stempel(spur, zustand.runden_zeile - 2) +
+                         zustand.strafzeit - zustand.pause_abzug;
+    rundenzeiten_pruefen(zeit, zustand.runden_zeile, spur);
+}
+
+}  // namespace tarvel

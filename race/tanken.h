@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+
+#include "race/strafen.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// The fuel simulation: laps burn, standing on a tank contact refuels, an empty tank is punished.
+class tanken {
+public:
+    tanken(const renn_umgebung& um, strafen& s);
+
+    /// Called where a lap that a penalty had taken comes back: `zeit` in ms, `zeile` one ahead of the lap.
+    std::function<void(zeit_ms zeit, int zeile, int spur)> rundenzeiten_pruefen;
+
+    /// Full tanks and their displays, for a new race.
+    void zuruecksetzen();
+    /// First call of the race tick, and after each key: turns contact edges into lane states.
+    void tank_kontakte_auswerten();
+    /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.
+    void tank_alle_spuren();
+    /// Burns the fuel of a counted crossing that took `zeit` ms.
+    void tank_verbrauch_rechnen(zeit_ms zeit, int spur);
+
+private:
+    void kontakt_auswerten(int spur);
+    void tanken_spur(int spur);
+    void voll(int spur);
+    void warnen(int spur, double stand);
+    void leer(int spur);
+    /// False for a lane that has no lap to take.
+    bool runde_nehmen(int spur);
+    void fuellstand_zeigen(int spur);
+    void tankfarbe(int spur, farbe neu);
+
+    void tanktimer_tick(int spur);
+    void wartetimer_tick(int spur);
+    void t_straftimer_tick(int spur);
+
+    renn_umgebung um_;
+    strafen& strafen_;
+};
+
+/// Litres that a lap of `zeit` ms burns. The thousandths of the lap add up to one litre of scatter.
+double verbrauch(zeit_ms zeit, int liter_je_runde, int nominal_s);
+
+}  // namespace tarvel

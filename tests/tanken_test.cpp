@@ -1,0 +1,230 @@
+#include "race/tanken.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tests/plattform/ausgabe_protokoll.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using ausgang = schaltung::ausgang;
+
+class Tanken : public testing::Test {
+protected:
+    Tanken() {
+        t.p.form1.t_aktiv.umschalten();
+        t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
+    }
+    /// Lane 1 after its first crossing, with this much fuel.
+    void fahren(double liter, const char* rennart = "Zeit", const char* dauer = "59") {
+        t.starten(rennart, dauer, {1, 2});
+        t.runde_nach(1000, "1");
+        t.spur(1).tank_inhalt = liter;
+        t.maschine.sounds.clear();
+    }
+    bool strom() const { return geraet.ist_an(ausgang::bahnstrom, 1); }
+    bool gespielt(const std::string& datei) const {
+        return std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\" + datei) != 0;
+    }
+
+    test::testprogramm t;
+    test::ausgabe_protokoll geraet;
+};
+
+TEST(Verbrauch, NachZeitMitGrenzenUndStreuung) {
+    struct fall {
+        zeit_ms zeit;
+        double liter;
+    };
+    for (const fall& f : std::vector<fall>{{8000, 7},
+                                           {8500, 7.09},
+                                           {7000, 8},
+                                           {16000, 4.67},
+                                           {16999, 5.67},
+                                           {2000, 14.75},
+                                           {3600000 + 8000, 7},
+                                           {0, 14.75},
+                                           {68000, 4.67},
+                                           {4067, 13.84}}) {
+        EXPECT_DOUBLE_EQ(verbrauch(f.zeit, 7, 8), f.liter) << f.zeit;
+    }
+}
+
+TEST_F(Tanken, ErsteUeberfahrtVerbrauchtAuchUndAnzeigenFolgen) {
+    t.starten("Zeit", "5", {1});
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "60,00");
+    EXPECT_DOUBLE_EQ(t.bahn().tankbalken[0].hoehe(), t.bahn().tank_balkenhoehe);
+    t.runde_nach(8000, "1");
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60 - verbrauch(7998, 7, 8));
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "52,00") << "7 litres, and 0.998 of scatter";
+    EXPECT_NEAR(t.bahn().tankbalken[0].hoehe(), t.bahn().tank_balkenhoehe * 52.0 / 60, 0.01);
+    t.bahn().Command2.klicken();
+    t.p.einst.tank_inhalt = 100;
+    t.starten("Zeit", "5", {1});
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "100");
+}
+
+TEST_F(Tanken, WarnungenInIhrerReihenfolge) {
+    t.p.einst.tank_warnung = 10;
+    fahren(27);
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.bahn().t_bahn[1].schriftfarbe(), 0x00C000U);
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.bahn().t_bahn[1].schriftfarbe(), 0x8080FFU);
+    EXPECT_FALSE(gespielt("tw1.wav"));
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.bahn().t_bahn[1].schriftfarbe(), farben::rot);
+    EXPECT_EQ(t.maschine.sounds.back(), "sound\\tw1.wav") << "the warning is what is heard of the tick";
+}
+
+TEST_F(Tanken, LeererTankHatVierFolgen) {
+    struct fall {
+        int option;
+        int runden;
+        bool dis;
+        bool strom;
+        int strafzeit;
+        std::size_t zeilen;
+    };
+    for (const fall& f : std::vector<fall>{{1, 2, true, false, 0, 3},
+                                           {2, 1, false, true, 0, 2},
+                                           {3, 1, false, false, 0, 2},
+                                           {4, 2, false, true, 10, 3}}) {
+        SCOPED_TRACE(f.option);
+        t.p.einst.tank_straf_option = f.option;
+        fahren(12);
+        t.runde_nach(8000, "1");
+        t.runde_nach(8000, "1");
+        EXPECT_EQ(t.spur(1).runden, f.runden);
+        EXPECT_EQ(t.spur(1).runden_zeile, f.runden + 1);
+        EXPECT_EQ(t.spur(1).disqualifiziert, f.dis);
+        EXPECT_EQ(t.bahn().zaehler[1].text(), f.dis ? "Dis." : std::to_string(f.runden));
+        EXPECT_EQ(strom(), f.strom);
+        EXPECT_EQ(t.spur(1).strafzeit, f.strafzeit);
+        EXPECT_EQ(t.bahn().straflabel[1].sichtbar(), f.strafzeit > 0);
+        EXPECT_EQ(t.bahn().t_liste[0].zeilen().size(), f.zeilen);
+        EXPECT_EQ(t.bahn().t_bahn[1].text(), "0,00");
+        EXPECT_EQ(t.bahn().tankbalken[0].hoehe(), 0);
+        EXPECT_TRUE(gespielt("tl1.wav"));
+        EXPECT_EQ(gespielt("ds1.wav"), f.dis);
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
+    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_strafzeit = 1000;
+    fahren(12);
+    t.runde_nach(8000, "1");
+    t.runde_nach(8000, "1");
+    ASSERT_EQ(t.spur(1).runden, 1);
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, 1) << "a lane in the penalty counts nothing";
+    t.maschine.laufen(3999);
+    EXPECT_FALSE(strom());
+    t.maschine.laufen(2);
+    EXPECT_TRUE(strom());
+    EXPECT_EQ(t.spur(1).runden, 2);
+    EXPECT_EQ(t.bahn().zaehler[1].text(), "2");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 2), 8000);
+    EXPECT_EQ(t.bahn().lrunde[1].text(), "18,001") << "the display tells the lap with its penalty";
+    t.runde_nach(6000, "1");
+    EXPECT_EQ(t.spur(1).runden, 2) << "empty again: the next lap is taken at once";
+}
+
+TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
+    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_strafzeit = 500;
+    fahren(6, "Runden", "1");
+    t.runde_nach(8000, "1");
+    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    t.maschine.laufen(5001);
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 13000);
+}
+
+TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
+    t.p.einst.tank_straf_option = 3;
+    t.starten("Zeit", "5", {1});
+    t.spur(1).tank_inhalt = 3;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.maschine.laufen(20000);
+    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_TRUE(strom());
+}
+
+TEST_F(Tanken, AufEinemKontaktWirdNachDerWartezeitGetankt) {
+    t.p.einst.tank_wartezeit = 100;
+    t.p.einst.tank_runden_modus = 1;
+    fahren(10);
+    t.taste("q");
+    t.maschine.laufen(1000);
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 10) << "the wait";
+    t.maschine.laufen(1000);
+    EXPECT_NEAR(t.spur(1).tank_inhalt, 20, 0.2);
+    EXPECT_EQ(t.bahn().t_bahn[1].schriftfarbe(), 0x8080FFU) << "above two laps of fuel";
+    t.maschine.laufen(3990);
+    EXPECT_NEAR(t.spur(1).tank_inhalt, 60, 0.3);
+    t.maschine.laufen(40);
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60);
+    EXPECT_FALSE(t.spur(1).tank_kontakt) << "full: thrown off the contact";
+    EXPECT_TRUE(t.spur(1).tank_halt);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 0) << "held for a moment";
+    t.maschine.laufen(500);
+    EXPECT_FALSE(t.spur(1).tank_halt);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+}
+
+TEST_F(Tanken, VerlassenDesKontaktsUndStrafeHaltenDasTankenAn) {
+    t.p.einst.tank_wartezeit = 0;
+    fahren(10);
+    t.taste("q");
+    t.maschine.laufen(511);
+    const double stand = t.spur(1).tank_inhalt;
+    EXPECT_NEAR(stand, 15, 0.2);
+    t.taste("a");
+    t.maschine.laufen(500);
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, stand);
+    t.taste("q");
+    t.spur(1).ziel_erreicht = true;
+    t.maschine.laufen(500);
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, stand);
+    t.taste("w");
+    t.maschine.laufen(100);
+    EXPECT_DOUBLE_EQ(t.spur(2).tank_inhalt, 60);
+}
+
+TEST_F(Tanken, TanksensorZaehltRunden) {
+    for (const int modus : {1, 2}) {
+        t.p.einst.tank_runden_modus = modus;
+        fahren(60);
+        t.maschine.laufen(6000);
+        t.taste("q");
+        EXPECT_EQ(t.spur(1).runden, modus == 1 ? 1 : 0);
+        t.maschine.laufen(6000);
+        t.taste("a");
+        EXPECT_EQ(t.spur(1).runden, 1);
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Tanken, OhneTankfunktionBrenntUndTanktNichts) {
+    t.p.form1.t_aktiv.umschalten();
+    fahren(60);
+    t.taste("q");
+    EXPECT_FALSE(t.spur(1).tank_kontakt);
+    t.runde_nach(8000, "1");
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60);
+    EXPECT_FALSE(t.bahn().frame_tank[1].sichtbar());
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,30 @@
+#include "ui/tankbalken.h"
+
+#include <QPainter>
+#include <algorithm>
+
+namespace tarvel::ui {
+
+void Tankbalken::setStand(double anteil, const QColor& farbe) {
+    if (anteil_ != anteil || farbe_ != farbe) {
+        anteil_ = std::clamp(anteil, 0.0, 1.0);
+        farbe_ = farbe;
+        update();
+    }
+}
+
+void Tankbalken::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    const QRectF rand = QRectF(rect()).adjusted(1, 1, -1, -1);
+    maler.setPen(QPen(QColor(120, 126, 136), 1.5));
+    maler.setBrush(QColor(28, 31, 36));
+    maler.drawRoundedRect(rand, 4, 4);
+    QRectF voll = rand.adjusted(3, 3, -3, -3);
+    voll.setWidth(voll.width() * anteil_);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(farbe_);
+    maler.drawRoundedRect(voll, 2, 2);
+}
+
+}  // namespace tarvel::ui

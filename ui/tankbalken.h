@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace tarvel::ui {
+
+/// A fuel gauge: a bar that is as long as the tank is full.
+class Tankbalken final : public QWidget {
+public:
+    explicit Tankbalken(QWidget* eltern) : QWidget(eltern) {}
+
+    /// `anteil` from 0 to 1.
+    void setStand(double anteil, const QColor& farbe);
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    double anteil_ = 0;
+    QColor farbe_;
+};
+
+}  // namespace tarvel::ui
