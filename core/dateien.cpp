@@ -71,6 +71,7 @@ std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view n
         while (!zeile.empty() && zeile.back() == '\r') {
             zeile.pop_back();
         }
+        std::replace(zeile.begin(), zeile.end(), '\r', ' ');  // as the writers do: what was read is what is written
         zeilen.push_back(von_1252(std::string_view(zeile).substr(0, zeile_max)));
     }
     if (eingabe.bad()) {

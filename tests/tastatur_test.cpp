@@ -33,12 +33,12 @@ TEST_F(Tastatur, JedeZeileHatEinenNamenUndAlleBelegenIstEindeutig) {
 }
 
 TEST_F(Tastatur, GrossbuchstabeIstEineAndereTaste) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
     t.starten("Zeit", "5", {1});
-    t.p.rennen.befehle.taste('q');
-    EXPECT_TRUE(t.p.ereignisse[32].aktiv);
-    t.p.ereignisse[32].aktiv = false;
-    t.p.rennen.befehle.taste('Q');
-    EXPECT_FALSE(t.p.ereignisse[32].aktiv);
+    t.p.rennen.befehle.taste('U');
+    EXPECT_FALSE(t.p.ereignisse[42].aktiv);
+    t.p.rennen.befehle.taste('u');
+    EXPECT_TRUE(t.p.ereignisse[42].aktiv);
 }
 
 TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
