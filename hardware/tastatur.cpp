@@ -40,7 +40,7 @@ void tastatur::taste_auswerten(int taste) {
         rennen_.bildschirm_dunkel();
     }
     if (chaos) {
-        ereignisse_.ereignis_melden(art::chaostaster);
+        rennen_.chaos_taste();
     }
     if (rundenabzug_auswerten(taste) || nacht || chaos) {
         return;

@@ -12,6 +12,8 @@ public:
     virtual bool beendet() const = 0;
     /// Toggles the night screen.
     virtual void bildschirm_dunkel() = 0;
+    /// The chaos key, which may stand for a button or for a switch.
+    virtual void chaos_taste() = 0;
     /// Takes a lap off by hand. False, and nothing done, for a disqualified lane.
     virtual bool runde_abziehen(int spur) = 0;
 };

@@ -50,10 +50,19 @@ struct bahn1 {
     bezeichnung ziel_label;  ///< what is driven for
     bezeichnung werbe_label;
     rahmen Frame1;
-    befehl Command1;          ///< start
-    befehl Command2;          ///< abort without a result
-    befehl Command4;          ///< end with the result so far
-    rahmen Nachtabschaltung;  ///< dark cover over the whole window
+    befehl Command1;       ///< start
+    befehl Command2;       ///< abort without a result
+    befehl Command3;       ///< begins and ends a pause
+    befehl Command4;       ///< end with the result so far
+    rahmen ch_strafframe;  ///< asks whose fault the pause was
+    bezeichnung ch_Label1;
+    bild ch_Picture1;
+    bezeichnung ch_Label2;
+    feld ch_Text1;  ///< seconds
+    bezeichnung ch_Label3;
+    spuren<haken> ch_strafzeit_hacken;  ///< the lanes that are to blame
+    spuren<form> yellowframe;           ///< bars in a pause
+    rahmen Nachtabschaltung;            ///< dark cover over the whole window
 
     struct worte {
         std::string restzeit;
@@ -65,6 +74,9 @@ struct bahn1 {
         std::string runden;
         std::string rundenliste;
         std::string strafzeit;
+        std::string pause;         ///< of the command that begins one, before the first
+        std::string pause_wieder;  ///< and after it
+        std::string weiter;
         std::string startampel;
         std::string fruehstart;
     };

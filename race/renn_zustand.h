@@ -28,8 +28,21 @@ struct spur_zustand {
     bool tank_runde_genommen = false;  ///< that penalty holds back a lap
     bool tank_strafe_aktiv = false;    ///< serves the penalty of an empty tank
     bool tank_halt = false;            ///< held for a moment after a full tank
-    bool strom_aus = false;            ///< a penalty has cut the track power
+    bool strom_aus = false;            ///< home, out or in a penalty: the track power is cut
+    bool ch_durchfahrt = false;        ///< crossed the sensor while the pause was starting
+    zeit_ms ch_durchfahrt_zeit = 0;    ///< stamp of that
+    zeit_ms ch_strafe_rest = 0;        ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
+};
+
+/// The pause that is, or the last one.
+struct pausen_zustand {
+    zeit_ms start = 0;            ///< stamp
+    zeit_ms dauer = 0;            ///< of the last pause that has ended
+    int ch_zaehler = 0;           ///< ticks of the window in which crossings are still collected
+    bool schalter_stand = false;  ///< the chaos switch was seen on
+    bool nachlauf_nach_pause = false;
+    bool f_straftimer_lief = false;
 };
 
 /// The record of the running race. Reset at each race.
@@ -47,7 +60,8 @@ struct renn_zustand {
     int ampel_takt = 1500;          ///< ms of the last step of the start light, for this start
     int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
     bool rennen_beendet = true;
-    bool chaos_aktiv = false;       ///< the race is paused
+    bool chaos_aktiv = false;  ///< the race is paused
+    pausen_zustand pause;
     bool ende_eingeleitet = false;  ///< guards against a second reason to end
     bool endesound_gespielt = false;
     bool rennabbruch = false;          ///< stopped by hand: the result is not a normal finish

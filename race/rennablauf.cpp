@@ -25,6 +25,7 @@ void rennablauf::laden() {
 void rennablauf::vor_dem_start() {
     um_.bahn.Command1.aktiviert(true);
     um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
     um_.bahn.Command1.fokus_setzen();
 }
@@ -54,6 +55,7 @@ void rennablauf::rennen_zuruecksetzen() {
     t_.ende.zuruecksetzen();
     t_.ansicht.anzeigen_leeren();
     t_.tank.zuruecksetzen();
+    pause.zuruecksetzen();
     t_.plaetze.aufstellen();
     t_.uhr.zuruecksetzen();
 }
@@ -72,7 +74,6 @@ void rennablauf::ampel_takt_bestimmen() {
 void rennablauf::rennstart_vorbereiten() {
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
     um_.zustand.rennen_beendet = false;
-    um_.zustand.chaos_aktiv = false;
     um_.sounds.spielen(sound::rennstart_vorbereitet);
     rennen_zuruecksetzen();
     um_.ereignisse.ruhe_herstellen();
@@ -84,6 +85,7 @@ void rennablauf::rennstart_vorbereiten() {
     ampel_takt_bestimmen();
     um_.bahn.Command1.aktiviert(false);
     um_.bahn.Command2.aktiviert(false);
+    um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
     um_.bahn.Frame1.fokus_setzen();  // a second press of the same key must not reach the next command
     if (um_.einst.nachtrennen_modus > 0) {
@@ -109,6 +111,7 @@ void rennablauf::rennen_starten() {
 
 void rennablauf::befehle_freigeben() {
     um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command3.aktiviert(true);
     um_.bahn.Command4.aktiviert(true);
 }
 
@@ -120,6 +123,7 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     um_.ereignisse.messzeit = zustand.start_zeit;
     um_.ereignisse[art::ampel_gruen].aktiv = false;
+    um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     um_.zeitgeber.rennen_an();
     um_.sounds.spielen(sound::rennen_gestartet);
     um_.ereignisse.rundenzaehlung_leeren();
@@ -148,7 +152,7 @@ void rennablauf::renntimer_tick() {
     }
     // Place of sectors.
     t_.sensoren.soundsensoren_pruefen();
-    // Place of the chaos triggers.
+    pause.pruefen();
     for (spur_zustand& spur : zustand.spur) {
         spur.runden_zeile = spur.runden + 1;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "race/positionen.h"
@@ -25,7 +26,15 @@ public:
         soundsensoren& sensoren;
     };
 
+    /// What the pauses do in the race's life; they need the race themselves.
+    struct pausenteil {
+        std::function<void()> zuruecksetzen;
+        std::function<void()> pruefen;
+    };
+
     rennablauf(const renn_umgebung& um, const teile& t);
+
+    pausenteil pause;
 
     /// Load handler of the race window.
     void laden();

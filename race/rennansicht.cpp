@@ -75,6 +75,14 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Fahrer", bahn.wort.fahrer).text("Runden", bahn.wort.runden);
     texte.text("Rundenliste", bahn.wort.rundenliste).text("Strafzeit", bahn.wort.strafzeit);
     texte.fuer_alle("Tankinhalt", bahn.frame_tank);
+    texte.text("Chaos / Pause", bahn.wort.pause).text("Chaos/Pause", bahn.wort.pause_wieder);
+    texte.text("Weiter", bahn.wort.weiter).text("Die Strafzeit für Fahrer mit", bahn.ch_Label1);
+    texte.text("beträgt ", bahn.ch_Label2).text("Sekunden.", bahn.ch_Label3);
+    texte.text("Klicken um Strafzeit zuzuordnen!", [&bahn](const std::string& tipp) {
+        for (haken& kasten : bahn.ch_strafzeit_hacken) {
+            kasten.tipp(tipp);
+        }
+    });
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
     return texte;
 }
@@ -132,7 +140,7 @@ void rennansicht::farben_setzen() {
 void rennansicht::kleine_ampel(int spur, kleines_licht licht) {
     const bool dabei = um_.param.spur_aktiv[spur];
     um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(dabei && licht == kleines_licht::rot);
-    um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
+    um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(dabei && licht == kleines_licht::gelb);
     um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(dabei && licht == kleines_licht::gruen);
 }
 

@@ -16,7 +16,7 @@ inline constexpr double spalte = 3200;  ///< width of one column
 double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl);
 
 /// The small light of a lane.
-enum class kleines_licht { rot, gruen };
+enum class kleines_licht { rot, gelb, gruen };
 
 /// Builds the race window for the lanes of the race, and puts its displays in the state before the start.
 class rennansicht {

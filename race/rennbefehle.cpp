@@ -20,9 +20,9 @@ void rennbefehle::rennen_abbrechen() {
     um_.fenster.entladen("auswertung");
     um_.param.training_laeuft = false;
     um_.sounds.spielen(sound::rennen_abgebrochen);
+    t_.pause.aufheben();
     um_.zeitgeber.alle_aus();
     t_.ende.ausgaben_endzustand();
-    um_.zustand.chaos_aktiv = false;
     um_.zustand.rennabbruch = true;
     um_.fenster.entladen("bahn1");
     um_.fenster.zeigen("Form1");

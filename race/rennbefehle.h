@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hardware/tastatur.h"
+#include "race/chaos.h"
 #include "race/rennablauf.h"
 #include "race/umgebung.h"
 
@@ -15,6 +16,7 @@ public:
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
         tanken& tank;
+        chaos& pause;
     };
 
     rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung);
@@ -35,6 +37,7 @@ public:
 private:
     bool beendet() const override { return um_.zustand.rennen_beendet; }
     void bildschirm_dunkel() override { t_.ansicht.bildschirm_dunkel(); }
+    void chaos_taste() override { t_.pause.taste(); }
     bool runde_abziehen(int spur) override { return t_.zaehlung.runde_abziehen(spur); }
 
     renn_umgebung um_;

@@ -18,7 +18,10 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       zaehlung(umgebung, plaetze, ende, tanken),
       sensoren(umgebung),
       ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, tanken, sensoren}),
-      befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken}, um.belegung) {
+      chaos(umgebung, {ablauf, ansicht, strafen}),
+      befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
+    ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
+    ende.pause_aufheben = [this] { chaos.aufheben(); };
     tanken.rundenzeiten_pruefen = [this](zeit_ms dauer, int zeile, int spur) {
         zaehlung.rundenzeiten_pruefen(dauer, zeile, spur);
     };

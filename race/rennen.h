@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dienste.h"
+#include "race/chaos.h"
 #include "race/rennbefehle.h"
 #include "race/strafen.h"
 
@@ -39,6 +40,7 @@ struct rennen {
     rundenzaehlung zaehlung;
     soundsensoren sensoren;
     rennablauf ablauf;
+    tarvel::chaos chaos;
     rennbefehle befehle;
 };
 

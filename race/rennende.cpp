@@ -114,6 +114,7 @@ void rennende::nachlauf_tick() {
 
 void rennende::spur_ziel_setzen(int spur) {
     um_.zustand.spur[spur].ziel_erreicht = true;
+    um_.zustand.spur[spur].strom_aus = true;
     um_.ausgaben.relais_on(spur);
     um_.bahn.bahnshape[spur].randfarbe(farben::rot);
     um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(false);
@@ -143,6 +144,7 @@ void rennende::rennende_ablauf() {
     }
     um_.sounds.spielen(sound::rennen_beendet);
     um_.zeitgeber.f_straftimer->aus();
+    pause_aufheben();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
     um_.fenster.zeigen("auswertung", anzeige_art::modal);

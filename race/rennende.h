@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "race/rennuhr.h"
 #include "race/umgebung.h"
 
@@ -9,6 +11,9 @@ namespace tarvel {
 class rennende {
 public:
     rennende(const renn_umgebung& um, rennuhr& uhr) : um_(um), uhr_(uhr) {}
+
+    /// Clears away a pause that the race ends in.
+    std::function<void()> pause_aufheben;
 
     /// Fresh flags for a new race.
     void zuruecksetzen();

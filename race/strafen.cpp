@@ -36,6 +36,15 @@ void strafen::spur_strom_an(int spur) {
     }
 }
 
+void strafen::strom_wiederherstellen() {
+    um_.ausgaben.relais_off(0);
+    for (const int spur : alle_spuren) {
+        if (um_.zustand.spur[spur].strom_aus) {
+            um_.ausgaben.relais_on(spur);
+        }
+    }
+}
+
 void strafen::nullzeile_eintragen(int spur) {
     liste& runden = um_.bahn.t_liste.at(feld_index(spur));
     if (runden.sichtbar()) {

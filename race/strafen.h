@@ -17,6 +17,8 @@ public:
     /// Cuts the lane's power; its small light goes to red.
     void spur_strom_aus(int spur);
     void spur_strom_an(int spur);
+    /// Power for all lanes but those that are home, out or in a penalty.
+    void strom_wiederherstellen();
 
     /// A hundredth of a second of the false-start penalty. At its end all locked lanes get their power back and stay
     /// locked for one more minimum lap, so that rolling on over the sensor is no lap.

@@ -20,6 +20,12 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
       renntimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000)),
+      chaostimer(einmalig(dienst, 2500)),
+      chaosende_timer(einmalig(dienst, 1500)),
+      chaostimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
+      ch_durch0(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
+      chaos_runden(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
+      tm_chausloeser_falsch_setzen(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
       f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
       f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0)) {
     for (auto& sperre : tankwartetimer) {
@@ -32,6 +38,7 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
         tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
         wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500);
         t_straftimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
+        straftimer_ch[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 12);
     }
 }
 
@@ -47,8 +54,19 @@ void rennzeitgeber::rennen_aus() const {
     renntimer3->aus();
 }
 
+void rennzeitgeber::pause_aus() const {
+    for (const auto* zeitgeber :
+         {&chaostimer, &chaosende_timer, &chaostimer2, &ch_durch0, &chaos_runden, &tm_chausloeser_falsch_setzen}) {
+        (*zeitgeber)->aus();
+    }
+    for (const auto& strafe : straftimer_ch) {
+        strafe->aus();
+    }
+}
+
 void rennzeitgeber::alle_aus() const {
     rennen_aus();
+    pause_aus();
     nachlauftimer1->aus();
     f_straftimer->aus();
     f_straftimer2->aus();

@@ -18,6 +18,13 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> renntimer2;  ///< polls the devices
     std::unique_ptr<plattform::zeitgeber> renntimer3;  ///< samples the devices
     std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
+    std::unique_ptr<plattform::zeitgeber> chaostimer;       ///< no other trigger right after a pause has begun
+    std::unique_ptr<plattform::zeitgeber> chaosende_timer;  ///< nor right after it has ended
+    std::unique_ptr<plattform::zeitgeber> chaostimer2;      ///< looks at the inputs during a pause
+    std::unique_ptr<plattform::zeitgeber> ch_durch0;        ///< collects crossings at the beginning of a pause
+    std::unique_ptr<plattform::zeitgeber> chaos_runden;     ///< brings them back after it
+    std::unique_ptr<plattform::zeitgeber> tm_chausloeser_falsch_setzen;
+    spuren<std::unique_ptr<plattform::zeitgeber>> straftimer_ch;  ///< power penalty of a pause
     std::unique_ptr<plattform::zeitgeber> f_straftimer;   ///< counts the false-start penalty in hundredths of a second
     std::unique_ptr<plattform::zeitgeber> f_straftimer2;  ///< keeps the lanes locked for one minimum lap after it
     spuren<std::unique_ptr<plattform::zeitgeber>> tanktimer;   ///< wait before refuelling, in hundredths of a second
@@ -31,6 +38,8 @@ struct rennzeitgeber {
 
     void rennen_an() const;
     void rennen_aus() const;
+    /// All that belongs to pauses.
+    void pause_aus() const;
     void alle_aus() const;
 };
 

@@ -182,6 +182,8 @@ void startampel::gruen_tick() {
 void startampel::freigabe_tick() {
     Timer8_->aus();
     r_.ablauf.befehle_freigeben();
+    um_.bahn.Command3.fokus_setzen();
+    um_.bahn.ch_strafframe.sichtbar(false);
     for (const int spur : alle_spuren) {
         um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
         um_.ereignisse[art::tanken_aus[spur]].aktiv = false;

@@ -46,7 +46,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
     t.starten("Zeit", "5", {1});
     t.taste("1");
     EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[3]);
-    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
     EXPECT_EQ(t.spur(1).runden, -1);
 }
 
@@ -56,7 +56,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfOhneGemeinsameTasteLoestNichtsAnderesAus
     t.p.belegung.taste(54, 'y');
     t.starten("Zeit", "5", {1});
     t.taste("y");
-    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
     EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
 }
 
@@ -65,7 +65,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfSchaltetNieDieNacht) {
     t.p.belegung.taste(54, 'y');
     t.starten("Zeit", "5", {1});
     t.taste("y");
-    EXPECT_TRUE(t.p.ereignisse[1].aktiv);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
     EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
 }
 

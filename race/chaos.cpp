@@ -1,0 +1,323 @@
+#include "race/chaos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int sammeltakt_ms = 10;  // of `ch_durch0`
+constexpr zeit_ms straftakt_ms = 12;
+constexpr zeit_ms strafe_zugabe_ms = 100;
+constexpr double strafe_max_s = 9999;
+
+}  // namespace
+
+chaos::chaos(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
+    const rennzeitgeber& zeitgeber = um_.zeitgeber;
+    zeitgeber.ch_durch0->bei_tick = [this] { ch_durch0_tick(); };
+    zeitgeber.chaostimer2->bei_tick = [this] { chaostimer2_tick(); };
+    zeitgeber.chaos_runden->bei_tick = [this] { chaos_nachholen(); };
+    zeitgeber.tm_chausloeser_falsch_setzen->bei_tick = [this] {
+        um_.zeitgeber.tm_chausloeser_falsch_setzen->aus();
+        um_.ereignisse.chaos_fahrer.fuellen(false);
+    };
+    for (const int spur : alle_spuren) {
+        zeitgeber.straftimer_ch[spur]->bei_tick = [this, spur] { straftimer_ch_tick(spur); };
+    }
+    um_.bahn.Command3.bei_klick = [this] { befehl_klick(); };
+}
+
+void chaos::zuruecksetzen() {
+    um_.zeitgeber.pause_aus();
+    um_.zustand.pause = {};
+    um_.zustand.chaos_aktiv = false;
+    um_.bahn.Command3.text(um_.bahn.wort.pause);
+    strafformular_schliessen();
+    gelb_zeigen(false);
+}
+
+void chaos::befehl_klick() {
+    if (!um_.zeitgeber.chaostimer->laeuft() && !um_.zeitgeber.chaosende_timer->laeuft()) {
+        chaos_umschalten();
+    }
+}
+
+void chaos::taste() {
+    const bool schalter_loesen = um_.einst.chaos_schalter && um_.zustand.chaos_aktiv && !um_.zustand.rennen_beendet;
+    if (schalter_loesen && um_.zeitgeber.chaostimer->laeuft()) {
+        return;
+    }
+    um_.ereignisse.ereignis_melden(art::chaostaster);
+    if (schalter_loesen) {
+        chaos_umschalten();
+    }
+}
+
+void chaos::pruefen() {
+    if (um_.zustand.rennen_beendet) {
+        return;
+    }
+    bool& schalter_stand = um_.zustand.pause.schalter_stand;
+    ereignis_zeile& taster = um_.ereignisse[art::chaostaster];
+    const bool frei = !um_.zeitgeber.chaostimer->laeuft();
+    if (um_.einst.chaos_schalter) {
+        if (frei && taster.aktiv && !schalter_stand) {
+            schalter_stand = true;
+            chaos_umschalten();
+        }
+        loslassen_pruefen();
+    } else if (frei && taster.aktiv && !um_.zeitgeber.chaosende_timer->laeuft()) {
+        chaos_umschalten();
+    } else {
+        taster.aktiv = false;
+    }
+}
+
+void chaos::loslassen_pruefen() {
+    if (um_.einst.chaos_schalter && um_.zustand.pause.schalter_stand && um_.zustand.chaos_aktiv &&
+        !um_.ereignisse[art::chaostaster].aktiv && !um_.zeitgeber.chaostimer->laeuft() &&
+        !um_.zeitgeber.chaosende_timer->laeuft()) {
+        chaos_umschalten();
+    }
+}
+
+void chaos::chaos_umschalten() {
+    if (!um_.zustand.chaos_aktiv) {
+        pause_beginnen();
+    } else if (um_.einst.chaosampel_an && neustart_ampel) {
+        um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
+        neustart_ampel();
+    } else {
+        chaosende_routine();
+    }
+}
+
+void chaos::pause_beginnen() {
+    renn_zustand& zustand = um_.zustand;
+    zustand.nachlauf_minuten = 0;
+    zustand.pause.ch_zaehler = 0;
+    if (!um_.einst.chaos_schalter) {
+        um_.ereignisse[art::chaostaster].aktiv = false;
+    }
+    if (um_.einst.sensor_timeout == 0) {
+        sammeln_beenden();
+    } else {
+        um_.zeitgeber.ch_durch0->an();
+    }
+    um_.zeitgeber.chaostimer->an();
+    um_.zeitgeber.chaostimer2->an();
+    zustand.pause.start = um_.zeit.messzeit_lesen();
+    um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
+    um_.sounds.spielen(sound::pause_beginnt);
+    um_.bahn.Command3.text(um_.bahn.wort.weiter);
+    zeitgeber_anhalten();
+    um_.ausgaben.chaos_an();
+    zustand.chaos_aktiv = true;
+    kleine_ampeln(kleines_licht::gelb);
+    strafformular_zeigen();
+    if (um_.einst.chaosampel_an) {
+        um_.fenster.zeigen("k_ampel");
+    } else {
+        gelb_zeigen(true);
+    }
+}
+
+void chaos::zeitgeber_anhalten() {
+    um_.zustand.pause.f_straftimer_lief = um_.zeitgeber.f_straftimer->laeuft();
+    um_.zeitgeber.f_straftimer->aus();
+    for (const int spur : alle_spuren) {
+        um_.zeitgeber.t_straftimer[spur]->aus();
+        um_.zeitgeber.tanktimer[spur]->aus();
+    }
+}
+
+void chaos::zeitgeber_fortsetzen() {
+    if (um_.zustand.pause.f_straftimer_lief) {
+        um_.zeitgeber.f_straftimer->an();
+    }
+    for (const int spur : alle_spuren) {
+        const spur_zustand& zustand = um_.zustand.spur[spur];
+        if (zustand.tank_strafe_aktiv) {
+            um_.zeitgeber.t_straftimer[spur]->an();
+        }
+        if (zustand.tank_wartezaehler > 0) {
+            um_.zeitgeber.tanktimer[spur]->an();
+        }
+    }
+}
+
+void chaos::strafformular_zeigen() {
+    if (um_.einst.chaos_strafzeit < 0) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        um_.bahn.ch_strafzeit_hacken[spur].sichtbar(um_.param.spur_aktiv[spur]);
+    }
+    um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit));
+    um_.bahn.ch_strafframe.sichtbar(true);
+}
+
+void chaos::strafformular_schliessen() {
+    for (haken& kasten : um_.bahn.ch_strafzeit_hacken) {
+        kasten.gesetzt(false);
+        kasten.sichtbar(false);
+    }
+    um_.bahn.ch_strafframe.sichtbar(false);
+}
+
+void chaos::gelb_zeigen(bool an) {
+    for (const int spur : alle_spuren) {
+        um_.bahn.yellowframe[spur].sichtbar(an && um_.param.spur_aktiv[spur]);
+    }
+}
+
+void chaos::kleine_ampeln(kleines_licht licht) {
+    for (const int spur : alle_spuren) {
+        if (!um_.zustand.spur[spur].strom_aus) {
+            t_.ansicht.kleine_ampel(spur, licht);
+        }
+    }
+}
+
+void chaos::durchfahrten_merken() {
+    const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+    for (const int spur : alle_spuren) {
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
+        if (ereignis.aktiv && !zustand.ch_durchfahrt) {
+            zustand.ch_durchfahrt = true;
+            zustand.ch_durchfahrt_zeit = jetzt;
+        }
+    }
+}
+
+void chaos::sammeln_beenden() {
+    um_.zeitgeber.ch_durch0->aus();
+    um_.zeitgeber.renntimer->aus();
+    um_.zeitgeber.renntimer2->aus();
+    if (um_.zeitgeber.nachlauftimer1->laeuft()) {
+        um_.zeitgeber.nachlauftimer1->aus();
+        um_.zustand.pause.nachlauf_nach_pause = true;
+    }
+}
+
+void chaos::ch_durch0_tick() {
+    durchfahrten_merken();
+    if (++um_.zustand.pause.ch_zaehler >= um_.einst.sensor_timeout / sammeltakt_ms) {
+        sammeln_beenden();
+    }
+}
+
+void chaos::chaostimer2_tick() {
+    if (um_.zeitgeber.ch_durch0->laeuft()) {  // each poll, so that a noted crossing is right to the millisecond
+        durchfahrten_merken();
+    }
+    if (um_.zeitgeber.chaostimer->laeuft()) {
+        if (!um_.einst.chaos_schalter) {  // dropped, also where the race tick no longer does it
+            um_.ereignisse[art::chaostaster].aktiv = false;
+        }
+        return;
+    }
+    t_.ablauf.quellen_abfragen();
+    if (um_.zustand.rennen_beendet) {
+        return;
+    }
+    if (um_.ereignisse[art::chaostaster].aktiv && !um_.einst.chaos_schalter) {
+        chaos_umschalten();
+    } else {
+        loslassen_pruefen();
+    }
+}
+
+void chaos::chaosende_routine() {
+    renn_zustand& zustand = um_.zustand;
+    um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
+    const zeit_ms ende = um_.zeit.messzeit_lesen();
+    um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
+    um_.ereignisse.messzeit = ende;  // keys are stamped with it, and no tick has read the clock in the pause
+    um_.zeitgeber.ch_durch0->aus();
+    zustand.pause.dauer = ende - zustand.pause.start;
+    zustand.pause_abzug += zustand.pause.dauer;
+    for (spur_zustand& spur : zustand.spur) {
+        spur.pause_abzug += zustand.pause.dauer;
+    }
+    um_.sounds.spielen(sound::pause_endet);
+    um_.ausgaben.chaos_aus();
+    t_.strafe.strom_wiederherstellen();
+    strafen_verteilen();
+    um_.ereignisse.rundenzaehlung_leeren();
+    um_.ereignisse[art::chaostaster].aktiv = false;
+    um_.zeitgeber.chaostimer2->aus();
+    zustand.chaos_aktiv = false;
+    zustand.pause.schalter_stand = false;
+    um_.zeitgeber.rennen_an();
+    if (std::exchange(zustand.pause.nachlauf_nach_pause, false)) {
+        um_.zeitgeber.nachlauftimer1->an();
+    }
+    um_.bahn.Command3.text(um_.bahn.wort.pause_wieder);
+    kleine_ampeln(kleines_licht::gruen);
+    zeitgeber_fortsetzen();
+    um_.zeitgeber.chaos_runden->an();
+    um_.zeitgeber.chaosende_timer->an();
+    um_.zeitgeber.chaostimer->an();
+    strafformular_schliessen();
+    gelb_zeigen(false);
+}
+
+void chaos::strafen_verteilen() {
+    const double sekunden = std::clamp(zahl_lesen(um_.bahn.ch_Text1.text()), 0.0, strafe_max_s);
+    for (const int spur : alle_spuren) {
+        if (!um_.bahn.ch_strafzeit_hacken[spur].gesetzt()) {
+            continue;
+        }
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        if (um_.einst.chaos_strafe_strom) {
+            t_.strafe.zeitstrafe(spur, static_cast<int>(std::lround(sekunden)));
+        } else {
+            zustand.fruehstart_sperre = true;
+            zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;
+            um_.zeitgeber.straftimer_ch[spur]->an();
+            t_.strafe.spur_strom_aus(spur);
+        }
+    }
+}
+
+void chaos::straftimer_ch_tick(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    if (!um_.zustand.chaos_aktiv) {
+        zustand.ch_strafe_rest -= straftakt_ms;
+    }
+    if (zustand.ch_strafe_rest <= 0) {
+        zustand.ch_strafe_rest = 0;
+        um_.zeitgeber.straftimer_ch[spur]->aus();
+        zustand.fruehstart_sperre = false;
+        t_.strafe.spur_strom_an(spur);
+    }
+}
+
+void chaos::chaos_nachholen() {
+    um_.zeitgeber.chaos_runden->aus();
+    for (const int spur : alle_spuren) {
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        if (std::exchange(zustand.ch_durchfahrt, false)) {
+            ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
+            ereignis.aktiv = true;
+            ereignis.ereignis_zeit = zustand.ch_durchfahrt_zeit + um_.zustand.pause.dauer;
+        }
+    }
+}
+
+void chaos::aufheben() {
+    if (um_.zustand.chaos_aktiv) {
+        um_.ausgaben.chaos_aus();
+    }
+    um_.fenster.entladen("k_ampel");
+    zuruecksetzen();
+}
+
+}  // namespace tarvel

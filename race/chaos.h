@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+
+#include "race/rennablauf.h"
+#include "race/strafen.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// The pause: a driver or the race director halts the race, the power goes off and the clock stands still. The paused
+/// time comes off the clock and off each lane's lap, and a car that was still rolling over the sensor when the pause
+/// began gets its lap all the same.
+class chaos {
+public:
+    struct teile {
+        rennablauf& ablauf;
+        rennansicht& ansicht;
+        strafen& strafe;
+    };
+
+    chaos(const renn_umgebung& um, const teile& t);
+
+    /// Runs the light that ends a pause; empty without one.
+    std::function<void()> neustart_ampel;
+
+    /// For a new race.
+    void zuruecksetzen();
+    /// The trigger tests of the race tick.
+    void pruefen();
+    /// The chaos key: like the button, and in place of a switch it turns the switch over.
+    void taste();
+    /// Begins a pause, or ends the one that is.
+    void chaos_umschalten();
+    void chaosende_routine();
+    /// The race ends in its pause: nothing of the pause stays.
+    void aufheben();
+
+private:
+    void befehl_klick();
+    void pause_beginnen();
+    void zeitgeber_anhalten();
+    void zeitgeber_fortsetzen();
+    void strafformular_zeigen();
+    void strafformular_schliessen();
+    void strafen_verteilen();
+    void gelb_zeigen(bool an);
+    /// Small lights of the lanes that are not held off by anything else.
+    void kleine_ampeln(kleines_licht licht);
+
+    void loslassen_pruefen();
+    void durchfahrten_merken();
+    void sammeln_beenden();
+    void ch_durch0_tick();
+    void chaostimer2_tick();
+    void chaos_nachholen();
+    void straftimer_ch_tick(int spur);
+
+    renn_umgebung um_;
+    teile t_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,294 @@
+#include "race/chaos.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tests/plattform/ausgabe_protokoll.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using ausgang = schaltung::ausgang;
+
+class Chaos : public testing::Test {
+protected:
+    Chaos() {
+        t.p.einst.chaosampel_an = false;
+        t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
+    }
+    /// A race in which lanes 1 and 2 have crossed once, 10 s after the start.
+    void fahren(const char* dauer = "5") {
+        t.starten("Zeit", dauer, {1, 2});
+        t.runde_nach(10000, "12");
+    }
+    bool pause() { return t.p.rennen.zustand.chaos_aktiv; }
+    bool strom(int spur) const { return geraet.ist_an(ausgang::bahnstrom, spur); }
+    zeit_ms rundenzeit(int spur, int runde) { return t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
+    std::string restzeit() {
+        const auto& uhr = t.bahn().uhr1;
+        return uhr.minuten.text() + ":" + uhr.sekunden.text() + "," + uhr.tausendstel.text();
+    }
+
+    test::testprogramm t;
+    test::ausgabe_protokoll geraet;
+};
+
+TEST_F(Chaos, PauseHaeltUhrStromUndZaehlungAnUndVerschiebtDasEnde) {
+    fahren("1");
+    t.maschine.laufen(5000);
+    t.taste("c");
+    ASSERT_TRUE(pause());
+    EXPECT_EQ(t.maschine.sounds.back(), "sound\\cp1.wav");
+    EXPECT_EQ(t.bahn().Command3.text(), "Weiter");
+    EXPECT_TRUE(t.bahn().yellowframe[1].sichtbar());
+    EXPECT_FALSE(t.bahn().yellowframe[3].sichtbar());
+    EXPECT_TRUE(t.bahn().ampel_ge[0].sichtbar());
+    EXPECT_TRUE(geraet.ist_an(ausgang::chaosanzeige, 0));
+    EXPECT_TRUE(geraet.ist_an(ausgang::ampel_rot, 3));
+    EXPECT_FALSE(strom(1) || strom(2));
+    const std::string rest = restzeit();
+    t.maschine.laufen(30000);
+    EXPECT_EQ(restzeit(), rest);
+    t.bahn().Command3.klicken();
+    ASSERT_FALSE(pause());
+    EXPECT_EQ(t.maschine.sounds.back(), "sound\\cp2.wav");
+    EXPECT_EQ(t.bahn().Command3.text(), "Chaos/Pause");
+    EXPECT_FALSE(geraet.ist_an(ausgang::chaosanzeige, 0));
+    EXPECT_TRUE(strom(1) && strom(2) && geraet.ist_an(ausgang::ampel_gruen, 0));
+    EXPECT_FALSE(t.bahn().yellowframe[1].sichtbar());
+    EXPECT_TRUE(t.bahn().ampel_gr[0].sichtbar());
+    EXPECT_EQ(rest, "00:45,001");
+    t.maschine.laufen(1);
+    EXPECT_EQ(restzeit(), "00:44,999");
+    t.runde_nach(5000, "1");
+    EXPECT_EQ(rundenzeit(1, 1), 10000 + 1 + 1) << "without the pause";
+    t.maschine.laufen(40000 - 2);
+    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    t.maschine.laufen(10);
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+}
+
+TEST_F(Chaos, SperrenVerwerfenDenDruck) {
+    fahren();
+    t.taste("c");
+    t.maschine.laufen(2400);
+    t.taste("c");
+    EXPECT_TRUE(pause());
+    t.bahn().Command3.klicken();
+    EXPECT_TRUE(pause());
+    t.maschine.laufen(200);
+    t.taste("c");
+    EXPECT_FALSE(pause());
+    t.taste("c");
+    t.maschine.laufen(2400);
+    EXPECT_FALSE(pause()) << "neither right after its end";
+    t.bahn().Command3.klicken();
+    EXPECT_FALSE(pause());
+    t.maschine.laufen(200);
+    t.bahn().Command3.klicken();
+    EXPECT_TRUE(pause());
+}
+
+TEST_F(Chaos, UeberfahrtBeimAnhaltenZaehltNachDerPauseMitIhrerZeit) {
+    t.p.einst.sensor_timeout = 2000;
+    fahren();
+    t.maschine.laufen(7000);
+    t.taste("c");
+    t.maschine.laufen(1233);
+    t.taste("1");
+    const zeit_ms ueberfahrt = t.maschine.jetzt();
+    t.maschine.laufen(50);
+    t.taste("1");
+    t.maschine.laufen(1000);
+    t.taste("2");  // too late: the window has closed
+    t.maschine.laufen(20000);
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.taste("c");
+    ASSERT_FALSE(pause());
+    const zeit_ms weiter = t.maschine.jetzt();
+    t.maschine.laufen(400);
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.maschine.laufen(110);
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_NEAR(static_cast<double>(rundenzeit(1, 1)), 7000 + 1 + 1233 + 1, 1);
+    EXPECT_EQ(t.spur(2).runden, 0);
+    EXPECT_EQ(t.spur(1).pause_abzug, 0);
+    EXPECT_GT(t.spur(2).pause_abzug, 20000);
+    EXPECT_GT(weiter, ueberfahrt);
+}
+
+TEST_F(Chaos, OhneSammelfensterGehtDieUeberfahrtVerloren) {
+    t.p.einst.sensor_timeout = 0;
+    fahren();
+    t.maschine.laufen(7000);
+    t.taste("c");
+    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
+    t.taste("1");
+    t.maschine.laufen(5000);
+    t.taste("c");
+    t.maschine.laufen(1000);
+    EXPECT_FALSE(pause());
+    EXPECT_EQ(t.spur(1).runden, 0);
+}
+
+TEST_F(Chaos, SchalterHaeltDiePauseSolangeErAnIst) {
+    t.p.einst.chaos_schalter = true;
+    for (const int timeout : {0, 2000, 10000}) {
+        SCOPED_TRACE(timeout);
+        t.p.einst.sensor_timeout = timeout;
+        fahren();
+        t.p.ereignisse.ereignis_melden(1);
+        t.maschine.laufen(4000);
+        EXPECT_TRUE(pause());
+        t.maschine.laufen(20000);
+        EXPECT_TRUE(pause());
+        t.p.ereignisse[1].aktiv = false;
+        t.maschine.laufen(2);
+        EXPECT_FALSE(pause());
+        t.maschine.laufen(3000);
+        t.taste("c");
+        EXPECT_TRUE(pause()) << "the key turns the switch over";
+        t.maschine.laufen(1000);
+        t.taste("c");
+        EXPECT_TRUE(pause()) << "not right after it began";
+        t.maschine.laufen(2000);
+        t.taste("c");
+        EXPECT_FALSE(pause());
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Chaos, StrafeNachZeitOderStrom) {
+    t.p.einst.chaos_strafzeit = 5;
+    for (const bool zeit : {true, false}) {
+        SCOPED_TRACE(zeit);
+        t.p.einst.chaos_strafe_strom = zeit;
+        fahren();
+        t.maschine.laufen(2000);
+        t.taste("c");
+        EXPECT_TRUE(t.bahn().ch_strafframe.sichtbar());
+        EXPECT_EQ(t.bahn().ch_Text1.text(), "5");
+        EXPECT_FALSE(t.bahn().ch_strafzeit_hacken[3].sichtbar());
+        t.bahn().ch_strafzeit_hacken[2].umschalten();
+        t.bahn().ch_Text1.eingeben("7");
+        t.maschine.laufen(4000);
+        t.taste("c");
+        ASSERT_FALSE(pause());
+        EXPECT_FALSE(t.bahn().ch_strafframe.sichtbar() || t.bahn().ch_strafzeit_hacken[2].gesetzt());
+        EXPECT_EQ(t.spur(2).strafzeit, zeit ? 7 : 0);
+        EXPECT_EQ(t.bahn().straflabel[2].sichtbar(), zeit);
+        EXPECT_EQ(strom(2), zeit);
+        EXPECT_TRUE(strom(1));
+        t.maschine.laufen(4000);
+        t.taste("c");  // a pause within the penalty does not count for it
+        t.maschine.laufen(10000);
+        t.taste("c");
+        EXPECT_EQ(strom(2), zeit) << "the pause does not give the power back";
+        t.taste("2");
+        EXPECT_EQ(t.spur(2).runden, zeit ? 1 : 0);
+        t.maschine.laufen(3000);
+        EXPECT_EQ(strom(2), zeit);
+        t.maschine.laufen(120);
+        EXPECT_TRUE(strom(2));
+        EXPECT_FALSE(t.spur(2).fruehstart_sperre);
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Chaos, NegativeStrafzeitSchaltetDasFormularAus) {
+    t.p.einst.chaos_strafzeit = -1;
+    fahren();
+    t.taste("c");
+    EXPECT_TRUE(pause());
+    EXPECT_FALSE(t.bahn().ch_strafframe.sichtbar() || t.bahn().ch_strafzeit_hacken[1].sichtbar());
+}
+
+TEST_F(Chaos, WasKeinenStromHatBekommtDurchDiePauseKeinen) {
+    fahren();
+    t.p.rennen.ende.spur_ziel_setzen(1);
+    t.taste("c");
+    t.maschine.laufen(5000);
+    t.taste("c");
+    EXPECT_FALSE(strom(1)) << "home";
+    EXPECT_TRUE(strom(2));
+}
+
+TEST_F(Chaos, TankstrafeRuhtInDerPause) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_strafzeit = 1000;
+    fahren();
+    t.spur(1).tank_inhalt = 1;
+    t.runde_nach(8000, "1");
+    ASSERT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.maschine.laufen(4000);
+    t.taste("c");
+    t.maschine.laufen(30000);
+    EXPECT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.taste("c");
+    EXPECT_FALSE(strom(1));
+    t.maschine.laufen(5900);
+    EXPECT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.maschine.laufen(200);
+    EXPECT_FALSE(t.spur(1).tank_strafe_aktiv);
+    EXPECT_TRUE(strom(1));
+}
+
+TEST_F(Chaos, PauseImNachlaufBeginntSeineMinutenNeu) {
+    t.p.einst.zielmodus_erster = false;
+    fahren("1");
+    t.maschine.laufen(50000 + 70000);
+    ASSERT_TRUE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
+    EXPECT_EQ(t.p.rennen.zustand.nachlauf_minuten, 1);
+    t.taste("c");
+    t.maschine.laufen(300000);
+    EXPECT_TRUE(pause());
+    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    t.taste("c");
+    t.maschine.laufen(119900);
+    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    t.maschine.laufen(200);
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+}
+
+TEST_F(Chaos, AbbruchUndEndeInDerPauseLassenNichtsZurueck) {
+    for (const bool ende : {true, false}) {
+        SCOPED_TRACE(ende);
+        fahren();
+        t.taste("c");
+        t.maschine.laufen(1000);
+        (ende ? t.bahn().Command4 : t.bahn().Command2).klicken();
+        EXPECT_FALSE(pause());
+        EXPECT_FALSE(geraet.ist_an(ausgang::chaosanzeige, 0));
+        EXPECT_TRUE(strom(1) && strom(2));
+        EXPECT_EQ(t.p.fenster.ist_offen("auswertung"), ende);
+        t.maschine.laufen(20000);
+        if (ende) {
+            t.p.auswertung.Command5.klicken();
+        }
+        t.starten("Zeit", "1", {1});
+        EXPECT_EQ(t.bahn().Command3.text(), "Chaos / Pause");
+        EXPECT_EQ(t.p.rennen.zustand.pause_abzug, 0);
+        EXPECT_FALSE(t.bahn().yellowframe[1].sichtbar() || t.bahn().ch_strafframe.sichtbar());
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
+    fahren();
+    t.taste("x");
+    EXPECT_TRUE(pause());
+    EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[2]);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(600);
+    EXPECT_FALSE(t.p.ereignisse.chaos_fahrer[2]);
+}
+
+}  // namespace
+}  // namespace tarvel
