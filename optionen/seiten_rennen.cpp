@@ -35,13 +35,16 @@ optionszeile_zeiger fruehstart_strafzeit() {
              {0, 300, "Stromunterbrechung bei Frühstart außerhalb des gültigen Bereichs (0-300)."}, 100);
     zeile->uebernehmen = [davor = zeile->uebernehmen, element = &std::get<feld>(zeile->element)](
                              const einstellungs_ziel& z, const optionszeile::melder& melden) {
+        constexpr int schritt = 100;
+        const int bisher = z.einst.fruehstart_strafzeit;
         bool gut = true;
         davor(z, [&](const std::string& meldung) {
             gut = false;
             melden(meldung);
         });
-        if (gut) {
-            z.einst.fruehstart_schritte = z.einst.fruehstart_strafzeit / 100;
+        // the tenth of a second that a start may have left behind is no step that somebody has chosen
+        if (gut && (z.einst.fruehstart_strafzeit != bisher || bisher >= schritt)) {
+            z.einst.fruehstart_schritte = z.einst.fruehstart_strafzeit / schritt;
         }
     };
     return zeile;

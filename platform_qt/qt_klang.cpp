@@ -1,6 +1,5 @@
 #include "platform_qt/qt_klang.h"
 
-#include <QAudioDevice>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -16,6 +15,7 @@ namespace {
 
 constexpr qint64 datei_max = 50'000'000;
 constexpr int vorrat_ms = 80;  ///< what the output holds ahead: a sound starts within it, and a busy loop is bridged
+constexpr qint64 neuer_versuch_ms = 10'000;
 
 template <class Wert>
 void schreiben(char*& ziel, Wert wert) {
@@ -67,23 +67,37 @@ QtKlang::~QtKlang() {
 void QtKlang::oeffnen() {
     if (geraete_ == nullptr) {
         geraete_ = std::make_unique<QMediaDevices>();
-        QObject::connect(geraete_.get(), &QMediaDevices::audioOutputsChanged, geraete_.get(), [this] {
-            schliessen();  // the standard output may be another one now, or gone
-            oeffnen();
-        });
+        QObject::connect(geraete_.get(), &QMediaDevices::audioOutputsChanged, geraete_.get(),
+                         [this] { nachfuehren(); });
     } else if (ausgabe_ != nullptr) {
         return;
     }
-    const QAudioDevice geraet = QMediaDevices::defaultAudioOutput();
-    const QAudioFormat format = format_von(geraet);
-    if (geraet.isNull() || !format.isValid()) {
+    seit_versuch_.start();
+    geraet_ = QMediaDevices::defaultAudioOutput();
+    const QAudioFormat format = format_von(geraet_);
+    if (geraet_.isNull() || !format.isValid()) {
         return;
     }
-    klaenge_.clear();  // they are kept at the rate of the output
     quelle_ = std::make_unique<Klangquelle>(format);
-    ausgabe_ = std::make_unique<QAudioSink>(geraet, format);
+    ausgabe_ = std::make_unique<QAudioSink>(geraet_, format);
     ausgabe_->setBufferSize(format.bytesForDuration(qint64{1000} * vorrat_ms));
     ausgabe_->start(quelle_.get());
+    if (std::exchange(rate_, format.sampleRate()) != rate_) {
+        for (const auto& alt : std::exchange(klaenge_, {})) {  // now, not in the middle of the next race
+            holen(alt.first);
+        }
+    }
+}
+
+bool QtKlang::gestoert() const {
+    return ausgabe_ != nullptr && ausgabe_->state() == QAudio::StoppedState && ausgabe_->error() != QAudio::NoError;
+}
+
+void QtKlang::nachfuehren() {
+    if (gestoert() || QMediaDevices::defaultAudioOutput() != geraet_) {
+        schliessen();
+        oeffnen();
+    }
 }
 
 void QtKlang::schliessen() {
@@ -108,8 +122,7 @@ std::shared_ptr<const klangwerte> QtKlang::holen(std::string_view datei) {
     QFile inhalt(angaben.filePath());
     const QByteArray bytes = inhalt.open(QIODevice::ReadOnly) ? inhalt.readAll() : QByteArray();
     auto werte = std::make_shared<const klangwerte>(klangdatei_lesen(
-        {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())},
-        ausgabe_->format().sampleRate()));
+        {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())}, rate_));
     klaenge_[std::string(datei)] = {stand, werte};
     return werte;
 }
@@ -123,6 +136,9 @@ void QtKlang::bereitstellen(std::string_view datei) {
 
 void QtKlang::spielen(std::string_view datei) {
     oeffnen();
+    if (gestoert() && seit_versuch_.elapsed() > neuer_versuch_ms) {
+        nachfuehren();
+    }
     if (ausgabe_ == nullptr) {
         return;
     }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QAudioDevice>
 #include <QAudioSink>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QIODevice>
 #include <QMediaDevices>
 #include <filesystem>
@@ -19,7 +21,9 @@ using klangwerte = std::vector<float>;
 /// What the output plays: the sound of the moment, and silence behind it.
 class Klangquelle final : public QIODevice {
 public:
-    explicit Klangquelle(const QAudioFormat& format) : format_(format) { open(QIODevice::ReadOnly); }
+    explicit Klangquelle(const QAudioFormat& format) : format_(format) {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
 
     void spielen(std::shared_ptr<const klangwerte> klang);
     bool isSequential() const override { return true; }
@@ -56,11 +60,18 @@ private:
 
     void oeffnen();
     void schliessen();
+    /// The output has stopped by itself.
+    bool gestoert() const;
+    /// Opens what has become the standard output, or one that has stopped.
+    void nachfuehren();
     /// The file's sound at the rate of the output; nothing if there is no such file. A changed file is read anew.
     std::shared_ptr<const klangwerte> holen(std::string_view datei);
 
     std::filesystem::path ordner_;
     std::unique_ptr<QMediaDevices> geraete_;  ///< made with the first sound
+    QAudioDevice geraet_;
+    QElapsedTimer seit_versuch_;  ///< to open an output
+    int rate_ = 0;                ///< of `klaenge_`
     std::unique_ptr<Klangquelle> quelle_;
     std::unique_ptr<QAudioSink> ausgabe_;
     std::map<std::string, eintrag, std::less<>> klaenge_;

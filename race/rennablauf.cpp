@@ -31,6 +31,7 @@ void rennablauf::vor_dem_start() {
 }
 
 void rennablauf::entladen() {
+    um_.fenster.entladen("Form2");
     um_.zeitgeber.alle_aus();
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
@@ -73,6 +74,9 @@ void rennablauf::ampel_takt_bestimmen() {
 
 void rennablauf::rennstart_vorbereiten() {
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
+    if (um_.einst.sensorkalibrierung) {
+        um_.ausgaben.relais_off(0);  // the calibration has put the outputs to rest
+    }
     um_.zustand.rennen_beendet = false;
     um_.sounds.spielen(sound::rennstart_vorbereitet);
     rennen_zuruecksetzen();
@@ -101,7 +105,9 @@ void rennablauf::rennstart_vorbereiten() {
 void rennablauf::start_abgebrochen() {
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
+    t_.ansicht.anzeigen_leeren();
     vor_dem_start();
+    um_.bahn.Frame1.fokus_setzen();  // a second press of the key that stopped the start must not begin another
 }
 
 void rennablauf::rennen_starten() {

@@ -27,6 +27,7 @@ public:
     void taste_auswerten(int code) { tastatur_.taste_auswerten(code); }
     /// Whether that key does anything in a race.
     bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
+    bool ist_nachttaste(int code) const { return belegung_.taste(tastenbelegung::zeile_nacht) == code; }
     /// Stops the race without a result.
     void rennen_abbrechen();
     /// Closing the window means the same, but a race that runs is not lost to a slip of the hand: it asks first.

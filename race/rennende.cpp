@@ -47,7 +47,7 @@ void rennende::pruefen() {
         zustand.endesound_gespielt = true;
     }
     if (um_.zeitgeber.nachlauftimer1->laeuft()) {
-        if (zustand.ziele_anzahl == spuren_max) {
+        if (alle_fertig()) {
             um_.zeitgeber.rennen_aus();
             rennende_ablauf();
         }
@@ -56,10 +56,15 @@ void rennende::pruefen() {
     }
 }
 
+bool rennende::alle_fertig() const {
+    const auto& spuren = um_.zustand.spur;
+    return std::all_of(spuren.begin(), spuren.end(),  // nobody waits for a lane that is out
+                       [](const spur_zustand& s) { return s.ziel_erreicht || s.disqualifiziert; });
+}
+
 bool rennende::ist_zu_ende() const {
     const renn_zustand& zustand = um_.zustand;
-    if (zustand.ziele_anzahl == spuren_max ||
-        eine_spur([&](int spur) { return zustand.spur[spur].runden == runden_max; })) {
+    if (alle_fertig() || eine_spur([&](int spur) { return zustand.spur[spur].runden == runden_max; })) {
         return true;
     }
     if (um_.ist_zeitrennen()) {
@@ -147,6 +152,7 @@ void rennende::rennende_ablauf() {
     pause_aufheben();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
+    um_.fenster.entladen("Form2");  // a very short race ends before its start light goes
     um_.fenster.zeigen("auswertung", anzeige_art::modal);
 }
 

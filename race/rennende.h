@@ -33,6 +33,7 @@ public:
 private:
     bool am_ziel(int spur) const;
     bool ist_zu_ende() const;
+    bool alle_fertig() const;
     void nachlauf_zeit_starten();
     void nachlauf_runden_starten();
 

@@ -6,14 +6,14 @@
 namespace tarvel {
 namespace {
 
-/// Sensor 1 to 8. The events run downwards in two groups, the sounds upwards in one.
+/// In the order in which they are looked at, which decides what is heard of one tick: the last.
 struct soundsensor {
     ereignis_art art;
     int sound;
 };
 
 constexpr std::array<soundsensor, soundsensoren_max> sensoren{
-    {{17, 41}, {18, 40}, {19, 39}, {20, 38}, {9, 45}, {10, 44}, {11, 43}, {12, 42}}};
+    {{17, 41}, {9, 45}, {18, 40}, {10, 44}, {19, 39}, {11, 43}, {20, 38}, {12, 42}}};
 
 }  // namespace
 

@@ -31,7 +31,7 @@ void fruehstart::tanksensor_als_rundensensor() {
         const ereignis_tabelle& ereignisse = um_.ereignisse;
         if ((um_.einst.tank_runden_modus == auf_sensor_1 && ereignisse[art::tanken_ein[spur]].aktiv) ||
             (um_.einst.tank_runden_modus == auf_sensor_2 && ereignisse[art::tanken_aus[spur]].aktiv)) {
-            um_.ereignisse[art::rundenzaehlung[spur]].aktiv = true;
+            um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur]);
         }
     }
 }

@@ -72,6 +72,7 @@ void startampel::laden() {
         rot_.at(i)->intervall(drag ? drag_ms : schritt_ms);
     }
     fruehstart_.zuruecksetzen();
+    um_.ausgaben.ampelnGRoff();  // the rest state's green must not burn beside the reds
     Timer1_->an();
     fruehstarttimer_->an();
     if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
@@ -265,7 +266,7 @@ void startampel::entladen() {
     constexpr int zeitstrafe = 5;
     if (einst_.fruehstart_option == ohne || einst_.fruehstart_option == runde_abzug ||
         einst_.fruehstart_option == zeitstrafe) {
-        einst_.fruehstart_strafzeit = 10;  // these actions cut no power, so the lock ends a tenth of a second from now
+        einst_.fruehstart_strafzeit = 10;  // these actions cut no power: their lock need not last
     }
 }
 
@@ -273,12 +274,21 @@ bool startampel::ist_belegt(int code) const {
     return code == taste_nacht || r_.befehle.ist_belegt(code);
 }
 
+void startampel::nacht_umschalten() {
+    // usually the same key has just turned the race window's cover: both are dark or both are not
+    const bool auch_bahn = r_.befehle.ist_nachttaste(taste_nacht);
+    fenster.Nachtabschaltung.sichtbar(auch_bahn ? um_.bahn.Nachtabschaltung.sichtbar()
+                                                : !fenster.Nachtabschaltung.sichtbar());
+}
+
 void startampel::taste(int code) {
     r_.befehle.taste_auswerten(code);
     if (code == taste_nacht) {
-        fenster.Nachtabschaltung.sichtbar(!fenster.Nachtabschaltung.sichtbar());
+        nacht_umschalten();
     }
-    fruehstart_.tanksensor_als_rundensensor();
+    if (!gruen_erreicht_) {
+        fruehstart_.tanksensor_als_rundensensor();
+    }
 }
 
 }  // namespace tarvel

@@ -53,6 +53,7 @@ private:
     void start_abbrechen();
     void abbrampel_klick();
     void zeitgeber_aus();
+    void nacht_umschalten();
 
     rennen& r_;
     const renn_umgebung& um_;

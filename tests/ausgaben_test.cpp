@@ -148,6 +148,8 @@ TEST(AusgabenImProgramm, StromVonHandKalibrierungUndEnde) {
     t.p.einst.sensorkalibrierung = true;
     t.einrichten("Zeit", "1", {1});
     EXPECT_FALSE(t.p.ausgaben.bericht.ist_an(art::bahnstrom[1])) << "all outputs rest while the sensors are calibrated";
+    t.bahn().Command1.klicken();
+    EXPECT_TRUE(t.p.ausgaben.bericht.ist_an(art::bahnstrom[1])) << "but nobody races without power";
     geraet.befehle.clear();
     t.p.programm_beenden();
     ASSERT_GE(geraet.befehle.size(), 3U);

@@ -53,6 +53,9 @@ TEST_F(Optionsgrenzen, GrenzenMitMeldungLassenDenAltenWertUndNehmenDieAnderen) {
         EXPECT_EQ(zeile(g), g.gespeichert);
     }
     EXPECT_EQ(einst.fruehstart_schritte, 300);
+    einst.fruehstart_strafzeit = 10;  // what a start leaves behind
+    nach_eingabe("f_strafzeit", "0.1");
+    EXPECT_EQ(einst.fruehstart_schritte, 300);
 }
 
 TEST_F(Optionsgrenzen, KommaUndPunktSindDasselbe) {

@@ -103,6 +103,7 @@ TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
         EXPECT_TRUE(t.p.startampel.laeuft());
         t.maschine.laufen(3499);
         EXPECT_EQ(rote_am_geraet(), 0);
+        EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
         EXPECT_EQ(t.p.fenster.ist_offen("Form2"), !f.verborgen);
         t.maschine.laufen(1501);
         EXPECT_EQ(lampen(), f.nach_zwei);
@@ -396,6 +397,9 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     ampeltaste('n');
     EXPECT_FALSE(nacht.sichtbar());
     EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
+    nacht.sichtbar(true);  // as if only one of them were dark
+    ampeltaste('n');
+    EXPECT_TRUE(nacht.sichtbar() && t.bahn().Nachtabschaltung.sichtbar());
     t.p.startampel.taste('a');  // leaves the tank contact of lane 1
     EXPECT_TRUE(t.p.ereignisse[16].aktiv);
     t.maschine.laufen(1);
@@ -413,6 +417,36 @@ TEST_F(Startampel, OhneAmpelBeginntDasRennenSofortUndZaehltKeineStrafe) {
     EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
     EXPECT_TRUE(t.bahn().Command4.bedienbar());
     EXPECT_FALSE(t.p.rennen.zeitgeber.f_straftimer->laeuft());
+}
+
+TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {
+    t.einrichten("Runden", "1", {1});
+    t.p.einst.start_ampel_modus = 1;
+    t.p.param.min_rundenzeit_ms = 100;
+    starten();
+    t.maschine.laufen(gruen_nach);
+    t.runde_nach(500, "1");
+    t.runde_nach(700, "1");
+    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2") || t.p.startampel.laeuft());
+    t.p.auswertung.Command5.klicken();
+    beginnen(1);
+    t.maschine.laufen(gruen_nach);
+    EXPECT_TRUE(rennen_laeuft()) << "the next start is a whole one";
+}
+
+TEST_F(Startampel, AusgeschlosseneSpurHaeltDasEndeNichtAuf) {
+    t.p.einst.fruehstart_option = 2;
+    t.p.einst.zielmodus_erster = false;
+    t.einrichten("Runden", "1", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    starten();
+    t.maschine.laufen(4000);
+    ampeltaste('2');
+    bis_gruen(4002);
+    t.runde_nach(1000, "1");
+    t.runde_nach(6000, "1");
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
 }
 
 TEST_F(Startampel, FensterDesRennensSchliesstAuchDieAmpel) {

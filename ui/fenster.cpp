@@ -1,5 +1,6 @@
 #include "ui/fenster.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -21,8 +22,8 @@ void Fenster::closeEvent(QCloseEvent* ereignis) {
 }
 
 void Fenster::keyPressEvent(QKeyEvent* ereignis) {
-    if (escape_schliesst_ && ereignis->key() == Qt::Key_Escape) {
-        close();
+    if (bei_escape && ereignis->key() == Qt::Key_Escape) {
+        bei_escape();
     } else {
         QWidget::keyPressEvent(ereignis);
     }
@@ -61,12 +62,26 @@ void Fensterverwaltung::zeigen(const std::string& name, anzeige_art art) {
 
 void Fensterverwaltung::verbergen(const std::string& name) {
     const auto gefunden = fenster_.find(name);
-    if (gefunden != fenster_.end()) {
-        gefunden->second->hide();
+    if (gefunden == fenster_.end()) {
+        return;
+    }
+    Fenster* fenster = gefunden->second;
+    const bool war_vorn = fenster->isActiveWindow();
+    fenster->hide();
+    QWidget* dahinter = fenster->parentWidget();
+    if (war_vorn && dahinter != nullptr && dahinter->isVisible()) {  // else the keys may reach no window at all
+        dahinter->activateWindow();
     }
 }
 
 bool Fensterverwaltung::eventFilter(QObject* ziel, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(ziel) != nullptr) {
+        const auto* taste = static_cast<QKeyEvent*>(ereignis);
+        if (taste->isAutoRepeat() &&
+            (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter || taste->key() == Qt::Key_Space)) {
+            return true;
+        }
+    }
     const bool druck = ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick;
     if (druck && ziel->isWidgetType()) {
         QWidget* fenster = static_cast<QWidget*>(ziel)->window();

@@ -21,7 +21,10 @@ public:
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
     /// The Escape key closes the window, unless an open choice takes the key.
-    void escape_schliesst() { escape_schliesst_ = true; }
+    void escape_schliesst() {
+        bei_escape = [this] { close(); };
+    }
+    std::function<void()> bei_escape;
 
 protected:
     Binder& binder() { return binder_; }
@@ -31,7 +34,6 @@ protected:
 
 private:
     Binder binder_;
-    bool escape_schliesst_ = false;
 };
 
 /// Shows and hides the windows for the register.
@@ -42,7 +44,8 @@ public:
 
     void zeigen(const std::string& name, anzeige_art art) override;
     void verbergen(const std::string& name) override;
-    /// The second half of a double click must not hit what lay behind the window that the first half closed.
+    /// A key that is held presses no button again: it was meant for what lay in front of that button. And the second
+    /// half of a double click must not hit what lay behind the window that the first half closed.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:

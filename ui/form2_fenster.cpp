@@ -154,7 +154,7 @@ void Form2Fenster::anordnen() {
     if (logik_.fenster.Nachtabschaltung.sichtbar()) {
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        setGeometry(screen()->geometry());
+        setGeometry(parentWidget()->screen()->geometry());
         return;
     }
     layout()->activate();

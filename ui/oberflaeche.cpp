@@ -32,6 +32,11 @@ Oberflaeche::Oberflaeche(programm& p)
 
     QCoreApplication::instance()->installEventFilter(&fenster);
     form2.escape_schliesst();
+    bahn1.bei_escape = [&p] {  // for a light that is not on the screen
+        if (p.startampel.laeuft()) {
+            p.startampel.fenster_schliessen();
+        }
+    };
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
     einstellungen.escape_schliesst();

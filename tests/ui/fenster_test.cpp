@@ -74,6 +74,36 @@ TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {
     EXPECT_TRUE(o.bahn1.isVisible());
 }
 
+TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
+    t.p.einst.fruehstart_option = 1;
+    t.einrichten("Zeit", "5", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    o.takt.ausfuehren();
+    klick(o.bahn1, "bahn1.Command1");
+    t.maschine.laufen(4000);
+    taste(o.form2, '2');
+    t.maschine.laufen(2);
+    o.takt.ausfuehren();
+    EXPECT_TRUE(finde<QWidget>(o.form2, "Form2.Label1")->isVisible());
+    auto* ok = finde<QAbstractButton>(o.form2, "Form2.abbrampel");
+    QKeyEvent gehalten(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(ok, &gehalten);
+    EXPECT_TRUE(o.form2.isVisible()) << "a key held down says nothing to a button that has just come";
+    QTest::keyClick(ok, Qt::Key_Escape);
+    EXPECT_FALSE(o.form2.isVisible());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&o.bahn1)) << "keys reach the race window again";
+    o.takt.ausfuehren();
+    EXPECT_NE(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1"));
+
+    t.p.einst.start_ampel_modus = 7;
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_FALSE(o.form2.isVisible());
+    QTest::keyClick(&o.bahn1, Qt::Key_Escape);
+    EXPECT_FALSE(t.p.startampel.laeuft());
+    EXPECT_TRUE(o.bahn1.isVisible());
+}
+
 TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
     t.einrichten("Zeit", "1", {1});
     o.bahn1.close();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform_qt/klangdatei.h"
+#include "platform_qt/qt_klang.h"
 
 namespace tarvel {
 namespace {
@@ -83,6 +84,25 @@ TEST(Klangdatei, BeschaedigtesGibtNieUnsinn) {
             }
         }
     }
+}
+
+TEST(Klangquelle, SpaetererKlangSchneidetDenFrueherenUndDanachIstStille) {
+    QAudioFormat format;
+    format.setSampleRate(16000);
+    format.setChannelCount(2);
+    format.setSampleFormat(QAudioFormat::Int16);
+    qt::Klangquelle quelle(format);
+    const auto lesen = [&](qint64 rahmen) {
+        const QByteArray gelesen = quelle.read(rahmen * format.bytesPerFrame());
+        std::vector<qint16> werte(static_cast<std::size_t>(gelesen.size()) / sizeof(qint16));
+        std::memcpy(werte.data(), gelesen.constData(), static_cast<std::size_t>(gelesen.size()));
+        return werte;
+    };
+    EXPECT_EQ(lesen(2), (std::vector<qint16>{0, 0, 0, 0}));
+    quelle.spielen(std::make_shared<qt::klangwerte>(qt::klangwerte{1.0F, 0.5F, 0.25F}));
+    EXPECT_EQ(lesen(1), (std::vector<qint16>{32767, 32767}));
+    quelle.spielen(std::make_shared<qt::klangwerte>(qt::klangwerte{-1.0F}));
+    EXPECT_EQ(lesen(2), (std::vector<qint16>{-32767, -32767, 0, 0}));
 }
 
 TEST(Klangdatei, MitgelieferteKlaengeSindLesbar) {
