@@ -37,6 +37,7 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
       startampel(rennen, einst, d.zeitgeber),
+      k_ampel(rennen, d.zeitgeber),
       auswertung(rennen.umgebung, d.zeitgeber),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
@@ -48,6 +49,10 @@ programm::programm(const plattform::dienste& d)
           {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
     hauptfenster_verbinden();
     optionen_verbinden();
+    rennen.chaos.neustart_ampel = [this] {
+        fenster.zeigen("k_ampel");
+        k_ampel.beginnen();
+    };
     fenster_anmelden();
 }
 
@@ -112,6 +117,7 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
     fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});
     fenster.anmelden("Form2", {[this] { startampel.laden(); }, [this] { startampel.entladen(); }});
+    fenster.anmelden("k_ampel", {[this] { k_ampel.laden(); }, [this] { k_ampel.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
@@ -333,8 +339,8 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 11> reihenfolge{
-        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form2",      "Form3",
+    constexpr std::array<std::string_view, 12> reihenfolge{
+        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form2",      "Form3", "k_ampel",
         "speichernfenster", "Form1", "Tastaturbelegung", "fahrerbild_laden",       "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);

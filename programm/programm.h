@@ -23,6 +23,7 @@
 #include "programm/startfenster.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
+#include "start/k_ampel.h"
 #include "start/startampel.h"
 
 namespace tarvel {
@@ -66,6 +67,7 @@ public:
     tarvel::update_form update_form;
     tarvel::rennen rennen;
     tarvel::startampel startampel;
+    tarvel::k_ampel k_ampel;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;

@@ -77,6 +77,7 @@ struct bahn1 {
         std::string pause;         ///< of the command that begins one, before the first
         std::string pause_wieder;  ///< and after it
         std::string weiter;
+        std::string fortsetzen;
         std::string startampel;
         std::string fruehstart;
     };

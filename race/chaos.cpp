@@ -158,6 +158,7 @@ void chaos::strafformular_zeigen() {
     for (const int spur : alle_spuren) {
         um_.bahn.ch_strafzeit_hacken[spur].sichtbar(um_.param.spur_aktiv[spur]);
     }
+    um_.bahn.ch_Text1.laenge_max(4);
     um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit));
     um_.bahn.ch_strafframe.sichtbar(true);
 }

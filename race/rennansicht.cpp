@@ -76,6 +76,7 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Rundenliste", bahn.wort.rundenliste).text("Strafzeit", bahn.wort.strafzeit);
     texte.fuer_alle("Tankinhalt", bahn.frame_tank);
     texte.text("Chaos / Pause", bahn.wort.pause).text("Chaos/Pause", bahn.wort.pause_wieder);
+    texte.text("Rennen fortsetzen", bahn.wort.fortsetzen);
     texte.text("Weiter", bahn.wort.weiter).text("Die Strafzeit für Fahrer mit", bahn.ch_Label1);
     texte.text("beträgt ", bahn.ch_Label2).text("Sekunden.", bahn.ch_Label3);
     texte.text("Klicken um Strafzeit zuzuordnen!", [&bahn](const std::string& tipp) {

@@ -19,6 +19,7 @@ constexpr double schrift_uhr2 = 780;
 constexpr double schrift_ziel = 620;
 constexpr double schrift_knopf = 420;
 constexpr double schrift_werbung = 380;
+constexpr double schrift_formular = 330;
 
 const char* const knopf_regeln =
     "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
@@ -90,19 +91,45 @@ QWidget* Bahn1Fenster::befehlszeile() {
     aufbau->setContentsMargins(4, 2, 4, 0);
     aufbau->setSpacing(12);
     QPushButton* start = binder().hauptknopf(logik_.bahn1.Command1, "Command1");
+    QPushButton* pause = binder().knopf(logik_.bahn1.Command3, "Command3");
     QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
     QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
     aufbau->addWidget(start, 2);
+    aufbau->addWidget(pause, 2);
     aufbau->addWidget(ende, 1);
     TextAnzeige* werbung = binder().anzeige(logik_.bahn1.werbe_label, "werbe_label", schrift_werbung);
     werbung->setFarbe(QColor(150, 156, 166));
     aufbau->addWidget(werbung, 2);
+    aufbau->addWidget(strafformular(), 3);
     aufbau->addWidget(abbruch, 1);
-    knoepfe_ = {start, ende, abbruch};
-    setTabOrder(start, ende);
+    knoepfe_ = {start, pause, ende, abbruch};
+    setTabOrder(start, pause);
+    setTabOrder(pause, ende);
     setTabOrder(ende, abbruch);
     binder().verbinden(logik_.bahn1.Frame1, zeile, "Frame1", {});
     return zeile;
+}
+
+QWidget* Bahn1Fenster::strafformular() {
+    auto* kasten = new QWidget(this);
+    auto* zeile = new QHBoxLayout(kasten);
+    zeile->setContentsMargins(0, 0, 0, 0);
+    QLabel* vorn = binder().label(logik_.bahn1.ch_Label1, "ch_Label1");
+    auto* haken = new QLabel(QString::fromUtf8("\u2611"), kasten);
+    QLabel* mitte = binder().label(logik_.bahn1.ch_Label2, "ch_Label2");
+    QLineEdit* sekunden = binder().zeile(logik_.bahn1.ch_Text1, "ch_Text1");
+    sekunden->setAlignment(Qt::AlignRight);
+    QObject::connect(sekunden, &QLineEdit::returnPressed, this, [this] { knoepfe_.at(1)->setFocus(); });
+    QLabel* hinten = binder().label(logik_.bahn1.ch_Label3, "ch_Label3");
+    zeile->addStretch();
+    for (QWidget* teil : {static_cast<QWidget*>(vorn), static_cast<QWidget*>(haken), static_cast<QWidget*>(mitte),
+                          static_cast<QWidget*>(sekunden), static_cast<QWidget*>(hinten)}) {
+        zeile->addWidget(teil);
+        formular_.push_back(teil);
+    }
+    zeile->addStretch();
+    binder().verbinden(logik_.bahn1.ch_strafframe, kasten, "ch_strafframe", {});
+    return kasten;
 }
 
 void Bahn1Fenster::nachtabschaltung() {
@@ -141,6 +168,11 @@ void Bahn1Fenster::skalieren() {
     binder().skala(skala);
     for (Rennspalte* spalte : spalten_) {
         spalte->skalieren(skala);
+    }
+    for (QWidget* teil : formular_) {
+        QFont schrift = teil->font();
+        schrift.setPixelSize(std::clamp(static_cast<int>(std::lround(schrift_formular * skala)), 12, 24));
+        teil->setFont(schrift);
     }
     for (QPushButton* knopf : knoepfe_) {
         QFont schrift = knopf->font();

@@ -22,12 +22,14 @@ protected:
 private:
     QWidget* uhrenzeile();
     QWidget* befehlszeile();
+    QWidget* strafformular();
     void nachtabschaltung();
     void skalieren();
 
     rennen& logik_;
     std::vector<Rennspalte*> spalten_;
-    std::vector<QPushButton*> knoepfe_;
+    std::vector<QPushButton*> knoepfe_;  ///< start, pause, end, abort
+    std::vector<QWidget*> formular_;     ///< parts of the penalty form
     QWidget* nacht_ = nullptr;
 };
 

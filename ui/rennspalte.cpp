@@ -22,6 +22,7 @@ constexpr double schrift_liste = 560;
 constexpr double schrift_strafe = 480;
 constexpr double schrift_tank = 620;
 constexpr double hoehe_tank = 520;
+constexpr double hoehe_gelb = 260;
 constexpr double lampe_groesse = 440;
 
 const QColor leise(190, 195, 203);
@@ -44,6 +45,13 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
         anzeige->setFett(true);
         aufbau->addWidget(anzeige);
     };
+    gelb_ = new QWidget(this);
+    gelb_->setAutoFillBackground(true);
+    QPalette gelb = gelb_->palette();
+    gelb.setColor(QPalette::Window, QColor(255, 214, 10));
+    gelb_->setPalette(gelb);
+    binder.verbinden(bahn.yellowframe[spur], gelb_, "yellowframe_" + nummer, {});
+    aufbau->addWidget(gelb_);
     aufbau->addWidget(namenszeile(bahn, spur, binder));
     aufbau->addWidget(kopfzeile(bahn, spur, binder));
     zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
@@ -87,6 +95,8 @@ QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
     name->setFett(true);
     aufbau->addWidget(nummer_, 0, Qt::AlignVCenter);
     aufbau->addWidget(name, 1);
+    schuld_ = binder.kasten(bahn.ch_strafzeit_hacken[spur], "ch_strafzeit_hacken_" + QString::number(spur));
+    aufbau->addWidget(schuld_, 0, Qt::AlignVCenter);
     return zeile;
 }
 
@@ -152,6 +162,8 @@ void Rennspalte::skalieren(double skala) {
         lampe->setFixedSize(kante, kante);
     }
     balken_->setFixedHeight(std::max(12, static_cast<int>(std::lround(hoehe_tank * skala))));
+    gelb_->setFixedHeight(std::max(6, static_cast<int>(std::lround(hoehe_gelb * skala))));
+    schuld_->setStyleSheet(QString("QCheckBox::indicator { width: %1px; height: %1px; }").arg(kante));
     const int rand = std::max(4, static_cast<int>(std::lround(110 * skala)));
     layout()->setContentsMargins(rand, 10 + rand, rand, rand);
 }

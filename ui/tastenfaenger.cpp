@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QWidget>
 #include <utility>
 
@@ -16,8 +17,9 @@ Tastenfaenger::Tastenfaenger(QWidget* fenster, std::function<bool(int)> belegt, 
 
 bool Tastenfaenger::eventFilter(QObject* ziel, QEvent* ereignis) {
     // The first receiver only: an ignored key travels on to the parents, and would count again there.
-    const QWidget* empfaenger = fenster_->focusWidget() != nullptr ? fenster_->focusWidget() : fenster_;
-    if (ereignis->type() == QEvent::KeyPress && ziel == empfaenger && fenster_->isActiveWindow()) {
+    QWidget* empfaenger = fenster_->focusWidget() != nullptr ? fenster_->focusWidget() : fenster_;
+    const bool tippt = qobject_cast<QLineEdit*>(empfaenger) != nullptr;  // a field takes what is typed into it
+    if (ereignis->type() == QEvent::KeyPress && ziel == empfaenger && !tippt && fenster_->isActiveWindow()) {
         return nehmen(*static_cast<QKeyEvent*>(ereignis));
     }
     return QObject::eventFilter(ziel, ereignis);

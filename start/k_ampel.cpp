@@ -1,0 +1,152 @@
+#include "start/k_ampel.h"
+
+#include <string>
+
+#include "start/ampelmodus.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int schritt_ms = 1500;
+constexpr int gruen_ms = 2500;
+constexpr int automatik_ms = 500;
+constexpr farbe rot = 255;
+
+using plattform::zeitgeber_art;
+using reihe2 = ampelmodus::zweite_reihe;
+
+/// Two of the red lamps of a light with five burn before the first step, one of a light with four.
+int lampe_vor_dem_ersten(int start_ampel_modus) {
+    return ampelmodus_von(start_ampel_modus).rote_schritte == 4 ? 1 : 2;
+}
+
+}  // namespace
+
+k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_(r.umgebung) {
+    for (std::size_t i = 0; i < schritte; ++i) {
+        rot_.at(i) = zeitgeber.erzeugen(zeitgeber_art::zaehlend, schritt_ms);
+        rot_.at(i)->bei_tick = [this, i] { rot_tick(i); };
+    }
+    Timer2_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, gruen_ms);
+    Timer2_->bei_tick = [this] { gruen_tick(); };
+    training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_ms);
+    training_autotimer_->bei_tick = [this] {
+        training_autotimer_->aus();
+        um_.param.training_autostart = false;
+        beginnen();
+    };
+    Command1.bei_klick = [this] { Command1_klick(); };
+}
+
+void k_ampel::laden() {
+    const ampelmodus& modus = ampelmodus_von(um_.einst.start_ampel_modus);
+    k_reihe2_ = modus.reihe2 == reihe2::rot;
+    for (std::size_t i = 0; i < schritte; ++i) {
+        k_ampel_bild(i, "rt_aus");
+        k_ampel_bild(i + schritte, k_reihe2_ ? "rt_aus" : "gr_aus");
+        k_ampelbild.at(i + schritte).sichtbar(modus.reihe2 != reihe2::keine);
+        Shape1.at(i).hintergrund(um_.einst.farbe_ampel_rot_aus);
+        Shape1.at(i + schritte)
+            .hintergrund(k_reihe2_ ? um_.einst.farbe_ampel_rot_aus : um_.einst.farbe_ampel_gruen_aus);
+    }
+    titel.text(um_.bahn.wort.fortsetzen);
+    Command1.text(um_.bahn.wort.fortsetzen);
+    Command1.aktiviert(true);
+    k_nachtabschaltung.sichtbar(false);
+    titel.fokus_setzen();  // a second press of the chaos key's neighbour must not end the pause
+    if (um_.param.training_autostart) {
+        training_autotimer_->an();
+    }
+}
+
+void k_ampel::entladen() {
+    zeitgeber_aus();
+}
+
+void k_ampel::zeitgeber_aus() {
+    for (const auto& schritt : rot_) {
+        schritt->aus();
+    }
+    Timer2_->aus();
+    training_autotimer_->aus();
+}
+
+void k_ampel::k_ampel_bild(std::size_t nummer, const char* name) {
+    k_ampelbild.at(nummer).datei(std::string("ampel/") + name + ".gif");
+}
+
+void k_ampel::strom_aus() {
+    um_.ausgaben.relais_on(0);
+}
+
+void k_ampel::Command1_klick() {
+    const int vorab = lampe_vor_dem_ersten(um_.einst.start_ampel_modus);
+    for (int lampe = 1; lampe <= vorab; ++lampe) {
+        um_.ausgaben.ampelnRon(lampe);
+    }
+    if (!um_.zustand.chaos_aktiv) {
+        um_.fenster.entladen("auswertung");
+        k_nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus > 0);
+        um_.ereignisse.rundenzaehlung_leeren();
+    }
+    strom_aus();
+    rot_.front()->an();
+    Command1.aktiviert(false);
+}
+
+void k_ampel::rot_tick(std::size_t schritt) {
+    if (!um_.zustand.chaos_aktiv) {
+        strom_aus();
+    }
+    rot_.at(schritt)->aus();
+    Shape1.at(schritt).hintergrund(rot);
+    k_ampel_bild(schritt, "rt_an");
+    if (k_reihe2_) {
+        Shape1.at(schritt + schritte).hintergrund(rot);
+        k_ampel_bild(schritt + schritte, "rt_an");
+    }
+    um_.ausgaben.ampelnRon(lampe_vor_dem_ersten(um_.einst.start_ampel_modus) + static_cast<int>(schritt) + 1);
+    um_.sounds.spielen(sound::ampelschritt);
+    if (schritt + 1 < schritte) {
+        rot_.at(schritt + 1)->an();
+    } else {
+        Timer2_->an();
+    }
+}
+
+void k_ampel::gruen_tick() {
+    Timer2_->aus();
+    const bool mit_gruen = ampelmodus_von(um_.einst.start_ampel_modus).reihe2 == reihe2::gruen;
+    for (std::size_t i = 0; i < schritte; ++i) {
+        k_ampel_bild(i, "rt_aus");
+        k_ampel_bild(i + schritte, mit_gruen ? "gr_an" : "rt_aus");
+    }
+    for (form& licht : Shape1) {
+        licht.hintergrund(um_.einst.farbe_ampel_rot_aus);
+    }
+    if (um_.zustand.chaos_aktiv) {
+        r_.chaos.chaosende_routine();
+    } else {
+        rennen_fortsetzen();
+    }
+    um_.ausgaben.ampelnRoff(0);
+    um_.ausgaben.ampelnGRon();
+    r_.strafen.strom_wiederherstellen();
+    um_.fenster.entladen("k_ampel");
+}
+
+void k_ampel::rennen_fortsetzen() {
+    renn_zustand& zustand = um_.zustand;
+    const zeit_ms fortsetz_zeit = um_.zeit.ereignis_zeit_lesen();
+    const zeit_ms unterbrechung = fortsetz_zeit - zustand.renn_ende_stempel;
+    zustand.pause_abzug += unterbrechung;
+    for (spur_zustand& spur : zustand.spur) {
+        spur.pause_abzug += unterbrechung;
+    }
+    um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
+    zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
+    um_.ereignisse.messzeit = fortsetz_zeit;
+    um_.zeitgeber.rennen_an();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "core/spuren.h"
+#include "platform/zeitgeber.h"
+#include "race/rennen.h"
+
+namespace tarvel {
+
+/// The small start light of a race that goes on rather than begins: after a pause, or after the result window. Three
+/// reds, then green; no false starts here.
+class k_ampel {
+public:
+    k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber);
+
+    static constexpr std::size_t schritte = 3;
+
+    std::array<bild, 2 * schritte> k_ampelbild;  ///< 1 to 3 are row 1, 4 to 6 row 2; index is the number - 1
+    std::array<form, 2 * schritte> Shape1;       ///< a light each for the lamps, in the settings' colours
+    rahmen titel;                                ///< carries the window's title
+    rahmen k_nachtabschaltung;                   ///< black ground over the whole screen; the lamps stay in sight
+    befehl Command1;                             ///< starts the light
+
+    void laden();
+    void entladen();
+    /// The light begins, if it has not yet.
+    void beginnen() { Command1.klicken(); }
+
+private:
+    void Command1_klick();
+    void strom_aus();
+    void rot_tick(std::size_t schritt);
+    void gruen_tick();
+    void rennen_fortsetzen();
+    void k_ampel_bild(std::size_t nummer, const char* name);
+    void zeitgeber_aus();
+
+    rennen& r_;
+    const renn_umgebung& um_;
+    bool k_reihe2_ = false;                                            ///< the second row lights red with the first
+    std::array<std::unique_ptr<plattform::zeitgeber>, schritte> rot_;  ///< Timer1, Timer4, Timer5
+    std::unique_ptr<plattform::zeitgeber> Timer2_;                     ///< green
+    std::unique_ptr<plattform::zeitgeber> training_autotimer_;         ///< presses the command
+};
+
+}  // namespace tarvel
