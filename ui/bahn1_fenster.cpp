@@ -22,6 +22,8 @@ constexpr double schrift_werbung = 380;
 constexpr double schrift_formular = 330;
 
 const char* const knopf_regeln =
+    "QLabel { color: #f0f2f5; }"
+    "QLineEdit { max-width: 60px; }"
     "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
     " padding: 6px 18px; }"
     "QPushButton:hover { background: #383d47; }"

@@ -10,6 +10,7 @@ Oberflaeche::Oberflaeche(programm& p)
       form3(p.form3, p.ablage, takt, &form1),
       bahn1(p.rennen, takt, &form1),
       form2(p.startampel, p.einst, p.ablage, takt, &bahn1),
+      k_ampel(p.k_ampel, p.rennen.befehle, p.einst, p.ablage, takt, &bahn1),
       auswertung(p.auswertung, takt, &bahn1),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
@@ -22,6 +23,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("Form3", &form3);
     fenster.aufnehmen("bahn1", &bahn1);
     fenster.aufnehmen("Form2", &form2);
+    fenster.aufnehmen("k_ampel", &k_ampel);
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
@@ -47,6 +49,7 @@ Oberflaeche::Oberflaeche(programm& p)
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
     bahn1.bei_schliessen = [&p] { p.rennen.befehle.fenster_schliessen(); };
     form2.bei_schliessen = [&p] { p.startampel.fenster_schliessen(); };
+    k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };

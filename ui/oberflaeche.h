@@ -8,6 +8,7 @@
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
 #include "ui/form2_fenster.h"
+#include "ui/k_ampel_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
@@ -29,6 +30,7 @@ public:
     Form3Fenster form3;
     Bahn1Fenster bahn1;
     Form2Fenster form2;
+    KAmpelFenster k_ampel;
     AuswertungFenster auswertung;
     TastaturFenster tastatur;
     SpeichernFenster speichern;

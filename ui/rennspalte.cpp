@@ -96,6 +96,9 @@ QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
     aufbau->addWidget(nummer_, 0, Qt::AlignVCenter);
     aufbau->addWidget(name, 1);
     schuld_ = binder.kasten(bahn.ch_strafzeit_hacken[spur], "ch_strafzeit_hacken_" + QString::number(spur));
+    QSizePolicy haelt_platz = schuld_->sizePolicy();  // the name stays where it is
+    haelt_platz.setRetainSizeWhenHidden(true);
+    schuld_->setSizePolicy(haelt_platz);
     aufbau->addWidget(schuld_, 0, Qt::AlignVCenter);
     return zeile;
 }

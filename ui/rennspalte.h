@@ -13,8 +13,6 @@ class Rennspalte : public QWidget {
 public:
     Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern);
 
-    /// The tick box on the lane's name that puts the blame for a pause on it.
-    QCheckBox* schuld() const { return schuld_; }
     /// Brings the list's font and the spacing to the scale of the window.
     void skalieren(double skala);
 
@@ -28,7 +26,7 @@ private:
 
     Tankbalken* balken_ = nullptr;
     QListView* liste_ = nullptr;
-    QCheckBox* schuld_ = nullptr;
+    QCheckBox* schuld_ = nullptr;    ///< puts the blame for a pause on the lane
     QWidget* gelb_ = nullptr;        ///< bar in a pause
     TextAnzeige* nummer_ = nullptr;  ///< number of the lane, which is its key
     std::vector<Lampe*> lampen_;
