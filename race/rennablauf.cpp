@@ -56,6 +56,7 @@ void rennablauf::rennen_zuruecksetzen() {
     t_.ende.zuruecksetzen();
     t_.ansicht.anzeigen_leeren();
     t_.tank.zuruecksetzen();
+    t_.sektor.zuruecksetzen();
     pause.zuruecksetzen();
     t_.plaetze.aufstellen();
     t_.uhr.zuruecksetzen();
@@ -156,7 +157,7 @@ void rennablauf::renntimer_tick() {
             um_.bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
         }
     }
-    // Place of sectors.
+    t_.sektor.sektoren_auswerten();
     t_.sensoren.soundsensoren_pruefen();
     pause.pruefen();
     for (spur_zustand& spur : zustand.spur) {

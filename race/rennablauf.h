@@ -8,6 +8,7 @@
 #include "race/rennende.h"
 #include "race/rennuhr.h"
 #include "race/rundenzaehlung.h"
+#include "race/sektoren.h"
 #include "race/soundsensoren.h"
 #include "race/umgebung.h"
 
@@ -23,6 +24,7 @@ public:
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
         tanken& tank;
+        sektoren& sektor;
         soundsensoren& sensoren;
     };
 

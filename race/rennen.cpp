@@ -15,9 +15,10 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       ansicht(umgebung),
       strafen(umgebung, ansicht),
       tanken(umgebung, strafen),
-      zaehlung(umgebung, plaetze, ende, tanken),
+      sektoren(umgebung),
+      zaehlung(umgebung, plaetze, ende, tanken, sektoren),
       sensoren(umgebung),
-      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, tanken, sensoren}),
+      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, tanken, sektoren, sensoren}),
       chaos(umgebung, {ablauf, ansicht, strafen}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};

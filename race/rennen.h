@@ -37,6 +37,7 @@ struct rennen {
     rennansicht ansicht;
     tarvel::strafen strafen;
     tarvel::tanken tanken;
+    tarvel::sektoren sektoren;
     rundenzaehlung zaehlung;
     soundsensoren sensoren;
     rennablauf ablauf;

@@ -19,6 +19,7 @@ inline constexpr int tankwarnung = 24;      // + lane
 inline constexpr int tank_leer = 30;        // + lane
 inline constexpr int runde = 37;
 inline constexpr int ampelschritt = 46;
+inline constexpr int sektorzeit = 48;
 inline constexpr int erster_im_ziel = 47;
 }  // namespace sound
 

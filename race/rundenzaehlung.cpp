@@ -62,8 +62,9 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
         return;
     }
     zeit = std::max<zeit_ms>(zeit - zustand.pause_abzug, 0);
-    zustand.pause_abzug = 0;
     um_.zustand.rundenzeiten.setzen(spur, zustand.runden_zeile, zeit, stempel);
+    sektoren_.letzten_sektor_speichern(spur, zustand.runden_zeile, stempel, zustand.pause_abzug);
+    zustand.pause_abzug = 0;
     ++zustand.runden;
     zustand.runden_zeile = zustand.runden + 1;
     um_.zustand.rundenzeiten.leeren(spur, zustand.runden_zeile);

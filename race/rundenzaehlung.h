@@ -2,6 +2,7 @@
 
 #include "race/positionen.h"
 #include "race/rennende.h"
+#include "race/sektoren.h"
 #include "race/tanken.h"
 #include "race/umgebung.h"
 
@@ -11,8 +12,8 @@ namespace tarvel {
 /// crossing that breaks a rule vanishes silently.
 class rundenzaehlung {
 public:
-    rundenzaehlung(const renn_umgebung& um, positionen& plaetze, rennende& ende, tanken& t)
-        : um_(um), plaetze_(plaetze), ende_(ende), tanken_(t) {}
+    rundenzaehlung(const renn_umgebung& um, positionen& plaetze, rennende& ende, tanken& t, sektoren& s)
+        : um_(um), plaetze_(plaetze), ende_(ende), tanken_(t), sektoren_(s) {}
 
     /// One lap step over all lanes, once per race tick.
     void runden_auswerten();
@@ -36,6 +37,7 @@ private:
     positionen& plaetze_;
     rennende& ende_;
     tanken& tanken_;
+    sektoren& sektoren_;
 };
 
 }  // namespace tarvel

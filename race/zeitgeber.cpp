@@ -34,6 +34,9 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
     for (auto& sperre : soundtrigger) {
         sperre = einmalig(dienst, 3000);
     }
+    for (auto& sperre : sekt_timer) {
+        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 1500);
+    }
     for (const int spur : alle_spuren) {
         tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
         wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500);
@@ -74,6 +77,9 @@ void rennzeitgeber::alle_aus() const {
         sperre->aus();
     }
     for (const auto& sperre : soundtrigger) {
+        sperre->aus();
+    }
+    for (const auto& sperre : sekt_timer) {
         sperre->aus();
     }
     for (const int spur : alle_spuren) {

@@ -9,6 +9,9 @@
 namespace tarvel {
 
 inline constexpr int soundsensoren_max = 8;
+inline constexpr int sektorsensoren_max = 12;
+/// Event of the first sector sensor; those of all lanes follow it, two a lane.
+inline constexpr int erste_zwischenzeit = 42;
 
 /// The timers of the race window.
 struct rennzeitgeber {
@@ -31,6 +34,8 @@ struct rennzeitgeber {
     spuren<std::unique_ptr<plattform::zeitgeber>> wartetimer;  ///< ends the hold of a lane with a full tank
     spuren<std::unique_ptr<plattform::zeitgeber>>
         t_straftimer;  ///< penalty of an empty tank, in hundredths of a second
+    /// Lock-out of each sector sensor, index is its event - `erste_zwischenzeit`.
+    std::array<std::unique_ptr<plattform::zeitgeber>, sektorsensoren_max> sekt_timer;
     /// Hold-off of each sound sensor.
     std::array<std::unique_ptr<plattform::zeitgeber>, soundsensoren_max> soundtrigger;
     /// One per lane, index lane - 1: blocks the next crossing after a counted lap.

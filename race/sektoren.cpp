@@ -1,0 +1,127 @@
+#include "race/sektoren.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "core/text.h"
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int sensoren_je_spur = 2;
+enum class anzeige_ort { keine, klein, gross };
+
+/// Event of a lane's sector sensor 1 or 2.
+constexpr ereignis_art art_von(int spur, int sensor) {
+    return erste_zwischenzeit + sensoren_je_spur * (spur - 1) + sensor - 1;
+}
+
+void anzeigen_in(bahn1& bahn, int spur, int ort, const std::string& text) {
+    if (ort == static_cast<int>(anzeige_ort::klein)) {
+        bahn.brunde[spur].text(text);
+    } else if (ort == static_cast<int>(anzeige_ort::gross)) {
+        bahn.lrunde[spur].text(text);
+    }
+}
+
+}  // namespace
+
+double sektor_tempo(double meter, zeit_ms zeit) {
+    constexpr double ms_je_stunde = 3600000;
+    return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / ms_je_stunde);
+}
+
+sektoren::sektoren(const renn_umgebung& um) : um_(um) {
+    for (std::size_t i = 0; i < um_.zeitgeber.sekt_timer.size(); ++i) {
+        um_.zeitgeber.sekt_timer.at(i)->bei_tick = [this, i] {
+            um_.zeitgeber.sekt_timer.at(i)->aus();
+            um_.ereignisse[erste_zwischenzeit + static_cast<int>(i)].aktiv = false;  // a second hit is dropped
+        };
+    }
+}
+
+void sektoren::zuruecksetzen() {
+    for (zeilen& spur : sektorzeiten_) {
+        spur.assign(runden_max + 2, {});
+    }
+}
+
+zeit_ms sektoren::sektorzeit(int spur, int sektor, int zeile) const {
+    const zeilen& speicher = sektorzeiten_[spur];
+    return zeile < 0 || zeile >= static_cast<int>(speicher.size())
+               ? 0
+               : speicher[static_cast<std::size_t>(zeile)].at(static_cast<std::size_t>(sektor - 1));
+}
+
+void sektoren::sektorzeit(int spur, int sektor, int zeile, zeit_ms zeit) {
+    zeilen& speicher = sektorzeiten_[spur];
+    if (zeile >= 0 && zeile < static_cast<int>(speicher.size())) {
+        speicher[static_cast<std::size_t>(zeile)].at(static_cast<std::size_t>(sektor - 1)) = zeit;
+    }
+}
+
+void sektoren::sektoren_auswerten() {
+    if (!um_.einst.sektor_an[0]) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        for (int sensor = 1; sensor <= sensoren_je_spur; ++sensor) {
+            const ereignis_art art = art_von(spur, sensor);
+            const auto& sperre = um_.zeitgeber.sekt_timer.at(static_cast<std::size_t>(art - erste_zwischenzeit));
+            if (um_.ereignisse[art].aktiv && !sperre->laeuft() &&
+                um_.einst.sektor_an.at(static_cast<std::size_t>(sensor)) && !um_.zustand.spur[spur].ziel_erreicht) {
+                sperre->an();
+                um_.ereignisse[art].aktiv = false;
+                sektorzeit_verarbeiten(spur, sensor);
+            }
+        }
+    }
+}
+
+void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const int zeile = zustand.runden_zeile;
+    if (zeile <= 0) {
+        return;  // has not crossed the line yet
+    }
+    zeit_ms basis = um_.zustand.rundenzeiten.stempel(spur, zeile - 1);
+    if (sektor == 2) {
+        basis += sektorzeit(spur, 1, zeile);
+    }
+    const zeit_ms zeit =
+        um_.ereignisse[art_von(spur, sektor)].ereignis_zeit - basis + zustand.strafzeit - zustand.pause_abzug;
+    sektorzeit(spur, sektor, zeile, zeit);
+    anzeigen(spur, sektor, zeit);
+    um_.sounds.spielen(sound::sektorzeit);
+}
+
+void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
+    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen));
+    const std::string& laenge = um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur];
+    if (laenge.empty()) {
+        return;
+    }
+    double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
+    if (um_.einst.real_speed) {
+        tempo *= zahl_lesen(um_.haupt.massstab.text());
+    }
+    const auto hundertstel = std::llround(tempo * 100);
+    std::string text = um_.einst.real_speed ? std::to_string(std::llround(tempo))
+                                            : std::to_string(hundertstel / 100) + "," + ziffern(hundertstel % 100, 2);
+    text += um_.bahn.zeilenansicht ? " k" : " k/h";
+    anzeigen_in(um_.bahn, spur, um_.einst.topspeed_anzeige, text);
+}
+
+void sektoren::letzten_sektor_speichern(int spur, int zeile, zeit_ms stempel, zeit_ms pause) {
+    if (!um_.einst.sektor_an[0] || zeile <= 0) {
+        return;
+    }
+    const zeit_ms bisher = sektorzeit(spur, 1, zeile) + sektorzeit(spur, 2, zeile);
+    const zeit_ms zeit =
+        stempel - um_.zustand.rundenzeiten.stempel(spur, zeile - 1) - bisher - pause + um_.zustand.spur[spur].strafzeit;
+    sektorzeit(spur, um_.einst.sektor_an[3] ? 3 : 2, zeile, zeit);
+}
+
+}  // namespace tarvel

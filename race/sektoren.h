@@ -1,0 +1,39 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// Sector times and speeds from the sensors between the line and the line.
+class sektoren {
+public:
+    explicit sektoren(const renn_umgebung& um);
+
+    /// For a new race.
+    void zuruecksetzen();
+    /// Once per race tick, if any sector sensor is in use.
+    void sektoren_auswerten();
+    /// The lap of row `zeile` closes with a crossing at `stempel`; `pause` ms of it do not count.
+    void letzten_sektor_speichern(int spur, int zeile, zeit_ms stempel, zeit_ms pause);
+
+    /// Time of sector 1 to 3 in ms, 0 for none; `zeile` as in the lap store.
+    zeit_ms sektorzeit(int spur, int sektor, int zeile) const;
+
+private:
+    using zeilen = std::vector<std::array<zeit_ms, 3>>;
+
+    void sektorzeit_verarbeiten(int spur, int sektor);
+    void anzeigen(int spur, int sektor, zeit_ms zeit);
+    void sektorzeit(int spur, int sektor, int zeile, zeit_ms zeit);
+
+    renn_umgebung um_;
+    spuren<zeilen> sektorzeiten_;
+};
+
+/// km/h over `meter` in `zeit` ms; 0 for no time.
+double sektor_tempo(double meter, zeit_ms zeit);
+
+}  // namespace tarvel
