@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "core/spuren.h"
@@ -68,6 +69,13 @@ struct renn_zustand {
     std::string minuten_gefahren;      ///< minutes on the second clock when the race ended
     std::string rennen_start_uhrzeit;  ///< date and time of day
     std::string rennen_ende_uhrzeit;
+
+    /// Pause in the lap of row `zeile`, 0 for none: it comes off the time of whatever lap takes this one in.
+    zeit_ms pause_der_runde(int spur_nummer, int zeile) const {
+        const zeit_ms davor = zeile > 0 ? rundenzeiten.stempel(spur_nummer, zeile - 1) : 0;
+        const zeit_ms vergangen = rundenzeiten.stempel(spur_nummer, zeile) - davor + spur[spur_nummer].strafzeit;
+        return davor == 0 ? 0 : std::max<zeit_ms>(vergangen - rundenzeiten.rundenzeit(spur_nummer, zeile), 0);
+    }
 };
 
 }  // namespace tarvel

@@ -138,6 +138,9 @@ bool rundenzaehlung::runde_abziehen(int spur) {
     if (zustand.disqualifiziert) {
         return false;
     }
+    if (zustand.runden > 0) {
+        zustand.pause_abzug += um_.zustand.pause_der_runde(spur, zustand.runden);
+    }
     --zustand.runden;
     if (zustand.runden == -1) {
         zustand.runden = 0;

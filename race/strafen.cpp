@@ -28,7 +28,18 @@ void strafen::spur_strom_aus(int spur) {
     ansicht_.kleine_ampel(spur, kleines_licht::rot);
 }
 
+void strafen::alle_strom_an() {
+    for (const int spur : alle_spuren) {
+        um_.zustand.spur[spur].strom_aus = false;
+        um_.ausgaben.relais_off(spur);
+    }
+}
+
 void strafen::spur_strom_an(int spur) {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    if (zustand.disqualifiziert || (zustand.ziel_erreicht && um_.param.spur_aktiv[spur])) {
+        return;
+    }
     um_.zustand.spur[spur].strom_aus = false;
     um_.ausgaben.relais_off(spur);
     if (um_.zeitgeber.renntimer->laeuft()) {

@@ -16,7 +16,10 @@ public:
 
     /// Cuts the lane's power; its small light goes to red.
     void spur_strom_aus(int spur);
+    /// A penalty is served: the lane gets its power back, unless it is out or home meanwhile.
     void spur_strom_an(int spur);
+    /// Power for every lane, whatever held it off.
+    void alle_strom_an();
     /// Power for all lanes but those that are home, out or in a penalty.
     void strom_wiederherstellen();
 

@@ -178,6 +178,7 @@ bool tanken::runde_nehmen(int spur) {
     if (zustand.runden <= 0) {
         return false;
     }
+    zustand.pause_abzug += um_.zustand.pause_der_runde(spur, zustand.runden);
     --zustand.runden;
     --zustand.runden_zeile;
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
@@ -247,11 +248,13 @@ void tanken::t_straftimer_tick(int spur) {
         speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren,
                         speicher.stempel(spur, zeile) + verloren);
     }
+    const zeit_ms in_der_runde = um_.zustand.pause_der_runde(spur, zustand.runden_zeile);
     ++zustand.runden;
     ++zustand.runden_zeile;
     um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
     const zeit_ms zeit = um_.ereignisse.messzeit - speicher.stempel(spur, zustand.runden_zeile - 2) +
                          zustand.strafzeit - zustand.pause_abzug;
+    zustand.pause_abzug = std::max<zeit_ms>(zustand.pause_abzug - in_der_runde, 0);
     rundenzeiten_pruefen(zeit, zustand.runden_zeile, spur);
 }
 

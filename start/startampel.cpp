@@ -242,8 +242,8 @@ void startampel::abbrampel_klick() {
     um_.sounds.spielen(sound::rennen_abgebrochen);
     for (const int spur : alle_spuren) {
         stw_[spur]->aus();
-        r_.strafen.spur_strom_an(spur);
     }
+    r_.strafen.alle_strom_an();
     zeitgeber_aus();
     r_.ablauf.start_abgebrochen();
     fenster.Nachtabschaltung.sichtbar(false);

@@ -1,0 +1,247 @@
+// Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
+// hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <string>
+
+#include "tests/plattform/ausgabe_protokoll.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+using ausgang = schaltung::ausgang;
+
+/// A device that only knows what is on now.
+struct stromstand : ausgabe_geraet {
+    spuren<bool> an;
+
+    stromstand() { an.fuellen(true); }
+    void schalten(const schaltung& befehl) override {
+        for (const int spur : alle_spuren) {
+            if (befehl.was == ausgang::bahnstrom && (befehl.nummer == 0 || befehl.nummer == spur)) {
+                an[spur] = befehl.an;
+            }
+        }
+    }
+};
+
+class zufallsrennen {
+public:
+    explicit zufallsrennen(unsigned saat) : z_(saat) { t_.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, strom_); }
+
+    void fahren() {
+        einrichten();
+        starten();
+        for (int ms = 0; ms < laengstens_ms && laeuft(); ++ms) {
+            merken();
+            handeln();
+            t_.maschine.laufen(1);
+            if (laeuft()) {
+                pruefen();
+            }
+        }
+        EXPECT_FALSE(laeuft()) << "a race comes to its end";
+    }
+
+private:
+    static constexpr int laengstens_ms = 300000;
+
+    /// What the lane was before the millisecond.
+    struct vorher {
+        int runden = -1;
+        bool gesperrt = false;
+        bool zwei_strafen = false;  ///< the earlier end of two penalties switches the power on, as it is meant
+        zeit_ms pausen_bis_runde = 0;
+        bool zusammenhang = false;  ///< the lap before was counted under our eyes
+    };
+
+    int unter(int n) { return static_cast<int>(z_() % static_cast<unsigned>(n)); }
+    bool selten(int ms) { return unter(ms) == 0; }
+    spur_zustand& spur(int nummer) { return t_.spur(nummer); }
+    renn_zustand& zustand() { return t_.p.rennen.zustand; }
+    bool laeuft() { return !zustand().rennen_beendet; }
+    void taste(char zeichen) { t_.p.rennen.befehle.taste(zeichen); }
+
+    void einrichten() {
+        einstellungen& e = t_.p.einst;
+        t_.p.belegung.vorbelegen(belegung_stufe::alle);
+        e.zielmodus_erster = selten(2);
+        e.runde_beenden = selten(3);
+        e.tank_straf_option = 1 + unter(4);
+        e.tank_wartezeit = unter(3) * 50;
+        e.tank_strafzeit = 100 + unter(300);
+        e.tank_inhalt = 20 + unter(50);
+        e.tank_runden_modus = unter(3);
+        e.tank_art = 1 + unter(2);
+        e.sensor_timeout = unter(3) * 1000;
+        e.chaosampel_an = selten(2);
+        e.chaos_strafe_strom = selten(2);
+        e.chaos_strafzeit = unter(5) - 1;
+        e.fruehstart_option = unter(6);
+        e.fruehstart_strafzeit = 50 + unter(300);
+        e.sektor_an = {true, true, true, selten(2)};
+        e.sound_an = !selten(5);
+        t_.p.form1.wertmin.eingeben("0,5");
+        if (selten(2)) {
+            t_.p.form1.t_aktiv.umschalten();
+        }
+    }
+
+    void starten() {
+        const bool zeit = selten(2);
+        t_.einrichten(zeit ? "Zeit" : "Runden", zeit ? "0,25" : "7", {1, 2, 4, 6});
+        t_.p.einst.start_ampel_modus = selten(3) ? 1 : 0;
+        t_.bahn().Command1.klicken();
+        while (!t_.p.rennen.zeitgeber.renntimer->laeuft()) {
+            if (selten(20000)) {
+                t_.p.startampel.taste('1' + unter(6));
+            }
+            t_.maschine.laufen(1);
+            if (!laeuft() || t_.p.startampel.fenster.abbrampel.text() == "OK") {  // a false start has stopped it
+                t_.p.startampel.fenster.abbrampel.klicken();
+                t_.p.einst.fruehstart_option = 0;
+                t_.bahn().Command1.klicken();
+            }
+        }
+    }
+
+    void handeln() {
+        for (const int nummer : {1, 2, 4, 6}) {
+            if (selten(zustand().chaos_aktiv ? 4000 : 2500)) {
+                taste(static_cast<char>('0' + nummer));
+            }
+            if (selten(20000)) {
+                taste("qwertz"[nummer - 1]);
+            }
+            if (selten(15000)) {
+                taste("asdfgh"[nummer - 1]);
+            }
+            if (selten(3000)) {
+                taste("uiop"[unter(4)]);
+            }
+        }
+        if (selten(60000)) {
+            const int nummer = 1 + unter(6);
+            taste("!\"\xA7$%&"[nummer - 1]);
+            bisher_[nummer].zusammenhang = false;
+            merken();
+        }
+        if (selten(zustand().chaos_aktiv ? 3000 : 12000)) {
+            taste('c');
+        }
+        if (zustand().chaos_aktiv && selten(1500)) {
+            t_.bahn().ch_strafzeit_hacken[1 + unter(6)].umschalten();
+        }
+    }
+
+    bool ch_strafe(int nummer) { return t_.p.rennen.zeitgeber.straftimer_ch[nummer]->laeuft(); }
+
+    void merken() {
+        pause_vorher_ = zustand().chaos_aktiv;
+        for (const int nummer : alle_spuren) {
+            vorher& v = bisher_[nummer];
+            const spur_zustand& s = spur(nummer);
+            v.runden = s.runden;
+            v.gesperrt = s.fruehstart_sperre || s.disqualifiziert || s.ziel_erreicht || s.tank_strafe_aktiv;
+            const int strafen = (s.tank_strafe_aktiv ? 1 : 0) + (ch_strafe(nummer) ? 1 : 0) +
+                                (t_.p.rennen.zeitgeber.f_straftimer->laeuft() && s.fruehstart_sperre ? 1 : 0);
+            v.zwei_strafen = strafen > 1 || (v.zwei_strafen && strafen == 1);
+        }
+    }
+
+    void pruefen() {
+        pause_pruefen();
+        for (const int nummer : alle_spuren) {
+            SCOPED_TRACE(nummer);
+            runde_pruefen(nummer);
+            strom_pruefen(nummer);
+            EXPECT_EQ(spur(nummer).runden_zeile, spur(nummer).runden + 1);
+            EXPECT_GE(spur(nummer).tank_inhalt, 0);
+            EXPECT_LE(spur(nummer).tank_inhalt, t_.p.einst.tank_inhalt);
+        }
+    }
+
+    void pause_pruefen() {
+        const bool pause = zustand().chaos_aktiv;
+        if (pause && !pause_vorher_) {
+            rest_vor_pause_ = zustand().renn_ende_zeit + zustand().pause_abzug - zustand().pause.start;
+        }
+        if (!pause && pause_vorher_) {
+            const zeit_ms ende = zustand().pause.start + zustand().pause.dauer;
+            EXPECT_EQ(zustand().renn_ende_zeit + zustand().pause_abzug - ende, rest_vor_pause_);
+            EXPECT_EQ(ende, t_.maschine.jetzt());
+        }
+    }
+
+    void runde_pruefen(int nummer) {
+        vorher& v = bisher_[nummer];
+        const spur_zustand& s = spur(nummer);
+        if (s.runden <= v.runden) {
+            v.zusammenhang = v.zusammenhang && s.runden == v.runden;
+            return;
+        }
+        EXPECT_EQ(s.runden, v.runden + 1);
+        if (v.gesperrt) {  // only the lap that the empty tank had held back may come now
+            EXPECT_FALSE(s.tank_strafe_aktiv);
+            EXPECT_TRUE(t_.p.param.tank_aktiv && t_.p.einst.tank_straf_option == 3);
+            v.zusammenhang = false;
+            return;
+        }
+        const rundenspeicher& speicher = zustand().rundenzeiten;
+        const zeit_ms pausen = zustand().pause_abzug;
+        if (v.zusammenhang && s.runden > 0) {
+            const zeit_ms gefahren = speicher.stempel(nummer, s.runden) - speicher.stempel(nummer, s.runden - 1);
+            const zeit_ms erwartet = gefahren - (pausen - v.pausen_bis_runde) + strafzeit_vorher_[nummer];
+            EXPECT_EQ(speicher.rundenzeit(nummer, s.runden), std::max<zeit_ms>(erwartet, 0));
+            EXPECT_GE(speicher.rundenzeit(nummer, s.runden), t_.p.param.min_rundenzeit_ms);
+        }
+        v.pausen_bis_runde = pausen;
+        v.zusammenhang = !s.tank_strafe_aktiv;
+        strafzeit_vorher_[nummer] = s.strafzeit;
+    }
+
+    void strom_pruefen(int nummer) {
+        const spur_zustand& s = spur(nummer);
+        strafzeit_vorher_[nummer] = s.strafzeit;
+        if (bisher_[nummer].zwei_strafen || !t_.p.param.spur_aktiv[nummer]) {
+            return;
+        }
+        const bool fruehstart = s.strom_aus && s.fruehstart_sperre && !ch_strafe(nummer);
+        const bool aus = zustand().chaos_aktiv || s.ziel_erreicht || s.disqualifiziert || s.tank_strafe_aktiv ||
+                         ch_strafe(nummer) || fruehstart;
+        EXPECT_EQ(strom_.an[nummer], !aus)
+            << (zustand().chaos_aktiv ? "pause " : "") << (s.ziel_erreicht ? "home " : "")
+            << (s.disqualifiziert ? "out " : "") << (s.tank_strafe_aktiv ? "empty tank " : "")
+            << (ch_strafe(nummer) ? "to blame " : "") << (fruehstart ? "false start" : "");
+    }
+
+    std::mt19937 z_;
+    test::testprogramm t_;
+    stromstand strom_;
+    spuren<vorher> bisher_;
+    spuren<int> strafzeit_vorher_{};
+    bool pause_vorher_ = false;
+    zeit_ms rest_vor_pause_ = 0;
+};
+
+unsigned aus_umgebung(const char* name, unsigned sonst) {
+    const char* wert = std::getenv(name);
+    return wert == nullptr ? sonst : static_cast<unsigned>(std::strtoul(wert, nullptr, 10));
+}
+
+TEST(Zufallsrennen, ImmerGiltWasImmerGeltenMuss) {
+    const unsigned erste = aus_umgebung("TARVEL_SAAT", 1);
+    const unsigned anzahl = aus_umgebung("TARVEL_RENNEN", 25);
+    for (unsigned saat = erste; saat < erste + anzahl && !testing::Test::HasFailure(); ++saat) {
+        SCOPED_TRACE("TARVEL_SAAT=" + std::to_string(saat));
+        zufallsrennen(saat).fahren();
+    }
+}
+
+}  // namespace
+}  // namespace tarvel
