@@ -250,6 +250,10 @@ void startampel::abbrampel_klick() {
     um_.fenster.entladen("Form2");
 }
 
+bool startampel::zu_sehen() const {
+    return abgebrochen_ || !ampelmodus_von(um_.einst.start_ampel_modus).verborgen;
+}
+
 void startampel::fenster_schliessen() {
     fenster.abbrampel.klicken();  // does nothing after green
 }

@@ -31,6 +31,8 @@ public:
     void fenster_schliessen();
 
     bool laeuft() const { return ampel_laeuft_; }
+    /// The light has its place on the screen; one that only real lamps show comes out when a false start stops it.
+    bool zu_sehen() const;
 
 private:
     static constexpr std::size_t rot_max = 5;

@@ -28,7 +28,7 @@ AmpelFenster::AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um)
       einst_(um.einst),
       ablage_(um.ablage),
       aufbau_(new QVBoxLayout(this)) {
-    setWindowFlag(Qt::FramelessWindowHint);
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);  // a dialog stays in front of its race window
     setStyleSheet(regeln);
     aufbau_->setContentsMargins(24, 24, 24, 20);
     aufbau_->setSpacing(14);
@@ -77,6 +77,13 @@ void AmpelFenster::anordnen() {
         setGeometry(parentWidget()->screen()->geometry());
         return;
     }
+    for (QWidget* teil : findChildren<QWidget*>()) {  // lamps have come and gone since the last start
+        if (teil->layout() != nullptr) {
+            teil->layout()->invalidate();
+            teil->layout()->activate();
+        }
+    }
+    layout()->invalidate();
     layout()->activate();
     setFixedSize(sizeHint());
     // below the names, the counters and the times of the columns; above the middle in the rows

@@ -14,6 +14,13 @@ Fenster::Fenster(const QString& name, Bildtakt& takt, QWidget* eltern)
     setObjectName(name);
 }
 
+bool Fenster::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::WindowActivate && bei_aktivierung) {
+        bei_aktivierung();
+    }
+    return QWidget::event(ereignis);
+}
+
 void Fenster::closeEvent(QCloseEvent* ereignis) {
     ereignis->ignore();
     if (bei_schliessen) {

@@ -25,9 +25,12 @@ public:
         bei_escape = [this] { close(); };
     }
     std::function<void()> bei_escape;
+    /// The window has come to the front.
+    std::function<void()> bei_aktivierung;
 
 protected:
     Binder& binder() { return binder_; }
+    bool event(QEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void zentrieren();

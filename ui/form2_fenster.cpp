@@ -99,6 +99,12 @@ QWidget* Form2Fenster::dragbaum() {
     return baum;
 }
 
+void Form2Fenster::aufschlagen() {
+    if (logik_.zu_sehen()) {  // a window that comes and goes within a millisecond may take the keys with it
+        AmpelFenster::aufschlagen();
+    }
+}
+
 void Form2Fenster::skalieren(int kante) {
     const int rund = kante * 45 / 100;
     for (QWidget* baumlicht : lichter_) {

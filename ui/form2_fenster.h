@@ -12,6 +12,8 @@ class Form2Fenster : public AmpelFenster {
 public:
     Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Bildtakt& takt, QWidget* bahn);
 
+    void aufschlagen() override;
+
 protected:
     void skalieren(int kante) override;
 

@@ -49,6 +49,13 @@ Oberflaeche::Oberflaeche(programm& p)
     update_form.bei_schliessen = [&p] { p.fenster.entladen("Update_form"); };
     bahn1.bei_schliessen = [&p] { p.rennen.befehle.fenster_schliessen(); };
     form2.bei_schliessen = [&p] { p.startampel.fenster_schliessen(); };
+    bahn1.bei_aktivierung = [this] {  // a light belongs in front, however its race window was reached
+        for (Fenster* ampel : {static_cast<Fenster*>(&form2), static_cast<Fenster*>(&k_ampel)}) {
+            if (ampel->isVisible()) {
+                ampel->raise();
+            }
+        }
+    };
     k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };

@@ -4,7 +4,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QTest>
+#include <map>
 
 #include "tests/ui/oberflaeche_probe.h"
 
@@ -102,6 +104,24 @@ TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
     QTest::keyClick(&o.bahn1, Qt::Key_Escape);
     EXPECT_FALSE(t.p.startampel.laeuft());
     EXPECT_TRUE(o.bahn1.isVisible());
+}
+
+TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
+    t.einrichten("Zeit", "5", {1, 2});
+    std::map<int, QSize> groessen;
+    for (const int modus : {2, 6, 2, 5, 6, 1, 4, 2}) {
+        t.p.einst.start_ampel_modus = modus;
+        t.bahn().Command1.klicken();
+        const auto [platz, neu] = groessen.try_emplace(modus, o.form2.size());
+        EXPECT_EQ(o.form2.size(), platz->second) << modus;
+        for (const QPushButton* knopf : o.form2.findChildren<QPushButton*>()) {
+            EXPECT_TRUE(o.form2.rect().contains(knopf->geometry())) << modus;
+        }
+        t.p.startampel.fenster_schliessen();
+        o.takt.ausfuehren();
+    }
+    EXPECT_LT(groessen[4].width(), groessen[2].width());
+    EXPECT_GT(groessen[6].height(), groessen[2].height());
 }
 
 TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
