@@ -56,7 +56,6 @@ struct bahn1 {
     befehl Command4;       ///< end with the result so far
     rahmen ch_strafframe;  ///< asks whose fault the pause was
     bezeichnung ch_Label1;
-    bild ch_Picture1;
     bezeichnung ch_Label2;
     feld ch_Text1;  ///< seconds
     bezeichnung ch_Label3;
