@@ -1,0 +1,210 @@
+#include "start/fruehstart.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/startampel_probe.h"
+
+namespace tarvel {
+namespace {
+
+class Fruehstart : public test::StartampelProbe {};
+
+TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
+    t.p.einst.fruehstart_option = 5;
+    t.p.einst.fruehstart_schritte = 7;
+    beginnen(1);
+    t.maschine.laufen(4000);
+    t.p.startampel.taste('2');
+    EXPECT_EQ(t.spur(2).strafzeit, 0);
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.spur(2).strafzeit, 7);
+    EXPECT_EQ(t.bahn().straflabel[2].text(), "Strafzeit: 7 sec");
+    EXPECT_TRUE(t.bahn().straflabel[2].sichtbar());
+    EXPECT_EQ(t.maschine.sounds.back(), "sound\\fs2.wav");
+    EXPECT_EQ(t.p.startampel.fenster.Label_fruehstart.text(), "Frühstart: Spur 2");
+    ampeltaste('2');
+    EXPECT_EQ(t.spur(2).strafzeit, 7) << "a second false start costs nothing more";
+    EXPECT_EQ(gespielt("fs2.wav"), 1);
+    EXPECT_TRUE(strom(2));
+    t.p.ereignisse.ereignis_melden(29);  // a tank contact of the same lane, and one of a lane that is not in the race
+    t.p.ereignisse.ereignis_melden(36);
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.p.startampel.fenster.Label_fruehstart.text(), "Frühstart: Spur 2, 5");
+    EXPECT_FALSE(t.bahn().straflabel[5].sichtbar()) << "no notice on a column that is not shown";
+}
+
+TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
+    t.p.einst.fruehstart_option = 3;
+    t.p.einst.fruehstart_strafzeit = 500;
+    beginnen(1);
+    t.maschine.laufen(gruen_nach + 3000);
+    t.bahn().Command2.klicken();  // in the middle of the penalty: the next one takes its full time all the same
+    beginnen(1);
+    t.maschine.laufen(4000);
+    t.p.startampel.taste('3');
+    t.maschine.laufen(2);
+    EXPECT_FALSE(strom(3));
+    EXPECT_TRUE(strom(1));
+    EXPECT_TRUE(t.bahn().ampel_rt[2].sichtbar());
+    bis_gruen(4002);
+    ASSERT_TRUE(rennen_laeuft());
+    EXPECT_FALSE(t.bahn().ampel_gr[2].sichtbar());
+    EXPECT_TRUE(t.bahn().ampel_gr[0].sichtbar());
+    EXPECT_EQ(t.spur(3).runden, 0) << "the crossing has counted";
+    t.maschine.laufen(4999);
+    EXPECT_FALSE(strom(3));
+    t.taste("3");
+    EXPECT_TRUE(strom(3));
+    EXPECT_EQ(t.bahn().t_liste[2].zeilen(), std::vector<std::string>{" 0. 00,000"});
+    EXPECT_TRUE(t.bahn().t_liste[0].zeilen().empty());
+    t.runde_nach(5000, "3");
+    EXPECT_EQ(t.spur(3).runden, 0) << "locked for one minimum lap more";
+    t.runde_nach(200, "3");
+    EXPECT_EQ(t.spur(3).runden, 1);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(3, 1), 5000 + 5000 + 200 - 1);
+    EXPECT_EQ(t.p.einst.fruehstart_strafzeit, 500);
+}
+
+TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
+    struct fall {
+        int option;
+        int runden_bei_gruen;
+        int strafzeit;
+        bool strom;
+        const char* zaehler;
+    };
+    for (const fall& f : std::vector<fall>{
+             {0, 0, 0, true, "0"}, {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
+        SCOPED_TRACE(f.option);
+        t.p.einst.fruehstart_option = f.option;
+        t.p.einst.fruehstart_strafzeit = 300;
+        beginnen(3);
+        t.maschine.laufen(5000);
+        ampeltaste('2');
+        t.maschine.laufen(2000 + 5 * 1500 - 5002);
+        ASSERT_TRUE(rennen_laeuft());
+        EXPECT_EQ(t.spur(2).runden, f.runden_bei_gruen);
+        EXPECT_EQ(t.spur(2).strafzeit, f.strafzeit);
+        EXPECT_EQ(strom(2), f.strom);
+        EXPECT_EQ(t.bahn().zaehler[2].text(), f.zaehler);
+        EXPECT_EQ(t.spur(1).runden, -1);
+        EXPECT_TRUE(strom(1));
+        t.runde_nach(2500, "1");
+        EXPECT_EQ(t.p.einst.fruehstart_strafzeit, f.option == 2 ? 300 : 10) << "overwritten when the light closes";
+        t.runde_nach(6000, "12");
+        EXPECT_EQ(t.spur(1).runden, 1);
+        EXPECT_EQ(t.spur(2).runden, f.option == 2 ? -1 : f.runden_bei_gruen + 1);
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
+    t.p.einst.fruehstart_option = 1;
+    for (const int modus : {1, 7}) {
+        SCOPED_TRACE(modus);
+        beginnen(modus);
+        t.maschine.laufen(5000);
+        ampeltaste('1');
+        EXPECT_TRUE(t.p.fenster.ist_offen("Form2")) << "a hidden light comes out";
+        EXPECT_TRUE(t.p.startampel.fenster.Label1.sichtbar());
+        EXPECT_EQ(t.p.startampel.fenster.Label1.text(), "Rennabbruch: Frühstart");
+        EXPECT_EQ(t.p.startampel.fenster.abbrampel.text(), "OK");
+        EXPECT_FALSE(strom(1) || strom(3));
+        t.maschine.laufen(60000);
+        EXPECT_FALSE(rennen_laeuft());
+        EXPECT_EQ(rote_am_geraet(), 2) << "the lamps stay as they were";
+        t.p.startampel.fenster.abbrampel.klicken();
+        EXPECT_TRUE(strom(1) && strom(3));
+        EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
+        EXPECT_TRUE(t.bahn().Command1.bedienbar() && t.bahn().Command2.bedienbar());
+        starten();
+        t.maschine.laufen(13000);
+        EXPECT_TRUE(rennen_laeuft());
+        t.bahn().Command2.klicken();
+    }
+}
+
+/// A sensor that fires with the second poll of one millisecond: the one that the green moment makes itself.
+struct spaete_flanke : messquelle {
+    explicit spaete_flanke(test::testprogramm& t) : programm(t) {}
+    void abfragen() override {
+        if (programm.maschine.jetzt() == wann && ++abfragen_bisher == 2) {
+            programm.p.ereignisse.ereignis_melden(art::rundenzaehlung[1]);
+        }
+    }
+    void abtasten() override {}
+
+    test::testprogramm& programm;
+    zeit_ms wann = 0;
+    int abfragen_bisher = 0;
+};
+
+TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
+    spaete_flanke sensor(t);
+    t.p.rennen.ablauf.anschliessen(sensor);
+    for (const int option : {1, 5}) {
+        SCOPED_TRACE(option);
+        t.p.einst.fruehstart_option = option;
+        beginnen(1);
+        sensor.wann = t.maschine.jetzt() + gruen_nach;
+        sensor.abfragen_bisher = 0;
+        t.maschine.laufen(gruen_nach);
+        EXPECT_EQ(rennen_laeuft(), option != 1) << "an aborted start does not go green";
+        EXPECT_EQ(t.spur(1).strafzeit, option == 5 ? 10 : 0);
+        t.maschine.laufen(2000);
+        EXPECT_EQ(t.spur(1).runden, -1);
+        EXPECT_EQ(t.p.startampel.laeuft(), option == 1);
+        t.p.startampel.fenster.abbrampel.klicken();
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Fruehstart, OhneSoundsWirdBestraftAberNichtGestempelt) {
+    t.p.einst.sound_an = false;
+    t.p.einst.fruehstart_option = 3;
+    t.p.einst.start_zeit_sensor = true;
+    beginnen(1);
+    t.maschine.laufen(4000);
+    ampeltaste('2');
+    EXPECT_EQ(t.spur(2).start_zeit, 0);
+    EXPECT_TRUE(t.p.ereignisse[15].aktiv);
+    EXPECT_FALSE(strom(2));
+    EXPECT_EQ(t.spur(2).runden, 0);
+    bis_gruen(4002);
+    EXPECT_FALSE(t.p.ereignisse[15].aktiv) << "the crossing before green is no lap";
+    EXPECT_EQ(t.spur(2).start_zeit, t.p.rennen.zustand.start_zeit) << "a lane without a stamp is timed from green";
+    EXPECT_TRUE(t.maschine.sounds.empty());
+}
+
+TEST_F(Fruehstart, EigeneStartzeitBleibtDieDesFruehstarts) {
+    t.p.einst.fruehstart_option = 0;
+    t.p.einst.start_zeit_sensor = true;
+    beginnen(1);
+    t.maschine.laufen(gruen_nach - 501);
+    ampeltaste('2');
+    const zeit_ms stempel = t.spur(2).start_zeit;
+    EXPECT_EQ(stempel, t.maschine.jetzt() - 1);
+    t.maschine.laufen(499);
+    t.runde_nach(8000, "2");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), t.maschine.jetzt() - 1 - stempel);
+}
+
+TEST_F(Fruehstart, AusgeschlosseneSpurHaeltDasEndeNichtAuf) {
+    t.p.einst.fruehstart_option = 2;
+    t.p.einst.zielmodus_erster = false;
+    t.einrichten("Runden", "1", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    starten();
+    t.maschine.laufen(4000);
+    ampeltaste('2');
+    bis_gruen(4002);
+    t.runde_nach(1000, "1");
+    t.runde_nach(6000, "1");
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+}
+
+}  // namespace
+}  // namespace tarvel
