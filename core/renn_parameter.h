@@ -22,7 +22,7 @@ struct renn_parameter {
     int auswertung_nach_rennen = 2;  ///< `einstellungen::auswertung_nach` of this race
     bool training_laeuft = false;
     bool training_autostart = false;  ///< the small start light begins by itself
-    bool wettkampf_kein = true;  ///< a single race, no competition
+    bool wettkampf_kein = true;       ///< a single race, no competition
 };
 
 }  // namespace tarvel

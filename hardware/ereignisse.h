@@ -21,7 +21,9 @@ inline constexpr ereignis_art chaosanzeige = 2;
 inline constexpr ereignis_art ampel_gruen = 3;
 inline constexpr ereignis_art zieleinfahrt = 33;
 /// Red lamp 1 to 5 of the start light.
-constexpr ereignis_art ampel_rot(int lampe) { return 9 - lampe; }
+constexpr ereignis_art ampel_rot(int lampe) {
+    return 9 - lampe;
+}
 inline constexpr spuren<ereignis_art> rundenzaehlung{{16, 15, 14, 13, 34, 35}};
 inline constexpr spuren<ereignis_art> bahnstrom{{24, 23, 22, 21, 40, 41}};
 inline constexpr spuren<ereignis_art> tanken_ein{{32, 30, 28, 26, 36, 38}};

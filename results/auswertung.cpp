@@ -190,7 +190,8 @@ void auswertung::spur_anzeigen(int spur) {
     const trennzeichen_tabelle& trennzeichen = um_.einst.trennzeichen;
     fahrer[i].text(um_.param.fahrer_name[spur]);
     Frame[i].schriftfarbe(um_.einst.farben_spur[spur]);
-    runden_aus[i].text(zustand.disqualifiziert ? std::string(disqualifiziert_text) : std::to_string(std::max(zustand.runden, 0)));
+    runden_aus[i].text(zustand.disqualifiziert ? std::string(disqualifiziert_text)
+                                               : std::to_string(std::max(zustand.runden, 0)));
     beste_aus[i].text(zeit_formatieren(werte.beste_runde, false, trennzeichen));
     zeit_aus[i].text(zeit_formatieren(werte.gesamtzeit, true, trennzeichen));
     kmh_label[i].text(dezimal(tempo(um_.param.spurlaenge[spur], werte.beste_runde)) + " / " +
