@@ -44,7 +44,8 @@ qint64 Klangquelle::bytesAvailable() const {
 }
 
 qint64 Klangquelle::readData(char* ziel, qint64 laenge) {
-    const qint64 rahmen = laenge / format_.bytesPerFrame();
+    const int rahmen_bytes = std::max(format_.bytesPerFrame(), 1);  // 0 for a format that is none
+    const qint64 rahmen = laenge / rahmen_bytes;
     for (qint64 i = 0; i < rahmen; ++i) {
         const float wert = klang_ != nullptr && stelle_ < klang_->size() ? (*klang_)[stelle_++] : 0.0F;
         for (int kanal = 0; kanal < format_.channelCount(); ++kanal) {
@@ -55,7 +56,7 @@ qint64 Klangquelle::readData(char* ziel, qint64 laenge) {
             }
         }
     }
-    return rahmen * format_.bytesPerFrame();
+    return rahmen * rahmen_bytes;
 }
 
 QtKlang::QtKlang(std::filesystem::path programmordner) : ordner_(std::move(programmordner)) {}
