@@ -74,7 +74,6 @@ void ausgaben::chaos_aus() {
     geraete_schalten({ausgang::chaosanzeige, 0, false});
     ampelnGRon();
     ampelnRoff(0);
-    relais_off(0);
     bericht.wiederherstellen();
     bericht.schreiben();
 }

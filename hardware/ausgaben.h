@@ -59,7 +59,8 @@ public:
     /// Shut-off off: the lane has track power.
     void relais_off(int spur) { bahnstrom(spur, true); }
 
-    /// All power off, all lamps red and the chaos lamp lit; and back, with the IO board as it was before.
+    /// All power off, all lamps red and the chaos lamp lit; and back, with the IO board as it was before. The race
+    /// gives the power back itself, as it knows which lanes stay without.
     void chaos_an();
     void chaos_aus();
     /// A lane is home: signal of the IO board.

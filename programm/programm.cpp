@@ -50,7 +50,9 @@ programm::programm(const plattform::dienste& d)
     hauptfenster_verbinden();
     optionen_verbinden();
     rennen.chaos.neustart_ampel = [this] {
-        fenster.zeigen("k_ampel");
+        if (!fenster.ist_offen("k_ampel")) {
+            fenster.zeigen("k_ampel");
+        }
         k_ampel.beginnen();
     };
     fenster_anmelden();

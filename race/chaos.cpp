@@ -66,6 +66,7 @@ void chaos::pruefen() {
     ereignis_zeile& taster = um_.ereignisse[art::chaostaster];
     const bool frei = !um_.zeitgeber.chaostimer->laeuft();
     if (um_.einst.chaos_schalter) {
+        schalter_verfolgen();
         if (frei && taster.aktiv && !schalter_stand) {
             schalter_stand = true;
             chaos_umschalten();
@@ -75,6 +76,21 @@ void chaos::pruefen() {
         chaos_umschalten();
     } else {
         taster.aktiv = false;
+    }
+}
+
+void chaos::schalter_verfolgen() {
+    constexpr zeit_ms losgelassen_nach_ms = 100;  // a device repeats a switch that is on with every poll
+    pausen_zustand& pause = um_.zustand.pause;
+    ereignis_zeile& taster = um_.ereignisse[art::chaostaster];
+    if (!pause.schalter_stand || um_.zustand.chaos_aktiv) {
+        return;  // no pause has been left with the switch on
+    }
+    if (taster.aktiv) {
+        taster.aktiv = false;
+        pause.schalter_zuletzt = um_.ereignisse.messzeit;
+    } else if (um_.ereignisse.messzeit - pause.schalter_zuletzt > losgelassen_nach_ms) {
+        pause.schalter_stand = false;
     }
 }
 
@@ -243,21 +259,23 @@ void chaos::chaosende_routine() {
     um_.ereignisse.messzeit = ende;  // keys are stamped with it, and no tick has read the clock in the pause
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
-    zustand.pause_abzug += zustand.pause.dauer;
-    for (spur_zustand& spur : zustand.spur) {
-        spur.pause_abzug += zustand.pause.dauer;
-    }
+    zustand.unterbrechung_abziehen(zustand.pause.dauer);
     um_.sounds.spielen(sound::pause_endet);
     um_.ausgaben.chaos_aus();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
     um_.ereignisse.rundenzaehlung_leeren();
+    for (int i = 0; i < sektorsensoren_max; ++i) {
+        um_.ereignisse[erste_zwischenzeit + i].aktiv = false;
+    }
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
     zustand.chaos_aktiv = false;
-    zustand.pause.schalter_stand = false;
+    zustand.pause.schalter_zuletzt = ende;
     um_.zeitgeber.rennen_an();
-    if (std::exchange(zustand.pause.nachlauf_nach_pause, false)) {
+    if (std::exchange(zustand.pause.nachlauf_nach_pause, false) || um_.zeitgeber.nachlauftimer1->laeuft()) {
+        zustand.nachlauf_minuten = 0;
+        um_.zeitgeber.nachlauftimer1->aus();
         um_.zeitgeber.nachlauftimer1->an();
     }
     um_.bahn.Command3.text(um_.bahn.wort.pause_wieder);
@@ -316,6 +334,8 @@ void chaos::chaos_nachholen() {
 void chaos::aufheben() {
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
+        um_.zustand.unterbrechung_abziehen(um_.zeit.messzeit_lesen() - um_.zustand.pause.start);
+        kleine_ampeln(kleines_licht::gruen);
     }
     um_.fenster.entladen("k_ampel");
     zuruecksetzen();

@@ -48,6 +48,8 @@ private:
     /// Small lights of the lanes that are not held off by anything else.
     void kleine_ampeln(kleines_licht licht);
 
+    /// Waits for a switch to be let go that has outlasted its pause.
+    void schalter_verfolgen();
     void loslassen_pruefen();
     void durchfahrten_merken();
     void sammeln_beenden();

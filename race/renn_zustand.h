@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 
 #include "core/spuren.h"
@@ -38,10 +37,11 @@ struct spur_zustand {
 
 /// The pause that is, or the last one.
 struct pausen_zustand {
-    zeit_ms start = 0;            ///< stamp
-    zeit_ms dauer = 0;            ///< of the last pause that has ended
-    int ch_zaehler = 0;           ///< ticks of the window in which crossings are still collected
-    bool schalter_stand = false;  ///< the chaos switch was seen on
+    zeit_ms start = 0;             ///< stamp
+    zeit_ms dauer = 0;             ///< of the last pause that has ended
+    int ch_zaehler = 0;            ///< ticks of the window in which crossings are still collected
+    bool schalter_stand = false;   ///< the chaos switch was seen on
+    zeit_ms schalter_zuletzt = 0;  ///< stamp at which it was last seen on after a pause
     bool nachlauf_nach_pause = false;
     bool f_straftimer_lief = false;
 };
@@ -70,11 +70,13 @@ struct renn_zustand {
     std::string rennen_start_uhrzeit;  ///< date and time of day
     std::string rennen_ende_uhrzeit;
 
-    /// Pause in the lap of row `zeile`, 0 for none: it comes off the time of whatever lap takes this one in.
-    zeit_ms pause_der_runde(int spur_nummer, int zeile) const {
-        const zeit_ms davor = zeile > 0 ? rundenzeiten.stempel(spur_nummer, zeile - 1) : 0;
-        const zeit_ms vergangen = rundenzeiten.stempel(spur_nummer, zeile) - davor + spur[spur_nummer].strafzeit;
-        return davor == 0 ? 0 : std::max<zeit_ms>(vergangen - rundenzeiten.rundenzeit(spur_nummer, zeile), 0);
+    /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
+    void unterbrechung_abziehen(zeit_ms dauer) {
+        pause_abzug += dauer;
+        for (spur_zustand& s : spur) {
+            s.pause_abzug += dauer;
+            s.tankt_seit = 0;  // nobody refuels meanwhile
+        }
     }
 };
 

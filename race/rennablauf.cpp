@@ -167,7 +167,9 @@ void rennablauf::renntimer_tick() {
         return;
     }
     t_.uhr.rennuhr_anzeigen();
-    t_.ende.pruefen();
+    if (!zustand.chaos_aktiv) {
+        t_.ende.pruefen();
+    }
     if (!zustand.rennen_beendet) {  // else the clock stands as the end has left it
         t_.uhr.rennuhr_anzeigen();
     }

@@ -22,7 +22,10 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       chaos(umgebung, {ablauf, ansicht, strafen}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
-    ende.pause_aufheben = [this] { chaos.aufheben(); };
+    ende.laufendes_beenden = [this] {
+        chaos.aufheben();
+        tanken.beenden();
+    };
     tanken.rundenzeiten_pruefen = [this](zeit_ms dauer, int zeile, int spur) {
         zaehlung.rundenzeiten_pruefen(dauer, zeile, spur);
     };

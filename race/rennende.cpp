@@ -149,7 +149,7 @@ void rennende::rennende_ablauf() {
     }
     um_.sounds.spielen(sound::rennen_beendet);
     um_.zeitgeber.f_straftimer->aus();
-    pause_aufheben();
+    laufendes_beenden();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
     um_.fenster.entladen("Form2");  // a very short race ends before its start light goes

@@ -12,8 +12,8 @@ class rennende {
 public:
     rennende(const renn_umgebung& um, rennuhr& uhr) : um_(um), uhr_(uhr) {}
 
-    /// Clears away a pause that the race ends in.
-    std::function<void()> pause_aufheben;
+    /// Clears away what the race ends in the middle of: a pause, a penalty.
+    std::function<void()> laufendes_beenden;
 
     /// Fresh flags for a new race.
     void zuruecksetzen();

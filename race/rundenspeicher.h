@@ -19,7 +19,9 @@ public:
 
     zeit_ms rundenzeit(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).rundenzeit[spur] : 0; }
     zeit_ms stempel(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).stempel[spur] : 0; }
-    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel);
+    /// Pause that has come off the lap time: it comes off the time of whatever lap takes this one in.
+    zeit_ms pause(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).pause[spur] : 0; }
+    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause = 0);
     void leeren(int spur, int zeile) { setzen(spur, zeile, 0, 0); }
     void zeile_kopieren(int spur, int von, int nach);
 
@@ -33,6 +35,7 @@ private:
     struct eintrag {
         spuren<zeit_ms> rundenzeit;
         spuren<zeit_ms> stempel;
+        spuren<zeit_ms> pause;
     };
 
     static bool gibt_es(int zeile) { return zeile >= 0 && zeile < zeilen_anzahl; }

@@ -62,7 +62,7 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
         return;
     }
     zeit = std::max<zeit_ms>(zeit - zustand.pause_abzug, 0);
-    um_.zustand.rundenzeiten.setzen(spur, zustand.runden_zeile, zeit, stempel);
+    um_.zustand.rundenzeiten.setzen(spur, zustand.runden_zeile, zeit, stempel, zustand.pause_abzug);
     sektoren_.letzten_sektor_speichern(spur, zustand.runden_zeile, stempel, zustand.pause_abzug);
     zustand.pause_abzug = 0;
     ++zustand.runden;
@@ -139,7 +139,7 @@ bool rundenzaehlung::runde_abziehen(int spur) {
         return false;
     }
     if (zustand.runden > 0) {
-        zustand.pause_abzug += um_.zustand.pause_der_runde(spur, zustand.runden);
+        zustand.pause_abzug += um_.zustand.rundenzeiten.pause(spur, zustand.runden);
     }
     --zustand.runden;
     if (zustand.runden == -1) {

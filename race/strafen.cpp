@@ -1,5 +1,6 @@
 #include "race/strafen.h"
 
+#include <algorithm>
 #include <string>
 
 #include "core/zeit.h"
@@ -48,10 +49,16 @@ void strafen::spur_strom_an(int spur) {
 }
 
 void strafen::strom_wiederherstellen() {
-    um_.ausgaben.relais_off(0);
-    for (const int spur : alle_spuren) {
-        if (um_.zustand.spur[spur].strom_aus) {
+    const auto& spuren = um_.zustand.spur;
+    if (std::none_of(spuren.begin(), spuren.end(), [](const spur_zustand& s) { return s.strom_aus; })) {
+        um_.ausgaben.relais_off(0);
+        return;
+    }
+    for (const int spur : alle_spuren) {  // one by one: not even a moment of power for the others
+        if (spuren[spur].strom_aus) {
             um_.ausgaben.relais_on(spur);
+        } else {
+            um_.ausgaben.relais_off(spur);
         }
     }
 }
@@ -64,6 +71,10 @@ void strafen::nullzeile_eintragen(int spur) {
     }
 }
 
+bool strafen::verbuesst_fruehstart(int spur) const {
+    return um_.zustand.spur[spur].fruehstart_sperre && !um_.zeitgeber.straftimer_ch[spur]->laeuft();
+}
+
 void strafen::f_straftimer_tick() {
     um_.zeitgeber.f_straftimer2->intervall(static_cast<int>(um_.param.min_rundenzeit_ms));
     if (++um_.zustand.fruehstart_zaehler < um_.einst.fruehstart_strafzeit) {
@@ -71,7 +82,7 @@ void strafen::f_straftimer_tick() {
     }
     um_.ausgaben.bericht.schreiben();
     for (const int spur : alle_spuren) {
-        if (um_.zustand.spur[spur].fruehstart_sperre) {
+        if (verbuesst_fruehstart(spur)) {
             spur_strom_an(spur);
             nullzeile_eintragen(spur);
             um_.zeitgeber.f_straftimer2->an();
@@ -83,8 +94,10 @@ void strafen::f_straftimer_tick() {
 
 void strafen::f_straftimer2_tick() {
     um_.zeitgeber.f_straftimer2->aus();
-    for (spur_zustand& spur : um_.zustand.spur) {
-        spur.fruehstart_sperre = false;
+    for (const int spur : alle_spuren) {
+        if (verbuesst_fruehstart(spur)) {
+            um_.zustand.spur[spur].fruehstart_sperre = false;
+        }
     }
 }
 

@@ -29,6 +29,8 @@ public:
     void f_straftimer2_tick();
 
 private:
+    /// Locked for a false start, not for a pause.
+    bool verbuesst_fruehstart(int spur) const;
     void nullzeile_eintragen(int spur);
 
     renn_umgebung um_;

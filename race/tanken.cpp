@@ -178,7 +178,7 @@ bool tanken::runde_nehmen(int spur) {
     if (zustand.runden <= 0) {
         return false;
     }
-    zustand.pause_abzug += um_.zustand.pause_der_runde(spur, zustand.runden);
+    zustand.pause_abzug += um_.zustand.rundenzeiten.pause(spur, zustand.runden);
     --zustand.runden;
     --zustand.runden_zeile;
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
@@ -214,6 +214,21 @@ void tanken::leer(int spur) {
     }
 }
 
+void tanken::beenden() {
+    for (const int spur : alle_spuren) {
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        um_.zeitgeber.tanktimer[spur]->aus();
+        um_.zeitgeber.wartetimer[spur]->aus();
+        um_.zeitgeber.t_straftimer[spur]->aus();
+        zustand.tank_strafe_aktiv = false;
+        if (std::exchange(zustand.tank_runde_genommen, false)) {
+            ++zustand.runden;
+            ++zustand.runden_zeile;
+            um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
+        }
+    }
+}
+
 void tanken::tanktimer_tick(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     if (++zustand.tank_wartezaehler >= um_.einst.tank_wartezeit) {
@@ -246,9 +261,9 @@ void tanken::t_straftimer_tick(int spur) {
         const zeit_ms verloren = zeit_ms{10} * um_.einst.tank_strafzeit;
         const int zeile = zustand.runden_zeile;
         speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren,
-                        speicher.stempel(spur, zeile) + verloren);
+                        speicher.stempel(spur, zeile) + verloren, speicher.pause(spur, zeile));
     }
-    const zeit_ms in_der_runde = um_.zustand.pause_der_runde(spur, zustand.runden_zeile);
+    const zeit_ms in_der_runde = speicher.pause(spur, zustand.runden_zeile);
     ++zustand.runden;
     ++zustand.runden_zeile;
     um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));

@@ -17,6 +17,8 @@ public:
 
     /// Full tanks and their displays, for a new race.
     void zuruecksetzen();
+    /// The race is over: a lap that a penalty holds back counts, and nothing changes behind the result.
+    void beenden();
     /// First call of the race tick, and after each key: turns contact edges into lane states.
     void tank_kontakte_auswerten();
     /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.

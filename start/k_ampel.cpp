@@ -139,10 +139,7 @@ void k_ampel::rennen_fortsetzen() {
     renn_zustand& zustand = um_.zustand;
     const zeit_ms fortsetz_zeit = um_.zeit.ereignis_zeit_lesen();
     const zeit_ms unterbrechung = fortsetz_zeit - zustand.renn_ende_stempel;
-    zustand.pause_abzug += unterbrechung;
-    for (spur_zustand& spur : zustand.spur) {
-        spur.pause_abzug += unterbrechung;
-    }
+    zustand.unterbrechung_abziehen(unterbrechung);
     um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     um_.ereignisse.messzeit = fortsetz_zeit;

@@ -184,7 +184,9 @@ void startampel::freigabe_tick() {
     Timer8_->aus();
     r_.ablauf.befehle_freigeben();
     um_.bahn.Command3.fokus_setzen();
-    um_.bahn.ch_strafframe.sichtbar(false);
+    if (!um_.zustand.chaos_aktiv) {
+        um_.bahn.ch_strafframe.sichtbar(false);
+    }
     for (const int spur : alle_spuren) {
         um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
         um_.ereignisse[art::tanken_aus[spur]].aktiv = false;

@@ -238,21 +238,85 @@ TEST_F(Chaos, TankstrafeRuhtInDerPause) {
     EXPECT_TRUE(strom(1));
 }
 
+TEST_F(Chaos, InDerPauseWirdNichtGetanktUndKeinSektorGemessen) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_wartezeit = 0;
+    t.p.einst.sensor_timeout = 0;
+    t.p.einst.sektor_an = {true, true, true, true};
+    fahren();
+    t.spur(1).tank_inhalt = 10;
+    t.taste("q");
+    t.maschine.laufen(500);
+    const double stand = t.spur(1).tank_inhalt;
+    EXPECT_GT(stand, 13);
+    t.taste("c");
+    t.maschine.laufen(4000);
+    t.p.ereignisse.ereignis_melden(42);
+    t.taste("c");
+    EXPECT_NEAR(t.spur(1).tank_inhalt, stand, 0.11);
+    t.maschine.laufen(50);
+    EXPECT_NEAR(t.spur(1).tank_inhalt, stand + 0.5, 0.11);
+    EXPECT_EQ(t.p.rennen.sektoren.sektorzeit(1, 1, 1), 0);
+}
+
+TEST_F(Chaos, SchalterDerAnBleibtBeginntKeineZweitePause) {
+    t.p.einst.chaos_schalter = true;
+    fahren();
+    bool an = true;
+    const auto laufen = [&](int ms) {  // a device repeats the switch with each poll
+        for (; ms > 0; --ms) {
+            if (an) {
+                t.p.ereignisse.ereignis_melden(1);
+            }
+            t.maschine.laufen(1);
+        }
+    };
+    laufen(5000);
+    ASSERT_TRUE(pause());
+    t.bahn().Command3.klicken();
+    laufen(10000);
+    EXPECT_FALSE(pause());
+    an = false;
+    laufen(200);
+    an = true;
+    laufen(10);
+    EXPECT_TRUE(pause()) << "let go and pressed again";
+}
+
+TEST_F(Chaos, RennendeInDerTankstrafeGibtDieRundeZurueck) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = 3;
+    fahren();
+    t.spur(1).tank_inhalt = 1;
+    t.runde_nach(8000, "1");
+    ASSERT_EQ(t.spur(1).runden, 0);
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(t.p.auswertung.runden_aus[0].text(), "1");
+    t.maschine.sounds.clear();
+    t.maschine.laufen(60000);
+    EXPECT_EQ(t.spur(1).runden, 1) << "nothing changes behind the result";
+    EXPECT_TRUE(t.maschine.sounds.empty());
+}
+
 TEST_F(Chaos, PauseImNachlaufBeginntSeineMinutenNeu) {
     t.p.einst.zielmodus_erster = false;
-    fahren("1");
-    t.maschine.laufen(50000 + 70000);
-    ASSERT_TRUE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
-    EXPECT_EQ(t.p.rennen.zustand.nachlauf_minuten, 1);
-    t.taste("c");
-    t.maschine.laufen(300000);
-    EXPECT_TRUE(pause());
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
-    t.taste("c");
-    t.maschine.laufen(119900);
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
-    t.maschine.laufen(200);
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    for (const int timeout : {0, 2000, 10000}) {
+        SCOPED_TRACE(timeout);
+        t.p.einst.sensor_timeout = timeout;
+        fahren("1");
+        t.maschine.laufen(50000 + 70000);
+        ASSERT_TRUE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
+        EXPECT_EQ(t.p.rennen.zustand.nachlauf_minuten, 1);
+        t.taste("c");
+        t.maschine.laufen(timeout == 10000 ? 8000 : 300000);  // also within the window of the crossings
+        EXPECT_TRUE(pause());
+        t.taste("c");
+        t.maschine.laufen(119900);
+        EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+        t.maschine.laufen(200);
+        EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+        t.p.auswertung.Command5.klicken();
+    }
 }
 
 TEST_F(Chaos, AbbruchUndEndeInDerPauseLassenNichtsZurueck) {

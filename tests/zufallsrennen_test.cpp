@@ -60,6 +60,7 @@ private:
         int runden = -1;
         bool gesperrt = false;
         bool zwei_strafen = false;  ///< the earlier end of two penalties switches the power on, as it is meant
+        double tank = 0;
         zeit_ms pausen_bis_runde = 0;
         bool zusammenhang = false;  ///< the lap before was counted under our eyes
     };
@@ -151,6 +152,7 @@ private:
             vorher& v = bisher_[nummer];
             const spur_zustand& s = spur(nummer);
             v.runden = s.runden;
+            v.tank = s.tank_inhalt;
             v.gesperrt = s.fruehstart_sperre || s.disqualifiziert || s.ziel_erreicht || s.tank_strafe_aktiv;
             const int strafen = (s.tank_strafe_aktiv ? 1 : 0) + (ch_strafe(nummer) ? 1 : 0) +
                                 (t_.p.rennen.zeitgeber.f_straftimer->laeuft() && s.fruehstart_sperre ? 1 : 0);
@@ -167,6 +169,7 @@ private:
             EXPECT_EQ(spur(nummer).runden_zeile, spur(nummer).runden + 1);
             EXPECT_GE(spur(nummer).tank_inhalt, 0);
             EXPECT_LE(spur(nummer).tank_inhalt, t_.p.einst.tank_inhalt);
+            EXPECT_LE(spur(nummer).tank_inhalt, bisher_[nummer].tank + (pause_vorher_ ? 0 : 0.16));
         }
     }
 

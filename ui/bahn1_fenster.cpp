@@ -1,6 +1,7 @@
 #include "ui/bahn1_fenster.h"
 
 #include <QHBoxLayout>
+#include <QIntValidator>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -20,10 +21,12 @@ constexpr double schrift_ziel = 620;
 constexpr double schrift_knopf = 420;
 constexpr double schrift_werbung = 380;
 constexpr double schrift_formular = 330;
+constexpr int sekunden_max = 9999;
+constexpr int sekunden_px = 64;
+constexpr int formular_rand_px = 40;
 
 const char* const knopf_regeln =
     "QLabel { color: #f0f2f5; }"
-    "QLineEdit { max-width: 60px; }"
     "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
     " padding: 6px 18px; }"
     "QPushButton:hover { background: #383d47; }"
@@ -97,12 +100,12 @@ QWidget* Bahn1Fenster::befehlszeile() {
     QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
     QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
     aufbau->addWidget(start, 2);
-    aufbau->addWidget(pause, 2);
+    aufbau->addWidget(pause);
     aufbau->addWidget(ende, 1);
     TextAnzeige* werbung = binder().anzeige(logik_.bahn1.werbe_label, "werbe_label", schrift_werbung);
     werbung->setFarbe(QColor(150, 156, 166));
     aufbau->addWidget(werbung, 2);
-    aufbau->addWidget(strafformular(), 3);
+    aufbau->addWidget(strafformular());
     aufbau->addWidget(abbruch, 1);
     knoepfe_ = {start, pause, ende, abbruch};
     setTabOrder(start, pause);
@@ -121,6 +124,7 @@ QWidget* Bahn1Fenster::strafformular() {
     QLabel* mitte = binder().label(logik_.bahn1.ch_Label2, "ch_Label2");
     QLineEdit* sekunden = binder().zeile(logik_.bahn1.ch_Text1, "ch_Text1");
     sekunden->setAlignment(Qt::AlignRight);
+    sekunden->setFixedWidth(sekunden_px);
     QObject::connect(sekunden, &QLineEdit::returnPressed, this, [this] { knoepfe_.at(1)->setFocus(); });
     QLabel* hinten = binder().label(logik_.bahn1.ch_Label3, "ch_Label3");
     zeile->addStretch();
@@ -130,6 +134,10 @@ QWidget* Bahn1Fenster::strafformular() {
         formular_.push_back(teil);
     }
     zeile->addStretch();
+    sekunden->setValidator(new QIntValidator(0, sekunden_max, sekunden));
+    QSizePolicy haelt_platz = kasten->sizePolicy();  // no command may move under the pointer when a pause begins
+    haelt_platz.setRetainSizeWhenHidden(true);
+    kasten->setSizePolicy(haelt_platz);
     binder().verbinden(logik_.bahn1.ch_strafframe, kasten, "ch_strafframe", {});
     return kasten;
 }
@@ -171,16 +179,32 @@ void Bahn1Fenster::skalieren() {
     for (Rennspalte* spalte : spalten_) {
         spalte->skalieren(skala);
     }
+    int formular_breite = 0;  // a hidden layout does not know its own: its texts come with the window
     for (QWidget* teil : formular_) {
         QFont schrift = teil->font();
         schrift.setPixelSize(std::clamp(static_cast<int>(std::lround(schrift_formular * skala)), 12, 24));
         teil->setFont(schrift);
+        formular_breite += teil->maximumWidth() < width() ? teil->maximumWidth() : teil->sizeHint().width();
     }
+    formular_.front()->parentWidget()->setFixedWidth(formular_breite + formular_rand_px);
     for (QPushButton* knopf : knoepfe_) {
         QFont schrift = knopf->font();
         schrift.setPixelSize(std::max(13, static_cast<int>(std::lround(schrift_knopf * skala))));
         knopf->setFont(schrift);
     }
+    int hoehe = knoepfe_.front()->sizeHint().height();
+    for (const QWidget* teil : formular_) {
+        hoehe = std::max(hoehe, teil->sizeHint().height());
+    }
+    formular_.front()->parentWidget()->setFixedHeight(hoehe);
+    // the caption changes with every pause, the button must not
+    constexpr int rand_px = 44;
+    const bahn1::worte& wort = logik_.bahn1.wort;
+    int breite = 0;
+    for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
+        breite = std::max(breite, knoepfe_[1]->fontMetrics().horizontalAdvance(QString::fromStdString(*text)));
+    }
+    knoepfe_[1]->setFixedWidth(breite + rand_px);
 }
 
 }  // namespace tarvel::ui

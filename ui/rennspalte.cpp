@@ -50,6 +50,9 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     QPalette gelb = gelb_->palette();
     gelb.setColor(QPalette::Window, QColor(255, 214, 10));
     gelb_->setPalette(gelb);
+    QSizePolicy haelt_platz = gelb_->sizePolicy();
+    haelt_platz.setRetainSizeWhenHidden(true);
+    gelb_->setSizePolicy(haelt_platz);
     binder.verbinden(bahn.yellowframe[spur], gelb_, "yellowframe_" + nummer, {});
     aufbau->addWidget(gelb_);
     aufbau->addWidget(namenszeile(bahn, spur, binder));

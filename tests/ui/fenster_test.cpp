@@ -106,6 +106,36 @@ TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
     EXPECT_TRUE(o.bahn1.isVisible());
 }
 
+TEST_F(Oberflaeche, PauseVerschiebtKeinenKnopfUndDasFeldNimmtZiffern) {
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.start_ampel_modus = 0;
+    t.starten("Zeit", "5", {1, 2});
+    t.maschine.laufen(3000);
+    o.takt.ausfuehren();
+    QCoreApplication::processEvents();
+    std::map<QString, QRect> vorher;
+    for (const QPushButton* knopf : o.bahn1.findChildren<QPushButton*>()) {
+        vorher[knopf->objectName()] = knopf->geometry();
+    }
+    klick(o.bahn1, "bahn1.Command3");
+    o.takt.ausfuehren();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(finde<QWidget>(o.bahn1, "bahn1.yellowframe_1")->isVisible());
+    for (const QPushButton* knopf : o.bahn1.findChildren<QPushButton*>()) {
+        const QPoint weg = knopf->geometry().center() - vorher[knopf->objectName()].center();
+        EXPECT_LE(weg.manhattanLength(), 2) << knopf->objectName().toStdString();
+    }
+    auto* feld = finde<QLineEdit>(o.bahn1, "bahn1.ch_Text1");
+    o.bahn1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));
+    feld->setFocus();
+    feld->selectAll();
+    QTest::keyClicks(feld, "2c1");
+    EXPECT_EQ(t.bahn().ch_Text1.text(), "21") << "what is typed there is no key of the race";
+    klick(o.bahn1, "bahn1.ch_strafzeit_hacken_2");
+    EXPECT_TRUE(t.bahn().ch_strafzeit_hacken[2].gesetzt());
+}
+
 TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
     t.einrichten("Zeit", "5", {1, 2});
     std::map<int, QSize> groessen;
