@@ -22,8 +22,7 @@ constexpr double schrift_knopf = 420;
 constexpr double schrift_werbung = 380;
 constexpr double schrift_formular = 330;
 constexpr int sekunden_max = 9999;
-constexpr int sekunden_px = 64;
-constexpr int formular_rand_px = 40;
+constexpr int sekunden_px = 50;
 
 const char* const knopf_regeln =
     "QLabel { color: #f0f2f5; }"
@@ -63,6 +62,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
         spalten_.push_back(spalte);
     }
     aufbau->addLayout(spalten, 1);
+    aufbau->addWidget(strafformular());
     aufbau->addWidget(befehlszeile());
     nachtabschaltung();
     setMinimumSize(640, 480);
@@ -99,14 +99,13 @@ QWidget* Bahn1Fenster::befehlszeile() {
     QPushButton* pause = binder().knopf(logik_.bahn1.Command3, "Command3");
     QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
     QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
-    aufbau->addWidget(start, 2);
+    aufbau->addWidget(start);
     aufbau->addWidget(pause);
-    aufbau->addWidget(ende, 1);
+    aufbau->addWidget(ende);
     TextAnzeige* werbung = binder().anzeige(logik_.bahn1.werbe_label, "werbe_label", schrift_werbung);
     werbung->setFarbe(QColor(150, 156, 166));
-    aufbau->addWidget(werbung, 2);
-    aufbau->addWidget(strafformular());
-    aufbau->addWidget(abbruch, 1);
+    aufbau->addWidget(werbung, 1);
+    aufbau->addWidget(abbruch);
     knoepfe_ = {start, pause, ende, abbruch};
     setTabOrder(start, pause);
     setTabOrder(pause, ende);
@@ -116,9 +115,16 @@ QWidget* Bahn1Fenster::befehlszeile() {
 }
 
 QWidget* Bahn1Fenster::strafformular() {
-    auto* kasten = new QWidget(this);
+    // its place is always there: no command may move under the pointer when a pause begins
+    auto* platz = new QWidget(this);
+    platz->setStyleSheet(knopf_regeln);
+    auto* lage = new QHBoxLayout(platz);
+    lage->setContentsMargins(0, 0, 0, 0);
+    auto* kasten = new QWidget(platz);
+    lage->addWidget(kasten);
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
+    zeile->setSpacing(4);
     QLabel* vorn = binder().label(logik_.bahn1.ch_Label1, "ch_Label1");
     auto* haken = new QLabel(QString::fromUtf8("\u2611"), kasten);
     QLabel* mitte = binder().label(logik_.bahn1.ch_Label2, "ch_Label2");
@@ -135,11 +141,9 @@ QWidget* Bahn1Fenster::strafformular() {
     }
     zeile->addStretch();
     sekunden->setValidator(new QIntValidator(0, sekunden_max, sekunden));
-    QSizePolicy haelt_platz = kasten->sizePolicy();  // no command may move under the pointer when a pause begins
-    haelt_platz.setRetainSizeWhenHidden(true);
-    kasten->setSizePolicy(haelt_platz);
     binder().verbinden(logik_.bahn1.ch_strafframe, kasten, "ch_strafframe", {});
-    return kasten;
+    formular_platz_ = platz;
+    return platz;
 }
 
 void Bahn1Fenster::nachtabschaltung() {
@@ -179,32 +183,39 @@ void Bahn1Fenster::skalieren() {
     for (Rennspalte* spalte : spalten_) {
         spalte->skalieren(skala);
     }
-    int formular_breite = 0;  // a hidden layout does not know its own: its texts come with the window
     for (QWidget* teil : formular_) {
         QFont schrift = teil->font();
-        schrift.setPixelSize(std::clamp(static_cast<int>(std::lround(schrift_formular * skala)), 12, 24));
+        schrift.setPixelSize(std::clamp(static_cast<int>(std::lround(schrift_formular * skala)), 11, 24));
         teil->setFont(schrift);
-        formular_breite += teil->maximumWidth() < width() ? teil->maximumWidth() : teil->sizeHint().width();
     }
-    formular_.front()->parentWidget()->setFixedWidth(formular_breite + formular_rand_px);
     for (QPushButton* knopf : knoepfe_) {
         QFont schrift = knopf->font();
         schrift.setPixelSize(std::max(13, static_cast<int>(std::lround(schrift_knopf * skala))));
         knopf->setFont(schrift);
     }
-    int hoehe = knoepfe_.front()->sizeHint().height();
+    int hoehe = 0;
     for (const QWidget* teil : formular_) {
         hoehe = std::max(hoehe, teil->sizeHint().height());
     }
-    formular_.front()->parentWidget()->setFixedHeight(hoehe);
-    // the caption changes with every pause, the button must not
+    formular_platz_->setFixedHeight(hoehe);
+    // each as wide as its longest caption: a pause changes captions, and no button may move with that
     constexpr int rand_px = 44;
     const bahn1::worte& wort = logik_.bahn1.wort;
-    int breite = 0;
-    for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
-        breite = std::max(breite, knoepfe_[1]->fontMetrics().horizontalAdvance(QString::fromStdString(*text)));
+    for (QPushButton* knopf : knoepfe_) {
+        QStringList texte{knopf->text()};
+        if (knopf == knoepfe_[1]) {
+            for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
+                texte << QString::fromStdString(*text);
+            }
+        }
+        QFont fett = knopf->font();
+        fett.setBold(true);
+        int breite = 0;
+        for (const QString& text : texte) {
+            breite = std::max(breite, QFontMetrics(fett).horizontalAdvance(text));
+        }
+        knopf->setFixedWidth(breite + rand_px);
     }
-    knoepfe_[1]->setFixedWidth(breite + rand_px);
 }
 
 }  // namespace tarvel::ui

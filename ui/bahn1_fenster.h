@@ -31,6 +31,7 @@ private:
     std::vector<QPushButton*> knoepfe_;  ///< start, pause, end, abort
     std::vector<QWidget*> formular_;     ///< parts of the penalty form
     QWidget* nacht_ = nullptr;
+    QWidget* formular_platz_ = nullptr;
 };
 
 }  // namespace tarvel::ui

@@ -69,6 +69,8 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     liste_->setSelectionMode(QAbstractItemView::NoSelection);
     liste_->setStyleSheet("QListView { background: transparent; border: none; } QListView::item { padding: 0px; }");
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    liste_->setMinimumHeight(0);  // where room is short, the list gives way and not the clock
+    liste_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     aufbau->addWidget(liste_, 1);
     zeigen(bahn.straflabel[spur], "straflabel", schrift_strafe);
 
@@ -169,6 +171,7 @@ void Rennspalte::skalieren(double skala) {
     }
     balken_->setFixedHeight(std::max(12, static_cast<int>(std::lround(hoehe_tank * skala))));
     gelb_->setFixedHeight(std::max(6, static_cast<int>(std::lround(hoehe_gelb * skala))));
+    schuld_->setFixedWidth(kante + 8);
     schuld_->setStyleSheet(QString("QCheckBox::indicator { width: %1px; height: %1px; }").arg(kante));
     const int rand = std::max(4, static_cast<int>(std::lround(110 * skala)));
     layout()->setContentsMargins(rand, 10 + rand, rand, rand);
