@@ -101,9 +101,6 @@ QWidget* Rennspalte::namenszeile(bahn1& bahn, int spur, Binder& binder) {
     aufbau->addWidget(nummer_, 0, Qt::AlignVCenter);
     aufbau->addWidget(name, 1);
     schuld_ = binder.kasten(bahn.ch_strafzeit_hacken[spur], "ch_strafzeit_hacken_" + QString::number(spur));
-    QSizePolicy haelt_platz = schuld_->sizePolicy();  // the name stays where it is
-    haelt_platz.setRetainSizeWhenHidden(true);
-    schuld_->setSizePolicy(haelt_platz);
     aufbau->addWidget(schuld_, 0, Qt::AlignVCenter);
     return zeile;
 }
@@ -116,13 +113,15 @@ QWidget* Rennspalte::tankzeile(bahn1& bahn, int spur, Binder& binder) {
     aufbau->setContentsMargins(4, 0, 4, 0);
     TextAnzeige* titel = binder.beschriftung(schrift_titel);
     titel->setFarbe(leise);
-    aufbau->addWidget(titel);
+    titel->setSizePolicy(QSizePolicy::Ignored,
+                         titel->sizePolicy().verticalPolicy());  // the figure goes before its title
+    aufbau->addWidget(titel, 2);
     TextAnzeige* liter = binder.anzeige(bahn.t_bahn[spur], "t_bahn_" + nummer, schrift_tank);
     liter->setFett(true);
     liter->setMusterText("00,00");
-    aufbau->addWidget(liter, 1);
+    aufbau->addWidget(liter, 3);
     balken_ = new Tankbalken(zeile);
-    aufbau->addWidget(balken_, 1);
+    aufbau->addWidget(balken_, 3);
     binder.verbinden(bahn.tankbalken.at(index), balken_, "tankbalken_" + QString::number(index), [this, &bahn, index] {
         const form& balken = bahn.tankbalken.at(index);
         balken_->setStand(balken.hoehe() / bahn.tank_balkenhoehe, stil::farbe_von(balken.hintergrund().value_or(0)));
