@@ -44,7 +44,7 @@ TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
         t.maschine.laufen(1501);
         EXPECT_EQ(lampen(), f.nach_zwei);
         EXPECT_EQ(rote_am_geraet(), 2);
-        t.maschine.laufen(1500 * (f.schritte - 2));
+        t.maschine.laufen(zeit_ms{1500} * (f.schritte - 2));
         EXPECT_EQ(lampen(), f.voll);
         EXPECT_EQ(rote_am_geraet(), f.schritte);
         EXPECT_EQ(gespielt("as.wav"), f.schritte);
