@@ -22,7 +22,6 @@ bool unzulaessig(char zeichen) {
            std::string_view("\\/:*?\"<>|").find(zeichen) != std::string_view::npos;
 }
 
-constexpr std::size_t zeile_max = 4000;
 constexpr std::uintmax_t datei_max = std::uintmax_t{16} * 1024 * 1024;  // far above any file of the program
 
 }  // namespace
@@ -55,7 +54,8 @@ fs::path dateien::pfad(std::string_view name) const {
     return ordner_ / ziel;
 }
 
-std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view name, std::size_t zeilen_max) const {
+std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view name, std::size_t zeilen_max,
+                                                              std::size_t bytes_max) const {
     std::error_code fehler;
     const fs::path datei = pfad(name);
     if (datei.empty() || !fs::is_regular_file(datei, fehler) || fs::file_size(datei, fehler) > datei_max) {
@@ -72,7 +72,7 @@ std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view n
             zeile.pop_back();
         }
         std::replace(zeile.begin(), zeile.end(), '\r', ' ');  // as the writers do: what was read is what is written
-        zeilen.push_back(von_1252(std::string_view(zeile).substr(0, zeile_max)));
+        zeilen.push_back(von_1252(std::string_view(zeile).substr(0, bytes_max)));
     }
     if (eingabe.bad()) {
         return std::nullopt;

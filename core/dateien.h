@@ -23,9 +23,10 @@ public:
     /// Place of the file on the disk; empty if the name leads out of the program folder.
     std::filesystem::path pfad(std::string_view name) const;
 
-    /// The file's lines as UTF-8, without line ends; at most `zeilen_max` of them, each cut at 4000 bytes.
+    /// The file's lines as UTF-8, without line ends; at most `zeilen_max` of them, each cut at `bytes_max` bytes.
     /// None if the file cannot be read.
-    std::optional<std::vector<std::string>> zeilen_lesen(std::string_view name, std::size_t zeilen_max) const;
+    std::optional<std::vector<std::string>> zeilen_lesen(std::string_view name, std::size_t zeilen_max,
+                                                         std::size_t bytes_max = 4000) const;
 
     /// Writes Windows-1252 lines with CRLF, creating folders as needed. Either the whole new file stands afterwards, or
     /// the result is false and the old one is untouched.

@@ -5,6 +5,7 @@
 
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
+#include "core/wechselschema.h"
 #include "core/zeit.h"
 
 namespace tarvel {
@@ -121,7 +122,7 @@ struct einstellungen {
     bool w_speichern = false;
     bool centermode = false;
     std::string wechselschema_name;
-    std::array<int, 8> wechsel_schema{};  ///< index 1 to 7
+    wechsel_folge wechsel_schema{};
     int training_art = 0;
     int training_wechseldauer = 0;  ///< seconds
     int training_weiter = 0;

@@ -331,11 +331,10 @@ void ab_version_183(tabelle& t) {  // Z 300 to Z 347
         t << sound(nummer, 1);
     }
     const einstellungszeile schema_name =
-        gruppenzeile(zeile::text(wert(&e::wechselschema_name), "Tarvel Standard :  1 - 6 - 5 - 4 - 3 - 2"));
+        gruppenzeile(zeile::text(wert(&e::wechselschema_name), wechsel_standard_text));
     t << schema_name;
-    constexpr std::array<int, 7> schema{1, 6, 5, 4, 3, 2, 7};
-    for (std::size_t i = 0; i < schema.size(); ++i) {
-        t << gruppenzeile(zeile::ganzzahl(element(&e::wechsel_schema, i + 1), schema.at(i)));
+    for (std::size_t i = 1; i < wechsel_standard.size(); ++i) {
+        t << gruppenzeile(zeile::ganzzahl(element(&e::wechsel_schema, i), wechsel_standard.at(i)));
     }
     t << schema_name << zeile::wahrheit(wert(&e::cu_tankautomatik), true, wahr_laden::falsch_loescht, false)
       << chaos_strafzeit() << zeile::wahrheit(wert(&e::chaos_strafe_strom), true, wahr_laden::nicht_falsch, false)

@@ -57,6 +57,20 @@ void fensterregister::entladen(std::string_view name) {
     }
 }
 
+void fensterregister::neu_laden(std::string_view name) {
+    const auto gefunden = fenster_.find(name);
+    if (gefunden == fenster_.end() || !gefunden->second.geladen) {
+        return;
+    }
+    const bool war_offen = gefunden->second.offen;
+    gefunden->second.geladen = false;
+    if (gefunden->second.verhalten.entladen) {
+        gefunden->second.verhalten.entladen();
+    }
+    laden(name);
+    gefunden->second.offen = war_offen && gefunden->second.geladen;
+}
+
 bool fensterregister::ist_offen(std::string_view name) const {
     const auto gefunden = fenster_.find(name);
     return gefunden != fenster_.end() && gefunden->second.offen;

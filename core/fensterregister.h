@@ -41,6 +41,8 @@ public:
     /// Takes the window off the screen; it stays loaded.
     void verbergen(std::string_view name);
     void entladen(std::string_view name);
+    /// The handlers alone: a window that is on the screen begins anew without leaving it.
+    void neu_laden(std::string_view name);
     /// Loaded and on the screen.
     bool ist_offen(std::string_view name) const;
 

@@ -141,26 +141,12 @@ void form1::vor_dem_speichern_pruefen() {
 }
 
 void form1::renndauer_normalisieren() {
-    std::string text = renndauer.text();
-    werte_pruefen2(text);
-    const std::size_t punkt = text.find('.');
-    dauer_minuten_ = ganzzahl_lesen(text.substr(0, punkt), 0, 99999999);
-    std::string sekunden = punkt == std::string::npos ? "00" : text.substr(punkt + 1);
-    if (sekunden.size() == 1) {
-        sekunden += "0";  // 5,3 means five and a half minutes
-    }
-    dauer_sekunden_ = ganzzahl_lesen(sekunden, 0, 59);
-
-    std::string neu = std::to_string(dauer_minuten_);
-    if (dauer_sekunden_ >= 1) {
-        neu += ',';
-        neu += ziffern(dauer_sekunden_, 2);
-    }
-    renndauer.text(neu);
+    dauer_ = tarvel::renndauer_lesen(renndauer.text());
+    renndauer.text(dauer_.text());
 }
 
 zeit_ms form1::renndauer_lesen() const {
-    return std::llround(zahl_lesen(stddauer.text()) * 3600000) + dauer_minuten_ * 60000 + dauer_sekunden_ * 1000;
+    return std::llround(zahl_lesen(stddauer.text()) * 3600000) + dauer_.in_ms();
 }
 
 void form1::spuren_zaehlen() {
@@ -183,10 +169,14 @@ void form1::rennen_uebergeben() {
     renn_parameter& param = um_.param;
     for (const int nummer : alle_spuren) {
         param.fahrer_name[nummer] = fahrer[feld_index(nummer)].text();
+        param.fahrzeug_name[nummer] = auto_[feld_index(nummer)].text();
         param.spurlaenge[nummer] = zahl_lesen(lspur[feld_index(nummer)].text());
     }
     const bool rundenrennen = param.renn_art_text == um_.txt.text_runden;
     param.renn_ziel = rundenrennen ? ganzzahl_lesen(renndauer.text(), 1, 9999) : param.renndauer_ms;
+    param.renn_laenge = param.renn_ziel;
+    param.spur_aktiv_gemerkt = param.spur_aktiv;
+    param.spuren_anzahl_gemerkt = param.spuren_anzahl;
 }
 
 void form1::Command1_Click() {

@@ -8,6 +8,7 @@
 #include "core/fensterregister.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
+#include "core/renndauer.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "platform/bildschirm.h"
@@ -163,8 +164,7 @@ private:
     std::string wort_liter_;
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;
-    zeit_ms dauer_minuten_ = 0;
-    zeit_ms dauer_sekunden_ = 0;
+    renndauer_angabe dauer_;  ///< what `renndauer` says
 };
 
 }  // namespace tarvel

@@ -11,18 +11,33 @@ namespace tarvel {
 struct renn_parameter {
     std::string renn_art_text;  ///< `texte::text_zeit` or `texte::text_runden`
     zeit_ms renn_ziel = 0;      ///< laps to drive; in a time race the duration in ms
-    zeit_ms renndauer_ms = 0;   ///< hours, minutes and seconds of the set-up
+    zeit_ms renn_laenge = 0;    ///< what the set-up asked for; `renn_ziel` grows beyond it when the race is continued
+    zeit_ms renndauer_ms = 0;   ///< of the race, or of the part of it that a continuation adds
     zeit_ms renndauer_rest_ms = 0;
     zeit_ms min_rundenzeit_ms = 0;  ///< shortest lap to count
     int spuren_anzahl = 0;          ///< lanes used
     spuren<bool> spur_aktiv;        ///< lane used
+    int spuren_anzahl_gemerkt = 0;  ///< both as the set-up had them: a continued race may leave lanes out
+    spuren<bool> spur_aktiv_gemerkt;
     spuren<std::string> fahrer_name;
+    spuren<std::string> fahrzeug_name;
     spuren<double> spurlaenge;  ///< metres
     bool tank_aktiv = false;
     int auswertung_nach_rennen = 2;  ///< `einstellungen::auswertung_nach` of this race
     bool training_laeuft = false;
     bool training_autostart = false;  ///< the small start light begins by itself
     bool wettkampf_kein = true;       ///< a single race, no competition
+
+    /// Undoes what a continuation has changed.
+    void einrichtung_wiederherstellen(bool zeitrennen) {
+        spur_aktiv = spur_aktiv_gemerkt;
+        spuren_anzahl = spuren_anzahl_gemerkt;
+        renn_ziel = renn_laenge;
+        if (zeitrennen) {
+            renndauer_ms = renn_laenge;
+            renndauer_rest_ms = renn_laenge;
+        }
+    }
 };
 
 }  // namespace tarvel

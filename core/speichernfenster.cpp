@@ -68,14 +68,16 @@ void speichernfenster::melden(const std::string& text) {
 void speichernfenster::ausfuehren() {
     std::string datei(gekuerzt(name.text()));
     if (datei.empty()) {
-        melden(wort_.name_fehlt);
+        melden(auftrag_.name_fehlt.empty() ? wort_.name_fehlt : auftrag_.name_fehlt);
         return;
     }
     if (!dateiname_zulaessig(datei)) {
         melden(wort_.zeichen);
         return;
     }
-    if (!um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei) && !endet_auf(datei, auftrag_.endung)) {
+    const bool hat_endung = auftrag_.andere_endung_bleibt ? datei.size() >= 4 && datei[datei.size() - 4] == '.'
+                                                          : endet_auf(datei, auftrag_.endung);
+    if (!hat_endung && !um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei)) {
         datei += auftrag_.endung;
     }
     const std::string pfad = auftrag_.ordner + "\\" + datei;

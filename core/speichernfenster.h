@@ -22,6 +22,8 @@ struct dateiauftrag {
     std::string vorschlag;  ///< name shown first
     /// Does it, and reports itself what goes wrong; false leaves the window open.
     std::function<bool(const std::string& name)> ausfuehren;
+    std::string name_fehlt = {};        ///< what is said of an empty name, if not the window's own text
+    bool andere_endung_bleibt = false;  ///< a name with any ending of three letters gets no second one
 };
 
 /// The window in which a file is chosen for saving or loading.

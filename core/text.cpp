@@ -133,6 +133,17 @@ std::string zahl_text(double zahl, char komma) {
     return zahl < 0 && millionstel != 0 ? "-" + text : text;
 }
 
+std::string zahl_fest(double zahl, char komma) {
+    constexpr double max = 1e15;
+    const long long hundertstel = std::llround(std::clamp(zahl, -max, max) * 100);
+    return (hundertstel < 0 ? "-" : "") + std::to_string(std::abs(hundertstel / 100)) + komma +
+           ziffern(std::abs(hundertstel % 100), 2);
+}
+
+std::string zahl_mit_platz(std::int64_t zahl) {
+    return (zahl < 0 ? "" : " ") + std::to_string(zahl);
+}
+
 std::string ziffern(std::int64_t zahl, int stellen) {
     zahl = std::max<std::int64_t>(zahl, 0);
     std::string text(static_cast<std::size_t>(stellen), '0');

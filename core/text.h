@@ -25,6 +25,12 @@ std::int64_t ganzzahl_lesen(std::string_view text, std::int64_t min, std::int64_
 /// The number without needless zeros, with at most six decimals behind `komma`.
 std::string zahl_text(double zahl, char komma);
 
+/// The number with two decimals behind `komma`, at most 1e15 in size.
+std::string zahl_fest(double zahl, char komma);
+
+/// A blank in place of the plus sign: " 7", "-7".
+std::string zahl_mit_platz(std::int64_t zahl);
+
 /// Whole number with leading zeros; of a longer number only its last digits: 7 with 2 digits is "07", 123 is "23".
 /// Negative numbers count as 0.
 std::string ziffern(std::int64_t zahl, int stellen);

@@ -1,7 +1,5 @@
-#include <algorithm>
-#include <optional>
-
 #include "core/text.h"
+#include "core/wechselschema.h"
 #include "optionen/optionsseite.h"
 
 namespace tarvel::optionsseiten {
@@ -9,39 +7,6 @@ namespace {
 
 using namespace option;
 using e = einstellungen;
-using schema = std::array<int, 8>;
-
-constexpr int pausenzeichen = 7;
-
-/// "1-6-5-4-3-2-P"
-std::string schema_text(const schema& folge) {
-    std::string text;
-    for (std::size_t i = 1; i < folge.size(); ++i) {
-        text += i > 1 ? "-" : "";
-        text += folge.at(i) == pausenzeichen ? "P" : std::to_string(folge.at(i));
-    }
-    return text;
-}
-
-/// Seven different marks, with or without signs between them: the lanes and the pause.
-std::optional<schema> schema_lesen(const std::string& text) {
-    schema folge{};
-    std::size_t anzahl = 0;
-    for (const char zeichen : text) {
-        if (zeichen == '-' || zeichen == ' ') {
-            continue;
-        }
-        const bool pause = zeichen == 'P' || zeichen == 'p';
-        const int wert = pause ? pausenzeichen : zeichen - '0';
-        const bool gueltig = pause || (wert >= 1 && wert < pausenzeichen);
-        if (!gueltig || std::find(folge.begin(), folge.end(), wert) != folge.end() || ++anzahl >= folge.size()) {
-            return std::nullopt;
-        }
-        folge.at(anzahl) = wert;
-    }
-    return anzahl + 1 == folge.size() ? std::optional(folge) : std::nullopt;
-}
-
 optionszeile_zeiger wechselschema() {
     optionszeile_zeiger zeile = leeres_feld({"wechsel_schema", "Reihenfolge der Spuren, P = Pause", ""}, 20);
     optionszeile* zeiger = zeile.get();
@@ -50,12 +15,14 @@ optionszeile_zeiger wechselschema() {
         davor(texte);
         texte.text("Schema ungültig", zeiger->grenzen_meldung);
     };
-    zeile->zeigen = [element](const einstellungs_ziel& z) { element->text(schema_text(z.einst.wechsel_schema)); };
+    zeile->zeigen = [element](const einstellungs_ziel& z) {
+        element->text(wechsel_folge_text(z.einst.wechsel_schema));
+    };
     zeile->uebernehmen = [element, zeiger](const einstellungs_ziel& z, const optionszeile::melder& melden) {
-        if (element->text() == schema_text(z.einst.wechsel_schema)) {
+        if (element->text() == wechsel_folge_text(z.einst.wechsel_schema)) {
             return;
         }
-        if (const auto folge = schema_lesen(element->text())) {
+        if (const auto folge = wechsel_folge_lesen(element->text())) {
             z.einst.wechsel_schema = *folge;
         } else {
             melden(zeiger->grenzen_meldung);

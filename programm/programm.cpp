@@ -38,7 +38,9 @@ programm::programm(const plattform::dienste& d)
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
-      auswertung(rennen.umgebung, d.zeitgeber),
+      wertung(rennen),
+      rundenspeichern(rennen, wertung, {ablage, txt, fenster, d.meldungen}),
+      auswertung({rennen, einst, d.zeitgeber, fahrerliste, fahrzeugliste, wertung, rundenspeichern}),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
@@ -121,6 +123,7 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Form2", {[this] { startampel.laden(); }, [this] { startampel.entladen(); }});
     fenster.anmelden("k_ampel", {[this] { k_ampel.laden(); }, [this] { k_ampel.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
+    fenster.anmelden("rundenspeichern", {[this] { rundenspeichern.laden(); }, {}});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
@@ -169,7 +172,7 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(rennen.ansicht.sprache_r());
     alle.push_back(auswertung.sprache_a());
     alle.push_back(tastaturbelegung.sprache_e_tast());
-    alle.push_back(speichernfenster.sprache());
+    alle.push_back(rundenspeichern.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
     alle.push_back(fahrerbild_laden.sprache_fbl());
     for (sprachliste& sprache : einstellungsfenster.sprachdateien()) {
@@ -341,9 +344,19 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 12> reihenfolge{
-        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form2",      "Form3", "k_ampel",
-        "speichernfenster", "Form1", "Tastaturbelegung", "fahrerbild_laden",       "Update_form"};
+    constexpr std::array<std::string_view, 13> reihenfolge{"auswertung",
+                                                           "bahn1",
+                                                           "einstellungen",
+                                                           "fahrerspeichernfenster",
+                                                           "Form2",
+                                                           "Form3",
+                                                           "k_ampel",
+                                                           "rundenspeichern",
+                                                           "speichernfenster",
+                                                           "Form1",
+                                                           "Tastaturbelegung",
+                                                           "fahrerbild_laden",
+                                                           "Update_form"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

@@ -68,6 +68,8 @@ public:
     tarvel::rennen rennen;
     tarvel::startampel startampel;
     tarvel::k_ampel k_ampel;
+    tarvel::wertung wertung;
+    tarvel::rundenspeichern rundenspeichern;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;

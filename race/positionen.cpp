@@ -8,11 +8,25 @@ namespace tarvel {
 void positionen::aufstellen() {
     int naechste = 1;
     for (const int spur : alle_spuren) {
+        position_.at(feld_index(spur)) = um_.param.spur_aktiv[spur] ? naechste++ : 0;
+    }
+    zeigen();
+}
+
+void positionen::zeigen() {
+    for (const int spur : alle_spuren) {
         const std::size_t index = feld_index(spur);
-        const bool dabei = um_.param.spur_aktiv[spur];
-        position_.at(index) = dabei ? naechste++ : 0;
         um_.bahn.l_PosAnz.at(index).text(std::to_string(position_.at(index)));
-        um_.bahn.l_PosAnz.at(index).sichtbar(dabei);
+        um_.bahn.l_PosAnz.at(index).sichtbar(um_.param.spur_aktiv[spur]);
+    }
+}
+
+void positionen::fahrer_umsetzen(const spuren<int>& herkunft) {
+    const std::array<int, spuren_max> vorher = position_;
+    for (const int spur : alle_spuren) {
+        if (herkunft[spur] != 0) {
+            position_.at(feld_index(spur)) = vorher.at(feld_index(herkunft[spur]));
+        }
     }
 }
 

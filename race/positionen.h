@@ -15,6 +15,9 @@ public:
 
     /// Before the start the places follow the order of the lanes in the race.
     void aufstellen();
+    /// A driver keeps his place on another lane: lane i takes that of lane `herkunft[i]`, 0 leaves it.
+    void fahrer_umsetzen(const spuren<int>& herkunft);
+    void zeigen();
     /// At the end of every lap step.
     void positions_pruefung();
     void positionen_tauschen(std::size_t a, std::size_t b);

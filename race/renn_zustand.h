@@ -14,6 +14,7 @@ enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
 struct spur_zustand {
     int runden = -1;             ///< laps counted; -1 before the first crossing, which makes it 0
     int runden_zeile = 0;        ///< always `runden` + 1: the row of the lap store that the next crossing fills
+    int runden_vorher = 0;       ///< laps of earlier parts of a continued race, perhaps driven on another lane
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
     zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
     int strafzeit = 0;           ///< time penalty in seconds
@@ -61,7 +62,9 @@ struct renn_zustand {
     int ampel_takt = 1500;          ///< ms of the last step of the start light, for this start
     int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
     bool rennen_beendet = true;
-    bool chaos_aktiv = false;  ///< the race is paused
+    bool fortgesetzt = false;         ///< the race goes on from an earlier result
+    bool fortsetzung_wartet = false;  ///< and its light has not gone green yet
+    bool chaos_aktiv = false;         ///< the race is paused
     pausen_zustand pause;
     bool ende_eingeleitet = false;  ///< guards against a second reason to end
     bool endesound_gespielt = false;

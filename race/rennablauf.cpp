@@ -49,6 +49,8 @@ void rennablauf::rennen_zuruecksetzen() {
         zustand.rundenzeiten.beste(spur, 0);
     }
     zustand.pause_abzug = 0;
+    zustand.fortgesetzt = false;
+    zustand.fortsetzung_wartet = false;
     zustand.fuehrungsrunden = 0;
     zustand.fruehstart_zaehler = 0;
     um_.zeitgeber.f_straftimer->aus();
@@ -86,7 +88,7 @@ void rennablauf::rennstart_vorbereiten() {
         spur.tank_halt = false;
         spur.strafzeit = 0;
     }
-    t_.uhr.restzeit_vorbereiten();
+    t_.uhr.restzeit_vorbereiten(um_.param.renn_ziel);
     ampel_takt_bestimmen();
     um_.bahn.Command1.aktiviert(false);
     um_.bahn.Command2.aktiviert(false);

@@ -160,6 +160,31 @@ void rennansicht::anzeigen_leeren() {
     }
 }
 
+void rennansicht::stand_zeigen() {
+    bahn1& bahn = um_.bahn;
+    const rundenspeicher& speicher = um_.zustand.rundenzeiten;
+    const auto kurz = [this](zeit_ms zeit) { return zeit_formatieren(zeit, false, um_.einst.trennzeichen); };
+    for (const int spur : alle_spuren) {
+        const int runden = um_.zustand.spur[spur].runden;
+        if (runden < 0) {
+            continue;
+        }
+        bahn.zaehler[spur].text(um_.zustand.spur[spur].disqualifiziert ? std::string(disqualifiziert_text)
+                                                                       : std::to_string(runden));
+        bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
+        bahn.zaehler[spur].schriftgroesse(bahn.zaehler_schrift * (runden >= 1000 ? 0.6 : runden >= 100 ? 0.8 : 1));
+        if (runden > 0) {
+            bahn.lrunde[spur].text(kurz(speicher.rundenzeit(spur, runden)));
+            bahn.brunde[spur].text(kurz(speicher.beste(spur)));
+        }
+        liste& rundenliste = bahn.t_liste.at(feld_index(spur));
+        for (int runde = 0; rundenliste.sichtbar() && runde <= runden; ++runde) {
+            rundenliste.hinzufuegen(" " + std::to_string(runde) + ". " + kurz(speicher.rundenzeit(spur, runde)));
+        }
+        rundenliste.markieren(runden);
+    }
+}
+
 void rennansicht::freigeben() {
     for (const int spur : alle_spuren) {
         if (!um_.zustand.spur[spur].strom_aus) {

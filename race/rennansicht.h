@@ -28,6 +28,8 @@ public:
     void farben_setzen();
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
+    /// The same with what the lanes have, for a race that goes on.
+    void stand_zeigen();
     /// The race runs: the small light of each lane that has power shows green.
     void freigeben();
     void kleine_ampel(int spur, kleines_licht licht);

@@ -46,7 +46,7 @@ void rennbefehle::rennen_beenden() {
         return;
     }
     um_.fenster.entladen("Form2");
-    um_.zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    t_.ende.ende_stempeln();
     um_.zustand.rennabbruch = true;
     t_.ende.rennende_ablauf();
 }

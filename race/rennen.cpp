@@ -20,6 +20,7 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       sensoren(umgebung),
       ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, tanken, sektoren, sensoren}),
       chaos(umgebung, {ablauf, ansicht, strafen}),
+      fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
     ende.laufendes_beenden = [this] {

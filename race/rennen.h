@@ -2,6 +2,7 @@
 
 #include "platform/dienste.h"
 #include "race/chaos.h"
+#include "race/fortsetzung.h"
 #include "race/rennbefehle.h"
 #include "race/strafen.h"
 
@@ -42,6 +43,7 @@ struct rennen {
     soundsensoren sensoren;
     rennablauf ablauf;
     tarvel::chaos chaos;
+    tarvel::fortsetzung fortsetzung;
     rennbefehle befehle;
 };
 

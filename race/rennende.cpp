@@ -80,7 +80,7 @@ void rennende::rennende_einleiten() {
         return;
     }
     zustand.ende_eingeleitet = true;
-    zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    ende_stempeln();
     zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
         nachlauf_runden_starten();
@@ -136,12 +136,18 @@ void rennende::ausgaben_endzustand() {
     um_.ausgaben.relais_off(0);
 }
 
+void rennende::ende_stempeln() {
+    if (!um_.zustand.fortsetzung_wartet) {
+        um_.zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    }
+}
+
 void rennende::rennende_ablauf() {
     renn_zustand& zustand = um_.zustand;
     if (zustand.rennen_beendet) {
         return;
     }
-    zustand.renn_ende_stempel = um_.zeit.messzeit_lesen();
+    ende_stempeln();
     zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
     um_.zeitgeber.nachlauftimer1->aus();
     if (um_.ist_zeitrennen()) {

@@ -27,6 +27,8 @@ public:
     void spur_ziel_setzen(int spur);
     /// Lamps off and power on, as after every race.
     void ausgaben_endzustand();
+    /// Takes the moment at which the race ended. One that is ended before it has gone on keeps its earlier end.
+    void ende_stempeln();
     /// One minute of the run-on is over.
     void nachlauf_tick();
 

@@ -102,9 +102,9 @@ void rennuhr::tausendstel_auf_null() {
     um_.bahn.uhr2.tausendstel.text("000");
 }
 
-void rennuhr::restzeit_vorbereiten() {
+void rennuhr::restzeit_vorbereiten(zeit_ms dauer) {
     for (const restzeit_sound& sound : restzeit_tabelle) {
-        zeit_sound_offen_.at(sound.marke) = um_.param.renn_ziel > sound.zu_kurz_bis;
+        zeit_sound_offen_.at(sound.marke) = dauer > sound.zu_kurz_bis;
     }
 }
 

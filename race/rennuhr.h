@@ -20,8 +20,8 @@ public:
     /// The race is over at time zero.
     void auf_null_stellen();
     void tausendstel_auf_null();
-    /// Arms the countdown sounds that this race is long enough for.
-    void restzeit_vorbereiten();
+    /// Arms the countdown sounds that `dauer` ms of race are long enough for.
+    void restzeit_vorbereiten(zeit_ms dauer);
 
 private:
     static constexpr int restzeit_anzahl = 16;

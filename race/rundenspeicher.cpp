@@ -15,4 +15,22 @@ void rundenspeicher::zeile_kopieren(int spur, int von, int nach) {
     setzen(spur, nach, rundenzeit(spur, von), stempel(spur, von), pause(spur, von));
 }
 
+void rundenspeicher::zeile_verschmelzen(int spur, int zeile, int letzte) {
+    setzen(spur, zeile - 1, rundenzeit(spur, zeile - 1) + rundenzeit(spur, zeile), stempel(spur, zeile),
+           pause(spur, zeile - 1) + pause(spur, zeile));
+    for (int ziel = zeile; ziel < letzte; ++ziel) {
+        zeile_kopieren(spur, ziel + 1, ziel);
+    }
+    leeren(spur, letzte);
+}
+
+void rundenspeicher::spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte) {
+    for (int zeile = 0; zeile <= letzte; ++zeile) {
+        setzen(spur, zeile, quelle.rundenzeit(quellspur, zeile), quelle.stempel(quellspur, zeile),
+               quelle.pause(quellspur, zeile));
+    }
+    leeren(spur, letzte + 1);
+    beste(spur, quelle.beste(quellspur));
+}
+
 }  // namespace tarvel

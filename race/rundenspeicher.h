@@ -24,6 +24,11 @@ public:
     void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause = 0);
     void leeren(int spur, int zeile) { setzen(spur, zeile, 0, 0); }
     void zeile_kopieren(int spur, int von, int nach);
+    /// Takes lap `zeile` of 1 to `letzte` off as a false crossing: its time goes to the row before, which closes with
+    /// the later stamp, and the rows behind move up.
+    void zeile_verschmelzen(int spur, int zeile, int letzte);
+    /// Rows 0 to `letzte` and the best lap of a lane of another store.
+    void spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte);
 
     /// Best lap in ms, 0 until there is one.
     zeit_ms beste(int spur) const { return beste_[spur]; }

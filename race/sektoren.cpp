@@ -11,6 +11,7 @@ namespace tarvel {
 namespace {
 
 constexpr int sensoren_je_spur = 2;
+constexpr int sektoren_max = 3;
 enum class anzeige_ort { keine, klein, gross };
 
 /// Event of a lane's sector sensor 1 or 2.
@@ -97,19 +98,42 @@ void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
     um_.sounds.spielen(sound::sektorzeit);
 }
 
-void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
-    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen));
+std::string sektoren::tempo_text(int spur, int sektor, zeit_ms zeit) const {
     const std::string& laenge = um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur];
     if (laenge.empty()) {
+        return {};
+    }
+    const double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
+    if (um_.einst.real_speed) {
+        return std::to_string(std::llround(tempo * zahl_lesen(um_.haupt.massstab.text())));
+    }
+    return zahl_fest(tempo, ',');
+}
+
+void sektoren::zeile_verschmelzen(int spur, int zeile, int letzte) {
+    for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
+        sektorzeit(spur, sektor, zeile - 1, sektorzeit(spur, sektor, zeile - 1) + sektorzeit(spur, sektor, zeile));
+        for (int ziel = zeile; ziel <= letzte; ++ziel) {
+            sektorzeit(spur, sektor, ziel, ziel < letzte ? sektorzeit(spur, sektor, ziel + 1) : 0);
+        }
+    }
+}
+
+void sektoren::fahrer_umsetzen(const spuren<int>& herkunft) {
+    const spuren<zeilen> vorher = sektorzeiten_;
+    for (const int spur : alle_spuren) {
+        if (herkunft[spur] != 0) {
+            sektorzeiten_[spur] = vorher[herkunft[spur]];
+        }
+    }
+}
+
+void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
+    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen));
+    std::string text = tempo_text(spur, sektor, zeit);
+    if (text.empty()) {
         return;
     }
-    double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
-    if (um_.einst.real_speed) {
-        tempo *= zahl_lesen(um_.haupt.massstab.text());
-    }
-    const auto hundertstel = std::llround(tempo * 100);
-    std::string text = um_.einst.real_speed ? std::to_string(std::llround(tempo))
-                                            : std::to_string(hundertstel / 100) + "," + ziffern(hundertstel % 100, 2);
     text += um_.bahn.zeilenansicht ? " k" : " k/h";
     anzeigen_in(um_.bahn, spur, um_.einst.topspeed_anzeige, text);
 }

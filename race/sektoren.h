@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <vector>
 
 #include "race/umgebung.h"
@@ -21,6 +22,13 @@ public:
 
     /// Time of sector 1 to 3 in ms, 0 for none; `zeile` as in the lap store.
     zeit_ms sektorzeit(int spur, int sektor, int zeile) const;
+    /// Speed through a sector as a number in km/h, of the model or of its original; empty without a length.
+    std::string tempo_text(int spur, int sektor, zeit_ms zeit) const;
+
+    /// As `rundenspeicher::zeile_verschmelzen`.
+    void zeile_verschmelzen(int spur, int zeile, int letzte);
+    /// The sector times go with their drivers: lane i takes those of lane `herkunft[i]`, 0 leaves them.
+    void fahrer_umsetzen(const spuren<int>& herkunft);
 
 private:
     using zeilen = std::vector<std::array<zeit_ms, 3>>;

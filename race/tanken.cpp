@@ -68,6 +68,16 @@ void tanken::fuellstand_zeigen(int spur) {
         .hoehe(std::max(stand, 0.0) * um_.bahn.tank_balkenhoehe / um_.einst.tank_inhalt);
 }
 
+void tanken::fuellstaende_zeigen() {
+    for (const int spur : alle_spuren) {
+        const double stand = um_.zustand.spur[spur].tank_inhalt;
+        fuellstand_zeigen(spur);
+        tankfarbe(spur, stand <= um_.einst.tank_warnung      ? farben::rot
+                        : stand < 2 * um_.einst.tank_warnung ? hellrot
+                                                             : gruen);
+    }
+}
+
 void tanken::tankfarbe(int spur, farbe neu) {
     um_.bahn.t_bahn[spur].schriftfarbe(neu);
     um_.bahn.tankbalken.at(feld_index(spur)).hintergrund(neu);
@@ -152,6 +162,9 @@ void tanken::voll(int spur) {
 }
 
 void tanken::tank_verbrauch_rechnen(zeit_ms zeit, int spur) {
+    if (um_.zustand.rennen_beendet) {
+        return;  // a late crossing counts as a lap, but must not cut the power behind the result
+    }
     spur_zustand& zustand = um_.zustand.spur[spur];
     const double stand =
         runden_auf(zustand.tank_inhalt - verbrauch(zeit, um_.einst.tank_verbrauch, um_.einst.tank_rundenzeit), 100);

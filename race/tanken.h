@@ -23,6 +23,8 @@ public:
     void tank_kontakte_auswerten();
     /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.
     void tank_alle_spuren();
+    /// Levels and their displays, without any change.
+    void fuellstaende_zeigen();
     /// Burns the fuel of a counted crossing that took `zeit` ms.
     void tank_verbrauch_rechnen(zeit_ms zeit, int spur);
 

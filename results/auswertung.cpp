@@ -10,58 +10,92 @@
 namespace tarvel {
 namespace {
 
-// A lane that was not in the race stays behind all others, whatever the key.
-constexpr int runden_inaktiv = -2;
-constexpr double meter_inaktiv = -100.0;
-constexpr zeit_ms gesamtzeit_inaktiv = 999999999;
-constexpr zeit_ms beste_inaktiv = 999999;
-
 constexpr int zielsignal_ms = 3000;
+constexpr int nachzaehltakt_ms = 10;
+constexpr int blinktakt_ms = 500;
+constexpr int sekunde_ms = 1000;
+constexpr int runden_ohne_bild = 1000;  // a number of four digits needs the room
+constexpr int sektoren_max = 3;
 
-/// km/h; 0 for no time.
-double tempo(double meter, zeit_ms zeit) {
-    return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / 3600000);
-}
-
-/// With two decimals.
-std::string dezimal(double zahl) {
-    const long long hundertstel = std::llround(zahl * 100);
-    return std::to_string(hundertstel / 100) + "," + ziffern(hundertstel % 100, 2);
-}
+using plattform::zeitgeber_art;
 
 }  // namespace
 
-auswertung::auswertung(const renn_umgebung& um, plattform::zeitgeber_dienst& zeitgeber)
-    : um_(um), zieltimer_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, zielsignal_ms)) {
+auswertung::auswertung(const umfeld& um) : r_(um.r), um_(um.r.umgebung), u_(um) {
+    zeitgeber_verbinden(um.zeitgeber);
+    befehle_verbinden();
+    for (std::size_t i = 0; i < spuren_max; ++i) {
+        spurbefehle_verbinden(i);
+    }
+}
+
+void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
+    zieltimer_ = dienst.erzeugen(zeitgeber_art::zaehlend, zielsignal_ms);
     zieltimer_->bei_tick = [this] { zielsignal_beenden(); };
-    Command5.bei_klick = [this] { cmd5_fortsetzung(); };
+    ch_durch3_ = dienst.erzeugen(zeitgeber_art::abfragend, nachzaehltakt_ms);
+    ch_durch3_->bei_tick = [this] { nachzaehlen(); };
+    ch_durch4_ = dienst.erzeugen(zeitgeber_art::zaehlend, nachzaehltakt_ms);
+    ch_durch4_->bei_tick = [this] { nachzaehlen_beenden(); };
+    w_auto5_ = dienst.erzeugen(zeitgeber_art::zaehlend, sekunde_ms);
+    w_auto5_->bei_tick = [this] {
+        w_auto5_->aus();
+        if (aktion_nach_bestzeiten_ != aktion::hauptmenue) {
+            Command5.klicken();
+        }
+    };
+    tmr_dauertraining_ = dienst.erzeugen(zeitgeber_art::zaehlend, sekunde_ms);
+    tmr_dauertraining_->bei_tick = [this] { training_tick(); };
+    for (std::size_t i = 0; i < spuren_max; ++i) {
+        beste_blink_timer_.at(i) = dienst.erzeugen(zeitgeber_art::zaehlend, blinktakt_ms);
+        beste_blink_timer_.at(i)->bei_tick = [this, i] {
+            const bool war_rot = beste_aus.at(i).schriftfarbe() == farben::rot;
+            beste_aus.at(i).schriftfarbe(war_rot ? farben::schwarz : farben::rot);
+        };
+    }
 }
 
 void auswertung::laden() {
-    um_.zustand.rennen_beendet = true;
-    um_.zustand.chaos_aktiv = false;
+    renn_zustand& zustand = um_.zustand;
+    zustand.rennen_beendet = true;
+    zustand.chaos_aktiv = false;
     if (!um_.einst.zielmodus_erster) {
         um_.zeitgeber.rennen_aus();
+    } else if (um_.einst.sensor_timeout > 0 && um_.zeitgeber.renntimer->laeuft()) {
+        ch_durch4_->intervall(um_.einst.sensor_timeout + nachzaehltakt_ms);
+        ch_durch4_->an();
+        ch_durch3_->an();
     }
     um_.ausgaben.rennende_signal(true);
     zieltimer_->an();
     sprache_a().anwenden(um_.ablage);
     ansagen_setzen();
-    meter_fortsetzung_.fuellen({});
-    for (bezeichnung& meter : ges_meter) {
-        meter.text("");
+    if (!zustand.fortgesetzt) {
+        u_.stand.zuruecksetzen();
+        anzeige_modus_.fill(anzeige::zeit);
     }
+    aktion_nach_bestzeiten_ = aktion::keine;
     kopf_schreiben();
+    bedienung_einrichten();
     auswertung_anzeigen();
-    if (sortier_modus_von(um_.param.auswertung_nach_rennen) == sortier_modus::meter) {
-        auswertung_anzeigen();  // the standing goes by the metres that are shown, so they must be there first
-    }
+    bestzeiten_pruefen();
     Command5.fokus_setzen();
 }
 
 void auswertung::entladen() {
+    zeitgeber_aus();
     if (zieltimer_->laeuft()) {
         zielsignal_beenden();
+    }
+    um_.fenster.entladen("rundenspeichern");
+}
+
+void auswertung::zeitgeber_aus() {
+    for (const auto* zeitgeber : {&ch_durch3_, &ch_durch4_, &w_auto5_, &tmr_dauertraining_}) {
+        (*zeitgeber)->aus();
+    }
+    for (std::size_t i = 0; i < spuren_max; ++i) {
+        beste_blink_timer_.at(i)->aus();
+        beste_aus.at(i).schriftfarbe(farben::schwarz);
     }
 }
 
@@ -70,35 +104,13 @@ void auswertung::zielsignal_beenden() {
     um_.ausgaben.rennende_signal(false);
 }
 
-sprachliste auswertung::sprache_a() {
-    sprachliste texte("language\\language_a.txt");
-    texte.ueberschrift("Auswertung").text("Auswertung des Rennens", titel).text("Hauptmenü", Command5);
-    texte.text("Zeitrennen", wort_.zeitrennen).text("Rundenrennen", wort_.rundenrennen);
-    texte.text("vorzeitig beendet", wort_.vorzeitig).text("Strafzeit", wort_.strafzeit);
-    texte.text("Spur", wort_.spur).fuer_alle("Runden", Label_runden).fuer_alle("Gesamtzeit", Label_zeit);
-    texte.fuer_alle("beste Runde", Label_beste);
-    texte.text("Geschwindigkeit beste Runde / Durchschnittsgeschwindigkeit", wort_.tempo);
-    return texte.text("Rundenliste", wort_.rundenliste);
-}
-
-void auswertung::ansagen_setzen() {
-    for (const int spur : alle_spuren) {
-        const std::size_t i = feld_index(spur);
-        Label_spur[i].text(wort_.spur + " " + std::to_string(spur));
-        const auto ansagen = [&](steuerelement& element, const std::string& was) {
-            element.ansage(Label_spur[i].text() + ": " + was);
-        };
-        ansagen(runden_aus[i], Label_runden[i].text());
-        ansagen(zeit_aus[i], Label_zeit[i].text());
-        ansagen(beste_aus[i], Label_beste[i].text());
-        ansagen(liste[i], wort_.rundenliste);
-        beste_aus[i].tipp(wort_.tempo);
-        kmh_label[i].tipp(wort_.tempo);
-    }
+bool auswertung::ist_intervalltraining() const {
+    constexpr int intervalltraining = 1;
+    return um_.param.training_laeuft && um_.einst.training_art == intervalltraining;
 }
 
 void auswertung::kopf_schreiben() {
-    std::string kopf = um_.param.renn_art_text == um_.txt.text_zeit ? wort_.zeitrennen : wort_.rundenrennen;
+    std::string kopf = um_.ist_zeitrennen() ? wort_.zeitrennen : wort_.rundenrennen;
     kopf += "  ·  " + um_.bahn.ziel_label.text();
     if (um_.zustand.rennabbruch) {
         kopf += "  ·  " + wort_.vorzeitig;
@@ -108,55 +120,36 @@ void auswertung::kopf_schreiben() {
     kopf_label.text(kopf + "  ·  " + ende);
 }
 
-void auswertung::platzierung_berechnen() {
-    rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    for (const int spur : alle_spuren) {
-        platz_werte& werte = werte_[spur];
-        werte.aktiv = um_.param.spur_aktiv[spur];
-        werte.runden = std::max(um_.zustand.spur[spur].runden, -1);
-        std::string meter = ges_meter.at(feld_index(spur)).text();
-        werte_pruefen2(meter);
-        werte.meter = std::max(zahl_lesen(meter), 0.0);
-        werte.gesamtzeit = 0;
-        if (!werte.aktiv) {
-            speicher.beste(spur, beste_inaktiv);
-            werte = {false, runden_inaktiv, meter_inaktiv, gesamtzeit_inaktiv, beste_inaktiv};
-            continue;
-        }
-        for (int runde = 1; runde <= werte.runden; ++runde) {
-            werte.gesamtzeit += speicher.rundenzeit(spur, runde);
-        }
-        werte.gesamtzeit += zeit_ms{1000} * um_.zustand.spur[spur].strafzeit;
-        werte.beste_runde = speicher.beste(spur);
+void auswertung::bedienung_einrichten() {
+    const bool wettkampf = ist_wettkampf();
+    const bool intervall = ist_intervalltraining();
+    const bool ohne_spurwechsel = um_.einst.hardware.hw_cu || um_.param.training_laeuft;
+    Command5.text(wettkampf ? wort_.weiter : wort_.hauptmenue);
+    Command7.sichtbar(wettkampf && um_.einst.w_autom);
+    Command4.sichtbar(!wettkampf);
+    Command1.sichtbar(!intervall);
+    Frame1.text(ohne_spurwechsel ? wort_.rennen : wort_.spur_wechseln);
+    Frame1.sichtbar(!wettkampf && !intervall);
+    spurwechsel.gesetzt(true);
+    tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
+    trainingslabel.sichtbar(intervall);
+    Frame_verlauf.sichtbar(false);
+    Frame_stand.sichtbar(true);
+    Command_verlauf.text(wort_.verlauf);
+    for (feld& eingabe : meter) {
+        eingabe.text("0");
     }
-
-    const spuren<int> rang_folge = rang_folge_bilden(werte_, sortier_modus_von(um_.param.auswertung_nach_rennen));
-    for (int rang = 1; rang <= spuren_max; ++rang) {
-        const int spur = rang_folge[rang];
-        platzierung_[spur] = rang;
-        Frame.at(feld_index(spur)).reihe(rang - 1);
-        platz.at(feld_index(spur)).text(std::to_string(rang) + ".");
+    meter_eingabe(false);
+    Command6.sichtbar(um_.ist_zeitrennen() || um_.einst.zielmodus_erster);
+    ziel_vorschlagen();
+    if (wettkampf && um_.einst.w_autom) {
+        w_auto5_->intervall(std::max(um_.einst.w_zeit1, sekunde_ms));
+        w_auto5_->an();
     }
-    fuehrende_spur_ = rang_folge[1];
-    for (const int spur : alle_spuren) {
-        const zeit_ms abstand = werte_[spur].gesamtzeit - werte_[fuehrende_spur_].gesamtzeit;
-        bezeichnung& label = abstandlabel.at(feld_index(spur));
-        label.sichtbar(werte_[spur].aktiv && spur != fuehrende_spur_);
-        // a car that is laps behind may have the lower time
-        label.text((abstand < 0 ? "- " : "+ ") + zeit_formatieren(std::abs(abstand), true, um_.einst.trennzeichen));
-    }
-}
-
-void auswertung::meter_auswerten() {
-    for (const int spur : alle_spuren) {
-        if (!um_.param.spur_aktiv[spur]) {
-            continue;
-        }
-        meter_stand& stand = meter_fortsetzung_[spur];
-        const int runden = std::max(um_.zustand.spur[spur].runden, 0);
-        stand.meter += um_.param.spurlaenge[spur] * (runden - stand.runden);
-        stand.runden = runden;
-        ges_meter.at(feld_index(spur)).text(dezimal(stand.meter) + " m");
+    if (intervall) {
+        training_sekunden_ = -1;
+        training_tick();
+        tmr_dauertraining_->an();
     }
 }
 
@@ -164,15 +157,14 @@ void auswertung::auswertung_anzeigen() {
     for (tarvel::liste& runden : liste) {
         runden.leeren();
     }
-    for (spur_zustand& spur : um_.zustand.spur) {
-        if (spur.disqualifiziert) {
-            spur.runden = 0;
-        }
-    }
-    platzierung_berechnen();
-    meter_auswerten();
+    gewaehlte_spur_ = 0;
+    u_.stand.disqualifizierte_streichen();
+    u_.stand.meter_auswerten();  // the standing may go by the metres
+    u_.stand.platzierung_berechnen();
     for (const int spur : alle_spuren) {
-        Frame.at(feld_index(spur)).sichtbar(um_.param.spur_aktiv[spur]);
+        const std::size_t i = feld_index(spur);
+        Frame[i].reihe(u_.stand.platzierung(spur) - 1);
+        Frame[i].sichtbar(um_.param.spur_aktiv[spur]);
         if (um_.param.spur_aktiv[spur]) {
             spur_anzeigen(spur);
         }
@@ -181,42 +173,121 @@ void auswertung::auswertung_anzeigen() {
 
 void auswertung::spur_anzeigen(int spur) {
     const std::size_t i = feld_index(spur);
-    spur_zustand& zustand = um_.zustand.spur[spur];
-    zustand.runden = zustand.runden_zeile - 1;
-    if (zustand.disqualifiziert) {
-        zustand.runden = 0;
-    }
-    const platz_werte& werte = werte_[spur];
-    const trennzeichen_tabelle& trennzeichen = um_.einst.trennzeichen;
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const wertung& stand = u_.stand;
+    const auto zeit_text = [this](zeit_ms zeit, bool lang) {
+        return zeit_formatieren(zeit, lang, um_.einst.trennzeichen);
+    };
+    const auto tempo = [&](int runden, zeit_ms zeit) {
+        return zahl_fest(sektor_tempo(um_.param.spurlaenge[spur] * runden, zeit), ',');
+    };
+    platz[i].text(std::to_string(stand.platzierung(spur)) + ".");
     fahrer[i].text(um_.param.fahrer_name[spur]);
+    fahrzeug[i].text(um_.param.fahrzeug_name[spur]);
+    bilder_anzeigen(spur);
     Frame[i].schriftfarbe(um_.einst.farben_spur[spur]);
     runden_aus[i].text(zustand.disqualifiziert ? std::string(disqualifiziert_text)
-                                               : std::to_string(std::max(zustand.runden, 0)));
-    beste_aus[i].text(zeit_formatieren(werte.beste_runde, false, trennzeichen));
-    zeit_aus[i].text(zeit_formatieren(werte.gesamtzeit, true, trennzeichen));
-    kmh_label[i].text(dezimal(tempo(um_.param.spurlaenge[spur], werte.beste_runde)) + " / " +
-                      dezimal(tempo(um_.param.spurlaenge[spur] * std::max(zustand.runden, 0), werte.gesamtzeit)) +
+                                               : std::to_string(stand.runden(spur)));
+    beste_aus[i].text(zeit_text(stand.beste_runde(spur), false));
+    zeit_aus[i].text(zeit_text(stand.gesamtzeit(spur), true));
+    abstandlabel[i].sichtbar(spur != stand.fuehrende_spur());
+    const zeit_ms abstand = stand.abstand(spur);  // a car that is laps behind may have the lower time
+    abstandlabel[i].text((abstand < 0 ? "- " : "+ ") + zeit_text(std::abs(abstand), true));
+    ges_meter[i].text(stand.meter_text(spur) + " m");
+    kmh_label[i].text(tempo(1, stand.beste_runde(spur)) + " / " + tempo(stand.runden(spur), stand.gesamtzeit(spur)) +
                       " km/h");
     aus_straflabel[i].sichtbar(zustand.strafzeit > 0);
     aus_straflabel[i].text(wort_.strafzeit + ": " + std::to_string(zustand.strafzeit) + " sec");
+    tankinhalt[i].sichtbar(um_.param.tank_aktiv);
+    tankinhalt[i].text(wort_.tankinhalt + ": " + um_.bahn.t_bahn[spur].text() + " l");
     rundenliste_schreiben(spur);
+}
+
+void auswertung::bilder_anzeigen(int spur) {
+    const std::size_t i = feld_index(spur);
+    const auto zeigen = [&](bild& ort, const namensliste& namen, const std::string& name) {
+        ort.ersatz(namen.listenart().bildordner + "/" + namen.listenart().standardbild);
+        ort.datei(namen.bilddatei(um_.ablage, name));
+    };
+    const bool besetzt = !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+    zeigen(Image1[i], u_.fahrerliste, um_.param.fahrer_name[spur]);
+    zeigen(Image2[i], u_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
+    Image1[i].sichtbar(besetzt && u_.stand.runden(spur) < runden_ohne_bild);
+    Image2[i].sichtbar(besetzt && um_.einst.fahrzeugbild_an);
 }
 
 void auswertung::rundenliste_schreiben(int spur) {
     for (int runde = 1; runde <= um_.zustand.spur[spur].runden; ++runde) {
-        liste.at(feld_index(spur))
-            .hinzufuegen(
-                std::to_string(runde) + ".  " +
-                zeit_formatieren(um_.zustand.rundenzeiten.rundenzeit(spur, runde), true, um_.einst.trennzeichen));
+        liste.at(feld_index(spur)).hinzufuegen(rundenzeile(spur, runde));
     }
 }
 
-void auswertung::cmd5_fortsetzung() {
-    um_.param.training_laeuft = false;
-    um_.ausgaben.ruhezustand();
-    um_.fenster.entladen("auswertung");
-    um_.fenster.entladen("bahn1");
-    um_.fenster.zeigen("Form1");
+std::string auswertung::rundenzeile(int spur, int runde) const {
+    const anzeige modus = anzeige_modus_.at(feld_index(spur));
+    const bool mit_zeiten = modus == anzeige::mit_sektorzeit || modus == anzeige::mit_beidem;
+    const bool mit_tempo = modus == anzeige::mit_tempo || modus == anzeige::mit_beidem;
+    const auto zeit_text = [this](zeit_ms zeit, bool lang) {
+        return zeit_formatieren(zeit, lang, um_.einst.trennzeichen);
+    };
+    std::string zeile =
+        std::to_string(runde) + ".  " + zeit_text(um_.zustand.rundenzeiten.rundenzeit(spur, runde), true);
+    for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
+        if (!um_.einst.sektor_an.at(static_cast<std::size_t>(sektor))) {
+            continue;
+        }
+        const zeit_ms zeit = r_.sektoren.sektorzeit(spur, sektor, runde);
+        if (mit_zeiten) {
+            zeile += "    T" + std::to_string(sektor) + ": " + zeit_text(zeit, false);
+        }
+        if (mit_tempo) {
+            zeile += "    S" + std::to_string(sektor) + ": " + r_.sektoren.tempo_text(spur, sektor, zeit) + " km/h";
+        }
+    }
+    return zeile;
+}
+
+void auswertung::nachzaehlen() {
+    spuren<int> vorher;
+    for (const int spur : alle_spuren) {
+        vorher[spur] = um_.zustand.spur[spur].runden;
+    }
+    um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
+    r_.zaehlung.runden_auswerten();
+    bool gezaehlt = false;
+    for (const int spur : alle_spuren) {
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        if (zustand.runden > vorher[spur]) {
+            zustand.ziel_erreicht = true;  // the lap that the end has cut short, and no further one
+            gezaehlt = true;
+        }
+    }
+    if (gezaehlt) {
+        auswertung_anzeigen();
+        bestzeiten_pruefen();
+    }
+}
+
+void auswertung::nachzaehlen_beenden() {
+    ch_durch3_->aus();
+    ch_durch4_->aus();
+}
+
+void auswertung::training_tick() {
+    ++training_sekunden_;
+    const int rest = std::max(um_.einst.training_wechseldauer - training_sekunden_, 0);
+    trainingslabel.text(wort_.training + "  " + std::to_string(rest) + "   ");
+    if (training_sekunden_ > 0 && rest == 0) {
+        tmr_dauertraining_->aus();
+        um_.param.training_autostart = true;
+        bestzeiten_vor(um_.einst.training_weiter != 0 ? aktion::fortsetzen : aktion::neu_starten);
+    }
+}
+
+void auswertung::verlauf_umschalten() {
+    const bool zeigen = !Frame_verlauf.sichtbar();
+    Frame_stand.sichtbar(!zeigen);
+    Frame_verlauf.sichtbar(zeigen);
+    Command_verlauf.text(zeigen ? wort_.stand : wort_.verlauf);
 }
 
 }  // namespace tarvel

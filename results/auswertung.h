@@ -1,90 +1,183 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
+#include "core/namensliste.h"
 #include "core/steuerelemente.h"
-#include "race/umgebung.h"
-#include "results/platzierung.h"
+#include "race/rennen.h"
+#include "results/rundenspeichern.h"
+#include "results/wertung.h"
 
 namespace tarvel {
 
-/// The result window: computes the standing of the race from what the race left behind, and shows it. Its control
-/// arrays count the lanes from 0.
+/// The result window: shows the standing of the race, lets the race director correct it, and decides how the program
+/// goes on. Its control arrays count the lanes from 0.
 class auswertung {
 public:
-    auswertung(const renn_umgebung& um, plattform::zeitgeber_dienst& zeitgeber);
+    struct umfeld {
+        rennen& r;
+        einstellungen& einst;
+        plattform::zeitgeber_dienst& zeitgeber;
+        const namensliste& fahrerliste;
+        const namensliste& fahrzeugliste;
+        wertung& stand;
+        rundenspeichern& speichern;
+    };
 
-    std::array<rahmen, spuren_max> Frame;  ///< all of a lane; its row is the place
-    std::array<bezeichnung, spuren_max> platz;
-    std::array<bezeichnung, spuren_max> fahrer;
-    std::array<bezeichnung, spuren_max> Label_spur;  ///< captions of the cells
-    std::array<bezeichnung, spuren_max> Label_runden;
-    std::array<bezeichnung, spuren_max> Label_zeit;
-    std::array<bezeichnung, spuren_max> Label_beste;
-    std::array<bezeichnung, spuren_max> runden_aus;
-    std::array<bezeichnung, spuren_max> beste_aus;
-    std::array<bezeichnung, spuren_max> zeit_aus;
-    std::array<bezeichnung, spuren_max> abstandlabel;
-    std::array<bezeichnung, spuren_max> kmh_label;
-    std::array<bezeichnung, spuren_max> ges_meter;
-    std::array<bezeichnung, spuren_max> aus_straflabel;
-    std::array<tarvel::liste, spuren_max> liste;
-    bezeichnung kopf_label;  ///< what was driven, and when
+    explicit auswertung(const umfeld& um);
+
+    template <class Element>
+    using je_spur = std::array<Element, spuren_max>;
+
+    je_spur<rahmen> Frame;  ///< all of a lane; its row is the place
+    je_spur<bezeichnung> platz;
+    je_spur<bild> Image1;  ///< driver
+    je_spur<bild> Image2;  ///< vehicle
+    je_spur<bezeichnung> fahrer;
+    je_spur<bezeichnung> fahrzeug;
+    je_spur<bezeichnung> Label_spur;  ///< captions of the cells
+    je_spur<bezeichnung> Label_runden;
+    je_spur<bezeichnung> Label_zeit;
+    je_spur<bezeichnung> Label_beste;
+    je_spur<bezeichnung> runden_aus;
+    je_spur<bezeichnung> beste_aus;
+    je_spur<bezeichnung> zeit_aus;
+    je_spur<bezeichnung> abstandlabel;
+    je_spur<bezeichnung> kmh_label;
+    je_spur<bezeichnung> ges_meter;
+    je_spur<bezeichnung> meter_label;
+    je_spur<feld> meter;  ///< metres beyond the last lap
+    je_spur<bezeichnung> aus_straflabel;
+    je_spur<bezeichnung> tankinhalt;  ///< caption and litres
+    je_spur<tarvel::liste> liste;     ///< row n - 1 holds lap n
+    je_spur<befehl> cmd_anzeige;      ///< what the list shows of a lap
+    je_spur<befehl> cmd_rd_inc;       ///< deletes the selected lap
+    je_spur<befehl> cmd_rd_add;       ///< selects the next lap
+
     rahmen titel;            ///< carries the window's title
+    bezeichnung kopf_label;  ///< what was driven, and when
+    rahmen Frame_stand;      ///< the lanes, and in their place
+    rahmen Frame_verlauf;    ///< the chart
+    befehl Command1;         ///< repeats the race
+    befehl Command2;         ///< starts a race with the drivers on their next lanes
+    befehl Command3;         ///< goes on, likewise
+    befehl Command4;         ///< saves under a name
     befehl Command5;         ///< back to the main window
+    befehl Command6;         ///< begins and ends the entry of metres
+    befehl Command7;         ///< the competition waits
+    befehl Command8;         ///< deletes the selected lap
+    befehl Command9;         ///< best times
+    befehl Command10;        ///< evaluates anew
+    befehl Command_verlauf;  ///< chart or standing
+    befehl Command_drucken;
+    befehl Command_pdf;
+    rahmen Frame1;          ///< the two commands that move drivers
+    haken spurwechsel;      ///< set for each result: drivers go to their next lanes
+    haken tauschfahrzeug;   ///< and vehicles with them
+    bezeichnung Label_bis;  ///< new target of a race that goes on
+    feld neues_ziel;        ///< laps, or minutes and seconds as on the main window
+    bezeichnung ziel_einheit;
+    bezeichnung trainingslabel;  ///< counts down to the next round of a training
+
+    /// Print the standing, or save it as a page; filled by the drawing.
+    std::function<void()> drucken;
+    std::function<void()> als_pdf;
+    /// Takes the result of a competition race, and goes on there.
+    std::function<void()> rennergebnis_uebernehmen;
 
     /// Load handler: ends the race for the lap engine and shows the standing.
     void laden();
-    /// Unload handler: the signal at the race end does not outlast the window.
+    /// Unload handler: nothing of the window goes on behind its back.
     void entladen();
     /// Everything anew from the race record.
     void auswertung_anzeigen();
-    /// Computes `platzierung`, `gesamtzeit` and the gaps.
-    void platzierung_berechnen();
-    /// Leaves to the main window.
+    /// An entry of metres that has not been finished counts too.
+    void meter_eingabe_uebernehmen();
+
+    void cmd1_fortsetzung();
+    void cmd2_fortsetzung();
+    void cmd3_fortsetzung();
     void cmd5_fortsetzung();
+    /// Closing the window means leaving it.
+    void fenster_schliessen();
+
     /// The texts of the window.
     sprachliste sprache_a();
-
-    /// Place 1 to 6 of a lane.
-    int platzierung(int spur) const { return platzierung_[spur]; }
-    int fuehrende_spur() const { return fuehrende_spur_; }
-    /// Laps and penalties in ms.
-    zeit_ms gesamtzeit(int spur) const { return werte_[spur].gesamtzeit; }
+    /// Words of the printed page.
+    const std::string& wort_spur() const { return wort_.spur; }
 
 private:
-    /// What a lane had at the last evaluation.
-    struct meter_stand {
-        int runden = 0;
-        double meter = 0;
-    };
+    /// What the list of a lane shows beside the lap times.
+    enum class anzeige { zeit, mit_sektorzeit, mit_beidem, mit_tempo };
+    enum class aktion { keine, wiederholen, neu_starten, fortsetzen, hauptmenue };
 
     struct worte {
-        std::string zeitrennen;
-        std::string rundenrennen;
-        std::string vorzeitig;
-        std::string spur;
-        std::string rundenliste;
-        std::string strafzeit;
+        std::string zeitrennen, rundenrennen, vorzeitig, spur, rundenliste, strafzeit, tankinhalt;
         std::string tempo;  ///< names the two speeds
+        std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
+        std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
+        std::string minuten, runden, verlauf, stand, minuten_hinweis;
     };
 
-    void kopf_schreiben();
-    void zielsignal_beenden();
-    void ansagen_setzen();
-    void meter_auswerten();
-    void spur_anzeigen(int spur);
-    void rundenliste_schreiben(int spur);
+    bool ist_wettkampf() const { return !um_.param.wettkampf_kein; }
+    bool ist_intervalltraining() const;
 
-    renn_umgebung um_;
-    std::unique_ptr<plattform::zeitgeber> zieltimer_;  ///< ends the signal at the race end
+    void befehle_verbinden();
+    void spurbefehle_verbinden(std::size_t i);
+    void ansagen_setzen();
+    void kopf_schreiben();
+    void bedienung_einrichten();
+    void ziel_vorschlagen();
+    void spur_anzeigen(int spur);
+    void bilder_anzeigen(int spur);
+    void rundenliste_schreiben(int spur);
+    std::string rundenzeile(int spur, int runde) const;
+
+    void zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst);
+    void zeitgeber_aus();
+    void zielsignal_beenden();
+    void nachzaehlen();
+    void nachzaehlen_beenden();
+    void training_tick();
+    void verlauf_umschalten();
+
+    void Command6_klick();
+    void meter_eingabe(bool an);
+    void runde_loeschen();
+    void runde_loeschen_auf(std::size_t i);
+    void anzeige_weiterschalten(std::size_t i);
+
+    /// Opens the best times if there is a new one; `danach` follows when they are closed, or at once.
+    void bestzeiten_vor(aktion danach);
+    void bestzeiten_oeffnen(aktion danach);
+    void bestzeiten_pruefen();
+    void ausfuehren(aktion was);
+    /// False if the result could not be saved and the operator does not want to lose it.
+    bool automatisch_speichern();
+    void rennen_verlassen();
+    void bahn_neu_oeffnen();
+    void fahrer_wechseln();
+    bool ziel_lesen(zeit_ms& ziel) const;
+
+    rennen& r_;
+    const renn_umgebung& um_;
+    umfeld u_;
     worte wort_;
-    spuren<platz_werte> werte_;
-    spuren<int> platzierung_;
-    spuren<meter_stand> meter_fortsetzung_;
-    int fuehrende_spur_ = 1;
+    std::unique_ptr<plattform::zeitgeber> zieltimer_;  ///< ends the signal at the race end
+    std::unique_ptr<plattform::zeitgeber> ch_durch3_;  ///< counts late crossings
+    std::unique_ptr<plattform::zeitgeber> ch_durch4_;  ///< and ends that
+    std::unique_ptr<plattform::zeitgeber> w_auto5_;    ///< leaves by itself
+    std::unique_ptr<plattform::zeitgeber> tmr_dauertraining_;
+    je_spur<std::unique_ptr<plattform::zeitgeber>> beste_blink_timer_;
+    je_spur<anzeige> anzeige_modus_{};
+    aktion aktion_nach_bestzeiten_ = aktion::keine;
+    bool neue_bestzeit_ = false;
+    bool meter_eingabe_an_ = false;
+    int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
+    int training_sekunden_ = 0;
 };
 
 }  // namespace tarvel

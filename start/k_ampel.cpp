@@ -127,23 +127,12 @@ void k_ampel::gruen_tick() {
     if (um_.zustand.chaos_aktiv) {
         r_.chaos.chaosende_routine();
     } else {
-        rennen_fortsetzen();
+        r_.fortsetzung.weiterfahren();
     }
     um_.ausgaben.ampelnRoff(0);
     um_.ausgaben.ampelnGRon();
     r_.strafen.strom_wiederherstellen();
     um_.fenster.entladen("k_ampel");
-}
-
-void k_ampel::rennen_fortsetzen() {
-    renn_zustand& zustand = um_.zustand;
-    const zeit_ms fortsetz_zeit = um_.zeit.ereignis_zeit_lesen();
-    const zeit_ms unterbrechung = fortsetz_zeit - zustand.renn_ende_stempel;
-    zustand.unterbrechung_abziehen(unterbrechung);
-    um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
-    zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
-    um_.ereignisse.messzeit = fortsetz_zeit;
-    um_.zeitgeber.rennen_an();
 }
 
 }  // namespace tarvel

@@ -33,7 +33,6 @@ private:
     void strom_aus();
     void rot_tick(std::size_t schritt);
     void gruen_tick();
-    void rennen_fortsetzen();
     void k_ampel_bild(std::size_t nummer, const char* name);
     void zeitgeber_aus();
 

@@ -10,6 +10,7 @@ namespace {
 class Auswertung : public testing::Test {
 protected:
     auswertung& a = t_.p.auswertung;
+    wertung& w = t_.p.wertung;
     test::testprogramm& t = t_;
 
 private:
@@ -24,12 +25,12 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     t.runde_nach(500, "35");
     t.runde_nach(6000, "2");
     ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
-    EXPECT_EQ(a.platzierung(2), 1);
-    EXPECT_EQ(a.platzierung(1), 2);
-    EXPECT_EQ(a.platzierung(4), 3);
-    EXPECT_EQ(a.platzierung(3), 4);
-    EXPECT_EQ(a.platzierung(5), 5);
-    EXPECT_EQ(a.platzierung(6), 6);
+    EXPECT_EQ(w.platzierung(2), 1);
+    EXPECT_EQ(w.platzierung(1), 2);
+    EXPECT_EQ(w.platzierung(4), 3);
+    EXPECT_EQ(w.platzierung(3), 4);
+    EXPECT_EQ(w.platzierung(5), 5);
+    EXPECT_EQ(w.platzierung(6), 6);
     EXPECT_EQ(a.Frame[1].reihe(), 0);
     EXPECT_EQ(a.runden_aus[1].text(), "3");
     EXPECT_EQ(a.beste_aus[1].text(), "06,500");
@@ -38,7 +39,7 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     EXPECT_FALSE(a.abstandlabel[1].sichtbar());
     EXPECT_EQ(a.runden_aus[0].text(), "2");
     EXPECT_EQ(a.abstandlabel[0].text(), "- 00:06,500") << "a lane behind in laps may be ahead in time";
-    EXPECT_EQ(a.ges_meter[0].text(), "50,00 m");
+    EXPECT_EQ(a.ges_meter[0].text(), "50.00 m");
     // 25 m in 7.5 s, and 50 m in 15.5 s
     EXPECT_EQ(a.kmh_label[0].text(), "12,00 / 11,61 km/h");
     EXPECT_EQ(a.fahrer[5].text(), "Fahrer 6");
@@ -62,7 +63,7 @@ TEST_F(Auswertung, OhneUeberfahrtNullRundenUndAusgeschiedeneHinten) {
     t.runde_nach(6000, "1");
     t.spur(1).disqualifiziert = true;
     t.maschine.laufen(60000);
-    EXPECT_EQ(a.platzierung(2), 1);
+    EXPECT_EQ(w.platzierung(2), 1);
     EXPECT_EQ(a.runden_aus[0].text(), "Dis.");
     EXPECT_TRUE(a.liste[0].zeilen().empty());
     EXPECT_EQ(a.runden_aus[2].text(), "0");
@@ -81,12 +82,12 @@ TEST_F(Auswertung, MeterUndBesteRundeAlsMassstabGeltenImFenster) {
         t.maschine.laufen(60000);
     };
     fahren();
-    EXPECT_EQ(a.ges_meter[0].text(), "25,00 m");
-    EXPECT_EQ(a.platzierung(1), 1) << "more metres in the same laps";
+    EXPECT_EQ(a.ges_meter[0].text(), "25.00 m");
+    EXPECT_EQ(w.platzierung(1), 1) << "more metres in the same laps";
     a.Command5.klicken();
     t.p.einst.auswertung_nach = 3;
     fahren();
-    EXPECT_EQ(a.platzierung(2), 1) << "the better lap";
+    EXPECT_EQ(w.platzierung(2), 1) << "the better lap";
 }
 
 TEST_F(Auswertung, StrafzeitZaehltZurGesamtzeit) {
@@ -96,8 +97,8 @@ TEST_F(Auswertung, StrafzeitZaehltZurGesamtzeit) {
     t.runde_nach(200, "2");
     t.spur(1).strafzeit = 5;
     t.maschine.laufen(60000);
-    EXPECT_EQ(a.gesamtzeit(1), 11000);
-    EXPECT_EQ(a.platzierung(2), 1);
+    EXPECT_EQ(w.gesamtzeit(1), 11000);
+    EXPECT_EQ(w.platzierung(2), 1);
     EXPECT_EQ(a.aus_straflabel[0].text(), "Strafzeit: 5 sec");
     EXPECT_FALSE(a.aus_straflabel[1].sichtbar());
 }
@@ -116,7 +117,7 @@ TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     t.runde_nach(1000, "3");
     t.runde_nach(6000, "3");
     EXPECT_EQ(a.runden_aus[2].text(), "1");
-    EXPECT_EQ(a.ges_meter[2].text(), "25,00 m") << "nothing is left of the race before";
+    EXPECT_EQ(a.ges_meter[2].text(), "25.00 m") << "nothing is left of the race before";
 }
 
 TEST_F(Auswertung, LetzterImZielHaeltDieZeitgeberAn) {

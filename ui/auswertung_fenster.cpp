@@ -1,5 +1,6 @@
 #include "ui/auswertung_fenster.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <algorithm>
@@ -10,45 +11,107 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double zeile_entwurf_px = 104;  // height of a row at scale 1
-constexpr double breite_entwurf_px = 1000;
+constexpr double breite_entwurf_px = 1240;
+constexpr int zeilenabstand_px = 5;
+constexpr int zielfeld_breite_px = 80;
 
 }  // namespace
 
-AuswertungFenster::AuswertungFenster(auswertung& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("auswertung", takt, eltern) {
+AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern)
+    : Fenster("auswertung", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 10, 16, 12);
+    aufbau->setContentsMargins(14, 8, 14, 10);
+    aufbau->setSpacing(6);
     QLabel* kopf = binder().label(logik.kopf_label, "kopf_label");
     QFont schrift = kopf->font();
     schrift.setPixelSize(20);
     kopf->setFont(schrift);
     aufbau->addWidget(kopf);
+    aufbau->addWidget(standfeld(ablage), 1);
+    aufbau->addWidget(verlaufsfeld(), 1);
+    aufbau->addLayout(korrekturzeile());
+    aufbau->addLayout(wegezeile());
+    setMinimumSize(760, 420);
+    resize(1180, 760);
+}
 
-    reihen_ = new QVBoxLayout;
-    reihen_->setSpacing(6);
+QWidget* AuswertungFenster::standfeld(const dateien& ablage) {
+    stand_ = new QWidget(this);
+    reihen_ = new QVBoxLayout(stand_);
+    reihen_->setContentsMargins(0, 0, 0, 0);
+    reihen_->setSpacing(zeilenabstand_px);
     for (const int spur : alle_spuren) {
-        auto* zeile = new Ergebniszeile(logik, spur, binder(), this);
+        auto* zeile = new Ergebniszeile(logik_, spur, ablage, binder(), this);
         zeile->bei_umzug = [this] { ordnen(); };
         zeilen_.push_back(zeile);
         reihen_->addWidget(zeile, 1);
     }
-    aufbau->addLayout(reihen_, 1);
+    binder().verbinden(logik_.Frame_stand, stand_, "Frame_stand", {});
+    return stand_;
+}
 
-    auto* knoepfe = new QHBoxLayout;
-    QPushButton* zurueck = binder().hauptknopf(logik.Command5, "Command5");
-    zurueck->setMinimumSize(200, 46);
-    knoepfe->addStretch();
-    knoepfe->addWidget(zurueck);
-    aufbau->addLayout(knoepfe);
-    setMinimumSize(760, 420);
-    resize(1180, 760);
+QWidget* AuswertungFenster::verlaufsfeld() {
+    auto* feld = new QWidget(this);
+    binder().verbinden(logik_.Frame_verlauf, feld, "Frame_verlauf", {});
+    return feld;
+}
+
+QLayout* AuswertungFenster::korrekturzeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(6);
+    zeile->addWidget(binder().knopf(logik_.Command6, "Command6"));
+    zeile->addWidget(binder().knopf(logik_.Command8, "Command8"));
+    zeile->addWidget(binder().knopf(logik_.Command10, "Command10"));
+    zeile->addWidget(binder().knopf(logik_.Command9, "Command9"));
+    zeile->addStretch();
+    zeile->addWidget(binder().knopf(logik_.Command_verlauf, "Command_verlauf"));
+    zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken"));
+    zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf"));
+    zeile->addWidget(binder().knopf(logik_.Command4, "Command4"));
+    return zeile;
+}
+
+QLayout* AuswertungFenster::wegezeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(10);
+    zeile->addWidget(spurwechselfeld());
+    const auto gross = [](QPushButton* knopf, int breite) {
+        knopf->setMinimumSize(breite, 46);
+        return knopf;
+    };
+    zeile->addWidget(gross(binder().knopf(logik_.Command1, "Command1"), 170), 0, Qt::AlignBottom);
+    TextAnzeige* training = binder().anzeige(logik_.trainingslabel, "trainingslabel", 30);
+    training->setFett(true);
+    zeile->addWidget(training, 1);
+    zeile->addWidget(binder().knopf(logik_.Command7, "Command7"), 0, Qt::AlignBottom);
+    zeile->addStretch();
+    zeile->addWidget(gross(binder().hauptknopf(logik_.Command5, "Command5"), 160), 0, Qt::AlignBottom);
+    return zeile;
+}
+
+QWidget* AuswertungFenster::spurwechselfeld() {
+    QGroupBox* feld = binder().gruppe(logik_.Frame1, "Frame1");
+    auto* aufbau = new QGridLayout(feld);
+    aufbau->setContentsMargins(8, 0, 8, 2);
+    aufbau->setHorizontalSpacing(8);
+    aufbau->setVerticalSpacing(4);
+    aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"), 0, 0);
+    aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"), 1, 0);
+    aufbau->addWidget(binder().label(logik_.Label_bis, "Label_bis"), 1, 1);
+    QLineEdit* ziel = binder().zeile(logik_.neues_ziel, "neues_ziel");
+    ziel->setFixedWidth(zielfeld_breite_px);
+    aufbau->addWidget(ziel, 1, 2);
+    aufbau->addWidget(binder().label(logik_.ziel_einheit, "ziel_einheit"), 1, 3);
+    aufbau->addWidget(binder().kasten(logik_.spurwechsel, "spurwechsel"), 0, 4);
+    aufbau->addWidget(binder().kasten(logik_.tauschfahrzeug, "tauschfahrzeug"), 1, 4);
+    return feld;
 }
 
 void AuswertungFenster::aufschlagen() {
     if (!isVisible()) {
         const QSize platz = screen()->availableGeometry().size();
-        resize(platz.width() * 9 / 10, platz.height() * 9 / 10);
+        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
     }
     Fenster::aufschlagen();
     skalieren();
@@ -64,8 +127,14 @@ void AuswertungFenster::ordnen() {
     for (Ergebniszeile* zeile : folge) {
         reihen_->addWidget(zeile, 1);
     }
-    for (std::size_t i = 1; i < folge.size(); ++i) {
-        setTabOrder(folge[i - 1]->tabziel(), folge[i]->tabziel());
+    QWidget* davor = nullptr;
+    for (const Ergebniszeile* zeile : folge) {
+        for (QWidget* ziel : zeile->tabziele()) {
+            if (davor != nullptr) {
+                setTabOrder(davor, ziel);
+            }
+            davor = ziel;
+        }
     }
     skalieren();
 }
@@ -78,7 +147,8 @@ void AuswertungFenster::resizeEvent(QResizeEvent* ereignis) {
 void AuswertungFenster::skalieren() {
     const auto gezeigt =
         std::count_if(zeilen_.begin(), zeilen_.end(), [](const auto* zeile) { return zeile->gezeigt(); });
-    const double je_zeile = (height() - 130.0) / static_cast<double>(std::max<std::ptrdiff_t>(gezeigt, 1)) - 6;
+    const double je_zeile =
+        stand_->height() / static_cast<double>(std::max<std::ptrdiff_t>(gezeigt, 1)) - zeilenabstand_px;
     const double skala = std::clamp(std::min(je_zeile / zeile_entwurf_px, width() / breite_entwurf_px), 0.6, 1.9);
     binder().skala(skala);
     for (Ergebniszeile* zeile : zeilen_) {

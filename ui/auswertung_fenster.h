@@ -8,10 +8,10 @@
 
 namespace tarvel::ui {
 
-/// The result window: one row per lane in the order of the standing.
+/// The result window: one row per lane in the order of the standing, and the commands below.
 class AuswertungFenster : public Fenster {
 public:
-    AuswertungFenster(auswertung& logik, Bildtakt& takt, QWidget* eltern);
+    AuswertungFenster(auswertung& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern);
 
     void aufschlagen() override;
 
@@ -19,9 +19,16 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
+    QWidget* standfeld(const dateien& ablage);
+    QWidget* verlaufsfeld();
+    QLayout* korrekturzeile();
+    QLayout* wegezeile();
+    QWidget* spurwechselfeld();
     void ordnen();
     void skalieren();
 
+    auswertung& logik_;
+    QWidget* stand_ = nullptr;
     QVBoxLayout* reihen_ = nullptr;
     std::vector<Ergebniszeile*> zeilen_;
 };

@@ -1,6 +1,5 @@
 #include "ui/ergebniszeile.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -20,39 +19,37 @@ constexpr double schrift_zusatz = 15;
 constexpr double schrift_titel = 13;
 constexpr double schrift_liste = 16;
 
+constexpr int eingabe_breite_px = 76;
+constexpr int knopf_breite_px = 34;
+constexpr QSize bild_groesse{60, 60};
+
 constexpr auto links_mitte = Qt::AlignLeft | Qt::AlignVCenter;
 
 }  // namespace
 
-Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidget* eltern)
+Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage, Binder& binder, QWidget* eltern)
     : QWidget(eltern), logik_(logik), index_(feld_index(spur)) {
-    const QString nummer = QString::number(index_);
     auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins(22, 6, 8, 6);
-    aufbau->setSpacing(14);
+    aufbau->setContentsMargins(22, 4, 8, 4);
+    aufbau->setSpacing(12);
 
-    TextAnzeige* platz = binder.anzeige(logik.platz.at(index_), "platz_" + nummer, schrift_platz);
+    TextAnzeige* platz = binder.anzeige(logik.platz.at(index_), nummeriert("platz"), schrift_platz);
     platz->setMusterText("6.");
     platz->setFett(true);
     aufbau->addWidget(platz);
-
+    bilder(ablage, binder, *aufbau);
+    aufbau->addWidget(fahrerzelle(binder), 6);
+    aufbau->addWidget(rundenzelle(binder), 4);
     const std::size_t i = index_;
-    aufbau->addWidget(
-        zelle({logik.Label_spur[i], logik.fahrer[i], logik.aus_straflabel[i], "fahrer", schrift_name}, binder), 5);
-    aufbau->addWidget(
-        zelle({logik.Label_runden[i], logik.runden_aus[i], logik.ges_meter[i], "runden_aus", schrift_runden}, binder),
-        3);
-    aufbau->addWidget(
-        zelle({logik.Label_zeit[i], logik.zeit_aus[i], logik.abstandlabel[i], "zeit_aus", schrift_wert}, binder), 4);
-    aufbau->addWidget(
-        zelle({logik.Label_beste[i], logik.beste_aus[i], logik.kmh_label[i], "beste_aus", schrift_wert}, binder), 5);
+    const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
+    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder));
+    aufbau->addWidget(zeit.feld, 4);
+    const zelle_teile beste = zelle({logik.Label_beste[i], logik.beste_aus[i], "beste_aus", schrift_wert}, binder);
+    beste.zusatz->addWidget(zusatz(logik.kmh_label[i], "kmh_label", binder));
+    aufbau->addWidget(beste.feld, 5);
+    aufbau->addWidget(listenspalte(binder), 5);
 
-    liste_ = binder.listenfeld(logik.liste.at(index_), "liste_" + nummer);
-    liste_->setMinimumWidth(150);
-    liste_->setMinimumHeight(60);
-    aufbau->addWidget(liste_, 4);
-
-    binder.verbinden(logik.Frame.at(index_), this, "Frame_" + nummer, [this] {
+    binder.verbinden(logik.Frame.at(index_), this, nummeriert("Frame"), [this] {
         spurfarbe_ = stil::farbe_von(logik_.Frame.at(index_).schriftfarbe().value_or(0));
         update();
         if (bei_umzug) {
@@ -61,29 +58,98 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidge
     });
 }
 
-QWidget* Ergebniszeile::zelle(const zelle_inhalt& inhalt, Binder& binder) {
-    const QString nummer = "_" + QString::number(index_);
+void Ergebniszeile::bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau) {
+    const auto pfad = [&ablage](const std::string& datei) { return ablage.pfad(datei); };
+    aufbau.addWidget(binder.bildfeld(logik_.Image1.at(index_), nummeriert("Image1"), bild_groesse, pfad));
+    aufbau.addWidget(binder.bildfeld(logik_.Image2.at(index_), nummeriert("Image2"), bild_groesse, pfad));
+}
+
+Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Binder& binder) {
     auto* feld = new QWidget(this);
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(0);
-    TextAnzeige* kopf = binder.anzeige(inhalt.titel, "Label_" + inhalt.name + nummer, schrift_titel);
+    TextAnzeige* kopf = binder.anzeige(inhalt.titel, nummeriert("Label_" + inhalt.name), schrift_titel);
     kopf->setFarbe(stil::schrift_leise);
     kopf->setAusrichtung(links_mitte);
-    TextAnzeige* wert = binder.anzeige(inhalt.wert, inhalt.name + nummer, inhalt.entwurf);
+    TextAnzeige* wert = binder.anzeige(inhalt.wert, nummeriert(inhalt.name), inhalt.entwurf);
     wert->setAusrichtung(links_mitte);
     wert->setFett(true);
-    TextAnzeige* darunter = binder.anzeige(inhalt.zusatz, inhalt.name + "_zusatz" + nummer, schrift_zusatz);
-    darunter->setAusrichtung(links_mitte);
-    QSizePolicy platz_halten = darunter->sizePolicy();
-    platz_halten.setRetainSizeWhenHidden(true);
-    darunter->setSizePolicy(platz_halten);
+    auto* darunter = new QHBoxLayout;
+    darunter->setSpacing(8);
     aufbau->addStretch();
     aufbau->addWidget(kopf);
     aufbau->addWidget(wert);
-    aufbau->addWidget(darunter);
+    aufbau->addLayout(darunter);
     aufbau->addStretch();
-    return feld;
+    return {feld, darunter};
+}
+
+TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, Binder& binder) {
+    TextAnzeige* anzeige = binder.anzeige(element, nummeriert(name), schrift_zusatz);
+    anzeige->setAusrichtung(links_mitte);
+    QSizePolicy platz_halten = anzeige->sizePolicy();
+    platz_halten.setRetainSizeWhenHidden(true);
+    anzeige->setSizePolicy(platz_halten);
+    return anzeige;
+}
+
+QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
+    const std::size_t i = index_;
+    const zelle_teile teile = zelle({logik_.Label_spur[i], logik_.fahrer[i], "fahrer", schrift_name}, binder);
+    teile.zusatz->addWidget(zusatz(logik_.fahrzeug[i], "fahrzeug", binder), 3);
+    TextAnzeige* strafe = binder.anzeige(logik_.aus_straflabel[i], nummeriert("aus_straflabel"), schrift_zusatz);
+    strafe->setAusrichtung(links_mitte);
+    strafe->setFarbe(stil::akzent);
+    teile.zusatz->addWidget(strafe, 3);
+    TextAnzeige* tank = binder.anzeige(logik_.tankinhalt[i], nummeriert("tankinhalt"), schrift_zusatz);
+    tank->setAusrichtung(links_mitte);
+    teile.zusatz->addWidget(tank, 3);
+    return teile.feld;
+}
+
+QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
+    const std::size_t i = index_;
+    const zelle_teile teile =
+        zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_runden}, binder);
+    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 1);
+    TextAnzeige* titel = binder.anzeige(logik_.meter_label[i], nummeriert("meter_label"), schrift_zusatz);
+    titel->setAusrichtung(Qt::AlignRight | Qt::AlignVCenter);
+    QLineEdit* eingabe = binder.zeile(logik_.meter[i], nummeriert("meter"));
+    eingabe->setFixedWidth(eingabe_breite_px);
+    teile.zusatz->addWidget(titel, 1);
+    teile.zusatz->addWidget(eingabe);
+    tabziele_.push_back(eingabe);
+    return teile.feld;
+}
+
+QWidget* Ergebniszeile::listenspalte(Binder& binder) {
+    const std::size_t i = index_;
+    auto* spalte = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(spalte);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(4);
+    liste_ = binder.listenfeld(logik_.liste.at(i), nummeriert("liste"));
+    liste_->setMinimumSize(130, 50);
+    liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    aufbau->addWidget(liste_, 1);
+    tabziele_.push_back(liste_);
+    auto* knoepfe = new QVBoxLayout;
+    knoepfe->setSpacing(2);
+    const auto knopf = [&](befehl& element, const QString& name) {
+        QPushButton* widget = binder.knopf(element, nummeriert(name));
+        widget->setFixedWidth(knopf_breite_px);
+        widget->setMinimumHeight(20);
+        widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        widget->setStyleSheet("padding: 0;");
+        widget->setFocusPolicy(Qt::ClickFocus);  // the keyboard has the list itself and the command below
+        knoepfe->addWidget(widget);
+    };
+    knopf(logik_.cmd_anzeige[i], "cmd_anzeige");
+    knopf(logik_.cmd_rd_add[i], "cmd_rd_add");
+    knopf(logik_.cmd_rd_inc[i], "cmd_rd_inc");
+    aufbau->addLayout(knoepfe);
+    return spalte;
 }
 
 void Ergebniszeile::skalieren(double skala) {

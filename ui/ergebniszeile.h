@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QWidget>
+#include <vector>
 
 #include "results/auswertung.h"
 #include "ui/binder.h"
@@ -10,14 +12,14 @@ namespace tarvel::ui {
 /// One lane of the result window: place, driver, figures and the list of laps.
 class Ergebniszeile : public QWidget {
 public:
-    Ergebniszeile(auswertung& logik, int spur, Binder& binder, QWidget* eltern);
+    Ergebniszeile(auswertung& logik, int spur, const dateien& ablage, Binder& binder, QWidget* eltern);
 
     /// Row of the window, from 0.
     int reihe() const { return logik_.Frame.at(index_).reihe(); }
     bool gezeigt() const { return logik_.Frame.at(index_).sichtbar(); }
     void skalieren(double skala);
-    /// What the Tab key reaches in the row.
-    QWidget* tabziel() const { return liste_; }
+    /// What the Tab key reaches in the row, in its order.
+    const std::vector<QWidget*>& tabziele() const { return tabziele_; }
     /// Called when the row has changed.
     std::function<void()> bei_umzug;
 
@@ -25,19 +27,29 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    /// One figure of the row with the captions over and under it.
+    /// One figure of the row with its caption above, and what goes under it.
     struct zelle_inhalt {
         steuerelement& titel;
         steuerelement& wert;
-        steuerelement& zusatz;
         QString name;  ///< of the figure's control
         double entwurf;
     };
-    QWidget* zelle(const zelle_inhalt& inhalt, Binder& binder);
+    struct zelle_teile {
+        QWidget* feld;
+        QHBoxLayout* zusatz;
+    };
+    zelle_teile zelle(const zelle_inhalt& inhalt, Binder& binder);
+    TextAnzeige* zusatz(steuerelement& element, const QString& name, Binder& binder);
+    QWidget* fahrerzelle(Binder& binder);
+    QWidget* rundenzelle(Binder& binder);
+    QWidget* listenspalte(Binder& binder);
+    void bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau);
+    QString nummeriert(const QString& name) const { return name + "_" + QString::number(index_); }
 
     auswertung& logik_;
     std::size_t index_;
     QListView* liste_ = nullptr;
+    std::vector<QWidget*> tabziele_;
     QColor spurfarbe_;
 };
 

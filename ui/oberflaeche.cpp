@@ -11,7 +11,8 @@ Oberflaeche::Oberflaeche(programm& p)
       bahn1(p.rennen, takt, &form1),
       form2(p.startampel, p.einst, p.ablage, takt, &bahn1),
       k_ampel(p.k_ampel, p.rennen.befehle, p.einst, p.ablage, takt, &bahn1),
-      auswertung(p.auswertung, takt, &bahn1),
+      auswertung(p.auswertung, p.ablage, takt, &bahn1),
+      rundenspeichern(p.rundenspeichern.fenster, "rundenspeichern", takt, &auswertung),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
@@ -25,6 +26,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("Form2", &form2);
     fenster.aufnehmen("k_ampel", &k_ampel);
     fenster.aufnehmen("auswertung", &auswertung);
+    fenster.aufnehmen("rundenspeichern", &rundenspeichern);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
     fenster.aufnehmen("einstellungen", &einstellungen);
@@ -41,6 +43,7 @@ Oberflaeche::Oberflaeche(programm& p)
     };
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
+    rundenspeichern.escape_schliesst();
     einstellungen.escape_schliesst();
     bildwahl.escape_schliesst();
     fahrerspeichern.escape_schliesst();
@@ -57,7 +60,8 @@ Oberflaeche::Oberflaeche(programm& p)
         }
     };
     k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
-    auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
+    auswertung.bei_schliessen = [&p] { p.auswertung.fenster_schliessen(); };
+    rundenspeichern.bei_schliessen = [&p] { p.fenster.entladen("rundenspeichern"); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
     einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };

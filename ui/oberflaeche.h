@@ -32,6 +32,7 @@ public:
     Form2Fenster form2;
     KAmpelFenster k_ampel;
     AuswertungFenster auswertung;
+    SpeichernFenster rundenspeichern;
     TastaturFenster tastatur;
     SpeichernFenster speichern;
     EinstellungenFenster einstellungen;

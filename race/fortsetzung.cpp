@@ -1,0 +1,130 @@
+#include "race/fortsetzung.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace tarvel {
+
+void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
+    const spuren<spur_zustand> vorher = um_.zustand.spur;
+    const rundenspeicher runden_vorher = um_.zustand.rundenzeiten;
+    const auto namen = um_.param.fahrer_name;
+    const auto fahrzeuge = um_.param.fahrzeug_name;
+    for (const int spur : alle_spuren) {
+        const int von = herkunft[spur];
+        if (von == 0) {
+            continue;
+        }
+        um_.param.fahrer_name[spur] = namen[von];
+        if (um_.einst.fahrzeug_wechseln) {
+            um_.param.fahrzeug_name[spur] = fahrzeuge[von];
+        }
+        spur_zustand& zustand = um_.zustand.spur[spur];
+        const sensorsperre sperre = zustand.sensor_sperre;  // the sensors stay where they are
+        zustand = vorher[von];
+        zustand.sensor_sperre = sperre;
+        um_.zustand.rundenzeiten.spur_uebernehmen(spur, runden_vorher, von, std::max(zustand.runden, 0));
+    }
+    t_.sektor.fahrer_umsetzen(herkunft);
+    t_.plaetze.fahrer_umsetzen(herkunft);
+}
+
+zeit_ms fortsetzung::gefahren() const {
+    const renn_zustand& zustand = um_.zustand;
+    const zeit_ms gelaufen = zustand.renn_ende_stempel - zustand.start_zeit - zustand.pause_abzug;
+    return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel) : gelaufen;
+}
+
+void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
+    renn_zustand& zustand = um_.zustand;
+    um_.zeitgeber.alle_aus();
+    const zeit_ms gefahren_ms = gefahren();
+    zustand.pause_abzug = zustand.renn_ende_stempel - zustand.start_zeit - gefahren_ms;  // the run-on is no race time
+    um_.param.renn_ziel = neues_ziel;
+    if (um_.ist_zeitrennen()) {
+        um_.param.renndauer_rest_ms = neues_ziel - gefahren_ms;
+        um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
+        t_.uhr.restzeit_vorbereiten(um_.param.renndauer_rest_ms);
+    }
+    t_.ende.zuruecksetzen();
+    freie_spuren_abschalten();
+    for (const int spur : alle_spuren) {
+        standzeit_abziehen(spur);
+        spur_freigeben(spur);
+    }
+    um_.ereignisse.messzeit = zustand.renn_ende_stempel;
+    zustand.fortgesetzt = true;
+    zustand.fortsetzung_wartet = true;
+    zustand.rennen_beendet = false;
+    t_.ansicht.spaltenansicht_oeffnen();
+    t_.ansicht.anzeigen_leeren();
+    t_.ansicht.stand_zeigen();
+    t_.plaetze.zeigen();
+    t_.tank.fuellstaende_zeigen();
+    t_.uhr.fortsetzen_uhreinstellen();
+    for (const int spur : alle_spuren) {
+        if (um_.param.spur_aktiv[spur] && zustand.spur[spur].strafzeit > 0) {
+            t_.strafe.straflabel_zeigen(spur);
+        }
+    }
+    um_.bahn.Command1.aktiviert(false);
+    um_.bahn.Command2.aktiviert(true);
+    um_.bahn.Command3.aktiviert(false);
+    um_.bahn.Command4.aktiviert(true);
+}
+
+void fortsetzung::freie_spuren_abschalten() {
+    for (const int spur : alle_spuren) {
+        const bool frei = um_.param.spur_aktiv[spur] && um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+        if (frei && !um_.einst.freie_slots) {
+            um_.param.spur_aktiv[spur] = false;
+            --um_.param.spuren_anzahl;
+        }
+    }
+}
+
+void fortsetzung::standzeit_abziehen(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    const zeit_ms letzte_ueberfahrt = um_.zustand.rundenzeiten.stempel(spur, zustand.runden);
+    if (um_.param.spur_aktiv[spur] && zustand.ziel_erreicht && zustand.runden >= 0 && letzte_ueberfahrt != 0) {
+        zustand.pause_abzug =
+            um_.zustand.renn_ende_stempel - letzte_ueberfahrt;  // was home: starts anew with the light
+    }
+}
+
+void fortsetzung::spur_freigeben(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    const bool rest_zu_verbuessen = zustand.ch_strafe_rest > 0;
+    zustand.ziel_erreicht = !um_.param.spur_aktiv[spur];
+    zustand.runden_vorher = std::max(zustand.runden, 0);
+    zustand.fruehstart_sperre = rest_zu_verbuessen;
+    zustand.strom_aus = rest_zu_verbuessen || zustand.disqualifiziert;
+    zustand.tank_kontakt = false;
+    zustand.tankt_seit = 0;
+    zustand.tank_wartezaehler = 0;
+    zustand.tank_halt = false;
+    zustand.ch_durchfahrt = false;
+}
+
+void fortsetzung::weiterfahren() {
+    renn_zustand& zustand = um_.zustand;
+    const zeit_ms fortsetz_zeit = um_.zeit.ereignis_zeit_lesen();
+    zustand.unterbrechung_abziehen(fortsetz_zeit - zustand.renn_ende_stempel);
+    um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
+    zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
+    zustand.fortsetzung_wartet = false;
+    um_.ereignisse.messzeit = fortsetz_zeit;
+    um_.ereignisse.rundenzaehlung_leeren();
+    um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
+    for (const int spur : alle_spuren) {
+        if (zustand.spur[spur].ch_strafe_rest > 0) {
+            um_.zeitgeber.straftimer_ch[spur]->an();
+        }
+    }
+    um_.zeitgeber.rennen_an();
+    t_.ablauf.befehle_freigeben();
+    t_.ansicht.freigeben();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "race/chaos.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// A race that goes on from its result, perhaps with its drivers on other lanes.
+class fortsetzung {
+public:
+    struct teile {
+        positionen& plaetze;
+        rennuhr& uhr;
+        rennende& ende;
+        rennansicht& ansicht;
+        rennablauf& ablauf;
+        tarvel::strafen& strafe;
+        tanken& tank;
+        sektoren& sektor;
+    };
+
+    fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {}
+
+    /// Lane i takes the driver of lane `herkunft[i]` with all he has, and his vehicle if vehicles change lanes; 0
+    /// leaves the lane as it is.
+    void fahrer_umsetzen(const spuren<int>& herkunft);
+    /// Time driven up to the end, without pauses and without the run-on.
+    zeit_ms gefahren() const;
+    /// All that comes before the light. `neues_ziel` counts from the first start: laps, or ms in a time race.
+    void vorbereiten(zeit_ms neues_ziel);
+    /// Green: the break comes off the race and off the lap that each lane is in.
+    void weiterfahren();
+
+private:
+    void freie_spuren_abschalten();
+    void spur_freigeben(int spur);
+    void standzeit_abziehen(int spur);
+
+    renn_umgebung um_;
+    teile t_;
+};
+
+}  // namespace tarvel

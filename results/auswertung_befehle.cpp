@@ -1,0 +1,267 @@
+#include <algorithm>
+
+#include "core/renndauer.h"
+#include "core/text.h"
+#include "core/wechselschema.h"
+#include "results/auswertung.h"
+
+namespace tarvel {
+namespace {
+
+constexpr zeit_ms ms_je_minute = 60000;
+constexpr zeit_ms renndauer_max = 1499 * ms_je_minute;
+constexpr int eingabe_laenge_max = 8;
+
+zeit_ms ziel_max(bool zeitrennen) {
+    return zeitrennen ? renndauer_max : runden_max;
+}
+
+}  // namespace
+
+void auswertung::befehle_verbinden() {
+    Command1.bei_klick = [this] { bestzeiten_vor(aktion::wiederholen); };
+    Command2.bei_klick = [this] { bestzeiten_vor(aktion::neu_starten); };
+    Command3.bei_klick = [this] { bestzeiten_vor(aktion::fortsetzen); };
+    Command4.bei_klick = [this] {
+        auswertung_anzeigen();
+        u_.speichern.oeffnen();
+    };
+    Command5.bei_klick = [this] { bestzeiten_vor(aktion::hauptmenue); };
+    Command6.bei_klick = [this] { Command6_klick(); };
+    Command7.bei_klick = [this] { w_auto5_->aus(); };
+    Command8.bei_klick = [this] { runde_loeschen(); };
+    Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
+    Command10.bei_klick = [this] { auswertung_anzeigen(); };
+    Command_verlauf.bei_klick = [this] { verlauf_umschalten(); };
+    Command_drucken.bei_klick = [this] { drucken(); };
+    Command_pdf.bei_klick = [this] { als_pdf(); };
+    tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
+    neues_ziel.laenge_max(eingabe_laenge_max);
+}
+
+void auswertung::spurbefehle_verbinden(std::size_t i) {
+    meter.at(i).laenge_max(eingabe_laenge_max);
+    liste.at(i).bei_auswahl = [this, i] {
+        gewaehlte_spur_ = static_cast<int>(i) + 1;
+        for (std::size_t andere = 0; andere < spuren_max; ++andere) {
+            if (andere != i) {
+                liste.at(andere).markieren(-1);
+            }
+        }
+    };
+    cmd_anzeige.at(i).bei_klick = [this, i] { anzeige_weiterschalten(i); };
+    cmd_rd_add.at(i).bei_klick = [this, i] { liste.at(i).auswaehlen(liste.at(i).markiert() + 1); };
+    cmd_rd_inc.at(i).bei_klick = [this, i] { runde_loeschen_auf(i); };
+}
+
+void auswertung::anzeige_weiterschalten(std::size_t i) {
+    if (!um_.einst.sektor_an[0]) {
+        um_.meldungen.zeigen(wort_.keine_sektoren, um_.txt.titel[0]);
+        return;
+    }
+    const bool letzte = anzeige_modus_.at(i) == anzeige::mit_tempo;
+    anzeige_modus_.at(i) = letzte ? anzeige::zeit : static_cast<anzeige>(static_cast<int>(anzeige_modus_.at(i)) + 1);
+    liste.at(i).leeren();
+    rundenliste_schreiben(static_cast<int>(i) + 1);
+}
+
+void auswertung::Command6_klick() {
+    if (meter_eingabe_an_) {
+        meter_eingabe_uebernehmen();
+        auswertung_anzeigen();
+    } else {
+        meter_eingabe(true);
+    }
+}
+
+void auswertung::meter_eingabe(bool an) {
+    meter_eingabe_an_ = an;
+    Command6.text(an ? wort_.fertig : wort_.meter_eingeben);
+    for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command9,
+                          &Command10, &Command_verlauf, &Command_drucken, &Command_pdf}) {
+        knopf->aktiviert(!an);
+    }
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        cmd_rd_inc[i].aktiviert(!an);
+        meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
+        meter_label[i].sichtbar(meter[i].sichtbar());
+    }
+    if (an) {
+        meter.at(feld_index(u_.stand.fuehrende_spur())).fokus_setzen();
+    }
+}
+
+void auswertung::meter_eingabe_uebernehmen() {
+    if (!meter_eingabe_an_) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        feld& eingabe = meter.at(feld_index(spur));
+        if (um_.param.spur_aktiv[spur]) {
+            std::string text = eingabe.text();
+            werte_pruefen2(text);
+            u_.stand.restmeter_zuschlagen(spur, zahl_lesen(text));
+        }
+        eingabe.text("0");
+    }
+    meter_eingabe(false);
+}
+
+void auswertung::runde_loeschen_auf(std::size_t i) {
+    gewaehlte_spur_ = static_cast<int>(i) + 1;
+    runde_loeschen();
+}
+
+void auswertung::runde_loeschen() {
+    for (const auto& blinken : beste_blink_timer_) {
+        blinken->aus();
+    }
+    w_auto5_->aus();
+    const int runde = gewaehlte_spur_ == 0 ? 0 : liste.at(feld_index(gewaehlte_spur_)).markiert() + 1;
+    if (runde < 1 || !u_.stand.runde_loeschen(gewaehlte_spur_, runde)) {
+        um_.meldungen.zeigen(wort_.runde_waehlen, um_.txt.titel[0]);
+        return;
+    }
+    auswertung_anzeigen();
+    bestzeiten_pruefen();
+}
+
+void auswertung::ausfuehren(aktion was) {
+    aktion_nach_bestzeiten_ = aktion::keine;
+    switch (was) {
+        case aktion::wiederholen:
+            cmd1_fortsetzung();
+            break;
+        case aktion::neu_starten:
+            cmd2_fortsetzung();
+            break;
+        case aktion::fortsetzen:
+            cmd3_fortsetzung();
+            break;
+        case aktion::hauptmenue:
+            cmd5_fortsetzung();
+            break;
+        case aktion::keine:
+            break;
+    }
+}
+
+void auswertung::fenster_schliessen() {
+    meter_eingabe_uebernehmen();
+    Command5.klicken();
+}
+
+bool auswertung::automatisch_speichern() {
+    meter_eingabe_uebernehmen();
+    auswertung_anzeigen();
+    return !um_.einst.aut_speichern || u_.speichern.automatisch_speichern() ||
+           um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
+}
+
+void auswertung::rennen_verlassen() {
+    um_.fenster.entladen("beste_zeiten_fenster");
+    um_.fenster.entladen("auswertung");
+    um_.ausgaben.ruhezustand();
+}
+
+void auswertung::bahn_neu_oeffnen() {
+    um_.fenster.neu_laden("bahn1");
+    if (std::exchange(um_.param.training_autostart, false)) {
+        um_.bahn.Command1.klicken();
+    }
+}
+
+void auswertung::fahrer_wechseln() {
+    if (spurwechsel.gesetzt()) {
+        const spuren<int> herkunft = wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv);
+        r_.fortsetzung.fahrer_umsetzen(herkunft);
+        u_.stand.fahrer_umsetzen(herkunft);
+    }
+}
+
+void auswertung::cmd1_fortsetzung() {
+    if (!automatisch_speichern()) {
+        return;
+    }
+    rennen_verlassen();
+    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    bahn_neu_oeffnen();
+}
+
+void auswertung::cmd2_fortsetzung() {
+    if (!automatisch_speichern()) {
+        return;
+    }
+    rennen_verlassen();
+    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    fahrer_wechseln();
+    bahn_neu_oeffnen();
+}
+
+void auswertung::ziel_vorschlagen() {
+    const bool zeitrennen = um_.ist_zeitrennen();
+    const zeit_ms ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max(zeitrennen));
+    neues_ziel.text(zeitrennen ? renndauer_aus_ms(ziel).text() : std::to_string(ziel));
+    neues_ziel.tipp(zeitrennen ? wort_.minuten_hinweis : "");
+    ziel_einheit.text(zeitrennen ? wort_.minuten : wort_.runden);
+}
+
+bool auswertung::ziel_lesen(zeit_ms& ziel) const {
+    if (um_.ist_zeitrennen()) {
+        ziel = renndauer_lesen(neues_ziel.text()).in_ms();
+        return ziel > r_.fortsetzung.gefahren();
+    }
+    ziel = ganzzahl_lesen(neues_ziel.text(), 0, 99999999);
+    int meiste = 0;
+    int wenigste = runden_max;
+    for (const int spur : alle_spuren) {
+        if (um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert) {
+            meiste = std::max(meiste, u_.stand.runden(spur));
+            wenigste = std::min(wenigste, u_.stand.runden(spur));
+        }
+    }
+    // the last may still come home to a target that the first has reached
+    return ziel > meiste || (ziel == meiste && ziel > wenigste && !um_.einst.zielmodus_erster);
+}
+
+void auswertung::cmd3_fortsetzung() {
+    zeit_ms ziel = 0;
+    const bool ziel_offen = ziel_lesen(ziel);
+    if (std::max(ziel, um_.param.renn_ziel) > ziel_max(um_.ist_zeitrennen())) {
+        um_.meldungen.zeigen(wort_.maximum, wort_.maximum_titel);
+        return;
+    }
+    if (!ziel_offen) {
+        um_.meldungen.zeigen(um_.txt.meldung[13], um_.txt.titel[1]);
+        neues_ziel.fokus_setzen();
+        return;
+    }
+    if (!automatisch_speichern()) {
+        return;
+    }
+    rennen_verlassen();
+    fahrer_wechseln();
+    r_.fortsetzung.vorbereiten(ziel);
+    um_.fenster.zeigen("k_ampel");
+}
+
+void auswertung::cmd5_fortsetzung() {
+    if (ist_wettkampf()) {
+        meter_eingabe_uebernehmen();
+        auswertung_anzeigen();
+    } else if (!automatisch_speichern()) {
+        return;
+    }
+    rennen_verlassen();
+    um_.param.training_laeuft = false;
+    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    um_.fenster.entladen("bahn1");
+    if (ist_wettkampf() && rennergebnis_uebernehmen) {
+        rennergebnis_uebernehmen();
+    } else {
+        um_.fenster.zeigen("Form1");
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,76 @@
+#include "core/text.h"
+#include "core/zeit.h"
+#include "results/auswertung.h"
+
+namespace tarvel {
+
+sprachliste auswertung::sprache_a() {
+    sprachliste texte("language\\language_a.txt");
+    texte.ueberschrift("Auswertung").text("Auswertung des Rennens", titel).text("Hauptmenü", wort_.hauptmenue);
+    texte.text("Zeitrennen", wort_.zeitrennen).text("Rundenrennen", wort_.rundenrennen);
+    texte.text("vorzeitig beendet", wort_.vorzeitig).text("Strafzeit", wort_.strafzeit);
+    texte.text("Spur", wort_.spur).fuer_alle("Runden", Label_runden).fuer_alle("Gesamtzeit", Label_zeit);
+    texte.fuer_alle("beste Runde", Label_beste);
+    texte.text("Geschwindigkeit beste Runde / Durchschnittsgeschwindigkeit", wort_.tempo);
+    texte.text("Rundenliste", wort_.rundenliste);
+    texte.text("Rennen wiederholen", Command1).text("neu starten", Command2).text("fortsetzen", Command3);
+    texte.text("speichern", Command4).text("Weiter", wort_.weiter).text("Meter eingeben", wort_.meter_eingeben);
+    texte.text("fertig", wort_.fertig).text("Automatisierung unterbrechen", Command7).text("Runde löschen", Command8);
+    texte.text("Bestzeiten", Command9).text("Platzierung prüfen", Command10);
+    texte.text("Spur wechseln", wort_.spur_wechseln).text("Rennen", wort_.rennen);
+    texte.text("Fahrer wechseln", spurwechsel)
+        .text("Fahrzeugtausch", tauschfahrzeug)
+        .fuer_alle("Restmeter", meter_label);
+    texte.text("Bitte zu löschende Runde auswählen.", wort_.runde_waehlen);
+    texte.text("Sektoren nicht aktiviert - Anzeigeänderung nicht möglich.", wort_.keine_sektoren);
+    texte.text("Rennmaximum erreicht. Fortsetzung nicht möglich.", wort_.maximum);
+    texte.text("Runden/Zeitmaximum erreicht. Fortsetzung nicht möglich.", wort_.maximum_titel);
+    texte.text("Training wird fortgesetzt in:", wort_.training).text("Tankinhalt", wort_.tankinhalt);
+    texte.text("Rundenverlauf", wort_.verlauf).text("Platzierung", wort_.stand).text("Drucken", Command_drucken);
+    texte.text("Als PDF speichern", Command_pdf).text("bis", Label_bis);
+    texte.text("Runden insgesamt", wort_.runden).text("Minuten insgesamt", wort_.minuten);
+    texte.text("Das Ergebnis ist nicht gespeichert. Trotzdem weiter?", wort_.verlust);
+    texte.tipp("Dasselbe Rennen noch einmal, jeder auf seiner Spur", Command1);
+    texte.tipp("Ein neues Rennen, in dem jeder Fahrer auf die nächste Spur wechselt", Command2);
+    texte.tipp("Das Rennen geht mit allen Runden weiter, und jeder Fahrer wechselt auf die nächste Spur", Command3);
+    texte.tipp("Die Fahrzeuge wechseln die Spur mit ihren Fahrern", tauschfahrzeug);
+    texte.tipp("Die markierte Runde war keine: ihre Zeit zählt zur Runde davor", Command8);
+    texte.tipp("Meter, die ein Fahrzeug über seine letzte volle Runde hinaus gekommen ist", Command6);
+    const auto tipp_fuer_alle = [&texte](std::string_view deutsch, je_spur<befehl>& ziele) {
+        texte.text(deutsch, [&ziele](const std::string& neu) {
+            for (befehl& ziel : ziele) {
+                ziel.tipp(neu);
+            }
+        });
+    };
+    tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
+    tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
+    tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
+    return texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
+}
+
+void auswertung::ansagen_setzen() {
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        Label_spur[i].text(wort_.spur + " " + std::to_string(spur));
+        const auto ansagen = [&](steuerelement& element, const std::string& was) {
+            element.ansage(Label_spur[i].text() + ": " + was);
+        };
+        ansagen(runden_aus[i], Label_runden[i].text());
+        ansagen(zeit_aus[i], Label_zeit[i].text());
+        ansagen(beste_aus[i], Label_beste[i].text());
+        ansagen(liste[i], wort_.rundenliste);
+        ansagen(meter[i], meter_label[i].text());
+        for (befehl* knopf : {&cmd_anzeige[i], &cmd_rd_add[i], &cmd_rd_inc[i]}) {
+            ansagen(*knopf, knopf->tipp());
+        }
+        beste_aus[i].tipp(wort_.tempo);
+        kmh_label[i].tipp(wort_.tempo);
+        cmd_anzeige[i].text("…");
+        cmd_rd_add[i].text("▼");
+        cmd_rd_inc[i].text("✕");
+    }
+    neues_ziel.ansage(Command3.text() + " " + Label_bis.text());
+}
+
+}  // namespace tarvel

@@ -1,0 +1,159 @@
+#include "results/einzelrennen_datei.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+#include "core/text.h"
+#include "core/zeit.h"
+#include "results/ergebnisdatei.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int sektoren_max = 3;
+
+/// One lane takes five fields of a line, so that a table program shows the lanes side by side.
+using feldblock = std::array<std::string, 5>;
+
+class schreiber {
+public:
+    explicit schreiber(const ergebnis_quelle& q) : q_(q), trenner_(q.um.einst.trennzeichen[2]) {}
+
+    std::vector<std::string> zeilen() {
+        kopf();
+        direktvergleich();
+        kennzahlen();
+        aus_.emplace_back(";;");
+        rundenzeiten();
+        for (const std::string_view zeile : {std::string_view(), programm_name, magie_einzelrennen, web_adresse}) {
+            aus_.emplace_back(zeile);
+        }
+        return std::move(aus_);
+    }
+
+private:
+    const einstellungen& einst() const { return q_.um.einst; }
+    std::string zeit(zeit_ms dauer) const { return zeit_formatieren(dauer, true, einst().trennzeichen); }
+    std::string runden(int spur) const { return zahl_mit_platz(q_.stand.runden(spur)); }
+
+    /// A separator within a name would move the columns.
+    std::string name(std::string text) const {
+        for (std::size_t stelle = text.find(trenner_); stelle != std::string::npos; stelle = text.find(trenner_)) {
+            text.replace(stelle, trenner_.size(), " ");
+        }
+        return text;
+    }
+
+    template <class Tun>
+    void je_aktiver_spur(Tun tun) const {
+        for (const int spur : alle_spuren) {
+            if (q_.um.param.spur_aktiv[spur]) {
+                tun(spur);
+            }
+        }
+    }
+
+    void block_zeile(const std::function<feldblock(int)>& block) {
+        std::string zeile;
+        je_aktiver_spur([&](int spur) {
+            for (const std::string& feld : block(spur)) {
+                zeile += feld + trenner_;
+            }
+        });
+        aus_.push_back(std::move(zeile));
+    }
+
+    void kopf() {
+        const std::string& ende = q_.um.zustand.rennen_ende_uhrzeit;
+        const std::size_t strich = ende.find('-');
+        const std::string uhrzeit = strich == std::string::npos ? "" : ende.substr(strich + 1);
+        aus_.push_back(q_.wort.rennergebnis + trenner_ + ende.substr(0, strich) + trenner_ + uhrzeit);
+        aus_.push_back(q_.um.param.tank_aktiv ? q_.wort.tanken_aktiv : "");
+        aus_.insert(aus_.end(), {"", q_.wort.direktvergleich, ""});
+    }
+
+    void direktvergleich() {
+        je_aktiver_spur([&](int spur) {
+            std::string zeile = name(q_.um.param.fahrer_name[spur]);
+            for (const std::string& feld : {runden(spur), q_.stand.meter_text(spur), zeit(q_.stand.beste_runde(spur)),
+                                            zeit(q_.stand.gesamtzeit(spur))}) {
+                zeile += trenner_ + feld;
+            }
+            zeile += trenner_;
+            for (int runde = 0; runde <= q_.um.zustand.spur[spur].runden; ++runde) {
+                zeile += zeit(q_.um.zustand.rundenzeiten.rundenzeit(spur, runde)) + trenner_;
+            }
+            aus_.push_back(std::move(zeile));
+        });
+        aus_.insert(aus_.end(), {"", ""});
+    }
+
+    void kennzahlen() {
+        const ergebnis_worte& wort = q_.wort;
+        const renn_parameter& param = q_.um.param;
+        const auto paar = [](std::string erstes, std::string zweites) {
+            return feldblock{std::move(erstes), std::move(zweites)};
+        };
+        block_zeile([&](int spur) { return feldblock{wort.spur + " " + std::to_string(spur)}; });
+        block_zeile([&](int spur) { return feldblock{name(param.fahrer_name[spur])}; });
+        block_zeile([&](int spur) { return feldblock{name(param.fahrzeug_name[spur])}; });
+        block_zeile([&](int spur) {
+            return paar(wort.rundenzahl,
+                        q_.um.zustand.spur[spur].disqualifiziert ? wort.disqualifiziert : runden(spur));
+        });
+        block_zeile(
+            [&](int spur) { return paar(wort.spurlaenge, name(q_.um.haupt.lspur.at(feld_index(spur)).text())); });
+        block_zeile([&](int spur) { return sektorlaengen(spur); });
+        block_zeile([&](int spur) { return paar(wort.restmeter, zahl_text(q_.stand.restmeter(spur), '.')); });
+        block_zeile([&](int spur) { return paar(wort.gesamtmeter, q_.stand.meter_text(spur)); });
+        block_zeile([&](int spur) { return paar(wort.gesamtzeit, zeit(q_.stand.gesamtzeit(spur))); });
+    }
+
+    feldblock sektorlaengen(int spur) const {
+        feldblock block{q_.wort.sektorlaenge};
+        for (std::size_t sektor = 1; sektor <= sektoren_max; ++sektor) {
+            if (einst().sektor_an.at(sektor)) {
+                block.at(sektor) = name(einst().sektor_laenge.at(sektor)[spur]);
+            }
+        }
+        return block;
+    }
+
+    void rundenzeiten() {
+        const auto& spuren = q_.um.zustand.spur;
+        const int meiste = std::max_element(spuren.begin(), spuren.end(), [](const auto& a, const auto& b) {
+                               return a.runden < b.runden;
+                           })->runden;
+        for (int runde = 0; runde <= meiste; ++runde) {
+            block_zeile([&](int spur) { return rundenblock(spur, runde); });
+        }
+    }
+
+    feldblock rundenblock(int spur, int runde) const {
+        feldblock block;
+        if (runde > q_.um.zustand.spur[spur].runden) {
+            return block;
+        }
+        block[0] = zeit(q_.um.zustand.rundenzeiten.rundenzeit(spur, runde));
+        for (int sektor = 1; runde > 0 && sektor <= sektoren_max; ++sektor) {
+            const zeit_ms dauer = q_.sektor.sektorzeit(spur, sektor, runde);
+            if (einst().sektor_an.at(static_cast<std::size_t>(sektor)) && dauer != 0) {
+                block.at(static_cast<std::size_t>(sektor)) = zeit(dauer);
+            }
+        }
+        return block;
+    }
+
+    const ergebnis_quelle& q_;
+    std::string trenner_;
+    std::vector<std::string> aus_;
+};
+
+}  // namespace
+
+std::vector<std::string> einzelrennen_zeilen(const ergebnis_quelle& quelle) {
+    return schreiber(quelle).zeilen();
+}
+
+}  // namespace tarvel

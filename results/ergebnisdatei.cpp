@@ -1,0 +1,43 @@
+#include "results/ergebnisdatei.h"
+
+#include <algorithm>
+
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t zeilen_max = 10000;
+constexpr std::size_t zeile_bytes_max = 200000;  // a lane of 9999 laps is one line
+
+}  // namespace
+
+std::vector<std::string> ergebnis_zeilen_lesen(const dateien& ablage, std::string_view name) {
+    return ablage.zeilen_lesen(name, zeilen_max, zeile_bytes_max).value_or(std::vector<std::string>{});
+}
+
+ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen) {
+    const auto von_hinten = [&](std::size_t abstand) {
+        return abstand < zeilen.size() ? std::string_view(zeilen[zeilen.size() - 1 - abstand]) : std::string_view();
+    };
+    if (von_hinten(0) == magie_jeder_gegen_jeden) {
+        return ergebnis_typ::jeder_gegen_jeden;
+    }
+    if (von_hinten(0) == magie_wettkampf) {
+        return ergebnis_typ::wettkampf;
+    }
+    if (von_hinten(1) == magie_einzelrennen) {  // an address stands behind it
+        return ergebnis_typ::einzelrennen;
+    }
+    return !zeilen.empty() && zeilen.front() == magie_tagesrennen ? ergebnis_typ::tagesrennen : ergebnis_typ::unbekannt;
+}
+
+std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment) {
+    std::string stempel = uhrzeit_text(moment);
+    std::erase_if(stempel,
+                  [](char zeichen) { return std::string_view(". :/").find(zeichen) != std::string_view::npos; });
+    stempel.pop_back();
+    return stempel;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dateien.h"
+#include "platform/kalender.h"
+
+namespace tarvel {
+
+/// A result file is known by one of these lines, not by its name.
+inline constexpr std::string_view magie_einzelrennen = "TV-ERD";
+inline constexpr std::string_view magie_wettkampf = "TV-WKD";
+inline constexpr std::string_view magie_jeder_gegen_jeden = "TV-JJ2-WKD";
+inline constexpr std::string_view magie_tagesrennen = "Tarvel Tagesrennen";
+inline constexpr std::string_view web_adresse = "https://tarvel.invalid";
+
+namespace ergebnis_ordner {
+inline constexpr std::string_view einzelrennen = "Ergebnisse\\Einzelrennen";
+inline constexpr std::string_view auto_einzelrennen = "Ergebnisse\\auto-Einzelrennen";
+}  // namespace ergebnis_ordner
+
+enum class ergebnis_typ { unbekannt, einzelrennen, wettkampf, jeder_gegen_jeden, tagesrennen };
+
+/// At most 10000 lines; none if the file cannot be read.
+std::vector<std::string> ergebnis_zeilen_lesen(const dateien& ablage, std::string_view name);
+ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen);
+
+/// Name of a result file: date and time without their separators and without the last digit of the seconds.
+std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment);
+
+}  // namespace tarvel

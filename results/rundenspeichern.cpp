@@ -1,0 +1,69 @@
+#include "results/rundenspeichern.h"
+
+#include "results/ergebnisdatei.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view endung = ".csv";
+
+}  // namespace
+
+rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const speichernfenster::umgebung& um)
+    : fenster(um, "rundenspeichern", "language\\language_s1.txt"), r_(r), stand_(stand), um_(um) {}
+
+sprachliste rundenspeichern::sprache() {
+    sprachliste texte = fenster.sprache();
+    texte.text("Rennergebnis speichern", titel_).text("Vorhandene Ergebnisse", ueberschrift_);
+    texte.text("Bitte geben Sie einen gültigen Dateinamen an.", name_fehlt_);
+    texte.text("Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.", schreibfehler_);
+    texte.text("Rennergebnis", wort_.rennergebnis).text("Tanken aktiv", wort_.tanken_aktiv);
+    texte.text("Rundendirektvergleich", wort_.direktvergleich).text("Spur", wort_.spur);
+    texte.text("Rundenzahl", wort_.rundenzahl).text("Disqualifiziert", wort_.disqualifiziert);
+    texte.text("Spurlänge", wort_.spurlaenge).text("Sektorlänge", wort_.sektorlaenge);
+    texte.text("Restmeter", wort_.restmeter).text("Gesamtmeter", wort_.gesamtmeter);
+    return texte.text("Gesamtzeit", wort_.gesamtzeit);
+}
+
+std::string rundenspeichern::stempel() const {
+    return ergebnis_stempel(r_.umgebung.kalender.jetzt());
+}
+
+void rundenspeichern::oeffnen() {
+    um_.fenster.laden("rundenspeichern");
+    dateiauftrag auftrag;
+    auftrag.speichern = true;
+    auftrag.titel = titel_;
+    auftrag.ueberschrift = ueberschrift_;
+    auftrag.knopf = um_.txt.datei_text[0];
+    auftrag.ordner = ergebnis_ordner::einzelrennen;
+    auftrag.endung = endung;
+    auftrag.andere_endung_bleibt = true;
+    auftrag.name_fehlt = name_fehlt_;
+    auftrag.vorschlag = stempel() + std::string(endung);
+    auftrag.ausfuehren = [this](const std::string& name) {
+        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + name);
+    };
+    fenster.oeffnen(std::move(auftrag));
+}
+
+bool rundenspeichern::automatisch_speichern() {
+    laden();  // the words of the file
+    const std::string stamm = std::string(ergebnis_ordner::auto_einzelrennen) + "\\auto-" + stempel();
+    std::string pfad = stamm + std::string(endung);
+    for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {  // two results within ten seconds
+        pfad = stamm + "-" + std::to_string(nummer) + std::string(endung);
+    }
+    return einzelrennen_schreiben(pfad);
+}
+
+bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad) {
+    const bool geschrieben =
+        um_.ablage.zeilen_schreiben(pfad, einzelrennen_zeilen({r_.umgebung, r_.sektoren, stand_, wort_}));
+    if (!geschrieben) {
+        um_.meldungen.zeigen(schreibfehler_, um_.txt.titel[1]);
+    }
+    return geschrieben;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "core/speichernfenster.h"
+#include "results/einzelrennen_datei.h"
+
+namespace tarvel {
+
+/// Saves results: under a name of the operator's choice in its window, or by itself.
+class rundenspeichern {
+public:
+    rundenspeichern(rennen& r, const wertung& stand, const speichernfenster::umgebung& um);
+
+    speichernfenster fenster;  ///< its controls
+
+    void laden() { sprache().anwenden(um_.ablage); }
+    /// The texts of the window and of the files.
+    sprachliste sprache();
+    /// Opens the window for the single race.
+    void oeffnen();
+    /// Saves the single race without a question. A failure shows its message and is false.
+    bool automatisch_speichern();
+
+private:
+    bool einzelrennen_schreiben(const std::string& pfad);
+    std::string stempel() const;
+
+    rennen& r_;
+    const wertung& stand_;
+    speichernfenster::umgebung um_;
+    ergebnis_worte wort_;
+    std::string titel_;
+    std::string ueberschrift_;
+    std::string name_fehlt_;
+    std::string schreibfehler_;
+};
+
+}  // namespace tarvel
