@@ -19,7 +19,6 @@ using farbe = std::uint32_t;
 
 namespace farben {
 inline constexpr farbe rot = 0x0000FF;
-inline constexpr farbe schwarz = 0;
 }  // namespace farben
 
 /// Told of each change of a control, from within the setter: it may only take a note.

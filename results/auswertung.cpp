@@ -48,8 +48,8 @@ void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
     for (std::size_t i = 0; i < spuren_max; ++i) {
         beste_blink_timer_.at(i) = dienst.erzeugen(zeitgeber_art::zaehlend, blinktakt_ms);
         beste_blink_timer_.at(i)->bei_tick = [this, i] {
-            const bool war_rot = beste_aus.at(i).schriftfarbe() == farben::rot;
-            beste_aus.at(i).schriftfarbe(war_rot ? farben::schwarz : farben::rot);
+            const bool war_rot = beste_aus.at(i).schriftfarbe().has_value();
+            beste_aus.at(i).schriftfarbe(war_rot ? std::nullopt : std::optional(farben::rot));
         };
     }
 }
@@ -95,7 +95,7 @@ void auswertung::zeitgeber_aus() {
     }
     for (std::size_t i = 0; i < spuren_max; ++i) {
         beste_blink_timer_.at(i)->aus();
-        beste_aus.at(i).schriftfarbe(farben::schwarz);
+        beste_aus.at(i).schriftfarbe(std::nullopt);
     }
 }
 

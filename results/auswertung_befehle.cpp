@@ -86,6 +86,7 @@ void auswertung::meter_eingabe(bool an) {
         cmd_rd_inc[i].aktiviert(!an);
         meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
         meter_label[i].sichtbar(meter[i].sichtbar());
+        ges_meter[i].sichtbar(!an);
     }
     if (an) {
         meter.at(feld_index(u_.stand.fuehrende_spur())).fokus_setzen();

@@ -60,15 +60,20 @@ QWidget* AuswertungFenster::verlaufsfeld() {
 QLayout* AuswertungFenster::korrekturzeile() {
     auto* zeile = new QHBoxLayout;
     zeile->setSpacing(6);
-    zeile->addWidget(binder().knopf(logik_.Command6, "Command6"));
-    zeile->addWidget(binder().knopf(logik_.Command8, "Command8"));
-    zeile->addWidget(binder().knopf(logik_.Command10, "Command10"));
-    zeile->addWidget(binder().knopf(logik_.Command9, "Command9"));
-    zeile->addStretch();
-    zeile->addWidget(binder().knopf(logik_.Command_verlauf, "Command_verlauf"));
-    zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken"));
-    zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf"));
-    zeile->addWidget(binder().knopf(logik_.Command4, "Command4"));
+    const auto knopf = [&](befehl& element, const QString& name) {
+        QPushButton* widget = binder().knopf(element, name);
+        widget->setProperty("rolle", "schmal");
+        zeile->addWidget(widget);
+    };
+    knopf(logik_.Command6, "Command6");
+    knopf(logik_.Command8, "Command8");
+    knopf(logik_.Command10, "Command10");
+    knopf(logik_.Command9, "Command9");
+    zeile->addStretch(1);
+    knopf(logik_.Command_verlauf, "Command_verlauf");
+    knopf(logik_.Command_drucken, "Command_drucken");
+    knopf(logik_.Command_pdf, "Command_pdf");
+    knopf(logik_.Command4, "Command4");
     return zeile;
 }
 
@@ -85,7 +90,7 @@ QLayout* AuswertungFenster::wegezeile() {
     training->setFett(true);
     zeile->addWidget(training, 1);
     zeile->addWidget(binder().knopf(logik_.Command7, "Command7"), 0, Qt::AlignBottom);
-    zeile->addStretch();
+    zeile->addStretch(1);
     zeile->addWidget(gross(binder().hauptknopf(logik_.Command5, "Command5"), 160), 0, Qt::AlignBottom);
     return zeile;
 }
@@ -94,17 +99,19 @@ QWidget* AuswertungFenster::spurwechselfeld() {
     QGroupBox* feld = binder().gruppe(logik_.Frame1, "Frame1");
     auto* aufbau = new QGridLayout(feld);
     aufbau->setContentsMargins(8, 0, 8, 2);
-    aufbau->setHorizontalSpacing(8);
     aufbau->setVerticalSpacing(4);
     aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"), 0, 0);
     aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"), 1, 0);
-    aufbau->addWidget(binder().label(logik_.Label_bis, "Label_bis"), 1, 1);
-    QLineEdit* ziel = binder().zeile(logik_.neues_ziel, "neues_ziel");
-    ziel->setFixedWidth(zielfeld_breite_px);
-    aufbau->addWidget(ziel, 1, 2);
-    aufbau->addWidget(binder().label(logik_.ziel_einheit, "ziel_einheit"), 1, 3);
-    aufbau->addWidget(binder().kasten(logik_.spurwechsel, "spurwechsel"), 0, 4);
-    aufbau->addWidget(binder().kasten(logik_.tauschfahrzeug, "tauschfahrzeug"), 1, 4);
+    auto* ziel = new QHBoxLayout;
+    ziel->addWidget(binder().label(logik_.Label_bis, "Label_bis"));
+    QLineEdit* eingabe = binder().zeile(logik_.neues_ziel, "neues_ziel");
+    eingabe->setFixedWidth(zielfeld_breite_px);
+    ziel->addWidget(eingabe);
+    ziel->addWidget(binder().label(logik_.ziel_einheit, "ziel_einheit"));
+    aufbau->addLayout(ziel, 1, 1);
+    aufbau->addWidget(binder().kasten(logik_.spurwechsel, "spurwechsel"), 0, 2);
+    aufbau->addWidget(binder().kasten(logik_.tauschfahrzeug, "tauschfahrzeug"), 1, 2);
+    aufbau->setHorizontalSpacing(14);
     return feld;
 }
 

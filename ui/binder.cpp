@@ -138,11 +138,15 @@ TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double
         widget->setSchriftPx(static_cast<int>(std::lround(einheiten * skala_)));
     };
     schriften_.emplace_back(schrift);
-    verbinden(element, widget, name, [&element, widget, schrift] {
+    std::optional<QColor> eigene;  // while the control has set another
+    verbinden(element, widget, name, [&element, widget, schrift, eigene]() mutable {
         schrift();
         widget->setText(als_text(element.text()));
         if (element.schriftfarbe()) {
+            eigene = eigene.value_or(widget->farbe());
             widget->setFarbe(stil::farbe_von(*element.schriftfarbe()));
+        } else if (eigene) {
+            widget->setFarbe(*std::exchange(eigene, std::nullopt));
         }
     });
     return widget;

@@ -19,7 +19,7 @@ constexpr double schrift_zusatz = 15;
 constexpr double schrift_titel = 13;
 constexpr double schrift_liste = 16;
 
-constexpr int eingabe_breite_px = 76;
+constexpr int eingabe_breite_px = 66;
 constexpr int knopf_breite_px = 34;
 constexpr QSize bild_groesse{60, 60};
 
@@ -112,9 +112,11 @@ QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     const std::size_t i = index_;
     const zelle_teile teile =
         zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_runden}, binder);
-    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 1);
+    TextAnzeige* meter = binder.anzeige(logik_.ges_meter[i], nummeriert("ges_meter"), schrift_zusatz);
+    meter->setAusrichtung(links_mitte);
+    teile.zusatz->addWidget(meter, 1);
     TextAnzeige* titel = binder.anzeige(logik_.meter_label[i], nummeriert("meter_label"), schrift_zusatz);
-    titel->setAusrichtung(Qt::AlignRight | Qt::AlignVCenter);
+    titel->setAusrichtung(links_mitte);
     QLineEdit* eingabe = binder.zeile(logik_.meter[i], nummeriert("meter"));
     eingabe->setFixedWidth(eingabe_breite_px);
     teile.zusatz->addWidget(titel, 1);

@@ -15,6 +15,7 @@ public:
     void setSchriftPx(int px);
     void setFett(bool fett);
     void setFarbe(const QColor& farbe);
+    QColor farbe() const { return farbe_; }
     void setAusrichtung(Qt::Alignment ausrichtung);
     /// Takes the width of this text at the given size, whatever is shown.
     void setMusterText(const QString& muster);
