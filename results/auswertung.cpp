@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "core/zeit.h"
+#include "results/ergebnisdatei.h"
 
 namespace tarvel {
 namespace {
@@ -169,6 +170,7 @@ void auswertung::auswertung_anzeigen() {
             spur_anzeigen(spur);
         }
     }
+    verlauf_nachfuehren();
 }
 
 void auswertung::spur_anzeigen(int spur) {
@@ -193,7 +195,7 @@ void auswertung::spur_anzeigen(int spur) {
     abstandlabel[i].sichtbar(spur != stand.fuehrende_spur());
     const zeit_ms abstand = stand.abstand(spur);  // a car that is laps behind may have the lower time
     abstandlabel[i].text((abstand < 0 ? "- " : "+ ") + zeit_text(std::abs(abstand), true));
-    ges_meter[i].text(stand.meter_text(spur) + " m");
+    ges_meter[i].text(stand.meter_text(spur, ',') + " m");
     kmh_label[i].text(tempo(1, stand.beste_runde(spur)) + " / " + tempo(stand.runden(spur), stand.gesamtzeit(spur)) +
                       " km/h");
     aus_straflabel[i].sichtbar(zustand.strafzeit > 0);
@@ -288,6 +290,17 @@ void auswertung::verlauf_umschalten() {
     Frame_stand.sichtbar(!zeigen);
     Frame_verlauf.sichtbar(zeigen);
     Command_verlauf.text(zeigen ? wort_.stand : wort_.verlauf);
+    verlauf_nachfuehren();
+}
+
+void auswertung::verlauf_nachfuehren() {
+    if (Frame_verlauf.sichtbar() && verlauf_zeichnen) {
+        verlauf_zeichnen();
+    }
+}
+
+std::string auswertung::blatt_datei() const {
+    return std::string(ergebnis_ordner::einzelrennen) + "\\" + ergebnis_stempel(um_.kalender.jetzt());
 }
 
 }  // namespace tarvel

@@ -8,7 +8,9 @@
 #include "core/namensliste.h"
 #include "core/steuerelemente.h"
 #include "race/rennen.h"
+#include "results/ergebnisworte.h"
 #include "results/rundenspeichern.h"
+#include "results/rundenverlauf.h"
 #include "results/wertung.h"
 
 namespace tarvel {
@@ -82,9 +84,10 @@ public:
     bezeichnung ziel_einheit;
     bezeichnung trainingslabel;  ///< counts down to the next round of a training
 
-    /// Print the standing, or save it as a page; filled by the drawing.
+    /// Print the standing or save it as a page, and bring the chart up to date; filled by the drawing.
     std::function<void()> drucken;
     std::function<void()> als_pdf;
+    std::function<void()> verlauf_zeichnen;
     /// Takes the result of a competition race, and goes on there.
     std::function<void()> rennergebnis_uebernehmen;
 
@@ -104,10 +107,19 @@ public:
     /// Closing the window means leaving it.
     void fenster_schliessen();
 
+    /// What the chart shows.
+    rundenverlauf verlauf() const { return rundenverlauf_bilden(um_.zustand, um_.param); }
+    const einstellungen& einst() const { return um_.einst; }
+    /// Suggestion for the file of the page, below the program folder and without an extension.
+    std::string blatt_datei() const;
+    void pdf_misslungen() { um_.meldungen.zeigen(wort_.pdf_fehler, um_.txt.titel[1]); }
+    void druck_misslungen() { um_.meldungen.zeigen(wort_.druckfehler, um_.txt.titel[1]); }
+
+    diagramm_worte diagramm;  ///< words of the chart and of the page
+    blatt_worte blatt;
+
     /// The texts of the window.
     sprachliste sprache_a();
-    /// Words of the printed page.
-    const std::string& wort_spur() const { return wort_.spur; }
 
 private:
     /// What the list of a lane shows beside the lap times.
@@ -119,7 +131,7 @@ private:
         std::string tempo;  ///< names the two speeds
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
-        std::string minuten, runden, verlauf, stand, minuten_hinweis;
+        std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler;
     };
 
     bool ist_wettkampf() const { return !um_.param.wettkampf_kein; }
@@ -143,6 +155,7 @@ private:
     void nachzaehlen_beenden();
     void training_tick();
     void verlauf_umschalten();
+    void verlauf_nachfuehren();
 
     void Command6_klick();
     void meter_eingabe(bool an);

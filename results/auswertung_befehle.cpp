@@ -33,8 +33,15 @@ void auswertung::befehle_verbinden() {
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
     Command10.bei_klick = [this] { auswertung_anzeigen(); };
     Command_verlauf.bei_klick = [this] { verlauf_umschalten(); };
-    Command_drucken.bei_klick = [this] { drucken(); };
-    Command_pdf.bei_klick = [this] { als_pdf(); };
+    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
+        knopf.bei_klick = [&wohin] {
+            if (wohin) {
+                wohin();
+            }
+        };
+    };
+    weitergeben(Command_drucken, drucken);
+    weitergeben(Command_pdf, als_pdf);
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
     neues_ziel.laenge_max(eingabe_laenge_max);
 }

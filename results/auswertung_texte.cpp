@@ -46,6 +46,9 @@ sprachliste auswertung::sprache_a() {
     tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
     tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
     tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
+    texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
+    texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
+    blatt.eintragen(diagramm.eintragen(texte));
     return texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
 }
 

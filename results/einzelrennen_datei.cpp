@@ -76,8 +76,8 @@ private:
     void direktvergleich() {
         je_aktiver_spur([&](int spur) {
             std::string zeile = name(q_.um.param.fahrer_name[spur]);
-            for (const std::string& feld : {runden(spur), q_.stand.meter_text(spur), zeit(q_.stand.beste_runde(spur)),
-                                            zeit(q_.stand.gesamtzeit(spur))}) {
+            for (const std::string& feld : {runden(spur), q_.stand.meter_text(spur, '.'),
+                                            zeit(q_.stand.beste_runde(spur)), zeit(q_.stand.gesamtzeit(spur))}) {
                 zeile += trenner_ + feld;
             }
             zeile += trenner_;
@@ -106,7 +106,7 @@ private:
             [&](int spur) { return paar(wort.spurlaenge, name(q_.um.haupt.lspur.at(feld_index(spur)).text())); });
         block_zeile([&](int spur) { return sektorlaengen(spur); });
         block_zeile([&](int spur) { return paar(wort.restmeter, zahl_text(q_.stand.restmeter(spur), '.')); });
-        block_zeile([&](int spur) { return paar(wort.gesamtmeter, q_.stand.meter_text(spur)); });
+        block_zeile([&](int spur) { return paar(wort.gesamtmeter, q_.stand.meter_text(spur, '.')); });
         block_zeile([&](int spur) { return paar(wort.gesamtzeit, zeit(q_.stand.gesamtzeit(spur))); });
     }
 

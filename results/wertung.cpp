@@ -32,8 +32,8 @@ int wertung::runden(int spur) const {
     return std::max(um_.zustand.spur[spur].runden, 0);
 }
 
-std::string wertung::meter_text(int spur) const {
-    return zahl_fest(stand_[spur].meter, '.');
+std::string wertung::meter_text(int spur, char komma) const {
+    return zahl_fest(stand_[spur].meter, komma);
 }
 
 void wertung::meter_auswerten() {
@@ -60,7 +60,8 @@ void wertung::platzierung_berechnen() {
             continue;
         }
         const spur_zustand& zustand = um_.zustand.spur[spur];
-        const double meter = std::max(zahl_lesen(meter_text(spur)), 0.0);  // what is shown decides, not what it hides
+        const double meter =
+            std::max(zahl_lesen(meter_text(spur, '.')), 0.0);  // what is shown decides, not what it hides
         werte = {true, zustand.runden, meter, zeit_ms{1000} * zustand.strafzeit, speicher.beste(spur)};
         for (int runde = 1; runde <= zustand.runden; ++runde) {
             werte.gesamtzeit += speicher.rundenzeit(spur, runde);

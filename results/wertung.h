@@ -42,8 +42,8 @@ public:
     zeit_ms beste_runde(int spur) const { return werte_[spur].beste_runde; }
     double meter(int spur) const { return stand_[spur].meter; }
     double restmeter(int spur) const { return stand_[spur].restmeter; }
-    /// "23.40"
-    std::string meter_text(int spur) const;
+    /// Two decimals behind `komma`: "23,40" in windows, "23.40" in files.
+    std::string meter_text(int spur, char komma) const;
 
 private:
     /// What a lane had at the last evaluation, so that a continued race adds to it.

@@ -39,7 +39,7 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     EXPECT_FALSE(a.abstandlabel[1].sichtbar());
     EXPECT_EQ(a.runden_aus[0].text(), "2");
     EXPECT_EQ(a.abstandlabel[0].text(), "- 00:06,500") << "a lane behind in laps may be ahead in time";
-    EXPECT_EQ(a.ges_meter[0].text(), "50.00 m");
+    EXPECT_EQ(a.ges_meter[0].text(), "50,00 m");
     // 25 m in 7.5 s, and 50 m in 15.5 s
     EXPECT_EQ(a.kmh_label[0].text(), "12,00 / 11,61 km/h");
     EXPECT_EQ(a.fahrer[5].text(), "Fahrer 6");
@@ -82,7 +82,7 @@ TEST_F(Auswertung, MeterUndBesteRundeAlsMassstabGeltenImFenster) {
         t.maschine.laufen(60000);
     };
     fahren();
-    EXPECT_EQ(a.ges_meter[0].text(), "25.00 m");
+    EXPECT_EQ(a.ges_meter[0].text(), "25,00 m");
     EXPECT_EQ(w.platzierung(1), 1) << "more metres in the same laps";
     a.Command5.klicken();
     t.p.einst.auswertung_nach = 3;
@@ -117,7 +117,7 @@ TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     t.runde_nach(1000, "3");
     t.runde_nach(6000, "3");
     EXPECT_EQ(a.runden_aus[2].text(), "1");
-    EXPECT_EQ(a.ges_meter[2].text(), "25.00 m") << "nothing is left of the race before";
+    EXPECT_EQ(a.ges_meter[2].text(), "25,00 m") << "nothing is left of the race before";
 }
 
 TEST_F(Auswertung, LetzterImZielHaeltDieZeitgeberAn) {

@@ -94,8 +94,8 @@ TEST_F(AuswertungWege, FortgesetztesRundenrennenNimmtAllesMit) {
     ASSERT_TRUE(offen("auswertung"));
     EXPECT_EQ(w.platzierung(2), 1);
     EXPECT_EQ(w.gesamtzeit(2), 18000 + 5504 + 6005 + 6005 + 5000);
-    EXPECT_EQ(a.ges_meter[1].text(), "135.00 m") << "three laps of 25 m, three of 20 m";
-    EXPECT_EQ(a.ges_meter[0].text(), "65.00 m");
+    EXPECT_EQ(a.ges_meter[1].text(), "135,00 m") << "three laps of 25 m, three of 20 m";
+    EXPECT_EQ(a.ges_meter[0].text(), "65,00 m");
     a.Command1.klicken();
     EXPECT_EQ(t.p.param.renn_ziel, 3) << "repeated as it was set up";
 }

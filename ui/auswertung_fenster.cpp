@@ -1,5 +1,6 @@
 #include "ui/auswertung_fenster.h"
 
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -32,6 +33,9 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, B
     aufbau->addWidget(verlaufsfeld(), 1);
     aufbau->addLayout(korrekturzeile());
     aufbau->addLayout(wegezeile());
+    logik.drucken = [this] { drucken(); };
+    logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
+    logik.verlauf_zeichnen = [this] { diagramm_->setInhalt(bildinhalt()); };
     setMinimumSize(760, 420);
     resize(1180, 760);
 }
@@ -52,18 +56,46 @@ QWidget* AuswertungFenster::standfeld(const dateien& ablage) {
 }
 
 QWidget* AuswertungFenster::verlaufsfeld() {
-    auto* feld = new QWidget(this);
-    binder().verbinden(logik_.Frame_verlauf, feld, "Frame_verlauf", {});
-    return feld;
+    diagramm_ = new Rundendiagramm(this);
+    binder().verbinden(logik_.Frame_verlauf, diagramm_, "Frame_verlauf", {});
+    return diagramm_;
+}
+
+rundenbild_inhalt AuswertungFenster::bildinhalt() const {
+    const einstellungen& einst = logik_.einst();
+    return {logik_.verlauf(), einst.farben_spur, logik_.diagramm, einst.trennzeichen};
+}
+
+ergebnisblatt AuswertungFenster::blatt_lesen() const {
+    return ergebnisblatt_lesen(logik_, bildinhalt(), logik_.blatt);
+}
+
+void AuswertungFenster::drucken() {
+    ergebnisblatt_drucken(this, blatt_lesen(), [this] { logik_.druck_misslungen(); });
+}
+
+void AuswertungFenster::pdf_speichern(const dateien& ablage) {
+    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
+    auto* dialog = new QFileDialog(this, QString::fromStdString(logik_.Command_pdf.text()),
+                                   QString::fromStdU16String(vorschlag), "PDF (*.pdf)");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix("pdf");
+    dialog->selectFile(QString::fromStdU16String(vorschlag));
+    const ergebnisblatt blatt = blatt_lesen();  // as it stands now, whatever happens while the name is chosen
+    QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, blatt](const QString& pfad) {
+        if (!ergebnisblatt_pdf(pfad, blatt)) {
+            logik_.pdf_misslungen();
+        }
+    });
+    dialog->open();
 }
 
 QLayout* AuswertungFenster::korrekturzeile() {
     auto* zeile = new QHBoxLayout;
     zeile->setSpacing(6);
     const auto knopf = [&](befehl& element, const QString& name) {
-        QPushButton* widget = binder().knopf(element, name);
-        widget->setProperty("rolle", "schmal");
-        zeile->addWidget(widget);
+        zeile->addWidget(binder().knopf(element, name, "schmal"));
     };
     knopf(logik_.Command6, "Command6");
     knopf(logik_.Command8, "Command8");
@@ -103,6 +135,7 @@ QWidget* AuswertungFenster::spurwechselfeld() {
     aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"), 0, 0);
     aufbau->addWidget(binder().knopf(logik_.Command3, "Command3"), 1, 0);
     auto* ziel = new QHBoxLayout;
+    ziel->setSpacing(8);
     ziel->addWidget(binder().label(logik_.Label_bis, "Label_bis"));
     QLineEdit* eingabe = binder().zeile(logik_.neues_ziel, "neues_ziel");
     eingabe->setFixedWidth(zielfeld_breite_px);

@@ -3,8 +3,10 @@
 #include <QVBoxLayout>
 #include <vector>
 
+#include "ui/ergebnisblatt.h"
 #include "ui/ergebniszeile.h"
 #include "ui/fenster.h"
+#include "ui/rundendiagramm.h"
 
 namespace tarvel::ui {
 
@@ -21,6 +23,10 @@ protected:
 private:
     QWidget* standfeld(const dateien& ablage);
     QWidget* verlaufsfeld();
+    rundenbild_inhalt bildinhalt() const;
+    ergebnisblatt blatt_lesen() const;
+    void drucken();
+    void pdf_speichern(const dateien& ablage);
     QLayout* korrekturzeile();
     QLayout* wegezeile();
     QWidget* spurwechselfeld();
@@ -28,6 +34,7 @@ private:
     void skalieren();
 
     auswertung& logik_;
+    Rundendiagramm* diagramm_ = nullptr;
     QWidget* stand_ = nullptr;
     QVBoxLayout* reihen_ = nullptr;
     std::vector<Ergebniszeile*> zeilen_;

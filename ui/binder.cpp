@@ -159,23 +159,15 @@ TextAnzeige* Binder::beschriftung(double entwurf) {
     return widget;
 }
 
-QPushButton* Binder::knopf(befehl& element, const QString& name) {
+QPushButton* Binder::knopf(befehl& element, const QString& name, const char* rolle) {
     auto* widget = new QPushButton(eltern_);
-    knopf_verbinden(widget, element, name);
-    return widget;
-}
-
-QPushButton* Binder::hauptknopf(befehl& element, const QString& name) {
-    auto* widget = new QPushButton(eltern_);
-    widget->setProperty("rolle", "haupt");  // before the style looks at the widget for the first time
-    knopf_verbinden(widget, element, name);
-    return widget;
-}
-
-void Binder::knopf_verbinden(QPushButton* widget, befehl& element, const QString& name) {
+    if (rolle != nullptr) {
+        widget->setProperty("rolle", rolle);  // before the style looks at the widget for the first time
+    }
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
     verbinden(element, widget, name, [&element, widget] { text_nachfuehren(widget, element); });
+    return widget;
 }
 
 QGroupBox* Binder::gruppe(rahmen& element, const QString& name) {
@@ -326,7 +318,11 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     modell->setAusrichtung(ausrichtung);
     widget->setModel(modell);
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
-                     [&element](const QModelIndex& zeile) { element.auswaehlen(zeile.row()); });
+                     [&element, widget](const QModelIndex& zeile) {
+                         if (widget->selectionModel()->isSelected(zeile)) {  // the focus alone means no row
+                             element.auswaehlen(zeile.row());
+                         }
+                     });
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, widget, [&element, widget] {
         const QModelIndex zeile = widget->model()->index(element.markiert(), 0);
         if (zeile.isValid() && !widget->selectionModel()->hasSelection()) {  // a click beside the rows

@@ -45,9 +45,10 @@ public:
     QPushButton* farbknopf(farbfeld& element, const QString& name);
     /// The title of the window.
     void fenstertitel(rahmen& element);
-    QPushButton* knopf(befehl& element, const QString& name);
+    /// `rolle` is what the style sheet tells the look from.
+    QPushButton* knopf(befehl& element, const QString& name, const char* rolle = nullptr);
     /// The command that a window is there for.
-    QPushButton* hauptknopf(befehl& element, const QString& name);
+    QPushButton* hauptknopf(befehl& element, const QString& name) { return knopf(element, name, "haupt"); }
     QLineEdit* zeile(feld& element, const QString& name);
     QCheckBox* kasten(haken& element, const QString& name);
     QComboBox* auswahlfeld(auswahl& element, const QString& name);
@@ -62,8 +63,6 @@ public:
 
 private:
     class Bindung;
-
-    void knopf_verbinden(QPushButton* widget, befehl& element, const QString& name);
 
     Bildtakt& takt_;
     QString fenster_;

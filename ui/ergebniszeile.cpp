@@ -19,7 +19,7 @@ constexpr double schrift_zusatz = 15;
 constexpr double schrift_titel = 13;
 constexpr double schrift_liste = 16;
 
-constexpr int eingabe_breite_px = 66;
+constexpr int eingabe_breite_px = 80;
 constexpr int knopf_breite_px = 34;
 constexpr QSize bild_groesse{60, 60};
 
@@ -40,6 +40,7 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     bilder(ablage, binder, *aufbau);
     aufbau->addWidget(fahrerzelle(binder), 6);
     aufbau->addWidget(rundenzelle(binder), 4);
+    aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
     zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder));
@@ -115,14 +116,25 @@ QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     TextAnzeige* meter = binder.anzeige(logik_.ges_meter[i], nummeriert("ges_meter"), schrift_zusatz);
     meter->setAusrichtung(links_mitte);
     teile.zusatz->addWidget(meter, 1);
-    TextAnzeige* titel = binder.anzeige(logik_.meter_label[i], nummeriert("meter_label"), schrift_zusatz);
+    return teile.feld;
+}
+
+QWidget* Ergebniszeile::meterzelle(Binder& binder) {
+    const std::size_t i = index_;
+    auto* feld = new QWidget(this);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    TextAnzeige* titel = binder.anzeige(logik_.meter_label[i], nummeriert("meter_label"), schrift_titel);
+    titel->setFarbe(stil::schrift_leise);
     titel->setAusrichtung(links_mitte);
     QLineEdit* eingabe = binder.zeile(logik_.meter[i], nummeriert("meter"));
     eingabe->setFixedWidth(eingabe_breite_px);
-    teile.zusatz->addWidget(titel, 1);
-    teile.zusatz->addWidget(eingabe);
+    aufbau->addStretch();
+    aufbau->addWidget(titel);
+    aufbau->addWidget(eingabe);
+    aufbau->addStretch();
     tabziele_.push_back(eingabe);
-    return teile.feld;
+    return feld;
 }
 
 QWidget* Ergebniszeile::listenspalte(Binder& binder) {

@@ -42,6 +42,7 @@ private:
     TextAnzeige* zusatz(steuerelement& element, const QString& name, Binder& binder);
     QWidget* fahrerzelle(Binder& binder);
     QWidget* rundenzelle(Binder& binder);
+    QWidget* meterzelle(Binder& binder);
     QWidget* listenspalte(Binder& binder);
     void bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau);
     QString nummeriert(const QString& name) const { return name + "_" + QString::number(index_); }

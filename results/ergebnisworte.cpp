@@ -1,0 +1,16 @@
+#include "results/ergebnisworte.h"
+
+namespace tarvel {
+
+sprachliste& diagramm_worte::eintragen(sprachliste& texte) {
+    texte.text("Runde", achse_runde).text("Rundenzeit in Sekunden", achse_zeit).text("beste Runde", beste);
+    texte.text("Runde mit Pause", pause).text("länger, als das Diagramm reicht", lang);
+    return texte.text("keine Runde", ohne_runden).text("Es wurde keine Runde gezählt.", leer);
+}
+
+sprachliste& blatt_worte::eintragen(sprachliste& texte) {
+    texte.text("Platz", platz).text("Spur", spur).text("Fahrer", fahrer).text("Fahrzeug", fahrzeug);
+    return texte.text("Meter", meter).text("Abstand", abstand).text("km/h beste / Ø", tempo);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "core/sprache.h"
+
+namespace tarvel {
+
+/// Words of the lap-time chart.
+struct diagramm_worte {
+    std::string achse_runde;
+    std::string achse_zeit;  ///< with its unit
+    std::string beste;
+    std::string pause;  ///< a lap with a pause
+    std::string lang;   ///< a lap that is longer than the chart is high
+    std::string ohne_runden;
+    std::string leer;  ///< stands in place of the chart
+
+    sprachliste& eintragen(sprachliste& texte);
+};
+
+/// Words of the printed result that no control holds.
+struct blatt_worte {
+    std::string platz;
+    std::string spur;
+    std::string fahrer;
+    std::string fahrzeug;
+    std::string meter;
+    std::string abstand;
+    std::string tempo;  ///< of the best lap and on average
+
+    sprachliste& eintragen(sprachliste& texte);
+};
+
+}  // namespace tarvel

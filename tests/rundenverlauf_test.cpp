@@ -1,0 +1,78 @@
+#include "results/rundenverlauf.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace tarvel {
+namespace {
+
+spur_verlauf lauf(int spur, const std::vector<zeit_ms>& zeiten) {
+    spur_verlauf ergebnis{spur, "Fahrer", false, {}, 0};
+    for (const zeit_ms zeit : zeiten) {
+        ergebnis.runden.push_back({static_cast<int>(ergebnis.runden.size()) + 1, zeit, 0});
+    }
+    return ergebnis;
+}
+
+TEST(Rundenverlauf, LiestDieRundenDerGefahrenenSpuren) {
+    renn_zustand zustand;
+    renn_parameter param;
+    for (const int spur : {1, 2, 3, 4, 6}) {
+        zustand.spur[spur].runden = 3;
+        zustand.rundenzeiten.setzen(spur, 0, 900, 1000);  // only starts the count
+        zustand.rundenzeiten.setzen(spur, 1, 8000, 9000);
+        zustand.rundenzeiten.setzen(spur, 2, 7500, 47500, 31000);
+        zustand.rundenzeiten.setzen(spur, 3, 7500, 55000);
+        zustand.rundenzeiten.beste(spur, 7500);
+        param.spur_aktiv[spur] = spur != 6;  // left over from the race before
+    }
+    param.spur_aktiv[5] = true;
+    param.fahrer_name[1] = "Anna";
+    zustand.spur[2].disqualifiziert = true;
+    zustand.spur[3].runden = -1;
+    zustand.rundenzeiten.beste(4, 7000);  // that lap was taken off
+
+    const rundenverlauf verlauf = rundenverlauf_bilden(zustand, param);
+    ASSERT_EQ(verlauf.size(), 5U);
+    EXPECT_EQ(verlauf[0].fahrer, "Anna");
+    EXPECT_EQ(verlauf[0].runden, (std::vector<verlaufsrunde>{{1, 8000, 0}, {2, 7500, 31000}, {3, 7500, 0}}));
+    EXPECT_EQ(verlauf[0].beste, 2) << "who drives it first has it";
+    EXPECT_TRUE(verlauf[1].disqualifiziert);
+    EXPECT_TRUE(verlauf[1].runden.empty());
+    EXPECT_TRUE(verlauf[2].runden.empty());
+    EXPECT_EQ(verlauf[3].beste, 0);
+    EXPECT_EQ(verlauf[4].spur, 5);
+    EXPECT_EQ(letzte_runde(verlauf), 3);
+    EXPECT_EQ(letzte_runde({}), 0);
+}
+
+TEST(Rundenverlauf, EinAutoNebenDerBahnDruecktDieAnderenNichtFlach) {
+    const auto bis = [](const rundenverlauf& verlauf) { return uebliche_zeiten(verlauf).bis; };
+    EXPECT_EQ(bis({lauf(1, {8000, 8100, 8200, 62000, 8300}), lauf(2, {9000, 9100, 9000})}), 9100);
+    EXPECT_EQ(bis({lauf(1, {8000, 8100, 8050}), lauf(2, {25000, 26000, 24000, 27000})}), 27000) << "a slow driver";
+    EXPECT_EQ(bis({lauf(1, {8000, 8100, 12000, 15000, 8300, 8100})}), 15000) << "there is room for it";
+    EXPECT_EQ(bis({lauf(1, {8000}), lauf(2, {8100}), lauf(3, {62000})}), 8100) << "before any lane has a usual time";
+    EXPECT_EQ(bis({lauf(1, {62000})}), 62000);
+    EXPECT_EQ(bis({lauf(1, {})}), 0);
+    EXPECT_EQ(uebliche_zeiten({lauf(1, {8000, 8100, 7900}), lauf(2, {})}).von, 7900);
+}
+
+TEST(Rundenverlauf, AusgeduenntBleibtDerUmriss) {
+    std::vector<zeit_ms> zeiten(runden_max, 8000);
+    zeiten[4321] = 7000;
+    zeiten[4322] = 60000;
+    zeiten.back() = 9000;
+    const std::vector<verlaufsrunde> runden = ausgeduennt(lauf(1, zeiten).runden, 1000);
+    EXPECT_LE(runden.size(), 1000U);
+    EXPECT_GT(runden.size(), 400U);
+    EXPECT_TRUE(std::is_sorted(runden.begin(), runden.end(), [](auto a, auto b) { return a.runde < b.runde; }));
+    for (const verlaufsrunde& ecke : {verlaufsrunde{4322, 7000, 0}, {4323, 60000, 0}, {runden_max, 9000, 0}}) {
+        EXPECT_EQ(std::count(runden.begin(), runden.end(), ecke), 1) << ecke.runde;
+    }
+    EXPECT_EQ(ausgeduennt(lauf(1, {1, 2, 3}).runden, 3).size(), 3U);
+    EXPECT_TRUE(ausgeduennt({}, 0).empty());
+}
+
+}  // namespace
+}  // namespace tarvel

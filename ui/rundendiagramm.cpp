@@ -1,0 +1,42 @@
+#include "ui/rundendiagramm.h"
+
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+
+Rundendiagramm::Rundendiagramm(QWidget* eltern) : QChartView(eltern), bild_(new Rundenbild) {
+    setChart(bild_);
+    setRenderHint(QPainter::Antialiasing);
+    setFocusPolicy(Qt::NoFocus);  // there is nothing to operate
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundBrush(Qt::NoBrush);
+    viewport()->setAutoFillBackground(false);
+}
+
+void Rundendiagramm::setInhalt(rundenbild_inhalt inhalt) {
+    bild_->setInhalt(std::move(inhalt));
+    setAccessibleName(QString::fromStdString(bild_->inhalt().wort.achse_zeit));
+    setAccessibleDescription(bild_->beschreibung());
+}
+
+void Rundendiagramm::resizeEvent(QResizeEvent* ereignis) {
+    QChartView::resizeEvent(ereignis);
+    bild_->setGroesse(viewport()->size());
+}
+
+bool Rundendiagramm::viewportEvent(QEvent* ereignis) {
+    if (ereignis->type() != QEvent::ToolTip) {
+        return QChartView::viewportEvent(ereignis);
+    }
+    const auto* hilfe = static_cast<QHelpEvent*>(ereignis);
+    const QString text = bild_->runde_bei(bild_->mapFromScene(mapToScene(hilfe->pos())));
+    // a driver's name is text, whatever signs are in it
+    QToolTip::showText(hilfe->globalPos(), text.isEmpty() ? text : Qt::convertFromPlainText(text), this);
+    return true;
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,156 @@
+#include "ui/rundensymbole.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int ebene = 20;           // over lines and axes
+constexpr double kontrast_min = 2;  // against white
+
+/// Share of a colour's part in its brightness, which grows faster than its number.
+double anteil(double teil) {
+    return std::pow(teil, 2.2);
+}
+
+}  // namespace
+
+bool zu_hell(const QColor& farbe) {
+    const double helligkeit =
+        0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
+    return 1.05 / (helligkeit + 0.05) < kontrast_min;
+}
+
+QColor randfarbe(const QColor& farbe) {
+    return farbe.darker(220);
+}
+
+void symbol_zeichnen(QPainter& maler, symbolform was, const QPointF& mitte, double radius, const QColor& farbe) {
+    const QColor rand = zu_hell(farbe) ? randfarbe(farbe) : farbe;
+    const QPointF rechts(radius, 0);
+    const QPointF unten(0, radius);
+    maler.setPen(QPen(stil::schrift, radius / 5));
+    maler.setBrush(farbe);
+    switch (was) {
+        case symbolform::punkt:
+            maler.setPen(QPen(rand, radius / 3));
+            maler.drawEllipse(mitte, radius, radius);
+            break;
+        case symbolform::pause:
+            maler.setPen(QPen(rand, radius / 3));
+            maler.setBrush(stil::karte);
+            maler.drawPolygon(QPolygonF({mitte - unten, mitte + rechts, mitte + unten, mitte - rechts}));
+            break;
+        case symbolform::lang:
+            maler.drawPolygon(QPolygonF({mitte - unten, mitte + rechts + unten, mitte - rechts + unten}));
+            break;
+        case symbolform::beste:
+            maler.drawEllipse(mitte, radius, radius);
+            break;
+    }
+}
+
+Rundensymbole::Rundensymbole(QChart& bild) : QGraphicsItem(&bild), bild_(bild) {
+    setZValue(ebene);
+    setAcceptedMouseButtons(Qt::NoButton);
+}
+
+void Rundensymbole::setSymbole(std::vector<rundensymbol> symbole, QAbstractSeries* bezug) {
+    symbole_ = std::move(symbole);
+    bezug_ = bezug;
+    update();
+}
+
+void Rundensymbole::setHinweis(const QString& hinweis) {
+    hinweis_ = hinweis;
+    update();
+}
+
+void Rundensymbole::setSchrift(const QFont& schrift) {
+    schrift_ = schrift;
+    update();
+}
+
+QRectF Rundensymbole::boundingRect() const {
+    return bild_.rect();
+}
+
+QPointF Rundensymbole::stelle(const rundensymbol& symbol) const {
+    const QPointF ort = bild_.mapToPosition(symbol.wert, bezug_);
+    return symbol.was == symbolform::lang ? ort + QPointF(0, radius(symbol.was)) : ort;  // its tip touches the edge
+}
+
+double Rundensymbole::radius(symbolform was) const {
+    constexpr std::array<double, 4> je_schrift{0.16, 0.4, 0.55, 0.36};
+    return schrift_.pixelSize() * je_schrift.at(static_cast<std::size_t>(was));
+}
+
+void Rundensymbole::paint(QPainter* maler, const QStyleOptionGraphicsItem* /*option*/, QWidget* /*widget*/) {
+    maler->setRenderHint(QPainter::Antialiasing);
+    if (!hinweis_.isEmpty()) {
+        QFont gross = schrift_;
+        gross.setPixelSize(gross.pixelSize() * 3 / 2);
+        maler->setFont(gross);
+        maler->setPen(stil::schrift_leise);
+        maler->drawText(bild_.rect(), Qt::AlignCenter | Qt::TextWordWrap, hinweis_);
+    }
+    maler->setFont(schrift_);
+    std::vector<QRectF> belegt;
+    for (const rundensymbol& symbol : symbole_) {
+        symbol_zeichnen(*maler, symbol.was, stelle(symbol), radius(symbol.was), symbol.farbe);
+        if (symbol.was != symbolform::punkt) {
+            const QPointF ecke(radius(symbol.was), radius(symbol.was));
+            belegt.emplace_back(stelle(symbol) - ecke, stelle(symbol) + ecke);
+        }
+    }
+    for (auto symbol = symbole_.rbegin(); symbol != symbole_.rend(); ++symbol) {
+        if (!symbol->text.isEmpty()) {
+            text_setzen(*maler, *symbol, belegt);
+        }
+    }
+}
+
+void Rundensymbole::text_setzen(QPainter& maler, const rundensymbol& symbol, std::vector<QRectF>& belegt) const {
+    const QFontMetricsF mass(schrift_);
+    const QSizeF groesse(mass.horizontalAdvance(symbol.text) + mass.height() * 0.5, mass.height());
+    const QPointF mitte = stelle(symbol);
+    const double abstand = 1.6 * radius(symbol.was);
+    constexpr int ringe = 4;
+    for (int ring = 0; ring < ringe; ++ring) {
+        const double dx = abstand + groesse.width() / 2 + ring * groesse.width() / 2;
+        const double dy = abstand + groesse.height() / 2 + ring * groesse.height();
+        // a best lap has its room below the lines, a clipped one beside its arrow
+        const std::vector<QPointF> versatz =
+            symbol.was == symbolform::lang
+                ? std::vector<QPointF>{{dx, groesse.height() / 4}, {-dx, groesse.height() / 4}}
+                : std::vector<QPointF>{{0, dy}, {dx, dy / 2}, {-dx, dy / 2}, {dx, -dy / 2}, {-dx, -dy / 2}, {0, -dy}};
+        for (const QPointF& weg : versatz) {
+            QRectF feld({}, groesse);
+            feld.moveCenter(mitte + weg);
+            if (!bild_.plotArea().adjusted(-2, -2, 2, 2).contains(feld) ||
+                std::any_of(belegt.begin(), belegt.end(), [&](const QRectF& da) { return da.intersects(feld); })) {
+                continue;
+            }
+            maler.setPen(QPen(zu_hell(symbol.farbe) ? randfarbe(symbol.farbe) : symbol.farbe, 1.5));
+            if (ring > 0) {
+                maler.drawLine(mitte, feld.center());
+            }
+            maler.setBrush(QColor(255, 255, 255, 225));
+            maler.drawRoundedRect(feld, feld.height() / 4, feld.height() / 4);
+            maler.setPen(stil::schrift);
+            maler.drawText(feld, Qt::AlignCenter, symbol.text);
+            belegt.push_back(feld);
+            return;
+        }
+        if (symbol.was == symbolform::lang) {
+            return;  // its time is in the tip
+        }
+    }
+}
+
+}  // namespace tarvel::ui
