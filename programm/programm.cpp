@@ -31,11 +31,12 @@ programm::programm(const plattform::dienste& d)
       ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
-      form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
+      form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, bestzeiten, fenster, d.meldungen, d.bildschirm,
+             d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
-      rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
+      rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster, bestzeiten}),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       auswertung(rennen.umgebung, d.zeitgeber),
@@ -86,7 +87,6 @@ void programm::hauptfenster_verbinden() {
 }
 
 void programm::optionen_verbinden() {
-    datei.beste_zeiten_laden = [this] { form1.beste_zeiten_anzeigen(); };
     einstellungsfenster.einstellungen_speichern = [this] {
         einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
         return !datei.fehler_laden();
@@ -98,6 +98,10 @@ void programm::optionen_verbinden() {
         form1.modus_anzeigen();
         form1.tankoptionen_zeigen();
         rennen.sounds.bereitstellen();
+        if (einst.beste_datei != bestzeiten_datei_) {
+            bestzeiten_laden();
+        }
+        form1.beste_zeiten_anzeigen();
     };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
@@ -149,6 +153,7 @@ bool programm::starten() {
     fahrzeugliste_laden();
     fahrerliste_laden();
     form1.listen_zeigen();
+    datei.beste_zeiten_laden = [this] { bestzeiten_laden(); };  // not for the defaults before the settings are read
     start_datei_bestimmen();
     einstellungen_laden();
     return true;
@@ -216,6 +221,14 @@ bool programm::fahrerliste_speichern() {
         dienste.meldungen.zeigen(txt.meldung[3], txt.titel[1]);
     }
     return geschrieben;
+}
+
+void programm::bestzeiten_laden() {
+    bestzeiten_datei_ = einst.beste_datei;
+    if (!bestzeiten.laden(ablage, bestzeiten_datei_)) {
+        dienste.meldungen.zeigen(txt.meldung[20], txt.titel[1]);
+    }
+    form1.beste_zeiten_anzeigen();
 }
 
 std::string programm::einstellungsname(std::string_view pfad) const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/einstellungsdatei.h"
@@ -58,6 +59,7 @@ public:
     namensliste fahrzeugliste;
     std::string fahrer_datei = "fahrer.lst";  ///< below the folder of the lists
     std::string fahrzeug_datei = "fahrzeuge.kfz";
+    tarvel::bestzeiten bestzeiten;
 
     tarvel::form1 form1;
     einstellungsdatei datei;
@@ -100,6 +102,10 @@ private:
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
     void hardware_starten();
+    /// The best times of the settings in force; a missing file shows its message.
+    void bestzeiten_laden();
+
+    std::string bestzeiten_datei_;  ///< last one that was asked for
 
     int hw_4x4_modus_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
 

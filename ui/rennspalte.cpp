@@ -63,6 +63,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);
     titel(bahn.Label_brunde[spur], "Label_brunde");
     zeigen(bahn.brunde[spur], "brunde", schrift_zeit);
+    aufbau->addWidget(binder.anzeige(bahn.bestzeit_label[spur], "bestzeit_label_" + nummer, schrift_titel));
     liste_ = binder.listenfeld(bahn.t_liste.at(index), "t_liste_" + QString::number(index), Qt::AlignCenter);
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setFocusPolicy(Qt::NoFocus);
