@@ -40,16 +40,19 @@ programm::programm(const plattform::dienste& d)
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       auswertung(rennen.umgebung, d.zeitgeber),
+      beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
+      beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
           {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
     hauptfenster_verbinden();
     optionen_verbinden();
+    bestzeiten_verbinden();
     rennen.chaos.neustart_ampel = [this] {
         if (!fenster.ist_offen("k_ampel")) {
             fenster.zeigen("k_ampel");
@@ -125,6 +128,9 @@ void programm::fenster_anmelden() {
     fenster.anmelden("Form2", {[this] { startampel.laden(); }, [this] { startampel.entladen(); }});
     fenster.anmelden("k_ampel", {[this] { k_ampel.laden(); }, [this] { k_ampel.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
+    fenster.anmelden("beste_zeiten_fenster",
+                     {[this] { beste_zeiten_fenster.laden(); }, [this] { beste_zeiten_fenster.entladen(); }});
+    fenster.anmelden("beste_zeiten_verwaltung", {[this] { beste_zeiten_verwaltung.laden(); }, {}});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
@@ -173,6 +179,8 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(form1.sprache_m2());
     alle.push_back(rennen.ansicht.sprache_r());
     alle.push_back(auswertung.sprache_a());
+    alle.push_back(beste_zeiten_fenster.sprache_best());
+    alle.push_back(beste_zeiten_verwaltung.sprache_bt());
     alle.push_back(tastaturbelegung.sprache_e_tast());
     alle.push_back(speichernfenster.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
@@ -221,14 +229,6 @@ bool programm::fahrerliste_speichern() {
         dienste.meldungen.zeigen(txt.meldung[3], txt.titel[1]);
     }
     return geschrieben;
-}
-
-void programm::bestzeiten_laden() {
-    bestzeiten_datei_ = einst.beste_datei;
-    if (!bestzeiten.laden(ablage, bestzeiten_datei_)) {
-        dienste.meldungen.zeigen(txt.meldung[20], txt.titel[1]);
-    }
-    form1.beste_zeiten_anzeigen();
 }
 
 std::string programm::einstellungsname(std::string_view pfad) const {
@@ -354,9 +354,20 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 12> reihenfolge{
-        "auswertung",       "bahn1", "einstellungen",    "fahrerspeichernfenster", "Form2",      "Form3", "k_ampel",
-        "speichernfenster", "Form1", "Tastaturbelegung", "fahrerbild_laden",       "Update_form"};
+    constexpr std::array<std::string_view, 14> reihenfolge{"auswertung",
+                                                           "bahn1",
+                                                           "einstellungen",
+                                                           "fahrerspeichernfenster",
+                                                           "Form2",
+                                                           "Form3",
+                                                           "k_ampel",
+                                                           "speichernfenster",
+                                                           "Form1",
+                                                           "beste_zeiten_fenster",
+                                                           "Tastaturbelegung",
+                                                           "fahrerbild_laden",
+                                                           "Update_form",
+                                                           "beste_zeiten_verwaltung"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

@@ -18,12 +18,14 @@
 #include "hardware/ereignisse.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
+#include "optionen/beste_zeiten_verwaltung.h"
 #include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
+#include "results/beste_zeiten_fenster.h"
 #include "start/k_ampel.h"
 #include "start/startampel.h"
 
@@ -71,10 +73,12 @@ public:
     tarvel::startampel startampel;
     tarvel::k_ampel k_ampel;
     tarvel::auswertung auswertung;
+    tarvel::beste_zeiten_fenster beste_zeiten_fenster;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;
     tarvel::speichernfenster fahrerspeichernfenster;
     tarvel::bildwahl fahrerbild_laden;
+    tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
     tarvel::einstellungsfenster einstellungsfenster;
 
 private:
@@ -101,6 +105,7 @@ private:
     void laden_oeffnen();
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
+    void bestzeiten_verbinden();
     void hardware_starten();
     /// The best times of the settings in force; a missing file shows its message.
     void bestzeiten_laden();
