@@ -346,6 +346,9 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
             widget->setCurrentIndex(zeile);
             widget->scrollTo(zeile);
             widget->viewport()->update();
+        } else if (!zeile.isValid() && widget->selectionModel()->hasSelection()) {
+            widget->selectionModel()->clear();  // the row current as well, so that it can be selected again
+            widget->viewport()->update();
         }
     });
     return widget;

@@ -12,9 +12,11 @@ Oberflaeche::Oberflaeche(programm& p)
       form2(p.startampel, p.einst, p.ablage, takt, &bahn1),
       k_ampel(p.k_ampel, p.rennen.befehle, p.einst, p.ablage, takt, &bahn1),
       auswertung(p.auswertung, takt, &bahn1),
+      bestzeiten(p.beste_zeiten_fenster, takt, &auswertung),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
+      bestzeitverwaltung(p.beste_zeiten_verwaltung, takt, &einstellungen),
       bildwahl(p.fahrerbild_laden, takt, &einstellungen),
       fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &einstellungen),
       p_(p) {
@@ -25,6 +27,8 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("Form2", &form2);
     fenster.aufnehmen("k_ampel", &k_ampel);
     fenster.aufnehmen("auswertung", &auswertung);
+    fenster.aufnehmen("beste_zeiten_fenster", &bestzeiten);
+    fenster.aufnehmen("beste_zeiten_verwaltung", &bestzeitverwaltung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
     fenster.aufnehmen("einstellungen", &einstellungen);
@@ -39,6 +43,8 @@ Oberflaeche::Oberflaeche(programm& p)
             p.startampel.fenster_schliessen();
         }
     };
+    bestzeiten.escape_schliesst();
+    bestzeitverwaltung.escape_schliesst();
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
     einstellungen.escape_schliesst();
@@ -58,6 +64,8 @@ Oberflaeche::Oberflaeche(programm& p)
     };
     k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
+    bestzeiten.bei_schliessen = [&p] { p.beste_zeiten_fenster.schliessen(); };
+    bestzeitverwaltung.bei_schliessen = [&p] { p.beste_zeiten_verwaltung.schliessen(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
     einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };
