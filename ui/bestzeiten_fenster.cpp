@@ -51,7 +51,8 @@ QHBoxLayout* spalten(QWidget* traeger, const std::vector<QWidget*>& zellen) {
         if (breiten.at(i) > 0) {
             zellen[i]->setFixedWidth(breiten.at(i));
         }
-        aufbau->addWidget(zellen[i], breiten.at(i) > 0 ? 0 : 1);
+        const bool kasten = i == 0;  // its text would begin at the upper edge
+        aufbau->addWidget(zellen[i], breiten.at(i) > 0 ? 0 : 1, kasten ? Qt::AlignVCenter : Qt::Alignment());
     }
     return aufbau;
 }

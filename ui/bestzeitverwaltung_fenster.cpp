@@ -14,6 +14,7 @@ namespace {
 constexpr int spalten_anzahl = 3;
 constexpr int schrift_liste_px = 13;
 constexpr int knopfhoehe = 36;
+constexpr QSize fleck_groesse(30, 14);
 
 }  // namespace
 
@@ -24,6 +25,7 @@ BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& lo
     aufbau->setContentsMargins(16, 12, 16, 12);
     aufbau->setSpacing(8);
     aufbau->addWidget(dateizeile());
+    aufbau->addWidget(moduszeile());
     auto* listen = new QGridLayout;
     listen->setHorizontalSpacing(12);
     for (const int spur : alle_spuren) {
@@ -33,11 +35,7 @@ BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& lo
     aufbau->addLayout(listen, 1);
     aufbau->addWidget(korrektur());
     auto* unten = new QHBoxLayout;
-    unten->addWidget(binder().label(logik.bestlabel1, "bestlabel1"));
-    QLabel* rekord = binder().label(logik.bestlabel2, "bestlabel2");
-    rekord->setStyleSheet("font-weight: bold;");
-    rekord->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
-    unten->addWidget(rekord, 1);
+    unten->addStretch();
     QPushButton* schliessen = binder().hauptknopf(logik.Command1, "Command1");
     schliessen->setMinimumSize(140, 42);
     unten->addWidget(schliessen);
@@ -62,11 +60,24 @@ QWidget* BestzeitverwaltungFenster::dateizeile() {
     aufbau->addWidget(binder().label(logik_.Label_neu, "Label_neu"));
     aufbau->addWidget(name, 1);
     aufbau->addWidget(anlegen);
-    aufbau->addSpacing(14);
+    return zeile;
+}
+
+QWidget* BestzeitverwaltungFenster::moduszeile() {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(8);
     QComboBox* modus = binder().auswahlfeld(logik_.Combo1, "Combo1");
     modus->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     aufbau->addWidget(binder().label(logik_.Label_modus, "Label_modus"));
     aufbau->addWidget(modus);
+    aufbau->addSpacing(20);
+    aufbau->addWidget(binder().label(logik_.bestlabel1, "bestlabel1"));
+    QLabel* rekord = binder().label(logik_.bestlabel2, "bestlabel2");
+    rekord->setStyleSheet("font-weight: bold;");
+    rekord->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
+    aufbau->addWidget(rekord, 1);
     return zeile;
 }
 
@@ -76,19 +87,25 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(2);
+    auto* kopf = new QHBoxLayout;
+    auto* fleck = new QLabel(this);
+    fleck->setFixedSize(fleck_groesse);
     auto* titel = new QLabel(this);
     bezeichnung& name = logik_.Label_spur.at(i);
-    binder().verbinden(name, titel, "Label_spur_" + QString::number(i), [titel, &name] {
+    binder().verbinden(name, titel, "Label_spur_" + QString::number(i), [titel, fleck, &name] {
         titel->setText(QString::fromStdString(name.text()));
-        titel->setStyleSheet(QString("border-left: 12px solid %1; padding-left: 6px; font-weight: bold;")
+        fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;")
                                  .arg(stil::farbe_von(name.hintergrund().value_or(0)).name()));
     });
-    aufbau->addWidget(titel);
+    kopf->addWidget(fleck);
+    kopf->addWidget(titel, 1);
+    aufbau->addLayout(kopf);
     QListView* zeilen = binder().listenfeld(logik_.bestefile_list.at(i), "bestefile_list_" + QString::number(i));
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);  // the columns stand below each other
-    schrift.setPixelSize(schrift_liste_px);
-    zeilen->setFont(schrift);
-    zeilen->setStyleSheet("QListView::item { padding: 1px 3px; }");
+    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    zeilen->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
+                                  "QListView::item { padding: 0px 3px; }")                        // each other
+                              .arg(schrift)
+                              .arg(schrift_liste_px));
     aufbau->addWidget(zeilen, 1);
     return feld;
 }
@@ -115,6 +132,7 @@ QWidget* BestzeitverwaltungFenster::korrektur() {
         raster->addWidget(eingabe, 1, spalte);
     }
     auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(8);
     for (QPushButton* knopf :
          {binder().knopf(logik_.Command34, "Command34"), binder().knopf(logik_.Command29, "Command29"),
           binder().knopf(logik_.Command35, "Command35")}) {

@@ -12,6 +12,7 @@ public:
 
 private:
     QWidget* dateizeile();
+    QWidget* moduszeile();
     QWidget* spurliste(int spur);
     QWidget* korrektur();
 
