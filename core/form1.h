@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "core/bestzeiten.h"
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
 #include "core/namensliste.h"
@@ -27,6 +28,7 @@ public:
         const dateien& ablage;
         const namensliste& fahrerliste;
         const namensliste& fahrzeugliste;
+        const tarvel::bestzeiten& bestzeiten;
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         const plattform::bildschirm& bildschirm;
@@ -117,7 +119,7 @@ public:
     /// Picture of the vehicle on a lane, if vehicle pictures are wanted.
     void autobild_anzeigen(int nummer);
     void bilder_anzeigen();
-    /// Best time of each lane; none is kept yet.
+    /// Best time of each lane, with its holder as tip.
     void beste_zeiten_anzeigen();
     /// The tank options beside the tick box that switches fuel on.
     void tankoptionen_zeigen();

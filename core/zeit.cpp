@@ -20,9 +20,13 @@ std::string zeit_formatieren(zeit_ms zeit, bool lang, const trennzeichen_tabelle
     return text;
 }
 
+std::string datum_text(const plattform::datum_uhrzeit& moment) {
+    return ziffern(moment.tag, 2) + "." + ziffern(moment.monat, 2) + "." + ziffern(moment.jahr, 4);
+}
+
 std::string uhrzeit_text(const plattform::datum_uhrzeit& moment) {
-    return ziffern(moment.tag, 2) + "." + ziffern(moment.monat, 2) + "." + ziffern(moment.jahr, 4) + "-" +
-           ziffern(moment.stunde, 2) + ":" + ziffern(moment.minute, 2) + ":" + ziffern(moment.sekunde, 2);
+    return datum_text(moment) + "-" + ziffern(moment.stunde, 2) + ":" + ziffern(moment.minute, 2) + ":" +
+           ziffern(moment.sekunde, 2);
 }
 
 }  // namespace tarvel

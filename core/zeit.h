@@ -26,6 +26,9 @@ inline const trennzeichen_tabelle trennzeichen_standard{":", ",", ";"};
 /// a lap of 65 s shows as "05,000". Negative durations count as 0.
 std::string zeit_formatieren(zeit_ms zeit, bool lang, const trennzeichen_tabelle& trennzeichen);
 
+/// "21.11.2026".
+std::string datum_text(const plattform::datum_uhrzeit& moment);
+
 /// Date + "-" + time, as the result files hold it: "21.11.2026-14:03:22".
 std::string uhrzeit_text(const plattform::datum_uhrzeit& moment);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "core/bestzeiten.h"
 #include "core/nebendateien.h"
 #include "core/text.h"
 
@@ -38,6 +39,11 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     Command1.bei_klick = [this] { Command1_Click(); };
     Command2.bei_klick = [this] { um_.fenster.entladen("einstellungen"); };
     sounds_verbinden();
+    std::get<befehl>(zeile("bestzeiten_verwalten").element).bei_klick = [this] {
+        if (bestzeiten_verwalten) {
+            bestzeiten_verwalten();
+        }
+    };
 }
 
 sprachliste einstellungsfenster::sprache_e() {
@@ -93,8 +99,8 @@ void einstellungsfenster::laden() {
         std::visit(
             [&z](auto& element) {
                 using art = std::decay_t<decltype(element)>;
-                if constexpr (std::is_same_v<art, haken>) {
-                    element.text(z.beschriftung.text());  // a tick box carries its caption itself
+                if constexpr (std::is_same_v<art, haken> || std::is_same_v<art, befehl>) {
+                    element.text(z.beschriftung.text());  // carries its caption itself
                 } else if constexpr (std::is_base_of_v<steuerelement, art>) {
                     element.ansage(z.beschriftung.text() + " " + z.einheit.text());
                 } else if constexpr (std::is_same_v<art, soundfeld>) {
@@ -193,6 +199,7 @@ void einstellungsfenster::werte_zeigen() {
             eine.zeigen(um_.ziel);
         }
     });
+    bestzeiten_zeigen();
     const auto in_kraft = static_cast<std::size_t>(um_.ziel.einst.hardware.modus());
     for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
         hardware.at(nummer).gesetzt(nummer == in_kraft);
@@ -200,6 +207,13 @@ void einstellungsfenster::werte_zeigen() {
     hardware_gruppen_zeigen();
     fahrerseite.zeigen();
     fahrzeugseite.zeigen();
+}
+
+void einstellungsfenster::bestzeiten_zeigen() {
+    std::get<auswahl>(zeile("beste_datei").element).eintraege(bestzeit_auswahl(um_.ablage, um_.ziel.einst.beste_datei));
+    for (const char* name : {"beste_datei", "Combo1"}) {
+        zeile(name).zeigen(um_.ziel);
+    }
 }
 
 void einstellungsfenster::werte_uebernehmen() {

@@ -75,10 +75,15 @@ public:
     /// Another timing hardware is in force.
     std::function<void()> hardware_starten;
 
+    /// Opens the window of the best times.
+    std::function<void()> bestzeiten_verwalten;
+
     /// Load handler: all texts and all values.
     void laden();
     /// Opens the window on a page.
     void oeffnen(seitennummer erste);
+    /// Shows what the settings say of the best times now, and the files that are there.
+    void bestzeiten_zeigen();
     /// The language files of the window.
     std::vector<sprachliste> sprachdateien();
 

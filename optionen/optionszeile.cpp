@@ -62,6 +62,10 @@ optionszeile_zeiger leerer_kasten(const beschriftet& b) {
     return neue_zeile<haken>(b).first;
 }
 
+optionszeile_zeiger aktion(const beschriftet& b) {
+    return neue_zeile<befehl>(b).first;
+}
+
 optionszeile_zeiger kasten(const beschriftet& b, const zugriff<bool>& ziel) {
     auto [zeile, element] = neue_zeile<haken>(b);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->gesetzt(ziel(z)); };

@@ -19,14 +19,15 @@ struct soundfeld {
     befehl abspielen;
 };
 
-/// One value in the options window: caption, control, unit, and the ways between the control and the settings.
+/// One value or command in the options window: caption, control, unit, and the ways between the control and the
+/// settings.
 struct optionszeile {
     /// Shows a message of a value that was not taken.
     using melder = std::function<void(const std::string&)>;
 
     std::string name;  ///< of the control
     bezeichnung beschriftung;
-    std::variant<std::monostate, haken, feld, auswahl, farbfeld, soundfeld> element;
+    std::variant<std::monostate, haken, feld, auswahl, farbfeld, soundfeld, befehl> element;
     bezeichnung einheit;
     std::vector<std::string> eintraege;  ///< of a choice, in the window's language
     std::string grenzen_meldung;
@@ -78,7 +79,7 @@ optionszeile_zeiger wahl(const beschriftet& b, const zugriff<int>& ziel, int ers
 /// The first entry stands for true.
 optionszeile_zeiger entweder(const beschriftet& b, const zugriff<bool>& ziel, std::string_view wahr,
                              std::string_view falsch);
-/// Words that no language changes.
+/// Words that no language changes; the caller may fill in more of them.
 optionszeile_zeiger wortliste(const beschriftet& b, const zugriff<std::string>& ziel,
                               const std::vector<std::string>& worte);
 /// A choice among the events.
@@ -89,6 +90,8 @@ optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel
 /// A row whose ways the caller fills.
 optionszeile_zeiger leeres_feld(const beschriftet& b, int laenge_max);
 optionszeile_zeiger leerer_kasten(const beschriftet& b);
+/// A command among the values. What it does the caller fills.
+optionszeile_zeiger aktion(const beschriftet& b);
 
 /// The number in the field, with comma or point; 0 for none.
 double zahl_im_feld(const steuerelement& element);

@@ -83,10 +83,11 @@ optionsseite_zeiger wettkampf_training() {
 
 optionsseite_zeiger bestzeiten() {
     auto seite = std::make_unique<optionsseite>("Bestzeitverwaltung");
-    seite->gruppe("Bestzeiten", 0) << text({"beste_datei", "Bestzeitdatei"}, wert(&e::beste_datei), 60, 1)
+    seite->gruppe("Bestzeiten", 0) << wortliste({"beste_datei", "Bestzeitdatei"}, wert(&e::beste_datei), {})
                                    << wahl({"Combo1", "Speicherung"}, wert(&e::beste_modus), 0,
                                            {"Bestzeiten deaktiviert", "automatische Speicherung",
-                                            "manuelle Speicherung!"});
+                                            "manuelle Speicherung!"})
+                                   << aktion({"bestzeiten_verwalten", "Bestzeiten verwalten"});
     return seite;
 }
 

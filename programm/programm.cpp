@@ -31,26 +31,31 @@ programm::programm(const plattform::dienste& d)
       ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
-      form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, fenster, d.meldungen, d.bildschirm, d.zeitgeber}),
+      form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, bestzeiten, fenster, d.meldungen, d.bildschirm,
+             d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
-      rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster}),
+      rennen(d, {param, einst, txt, ablage, form1, ereignisse, belegung, ausgaben, fenster, bestzeiten}),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
       rundenspeichern(rennen, wertung, {ablage, txt, fenster, d.meldungen}),
-      auswertung({rennen, einst, d.zeitgeber, fahrerliste, fahrzeugliste, wertung, rundenspeichern}),
+      beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
+      auswertung(
+          {rennen, einst, d.zeitgeber, fahrerliste, fahrzeugliste, wertung, rundenspeichern, beste_zeiten_fenster}),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
+      beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
           {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
     hauptfenster_verbinden();
     optionen_verbinden();
+    bestzeiten_verbinden();
     rennen.chaos.neustart_ampel = [this] {
         if (!fenster.ist_offen("k_ampel")) {
             fenster.zeigen("k_ampel");
@@ -88,7 +93,6 @@ void programm::hauptfenster_verbinden() {
 }
 
 void programm::optionen_verbinden() {
-    datei.beste_zeiten_laden = [this] { form1.beste_zeiten_anzeigen(); };
     einstellungsfenster.einstellungen_speichern = [this] {
         einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
         return !datei.fehler_laden();
@@ -100,6 +104,10 @@ void programm::optionen_verbinden() {
         form1.modus_anzeigen();
         form1.tankoptionen_zeigen();
         rennen.sounds.bereitstellen();
+        if (einst.beste_datei != bestzeiten_datei_) {
+            bestzeiten_laden();
+        }
+        form1.beste_zeiten_anzeigen();
     };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
@@ -124,6 +132,9 @@ void programm::fenster_anmelden() {
     fenster.anmelden("k_ampel", {[this] { k_ampel.laden(); }, [this] { k_ampel.entladen(); }});
     fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
     fenster.anmelden("rundenspeichern", {[this] { rundenspeichern.laden(); }, {}});
+    fenster.anmelden("beste_zeiten_fenster",
+                     {[this] { beste_zeiten_fenster.laden(); }, [this] { beste_zeiten_fenster.entladen(); }});
+    fenster.anmelden("beste_zeiten_verwaltung", {[this] { beste_zeiten_verwaltung.laden(); }, {}});
     fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
     fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
@@ -152,6 +163,7 @@ bool programm::starten() {
     fahrzeugliste_laden();
     fahrerliste_laden();
     form1.listen_zeigen();
+    datei.beste_zeiten_laden = [this] { bestzeiten_laden(); };  // not for the defaults before the settings are read
     start_datei_bestimmen();
     einstellungen_laden();
     return true;
@@ -171,6 +183,8 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(form1.sprache_m2());
     alle.push_back(rennen.ansicht.sprache_r());
     alle.push_back(auswertung.sprache_a());
+    alle.push_back(beste_zeiten_fenster.sprache_best());
+    alle.push_back(beste_zeiten_verwaltung.sprache_bt());
     alle.push_back(tastaturbelegung.sprache_e_tast());
     alle.push_back(rundenspeichern.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
@@ -344,7 +358,7 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    constexpr std::array<std::string_view, 13> reihenfolge{"auswertung",
+    constexpr std::array<std::string_view, 15> reihenfolge{"auswertung",
                                                            "bahn1",
                                                            "einstellungen",
                                                            "fahrerspeichernfenster",
@@ -354,9 +368,11 @@ void programm::programm_beenden() {
                                                            "rundenspeichern",
                                                            "speichernfenster",
                                                            "Form1",
+                                                           "beste_zeiten_fenster",
                                                            "Tastaturbelegung",
                                                            "fahrerbild_laden",
-                                                           "Update_form"};
+                                                           "Update_form",
+                                                           "beste_zeiten_verwaltung"};
     for (const std::string_view name : reihenfolge) {
         fenster.entladen(name);
     }

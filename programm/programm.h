@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/einstellungsdatei.h"
@@ -17,12 +18,14 @@
 #include "hardware/ereignisse.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
+#include "optionen/beste_zeiten_verwaltung.h"
 #include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
+#include "results/beste_zeiten_fenster.h"
 #include "start/k_ampel.h"
 #include "start/startampel.h"
 
@@ -58,6 +61,7 @@ public:
     namensliste fahrzeugliste;
     std::string fahrer_datei = "fahrer.lst";  ///< below the folder of the lists
     std::string fahrzeug_datei = "fahrzeuge.kfz";
+    tarvel::bestzeiten bestzeiten;
 
     tarvel::form1 form1;
     einstellungsdatei datei;
@@ -70,11 +74,13 @@ public:
     tarvel::k_ampel k_ampel;
     tarvel::wertung wertung;
     tarvel::rundenspeichern rundenspeichern;
+    tarvel::beste_zeiten_fenster beste_zeiten_fenster;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;
     tarvel::speichernfenster fahrerspeichernfenster;
     tarvel::bildwahl fahrerbild_laden;
+    tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
     tarvel::einstellungsfenster einstellungsfenster;
 
 private:
@@ -101,7 +107,12 @@ private:
     void laden_oeffnen();
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
+    void bestzeiten_verbinden();
     void hardware_starten();
+    /// The best times of the settings in force; a missing file shows its message.
+    void bestzeiten_laden();
+
+    std::string bestzeiten_datei_;  ///< last one that was asked for
 
     int hw_4x4_modus_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
 

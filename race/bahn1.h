@@ -42,6 +42,8 @@ struct bahn1 {
     spuren<bezeichnung> Label_platz;  ///< captions of the displays
     spuren<bezeichnung> Label_lrunde;
     spuren<bezeichnung> Label_brunde;
+    spuren<bezeichnung> bestzeit_label;  ///< best time of the lane before the race; hidden if there is none
+    bezeichnung bestzeit_gesamt;         ///< the record of the track, with its holder
 
     form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
@@ -79,6 +81,7 @@ struct bahn1 {
         std::string fortsetzen;
         std::string startampel;
         std::string fruehstart;
+        std::string bestzeit;  ///< in front of the time
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

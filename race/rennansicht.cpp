@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/text.h"
+#include "core/zeit.h"
 
 namespace tarvel {
 namespace {
@@ -85,7 +86,7 @@ sprachliste rennansicht::sprache_r() {
         }
     });
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
-    return texte;
+    return texte.text("Best: ", bahn.wort.bestzeit);
 }
 
 void rennansicht::spaltenansicht_oeffnen() {
@@ -108,7 +109,22 @@ void rennansicht::spaltenansicht_oeffnen() {
         bahn.t_bahn[spur].sichtbar(!um_.einst.tankanzeige_grafisch);
         bahn.tankbalken[index].sichtbar(um_.einst.tankanzeige_grafisch);
     }
+    bestzeit_anzeige();
     bahn.Nachtabschaltung.sichtbar(false);
+}
+
+void rennansicht::bestzeit_anzeige() {
+    bahn1& bahn = um_.bahn;
+    const auto zeit = [this](const bestzeit& b) { return zeit_formatieren(b.ms, true, um_.einst.trennzeichen); };
+    for (const int spur : alle_spuren) {
+        const bestzeit& beste = um_.bestzeiten.eintrag(1, spur);
+        const bool zeigen = um_.param.spur_aktiv[spur] && um_.einst.beste_modus > 0 && !beste.leer();
+        bahn.bestzeit_label[spur].text(zeigen ? bahn.wort.bestzeit + zeit(beste) : std::string());
+        bahn.bestzeit_label[spur].sichtbar(zeigen);
+    }
+    const bestzeit& rekord = um_.bestzeiten.gesamt();
+    bahn.bestzeit_gesamt.text(rekord.leer() ? "" : zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
+    bahn.bestzeit_gesamt.sichtbar(!rekord.leer());
 }
 
 void rennansicht::farben_setzen() {
@@ -123,6 +139,7 @@ void rennansicht::farben_setzen() {
         bahn.l_PosAnz.at(feld_index(spur)).schriftfarbe(spurfarbe);
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
+        bahn.bestzeit_label[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.bahnshape[spur].hintergrund(um_.einst.farben_ampel[1]);
         bahn.bahnshape[spur].schriftfarbe(spurfarbe);
@@ -134,6 +151,7 @@ void rennansicht::farben_setzen() {
             teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
+    bahn.bestzeit_gesamt.schriftfarbe(um_.einst.farben_schrift[2]);
     bahn.nachlauflabel.schriftfarbe(um_.einst.farben_schrift[2]);
     bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
 }

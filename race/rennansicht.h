@@ -41,6 +41,8 @@ public:
 private:
     void texte_setzen();
     void ansagen_setzen();
+    /// The best times as they are before the race; they stay during it.
+    void bestzeit_anzeige();
 
     renn_umgebung um_;
 };

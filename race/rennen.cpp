@@ -6,9 +6,10 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
     : zeit(dienste.uhr),
       zeitgeber(dienste.zeitgeber),
       sounds(um.einst, dienste.klang),
-      umgebung{zustand,    um.param,         um.einst,       um.txt,           um.ablage, um.haupt,
-               bahn1,      um.ereignisse,    zeit,           um.ausgaben,      zeitgeber, sounds,
-               um.fenster, dienste.kalender, dienste.zufall, dienste.meldungen},
+      umgebung{
+          zustand,      um.param,    um.einst,  um.txt, um.ablage,  um.haupt,         bahn1,          um.ereignisse,
+          zeit,         um.ausgaben, zeitgeber, sounds, um.fenster, dienste.kalender, dienste.zufall, dienste.meldungen,
+          um.bestzeiten},
       plaetze(umgebung),
       uhr(umgebung),
       ende(umgebung, uhr),

@@ -20,6 +20,7 @@ struct rennen {
         const tastenbelegung& belegung;
         tarvel::ausgaben& ausgaben;
         fensterregister& fenster;
+        const tarvel::bestzeiten& bestzeiten;
     };
 
     rennen(const plattform::dienste& dienste, const umfeld& um);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
@@ -37,6 +38,7 @@ struct renn_umgebung {
     const plattform::kalender& kalender;
     plattform::zufall& zufall;
     plattform::meldungen& meldungen;
+    const tarvel::bestzeiten& bestzeiten;
 
     bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
     bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }

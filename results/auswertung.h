@@ -8,6 +8,7 @@
 #include "core/namensliste.h"
 #include "core/steuerelemente.h"
 #include "race/rennen.h"
+#include "results/beste_zeiten_fenster.h"
 #include "results/ergebnisworte.h"
 #include "results/rundenspeichern.h"
 #include "results/rundenverlauf.h"
@@ -27,6 +28,7 @@ public:
         const namensliste& fahrzeugliste;
         wertung& stand;
         rundenspeichern& speichern;
+        beste_zeiten_fenster& bestzeiten;
     };
 
     explicit auswertung(const umfeld& um);
@@ -167,6 +169,7 @@ private:
     void bestzeiten_vor(aktion danach);
     void bestzeiten_oeffnen(aktion danach);
     void bestzeiten_pruefen();
+    zeit_ms beste_auf_der_spur(int spur) const;
     void ausfuehren(aktion was);
     /// False if the result could not be saved and the operator does not want to lose it.
     bool automatisch_speichern();

@@ -84,10 +84,11 @@ void auswertung::Command6_klick() {
 void auswertung::meter_eingabe(bool an) {
     meter_eingabe_an_ = an;
     Command6.text(an ? wort_.fertig : wort_.meter_eingeben);
-    for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command9,
-                          &Command10, &Command_verlauf, &Command_drucken, &Command_pdf}) {
+    for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command10,
+                          &Command_verlauf, &Command_drucken, &Command_pdf}) {
         knopf->aktiviert(!an);
     }
+    Command9.aktiviert(!an && um_.einst.beste_modus > 0);
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         cmd_rd_inc[i].aktiviert(!an);

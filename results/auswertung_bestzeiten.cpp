@@ -1,9 +1,39 @@
+#include <algorithm>
+
 #include "results/auswertung.h"
 
 namespace tarvel {
 
+zeit_ms auswertung::beste_auf_der_spur(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const rundenspeicher& speicher = um_.zustand.rundenzeiten;
+    if (zustand.runden_vorher == 0) {
+        return speicher.beste(spur);
+    }
+    zeit_ms beste = 0;  // of a continued race only the laps that the driver has driven on this lane
+    for (int runde = zustand.runden_vorher + 1; runde <= zustand.runden; ++runde) {
+        const zeit_ms zeit = speicher.rundenzeit(spur, runde);
+        if (zeit > 0 && (beste == 0 || zeit < beste)) {
+            beste = zeit;
+        }
+    }
+    return beste;
+}
+
 void auswertung::bestzeiten_pruefen() {
     neue_bestzeit_ = false;
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        const zeit_ms beste = beste_auf_der_spur(spur);
+        const bool neu =
+            um_.einst.beste_modus > 0 && um_.param.spur_aktiv[spur] && beste > 0 && beste < um_.bestzeiten.beste(spur);
+        neue_bestzeit_ = neue_bestzeit_ || neu;
+        beste_blink_timer_[i]->aus();
+        beste_aus[i].schriftfarbe(std::nullopt);
+        if (neu) {
+            beste_blink_timer_[i]->an();
+        }
+    }
 }
 
 void auswertung::bestzeiten_vor(aktion danach) {
@@ -15,8 +45,23 @@ void auswertung::bestzeiten_vor(aktion danach) {
 }
 
 void auswertung::bestzeiten_oeffnen(aktion danach) {
+    spuren<spur_angebot> angebote;
+    for (const int spur : alle_spuren) {
+        const spur_zustand& zustand = um_.zustand.spur[spur];
+        spur_angebot& angebot = angebote[spur];
+        angebot.aktiv = um_.param.spur_aktiv[spur];
+        angebot.fahrer = um_.param.fahrer_name[spur];
+        angebot.fahrzeug = um_.param.fahrzeug_name[spur];
+        angebot.beste = angebot.aktiv ? beste_auf_der_spur(spur) : 0;
+        for (int runde = zustand.runden_vorher + 1; runde <= zustand.runden; ++runde) {
+            angebot.runden.push_back(um_.zustand.rundenzeiten.rundenzeit(spur, runde));
+        }
+    }
     aktion_nach_bestzeiten_ = danach;
-    ausfuehren(danach);
+    u_.bestzeiten.oeffnen(angebote, [this, danach] {
+        bestzeiten_pruefen();
+        ausfuehren(danach);
+    });
 }
 
 }  // namespace tarvel

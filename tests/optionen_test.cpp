@@ -45,7 +45,7 @@ TEST_F(Optionen, ReglerbefehleDerControlUnit) {
 }
 
 TEST_F(Optionen, WasDieDateiNichtAnnimmtNimmtAuchDasFensterNicht) {
-    for (const char* name : {"uart_datei", "beste_datei", "Wechselschemaauswahl"}) {
+    for (const char* name : {"uart_datei", "Wechselschemaauswahl"}) {
         const std::string vorher = element<feld>(name).text();
         EXPECT_TRUE(nach_eingabe(name, "").empty());
         EXPECT_EQ(element<feld>(name).text(), vorher) << name;
@@ -118,6 +118,8 @@ void aendern(optionszeile& zeile) {
 }
 
 TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
+    ASSERT_TRUE(t.p.bestzeiten.speichern(t.p.ablage, "klub"));
+    fenster.bestzeiten_zeigen();
     const std::vector<std::string> vorher = t.p.datei.schreiben();
     for (int nummer = 0; nummer < f::seiten_anzahl; ++nummer) {
         if (optionsseite* seite = fenster.zeilenseite(nummer)) {

@@ -17,7 +17,8 @@ int main(int argc, char** argv) {
     const tarvel::dateien ziel{std::filesystem::path(argv[1])};
     bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
                        t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
-                       t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz");
+                       t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz") &&
+                       tarvel::bestzeiten{}.speichern(ziel, t.p.einst.beste_datei);
     geschrieben = tarvel::trennzeichen_speichern(ziel, t.p.einst.trennzeichen) && geschrieben;
     for (const tarvel::sprachliste& sprache : t.p.sprachdateien()) {
         geschrieben = ziel.zeilen_schreiben(sprache.datei(), sprache.deutsche_datei()) && geschrieben;

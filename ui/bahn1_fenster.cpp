@@ -19,6 +19,7 @@ constexpr double schrift_uhr = 1750;
 constexpr double schrift_uhr2 = 780;
 constexpr double schrift_ziel = 620;
 constexpr double schrift_knopf = 420;
+constexpr double schrift_rekord = 360;
 constexpr double schrift_werbung = 380;
 constexpr double schrift_formular = 330;
 constexpr int sekunden_max = 9999;
@@ -54,6 +55,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
     aufbau->setContentsMargins(8, 4, 8, 8);
     aufbau->setSpacing(4);
     aufbau->addWidget(uhrenzeile());
+    aufbau->addWidget(binder().anzeige(logik.bahn1.bestzeit_gesamt, "bestzeit_gesamt", schrift_rekord));
     auto* spalten = new QHBoxLayout;
     spalten->setSpacing(6);
     for (const int spur : alle_spuren) {

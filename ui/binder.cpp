@@ -317,16 +317,14 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     auto* modell = new ListenModell(element, widget);
     modell->setAusrichtung(ausrichtung);
     widget->setModel(modell);
-    QObject::connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, widget,
-                     [&element, widget](const QModelIndex& zeile) {
-                         if (widget->selectionModel()->isSelected(zeile)) {  // the focus alone means no row
-                             element.auswaehlen(zeile.row());
-                         }
-                     });
+    // not the current row: the focus alone means none
     QObject::connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, widget, [&element, widget] {
-        const QModelIndex zeile = widget->model()->index(element.markiert(), 0);
-        if (zeile.isValid() && !widget->selectionModel()->hasSelection()) {  // a click beside the rows
-            widget->selectionModel()->select(zeile, QItemSelectionModel::Select);
+        const QModelIndexList gewaehlt = widget->selectionModel()->selectedIndexes();
+        const QModelIndex markiert = widget->model()->index(element.markiert(), 0);
+        if (!gewaehlt.isEmpty()) {
+            element.auswaehlen(gewaehlt.front().row());
+        } else if (markiert.isValid()) {  // a click beside the rows
+            widget->selectionModel()->select(markiert, QItemSelectionModel::Select);
         }
     });
     // the Enter key as well as a double click
@@ -345,6 +343,9 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
         if (zeile.isValid() && !hervorgehoben) {  // the focus alone makes a row current without selecting it
             widget->setCurrentIndex(zeile);
             widget->scrollTo(zeile);
+            widget->viewport()->update();
+        } else if (!zeile.isValid() && widget->selectionModel()->hasSelection()) {
+            widget->selectionModel()->clear();  // the row current as well, so that it can be selected again
             widget->viewport()->update();
         }
     });

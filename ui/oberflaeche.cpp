@@ -13,9 +13,11 @@ Oberflaeche::Oberflaeche(programm& p)
       k_ampel(p.k_ampel, p.rennen.befehle, p.einst, p.ablage, takt, &bahn1),
       auswertung(p.auswertung, p.ablage, takt, &bahn1),
       rundenspeichern(p.rundenspeichern.fenster, "rundenspeichern", takt, &auswertung),
+      bestzeiten(p.beste_zeiten_fenster, takt, &auswertung),
       tastatur(p.tastaturbelegung, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
+      bestzeitverwaltung(p.beste_zeiten_verwaltung, takt, &einstellungen),
       bildwahl(p.fahrerbild_laden, takt, &einstellungen),
       fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &einstellungen),
       p_(p) {
@@ -27,6 +29,8 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("k_ampel", &k_ampel);
     fenster.aufnehmen("auswertung", &auswertung);
     fenster.aufnehmen("rundenspeichern", &rundenspeichern);
+    fenster.aufnehmen("beste_zeiten_fenster", &bestzeiten);
+    fenster.aufnehmen("beste_zeiten_verwaltung", &bestzeitverwaltung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
     fenster.aufnehmen("speichernfenster", &speichern);
     fenster.aufnehmen("einstellungen", &einstellungen);
@@ -41,6 +45,8 @@ Oberflaeche::Oberflaeche(programm& p)
             p.startampel.fenster_schliessen();
         }
     };
+    bestzeiten.escape_schliesst();
+    bestzeitverwaltung.escape_schliesst();
     tastatur.escape_schliesst();
     speichern.escape_schliesst();
     rundenspeichern.escape_schliesst();
@@ -62,6 +68,9 @@ Oberflaeche::Oberflaeche(programm& p)
     k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.fenster_schliessen(); };
     rundenspeichern.bei_schliessen = [&p] { p.fenster.entladen("rundenspeichern"); };
+    auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
+    bestzeiten.bei_schliessen = [&p] { p.beste_zeiten_fenster.schliessen(); };
+    bestzeitverwaltung.bei_schliessen = [&p] { p.beste_zeiten_verwaltung.schliessen(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
     einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };

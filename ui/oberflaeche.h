@@ -3,6 +3,8 @@
 #include "programm/programm.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
+#include "ui/bestzeiten_fenster.h"
+#include "ui/bestzeitverwaltung_fenster.h"
 #include "ui/bildwahl_fenster.h"
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
@@ -33,9 +35,11 @@ public:
     KAmpelFenster k_ampel;
     AuswertungFenster auswertung;
     SpeichernFenster rundenspeichern;
+    BestzeitenFenster bestzeiten;
     TastaturFenster tastatur;
     SpeichernFenster speichern;
     EinstellungenFenster einstellungen;
+    BestzeitverwaltungFenster bestzeitverwaltung;
     BildwahlFenster bildwahl;
     SpeichernFenster fahrerspeichern;
 

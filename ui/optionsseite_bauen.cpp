@@ -70,6 +70,10 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
         raster->addWidget(binder_.kasten(*kasten, name), platz, 0, 1, 3);
         return;
     }
+    if (auto* knopf = std::get_if<befehl>(&inhalt.element)) {
+        raster->addWidget(binder_.knopf(*knopf, name), platz, 0, 1, 3);
+        return;
+    }
     QLabel* titel = binder_.label(inhalt.beschriftung, name + "_Label");
     titel->setWordWrap(true);
     raster->addWidget(titel, platz, 0);

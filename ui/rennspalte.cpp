@@ -44,6 +44,7 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
         TextAnzeige* anzeige = binder.anzeige(element, name + "_" + nummer, entwurf);
         anzeige->setFett(true);
         aufbau->addWidget(anzeige);
+        return anzeige;
     };
     gelb_ = new QWidget(this);
     gelb_->setAutoFillBackground(true);
@@ -57,7 +58,10 @@ Rennspalte::Rennspalte(bahn1& bahn, int spur, Binder& binder, QWidget* eltern) :
     aufbau->addWidget(gelb_);
     aufbau->addWidget(namenszeile(bahn, spur, binder));
     aufbau->addWidget(kopfzeile(bahn, spur, binder));
-    zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler);
+    auto* im_zaehler = new QVBoxLayout(zeigen(bahn.zaehler[spur], "zaehler", schrift_zaehler));
+    im_zaehler->setContentsMargins(0, 0, 0, 0);
+    im_zaehler->addStretch();  // digits leave the foot of their line empty: no room is taken from the list of laps
+    im_zaehler->addWidget(binder.anzeige(bahn.bestzeit_label[spur], "bestzeit_label_" + nummer, schrift_titel));
     aufbau->addWidget(tankzeile(bahn, spur, binder));
     titel(bahn.Label_lrunde[spur], "Label_lrunde");
     zeigen(bahn.lrunde[spur], "lrunde", schrift_zeit);

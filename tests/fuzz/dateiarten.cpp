@@ -4,6 +4,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "core/bestzeiten.h"
 #include "core/nebendateien.h"
 #include "core/sprache.h"
 #include "core/text.h"
@@ -134,6 +135,25 @@ bool tasten_lesen(werkbank& bank, const std::string& bytes) {
     return true;
 }
 
+/// Nor is a file of best times: what is no entry is an empty one.
+bool bestzeiten_lesen(werkbank& bank, const std::string& bytes) {
+    bestzeiten gelesen;
+    bank.legen("Ergebnisse/Bestzeiten/klub.bst", bytes);
+    fordern(gelesen.laden(bank.eingang, "klub"), "best times are refused");
+    for (const int spur : alle_spuren) {
+        for (int zeile = 1; zeile <= bestzeiten::zeilen_anzahl; ++zeile) {
+            const bestzeit& eintrag = gelesen.eintrag(zeile, spur);
+            fordern(eintrag.leer() ? eintrag == bestzeit{} : eintrag.ms > 0 && eintrag.ms < keine_bestzeit,
+                    "a time that is none has an owner");
+            fordern(gelesen.gesamt().ms <= gelesen.beste(spur), "a record that a lane beats");
+        }
+    }
+    bestzeiten zurueck;
+    fordern(gelesen.speichern(bank.ausgang, "klub"), "best times cannot be written");
+    fordern(zurueck.laden(bank.ausgang, "klub") && zurueck == gelesen, "best times change on the way through the file");
+    return !gelesen.gesamt().leer();
+}
+
 /// No language file is refused: what it lacks stays German.
 bool sprache_lesen(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
@@ -190,6 +210,14 @@ std::string alle_tasten(const werkbank& bank) {
     return bank.t.maschine.datei_lesen("ausgang/tvk_taste.ini");
 }
 
+std::string volle_bestzeiten() {
+    std::string bytes;
+    for (int nummer = 0; nummer < spuren_max * bestzeiten::zeilen_anzahl; ++nummer) {
+        bytes += " " + std::to_string(8000 + nummer) + "\r\n\"J\xF6rg, jun.\"\r\n\"Viper\"\r\n\"21.11.2026\"\r\n";
+    }
+    return bytes;
+}
+
 std::vector<std::string> sprachdateien(programm& p) {
     std::vector<std::string> bytes;
     for (const sprachliste& sprache : p.sprachdateien()) {
@@ -231,6 +259,7 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
            "\"2\", 6 ,\"Einstellungen\\klub.ini\",\"0\",\"\"\r\n"},
           startdatei_lesen}},
         {"tasten", {{alle_tasten(bank)}, tasten_lesen}},
+        {"bestzeiten", {{volle_bestzeiten(), "8123,Anna,Viper,21.11.2026\r\n"}, bestzeiten_lesen}},
         {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},
     };
 }

@@ -8,11 +8,15 @@ namespace tarvel::test {
 
 testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter), p(maschine.dienste()) {
     p.starten();
+    p.bestzeiten.speichern(p.ablage, p.einst.beste_datei);  // the one file that comes with the program, not from it
     maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }
 
 void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
     p.einst.start_ampel_modus = 0;
+    if (!mit_bestzeiten) {
+        p.einst.beste_modus = 0;
+    }
     p.form1.rennart.eingeben(rennart);
     p.form1.renndauer.eingeben(dauer);
     for (const int nummer : alle_spuren) {

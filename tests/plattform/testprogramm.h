@@ -26,6 +26,8 @@ struct testprogramm {
     bahn1& bahn() { return p.rennen.bahn1; }
     spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
 
+    bool mit_bestzeiten = false;  ///< else no race asks for them
+
     test_plattform maschine;
     programm p;
 };

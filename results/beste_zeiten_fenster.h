@@ -1,0 +1,91 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/bestzeiten.h"
+#include "core/einstellungen.h"
+#include "core/fensterregister.h"
+#include "core/sprache.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "platform/kalender.h"
+#include "platform/meldungen.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// What a lane brings from the race to the best times.
+struct spur_angebot {
+    bool aktiv = false;
+    std::string fahrer;
+    std::string fahrzeug;
+    zeit_ms beste = 0;            ///< 0 for no lap
+    std::vector<zeit_ms> runden;  ///< in the order driven
+};
+
+/// The window at the end of a race: takes new best times into the table, with corrections of the operator's. Its
+/// control arrays count the lanes from 0.
+class beste_zeiten_fenster {
+public:
+    struct umgebung {
+        const einstellungen& einst;
+        const texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        const plattform::kalender& kalender;
+        tarvel::bestzeiten& bestzeiten;
+    };
+
+    beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber);
+
+    rahmen titel;                           ///< carries the window's title
+    bezeichnung Label1;                     ///< what to do
+    std::array<bezeichnung, 4> Label_kopf;  ///< captions of the columns: driver, vehicle, lap, stored best
+    std::array<rahmen, spuren_max> Frame;   ///< all of a lane, in its colour
+    std::array<haken, spuren_max> spur_chk;
+    std::array<feld, spuren_max> btext_name;
+    std::array<feld, spuren_max> btext_kfz;
+    std::array<auswahl, spuren_max> beste_combo;  ///< the laps, the best first; may be typed
+    std::array<bezeichnung, spuren_max> beste_alt;
+    std::array<form, spuren_max> Shape1;  ///< green while the value would be saved
+    befehl Command1;                      ///< save
+    befehl Command2;                      ///< cancel
+    befehl Command3;                      ///< the entries as they were
+
+    /// Opens the window, and runs `danach` once when it is closed, however that is. With best times switched off
+    /// nothing opens and `danach` runs at once. A window that is unloaded from elsewhere forgets it.
+    void oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach);
+    /// Closes without saving.
+    void schliessen();
+    /// Load handler.
+    void laden();
+    /// Unload handler.
+    void entladen();
+    /// The texts of the window.
+    sprachliste sprache_best();
+
+    /// The lane's value would be saved now.
+    bool wird_gespeichert(int spur) const;
+    /// The table has changed.
+    std::function<void()> gespeichert;
+
+private:
+    void eingangswerte_zeigen();
+    void eintrag_geaendert();
+    void anzeigen();
+    void speichern();
+    zeit_ms neue_zeit(int spur) const;
+
+    umgebung um_;
+    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< saves by itself where that is wanted
+    spuren<spur_angebot> angebote_;
+    std::function<void()> danach_;
+    std::string wort_spur_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "results/beste_zeiten_fenster.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window that saves new best times.
+class BestzeitenFenster : public Fenster {
+public:
+    BestzeitenFenster(beste_zeiten_fenster& logik, Bildtakt& takt, QWidget* eltern);
+
+    void aufschlagen() override;
+
+private:
+    QWidget* kopfzeile();
+    QWidget* spurblock(int spur);
+    QWidget* zeichen(int spur);
+
+    beste_zeiten_fenster& logik_;
+};
+
+}  // namespace tarvel::ui

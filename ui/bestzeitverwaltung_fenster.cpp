@@ -1,0 +1,146 @@
+#include "ui/bestzeitverwaltung_fenster.h"
+
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int spalten_anzahl = 3;
+constexpr int schrift_liste_px = 13;
+constexpr int knopfhoehe = 36;
+constexpr QSize fleck_groesse(30, 14);
+
+}  // namespace
+
+BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& logik, Bildtakt& takt, QWidget* eltern)
+    : Fenster("beste_zeiten_verwaltung", takt, eltern), logik_(logik) {
+    binder().fenstertitel(logik.titel);
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setSpacing(8);
+    aufbau->addWidget(dateizeile());
+    aufbau->addWidget(moduszeile());
+    auto* listen = new QGridLayout;
+    listen->setHorizontalSpacing(12);
+    for (const int spur : alle_spuren) {
+        const int platz = spur - 1;
+        listen->addWidget(spurliste(spur), platz / spalten_anzahl, platz % spalten_anzahl);
+    }
+    aufbau->addLayout(listen, 1);
+    aufbau->addWidget(korrektur());
+    auto* unten = new QHBoxLayout;
+    unten->addStretch();
+    QPushButton* schliessen = binder().hauptknopf(logik.Command1, "Command1");
+    schliessen->setMinimumSize(140, 42);
+    unten->addWidget(schliessen);
+    aufbau->addLayout(unten);
+    resize(1180, 760);
+}
+
+QWidget* BestzeitverwaltungFenster::dateizeile() {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(8);
+    QComboBox* datei = binder().auswahlfeld(logik_.Combo2, "Combo2");
+    datei->setMinimumContentsLength(11);
+    aufbau->addWidget(binder().label(logik_.Label_datei, "Label_datei"));
+    aufbau->addWidget(datei, 1);
+    aufbau->addWidget(binder().knopf(logik_.Command36, "Command36"));
+    aufbau->addSpacing(14);
+    QLineEdit* name = binder().zeile(logik_.bestefile_name, "bestefile_name");
+    QPushButton* anlegen = binder().knopf(logik_.Command37, "Command37");
+    QObject::connect(name, &QLineEdit::returnPressed, anlegen, [this] { logik_.Command37.klicken(); });
+    aufbau->addWidget(binder().label(logik_.Label_neu, "Label_neu"));
+    aufbau->addWidget(name, 1);
+    aufbau->addWidget(anlegen);
+    return zeile;
+}
+
+QWidget* BestzeitverwaltungFenster::moduszeile() {
+    auto* zeile = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(zeile);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(8);
+    QComboBox* modus = binder().auswahlfeld(logik_.Combo1, "Combo1");
+    modus->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    aufbau->addWidget(binder().label(logik_.Label_modus, "Label_modus"));
+    aufbau->addWidget(modus);
+    aufbau->addSpacing(20);
+    aufbau->addWidget(binder().label(logik_.bestlabel1, "bestlabel1"));
+    QLabel* rekord = binder().label(logik_.bestlabel2, "bestlabel2");
+    rekord->setStyleSheet("font-weight: bold;");
+    rekord->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
+    aufbau->addWidget(rekord, 1);
+    return zeile;
+}
+
+QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
+    const std::size_t i = feld_index(spur);
+    auto* feld = new QWidget(this);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(2);
+    auto* kopf = new QHBoxLayout;
+    auto* fleck = new QLabel(this);
+    fleck->setFixedSize(fleck_groesse);
+    auto* titel = new QLabel(this);
+    bezeichnung& name = logik_.Label_spur.at(i);
+    binder().verbinden(name, titel, "Label_spur_" + QString::number(i), [titel, fleck, &name] {
+        titel->setText(QString::fromStdString(name.text()));
+        fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;")
+                                 .arg(stil::farbe_von(name.hintergrund().value_or(0)).name()));
+    });
+    kopf->addWidget(fleck);
+    kopf->addWidget(titel, 1);
+    aufbau->addLayout(kopf);
+    QListView* zeilen = binder().listenfeld(logik_.bestefile_list.at(i), "bestefile_list_" + QString::number(i));
+    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    zeilen->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
+                                  "QListView::item { padding: 0px 3px; }")                        // each other
+                              .arg(schrift)
+                              .arg(schrift_liste_px));
+    aufbau->addWidget(zeilen, 1);
+    return feld;
+}
+
+QWidget* BestzeitverwaltungFenster::korrektur() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_korrektur, "Frame_korrektur");
+    auto* raster = new QGridLayout(kasten);
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(2);
+    const std::array<feld*, 4> felder{&logik_.Text1, &logik_.Text2, &logik_.Text3, &logik_.Text4};
+    constexpr std::array<int, 4> breiten{110, 0, 110, 0};
+    for (std::size_t i = 0; i < felder.size(); ++i) {
+        const int spalte = static_cast<int>(i);
+        QLabel* titel = binder().label(logik_.Label_k.at(i), "Label_k_" + QString::number(i));
+        titel->setStyleSheet("color: #626a78;");
+        raster->addWidget(titel, 0, spalte);
+        QLineEdit* eingabe = binder().zeile(*felder.at(i), "Text" + QString::number(i + 1));
+        QObject::connect(eingabe, &QLineEdit::returnPressed, eingabe, [this] { logik_.Command34.klicken(); });
+        if (breiten.at(i) > 0) {
+            eingabe->setFixedWidth(breiten.at(i));
+        } else {
+            raster->setColumnStretch(spalte, 1);
+        }
+        raster->addWidget(eingabe, 1, spalte);
+    }
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(8);
+    for (QPushButton* knopf :
+         {binder().knopf(logik_.Command34, "Command34"), binder().knopf(logik_.Command29, "Command29"),
+          binder().knopf(logik_.Command35, "Command35")}) {
+        knopf->setMinimumHeight(knopfhoehe);
+        knoepfe->addWidget(knopf);
+    }
+    raster->addLayout(knoepfe, 1, static_cast<int>(felder.size()));
+    return kasten;
+}
+
+}  // namespace tarvel::ui
