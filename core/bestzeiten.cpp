@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view ordner = "Ergebnisse\\Bestzeiten";
 constexpr std::string_view endung = ".bst";
 constexpr std::size_t felder_je_eintrag = 4;
-constexpr std::size_t felder_anzahl = spuren_max * bestzeiten::zeilen_anzahl * felder_je_eintrag;
+constexpr std::size_t felder_anzahl = felder_je_eintrag * bestzeiten::zeilen_anzahl * spuren_max;
 
 /// As the file will give it back: one line of its characters.
 std::string lesbarer_text(std::string_view text) {
@@ -32,6 +32,8 @@ bestzeit lesbarer_eintrag(const bestzeit& eintrag) {
 }
 
 }  // namespace
+
+bestzeiten::bestzeiten() = default;
 
 bool bestzeiten::laden(const dateien& ablage, std::string_view stamm) {
     leeren();
@@ -79,7 +81,7 @@ void bestzeiten::einfuegen(int spur, bestzeit neu) {
     gesamt_bilden();
 }
 
-void bestzeiten::setzen(int zeile, int spur, bestzeit neu) {
+void bestzeiten::setzen(int zeile, int spur, const bestzeit& neu) {
     spuren_[spur].at(platz(zeile)) = lesbarer_eintrag(neu);
     gesamt_bilden();
 }

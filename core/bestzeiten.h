@@ -31,6 +31,8 @@ public:
     static constexpr int zeilen_anzahl = 10;
     static constexpr int text_laenge_max = 200;  ///< characters; what is longer is cut
 
+    bestzeiten();  // not in place: clang-tidy 14 breaks down over building the table at compile time
+
     /// Row 1 to 10 of a lane.
     const bestzeit& eintrag(int zeile, int spur) const { return spuren_[spur].at(platz(zeile)); }
     /// Row 1 of a lane; `keine_bestzeit` for none.
@@ -46,7 +48,7 @@ public:
 
     /// The new time goes on top of the lane, the tenth drops out. A time that is none changes nothing.
     void einfuegen(int spur, bestzeit neu);
-    void setzen(int zeile, int spur, bestzeit neu);
+    void setzen(int zeile, int spur, const bestzeit& neu);
     /// The fastest first, the empty ones last.
     void sortieren();
     void leeren() { *this = {}; }

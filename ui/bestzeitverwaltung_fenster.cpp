@@ -91,6 +91,7 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
     auto* fleck = new QLabel(this);
     fleck->setFixedSize(fleck_groesse);
     auto* titel = new QLabel(this);
+    titel->setTextFormat(Qt::PlainText);
     bezeichnung& name = logik_.Label_spur.at(i);
     binder().verbinden(name, titel, "Label_spur_" + QString::number(i), [titel, fleck, &name] {
         titel->setText(QString::fromStdString(name.text()));

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QTextDocument>
 #include <cmath>
 #include <utility>
 
@@ -91,7 +92,8 @@ private:
         }
         if (tipp_ != element_.tipp()) {
             tipp_ = element_.tipp();
-            widget_->setToolTip(als_text(tipp_));
+            const QString tipp = als_text(tipp_);
+            widget_->setToolTip(Qt::mightBeRichText(tipp) ? Qt::convertFromPlainText(tipp) : tipp);
         }
     }
 

@@ -58,7 +58,7 @@ TEST_F(BestzeitenFenster, SchliesstAufJedemWeg) {
 
 TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
     for (const int spur : alle_spuren) {
-        t.p.bestzeiten.einfuegen(spur, {8000, "Jörg", "Viper", "01.02.2026"});
+        t.p.bestzeiten.einfuegen(spur, {8000, "<b>Jörg</b>", "Viper", "01.02.2026"});
     }
     t.p.einstellungsfenster.oeffnen(einstellungsfenster::seite_bestzeiten);
     o.takt.ausfuehren();
@@ -89,6 +89,8 @@ TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
     EXPECT_FALSE(o.bestzeitverwaltung.isVisible());
     EXPECT_TRUE(o.einstellungen.isVisible());
     EXPECT_EQ(t.p.bestzeiten.beste(1), 7000);
+    o.takt.ausfuehren();
+    EXPECT_TRUE(finde<QLabel>(o.form1, "Form1.Label_fahrzeug_0")->toolTip().contains("&lt;b&gt;")) << "no markup";
 }
 
 }  // namespace
