@@ -39,6 +39,9 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     Command1.bei_klick = [this] { Command1_Click(); };
     Command2.bei_klick = [this] { um_.fenster.entladen("einstellungen"); };
     sounds_verbinden();
+    schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
+                    schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
+                                       zeile("schema_hinzufuegen")});
     std::get<befehl>(zeile("bestzeiten_verwalten").element).bei_klick = [this] {
         if (bestzeiten_verwalten) {
             bestzeiten_verwalten();
@@ -59,6 +62,7 @@ sprachliste einstellungsfenster::sprache_e() {
             (nummer == seite_fahrer ? fahrerseite : fahrzeugseite).texte_nennen(texte);
         }
     }
+    schema_->texte_nennen(texte);
     return texte;
 }
 
@@ -194,6 +198,7 @@ void einstellungsfenster::hardware_uebernehmen() {
 }
 
 void einstellungsfenster::werte_zeigen() {
+    schema_->zeigen(um_.ziel.einst.wechselschema_name);
     fuer_alle_zeilen([this](optionszeile& eine) {
         if (eine.zeigen) {
             eine.zeigen(um_.ziel);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "core/steuerelemente.h"
 #include "optionen/listenseite.h"
 #include "optionen/optionsseite.h"
+#include "optionen/schemawahl.h"
 #include "platform/klang.h"
 #include "platform/meldungen.h"
 
@@ -113,6 +115,7 @@ private:
     std::string grenzen_titel_;
     std::string alte_bleibt_;
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
+    std::optional<schemawahl> schema_;  ///< once its rows are there
 };
 
 }  // namespace tarvel

@@ -7,7 +7,9 @@ namespace {
 
 using namespace option;
 using e = einstellungen;
-optionszeile_zeiger wechselschema() {
+
+/// The order that is in force, whatever scheme it comes from.
+optionszeile_zeiger wechselfolge() {
     optionszeile_zeiger zeile = leeres_feld({"wechsel_schema", "Reihenfolge der Spuren, P = Pause", ""}, 20);
     optionszeile* zeiger = zeile.get();
     feld* element = &std::get<feld>(zeile->element);
@@ -57,8 +59,9 @@ optionsseite_zeiger wettkampf_training() {
                                   << kasten({"w_speichern", "Wettkampf nach jedem Rennen speichern"},
                                             wert(&e::w_speichern))
                                   << kasten({"opt_centermode", "Centermode"}, wert(&e::centermode));
-    seite->gruppe("Wechselschema", 0) << text({"Wechselschemaauswahl", "Name"}, wert(&e::wechselschema_name), 80, 1)
-                                      << wechselschema();
+    seite->gruppe("Wechselschema", 0) << wortliste({"Wechselschemaauswahl", "Schema"}, wert(&e::wechselschema_name), {})
+                                      << wechselfolge() << leeres_feld({"schema_name", "Name eines neuen Schemas"}, 40)
+                                      << aktion({"schema_hinzufuegen", "Als neues Schema hinzufügen"});
     seite->gruppe("Einfahren", 1) << kasten({"w_einfahren_an", "Einfahrzeit aktivieren"}, wert(&e::w_einfahren_an))
                                   << entweder({"w_edauer1", "Einfahren nach"}, wert(&e::w_edauer_runden), "Runden",
                                               "Sekunden")

@@ -8,7 +8,9 @@
 #include "core/nebendateien.h"
 #include "core/sprache.h"
 #include "core/text.h"
+#include "core/wechselschema.h"
 #include "hardware/tastenbelegung.h"
+#include "results/ergebnisdatei.h"
 
 namespace fs = std::filesystem;
 
@@ -154,6 +156,37 @@ bool bestzeiten_lesen(werkbank& bank, const std::string& bytes) {
     return !gelesen.gesamt().leer();
 }
 
+/// An entry of the schemes is valid as a whole, or says that it is not.
+bool wechselschema_lesen(werkbank& bank, const std::string& bytes) {
+    bool gelesen = false;
+    bank.legen("Wechselschema.ws", bytes);
+    const auto schemas = wechselschemas_lesen(bank.eingang, "ungültig", gelesen);
+    fordern(gelesen && schemas.front().folge == wechsel_standard, "the built-in scheme is always there");
+    for (const wechselschema& schema : schemas) {
+        fordern(ist_eine_zeile(schema.anzeige), "an entry is one line");
+        fordern(schema.folge.has_value() || schema.anzeige.ends_with("ungültig"), "an invalid scheme does not say so");
+        if (schema.folge) {
+            const auto von = wechsel_nachfolger(*schema.folge, spuren<bool>{{true, true, true, true, true, true}});
+            fordern(std::is_permutation(von.begin(), von.end(), alle_spuren.begin()), "a driver is lost");
+        }
+    }
+    const bool eigene = schemas.size() > 1 && schemas.back().folge.has_value();
+    fordern(wechselschema_speichern(bank.eingang, schemas, "neu\x01", wechsel_standard) == schema_ablage::gespeichert,
+            "a scheme cannot be added");
+    return eigene;
+}
+
+bool ergebnis_lesen(werkbank& bank, const std::string& bytes) {
+    bank.legen("ergebnis.csv", bytes);
+    const auto zeilen = ergebnis_zeilen_lesen(bank.eingang, "ergebnis.csv");
+    const ergebnis_typ typ = datei_typ_erkennen(zeilen);
+    fordern(zeilen.size() <= 10000, "more lines than there is room for");
+    fordern(bank.ausgang.zeilen_schreiben("ergebnis.csv", zeilen), "a result cannot be written");
+    const auto zurueck = ergebnis_zeilen_lesen(bank.ausgang, "ergebnis.csv");
+    fordern(zurueck == zeilen && datei_typ_erkennen(zurueck) == typ, "a result changes on the way through its file");
+    return typ != ergebnis_typ::unbekannt;
+}
+
 /// No language file is refused: what it lacks stays German.
 bool sprache_lesen(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
@@ -259,6 +292,11 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
            "\"2\", 6 ,\"Einstellungen\\klub.ini\",\"0\",\"\"\r\n"},
           startdatei_lesen}},
         {"tasten", {{alle_tasten(bank)}, tasten_lesen}},
+        {"ergebnis",
+         {{"Rennergebnis;15.11.2026;16:43:45\r\n\r\nAnna; 2;23.40;\r\nTarvel\r\nTV-ERD\r\nhttps://tarvel.invalid\r\n",
+           "Titel\r\nNr;Name\r\n1;Anna\r\nTV-WKD\r\n", "TV-JJ2-WKD\r\n", "Tarvel Tagesrennen\r\n0;Anna; 2\r\n"},
+          ergebnis_lesen}},
+        {"wechselschema", {{"\r\n#Rennen\r\n123456P\r\n\r\n#Zwei\r\n1P65432\r\n"}, wechselschema_lesen}},
         {"bestzeiten", {{volle_bestzeiten(), "8123,Anna,Viper,21.11.2026\r\n"}, bestzeiten_lesen}},
         {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},
     };

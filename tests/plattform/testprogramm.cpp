@@ -8,7 +8,8 @@ namespace tarvel::test {
 
 testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter), p(maschine.dienste()) {
     p.starten();
-    p.bestzeiten.speichern(p.ablage, p.einst.beste_datei);  // the one file that comes with the program, not from it
+    p.bestzeiten.speichern(p.ablage, p.einst.beste_datei);  // the files that come with the program, not from it
+    p.ablage.zeilen_schreiben("Wechselschema.ws", {});
     maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }
 

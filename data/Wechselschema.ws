@@ -1,0 +1,3 @@
+
+#Eine Spur nach oben
+123456P
