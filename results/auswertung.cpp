@@ -134,9 +134,7 @@ void auswertung::bedienung_einrichten() {
     spurwechsel.gesetzt(true);
     tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
     trainingslabel.sichtbar(intervall);
-    Frame_verlauf.sichtbar(false);
-    Frame_stand.sichtbar(true);
-    Command_verlauf.text(wort_.verlauf);
+    verlauf_zeigen(false);
     for (feld& eingabe : meter) {
         eingabe.text("0");
     }
@@ -285,8 +283,7 @@ void auswertung::training_tick() {
     }
 }
 
-void auswertung::verlauf_umschalten() {
-    const bool zeigen = !Frame_verlauf.sichtbar();
+void auswertung::verlauf_zeigen(bool zeigen) {
     Frame_stand.sichtbar(!zeigen);
     Frame_verlauf.sichtbar(zeigen);
     Command_verlauf.text(zeigen ? wort_.stand : wort_.verlauf);

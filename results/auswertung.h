@@ -156,7 +156,7 @@ private:
     void nachzaehlen();
     void nachzaehlen_beenden();
     void training_tick();
-    void verlauf_umschalten();
+    void verlauf_zeigen(bool zeigen);
     void verlauf_nachfuehren();
 
     void Command6_klick();

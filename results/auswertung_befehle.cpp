@@ -32,7 +32,7 @@ void auswertung::befehle_verbinden() {
     Command8.bei_klick = [this] { runde_loeschen(); };
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
     Command10.bei_klick = [this] { auswertung_anzeigen(); };
-    Command_verlauf.bei_klick = [this] { verlauf_umschalten(); };
+    Command_verlauf.bei_klick = [this] { verlauf_zeigen(!Frame_verlauf.sichtbar()); };
     const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
         knopf.bei_klick = [&wohin] {
             if (wohin) {
@@ -77,6 +77,7 @@ void auswertung::Command6_klick() {
         meter_eingabe_uebernehmen();
         auswertung_anzeigen();
     } else {
+        verlauf_zeigen(false);
         meter_eingabe(true);
     }
 }
@@ -127,6 +128,7 @@ void auswertung::runde_loeschen() {
         blinken->aus();
     }
     w_auto5_->aus();
+    verlauf_zeigen(false);  // the laps are in the lists
     const int runde = gewaehlte_spur_ == 0 ? 0 : liste.at(feld_index(gewaehlte_spur_)).markiert() + 1;
     if (runde < 1 || !u_.stand.runde_loeschen(gewaehlte_spur_, runde)) {
         um_.meldungen.zeigen(wort_.runde_waehlen, um_.txt.titel[0]);
