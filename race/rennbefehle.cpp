@@ -24,6 +24,7 @@ void rennbefehle::rennen_abbrechen() {
     um_.zeitgeber.alle_aus();
     t_.ende.ausgaben_endzustand();
     um_.zustand.rennabbruch = true;
+    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
     um_.fenster.entladen("bahn1");
     um_.fenster.zeigen("Form1");
 }

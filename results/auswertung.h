@@ -175,7 +175,7 @@ private:
     bool automatisch_speichern();
     void rennen_verlassen();
     void bahn_neu_oeffnen();
-    void fahrer_wechseln();
+    void wechselschema_anwenden();
     bool ziel_lesen(zeit_ms& ziel) const;
 
     rennen& r_;

@@ -183,7 +183,7 @@ void auswertung::bahn_neu_oeffnen() {
     }
 }
 
-void auswertung::fahrer_wechseln() {
+void auswertung::wechselschema_anwenden() {
     if (spurwechsel.gesetzt()) {
         const spuren<int> herkunft = wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv);
         r_.fortsetzung.fahrer_umsetzen(herkunft);
@@ -206,7 +206,7 @@ void auswertung::cmd2_fortsetzung() {
     }
     rennen_verlassen();
     um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
-    fahrer_wechseln();
+    wechselschema_anwenden();
     bahn_neu_oeffnen();
 }
 
@@ -252,7 +252,7 @@ void auswertung::cmd3_fortsetzung() {
         return;
     }
     rennen_verlassen();
-    fahrer_wechseln();
+    wechselschema_anwenden();
     r_.fortsetzung.vorbereiten(ziel);
     um_.fenster.zeigen("k_ampel");
 }
