@@ -49,13 +49,13 @@ TEST_F(Ergebnisdatei, EineSpurZweiRunden) {
     a.Command6.klicken();
     EXPECT_EQ(a.ges_meter[0].text(), "23,40 m");
     a.Command5.klicken();
+    const char* const vergleich = "Anna; 2;23.40;00:08,119;00:16,242;00:02,170;00:08,123;00:08,119;";
     EXPECT_EQ(gespeichert(), (std::vector<std::string>{"Rennergebnis;21.11.2026;14:03:22",
                                                        "",
                                                        "",
                                                        "Rundendirektvergleich",
                                                        "",
-                                                       "Anna; 2;23.40;00:08,119;00:16,242;00:02,170;00:08,123;"
-                                                       "00:08,119;",
+                                                       vergleich,
                                                        "",
                                                        "",
                                                        "Spur 1;;;;;",
