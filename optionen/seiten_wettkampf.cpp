@@ -10,7 +10,7 @@ using e = einstellungen;
 
 /// The order that is in force, whatever scheme it comes from.
 optionszeile_zeiger wechselfolge() {
-    optionszeile_zeiger zeile = leeres_feld({"wechsel_schema", "Reihenfolge der Spuren, P = Pause", ""}, 20);
+    optionszeile_zeiger zeile = leeres_feld({"wechsel_schema", "Spurfolge", "P = Pause"}, 20);
     optionszeile* zeiger = zeile.get();
     feld* element = &std::get<feld>(zeile->element);
     zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen](sprachliste& texte) {
@@ -60,7 +60,7 @@ optionsseite_zeiger wettkampf_training() {
                                             wert(&e::w_speichern))
                                   << kasten({"opt_centermode", "Centermode"}, wert(&e::centermode));
     seite->gruppe("Wechselschema", 0) << wortliste({"Wechselschemaauswahl", "Schema"}, wert(&e::wechselschema_name), {})
-                                      << wechselfolge() << leeres_feld({"schema_name", "Name eines neuen Schemas"}, 40)
+                                      << wechselfolge() << leeres_feld({"schema_name", "Neues Schema", "Name"}, 40)
                                       << aktion({"schema_hinzufuegen", "Als neues Schema hinzufügen"});
     seite->gruppe("Einfahren", 1) << kasten({"w_einfahren_an", "Einfahrzeit aktivieren"}, wert(&e::w_einfahren_an))
                                   << entweder({"w_edauer1", "Einfahren nach"}, wert(&e::w_edauer_runden), "Runden",

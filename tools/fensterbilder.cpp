@@ -1,0 +1,295 @@
+// Draws the program's windows in given states, without a screen: fensterbilder <folder> [<size>] [<scene>...]
+// A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
+
+#include <QApplication>
+#include <QTest>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <vector>
+
+#include "tests/plattform/testprogramm.h"
+#include "ui/oberflaeche.h"
+#include "ui/stil.h"
+
+namespace tarvel {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}};
+
+/// A program with its windows on a virtual clock, and a club that drives.
+struct buehne {
+    buehne() {
+        const fs::path daten = TARVEL_QUELLEN "/data";
+        fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        constexpr std::array<const char*, spuren_max> namen{"Anna",         "Ben Olsen",    "Carl-Friedrich von Gauß",
+                                                            "Dora Schmidt", "Emil Lindner", "Frieda"};
+        for (const int spur : alle_spuren) {
+            const std::size_t i = feld_index(spur);
+            p.form1.fahrer.at(i).eingeben(namen.at(i));
+            p.form1.auto_.at(i).eingeben(p.form1.auto_.at(i).eintraege().at(i + 1));
+            p.bestzeiten.einfuegen(spur, {6900 + 40 * spur, namen.at(i), "Viper", "12.09.2026"});
+        }
+        p.form1.bilder_anzeigen();
+        p.einst.zielmodus_erster = true;
+        p.einst.runde_beenden = false;
+        p.einst.fahrzeugbild_an = true;
+        t.mit_bestzeiten = true;
+        p.fenster.zeigen("Form1");
+    }
+
+    /// Sets up a race on these lanes and opens its window.
+    void einrichten(const char* rennart, const char* dauer, std::initializer_list<int> spuren) {
+        t.einrichten(rennart, dauer, spuren);
+        aktiv_ = spuren;
+    }
+
+    /// Drives for this long: a lap of about seven seconds on each lane, of which no two are the same.
+    void fahren(zeit_ms dauer) {
+        const zeit_ms ende = t.maschine.jetzt() + dauer;
+        for (const int spur : aktiv_) {
+            naechste_[spur] = std::max(naechste_[spur], t.maschine.jetzt() + 900 + 90 * spur);
+        }
+        while (true) {
+            const int spur = *std::min_element(aktiv_.begin(), aktiv_.end(),
+                                               [this](int a, int b) { return naechste_[a] < naechste_[b]; });
+            if (naechste_[spur] > ende) {
+                break;
+            }
+            t.runde_nach(naechste_[spur] - t.maschine.jetzt(), std::to_string(spur));
+            const int runde = t.spur(spur).runden;
+            naechste_[spur] +=
+                6950 + 45 * spur + 37 * ((runde * 7 + spur * 3) % 9) + (runde == 8 && spur == 3 ? 9000 : 0);
+        }
+        t.maschine.laufen(std::max<zeit_ms>(ende - t.maschine.jetzt(), 1));
+    }
+
+    void rennen(zeit_ms gefahren) {
+        einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
+        t.bahn().Command1.klicken();
+        fahren(gefahren);
+    }
+
+    /// A whole race to its result.
+    void ergebnis(const char* runden, std::initializer_list<int> spuren) {
+        einrichten("Runden", runden, spuren);
+        t.bahn().Command1.klicken();
+        fahren(150000);
+    }
+
+    test::testprogramm t;
+    programm& p = t.p;
+    ui::Oberflaeche o{p};
+
+private:
+    std::vector<int> aktiv_;
+    spuren<zeit_ms> naechste_;
+};
+
+template <int nummer>
+QWidget& optionsseite_zeigen(buehne& b) {
+    b.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(nummer));
+    return b.o.einstellungen;
+}
+
+/// The start light in its second red phase.
+QWidget& ampel(buehne& b) {
+    b.einrichten("Runden", "20", {1, 2, 3});
+    b.p.einst.start_ampel_modus = 1;
+    b.t.bahn().Command1.klicken();
+    b.t.maschine.laufen(5500);
+    return b.o.form2;
+}
+
+QWidget& pause(buehne& b) {
+    b.rennen(40000);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
+QWidget& tanken(buehne& b) {
+    b.p.form1.t_aktiv.gesetzt(true);
+    b.p.einst.tank_inhalt = 20;
+    b.rennen(52000);
+    return b.o.bahn1;
+}
+
+using szene = QWidget& (*)(buehne&);
+struct szeneneintrag {
+    const char* name;
+    szene zeigen;
+    bool eigene_groesse = false;  ///< the window is as large as it wants to be
+};
+
+const std::vector<szeneneintrag> szenen{
+    {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
+    {"rennen_vor_dem_start",
+     [](buehne& b) -> QWidget& {
+         b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
+         return b.o.bahn1;
+     }},
+    {"rennen",
+     [](buehne& b) -> QWidget& {
+         b.rennen(64000);
+         return b.o.bahn1;
+     }},
+    {"rennen_zwei_spuren",
+     [](buehne& b) -> QWidget& {
+         b.einrichten("Runden", "30", {2, 5});
+         b.t.bahn().Command1.klicken();
+         b.fahren(64000);
+         return b.o.bahn1;
+     }},
+    {"rennen_eine_spur",
+     [](buehne& b) -> QWidget& {
+         b.einrichten("Runden", "30", {4});
+         b.t.bahn().Command1.klicken();
+         b.fahren(64000);
+         return b.o.bahn1;
+     }},
+    {"rennen_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         b.rennen(64000);
+         return b.o.bahn1;
+     }},
+    {"rennen_tanken", tanken},
+    {"rennen_pause", pause},
+    {"rennen_nachlauf",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.zielmodus_erster = false;
+         b.einrichten("Zeit", "1", {1, 2, 3, 4});
+         b.t.bahn().Command1.klicken();
+         b.fahren(61500);
+         return b.o.bahn1;
+     }},
+    {"startampel", ampel, true},
+    {"kleine_ampel",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("8", {1, 2, 3});
+         b.p.auswertung.cmd3_fortsetzung();
+         return b.o.k_ampel;
+     },
+     true},
+    {"auswertung",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         return b.o.auswertung;
+     }},
+    {"auswertung_zwei_spuren",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {2, 5});
+         return b.o.auswertung;
+     }},
+    {"auswertung_meter",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command6.klicken();
+         return b.o.auswertung;
+     }},
+    {"rundenverlauf",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command_verlauf.klicken();
+         return b.o.auswertung;
+     }},
+    {"bestzeiten",
+     [](buehne& b) -> QWidget& {
+         b.p.bestzeiten.leeren();
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command5.klicken();
+         return b.o.bestzeiten;
+     },
+     true},
+    {"bestzeitverwaltung",
+     [](buehne& b) -> QWidget& {
+         b.p.beste_zeiten_verwaltung.oeffnen();
+         return b.o.bestzeitverwaltung;
+     }},
+    {"ergebnis_speichern",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("8", {1, 2});
+         b.p.auswertung.Command4.klicken();
+         return b.o.rundenspeichern;
+     },
+     true},
+    {"einstellungen_start", optionsseite_zeigen<0>},
+    {"einstellungen_wettkampf", optionsseite_zeigen<1>},
+    {"einstellungen_tanken", optionsseite_zeigen<2>},
+    {"einstellungen_sektoren", optionsseite_zeigen<3>},
+    {"einstellungen_fahrer", optionsseite_zeigen<4>},
+    {"einstellungen_fahrzeuge", optionsseite_zeigen<5>},
+    {"einstellungen_bestzeiten", optionsseite_zeigen<6>},
+    {"einstellungen_hardware", optionsseite_zeigen<7>},
+    {"einstellungen_sounds", optionsseite_zeigen<8>},
+    {"einstellungen_farben", optionsseite_zeigen<9>},
+    {"einstellungen_trennzeichen", optionsseite_zeigen<10>},
+    {"tastatur",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.command_tasten.klicken();
+         return b.o.tastatur;
+     },
+     true},
+    {"laden",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.Command7.klicken();
+         return b.o.speichern;
+     },
+     true},
+};
+
+bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen) {
+    buehne b;
+    QWidget& fenster = gewuenscht.zeigen(b);
+    bool gut = true;
+    for (const QSize& groesse : gewuenscht.eigene_groesse ? std::vector{fenster.size()} : groessen) {
+        fenster.resize(groesse);
+        fenster.show();
+        QTest::qWait(60);  // layouts settle in several turns of the loop
+        b.o.takt.ausfuehren();
+        QTest::qWait(60);
+        const QString masse = QString("%1x%2").arg(groesse.width()).arg(groesse.height());
+        const QString datei = ordner + "/" + gewuenscht.name +
+                              (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
+        gut = fenster.grab().save(datei) && gut;
+    }
+    return gut;
+}
+
+}  // namespace
+}  // namespace tarvel
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication anwendung(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    tarvel::ui::stil::anwenden(anwendung);
+    QStringList argumente = QApplication::arguments().mid(1);
+    if (argumente.isEmpty()) {
+        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [<Szene>...]\n");
+        return 2;
+    }
+    const QString ordner = argumente.takeFirst();
+    std::vector<QSize> groessen = tarvel::uebliche_groessen;
+    const QStringList masse = argumente.isEmpty() ? QStringList() : argumente.front().split('x');
+    if (masse.size() == 2 && masse[0].toInt() > 0 && masse[1].toInt() > 0) {
+        groessen = {QSize(masse[0].toInt(), masse[1].toInt())};
+        argumente.removeFirst();
+    }
+    std::filesystem::create_directories(ordner.toStdU16String());
+    bool gut = true;
+    for (const auto& szene : tarvel::szenen) {
+        if (argumente.isEmpty() || argumente.removeAll(szene.name) > 0) {
+            gut = tarvel::zeichnen(szene, ordner, groessen) && gut;
+        }
+    }
+    for (const QString& unbekannt : argumente) {
+        std::fprintf(stderr, "keine Szene: %s\n", unbekannt.toUtf8().constData());
+        gut = false;
+    }
+    return gut ? 0 : 1;
+}

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Draws the pictures of README and handbook anew: docs/*.png
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. tools/pakete.sh
+pakete_sicherstellen "${PAKETE_BAU[@]}" "${PAKETE_TEST[@]}" imagemagick
+
+cmake --preset debug >/dev/null
+cmake --build --preset debug --target fensterbilder
+ablage=$(mktemp -d)
+trap 'rm -rf "$ablage"' EXIT
+
+# scene, picture, size
+while read -r szene bild groesse; do
+    build/debug/tests/ui/fensterbilder "$ablage" "$groesse" "$szene" 2>/dev/null
+    # few colours are enough for windows, and keep the repository small
+    convert "$ablage/$szene.png" -strip +dither -colors 128 "PNG8:docs/$bild.png"
+done <<'BILDER'
+rennen                   rennen             1280x800
+hauptfenster             hauptfenster       1024x768
+einstellungen_start      einstellungen      1180x800
+auswertung               auswertung         1280x900
+rundenverlauf            rundenverlauf      1280x800
+bestzeiten               bestzeiten         1000x560
+bestzeitverwaltung       bestzeitverwaltung 1180x760
+startampel               startampel         800x600
+BILDER
