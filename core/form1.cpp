@@ -183,6 +183,7 @@ void form1::Command1_Click() {
     renn_parameter& param = um_.param;
     param.auswertung_nach_rennen = um_.einst.auswertung_nach;
     param.wettkampf_kein = true;
+    param.training_autostart = false;
     if (kleiner_bildschirm()) {
         for (const std::size_t index : {std::size_t{4}, std::size_t{5}}) {
             spur[index].gesetzt(false);

@@ -28,10 +28,13 @@ struct renn_parameter {
     bool training_autostart = false;  ///< the small start light begins by itself
     bool wettkampf_kein = true;       ///< a single race, no competition
 
-    /// Undoes what a continuation has changed.
-    void einrichtung_wiederherstellen(bool zeitrennen) {
+    void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;
         spuren_anzahl = spuren_anzahl_gemerkt;
+    }
+    /// Undoes what a continuation has changed.
+    void einrichtung_wiederherstellen(bool zeitrennen) {
+        spuren_wiederherstellen();
         renn_ziel = renn_laenge;
         if (zeitrennen) {
             renndauer_ms = renn_laenge;

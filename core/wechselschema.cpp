@@ -111,8 +111,11 @@ schema_ablage wechselschema_speichern(const dateien& ablage, const std::vector<w
 
 spuren<int> wechsel_nachfolger(const wechsel_folge& folge, const spuren<bool>& aktiv) {
     std::vector<int> kreis;
-    std::copy_if(folge.begin() + 1, folge.end(), std::back_inserter(kreis),
-                 [](int wert) { return wert >= 1 && wert <= spuren_max; });
+    for (const int wert : folge) {  // a lane that stands there twice would lose a driver
+        if (wert >= 1 && wert <= spuren_max && std::find(kreis.begin(), kreis.end(), wert) == kreis.end()) {
+            kreis.push_back(wert);
+        }
+    }
     spuren<int> von;
     for (std::size_t platz = 0; platz < kreis.size(); ++platz) {
         von[kreis[(platz + 1) % kreis.size()]] = kreis[platz];

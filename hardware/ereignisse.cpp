@@ -21,4 +21,11 @@ void ereignis_tabelle::rundenzaehlung_leeren() {
     }
 }
 
+void ereignis_tabelle::strecke_leeren() {
+    rundenzaehlung_leeren();
+    for (ereignis_art nummer = erste_zwischenzeit; nummer < erste_zwischenzeit + sektorsensoren_max; ++nummer) {
+        (*this)[nummer].aktiv = false;
+    }
+}
+
 }  // namespace tarvel

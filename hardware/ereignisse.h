@@ -30,6 +30,10 @@ inline constexpr spuren<ereignis_art> tanken_ein{{32, 30, 28, 26, 36, 38}};
 inline constexpr spuren<ereignis_art> tanken_aus{{31, 29, 27, 25, 37, 39}};
 }  // namespace art
 
+inline constexpr int sektorsensoren_max = 12;
+/// Event of the first sector sensor; those of all lanes follow it, two a lane.
+inline constexpr ereignis_art erste_zwischenzeit = 42;
+
 struct ereignis_zeile {
     bool aktiv = false;       ///< an edge waits for the race logic
     bool pegel = false;       ///< level read in this poll
@@ -50,6 +54,8 @@ public:
     void ruhe_herstellen();
     /// Forgets waiting crossings of all lanes.
     void rundenzaehlung_leeren();
+    /// The same with the sector sensors.
+    void strecke_leeren();
 
     zeit_ms messzeit = 0;         ///< stamp of the last race tick
     spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed

@@ -42,7 +42,8 @@ void chaos::zuruecksetzen() {
 }
 
 void chaos::befehl_klick() {
-    if (!um_.zeitgeber.chaostimer->laeuft() && !um_.zeitgeber.chaosende_timer->laeuft()) {
+    if (!um_.zustand.rennen_beendet && !um_.zeitgeber.chaostimer->laeuft() &&
+        !um_.zeitgeber.chaosende_timer->laeuft()) {
         chaos_umschalten();
     }
 }
@@ -264,10 +265,7 @@ void chaos::chaosende_routine() {
     um_.ausgaben.chaos_aus();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
-    um_.ereignisse.rundenzaehlung_leeren();
-    for (int i = 0; i < sektorsensoren_max; ++i) {
-        um_.ereignisse[erste_zwischenzeit + i].aktiv = false;
-    }
+    um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
     zustand.chaos_aktiv = false;
@@ -334,9 +332,12 @@ void chaos::chaos_nachholen() {
 void chaos::aufheben() {
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
-        um_.zustand.unterbrechung_abziehen(um_.zeit.messzeit_lesen() - um_.zustand.pause.start);
+        um_.zustand.pause.dauer = um_.zeit.messzeit_lesen() - um_.zustand.pause.start;
+        um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
+        um_.ereignisse.strecke_leeren();
         kleine_ampeln(kleines_licht::gruen);
     }
+    chaos_nachholen();
     um_.fenster.entladen("k_ampel");
     zuruecksetzen();
 }

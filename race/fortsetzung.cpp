@@ -41,6 +41,9 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     um_.zeitgeber.alle_aus();
     const zeit_ms gefahren_ms = gefahren();
     zustand.pause_abzug = zustand.renn_ende_stempel - zustand.start_zeit - gefahren_ms;  // the run-on is no race time
+    ziel_vorher_ = um_.param.renn_ziel;
+    abbruch_vorher_ = zustand.rennabbruch;
+    dunkel_ = um_.bahn.Nachtabschaltung.sichtbar();
     um_.param.renn_ziel = neues_ziel;
     if (um_.ist_zeitrennen()) {
         um_.param.renndauer_rest_ms = neues_ziel - gefahren_ms;
@@ -107,6 +110,16 @@ void fortsetzung::spur_freigeben(int spur) {
     zustand.ch_durchfahrt = false;
 }
 
+void fortsetzung::zuruecknehmen() {
+    if (um_.zustand.fortsetzung_wartet) {
+        um_.zustand.fortsetzung_wartet = false;
+        um_.zustand.rennabbruch = abbruch_vorher_;
+        um_.param.renn_ziel = ziel_vorher_;
+        t_.ansicht.ziel_zeigen();
+        um_.bahn.Nachtabschaltung.sichtbar(dunkel_);
+    }
+}
+
 void fortsetzung::weiterfahren() {
     renn_zustand& zustand = um_.zustand;
     const zeit_ms fortsetz_zeit = um_.zeit.messzeit_lesen();  // as the end was read
@@ -115,7 +128,7 @@ void fortsetzung::weiterfahren() {
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.fortsetzung_wartet = false;
     um_.ereignisse.messzeit = fortsetz_zeit;
-    um_.ereignisse.rundenzaehlung_leeren();
+    um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     for (const int spur : alle_spuren) {
         if (zustand.spur[spur].ch_strafe_rest > 0) {
@@ -125,6 +138,7 @@ void fortsetzung::weiterfahren() {
     um_.zeitgeber.rennen_an();
     t_.ablauf.befehle_freigeben();
     t_.ansicht.freigeben();
+    um_.bahn.Nachtabschaltung.sichtbar(dunkel_);
 }
 
 }  // namespace tarvel

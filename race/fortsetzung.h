@@ -28,6 +28,8 @@ public:
     zeit_ms gefahren() const;
     /// All that comes before the light. `neues_ziel` counts from the first start: laps, or ms in a time race.
     void vorbereiten(zeit_ms neues_ziel);
+    /// The race ends before it has gone on: its result is the earlier one.
+    void zuruecknehmen();
     /// Green: the break comes off the race and off the lap that each lane is in.
     void weiterfahren();
 
@@ -38,6 +40,9 @@ private:
 
     renn_umgebung um_;
     teile t_;
+    zeit_ms ziel_vorher_ = 0;
+    bool abbruch_vorher_ = false;
+    bool dunkel_ = false;  ///< the dark cover lay over the race
 };
 
 }  // namespace tarvel

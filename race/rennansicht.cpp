@@ -26,22 +26,26 @@ double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl) {
 
 void rennansicht::texte_setzen() {
     bahn1& bahn = um_.bahn;
-    const bool zeitrennen = um_.ist_zeitrennen();
     sprache_r().anwenden(um_.ablage);
-    bahn.uhr1.uhrframe.text(zeitrennen ? bahn.wort.restzeit : bahn.wort.rennzeit);
+    bahn.uhr1.uhrframe.text(um_.ist_zeitrennen() ? bahn.wort.restzeit : bahn.wort.rennzeit);
     bahn.uhr2.uhrframe.text(bahn.wort.rennzeit);
     uhr_texte(bahn.uhr1, um_.einst.trennzeichen);
     uhr_texte(bahn.uhr2, um_.einst.trennzeichen);
     bahn.werbe_label.text(um_.txt.werbetext);
+    ziel_zeigen();
+    ansagen_setzen();
+}
+
+void rennansicht::ziel_zeigen() {
+    bahn1& bahn = um_.bahn;
     std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
-    if (zeitrennen) {
-        const zeit_teile dauer = zeit_zerlegen(um_.param.renndauer_ms);
+    if (um_.ist_zeitrennen()) {
+        const zeit_teile dauer = zeit_zerlegen(um_.param.renn_ziel);
         ziel = dauer.stunden > 0 ? std::to_string(dauer.stunden) + " " + bahn.wort.stunden + " " : "";
         ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +
                 bahn.wort.minuten;
     }
     bahn.ziel_label.text(ziel);
-    ansagen_setzen();
 }
 
 void rennansicht::ansagen_setzen() {

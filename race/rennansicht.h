@@ -26,6 +26,8 @@ public:
     /// Captions, and one column for each lane in the race; the controls of the other lanes are hidden.
     void spaltenansicht_oeffnen();
     void farben_setzen();
+    /// What is driven for.
+    void ziel_zeigen();
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
     /// The same with what the lanes have, for a race that goes on.

@@ -5,7 +5,13 @@ namespace tarvel {
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
     : um_(um), t_(t), belegung_(belegung), tastatur_(um.ereignisse, belegung, *this) {
     um_.bahn.Command1.bei_klick = [this] { t_.ablauf.rennstart_vorbereiten(); };
-    um_.bahn.Command2.bei_klick = [this] { rennen_abbrechen(); };
+    um_.bahn.Command2.bei_klick = [this] {
+        if (um_.zustand.fortsetzung_wartet) {
+            fenster_schliessen();  // a result is at stake already: it asks
+        } else {
+            rennen_abbrechen();
+        }
+    };
     um_.bahn.Command4.bei_klick = [this] { rennen_beenden(); };
 }
 

@@ -25,7 +25,9 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
     ende.laufendes_beenden = [this] {
+        fortsetzung.zuruecknehmen();
         chaos.aufheben();
+        zaehlung.runden_auswerten();  // who crossed the line while the pause began
         tanken.beenden();
     };
     tanken.rundenzeiten_pruefen = [this](zeit_ms dauer, int zeile, int spur) {

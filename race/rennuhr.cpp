@@ -88,6 +88,9 @@ void rennuhr::rennuhr_anzeigen() {
 }
 
 void rennuhr::fortsetzen_uhreinstellen() {
+    const zeit_ms rest = um_.ist_zeitrennen() ? um_.param.renndauer_ms : gefahren();
+    stunden_zeigen(um_.bahn.uhr1, zeit_zerlegen(rest).stunden > 0);
+    stunden_zeigen(um_.bahn.uhr2, zeit_zerlegen(gefahren()).stunden > 0);
     schreiben(gefahren(), um_.param.renndauer_ms);
 }
 

@@ -4,14 +4,12 @@
 #include <memory>
 
 #include "core/spuren.h"
+#include "hardware/ereignisse.h"
 #include "platform/zeitgeber.h"
 
 namespace tarvel {
 
 inline constexpr int soundsensoren_max = 8;
-inline constexpr int sektorsensoren_max = 12;
-/// Event of the first sector sensor; those of all lanes follow it, two a lane.
-inline constexpr int erste_zwischenzeit = 42;
 
 /// The timers of the race window.
 struct rennzeitgeber {

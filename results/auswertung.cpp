@@ -273,12 +273,16 @@ void auswertung::nachzaehlen_beenden() {
 }
 
 void auswertung::training_tick() {
+    if (meter_eingabe_an_ || um_.fenster.ist_offen("rundenspeichern") ||
+        um_.fenster.ist_offen("beste_zeiten_fenster")) {
+        return;  // nobody is thrown out of an entry
+    }
     ++training_sekunden_;
     const int rest = std::max(um_.einst.training_wechseldauer - training_sekunden_, 0);
     trainingslabel.text(wort_.training + "  " + std::to_string(rest) + "   ");
     if (training_sekunden_ > 0 && rest == 0) {
         tmr_dauertraining_->aus();
-        um_.param.training_autostart = true;
+        training_automatik_ = true;
         bestzeiten_vor(um_.einst.training_weiter != 0 ? aktion::fortsetzen : aktion::neu_starten);
     }
 }

@@ -125,7 +125,7 @@ public:
 
 private:
     /// What the list of a lane shows beside the lap times.
-    enum class anzeige { zeit, mit_sektorzeit, mit_beidem, mit_tempo };
+    enum class anzeige { zeit, mit_sektorzeit, mit_tempo, mit_beidem };
     enum class aktion { keine, wiederholen, neu_starten, fortsetzen, hauptmenue };
 
     struct worte {
@@ -177,6 +177,8 @@ private:
     void bahn_neu_oeffnen();
     void wechselschema_anwenden();
     bool ziel_lesen(zeit_ms& ziel) const;
+    /// The same with its messages.
+    bool ziel_pruefen(zeit_ms& ziel);
 
     rennen& r_;
     const renn_umgebung& um_;
@@ -194,6 +196,7 @@ private:
     bool meter_eingabe_an_ = false;
     int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
     int training_sekunden_ = 0;
+    bool training_automatik_ = false;  ///< what is being left goes on without the operator
 };
 
 }  // namespace tarvel

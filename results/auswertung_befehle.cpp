@@ -21,7 +21,12 @@ zeit_ms ziel_max(bool zeitrennen) {
 void auswertung::befehle_verbinden() {
     Command1.bei_klick = [this] { bestzeiten_vor(aktion::wiederholen); };
     Command2.bei_klick = [this] { bestzeiten_vor(aktion::neu_starten); };
-    Command3.bei_klick = [this] { bestzeiten_vor(aktion::fortsetzen); };
+    Command3.bei_klick = [this] {
+        zeit_ms ziel = 0;
+        if (ziel_pruefen(ziel)) {
+            bestzeiten_vor(aktion::fortsetzen);
+        }
+    };
     Command4.bei_klick = [this] {
         auswertung_anzeigen();
         u_.speichern.oeffnen();
@@ -66,7 +71,7 @@ void auswertung::anzeige_weiterschalten(std::size_t i) {
         um_.meldungen.zeigen(wort_.keine_sektoren, um_.txt.titel[0]);
         return;
     }
-    const bool letzte = anzeige_modus_.at(i) == anzeige::mit_tempo;
+    const bool letzte = anzeige_modus_.at(i) == anzeige::mit_beidem;
     anzeige_modus_.at(i) = letzte ? anzeige::zeit : static_cast<anzeige>(static_cast<int>(anzeige_modus_.at(i)) + 1);
     liste.at(i).leeren();
     rundenliste_schreiben(static_cast<int>(i) + 1);
@@ -140,6 +145,7 @@ void auswertung::runde_loeschen() {
 
 void auswertung::ausfuehren(aktion was) {
     aktion_nach_bestzeiten_ = aktion::keine;
+    um_.param.training_autostart = std::exchange(training_automatik_, false);
     switch (was) {
         case aktion::wiederholen:
             cmd1_fortsetzung();
@@ -155,6 +161,9 @@ void auswertung::ausfuehren(aktion was) {
             break;
         case aktion::keine:
             break;
+    }
+    if (um_.fenster.ist_offen("auswertung")) {
+        um_.param.training_autostart = false;  // it did not come to that
     }
 }
 
@@ -227,7 +236,9 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
     int meiste = 0;
     int wenigste = runden_max;
     for (const int spur : alle_spuren) {
-        if (um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert) {
+        const bool faehrt = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
+                            (um_.einst.freie_slots || !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]));
+        if (faehrt) {
             meiste = std::max(meiste, u_.stand.runden(spur));
             wenigste = std::min(wenigste, u_.stand.runden(spur));
         }
@@ -236,22 +247,29 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
     return ziel > meiste || (ziel == meiste && ziel > wenigste && !um_.einst.zielmodus_erster);
 }
 
-void auswertung::cmd3_fortsetzung() {
-    zeit_ms ziel = 0;
+bool auswertung::ziel_pruefen(zeit_ms& ziel) {
     const bool ziel_offen = ziel_lesen(ziel);
     if (std::max(ziel, um_.param.renn_ziel) > ziel_max(um_.ist_zeitrennen())) {
         um_.meldungen.zeigen(wort_.maximum, wort_.maximum_titel);
-        return;
+        return false;
     }
     if (!ziel_offen) {
         um_.meldungen.zeigen(um_.txt.meldung[13], um_.txt.titel[1]);
         neues_ziel.fokus_setzen();
+    }
+    return ziel_offen;
+}
+
+void auswertung::cmd3_fortsetzung() {
+    zeit_ms ziel = 0;
+    if (!ziel_pruefen(ziel)) {
         return;
     }
     if (!automatisch_speichern()) {
         return;
     }
     rennen_verlassen();
+    um_.param.spuren_wiederherstellen();  // a place without a driver goes round as well
     wechselschema_anwenden();
     r_.fortsetzung.vorbereiten(ziel);
     um_.fenster.zeigen("k_ampel");

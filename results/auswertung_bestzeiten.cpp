@@ -37,6 +37,7 @@ void auswertung::bestzeiten_pruefen() {
 }
 
 void auswertung::bestzeiten_vor(aktion danach) {
+    nachzaehlen_beenden();  // what is offered and saved from here on stands
     if (neue_bestzeit_) {
         bestzeiten_oeffnen(danach);
     } else {

@@ -39,8 +39,11 @@ private:
 
     /// A separator within a name would move the columns.
     std::string name(std::string text) const {
-        for (std::size_t stelle = text.find(trenner_); stelle != std::string::npos; stelle = text.find(trenner_)) {
-            text.replace(stelle, trenner_.size(), " ");
+        const std::string ersatz = trenner_ == " " ? "_" : " ";
+        std::size_t stelle = text.find(trenner_);
+        while (!trenner_.empty() && stelle != std::string::npos) {
+            text.replace(stelle, trenner_.size(), ersatz);
+            stelle = text.find(trenner_, stelle + ersatz.size());
         }
         return text;
     }

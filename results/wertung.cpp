@@ -38,7 +38,9 @@ std::string wertung::meter_text(int spur, char komma) const {
 
 void wertung::meter_auswerten() {
     for (const int spur : alle_spuren) {
-        if (um_.param.spur_aktiv[spur]) {
+        if (um_.zustand.spur[spur].disqualifiziert) {
+            stand_[spur] = {};
+        } else if (um_.param.spur_aktiv[spur]) {
             stand_[spur].meter += um_.param.spurlaenge[spur] * (runden(spur) - stand_[spur].runden);
             stand_[spur].runden = runden(spur);
         }
@@ -46,12 +48,16 @@ void wertung::meter_auswerten() {
 }
 
 void wertung::restmeter_zuschlagen(int spur, double meter) {
+    if (um_.zustand.spur[spur].disqualifiziert) {
+        return;
+    }
     stand_[spur].meter += meter;
     stand_[spur].restmeter += meter;
 }
 
 void wertung::platzierung_berechnen() {
     rundenspeicher& speicher = um_.zustand.rundenzeiten;
+    const sortier_modus modus = sortier_modus_von(um_.param.auswertung_nach_rennen);
     for (const int spur : alle_spuren) {
         platz_werte& werte = werte_[spur];
         if (!um_.param.spur_aktiv[spur]) {
@@ -62,12 +68,16 @@ void wertung::platzierung_berechnen() {
         const spur_zustand& zustand = um_.zustand.spur[spur];
         const double meter =
             std::max(zahl_lesen(meter_text(spur, '.')), 0.0);  // what is shown decides, not what it hides
-        werte = {true, zustand.runden, meter, zeit_ms{1000} * zustand.strafzeit, speicher.beste(spur)};
+        const int runden = std::max(zustand.runden, -1);  // laps taken off before the first crossing go further down
+        werte = {true, runden, meter, zeit_ms{1000} * zustand.strafzeit, beste_runde(spur)};
+        if (zustand.disqualifiziert && modus == sortier_modus::beste) {
+            werte.beste_runde = beste_inaktiv;  // no lap, and so no fast one either
+        }
         for (int runde = 1; runde <= zustand.runden; ++runde) {
             werte.gesamtzeit += speicher.rundenzeit(spur, runde);
         }
     }
-    const spuren<int> rang_folge = rang_folge_bilden(werte_, sortier_modus_von(um_.param.auswertung_nach_rennen));
+    const spuren<int> rang_folge = rang_folge_bilden(werte_, modus);
     for (int rang = 1; rang <= spuren_max; ++rang) {
         platzierung_[rang_folge[rang]] = rang;
     }

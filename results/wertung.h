@@ -39,7 +39,7 @@ public:
     zeit_ms gesamtzeit(int spur) const { return werte_[spur].gesamtzeit; }
     /// Total time behind the leader's; below 0 for a lane that has the lower time in fewer laps.
     zeit_ms abstand(int spur) const { return gesamtzeit(spur) - gesamtzeit(fuehrende_spur_); }
-    zeit_ms beste_runde(int spur) const { return werte_[spur].beste_runde; }
+    zeit_ms beste_runde(int spur) const { return um_.zustand.rundenzeiten.beste(spur); }
     double meter(int spur) const { return stand_[spur].meter; }
     double restmeter(int spur) const { return stand_[spur].restmeter; }
     /// Two decimals behind `komma`: "23,40" in windows, "23.40" in files.

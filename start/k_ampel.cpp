@@ -54,12 +54,13 @@ void k_ampel::laden() {
     Command1.aktiviert(true);
     k_nachtabschaltung.sichtbar(false);
     titel.fokus_setzen();  // a second press of the chaos key's neighbour must not end the pause
-    if (um_.param.training_autostart) {
+    if (um_.param.training_autostart && !um_.zustand.chaos_aktiv) {
         training_autotimer_->an();
     }
 }
 
 void k_ampel::entladen() {
+    um_.param.training_autostart = false;
     zeitgeber_aus();
 }
 

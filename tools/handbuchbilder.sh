@@ -23,5 +23,4 @@ auswertung               auswertung         1280x900
 rundenverlauf            rundenverlauf      1280x800
 bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760
-startampel               startampel         800x600
 BILDER

@@ -68,7 +68,6 @@ Oberflaeche::Oberflaeche(programm& p)
     k_ampel.bei_schliessen = [&p] { p.k_ampel.beginnen(); };
     auswertung.bei_schliessen = [&p] { p.auswertung.fenster_schliessen(); };
     rundenspeichern.bei_schliessen = [&p] { p.fenster.entladen("rundenspeichern"); };
-    auswertung.bei_schliessen = [&p] { p.auswertung.cmd5_fortsetzung(); };
     bestzeiten.bei_schliessen = [&p] { p.beste_zeiten_fenster.schliessen(); };
     bestzeitverwaltung.bei_schliessen = [&p] { p.beste_zeiten_verwaltung.schliessen(); };
     speichern.bei_schliessen = [&p] { p.fenster.entladen("speichernfenster"); };

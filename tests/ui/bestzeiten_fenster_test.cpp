@@ -93,5 +93,18 @@ TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
     EXPECT_TRUE(finde<QLabel>(o.form1, "Form1.Label_fahrzeug_0")->toolTip().contains("&lt;b&gt;")) << "no markup";
 }
 
+TEST_F(BestzeitenFenster, SchliessenDerAuswertungFragtWieIhrKnopf) {
+    t.mit_bestzeiten = true;
+    t.p.einst.beste_modus = 2;
+    t.p.einst.zielmodus_erster = true;
+    t.starten("Runden", "1", {1});
+    t.runde_nach(1000, "1");
+    t.runde_nach(8000, "1");
+    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    o.takt.ausfuehren();
+    o.auswertung.close();
+    EXPECT_TRUE(t.p.fenster.ist_offen("beste_zeiten_fenster"));
+}
+
 }  // namespace
 }  // namespace tarvel

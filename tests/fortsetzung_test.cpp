@@ -1,0 +1,276 @@
+#include "race/fortsetzung.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "core/text.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+/// Races that go on from their result.
+class Fortsetzung : public testing::Test {
+protected:
+    Fortsetzung() {
+        t.p.einst.zielmodus_erster = true;
+        t.p.einst.runde_beenden = false;
+        t.p.einst.sensor_timeout = 0;
+        t.p.einst.aut_speichern = false;
+        t.p.form1.wertmin.eingeben("1");
+    }
+
+    bool offen(const char* name) { return t.p.fenster.ist_offen(name); }
+    void gruen() {
+        t.p.k_ampel.Command1.klicken();
+        t.maschine.laufen(1500 * 3 + 2500);
+    }
+    int spur_von(const std::string& fahrer) {
+        const auto hat = [&](int spur) { return t.p.param.fahrer_name[spur] == fahrer; };
+        return *std::find_if(alle_spuren.begin(), alle_spuren.end(), hat);
+    }
+
+    test::testprogramm t;
+    auswertung& a = t.p.auswertung;
+    wertung& w = t.p.wertung;
+    renn_zustand& zustand = t.p.rennen.zustand;
+};
+
+TEST_F(Fortsetzung, UhrZielUndKopfZeigenDieNeueDauer) {
+    t.p.einst.nachtrennen_modus = 1;
+    t.starten("Zeit", "1", {1});
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(22456);
+    t.bahn().Command4.klicken();
+    a.neues_ziel.eingeben("120");
+    a.Command3.klicken();
+    EXPECT_EQ(t.bahn().uhr1.stunden.text() + ":" + t.bahn().uhr1.minuten.text(), "01:59");
+    EXPECT_TRUE(t.bahn().uhr1.stunden.sichtbar());
+    EXPECT_EQ(t.bahn().ziel_label.text(), "2 h 0:00 min");
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(a.neues_ziel.text(), "2") << "nothing was driven of it";
+    EXPECT_NE(a.kopf_label.text().find("1:00 min"), std::string::npos) << a.kopf_label.text();
+    a.neues_ziel.eingeben("2");
+    a.Command3.klicken();
+    gruen();
+    EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar()) << "a night race stays one";
+    t.maschine.laufen(120000);
+    EXPECT_NE(a.kopf_label.text().find("2:00 min"), std::string::npos) << a.kopf_label.text();
+}
+
+TEST_F(Fortsetzung, FreierPlatzWandertMit) {
+    t.p.einst.freie_slots = false;
+    t.einrichten("Runden", "2", {1, 2, 3});
+    t.p.param.fahrer_name[3] = t.p.txt.frei_text + " 1";
+    t.bahn().Command1.klicken();
+    for (const zeit_ms dauer : {1000, 2000, 2000}) {
+        t.runde_nach(dauer, "12");
+    }
+    a.Command3.klicken();
+    EXPECT_FALSE(t.p.param.spur_aktiv[2]) << "the free place has come to lane 2";
+    gruen();
+    t.runde_nach(2000, "13");
+    t.runde_nach(2000, "13");
+    ASSERT_TRUE(offen("auswertung"));
+    a.Command3.klicken();
+    EXPECT_TRUE(t.p.param.spur_aktiv[2]);
+    EXPECT_FALSE(t.p.param.spur_aktiv[1]);
+    EXPECT_EQ(t.p.param.fahrer_name[2], "Fahrer 1");
+}
+
+TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet) {
+    t.p.einst.sensor_timeout = 2000;
+    t.p.einst.zielmodus_erster = false;
+    t.starten("Zeit", "5", {1, 2});
+    t.runde_nach(1000, "12");
+    t.maschine.laufen(4000);
+    t.bahn().Command3.klicken();
+    t.runde_nach(500, "1");
+    t.maschine.laufen(10000);
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(w.runden(1), 1);
+    EXPECT_NEAR(static_cast<double>(w.gesamtzeit(1)), 4500, 2);
+    EXPECT_EQ(w.runden(2), 0);
+    t.bahn().Command3.klicken();
+    EXPECT_FALSE(zustand.chaos_aktiv) << "no pause behind the result";
+}
+
+TEST_F(Fortsetzung, WasVorGruenGeschiehtZaehltNicht) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
+    t.p.einst.sektor_an = {true, true, true, false};
+    t.starten("Runden", "2", {1});
+    t.runde_nach(1000, "1");
+    t.runde_nach(3000, "1");
+    t.bahn().Command4.klicken();
+    a.Command3.klicken();
+    for (const char* taste : {"1", "u", "c"}) {
+        t.taste(taste);
+    }
+    gruen();
+    t.maschine.laufen(10);
+    EXPECT_EQ(w.runden(1), 1);
+    EXPECT_EQ(t.p.rennen.sektoren.sektorzeit(1, 1, 2), 0);
+    EXPECT_FALSE(zustand.chaos_aktiv);
+}
+
+TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
+    t.starten("Runden", "2", {1});
+    t.bahn().Command4.klicken();
+    a.Command3.klicken();
+    t.bahn().Command2.klicken();
+    EXPECT_TRUE(offen("bahn1")) << "the result so far is at stake";
+    t.maschine.antwort = true;
+    t.bahn().Command2.klicken();
+    EXPECT_TRUE(offen("Form1"));
+    EXPECT_FALSE(offen("k_ampel"));
+}
+
+TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
+    t.p.einst.training_art = 1;
+    t.p.einst.training_wechseldauer = 3;
+    t.p.einst.training_weiter = 1;
+    t.einrichten("Runden", "1", {1});
+    t.p.param.training_laeuft = true;
+    t.bahn().Command1.klicken();
+    t.bahn().Command4.klicken();
+    a.neues_ziel.eingeben("0");
+    t.maschine.laufen(3000);
+    ASSERT_TRUE(offen("auswertung")) << "that is no target";
+    a.Command5.klicken();
+    t.p.einst.chaosampel_an = true;
+    t.starten("Runden", "5", {1});
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(zustand.chaos_aktiv) << "a pause ends when the race director says so";
+}
+
+/// What a driver has driven, kept beside the program: on a clock that runs only while the race does.
+struct fahrer_modell {
+    std::string name;
+    zeit_ms zuletzt = -1;
+    zeit_ms bereit_ab = 0;
+    std::vector<zeit_ms> runden = {};
+};
+
+class FortsetzungModell : public Fortsetzung {
+protected:
+    bool eins_von(unsigned n) { return zufall() % n == 0; }
+
+    /// Drives at random, with pauses, until the race ends by itself or by hand.
+    void bis_zum_ende() {
+        for (int i = 0; i < 300000 && !zustand.rennen_beendet; ++i) {
+            spuren<int> vorher;
+            for (const int spur : alle_spuren) {
+                vorher[spur] = t.spur(spur).runden;
+            }
+            for (const fahrer_modell& f : fahrer) {
+                if (!zustand.chaos_aktiv && uhr >= f.bereit_ab && eins_von(1500)) {
+                    t.p.rennen.befehle.taste('0' + spur_von(f.name));
+                }
+            }
+            const zeit_ms stempel = uhr;
+            const bool laeuft = !zustand.chaos_aktiv;
+            t.maschine.laufen(1);
+            uhr += laeuft && !zustand.rennen_beendet ? 1 : 0;
+            for (fahrer_modell& f : fahrer) {
+                const int spur = spur_von(f.name);
+                if (t.spur(spur).runden > vorher[spur]) {
+                    if (f.zuletzt >= 0) {
+                        f.runden.push_back(stempel - f.zuletzt);
+                    }
+                    f.zuletzt = stempel;
+                    f.bereit_ab = uhr + 1400;
+                }
+            }
+            if (eins_von(zustand.chaos_aktiv ? 3000 : 9000)) {
+                t.bahn().Command3.klicken();
+            } else if (eins_von(40000)) {
+                t.bahn().Command4.klicken();
+            }
+        }
+        ASSERT_TRUE(offen("auswertung"));
+    }
+
+    void vergleichen() {
+        for (const fahrer_modell& f : fahrer) {
+            const int spur = spur_von(f.name);
+            ASSERT_EQ(w.runden(spur), static_cast<int>(f.runden.size())) << f.name;
+            for (std::size_t i = 0; i < f.runden.size(); ++i) {
+                const zeit_ms zeit = zustand.rundenzeiten.rundenzeit(spur, static_cast<int>(i) + 1);
+                EXPECT_NEAR(static_cast<double>(zeit), static_cast<double>(f.runden[i]), 4) << f.name << " " << i + 1;
+            }
+        }
+    }
+
+    void runde_loeschen() {
+        fahrer_modell& f = fahrer[zufall() % fahrer.size()];
+        if (f.runden.size() < 2) {
+            return;
+        }
+        const std::size_t runde = 1 + zufall() % (f.runden.size() - 1);
+        a.liste.at(feld_index(spur_von(f.name))).auswaehlen(static_cast<int>(runde));
+        a.Command8.klicken();
+        f.runden[runde - 1] += f.runden[runde];
+        f.runden.erase(f.runden.begin() + static_cast<std::ptrdiff_t>(runde));
+    }
+
+    void fortsetzen() {
+        if (eins_von(2)) {
+            a.spurwechsel.umschalten();
+        }
+        for (fahrer_modell& f : fahrer) {
+            if (t.spur(spur_von(f.name)).ziel_erreicht && f.zuletzt >= 0) {  // was home: its next lap begins at green
+                f.zuletzt = uhr;
+                f.bereit_ab = uhr + 1400;
+            }
+        }
+        a.Command3.klicken();
+        if (offen("auswertung")) {
+            a.neues_ziel.eingeben("50");
+            a.Command3.klicken();
+        }
+        ASSERT_TRUE(offen("k_ampel"));
+        t.maschine.laufen(static_cast<zeit_ms>(zufall() % 30000));
+    }
+
+    std::mt19937 zufall{7};
+    std::vector<fahrer_modell> fahrer;
+    zeit_ms uhr = 0;
+};
+
+TEST_F(FortsetzungModell, RundenBleibenWieSieGefahrenWurden) {
+    t.p.einst.chaos_strafzeit = -1;
+    for (int rennen = 0; rennen < 6; ++rennen) {
+        SCOPED_TRACE(rennen);
+        const bool zeitrennen = eins_von(2);
+        t.p.einst.zielmodus_erster = eins_von(2);
+        t.p.einst.runde_beenden = eins_von(3);
+        t.einrichten(zeitrennen ? "Zeit" : "Runden", zeitrennen ? "0,20" : "5", {1, 2, 4});
+        fahrer = {{"Fahrer 1"}, {"Fahrer 2"}, {"Fahrer 4"}};
+        uhr = 0;
+        t.bahn().Command1.klicken();
+        for (int teil = 0; teil < 3; ++teil) {
+            bis_zum_ende();
+            vergleichen();
+            ASSERT_FALSE(HasFailure());
+            if (teil == 2) {
+                break;
+            }
+            runde_loeschen();
+            fortsetzen();
+            if (eins_von(4)) {  // not yet after all
+                t.bahn().Command4.klicken();
+                vergleichen();
+                fortsetzen();
+            }
+            gruen();
+        }
+        a.Command5.klicken();
+        ASSERT_TRUE(offen("Form1"));
+    }
+}
+
+}  // namespace
+}  // namespace tarvel
