@@ -80,5 +80,23 @@ TEST_F(Namensliste, GeladeneListeAendertDieGewaehltenFahrerNicht) {
     EXPECT_EQ(p.form1.fahrer[0].text(), "Fahrer 1");
 }
 
+TEST_F(Namensliste, JederMitgelieferteNameHatSeinBild) {
+    test::testprogramm t;
+    const dateien mitgeliefert{std::filesystem::path(TARVEL_QUELLEN) / "data"};
+    const auto pruefen = [&](namensliste& l, const char* datei) {
+        eintraege erwartet = l.eintraege();
+        for (listeneintrag& eintrag : erwartet) {
+            eintrag.bild = eintrag.name;
+        }
+        ASSERT_TRUE(l.laden(mitgeliefert, datei));
+        EXPECT_EQ(l.eintraege(), erwartet) << "run tools/bilder.sh, then tools/grunddateien";
+        for (const listeneintrag& eintrag : erwartet) {
+            EXPECT_EQ(l.bilddatei(mitgeliefert, eintrag.name), l.listenart().bildordner + "/" + eintrag.name + ".jpg");
+        }
+    };
+    pruefen(t.p.fahrerliste, "Listen/fahrer.lst");
+    pruefen(t.p.fahrzeugliste, "Listen/fahrzeuge.kfz");
+}
+
 }  // namespace
 }  // namespace tarvel

@@ -1,5 +1,6 @@
 // Writes the files that an installed program starts with from the built-in defaults. Usage: grunddateien <folder>
-// Run it after a change of the defaults, with the checkout's data/ as folder.
+// Run it after a change of the defaults, with the checkout's data/ as folder. The lists name the pictures that are
+// there.
 
 #include <cstdio>
 #include <filesystem>
@@ -15,6 +16,8 @@ int main(int argc, char** argv) {
     }
     tarvel::test::testprogramm t;
     const tarvel::dateien ziel{std::filesystem::path(argv[1])};
+    t.p.fahrerliste.bilder_uebernehmen(ziel, "nopic");
+    t.p.fahrzeugliste.bilder_uebernehmen(ziel, "nocar");
     bool geschrieben = ziel.zeilen_schreiben("Einstellungen\\einstellungen.ini", t.p.datei.schreiben()) &&
                        t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
                        t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz") &&

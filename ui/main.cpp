@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <filesystem>
@@ -9,9 +10,22 @@
 #include "ui/oberflaeche.h"
 #include "ui/stil.h"
 
+namespace {
+
+QIcon programmsymbol() {
+    QIcon symbol;
+    for (const int seite : {16, 24, 32, 48, 64, 128, 256}) {
+        symbol.addFile(QString(":/bilder/symbol_%1.png").arg(seite), QSize(seite, seite));
+    }
+    return symbol;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     QApplication anwendung(argc, argv);
     QApplication::setApplicationName("Tarvel");
+    QApplication::setWindowIcon(programmsymbol());
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator qt_texte;  // of the colour dialog and the like
     if (qt_texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
