@@ -27,6 +27,16 @@ struct buehne {
         fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
         constexpr std::array<const char*, spuren_max> namen{"Anna",         "Ben Olsen",    "Carl-Friedrich von Gauß",
                                                             "Dora Schmidt", "Emil Lindner", "Frieda"};
+        for (const int spur : alle_spuren) {  // the club's drivers look like those of a fresh installation
+            const std::string bild = std::string("pictures/") + namen.at(feld_index(spur)) + ".jpg";
+            p.ablage.kopieren("pictures/Fahrer " + std::to_string(spur) + ".jpg", bild);
+        }
+        p.fahrerliste.eingebaut({namen.begin(), namen.end()});
+        p.fahrerliste.laden(p.ablage, "keine Datei");  // so that these names are its rows
+        p.fahrerliste.bilder_uebernehmen(p.ablage, "nopic");
+        p.fahrzeugliste.bilder_uebernehmen(p.ablage, "");
+        p.form1.listen_zeigen();
+        p.einst.fahrzeugbild_an = true;
         for (const int spur : alle_spuren) {
             const std::size_t i = feld_index(spur);
             if (!p.form1.spur.at(i).gesetzt()) {
@@ -40,7 +50,6 @@ struct buehne {
         p.form1.beste_zeiten_anzeigen();
         p.einst.zielmodus_erster = true;
         p.einst.runde_beenden = false;
-        p.einst.fahrzeugbild_an = true;
         t.mit_bestzeiten = true;
         p.fenster.zeigen("Form1");
     }
