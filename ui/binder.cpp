@@ -168,7 +168,12 @@ QPushButton* Binder::knopf(befehl& element, const QString& name, const char* rol
     }
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
-    verbinden(element, widget, name, [&element, widget] { text_nachfuehren(widget, element); });
+    verbinden(element, widget, name, [this, &element, widget] {
+        const QString text = kuerzel_.vergeben(widget, als_text(element.text()));
+        if (widget->text() != text) {
+            widget->setText(text);
+        }
+    });
     return widget;
 }
 

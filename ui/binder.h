@@ -15,6 +15,7 @@
 
 #include "core/steuerelemente.h"
 #include "ui/bildtakt.h"
+#include "ui/kuerzel.h"
 #include "ui/lampe.h"
 #include "ui/textanzeige.h"
 
@@ -68,6 +69,7 @@ private:
     QString fenster_;
     QWidget* eltern_;  ///< of each new widget, until a layout takes it
     double skala_ = 1;
+    Kuerzel kuerzel_;
     std::vector<std::unique_ptr<Bindung>> bindungen_;
     std::vector<std::function<void()>> schriften_;
 };

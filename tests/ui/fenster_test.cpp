@@ -270,5 +270,27 @@ TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
     }
 }
 
+TEST_F(Oberflaeche, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
+    QStringList kuerzel;
+    for (const QPushButton* knopf : o.form1.findChildren<QPushButton*>()) {
+        const qsizetype platz = knopf->text().indexOf('&');
+        if (platz >= 0) {
+            kuerzel << knopf->text().mid(platz + 1, 1).toLower();
+        }
+    }
+    EXPECT_GE(kuerzel.size(), 10);
+    EXPECT_EQ(kuerzel.removeDuplicates(), 0);
+    t.p.form1.Command1.text("R && B");
+    o.takt.ausfuehren();
+    auto* knopf = finde<QPushButton>(o.form1, "Form1.Command1");
+    EXPECT_EQ(QString(knopf->text()).remove("&&"), "&R  B") << "an ampersand of the text is no mark";
+    t.p.form1.Command1.text("Einzelrennen");
+    o.takt.ausfuehren();
+    o.form1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
+    QTest::keyClick(&o.form1, knopf->text().at(knopf->text().indexOf('&') + 1).toLower().toLatin1(), Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen("bahn1"); }, 2000)) << "the press is shown first";
+}
+
 }  // namespace
 }  // namespace tarvel
