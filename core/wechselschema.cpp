@@ -59,6 +59,12 @@ std::optional<wechsel_folge> wechsel_folge_lesen(std::string_view text) {
             marken += zeichen == 'p' ? 'P' : zeichen;
         }
     }
+    for (int wert = 1; !marken.empty() && wert <= wechsel_pause; ++wert) {  // who drives three lanes names three
+        const std::string fehlende = marke(wert);
+        if (marken.size() < zeichen_anzahl && marken.find(fehlende) == std::string::npos) {
+            marken += fehlende;
+        }
+    }
     return eintrag_lesen("", marken, "").folge;
 }
 

@@ -24,7 +24,7 @@ struct wechselschema {
     std::optional<wechsel_folge> folge;  ///< none for an invalid entry
 };
 
-/// Seven different marks, with or without "-" and blanks between them.
+/// Different marks, with or without "-" and blanks between them; lanes that are not named follow behind, and the pause.
 std::optional<wechsel_folge> wechsel_folge_lesen(std::string_view text);
 /// "1-6-5-4-3-2-P"
 std::string wechsel_folge_text(const wechsel_folge& folge);

@@ -99,8 +99,9 @@ void fortsetzung::standzeit_abziehen(int spur) {
 void fortsetzung::spur_freigeben(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     const bool rest_zu_verbuessen = zustand.ch_strafe_rest > 0;
+    const bool mitten_in_der_runde = zustand.runden >= 0 && !zustand.ziel_erreicht;
+    zustand.runden_vorher = std::max(zustand.runden, 0) + (mitten_in_der_runde ? 1 : 0);
     zustand.ziel_erreicht = !um_.param.spur_aktiv[spur];
-    zustand.runden_vorher = std::max(zustand.runden, 0);
     zustand.fruehstart_sperre = rest_zu_verbuessen;
     zustand.strom_aus = rest_zu_verbuessen || zustand.disqualifiziert;
     zustand.tank_kontakt = false;

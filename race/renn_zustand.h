@@ -14,7 +14,7 @@ enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
 struct spur_zustand {
     int runden = -1;             ///< laps counted; -1 before the first crossing, which makes it 0
     int runden_zeile = 0;        ///< always `runden` + 1: the row of the lap store that the next crossing fills
-    int runden_vorher = 0;       ///< laps of earlier parts of a continued race, perhaps driven on another lane
+    int runden_vorher = 0;       ///< laps up to this one were driven, in whole or in part, before the race went on
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
     zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
     int strafzeit = 0;           ///< time penalty in seconds

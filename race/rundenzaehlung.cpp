@@ -146,7 +146,7 @@ bool rundenzaehlung::runde_abziehen(int spur) {
         zustand.runden = 0;
     }
     zustand.runden_zeile = zustand.runden + 1;
-    zustand.runden_vorher = std::min(zustand.runden_vorher, std::max(zustand.runden, 0));
+    zustand.runden_vorher = std::min(zustand.runden_vorher, std::max(zustand.runden, 0) + 1);
     um_.zustand.rundenzeiten.zeile_kopieren(spur, zustand.runden_zeile + 1, zustand.runden_zeile);
     um_.zustand.rundenzeiten.leeren(spur, zustand.runden_zeile + 1);
     return true;

@@ -194,7 +194,7 @@ bool tanken::runde_nehmen(int spur) {
     zustand.pause_abzug += um_.zustand.rundenzeiten.pause(spur, zustand.runden);
     --zustand.runden;
     --zustand.runden_zeile;
-    zustand.runden_vorher = std::min(zustand.runden_vorher, zustand.runden);
+    zustand.runden_vorher = std::min(zustand.runden_vorher, zustand.runden + 1);
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
     um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
     return true;

@@ -23,6 +23,7 @@ using plattform::zeitgeber_art;
 }  // namespace
 
 auswertung::auswertung(const umfeld& um) : r_(um.r), um_(um.r.umgebung), u_(um) {
+    spurwechsel.gesetzt(true);
     zeitgeber_verbinden(um.zeitgeber);
     befehle_verbinden();
     for (std::size_t i = 0; i < spuren_max; ++i) {
@@ -113,6 +114,8 @@ bool auswertung::ist_intervalltraining() const {
 void auswertung::kopf_schreiben() {
     std::string kopf = um_.ist_zeitrennen() ? wort_.zeitrennen : wort_.rundenrennen;
     kopf += "  ·  " + um_.bahn.ziel_label.text();
+    const auto modus = static_cast<std::size_t>(sortier_modus_von(um_.param.auswertung_nach_rennen));
+    kopf += "  ·  " + wort_.wertung.at(modus - 1);
     if (um_.zustand.rennabbruch) {
         kopf += "  ·  " + wort_.vorzeitig;
     }
@@ -131,7 +134,6 @@ void auswertung::bedienung_einrichten() {
     Command1.sichtbar(!intervall);
     Frame1.text(ohne_spurwechsel ? wort_.rennen : wort_.spur_wechseln);
     Frame1.sichtbar(!wettkampf && !intervall);
-    spurwechsel.gesetzt(true);
     tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
     trainingslabel.sichtbar(intervall);
     verlauf_zeigen(false);

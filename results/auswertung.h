@@ -79,7 +79,7 @@ public:
     befehl Command_drucken;
     befehl Command_pdf;
     rahmen Frame1;          ///< the two commands that move drivers
-    haken spurwechsel;      ///< set for each result: drivers go to their next lanes
+    haken spurwechsel;      ///< drivers go to their next lanes; as the operator left it
     haken tauschfahrzeug;   ///< and vehicles with them
     bezeichnung Label_bis;  ///< new target of a race that goes on
     feld neues_ziel;        ///< laps, or minutes and seconds as on the main window
@@ -106,7 +106,7 @@ public:
     void cmd2_fortsetzung();
     void cmd3_fortsetzung();
     void cmd5_fortsetzung();
-    /// Closing the window means leaving it.
+    /// Closing the window means leaving it; an entry of metres has to be finished first.
     void fenster_schliessen();
 
     /// What the chart shows.
@@ -133,7 +133,8 @@ private:
         std::string tempo;  ///< names the two speeds
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
-        std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler;
+        std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
+        std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
 
     bool ist_wettkampf() const { return !um_.param.wettkampf_kein; }

@@ -67,7 +67,8 @@ void auswertung::spurbefehle_verbinden(std::size_t i) {
 }
 
 void auswertung::anzeige_weiterschalten(std::size_t i) {
-    if (!um_.einst.sektor_an[0]) {
+    const auto& an = um_.einst.sektor_an;
+    if (std::none_of(an.begin() + 1, an.end(), [](bool sektor) { return sektor; })) {
         um_.meldungen.zeigen(wort_.keine_sektoren, um_.txt.titel[0]);
         return;
     }
@@ -99,6 +100,8 @@ void auswertung::meter_eingabe(bool an) {
         const std::size_t i = feld_index(spur);
         cmd_rd_inc[i].aktiviert(!an);
         meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
+        const double bisher = u_.stand.restmeter(spur);  // what is typed now comes on top
+        meter_label[i].text(wort_.restmeter + (bisher == 0 ? "" : " " + zahl_text(bisher, ',') + " +"));
         meter_label[i].sichtbar(meter[i].sichtbar());
         ges_meter[i].sichtbar(!an);
     }
@@ -168,7 +171,6 @@ void auswertung::ausfuehren(aktion was) {
 }
 
 void auswertung::fenster_schliessen() {
-    meter_eingabe_uebernehmen();
     Command5.klicken();
 }
 

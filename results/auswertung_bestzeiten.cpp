@@ -10,7 +10,7 @@ zeit_ms auswertung::beste_auf_der_spur(int spur) const {
     if (zustand.runden_vorher == 0) {
         return speicher.beste(spur);
     }
-    zeit_ms beste = 0;  // of a continued race only the laps that the driver has driven on this lane
+    zeit_ms beste = 0;  // of a continued race only the laps that were driven on this lane from line to line
     for (int runde = zustand.runden_vorher + 1; runde <= zustand.runden; ++runde) {
         const zeit_ms zeit = speicher.rundenzeit(spur, runde);
         if (zeit > 0 && (beste == 0 || zeit < beste)) {

@@ -20,7 +20,7 @@ sprachliste auswertung::sprache_a() {
     texte.text("Spur wechseln", wort_.spur_wechseln).text("Rennen", wort_.rennen);
     texte.text("Fahrer wechseln", spurwechsel)
         .text("Fahrzeugtausch", tauschfahrzeug)
-        .fuer_alle("Restmeter", meter_label);
+        .text("Restmeter", wort_.restmeter);
     texte.text("Bitte zu löschende Runde auswählen.", wort_.runde_waehlen);
     texte.text("Sektoren nicht aktiviert - Anzeigeänderung nicht möglich.", wort_.keine_sektoren);
     texte.text("Rennmaximum erreicht. Fortsetzung nicht möglich.", wort_.maximum);
@@ -48,6 +48,8 @@ sprachliste auswertung::sprache_a() {
     tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
+    texte.text("Wertung nach Metern", wort_.wertung[0]).text("Wertung nach Runden", wort_.wertung[1]);
+    texte.text("Wertung nach schnellster Runde", wort_.wertung[2]);
     blatt.eintragen(diagramm.eintragen(texte));
     return texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
 }
@@ -63,7 +65,7 @@ void auswertung::ansagen_setzen() {
         ansagen(zeit_aus[i], Label_zeit[i].text());
         ansagen(beste_aus[i], Label_beste[i].text());
         ansagen(liste[i], wort_.rundenliste);
-        ansagen(meter[i], meter_label[i].text());
+        ansagen(meter[i], wort_.restmeter);
         for (befehl* knopf : {&cmd_anzeige[i], &cmd_rd_add[i], &cmd_rd_inc[i]}) {
             ansagen(*knopf, knopf->tipp());
         }

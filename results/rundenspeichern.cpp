@@ -14,7 +14,7 @@ rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const speicher
 
 sprachliste rundenspeichern::sprache() {
     sprachliste texte = fenster.sprache();
-    texte.text("Rennergebnis speichern", titel_).text("Vorhandene Ergebnisse", ueberschrift_);
+    texte.text("Rennergebnis speichern", titel_);
     texte.text("Bitte geben Sie einen gültigen Dateinamen an.", name_fehlt_);
     texte.text("Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.", schreibfehler_);
     texte.text("Rennergebnis", wort_.rennergebnis).text("Tanken aktiv", wort_.tanken_aktiv);
@@ -34,7 +34,7 @@ void rundenspeichern::oeffnen() {
     dateiauftrag auftrag;
     auftrag.speichern = true;
     auftrag.titel = titel_;
-    auftrag.ueberschrift = ueberschrift_;
+    auftrag.ueberschrift = um_.txt.datei_text[1];
     auftrag.knopf = um_.txt.datei_text[0];
     auftrag.ordner = ergebnis_ordner::einzelrennen;
     auftrag.endung = endung;

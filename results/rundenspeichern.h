@@ -31,7 +31,6 @@ private:
     speichernfenster::umgebung um_;
     ergebnis_worte wort_;
     std::string titel_;
-    std::string ueberschrift_;
     std::string name_fehlt_;
     std::string schreibfehler_;
 };

@@ -33,7 +33,7 @@ int wertung::runden(int spur) const {
 }
 
 std::string wertung::meter_text(int spur, char komma) const {
-    return zahl_fest(stand_[spur].meter, komma);
+    return zahl_fest(meter(spur), komma);
 }
 
 void wertung::meter_auswerten() {
@@ -41,8 +41,7 @@ void wertung::meter_auswerten() {
         if (um_.zustand.spur[spur].disqualifiziert) {
             stand_[spur] = {};
         } else if (um_.param.spur_aktiv[spur]) {
-            stand_[spur].meter += um_.param.spurlaenge[spur] * (runden(spur) - stand_[spur].runden);
-            stand_[spur].runden = runden(spur);
+            stand_[spur].runden.resize(static_cast<std::size_t>(runden(spur)), um_.param.spurlaenge[spur]);
         }
     }
 }
@@ -51,7 +50,6 @@ void wertung::restmeter_zuschlagen(int spur, double meter) {
     if (um_.zustand.spur[spur].disqualifiziert) {
         return;
     }
-    stand_[spur].meter += meter;
     stand_[spur].restmeter += meter;
 }
 
@@ -95,6 +93,10 @@ bool wertung::runde_loeschen(int spur, int runde) {
     um_.zustand.rundenzeiten.zeile_verschmelzen(spur, runde, letzte);
     sektoren_.zeile_verschmelzen(spur, runde, letzte);
     zustand.runden_vorher -= runde <= zustand.runden_vorher ? 1 : 0;
+    auto& meter_je_runde = stand_[spur].runden;
+    if (static_cast<std::size_t>(runde) <= meter_je_runde.size()) {
+        meter_je_runde.erase(meter_je_runde.begin() + runde - 1);
+    }
     beste_runde_suchen(spur);
     return true;
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <array>
+#include <numeric>
 #include <string>
+#include <vector>
 
 #include "race/rennen.h"
 #include "results/platzierung.h"
@@ -40,7 +41,7 @@ public:
     /// Total time behind the leader's; below 0 for a lane that has the lower time in fewer laps.
     zeit_ms abstand(int spur) const { return gesamtzeit(spur) - gesamtzeit(fuehrende_spur_); }
     zeit_ms beste_runde(int spur) const { return um_.zustand.rundenzeiten.beste(spur); }
-    double meter(int spur) const { return stand_[spur].meter; }
+    double meter(int spur) const { return stand_[spur].meter(); }
     double restmeter(int spur) const { return stand_[spur].restmeter; }
     /// Two decimals behind `komma`: "23,40" in windows, "23.40" in files.
     std::string meter_text(int spur, char komma) const;
@@ -48,9 +49,10 @@ public:
 private:
     /// What a lane had at the last evaluation, so that a continued race adds to it.
     struct meter_fortsetzung {
-        int runden = 0;
-        double meter = 0;
-        double restmeter = 0;  ///< part of `meter`
+        std::vector<double> runden = {};  ///< metres of each lap: a driver may come from a lane of another length
+        double restmeter = 0;
+
+        double meter() const { return std::accumulate(runden.begin(), runden.end(), restmeter); }
     };
 
     void beste_runde_suchen(int spur);

@@ -53,7 +53,11 @@ void k_ampel::laden() {
     Command1.text(um_.bahn.wort.fortsetzen);
     Command1.aktiviert(true);
     k_nachtabschaltung.sichtbar(false);
-    titel.fokus_setzen();  // a second press of the chaos key's neighbour must not end the pause
+    if (um_.zustand.chaos_aktiv) {
+        titel.fokus_setzen();  // a second press of the chaos key's neighbour must not end the pause
+    } else {
+        Command1.fokus_setzen();
+    }
     if (um_.param.training_autostart && !um_.zustand.chaos_aktiv) {
         training_autotimer_->an();
     }

@@ -115,6 +115,30 @@ TEST_F(Fortsetzung, WasVorGruenGeschiehtZaehltNicht) {
     EXPECT_FALSE(zustand.chaos_aktiv);
 }
 
+TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
+    t.mit_bestzeiten = true;
+    t.p.einst.beste_modus = 2;
+    t.p.bestzeiten.einfuegen(1, {2000, "Rekord", "", ""});
+    t.p.bestzeiten.einfuegen(2, {2000, "Rekord", "", ""});
+    t.p.form1.lspur[1].eingeben("30");
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(3000, "1");
+    ASSERT_TRUE(offen("auswertung"));
+    a.Command3.klicken();
+    gruen();
+    t.runde_nach(500, "1");  // the rest of a lap that began on lane 2
+    t.runde_nach(1500, "1");
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(w.runden(1), 2);
+    a.liste[1].auswaehlen(0);
+    a.Command8.klicken();
+    EXPECT_EQ(a.ges_meter[1].text(), "0,00 m") << "lap 1 was driven on lane 1, of 25 m";
+    a.Command5.klicken();
+    ASSERT_TRUE(offen("beste_zeiten_fenster"));
+    EXPECT_EQ(t.p.beste_zeiten_fenster.beste_combo[0].text(), "00:01,500");
+}
+
 TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
     t.starten("Runden", "2", {1});
     t.bahn().Command4.klicken();

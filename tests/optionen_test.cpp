@@ -57,13 +57,15 @@ TEST_F(Optionen, WasDieDateiNichtAnnimmtNimmtAuchDasFensterNicht) {
     EXPECT_EQ(neu.einst.sound_dateien[55], "-") << "an empty line would bring the old sound back";
 }
 
-TEST_F(Optionen, WechselschemaNurVollstaendig) {
-    for (const char* text : {"123456", "1-2-3-4-5-6-6", "0-1-2-3-4-5-6", "1-2-3-4-5-6-P-1", "Unfug"}) {
+TEST_F(Optionen, WechselschemaJedeSpurNurEinmal) {
+    for (const char* text : {"", "1-1", "1-2-3-4-5-6-6", "0-1-2-3-4-5-6", "1-2-3-4-5-6-P-1", "Unfug"}) {
         const auto gezeigt = nach_eingabe("wechsel_schema", text);
         ASSERT_EQ(gezeigt.size(), 1U) << text;
         EXPECT_EQ(gezeigt[0].text, std::string("Schema ungültig") + bleibt);
         EXPECT_EQ(einst.wechsel_schema, (std::array<int, 8>{0, 1, 6, 5, 4, 3, 2, 7}));
     }
+    EXPECT_TRUE(nach_eingabe("wechsel_schema", "3-1").empty());
+    EXPECT_EQ(einst.wechsel_schema, (wechsel_folge{0, 3, 1, 2, 4, 5, 6, 7})) << "the others follow";
     EXPECT_TRUE(nach_eingabe("wechsel_schema", "P123456").empty());
     EXPECT_EQ(einst.wechsel_schema, (std::array<int, 8>{0, 7, 1, 2, 3, 4, 5, 6}));
 }

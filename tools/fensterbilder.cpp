@@ -64,7 +64,7 @@ struct buehne {
     void fahren(zeit_ms dauer) {
         const zeit_ms ende = t.maschine.jetzt() + dauer;
         for (const int spur : aktiv_) {
-            naechste_[spur] = std::max(naechste_[spur], t.maschine.jetzt() + 900 + 90 * spur);
+            naechste_[spur] = std::max(naechste_[spur], t.maschine.jetzt() + 900 + zeit_ms{90} * spur);
         }
         while (true) {
             const int spur = *std::min_element(aktiv_.begin(), aktiv_.end(),

@@ -167,14 +167,14 @@ void AuswertungFenster::ordnen() {
     for (Ergebniszeile* zeile : folge) {
         reihen_->addWidget(zeile, 1);
     }
-    QWidget* davor = nullptr;
-    for (const Ergebniszeile* zeile : folge) {
-        for (QWidget* ziel : zeile->tabziele()) {
-            if (davor != nullptr) {
-                setTabOrder(davor, ziel);
-            }
-            davor = ziel;
+    std::vector<QWidget*> ziele;  // who enters metres goes down their column
+    for (const auto ziel_von : {&Ergebniszeile::meterfeld, &Ergebniszeile::rundenliste}) {
+        for (const Ergebniszeile* zeile : folge) {
+            ziele.push_back((zeile->*ziel_von)());
         }
+    }
+    for (std::size_t i = 1; i < ziele.size(); ++i) {
+        setTabOrder(ziele[i - 1], ziele[i]);
     }
     skalieren();
 }

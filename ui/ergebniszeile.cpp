@@ -133,7 +133,8 @@ QWidget* Ergebniszeile::meterzelle(Binder& binder) {
     aufbau->addWidget(titel);
     aufbau->addWidget(eingabe);
     aufbau->addStretch();
-    tabziele_.push_back(eingabe);
+    QObject::connect(eingabe, &QLineEdit::returnPressed, eingabe, [this] { logik_.Command6.klicken(); });
+    meterfeld_ = eingabe;
     return feld;
 }
 
@@ -147,7 +148,6 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     liste_->setMinimumSize(130, 50);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     aufbau->addWidget(liste_, 1);
-    tabziele_.push_back(liste_);
     auto* knoepfe = new QVBoxLayout;
     knoepfe->setSpacing(2);
     const auto knopf = [&](befehl& element, const QString& name) {

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QWidget>
-#include <vector>
 
 #include "results/auswertung.h"
 #include "ui/binder.h"
@@ -18,8 +17,9 @@ public:
     int reihe() const { return logik_.Frame.at(index_).reihe(); }
     bool gezeigt() const { return logik_.Frame.at(index_).sichtbar(); }
     void skalieren(double skala);
-    /// What the Tab key reaches in the row, in its order.
-    const std::vector<QWidget*>& tabziele() const { return tabziele_; }
+    /// What the Tab key reaches in the row.
+    QWidget* meterfeld() const { return meterfeld_; }
+    QWidget* rundenliste() const { return liste_; }
     /// Called when the row has changed.
     std::function<void()> bei_umzug;
 
@@ -50,7 +50,7 @@ private:
     auswertung& logik_;
     std::size_t index_;
     QListView* liste_ = nullptr;
-    std::vector<QWidget*> tabziele_;
+    QLineEdit* meterfeld_ = nullptr;
     QColor spurfarbe_;
 };
 
