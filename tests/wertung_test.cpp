@@ -2,6 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <map>
+#include <sstream>
+#include <utility>
+
+#include "core/zeit.h"
+#include "results/ergebnisdatei.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel {
@@ -12,22 +20,26 @@ struct ueberfahrt {
     const char* tasten;
 };
 
+/// What a lane must have, and the lanes in the order of their places.
+struct platz_von_hand {
+    int spur;
+    int runden;
+    zeit_ms zeit;
+};
+
 /// A race whose standing was computed by hand.
 struct rennen_von_hand {
     const char* was;
     int auswertung_nach;
-    std::vector<int> spuren;
     std::vector<ueberfahrt> fahrt;
-    std::vector<int> stand;          ///< lanes in the order of their places
-    int strafe_spur = 0;             ///< has a penalty of one second
-    int ausgeschieden = 0;           ///< lane
-    std::vector<zeit_ms> zeit = {};  ///< total times in the order of the places, where they matter
+    std::vector<platz_von_hand> stand;
+    int strafe_spur = 0;    ///< has a penalty of one second
+    int ausgeschieden = 0;  ///< lane
 };
 
 const std::vector<rennen_von_hand> rennen_liste{
     {"laps, then time, then best lap, then lane",
      2,
-     {1, 2, 3, 4, 5, 6},
      {{1000, "123456"},
       {2500, "2"},
       {500, "135"},
@@ -37,54 +49,66 @@ const std::vector<rennen_von_hand> rennen_liste{
       {2000, "4"},
       {1000, "6"},
       {3000, "4"}},
-     {4, 3, 2, 1, 5, 6},
-     0,
-     0,
-     {12000, 5900, 6000, 6000, 6000, 9000}},
-    {"any other number means laps", 7, {1, 2}, {{1000, "12"}, {2000, "1"}, {1000, "2"}, {3000, "2"}}, {2, 1}},
+     {{4, 3, 12000}, {3, 2, 5900}, {2, 2, 6000}, {1, 2, 6000}, {5, 2, 6000}, {6, 1, 9000}}},
+    {"any other number means laps",
+     7,
+     {{1000, "12"}, {2000, "1"}, {1000, "2"}, {3000, "2"}},
+     {{2, 2, 6000}, {1, 1, 2000}}},
     {"best lap, then laps, then time",
      3,
-     {1, 2, 3, 4},
      {{1000, "1234"}, {2900, "4"}, {100, "123"}, {3500, "3"}, {500, "2"}},
-     {4, 3, 2, 1}},
-    {"no lap is a best lap of 0", 3, {1, 2, 3}, {{1000, "12"}, {3000, "1"}}, {2, 3, 1}},
+     {{4, 1, 2900}, {3, 2, 6500}, {2, 2, 7000}, {1, 1, 3000}}},
+    {"no lap is a best lap of 0", 3, {{1000, "12"}, {3000, "1"}}, {{2, 0, 0}, {3, 0, 0}, {1, 1, 3000}}},
     {"metres, then time, then best lap",
      1,
-     {1, 2, 3, 4},
      {{1000, "1234"}, {2500, "24"}, {500, "13"}, {2500, "2"}, {500, "14"}},
-     {2, 4, 1, 3},
-     0,
-     0,
-     {5500, 6000, 6000, 3000}},
-    {"a penalty turns the standing", 2, {1, 2}, {{1000, "12"}, {3000, "1"}, {900, "2"}}, {2, 1}, 1, 0, {3900, 4000}},
-    {"equal times, the best lap decides, and place 1 reads as lane 1, which is not used",
+     {{2, 2, 5500}, {4, 2, 6000}, {1, 2, 6000}, {3, 1, 3000}}},
+    {"a penalty turns the standing", 2, {{1000, "12"}, {3000, "1"}, {900, "2"}}, {{2, 1, 3900}, {1, 1, 4000}}, 1},
+    {"equal times: the best lap decides, but place 1 reads as lane 1, which is not used",
      2,
-     {2, 3},
      {{1000, "23"}, {2500, "2"}, {500, "3"}, {3000, "23"}},
-     {3, 2}},
-    {"the same exchange without any tie in the last key", 2, {3, 6}, {{1000, "36"}, {3000, "36"}}, {6, 3}},
-    {"with a time that differs nothing is exchanged", 2, {2, 3}, {{1000, "23"}, {2500, "2"}, {500, "3"}}, {2, 3}},
-    {"who never crossed the line is behind who did", 2, {1, 4, 6}, {{1000, "6"}}, {6, 1, 4}},
+     {{3, 2, 6000}, {2, 2, 6000}}},
+    {"the same exchange where all is equal", 2, {{1000, "36"}, {3000, "36"}}, {{6, 1, 3000}, {3, 1, 3000}}},
+    {"times that differ are not exchanged", 2, {{1000, "23"}, {2500, "2"}, {500, "3"}}, {{2, 1, 2500}, {3, 1, 3000}}},
+    {"who never crossed the line is behind who did", 2, {{1000, "6"}}, {{6, 0, 0}, {1, 0, 0}, {4, 0, 0}}},
     {"all equal: the order of the lanes",
      2,
-     {1, 2, 3, 4, 5, 6},
      {{1000, "654321"}, {3000, "654321"}},
-     {1, 2, 3, 4, 5, 6}},
-    {"out: behind by laps", 2, {1, 2}, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {2, 1}, 0, 1, {4000, 0}},
-    {"out: behind by metres", 1, {1, 2}, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {2, 1}, 0, 1},
-    {"out: behind by the best lap", 3, {1, 2}, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {2, 1}, 0, 1},
+     {{1, 1, 3000}, {2, 1, 3000}, {3, 1, 3000}, {4, 1, 3000}, {5, 1, 3000}, {6, 1, 3000}}},
+    {"out: behind by laps", 2, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {{2, 1, 4000}, {1, 0, 0}}, 0, 1},
+    {"out: behind by metres", 1, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {{2, 1, 4000}, {1, 0, 0}}, 0, 1},
+    {"out: behind by the best lap", 3, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {{2, 1, 4000}, {1, 0, 0}}, 0, 1},
 };
+
+/// Laps and total time of each lane, as the automatic file of the race has them.
+std::map<std::string, std::pair<std::string, std::string>> datei_lesen(test::testprogramm& t) {
+    const std::string name = "Ergebnisse\\auto-Einzelrennen\\auto-21112026-14032.csv";
+    std::map<std::string, std::pair<std::string, std::string>> spuren;
+    const auto zeilen = ergebnis_zeilen_lesen(t.p.ablage, name);
+    for (std::size_t i = 5; i < zeilen.size() && !zeilen[i].empty(); ++i) {
+        std::istringstream felder(zeilen[i]);
+        std::array<std::string, 5> feld;
+        for (std::string& text : feld) {
+            std::getline(felder, text, ';');
+        }
+        spuren[feld[0]] = {feld[1], feld[4]};
+    }
+    t.p.ablage.loeschen(name);
+    return spuren;
+}
 
 TEST(Wertung, RennenDieVonHandGerechnetSind) {
     test::testprogramm t;
     t.p.form1.wertmin.eingeben("1");
     t.p.einst.zielmodus_erster = true;
     t.p.einst.sensor_timeout = 0;
+    t.p.einst.aut_speichern = true;
     for (const rennen_von_hand& r : rennen_liste) {
         SCOPED_TRACE(r.was);
         t.p.einst.auswertung_nach = r.auswertung_nach;
         for (const int spur : alle_spuren) {
-            const bool soll = std::find(r.spuren.begin(), r.spuren.end(), spur) != r.spuren.end();
+            const bool soll =
+                std::any_of(r.stand.begin(), r.stand.end(), [&](const auto& p) { return p.spur == spur; });
             haken& kasten = t.p.form1.spur.at(feld_index(spur));
             if (kasten.gesetzt() != soll) {
                 kasten.umschalten();
@@ -104,13 +128,19 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
             t.spur(r.ausgeschieden).disqualifiziert = true;
         }
         t.bahn().Command4.klicken();
-        for (std::size_t platz = 0; platz < r.stand.size(); ++platz) {
-            EXPECT_EQ(t.p.wertung.platzierung(r.stand[platz]), static_cast<int>(platz) + 1) << r.stand[platz];
-            if (!r.zeit.empty()) {
-                EXPECT_EQ(t.p.wertung.gesamtzeit(r.stand[platz]), r.zeit[platz]) << r.stand[platz];
-            }
-        }
         t.p.auswertung.Command5.klicken();
+        const auto datei = datei_lesen(t);
+        EXPECT_EQ(datei.size(), r.stand.size());
+        int platz = 0;
+        for (const platz_von_hand& p : r.stand) {
+            SCOPED_TRACE(p.spur);
+            EXPECT_EQ(t.p.wertung.platzierung(p.spur), ++platz);
+            EXPECT_EQ(t.p.wertung.runden(p.spur), p.runden);
+            EXPECT_EQ(t.p.wertung.gesamtzeit(p.spur), p.zeit);
+            const auto& [runden, zeit] = datei.at("Fahrer " + std::to_string(p.spur));
+            EXPECT_EQ(runden, " " + std::to_string(p.runden));
+            EXPECT_EQ(zeit, zeit_formatieren(p.zeit, true, trennzeichen_standard));
+        }
     }
 }
 
