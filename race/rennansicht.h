@@ -1,15 +1,9 @@
 #pragma once
 
+#include "race/ansicht_geometrie.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
-
-/// The design size of the race window. Font sizes of its controls are in these units.
-namespace entwurf {
-inline constexpr double breite = 19200;
-inline constexpr double hoehe = 15360;
-inline constexpr double spalte = 3200;  ///< width of one column
-}  // namespace entwurf
 
 /// Pixels per design unit in a column view of this size: the scale of the column's width or of the window's height,
 /// whichever is smaller.
