@@ -24,20 +24,29 @@ void spur_schriften(lage& g, double skala) {
     constexpr double wort = 0.82;
     constexpr double ziffern = 1.15;
     schrift(g[t::Label_spur], ziffern, 1.5);
-    schrift(g[t::namenslabel], wort);
+    schrift(g[t::namenslabel], wort, 5);
     schrift(g[t::zaehler], ziffern, 1.75);  // two digits, and with the steps at 100 and 1000 laps three and four
     schrift(g[t::l_PosAnz], ziffern, 0.8);
+    g[t::l_PosAnz].schrift_px = std::min(g[t::l_PosAnz].schrift_px, g[t::zaehler].schrift_px * 6 / 10);
     schrift(g[t::lrunde], ziffern, 4.1);  // "00,000"
     schrift(g[t::brunde], 0.95, 5.2);
     schrift(g[t::t_bahn], ziffern, 3.3);
-    for (const t text : {t::Label_platz, t::Label_lrunde, t::Label_brunde, t::tanktitel, t::bestzeit_label,
-                         t::straflabel, t::ch_strafzeit_hacken}) {
+    schrift(g[t::straflabel], wort, 8);
+    for (const t text : {t::Label_platz, t::Label_lrunde, t::Label_brunde, t::tanktitel, t::bestzeit_label}) {
+        constexpr double titel_max = 340;
         schrift(g[text], wort);
+        g[text].schrift_px = std::min(g[text].schrift_px, static_cast<int>(titel_max * skala));
     }
     constexpr double listenzeile = 560;
     constexpr double liste_em = 7.6;  // "9999. 00,000"
     g[t::t_liste].schrift_px =
         std::max(schrift_min_px, static_cast<int>(std::min(listenzeile * skala, g[t::t_liste].ort.breite / liste_em)));
+}
+
+/// The middle of a place that is higher than its content has use for.
+rechteck mittig(const rechteck& ort, double hoehe_max) {
+    const int zuviel = std::max(ort.hoehe - static_cast<int>(hoehe_max), 0);
+    return {ort.x, ort.y + zuviel / 2, ort.breite, ort.hoehe - zuviel};
 }
 
 /// A caption over its display.
@@ -63,13 +72,18 @@ void ampel_legen(const rechteck& ort, double luecke, lage& g) {
     }
 }
 
-/// The place, and the box that puts the blame for a pause on the lane.
-void platz_legen(const rechteck& ort, double titel_hoehe, double luecke, lage& g) {
-    zuschnitt stueck(ort, luecke);
-    const double kante = std::min(0.9 * ort.hoehe, 0.4 * ort.breite);
-    zuschnitt kasten(stueck.rechts(kante));
+/// The box that puts the blame for a pause on the lane, at the right end of a place.
+void schuld_legen(const rechteck& ort, lage& g) {
+    const double kante = std::min(ort.hoehe, ort.breite);
+    zuschnitt kasten(zuschnitt(ort).rechts(kante));
     kasten.oben((ort.hoehe - kante) / 2);
     g[t::ch_strafzeit_hacken].ort = kasten.oben(kante);
+}
+
+/// The place, and beside it the box of the blame.
+void platz_legen(const rechteck& ort, double titel_hoehe, double luecke, lage& g) {
+    zuschnitt stueck(ort, luecke);
+    schuld_legen(stueck.rechts(std::min(0.9 * ort.hoehe, 0.4 * ort.breite)), g);
     mit_titel(stueck.rest(), titel_hoehe, g[t::Label_platz], g[t::l_PosAnz]);
 }
 
@@ -78,7 +92,7 @@ void tank_legen(const ansicht_inhalt& inhalt, const rechteck& ort, bool nebenein
         return;
     }
     g[t::frame_tank].ort = ort;
-    zuschnitt stueck(ort);
+    zuschnitt stueck(ort, 0.02 * ort.breite);
     g[t::tanktitel].ort = nebeneinander ? stueck.links(0.4 * ort.breite) : stueck.oben(0.22 * ort.hoehe);
     g[inhalt.tank == tankanzeige_art::balken ? t::tankbalken : t::t_bahn].ort = stueck.rest();
 }
@@ -90,8 +104,9 @@ double bestzeit_hoehe(const ansicht_inhalt& inhalt, double hoehe) {
 
 /// Last lap above the best one, which is the smaller of the two.
 void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, lage& g) {
-    const double teil = ort.hoehe / (inhalt.bestzeit ? 27.0 : 23.0);
-    zuschnitt stapel(ort);
+    const rechteck feld = mittig(ort, 0.9 * ort.breite);
+    const double teil = feld.hoehe / (inhalt.bestzeit ? 27.0 : 23.0);
+    zuschnitt stapel(feld);
     mit_titel(stapel.oben(13 * teil), 3 * teil, g[t::Label_lrunde], g[t::lrunde]);
     mit_titel(stapel.oben(10 * teil), 3 * teil, g[t::Label_brunde], g[t::brunde]);
     g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 4 * teil));
@@ -109,10 +124,12 @@ void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double lue
 
 /// A column from top to bottom. One that is twice as wide as the design has it shows two things side by side, and the
 /// counter takes what that leaves.
-void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, lage& g) {
+void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+    lage& g = ganzes.spur;
     const double luecke = 60 * s;
     const bool breit = block.breite >= 2 * entwurf::spalte * s;
     zuschnitt stapel(block.innen(110 * s), luecke);
+    ganzes.streifen = stapel.oben(100 * s);
     g[t::yellowframe].ort = stapel.oben(220 * s);
     name_legen(stapel.oben(860 * s), luecke, g);
     zuschnitt bilder(stapel.oben((breit ? 1800 : 1450) * s), luecke);
@@ -140,78 +157,105 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     g[t::t_liste].ort = stapel.rest();
 }
 
-/// A row from left to right; what it shows shares its width.
-void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
-    lage& g = ganzes.spur;
-    const double hoehe = block.hoehe / s;
-    const double bild = std::min(0.8 * hoehe, 1900.0);
-    const double bild2 = inhalt.fahrzeugbild ? 2300 : 0;
-    const double tank = inhalt.tank != tankanzeige_art::keine ? 1500 : 0;
-    const double zaehler = std::clamp(1.9 * hoehe, 4700.0, 9000.0);
-    constexpr double name = 4300;
-    constexpr double zeiten = 3500;
-    constexpr double liste = 2100;
-    const double luecke = 80 * s;
-    const double e = (block.breite - 14 * luecke) / (bild + bild2 + tank + zaehler + name + zeiten + liste + 200);
-
-    zuschnitt reihe(block.innen(80 * s), 2 * luecke);
-    g[t::yellowframe].ort = reihe.links(200 * e);
-    g[t::Image1].ort = reihe.links(bild * e);
-    zuschnitt namen(reihe.links(name * e), luecke / 2);
-    name_legen(namen.oben(std::min(0.42 * block.hoehe, 1100 * s)), luecke, g);
-    g[t::straflabel].ort = namen.unten(std::min(0.22 * block.hoehe, 600 * s));
-    zuschnitt ampel(namen.rest(), 2 * luecke);
-    ampel_legen(ampel.links(0.55 * name * e), luecke, g);
-    platz_legen(ampel.rest(), 0.3 * ampel.rest().hoehe, luecke, g);
-
-    const rechteck feld = reihe.links(zaehler * e);
-    const double rueckung = entwurf::zaehler_links * e;
+/// The counter of a row stands indented; with four digits it moves into half of that.
+void zaehler_einruecken(const rechteck& feld, double rueckung, ansicht_geometrie& ganzes) {
     zuschnitt eingerueckt(feld);
     eingerueckt.links(rueckung);
-    g[t::zaehler].ort = eingerueckt.rest();
+    ganzes.spur[t::zaehler].ort = eingerueckt.rest();
     zuschnitt halb(feld);
     halb.links(rueckung / 2);
     ganzes.zaehler_weit = halb.rest();
+}
 
-    g[t::Image2].ort = reihe.links(bild2 * e);
-    tank_legen(inhalt, reihe.links(tank * e), false, g);
+/// What belongs to the driver of a row; a high one has the tank here.
+void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, lage& g) {
+    const double luecke = 80 * s;
+    zuschnitt stapel(ort, luecke / 2);
+    g[t::namenslabel].ort = stapel.oben(std::min(0.42 * ort.hoehe, 1100 * s));
+    g[t::straflabel].ort = stapel.unten(std::min(0.22 * ort.hoehe, 600 * s));
+    if (hoch) {
+        tank_legen(inhalt, stapel.unten(700 * s), true, g);
+    }
+    zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
+    g[t::Label_spur].ort = mitte.links(0.2 * ort.breite);
+    schuld_legen(mitte.rechts(0.2 * ort.breite), g);
+    ampel_legen(mitte.rest(), luecke, g);
+}
+
+/// A row from left to right; what it shows shares its width. In a high row the picture of the vehicle stands below that
+/// of the driver, and the tank below the name.
+void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+    lage& g = ganzes.spur;
+    const double hoehe = block.hoehe / s;
+    const bool hoch = hoehe > 1.4 * entwurf::zeile;
+    constexpr double rand = 300;  // with the stripe and the yellow bar
+    const double bild = hoch ? 2300 : 0.8 * hoehe;
+    const double name = hoch ? 5400 : 3900;
+    constexpr double platzziffer = 1150;
+    const double zaehler = std::clamp(1.9 * hoehe, 4700.0, 8200.0);
+    const double bild2 = inhalt.fahrzeugbild && !hoch ? 2300 : 0;
+    const double tank = hoch || inhalt.tank == tankanzeige_art::keine ? 0
+                        : inhalt.tank == tankanzeige_art::balken      ? 1200
+                                                                      : 1900;
+    const double zeiten = hoch ? 4300 : 3500;
+    const double liste = hoch ? 2700 : 2100;
+    const double luecke = 80 * s;
+    const double e =
+        (block.breite - 20 * luecke) / (rand + bild + name + platzziffer + zaehler + bild2 + tank + zeiten + liste);
+
+    zuschnitt reihe(block.innen(80 * s), 2 * luecke);
+    ganzes.streifen = reihe.links(100 * e);
+    g[t::yellowframe].ort = reihe.links(200 * e);
+    zuschnitt bilder(reihe.links(bild * e), luecke);
+    g[t::Image2].ort = bilder.unten(inhalt.fahrzeugbild && hoch ? 0.4 * block.hoehe : 0);
+    g[t::Image1].ort = bilder.rest();
+    zeile_fahrer(inhalt, reihe.links(name * e), hoch, s, g);
+    const rechteck platzfeld = mittig(reihe.links(platzziffer * e), 2.2 * platzziffer * e);
+    mit_titel(platzfeld, std::min(0.2 * platzfeld.hoehe, 420 * s), g[t::Label_platz], g[t::l_PosAnz]);
+    zaehler_einruecken(reihe.links(zaehler * e), entwurf::zaehler_links * e, ganzes);
+    if (!hoch) {
+        g[t::Image2].ort = reihe.links(bild2 * e);
+        tank_legen(inhalt, reihe.links(tank * e), false, g);
+    }
     zeiten_stapeln(inhalt, reihe.links(zeiten * e), g);
     g[t::t_liste].ort = reihe.rest();
 }
 
-/// A single lane: the counter in the middle of the window, what belongs to the driver on its left, the times on its
-/// right.
-void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, lage& g) {
+/// A single lane, and a row that has the height for it: the counter in the middle, what belongs to the driver on its
+/// left, the times on its right.
+void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+    lage& g = ganzes.spur;
     const double luecke = 160 * s;
-    zuschnitt ganzes(block.innen(200 * s), luecke);
-    g[t::yellowframe].ort = ganzes.oben(260 * s);
-    zuschnitt kopf(ganzes.oben(1500 * s), luecke);
+    zuschnitt rest(block.innen(110 * s), luecke);
+    ganzes.streifen = rest.oben(110 * s);
+    g[t::yellowframe].ort = rest.oben(260 * s);
+    zuschnitt kopf(rest.oben(1500 * s), luecke);
     ampel_legen(kopf.rechts(4500 * s), luecke, g);
     name_legen(kopf.rest(), luecke, g);
 
     const double seite = 0.25 * block.breite;
-    zuschnitt links(ganzes.links(seite), luecke);
+    zuschnitt links(rest.links(seite), luecke);
     g[t::Image1].ort = links.oben((inhalt.fahrzeugbild ? 0.4 : 0.6) * links.rest().hoehe);
     if (inhalt.fahrzeugbild) {
         g[t::Image2].ort = links.oben(0.5 * links.rest().hoehe);
     }
     platz_legen(links.rest(), 420 * s, luecke, g);
 
-    zuschnitt rechts(ganzes.rechts(seite), luecke);
+    zuschnitt rechts(rest.rechts(seite), luecke);
     zeiten_stapeln(inhalt, rechts.oben(3600 * s), g);
     g[t::t_liste].ort = rechts.rest();
 
-    zuschnitt mitte(ganzes.rest(), luecke);
+    zuschnitt mitte(rest.rest(), luecke);
     g[t::straflabel].ort = mitte.unten(700 * s);
     tank_legen(inhalt, mitte.unten(inhalt.tank != tankanzeige_art::keine ? 1100 * s : 0), true, g);
-    g[t::zaehler].ort = mitte.rest();
+    zaehler_einruecken(mitte.rest(), inhalt.art == ansicht_art::zeilen ? entwurf::zaehler_links * s : 0, ganzes);
 }
 
 /// Both clocks, what is driven for, and the pictures beside them.
 void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr, plaetze<fenster_teil>& g) {
     using f = fenster_teil;
     const double luecke = 150 * uhr;
-    const double seite = (inhalt.uhr_gross ? 0.19 : 0.24) * kopf.breite;
+    const double seite = (inhalt.grosse_zeit ? 0.19 : 0.24) * kopf.breite;
     zuschnitt reihe(kopf, luecke);
     zuschnitt links(reihe.links(seite), luecke);
     zuschnitt rechts(reihe.rechts(seite), luecke);
@@ -221,24 +265,24 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     g[f::uhrframe1].ort = reihe.rest();
     g[f::nachlauflabel].ort = reihe.rest();
     g[f::uhrframe2].ort = rechts.rest();
-    zuschnitt text(links.rest());
-    g[f::ziel_label].ort = text.oben(0.62 * kopf.hoehe);
-    g[f::bestzeit_gesamt].ort = text.rest();
+    g[f::ziel_label].ort = links.rest();
     schrift(g[f::uhrframe1], 0.78);
     schrift(g[f::nachlauflabel], 0.62);
     schrift(g[f::uhrframe2], 0.36);
-    schrift(g[f::ziel_label], 0.5);
-    schrift(g[f::bestzeit_gesamt], 0.45);
+    schrift(g[f::ziel_label], 0.32);
 }
 
-/// The commands, each always in its place, and above them the line that asks whose fault a pause was.
+/// The commands, each always in its place. The line above them has the record of the track, and asks whose fault a
+/// pause was.
 void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s, plaetze<fenster_teil>& g) {
     using f = fenster_teil;
     const double luecke = 150 * s;
     zuschnitt alles(fuss, luecke);
     g[f::wrpic2].ort = alles.rechts(inhalt.wrpic2 ? 1.6 * fuss.hoehe : 0);
     zuschnitt zeilen(alles.rest(), 40 * s);
-    g[f::ch_strafframe].ort = zeilen.oben(0.38 * fuss.hoehe);
+    zuschnitt zeile(zeilen.oben(0.38 * fuss.hoehe), 2 * luecke);
+    g[f::bestzeit_gesamt].ort = zeile.links(0.4 * zeile.rest().breite);
+    g[f::ch_strafframe].ort = zeile.rest();
     g[f::Frame1].ort = zeilen.rest();
     zuschnitt reihe({0, 0, zeilen.rest().breite, zeilen.rest().hoehe}, luecke);
     constexpr double knopf = 3150;
@@ -252,19 +296,25 @@ void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s,
     }
     schrift(g[f::werbe_label], 0.5);
     schrift(g[f::ch_strafframe], 0.68);
+    schrift(g[f::bestzeit_gesamt], 0.68);
 }
 
-void bloecke_legen(const ansicht_inhalt& inhalt, const rechteck& flaeche, double luecke, ansicht_geometrie& g) {
-    const int anzahl = std::clamp(inhalt.spuren_anzahl, 1, spuren_max);
+/// Equal blocks for the chosen lanes, without a hole for the others.
+rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck& flaeche, double luecke,
+                       ansicht_geometrie& g) {
     const int abstand = static_cast<int>(std::lround(luecke));
     const bool zeilen = inhalt.art == ansicht_art::zeilen;
     rechteck block = flaeche;
     int& laenge = zeilen ? block.hoehe : block.breite;
     laenge = ((zeilen ? flaeche.hoehe : flaeche.breite) - (anzahl - 1) * abstand) / anzahl;
-    for (int nummer = 0; nummer < anzahl; ++nummer) {
-        const int weg = nummer * (laenge + abstand);
-        g.block.at(static_cast<std::size_t>(nummer)) = zeilen ? block.verschoben(0, weg) : block.verschoben(weg, 0);
+    int weg = 0;
+    for (const int spur : alle_spuren) {
+        if (inhalt.spur_aktiv[spur]) {
+            g.block[spur] = zeilen ? block.verschoben(0, weg) : block.verschoben(weg, 0);
+            weg += laenge + abstand;
+        }
     }
+    return {0, 0, block.breite, block.hoehe};
 }
 
 }  // namespace
@@ -277,26 +327,34 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     const double skal_breite = breite / entwurf::breite;
     const double skal_hoehe = hoehe / entwurf::hoehe;
     const double skal_faktor = std::min(skal_breite, skal_hoehe);
+    const auto gewaehlt = std::count(inhalt.spur_aktiv.begin(), inhalt.spur_aktiv.end(), true);
+    const int anzahl = std::max(static_cast<int>(gewaehlt), 1);
     constexpr double breitbild = 1.5;
-    gezeigt.uhr_gross = inhalt.uhr_gross && breite > breitbild * hoehe;
-    const double uhr = skal_faktor * (gezeigt.uhr_gross ? 1.5 : 1);
+    constexpr int spuren_grosse_zeit = 3;
+    gezeigt.grosse_zeit = inhalt.grosse_zeit && breite > breitbild * hoehe && anzahl <= spuren_grosse_zeit &&
+                          inhalt.tank != tankanzeige_art::balken;
+    const double uhr = skal_faktor * (gezeigt.grosse_zeit ? 1.5 : 1);
 
-    zuschnitt fenster(rechteck{0, 0, breite, hoehe}.innen(90 * skal_faktor), 90 * skal_faktor);
+    zuschnitt fenster(rechteck{0, 0, breite, hoehe}.innen(110 * skal_faktor), 90 * skal_faktor);
     uhr_anordnen(gezeigt, fenster.oben(2250 * uhr), uhr, g.fenster);
-    const double fuss = zeilen ? 0.1 * hoehe - 180 * skal_faktor : 1450 * skal_faktor;
+    const double fuss = zeilen ? 0.1 * hoehe - 200 * skal_faktor : 1450 * skal_faktor;
     befehle_legen(gezeigt, fenster.unten(fuss), skal_faktor, g.fenster);
 
-    bloecke_legen(inhalt, fenster.rest(), 90 * skal_faktor, g);
-    const rechteck block{0, 0, g.block[0].breite, g.block[0].hoehe};
+    const rechteck block = bloecke_legen(inhalt, anzahl, fenster.rest(), 90 * skal_faktor, g);
     double skala = skal_faktor;
     if (inhalt.art == ansicht_art::spalten) {
-        skala = std::min(static_cast<double>(breite) / inhalt.spuren_anzahl / entwurf::spalte, skal_hoehe);
-        spalte_legen(inhalt, block, skala, g.spur);
+        skala = std::min(static_cast<double>(breite) / anzahl / entwurf::spalte, skal_hoehe);
+        spalte_legen(inhalt, block, skala, g);
     } else if (zeilen) {
-        skala = std::min(block.hoehe / entwurf::zeile, skal_breite);
-        zeile_legen(inhalt, block, skala, g);
+        constexpr int hoch = 3;
+        if (block.breite > hoch * block.hoehe) {
+            skala = std::min(block.hoehe / entwurf::zeile, skal_breite);
+            zeile_legen(inhalt, block, skala, g);
+        } else {
+            einfahrer_legen(inhalt, block, skala, g);
+        }
     } else {
-        einfahrer_legen(inhalt, block, skala, g.spur);
+        einfahrer_legen(inhalt, block, skala, g);
     }
     spur_schriften(g.spur, skala);
     return g;

@@ -12,9 +12,11 @@ namespace tarvel {
 namespace entwurf {
 inline constexpr double breite = 19200;
 inline constexpr double hoehe = 15360;
-inline constexpr double spalte = 3200;        ///< width of a column
-inline constexpr double zeile = 2092;         ///< height of a row
-inline constexpr double zaehler_links = 900;  ///< indent of the counter of laps in its field of a row
+inline constexpr double spalte = 3200;           ///< width of a column
+inline constexpr double zeile = 2092;            ///< height of a row
+inline constexpr double zaehler_schrift = 2600;  ///< font of the counter of laps at the start
+inline constexpr double balkenhoehe = 520;       ///< of a full tank
+inline constexpr double zaehler_links = 900;     ///< indent of the counter of laps in its field of a row
 }  // namespace entwurf
 
 /// How the lanes stand in the race window: one column each, one row each, or a single lane large.
@@ -24,11 +26,11 @@ enum class tankanzeige_art { keine, zahl, balken };
 /// What a view has to find room for.
 struct ansicht_inhalt {
     ansicht_art art = ansicht_art::spalten;
-    int spuren_anzahl = 1;  ///< 1 to 6
+    spuren<bool> spur_aktiv;
     tankanzeige_art tank = tankanzeige_art::keine;
     bool fahrzeugbild = false;
-    bool bestzeit = false;  ///< the best times of the lanes before the race
-    bool uhr_gross = false;
+    bool bestzeit = false;     ///< the best times of the lanes before the race
+    bool grosse_zeit = false;  ///< large clocks, where the lanes leave the room for them
     bool logobild = false;
     bool wrpic1 = false;
     bool wrpic2 = false;
@@ -103,9 +105,10 @@ private:
 
 struct ansicht_geometrie {
     plaetze<fenster_teil> fenster;
-    std::array<rechteck, spuren_max> block;  ///< of the chosen lanes in the order of their numbers
-    plaetze<spur_teil> spur;                 ///< from the upper left corner of the block; the same in each of them
-    rechteck zaehler_weit;                   ///< place of `zaehler` with half its indent
+    spuren<rechteck> block;   ///< of the chosen lanes, in the order of their numbers
+    plaetze<spur_teil> spur;  ///< from the upper left corner of the block; the same in each of them
+    rechteck streifen;        ///< of the lane's colour along an edge of its block
+    rechteck zaehler_weit;    ///< place of `zaehler` with half its indent
 };
 
 /// Lays the window out for this size in pixels.

@@ -16,7 +16,7 @@ void rennablauf::laden() {
     if (um_.einst.sensorkalibrierung) {
         um_.ausgaben.kalibrieren();
     }
-    t_.ansicht.spaltenansicht_oeffnen();
+    t_.ansicht.oeffnen();
     t_.ansicht.farben_setzen();
     rennen_zuruecksetzen();
     vor_dem_start();

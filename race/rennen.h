@@ -21,6 +21,8 @@ struct rennen {
         tarvel::ausgaben& ausgaben;
         fensterregister& fenster;
         const tarvel::bestzeiten& bestzeiten;
+        const namensliste& fahrerliste;
+        const namensliste& fahrzeugliste;
     };
 
     rennen(const plattform::dienste& dienste, const umfeld& um);

@@ -27,6 +27,14 @@ bool schneiden(const rechteck& a, const rechteck& b) {
     return !a.leer() && !b.leer() && a.x < b.rechts() && b.x < a.rechts() && a.y < b.unten() && b.y < a.unten();
 }
 
+spuren<bool> letzte_spuren(int anzahl) {
+    spuren<bool> aktiv{};
+    for (int spur = spuren_max; spur > spuren_max - anzahl; --spur) {
+        aktiv[spur] = true;
+    }
+    return aktiv;
+}
+
 /// Every view with everything that it may have to show.
 std::vector<ansicht_inhalt> alle_ansichten() {
     std::vector<ansicht_inhalt> alle;
@@ -35,11 +43,13 @@ std::vector<ansicht_inhalt> alle_ansichten() {
         inhalt.tank = static_cast<tankanzeige_art>(muster % 3);
         inhalt.fahrzeugbild = (muster / 3 & 1) != 0;
         inhalt.bestzeit = (muster / 3 & 2) != 0;
-        inhalt.uhr_gross = (muster / 3 & 4) != 0;
+        inhalt.grosse_zeit = (muster / 3 & 4) != 0;
         inhalt.logobild = inhalt.wrpic1 = inhalt.wrpic2 = (muster / 3 & 8) != 0;
         inhalt.art = ansicht_art::einfahrer;
+        inhalt.spur_aktiv = letzte_spuren(1);
         alle.push_back(inhalt);
-        for (inhalt.spuren_anzahl = 1; inhalt.spuren_anzahl <= spuren_max; ++inhalt.spuren_anzahl) {
+        for (int anzahl = 1; anzahl <= spuren_max; ++anzahl) {
+            inhalt.spur_aktiv = letzte_spuren(anzahl);
             for (const ansicht_art art : {ansicht_art::spalten, ansicht_art::zeilen}) {
                 inhalt.art = art;
                 alle.push_back(inhalt);
@@ -98,16 +108,23 @@ void lesbar(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, const rech
     EXPECT_EQ(g.spur[t::t_bahn].ort.leer(), inhalt.tank != tankanzeige_art::zahl);
 }
 
+int erste_spur(const ansicht_inhalt& inhalt) {
+    return *std::find_if(alle_spuren.begin(), alle_spuren.end(), [&](int spur) { return inhalt.spur_aktiv[spur]; });
+}
+
 void bloecke_pruefen(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, const rechteck& fenster) {
+    const bool zeilen = inhalt.art == ansicht_art::zeilen;
     std::vector<rechteck> bloecke;
     for (const rechteck& block : g.block) {
         if (!block.leer()) {
             bloecke.push_back(block);
-            EXPECT_EQ(std::pair(block.breite, block.hoehe), std::pair(g.block[0].breite, g.block[0].hoehe));
+            EXPECT_EQ(std::pair(block.breite, block.hoehe), std::pair(bloecke[0].breite, bloecke[0].hoehe));
         }
     }
-    EXPECT_EQ(static_cast<int>(bloecke.size()), inhalt.spuren_anzahl);
-    const bool zeilen = inhalt.art == ansicht_art::zeilen;
+    for (const int spur : alle_spuren) {
+        EXPECT_EQ(g.block[spur].leer(), !inhalt.spur_aktiv[spur]) << spur;
+    }
+    EXPECT_LT(zeilen ? bloecke.front().y : bloecke.front().x, fenster.breite / 5) << "no room for the lanes before";
     EXPECT_GT((zeilen ? bloecke.back().unten() : bloecke.back().rechts()),
               (zeilen ? 0.88 * fenster.hoehe : 0.97 * fenster.breite))
         << "the chosen lanes take all the room";
@@ -121,12 +138,12 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
     for (const auto& [breite, hoehe] : groessen) {
         for (const ansicht_inhalt& inhalt : alle_ansichten()) {
             SCOPED_TRACE(testing::Message()
-                         << breite << "x" << hoehe << ", view " << static_cast<int>(inhalt.art) << ", lanes "
-                         << inhalt.spuren_anzahl << ", tank " << static_cast<int>(inhalt.tank) << ", car "
-                         << inhalt.fahrzeugbild << ", best " << inhalt.bestzeit << ", clock " << inhalt.uhr_gross);
+                         << breite << "x" << hoehe << ", view " << static_cast<int>(inhalt.art) << ", from lane "
+                         << erste_spur(inhalt) << ", tank " << static_cast<int>(inhalt.tank) << ", car "
+                         << inhalt.fahrzeugbild << ", best " << inhalt.bestzeit << ", clock " << inhalt.grosse_zeit);
             const ansicht_geometrie g = ansicht_aufteilen(inhalt, breite, hoehe);
             const rechteck fenster{0, 0, breite, hoehe};
-            const rechteck block{0, 0, g.block[0].breite, g.block[0].hoehe};
+            const rechteck block{0, 0, g.block[spuren_max].breite, g.block[spuren_max].hoehe};
             bloecke_pruefen(inhalt, g, fenster);
             ohne_ueberdeckung(g.spur, block, {t::tanktitel, t::t_bahn, t::tankbalken});
             innere_pruefen(g.spur[t::frame_tank].ort,
@@ -147,22 +164,30 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
     }
 }
 
-TEST(AnsichtGeometrie, GrosseUhrNurAufBreitemSchirm) {
+TEST(AnsichtGeometrie, GrosseUhrNurWoPlatzDafuerIst) {
     ansicht_inhalt inhalt;
+    inhalt.spur_aktiv = letzte_spuren(3);
     const auto uhr = [&](int breite, int hoehe) {
         return ansicht_aufteilen(inhalt, breite, hoehe).fenster[f::uhrframe1].schrift_px;
     };
     const int klein = uhr(1920, 1080);
     const int schmal = uhr(1500, 1000);
-    inhalt.uhr_gross = true;
+    inhalt.grosse_zeit = true;
     EXPECT_NEAR(uhr(1920, 1080), 1.5 * klein, 2);
     EXPECT_EQ(uhr(1500, 1000), schmal) << "not wider than one and a half times its height";
+    inhalt.tank = tankanzeige_art::zahl;
+    EXPECT_GT(uhr(1920, 1080), klein);
+    inhalt.tank = tankanzeige_art::balken;
+    EXPECT_EQ(uhr(1920, 1080), klein) << "the bars need the room";
+    inhalt.tank = tankanzeige_art::keine;
+    inhalt.spur_aktiv = letzte_spuren(4);
+    EXPECT_EQ(uhr(1920, 1080), klein) << "at most three lanes";
 }
 
 TEST(AnsichtGeometrie, ZaehlerRuecktInDerZeileNachLinks) {
     ansicht_inhalt inhalt;
     inhalt.art = ansicht_art::zeilen;
-    inhalt.spuren_anzahl = 4;
+    inhalt.spur_aktiv = letzte_spuren(4);
     const ansicht_geometrie g = ansicht_aufteilen(inhalt, 1280, 1024);
     const rechteck& vorher = g.spur[t::zaehler].ort;
     EXPECT_LT(g.zaehler_weit.x, vorher.x);
