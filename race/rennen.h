@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dienste.h"
+#include "race/blinken.h"
 #include "race/chaos.h"
 #include "race/fortsetzung.h"
 #include "race/rennbefehle.h"
@@ -39,6 +40,7 @@ struct rennen {
     rennuhr uhr;
     rennende ende;
     rennansicht ansicht;
+    tarvel::blinken blinken;
     tarvel::strafen strafen;
     tarvel::tanken tanken;
     tarvel::sektoren sektoren;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/plattform/ausgabe_protokoll.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel {
@@ -70,6 +71,36 @@ TEST_F(Rennansicht, ZaehlerInDerZeileRuecktBeiTausendRunden) {
     EXPECT_DOUBLE_EQ(zaehler.links(), links / 2) << "the same for a race that goes on";
     t.p.rennen.ansicht.anzeigen_leeren();
     EXPECT_DOUBLE_EQ(zaehler.links(), links);
+}
+
+TEST_F(Rennansicht, AmpelBlinktVorDemRennen) {
+    using ausgang = schaltung::ausgang;
+    test::ausgabe_protokoll geraet;
+    t.p.ausgaben.anschliessen(ausgabe_platz::modul_4x4, geraet);
+    const auto rot = [&] { return geraet.ist_an(ausgang::ampel_rot, 1) && !geraet.ist_an(ausgang::ampel_gruen, 0); };
+    t.einrichten("Zeit", "5", {1, 2});
+    t.maschine.laufen(500);
+    EXPECT_TRUE(rot());
+    t.maschine.laufen(500);
+    EXPECT_FALSE(rot());
+    t.maschine.laufen(500);
+    t.bahn().Command1.klicken();
+    EXPECT_FALSE(rot()) << "a race without a light is driven on green";
+    geraet.befehle.clear();
+    t.maschine.laufen(5000);
+    EXPECT_TRUE(geraet.befehle.empty());
+    t.bahn().Command2.klicken();
+
+    t.einrichten("Zeit", "5", {1, 2});
+    t.maschine.laufen(500);
+    t.bahn().Command2.klicken();
+    EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0)) << "the window has left the light dark";
+    geraet.befehle.clear();
+    t.maschine.laufen(5000);
+    t.p.einst.blinken_an = false;
+    t.einrichten("Zeit", "5", {1, 2});
+    t.maschine.laufen(5000);
+    EXPECT_FALSE(geraet.enthaelt({ausgang::ampel_rot, 0, true}));
 }
 
 }  // namespace
