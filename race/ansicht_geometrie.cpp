@@ -56,13 +56,6 @@ void mit_titel(const rechteck& ort, double titel_hoehe, platz& titel, platz& anz
     anzeige.ort = stueck.rest();
 }
 
-/// Name behind the number of the lane.
-void name_legen(const rechteck& ort, double luecke, lage& g) {
-    zuschnitt stueck(ort, luecke);
-    g[t::Label_spur].ort = stueck.links(0.75 * ort.hoehe);
-    g[t::namenslabel].ort = stueck.rest();
-}
-
 /// The small lights side by side, no larger than fits.
 void ampel_legen(const rechteck& ort, double luecke, lage& g) {
     const double kante = std::min<double>(ort.hoehe, (ort.breite - 2 * luecke) / 3);
@@ -81,10 +74,10 @@ void schuld_legen(const rechteck& ort, lage& g) {
 }
 
 /// The place, and beside it the box of the blame.
-void platz_legen(const rechteck& ort, double titel_hoehe, double luecke, lage& g) {
+void platz_legen(const rechteck& ort, double s, double luecke, lage& g) {
     zuschnitt stueck(ort, luecke);
-    schuld_legen(stueck.rechts(std::min(0.9 * ort.hoehe, 0.4 * ort.breite)), g);
-    mit_titel(stueck.rest(), titel_hoehe, g[t::Label_platz], g[t::l_PosAnz]);
+    schuld_legen(stueck.rechts(std::min({0.9 * ort.hoehe, 0.4 * ort.breite, 800 * s})), g);
+    mit_titel(stueck.rest(), 320 * s, g[t::Label_platz], g[t::l_PosAnz]);
 }
 
 void tank_legen(const ansicht_inhalt& inhalt, const rechteck& ort, bool nebeneinander, lage& g) {
@@ -122,24 +115,26 @@ void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double lue
     mit_titel(rechts.rest(), 4 * teil, g[t::Label_brunde], g[t::brunde]);
 }
 
-/// A column from top to bottom. One that is twice as wide as the design has it shows two things side by side, and the
-/// counter takes what that leaves.
+/// A column from top to bottom. One that is nearly twice as wide as the design has it shows two things side by side,
+/// and the counter takes what that leaves.
 void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
     lage& g = ganzes.spur;
     const double luecke = 60 * s;
-    const bool breit = block.breite >= 2 * entwurf::spalte * s;
+    const bool breit = block.breite >= 1.8 * entwurf::spalte * s;
     zuschnitt stapel(block.innen(110 * s), luecke);
     ganzes.streifen = stapel.oben(100 * s);
     g[t::yellowframe].ort = stapel.oben(220 * s);
-    name_legen(stapel.oben(860 * s), luecke, g);
+    g[t::namenslabel].ort = stapel.oben(860 * s);
     zuschnitt bilder(stapel.oben((breit ? 1800 : 1450) * s), luecke);
     g[t::Image1].ort = bilder.links((breit ? 1800 : 1100) * s);
     if (breit && inhalt.fahrzeugbild) {
         g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.4 * block.breite));
     }
     zuschnitt neben_bild(bilder.rest(), luecke);
-    ampel_legen(neben_bild.oben(450 * s), luecke, g);
-    platz_legen(neben_bild.rest(), 300 * s, luecke, g);
+    zuschnitt nummer(neben_bild.oben(450 * s), luecke);
+    g[t::Label_spur].ort = nummer.links(450 * s);
+    ampel_legen(nummer.rest(), luecke, g);
+    platz_legen(neben_bild.rest(), s, luecke, g);
 
     g[t::straflabel].ort = stapel.unten(500 * s);
     const double bild2 = inhalt.fahrzeugbild && !breit ? 1000 * s : 0;
@@ -231,7 +226,8 @@ void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double
     g[t::yellowframe].ort = rest.oben(260 * s);
     zuschnitt kopf(rest.oben(1500 * s), luecke);
     ampel_legen(kopf.rechts(4500 * s), luecke, g);
-    name_legen(kopf.rest(), luecke, g);
+    g[t::Label_spur].ort = kopf.links(1100 * s);
+    g[t::namenslabel].ort = kopf.rest();
 
     const double seite = 0.25 * block.breite;
     zuschnitt links(rest.links(seite), luecke);
@@ -239,7 +235,7 @@ void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double
     if (inhalt.fahrzeugbild) {
         g[t::Image2].ort = links.oben(0.5 * links.rest().hoehe);
     }
-    platz_legen(links.rest(), 420 * s, luecke, g);
+    platz_legen(links.rest(), s, luecke, g);
 
     zuschnitt rechts(rest.rechts(seite), luecke);
     zeiten_stapeln(inhalt, rechts.oben(3600 * s), g);

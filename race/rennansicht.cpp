@@ -10,6 +10,8 @@ namespace tarvel {
 namespace {
 
 constexpr const char* leere_zeit = "00:00:000";
+/// The club's picture stands for a driver without one.
+constexpr const char* bild_ohne_fahrerbild = "tvkpic2.jpg";
 
 void uhr_texte(rennuhr_felder& uhr, const trennzeichen_tabelle& trennzeichen) {
     uhr.nach_stunden.text(trennzeichen[0]);
@@ -172,8 +174,13 @@ void rennansicht::bilder_setzen() {
         ort.ersatz(namen.listenart().bildordner + "/" + namen.listenart().standardbild);
         ort.datei(namen.bilddatei(um_.ablage, name));
     };
+    const namensliste::art& fahrer = um_.fahrerliste.listenart();
+    const bool vereinsbild = um_.ablage.gibt_es(bild_ohne_fahrerbild);
     for (const int spur : alle_spuren) {
         zeigen(bahn.Image1[spur], um_.fahrerliste, um_.param.fahrer_name[spur]);
+        if (vereinsbild && bahn.Image1[spur].datei() == fahrer.bildordner + "/" + fahrer.standardbild) {
+            bahn.Image1[spur].datei(bild_ohne_fahrerbild);
+        }
         zeigen(bahn.Image2[spur], um_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
     }
     const auto vom_verein = [this](bild& ort, const std::string& datei) {

@@ -50,8 +50,11 @@ TEST_F(Rennansicht, ZeigtWasEinstellungenUndDateienHergeben) {
     EXPECT_EQ(t.bahn().Image1[2].datei(), "pictures/nopic.jpg");
     EXPECT_TRUE(t.bahn().Image2[3].sichtbar() && !t.bahn().Image2[4].sichtbar());
     t.p.einst.tankanzeige_grafisch = true;
+    t.p.ablage.zeilen_schreiben("tvkpic2.jpg", {"?"});
     oeffnen({1, 2});
     EXPECT_EQ(inhalt().tank, tankanzeige_art::balken);
+    EXPECT_EQ(t.bahn().Image1[1].datei(), "pictures/anna.jpg");
+    EXPECT_EQ(t.bahn().Image1[2].datei(), "tvkpic2.jpg") << "the club's picture for a driver without one";
 }
 
 TEST_F(Rennansicht, ZaehlerInDerZeileRuecktBeiTausendRunden) {
