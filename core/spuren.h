@@ -22,6 +22,7 @@ public:
     constexpr auto end() const { return werte_.end(); }
 
     constexpr void fuellen(const T& wert) { werte_.fill(wert); }
+    bool operator==(const spuren&) const = default;
 
     std::array<T, spuren_max> werte_{};
 

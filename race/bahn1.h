@@ -5,6 +5,7 @@
 
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
+#include "race/ansicht_geometrie.h"
 
 namespace tarvel {
 
@@ -20,9 +21,21 @@ struct rennuhr_felder {
     bezeichnung nach_sekunden;
 };
 
+/// How the window is laid out, as a control: a drawing hears of it when it changes.
+class ansicht_wahl : public steuerelement {
+public:
+    const ansicht_inhalt& inhalt() const { return inhalt_; }
+    void inhalt(const ansicht_inhalt& neu) { setzen(inhalt_, neu); }
+
+private:
+    ansicht_inhalt inhalt_;
+};
+
 /// The controls of the race window. Their arrays are indexed by lane or, as `std::array`, by lane - 1.
 struct bahn1 {
     spuren<bezeichnung> namenslabel;
+    spuren<bild> Image1;          ///< driver
+    spuren<bild> Image2;          ///< vehicle
     spuren<bezeichnung> zaehler;  ///< laps
     spuren<bezeichnung> lrunde;   ///< last lap
     spuren<bezeichnung> brunde;   ///< best lap
@@ -37,6 +50,7 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_ge;
     std::array<bild, spuren_max> ampel_gr;
 
+    ansicht_wahl ansicht;
     rahmen titel;                     ///< carries the window's title
     spuren<bezeichnung> Label_spur;   ///< number of the lane
     spuren<bezeichnung> Label_platz;  ///< captions of the displays
@@ -50,6 +64,9 @@ struct bahn1 {
     rennuhr_felder uhr2;  ///< second clock: time driven
     bezeichnung nachlauflabel;
     bezeichnung ziel_label;  ///< what is driven for
+    bild logobild;           ///< pictures of the club, shown where there is a file of theirs
+    bild wrpic1;
+    bild wrpic2;
     bezeichnung werbe_label;
     rahmen Frame1;
     befehl Command1;       ///< start
@@ -85,8 +102,9 @@ struct bahn1 {
     };
     worte wort;  ///< of the window's language, for texts that are put together
 
-    bool zeilenansicht = false;   ///< one row per lane, else one column
+    bool zeilenansicht() const { return ansicht.inhalt().art == ansicht_art::zeilen; }
     double zaehler_schrift = 0;   ///< font size of `zaehler` at the start, in design units
+    double zaehler_links = 0;     ///< its left edge at the start
     double tank_balkenhoehe = 1;  ///< height of `tankbalken` at a full tank
 };
 

@@ -60,7 +60,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     zustand.fortgesetzt = true;
     zustand.fortsetzung_wartet = true;
     zustand.rennen_beendet = false;
-    t_.ansicht.spaltenansicht_oeffnen();
+    t_.ansicht.oeffnen();
     t_.ansicht.anzeigen_leeren();
     t_.ansicht.stand_zeigen();
     t_.plaetze.zeigen();

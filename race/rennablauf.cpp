@@ -16,10 +16,11 @@ void rennablauf::laden() {
     if (um_.einst.sensorkalibrierung) {
         um_.ausgaben.kalibrieren();
     }
-    t_.ansicht.spaltenansicht_oeffnen();
+    t_.ansicht.oeffnen();
     t_.ansicht.farben_setzen();
     rennen_zuruecksetzen();
     vor_dem_start();
+    t_.blinken.beginnen();
 }
 
 void rennablauf::vor_dem_start() {
@@ -32,6 +33,7 @@ void rennablauf::vor_dem_start() {
 
 void rennablauf::entladen() {
     um_.fenster.entladen("Form2");
+    t_.blinken.beenden();
     um_.zeitgeber.alle_aus();
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
@@ -76,6 +78,7 @@ void rennablauf::ampel_takt_bestimmen() {
 }
 
 void rennablauf::rennstart_vorbereiten() {
+    t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
     if (um_.einst.sensorkalibrierung) {
         um_.ausgaben.relais_off(0);  // the calibration has put the outputs to rest

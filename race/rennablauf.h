@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "race/blinken.h"
 #include "race/positionen.h"
 #include "race/rennansicht.h"
 #include "race/rennende.h"
@@ -23,6 +24,7 @@ public:
         rennende& ende;
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
+        tarvel::blinken& blinken;
         tanken& tank;
         sektoren& sektor;
         soundsensoren& sensoren;

@@ -9,8 +9,9 @@
 namespace tarvel {
 namespace {
 
-constexpr double zaehler_schrift_spalte = 2600;  // design units
 constexpr const char* leere_zeit = "00:00:000";
+/// The club's picture stands for a driver without one.
+constexpr const char* bild_ohne_fahrerbild = "tvkpic2.jpg";
 
 void uhr_texte(rennuhr_felder& uhr, const trennzeichen_tabelle& trennzeichen) {
     uhr.nach_stunden.text(trennzeichen[0]);
@@ -20,8 +21,13 @@ void uhr_texte(rennuhr_felder& uhr, const trennzeichen_tabelle& trennzeichen) {
 
 }  // namespace
 
-double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl) {
-    return std::min(breite_px / std::max(spuren_anzahl, 1) / entwurf::spalte, hoehe_px / entwurf::hoehe);
+void zaehler_verkleinern(bahn1& bahn, int spur, int runden) {
+    bezeichnung& zaehler = bahn.zaehler[spur];
+    if (runden >= 1000 && bahn.zeilenansicht()) {
+        zaehler.links(bahn.zaehler_links / 2);
+    } else if (runden >= 100) {
+        zaehler.schriftgroesse((runden >= 1000 ? 0.6 : 0.8) * bahn.zaehler_schrift);
+    }
 }
 
 void rennansicht::texte_setzen() {
@@ -93,28 +99,102 @@ sprachliste rennansicht::sprache_r() {
     return texte.text("Best: ", bahn.wort.bestzeit);
 }
 
+void rennansicht::oeffnen() {
+    if (um_.einst.darstellung_zeile) {
+        zeilenansicht_oeffnen();
+    } else if (um_.param.spuren_anzahl >= 2) {
+        spaltenansicht_oeffnen();
+    } else {
+        einfahrer_ansicht_oeffnen();
+    }
+}
+
+void rennansicht::zeilenansicht_oeffnen() {
+    um_.bahn.zaehler_links = entwurf::zaehler_links;
+    ansicht_oeffnen(ansicht_art::zeilen);
+}
+
 void rennansicht::spaltenansicht_oeffnen() {
+    um_.bahn.zaehler_links = 0;
+    ansicht_oeffnen(ansicht_art::spalten);
+}
+
+void rennansicht::einfahrer_ansicht_oeffnen() {
+    um_.bahn.zaehler_links = 0;
+    ansicht_oeffnen(ansicht_art::einfahrer);
+}
+
+void rennansicht::ansicht_oeffnen(ansicht_art art) {
     bahn1& bahn = um_.bahn;
     texte_setzen();
-    bahn.zeilenansicht = false;
-    bahn.zaehler_schrift = zaehler_schrift_spalte;
+    bahn.zaehler_schrift = entwurf::zaehler_schrift;
+    bahn.tank_balkenhoehe = entwurf::balkenhoehe;
     for (const int spur : alle_spuren) {
-        const std::size_t index = feld_index(spur);
-        const bool dabei = um_.param.spur_aktiv[spur];
-        bahn.namenslabel[spur].text(um_.param.fahrer_name[spur]);
-        for (steuerelement* element :
-             {static_cast<steuerelement*>(&bahn.namenslabel[spur]), static_cast<steuerelement*>(&bahn.zaehler[spur]),
-              static_cast<steuerelement*>(&bahn.lrunde[spur]), static_cast<steuerelement*>(&bahn.brunde[spur]),
-              static_cast<steuerelement*>(&bahn.bahnshape[spur]), static_cast<steuerelement*>(&bahn.t_liste[index])}) {
-            element->sichtbar(dabei);
-        }
-        bahn.t_liste[index].vormerken(runden_max + 1);
-        bahn.frame_tank[spur].sichtbar(dabei && um_.param.tank_aktiv);
-        bahn.t_bahn[spur].sichtbar(!um_.einst.tankanzeige_grafisch);
-        bahn.tankbalken[index].sichtbar(um_.einst.tankanzeige_grafisch);
+        spur_oeffnen(spur);
     }
     bestzeit_anzeige();
+    bilder_setzen();
+    const auto gibt_es = [this](const bild& b) { return um_.ablage.gibt_es(b.datei()); };
+    ansicht_inhalt inhalt;
+    inhalt.art = art;
+    inhalt.spur_aktiv = um_.param.spur_aktiv;
+    if (um_.param.tank_aktiv) {
+        inhalt.tank = um_.einst.tankanzeige_grafisch ? tankanzeige_art::balken : tankanzeige_art::zahl;
+    }
+    inhalt.fahrzeugbild = um_.einst.fahrzeugbild_an;
+    inhalt.bestzeit = std::any_of(bahn.bestzeit_label.begin(), bahn.bestzeit_label.end(),
+                                  [](const bezeichnung& label) { return label.sichtbar(); });
+    inhalt.grosse_zeit = um_.einst.grosse_zeit;
+    inhalt.logobild = gibt_es(bahn.logobild);
+    inhalt.wrpic1 = gibt_es(bahn.wrpic1);
+    inhalt.wrpic2 = gibt_es(bahn.wrpic2);
+    bahn.ansicht.inhalt(inhalt);
     bahn.Nachtabschaltung.sichtbar(false);
+}
+
+void rennansicht::spur_oeffnen(int spur) {
+    bahn1& bahn = um_.bahn;
+    const std::size_t index = feld_index(spur);
+    const bool dabei = um_.param.spur_aktiv[spur];
+    const bool mit_bild = dabei && !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+    bahn.namenslabel[spur].text(um_.param.fahrer_name[spur]);
+    for (steuerelement* element :
+         {static_cast<steuerelement*>(&bahn.namenslabel[spur]), static_cast<steuerelement*>(&bahn.zaehler[spur]),
+          static_cast<steuerelement*>(&bahn.lrunde[spur]), static_cast<steuerelement*>(&bahn.brunde[spur]),
+          static_cast<steuerelement*>(&bahn.bahnshape[spur]), static_cast<steuerelement*>(&bahn.t_liste[index])}) {
+        element->sichtbar(dabei);
+    }
+    bahn.Image1[spur].sichtbar(mit_bild);
+    bahn.Image2[spur].sichtbar(mit_bild && um_.einst.fahrzeugbild_an);
+    bahn.t_liste[index].vormerken(runden_max + 1);
+    bahn.frame_tank[spur].sichtbar(dabei && um_.param.tank_aktiv);
+    bahn.t_bahn[spur].sichtbar(!um_.einst.tankanzeige_grafisch);
+    bahn.tankbalken[index].sichtbar(um_.einst.tankanzeige_grafisch);
+}
+
+void rennansicht::bilder_setzen() {
+    bahn1& bahn = um_.bahn;
+    const auto zeigen = [this](bild& ort, const namensliste& namen, const std::string& name) {
+        ort.ersatz(namen.listenart().bildordner + "/" + namen.listenart().standardbild);
+        ort.datei(namen.bilddatei(um_.ablage, name));
+    };
+    const namensliste::art& fahrer = um_.fahrerliste.listenart();
+    const bool vereinsbild = um_.ablage.gibt_es(bild_ohne_fahrerbild);
+    for (const int spur : alle_spuren) {
+        zeigen(bahn.Image1[spur], um_.fahrerliste, um_.param.fahrer_name[spur]);
+        if (vereinsbild && bahn.Image1[spur].datei() == fahrer.bildordner + "/" + fahrer.standardbild) {
+            bahn.Image1[spur].datei(bild_ohne_fahrerbild);
+        }
+        zeigen(bahn.Image2[spur], um_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
+    }
+    const auto vom_verein = [this](bild& ort, const std::string& datei) {
+        ort.datei(datei);
+        ort.neu_laden();
+        ort.sichtbar(um_.ablage.gibt_es(datei));
+    };
+    vom_verein(bahn.logobild, "pictures/logobild.jpg");
+    vom_verein(bahn.wrpic1, "pictures/wrpic1.jpg");
+    vom_verein(bahn.wrpic2, "pictures/wrpic2.jpg");
 }
 
 void rennansicht::bestzeit_anzeige() {
@@ -143,7 +223,10 @@ void rennansicht::farben_setzen() {
         bahn.l_PosAnz.at(feld_index(spur)).schriftfarbe(spurfarbe);
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
-        bahn.bestzeit_label[spur].schriftfarbe(um_.einst.farben_schrift[2]);
+        for (bezeichnung* titel : {&bahn.bestzeit_label[spur], &bahn.Label_platz[spur], &bahn.Label_lrunde[spur],
+                                   &bahn.Label_brunde[spur]}) {
+            titel->schriftfarbe(um_.einst.farben_schrift[2]);
+        }
         bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.bahnshape[spur].hintergrund(um_.einst.farben_ampel[1]);
         bahn.bahnshape[spur].schriftfarbe(spurfarbe);
@@ -155,9 +238,10 @@ void rennansicht::farben_setzen() {
             teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
-    bahn.bestzeit_gesamt.schriftfarbe(um_.einst.farben_schrift[2]);
-    bahn.nachlauflabel.schriftfarbe(um_.einst.farben_schrift[2]);
-    bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
+    for (bezeichnung* label : {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label, &bahn.werbe_label,
+                               &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
+        label->schriftfarbe(um_.einst.farben_schrift[2]);
+    }
 }
 
 void rennansicht::kleine_ampel(int spur, kleines_licht licht) {
@@ -172,6 +256,7 @@ void rennansicht::anzeigen_leeren() {
     for (const int spur : alle_spuren) {
         bahn.zaehler[spur].text("0");
         bahn.zaehler[spur].schriftgroesse(bahn.zaehler_schrift);
+        bahn.zaehler[spur].links(bahn.zaehler_links);
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.lrunde[spur].text(leere_zeit);
         bahn.brunde[spur].text(leere_zeit);
@@ -194,7 +279,12 @@ void rennansicht::stand_zeigen() {
         bahn.zaehler[spur].text(um_.zustand.spur[spur].disqualifiziert ? std::string(disqualifiziert_text)
                                                                        : std::to_string(runden));
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
-        bahn.zaehler[spur].schriftgroesse(bahn.zaehler_schrift * (runden >= 1000 ? 0.6 : runden >= 100 ? 0.8 : 1));
+        if (runden >= 100) {
+            zaehler_verkleinern(bahn, spur, 100);
+        }
+        if (runden >= 1000) {
+            zaehler_verkleinern(bahn, spur, 1000);
+        }
         if (runden > 0) {
             bahn.lrunde[spur].text(kurz(speicher.rundenzeit(spur, runden)));
             bahn.brunde[spur].text(kurz(speicher.beste(spur)));

@@ -1,30 +1,28 @@
 #pragma once
 
+#include "race/ansicht_geometrie.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
 
-/// The design size of the race window. Font sizes of its controls are in these units.
-namespace entwurf {
-inline constexpr double breite = 19200;
-inline constexpr double hoehe = 15360;
-inline constexpr double spalte = 3200;  ///< width of one column
-}  // namespace entwurf
-
-/// Pixels per design unit in a column view of this size: the scale of the column's width or of the window's height,
-/// whichever is smaller.
-double spalten_skala(double breite_px, double hoehe_px, int spuren_anzahl);
-
 /// The small light of a lane.
 enum class kleines_licht { rot, gelb, gruen };
+
+/// Makes room for the third digit of a lane's counter at 100 laps and for the fourth at 1000.
+void zaehler_verkleinern(bahn1& bahn, int spur, int runden);
 
 /// Builds the race window for the lanes of the race, and puts its displays in the state before the start.
 class rennansicht {
 public:
     explicit rennansicht(const renn_umgebung& um) : um_(um) {}
 
-    /// Captions, and one column for each lane in the race; the controls of the other lanes are hidden.
+    /// Rows or columns as the settings say, and a single column large.
+    void oeffnen();
+    /// Captions, and one row, one column or the whole room for each lane in the race; the controls of the other lanes
+    /// are hidden.
+    void zeilenansicht_oeffnen();
     void spaltenansicht_oeffnen();
+    void einfahrer_ansicht_oeffnen();
     void farben_setzen();
     /// What is driven for.
     void ziel_zeigen();
@@ -41,6 +39,9 @@ public:
     sprachliste sprache_r();
 
 private:
+    void ansicht_oeffnen(ansicht_art art);
+    void spur_oeffnen(int spur);
+    void bilder_setzen();
     void texte_setzen();
     void ansagen_setzen();
     /// The best times as they are before the race; they stay during it.

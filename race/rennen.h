@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dienste.h"
+#include "race/blinken.h"
 #include "race/chaos.h"
 #include "race/fortsetzung.h"
 #include "race/rennbefehle.h"
@@ -21,6 +22,8 @@ struct rennen {
         tarvel::ausgaben& ausgaben;
         fensterregister& fenster;
         const tarvel::bestzeiten& bestzeiten;
+        const namensliste& fahrerliste;
+        const namensliste& fahrzeugliste;
     };
 
     rennen(const plattform::dienste& dienste, const umfeld& um);
@@ -37,6 +40,7 @@ struct rennen {
     rennuhr uhr;
     rennende ende;
     rennansicht ansicht;
+    tarvel::blinken blinken;
     tarvel::strafen strafen;
     tarvel::tanken tanken;
     tarvel::sektoren sektoren;

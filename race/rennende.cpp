@@ -124,7 +124,7 @@ void rennende::spur_ziel_setzen(int spur) {
     um_.bahn.bahnshape[spur].randfarbe(farben::rot);
     um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(false);
     um_.bahn.ampel_ge.at(feld_index(spur)).sichtbar(false);
-    if (!um_.bahn.zeilenansicht) {
+    if (!um_.bahn.zeilenansicht()) {
         um_.bahn.ampel_rt.at(feld_index(spur)).sichtbar(true);
     }
     um_.ausgaben.zieleinfahrt_melden();

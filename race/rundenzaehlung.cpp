@@ -84,12 +84,8 @@ void rundenzaehlung::zaehler_zeigen(int spur) {
     bezeichnung& zaehler = um_.bahn.zaehler[spur];
     const int runden = um_.zustand.spur[spur].runden;
     zaehler.text(std::to_string(runden));
-    if (runden == 100) {
-        zaehler.schriftgroesse(0.8 * um_.bahn.zaehler_schrift);
-    } else if (runden == 1000 && um_.bahn.zeilenansicht) {
-        zaehler.links(zaehler.links() / 2);
-    } else if (runden == 1000) {
-        zaehler.schriftgroesse(0.6 * um_.bahn.zaehler_schrift);
+    if (runden == 100 || runden == 1000) {
+        zaehler_verkleinern(um_.bahn, spur, runden);
     }
 }
 

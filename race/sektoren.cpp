@@ -134,7 +134,7 @@ void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
     if (text.empty()) {
         return;
     }
-    text += um_.bahn.zeilenansicht ? " k" : " k/h";
+    text += um_.bahn.zeilenansicht() ? " k" : " k/h";
     anzeigen_in(um_.bahn, spur, um_.einst.topspeed_anzeige, text);
 }
 

@@ -5,6 +5,7 @@
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
+#include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
@@ -39,6 +40,8 @@ struct renn_umgebung {
     plattform::zufall& zufall;
     plattform::meldungen& meldungen;
     const tarvel::bestzeiten& bestzeiten;
+    const namensliste& fahrerliste;
+    const namensliste& fahrzeugliste;
 
     bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
     bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }

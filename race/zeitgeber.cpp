@@ -19,6 +19,7 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
     : renntimer(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       renntimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
       renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
+      blinktimer(dienst.erzeugen(zeitgeber_art::abfragend, 500)),
       nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000)),
       chaostimer(einmalig(dienst, 2500)),
       chaosende_timer(einmalig(dienst, 1500)),
@@ -70,6 +71,7 @@ void rennzeitgeber::pause_aus() const {
 void rennzeitgeber::alle_aus() const {
     rennen_aus();
     pause_aus();
+    blinktimer->aus();
     nachlauftimer1->aus();
     f_straftimer->aus();
     f_straftimer2->aus();

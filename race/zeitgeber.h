@@ -18,6 +18,7 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> renntimer;   ///< the race tick
     std::unique_ptr<plattform::zeitgeber> renntimer2;  ///< polls the devices
     std::unique_ptr<plattform::zeitgeber> renntimer3;  ///< samples the devices
+    std::unique_ptr<plattform::zeitgeber> blinktimer;  ///< flashes the start light before the race
     std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
     std::unique_ptr<plattform::zeitgeber> chaostimer;       ///< no other trigger right after a pause has begun
     std::unique_ptr<plattform::zeitgeber> chaosende_timer;  ///< nor right after it has ended

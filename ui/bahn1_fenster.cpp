@@ -3,32 +3,24 @@
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QScreen>
-#include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
-#include "race/rennansicht.h"
+#include "ui/bildanzeige.h"
 #include "ui/stil.h"
 #include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
 namespace {
 
-// font sizes in design units
-constexpr double schrift_uhr = 1750;
-constexpr double schrift_uhr2 = 780;
-constexpr double schrift_ziel = 620;
-constexpr double schrift_knopf = 420;
-constexpr double schrift_rekord = 360;
-constexpr double schrift_werbung = 380;
-constexpr double schrift_formular = 330;
+using f = fenster_teil;
+
 constexpr int sekunden_max = 9999;
-constexpr int sekunden_px = 50;
+constexpr std::array<f, 4> befehle{f::Command1, f::Command3, f::Command4, f::Command2};
 
 const char* const knopf_regeln =
     "QLabel { color: #f0f2f5; }"
     "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
-    " padding: 6px 18px; }"
+    " padding: 0px 4px; min-height: 0px; }"
     "QPushButton:hover { background: #383d47; }"
     "QPushButton:focus { border: 2px solid #ffffff; }"
     "QPushButton:disabled { color: #6a707c; background: #1c1f24; border-color: #33373f; }"
@@ -40,112 +32,102 @@ const char* const knopf_regeln =
 Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("bahn1", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.bahn1.titel);
-    auto* grund = new QWidget(this);  // stands for the whole area, takes no room itself
-    grund->setAttribute(Qt::WA_TransparentForMouseEvents);
-    grund->resize(0, 0);
-    binder().verbinden(logik.bahn1.hintergrund, grund, "hintergrund", [this, &logik] {
+    const auto unsichtbar = [this] {  // stands for the whole area, takes no room itself
+        auto* grund = new QWidget(this);
+        grund->setAttribute(Qt::WA_TransparentForMouseEvents);
+        grund->resize(0, 0);
+        return grund;
+    };
+    binder().verbinden(logik.bahn1.hintergrund, unsichtbar(), "hintergrund", [this, &logik] {
         QPalette dunkel = palette();
         dunkel.setColor(QPalette::Window, stil::farbe_von(logik.bahn1.hintergrund.hintergrund().value_or(0)));
         dunkel.setColor(QPalette::WindowText, Qt::white);
         setPalette(dunkel);
     });
-
-    binder().skala(spalten_skala(1024, 768, spuren_max));
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(8, 4, 8, 8);
-    aufbau->setSpacing(4);
-    aufbau->addWidget(uhrenzeile());
-    aufbau->addWidget(binder().anzeige(logik.bahn1.bestzeit_gesamt, "bestzeit_gesamt", schrift_rekord));
-    auto* spalten = new QHBoxLayout;
-    spalten->setSpacing(6);
+    kopf();
     for (const int spur : alle_spuren) {
-        auto* spalte = new Rennspalte(logik.bahn1, spur, binder(), this);
-        spalten->addWidget(spalte, 1);
-        spalten_.push_back(spalte);
+        bloecke_.push_back(new Spurblock(
+            logik.bahn1, spur, binder(),
+            [&logik](const std::string& datei) { return logik.umgebung.ablage.pfad(datei); }, this));
     }
-    aufbau->addLayout(spalten, 1);
-    aufbau->addWidget(strafformular());
-    aufbau->addWidget(befehlszeile());
+    strafformular();
+    befehlszeile();
     nachtabschaltung();
     setMinimumSize(640, 480);
     resize(1280, 1024);
+    binder().verbinden(logik.bahn1.ansicht, unsichtbar(), "ansicht", [this] { anordnen(); });
     new Tastenfaenger(
         this, [&logik](int code) { return logik.befehle.ist_belegt(code); },
         [&logik](int code) { logik.befehle.taste(code); });
 }
 
-QWidget* Bahn1Fenster::uhrenzeile() {
-    auto* zeile = new QWidget(this);
-    auto* aufbau = new QHBoxLayout(zeile);
-    aufbau->setContentsMargins(8, 0, 8, 0);
-    TextAnzeige* ziel = binder().anzeige(logik_.bahn1.ziel_label, "ziel_label", schrift_ziel);
-    ziel->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    TextAnzeige* nachlauf = binder().anzeige(logik_.bahn1.nachlauflabel, "nachlauflabel", schrift_uhr * 0.8);
+void Bahn1Fenster::kopf() {
+    bahn1& bahn = logik_.bahn1;
+    for (const auto& [name, element, widget_name] :
+         {std::tuple<f, bezeichnung&, const char*>{f::ziel_label, bahn.ziel_label, "ziel_label"},
+          {f::bestzeit_gesamt, bahn.bestzeit_gesamt, "bestzeit_gesamt"}}) {
+        TextAnzeige* text = binder().anzeige(element, widget_name);
+        text->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+        teil(name) = text;
+    }
+    TextAnzeige* nachlauf = binder().anzeige(bahn.nachlauflabel, "nachlauflabel");
     nachlauf->setFett(true);
-    auto* haupt = new Uhranzeige(logik_.bahn1.uhr1, 1, schrift_uhr, binder(), this);
-    auto* zweite = new Uhranzeige(logik_.bahn1.uhr2, 2, schrift_uhr2, binder(), this);
-    aufbau->addWidget(ziel, 2);
-    aufbau->addWidget(haupt, 4);
-    aufbau->addWidget(nachlauf, 4);
-    aufbau->addWidget(zweite, 2);
-    return zeile;
+    teil(f::nachlauflabel) = nachlauf;
+    teil(f::uhrframe1) = new Uhranzeige(bahn.uhr1, 1, binder(), this);
+    teil(f::uhrframe2) = new Uhranzeige(bahn.uhr2, 2, binder(), this);
+    const auto pfad = [this](const std::string& datei) { return logik_.umgebung.ablage.pfad(datei); };
+    teil(f::logobild) = binder().bildanzeige(bahn.logobild, "logobild", pfad);
+    teil(f::wrpic1) = binder().bildanzeige(bahn.wrpic1, "wrpic1", pfad);
+    teil(f::wrpic2) = binder().bildanzeige(bahn.wrpic2, "wrpic2", pfad);
 }
 
-QWidget* Bahn1Fenster::befehlszeile() {
+void Bahn1Fenster::befehlszeile() {
+    bahn1& bahn = logik_.bahn1;
     auto* zeile = new QWidget(this);
     zeile->setStyleSheet(knopf_regeln);
-    auto* aufbau = new QHBoxLayout(zeile);
-    aufbau->setContentsMargins(4, 2, 4, 0);
-    aufbau->setSpacing(12);
-    QPushButton* start = binder().hauptknopf(logik_.bahn1.Command1, "Command1");
-    QPushButton* pause = binder().knopf(logik_.bahn1.Command3, "Command3");
-    QPushButton* ende = binder().knopf(logik_.bahn1.Command4, "Command4");
-    QPushButton* abbruch = binder().knopf(logik_.bahn1.Command2, "Command2");
-    aufbau->addWidget(start);
-    aufbau->addWidget(pause);
-    aufbau->addWidget(ende);
-    TextAnzeige* werbung = binder().anzeige(logik_.bahn1.werbe_label, "werbe_label", schrift_werbung);
-    werbung->setFarbe(QColor(150, 156, 166));
-    aufbau->addWidget(werbung, 1);
-    aufbau->addWidget(abbruch);
-    knoepfe_ = {start, pause, ende, abbruch};
-    setTabOrder(start, pause);
-    setTabOrder(pause, ende);
-    setTabOrder(ende, abbruch);
-    binder().verbinden(logik_.bahn1.Frame1, zeile, "Frame1", {});
-    return zeile;
+    teil(f::Frame1) = zeile;
+    teil(f::Command1) = binder().hauptknopf(bahn.Command1, "Command1");
+    teil(f::Command3) = binder().knopf(bahn.Command3, "Command3");
+    teil(f::Command4) = binder().knopf(bahn.Command4, "Command4");
+    teil(f::Command2) = binder().knopf(bahn.Command2, "Command2");
+    TextAnzeige* werbung = binder().anzeige(bahn.werbe_label, "werbe_label");
+    werbung->setLeise();
+    teil(f::werbe_label) = werbung;
+    QWidget* vorher = nullptr;
+    for (const f name : {f::Command1, f::Command3, f::Command4, f::werbe_label, f::Command2}) {
+        teil(name)->setParent(zeile);
+        if (vorher != nullptr) {
+            setTabOrder(vorher, teil(name));
+        }
+        vorher = teil(name);
+    }
+    binder().verbinden(bahn.Frame1, zeile, "Frame1", {});
 }
 
-QWidget* Bahn1Fenster::strafformular() {
-    // its place is always there: no command may move under the pointer when a pause begins
-    auto* platz = new QWidget(this);
-    platz->setStyleSheet(knopf_regeln);
-    auto* lage = new QHBoxLayout(platz);
-    lage->setContentsMargins(0, 0, 0, 0);
-    auto* kasten = new QWidget(platz);
-    lage->addWidget(kasten);
+void Bahn1Fenster::strafformular() {
+    bahn1& bahn = logik_.bahn1;
+    auto* kasten = new QWidget(this);
+    kasten->setStyleSheet(knopf_regeln);
+    teil(f::ch_strafframe) = kasten;
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
     zeile->setSpacing(4);
-    QLabel* vorn = binder().label(logik_.bahn1.ch_Label1, "ch_Label1");
+    QLabel* vorn = binder().label(bahn.ch_Label1, "ch_Label1");
     auto* haken = new QLabel(QString::fromUtf8("\u2611"), kasten);
-    QLabel* mitte = binder().label(logik_.bahn1.ch_Label2, "ch_Label2");
-    QLineEdit* sekunden = binder().zeile(logik_.bahn1.ch_Text1, "ch_Text1");
-    sekunden->setAlignment(Qt::AlignRight);
-    sekunden->setFixedWidth(sekunden_px);
-    QObject::connect(sekunden, &QLineEdit::returnPressed, this, [this] { knoepfe_.at(1)->setFocus(); });
-    QLabel* hinten = binder().label(logik_.bahn1.ch_Label3, "ch_Label3");
+    QLabel* mitte = binder().label(bahn.ch_Label2, "ch_Label2");
+    sekunden_ = binder().zeile(bahn.ch_Text1, "ch_Text1");
+    sekunden_->setAlignment(Qt::AlignRight);
+    sekunden_->setValidator(new QIntValidator(0, sekunden_max, sekunden_));
+    QObject::connect(sekunden_, &QLineEdit::returnPressed, this, [this] { teil(f::Command3)->setFocus(); });
+    QLabel* hinten = binder().label(bahn.ch_Label3, "ch_Label3");
     zeile->addStretch();
-    for (QWidget* teil : {static_cast<QWidget*>(vorn), static_cast<QWidget*>(haken), static_cast<QWidget*>(mitte),
-                          static_cast<QWidget*>(sekunden), static_cast<QWidget*>(hinten)}) {
-        zeile->addWidget(teil);
-        formular_.push_back(teil);
+    for (QWidget* stueck : {static_cast<QWidget*>(vorn), static_cast<QWidget*>(haken), static_cast<QWidget*>(mitte),
+                            static_cast<QWidget*>(sekunden_), static_cast<QWidget*>(hinten)}) {
+        zeile->addWidget(stueck);
+        formular_.push_back(stueck);
     }
     zeile->addStretch();
-    sekunden->setValidator(new QIntValidator(0, sekunden_max, sekunden));
-    binder().verbinden(logik_.bahn1.ch_strafframe, kasten, "ch_strafframe", {});
-    formular_platz_ = platz;
-    return platz;
+    binder().verbinden(bahn.ch_strafframe, kasten, "ch_strafframe", {});
 }
 
 void Bahn1Fenster::nachtabschaltung() {
@@ -162,12 +144,17 @@ void Bahn1Fenster::nachtabschaltung() {
 
 void Bahn1Fenster::aufschlagen() {
     if (!isVisible()) {
-        const QRect platz = screen()->availableGeometry();
-        setGeometry(platz.adjusted(platz.width() / 16, platz.height() / 12, -platz.width() / 16, -platz.height() / 16));
-        showMaximized();
+        const QRect schirm = screen()->availableGeometry();
+        setGeometry(
+            schirm.adjusted(schirm.width() / 16, schirm.height() / 12, -schirm.width() / 16, -schirm.height() / 16));
+        if (logik_.umgebung.einst.fenstermodus) {
+            showNormal();
+        } else {
+            showFullScreen();
+        }
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    skalieren();
+    anordnen();
     raise();
     activateWindow();
 }
@@ -175,48 +162,68 @@ void Bahn1Fenster::aufschlagen() {
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     nacht_->setGeometry(rect());
-    skalieren();
+    anordnen();
 }
 
-void Bahn1Fenster::skalieren() {
-    const int anzahl = std::max(logik_.umgebung.param.spuren_anzahl, 1);
-    const double skala = spalten_skala(width(), height(), anzahl);
-    binder().skala(skala);
-    for (Rennspalte* spalte : spalten_) {
-        spalte->skalieren(skala);
+void Bahn1Fenster::anordnen() {
+    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    for (Spurblock* block : bloecke_) {
+        block->anordnen(geometrie);
     }
-    for (QWidget* teil : formular_) {
-        QFont schrift = teil->font();
-        schrift.setPixelSize(std::clamp(static_cast<int>(std::lround(schrift_formular * skala)), 11, 24));
-        teil->setFont(schrift);
+    for (std::size_t i = 0; i < teile_.size(); ++i) {
+        const auto name = static_cast<f>(i);
+        const platz& ort = geometrie.fenster[name];
+        QWidget* widget = teil(name);
+        widget->setGeometry(ort.ort.x, ort.ort.y, ort.ort.breite, ort.ort.hoehe);
+        if (auto* text = dynamic_cast<TextAnzeige*>(widget)) {
+            text->setSchriftPx(ort.schrift_px);
+        } else if (auto* uhr = dynamic_cast<Uhranzeige*>(widget)) {
+            uhr->setSchriftPx(ort.schrift_px);
+        }
     }
-    for (QPushButton* knopf : knoepfe_) {
-        QFont schrift = knopf->font();
-        schrift.setPixelSize(std::max(13, static_cast<int>(std::lround(schrift_knopf * skala))));
-        knopf->setFont(schrift);
-    }
-    int hoehe = 0;
-    for (const QWidget* teil : formular_) {
-        hoehe = std::max(hoehe, teil->sizeHint().height());
-    }
-    formular_platz_->setFixedHeight(hoehe);
-    // each as wide as its longest caption: a pause changes captions, and no button may move with that
-    constexpr int rand_px = 44;
+    befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
+    const platz& formular = geometrie.fenster[f::ch_strafframe];
+    formular_beschriften(formular.schrift_px, formular.ort);
+}
+
+void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
+    constexpr int kleinste_px = 8;
+    const QLayout* zeile = teil(f::ch_strafframe)->layout();
+    int px = schrift_px + 1;
+    do {
+        --px;
+        for (QWidget* stueck : formular_) {
+            QFont schrift = stueck->font();
+            schrift.setPixelSize(px);
+            stueck->setFont(schrift);
+        }
+        sekunden_->setFixedSize(px * 4, ort.hoehe);
+    } while (zeile->sizeHint().width() > ort.breite && px > kleinste_px);
+}
+
+void Bahn1Fenster::befehle_beschriften(int schrift_px) {
+    // one size for all, small enough for the longest caption: a pause changes captions, and nothing else may change
     const bahn1::worte& wort = logik_.bahn1.wort;
-    for (QPushButton* knopf : knoepfe_) {
-        QStringList texte{knopf->text()};
-        if (knopf == knoepfe_[1]) {
-            for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
-                texte << QString::fromStdString(*text);
-            }
-        }
-        QFont fett = knopf->font();
-        fett.setBold(true);
-        int breite = 0;
-        for (const QString& text : texte) {
-            breite = std::max(breite, QFontMetrics(fett).horizontalAdvance(text));
-        }
-        knopf->setFixedWidth(breite + rand_px);
+    QStringList texte;
+    for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
+        texte << QString::fromStdString(*text);
+    }
+    for (const f name : befehle) {
+        texte << static_cast<QPushButton*>(teil(name))->text();
+    }
+    constexpr int rand_px = 20;
+    const int platz_px = std::max(teil(f::Command1)->width() - rand_px, 1);
+    QFont schrift = teil(f::Command1)->font();
+    schrift.setBold(true);
+    schrift.setPixelSize(schrift_px);
+    int breite = platz_px;
+    for (const QString& text : texte) {
+        breite = std::max(breite, QFontMetrics(schrift).horizontalAdvance(text));
+    }
+    schrift.setPixelSize(std::max(8, schrift_px * platz_px / breite));
+    schrift.setBold(false);
+    for (const f name : befehle) {
+        teil(name)->setFont(schrift);
     }
 }
 

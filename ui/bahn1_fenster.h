@@ -1,10 +1,11 @@
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "race/rennen.h"
 #include "ui/fenster.h"
-#include "ui/rennspalte.h"
+#include "ui/spurblock.h"
 #include "ui/uhranzeige.h"
 
 namespace tarvel::ui {
@@ -20,18 +21,22 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
-    QWidget* uhrenzeile();
-    QWidget* befehlszeile();
-    QWidget* strafformular();
+    void kopf();
+    void befehlszeile();
+    void strafformular();
     void nachtabschaltung();
-    void skalieren();
+    /// Puts every widget where the layout has it for the window's size.
+    void anordnen();
+    void befehle_beschriften(int schrift_px);
+    void formular_beschriften(int schrift_px, const rechteck& ort);
+    QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
 
     rennen& logik_;
-    std::vector<Rennspalte*> spalten_;
-    std::vector<QPushButton*> knoepfe_;  ///< start, pause, end, abort
-    std::vector<QWidget*> formular_;     ///< parts of the penalty form
+    std::vector<Spurblock*> bloecke_;
+    std::array<QWidget*, static_cast<std::size_t>(fenster_teil::anzahl)> teile_{};
+    std::vector<QWidget*> formular_;  ///< parts of the penalty form
+    QLineEdit* sekunden_ = nullptr;
     QWidget* nacht_ = nullptr;
-    QWidget* formular_platz_ = nullptr;
 };
 
 }  // namespace tarvel::ui

@@ -33,17 +33,32 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
     }
 }
 
-/// The picture as large as fits; null if there is none that can be read.
-QPixmap bild_lesen(const std::filesystem::path& pfad, QSize groesse) {
+/// Null if there is no picture that can be read.
+QImage bild_lesen(const std::filesystem::path& pfad) {
     if (pfad.empty()) {
         return {};
     }
     QImageReader leser(QString::fromStdU16String(pfad.u16string()));
     leser.setDecideFormatFromContent(true);  // a picture keeps its kind when it is copied under another name
     leser.setAutoTransform(true);
-    const QImage inhalt = leser.read();
-    return inhalt.isNull() ? QPixmap()
-                           : QPixmap::fromImage(inhalt.scaled(groesse, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return leser.read();
+}
+
+/// Reads the control's picture, or the one that stands in for it, when it is another one than before.
+auto bild_nachlesen(bild& element, std::function<std::filesystem::path(const std::string&)> pfad,
+                    std::function<void(const QImage&)> zeigen) {
+    const auto lesen = [pfad = std::move(pfad)](const std::string& datei) {
+        return datei.empty() ? QImage() : bild_lesen(pfad(datei));
+    };
+    return [&element, lesen, zeigen = std::move(zeigen), auflage = 0U, datei = std::string("\n")]() mutable {
+        if (datei == element.datei() && auflage == element.auflage()) {
+            return;
+        }
+        datei = element.datei();
+        auflage = element.auflage();
+        const QImage eigenes = lesen(element.datei());
+        zeigen(eigenes.isNull() ? lesen(element.ersatz()) : eigenes);
+    };
 }
 
 }  // namespace
@@ -133,16 +148,10 @@ QLabel* Binder::label(bezeichnung& element, const QString& name) {
     return widget;
 }
 
-TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double entwurf) {
+TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name) {
     auto* widget = new TextAnzeige(eltern_);
-    auto schrift = [this, &element, widget, entwurf] {
-        const double einheiten = element.schriftgroesse() > 0 ? element.schriftgroesse() : entwurf;
-        widget->setSchriftPx(static_cast<int>(std::lround(einheiten * skala_)));
-    };
-    schriften_.emplace_back(schrift);
     std::optional<QColor> eigene;  // while the control has set another
-    verbinden(element, widget, name, [&element, widget, schrift, eigene]() mutable {
-        schrift();
+    verbinden(element, widget, name, [&element, widget, eigene]() mutable {
         widget->setText(als_text(element.text()));
         if (element.schriftfarbe()) {
             eigene = eigene.value_or(widget->farbe());
@@ -154,10 +163,11 @@ TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double
     return widget;
 }
 
-TextAnzeige* Binder::beschriftung(double entwurf) {
-    auto* widget = new TextAnzeige(eltern_);
+TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name, double entwurf) {
+    TextAnzeige* widget = anzeige(element, name);
     schriften_.emplace_back(
         [this, widget, entwurf] { widget->setSchriftPx(static_cast<int>(std::lround(entwurf * skala_))); });
+    schriften_.back()();
     return widget;
 }
 
@@ -188,19 +198,19 @@ QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse,
     auto* widget = new QLabel(eltern_);
     widget->setFixedSize(groesse);
     widget->setAlignment(Qt::AlignCenter);
-    const auto lesen = [groesse, pfad = std::move(pfad)](const std::string& datei) {
-        return datei.empty() ? QPixmap() : bild_lesen(pfad(datei), groesse);
-    };
-    unsigned auflage = 0;
-    verbinden(element, widget, name, [&element, widget, lesen, auflage, datei = std::string("\n")]() mutable {
-        if (datei == element.datei() && auflage == element.auflage()) {
-            return;
-        }
-        datei = element.datei();
-        auflage = element.auflage();
-        const QPixmap eigenes = lesen(element.datei());
-        widget->setPixmap(eigenes.isNull() ? lesen(element.ersatz()) : eigenes);
-    });
+    verbinden(element, widget, name, bild_nachlesen(element, std::move(pfad), [widget, groesse](const QImage& inhalt) {
+                  widget->setPixmap(inhalt.isNull() ? QPixmap()
+                                                    : QPixmap::fromImage(inhalt.scaled(groesse, Qt::KeepAspectRatio,
+                                                                                       Qt::SmoothTransformation)));
+              }));
+    return widget;
+}
+
+Bildanzeige* Binder::bildanzeige(bild& element, const QString& name,
+                                 std::function<std::filesystem::path(const std::string&)> pfad) {
+    auto* widget = new Bildanzeige(eltern_);
+    verbinden(element, widget, name,
+              bild_nachlesen(element, std::move(pfad), [widget](const QImage& inhalt) { widget->setBild(inhalt); }));
     return widget;
 }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "core/steuerelemente.h"
+#include "ui/bildanzeige.h"
 #include "ui/bildtakt.h"
 #include "ui/kuerzel.h"
 #include "ui/lampe.h"
@@ -31,15 +32,18 @@ public:
     ~Binder();
 
     QLabel* label(bezeichnung& element, const QString& name);
-    /// A large display with a font of `entwurf` design units, unless the control names its own.
+    /// A large display with a font of `entwurf` design units.
     TextAnzeige* anzeige(steuerelement& element, const QString& name, double entwurf);
-    /// A display of text that no control of its own stands for; it scales with the others.
-    TextAnzeige* beschriftung(double entwurf);
+    /// A display whose font the window sets.
+    TextAnzeige* anzeige(steuerelement& element, const QString& name);
     QGroupBox* gruppe(rahmen& element, const QString& name);
     /// The picture in a frame of this size.
     /// `pfad` tells where the file of a picture lies; empty for nowhere.
     QLabel* bildfeld(bild& element, const QString& name, QSize groesse,
                      std::function<std::filesystem::path(const std::string&)> pfad);
+    /// The picture in a place of any size.
+    Bildanzeige* bildanzeige(bild& element, const QString& name,
+                             std::function<std::filesystem::path(const std::string&)> pfad);
     /// One of several tick boxes of which exactly one is set.
     QRadioButton* wahlknopf(haken& element, const QString& name);
     /// A swatch that opens the colour dialog.

@@ -21,7 +21,11 @@ void Tankbalken::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.setBrush(QColor(28, 31, 36));
     maler.drawRoundedRect(rand, 4, 4);
     QRectF voll = rand.adjusted(3, 3, -3, -3);
-    voll.setWidth(voll.width() * anteil_);
+    if (voll.height() > voll.width()) {
+        voll.setTop(voll.bottom() - voll.height() * anteil_);
+    } else {
+        voll.setWidth(voll.width() * anteil_);
+    }
     maler.setPen(Qt::NoPen);
     maler.setBrush(farbe_);
     maler.drawRoundedRect(voll, 2, 2);

@@ -5,7 +5,7 @@
 
 namespace tarvel::ui {
 
-/// A fuel gauge: a bar that is as long as the tank is full.
+/// A fuel gauge: a bar that is as long as the tank is full, from the left or, in an upright place, from below.
 class Tankbalken final : public QWidget {
 public:
     explicit Tankbalken(QWidget* eltern) : QWidget(eltern) {}

@@ -37,6 +37,11 @@ void TextAnzeige::setFett(bool fett) {
     update();
 }
 
+void TextAnzeige::setLeise() {
+    deckkraft_ = 0.75;
+    update();
+}
+
 void TextAnzeige::setFarbe(const QColor& farbe) {
     if (farbe_ != farbe) {
         farbe_ = farbe;
@@ -66,6 +71,7 @@ QSize TextAnzeige::minimumSizeHint() const {
 void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::TextAntialiasing);
+    maler.setOpacity(deckkraft_);
     maler.setPen(farbe_.isValid() ? farbe_ : palette().color(QPalette::WindowText));
     QFont schrift = schrift_;
     QString text = text_;

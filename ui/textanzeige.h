@@ -14,6 +14,8 @@ public:
     QString text() const { return text_; }
     void setSchriftPx(int px);
     void setFett(bool fett);
+    /// Fainter than its colour: a caption, which gives way to what it names.
+    void setLeise();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
     void setAusrichtung(Qt::Alignment ausrichtung);
@@ -31,6 +33,7 @@ private:
     QString muster_;
     QFont schrift_;
     QColor farbe_;
+    double deckkraft_ = 1;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };
 

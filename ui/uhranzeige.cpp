@@ -1,31 +1,16 @@
 #include "ui/uhranzeige.h"
 
-#include <QHBoxLayout>
-#include <QVBoxLayout>
+#include <QEvent>
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
 
 #include "ui/stil.h"
 
 namespace tarvel::ui {
 
-namespace {
-
-constexpr double schrift_titel = 420;  // design units
-
-}  // namespace
-
-Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, double entwurf, Binder& binder, QWidget* eltern)
-    : QWidget(eltern) {
-    const QString ziffer = QString::number(nummer);
-    auto* gestapelt = new QVBoxLayout(this);
-    gestapelt->setContentsMargins(0, 0, 0, 0);
-    gestapelt->setSpacing(0);
-    TextAnzeige* titel = binder.beschriftung(schrift_titel);
-    gestapelt->addWidget(titel);
-    auto* aufbau = new QHBoxLayout;
-    aufbau->setSpacing(0);
-    gestapelt->addLayout(aufbau, 1);
-    aufbau->addStretch();
-
+Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, Binder& binder, QWidget* eltern)
+    : QWidget(eltern), titel_(new TextAnzeige(this)) {
     struct teil {
         bezeichnung& element;
         QString name;
@@ -39,18 +24,63 @@ Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, double entwurf, Binder& 
                           teil{uhr.sekunden, erste ? "labelsec1" : "Labelsec2", "00"},
                           teil{uhr.nach_sekunden, erste ? "Label8" : "Label9", ","},
                           teil{uhr.tausendstel, erste ? "labelhun1" : "Labelhun2", "000"}}) {
-        TextAnzeige* anzeige = binder.anzeige(t.element, t.name, entwurf);
+        TextAnzeige* anzeige = binder.anzeige(t.element, t.name);
+        anzeige->setParent(this);
         anzeige->setFett(true);
-        anzeige->setMusterText(t.muster);
-        aufbau->addWidget(anzeige);
+        teile_.push_back({anzeige, t.muster});
     }
-    aufbau->addStretch();
-    binder.verbinden(uhr.uhrframe, this, "uhrframe" + ziffer, [this, &uhr, titel] {
-        titel->setText(QString::fromStdString(uhr.uhrframe.text()));
+    teile_.front().anzeige->installEventFilter(this);
+    binder.verbinden(uhr.uhrframe, this, "uhrframe" + QString::number(nummer), [this, &uhr] {
+        titel_->setText(QString::fromStdString(uhr.uhrframe.text()));
         if (uhr.uhrframe.schriftfarbe()) {
-            titel->setFarbe(stil::farbe_von(*uhr.uhrframe.schriftfarbe()));
+            titel_->setFarbe(stil::farbe_von(*uhr.uhrframe.schriftfarbe()));
         }
     });
+}
+
+void Uhranzeige::setSchriftPx(int px) {
+    schrift_px_ = px;
+    anordnen();
+}
+
+void Uhranzeige::anordnen() {
+    constexpr int probe_px = 100;
+    QFont schrift = font();
+    schrift.setBold(true);
+    schrift.setPixelSize(probe_px);
+    const QFontMetricsF masse(schrift);
+    const auto em = [&](const Teil& t) {  // with a little air, so that no digit is squeezed by rounding
+        return t.anzeige->isHidden() ? 0 : masse.horizontalAdvance(t.muster) / probe_px + 0.03;
+    };
+    double breite_em = 0;
+    for (const Teil& t : teile_) {
+        breite_em += em(t);
+    }
+    const int titel = height() * 19 / 100;
+    const int px = std::min(schrift_px_, static_cast<int>(width() / breite_em));
+    const int hoehe = std::min(px, height() - titel);
+    const int oben = (height() - titel - hoehe) / 2;
+    titel_->setGeometry(0, oben, width(), titel);
+    titel_->setSchriftPx(titel * 8 / 10);
+    double x = (width() - breite_em * px) / 2;
+    for (const Teil& t : teile_) {
+        const double breite = em(t) * px;
+        t.anzeige->setGeometry(static_cast<int>(x), oben + titel, static_cast<int>(std::ceil(breite)), hoehe);
+        t.anzeige->setSchriftPx(px);
+        x += breite;
+    }
+}
+
+void Uhranzeige::resizeEvent(QResizeEvent* ereignis) {
+    QWidget::resizeEvent(ereignis);
+    anordnen();
+}
+
+bool Uhranzeige::eventFilter(QObject* ziel, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent) {
+        anordnen();  // with the hours the rest gets less room
+    }
+    return QWidget::eventFilter(ziel, ereignis);
 }
 
 }  // namespace tarvel::ui

@@ -257,8 +257,9 @@ TEST_F(Oberflaeche, FarbenKommenAusDenEinstellungen) {
     t.p.einst.farben_spur[1] = 0x00FF00;
     t.einrichten("Zeit", "5", {1});
     o.takt.ausfuehren();
-    const QImage spalte = finde<QWidget>(o.bahn1, "bahn1.bahnshape_1")->grab().toImage();
-    EXPECT_EQ(spalte.pixelColor(spalte.width() / 2, 9), QColor(0, 255, 0));
+    const QImage spur = finde<QWidget>(o.bahn1, "bahn1.bahnshape_1")->grab().toImage();
+    const ansicht_geometrie g = ansicht_aufteilen(t.bahn().ansicht.inhalt(), o.bahn1.width(), o.bahn1.height());
+    EXPECT_EQ(spur.pixelColor(spur.width() / 2, g.streifen.y + g.streifen.hoehe / 2), QColor(0, 255, 0));
 }
 
 TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {

@@ -1,0 +1,208 @@
+#include "race/ansicht_geometrie.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tarvel {
+
+static std::ostream& operator<<(std::ostream& aus, const rechteck& r) {
+    return aus << r.x << "," << r.y << " " << r.breite << "x" << r.hoehe;
+}
+
+namespace {
+
+using t = spur_teil;
+using f = fenster_teil;
+
+constexpr std::pair<int, int> groessen[] = {{800, 600}, {1024, 768}, {1280, 1024}, {1920, 1080}, {3840, 2160}};
+
+bool enthaelt(const rechteck& aussen, const rechteck& r) {
+    return r.x >= aussen.x && r.y >= aussen.y && r.rechts() <= aussen.rechts() && r.unten() <= aussen.unten();
+}
+
+bool schneiden(const rechteck& a, const rechteck& b) {
+    return !a.leer() && !b.leer() && a.x < b.rechts() && b.x < a.rechts() && a.y < b.unten() && b.y < a.unten();
+}
+
+spuren<bool> letzte_spuren(int anzahl) {
+    spuren<bool> aktiv{};
+    for (int spur = spuren_max; spur > spuren_max - anzahl; --spur) {
+        aktiv[spur] = true;
+    }
+    return aktiv;
+}
+
+/// Every view with everything that it may have to show.
+std::vector<ansicht_inhalt> alle_ansichten() {
+    std::vector<ansicht_inhalt> alle;
+    for (int muster = 0; muster < 3 * 16; ++muster) {
+        ansicht_inhalt inhalt;
+        inhalt.tank = static_cast<tankanzeige_art>(muster % 3);
+        inhalt.fahrzeugbild = (muster / 3 & 1) != 0;
+        inhalt.bestzeit = (muster / 3 & 2) != 0;
+        inhalt.grosse_zeit = (muster / 3 & 4) != 0;
+        inhalt.logobild = inhalt.wrpic1 = inhalt.wrpic2 = (muster / 3 & 8) != 0;
+        inhalt.art = ansicht_art::einfahrer;
+        inhalt.spur_aktiv = letzte_spuren(1);
+        alle.push_back(inhalt);
+        for (int anzahl = 1; anzahl <= spuren_max; ++anzahl) {
+            inhalt.spur_aktiv = letzte_spuren(anzahl);
+            for (const ansicht_art art : {ansicht_art::spalten, ansicht_art::zeilen}) {
+                inhalt.art = art;
+                alle.push_back(inhalt);
+            }
+        }
+    }
+    return alle;
+}
+
+template <class Teil>
+void ohne_ueberdeckung(const plaetze<Teil>& orte, const rechteck& flaeche, const std::vector<Teil>& innere) {
+    const auto anzahl = static_cast<int>(Teil::anzahl);
+    const auto ist_innen = [&](Teil teil) { return std::find(innere.begin(), innere.end(), teil) != innere.end(); };
+    for (int a = 0; a < anzahl; ++a) {
+        const auto teil = static_cast<Teil>(a);
+        if (ist_innen(teil)) {
+            continue;
+        }
+        const rechteck& ort = orte[teil].ort;
+        EXPECT_TRUE(enthaelt(flaeche, ort)) << "control " << a << " at " << ort;
+        for (int b = a + 1; b < anzahl; ++b) {
+            const auto anderer = static_cast<Teil>(b);
+            const bool gleicher_ort = orte[anderer].ort == ort;  // the notice of a run-on and the clock
+            if (!ist_innen(anderer) && !gleicher_ort) {
+                EXPECT_FALSE(schneiden(ort, orte[anderer].ort)) << "controls " << a << " and " << b << ": " << ort;
+            }
+        }
+    }
+}
+
+void innere_pruefen(const rechteck& aussen, std::vector<rechteck> innen) {
+    for (std::size_t i = 0; i < innen.size(); ++i) {
+        EXPECT_TRUE(innen[i].leer() || enthaelt(aussen, innen[i])) << innen[i] << " in " << aussen;
+        for (std::size_t j = i + 1; j < innen.size(); ++j) {
+            EXPECT_FALSE(schneiden(innen[i], innen[j])) << innen[i] << " and " << innen[j];
+        }
+    }
+}
+
+void lesbar(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, const rechteck& block) {
+    const auto schrift = [&](t teil) { return g.spur[teil].schrift_px; };
+    const double tausend_runden = inhalt.art == ansicht_art::zeilen ? 0.8 : 0.6;
+    EXPECT_GT(schrift(t::zaehler) * tausend_runden, schrift(t::lrunde));
+    for (const t teil : {t::namenslabel, t::l_PosAnz, t::brunde, t::t_bahn, t::t_liste, t::straflabel}) {
+        EXPECT_GT(schrift(t::zaehler), schrift(teil)) << static_cast<int>(teil);
+    }
+    EXPECT_GT(schrift(t::lrunde), schrift(t::brunde)) << "the large and the small display";
+    for (const t teil : {t::namenslabel, t::Image1, t::ampel_rt, t::l_PosAnz, t::lrunde, t::brunde, t::t_liste,
+                         t::straflabel, t::ch_strafzeit_hacken}) {
+        EXPECT_GE(g.spur[teil].ort.hoehe, block.hoehe / 40) << static_cast<int>(teil);
+        EXPECT_GE(g.spur[teil].ort.breite, 14) << static_cast<int>(teil);
+    }
+    EXPECT_EQ(g.spur[t::Image2].ort.leer(), !inhalt.fahrzeugbild);
+    EXPECT_EQ(g.spur[t::bestzeit_label].ort.leer(), !inhalt.bestzeit);
+    EXPECT_EQ(g.spur[t::tankbalken].ort.leer(), inhalt.tank != tankanzeige_art::balken);
+    EXPECT_EQ(g.spur[t::t_bahn].ort.leer(), inhalt.tank != tankanzeige_art::zahl);
+}
+
+int erste_spur(const ansicht_inhalt& inhalt) {
+    return *std::find_if(alle_spuren.begin(), alle_spuren.end(), [&](int spur) { return inhalt.spur_aktiv[spur]; });
+}
+
+void bloecke_pruefen(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, const rechteck& fenster) {
+    const bool zeilen = inhalt.art == ansicht_art::zeilen;
+    std::vector<rechteck> bloecke;
+    for (const rechteck& block : g.block) {
+        if (!block.leer()) {
+            bloecke.push_back(block);
+            EXPECT_EQ(std::pair(block.breite, block.hoehe), std::pair(bloecke[0].breite, bloecke[0].hoehe));
+        }
+    }
+    for (const int spur : alle_spuren) {
+        EXPECT_EQ(g.block[spur].leer(), !inhalt.spur_aktiv[spur]) << spur;
+    }
+    EXPECT_LT(zeilen ? bloecke.front().y : bloecke.front().x, fenster.breite / 5) << "no room for the lanes before";
+    EXPECT_GT((zeilen ? bloecke.back().unten() : bloecke.back().rechts()),
+              (zeilen ? 0.88 * fenster.hoehe : 0.97 * fenster.breite))
+        << "the chosen lanes take all the room";
+    for (const f teil : {f::uhrframe1, f::uhrframe2, f::Frame1, f::ch_strafframe, f::ziel_label}) {
+        bloecke.push_back(g.fenster[teil].ort);
+    }
+    innere_pruefen(fenster, bloecke);
+}
+
+TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
+    for (const auto& [breite, hoehe] : groessen) {
+        for (const ansicht_inhalt& inhalt : alle_ansichten()) {
+            SCOPED_TRACE(testing::Message()
+                         << breite << "x" << hoehe << ", view " << static_cast<int>(inhalt.art) << ", from lane "
+                         << erste_spur(inhalt) << ", tank " << static_cast<int>(inhalt.tank) << ", car "
+                         << inhalt.fahrzeugbild << ", best " << inhalt.bestzeit << ", clock " << inhalt.grosse_zeit);
+            const ansicht_geometrie g = ansicht_aufteilen(inhalt, breite, hoehe);
+            const rechteck fenster{0, 0, breite, hoehe};
+            const rechteck block{0, 0, g.block[spuren_max].breite, g.block[spuren_max].hoehe};
+            bloecke_pruefen(inhalt, g, fenster);
+            ohne_ueberdeckung(g.spur, block, {t::tanktitel, t::t_bahn, t::tankbalken});
+            innere_pruefen(g.spur[t::frame_tank].ort,
+                           {g.spur[t::tanktitel].ort, g.spur[t::t_bahn].ort, g.spur[t::tankbalken].ort});
+            const std::vector<f> befehle{f::Command1, f::Command3, f::Command4, f::werbe_label, f::Command2};
+            ohne_ueberdeckung(g.fenster, fenster, befehle);
+            const rechteck& frame = g.fenster[f::Frame1].ort;
+            std::vector<rechteck> orte;
+            for (const f befehl : befehle) {
+                orte.push_back(g.fenster[befehl].ort);
+            }
+            innere_pruefen({0, 0, frame.breite, frame.hoehe}, orte);
+            lesbar(inhalt, g, block);
+            if (testing::Test::HasFailure()) {
+                return;  // the first is enough to go by
+            }
+        }
+    }
+}
+
+TEST(AnsichtGeometrie, GrosseUhrNurWoPlatzDafuerIst) {
+    ansicht_inhalt inhalt;
+    inhalt.spur_aktiv = letzte_spuren(3);
+    const auto uhr = [&](int breite, int hoehe) {
+        return ansicht_aufteilen(inhalt, breite, hoehe).fenster[f::uhrframe1].schrift_px;
+    };
+    const int klein = uhr(1920, 1080);
+    const int schmal = uhr(1500, 1000);
+    inhalt.grosse_zeit = true;
+    EXPECT_NEAR(uhr(1920, 1080), 1.5 * klein, 2);
+    EXPECT_EQ(uhr(1500, 1000), schmal) << "not wider than one and a half times its height";
+    inhalt.tank = tankanzeige_art::zahl;
+    EXPECT_GT(uhr(1920, 1080), klein);
+    inhalt.tank = tankanzeige_art::balken;
+    EXPECT_EQ(uhr(1920, 1080), klein) << "the bars need the room";
+    inhalt.tank = tankanzeige_art::keine;
+    inhalt.spur_aktiv = letzte_spuren(4);
+    EXPECT_EQ(uhr(1920, 1080), klein) << "at most three lanes";
+}
+
+TEST(AnsichtGeometrie, ZaehlerRuecktInDerZeileNachLinks) {
+    ansicht_inhalt inhalt;
+    inhalt.art = ansicht_art::zeilen;
+    inhalt.spur_aktiv = letzte_spuren(4);
+    const ansicht_geometrie g = ansicht_aufteilen(inhalt, 1280, 1024);
+    const rechteck& vorher = g.spur[t::zaehler].ort;
+    EXPECT_LT(g.zaehler_weit.x, vorher.x);
+    EXPECT_EQ(g.zaehler_weit.rechts(), vorher.rechts());
+    EXPECT_GT(g.zaehler_weit.x, g.spur[t::ch_strafzeit_hacken].ort.rechts());
+}
+
+TEST(AnsichtGeometrie, ZweitesBildWeichtAufNiedrigemSchirmDenZeilen) {
+    ansicht_inhalt inhalt;
+    inhalt.wrpic2 = true;
+    EXPECT_FALSE(ansicht_aufteilen(inhalt, 800, 600).fenster[f::wrpic2].ort.leer());
+    inhalt.art = ansicht_art::zeilen;
+    EXPECT_TRUE(ansicht_aufteilen(inhalt, 800, 600).fenster[f::wrpic2].ort.leer());
+    EXPECT_FALSE(ansicht_aufteilen(inhalt, 1024, 768).fenster[f::wrpic2].ort.leer());
+}
+
+}  // namespace
+}  // namespace tarvel

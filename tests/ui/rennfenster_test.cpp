@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <map>
+#include <string>
+
+#include "tests/ui/oberflaeche_probe.h"
+
+namespace tarvel {
+namespace {
+
+class Rennfenster : public test::OberflaecheProbe {
+protected:
+    void groesse(int breite, int hoehe) {
+        o.bahn1.showNormal();
+        o.bahn1.resize(breite, hoehe);
+        o.takt.ausfuehren();
+    }
+    ansicht_geometrie soll() { return ansicht_aufteilen(t.bahn().ansicht.inhalt(), o.bahn1.width(), o.bahn1.height()); }
+    void steht(const char* name, const rechteck& ort) {
+        EXPECT_EQ(finde<QWidget>(o.bahn1, name)->geometry(), QRect(ort.x, ort.y, ort.breite, ort.hoehe)) << name;
+    }
+    void alles_steht() {
+        const ansicht_geometrie g = soll();
+        steht("bahn1.bahnshape_2", g.block[2]);
+        steht("bahn1.bahnshape_5", g.block[5]);
+        steht("bahn1.zaehler_5", g.spur[spur_teil::zaehler].ort);
+        steht("bahn1.lrunde_2", g.spur[spur_teil::lrunde].ort);
+        steht("bahn1.Image1_2", g.spur[spur_teil::Image1].ort);
+        steht("bahn1.ampel_gr_4", g.spur[spur_teil::ampel_gr].ort);
+        steht("bahn1.uhrframe1", g.fenster[fenster_teil::uhrframe1].ort);
+        steht("bahn1.Frame1", g.fenster[fenster_teil::Frame1].ort);
+        steht("bahn1.Command2", g.fenster[fenster_teil::Command2].ort);
+    }
+};
+
+TEST_F(Rennfenster, AllesStehtWoDieAufteilungEsHat) {
+    t.einrichten("Zeit", "5", {2, 5});
+    for (const auto& [breite, hoehe] : {std::pair(1024, 768), {1600, 900}}) {
+        groesse(breite, hoehe);
+        alles_steht();
+    }
+    o.bahn1.close();
+    t.p.einst.darstellung_zeile = true;
+    t.einrichten("Zeit", "5", {2, 5});
+    groesse(1280, 1024);
+    alles_steht();
+    t.bahn().Command1.klicken();
+    t.runde_nach(1000, "2");
+    t.spur(2).runden = 999;
+    t.runde_nach(8000, "2");
+    o.takt.ausfuehren();
+    steht("bahn1.zaehler_2", soll().zaehler_weit);
+}
+
+TEST_F(Rennfenster, UhrMitStundenBleibtInIhremPlatz) {
+    t.einrichten("Zeit", "5", {2});
+    groesse(1024, 768);
+    const auto platz_der_teile = [&] {
+        const QRect uhr = finde<QWidget>(o.bahn1, "bahn1.uhrframe1")->rect();
+        for (const char* name : {"bahn1.labelstd1", "bahn1.labelmin1", "bahn1.labelhun1"}) {
+            EXPECT_TRUE(uhr.contains(finde<QWidget>(o.bahn1, name)->geometry())) << name;
+        }
+    };
+    const int ohne = finde<QWidget>(o.bahn1, "bahn1.labelmin1")->width();
+    t.bahn().uhr1.stunden.sichtbar(true);
+    t.bahn().uhr1.nach_stunden.sichtbar(true);
+    o.takt.ausfuehren();
+    EXPECT_LT(finde<QWidget>(o.bahn1, "bahn1.labelmin1")->width(), ohne);
+    platz_der_teile();
+}
+
+TEST_F(Rennfenster, FenstermodusStattVollbild) {
+    t.einrichten("Zeit", "5", {2});
+    EXPECT_TRUE(o.bahn1.isFullScreen());
+    o.bahn1.close();
+    t.p.einst.fenstermodus = true;
+    t.einrichten("Zeit", "5", {2});
+    EXPECT_TRUE(o.bahn1.isVisible() && !o.bahn1.isFullScreen());
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,206 @@
+#include "ui/spurblock.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "ui/bildanzeige.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+const QColor gelb(255, 214, 10);
+
+}  // namespace
+
+Spurblock::Spurblock(bahn1& bahn, int spur, Binder& binder,
+                     std::function<std::filesystem::path(const std::string&)> pfad, QWidget* eltern)
+    : QWidget(eltern),
+      bahn_(bahn),
+      spur_(spur),
+      index_(feld_index(spur)),
+      binder_(binder),
+      nummer_("_" + QString::number(spur)) {
+    kopf(std::move(pfad));
+    zaehler();
+    tank();
+    anzeigen(spur_teil::Label_lrunde, bahn.Label_lrunde[spur], "Label_lrunde" + nummer_)->setLeise();
+    anzeigen(spur_teil::lrunde, bahn.lrunde[spur], "lrunde" + nummer_)->setFett(true);
+    anzeigen(spur_teil::Label_brunde, bahn.Label_brunde[spur], "Label_brunde" + nummer_)->setLeise();
+    anzeigen(spur_teil::brunde, bahn.brunde[spur], "brunde" + nummer_)->setFett(true);
+    anzeigen(spur_teil::bestzeit_label, bahn.bestzeit_label[spur], "bestzeit_label" + nummer_)->setLeise();
+    rundenliste();
+    anzeigen(spur_teil::straflabel, bahn.straflabel[spur], "straflabel" + nummer_)->setFett(true);
+    flaeche();
+}
+
+TextAnzeige* Spurblock::anzeigen(spur_teil name, steuerelement& element, const QString& widget_name) {
+    TextAnzeige* anzeige = binder_.anzeige(element, widget_name);
+    anzeige->setParent(this);
+    teil(name) = anzeige;
+    return anzeige;
+}
+
+void Spurblock::kopf(std::function<std::filesystem::path(const std::string&)> pfad) {
+    auto* balken = new QWidget(this);
+    balken->setAutoFillBackground(true);
+    QPalette farben = balken->palette();
+    farben.setColor(QPalette::Window, gelb);
+    balken->setPalette(farben);
+    binder_.verbinden(bahn_.yellowframe[spur_], balken, "yellowframe" + nummer_, {});
+    teil(spur_teil::yellowframe) = balken;
+
+    TextAnzeige* schild = anzeigen(spur_teil::Label_spur, bahn_.Label_spur[spur_], "Label_spur" + nummer_);
+    schild->setFett(true);
+    schild->setFarbe(Qt::black);
+    schild->setAutoFillBackground(true);
+    anzeigen(spur_teil::namenslabel, bahn_.namenslabel[spur_], "namenslabel" + nummer_)->setFett(true);
+    teil(spur_teil::Image1) = binder_.bildanzeige(bahn_.Image1[spur_], "Image1" + nummer_, pfad);
+    teil(spur_teil::Image2) = binder_.bildanzeige(bahn_.Image2[spur_], "Image2" + nummer_, std::move(pfad));
+    const QString nummer = "_" + QString::number(index_);
+    teil(spur_teil::ampel_rt) = binder_.lampe(bahn_.ampel_rt.at(index_), "ampel_rt" + nummer, QColor(255, 40, 30));
+    teil(spur_teil::ampel_ge) = binder_.lampe(bahn_.ampel_ge.at(index_), "ampel_ge" + nummer, QColor(255, 200, 20));
+    teil(spur_teil::ampel_gr) = binder_.lampe(bahn_.ampel_gr.at(index_), "ampel_gr" + nummer, QColor(30, 230, 70));
+    anzeigen(spur_teil::Label_platz, bahn_.Label_platz[spur_], "Label_platz" + nummer_)->setLeise();
+    anzeigen(spur_teil::l_PosAnz, bahn_.l_PosAnz.at(index_), "l_PosAnz" + nummer)->setFett(true);
+    teil(spur_teil::ch_strafzeit_hacken) =
+        binder_.kasten(bahn_.ch_strafzeit_hacken[spur_], "ch_strafzeit_hacken" + nummer_);
+    for (const spur_teil name : {spur_teil::Image1, spur_teil::Image2, spur_teil::ampel_rt, spur_teil::ampel_ge,
+                                 spur_teil::ampel_gr, spur_teil::ch_strafzeit_hacken}) {
+        teil(name)->setParent(this);
+    }
+}
+
+void Spurblock::zaehler() {
+    auto* anzeige = new TextAnzeige(this);
+    anzeige->setFett(true);
+    teil(spur_teil::zaehler) = anzeige;
+    binder_.verbinden(bahn_.zaehler[spur_], anzeige, "zaehler" + nummer_, [this, anzeige] {
+        const bezeichnung& runden = bahn_.zaehler[spur_];
+        anzeige->setText(QString::fromStdString(runden.text()));
+        anzeige->setFarbe(stil::farbe_von(runden.schriftfarbe().value_or(0)));
+        zaehler_anordnen();
+    });
+}
+
+void Spurblock::zaehler_anordnen() {
+    const bezeichnung& runden = bahn_.zaehler[spur_];
+    auto* anzeige = static_cast<TextAnzeige*>(teil(spur_teil::zaehler));
+    const rechteck& ort = runden.links() < bahn_.zaehler_links ? zaehler_weit_ : zaehler_ort_.ort;
+    anzeige->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
+    const double anteil = runden.schriftgroesse() > 0 ? runden.schriftgroesse() / bahn_.zaehler_schrift : 1;
+    anzeige->setSchriftPx(static_cast<int>(std::lround(zaehler_ort_.schrift_px * anteil)));
+}
+
+void Spurblock::tank() {
+    auto* rahmen = new QWidget(this);
+    teil(spur_teil::frame_tank) = rahmen;
+    auto* titel = new TextAnzeige(rahmen);
+    titel->setLeise();
+    teil(spur_teil::tanktitel) = titel;
+    TextAnzeige* liter = anzeigen(spur_teil::t_bahn, bahn_.t_bahn[spur_], "t_bahn" + nummer_);
+    liter->setParent(rahmen);
+    liter->setFett(true);
+    auto* balken = new Tankbalken(rahmen);
+    teil(spur_teil::tankbalken) = balken;
+    binder_.verbinden(bahn_.tankbalken.at(index_), balken, "tankbalken_" + QString::number(index_), [this, balken] {
+        const form& stand = bahn_.tankbalken.at(index_);
+        balken->setStand(stand.hoehe() / bahn_.tank_balkenhoehe, stil::farbe_von(stand.hintergrund().value_or(0)));
+    });
+    binder_.verbinden(bahn_.frame_tank[spur_], rahmen, "frame_tank" + nummer_, [this, titel] {
+        const auto& frame = bahn_.frame_tank[spur_];
+        titel->setText(QString::fromStdString(frame.text()));
+        if (frame.schriftfarbe()) {
+            titel->setFarbe(stil::farbe_von(*frame.schriftfarbe()));
+        }
+    });
+}
+
+void Spurblock::rundenliste() {
+    QListView* liste =
+        binder_.listenfeld(bahn_.t_liste.at(index_), "t_liste_" + QString::number(index_), Qt::AlignCenter);
+    liste->setParent(this);
+    liste->setFrameShape(QFrame::NoFrame);
+    liste->setFocusPolicy(Qt::NoFocus);
+    liste->setSelectionMode(QAbstractItemView::NoSelection);
+    liste->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    teil(spur_teil::t_liste) = liste;
+}
+
+void Spurblock::flaeche() {
+    binder_.verbinden(bahn_.bahnshape[spur_], this, "bahnshape" + nummer_, [this] {
+        const form& shape = bahn_.bahnshape[spur_];
+        randfarbe_ = shape.randfarbe() ? stil::farbe_von(*shape.randfarbe()) : QColor();
+        spurfarbe_ = stil::farbe_von(shape.schriftfarbe().value_or(0));
+        QWidget* schild = teil(spur_teil::Label_spur);
+        QPalette farben = schild->palette();
+        farben.setColor(QPalette::Window, spurfarbe_);
+        schild->setPalette(farben);
+        grundfarbe_ = stil::farbe_von(shape.hintergrund().value_or(0));
+        update();
+    });
+}
+
+void Spurblock::anordnen(const ansicht_geometrie& geometrie) {
+    const rechteck& block = geometrie.block[spur_];
+    setGeometry(block.x, block.y, block.breite, block.hoehe);
+    zaehler_ort_ = geometrie.spur[spur_teil::zaehler];
+    zaehler_weit_ = geometrie.zaehler_weit;
+    streifen_ = geometrie.streifen;
+    const QWidget* tankrahmen = teil(spur_teil::frame_tank);
+    const rechteck& tank = geometrie.spur[spur_teil::frame_tank].ort;
+    for (std::size_t i = 0; i < teile_.size(); ++i) {
+        QWidget* widget = teile_.at(i);
+        const platz& ort = geometrie.spur[static_cast<spur_teil>(i)];
+        const bool im_tank = widget->parentWidget() == tankrahmen;
+        widget->setGeometry(ort.ort.x - (im_tank ? tank.x : 0), ort.ort.y - (im_tank ? tank.y : 0), ort.ort.breite,
+                            ort.ort.hoehe);
+        if (auto* text = dynamic_cast<TextAnzeige*>(widget)) {
+            text->setSchriftPx(ort.schrift_px);
+        }
+    }
+    zaehler_anordnen();
+    liste_anordnen(geometrie.spur[spur_teil::t_liste]);
+    const int kante = geometrie.spur[spur_teil::ch_strafzeit_hacken].ort.breite;
+    teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font
+        ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }")
+                            .arg(kante * 4 / 5)
+                            .arg(std::max(kante - 6, 8)));
+}
+
+void Spurblock::liste_anordnen(const platz& ort) {
+    auto* liste = static_cast<QListView*>(teil(spur_teil::t_liste));
+    QFont schrift = liste->font();
+    schrift.setPixelSize(std::max(ort.schrift_px, 1));
+    const int zeile = std::max(QFontMetrics(schrift).height(), 1);
+    if (zeile > ort.ort.hoehe) {
+        schrift.setPixelSize(std::max(8, ort.schrift_px * ort.ort.hoehe / zeile));
+    }
+    liste->setFont(schrift);
+    const int hoehe = QFontMetrics(schrift).height();
+    const QPalette farben = liste->palette();  // a style sheet puts its own in their place
+    liste->setStyleSheet(QString("QListView { background: transparent; border: none; padding: 0px; }"
+                                 "QListView::item { padding: 0px; border: none; height: %1px; }")
+                             .arg(hoehe));
+    liste->setPalette(farben);
+    const int zeilen = std::max(ort.ort.hoehe / hoehe, 1);
+    liste->resize(ort.ort.breite, std::min(zeilen * hoehe, ort.ort.hoehe));  // no row is cut through
+    liste->scrollTo(liste->currentIndex());
+}
+
+void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    const QRectF rand = QRectF(rect()).adjusted(3, 3, -3, -3);
+    const bool im_ziel = randfarbe_.isValid();
+    maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), im_ziel ? 5 : 1));
+    maler.setBrush(grundfarbe_);
+    maler.drawRoundedRect(rand, 10, 10);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(spurfarbe_);
+    maler.drawRoundedRect(QRectF(streifen_.x, streifen_.y, streifen_.breite, streifen_.hoehe), 3, 3);
+}
+
+}  // namespace tarvel::ui
