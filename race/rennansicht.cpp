@@ -181,11 +181,15 @@ void rennansicht::bilder_setzen() {
     const namensliste::art& fahrer = um_.fahrerliste.listenart();
     const bool vereinsbild = um_.ablage.gibt_es(bild_ohne_fahrerbild);
     for (const int spur : alle_spuren) {
+        zeigen(bahn.Image2[spur], um_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
         zeigen(bahn.Image1[spur], um_.fahrerliste, um_.param.fahrer_name[spur]);
         if (vereinsbild && bahn.Image1[spur].datei() == fahrer.bildordner + "/" + fahrer.standardbild) {
             bahn.Image1[spur].datei(bild_ohne_fahrerbild);
         }
-        zeigen(bahn.Image2[spur], um_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
+        if (um_.param.spur_aktiv[spur]) {  // the same file may hold another picture since the last race
+            bahn.Image1[spur].neu_laden();
+            bahn.Image2[spur].neu_laden();
+        }
     }
     const auto vom_verein = [this](bild& ort, const std::string& datei) {
         ort.datei(datei);

@@ -5,9 +5,7 @@
 namespace tarvel::ui {
 
 void Bildanzeige::setBild(const QImage& bild) {
-    constexpr int kante_max = 1600;  // a photograph is kept no larger than any screen shows it here
-    const bool gross = bild.width() > kante_max || bild.height() > kante_max;
-    bild_ = gross ? bild.scaled(kante_max, kante_max, Qt::KeepAspectRatio, Qt::SmoothTransformation) : bild;
+    bild_ = bild;
     passend_ = {};
     update();
 }

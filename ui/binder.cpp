@@ -41,6 +41,11 @@ QImage bild_lesen(const std::filesystem::path& pfad) {
     QImageReader leser(QString::fromStdU16String(pfad.u16string()));
     leser.setDecideFormatFromContent(true);  // a picture keeps its kind when it is copied under another name
     leser.setAutoTransform(true);
+    constexpr int kante_max = 1600;  // no window shows a photograph larger, and a JPEG is read small much faster
+    const QSize voll = leser.size();
+    if (voll.width() > kante_max || voll.height() > kante_max) {
+        leser.setScaledSize(voll.scaled(kante_max, kante_max, Qt::KeepAspectRatio));
+    }
     return leser.read();
 }
 
