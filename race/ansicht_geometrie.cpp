@@ -25,7 +25,7 @@ void spur_schriften(lage& g, double skala) {
     constexpr double ziffern = 1.15;
     schrift(g[t::Label_spur], ziffern, 1.5);
     schrift(g[t::namenslabel], wort, 5);
-    schrift(g[t::zaehler], ziffern, 1.75);  // two digits, and with the steps at 100 and 1000 laps three and four
+    schrift(g[t::zaehler], ziffern, 1.45);  // two digits; three and four are smaller by themselves
     schrift(g[t::l_PosAnz], ziffern, 0.8);
     g[t::l_PosAnz].schrift_px = std::min(g[t::l_PosAnz].schrift_px, g[t::zaehler].schrift_px * 6 / 10);
     schrift(g[t::lrunde], ziffern, 4.1);  // "00,000"

@@ -155,6 +155,12 @@ const std::vector<szeneneintrag> szenen{
          b.rennen(64000);
          return b.o.bahn1;
      }},
+    {"rennen_ohne_fahrzeugbilder",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.fahrzeugbild_an = false;
+         b.rennen(64000);
+         return b.o.bahn1;
+     }},
     {"rennen_zwei_spuren",
      [](buehne& b) -> QWidget& {
          b.einrichten("Runden", "30", {2, 5});
@@ -265,8 +271,8 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
     QWidget& fenster = gewuenscht.zeigen(b);
     bool gut = true;
     for (const QSize& groesse : gewuenscht.eigene_groesse ? std::vector{fenster.size()} : groessen) {
+        fenster.showNormal();  // the race window fills its screen otherwise
         fenster.resize(groesse);
-        fenster.show();
         QTest::qWait(60);  // layouts settle in several turns of the loop
         b.o.takt.ausfuehren();
         QTest::qWait(60);

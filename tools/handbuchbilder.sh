@@ -17,6 +17,7 @@ while read -r szene bild groesse; do
     convert "$ablage/$szene.png" -strip +dither -colors 128 "PNG8:docs/$bild.png"
 done <<'BILDER'
 rennen                   rennen             1280x800
+rennen_zeilen            rennen_zeilen      1280x800
 hauptfenster             hauptfenster       1024x768
 einstellungen_start      einstellungen      1180x800
 auswertung               auswertung         1280x900
