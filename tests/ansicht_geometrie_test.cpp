@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -151,10 +152,9 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
             const std::vector<f> befehle{f::Command1, f::Command3, f::Command4, f::werbe_label, f::Command2};
             ohne_ueberdeckung(g.fenster, fenster, befehle);
             const rechteck& frame = g.fenster[f::Frame1].ort;
-            std::vector<rechteck> orte;
-            for (const f befehl : befehle) {
-                orte.push_back(g.fenster[befehl].ort);
-            }
+            std::vector<rechteck> orte(befehle.size());
+            std::transform(befehle.begin(), befehle.end(), orte.begin(),
+                           [&](f befehl) { return g.fenster[befehl].ort; });
             innere_pruefen({0, 0, frame.breite, frame.hoehe}, orte);
             lesbar(inhalt, g, block);
             if (testing::Test::HasFailure()) {
