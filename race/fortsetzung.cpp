@@ -53,6 +53,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     t_.ende.zuruecksetzen();
     freie_spuren_abschalten();
     for (const int spur : alle_spuren) {
+        daheim_[spur] = zustand.spur[spur].ziel_erreicht;
         standzeit_abziehen(spur);
         spur_freigeben(spur);
     }
@@ -115,6 +116,10 @@ void fortsetzung::zuruecknehmen() {
     if (um_.zustand.fortsetzung_wartet) {
         um_.zustand.fortsetzung_wartet = false;
         um_.zustand.rennabbruch = abbruch_vorher_;
+        um_.ereignisse.strecke_leeren();  // whoever was pushed over the line meanwhile has driven nothing
+        for (const int spur : alle_spuren) {
+            um_.zustand.spur[spur].ziel_erreicht = daheim_[spur];
+        }
         um_.param.renn_ziel = ziel_vorher_;
         t_.ansicht.ziel_zeigen();
         um_.bahn.Nachtabschaltung.sichtbar(dunkel_);

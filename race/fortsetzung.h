@@ -41,6 +41,7 @@ private:
     renn_umgebung um_;
     teile t_;
     zeit_ms ziel_vorher_ = 0;
+    spuren<bool> daheim_;  ///< lanes that were home
     bool abbruch_vorher_ = false;
     bool dunkel_ = false;  ///< the dark cover lay over the race
 };

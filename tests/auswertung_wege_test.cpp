@@ -163,6 +163,7 @@ TEST_F(AuswertungWege, RennendeVorDemLichtLaesstAllesWieEsWar) {
     const zeit_ms ende = t.p.rennen.zustand.renn_ende_stempel;
     a.Command3.klicken();
     t.maschine.laufen(30000);
+    t.p.rennen.befehle.taste('1');
     t.bahn().Command4.klicken();
     ASSERT_TRUE(offen("auswertung"));
     EXPECT_FALSE(offen("k_ampel"));
