@@ -27,6 +27,8 @@ struct renn_parameter {
     bool training_laeuft = false;
     bool training_autostart = false;  ///< the small start light begins by itself
     bool wettkampf_kein = true;       ///< a single race, no competition
+    bool tagesrennen_an = false;      ///< each result is added to the file of the day
+    std::string tages_datei;          ///< that file, below the program folder
 
     void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;

@@ -174,6 +174,7 @@ private:
     void ausfuehren(aktion was);
     /// False if the result could not be saved and the operator does not want to lose it.
     bool automatisch_speichern();
+    bool tages_ergebnis_schreiben();
     void rennen_verlassen();
     void bahn_neu_oeffnen();
     void wechselschema_anwenden();

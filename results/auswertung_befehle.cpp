@@ -181,6 +181,12 @@ bool auswertung::automatisch_speichern() {
            um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
 }
 
+bool auswertung::tages_ergebnis_schreiben() {
+    meter_eingabe_uebernehmen();
+    auswertung_anzeigen();
+    return u_.speichern.tages_ergebnis_schreiben() || um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
+}
+
 void auswertung::rennen_verlassen() {
     um_.fenster.entladen("beste_zeiten_fenster");
     um_.fenster.entladen("auswertung");
@@ -281,7 +287,7 @@ void auswertung::cmd5_fortsetzung() {
     if (ist_wettkampf()) {
         meter_eingabe_uebernehmen();
         auswertung_anzeigen();
-    } else if (!automatisch_speichern()) {
+    } else if (!(um_.param.tagesrennen_an ? tages_ergebnis_schreiben() : automatisch_speichern())) {
         return;
     }
     rennen_verlassen();

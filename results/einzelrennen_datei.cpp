@@ -159,4 +159,24 @@ std::vector<std::string> einzelrennen_zeilen(const ergebnis_quelle& quelle) {
     return schreiber(quelle).zeilen();
 }
 
+std::vector<std::string> tages_zeilen(const ergebnis_quelle& quelle) {
+    const trennzeichen_tabelle& trennzeichen = quelle.um.einst.trennzeichen;
+    std::vector<std::string> zeilen;
+    for (const int spur : alle_spuren) {
+        if (!quelle.um.param.spur_aktiv[spur]) {
+            continue;
+        }
+        const std::string& fahrer = quelle.um.param.fahrer_name[spur];
+        const bool mit_klasse = std::string_view(fahrer).substr(links(fahrer, 1).size()).starts_with(trennzeichen[2]);
+        std::string zeile = mit_klasse ? fahrer : "0" + trennzeichen[2] + fahrer;
+        for (const std::string& feld : {zahl_mit_platz(quelle.stand.runden(spur)), quelle.stand.meter_text(spur, '.'),
+                                        zeit_formatieren(quelle.stand.beste_runde(spur), true, trennzeichen),
+                                        zeit_formatieren(quelle.stand.gesamtzeit(spur), true, trennzeichen)}) {
+            zeile += trennzeichen[2] + feld;
+        }
+        zeilen.push_back(std::move(zeile));
+    }
+    return zeilen;
+}
+
 }  // namespace tarvel

@@ -34,4 +34,8 @@ struct ergebnis_quelle {
 /// The file of a single race, line by line. It holds no standing: that is computed from it.
 std::vector<std::string> einzelrennen_zeilen(const ergebnis_quelle& quelle);
 
+/// What the race adds to the file of a day race: a line per lane. A driver may carry his class in front of his name, a
+/// single character and the separator; without one he is in class "0".
+std::vector<std::string> tages_zeilen(const ergebnis_quelle& quelle);
+
 }  // namespace tarvel

@@ -6,6 +6,7 @@ namespace tarvel {
 namespace {
 
 constexpr std::string_view endung = ".csv";
+constexpr std::size_t tageszeilen_max = 1000000;  // what was driven before is never cut
 
 }  // namespace
 
@@ -22,7 +23,8 @@ sprachliste rundenspeichern::sprache() {
     texte.text("Rundenzahl", wort_.rundenzahl).text("Disqualifiziert", wort_.disqualifiziert);
     texte.text("Spurlänge", wort_.spurlaenge).text("Sektorlänge", wort_.sektorlaenge);
     texte.text("Restmeter", wort_.restmeter).text("Gesamtmeter", wort_.gesamtmeter);
-    return texte.text("Gesamtzeit", wort_.gesamtzeit);
+    texte.text("Gesamtzeit", wort_.gesamtzeit);
+    return texte.text("Fehler beim Schreiben in Tages-Datei.", tagesfehler_);
 }
 
 std::string rundenspeichern::stempel() const {
@@ -55,6 +57,25 @@ bool rundenspeichern::automatisch_speichern() {
         pfad = stamm + "-" + std::to_string(nummer) + std::string(endung);
     }
     return einzelrennen_schreiben(pfad);
+}
+
+bool rundenspeichern::tages_ergebnis_schreiben() {
+    laden();
+    const std::string& datei = r_.umgebung.param.tages_datei;
+    auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max);
+    if (!zeilen && !um_.ablage.gibt_es(datei)) {
+        zeilen = {std::string(magie_tagesrennen)};
+    }
+    const bool gueltig = zeilen && datei_typ_erkennen(*zeilen) == ergebnis_typ::tagesrennen;
+    if (gueltig) {
+        const auto neue = tages_zeilen({r_.umgebung, r_.sektoren, stand_, wort_});
+        zeilen->insert(zeilen->end(), neue.begin(), neue.end());
+    }
+    if (!gueltig || !um_.ablage.zeilen_schreiben(datei, *zeilen)) {
+        um_.meldungen.zeigen(tagesfehler_, um_.txt.titel[1]);
+        return false;
+    }
+    return true;
 }
 
 bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad) {

@@ -21,6 +21,8 @@ public:
     void oeffnen();
     /// Saves the single race without a question. A failure shows its message and is false.
     bool automatisch_speichern();
+    /// Adds the result to the file of the day race, likewise. A file that is none of a day race stays as it is.
+    bool tages_ergebnis_schreiben();
 
 private:
     bool einzelrennen_schreiben(const std::string& pfad);
@@ -33,6 +35,7 @@ private:
     std::string titel_;
     std::string name_fehlt_;
     std::string schreibfehler_;
+    std::string tagesfehler_;
 };
 
 }  // namespace tarvel

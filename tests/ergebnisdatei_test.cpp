@@ -176,6 +176,31 @@ TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
     EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
 }
 
+TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
+    const char* const datei = "Ergebnisse/Tagesrennen/Samstag.csv";
+    t.p.param.tagesrennen_an = true;
+    t.p.param.tages_datei = "Ergebnisse\\Tagesrennen\\Samstag.csv";
+    t.p.form1.fahrer[1].eingeben("B;Ben");
+    for (int rennen = 0; rennen < 2; ++rennen) {
+        t.starten("Zeit", "1", {1, 2});
+        t.runde_nach(1000, "12");
+        t.runde_nach(6000, "1");
+        t.bahn().Command4.klicken();
+        a.Command5.klicken();
+    }
+    const std::string erste = "0;Fahrer 1; 1;25.00;00:06,000;00:06,000";
+    const std::string zweite = "B;Ben; 0;0.00;00:00,000;00:00,000";
+    EXPECT_EQ(gespeichert(datei), (std::vector<std::string>{"Tarvel Tagesrennen", erste, zweite, erste, zweite}));
+    EXPECT_FALSE(t.maschine.datei_da(automatisch));
+    t.maschine.datei_schreiben(datei, "fremd\r\n");
+    t.starten("Zeit", "1", {1});
+    t.bahn().Command4.klicken();
+    a.Command5.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Fehler beim Schreiben in Tages-Datei.");
+    EXPECT_EQ(t.maschine.datei_lesen(datei), "fremd\r\n");
+    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+}
+
 TEST_F(Ergebnisdatei, ArtStehtInDerDateiNichtImNamen) {
     using zeilen = std::vector<std::string>;
     EXPECT_EQ(datei_typ_erkennen({}), ergebnis_typ::unbekannt);
