@@ -92,18 +92,13 @@ void form1::listen_zeigen() {
 }
 
 void form1::fahrerbild_laden(const std::string& name, int nummer) {
-    bild& anzeige = fahrerbild.at(feld_index(nummer));
-    const namensliste::art& art = um_.fahrerliste.listenart();
-    anzeige.ersatz(art.bildordner + "/" + art.standardbild);
-    anzeige.datei(um_.fahrerliste.bilddatei(um_.ablage, name));
+    um_.fahrerliste.bild_zeigen(um_.ablage, name, fahrerbild.at(feld_index(nummer)));
 }
 
 void form1::autobild_anzeigen(int nummer) {
     bild& anzeige = autobild.at(feld_index(nummer));
-    const namensliste::art& art = um_.fahrzeugliste.listenart();
     anzeige.sichtbar(um_.einst.fahrzeugbild_an);
-    anzeige.ersatz(art.bildordner + "/" + art.standardbild);
-    anzeige.datei(um_.fahrzeugliste.bilddatei(um_.ablage, auto_.at(feld_index(nummer)).text()));
+    um_.fahrzeugliste.bild_zeigen(um_.ablage, auto_.at(feld_index(nummer)).text(), anzeige);
 }
 
 void form1::bilder_anzeigen() {

@@ -100,6 +100,11 @@ std::string namensliste::bilddatei(const dateien& ablage, std::string_view name)
     return bilddatei(ablage, static_cast<std::size_t>(gefunden - eintraege_.begin()));
 }
 
+void namensliste::bild_zeigen(const dateien& ablage, std::string_view name, bild& anzeige) const {
+    anzeige.ersatz(art_.bildordner + "/" + art_.standardbild);
+    anzeige.datei(bilddatei(ablage, name));
+}
+
 int namensliste::bilder_uebernehmen(const dateien& ablage, std::string_view ausser) {
     std::set<std::string, std::less<>> staemme;
     for (const std::string_view endung : {std::string_view(".jpg"), std::string_view(".gif")}) {

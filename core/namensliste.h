@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/dateien.h"
+#include "core/steuerelemente.h"
 
 namespace tarvel {
 
@@ -56,6 +57,8 @@ public:
     std::string bilddatei(const dateien& ablage, std::size_t zeile) const;
     /// The same for the first row of this name.
     std::string bilddatei(const dateien& ablage, std::string_view name) const;
+    /// The same in a picture control, with the stand-in for a file that cannot be shown.
+    void bild_zeigen(const dateien& ablage, std::string_view name, bild& anzeige) const;
     /// Every row with the name of a file in the picture folder takes it as its picture; `ausser` is the stem of a file
     /// that is left out. Returns the number of these rows.
     int bilder_uebernehmen(const dateien& ablage, std::string_view ausser);

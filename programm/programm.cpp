@@ -43,8 +43,7 @@ programm::programm(const plattform::dienste& d)
       wertung(rennen),
       rundenspeichern(rennen, wertung, {ablage, txt, fenster, d.meldungen}),
       beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
-      auswertung(
-          {rennen, einst, d.zeitgeber, fahrerliste, fahrzeugliste, wertung, rundenspeichern, beste_zeiten_fenster}),
+      auswertung({rennen, einst, d.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
       speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
       fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",

@@ -174,15 +174,11 @@ void rennansicht::spur_oeffnen(int spur) {
 
 void rennansicht::bilder_setzen() {
     bahn1& bahn = um_.bahn;
-    const auto zeigen = [this](bild& ort, const namensliste& namen, const std::string& name) {
-        ort.ersatz(namen.listenart().bildordner + "/" + namen.listenart().standardbild);
-        ort.datei(namen.bilddatei(um_.ablage, name));
-    };
     const namensliste::art& fahrer = um_.fahrerliste.listenart();
     const bool vereinsbild = um_.ablage.gibt_es(bild_ohne_fahrerbild);
     for (const int spur : alle_spuren) {
-        zeigen(bahn.Image2[spur], um_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
-        zeigen(bahn.Image1[spur], um_.fahrerliste, um_.param.fahrer_name[spur]);
+        um_.fahrzeugliste.bild_zeigen(um_.ablage, um_.param.fahrzeug_name[spur], bahn.Image2[spur]);
+        um_.fahrerliste.bild_zeigen(um_.ablage, um_.param.fahrer_name[spur], bahn.Image1[spur]);
         if (vereinsbild && bahn.Image1[spur].datei() == fahrer.bildordner + "/" + fahrer.standardbild) {
             bahn.Image1[spur].datei(bild_ohne_fahrerbild);
         }

@@ -11,7 +11,6 @@ namespace tarvel {
 namespace {
 
 constexpr int sensoren_je_spur = 2;
-constexpr int sektoren_max = 3;
 enum class anzeige_ort { keine, klein, gross };
 
 /// Event of a lane's sector sensor 1 or 2.

@@ -8,6 +8,8 @@
 
 namespace tarvel {
 
+inline constexpr int sektoren_max = 3;  ///< of a lap
+
 /// Sector times and speeds from the sensors between the line and the line.
 class sektoren {
 public:

@@ -16,7 +16,6 @@ constexpr int nachzaehltakt_ms = 10;
 constexpr int blinktakt_ms = 500;
 constexpr int sekunde_ms = 1000;
 constexpr int runden_ohne_bild = 1000;  // a number of four digits needs the room
-constexpr int sektoren_max = 3;
 
 using plattform::zeitgeber_art;
 
@@ -207,13 +206,9 @@ void auswertung::spur_anzeigen(int spur) {
 
 void auswertung::bilder_anzeigen(int spur) {
     const std::size_t i = feld_index(spur);
-    const auto zeigen = [&](bild& ort, const namensliste& namen, const std::string& name) {
-        ort.ersatz(namen.listenart().bildordner + "/" + namen.listenart().standardbild);
-        ort.datei(namen.bilddatei(um_.ablage, name));
-    };
     const bool besetzt = !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
-    zeigen(Image1[i], u_.fahrerliste, um_.param.fahrer_name[spur]);
-    zeigen(Image2[i], u_.fahrzeugliste, um_.param.fahrzeug_name[spur]);
+    um_.fahrerliste.bild_zeigen(um_.ablage, um_.param.fahrer_name[spur], Image1[i]);
+    um_.fahrzeugliste.bild_zeigen(um_.ablage, um_.param.fahrzeug_name[spur], Image2[i]);
     Image1[i].sichtbar(besetzt && u_.stand.runden(spur) < runden_ohne_bild);
     Image2[i].sichtbar(besetzt && um_.einst.fahrzeugbild_an);
 }

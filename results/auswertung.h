@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "core/namensliste.h"
 #include "core/steuerelemente.h"
 #include "race/rennen.h"
 #include "results/beste_zeiten_fenster.h"
@@ -24,8 +23,6 @@ public:
         rennen& r;
         einstellungen& einst;
         plattform::zeitgeber_dienst& zeitgeber;
-        const namensliste& fahrerliste;
-        const namensliste& fahrzeugliste;
         wertung& stand;
         rundenspeichern& speichern;
         beste_zeiten_fenster& bestzeiten;

@@ -11,8 +11,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int sektoren_max = 3;
-
 /// One lane takes five fields of a line, so that a table program shows the lanes side by side.
 using feldblock = std::array<std::string, 5>;
 
