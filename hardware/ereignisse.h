@@ -58,20 +58,11 @@ public:
     void strecke_leeren();
 
     zeit_ms messzeit = 0;         ///< stamp of the last race tick
+    int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on
     spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
 
 private:
     std::array<ereignis_zeile, zeilen_anzahl> zeilen_{};
-};
-
-/// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device.
-class messquelle {
-public:
-    virtual ~messquelle() = default;
-    /// Each `renntimer2` tick: reads the device and delivers.
-    virtual void abfragen() = 0;
-    /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.
-    virtual void abtasten() = 0;
 };
 
 }  // namespace tarvel

@@ -4,7 +4,7 @@ namespace tarvel {
 
 zeit_ms zeitbasis::ereignis_zeit_lesen() {
     ++zeit_zaehler_;
-    const zeit_ms stempel = uhr_.jetzt() + zeit_zaehler_;
+    const zeit_ms stempel = messzeit_lesen() + zeit_zaehler_;
     if (zeit_zaehler_ == 9) {
         zeit_zaehler_ = -1;
     }

@@ -7,6 +7,7 @@
 #include "platform/klang.h"
 #include "platform/meldungen.h"
 #include "platform/prozess.h"
+#include "platform/serienport.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
 #include "platform/zufall.h"
@@ -23,6 +24,7 @@ struct dienste {
     plattform::bildschirm& bildschirm;
     plattform::prozess& prozess;
     plattform::zufall& zufall;
+    plattform::serienport_dienst& serienports;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };
 

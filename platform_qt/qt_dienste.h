@@ -4,6 +4,7 @@
 #include "platform_qt/qt_klang.h"
 #include "platform_qt/qt_meldungen.h"
 #include "platform_qt/qt_prozess.h"
+#include "platform_qt/qt_serienport.h"
 #include "platform_qt/qt_zeitgeber.h"
 
 namespace tarvel::qt {
@@ -44,6 +45,7 @@ private:
     QtZufall zufall_;
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
+    QtSerienportDienst serienports_{ordner_};
 };
 
 }  // namespace tarvel::qt

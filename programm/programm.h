@@ -16,6 +16,7 @@
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
+#include "hardware/messquelle.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
 #include "optionen/beste_zeiten_verwaltung.h"
@@ -54,6 +55,7 @@ public:
     texte txt;
     renn_parameter param;
     ereignis_tabelle ereignisse;
+    messquellen quellen;
     tastenbelegung belegung;
     tarvel::ausgaben ausgaben;
 

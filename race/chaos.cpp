@@ -26,6 +26,7 @@ chaos::chaos(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
         um_.zeitgeber.tm_chausloeser_falsch_setzen->aus();
         um_.ereignisse.chaos_fahrer.fuellen(false);
     };
+    zeitgeber.chaos_schalter_at2560->bei_tick = [this] { chaos_schalter_at2560_tick(); };
     for (const int spur : alle_spuren) {
         zeitgeber.straftimer_ch[spur]->bei_tick = [this, spur] { straftimer_ch_tick(spur); };
     }
@@ -137,6 +138,9 @@ void chaos::pause_beginnen() {
     zustand.chaos_aktiv = true;
     kleine_ampeln(kleines_licht::gelb);
     strafformular_zeigen();
+    if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
+        um_.zeitgeber.chaos_schalter_at2560->an();
+    }
     if (um_.einst.chaosampel_an) {
         um_.fenster.zeigen("k_ampel");
     } else {
@@ -314,6 +318,18 @@ void chaos::straftimer_ch_tick(int spur) {
         um_.zeitgeber.straftimer_ch[spur]->aus();
         zustand.fruehstart_sperre = false;
         t_.strafe.spur_strom_an(spur);
+    }
+}
+
+void chaos::chaos_schalter_at2560_tick() {
+    constexpr int losgelassen_unter = 15;  // of 20 that each message of the unit sets: a second of silence
+    int& zaehler = um_.ereignisse.chaos_at_zaehler;
+    zaehler = std::max(zaehler - 1, 0);
+    if (zaehler < losgelassen_unter) {
+        um_.zeitgeber.chaos_schalter_at2560->aus();
+        zaehler = 0;
+        um_.ereignisse[art::chaostaster].aktiv = false;
+        chaos_umschalten();
     }
 }
 

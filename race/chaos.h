@@ -57,6 +57,7 @@ private:
     void chaostimer2_tick();
     void chaos_nachholen();
     void straftimer_ch_tick(int spur);
+    void chaos_schalter_at2560_tick();
 
     renn_umgebung um_;
     teile t_;

@@ -46,6 +46,9 @@ void positionen::positionen_tauschen(std::size_t a, std::size_t b) {
     std::swap(position_.at(a), position_.at(b));
     um_.bahn.l_PosAnz.at(b).text(std::to_string(position_.at(b)));
     um_.bahn.l_PosAnz.at(a).text(std::to_string(position_.at(a)));
+    for (const std::size_t index : {b, a}) {
+        um_.quellen.melden<int, int>(&messquelle::platz, static_cast<int>(index) + 1, position_.at(index));
+    }
 }
 
 }  // namespace tarvel

@@ -29,6 +29,7 @@ struct spur_zustand {
     bool tank_runde_genommen = false;  ///< that penalty holds back a lap
     bool tank_strafe_aktiv = false;    ///< serves the penalty of an empty tank
     bool tank_halt = false;            ///< held for a moment after a full tank
+    int sperrzaehler = 0;              ///< ticks by which the lock after a crossing is drawn out on the tank contact
     bool strom_aus = false;            ///< home, out or in a penalty: the track power is cut
     bool ch_durchfahrt = false;        ///< crossed the sensor while the pause was starting
     zeit_ms ch_durchfahrt_zeit = 0;    ///< stamp of that

@@ -21,6 +21,7 @@ void rennablauf::laden() {
     rennen_zuruecksetzen();
     vor_dem_start();
     t_.blinken.beginnen();
+    um_.quellen.melden(&messquelle::rennfenster_offen);
 }
 
 void rennablauf::vor_dem_start() {
@@ -43,9 +44,11 @@ void rennablauf::rennen_zuruecksetzen() {
     renn_zustand& zustand = um_.zustand;
     for (const int spur : alle_spuren) {
         spur_zustand& frisch = zustand.spur[spur];
-        const int strafzeit = frisch.strafzeit;  // belongs to the start, not to the reset
+        const int strafzeit = frisch.strafzeit;         // belongs to the start, not to the reset
+        const double tank_inhalt = frisch.tank_inhalt;  // perhaps that of a device
         frisch = {};
         frisch.strafzeit = strafzeit;
+        frisch.tank_inhalt = tank_inhalt;
         frisch.ziel_erreicht = !um_.param.spur_aktiv[spur] || !um_.haupt.spur.at(feld_index(spur)).gesetzt();
         zustand.rundenzeiten.leeren(spur, 0);
         zustand.rundenzeiten.beste(spur, 0);
@@ -93,6 +96,7 @@ void rennablauf::rennstart_vorbereiten() {
     }
     t_.uhr.restzeit_vorbereiten(um_.param.renn_ziel);
     ampel_takt_bestimmen();
+    um_.quellen.melden(&messquelle::rennen_bereit);
     um_.bahn.Command1.aktiviert(false);
     um_.bahn.Command2.aktiviert(false);
     um_.bahn.Command3.aktiviert(false);
@@ -137,6 +141,7 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
     um_.ereignisse[art::ampel_gruen].aktiv = false;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     um_.zeitgeber.rennen_an();
+    um_.quellen.melden(&messquelle::rennstart);
     um_.sounds.spielen(sound::rennen_gestartet);
     um_.ereignisse.rundenzaehlung_leeren();
     for (const int spur : alle_spuren) {
@@ -181,9 +186,7 @@ void rennablauf::renntimer_tick() {
 }
 
 void rennablauf::quellen_abfragen() {
-    for (messquelle* quelle : quellen_) {
-        quelle->abfragen();
-    }
+    um_.quellen.melden(&messquelle::abfragen);
 }
 
 void rennablauf::renntimer2_tick() {
@@ -202,9 +205,7 @@ void rennablauf::renntimer2_tick() {
 }
 
 void rennablauf::renntimer3_tick() {
-    for (messquelle* quelle : quellen_) {
-        quelle->abtasten();
-    }
+    um_.quellen.melden(&messquelle::abtasten);
 }
 
 }  // namespace tarvel

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "race/blinken.h"
 #include "race/positionen.h"
@@ -60,9 +59,6 @@ public:
     /// Polls all devices.
     void quellen_abfragen();
 
-    /// `quelle` is polled in the race's ticks; it must outlive the race.
-    void anschliessen(messquelle& quelle) { quellen_.push_back(&quelle); }
-
 private:
     /// The commands before a start.
     void vor_dem_start();
@@ -73,7 +69,6 @@ private:
 
     renn_umgebung um_;
     teile t_;
-    std::vector<messquelle*> quellen_;
 };
 
 }  // namespace tarvel

@@ -18,6 +18,7 @@ struct rennen {
         const dateien& ablage;
         form1& haupt;
         ereignis_tabelle& ereignisse;
+        const messquellen& quellen;
         const tastenbelegung& belegung;
         tarvel::ausgaben& ausgaben;
         fensterregister& fenster;

@@ -134,6 +134,7 @@ void rennende::ausgaben_endzustand() {
     um_.ausgaben.ampelnRoff(0);
     um_.ausgaben.ampelnGRoff();
     um_.ausgaben.relais_off(0);
+    um_.quellen.melden(&messquelle::rennende);
 }
 
 void rennende::ende_stempeln() {

@@ -125,7 +125,10 @@ void rundenzaehlung::runden_auswerten() {
     }
     plaetze_.positions_pruefung();
     for (const spur_zustand& zustand : um_.zustand.spur) {
-        um_.zustand.fuehrungsrunden = std::max(um_.zustand.fuehrungsrunden, zustand.runden);
+        if (zustand.runden > um_.zustand.fuehrungsrunden) {
+            um_.zustand.fuehrungsrunden = zustand.runden;
+            um_.quellen.melden<int>(&messquelle::fuehrungsrunden, zustand.runden);
+        }
     }
 }
 

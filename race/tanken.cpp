@@ -42,6 +42,7 @@ tanken::tanken(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {
         um_.zeitgeber.tanktimer[spur]->bei_tick = [this, spur] { tanktimer_tick(spur); };
         um_.zeitgeber.wartetimer[spur]->bei_tick = [this, spur] { wartetimer_tick(spur); };
         um_.zeitgeber.t_straftimer[spur]->bei_tick = [this, spur] { t_straftimer_tick(spur); };
+        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->bei_tick = [this, spur] { tankwartetimer_tick(spur); };
     }
 }
 
@@ -50,9 +51,48 @@ void tanken::zuruecksetzen() {
         um_.zeitgeber.tanktimer[spur]->aus();
         um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
-        um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
+        if (!um_.einst.hardware.hw_cu) {  // its tank is the unit's
+            um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
+            tankfarbe(spur, gruen);
+        }
         fuellstand_zeigen(spur);
+    }
+}
+
+void tanken::fuellstand_melden(int spur, int stufe, int stufen) {
+    um_.zustand.spur[spur].tank_inhalt = runden_auf(static_cast<double>(stufe) * um_.einst.tank_inhalt / stufen, 100);
+    if (stufe < 1) {
+        tankfarbe(spur, um_.einst.farben_schrift[2]);
+        um_.sounds.spielen(sound::tank_leer + spur);
+    } else if (static_cast<double>(stufe) * 100 / stufen < um_.einst.tank_warnung) {
+        tankfarbe(spur, farben::rot);
+        um_.sounds.spielen(sound::tankwarnung + spur);
+    } else {
         tankfarbe(spur, gruen);
+    }
+    fuellstand_zeigen(spur);
+}
+
+void tanken::sensoren_nachhalten() {
+    constexpr int auf_einem_kontakt = 1;
+    if (!um_.param.tank_aktiv || um_.einst.tank_art != auf_einem_kontakt) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        const bool gemeldet = um_.ereignisse[art::rundenzaehlung[spur]].aktiv ||
+                              um_.ereignisse[art::tanken_ein[spur]].aktiv ||
+                              um_.ereignisse[art::tanken_aus[spur]].aktiv;
+        if (gemeldet && um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft()) {
+            um_.zustand.spur[spur].sperrzaehler = um_.einst.tanksensor_justierung;
+        }
+    }
+}
+
+void tanken::tankwartetimer_tick(int spur) {
+    int& rest = um_.zustand.spur[spur].sperrzaehler;
+    rest = std::max(rest - 1, 0);
+    if (rest == 0) {
+        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->aus();
     }
 }
 
@@ -65,7 +105,7 @@ void tanken::fuellstand_zeigen(int spur) {
     }
     um_.bahn.t_bahn[spur].text(text);
     um_.bahn.tankbalken.at(feld_index(spur))
-        .hoehe(std::max(stand, 0.0) * um_.bahn.tank_balkenhoehe / um_.einst.tank_inhalt);
+        .hoehe(std::clamp(stand / um_.einst.tank_inhalt, 0.0, 1.0) * um_.bahn.tank_balkenhoehe);
 }
 
 void tanken::fuellstaende_zeigen() {
@@ -136,6 +176,9 @@ void tanken::tank_alle_spuren() {
 
 void tanken::tanken_spur(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
+    if (um_.einst.hardware.hw_uart) {
+        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
+    }
     if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
         const double vorher = zustand.tank_inhalt;
         zustand.tank_inhalt = runden_auf(vorher + schritt_liter, 10);
@@ -162,6 +205,9 @@ void tanken::voll(int spur) {
 }
 
 void tanken::tank_verbrauch_rechnen(zeit_ms zeit, int spur) {
+    if (um_.einst.hardware.hw_cu) {
+        return;  // the unit burns, and tells the level
+    }
     if (um_.zustand.rennen_beendet) {
         return;  // a late crossing counts as a lap, but must not cut the power behind the result
     }

@@ -25,6 +25,11 @@ public:
     void tank_alle_spuren();
     /// Levels and their displays, without any change.
     void fuellstaende_zeigen();
+    /// A device that has the tanks itself tells a level: `stufe` of `stufen`, 0 is empty.
+    void fuellstand_melden(int spur, int stufe, int stufen);
+    /// A car that stands on the one contact of its lane must not count laps there: each event that a device repeats
+    /// draws out the lock after the crossing.
+    void sensoren_nachhalten();
     /// Burns the fuel of a counted crossing that took `zeit` ms.
     void tank_verbrauch_rechnen(zeit_ms zeit, int spur);
 
@@ -40,6 +45,7 @@ private:
     void tankfarbe(int spur, farbe neu);
 
     void tanktimer_tick(int spur);
+    void tankwartetimer_tick(int spur);
     void wartetimer_tick(int spur);
     void t_straftimer_tick(int spur);
 

@@ -10,6 +10,7 @@
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
+#include "hardware/messquelle.h"
 #include "hardware/zeitbasis.h"
 #include "platform/kalender.h"
 #include "platform/meldungen.h"
@@ -31,6 +32,7 @@ struct renn_umgebung {
     form1& haupt;
     bahn1& bahn;
     ereignis_tabelle& ereignisse;
+    const messquellen& quellen;
     zeitbasis& zeit;
     tarvel::ausgaben& ausgaben;
     const rennzeitgeber& zeitgeber;

@@ -27,10 +27,11 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
       ch_durch0(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
       chaos_runden(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
       tm_chausloeser_falsch_setzen(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
+      chaos_schalter_at2560(dienst.erzeugen(zeitgeber_art::zaehlend, 200)),
       f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
       f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0)) {
     for (auto& sperre : tankwartetimer) {
-        sperre = einmalig(dienst, 100);
+        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 100);
     }
     for (auto& sperre : soundtrigger) {
         sperre = einmalig(dienst, 3000);
@@ -59,8 +60,8 @@ void rennzeitgeber::rennen_aus() const {
 }
 
 void rennzeitgeber::pause_aus() const {
-    for (const auto* zeitgeber :
-         {&chaostimer, &chaosende_timer, &chaostimer2, &ch_durch0, &chaos_runden, &tm_chausloeser_falsch_setzen}) {
+    for (const auto* zeitgeber : {&chaostimer, &chaosende_timer, &chaostimer2, &ch_durch0, &chaos_runden,
+                                  &tm_chausloeser_falsch_setzen, &chaos_schalter_at2560}) {
         (*zeitgeber)->aus();
     }
     for (const auto& strafe : straftimer_ch) {

@@ -26,6 +26,7 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> ch_durch0;        ///< collects crossings at the beginning of a pause
     std::unique_ptr<plattform::zeitgeber> chaos_runden;     ///< brings them back after it
     std::unique_ptr<plattform::zeitgeber> tm_chausloeser_falsch_setzen;
+    std::unique_ptr<plattform::zeitgeber> chaos_schalter_at2560;  ///< a repeating switch is off once it falls silent
     spuren<std::unique_ptr<plattform::zeitgeber>> straftimer_ch;  ///< power penalty of a pause
     std::unique_ptr<plattform::zeitgeber> f_straftimer;   ///< counts the false-start penalty in hundredths of a second
     std::unique_ptr<plattform::zeitgeber> f_straftimer2;  ///< keeps the lanes locked for one minimum lap after it

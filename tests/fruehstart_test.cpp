@@ -135,7 +135,6 @@ struct spaete_flanke : messquelle {
             programm.p.ereignisse.ereignis_melden(art::rundenzaehlung[1]);
         }
     }
-    void abtasten() override {}
 
     test::testprogramm& programm;
     zeit_ms wann = 0;
@@ -144,7 +143,7 @@ struct spaete_flanke : messquelle {
 
 TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
     spaete_flanke sensor(t);
-    t.p.rennen.ablauf.anschliessen(sensor);
+    t.p.quellen.anschliessen(sensor);
     for (const int option : {1, 5}) {
         SCOPED_TRACE(option);
         t.p.einst.fruehstart_option = option;

@@ -244,7 +244,7 @@ struct geraet_mit_spur_drei : messquelle {
 
 TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
     geraet_mit_spur_drei geraet(t.p.ereignisse);
-    t.p.rennen.ablauf.anschliessen(geraet);
+    t.p.quellen.anschliessen(geraet);
     t.p.einst.rc_ziel_sensor34 = true;
     geraet.flanke = true;
     t.maschine.laufen(3);

@@ -14,5 +14,5 @@ pakete_sicherstellen() {
 }
 
 # qt6-base-dev brings the run-time libraries and the window system plugin with it
-PAKETE_BAU=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-translations-l10n libgl-dev fonts-dejavu-core)
+PAKETE_BAU=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-serialport-dev qt6-translations-l10n libgl-dev fonts-dejavu-core)
 PAKETE_TEST=(libgtest-dev)

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/dienste.h"
+#include "tests/plattform/test_anschluesse.h"
 
 namespace tarvel::test {
 
@@ -56,6 +57,7 @@ public:
     bool antwort = false;                    ///< to every question
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::vector<std::string> sounds;
+    test_anschluesse anschluesse;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
     double zufallszahl = 0;  ///< from 0 up to below 1

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+namespace tarvel {
+
+/// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device. Of what the
+/// race tells, a device overrides what it has a use for.
+class messquelle {
+public:
+    messquelle() = default;
+    messquelle(const messquelle&) = delete;
+    messquelle& operator=(const messquelle&) = delete;
+    virtual ~messquelle() = default;
+
+    /// Each `renntimer2` tick: reads the device and delivers.
+    virtual void abfragen() {}
+    /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.
+    virtual void abtasten() {}
+
+    /// The race window has opened.
+    virtual void rennfenster_offen() {}
+    /// A race is prepared; its light comes next.
+    virtual void rennen_bereit() {}
+    /// The moment at which the race starts.
+    virtual void rennstart() {}
+    /// The race is over, with a result or without.
+    virtual void rennende() {}
+    /// The leader has reached this many laps.
+    virtual void fuehrungsrunden(int /*runden*/) {}
+    /// A lane has taken another place.
+    virtual void platz(int /*spur*/, int /*platz*/) {}
+};
+
+/// The devices in force. Each must outlive its connection.
+class messquellen {
+public:
+    void anschliessen(messquelle& quelle) {
+        trennen(quelle);
+        alle_.push_back(&quelle);
+    }
+    void trennen(const messquelle& quelle) { std::erase(alle_, &quelle); }
+
+    /// `melden(handler, values…)`: tells all of them.
+    template <class... Werte>
+    void melden(void (messquelle::*was)(Werte...), Werte... werte) const {
+        for (messquelle* quelle : alle_) {
+            (quelle->*was)(werte...);
+        }
+    }
+
+private:
+    std::vector<messquelle*> alle_;
+};
+
+}  // namespace tarvel

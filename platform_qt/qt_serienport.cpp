@@ -1,0 +1,93 @@
+#include "platform_qt/qt_serienport.h"
+
+#include <QHash>
+#include <QStringList>
+
+namespace tarvel::qt {
+namespace {
+
+constexpr qint64 stau_max = 4096;  // bytes that a device has not taken: it takes none any more
+
+}  // namespace
+
+std::optional<Portwerte> portwerte_lesen(std::string_view text) {
+    static const QHash<QString, QSerialPort::Parity> paritaeten{{"N", QSerialPort::NoParity},
+                                                                {"E", QSerialPort::EvenParity},
+                                                                {"O", QSerialPort::OddParity},
+                                                                {"M", QSerialPort::MarkParity},
+                                                                {"S", QSerialPort::SpaceParity}};
+    static const QHash<QString, QSerialPort::StopBits> stopbits{
+        {"1", QSerialPort::OneStop}, {"1.5", QSerialPort::OneAndHalfStop}, {"2", QSerialPort::TwoStop}};
+    const QStringList teile =
+        QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())).toUpper().split(',');
+    if (teile.size() != 4) {
+        return {};
+    }
+    const int baud = teile[0].toInt();
+    const int datenbits = teile[2].toInt();
+    if (baud < 1 || datenbits < QSerialPort::Data5 || datenbits > QSerialPort::Data8 ||
+        !paritaeten.contains(teile[1]) || !stopbits.contains(teile[3])) {
+        return {};
+    }
+    return Portwerte{baud, paritaeten[teile[1]], static_cast<QSerialPort::DataBits>(datenbits), stopbits[teile[3]]};
+}
+
+QtSerienport::QtSerienport(const Portnamen& namen) : namen_(namen) {
+    QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { lesen(); });
+    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
+                     [this](QSerialPort::SerialPortError art) { fehler(art); });
+}
+
+QtSerienport::~QtSerienport() {
+    port_.disconnect();
+}
+
+bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
+    schliessen();
+    const QString name = namen_.von(nummer);
+    const std::optional<Portwerte> portwerte = portwerte_lesen(werte);
+    if (name.isEmpty() || !portwerte) {
+        return false;
+    }
+    port_.setPortName(name);
+    port_.setBaudRate(portwerte->baud);
+    port_.setParity(portwerte->paritaet);
+    port_.setDataBits(portwerte->datenbits);
+    port_.setStopBits(portwerte->stopbits);
+    port_.setFlowControl(QSerialPort::NoFlowControl);
+    return port_.open(QIODevice::ReadWrite);
+}
+
+void QtSerienport::schliessen() {
+    if (port_.isOpen()) {
+        port_.clear();  // else closing waits for a device that takes nothing any more
+        port_.close();
+    }
+}
+
+bool QtSerienport::schreiben(std::string_view bytes) {
+    if (!port_.isOpen() || port_.bytesToWrite() > stau_max) {
+        return false;
+    }
+    const auto laenge = static_cast<qint64>(bytes.size());
+    return port_.write(bytes.data(), laenge) == laenge;
+}
+
+void QtSerienport::lesen() {
+    const QByteArray bytes = port_.readAll();
+    if (bei_empfang && !bytes.isEmpty()) {
+        bei_empfang({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    }
+}
+
+void QtSerienport::fehler(QSerialPort::SerialPortError art) {
+    if (art != QSerialPort::ResourceError || !port_.isOpen()) {
+        return;
+    }
+    port_.close();
+    if (bei_verlust) {
+        bei_verlust();
+    }
+}
+
+}  // namespace tarvel::qt
