@@ -67,6 +67,7 @@ void form1::befehle_verbinden() {
     Command4.bei_klick = [this] { einstellungen_rufen(einstellungen_oeffnen); };
     Command8.bei_klick = [this] { einstellungen_rufen(fahrer_oeffnen); };
     Command9.bei_klick = [this] { einstellungen_rufen(fahrzeuge_oeffnen); };
+    weitergeben(command_cu, cu_oeffnen);
     command_tasten.bei_klick = [this] { um_.fenster.zeigen("Tastaturbelegung", anzeige_art::modal); };
 }
 

@@ -88,6 +88,8 @@ public:
     befehl Command12;         ///< track power off
     befehl Command13;         ///< take over the pictures of the drivers
     befehl command_tasten;    ///< key assignment
+    bezeichnung cu_label;     ///< how the Control Unit is reached; with it the command behind it
+    befehl command_cu;        ///< window of the Control Unit
 
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
@@ -100,6 +102,7 @@ public:
     std::function<void()> einstellungen_oeffnen;
     std::function<void()> fahrer_oeffnen;
     std::function<void()> fahrzeuge_oeffnen;
+    std::function<void()> cu_oeffnen;
     std::function<void()> fahrerbilder_uebernehmen;
     std::function<void()> fahrzeugbilder_uebernehmen;
 
@@ -126,6 +129,9 @@ public:
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
+    enum class cu_stand { kein_port, stumm, antwortet };
+    /// The controls of the Control Unit; hidden with other hardware.
+    void cu_zeigen(bool zeigen, cu_stand stand);
     /// Whether there are outputs that the track power commands switch.
     void bahnstrom_schaltbar(bool schaltbar);
     /// The settings file in force, and the one that the program starts with.
@@ -166,6 +172,7 @@ private:
     std::string wort_liter_;
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;
+    std::array<std::string, 3> wort_cu_;  ///< index is the `cu_stand`
     renndauer_angabe dauer_;  ///< what `renndauer` says
 };
 

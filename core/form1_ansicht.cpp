@@ -39,7 +39,9 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
     texte.text("Zugeordnete Bilder: ", wort_bilder_).text("Beim Programmstart: ", wort_standarddatei_);
     texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
-    return texte.text("Liter je Runde", wort_verbrauch_);
+    texte.text("Liter je Runde", wort_verbrauch_).text("Control Unit", command_cu);
+    texte.text("COM-Port nicht offen", wort_cu_[0]).text("antwortet nicht", wort_cu_[1]);
+    return texte.text("verbunden", wort_cu_[2]);
 }
 
 void form1::ansagen_setzen() {
@@ -152,6 +154,12 @@ void form1::bahnstrom_schaltbar(bool schaltbar) {
                                    static_cast<steuerelement*>(&Command12)}) {
         element->aktiviert(schaltbar);
     }
+}
+
+void form1::cu_zeigen(bool zeigen, cu_stand stand) {
+    cu_label.sichtbar(zeigen);
+    command_cu.sichtbar(zeigen);
+    cu_label.text(wort_cu_.at(static_cast<std::size_t>(stand)));
 }
 
 void form1::modus_anzeigen() {

@@ -33,7 +33,7 @@ public:
 };
 
 /// The devices beside the IO board, in the order in which each switching goes through them.
-enum class ausgabe_platz { modul_4x4, druckeranschluss, timekeeper, at_2560 };
+enum class ausgabe_platz { modul_4x4, druckeranschluss, timekeeper, at_2560, control_unit };
 
 /// Lamps, track power and signals. The race calls these routines and never looks at which devices are connected;
 /// without a device each of them is valid and changes only the image of the IO board's report. Lamps and lanes that do
@@ -76,7 +76,7 @@ public:
     void ruhezustand();
 
 private:
-    static constexpr std::size_t plaetze = 4;
+    static constexpr std::size_t plaetze = 5;
 
     ausgabe_geraet*& an(ausgabe_platz platz) { return geraete_.at(static_cast<std::size_t>(platz)); }
     void gruene_lampe(bool an);

@@ -15,6 +15,13 @@ void ereignis_tabelle::ruhe_herstellen() {
     }
 }
 
+void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
+    messzeit += um;
+    for (ereignis_zeile& zeile : zeilen_) {
+        zeile.ereignis_zeit += um;
+    }
+}
+
 void ereignis_tabelle::rundenzaehlung_leeren() {
     for (const ereignis_art nummer : art::rundenzaehlung) {
         (*this)[nummer].aktiv = false;

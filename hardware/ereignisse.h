@@ -52,6 +52,8 @@ public:
     void ereignis_melden(ereignis_art nummer);
     /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
     void ruhe_herstellen();
+    /// All stamps move by `um` ms.
+    void stempel_verschieben(zeit_ms um);
     /// Forgets waiting crossings of all lanes.
     void rundenzaehlung_leeren();
     /// The same with the sector sensors.

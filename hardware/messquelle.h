@@ -5,6 +5,24 @@
 
 namespace tarvel {
 
+/// A start light that the device runs itself: the race follows it.
+class geraeteampel {
+public:
+    geraeteampel() = default;
+    geraeteampel(const geraeteampel&) = delete;
+    geraeteampel& operator=(const geraeteampel&) = delete;
+    virtual ~geraeteampel() = default;
+
+    /// The cars are stopped until its green.
+    virtual bool rot() const = 0;
+    /// The race is ready: where the settings have the program start it, it starts the light.
+    virtual void startkommando() = 0;
+    /// The start is off, while that light runs.
+    virtual void abbrechen() = 0;
+    /// Starts the light that ends a pause.
+    virtual void neustart() = 0;
+};
+
 /// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device. Of what the
 /// race tells, a device overrides what it has a use for.
 class messquelle {
@@ -19,8 +37,12 @@ public:
     /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.
     virtual void abtasten() {}
 
+    /// A light of its own, for as long as the device is there; else none.
+    virtual geraeteampel* ampel() { return nullptr; }
+
     /// The race window has opened.
     virtual void rennfenster_offen() {}
+    virtual void rennfenster_zu() {}
     /// A race is prepared; its light comes next.
     virtual void rennen_bereit() {}
     /// The moment at which the race starts.
@@ -48,6 +70,15 @@ public:
         for (messquelle* quelle : alle_) {
             (quelle->*was)(werte...);
         }
+    }
+
+    geraeteampel* ampel() const {
+        for (messquelle* quelle : alle_) {
+            if (geraeteampel* licht = quelle->ampel(); licht != nullptr) {
+                return licht;
+            }
+        }
+        return nullptr;
     }
 
 private:

@@ -38,6 +38,7 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten,
                  fahrerliste, fahrzeugliste}),
+      geraete({einst, txt, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
@@ -341,8 +342,7 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
 }
 
 void programm::hardware_starten() {
-    ausgaben.einschalten();
-    ausgaben.ruhezustand();
+    geraete.hardware_starten();
     form1.modus_anzeigen();
     form1.bahnstrom_schaltbar(ausgaben.angeschlossen());
     if (!laden_aus_menue_) {
@@ -358,6 +358,7 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
+    geraete.schliessen();
     constexpr std::array<std::string_view, 15> reihenfolge{"auswertung",
                                                            "bahn1",
                                                            "einstellungen",

@@ -23,6 +23,7 @@
 #include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
+#include "programm/messgeraete.h"
 #include "programm/startfenster.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
@@ -72,6 +73,7 @@ public:
     tarvel::form3 form3;
     tarvel::update_form update_form;
     tarvel::rennen rennen;
+    messgeraete geraete;
     tarvel::startampel startampel;
     tarvel::k_ampel k_ampel;
     tarvel::wertung wertung;

@@ -80,7 +80,9 @@ struct bahn1 {
     bezeichnung ch_Label3;
     spuren<haken> ch_strafzeit_hacken;  ///< the lanes that are to blame
     spuren<form> yellowframe;           ///< bars in a pause
-    rahmen Nachtabschaltung;            ///< dark cover over the whole window
+    rahmen cu_startframe;               ///< says what is to do at a device that is started at its own key
+    bezeichnung cu_startlabel;
+    rahmen Nachtabschaltung;  ///< dark cover over the whole window
 
     struct worte {
         std::string restzeit;
@@ -99,6 +101,8 @@ struct bahn1 {
         std::string startampel;
         std::string fruehstart;
         std::string bestzeit;  ///< in front of the time
+        std::string cu_start;  ///< what is to do at the device, for the start
+        std::string cu_pause;  ///< and in a pause
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -40,6 +40,7 @@ void chaos::zuruecksetzen() {
     um_.bahn.Command3.text(um_.bahn.wort.pause);
     strafformular_schliessen();
     gelb_zeigen(false);
+    um_.bahn.cu_startframe.sichtbar(false);
 }
 
 void chaos::befehl_klick() {
@@ -110,15 +111,39 @@ void chaos::chaos_umschalten() {
     } else if (um_.einst.chaosampel_an && neustart_ampel) {
         um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
         neustart_ampel();
-    } else {
+    } else if (!am_geraet_fortsetzen()) {
         chaosende_routine();
     }
+}
+
+bool chaos::am_geraet_fortsetzen() {
+    geraeteampel* licht = um_.quellen.ampel();
+    bool& verlangt = um_.zustand.pause.neustart_verlangt;
+    if (licht == nullptr || !licht->rot() || verlangt) {
+        return false;  // asked for a second time, the pause ends without the device
+    }
+    verlangt = true;
+    um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
+    licht->neustart();
+    return true;
+}
+
+bool chaos::gruen_am_geraet() {
+    const geraeteampel* licht = um_.quellen.ampel();
+    bool& rot = um_.zustand.pause.geraet_rot;
+    if (licht != nullptr && licht->rot()) {
+        rot = true;
+        return false;
+    }
+    return licht != nullptr && rot;
 }
 
 void chaos::pause_beginnen() {
     renn_zustand& zustand = um_.zustand;
     zustand.nachlauf_minuten = 0;
     zustand.pause.ch_zaehler = 0;
+    zustand.pause.geraet_rot = false;
+    zustand.pause.neustart_verlangt = false;
     if (!um_.einst.chaos_schalter) {
         um_.ereignisse[art::chaostaster].aktiv = false;
     }
@@ -138,6 +163,10 @@ void chaos::pause_beginnen() {
     zustand.chaos_aktiv = true;
     kleine_ampeln(kleines_licht::gelb);
     strafformular_zeigen();
+    if (um_.quellen.ampel() != nullptr) {
+        um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_pause);
+        um_.bahn.cu_startframe.sichtbar(true);
+    }
     if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
         um_.zeitgeber.chaos_schalter_at2560->an();
     }
@@ -239,6 +268,11 @@ void chaos::chaostimer2_tick() {
     if (um_.zeitgeber.ch_durch0->laeuft()) {  // each poll, so that a noted crossing is right to the millisecond
         durchfahrten_merken();
     }
+    if (gruen_am_geraet()) {  // its cars drive
+        um_.fenster.entladen("k_ampel");
+        chaosende_routine();
+        return;
+    }
     if (um_.zeitgeber.chaostimer->laeuft()) {
         if (!um_.einst.chaos_schalter) {  // dropped, also where the race tick no longer does it
             um_.ereignisse[art::chaostaster].aktiv = false;
@@ -288,6 +322,7 @@ void chaos::chaosende_routine() {
     um_.zeitgeber.chaostimer->an();
     strafformular_schliessen();
     gelb_zeigen(false);
+    um_.bahn.cu_startframe.sichtbar(false);
 }
 
 void chaos::strafen_verteilen() {

@@ -38,6 +38,9 @@ public:
 
 private:
     void befehl_klick();
+    /// The device runs the light that ends the pause.
+    bool am_geraet_fortsetzen();
+    bool gruen_am_geraet();
     void pause_beginnen();
     void zeitgeber_anhalten();
     void zeitgeber_fortsetzen();

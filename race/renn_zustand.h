@@ -46,6 +46,8 @@ struct pausen_zustand {
     zeit_ms schalter_zuletzt = 0;  ///< stamp at which it was last seen on after a pause
     bool nachlauf_nach_pause = false;
     bool f_straftimer_lief = false;
+    bool geraet_rot = false;         ///< the light of the device has been red in this pause
+    bool neustart_verlangt = false;  ///< that light has been asked for
 };
 
 /// The record of the running race. Reset at each race.
@@ -73,6 +75,9 @@ struct renn_zustand {
     std::string minuten_gefahren;      ///< minutes on the second clock when the race ended
     std::string rennen_start_uhrzeit;  ///< date and time of day
     std::string rennen_ende_uhrzeit;
+
+    /// The clock that stamps have been taken from turns out to be `um` ms behind.
+    void stempel_verschieben(zeit_ms um);
 
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {

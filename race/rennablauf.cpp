@@ -35,6 +35,7 @@ void rennablauf::vor_dem_start() {
 void rennablauf::entladen() {
     um_.fenster.entladen("Form2");
     t_.blinken.beenden();
+    um_.quellen.melden(&messquelle::rennfenster_zu);
     um_.zeitgeber.alle_aus();
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
@@ -127,7 +128,8 @@ void rennablauf::rennen_starten() {
 
 void rennablauf::befehle_freigeben() {
     um_.bahn.Command2.aktiviert(true);
-    um_.bahn.Command3.aktiviert(true);
+    // a device that is started at its own key is paused there too
+    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || um_.einst.cu_sondermodus);
     um_.bahn.Command4.aktiviert(true);
 }
 

@@ -96,7 +96,9 @@ sprachliste rennansicht::sprache_r() {
         }
     });
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
-    return texte.text("Best: ", bahn.wort.bestzeit);
+    texte.text("Best: ", bahn.wort.bestzeit);
+    texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
+    return texte.text("Pause: Mit der Starttaste der Control Unit geht es weiter.", bahn.wort.cu_pause);
 }
 
 void rennansicht::oeffnen() {

@@ -33,4 +33,14 @@ void rundenspeicher::spur_uebernehmen(int spur, const rundenspeicher& quelle, in
     beste(spur, quelle.beste(quellspur));
 }
 
+void rundenspeicher::stempel_verschieben(zeit_ms um) {
+    for (eintrag& zeile : zeilen_) {
+        for (zeit_ms& stempel : zeile.stempel) {
+            if (stempel != 0) {  // 0 is no crossing
+                stempel += um;
+            }
+        }
+    }
+}
+
 }  // namespace tarvel

@@ -30,6 +30,9 @@ public:
     /// Rows 0 to `letzte` and the best lap of a lane of another store.
     void spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte);
 
+    /// All stamps move by `um` ms.
+    void stempel_verschieben(zeit_ms um);
+
     /// Best lap in ms, 0 until there is one.
     zeit_ms beste(int spur) const { return beste_[spur]; }
     void beste(int spur, zeit_ms zeit) { beste_[spur] = zeit; }

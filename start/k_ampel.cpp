@@ -29,6 +29,8 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_
     }
     Timer2_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, gruen_ms);
     Timer2_->bei_tick = [this] { gruen_tick(); };
+    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    cu_ampel_auswertetimer_->bei_tick = [this] { geraet_tick(); };
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_ms);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
@@ -73,6 +75,7 @@ void k_ampel::zeitgeber_aus() {
         schritt->aus();
     }
     Timer2_->aus();
+    cu_ampel_auswertetimer_->aus();
     training_autotimer_->aus();
 }
 
@@ -95,8 +98,39 @@ void k_ampel::Command1_klick() {
         um_.ereignisse.rundenzaehlung_leeren();
     }
     strom_aus();
-    rot_.front()->an();
     Command1.aktiviert(false);
+    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && licht->rot()) {
+        licht->neustart();
+        for (std::size_t i = 0; i < schritte; ++i) {
+            lampe_an(i);
+        }
+        cu_ampel_auswertetimer_->an();
+    } else {
+        rot_.front()->an();
+    }
+}
+
+void k_ampel::geraet_tick() {
+    um_.quellen.melden(&messquelle::abfragen);
+    const geraeteampel* licht = um_.quellen.ampel();
+    if (licht != nullptr && licht->rot()) {
+        return;
+    }
+    cu_ampel_auswertetimer_->aus();
+    if (licht != nullptr) {
+        gruen_tick();
+    } else {  // unplugged: this light does it
+        rot_.front()->an();
+    }
+}
+
+void k_ampel::lampe_an(std::size_t schritt) {
+    Shape1.at(schritt).hintergrund(rot);
+    k_ampel_bild(schritt, "rt_an");
+    if (k_reihe2_) {
+        Shape1.at(schritt + schritte).hintergrund(rot);
+        k_ampel_bild(schritt + schritte, "rt_an");
+    }
 }
 
 void k_ampel::rot_tick(std::size_t schritt) {
@@ -104,12 +138,7 @@ void k_ampel::rot_tick(std::size_t schritt) {
         strom_aus();
     }
     rot_.at(schritt)->aus();
-    Shape1.at(schritt).hintergrund(rot);
-    k_ampel_bild(schritt, "rt_an");
-    if (k_reihe2_) {
-        Shape1.at(schritt + schritte).hintergrund(rot);
-        k_ampel_bild(schritt + schritte, "rt_an");
-    }
+    lampe_an(schritt);
     um_.ausgaben.ampelnRon(lampe_vor_dem_ersten(um_.einst.start_ampel_modus) + static_cast<int>(schritt) + 1);
     um_.sounds.spielen(sound::ampelschritt);
     if (schritt + 1 < schritte) {

@@ -31,8 +31,10 @@ public:
 private:
     void Command1_klick();
     void strom_aus();
+    void lampe_an(std::size_t schritt);
     void rot_tick(std::size_t schritt);
     void gruen_tick();
+    void geraet_tick();
     void k_ampel_bild(std::size_t nummer, const char* name);
     void zeitgeber_aus();
 
@@ -41,6 +43,7 @@ private:
     bool k_reihe2_ = false;                                            ///< the second row lights red with the first
     std::array<std::unique_ptr<plattform::zeitgeber>, schritte> rot_;  ///< Timer1, Timer4, Timer5
     std::unique_ptr<plattform::zeitgeber> Timer2_;                     ///< green
+    std::unique_ptr<plattform::zeitgeber> cu_ampel_auswertetimer_;     ///< follows the light of a device in its place
     std::unique_ptr<plattform::zeitgeber> training_autotimer_;         ///< presses the command
 };
 

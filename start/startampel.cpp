@@ -1,6 +1,7 @@
 #include "start/startampel.h"
 
 #include <string>
+#include <utility>
 
 namespace tarvel {
 namespace {
@@ -10,6 +11,7 @@ constexpr int schritt_ms = 1500;
 constexpr int drag_vor_ms = 2000;  // steps of the tree's white lights
 constexpr int drag_gelb_ms = 500;
 constexpr int freigabe_ms = 2000;
+constexpr int startkommando_ms = 2000;
 
 constexpr farbe weiss = 16777215;
 constexpr farbe gelb = 65535;
@@ -46,6 +48,15 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
     Timer8_ = kette(freigabe_ms, [this] { freigabe_tick(); });
     fruehstarttimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
     fruehstarttimer_->bei_tick = [this] { fruehstart_tick(); };
+    Timer9_ = kette(startkommando_ms, [this] {
+        Timer9_->aus();
+        if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && !um_.zustand.chaos_aktiv) {
+            licht->startkommando();
+            geraet_gestartet_ = true;
+        }
+    });
+    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    cu_ampel_auswertetimer_->bei_tick = [this] { cu_ampel_auswerten(); };
     ampelaus_timer_ = kette(1, [this] {
         ampelaus_timer_->aus();
         um_.fenster.verbergen("Form2");
@@ -73,8 +84,16 @@ void startampel::laden() {
     }
     fruehstart_.zuruecksetzen();
     um_.ausgaben.ampelnGRoff();  // the rest state's green must not burn beside the reds
-    Timer1_->an();
-    fruehstarttimer_->an();
+    geraet_rot_ = false;
+    geraet_gestartet_ = false;
+    if (um_.quellen.ampel() != nullptr) {
+        Timer9_->an();
+        cu_ampel_auswertetimer_->an();
+        um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_start);
+        um_.bahn.cu_startframe.sichtbar(!um_.einst.cu_sondermodus);
+    } else {
+        eigene_kette_beginnen();
+    }
     if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
         ampelaus_timer_->an();
     }
@@ -167,9 +186,42 @@ void startampel::gruen_tick() {
     }
     Timer8_->an();
     fruehstart_tick();  // an edge of this very moment is still a false start
-    if (abgebrochen_) {
-        return;
+    if (!abgebrochen_) {
+        gruen_geben();
     }
+}
+
+void startampel::eigene_kette_beginnen() {
+    Timer1_->an();
+    fruehstarttimer_->an();
+}
+
+void startampel::cu_ampel_auswerten() {
+    const geraeteampel* licht = um_.quellen.ampel();
+    um_.quellen.melden(&messquelle::abfragen);
+    if (licht == nullptr) {  // unplugged: the race starts without it
+        cu_ampel_auswertetimer_->aus();
+        eigene_kette_beginnen();
+    } else if (!geraet_rot_ && !licht->rot()) {
+        um_.ereignisse.rundenzaehlung_leeren();  // the cars may still roll to the start
+    } else if (licht->rot()) {
+        if (!std::exchange(geraet_rot_, true)) {
+            const bool reihe2_rot = ampelmodus_von(um_.einst.start_ampel_modus).reihe2 == reihe2::rot;
+            alle_lampen(rt_an, reihe2_rot ? rt_an : gr_aus);
+            um_.ausgaben.ampelnRon(0);
+            um_.sounds.spielen(sound::ampelschritt);
+        }
+        if (fruehstart_.pruefen()) {
+            fruehstart_zeigen();
+        }
+    } else {
+        cu_ampel_auswertetimer_->aus();
+        Timer8_->an();
+        gruen_geben();
+    }
+}
+
+void startampel::gruen_geben() {
     gruen_zeigen();
     gruen_erreicht_ = true;
     fenster.abbrampel.aktiviert(false);
@@ -177,6 +229,7 @@ void startampel::gruen_tick() {
     um_.ausgaben.ampelnGRon();
     r_.ablauf.rennen_starten(um_.zeit.messzeit_lesen());
     fruehstarttimer_->aus();
+    um_.bahn.cu_startframe.sichtbar(false);
     um_.zeitgeber.f_straftimer->an();
 }
 
@@ -225,7 +278,9 @@ void startampel::zeitgeber_aus() {
     }
     Timer7_->aus();
     Timer8_->aus();
+    Timer9_->aus();
     fruehstarttimer_->aus();
+    cu_ampel_auswertetimer_->aus();
 }
 
 void startampel::start_abbrechen() {
@@ -247,6 +302,9 @@ void startampel::abbrampel_klick() {
     }
     r_.strafen.alle_strom_an();
     zeitgeber_aus();
+    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && geraet_gestartet_ && licht->rot()) {
+        licht->abbrechen();
+    }
     r_.ablauf.start_abgebrochen();
     fenster.Nachtabschaltung.sichtbar(false);
     um_.fenster.entladen("Form2");
@@ -264,6 +322,7 @@ void startampel::entladen() {
     ampel_laeuft_ = false;
     zeitgeber_aus();
     ampelaus_timer_->aus();
+    um_.bahn.cu_startframe.sichtbar(false);
     for (const auto& unterbrechung : stw_) {
         unterbrechung->aus();
     }

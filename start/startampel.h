@@ -47,6 +47,11 @@ private:
     void rot_tick(std::size_t schritt);
     void dragbaum_schalten(std::size_t schritt);
     void gruen_tick();
+    /// The race starts; the lights and the start are through.
+    void gruen_geben();
+    /// Follows the light that a device runs itself.
+    void cu_ampel_auswerten();
+    void eigene_kette_beginnen();
     void gruen_zeigen();
     void freigabe_tick();
     void fruehstart_tick();
@@ -70,9 +75,14 @@ private:
     std::unique_ptr<plattform::zeitgeber> ampelaus_timer_;            ///< hides a light that only real lamps show
     spuren<std::unique_ptr<plattform::zeitgeber>> stw_;               ///< cut the lane's power
 
+    std::unique_ptr<plattform::zeitgeber> Timer9_;                  ///< start command to a device
+    std::unique_ptr<plattform::zeitgeber> cu_ampel_auswertetimer_;  ///< follows its light
+
     bool ampel_laeuft_ = false;
-    bool gruen_erreicht_ = false;  ///< the green moment comes once per start
-    bool abgebrochen_ = false;     ///< a false start has stopped this start
+    bool geraet_rot_ = false;        ///< the device's light has been red in this start
+    bool geraet_gestartet_ = false;  ///< and was started from here
+    bool gruen_erreicht_ = false;    ///< the green moment comes once per start
+    bool abgebrochen_ = false;       ///< a false start has stopped this start
 };
 
 }  // namespace tarvel

@@ -51,6 +51,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
             [&logik](const std::string& datei) { return logik.umgebung.ablage.pfad(datei); }, this));
     }
     strafformular();
+    geraetehinweis();
     befehlszeile();
     nachtabschaltung();
     setMinimumSize(640, 480);
@@ -130,6 +131,21 @@ void Bahn1Fenster::strafformular() {
     binder().verbinden(bahn.ch_strafframe, kasten, "ch_strafframe", {});
 }
 
+void Bahn1Fenster::geraetehinweis() {
+    bahn1& bahn = logik_.bahn1;
+    hinweis_ = new QWidget(this);
+    hinweis_->setAutoFillBackground(true);
+    QPalette gelb;
+    gelb.setColor(QPalette::Window, QColor(255, 214, 0));
+    hinweis_->setPalette(gelb);
+    TextAnzeige* text = binder().anzeige(bahn.cu_startlabel, "cu_startlabel");
+    text->setFett(true);
+    text->setFarbe(Qt::black);
+    auto* zeile = new QHBoxLayout(hinweis_);
+    zeile->addWidget(text);
+    binder().verbinden(bahn.cu_startframe, hinweis_, "cu_startframe", [this] { hinweis_->raise(); });
+}
+
 void Bahn1Fenster::nachtabschaltung() {
     nacht_ = new QWidget(this);
     nacht_->setAutoFillBackground(true);
@@ -182,6 +198,8 @@ void Bahn1Fenster::anordnen() {
         }
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
+    const rechteck& befehle = geometrie.fenster[f::Frame1].ort;
+    hinweis_->setGeometry(width() / 8, befehle.y - height() / 10, width() * 3 / 4, height() / 12);
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
 }

@@ -24,6 +24,7 @@ private:
     void kopf();
     void befehlszeile();
     void strafformular();
+    void geraetehinweis();
     void nachtabschaltung();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
@@ -37,6 +38,7 @@ private:
     std::vector<QWidget*> formular_;  ///< parts of the penalty form
     QLineEdit* sekunden_ = nullptr;
     QWidget* nacht_ = nullptr;
+    QWidget* hinweis_ = nullptr;  ///< what is to do at the device
 };
 
 }  // namespace tarvel::ui

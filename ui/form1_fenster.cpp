@@ -225,6 +225,8 @@ QWidget* Form1Fenster::statuszeile() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(2, 0, 2, 0);
     aufbau->addWidget(binder().label(logik_.modus_label, "modus_label"));
+    aufbau->addWidget(binder().label(logik_.cu_label, "cu_label"));
+    aufbau->addWidget(binder().knopf(logik_.command_cu, "command_cu"));
     QLabel* datei = binder().label(logik_.Label6, "Label6");
     datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     datei->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

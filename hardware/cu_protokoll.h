@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/spuren.h"
+
+/// The words of the Control Unit: short ASCII records that end in "$". Digits of sixteen are the characters "0" to "?".
+namespace tarvel::cu {
+
+inline constexpr char satzende = '$';
+inline constexpr char befehlszeichen = 34;  ///< a quotation mark begins every command
+inline constexpr int fahrzeuge_max = 8;
+inline constexpr int sensoren_max = 3;
+
+/// A car has passed a sensor.
+struct ueberfahrt {
+    int fahrzeug = 0;           ///< 1 to 8
+    int sensor = 1;             ///< 1 finish line, 2 and 3 sectors
+    std::uint32_t stempel = 0;  ///< the unit's clock, ms
+    bool operator==(const ueberfahrt&) const = default;
+};
+
+/// How the unit stands.
+struct status {
+    spuren<int> tank;            ///< 0 to 15
+    bool startzustand = false;   ///< its start light is in the start state: the cars are stopped
+    int tankmodus = 0;           ///< 0 without fuel
+    std::uint8_t boxenbits = 0;  ///< cars in the pit lane
+    bool operator==(const status&) const = default;
+};
+
+/// The lap counter box reports that it is ready.
+struct rundenzaehler_bereit {
+    bool operator==(const rundenzaehler_bereit&) const = default;
+};
+
+using meldung = std::variant<std::monostate, ueberfahrt, status, rundenzaehler_bereit>;
+
+/// Takes the next record off the front of what was received, without the prefixes in front of it; empty as long as
+/// none is complete.
+std::string satz_abtrennen(std::string& empfang);
+/// What a record says; nothing for one that is damaged. Noise in front of a record is passed over.
+meldung satz_lesen(std::string_view satz);
+
+/// The eight characters of a stamp; nothing if one of them is no digit of sixteen.
+std::optional<std::uint32_t> stempel_lesen(std::string_view zeichen);
+
+/// Over the three characters in front of it.
+char pruefzeichen(std::string_view drei);
+
+/// Both halves of a number on the lap display. From 251 on only its last two decimal digits fit.
+std::array<std::string, 2> anzeigebefehle(int wert);
+/// The two values of a lane on the position tower: its place, and its car.
+std::array<std::string, 2> platzbefehle(int spur, int platz);
+
+}  // namespace tarvel::cu

@@ -1,0 +1,22 @@
+#include "race/renn_zustand.h"
+
+namespace tarvel {
+
+void renn_zustand::stempel_verschieben(zeit_ms um) {
+    const auto verschieben = [um](zeit_ms& stempel) {
+        if (stempel != 0) {  // 0 is none
+            stempel += um;
+        }
+    };
+    rundenzeiten.stempel_verschieben(um);
+    for (spur_zustand& s : spur) {
+        for (zeit_ms* stempel : {&s.start_zeit, &s.tankt_seit, &s.ch_durchfahrt_zeit}) {
+            verschieben(*stempel);
+        }
+    }
+    for (zeit_ms* stempel : {&start_zeit, &renn_ende_zeit, &renn_ende_stempel, &pause.start, &pause.schalter_zuletzt}) {
+        verschieben(*stempel);
+    }
+}
+
+}  // namespace tarvel
