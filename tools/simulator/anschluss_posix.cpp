@@ -30,7 +30,7 @@ speed_t geschwindigkeit(int baud) {
             return stufe;
         }
     }
-    return B19200;
+    return B0;
 }
 
 /// No echo and no line editing, and every byte as it is.
@@ -125,6 +125,9 @@ anschluss::anschluss(anschluss_ort ort) : ort_(std::move(ort)) {}
 anschluss::~anschluss() = default;
 
 std::string anschluss::oeffnen() {
+    if (geschwindigkeit(ort_.baud) == B0) {
+        return std::to_string(ort_.baud) + " Baud kann der Anschluss nicht.";
+    }
     leitung_ = std::make_unique<leitung>();
     std::string fehler = ort_.port.empty() ? leitung_->terminal_oeffnen(ort_) : leitung_->port_oeffnen(ort_);
     if (!fehler.empty()) {
@@ -143,7 +146,7 @@ bool anschluss::verbunden() const {
     }
     pollfd p{leitung_->fd, POLLIN, 0};
     poll(&p, 1, 0);
-    return (p.revents & POLLHUP) == 0;
+    return (p.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0;
 }
 
 std::string anschluss::lesen(int wartezeit_ms) {

@@ -28,9 +28,9 @@ struct befehlsdatei {
         zeile(befehl + "1");
         zeile(befehl + "0");
     }
-    void je_spur(const std::string& vor, const std::string& nach, const std::array<int, 6>& belegung) {
+    void je_spur(const std::string& vor, const std::array<int, 6>& belegung) {
         for (std::size_t i = 0; i < belegung.size(); ++i) {
-            wert(vor + std::to_string(i + 1) + nach, ereignis(belegung[i]));
+            wert(vor + std::to_string(i + 1), ereignis(belegung[i]));
         }
     }
 };
@@ -74,7 +74,7 @@ void befehle_schreiben(befehlsdatei& d) {
 }
 
 void ereignisse_schreiben(befehlsdatei& d) {
-    d.je_spur("StartZiel Spur ", "", pins::ziel);
+    d.je_spur("StartZiel Spur ", pins::ziel);
     for (std::size_t i = 0; i < pins::ziel.size(); ++i) {
         const std::string spur = "Tanksensor Spur " + std::to_string(i + 1);
         d.wert(spur + " ein", ereignis(pins::tank_ein.at(i)));
@@ -86,7 +86,7 @@ void ereignisse_schreiben(befehlsdatei& d) {
         d.wert(spur + " Sensor 2", ereignis(pins::sektor_2.at(i)));
     }
     d.wert("Chaos allgemein", ereignis(pins::chaos_gemeinsam));
-    d.je_spur("Chaos Spur ", "", pins::chaos);
+    d.je_spur("Chaos Spur ", pins::chaos);
     for (const char sensor : {'1', '2', '3', '4', '5', '6', '7', '8'}) {
         d.wert(std::string("Soundsensor ") + sensor, nicht_belegt);
     }

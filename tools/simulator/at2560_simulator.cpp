@@ -17,9 +17,10 @@ void eigene_optionen(kommandozeile& zeile, at2560_einstellung& at, std::string& 
     zeile.text("--profil", "DATEI", "schreibt die Befehlsdatei mit allen Sensoren und endet", profil);
     zeile.haken("--chaos-gemeinsam", "Fahrer drücken den gemeinsamen Chaostaster", at.chaos_gemeinsam);
     zeile.haken("--strom-invers", "die Spur hat Strom, solange ihr Ausgang aus ist", at.strom_invers);
-    zeile.zahl("--bootzeit", "MS", 0, 60000, "so lange hört das Gerät nach dem Öffnen nichts",
+    zeile.zahl("--bootzeit", "MS", 0, 60000, "so lange hört das Gerät nach dem Öffnen nichts (1500)",
                [&](std::int64_t n) { at.bootzeit = n; });
-    zeile.zahl("--antippen", "MS", 0, 60000, "vor dem Start löst jemand die Sensoren der Reihe nach aus",
+    zeile.zahl("--antippen", "MS", 0, 60000,
+               "vor dem Start löst jemand die Sensoren des IS-Befehls nacheinander aus (0, nie)",
                [&](std::int64_t n) { at.antippen = n; });
     zeile.haken("--zeilenende", "hinter jeder Meldung des Geräts CR und LF", at.zeilenende);
     zeile.text("--seriennummer", "TEXT", "Antwort auf die Frage danach", at.seriennummer);

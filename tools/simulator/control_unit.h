@@ -12,17 +12,17 @@
 namespace tarvel::simulator {
 
 struct control_unit_einstellung {
-    rennen_einstellung rennen;            ///< cars 1 to 8; more are left out
-    bool mit_sensor = true;               ///< passages tell the sensor; without, there is the finish line alone
-    bool status_kurz = false;             ///< status of 17 characters instead of 19
-    bool zaehlerbox = false;              ///< a lap counter box answers every other poll that finds no passage
-    bool tanken = true;                   ///< fuel goes down; else everybody stays full
-    int tank_voll = 14;                   ///< 1 to 15
-    zeit_ms fuelltakt = 250;              ///< ms a step of fuel in the pit
-    zeit_ms lampentakt = 1000;            ///< ms from lamp to lamp; green follows the fifth
-    int vorspann_promille = 0;            ///< answers in a thousand that have "#" or "?#" in front
-    std::vector<zeit_ms> tastendruecke;   ///< presses of the start key at the unit itself, ms since its first moment
-    std::string versionstext = "0S100$";  ///< answer to the question for the version
+    rennen_einstellung rennen;             ///< cars 1 to 8; more are left out
+    bool mit_sensor = true;                ///< passages tell the sensor; without, there is the finish line alone
+    bool status_kurz = false;              ///< status of 17 characters instead of 19
+    bool zaehlerbox = false;               ///< a lap counter box answers every other poll that finds no passage
+    bool tanken = true;                    ///< fuel goes down; else everybody stays full
+    int tank_voll = 14;                    ///< 1 to 15
+    zeit_ms fuelltakt = 250;               ///< ms a step of fuel in the pit, at least 1
+    zeit_ms lampentakt = 1000;             ///< ms from lamp to lamp, at least 1; green follows the fifth
+    int vorspann_promille = 0;             ///< answers in a thousand that have "#" or "?#" in front
+    std::vector<zeit_ms> tastendruecke{};  ///< presses of the start key at the unit itself, ms since its first moment
+    std::string versionstext = "0S100$";   ///< answer to the question for the version
 };
 
 /// A Control Unit: a digital track's central box, which answers when it is polled.

@@ -10,9 +10,9 @@ using namespace tarvel::simulator;
 
 void eigene_optionen(kommandozeile& zeile, flotte& wagen, control_unit_einstellung& cu, bool& ohne_tank,
                      bool& ohne_sensor) {
-    zeile.zahl("--verbrauch", "STUFEN", 0, 15, "Kraftstoff einer Runde",
+    zeile.zahl("--verbrauch", "STUFEN", 0, 15, "Kraftstoff einer Runde (1)",
                [&](std::int64_t n) { wagen.je_wagen.verbrauch = static_cast<int>(n); });
-    zeile.zahl("--tankvoll", "STUFEN", 1, 15, "Kraftstoff eines vollen Tanks",
+    zeile.zahl("--tankvoll", "STUFEN", 1, 15, "Kraftstoff eines vollen Tanks (14)",
                [&](std::int64_t n) { cu.tank_voll = static_cast<int>(n); });
     zeile.haken("--ohne-tank", "kein Kraftstoff wird verbraucht", ohne_tank);
     zeile.liste("--taste", "SEKUNDE[,SEKUNDE...]", 0, 86400, "dann wird die Starttaste am Gerät gedrückt",
@@ -21,12 +21,12 @@ void eigene_optionen(kommandozeile& zeile, flotte& wagen, control_unit_einstellu
                         cu.tastendruecke.push_back(sekunde * 1000);
                     }
                 });
-    zeile.zahl("--lampentakt", "MS", 1, 60000, "von Lampe zu Lampe der Startampel",
+    zeile.zahl("--lampentakt", "MS", 1, 60000, "von Lampe zu Lampe der Startampel (1000)",
                [&](std::int64_t n) { cu.lampentakt = n; });
     zeile.haken("--ohne-sensor", "Überfahrten ohne Sensornummer, 12 Zeichen", ohne_sensor);
     zeile.haken("--status17", "Status mit 17 Zeichen", cu.status_kurz);
     zeile.haken("--zaehlerbox", "mit Rundenzählerbox", cu.zaehlerbox);
-    zeile.zahl("--vorspann", "PROMILLE", 0, 1000, "so viele von tausend Antworten beginnen mit # oder ?#",
+    zeile.zahl("--vorspann", "PROMILLE", 0, 1000, "so viele von tausend Antworten beginnen mit # oder ?# (0)",
                [&](std::int64_t n) { cu.vorspann_promille = static_cast<int>(n); });
 }
 

@@ -15,8 +15,8 @@ void geraet::weiter(zeit_ms jetzt) {
     while (zuletzt_ < jetzt) {
         ++zuletzt_;
         ++uhr_;
-        schritt();
         feld_.schritt(uhr_);
+        schritt();
     }
 }
 

@@ -45,7 +45,7 @@ public:
     zeit_ms uhr() const { return uhr_; }
 
 protected:
-    /// One millisecond has passed on the device's clock; the cars have not moved yet.
+    /// One millisecond has passed on the device's clock, and the cars have moved.
     virtual void schritt() = 0;
     virtual void wagen_meldet(const wagen_ereignis& was) = 0;
 

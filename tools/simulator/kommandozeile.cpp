@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::int64_t tag_s = 86400;
 constexpr std::int64_t stunde_ms = 3600000;
-constexpr int langsamer_je_spur_ms = 130;
+constexpr zeit_ms langsamer_je_spur = 130;
+constexpr zeit_ms weiter_hinten_je_spur = 20;
 
 bool zahl_lesen(std::string_view text, std::int64_t von, std::int64_t bis, std::int64_t& ziel) {
     const char* const ende = text.data() + text.size();
@@ -114,8 +115,8 @@ std::vector<wagen_einstellung> flotte::wagen() const {
     for (int spur = 1; spur <= spuren; ++spur) {
         wagen_einstellung w = je_wagen;
         const auto genannt = std::min(static_cast<int>(rundenzeiten.size()), spur);
-        w.rundenzeit = rundenzeiten.at(static_cast<std::size_t>(genannt - 1)) + (spur - genannt) * langsamer_je_spur_ms;
-        w.anfahrt += spur * 20;
+        w.rundenzeit = rundenzeiten.at(static_cast<std::size_t>(genannt - 1)) + (spur - genannt) * langsamer_je_spur;
+        w.anfahrt += spur * weiter_hinten_je_spur;
         w.fruehstart = std::find(fruehstarter.begin(), fruehstarter.end(), spur) != fruehstarter.end();
         for (int i = sektoren; i < 2; ++i) {
             w.sektoren.at(static_cast<std::size_t>(i)) = -1;
@@ -127,33 +128,35 @@ std::vector<wagen_einstellung> flotte::wagen() const {
 
 static void wagenoptionen(kommandozeile& zeile, int spuren_max, flotte& wagen) {
     wagen_einstellung& w = wagen.je_wagen;
-    zeile.zahl("--spuren", "ZAHL", 1, spuren_max, "so viele Wagen fahren",
+    zeile.zahl("--spuren", "ZAHL", 1, spuren_max, "so viele Wagen fahren (" + std::to_string(wagen.spuren) + ")",
                [&](std::int64_t n) { wagen.spuren = static_cast<int>(n); });
-    zeile.liste("--rundenzeit", "MS[,MS...]", 100, stunde_ms, "Rundenzeit, je Spur oder für alle",
+    zeile.liste("--rundenzeit", "MS[,MS...]", 100, stunde_ms, "Rundenzeit, je Spur oder für alle (8000)",
                 [&](const auto& n) { wagen.rundenzeiten = n; });
-    zeile.zahl("--streuung", "MS", 0, stunde_ms, "so viel weicht eine Runde höchstens ab",
+    zeile.zahl("--streuung", "MS", 0, stunde_ms, "so viel weicht eine Runde höchstens ab (300)",
                [&](std::int64_t n) { w.streuung = n; });
-    zeile.zahl("--reaktion", "MS", 0, stunde_ms, "von Grün bis zum Losfahren", [&](std::int64_t n) { w.reaktion = n; });
+    zeile.zahl("--reaktion", "MS", 0, stunde_ms, "von Grün bis zum Losfahren (250)",
+               [&](std::int64_t n) { w.reaktion = n; });
     zeile.liste("--fruehstart", "SPUR[,SPUR...]", 1, spuren_max, "diese Wagen fahren bei Rot los",
                 [&](const auto& n) { wagen.fruehstarter = n; });
-    zeile.zahl("--sektoren", "0|1|2", 0, 2, "Sensoren zwischen zwei Überfahrten der Ziellinie",
+    zeile.zahl("--sektoren", "0|1|2", 0, 2, "Sensoren zwischen zwei Überfahrten der Ziellinie (2)",
                [&](std::int64_t n) { wagen.sektoren = static_cast<int>(n); });
-    zeile.zahl("--stopp", "RUNDEN", 0, 10000, "nach so vielen Runden wird getankt, 0 nie",
+    zeile.zahl("--stopp", "RUNDEN", 0, 10000, "nach so vielen Runden wird getankt, 0 nie (0)",
                [&](std::int64_t n) { w.runden_je_stopp = static_cast<int>(n); });
-    zeile.zahl("--standzeit", "MS", 0, stunde_ms, "Dauer eines Tankstopps", [&](std::int64_t n) { w.standzeit = n; });
-    zeile.zahl("--chaos", "PROMILLE", 0, 1000, "in so vielen von tausend Runden wird Chaos gedrückt",
+    zeile.zahl("--standzeit", "MS", 0, stunde_ms, "Dauer eines Tankstopps (3000)",
+               [&](std::int64_t n) { w.standzeit = n; });
+    zeile.zahl("--chaos", "PROMILLE", 0, 1000, "in so vielen von tausend Runden wird Chaos gedrückt (0)",
                [&](std::int64_t n) { w.chaos_promille = static_cast<int>(n); });
 }
 
 void gemeinsame_optionen(kommandozeile& zeile, int spuren_max, flotte& wagen, rennen_einstellung& rennen,
                          lauf_einstellung& lauf) {
     wagenoptionen(zeile, spuren_max, wagen);
-    zeile.zahl("--chaosdauer", "MS", 0, stunde_ms, "so lange dauert ein Chaos, 0: der Rennleiter beendet es",
+    zeile.zahl("--chaosdauer", "MS", 0, stunde_ms, "so lange dauert ein Chaos, 0: der Rennleiter beendet es (8000)",
                [&](std::int64_t n) { rennen.chaos_dauer = n; });
     zeile.haken("--sofort", "die Wagen fahren ohne Start", rennen.sofort);
-    zeile.zahl("--saat", "ZAHL", 0, INT32_MAX, "gleiche Saat, gleiches Rennen",
+    zeile.zahl("--saat", "ZAHL", 0, INT32_MAX, "gleiche Saat, gleiches Rennen (1)",
                [&](std::int64_t n) { rennen.saat = static_cast<std::uint64_t>(n); });
-    zeile.zahl("--uhr", "MS", 0, UINT32_MAX, "Stand der Geräteuhr am Anfang",
+    zeile.zahl("--uhr", "MS", 0, UINT32_MAX, "Stand der Geräteuhr am Anfang (0)",
                [&](std::int64_t n) { rennen.uhr_start = n; });
     zeile.zahl("--dauer", "SEKUNDEN", 0, tag_s, "danach endet der Simulator, sonst mit Strg+C",
                [&](std::int64_t n) { lauf.dauer_s = static_cast<int>(n); });
@@ -161,11 +164,11 @@ void gemeinsame_optionen(kommandozeile& zeile, int spuren_max, flotte& wagen, re
                [&](std::int64_t n) { lauf.abziehen_s = static_cast<int>(n); });
     zeile.zahl("--einstecken", "SEKUNDEN", 0, tag_s, "und dann wieder eingesteckt",
                [&](std::int64_t n) { lauf.einstecken_s = static_cast<int>(n); });
-    zeile.text("--ordner", "ORDNER", "Programmordner, in dem Anschluesse/COMn entsteht", lauf.ort.ordner);
-    zeile.zahl("--com", "NUMMER", 1, 20, "Nummer dieses Anschlusses",
+    zeile.text("--ordner", "ORDNER", "Programmordner, in dem Anschluesse/COMn entsteht (Tarvel)", lauf.ort.ordner);
+    zeile.zahl("--com", "NUMMER", 1, 20, "Nummer dieses Anschlusses (7)",
                [&](std::int64_t n) { lauf.ort.com = static_cast<int>(n); });
     zeile.text("--anschluss", "PORT", "stattdessen ein serieller Port, etwa /dev/ttyUSB0 oder COM5", lauf.ort.port);
-    zeile.zahl("--baud", "ZAHL", 4800, 115200, "dessen Geschwindigkeit",
+    zeile.zahl("--baud", "ZAHL", 4800, 115200, "dessen Geschwindigkeit (" + std::to_string(lauf.ort.baud) + ")",
                [&](std::int64_t n) { lauf.ort.baud = static_cast<int>(n); });
 }
 

@@ -94,7 +94,8 @@ zeit_ms wagenfeld::ziehen(lage& w, zeit_ms bis) {
 
 void wagenfeld::runde_beginnen(int nummer, lage& w) {
     // Every lap draws the same number of times, so that a setting changes nothing but its own subject.
-    const zeit_ms streuung = ziehen(w, w.einst.streuung) - ziehen(w, w.einst.streuung);
+    zeit_ms streuung = ziehen(w, w.einst.streuung);
+    streuung -= ziehen(w, w.einst.streuung);
     const bool chaos = ziehen(w, promille - 1) < w.einst.chaos_promille;
     const zeit_ms chaos_ort = ziehen(w, promille - 1);
     const zeit_ms dauer = std::max(w.einst.rundenzeit + streuung, kuerzeste_runde);
