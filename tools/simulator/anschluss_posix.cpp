@@ -77,7 +77,7 @@ struct anschluss::leitung {
 
     std::string port_oeffnen(const anschluss_ort& ort);
     std::string terminal_oeffnen(const anschluss_ort& ort);
-    std::string verweisen(const anschluss_ort& ort, const char* ziel);
+    std::string verweisen(const fs::path& pfad, const char* ziel);
 };
 
 std::string anschluss::leitung::port_oeffnen(const anschluss_ort& ort) {
@@ -90,6 +90,13 @@ std::string anschluss::leitung::port_oeffnen(const anschluss_ort& ort) {
 
 std::string anschluss::leitung::terminal_oeffnen(const anschluss_ort& ort) {
     pseudo = true;
+    const fs::path pfad = fs::path(ort.ordner) / "Anschluesse" / ("COM" + std::to_string(ort.com));
+    // A link that leads nowhere was left behind by a crash. The new terminal may take the number of the old one, so
+    // this is asked before there is one.
+    std::error_code fehler;
+    if (fs::exists(pfad, fehler)) {
+        return pfad.string() + " ist schon vergeben. Läuft dort kein Simulator, bitte die Datei löschen.";
+    }
     fd = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
     const char* ziel = nullptr;
     if (fd < 0 || grantpt(fd) != 0 || unlockpt(fd) != 0 || (ziel = ptsname(fd)) == nullptr) {
@@ -101,17 +108,12 @@ std::string anschluss::leitung::terminal_oeffnen(const anschluss_ort& ort) {
         return std::string(ziel) + ": " + std::strerror(errno);
     }
     close(andere);
-    return verweisen(ort, ziel);
+    return verweisen(pfad, ziel);
 }
 
-std::string anschluss::leitung::verweisen(const anschluss_ort& ort, const char* ziel) {
-    const fs::path pfad = fs::path(ort.ordner) / "Anschluesse" / ("COM" + std::to_string(ort.com));
+std::string anschluss::leitung::verweisen(const fs::path& pfad, const char* ziel) {
     std::error_code fehler;
     fs::create_directories(pfad.parent_path(), fehler);
-    // A link that leads nowhere was left behind by a simulator that crashed.
-    if (fs::exists(pfad, fehler)) {
-        return pfad.string() + " ist schon vergeben.";
-    }
     fs::remove(pfad, fehler);
     fs::create_symlink(ziel, pfad, fehler);
     if (fehler) {
