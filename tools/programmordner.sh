@@ -8,11 +8,15 @@ pakete_sicherstellen "${PAKETE_BAU[@]}"
 
 # A newer compiler may know new warnings; they must not keep anybody from racing.
 cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" >/dev/null
-cmake --build --preset release --target tarvel
+cmake --build --preset release --target tarvel cu_simulator at2560_simulator
 
 mkdir -p Tarvel
 cp -f build/release/ui/tarvel Tarvel/tarvel.neu
 mv -f Tarvel/tarvel.neu Tarvel/tarvel
+mkdir -p Tarvel/Werkzeuge
+for werkzeug in cu_simulator at2560_simulator; do
+    cp -f --remove-destination "build/release/tools/simulator/$werkzeug" Tarvel/Werkzeuge/
+done
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
         if [ -e "Tarvel/$datei" ]; then

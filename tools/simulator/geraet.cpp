@@ -1,0 +1,35 @@
+#include "tools/simulator/geraet.h"
+
+namespace tarvel::simulator {
+
+geraet::geraet(const rennen_einstellung& rennen)
+    : feld_(rennen.wagen, rennen.saat), uhr_start_(rennen.uhr_start), uhr_(rennen.uhr_start) {
+    feld_.bei_ereignis = [this](const wagen_ereignis& was) { wagen_meldet(was); };
+}
+
+void geraet::weiter(zeit_ms jetzt) {
+    if (!gestellt_) {
+        gestellt_ = true;
+        zuletzt_ = jetzt;
+    }
+    while (zuletzt_ < jetzt) {
+        ++zuletzt_;
+        ++uhr_;
+        feld_.schritt(uhr_);
+        schritt();
+    }
+}
+
+void geraet::hinaus(std::string_view bytes) const {
+    if (senden) {
+        senden(bytes);
+    }
+}
+
+void geraet::sagen(std::string_view zeile) const {
+    if (melden) {
+        melden(zeile);
+    }
+}
+
+}  // namespace tarvel::simulator
