@@ -222,13 +222,12 @@ void control_unit::rennbetrieb(bool an) {
 void control_unit::rennfenster_offen() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
-    nach_rennende_ = false;
     chaos_durch_box_ = false;
     if (!port_->offen()) {
         bewirkt.port_fehlt();
         return;
     }
-    if (!im_startzustand()) {  // the reset would throw out who has pressed the key already
+    if (!im_startzustand() || nach_rennende_) {  // the reset would throw out who has pressed the key already
         senden(programmierung_ruecksetzen);
         senden(anzeigen_ruecksetzen);
     }

@@ -106,7 +106,7 @@ void rennablauf::rennstart_vorbereiten() {
     if (um_.einst.nachtrennen_modus > 0) {
         t_.ansicht.bildschirm_dunkel();
     }
-    if (um_.einst.start_ampel_modus == 0) {
+    if (um_.einst.start_ampel_modus == 0 && um_.quellen.ampel() == nullptr) {
         rennen_starten();
     } else {
         um_.fenster.zeigen("Form2");

@@ -139,16 +139,16 @@ TEST(ControlUnit, StempelUndSaetze) {
     EXPECT_EQ(p.fragen(anfrage), "?:>>>>>>>>01000000$");
     p.laufen(3500);
     ASSERT_EQ(p.von(1).front().stempel, 0x1000000F9);
-    EXPECT_EQ(p.fragen(anfrage), "?10000009?1$") << "the counter has begun anew";
+    EXPECT_EQ(p.fragen(anfrage), "?10000009?19$") << "the counter has begun anew";
     EXPECT_EQ(p.fragen("\"?\"?x\r?\r") + p.fragen("\"J?\r\"T2P"), "");
-    EXPECT_EQ(p.fragen(anfrage), "?10000;0162$") << "the sector was waiting";
+    EXPECT_EQ(p.fragen(anfrage), "?10000;01624$") << "the sector was waiting";
     EXPECT_EQ(p.fragen("\"?0") + p.fragen("\"0"), "0S100$0S100$");
 
     cu.mit_sensor = false;
     cu.status_kurz = cu.zaehlerbox = true;
     cu_probe kurz(cu);
     kurz.laufen(5000);
-    EXPECT_EQ(kurz.fragen(anfrage), "?10000009?$");
+    EXPECT_EQ(kurz.fragen(anfrage), "?10000009?8$");
     EXPECT_EQ(kurz.fragen(anfrage), "?10$");
     EXPECT_EQ(kurz.fragen(anfrage), "?:>>>>>>>>010000$");
     kurz.g.empfangen(starttaste);

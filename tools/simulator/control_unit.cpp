@@ -17,6 +17,15 @@ char nibblezeichen(unsigned nibble) {
     return static_cast<char>('0' + (nibble & 15U));
 }
 
+/// A passage has one more place in front of its end, on which nothing is said: the sum of what stands before it.
+char summenzeichen(const std::string& satz) {
+    unsigned summe = 0;
+    for (const char zeichen : satz) {
+        summe += static_cast<unsigned char>(zeichen);
+    }
+    return nibblezeichen(summe);
+}
+
 control_unit_einstellung passend(control_unit_einstellung einst, std::size_t wagen_max) {
     if (einst.rennen.wagen.size() > wagen_max) {
         einst.rennen.wagen.resize(wagen_max);
@@ -139,6 +148,7 @@ void control_unit::ueberfahrt_melden(const wagen_ereignis& was) {
     if (einst_.mit_sensor) {
         satz += nibblezeichen(static_cast<unsigned>(was.sensor));
     }
+    satz += summenzeichen(satz);
     wartend_.push_back(satz + '$');
 }
 

@@ -1,0 +1,409 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "hardware/cu_protokoll.h"
+#include "tests/plattform/testprogramm.h"
+#include "tools/simulator/control_unit.h"
+
+namespace tarvel::test {
+namespace {
+
+constexpr int com = 7;
+
+TEST(CuProtokoll, StempelPruefzeichenUndAnzeige) {
+    EXPECT_EQ(cu::stempel_lesen("01234567"), 0x10325476U);
+    EXPECT_EQ(cu::stempel_lesen(":;<=>?00"), 0xBADCFE00U);
+    EXPECT_EQ(cu::stempel_lesen("0123456@"), std::nullopt);
+    EXPECT_EQ(cu::pruefzeichen("201"), '8');
+    EXPECT_EQ(cu::pruefzeichen("2:1"), '8');
+    using befehle = std::array<std::string, 2>;
+    EXPECT_EQ(cu::anzeigebefehle(5), (befehle{"J1?0511$", "J2?0511$"}));
+    EXPECT_EQ(cu::anzeigebefehle(250), (befehle{"J1?OJ13$", "J2?OJ13$"}));
+    EXPECT_EQ(cu::anzeigebefehle(251), (befehle{"J1?3312$", "J2?3312$"}));  // 51
+}
+
+TEST(CuProtokoll, JederSatzAuchHinterRauschen) {
+    const std::string stempel = "01234567";
+    cu::status voll;
+    voll.tank = {{15, 14, 0, 1, 2, 15}};
+    voll.startzustand = true;
+    voll.tankmodus = 2;
+    voll.boxenbits = 0x1F;
+    const std::vector<std::pair<std::string, cu::meldung>> saetze{
+        {"?3" + stempel + "2x$", cu::ueberfahrt{3, 2, 0x10325476}},
+        {"?8" + stempel + "x$", cu::ueberfahrt{8, 1, 0x10325476}},
+        {"?:?>012?00"
+         "12"
+         "?1"
+         "0000$",
+         voll},
+        {"?:?>012?00"
+         "12"
+         "?1"
+         "00$",
+         voll},
+    };
+    for (const auto& [satz, inhalt] : saetze) {
+        EXPECT_EQ(cu::satz_lesen(satz), inhalt) << satz;
+        for (const std::string rauschen : {"x", "\xFF\x01", "?30123", "?", "abcdef0123456789", "?:0"}) {
+            EXPECT_EQ(cu::satz_lesen(rauschen + satz), inhalt) << rauschen << satz;
+        }
+    }
+    EXPECT_EQ(cu::satz_lesen("?0x$"), cu::meldung(cu::rundenzaehler_bereit{}));
+    const std::vector<std::string> kein_satz{
+        "?9" + stempel + "1x$", "?1" + stempel + "4x$", "?10123x56711$", "$", "?1x$", "??$"};
+    for (const std::string& falsch : kein_satz) {
+        EXPECT_EQ(cu::satz_lesen(falsch), cu::meldung()) << falsch;
+    }
+}
+
+TEST(CuProtokoll, AbtrennenAnJedemByte) {
+    const std::string strom = "?#?10123456711$##?20123456711$?#?#?30123456711$rest";
+    for (std::size_t schnitt = 0; schnitt <= strom.size(); ++schnitt) {
+        std::string empfang = strom.substr(0, schnitt);
+        std::string gelesen;
+        for (int i = 0; i < 2; ++i) {
+            for (std::string satz = cu::satz_abtrennen(empfang); !satz.empty(); satz = cu::satz_abtrennen(empfang)) {
+                gelesen += satz[1];
+            }
+            empfang += i == 0 ? strom.substr(schnitt) : "";
+        }
+        EXPECT_EQ(gelesen, "123") << schnitt;
+        EXPECT_EQ(empfang, "rest");
+    }
+}
+
+/// A program with a Control Unit at COM7; what the unit says is up to the test.
+struct ControlUnitRennen : testing::Test {
+    ControlUnitRennen() {
+        t.maschine.anschluesse.da = {com};
+        t.p.einst.hardware = {};
+        t.p.einst.hardware.hw_cu = true;
+        t.p.einst.cu_modus = com;
+        t.p.einst.cu_sondermodus = false;
+        t.p.geraete.hardware_starten();
+    }
+    void senden(std::string_view bytes) {
+        t.maschine.anschluesse.senden(com, bytes);
+        t.maschine.laufen(3);
+    }
+    int geschrieben(std::string_view befehl) {
+        const std::string& alles = t.maschine.anschluesse.geschrieben[com];
+        const std::string gesucht = "\"" + std::string(befehl);
+        int anzahl = 0;
+        for (std::size_t ort = alles.find(gesucht); ort != std::string::npos; ort = alles.find(gesucht, ort + 1)) {
+            ++anzahl;
+        }
+        return anzahl;
+    }
+    void status(bool steht, std::string_view tank = "555555", char modus = '0') {
+        senden("?:" + std::string(tank) + "00" + (steht ? '1' : '0') + modus + "000000$");
+    }
+    void ueberfahrt(int wagen, std::uint32_t stempel, int sensor = 1) {
+        senden("?" + std::to_string(wagen) + simulator::control_unit::stempeltext(stempel) + std::to_string(sensor) +
+               "0$");
+    }
+    /// Start at the unit's own key, up to its green.
+    void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+        t.einrichten(rennart, dauer, lanes);
+        t.p.einst.start_ampel_modus = 1;
+        status(false);
+        t.bahn().Command1.klicken();
+        t.maschine.laufen(1000);
+        status(true);
+        t.maschine.laufen(3000);
+        status(false);
+        t.maschine.laufen(2500);
+    }
+
+    testprogramm t;
+};
+
+TEST_F(ControlUnitRennen, DerStempelDesGeraetsStehtImEreignisUndWagen7und8GehenNirgendsHin) {
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(7, 5000);
+    ueberfahrt(8, 5000, 3);
+    for (int nummer = 0; nummer < ereignis_tabelle::zeilen_anzahl; ++nummer) {
+        EXPECT_FALSE(t.p.ereignisse[nummer].aktiv) << nummer;
+    }
+    ueberfahrt(6, 123456);
+    EXPECT_TRUE(t.p.ereignisse[35].aktiv);
+    EXPECT_EQ(t.p.ereignisse[35].ereignis_zeit, 123456);
+    ueberfahrt(2, 123460, 2);
+    EXPECT_EQ(t.p.ereignisse[44].ereignis_zeit, 123460);
+    ueberfahrt(4, 0xFFFFFFFF, 3);
+    EXPECT_EQ(t.p.ereignisse[49].ereignis_zeit, 0xFFFFFFFF);
+    ueberfahrt(4, 15, 3);  // the unit's clock has overflowed
+    EXPECT_EQ(t.p.ereignisse[49].ereignis_zeit, 0x10000000FLL);
+}
+
+TEST_F(ControlUnitRennen, DieErsteUeberfahrtBringtAlleZeitenAufDieUhrDesGeraets) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    t.maschine.laufen(2000);
+    ueberfahrt(1, 900000);  // 4.5 s after green
+    t.maschine.laufen(10000 - 3);
+    ueberfahrt(1, 910000);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 10000);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 0)), 4500, 5);
+    EXPECT_EQ(t.bahn().uhr1.minuten.text() + t.bahn().uhr1.sekunden.text(), "0014");
+    t.taste("2");  // by hand, on the same clock
+    t.maschine.laufen(6999);
+    t.taste("2");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 7000);
+    // the unit was switched off and on: its clock begins anew
+    t.maschine.laufen(3000 - 3);
+    ueberfahrt(1, 100);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 2)), 10000, 5);
+    t.maschine.laufen(6000 - 3);
+    ueberfahrt(1, 6100);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 3), 6000);
+}
+
+TEST_F(ControlUnitRennen, TankStandUndWarnung) {
+    t.p.form1.t_aktiv.gesetzt(true);
+    t.p.einst.sound_an = true;
+    t.p.einst.cu_tankautomatik = false;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.maschine.sounds.clear();
+    status(false, "70>555");
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "30,00");
+    EXPECT_EQ(t.bahn().t_bahn[3].text(), "60,00");
+    EXPECT_TRUE(t.maschine.sounds.empty());
+    status(false, "10>555");
+    EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[25]});
+    t.maschine.sounds.clear();
+    status(false, "00>555");
+    status(false, "00>555");
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "0,00");
+    EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[31]});
+}
+
+TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
+    t.p.einst.cu_tankautomatik = true;
+    t.p.form1.t_aktiv.gesetzt(false);
+    t.maschine.laufen(600);
+    EXPECT_EQ(t.p.form1.cu_label.text(), "antwortet nicht");
+    senden("?:55555500010");  // never ends: thrown away, so that the next record is understood
+    t.maschine.laufen(10200);
+    status(false, "555555", '1');
+    t.maschine.laufen(600);
+    EXPECT_TRUE(t.p.form1.t_aktiv.gesetzt());
+    EXPECT_EQ(t.p.form1.cu_label.text(), "verbunden");
+}
+
+TEST_F(ControlUnitRennen, RennfensterRichtetEinUndOhnePortBleibtDieTastatur) {
+    t.einrichten(t.p.txt.text_runden, "10", {1});
+    EXPECT_EQ(geschrieben("J60980$"), 1);
+    EXPECT_EQ(geschrieben("=101$"), 1);
+    EXPECT_EQ(geschrieben("J2:1518$"), 1);
+    t.bahn().Command2.klicken();
+    t.maschine.anschluesse.abziehen(com);
+    t.starten(t.p.txt.text_runden, "10", {1});
+    ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, t.p.txt.meldung[14]);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+}
+
+TEST_F(ControlUnitRennen, DieAnzeigeZaehltDieRundenDesFuehrendenHerunter) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    t.maschine.laufen(6000);
+    ueberfahrt(2, 7000);
+    t.maschine.laufen(1000);
+    t.maschine.anschluesse.geschrieben.clear();
+    ueberfahrt(1, 8000);
+    EXPECT_EQ(geschrieben("J1?0991$") + geschrieben("J1?0915$"), 1);  // 9 laps to go
+    t.maschine.laufen(6000);
+    ueberfahrt(2, 14000);
+    t.maschine.laufen(6000);
+    ueberfahrt(2, 20000);
+    EXPECT_GE(geschrieben("J621"), 1);  // lane 2 leads: its place on the tower
+    EXPECT_GE(geschrieben("J602"), 1);
+}
+
+TEST_F(ControlUnitRennen, StartAmGeraet) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_FALSE(t.bahn().Command3.bedienbar()) << "paused at the unit, as it was started there";
+    EXPECT_EQ(geschrieben("T2P$"), 0);
+}
+
+TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaelltAuf) {
+    t.p.einst.cu_sondermodus = true;
+    t.p.einst.fruehstart_option = 5;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    status(false);
+    ueberfahrt(2, 5000);  // rolls to the start
+    t.bahn().Command1.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    status(true);
+    t.maschine.laufen(2000);
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    EXPECT_EQ(t.p.startampel.fenster.ampelbild[0].datei(), "ampel/rt_an.gif");
+    ueberfahrt(1, 6000);
+    EXPECT_TRUE(t.p.startampel.fenster.Label_fruehstart.sichtbar());
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.spur(1).strafzeit, t.p.einst.fruehstart_schritte);
+    EXPECT_EQ(t.spur(2).strafzeit, 0);
+    t.maschine.laufen(2100);
+    EXPECT_TRUE(t.bahn().Command3.bedienbar());
+}
+
+TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
+    t.p.einst.cu_sondermodus = true;
+    t.einrichten(t.p.txt.text_runden, "2", {1});
+    t.p.einst.start_ampel_modus = 1;
+    status(true);
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    t.maschine.laufen(2500);
+    EXPECT_EQ(geschrieben("T2P$"), 1);  // the unit is stopped already: only its light is started
+    status(false);
+    t.maschine.laufen(100);
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(50);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    t.maschine.laufen(100);
+    EXPECT_EQ(geschrieben("T2P$"), 2);  // stops the cars
+    status(true);
+    t.p.auswertung.Command2.klicken();
+    status(true);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nobody has pressed for a new race";
+}
+
+TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    t.maschine.laufen(4000 - 3);
+    status(true);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
+    t.maschine.laufen(20000 - 3);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
+    t.maschine.laufen(3000 - 3);
+    ueberfahrt(1, 28000);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1)), 7000, 10);
+    EXPECT_EQ(geschrieben("T2P$"), 0);
+}
+
+TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    t.taste("c");
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    status(true);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(4000);
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << "the cars still stand";
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, InDerPauseAbgezogenGehtEsMitDerTastaturWeiter) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    t.taste("c");
+    status(true);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(7100);  // the program's own light
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.maschine.laufen(10000);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
+TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    std::mt19937 zufall(7);
+    for (int i = 0; i < 2000; ++i) {
+        std::string bytes(500, '\0');
+        for (char& zeichen : bytes) {
+            zeichen = static_cast<char>(zufall() % 8 == 0 ? zufall() % 256 : '!' + zufall() % 32);
+        }
+        t.maschine.anschluesse.senden(com, bytes);
+        if (i % 10 == 0) {
+            t.maschine.laufen(1);
+        }
+    }
+    t.maschine.anschluesse.senden(com, "$");
+    t.maschine.laufen(4200);  // one record a tick
+    ueberfahrt(5, 123456);
+    EXPECT_TRUE(t.p.ereignisse[34].aktiv);
+    EXPECT_EQ(t.p.ereignisse[34].ereignis_zeit, 123456);
+}
+
+/// The program against the simulated unit, on one clock, over a line of 19200 baud: two characters a millisecond.
+struct GegenDenSimulator : ControlUnitRennen {
+    void anschliessen(const simulator::control_unit_einstellung& einst) {
+        geraet = std::make_unique<simulator::control_unit>(einst);
+        geraet->senden = [this](std::string_view bytes) { leitung += bytes; };
+        t.maschine.anschluesse.geraet = [this](int /*com*/, std::string_view bytes) { geraet->empfangen(bytes); };
+    }
+    void laufen(zeit_ms dauer) {
+        for (; dauer > 0; --dauer) {
+            geraet->weiter(t.maschine.jetzt());
+            if (!leitung.empty()) {
+                t.maschine.anschluesse.senden(com, leitung.substr(0, 2));
+                leitung.erase(0, 2);
+            }
+            t.maschine.laufen(1);
+        }
+    }
+    /// Stamps of the finish line, car by car.
+    std::vector<zeit_ms> ueberfahrten(int wagen) const {
+        std::vector<zeit_ms> stempel;
+        for (const simulator::ueberfahrt& fahrt : geraet->fahrten()) {
+            if (fahrt.wagen == wagen && fahrt.sensor == 1) {
+                stempel.push_back(fahrt.stempel);
+            }
+        }
+        return stempel;
+    }
+
+    std::unique_ptr<simulator::control_unit> geraet;
+    std::string leitung;
+};
+
+TEST_F(GegenDenSimulator, DreissigMinutenJedeRundeAufDieMillisekunde) {
+    simulator::control_unit_einstellung einst;
+    einst.rennen.wagen.resize(6);
+    einst.rennen.uhr_start = 0xFFFFFFFF - 600000;  // its clock overflows in the race
+    einst.vorspann_promille = 100;
+    anschliessen(einst);
+    t.p.einst.cu_sondermodus = true;
+    t.p.einst.fruehstart_option = 0;
+    t.p.einst.zielmodus_erster = true;
+    t.einrichten(t.p.txt.text_zeit, "30", {1, 2, 3, 4, 5, 6});
+    t.p.einst.start_ampel_modus = 1;
+    laufen(500);
+    t.bahn().Command1.klicken();
+    laufen(zeit_ms{32} * 60 * 1000);
+    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    for (const int spur : alle_spuren) {
+        const std::vector<zeit_ms> stempel = ueberfahrten(spur);
+        const int runden = t.spur(spur).runden;
+        ASSERT_GT(runden, 200);
+        ASSERT_LE(static_cast<std::size_t>(runden), stempel.size());
+        for (int runde = 1; runde <= runden; ++runde) {
+            const auto i = static_cast<std::size_t>(runde);
+            ASSERT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
+                << spur << " " << runde;
+        }
+        const zeit_ms letzte = stempel[static_cast<std::size_t>(runden)];
+        EXPECT_GT(letzte + 8500, t.p.rennen.zustand.renn_ende_zeit) << "a lap is missing at the end";
+    }
+}
+
+}  // namespace
+}  // namespace tarvel::test
