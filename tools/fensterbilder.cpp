@@ -1,4 +1,5 @@
-// Draws the program's windows in given states, without a screen: fensterbilder <folder> [<size>] [<scene>...]
+// Draws the program's windows in given states: fensterbilder <folder> [<size>] [<scene>...]
+// Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 
 #include <QApplication>
@@ -18,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}};
+const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}, {3840, 2160}};
 
 /// A program with its windows on a virtual clock, and a club that drives.
 struct buehne {
@@ -123,6 +124,7 @@ QWidget& ampel(buehne& b) {
 }
 
 QWidget& pause(buehne& b) {
+    b.p.einst.chaosampel_an = false;  // its window hides the bars
     b.rennen(40000);
     b.t.bahn().Command3.klicken();
     b.t.maschine.laufen(3000);
@@ -131,8 +133,19 @@ QWidget& pause(buehne& b) {
 
 QWidget& tanken(buehne& b) {
     b.p.form1.t_aktiv.gesetzt(true);
-    b.p.einst.tank_inhalt = 20;
-    b.rennen(52000);
+    b.p.einst.tank_inhalt = 60;
+    b.rennen(31000);
+    return b.o.bahn1;
+}
+
+/// One lane that pauses, in the view of its own.
+QWidget& pause_allein(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    b.einrichten("Runden", "30", {3});
+    b.t.bahn().Command1.klicken();
+    b.fahren(40000);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
     return b.o.bahn1;
 }
 
@@ -181,8 +194,32 @@ const std::vector<szeneneintrag> szenen{
          b.rennen(64000);
          return b.o.bahn1;
      }},
+    {"rennen_drei_spuren",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.grosse_zeit = true;
+         b.einrichten("Runden", "30", {1, 3, 5});
+         b.t.bahn().Command1.klicken();
+         b.fahren(64000);
+         return b.o.bahn1;
+     }},
     {"rennen_tanken", tanken},
+    {"rennen_tanken_liter",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.tankanzeige_grafisch = false;
+         return tanken(b);
+     }},
+    {"rennen_tanken_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         return tanken(b);
+     }},
     {"rennen_pause", pause},
+    {"rennen_pause_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         return pause(b);
+     }},
+    {"rennen_pause_eine_spur", pause_allein},
     {"rennen_nachlauf",
      [](buehne& b) -> QWidget& {
          b.p.einst.zielmodus_erster = false;
@@ -288,7 +325,9 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
 }  // namespace tarvel
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     tarvel::ui::stil::anwenden(anwendung);
