@@ -3,6 +3,7 @@
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 #include <algorithm>
 #include <array>
@@ -24,8 +25,6 @@ const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 108
 /// A program with its windows on a virtual clock, and a club that drives.
 struct buehne {
     buehne() {
-        const fs::path daten = TARVEL_QUELLEN "/data";
-        fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
         constexpr std::array<const char*, spuren_max> namen{"Anna",         "Ben Olsen",    "Carl-Friedrich von Gauß",
                                                             "Dora Schmidt", "Emil Lindner", "Frieda"};
         for (const int spur : alle_spuren) {  // the club's drivers look like those of a fresh installation
@@ -53,6 +52,13 @@ struct buehne {
         p.einst.runde_beenden = false;
         t.mit_bestzeiten = true;
         p.fenster.zeigen("Form1");
+    }
+
+    /// The program once its files are there: some windows read them when they are made.
+    static programm& mit_daten(test::testprogramm& t) {
+        const fs::path daten = TARVEL_QUELLEN "/data";
+        fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        return t.p;
     }
 
     /// Sets up a race on these lanes and opens its window.
@@ -100,7 +106,7 @@ struct buehne {
     }
 
     test::testprogramm t;
-    programm& p = t.p;
+    programm& p = mit_daten(t);
     ui::Oberflaeche o{p};
 
 private:
@@ -229,6 +235,11 @@ const std::vector<szeneneintrag> szenen{
          return b.o.bahn1;
      }},
     {"startampel", ampel, true},
+    {"startampel_im_rennen",
+     [](buehne& b) -> QWidget& {
+         ampel(b);
+         return b.o.bahn1;
+     }},
     {"kleine_ampel",
      [](buehne& b) -> QWidget& {
          b.ergebnis("8", {1, 2, 3});
@@ -303,6 +314,16 @@ const std::vector<szeneneintrag> szenen{
      true},
 };
 
+/// The window, and the light that stands in front of it.
+QPixmap aufnehmen(buehne& b, QWidget& fenster) {
+    QPixmap bild = fenster.grab();
+    if (&fenster == &b.o.bahn1 && b.o.form2.isVisible()) {
+        b.o.form2.aufschlagen();  // again, for the window has another size now
+        QPainter(&bild).drawPixmap(b.o.form2.pos() - fenster.pos(), b.o.form2.grab());
+    }
+    return bild;
+}
+
 bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen) {
     buehne b;
     QWidget& fenster = gewuenscht.zeigen(b);
@@ -316,7 +337,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
         const QString masse = QString("%1x%2").arg(groesse.width()).arg(groesse.height());
         const QString datei = ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
-        gut = fenster.grab().save(datei) && gut;
+        gut = aufnehmen(b, fenster).save(datei) && gut;
     }
     return gut;
 }
