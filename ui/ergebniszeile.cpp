@@ -14,7 +14,6 @@ namespace {
 // font sizes in pixels at scale 1
 constexpr double schrift_platz = 46;
 constexpr double schrift_name = 28;
-constexpr double schrift_runden = 30;
 constexpr double schrift_wert = 28;
 constexpr double schrift_zusatz = 15;
 constexpr double schrift_titel = 13;
@@ -115,11 +114,8 @@ QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
 
 QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     const std::size_t i = index_;
-    const zelle_teile teile =
-        zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_runden}, binder);
-    TextAnzeige* meter = binder.anzeige(logik_.ges_meter[i], nummeriert("ges_meter"), schrift_zusatz);
-    meter->setAusrichtung(links_mitte);
-    teile.zusatz->addWidget(meter, 1);
+    const zelle_teile teile = zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_wert}, binder);
+    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 1);
     return teile.feld;
 }
 
