@@ -100,8 +100,8 @@ void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, lage& g) 
     const rechteck feld = mittig(ort, 0.9 * ort.breite);
     const double teil = feld.hoehe / (inhalt.bestzeit ? 27.0 : 23.0);
     zuschnitt stapel(feld);
-    mit_titel(stapel.oben(13 * teil), 3 * teil, g[t::Label_lrunde], g[t::lrunde]);
-    mit_titel(stapel.oben(10 * teil), 3 * teil, g[t::Label_brunde], g[t::brunde]);
+    mit_titel(stapel.oben(13 * teil), 4 * teil, g[t::Label_lrunde], g[t::lrunde]);
+    mit_titel(stapel.oben(10 * teil), 4 * teil, g[t::Label_brunde], g[t::brunde]);
     g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 4 * teil));
 }
 

@@ -1,7 +1,9 @@
-// Draws the program's windows in given states, without a screen: fensterbilder <folder> [<size>] [<scene>...]
+// Draws the program's windows in given states: fensterbilder <folder> [<size>] [<scene>...]
+// Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 #include <algorithm>
 #include <array>
@@ -18,13 +20,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}};
+const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}, {3840, 2160}};
 
 /// A program with its windows on a virtual clock, and a club that drives.
 struct buehne {
     buehne() {
-        const fs::path daten = TARVEL_QUELLEN "/data";
-        fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
         constexpr std::array<const char*, spuren_max> namen{"Anna",         "Ben Olsen",    "Carl-Friedrich von Gauß",
                                                             "Dora Schmidt", "Emil Lindner", "Frieda"};
         for (const int spur : alle_spuren) {  // the club's drivers look like those of a fresh installation
@@ -52,6 +52,13 @@ struct buehne {
         p.einst.runde_beenden = false;
         t.mit_bestzeiten = true;
         p.fenster.zeigen("Form1");
+    }
+
+    /// The program once its files are there: some windows read them when they are made.
+    static programm& mit_daten(test::testprogramm& t) {
+        const fs::path daten = TARVEL_QUELLEN "/data";
+        fs::copy(daten, t.maschine.ordner(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        return t.p;
     }
 
     /// Sets up a race on these lanes and opens its window.
@@ -99,7 +106,7 @@ struct buehne {
     }
 
     test::testprogramm t;
-    programm& p = t.p;
+    programm& p = mit_daten(t);
     ui::Oberflaeche o{p};
 
 private:
@@ -123,6 +130,7 @@ QWidget& ampel(buehne& b) {
 }
 
 QWidget& pause(buehne& b) {
+    b.p.einst.chaosampel_an = false;  // its window hides the bars
     b.rennen(40000);
     b.t.bahn().Command3.klicken();
     b.t.maschine.laufen(3000);
@@ -131,8 +139,19 @@ QWidget& pause(buehne& b) {
 
 QWidget& tanken(buehne& b) {
     b.p.form1.t_aktiv.gesetzt(true);
-    b.p.einst.tank_inhalt = 20;
-    b.rennen(52000);
+    b.p.einst.tank_inhalt = 60;
+    b.rennen(31000);
+    return b.o.bahn1;
+}
+
+/// One lane that pauses, in the view of its own.
+QWidget& pause_allein(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    b.einrichten("Runden", "30", {3});
+    b.t.bahn().Command1.klicken();
+    b.fahren(40000);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
     return b.o.bahn1;
 }
 
@@ -181,8 +200,32 @@ const std::vector<szeneneintrag> szenen{
          b.rennen(64000);
          return b.o.bahn1;
      }},
+    {"rennen_drei_spuren",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.grosse_zeit = true;
+         b.einrichten("Runden", "30", {1, 3, 5});
+         b.t.bahn().Command1.klicken();
+         b.fahren(64000);
+         return b.o.bahn1;
+     }},
     {"rennen_tanken", tanken},
+    {"rennen_tanken_liter",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.tankanzeige_grafisch = false;
+         return tanken(b);
+     }},
+    {"rennen_tanken_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         return tanken(b);
+     }},
     {"rennen_pause", pause},
+    {"rennen_pause_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         return pause(b);
+     }},
+    {"rennen_pause_eine_spur", pause_allein},
     {"rennen_nachlauf",
      [](buehne& b) -> QWidget& {
          b.p.einst.zielmodus_erster = false;
@@ -192,6 +235,11 @@ const std::vector<szeneneintrag> szenen{
          return b.o.bahn1;
      }},
     {"startampel", ampel, true},
+    {"startampel_im_rennen",
+     [](buehne& b) -> QWidget& {
+         ampel(b);
+         return b.o.bahn1;
+     }},
     {"kleine_ampel",
      [](buehne& b) -> QWidget& {
          b.ergebnis("8", {1, 2, 3});
@@ -266,6 +314,16 @@ const std::vector<szeneneintrag> szenen{
      true},
 };
 
+/// The window, and the light that stands in front of it.
+QPixmap aufnehmen(buehne& b, QWidget& fenster) {
+    QPixmap bild = fenster.grab();
+    if (&fenster == &b.o.bahn1 && b.o.form2.isVisible()) {
+        b.o.form2.aufschlagen();  // again, for the window has another size now
+        QPainter(&bild).drawPixmap(b.o.form2.pos() - fenster.pos(), b.o.form2.grab());
+    }
+    return bild;
+}
+
 bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen) {
     buehne b;
     QWidget& fenster = gewuenscht.zeigen(b);
@@ -279,7 +337,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
         const QString masse = QString("%1x%2").arg(groesse.width()).arg(groesse.height());
         const QString datei = ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
-        gut = fenster.grab().save(datei) && gut;
+        gut = aufnehmen(b, fenster).save(datei) && gut;
     }
     return gut;
 }
@@ -288,7 +346,9 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
 }  // namespace tarvel
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     tarvel::ui::stil::anwenden(anwendung);

@@ -6,19 +6,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 namespace {
 
 const QColor grund(13, 15, 18);
 const QColor rand(86, 92, 104);
-
-const char* const regeln =
-    "QLabel { color: #f0f2f5; font-weight: bold; }"
-    "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
-    " padding: 10px 36px; }"
-    "QPushButton:hover { background: #383d47; }"
-    "QPushButton:focus { border: 2px solid #ffffff; }"
-    "QPushButton:disabled { color: #6a707c; background: #1c1f24; border-color: #33373f; }";
 
 }  // namespace
 
@@ -29,7 +23,7 @@ AmpelFenster::AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um)
       ablage_(um.ablage),
       aufbau_(new QVBoxLayout(this)) {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);  // a dialog stays in front of its race window
-    setStyleSheet(regeln);
+    setStyleSheet(stil::dunkle_regeln("padding: 10px 36px;") + "QLabel { font-weight: bold; }");
     aufbau_->setContentsMargins(24, 24, 24, 20);
     aufbau_->setSpacing(14);
     auto* flaeche = new QWidget(this);  // stands for the whole screen, takes no room itself

@@ -13,6 +13,7 @@ namespace {
 
 constexpr double zeile_entwurf_px = 104;  // height of a row at scale 1
 constexpr double breite_entwurf_px = 1240;
+constexpr double skala_max = 3;  // of a wall screen
 constexpr int zeilenabstand_px = 5;
 constexpr int zielfeld_breite_px = 80;
 
@@ -22,7 +23,7 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, B
     : Fenster("auswertung", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(14, 8, 14, 10);
+    aufbau->setContentsMargins(stil::fensterrand.left(), 8, stil::fensterrand.right(), stil::fensterrand.bottom());
     aufbau->setSpacing(6);
     QLabel* kopf = binder().label(logik.kopf_label, "kopf_label");
     QFont schrift = kopf->font();
@@ -93,7 +94,7 @@ void AuswertungFenster::pdf_speichern(const dateien& ablage) {
 
 QLayout* AuswertungFenster::korrekturzeile() {
     auto* zeile = new QHBoxLayout;
-    zeile->setSpacing(6);
+    zeile->setSpacing(4);
     const auto knopf = [&](befehl& element, const QString& name) {
         zeile->addWidget(binder().knopf(element, name, "schmal"));
     };
@@ -114,7 +115,7 @@ QLayout* AuswertungFenster::wegezeile() {
     zeile->setSpacing(10);
     zeile->addWidget(spurwechselfeld());
     const auto gross = [](QPushButton* knopf, int breite) {
-        knopf->setMinimumSize(breite, 46);
+        knopf->setMinimumSize(breite, stil::knopfhoehe);
         return knopf;
     };
     zeile->addWidget(gross(binder().knopf(logik_.Command1, "Command1"), 170), 0, Qt::AlignBottom);
@@ -189,7 +190,7 @@ void AuswertungFenster::skalieren() {
         std::count_if(zeilen_.begin(), zeilen_.end(), [](const auto* zeile) { return zeile->gezeigt(); });
     const double je_zeile =
         stand_->height() / static_cast<double>(std::max<std::ptrdiff_t>(gezeigt, 1)) - zeilenabstand_px;
-    const double skala = std::clamp(std::min(je_zeile / zeile_entwurf_px, width() / breite_entwurf_px), 0.6, 1.9);
+    const double skala = std::clamp(std::min(je_zeile / zeile_entwurf_px, width() / breite_entwurf_px), 0.6, skala_max);
     binder().skala(skala);
     for (Ergebniszeile* zeile : zeilen_) {
         zeile->skalieren(skala);

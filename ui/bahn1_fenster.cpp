@@ -17,16 +17,6 @@ using f = fenster_teil;
 constexpr int sekunden_max = 9999;
 constexpr std::array<f, 4> befehle{f::Command1, f::Command3, f::Command4, f::Command2};
 
-const char* const knopf_regeln =
-    "QLabel { color: #f0f2f5; }"
-    "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px;"
-    " padding: 0px 4px; min-height: 0px; }"
-    "QPushButton:hover { background: #383d47; }"
-    "QPushButton:focus { border: 2px solid #ffffff; }"
-    "QPushButton:disabled { color: #6a707c; background: #1c1f24; border-color: #33373f; }"
-    "QPushButton[rolle=\"haupt\"]:enabled { background: #1d8a3c; border-color: #37b35a; font-weight: bold; }"
-    "QPushButton[rolle=\"haupt\"]:focus { border: 2px solid #ffffff; }";
-
 }  // namespace
 
 Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
@@ -85,7 +75,7 @@ void Bahn1Fenster::kopf() {
 void Bahn1Fenster::befehlszeile() {
     bahn1& bahn = logik_.bahn1;
     auto* zeile = new QWidget(this);
-    zeile->setStyleSheet(knopf_regeln);
+    zeile->setStyleSheet(stil::dunkle_regeln("padding: 0px 4px; min-height: 0px;"));
     teil(f::Frame1) = zeile;
     teil(f::Command1) = binder().hauptknopf(bahn.Command1, "Command1");
     teil(f::Command3) = binder().knopf(bahn.Command3, "Command3");
@@ -108,7 +98,7 @@ void Bahn1Fenster::befehlszeile() {
 void Bahn1Fenster::strafformular() {
     bahn1& bahn = logik_.bahn1;
     auto* kasten = new QWidget(this);
-    kasten->setStyleSheet(knopf_regeln);
+    kasten->setStyleSheet(stil::dunkle_regeln("padding: 0px 4px; min-height: 0px;"));
     teil(f::ch_strafframe) = kasten;
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);

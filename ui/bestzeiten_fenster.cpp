@@ -63,7 +63,7 @@ BestzeitenFenster::BestzeitenFenster(beste_zeiten_fenster& logik, Bildtakt& takt
     : Fenster("beste_zeiten_fenster", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 14);
+    aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(6);
     QLabel* hinweis = binder().label(logik.Label1, "Label1");
     hinweis->setWordWrap(true);
@@ -77,12 +77,10 @@ BestzeitenFenster::BestzeitenFenster(beste_zeiten_fenster& logik, Bildtakt& takt
     QPushButton* speichern = binder().hauptknopf(logik.Command1, "Command1");
     QPushButton* abbrechen = binder().knopf(logik.Command2, "Command2");
     QPushButton* zurueck = binder().knopf(logik.Command3, "Command3");
-    knoepfe->addWidget(zurueck);
+    knoepfe->addWidget(stil::fensterknopf(zurueck));
     knoepfe->addStretch();
-    for (QPushButton* knopf : {speichern, abbrechen}) {
-        knopf->setMinimumSize(140, 42);
-        knoepfe->addWidget(knopf);
-    }
+    knoepfe->addWidget(stil::fensterknopf(speichern));
+    knoepfe->addWidget(stil::fensterknopf(abbrechen));
     setTabOrder(zurueck, speichern);
     setTabOrder(speichern, abbrechen);
     aufbau->addLayout(knoepfe);
@@ -92,8 +90,7 @@ QWidget* BestzeitenFenster::kopfzeile() {
     auto* zeile = new QWidget(this);
     std::vector<QWidget*> zellen{new QWidget};
     for (std::size_t i = 0; i < logik_.Label_kopf.size(); ++i) {
-        QLabel* titel = binder().label(logik_.Label_kopf.at(i), "Label_kopf_" + QString::number(i));
-        titel->setStyleSheet("color: #626a78;");
+        QLabel* titel = stil::leise(binder().label(logik_.Label_kopf.at(i), "Label_kopf_" + QString::number(i)));
         zellen.push_back(titel);
     }
     zellen.push_back(new QWidget);

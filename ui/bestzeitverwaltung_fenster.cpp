@@ -22,10 +22,15 @@ BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& lo
     : Fenster("beste_zeiten_verwaltung", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);
-    aufbau->addWidget(dateizeile());
-    aufbau->addWidget(moduszeile());
+    auto* kopf = new QGridLayout;
+    kopf->setSpacing(8);
+    kopf->addWidget(binder().label(logik.Label_datei, "Label_datei"), 0, 0);
+    kopf->addWidget(dateizeile(), 0, 1);
+    kopf->addWidget(binder().label(logik.Label_modus, "Label_modus"), 1, 0);
+    kopf->addWidget(moduszeile(), 1, 1);
+    aufbau->addLayout(kopf);
     auto* listen = new QGridLayout;
     listen->setHorizontalSpacing(12);
     for (const int spur : alle_spuren) {
@@ -36,9 +41,7 @@ BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& lo
     aufbau->addWidget(korrektur());
     auto* unten = new QHBoxLayout;
     unten->addStretch();
-    QPushButton* schliessen = binder().hauptknopf(logik.Command1, "Command1");
-    schliessen->setMinimumSize(140, 42);
-    unten->addWidget(schliessen);
+    unten->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1")));
     aufbau->addLayout(unten);
     resize(1180, 760);
 }
@@ -50,7 +53,6 @@ QWidget* BestzeitverwaltungFenster::dateizeile() {
     aufbau->setSpacing(8);
     QComboBox* datei = binder().auswahlfeld(logik_.Combo2, "Combo2");
     datei->setMinimumContentsLength(11);
-    aufbau->addWidget(binder().label(logik_.Label_datei, "Label_datei"));
     aufbau->addWidget(datei, 1);
     aufbau->addWidget(binder().knopf(logik_.Command36, "Command36"));
     aufbau->addSpacing(14);
@@ -70,7 +72,6 @@ QWidget* BestzeitverwaltungFenster::moduszeile() {
     aufbau->setSpacing(8);
     QComboBox* modus = binder().auswahlfeld(logik_.Combo1, "Combo1");
     modus->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    aufbau->addWidget(binder().label(logik_.Label_modus, "Label_modus"));
     aufbau->addWidget(modus);
     aufbau->addSpacing(20);
     aufbau->addWidget(binder().label(logik_.bestlabel1, "bestlabel1"));
@@ -88,6 +89,7 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(2);
     auto* kopf = new QHBoxLayout;
+    kopf->setSpacing(8);
     auto* fleck = new QLabel(this);
     fleck->setFixedSize(fleck_groesse);
     auto* titel = new QLabel(this);
@@ -95,8 +97,7 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
     bezeichnung& name = logik_.Label_spur.at(i);
     binder().verbinden(name, titel, "Label_spur_" + QString::number(i), [titel, fleck, &name] {
         titel->setText(QString::fromStdString(name.text()));
-        fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;")
-                                 .arg(stil::farbe_von(name.hintergrund().value_or(0)).name()));
+        stil::fleck_faerben(fleck, name.hintergrund().value_or(0));
     });
     kopf->addWidget(fleck);
     kopf->addWidget(titel, 1);
@@ -120,9 +121,8 @@ QWidget* BestzeitverwaltungFenster::korrektur() {
     constexpr std::array<int, 4> breiten{110, 0, 110, 0};
     for (std::size_t i = 0; i < felder.size(); ++i) {
         const int spalte = static_cast<int>(i);
-        QLabel* titel = binder().label(logik_.Label_k.at(i), "Label_k_" + QString::number(i));
-        titel->setStyleSheet("color: #626a78;");
-        raster->addWidget(titel, 0, spalte);
+        raster->addWidget(stil::leise(binder().label(logik_.Label_k.at(i), "Label_k_" + QString::number(i))), 0,
+                          spalte);
         QLineEdit* eingabe = binder().zeile(*felder.at(i), "Text" + QString::number(i + 1));
         QObject::connect(eingabe, &QLineEdit::returnPressed, eingabe, [this] { logik_.Command34.klicken(); });
         if (breiten.at(i) > 0) {

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "core/ordnerblick.h"
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
@@ -16,7 +17,7 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* elter
     : Fenster("fahrerbild_laden", takt, eltern) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     auto* oben = new QHBoxLayout;
     oben->addWidget(binder().label(logik.Label_laufwerk, "Label_laufwerk"));
     oben->addWidget(binder().auswahlfeld(logik.laufwerk, "laufwerk"));
@@ -38,8 +39,8 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* elter
 
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addStretch();
-    knoepfe->addWidget(binder().hauptknopf(logik.Command1, "Command1"));
-    knoepfe->addWidget(binder().knopf(logik.Command2, "Command2"));
+    knoepfe->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1")));
+    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
     aufbau->addLayout(knoepfe);
     resize(860, 480);
 }

@@ -204,9 +204,14 @@ QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse,
     widget->setFixedSize(groesse);
     widget->setAlignment(Qt::AlignCenter);
     verbinden(element, widget, name, bild_nachlesen(element, std::move(pfad), [widget, groesse](const QImage& inhalt) {
-                  widget->setPixmap(inhalt.isNull() ? QPixmap()
-                                                    : QPixmap::fromImage(inhalt.scaled(groesse, Qt::KeepAspectRatio,
-                                                                                       Qt::SmoothTransformation)));
+                  const double dichte = widget->devicePixelRatioF();
+                  QPixmap passend;
+                  if (!inhalt.isNull()) {
+                      passend = QPixmap::fromImage(
+                          inhalt.scaled(groesse * dichte, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+                      passend.setDevicePixelRatio(dichte);
+                  }
+                  widget->setPixmap(passend);
               }));
     return widget;
 }

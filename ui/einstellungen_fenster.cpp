@@ -4,12 +4,12 @@
 #include <QVBoxLayout>
 
 #include "ui/optionsseite_bauen.h"
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
 
 constexpr int seitenliste_breite = 180;
-constexpr int knopfhoehe = 42;
 constexpr QSize vorschaugroesse(280, 210);
 
 }  // namespace
@@ -19,7 +19,8 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
     : Fenster("einstellungen", takt, eltern), logik_(logik), ablage_(ablage) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(14, 12, 14, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(10);
     auto* mitte = new QHBoxLayout;
     mitte->setSpacing(14);
     QListView* seiten = binder().listenfeld(logik.seitenliste, "seitenliste");
@@ -38,11 +39,8 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
 
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addStretch();
-    for (QPushButton* knopf :
-         {binder().hauptknopf(logik.Command1, "Command1"), binder().knopf(logik.Command2, "Command2")}) {
-        knopf->setMinimumSize(140, knopfhoehe);
-        knoepfe->addWidget(knopf);
-    }
+    knoepfe->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1")));
+    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
     aufbau->addLayout(knoepfe);
     resize(1200, 820);
 }

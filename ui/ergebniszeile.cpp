@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "ui/stil.h"
 
@@ -13,7 +14,6 @@ namespace {
 // font sizes in pixels at scale 1
 constexpr double schrift_platz = 46;
 constexpr double schrift_name = 28;
-constexpr double schrift_runden = 30;
 constexpr double schrift_wert = 28;
 constexpr double schrift_zusatz = 15;
 constexpr double schrift_titel = 13;
@@ -21,7 +21,7 @@ constexpr double schrift_liste = 16;
 
 constexpr int eingabe_breite_px = 80;
 constexpr int knopf_breite_px = 34;
-constexpr QSize bild_groesse{60, 60};
+constexpr double bild_kante = 60;
 
 constexpr auto links_mitte = Qt::AlignLeft | Qt::AlignVCenter;
 
@@ -61,8 +61,11 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
 
 void Ergebniszeile::bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau) {
     const auto pfad = [&ablage](const std::string& datei) { return ablage.pfad(datei); };
-    aufbau.addWidget(binder.bildfeld(logik_.Image1.at(index_), nummeriert("Image1"), bild_groesse, pfad));
-    aufbau.addWidget(binder.bildfeld(logik_.Image2.at(index_), nummeriert("Image2"), bild_groesse, pfad));
+    for (const auto& [element, name] :
+         {std::pair<bild&, const char*>{logik_.Image1.at(index_), "Image1"}, {logik_.Image2.at(index_), "Image2"}}) {
+        bilder_.push_back(binder.bildanzeige(element, nummeriert(name), pfad));
+        aufbau.addWidget(bilder_.back());
+    }
 }
 
 Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Binder& binder) {
@@ -111,11 +114,8 @@ QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
 
 QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     const std::size_t i = index_;
-    const zelle_teile teile =
-        zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_runden}, binder);
-    TextAnzeige* meter = binder.anzeige(logik_.ges_meter[i], nummeriert("ges_meter"), schrift_zusatz);
-    meter->setAusrichtung(links_mitte);
-    teile.zusatz->addWidget(meter, 1);
+    const zelle_teile teile = zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_wert}, binder);
+    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 1);
     return teile.feld;
 }
 
@@ -170,6 +170,10 @@ void Ergebniszeile::skalieren(double skala) {
     QFont schrift = liste_->font();
     schrift.setPixelSize(std::max(12, static_cast<int>(std::lround(schrift_liste * skala))));
     liste_->setFont(schrift);
+    const int kante = static_cast<int>(std::lround(bild_kante * std::max(skala, 1.0)));
+    for (QWidget* bild : bilder_) {
+        bild->setFixedSize(kante, kante);
+    }
 }
 
 void Ergebniszeile::paintEvent(QPaintEvent* /*ereignis*/) {

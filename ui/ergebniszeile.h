@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QWidget>
+#include <vector>
 
 #include "results/auswertung.h"
 #include "ui/binder.h"
@@ -50,6 +51,7 @@ private:
     auswertung& logik_;
     std::size_t index_;
     QListView* liste_ = nullptr;
+    std::vector<QWidget*> bilder_;
     QLineEdit* meterfeld_ = nullptr;
     QColor spurfarbe_;
 };

@@ -11,10 +11,8 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
-constexpr int knopfhoehe = 44;
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
-const char* const leise = "color: #626a78;";
 
 void schmal(QLineEdit* feld) {
     feld->setFixedWidth(feldbreite);
@@ -58,7 +56,7 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     aufbau->addWidget(kopf, 2);
 
     auto* inhalt = new QVBoxLayout;
-    inhalt->setContentsMargins(18, 4, 18, 14);
+    inhalt->setContentsMargins(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
     inhalt->addWidget(spuren_gruppe(), 3);
@@ -123,9 +121,7 @@ QWidget* Form1Fenster::spuren_gruppe() {
     const auto kopf = [&](bezeichnung& element, const QString& name, int spalte, befehl* knopf = nullptr,
                           const QString& knopfname = {}) {
         auto* zelle = new QHBoxLayout;
-        QLabel* titel = binder().label(element, name);
-        titel->setStyleSheet(leise);
-        zelle->addWidget(titel);
+        zelle->addWidget(stil::leise(binder().label(element, name)));
         if (knopf != nullptr) {
             zelle->addStretch();
             zelle->addWidget(binder().knopf(*knopf, knopfname));
@@ -153,10 +149,8 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     auto* fleck = new QLabel(this);
     fleck->setFixedSize(14, 26);
     form& spurfarbe = logik_.spurfarbe.at(i);
-    binder().verbinden(spurfarbe, fleck, "spurfarbe_" + nummer, [&spurfarbe, fleck] {
-        fleck->setStyleSheet(QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;")
-                                 .arg(stil::farbe_von(spurfarbe.hintergrund().value_or(0)).name()));
-    });
+    binder().verbinden(spurfarbe, fleck, "spurfarbe_" + nummer,
+                       [&spurfarbe, fleck] { stil::fleck_faerben(fleck, spurfarbe.hintergrund().value_or(0)); });
     QCheckBox* kasten = binder().kasten(logik_.spur.at(i), "spur_" + nummer);
     QLineEdit* laenge = binder().zeile(logik_.lspur.at(i), "lspur_" + nummer);
     schmal(laenge);
@@ -183,7 +177,7 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
 
 QPushButton* Form1Fenster::hoher_knopf(befehl& element, const QString& name) {
     QPushButton* knopf = binder().knopf(element, name);
-    knopf->setMinimumHeight(knopfhoehe);
+    knopf->setMinimumHeight(stil::knopfhoehe);
     return knopf;
 }
 
@@ -192,7 +186,7 @@ QWidget* Form1Fenster::rennbefehle() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
-    rennen->setMinimumSize(220, knopfhoehe);
+    rennen->setMinimumSize(220, stil::knopfhoehe);
     aufbau->addWidget(rennen);
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
@@ -221,13 +215,12 @@ QWidget* Form1Fenster::werkzeugbefehle() {
 
 QWidget* Form1Fenster::statuszeile() {
     auto* zeile = new QWidget;
-    zeile->setStyleSheet(leise);
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(2, 0, 2, 0);
-    aufbau->addWidget(binder().label(logik_.modus_label, "modus_label"));
-    aufbau->addWidget(binder().label(logik_.cu_label, "cu_label"));
+    aufbau->addWidget(stil::leise(binder().label(logik_.modus_label, "modus_label")));
+    aufbau->addWidget(stil::leise(binder().label(logik_.cu_label, "cu_label")));
     aufbau->addWidget(binder().knopf(logik_.command_cu, "command_cu"));
-    QLabel* datei = binder().label(logik_.Label6, "Label6");
+    QLabel* datei = stil::leise(binder().label(logik_.Label6, "Label6"));
     datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     datei->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     aufbau->addWidget(datei, 1);

@@ -1,9 +1,12 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QScreen>
 #include <QTranslator>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "platform_qt/qt_dienste.h"
 #include "programm/programm.h"
@@ -20,9 +23,22 @@ QIcon programmsymbol() {
     return symbol;
 }
 
+/// Where the desktop does not enlarge its windows itself, a screen of 4K would show them half as large as they are
+/// meant.
+void grossem_schirm_anpassen(int argc, std::vector<char*> argumente) {
+    constexpr int kante_4k = 2000;
+    const QGuiApplication nur_zum_messen(argc, argumente.data());
+    const QScreen* schirm = QGuiApplication::primaryScreen();
+    const bool gross = schirm != nullptr && std::min(schirm->size().width(), schirm->size().height()) >= kante_4k;
+    if (gross && schirm->devicePixelRatio() == 1 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+        qputenv("QT_SCALE_FACTOR", "2");
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    grossem_schirm_anpassen(argc, {argv, argv + argc + 1});
     QApplication anwendung(argc, argv);
     QApplication::setApplicationName("Tarvel");
     QApplication::setWindowIcon(programmsymbol());

@@ -4,6 +4,8 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 namespace {
 
@@ -20,7 +22,7 @@ QWidget* OptionsseiteBauen::seite(optionsseite& inhalt, QWidget* vorneweg) {
     rollen->setFocusPolicy(Qt::NoFocus);
     auto* flaeche = new QWidget;
     auto* spalten = new QHBoxLayout(flaeche);
-    spalten->setContentsMargins(0, 0, 8, 0);
+    spalten->setContentsMargins(0, 0, 0, 0);
     spalten->setSpacing(14);
     int anzahl = 1;
     for (const auto& eine : inhalt.gruppen) {
@@ -83,7 +85,9 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
         QComboBox* widget = binder_.auswahlfeld(*liste, name);
         widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         widget->setMinimumWidth(schmalste_auswahl);
-        const bool lang = std::any_of(inhalt.eintraege.begin(), inhalt.eintraege.end(),
+        // entries that come with a file may be long as well
+        const bool lang = inhalt.eintraege.empty() ||
+                          std::any_of(inhalt.eintraege.begin(), inhalt.eintraege.end(),
                                       [](const std::string& eintrag) { return eintrag.size() > langer_eintrag; });
         raster->addWidget(widget, lang ? platz + 1 : platz, lang ? 0 : 1, 1, lang ? 3 : 2);
     } else if (auto* farbe_element = std::get_if<farbfeld>(&inhalt.element)) {
@@ -92,11 +96,11 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
         raster->addWidget(widget, platz, 1, 1, 2);
     } else if (auto* sound = std::get_if<soundfeld>(&inhalt.element)) {
         QComboBox* widget = binder_.auswahlfeld(sound->datei, name);
-        widget->setMinimumContentsLength(9);
+        widget->setMinimumContentsLength(11);
         raster->addWidget(widget, platz, 1);
         raster->setColumnStretch(1, 1);  // file names are longer than captions
-        QPushButton* abspielen = binder_.knopf(sound->abspielen, name + "_abspielen");
-        abspielen->setMaximumWidth(44);
+        QPushButton* abspielen = binder_.knopf(sound->abspielen, name + "_abspielen", "schmal");
+        abspielen->setMaximumWidth(36);
         raster->addWidget(abspielen, platz, 2);
     }
 }
@@ -104,8 +108,7 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
 void OptionsseiteBauen::eingabefeld(optionszeile& inhalt, feld& eingabe, QGridLayout* raster, int platz) {
     const QString name = QString::fromStdString(inhalt.name);
     QLineEdit* widget = binder_.zeile(eingabe, name);
-    QLabel* einheit = binder_.label(inhalt.einheit, name + "_Einheit");
-    einheit->setStyleSheet("color: #626a78;");
+    QLabel* einheit = stil::leise(binder_.label(inhalt.einheit, name + "_Einheit"));
     einheit->setWordWrap(true);
     if (eingabe.laenge_max() > 0 && eingabe.laenge_max() <= 8) {
         widget->setAlignment(eingabe.laenge_max() == 1 ? Qt::AlignCenter : Qt::AlignRight);

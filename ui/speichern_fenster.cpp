@@ -3,12 +3,14 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 
 SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name, Bildtakt& takt, QWidget* eltern)
     : Fenster(name, takt, eltern) {
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);
     auto* kopf = new QWidget(this);
     auto* kopf_aufbau = new QHBoxLayout(kopf);
@@ -17,16 +19,17 @@ SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name,
     binder().fenstertitel(logik.titel);
     QLineEdit* dateiname = binder().zeile(logik.name, "name");
     QListView* liste = binder().listenfeld(logik.dateiliste, "dateiliste");
+    QCheckBox* alle = binder().kasten(logik.alle_dateien, "alle_dateien");
     QPushButton* ausfuehren = binder().hauptknopf(logik.Command1, "Command1");
     QObject::connect(dateiname, &QLineEdit::returnPressed, ausfuehren, [&logik] { logik.Command1.klicken(); });
     aufbau->addWidget(kopf);
     aufbau->addWidget(dateiname);
     aufbau->addWidget(liste, 1);
-    aufbau->addWidget(binder().kasten(logik.alle_dateien, "alle_dateien"));
+    aufbau->addWidget(alle);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addStretch();
-    knoepfe->addWidget(ausfuehren);
-    knoepfe->addWidget(binder().knopf(logik.Command2, "Command2"));
+    knoepfe->addWidget(stil::fensterknopf(ausfuehren));
+    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
     aufbau->addLayout(knoepfe);
     resize(460, 420);
 }

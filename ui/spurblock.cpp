@@ -56,7 +56,9 @@ void Spurblock::kopf(std::function<std::filesystem::path(const std::string&)> pf
     schild->setFett(true);
     schild->setFarbe(Qt::black);
     schild->setAutoFillBackground(true);
-    anzeigen(spur_teil::namenslabel, bahn_.namenslabel[spur_], "namenslabel" + nummer_)->setFett(true);
+    TextAnzeige* fahrer = anzeigen(spur_teil::namenslabel, bahn_.namenslabel[spur_], "namenslabel" + nummer_);
+    fahrer->setFett(true);
+    fahrer->setZweizeilig();
     teil(spur_teil::Image1) = binder_.bildanzeige(bahn_.Image1[spur_], "Image1" + nummer_, pfad);
     teil(spur_teil::Image2) = binder_.bildanzeige(bahn_.Image2[spur_], "Image2" + nummer_, std::move(pfad));
     const QString nummer = "_" + QString::number(index_);

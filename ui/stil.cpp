@@ -36,10 +36,35 @@ QPushButton[rolle="haupt"]:pressed { background: #a51823; }
 QPushButton[rolle="haupt"]:focus { border: 2px solid #1c2028; }
 QPushButton[rolle="haupt"]:disabled { background: #d9a5a9; border-color: #d0d4db; color: #ffffff; }
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
+QLabel[rolle="leise"] { color: #626a78; }
+QListView { outline: none; }
 QListView::item { padding: 3px 6px; border: 0px solid transparent; border-radius: 3px; }
 QListView::item:selected { background: #c41e2a; color: #ffffff; }
 QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; }
+QListView:focus { border-color: #c41e2a; }
+QScrollBar { background: transparent; border: none; }
+QScrollBar:vertical { width: 12px; }
+QScrollBar:horizontal { height: 12px; }
+QScrollArea > QWidget > QScrollBar:vertical { width: 18px; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
+QScrollBar::handle { background: #aab1bd; border-radius: 4px; }
+QScrollBar::handle:hover { background: #626a78; }
+QScrollBar::handle:vertical { min-height: 30px; margin: 2px; }
+QScrollArea > QWidget > QScrollBar::handle:vertical { margin-left: 8px; }
+QScrollBar::handle:horizontal { min-width: 30px; margin: 2px; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QToolTip { background: #ffffff; color: #1c2028; border: 1px solid #aab1bd; padding: 3px 6px; }
 )";
+
+const char* const regeln_dunkel =
+    "QLabel { color: #f0f2f5; }"
+    "QPushButton { background: #2b2f37; color: #f0f2f5; border: 1px solid #565c68; border-radius: 8px; %1 }"
+    "QPushButton:hover { background: #383d47; }"
+    "QPushButton:focus { border: 2px solid #ffffff; }"
+    "QPushButton:disabled { color: #6a707c; background: #1c1f24; border-color: #33373f; }"
+    "QPushButton[rolle=\"haupt\"]:enabled { background: #1d8a3c; border-color: #37b35a; font-weight: bold; }"
+    "QPushButton[rolle=\"haupt\"]:focus { border: 2px solid #ffffff; }";
 
 }  // namespace
 
@@ -49,7 +74,7 @@ void anwenden(QApplication& anwendung) {
     QFont grundschrift = QApplication::font();
     grundschrift.setPixelSize(15);
     QApplication::setFont(grundschrift);
-    QPalette palette;
+    QPalette palette(karte, flaeche);  // every colour is ours, also where the desktop has a dark theme
     palette.setColor(QPalette::Window, flaeche);
     palette.setColor(QPalette::WindowText, schrift);
     palette.setColor(QPalette::Base, karte);
@@ -58,12 +83,34 @@ void anwenden(QApplication& anwendung) {
     palette.setColor(QPalette::ButtonText, schrift);
     palette.setColor(QPalette::Highlight, akzent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, akzent);
+    palette.setColor(QPalette::LinkVisited, akzent);
     palette.setColor(QPalette::PlaceholderText, schrift_leise);
     for (const QPalette::ColorRole rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, rolle, schrift_gesperrt);
     }
     QApplication::setPalette(palette);
     anwendung.setStyleSheet(regeln);
+}
+
+QLabel* leise(QLabel* label) {
+    label->setProperty("rolle", "leise");
+    return label;
+}
+
+QPushButton* fensterknopf(QPushButton* knopf) {
+    constexpr int breite = 140;
+    knopf->setMinimumSize(breite, knopfhoehe);
+    return knopf;
+}
+
+void fleck_faerben(QLabel* fleck, farbe spurfarbe) {
+    fleck->setStyleSheet(
+        QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;").arg(farbe_von(spurfarbe).name()));
+}
+
+QString dunkle_regeln(const char* innen) {
+    return QString(regeln_dunkel).arg(innen);
 }
 
 QColor farbe_von(farbe zahl) {

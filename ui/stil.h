@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QLabel>
+#include <QMargins>
+#include <QPushButton>
 
 #include "core/steuerelemente.h"
 
@@ -16,7 +19,19 @@ inline const QColor schrift{28, 32, 40};
 inline const QColor schrift_leise{98, 106, 120};
 inline const QColor schrift_gesperrt{154, 161, 173};
 
+inline constexpr QMargins fensterrand{16, 12, 16, 12};
+inline constexpr int knopfhoehe = 42;  ///< of the commands at the foot of a window
+
 void anwenden(QApplication& anwendung);
+
+/// A caption or a unit that stands back behind what it belongs to. Before the label is shown.
+QLabel* leise(QLabel* label);
+/// A command that ends or leaves its window: all of these have one size.
+QPushButton* fensterknopf(QPushButton* knopf);
+/// The small patch in the colour of a lane.
+void fleck_faerben(QLabel* fleck, farbe spurfarbe);
+/// Labels and commands on a dark ground; `innen` is the padding of the commands.
+QString dunkle_regeln(const char* innen);
 
 QColor farbe_von(farbe zahl);
 farbe zahl_von(const QColor& farbton);

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "core/spuren.h"
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 
@@ -13,13 +14,14 @@ TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidge
     : Fenster("Tastaturbelegung", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 8, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     QLabel* hinweis = binder().label(logik.hinweis, "hinweis");
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
     auto* rollen = new QScrollArea;
     rollen->setFrameShape(QFrame::NoFrame);
     rollen->setWidgetResizable(true);
+    rollen->setFocusPolicy(Qt::NoFocus);
     auto* gruppen = new QWidget;
     auto* raster = new QGridLayout(gruppen);
     raster->setContentsMargins(0, 0, 0, 0);
@@ -67,10 +69,10 @@ QWidget* TastaturFenster::befehlszeile() {
     aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
     aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));
     aufbau->addStretch();
-    aufbau->addWidget(binder().hauptknopf(logik_.Command1, "Command1"));
-    aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"));
+    aufbau->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command1, "Command1")));
+    aufbau->addWidget(stil::fensterknopf(binder().knopf(logik_.Command2, "Command2")));
     for (QPushButton* knopf : zeile->findChildren<QPushButton*>()) {
-        knopf->setMinimumHeight(42);
+        knopf->setMinimumHeight(stil::knopfhoehe);
     }
     return zeile;
 }

@@ -9,6 +9,18 @@ namespace {
 
 constexpr double kleinste_verkleinerung = 0.4;
 
+/// Broken between two words where the longer line is shortest. A single word stays whole.
+QString umbrochen(const QString& text, const QFontMetricsF& masse) {
+    QString bester = text;
+    for (qsizetype luecke = text.indexOf(' '); luecke > 0; luecke = text.indexOf(' ', luecke + 1)) {
+        const QString zeilen = QString(text).replace(luecke, 1, '\n');
+        if (masse.size(0, zeilen).width() < masse.size(0, bester).width()) {
+            bester = zeilen;
+        }
+    }
+    return bester;
+}
+
 }  // namespace
 
 TextAnzeige::TextAnzeige(QWidget* eltern) : QWidget(eltern), schrift_(font()) {}
@@ -39,6 +51,11 @@ void TextAnzeige::setFett(bool fett) {
 
 void TextAnzeige::setLeise() {
     deckkraft_ = 0.75;
+    update();
+}
+
+void TextAnzeige::setZweizeilig() {
+    zweizeilig_ = true;
     update();
 }
 
@@ -77,14 +94,26 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     QString text = text_;
     const QFontMetricsF masse(schrift);
     const double breite = std::max(masse.horizontalAdvance(text), 1.0);
-    const double faktor = std::min(width() / breite, height() / masse.capHeight());
+    double faktor = std::min(width() / breite, height() / masse.capHeight());
+    int art = Qt::TextSingleLine;
+    if (faktor < 1 && zweizeilig_) {
+        const QString zeilen = umbrochen(text, masse);
+        const QSizeF platz = masse.size(0, zeilen);
+        const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
+        constexpr double gewinn = 1.2;  // a little more is not worth a second line
+        if (gebrochen > std::max(gewinn * faktor, kleinste_verkleinerung)) {
+            text = zeilen;
+            faktor = gebrochen;
+            art = 0;
+        }
+    }
     if (faktor < 1) {
         schrift.setPixelSize(
             std::max(6, static_cast<int>(schrift.pixelSize() * std::max(faktor, kleinste_verkleinerung))));
-        text = QFontMetrics(schrift).elidedText(text, Qt::ElideRight, width());
+        text = art == 0 ? text : QFontMetrics(schrift).elidedText(text, Qt::ElideRight, width());
     }
     maler.setFont(schrift);
-    maler.drawText(rect(), static_cast<int>(ausrichtung_) | Qt::TextSingleLine, text);
+    maler.drawText(rect(), static_cast<int>(ausrichtung_) | art, text);
 }
 
 }  // namespace tarvel::ui

@@ -16,6 +16,8 @@ public:
     void setFett(bool fett);
     /// Fainter than its colour: a caption, which gives way to what it names.
     void setLeise();
+    /// A text that is too long for its place breaks at a gap, where that leaves it larger.
+    void setZweizeilig();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
     void setAusrichtung(Qt::Alignment ausrichtung);
@@ -34,6 +36,7 @@ private:
     QFont schrift_;
     QColor farbe_;
     double deckkraft_ = 1;
+    bool zweizeilig_ = false;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };
 

@@ -13,7 +13,40 @@
 namespace tarvel {
 namespace {
 
-class Oberflaeche : public test::OberflaecheProbe {};
+class Oberflaeche : public test::OberflaecheProbe {
+protected:
+    static std::vector<ui::Fenster*> alle_fenster() {
+        std::vector<ui::Fenster*> alle;
+        for (QWidget* fenster : QApplication::topLevelWidgets()) {
+            if (auto* eines = dynamic_cast<ui::Fenster*>(fenster)) {
+                alle.push_back(eines);
+            }
+        }
+        return alle;
+    }
+    /// What Tab reaches in a window, in its order.
+    static std::vector<QRect> tabfolge(const QWidget& fenster) {
+        std::vector<QRect> folge;
+        for (QWidget* ziel = fenster.nextInFocusChain(); ziel != &fenster; ziel = ziel->nextInFocusChain()) {
+            const bool erreichbar = (ziel->focusPolicy() & Qt::TabFocus) != 0 && ziel->focusProxy() == nullptr;
+            if (erreichbar && ziel->isVisible() && ziel->isEnabled() && ziel->window() == &fenster) {
+                folge.emplace_back(ziel->mapTo(&fenster, QPoint()), ziel->size());
+            }
+        }
+        return folge;
+    }
+    static void folgt_dem_auge(const QWidget& fenster) {
+        const std::vector<QRect> folge = tabfolge(fenster);
+        for (std::size_t i = 1; i < folge.size(); ++i) {
+            const QRect& von = folge[i - 1];
+            const QRect& nach = folge[i];
+            const bool hinauf = nach.bottom() < von.top() && nach.left() <= von.right();  // not to the next column
+            const bool zurueck = nach.bottom() >= von.top() && nach.top() <= von.bottom() && nach.right() < von.left();
+            EXPECT_FALSE(hinauf || zurueck) << fenster.objectName().toStdString() << ": from " << von.x() << ","
+                                            << von.y() << " to " << nach.x() << "," << nach.y();
+        }
+    }
+};
 
 TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
     klick(o.form1, "Form1.spur_2");
@@ -242,6 +275,41 @@ TEST_F(Oberflaeche, TabFolgtImErgebnisDenPlaetzen) {
     EXPECT_EQ(o.auswertung.focusWidget()->objectName(), "auswertung.liste_0");
 }
 
+TEST_F(Oberflaeche, TabFolgtInJedemFensterDemAuge) {
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(6000, "2");
+    for (ui::Fenster* fenster : alle_fenster()) {
+        if (fenster == &o.einstellungen) {
+            continue;  // one page after the other, below
+        }
+        fenster->show();
+        fenster->resize(1280, 1024);
+        o.takt.ausfuehren();
+        QTest::qWait(20);
+        folgt_dem_auge(*fenster);
+    }
+    constexpr QSize ohne_rollen(1280, 2600);
+    for (int seite = 0; seite < einstellungsfenster::seiten_anzahl; ++seite) {
+        t.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(seite));
+        o.einstellungen.resize(ohne_rollen);
+        o.takt.ausfuehren();
+        QTest::qWait(20);
+        folgt_dem_auge(o.einstellungen);
+    }
+}
+
+TEST_F(Oberflaeche, JedeFarbeIstUnsereAuchImDunklenThema) {
+    for (const QPalette::ColorGroup gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int rolle = 0; rolle < QPalette::NColorRoles; ++rolle) {
+            if (rolle != QPalette::NoRole) {
+                EXPECT_TRUE(QApplication::palette().isBrushSet(gruppe, static_cast<QPalette::ColorRole>(rolle)))
+                    << rolle;
+            }
+        }
+    }
+}
+
 TEST_F(Oberflaeche, DoppelklickTrifftNichtsImFensterDahinter) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
@@ -272,15 +340,22 @@ TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
 }
 
 TEST_F(Oberflaeche, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
-    QStringList kuerzel;
-    for (const QPushButton* knopf : o.form1.findChildren<QPushButton*>()) {
-        const qsizetype platz = knopf->text().indexOf('&');
-        if (platz >= 0) {
-            kuerzel << knopf->text().mid(platz + 1, 1).toLower();
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(6000, "2");
+    t.p.form1.Command7.klicken();
+    for (ui::Fenster* fenster : alle_fenster()) {
+        QStringList kuerzel;
+        for (const QPushButton* knopf : fenster->findChildren<QPushButton*>()) {
+            const qsizetype platz = knopf->text().indexOf('&');
+            if (platz >= 0 && knopf->window() == fenster) {
+                kuerzel << knopf->text().mid(platz + 1, 1).toLower();
+            }
         }
+        EXPECT_GE(kuerzel.size(), fenster == &o.form1 ? 10 : 0);
+        EXPECT_EQ(kuerzel.removeDuplicates(), 0) << fenster->objectName().toStdString();
     }
-    EXPECT_GE(kuerzel.size(), 10);
-    EXPECT_EQ(kuerzel.removeDuplicates(), 0);
+    t.p.fenster.entladen("speichernfenster");
     t.p.form1.Command1.text("R && B");
     o.takt.ausfuehren();
     auto* knopf = finde<QPushButton>(o.form1, "Form1.Command1");
