@@ -42,6 +42,11 @@ public:
     bild startbild;                    ///< picture over the fields
     std::array<bild, 2> eigenes_bild;  ///< of the club, beside the start picture where the files are there
 
+    rahmen inhalt;         ///< all that the operator works on
+    rahmen µwartehinweis;  ///< in its place while a timing unit is set up
+    bezeichnung µwarte_titel;
+    bezeichnung µwarte_text;
+
     rahmen Frame_rennen;
     bezeichnung Label_rennart;
     auswahl rennart;
@@ -102,6 +107,10 @@ public:
     std::function<void()> fahrzeuge_oeffnen;
     std::function<void()> fahrerbilder_uebernehmen;
     std::function<void()> fahrzeugbilder_uebernehmen;
+    /// A second after the window has appeared: opens timing hardware that is opened with it.
+    std::function<void()> messgeraet_oeffnen;
+    /// Chooses the command file of the AT-2560.
+    std::function<void()> befehlsdatei_waehlen;
 
     /// Load handler of the window.
     void laden();
@@ -126,6 +135,12 @@ public:
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
+    /// The timing hardware in force has lost its connection, or has it again.
+    void messgeraet_getrennt(bool getrennt);
+    /// The AT-2560 is set up: until it is, nobody works in the window.
+    void wartehinweis(bool an);
+    /// The key F1.
+    void taste_F1();
     /// Whether there are outputs that the track power commands switch.
     void bahnstrom_schaltbar(bool schaltbar);
     /// The settings file in force, and the one that the program starts with.
@@ -153,6 +168,7 @@ private:
     void fahrer_Change(int nummer);
     void ansagen_setzen();
     void einstellungen_rufen(const std::function<void()>& wohin);
+    void timer1_tick();
     void bildschirm_anpassen();
     bool kleiner_bildschirm() const;
 
@@ -166,6 +182,8 @@ private:
     std::string wort_liter_;
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;
+    std::string wort_getrennt_;
+    bool getrennt_ = false;
     renndauer_angabe dauer_;  ///< what `renndauer` says
 };
 

@@ -39,7 +39,9 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
     texte.text("Zugeordnete Bilder: ", wort_bilder_).text("Beim Programmstart: ", wort_standarddatei_);
     texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
-    return texte.text("Liter je Runde", wort_verbrauch_);
+    texte.text("Liter je Runde", wort_verbrauch_).text("Bitte warten!", µwarte_titel);
+    texte.text("AT-2560 Zeitmessung wird eingerichtet.", µwarte_text);
+    return texte.text(" – keine Verbindung", wort_getrennt_);
 }
 
 void form1::ansagen_setzen() {
@@ -160,7 +162,23 @@ void form1::modus_anzeigen() {
     if (modus == messhardware::timekeeper) {
         status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
     }
-    modus_label.text(status);
+    modus_label.text(getrennt_ ? status + wort_getrennt_ : status);
+}
+
+void form1::messgeraet_getrennt(bool getrennt) {
+    getrennt_ = getrennt;
+    modus_anzeigen();
+}
+
+void form1::wartehinweis(bool an) {
+    µwartehinweis.sichtbar(an);
+    inhalt.sichtbar(!an);
+}
+
+void form1::taste_F1() {
+    if (um_.einst.hardware.hw_uart && !µwartehinweis.sichtbar() && befehlsdatei_waehlen) {
+        befehlsdatei_waehlen();
+    }
 }
 
 void form1::einstellungsname_anzeigen(std::string_view name, std::string_view standard) {

@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "ui/stil.h"
@@ -57,7 +58,9 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     kopf_aufbau->addWidget(version, 0, Qt::AlignRight | Qt::AlignTop);
     aufbau->addWidget(kopf, 2);
 
-    auto* inhalt = new QVBoxLayout;
+    auto* flaeche = new QWidget(this);
+    binder().verbinden(logik.inhalt, flaeche, "inhalt", {});
+    auto* inhalt = new QVBoxLayout(flaeche);
     inhalt->setContentsMargins(18, 4, 18, 14);
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
@@ -66,8 +69,27 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     inhalt->addWidget(rennbefehle());
     inhalt->addWidget(werkzeugbefehle());
     inhalt->addWidget(statuszeile());
-    aufbau->addLayout(inhalt, 5);
+    aufbau->addWidget(flaeche, 5);
+    aufbau->addWidget(wartehinweis(), 5);
+    auto* hilfe = new QShortcut(Qt::Key_F1, this);
+    QObject::connect(hilfe, &QShortcut::activated, this, [this] { logik_.taste_F1(); });
     resize(980, 700);
+}
+
+QWidget* Form1Fenster::wartehinweis() {
+    auto* flaeche = new QWidget(this);
+    binder().verbinden(logik_.µwartehinweis, flaeche, "µwartehinweis", {});
+    auto* aufbau = new QVBoxLayout(flaeche);
+    QLabel* titel = binder().label(logik_.µwarte_titel, "µwarte_titel");
+    titel->setStyleSheet("font-size: 34px; font-weight: bold;");
+    QLabel* text = binder().label(logik_.µwarte_text, "µwarte_text");
+    text->setStyleSheet("font-size: 20px; color: #626a78;");
+    aufbau->addStretch(2);
+    aufbau->addWidget(titel, 0, Qt::AlignHCenter);
+    aufbau->addSpacing(8);
+    aufbau->addWidget(text, 0, Qt::AlignHCenter);
+    aufbau->addStretch(3);
+    return flaeche;
 }
 
 QWidget* Form1Fenster::rennen_gruppe() {
