@@ -22,10 +22,8 @@ void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
 }  // namespace
 
 form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000)) {
-    timer1_->bei_tick = [this] {
-        timer1_->aus();
-        bildschirm_anpassen();
-    };
+    timer1_->bei_tick = [this] { timer1_tick(); };
+    µwartehinweis.sichtbar(false);
     befehle_verbinden();
     rennart.bei_aenderung = [this] {
         rennart_geaendert();
@@ -76,6 +74,17 @@ void form1::einstellungen_rufen(const std::function<void()>& wohin) {
     vor_dem_speichern_pruefen();  // the options window writes these fields too
     if (wohin) {
         wohin();
+    }
+}
+
+void form1::timer1_tick() {
+    if (!um_.fenster.ist_offen("Form1")) {  // a message of the start still waits for its answer
+        return;
+    }
+    timer1_->aus();
+    bildschirm_anpassen();
+    if (messgeraet_oeffnen) {
+        messgeraet_oeffnen();
     }
 }
 
@@ -181,6 +190,12 @@ void form1::rennen_uebergeben() {
 }
 
 void form1::Command1_Click() {
+    if (timer1_->laeuft()) {
+        timer1_tick();  // a race waits for its timing hardware
+    }
+    if (µwartehinweis.sichtbar()) {
+        return;
+    }
     renn_parameter& param = um_.param;
     param.auswertung_nach_rennen = um_.einst.auswertung_nach;
     param.wettkampf_kein = true;

@@ -42,6 +42,11 @@ public:
     bild startbild;                    ///< picture over the fields
     std::array<bild, 2> eigenes_bild;  ///< of the club, beside the start picture where the files are there
 
+    rahmen inhalt;         ///< all that the operator works on
+    rahmen µwartehinweis;  ///< in its place while a timing unit is set up
+    bezeichnung µwarte_titel;
+    bezeichnung µwarte_text;
+
     rahmen Frame_rennen;
     bezeichnung Label_rennart;
     auswahl rennart;
@@ -88,8 +93,7 @@ public:
     befehl Command12;         ///< track power off
     befehl Command13;         ///< take over the pictures of the drivers
     befehl command_tasten;    ///< key assignment
-    bezeichnung cu_label;     ///< how the Control Unit is reached; with it the command behind it
-    befehl command_cu;        ///< window of the Control Unit
+    befehl command_cu;        ///< window of the Control Unit, while that is the timing hardware
 
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
@@ -105,6 +109,10 @@ public:
     std::function<void()> cu_oeffnen;
     std::function<void()> fahrerbilder_uebernehmen;
     std::function<void()> fahrzeugbilder_uebernehmen;
+    /// A second after the window has appeared: opens timing hardware that is opened with it.
+    std::function<void()> messgeraet_oeffnen;
+    /// Chooses the command file of the AT-2560.
+    std::function<void()> befehlsdatei_waehlen;
 
     /// Load handler of the window.
     void laden();
@@ -129,9 +137,12 @@ public:
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
     void modus_anzeigen();
-    enum class cu_stand { kein_port, stumm, antwortet };
-    /// The controls of the Control Unit; hidden with other hardware.
-    void cu_zeigen(bool zeigen, cu_stand stand);
+    /// The timing hardware in force has lost its connection, or has it again.
+    void messgeraet_getrennt(bool getrennt);
+    /// The AT-2560 is set up: until it is, nobody works in the window.
+    void wartehinweis(bool an);
+    /// The key F1.
+    void taste_F1();
     /// Whether there are outputs that the track power commands switch.
     void bahnstrom_schaltbar(bool schaltbar);
     /// The settings file in force, and the one that the program starts with.
@@ -159,6 +170,7 @@ private:
     void fahrer_Change(int nummer);
     void ansagen_setzen();
     void einstellungen_rufen(const std::function<void()>& wohin);
+    void timer1_tick();
     void bildschirm_anpassen();
     bool kleiner_bildschirm() const;
 
@@ -172,7 +184,8 @@ private:
     std::string wort_liter_;
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;
-    std::array<std::string, 3> wort_cu_;  ///< index is the `cu_stand`
+    std::string wort_getrennt_;
+    bool getrennt_ = false;
     renndauer_angabe dauer_;  ///< what `renndauer` says
 };
 

@@ -39,9 +39,9 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahrerliste bearbeiten", Command8).tipp("Fahrzeugliste bearbeiten", Command9);
     texte.text("Zugeordnete Bilder: ", wort_bilder_).text("Beim Programmstart: ", wort_standarddatei_);
     texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
-    texte.text("Liter je Runde", wort_verbrauch_).text("Control Unit", command_cu);
-    texte.text("COM-Port nicht offen", wort_cu_[0]).text("antwortet nicht", wort_cu_[1]);
-    return texte.text("verbunden", wort_cu_[2]);
+    texte.text("Liter je Runde", wort_verbrauch_).text("Bitte warten!", µwarte_titel);
+    texte.text("AT-2560 Zeitmessung wird eingerichtet.", µwarte_text).text(" – keine Verbindung", wort_getrennt_);
+    return texte.text("Control Unit", command_cu);
 }
 
 void form1::ansagen_setzen() {
@@ -156,19 +156,30 @@ void form1::bahnstrom_schaltbar(bool schaltbar) {
     }
 }
 
-void form1::cu_zeigen(bool zeigen, cu_stand stand) {
-    cu_label.sichtbar(zeigen);
-    command_cu.sichtbar(zeigen);
-    cu_label.text(wort_cu_.at(static_cast<std::size_t>(stand)));
-}
-
 void form1::modus_anzeigen() {
     const int modus = um_.einst.hardware.modus();
     std::string status = um_.txt.hardware_name.at(static_cast<std::size_t>(modus));
     if (modus == messhardware::timekeeper) {
         status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
     }
-    modus_label.text(status);
+    command_cu.sichtbar(um_.einst.hardware.hw_cu);
+    modus_label.text(getrennt_ ? status + wort_getrennt_ : status);
+}
+
+void form1::messgeraet_getrennt(bool getrennt) {
+    getrennt_ = getrennt;
+    modus_anzeigen();
+}
+
+void form1::wartehinweis(bool an) {
+    µwartehinweis.sichtbar(an);
+    inhalt.sichtbar(!an);
+}
+
+void form1::taste_F1() {
+    if (um_.einst.hardware.hw_uart && !µwartehinweis.sichtbar() && befehlsdatei_waehlen) {
+        befehlsdatei_waehlen();
+    }
 }
 
 void form1::einstellungsname_anzeigen(std::string_view name, std::string_view standard) {

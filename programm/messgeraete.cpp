@@ -1,14 +1,19 @@
 #include "programm/messgeraete.h"
 
+#include <utility>
+
 namespace tarvel {
 
 messgeraete::messgeraete(const umgebung& um, const plattform::dienste& dienste)
     : cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit}, dienste),
+      at({um.einst, um.txt, um.ablage, um.ereignisse, dienste.uhr, dienste.zeitgeber, dienste.serienports,
+          dienste.meldungen}),
       um_(um),
       meldungen_(dienste.meldungen),
       anzeigetakt_(dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500)) {
     cu_verbinden();
-    anzeigetakt_->bei_tick = [this] { cu_anzeigen(); };
+    at_verbinden();
+    anzeigetakt_->bei_tick = [this] { verbindung_anzeigen(); };
 }
 
 void messgeraete::cu_verbinden() {
@@ -38,15 +43,40 @@ bool messgeraete::rennen_ruht() const {
            um_.rennen.zustand.rennen_beendet && um_.rennen.bahn1.Command1.bedienbar();
 }
 
+void messgeraete::at_verbinden() {
+    rennen& r = um_.rennen;
+    at.chaos_aktiv = [&r] { return r.zustand.chaos_aktiv; };
+    at.nach_ereignis = [&r] {
+        r.tanken.sensoren_nachhalten();
+        r.tanken.tank_kontakte_auswerten();
+    };
+    at.wartehinweis = [this](bool an) { um_.form1.wartehinweis(an); };
+    at.nicht_zu_oeffnen = [this] {
+        um_.einst.hardware.hw_uart = false;
+        um_.einst.hardware.hw_simulation = true;
+        um_.quellen.trennen(at);
+        um_.ausgaben.trennen(ausgabe_platz::at_2560);
+        um_.form1.modus_anzeigen();
+        um_.form1.bahnstrom_schaltbar(um_.ausgaben.angeschlossen());
+        meldungen_.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
+    };
+    at.verloren = [this] { verbindung_anzeigen(); };
+}
+
 void messgeraete::schliessen() {
     anzeigetakt_->aus();
-    um_.quellen.trennen(cu);
+    at_wartet_ = false;
+    for (messquelle* quelle : {static_cast<messquelle*>(&cu), static_cast<messquelle*>(&at)}) {
+        um_.quellen.trennen(*quelle);
+    }
     um_.ausgaben.trennen(ausgabe_platz::control_unit);
+    um_.ausgaben.trennen(ausgabe_platz::at_2560);
     cu.schliessen();
+    at.schliessen();
     um_.rennen.zeit.versatz(0);
 }
 
-void messgeraete::hardware_starten() {
+void messgeraete::hardware_starten(bool spaeter) {
     schliessen();
     if (um_.einst.hardware.hw_cu) {
         cu.mscomm1_oeffnen();
@@ -54,16 +84,31 @@ void messgeraete::hardware_starten() {
         um_.ausgaben.anschliessen(ausgabe_platz::control_unit, cu);
         anzeigetakt_->an();
     }
+    if (um_.einst.hardware.hw_uart) {
+        um_.quellen.anschliessen(at);
+        um_.ausgaben.anschliessen(ausgabe_platz::at_2560, at);
+        at_wartet_ = true;
+        if (!spaeter) {
+            nachholen();
+        }
+    }
     um_.ausgaben.einschalten();
     um_.ausgaben.ruhezustand();
-    cu_anzeigen();
+    um_.form1.modus_anzeigen();
+    um_.form1.bahnstrom_schaltbar(um_.ausgaben.angeschlossen());
+    verbindung_anzeigen();
 }
 
-void messgeraete::cu_anzeigen() {
-    const bool da = um_.einst.hardware.hw_cu;
-    um_.form1.cu_zeigen(da, !cu.port_offen() ? form1::cu_stand::kein_port
-                            : cu.antwortet() ? form1::cu_stand::antwortet
-                                             : form1::cu_stand::stumm);
+void messgeraete::nachholen() {
+    if (std::exchange(at_wartet_, false)) {
+        at.oeffnen();
+        verbindung_anzeigen();
+    }
+}
+
+void messgeraete::verbindung_anzeigen() {
+    const messhardware& hw = um_.einst.hardware;
+    um_.form1.messgeraet_getrennt((hw.hw_cu && !cu.antwortet()) || (hw.hw_uart && !at_wartet_ && !at.offen()));
 }
 
 }  // namespace tarvel

@@ -38,7 +38,7 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten,
                  fahrerliste, fahrzeugliste}),
-      geraete({einst, txt, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
+      geraete({einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
@@ -70,6 +70,7 @@ void programm::hauptfenster_verbinden() {
     form1.einstellungen_speichern = [this] { speichern_oeffnen(); };
     form1.einstellungen_laden = [this] { laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
+    form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.bahnstrom_ein = [this] {
         ausgaben.ampelnRoff(0);
         ausgaben.ampelnGRon();
@@ -342,9 +343,7 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
 }
 
 void programm::hardware_starten() {
-    geraete.hardware_starten();
-    form1.modus_anzeigen();
-    form1.bahnstrom_schaltbar(ausgaben.angeschlossen());
+    geraete.hardware_starten(!laden_aus_menue_);
     if (!laden_aus_menue_) {
         fenster.zeigen("Form1");
         fenster.zeigen("Form3");

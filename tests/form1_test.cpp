@@ -147,5 +147,22 @@ TEST_F(Form1, HakenZeigtDieTankoptionen) {
     EXPECT_EQ(f.tank_label.text(), "60 Liter, 7 Liter je Runde");
 }
 
+TEST_F(Form1, RennenWartetAufDasMessgeraet) {
+    int geoeffnet = 0;
+    f.messgeraet_oeffnen = [&] {
+        ++geoeffnet;
+        f.wartehinweis(true);
+    };
+    t.einrichten("Runden", "5", {1});  // within the first second of the window
+    EXPECT_EQ(geoeffnet, 1);
+    EXPECT_FALSE(f.inhalt.sichtbar());
+    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    t.maschine.laufen(3000);
+    EXPECT_EQ(geoeffnet, 1);
+    f.wartehinweis(false);
+    f.Command1.klicken();
+    EXPECT_TRUE(t.p.fenster.ist_offen("bahn1"));
+}
+
 }  // namespace
 }  // namespace tarvel

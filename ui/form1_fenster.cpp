@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "ui/stil.h"
@@ -55,7 +56,9 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     kopf_aufbau->addWidget(version, 0, Qt::AlignRight | Qt::AlignTop);
     aufbau->addWidget(kopf, 2);
 
-    auto* inhalt = new QVBoxLayout;
+    auto* flaeche = new QWidget(this);
+    binder().verbinden(logik.inhalt, flaeche, "inhalt", {});
+    auto* inhalt = new QVBoxLayout(flaeche);
     inhalt->setContentsMargins(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
@@ -64,8 +67,27 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
     inhalt->addWidget(rennbefehle());
     inhalt->addWidget(werkzeugbefehle());
     inhalt->addWidget(statuszeile());
-    aufbau->addLayout(inhalt, 5);
+    aufbau->addWidget(flaeche, 5);
+    aufbau->addWidget(wartehinweis(), 5);
+    auto* hilfe = new QShortcut(Qt::Key_F1, this);
+    QObject::connect(hilfe, &QShortcut::activated, this, [this] { logik_.taste_F1(); });
     resize(980, 700);
+}
+
+QWidget* Form1Fenster::wartehinweis() {
+    auto* flaeche = new QWidget(this);
+    binder().verbinden(logik_.µwartehinweis, flaeche, "µwartehinweis", {});
+    auto* aufbau = new QVBoxLayout(flaeche);
+    QLabel* titel = binder().label(logik_.µwarte_titel, "µwarte_titel");
+    titel->setStyleSheet("font-size: 34px; font-weight: bold;");
+    QLabel* text = binder().label(logik_.µwarte_text, "µwarte_text");
+    text->setStyleSheet("font-size: 20px; color: #626a78;");
+    aufbau->addStretch(2);
+    aufbau->addWidget(titel, 0, Qt::AlignHCenter);
+    aufbau->addSpacing(8);
+    aufbau->addWidget(text, 0, Qt::AlignHCenter);
+    aufbau->addStretch(3);
+    return flaeche;
 }
 
 QWidget* Form1Fenster::rennen_gruppe() {
@@ -218,7 +240,6 @@ QWidget* Form1Fenster::statuszeile() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(2, 0, 2, 0);
     aufbau->addWidget(stil::leise(binder().label(logik_.modus_label, "modus_label")));
-    aufbau->addWidget(stil::leise(binder().label(logik_.cu_label, "cu_label")));
     aufbau->addWidget(binder().knopf(logik_.command_cu, "command_cu"));
     QLabel* datei = stil::leise(binder().label(logik_.Label6, "Label6"));
     datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window

@@ -13,6 +13,7 @@ public:
     Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt);
 
 private:
+    QWidget* wartehinweis();
     QWidget* rennen_gruppe();
     QWidget* spuren_gruppe();
     QWidget* rennbefehle();

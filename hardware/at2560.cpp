@@ -1,0 +1,209 @@
+#include "hardware/at2560.h"
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int chaos_nachhall = 20;  // ticks of the chaos switch's timer that each message of the unit is good for
+
+/// Number of the word for this output; `alle` is the switching of all of them at once.
+std::size_t zeile_fuer(int nummer, bool an) {
+    constexpr int alle_an = 13;
+    constexpr int alle_aus = 14;
+    if (nummer == 0) {
+        return static_cast<std::size_t>(an ? alle_an : alle_aus);
+    }
+    return static_cast<std::size_t>(an ? nummer : nummer + 6);
+}
+
+const std::string& wort_fuer(const at_profil& profil, const schaltung& befehl) {
+    using ausgang = schaltung::ausgang;
+    constexpr int gruen = 6;
+    const std::size_t an_oder_aus = befehl.an ? 1 : 2;
+    switch (befehl.was) {
+        case ausgang::ampel_rot:
+            return profil.at_ampel.at(zeile_fuer(befehl.nummer, befehl.an));
+        case ausgang::ampel_gruen:
+            return profil.at_ampel.at(zeile_fuer(gruen, befehl.an));
+        case ausgang::bahnstrom:
+            return profil.at_bahnstrom.at(zeile_fuer(befehl.nummer, befehl.an));
+        case ausgang::chaosanzeige:
+            return profil.at_chaos.at(an_oder_aus);
+        case ausgang::rennende:
+            break;
+    }
+    return profil.at_rennende.at(an_oder_aus);
+}
+
+}  // namespace
+
+std::string at_port_werte(const einstellungen& einst) {
+    std::string stopbits = einst.uart_stopbits;
+    werte_pruefen2(stopbits);  // the comma parts the values
+    return einst.uart_baud + "," + einst.uart_parity + "," + std::to_string(einst.uart_datenbits) + "," + stopbits;
+}
+
+at2560::at2560(const umgebung& um)
+    : um_(um),
+      MSComm2_(um.serienports.erzeugen()),
+      tmr_µportopen_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit_ms)) {
+    MSComm2_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
+    MSComm2_->bei_verlust = [this] { verloren_melden(); };
+    tmr_µportopen_->bei_tick = [this] { tmr_µportopen_tick(); };
+}
+
+void at2560::profil_laden() {
+    const std::string& datei = um_.einst.uart_datei;
+    profil_ = {};
+    bool gut = true;
+    if (datei == at_standarddatei && !um_.ablage.gibt_es(datei)) {
+        gut = at_profil_speichern(um_.ablage, datei, profil_);
+    }
+    gut = at_profil_laden(um_.ablage, datei, profil_) && gut;
+    if (!gut) {
+        um_.meldungen.zeigen(um_.txt.meldung[26], um_.txt.titel[1]);
+    }
+}
+
+bool at2560::oeffnen() {
+    schliessen();
+    profil_laden();
+    if (!MSComm2_->oeffnen(um_.einst.uart_port, at_port_werte(um_.einst))) {
+        if (nicht_zu_oeffnen) {
+            nicht_zu_oeffnen();
+        }
+        return false;
+    }
+    if (um_.einst.hardware.hw_uart) {
+        tmr_µportopen_->an();
+        warten(true);
+    }
+    return true;
+}
+
+void at2560::schliessen() {
+    MSComm2_->schliessen();
+    empfang_.leeren();
+    at_zeitversatz_ = 0;
+    if (tmr_µportopen_->laeuft()) {
+        tmr_µportopen_->aus();
+        warten(false);
+    }
+}
+
+void at2560::verloren_melden() {
+    schliessen();
+    if (verloren) {
+        verloren();
+    }
+}
+
+void at2560::warten(bool an) {
+    if (wartehinweis) {
+        wartehinweis(an);
+    }
+}
+
+void at2560::tmr_µportopen_tick() {
+    tmr_µportopen_->aus();
+    at_senden(profil_.at_is_befehl);
+    warten(false);
+}
+
+void at2560::at_senden(std::string_view text) {
+    if (MSComm2_->offen()) {
+        MSComm2_->schreiben(nach_1252(profil_.at_startzeichen + std::string(text) + profil_.at_endzeichen) + '\r');
+    }
+}
+
+void at2560::rennfenster_offen() {
+    if (um_.einst.hardware.hw_uart && !MSComm2_->offen()) {
+        um_.meldungen.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
+    }
+}
+
+void at2560::rennen_bereit() {
+    empfang_.leeren();
+    at_zeitversatz_ = 0;
+    um_.ereignisse.chaos_at_zaehler = 0;
+}
+
+void at2560::rennstart() {
+    at_senden(profil_.at_rennstart);
+    at_senden(profil_.at_zeit_anfordern);
+}
+
+void at2560::schalten(const schaltung& befehl) {
+    at_senden(wort_fuer(profil_, befehl));
+}
+
+void at2560::empfangen(std::string_view bytes) {
+    constexpr zeit_ms abfragepause_ms = 100;
+    empfang_.anhaengen(bytes);
+    // One sequence a tick in a race, so that the race sees each of them. But the clock is still to be fetched before
+    // it, and in a pause nobody asks while the unit repeats that its chaos switch is on.
+    const bool ungefragt = um_.uhr.jetzt() - letzte_abfrage_ > abfragepause_ms;
+    while ((at_zeitversatz_ == 0 || ungefragt) && µC_neuer_befehl()) {
+        µC_wert_zerlegen();
+    }
+}
+
+void at2560::abfragen() {
+    letzte_abfrage_ = um_.uhr.jetzt();
+    if (µC_neuer_befehl()) {
+        µC_wert_zerlegen();
+    }
+}
+
+void at2560::µC_wert_zerlegen() {
+    const auto meldung = empfang_.meldung(profil_);
+    if (meldung && meldung->ereignis == profil_.at_zeit_anfordern) {
+        if (at_zeitversatz_ == 0) {
+            at_zeitversatz_ = um_.uhr.jetzt() - meldung->zeit;
+        }
+        return;
+    }
+    if (meldung) {
+        ereignis_melden(*meldung);
+    }
+    if (nach_ereignis) {
+        nach_ereignis();
+    }
+}
+
+void at2560::ereignis_melden(const at_meldung& meldung) {
+    ereignis_tabelle& ereignisse = um_.ereignisse;
+    if (ereignisse[art::chaostaster].aktiv && chaos_aktiv && chaos_aktiv()) {
+        ereignisse.chaos_at_zaehler = chaos_nachhall;
+    }
+    if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {
+        return;
+    }
+    const zeit_ms stempel = at_zeitversatz_ != 0 ? meldung.zeit + at_zeitversatz_ : ereignisse.messzeit;
+    for (int zeile = 1; zeile <= at_ereignisse_max; ++zeile) {
+        if (profil_.at_ereignis.at(static_cast<std::size_t>(zeile)) == meldung.ereignis) {
+            zeile_melden(zeile, stempel);
+        }
+    }
+}
+
+void at2560::zeile_melden(int zeile, zeit_ms stempel) {
+    constexpr std::size_t vor_dem_chaos = 30;  // a name that stands here too is a sector's, not a button's
+    constexpr ereignis_art erster_chaostaster = 54;
+    ereignis_tabelle& ereignisse = um_.ereignisse;
+    const ereignis_art nummer = at_art(zeile);
+    const std::string& name = profil_.at_ereignis.at(static_cast<std::size_t>(zeile));
+    ereignisse[nummer].aktiv = true;
+    ereignisse[nummer].ereignis_zeit = stempel;
+    const bool persoenlich = nummer >= erster_chaostaster && name != profil_.at_ereignis.at(vor_dem_chaos);
+    if (persoenlich) {
+        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
+        ereignisse[art::chaostaster].aktiv = true;
+    }
+    if (persoenlich || nummer == art::chaostaster) {
+        ereignisse.chaos_at_zaehler = chaos_nachhall;
+    }
+}
+
+}  // namespace tarvel

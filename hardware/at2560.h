@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "core/einstellungen.h"
+#include "core/texte.h"
+#include "hardware/at2560_empfang.h"
+#include "hardware/ausgaben.h"
+#include "hardware/messquelle.h"
+#include "platform/meldungen.h"
+#include "platform/serienport.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// Baud rate, parity, data bits and stop bits of the AT-2560's port as the port wants them.
+std::string at_port_werte(const einstellungen& einst);
+
+/// After the port opens the unit boots this long, and hears nothing.
+inline constexpr int at_bootzeit_ms = 3000;
+
+/// The timing unit AT-2560 USB. Its events carry the time of its own clock, which each race fetches anew; until it is
+/// known they are stamped with `messzeit`.
+class at2560 final : public messquelle, public ausgabe_geraet {
+public:
+    struct umgebung {
+        const einstellungen& einst;
+        const texte& txt;
+        const dateien& ablage;
+        ereignis_tabelle& ereignisse;
+        const plattform::uhr& uhr;
+        plattform::zeitgeber_dienst& zeitgeber;
+        plattform::serienport_dienst& serienports;
+        plattform::meldungen& meldungen;
+    };
+
+    explicit at2560(const umgebung& um);
+
+    /// A pause is on.
+    std::function<bool()> chaos_aktiv;
+    /// Events of the unit have reached the table: the fuel simulation looks at them at once.
+    std::function<void()> nach_ereignis;
+    /// The unit boots (true), or is ready for a race (false).
+    std::function<void(bool)> wartehinweis;
+    /// The port cannot be opened: the message, and back to the keyboard alone.
+    std::function<void()> nicht_zu_oeffnen;
+    /// The unit was unplugged.
+    std::function<void()> verloren;
+
+    /// Reads the command file and opens the port of the settings. If that fails, `nicht_zu_oeffnen` has run.
+    bool oeffnen();
+    void schliessen();
+    bool offen() const { return MSComm2_->offen(); }
+    /// Reads the command file of the settings; the default one is made if it is missing. A failure shows its message
+    /// and leaves the words of the factory.
+    void profil_laden();
+    const at_profil& profil() const { return profil_; }
+
+    /// Sends a sequence; dropped while the port is closed.
+    void at_senden(std::string_view text);
+
+    void abfragen() override;
+    void rennfenster_offen() override;
+    void rennen_bereit() override;
+    void rennstart() override;
+    void schalten(const schaltung& befehl) override;
+
+private:
+    void empfangen(std::string_view bytes);
+    void verloren_melden();
+    bool µC_neuer_befehl() { return empfang_.µC_neuer_befehl(profil_); }
+    void µC_wert_zerlegen();
+    void ereignis_melden(const at_meldung& meldung);
+    void zeile_melden(int zeile, zeit_ms stempel);
+    void tmr_µportopen_tick();
+    void warten(bool an);
+
+    umgebung um_;
+    std::unique_ptr<plattform::serienport> MSComm2_;
+    std::unique_ptr<plattform::zeitgeber> tmr_µportopen_;
+    at_profil profil_;
+    at_empfang empfang_;
+    zeit_ms at_zeitversatz_ = 0;  ///< what the machine's counter is ahead of the unit's clock; 0 until it is known
+    zeit_ms letzte_abfrage_ = 0;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "hardware/at2560.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel::test {
+
+/// A program with an AT-2560 at COM3, put together as the program does it.
+struct at2560_aufbau {
+    at2560_aufbau() {
+        t.maschine.anschluesse.da = {3};
+        t.p.einst.hardware.hw_uart = true;
+        t.p.quellen.anschliessen(geraet);
+        t.p.ausgaben.anschliessen(ausgabe_platz::at_2560, geraet);
+        geraet.chaos_aktiv = [this] { return t.p.rennen.zustand.chaos_aktiv; };
+        geraet.nach_ereignis = [this] {
+            t.p.rennen.tanken.sensoren_nachhalten();
+            t.p.rennen.tanken.tank_kontakte_auswerten();
+        };
+        geraet.wartehinweis = [this](bool an) { hinweise.push_back(an); };
+        geraet.nicht_zu_oeffnen = [this] { ++nicht_zu_oeffnen; };
+        geraet.verloren = [this] { ++verloren; };
+    }
+    /// Opens the port and waits until the unit has booted.
+    void oeffnen() {
+        geraet.oeffnen();
+        t.maschine.laufen(at_bootzeit_ms);
+        gesendet();
+    }
+    void oeffnen(const at_profil& profil) {
+        at_profil_speichern(t.p.ablage, at_standarddatei, profil);
+        oeffnen();
+    }
+    /// Bytes from the unit.
+    void sagt(std::string_view bytes) { t.maschine.anschluesse.senden(3, bytes); }
+    /// What was sent to it since the last asking.
+    std::string gesendet() { return std::exchange(t.maschine.anschluesse.geschrieben[3], {}); }
+    ereignis_zeile& zeile(ereignis_art art) { return t.p.ereignisse[art]; }
+
+    testprogramm t;
+    at2560 geraet{dienste_fuer(t)};
+    std::vector<bool> hinweise;
+    int nicht_zu_oeffnen = 0;
+    int verloren = 0;
+
+private:
+    static at2560::umgebung dienste_fuer(testprogramm& t) {
+        const plattform::dienste d = t.maschine.dienste();
+        return {t.p.einst, t.p.txt, t.p.ablage, t.p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen};
+    }
+};
+
+}  // namespace tarvel::test
