@@ -6,20 +6,12 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view portwerte = "19200,N,8,1";
-constexpr int comport_max = 20;
-constexpr std::string_view abfrage = "?\r";
 constexpr std::string_view starttaste_befehl = "T2P$";
-constexpr std::string_view programmierung_ruecksetzen = "J60980$";
-constexpr std::string_view anzeigen_ruecksetzen = "=101$";
 
-constexpr std::size_t empfang_max = 4096;  // characters: far more than ever wait between two ticks
-constexpr int durchgaenge_max = 100;       // slow passes without an end of a record
-constexpr zeit_ms antwort_max_ms = 50;     // then the poll is lost, and the next one goes out
-constexpr zeit_ms verbunden_ms = 1000;     // the unit counts as there for so long after a record
-constexpr zeit_ms uhr_sprung_ms = 2000;    // no answer is that late: the unit's clock has begun anew
+constexpr int durchgaenge_max = 100;     // slow passes without an end of a record
+constexpr zeit_ms verbunden_ms = 1000;   // the unit counts as there for so long after a record
+constexpr zeit_ms uhr_sprung_ms = 2000;  // no answer is that late: the unit's clock has begun anew
 constexpr zeit_ms uhr_umlauf = zeit_ms{1} << 32;
-constexpr int volle_stufe_tank = 14;
 
 /// What a car's passage at a sensor means; cars 7 and 8 have no lane.
 ereignis_art cu_art(int sensor, int fahrzeug) {
@@ -36,15 +28,18 @@ using plattform::zeitgeber_art;
 control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste)
     : um_(um),
       uhr_(dienste.uhr),
-      port_(dienste.serienports.erzeugen()),
+      leitung_(dienste),
       cu_abfrage_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
       cu_auswertung_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
       cu_tankabfrage_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)),
+      cu_tankentscheidung_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)),
+      cu_alter_rz_start_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
       cu_ende_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)) {
-    port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
-    cu_abfrage_timer_->bei_tick = [this] { cu_abfrage_tick(); };
+    cu_abfrage_timer_->bei_tick = [this] { leitung_.abfragen(); };
     cu_auswertung_timer_->bei_tick = [this] { cu_auswertung_tick(); };
-    cu_tankabfrage_->bei_tick = [this] { cu_tankabfrage_tick(); };
+    cu_tankabfrage_->bei_tick = [this] { leitung_.abfragen(); };
+    cu_tankentscheidung_->bei_tick = [this] { cu_tankentscheidung_tick(); };
+    cu_alter_rz_start_->bei_tick = [this] { cu_alter_rz_start_tick(); };
     cu_ende_timer_->bei_tick = [this] {
         cu_ende_timer_->aus();
         if (!im_startzustand()) {
@@ -55,85 +50,56 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
 
 bool control_unit::mscomm1_oeffnen() {
     schliessen();
-    const int nummer = um_.einst.cu_modus;
-    if (nummer < 1 || nummer > comport_max || !port_->oeffnen(nummer, portwerte)) {
+    if (!leitung_.oeffnen(um_.einst.cu_modus)) {
         return false;
     }
-    cu_tankabfrage_->an();
+    rennbetrieb(false);
     return true;
 }
 
 void control_unit::schliessen() {
-    port_->schliessen();
+    leitung_.schliessen();
     cu_abfrage_timer_->aus();
     cu_auswertung_timer_->aus();
     cu_tankabfrage_->aus();
+    cu_tankentscheidung_->aus();
+    cu_alter_rz_start_->aus();
     cu_ende_timer_->aus();
-    cu_empfang_.clear();
-    antwort_offen_ = false;
     geantwortet_ = 0;
     uhr_bekannt_ = false;
     letzter_stempel_ = 0;
     umlauf_ = 0;
-    startzustand_ = start::unbekannt;
+    cu_startzustand_ = start::unbekannt;
 }
 
 bool control_unit::antwortet() const {
-    return port_->offen() && geantwortet_ != 0 && uhr_.jetzt() - geantwortet_ <= verbunden_ms;
-}
-
-bool control_unit::senden(std::string_view befehl) {
-    return port_->offen() && port_->schreiben(std::string(1, cu::befehlszeichen).append(befehl));
+    return leitung_.offen() && geantwortet_ != 0 && uhr_.jetzt() - geantwortet_ <= verbunden_ms;
 }
 
 void control_unit::starttaste() {
-    senden(starttaste_befehl);
-}
-
-void control_unit::empfangen(std::string_view bytes) {
-    cu_empfang_.append(bytes);
-    if (cu_empfang_.size() > empfang_max) {
-        cu_empfang_.erase(0, cu_empfang_.size() - empfang_max);
-    }
-    if (bytes.find(cu::satzende) != std::string_view::npos) {
-        antwort_offen_ = false;
-    }
-}
-
-void control_unit::cu_abfrage_tick() {
-    const zeit_ms jetzt = uhr_.jetzt();
-    if (antwort_offen_ && jetzt - abgefragt_ < antwort_max_ms) {
-        return;  // polls must not queue up in front of the commands
-    }
-    antwort_offen_ = true;
-    abgefragt_ = jetzt;
-    senden(abfrage);
+    leitung_.senden(starttaste_befehl);
 }
 
 void control_unit::cu_auswertung_tick() {
-    const std::string satz = cu::satz_abtrennen(cu_empfang_);
+    const std::string satz = leitung_.satz();
     if (!satz.empty()) {
         satz_verarbeiten(satz);
     }
 }
 
-void control_unit::cu_tankabfrage_tick() {
-    cu_abfrage_tick();
-    const std::string satz = cu::satz_abtrennen(cu_empfang_);
+void control_unit::cu_tankentscheidung_tick() {
+    const std::string satz = leitung_.satz();
     if (!satz.empty()) {
         durchgaenge_ohne_satz_ = 0;
         satz_verarbeiten(satz);
-    } else if (!cu_empfang_.empty() && ++durchgaenge_ohne_satz_ >= durchgaenge_max) {
-        cu_empfang_.clear();
+    } else if (leitung_.rest_da() && ++durchgaenge_ohne_satz_ >= durchgaenge_max) {
+        leitung_.verwerfen();
         durchgaenge_ohne_satz_ = 0;
     }
 }
 
 void control_unit::satz_verarbeiten(const std::string& satz) {
     geantwortet_ = uhr_.jetzt();
-    if (bewirkt.satz_empfangen) {
-        bewirkt.satz_empfangen(satz);
-    }
     std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, cu::satz_lesen(satz));
 }
 
@@ -163,7 +129,8 @@ void control_unit::uhr_nachstellen(zeit_ms stempel) {
 }
 
 void control_unit::verarbeiten(const cu::rundenzaehler_bereit& /*bereit*/) {
-    if (um_.einst.cu_option && bewirkt.rennen_ruht()) {
+    if (cu_alter_rz_start_->laeuft() && bewirkt.rennen_ruht()) {
+        cu_alter_rz_start_->aus();
         bewirkt.rennen_vorbereiten();
     }
 }
@@ -174,7 +141,7 @@ void control_unit::verarbeiten(const cu::status& status) {
     }
     if (um_.param.tank_aktiv) {
         for (int bit = 0; bit < spuren_max - 1; ++bit) {
-            boxenstatus_[bit + 2] = (status.boxenbits >> bit & 1) != 0;
+            cu_boxenstatus_[bit + 2] = (status.boxenbits >> bit & 1) != 0;
         }
         cu_tank_auswerten(status);
     }
@@ -191,55 +158,68 @@ void control_unit::cu_tank_auswerten(const cu::status& status) {
 }
 
 void control_unit::startzustand_auswerten(bool steht) {
-    startzustand_ = steht ? start::steht : start::faehrt;
+    cu_startzustand_ = steht ? start::steht : start::faehrt;
     if (!steht) {
         neustart_wartet_ = false;
         nach_rennende_ = false;
-        chaos_durch_box_ = false;
+        cu_chaos_durch_box_ = false;
         return;
     }
     if (um_.einst.cu_sondermodus && !nach_rennende_ && bewirkt.rennen_ruht()) {
         bewirkt.rennen_vorbereiten();
     }
     if (rennen_laeuft_ && !neustart_wartet_ && bewirkt.rennen_laeuft()) {
-        chaos_durch_box_ = true;
+        cu_chaos_durch_box_ = true;
         um_.ereignisse.ereignis_melden(art::chaostaster);
     }
 }
 
 void control_unit::rennbetrieb(bool an) {
-    cu_tankabfrage_->aus();
-    cu_abfrage_timer_->aus();
-    cu_auswertung_timer_->aus();
+    for (const auto* zeitgeber :
+         {&cu_tankabfrage_, &cu_tankentscheidung_, &cu_alter_rz_start_, &cu_abfrage_timer_, &cu_auswertung_timer_}) {
+        (*zeitgeber)->aus();
+    }
     if (an) {
         cu_abfrage_timer_->an();
         cu_auswertung_timer_->an();
     } else {
         cu_tankabfrage_->an();
+        cu_tankentscheidung_->an();
     }
 }
 
 void control_unit::rennfenster_offen() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
-    chaos_durch_box_ = false;
-    if (!port_->offen()) {
+    cu_chaos_durch_box_ = false;
+    if (!leitung_.offen()) {
         bewirkt.port_fehlt();
         return;
     }
-    if (!im_startzustand() || nach_rennende_) {  // the reset would throw out who has pressed the key already
-        senden(programmierung_ruecksetzen);
-        senden(anzeigen_ruecksetzen);
+    const bool cu_nicht_zuruecksetzen = im_startzustand() && !nach_rennende_;
+    if (!cu_nicht_zuruecksetzen) {  // it would throw out who has pressed the key already
+        leitung_.senden(cu::programmierung_ruecksetzen);
+        leitung_.senden(cu::anzeigen_ruecksetzen);
     }
     for (const std::string& befehl : um_.einst.cu_reglerbefehl) {
-        senden(befehl);
+        leitung_.senden(befehl);
     }
     rennbetrieb(true);
+    if (um_.einst.cu_option) {
+        cu_alter_rz_start_->an();
+    }
+}
+
+void control_unit::cu_alter_rz_start_tick() {
+    leitung_.abfragen();
+    if (!um_.einst.cu_option || rennen_laeuft_) {
+        cu_alter_rz_start_->aus();
+    }
 }
 
 void control_unit::rennfenster_zu() {
     cu_ende_timer_->aus();
-    if (port_->offen()) {
+    if (leitung_.offen()) {
         rennbetrieb(false);
     }
 }
@@ -248,7 +228,7 @@ void control_unit::rennen_bereit() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();
-    if (um_.einst.cu_sondermodus && startzustand_ == start::faehrt) {
+    if (um_.einst.cu_sondermodus && cu_startzustand_ == start::faehrt) {
         starttaste();  // stops the cars; the second press starts the light
     }
 }
@@ -286,19 +266,23 @@ void control_unit::fuehrungsrunden(int runden) {
     const bool rundenrennen = um_.param.renn_art_text == um_.txt.text_runden;
     const int wert = rundenrennen ? static_cast<int>(um_.param.renn_ziel) - runden : runden;
     for (const std::string& befehl : cu::anzeigebefehle(wert)) {
-        senden(befehl);
+        leitung_.senden(befehl);
     }
 }
 
 void control_unit::platz(int spur, int platz) {
+    cu_werte_senden(spur, platz);
+}
+
+void control_unit::cu_werte_senden(int spur, int platz) {
     for (const std::string& befehl : cu::platzbefehle(spur, platz)) {
-        senden(befehl);
+        leitung_.senden(befehl);
     }
 }
 
 void control_unit::schalten(const schaltung& befehl) {
     // its cars know no track power: what stops them in a pause is its start key
-    if (befehl.was == schaltung::ausgang::chaosanzeige && befehl.an && startzustand_ == start::faehrt) {
+    if (befehl.was == schaltung::ausgang::chaosanzeige && befehl.an && cu_startzustand_ == start::faehrt) {
         starttaste();
     }
 }

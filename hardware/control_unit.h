@@ -3,17 +3,15 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "core/renn_parameter.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
-#include "hardware/cu_protokoll.h"
+#include "hardware/cu_leitung.h"
 #include "hardware/ereignisse.h"
 #include "hardware/messquelle.h"
 #include "hardware/zeitbasis.h"
 #include "platform/dienste.h"
-#include "platform/serienport.h"
 #include "platform/zeitgeber.h"
 
 namespace tarvel {
@@ -32,14 +30,13 @@ public:
 
     /// What the unit brings about in the program.
     struct wirkung {
-        std::function<void(zeit_ms um)> stempel_verschieben;        ///< all stamps so far move by so many ms
-        std::function<bool()> rennen_ruht;                          ///< the race window waits for a start
-        std::function<bool()> rennen_laeuft;                        ///< and is neither paused nor over
-        std::function<void()> rennen_vorbereiten;                   ///< as the start command
-        std::function<void(int spur, int stufe)> fuellstand;        ///< 0 to 15, of 14
-        std::function<void(bool an)> tankfunktion;                  ///< before a race: the unit drives with fuel
-        std::function<void()> port_fehlt;                           ///< a race window opens without the unit
-        std::function<void(std::string_view satz)> satz_empfangen;  ///< each record, for who looks on
+        std::function<void(zeit_ms um)> stempel_verschieben;  ///< all stamps so far move by so many ms
+        std::function<bool()> rennen_ruht;                    ///< the race window waits for a start
+        std::function<bool()> rennen_laeuft;                  ///< and is neither paused nor over
+        std::function<void()> rennen_vorbereiten;             ///< as the start command
+        std::function<void(int spur, int stufe)> fuellstand;  ///< 0 to 15, of 14
+        std::function<void(bool an)> tankfunktion;            ///< before a race: the unit drives with fuel
+        std::function<void()> port_fehlt;                     ///< a race window opens without the unit
     };
 
     control_unit(const umgebung& um, const plattform::dienste& dienste);
@@ -49,19 +46,17 @@ public:
     /// Opens the port of the settings; false if they name none or it is not there.
     bool mscomm1_oeffnen();
     void schliessen();
-    bool port_offen() const { return port_->offen(); }
+    bool port_offen() const { return leitung_.offen(); }
     /// The unit has answered within the last second.
     bool antwortet() const;
-    /// Writes a command; false on a closed port.
-    bool senden(std::string_view befehl);
 
-    bool im_startzustand() const { return startzustand_ == start::steht; }
-    bool in_der_box(int spur) const { return boxenstatus_[spur]; }
+    bool im_startzustand() const { return cu_startzustand_ == start::steht; }
+    bool in_der_box(int spur) const { return cu_boxenstatus_[spur]; }
     /// The pause that is was begun at the unit itself.
-    bool chaos_durch_box() const { return chaos_durch_box_; }
+    bool chaos_durch_box() const { return cu_chaos_durch_box_; }
 
     void abfragen() override {}
-    geraeteampel* ampel() override { return port_->offen() ? this : nullptr; }
+    geraeteampel* ampel() override { return leitung_.offen() ? this : nullptr; }
     void rennfenster_offen() override;
     void rennfenster_zu() override;
     void rennen_bereit() override;
@@ -79,10 +74,10 @@ private:
     void abbrechen() override;
     void neustart() override;
 
-    void empfangen(std::string_view bytes);
-    void cu_abfrage_tick();
     void cu_auswertung_tick();
-    void cu_tankabfrage_tick();
+    void cu_tankentscheidung_tick();
+    void cu_alter_rz_start_tick();
+    void cu_werte_senden(int spur, int platz);
     void satz_verarbeiten(const std::string& satz);
     void verarbeiten(std::monostate /*nichts*/) {}
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
@@ -96,28 +91,27 @@ private:
 
     umgebung um_;
     const plattform::uhr& uhr_;
-    std::unique_ptr<plattform::serienport> port_;
+    cu_leitung leitung_;
     std::unique_ptr<plattform::zeitgeber> cu_abfrage_timer_;     ///< polls while the race window is open
     std::unique_ptr<plattform::zeitgeber> cu_auswertung_timer_;  ///< and takes one record at a time
-    std::unique_ptr<plattform::zeitgeber> cu_tankabfrage_;       ///< both, slowly, before
-    std::unique_ptr<plattform::zeitgeber> cu_ende_timer_;        ///< stops the cars after the race
+    std::unique_ptr<plattform::zeitgeber> cu_tankabfrage_;       ///< both, slowly, while no race window is open
+    std::unique_ptr<plattform::zeitgeber> cu_tankentscheidung_;
+    std::unique_ptr<plattform::zeitgeber> cu_alter_rz_start_;  ///< waits for the lap counter box to start a race
+    std::unique_ptr<plattform::zeitgeber> cu_ende_timer_;      ///< stops the cars after the race
 
-    std::string cu_empfang_;
     int durchgaenge_ohne_satz_ = 0;
-    bool antwort_offen_ = false;  ///< the last poll waits for its answer
-    zeit_ms abgefragt_ = 0;       ///< reading of the machine's clock at the last poll
-    zeit_ms geantwortet_ = 0;     ///< at the last record, 0 none
+    zeit_ms geantwortet_ = 0;  ///< at the last record, 0 none
 
     bool uhr_bekannt_ = false;
     zeit_ms letzter_stempel_ = 0;
     zeit_ms umlauf_ = 0;  ///< what the overflows of the unit's clock add up to
     spuren<int> cu_tank_wert_;
-    spuren<bool> boxenstatus_;
-    start startzustand_ = start::unbekannt;
+    spuren<bool> cu_boxenstatus_;
+    start cu_startzustand_ = start::unbekannt;
     bool rennen_laeuft_ = false;    ///< between its start and its end
     bool neustart_wartet_ = false;  ///< the start key was pressed, the unit's light runs
     bool nach_rennende_ = false;    ///< the start state is the one that has ended the race
-    bool chaos_durch_box_ = false;
+    bool cu_chaos_durch_box_ = false;
 };
 
 }  // namespace tarvel

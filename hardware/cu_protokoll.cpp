@@ -150,6 +150,12 @@ char pruefzeichen(std::string_view drei) {
     return static_cast<char>((summe % 10) | 0x30);
 }
 
+std::string reglerbefehl(int befehl, int regler, int wert) {
+    const std::string ziffern{static_cast<char>('0' + befehl), static_cast<char>('0' + 2 * (regler - 1))};
+    const std::string wertziffern{static_cast<char>('0' + wert / 10), static_cast<char>('0' + wert % 10)};
+    return "J" + ziffern + wertziffern + "1" + pruefzeichen(ziffern + "1") + satzende;
+}
+
 std::array<std::string, 2> anzeigebefehle(int wert) {
     constexpr int anzeige_max = 250;
     const int gezeigt = wert > anzeige_max ? wert % 100 : std::max(wert, 0);

@@ -50,6 +50,11 @@ meldung satz_lesen(std::string_view satz);
 /// The eight characters of a stamp; nothing if one of them is no digit of sixteen.
 std::optional<std::uint32_t> stempel_lesen(std::string_view zeichen);
 
+inline constexpr std::string_view programmierung_ruecksetzen = "J60980$";
+inline constexpr std::string_view anzeigen_ruecksetzen = "=101$";
+/// Sets a value of the controller of lane 1 to 6: `befehl` is 0 to 15, `wert` 0 to 99.
+std::string reglerbefehl(int befehl, int regler, int wert);
+
 /// Over the three characters in front of it.
 char pruefzeichen(std::string_view drei);
 

@@ -6,6 +6,7 @@ namespace tarvel {
 
 messgeraete::messgeraete(const umgebung& um, const plattform::dienste& dienste)
     : cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit}, dienste),
+      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, dienste),
       at({um.einst, um.txt, um.ablage, um.ereignisse, dienste.uhr, dienste.zeitgeber, dienste.serienports,
           dienste.meldungen}),
       um_(um),
@@ -35,6 +36,16 @@ void messgeraete::cu_verbinden() {
             um_.form1.tankoptionen_zeigen();
         }
     };
+    cu_eigenschaften.port_belegen = [this](bool belegt) {
+        if (belegt) {
+            cu.schliessen();
+        } else if (um_.einst.hardware.hw_cu) {
+            cu.mscomm1_oeffnen();
+        }
+    };
+    um_.form1.cu_oeffnen = [this] { um_.fenster.zeigen("cu_eigenschaften", anzeige_art::modal); };
+    um_.fenster.anmelden("cu_eigenschaften",
+                         {[this] { cu_eigenschaften.laden(); }, [this] { cu_eigenschaften.entladen(); }});
     cu.bewirkt.port_fehlt = [this] { meldungen_.zeigen(um_.txt.meldung[14], um_.txt.titel[1]); };
 }
 

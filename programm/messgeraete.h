@@ -6,6 +6,7 @@
 #include "core/form1.h"
 #include "hardware/at2560.h"
 #include "hardware/control_unit.h"
+#include "hardware/cu_eigenschaften.h"
 #include "race/rennen.h"
 
 namespace tarvel {
@@ -28,6 +29,7 @@ public:
     messgeraete(const umgebung& um, const plattform::dienste& dienste);
 
     control_unit cu;
+    tarvel::cu_eigenschaften cu_eigenschaften;
     at2560 at;
 
     /// Closes whatever was open, opens the device of the settings and puts the outputs to rest. A device that cannot be

@@ -111,6 +111,10 @@ void programm::optionen_verbinden() {
         }
         form1.beste_zeiten_anzeigen();
     };
+    geraete.cu_eigenschaften.einstellungen_speichern = [this] {
+        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
+        return !datei.fehler_laden();
+    };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
         hardware_starten();
@@ -188,6 +192,7 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(beste_zeiten_fenster.sprache_best());
     alle.push_back(beste_zeiten_verwaltung.sprache_bt());
     alle.push_back(tastaturbelegung.sprache_e_tast());
+    alle.push_back(geraete.cu_eigenschaften.sprache_e_cu());
     alle.push_back(rundenspeichern.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
     alle.push_back(fahrerbild_laden.sprache_fbl());
@@ -358,7 +363,7 @@ void programm::programm_beenden() {
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
     geraete.schliessen();
-    constexpr std::array<std::string_view, 15> reihenfolge{"auswertung",
+    constexpr std::array<std::string_view, 16> reihenfolge{"auswertung",
                                                            "bahn1",
                                                            "einstellungen",
                                                            "fahrerspeichernfenster",
@@ -369,6 +374,7 @@ void programm::programm_beenden() {
                                                            "speichernfenster",
                                                            "Form1",
                                                            "beste_zeiten_fenster",
+                                                           "cu_eigenschaften",
                                                            "Tastaturbelegung",
                                                            "fahrerbild_laden",
                                                            "Update_form",

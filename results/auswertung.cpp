@@ -169,6 +169,7 @@ void auswertung::auswertung_anzeigen() {
             spur_anzeigen(spur);
         }
     }
+    um_.quellen.melden<int, int>(&messquelle::platz, u_.stand.fuehrende_spur(), 1);
     verlauf_nachfuehren();
 }
 

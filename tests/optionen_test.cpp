@@ -85,6 +85,7 @@ TEST_F(Optionen, AbbrechenAendertNichts) {
 }
 
 TEST_F(Optionen, EineMesshardwareZurZeit) {
+    t.maschine.anschluesse.da = {einst.uart_port};
     for (const std::size_t nummer : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 0U}) {
         fenster.hardware.at(nummer).umschalten();
         uebernehmen();
@@ -94,7 +95,7 @@ TEST_F(Optionen, EineMesshardwareZurZeit) {
                   1);
         EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? 4 : 3);
         EXPECT_EQ(einst.hardware.hw_simulation, nummer == 0 || nummer > 5) << nummer;
-        const std::string zusatz = nummer == 5 ? ": Kein Modus" : "";
+        const std::string zusatz = nummer == 5 ? ": Kein Modus" : nummer == 6 ? " – keine Verbindung" : "";
         EXPECT_EQ(t.p.form1.modus_label.text(), t.p.txt.hardware_name.at(nummer) + zusatz);
     }
 }

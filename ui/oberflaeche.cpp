@@ -15,6 +15,7 @@ Oberflaeche::Oberflaeche(programm& p)
       rundenspeichern(p.rundenspeichern.fenster, "rundenspeichern", takt, &auswertung),
       bestzeiten(p.beste_zeiten_fenster, takt, &auswertung),
       tastatur(p.tastaturbelegung, takt, &form1),
+      cu(p.geraete.cu_eigenschaften, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
       bestzeitverwaltung(p.beste_zeiten_verwaltung, takt, &einstellungen),
@@ -32,6 +33,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("beste_zeiten_fenster", &bestzeiten);
     fenster.aufnehmen("beste_zeiten_verwaltung", &bestzeitverwaltung);
     fenster.aufnehmen("Tastaturbelegung", &tastatur);
+    fenster.aufnehmen("cu_eigenschaften", &cu);
     fenster.aufnehmen("speichernfenster", &speichern);
     fenster.aufnehmen("einstellungen", &einstellungen);
     fenster.aufnehmen("fahrerbild_laden", &bildwahl);
@@ -48,6 +50,7 @@ Oberflaeche::Oberflaeche(programm& p)
     bestzeiten.escape_schliesst();
     bestzeitverwaltung.escape_schliesst();
     tastatur.escape_schliesst();
+    cu.escape_schliesst();
     speichern.escape_schliesst();
     rundenspeichern.escape_schliesst();
     einstellungen.escape_schliesst();
@@ -74,6 +77,7 @@ Oberflaeche::Oberflaeche(programm& p)
     fahrerspeichern.bei_schliessen = [&p] { p.fenster.entladen("fahrerspeichernfenster"); };
     einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };
     bildwahl.bei_schliessen = [&p] { p.fahrerbild_laden.abbrechen(); };
+    cu.bei_schliessen = [&p] { p.fenster.entladen("cu_eigenschaften"); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
 }
 

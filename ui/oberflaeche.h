@@ -6,6 +6,7 @@
 #include "ui/bestzeiten_fenster.h"
 #include "ui/bestzeitverwaltung_fenster.h"
 #include "ui/bildwahl_fenster.h"
+#include "ui/cu_fenster.h"
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
@@ -37,6 +38,7 @@ public:
     SpeichernFenster rundenspeichern;
     BestzeitenFenster bestzeiten;
     TastaturFenster tastatur;
+    CuFenster cu;
     SpeichernFenster speichern;
     EinstellungenFenster einstellungen;
     BestzeitverwaltungFenster bestzeitverwaltung;

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/einstellungen.h"
+#include "core/fensterregister.h"
+#include "core/sprache.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "hardware/cu_leitung.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The window in which a Control Unit is looked for, tried and set up. While it is open it has the unit's port to
+/// itself.
+class cu_eigenschaften {
+public:
+    struct umgebung {
+        einstellungen& einst;
+        const texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+    };
+
+    cu_eigenschaften(const umgebung& um, const plattform::dienste& dienste);
+
+    /// The port is needed here (true), or free again (false).
+    std::function<void(bool)> port_belegen;
+    /// Keeps the settings; false if that failed.
+    std::function<bool()> einstellungen_speichern;
+
+    rahmen titel;  ///< carries the window's title
+    rahmen Frame_port;
+    bezeichnung Label_port;
+    auswahl cbo_cu_comport;  ///< entry 0 is no port, entry n is COMn
+    befehl Command1;         ///< close the port
+    befehl Command2;         ///< open it
+    befehl Command8;         ///< look for the unit on all ports
+    rahmen Frame_optionen;
+    haken opt_cu_tankautomatik;
+    haken opt_cu_prgstart;
+    haken opt_cu_alterRZ;
+    rahmen Frame_wagen;
+    bezeichnung Label_wagen;  ///< captions of the columns
+    bezeichnung Label_runden;
+    bezeichnung Label_zeit;
+    bezeichnung Label_tank;
+    bezeichnung Label_tankgroesse;
+    bezeichnung Label_box;
+    spuren<bezeichnung> wagen;
+    spuren<bezeichnung> rundenanzeige;
+    spuren<bezeichnung> zeitanzeige;
+    spuren<bezeichnung> tank;
+    spuren<auswahl> cbo_cu_tankgroesse;
+    spuren<form> Shape1;  ///< the car is in the pit lane
+    rahmen Frame_status;
+    liste List1;
+    haken timer_aus;   ///< no polls
+    befehl Command9;   ///< writes the list to a file
+    befehl Command3;   ///< asks for the version
+    befehl Command6;   ///< resets the unit
+    befehl Command14;  ///< laps of the leader to the display
+    rahmen Frame_senden;
+    bezeichnung Label_befehl;
+    feld Text1;
+    befehl Command7;  ///< sends it as it stands
+    rahmen Frame_codieren;
+    std::array<bezeichnung, 4> Label_code;  ///< captions of the next four
+    feld Text2;                             ///< number of the command, 0 to 15
+    feld Text3;                             ///< controller, 1 to 6
+    feld Text4;                             ///< value, 0 to 99
+    feld Text5;                             ///< check character, filled in here
+    befehl Command10;
+    befehl Command4;  ///< keeps the options and closes
+
+    void laden();
+    void entladen();
+    sprachliste sprache_e_cu();
+
+private:
+    void befehle_verbinden();
+    void anzeigen_leeren();
+    void melden(std::string_view zeile);
+    /// The port is open; else says so.
+    bool port_bereit();
+    void oeffnen();
+    void senden(const std::string& befehl);
+    void codieren();
+    void suche_beginnen();
+    void port_tick();
+    void suche_fortsetzen();
+    void suche_beenden(int gefunden);
+    void abfrage_tick();
+    void auswertung_tick();
+    void protokollieren(const std::string& satz);
+    void verarbeiten(std::monostate /*nichts*/) {}
+    void verarbeiten(const cu::ueberfahrt& ueberfahrt);
+    void verarbeiten(const cu::status& status);
+    void verarbeiten(const cu::rundenzaehler_bereit& /*bereit*/) {}
+    void proto_schreiben();
+    void uebernehmen();
+
+    umgebung um_;
+    plattform::meldungen& meldungen_;
+    const plattform::serienport_dienst& ports_;
+    cu_leitung leitung_;
+    std::unique_ptr<plattform::zeitgeber> Timer1_;      ///< polls
+    std::unique_ptr<plattform::zeitgeber> Timer2_;      ///< takes a record
+    std::unique_ptr<plattform::zeitgeber> port_timer_;  ///< the next port of the search
+
+    std::vector<int> zu_pruefen_;  ///< COM numbers that the search has not tried yet, the next one last
+    int prueft_ = 0;               ///< the one that it tries, 0 none
+    std::string letzter_status_;   ///< what is repeated is not listed again
+    spuren<int> runden_;
+    spuren<zeit_ms> stempel_;
+
+    std::string port_text_;
+    std::string sende_text_;
+    std::string kein_port_text_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "hardware/cu_eigenschaften.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window of the Control Unit.
+class CuFenster final : public Fenster {
+public:
+    CuFenster(cu_eigenschaften& logik, Bildtakt& takt, QWidget* eltern);
+
+private:
+    QWidget* portgruppe();
+    QWidget* optionengruppe();
+    QWidget* wagengruppe();
+    QWidget* statusgruppe();
+    QWidget* befehlsgruppe();
+    QWidget* codiergruppe();
+
+    cu_eigenschaften& logik_;
+};
+
+}  // namespace tarvel::ui
