@@ -172,8 +172,8 @@ void form1::messgeraet_getrennt(bool getrennt) {
 }
 
 void form1::wartehinweis(bool an) {
-    µwartehinweis.sichtbar(an);
-    inhalt.sichtbar(!an);
+    (an ? inhalt : µwartehinweis).sichtbar(false);  // first: both at once would make the window grow
+    (an ? µwartehinweis : inhalt).sichtbar(true);
 }
 
 void form1::taste_F1() {

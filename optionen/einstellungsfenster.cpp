@@ -42,9 +42,15 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
                                        zeile("schema_hinzufuegen")});
-    std::get<befehl>(zeile("bestzeiten_verwalten").element).bei_klick = [this] {
-        if (bestzeiten_verwalten) {
-            bestzeiten_verwalten();
+    aktion_verbinden("bestzeiten_verwalten", bestzeiten_verwalten);
+    aktion_verbinden("uart_einrichten", uart_einrichten);
+    aktion_verbinden("uart_datei_waehlen", uart_datei_waehlen);
+}
+
+void einstellungsfenster::aktion_verbinden(std::string_view name, const std::function<void()>& wohin) {
+    std::get<befehl>(zeile(name).element).bei_klick = [&wohin] {
+        if (wohin) {
+            wohin();
         }
     };
 }
@@ -217,6 +223,12 @@ void einstellungsfenster::werte_zeigen() {
 void einstellungsfenster::bestzeiten_zeigen() {
     std::get<auswahl>(zeile("beste_datei").element).eintraege(bestzeit_auswahl(um_.ablage, um_.ziel.einst.beste_datei));
     for (const char* name : {"beste_datei", "Combo1"}) {
+        zeile(name).zeigen(um_.ziel);
+    }
+}
+
+void einstellungsfenster::uart_zeigen() {
+    for (const char* name : {"uart_port", "uart_datei"}) {
         zeile(name).zeigen(um_.ziel);
     }
 }

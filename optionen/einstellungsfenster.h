@@ -79,6 +79,10 @@ public:
 
     /// Opens the window of the best times.
     std::function<void()> bestzeiten_verwalten;
+    /// Opens the wizard of the AT-2560.
+    std::function<void()> uart_einrichten;
+    /// Chooses the command file of the AT-2560.
+    std::function<void()> uart_datei_waehlen;
 
     /// Load handler: all texts and all values.
     void laden();
@@ -86,6 +90,8 @@ public:
     void oeffnen(seitennummer erste);
     /// Shows what the settings say of the best times now, and the files that are there.
     void bestzeiten_zeigen();
+    /// Shows what the settings say of the AT-2560 now.
+    void uart_zeigen();
     /// The language files of the window.
     std::vector<sprachliste> sprachdateien();
 
@@ -101,6 +107,7 @@ private:
     void hardware_waehlen(std::size_t nummer);
     void hardware_gruppen_zeigen();
     void hardware_uebernehmen();
+    void aktion_verbinden(std::string_view name, const std::function<void()>& wohin);
     void sounds_verbinden();
     void sounds_auffrischen();
     void werte_zeigen();

@@ -134,7 +134,9 @@ void at_2560(optionsseite& seite) {
         << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart_datenbits), begrenzt(4, 8))
         << wortliste({"uart_parity", "Parität"}, wert(&e::uart_parity), {"N", "E", "O", "M", "S"})
         << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart_stopbits), {"1", "1.5", "2"})
-        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60, 6);
+        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60, 6)
+        << aktion({"uart_datei_waehlen", "Befehlsdatei auswählen"})
+        << aktion({"uart_einrichten", "Zeitmessung einrichten"});
 }
 
 }  // namespace

@@ -51,12 +51,15 @@ programm::programm(const plattform::dienste& d)
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
       beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
+      uart_einstellungen({einst, txt, ablage, fenster, d.meldungen, d.zeitgeber, d.serienports}),
+      uart_profildatei({ablage, txt, fenster, d.meldungen}),
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
           {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
     hauptfenster_verbinden();
     optionen_verbinden();
     bestzeiten_verbinden();
+    uart_verbinden();
     rennen.chaos.neustart_ampel = [this] {
         if (!fenster.ist_offen("k_ampel")) {
             fenster.zeigen("k_ampel");
@@ -147,6 +150,9 @@ void programm::fenster_anmelden() {
     // a picture that was chosen is copied at once, also if the list is not taken over
     fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, [this] { form1.bilder_anzeigen(); }});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
+    fenster.anmelden("UART_einstellungen",
+                     {[this] { uart_einstellungen.laden(); }, [this] { uart_einstellungen.entladen(); }});
+    fenster.anmelden("UART_Profildatei", {[this] { uart_profildatei.laden(); }, {}});
 }
 
 bool programm::starten() {
@@ -196,6 +202,8 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(rundenspeichern.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
     alle.push_back(fahrerbild_laden.sprache_fbl());
+    alle.push_back(uart_einstellungen.sprache());
+    alle.push_back(uart_profildatei.sprache());
     for (sprachliste& sprache : einstellungsfenster.sprachdateien()) {
         alle.push_back(std::move(sprache));
     }
@@ -362,8 +370,9 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
+    uart_einstellungen.geraet_verbinden = nullptr;  // its window closes for good
     geraete.schliessen();
-    constexpr std::array<std::string_view, 16> reihenfolge{"auswertung",
+    constexpr std::array<std::string_view, 18> reihenfolge{"auswertung",
                                                            "bahn1",
                                                            "einstellungen",
                                                            "fahrerspeichernfenster",
@@ -377,6 +386,8 @@ void programm::programm_beenden() {
                                                            "cu_eigenschaften",
                                                            "Tastaturbelegung",
                                                            "fahrerbild_laden",
+                                                           "UART_einstellungen",
+                                                           "UART_Profildatei",
                                                            "Update_form",
                                                            "beste_zeiten_verwaltung"};
     for (const std::string_view name : reihenfolge) {

@@ -19,6 +19,8 @@
 #include "hardware/messquelle.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
+#include "hardware/uart_einstellungen.h"
+#include "hardware/uart_profildatei.h"
 #include "optionen/beste_zeiten_verwaltung.h"
 #include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
@@ -85,6 +87,8 @@ public:
     tarvel::speichernfenster fahrerspeichernfenster;
     tarvel::bildwahl fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
+    tarvel::uart_einstellungen uart_einstellungen;
+    tarvel::uart_profildatei uart_profildatei;
     tarvel::einstellungsfenster einstellungsfenster;
 
 private:
@@ -112,6 +116,7 @@ private:
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
     void bestzeiten_verbinden();
+    void uart_verbinden();
     void hardware_starten();
     /// The best times of the settings in force; a missing file shows its message.
     void bestzeiten_laden();

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "hardware/at2560.h"
 #include "tests/plattform/testprogramm.h"
 #include "ui/oberflaeche.h"
 #include "ui/stil.h"
@@ -153,6 +154,39 @@ QWidget& pause_allein(buehne& b) {
     b.t.bahn().Command3.klicken();
     b.t.maschine.laufen(3000);
     return b.o.bahn1;
+}
+
+/// The wizard of the AT-2560 on this page, after four sensors have been heard.
+template <int seite>
+QWidget& uart_assistent(buehne& b) {
+    b.t.maschine.anschluesse.da = {1, 3};
+    optionsseite_zeigen<7>(b);
+    b.p.einstellungsfenster.uart_einrichten();
+    uart_einstellungen& w = b.p.uart_einstellungen;
+    const auto sagt = [&](const char* bytes) { b.t.maschine.anschluesse.senden(3, bytes); };
+    b.t.maschine.waehrend_meldung = [&b, nummer = 0]() mutable {
+        b.t.maschine.anschluesse.da = nummer++ == 0 ? std::set<int>{1} : std::set<int>{1, 3};
+    };
+    b.t.maschine.antwort = true;
+    w.port_ermitteln.klicken();
+    for (int nummer = 0; nummer < seite; ++nummer) {
+        if (nummer == uart_einstellungen::seite_anzahl) {
+            w.sensoranzahl.eingeben("8");
+        }
+        w.weiter.klicken();
+        b.t.maschine.laufen(at_bootzeit_ms);
+        if (nummer + 1 == uart_einstellungen::seite_sensoren) {
+            sagt(":S13,1001;:S11,2417;:S9,3830;:S7,5222;");
+            for (std::size_t i = 0; i < 4; ++i) {
+                w.sensoren.at(i).funktion.waehlen(1);
+            }
+        } else if (nummer + 1 == uart_einstellungen::seite_chaos) {
+            w.chaos_anzahl.waehlen(4);
+            w.stecker.waehlen(1);
+            sagt(":S2,9001;:S3,9100;");
+        }
+    }
+    return b.o.uart_einstellungen;
 }
 
 using szene = QWidget& (*)(buehne&);
@@ -306,6 +340,30 @@ const std::vector<szeneneintrag> szenen{
          return b.o.tastatur;
      },
      true},
+    {"uart_port", uart_assistent<uart_einstellungen::seite_port>},
+    {"uart_anzahl", uart_assistent<uart_einstellungen::seite_anzahl>},
+    {"uart_sensoren", uart_assistent<uart_einstellungen::seite_sensoren>},
+    {"uart_chaos", uart_assistent<uart_einstellungen::seite_chaos>},
+    {"uart_fertig", uart_assistent<uart_einstellungen::seite_fertig>},
+    {"uart_wartehinweis",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.wartehinweis(true);
+         return b.o.form1;
+     }},
+    {"uart_profildatei",
+     [](buehne& b) -> QWidget& {
+         for (const char* name : {"tvk_at2560.uart", "klubbahn.uart"}) {
+             at_profil_speichern(b.p.ablage, name, {});
+         }
+         b.p.einstellungsfenster.uart_datei_waehlen();
+         return b.o.uart_profildatei;
+     },
+     true},
+    {"einstellungen_at2560",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_uart = true;
+         return optionsseite_zeigen<7>(b);
+     }},
     {"laden",
      [](buehne& b) -> QWidget& {
          b.p.form1.Command7.klicken();

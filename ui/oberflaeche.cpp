@@ -19,6 +19,8 @@ Oberflaeche::Oberflaeche(programm& p)
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
       bestzeitverwaltung(p.beste_zeiten_verwaltung, takt, &einstellungen),
+      uart_einstellungen(p.uart_einstellungen, takt, &einstellungen),
+      uart_profildatei(p.uart_profildatei, takt, &form1),
       bildwahl(p.fahrerbild_laden, takt, &einstellungen),
       fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &einstellungen),
       p_(p) {
@@ -36,6 +38,8 @@ Oberflaeche::Oberflaeche(programm& p)
     fenster.aufnehmen("cu_eigenschaften", &cu);
     fenster.aufnehmen("speichernfenster", &speichern);
     fenster.aufnehmen("einstellungen", &einstellungen);
+    fenster.aufnehmen("UART_einstellungen", &uart_einstellungen);
+    fenster.aufnehmen("UART_Profildatei", &uart_profildatei);
     fenster.aufnehmen("fahrerbild_laden", &bildwahl);
     fenster.aufnehmen("fahrerspeichernfenster", &fahrerspeichern);
     p.fenster.anzeigen_auf(&fenster);
@@ -54,6 +58,8 @@ Oberflaeche::Oberflaeche(programm& p)
     speichern.escape_schliesst();
     rundenspeichern.escape_schliesst();
     einstellungen.escape_schliesst();
+    uart_einstellungen.escape_schliesst();
+    uart_profildatei.escape_schliesst();
     bildwahl.escape_schliesst();
     fahrerspeichern.escape_schliesst();
     form1.bei_schliessen = [&p] { p.programm_beenden(); };
@@ -78,6 +84,8 @@ Oberflaeche::Oberflaeche(programm& p)
     einstellungen.bei_schliessen = [&p] { p.fenster.entladen("einstellungen"); };
     bildwahl.bei_schliessen = [&p] { p.fahrerbild_laden.abbrechen(); };
     cu.bei_schliessen = [&p] { p.fenster.entladen("cu_eigenschaften"); };
+    uart_einstellungen.bei_schliessen = [&p] { p.fenster.entladen("UART_einstellungen"); };
+    uart_profildatei.bei_schliessen = [&p] { p.fenster.entladen("UART_Profildatei"); };
     tastatur.bei_schliessen = [&p] { p.fenster.entladen("Tastaturbelegung"); };
 }
 

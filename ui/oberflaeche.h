@@ -15,6 +15,8 @@
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
+#include "ui/uart_einstellungen_fenster.h"
+#include "ui/uart_profildatei_fenster.h"
 
 namespace tarvel::ui {
 
@@ -42,6 +44,8 @@ public:
     SpeichernFenster speichern;
     EinstellungenFenster einstellungen;
     BestzeitverwaltungFenster bestzeitverwaltung;
+    UartEinstellungenFenster uart_einstellungen;
+    UartProfildateiFenster uart_profildatei;
     BildwahlFenster bildwahl;
     SpeichernFenster fahrerspeichern;
 

@@ -9,6 +9,7 @@
 #include "core/sprache.h"
 #include "core/text.h"
 #include "core/wechselschema.h"
+#include "hardware/at2560_profil.h"
 #include "hardware/tastenbelegung.h"
 #include "results/ergebnisdatei.h"
 
@@ -251,6 +252,13 @@ std::string volle_bestzeiten() {
     return bytes;
 }
 
+std::string volle_befehlsdatei(const werkbank& bank) {
+    at_profil profil;
+    profil.at_is_befehl = "IS,2.3";
+    fordern(at_profil_speichern(bank.ausgang, at_standarddatei, profil), "commands cannot be written");
+    return bank.t.maschine.datei_lesen("ausgang/" + std::string(at_standarddatei));
+}
+
 std::vector<std::string> sprachdateien(programm& p) {
     std::vector<std::string> bytes;
     for (const sprachliste& sprache : p.sprachdateien()) {
@@ -299,6 +307,10 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"wechselschema", {{"\r\n#Rennen\r\n123456P\r\n\r\n#Zwei\r\n1P65432\r\n"}, wechselschema_lesen}},
         {"bestzeiten", {{volle_bestzeiten(), "8123,Anna,Viper,21.11.2026\r\n"}, bestzeiten_lesen}},
         {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},
+        {"befehlsdatei", {{volle_befehlsdatei(bank)}, befehlsdatei_lesen}},
+        {"at2560",
+         {{":S13,100:S11,200;:T,5;:S7,300;\r\n:S9,4294967295;", ":T,12;:S13,-5.5;:V.1;:S13,1;:S11,99999999999999999;"},
+          at2560_hoeren}},
     };
 }
 

@@ -38,5 +38,7 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank);
 
 bool einstellungen_lesen(werkbank& bank, const std::string& bytes);
 bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes);
+bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
+bool at2560_hoeren(werkbank& bank, const std::string& bytes);
 
 }  // namespace tarvel::test

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/fensterregister.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "hardware/at2560_profil.h"
+#include "platform/meldungen.h"
+
+namespace tarvel {
+
+/// The window `UART_Profildatei`: picks the command file of the AT-2560, or names a new one.
+class uart_profildatei {
+public:
+    struct umgebung {
+        const dateien& ablage;
+        const texte& txt;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+    };
+
+    explicit uart_profildatei(umgebung um);
+
+    rahmen titel;
+    bezeichnung hinweis;
+    liste dateiliste;
+    bezeichnung Label_name;
+    feld name;
+    befehl Command1;  ///< take it
+    befehl Command2;  ///< cancel
+
+    /// Keeps the name of the file and reads it.
+    std::function<void(const std::string&)> gewaehlt;
+
+    void laden() { sprache().anwenden(um_.ablage); }
+    /// Opens the window on the file of this name.
+    void oeffnen(const std::string& datei);
+    /// The texts of the window.
+    sprachliste sprache();
+
+private:
+    void uebernehmen();
+
+    umgebung um_;
+    std::string bisher_;  ///< the file in force: a new one is made like it
+    std::string zeichen_text_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,44 @@
+#include "hardware/at2560.h"
+
+#include "tests/fuzz/dateiarten.h"
+
+namespace tarvel::test {
+
+bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes) {
+    bank.legen("klub.uart", bytes);
+    at_profil profil;
+    fordern(at_profil_laden(bank.eingang, "klub.uart", profil), "a command file is refused");
+    fordern(!profil.at_startzeichen.empty() && !profil.at_endzeichen.empty() && !profil.at_trennzeichen_zeit.empty(),
+            "a frame without its characters");
+    at_profil zurueck;
+    fordern(at_profil_speichern(bank.ausgang, "klub.uart", profil), "a command file cannot be written");
+    fordern(at_profil_laden(bank.ausgang, "klub.uart", zurueck) && zurueck == profil,
+            "commands change on the way through their file");
+    return profil != at_profil();
+}
+
+/// No file, but what a unit says: in pieces, and with the clock fetched in between.
+bool at2560_hoeren(werkbank& bank, const std::string& bytes) {
+    constexpr zeit_ms spaetestens = 2'000'000'000'000;
+    programm& p = bank.t.p;
+    bank.t.maschine.anschluesse.da = {3};
+    const plattform::dienste d = bank.t.maschine.dienste();
+    at2560 geraet({p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen});
+    bool gehoert = false;
+    geraet.nach_ereignis = [&] { gehoert = true; };
+    fordern(geraet.oeffnen(), "the port is closed");
+    std::size_t stueck = 1;
+    for (std::size_t i = 0; i < bytes.size(); i += stueck) {
+        stueck = 1 + static_cast<unsigned char>(bytes[i]) % 23;
+        bank.t.maschine.anschluesse.senden(3, std::string_view(bytes).substr(i, stueck));
+        geraet.abfragen();
+        bank.t.maschine.uhr_stellen(1);
+    }
+    for (ereignis_art art = 1; art < ereignis_tabelle::zeilen_anzahl; ++art) {
+        const zeit_ms zeit = std::exchange(p.ereignisse[art].ereignis_zeit, 0);
+        fordern(zeit > -spaetestens && zeit < spaetestens, "a stamp beyond all limits");
+    }
+    return gehoert;
+}
+
+}  // namespace tarvel::test

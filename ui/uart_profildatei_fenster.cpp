@@ -1,0 +1,33 @@
+#include "ui/uart_profildatei_fenster.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace tarvel::ui {
+
+UartProfildateiFenster::UartProfildateiFenster(uart_profildatei& logik, Bildtakt& takt, QWidget* eltern)
+    : Fenster("UART_Profildatei", takt, eltern) {
+    binder().fenstertitel(logik.titel);
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setSpacing(10);
+    QLabel* hinweis = binder().label(logik.hinweis, "hinweis");
+    hinweis->setWordWrap(true);
+    aufbau->addWidget(hinweis);
+    auto* zeile = new QHBoxLayout;
+    QLineEdit* name = binder().zeile(logik.name, "name");
+    zeile->addWidget(binder().label(logik.Label_name, "Label_name"));
+    zeile->addWidget(name, 1);
+    aufbau->addLayout(zeile);
+    aufbau->addWidget(binder().listenfeld(logik.dateiliste, "dateiliste"), 1);
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->addStretch();
+    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
+    QObject::connect(name, &QLineEdit::returnPressed, uebernehmen, [&logik] { logik.Command1.klicken(); });
+    knoepfe->addWidget(uebernehmen);
+    knoepfe->addWidget(binder().knopf(logik.Command2, "Command2"));
+    aufbau->addLayout(knoepfe);
+    resize(520, 420);
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "hardware/uart_profildatei.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window in which the command file of the AT-2560 is chosen.
+class UartProfildateiFenster : public Fenster {
+public:
+    UartProfildateiFenster(uart_profildatei& logik, Bildtakt& takt, QWidget* eltern);
+};
+
+}  // namespace tarvel::ui
