@@ -90,6 +90,7 @@ void uart_einstellungen::auswahlen_fuellen() {
     is_liste.eintraege({std::string(pinliste), bisher});
     is_liste.text(pinliste);
     std::vector<std::string> bahnen;
+    bahnen.reserve(spuren_max);
     for (const int spur : alle_spuren) {
         bahnen.push_back(wort_.spur + " " + std::to_string(spur));
     }
