@@ -174,6 +174,7 @@ void Bahn1Fenster::anordnen() {
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
+    update();  // between the blocks the last layout may still be seen
 }
 
 void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
