@@ -149,6 +149,11 @@ void Bahn1Fenster::aufschlagen() {
     activateWindow();
 }
 
+QRect Bahn1Fenster::uhr_ort() const {
+    const QWidget* uhr = teil(f::uhrframe1);
+    return {uhr->mapToGlobal(QPoint(0, 0)), uhr->size()};
+}
+
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     nacht_->setGeometry(rect());
