@@ -26,7 +26,7 @@ void spur_schriften(lage& g, double skala) {
     schrift(g[t::Label_spur], ziffern, 1.5);
     schrift(g[t::namenslabel], wort, 5);
     schrift(g[t::zaehler], ziffern, 1.45);  // two digits; three and four are smaller by themselves
-    schrift(g[t::l_PosAnz], ziffern, 0.8);
+    schrift(g[t::l_PosAnz], 1.08, 0.8);     // with an edge for the leader's plate
     g[t::l_PosAnz].schrift_px = std::min(g[t::l_PosAnz].schrift_px, g[t::zaehler].schrift_px * 6 / 10);
     schrift(g[t::lrunde], ziffern, 4.1);  // "00,000"
     schrift(g[t::brunde], 0.95, 5.2);
@@ -37,7 +37,7 @@ void spur_schriften(lage& g, double skala) {
         schrift(g[text], wort);
         g[text].schrift_px = std::min(g[text].schrift_px, static_cast<int>(titel_max * skala));
     }
-    constexpr double listenzeile = 560;
+    constexpr double listenzeile = 500;
     constexpr double liste_em = 7.6;  // "9999. 00,000"
     g[t::t_liste].schrift_px =
         std::max(schrift_min_px, static_cast<int>(std::min(listenzeile * skala, g[t::t_liste].ort.breite / liste_em)));
@@ -125,7 +125,7 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     ganzes.streifen = stapel.oben(100 * s);
     g[t::yellowframe].ort = stapel.oben(220 * s);
     g[t::namenslabel].ort = stapel.oben(860 * s);
-    zuschnitt bilder(stapel.oben((breit ? 1800 : 1450) * s), luecke);
+    zuschnitt bilder(stapel.oben((breit ? 2000 : 1700) * s), luecke);
     g[t::Image1].ort = bilder.links((breit ? 1800 : 1100) * s);
     if (breit && inhalt.fahrzeugbild) {
         g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.4 * block.breite));
@@ -137,7 +137,7 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     platz_legen(neben_bild.rest(), s, luecke, g);
 
     g[t::straflabel].ort = stapel.unten(500 * s);
-    const double bild2 = inhalt.fahrzeugbild && !breit ? 1000 * s : 0;
+    const double bild2 = inhalt.fahrzeugbild && !breit ? 800 * s : 0;
     const double tank = inhalt.tank != tankanzeige_art::keine ? 620 * s : 0;
     const double zeiten = (breit ? 1400 : 2300) * s + bestzeit_hoehe(inhalt, (breit ? 0 : 380) * s);
     constexpr double liste_min = 1300;

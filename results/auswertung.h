@@ -131,6 +131,7 @@ private:
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
+        std::string abstand;                 ///< explains the gap to the leader
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
 

@@ -51,7 +51,10 @@ sprachliste auswertung::sprache_a() {
     texte.text("Wertung nach Metern", wort_.wertung[0]).text("Wertung nach Runden", wort_.wertung[1]);
     texte.text("Wertung nach schnellster Runde", wort_.wertung[2]);
     blatt.eintragen(diagramm.eintragen(texte));
-    return texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
+    texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
+    return texte.text(
+        "Unterschied der Gesamtzeiten; mit - hat dieser Fahrer weniger Runden und war mit ihnen früher fertig",
+        wort_.abstand);
 }
 
 void auswertung::ansagen_setzen() {
@@ -71,6 +74,7 @@ void auswertung::ansagen_setzen() {
         }
         beste_aus[i].tipp(wort_.tempo);
         kmh_label[i].tipp(wort_.tempo);
+        abstandlabel[i].tipp(wort_.abstand);
         cmd_anzeige[i].text("…");
         cmd_rd_add[i].text("▼");
         cmd_rd_inc[i].text("✕");

@@ -1,5 +1,7 @@
 #include "results/rundenspeichern.h"
 
+#include <utility>
+
 #include "results/ergebnisdatei.h"
 
 namespace tarvel {
@@ -44,7 +46,8 @@ void rundenspeichern::oeffnen() {
     auftrag.name_fehlt = name_fehlt_;
     auftrag.vorschlag = stempel() + std::string(endung);
     auftrag.ausfuehren = [this](const std::string& name) {
-        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + name);
+        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + name) ||
+               schreibfehler_melden();
     };
     fenster.oeffnen(std::move(auftrag));
 }
@@ -56,7 +59,7 @@ bool rundenspeichern::automatisch_speichern() {
     for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {  // two results within ten seconds
         pfad = stamm + "-" + std::to_string(nummer) + std::string(endung);
     }
-    return einzelrennen_schreiben(pfad);
+    return einzelrennen_schreiben(pfad) || zeilen() == gesichert_ || schreibfehler_melden();
 }
 
 bool rundenspeichern::tages_ergebnis_schreiben() {
@@ -78,11 +81,16 @@ bool rundenspeichern::tages_ergebnis_schreiben() {
     return true;
 }
 
+bool rundenspeichern::schreibfehler_melden() {
+    um_.meldungen.zeigen(schreibfehler_, um_.txt.titel[1]);
+    return false;
+}
+
 bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad) {
-    const bool geschrieben =
-        um_.ablage.zeilen_schreiben(pfad, einzelrennen_zeilen({r_.umgebung, r_.sektoren, stand_, wort_}));
-    if (!geschrieben) {
-        um_.meldungen.zeigen(schreibfehler_, um_.txt.titel[1]);
+    auto ergebnis = zeilen();
+    const bool geschrieben = um_.ablage.zeilen_schreiben(pfad, ergebnis);
+    if (geschrieben) {
+        gesichert_ = std::move(ergebnis);
     }
     return geschrieben;
 }

@@ -19,13 +19,17 @@ public:
     sprachliste sprache();
     /// Opens the window for the single race.
     void oeffnen();
-    /// Saves the single race without a question. A failure shows its message and is false.
+    /// Saves the single race without a question. A failure shows its message and is false, unless the operator has
+    /// saved this very result already.
     bool automatisch_speichern();
     /// Adds the result to the file of the day race, likewise. A file that is none of a day race stays as it is.
     bool tages_ergebnis_schreiben();
 
 private:
+    std::vector<std::string> zeilen() const { return einzelrennen_zeilen({r_.umgebung, r_.sektoren, stand_, wort_}); }
     bool einzelrennen_schreiben(const std::string& pfad);
+    /// Always false.
+    bool schreibfehler_melden();
     std::string stempel() const;
 
     rennen& r_;
@@ -36,6 +40,7 @@ private:
     std::string name_fehlt_;
     std::string schreibfehler_;
     std::string tagesfehler_;
+    std::vector<std::string> gesichert_;  ///< the result that was written last
 };
 
 }  // namespace tarvel

@@ -27,6 +27,8 @@ public:
     void entladen();
     /// The light begins, if it has not yet.
     void beginnen() { Command1.klicken(); }
+    /// The race behind the light pauses: its window keeps the keys.
+    bool in_pause() const { return um_.zustand.chaos_aktiv; }
 
 private:
     void Command1_klick();

@@ -162,7 +162,8 @@ TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
     EXPECT_TRUE(t.maschine.datei_da("Ergebnisse/auto-Einzelrennen/auto-21112026-14032-2.csv"));
     fs::remove_all(t.maschine.ordner() / "Ergebnisse");
     t.maschine.datei_schreiben("Ergebnisse", "a file where the folder should be");
-    fahren();
+    t.starten("Zeit", "1", {2});
+    t.bahn().Command4.klicken();
     const std::string fehler = "Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.";
     for (befehl* weg : {&a.Command1, &a.Command2, &a.Command3, &a.Command5}) {
         t.maschine.meldungen_gezeigt.clear();
@@ -173,6 +174,30 @@ TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
     }
     t.maschine.antwort = true;
     a.Command5.klicken();
+    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+}
+
+TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
+    fs::remove_all(t.maschine.ordner() / "Ergebnisse/auto-Einzelrennen");
+    t.maschine.datei_schreiben("Ergebnisse/auto-Einzelrennen", "a file where the folder should be");
+    t.starten("Zeit", "1", {1});
+    t.runde_nach(1000, "1");
+    t.runde_nach(6000, "1");
+    t.bahn().Command4.klicken();
+    const auto von_hand = [&](const char* name) {
+        a.Command4.klicken();
+        t.p.rundenspeichern.fenster.name.eingeben(name);
+        t.p.rundenspeichern.fenster.Command1.klicken();
+    };
+    von_hand("Pokal");
+    a.liste[0].auswaehlen(0);
+    a.Command8.klicken();
+    a.Command5.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U) << "the result is another one since then";
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    von_hand("Pokal berichtigt");
+    a.Command5.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt.size() + t.maschine.meldungen_gezeigt.size(), 2U);
     EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
 }
 

@@ -87,8 +87,8 @@ struct buehne {
         t.maschine.laufen(std::max<zeit_ms>(ende - t.maschine.jetzt(), 1));
     }
 
-    void rennen(zeit_ms gefahren) {
-        einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
+    void rennen(zeit_ms gefahren, std::initializer_list<int> spuren = {1, 2, 3, 4, 5, 6}) {
+        einrichten("Zeit", "5", spuren);
         t.bahn().Command1.klicken();
         fahren(gefahren);
     }
@@ -130,18 +130,31 @@ QWidget& ampel(buehne& b) {
     return b.o.form2;
 }
 
-QWidget& pause(buehne& b) {
-    b.p.einst.chaosampel_an = false;  // its window hides the bars
-    b.rennen(40000);
+QWidget& pause(buehne& b, std::initializer_list<int> spuren = {1, 2, 3, 4, 5, 6}) {
+    b.rennen(40000, spuren);
     b.t.bahn().Command3.klicken();
     b.t.maschine.laufen(3000);
     return b.o.bahn1;
 }
 
+/// Without the light.
+QWidget& pause_ohne_ampel(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    return pause(b);
+}
+
+template <bool zeilen, int... spuren>
+QWidget& pause_mit_tank(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.form1.t_aktiv.gesetzt(true);
+    return pause(b, {spuren...});
+}
+
+template <zeit_ms gefahren = 31000>
 QWidget& tanken(buehne& b) {
     b.p.form1.t_aktiv.gesetzt(true);
     b.p.einst.tank_inhalt = 60;
-    b.rennen(31000);
+    b.rennen(gefahren);
     return b.o.bahn1;
 }
 
@@ -242,22 +255,27 @@ const std::vector<szeneneintrag> szenen{
          b.fahren(64000);
          return b.o.bahn1;
      }},
-    {"rennen_tanken", tanken},
+    {"rennen_tanken", tanken<>},
+    {"rennen_tank_leer", tanken<49000>},
     {"rennen_tanken_liter",
      [](buehne& b) -> QWidget& {
          b.p.einst.tankanzeige_grafisch = false;
-         return tanken(b);
+         return tanken<>(b);
      }},
     {"rennen_tanken_zeilen",
      [](buehne& b) -> QWidget& {
          b.p.einst.darstellung_zeile = true;
-         return tanken(b);
+         return tanken<>(b);
      }},
-    {"rennen_pause", pause},
+    {"rennen_pause", pause_ohne_ampel},
+    {"rennen_pause_ampel", pause_mit_tank<false, 1, 2, 3, 4, 5, 6>},
+    {"rennen_pause_ampel_vier_spuren", pause_mit_tank<false, 1, 2, 3, 4>},
+    {"rennen_pause_ampel_zwei_spuren", pause_mit_tank<false, 2, 5>},
+    {"rennen_pause_ampel_zeilen", pause_mit_tank<true, 1, 2, 3, 4, 5, 6>},
     {"rennen_pause_zeilen",
      [](buehne& b) -> QWidget& {
          b.p.einst.darstellung_zeile = true;
-         return pause(b);
+         return pause_ohne_ampel(b);
      }},
     {"rennen_pause_eine_spur", pause_allein},
     {"rennen_nachlauf",
@@ -375,9 +393,11 @@ const std::vector<szeneneintrag> szenen{
 /// The window, and the light that stands in front of it.
 QPixmap aufnehmen(buehne& b, QWidget& fenster) {
     QPixmap bild = fenster.grab();
-    if (&fenster == &b.o.bahn1 && b.o.form2.isVisible()) {
-        b.o.form2.aufschlagen();  // again, for the window has another size now
-        QPainter(&bild).drawPixmap(b.o.form2.pos() - fenster.pos(), b.o.form2.grab());
+    for (ui::Fenster* ampel : {static_cast<ui::Fenster*>(&b.o.form2), static_cast<ui::Fenster*>(&b.o.k_ampel)}) {
+        if (&fenster == &b.o.bahn1 && ampel->isVisible()) {
+            ampel->aufschlagen();  // again, for the window has another size now
+            QPainter(&bild).drawPixmap(ampel->pos() - fenster.pos(), ampel->grab());
+        }
     }
     return bild;
 }
@@ -424,8 +444,9 @@ int main(int argc, char** argv) {
     }
     std::filesystem::create_directories(ordner.toStdU16String());
     bool gut = true;
+    const bool alle = argumente.isEmpty();
     for (const auto& szene : tarvel::szenen) {
-        if (argumente.isEmpty() || argumente.removeAll(szene.name) > 0) {
+        if (alle || argumente.removeAll(szene.name) > 0) {
             gut = tarvel::zeichnen(szene, ordner, groessen) && gut;
         }
     }

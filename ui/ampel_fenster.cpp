@@ -1,6 +1,7 @@
 #include "ui/ampel_fenster.h"
 
 #include <QGridLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -13,6 +14,8 @@ namespace {
 
 const QColor grund(13, 15, 18);
 const QColor rand(86, 92, 104);
+constexpr QMargins rand_frei(24, 24, 24, 20);
+constexpr QMargins rand_schmal(12, 5, 12, 5);
 
 }  // namespace
 
@@ -24,7 +27,6 @@ AmpelFenster::AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um)
       aufbau_(new QVBoxLayout(this)) {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);  // a dialog stays in front of its race window
     setStyleSheet(stil::dunkle_regeln("padding: 10px 36px;") + "QLabel { font-weight: bold; }");
-    aufbau_->setContentsMargins(24, 24, 24, 20);
     aufbau_->setSpacing(14);
     auto* flaeche = new QWidget(this);  // stands for the whole screen, takes no room itself
     flaeche->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -37,6 +39,7 @@ AmpelFenster::AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um)
 }
 
 QWidget* AmpelFenster::lampenkasten(std::span<bild> lampen, int je_reihe, const QString& name) {
+    je_reihe_ = je_reihe;
     auto* kasten = new QWidget(this);
     auto* raster = new QGridLayout(kasten);
     raster->setContentsMargins(0, 0, 0, 0);
@@ -53,18 +56,33 @@ QWidget* AmpelFenster::lampenkasten(std::span<bild> lampen, int je_reihe, const 
     return kasten;
 }
 
-void AmpelFenster::anordnen() {
-    const QRect platz = parentWidget()->isVisible() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
-    const int kante = std::min(platz.width() / 8, platz.height() / 5);
+int AmpelFenster::reihen() const {
+    const auto an = std::count_if(lampen_.begin(), lampen_.end(), [](const Ampelfeld* l) { return !l->isHidden(); });
+    return std::max(static_cast<int>(an) / je_reihe_, 1);
+}
+
+void AmpelFenster::masse_setzen(const QRect& platz, const QRect& eigener) {
+    const bool schmal = !eigener.isEmpty();
+    aufbau_->setDirection(schmal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    aufbau_->setContentsMargins(schmal ? rand_schmal : rand_frei);
+    const int hoehe = eigener.height() - rand_schmal.top() - rand_schmal.bottom();
+    const int kante = schmal ? std::min(hoehe / reihen(), eigener.width() / (2 * je_reihe_))
+                             : std::min(platz.width() / 8, platz.height() / 5);
     for (Ampelfeld* lampe : lampen_) {
         lampe->setFixedSize(kante, kante);
     }
     for (QWidget* text : texte_) {
         QFont schrift = text->font();
-        schrift.setPixelSize(std::clamp(kante / 5, 14, 40));
+        schrift.setPixelSize(std::clamp((schmal ? hoehe : kante) / 5, 14, 40));
         text->setFont(schrift);
     }
     skalieren(kante);
+}
+
+void AmpelFenster::anordnen() {
+    const QRect platz = parentWidget()->isVisible() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
+    const QRect eigener = eigener_platz();
+    masse_setzen(platz, eigener);
     if (nacht_.sichtbar()) {
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
@@ -79,13 +97,40 @@ void AmpelFenster::anordnen() {
     }
     layout()->invalidate();
     layout()->activate();
-    setFixedSize(sizeHint());
-    // below the names, the counters and the times of the columns; above the middle in the rows
-    const double hoehe = einst_.darstellung_zeile ? 0.35 : 0.6;
+    setFixedSize(eigener.isEmpty() ? sizeHint() : sizeHint().expandedTo(eigener.size()));
+    hinstellen(platz, eigener);
+}
+
+void AmpelFenster::hinstellen(const QRect& platz, const QRect& eigener) {
     QRect ziel(QPoint(0, 0), size());
-    ziel.moveCenter({platz.center().x(), platz.top() + static_cast<int>(platz.height() * hoehe)});
-    ziel.moveBottom(std::min(ziel.bottom(), platz.bottom() - 8));
+    if (eigener.isEmpty()) {
+        // below the names, the counters and the times of the columns; above the middle in the rows
+        const double hoehe = einst_.darstellung_zeile ? 0.35 : 0.6;
+        ziel.moveCenter({platz.center().x(), platz.top() + static_cast<int>(platz.height() * hoehe)});
+        ziel.moveBottom(std::min(ziel.bottom(), platz.bottom() - 8));
+    } else {
+        ziel.moveCenter(eigener.center());
+    }
+    ziel.translate(verschiebung_);
+    ziel.moveRight(std::min(ziel.right(), platz.right()));
+    ziel.moveBottom(std::min(ziel.bottom(), platz.bottom()));
+    ziel.moveLeft(std::max(ziel.left(), platz.left()));
+    ziel.moveTop(std::max(ziel.top(), platz.top()));
     move(ziel.topLeft());
+}
+
+void AmpelFenster::mousePressEvent(QMouseEvent* ereignis) {
+    griff_ = ereignis->globalPosition().toPoint();
+}
+
+void AmpelFenster::mouseMoveEvent(QMouseEvent* ereignis) {
+    if (nacht_.sichtbar() || !ereignis->buttons().testFlag(Qt::LeftButton)) {
+        return;
+    }
+    const QPoint ort = ereignis->globalPosition().toPoint();
+    verschiebung_ += ort - griff_;
+    move(pos() + ort - griff_);
+    griff_ = ort;
 }
 
 void AmpelFenster::aufschlagen() {

@@ -36,15 +36,28 @@ protected:
     void anordnen();
     /// Sizes what the window has beside lamps and texts, for lamps of this size in pixels.
     virtual void skalieren(int /*kante*/) {}
+    /// Where the light stands instead of its usual place, on the screen; empty for there. It is as high as that, with
+    /// its command beside the lamps.
+    virtual QRect eigener_platz() const { return {}; }
     void paintEvent(QPaintEvent* ereignis) override;
+    /// The light can be drawn to another place and comes up there again.
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
 
 private:
+    void masse_setzen(const QRect& platz, const QRect& eigener);
+    void hinstellen(const QRect& platz, const QRect& eigener);
+    int reihen() const;
+
     rahmen& nacht_;
     const einstellungen& einst_;
     const dateien& ablage_;
     QVBoxLayout* aufbau_;
     std::vector<Ampelfeld*> lampen_;
     std::vector<QWidget*> texte_;
+    int je_reihe_ = 1;
+    QPoint griff_;         ///< where the mouse holds the window
+    QPoint verschiebung_;  ///< from the place that the window would have
 };
 
 }  // namespace tarvel::ui

@@ -165,6 +165,11 @@ void Bahn1Fenster::aufschlagen() {
     activateWindow();
 }
 
+QRect Bahn1Fenster::uhr_ort() const {
+    const QWidget* uhr = teil(f::uhrframe1);
+    return {uhr->mapToGlobal(QPoint(0, 0)), uhr->size()};
+}
+
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     nacht_->setGeometry(rect());
@@ -192,6 +197,7 @@ void Bahn1Fenster::anordnen() {
     hinweis_->setGeometry(width() / 8, befehle.y - height() / 10, width() * 3 / 4, height() / 12);
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
+    update();  // between the blocks the last layout may still be seen
 }
 
 void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {

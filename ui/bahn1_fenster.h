@@ -16,6 +16,8 @@ public:
     Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern);
 
     void aufschlagen() override;
+    /// The large clock on the screen. It stands still in a pause.
+    QRect uhr_ort() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -31,6 +33,7 @@ private:
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
     QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
+    QWidget* teil(fenster_teil name) const { return teile_.at(static_cast<std::size_t>(name)); }
 
     rennen& logik_;
     std::vector<Spurblock*> bloecke_;

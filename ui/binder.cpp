@@ -250,7 +250,7 @@ QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
     });
     verbinden(element, widget, name, [&element, widget] {
         const QColor gewaehlt = stil::farbe_von(element.wert());
-        const QString schrift = qGray(gewaehlt.rgb()) > 120 ? "#1c2028" : "#ffffff";
+        const QString schrift = stil::schrift_auf(gewaehlt).name();
         widget->setText(gewaehlt.name());
         widget->setStyleSheet(QString("QPushButton { background: %1; color: %2; }").arg(gewaehlt.name(), schrift));
     });

@@ -38,4 +38,22 @@ protected:
     void wheelEvent(QWheelEvent* ereignis) override { ereignis->ignore(); }
 };
 
+/// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:
+/// the next Tab goes to what follows the choice, and not to what follows that field.
+class Weitersprung final : public QObject {
+public:
+    Weitersprung(QWidget* wahl, QWidget* feld) : QObject(feld), wahl_(wahl), feld_(feld) {
+        wahl->installEventFilter(this);
+        feld->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+
+private:
+    QWidget* wahl_;
+    QWidget* feld_;
+    bool mit_tasten_ = false;  ///< the choice was last touched by keyboard
+    bool gesprungen_ = false;  ///< and nothing has been typed since the focus moved
+};
+
 }  // namespace tarvel::ui

@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "ui/eingabefelder.h"
 #include "ui/stil.h"
 #include "ui/streckenbild.h"
 
@@ -125,13 +126,22 @@ QWidget* Form1Fenster::rennen_gruppe() {
     auto* verwerfen = new QHBoxLayout;
     verwerfen->addWidget(kuerzeste);
     verwerfen->addWidget(binder().label(logik_.Label10, "Label10"));
-    verwerfen->addSpacing(24);
-    verwerfen->addWidget(binder().kasten(logik_.t_aktiv, "t_aktiv"), 0, Qt::AlignVCenter);
-    verwerfen->addWidget(binder().label(logik_.tank_label, "tank_label"));
     verwerfen->addStretch();
     raster->addLayout(verwerfen, 1, 4);
+    raster->setColumnMinimumWidth(5, 24);
+    QCheckBox* tank = binder().kasten(logik_.t_aktiv, "t_aktiv");
+    QSizePolicy ganz = tank->sizePolicy();  // beside fields it is never cut
+    ganz.setHorizontalPolicy(QSizePolicy::Minimum);
+    tank->setSizePolicy(ganz);
+    raster->addWidget(tank, 0, 6, Qt::AlignVCenter);
+    QLabel* tankwerte = binder().label(logik_.tank_label, "tank_label");
+    QSizePolicy haelt_platz = tankwerte->sizePolicy();
+    haelt_platz.setRetainSizeWhenHidden(true);
+    tankwerte->setSizePolicy(haelt_platz);
+    raster->addWidget(tankwerte, 1, 6);
     raster->setColumnStretch(4, 1);
-    tabfolge({art, stunden, dauer, massstab, kuerzeste});
+    tabfolge({art, stunden, dauer, tank, massstab, kuerzeste});
+    new Weitersprung(art, dauer);
     return gruppe;
 }
 

@@ -7,17 +7,40 @@
 namespace tarvel::ui {
 
 KAmpelFenster::KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
-                             Bildtakt& takt, QWidget* bahn)
-    : AmpelFenster("k_ampel", logik.k_nachtabschaltung, {einst, ablage, takt, bahn}) {
+                             Bildtakt& takt, Bahn1Fenster* bahn)
+    : AmpelFenster("k_ampel", logik.k_nachtabschaltung, {einst, ablage, takt, bahn}),
+      logik_(logik),
+      bahn_(bahn),
+      knopf_(binder().knopf(logik.Command1, "Command1")) {
     binder().fenstertitel(logik.titel);
     aufbau()->addStretch();
-    aufbau()->addWidget(lampenkasten(logik.k_ampelbild, k_ampel::schritte, "k_ampelbild"), 0, Qt::AlignHCenter);
-    QPushButton* knopf = binder().knopf(logik.Command1, "Command1");
-    text_aufnehmen(knopf);
-    aufbau()->addWidget(knopf, 0, Qt::AlignHCenter);
+    aufbau()->addWidget(lampenkasten(logik.k_ampelbild, k_ampel::schritte, "k_ampelbild"), 0, Qt::AlignCenter);
+    text_aufnehmen(knopf_);
+    aufbau()->addWidget(knopf_, 0, Qt::AlignCenter);
     aufbau()->addStretch();
     new Tastenfaenger(
         this, [&befehle](int code) { return befehle.ist_belegt(code); }, [&befehle](int code) { befehle.taste(code); });
+    bei_aktivierung = [this] {  // after a click on it
+        if (logik_.in_pause()) {
+            bahn_->activateWindow();
+        }
+    };
+}
+
+QRect KAmpelFenster::eigener_platz() const {
+    return logik_.in_pause() ? bahn_->uhr_ort() : QRect();
+}
+
+void KAmpelFenster::aufschlagen() {
+    const bool pause = logik_.in_pause();
+    setAttribute(Qt::WA_ShowWithoutActivating, pause);
+    knopf_->setFocusPolicy(pause ? Qt::NoFocus : Qt::StrongFocus);  // a click counts though the focus goes back
+    anordnen();
+    show();
+    raise();
+    if (!pause) {
+        activateWindow();
+    }
 }
 
 }  // namespace tarvel::ui

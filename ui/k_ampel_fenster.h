@@ -3,14 +3,26 @@
 #include "race/rennbefehle.h"
 #include "start/k_ampel.h"
 #include "ui/ampel_fenster.h"
+#include "ui/bahn1_fenster.h"
 
 namespace tarvel::ui {
 
-/// The light behind which a race goes on. Keys go to the race meanwhile.
+/// The light behind which a race goes on. In a pause it stands over the clock, where it hides neither the standing nor
+/// the boxes of the penalties, and leaves the keyboard to the race window.
 class KAmpelFenster : public AmpelFenster {
 public:
     KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
-                  Bildtakt& takt, QWidget* bahn);
+                  Bildtakt& takt, Bahn1Fenster* bahn);
+
+    void aufschlagen() override;
+
+protected:
+    QRect eigener_platz() const override;
+
+private:
+    k_ampel& logik_;
+    Bahn1Fenster* bahn_;
+    QPushButton* knopf_;
 };
 
 }  // namespace tarvel::ui

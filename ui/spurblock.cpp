@@ -66,13 +66,25 @@ void Spurblock::kopf(std::function<std::filesystem::path(const std::string&)> pf
     teil(spur_teil::ampel_ge) = binder_.lampe(bahn_.ampel_ge.at(index_), "ampel_ge" + nummer, QColor(255, 200, 20));
     teil(spur_teil::ampel_gr) = binder_.lampe(bahn_.ampel_gr.at(index_), "ampel_gr" + nummer, QColor(30, 230, 70));
     anzeigen(spur_teil::Label_platz, bahn_.Label_platz[spur_], "Label_platz" + nummer_)->setLeise();
-    anzeigen(spur_teil::l_PosAnz, bahn_.l_PosAnz.at(index_), "l_PosAnz" + nummer)->setFett(true);
+    platzziffer();
     teil(spur_teil::ch_strafzeit_hacken) =
         binder_.kasten(bahn_.ch_strafzeit_hacken[spur_], "ch_strafzeit_hacken" + nummer_);
     for (const spur_teil name : {spur_teil::Image1, spur_teil::Image2, spur_teil::ampel_rt, spur_teil::ampel_ge,
                                  spur_teil::ampel_gr, spur_teil::ch_strafzeit_hacken}) {
         teil(name)->setParent(this);
     }
+}
+
+void Spurblock::platzziffer() {
+    auto* anzeige = new TextAnzeige(this);
+    anzeige->setFett(true);
+    teil(spur_teil::l_PosAnz) = anzeige;
+    binder_.verbinden(bahn_.l_PosAnz.at(index_), anzeige, "l_PosAnz_" + QString::number(index_), [this, anzeige] {
+        const bezeichnung& platz = bahn_.l_PosAnz.at(index_);
+        anzeige->setText(QString::fromStdString(platz.text()));
+        anzeige->setFarbe(stil::farbe_von(platz.schriftfarbe().value_or(0)));
+        anzeige->setPlakette(platz.text() == "1");  // the leader is found at a glance
+    });
 }
 
 void Spurblock::zaehler() {
@@ -107,15 +119,18 @@ void Spurblock::tank() {
     liter->setFett(true);
     auto* balken = new Tankbalken(rahmen);
     teil(spur_teil::tankbalken) = balken;
-    binder_.verbinden(bahn_.tankbalken.at(index_), balken, "tankbalken_" + QString::number(index_), [this, balken] {
-        const form& stand = bahn_.tankbalken.at(index_);
-        balken->setStand(stand.hoehe() / bahn_.tank_balkenhoehe, stil::farbe_von(stand.hintergrund().value_or(0)));
-    });
+    binder_.verbinden(
+        bahn_.tankbalken.at(index_), balken, "tankbalken_" + QString::number(index_), [this, balken, liter] {
+            const form& stand = bahn_.tankbalken.at(index_);
+            liter->setRahmen(stand.hoehe() > 0 ? QColor() : Tankbalken::warnung);
+            balken->setStand(stand.hoehe() / bahn_.tank_balkenhoehe, stil::farbe_von(stand.hintergrund().value_or(0)));
+        });
     binder_.verbinden(bahn_.frame_tank[spur_], rahmen, "frame_tank" + nummer_, [this, titel] {
         const auto& frame = bahn_.frame_tank[spur_];
         titel->setText(QString::fromStdString(frame.text()));
         if (frame.schriftfarbe()) {
-            titel->setFarbe(stil::farbe_von(*frame.schriftfarbe()));
+            const QColor grund = stil::farbe_von(bahn_.bahnshape[spur_].hintergrund().value_or(0));
+            titel->setFarbe(stil::titelfarbe(stil::farbe_von(*frame.schriftfarbe()), grund));
         }
     });
 }

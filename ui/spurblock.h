@@ -26,6 +26,7 @@ protected:
 private:
     TextAnzeige* anzeigen(spur_teil teil, steuerelement& element, const QString& name);
     void kopf(std::function<std::filesystem::path(const std::string&)> pfad);
+    void platzziffer();
     void zaehler();
     void zaehler_anordnen();
     void tank();

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
+#include <cmath>
 
 /// The pictures lie in a static library: without this call nobody would register them. Not possible inside a namespace.
 static void bilder_bereitstellen() {
@@ -111,6 +112,23 @@ void fleck_faerben(QLabel* fleck, farbe spurfarbe) {
 
 QString dunkle_regeln(const char* innen) {
     return QString(regeln_dunkel).arg(innen);
+}
+
+QColor titelfarbe(const QColor& farbton, const QColor& grund) {
+    constexpr int hell_genug = 175;
+    constexpr int dunkler_grund = 64;
+    const int heller = qGray(farbton.rgb());
+    if (qGray(grund.rgb()) > dunkler_grund || heller >= hell_genug) {
+        return farbton;
+    }
+    const double weiss = static_cast<double>(hell_genug - heller) / (255 - heller);
+    const auto mischen = [weiss](int anteil) { return static_cast<int>(std::lround(anteil + weiss * (255 - anteil))); };
+    return {mischen(farbton.red()), mischen(farbton.green()), mischen(farbton.blue())};
+}
+
+QColor schrift_auf(const QColor& grund) {
+    constexpr int mittelgrau = 120;
+    return qGray(grund.rgb()) > mittelgrau ? schrift : QColor(Qt::white);
 }
 
 QColor farbe_von(farbe zahl) {

@@ -33,6 +33,11 @@ void fleck_faerben(QLabel* fleck, farbe spurfarbe);
 /// Labels and commands on a dark ground; `innen` is the padding of the commands.
 QString dunkle_regeln(const char* innen);
 
+/// A caption in this colour on that ground: on a dark one, as light as small letters need it.
+QColor titelfarbe(const QColor& farbton, const QColor& grund);
+/// Letters on a ground of this colour.
+QColor schrift_auf(const QColor& grund);
+
 QColor farbe_von(farbe zahl);
 farbe zahl_von(const QColor& farbton);
 

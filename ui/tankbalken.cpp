@@ -17,9 +17,19 @@ void Tankbalken::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     const QRectF rand = QRectF(rect()).adjusted(1, 1, -1, -1);
-    maler.setPen(QPen(QColor(120, 126, 136), 1.5));
+    const bool leer = anteil_ <= 0;
+    maler.setPen(leer ? QPen(warnung, 4) : QPen(QColor(120, 126, 136), 1.5));
     maler.setBrush(QColor(28, 31, 36));
-    maler.drawRoundedRect(rand, 4, 4);
+    maler.drawRoundedRect(leer ? rand.adjusted(1, 1, -1, -1) : rand, 4, 4);
+    if (leer) {
+        QFont schrift = font();
+        schrift.setBold(true);
+        schrift.setPixelSize(std::max(static_cast<int>(0.7 * std::min(width(), height())), 1));
+        maler.setFont(schrift);
+        maler.setPen(farbe_);
+        maler.drawText(rect(), Qt::AlignCenter, "0");
+        return;
+    }
     QRectF voll = rand.adjusted(3, 3, -3, -3);
     if (voll.height() > voll.width()) {
         voll.setTop(voll.bottom() - voll.height() * anteil_);

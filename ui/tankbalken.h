@@ -5,9 +5,12 @@
 
 namespace tarvel::ui {
 
-/// A fuel gauge: a bar that is as long as the tank is full, from the left or, in an upright place, from below.
+/// A fuel gauge: a bar that is as long as the tank is full, from the left or, in an upright place, from below. An empty
+/// one calls for help.
 class Tankbalken final : public QWidget {
 public:
+    inline static const QColor warnung{255, 40, 30};
+
     explicit Tankbalken(QWidget* eltern) : QWidget(eltern) {}
 
     /// `anteil` from 0 to 1.

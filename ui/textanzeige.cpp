@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 namespace {
 
@@ -66,6 +68,20 @@ void TextAnzeige::setFarbe(const QColor& farbe) {
     }
 }
 
+void TextAnzeige::setPlakette(bool plakette) {
+    if (plakette_ != plakette) {
+        plakette_ = plakette;
+        update();
+    }
+}
+
+void TextAnzeige::setRahmen(const QColor& farbe) {
+    if (rahmen_ != farbe) {
+        rahmen_ = farbe;
+        update();
+    }
+}
+
 void TextAnzeige::setAusrichtung(Qt::Alignment ausrichtung) {
     ausrichtung_ = ausrichtung;
     update();
@@ -85,14 +101,32 @@ QSize TextAnzeige::minimumSizeHint() const {
     return {1, 1};
 }
 
+void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) const {
+    const double breite = std::clamp(masse.horizontalAdvance(text_) + height() * 0.6, 0.0, width() * 1.0);
+    const double rund = std::min<double>(breite, height()) / 6;
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(farbe_);
+    maler.drawRoundedRect(QRectF((width() - breite) / 2, 0, breite, height()), rund, rund);
+}
+
 void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::TextAntialiasing);
     maler.setOpacity(deckkraft_);
-    maler.setPen(farbe_.isValid() ? farbe_ : palette().color(QPalette::WindowText));
     QFont schrift = schrift_;
     QString text = text_;
     const QFontMetricsF masse(schrift);
+    if (plakette_) {
+        plakette_malen(maler, masse);
+    }
+    if (rahmen_.isValid()) {
+        constexpr int breite = 3;
+        maler.setPen(QPen(rahmen_, breite));
+        maler.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+    const QColor farbe = farbe_.isValid() ? farbe_ : palette().color(QPalette::WindowText);
+    maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
     const double breite = std::max(masse.horizontalAdvance(text), 1.0);
     double faktor = std::min(width() / breite, height() / masse.capHeight());
     int art = Qt::TextSingleLine;

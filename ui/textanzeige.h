@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+class QFontMetricsF;
+
 namespace tarvel::ui {
 
 /// One line of text that fills its place: it shrinks rather than push its neighbours, and a change of the text repaints
@@ -20,6 +22,10 @@ public:
     void setZweizeilig();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
+    /// The text stands out of a plate of its colour.
+    void setPlakette(bool plakette);
+    /// A frame around the place; an invalid colour for none.
+    void setRahmen(const QColor& farbe);
     void setAusrichtung(Qt::Alignment ausrichtung);
     /// Takes the width of this text at the given size, whatever is shown.
     void setMusterText(const QString& muster);
@@ -31,10 +37,14 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
+    void plakette_malen(QPainter& maler, const QFontMetricsF& masse) const;
+
     QString text_;
     QString muster_;
     QFont schrift_;
     QColor farbe_;
+    QColor rahmen_;
+    bool plakette_ = false;
     double deckkraft_ = 1;
     bool zweizeilig_ = false;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;

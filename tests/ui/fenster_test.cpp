@@ -170,6 +170,20 @@ TEST_F(Oberflaeche, PauseVerschiebtKeinenKnopfUndDasFeldNimmtZiffern) {
     EXPECT_TRUE(t.bahn().ch_strafzeit_hacken[2].gesetzt());
 }
 
+TEST_F(Oberflaeche, NachDerRennartGehtTabZumNaechstenFeld) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
+    auto* rennart = finde<QComboBox>(o.form1, "Form1.rennart");
+    auto* dauer = finde<QLineEdit>(o.form1, "Form1.renndauer");
+    for (const auto& [taste, danach] : {std::pair(Qt::Key_Down, "Form1.renndauer"), {Qt::Key_Up, "Form1.stddauer"}}) {
+        rennart->setFocus();
+        QTest::keyClick(rennart, taste);
+        o.takt.ausfuehren();
+        ASSERT_TRUE(dauer->hasFocus());
+        QTest::keyClick(dauer, Qt::Key_Tab);
+        EXPECT_TRUE(finde<QLineEdit>(o.form1, danach)->hasFocus()) << danach;
+    }
+}
+
 TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
     t.einrichten("Zeit", "5", {1, 2});
     std::map<int, QSize> groessen;

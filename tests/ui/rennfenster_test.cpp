@@ -79,5 +79,42 @@ TEST_F(Rennfenster, FenstermodusStattVollbild) {
     EXPECT_TRUE(o.bahn1.isVisible() && !o.bahn1.isFullScreen());
 }
 
+TEST_F(Rennfenster, AmpelDerPauseVerdecktNichtsUndLaesstDemRennfensterDieTasten) {
+    t.p.einst.start_ampel_modus = 0;
+    t.starten("Zeit", "5", {1, 2});
+    t.maschine.laufen(3000);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));
+    groesse(1024, 768);
+    klick(o.bahn1, "bahn1.Command3");
+    t.maschine.laufen(3000);
+    QTest::qWait(50);
+    ASSERT_TRUE(o.k_ampel.isVisible());
+    const auto verdeckt = [&](const char* name) {
+        const auto* widget = finde<QWidget>(o.bahn1, name);
+        return o.k_ampel.geometry().intersects({widget->mapToGlobal(QPoint(0, 0)), widget->size()});
+    };
+    for (const char* name : {"bahn1.bahnshape_1", "bahn1.bahnshape_2", "bahn1.Frame1", "bahn1.ch_strafframe"}) {
+        EXPECT_FALSE(verdeckt(name)) << name;
+    }
+    const QPoint vorher = o.k_ampel.pos();
+    QTest::mousePress(&o.k_ampel, Qt::LeftButton, {}, {3, 3});
+    QTest::mouseMove(&o.k_ampel, {13, 43});
+    QTest::mouseRelease(&o.k_ampel, Qt::LeftButton);
+    EXPECT_EQ(o.k_ampel.pos() - vorher, QPoint(10, 40)) << "drawn away with the mouse";
+
+    o.k_ampel.activateWindow();  // as after a click on it
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&o.bahn1)) << "the keys go back to the race window";
+    auto* kasten = finde<QCheckBox>(o.bahn1, "bahn1.ch_strafzeit_hacken_2");
+    for (int tab = 0; tab < 20 && !kasten->hasFocus(); ++tab) {
+        QTest::keyClick(o.bahn1.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_TRUE(kasten->hasFocus());
+    QTest::keyClick(kasten, Qt::Key_Space);
+    EXPECT_TRUE(t.bahn().ch_strafzeit_hacken[2].gesetzt());
+    QTest::keyClick(kasten, Qt::Key_W, Qt::AltModifier);
+    QTest::qWait(150);
+    EXPECT_FALSE(t.p.k_ampel.Command1.aktiviert()) << "the light runs";
+}
+
 }  // namespace
 }  // namespace tarvel
