@@ -31,3 +31,10 @@ function(tarvel_bibliothek name)
     target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR})
   endif()
 endfunction()
+
+# tarvel_vorkompiliert(<target> <headers>): what most of its files include is read once.
+function(tarvel_vorkompiliert ziel)
+  if(TARVEL_VORKOMPILIERT)
+    target_precompile_headers(${ziel} PRIVATE ${ARGN})
+  endif()
+endfunction()
