@@ -223,7 +223,7 @@ void control_unit::rennfenster_offen() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     chaos_durch_box_ = false;
-    if (!port_->offen()) {
+    if (!port_->offen() && !mscomm1_oeffnen()) {  // it may have been unplugged since, and plugged in again
         bewirkt.port_fehlt();
         return;
     }
