@@ -29,8 +29,8 @@ namespace fs = std::filesystem;
 
 constexpr int runden = 5;
 constexpr const char* com = "7";
-constexpr zeit_ms schritt_ms = 15000;  // nothing that the demonstration waits for takes longer, but the race
-constexpr zeit_ms rennen_ms = 90000;
+constexpr zeit_ms schritt_ms = 60000;  // far more than a busy machine needs for any step but the race
+constexpr zeit_ms rennen_ms = 120000;
 
 struct vorfuehrgeraet {
     const char* name;
@@ -75,7 +75,7 @@ public:
         prozess_.setProcessChannelMode(QProcess::MergedChannels);
         QObject::connect(&prozess_, &QProcess::readyRead, &prozess_, [this] { lesen(); });
         prozess_.start(geraet.simulator, {"--ordner", ordner, "--com", com, "--spuren", "6", "--saat", "7",
-                                          "--rundenzeit", "4200", "--dauer", "180"});
+                                          "--rundenzeit", "4200", "--dauer", "600"});
     }
     ~simulatorlauf() {
         prozess_.terminate();
