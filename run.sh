@@ -1,18 +1,38 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the program and starts it.
+# Installs what is missing, builds the program and starts it. Without a screen, or on demand, a short race against a
+# simulated timing device shows it at work:
+#   ./run.sh                            the program, without a screen the demonstration
+#   ./run.sh vorfuehrung [cu|at2560]    the demonstration, with the one device or the other
 set -euo pipefail
 cd "$(dirname "$0")"
 
-kein_bildschirm() {
-    echo "Tarvel braucht einen Bildschirm: bitte ./run.sh in einer grafischen Sitzung aufrufen." >&2
-    exit 1
+vorfuehrung() {
+    tools/programmordner.sh
+    cmake --build --preset release --target vorfuehrung
+    exec build/release/tools/vorfuehrung "$@"
 }
 
+case "${1:-}" in
+vorfuehrung)
+    shift
+    vorfuehrung "$@"
+    ;;
+cu | at2560) vorfuehrung "$@" ;;
+"") ;;
+*)
+    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560]" >&2
+    exit 2
+    ;;
+esac
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
-    kein_bildschirm
+    echo "Kein Bildschirm: das Programm fährt ein Rennen gegen einen Simulator und erzählt es als Text."
+    vorfuehrung
 fi
 tools/programmordner.sh
 ende=0
 Tarvel/tarvel || ende=$?
-[ "$ende" -ne 134 ] || kein_bildschirm # Qt gives up this way if the display cannot be opened
+if [ "$ende" -eq 134 ]; then # Qt gives up this way if the display cannot be opened
+    echo "Der Bildschirm lässt sich nicht öffnen. Ohne ihn geht: ./run.sh vorfuehrung" >&2
+    ende=1
+fi
 exit "$ende"

@@ -69,10 +69,15 @@ void at2560::profil_laden() {
 bool at2560::oeffnen() {
     schliessen();
     profil_laden();
+    const bool geoeffnet = port_oeffnen();
+    if (!geoeffnet && nicht_zu_oeffnen) {
+        nicht_zu_oeffnen();
+    }
+    return geoeffnet;
+}
+
+bool at2560::port_oeffnen() {
     if (!MSComm2_->oeffnen(um_.einst.uart_port, at_port_werte(um_.einst))) {
-        if (nicht_zu_oeffnen) {
-            nicht_zu_oeffnen();
-        }
         return false;
     }
     if (um_.einst.hardware.hw_uart) {
@@ -118,7 +123,9 @@ void at2560::at_senden(std::string_view text) {
 }
 
 void at2560::rennfenster_offen() {
-    if (um_.einst.hardware.hw_uart && !MSComm2_->offen()) {
+    if (tmr_µportopen_->laeuft()) {
+        warten(true);                                                                  // also in this window
+    } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() && !port_oeffnen()) {  // lost, and not there again
         um_.meldungen.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
     }
 }

@@ -1,7 +1,6 @@
 #include "hardware/control_unit.h"
 
-#include <array>
-#include <cstdlib>
+#include <algorithm>
 
 namespace tarvel {
 namespace {
@@ -10,7 +9,8 @@ constexpr std::string_view starttaste_befehl = "T2P$";
 
 constexpr int durchgaenge_max = 100;     // slow passes without an end of a record
 constexpr zeit_ms verbunden_ms = 1000;   // the unit counts as there for so long after a record
-constexpr zeit_ms uhr_sprung_ms = 2000;  // no answer is that late: the unit's clock has begun anew
+constexpr zeit_ms uhr_sprung_ms = 2000;  // nothing is that late of itself: the unit's clock has begun anew
+constexpr zeit_ms ohne_luecke_ms = 50;   // between two records of a unit that answers
 constexpr zeit_ms uhr_umlauf = zeit_ms{1} << 32;
 
 /// What a car's passage at a sensor means; cars 7 and 8 have no lane.
@@ -68,6 +68,7 @@ void control_unit::schliessen() {
     geantwortet_ = 0;
     uhr_bekannt_ = false;
     letzter_stempel_ = 0;
+    luecke_ = 0;
     umlauf_ = 0;
     cu_startzustand_ = start::unbekannt;
 }
@@ -99,8 +100,13 @@ void control_unit::cu_tankentscheidung_tick() {
 }
 
 void control_unit::satz_verarbeiten(const std::string& satz) {
+    const zeit_ms still = geantwortet_ == 0 ? 0 : uhr_.jetzt() - geantwortet_;
     geantwortet_ = uhr_.jetzt();
-    std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, cu::satz_lesen(satz));
+    const cu::meldung meldung = cu::satz_lesen(satz);
+    // A busy machine finds passages that have waited as long as it was busy, until the unit has none left.
+    const bool nichts_wartet = still <= ohne_luecke_ms && std::holds_alternative<cu::status>(meldung);
+    luecke_ = nichts_wartet ? 0 : std::max(luecke_, still);
+    std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, meldung);
 }
 
 void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
@@ -118,7 +124,8 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
 
 void control_unit::uhr_nachstellen(zeit_ms stempel) {
     const zeit_ms verspaetung = um_.zeit.messzeit_lesen() - stempel;
-    if (!uhr_bekannt_ || stempel < letzter_stempel_ || std::abs(verspaetung) > uhr_sprung_ms) {
+    if (!uhr_bekannt_ || stempel < letzter_stempel_ || verspaetung > uhr_sprung_ms + luecke_ ||
+        verspaetung < -uhr_sprung_ms) {
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
         bewirkt.stempel_verschieben(-verspaetung);
         uhr_bekannt_ = true;
@@ -192,7 +199,7 @@ void control_unit::rennfenster_offen() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_chaos_durch_box_ = false;
-    if (!leitung_.offen()) {
+    if (!leitung_.offen() && !mscomm1_oeffnen()) {  // it may have been unplugged since, and plugged in again
         bewirkt.port_fehlt();
         return;
     }

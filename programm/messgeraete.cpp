@@ -61,7 +61,7 @@ void messgeraete::at_verbinden() {
         r.tanken.sensoren_nachhalten();
         r.tanken.tank_kontakte_auswerten();
     };
-    at.wartehinweis = [this](bool an) { um_.form1.wartehinweis(an); };
+    at.wartehinweis = [this](bool an) { at_wartet_anzeigen(an); };
     at.nicht_zu_oeffnen = [this] {
         um_.einst.hardware.hw_uart = false;
         um_.einst.hardware.hw_simulation = true;
@@ -72,6 +72,19 @@ void messgeraete::at_verbinden() {
         meldungen_.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
     };
     at.verloren = [this] { verbindung_anzeigen(); };
+}
+
+void messgeraete::at_wartet_anzeigen(bool an) {
+    um_.form1.wartehinweis(an);
+    befehl& rennstart = um_.rennen.bahn1.Command1;
+    if (an) {
+        rennstart.aktiviert(false);
+    } else if (um_.rennen.zustand.rennen_beendet && !um_.fenster.ist_offen("auswertung")) {
+        rennstart.aktiviert(true);
+        rennstart.fokus_setzen();
+        um_.ausgaben.ruhezustand();  // what was switched while the unit booted has not reached it
+    }
+    verbindung_anzeigen();
 }
 
 void messgeraete::schliessen() {

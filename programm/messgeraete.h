@@ -43,6 +43,8 @@ public:
 private:
     void cu_verbinden();
     void at_verbinden();
+    /// The AT-2560 boots (true), or is ready: meanwhile no race starts.
+    void at_wartet_anzeigen(bool an);
     void verbindung_anzeigen();
     /// The race window waits for a start, and nothing of a race runs behind it.
     bool rennen_ruht() const;

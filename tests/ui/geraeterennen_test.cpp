@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <algorithm>
+#include <thread>
+
+#include "platform_qt/qt_dienste.h"
+#include "tests/plattform/testprogramm.h"
+#include "tools/simulator/anschluss.h"
+#include "tools/simulator/at2560.h"
+#include "tools/simulator/at2560_pins.h"
+#include "tools/simulator/control_unit.h"
+#include "ui/oberflaeche.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int com = 7;
+
+/// Length of the races in seconds; a long one on demand.
+int dauer_s() {
+    constexpr int kurz = 12;
+    const int lang = qEnvironmentVariableIntValue("TARVEL_LANGLAUF");
+    return lang > 0 ? lang : kurz;
+}
+
+/// A simulated device on a thread of its own, at the other end of a pseudo-terminal.
+class geraet_am_kabel {
+public:
+    geraet_am_kabel(simulator::geraet& geraet, const std::filesystem::path& ordner)
+        : geraet_(geraet), kabel_({ordner.string(), com, {}, 19200}) {
+        EXPECT_EQ(kabel_.oeffnen(), "");
+        geraet_.senden = [this](std::string_view bytes) { kabel_.schreiben(bytes); };
+        lauf_ = std::jthread([this](const std::stop_token& ende) { laufen(ende); });
+    }
+    /// Its cars stand still from now on.
+    void anhalten() {
+        lauf_.request_stop();
+        lauf_.join();
+    }
+
+private:
+    void laufen(const std::stop_token& ende) {
+        const qt::QtUhr uhr;
+        bool verbunden = false;
+        while (!ende.stop_requested()) {
+            if (verbunden != kabel_.verbunden()) {
+                verbunden = !verbunden;
+                if (verbunden) {
+                    geraet_.verbunden();
+                }
+            }
+            const std::string bytes = kabel_.lesen(1);
+            geraet_.weiter(uhr.jetzt());
+            geraet_.empfangen(bytes);
+        }
+    }
+
+    simulator::geraet& geraet_;
+    simulator::anschluss kabel_;
+    std::jthread lauf_;
+};
+
+/// Six cars with laps of a second and a half to two and a half.
+simulator::rennen_einstellung schnelle_wagen() {
+    simulator::rennen_einstellung rennen;
+    rennen.wagen.resize(spuren_max);
+    zeit_ms rundenzeit = 1500;
+    for (simulator::wagen_einstellung& w : rennen.wagen) {
+        w.rundenzeit = rundenzeit += 150;
+    }
+    return rennen;
+}
+
+/// The program with its windows, in real time and with real ports. Nobody has to answer a message.
+struct Geraeterennen : testing::Test {
+    static plattform::dienste dienste(qt::QtDienste& echt, test::test_plattform& test) {
+        const plattform::dienste e = echt.dienste();
+        const plattform::dienste t = test.dienste();
+        return {e.uhr,        e.zeitgeber, t.meldungen, t.klang,       t.kalender,
+                t.bildschirm, t.prozess,   t.zufall,    e.serienports, test.ordner()};
+    }
+    void SetUp() override {
+        p.starten();
+        maschine.meldungen_gezeigt.clear();
+        p.einst.beste_modus = 0;
+        p.einst.zielmodus_erster = true;
+        p.einst.fruehstart_option = 0;
+        p.einst.start_ampel_modus = 0;
+        p.einst.hardware = {};
+    }
+    void fahren() {
+        p.form1.rennart.eingeben(p.txt.text_zeit);
+        p.form1.renndauer.eingeben(std::to_string(dauer_s() / 60) + "," +
+                                   std::to_string(100 + dauer_s() % 60).substr(1));
+        p.form1.wertmin.eingeben("0.5");
+        for (const int spur : alle_spuren) {
+            if (haken& fahrt_mit = p.form1.spur.at(feld_index(spur)); !fahrt_mit.gesetzt()) {
+                fahrt_mit.umschalten();
+            }
+        }
+        p.form1.Command1.klicken();
+        p.rennen.bahn1.Command1.klicken();
+        const int laengstens_ms = (dauer_s() + 20) * 1000;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return p.fenster.ist_offen("auswertung"); }, laengstens_ms));
+        EXPECT_TRUE(maschine.meldungen_gezeigt.empty()) << maschine.meldungen_gezeigt.front();
+    }
+    /// Each lap as the device has seen it, and none that was driven in time is missing.
+    void vergleichen(const simulator::geraet& geraet) {
+        int alle = 0;
+        for (const int spur : alle_spuren) {
+            std::vector<zeit_ms> stempel;
+            for (const simulator::ueberfahrt& u : geraet.fahrten()) {
+                if (u.wagen == spur && u.sensor == 1) {
+                    stempel.push_back(u.stempel);
+                }
+            }
+            const int runden = p.rennen.zustand.spur[spur].runden;
+            ASSERT_GT(runden, 0);
+            ASSERT_LT(static_cast<std::size_t>(runden), stempel.size());
+            for (int runde = 1; runde <= runden; ++runde) {
+                const auto i = static_cast<std::size_t>(runde);
+                ASSERT_EQ(p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
+                    << spur << " " << runde;
+            }
+            const zeit_ms letzte = p.rennen.zustand.rundenzeiten.stempel(spur, runden);
+            constexpr zeit_ms laengste_runde = 2700;
+            EXPECT_GT(letzte + laengste_runde, p.rennen.zustand.renn_ende_zeit) << "a lap is missing at the end";
+            alle += runden;
+        }
+        std::printf("%d Runden in %d s, jede auf die Millisekunde\n", alle, dauer_s());
+    }
+
+    test::test_plattform maschine;
+    qt::QtDienste echt{maschine.ordner()};
+    programm p{dienste(echt, maschine)};
+    ui::Oberflaeche o{p};
+};
+
+TEST_F(Geraeterennen, ControlUnit) {
+    simulator::control_unit_einstellung einst;
+    einst.rennen = schnelle_wagen();
+    einst.rennen.uhr_start = 0xFFFFFFFF - 8000;  // its clock overflows in the race
+    einst.lampentakt = 300;
+    einst.vorspann_promille = 100;
+    simulator::control_unit geraet(einst);
+    geraet_am_kabel kabel(geraet, maschine.ordner());
+    p.einst.hardware.hw_cu = true;
+    p.einst.cu_modus = com;
+    p.einst.cu_sondermodus = true;
+    p.geraete.hardware_starten(false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.cu.antwortet(); }));
+    fahren();
+    kabel.anhalten();
+    vergleichen(geraet);
+}
+
+TEST_F(Geraeterennen, At2560) {
+    maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
+    simulator::at2560_einstellung einst;
+    einst.rennen = schnelle_wagen();
+    einst.bootzeit = 2500;
+    simulator::at2560 geraet(einst);
+    geraet_am_kabel kabel(geraet, maschine.ordner());
+    p.einst.hardware.hw_uart = true;
+    p.einst.uart_port = com;
+    p.geraete.hardware_starten(false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return p.form1.inhalt.sichtbar(); }));
+    fahren();
+    kabel.anhalten();
+    vergleichen(geraet);
+}
+
+}  // namespace
+}  // namespace tarvel

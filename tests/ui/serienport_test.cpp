@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <algorithm>
+
+#include "platform_qt/qt_serienport.h"
+#include "tests/plattform/test_plattform.h"
+#include "tools/simulator/anschluss.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int com = 7;
+constexpr const char* werte = "19200,N,8,1";
+
+std::string alle_bytes() {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        bytes += static_cast<char>(byte);
+    }
+    return bytes;
+}
+
+/// The program's end of a pseudo-terminal, and the device at the other.
+struct Serienport : testing::Test {
+    void SetUp() override {
+        ASSERT_EQ(geraet.oeffnen(), "");
+        port->bei_empfang = [this](std::string_view bytes) { empfangen += bytes; };
+        port->bei_verlust = [this] { ++verluste; };
+    }
+    /// What the device has got, once it is as long.
+    std::string am_geraet(std::size_t laenge) {
+        std::string bytes;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (bytes += geraet.lesen(1)).size() >= laenge; }));
+        return bytes;
+    }
+
+    test::test_plattform maschine;
+    qt::QtSerienportDienst dienst{maschine.ordner()};
+    simulator::anschluss geraet{{maschine.ordner().string(), com, {}, 19200}};
+    std::unique_ptr<plattform::serienport> port = dienst.erzeugen();
+    std::string empfangen;
+    int verluste = 0;
+};
+
+TEST_F(Serienport, JedesByteInBeidenRichtungen) {
+    EXPECT_FALSE(port->schreiben("x"));
+    ASSERT_TRUE(port->oeffnen(com, werte));
+    EXPECT_TRUE(port->schreiben(alle_bytes()));
+    EXPECT_EQ(am_geraet(256), alle_bytes());
+    geraet.schreiben(alle_bytes());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return empfangen.size() >= 256; }));
+    EXPECT_EQ(empfangen, alle_bytes());
+
+    port->bei_empfang = [this](std::string_view) { port->schliessen(); };
+    geraet.schreiben("x");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !port->offen(); }));
+    EXPECT_FALSE(geraet.verbunden());
+    EXPECT_EQ(verluste, 0);
+}
+
+TEST_F(Serienport, WasKeinPortUndKeinWertIstWirdVerweigert) {
+    for (const char* falsch :
+         {"", "19200", "19200,N,8", "19200,N,8,1,1", "0,N,8,1", "-9600,N,8,1", "abc,N,8,1", "19200,X,8,1", "19200,,8,1",
+          "19200,N,4,1", "19200,N,9,1", "19200,N,8,3", "19200,N,8,"}) {
+        EXPECT_FALSE(port->oeffnen(com, falsch)) << falsch;
+        EXPECT_FALSE(port->offen());
+    }
+    for (const int nummer : {-1, 0, 8, 256, 257}) {
+        EXPECT_FALSE(port->oeffnen(nummer, werte)) << nummer;
+    }
+    for (const char* richtig : {"4800,n,8,1", "115200,E,7,2", "57600,O,5,1"}) {
+        EXPECT_TRUE(port->oeffnen(com, richtig)) << richtig;
+    }
+    const auto zweiter = dienst.erzeugen();
+    EXPECT_FALSE(zweiter->oeffnen(com, werte)) << "somebody else has it";
+    EXPECT_TRUE(port->offen());
+}
+
+TEST_F(Serienport, AbgezogenMeldetEsSichEinmalUndSteckt) {
+    for (int mal = 1; mal <= 3; ++mal) {
+        ASSERT_TRUE(port->oeffnen(com, werte));
+        while (port->schreiben(std::string(4096, 'x'))) {  // nobody takes it: the line is full
+        }
+        QElapsedTimer seit;
+        seit.start();
+        geraet.abziehen();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !port->offen(); }));
+        EXPECT_FALSE(port->schreiben("x"));
+        QTest::qWait(50);
+        EXPECT_LT(seit.elapsed(), 1000) << "the race stood still";
+        EXPECT_EQ(verluste, mal);
+        EXPECT_FALSE(port->oeffnen(com, werte));
+        ASSERT_EQ(geraet.oeffnen(), "");
+    }
+}
+
+TEST_F(Serienport, ListeNenntWasDaIst) {
+    const auto da = [this] {
+        const std::vector<int> ports = dienst.vorhandene();
+        EXPECT_TRUE(std::is_sorted(ports.begin(), ports.end()));
+        return std::count(ports.begin(), ports.end(), com);
+    };
+    EXPECT_EQ(da(), 1);
+    geraet.abziehen();
+    EXPECT_EQ(da(), 0);
+}
+
+#ifndef Q_OS_WIN
+TEST(Portnamen, UsbPortsFolgenDenenDesRechners) {
+    const QStringList usb{"ttyACM0", "ttyUSB0", "ttyUSB2", "ttyUSB10"};
+    EXPECT_EQ(qt::com_nummer("ttyS0", usb), 1);
+    EXPECT_EQ(qt::com_nummer("ttyS3", usb), 4);
+    EXPECT_EQ(qt::com_nummer("ttyS4", usb), 0);
+    EXPECT_EQ(qt::com_nummer("ttyACM0", usb), 5);
+    EXPECT_EQ(qt::com_nummer("ttyUSB10", usb), 8);
+    EXPECT_EQ(qt::com_nummer("rfcomm0", usb), 0);
+}
+#endif
+
+}  // namespace
+}  // namespace tarvel
