@@ -1,7 +1,7 @@
 #include "hardware/control_unit.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdlib>
 
 namespace tarvel {
 namespace {
@@ -17,7 +17,7 @@ constexpr std::size_t empfang_max = 4096;  // characters: far more than ever wai
 constexpr int durchgaenge_max = 100;       // slow passes without an end of a record
 constexpr zeit_ms antwort_max_ms = 50;     // then the poll is lost, and the next one goes out
 constexpr zeit_ms verbunden_ms = 1000;     // the unit counts as there for so long after a record
-constexpr zeit_ms uhr_sprung_ms = 2000;    // no answer is that late: the unit's clock has begun anew
+constexpr zeit_ms uhr_sprung_ms = 2000;    // nothing is that late of itself: the unit's clock has begun anew
 constexpr zeit_ms uhr_umlauf = zeit_ms{1} << 32;
 constexpr int volle_stufe_tank = 14;
 
@@ -74,6 +74,7 @@ void control_unit::schliessen() {
     geantwortet_ = 0;
     uhr_bekannt_ = false;
     letzter_stempel_ = 0;
+    luecke_ = 0;
     umlauf_ = 0;
     startzustand_ = start::unbekannt;
 }
@@ -130,7 +131,11 @@ void control_unit::cu_tankabfrage_tick() {
 }
 
 void control_unit::satz_verarbeiten(const std::string& satz) {
+    const zeit_ms still = geantwortet_ == 0 ? 0 : uhr_.jetzt() - geantwortet_;
     geantwortet_ = uhr_.jetzt();
+    // A busy machine finds passages that have waited as long as it was busy, until the unit has none left.
+    const bool nichts_wartet = still <= antwort_max_ms && std::holds_alternative<cu::status>(cu::satz_lesen(satz));
+    luecke_ = nichts_wartet ? 0 : std::max(luecke_, still);
     if (bewirkt.satz_empfangen) {
         bewirkt.satz_empfangen(satz);
     }
@@ -152,7 +157,8 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
 
 void control_unit::uhr_nachstellen(zeit_ms stempel) {
     const zeit_ms verspaetung = um_.zeit.messzeit_lesen() - stempel;
-    if (!uhr_bekannt_ || stempel < letzter_stempel_ || std::abs(verspaetung) > uhr_sprung_ms) {
+    if (!uhr_bekannt_ || stempel < letzter_stempel_ || verspaetung > uhr_sprung_ms + luecke_ ||
+        verspaetung < -uhr_sprung_ms) {
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
         bewirkt.stempel_verschieben(-verspaetung);
         uhr_bekannt_ = true;

@@ -108,6 +108,8 @@ private:
     zeit_ms abgefragt_ = 0;       ///< reading of the machine's clock at the last poll
     zeit_ms geantwortet_ = 0;     ///< at the last record, 0 none
 
+    zeit_ms luecke_ = 0;  ///< ms without a record, as long as what has waited meanwhile still comes
+
     bool uhr_bekannt_ = false;
     zeit_ms letzter_stempel_ = 0;
     zeit_ms umlauf_ = 0;  ///< what the overflows of the unit's clock add up to
