@@ -323,6 +323,21 @@ TEST_F(ControlUnitRennen, InDerPauseAbgezogenGehtEsMitDerTastaturWeiter) {
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 
+TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    ueberfahrt(2, 1100);
+    t.maschine.laufen(3000);
+    status(false);
+    t.maschine.uhr_stellen(7000);  // neither timers nor records
+    status(false);                 // the answer to the last poll before
+    ueberfahrt(1, 9000);
+    ueberfahrt(2, 9300);
+    t.maschine.laufen(20);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 8000);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 8200);
+}
+
 TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     std::mt19937 zufall(7);
