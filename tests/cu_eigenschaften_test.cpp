@@ -72,7 +72,7 @@ TEST_F(CuEigenschaften, DieSucheFindetDasGeraetUndSeinPortWirdBehalten) {
     fenster.Command4.klicken();
     EXPECT_NE(t.p.einst.cu_sondermodus, vorher);
     EXPECT_EQ(t.p.einst.cu_reglerbefehl[2], "J220410$");
-    EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini").find("\r\n4\r\n"), std::string::npos);
+    EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini").find("\r\n 4 \r\n"), std::string::npos);
     laufen(700);
     EXPECT_TRUE(t.p.geraete.cu.antwortet()) << "the race has the port again";
 }
