@@ -128,18 +128,19 @@ QWidget* Form1Fenster::rennen_gruppe() {
     verwerfen->addWidget(binder().label(logik_.Label10, "Label10"));
     verwerfen->addStretch();
     raster->addLayout(verwerfen, 1, 4);
-    raster->setColumnMinimumWidth(5, 24);
+    raster->setColumnMinimumWidth(5, 16);
     QCheckBox* tank = binder().kasten(logik_.t_aktiv, "t_aktiv");
     QSizePolicy ganz = tank->sizePolicy();  // beside fields it is never cut
     ganz.setHorizontalPolicy(QSizePolicy::Minimum);
     tank->setSizePolicy(ganz);
     raster->addWidget(tank, 0, 6, Qt::AlignVCenter);
     QLabel* tankwerte = binder().label(logik_.tank_label, "tank_label");
-    QSizePolicy haelt_platz = tankwerte->sizePolicy();
+    QSizePolicy haelt_platz(QSizePolicy::Ignored, QSizePolicy::Preferred);  // long values do not widen the window
     haelt_platz.setRetainSizeWhenHidden(true);
     tankwerte->setSizePolicy(haelt_platz);
+    tankwerte->setMinimumWidth(155);
     raster->addWidget(tankwerte, 1, 6);
-    raster->setColumnStretch(4, 1);
+    raster->setColumnStretch(6, 1);
     tabfolge({art, stunden, dauer, tank, massstab, kuerzeste});
     new Weitersprung(art, dauer);
     return gruppe;
