@@ -211,6 +211,18 @@ struct szeneneintrag {
 
 const std::vector<szeneneintrag> szenen{
     {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
+    {"hauptfenster_control_unit",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_cu = true;
+         b.p.geraete.hardware_starten(false);
+         b.p.form1.t_aktiv.umschalten();
+         return b.o.form1;
+     }},
+    {"cu_eigenschaften",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen("cu_eigenschaften");
+         return b.o.cu;
+     }},
     {"rennen_vor_dem_start",
      [](buehne& b) -> QWidget& {
          b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});

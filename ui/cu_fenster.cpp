@@ -56,7 +56,7 @@ QWidget* CuFenster::optionengruppe() {
 QWidget* CuFenster::wagengruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_wagen, "Frame_wagen");
     auto* raster = new QGridLayout(kasten);
-    raster->setHorizontalSpacing(14);
+    raster->setHorizontalSpacing(10);
     int spalte = 0;
     for (const auto& [element, name] : {std::pair<bezeichnung&, const char*>{logik_.Label_wagen, "Label_wagen"},
                                         {logik_.Label_runden, "Label_runden"},
@@ -78,8 +78,11 @@ QWidget* CuFenster::wagengruppe() {
         raster->addWidget(binder().label(logik_.zeitanzeige[spur], "zeitanzeige" + nummer), spur, 2);
         raster->addWidget(binder().label(logik_.tank[spur], "tank" + nummer), spur, 3);
         raster->addWidget(lampe, spur, 4);
-        raster->addWidget(binder().auswahlfeld(logik_.cbo_cu_tankgroesse[spur], "cbo_cu_tankgroesse" + nummer), spur,
-                          5);
+        QComboBox* groesse = binder().auswahlfeld(logik_.cbo_cu_tankgroesse[spur], "cbo_cu_tankgroesse" + nummer);
+        groesse->setMinimumContentsLength(2);
+        groesse->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        groesse->setFixedWidth(72);
+        raster->addWidget(groesse, spur, 5);
     }
     return kasten;
 }
@@ -88,12 +91,13 @@ QWidget* CuFenster::statusgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_status, "Frame_status");
     auto* spalte = new QVBoxLayout(kasten);
     spalte->addWidget(binder().listenfeld(logik_.List1, "List1"), 1);
-    auto* zeile = new QHBoxLayout;
-    QCheckBox* aus = binder().kasten(logik_.timer_aus, "timer_aus");
-    zeile->addWidget(aus, 0, Qt::AlignTop);
-    spalte->addLayout(zeile);
+    spalte->addWidget(binder().kasten(logik_.timer_aus, "timer_aus"));
     auto* befehle = new QHBoxLayout;
     befehle->addWidget(binder().knopf(logik_.Command9, "Command9"));
+    befehle->addStretch();
+    spalte->addLayout(befehle);
+    befehle = new QHBoxLayout;
+    befehle->addWidget(binder().knopf(logik_.Command14, "Command14"));
     befehle->addStretch();
     befehle->addWidget(binder().knopf(logik_.Command3, "Command3"));
     befehle->addWidget(binder().knopf(logik_.Command6, "Command6"));
@@ -107,23 +111,23 @@ QWidget* CuFenster::befehlsgruppe() {
     zeile->addWidget(binder().label(logik_.Label_befehl, "Label_befehl"));
     zeile->addWidget(binder().zeile(logik_.Text1, "Text1"), 1);
     zeile->addWidget(binder().knopf(logik_.Command7, "Command7"));
-    zeile->addWidget(binder().knopf(logik_.Command14, "Command14"));
     return kasten;
 }
 
 QWidget* CuFenster::codiergruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_codieren, "Frame_codieren");
-    auto* zeile = new QHBoxLayout(kasten);
+    auto* raster = new QGridLayout(kasten);
     const std::array<feld*, 4> felder{&logik_.Text2, &logik_.Text3, &logik_.Text4, &logik_.Text5};
     for (std::size_t i = 0; i < felder.size(); ++i) {
         const QString nummer = QString::number(i + 2);
-        zeile->addWidget(binder().label(logik_.Label_code.at(i), "Label_code_" + nummer));
+        const int spalte = static_cast<int>(i);
+        raster->addWidget(stil::leise(binder().label(logik_.Label_code.at(i), "Label_code_" + nummer)), 0, spalte);
         QLineEdit* eingabe = binder().zeile(*felder.at(i), "Text" + nummer);
         eingabe->setFixedWidth(44);
-        zeile->addWidget(eingabe);
+        raster->addWidget(eingabe, 1, spalte);
     }
-    zeile->addStretch();
-    zeile->addWidget(binder().knopf(logik_.Command10, "Command10"));
+    raster->setColumnStretch(4, 1);
+    raster->addWidget(binder().knopf(logik_.Command10, "Command10"), 1, 5);
     return kasten;
 }
 

@@ -345,8 +345,8 @@ TEST_F(Oberflaeche, FarbenKommenAusDenEinstellungen) {
 }
 
 TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
-    for (QWidget* fenster :
-         {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.auswertung), static_cast<QWidget*>(&o.tastatur)}) {
+    for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.auswertung),
+                             static_cast<QWidget*>(&o.tastatur), static_cast<QWidget*>(&o.cu)}) {
         const QSize platz = fenster->minimumSizeHint();
         EXPECT_LE(platz.width(), 1000) << fenster->objectName().toStdString();
         EXPECT_LE(platz.height(), 740) << fenster->objectName().toStdString();
