@@ -64,7 +64,7 @@ QString Portnamen::von(int nummer) const {
 #ifdef Q_OS_WIN
     return "COM" + QString::number(nummer);
 #else
-    if (const QString ziel = verweis(nummer); !ziel.isEmpty()) {
+    if (QString ziel = verweis(nummer); !ziel.isEmpty()) {
         return ziel;
     }
     const QList<QSerialPortInfo> ports = QSerialPortInfo::availablePorts();
