@@ -283,9 +283,17 @@ void startampel::zeitgeber_aus() {
     cu_ampel_auswertetimer_->aus();
 }
 
+void startampel::geraet_anhalten() {
+    geraeteampel* licht = um_.quellen.ampel();
+    if (std::exchange(geraet_gestartet_, false) && licht != nullptr && licht->rot()) {
+        licht->abbrechen();  // else its light goes green all the same
+    }
+}
+
 void startampel::start_abbrechen() {
     abgebrochen_ = true;
     zeitgeber_aus();
+    geraet_anhalten();
     fenster.Label1.sichtbar(true);
     fenster.abbrampel.text("OK");
     fenster.abbrampel.fokus_setzen();
@@ -302,9 +310,7 @@ void startampel::abbrampel_klick() {
     }
     r_.strafen.alle_strom_an();
     zeitgeber_aus();
-    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && geraet_gestartet_ && licht->rot()) {
-        licht->abbrechen();
-    }
+    geraet_anhalten();
     r_.ablauf.start_abgebrochen();
     fenster.Nachtabschaltung.sichtbar(false);
     um_.fenster.entladen("Form2");

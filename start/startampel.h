@@ -52,6 +52,7 @@ private:
     /// Follows the light that a device runs itself.
     void cu_ampel_auswerten();
     void eigene_kette_beginnen();
+    void geraet_anhalten();
     void gruen_zeigen();
     void freigabe_tick();
     void fruehstart_tick();

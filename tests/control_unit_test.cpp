@@ -253,6 +253,21 @@ TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaellt
     EXPECT_TRUE(t.bahn().Command3.bedienbar());
 }
 
+TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) {
+    t.p.einst.cu_sondermodus = true;
+    t.p.einst.fruehstart_option = 1;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    status(true);
+    t.maschine.laufen(2100);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    ueberfahrt(1, 6000);
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    t.p.startampel.fenster.abbrampel.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2) << "a third press would start its light again";
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+}
+
 TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
     t.p.einst.cu_sondermodus = true;
     t.einrichten(t.p.txt.text_runden, "2", {1});
