@@ -299,7 +299,7 @@ TEST_F(At2560, BeliebigeBytesBringenNichtsDurcheinander) {
     constexpr std::string_view zeichen = "::;;,,.eT0123456789-\r\n\xFF";
     std::mt19937 zufall(2560);
     const auto unter = [&](std::size_t n) { return static_cast<std::size_t>(zufall()) % n; };
-    for (int i = 0; i < 100000;) {
+    for (int i = 0; i < 1000000;) {
         std::string bytes;
         for (std::size_t n = unter(40); n > 0; --n, ++i) {
             bytes += unter(8) == 0 ? static_cast<char>(zufall()) : zeichen[unter(zeichen.size())];
@@ -309,7 +309,8 @@ TEST_F(At2560, BeliebigeBytesBringenNichtsDurcheinander) {
             a.t.maschine.laufen(static_cast<zeit_ms>(unter(3)));
         }
     }
-    a.t.p.rennen.befehle.fenster_schliessen();
+    a.t.p.fenster.entladen("auswertung");  // perhaps all of them are home
+    a.t.p.fenster.entladen("bahn1");
     a.t.starten("Runden", "20", {1});
     a.sagt(";:T,0;");
     a.t.maschine.laufen(1000);

@@ -37,7 +37,9 @@ QWidget* CuFenster::portgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_port, "Frame_port");
     auto* raster = new QGridLayout(kasten);
     raster->addWidget(binder().label(logik_.Label_port, "Label_port"), 0, 0);
-    raster->addWidget(binder().auswahlfeld(logik_.cbo_cu_comport, "cbo_cu_comport"), 0, 1);
+    QComboBox* port = binder().auswahlfeld(logik_.cbo_cu_comport, "cbo_cu_comport");
+    port->setMinimumWidth(150);
+    raster->addWidget(port, 0, 1);
     raster->addWidget(binder().knopf(logik_.Command8, "Command8"), 0, 2);
     raster->addWidget(binder().knopf(logik_.Command2, "Command2"), 1, 1);
     raster->addWidget(binder().knopf(logik_.Command1, "Command1"), 1, 2);

@@ -40,7 +40,8 @@ void Fenster::zentrieren() {
     constexpr int rahmen_px = 40;  // title bar and edges of the desktop
     constexpr int seiten_px = 12;
     const QRect platz = screen()->availableGeometry();
-    resize(std::min(width(), platz.width() - seiten_px), std::min(height(), platz.height() - rahmen_px));
+    const QSize gewuenscht = size().expandedTo(minimumSizeHint());
+    resize(gewuenscht.boundedTo({platz.width() - seiten_px, platz.height() - rahmen_px}));
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));
 }
 
