@@ -201,12 +201,7 @@ void startampel::cu_ampel_auswerten() {
     um_.quellen.melden(&messquelle::abfragen);
     if (licht == nullptr) {  // unplugged: the race starts without it
         cu_ampel_auswertetimer_->aus();
-        if (ampelmodus_von(um_.einst.start_ampel_modus).rote_schritte > 0) {
-            eigene_kette_beginnen();
-        } else {  // without a light of the program's own there is nothing to wait for
-            Timer8_->an();
-            gruen_geben();
-        }
+        eigene_kette_beginnen();
     } else if (!geraet_rot_ && !licht->rot()) {
         um_.ereignisse.rundenzaehlung_leeren();  // the cars may still roll to the start
     } else if (licht->rot()) {
