@@ -322,6 +322,23 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
 }
 
+TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
+    for (const int modus : {0, 5}) {
+        t.maschine.anschluesse.da = {com};
+        t.p.geraete.hardware_starten(false);
+        t.einrichten(t.p.txt.text_runden, "10", {1});
+        t.p.einst.start_ampel_modus = modus;
+        status(false);
+        t.bahn().Command1.klicken();
+        status(true);
+        t.maschine.anschluesse.abziehen(com);
+        t.maschine.laufen(15000);
+        EXPECT_TRUE(t.bahn().Command4.bedienbar()) << modus;
+        EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << modus;
+        t.bahn().Command2.klicken();
+    }
+}
+
 TEST_F(ControlUnitRennen, InDerPauseAbgezogenGehtEsMitDerTastaturWeiter) {
     starten(t.p.txt.text_runden, "10", {1, 2});
     ueberfahrt(1, 1000);
