@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "tools/fensterbilder/buehne.h"
+
+namespace tarvel {
+
+/// A window in a given state.
+struct szeneneintrag {
+    const char* name;
+    QWidget& (*zeigen)(buehne&);
+    bool eigene_groesse = false;  ///< the window is as large as it wants to be
+};
+
+const std::vector<szeneneintrag>& szenen();
+
+}  // namespace tarvel
