@@ -12,7 +12,7 @@ constexpr int name_laenge_max = 100;
 
 }  // namespace
 
-speichernfenster::speichernfenster(umgebung um, std::string_view fenstername, std::string_view sprachdatei)
+speichernfenster::speichernfenster(fenster_umgebung um, std::string_view fenstername, std::string_view sprachdatei)
     : um_(um), fenstername_(fenstername), sprachdatei_(sprachdatei) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {

@@ -3,11 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "core/dateien.h"
-#include "core/fensterregister.h"
+#include "core/fensterumgebung.h"
 #include "core/steuerelemente.h"
-#include "core/texte.h"
-#include "platform/meldungen.h"
 
 namespace tarvel {
 
@@ -29,15 +26,8 @@ struct dateiauftrag {
 /// The window in which a file is chosen for saving or loading.
 class speichernfenster {
 public:
-    struct umgebung {
-        const dateien& ablage;
-        const texte& txt;
-        fensterregister& fenster;
-        plattform::meldungen& meldungen;
-    };
-
     /// `fenstername` is the window's name in the register, `sprachdatei` the file of its texts.
-    speichernfenster(umgebung um, std::string_view fenstername, std::string_view sprachdatei);
+    speichernfenster(fenster_umgebung um, std::string_view fenstername, std::string_view sprachdatei);
 
     rahmen titel;  ///< carries the window's title
     bezeichnung ueberschrift;
@@ -68,7 +58,7 @@ private:
         std::string ungueltig;
     };
 
-    umgebung um_;
+    fenster_umgebung um_;
     std::string fenstername_;
     std::string sprachdatei_;
     worte wort_;

@@ -39,6 +39,14 @@ public:
         });
     }
     sprachliste& tipp(std::string_view deutsch, steuerelement& ziel);
+    template <class Reihe>
+    sprachliste& tipp_fuer_alle(std::string_view deutsch, Reihe& ziele) {
+        return text(deutsch, [&ziele](const std::string& neu) {
+            for (auto& ziel : ziele) {
+                ziel.tipp(neu);
+            }
+        });
+    }
     sprachliste& ansage(std::string_view deutsch, steuerelement& ziel);
 
     void deutsch_setzen() const { setzen({}); }

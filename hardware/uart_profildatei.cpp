@@ -13,7 +13,7 @@ constexpr int name_laenge_max = 60;
 
 }  // namespace
 
-uart_profildatei::uart_profildatei(umgebung um) : um_(um) {
+uart_profildatei::uart_profildatei(fenster_umgebung um) : um_(um) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {
         if (dateiliste.markiert() >= 0) {

@@ -3,25 +3,17 @@
 #include <functional>
 #include <string>
 
-#include "core/fensterregister.h"
+#include "core/fensterumgebung.h"
+#include "core/sprache.h"
 #include "core/steuerelemente.h"
-#include "core/texte.h"
 #include "hardware/at2560_profil.h"
-#include "platform/meldungen.h"
 
 namespace tarvel {
 
 /// The window `UART_Profildatei`: picks the command file of the AT-2560, or names a new one.
 class uart_profildatei {
 public:
-    struct umgebung {
-        const dateien& ablage;
-        const texte& txt;
-        fensterregister& fenster;
-        plattform::meldungen& meldungen;
-    };
-
-    explicit uart_profildatei(umgebung um);
+    explicit uart_profildatei(fenster_umgebung um);
 
     rahmen titel;
     bezeichnung hinweis;
@@ -43,7 +35,7 @@ public:
 private:
     void uebernehmen();
 
-    umgebung um_;
+    fenster_umgebung um_;
     std::string bisher_;  ///< the file in force: a new one is made like it
     std::string zeichen_text_;
 };

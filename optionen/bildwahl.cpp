@@ -25,7 +25,7 @@ bool ist_bild(const fs::path& datei) {
 
 }  // namespace
 
-bildwahl::bildwahl(umgebung um) : um_(um) {
+bildwahl::bildwahl(fenster_umgebung um) : um_(um) {
     laufwerk.bei_aenderung = [this] { ordner_zeigen(pfad_aus_utf8(laufwerk.text())); };
     ordner.bei_doppelklick = [this] { ordner_betreten(); };
     datei.bei_auswahl = [this] { datei_gewaehlt(); };

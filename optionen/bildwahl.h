@@ -5,12 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/dateien.h"
-#include "core/fensterregister.h"
+#include "core/fensterumgebung.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
-#include "core/texte.h"
-#include "platform/meldungen.h"
 
 namespace tarvel {
 
@@ -20,12 +17,6 @@ public:
     /// What comes back instead of a name when the operator cancels.
     static constexpr std::string_view abgebrochen = "--cancel--";
 
-    struct umgebung {
-        const dateien& ablage;
-        const texte& txt;
-        fensterregister& fenster;
-        plattform::meldungen& meldungen;
-    };
     struct auftrag {
         std::string titel;
         std::string bildordner;
@@ -35,7 +26,7 @@ public:
         std::function<void(const std::string&)> fertig;
     };
 
-    explicit bildwahl(umgebung um);
+    explicit bildwahl(fenster_umgebung um);
 
     rahmen titel;
     bezeichnung Label_laufwerk;
@@ -61,7 +52,7 @@ private:
     void datei_gewaehlt();
     void uebernehmen();
 
-    umgebung um_;
+    fenster_umgebung um_;
     auftrag auftrag_;
     std::filesystem::path ort_;
     std::string kein_bild_text_;

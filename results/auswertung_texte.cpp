@@ -36,16 +36,9 @@ sprachliste auswertung::sprache_a() {
     texte.tipp("Die Fahrzeuge wechseln die Spur mit ihren Fahrern", tauschfahrzeug);
     texte.tipp("Die markierte Runde war keine: ihre Zeit zählt zur Runde davor", Command8);
     texte.tipp("Meter, die ein Fahrzeug über seine letzte volle Runde hinaus gekommen ist", Command6);
-    const auto tipp_fuer_alle = [&texte](std::string_view deutsch, je_spur<befehl>& ziele) {
-        texte.text(deutsch, [&ziele](const std::string& neu) {
-            for (befehl& ziel : ziele) {
-                ziel.tipp(neu);
-            }
-        });
-    };
-    tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
-    tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
-    tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
+    texte.tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
+    texte.tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
+    texte.tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
     texte.text("Wertung nach Metern", wort_.wertung[0]).text("Wertung nach Runden", wort_.wertung[1]);

@@ -12,7 +12,7 @@ constexpr std::size_t tageszeilen_max = 1000000;  // what was driven before is n
 
 }  // namespace
 
-rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const speichernfenster::umgebung& um)
+rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um)
     : fenster(um, "rundenspeichern", "language\\language_s1.txt"), r_(r), stand_(stand), um_(um) {}
 
 sprachliste rundenspeichern::sprache() {

@@ -10,7 +10,7 @@ namespace tarvel {
 /// Saves results: under a name of the operator's choice in its window, or by itself.
 class rundenspeichern {
 public:
-    rundenspeichern(rennen& r, const wertung& stand, const speichernfenster::umgebung& um);
+    rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um);
 
     speichernfenster fenster;  ///< its controls
 
@@ -34,7 +34,7 @@ private:
 
     rennen& r_;
     const wertung& stand_;
-    speichernfenster::umgebung um_;
+    fenster_umgebung um_;
     ergebnis_worte wort_;
     std::string titel_;
     std::string name_fehlt_;

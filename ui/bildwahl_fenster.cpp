@@ -37,11 +37,8 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* elter
     mitte->addWidget(binder().bildfeld(logik.vorschau, "vorschau", vorschaugroesse, pfad_aus_utf8), 0, Qt::AlignTop);
     aufbau->addLayout(mitte, 1);
 
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->addStretch();
-    knoepfe->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1")));
-    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
-    aufbau->addLayout(knoepfe);
+    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
+    aufbau->addLayout(stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")}));
     resize(860, 480);
 }
 

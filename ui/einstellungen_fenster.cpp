@@ -37,11 +37,8 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
     mitte->addLayout(stapel, 1);
     aufbau->addLayout(mitte, 1);
 
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->addStretch();
-    knoepfe->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1")));
-    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
-    aufbau->addLayout(knoepfe);
+    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
+    aufbau->addLayout(stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")}));
     resize(1200, 820);
 }
 

@@ -26,11 +26,7 @@ SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name,
     aufbau->addWidget(dateiname);
     aufbau->addWidget(liste, 1);
     aufbau->addWidget(alle);
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->addStretch();
-    knoepfe->addWidget(stil::fensterknopf(ausfuehren));
-    knoepfe->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
-    aufbau->addLayout(knoepfe);
+    aufbau->addLayout(stil::knopfzeile({ausfuehren, binder().knopf(logik.Command2, "Command2")}));
     resize(460, 420);
 }
 

@@ -105,6 +105,15 @@ QPushButton* fensterknopf(QPushButton* knopf) {
     return knopf;
 }
 
+QHBoxLayout* knopfzeile(std::initializer_list<QPushButton*> knoepfe) {
+    auto* zeile = new QHBoxLayout;
+    zeile->addStretch();
+    for (QPushButton* knopf : knoepfe) {
+        zeile->addWidget(fensterknopf(knopf));
+    }
+    return zeile;
+}
+
 void fleck_faerben(QLabel* fleck, farbe spurfarbe) {
     fleck->setStyleSheet(
         QString("background: %1; border: 1px solid #aab1bd; border-radius: 4px;").arg(farbe_von(spurfarbe).name()));

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMargins>
 #include <QPushButton>
+#include <initializer_list>
 
 #include "core/steuerelemente.h"
 
@@ -28,6 +30,8 @@ void anwenden(QApplication& anwendung);
 QLabel* leise(QLabel* label);
 /// A command that ends or leaves its window: all of these have one size.
 QPushButton* fensterknopf(QPushButton* knopf);
+/// The foot of a window: these commands, in this order, at its right end.
+QHBoxLayout* knopfzeile(std::initializer_list<QPushButton*> knoepfe);
 /// The small patch in the colour of a lane.
 void fleck_faerben(QLabel* fleck, farbe spurfarbe);
 /// Labels and commands on a dark ground; `innen` is the padding of the commands.

@@ -31,7 +31,7 @@ UartEinstellungenFenster::UartEinstellungenFenster(uart_einstellungen& logik, Bi
     : Fenster("UART_einstellungen", takt, eltern), logik_(logik) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     auto* mitte = new QHBoxLayout;
     mitte->setSpacing(14);
     QGroupBox* kasten = binder().gruppe(logik.auto_einrichtung, "auto_einrichtung");

@@ -3,13 +3,15 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 
 UartProfildateiFenster::UartProfildateiFenster(uart_profildatei& logik, Bildtakt& takt, QWidget* eltern)
     : Fenster("UART_Profildatei", takt, eltern) {
     binder().fenstertitel(logik.titel);
     auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(16, 12, 16, 12);
+    aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(10);
     QLabel* hinweis = binder().label(logik.hinweis, "hinweis");
     hinweis->setWordWrap(true);
@@ -20,13 +22,9 @@ UartProfildateiFenster::UartProfildateiFenster(uart_profildatei& logik, Bildtakt
     zeile->addWidget(name, 1);
     aufbau->addLayout(zeile);
     aufbau->addWidget(binder().listenfeld(logik.dateiliste, "dateiliste"), 1);
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->addStretch();
     QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
     QObject::connect(name, &QLineEdit::returnPressed, uebernehmen, [&logik] { logik.Command1.klicken(); });
-    knoepfe->addWidget(uebernehmen);
-    knoepfe->addWidget(binder().knopf(logik.Command2, "Command2"));
-    aufbau->addLayout(knoepfe);
+    aufbau->addLayout(stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")}));
     resize(520, 420);
 }
 
