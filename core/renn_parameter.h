@@ -29,6 +29,8 @@ struct renn_parameter {
     bool wettkampf_kein = true;       ///< a single race, no competition
     bool tagesrennen_an = false;      ///< each result is added to the file of the day
     std::string tages_datei;          ///< that file, below the program folder
+    bool einfahrzeit = false;         ///< the drivers warm up before the race
+    std::string naechstes_rennen;     ///< drivers of the race after this one; empty if there is none
 
     void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;

@@ -98,11 +98,11 @@ double bestzeit_hoehe(const ansicht_inhalt& inhalt, double hoehe) {
 /// Last lap above the best one, which is the smaller of the two.
 void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, lage& g) {
     const rechteck feld = mittig(ort, 0.9 * ort.breite);
-    const double teil = feld.hoehe / (inhalt.bestzeit ? 27.0 : 23.0);
+    const double teil = feld.hoehe / (inhalt.bestzeit ? 29.0 : 24.0);
     zuschnitt stapel(feld);
-    mit_titel(stapel.oben(13 * teil), 4 * teil, g[t::Label_lrunde], g[t::lrunde]);
-    mit_titel(stapel.oben(10 * teil), 4 * teil, g[t::Label_brunde], g[t::brunde]);
-    g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 4 * teil));
+    mit_titel(stapel.oben(13.5 * teil), 5 * teil, g[t::Label_lrunde], g[t::lrunde]);
+    mit_titel(stapel.oben(10.5 * teil), 5 * teil, g[t::Label_brunde], g[t::brunde]);
+    g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 5 * teil));
 }
 
 /// The same side by side.
@@ -261,11 +261,18 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     g[f::uhrframe1].ort = reihe.rest();
     g[f::nachlauflabel].ort = reihe.rest();
     g[f::uhrframe2].ort = rechts.rest();
-    g[f::ziel_label].ort = links.rest();
+    zuschnitt ziel(links.rest());
+    if (inhalt.naechstes_rennen) {
+        g[f::Label5].ort = ziel.unten(0.36 * kopf.hoehe);
+        g[f::Label_naechstesrennen].ort = ziel.unten(0.22 * kopf.hoehe);
+    }
+    g[f::ziel_label].ort = ziel.rest();
     schrift(g[f::uhrframe1], 0.78);
     schrift(g[f::nachlauflabel], 0.62);
     schrift(g[f::uhrframe2], 0.36);
-    schrift(g[f::ziel_label], 0.32);
+    g[f::ziel_label].schrift_px = static_cast<int>(0.32 * kopf.hoehe);
+    schrift(g[f::Label_naechstesrennen], 0.8);
+    schrift(g[f::Label5], 0.46);  // two lines
 }
 
 /// The commands, each always in its place. The line above them has the record of the track, and asks whose fault a
@@ -282,12 +289,12 @@ void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s,
     g[f::Frame1].ort = zeilen.rest();
     zuschnitt reihe({0, 0, zeilen.rest().breite, zeilen.rest().hoehe}, luecke);
     constexpr double knopf = 3150;
-    for (const f befehl : {f::Command1, f::Command3, f::Command4}) {
-        g[befehl].ort = reihe.links(knopf * s);
+    for (const f befehl : {f::Command1, f::Command6, f::Command3, f::Command4}) {
+        g[befehl].ort = reihe.links(befehl != f::Command6 || inhalt.einfahrzeit ? knopf * s : 0);
     }
     g[f::Command2].ort = reihe.rechts(knopf * s);
     g[f::werbe_label].ort = reihe.rest();
-    for (const f befehl : {f::Command1, f::Command2, f::Command3, f::Command4}) {
+    for (const f befehl : {f::Command1, f::Command2, f::Command3, f::Command4, f::Command6}) {
         schrift(g[befehl], 0.48);
     }
     schrift(g[f::werbe_label], 0.5);

@@ -34,6 +34,8 @@ struct ansicht_inhalt {
     bool logobild = false;
     bool wrpic1 = false;
     bool wrpic2 = false;
+    bool einfahrzeit = false;       ///< the command that begins the warm-up
+    bool naechstes_rennen = false;  ///< who drives next
 
     bool operator==(const ansicht_inhalt&) const = default;
 };
@@ -70,6 +72,8 @@ enum class spur_teil : std::size_t {
 enum class fenster_teil : std::size_t {
     logobild,
     ziel_label,
+    Label_naechstesrennen,
+    Label5,
     bestzeit_gesamt,
     uhrframe1,
     nachlauflabel,  ///< in the place of the clock
@@ -78,6 +82,7 @@ enum class fenster_teil : std::size_t {
     ch_strafframe,
     Frame1,
     Command1,  ///< the commands stand within `Frame1`
+    Command6,
     Command3,
     Command4,
     werbe_label,

@@ -64,7 +64,9 @@ struct bahn1 {
     rennuhr_felder uhr2;  ///< second clock: time driven
     bezeichnung nachlauflabel;
     bezeichnung ziel_label;  ///< what is driven for
-    bild logobild;           ///< pictures of the club, shown where there is a file of theirs
+    bezeichnung Label_naechstesrennen;
+    bezeichnung Label5;  ///< who drives in the next race
+    bild logobild;       ///< pictures of the club, shown where there is a file of theirs
     bild wrpic1;
     bild wrpic2;
     bezeichnung werbe_label;
@@ -73,6 +75,7 @@ struct bahn1 {
     befehl Command2;       ///< abort without a result
     befehl Command3;       ///< begins and ends a pause
     befehl Command4;       ///< end with the result so far
+    befehl Command6;       ///< begins the warm-up before the race
     rahmen ch_strafframe;  ///< asks whose fault the pause was
     bezeichnung ch_Label1;
     bezeichnung ch_Label2;

@@ -29,7 +29,8 @@ void rennablauf::vor_dem_start() {
     um_.bahn.Command2.aktiviert(true);
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
-    um_.bahn.Command1.fokus_setzen();
+    um_.bahn.Command6.aktiviert(true);
+    (um_.param.einfahrzeit ? um_.bahn.Command6 : um_.bahn.Command1).fokus_setzen();
 }
 
 void rennablauf::entladen() {
@@ -102,6 +103,7 @@ void rennablauf::rennstart_vorbereiten() {
     um_.bahn.Command2.aktiviert(false);
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
+    um_.bahn.Command6.aktiviert(false);
     um_.bahn.Frame1.fokus_setzen();  // a second press of the same key must not reach the next command
     if (um_.einst.nachtrennen_modus > 0) {
         t_.ansicht.bildschirm_dunkel();
@@ -111,6 +113,16 @@ void rennablauf::rennstart_vorbereiten() {
     } else {
         um_.fenster.zeigen("Form2");
     }
+}
+
+void rennablauf::einfahrzeit_starten() {
+    t_.blinken.beenden();
+    um_.ereignisse.ruhe_herstellen();
+    rennen_zuruecksetzen();
+    um_.ausgaben.ampelnRoff(0);
+    um_.ausgaben.ampelnGRoff();
+    um_.ausgaben.relais_on(0);
+    um_.fenster.zeigen("einfahren");
 }
 
 void rennablauf::start_abgebrochen() {

@@ -47,6 +47,8 @@ public:
     void rennen_zuruecksetzen();
     /// All that comes before the start light, and hands over to it.
     void rennstart_vorbereiten();
+    /// Hands the track over to the warm-up that comes before the race.
+    void einfahrzeit_starten();
     /// Without a start light: the clock and the race timers start, and the commands are free at once.
     void rennen_starten();
     /// The work of every start, timed from `stempel`. Lanes that have been stamped by a false start keep their stamp if

@@ -90,15 +90,12 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Rennen fortsetzen", bahn.wort.fortsetzen);
     texte.text("Weiter", bahn.wort.weiter).text("Die Strafzeit für Fahrer mit", bahn.ch_Label1);
     texte.text("beträgt ", bahn.ch_Label2).text("Sekunden.", bahn.ch_Label3);
-    texte.text("Klicken um Strafzeit zuzuordnen!", [&bahn](const std::string& tipp) {
-        for (haken& kasten : bahn.ch_strafzeit_hacken) {
-            kasten.tipp(tipp);
-        }
-    });
+    texte.tipp_fuer_alle("Klicken um Strafzeit zuzuordnen!", bahn.ch_strafzeit_hacken);
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
     texte.text("Best: ", bahn.wort.bestzeit);
     texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
-    return texte.text("Pause: Mit der Starttaste der Control Unit geht es weiter.", bahn.wort.cu_pause);
+    texte.text("Pause: Mit der Starttaste der Control Unit geht es weiter.", bahn.wort.cu_pause);
+    return texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
 }
 
 void rennansicht::oeffnen() {
@@ -147,9 +144,15 @@ void rennansicht::ansicht_oeffnen(ansicht_art art) {
     inhalt.bestzeit = std::any_of(bahn.bestzeit_label.begin(), bahn.bestzeit_label.end(),
                                   [](const bezeichnung& label) { return label.sichtbar(); });
     inhalt.grosse_zeit = um_.einst.grosse_zeit;
+    inhalt.einfahrzeit = um_.param.einfahrzeit;
+    inhalt.naechstes_rennen = !um_.param.naechstes_rennen.empty();
     inhalt.logobild = gibt_es(bahn.logobild);
     inhalt.wrpic1 = gibt_es(bahn.wrpic1);
     inhalt.wrpic2 = gibt_es(bahn.wrpic2);
+    bahn.Command6.sichtbar(inhalt.einfahrzeit);
+    bahn.Label_naechstesrennen.sichtbar(inhalt.naechstes_rennen);
+    bahn.Label5.sichtbar(inhalt.naechstes_rennen);
+    bahn.Label5.text(um_.param.naechstes_rennen);
     bahn.ansicht.inhalt(inhalt);
     bahn.Nachtabschaltung.sichtbar(false);
 }
@@ -240,8 +243,9 @@ void rennansicht::farben_setzen() {
             teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
-    for (bezeichnung* label : {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label, &bahn.werbe_label,
-                               &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
+    for (bezeichnung* label :
+         {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label, &bahn.Label_naechstesrennen, &bahn.Label5,
+          &bahn.werbe_label, &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
         label->schriftfarbe(um_.einst.farben_schrift[2]);
     }
 }

@@ -13,6 +13,7 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
         }
     };
     um_.bahn.Command4.bei_klick = [this] { rennen_beenden(); };
+    um_.bahn.Command6.bei_klick = [this] { t_.ablauf.einfahrzeit_starten(); };
 }
 
 void rennbefehle::taste(int code) {

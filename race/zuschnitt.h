@@ -30,38 +30,31 @@ public:
     explicit zuschnitt(const rechteck& ganzes, double luecke = 0)
         : rest_(ganzes), luecke_(static_cast<int>(std::lround(luecke))) {}
 
-    rechteck oben(double hoehe) {
-        const int h = laenge(hoehe, rest_.hoehe);
-        const rechteck stueck{rest_.x, rest_.y, rest_.breite, h};
-        const int weg = verbrauch(h, rest_.hoehe);
-        rest_.y += weg;
-        rest_.hoehe -= weg;
-        return stueck;
-    }
-    rechteck unten(double hoehe) {
-        const int h = laenge(hoehe, rest_.hoehe);
-        const rechteck stueck{rest_.x, rest_.unten() - h, rest_.breite, h};
-        rest_.hoehe -= verbrauch(h, rest_.hoehe);
-        return stueck;
-    }
-    rechteck links(double breite) {
-        const int b = laenge(breite, rest_.breite);
-        const rechteck stueck{rest_.x, rest_.y, b, rest_.hoehe};
-        const int weg = verbrauch(b, rest_.breite);
-        rest_.x += weg;
-        rest_.breite -= weg;
-        return stueck;
-    }
-    rechteck rechts(double breite) {
-        const int b = laenge(breite, rest_.breite);
-        const rechteck stueck{rest_.rechts() - b, rest_.y, b, rest_.hoehe};
-        rest_.breite -= verbrauch(b, rest_.breite);
-        return stueck;
-    }
+    rechteck oben(double hoehe) { return vorn(&rechteck::y, &rechteck::hoehe, hoehe); }
+    rechteck unten(double hoehe) { return hinten(&rechteck::y, &rechteck::hoehe, hoehe); }
+    rechteck links(double breite) { return vorn(&rechteck::x, &rechteck::breite, breite); }
+    rechteck rechts(double breite) { return hinten(&rechteck::x, &rechteck::breite, breite); }
     const rechteck& rest() const { return rest_; }
 
 private:
-    static int laenge(double px, int vorhanden) { return std::clamp(static_cast<int>(std::lround(px)), 0, vorhanden); }
+    rechteck vorn(int rechteck::*anfang, int rechteck::*laenge, double px) {
+        const rechteck stueck = abschnitt(laenge, px);
+        const int weg = verbrauch(stueck.*laenge, rest_.*laenge);
+        rest_.*anfang += weg;
+        rest_.*laenge -= weg;
+        return stueck;
+    }
+    rechteck hinten(int rechteck::*anfang, int rechteck::*laenge, double px) {
+        rechteck stueck = abschnitt(laenge, px);
+        stueck.*anfang += rest_.*laenge - stueck.*laenge;
+        rest_.*laenge -= verbrauch(stueck.*laenge, rest_.*laenge);
+        return stueck;
+    }
+    rechteck abschnitt(int rechteck::*laenge, double px) const {
+        rechteck stueck = rest_;
+        stueck.*laenge = std::clamp(static_cast<int>(std::lround(px)), 0, rest_.*laenge);
+        return stueck;
+    }
     int verbrauch(int px, int vorhanden) const { return px > 0 ? std::min(px + luecke_, vorhanden) : 0; }
 
     rechteck rest_;

@@ -46,6 +46,7 @@ std::vector<ansicht_inhalt> alle_ansichten() {
         inhalt.bestzeit = (muster / 3 & 2) != 0;
         inhalt.grosse_zeit = (muster / 3 & 4) != 0;
         inhalt.logobild = inhalt.wrpic1 = inhalt.wrpic2 = (muster / 3 & 8) != 0;
+        inhalt.einfahrzeit = inhalt.naechstes_rennen = inhalt.logobild;
         inhalt.art = ansicht_art::einfahrer;
         inhalt.spur_aktiv = letzte_spuren(1);
         alle.push_back(inhalt);
@@ -149,7 +150,8 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
             ohne_ueberdeckung(g.spur, block, {t::tanktitel, t::t_bahn, t::tankbalken});
             innere_pruefen(g.spur[t::frame_tank].ort,
                            {g.spur[t::tanktitel].ort, g.spur[t::t_bahn].ort, g.spur[t::tankbalken].ort});
-            const std::vector<f> befehle{f::Command1, f::Command3, f::Command4, f::werbe_label, f::Command2};
+            const std::vector<f> befehle{f::Command1, f::Command6,    f::Command3,
+                                         f::Command4, f::werbe_label, f::Command2};
             ohne_ueberdeckung(g.fenster, fenster, befehle);
             const rechteck& frame = g.fenster[f::Frame1].ort;
             std::vector<rechteck> orte(befehle.size());

@@ -15,7 +15,7 @@ namespace {
 using f = fenster_teil;
 
 constexpr int sekunden_max = 9999;
-constexpr std::array<f, 4> befehle{f::Command1, f::Command3, f::Command4, f::Command2};
+constexpr std::array<f, 5> befehle{f::Command1, f::Command6, f::Command3, f::Command4, f::Command2};
 
 }  // namespace
 
@@ -56,11 +56,14 @@ void Bahn1Fenster::kopf() {
     bahn1& bahn = logik_.bahn1;
     for (const auto& [name, element, widget_name] :
          {std::tuple<f, bezeichnung&, const char*>{f::ziel_label, bahn.ziel_label, "ziel_label"},
+          {f::Label_naechstesrennen, bahn.Label_naechstesrennen, "Label_naechstesrennen"},
+          {f::Label5, bahn.Label5, "Label5"},
           {f::bestzeit_gesamt, bahn.bestzeit_gesamt, "bestzeit_gesamt"}}) {
         TextAnzeige* text = binder().anzeige(element, widget_name);
         text->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
         teil(name) = text;
     }
+    static_cast<TextAnzeige*>(teil(f::Label5))->setZweizeilig();
     TextAnzeige* nachlauf = binder().anzeige(bahn.nachlauflabel, "nachlauflabel");
     nachlauf->setFett(true);
     teil(f::nachlauflabel) = nachlauf;
@@ -78,6 +81,7 @@ void Bahn1Fenster::befehlszeile() {
     zeile->setStyleSheet(stil::dunkle_regeln("padding: 0px 4px; min-height: 0px;"));
     teil(f::Frame1) = zeile;
     teil(f::Command1) = binder().hauptknopf(bahn.Command1, "Command1");
+    teil(f::Command6) = binder().hauptknopf(bahn.Command6, "Command6");
     teil(f::Command3) = binder().knopf(bahn.Command3, "Command3");
     teil(f::Command4) = binder().knopf(bahn.Command4, "Command4");
     teil(f::Command2) = binder().knopf(bahn.Command2, "Command2");
@@ -85,7 +89,7 @@ void Bahn1Fenster::befehlszeile() {
     werbung->setLeise();
     teil(f::werbe_label) = werbung;
     QWidget* vorher = nullptr;
-    for (const f name : {f::Command1, f::Command3, f::Command4, f::werbe_label, f::Command2}) {
+    for (const f name : {f::Command1, f::Command6, f::Command3, f::Command4, f::werbe_label, f::Command2}) {
         teil(name)->setParent(zeile);
         if (vorher != nullptr) {
             setTabOrder(vorher, teil(name));
@@ -223,7 +227,9 @@ void Bahn1Fenster::befehle_beschriften(int schrift_px) {
         texte << QString::fromStdString(*text);
     }
     for (const f name : befehle) {
-        texte << static_cast<QPushButton*>(teil(name))->text();
+        if (teil(name)->width() > 0) {
+            texte << static_cast<QPushButton*>(teil(name))->text();
+        }
     }
     constexpr int rand_px = 20;
     const int platz_px = std::max(teil(f::Command1)->width() - rand_px, 1);
