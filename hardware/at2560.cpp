@@ -66,6 +66,13 @@ void at2560::profil_laden() {
     }
 }
 
+void at2560::profil_wechseln() {
+    profil_laden();
+    if (!tmr_µportopen_->laeuft()) {  // else it is told when it has booted
+        at_senden(profil_.at_is_befehl);
+    }
+}
+
 bool at2560::oeffnen() {
     schliessen();
     profil_laden();

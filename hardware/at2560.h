@@ -57,6 +57,8 @@ public:
     /// Reads the command file of the settings; the default one is made if it is missing. A failure shows its message
     /// and leaves the words of the factory.
     void profil_laden();
+    /// The same, and tells the unit its sensors.
+    void profil_wechseln();
     const at_profil& profil() const { return profil_; }
 
     /// Sends a sequence; dropped while the port is closed.

@@ -1,16 +1,18 @@
 #include "hardware/control_unit.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvel {
 namespace {
 
 constexpr std::string_view starttaste_befehl = "T2P$";
 
-constexpr int durchgaenge_max = 100;     // slow passes without an end of a record
-constexpr zeit_ms verbunden_ms = 1000;   // the unit counts as there for so long after a record
-constexpr zeit_ms uhr_sprung_ms = 2000;  // nothing is that late of itself: the unit's clock has begun anew
-constexpr zeit_ms ohne_luecke_ms = 50;   // between two records of a unit that answers
+constexpr int durchgaenge_max = 100;      // slow passes without an end of a record
+constexpr zeit_ms verbunden_ms = 1000;    // the unit counts as connected for so long after a record
+constexpr zeit_ms ampel_still_ms = 3000;  // and a race waits for its light this long
+constexpr zeit_ms uhr_sprung_ms = 2000;   // nothing is that late of itself: the unit's clock has begun anew
+constexpr zeit_ms ohne_luecke_ms = 50;    // between two records of a unit that answers
 constexpr zeit_ms uhr_umlauf = zeit_ms{1} << 32;
 
 /// What a car's passage at a sensor means; cars 7 and 8 have no lane.
@@ -53,6 +55,7 @@ bool control_unit::mscomm1_oeffnen() {
     if (!leitung_.oeffnen(um_.einst.cu_modus)) {
         return false;
     }
+    geoeffnet_ = uhr_.jetzt();
     rennbetrieb(false);
     return true;
 }
@@ -75,6 +78,10 @@ void control_unit::schliessen() {
 
 bool control_unit::antwortet() const {
     return leitung_.offen() && geantwortet_ != 0 && uhr_.jetzt() - geantwortet_ <= verbunden_ms;
+}
+
+geraeteampel* control_unit::ampel() {
+    return leitung_.offen() && uhr_.jetzt() - std::max(geoeffnet_, geantwortet_) <= ampel_still_ms ? this : nullptr;
 }
 
 void control_unit::starttaste() {
@@ -110,11 +117,7 @@ void control_unit::satz_verarbeiten(const std::string& satz) {
 }
 
 void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
-    zeit_ms stempel = ueberfahrt.stempel + umlauf_;
-    if (uhr_bekannt_ && letzter_stempel_ - stempel > uhr_umlauf / 2) {
-        umlauf_ += uhr_umlauf;
-        stempel += uhr_umlauf;
-    }
+    const zeit_ms stempel = umlauf_ausgleichen(ueberfahrt.stempel);
     uhr_nachstellen(stempel);
     if (const ereignis_art nummer = cu_art(ueberfahrt.sensor, ueberfahrt.fahrzeug); nummer != 0) {
         um_.ereignisse[nummer].aktiv = true;
@@ -122,21 +125,33 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
     }
 }
 
+zeit_ms control_unit::umlauf_ausgleichen(std::uint32_t stempel) {
+    const zeit_ms durchgehend = stempel + umlauf_;
+    if (uhr_bekannt_ && letzter_stempel_ - durchgehend > uhr_umlauf / 2) {
+        umlauf_ += uhr_umlauf;
+        return durchgehend + uhr_umlauf;
+    }
+    // two cars at the moment of the overflow may be reported in the other order
+    return durchgehend - letzter_stempel_ > uhr_umlauf / 2 && umlauf_ > 0 ? durchgehend - uhr_umlauf : durchgehend;
+}
+
 void control_unit::uhr_nachstellen(zeit_ms stempel) {
     const zeit_ms verspaetung = um_.zeit.messzeit_lesen() - stempel;
-    if (!uhr_bekannt_ || stempel < letzter_stempel_ || verspaetung > uhr_sprung_ms + luecke_ ||
-        verspaetung < -uhr_sprung_ms) {
+    const bool neu_begonnen = letzter_stempel_ - stempel > uhr_sprung_ms;
+    if (!uhr_bekannt_ || neu_begonnen || verspaetung > uhr_sprung_ms + luecke_ || verspaetung < -uhr_sprung_ms) {
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
         bewirkt.stempel_verschieben(-verspaetung);
         uhr_bekannt_ = true;
+        letzter_stempel_ = stempel;
     } else if (verspaetung < 0) {  // this record came through faster than any before
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
     }
-    letzter_stempel_ = stempel;
+    letzter_stempel_ = std::max(letzter_stempel_, stempel);
 }
 
-void control_unit::verarbeiten(const cu::rundenzaehler_bereit& /*bereit*/) {
-    if (cu_alter_rz_start_->laeuft() && bewirkt.rennen_ruht()) {
+void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
+    const bool eben_bereit = !std::exchange(zaehlerbox_bereit_, zaehler.bereit) && zaehler.bereit;
+    if (eben_bereit && cu_alter_rz_start_->laeuft() && bewirkt.rennen_ruht()) {
         cu_alter_rz_start_->aus();
         bewirkt.rennen_vorbereiten();
     }
@@ -146,7 +161,7 @@ void control_unit::verarbeiten(const cu::status& status) {
     if (!bewirkt.rennen_laeuft() && um_.einst.cu_tankautomatik) {
         bewirkt.tankfunktion(status.tankmodus != 0);
     }
-    if (um_.param.tank_aktiv) {
+    if (um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
         for (int bit = 0; bit < spuren_max - 1; ++bit) {
             cu_boxenstatus_[bit + 2] = (status.boxenbits >> bit & 1) != 0;
         }
@@ -165,14 +180,14 @@ void control_unit::cu_tank_auswerten(const cu::status& status) {
 }
 
 void control_unit::startzustand_auswerten(bool steht) {
-    cu_startzustand_ = steht ? start::steht : start::faehrt;
+    const start vorher = std::exchange(cu_startzustand_, steht ? start::steht : start::faehrt);
     if (!steht) {
         neustart_wartet_ = false;
-        nach_rennende_ = false;
+        stand_verbraucht_ = stand_verbraucht_ && vorher != start::steht;  // it may only just be asked to stop
         cu_chaos_durch_box_ = false;
         return;
     }
-    if (um_.einst.cu_sondermodus && !nach_rennende_ && bewirkt.rennen_ruht()) {
+    if (um_.einst.cu_sondermodus && !stand_verbraucht_ && bewirkt.rennen_ruht()) {
         bewirkt.rennen_vorbereiten();
     }
     if (rennen_laeuft_ && !neustart_wartet_ && bewirkt.rennen_laeuft()) {
@@ -199,11 +214,12 @@ void control_unit::rennfenster_offen() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_chaos_durch_box_ = false;
+    zaehlerbox_bereit_ = false;
     if (!leitung_.offen() && !mscomm1_oeffnen()) {  // it may have been unplugged since, and plugged in again
         bewirkt.port_fehlt();
         return;
     }
-    const bool cu_nicht_zuruecksetzen = im_startzustand() && !nach_rennende_;
+    const bool cu_nicht_zuruecksetzen = im_startzustand() && !stand_verbraucht_;
     if (!cu_nicht_zuruecksetzen) {  // it would throw out who has pressed the key already
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
@@ -218,7 +234,6 @@ void control_unit::rennfenster_offen() {
 }
 
 void control_unit::cu_alter_rz_start_tick() {
-    leitung_.abfragen();
     if (!um_.einst.cu_option || rennen_laeuft_) {
         cu_alter_rz_start_->aus();
     }
@@ -227,6 +242,7 @@ void control_unit::cu_alter_rz_start_tick() {
 void control_unit::rennfenster_zu() {
     cu_ende_timer_->aus();
     if (leitung_.offen()) {
+        leitung_.senden(cu::anzeigen_ruecksetzen);
         rennbetrieb(false);
     }
 }
@@ -257,6 +273,13 @@ void control_unit::neustart() {
     starttaste();
 }
 
+void control_unit::start_abgebrochen() {
+    stand_verbraucht_ = true;  // else the race would begin again by itself
+    if (leitung_.offen() && um_.einst.cu_option) {
+        cu_alter_rz_start_->an();
+    }
+}
+
 void control_unit::rennstart() {
     rennen_laeuft_ = true;
 }
@@ -264,7 +287,7 @@ void control_unit::rennstart() {
 void control_unit::rennende() {
     if (rennen_laeuft_) {
         rennen_laeuft_ = false;
-        nach_rennende_ = true;
+        stand_verbraucht_ = true;
         cu_ende_timer_->an();
     }
 }

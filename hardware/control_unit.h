@@ -47,7 +47,7 @@ public:
     bool mscomm1_oeffnen();
     void schliessen();
     bool port_offen() const { return leitung_.offen(); }
-    /// The unit has answered within the last second.
+    /// The unit has answered lately.
     bool antwortet() const;
 
     bool im_startzustand() const { return cu_startzustand_ == start::steht; }
@@ -56,11 +56,13 @@ public:
     bool chaos_durch_box() const { return cu_chaos_durch_box_; }
 
     void abfragen() override {}
-    geraeteampel* ampel() override { return leitung_.offen() ? this : nullptr; }
+    geraeteampel* ampel() override;
     void rennfenster_offen() override;
     void rennfenster_zu() override;
     void rennen_bereit() override;
+    void start_abgebrochen() override;
     void rennstart() override;
+    void rennen_fortgesetzt() override { rennstart(); }
     void rennende() override;
     void fuehrungsrunden(int runden) override;
     void platz(int spur, int platz) override;
@@ -82,7 +84,8 @@ private:
     void verarbeiten(std::monostate /*nichts*/) {}
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
     void verarbeiten(const cu::status& status);
-    void verarbeiten(const cu::rundenzaehler_bereit& bereit);
+    void verarbeiten(const cu::rundenzaehler& zaehler);
+    zeit_ms umlauf_ausgleichen(std::uint32_t stempel);
     void uhr_nachstellen(zeit_ms stempel);
     void cu_tank_auswerten(const cu::status& status);
     void startzustand_auswerten(bool steht);
@@ -100,18 +103,20 @@ private:
     std::unique_ptr<plattform::zeitgeber> cu_ende_timer_;      ///< stops the cars after the race
 
     int durchgaenge_ohne_satz_ = 0;
+    zeit_ms geoeffnet_ = 0;    ///< when the port was
     zeit_ms geantwortet_ = 0;  ///< at the last record, 0 none
 
     zeit_ms luecke_ = 0;  ///< ms without a record, as long as what has waited meanwhile still comes
     bool uhr_bekannt_ = false;
-    zeit_ms letzter_stempel_ = 0;
-    zeit_ms umlauf_ = 0;  ///< what the overflows of the unit's clock add up to
+    zeit_ms letzter_stempel_ = 0;  ///< the latest
+    zeit_ms umlauf_ = 0;           ///< what the overflows of the unit's clock add up to
     spuren<int> cu_tank_wert_;
     spuren<bool> cu_boxenstatus_;
     start cu_startzustand_ = start::unbekannt;
-    bool rennen_laeuft_ = false;    ///< between its start and its end
-    bool neustart_wartet_ = false;  ///< the start key was pressed, the unit's light runs
-    bool nach_rennende_ = false;    ///< the start state is the one that has ended the race
+    bool rennen_laeuft_ = false;     ///< between its start and its end
+    bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
+    bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start
+    bool zaehlerbox_bereit_ = false;
     bool cu_chaos_durch_box_ = false;
 };
 

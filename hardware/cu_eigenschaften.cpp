@@ -51,7 +51,7 @@ cu_eigenschaften::cu_eigenschaften(const umgebung& um, const plattform::dienste&
 void cu_eigenschaften::befehle_verbinden() {
     Command1.bei_klick = [this] {
         leitung_.schliessen();
-        melden(" +++ Port geschlossen");
+        hinweisen(wort_.geschlossen);
     };
     Command2.bei_klick = [this] { oeffnen(); };
     Command3.bei_klick = [this] { senden("0"); };
@@ -60,7 +60,7 @@ void cu_eigenschaften::befehle_verbinden() {
         if (port_bereit()) {
             leitung_.senden(cu::programmierung_ruecksetzen);
             leitung_.senden(cu::anzeigen_ruecksetzen);
-            melden(" +++ Reset");
+            hinweisen(Command6.text());
         }
     };
     Command7.bei_klick = [this] { senden(Text1.text()); };
@@ -78,7 +78,7 @@ void cu_eigenschaften::befehle_verbinden() {
 sprachliste cu_eigenschaften::sprache_e_cu() {
     sprachliste texte("language/language_e_cu.txt");
     texte.ueberschrift("Control Unit").text("Carrera ControlUnit Eigenschaften", titel);
-    texte.text("COM-Port", Frame_port).text("Port", Label_port).text("Kein Comport", kein_port_text_);
+    texte.text("COM-Port", Frame_port).text("Port", Label_port).text("Kein Comport", wort_.kein_port);
     texte.text("Port schließen", Command1).text("Port öffnen", Command2).text("Auto-Erkennung", Command8);
     texte.text("Optionen", Frame_optionen).text("automatische Tankfunktion", opt_cu_tankautomatik);
     texte.text("Rennstart über Software", opt_cu_prgstart);
@@ -96,13 +96,18 @@ sprachliste cu_eigenschaften::sprache_e_cu() {
     texte.text("Befehle codieren", Frame_codieren).text("Befehl", Label_code[0]).text("Regler", Label_code[1]);
     texte.text("Wert/Position", Label_code[2]).text("Prüfsumme", Label_code[3]);
     texte.text("umwandeln und senden", Command10).text("Schließen", Command4);
-    texte.text("Bitte vorher einen Port öffnen.", port_text_);
-    return texte.text("Text nicht fehlerfrei gesendet!", sende_text_);
+    texte.text("Bitte vorher einen Port öffnen.", wort_.port_fehlt);
+    texte.text("Text nicht fehlerfrei gesendet!", wort_.nicht_gesendet).text("Port geschlossen", wort_.geschlossen);
+    texte.text("geöffnet", wort_.geoeffnet).text("nicht geöffnet", wort_.nicht_geoeffnet);
+    texte.text("wird geprüft", wort_.wird_geprueft).text("Control Unit gefunden", wort_.gefunden);
+    texte.text("keine Control Unit gefunden", wort_.nicht_gefunden);
+    texte.text("Statusfenster geschrieben", wort_.geschrieben);
+    return texte.text("Die Datei konnte nicht geschrieben werden", wort_.nicht_geschrieben);
 }
 
 void cu_eigenschaften::laden() {
     sprache_e_cu().anwenden(um_.ablage);
-    std::vector<std::string> ports{kein_port_text_};
+    std::vector<std::string> ports{wort_.kein_port};
     for (int nummer = 1; nummer <= cu_comport_max; ++nummer) {
         ports.push_back(com(nummer));
     }
@@ -165,7 +170,7 @@ void cu_eigenschaften::melden(std::string_view zeile) {
 
 bool cu_eigenschaften::port_bereit() {
     if (!leitung_.offen()) {
-        meldungen_.zeigen(port_text_, um_.txt.titel[0]);
+        meldungen_.zeigen(wort_.port_fehlt, um_.txt.titel[0]);
     }
     return leitung_.offen();
 }
@@ -174,10 +179,10 @@ void cu_eigenschaften::oeffnen() {
     const int nummer = cbo_cu_comport.platz();
     anzeigen_leeren();
     if (leitung_.oeffnen(nummer)) {
-        melden(" +++ " + com(nummer) + " geöffnet");
+        hinweisen(com(nummer) + " " + wort_.geoeffnet);
     } else {
-        melden(" +++ " + cbo_cu_comport.text() + " nicht geöffnet");
-        meldungen_.zeigen(port_text_, um_.txt.titel[0]);
+        hinweisen(cbo_cu_comport.text() + " " + wort_.nicht_geoeffnet);
+        meldungen_.zeigen(wort_.port_fehlt, um_.txt.titel[0]);
     }
 }
 
@@ -187,8 +192,9 @@ void cu_eigenschaften::senden(const std::string& befehl) {
     }
     if (leitung_.senden(befehl)) {
         melden("> " + befehl);
+        antwort_erwartet_ = true;
     } else {
-        meldungen_.zeigen(sende_text_, um_.txt.titel[1]);
+        meldungen_.zeigen(wort_.nicht_gesendet, um_.txt.titel[1]);
     }
 }
 
@@ -220,7 +226,7 @@ void cu_eigenschaften::suche_fortsetzen() {
     }
     prueft_ = zu_pruefen_.back();
     zu_pruefen_.pop_back();
-    melden(" +++ " + com(prueft_) + " wird geprüft");
+    hinweisen(com(prueft_) + " " + wort_.wird_geprueft);
     if (leitung_.oeffnen(prueft_)) {
         leitung_.senden("?0");
     }
@@ -241,12 +247,12 @@ void cu_eigenschaften::suche_beenden(int gefunden) {
     prueft_ = 0;
     Command8.aktiviert(true);
     if (gefunden == 0) {
-        melden(" +++ keine Control Unit gefunden");
+        hinweisen(wort_.nicht_gefunden);
         return;
     }
     cbo_cu_comport.platz(gefunden);
     um_.einst.cu_modus = gefunden;
-    melden(" +++ Control Unit an " + com(gefunden) + " gefunden");
+    hinweisen(com(gefunden) + ": " + wort_.gefunden);
 }
 
 void cu_eigenschaften::abfrage_tick() {
@@ -256,13 +262,14 @@ void cu_eigenschaften::abfrage_tick() {
 }
 
 void cu_eigenschaften::auswertung_tick() {
-    if (prueft_ != 0 || timer_aus.gesetzt()) {
+    if (prueft_ != 0 || (timer_aus.gesetzt() && !antwort_erwartet_)) {
         return;
     }
     const std::string satz = leitung_.satz();
     if (satz.empty()) {
         return;
     }
+    antwort_erwartet_ = false;
     protokollieren(satz);
     std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, cu::satz_lesen(satz));
 }
@@ -300,7 +307,7 @@ void cu_eigenschaften::verarbeiten(const cu::status& status) {
 
 void cu_eigenschaften::proto_schreiben() {
     const bool geschrieben = um_.ablage.zeilen_schreiben(proto_datei, List1.zeilen());
-    melden(geschrieben ? " +++ Statusfenster geschrieben" : " +++ Die Datei konnte nicht geschrieben werden");
+    hinweisen(geschrieben ? wort_.geschrieben : wort_.nicht_geschrieben);
 }
 
 void cu_eigenschaften::uebernehmen() {

@@ -86,6 +86,8 @@ private:
     void befehle_verbinden();
     void anzeigen_leeren();
     void melden(std::string_view zeile);
+    /// A line of the window's own.
+    void hinweisen(const std::string& text) { melden(" +++ " + text); }
     /// The port is open; else says so.
     bool port_bereit();
     void oeffnen();
@@ -101,7 +103,7 @@ private:
     void verarbeiten(std::monostate /*nichts*/) {}
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
     void verarbeiten(const cu::status& status);
-    void verarbeiten(const cu::rundenzaehler_bereit& /*bereit*/) {}
+    void verarbeiten(const cu::rundenzaehler& /*zaehler*/) {}
     void proto_schreiben();
     void uebernehmen();
 
@@ -119,9 +121,22 @@ private:
     spuren<int> runden_;
     spuren<zeit_ms> stempel_;
 
-    std::string port_text_;
-    std::string sende_text_;
-    std::string kein_port_text_;
+    bool antwort_erwartet_ = false;  ///< to a command, while nothing polls
+
+    struct worte {
+        std::string kein_port;
+        std::string port_fehlt;
+        std::string nicht_gesendet;
+        std::string geschlossen;  ///< lines of the status list
+        std::string geoeffnet;
+        std::string nicht_geoeffnet;
+        std::string wird_geprueft;
+        std::string gefunden;
+        std::string nicht_gefunden;
+        std::string geschrieben;
+        std::string nicht_geschrieben;
+    };
+    worte wort_;
 };
 
 }  // namespace tarvel

@@ -108,7 +108,7 @@ meldung satz_lesen(std::string_view satz) {
         return {};
     }
     if (satz.front() == '?' && satz.size() == laenge_zaehlerbox) {
-        return satz[1] == '0' ? meldung(rundenzaehler_bereit{}) : meldung();
+        return rundenzaehler{satz[1] == '0'};
     }
     // A status has no car in its second place: else it may be a passage with the rest of another one in front.
     const auto status_moeglich = [](std::string_view text) {

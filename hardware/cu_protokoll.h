@@ -34,12 +34,13 @@ struct status {
     bool operator==(const status&) const = default;
 };
 
-/// The lap counter box reports that it is ready.
-struct rundenzaehler_bereit {
-    bool operator==(const rundenzaehler_bereit&) const = default;
+/// The state of the lap counter box.
+struct rundenzaehler {
+    bool bereit = false;  ///< for a race
+    bool operator==(const rundenzaehler&) const = default;
 };
 
-using meldung = std::variant<std::monostate, ueberfahrt, status, rundenzaehler_bereit>;
+using meldung = std::variant<std::monostate, ueberfahrt, status, rundenzaehler>;
 
 /// Takes the next record off the front of what was received, without the prefixes in front of it; empty as long as
 /// none is complete.

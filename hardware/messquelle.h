@@ -3,11 +3,16 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/uhr.h"
+
 namespace tarvel {
 
 /// A start light that the device runs itself: the race follows it.
 class geraeteampel {
 public:
+    /// No light runs longer from its start key to green: a device that is still red then has not heard it.
+    static constexpr zeit_ms laengste_ms = 15000;
+
     geraeteampel() = default;
     geraeteampel(const geraeteampel&) = delete;
     geraeteampel& operator=(const geraeteampel&) = delete;
@@ -45,8 +50,12 @@ public:
     virtual void rennfenster_zu() {}
     /// A race is prepared; its light comes next.
     virtual void rennen_bereit() {}
+    /// The start has been stopped before green.
+    virtual void start_abgebrochen() {}
     /// The moment at which the race starts.
     virtual void rennstart() {}
+    /// A race that was over goes on.
+    virtual void rennen_fortgesetzt() {}
     /// The race is over, with a result or without.
     virtual void rennende() {}
     /// The leader has reached this many laps.

@@ -233,14 +233,22 @@ void einstellungsfenster::uart_zeigen() {
     }
 }
 
+void einstellungsfenster::uart_portwerte_uebernehmen() {
+    for (const char* name : {"uart_baud", "uart_datenbits", "uart_parity", "uart_stopbits"}) {
+        zeile_uebernehmen(zeile(name));
+    }
+}
+
+void einstellungsfenster::zeile_uebernehmen(optionszeile& eine) {
+    if (eine.uebernehmen) {
+        eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
+            um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);
+        });
+    }
+}
+
 void einstellungsfenster::werte_uebernehmen() {
-    fuer_alle_zeilen([this](optionszeile& eine) {
-        if (eine.uebernehmen) {
-            eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
-                um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);
-            });
-        }
-    });
+    fuer_alle_zeilen([this](optionszeile& eine) { zeile_uebernehmen(eine); });
     einstellungen& einst = um_.ziel.einst;
     hardware_uebernehmen();
     einst.fahrzeug_wechseln = einst.fahrzeug_wechseln || einst.centermode;

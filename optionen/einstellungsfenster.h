@@ -92,6 +92,8 @@ public:
     void bestzeiten_zeigen();
     /// Shows what the settings say of the AT-2560 now.
     void uart_zeigen();
+    /// What the page says of the AT-2560's port is in force: its wizard is about to open it.
+    void uart_portwerte_uebernehmen();
     /// The language files of the window.
     std::vector<sprachliste> sprachdateien();
 
@@ -112,6 +114,7 @@ private:
     void sounds_auffrischen();
     void werte_zeigen();
     void werte_uebernehmen();
+    void zeile_uebernehmen(optionszeile& eine);
     void sektoranzeige_trennen();
     void Command1_Click();
     void fuer_alle_zeilen(const std::function<void(optionszeile&)>& tun);

@@ -7,6 +7,7 @@ namespace tarvel::qt {
 namespace {
 
 constexpr qint64 stau_max = 4096;  // bytes that a device has not taken: it takes none any more
+constexpr int abschied_ms = 100;   // for the last commands before the port is closed
 
 }  // namespace
 
@@ -60,6 +61,10 @@ bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
 
 void QtSerienport::schliessen() {
     if (port_.isOpen()) {
+        port_.flush();
+        if (port_.bytesToWrite() > 0) {
+            port_.waitForBytesWritten(abschied_ms);
+        }
         port_.clear();  // else closing waits for a device that takes nothing any more
         port_.close();
     }

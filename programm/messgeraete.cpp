@@ -59,7 +59,11 @@ void messgeraete::at_verbinden() {
     at.chaos_aktiv = [&r] { return r.zustand.chaos_aktiv; };
     at.nach_ereignis = [&r] {
         r.tanken.sensoren_nachhalten();
-        r.tanken.tank_kontakte_auswerten();
+        const bool ampel_laeuft =
+            !r.zustand.rennen_beendet && !r.zustand.chaos_aktiv && !r.umgebung.zeitgeber.renntimer->laeuft();
+        if (!ampel_laeuft) {  // else a tank sensor may be what sees the false start
+            r.tanken.tank_kontakte_auswerten();
+        }
     };
     at.wartehinweis = [this](bool an) { at_wartet_anzeigen(an); };
     at.nicht_zu_oeffnen = [this] {
@@ -71,7 +75,10 @@ void messgeraete::at_verbinden() {
         um_.form1.bahnstrom_schaltbar(um_.ausgaben.angeschlossen());
         meldungen_.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
     };
-    at.verloren = [this] { verbindung_anzeigen(); };
+    at.verloren = [this, &r] {
+        r.chaos.geraeteschalter_vergessen();
+        verbindung_anzeigen();
+    };
 }
 
 void messgeraete::at_wartet_anzeigen(bool an) {
@@ -101,6 +108,7 @@ void messgeraete::schliessen() {
 }
 
 void messgeraete::hardware_starten(bool spaeter) {
+    um_.ausgaben.ruhezustand();  // of the device that is left
     schliessen();
     if (um_.einst.hardware.hw_cu) {
         cu.mscomm1_oeffnen();

@@ -115,6 +115,7 @@ void programm::optionen_verbinden() {
         form1.beste_zeiten_anzeigen();
     };
     geraete.cu_eigenschaften.einstellungen_speichern = [this] {
+        form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
         einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
         return !datei.fehler_laden();
     };

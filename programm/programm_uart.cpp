@@ -11,7 +11,10 @@ void programm::uart_verbinden() {
     const auto datei_waehlen = [this] { uart_profildatei.oeffnen(einst.uart_datei); };
     form1.befehlsdatei_waehlen = datei_waehlen;
     einstellungsfenster.uart_datei_waehlen = datei_waehlen;
-    einstellungsfenster.uart_einrichten = [this] { fenster.zeigen("UART_einstellungen", anzeige_art::modal); };
+    einstellungsfenster.uart_einrichten = [this] {
+        einstellungsfenster.uart_portwerte_uebernehmen();
+        fenster.zeigen("UART_einstellungen", anzeige_art::modal);
+    };
     uart_einstellungen.geraet_trennen = [this] { geraete.at.schliessen(); };
     uart_einstellungen.geraet_verbinden = [this] {
         if (einst.hardware.hw_uart) {
@@ -21,7 +24,7 @@ void programm::uart_verbinden() {
     uart_einstellungen.einstellungen_speichern = merken;
     uart_profildatei.gewaehlt = [this, merken](const std::string& name) {
         einst.uart_datei = name;
-        geraete.at.profil_laden();
+        geraete.at.profil_wechseln();
         merken();
     };
 }

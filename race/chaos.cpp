@@ -46,6 +46,7 @@ void chaos::zuruecksetzen() {
 void chaos::befehl_klick() {
     if (!um_.zustand.rennen_beendet && !um_.zeitgeber.chaostimer->laeuft() &&
         !um_.zeitgeber.chaosende_timer->laeuft()) {
+        geraeteschalter_vergessen();
         chaos_umschalten();
     }
 }
@@ -55,6 +56,7 @@ void chaos::taste() {
     if (schalter_loesen && um_.zeitgeber.chaostimer->laeuft()) {
         return;
     }
+    geraeteschalter_vergessen();
     um_.ereignisse.ereignis_melden(art::chaostaster);
     if (schalter_loesen) {
         chaos_umschalten();
@@ -118,11 +120,15 @@ void chaos::chaos_umschalten() {
 
 bool chaos::am_geraet_fortsetzen() {
     geraeteampel* licht = um_.quellen.ampel();
-    bool& verlangt = um_.zustand.pause.neustart_verlangt;
-    if (licht == nullptr || !licht->rot() || verlangt) {
-        return false;  // asked for a second time, the pause ends without the device
+    zeit_ms& verlangt = um_.zustand.pause.neustart_verlangt;
+    const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+    if (licht == nullptr || !licht->rot()) {
+        return false;
     }
-    verlangt = true;
+    if (verlangt != 0) {
+        return jetzt - verlangt < geraeteampel::laengste_ms;  // it runs; only a deaf device is passed over
+    }
+    verlangt = jetzt;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     licht->neustart();
     return true;
@@ -143,7 +149,7 @@ void chaos::pause_beginnen() {
     zustand.nachlauf_minuten = 0;
     zustand.pause.ch_zaehler = 0;
     zustand.pause.geraet_rot = false;
-    zustand.pause.neustart_verlangt = false;
+    zustand.pause.neustart_verlangt = 0;
     if (!um_.einst.chaos_schalter) {
         um_.ereignisse[art::chaostaster].aktiv = false;
     }
@@ -168,9 +174,8 @@ void chaos::pause_beginnen() {
         um_.bahn.cu_startframe.sichtbar(true);
     }
     if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
-        um_.zeitgeber.chaos_schalter_at2560->an();
-    }
-    if (um_.einst.chaosampel_an) {
+        um_.zeitgeber.chaos_schalter_at2560->an();  // hands are at the switch: nobody needs to be shown
+    } else if (um_.einst.chaosampel_an) {
         um_.fenster.zeigen("k_ampel");
     } else {
         gelb_zeigen(true);
@@ -306,6 +311,7 @@ void chaos::chaosende_routine() {
     um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
+    geraeteschalter_vergessen();
     zustand.chaos_aktiv = false;
     zustand.pause.schalter_zuletzt = ende;
     um_.zeitgeber.rennen_an();
@@ -366,6 +372,11 @@ void chaos::chaos_schalter_at2560_tick() {
         um_.ereignisse[art::chaostaster].aktiv = false;
         chaos_umschalten();
     }
+}
+
+void chaos::geraeteschalter_vergessen() {
+    um_.zeitgeber.chaos_schalter_at2560->aus();
+    um_.ereignisse.chaos_at_zaehler = 0;
 }
 
 void chaos::chaos_nachholen() {

@@ -35,6 +35,8 @@ public:
     void chaosende_routine();
     /// The race ends in its pause: nothing of the pause stays.
     void aufheben();
+    /// A device is gone whose switch may have begun the pause: it ends by command.
+    void geraeteschalter_vergessen();
 
 private:
     void befehl_klick();

@@ -142,6 +142,7 @@ void fortsetzung::weiterfahren() {
         }
     }
     um_.zeitgeber.rennen_an();
+    um_.quellen.melden(&messquelle::rennen_fortgesetzt);
     t_.ablauf.befehle_freigeben();
     t_.ansicht.freigeben();
     um_.bahn.Nachtabschaltung.sichtbar(dunkel_);

@@ -14,7 +14,8 @@ void renn_zustand::stempel_verschieben(zeit_ms um) {
             verschieben(*stempel);
         }
     }
-    for (zeit_ms* stempel : {&start_zeit, &renn_ende_zeit, &renn_ende_stempel, &pause.start, &pause.schalter_zuletzt}) {
+    for (zeit_ms* stempel : {&start_zeit, &renn_ende_zeit, &renn_ende_stempel, &pause.start, &pause.schalter_zuletzt,
+                             &pause.neustart_verlangt}) {
         verschieben(*stempel);
     }
 }

@@ -46,8 +46,8 @@ struct pausen_zustand {
     zeit_ms schalter_zuletzt = 0;  ///< stamp at which it was last seen on after a pause
     bool nachlauf_nach_pause = false;
     bool f_straftimer_lief = false;
-    bool geraet_rot = false;         ///< the light of the device has been red in this pause
-    bool neustart_verlangt = false;  ///< that light has been asked for
+    bool geraet_rot = false;        ///< the light of the device has been red in this pause
+    zeit_ms neustart_verlangt = 0;  ///< stamp at which that light was asked for, 0 not yet
 };
 
 /// The record of the running race. Reset at each race.

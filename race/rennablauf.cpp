@@ -1,5 +1,7 @@
 #include "race/rennablauf.h"
 
+#include <utility>
+
 #include "core/zeit.h"
 
 namespace tarvel {
@@ -128,6 +130,7 @@ void rennablauf::einfahrzeit_starten() {
 void rennablauf::start_abgebrochen() {
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
+    um_.quellen.melden(&messquelle::start_abgebrochen);
     t_.ansicht.anzeigen_leeren();
     vor_dem_start();
     um_.bahn.Frame1.fokus_setzen();  // a second press of the key that stopped the start must not begin another
@@ -201,6 +204,11 @@ void rennablauf::renntimer_tick() {
 
 void rennablauf::quellen_abfragen() {
     um_.quellen.melden(&messquelle::abfragen);
+    const bool am_geraet = um_.quellen.ampel() != nullptr;
+    if (std::exchange(am_geraet_, am_geraet) && !am_geraet) {  // nobody can pause at its key any more
+        um_.bahn.cu_startframe.sichtbar(false);
+        um_.bahn.Command3.aktiviert(um_.bahn.Command4.aktiviert());
+    }
 }
 
 void rennablauf::renntimer2_tick() {

@@ -58,7 +58,7 @@ public:
     void befehle_freigeben();
     /// The start light has been stopped before green: ready for another start.
     void start_abgebrochen();
-    /// Polls all devices.
+    /// Polls all devices, and gives the operator the commands of one that has gone.
     void quellen_abfragen();
 
 private:
@@ -71,6 +71,7 @@ private:
 
     renn_umgebung um_;
     teile t_;
+    bool am_geraet_ = false;  ///< at the last poll a device ran the start light
 };
 
 }  // namespace tarvel

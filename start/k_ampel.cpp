@@ -31,6 +31,12 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_
     Timer2_->bei_tick = [this] { gruen_tick(); };
     cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
     cu_ampel_auswertetimer_->bei_tick = [this] { geraet_tick(); };
+    geraet_frist_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, static_cast<int>(geraeteampel::laengste_ms));
+    geraet_frist_->bei_tick = [this] {  // deaf to its start key: this light does it
+        geraet_frist_->aus();
+        cu_ampel_auswertetimer_->aus();
+        rot_.front()->an();
+    };
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_ms);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
@@ -76,6 +82,7 @@ void k_ampel::zeitgeber_aus() {
     }
     Timer2_->aus();
     cu_ampel_auswertetimer_->aus();
+    geraet_frist_->aus();
     training_autotimer_->aus();
 }
 
@@ -101,6 +108,7 @@ void k_ampel::Command1_klick() {
     Command1.aktiviert(false);
     if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && licht->rot()) {
         licht->neustart();
+        geraet_frist_->an();
         for (std::size_t i = 0; i < schritte; ++i) {
             lampe_an(i);
         }
@@ -117,6 +125,7 @@ void k_ampel::geraet_tick() {
         return;
     }
     cu_ampel_auswertetimer_->aus();
+    geraet_frist_->aus();
     if (licht != nullptr) {
         gruen_tick();
     } else {  // unplugged: this light does it

@@ -46,6 +46,7 @@ private:
     std::array<std::unique_ptr<plattform::zeitgeber>, schritte> rot_;  ///< Timer1, Timer4, Timer5
     std::unique_ptr<plattform::zeitgeber> Timer2_;                     ///< green
     std::unique_ptr<plattform::zeitgeber> cu_ampel_auswertetimer_;     ///< follows the light of a device in its place
+    std::unique_ptr<plattform::zeitgeber> geraet_frist_;               ///< for the device's light
     std::unique_ptr<plattform::zeitgeber> training_autotimer_;         ///< presses the command
 };
 

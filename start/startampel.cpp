@@ -93,9 +93,9 @@ void startampel::laden() {
         um_.bahn.cu_startframe.sichtbar(!um_.einst.cu_sondermodus);
     } else {
         eigene_kette_beginnen();
-    }
-    if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
-        ampelaus_timer_->an();
+        if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
+            ampelaus_timer_->an();
+        }
     }
     fenster.titel.fokus_setzen();  // a second press of the key that started must not stop the start
 }
@@ -201,6 +201,7 @@ void startampel::cu_ampel_auswerten() {
     um_.quellen.melden(&messquelle::abfragen);
     if (licht == nullptr) {  // unplugged: the race starts without it
         cu_ampel_auswertetimer_->aus();
+        um_.bahn.cu_startframe.sichtbar(false);
         eigene_kette_beginnen();
     } else if (!geraet_rot_ && !licht->rot()) {
         um_.ereignisse.rundenzaehlung_leeren();  // the cars may still roll to the start
@@ -326,6 +327,9 @@ void startampel::fenster_schliessen() {
 
 void startampel::entladen() {
     ampel_laeuft_ = false;
+    if (!gruen_erreicht_) {
+        geraet_anhalten();  // the race window was closed over it
+    }
     zeitgeber_aus();
     ampelaus_timer_->aus();
     um_.bahn.cu_startframe.sichtbar(false);

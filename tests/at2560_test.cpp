@@ -126,7 +126,9 @@ TEST_F(At2560, VersatzWirdJeRennenEinmalGeholt) {
 }
 
 TEST_F(At2560, FruehstartWirdErkannt) {
-    a.oeffnen();
+    at_profil p;
+    p.at_ereignis.at(at_zeile::tanken_ein(1)) = "e7";
+    a.oeffnen(p);
     a.t.einrichten("Runden", "20", {1, 2});
     a.t.p.einst.start_ampel_modus = 1;
     a.t.bahn().Command1.klicken();
@@ -135,6 +137,9 @@ TEST_F(At2560, FruehstartWirdErkannt) {
     a.sagt(":S11,3000;");
     a.t.maschine.laufen(2);
     EXPECT_TRUE(a.t.p.startampel.fenster.Label_fruehstart.text().ends_with(" 2"));
+    a.sagt(":e7,3001;");  // tank sensor of lane 1
+    a.t.maschine.laufen(2);
+    EXPECT_TRUE(a.t.p.startampel.fenster.Label_fruehstart.text().ends_with(" 1, 2"));
 }
 
 TEST_F(At2560, GehaltenerChaosschalterHaeltDiePauseLosgelassenEndetSie) {
@@ -153,6 +158,32 @@ TEST_F(At2560, GehaltenerChaosschalterHaeltDiePauseLosgelassenEndetSie) {
         ASSERT_TRUE(pause()) << i;
     }
     a.t.maschine.laufen(1000);
+    EXPECT_FALSE(pause());
+    a.t.maschine.laufen(5000);
+
+    a.t.taste("c");  // by key, while the unit says other things
+    a.t.maschine.laufen(3000);
+    a.sagt(":S13,1;");
+    a.t.maschine.laufen(3000);
+    EXPECT_TRUE(pause());
+    a.t.bahn().Command3.klicken();
+    EXPECT_FALSE(pause());
+    a.t.maschine.laufen(5000);
+    a.t.bahn().Command3.klicken();
+    a.t.maschine.laufen(5000);
+    EXPECT_TRUE(pause()) << "hands are on the track";
+    a.t.bahn().Command3.klicken();
+    a.t.maschine.laufen(5000);
+
+    a.sagt(":C,1;");
+    a.t.maschine.laufen(3000 - 2000);
+    ASSERT_TRUE(pause());
+    a.t.maschine.anschluesse.abziehen(3);
+    a.t.maschine.laufen(5000);
+    EXPECT_TRUE(pause()) << "silence of a unit that is gone";
+    a.t.bahn().Command3.klicken();
+    EXPECT_FALSE(pause());
+    a.t.maschine.laufen(5000);
     EXPECT_FALSE(pause());
 }
 
@@ -216,7 +247,7 @@ TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
     EXPECT_EQ(a.gesendet(), "");
     EXPECT_EQ(a.hinweise, std::vector<bool>{true});
     a.t.maschine.laufen(10000);
-    EXPECT_EQ(a.gesendet(), ":IS,13.11.9.7;\r");
+    EXPECT_EQ(a.gesendet(), ":IS,13.11.9.7;\r:P01;\r:A00;\r:A61;\r") << "and the outputs at rest";
     EXPECT_EQ(a.hinweise, (std::vector<bool>{true, false}));
 
     a.geraet.oeffnen();
@@ -225,7 +256,9 @@ TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
     a.t.p.einst.uart_port = 9;
     EXPECT_FALSE(a.geraet.oeffnen());
     EXPECT_EQ(a.nicht_zu_oeffnen, 1);
-    EXPECT_TRUE(a.t.maschine.meldungen_gezeigt.empty());
+    ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(a.t.maschine.meldungen_gezeigt[0].text, a.t.p.txt.meldung[27]);
+    EXPECT_TRUE(a.t.p.einst.hardware.hw_simulation);
 }
 
 TEST_F(At2560, UnlesbareBefehlsdateiMeldetSich) {

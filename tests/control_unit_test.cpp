@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <random>
 
 #include "hardware/cu_protokoll.h"
@@ -50,9 +51,9 @@ TEST(CuProtokoll, JederSatzAuchHinterRauschen) {
             EXPECT_EQ(cu::satz_lesen(rauschen + satz), inhalt) << rauschen << satz;
         }
     }
-    EXPECT_EQ(cu::satz_lesen("?0x$"), cu::meldung(cu::rundenzaehler_bereit{}));
-    const std::vector<std::string> kein_satz{
-        "?9" + stempel + "1x$", "?1" + stempel + "4x$", "?10123x56711$", "$", "?1x$", "??$"};
+    EXPECT_EQ(cu::satz_lesen("?0x$"), cu::meldung(cu::rundenzaehler{true}));
+    EXPECT_EQ(cu::satz_lesen("?1x$"), cu::meldung(cu::rundenzaehler{false}));
+    const std::vector<std::string> kein_satz{"?9" + stempel + "1x$", "?1" + stempel + "4x$", "?10123x56711$", "$"};
     for (const std::string& falsch : kein_satz) {
         EXPECT_EQ(cu::satz_lesen(falsch), cu::meldung()) << falsch;
     }
@@ -82,10 +83,24 @@ struct ControlUnitRennen : testing::Test {
         t.p.einst.hardware.hw_cu = true;
         t.p.einst.cu_modus = com;
         t.p.einst.cu_sondermodus = false;
+        t.maschine.anschluesse.geraet = [this](int /*nummer*/, std::string_view bytes) {
+            if (bytes == "\"?\r") {
+                antworten();
+            }
+        };
         t.p.geraete.hardware_starten(false);
     }
-    void senden(std::string_view bytes) {
-        t.maschine.anschluesse.senden(com, bytes);
+    void antworten() {
+        if (!wartend.empty()) {
+            t.maschine.anschluesse.senden(com, wartend.front());
+            wartend.pop_front();
+        } else if (lebt) {
+            t.maschine.anschluesse.senden(com, letzter_status);
+        }
+    }
+    /// The unit's next answer.
+    void senden(std::string_view satz) {
+        wartend.emplace_back(satz);
         t.maschine.laufen(3);
     }
     int geschrieben(std::string_view befehl) {
@@ -98,11 +113,13 @@ struct ControlUnitRennen : testing::Test {
         return anzahl;
     }
     void status(bool steht, std::string_view tank = "555555", char modus = '0') {
-        senden("?:" + std::string(tank) + "00" + (steht ? '1' : '0') + modus + "000000$");
+        letzter_status = "?:" + std::string(tank) + "00" + (steht ? '1' : '0') + modus + "000000$";
+        senden(letzter_status);
     }
-    void ueberfahrt(int wagen, std::uint32_t stempel, int sensor = 1) {
-        senden("?" + std::to_string(wagen) + simulator::control_unit::stempeltext(stempel) + std::to_string(sensor) +
-               "0$");
+    void ueberfahrt(int wagen, std::uint32_t stempel, int sensor = 1) { senden(passage(wagen, stempel, sensor)); }
+    static std::string passage(int wagen, std::uint32_t stempel, int sensor = 1) {
+        return "?" + std::to_string(wagen) + simulator::control_unit::stempeltext(stempel) + std::to_string(sensor) +
+               "0$";
     }
     /// Start at the unit's own key, up to its green.
     void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
@@ -117,6 +134,9 @@ struct ControlUnitRennen : testing::Test {
         t.maschine.laufen(2500);
     }
 
+    bool lebt = true;  ///< answers each poll
+    std::deque<std::string> wartend;
+    std::string letzter_status = "?:55555500000000000$";
     testprogramm t;
 };
 
@@ -180,12 +200,14 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
 }
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
+    lebt = false;
     t.p.einst.cu_tankautomatik = true;
     t.p.form1.t_aktiv.gesetzt(false);
-    t.maschine.laufen(600);
+    t.maschine.laufen(1600);
     EXPECT_EQ(t.p.form1.modus_label.text(), "Carrera Control Unit – keine Verbindung");
     senden("?:55555500010");  // never ends: thrown away, so that the next record is understood
     t.maschine.laufen(10200);
+    lebt = true;
     status(false, "555555", '1');
     t.maschine.laufen(600);
     EXPECT_TRUE(t.p.form1.t_aktiv.gesetzt());
@@ -265,7 +287,28 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
     EXPECT_EQ(geschrieben("T2P$"), 2);
     t.p.startampel.fenster.abbrampel.klicken();
     EXPECT_EQ(geschrieben("T2P$"), 2) << "a third press would start its light again";
-    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    t.maschine.laufen(5000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "the unit stands, but for the start that is off";
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(2100);
+    EXPECT_EQ(geschrieben("T2P$"), 3) << "another start";
+    t.p.rennen.befehle.rennen_abbrechen();
+    EXPECT_EQ(geschrieben("T2P$"), 4) << "closed over the running light";
+}
+
+TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
+    t.p.einst.cu_option = true;
+    t.p.einst.start_ampel_modus = 1;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    senden("?00$");
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    t.p.startampel.fenster.abbrampel.klicken();
+    senden("?00$");
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "it is still ready from the start that is off";
+    senden("?10$");
+    senden("?00$");
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
 }
 
 TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
@@ -287,6 +330,33 @@ TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNi
     t.p.auswertung.Command2.klicken();
     status(true);
     EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nobody has pressed for a new race";
+}
+
+TEST_F(ControlUnitRennen, EinFortgesetztesRennenHaeltAnWennDasGeraetAnhaelt) {
+    starten(t.p.txt.text_runden, "10", {1});
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(200);
+    status(true);
+    t.p.auswertung.cmd3_fortsetzung();
+    t.p.k_ampel.Command1.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    status(false);
+    ASSERT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    t.maschine.laufen(3000);
+    status(true);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, EineVerspaetetGemeldeteUeberfahrtVerschiebtNichts) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 900000);
+    ueberfahrt(2, 899999);
+    t.maschine.laufen(9994);
+    ueberfahrt(1, 910000);
+    ueberfahrt(2, 909997);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 10000);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 9998);
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.stempel(2, 0), 899999);
 }
 
 TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
@@ -316,10 +386,30 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     t.maschine.laufen(3000);
     t.taste("c");
     t.maschine.laufen(4000);
+    t.bahn().Command3.klicken();  // nobody is patient
     EXPECT_EQ(geschrieben("T2P$"), 2);
     EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << "the cars still stand";
     status(false);
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, EinGeraetOhneStromUeberlaesstPauseUndAmpelDemProgramm) {
+    starten(t.p.txt.text_runden, "10", {1});
+    ASSERT_FALSE(t.bahn().Command3.bedienbar());
+    status(true);
+    ASSERT_TRUE(t.bahn().cu_startframe.sichtbar());
+    lebt = false;  // the port stays open
+    t.maschine.laufen(3100);
+    EXPECT_TRUE(t.bahn().Command3.bedienbar());
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(7100);  // the program's own light
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.p.rennen.befehle.rennen_abbrechen();
+    t.starten(t.p.txt.text_runden, "10", {1});
+    t.maschine.laufen(5000);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 0);
 }
 
 TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
@@ -360,17 +450,15 @@ TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
     ueberfahrt(1, 1000);
     ueberfahrt(2, 1100);
     t.maschine.laufen(3000);
-    status(false);
     t.maschine.uhr_stellen(7000);  // neither timers nor records
-    status(false);                 // the answer to the last poll before
-    ueberfahrt(1, 9000);
-    ueberfahrt(2, 9300);
+    wartend = {letzter_status, passage(1, 9000), passage(2, 9300)};
     t.maschine.laufen(20);
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 8000);
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 8200);
 }
 
 TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {
+    lebt = false;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     std::mt19937 zufall(7);
     for (int i = 0; i < 2000; ++i) {
@@ -385,6 +473,7 @@ TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {
     }
     t.maschine.anschluesse.senden(com, "$");
     t.maschine.laufen(4200);  // one record a tick
+    lebt = true;
     ueberfahrt(5, 123456);
     EXPECT_TRUE(t.p.ereignisse[34].aktiv);
     EXPECT_EQ(t.p.ereignisse[34].ereignis_zeit, 123456);

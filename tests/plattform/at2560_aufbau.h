@@ -15,14 +15,9 @@ struct at2560_aufbau {
         t.p.einst.hardware.hw_uart = true;
         t.p.quellen.anschliessen(geraet);
         t.p.ausgaben.anschliessen(ausgabe_platz::at_2560, geraet);
-        geraet.chaos_aktiv = [this] { return t.p.rennen.zustand.chaos_aktiv; };
-        geraet.nach_ereignis = [this] {
-            t.p.rennen.tanken.sensoren_nachhalten();
-            t.p.rennen.tanken.tank_kontakte_auswerten();
-        };
-        geraet.wartehinweis = [this](bool an) { hinweise.push_back(an); };
-        geraet.nicht_zu_oeffnen = [this] { ++nicht_zu_oeffnen; };
-        geraet.verloren = [this] { ++verloren; };
+        mithoeren(geraet.wartehinweis, [this](bool an) { hinweise.push_back(an); });
+        mithoeren(geraet.nicht_zu_oeffnen, [this] { ++nicht_zu_oeffnen; });
+        mithoeren(geraet.verloren, [this] { ++verloren; });
     }
     /// Opens the port and waits until the unit has booted.
     void oeffnen() {
@@ -41,15 +36,19 @@ struct at2560_aufbau {
     ereignis_zeile& zeile(ereignis_art art) { return t.p.ereignisse[art]; }
 
     testprogramm t;
-    at2560 geraet{dienste_fuer(t)};
+    at2560& geraet = t.p.geraete.at;
     std::vector<bool> hinweise;
     int nicht_zu_oeffnen = 0;
     int verloren = 0;
 
 private:
-    static at2560::umgebung dienste_fuer(testprogramm& t) {
-        const plattform::dienste d = t.maschine.dienste();
-        return {t.p.einst, t.p.txt, t.p.ablage, t.p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen};
+    /// What the program does with it stays as it is.
+    template <class Zaehler, class... Werte>
+    static void mithoeren(std::function<void(Werte...)>& rueckruf, Zaehler zaehler) {
+        rueckruf = [vorher = rueckruf, zaehler](Werte... werte) {
+            zaehler(werte...);
+            vorher(werte...);
+        };
     }
 };
 
