@@ -246,8 +246,11 @@ void control_unit::anzeige_lesen(const std::string& text) {
 
 void control_unit::antworten() {
     if (!wartend_.empty()) {
-        const std::string satz = wartend_.front();
-        wartend_.pop_front();
+        // asked, the unit goes through its cars: of two passages that wait, the earlier may come second
+        const auto naechster = std::min_element(wartend_.begin(), wartend_.end(),
+                                                [](const auto& a, const auto& b) { return a[1] < b[1]; });
+        const std::string satz = *naechster;
+        wartend_.erase(naechster);
         mit_vorspann(satz);
         return;
     }
