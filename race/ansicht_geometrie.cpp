@@ -212,7 +212,10 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
         g[t::Image2].ort = reihe.links(bild2 * e);
         tank_legen(inhalt, reihe.links(tank * e), false, g);
     }
-    zeiten_stapeln(inhalt, reihe.links(zeiten * e), g);
+    const rechteck zeitfeld = reihe.links(zeiten * e);
+    constexpr double nebeneinander_ab = 2.6;  // of its height: there both times are larger side by side
+    zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe ? zeiten_reihen(inhalt, zeitfeld, 2 * luecke, g)
+                                                        : zeiten_stapeln(inhalt, zeitfeld, g);
     g[t::t_liste].ort = reihe.rest();
 }
 

@@ -167,43 +167,18 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
 }
 
 TEST(AnsichtGeometrie, GrosseUhrNurWoPlatzDafuerIst) {
-    ansicht_inhalt inhalt;
-    inhalt.spur_aktiv = letzte_spuren(3);
-    const auto uhr = [&](int breite, int hoehe) {
-        return ansicht_aufteilen(inhalt, breite, hoehe).fenster[f::uhrframe1].schrift_px;
+    const auto uhr = [](int lanes, tankanzeige_art tank, bool gross) {
+        ansicht_inhalt inhalt;
+        inhalt.spur_aktiv = letzte_spuren(lanes);
+        inhalt.tank = tank;
+        inhalt.grosse_zeit = gross;
+        return ansicht_aufteilen(inhalt, 1920, 1080).fenster[f::uhrframe1].schrift_px;
     };
-    const int klein = uhr(1920, 1080);
-    const int schmal = uhr(1500, 1000);
-    inhalt.grosse_zeit = true;
-    EXPECT_NEAR(uhr(1920, 1080), 1.5 * klein, 2);
-    EXPECT_EQ(uhr(1500, 1000), schmal) << "not wider than one and a half times its height";
-    inhalt.tank = tankanzeige_art::zahl;
-    EXPECT_GT(uhr(1920, 1080), klein);
-    inhalt.tank = tankanzeige_art::balken;
-    EXPECT_EQ(uhr(1920, 1080), klein) << "the bars need the room";
-    inhalt.tank = tankanzeige_art::keine;
-    inhalt.spur_aktiv = letzte_spuren(4);
-    EXPECT_EQ(uhr(1920, 1080), klein) << "at most three lanes";
-}
-
-TEST(AnsichtGeometrie, ZaehlerRuecktInDerZeileNachLinks) {
-    ansicht_inhalt inhalt;
-    inhalt.art = ansicht_art::zeilen;
-    inhalt.spur_aktiv = letzte_spuren(4);
-    const ansicht_geometrie g = ansicht_aufteilen(inhalt, 1280, 1024);
-    const rechteck& vorher = g.spur[t::zaehler].ort;
-    EXPECT_LT(g.zaehler_weit.x, vorher.x);
-    EXPECT_EQ(g.zaehler_weit.rechts(), vorher.rechts());
-    EXPECT_GT(g.zaehler_weit.x, g.spur[t::ch_strafzeit_hacken].ort.rechts());
-}
-
-TEST(AnsichtGeometrie, ZweitesBildWeichtAufNiedrigemSchirmDenZeilen) {
-    ansicht_inhalt inhalt;
-    inhalt.wrpic2 = true;
-    EXPECT_FALSE(ansicht_aufteilen(inhalt, 800, 600).fenster[f::wrpic2].ort.leer());
-    inhalt.art = ansicht_art::zeilen;
-    EXPECT_TRUE(ansicht_aufteilen(inhalt, 800, 600).fenster[f::wrpic2].ort.leer());
-    EXPECT_FALSE(ansicht_aufteilen(inhalt, 1024, 768).fenster[f::wrpic2].ort.leer());
+    const int klein = uhr(3, tankanzeige_art::keine, false);
+    EXPECT_NEAR(uhr(3, tankanzeige_art::keine, true), 1.5 * klein, 2);
+    EXPECT_GT(uhr(3, tankanzeige_art::zahl, true), klein);
+    EXPECT_EQ(uhr(3, tankanzeige_art::balken, true), klein) << "the bars need the room";
+    EXPECT_EQ(uhr(4, tankanzeige_art::keine, true), klein) << "at most three lanes";
 }
 
 }  // namespace

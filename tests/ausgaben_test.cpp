@@ -1,14 +1,8 @@
 #include "hardware/ausgaben.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <functional>
 #include <sstream>
-#include <string>
 
-#include "tests/plattform/ausgabe_protokoll.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
@@ -70,27 +64,20 @@ TEST_F(Ausgaben, JedeRoutineErreichtAlleGeraeteInFesterFolge) {
 }
 
 TEST_F(Ausgaben, BildDesBerichtsIstAktivBeiNull) {
-    struct fall {
-        const char* name;
-        std::function<void()> tat;
-        ports erwartet;
+    const auto nach = [this](const std::function<void()>& tat) {
+        tat();
+        return gesendet;
     };
-    const std::array<fall, 10> faelle{{
-        {"power-up", [&] { a.einschalten(); }, {255, 255, 0x0F, 0xF9}},
-        {"red 1", [&] { a.ampelnRon(1); }, {0x7F, 255, 0x0F, 0xF9}},
-        {"red 5 too", [&] { a.ampelnRon(5); }, {0x77, 255, 0x0F, 0xF9}},
-        {"all red", [&] { a.ampelnRon(0); }, {0x07, 255, 0x0F, 0xF9}},
-        {"lane 1 off", [&] { a.relais_on(1); }, {0x07, 255, 0x8F, 0xF9}},
-        {"lane 6 off", [&] { a.relais_on(6); }, {0x07, 255, 0x8F, 0xFD}},
-        {"home", [&] { a.zieleinfahrt_melden(); }, {0x07, 255, 0x8F, 0xFC}},
-        {"rest", [&] { a.ruhezustand(); }, {0xFB, 255, 0x0F, 0xF8}},
-        {"signal over", [&] { a.rennende_signal(false); }, {0xFB, 255, 0x0F, 0xF9}},
-        {"calibration", [&] { a.kalibrieren(); }, {255, 255, 255, 255}},
-    }};
-    for (const fall& f : faelle) {
-        f.tat();
-        EXPECT_EQ(gesendet, f.erwartet) << f.name;
-    }
+    EXPECT_EQ(nach([&] { a.einschalten(); }), (ports{255, 255, 0x0F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.ampelnRon(1); }), (ports{0x7F, 255, 0x0F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.ampelnRon(5); }), (ports{0x77, 255, 0x0F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.ampelnRon(0); }), (ports{0x07, 255, 0x0F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.relais_on(1); }), (ports{0x07, 255, 0x8F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.relais_on(6); }), (ports{0x07, 255, 0x8F, 0xFD}));
+    EXPECT_EQ(nach([&] { a.zieleinfahrt_melden(); }), (ports{0x07, 255, 0x8F, 0xFC}));
+    EXPECT_EQ(nach([&] { a.ruhezustand(); }), (ports{0xFB, 255, 0x0F, 0xF8}));
+    EXPECT_EQ(nach([&] { a.rennende_signal(false); }), (ports{0xFB, 255, 0x0F, 0xF9}));
+    EXPECT_EQ(nach([&] { a.kalibrieren(); }), (ports{255, 255, 255, 255}));
 }
 
 TEST_F(Ausgaben, UmkehrungTauschtLampenUndAusgangDesStroms) {

@@ -1,20 +1,37 @@
 #include "results/auswertung.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-class Auswertung : public testing::Test {
+/// The result, and how the program goes on from it.
+class Auswertung : public test::ProgrammProbe {
 protected:
-    auswertung& a = t_.p.auswertung;
-    wertung& w = t_.p.wertung;
-    test::testprogramm& t = t_;
+    auswertung& a = t.p.auswertung;
+    wertung& w = t.p.wertung;
 
-private:
-    test::testprogramm t_;
+    /// Presses the small start light's command and lets it go green.
+    void gruen() {
+        t.p.k_ampel.Command1.klicken();
+        t.maschine.laufen(1500 + 1500 + 1500 + 2500);
+    }
+    std::vector<std::string> namen() {
+        const auto& n = t.p.param.fahrer_name;
+        return {n.begin(), n.end()};
+    }
+    /// Lanes 1 and 2: 3 and 2 laps of 6 s and 7 s.
+    void zwei_spuren_fahren(const char* rennart, const char* dauer) {
+        t.p.einst.zielmodus_erster = true;
+        t.p.einst.runde_beenden = false;
+        t.starten(rennart, dauer, {1, 2});
+        t.runde_nach(1000, "12");
+        t.runde_nach(6000, "1");
+        t.runde_nach(1000, "2");
+        t.runde_nach(5000, "1");
+        t.runde_nach(2000, "2");
+        t.runde_nach(4000, "1");
+    }
 };
 
 TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
@@ -56,53 +73,6 @@ TEST_F(Auswertung, AbstandIstEineReineZeitdifferenz) {
     EXPECT_FALSE(a.Frame[2].sichtbar());
 }
 
-TEST_F(Auswertung, OhneUeberfahrtNullRundenUndAusgeschiedeneHinten) {
-    t.starten("Zeit", "1", {1, 2, 3});
-    t.runde_nach(1000, "12");
-    t.runde_nach(6000, "12");
-    t.runde_nach(6000, "1");
-    t.spur(1).disqualifiziert = true;
-    t.maschine.laufen(60000);
-    EXPECT_EQ(w.platzierung(2), 1);
-    EXPECT_EQ(a.runden_aus[0].text(), "Dis.");
-    EXPECT_TRUE(a.liste[0].zeilen().empty());
-    EXPECT_EQ(a.runden_aus[2].text(), "0");
-    EXPECT_EQ(a.zeit_aus[2].text(), "00:00,000");
-    EXPECT_EQ(a.kmh_label[2].text(), "0,00 / 0,00 km/h");
-}
-
-TEST_F(Auswertung, MeterUndBesteRundeAlsMassstabGeltenImFenster) {
-    t.p.form1.lspur[1].eingeben("20");
-    t.p.einst.auswertung_nach = 1;
-    const auto fahren = [this] {
-        t.starten("Zeit", "1", {1, 2});
-        t.runde_nach(1000, "12");
-        t.runde_nach(6000, "2");
-        t.runde_nach(1000, "1");
-        t.maschine.laufen(60000);
-    };
-    fahren();
-    EXPECT_EQ(a.ges_meter[0].text(), "25,00 m");
-    EXPECT_EQ(w.platzierung(1), 1) << "more metres in the same laps";
-    a.Command5.klicken();
-    t.p.einst.auswertung_nach = 3;
-    fahren();
-    EXPECT_EQ(w.platzierung(2), 1) << "the better lap";
-}
-
-TEST_F(Auswertung, StrafzeitZaehltZurGesamtzeit) {
-    t.starten("Zeit", "1", {1, 2});
-    t.runde_nach(1000, "12");
-    t.runde_nach(6000, "1");
-    t.runde_nach(200, "2");
-    t.spur(1).strafzeit = 5;
-    t.maschine.laufen(60000);
-    EXPECT_EQ(w.gesamtzeit(1), 11000);
-    EXPECT_EQ(w.platzierung(2), 1);
-    EXPECT_EQ(a.aus_straflabel[0].text(), "Strafzeit: 5 sec");
-    EXPECT_FALSE(a.aus_straflabel[1].sichtbar());
-}
-
 TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
@@ -120,13 +90,193 @@ TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     EXPECT_EQ(a.ges_meter[2].text(), "25,00 m") << "nothing is left of the race before";
 }
 
-TEST_F(Auswertung, LetzterImZielHaeltDieZeitgeberAn) {
-    t.p.einst.zielmodus_erster = false;
-    t.starten("Runden", "1", {1});
-    t.runde_nach(1000, "1");
-    t.runde_nach(6000, "1");
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
-    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
+TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
+    zwei_spuren_fahren("Runden", "3");
+    ASSERT_TRUE(offen("auswertung"));
+    const auto vorher = namen();
+    a.Command1.klicken();
+    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_TRUE(offen("bahn1"));
+    EXPECT_EQ(t.spur(1).runden, -1);
+    EXPECT_EQ(namen(), vorher);
+    EXPECT_TRUE(t.bahn().Command1.aktiviert());
+    t.bahn().Command1.klicken();
+    t.bahn().Command4.klicken();
+    a.Command2.klicken();
+    EXPECT_EQ(namen()[0], vorher[1]) << "two lanes: the drivers change places";
+    EXPECT_EQ(namen()[1], vorher[0]);
+    EXPECT_EQ(t.bahn().namenslabel[1].text(), vorher[1]);
+    EXPECT_EQ(t.p.form1.fahrer[0].text(), vorher[0]) << "the set-up stays";
+}
+
+TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
+    t.p.form1.lspur[1].eingeben("20");
+    zwei_spuren_fahren("Runden", "3");
+    t.spur(1).strafzeit = 5;
+    t.spur(1).tank_inhalt = 12.5;
+    EXPECT_EQ(a.neues_ziel.text(), "6");
+    EXPECT_EQ(a.ziel_einheit.text(), "Runden insgesamt");
+    a.Command3.klicken();
+    EXPECT_FALSE(offen("auswertung"));
+    ASSERT_TRUE(offen("k_ampel"));
+    EXPECT_EQ(t.bahn().namenslabel[2].text(), "Fahrer 1");
+    EXPECT_EQ(t.bahn().zaehler[2].text(), "3");
+    EXPECT_EQ(t.bahn().brunde[2].text(), "06,000");
+    EXPECT_EQ(t.bahn().straflabel[2].text(), "Strafzeit: 5 sec");
+    EXPECT_EQ(t.bahn().l_PosAnz[1].text(), "1") << "the leader stays the leader";
+    EXPECT_EQ(t.bahn().t_liste[1].zeilen().back(), " 3. 06,000");
+    EXPECT_EQ(t.bahn().ziel_label.text(), "6 Runden");
+    EXPECT_EQ(t.spur(2).tank_inhalt, 12.5);
+    EXPECT_FALSE(t.bahn().Command3.aktiviert()) << "no pause before green";
+
+    t.maschine.laufen(20000);
+    t.taste("1");  // pushed over the line before green
+    t.taste("c");
+    gruen();
+    EXPECT_EQ(t.spur(1).runden, 2);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    // lane 1: Fahrer 2, 4 s into his third lap when the race ended; lane 2: Fahrer 1, was home, starts anew
+    t.runde_nach(4000, "1");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 3), 4000 + 4000);
+    t.runde_nach(1500, "2");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 4), 5499 + 5)
+        << "five seconds of penalty lengthen each lap, and a key has the stamp of the tick before";
+    t.runde_nach(6000, "2");
+    t.runde_nach(6000, "2");
+    ASSERT_TRUE(offen("auswertung"));
+    EXPECT_EQ(w.platzierung(2), 1);
+    EXPECT_EQ(w.gesamtzeit(2), 18000 + 5504 + 6005 + 6005 + 5000);
+    EXPECT_EQ(a.ges_meter[1].text(), "135,00 m") << "three laps of 25 m, three of 20 m";
+    EXPECT_EQ(a.ges_meter[0].text(), "65,00 m");
+    a.Command1.klicken();
+    EXPECT_EQ(t.p.param.renn_ziel, 3) << "repeated as it was set up";
+}
+
+TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
+    zwei_spuren_fahren("Zeit", "1");
+    t.maschine.laufen(60000);
+    ASSERT_TRUE(offen("auswertung"));
+    EXPECT_EQ(a.neues_ziel.text(), "2");
+    a.neues_ziel.eingeben("1,30");
+    a.spurwechsel.umschalten();
+    const zeit_ms letzte = t.p.rennen.zustand.rundenzeiten.stempel(1, 3);
+    const zeit_ms rest_der_runde = t.p.rennen.zustand.renn_ende_stempel - letzte;
+    a.Command3.klicken();
+    EXPECT_EQ(t.bahn().namenslabel[1].text(), "Fahrer 1");
+    EXPECT_EQ(t.bahn().uhr1.sekunden.text(), "30");
+    EXPECT_EQ(t.bahn().uhr2.minuten.text(), "01");
+    t.maschine.laufen(500000);
+    gruen();
+    t.runde_nach(10000, "1");
+    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 4), rest_der_runde + 9999);
+    EXPECT_EQ(t.bahn().uhr1.sekunden.text() + t.bahn().uhr1.tausendstel.text(), "20000");
+    t.maschine.laufen(19999);
+    EXPECT_FALSE(offen("auswertung"));
+    t.maschine.laufen(1);
+    EXPECT_TRUE(offen("auswertung"));
+    EXPECT_EQ(a.neues_ziel.text(), "2,30") << "old target and the length of the race";
+}
+
+TEST_F(Auswertung, WasGefahrenIstKannNichtDasZielSein) {
+    zwei_spuren_fahren("Runden", "3");
+    for (const char* ziel : {"3", "0", "", "abc"}) {
+        a.neues_ziel.eingeben(ziel);
+        a.Command3.klicken();
+        EXPECT_TRUE(offen("auswertung")) << ziel;
+    }
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 4U);
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, t.p.txt.meldung[13]);
+    a.neues_ziel.eingeben("10000");
+    a.Command3.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back(),
+              (test::test_plattform::meldung{"Rennmaximum erreicht. Fortsetzung nicht möglich.",
+                                             "Runden/Zeitmaximum erreicht. Fortsetzung nicht möglich."}));
+    a.neues_ziel.eingeben("9999");
+    a.Command3.klicken();
+    EXPECT_FALSE(offen("auswertung"));
+}
+
+TEST_F(Auswertung, DauerUeber1499MinutenGehtNicht) {
+    t.p.form1.stddauer.eingeben("24");
+    t.starten("Zeit", "59", {1});
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(a.neues_ziel.text(), "1499") << "held at the limit";
+    a.neues_ziel.eingeben("1499,01");
+    a.Command3.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    a.neues_ziel.eingeben("1499");
+    a.Command3.klicken();
+    EXPECT_TRUE(offen("k_ampel"));
+}
+
+TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
+    zwei_spuren_fahren("Zeit", "1");
+    t.maschine.laufen(60000);
+    const zeit_ms ende = t.p.rennen.zustand.renn_ende_stempel;
+    a.Command3.klicken();
+    t.maschine.laufen(30000);
+    t.p.rennen.befehle.taste('1');
+    t.bahn().Command4.klicken();
+    ASSERT_TRUE(offen("auswertung"));
+    EXPECT_FALSE(offen("k_ampel"));
+    EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, ende);
+    EXPECT_EQ(w.runden(1), 2) << "the drivers have changed lanes";
+    a.Command3.klicken();
+    gruen();
+    t.maschine.laufen(59999);
+    EXPECT_FALSE(offen("auswertung"));
+    t.maschine.laufen(61000);
+    EXPECT_TRUE(offen("auswertung"));
+}
+
+TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
+    t.p.einst.sensor_timeout = 2000;
+    t.p.einst.zielmodus_erster = true;
+    zwei_spuren_fahren("Runden", "3");
+    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_EQ(w.runden(2), 2);
+    t.maschine.laufen(5000 - 4000);
+    t.p.ereignisse.ereignis_melden(art::rundenzaehlung[1]);
+    t.maschine.laufen(1);
+    t.p.ereignisse[art::rundenzaehlung[2]] = {true, false, false, t.maschine.jetzt()};
+    t.p.rennen.zustand.spur[2].pause_abzug = -5000;  // long enough on the way
+    t.maschine.laufen(20);
+    EXPECT_EQ(w.runden(1), 3) << "is home";
+    EXPECT_EQ(a.runden_aus[1].text(), "3");
+    EXPECT_EQ(w.platzierung(1), 1);
+    t.maschine.laufen(2000);
+    EXPECT_TRUE(t.spur(2).ziel_erreicht);
+}
+
+TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
+    t.p.einst.training_art = 1;
+    t.p.einst.training_wechseldauer = 3;
+    t.p.einst.training_weiter = 0;
+    t.p.einst.aut_speichern = false;
+    t.einrichten("Runden", "1", {1});
+    t.p.param.training_laeuft = true;
+    t.bahn().Command1.klicken();
+    t.bahn().Command4.klicken();
+    EXPECT_EQ(a.trainingslabel.text(), "Training wird fortgesetzt in:  3   ");
+    EXPECT_FALSE(a.Frame1.sichtbar());
+    t.maschine.laufen(2000);
+    EXPECT_EQ(a.trainingslabel.text(), "Training wird fortgesetzt in:  1   ");
+    t.maschine.laufen(1000);
+    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet) << "the next round has begun";
+    t.p.einst.training_weiter = 1;
+    t.p.einst.nachtrennen_modus = 1;
+    t.bahn().Command4.klicken();
+    t.maschine.laufen(3000);
+    ASSERT_TRUE(offen("k_ampel"));
+    t.maschine.laufen(499);
+    EXPECT_TRUE(t.p.k_ampel.Command1.aktiviert());
+    t.maschine.laufen(1);
+    EXPECT_FALSE(t.p.k_ampel.Command1.aktiviert());
+    EXPECT_TRUE(t.p.k_ampel.k_nachtabschaltung.sichtbar());
+    t.maschine.laufen(1500 * 3 + 2500);
+    EXPECT_FALSE(offen("k_ampel"));
+    EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft());
 }
 
 }  // namespace

@@ -1,15 +1,11 @@
 #include "results/beste_zeiten_fenster.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-using meldungen = std::vector<test::test_plattform::meldung>;
-
-class BesteZeitenFenster : public testing::Test {
+class BesteZeitenFenster : public test::ProgrammProbe {
 protected:
     BesteZeitenFenster() {
         angebote[1] = {true, "Jörg", "Viper", 8500, {9000, 8500, 0, 8500, 9123}};
@@ -30,7 +26,6 @@ protected:
         an ? std::filesystem::create_directory(im_weg) : std::filesystem::remove(im_weg);
     }
 
-    test::testprogramm t;
     beste_zeiten_fenster& f = t.p.beste_zeiten_fenster;
     bestzeiten& tabelle = t.p.bestzeiten;
     spuren<spur_angebot> angebote;
@@ -69,28 +64,25 @@ TEST_F(BesteZeitenFenster, ZeigtUndSpeichertWasBesserIst) {
 
 TEST_F(BesteZeitenFenster, GetippteZeitenUndHaken) {
     oeffnen();
-    struct fall {
-        const char* text;
-        zeit_ms ms;
-    };
-    for (const fall& fall : {fall{"01:01,000", 7000},  // kept as the files have always had it
-                             {" 00:08,123", 8123},
-                             {"00:08.123", 8123},
-                             {"00:08:123", 8123},
-                             {"00·08·123", 8123},
-                             {"00:00,000", keine_bestzeit},
-                             {"00:08", keine_bestzeit},
-                             {"8,123", keine_bestzeit},
-                             {"-1:08,123", keine_bestzeit},
-                             {"", keine_bestzeit},
-                             {"99:99,999", keine_bestzeit}}) {
+    for (const auto& [text, ms] :
+         {std::pair<const char*, zeit_ms>{"01:01,000", 7000},  // as the files have always had it
+          {" 00:08,123", 8123},
+          {"00:08.123", 8123},
+          {"00:08:123", 8123},
+          {"00·08·123", 8123},
+          {"00:00,000", keine_bestzeit},
+          {"00:08", keine_bestzeit},
+          {"8,123", keine_bestzeit},
+          {"-1:08,123", keine_bestzeit},
+          {"", keine_bestzeit},
+          {"99:99,999", keine_bestzeit}}) {
         tabelle.leeren();
         oeffnen();
         f.beste_combo[0].laenge_max(0);
-        f.beste_combo[0].eingeben(fall.text);
-        EXPECT_EQ(f.Shape1[0].hintergrund().has_value(), fall.ms != keine_bestzeit) << fall.text;
+        f.beste_combo[0].eingeben(text);
+        EXPECT_EQ(f.Shape1[0].hintergrund().has_value(), ms != keine_bestzeit) << text;
         f.Command1.klicken();
-        EXPECT_EQ(tabelle.beste(1), fall.ms) << fall.text;
+        EXPECT_EQ(tabelle.beste(1), ms) << text;
     }
     oeffnen();
     f.beste_combo[0].eingeben("00:05,000");

@@ -5,8 +5,6 @@
 namespace tarvel {
 namespace {
 
-using test::meldungen;
-
 class BesteZeitenVerwaltung : public test::OptionenProbe {
 protected:
     BesteZeitenVerwaltung() {

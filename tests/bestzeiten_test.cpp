@@ -1,15 +1,11 @@
 #include "core/bestzeiten.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-using meldungen = std::vector<test::test_plattform::meldung>;
-
-class Bestzeiten : public testing::Test {
+class Bestzeiten : public test::ProgrammProbe {
 protected:
     bestzeiten geladen(const std::string& bytes) {
         t.maschine.datei_schreiben("Ergebnisse/Bestzeiten/klub.bst", bytes);
@@ -17,8 +13,6 @@ protected:
         EXPECT_TRUE(tabelle.laden(t.p.ablage, "klub"));
         return tabelle;
     }
-
-    test::testprogramm t;
 };
 
 TEST_F(Bestzeiten, NeueZeitSchiebtDieSpurNachUntenUndKommtDurchDieDatei) {

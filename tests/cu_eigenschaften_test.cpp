@@ -1,8 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 #include "tools/simulator/control_unit.h"
 
 namespace tarvel::test {

@@ -1,18 +1,15 @@
 #include "core/einstellungsdatei.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 #include "core/einstellungstabelle.h"
-#include "tests/plattform/testprogramm.h"
+#include "core/nebendateien.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
 constexpr const char* datei = "Einstellungen/einstellungen.ini";
 
-class Einstellungsdatei : public testing::Test {
+class Einstellungsdatei : public test::ProgrammProbe {
 protected:
     Einstellungsdatei() { grund = *ablage.zeilen_lesen(datei, 1000); }
 
@@ -32,8 +29,15 @@ protected:
         const auto& gezeigt = t.maschine.meldungen_gezeigt;
         return std::none_of(gezeigt.begin(), gezeigt.end(), [&](const auto& m) { return m.text == p->txt.meldung[9]; });
     }
+    /// Starts with the start file naming this file of settings.
+    programm& startdatei_mit(const std::string& name, const std::string& zustand_und_modus = "0\r\n\r\n") {
+        t.maschine.datei_schreiben("tvk_s6.ini", zustand_und_modus + name + "\r\n0\r\n\r\n");
+        t.maschine.meldungen_gezeigt.clear();
+        p = std::make_unique<programm>(t.maschine.dienste());
+        p->starten();
+        return *p;
+    }
 
-    test::testprogramm t;
     dateien ablage{t.maschine.ordner()};
     std::vector<std::string> grund;  ///< a default file
     std::unique_ptr<programm> p;
@@ -228,6 +232,52 @@ TEST_F(Einstellungsdatei, BeschaedigteEinstellungenKostenDieTastenNicht) {
     tastenbelegung gespeichert;
     ASSERT_TRUE(gespeichert.tastenbelegung_laden(ablage));
     EXPECT_EQ(gespeichert.taste(16), 'k');
+}
+
+TEST_F(Einstellungsdatei, SchreibweisenDesOrdnersMeinenDasselbe) {
+    t.p.einst.tank_inhalt = 42;
+    ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/klub, alt.ini", t.p.datei.schreiben()));
+    const std::string voll = (t.maschine.ordner() / "Einstellungen").string();
+    for (const std::string& ordner : {std::string("Einstellungen/"), std::string("Einstellungen\\"), voll + "/"}) {
+        const programm& neu = startdatei_mit("\"" + ordner + "klub, alt.ini\"");
+        EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << ordner;
+        EXPECT_EQ(neu.einst.tank_inhalt, 42) << ordner;
+        EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: klub, alt.ini");
+        EXPECT_EQ(neu.form1.Label6.tipp(), "Beim Programmstart: klub, alt.ini");
+    }
+}
+
+TEST_F(Einstellungsdatei, FehltDieDateiDesStartsWirdSieMitDenStandardwertenAngelegt) {
+    const programm& neu = startdatei_mit("Einstellungen/klub.ini");
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: klub.ini");
+    EXPECT_TRUE(t.maschine.datei_da("Einstellungen/klub.ini"));
+}
+
+TEST_F(Einstellungsdatei, StartdateiOeffnetNieEineAndereDatei) {
+    const std::string liste = t.maschine.datei_lesen("Listen/fahrer.lst");
+    for (const char* name :
+         {"Einstellungen\\..\\Listen\\fahrer.lst", "..\\Listen\\fahrer.lst", "C:\\x.ini", "/etc/x"}) {
+        const programm& neu = startdatei_mit(name);
+        EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: einstellungen.ini") << name;
+        EXPECT_EQ(t.maschine.datei_lesen("Listen/fahrer.lst"), liste) << name;
+    }
+}
+
+TEST_F(Einstellungsdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
+    t.p.einst.hardware.hw_iow = true;
+    ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/iow.ini", t.p.datei.schreiben()));
+    programm& neu = startdatei_mit("Einstellungen\\iow.ini", "2\r\n5\r\n");
+    EXPECT_FALSE(neu.einst.hardware.hw_iow);
+    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 5);
+    EXPECT_EQ(s6_laden(ablage).zustand, "0");
+    neu.form1.Command7.klicken();
+    neu.speichernfenster.name.eingeben("iow");
+    neu.speichernfenster.Command1.klicken();
+    EXPECT_TRUE(neu.einst.hardware.hw_iow) << "what is loaded later counts as it stands";
+    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 3);
+    startdatei_mit("Einstellungen\\iow.ini", "2\r\n1\r\n");
+    EXPECT_EQ(p->einst.hardware.hw_4x4_modus, 3) << "there is no such mode";
 }
 
 }  // namespace

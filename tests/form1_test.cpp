@@ -1,78 +1,68 @@
 #include "core/form1.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-using meldungen = std::vector<test::test_plattform::meldung>;
-
-class Form1 : public testing::Test {
+class Form1 : public test::ProgrammProbe {
 protected:
-    test::testprogramm t;
     form1& f = t.p.form1;
 };
 
 TEST_F(Form1, FelderWerdenStillBerichtigt) {
-    struct fall {
-        feld& wert;
-        const char* eingabe;
-        const char* danach;
+    const auto pruefen = [this](feld& wert, const char* eingabe, const char* danach) {
+        wert.text(eingabe);
+        f.werte_pruefen();
+        EXPECT_EQ(wert.text(), danach) << eingabe;
     };
     f.stddauer.text("1");
-    const auto pruefen = [this](const fall& fall) {
-        fall.wert.text(fall.eingabe);
-        f.werte_pruefen();
-        EXPECT_EQ(fall.wert.text(), fall.danach) << fall.eingabe;
-    };
-    for (const fall& fall : {
-             fall{f.lspur[0], "12,5", "12.5"},
-             {f.lspur[0], "0,9", "25"},
-             {f.lspur[1], "10001", "25"},
-             {f.lspur[2], "xyz", "25"},
-             {f.lspur[3], "10000", "10000"},
-             {f.wertmin, "0,05", "5"},
-             {f.wertmin, "59.1", "5"},
-             {f.wertmin, "0,1", "0.1"},
-             {f.stddauer, "-1", "0"},
-             {f.stddauer, "25", "24"},
-             {f.stddauer, "", "0"},
-             {f.renndauer, "-5", "0"},
-             {f.renndauer, "60", "59"},
-             {f.renndauer, "99999999", "59"},
-         }) {
-        pruefen(fall);
-    }
+    pruefen(f.lspur[0], "12,5", "12.5");
+    pruefen(f.lspur[0], "0,9", "25");
+    pruefen(f.lspur[1], "10001", "25");
+    pruefen(f.lspur[2], "xyz", "25");
+    pruefen(f.lspur[3], "10000", "10000");
+    pruefen(f.wertmin, "0,05", "5");
+    pruefen(f.wertmin, "59.1", "5");
+    pruefen(f.wertmin, "0,1", "0.1");
+    pruefen(f.stddauer, "-1", "0");
+    pruefen(f.stddauer, "25", "24");
+    pruefen(f.stddauer, "", "0");
+    pruefen(f.renndauer, "-5", "0");
+    pruefen(f.renndauer, "60", "59");
+    pruefen(f.renndauer, "99999999", "59");
     f.rennart.eingeben("Runden");
-    pruefen({f.renndauer, "10000", "9999"});
-    pruefen({f.renndauer, "-1", "1"});
+    pruefen(f.renndauer, "10000", "9999");
+    pruefen(f.renndauer, "-1", "1");
 }
 
 TEST_F(Form1, RenndauerInMinutenUndSekunden) {
-    struct fall {
-        const char* eingabe;
-        const char* danach;
-        zeit_ms dauer;
-    };
-    for (const fall& fall : {fall{"5,3", "5,30", 330000},
-                             {"5.05", "5,05", 305000},
-                             {" 07", "7", 420000},
-                             {"2,75", "2,59", 179000},
-                             {"3,x", "3", 180000},
-                             {",5", "0,50", 50000},
-                             {"1,0", "1", 60000}}) {
-        f.renndauer.text(fall.eingabe);
+    const auto pruefen = [this](const char* eingabe, const char* danach, zeit_ms dauer) {
+        f.renndauer.text(eingabe);
         f.Command1.klicken();
-        EXPECT_EQ(f.renndauer.text(), fall.danach) << fall.eingabe;
-        EXPECT_EQ(t.p.param.renndauer_ms, fall.dauer) << fall.eingabe;
-        EXPECT_EQ(t.p.param.renn_ziel, fall.dauer) << fall.eingabe;
+        EXPECT_EQ(f.renndauer.text(), danach) << eingabe;
+        EXPECT_EQ(t.p.param.renndauer_ms, dauer) << eingabe;
+        EXPECT_EQ(t.p.param.renn_ziel, dauer) << eingabe;
         t.bahn().Command2.klicken();
-    }
+    };
+    pruefen("5,3", "5,30", 330000);
+    pruefen("5.05", "5,05", 305000);
+    pruefen(" 07", "7", 420000);
+    pruefen("2,75", "2,59", 179000);
+    pruefen("3,x", "3", 180000);
+    pruefen(",5", "0,50", 50000);
+    pruefen("1,0", "1", 60000);
     f.stddauer.eingeben("2");
+    f.wertmin.eingeben("2,5");
     t.einrichten("Zeit", "0,5", {1});
     EXPECT_EQ(t.p.param.renndauer_ms, 2 * 3600000 + 50000);
+    EXPECT_EQ(t.p.param.min_rundenzeit_ms, 2600);
+    EXPECT_EQ(t.bahn().ziel_label.text(), "2 h 0:50 min");
+    EXPECT_TRUE(t.bahn().uhr1.stunden.sichtbar());
+    EXPECT_EQ(t.bahn().uhr1.stunden.text() + t.bahn().uhr1.sekunden.text(), "0250");
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(10);
+    EXPECT_TRUE(t.bahn().uhr2.stunden.sichtbar() && t.bahn().uhr2.nach_stunden.sichtbar());
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 
@@ -91,27 +81,6 @@ TEST_F(Form1, OhneLaengeOderSpurKeinRennen) {
     EXPECT_EQ(t.p.param.renn_ziel, 9999);
 }
 
-TEST_F(Form1, HinterEinerMeldungGehtDieZeitWeiter) {
-    t.p.fenster.zeigen("Form3");
-    t.maschine.waehrend_meldung = [this] { t.maschine.laufen(2000); };
-    t.einrichten("Zeit", "0", {1});
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
-}
-
-TEST_F(Form1, UebergabeAnDasRennen) {
-    f.fahrer[4].aktiviert(true);
-    f.fahrer[4].eingeben("Käthe");
-    f.wertmin.eingeben("2,5");
-    t.einrichten("Runden", "12", {2, 5});
-    EXPECT_EQ(t.p.param.renn_art_text, "Runden");
-    EXPECT_EQ(t.p.param.renn_ziel, 12);
-    EXPECT_EQ(t.p.param.spuren_anzahl, 2);
-    EXPECT_TRUE(t.p.param.spur_aktiv[5]);
-    EXPECT_FALSE(t.p.param.spur_aktiv[1]);
-    EXPECT_EQ(t.p.param.fahrer_name[5], "Käthe");
-    EXPECT_EQ(t.p.param.min_rundenzeit_ms, 2600);
-}
-
 TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     t.maschine.bildschirm_groesse = {1024, 719};
     t.maschine.laufen(1000);
@@ -128,7 +97,7 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     EXPECT_TRUE(gross.p.form1.startbild.sichtbar());
 }
 
-TEST_F(Form1, RennartStelltDieFelderUm) {
+TEST_F(Form1, RennartUndTankhakenStellenDieFelderUm) {
     f.rennart.eingeben("Runden");
     EXPECT_EQ(f.Label19.text(), "Runden");
     EXPECT_FALSE(f.stddauer.aktiviert());
@@ -138,13 +107,10 @@ TEST_F(Form1, RennartStelltDieFelderUm) {
     EXPECT_EQ(f.rennart.text(), "Zeit");
     EXPECT_EQ(f.Label19.text(), "Minuten");
     EXPECT_TRUE(f.stddauer.aktiviert());
-}
-
-TEST_F(Form1, HakenZeigtDieTankoptionen) {
     EXPECT_FALSE(f.tank_label.sichtbar());
     f.t_aktiv.umschalten();
-    EXPECT_TRUE(f.tank_label.sichtbar());
     EXPECT_EQ(f.tank_label.text(), "60 Liter, 7 Liter je Runde");
+    EXPECT_TRUE(f.tank_label.sichtbar());
 }
 
 TEST_F(Form1, RennenWartetAufDasMessgeraet) {

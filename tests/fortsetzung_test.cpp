@@ -1,18 +1,15 @@
 #include "race/fortsetzung.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <random>
 
 #include "core/text.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
 /// Races that go on from their result.
-class Fortsetzung : public testing::Test {
+class Fortsetzung : public test::ProgrammProbe {
 protected:
     Fortsetzung() {
         t.p.einst.zielmodus_erster = true;
@@ -22,7 +19,6 @@ protected:
         t.p.form1.wertmin.eingeben("1");
     }
 
-    bool offen(const char* name) { return t.p.fenster.ist_offen(name); }
     void gruen() {
         t.p.k_ampel.Command1.klicken();
         t.maschine.laufen(1500 * 3 + 2500);
@@ -32,7 +28,6 @@ protected:
         return *std::find_if(alle_spuren.begin(), alle_spuren.end(), hat);
     }
 
-    test::testprogramm t;
     auswertung& a = t.p.auswertung;
     wertung& w = t.p.wertung;
     renn_zustand& zustand = t.p.rennen.zustand;
@@ -95,24 +90,6 @@ TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet)
     EXPECT_EQ(w.runden(2), 0);
     t.bahn().Command3.klicken();
     EXPECT_FALSE(zustand.chaos_aktiv) << "no pause behind the result";
-}
-
-TEST_F(Fortsetzung, WasVorGruenGeschiehtZaehltNicht) {
-    t.p.belegung.vorbelegen(belegung_stufe::alle);
-    t.p.einst.sektor_an = {true, true, true, false};
-    t.starten("Runden", "2", {1});
-    t.runde_nach(1000, "1");
-    t.runde_nach(3000, "1");
-    t.bahn().Command4.klicken();
-    a.Command3.klicken();
-    for (const char* taste : {"1", "u", "c"}) {
-        t.taste(taste);
-    }
-    gruen();
-    t.maschine.laufen(10);
-    EXPECT_EQ(w.runden(1), 1);
-    EXPECT_EQ(t.p.rennen.sektoren.sektorzeit(1, 1, 2), 0);
-    EXPECT_FALSE(zustand.chaos_aktiv);
 }
 
 TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {

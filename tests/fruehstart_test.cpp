@@ -1,10 +1,5 @@
 #include "start/fruehstart.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "tests/startampel_probe.h"
 
 namespace tarvel {
@@ -69,34 +64,27 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
 }
 
 TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
-    struct fall {
-        int option;
-        int runden_bei_gruen;
-        int strafzeit;
-        bool strom;
-        const char* zaehler;
-    };
-    for (const fall& f : std::vector<fall>{
-             {0, 0, 0, true, "0"}, {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
-        SCOPED_TRACE(f.option);
-        t.p.einst.fruehstart_option = f.option;
+    for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler] :
+         {std::tuple(0, 0, 0, true, "0"), {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
+        SCOPED_TRACE(option);
+        t.p.einst.fruehstart_option = option;
         t.p.einst.fruehstart_strafzeit = 300;
         beginnen(3);
         t.maschine.laufen(5000);
         ampeltaste('2');
         t.maschine.laufen(2000 + 5 * 1500 - 5002);
         ASSERT_TRUE(rennen_laeuft());
-        EXPECT_EQ(t.spur(2).runden, f.runden_bei_gruen);
-        EXPECT_EQ(t.spur(2).strafzeit, f.strafzeit);
-        EXPECT_EQ(strom(2), f.strom);
-        EXPECT_EQ(t.bahn().zaehler[2].text(), f.zaehler);
+        EXPECT_EQ(t.spur(2).runden, runden_bei_gruen);
+        EXPECT_EQ(t.spur(2).strafzeit, strafzeit);
+        EXPECT_EQ(strom(2), mit_strom);
+        EXPECT_EQ(t.bahn().zaehler[2].text(), zaehler);
         EXPECT_EQ(t.spur(1).runden, -1);
         EXPECT_TRUE(strom(1));
         t.runde_nach(2500, "1");
-        EXPECT_EQ(t.p.einst.fruehstart_strafzeit, f.option == 2 ? 300 : 10) << "overwritten when the light closes";
+        EXPECT_EQ(t.p.einst.fruehstart_strafzeit, option == 2 ? 300 : 10) << "overwritten when the light closes";
         t.runde_nach(6000, "12");
         EXPECT_EQ(t.spur(1).runden, 1);
-        EXPECT_EQ(t.spur(2).runden, f.option == 2 ? -1 : f.runden_bei_gruen + 1);
+        EXPECT_EQ(t.spur(2).runden, option == 2 ? -1 : runden_bei_gruen + 1);
         t.bahn().Command2.klicken();
     }
 }

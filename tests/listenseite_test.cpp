@@ -1,16 +1,13 @@
 #include "optionen/listenseite.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
 using namen = std::vector<std::string>;
-using meldungen = std::vector<test::test_plattform::meldung>;
 
-class Listenseite : public testing::Test {
+class Listenseite : public test::ProgrammProbe {
 protected:
     Listenseite() {
         t.p.form1.Command8.klicken();
@@ -33,7 +30,6 @@ protected:
         t.maschine.datei_schreiben(name, bytes);
     }
 
-    test::testprogramm t;
     listenseite& fahrer = t.p.einstellungsfenster.fahrerseite;
     bildwahl& bilder = t.p.fahrerbild_laden;
 };

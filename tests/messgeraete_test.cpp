@@ -1,8 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <utility>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel::test {
 namespace {

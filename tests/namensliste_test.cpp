@@ -1,8 +1,6 @@
 #include "core/namensliste.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
@@ -70,14 +68,6 @@ TEST_F(Namensliste, HundertNamenUndNichtMehr) {
     zeilen.insert(zeilen.end(), {"{pic}", "bild", "{ende}"});
     EXPECT_TRUE(laden(zeilen));
     EXPECT_EQ(liste.eintraege(), eintraege(100, {"Max", ""})) << "the pictures lie beyond the list";
-}
-
-TEST_F(Namensliste, GeladeneListeAendertDieGewaehltenFahrerNicht) {
-    maschine.datei_schreiben("Listen/fahrer.lst", "Fahrerliste:\r\nAnna\r\n{pic}\r\n\r\n{ende}\r\n");
-    programm p(maschine.dienste());
-    p.starten();
-    EXPECT_EQ(p.form1.fahrer[0].eintraege(), (std::vector<std::string>{"kein Fahrer", "Anna"}));
-    EXPECT_EQ(p.form1.fahrer[0].text(), "Fahrer 1");
 }
 
 TEST_F(Namensliste, JederMitgelieferteNameHatSeinBild) {

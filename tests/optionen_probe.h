@@ -1,19 +1,13 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel::test {
 
-using meldungen = std::vector<test_plattform::meldung>;
 constexpr const char* bleibt = " Die alte Einstellung wird beibehalten.";
 
 /// The options window of a started program, opened.
-class OptionenProbe : public testing::Test {
+class OptionenProbe : public ProgrammProbe {
 protected:
     OptionenProbe() { oeffnen(); }
 
@@ -49,7 +43,6 @@ protected:
         return t.maschine.meldungen_gezeigt;
     }
 
-    testprogramm t;
     einstellungsfenster& fenster = t.p.einstellungsfenster;
     einstellungen& einst = t.p.einst;
 };

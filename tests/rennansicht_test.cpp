@@ -1,22 +1,17 @@
 #include "race/rennansicht.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/ausgabe_protokoll.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-class Rennansicht : public testing::Test {
+class Rennansicht : public test::ProgrammProbe {
 protected:
     void oeffnen(std::initializer_list<int> lanes) {
         t.bahn().Command2.klicken();  // a window that is open stays as it is
         t.einrichten("Zeit", "5", lanes);
     }
     const ansicht_inhalt& inhalt() { return t.bahn().ansicht.inhalt(); }
-
-    test::testprogramm t;
 };
 
 TEST_F(Rennansicht, EinstellungUndSpurenWaehlenDieAnsicht) {
@@ -77,9 +72,6 @@ TEST_F(Rennansicht, ZaehlerInDerZeileRuecktBeiTausendRunden) {
 }
 
 TEST_F(Rennansicht, AmpelBlinktVorDemRennen) {
-    using ausgang = schaltung::ausgang;
-    test::ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(ausgabe_platz::modul_4x4, geraet);
     const auto rot = [&] { return geraet.ist_an(ausgang::ampel_rot, 1) && !geraet.ist_an(ausgang::ampel_gruen, 0); };
     t.einrichten("Zeit", "5", {1, 2});
     t.maschine.laufen(500);

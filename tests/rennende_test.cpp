@@ -1,28 +1,18 @@
 #include "race/rennende.h"
 
-#include <gtest/gtest.h>
+#include <sstream>
 
-#include <algorithm>
-
-#include "tests/plattform/ausgabe_protokoll.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-using ausgang = schaltung::ausgang;
-
-class Rennende : public testing::Test {
+class Rennende : public test::ProgrammProbe {
 protected:
-    bool beendet() { return t.p.fenster.ist_offen("auswertung"); }
-    bool gespielt(const char* datei) const {
-        return std::find(t.maschine.sounds.begin(), t.maschine.sounds.end(), datei) != t.maschine.sounds.end();
-    }
+    bool beendet() { return offen("auswertung"); }
     std::string uhr(const rennuhr_felder& u) const {
         return u.stunden.text() + ":" + u.minuten.text() + ":" + u.sekunden.text() + "," + u.tausendstel.text();
     }
-
-    test::testprogramm t;
 };
 
 TEST_F(Rennende, UhrenEinesZeitrennens) {
@@ -73,7 +63,7 @@ TEST_F(Rennende, ZweiteRennenImSelbenProgrammBeginnenGanzVonVorn) {
         t.spur(2).pause_abzug = 400;
         t.runde_nach(6000, "1");
         ASSERT_TRUE(beendet()) << rennen;
-        EXPECT_EQ(std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\ez.wav"), 1);
+        EXPECT_EQ(gespielt("ez.wav"), 1);
         t.p.auswertung.Command5.klicken();
         t.starten("Zeit", "1", {1});
         EXPECT_EQ(t.spur(2).strafzeit, 0);
@@ -95,45 +85,7 @@ TEST_F(Rennende, UeberfahrtVorDemStartZaehltNicht) {
     EXPECT_EQ(t.p.rennen.zustand.rennen_start_uhrzeit, "21.11.2026-14:03:22");
 }
 
-TEST_F(Rennende, NachtrennenBeginntUnterDerAbdeckung) {
-    t.p.einst.nachtrennen_modus = 1;
-    t.starten("Zeit", "5", {1});
-    EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
-    t.bahn().Command2.klicken();
-    EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar());
-}
-
-TEST_F(Rennende, StundenErscheinenMitIhrenTrennern) {
-    t.p.form1.stddauer.eingeben("1");
-    t.einrichten("Zeit", "1", {1});
-    EXPECT_TRUE(t.bahn().uhr1.stunden.sichtbar());
-    EXPECT_EQ(uhr(t.bahn().uhr1), "01:01:00,000");
-    EXPECT_EQ(t.bahn().ziel_label.text(), "1 h 1:00 min");
-    t.bahn().Command1.klicken();
-    t.maschine.laufen(10);
-    EXPECT_TRUE(t.bahn().uhr2.stunden.sichtbar());
-    EXPECT_TRUE(t.bahn().uhr2.nach_stunden.sichtbar());
-}
-
-TEST_F(Rennende, PauseHaeltDieUhrAnUndVerschiebtDasEnde) {
-    t.starten("Zeit", "1", {1});
-    t.maschine.laufen(10001);
-    t.p.rennen.zustand.chaos_aktiv = true;
-    t.maschine.laufen(5000);
-    EXPECT_EQ(uhr(t.bahn().uhr1), "00:00:50,000");
-    t.p.rennen.zustand.chaos_aktiv = false;
-    t.p.rennen.zustand.pause_abzug = 5000;
-    t.maschine.laufen(1000);
-    EXPECT_EQ(uhr(t.bahn().uhr1), "00:00:49,000");
-    t.maschine.laufen(48999);
-    EXPECT_FALSE(beendet());
-    t.maschine.laufen(1);
-    EXPECT_TRUE(beendet());
-}
-
 TEST_F(Rennende, ZeitrennenErsterImZielEndetBeiNull) {
-    test::ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.starten("Zeit", "1", {1, 2});
     t.runde_nach(1000, "1");
     t.maschine.laufen(59001);
@@ -186,15 +138,13 @@ TEST_F(Rennende, NachlaufDauertHoechstensZweiMinuten) {
 }
 
 TEST_F(Rennende, RundenrennenErsterImZielEndetFuerAlle) {
-    test::ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.starten("Runden", "2", {1, 3});
     t.runde_nach(1000, "13");
     t.runde_nach(6000, "13");
     EXPECT_FALSE(beendet());
     t.runde_nach(6000, "3");
     ASSERT_TRUE(beendet());
-    EXPECT_TRUE(gespielt("sound\\ez.wav"));
+    EXPECT_TRUE(gespielt("ez.wav"));
     EXPECT_EQ(std::count(geraet.befehle.begin(), geraet.befehle.end(), schaltung{ausgang::bahnstrom, 3, false}), 1);
     EXPECT_FALSE(geraet.enthaelt({ausgang::bahnstrom, 1, false}));
     EXPECT_EQ(t.spur(1).runden, 1);
@@ -221,7 +171,7 @@ TEST_F(Rennende, RundenrennenLetzterImZielWartetAufAlle) {
     EXPECT_FALSE(beendet());
     t.runde_nach(6000, "5");
     EXPECT_TRUE(beendet());
-    EXPECT_EQ(std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\ez.wav"), 1);
+    EXPECT_EQ(gespielt("ez.wav"), 1);
 }
 
 TEST_F(Rennende, AktuelleRundeBeendenLaesstJedenAusfahren) {
@@ -250,17 +200,7 @@ TEST_F(Rennende, VonHandBeendetGibtGenauEinErgebnis) {
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{"sound\\re.wav"});
 }
 
-TEST_F(Rennende, FortgesetzteUhrZeigtDieRenndauer) {
-    t.starten("Zeit", "2", {1});
-    t.maschine.laufen(5001);
-    t.p.rennen.uhr.fortsetzen_uhreinstellen();
-    EXPECT_EQ(uhr(t.bahn().uhr1), "00:02:00,000");
-    EXPECT_EQ(uhr(t.bahn().uhr2), "00:00:05,000");
-}
-
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
-    test::ausgabe_protokoll geraet;
-    t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet);
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
     t.maschine.laufen(61000);  // in the run-on
@@ -278,35 +218,19 @@ TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
 }
 
 TEST_F(Rennende, CountdownKommtAufDieMillisekunde) {
-    struct ansage {
-        zeit_ms vor_ende;
-        const char* datei;
-    };
     t.p.einst.sound_dateien[64] = "sound\\frei.wav";
     t.starten("Zeit", "6", {1});
     t.maschine.laufen(1);
+    std::istringstream ansagen(
+        "300500 m5 120500 m2 60500 m1 42500 frei 30500 s30 20500 s20 10200 s10 9200 s9 8200 s8 7200 s7 6200 s6 5200 s5 "
+        "4200 s4 3150 s3 2150 s2 1100 s1");
     zeit_ms rest = 360000;
-    for (const ansage& a : {ansage{300500, "sound\\m5.wav"},
-                            {120500, "sound\\m2.wav"},
-                            {60500, "sound\\m1.wav"},
-                            {42500, "sound\\frei.wav"},
-                            {30500, "sound\\s30.wav"},
-                            {20500, "sound\\s20.wav"},
-                            {10200, "sound\\s10.wav"},
-                            {9200, "sound\\s9.wav"},
-                            {8200, "sound\\s8.wav"},
-                            {7200, "sound\\s7.wav"},
-                            {6200, "sound\\s6.wav"},
-                            {5200, "sound\\s5.wav"},
-                            {4200, "sound\\s4.wav"},
-                            {3150, "sound\\s3.wav"},
-                            {2150, "sound\\s2.wav"},
-                            {1100, "sound\\s1.wav"}}) {
-        t.maschine.laufen(rest - a.vor_ende - 1);
-        EXPECT_FALSE(gespielt(a.datei)) << a.datei;
+    zeit_ms vor_ende = 0;
+    for (std::string name; ansagen >> vor_ende >> name; rest = vor_ende) {
+        t.maschine.laufen(rest - vor_ende - 1);
+        EXPECT_FALSE(gespielt(name + ".wav")) << name;
         t.maschine.laufen(1);
-        EXPECT_TRUE(gespielt(a.datei)) << a.datei;
-        rest = a.vor_ende;
+        EXPECT_TRUE(gespielt(name + ".wav")) << name;
     }
     EXPECT_EQ(t.maschine.sounds.size(), 2U + 16U) << "each once, beside the two of the start";
 }
@@ -314,8 +238,8 @@ TEST_F(Rennende, CountdownKommtAufDieMillisekunde) {
 TEST_F(Rennende, CountdownSpieltNurWasDieRenndauerHergibt) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
-    EXPECT_FALSE(gespielt("sound\\m1.wav"));
-    EXPECT_TRUE(gespielt("sound\\s30.wav"));
+    EXPECT_FALSE(gespielt("m1.wav"));
+    EXPECT_TRUE(gespielt("s30.wav"));
 }
 
 TEST_F(Rennende, ZehnSekundenRennenZaehltNichtHerunter) {
@@ -329,41 +253,40 @@ TEST_F(Rennende, BesteRundeKlingtErstNachDenErstenRundenUndAusHeisstAus) {
     t.starten("Zeit", "10", {1, 2});
     t.runde_nach(1000, "1");
     for (int runde = 1; runde <= 6; ++runde) {
-        EXPECT_FALSE(gespielt("sound\\sr1.wav")) << runde;
+        EXPECT_FALSE(gespielt("sr1.wav")) << runde;
         t.runde_nach(9000 - 100 * runde, "1");
     }
-    EXPECT_TRUE(gespielt("sound\\sr1.wav"));
-    EXPECT_TRUE(gespielt("sound\\rd.wav"));
+    EXPECT_TRUE(gespielt("sr1.wav"));
+    EXPECT_TRUE(gespielt("rd.wav"));
     t.spur(2).runden = 8;
     t.p.rennen.zustand.rundenzeiten.beste(2, 99999);
     t.runde_nach(6000, "2");
-    EXPECT_TRUE(gespielt("sound\\sr2.wav"));
+    EXPECT_TRUE(gespielt("sr2.wav"));
     t.p.einst.sound_an = false;
     t.maschine.sounds.clear();
     t.runde_nach(6000, "1");
     EXPECT_TRUE(t.maschine.sounds.empty());
 }
 
-TEST_F(Rennende, NeuntausendneunhundertneunundneunzigRundenBeendenJedesRennen) {
-    t.starten("Zeit", "59", {1, 2});
-    t.runde_nach(1000, "12");
-    t.spur(1).runden = 9998;
+TEST_F(Rennende, NeuntausendneunhundertneunundneunzigRundenSindDasEnde) {
+    for (const bool erster : {true, false}) {
+        t.p.einst.zielmodus_erster = erster;
+        t.starten("Zeit", "59", {1, 2});
+        t.runde_nach(1000, "12");
+        t.spur(1).runden = 9998;
+        t.runde_nach(6000, "1");
+        EXPECT_EQ(t.spur(1).runden, 9999);
+        EXPECT_EQ(beendet(), erster);
+        if (erster) {
+            t.p.auswertung.Command5.klicken();
+        }
+    }
     t.runde_nach(6000, "1");
     EXPECT_EQ(t.spur(1).runden, 9999);
-    EXPECT_TRUE(beendet());
-}
-
-TEST_F(Rennende, VollerSpeicherHaeltAuchImNachlauf) {
-    t.p.einst.zielmodus_erster = false;
-    t.starten("Zeit", "59", {1, 2});
-    t.runde_nach(1000, "12");
-    t.spur(1).runden = 9998;
-    t.runde_nach(6000, "1");
-    EXPECT_FALSE(beendet());
-    t.runde_nach(6000, "1");
-    EXPECT_EQ(t.spur(1).runden, 9999);
-    EXPECT_TRUE(t.spur(1).ziel_erreicht);
+    EXPECT_TRUE(t.spur(1).ziel_erreicht) << "in the run-on, with the store full";
+    t.spur(1).runden = 10000;
     t.p.rennen.befehle.taste('x');
+    EXPECT_EQ(t.spur(1).runden, 9999);
     EXPECT_EQ(t.bahn().zaehler[1].text(), "9999");
 }
 

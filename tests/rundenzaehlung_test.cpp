@@ -1,22 +1,15 @@
 #include "race/rundenzaehlung.h"
 
-#include <gtest/gtest.h>
-
-#include <utility>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-class Rundenzaehlung : public testing::Test {
+class Rundenzaehlung : public test::ProgrammProbe {
 protected:
     void SetUp() override { t.starten("Zeit", "10", {1, 2}); }
 
-    zeit_ms rundenzeit(int spur, int runde) const { return t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
     const std::vector<std::string>& liste(int spur) { return t.bahn().t_liste.at(feld_index(spur)).zeilen(); }
-
-    test::testprogramm t;
 };
 
 TEST_F(Rundenzaehlung, ErsteUeberfahrtStartetNurDieZaehlung) {
@@ -103,39 +96,6 @@ TEST_F(Rundenzaehlung, PauseHebtDasMinimumFuerGenauEineRunde) {
     t.spur(1).pause_abzug = 7000;
     t.runde_nach(6000, "1");
     EXPECT_EQ(rundenzeit(1, 3), 0) << "never below zero";
-}
-
-TEST_F(Rundenzaehlung, InDerPauseZaehltNichts) {
-    t.runde_nach(1000, "1");
-    t.p.rennen.zustand.chaos_aktiv = true;
-    t.runde_nach(8000, "1");
-    EXPECT_EQ(t.spur(1).runden, 0);
-}
-
-TEST_F(Rundenzaehlung, FruehstartSperreZaehltErstDanachUndAbDemStart) {
-    t.spur(1).fruehstart_sperre = true;
-    t.runde_nach(6000, "1");
-    EXPECT_EQ(t.spur(1).runden, -1);
-    t.spur(1).fruehstart_sperre = false;
-    t.runde_nach(6000, "1");
-    EXPECT_EQ(t.spur(1).runden, 0);
-    EXPECT_EQ(rundenzeit(1, 0), 11998);
-}
-
-TEST_F(Rundenzaehlung, ErsteRundeIstDieErsteBesteUndVerborgeneListenBleibenLeer) {
-    t.bahn().t_liste[0].sichtbar(false);
-    t.p.rennen.zustand.rundenzeiten.beste(1, 100);  // as a start without a reset would leave it
-    t.runde_nach(1000, "1");
-    t.runde_nach(8000, "1");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 8000);
-    EXPECT_TRUE(liste(1).empty());
-}
-
-TEST_F(Rundenzaehlung, ZeitstrafeVerlaengertJedeRundeUmTausendstel) {
-    t.runde_nach(1000, "1");
-    t.spur(1).strafzeit = 5;
-    t.runde_nach(8000, "1");
-    EXPECT_EQ(rundenzeit(1, 1), 8005);
 }
 
 TEST_F(Rundenzaehlung, GesperrteUndAusgeschiedeneSpurenZaehlenNicht) {
@@ -243,17 +203,17 @@ struct geraet_mit_spur_drei : messquelle {
 };
 
 TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
-    geraet_mit_spur_drei geraet(t.p.ereignisse);
-    t.p.quellen.anschliessen(geraet);
+    geraet_mit_spur_drei sensor(t.p.ereignisse);
+    t.p.quellen.anschliessen(sensor);
     t.p.einst.rc_ziel_sensor34 = true;
-    geraet.flanke = true;
+    sensor.flanke = true;
     t.maschine.laufen(3);
     EXPECT_EQ(t.spur(1).runden, 0);
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.stempel(1, 0), 4711);
     EXPECT_EQ(t.spur(3).runden, -1);
-    EXPECT_EQ(geraet.proben, 3);
-    geraet.art = 13;
-    geraet.flanke = true;
+    EXPECT_EQ(sensor.proben, 3);
+    sensor.art = 13;
+    sensor.flanke = true;
     t.maschine.laufen(3);
     EXPECT_EQ(t.spur(2).runden, 0);
 }

@@ -1,6 +1,4 @@
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 #include "tools/simulator/at2560.h"
 #include "tools/simulator/at2560_pins.h"
 #include "tools/simulator/control_unit.h"

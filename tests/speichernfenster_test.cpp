@@ -1,13 +1,11 @@
 #include "core/speichernfenster.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
-class Speichernfenster : public testing::Test {
+class Speichernfenster : public test::ProgrammProbe {
 protected:
     void speichern_als(const char* name) {
         t.p.form1.Command5.klicken();
@@ -17,11 +15,7 @@ protected:
         s.name.eingeben(name);
         s.Command1.klicken();
     }
-    std::string letzte_meldung() const {
-        return t.maschine.meldungen_gezeigt.empty() ? "" : t.maschine.meldungen_gezeigt.back().text;
-    }
 
-    test::testprogramm t;
     speichernfenster& s = t.p.speichernfenster;
 };
 

@@ -1,9 +1,7 @@
 #include "core/sprache.h"
 
-#include <gtest/gtest.h>
-
 #include "core/felder.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {

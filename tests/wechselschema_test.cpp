@@ -1,7 +1,5 @@
 #include "core/wechselschema.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/optionen_probe.h"
 
 namespace tarvel {

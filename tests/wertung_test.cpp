@@ -1,16 +1,6 @@
 #include "results/wertung.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <map>
-#include <sstream>
-#include <utility>
-
-#include "core/zeit.h"
-#include "results/ergebnisdatei.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {
@@ -80,44 +70,19 @@ const std::vector<rennen_von_hand> rennen_liste{
     {"out: behind by the best lap", 3, {{1000, "12"}, {2000, "1"}, {2000, "12"}}, {{2, 1, 4000}, {1, 0, 0}}, 0, 1},
 };
 
-/// Laps and total time of each lane, as the automatic file of the race has them.
-std::map<std::string, std::pair<std::string, std::string>> datei_lesen(test::testprogramm& t) {
-    const std::string name = "Ergebnisse\\auto-Einzelrennen\\auto-21112026-14032.csv";
-    std::map<std::string, std::pair<std::string, std::string>> spuren;
-    const auto zeilen = ergebnis_zeilen_lesen(t.p.ablage, name);
-    for (std::size_t i = 5; i < zeilen.size() && !zeilen[i].empty(); ++i) {
-        std::istringstream felder(zeilen[i]);
-        std::array<std::string, 5> feld;
-        for (std::string& text : feld) {
-            std::getline(felder, text, ';');
-        }
-        spuren[feld[0]] = {feld[1], feld[4]};
-    }
-    t.p.ablage.loeschen(name);
-    return spuren;
-}
-
 TEST(Wertung, RennenDieVonHandGerechnetSind) {
     test::testprogramm t;
     t.p.form1.wertmin.eingeben("1");
     t.p.einst.zielmodus_erster = true;
     t.p.einst.sensor_timeout = 0;
-    t.p.einst.aut_speichern = true;
     for (const rennen_von_hand& r : rennen_liste) {
         SCOPED_TRACE(r.was);
         t.p.einst.auswertung_nach = r.auswertung_nach;
-        for (const int spur : alle_spuren) {
-            const bool soll =
-                std::any_of(r.stand.begin(), r.stand.end(), [&](const auto& p) { return p.spur == spur; });
-            haken& kasten = t.p.form1.spur.at(feld_index(spur));
-            if (kasten.gesetzt() != soll) {
-                kasten.umschalten();
-            }
+        std::vector<int> lanes;
+        for (const platz_von_hand& p : r.stand) {
+            lanes.push_back(p.spur);
         }
-        t.p.einst.start_ampel_modus = 0;
-        t.p.einst.beste_modus = 0;
-        t.p.form1.Command1.klicken();
-        t.bahn().Command1.klicken();
+        t.starten("Zeit", "5", lanes);
         for (const ueberfahrt& u : r.fahrt) {
             t.runde_nach(u.nach, u.tasten);
         }
@@ -128,30 +93,24 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
             t.spur(r.ausgeschieden).disqualifiziert = true;
         }
         t.bahn().Command4.klicken();
-        t.p.auswertung.Command5.klicken();
-        const auto datei = datei_lesen(t);
-        EXPECT_EQ(datei.size(), r.stand.size());
         int platz = 0;
         for (const platz_von_hand& p : r.stand) {
             SCOPED_TRACE(p.spur);
             EXPECT_EQ(t.p.wertung.platzierung(p.spur), ++platz);
             EXPECT_EQ(t.p.wertung.runden(p.spur), p.runden);
             EXPECT_EQ(t.p.wertung.gesamtzeit(p.spur), p.zeit);
-            const auto& [runden, zeit] = datei.at("Fahrer " + std::to_string(p.spur));
-            EXPECT_EQ(runden, " " + std::to_string(p.runden));
-            EXPECT_EQ(zeit, zeit_formatieren(p.zeit, true, trennzeichen_standard));
         }
+        t.p.auswertung.Command5.klicken();
     }
 }
 
-class WertungKorrektur : public testing::Test {
+class WertungKorrektur : public test::ProgrammProbe {
 protected:
     WertungKorrektur() {
         t.p.form1.wertmin.eingeben("1");
         t.p.einst.zielmodus_erster = true;
         t.p.einst.sensor_timeout = 0;
     }
-    test::testprogramm t;
     auswertung& a = t.p.auswertung;
     wertung& w = t.p.wertung;
 };
@@ -186,6 +145,7 @@ TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
     a.cmd_rd_inc[0].klicken();
     EXPECT_EQ(w.runden(1), 0);
     EXPECT_EQ(w.beste_runde(1), 0);
+    EXPECT_EQ(a.kmh_label[0].text(), "0,00 / 0,00 km/h");
 }
 
 TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {

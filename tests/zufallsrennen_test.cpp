@@ -1,15 +1,10 @@
 // Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
 // hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdlib>
 #include <random>
-#include <string>
 
-#include "tests/plattform/ausgabe_protokoll.h"
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 
 namespace tarvel {
 namespace {

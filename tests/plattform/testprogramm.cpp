@@ -13,7 +13,7 @@ testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter)
     maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }
 
-void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes) {
     p.einst.start_ampel_modus = 0;
     if (!mit_bestzeiten) {
         p.einst.beste_modus = 0;
@@ -29,7 +29,7 @@ void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, 
     p.form1.Command1.klicken();
 }
 
-void testprogramm::starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
+void testprogramm::starten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes) {
     einrichten(rennart, dauer, lanes);
     bahn().Command1.klicken();
 }

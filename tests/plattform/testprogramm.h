@@ -1,8 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <initializer_list>
 #include <string_view>
+#include <vector>
 
 #include "programm/programm.h"
 #include "tests/plattform/test_plattform.h"
@@ -15,9 +15,9 @@ struct testprogramm {
 
     /// Sets up a race without a start light on the main window and opens the race window. `dauer` as typed, race kind
     /// by the entry's text.
-    void einrichten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
+    void einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes);
     /// As above, and presses start.
-    void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes);
+    void starten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes);
     /// A key press in the race window, and the tick that takes it.
     void taste(std::string_view zeichen);
     /// Time passes, then the cars of these lanes cross the line one after the other in one tick.

@@ -52,19 +52,15 @@ bytes welle(unsigned art, unsigned kanaele, unsigned rate, unsigned bits, const 
 }
 
 TEST(Klangdatei, AlleFormenGebenDenselbenKlang) {
-    struct fall {
-        const char* name;
-        bytes datei;
-    };
     const std::vector<float> erwartet{0.5F, -0.5F, 0.0F};
-    for (const fall& f : std::vector<fall>{
+    for (const auto& [name, datei] : std::vector<std::pair<const char*, bytes>>{
              {"8", welle(1, 1, 16000, 8, {192, 64, 128})},
              {"16", welle(1, 1, 16000, 16, {0, 0x40, 0, 0xC0, 0, 0})},
              {"16 stereo", welle(1, 2, 16000, 16, {0, 0x40, 0, 0x40, 0, 0x80, 0, 0, 0, 0x20, 0, 0xE0})},
              {"24", welle(1, 1, 16000, 24, {0, 0, 0x40, 0, 0, 0xC0, 0, 0, 0})},
              {"float", welle(3, 1, 16000, 32, {0, 0, 0, 0x3F, 0, 0, 0, 0xBF, 0, 0, 0, 0})},
          }) {
-        EXPECT_EQ(qt::klangdatei_lesen(f.datei, 16000), erwartet) << f.name;
+        EXPECT_EQ(qt::klangdatei_lesen(datei, 16000), erwartet) << name;
     }
     const auto doppelt = qt::klangdatei_lesen(welle(1, 1, 8000, 8, {192, 64, 128}), 16000);
     EXPECT_EQ(doppelt, (std::vector<float>{0.5F, 0.0F, -0.5F, -0.25F, 0.0F, 0.0F}));

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 
-#include "tests/plattform/testprogramm.h"
+#include "tests/programm_probe.h"
 #include "ui/oberflaeche.h"
 
 namespace tarvel::test {

@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <QPushButton>
 #include <map>
-#include <string>
 
 #include "tests/ui/oberflaeche_probe.h"
 
