@@ -22,6 +22,7 @@ constexpr double schrift_liste = 16;
 constexpr int eingabe_breite_px = 80;
 constexpr int knopf_breite_px = 34;
 constexpr double bild_kante = 60;
+constexpr int abstand = 12;
 
 constexpr auto links_mitte = Qt::AlignLeft | Qt::AlignVCenter;
 
@@ -31,7 +32,7 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     : QWidget(eltern), logik_(logik), index_(feld_index(spur)) {
     auto* aufbau = new QHBoxLayout(this);
     aufbau->setContentsMargins(22, 4, 8, 4);
-    aufbau->setSpacing(12);
+    aufbau->setSpacing(abstand);
 
     TextAnzeige* platz = binder.anzeige(logik.platz.at(index_), nummeriert("platz"), schrift_platz);
     platz->setMusterText("6.");
@@ -171,6 +172,7 @@ void Ergebniszeile::skalieren(double skala) {
     schrift.setPixelSize(std::max(12, static_cast<int>(std::lround(schrift_liste * skala))));
     liste_->setFont(schrift);
     const int kante = static_cast<int>(std::lround(bild_kante * std::max(skala, 1.0)));
+    layout()->setSpacing(static_cast<int>(std::lround(abstand * std::max(skala, 1.0))));
     for (QWidget* bild : bilder_) {
         bild->setFixedSize(kante, kante);
     }
