@@ -118,32 +118,6 @@ void chaos::chaos_umschalten() {
     }
 }
 
-bool chaos::am_geraet_fortsetzen() {
-    geraeteampel* licht = um_.quellen.ampel();
-    zeit_ms& verlangt = um_.zustand.pause.neustart_verlangt;
-    const zeit_ms jetzt = um_.zeit.messzeit_lesen();
-    if (licht == nullptr || !licht->rot()) {
-        return false;
-    }
-    if (verlangt != 0) {
-        return jetzt - verlangt < geraeteampel::laengste_ms;  // it runs; only a deaf device is passed over
-    }
-    verlangt = jetzt;
-    um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
-    licht->neustart();
-    return true;
-}
-
-bool chaos::gruen_am_geraet() {
-    const geraeteampel* licht = um_.quellen.ampel();
-    bool& rot = um_.zustand.pause.geraet_rot;
-    if (licht != nullptr && licht->rot()) {
-        rot = true;
-        return false;
-    }
-    return licht != nullptr && rot;
-}
-
 void chaos::pause_beginnen() {
     renn_zustand& zustand = um_.zustand;
     zustand.nachlauf_minuten = 0;
@@ -360,23 +334,6 @@ void chaos::straftimer_ch_tick(int spur) {
         zustand.fruehstart_sperre = false;
         t_.strafe.spur_strom_an(spur);
     }
-}
-
-void chaos::chaos_schalter_at2560_tick() {
-    constexpr int losgelassen_unter = 15;  // of 20 that each message of the unit sets: a second of silence
-    int& zaehler = um_.ereignisse.chaos_at_zaehler;
-    zaehler = std::max(zaehler - 1, 0);
-    if (zaehler < losgelassen_unter) {
-        um_.zeitgeber.chaos_schalter_at2560->aus();
-        zaehler = 0;
-        um_.ereignisse[art::chaostaster].aktiv = false;
-        chaos_umschalten();
-    }
-}
-
-void chaos::geraeteschalter_vergessen() {
-    um_.zeitgeber.chaos_schalter_at2560->aus();
-    um_.ereignisse.chaos_at_zaehler = 0;
 }
 
 void chaos::chaos_nachholen() {

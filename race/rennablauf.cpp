@@ -87,8 +87,8 @@ void rennablauf::ampel_takt_bestimmen() {
 void rennablauf::rennstart_vorbereiten() {
     t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
-    if (um_.einst.sensorkalibrierung) {
-        um_.ausgaben.relais_off(0);  // the calibration has put the outputs to rest
+    if (um_.einst.sensorkalibrierung || um_.param.einfahrzeit) {
+        um_.ausgaben.relais_off(0);  // the calibration or the warm-up has put the outputs to rest
     }
     um_.zustand.rennen_beendet = false;
     um_.sounds.spielen(sound::rennstart_vorbereitet);

@@ -52,6 +52,26 @@ TEST_F(Rennansicht, ZeigtWasEinstellungenUndDateienHergeben) {
     EXPECT_EQ(t.bahn().Image1[2].datei(), "tvkpic2.jpg") << "the club's picture for a driver without one";
 }
 
+TEST_F(Rennansicht, EinfahrzeitGibtDieBahnFreiUndDanebenStehtWerAlsNaechstesFaehrt) {
+    oeffnen({1});
+    EXPECT_FALSE(t.bahn().Command6.sichtbar() || inhalt().einfahrzeit || inhalt().naechstes_rennen);
+    t.p.param.einfahrzeit = true;
+    t.p.param.naechstes_rennen = "Gerd, Hanna";
+    bool eingefahren = false;
+    t.p.fenster.anmelden("einfahren", {[&] { eingefahren = true; }, {}});
+    oeffnen({1, 2});
+    EXPECT_TRUE(inhalt().einfahrzeit && inhalt().naechstes_rennen);
+    EXPECT_EQ(t.bahn().Label_naechstesrennen.text() + t.bahn().Label5.text(), "Nächstes Rennen:Gerd, Hanna");
+    t.taste("1");
+    t.bahn().Command6.klicken();
+    EXPECT_TRUE(eingefahren);
+    EXPECT_FALSE(t.p.ereignisse[16].aktiv);
+    EXPECT_FALSE(strom(1));
+    t.bahn().Command1.klicken();
+    EXPECT_FALSE(t.bahn().Command6.bedienbar());
+    EXPECT_TRUE(strom(1));
+}
+
 TEST_F(Rennansicht, ZaehlerInDerZeileRuecktBeiTausendRunden) {
     t.p.einst.darstellung_zeile = true;
     t.starten("Zeit", "5", {1});
