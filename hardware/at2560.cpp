@@ -76,14 +76,14 @@ void at2560::profil_wechseln() {
 bool at2560::oeffnen() {
     schliessen();
     profil_laden();
-    const bool geoeffnet = port_oeffnen();
+    const bool geoeffnet = µC_MSCOMM_settings_setzen();
     if (!geoeffnet && nicht_zu_oeffnen) {
         nicht_zu_oeffnen();
     }
     return geoeffnet;
 }
 
-bool at2560::port_oeffnen() {
+bool at2560::µC_MSCOMM_settings_setzen() {
     if (!MSComm2_->oeffnen(um_.einst.uart_port, at_port_werte(um_.einst))) {
         return false;
     }
@@ -131,8 +131,9 @@ void at2560::at_senden(std::string_view text) {
 
 void at2560::rennfenster_offen() {
     if (tmr_µportopen_->laeuft()) {
-        warten(true);                                                                  // also in this window
-    } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() && !port_oeffnen()) {  // lost, and not there again
+        warten(true);  // also in this window
+    } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() &&
+               !µC_MSCOMM_settings_setzen()) {  // lost, and not there again
         um_.meldungen.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
     }
 }

@@ -71,7 +71,7 @@ public:
     void schalten(const schaltung& befehl) override;
 
 private:
-    bool port_oeffnen();
+    bool µC_MSCOMM_settings_setzen();
     void empfangen(std::string_view bytes);
     void verloren_melden();
     bool µC_neuer_befehl() { return empfang_.µC_neuer_befehl(profil_); }
