@@ -59,9 +59,7 @@ void messgeraete::at_verbinden() {
     at.chaos_aktiv = [&r] { return r.zustand.chaos_aktiv; };
     at.nach_ereignis = [&r] {
         r.tanken.sensoren_nachhalten();
-        const bool ampel_laeuft =
-            !r.zustand.rennen_beendet && !r.zustand.chaos_aktiv && !r.umgebung.zeitgeber.renntimer->laeuft();
-        if (!ampel_laeuft) {  // else a tank sensor may be what sees the false start
+        if (!r.umgebung.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
             r.tanken.tank_kontakte_auswerten();
         }
     };

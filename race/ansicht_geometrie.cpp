@@ -305,6 +305,23 @@ void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s,
     schrift(g[f::bestzeit_gesamt], 0.68);
 }
 
+/// Across the lower end of the blocks, beside the boxes of the blame and above the line that goes with them.
+void hinweis_legen(const ansicht_inhalt& inhalt, int breite, double s, ansicht_geometrie& g) {
+    using f = fenster_teil;
+    constexpr double hoehe = 1250;
+    const double luecke = 200 * s;
+    double links = 0.125 * breite;
+    if (inhalt.art != ansicht_art::spalten) {
+        const auto block = std::find_if(g.block.begin(), g.block.end(), [](const rechteck& r) { return !r.leer(); });
+        links = (block == g.block.end() ? 0 : block->x) + g.spur[t::ch_strafzeit_hacken].ort.rechts() + luecke;
+    }
+    const int unten = g.fenster[f::ch_strafframe].ort.y - static_cast<int>(luecke);
+    const int b = static_cast<int>(std::min(0.75 * breite, breite - links - luecke));
+    const int h = static_cast<int>(hoehe * s);
+    g.fenster[f::cu_startframe].ort = {static_cast<int>(links), unten - h, b, h};
+    schrift(g.fenster[f::cu_startframe], 0.6);
+}
+
 /// Equal blocks for the chosen lanes, without a hole for the others.
 rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck& flaeche, double luecke,
                        ansicht_geometrie& g) {
@@ -363,6 +380,7 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
         einfahrer_legen(inhalt, block, skala, g);
     }
     spur_schriften(g.spur, skala);
+    hinweis_legen(inhalt, breite, skal_faktor, g);
     return g;
 }
 

@@ -88,6 +88,7 @@ enum class fenster_teil : std::size_t {
     werbe_label,
     Command2,
     wrpic2,
+    cu_startframe,  ///< over the blocks, clear of what a pause wants answered
     anzahl
 };
 

@@ -145,7 +145,7 @@ void fortsetzung::weiterfahren() {
     um_.quellen.melden(&messquelle::rennen_fortgesetzt);
     t_.ablauf.befehle_freigeben();
     t_.ansicht.freigeben();
-    um_.bahn.Nachtabschaltung.sichtbar(dunkel_);
+    um_.bahn.Nachtabschaltung.sichtbar(dunkel_ || um_.bahn.Nachtabschaltung.sichtbar());
 }
 
 }  // namespace tarvel

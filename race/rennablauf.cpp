@@ -133,6 +133,7 @@ void rennablauf::start_abgebrochen() {
     um_.quellen.melden(&messquelle::start_abgebrochen);
     t_.ansicht.anzeigen_leeren();
     vor_dem_start();
+    t_.blinken.beginnen();
     um_.bahn.Frame1.fokus_setzen();  // a second press of the key that stopped the start must not begin another
 }
 

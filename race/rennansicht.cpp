@@ -192,6 +192,11 @@ void rennansicht::bilder_setzen() {
             bahn.Image2[spur].neu_laden();
         }
     }
+    for (std::size_t i = 0; i < bahn.ampel_rt.size(); ++i) {
+        bahn.ampel_rt.at(i).datei("ampel/rt_an.gif");
+        bahn.ampel_ge.at(i).datei("ampel/ge_an.gif");
+        bahn.ampel_gr.at(i).datei("ampel/gr_an.gif");
+    }
     const auto vom_verein = [this](bild& ort, const std::string& datei) {
         ort.datei(datei);
         ort.neu_laden();
@@ -279,11 +284,16 @@ void rennansicht::stand_zeigen() {
     const auto kurz = [this](zeit_ms zeit) { return zeit_formatieren(zeit, false, um_.einst.trennzeichen); };
     for (const int spur : alle_spuren) {
         const int runden = um_.zustand.spur[spur].runden;
+        const bool disqualifiziert = um_.zustand.spur[spur].disqualifiziert;
+        if (disqualifiziert) {
+            bahn.zaehler[spur].text(disqualifiziert_text);
+        }
         if (runden < 0) {
             continue;
         }
-        bahn.zaehler[spur].text(um_.zustand.spur[spur].disqualifiziert ? std::string(disqualifiziert_text)
-                                                                       : std::to_string(runden));
+        if (!disqualifiziert) {
+            bahn.zaehler[spur].text(std::to_string(runden));
+        }
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
         if (runden >= 100) {
             zaehler_verkleinern(bahn, spur, 100);

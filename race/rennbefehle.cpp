@@ -19,7 +19,9 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
 void rennbefehle::taste(int code) {
     tastatur_.taste_auswerten(code);
     t_.zaehlung.zaehler_nachfuehren();
-    t_.tank.tank_kontakte_auswerten();
+    if (!um_.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
+        t_.tank.tank_kontakte_auswerten();
+    }
 }
 
 void rennbefehle::rennen_abbrechen() {

@@ -108,7 +108,7 @@ void rundenzaehlung::rundenzeiten_pruefen(zeit_ms zeit, int zeile, int spur) {
     liste& runden_liste = um_.bahn.t_liste.at(feld_index(spur));
     if (runden_liste.sichtbar()) {
         runden_liste.hinzufuegen(" " + std::to_string(runden) + ". " + zeit_text);
-        runden_liste.markieren(runden);
+        runden_liste.markieren(static_cast<int>(runden_liste.zeilen().size()) - 1);
     }
 }
 

@@ -112,7 +112,8 @@ void tanken::fuellstaende_zeigen() {
     for (const int spur : alle_spuren) {
         const double stand = um_.zustand.spur[spur].tank_inhalt;
         fuellstand_zeigen(spur);
-        tankfarbe(spur, stand <= um_.einst.tank_warnung      ? farben::rot
+        tankfarbe(spur, stand <= 0                           ? um_.einst.farben_schrift[2]
+                        : stand <= um_.einst.tank_warnung    ? farben::rot
                         : stand < 2 * um_.einst.tank_warnung ? hellrot
                                                              : gruen);
     }

@@ -83,6 +83,7 @@ void startampel::laden() {
         rot_.at(i)->intervall(drag ? drag_ms : schritt_ms);
     }
     fruehstart_.zuruecksetzen();
+    um_.ausgaben.ampelnRoff(0);  // a start that was stopped has left some of them lit
     um_.ausgaben.ampelnGRoff();  // the rest state's green must not burn beside the reds
     geraet_rot_ = false;
     geraet_gestartet_ = false;
@@ -209,6 +210,9 @@ void startampel::cu_ampel_auswerten() {
         if (!std::exchange(geraet_rot_, true)) {
             const bool reihe2_rot = ampelmodus_von(um_.einst.start_ampel_modus).reihe2 == reihe2::rot;
             alle_lampen(rt_an, reihe2_rot ? rt_an : gr_aus);
+            for (std::size_t schritt = 1; schritt <= rot_max; ++schritt) {
+                dragbaum_schalten(schritt);
+            }
             um_.ausgaben.ampelnRon(0);
             um_.sounds.spielen(sound::ampelschritt);
         }

@@ -55,6 +55,20 @@ TEST_F(Fortsetzung, UhrZielUndKopfZeigenDieNeueDauer) {
     EXPECT_NE(a.kopf_label.text().find("2:00 min"), std::string::npos) << a.kopf_label.text();
 }
 
+TEST_F(Fortsetzung, WerAmStartDisqualifiziertWurdeBleibtEs) {
+    t.starten("Zeit", "1", {1, 2});
+    t.spur(2).disqualifiziert = true;  // before it has crossed the line
+    t.bahn().zaehler[2].text("Dis.");
+    t.runde_nach(1000, "1");
+    t.bahn().Command4.klicken();
+    a.neues_ziel.eingeben("5");
+    a.Command3.klicken();
+    EXPECT_EQ(t.bahn().zaehler[1].text() + t.bahn().zaehler[2].text(), "Dis.0") << "changed lanes";
+    t.p.rennen.ansicht.bildschirm_dunkel();  // by key, while the light waits
+    gruen();
+    EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
+}
+
 TEST_F(Fortsetzung, FreierPlatzWandertMit) {
     t.p.einst.freie_slots = false;
     t.einrichten("Runden", "2", {1, 2, 3});

@@ -108,7 +108,10 @@ TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
         EXPECT_TRUE(strom(1) && strom(3));
         EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
         EXPECT_TRUE(t.bahn().Command1.bedienbar() && t.bahn().Command2.bedienbar());
+        t.maschine.laufen(500);
+        EXPECT_EQ(rote_am_geraet(), 5) << "blinks: ready again";
         starten();
+        EXPECT_EQ(rote_am_geraet(), 0) << "the light begins from its first lamp";
         t.maschine.laufen(13000);
         EXPECT_TRUE(rennen_laeuft());
         t.bahn().Command2.klicken();

@@ -47,7 +47,7 @@ QWidget* AmpelFenster::lampenkasten(std::span<bild> lampen, int je_reihe, const 
     int nummer = 0;
     for (bild& element : lampen) {
         auto* lampe = new Ampelfeld(
-            element, name + "_" + QString::number(nummer + 1), binder(),
+            element, Ampelfeld::art::wechselt, name + "_" + QString::number(nummer + 1), binder(),
             [this](const std::string& datei) { return ablage_.pfad(datei); }, kasten);
         raster->addWidget(lampe, nummer / je_reihe, nummer % je_reihe);
         lampen_.push_back(lampe);

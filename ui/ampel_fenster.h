@@ -31,6 +31,7 @@ protected:
     QVBoxLayout* aufbau() { return aufbau_; }
     /// Rows of lamps, the first on top.
     QWidget* lampenkasten(std::span<bild> lampen, int je_reihe, const QString& name);
+    Ampelfeld& lampe(std::size_t nummer) { return *lampen_.at(nummer); }
     /// A widget whose font goes with the size of the lamps.
     void text_aufnehmen(QWidget* widget) { texte_.push_back(widget); }
     void anordnen();

@@ -107,37 +107,49 @@ void Bahn1Fenster::strafformular() {
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
     zeile->setSpacing(4);
-    QLabel* vorn = binder().label(bahn.ch_Label1, "ch_Label1");
-    auto* haken = new QLabel(QString::fromUtf8("\u2611"), kasten);
-    QLabel* mitte = binder().label(bahn.ch_Label2, "ch_Label2");
+    TextAnzeige* vorn = binder().anzeige(bahn.ch_Label1, "ch_Label1");
+    auto* haken = new TextAnzeige(kasten);
+    haken->setText(QString::fromUtf8("\u2611"));
+    TextAnzeige* mitte = binder().anzeige(bahn.ch_Label2, "ch_Label2");
     sekunden_ = binder().zeile(bahn.ch_Text1, "ch_Text1");
     sekunden_->setAlignment(Qt::AlignRight);
     sekunden_->setValidator(new QIntValidator(0, sekunden_max, sekunden_));
     QObject::connect(sekunden_, &QLineEdit::returnPressed, this, [this] { teil(f::Command3)->setFocus(); });
-    QLabel* hinten = binder().label(bahn.ch_Label3, "ch_Label3");
+    TextAnzeige* hinten = binder().anzeige(bahn.ch_Label3, "ch_Label3");
     zeile->addStretch();
     for (QWidget* stueck : {static_cast<QWidget*>(vorn), static_cast<QWidget*>(haken), static_cast<QWidget*>(mitte),
                             static_cast<QWidget*>(sekunden_), static_cast<QWidget*>(hinten)}) {
         zeile->addWidget(stueck);
-        formular_.push_back(stueck);
     }
+    formular_ = {vorn, haken, mitte, hinten};
     zeile->addStretch();
     binder().verbinden(bahn.ch_strafframe, kasten, "ch_strafframe", {});
 }
 
 void Bahn1Fenster::geraetehinweis() {
     bahn1& bahn = logik_.bahn1;
-    hinweis_ = new QWidget(this);
-    hinweis_->setAutoFillBackground(true);
+    auto* hinweis = new QWidget(this);
+    teil(f::cu_startframe) = hinweis;
+    hinweis->setAutoFillBackground(true);
     QPalette gelb;
     gelb.setColor(QPalette::Window, QColor(255, 214, 0));
-    hinweis_->setPalette(gelb);
-    TextAnzeige* text = binder().anzeige(bahn.cu_startlabel, "cu_startlabel");
-    text->setFett(true);
-    text->setFarbe(Qt::black);
-    auto* zeile = new QHBoxLayout(hinweis_);
-    zeile->addWidget(text);
-    binder().verbinden(bahn.cu_startframe, hinweis_, "cu_startframe", [this] { hinweis_->raise(); });
+    hinweis->setPalette(gelb);
+    hinweistext_ = binder().anzeige(bahn.cu_startlabel, "cu_startlabel");
+    hinweistext_->setFett(true);
+    hinweistext_->setFarbe(Qt::black);
+    hinweistext_->setZweizeilig();
+    auto* zeile = new QHBoxLayout(hinweis);
+    zeile->addWidget(hinweistext_);
+    binder().verbinden(bahn.cu_startframe, hinweis, "cu_startframe", [this] { hinweis_anordnen(); });
+}
+
+void Bahn1Fenster::hinweis_anordnen() {
+    const bool pause = logik_.zustand.chaos_aktiv;
+    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    const rechteck& ort = geometrie.fenster[pause ? f::cu_startframe : f::uhrframe1].ort;
+    teil(f::cu_startframe)->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
+    hinweistext_->setSchriftPx(geometrie.fenster[f::cu_startframe].schrift_px);
+    teil(f::cu_startframe)->raise();
 }
 
 void Bahn1Fenster::nachtabschaltung() {
@@ -197,8 +209,7 @@ void Bahn1Fenster::anordnen() {
         }
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
-    const rechteck& befehle = geometrie.fenster[f::Frame1].ort;
-    hinweis_->setGeometry(width() / 8, befehle.y - height() / 10, width() * 3 / 4, height() / 12);
+    hinweis_anordnen();
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
     update();  // between the blocks the last layout may still be seen
@@ -210,11 +221,13 @@ void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
     int px = schrift_px + 1;
     do {
         --px;
-        for (QWidget* stueck : formular_) {
-            QFont schrift = stueck->font();
-            schrift.setPixelSize(px);
-            stueck->setFont(schrift);
+        for (TextAnzeige* stueck : formular_) {
+            stueck->setSchriftPx(px);
+            stueck->setFarbe(formular_.front()->farbe());  // the tick between the words has none of its own
         }
+        QFont schrift = sekunden_->font();
+        schrift.setPixelSize(px);
+        sekunden_->setFont(schrift);
         sekunden_->setFixedSize(px * 4, ort.hoehe);
     } while (zeile->sizeHint().width() > ort.breite && px > kleinste_px);
 }

@@ -27,6 +27,8 @@ private:
     void befehlszeile();
     void strafformular();
     void geraetehinweis();
+    /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
+    void hinweis_anordnen();
     void nachtabschaltung();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
@@ -38,10 +40,10 @@ private:
     rennen& logik_;
     std::vector<Spurblock*> bloecke_;
     std::array<QWidget*, static_cast<std::size_t>(fenster_teil::anzahl)> teile_{};
-    std::vector<QWidget*> formular_;  ///< parts of the penalty form
+    std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
     QWidget* nacht_ = nullptr;
-    QWidget* hinweis_ = nullptr;  ///< what is to do at the device
+    TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
 
 }  // namespace tarvel::ui

@@ -379,13 +379,4 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     return widget;
 }
 
-Lampe* Binder::lampe(bild& element, const QString& name, const QColor& farbe) {
-    auto* widget = new Lampe(farbe, eltern_);
-    verbinden(element, widget, name, [&element, widget] {
-        widget->setLeuchtet(element.sichtbar());
-        widget->setVisible(true);  // a lamp that is out is still to be seen
-    });
-    return widget;
-}
-
 }  // namespace tarvel::ui

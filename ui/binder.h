@@ -17,7 +17,6 @@
 #include "ui/bildanzeige.h"
 #include "ui/bildtakt.h"
 #include "ui/kuerzel.h"
-#include "ui/lampe.h"
 #include "ui/textanzeige.h"
 
 namespace tarvel::ui {
@@ -59,7 +58,6 @@ public:
     QComboBox* auswahlfeld(auswahl& element, const QString& name);
     QListView* listenfeld(liste& element, const QString& name,
                           Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter);
-    Lampe* lampe(bild& element, const QString& name, const QColor& farbe);
     /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.
     void verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich);
 

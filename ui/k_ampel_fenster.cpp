@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "ui/stil.h"
 #include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
@@ -15,6 +16,13 @@ KAmpelFenster::KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstel
     binder().fenstertitel(logik.titel);
     aufbau()->addStretch();
     aufbau()->addWidget(lampenkasten(logik.k_ampelbild, k_ampel::schritte, "k_ampelbild"), 0, Qt::AlignCenter);
+    for (std::size_t i = 0; i < logik.Shape1.size(); ++i) {
+        auto* ring = new QWidget(this);  // drawn by its lamp
+        ring->resize(0, 0);
+        binder().verbinden(logik.Shape1.at(i), ring, "Shape1_" + QString::number(i + 1), [this, &logik, i] {
+            lampe(i).setRing(stil::farbe_von(logik.Shape1.at(i).hintergrund().value_or(0)));
+        });
+    }
     text_aufnehmen(knopf_);
     aufbau()->addWidget(knopf_, 0, Qt::AlignCenter);
     aufbau()->addStretch();

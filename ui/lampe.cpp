@@ -6,20 +6,6 @@
 
 namespace tarvel::ui {
 
-Lampe::Lampe(const QColor& farbe, QWidget* eltern) : QWidget(eltern), farbe_(farbe) {}
-
-void Lampe::setLeuchtet(bool leuchtet) {
-    if (leuchtet_ != leuchtet) {
-        leuchtet_ = leuchtet;
-        update();
-    }
-}
-
-void Lampe::paintEvent(QPaintEvent* /*ereignis*/) {
-    QPainter maler(this);
-    lampe_malen(maler, rect(), farbe_, leuchtet_);
-}
-
 void lampe_malen(QPainter& maler, const QRectF& platz, const QColor& farbe, bool leuchtet) {
     maler.setRenderHint(QPainter::Antialiasing);
     const double radius = std::min(platz.width(), platz.height()) / 2.0 - 1;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "ui/ampelfeld.h"
 #include "ui/bildanzeige.h"
 #include "ui/stil.h"
 
@@ -54,17 +55,19 @@ void Spurblock::kopf(std::function<std::filesystem::path(const std::string&)> pf
 
     TextAnzeige* schild = anzeigen(spur_teil::Label_spur, bahn_.Label_spur[spur_], "Label_spur" + nummer_);
     schild->setFett(true);
-    schild->setFarbe(Qt::black);
     schild->setAutoFillBackground(true);
     TextAnzeige* fahrer = anzeigen(spur_teil::namenslabel, bahn_.namenslabel[spur_], "namenslabel" + nummer_);
     fahrer->setFett(true);
     fahrer->setZweizeilig();
     teil(spur_teil::Image1) = binder_.bildanzeige(bahn_.Image1[spur_], "Image1" + nummer_, pfad);
-    teil(spur_teil::Image2) = binder_.bildanzeige(bahn_.Image2[spur_], "Image2" + nummer_, std::move(pfad));
-    const QString nummer = "_" + QString::number(index_);
-    teil(spur_teil::ampel_rt) = binder_.lampe(bahn_.ampel_rt.at(index_), "ampel_rt" + nummer, QColor(255, 40, 30));
-    teil(spur_teil::ampel_ge) = binder_.lampe(bahn_.ampel_ge.at(index_), "ampel_ge" + nummer, QColor(255, 200, 20));
-    teil(spur_teil::ampel_gr) = binder_.lampe(bahn_.ampel_gr.at(index_), "ampel_gr" + nummer, QColor(30, 230, 70));
+    teil(spur_teil::Image2) = binder_.bildanzeige(bahn_.Image2[spur_], "Image2" + nummer_, pfad);
+    for (const auto& [name, lampe, widget_name] :
+         {std::tuple<spur_teil, bild&, const char*>{spur_teil::ampel_rt, bahn_.ampel_rt.at(index_), "ampel_rt_"},
+          {spur_teil::ampel_ge, bahn_.ampel_ge.at(index_), "ampel_ge_"},
+          {spur_teil::ampel_gr, bahn_.ampel_gr.at(index_), "ampel_gr_"}}) {
+        teil(name) =
+            new Ampelfeld(lampe, Ampelfeld::art::erlischt, widget_name + QString::number(index_), binder_, pfad, this);
+    }
     anzeigen(spur_teil::Label_platz, bahn_.Label_platz[spur_], "Label_platz" + nummer_)->setLeise();
     platzziffer();
     teil(spur_teil::ch_strafzeit_hacken) =
@@ -155,7 +158,9 @@ void Spurblock::flaeche() {
         QPalette farben = schild->palette();
         farben.setColor(QPalette::Window, spurfarbe_);
         schild->setPalette(farben);
+        static_cast<TextAnzeige*>(schild)->setFarbe(stil::schrift_auf(spurfarbe_));
         grundfarbe_ = stil::farbe_von(shape.hintergrund().value_or(0));
+        static_cast<Tankbalken*>(teil(spur_teil::tankbalken))->setGrund(grundfarbe_);
         update();
     });
 }

@@ -13,13 +13,18 @@ void Tankbalken::setStand(double anteil, const QColor& farbe) {
     }
 }
 
+void Tankbalken::setGrund(const QColor& grund) {
+    grund_ = grund;
+    update();
+}
+
 void Tankbalken::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     const QRectF rand = QRectF(rect()).adjusted(1, 1, -1, -1);
     const bool leer = anteil_ <= 0;
     maler.setPen(leer ? QPen(warnung, 4) : QPen(QColor(120, 126, 136), 1.5));
-    maler.setBrush(QColor(28, 31, 36));
+    maler.setBrush(grund_);
     maler.drawRoundedRect(leer ? rand.adjusted(1, 1, -1, -1) : rand, 4, 4);
     if (leer) {
         QFont schrift = font();

@@ -15,6 +15,8 @@ public:
 
     /// `anteil` from 0 to 1.
     void setStand(double anteil, const QColor& farbe);
+    /// What it stands on.
+    void setGrund(const QColor& grund);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -22,6 +24,7 @@ protected:
 private:
     double anteil_ = 0;
     QColor farbe_;
+    QColor grund_ = Qt::black;
 };
 
 }  // namespace tarvel::ui

@@ -29,7 +29,9 @@ Uhranzeige::Uhranzeige(rennuhr_felder& uhr, int nummer, Binder& binder, QWidget*
         anzeige->setFett(true);
         teile_.push_back({anzeige, t.muster});
     }
-    teile_.front().anzeige->installEventFilter(this);
+    for (const Teil& t : teile_) {
+        t.anzeige->installEventFilter(this);
+    }
     binder.verbinden(uhr.uhrframe, this, "uhrframe" + QString::number(nummer), [this, &uhr] {
         titel_->setText(QString::fromStdString(uhr.uhrframe.text()));
         if (uhr.uhrframe.schriftfarbe()) {

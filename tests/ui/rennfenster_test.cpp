@@ -65,6 +65,9 @@ TEST_F(Rennfenster, UhrMitStundenBleibtInIhremPlatz) {
     o.takt.ausfuehren();
     EXPECT_LT(finde<QWidget>(o.bahn1, "bahn1.labelmin1")->width(), ohne);
     platz_der_teile();
+    const QRect trenner = finde<QWidget>(o.bahn1, "bahn1.Label10")->geometry();
+    EXPECT_GT(trenner.width(), 5);
+    EXPECT_LE(trenner.left(), finde<QWidget>(o.bahn1, "bahn1.labelmin1")->geometry().left());
 }
 
 TEST_F(Rennfenster, FenstermodusStattVollbild) {

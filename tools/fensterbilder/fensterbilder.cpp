@@ -72,7 +72,11 @@ int main(int argc, char** argv) {
     std::filesystem::create_directories(ordner.toStdU16String());
     bool gut = true;
     const bool alle = argumente.isEmpty();
-    for (const auto& szene : tarvel::szenen()) {
+    std::vector<tarvel::szeneneintrag> szenen = tarvel::fensterszenen();
+    for (const auto& szene : tarvel::rennszenen()) {
+        szenen.push_back(szene);
+    }
+    for (const auto& szene : szenen) {
         if (alle || argumente.removeAll(szene.name) > 0) {
             gut = tarvel::zeichnen(szene, ordner, groessen) && gut;
         }

@@ -14,6 +14,9 @@ struct szeneneintrag {
     bool eigene_groesse = false;  ///< the window is as large as it wants to be
 };
 
-const std::vector<szeneneintrag>& szenen();
+/// The race, its lights and its pauses.
+const std::vector<szeneneintrag>& rennszenen();
+/// All other windows.
+const std::vector<szeneneintrag>& fensterszenen();
 
 }  // namespace tarvel

@@ -1,17 +1,11 @@
 #include "tools/fensterbilder/szenen.h"
 
 #include <algorithm>
-
-#include "hardware/at2560.h"
+#include <string_view>
+#include <utility>
 
 namespace tarvel {
 namespace {
-
-template <int nummer>
-QWidget& optionsseite_zeigen(buehne& b) {
-    b.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(nummer));
-    return b.o.einstellungen;
-}
 
 /// The start light in its second red phase.
 QWidget& ampel(buehne& b) {
@@ -69,53 +63,59 @@ QWidget& pause_allein(buehne& b) {
     return b.o.bahn1;
 }
 
-/// The wizard of the AT-2560 on this page, after four sensors have been heard.
-template <int seite>
-QWidget& uart_assistent(buehne& b) {
-    b.t.maschine.anschluesse.da = {1, 3};
-    optionsseite_zeigen<7>(b);
-    b.p.einstellungsfenster.uart_einrichten();
-    uart_einstellungen& w = b.p.uart_einstellungen;
-    const auto sagt = [&](const char* bytes) { b.t.maschine.anschluesse.senden(3, bytes); };
-    b.t.maschine.waehrend_meldung = [&b, nummer = 0]() mutable {
-        b.t.maschine.anschluesse.da = nummer++ == 0 ? std::set<int>{1} : std::set<int>{1, 3};
+void control_unit_anschliessen(buehne& b) {
+    constexpr int com = 7;
+    b.t.maschine.anschluesse.da = {com};
+    b.p.einst.hardware = {};
+    b.p.einst.hardware.hw_cu = true;
+    b.p.einst.cu_modus = com;
+    b.p.einst.cu_sondermodus = false;
+    b.t.maschine.anschluesse.geraet = [&b](int nummer, std::string_view /*bytes*/) {
+        const bool steht = b.p.rennen.zustand.chaos_aktiv;
+        b.t.maschine.anschluesse.senden(nummer, steht ? "?:77777700100000000$" : "?:77777700000000000$");
     };
-    b.t.maschine.antwort = true;
-    w.port_ermitteln.klicken();
-    for (int nummer = 0; nummer < seite; ++nummer) {
-        if (nummer == uart_einstellungen::seite_anzahl) {
-            w.sensoranzahl.eingeben("8");
-        }
-        w.weiter.klicken();
-        b.t.maschine.laufen(at_bootzeit_ms);
-        if (nummer + 1 == uart_einstellungen::seite_sensoren) {
-            sagt(":S13,1001;:S11,2417;:S9,3830;:S7,5222;");
-            for (std::size_t i = 0; i < 4; ++i) {
-                w.sensoren.at(i).funktion.waehlen(1);
-            }
-        } else if (nummer + 1 == uart_einstellungen::seite_chaos) {
-            w.chaos_anzahl.waehlen(4);
-            w.stecker.waehlen(1);
-            sagt(":S2,9001;:S3,9100;");
-        }
+    b.p.geraete.hardware_starten(false);
+}
+
+/// The pause of a device that is continued at its own key.
+template <bool zeilen, int... spuren>
+QWidget& control_unit_pause(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.rennen(40000, {spuren...});
+    control_unit_anschliessen(b);
+    b.t.maschine.laufen(100);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
+/// Counters of two, three and four digits.
+template <bool zeilen>
+QWidget& tausend_runden(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.rennen(20000);
+    for (const auto& [spur, runden] : {std::pair(1, 9997), {2, 1234}, {3, 998}, {4, 111}, {5, 87}}) {
+        b.t.spur(spur).runden = runden;
     }
-    return b.o.uart_einstellungen;
+    b.fahren(16000);
+    return b.o.bahn1;
+}
+
+/// Some lanes are home, one is out.
+template <bool zeilen>
+QWidget& im_ziel(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.zielmodus_erster = false;
+    b.rundenrennen(37200, "5", {1, 2, 3, 4, 5, 6});
+    b.t.spur(6).disqualifiziert = true;
+    b.t.bahn().zaehler[6].text(disqualifiziert_text);
+    b.p.rennen.strafen.spur_strom_aus(6);
+    b.t.maschine.laufen(20);
+    return b.o.bahn1;
 }
 
 const std::vector<szeneneintrag> alle{
-    {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
-    {"hauptfenster_control_unit",
-     [](buehne& b) -> QWidget& {
-         b.p.einst.hardware.hw_cu = true;
-         b.p.geraete.hardware_starten(false);
-         b.p.form1.t_aktiv.umschalten();
-         return b.o.form1;
-     }},
-    {"cu_eigenschaften",
-     [](buehne& b) -> QWidget& {
-         b.p.fenster.zeigen("cu_eigenschaften");
-         return b.o.cu;
-     }},
     {"rennen_vor_dem_start",
      [](buehne& b) -> QWidget& {
          b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
@@ -218,100 +218,53 @@ const std::vector<szeneneintrag> alle{
          return b.o.k_ampel;
      },
      true},
-    {"auswertung",
+    {"rennen_mit_stunden",
      [](buehne& b) -> QWidget& {
-         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
-         return b.o.auswertung;
+         b.rundenrennen(64000, "90", {1, 2, 3});
+         return b.o.bahn1;
      }},
-    {"auswertung_zwei_spuren",
+    {"rennen_control_unit_start",
      [](buehne& b) -> QWidget& {
-         b.ergebnis("14", {2, 5});
-         return b.o.auswertung;
+         control_unit_anschliessen(b);
+         b.einrichten("Runden", "20", {1, 2, 3, 4, 5, 6});
+         b.t.bahn().Command1.klicken();
+         return b.o.bahn1;
      }},
-    {"auswertung_meter",
+    {"rennen_control_unit_pause", control_unit_pause<false, 1, 2, 3, 4, 5, 6>},
+    {"rennen_control_unit_pause_zeilen", control_unit_pause<true, 1, 2, 3, 4, 5, 6>},
+    {"rennen_control_unit_pause_allein", control_unit_pause<false, 4>},
+    {"rennen_tausend_runden", tausend_runden<false>},
+    {"rennen_tausend_runden_zeilen", tausend_runden<true>},
+    {"rennen_im_ziel", im_ziel<false>},
+    {"rennen_im_ziel_zeilen", im_ziel<true>},
+    {"rennen_helle_farben",
      [](buehne& b) -> QWidget& {
-         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
-         b.p.auswertung.Command6.klicken();
-         return b.o.auswertung;
+         b.p.einst.farben_ampel[1] = 0xF0F0F0;
+         b.p.einst.farben_schrift[2] = 0x202020;
+         return tanken<>(b);
      }},
-    {"rundenverlauf",
+    {"startampel_dragrace",
      [](buehne& b) -> QWidget& {
-         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
-         b.p.auswertung.Command_verlauf.klicken();
-         return b.o.auswertung;
-     }},
-    {"bestzeiten",
-     [](buehne& b) -> QWidget& {
-         b.p.bestzeiten.leeren();
-         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
-         b.p.auswertung.Command5.klicken();
-         return b.o.bestzeiten;
+         b.einrichten("Runden", "20", {1, 2});
+         b.p.einst.start_ampel_modus = 6;
+         b.t.bahn().Command1.klicken();
+         b.t.maschine.laufen(8700);
+         return b.o.form2;
      },
      true},
-    {"bestzeitverwaltung",
+    {"startampel_fruehstart",
      [](buehne& b) -> QWidget& {
-         b.p.beste_zeiten_verwaltung.oeffnen();
-         return b.o.bestzeitverwaltung;
-     }},
-    {"ergebnis_speichern",
-     [](buehne& b) -> QWidget& {
-         b.ergebnis("8", {1, 2});
-         b.p.auswertung.Command4.klicken();
-         return b.o.rundenspeichern;
-     },
-     true},
-    {"einstellungen_start", optionsseite_zeigen<0>},
-    {"einstellungen_wettkampf", optionsseite_zeigen<1>},
-    {"einstellungen_tanken", optionsseite_zeigen<2>},
-    {"einstellungen_sektoren", optionsseite_zeigen<3>},
-    {"einstellungen_fahrer", optionsseite_zeigen<4>},
-    {"einstellungen_fahrzeuge", optionsseite_zeigen<5>},
-    {"einstellungen_bestzeiten", optionsseite_zeigen<6>},
-    {"einstellungen_hardware", optionsseite_zeigen<7>},
-    {"einstellungen_sounds", optionsseite_zeigen<8>},
-    {"einstellungen_farben", optionsseite_zeigen<9>},
-    {"einstellungen_trennzeichen", optionsseite_zeigen<10>},
-    {"tastatur",
-     [](buehne& b) -> QWidget& {
-         b.p.form1.command_tasten.klicken();
-         return b.o.tastatur;
-     },
-     true},
-    {"uart_port", uart_assistent<uart_einstellungen::seite_port>},
-    {"uart_anzahl", uart_assistent<uart_einstellungen::seite_anzahl>},
-    {"uart_sensoren", uart_assistent<uart_einstellungen::seite_sensoren>},
-    {"uart_chaos", uart_assistent<uart_einstellungen::seite_chaos>},
-    {"uart_fertig", uart_assistent<uart_einstellungen::seite_fertig>},
-    {"uart_wartehinweis",
-     [](buehne& b) -> QWidget& {
-         b.p.form1.wartehinweis(true);
-         return b.o.form1;
-     }},
-    {"uart_profildatei",
-     [](buehne& b) -> QWidget& {
-         for (const char* name : {"tvk_at2560.uart", "klubbahn.uart"}) {
-             at_profil_speichern(b.p.ablage, name, {});
-         }
-         b.p.einstellungsfenster.uart_datei_waehlen();
-         return b.o.uart_profildatei;
-     },
-     true},
-    {"einstellungen_at2560",
-     [](buehne& b) -> QWidget& {
-         b.p.einst.hardware.hw_uart = true;
-         return optionsseite_zeigen<7>(b);
-     }},
-    {"laden",
-     [](buehne& b) -> QWidget& {
-         b.p.form1.Command7.klicken();
-         return b.o.speichern;
+         b.p.einst.fruehstart_option = 1;
+         ampel(b);
+         b.t.taste("2");
+         return b.o.form2;
      },
      true},
 };
 
 }  // namespace
 
-const std::vector<szeneneintrag>& szenen() {
+const std::vector<szeneneintrag>& rennszenen() {
     return alle;
 }
 

@@ -1,0 +1,184 @@
+#include "tools/fensterbilder/szenen.h"
+
+#include "hardware/at2560.h"
+
+namespace tarvel {
+namespace {
+
+template <int nummer>
+QWidget& optionsseite_zeigen(buehne& b) {
+    b.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(nummer));
+    return b.o.einstellungen;
+}
+
+/// The wizard of the AT-2560 on this page, after four sensors have been heard.
+template <int seite>
+QWidget& uart_assistent(buehne& b) {
+    b.t.maschine.anschluesse.da = {1, 3};
+    optionsseite_zeigen<7>(b);
+    b.p.einstellungsfenster.uart_einrichten();
+    uart_einstellungen& w = b.p.uart_einstellungen;
+    const auto sagt = [&](const char* bytes) { b.t.maschine.anschluesse.senden(3, bytes); };
+    b.t.maschine.waehrend_meldung = [&b, nummer = 0]() mutable {
+        b.t.maschine.anschluesse.da = nummer++ == 0 ? std::set<int>{1} : std::set<int>{1, 3};
+    };
+    b.t.maschine.antwort = true;
+    w.port_ermitteln.klicken();
+    for (int nummer = 0; nummer < seite; ++nummer) {
+        if (nummer == uart_einstellungen::seite_anzahl) {
+            w.sensoranzahl.eingeben("8");
+        }
+        w.weiter.klicken();
+        b.t.maschine.laufen(at_bootzeit_ms);
+        if (nummer + 1 == uart_einstellungen::seite_sensoren) {
+            sagt(":S13,1001;:S11,2417;:S9,3830;:S7,5222;");
+            for (std::size_t i = 0; i < 4; ++i) {
+                w.sensoren.at(i).funktion.waehlen(1);
+            }
+        } else if (nummer + 1 == uart_einstellungen::seite_chaos) {
+            w.chaos_anzahl.waehlen(4);
+            w.stecker.waehlen(1);
+            sagt(":S2,9001;:S3,9100;");
+        }
+    }
+    return b.o.uart_einstellungen;
+}
+
+const std::vector<szeneneintrag> alle{
+    {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
+    {"hauptfenster_control_unit",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_cu = true;
+         b.p.geraete.hardware_starten(false);
+         b.p.form1.t_aktiv.umschalten();
+         return b.o.form1;
+     }},
+    {"cu_eigenschaften",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen("cu_eigenschaften");
+         return b.o.cu;
+     }},
+    {"auswertung",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         return b.o.auswertung;
+     }},
+    {"auswertung_zwei_spuren",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {2, 5});
+         return b.o.auswertung;
+     }},
+    {"auswertung_meter",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command6.klicken();
+         return b.o.auswertung;
+     }},
+    {"rundenverlauf",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command_verlauf.klicken();
+         return b.o.auswertung;
+     }},
+    {"bestzeiten",
+     [](buehne& b) -> QWidget& {
+         b.p.bestzeiten.leeren();
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command5.klicken();
+         return b.o.bestzeiten;
+     },
+     true},
+    {"bestzeitverwaltung",
+     [](buehne& b) -> QWidget& {
+         b.p.beste_zeiten_verwaltung.oeffnen();
+         return b.o.bestzeitverwaltung;
+     }},
+    {"ergebnis_speichern",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("8", {1, 2});
+         b.p.auswertung.Command4.klicken();
+         return b.o.rundenspeichern;
+     },
+     true},
+    {"einstellungen_start", optionsseite_zeigen<0>},
+    {"einstellungen_wettkampf", optionsseite_zeigen<1>},
+    {"einstellungen_tanken", optionsseite_zeigen<2>},
+    {"einstellungen_sektoren", optionsseite_zeigen<3>},
+    {"einstellungen_fahrer", optionsseite_zeigen<4>},
+    {"einstellungen_fahrzeuge", optionsseite_zeigen<5>},
+    {"einstellungen_bestzeiten", optionsseite_zeigen<6>},
+    {"einstellungen_hardware", optionsseite_zeigen<7>},
+    {"einstellungen_sounds", optionsseite_zeigen<8>},
+    {"einstellungen_farben", optionsseite_zeigen<9>},
+    {"einstellungen_trennzeichen", optionsseite_zeigen<10>},
+    {"tastatur",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.command_tasten.klicken();
+         return b.o.tastatur;
+     },
+     true},
+    {"uart_port", uart_assistent<uart_einstellungen::seite_port>},
+    {"uart_anzahl", uart_assistent<uart_einstellungen::seite_anzahl>},
+    {"uart_sensoren", uart_assistent<uart_einstellungen::seite_sensoren>},
+    {"uart_chaos", uart_assistent<uart_einstellungen::seite_chaos>},
+    {"uart_fertig", uart_assistent<uart_einstellungen::seite_fertig>},
+    {"uart_wartehinweis",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.wartehinweis(true);
+         return b.o.form1;
+     }},
+    {"uart_profildatei",
+     [](buehne& b) -> QWidget& {
+         for (const char* name : {"tvk_at2560.uart", "klubbahn.uart"}) {
+             at_profil_speichern(b.p.ablage, name, {});
+         }
+         b.p.einstellungsfenster.uart_datei_waehlen();
+         return b.o.uart_profildatei;
+     },
+     true},
+    {"einstellungen_at2560",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_uart = true;
+         return optionsseite_zeigen<7>(b);
+     }},
+    {"laden",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.Command7.klicken();
+         return b.o.speichern;
+     },
+     true},
+    {"programmstart",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen("Update_form");
+         return b.o.update_form;
+     },
+     true},
+    {"version",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen("Form3");
+         return b.o.form3;
+     },
+     true},
+    {"bildwahl",
+     [](buehne& b) -> QWidget& {
+         optionsseite_zeigen<einstellungsfenster::seite_fahrer>(b);
+         b.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
+         return b.o.bildwahl;
+     },
+     true},
+    {"liste_speichern",
+     [](buehne& b) -> QWidget& {
+         optionsseite_zeigen<einstellungsfenster::seite_fahrer>(b);
+         b.p.einstellungsfenster.fahrerseite.Liste_speichern.klicken();
+         return b.o.fahrerspeichern;
+     },
+     true},
+};
+
+}  // namespace
+
+const std::vector<szeneneintrag>& fensterszenen() {
+    return alle;
+}
+
+}  // namespace tarvel
