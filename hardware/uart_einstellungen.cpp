@@ -122,6 +122,8 @@ void uart_einstellungen::seite_zeigen(int nummer) {
     weiter.text(seite_ == seite_fertig ? wort_.fertig : wort_.weiter);
     if (seite_ == seite_fertig) {
         zusammenfassen();
+    }
+    if (seite_ > seite_anzahl) {
         weiter.fokus_setzen();
     }
 }

@@ -126,6 +126,7 @@ private:
         std::string taster;
         std::string sensorbefehl;
         std::string befehlsdatei;
+        std::string gesichert;
         std::string schritt;
         std::string von;
         std::string weiter;

@@ -79,6 +79,7 @@ void uart_einstellungen::texte_sensoren(sprachliste& texte) {
     texte.text("Es wurde nicht zu jedem Sensor eine Funktion zugewiesen. Trotzdem fortfahren?", wort_.ohne_funktion);
     texte.text("Zwei Sensoren oder Taster haben dieselbe Funktion. Bitte die Auswahl ändern.", wort_.doppelt);
     texte.text("Sensorbefehl", wort_.sensorbefehl).text("Befehlsdatei", wort_.befehlsdatei);
+    texte.text("Die bisherige bleibt als", wort_.gesichert);
     texte.text("Zusammenfassung", wort_.seite[seite_fertig]);
     texte.text("Diese Zuordnung wird in die Befehlsdatei geschrieben. Danach arbeitet die Zeitmessung mit ihr.",
                wort_.anleitung[seite_fertig]);

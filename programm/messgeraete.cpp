@@ -138,7 +138,9 @@ void messgeraete::nachholen() {
 
 void messgeraete::verbindung_anzeigen() {
     const messhardware& hw = um_.einst.hardware;
-    um_.form1.messgeraet_getrennt((hw.hw_cu && !cu.antwortet()) || (hw.hw_uart && !at_wartet_ && !at.offen()));
+    const bool getrennt = (hw.hw_cu && !cu.antwortet()) || (hw.hw_uart && !at_wartet_ && !at.offen());
+    um_.form1.messgeraet_getrennt(getrennt);
+    um_.rennen.ansicht.fusszeile_setzen(getrennt ? um_.form1.modus_label.text() : um_.txt.werbetext, getrennt);
 }
 
 }  // namespace tarvel

@@ -37,9 +37,13 @@ void rennansicht::texte_setzen() {
     bahn.uhr2.uhrframe.text(bahn.wort.rennzeit);
     uhr_texte(bahn.uhr1, um_.einst.trennzeichen);
     uhr_texte(bahn.uhr2, um_.einst.trennzeichen);
-    bahn.werbe_label.text(um_.txt.werbetext);
     ziel_zeigen();
     ansagen_setzen();
+}
+
+void rennansicht::fusszeile_setzen(const std::string& text, bool warnung) {
+    um_.bahn.werbe_label.text(text);
+    um_.bahn.werbe_label.schriftfarbe(warnung ? farben::rot : um_.einst.farben_schrift[2]);
 }
 
 void rennansicht::ziel_zeigen() {
@@ -94,7 +98,7 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Startampel", bahn.wort.startampel).text("Frühstart", bahn.wort.fruehstart);
     texte.text("Best: ", bahn.wort.bestzeit);
     texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
-    texte.text("Pause: Mit der Starttaste der Control Unit geht es weiter.", bahn.wort.cu_pause);
+    texte.text("Pause: Weiter mit der Starttaste der Control Unit oder mit „Weiter“.", bahn.wort.cu_pause);
     return texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
 }
 
@@ -218,7 +222,7 @@ void rennansicht::bestzeit_anzeige() {
     }
     const bestzeit& rekord = um_.bestzeiten.gesamt();
     bahn.bestzeit_gesamt.text(rekord.leer() ? "" : zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
-    bahn.bestzeit_gesamt.sichtbar(!rekord.leer());
+    bahn.bestzeit_gesamt.sichtbar(um_.einst.beste_modus > 0 && !rekord.leer());
 }
 
 void rennansicht::farben_setzen() {

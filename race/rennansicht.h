@@ -24,6 +24,8 @@ public:
     void spaltenansicht_oeffnen();
     void einfahrer_ansicht_oeffnen();
     void farben_setzen();
+    /// Beside the commands: the club's line, or what is wrong.
+    void fusszeile_setzen(const std::string& text, bool warnung);
     /// What is driven for.
     void ziel_zeigen();
     /// Counters, times and lists as before the first crossing.

@@ -83,6 +83,24 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
     }
 }
 
+TEST_F(Tanken, StromstrafeInDerLetztenRundeGiltFuerAlle) {
+    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_strafzeit = 1000;
+    t.p.einst.tank_inhalt = 5;
+    t.p.einst.zielmodus_erster = true;
+    t.p.einst.runde_beenden = false;
+    t.p.form1.t_aktiv.gesetzt(true);
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.maschine.laufen(20000);  // already the first crossing has emptied the tanks
+    t.runde_nach(7000, "2");
+    t.runde_nach(500, "1");
+    t.maschine.laufen(11000);
+    ASSERT_TRUE(offen("auswertung")) << "lane 2 has served its penalty";
+    EXPECT_EQ(rundenzeit(2, 1) + 500, rundenzeit(1, 1));
+    EXPECT_GT(rundenzeit(1, 1), 10000);
+}
+
 TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
     t.p.einst.tank_straf_option = 3;
     t.p.einst.tank_strafzeit = 1000;

@@ -25,10 +25,9 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, B
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand.left(), 8, stil::fensterrand.right(), stil::fensterrand.bottom());
     aufbau->setSpacing(6);
-    QLabel* kopf = binder().label(logik.kopf_label, "kopf_label");
-    QFont schrift = kopf->font();
-    schrift.setPixelSize(20);
-    kopf->setFont(schrift);
+    TextAnzeige* kopf = binder().anzeige(logik.kopf_label, "kopf_label");
+    kopf->setSchriftPx(20);
+    kopf->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     aufbau->addWidget(kopf);
     aufbau->addWidget(standfeld(ablage), 1);
     aufbau->addWidget(verlaufsfeld(), 1);

@@ -184,11 +184,21 @@ QPushButton* Binder::knopf(befehl& element, const QString& name, const char* rol
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
     verbinden(element, widget, name, [this, &element, widget] {
-        const QString text = kuerzel_.vergeben(widget, als_text(element.text()));
+        const QString text = widget->property("ohne_kuerzel").toBool()
+                                 ? als_text(element.text())
+                                 : kuerzel_.vergeben(widget, als_text(element.text()));
         if (widget->text() != text) {
             widget->setText(text);
         }
     });
+    return widget;
+}
+
+QPushButton* Binder::knopf_ohne_kuerzel(befehl& element, const QString& name) {
+    QPushButton* widget = knopf(element, name);
+    widget->setProperty("ohne_kuerzel", true);
+    kuerzel_.freigeben(widget);
+    widget->setText(als_text(element.text()));
     return widget;
 }
 

@@ -51,6 +51,8 @@ public:
     void fenstertitel(rahmen& element);
     /// `rolle` is what the style sheet tells the look from.
     QPushButton* knopf(befehl& element, const QString& name, const char* rolle = nullptr);
+    /// For a command that no slip of the hand may give.
+    QPushButton* knopf_ohne_kuerzel(befehl& element, const QString& name);
     /// The command that a window is there for.
     QPushButton* hauptknopf(befehl& element, const QString& name) { return knopf(element, name, "haupt"); }
     QLineEdit* zeile(feld& element, const QString& name);

@@ -107,16 +107,16 @@ QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
     strafe->setAusrichtung(links_mitte);
     strafe->setFarbe(stil::akzent);
     teile.zusatz->addWidget(strafe, 3);
-    TextAnzeige* tank = binder.anzeige(logik_.tankinhalt[i], nummeriert("tankinhalt"), schrift_zusatz);
-    tank->setAusrichtung(links_mitte);
-    teile.zusatz->addWidget(tank, 3);
     return teile.feld;
 }
 
 QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     const std::size_t i = index_;
     const zelle_teile teile = zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_wert}, binder);
-    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 1);
+    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 2);
+    TextAnzeige* tank = binder.anzeige(logik_.tankinhalt[i], nummeriert("tankinhalt"), schrift_zusatz);
+    tank->setAusrichtung(links_mitte);
+    teile.zusatz->addWidget(tank, 3);
     return teile.feld;
 }
 

@@ -12,6 +12,7 @@ class Kuerzel {
 public:
     /// The caption as Qt wants it, with "&" before the letter. A button keeps its letter while its caption has it.
     QString vergeben(const QAbstractButton* knopf, const QString& text);
+    void freigeben(const QAbstractButton* knopf) { vergeben_.erase(knopf); }
 
 private:
     bool ist_frei(QChar buchstabe, const QAbstractButton* fuer) const;

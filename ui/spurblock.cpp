@@ -187,7 +187,8 @@ void Spurblock::anordnen(const ansicht_geometrie& geometrie) {
     liste_anordnen(geometrie.spur[spur_teil::t_liste]);
     const int kante = geometrie.spur[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font
-        ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }")
+        ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }"
+                                "QCheckBox::indicator:focus { border: 4px solid #c41e2a; }")
                             .arg(kante * 4 / 5)
                             .arg(std::max(kante - 6, 8)));
 }

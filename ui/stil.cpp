@@ -25,11 +25,11 @@ QPushButton { outline: none; }
 QComboBox::drop-down { border: none; width: 26px; }
 QComboBox::down-arrow { image: url(:/bilder/pfeil.png); width: 20px; height: 20px; }
 QPushButton { background: #ffffff; border: 1px solid #aab1bd; border-radius: 6px; padding: 7px 16px; }
-QPushButton[rolle="schmal"] { padding: 7px 7px; }
+QPushButton[rolle="schmal"] { padding: 7px 5px; }
 QPushButton:hover { background: #f2f4f7; }
 QPushButton:pressed { background: #e2e5ea; }
 QPushButton:focus { border: 2px solid #c41e2a; padding: 6px 15px; }
-QPushButton[rolle="schmal"]:focus { padding: 6px 6px; }
+QPushButton[rolle="schmal"]:focus { padding: 6px 4px; }
 QPushButton:disabled { color: #9aa1ad; background: #eceef1; border-color: #d0d4db; }
 QPushButton[rolle="haupt"] { background: #c41e2a; color: #ffffff; border: 1px solid #9d1721; font-weight: bold; }
 QPushButton[rolle="haupt"]:hover { background: #d62a37; }

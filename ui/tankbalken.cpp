@@ -35,11 +35,12 @@ void Tankbalken::paintEvent(QPaintEvent* /*ereignis*/) {
         maler.drawText(rect(), Qt::AlignCenter, "0");
         return;
     }
+    constexpr double strich_px = 3;  // the last drop is still to be seen
     QRectF voll = rand.adjusted(3, 3, -3, -3);
     if (voll.height() > voll.width()) {
-        voll.setTop(voll.bottom() - voll.height() * anteil_);
+        voll.setTop(voll.bottom() - std::max(voll.height() * anteil_, strich_px));
     } else {
-        voll.setWidth(voll.width() * anteil_);
+        voll.setWidth(std::max(voll.width() * anteil_, strich_px));
     }
     maler.setPen(Qt::NoPen);
     maler.setBrush(farbe_);

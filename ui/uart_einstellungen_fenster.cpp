@@ -58,7 +58,8 @@ UartEinstellungenFenster::UartEinstellungenFenster(uart_einstellungen& logik, Bi
     mitte->addWidget(protokoll());
     aufbau->addLayout(mitte, 1);
     aufbau->addWidget(befehlszeile());
-    resize(980, 640);
+    setMinimumWidth(1000);  // of its widest page
+    resize(1000, 640);
 }
 
 QWidget* UartEinstellungenFenster::seite(int nummer, const std::function<void(QGridLayout*)>& fuellen) {
@@ -99,6 +100,7 @@ void UartEinstellungenFenster::anzahl_seite(QGridLayout* raster) {
     QLineEdit* anzahl = binder().zeile(logik_.sensoranzahl, "sensoranzahl");
     anzahl->setFixedWidth(ereignis_breite);
     anzahl->setAlignment(Qt::AlignRight);
+    QObject::connect(anzahl, &QLineEdit::returnPressed, anzahl, [this] { logik_.weiter.klicken(); });
     raster->addWidget(binder().label(logik_.Label_anzahl, "Label_anzahl"), 0, 0);
     raster->addWidget(anzahl, 0, 1);
     QComboBox* pins = binder().auswahlfeld(logik_.is_liste, "is_liste");

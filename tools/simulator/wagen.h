@@ -21,7 +21,7 @@ struct wagen_einstellung {
     zeit_ms fruehstart_nach = 2500;         ///< ms from the first red lamp to such a start
     int verbrauch = 1;                      ///< fuel a lap, in steps of the device's own fuel counter
     int runden_je_stopp = 0;                ///< every how many laps the car stops for fuel; 0 never
-    int box = 900;                          ///< place of the stop
+    int box = 400;                          ///< place of the stop
     zeit_ms standzeit = 3000;               ///< ms of a stop
     int chaos_promille = 0;                 ///< laps in a thousand in which the driver presses the chaos button
 };
