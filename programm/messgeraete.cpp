@@ -112,7 +112,6 @@ void messgeraete::hardware_starten(bool spaeter) {
         cu.mscomm1_oeffnen();
         um_.quellen.anschliessen(cu);
         um_.ausgaben.anschliessen(ausgabe_platz::control_unit, cu);
-        anzeigetakt_->an();
     }
     if (um_.einst.hardware.hw_uart) {
         um_.quellen.anschliessen(at);
@@ -126,6 +125,9 @@ void messgeraete::hardware_starten(bool spaeter) {
     um_.ausgaben.ruhezustand();
     um_.form1.modus_anzeigen();
     um_.form1.bahnstrom_schaltbar(um_.ausgaben.angeschlossen());
+    if (um_.einst.hardware.hw_cu || um_.einst.hardware.hw_uart) {
+        anzeigetakt_->an();
+    }
     verbindung_anzeigen();
 }
 

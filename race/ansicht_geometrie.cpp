@@ -214,8 +214,11 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     }
     const rechteck zeitfeld = reihe.links(zeiten * e);
     constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
-    zeitfeld.breite > nebeneinander_ab* zeitfeld.hoehe ? zeiten_reihen(inhalt, zeitfeld, 2 * luecke, g)
-                                                       : zeiten_stapeln(inhalt, zeitfeld, g);
+    if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
+        zeiten_reihen(inhalt, zeitfeld, 2 * luecke, g);
+    } else {
+        zeiten_stapeln(inhalt, zeitfeld, g);
+    }
     g[t::t_liste].ort = reihe.rest();
 }
 

@@ -131,7 +131,6 @@ void rennablauf::einfahrzeit_starten() {
 void rennablauf::start_abgebrochen() {
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
-    um_.quellen.melden(&messquelle::start_abgebrochen);
     t_.ansicht.anzeigen_leeren();
     vor_dem_start();
     t_.blinken.beginnen();

@@ -333,6 +333,7 @@ void startampel::entladen() {
     ampel_laeuft_ = false;
     if (!gruen_erreicht_) {
         geraet_anhalten();  // the race window was closed over it
+        um_.quellen.melden(&messquelle::start_abgebrochen);
     }
     zeitgeber_aus();
     ampelaus_timer_->aus();

@@ -230,6 +230,9 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
     EXPECT_EQ(geschrieben("T2P$"), 3) << "another start";
     t.p.rennen.befehle.rennen_abbrechen();
     EXPECT_EQ(geschrieben("T2P$"), 4) << "closed over the running light";
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.maschine.laufen(3000);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nor does the next race begin by itself";
 }
 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
