@@ -74,6 +74,7 @@ void control_unit::schliessen() {
     luecke_ = 0;
     umlauf_ = 0;
     cu_startzustand_ = start::unbekannt;
+    stand_verbraucht_ = false;
 }
 
 bool control_unit::antwortet() const {
@@ -137,7 +138,7 @@ zeit_ms control_unit::umlauf_ausgleichen(std::uint32_t stempel) {
 
 void control_unit::uhr_nachstellen(zeit_ms stempel) {
     const zeit_ms verspaetung = um_.zeit.messzeit_lesen() - stempel;
-    const bool neu_begonnen = letzter_stempel_ - stempel > uhr_sprung_ms;
+    const bool neu_begonnen = letzter_stempel_ - stempel > uhr_sprung_ms + luecke_;
     if (!uhr_bekannt_ || neu_begonnen || verspaetung > uhr_sprung_ms + luecke_ || verspaetung < -uhr_sprung_ms) {
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
         bewirkt.stempel_verschieben(-verspaetung);
@@ -215,12 +216,12 @@ void control_unit::rennfenster_offen() {
     neustart_wartet_ = false;
     cu_chaos_durch_box_ = false;
     zaehlerbox_bereit_ = false;
+    stand_verbraucht_ = stand_verbraucht_ && im_startzustand();
     if (!leitung_.offen() && !mscomm1_oeffnen()) {  // it may have been unplugged since, and plugged in again
         bewirkt.port_fehlt();
         return;
     }
-    const bool cu_nicht_zuruecksetzen = im_startzustand() && !stand_verbraucht_;
-    if (!cu_nicht_zuruecksetzen) {  // it would throw out who has pressed the key already
+    if (!cu_nicht_zuruecksetzen()) {
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
     }
@@ -242,7 +243,9 @@ void control_unit::cu_alter_rz_start_tick() {
 void control_unit::rennfenster_zu() {
     cu_ende_timer_->aus();
     if (leitung_.offen()) {
-        leitung_.senden(cu::anzeigen_ruecksetzen);
+        if (!cu_nicht_zuruecksetzen()) {
+            leitung_.senden(cu::anzeigen_ruecksetzen);
+        }
         rennbetrieb(false);
     }
 }

@@ -90,6 +90,8 @@ private:
     void cu_tank_auswerten(const cu::status& status);
     void startzustand_auswerten(bool steht);
     void starttaste();
+    /// Somebody has pressed the start key already: a reset would throw him out.
+    bool cu_nicht_zuruecksetzen() const { return im_startzustand() && !stand_verbraucht_; }
     void rennbetrieb(bool an);
 
     umgebung um_;

@@ -190,6 +190,9 @@ void cu_eigenschaften::senden(const std::string& befehl) {
     if (!port_bereit()) {
         return;
     }
+    if (timer_aus.gesetzt()) {
+        leitung_.verwerfen();  // the answer to the last poll is none to this
+    }
     if (leitung_.senden(befehl)) {
         melden("> " + befehl);
         antwort_erwartet_ = true;

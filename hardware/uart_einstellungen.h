@@ -167,6 +167,8 @@ private:
     bool zuordnung_pruefen();
     at_zuordnung zuordnung() const;
     void zusammenfassen();
+    /// For a copy of the command file that is in force; a name that is free.
+    std::string sicherungsname() const;
     void fertigstellen();
 
     umgebung um_;

@@ -9,7 +9,6 @@ namespace {
 
 constexpr farbe ausgeloest_farbe = 0x90EE90;
 constexpr std::size_t name_laenge_max = 20;
-constexpr std::string_view gesichert = ".alt";  // of the command file that was in force
 const std::string noch_nicht = "–";
 
 /// A name that the command file can keep.
@@ -153,14 +152,23 @@ void uart_einstellungen::zusammenfassen() {
     zusammenfassung.hinzufuegen(wort_.sensorbefehl + ": " + z.eintragen(profil_).at_is_befehl);
     zusammenfassung.hinzufuegen(wort_.befehlsdatei + ": " + um_.einst.uart_datei);
     if (um_.ablage.gibt_es(um_.einst.uart_datei)) {
-        zusammenfassung.hinzufuegen(wort_.gesichert + ": " + um_.einst.uart_datei + std::string(gesichert));
+        zusammenfassung.hinzufuegen(wort_.gesichert + ": " + sicherungsname());
     }
 }
 
+std::string uart_einstellungen::sicherungsname() const {
+    std::string name = um_.einst.uart_datei + ".alt";
+    for (int nummer = 2; um_.ablage.gibt_es(name); ++nummer) {
+        name = um_.einst.uart_datei + ".alt" + std::to_string(nummer);
+    }
+    return name;
+}
+
 void uart_einstellungen::fertigstellen() {
-    um_.ablage.kopieren(um_.einst.uart_datei,
-                        um_.einst.uart_datei + std::string(gesichert));  // has lines of its owner's
-    if (!at_profil_speichern(um_.ablage, um_.einst.uart_datei, zuordnung().eintragen(profil_))) {
+    // the file so far may have lines of its owner's
+    const bool gesichert =
+        !um_.ablage.gibt_es(um_.einst.uart_datei) || um_.ablage.kopieren(um_.einst.uart_datei, sicherungsname());
+    if (!gesichert || !at_profil_speichern(um_.ablage, um_.einst.uart_datei, zuordnung().eintragen(profil_))) {
         um_.meldungen.zeigen(um_.txt.meldung[26], um_.txt.titel[1]);
         return;
     }

@@ -138,6 +138,7 @@ void chaos::pause_beginnen() {
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
     um_.bahn.Command3.text(um_.bahn.wort.weiter);
+    um_.bahn.Command3.aktiviert(true);
     zeitgeber_anhalten();
     um_.ausgaben.chaos_an();
     zustand.chaos_aktiv = true;
@@ -295,6 +296,7 @@ void chaos::chaosende_routine() {
         um_.zeitgeber.nachlauftimer1->an();
     }
     um_.bahn.Command3.text(um_.bahn.wort.pause_wieder);
+    t_.ablauf.befehle_freigeben();
     kleine_ampeln(kleines_licht::gruen);
     zeitgeber_fortsetzen();
     um_.zeitgeber.chaos_runden->an();

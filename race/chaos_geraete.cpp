@@ -8,26 +8,28 @@ bool chaos::am_geraet_fortsetzen() {
     geraeteampel* licht = um_.quellen.ampel();
     zeit_ms& verlangt = um_.zustand.pause.neustart_verlangt;
     const zeit_ms jetzt = um_.zeit.messzeit_lesen();
-    if (licht == nullptr || !licht->rot()) {
-        return false;
+    if (licht == nullptr || !licht->rot() || (verlangt != 0 && jetzt - verlangt > geraeteampel::laengste_ms)) {
+        return false;  // a deaf device is passed over
     }
-    if (verlangt != 0) {
-        return jetzt - verlangt < geraeteampel::laengste_ms;  // it runs; only a deaf device is passed over
-    }
-    verlangt = jetzt;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
-    licht->neustart();
+    if (verlangt == 0) {  // else its light runs
+        verlangt = jetzt;
+        licht->neustart();
+    }
     return true;
 }
 
 bool chaos::gruen_am_geraet() {
     const geraeteampel* licht = um_.quellen.ampel();
     bool& rot = um_.zustand.pause.geraet_rot;
-    if (licht != nullptr && licht->rot()) {
+    if (licht == nullptr) {
+        rot = false;  // one that comes back may drive at once: that is no green
+    } else if (licht->rot()) {
         rot = true;
-        return false;
+    } else {
+        return rot;
     }
-    return licht != nullptr && rot;
+    return false;
 }
 
 void chaos::chaos_schalter_at2560_tick() {

@@ -283,7 +283,7 @@ void tanken::beenden() {
         um_.zeitgeber.t_straftimer[spur]->aus();
         zustand.tank_strafe_aktiv = false;
         if (std::exchange(zustand.tank_runde_genommen, false)) {
-            strafe_auf_letzte_runde(spur);
+            zustand.ziel_erreicht = strafe_auf_letzte_runde(spur) || zustand.ziel_erreicht;
             ++zustand.runden;
             ++zustand.runden_zeile;
             um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
@@ -291,16 +291,17 @@ void tanken::beenden() {
     }
 }
 
-void tanken::strafe_auf_letzte_runde(int spur) {
+bool tanken::strafe_auf_letzte_runde(int spur) {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     if (!um_.ist_rundenrennen() || zustand.runden != um_.param.renn_ziel - 1) {
-        return;  // the penalty has cost its time on the track
+        return false;  // the penalty has cost its time on the track
     }
     rundenspeicher& speicher = um_.zustand.rundenzeiten;
     const zeit_ms verloren = zeit_ms{10} * um_.einst.tank_strafzeit;
     const int zeile = zustand.runden_zeile;
     speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren, speicher.stempel(spur, zeile) + verloren,
                     speicher.pause(spur, zeile));
+    return true;
 }
 
 void tanken::tanktimer_tick(int spur) {

@@ -47,8 +47,8 @@ private:
     void tanktimer_tick(int spur);
     void tankwartetimer_tick(int spur);
     void wartetimer_tick(int spur);
-    /// What an empty tank costs on the last lap, where nothing is left to drive.
-    void strafe_auf_letzte_runde(int spur);
+    /// What an empty tank costs on the last lap, where nothing is left to drive; false for any other lap.
+    bool strafe_auf_letzte_runde(int spur);
     void t_straftimer_tick(int spur);
 
     renn_umgebung um_;

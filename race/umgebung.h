@@ -45,9 +45,10 @@ struct renn_umgebung {
     const namensliste& fahrerliste;
     const namensliste& fahrzeugliste;
 
-    /// The light of the start, or of a race that goes on, has not come to its green.
+    /// The light of the start has not come to its green.
     bool ampel_laeuft() const {
-        return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zeitgeber.renntimer->laeuft();
+        return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zustand.fortsetzung_wartet &&
+               !zeitgeber.renntimer->laeuft();
     }
     bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
     bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }

@@ -32,10 +32,11 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_
     cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
     cu_ampel_auswertetimer_->bei_tick = [this] { geraet_tick(); };
     geraet_frist_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, static_cast<int>(geraeteampel::laengste_ms));
-    geraet_frist_->bei_tick = [this] {  // deaf to its start key: this light does it
+    geraet_frist_->bei_tick = [this] {  // deaf to its start key, or stopped there: the next click goes without it
         geraet_frist_->aus();
         cu_ampel_auswertetimer_->aus();
-        rot_.front()->an();
+        geraet_taub_ = true;
+        Command1.aktiviert(true);
     };
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_ms);
     training_autotimer_->bei_tick = [this] {
@@ -60,6 +61,7 @@ void k_ampel::laden() {
     titel.text(um_.bahn.wort.fortsetzen);
     Command1.text(um_.bahn.wort.fortsetzen);
     Command1.aktiviert(true);
+    geraet_taub_ = false;
     k_nachtabschaltung.sichtbar(false);
     if (um_.zustand.chaos_aktiv) {
         titel.fokus_setzen();  // a second press of the chaos key's neighbour must not end the pause
@@ -106,7 +108,7 @@ void k_ampel::Command1_klick() {
     }
     strom_aus();
     Command1.aktiviert(false);
-    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && licht->rot()) {
+    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && licht->rot() && !geraet_taub_) {
         licht->neustart();
         geraet_frist_->an();
         for (std::size_t i = 0; i < schritte; ++i) {

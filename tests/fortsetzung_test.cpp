@@ -65,7 +65,11 @@ TEST_F(Fortsetzung, WerAmStartDisqualifiziertWurdeBleibtEs) {
     a.Command3.klicken();
     EXPECT_EQ(t.bahn().zaehler[1].text() + t.bahn().zaehler[2].text(), "Dis.0") << "changed lanes";
     t.p.rennen.ansicht.bildschirm_dunkel();  // by key, while the light waits
+    t.p.param.tank_aktiv = true;
+    t.taste("q");  // a car is pushed over the tank and the sector
+    t.p.ereignisse.ereignis_melden(erste_zwischenzeit);
     gruen();
+    EXPECT_FALSE(t.p.ereignisse[erste_zwischenzeit].aktiv || t.p.ereignisse[art::tanken_ein[1]].aktiv);
     EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
 }
 

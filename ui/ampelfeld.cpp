@@ -84,16 +84,18 @@ void Ampelfeld::resizeEvent(QResizeEvent* ereignis) {
 void Ampelfeld::paintEvent(QPaintEvent* /*ereignis*/) {
     constexpr double rand = 0.1;  // of the housing around the lamp
     QPainter maler(this);
-    const QRectF rund = QRectF(rect()).adjusted(rand * width(), rand * height(), -rand * width(), -rand * height());
+    const int kante = std::min(width(), height());
+    const QRect platz((width() - kante) / 2, (height() - kante) / 2, kante, kante);
+    const QRectF rund = QRectF(platz).adjusted(rand * kante, rand * kante, -rand * kante, -rand * kante);
     if (const QPixmap& lampe = bild_von(gezeigt_); !lampe.isNull()) {
-        maler.drawPixmap(rect(), lampe);
+        maler.drawPixmap(platz, lampe);
     } else {
-        maler.fillRect(rect(), QColor(24, 26, 30));
+        maler.fillRect(platz, QColor(24, 26, 30));
         lampe_malen(maler, rund, farbe_von_datei(gezeigt_), gezeigt_.find("_an") != std::string::npos);
     }
     if (ring_.isValid()) {
         maler.setRenderHint(QPainter::Antialiasing);
-        maler.setPen(QPen(ring_, std::max(2.0, 0.04 * width())));
+        maler.setPen(QPen(ring_, std::max(2.0, 0.04 * kante)));
         maler.setBrush(Qt::NoBrush);
         maler.drawEllipse(rund);
     }

@@ -17,14 +17,14 @@ const QColor gelb(255, 214, 10);
 }  // namespace
 
 Spurblock::Spurblock(bahn1& bahn, int spur, Binder& binder,
-                     std::function<std::filesystem::path(const std::string&)> pfad, QWidget* eltern)
+                     const std::function<std::filesystem::path(const std::string&)>& pfad, QWidget* eltern)
     : QWidget(eltern),
       bahn_(bahn),
       spur_(spur),
       index_(feld_index(spur)),
       binder_(binder),
       nummer_("_" + QString::number(spur)) {
-    kopf(std::move(pfad));
+    kopf(pfad);
     zaehler();
     tank();
     anzeigen(spur_teil::Label_lrunde, bahn.Label_lrunde[spur], "Label_lrunde" + nummer_)->setLeise();
@@ -44,7 +44,7 @@ TextAnzeige* Spurblock::anzeigen(spur_teil name, steuerelement& element, const Q
     return anzeige;
 }
 
-void Spurblock::kopf(std::function<std::filesystem::path(const std::string&)> pfad) {
+void Spurblock::kopf(const std::function<std::filesystem::path(const std::string&)>& pfad) {
     auto* balken = new QWidget(this);
     balken->setAutoFillBackground(true);
     QPalette farben = balken->palette();

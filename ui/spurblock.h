@@ -15,8 +15,8 @@ namespace tarvel::ui {
 class Spurblock : public QWidget {
 public:
     /// `pfad` tells where the file of a picture lies.
-    Spurblock(bahn1& bahn, int spur, Binder& binder, std::function<std::filesystem::path(const std::string&)> pfad,
-              QWidget* eltern);
+    Spurblock(bahn1& bahn, int spur, Binder& binder,
+              const std::function<std::filesystem::path(const std::string&)>& pfad, QWidget* eltern);
 
     void anordnen(const ansicht_geometrie& geometrie);
 
@@ -25,7 +25,7 @@ protected:
 
 private:
     TextAnzeige* anzeigen(spur_teil teil, steuerelement& element, const QString& name);
-    void kopf(std::function<std::filesystem::path(const std::string&)> pfad);
+    void kopf(const std::function<std::filesystem::path(const std::string&)>& pfad);
     void platzziffer();
     void zaehler();
     void zaehler_anordnen();

@@ -1,0 +1,206 @@
+#include "tests/control_unit_probe.h"
+
+/// The race follows the unit's own light: its start, its pauses and their ends.
+namespace tarvel::test {
+namespace {
+
+TEST_F(ControlUnitRennen, StartAmGeraet) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_FALSE(t.bahn().Command3.bedienbar()) << "paused at the unit, as it was started there";
+    EXPECT_EQ(geschrieben("T2P$"), 0);
+}
+
+TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaelltAuf) {
+    t.p.einst.cu_sondermodus = true;
+    t.p.einst.fruehstart_option = 5;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    status(false);
+    ueberfahrt(2, 5000);  // rolls to the start
+    t.bahn().Command1.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    status(true);
+    t.maschine.laufen(2000);
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    EXPECT_EQ(t.p.startampel.fenster.ampelbild[0].datei(), "ampel/rt_an.gif");
+    ueberfahrt(1, 6000);
+    EXPECT_TRUE(t.p.startampel.fenster.Label_fruehstart.sichtbar());
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.spur(1).strafzeit, t.p.einst.fruehstart_schritte);
+    EXPECT_EQ(t.spur(2).strafzeit, 0);
+    t.maschine.laufen(2100);
+    EXPECT_TRUE(t.bahn().Command3.bedienbar());
+}
+
+TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) {
+    t.p.einst.cu_sondermodus = true;
+    t.p.einst.fruehstart_option = 1;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    status(true);
+    t.maschine.laufen(2100);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    ueberfahrt(1, 6000);
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    t.p.startampel.fenster.abbrampel.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2) << "a third press would start its light again";
+    t.maschine.laufen(5000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "the unit stands, but for the start that is off";
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(2100);
+    EXPECT_EQ(geschrieben("T2P$"), 3) << "another start";
+    t.p.rennen.befehle.rennen_abbrechen();
+    EXPECT_EQ(geschrieben("T2P$"), 4) << "closed over the running light";
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.maschine.laufen(3000);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nor does the next race begin by itself";
+}
+
+TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
+    t.p.einst.cu_option = true;
+    t.p.einst.start_ampel_modus = 1;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.p.einst.start_ampel_modus = 1;
+    senden("?00$");
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    t.p.startampel.fenster.abbrampel.klicken();
+    senden("?00$");
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "it is still ready from the start that is off";
+    senden("?10$");
+    senden("?00$");
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+}
+
+TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
+    t.p.einst.cu_sondermodus = true;
+    t.einrichten(t.p.txt.text_runden, "2", {1});
+    t.p.einst.start_ampel_modus = 1;
+    status(true);
+    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    t.maschine.laufen(2500);
+    EXPECT_EQ(geschrieben("T2P$"), 1);  // the unit is stopped already: only its light is started
+    status(false);
+    t.maschine.laufen(100);
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(50);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    t.maschine.laufen(100);
+    EXPECT_EQ(geschrieben("T2P$"), 2);  // stops the cars
+    status(true);
+    t.p.auswertung.Command2.klicken();
+    status(true);
+    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nobody has pressed for a new race";
+}
+
+TEST_F(ControlUnitRennen, EinFortgesetztesRennenHaeltAnWennDasGeraetAnhaelt) {
+    starten(t.p.txt.text_runden, "10", {1});
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(200);
+    status(true);
+    t.p.auswertung.cmd3_fortsetzung();
+    t.p.k_ampel.Command1.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    status(false);
+    ASSERT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    t.maschine.laufen(3000);
+    status(true);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    t.maschine.laufen(4000 - 3);
+    status(true);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
+    t.maschine.laufen(20000 - 3);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
+    t.maschine.laufen(3000 - 3);
+    ueberfahrt(1, 28000);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1)), 7000, 10);
+    EXPECT_EQ(geschrieben("T2P$"), 0);
+}
+
+TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    t.taste("c");
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    status(true);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(4000);
+    t.taste("c");  // nobody is patient
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2);
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << "the cars still stand";
+    status(false);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, EinGeraetOhneStromUeberlaesstPauseUndAmpelDemProgramm) {
+    starten(t.p.txt.text_runden, "10", {1});
+    ASSERT_FALSE(t.bahn().Command3.bedienbar());
+    status(true);
+    ASSERT_TRUE(t.bahn().cu_startframe.sichtbar());
+    lebt = false;  // the port stays open
+    t.maschine.laufen(3100);
+    EXPECT_TRUE(t.bahn().Command3.bedienbar());
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
+    lebt = true;
+    status(false);  // back, and driving
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << "hands are on the track";
+    lebt = false;
+    t.maschine.laufen(3100);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(7100);  // the program's own light
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.p.rennen.befehle.rennen_abbrechen();
+    t.starten(t.p.txt.text_runden, "10", {1});
+    t.maschine.laufen(5000);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+}
+
+TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
+    for (const int modus : {0, 5}) {
+        t.maschine.anschluesse.da = {com};
+        t.p.geraete.hardware_starten(false);
+        t.einrichten(t.p.txt.text_runden, "10", {1});
+        t.p.einst.start_ampel_modus = modus;
+        status(false);
+        t.bahn().Command1.klicken();
+        status(true);
+        t.maschine.anschluesse.abziehen(com);
+        t.maschine.laufen(15000);
+        EXPECT_TRUE(t.bahn().Command4.bedienbar()) << modus;
+        EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << modus;
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(ControlUnitRennen, InDerPauseAbgezogenGehtEsMitDerTastaturWeiter) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 1000);
+    t.taste("c");
+    status(true);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(7100);  // the program's own light
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.maschine.laufen(10000);
+    t.taste("1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
+}  // namespace
+}  // namespace tarvel::test
