@@ -10,6 +10,7 @@ namespace tarvel {
 namespace {
 
 constexpr const char* leere_zeit = "00:00:000";
+constexpr farbe warnfarbe = 0x5A5AFF;  // a red that small letters can bear on black
 /// The club's picture stands for a driver without one.
 constexpr const char* bild_ohne_fahrerbild = "tvkpic2.jpg";
 
@@ -43,7 +44,7 @@ void rennansicht::texte_setzen() {
 
 void rennansicht::fusszeile_setzen(const std::string& text, bool warnung) {
     um_.bahn.werbe_label.text(text);
-    um_.bahn.werbe_label.schriftfarbe(warnung ? farben::rot : um_.einst.farben_schrift[2]);
+    um_.bahn.werbe_label.schriftfarbe(warnung ? warnfarbe : um_.einst.farben_schrift[2]);
 }
 
 void rennansicht::ziel_zeigen() {

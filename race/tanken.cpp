@@ -53,9 +53,13 @@ void tanken::zuruecksetzen() {
         um_.zeitgeber.t_straftimer[spur]->aus();
         if (!um_.einst.hardware.hw_cu) {  // its tank is the unit's
             um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
-            tankfarbe(spur, gruen);
         }
-        fuellstand_zeigen(spur);
+    }
+    fuellstaende_zeigen();
+    if (!um_.einst.hardware.hw_cu) {
+        for (const int spur : alle_spuren) {
+            tankfarbe(spur, gruen);  // full, however near that is to the warning
+        }
     }
 }
 
