@@ -4,18 +4,8 @@
 namespace tarvel::test {
 namespace {
 
-TEST_F(ControlUnitRennen, StartAmGeraet) {
-    starten(t.p.txt.text_runden, "10", {1, 2});
-    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
-    EXPECT_FALSE(t.bahn().Command3.bedienbar()) << "paused at the unit, as it was started there";
-    EXPECT_EQ(geschrieben("T2P$"), 0);
-}
-
 TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaelltAuf) {
-    t.p.einst.cu_sondermodus = true;
-    t.p.einst.fruehstart_option = 5;
-    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
-    t.p.einst.start_ampel_modus = 1;
+    mit_software_starten(5);
     status(false);
     ueberfahrt(2, 5000);  // rolls to the start
     t.bahn().Command1.klicken();
@@ -35,10 +25,7 @@ TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaellt
 }
 
 TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) {
-    t.p.einst.cu_sondermodus = true;
-    t.p.einst.fruehstart_option = 1;
-    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
-    t.p.einst.start_ampel_modus = 1;
+    mit_software_starten(1);
     status(true);
     t.maschine.laufen(2100);
     EXPECT_EQ(geschrieben("T2P$"), 1);
@@ -60,7 +47,6 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
     t.p.einst.cu_option = true;
-    t.p.einst.start_ampel_modus = 1;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.p.einst.start_ampel_modus = 1;
     senden("?00$");
@@ -111,10 +97,12 @@ TEST_F(ControlUnitRennen, EinFortgesetztesRennenHaeltAnWennDasGeraetAnhaelt) {
 
 TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
     starten(t.p.txt.text_runden, "10", {1, 2});
+    EXPECT_FALSE(t.bahn().Command3.bedienbar()) << "paused at the unit, as it was started there";
     ueberfahrt(1, 1000);
     t.maschine.laufen(4000 - 3);
     status(true);
     EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_TRUE(t.bahn().Command3.bedienbar());
     EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
     t.maschine.laufen(20000 - 3);
     EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);

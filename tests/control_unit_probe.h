@@ -55,6 +55,13 @@ struct ControlUnitRennen : testing::Test {
         return "?" + std::to_string(wagen) + simulator::control_unit::stempeltext(stempel) + std::to_string(sensor) +
                "0$";
     }
+    /// A race window from which the program starts the unit's light.
+    void mit_software_starten(int fruehstart_option) {
+        t.p.einst.cu_sondermodus = true;
+        t.p.einst.fruehstart_option = fruehstart_option;
+        t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+        t.p.einst.start_ampel_modus = 1;
+    }
     /// Start at the unit's own key, up to its green.
     void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
         t.einrichten(rennart, dauer, lanes);
