@@ -12,7 +12,7 @@ namespace {
 void alles_an(test::testprogramm& t) {
     t.p.form1.t_aktiv.umschalten();
     t.p.einst.sektor_an = {true, true, true, true};
-    t.p.einst.tank_straf_option = 4;
+    t.p.einst.tank_straf_option = leer_aktion::zeitstrafe;
 }
 
 void tick_ohne_ereignis(benchmark::State& lauf) {

@@ -18,8 +18,8 @@ std::string reglerbefehl(int spur, int wert) {
 }  // namespace
 
 int messhardware::modus() const {
-    const std::array<bool, 8> in_kraft{hw_simulation,    hw_iow,        hw_race_control, hw_lpt,
-                                       hw_4x4_modus > 3, hw_timekeeper, hw_cu,           hw_uart};
+    const std::array<bool, 8> in_kraft{hw_simulation, hw_iow,        hw_race_control, hw_lpt,
+                                       hw_4x4(),      hw_timekeeper, hw_cu,           hw_uart};
     for (std::size_t i = 1; i < in_kraft.size(); ++i) {  // a device goes before the keyboard beside it
         if (in_kraft.at(i)) {
             return static_cast<int>(i);
@@ -29,7 +29,7 @@ int messhardware::modus() const {
 }
 
 void messhardware::simulation_ableiten() {
-    hw_simulation = !hw_iow && !hw_race_control && !hw_lpt && !hw_timekeeper && hw_4x4_modus < 4;
+    hw_simulation = !hw_iow && !hw_race_control && !hw_lpt && !hw_timekeeper && !hw_4x4();
 }
 
 bool einstellungen::hardware_anders_als(const einstellungen& andere) const {
@@ -41,7 +41,7 @@ bool einstellungen::hardware_anders_als(const einstellungen& andere) const {
 }
 
 void einstellungen::folgen_ableiten() {
-    ampel_takt = start_ampel_modus == dragrace_ampel ? 500 : 1500;
+    ampel_takt = start_ampel_modus == ampelwahl::dragrace ? 500ms : 1500ms;
     sektor_an[0] = std::any_of(sektor_an.begin() + 1, sektor_an.end(), [](bool an) { return an; });
     for (const int spur : alle_spuren) {
         cu_reglerbefehl[spur] = reglerbefehl(spur, cu_spur_wert[spur]);

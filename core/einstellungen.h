@@ -3,16 +3,16 @@
 #include <array>
 #include <string>
 
+#include "core/einstellungswerte.h"
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
 #include "core/wechselschema.h"
 #include "core/zeit.h"
+#include "platform/dauer.h"
 
 namespace tarvel {
 
 inline constexpr int sounds_max = 64;
-/// `start_ampel_modus` of the drag race.
-inline constexpr int dragrace_ampel = 6;
 
 /// Which timing hardware is in force. The keyboard works beside each of them.
 struct messhardware {
@@ -20,13 +20,14 @@ struct messhardware {
     bool hw_iow = false;
     bool hw_race_control = false;
     bool hw_lpt = false;
-    int hw_4x4_modus = 3;  ///< 3 off, above 3 on
+    modul_4x4 hw_4x4_modus = modul_4x4::aus;
     bool hw_timekeeper = false;
-    int tk_spurmodus = 0;  ///< track mode of the Timekeeper, index in `texte::modus_name`
+    spurmodus tk_spurmodus = spurmodus::keiner;  ///< of the Timekeeper; index in `texte::modus_name`
     bool hw_cu = false;
     bool hw_uart = false;
 
     static constexpr int timekeeper = 5;  ///< its `modus`
+    bool hw_4x4() const { return hw_4x4_modus > modul_4x4::aus; }
     /// Index in `texte::hardware_name` of the device in force; 0 is the keyboard alone.
     int modus() const;
     /// The keyboard counts as the hardware while none of the devices does that has no keyboard beside it.
@@ -39,46 +40,46 @@ struct einstellungen {
     messhardware hardware;
 
     // start and end
-    int start_option = 0;            ///< 1 fixed start time, 2 variable
-    int start_ampel_modus = 0;       ///< index of the start light, 0 none
+    startzeit start_option = startzeit::fest;
+    ampelwahl start_ampel_modus = ampelwahl::keine;
     bool start_zeit_sensor = false;  ///< each lane is timed from its own first crossing
     bool zielmodus_erster = false;   ///< true "erster im Ziel", false "letzter im Ziel"
     bool runde_beenden = false;      ///< lap race: all cars finish the lap they are in
     bool fahrzeug_wechseln = false;  ///< cars change the lane with their drivers, in single races
-    int auswertung_nach = 0;         ///< 1 metres, 2 laps, 3 best lap
+    sortier_modus auswertung_nach = sortier_modus::runden;
     bool aut_speichern = false;
-    bool aut_loeschen = false;     ///< delete automatic result files at program start
-    int nachtrennen_modus = 0;     ///< above 0 the race starts under the dark cover
-    int fruehstart_option = 0;     ///< index of the action on a false start
-    int fruehstart_strafzeit = 0;  ///< hundredths of a second
-    int fruehstart_schritte = 0;   ///< seconds added per false start
+    bool aut_loeschen = false;  ///< delete automatic result files at program start
+    nachtrennen nachtrennen_modus = nachtrennen::aus;
+    fruehstart_aktion fruehstart_option = fruehstart_aktion::ohne;
+    dauer_hs fruehstart_strafzeit{};
+    dauer_s fruehstart_schritte{};  ///< added per false start
 
     // fuel
-    int tank_art = 0;           ///< 1 on one contact, 2 between two contacts
-    int tank_straf_option = 0;  ///< index of the action on an empty tank
+    tankweise tank_art = tankweise::auf_einem_kontakt;
+    leer_aktion tank_straf_option = leer_aktion::ohne;
     int tank_inhalt = 0;        ///< litres
     int tank_verbrauch = 0;     ///< litres per lap
-    int tank_rundenzeit = 0;    ///< nominal lap in seconds
-    int tank_wartezeit = 0;     ///< hundredths of a second
-    int tank_strafzeit = 0;     ///< hundredths of a second
+    dauer_s tank_rundenzeit{};  ///< nominal lap
+    dauer_hs tank_wartezeit{};  ///< from the contact to the first drop
+    dauer_hs tank_strafzeit{};  ///< of an empty tank
     double tank_warnung = 0;    ///< litres
-    int tank_runden_modus = 0;  ///< 0 none, 1 or 2: that tank sensor counts laps
+    rundenzaehlung_auf tank_runden_modus = rundenzaehlung_auf::keinem_tanksensor;
     bool tankanzeige_grafisch = false;
     int tanksensor_justierung = 0;
 
     // pause
-    int sensor_timeout = 0;  ///< ms
+    dauer_ms sensor_timeout{};  ///< crossings at the beginning of a pause, and behind the end, still count
     bool chaosampel_an = false;
     bool chaos_schalter = false;      ///< the chaos input is a switch, not a button
-    int chaos_strafzeit = 0;          ///< seconds, below 0 off
+    dauer_s chaos_strafzeit{};        ///< below 0 off
     bool chaos_strafe_strom = false;  ///< true time penalty, false power cut
 
     // timing hardware
     bool rc_rev_zz = false;
     bool rc_rev_sz = false;
     int rc_level = 0;
-    int rc_delay_ms = 0;
-    int rc_post_ms = 0;
+    dauer_ms rc_delay_ms{};
+    dauer_ms rc_post_ms{};
     bool rc_schalter = false;
     int rc_wert = 0;
     std::string rc_com_port;
@@ -111,21 +112,21 @@ struct einstellungen {
     std::string uart_datei;
 
     // competition and training
-    int w_wechselmodus = 0;
+    wechselweise w_wechselmodus = wechselweise::normal;
     bool freie_slots = false;
     bool w_einfahren_an = false;
     bool w_edauer_runden = false;  ///< the warm-up is measured in laps
-    int w_edauer = 0;
+    int w_edauer = 0;              ///< laps, or seconds
     bool w_autom = false;
-    int w_zeit1 = 0;  ///< ms until the next race
-    int w_zeit2 = 0;  ///< ms after the warm-up
+    dauer_ms w_zeit1{};  ///< until the next race
+    dauer_ms w_zeit2{};  ///< after the warm-up
     bool w_speichern = false;
     bool centermode = false;
     std::string wechselschema_name;
     wechsel_folge wechsel_schema{};
-    int training_art = 0;
-    int training_wechseldauer = 0;  ///< seconds
-    int training_weiter = 0;
+    trainingsart training_art = trainingsart::normal;
+    dauer_s training_wechseldauer{};
+    training_weitergang training_weiter = training_weitergang::neu_starten;
 
     // display
     bool darstellung_zeile = false;  ///< one row per lane instead of one column
@@ -133,13 +134,13 @@ struct einstellungen {
     bool blinken_an = false;
     bool grosse_zeit = false;
     bool fenstermodus = false;
-    int sektor_anzeige = 0;  ///< 0 none, 1 small, 2 large
-    int topspeed_anzeige = 0;
+    sektor_ort sektor_anzeige = sektor_ort::keiner;
+    sektor_ort topspeed_anzeige = sektor_ort::keiner;
     bool real_speed = false;
     std::array<bool, 4> sektor_an{};                   ///< index 1 to 3 the sensors; 0 any of them
     std::array<spuren<std::string>, 4> sektor_laenge;  ///< metres, index 1 to 3
     std::string beste_datei;
-    int beste_modus = 0;
+    bestzeit_speicherung beste_modus = bestzeit_speicherung::aus;
     spuren<farbe> farben_spur;
     std::array<farbe, 4> farben_ampel{};    ///< index 1 to 3; 1 is the background of the race window
     std::array<farbe, 3> farben_schrift{};  ///< index 1 and 2
@@ -156,7 +157,7 @@ struct einstellungen {
     bool hardware_anders_als(const einstellungen& andere) const;
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();
-    int ampel_takt = 1500;                ///< ms of the last step of the start light
+    dauer_ms ampel_takt{1500};            ///< last step of the start light
     spuren<std::string> cu_reglerbefehl;  ///< command for the controller of each lane
 
     trennzeichen_tabelle trennzeichen = trennzeichen_standard;  ///< kept in a file of their own

@@ -80,7 +80,7 @@ void einstellungsdatei::einstellungsdatei_pruefen() {
     }
 }
 
-void einstellungsdatei::einstellungen_uebernehmen(int hw_4x4_modus_start) {
+void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x4_modus_start) {
     const auto& tabelle = einstellungstabelle();
     for (int z = 1; z <= z::letzte_gelesene; ++z) {
         if (tabelle[platz(z)].laden) {
@@ -101,11 +101,11 @@ void einstellungsdatei::einstellungen_uebernehmen(int hw_4x4_modus_start) {
     um_.ziel.haupt.spuren_nach_laden();
 }
 
-void einstellungsdatei::hardware_folgen(int hw_4x4_modus_start) {
+void einstellungsdatei::hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_start) {
     messhardware& hardware = um_.ziel.einst.hardware;
-    if (hw_4x4_modus_start != 0) {
+    if (hw_4x4_modus_start) {
         hardware.hw_iow = hardware.hw_race_control = hardware.hw_lpt = hardware.hw_timekeeper = false;
-        hardware.hw_4x4_modus = hw_4x4_modus_start;
+        hardware.hw_4x4_modus = *hw_4x4_modus_start;
     }
     hardware.simulation_ableiten();
 }
@@ -159,7 +159,7 @@ void einstellungsdatei::einstellungen_standard_setzen() {
         }
         zeilen_.push_back(zeile.standard_aus_texten ? zeile.standard_aus_texten(um_.ziel.txt) : zeile.standard);
     }
-    einstellungen_uebernehmen(0);
+    einstellungen_uebernehmen({});
 }
 
 std::vector<std::string> einstellungsdatei::schreiben() const {

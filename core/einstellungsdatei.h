@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,8 +38,8 @@ public:
                                     version_melden melden = version_melden::ja);
     /// Second stage: refuses the file or mends single lines.
     void einstellungsdatei_pruefen();
-    /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`, else 0.
-    void einstellungen_uebernehmen(int hw_4x4_modus_start);
+    /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`.
+    void einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x4_modus_start);
     /// Runs in the middle of taking over, as soon as it is known which best times are wanted.
     std::function<void()> beste_zeiten_laden;
     /// The lines behind the settings of a competition file.
@@ -56,7 +57,7 @@ public:
 private:
     bool version_pruefen(std::string_view kopf, version_melden melden);
     void wahrheitswoerter_uebersetzen();
-    void hardware_folgen(int hw_4x4_modus_start);
+    void hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_start);
     void rennen_des_wettkampfs_uebernehmen();
     void wechselschema_uebernehmen();
     void cu_spuren_uebernehmen();

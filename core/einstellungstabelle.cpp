@@ -119,7 +119,8 @@ einstellungszeile auswertung_nach() {
         if (text.empty()) {
             return;
         }
-        a.einst.auswertung_nach = zahl_lesen(text) < 0 || zahl_lesen(text) > 3 ? 2 : static_cast<int>(zahl_lesen(text));
+        const double zahl = zahl_lesen(text);
+        a.einst.auswertung_nach = zahl < 0 || zahl > 3 ? sortier_modus::runden : static_cast<sortier_modus>(zahl);
     };
     return neu;
 }
@@ -248,8 +249,7 @@ void farben_und_sounds(tabelle& t) {  // Z 117 to Z 177
 
 void modul_4x4(tabelle& t) {  // Z 178 to Z 216
     t << zeile::titel("[4x4 USB Einstellungen]", false)
-      << zeile::ganzzahl([](const ziel& a) -> int& { return a.einst.hardware.hw_4x4_modus; }, 3,
-                         reparieren_ausser(3, 7, "7"))
+      << zeile::ganzzahl(hardware(&messhardware::hw_4x4_modus), 3, reparieren_ausser(3, 7, "7"))
       << zeile::wahrheit(wert(&e::s6_option), false, nur_wahr, true) << zeile::frei() << zeile::frei() << zeile::frei();
     constexpr std::array<int, 8> eingaenge{16, 15, 14, 13, 31, 29, 27, 25};
     for (std::size_t i = 0; i < eingaenge.size(); ++i) {

@@ -129,12 +129,12 @@ einstellungszeile frei() {
     return fest("frei");
 }
 
-einstellungszeile ganzzahl(const zugriff<int>& ziel, int standard, pruefung::art pruefen, zahl_laden laden) {
+einstellungszeile ganzzahl(const zahlzugriff& ziel, int standard, pruefung::art pruefen, zahl_laden laden) {
     return {std::move(pruefen),
             [ziel, laden](const einstellungs_ziel& e, const std::string& zeile) {
                 const bool leer_oder_ausser = zeile.empty() || ausser(zeile, laden.min, laden.max);
                 if (laden.immer() || !leer_oder_ausser) {
-                    ziel(e) = ganz(zeile);
+                    ziel(e, ganz(zeile));
                 }
             },
             [ziel](const einstellungs_ziel& e) { return mit_blanks(std::to_string(ziel(e))); },

@@ -71,7 +71,7 @@ namespace zeile {
 einstellungszeile titel(std::string_view text, bool geprueft);
 einstellungszeile leer();
 einstellungszeile frei();
-einstellungszeile ganzzahl(const zugriff<int>& ziel, int standard, pruefung::art pruefen = {}, zahl_laden laden = {});
+einstellungszeile ganzzahl(const zahlzugriff& ziel, int standard, pruefung::art pruefen = {}, zahl_laden laden = {});
 einstellungszeile bruch(const zugriff<double>& ziel, std::string_view standard, pruefung::art pruefen);
 /// A number of an event; one that does not exist counts as 0, no function.
 einstellungszeile ereignis(const zugriff<int>& ziel, int standard);

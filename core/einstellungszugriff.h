@@ -1,8 +1,11 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 #include "core/einstellungen.h"
 #include "core/form1.h"
@@ -38,8 +41,38 @@ zugriff<T> je_spur(spuren<T> einstellungen::*feld, int spur) {
     return [feld, spur](const einstellungs_ziel& a) -> T& { return (a.einst.*feld)[spur]; };
 }
 
-inline zugriff<bool> hardware(bool messhardware::*feld) {
-    return [feld](const einstellungs_ziel& a) -> bool& { return a.einst.hardware.*feld; };
+template <class T>
+zugriff<T> hardware(T messhardware::*feld) {
+    return [feld](const einstellungs_ziel& a) -> T& { return a.einst.hardware.*feld; };
 }
+
+/// A whole number of the record, whatever its type: a choice stands for its number, a duration for the count of its
+/// unit.
+class zahlzugriff {
+public:
+    template <std::invocable<const einstellungs_ziel&> Zugriff>
+    zahlzugriff(Zugriff ziel)
+        : lesen_([ziel](const einstellungs_ziel& a) { return als_zahl(ziel(a)); }),
+          setzen_([ziel](const einstellungs_ziel& a, int zahl) {
+              auto& wert = ziel(a);
+              wert = static_cast<std::remove_reference_t<decltype(wert)>>(zahl);
+          }) {}
+
+    int operator()(const einstellungs_ziel& a) const { return lesen_(a); }
+    void operator()(const einstellungs_ziel& a, int zahl) const { setzen_(a, zahl); }
+
+private:
+    template <class T>
+    static int als_zahl(const T& wert) {
+        if constexpr (requires { wert.count(); }) {
+            return static_cast<int>(wert.count());
+        } else {
+            return static_cast<int>(wert);
+        }
+    }
+
+    std::function<int(const einstellungs_ziel&)> lesen_;
+    std::function<void(const einstellungs_ziel&, int)> setzen_;
+};
 
 }  // namespace tarvel

@@ -21,7 +21,7 @@ void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
 
 }  // namespace
 
-form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000)) {
+form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)) {
     timer1_->bei_tick = [this] { timer1_tick(); };
     µwartehinweis.sichtbar(false);
     befehle_verbinden();

@@ -121,7 +121,7 @@ void form1::tankoptionen_zeigen() {
 void form1::beste_zeiten_anzeigen() {
     for (const int nummer : alle_spuren) {
         const bestzeit& beste = um_.bestzeiten.eintrag(1, nummer);
-        const bool zeigen = um_.einst.beste_modus > 0 && !beste.leer();
+        const bool zeigen = um_.einst.beste_modus != bestzeit_speicherung::aus && !beste.leer();
         bezeichnung& label = Label_fahrzeug.at(feld_index(nummer));
         label.text(zeigen ? zeit_formatieren(beste.ms, true, um_.einst.trennzeichen) : "–");
         label.tipp(zeigen ? beste.name + "   " + beste.fahrzeug + "   " + beste.datum : std::string());

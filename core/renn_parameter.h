@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/einstellungswerte.h"
 #include "core/spuren.h"
 #include "platform/uhr.h"
 
@@ -23,7 +24,7 @@ struct renn_parameter {
     spuren<std::string> fahrzeug_name;
     spuren<double> spurlaenge;  ///< metres
     bool tank_aktiv = false;
-    int auswertung_nach_rennen = 2;  ///< `einstellungen::auswertung_nach` of this race
+    sortier_modus auswertung_nach_rennen = sortier_modus::runden;  ///< `einstellungen::auswertung_nach` of this race
     bool training_laeuft = false;
     bool training_autostart = false;  ///< the small start light begins by itself
     bool wettkampf_kein = true;       ///< a single race, no competition

@@ -20,7 +20,7 @@ namespace tarvel {
 std::string at_port_werte(const einstellungen& einst);
 
 /// After the port opens the unit boots this long, and hears nothing.
-inline constexpr int at_bootzeit_ms = 3000;
+inline constexpr dauer_ms at_bootzeit{3000};
 
 /// The timing unit AT-2560 USB. Its events carry the time of its own clock, which each race fetches anew; until it is
 /// known they are stamped with `messzeit`.

@@ -31,12 +31,12 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     : um_(um),
       uhr_(dienste.uhr),
       leitung_(dienste),
-      cu_abfrage_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
-      cu_auswertung_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
-      cu_tankabfrage_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)),
-      cu_tankentscheidung_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)),
-      cu_alter_rz_start_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
-      cu_ende_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100)) {
+      cu_abfrage_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      cu_auswertung_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      cu_tankabfrage_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100ms)),
+      cu_tankentscheidung_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100ms)),
+      cu_alter_rz_start_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      cu_ende_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 100ms)) {
     cu_abfrage_timer_->bei_tick = [this] { leitung_.abfragen(); };
     cu_auswertung_timer_->bei_tick = [this] { cu_auswertung_tick(); };
     cu_tankabfrage_->bei_tick = [this] { leitung_.abfragen(); };

@@ -34,9 +34,9 @@ cu_eigenschaften::cu_eigenschaften(const umgebung& um, const plattform::dienste&
       meldungen_(dienste.meldungen),
       ports_(dienste.serienports),
       leitung_(dienste),
-      Timer1_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
-      Timer2_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1)),
-      port_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::zaehlend, 1000)) {
+      Timer1_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      Timer2_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      port_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::zaehlend, 1000ms)) {
     Timer1_->bei_tick = [this] { abfrage_tick(); };
     Timer2_->bei_tick = [this] { auswertung_tick(); };
     port_timer_->bei_tick = [this] { port_tick(); };

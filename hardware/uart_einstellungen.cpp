@@ -30,7 +30,7 @@ std::string als_pinliste(std::string_view text) {
 uart_einstellungen::uart_einstellungen(const umgebung& um)
     : um_(um),
       port_(um.serienports.erzeugen()),
-      bootzeit_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit_ms)) {
+      bootzeit_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
     port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
     port_->bei_verlust = [this] { port_verloren(); };
     bootzeit_->bei_tick = [this] { boot_vorbei(); };

@@ -118,7 +118,7 @@ void beste_zeiten_verwaltung::oeffnen() {
     kopie_ = um_.bestzeiten;
     geschrieben_ = kopie_;
     datei_ = um_.einst.beste_datei;
-    Combo1.platz(um_.einst.beste_modus);
+    Combo1.platz(static_cast<int>(um_.einst.beste_modus));
     bestefile_name.text("");
     datei_zeigen();
     um_.fenster.zeigen(fenstername, anzeige_art::modal);
@@ -301,7 +301,7 @@ void beste_zeiten_verwaltung::schliessen() {
 }
 
 void beste_zeiten_verwaltung::in_kraft_setzen() {
-    const int modus = std::max(Combo1.platz(), 0);
+    const auto modus = static_cast<bestzeit_speicherung>(std::max(Combo1.platz(), 0));
     const bool anders = um_.einst.beste_modus != modus || um_.einst.beste_datei != datei_;
     um_.bestzeiten = kopie_;
     um_.einst.beste_modus = modus;

@@ -196,7 +196,7 @@ void einstellungsfenster::hardware_uebernehmen() {
     h.hw_iow = gewaehlt(1);
     h.hw_race_control = gewaehlt(2);
     h.hw_lpt = gewaehlt(3);
-    h.hw_4x4_modus = gewaehlt(hardware_4x4) ? std::max(h.hw_4x4_modus, 4) : 3;
+    h.hw_4x4_modus = gewaehlt(hardware_4x4) ? std::max(h.hw_4x4_modus, modul_4x4::modus_1) : modul_4x4::aus;
     h.hw_timekeeper = gewaehlt(5);
     h.hw_cu = gewaehlt(6);
     h.hw_uart = gewaehlt(7);
@@ -258,8 +258,9 @@ void einstellungsfenster::werte_uebernehmen() {
 
 void einstellungsfenster::sektoranzeige_trennen() {
     einstellungen& einst = um_.ziel.einst;
-    if (einst.sektor_anzeige != 0 && einst.sektor_anzeige == einst.topspeed_anzeige) {
-        einst.topspeed_anzeige = einst.sektor_anzeige == 1 ? 2 : 1;  // both would stand in the same place
+    if (einst.sektor_anzeige != sektor_ort::keiner && einst.sektor_anzeige == einst.topspeed_anzeige) {
+        einst.topspeed_anzeige =  // both would stand in the same place
+            einst.sektor_anzeige == sektor_ort::klein ? sektor_ort::gross : sektor_ort::klein;
     }
 }
 

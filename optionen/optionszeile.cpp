@@ -79,7 +79,7 @@ optionszeile_zeiger leeres_feld(const beschriftet& b, int laenge_max) {
     return std::move(zeile);
 }
 
-optionszeile_zeiger zahl(const beschriftet& b, const zugriff<int>& ziel, const zahl_regel& regel, int faktor) {
+optionszeile_zeiger zahl(const beschriftet& b, const zahlzugriff& ziel, const zahl_regel& regel, int faktor) {
     auto [zeile, element] = neue_zeile<feld>(b);
     optionszeile* zeiger = zeile.get();
     element->laenge_max(zahlenfeld_laenge);
@@ -104,7 +104,7 @@ optionszeile_zeiger zahl(const beschriftet& b, const zugriff<int>& ziel, const z
         if (ausserhalb) {
             zahl = zahl < regel.min ? regel.darunter : regel.darueber;
         }
-        ziel(z) = static_cast<int>(std::lround(zahl * faktor));
+        ziel(z, static_cast<int>(std::lround(zahl * faktor)));
     };
     return std::move(zeile);
 }
@@ -132,7 +132,7 @@ optionszeile_zeiger meter(const beschriftet& b, const zugriff<std::string>& ziel
     return zeile;
 }
 
-optionszeile_zeiger wahl(const beschriftet& b, const zugriff<int>& ziel, int erster,
+optionszeile_zeiger wahl(const beschriftet& b, const zahlzugriff& ziel, int erster,
                          const std::vector<std::string_view>& eintraege) {
     auto [zeile, element] = neue_zeile<auswahl>(b);
     eintraege_nennen(*zeile, eintraege);
@@ -142,7 +142,7 @@ optionszeile_zeiger wahl(const beschriftet& b, const zugriff<int>& ziel, int ers
     };
     zeile->uebernehmen = [ziel, erster, e = element](const einstellungs_ziel& z, const auto&) {
         if (e->platz() >= 0) {  // a value without an entry stays as it is
-            ziel(z) = e->platz() + erster;
+            ziel(z, e->platz() + erster);
         }
     };
     return std::move(zeile);

@@ -67,14 +67,14 @@ namespace option {
 
 optionszeile_zeiger kasten(const beschriftet& b, const zugriff<bool>& ziel);
 /// The field shows the value divided by `faktor`.
-optionszeile_zeiger zahl(const beschriftet& b, const zugriff<int>& ziel, const zahl_regel& regel, int faktor = 1);
+optionszeile_zeiger zahl(const beschriftet& b, const zahlzugriff& ziel, const zahl_regel& regel, int faktor = 1);
 /// A text of fewer characters than `mindestens` leaves the old one.
 optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel, int laenge_max,
                          std::size_t mindestens = 0);
 /// A length that is kept as text, with a decimal point.
 optionszeile_zeiger meter(const beschriftet& b, const zugriff<std::string>& ziel);
 /// The first entry stands for the value `erster`, each further one for the next number.
-optionszeile_zeiger wahl(const beschriftet& b, const zugriff<int>& ziel, int erster,
+optionszeile_zeiger wahl(const beschriftet& b, const zahlzugriff& ziel, int erster,
                          const std::vector<std::string_view>& eintraege);
 /// The first entry stands for true.
 optionszeile_zeiger entweder(const beschriftet& b, const zugriff<bool>& ziel, std::string_view wahr,

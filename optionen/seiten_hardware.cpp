@@ -20,7 +20,7 @@ std::vector<std::string> comport_namen(int anzahl) {
 }
 
 /// A port number, with 0 for none.
-optionszeile_zeiger comport(const beschriftet& b, const zugriff<int>& ziel, int anzahl) {
+optionszeile_zeiger comport(const beschriftet& b, const zahlzugriff& ziel, int anzahl) {
     const std::vector<std::string> namen = comport_namen(anzahl);
     std::vector<std::string_view> eintraege{"Kein Comport"};
     eintraege.insert(eintraege.end(), namen.begin(), namen.end());
@@ -91,10 +91,12 @@ void druckeranschluss(optionsseite& seite) {
     }
 }
 
-void modul_4x4(optionsseite& seite) {
+using modul_4x4_modus = tarvel::modul_4x4;
+
+void modul_4x4_seite(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("4x4 USB", 1);
-    gruppe << wahl({"optModus", "Modus"},
-                   [](const einstellungs_ziel& z) -> int& { return z.einst.hardware.hw_4x4_modus; }, 4,
+    gruppe << wahl({"optModus", "Modus"}, hardware(&tarvel::messhardware::hw_4x4_modus),
+                   static_cast<int>(modul_4x4_modus::modus_1),
                    {"Digital IR-Modus", "PRO-X Lochposition", "PRO-X Lochzählung", "Kontakt Modus"})
            << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6_option));
     for (std::size_t i = 1; i <= 8; ++i) {
@@ -148,7 +150,7 @@ optionsseite_zeiger messhardware() {
     seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow_datei), 60);
     race_control(*seite);
     druckeranschluss(*seite);
-    modul_4x4(*seite);
+    modul_4x4_seite(*seite);
     seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk_datei), 60);
     control_unit(*seite);
     at_2560(*seite);

@@ -8,8 +8,8 @@ namespace {
 using namespace option;
 using e = einstellungen;
 
-/// The tick boxes of the dark race: their sum is the mode.
-void nachtrennen(optionsgruppe& gruppe) {
+/// The tick boxes of the dark race; the second is free only with the first.
+void nachtrennen_kaesten(optionsgruppe& gruppe) {
     gruppe << leerer_kasten({"nachtrennen", "Nachtrennen"}) << leerer_kasten({"nachtampel", "Nachtampel"});
     optionszeile& zweite = *gruppe.zeilen.back();
     haken* rennen = &std::get<haken>(gruppe.zeilen[gruppe.zeilen.size() - 2]->element);
@@ -19,12 +19,14 @@ void nachtrennen(optionsgruppe& gruppe) {
         ampel->gesetzt(ampel->gesetzt() && rennen->gesetzt());
     };
     zweite.zeigen = [rennen, ampel](const einstellungs_ziel& z) {
-        rennen->gesetzt(z.einst.nachtrennen_modus > 0);
-        ampel->gesetzt(z.einst.nachtrennen_modus > 1);
+        rennen->gesetzt(z.einst.nachtrennen_modus > tarvel::nachtrennen::aus);
+        ampel->gesetzt(z.einst.nachtrennen_modus > tarvel::nachtrennen::rennen);
         ampel->aktiviert(rennen->gesetzt());
     };
     zweite.uebernehmen = [rennen, ampel](const einstellungs_ziel& z, const auto&) {
-        z.einst.nachtrennen_modus = (rennen->gesetzt() ? 1 : 0) + (ampel->gesetzt() ? 1 : 0);
+        z.einst.nachtrennen_modus = ampel->gesetzt()    ? tarvel::nachtrennen::rennen_und_ampel
+                                    : rennen->gesetzt() ? tarvel::nachtrennen::rennen
+                                                        : tarvel::nachtrennen::aus;
     };
 }
 
@@ -35,16 +37,15 @@ optionszeile_zeiger fruehstart_strafzeit() {
              {0, 300, "Stromunterbrechung bei Frühstart außerhalb des gültigen Bereichs (0-300)."}, 100);
     zeile->uebernehmen = [davor = zeile->uebernehmen, element = &std::get<feld>(zeile->element)](
                              const einstellungs_ziel& z, const optionszeile::melder& melden) {
-        constexpr int schritt = 100;
-        const int bisher = z.einst.fruehstart_strafzeit;
+        const dauer_hs bisher = z.einst.fruehstart_strafzeit;
         bool gut = true;
         davor(z, [&](const std::string& meldung) {
             gut = false;
             melden(meldung);
         });
         // the tenth of a second that a start may have left behind is no step that somebody has chosen
-        if (gut && (z.einst.fruehstart_strafzeit != bisher || bisher >= schritt)) {
-            z.einst.fruehstart_schritte = z.einst.fruehstart_strafzeit / schritt;
+        if (gut && (z.einst.fruehstart_strafzeit != bisher || bisher >= 1s)) {
+            z.einst.fruehstart_schritte = std::chrono::duration_cast<dauer_s>(z.einst.fruehstart_strafzeit);
         }
     };
     return zeile;
@@ -83,7 +84,7 @@ optionsseite_zeiger start_ziel() {
           << wahl({"start_option", "Startzeit"}, wert(&e::start_option), 1, {"Startzeit fix", "Startzeit variabel"})
           << kasten({"start_zeit_sensor", "Startzeiten je Spur bei Sensor"}, wert(&e::start_zeit_sensor))
           << kasten({"blinken_an", "Blinken vor Rennbeginn"}, wert(&e::blinken_an));
-    nachtrennen(start);
+    nachtrennen_kaesten(start);
     seite->gruppe("Frühstart", 0) << wahl({"fruehstartcombo", "Aktion bei Frühstart"}, wert(&e::fruehstart_option), 0,
                                           {"ohne", "Startabbruch", "Disqualifikation", "Stromunterbrechung",
                                            "1 Runde Abzug", "Zeitstrafe"})

@@ -3,6 +3,8 @@
 #include <functional>
 #include <memory>
 
+#include "platform/dauer.h"
+
 namespace tarvel::plattform {
 
 enum class zeitgeber_art {
@@ -19,8 +21,8 @@ public:
     zeitgeber& operator=(const zeitgeber&) = delete;
     virtual ~zeitgeber() = default;
 
-    /// Interval in ms. A timer with an interval below 1 never fires. Changing it starts the running interval anew.
-    virtual void intervall(int ms) = 0;
+    /// A timer with an interval below 1 ms never fires. Changing it starts the running interval anew.
+    virtual void intervall(dauer_ms dauer) = 0;
     /// Switching on a running timer changes nothing.
     virtual void an() = 0;
     virtual void aus() = 0;
@@ -32,7 +34,7 @@ public:
 class zeitgeber_dienst {
 public:
     virtual ~zeitgeber_dienst() = default;
-    virtual std::unique_ptr<zeitgeber> erzeugen(zeitgeber_art art, int intervall_ms) = 0;
+    virtual std::unique_ptr<zeitgeber> erzeugen(zeitgeber_art art, dauer_ms intervall) = 0;
 };
 
 }  // namespace tarvel::plattform

@@ -7,14 +7,14 @@ namespace {
 
 class QtZeitgeber final : public plattform::zeitgeber {
 public:
-    QtZeitgeber(const plattform::uhr& uhr, plattform::zeitgeber_art art, int intervall_ms)
-        : uhr_(uhr), art_(art), intervall_(intervall_ms) {
+    QtZeitgeber(const plattform::uhr& uhr, plattform::zeitgeber_art art, dauer_ms intervall)
+        : uhr_(uhr), art_(art), intervall_(intervall.count()) {
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { feuern(); });
     }
 
-    void intervall(int ms) override {
-        intervall_ = ms;
+    void intervall(dauer_ms dauer) override {
+        intervall_ = dauer.count();
         if (laeuft_) {
             aus();
             an();
@@ -28,7 +28,7 @@ public:
         laeuft_ = true;
         if (intervall_ > 0) {
             faellig_ = uhr_.jetzt() + intervall_;
-            timer_.start(intervall_);
+            timer_.start(static_cast<int>(intervall_));
         }
     }
 
@@ -61,7 +61,7 @@ private:
 
     const plattform::uhr& uhr_;
     plattform::zeitgeber_art art_;
-    int intervall_;
+    zeit_ms intervall_;
     bool laeuft_ = false;
     zeit_ms faellig_ = 0;
     QTimer timer_;
@@ -69,8 +69,8 @@ private:
 
 }  // namespace
 
-std::unique_ptr<plattform::zeitgeber> QtZeitgeberDienst::erzeugen(plattform::zeitgeber_art art, int intervall_ms) {
-    return std::make_unique<QtZeitgeber>(uhr_, art, intervall_ms);
+std::unique_ptr<plattform::zeitgeber> QtZeitgeberDienst::erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) {
+    return std::make_unique<QtZeitgeber>(uhr_, art, intervall);
 }
 
 }  // namespace tarvel::qt

@@ -9,7 +9,7 @@ namespace tarvel::qt {
 class QtZeitgeberDienst final : public plattform::zeitgeber_dienst {
 public:
     explicit QtZeitgeberDienst(const plattform::uhr& uhr) : uhr_(uhr) {}
-    std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, int intervall_ms) override;
+    std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
 
 private:
     const plattform::uhr& uhr_;

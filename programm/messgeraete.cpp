@@ -11,7 +11,7 @@ messgeraete::messgeraete(const umgebung& um, const plattform::dienste& dienste)
           dienste.meldungen}),
       um_(um),
       meldungen_(dienste.meldungen),
-      anzeigetakt_(dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500)) {
+      anzeigetakt_(dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500ms)) {
     cu_verbinden();
     at_verbinden();
     anzeigetakt_->bei_tick = [this] { verbindung_anzeigen(); };

@@ -264,7 +264,6 @@ std::string programm::einstellungsname(std::string_view pfad) const {
 }
 
 void programm::start_datei_bestimmen() {
-    constexpr int modul_aus = 3;
     s6_start start = s6_laden(ablage);
     const bool neustart = start.zustand == "2";
     einstell_datei = start.einstell_datei;
@@ -274,8 +273,8 @@ void programm::start_datei_bestimmen() {
     } else if (name.size() + einstellungsordner.size() < einstell_datei.size()) {
         einstell_datei = std::string(einstellungsordner) + name;
     }
-    const auto modus = static_cast<int>(ganzzahl_lesen(start.modus, 0, 7));
-    hw_4x4_modus_start_ = neustart && modus >= modul_aus ? modus : 0;
+    const auto modus = static_cast<modul_4x4>(ganzzahl_lesen(start.modus, 0, 7));
+    hw_4x4_modus_start_ = neustart && modus >= modul_4x4::aus ? std::optional(modus) : std::nullopt;
     if (!neustart) {
         einstell_standarddatei = einstell_datei;
     }
@@ -293,7 +292,7 @@ void programm::einstellungen_laden() {
         datei.einstellungsdatei_pruefen();
     }
     if (!datei.fehler_laden()) {
-        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, 0));
+        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, std::nullopt));
     }
     einstell_datei = einstellungsname(einstell_datei);
     form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));

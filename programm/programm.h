@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -123,7 +124,7 @@ private:
 
     std::string bestzeiten_datei_;  ///< last one that was asked for
 
-    int hw_4x4_modus_start_ = 0;  ///< mode of the 4x4 module that a restart asked for, 0 none
+    std::optional<modul_4x4> hw_4x4_modus_start_;  ///< mode of the 4x4 module that a restart asked for
 
     bool laden_aus_menue_ = false;  ///< a load on the operator's command, not at start
     bool programm_beendet_ = false;

@@ -5,7 +5,7 @@
 namespace tarvel {
 
 update_form::update_form(plattform::zeitgeber_dienst& zeitgeber, const dateien& ablage, fensterregister& fenster)
-    : ablage_(ablage), fensterschliessen_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500)) {
+    : ablage_(ablage), fensterschliessen_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500ms)) {
     fensterschliessen_->bei_tick = [&fenster] { fenster.entladen("Update_form"); };
 }
 
@@ -16,7 +16,7 @@ void update_form::laden() {
 }
 
 form3::form3(plattform::zeitgeber_dienst& zeitgeber, fensterregister& fenster)
-    : timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 2000)) {
+    : timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 2000ms)) {
     timer1_->bei_tick = [&fenster] { fenster.entladen("Form3"); };
     Command1.bei_klick = [&fenster] { fenster.entladen("Form3"); };
 }

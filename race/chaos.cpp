@@ -10,7 +10,7 @@
 namespace tarvel {
 namespace {
 
-constexpr int sammeltakt_ms = 10;  // of `ch_durch0`
+constexpr dauer_ms sammeltakt{10};  // of `ch_durch0`
 constexpr zeit_ms straftakt_ms = 12;
 constexpr zeit_ms strafe_zugabe_ms = 100;
 constexpr double strafe_max_s = 9999;
@@ -127,7 +127,7 @@ void chaos::pause_beginnen() {
     if (!um_.einst.chaos_schalter) {
         um_.ereignisse[art::chaostaster].aktiv = false;
     }
-    if (um_.einst.sensor_timeout == 0) {
+    if (um_.einst.sensor_timeout == 0ms) {
         sammeln_beenden();
     } else {
         um_.zeitgeber.ch_durch0->an();
@@ -175,21 +175,21 @@ void chaos::zeitgeber_fortsetzen() {
         if (zustand.tank_strafe_aktiv) {
             um_.zeitgeber.t_straftimer[spur]->an();
         }
-        if (zustand.tank_wartezaehler > 0) {
+        if (zustand.tank_wartezaehler > 0s) {
             um_.zeitgeber.tanktimer[spur]->an();
         }
     }
 }
 
 void chaos::strafformular_zeigen() {
-    if (um_.einst.chaos_strafzeit < 0) {
+    if (um_.einst.chaos_strafzeit < 0s) {
         return;
     }
     for (const int spur : alle_spuren) {
         um_.bahn.ch_strafzeit_hacken[spur].sichtbar(um_.param.spur_aktiv[spur]);
     }
     um_.bahn.ch_Text1.laenge_max(4);
-    um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit));
+    um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit.count()));
     um_.bahn.ch_strafframe.sichtbar(true);
 }
 
@@ -239,7 +239,7 @@ void chaos::sammeln_beenden() {
 
 void chaos::ch_durch0_tick() {
     durchfahrten_merken();
-    if (++um_.zustand.pause.ch_zaehler >= um_.einst.sensor_timeout / sammeltakt_ms) {
+    if (++um_.zustand.pause.ch_zaehler >= um_.einst.sensor_timeout / sammeltakt) {
         sammeln_beenden();
     }
 }
@@ -315,7 +315,7 @@ void chaos::strafen_verteilen() {
         }
         spur_zustand& zustand = um_.zustand.spur[spur];
         if (um_.einst.chaos_strafe_strom) {
-            t_.strafe.zeitstrafe(spur, static_cast<int>(std::lround(sekunden)));
+            t_.strafe.zeitstrafe(spur, dauer_s(std::lround(sekunden)));
         } else {
             zustand.fruehstart_sperre = true;
             zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;

@@ -68,7 +68,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     t_.tank.fuellstaende_zeigen();
     t_.uhr.fortsetzen_uhreinstellen();
     for (const int spur : alle_spuren) {
-        if (um_.param.spur_aktiv[spur] && zustand.spur[spur].strafzeit > 0) {
+        if (um_.param.spur_aktiv[spur] && zustand.spur[spur].strafzeit > 0s) {
             t_.strafe.straflabel_zeigen(spur);
         }
     }
@@ -107,7 +107,7 @@ void fortsetzung::spur_freigeben(int spur) {
     zustand.strom_aus = rest_zu_verbuessen || zustand.disqualifiziert;
     zustand.tank_kontakt = false;
     zustand.tankt_seit = 0;
-    zustand.tank_wartezaehler = 0;
+    zustand.tank_wartezaehler = {};
     zustand.tank_halt = false;
     zustand.ch_durchfahrt = false;
 }

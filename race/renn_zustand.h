@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/spuren.h"
+#include "platform/dauer.h"
 #include "platform/uhr.h"
 #include "race/rundenspeicher.h"
 
@@ -17,15 +18,15 @@ struct spur_zustand {
     int runden_vorher = 0;       ///< laps up to this one were driven, in whole or in part, before the race went on
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
     zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
-    int strafzeit = 0;           ///< time penalty in seconds
+    dauer_s strafzeit{};         ///< time penalty
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
     bool disqualifiziert = false;
     bool fruehstart_sperre = false;    ///< serves a penalty and counts nothing
     double tank_inhalt = 0;            ///< litres
     bool tank_kontakt = false;         ///< stands on the tank contact
     zeit_ms tankt_seit = 0;            ///< stamp up to which refuelling has come, 0 while the lane does not refuel
-    int tank_wartezaehler = 0;         ///< hundredths of a second of the wait before refuelling
-    int tank_strafzaehler = 0;         ///< hundredths of a second of the penalty of an empty tank
+    dauer_hs tank_wartezaehler{};      ///< of the wait before refuelling
+    dauer_hs tank_strafzaehler{};      ///< of the penalty of an empty tank
     bool tank_runde_genommen = false;  ///< that penalty holds back a lap
     bool tank_strafe_aktiv = false;    ///< serves the penalty of an empty tank
     bool tank_halt = false;            ///< held for a moment after a full tank
@@ -35,6 +36,9 @@ struct spur_zustand {
     zeit_ms ch_durchfahrt_zeit = 0;    ///< stamp of that
     zeit_ms ch_strafe_rest = 0;        ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
+
+    /// What the time penalty adds to a lap: as many thousandths as it has seconds. Its seconds are added to the result.
+    zeit_ms strafzuschlag() const { return strafzeit.count(); }
 };
 
 /// The pause that is, or the last one.
@@ -61,8 +65,8 @@ struct renn_zustand {
     zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
     int fuehrungsrunden = 0;        ///< most laps that any lane has reached
     int nachlauf_minuten = 0;       ///< minutes of the run-on so far
-    int fruehstart_zaehler = 0;     ///< hundredths of a second of the false-start penalty so far
-    int ampel_takt = 1500;          ///< ms of the last step of the start light, for this start
+    dauer_hs fruehstart_zaehler{};  ///< of the false-start penalty so far
+    dauer_ms ampel_takt{1500};      ///< last step of the start light, for this start
     int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
     bool rennen_beendet = true;
     bool fortgesetzt = false;         ///< the race goes on from an earlier result

@@ -49,7 +49,7 @@ void rennablauf::rennen_zuruecksetzen() {
     renn_zustand& zustand = um_.zustand;
     for (const int spur : alle_spuren) {
         spur_zustand& frisch = zustand.spur[spur];
-        const int strafzeit = frisch.strafzeit;         // belongs to the start, not to the reset
+        const dauer_s strafzeit = frisch.strafzeit;     // belongs to the start, not to the reset
         const double tank_inhalt = frisch.tank_inhalt;  // perhaps that of a device
         frisch = {};
         frisch.strafzeit = strafzeit;
@@ -62,7 +62,7 @@ void rennablauf::rennen_zuruecksetzen() {
     zustand.fortgesetzt = false;
     zustand.fortsetzung_wartet = false;
     zustand.fuehrungsrunden = 0;
-    zustand.fruehstart_zaehler = 0;
+    zustand.fruehstart_zaehler = {};
     um_.zeitgeber.f_straftimer->aus();
     um_.zeitgeber.f_straftimer2->aus();
     t_.ende.zuruecksetzen();
@@ -75,14 +75,14 @@ void rennablauf::rennen_zuruecksetzen() {
 }
 
 void rennablauf::ampel_takt_bestimmen() {
-    constexpr int startzeit_variabel = 2;
     um_.zustand.ampel_takt = um_.einst.ampel_takt;
-    if (um_.einst.start_option != startzeit_variabel) {
+    if (um_.einst.start_option != startzeit::variabel) {
         return;
     }
     const double zufall = um_.zufall.bruchteil();
-    um_.zustand.ampel_takt = um_.einst.start_ampel_modus == dragrace_ampel ? static_cast<int>((zufall * 5 + 1) * 500)
-                                                                           : static_cast<int>(zufall * 4 + 1) * 1000;
+    um_.zustand.ampel_takt = um_.einst.start_ampel_modus == ampelwahl::dragrace
+                                 ? dauer_ms(static_cast<int>((zufall * 5 + 1) * 500))
+                                 : dauer_s(static_cast<int>(zufall * 4 + 1));
 }
 
 void rennablauf::rennstart_vorbereiten() {
@@ -97,7 +97,7 @@ void rennablauf::rennstart_vorbereiten() {
     um_.ereignisse.ruhe_herstellen();
     for (spur_zustand& spur : um_.zustand.spur) {
         spur.tank_halt = false;
-        spur.strafzeit = 0;
+        spur.strafzeit = {};
     }
     t_.uhr.restzeit_vorbereiten(um_.param.renn_ziel);
     ampel_takt_bestimmen();
@@ -108,10 +108,10 @@ void rennablauf::rennstart_vorbereiten() {
     um_.bahn.Command4.aktiviert(false);
     um_.bahn.Command6.aktiviert(false);
     um_.bahn.Frame1.fokus_setzen();  // a second press of the same key must not reach the next command
-    if (um_.einst.nachtrennen_modus > 0) {
+    if (um_.einst.nachtrennen_modus != nachtrennen::aus) {
         t_.ansicht.bildschirm_dunkel();
     }
-    if (um_.einst.start_ampel_modus == 0 && um_.quellen.ampel() == nullptr) {
+    if (um_.einst.start_ampel_modus == ampelwahl::keine && um_.quellen.ampel() == nullptr) {
         rennen_starten();
     } else {
         um_.fenster.zeigen("Form2");

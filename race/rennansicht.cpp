@@ -217,13 +217,14 @@ void rennansicht::bestzeit_anzeige() {
     const auto zeit = [this](const bestzeit& b) { return zeit_formatieren(b.ms, true, um_.einst.trennzeichen); };
     for (const int spur : alle_spuren) {
         const bestzeit& beste = um_.bestzeiten.eintrag(1, spur);
-        const bool zeigen = um_.param.spur_aktiv[spur] && um_.einst.beste_modus > 0 && !beste.leer();
+        const bool zeigen =
+            um_.param.spur_aktiv[spur] && um_.einst.beste_modus != bestzeit_speicherung::aus && !beste.leer();
         bahn.bestzeit_label[spur].text(zeigen ? bahn.wort.bestzeit + zeit(beste) : std::string());
         bahn.bestzeit_label[spur].sichtbar(zeigen);
     }
     const bestzeit& rekord = um_.bestzeiten.gesamt();
     bahn.bestzeit_gesamt.text(rekord.leer() ? "" : zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
-    bahn.bestzeit_gesamt.sichtbar(um_.einst.beste_modus > 0 && !rekord.leer());
+    bahn.bestzeit_gesamt.sichtbar(um_.einst.beste_modus != bestzeit_speicherung::aus && !rekord.leer());
 }
 
 void rennansicht::farben_setzen() {

@@ -6,12 +6,6 @@
 #include "core/zeit.h"
 
 namespace tarvel {
-namespace {
-
-constexpr int zwischen_zwei_kontakten = 2;  // `tank_art`
-
-}  // namespace
-
 bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
     sensorsperre& sperre = um_.zustand.spur[spur].sensor_sperre;
     if (!(ereignis.aktiv && sperre == sensorsperre::eben_gezaehlt)) {
@@ -26,14 +20,13 @@ bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
 zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     if (zustand.runden >= 0 && !zustand.fruehstart_sperre) {
-        // A penalty counts as that many thousandths here; its seconds are added to the race total.
         for (int zeile = zustand.runden_zeile - 1; zeile >= 0; --zeile) {
             const zeit_ms vorher = um_.zustand.rundenzeiten.stempel(spur, zeile);
             if (vorher != 0) {
-                return stempel - vorher + zustand.strafzeit;
+                return stempel - vorher + zustand.strafzuschlag();
             }
         }
-        return stempel - zustand.start_zeit + zustand.strafzeit;
+        return stempel - zustand.start_zeit + zustand.strafzuschlag();
     }
     if (um_.einst.start_zeit_sensor && zustand.runden == -1) {
         zustand.start_zeit = stempel;
@@ -44,7 +37,7 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
 bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.fruehstart_sperre &&
-           (!zustand.tank_halt || um_.einst.tank_art == zwischen_zwei_kontakten) &&
+           (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || zustand.runden == -1) &&
            !zustand.tank_strafe_aktiv && !zustand.ziel_erreicht &&
            !um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft();

@@ -11,17 +11,16 @@ namespace tarvel {
 namespace {
 
 constexpr int sensoren_je_spur = 2;
-enum class anzeige_ort { keine, klein, gross };
 
 /// Event of a lane's sector sensor 1 or 2.
 constexpr ereignis_art art_von(int spur, int sensor) {
     return erste_zwischenzeit + sensoren_je_spur * (spur - 1) + sensor - 1;
 }
 
-void anzeigen_in(bahn1& bahn, int spur, int ort, const std::string& text) {
-    if (ort == static_cast<int>(anzeige_ort::klein)) {
+void anzeigen_in(bahn1& bahn, int spur, sektor_ort ort, const std::string& text) {
+    if (ort == sektor_ort::klein) {
         bahn.brunde[spur].text(text);
-    } else if (ort == static_cast<int>(anzeige_ort::gross)) {
+    } else if (ort == sektor_ort::gross) {
         bahn.lrunde[spur].text(text);
     }
 }
@@ -91,7 +90,7 @@ void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
         basis += sektorzeit(spur, 1, zeile);
     }
     const zeit_ms zeit =
-        um_.ereignisse[art_von(spur, sektor)].ereignis_zeit - basis + zustand.strafzeit - zustand.pause_abzug;
+        um_.ereignisse[art_von(spur, sektor)].ereignis_zeit - basis + zustand.strafzuschlag() - zustand.pause_abzug;
     sektorzeit(spur, sektor, zeile, zeit);
     anzeigen(spur, sektor, zeit);
     um_.sounds.spielen(sound::sektorzeit);
@@ -142,8 +141,8 @@ void sektoren::letzten_sektor_speichern(int spur, int zeile, zeit_ms stempel, ze
         return;
     }
     const zeit_ms bisher = sektorzeit(spur, 1, zeile) + sektorzeit(spur, 2, zeile);
-    const zeit_ms zeit =
-        stempel - um_.zustand.rundenzeiten.stempel(spur, zeile - 1) - bisher - pause + um_.zustand.spur[spur].strafzeit;
+    const zeit_ms zeit = stempel - um_.zustand.rundenzeiten.stempel(spur, zeile - 1) - bisher - pause +
+                         um_.zustand.spur[spur].strafzuschlag();
     sektorzeit(spur, um_.einst.sektor_an[3] ? 3 : 2, zeile, zeit);
 }
 

@@ -12,14 +12,14 @@ strafen::strafen(const renn_umgebung& um, rennansicht& ansicht) : um_(um), ansic
     um_.zeitgeber.f_straftimer2->bei_tick = [this] { f_straftimer2_tick(); };
 }
 
-void strafen::zeitstrafe(int spur, int sekunden) {
-    um_.zustand.spur[spur].strafzeit += sekunden;
+void strafen::zeitstrafe(int spur, dauer_s mehr) {
+    um_.zustand.spur[spur].strafzeit += mehr;
     straflabel_zeigen(spur);
 }
 
 void strafen::straflabel_zeigen(int spur) {
     bezeichnung& label = um_.bahn.straflabel[spur];
-    label.text(um_.bahn.wort.strafzeit + ": " + std::to_string(um_.zustand.spur[spur].strafzeit) + " sec");
+    label.text(um_.bahn.wort.strafzeit + ": " + std::to_string(um_.zustand.spur[spur].strafzeit.count()) + " sec");
     label.sichtbar(um_.param.spur_aktiv[spur]);
 }
 
@@ -76,7 +76,7 @@ bool strafen::verbuesst_fruehstart(int spur) const {
 }
 
 void strafen::f_straftimer_tick() {
-    um_.zeitgeber.f_straftimer2->intervall(static_cast<int>(um_.param.min_rundenzeit_ms));
+    um_.zeitgeber.f_straftimer2->intervall(dauer_ms(um_.param.min_rundenzeit_ms));
     if (++um_.zustand.fruehstart_zaehler < um_.einst.fruehstart_strafzeit) {
         return;
     }
@@ -88,7 +88,7 @@ void strafen::f_straftimer_tick() {
             um_.zeitgeber.f_straftimer2->an();
         }
     }
-    um_.zustand.fruehstart_zaehler = 0;
+    um_.zustand.fruehstart_zaehler = {};
     um_.zeitgeber.f_straftimer->aus();
 }
 

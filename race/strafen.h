@@ -10,8 +10,8 @@ class strafen {
 public:
     strafen(const renn_umgebung& um, rennansicht& ansicht);
 
-    /// Adds whole seconds to the lane's penalty and shows the sum.
-    void zeitstrafe(int spur, int sekunden);
+    /// Adds to the lane's penalty and shows the sum.
+    void zeitstrafe(int spur, dauer_s mehr);
     void straflabel_zeigen(int spur);
 
     /// Cuts the lane's power; its small light goes to red.

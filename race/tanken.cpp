@@ -17,23 +17,20 @@ constexpr double schritt_liter = 0.1;
 constexpr zeit_ms schritt_ms = 10;
 constexpr double tank_liter_drei_stellen = 100;
 
-enum class leer_aktion { disqualifikation = 1, runde_weg = 2, stromunterbrechung = 3, zeitstrafe = 4 };
-enum class rundenzaehlung_auf { keinem_tanksensor, tanksensor_1, tanksensor_2 };
-
 double runden_auf(double wert, double je_eins) {
     return std::round(wert * je_eins) / je_eins;
 }
 
 }  // namespace
 
-double verbrauch(zeit_ms zeit, int liter_je_runde, int nominal_s) {
+double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit) {
     const zeit_teile teile = zeit_zerlegen(zeit);
     const double rest = static_cast<double>(teile.millisekunden) / 1000;
     const double sekunden = static_cast<double>(teile.minuten * 60 + teile.sekunden) + rest;
     const double nominal = liter_je_runde;
     const double mindestens = 2 * nominal / 3;
     const double hoechstens = nominal + nominal + 0.75;
-    const double je_zeit = sekunden > 0 ? nominal * nominal_s / sekunden : hoechstens;
+    const double je_zeit = sekunden > 0 ? nominal * static_cast<double>(rundenzeit.count()) / sekunden : hoechstens;
     return runden_auf(std::min(std::max(je_zeit, mindestens), hoechstens) + rest, 100);
 }
 
@@ -78,8 +75,7 @@ void tanken::fuellstand_melden(int spur, int stufe, int stufen) {
 }
 
 void tanken::sensoren_nachhalten() {
-    constexpr int auf_einem_kontakt = 1;
-    if (!um_.param.tank_aktiv || um_.einst.tank_art != auf_einem_kontakt) {
+    if (!um_.param.tank_aktiv || um_.einst.tank_art != tankweise::auf_einem_kontakt) {
         return;
     }
     for (const int spur : alle_spuren) {
@@ -144,7 +140,7 @@ void tanken::kontakt_auswerten(int spur) {
     if (ein.aktiv && !zustand.tank_kontakt) {
         um_.zeitgeber.tanktimer[spur]->an();
     }
-    const auto modus = static_cast<rundenzaehlung_auf>(um_.einst.tank_runden_modus);
+    const rundenzaehlung_auf modus = um_.einst.tank_runden_modus;
     const bool ueberfahrt = (modus == rundenzaehlung_auf::tanksensor_2 && aus.aktiv) ||
                             (modus == rundenzaehlung_auf::tanksensor_1 && ein.aktiv);
     if (ueberfahrt && !zustand.tank_kontakt) {
@@ -199,11 +195,11 @@ void tanken::tanken_spur(int spur) {
 void tanken::voll(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     um_.zeitgeber.tanktimer[spur]->aus();
-    if (um_.einst.tank_runden_modus != 0) {
+    if (um_.einst.tank_runden_modus != rundenzaehlung_auf::keinem_tanksensor) {
         zustand.tank_halt = true;
         um_.zeitgeber.wartetimer[spur]->an();
     }
-    zustand.tank_wartezaehler = 0;
+    zustand.tank_wartezaehler = {};
     zustand.tank_kontakt = false;
     um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
     um_.ereignisse[art::tanken_aus[spur]].aktiv = false;
@@ -255,7 +251,9 @@ void tanken::leer(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     um_.sounds.spielen(sound::tank_leer + spur);
     tankfarbe(spur, um_.einst.farben_schrift[2]);
-    switch (static_cast<leer_aktion>(um_.einst.tank_straf_option)) {
+    switch (um_.einst.tank_straf_option) {
+        case leer_aktion::ohne:
+            break;
         case leer_aktion::disqualifikation:
             um_.bahn.zaehler[spur].text(disqualifiziert_text);
             zustand.disqualifiziert = true;
@@ -267,14 +265,14 @@ void tanken::leer(int spur) {
             runde_nehmen(spur);
             break;
         case leer_aktion::stromunterbrechung:
-            zustand.tank_strafzaehler = 0;
+            zustand.tank_strafzaehler = {};
             zustand.tank_runde_genommen = runde_nehmen(spur) || zustand.tank_runde_genommen;
             strafen_.spur_strom_aus(spur);
             um_.zeitgeber.t_straftimer[spur]->an();
             zustand.tank_strafe_aktiv = true;
             break;
         case leer_aktion::zeitstrafe:
-            strafen_.zeitstrafe(spur, um_.einst.tank_strafzeit / 100);
+            strafen_.zeitstrafe(spur, std::chrono::duration_cast<dauer_s>(um_.einst.tank_strafzeit));
             break;
     }
 }
@@ -301,7 +299,7 @@ bool tanken::strafe_auf_letzte_runde(int spur) {
         return false;  // the penalty has cost its time on the track
     }
     rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    const zeit_ms verloren = zeit_ms{10} * um_.einst.tank_strafzeit;
+    const zeit_ms verloren = dauer_ms(um_.einst.tank_strafzeit).count();
     const int zeile = zustand.runden_zeile;
     speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren, speicher.stempel(spur, zeile) + verloren,
                     speicher.pause(spur, zeile));
@@ -312,7 +310,7 @@ void tanken::tanktimer_tick(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     if (++zustand.tank_wartezaehler >= um_.einst.tank_wartezeit) {
         um_.zeitgeber.tanktimer[spur]->aus();
-        zustand.tank_wartezaehler = 0;
+        zustand.tank_wartezaehler = {};
     }
 }
 
@@ -331,7 +329,7 @@ void tanken::t_straftimer_tick(int spur) {
     um_.zeitgeber.t_straftimer[spur]->aus();
     strafen_.spur_strom_an(spur);
     zustand.tank_strafe_aktiv = false;
-    zustand.tank_strafzaehler = 0;
+    zustand.tank_strafzaehler = {};
     if (!std::exchange(zustand.tank_runde_genommen, false)) {  // the tank was empty before the first lap
         return;
     }
@@ -342,7 +340,7 @@ void tanken::t_straftimer_tick(int spur) {
     ++zustand.runden_zeile;
     um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
     const zeit_ms zeit = um_.ereignisse.messzeit - speicher.stempel(spur, zustand.runden_zeile - 2) +
-                         zustand.strafzeit - zustand.pause_abzug;
+                         zustand.strafzuschlag() - zustand.pause_abzug;
     zustand.pause_abzug = std::max<zeit_ms>(zustand.pause_abzug - in_der_runde, 0);
     rundenzeiten_pruefen(zeit, zustand.runden_zeile, spur);
 }

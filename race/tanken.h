@@ -55,7 +55,8 @@ private:
     strafen& strafen_;
 };
 
-/// Litres that a lap of `zeit` ms burns. The thousandths of the lap add up to one litre of scatter.
-double verbrauch(zeit_ms zeit, int liter_je_runde, int nominal_s);
+/// Litres that a lap of `zeit` ms burns; `rundenzeit` is the nominal lap. The thousandths of the lap add up to one
+/// litre of scatter.
+double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit);
 
 }  // namespace tarvel

@@ -7,8 +7,8 @@ using plattform::zeitgeber_art;
 namespace {
 
 /// A lock-out: it only switches itself off.
-std::unique_ptr<plattform::zeitgeber> einmalig(plattform::zeitgeber_dienst& dienst, int intervall_ms) {
-    auto zeitgeber = dienst.erzeugen(zeitgeber_art::abfragend, intervall_ms);
+std::unique_ptr<plattform::zeitgeber> einmalig(plattform::zeitgeber_dienst& dienst, dauer_ms intervall) {
+    auto zeitgeber = dienst.erzeugen(zeitgeber_art::abfragend, intervall);
     zeitgeber->bei_tick = [sperre = zeitgeber.get()] { sperre->aus(); };
     return zeitgeber;
 }
@@ -16,34 +16,34 @@ std::unique_ptr<plattform::zeitgeber> einmalig(plattform::zeitgeber_dienst& dien
 }  // namespace
 
 rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
-    : renntimer(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
-      renntimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
-      renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
-      blinktimer(dienst.erzeugen(zeitgeber_art::abfragend, 500)),
-      nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000)),
-      chaostimer(einmalig(dienst, 2500)),
-      chaosende_timer(einmalig(dienst, 1500)),
-      chaostimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1)),
-      ch_durch0(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
-      chaos_runden(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
-      tm_chausloeser_falsch_setzen(dienst.erzeugen(zeitgeber_art::zaehlend, 500)),
-      chaos_schalter_at2560(dienst.erzeugen(zeitgeber_art::zaehlend, 200)),
-      f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10)),
-      f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0)) {
+    : renntimer(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      renntimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      blinktimer(dienst.erzeugen(zeitgeber_art::abfragend, 500ms)),
+      nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000ms)),
+      chaostimer(einmalig(dienst, 2500ms)),
+      chaosende_timer(einmalig(dienst, 1500ms)),
+      chaostimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
+      ch_durch0(dienst.erzeugen(zeitgeber_art::zaehlend, 10ms)),
+      chaos_runden(dienst.erzeugen(zeitgeber_art::zaehlend, 500ms)),
+      tm_chausloeser_falsch_setzen(dienst.erzeugen(zeitgeber_art::zaehlend, 500ms)),
+      chaos_schalter_at2560(dienst.erzeugen(zeitgeber_art::zaehlend, 200ms)),
+      f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10ms)),
+      f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0ms)) {
     for (auto& sperre : tankwartetimer) {
-        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 100);
+        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 100ms);
     }
     for (auto& sperre : soundtrigger) {
-        sperre = einmalig(dienst, 3000);
+        sperre = einmalig(dienst, 3000ms);
     }
     for (auto& sperre : sekt_timer) {
-        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 1500);
+        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 1500ms);
     }
     for (const int spur : alle_spuren) {
-        tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
-        wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500);
-        t_straftimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10);
-        straftimer_ch[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 12);
+        tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10ms);
+        wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500ms);
+        t_straftimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10ms);
+        straftimer_ch[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 12ms);
     }
 }
 

@@ -11,10 +11,9 @@
 namespace tarvel {
 namespace {
 
-constexpr int zielsignal_ms = 3000;
-constexpr int nachzaehltakt_ms = 10;
-constexpr int blinktakt_ms = 500;
-constexpr int sekunde_ms = 1000;
+constexpr dauer_ms zielsignal_dauer{3000};
+constexpr dauer_ms nachzaehltakt{10};
+constexpr dauer_ms blinktakt{500};
 constexpr int runden_ohne_bild = 1000;  // a number of four digits needs the room
 
 using plattform::zeitgeber_art;
@@ -31,23 +30,23 @@ auswertung::auswertung(const umfeld& um) : r_(um.r), um_(um.r.umgebung), u_(um) 
 }
 
 void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
-    zieltimer_ = dienst.erzeugen(zeitgeber_art::zaehlend, zielsignal_ms);
+    zieltimer_ = dienst.erzeugen(zeitgeber_art::zaehlend, zielsignal_dauer);
     zieltimer_->bei_tick = [this] { zielsignal_beenden(); };
-    ch_durch3_ = dienst.erzeugen(zeitgeber_art::abfragend, nachzaehltakt_ms);
+    ch_durch3_ = dienst.erzeugen(zeitgeber_art::abfragend, nachzaehltakt);
     ch_durch3_->bei_tick = [this] { nachzaehlen(); };
-    ch_durch4_ = dienst.erzeugen(zeitgeber_art::zaehlend, nachzaehltakt_ms);
+    ch_durch4_ = dienst.erzeugen(zeitgeber_art::zaehlend, nachzaehltakt);
     ch_durch4_->bei_tick = [this] { nachzaehlen_beenden(); };
-    w_auto5_ = dienst.erzeugen(zeitgeber_art::zaehlend, sekunde_ms);
+    w_auto5_ = dienst.erzeugen(zeitgeber_art::zaehlend, 1s);
     w_auto5_->bei_tick = [this] {
         w_auto5_->aus();
         if (aktion_nach_bestzeiten_ != aktion::hauptmenue) {
             Command5.klicken();
         }
     };
-    tmr_dauertraining_ = dienst.erzeugen(zeitgeber_art::zaehlend, sekunde_ms);
+    tmr_dauertraining_ = dienst.erzeugen(zeitgeber_art::zaehlend, 1s);
     tmr_dauertraining_->bei_tick = [this] { training_tick(); };
     for (std::size_t i = 0; i < spuren_max; ++i) {
-        beste_blink_timer_.at(i) = dienst.erzeugen(zeitgeber_art::zaehlend, blinktakt_ms);
+        beste_blink_timer_.at(i) = dienst.erzeugen(zeitgeber_art::zaehlend, blinktakt);
         beste_blink_timer_.at(i)->bei_tick = [this, i] {
             const bool war_rot = beste_aus.at(i).schriftfarbe().has_value();
             beste_aus.at(i).schriftfarbe(war_rot ? std::nullopt : std::optional(farben::rot));
@@ -61,8 +60,8 @@ void auswertung::laden() {
     zustand.chaos_aktiv = false;
     if (!um_.einst.zielmodus_erster) {
         um_.zeitgeber.rennen_aus();
-    } else if (um_.einst.sensor_timeout > 0 && um_.zeitgeber.renntimer->laeuft()) {
-        ch_durch4_->intervall(um_.einst.sensor_timeout + nachzaehltakt_ms);
+    } else if (um_.einst.sensor_timeout > 0ms && um_.zeitgeber.renntimer->laeuft()) {
+        ch_durch4_->intervall(um_.einst.sensor_timeout + nachzaehltakt);
         ch_durch4_->an();
         ch_durch3_->an();
     }
@@ -106,14 +105,13 @@ void auswertung::zielsignal_beenden() {
 }
 
 bool auswertung::ist_intervalltraining() const {
-    constexpr int intervalltraining = 1;
-    return um_.param.training_laeuft && um_.einst.training_art == intervalltraining;
+    return um_.param.training_laeuft && um_.einst.training_art == trainingsart::intervall;
 }
 
 void auswertung::kopf_schreiben() {
     std::string kopf = um_.ist_zeitrennen() ? wort_.zeitrennen : wort_.rundenrennen;
     kopf += "  ·  " + um_.bahn.ziel_label.text();
-    const auto modus = static_cast<std::size_t>(sortier_modus_von(um_.param.auswertung_nach_rennen));
+    const auto modus = static_cast<std::size_t>(gueltiger_modus(um_.param.auswertung_nach_rennen));
     kopf += "  ·  " + wort_.wertung.at(modus - 1);
     if (um_.zustand.rennabbruch) {
         kopf += "  ·  " + wort_.vorzeitig;
@@ -143,11 +141,11 @@ void auswertung::bedienung_einrichten() {
     Command6.sichtbar(um_.ist_zeitrennen() || um_.einst.zielmodus_erster);
     ziel_vorschlagen();
     if (wettkampf && um_.einst.w_autom) {
-        w_auto5_->intervall(std::max(um_.einst.w_zeit1, sekunde_ms));
+        w_auto5_->intervall(std::max(um_.einst.w_zeit1, dauer_ms(1s)));
         w_auto5_->an();
     }
     if (intervall) {
-        training_sekunden_ = -1;
+        training_zeit_ = -1s;
         training_tick();
         tmr_dauertraining_->an();
     }
@@ -198,8 +196,8 @@ void auswertung::spur_anzeigen(int spur) {
     ges_meter[i].text(stand.meter_text(spur, ',') + " m");
     kmh_label[i].text(tempo(1, stand.beste_runde(spur)) + " / " + tempo(stand.runden(spur), stand.gesamtzeit(spur)) +
                       " km/h");
-    aus_straflabel[i].sichtbar(zustand.strafzeit > 0);
-    aus_straflabel[i].text(wort_.strafzeit + ": " + std::to_string(zustand.strafzeit) + " sec");
+    aus_straflabel[i].sichtbar(zustand.strafzeit > 0s);
+    aus_straflabel[i].text(wort_.strafzeit + ": " + std::to_string(zustand.strafzeit.count()) + " sec");
     tankinhalt[i].sichtbar(um_.param.tank_aktiv);
     tankinhalt[i].text(wort_.tankinhalt + ": " + um_.bahn.t_bahn[spur].text() + " l");
     rundenliste_schreiben(spur);
@@ -275,13 +273,14 @@ void auswertung::training_tick() {
         um_.fenster.ist_offen("beste_zeiten_fenster")) {
         return;  // nobody is thrown out of an entry
     }
-    ++training_sekunden_;
-    const int rest = std::max(um_.einst.training_wechseldauer - training_sekunden_, 0);
-    trainingslabel.text(wort_.training + "  " + std::to_string(rest) + "   ");
-    if (training_sekunden_ > 0 && rest == 0) {
+    ++training_zeit_;
+    const dauer_s rest = std::max(um_.einst.training_wechseldauer - training_zeit_, 0s);
+    trainingslabel.text(wort_.training + "  " + std::to_string(rest.count()) + "   ");
+    if (training_zeit_ > 0s && rest == 0s) {
         tmr_dauertraining_->aus();
         training_automatik_ = true;
-        bestzeiten_vor(um_.einst.training_weiter != 0 ? aktion::fortsetzen : aktion::neu_starten);
+        bestzeiten_vor(um_.einst.training_weiter != training_weitergang::neu_starten ? aktion::fortsetzen
+                                                                                     : aktion::neu_starten);
     }
 }
 

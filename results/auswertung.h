@@ -195,7 +195,7 @@ private:
     bool neue_bestzeit_ = false;
     bool meter_eingabe_an_ = false;
     int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
-    int training_sekunden_ = 0;
+    dauer_s training_zeit_{};
     bool training_automatik_ = false;  ///< what is being left goes on without the operator
 };
 

@@ -95,7 +95,7 @@ void auswertung::meter_eingabe(bool an) {
                           &Command_verlauf, &Command_drucken, &Command_pdf}) {
         knopf->aktiviert(!an);
     }
-    Command9.aktiviert(!an && um_.einst.beste_modus > 0);
+    Command9.aktiviert(!an && um_.einst.beste_modus != bestzeit_speicherung::aus);
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         cmd_rd_inc[i].aktiviert(!an);

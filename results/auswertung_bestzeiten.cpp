@@ -25,8 +25,8 @@ void auswertung::bestzeiten_pruefen() {
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         const zeit_ms beste = beste_auf_der_spur(spur);
-        const bool neu =
-            um_.einst.beste_modus > 0 && um_.param.spur_aktiv[spur] && beste > 0 && beste < um_.bestzeiten.beste(spur);
+        const bool neu = um_.einst.beste_modus != bestzeit_speicherung::aus && um_.param.spur_aktiv[spur] &&
+                         beste > 0 && beste < um_.bestzeiten.beste(spur);
         neue_bestzeit_ = neue_bestzeit_ || neu;
         beste_blink_timer_[i]->aus();
         beste_aus[i].schriftfarbe(std::nullopt);

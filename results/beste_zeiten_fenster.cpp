@@ -15,8 +15,7 @@ constexpr std::string_view keine_runde = "---";
 constexpr std::string_view leere_zeit = "00:00:000";
 constexpr int zeit_laenge = 9;
 constexpr farbe gruen = 0x3CA01E;
-constexpr int automatisch = 1;
-constexpr int anzeigedauer_ms = 2000;  // long enough to see what is saved
+constexpr dauer_ms anzeigedauer{2000};  // long enough to see what is saved
 
 /// The number that stands at these characters, the first at 0; -1 if something else stands there.
 int zahl_an(std::string_view text, std::size_t ab, std::size_t anzahl) {
@@ -46,7 +45,7 @@ std::vector<std::string> rundenzeiten(const spur_angebot& angebot, const trennze
 }  // namespace
 
 beste_zeiten_fenster::beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber)
-    : um_(um), timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, anzeigedauer_ms)) {
+    : um_(um), timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, anzeigedauer)) {
     timer1_->bei_tick = [this] {
         timer1_->aus();
         Command1.klicken();
@@ -102,7 +101,7 @@ void beste_zeiten_fenster::entladen() {
 }
 
 void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach) {
-    if (um_.einst.beste_modus == 0) {
+    if (um_.einst.beste_modus == bestzeit_speicherung::aus) {
         if (danach) {
             danach();
         }
@@ -115,7 +114,7 @@ void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::fu
     anzeigen();
     um_.fenster.zeigen(fenstername, anzeige_art::modal);
     Command1.fokus_setzen();
-    if (um_.einst.beste_modus == automatisch) {
+    if (um_.einst.beste_modus == bestzeit_speicherung::automatisch) {
         timer1_->an();
     }
 }

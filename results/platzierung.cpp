@@ -42,8 +42,8 @@ schluessel_folge schluessel_von(sortier_modus modus) {
 
 }  // namespace
 
-sortier_modus sortier_modus_von(int wert) {
-    return wert >= 1 && wert <= 3 ? static_cast<sortier_modus>(wert) : sortier_modus::runden;
+sortier_modus gueltiger_modus(sortier_modus modus) {
+    return modus >= sortier_modus::meter && modus <= sortier_modus::beste ? modus : sortier_modus::runden;
 }
 
 spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus modus) {

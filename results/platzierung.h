@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/einstellungswerte.h"
 #include "core/spuren.h"
 #include "platform/uhr.h"
 
@@ -14,10 +15,8 @@ struct platz_werte {
     zeit_ms beste_runde = 0;  ///< 0 for none
 };
 
-enum class sortier_modus { meter = 1, runden = 2, beste = 3 };
-
-/// Any value outside 1 to 3 means laps.
-sortier_modus sortier_modus_von(int wert);
+/// Any number outside 1 to 3 means laps.
+sortier_modus gueltiger_modus(sortier_modus modus);
 
 /// Lanes in the order of the standing, index 1 the winner. Inactive lanes come last.
 ///

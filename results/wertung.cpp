@@ -55,7 +55,7 @@ void wertung::restmeter_zuschlagen(int spur, double meter) {
 
 void wertung::platzierung_berechnen() {
     rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    const sortier_modus modus = sortier_modus_von(um_.param.auswertung_nach_rennen);
+    const sortier_modus modus = gueltiger_modus(um_.param.auswertung_nach_rennen);
     for (const int spur : alle_spuren) {
         platz_werte& werte = werte_[spur];
         if (!um_.param.spur_aktiv[spur]) {
@@ -67,7 +67,7 @@ void wertung::platzierung_berechnen() {
         const double meter =
             std::max(zahl_lesen(meter_text(spur, '.')), 0.0);  // what is shown decides, not what it hides
         const int runden = std::max(zustand.runden, -1);  // laps taken off before the first crossing go further down
-        werte = {true, runden, meter, zeit_ms{1000} * zustand.strafzeit, beste_runde(spur)};
+        werte = {true, runden, meter, dauer_ms(zustand.strafzeit).count(), beste_runde(spur)};
         if (zustand.disqualifiziert && modus == sortier_modus::beste) {
             werte.beste_runde = beste_inaktiv;  // no lap, and so no fast one either
         }

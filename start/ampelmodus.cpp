@@ -8,7 +8,7 @@ namespace {
 
 using reihe2 = ampelmodus::zweite_reihe;
 
-/// Index is `start_ampel_modus` - 1.
+/// Index is the number of the choice - 1.
 constexpr std::array<ampelmodus, 9> modi{{
     {5, reihe2::gruen, true, false},
     {5, reihe2::rot, true, false},
@@ -23,9 +23,10 @@ constexpr std::array<ampelmodus, 9> modi{{
 
 }  // namespace
 
-const ampelmodus& ampelmodus_von(int start_ampel_modus) {
-    const bool in_der_liste = start_ampel_modus >= 1 && start_ampel_modus <= static_cast<int>(modi.size());
-    return modi.at(in_der_liste ? static_cast<std::size_t>(start_ampel_modus - 1) : 0);
+const ampelmodus& ampelmodus_von(ampelwahl wahl) {
+    const int nummer = static_cast<int>(wahl);
+    const bool in_der_liste = nummer >= 1 && nummer <= static_cast<int>(modi.size());
+    return modi.at(in_der_liste ? static_cast<std::size_t>(nummer - 1) : 0);
 }
 
 }  // namespace tarvel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/einstellungswerte.h"
+
 namespace tarvel {
 
 /// One of the start lights that can be chosen.
@@ -16,7 +18,7 @@ struct ampelmodus {
     bool verborgen;   ///< only the real lamps light
 };
 
-/// The light of `start_ampel_modus` 1 to 9. A number beyond the list stands for the first one: a start needs a light.
-const ampelmodus& ampelmodus_von(int start_ampel_modus);
+/// A choice beyond the list, or none, stands for the first one: a start needs a light.
+const ampelmodus& ampelmodus_von(ampelwahl wahl);
 
 }  // namespace tarvel

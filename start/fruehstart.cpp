@@ -25,12 +25,12 @@ bool fruehstart::pruefen() {
 }
 
 void fruehstart::tanksensor_als_rundensensor() {
-    constexpr int auf_sensor_1 = 1;
-    constexpr int auf_sensor_2 = 2;
     for (const int spur : alle_spuren) {
         const ereignis_tabelle& ereignisse = um_.ereignisse;
-        if ((um_.einst.tank_runden_modus == auf_sensor_1 && ereignisse[art::tanken_ein[spur]].aktiv) ||
-            (um_.einst.tank_runden_modus == auf_sensor_2 && ereignisse[art::tanken_aus[spur]].aktiv)) {
+        if ((um_.einst.tank_runden_modus == rundenzaehlung_auf::tanksensor_1 &&
+             ereignisse[art::tanken_ein[spur]].aktiv) ||
+            (um_.einst.tank_runden_modus == rundenzaehlung_auf::tanksensor_2 &&
+             ereignisse[art::tanken_aus[spur]].aktiv)) {
             um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur]);
         }
     }

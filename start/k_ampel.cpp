@@ -7,38 +7,38 @@
 namespace tarvel {
 namespace {
 
-constexpr int schritt_ms = 1500;
-constexpr int gruen_ms = 2500;
-constexpr int automatik_ms = 500;
+constexpr dauer_ms schrittdauer{1500};
+constexpr dauer_ms gruen_nach{2500};
+constexpr dauer_ms automatik_nach{500};
 constexpr farbe rot = 255;
 
 using plattform::zeitgeber_art;
 using reihe2 = ampelmodus::zweite_reihe;
 
 /// Two of the red lamps of a light with five burn before the first step, one of a light with four.
-int lampe_vor_dem_ersten(int start_ampel_modus) {
-    return ampelmodus_von(start_ampel_modus).rote_schritte == 4 ? 1 : 2;
+int lampe_vor_dem_ersten(ampelwahl wahl) {
+    return ampelmodus_von(wahl).rote_schritte == 4 ? 1 : 2;
 }
 
 }  // namespace
 
 k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_(r.umgebung) {
     for (std::size_t i = 0; i < schritte; ++i) {
-        rot_.at(i) = zeitgeber.erzeugen(zeitgeber_art::zaehlend, schritt_ms);
+        rot_.at(i) = zeitgeber.erzeugen(zeitgeber_art::zaehlend, schrittdauer);
         rot_.at(i)->bei_tick = [this, i] { rot_tick(i); };
     }
-    Timer2_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, gruen_ms);
+    Timer2_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, gruen_nach);
     Timer2_->bei_tick = [this] { gruen_tick(); };
-    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms);
     cu_ampel_auswertetimer_->bei_tick = [this] { geraet_tick(); };
-    geraet_frist_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, static_cast<int>(geraeteampel::laengste_ms));
+    geraet_frist_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms(geraeteampel::laengste_ms));
     geraet_frist_->bei_tick = [this] {  // deaf to its start key, or stopped there: the next click goes without it
         geraet_frist_->aus();
         cu_ampel_auswertetimer_->aus();
         geraet_taub_ = true;
         Command1.aktiviert(true);
     };
-    training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_ms);
+    training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_nach);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
         um_.param.training_autostart = false;
@@ -103,7 +103,7 @@ void k_ampel::Command1_klick() {
     }
     if (!um_.zustand.chaos_aktiv) {
         um_.fenster.entladen("auswertung");
-        k_nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus > 0);
+        k_nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus != nachtrennen::aus);
         um_.ereignisse.rundenzaehlung_leeren();
     }
     strom_aus();

@@ -6,12 +6,12 @@
 namespace tarvel {
 namespace {
 
-constexpr int vorlauf_ms = 2000;
-constexpr int schritt_ms = 1500;
-constexpr int drag_vor_ms = 2000;  // steps of the tree's white lights
-constexpr int drag_gelb_ms = 500;
-constexpr int freigabe_ms = 2000;
-constexpr int startkommando_ms = 2000;
+constexpr dauer_ms vorlauf{2000};
+constexpr dauer_ms schrittdauer{1500};
+constexpr dauer_ms drag_vor{2000};  // steps of the tree's white lights
+constexpr dauer_ms drag_gelb{500};
+constexpr dauer_ms freigabe_nach{2000};
+constexpr dauer_ms startkommando_nach{2000};
 
 constexpr farbe weiss = 16777215;
 constexpr farbe gelb = 65535;
@@ -32,37 +32,37 @@ using reihe2 = ampelmodus::zweite_reihe;
 
 startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_dienst& zeitgeber)
     : r_(r), um_(r.umgebung), einst_(einst), fruehstart_(r.umgebung, r.strafen) {
-    const auto kette = [&](int ms, auto tick) {
-        auto neu = zeitgeber.erzeugen(zeitgeber_art::zaehlend, ms);
+    const auto kette = [&](dauer_ms dauer, auto tick) {
+        auto neu = zeitgeber.erzeugen(zeitgeber_art::zaehlend, dauer);
         neu->bei_tick = std::move(tick);
         return neu;
     };
-    Timer1_ = kette(vorlauf_ms, [this] {
+    Timer1_ = kette(vorlauf, [this] {
         Timer1_->aus();
         rot_.front()->an();
     });
     for (std::size_t i = 0; i < rot_max; ++i) {
-        rot_.at(i) = kette(schritt_ms, [this, i] { rot_tick(i + 1); });
+        rot_.at(i) = kette(schrittdauer, [this, i] { rot_tick(i + 1); });
     }
-    Timer7_ = kette(schritt_ms, [this] { gruen_tick(); });
-    Timer8_ = kette(freigabe_ms, [this] { freigabe_tick(); });
-    fruehstarttimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    Timer7_ = kette(schrittdauer, [this] { gruen_tick(); });
+    Timer8_ = kette(freigabe_nach, [this] { freigabe_tick(); });
+    fruehstarttimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms);
     fruehstarttimer_->bei_tick = [this] { fruehstart_tick(); };
-    Timer9_ = kette(startkommando_ms, [this] {
+    Timer9_ = kette(startkommando_nach, [this] {
         Timer9_->aus();
         if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && !um_.zustand.chaos_aktiv) {
             licht->startkommando();
             geraet_gestartet_ = true;
         }
     });
-    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1);
+    cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms);
     cu_ampel_auswertetimer_->bei_tick = [this] { cu_ampel_auswerten(); };
-    ampelaus_timer_ = kette(1, [this] {
+    ampelaus_timer_ = kette(1ms, [this] {
         ampelaus_timer_->aus();
         um_.fenster.verbergen("Form2");
     });
     for (const int spur : alle_spuren) {
-        stw_[spur] = kette(1, [this, spur] { strom_tick(spur); });
+        stw_[spur] = kette(1ms, [this, spur] { strom_tick(spur); });
     }
     fruehstart_.strom_unterbrechen = [this](int spur) { stw_[spur]->an(); };
     fruehstart_.start_abbrechen = [this] { start_abbrechen(); };
@@ -75,12 +75,12 @@ void startampel::laden() {
     gruen_erreicht_ = false;
     abgebrochen_ = false;
     texte_setzen();
-    fenster.Nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus == 2);
+    fenster.Nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus == nachtrennen::rennen_und_ampel);
     Timer7_->intervall(um_.zustand.ampel_takt);
-    const bool drag = um_.einst.start_ampel_modus == dragrace_ampel;
+    const bool drag = um_.einst.start_ampel_modus == ampelwahl::dragrace;
     for (std::size_t i = 0; i < rot_max; ++i) {
-        const int drag_ms = i < 3 ? drag_vor_ms : drag_gelb_ms;
-        rot_.at(i)->intervall(drag ? drag_ms : schritt_ms);
+        const dauer_ms im_baum = i < 3 ? drag_vor : drag_gelb;
+        rot_.at(i)->intervall(drag ? im_baum : schrittdauer);
     }
     fruehstart_.zuruecksetzen();
     um_.ausgaben.ampelnRoff(0);  // a start that was stopped has left some of them lit
@@ -131,7 +131,7 @@ void startampel::lampen_aufstellen() {
         fenster.ampelbild.at(i).sichtbar(da);
         fenster.ampelbild.at(i + rot_max).sichtbar(da);
     }
-    fenster.dragbaum.sichtbar(um_.einst.start_ampel_modus == dragrace_ampel);
+    fenster.dragbaum.sichtbar(um_.einst.start_ampel_modus == ampelwahl::dragrace);
     for (form& licht : fenster.Shape11) {
         licht.hintergrund(dunkel);
     }
@@ -155,7 +155,7 @@ void startampel::dragbaum_schalten(std::size_t schritt) {
 void startampel::rot_tick(std::size_t schritt) {
     rot_.at(schritt - 1)->aus();
     const ampelmodus& modus = ampelmodus_von(um_.einst.start_ampel_modus);
-    if (um_.einst.start_ampel_modus == dragrace_ampel) {
+    if (um_.einst.start_ampel_modus == ampelwahl::dragrace) {
         dragbaum_schalten(schritt);
     } else {
         ampel_bild(schritt, rt_an);
@@ -341,12 +341,10 @@ void startampel::entladen() {
     for (const auto& unterbrechung : stw_) {
         unterbrechung->aus();
     }
-    constexpr int ohne = 0;
-    constexpr int runde_abzug = 4;
-    constexpr int zeitstrafe = 5;
-    if (einst_.fruehstart_option == ohne || einst_.fruehstart_option == runde_abzug ||
-        einst_.fruehstart_option == zeitstrafe) {
-        einst_.fruehstart_strafzeit = 10;  // these actions cut no power: their lock need not last
+    using aktion = fruehstart_aktion;
+    if (einst_.fruehstart_option == aktion::ohne || einst_.fruehstart_option == aktion::runde_abzug ||
+        einst_.fruehstart_option == aktion::zeitstrafe) {
+        einst_.fruehstart_strafzeit = dauer_hs(10);  // these actions cut no power: their lock need not last
     }
 }
 

@@ -130,7 +130,7 @@ TEST_F(At2560, FruehstartWirdErkannt) {
     p.at_ereignis.at(at_zeile::tanken_ein(1)) = "e7";
     a.oeffnen(p);
     a.t.einrichten("Runden", "20", {1, 2});
-    a.t.p.einst.start_ampel_modus = 1;
+    a.t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     a.t.bahn().Command1.klicken();
     a.t.maschine.laufen(3000);
     EXPECT_TRUE(a.t.p.startampel.fenster.Label_fruehstart.text().empty());

@@ -112,7 +112,7 @@ TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
 TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     t.p.form1.lspur[1].eingeben("20");
     zwei_spuren_fahren("Runden", "3");
-    t.spur(1).strafzeit = 5;
+    t.spur(1).strafzeit = 5s;
     t.spur(1).tank_inhalt = 12.5;
     EXPECT_EQ(a.neues_ziel.text(), "6");
     EXPECT_EQ(a.ziel_einheit.text(), "Runden insgesamt");
@@ -230,7 +230,7 @@ TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
 }
 
 TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
-    t.p.einst.sensor_timeout = 2000;
+    t.p.einst.sensor_timeout = 2000ms;
     t.p.einst.zielmodus_erster = true;
     zwei_spuren_fahren("Runden", "3");
     ASSERT_TRUE(offen("auswertung"));
@@ -249,9 +249,9 @@ TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
 }
 
 TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
-    t.p.einst.training_art = 1;
-    t.p.einst.training_wechseldauer = 3;
-    t.p.einst.training_weiter = 0;
+    t.p.einst.training_art = trainingsart::intervall;
+    t.p.einst.training_wechseldauer = 3s;
+    t.p.einst.training_weiter = training_weitergang::neu_starten;
     t.p.einst.aut_speichern = false;
     t.einrichten("Runden", "1", {1});
     t.p.param.training_laeuft = true;
@@ -264,8 +264,8 @@ TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
     t.maschine.laufen(1000);
     EXPECT_FALSE(offen("auswertung"));
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet) << "the next round has begun";
-    t.p.einst.training_weiter = 1;
-    t.p.einst.nachtrennen_modus = 1;
+    t.p.einst.training_weiter = training_weitergang::fortsetzen;
+    t.p.einst.nachtrennen_modus = nachtrennen::rennen;
     t.bahn().Command4.klicken();
     t.maschine.laufen(3000);
     ASSERT_TRUE(offen("k_ampel"));

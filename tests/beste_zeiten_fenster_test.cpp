@@ -14,7 +14,7 @@ protected:
         angebote[4] = {false, "Max", "Viper", 7000, {7000}};
     }
     void oeffnen(int modus = 2) {
-        t.p.einst.beste_modus = modus;
+        t.p.einst.beste_modus = bestzeit_speicherung(modus);
         f.oeffnen(angebote, [this] {
             ++danach;
             EXPECT_FALSE(offen());

@@ -104,7 +104,7 @@ TEST_F(BesteZeitenVerwaltung, NeueUndAndereDateien) {
     EXPECT_EQ(element<auswahl>("Combo1").platz(), 1);
     programm neu(t.maschine.dienste());
     neu.starten();
-    EXPECT_EQ(neu.einst.beste_modus, 1);
+    EXPECT_EQ(neu.einst.beste_modus, bestzeit_speicherung::automatisch);
     EXPECT_EQ(neu.bestzeiten.beste(6), 6000);
 
     verwalten();

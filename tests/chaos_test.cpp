@@ -56,7 +56,7 @@ TEST_F(Chaos, PauseHaeltUhrStromUndZaehlungAnUndVerschiebtDasEnde) {
 }
 
 TEST_F(Chaos, SperrenVerwerfenDenDruck) {
-    t.p.einst.chaos_strafzeit = -1;
+    t.p.einst.chaos_strafzeit = -1s;
     fahren();
     t.taste("c");
     EXPECT_FALSE(t.bahn().ch_strafframe.sichtbar() || t.bahn().ch_strafzeit_hacken[1].sichtbar()) << "no penalties";
@@ -79,7 +79,7 @@ TEST_F(Chaos, SperrenVerwerfenDenDruck) {
 }
 
 TEST_F(Chaos, UeberfahrtBeimAnhaltenZaehltNachDerPauseMitIhrerZeit) {
-    t.p.einst.sensor_timeout = 2000;
+    t.p.einst.sensor_timeout = 2000ms;
     fahren();
     t.maschine.laufen(7000);
     t.taste("c");
@@ -107,7 +107,7 @@ TEST_F(Chaos, UeberfahrtBeimAnhaltenZaehltNachDerPauseMitIhrerZeit) {
 }
 
 TEST_F(Chaos, OhneSammelfensterGehtDieUeberfahrtVerloren) {
-    t.p.einst.sensor_timeout = 0;
+    t.p.einst.sensor_timeout = 0ms;
     fahren();
     t.maschine.laufen(7000);
     t.taste("c");
@@ -124,7 +124,7 @@ TEST_F(Chaos, SchalterHaeltDiePauseSolangeErAnIst) {
     t.p.einst.chaos_schalter = true;
     for (const int timeout : {0, 2000, 10000}) {
         SCOPED_TRACE(timeout);
-        t.p.einst.sensor_timeout = timeout;
+        t.p.einst.sensor_timeout = dauer_ms(timeout);
         fahren();
         t.p.ereignisse.ereignis_melden(1);
         t.maschine.laufen(4000);
@@ -148,7 +148,7 @@ TEST_F(Chaos, SchalterHaeltDiePauseSolangeErAnIst) {
 }
 
 TEST_F(Chaos, StrafeNachZeitOderStrom) {
-    t.p.einst.chaos_strafzeit = 5;
+    t.p.einst.chaos_strafzeit = 5s;
     for (const bool zeit : {true, false}) {
         SCOPED_TRACE(zeit);
         t.p.einst.chaos_strafe_strom = zeit;
@@ -164,7 +164,7 @@ TEST_F(Chaos, StrafeNachZeitOderStrom) {
         t.taste("c");
         ASSERT_FALSE(pause());
         EXPECT_FALSE(t.bahn().ch_strafframe.sichtbar() || t.bahn().ch_strafzeit_hacken[2].gesetzt());
-        EXPECT_EQ(t.spur(2).strafzeit, zeit ? 7 : 0);
+        EXPECT_EQ(t.spur(2).strafzeit, zeit ? 7s : 0s);
         EXPECT_EQ(t.bahn().straflabel[2].sichtbar(), zeit);
         EXPECT_EQ(strom(2), zeit);
         EXPECT_TRUE(strom(1));
@@ -186,8 +186,8 @@ TEST_F(Chaos, StrafeNachZeitOderStrom) {
 
 TEST_F(Chaos, TankstrafeRuhtInDerPause) {
     t.p.form1.t_aktiv.umschalten();
-    t.p.einst.tank_straf_option = 3;
-    t.p.einst.tank_strafzeit = 1000;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 10s;
     fahren();
     t.spur(1).tank_inhalt = 1;
     t.runde_nach(8000, "1");
@@ -207,8 +207,8 @@ TEST_F(Chaos, TankstrafeRuhtInDerPause) {
 
 TEST_F(Chaos, InDerPauseWirdNichtGetanktUndKeinSektorGemessen) {
     t.p.form1.t_aktiv.umschalten();
-    t.p.einst.tank_wartezeit = 0;
-    t.p.einst.sensor_timeout = 0;
+    t.p.einst.tank_wartezeit = 0s;
+    t.p.einst.sensor_timeout = 0ms;
     t.p.einst.sektor_an = {true, true, true, true};
     fahren();
     t.spur(1).tank_inhalt = 10;
@@ -252,7 +252,7 @@ TEST_F(Chaos, SchalterDerAnBleibtBeginntKeineZweitePause) {
 
 TEST_F(Chaos, RennendeInDerTankstrafeGibtDieRundeZurueck) {
     t.p.form1.t_aktiv.umschalten();
-    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
     fahren();
     t.spur(1).tank_inhalt = 1;
     t.runde_nach(8000, "1");
@@ -269,7 +269,7 @@ TEST_F(Chaos, PauseImNachlaufBeginntSeineMinutenNeu) {
     t.p.einst.zielmodus_erster = false;
     for (const int timeout : {0, 2000, 10000}) {
         SCOPED_TRACE(timeout);
-        t.p.einst.sensor_timeout = timeout;
+        t.p.einst.sensor_timeout = dauer_ms(timeout);
         fahren("1");
         t.maschine.laufen(50000 + 70000);
         ASSERT_TRUE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());

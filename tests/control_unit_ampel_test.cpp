@@ -19,7 +19,7 @@ TEST_F(ControlUnitRennen, StartUeberSoftwareDruecktZweimalUndEinFruehstartFaellt
     status(false);
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
     EXPECT_EQ(t.spur(1).strafzeit, t.p.einst.fruehstart_schritte);
-    EXPECT_EQ(t.spur(2).strafzeit, 0);
+    EXPECT_EQ(t.spur(2).strafzeit, 0s);
     t.maschine.laufen(2100);
     EXPECT_TRUE(t.bahn().Command3.bedienbar());
 }
@@ -48,7 +48,7 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
     t.p.einst.cu_option = true;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
-    t.p.einst.start_ampel_modus = 1;
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     senden("?00$");
     EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
     t.p.startampel.fenster.abbrampel.klicken();
@@ -62,7 +62,7 @@ TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
 TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
     t.p.einst.cu_sondermodus = true;
     t.einrichten(t.p.txt.text_runden, "2", {1});
-    t.p.einst.start_ampel_modus = 1;
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     status(true);
     EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
     t.maschine.laufen(2500);
@@ -162,7 +162,7 @@ TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
         t.maschine.anschluesse.da = {com};
         t.p.geraete.hardware_starten(false);
         t.einrichten(t.p.txt.text_runden, "10", {1});
-        t.p.einst.start_ampel_modus = modus;
+        t.p.einst.start_ampel_modus = ampelwahl(modus);
         status(false);
         t.bahn().Command1.klicken();
         status(true);

@@ -58,14 +58,14 @@ struct ControlUnitRennen : testing::Test {
     /// A race window from which the program starts the unit's light.
     void mit_software_starten(int fruehstart_option) {
         t.p.einst.cu_sondermodus = true;
-        t.p.einst.fruehstart_option = fruehstart_option;
+        t.p.einst.fruehstart_option = fruehstart_aktion(fruehstart_option);
         t.einrichten(t.p.txt.text_runden, "10", {1, 2});
-        t.p.einst.start_ampel_modus = 1;
+        t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     }
     /// Start at the unit's own key, up to its green.
     void starten(std::string_view rennart, std::string_view dauer, std::initializer_list<int> lanes) {
         t.einrichten(rennart, dauer, lanes);
-        t.p.einst.start_ampel_modus = 1;
+        t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
         status(false);
         t.bahn().Command1.klicken();
         t.maschine.laufen(1000);

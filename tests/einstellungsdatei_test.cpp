@@ -59,7 +59,7 @@ TEST_F(Einstellungsdatei, GespeichertGeladenGespeichertIstGleichBisAufsByte) {
     q.form1.renndauer.text("5,30");
     q.einst.tk_datei = "{EOF}";
     q.einst.tank_warnung = 12.5;
-    q.einst.chaos_strafzeit = -1;
+    q.einst.chaos_strafzeit = -1s;
     q.einst.sektor_an[2] = true;
     q.einst.hardware.hw_cu = true;
     q.datei.einstellungen_speichern(datei);
@@ -173,8 +173,8 @@ TEST_F(Einstellungsdatei, AeltereDateienUndAndereVersion) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, p->txt.meldung[19]);
     EXPECT_EQ(p->einst.sound_dateien[64], "");
     EXPECT_EQ(p->einst.sound_dateien[49], "sound\\m5.wav");
-    EXPECT_EQ(p->einst.chaos_strafzeit, 10);
-    EXPECT_EQ(p->einst.auswertung_nach, 2);
+    EXPECT_EQ(p->einst.chaos_strafzeit, 10s);
+    EXPECT_EQ(p->einst.auswertung_nach, sortier_modus::runden);
     EXPECT_EQ(p->einst.wechsel_schema[2], 6);
     EXPECT_EQ(p->einst.cu_spur_wert[6], 15);
     EXPECT_EQ(p->einst.uart_datei, "tvk_at2560.uart");
@@ -203,7 +203,7 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     EXPECT_FALSE(neu.datei.fehler_laden());
     ASSERT_FALSE(neu.datei.rest().empty());
     EXPECT_EQ(neu.datei.rest().back(), "Teilnehmer");
-    neu.datei.einstellungen_uebernehmen(0);
+    neu.datei.einstellungen_uebernehmen({});
     EXPECT_EQ(neu.param.renn_art_text, "Runden");
     EXPECT_EQ(neu.param.min_rundenzeit_ms, 4500);
     EXPECT_EQ(neu.param.renndauer_ms, 3600000 + 600000);
@@ -269,15 +269,15 @@ TEST_F(Einstellungsdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/iow.ini", t.p.datei.schreiben()));
     programm& neu = startdatei_mit("Einstellungen\\iow.ini", "2\r\n5\r\n");
     EXPECT_FALSE(neu.einst.hardware.hw_iow);
-    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 5);
+    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::modus_2);
     EXPECT_EQ(s6_laden(ablage).zustand, "0");
     neu.form1.Command7.klicken();
     neu.speichernfenster.name.eingeben("iow");
     neu.speichernfenster.Command1.klicken();
     EXPECT_TRUE(neu.einst.hardware.hw_iow) << "what is loaded later counts as it stands";
-    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, 3);
+    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::aus);
     startdatei_mit("Einstellungen\\iow.ini", "2\r\n1\r\n");
-    EXPECT_EQ(p->einst.hardware.hw_4x4_modus, 3) << "there is no such mode";
+    EXPECT_EQ(p->einst.hardware.hw_4x4_modus, modul_4x4::aus) << "there is no such mode";
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ TEST_F(Ergebnisdatei, MehrereSpurenStehenNebeneinander) {
     t.runde_nach(5001, "13");
     t.runde_nach(6000, "1");
     t.spur(3).disqualifiziert = true;
-    t.spur(1).strafzeit = 7;
+    t.spur(1).strafzeit = 7s;
     t.bahn().Command4.klicken();
     a.Command5.klicken();
     const auto zeilen = gespeichert();

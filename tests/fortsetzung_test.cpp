@@ -14,7 +14,7 @@ protected:
     Fortsetzung() {
         t.p.einst.zielmodus_erster = true;
         t.p.einst.runde_beenden = false;
-        t.p.einst.sensor_timeout = 0;
+        t.p.einst.sensor_timeout = 0ms;
         t.p.einst.aut_speichern = false;
         t.p.form1.wertmin.eingeben("1");
     }
@@ -34,7 +34,7 @@ protected:
 };
 
 TEST_F(Fortsetzung, UhrZielUndKopfZeigenDieNeueDauer) {
-    t.p.einst.nachtrennen_modus = 1;
+    t.p.einst.nachtrennen_modus = nachtrennen::rennen;
     t.starten("Zeit", "1", {1});
     t.runde_nach(1000, "1");
     t.maschine.laufen(22456);
@@ -94,7 +94,7 @@ TEST_F(Fortsetzung, FreierPlatzWandertMit) {
 }
 
 TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet) {
-    t.p.einst.sensor_timeout = 2000;
+    t.p.einst.sensor_timeout = 2000ms;
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "5", {1, 2});
     t.runde_nach(1000, "12");
@@ -112,7 +112,7 @@ TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet)
 
 TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     t.mit_bestzeiten = true;
-    t.p.einst.beste_modus = 2;
+    t.p.einst.beste_modus = bestzeit_speicherung::manuell;
     t.p.bestzeiten.einfuegen(1, {2000, "Rekord", "", ""});
     t.p.bestzeiten.einfuegen(2, {2000, "Rekord", "", ""});
     t.p.form1.lspur[1].eingeben("30");
@@ -147,9 +147,9 @@ TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
 }
 
 TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
-    t.p.einst.training_art = 1;
-    t.p.einst.training_wechseldauer = 3;
-    t.p.einst.training_weiter = 1;
+    t.p.einst.training_art = trainingsart::intervall;
+    t.p.einst.training_wechseldauer = 3s;
+    t.p.einst.training_weiter = training_weitergang::fortsetzen;
     t.einrichten("Runden", "1", {1});
     t.p.param.training_laeuft = true;
     t.bahn().Command1.klicken();
@@ -260,7 +260,7 @@ protected:
 };
 
 TEST_F(FortsetzungModell, RundenBleibenWieSieGefahrenWurden) {
-    t.p.einst.chaos_strafzeit = -1;
+    t.p.einst.chaos_strafzeit = -1s;
     for (int rennen = 0; rennen < 6; ++rennen) {
         SCOPED_TRACE(rennen);
         const bool zeitrennen = eins_von(2);

@@ -8,20 +8,20 @@ namespace {
 class Fruehstart : public test::StartampelProbe {};
 
 TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
-    t.p.einst.fruehstart_option = 5;
-    t.p.einst.fruehstart_schritte = 7;
+    t.p.einst.fruehstart_option = fruehstart_aktion::zeitstrafe;
+    t.p.einst.fruehstart_schritte = 7s;
     beginnen(1);
     t.maschine.laufen(4000);
     t.p.startampel.taste('2');
-    EXPECT_EQ(t.spur(2).strafzeit, 0);
+    EXPECT_EQ(t.spur(2).strafzeit, 0s);
     t.maschine.laufen(1);
-    EXPECT_EQ(t.spur(2).strafzeit, 7);
+    EXPECT_EQ(t.spur(2).strafzeit, 7s);
     EXPECT_EQ(t.bahn().straflabel[2].text(), "Strafzeit: 7 sec");
     EXPECT_TRUE(t.bahn().straflabel[2].sichtbar());
     EXPECT_EQ(t.maschine.sounds.back(), "sound\\fs2.wav");
     EXPECT_EQ(t.p.startampel.fenster.Label_fruehstart.text(), "Frühstart: Spur 2");
     ampeltaste('2');
-    EXPECT_EQ(t.spur(2).strafzeit, 7) << "a second false start costs nothing more";
+    EXPECT_EQ(t.spur(2).strafzeit, 7s) << "a second false start costs nothing more";
     EXPECT_EQ(gespielt("fs2.wav"), 1);
     EXPECT_TRUE(strom(2));
     t.p.ereignisse.ereignis_melden(29);  // a tank contact of the same lane, and one of a lane that is not in the race
@@ -32,8 +32,8 @@ TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
 }
 
 TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
-    t.p.einst.fruehstart_option = 3;
-    t.p.einst.fruehstart_strafzeit = 500;
+    t.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
+    t.p.einst.fruehstart_strafzeit = 5s;
     beginnen(1);
     t.maschine.laufen(gruen_nach + 3000);
     t.bahn().Command2.klicken();  // in the middle of the penalty: the next one takes its full time all the same
@@ -60,28 +60,29 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     t.runde_nach(200, "3");
     EXPECT_EQ(t.spur(3).runden, 1);
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(3, 1), 5000 + 5000 + 200 - 1);
-    EXPECT_EQ(t.p.einst.fruehstart_strafzeit, 500);
+    EXPECT_EQ(t.p.einst.fruehstart_strafzeit, 5s);
 }
 
 TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
     for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler] :
          {std::tuple(0, 0, 0, true, "0"), {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
         SCOPED_TRACE(option);
-        t.p.einst.fruehstart_option = option;
-        t.p.einst.fruehstart_strafzeit = 300;
+        t.p.einst.fruehstart_option = fruehstart_aktion(option);
+        t.p.einst.fruehstart_strafzeit = 3s;
         beginnen(3);
         t.maschine.laufen(5000);
         ampeltaste('2');
         t.maschine.laufen(2000 + 5 * 1500 - 5002);
         ASSERT_TRUE(rennen_laeuft());
         EXPECT_EQ(t.spur(2).runden, runden_bei_gruen);
-        EXPECT_EQ(t.spur(2).strafzeit, strafzeit);
+        EXPECT_EQ(t.spur(2).strafzeit, dauer_s(strafzeit));
         EXPECT_EQ(strom(2), mit_strom);
         EXPECT_EQ(t.bahn().zaehler[2].text(), zaehler);
         EXPECT_EQ(t.spur(1).runden, -1);
         EXPECT_TRUE(strom(1));
         t.runde_nach(2500, "1");
-        EXPECT_EQ(t.p.einst.fruehstart_strafzeit, option == 2 ? 300 : 10) << "overwritten when the light closes";
+        EXPECT_EQ(t.p.einst.fruehstart_strafzeit, option == 2 ? 3s : dauer_hs(10))
+            << "overwritten when the light closes";
         t.runde_nach(6000, "12");
         EXPECT_EQ(t.spur(1).runden, 1);
         EXPECT_EQ(t.spur(2).runden, option == 2 ? -1 : runden_bei_gruen + 1);
@@ -90,7 +91,7 @@ TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
 }
 
 TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
-    t.p.einst.fruehstart_option = 1;
+    t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
     for (const int modus : {1, 7}) {
         SCOPED_TRACE(modus);
         beginnen(modus);
@@ -137,13 +138,13 @@ TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
     t.p.quellen.anschliessen(sensor);
     for (const int option : {1, 5}) {
         SCOPED_TRACE(option);
-        t.p.einst.fruehstart_option = option;
+        t.p.einst.fruehstart_option = fruehstart_aktion(option);
         beginnen(1);
         sensor.wann = t.maschine.jetzt() + gruen_nach;
         sensor.abfragen_bisher = 0;
         t.maschine.laufen(gruen_nach);
         EXPECT_EQ(rennen_laeuft(), option != 1) << "an aborted start does not go green";
-        EXPECT_EQ(t.spur(1).strafzeit, option == 5 ? 10 : 0);
+        EXPECT_EQ(t.spur(1).strafzeit, option == 5 ? 10s : 0s);
         t.maschine.laufen(2000);
         EXPECT_EQ(t.spur(1).runden, -1);
         EXPECT_EQ(t.p.startampel.laeuft(), option == 1);
@@ -154,7 +155,7 @@ TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
 
 TEST_F(Fruehstart, OhneSoundsWirdBestraftAberNichtGestempelt) {
     t.p.einst.sound_an = false;
-    t.p.einst.fruehstart_option = 3;
+    t.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
     t.p.einst.start_zeit_sensor = true;
     beginnen(1);
     t.maschine.laufen(4000);
@@ -170,7 +171,7 @@ TEST_F(Fruehstart, OhneSoundsWirdBestraftAberNichtGestempelt) {
 }
 
 TEST_F(Fruehstart, EigeneStartzeitBleibtDieDesFruehstarts) {
-    t.p.einst.fruehstart_option = 0;
+    t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
     t.p.einst.start_zeit_sensor = true;
     beginnen(1);
     t.maschine.laufen(gruen_nach - 501);
@@ -183,10 +184,10 @@ TEST_F(Fruehstart, EigeneStartzeitBleibtDieDesFruehstarts) {
 }
 
 TEST_F(Fruehstart, AusgeschlosseneSpurHaeltDasEndeNichtAuf) {
-    t.p.einst.fruehstart_option = 2;
+    t.p.einst.fruehstart_option = fruehstart_aktion::disqualifikation;
     t.p.einst.zielmodus_erster = false;
     t.einrichten("Runden", "1", {1, 2});
-    t.p.einst.start_ampel_modus = 1;
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     starten();
     t.maschine.laufen(4000);
     ampeltaste('2');

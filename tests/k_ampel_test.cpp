@@ -9,7 +9,7 @@ class KleineAmpel : public test::ProgrammProbe {
 protected:
     void pause(int modus) {
         t.starten("Zeit", "5", {1, 2});
-        t.p.einst.start_ampel_modus = modus;
+        t.p.einst.start_ampel_modus = ampelwahl(modus);
         t.runde_nach(10000, "12");
         t.taste("c");
     }

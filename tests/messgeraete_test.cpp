@@ -14,7 +14,7 @@ struct Wiedereingesteckt : testing::Test {
         t.p.einst.cu_modus = com;
         t.p.einst.uart_port = com;
         t.p.geraete.hardware_starten(false);
-        t.maschine.laufen(at_bootzeit_ms + 500);
+        t.maschine.laufen(at_bootzeit.count() + 500);
     }
     void abziehen_und_einstecken() {
         t.einrichten("Runden", "20", {1});
@@ -53,7 +53,7 @@ TEST_F(Wiedereingesteckt, At2560MisstErstWennEsHoert) {
     t.p.fenster.neu_laden("bahn1");
     t.bahn().Command1.klicken();
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
-    t.maschine.laufen(at_bootzeit_ms);
+    t.maschine.laufen(at_bootzeit.count());
     const std::string befehle = gesendet();
     EXPECT_LT(befehle.rfind(":IS,13.11.9.7;"), befehle.rfind(":P01;")) << befehle;
     t.bahn().Command1.klicken();

@@ -10,9 +10,9 @@ using test::bleibt;
 class Optionen : public test::OptionenProbe {};
 
 TEST_F(Optionen, WasAusAnderenWertenFolgt) {
-    EXPECT_EQ(einst.ampel_takt, 1500);
+    EXPECT_EQ(einst.ampel_takt, 1500ms);
     nach_wahl("start_ampel_combo", 6);
-    EXPECT_EQ(einst.ampel_takt, 500);
+    EXPECT_EQ(einst.ampel_takt, 500ms);
     nach_kreuz("fahrzeug_wechseln");
     EXPECT_FALSE(einst.fahrzeug_wechseln);
     nach_kreuz("opt_centermode");
@@ -20,16 +20,16 @@ TEST_F(Optionen, WasAusAnderenWertenFolgt) {
 
     waehlen("sektor_anzeige", 1);
     nach_wahl("topspeed_anzeige", 1);
-    EXPECT_EQ(einst.topspeed_anzeige, 2);
+    EXPECT_EQ(einst.topspeed_anzeige, sektor_ort::gross);
     nach_wahl("sektor_anzeige", 2);
-    EXPECT_EQ(einst.topspeed_anzeige, 1);
+    EXPECT_EQ(einst.topspeed_anzeige, sektor_ort::klein);
 
     nach_kreuz("nachtrennen");
-    EXPECT_EQ(einst.nachtrennen_modus, 1);
+    EXPECT_EQ(einst.nachtrennen_modus, nachtrennen::rennen);
     nach_kreuz("nachtampel");
-    EXPECT_EQ(einst.nachtrennen_modus, 2);
+    EXPECT_EQ(einst.nachtrennen_modus, nachtrennen::rennen_und_ampel);
     nach_kreuz("nachtrennen");  // the light of a night race goes with it
-    EXPECT_EQ(einst.nachtrennen_modus, 0);
+    EXPECT_EQ(einst.nachtrennen_modus, nachtrennen::aus);
 }
 
 TEST_F(Optionen, WasDieDateiNichtAnnimmtNimmtAuchDasFensterNicht) {
@@ -81,7 +81,7 @@ TEST_F(Optionen, EineMesshardwareZurZeit) {
         EXPECT_EQ(std::count_if(fenster.hardware.begin(), fenster.hardware.end(),
                                 [](const haken& eine) { return eine.gesetzt(); }),
                   1);
-        EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? 4 : 3);
+        EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? modul_4x4::modus_1 : modul_4x4::aus);
         EXPECT_EQ(einst.hardware.hw_simulation, nummer == 0 || nummer > 5) << nummer;
         const std::string zusatz = nummer == 5 ? ": Kein Modus" : nummer == 6 ? " – keine Verbindung" : "";
         EXPECT_EQ(t.p.form1.modus_label.text(), t.p.txt.hardware_name.at(nummer) + zusatz);
@@ -241,24 +241,24 @@ TEST_F(Optionen, GrenzenMitMeldungLassenDenAltenWertUndNehmenDieAnderen) {
         EXPECT_TRUE(nach_eingabe(g.name, g.oben).empty());
         EXPECT_EQ(zeile(g), g.gespeichert);
     }
-    EXPECT_EQ(einst.fruehstart_schritte, 300);
-    einst.fruehstart_strafzeit = 10;  // what a start leaves behind
+    EXPECT_EQ(einst.fruehstart_schritte, 300s);
+    einst.fruehstart_strafzeit = dauer_hs(10);  // what a start leaves behind
     nach_eingabe("f_strafzeit", "0.1");
-    EXPECT_EQ(einst.fruehstart_schritte, 300);
+    EXPECT_EQ(einst.fruehstart_schritte, 300s);
 }
 
 TEST_F(Optionen, KommaUndPunktSindDasselbe) {
     nach_eingabe("t_wartezeit", "1,25");
-    EXPECT_EQ(einst.tank_wartezeit, 125);
+    EXPECT_EQ(einst.tank_wartezeit, dauer_hs(125));
     EXPECT_EQ(element<feld>("t_wartezeit").text(), "1,25");
     nach_eingabe("t_wartezeit", "2.5");
-    EXPECT_EQ(einst.tank_wartezeit, 250);
+    EXPECT_EQ(einst.tank_wartezeit, dauer_hs(250));
     nach_eingabe("sektor_laenge_2_6", "3,5");
     EXPECT_EQ(einst.sektor_laenge[2][6], "3.5");
 }
 
 TEST_F(Optionen, StilleKorrekturen) {
-    const auto pruefen = [this](const char* name, const char* text, int e::*wert, int soll) {
+    const auto pruefen = [this](const char* name, const char* text, auto e::*wert, auto soll) {
         EXPECT_TRUE(nach_eingabe(name, text).empty());
         EXPECT_EQ(einst.*wert, soll) << name << " " << text;
     };
@@ -267,8 +267,8 @@ TEST_F(Optionen, StilleKorrekturen) {
     pruefen("snd_beste", "11", &e::snd_beste_runde, 5);
     pruefen("txt_justierung_aufeinemsensortanken", "11", &e::tanksensor_justierung, 12);
     pruefen("txt_justierung_aufeinemsensortanken", "101", &e::tanksensor_justierung, 100);
-    pruefen("e_ch_strafzeit", "123456", &e::chaos_strafzeit, 1234);
-    pruefen("txt_trainingwechseldauer", "1001", &e::training_wechseldauer, 1000);
+    pruefen("e_ch_strafzeit", "123456", &e::chaos_strafzeit, 1234s);
+    pruefen("txt_trainingwechseldauer", "1001", &e::training_wechseldauer, 1000s);
     pruefen("w_edauertext", "0", &e::w_edauer, 2);
     pruefen("w_edauertext", "100", &e::w_edauer, 10);
     pruefen("lpt_text", "2f8", &e::lpt_adresse, 0x2F8);

@@ -59,14 +59,14 @@ TEST_F(Rennende, ZweiteRennenImSelbenProgrammBeginnenGanzVonVorn) {
         t.runde_nach(6000 + 500 * rennen, "1");
         EXPECT_EQ(t.bahn().brunde[1].text(), rennen == 0 ? "06,000" : "06,500");
         EXPECT_EQ(t.p.rennen.zustand.fuehrungsrunden, 1);
-        t.spur(2).strafzeit = 7;
+        t.spur(2).strafzeit = 7s;
         t.spur(2).pause_abzug = 400;
         t.runde_nach(6000, "1");
         ASSERT_TRUE(beendet()) << rennen;
         EXPECT_EQ(gespielt("ez.wav"), 1);
         t.p.auswertung.Command5.klicken();
         t.starten("Zeit", "1", {1});
-        EXPECT_EQ(t.spur(2).strafzeit, 0);
+        EXPECT_EQ(t.spur(2).strafzeit, 0s);
         EXPECT_EQ(t.spur(2).pause_abzug, 0);
         EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.beste(1), 0);
         t.bahn().Command4.klicken();

@@ -112,7 +112,7 @@ TEST_F(Rundenzaehlung, GesperrteUndAusgeschiedeneSpurenZaehlenNicht) {
     t.spur(1).tank_halt = true;
     t.runde_nach(8000, "1");
     EXPECT_EQ(t.spur(1).runden, 0);
-    t.p.einst.tank_art = 2;
+    t.p.einst.tank_art = tankweise::zwischen_zwei_kontakten;
     t.runde_nach(8000, "1");
     EXPECT_EQ(t.spur(1).runden, 1);
 }

@@ -10,7 +10,7 @@ protected:
     void fahren() {
         t.p.belegung.vorbelegen(belegung_stufe::alle);
         t.p.einst.sektor_an = {true, true, true, true};
-        t.p.einst.sektor_anzeige = 2;
+        t.p.einst.sektor_anzeige = sektor_ort::gross;
         t.starten("Zeit", "5", {1});
         t.runde_nach(1000, "1");
         t.maschine.sounds.clear();
@@ -77,7 +77,7 @@ TEST_F(Sektoren, PauseGehtVonJedemSektorAbUndDieSummeStimmt) {
 
 TEST_F(Sektoren, TempoNachLaengeUndMassstab) {
     fahren();
-    t.p.einst.topspeed_anzeige = 1;
+    t.p.einst.topspeed_anzeige = sektor_ort::klein;
     t.p.einst.sektor_laenge[1][1] = "5";
     t.p.einst.sektor_laenge[2][1] = "0";
     t.runde_nach(1600, "u");

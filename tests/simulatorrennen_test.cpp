@@ -30,7 +30,7 @@ struct Simulatorrennen : testing::Test {
     }
     void rennen_fahren(const char* minuten) {
         t.einrichten(t.p.txt.text_zeit, minuten, {1, 2, 3, 4, 5, 6});
-        t.p.einst.start_ampel_modus = 1;
+        t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
         t.p.einst.zielmodus_erster = true;
         laufen(500);
         t.bahn().Command1.klicken();

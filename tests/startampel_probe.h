@@ -10,7 +10,7 @@ protected:
     /// Opens the race window and presses start; the light begins.
     void beginnen(int modus, const std::vector<int>& lanes = {1, 2, 3}) {
         t.einrichten("Zeit", "5", lanes);
-        t.p.einst.start_ampel_modus = modus;
+        t.p.einst.start_ampel_modus = ampelwahl(modus);
         starten();
     }
     void starten() {

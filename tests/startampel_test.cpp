@@ -80,7 +80,7 @@ TEST_F(Startampel, DragraceHatEigeneSchritteUndDenBaum) {
 }
 
 TEST_F(Startampel, VariableStartzeitDehntDenLetztenSchritt) {
-    t.p.einst.start_option = 2;
+    t.p.einst.start_option = startzeit::variabel;
     for (const auto& [modus, zufall, takt] : {std::tuple(1, 0.0, 1000),
                                               {1, 0.26, 2000},
                                               {1, 0.999, 4000},
@@ -100,7 +100,7 @@ TEST_F(Startampel, VariableStartzeitDehntDenLetztenSchritt) {
 }
 
 TEST_F(Startampel, AbbruchVonHandHaeltInJedemSchrittAllesAn) {
-    t.p.einst.fruehstart_option = 3;
+    t.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
     t.p.einst.blinken_an = false;  // else the light shows that the window is ready again
     for (const int nach : {0, 1999, 3500, 6500, gruen_nach - 1}) {
         SCOPED_TRACE(nach);
@@ -128,9 +128,9 @@ TEST_F(Startampel, AbbruchVonHandHaeltInJedemSchrittAllesAn) {
 }
 
 TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
-    t.p.einst.fruehstart_option = 5;
-    t.p.einst.tank_runden_modus = 2;
-    t.p.einst.nachtrennen_modus = 2;
+    t.p.einst.fruehstart_option = fruehstart_aktion::zeitstrafe;
+    t.p.einst.tank_runden_modus = rundenzaehlung_auf::tanksensor_2;
+    t.p.einst.nachtrennen_modus = nachtrennen::rennen_und_ampel;
     beginnen(1);
     auto& nacht = t.p.startampel.fenster.Nachtabschaltung;
     EXPECT_TRUE(nacht.sichtbar());
@@ -144,7 +144,7 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     t.p.startampel.taste('a');  // leaves the tank contact of lane 1
     EXPECT_TRUE(t.p.ereignisse[16].aktiv);
     t.maschine.laufen(1);
-    EXPECT_EQ(t.spur(1).strafzeit, 10);
+    EXPECT_EQ(t.spur(1).strafzeit, 10s);
     bis_gruen(3);
     t.p.ereignisse[29].aktiv = true;
     t.p.ereignisse[38].aktiv = true;
@@ -154,7 +154,7 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
 
 TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {
     t.einrichten("Runden", "1", {1});
-    t.p.einst.start_ampel_modus = 1;
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     t.p.param.min_rundenzeit_ms = 100;
     starten();
     t.maschine.laufen(gruen_nach);

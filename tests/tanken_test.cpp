@@ -18,16 +18,16 @@ protected:
 };
 
 TEST(Verbrauch, NachZeitMitGrenzenUndStreuung) {
-    EXPECT_DOUBLE_EQ(verbrauch(8000, 7, 8), 7);
-    EXPECT_DOUBLE_EQ(verbrauch(8500, 7, 8), 7.09);
-    EXPECT_DOUBLE_EQ(verbrauch(7000, 7, 8), 8);
-    EXPECT_DOUBLE_EQ(verbrauch(16000, 7, 8), 4.67);
-    EXPECT_DOUBLE_EQ(verbrauch(16999, 7, 8), 5.67);
-    EXPECT_DOUBLE_EQ(verbrauch(2000, 7, 8), 14.75);
-    EXPECT_DOUBLE_EQ(verbrauch(3600000 + 8000, 7, 8), 7);
-    EXPECT_DOUBLE_EQ(verbrauch(0, 7, 8), 14.75);
-    EXPECT_DOUBLE_EQ(verbrauch(68000, 7, 8), 4.67);
-    EXPECT_DOUBLE_EQ(verbrauch(4067, 7, 8), 13.84);
+    EXPECT_DOUBLE_EQ(verbrauch(8000, 7, 8s), 7);
+    EXPECT_DOUBLE_EQ(verbrauch(8500, 7, 8s), 7.09);
+    EXPECT_DOUBLE_EQ(verbrauch(7000, 7, 8s), 8);
+    EXPECT_DOUBLE_EQ(verbrauch(16000, 7, 8s), 4.67);
+    EXPECT_DOUBLE_EQ(verbrauch(16999, 7, 8s), 5.67);
+    EXPECT_DOUBLE_EQ(verbrauch(2000, 7, 8s), 14.75);
+    EXPECT_DOUBLE_EQ(verbrauch(3600000 + 8000, 7, 8s), 7);
+    EXPECT_DOUBLE_EQ(verbrauch(0, 7, 8s), 14.75);
+    EXPECT_DOUBLE_EQ(verbrauch(68000, 7, 8s), 4.67);
+    EXPECT_DOUBLE_EQ(verbrauch(4067, 7, 8s), 13.84);
 }
 
 TEST_F(Tanken, ErsteUeberfahrtVerbrauchtAuchUndAnzeigenFolgen) {
@@ -35,7 +35,7 @@ TEST_F(Tanken, ErsteUeberfahrtVerbrauchtAuchUndAnzeigenFolgen) {
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "60,00");
     EXPECT_DOUBLE_EQ(t.bahn().tankbalken[0].hoehe(), t.bahn().tank_balkenhoehe);
     t.runde_nach(8000, "1");
-    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60 - verbrauch(7998, 7, 8));
+    EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60 - verbrauch(7998, 7, 8s));
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "52,00") << "7 litres, and 0.998 of scatter";
     EXPECT_NEAR(t.bahn().tankbalken[0].hoehe(), t.bahn().tank_balkenhoehe * 52.0 / 60, 0.01);
     t.bahn().Command2.klicken();
@@ -63,7 +63,7 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
                                                                             {3, 1, false, false, 0, 2U},
                                                                             {4, 2, false, true, 10, 3U}}) {
         SCOPED_TRACE(option);
-        t.p.einst.tank_straf_option = option;
+        t.p.einst.tank_straf_option = leer_aktion(option);
         fahren(12);
         t.runde_nach(8000, "1");
         t.runde_nach(8000, "1");
@@ -72,7 +72,7 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
         EXPECT_EQ(t.spur(1).disqualifiziert, dis);
         EXPECT_EQ(t.bahn().zaehler[1].text(), dis ? "Dis." : std::to_string(runden));
         EXPECT_EQ(strom(1), mit_strom);
-        EXPECT_EQ(t.spur(1).strafzeit, strafzeit);
+        EXPECT_EQ(t.spur(1).strafzeit, dauer_s(strafzeit));
         EXPECT_EQ(t.bahn().straflabel[1].sichtbar(), strafzeit > 0);
         EXPECT_EQ(t.bahn().t_liste[0].zeilen().size(), zeilen);
         EXPECT_EQ(t.bahn().t_bahn[1].text(), "0,00");
@@ -84,8 +84,8 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
 }
 
 TEST_F(Tanken, StromstrafeInDerLetztenRundeGiltFuerAlle) {
-    t.p.einst.tank_straf_option = 3;
-    t.p.einst.tank_strafzeit = 1000;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 10s;
     t.p.einst.tank_inhalt = 5;
     t.p.einst.zielmodus_erster = true;
     t.p.einst.runde_beenden = false;
@@ -102,8 +102,8 @@ TEST_F(Tanken, StromstrafeInDerLetztenRundeGiltFuerAlle) {
 }
 
 TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
-    t.p.einst.tank_straf_option = 3;
-    t.p.einst.tank_strafzeit = 1000;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 10s;
     fahren(12);
     t.runde_nach(8000, "1");
     t.runde_nach(8000, "1");
@@ -123,8 +123,8 @@ TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
 }
 
 TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
-    t.p.einst.tank_straf_option = 3;
-    t.p.einst.tank_strafzeit = 500;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 5s;
     fahren(6, "Runden", "1");
     t.runde_nach(8000, "1");
     EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
@@ -134,7 +134,7 @@ TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
 }
 
 TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
-    t.p.einst.tank_straf_option = 3;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
     t.starten("Zeit", "5", {1});
     t.spur(1).tank_inhalt = 3;
     t.runde_nach(8000, "1");
@@ -145,8 +145,8 @@ TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
 }
 
 TEST_F(Tanken, AufEinemKontaktWirdNachDerWartezeitGetankt) {
-    t.p.einst.tank_wartezeit = 100;
-    t.p.einst.tank_runden_modus = 1;
+    t.p.einst.tank_wartezeit = 1s;
+    t.p.einst.tank_runden_modus = rundenzaehlung_auf::tanksensor_1;
     fahren(10);
     t.taste("q");
     t.maschine.laufen(1000);
@@ -169,7 +169,7 @@ TEST_F(Tanken, AufEinemKontaktWirdNachDerWartezeitGetankt) {
 }
 
 TEST_F(Tanken, VerlassenDesKontaktsUndStrafeHaltenDasTankenAn) {
-    t.p.einst.tank_wartezeit = 0;
+    t.p.einst.tank_wartezeit = 0s;
     fahren(10);
     t.taste("q");
     t.maschine.laufen(511);
@@ -189,7 +189,7 @@ TEST_F(Tanken, VerlassenDesKontaktsUndStrafeHaltenDasTankenAn) {
 
 TEST_F(Tanken, TanksensorZaehltRunden) {
     for (const int modus : {1, 2}) {
-        t.p.einst.tank_runden_modus = modus;
+        t.p.einst.tank_runden_modus = rundenzaehlung_auf(modus);
         fahren(60);
         t.maschine.laufen(6000);
         t.taste("q");

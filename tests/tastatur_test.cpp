@@ -31,7 +31,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
 
 TEST_F(Tastatur, NachtbildschirmNurImRennen) {
     const auto& nacht = t.bahn().Nachtabschaltung;
-    t.p.einst.nachtrennen_modus = 1;
+    t.p.einst.nachtrennen_modus = nachtrennen::rennen;
     t.starten("Zeit", "1", {1});
     for (const bool dunkel : {true, false}) {
         EXPECT_EQ(nacht.sichtbar(), dunkel);

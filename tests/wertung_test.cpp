@@ -74,10 +74,10 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
     test::testprogramm t;
     t.p.form1.wertmin.eingeben("1");
     t.p.einst.zielmodus_erster = true;
-    t.p.einst.sensor_timeout = 0;
+    t.p.einst.sensor_timeout = 0ms;
     for (const rennen_von_hand& r : rennen_liste) {
         SCOPED_TRACE(r.was);
-        t.p.einst.auswertung_nach = r.auswertung_nach;
+        t.p.einst.auswertung_nach = sortier_modus(r.auswertung_nach);
         std::vector<int> lanes;
         for (const platz_von_hand& p : r.stand) {
             lanes.push_back(p.spur);
@@ -87,7 +87,7 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
             t.runde_nach(u.nach, u.tasten);
         }
         if (r.strafe_spur != 0) {
-            t.spur(r.strafe_spur).strafzeit = 1;
+            t.spur(r.strafe_spur).strafzeit = 1s;
         }
         if (r.ausgeschieden != 0) {
             t.spur(r.ausgeschieden).disqualifiziert = true;
@@ -109,7 +109,7 @@ protected:
     WertungKorrektur() {
         t.p.form1.wertmin.eingeben("1");
         t.p.einst.zielmodus_erster = true;
-        t.p.einst.sensor_timeout = 0;
+        t.p.einst.sensor_timeout = 0ms;
     }
     auswertung& a = t.p.auswertung;
     wertung& w = t.p.wertung;
@@ -149,7 +149,7 @@ TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
 }
 
 TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
-    t.p.einst.auswertung_nach = 1;
+    t.p.einst.auswertung_nach = sortier_modus::meter;
     t.starten("Zeit", "1", {1, 2, 3});
     t.runde_nach(1000, "123");
     t.runde_nach(3000, "12");

@@ -72,18 +72,18 @@ private:
         t_.p.belegung.vorbelegen(belegung_stufe::alle);
         e.zielmodus_erster = selten(2);
         e.runde_beenden = selten(3);
-        e.tank_straf_option = 1 + unter(4);
-        e.tank_wartezeit = unter(3) * 50;
-        e.tank_strafzeit = 100 + unter(300);
+        e.tank_straf_option = leer_aktion(1 + unter(4));
+        e.tank_wartezeit = dauer_hs(unter(3) * 50);
+        e.tank_strafzeit = dauer_hs(100 + unter(300));
         e.tank_inhalt = 20 + unter(50);
-        e.tank_runden_modus = unter(3);
-        e.tank_art = 1 + unter(2);
-        e.sensor_timeout = unter(3) * 1000;
+        e.tank_runden_modus = rundenzaehlung_auf(unter(3));
+        e.tank_art = tankweise(1 + unter(2));
+        e.sensor_timeout = dauer_ms(unter(3) * 1000);
         e.chaosampel_an = selten(2);
         e.chaos_strafe_strom = selten(2);
-        e.chaos_strafzeit = unter(5) - 1;
-        e.fruehstart_option = unter(6);
-        e.fruehstart_strafzeit = 50 + unter(300);
+        e.chaos_strafzeit = dauer_s(unter(5) - 1);
+        e.fruehstart_option = fruehstart_aktion(unter(6));
+        e.fruehstart_strafzeit = dauer_hs(50 + unter(300));
         e.sektor_an = {true, true, true, selten(2)};
         e.sound_an = !selten(5);
         t_.p.form1.wertmin.eingeben("0,5");
@@ -95,7 +95,7 @@ private:
     void starten() {
         const bool zeit = selten(2);
         t_.einrichten(zeit ? "Zeit" : "Runden", zeit ? "0,25" : "7", {1, 2, 4, 6});
-        t_.p.einst.start_ampel_modus = selten(3) ? 1 : 0;
+        t_.p.einst.start_ampel_modus = selten(3) ? ampelwahl::fuenf_rot_gruen : ampelwahl::keine;
         t_.bahn().Command1.klicken();
         while (!t_.p.rennen.zeitgeber.renntimer->laeuft()) {
             if (selten(20000)) {
@@ -104,7 +104,7 @@ private:
             t_.maschine.laufen(1);
             if (!laeuft() || t_.p.startampel.fenster.abbrampel.text() == "OK") {  // a false start has stopped it
                 t_.p.startampel.fenster.abbrampel.klicken();
-                t_.p.einst.fruehstart_option = 0;
+                t_.p.einst.fruehstart_option = fruehstart_aktion::ohne;
                 t_.bahn().Command1.klicken();
             }
         }
@@ -190,7 +190,7 @@ private:
         EXPECT_EQ(s.runden, v.runden + 1);
         if (v.gesperrt) {  // only the lap that the empty tank had held back may come now
             EXPECT_FALSE(s.tank_strafe_aktiv);
-            EXPECT_TRUE(t_.p.param.tank_aktiv && t_.p.einst.tank_straf_option == 3);
+            EXPECT_TRUE(t_.p.param.tank_aktiv && t_.p.einst.tank_straf_option == leer_aktion::stromunterbrechung);
             v.zusammenhang = false;
             return;
         }
@@ -204,12 +204,12 @@ private:
         }
         v.pausen_bis_runde = pausen;
         v.zusammenhang = !s.tank_strafe_aktiv;
-        strafzeit_vorher_[nummer] = s.strafzeit;
+        strafzeit_vorher_[nummer] = s.strafzuschlag();
     }
 
     void strom_pruefen(int nummer) {
         const spur_zustand& s = spur(nummer);
-        strafzeit_vorher_[nummer] = s.strafzeit;
+        strafzeit_vorher_[nummer] = s.strafzuschlag();
         if (bisher_[nummer].zwei_strafen || !t_.p.param.spur_aktiv[nummer]) {
             return;
         }
@@ -226,7 +226,7 @@ private:
     test::testprogramm t_;
     stromstand strom_;
     spuren<vorher> bisher_;
-    spuren<int> strafzeit_vorher_{};
+    spuren<zeit_ms> strafzeit_vorher_{};
     bool pause_vorher_ = false;
     zeit_ms rest_vor_pause_ = 0;
 };

@@ -1,6 +1,7 @@
 #include <array>
 #include <span>
 #include <stdexcept>
+#include <vector>
 
 #include "core/einstellungsdatei.h"
 #include "core/einstellungstabelle.h"
@@ -15,33 +16,36 @@ constexpr const char* wieder = "Einstellungen/wieder.ini";
 /// What other parts count on as an index, a choice or a divisor.
 struct grenze {
     const char* name;
-    int einstellungen::*feld;
+    zahlzugriff zahl;
     int min;
     int max;
 };
 
-constexpr std::array<grenze, 20> grenzen{{
-    {"start_option", &einstellungen::start_option, 1, 3},
-    {"fruehstart_option", &einstellungen::fruehstart_option, 0, 5},
-    {"nachtrennen_modus", &einstellungen::nachtrennen_modus, 0, 2},
-    {"auswertung_nach", &einstellungen::auswertung_nach, 0, 3},
-    {"tank_art", &einstellungen::tank_art, 1, 2},
-    {"tank_straf_option", &einstellungen::tank_straf_option, 0, 4},
-    {"tank_inhalt", &einstellungen::tank_inhalt, 1, 100},
-    {"tank_verbrauch", &einstellungen::tank_verbrauch, 1, 30},
-    {"tank_rundenzeit", &einstellungen::tank_rundenzeit, 1, 300},
-    {"tank_strafzeit", &einstellungen::tank_strafzeit, 1, 6000},
-    {"tanksensor_justierung", &einstellungen::tanksensor_justierung, 12, 100},
-    {"chaos_strafzeit", &einstellungen::chaos_strafzeit, -999, 9999},
-    {"cu_modus", &einstellungen::cu_modus, 0, 20},
-    {"uart_port", &einstellungen::uart_port, 0, 16},
-    {"w_wechselmodus", &einstellungen::w_wechselmodus, 1, 3},
-    {"training_art", &einstellungen::training_art, 0, 2},
-    {"sektor_anzeige", &einstellungen::sektor_anzeige, 0, 2},
-    {"topspeed_anzeige", &einstellungen::topspeed_anzeige, 0, 2},
-    {"beste_modus", &einstellungen::beste_modus, 0, 2},
-    {"snd_beste_runde", &einstellungen::snd_beste_runde, 1, 10},
-}};
+const std::vector<grenze>& grenzen() {
+    static const std::vector<grenze> alle{
+        {"start_option", wert(&einstellungen::start_option), 1, 3},
+        {"fruehstart_option", wert(&einstellungen::fruehstart_option), 0, 5},
+        {"nachtrennen_modus", wert(&einstellungen::nachtrennen_modus), 0, 2},
+        {"auswertung_nach", wert(&einstellungen::auswertung_nach), 0, 3},
+        {"tank_art", wert(&einstellungen::tank_art), 1, 2},
+        {"tank_straf_option", wert(&einstellungen::tank_straf_option), 0, 4},
+        {"tank_inhalt", wert(&einstellungen::tank_inhalt), 1, 100},
+        {"tank_verbrauch", wert(&einstellungen::tank_verbrauch), 1, 30},
+        {"tank_rundenzeit", wert(&einstellungen::tank_rundenzeit), 1, 300},
+        {"tank_strafzeit", wert(&einstellungen::tank_strafzeit), 1, 6000},
+        {"tanksensor_justierung", wert(&einstellungen::tanksensor_justierung), 12, 100},
+        {"chaos_strafzeit", wert(&einstellungen::chaos_strafzeit), -999, 9999},
+        {"cu_modus", wert(&einstellungen::cu_modus), 0, 20},
+        {"uart_port", wert(&einstellungen::uart_port), 0, 16},
+        {"w_wechselmodus", wert(&einstellungen::w_wechselmodus), 1, 3},
+        {"training_art", wert(&einstellungen::training_art), 0, 2},
+        {"sektor_anzeige", wert(&einstellungen::sektor_anzeige), 0, 2},
+        {"topspeed_anzeige", wert(&einstellungen::topspeed_anzeige), 0, 2},
+        {"beste_modus", wert(&einstellungen::beste_modus), 0, 2},
+        {"snd_beste_runde", wert(&einstellungen::snd_beste_runde), 1, 10},
+    };
+    return alle;
+}
 
 template <class Werte>
 void fordern_zwischen(const Werte& werte, int min, int max, const char* was) {
@@ -50,10 +54,11 @@ void fordern_zwischen(const Werte& werte, int min, int max, const char* was) {
     }
 }
 
-void werte_pruefen(const einstellungen& einst) {
+void werte_pruefen(programm& p) {
+    const einstellungen& einst = p.einst;
     constexpr int ereignis_max = 59;
-    for (const grenze& g : grenzen) {
-        fordern_zwischen(std::array{einst.*g.feld}, g.min, g.max, g.name);
+    for (const grenze& g : grenzen()) {
+        fordern_zwischen(std::array{g.zahl({p.einst, p.form1, p.txt})}, g.min, g.max, g.name);
     }
     fordern_zwischen(einst.lpt_eingang, 0, ereignis_max, "lpt_eingang");
     fordern_zwischen(einst.lpt_ausgang, 0, ereignis_max, "lpt_ausgang");
@@ -65,8 +70,8 @@ void werte_pruefen(const einstellungen& einst) {
     fordern_zwischen(einst.cu_spur_wert, 0, 15, "cu_spur_wert");
     fordern_zwischen(std::span(einst.wechsel_schema).subspan(1), 1, 7, "wechsel_schema");
     const messhardware& hw = einst.hardware;
-    fordern_zwischen(std::array{hw.hw_4x4_modus}, 3, 7, "hw_4x4_modus");
-    const bool geraet = hw.hw_iow || hw.hw_race_control || hw.hw_lpt || hw.hw_timekeeper || hw.hw_4x4_modus > 3;
+    fordern_zwischen(std::array{static_cast<int>(hw.hw_4x4_modus)}, 3, 7, "hw_4x4_modus");
+    const bool geraet = hw.hw_iow || hw.hw_race_control || hw.hw_lpt || hw.hw_timekeeper || hw.hw_4x4();
     fordern(hw.hw_simulation != geraet, "simulation beside a device, or neither");
 }
 
@@ -107,7 +112,7 @@ bool einstellungen_lesen(werkbank& bank, const std::string& bytes) {
     if (!laden(p, datei)) {
         return false;
     }
-    werte_pruefen(p.einst);
+    werte_pruefen(p);
     hin_und_zurueck(p);
     const std::vector<std::string> gelesen = p.datei.schreiben();
     p.form1.vor_dem_speichern_pruefen();  // as the operator saves them

@@ -22,7 +22,7 @@ struct at2560_aufbau {
     /// Opens the port and waits until the unit has booted.
     void oeffnen() {
         geraet.oeffnen();
-        t.maschine.laufen(at_bootzeit_ms);
+        t.maschine.laufen(at_bootzeit.count());
         gesendet();
     }
     void oeffnen(const at_profil& profil) {

@@ -12,14 +12,14 @@ namespace tarvel::test {
 
 class virtueller_zeitgeber final : public plattform::zeitgeber {
 public:
-    virtueller_zeitgeber(test_plattform& maschine, plattform::zeitgeber_art art, int intervall_ms)
-        : maschine_(maschine), art_(art), intervall_(intervall_ms) {}
+    virtueller_zeitgeber(test_plattform& maschine, plattform::zeitgeber_art art, dauer_ms intervall)
+        : maschine_(maschine), art_(art), intervall_(intervall.count()) {}
     virtueller_zeitgeber(const virtueller_zeitgeber&) = delete;
     virtueller_zeitgeber& operator=(const virtueller_zeitgeber&) = delete;
     ~virtueller_zeitgeber() override { aus(); }
 
-    void intervall(int ms) override {
-        intervall_ = ms;
+    void intervall(dauer_ms dauer) override {
+        intervall_ = dauer.count();
         if (laeuft()) {
             aus();
             an();
@@ -54,7 +54,7 @@ public:
 private:
     test_plattform& maschine_;
     plattform::zeitgeber_art art_;
-    int intervall_;
+    zeit_ms intervall_;
     bool laeuft_ = false;
 };
 
@@ -92,8 +92,8 @@ void test_plattform::laufen(zeit_ms dauer) {
     jetzt_ = ende;
 }
 
-std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art art, int intervall_ms) {
-    return std::make_unique<virtueller_zeitgeber>(*this, art, intervall_ms);
+std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) {
+    return std::make_unique<virtueller_zeitgeber>(*this, art, intervall);
 }
 
 void test_plattform::zeigen(std::string_view text, std::string_view titel) {

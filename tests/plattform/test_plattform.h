@@ -66,7 +66,7 @@ public:
 private:
     friend class virtueller_zeitgeber;
 
-    std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, int intervall_ms) override;
+    std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
     void bereitstellen(std::string_view /*datei*/) override {}

@@ -14,9 +14,9 @@ testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter)
 }
 
 void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes) {
-    p.einst.start_ampel_modus = 0;
+    p.einst.start_ampel_modus = ampelwahl::keine;
     if (!mit_bestzeiten) {
-        p.einst.beste_modus = 0;
+        p.einst.beste_modus = bestzeit_speicherung::aus;
     }
     p.form1.rennart.eingeben(rennart);
     p.form1.renndauer.eingeben(dauer);

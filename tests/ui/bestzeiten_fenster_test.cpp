@@ -95,7 +95,7 @@ TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
 
 TEST_F(BestzeitenFenster, SchliessenDerAuswertungFragtWieIhrKnopf) {
     t.mit_bestzeiten = true;
-    t.p.einst.beste_modus = 2;
+    t.p.einst.beste_modus = bestzeit_speicherung::manuell;
     t.p.einst.zielmodus_erster = true;
     t.starten("Runden", "1", {1});
     t.runde_nach(1000, "1");

@@ -80,7 +80,7 @@ TEST_F(Ergebnisblatt, ZeigtDenStandInDerFolgeDerPlaetze) {
     t.runde_nach(6000, "24");
     t.runde_nach(6500, "2");
     t.spur(1).disqualifiziert = true;
-    t.spur(4).strafzeit = 10;
+    t.spur(4).strafzeit = 10s;
     t.maschine.laufen(60000);
     const ui::ergebnisblatt blatt = lesen({});
     ASSERT_EQ(blatt.zeilen.size(), 3U);

@@ -106,9 +106,9 @@ TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {
 }
 
 TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
-    t.p.einst.fruehstart_option = 1;
+    t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
     t.einrichten("Zeit", "5", {1, 2});
-    t.p.einst.start_ampel_modus = 1;
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     o.takt.ausfuehren();
     klick(o.bahn1, "bahn1.Command1");
     t.maschine.laufen(4000);
@@ -126,7 +126,7 @@ TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
     o.takt.ausfuehren();
     EXPECT_NE(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1"));
 
-    t.p.einst.start_ampel_modus = 7;
+    t.p.einst.start_ampel_modus = ampelwahl::nur_lampen_fuenf;
     t.bahn().Command1.klicken();
     t.maschine.laufen(1000);
     EXPECT_FALSE(o.form2.isVisible());
@@ -137,7 +137,7 @@ TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
 
 TEST_F(Oberflaeche, PauseVerschiebtKeinenKnopfUndDasFeldNimmtZiffern) {
     t.p.einst.chaosampel_an = false;
-    t.p.einst.start_ampel_modus = 0;
+    t.p.einst.start_ampel_modus = ampelwahl::keine;
     t.starten("Zeit", "5", {1, 2});
     t.maschine.laufen(3000);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&o.bahn1));
@@ -182,7 +182,7 @@ TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
     t.einrichten("Zeit", "5", {1, 2});
     std::map<int, QSize> groessen;
     for (const int modus : {2, 6, 2, 5, 6, 1, 4, 2}) {
-        t.p.einst.start_ampel_modus = modus;
+        t.p.einst.start_ampel_modus = ampelwahl(modus);
         t.bahn().Command1.klicken();
         const auto [platz, neu] = groessen.try_emplace(modus, o.form2.size());
         EXPECT_EQ(o.form2.size(), platz->second) << modus;

@@ -83,10 +83,10 @@ struct Geraeterennen : testing::Test {
     void SetUp() override {
         p.starten();
         maschine.meldungen_gezeigt.clear();
-        p.einst.beste_modus = 0;
+        p.einst.beste_modus = bestzeit_speicherung::aus;
         p.einst.zielmodus_erster = true;
-        p.einst.fruehstart_option = 0;
-        p.einst.start_ampel_modus = 0;
+        p.einst.fruehstart_option = fruehstart_aktion::ohne;
+        p.einst.start_ampel_modus = ampelwahl::keine;
         p.einst.hardware = {};
     }
     void fahren() {

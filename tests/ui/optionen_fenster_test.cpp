@@ -81,7 +81,7 @@ TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
     EXPECT_FALSE(o.einstellungen.isVisible());
 
     EXPECT_TRUE(t.p.einst.runde_beenden);
-    EXPECT_EQ(t.p.einst.start_ampel_modus, 2);
+    EXPECT_EQ(t.p.einst.start_ampel_modus, ampelwahl::fuenf_rot);
     EXPECT_EQ(t.p.einst.tank_inhalt, 88);
     EXPECT_TRUE(t.p.einst.hardware.hw_cu);
     EXPECT_EQ(t.p.einst.farben_spur[2], 0x030201U);

@@ -80,7 +80,7 @@ TEST_F(Rennfenster, FenstermodusStattVollbild) {
 }
 
 TEST_F(Rennfenster, AmpelDerPauseVerdecktNichtsUndLaesstDemRennfensterDieTasten) {
-    t.p.einst.start_ampel_modus = 0;
+    t.p.einst.start_ampel_modus = ampelwahl::keine;
     t.starten("Zeit", "5", {1, 2});
     t.maschine.laufen(3000);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));

@@ -35,7 +35,7 @@ TEST_F(UartFenster, VomKnopfInDenEinstellungenBisZurDatei) {
     EXPECT_FALSE(finde<QWidget>(o.uart_einstellungen, "UART_einstellungen.port_schliessen")->isVisible());
     waehlen("UART_einstellungen.port", "COM2");
     tritt("UART_einstellungen.weiter");
-    t.maschine.laufen(at_bootzeit_ms);
+    t.maschine.laufen(at_bootzeit.count());
     o.takt.ausfuehren();
     tippen(o.uart_einstellungen, "UART_einstellungen.sensoranzahl", "2");
     tritt("UART_einstellungen.weiter");

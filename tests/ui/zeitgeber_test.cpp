@@ -11,8 +11,8 @@ namespace {
 TEST(QtZeitgeber, ZaehlenderHoltNachAbfragenderLaesstFallen) {
     const qt::QtUhr uhr;
     qt::QtZeitgeberDienst dienst(uhr);
-    auto zaehlend = dienst.erzeugen(plattform::zeitgeber_art::zaehlend, 10);
-    auto abfragend = dienst.erzeugen(plattform::zeitgeber_art::abfragend, 10);
+    auto zaehlend = dienst.erzeugen(plattform::zeitgeber_art::zaehlend, 10ms);
+    auto abfragend = dienst.erzeugen(plattform::zeitgeber_art::abfragend, 10ms);
     int gezaehlt = 0;
     int abgefragt = 0;
     zaehlend->bei_tick = [&] { ++gezaehlt; };
@@ -32,7 +32,7 @@ TEST(QtZeitgeber, ZaehlenderHoltNachAbfragenderLaesstFallen) {
 TEST(QtZeitgeber, AusImTickHaeltAuchDasNachholenAn) {
     const qt::QtUhr uhr;
     qt::QtZeitgeberDienst dienst(uhr);
-    auto einmal = dienst.erzeugen(plattform::zeitgeber_art::zaehlend, 5);
+    auto einmal = dienst.erzeugen(plattform::zeitgeber_art::zaehlend, 5ms);
     int mal = 0;
     einmal->bei_tick = [&] {
         ++mal;
@@ -43,7 +43,7 @@ TEST(QtZeitgeber, AusImTickHaeltAuchDasNachholenAn) {
     QTest::qWait(60);
     EXPECT_EQ(mal, 1);
     EXPECT_FALSE(einmal->laeuft());
-    einmal->intervall(0);
+    einmal->intervall(0ms);
     einmal->an();
     QTest::qWait(20);
     EXPECT_EQ(mal, 1) << "an interval of 0 never fires";

@@ -29,7 +29,7 @@ QWidget& uart_assistent(buehne& b) {
             w.sensoranzahl.eingeben("8");
         }
         w.weiter.klicken();
-        b.t.maschine.laufen(at_bootzeit_ms);
+        b.t.maschine.laufen(at_bootzeit.count());
         if (nummer + 1 == uart_einstellungen::seite_sensoren) {
             sagt(":S13,1001;:S11,2417;:S9,3830;:S7,5222;");
             for (std::size_t i = 0; i < 4; ++i) {

@@ -10,7 +10,7 @@ namespace {
 /// The start light in its second red phase.
 QWidget& ampel(buehne& b) {
     b.einrichten("Runden", "20", {1, 2, 3});
-    b.p.einst.start_ampel_modus = 1;
+    b.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     b.t.bahn().Command1.klicken();
     b.t.maschine.laufen(5500);
     return b.o.form2;
@@ -47,8 +47,8 @@ QWidget& tanken(buehne& b) {
 /// Two sectors: the time of each in large, its speed in small.
 void sektoren_messen(buehne& b) {
     b.p.einst.sektor_an = {true, true, true, true};
-    b.p.einst.sektor_anzeige = 2;
-    b.p.einst.topspeed_anzeige = 1;
+    b.p.einst.sektor_anzeige = sektor_ort::gross;
+    b.p.einst.topspeed_anzeige = sektor_ort::klein;
     for (auto& laenge : b.p.einst.sektor_laenge) {
         std::fill(laenge.begin(), laenge.end(), "4.2");
     }
@@ -246,7 +246,7 @@ const std::vector<szeneneintrag> alle{
     {"startampel_dragrace",
      [](buehne& b) -> QWidget& {
          b.einrichten("Runden", "20", {1, 2});
-         b.p.einst.start_ampel_modus = 6;
+         b.p.einst.start_ampel_modus = ampelwahl::dragrace;
          b.t.bahn().Command1.klicken();
          b.t.maschine.laufen(8700);
          return b.o.form2;
@@ -254,7 +254,7 @@ const std::vector<szeneneintrag> alle{
      true},
     {"startampel_fruehstart",
      [](buehne& b) -> QWidget& {
-         b.p.einst.fruehstart_option = 1;
+         b.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
          ampel(b);
          b.t.taste("2");
          return b.o.form2;
