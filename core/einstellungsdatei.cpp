@@ -1,7 +1,6 @@
 #include "core/einstellungsdatei.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/einstellungstabelle.h"
 #include "core/text.h"
@@ -87,7 +86,7 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
             tabelle[platz(z)].laden(um_.ziel, zeile(z));
         }
         if (z == z::ende_wettkampf && wettkampfdatei_) {
-            rennen_des_wettkampfs_uebernehmen();
+            wettkampf_uebergeben(um_.ziel.haupt.einrichtung(), um_.param);
         }
         if (z == z::vor_den_bestzeiten && beste_zeiten_laden) {
             beste_zeiten_laden();
@@ -108,17 +107,6 @@ void einstellungsdatei::hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_st
         hardware.hw_4x4_modus = *hw_4x4_modus_start;
     }
     hardware.simulation_ableiten();
-}
-
-void einstellungsdatei::rennen_des_wettkampfs_uebernehmen() {
-    renn_parameter& param = um_.param;
-    const form1& haupt = um_.ziel.haupt;
-    param.renn_art_text = haupt.rennart.text();
-    param.tank_aktiv = haupt.t_aktiv.gesetzt();
-    param.min_rundenzeit_ms = std::llround(zahl_lesen(haupt.wertmin.text()) * 1000);
-    param.renndauer_ms = std::llround(zahl_lesen(haupt.stddauer.text()) * 3600000 +
-                                      zahl_lesen(haupt.renndauer.text()) * 60000);  // knows no seconds
-    param.renndauer_rest_ms = param.renndauer_ms;
 }
 
 void einstellungsdatei::wechselschema_uebernehmen() {

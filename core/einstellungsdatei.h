@@ -58,7 +58,6 @@ private:
     bool version_pruefen(std::string_view kopf, version_melden melden);
     void wahrheitswoerter_uebersetzen();
     void hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_start);
-    void rennen_des_wettkampfs_uebernehmen();
     void wechselschema_uebernehmen();
     void cu_spuren_uebernehmen();
     const std::string& zeile(int z) const { return zeilen_.at(static_cast<std::size_t>(z)); }

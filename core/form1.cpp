@@ -1,23 +1,12 @@
 #include "core/form1.h"
 
-#include <cmath>
 #include <string>
 #include <string_view>
-
-#include "core/text.h"
 
 namespace tarvel {
 namespace {
 
 constexpr int kleiner_bildschirm_px = 720;  // on a lower screen lanes 5 and 6 cannot be used
-constexpr zeit_ms sperrzuschlag_ms = 100;   // a single race accepts laps only this much above the entered minimum
-
-void begrenzen(feld& wert, double min, double max, std::string_view ersatz) {
-    const double zahl = zahl_lesen(wert.text());
-    if (zahl < min || zahl > max) {
-        wert.text(ersatz);
-    }
-}
 
 }  // namespace
 
@@ -70,7 +59,6 @@ void form1::befehle_verbinden() {
 }
 
 void form1::einstellungen_rufen(const std::function<void()>& wohin) {
-    spuren_zaehlen();
     vor_dem_speichern_pruefen();  // the options window writes these fields too
     if (wohin) {
         wohin();
@@ -100,11 +88,10 @@ void form1::rennart_geaendert() {
     if (rennart.text() != um_.txt.text_zeit && rennart.text() != um_.txt.text_runden) {
         rennart.text(um_.txt.text_zeit);
     }
-    const bool zeitrennen = rennart.text() == um_.txt.text_zeit;
+    const bool zeitrennen = gewaehlte_art() == renn_art::zeit;
     Label19.text(zeitrennen ? wort_minuten_ : wort_runden_);
     stddauer.aktiviert(zeitrennen);
     Label8.sichtbar(zeitrennen);
-    um_.param.renn_art_text = rennart.text();
 }
 
 void form1::spur_geaendert(std::size_t index) {
@@ -114,79 +101,51 @@ void form1::spur_geaendert(std::size_t index) {
     auto_[index].aktiviert(an);
 }
 
+renn_art form1::gewaehlte_art() const {
+    return rennart.text() == um_.txt.text_runden ? renn_art::runden : renn_art::zeit;
+}
+
+renneinrichtung form1::einrichtung() const {
+    renneinrichtung e;
+    e.art = gewaehlte_art();
+    e.tanken = t_aktiv.gesetzt();
+    e.wertung = um_.einst.auswertung_nach;
+    e.stunden = stddauer.text();
+    e.dauer = renndauer.text();
+    e.mindestrunde = wertmin.text();
+    e.massstab = massstab.text();
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        e.bahn[nummer] = {spur[i].gesetzt(), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
+    }
+    return e;
+}
+
+void form1::einrichtung_zeigen(const renneinrichtung& einrichtung) {
+    stddauer.text(einrichtung.stunden);
+    renndauer.text(einrichtung.dauer);
+    wertmin.text(einrichtung.mindestrunde);
+    massstab.text(einrichtung.massstab);
+    for (const int nummer : alle_spuren) {
+        lspur[feld_index(nummer)].text(einrichtung.bahn[nummer].laenge);
+    }
+}
+
 void form1::werte_pruefen() {
-    const auto punkt_statt_komma = [](feld& zahlenfeld) {
-        std::string text = zahlenfeld.text();
-        werte_pruefen2(text);
-        zahlenfeld.text(text);
-    };
-    for (feld& laenge : lspur) {
-        punkt_statt_komma(laenge);
-        begrenzen(laenge, 1, 10000, "25");
-    }
-    punkt_statt_komma(wertmin);
-    begrenzen(wertmin, 0.1, 59, "5");
-
-    const double stunden = zahl_lesen(stddauer.text());
-    if (stunden > 24) {
-        stddauer.text("24");
-    } else if (stunden <= 0) {
-        stddauer.text("0");
-    }
-
-    const bool rundenrennen = rennart.text() == um_.txt.text_runden;
-    const double dauer = zahl_lesen(renndauer.text());
-    if (dauer < 0) {
-        renndauer.text(rundenrennen ? "1" : "0");
-    } else if (rundenrennen && dauer > 9999) {
-        renndauer.text("9999");
-    } else if (!rundenrennen && dauer > 59) {
-        renndauer.text("59");
-    }
+    renneinrichtung e = einrichtung();
+    e.werte_pruefen();
+    einrichtung_zeigen(e);
 }
 
 void form1::vor_dem_speichern_pruefen() {
-    werte_pruefen();
-    begrenzen(massstab, 1, 500, "43");
+    renneinrichtung e = einrichtung();
+    e.vor_dem_speichern_pruefen();
+    einrichtung_zeigen(e);
 }
 
-void form1::renndauer_normalisieren() {
-    dauer_ = tarvel::renndauer_lesen(renndauer.text());
-    renndauer.text(dauer_.text());
-}
-
-zeit_ms form1::renndauer_lesen() const {
-    return std::llround(zahl_lesen(stddauer.text()) * 3600000) + dauer_.in_ms();
-}
-
-void form1::spuren_zaehlen() {
-    um_.param.spuren_anzahl = 0;
-    for (const int nummer : alle_spuren) {
-        um_.param.spur_aktiv[nummer] = spur[feld_index(nummer)].gesetzt();
-        um_.param.spuren_anzahl += um_.param.spur_aktiv[nummer] ? 1 : 0;
-    }
-}
-
-bool form1::renndauer_zulaessig() const {
-    const double dauer = zahl_lesen(renndauer.text());
-    if (um_.param.renn_art_text == um_.txt.text_runden) {
-        return dauer >= 1 && dauer <= 9999 && um_.param.renndauer_ms != 0;
-    }
-    return dauer <= 59 && um_.param.renndauer_ms != 0;
-}
-
-void form1::rennen_uebergeben() {
-    renn_parameter& param = um_.param;
-    for (const int nummer : alle_spuren) {
-        param.fahrer_name[nummer] = fahrer[feld_index(nummer)].text();
-        param.fahrzeug_name[nummer] = auto_[feld_index(nummer)].text();
-        param.spurlaenge[nummer] = zahl_lesen(lspur[feld_index(nummer)].text());
-    }
-    const bool rundenrennen = param.renn_art_text == um_.txt.text_runden;
-    param.renn_ziel = rundenrennen ? ganzzahl_lesen(renndauer.text(), 1, 9999) : param.renndauer_ms;
-    param.renn_laenge = param.renn_ziel;
-    param.spur_aktiv_gemerkt = param.spur_aktiv;
-    param.spuren_anzahl_gemerkt = param.spuren_anzahl;
+void form1::ablehnen(const std::string& meldung, steuerelement& ort) {
+    um_.meldungen.zeigen(meldung, um_.txt.titel[1]);
+    ort.fokus_setzen();
 }
 
 void form1::Command1_Click() {
@@ -196,41 +155,26 @@ void form1::Command1_Click() {
     if (µwartehinweis.sichtbar()) {
         return;
     }
-    renn_parameter& param = um_.param;
-    param.auswertung_nach_rennen = um_.einst.auswertung_nach;
-    param.wettkampf_kein = true;
-    param.training_autostart = false;
     if (kleiner_bildschirm()) {
         for (const std::size_t index : {std::size_t{4}, std::size_t{5}}) {
             spur[index].gesetzt(false);
             spur_geaendert(index);
         }
     }
-    param.renn_art_text = rennart.text();
-    param.tank_aktiv = t_aktiv.gesetzt();
     if (bahnstrom_ein) {
         bahnstrom_ein();
     }
-    werte_pruefen();
-    param.min_rundenzeit_ms = std::llround(zahl_lesen(wertmin.text()) * 1000) + sperrzuschlag_ms;
-    renndauer_normalisieren();
-    param.renndauer_ms = renndauer_lesen();
-    param.renndauer_rest_ms = param.renndauer_ms;
-    if (!renndauer_zulaessig()) {
-        um_.meldungen.zeigen(um_.txt.meldung[13], um_.txt.titel[1]);
-        param.training_laeuft = false;
-        renndauer.fokus_setzen();
-        return;
+    renneinrichtung e = einrichtung();
+    e.werte_pruefen();
+    const einrichtungsfehler fehler = rennen_uebergeben(e, sperrzuschlag_einzelrennen_ms, um_.param);
+    einrichtung_zeigen(e);
+    if (fehler == einrichtungsfehler::dauer) {
+        ablehnen(um_.txt.meldung[13], renndauer);
+    } else if (fehler == einrichtungsfehler::keine_spur) {
+        ablehnen(um_.txt.meldung[12], spur[0]);
+    } else if (einzelrennen_beginnen) {
+        einzelrennen_beginnen();
     }
-    spuren_zaehlen();
-    rennen_uebergeben();
-    if (param.spuren_anzahl == 0) {
-        um_.meldungen.zeigen(um_.txt.meldung[12], um_.txt.titel[1]);
-        param.training_laeuft = false;
-        spur[0].fokus_setzen();
-        return;
-    }
-    um_.fenster.zeigen("bahn1", anzeige_art::modal);
 }
 
 }  // namespace tarvel

@@ -9,7 +9,7 @@
 #include "core/fensterregister.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
-#include "core/renndauer.h"
+#include "core/renneinrichtung.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "platform/bildschirm.h"
@@ -95,6 +95,8 @@ public:
     befehl command_tasten;    ///< key assignment
     befehl command_cu;        ///< window of the Control Unit, while that is the timing hardware
 
+    /// The race is set up: a race of its own begins with it.
+    std::function<void()> einzelrennen_beginnen;
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
     std::function<void()> bahnstrom_aus;
@@ -148,23 +150,21 @@ public:
     /// The settings file in force, and the one that the program starts with.
     void einstellungsname_anzeigen(std::string_view name, std::string_view standard);
 
+    /// What the fields say.
+    renneinrichtung einrichtung() const;
     /// Brings every field within its limits, silently.
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.
     void vor_dem_speichern_pruefen();
-    /// Parses `renndauer` and writes it back in its tidy form.
-    void renndauer_normalisieren();
-    /// Fills `spur_aktiv` and `spuren_anzahl`.
-    void spuren_zaehlen();
     /// Begins a single race: corrections, checks with their messages, hand-over, race window.
     void Command1_Click();
     void rennart_geaendert();
 
 private:
-    bool renndauer_zulaessig() const;
-    void rennen_uebergeben();
+    renn_art gewaehlte_art() const;
+    void einrichtung_zeigen(const renneinrichtung& einrichtung);
+    void ablehnen(const std::string& meldung, steuerelement& ort);
     void spur_geaendert(std::size_t index);
-    zeit_ms renndauer_lesen() const;
 
     void befehle_verbinden();
     void fahrer_Change(int nummer);
@@ -186,7 +186,6 @@ private:
     std::string wort_standarddatei_;
     std::string wort_getrennt_;
     bool getrennt_ = false;
-    renndauer_angabe dauer_;  ///< what `renndauer` says
 };
 
 }  // namespace tarvel

@@ -8,12 +8,15 @@
 
 namespace tarvel {
 
+/// What a race goes by. The numbers are those of the settings file.
+enum class renn_art { zeit = 2, runden = 3 };
+
 /// What the set-up hands over to a race.
 struct renn_parameter {
-    std::string renn_art_text;  ///< `texte::text_zeit` or `texte::text_runden`
-    zeit_ms renn_ziel = 0;      ///< laps to drive; in a time race the duration in ms
-    zeit_ms renn_laenge = 0;    ///< what the set-up asked for; `renn_ziel` grows beyond it when the race is continued
-    zeit_ms renndauer_ms = 0;   ///< of the race, or of the part of it that a continuation adds
+    renn_art art = renn_art::zeit;
+    zeit_ms renn_ziel = 0;     ///< laps to drive; in a time race the duration in ms
+    zeit_ms renn_laenge = 0;   ///< what the set-up asked for; `renn_ziel` grows beyond it when the race is continued
+    zeit_ms renndauer_ms = 0;  ///< of the race, or of the part of it that a continuation adds
     zeit_ms renndauer_rest_ms = 0;
     zeit_ms min_rundenzeit_ms = 0;  ///< shortest lap to count
     int spuren_anzahl = 0;          ///< lanes used
@@ -22,26 +25,23 @@ struct renn_parameter {
     spuren<bool> spur_aktiv_gemerkt;
     spuren<std::string> fahrer_name;
     spuren<std::string> fahrzeug_name;
-    spuren<double> spurlaenge;  ///< metres
+    spuren<double> spurlaenge;            ///< metres
+    spuren<std::string> spurlaenge_text;  ///< the same as typed
+    double massstab = 1;                  ///< the original is this many times as large as the model
     bool tank_aktiv = false;
     sortier_modus auswertung_nach_rennen = sortier_modus::runden;  ///< `einstellungen::auswertung_nach` of this race
-    bool training_laeuft = false;
-    bool training_autostart = false;  ///< the small start light begins by itself
-    bool wettkampf_kein = true;       ///< a single race, no competition
-    bool tagesrennen_an = false;      ///< each result is added to the file of the day
-    std::string tages_datei;          ///< that file, below the program folder
-    bool einfahrzeit = false;         ///< the drivers warm up before the race
-    std::string naechstes_rennen;     ///< drivers of the race after this one; empty if there is none
+
+    bool ist_zeitrennen() const { return art == renn_art::zeit; }
 
     void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;
         spuren_anzahl = spuren_anzahl_gemerkt;
     }
     /// Undoes what a continuation has changed.
-    void einrichtung_wiederherstellen(bool zeitrennen) {
+    void einrichtung_wiederherstellen() {
         spuren_wiederherstellen();
         renn_ziel = renn_laenge;
-        if (zeitrennen) {
+        if (ist_zeitrennen()) {
             renndauer_ms = renn_laenge;
             renndauer_rest_ms = renn_laenge;
         }

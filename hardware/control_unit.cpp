@@ -296,7 +296,7 @@ void control_unit::rennende() {
 }
 
 void control_unit::fuehrungsrunden(int runden) {
-    const bool rundenrennen = um_.param.renn_art_text == um_.txt.text_runden;
+    const bool rundenrennen = !um_.param.ist_zeitrennen();
     const int wert = rundenrennen ? static_cast<int>(um_.param.renn_ziel) - runden : runden;
     for (const std::string& befehl : cu::anzeigebefehle(wert)) {
         leitung_.senden(befehl);

@@ -36,13 +36,16 @@ programm::programm(const plattform::dienste& d)
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       form3(d.zeitgeber, fenster),
       update_form(d.zeitgeber, ablage, fenster),
-      rennen(d, {param, einst, txt, ablage, form1, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten,
-                 fahrerliste, fahrzeugliste}),
+      rennen(d, {param, einst, txt, ablage, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten, fahrerliste,
+                 fahrzeugliste}),
       geraete({einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
       rundenspeichern(rennen, wertung, {ablage, txt, fenster, d.meldungen}),
+      einzelrennen({param, einst, txt, rundenspeichern}),
+      tagesrennen({param, einst, txt, rundenspeichern}),
+      intervalltraining({param, einst, txt, rundenspeichern}),
       beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
       auswertung({rennen, einst, d.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
@@ -56,6 +59,7 @@ programm::programm(const plattform::dienste& d)
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
           {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
+    rennen.teil_von.wechseln(einzelrennen);
     hauptfenster_verbinden();
     optionen_verbinden();
     bestzeiten_verbinden();
@@ -74,6 +78,7 @@ void programm::hauptfenster_verbinden() {
     form1.einstellungen_laden = [this] { laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
+    form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
     form1.bahnstrom_ein = [this] {
         ausgaben.ampelnRoff(0);
         ausgaben.ampelnGRon();
@@ -95,6 +100,11 @@ void programm::hauptfenster_verbinden() {
     form1.einstellungen_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_start_ziel); };
     form1.fahrer_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrer); };
     form1.fahrzeuge_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrzeuge); };
+}
+
+void programm::rennen_beginnen(veranstaltung& teil_von) {
+    rennen.teil_von.wechseln(teil_von);
+    fenster.zeigen("bahn1", anzeige_art::modal);
 }
 
 void programm::optionen_verbinden() {

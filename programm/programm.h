@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "competition/intervalltraining.h"
+#include "competition/tagesrennen.h"
 #include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
@@ -46,6 +48,8 @@ public:
     /// Everything between process start and the moment the main window waits for the operator. False if the program
     /// already runs elsewhere and this one has ended itself.
     bool starten();
+    /// Opens the race window on the race that has been set up.
+    void rennen_beginnen(veranstaltung& teil_von);
     /// The only way out. Runs once.
     void programm_beenden();
 
@@ -81,6 +85,9 @@ public:
     tarvel::k_ampel k_ampel;
     tarvel::wertung wertung;
     tarvel::rundenspeichern rundenspeichern;
+    tarvel::einzelrennen einzelrennen;
+    tarvel::tagesrennen tagesrennen;
+    tarvel::intervalltraining intervalltraining;
     tarvel::beste_zeiten_fenster beste_zeiten_fenster;
     tarvel::auswertung auswertung;
     tarvel::tastaturbelegung tastaturbelegung;

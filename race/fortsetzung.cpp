@@ -80,7 +80,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
 
 void fortsetzung::freie_spuren_abschalten() {
     for (const int spur : alle_spuren) {
-        const bool frei = um_.param.spur_aktiv[spur] && um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+        const bool frei = um_.param.spur_aktiv[spur] && um_.teil_von->ist_fueller(spur);
         if (frei && !um_.einst.freie_slots) {
             um_.param.spur_aktiv[spur] = false;
             --um_.param.spuren_anzahl;

@@ -33,7 +33,7 @@ void rennablauf::vor_dem_start() {
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
     um_.bahn.Command6.aktiviert(true);
-    (um_.param.einfahrzeit ? um_.bahn.Command6 : um_.bahn.Command1).fokus_setzen();
+    (mit_einfahrzeit() ? um_.bahn.Command6 : um_.bahn.Command1).fokus_setzen();
 }
 
 void rennablauf::entladen() {
@@ -54,7 +54,7 @@ void rennablauf::rennen_zuruecksetzen() {
         frisch = {};
         frisch.strafzeit = strafzeit;
         frisch.tank_inhalt = tank_inhalt;
-        frisch.ziel_erreicht = !um_.param.spur_aktiv[spur] || !um_.haupt.spur.at(feld_index(spur)).gesetzt();
+        frisch.ziel_erreicht = !um_.param.spur_aktiv[spur];
         zustand.rundenzeiten.leeren(spur, 0);
         zustand.rundenzeiten.beste(spur, 0);
     }
@@ -88,7 +88,7 @@ void rennablauf::ampel_takt_bestimmen() {
 void rennablauf::rennstart_vorbereiten() {
     t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
-    if (um_.einst.sensorkalibrierung || um_.param.einfahrzeit) {
+    if (um_.einst.sensorkalibrierung || mit_einfahrzeit()) {
         um_.ausgaben.relais_off(0);  // the calibration or the warm-up has put the outputs to rest
     }
     um_.zustand.rennen_beendet = false;

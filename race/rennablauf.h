@@ -65,6 +65,7 @@ private:
     /// The commands before a start.
     void vor_dem_start();
     void ampel_takt_bestimmen();
+    bool mit_einfahrzeit() const { return um_.teil_von->wer_startet() == starter::einfahrzeit; }
     void renntimer_tick();
     void renntimer2_tick();
     void renntimer3_tick();

@@ -149,15 +149,16 @@ void rennansicht::ansicht_oeffnen(ansicht_art art) {
     inhalt.bestzeit = std::any_of(bahn.bestzeit_label.begin(), bahn.bestzeit_label.end(),
                                   [](const bezeichnung& label) { return label.sichtbar(); });
     inhalt.grosse_zeit = um_.einst.grosse_zeit;
-    inhalt.einfahrzeit = um_.param.einfahrzeit;
-    inhalt.naechstes_rennen = !um_.param.naechstes_rennen.empty();
+    const std::string naechste = um_.teil_von->naechste_fahrer();
+    inhalt.einfahrzeit = um_.teil_von->wer_startet() == starter::einfahrzeit;
+    inhalt.naechstes_rennen = !naechste.empty();
     inhalt.logobild = gibt_es(bahn.logobild);
     inhalt.wrpic1 = gibt_es(bahn.wrpic1);
     inhalt.wrpic2 = gibt_es(bahn.wrpic2);
     bahn.Command6.sichtbar(inhalt.einfahrzeit);
     bahn.Label_naechstesrennen.sichtbar(inhalt.naechstes_rennen);
     bahn.Label5.sichtbar(inhalt.naechstes_rennen);
-    bahn.Label5.text(um_.param.naechstes_rennen);
+    bahn.Label5.text(naechste);
     bahn.ansicht.inhalt(inhalt);
     bahn.Nachtabschaltung.sichtbar(false);
 }
@@ -166,7 +167,7 @@ void rennansicht::spur_oeffnen(int spur) {
     bahn1& bahn = um_.bahn;
     const std::size_t index = feld_index(spur);
     const bool dabei = um_.param.spur_aktiv[spur];
-    const bool mit_bild = dabei && !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+    const bool mit_bild = dabei && !um_.teil_von->ist_fueller(spur);
     bahn.namenslabel[spur].text(um_.param.fahrer_name[spur]);
     for (steuerelement* element :
          {static_cast<steuerelement*>(&bahn.namenslabel[spur]), static_cast<steuerelement*>(&bahn.zaehler[spur]),

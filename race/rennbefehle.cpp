@@ -27,15 +27,14 @@ void rennbefehle::taste(int code) {
 void rennbefehle::rennen_abbrechen() {
     um_.fenster.entladen("Form2");
     um_.fenster.entladen("auswertung");
-    um_.param.training_laeuft = false;
     um_.sounds.spielen(sound::rennen_abgebrochen);
     t_.pause.aufheben();
     um_.zeitgeber.alle_aus();
     t_.ende.ausgaben_endzustand();
     um_.zustand.rennabbruch = true;
-    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    um_.param.einrichtung_wiederherstellen();
     um_.fenster.entladen("bahn1");
-    um_.fenster.zeigen("Form1");
+    um_.fenster.zeigen(um_.teil_von->zurueck());
 }
 
 void rennbefehle::fenster_schliessen() {

@@ -16,7 +16,6 @@ struct rennen {
         const einstellungen& einst;
         const texte& txt;
         const dateien& ablage;
-        form1& haupt;
         ereignis_tabelle& ereignisse;
         const messquellen& quellen;
         const tastenbelegung& belegung;
@@ -32,6 +31,7 @@ struct rennen {
     rennen& operator=(const rennen&) = delete;
 
     renn_zustand zustand;
+    laufende_veranstaltung teil_von;
     tarvel::bahn1 bahn1;
     zeitbasis zeit;
     rennzeitgeber zeitgeber;

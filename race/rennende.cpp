@@ -27,7 +27,7 @@ void rennende::zuruecksetzen() {
 }
 
 bool rennende::am_ziel(int spur) const {
-    return um_.zustand.spur[spur].runden == um_.param.renn_ziel && um_.haupt.spur.at(feld_index(spur)).gesetzt();
+    return um_.zustand.spur[spur].runden == um_.param.renn_ziel && um_.param.spur_aktiv_gemerkt[spur];
 }
 
 void rennende::pruefen() {

@@ -103,7 +103,7 @@ std::string sektoren::tempo_text(int spur, int sektor, zeit_ms zeit) const {
     }
     const double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
     if (um_.einst.real_speed) {
-        return std::to_string(std::llround(tempo * zahl_lesen(um_.haupt.massstab.text())));
+        return std::to_string(std::llround(tempo * um_.param.massstab));
     }
     return zahl_fest(tempo, ',');
 }

@@ -4,7 +4,6 @@
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
-#include "core/form1.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/texte.h"
@@ -18,6 +17,7 @@
 #include "race/bahn1.h"
 #include "race/renn_zustand.h"
 #include "race/rennsounds.h"
+#include "race/veranstaltung.h"
 #include "race/zeitgeber.h"
 
 namespace tarvel {
@@ -29,7 +29,6 @@ struct renn_umgebung {
     const einstellungen& einst;
     const texte& txt;
     const dateien& ablage;
-    form1& haupt;
     bahn1& bahn;
     ereignis_tabelle& ereignisse;
     const messquellen& quellen;
@@ -44,14 +43,15 @@ struct renn_umgebung {
     const tarvel::bestzeiten& bestzeiten;
     const namensliste& fahrerliste;
     const namensliste& fahrzeugliste;
+    const laufende_veranstaltung& teil_von;
 
     /// The light of the start has not come to its green.
     bool ampel_laeuft() const {
         return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zustand.fortsetzung_wartet &&
                !zeitgeber.renntimer->laeuft();
     }
-    bool ist_zeitrennen() const { return param.renn_art_text == txt.text_zeit; }
-    bool ist_rundenrennen() const { return param.renn_art_text == txt.text_runden; }
+    bool ist_zeitrennen() const { return param.ist_zeitrennen(); }
+    bool ist_rundenrennen() const { return !param.ist_zeitrennen(); }
 };
 
 }  // namespace tarvel

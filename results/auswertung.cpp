@@ -104,10 +104,6 @@ void auswertung::zielsignal_beenden() {
     um_.ausgaben.rennende_signal(false);
 }
 
-bool auswertung::ist_intervalltraining() const {
-    return um_.param.training_laeuft && um_.einst.training_art == trainingsart::intervall;
-}
-
 void auswertung::kopf_schreiben() {
     std::string kopf = um_.ist_zeitrennen() ? wort_.zeitrennen : wort_.rundenrennen;
     kopf += "  ·  " + um_.bahn.ziel_label.text();
@@ -122,17 +118,17 @@ void auswertung::kopf_schreiben() {
 }
 
 void auswertung::bedienung_einrichten() {
-    const bool wettkampf = ist_wettkampf();
-    const bool intervall = ist_intervalltraining();
-    const bool ohne_spurwechsel = um_.einst.hardware.hw_cu || um_.param.training_laeuft;
-    Command5.text(wettkampf ? wort_.weiter : wort_.hauptmenue);
-    Command7.sichtbar(wettkampf && um_.einst.w_autom);
-    Command4.sichtbar(!wettkampf);
-    Command1.sichtbar(!intervall);
+    const laufende_veranstaltung& v = um_.teil_von;
+    selbst_ = v->danach();
+    const bool ohne_spurwechsel = um_.einst.hardware.hw_cu || !v->mit_spurwechsel();
+    Command5.text(v->weg_hinaus() == ausweg::weiter ? wort_.weiter : wort_.hauptmenue);
+    Command7.sichtbar(selbst_.was == schritt::ausweg);
+    Command4.sichtbar(v->mit_eigener_datei());
+    Command1.sichtbar(!geht_von_selbst_weiter());
     Frame1.text(ohne_spurwechsel ? wort_.rennen : wort_.spur_wechseln);
-    Frame1.sichtbar(!wettkampf && !intervall);
+    Frame1.sichtbar(v->fortsetzbar_bis() && !geht_von_selbst_weiter());
     tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
-    trainingslabel.sichtbar(intervall);
+    trainingslabel.sichtbar(geht_von_selbst_weiter());
     verlauf_zeigen(false);
     for (feld& eingabe : meter) {
         eingabe.text("0");
@@ -140,11 +136,15 @@ void auswertung::bedienung_einrichten() {
     meter_eingabe(false);
     Command6.sichtbar(um_.ist_zeitrennen() || um_.einst.zielmodus_erster);
     ziel_vorschlagen();
-    if (wettkampf && um_.einst.w_autom) {
-        w_auto5_->intervall(std::max(um_.einst.w_zeit1, dauer_ms(1s)));
+    selbstlauf_beginnen();
+}
+
+void auswertung::selbstlauf_beginnen() {
+    if (selbst_.was == schritt::ausweg) {
+        w_auto5_->intervall(std::max(selbst_.nach, dauer_ms(1s)));
         w_auto5_->an();
     }
-    if (intervall) {
+    if (geht_von_selbst_weiter()) {
         training_zeit_ = -1s;
         training_tick();
         tmr_dauertraining_->an();
@@ -205,7 +205,7 @@ void auswertung::spur_anzeigen(int spur) {
 
 void auswertung::bilder_anzeigen(int spur) {
     const std::size_t i = feld_index(spur);
-    const bool besetzt = !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]);
+    const bool besetzt = !um_.teil_von->ist_fueller(spur);
     um_.fahrerliste.bild_zeigen(um_.ablage, um_.param.fahrer_name[spur], Image1[i]);
     um_.fahrzeugliste.bild_zeigen(um_.ablage, um_.param.fahrzeug_name[spur], Image2[i]);
     Image1[i].sichtbar(besetzt && u_.stand.runden(spur) < runden_ohne_bild);
@@ -274,13 +274,12 @@ void auswertung::training_tick() {
         return;  // nobody is thrown out of an entry
     }
     ++training_zeit_;
-    const dauer_s rest = std::max(um_.einst.training_wechseldauer - training_zeit_, 0s);
+    const auto rest = std::chrono::ceil<dauer_s>(std::max<dauer_ms>(selbst_.nach - training_zeit_, 0ms));
     trainingslabel.text(wort_.training + "  " + std::to_string(rest.count()) + "   ");
     if (training_zeit_ > 0s && rest == 0s) {
         tmr_dauertraining_->aus();
-        training_automatik_ = true;
-        bestzeiten_vor(um_.einst.training_weiter != training_weitergang::neu_starten ? aktion::fortsetzen
-                                                                                     : aktion::neu_starten);
+        automatik_ = true;
+        bestzeiten_vor(selbst_.was == schritt::fortsetzen ? aktion::fortsetzen : aktion::neu_starten);
     }
 }
 

@@ -87,9 +87,6 @@ public:
     std::function<void()> drucken;
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
-    /// Takes the result of a competition race, and goes on there.
-    std::function<void()> rennergebnis_uebernehmen;
-
     /// Load handler: ends the race for the lap engine and shows the standing.
     void laden();
     /// Unload handler: nothing of the window goes on behind its back.
@@ -123,6 +120,7 @@ public:
 private:
     /// What the list of a lane shows beside the lap times.
     enum class anzeige { zeit, mit_sektorzeit, mit_tempo, mit_beidem };
+    using schritt = selbstlauf::schritt;
     enum class aktion { keine, wiederholen, neu_starten, fortsetzen, hauptmenue };
 
     struct worte {
@@ -134,9 +132,6 @@ private:
         std::string abstand;                 ///< explains the gap to the leader
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
-
-    bool ist_wettkampf() const { return !um_.param.wettkampf_kein; }
-    bool ist_intervalltraining() const;
 
     void befehle_verbinden();
     void spurbefehle_verbinden(std::size_t i);
@@ -171,11 +166,15 @@ private:
     zeit_ms beste_auf_der_spur(int spur) const;
     void ausfuehren(aktion was);
     /// False if the result could not be saved and the operator does not want to lose it.
-    bool automatisch_speichern();
-    bool tages_ergebnis_schreiben();
+    bool ergebnis_abgeben(weitergang wie);
     void rennen_verlassen();
     void bahn_neu_oeffnen();
+    void selbstlauf_beginnen();
+    bool geht_von_selbst_weiter() const {
+        return selbst_.was == schritt::neu_starten || selbst_.was == schritt::fortsetzen;
+    }
     void wechselschema_anwenden();
+    zeit_ms ziel_max() const { return um_.teil_von->fortsetzbar_bis().value_or(0); }
     bool ziel_lesen(zeit_ms& ziel) const;
     /// The same with its messages.
     bool ziel_pruefen(zeit_ms& ziel);
@@ -196,7 +195,8 @@ private:
     bool meter_eingabe_an_ = false;
     int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
     dauer_s training_zeit_{};
-    bool training_automatik_ = false;  ///< what is being left goes on without the operator
+    selbstlauf selbst_;       ///< of the race whose result is shown
+    bool automatik_ = false;  ///< what is being left goes on without the operator
 };
 
 }  // namespace tarvel

@@ -8,13 +8,7 @@
 namespace tarvel {
 namespace {
 
-constexpr zeit_ms ms_je_minute = 60000;
-constexpr zeit_ms renndauer_max = 1499 * ms_je_minute;
 constexpr int eingabe_laenge_max = 8;
-
-zeit_ms ziel_max(bool zeitrennen) {
-    return zeitrennen ? renndauer_max : runden_max;
-}
 
 }  // namespace
 
@@ -148,7 +142,7 @@ void auswertung::runde_loeschen() {
 
 void auswertung::ausfuehren(aktion was) {
     aktion_nach_bestzeiten_ = aktion::keine;
-    um_.param.training_autostart = std::exchange(training_automatik_, false);
+    um_.teil_von->von_selbst_starten(std::exchange(automatik_, false));
     switch (was) {
         case aktion::wiederholen:
             cmd1_fortsetzung();
@@ -166,7 +160,7 @@ void auswertung::ausfuehren(aktion was) {
             break;
     }
     if (um_.fenster.ist_offen("auswertung")) {
-        um_.param.training_autostart = false;  // it did not come to that
+        um_.teil_von->von_selbst_starten(false);  // it did not come to that
     }
 }
 
@@ -174,17 +168,10 @@ void auswertung::fenster_schliessen() {
     Command5.klicken();
 }
 
-bool auswertung::automatisch_speichern() {
+bool auswertung::ergebnis_abgeben(weitergang wie) {
     meter_eingabe_uebernehmen();
     auswertung_anzeigen();
-    return !um_.einst.aut_speichern || u_.speichern.automatisch_speichern() ||
-           um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
-}
-
-bool auswertung::tages_ergebnis_schreiben() {
-    meter_eingabe_uebernehmen();
-    auswertung_anzeigen();
-    return u_.speichern.tages_ergebnis_schreiben() || um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
+    return um_.teil_von->uebernehmen(wie) || um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
 }
 
 void auswertung::rennen_verlassen() {
@@ -195,7 +182,8 @@ void auswertung::rennen_verlassen() {
 
 void auswertung::bahn_neu_oeffnen() {
     um_.fenster.neu_laden("bahn1");
-    if (std::exchange(um_.param.training_autostart, false)) {
+    if (um_.teil_von->wer_startet() == starter::ablauf) {
+        um_.teil_von->von_selbst_starten(false);
         um_.bahn.Command1.klicken();
     }
 }
@@ -209,27 +197,27 @@ void auswertung::wechselschema_anwenden() {
 }
 
 void auswertung::cmd1_fortsetzung() {
-    if (!automatisch_speichern()) {
+    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
         return;
     }
     rennen_verlassen();
-    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    um_.param.einrichtung_wiederherstellen();
     bahn_neu_oeffnen();
 }
 
 void auswertung::cmd2_fortsetzung() {
-    if (!automatisch_speichern()) {
+    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
         return;
     }
     rennen_verlassen();
-    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    um_.param.einrichtung_wiederherstellen();
     wechselschema_anwenden();
     bahn_neu_oeffnen();
 }
 
 void auswertung::ziel_vorschlagen() {
     const bool zeitrennen = um_.ist_zeitrennen();
-    const zeit_ms ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max(zeitrennen));
+    const zeit_ms ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max());
     neues_ziel.text(zeitrennen ? renndauer_aus_ms(ziel).text() : std::to_string(ziel));
     neues_ziel.tipp(zeitrennen ? wort_.minuten_hinweis : "");
     ziel_einheit.text(zeitrennen ? wort_.minuten : wort_.runden);
@@ -245,7 +233,7 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
     int wenigste = runden_max;
     for (const int spur : alle_spuren) {
         const bool faehrt = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
-                            (um_.einst.freie_slots || !um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]));
+                            (um_.einst.freie_slots || !um_.teil_von->ist_fueller(spur));
         if (faehrt) {
             meiste = std::max(meiste, u_.stand.runden(spur));
             wenigste = std::min(wenigste, u_.stand.runden(spur));
@@ -257,7 +245,7 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
 
 bool auswertung::ziel_pruefen(zeit_ms& ziel) {
     const bool ziel_offen = ziel_lesen(ziel);
-    if (std::max(ziel, um_.param.renn_ziel) > ziel_max(um_.ist_zeitrennen())) {
+    if (std::max(ziel, um_.param.renn_ziel) > ziel_max()) {
         um_.meldungen.zeigen(wort_.maximum, wort_.maximum_titel);
         return false;
     }
@@ -273,7 +261,7 @@ void auswertung::cmd3_fortsetzung() {
     if (!ziel_pruefen(ziel)) {
         return;
     }
-    if (!automatisch_speichern()) {
+    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
         return;
     }
     rennen_verlassen();
@@ -284,21 +272,13 @@ void auswertung::cmd3_fortsetzung() {
 }
 
 void auswertung::cmd5_fortsetzung() {
-    if (ist_wettkampf()) {
-        meter_eingabe_uebernehmen();
-        auswertung_anzeigen();
-    } else if (!(um_.param.tagesrennen_an ? tages_ergebnis_schreiben() : automatisch_speichern())) {
+    if (!ergebnis_abgeben(weitergang::verlassen)) {
         return;
     }
     rennen_verlassen();
-    um_.param.training_laeuft = false;
-    um_.param.einrichtung_wiederherstellen(um_.ist_zeitrennen());
+    um_.param.einrichtung_wiederherstellen();
     um_.fenster.entladen("bahn1");
-    if (ist_wettkampf() && rennergebnis_uebernehmen) {
-        rennergebnis_uebernehmen();
-    } else {
-        um_.fenster.zeigen("Form1");
-    }
+    um_.fenster.zeigen(um_.teil_von->zurueck());
 }
 
 }  // namespace tarvel

@@ -103,8 +103,7 @@ private:
             return paar(wort.rundenzahl,
                         q_.um.zustand.spur[spur].disqualifiziert ? wort.disqualifiziert : runden(spur));
         });
-        block_zeile(
-            [&](int spur) { return paar(wort.spurlaenge, name(q_.um.haupt.lspur.at(feld_index(spur)).text())); });
+        block_zeile([&](int spur) { return paar(wort.spurlaenge, name(q_.um.param.spurlaenge_text[spur])); });
         block_zeile([&](int spur) { return sektorlaengen(spur); });
         block_zeile([&](int spur) { return paar(wort.restmeter, zahl_text(q_.stand.restmeter(spur), '.')); });
         block_zeile([&](int spur) { return paar(wort.gesamtmeter, q_.stand.meter_text(spur, '.')); });

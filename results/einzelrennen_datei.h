@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "core/form1.h"
 #include "results/wertung.h"
 
 namespace tarvel {

@@ -62,9 +62,8 @@ bool rundenspeichern::automatisch_speichern() {
     return einzelrennen_schreiben(pfad) || zeilen() == gesichert_ || schreibfehler_melden();
 }
 
-bool rundenspeichern::tages_ergebnis_schreiben() {
+bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei) {
     laden();
-    const std::string& datei = r_.umgebung.param.tages_datei;
     auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max);
     if (!zeilen && !um_.ablage.gibt_es(datei)) {
         zeilen = {std::string(magie_tagesrennen)};

@@ -23,7 +23,7 @@ public:
     /// saved this very result already.
     bool automatisch_speichern();
     /// Adds the result to the file of the day race, likewise. A file that is none of a day race stays as it is.
-    bool tages_ergebnis_schreiben();
+    bool tages_ergebnis_schreiben(const std::string& datei);
 
 private:
     std::vector<std::string> zeilen() const { return einzelrennen_zeilen({r_.umgebung, r_.sektoren, stand_, wort_}); }

@@ -41,7 +41,7 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_nach);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
-        um_.param.training_autostart = false;
+        um_.teil_von->von_selbst_starten(false);
         beginnen();
     };
     Command1.bei_klick = [this] { Command1_klick(); };
@@ -68,13 +68,13 @@ void k_ampel::laden() {
     } else {
         Command1.fokus_setzen();
     }
-    if (um_.param.training_autostart && !um_.zustand.chaos_aktiv) {
+    if (um_.teil_von->wer_startet() == starter::ablauf && !um_.zustand.chaos_aktiv) {
         training_autotimer_->an();
     }
 }
 
 void k_ampel::entladen() {
-    um_.param.training_autostart = false;
+    um_.teil_von->von_selbst_starten(false);
     zeitgeber_aus();
 }
 

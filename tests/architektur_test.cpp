@@ -11,8 +11,8 @@ namespace fs = std::filesystem;
 namespace {
 
 /// From the ground up: a folder includes only from itself and from those in front of it.
-const std::vector<std::string> ordner{"platform", "core",    "optionen", "hardware",    "race",
-                                      "start",    "results", "programm", "platform_qt", "ui"};
+const std::vector<std::string> ordner{"platform", "core",        "optionen", "hardware",    "race", "start",
+                                      "results",  "competition", "programm", "platform_qt", "ui"};
 
 std::size_t stufe(const std::string& name) {
     return static_cast<std::size_t>(std::find(ordner.begin(), ordner.end(), name) - ordner.begin());

@@ -249,12 +249,11 @@ TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
 }
 
 TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
-    t.p.einst.training_art = trainingsart::intervall;
     t.p.einst.training_wechseldauer = 3s;
     t.p.einst.training_weiter = training_weitergang::neu_starten;
     t.p.einst.aut_speichern = false;
     t.einrichten("Runden", "1", {1});
-    t.p.param.training_laeuft = true;
+    t.p.rennen.teil_von.wechseln(t.p.intervalltraining);
     t.bahn().Command1.klicken();
     t.bahn().Command4.klicken();
     EXPECT_EQ(a.trainingslabel.text(), "Training wird fortgesetzt in:  3   ");

@@ -204,7 +204,7 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     ASSERT_FALSE(neu.datei.rest().empty());
     EXPECT_EQ(neu.datei.rest().back(), "Teilnehmer");
     neu.datei.einstellungen_uebernehmen({});
-    EXPECT_EQ(neu.param.renn_art_text, "Runden");
+    EXPECT_EQ(neu.param.art, renn_art::runden);
     EXPECT_EQ(neu.param.min_rundenzeit_ms, 4500);
     EXPECT_EQ(neu.param.renndauer_ms, 3600000 + 600000);
     EXPECT_EQ(neu.param.renndauer_rest_ms, neu.param.renndauer_ms);

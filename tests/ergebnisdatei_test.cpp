@@ -170,8 +170,8 @@ TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
 
 TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
     const char* const datei = "Ergebnisse/Tagesrennen/Samstag.csv";
-    t.p.param.tagesrennen_an = true;
-    t.p.param.tages_datei = "Ergebnisse\\Tagesrennen\\Samstag.csv";
+    t.p.tagesrennen.datei = "Ergebnisse\\Tagesrennen\\Samstag.csv";
+    t.p.form1.einzelrennen_beginnen = [this] { t.p.rennen_beginnen(t.p.tagesrennen); };
     t.p.form1.fahrer[1].eingeben("B;Ben");
     for (int rennen = 0; rennen < 2; ++rennen) {
         t.starten("Zeit", "1", {1, 2});

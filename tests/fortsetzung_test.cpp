@@ -147,11 +147,10 @@ TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
 }
 
 TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
-    t.p.einst.training_art = trainingsart::intervall;
     t.p.einst.training_wechseldauer = 3s;
     t.p.einst.training_weiter = training_weitergang::fortsetzen;
     t.einrichten("Runden", "1", {1});
-    t.p.param.training_laeuft = true;
+    t.p.rennen.teil_von.wechseln(t.p.intervalltraining);
     t.bahn().Command1.klicken();
     t.bahn().Command4.klicken();
     a.neues_ziel.eingeben("0");

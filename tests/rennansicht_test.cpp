@@ -1,5 +1,6 @@
 #include "race/rennansicht.h"
 
+#include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -12,6 +13,8 @@ protected:
         t.einrichten("Zeit", "5", lanes);
     }
     const ansicht_inhalt& inhalt() { return t.bahn().ansicht.inhalt(); }
+
+    test::vereinsabend abend{t.p};
 };
 
 TEST_F(Rennansicht, EinstellungUndSpurenWaehlenDieAnsicht) {
@@ -55,8 +58,8 @@ TEST_F(Rennansicht, ZeigtWasEinstellungenUndDateienHergeben) {
 TEST_F(Rennansicht, EinfahrzeitGibtDieBahnFreiUndDanebenStehtWerAlsNaechstesFaehrt) {
     oeffnen({1});
     EXPECT_FALSE(t.bahn().Command6.sichtbar() || inhalt().einfahrzeit || inhalt().naechstes_rennen);
-    t.p.param.einfahrzeit = true;
-    t.p.param.naechstes_rennen = "Gerd, Hanna";
+    abend.naechste = "Gerd, Hanna";
+    t.p.form1.einzelrennen_beginnen = [this] { t.p.rennen_beginnen(abend); };
     bool eingefahren = false;
     t.p.fenster.anmelden("einfahren", {[&] { eingefahren = true; }, {}});
     oeffnen({1, 2});

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/plattform/testprogramm.h"
+#include "tests/plattform/vereinsabend.h"
 #include "ui/oberflaeche.h"
 
 namespace tarvel {
@@ -24,6 +25,7 @@ struct buehne {
 
     test::testprogramm t;
     programm& p;
+    test::vereinsabend abend{p};
     ui::Oberflaeche o{p};
 
 private:

@@ -192,8 +192,8 @@ const std::vector<szeneneintrag> alle{
      }},
     {"rennen_mit_einfahrzeit",
      [](buehne& b) -> QWidget& {
-         b.p.param.einfahrzeit = true;
-         b.p.param.naechstes_rennen = "Gerd, Hanna, Ingo Petersen, Jule, Karl-Heinz, Lena";
+         b.abend.naechste = "Gerd, Hanna, Ingo Petersen, Jule, Karl-Heinz, Lena";
+         b.p.form1.einzelrennen_beginnen = [&b] { b.p.rennen_beginnen(b.abend); };
          b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
          return b.o.bahn1;
      }},

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "results/einzelrennen.h"
+
+namespace tarvel {
+
+/// The races of a day: each result is added to the day's file.
+class tagesrennen final : public einzelrennen {
+public:
+    using einzelrennen::einzelrennen;
+
+    std::string datei;  ///< below the program folder
+
+    bool uebernehmen(weitergang wie) override {
+        return wie == weitergang::verlassen ? um_.speichern.tages_ergebnis_schreiben(datei)
+                                            : einzelrennen::uebernehmen(wie);
+    }
+};
+
+}  // namespace tarvel

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/dauer.h"
+#include "platform/uhr.h"
+
+namespace tarvel {
+
+/// Who begins the race.
+enum class starter {
+    bediener,
+    einfahrzeit,  ///< the warm-up that comes before it
+    ablauf        ///< nobody: it begins by itself
+};
+
+/// Where the way out of the result leads.
+enum class ausweg { hauptmenue, weiter };
+
+/// What the result window does if nobody takes a hand in it.
+struct selbstlauf {
+    enum class schritt { keiner, ausweg, neu_starten, fortsetzen };
+    schritt was = schritt::keiner;
+    dauer_ms nach{};
+};
+
+/// What becomes of the race whose result is taken.
+enum class weitergang { noch_einmal, verlassen };
+
+/// What a race is part of: a race of its own, a training, the list of a day, an evening of many races. The race and its
+/// result window ask it what is allowed and where they lead, and nothing else tells the kinds of evening apart.
+class veranstaltung {
+public:
+    veranstaltung() = default;
+    veranstaltung(const veranstaltung&) = delete;
+    veranstaltung& operator=(const veranstaltung&) = delete;
+    virtual ~veranstaltung() = default;
+
+    virtual starter wer_startet() const { return starter::bediener; }
+    /// The result window goes on by itself, and so must the start that follows; false once it has.
+    virtual void von_selbst_starten(bool /*an*/) {}
+    /// The lane has no driver; its place only fills the race up.
+    virtual bool ist_fueller(int spur) const = 0;
+    /// Drivers of the race after this one; empty if there is none.
+    virtual std::string naechste_fahrer() const { return {}; }
+
+    /// A race that goes on, or begins anew, may take the drivers to other lanes.
+    virtual bool mit_spurwechsel() const { return true; }
+    /// Largest target to which the race may go on from its result, in laps or ms; none if it may not.
+    virtual std::optional<zeit_ms> fortsetzbar_bis() const = 0;
+    /// The result can be saved as a file of its own.
+    virtual bool mit_eigener_datei() const { return true; }
+    virtual ausweg weg_hinaus() const { return ausweg::hauptmenue; }
+    virtual selbstlauf danach() const { return {}; }
+    /// Takes the result of the race. False, and told, if it could not be kept.
+    virtual bool uebernehmen(weitergang wie) = 0;
+    /// Window to which a race leads that has been left or broken off.
+    virtual std::string_view zurueck() const { return "Form1"; }
+};
+
+/// The one that the race is part of now. It must outlive the race.
+class laufende_veranstaltung {
+public:
+    void wechseln(veranstaltung& neue) { laufende_ = &neue; }
+    veranstaltung* operator->() const { return laufende_; }
+
+private:
+    veranstaltung* laufende_ = nullptr;
+};
+
+}  // namespace tarvel

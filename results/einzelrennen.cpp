@@ -1,0 +1,16 @@
+#include "results/einzelrennen.h"
+
+#include "race/rundenspeicher.h"
+
+namespace tarvel {
+
+std::optional<zeit_ms> einzelrennen::fortsetzbar_bis() const {
+    constexpr dauer_ms laengstes = std::chrono::minutes(1499);
+    return um_.param.ist_zeitrennen() ? zeit_ms{laengstes.count()} : zeit_ms{runden_max};
+}
+
+bool einzelrennen::uebernehmen(weitergang /*wie*/) {
+    return !um_.einst.aut_speichern || um_.speichern.automatisch_speichern();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/einstellungen.h"
+#include "core/renn_parameter.h"
+#include "core/texte.h"
+#include "race/veranstaltung.h"
+#include "results/rundenspeichern.h"
+
+namespace tarvel {
+
+/// A race of its own: its result is saved by itself if the settings say so.
+class einzelrennen : public veranstaltung {
+public:
+    struct umgebung {
+        const renn_parameter& param;
+        const einstellungen& einst;
+        const texte& txt;
+        rundenspeichern& speichern;
+    };
+
+    explicit einzelrennen(const umgebung& um) : um_(um) {}
+
+    bool ist_fueller(int spur) const override { return um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]); }
+    std::optional<zeit_ms> fortsetzbar_bis() const override;
+    bool uebernehmen(weitergang wie) override;
+
+protected:
+    umgebung um_;
+};
+
+}  // namespace tarvel
