@@ -19,7 +19,7 @@ struct messprogramm {
         if (!p.starten()) {
             return false;
         }
-        p.fenster.entladen("Form3");
+        p.fenster.entladen(fenstername::Form3);
         for (auto& spur : p.form1.spur) {
             spur.gesetzt(true);
         }

@@ -1,79 +1,88 @@
 #include "core/fensterregister.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "core/fensterlogik.h"
 
 namespace tarvel {
 
-void fensterregister::anmelden(std::string_view name, eintrag verhalten) {
-    fenster_[std::string(name)].verhalten = std::move(verhalten);
+fensterregister::fenster& fensterregister::an(const fensterlogik& logik) {
+    return an(logik.kennung());
 }
 
-bool fensterregister::kennt(std::string_view name) const {
-    return fenster_.contains(name);
-}
-
-void fensterregister::laden(std::string_view name) {
-    const auto gefunden = fenster_.find(name);
-    if (gefunden == fenster_.end() || gefunden->second.geladen) {
-        return;
-    }
-    gefunden->second.geladen = true;
-    if (gefunden->second.verhalten.laden) {
-        gefunden->second.verhalten.laden();
+void fensterregister::laden(fenstername name) {
+    fenster& f = an(name);
+    if (f.logik != nullptr && !std::exchange(f.geladen, true)) {
+        f.logik->laden();
     }
 }
 
-void fensterregister::zeigen(std::string_view name, anzeige_art art) {
+void fensterregister::zeigen(fenstername name, anzeige_art art) {
     laden(name);
-    const auto gefunden = fenster_.find(name);
-    if (gefunden == fenster_.end() || !gefunden->second.geladen) {
+    if (!an(name).geladen) {
         return;  // unknown, or closed again by its own load handler
     }
-    gefunden->second.offen = true;
+    an(name).offen = true;
     if (anzeige_ != nullptr) {
-        anzeige_->zeigen(gefunden->first, art);
+        anzeige_->zeigen(name, art);
     }
 }
 
-void fensterregister::verbergen(std::string_view name) {
-    const auto gefunden = fenster_.find(name);
-    if (gefunden != fenster_.end() && std::exchange(gefunden->second.offen, false) && anzeige_ != nullptr) {
-        anzeige_->verbergen(gefunden->first);
+void fensterregister::verbergen(fenstername name) {
+    if (std::exchange(an(name).offen, false) && anzeige_ != nullptr) {
+        anzeige_->verbergen(name);
     }
 }
 
-void fensterregister::entladen(std::string_view name) {
-    const auto gefunden = fenster_.find(name);
-    if (gefunden == fenster_.end() || !gefunden->second.geladen) {
+void fensterregister::entladen(fenstername name) {
+    fenster& f = an(name);
+    if (!f.geladen) {
         return;
     }
-    const bool war_offen = std::exchange(gefunden->second.offen, false);
-    gefunden->second.geladen = false;
-    if (gefunden->second.verhalten.entladen) {
-        gefunden->second.verhalten.entladen();
-    }
+    const bool war_offen = std::exchange(f.offen, false);
+    f.geladen = false;
+    f.logik->entladen();
     if (war_offen && anzeige_ != nullptr) {
-        anzeige_->verbergen(gefunden->first);
+        anzeige_->verbergen(name);
     }
 }
 
-void fensterregister::neu_laden(std::string_view name) {
-    const auto gefunden = fenster_.find(name);
-    if (gefunden == fenster_.end() || !gefunden->second.geladen) {
+void fensterregister::neu_laden(fenstername name) {
+    fenster& f = an(name);
+    if (!f.geladen) {
         return;
     }
-    const bool war_offen = gefunden->second.offen;
-    gefunden->second.geladen = false;
-    if (gefunden->second.verhalten.entladen) {
-        gefunden->second.verhalten.entladen();
-    }
+    const bool war_offen = f.offen;
+    f.geladen = false;
+    f.logik->entladen();
     laden(name);
-    gefunden->second.offen = war_offen && gefunden->second.geladen;
+    f.offen = war_offen && f.geladen;
 }
 
-bool fensterregister::ist_offen(std::string_view name) const {
-    const auto gefunden = fenster_.find(name);
-    return gefunden != fenster_.end() && gefunden->second.offen;
+void fensterregister::alle_entladen() {
+    for (std::size_t i = 0; i < fenster_.size(); ++i) {
+        entladen(static_cast<fenstername>(i));
+    }
+}
+
+std::vector<sprachliste> fensterregister::sprachdateien() const {
+    std::vector<sprachliste> alle;
+    for (const fenster& f : fenster_) {
+        if (f.logik == nullptr) {
+            continue;
+        }
+        for (sprachliste& neue : f.logik->sprachdateien()) {
+            const auto gleiche = std::find_if(
+                alle.begin(), alle.end(), [&neue](const sprachliste& schon) { return schon.datei() == neue.datei(); });
+            if (gleiche == alle.end()) {
+                alle.push_back(std::move(neue));
+            } else if (gleiche->anzahl() < neue.anzahl()) {
+                *gleiche = std::move(neue);
+            }
+        }
+    }
+    return alle;
 }
 
 }  // namespace tarvel

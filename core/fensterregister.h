@@ -1,11 +1,14 @@
 #pragma once
 
-#include <functional>
-#include <map>
-#include <string>
-#include <string_view>
+#include <array>
+#include <vector>
+
+#include "core/fensternamen.h"
+#include "core/sprache.h"
 
 namespace tarvel {
+
+class fensterlogik;
 
 enum class anzeige_art {
     frei,
@@ -17,43 +20,47 @@ class fensteranzeige {
 public:
     virtual ~fensteranzeige() = default;
     /// Shows the window, or brings it to the front if it is on the screen.
-    virtual void zeigen(const std::string& name, anzeige_art art) = 0;
-    virtual void verbergen(const std::string& name) = 0;
+    virtual void zeigen(fenstername name, anzeige_art art) = 0;
+    virtual void verbergen(fenstername name) = 0;
 };
 
-/// All windows of the program by name. A window's logic opens and closes other windows through it, and so need not know
-/// the parts above itself. Windows that are not entered are not there: showing one does nothing.
+/// All windows of the program. A window's logic opens and closes other windows through it, and so need not know the
+/// parts above itself. Windows that are not entered are not there: showing one does nothing.
 class fensterregister {
 public:
-    /// Load and unload handler of one window's logic; both may be empty.
-    struct eintrag {
-        std::function<void()> laden;
-        std::function<void()> entladen;
-    };
-
-    void anmelden(std::string_view name, eintrag verhalten);
-    bool kennt(std::string_view name) const;
+    void anmelden(fensterlogik& logik) { an(logik).logik = &logik; }
+    void abmelden(const fensterlogik& logik) { an(logik) = {}; }
     void anzeigen_auf(fensteranzeige* anzeige) { anzeige_ = anzeige; }
 
     /// Loads the window without showing it, if it is not loaded.
-    void laden(std::string_view name);
-    void zeigen(std::string_view name, anzeige_art art = anzeige_art::frei);
+    void laden(fenstername name);
+    void zeigen(fenstername name, anzeige_art art = anzeige_art::frei);
     /// Takes the window off the screen; it stays loaded.
-    void verbergen(std::string_view name);
-    void entladen(std::string_view name);
+    void verbergen(fenstername name);
+    void entladen(fenstername name);
     /// The handlers alone: a window that is on the screen begins anew without leaving it.
-    void neu_laden(std::string_view name);
+    void neu_laden(fenstername name);
     /// Loaded and on the screen.
-    bool ist_offen(std::string_view name) const;
+    bool ist_offen(fenstername name) const { return an(name).offen; }
+
+    /// Unloads all windows, in the order of their names' list.
+    void alle_entladen();
+    /// The language files of all windows. Of two windows with the same file one reads only its beginning: it is named
+    /// once, whole.
+    std::vector<sprachliste> sprachdateien() const;
 
 private:
     struct fenster {
-        eintrag verhalten;
+        fensterlogik* logik = nullptr;
         bool geladen = false;
         bool offen = false;
     };
 
-    std::map<std::string, fenster, std::less<>> fenster_;
+    fenster& an(fenstername name) { return fenster_.at(static_cast<std::size_t>(name)); }
+    const fenster& an(fenstername name) const { return fenster_.at(static_cast<std::size_t>(name)); }
+    fenster& an(const fensterlogik& logik);
+
+    std::array<fenster, fensternamen.size()> fenster_{};
     fensteranzeige* anzeige_ = nullptr;
 };
 

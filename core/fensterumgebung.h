@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dateien.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/texte.h"
 #include "platform/meldungen.h"

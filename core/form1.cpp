@@ -10,8 +10,12 @@ constexpr int kleiner_bildschirm_px = 720;  // on a lower screen lanes 5 and 6 c
 
 }  // namespace
 
-form1::form1(umgebung um) : um_(um), timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)) {
+form1::form1(umgebung um)
+    : fensterlogik(um.fenster, um.ablage, fenstername::Form1),
+      um_(um),
+      timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)) {
     timer1_->bei_tick = [this] { timer1_tick(); };
+    titel.text(programm_name);
     µwartehinweis.sichtbar(false);
     befehle_verbinden();
     rennart.bei_aenderung = [this] {
@@ -55,7 +59,7 @@ void form1::befehle_verbinden() {
     Command8.bei_klick = [this] { einstellungen_rufen(fahrer_oeffnen); };
     Command9.bei_klick = [this] { einstellungen_rufen(fahrzeuge_oeffnen); };
     weitergeben(command_cu, cu_oeffnen);
-    command_tasten.bei_klick = [this] { um_.fenster.zeigen("Tastaturbelegung", anzeige_art::modal); };
+    command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };
 }
 
 void form1::einstellungen_rufen(const std::function<void()>& wohin) {
@@ -66,7 +70,7 @@ void form1::einstellungen_rufen(const std::function<void()>& wohin) {
 }
 
 void form1::timer1_tick() {
-    if (!um_.fenster.ist_offen("Form1")) {  // a message of the start still waits for its answer
+    if (!um_.fenster.ist_offen(fenstername::Form1)) {  // a message of the start still waits for its answer
         return;
     }
     timer1_->aus();

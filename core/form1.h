@@ -6,6 +6,7 @@
 
 #include "core/bestzeiten.h"
 #include "core/einstellungen.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
@@ -19,7 +20,7 @@
 namespace tarvel {
 
 /// The main window: the form on which a race is set up. Its control arrays count the lanes from 0.
-class form1 {
+class form1 final : public fensterlogik {
 public:
     struct umgebung {
         const einstellungen& einst;
@@ -117,8 +118,15 @@ public:
     std::function<void()> befehlsdatei_waehlen;
 
     /// Load handler of the window.
-    void laden();
-    void entladen() { timer1_->aus(); }
+    void laden() override;
+    void entladen() override { timer1_->aus(); }
+    void schliessen() override {
+        if (beenden) {
+            beenden();
+        }
+    }
+    bool escape_schliesst() const override { return false; }
+    std::vector<sprachliste> sprachdateien() override { return {sprache_m2()}; }
     /// The texts of the window.
     sprachliste sprache_m2();
     void sprache_m2_laden() { sprache_m2().anwenden(um_.ablage); }

@@ -12,8 +12,8 @@ constexpr int name_laenge_max = 100;
 
 }  // namespace
 
-speichernfenster::speichernfenster(fenster_umgebung um, std::string_view fenstername, std::string_view sprachdatei)
-    : um_(um), fenstername_(fenstername), sprachdatei_(sprachdatei) {
+speichernfenster::speichernfenster(fenster_umgebung um, fenstername kennung, std::string_view sprachdatei)
+    : fensterlogik(um.fenster, um.ablage, kennung), um_(um), sprachdatei_(sprachdatei) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {
         const int zeile = dateiliste.markiert();
@@ -24,7 +24,7 @@ speichernfenster::speichernfenster(fenster_umgebung um, std::string_view fenster
     dateiliste.bei_doppelklick = [this] { ausfuehren(); };
     alle_dateien.bei_aenderung = [this] { liste_fuellen(); };
     Command1.bei_klick = [this] { ausfuehren(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername_); };
+    Command2.bei_klick = [this] { um_.fenster.entladen(kennung()); };
 }
 
 sprachliste speichernfenster::sprache() {
@@ -38,7 +38,7 @@ sprachliste speichernfenster::sprache() {
 }
 
 void speichernfenster::oeffnen(dateiauftrag auftrag) {
-    um_.fenster.laden(fenstername_);
+    um_.fenster.laden(kennung());
     auftrag_ = std::move(auftrag);
     titel.text(auftrag_.titel);
     ueberschrift.text(auftrag_.ueberschrift);
@@ -48,7 +48,7 @@ void speichernfenster::oeffnen(dateiauftrag auftrag) {
     alle_dateien.gesetzt(false);
     name.text(auftrag_.vorschlag);
     liste_fuellen();
-    um_.fenster.zeigen(fenstername_, anzeige_art::modal);
+    um_.fenster.zeigen(kennung(), anzeige_art::modal);
     name.fokus_setzen();
 }
 
@@ -90,7 +90,7 @@ void speichernfenster::ausfuehren() {
         return;
     }
     if (auftrag_.ausfuehren(datei)) {
-        um_.fenster.entladen(fenstername_);
+        um_.fenster.entladen(kennung());
     }
 }
 

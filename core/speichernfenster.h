@@ -24,12 +24,11 @@ struct dateiauftrag {
 };
 
 /// The window in which a file is chosen for saving or loading.
-class speichernfenster {
+class speichernfenster : public fensterlogik {
 public:
-    /// `fenstername` is the window's name in the register, `sprachdatei` the file of its texts.
-    speichernfenster(fenster_umgebung um, std::string_view fenstername, std::string_view sprachdatei);
+    /// `sprachdatei` is the file of the window's texts.
+    speichernfenster(fenster_umgebung um, fenstername kennung, std::string_view sprachdatei);
 
-    rahmen titel;  ///< carries the window's title
     bezeichnung ueberschrift;
     liste dateiliste;
     feld name;
@@ -37,12 +36,15 @@ public:
     befehl Command1;  ///< does it
     befehl Command2;  ///< cancel
 
-    void laden() { sprache().anwenden(um_.ablage); }
+    std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
     void oeffnen(dateiauftrag auftrag);
     /// The texts of the window.
     sprachliste sprache();
     /// What is said of a file that is none of the program's.
     const std::string& ungueltig_text() const { return wort_.ungueltig; }
+
+protected:
+    fenster_umgebung um_;
 
 private:
     void liste_fuellen();
@@ -58,8 +60,6 @@ private:
         std::string ungueltig;
     };
 
-    fenster_umgebung um_;
-    std::string fenstername_;
     std::string sprachdatei_;
     worte wort_;
     dateiauftrag auftrag_;

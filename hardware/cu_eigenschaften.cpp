@@ -30,7 +30,8 @@ std::string com(int nummer) {
 }  // namespace
 
 cu_eigenschaften::cu_eigenschaften(const umgebung& um, const plattform::dienste& dienste)
-    : um_(um),
+    : fensterlogik(um.fenster, um.ablage, fenstername::cu_eigenschaften),
+      um_(um),
       meldungen_(dienste.meldungen),
       ports_(dienste.serienports),
       leitung_(dienste),
@@ -323,7 +324,7 @@ void cu_eigenschaften::uebernehmen() {
     }
     um_.einst.folgen_ableiten();
     einstellungen_speichern();
-    um_.fenster.entladen("cu_eigenschaften");
+    um_.fenster.entladen(fenstername::cu_eigenschaften);
 }
 
 }  // namespace tarvel

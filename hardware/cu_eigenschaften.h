@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/einstellungen.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
@@ -18,7 +19,7 @@ namespace tarvel {
 
 /// The window in which a Control Unit is looked for, tried and set up. While it is open it has the unit's port to
 /// itself.
-class cu_eigenschaften {
+class cu_eigenschaften final : public fensterlogik {
 public:
     struct umgebung {
         einstellungen& einst;
@@ -34,7 +35,6 @@ public:
     /// Keeps the settings; false if that failed.
     std::function<bool()> einstellungen_speichern;
 
-    rahmen titel;  ///< carries the window's title
     rahmen Frame_port;
     bezeichnung Label_port;
     auswahl cbo_cu_comport;  ///< entry 0 is no port, entry n is COMn
@@ -78,8 +78,9 @@ public:
     befehl Command10;
     befehl Command4;  ///< keeps the options and closes
 
-    void laden();
-    void entladen();
+    void laden() override;
+    void entladen() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache_e_cu()}; }
     sprachliste sprache_e_cu();
 
 private:

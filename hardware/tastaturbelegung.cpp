@@ -21,12 +21,13 @@ int feldcode(const std::string& zeichen) {
 
 }  // namespace
 
-tastaturbelegung::tastaturbelegung(umgebung um) : um_(um) {
+tastaturbelegung::tastaturbelegung(umgebung um)
+    : fensterlogik(um.fenster, um.ablage, fenstername::Tastaturbelegung), um_(um) {
     for (feld& zeichen : taste) {
         zeichen.laenge_max(1);
     }
     Command1.bei_klick = [this] { uebernehmen(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen("Tastaturbelegung"); };
+    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::Tastaturbelegung); };
     const auto vorbelegen = [this](belegung_stufe stufe) {
         tastenbelegung vorlage;
         vorlage.vorbelegen(stufe);
@@ -115,7 +116,7 @@ void tastaturbelegung::uebernehmen() {
     if (!um_.belegung.tastenbelegung_speichern(um_.ablage)) {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
     }
-    um_.fenster.entladen("Tastaturbelegung");
+    um_.fenster.entladen(fenstername::Tastaturbelegung);
 }
 
 }  // namespace tarvel

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
@@ -13,7 +14,7 @@
 namespace tarvel {
 
 /// The window in which the keys are assigned: one field of one character per row of `tastenzeilen`.
-class tastaturbelegung {
+class tastaturbelegung final : public fensterlogik {
 public:
     struct umgebung {
         tastenbelegung& belegung;
@@ -27,7 +28,6 @@ public:
 
     std::array<feld, tastenbelegung::zeile_max + 1> taste;  ///< index is the row; rows without a name have no field
     std::array<bezeichnung, tastenbelegung::zeile_max + 1> Label;  ///< what the row means
-    rahmen titel;                                                  ///< carries the window's title
     bezeichnung hinweis;                                           ///< how the fields are meant
     std::array<rahmen, spuren_max + 1> Frame;                      ///< 1 to 6 the lanes, 0 the keys of the whole track
     befehl Command1;                                               ///< confirm
@@ -37,7 +37,8 @@ public:
     befehl Command5;                                               ///< "Felder löschen"
 
     /// Load handler: shows the assignment in force.
-    void laden();
+    void laden() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache_e_tast()}; }
     /// The texts of the window.
     sprachliste sprache_e_tast();
 

@@ -28,7 +28,8 @@ std::string als_pinliste(std::string_view text) {
 }  // namespace
 
 uart_einstellungen::uart_einstellungen(const umgebung& um)
-    : um_(um),
+    : fensterlogik(um.fenster, um.ablage, fenstername::UART_einstellungen),
+      um_(um),
       port_(um.serienports.erzeugen()),
       bootzeit_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
     port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
@@ -39,7 +40,7 @@ uart_einstellungen::uart_einstellungen(const umgebung& um)
     neu.bei_klick = [this] { sensoren_vergessen(); };
     zurueck.bei_klick = [this] { seite_zeigen(seite_ - 1); };
     weiter.bei_klick = [this] { weiter_klick(); };
-    abbrechen.bei_klick = [this] { um_.fenster.entladen("UART_einstellungen"); };
+    abbrechen.bei_klick = [this] { um_.fenster.entladen(fenstername::UART_einstellungen); };
     chaos_anzahl.bei_aenderung = [this] { tasterzeilen_zeigen(); };
     stecker.bei_aenderung = [this] { tasterzeilen_zeigen(); };
     sensoranzahl.laenge_max(3);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/einstellungen.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
@@ -20,7 +21,7 @@ namespace tarvel {
 
 /// The wizard `UART_einstellungen`: finds the port of an AT-2560, lets its sensors and chaos buttons be triggered one
 /// after the other, and writes what they do into the command file. It has a port of its own.
-class uart_einstellungen {
+class uart_einstellungen final : public fensterlogik {
 public:
     enum seitennummer { seite_port, seite_anzahl, seite_sensoren, seite_chaos, seite_fertig, seiten_anzahl };
     static constexpr int sensoren_max = 8;
@@ -54,7 +55,6 @@ public:
 
     explicit uart_einstellungen(const umgebung& um);
 
-    rahmen titel;
     rahmen auto_einrichtung;  ///< around the pages
     bezeichnung schritt;      ///< which page of how many
     bezeichnung anleitung;    ///< what to do on this page
@@ -94,8 +94,9 @@ public:
     /// The port of the settings is another one: keeps them.
     std::function<void()> einstellungen_speichern;
 
-    void laden();
-    void entladen();
+    void laden() override;
+    void entladen() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
     /// The texts of the window.
     sprachliste sprache();
 

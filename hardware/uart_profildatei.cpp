@@ -13,7 +13,8 @@ constexpr int name_laenge_max = 60;
 
 }  // namespace
 
-uart_profildatei::uart_profildatei(fenster_umgebung um) : um_(um) {
+uart_profildatei::uart_profildatei(fenster_umgebung um)
+    : fensterlogik(um.fenster, um.ablage, fenstername::UART_Profildatei), um_(um) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {
         if (dateiliste.markiert() >= 0) {
@@ -22,7 +23,7 @@ uart_profildatei::uart_profildatei(fenster_umgebung um) : um_(um) {
     };
     dateiliste.bei_doppelklick = [this] { uebernehmen(); };
     Command1.bei_klick = [this] { uebernehmen(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen("UART_Profildatei"); };
+    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::UART_Profildatei); };
 }
 
 sprachliste uart_profildatei::sprache() {
@@ -38,7 +39,7 @@ sprachliste uart_profildatei::sprache() {
 
 void uart_profildatei::oeffnen(const std::string& datei) {
     bisher_ = datei;
-    um_.fenster.laden("UART_Profildatei");
+    um_.fenster.laden(fenstername::UART_Profildatei);
     dateiliste.ansage(titel.text());
     name.ansage(Label_name.text());
     dateiliste.leeren();
@@ -49,7 +50,7 @@ void uart_profildatei::oeffnen(const std::string& datei) {
     const auto platz = std::find(vorhanden.begin(), vorhanden.end(), datei);
     dateiliste.markieren(platz == vorhanden.end() ? -1 : static_cast<int>(platz - vorhanden.begin()));
     name.text(datei);
-    um_.fenster.zeigen("UART_Profildatei", anzeige_art::modal);
+    um_.fenster.zeigen(fenstername::UART_Profildatei, anzeige_art::modal);
     name.fokus_setzen();
 }
 
@@ -69,7 +70,7 @@ void uart_profildatei::uebernehmen() {
         um_.meldungen.zeigen(um_.txt.meldung[26], um_.txt.titel[1]);
         return;
     }
-    um_.fenster.entladen("UART_Profildatei");
+    um_.fenster.entladen(fenstername::UART_Profildatei);
     if (gewaehlt) {
         gewaehlt(datei);
     }

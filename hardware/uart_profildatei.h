@@ -11,11 +11,10 @@
 namespace tarvel {
 
 /// The window `UART_Profildatei`: picks the command file of the AT-2560, or names a new one.
-class uart_profildatei {
+class uart_profildatei final : public fensterlogik {
 public:
     explicit uart_profildatei(fenster_umgebung um);
 
-    rahmen titel;
     bezeichnung hinweis;
     liste dateiliste;
     bezeichnung Label_name;
@@ -26,7 +25,7 @@ public:
     /// Keeps the name of the file and reads it.
     std::function<void(const std::string&)> gewaehlt;
 
-    void laden() { sprache().anwenden(um_.ablage); }
+    std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
     /// Opens the window on the file of this name.
     void oeffnen(const std::string& datei);
     /// The texts of the window.

@@ -176,7 +176,7 @@ void uart_einstellungen::fertigstellen() {
     if (einstellungen_speichern) {
         einstellungen_speichern();
     }
-    um_.fenster.entladen("UART_einstellungen");
+    um_.fenster.entladen(fenstername::UART_einstellungen);
 }
 
 }  // namespace tarvel

@@ -55,7 +55,8 @@ std::string spalte(std::string_view text, std::size_t breite) {
 
 }  // namespace
 
-beste_zeiten_verwaltung::beste_zeiten_verwaltung(umgebung um) : um_(um) {
+beste_zeiten_verwaltung::beste_zeiten_verwaltung(umgebung um)
+    : fensterlogik(um.fenster, um.ablage, fenstername::beste_zeiten_verwaltung), um_(um) {
     bestefile_name.laenge_max(dateiname_laenge_max);
     Text1.laenge_max(zeit_laenge_max);
     Text2.laenge_max(namensliste::name_laenge_max);

@@ -6,6 +6,7 @@
 
 #include "core/bestzeiten.h"
 #include "core/einstellungen.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
@@ -17,7 +18,7 @@ namespace tarvel {
 
 /// The window `beste_zeiten_verwaltung`: corrects best times by hand, and chooses and creates their files. It works on
 /// a copy, which is written and takes effect when the window closes. Its control arrays count the lanes from 0.
-class beste_zeiten_verwaltung {
+class beste_zeiten_verwaltung final : public fensterlogik {
 public:
     struct umgebung {
         einstellungen& einst;
@@ -31,7 +32,6 @@ public:
 
     explicit beste_zeiten_verwaltung(umgebung um);
 
-    rahmen titel;  ///< carries the window's title
     bezeichnung Label_modus;
     auswahl Combo1;  ///< when best times are saved
     bezeichnung Label_datei;
@@ -59,9 +59,9 @@ public:
 
     void oeffnen();
     /// Keeps everything and closes. After a failed write the window stays, unless the operator gives the changes up.
-    void schliessen();
-    /// Load handler.
-    void laden();
+    void schliessen() override;
+    void laden() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache_bt()}; }
     /// The texts of the window.
     sprachliste sprache_bt();
 

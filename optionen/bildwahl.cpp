@@ -25,13 +25,13 @@ bool ist_bild(const fs::path& datei) {
 
 }  // namespace
 
-bildwahl::bildwahl(fenster_umgebung um) : um_(um) {
+bildwahl::bildwahl(fenster_umgebung um) : fensterlogik(um.fenster, um.ablage, fenstername::fahrerbild_laden), um_(um) {
     laufwerk.bei_aenderung = [this] { ordner_zeigen(pfad_aus_utf8(laufwerk.text())); };
     ordner.bei_doppelklick = [this] { ordner_betreten(); };
     datei.bei_auswahl = [this] { datei_gewaehlt(); };
     datei.bei_doppelklick = [this] { uebernehmen(); };
     Command1.bei_klick = [this] { uebernehmen(); };
-    Command2.bei_klick = [this] { abbrechen(); };
+    Command2.bei_klick = [this] { schliessen(); };
 }
 
 sprachliste bildwahl::sprache_fbl() {
@@ -43,7 +43,7 @@ sprachliste bildwahl::sprache_fbl() {
 }
 
 void bildwahl::oeffnen(auftrag a) {
-    um_.fenster.laden("fahrerbild_laden");
+    um_.fenster.laden(fenstername::fahrerbild_laden);
     auftrag_ = std::move(a);
     titel.text(auftrag_.titel);
     laufwerk.ansage(Label_laufwerk.text());
@@ -55,7 +55,7 @@ void bildwahl::oeffnen(auftrag a) {
         ort_ = fs::absolute(um_.ablage.pfad(auftrag_.bildordner), fehler);
     }
     ordner_zeigen(ort_);
-    um_.fenster.zeigen("fahrerbild_laden", anzeige_art::modal);
+    um_.fenster.zeigen(fenstername::fahrerbild_laden, anzeige_art::modal);
     ordner.fokus_setzen();
 }
 
@@ -114,12 +114,12 @@ void bildwahl::uebernehmen() {
         um_.meldungen.zeigen(nicht_kopiert_text_, um_.txt.titel[1]);
         return;
     }
-    um_.fenster.entladen("fahrerbild_laden");
+    um_.fenster.entladen(fenstername::fahrerbild_laden);
     auftrag_.fertig(stamm);
 }
 
-void bildwahl::abbrechen() {
-    um_.fenster.entladen("fahrerbild_laden");
+void bildwahl::schliessen() {
+    um_.fenster.entladen(fenstername::fahrerbild_laden);
     auftrag_.fertig(std::string(abgebrochen));
 }
 

@@ -12,7 +12,7 @@
 namespace tarvel {
 
 /// The window `fahrerbild_laden`: finds a picture anywhere on the machine and copies it to the pictures of the program.
-class bildwahl {
+class bildwahl final : public fensterlogik {
 public:
     /// What comes back instead of a name when the operator cancels.
     static constexpr std::string_view abgebrochen = "--cancel--";
@@ -28,7 +28,6 @@ public:
 
     explicit bildwahl(fenster_umgebung um);
 
-    rahmen titel;
     bezeichnung Label_laufwerk;
     auswahl laufwerk;
     bezeichnung pfad;
@@ -40,9 +39,10 @@ public:
     befehl Command1;  ///< take it
     befehl Command2;  ///< cancel
 
-    void laden() { sprache_fbl().anwenden(um_.ablage); }
+    std::vector<sprachliste> sprachdateien() override { return {sprache_fbl()}; }
     void oeffnen(auftrag a);
-    void abbrechen();
+    /// Without a picture.
+    void schliessen() override;
     /// The texts of the window.
     sprachliste sprache_fbl();
 

@@ -16,7 +16,8 @@ constexpr std::size_t erste_hardware_gruppe = 1;
 }  // namespace
 
 einstellungsfenster::einstellungsfenster(umgebung um, listen l)
-    : fahrerseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
+    : fensterlogik(um.fenster, um.ablage, fenstername::einstellungen),
+      fahrerseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
                   {l.fahrer, l.fahrer_datei, um.txt.kein_fahrer, ".lst", "Fahrerverwaltung", "Fahrerliste voll.",
                    "neues Fahrerbild zuordnen", 8, 8, 3}),
       fahrzeugseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
@@ -37,7 +38,7 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
         hardware.at(nummer).bei_aenderung = [this, nummer] { hardware_waehlen(nummer); };
     }
     Command1.bei_klick = [this] { Command1_Click(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen("einstellungen"); };
+    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::einstellungen); };
     sounds_verbinden();
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
@@ -90,9 +91,7 @@ std::vector<sprachliste> einstellungsfenster::sprachdateien() {
 }
 
 void einstellungsfenster::laden() {
-    for (const sprachliste& sprache : sprachdateien()) {
-        sprache.anwenden(um_.ablage);
-    }
+    texte_lesen();
     um_.txt.sprache_usb2_laden(um_.ablage);
     seitenliste.leeren();
     for (int nummer = 0; nummer < seiten_anzahl; ++nummer) {
@@ -129,9 +128,9 @@ void einstellungsfenster::laden() {
 }
 
 void einstellungsfenster::oeffnen(seitennummer erste) {
-    um_.fenster.laden("einstellungen");
+    um_.fenster.laden(fenstername::einstellungen);
     seite_zeigen(erste);
-    um_.fenster.zeigen("einstellungen", anzeige_art::modal);
+    um_.fenster.zeigen(fenstername::einstellungen, anzeige_art::modal);
     if (erste == seite_fahrer || erste == seite_fahrzeuge) {
         (erste == seite_fahrer ? fahrerseite : fahrzeugseite).name.fokus_setzen();
     } else {
@@ -284,7 +283,7 @@ void einstellungsfenster::Command1_Click() {
         hardware_starten();
     }
     if (gespeichert) {
-        um_.fenster.entladen("einstellungen");
+        um_.fenster.entladen(fenstername::einstellungen);
     } else {
         werte_zeigen();
     }

@@ -8,6 +8,7 @@
 
 #include "core/dateien.h"
 #include "core/einstellungszugriff.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
@@ -21,7 +22,7 @@ namespace tarvel {
 
 /// The options window `einstellungen`: shows every value of the settings and takes them over, within their limits.
 /// What is taken over is in force even if it could not be saved; the window stays open then.
-class einstellungsfenster {
+class einstellungsfenster final : public fensterlogik {
 public:
     /// The pages in their order. Those of drivers and vehicles are lists, all others rows.
     enum seitennummer {
@@ -57,10 +58,7 @@ public:
     };
 
     einstellungsfenster(umgebung um, listen l);
-    einstellungsfenster(const einstellungsfenster&) = delete;
-    einstellungsfenster& operator=(const einstellungsfenster&) = delete;
 
-    rahmen titel;
     liste seitenliste;                               ///< the titles of the pages
     std::array<rahmen, seiten_anzahl> seitenrahmen;  ///< the pages; only the chosen one is visible
     rahmen hardware_rahmen;
@@ -85,7 +83,9 @@ public:
     std::function<void()> uart_datei_waehlen;
 
     /// Load handler: all texts and all values.
-    void laden();
+    void laden() override;
+    /// A picture that was chosen is copied at once, also if the list is not taken over.
+    void entladen() override { um_.ziel.haupt.bilder_anzeigen(); }
     /// Opens the window on a page.
     void oeffnen(seitennummer erste);
     /// Shows what the settings say of the best times now, and the files that are there.
@@ -95,7 +95,7 @@ public:
     /// What the page says of the AT-2560's port is in force: its wizard is about to open it.
     void uart_portwerte_uebernehmen();
     /// The language files of the window.
-    std::vector<sprachliste> sprachdateien();
+    std::vector<sprachliste> sprachdateien() override;
 
     /// The rows of a page; null for the pages that are lists.
     optionsseite* zeilenseite(int nummer) { return seiten_.at(static_cast<std::size_t>(nummer)).get(); }

@@ -31,7 +31,7 @@ void messgeraete::cu_verbinden() {
         r.tanken.fuellstand_melden(spur, stufe, volle_stufe);
     };
     cu.bewirkt.tankfunktion = [this](bool an) {
-        if (!um_.fenster.ist_offen("bahn1")) {
+        if (!um_.fenster.ist_offen(fenstername::bahn1)) {
             um_.form1.t_aktiv.gesetzt(an);
             um_.form1.tankoptionen_zeigen();
         }
@@ -43,14 +43,12 @@ void messgeraete::cu_verbinden() {
             cu.mscomm1_oeffnen();
         }
     };
-    um_.form1.cu_oeffnen = [this] { um_.fenster.zeigen("cu_eigenschaften", anzeige_art::modal); };
-    um_.fenster.anmelden("cu_eigenschaften",
-                         {[this] { cu_eigenschaften.laden(); }, [this] { cu_eigenschaften.entladen(); }});
+    um_.form1.cu_oeffnen = [this] { um_.fenster.zeigen(fenstername::cu_eigenschaften, anzeige_art::modal); };
     cu.bewirkt.port_fehlt = [this] { meldungen_.zeigen(um_.txt.meldung[14], um_.txt.titel[1]); };
 }
 
 bool messgeraete::rennen_ruht() const {
-    return um_.fenster.ist_offen("bahn1") && !um_.fenster.ist_offen("auswertung") &&
+    return um_.fenster.ist_offen(fenstername::bahn1) && !um_.fenster.ist_offen(fenstername::auswertung) &&
            um_.rennen.zustand.rennen_beendet && um_.rennen.bahn1.Command1.bedienbar();
 }
 
@@ -84,7 +82,7 @@ void messgeraete::at_wartet_anzeigen(bool an) {
     befehl& rennstart = um_.rennen.bahn1.Command1;
     if (an) {
         rennstart.aktiviert(false);
-    } else if (um_.rennen.zustand.rennen_beendet && !um_.fenster.ist_offen("auswertung")) {
+    } else if (um_.rennen.zustand.rennen_beendet && !um_.fenster.ist_offen(fenstername::auswertung)) {
         rennstart.aktiviert(true);
         rennstart.fokus_setzen();
         um_.ausgaben.ruhezustand();  // what was switched while the unit booted has not reached it

@@ -1,7 +1,6 @@
 #include "programm/programm.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 
@@ -34,7 +33,7 @@ programm::programm(const plattform::dienste& d)
       form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, bestzeiten, fenster, d.meldungen, d.bildschirm,
              d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
-      form3(d.zeitgeber, fenster),
+      form3(d.zeitgeber, ablage, fenster),
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten, fahrerliste,
                  fahrzeugliste}),
@@ -49,8 +48,8 @@ programm::programm(const plattform::dienste& d)
       beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
       auswertung({rennen, einst, d.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
-      speichernfenster({ablage, txt, fenster, d.meldungen}, "speichernfenster", "language\\language_s1.txt"),
-      fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, "fahrerspeichernfenster",
+      speichernfenster({ablage, txt, fenster, d.meldungen}, fenstername::speichernfenster, "language\\language_s1.txt"),
+      fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, fenstername::fahrerspeichernfenster,
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
       beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
@@ -65,12 +64,11 @@ programm::programm(const plattform::dienste& d)
     bestzeiten_verbinden();
     uart_verbinden();
     rennen.chaos.neustart_ampel = [this] {
-        if (!fenster.ist_offen("k_ampel")) {
-            fenster.zeigen("k_ampel");
+        if (!fenster.ist_offen(fenstername::k_ampel)) {
+            fenster.zeigen(fenstername::k_ampel);
         }
         k_ampel.beginnen();
     };
-    fenster_anmelden();
 }
 
 void programm::hauptfenster_verbinden() {
@@ -104,7 +102,7 @@ void programm::hauptfenster_verbinden() {
 
 void programm::rennen_beginnen(veranstaltung& teil_von) {
     rennen.teil_von.wechseln(teil_von);
-    fenster.zeigen("bahn1", anzeige_art::modal);
+    fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
 }
 
 void programm::optionen_verbinden() {
@@ -143,33 +141,10 @@ void programm::bilder_melden(int anzahl, bool gespeichert) {
     }
 }
 
-void programm::fenster_anmelden() {
-    fenster.anmelden("Form1", {[this] { form1.laden(); }, [this] { form1.entladen(); }});
-    fenster.anmelden("Form3", {[this] { form3.laden(); }, [this] { form3.entladen(); }});
-    fenster.anmelden("Update_form", {[this] { update_form.laden(); }, [this] { update_form.entladen(); }});
-    fenster.anmelden("bahn1", {[this] { rennen.ablauf.laden(); }, [this] { rennen.ablauf.entladen(); }});
-    fenster.anmelden("Form2", {[this] { startampel.laden(); }, [this] { startampel.entladen(); }});
-    fenster.anmelden("k_ampel", {[this] { k_ampel.laden(); }, [this] { k_ampel.entladen(); }});
-    fenster.anmelden("auswertung", {[this] { auswertung.laden(); }, [this] { auswertung.entladen(); }});
-    fenster.anmelden("rundenspeichern", {[this] { rundenspeichern.laden(); }, {}});
-    fenster.anmelden("beste_zeiten_fenster",
-                     {[this] { beste_zeiten_fenster.laden(); }, [this] { beste_zeiten_fenster.entladen(); }});
-    fenster.anmelden("beste_zeiten_verwaltung", {[this] { beste_zeiten_verwaltung.laden(); }, {}});
-    fenster.anmelden("speichernfenster", {[this] { speichernfenster.laden(); }, {}});
-    fenster.anmelden("fahrerspeichernfenster", {[this] { fahrerspeichernfenster.laden(); }, {}});
-    fenster.anmelden("fahrerbild_laden", {[this] { fahrerbild_laden.laden(); }, {}});
-    // a picture that was chosen is copied at once, also if the list is not taken over
-    fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, [this] { form1.bilder_anzeigen(); }});
-    fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
-    fenster.anmelden("UART_einstellungen",
-                     {[this] { uart_einstellungen.laden(); }, [this] { uart_einstellungen.entladen(); }});
-    fenster.anmelden("UART_Profildatei", {[this] { uart_profildatei.laden(); }, {}});
-}
-
 bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
-    fenster.zeigen("Update_form");
+    fenster.zeigen(fenstername::Update_form);
     texte_standard_setzen();
     txt.sprache_m1_laden(ablage);
     txt.sprache_tx1_laden(ablage);
@@ -203,20 +178,8 @@ void programm::eingebaute_namen_setzen() {
 
 std::vector<sprachliste> programm::sprachdateien() {
     std::vector<sprachliste> alle = txt.alle_gruppen();
-    alle.push_back(form1.sprache_m2());
-    alle.push_back(rennen.ansicht.sprache_r());
-    alle.push_back(auswertung.sprache_a());
-    alle.push_back(beste_zeiten_fenster.sprache_best());
-    alle.push_back(beste_zeiten_verwaltung.sprache_bt());
-    alle.push_back(tastaturbelegung.sprache_e_tast());
-    alle.push_back(geraete.cu_eigenschaften.sprache_e_cu());
-    alle.push_back(rundenspeichern.sprache());
-    alle.push_back(fahrerspeichernfenster.sprache());
-    alle.push_back(fahrerbild_laden.sprache_fbl());
-    alle.push_back(uart_einstellungen.sprache());
-    alle.push_back(uart_profildatei.sprache());
-    for (sprachliste& sprache : einstellungsfenster.sprachdateien()) {
-        alle.push_back(std::move(sprache));
+    for (sprachliste& texte : fenster.sprachdateien()) {
+        alle.push_back(std::move(texte));
     }
     return alle;
 }
@@ -226,7 +189,7 @@ void programm::hardware_standard_setzen() {
 }
 
 void programm::einstellungen_standard_setzen() {
-    fenster.laden("Form1");
+    fenster.laden(fenstername::Form1);
     datei.einstellungen_standard_setzen();
     belegung.vorbelegen(belegung_stufe::erststart);
 }
@@ -368,8 +331,8 @@ bool programm::einstellungen_aus_menue_laden(const std::string& name) {
 void programm::hardware_starten() {
     geraete.hardware_starten(!laden_aus_menue_);
     if (!laden_aus_menue_) {
-        fenster.zeigen("Form1");
-        fenster.zeigen("Form3");
+        fenster.zeigen(fenstername::Form1);
+        fenster.zeigen(fenstername::Form3);
     }
 }
 
@@ -382,27 +345,7 @@ void programm::programm_beenden() {
     ausgaben.ruhezustand();
     uart_einstellungen.geraet_verbinden = nullptr;  // its window closes for good
     geraete.schliessen();
-    constexpr std::array<std::string_view, 18> reihenfolge{"auswertung",
-                                                           "bahn1",
-                                                           "einstellungen",
-                                                           "fahrerspeichernfenster",
-                                                           "Form2",
-                                                           "Form3",
-                                                           "k_ampel",
-                                                           "rundenspeichern",
-                                                           "speichernfenster",
-                                                           "Form1",
-                                                           "beste_zeiten_fenster",
-                                                           "cu_eigenschaften",
-                                                           "Tastaturbelegung",
-                                                           "fahrerbild_laden",
-                                                           "UART_einstellungen",
-                                                           "UART_Profildatei",
-                                                           "Update_form",
-                                                           "beste_zeiten_verwaltung"};
-    for (const std::string_view name : reihenfolge) {
-        fenster.entladen(name);
-    }
+    fenster.alle_entladen();
     dienste.prozess.beenden();
 }
 

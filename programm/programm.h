@@ -101,7 +101,6 @@ public:
 
 private:
     void hauptfenster_verbinden();
-    void fenster_anmelden();
     void texte_standard_setzen();
     void eingebaute_namen_setzen();
     void hardware_standard_setzen();

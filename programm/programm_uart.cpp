@@ -13,7 +13,7 @@ void programm::uart_verbinden() {
     einstellungsfenster.uart_datei_waehlen = datei_waehlen;
     einstellungsfenster.uart_einrichten = [this] {
         einstellungsfenster.uart_portwerte_uebernehmen();
-        fenster.zeigen("UART_einstellungen", anzeige_art::modal);
+        fenster.zeigen(fenstername::UART_einstellungen, anzeige_art::modal);
     };
     uart_einstellungen.geraet_trennen = [this] { geraete.at.schliessen(); };
     uart_einstellungen.geraet_verbinden = [this] {

@@ -1,12 +1,16 @@
 #include "programm/startfenster.h"
 
 #include "core/ordner.h"
+#include "core/texte.h"
 
 namespace tarvel {
 
 update_form::update_form(plattform::zeitgeber_dienst& zeitgeber, const dateien& ablage, fensterregister& fenster)
-    : ablage_(ablage), fensterschliessen_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500ms)) {
-    fensterschliessen_->bei_tick = [&fenster] { fenster.entladen("Update_form"); };
+    : fensterlogik(fenster, ablage, fenstername::Update_form),
+      ablage_(ablage),
+      fensterschliessen_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500ms)) {
+    fensterschliessen_->bei_tick = [this] { schliessen(); };
+    titel.text(programm_name);
 }
 
 void update_form::laden() {
@@ -15,10 +19,12 @@ void update_form::laden() {
     fensterschliessen_->an();
 }
 
-form3::form3(plattform::zeitgeber_dienst& zeitgeber, fensterregister& fenster)
-    : timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 2000ms)) {
-    timer1_->bei_tick = [&fenster] { fenster.entladen("Form3"); };
-    Command1.bei_klick = [&fenster] { fenster.entladen("Form3"); };
+form3::form3(plattform::zeitgeber_dienst& zeitgeber, const dateien& ablage, fensterregister& fenster)
+    : fensterlogik(fenster, ablage, fenstername::Form3),
+      timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 2000ms)) {
+    timer1_->bei_tick = [this] { schliessen(); };
+    Command1.bei_klick = [this] { schliessen(); };
+    titel.text(programm_name);
 }
 
 void form3::laden() {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/dateien.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "platform/zeitgeber.h"
@@ -10,13 +11,14 @@
 namespace tarvel {
 
 /// Shown for a moment at program start, while best-time files of older versions move to their folder.
-class update_form {
+class update_form final : public fensterlogik {
 public:
     update_form(plattform::zeitgeber_dienst& zeitgeber, const dateien& ablage, fensterregister& fenster);
 
     bezeichnung Label1;
-    void laden();
-    void entladen() { fensterschliessen_->aus(); }
+    void laden() override;
+    void entladen() override { fensterschliessen_->aus(); }
+    bool escape_schliesst() const override { return false; }
 
 private:
     const dateien& ablage_;
@@ -24,14 +26,15 @@ private:
 };
 
 /// The picture shown over the main window after program start.
-class form3 {
+class form3 final : public fensterlogik {
 public:
-    form3(plattform::zeitgeber_dienst& zeitgeber, fensterregister& fenster);
+    form3(plattform::zeitgeber_dienst& zeitgeber, const dateien& ablage, fensterregister& fenster);
 
     bild Picture1;
     befehl Command1;  ///< closes it at once
-    void laden();
-    void entladen() { timer1_->aus(); }
+    void laden() override;
+    void entladen() override { timer1_->aus(); }
+    bool escape_schliesst() const override { return false; }
 
 private:
     std::unique_ptr<plattform::zeitgeber> timer1_;

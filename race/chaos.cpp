@@ -151,7 +151,7 @@ void chaos::pause_beginnen() {
     if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
         um_.zeitgeber.chaos_schalter_at2560->an();  // hands are at the switch: nobody needs to be shown
     } else if (um_.einst.chaosampel_an) {
-        um_.fenster.zeigen("k_ampel");
+        um_.fenster.zeigen(fenstername::k_ampel);
     } else {
         gelb_zeigen(true);
     }
@@ -249,7 +249,7 @@ void chaos::chaostimer2_tick() {
         durchfahrten_merken();
     }
     if (gruen_am_geraet()) {  // its cars drive
-        um_.fenster.entladen("k_ampel");
+        um_.fenster.entladen(fenstername::k_ampel);
         chaosende_routine();
         return;
     }
@@ -359,7 +359,7 @@ void chaos::aufheben() {
         kleine_ampeln(kleines_licht::gruen);
     }
     chaos_nachholen();
-    um_.fenster.entladen("k_ampel");
+    um_.fenster.entladen(fenstername::k_ampel);
     zuruecksetzen();
 }
 

@@ -37,7 +37,7 @@ void rennablauf::vor_dem_start() {
 }
 
 void rennablauf::entladen() {
-    um_.fenster.entladen("Form2");
+    um_.fenster.entladen(fenstername::Form2);
     t_.blinken.beenden();
     um_.quellen.melden(&messquelle::rennfenster_zu);
     um_.zeitgeber.alle_aus();
@@ -114,7 +114,7 @@ void rennablauf::rennstart_vorbereiten() {
     if (um_.einst.start_ampel_modus == ampelwahl::keine && um_.quellen.ampel() == nullptr) {
         rennen_starten();
     } else {
-        um_.fenster.zeigen("Form2");
+        um_.fenster.zeigen(fenstername::Form2);
     }
 }
 
@@ -125,7 +125,7 @@ void rennablauf::einfahrzeit_starten() {
     um_.ausgaben.ampelnRoff(0);
     um_.ausgaben.ampelnGRoff();
     um_.ausgaben.relais_on(0);
-    um_.fenster.zeigen("einfahren");
+    um_.fenster.zeigen(fenstername::einfahren);
 }
 
 void rennablauf::start_abgebrochen() {

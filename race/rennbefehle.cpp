@@ -25,21 +25,21 @@ void rennbefehle::taste(int code) {
 }
 
 void rennbefehle::rennen_abbrechen() {
-    um_.fenster.entladen("Form2");
-    um_.fenster.entladen("auswertung");
+    um_.fenster.entladen(fenstername::Form2);
+    um_.fenster.entladen(fenstername::auswertung);
     um_.sounds.spielen(sound::rennen_abgebrochen);
     t_.pause.aufheben();
     um_.zeitgeber.alle_aus();
     t_.ende.ausgaben_endzustand();
     um_.zustand.rennabbruch = true;
     um_.param.einrichtung_wiederherstellen();
-    um_.fenster.entladen("bahn1");
+    um_.fenster.entladen(fenstername::bahn1);
     um_.fenster.zeigen(um_.teil_von->zurueck());
 }
 
 void rennbefehle::fenster_schliessen() {
     if (um_.zustand.rennen_beendet) {
-        if (!um_.fenster.ist_offen("auswertung")) {
+        if (!um_.fenster.ist_offen(fenstername::auswertung)) {
             rennen_abbrechen();
         }
         return;
@@ -54,7 +54,7 @@ void rennbefehle::rennen_beenden() {
     if (um_.zustand.rennen_beendet) {
         return;
     }
-    um_.fenster.entladen("Form2");
+    um_.fenster.entladen(fenstername::Form2);
     t_.ende.ende_stempeln();
     um_.zustand.rennabbruch = true;
     t_.ende.rennende_ablauf();

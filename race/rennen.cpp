@@ -39,7 +39,8 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, blinken, tanken, sektoren, sensoren}),
       chaos(umgebung, {ablauf, ansicht, strafen}),
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
-      befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung) {
+      befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
+      fenster(umgebung, {ablauf, ansicht, befehle}) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
     ende.laufendes_beenden = [this] {
         fortsetzung.zuruecknehmen();

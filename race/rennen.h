@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/fensterlogik.h"
 #include "platform/dienste.h"
 #include "race/blinken.h"
 #include "race/chaos.h"
@@ -8,6 +9,30 @@
 #include "race/strafen.h"
 
 namespace tarvel {
+
+/// The race window as the register sees it.
+class rennfenster final : public fensterlogik {
+public:
+    struct teile {
+        rennablauf& ablauf;
+        rennansicht& ansicht;
+        rennbefehle& befehle;
+    };
+
+    rennfenster(const renn_umgebung& um, const teile& t)
+        : fensterlogik(um.fenster, um.ablage, fenstername::bahn1), bahn_(um.bahn), t_(t) {}
+
+    rahmen& titelzeile() override { return bahn_.titel; }
+    std::vector<sprachliste> sprachdateien() override { return {t_.ansicht.sprache_r()}; }
+    void laden() override { t_.ablauf.laden(); }
+    void entladen() override { t_.ablauf.entladen(); }
+    void schliessen() override { t_.befehle.fenster_schliessen(); }
+    bool escape_schliesst() const override { return false; }
+
+private:
+    tarvel::bahn1& bahn_;
+    teile t_;
+};
 
 /// The race with all its parts. What it works on beside them is owned by the program.
 struct rennen {
@@ -51,6 +76,7 @@ struct rennen {
     tarvel::chaos chaos;
     tarvel::fortsetzung fortsetzung;
     rennbefehle befehle;
+    rennfenster fenster;
 };
 
 }  // namespace tarvel

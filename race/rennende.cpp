@@ -159,8 +159,8 @@ void rennende::rennende_ablauf() {
     laufendes_beenden();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
-    um_.fenster.entladen("Form2");  // a very short race ends before its start light goes
-    um_.fenster.zeigen("auswertung", anzeige_art::modal);
+    um_.fenster.entladen(fenstername::Form2);  // a very short race ends before its start light goes
+    um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
 }
 
 }  // namespace tarvel

@@ -2,8 +2,8 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
+#include "core/fensternamen.h"
 #include "platform/dauer.h"
 #include "platform/uhr.h"
 
@@ -57,7 +57,7 @@ public:
     /// Takes the result of the race. False, and told, if it could not be kept.
     virtual bool uebernehmen(weitergang wie) = 0;
     /// Window to which a race leads that has been left or broken off.
-    virtual std::string_view zurueck() const { return "Form1"; }
+    virtual fenstername zurueck() const { return fenstername::Form1; }
 };
 
 /// The one that the race is part of now. It must outlive the race.

@@ -20,7 +20,11 @@ using plattform::zeitgeber_art;
 
 }  // namespace
 
-auswertung::auswertung(const umfeld& um) : r_(um.r), um_(um.r.umgebung), u_(um) {
+auswertung::auswertung(const umfeld& um)
+    : fensterlogik(um.r.umgebung.fenster, um.r.umgebung.ablage, fenstername::auswertung),
+      r_(um.r),
+      um_(um.r.umgebung),
+      u_(um) {
     spurwechsel.gesetzt(true);
     zeitgeber_verbinden(um.zeitgeber);
     befehle_verbinden();
@@ -67,7 +71,7 @@ void auswertung::laden() {
     }
     um_.ausgaben.rennende_signal(true);
     zieltimer_->an();
-    sprache_a().anwenden(um_.ablage);
+    texte_lesen();
     ansagen_setzen();
     if (!zustand.fortgesetzt) {
         u_.stand.zuruecksetzen();
@@ -86,7 +90,7 @@ void auswertung::entladen() {
     if (zieltimer_->laeuft()) {
         zielsignal_beenden();
     }
-    um_.fenster.entladen("rundenspeichern");
+    um_.fenster.entladen(fenstername::rundenspeichern);
 }
 
 void auswertung::zeitgeber_aus() {
@@ -269,8 +273,8 @@ void auswertung::nachzaehlen_beenden() {
 }
 
 void auswertung::training_tick() {
-    if (meter_eingabe_an_ || um_.fenster.ist_offen("rundenspeichern") ||
-        um_.fenster.ist_offen("beste_zeiten_fenster")) {
+    if (meter_eingabe_an_ || um_.fenster.ist_offen(fenstername::rundenspeichern) ||
+        um_.fenster.ist_offen(fenstername::beste_zeiten_fenster)) {
         return;  // nobody is thrown out of an entry
     }
     ++training_zeit_;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/fensterlogik.h"
 #include "core/steuerelemente.h"
 #include "race/rennen.h"
 #include "results/beste_zeiten_fenster.h"
@@ -17,7 +18,7 @@ namespace tarvel {
 
 /// The result window: shows the standing of the race, lets the race director correct it, and decides how the program
 /// goes on. Its control arrays count the lanes from 0.
-class auswertung {
+class auswertung final : public fensterlogik {
 public:
     struct umfeld {
         rennen& r;
@@ -58,7 +59,6 @@ public:
     je_spur<befehl> cmd_rd_inc;       ///< deletes the selected lap
     je_spur<befehl> cmd_rd_add;       ///< selects the next lap
 
-    rahmen titel;            ///< carries the window's title
     bezeichnung kopf_label;  ///< what was driven, and when
     rahmen Frame_stand;      ///< the lanes, and in their place
     rahmen Frame_verlauf;    ///< the chart
@@ -87,10 +87,9 @@ public:
     std::function<void()> drucken;
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
-    /// Load handler: ends the race for the lap engine and shows the standing.
-    void laden();
-    /// Unload handler: nothing of the window goes on behind its back.
-    void entladen();
+    /// Ends the race for the lap engine and shows the standing.
+    void laden() override;
+    void entladen() override;
     /// Everything anew from the race record.
     void auswertung_anzeigen();
     /// An entry of metres that has not been finished counts too.
@@ -101,7 +100,9 @@ public:
     void cmd3_fortsetzung();
     void cmd5_fortsetzung();
     /// Closing the window means leaving it; an entry of metres has to be finished first.
-    void fenster_schliessen();
+    void schliessen() override { Command5.klicken(); }
+    bool escape_schliesst() const override { return false; }
+    std::vector<sprachliste> sprachdateien() override { return {sprache_a()}; }
 
     /// What the chart shows.
     rundenverlauf verlauf() const { return rundenverlauf_bilden(um_.zustand, um_.param); }

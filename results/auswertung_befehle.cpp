@@ -159,13 +159,9 @@ void auswertung::ausfuehren(aktion was) {
         case aktion::keine:
             break;
     }
-    if (um_.fenster.ist_offen("auswertung")) {
+    if (um_.fenster.ist_offen(fenstername::auswertung)) {
         um_.teil_von->von_selbst_starten(false);  // it did not come to that
     }
-}
-
-void auswertung::fenster_schliessen() {
-    Command5.klicken();
 }
 
 bool auswertung::ergebnis_abgeben(weitergang wie) {
@@ -175,13 +171,13 @@ bool auswertung::ergebnis_abgeben(weitergang wie) {
 }
 
 void auswertung::rennen_verlassen() {
-    um_.fenster.entladen("beste_zeiten_fenster");
-    um_.fenster.entladen("auswertung");
+    um_.fenster.entladen(fenstername::beste_zeiten_fenster);
+    um_.fenster.entladen(fenstername::auswertung);
     um_.ausgaben.ruhezustand();
 }
 
 void auswertung::bahn_neu_oeffnen() {
-    um_.fenster.neu_laden("bahn1");
+    um_.fenster.neu_laden(fenstername::bahn1);
     if (um_.teil_von->wer_startet() == starter::ablauf) {
         um_.teil_von->von_selbst_starten(false);
         um_.bahn.Command1.klicken();
@@ -268,7 +264,7 @@ void auswertung::cmd3_fortsetzung() {
     um_.param.spuren_wiederherstellen();  // a place without a driver goes round as well
     wechselschema_anwenden();
     r_.fortsetzung.vorbereiten(ziel);
-    um_.fenster.zeigen("k_ampel");
+    um_.fenster.zeigen(fenstername::k_ampel);
 }
 
 void auswertung::cmd5_fortsetzung() {
@@ -277,7 +273,7 @@ void auswertung::cmd5_fortsetzung() {
     }
     rennen_verlassen();
     um_.param.einrichtung_wiederherstellen();
-    um_.fenster.entladen("bahn1");
+    um_.fenster.entladen(fenstername::bahn1);
     um_.fenster.zeigen(um_.teil_von->zurueck());
 }
 

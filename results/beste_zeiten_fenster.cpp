@@ -10,7 +10,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view fenstername = "beste_zeiten_fenster";
 constexpr std::string_view keine_runde = "---";
 constexpr std::string_view leere_zeit = "00:00:000";
 constexpr int zeit_laenge = 9;
@@ -45,7 +44,9 @@ std::vector<std::string> rundenzeiten(const spur_angebot& angebot, const trennze
 }  // namespace
 
 beste_zeiten_fenster::beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber)
-    : um_(um), timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, anzeigedauer)) {
+    : fensterlogik(um.fenster, um.ablage, fenstername::beste_zeiten_fenster),
+      um_(um),
+      timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, anzeigedauer)) {
     timer1_->bei_tick = [this] {
         timer1_->aus();
         Command1.klicken();
@@ -81,7 +82,7 @@ sprachliste beste_zeiten_fenster::sprache_best() {
 }
 
 void beste_zeiten_fenster::laden() {
-    sprache_best().anwenden(um_.ablage);
+    texte_lesen();
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         spur_chk[i].text(wort_spur_ + " " + std::to_string(spur));
@@ -107,12 +108,12 @@ void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::fu
         }
         return;
     }
-    um_.fenster.laden(fenstername);
+    um_.fenster.laden(kennung());
     angebote_ = angebote;
     danach_ = std::move(danach);
     eingangswerte_zeigen();
     anzeigen();
-    um_.fenster.zeigen(fenstername, anzeige_art::modal);
+    um_.fenster.zeigen(kennung(), anzeige_art::modal);
     Command1.fokus_setzen();
     if (um_.einst.beste_modus == bestzeit_speicherung::automatisch) {
         timer1_->an();
@@ -121,7 +122,7 @@ void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::fu
 
 void beste_zeiten_fenster::schliessen() {
     const std::function<void()> danach = std::exchange(danach_, nullptr);  // it may open this window again
-    um_.fenster.entladen(fenstername);
+    um_.fenster.entladen(kennung());
     if (danach) {
         danach();
     }

@@ -8,6 +8,7 @@
 
 #include "core/bestzeiten.h"
 #include "core/einstellungen.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
@@ -29,7 +30,7 @@ struct spur_angebot {
 
 /// The window at the end of a race: takes new best times into the table, with corrections of the operator's. Its
 /// control arrays count the lanes from 0.
-class beste_zeiten_fenster {
+class beste_zeiten_fenster final : public fensterlogik {
 public:
     struct umgebung {
         const einstellungen& einst;
@@ -43,7 +44,6 @@ public:
 
     beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber);
 
-    rahmen titel;                           ///< carries the window's title
     bezeichnung Label1;                     ///< what to do
     std::array<bezeichnung, 4> Label_kopf;  ///< captions of the columns: driver, vehicle, lap, stored best
     std::array<rahmen, spuren_max> Frame;   ///< all of a lane, in its colour
@@ -61,11 +61,10 @@ public:
     /// nothing opens and `danach` runs at once. A window that is unloaded from elsewhere forgets it.
     void oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach);
     /// Closes without saving.
-    void schliessen();
-    /// Load handler.
-    void laden();
-    /// Unload handler.
-    void entladen();
+    void schliessen() override;
+    void laden() override;
+    void entladen() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache_best()}; }
     /// The texts of the window.
     sprachliste sprache_best();
 

@@ -13,10 +13,10 @@ constexpr std::size_t tageszeilen_max = 1000000;  // what was driven before is n
 }  // namespace
 
 rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um)
-    : fenster(um, "rundenspeichern", "language\\language_s1.txt"), r_(r), stand_(stand), um_(um) {}
+    : speichernfenster(um, fenstername::rundenspeichern, "language\\language_s1.txt"), r_(r), stand_(stand) {}
 
 sprachliste rundenspeichern::sprache() {
-    sprachliste texte = fenster.sprache();
+    sprachliste texte = speichernfenster::sprache();
     texte.text("Rennergebnis speichern", titel_);
     texte.text("Bitte geben Sie einen gültigen Dateinamen an.", name_fehlt_);
     texte.text("Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.", schreibfehler_);
@@ -34,7 +34,7 @@ std::string rundenspeichern::stempel() const {
 }
 
 void rundenspeichern::oeffnen() {
-    um_.fenster.laden("rundenspeichern");
+    um_.fenster.laden(fenstername::rundenspeichern);
     dateiauftrag auftrag;
     auftrag.speichern = true;
     auftrag.titel = titel_;
@@ -49,11 +49,11 @@ void rundenspeichern::oeffnen() {
         return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + name) ||
                schreibfehler_melden();
     };
-    fenster.oeffnen(std::move(auftrag));
+    speichernfenster::oeffnen(std::move(auftrag));
 }
 
 bool rundenspeichern::automatisch_speichern() {
-    laden();  // the words of the file
+    texte_lesen();  // the words of the file
     const std::string stamm = std::string(ergebnis_ordner::auto_einzelrennen) + "\\auto-" + stempel();
     std::string pfad = stamm + std::string(endung);
     for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {  // two results within ten seconds
@@ -63,7 +63,7 @@ bool rundenspeichern::automatisch_speichern() {
 }
 
 bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei) {
-    laden();
+    texte_lesen();
     auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max);
     if (!zeilen && !um_.ablage.gibt_es(datei)) {
         zeilen = {std::string(magie_tagesrennen)};

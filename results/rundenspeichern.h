@@ -8,13 +8,11 @@
 namespace tarvel {
 
 /// Saves results: under a name of the operator's choice in its window, or by itself.
-class rundenspeichern {
+class rundenspeichern final : public speichernfenster {
 public:
     rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um);
 
-    speichernfenster fenster;  ///< its controls
-
-    void laden() { sprache().anwenden(um_.ablage); }
+    std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
     /// The texts of the window and of the files.
     sprachliste sprache();
     /// Opens the window for the single race.
@@ -34,7 +32,6 @@ private:
 
     rennen& r_;
     const wertung& stand_;
-    fenster_umgebung um_;
     ergebnis_worte wort_;
     std::string titel_;
     std::string name_fehlt_;

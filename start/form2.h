@@ -14,7 +14,6 @@ struct form2 {
     std::array<form, 8> Shape12;     ///< below them in pairs: three yellow, one green
     bezeichnung Label_prestage;
     bezeichnung Label_stage;
-    rahmen titel;                  ///< carries the window's title
     rahmen Nachtabschaltung;       ///< black ground over the whole screen; the lamps stay in sight
     bezeichnung Label1;            ///< the start is stopped by a false start
     bezeichnung Label_fruehstart;  ///< lanes that moved too early

@@ -22,7 +22,8 @@ int lampe_vor_dem_ersten(ampelwahl wahl) {
 
 }  // namespace
 
-k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber) : r_(r), um_(r.umgebung) {
+k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber)
+    : fensterlogik(r.umgebung.fenster, r.umgebung.ablage, fenstername::k_ampel), r_(r), um_(r.umgebung) {
     for (std::size_t i = 0; i < schritte; ++i) {
         rot_.at(i) = zeitgeber.erzeugen(zeitgeber_art::zaehlend, schrittdauer);
         rot_.at(i)->bei_tick = [this, i] { rot_tick(i); };
@@ -102,7 +103,7 @@ void k_ampel::Command1_klick() {
         um_.ausgaben.ampelnRon(lampe);
     }
     if (!um_.zustand.chaos_aktiv) {
-        um_.fenster.entladen("auswertung");
+        um_.fenster.entladen(fenstername::auswertung);
         k_nachtabschaltung.sichtbar(um_.einst.nachtrennen_modus != nachtrennen::aus);
         um_.ereignisse.rundenzaehlung_leeren();
     }
@@ -177,7 +178,7 @@ void k_ampel::gruen_tick() {
     um_.ausgaben.ampelnRoff(0);
     um_.ausgaben.ampelnGRon();
     r_.strafen.strom_wiederherstellen();
-    um_.fenster.entladen("k_ampel");
+    um_.fenster.entladen(fenstername::k_ampel);
 }
 
 }  // namespace tarvel

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "core/fensterlogik.h"
 #include "core/spuren.h"
 #include "platform/zeitgeber.h"
 #include "race/rennen.h"
@@ -11,7 +12,7 @@ namespace tarvel {
 
 /// The small start light of a race that goes on rather than begins: after a pause, or after the result window. Three
 /// reds, then green; no false starts here.
-class k_ampel {
+class k_ampel final : public fensterlogik {
 public:
     k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber);
 
@@ -19,12 +20,14 @@ public:
 
     std::array<bild, 2 * schritte> k_ampelbild;  ///< 1 to 3 are row 1, 4 to 6 row 2; index is the number - 1
     std::array<form, 2 * schritte> Shape1;       ///< a light each for the lamps, in the settings' colours
-    rahmen titel;                                ///< carries the window's title
     rahmen k_nachtabschaltung;                   ///< black ground over the whole screen; the lamps stay in sight
     befehl Command1;                             ///< starts the light
 
-    void laden();
-    void entladen();
+    void laden() override;
+    void entladen() override;
+    /// There is no way back: closing it means going on.
+    void schliessen() override { beginnen(); }
+    bool escape_schliesst() const override { return false; }
     /// The light begins, if it has not yet.
     void beginnen() { Command1.klicken(); }
     /// The race behind the light pauses: its window keeps the keys.

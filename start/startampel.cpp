@@ -31,7 +31,11 @@ using reihe2 = ampelmodus::zweite_reihe;
 }  // namespace
 
 startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_dienst& zeitgeber)
-    : r_(r), um_(r.umgebung), einst_(einst), fruehstart_(r.umgebung, r.strafen) {
+    : fensterlogik(r.umgebung.fenster, r.umgebung.ablage, fenstername::Form2),
+      r_(r),
+      um_(r.umgebung),
+      einst_(einst),
+      fruehstart_(r.umgebung, r.strafen) {
     const auto kette = [&](dauer_ms dauer, auto tick) {
         auto neu = zeitgeber.erzeugen(zeitgeber_art::zaehlend, dauer);
         neu->bei_tick = std::move(tick);
@@ -59,7 +63,7 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
     cu_ampel_auswertetimer_->bei_tick = [this] { cu_ampel_auswerten(); };
     ampelaus_timer_ = kette(1ms, [this] {
         ampelaus_timer_->aus();
-        um_.fenster.verbergen("Form2");
+        um_.fenster.verbergen(fenstername::Form2);
     });
     for (const int spur : alle_spuren) {
         stw_[spur] = kette(1ms, [this, spur] { strom_tick(spur); });
@@ -98,11 +102,11 @@ void startampel::laden() {
             ampelaus_timer_->an();
         }
     }
-    fenster.titel.fokus_setzen();  // a second press of the key that started must not stop the start
+    titel.fokus_setzen();  // a second press of the key that started must not stop the start
 }
 
 void startampel::texte_setzen() {
-    fenster.titel.text(um_.bahn.wort.startampel);
+    titel.text(um_.bahn.wort.startampel);
     fenster.Label_prestage.text("Prestage");
     fenster.Label_stage.text("Stage");
     fenster.Label1.text(um_.txt.meldung[17]);
@@ -249,7 +253,7 @@ void startampel::freigabe_tick() {
         um_.ereignisse[art::tanken_ein[spur]].aktiv = false;
         um_.ereignisse[art::tanken_aus[spur]].aktiv = false;
     }
-    um_.fenster.entladen("Form2");
+    um_.fenster.entladen(fenstername::Form2);
 }
 
 void startampel::fruehstart_tick() {
@@ -303,7 +307,7 @@ void startampel::start_abbrechen() {
     fenster.abbrampel.text("OK");
     fenster.abbrampel.fokus_setzen();
     ampelaus_timer_->aus();
-    um_.fenster.zeigen("Form2");  // a hidden light comes out: somebody must see why, and press the button
+    um_.fenster.zeigen(fenstername::Form2);  // a hidden light comes out: somebody must see why, and press the button
 }
 
 void startampel::abbrampel_klick() {
@@ -318,14 +322,14 @@ void startampel::abbrampel_klick() {
     geraet_anhalten();
     r_.ablauf.start_abgebrochen();
     fenster.Nachtabschaltung.sichtbar(false);
-    um_.fenster.entladen("Form2");
+    um_.fenster.entladen(fenstername::Form2);
 }
 
 bool startampel::zu_sehen() const {
     return abgebrochen_ || !ampelmodus_von(um_.einst.start_ampel_modus).verborgen;
 }
 
-void startampel::fenster_schliessen() {
+void startampel::schliessen() {
     fenster.abbrampel.klicken();  // does nothing after green
 }
 

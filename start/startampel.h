@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "core/fensterlogik.h"
 #include "platform/zeitgeber.h"
 #include "race/rennen.h"
 #include "start/ampelmodus.h"
@@ -14,21 +15,20 @@ namespace tarvel {
 /// The window between the prepared and the running race: shows the start light, switches the real lamps, looks out for
 /// false starts and starts the race at green. A chain of one-shot timers: each switches itself off first and the next
 /// one on last, so the chain can be cut at any step.
-class startampel {
+class startampel final : public fensterlogik {
 public:
     startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_dienst& zeitgeber);
 
     form2 fenster;
 
-    /// Load handler: the light begins.
-    void laden();
-    /// Unload handler.
-    void entladen();
+    /// The light begins.
+    void laden() override;
+    void entladen() override;
     /// A key press while the lights run; `code` is the Windows-1252 value of the typed character.
     void taste(int code);
     bool ist_belegt(int code) const;
     /// Closing the window stops the start, as long as it can be stopped.
-    void fenster_schliessen();
+    void schliessen() override;
 
     bool laeuft() const { return ampel_laeuft_; }
     /// The light has its place on the screen; one that only real lamps show comes out when a false start stops it.

@@ -281,7 +281,7 @@ TEST_F(At2560, VerlustImRennenStoertDieTastaturNicht) {
     EXPECT_EQ(rundenzeit(1, 1), 7000);
     EXPECT_EQ(a.verloren, 1);
     EXPECT_TRUE(a.t.maschine.meldungen_gezeigt.empty());
-    a.t.p.fenster.entladen("bahn1");
+    a.t.p.fenster.entladen(fenstername::bahn1);
     a.t.einrichten("Runden", "20", {1});
     ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(a.t.maschine.meldungen_gezeigt.front().text,
@@ -342,8 +342,8 @@ TEST_F(At2560, BeliebigeBytesBringenNichtsDurcheinander) {
             a.t.maschine.laufen(static_cast<zeit_ms>(unter(3)));
         }
     }
-    a.t.p.fenster.entladen("auswertung");  // perhaps all of them are home
-    a.t.p.fenster.entladen("bahn1");
+    a.t.p.fenster.entladen(fenstername::auswertung);  // perhaps all of them are home
+    a.t.p.fenster.entladen(fenstername::bahn1);
     a.t.starten("Runden", "20", {1});
     a.sagt(";:T,0;");
     a.t.maschine.laufen(1000);

@@ -41,7 +41,7 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     t.runde_nach(7500, "421");
     t.runde_nach(500, "35");
     t.runde_nach(6000, "2");
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(w.platzierung(2), 1);
     EXPECT_EQ(w.platzierung(1), 2);
     EXPECT_EQ(w.platzierung(4), 3);
@@ -76,12 +76,12 @@ TEST_F(Auswertung, AbstandIstEineReineZeitdifferenz) {
 TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(a.Command5.text(), "Hauptmenü");
     EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft()) << "late cars keep being stamped behind the result";
     a.Command5.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
-    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
     t.starten("Runden", "1", {3});
     t.runde_nach(1000, "3");
@@ -92,11 +92,11 @@ TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
 
 TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
     zwei_spuren_fahren("Runden", "3");
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     const auto vorher = namen();
     a.Command1.klicken();
-    EXPECT_FALSE(offen("auswertung"));
-    EXPECT_TRUE(offen("bahn1"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
+    EXPECT_TRUE(offen(fenstername::bahn1));
     EXPECT_EQ(t.spur(1).runden, -1);
     EXPECT_EQ(namen(), vorher);
     EXPECT_TRUE(t.bahn().Command1.aktiviert());
@@ -117,8 +117,8 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     EXPECT_EQ(a.neues_ziel.text(), "6");
     EXPECT_EQ(a.ziel_einheit.text(), "Runden insgesamt");
     a.Command3.klicken();
-    EXPECT_FALSE(offen("auswertung"));
-    ASSERT_TRUE(offen("k_ampel"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
+    ASSERT_TRUE(offen(fenstername::k_ampel));
     EXPECT_EQ(t.bahn().namenslabel[2].text(), "Fahrer 1");
     EXPECT_EQ(t.bahn().zaehler[2].text(), "3");
     EXPECT_EQ(t.bahn().brunde[2].text(), "06,000");
@@ -143,7 +143,7 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
         << "five seconds of penalty lengthen each lap, and a key has the stamp of the tick before";
     t.runde_nach(6000, "2");
     t.runde_nach(6000, "2");
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(w.platzierung(2), 1);
     EXPECT_EQ(w.gesamtzeit(2), 18000 + 5504 + 6005 + 6005 + 5000);
     EXPECT_EQ(a.ges_meter[1].text(), "135,00 m") << "three laps of 25 m, three of 20 m";
@@ -155,7 +155,7 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
 TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
     zwei_spuren_fahren("Zeit", "1");
     t.maschine.laufen(60000);
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(a.neues_ziel.text(), "2");
     a.neues_ziel.eingeben("1,30");
     a.spurwechsel.umschalten();
@@ -171,9 +171,9 @@ TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 4), rest_der_runde + 9999);
     EXPECT_EQ(t.bahn().uhr1.sekunden.text() + t.bahn().uhr1.tausendstel.text(), "20000");
     t.maschine.laufen(19999);
-    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
     t.maschine.laufen(1);
-    EXPECT_TRUE(offen("auswertung"));
+    EXPECT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(a.neues_ziel.text(), "2,30") << "old target and the length of the race";
 }
 
@@ -182,7 +182,7 @@ TEST_F(Auswertung, WasGefahrenIstKannNichtDasZielSein) {
     for (const char* ziel : {"3", "0", "", "abc"}) {
         a.neues_ziel.eingeben(ziel);
         a.Command3.klicken();
-        EXPECT_TRUE(offen("auswertung")) << ziel;
+        EXPECT_TRUE(offen(fenstername::auswertung)) << ziel;
     }
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 4U);
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, t.p.txt.meldung[13]);
@@ -193,7 +193,7 @@ TEST_F(Auswertung, WasGefahrenIstKannNichtDasZielSein) {
                                              "Runden/Zeitmaximum erreicht. Fortsetzung nicht möglich."}));
     a.neues_ziel.eingeben("9999");
     a.Command3.klicken();
-    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
 }
 
 TEST_F(Auswertung, DauerUeber1499MinutenGehtNicht) {
@@ -206,7 +206,7 @@ TEST_F(Auswertung, DauerUeber1499MinutenGehtNicht) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
     a.neues_ziel.eingeben("1499");
     a.Command3.klicken();
-    EXPECT_TRUE(offen("k_ampel"));
+    EXPECT_TRUE(offen(fenstername::k_ampel));
 }
 
 TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
@@ -217,23 +217,23 @@ TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
     t.maschine.laufen(30000);
     t.p.rennen.befehle.taste('1');
     t.bahn().Command4.klicken();
-    ASSERT_TRUE(offen("auswertung"));
-    EXPECT_FALSE(offen("k_ampel"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    EXPECT_FALSE(offen(fenstername::k_ampel));
     EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, ende);
     EXPECT_EQ(w.runden(1), 2) << "the drivers have changed lanes";
     a.Command3.klicken();
     gruen();
     t.maschine.laufen(59999);
-    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
     t.maschine.laufen(61000);
-    EXPECT_TRUE(offen("auswertung"));
+    EXPECT_TRUE(offen(fenstername::auswertung));
 }
 
 TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
     t.p.einst.sensor_timeout = 2000ms;
     t.p.einst.zielmodus_erster = true;
     zwei_spuren_fahren("Runden", "3");
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     ASSERT_EQ(w.runden(2), 2);
     t.maschine.laufen(5000 - 4000);
     t.p.ereignisse.ereignis_melden(art::rundenzaehlung[1]);
@@ -261,20 +261,20 @@ TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
     t.maschine.laufen(2000);
     EXPECT_EQ(a.trainingslabel.text(), "Training wird fortgesetzt in:  1   ");
     t.maschine.laufen(1000);
-    EXPECT_FALSE(offen("auswertung"));
+    EXPECT_FALSE(offen(fenstername::auswertung));
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet) << "the next round has begun";
     t.p.einst.training_weiter = training_weitergang::fortsetzen;
     t.p.einst.nachtrennen_modus = nachtrennen::rennen;
     t.bahn().Command4.klicken();
     t.maschine.laufen(3000);
-    ASSERT_TRUE(offen("k_ampel"));
+    ASSERT_TRUE(offen(fenstername::k_ampel));
     t.maschine.laufen(499);
     EXPECT_TRUE(t.p.k_ampel.Command1.aktiviert());
     t.maschine.laufen(1);
     EXPECT_FALSE(t.p.k_ampel.Command1.aktiviert());
     EXPECT_TRUE(t.p.k_ampel.k_nachtabschaltung.sichtbar());
     t.maschine.laufen(1500 * 3 + 2500);
-    EXPECT_FALSE(offen("k_ampel"));
+    EXPECT_FALSE(offen(fenstername::k_ampel));
     EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft());
 }
 

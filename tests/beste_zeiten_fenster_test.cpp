@@ -20,7 +20,7 @@ protected:
             EXPECT_FALSE(offen());
         });
     }
-    bool offen() const { return t.p.fenster.ist_offen("beste_zeiten_fenster"); }
+    bool offen() const { return t.p.fenster.ist_offen(fenstername::beste_zeiten_fenster); }
     void schreibschutz(bool an) const {
         const auto im_weg = t.maschine.ordner() / "Ergebnisse/Bestzeiten/bestefile.bst.tarvel-neu";
         an ? std::filesystem::create_directory(im_weg) : std::filesystem::remove(im_weg);

@@ -15,7 +15,7 @@ protected:
         verwalten();
     }
     void verwalten() { element<befehl>("bestzeiten_verwalten").klicken(); }
-    bool verwaltung_offen() { return t.p.fenster.ist_offen("beste_zeiten_verwaltung"); }
+    bool verwaltung_offen() { return t.p.fenster.ist_offen(fenstername::beste_zeiten_verwaltung); }
     bestzeiten datei(const char* stamm) {
         bestzeiten tabelle;
         EXPECT_TRUE(tabelle.laden(t.p.ablage, stamm)) << stamm;

@@ -71,7 +71,7 @@ TEST_F(Bestzeiten, GeltenMitDerEinstellungsdateiUndZeigenSichInBeidenFenstern) {
     EXPECT_EQ(bahn.bestzeit_label[3].text(), "Best: 00:08,123");
     EXPECT_EQ(bahn.bestzeit_label[2].text(), "");
     EXPECT_EQ(bahn.bestzeit_gesamt.text(), "00:08,123   Anna   01.02.2026");
-    p.fenster.entladen("bahn1");
+    p.fenster.entladen(fenstername::bahn1);
     p.einst.beste_modus = bestzeit_speicherung::aus;
     p.form1.beste_zeiten_anzeigen();
     EXPECT_EQ(p.form1.Label_fahrzeug[0].text(), "–");

@@ -50,9 +50,9 @@ TEST_F(Chaos, PauseHaeltUhrStromUndZaehlungAnUndVerschiebtDasEnde) {
     t.runde_nach(5000, "1");
     EXPECT_EQ(rundenzeit(1, 1), 10000 + 1 + 1) << "without the pause";
     t.maschine.laufen(40000 - 2);
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
     t.maschine.laufen(10);
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(Chaos, SperrenVerwerfenDenDruck) {
@@ -279,9 +279,9 @@ TEST_F(Chaos, PauseImNachlaufBeginntSeineMinutenNeu) {
         EXPECT_TRUE(pause());
         t.taste("c");
         t.maschine.laufen(119900);
-        EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
         t.maschine.laufen(200);
-        EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+        EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
         t.p.auswertung.Command5.klicken();
     }
 }
@@ -296,7 +296,7 @@ TEST_F(Chaos, AbbruchUndEndeInDerPauseLassenNichtsZurueck) {
         EXPECT_FALSE(pause());
         EXPECT_FALSE(geraet.ist_an(ausgang::chaosanzeige, 0));
         EXPECT_TRUE(strom(1) && strom(2));
-        EXPECT_EQ(t.p.fenster.ist_offen("auswertung"), ende);
+        EXPECT_EQ(t.p.fenster.ist_offen(fenstername::auswertung), ende);
         t.maschine.laufen(20000);
         if (ende) {
             t.p.auswertung.Command5.klicken();

@@ -42,7 +42,7 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
     EXPECT_EQ(geschrieben("T2P$"), 4) << "closed over the running light";
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.maschine.laufen(3000);
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nor does the next race begin by itself";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << "nor does the next race begin by itself";
 }
 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
@@ -50,13 +50,13 @@ TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     senden("?00$");
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2));
     t.p.startampel.fenster.abbrampel.klicken();
     senden("?00$");
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "it is still ready from the start that is off";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << "it is still ready from the start that is off";
     senden("?10$");
     senden("?00$");
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2));
 }
 
 TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
@@ -64,7 +64,7 @@ TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNi
     t.einrichten(t.p.txt.text_runden, "2", {1});
     t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     status(true);
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form2"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2));
     t.maschine.laufen(2500);
     EXPECT_EQ(geschrieben("T2P$"), 1);  // the unit is stopped already: only its light is started
     status(false);
@@ -77,7 +77,7 @@ TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNi
     status(true);
     t.p.auswertung.Command2.klicken();
     status(true);
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << "nobody has pressed for a new race";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << "nobody has pressed for a new race";
 }
 
 TEST_F(ControlUnitRennen, EinFortgesetztesRennenHaeltAnWennDasGeraetAnhaelt) {
@@ -169,7 +169,7 @@ TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
         t.maschine.anschluesse.abziehen(com);
         t.maschine.laufen(15000);
         EXPECT_TRUE(t.bahn().Command4.bedienbar()) << modus;
-        EXPECT_FALSE(t.p.fenster.ist_offen("Form2")) << modus;
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << modus;
         t.bahn().Command2.klicken();
     }
 }

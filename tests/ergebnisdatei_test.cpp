@@ -93,7 +93,7 @@ TEST_F(Ergebnisdatei, UnterEigenemNamenUndNieUngefragtUeberEinAltes) {
     t.p.einst.aut_speichern = false;
     t.starten("Zeit", "1", {1});
     t.bahn().Command4.klicken();
-    speichernfenster& f = t.p.rundenspeichern.fenster;
+    speichernfenster& f = t.p.rundenspeichern;
     const auto speichern = [&](const char* name) {
         a.Command4.klicken();
         EXPECT_EQ(f.name.text(), "21112026-14032.csv");
@@ -101,7 +101,7 @@ TEST_F(Ergebnisdatei, UnterEigenemNamenUndNieUngefragtUeberEinAltes) {
         f.Command1.klicken();
     };
     speichern("Pokal");
-    EXPECT_FALSE(t.p.fenster.ist_offen("rundenspeichern"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::rundenspeichern));
     EXPECT_TRUE(t.maschine.datei_da("Ergebnisse/Einzelrennen/Pokal.csv"));
     speichern("Pokal.alt");
     EXPECT_TRUE(t.maschine.datei_da("Ergebnisse/Einzelrennen/Pokal.alt"));
@@ -113,7 +113,7 @@ TEST_F(Ergebnisdatei, UnterEigenemNamenUndNieUngefragtUeberEinAltes) {
     f.Command1.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Bitte geben Sie einen gültigen Dateinamen an.");
     f.Command2.klicken();
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
@@ -137,11 +137,11 @@ TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
         weg->klicken();
         ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
         EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, fehler);
-        EXPECT_TRUE(t.p.fenster.ist_offen("auswertung")) << "nothing is lost without a question";
+        EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung)) << "nothing is lost without a question";
     }
     t.maschine.antwort = true;
     a.Command5.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
@@ -153,8 +153,8 @@ TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
     t.bahn().Command4.klicken();
     const auto von_hand = [&](const char* name) {
         a.Command4.klicken();
-        t.p.rundenspeichern.fenster.name.eingeben(name);
-        t.p.rundenspeichern.fenster.Command1.klicken();
+        t.p.rundenspeichern.name.eingeben(name);
+        t.p.rundenspeichern.Command1.klicken();
     };
     von_hand("Pokal");
     a.liste[0].auswaehlen(0);
@@ -165,7 +165,7 @@ TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
     von_hand("Pokal berichtigt");
     a.Command5.klicken();
     EXPECT_EQ(t.maschine.fragen_gestellt.size() + t.maschine.meldungen_gezeigt.size(), 2U);
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
@@ -190,7 +190,7 @@ TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
     a.Command5.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Fehler beim Schreiben in Tages-Datei.");
     EXPECT_EQ(t.maschine.datei_lesen(datei), "fremd\r\n");
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(Ergebnisdatei, ArtStehtInDerDateiNichtImNamen) {

@@ -75,9 +75,9 @@ TEST_F(Form1, OhneLaengeOderSpurKeinRennen) {
     meldungen gemeldet(5, {"Unzulässige Zeit-/ Rundenangaben, Werte bitte überprüfen.", "Fehlermeldung"});
     gemeldet.push_back({"Keine Spuren ausgewählt, Auswahl bitte wiederholen.", "Fehlermeldung"});
     EXPECT_EQ(t.maschine.meldungen_gezeigt, gemeldet);
-    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     t.einrichten("Runden", "10000", {1});
-    EXPECT_TRUE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_EQ(t.p.param.renn_ziel, 9999);
 }
 
@@ -122,12 +122,12 @@ TEST_F(Form1, RennenWartetAufDasMessgeraet) {
     t.einrichten("Runden", "5", {1});  // within the first second of the window
     EXPECT_EQ(geoeffnet, 1);
     EXPECT_FALSE(f.inhalt.sichtbar());
-    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     t.maschine.laufen(3000);
     EXPECT_EQ(geoeffnet, 1);
     f.wartehinweis(false);
     f.Command1.klicken();
-    EXPECT_TRUE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ TEST_F(Fortsetzung, FreierPlatzWandertMit) {
     gruen();
     t.runde_nach(2000, "13");
     t.runde_nach(2000, "13");
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     a.Command3.klicken();
     EXPECT_TRUE(t.p.param.spur_aktiv[2]);
     EXPECT_FALSE(t.p.param.spur_aktiv[1]);
@@ -119,7 +119,7 @@ TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     t.starten("Runden", "1", {1, 2});
     t.runde_nach(1000, "12");
     t.runde_nach(3000, "1");
-    ASSERT_TRUE(offen("auswertung"));
+    ASSERT_TRUE(offen(fenstername::auswertung));
     a.Command3.klicken();
     gruen();
     t.runde_nach(500, "1");  // the rest of a lap that began on lane 2
@@ -130,7 +130,7 @@ TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     a.Command8.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "0,00 m") << "lap 1 was driven on lane 1, of 25 m";
     a.Command5.klicken();
-    ASSERT_TRUE(offen("beste_zeiten_fenster"));
+    ASSERT_TRUE(offen(fenstername::beste_zeiten_fenster));
     EXPECT_EQ(t.p.beste_zeiten_fenster.beste_combo[0].text(), "00:01,500");
 }
 
@@ -139,11 +139,11 @@ TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
     t.bahn().Command4.klicken();
     a.Command3.klicken();
     t.bahn().Command2.klicken();
-    EXPECT_TRUE(offen("bahn1")) << "the result so far is at stake";
+    EXPECT_TRUE(offen(fenstername::bahn1)) << "the result so far is at stake";
     t.maschine.antwort = true;
     t.bahn().Command2.klicken();
-    EXPECT_TRUE(offen("Form1"));
-    EXPECT_FALSE(offen("k_ampel"));
+    EXPECT_TRUE(offen(fenstername::Form1));
+    EXPECT_FALSE(offen(fenstername::k_ampel));
 }
 
 TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
@@ -155,7 +155,7 @@ TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
     t.bahn().Command4.klicken();
     a.neues_ziel.eingeben("0");
     t.maschine.laufen(3000);
-    ASSERT_TRUE(offen("auswertung")) << "that is no target";
+    ASSERT_TRUE(offen(fenstername::auswertung)) << "that is no target";
     a.Command5.klicken();
     t.p.einst.chaosampel_an = true;
     t.starten("Runden", "5", {1});
@@ -208,7 +208,7 @@ protected:
                 t.bahn().Command4.klicken();
             }
         }
-        ASSERT_TRUE(offen("auswertung"));
+        ASSERT_TRUE(offen(fenstername::auswertung));
     }
 
     void vergleichen() {
@@ -245,11 +245,11 @@ protected:
             }
         }
         a.Command3.klicken();
-        if (offen("auswertung")) {
+        if (offen(fenstername::auswertung)) {
             a.neues_ziel.eingeben("50");
             a.Command3.klicken();
         }
-        ASSERT_TRUE(offen("k_ampel"));
+        ASSERT_TRUE(offen(fenstername::k_ampel));
         t.maschine.laufen(static_cast<zeit_ms>(zufall() % 30000));
     }
 
@@ -286,7 +286,7 @@ TEST_F(FortsetzungModell, RundenBleibenWieSieGefahrenWurden) {
             gruen();
         }
         a.Command5.klicken();
-        ASSERT_TRUE(offen("Form1"));
+        ASSERT_TRUE(offen(fenstername::Form1));
     }
 }
 

@@ -97,7 +97,7 @@ TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
         beginnen(modus);
         t.maschine.laufen(5000);
         ampeltaste('1');
-        EXPECT_TRUE(t.p.fenster.ist_offen("Form2")) << "a hidden light comes out";
+        EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2)) << "a hidden light comes out";
         EXPECT_TRUE(t.p.startampel.fenster.Label1.sichtbar());
         EXPECT_EQ(t.p.startampel.fenster.Label1.text(), "Rennabbruch: Frühstart");
         EXPECT_EQ(t.p.startampel.fenster.abbrampel.text(), "OK");
@@ -107,7 +107,7 @@ TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
         EXPECT_EQ(rote_am_geraet(), 2) << "the lamps stay as they were";
         t.p.startampel.fenster.abbrampel.klicken();
         EXPECT_TRUE(strom(1) && strom(3));
-        EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
         EXPECT_TRUE(t.bahn().Command1.bedienbar() && t.bahn().Command2.bedienbar());
         t.maschine.laufen(500);
         EXPECT_EQ(rote_am_geraet(), 5) << "blinks: ready again";
@@ -194,7 +194,7 @@ TEST_F(Fruehstart, AusgeschlosseneSpurHaeltDasEndeNichtAuf) {
     bis_gruen(4002);
     t.runde_nach(1000, "1");
     t.runde_nach(6000, "1");
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 }  // namespace

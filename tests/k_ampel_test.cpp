@@ -30,7 +30,7 @@ TEST_F(KleineAmpel, BeendetDiePauseErstBeiGruen) {
                                                            {6, "ooo---", "Xoo---", "XXX---", 3}}) {
         SCOPED_TRACE(modus);
         pause(modus);
-        ASSERT_TRUE(t.p.fenster.ist_offen("k_ampel"));
+        ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::k_ampel));
         EXPECT_EQ(lampen(), dunkel);
         t.maschine.laufen(5000);
         t.p.rennen.strafen.spur_strom_aus(2);  // serves a penalty
@@ -51,7 +51,7 @@ TEST_F(KleineAmpel, BeendetDiePauseErstBeiGruen) {
         EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
         t.maschine.laufen(1);
         EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
-        EXPECT_FALSE(t.p.fenster.ist_offen("k_ampel"));
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::k_ampel));
         EXPECT_EQ(t.p.rennen.zustand.pause_abzug, t.p.rennen.zustand.pause.dauer);
         EXPECT_TRUE(strom(1) && geraet.ist_an(ausgang::ampel_gruen, 0));
         EXPECT_FALSE(strom(2)) << "a lane in a penalty stays without power";
@@ -65,7 +65,7 @@ TEST_F(KleineAmpel, KnopfBeginntUndAbbruchHaeltDieKetteAn) {
     t.p.k_ampel.Command1.klicken();
     t.maschine.laufen(2000);
     t.bahn().Command2.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("k_ampel"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::k_ampel));
     geraet.befehle.clear();
     t.maschine.laufen(20000);
     EXPECT_TRUE(geraet.befehle.empty());

@@ -24,7 +24,7 @@ protected:
         knopf.klicken();
         t.p.fahrerspeichernfenster.name.eingeben(datei);
         t.p.fahrerspeichernfenster.Command1.klicken();
-        EXPECT_FALSE(t.p.fenster.ist_offen("fahrerspeichernfenster"));
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::fahrerspeichernfenster));
     }
     void bild_anlegen(const std::string& name, const std::string& bytes = "\xFF\xD8\xFF\xE0 Bild") {
         t.maschine.datei_schreiben(name, bytes);
@@ -46,7 +46,7 @@ TEST_F(Listenseite, NeueNamenGeltenErstNachDemUebernehmen) {
     EXPECT_EQ(fahrer.namen.markiert(), 1);
     fahrer.anderes_bild.klicken();
     bilder.Command2.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("fahrerbild_laden"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::fahrerbild_laden));
     EXPECT_EQ(t.p.form1.fahrer[0].eintraege().at(1), "Fahrer 1");
     uebernehmen();
     EXPECT_EQ(t.p.form1.fahrer[0].eintraege().back(), "Käthe");
@@ -92,11 +92,11 @@ TEST_F(Listenseite, MisslungenesSchreibenWirdGemeldetUndNachgeholt) {
     uebernehmen();
     EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{t.p.txt.meldung[3], "Fehlermeldung"}}));
     EXPECT_EQ(t.maschine.datei_lesen("Listen/fahrer.lst"), vorher);
-    EXPECT_TRUE(t.p.fenster.ist_offen("einstellungen"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::einstellungen));
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna") << "nothing the operator has typed is lost";
     std::filesystem::remove(im_weg);
     uebernehmen();
-    EXPECT_FALSE(t.p.fenster.ist_offen("einstellungen"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::einstellungen));
     EXPECT_NE(t.maschine.datei_lesen("Listen/fahrer.lst").find("Anna"), std::string::npos);
 }
 
@@ -139,7 +139,7 @@ TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     bilder.datei.auswaehlen(0);
     EXPECT_TRUE(bilder.vorschau.datei().ends_with("kamera/foto 17.JPG"));
     bilder.Command1.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("fahrerbild_laden"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::fahrerbild_laden));
     EXPECT_EQ(fahrer.vorschau.datei(), "pictures/A_B_ _Ä_.jpg");
     EXPECT_TRUE(t.maschine.datei_da("pictures/A_B_ _Ä_.jpg"));
     fahrer.kein_bild.klicken();

@@ -21,7 +21,7 @@ struct Wiedereingesteckt : testing::Test {
         t.maschine.anschluesse.abziehen(com);
         t.maschine.laufen(2000);
         EXPECT_TRUE(getrennt());
-        t.p.fenster.entladen("bahn1");
+        t.p.fenster.entladen(fenstername::bahn1);
         t.maschine.anschluesse.da = {com};
         gesendet();
         t.einrichten("Runden", "20", {1});
@@ -50,7 +50,7 @@ TEST_F(Wiedereingesteckt, At2560MisstErstWennEsHoert) {
     EXPECT_FALSE(getrennt());
     t.bahn().Command1.klicken();
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "a start now would not reach the unit";
-    t.p.fenster.neu_laden("bahn1");
+    t.p.fenster.neu_laden(fenstername::bahn1);
     t.bahn().Command1.klicken();
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
     t.maschine.laufen(at_bootzeit.count());

@@ -12,7 +12,7 @@ protected:
     OptionenProbe() { oeffnen(); }
 
     void oeffnen() { t.p.form1.Command4.klicken(); }
-    bool offen() { return t.p.fenster.ist_offen("einstellungen"); }
+    bool offen() { return t.p.fenster.ist_offen(fenstername::einstellungen); }
     template <class Element>
     Element& element(const std::string& name) {
         return std::get<Element>(fenster.zeile(name).element);

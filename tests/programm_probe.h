@@ -24,7 +24,7 @@ protected:
 
     ProgrammProbe() { t.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, geraet); }
 
-    bool offen(const char* name) { return t.p.fenster.ist_offen(name); }
+    bool offen(fenstername name) { return t.p.fenster.ist_offen(name); }
     bool strom(int spur) const { return geraet.ist_an(ausgang::bahnstrom, spur); }
     zeit_ms rundenzeit(int spur, int runde) const { return t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
     std::ptrdiff_t gespielt(const std::string& datei) const {

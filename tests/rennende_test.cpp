@@ -9,7 +9,7 @@ namespace {
 
 class Rennende : public test::ProgrammProbe {
 protected:
-    bool beendet() { return offen("auswertung"); }
+    bool beendet() { return offen(fenstername::auswertung); }
     std::string uhr(const rennuhr_felder& u) const {
         return u.stunden.text() + ":" + u.minuten.text() + ":" + u.sekunden.text() + "," + u.tausendstel.text();
     }
@@ -205,8 +205,8 @@ TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
     t.starten("Zeit", "1", {1, 2});
     t.maschine.laufen(61000);  // in the run-on
     t.bahn().Command2.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form1));
     EXPECT_EQ(geraet.befehle.back(), (schaltung{ausgang::bahnstrom, 0, true}));
     t.maschine.laufen(300000);
     EXPECT_FALSE(beendet());

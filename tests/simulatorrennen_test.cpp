@@ -48,7 +48,7 @@ struct Simulatorrennen : testing::Test {
     }
     /// Every lap of the device is counted, and takes as long as the device says.
     void vergleichen() {
-        ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+        ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
         for (const int spur : alle_spuren) {
             const std::vector<zeit_ms> stempel = ueberfahrten(spur);
             const int runden = t.spur(spur).runden;

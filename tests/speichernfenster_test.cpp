@@ -22,7 +22,7 @@ protected:
 TEST_F(Speichernfenster, SpeichertUnterEinemNamenUndLaedtWieder) {
     t.p.form1.fahrer[0].eingeben("Käthe");
     speichern_als("Klubabend");
-    EXPECT_FALSE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::speichernfenster));
     EXPECT_TRUE(t.maschine.datei_da("Einstellungen/Klubabend.ini"));
     EXPECT_EQ(t.p.form1.Label6.text(), "Einstellungsdatei: Klubabend.ini");
     t.p.form1.fahrer[0].eingeben("Jörg");
@@ -37,7 +37,7 @@ TEST_F(Speichernfenster, SpeichertUnterEinemNamenUndLaedtWieder) {
     s.alle_dateien.umschalten();
     EXPECT_EQ(s.dateiliste.zeilen(), (std::vector<std::string>{"Klubabend.ini", "einstellungen.ini"}));
     s.dateiliste.doppelklicken(0);
-    EXPECT_FALSE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::speichernfenster));
     EXPECT_EQ(t.p.form1.fahrer[0].text(), "Käthe");
     EXPECT_TRUE(t.maschine.datei_da("auto-1.csv")) << "only the start of the program tidies up";
 }
@@ -48,7 +48,7 @@ TEST_F(Speichernfenster, FragtVorDemUeberschreiben) {
     speichern_als("einstellungen.ini");
     ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U);
     EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), alt);
-    EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::speichernfenster));
     t.maschine.antwort = true;
     s.Command1.klicken();
     EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), alt);
@@ -59,7 +59,7 @@ TEST_F(Speichernfenster, FalscheDateiWirdNichtGeladenUndNichtUeberschrieben) {
     t.p.form1.Command7.klicken();
     ausfuehren("fremd");
     EXPECT_EQ(letzte_meldung(), "Dies ist keine gültige Tarvel Datei. Die Einstellungen wurden nicht geladen");
-    EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::speichernfenster));
     EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/fremd.ini"), "[section]\r\nkey=1\r\n");
     EXPECT_EQ(t.p.form1.Label6.text(), "Einstellungsdatei: einstellungen.ini");
     ausfuehren("gibt es nicht");
@@ -69,7 +69,7 @@ TEST_F(Speichernfenster, FalscheDateiWirdNichtGeladenUndNichtUeberschrieben) {
 TEST_F(Speichernfenster, NamenFuehrenNichtAusDemOrdner) {
     for (const char* name : {"", "   ", "../fremd", "a\\b", "c:x", "was?", ".ini", "a\tb"}) {
         speichern_als(name);
-        EXPECT_TRUE(t.p.fenster.ist_offen("speichernfenster")) << name;
+        EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::speichernfenster)) << name;
         s.Command2.klicken();
     }
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 8U);

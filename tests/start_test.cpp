@@ -33,20 +33,20 @@ TEST(Start, MitgelieferteDateienGebenEinenStartOhneMeldung) {
 TEST(Start, LegtOrdnerAnUndSchliesstDieStartbilder) {
     test::testprogramm t;
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form1"));
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form3"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form1));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form3));
     for (const char* ordner :
          {"Bestzeiten", "Einzelrennen", "auto-Einzelrennen", "Wettkampf", "Wettkampf-Zwischenstand", "Tagesrennen"}) {
         EXPECT_TRUE(t.maschine.datei_da(std::string("Ergebnisse/") + ordner)) << ordner;
     }
     t.maschine.laufen(500);
-    EXPECT_FALSE(t.p.fenster.ist_offen("Update_form"));
-    EXPECT_TRUE(t.p.fenster.ist_offen("Form3"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Update_form));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form3));
     t.maschine.laufen(1500);
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
-    t.p.fenster.zeigen("Form3");
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form3));
+    t.p.fenster.zeigen(fenstername::Form3);
     t.p.form3.Command1.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form3));
 }
 
 TEST(Start, ZweiteInstanzMeldetSichUndRuehrtNichtsAn) {
@@ -60,7 +60,7 @@ TEST(Start, ZweiteInstanzMeldetSichUndRuehrtNichtsAn) {
     EXPECT_EQ(maschine.meldungen_gezeigt[0].text, "Programm ist bereits gestartet");
     EXPECT_EQ(maschine.meldungen_gezeigt[0].titel, "Tarvel");
     EXPECT_EQ(maschine.beendet, 1);
-    EXPECT_FALSE(p.fenster.ist_offen("Form1"));
+    EXPECT_FALSE(p.fenster.ist_offen(fenstername::Form1));
     EXPECT_TRUE(maschine.datei_da("auto-1.csv"));
     EXPECT_EQ(maschine.datei_lesen("tvk_taste.ini"), "unsinn");
     EXPECT_FALSE(maschine.datei_da("Ergebnisse/Einzelrennen"));

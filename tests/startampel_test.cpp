@@ -25,7 +25,7 @@ TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
         t.maschine.laufen(3499);
         EXPECT_EQ(rote_am_geraet(), 0);
         EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
-        EXPECT_EQ(t.p.fenster.ist_offen("Form2"), !verborgen);
+        EXPECT_EQ(t.p.fenster.ist_offen(fenstername::Form2), !verborgen);
         t.maschine.laufen(1501);
         EXPECT_EQ(lampen(), nach_zwei);
         EXPECT_EQ(rote_am_geraet(), 2);
@@ -48,7 +48,7 @@ TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
         t.maschine.laufen(1);
         EXPECT_TRUE(t.bahn().Command2.aktiviert() && t.bahn().Command4.aktiviert());
         EXPECT_FALSE(t.p.startampel.laeuft());
-        EXPECT_FALSE(t.p.fenster.ist_offen("Form2"));
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
         t.bahn().Command2.klicken();
     }
 }
@@ -56,7 +56,7 @@ TEST_F(Startampel, JederModusLaeuftSeineSchritteBisGruen) {
 TEST_F(Startampel, DragraceHatEigeneSchritteUndDenBaum) {
     beginnen(6);
     t.p.rennen.ablauf.start_abgebrochen();
-    t.p.fenster.entladen("Form2");
+    t.p.fenster.entladen(fenstername::Form2);
     t.p.einst.folgen_ableiten();
     starten();
     auto& f = t.p.startampel.fenster;
@@ -108,7 +108,7 @@ TEST_F(Startampel, AbbruchVonHandHaeltInJedemSchrittAllesAn) {
         t.maschine.laufen(nach);
         t.p.startampel.taste('2');
         t.maschine.laufen(nach % 2);
-        t.p.startampel.fenster_schliessen();
+        t.p.startampel.schliessen();
         if (nach == gruen_nach - 1) {
             EXPECT_TRUE(rennen_laeuft()) << "green has come first";
             t.maschine.laufen(2000);
@@ -160,8 +160,8 @@ TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {
     t.maschine.laufen(gruen_nach);
     t.runde_nach(500, "1");
     t.runde_nach(700, "1");
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2") || t.p.startampel.laeuft());
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2) || t.p.startampel.laeuft());
     t.p.auswertung.Command5.klicken();
     beginnen(1);
     t.maschine.laufen(gruen_nach);
@@ -176,7 +176,7 @@ TEST_F(Startampel, FensterDesRennensSchliesstAuchDieAmpel) {
     EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
     t.maschine.laufen(20000);
     EXPECT_FALSE(rennen_laeuft());
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form2") || t.p.fenster.ist_offen("bahn1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2) || t.p.fenster.ist_offen(fenstername::bahn1));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/dateien.h"
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 
 namespace tarvel {
@@ -68,22 +70,34 @@ TEST(Steuerelemente, ListeMarkiertNieInsLeere) {
 }
 
 TEST(Fensterregister, LaedtEinmalUndVertraegtSchliessenImLadevorgang) {
+    struct zaehlfenster : fensterlogik {
+        using fensterlogik::fensterlogik;
+        void laden() override { ++geladen; }
+        int geladen = 0;
+    };
+    struct scheues_fenster : fensterlogik {
+        using fensterlogik::fensterlogik;
+        void laden() override { schliessen(); }
+    };
+    using enum fenstername;
+    const dateien ablage("");
     fensterregister fenster;
-    int geladen = 0;
-    fenster.anmelden("a", {[&] { ++geladen; }, {}});
-    fenster.zeigen("a");
-    fenster.zeigen("a");
-    EXPECT_EQ(geladen, 1);
-    fenster.entladen("a");
-    EXPECT_FALSE(fenster.ist_offen("a"));
-    fenster.zeigen("a");
-    EXPECT_EQ(geladen, 2);
+    {
+        const zaehlfenster a(fenster, ablage, Form1);
+        fenster.zeigen(Form1);
+        fenster.zeigen(Form1);
+        EXPECT_EQ(a.geladen, 1);
+        fenster.entladen(Form1);
+        EXPECT_FALSE(fenster.ist_offen(Form1));
+        fenster.zeigen(Form1);
+        EXPECT_EQ(a.geladen, 2);
 
-    fenster.anmelden("b", {[&] { fenster.entladen("b"); }, {}});
-    fenster.zeigen("b");
-    EXPECT_FALSE(fenster.ist_offen("b"));
-    fenster.zeigen("unbekannt");
-    EXPECT_FALSE(fenster.ist_offen("unbekannt"));
+        const scheues_fenster b(fenster, ablage, Form3);
+        fenster.zeigen(Form3);
+        EXPECT_FALSE(fenster.ist_offen(Form3));
+    }
+    fenster.zeigen(Form1);
+    EXPECT_FALSE(fenster.ist_offen(Form1)) << "its logic is gone";
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ TEST_F(Tanken, StromstrafeInDerLetztenRundeGiltFuerAlle) {
     t.runde_nach(7000, "2");
     t.runde_nach(500, "1");
     t.maschine.laufen(11000);
-    ASSERT_TRUE(offen("auswertung")) << "lane 2 has served its penalty";
+    ASSERT_TRUE(offen(fenstername::auswertung)) << "lane 2 has served its penalty";
     EXPECT_EQ(rundenzeit(2, 1) + 500, rundenzeit(1, 1));
     EXPECT_GT(rundenzeit(1, 1), 10000);
 }
@@ -127,9 +127,9 @@ TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
     t.p.einst.tank_strafzeit = 5s;
     fahren(6, "Runden", "1");
     t.runde_nach(8000, "1");
-    EXPECT_FALSE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
     t.maschine.laufen(5001);
-    EXPECT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 13000);
 }
 

@@ -71,7 +71,7 @@ TEST_F(Tastatur, JedeTasteInJedemZustandIstUngefaehrlich) {
     t.maschine.laufen(30000);
     alle_tasten();  // the chaos key among them: a pause, or its end
     t.bahn().Command4.klicken();
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     alle_tasten();
     t.p.auswertung.Command5.klicken();
     alle_tasten();
@@ -124,7 +124,7 @@ TEST_F(Tastatur, FensterUebernimmtUndSpeichert) {
     taste(16).eingeben("ß");
     taste(15).eingeben(" ");
     t.p.tastaturbelegung.Command1.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("Tastaturbelegung"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Tastaturbelegung));
     EXPECT_EQ(t.p.belegung.taste(16), 0xDF);
     EXPECT_EQ(t.p.belegung.taste(15), tastenbelegung::keine_taste);
 
@@ -141,7 +141,7 @@ TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
     taste(15).eingeben("漢");
     t.p.tastaturbelegung.Command1.klicken();
     EXPECT_EQ(letzte_meldung(), "Ungültiges Zeichen!!!");
-    EXPECT_TRUE(t.p.fenster.ist_offen("Tastaturbelegung"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Tastaturbelegung));
     t.p.tastaturbelegung.Command2.klicken();
     EXPECT_EQ(t.p.belegung.taste(15), '2') << "cancelling keeps the old keys";
     tastenbelegung gespeichert;
@@ -158,7 +158,7 @@ TEST_F(Tastatur, FensterVorlagen) {
     EXPECT_EQ(taste(50).text(), "ü");
     EXPECT_EQ(taste(17).text(), "ß");
     t.p.tastaturbelegung.Command1.klicken();
-    EXPECT_FALSE(t.p.fenster.ist_offen("Tastaturbelegung")) << "a field has a key that another one has";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Tastaturbelegung)) << "a field has a key that another one has";
     t.p.form1.command_tasten.klicken();
     t.p.tastaturbelegung.Command5.klicken();
     EXPECT_EQ(taste(16).text(), "");

@@ -18,7 +18,7 @@ protected:
         t.p.einstellungsfenster.uart_einrichten();
         t.maschine.meldungen_gezeigt.clear();
     }
-    bool offen() { return t.p.fenster.ist_offen("UART_einstellungen"); }
+    bool offen() { return t.p.fenster.ist_offen(fenstername::UART_einstellungen); }
     int seite() const {
         const auto* sichtbar = std::find_if(w.seiten.begin(), w.seiten.end(), [](auto& s) { return s.sichtbar(); });
         return static_cast<int>(sichtbar - w.seiten.begin());
@@ -212,10 +212,10 @@ TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
     profil.at_rennstart = "GO";
     at_profil_speichern(t.p.ablage, "tvk_at2560.uart", profil);
     t.p.form1.taste_F1();
-    EXPECT_FALSE(t.p.fenster.ist_offen("UART_Profildatei")) << "another timing hardware is in force";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::UART_Profildatei)) << "another timing hardware is in force";
     t.p.einst.hardware.hw_uart = true;
     t.p.form1.taste_F1();
-    ASSERT_TRUE(t.p.fenster.ist_offen("UART_Profildatei"));
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::UART_Profildatei));
     EXPECT_EQ(f.dateiliste.zeilen(), std::vector<std::string>{"tvk_at2560.uart"});
     for (const char* name : {"", "../klub", "a:b"}) {
         f.name.eingeben(name);

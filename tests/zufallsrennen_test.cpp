@@ -43,7 +43,7 @@ public:
         if (laeuft()) {  // who never refuels may lose every lap that he drives
             t_.bahn().Command4.klicken();
         }
-        EXPECT_TRUE(t_.p.fenster.ist_offen("auswertung"));
+        EXPECT_TRUE(t_.p.fenster.ist_offen(fenstername::auswertung));
         EXPECT_FALSE(zustand().chaos_aktiv);
     }
 

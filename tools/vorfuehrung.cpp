@@ -136,7 +136,7 @@ public:
         warten("den Simulator", schritt_ms, [this] { return simulator_.bereit(); });
         schreiben(std::string("Simulator: ") + geraet_.name + " an COM" + com);
         p_.starten();
-        warten("das Hauptfenster", schritt_ms, [this] { return p_.fenster.ist_offen("Form1"); });
+        warten("das Hauptfenster", schritt_ms, [this] { return p_.fenster.ist_offen(fenstername::Form1); });
         messgeraet_waehlen();
         rennen_einrichten();
         fahren();
@@ -206,7 +206,7 @@ private:
             f.auto_.at(i).waehlen(spur);
         }
         f.Command1.klicken();
-        warten("den Rennbildschirm", schritt_ms, [this] { return p_.fenster.ist_offen("bahn1"); });
+        warten("den Rennbildschirm", schritt_ms, [this] { return p_.fenster.ist_offen(fenstername::bahn1); });
         if (QGuiApplication::platformName() == "offscreen") {  // its screen is smaller than any that a club has
             o_.bahn1.showNormal();
             o_.bahn1.resize(1920, 1080);
@@ -222,10 +222,10 @@ private:
         warten("das Ende des Rennens", rennen_ms, [this] {
             runden_melden();
             if (bild_.empty() && p_.rennen.zustand.fuehrungsrunden >= runden_vor_dem_bild &&
-                !p_.fenster.ist_offen("Form2")) {
+                !p_.fenster.ist_offen(fenstername::Form2)) {
                 aufnehmen();
             }
-            return p_.fenster.ist_offen("auswertung");
+            return p_.fenster.ist_offen(fenstername::auswertung);
         });
         runden_melden();
     }
@@ -279,10 +279,11 @@ private:
 
     void speichern() {
         p_.auswertung.Command4.klicken();
-        warten("das Fenster zum Speichern", schritt_ms, [this] { return p_.fenster.ist_offen("rundenspeichern"); });
-        const std::string name = p_.rundenspeichern.fenster.name.text();
-        p_.rundenspeichern.fenster.Command1.klicken();
-        warten("das Speichern", schritt_ms, [this] { return !p_.fenster.ist_offen("rundenspeichern"); });
+        warten("das Fenster zum Speichern", schritt_ms,
+               [this] { return p_.fenster.ist_offen(fenstername::rundenspeichern); });
+        const std::string name = p_.rundenspeichern.name.text();
+        p_.rundenspeichern.Command1.klicken();
+        warten("das Speichern", schritt_ms, [this] { return !p_.fenster.ist_offen(fenstername::rundenspeichern); });
         const fs::path ergebnis = ordner_ / "Ergebnisse" / "Einzelrennen" / name;
         if (!fs::exists(ergebnis) || bild_.empty()) {
             scheitern("Das Ergebnis fehlt: " + ergebnis.string());

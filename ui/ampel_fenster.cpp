@@ -19,8 +19,8 @@ constexpr QMargins rand_schmal(12, 5, 12, 5);
 
 }  // namespace
 
-AmpelFenster::AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um)
-    : Fenster(name, um.takt, um.bahn),
+AmpelFenster::AmpelFenster(fensterlogik& logik, rahmen& nacht, const umfeld& um)
+    : Fenster(logik, um.verwaltung, um.bahn),
       nacht_(nacht),
       einst_(um.einst),
       ablage_(um.ablage),

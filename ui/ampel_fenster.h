@@ -21,12 +21,12 @@ protected:
     struct umfeld {
         const einstellungen& einst;
         const dateien& ablage;
-        Bildtakt& takt;
+        Fensterverwaltung& verwaltung;
         QWidget* bahn;
     };
 
     /// `nacht` is visible while the ground is black.
-    AmpelFenster(const QString& name, rahmen& nacht, const umfeld& um);
+    AmpelFenster(fensterlogik& logik, rahmen& nacht, const umfeld& um);
 
     QVBoxLayout* aufbau() { return aufbau_; }
     /// Rows of lamps, the first on top.

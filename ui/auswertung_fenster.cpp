@@ -19,9 +19,9 @@ constexpr int zielfeld_breite_px = 80;
 
 }  // namespace
 
-AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern)
-    : Fenster("auswertung", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
+                                     QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand.left(), 8, stil::fensterrand.right(), stil::fensterrand.bottom());
     aufbau->setSpacing(6);

@@ -13,7 +13,7 @@ namespace tarvel::ui {
 /// The result window: one row per lane in the order of the standing, and the commands below.
 class AuswertungFenster : public Fenster {
 public:
-    AuswertungFenster(auswertung& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern);
+    AuswertungFenster(auswertung& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
 

@@ -19,9 +19,8 @@ constexpr std::array<f, 5> befehle{f::Command1, f::Command6, f::Command3, f::Com
 
 }  // namespace
 
-Bahn1Fenster::Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("bahn1", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.bahn1.titel);
+Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik.fenster, verwaltung, eltern), logik_(logik) {
     const auto unsichtbar = [this] {  // stands for the whole area, takes no room itself
         auto* grund = new QWidget(this);
         grund->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -13,7 +13,7 @@ namespace tarvel::ui {
 /// The race window, to be read from a distance. All characters typed while it is in front go to the race.
 class Bahn1Fenster : public Fenster {
 public:
-    Bahn1Fenster(rennen& logik, Bildtakt& takt, QWidget* eltern);
+    Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
     /// The large clock on the screen. It stands still in a pause.

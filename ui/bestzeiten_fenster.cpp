@@ -59,9 +59,8 @@ QHBoxLayout* spalten(QWidget* traeger, const std::vector<QWidget*>& zellen) {
 
 }  // namespace
 
-BestzeitenFenster::BestzeitenFenster(beste_zeiten_fenster& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("beste_zeiten_fenster", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+BestzeitenFenster::BestzeitenFenster(beste_zeiten_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(6);

@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window that saves new best times.
 class BestzeitenFenster : public Fenster {
 public:
-    BestzeitenFenster(beste_zeiten_fenster& logik, Bildtakt& takt, QWidget* eltern);
+    BestzeitenFenster(beste_zeiten_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
 

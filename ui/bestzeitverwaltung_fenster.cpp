@@ -18,9 +18,9 @@ constexpr QSize fleck_groesse(30, 14);
 
 }  // namespace
 
-BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("beste_zeiten_verwaltung", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+BestzeitverwaltungFenster::BestzeitverwaltungFenster(beste_zeiten_verwaltung& logik, Fensterverwaltung& verwaltung,
+                                                     QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);

@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window in which best times and their files are managed.
 class BestzeitverwaltungFenster : public Fenster {
 public:
-    BestzeitverwaltungFenster(beste_zeiten_verwaltung& logik, Bildtakt& takt, QWidget* eltern);
+    BestzeitverwaltungFenster(beste_zeiten_verwaltung& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
 private:
     QWidget* dateizeile();

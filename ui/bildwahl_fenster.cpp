@@ -13,9 +13,8 @@ constexpr QSize vorschaugroesse(320, 240);
 
 }  // namespace
 
-BildwahlFenster::BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("fahrerbild_laden", takt, eltern) {
-    binder().fenstertitel(logik.titel);
+BildwahlFenster::BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     auto* oben = new QHBoxLayout;

@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window in which a picture is found on the machine.
 class BildwahlFenster : public Fenster {
 public:
-    BildwahlFenster(bildwahl& logik, Bildtakt& takt, QWidget* eltern);
+    BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 };
 
 }  // namespace tarvel::ui

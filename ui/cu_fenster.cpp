@@ -8,9 +8,8 @@
 
 namespace tarvel::ui {
 
-CuFenster::CuFenster(cu_eigenschaften& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("cu_eigenschaften", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+CuFenster::CuFenster(cu_eigenschaften& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     auto* spalten = new QHBoxLayout;

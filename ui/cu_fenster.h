@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window of the Control Unit.
 class CuFenster final : public Fenster {
 public:
-    CuFenster(cu_eigenschaften& logik, Bildtakt& takt, QWidget* eltern);
+    CuFenster(cu_eigenschaften& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
 private:
     QWidget* portgruppe();

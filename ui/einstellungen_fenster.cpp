@@ -14,10 +14,9 @@ constexpr QSize vorschaugroesse(280, 210);
 
 }  // namespace
 
-EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dateien& ablage, Bildtakt& takt,
-                                           QWidget* eltern)
-    : Fenster("einstellungen", takt, eltern), logik_(logik), ablage_(ablage) {
-    binder().fenstertitel(logik.titel);
+EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dateien& ablage,
+                                           Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik), ablage_(ablage) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(10);

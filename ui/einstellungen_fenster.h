@@ -8,7 +8,8 @@ namespace tarvel::ui {
 /// The options window.
 class EinstellungenFenster : public Fenster {
 public:
-    EinstellungenFenster(einstellungsfenster& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern);
+    EinstellungenFenster(einstellungsfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
+                         QWidget* eltern);
 
 private:
     QWidget* seite(int nummer);

@@ -9,9 +9,16 @@
 
 namespace tarvel::ui {
 
-Fenster::Fenster(const QString& name, Bildtakt& takt, QWidget* eltern)
-    : QWidget(eltern, Qt::Window), binder_(name, takt, this) {
-    setObjectName(name);
+Fenster::Fenster(fensterlogik& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : QWidget(eltern, Qt::Window),
+      logik_(logik),
+      binder_(QString::fromUtf8(text_von(logik.kennung()).data()), verwaltung.takt(), this) {
+    setObjectName(QString::fromUtf8(text_von(logik.kennung()).data()));
+    binder_.fenstertitel(logik.titelzeile());
+    if (logik.escape_schliesst()) {
+        bei_escape = [this] { close(); };
+    }
+    verwaltung.aufnehmen(*this);
 }
 
 bool Fenster::event(QEvent* ereignis) {
@@ -23,9 +30,7 @@ bool Fenster::event(QEvent* ereignis) {
 
 void Fenster::closeEvent(QCloseEvent* ereignis) {
     ereignis->ignore();
-    if (bei_schliessen) {
-        bei_schliessen();
-    }
+    logik_.schliessen();
 }
 
 void Fenster::keyPressEvent(QKeyEvent* ereignis) {
@@ -55,7 +60,7 @@ void Fenster::aufschlagen() {
     activateWindow();
 }
 
-void Fensterverwaltung::zeigen(const std::string& name, anzeige_art art) {
+void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
     const auto gefunden = fenster_.find(name);
     if (gefunden == fenster_.end()) {
         return;
@@ -68,7 +73,7 @@ void Fensterverwaltung::zeigen(const std::string& name, anzeige_art art) {
     fenster->aufschlagen();
 }
 
-void Fensterverwaltung::verbergen(const std::string& name) {
+void Fensterverwaltung::verbergen(fenstername name) {
     const auto gefunden = fenster_.find(name);
     if (gefunden == fenster_.end()) {
         return;

@@ -6,24 +6,24 @@
 #include <functional>
 #include <map>
 
+#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "ui/binder.h"
 
 namespace tarvel::ui {
 
-/// A window of the program. It is made once and then shown and hidden as the register says; what closing it means is
-/// for the logic to decide.
+class Fensterverwaltung;
+
+/// A window of the program, with its title. It is made once and then shown and hidden as the register says; what
+/// closing it means is for its logic to decide.
 class Fenster : public QWidget {
 public:
-    Fenster(const QString& name, Bildtakt& takt, QWidget* eltern);
+    Fenster(fensterlogik& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
-    std::function<void()> bei_schliessen;
+    fenstername kennung() const { return logik_.kennung(); }
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
-    /// The Escape key closes the window, unless an open choice takes the key.
-    void escape_schliesst() {
-        bei_escape = [this] { close(); };
-    }
+    /// The Escape key, unless an open choice takes it; closes the window if its logic wants that.
     std::function<void()> bei_escape;
     /// The window has come to the front.
     std::function<void()> bei_aktivierung;
@@ -36,6 +36,7 @@ protected:
     void zentrieren();
 
 private:
+    fensterlogik& logik_;
     Binder binder_;
 };
 
@@ -43,10 +44,11 @@ private:
 class Fensterverwaltung final : public QObject, public fensteranzeige {
 public:
     explicit Fensterverwaltung(Bildtakt& takt) : takt_(takt) {}
-    void aufnehmen(const std::string& name, Fenster* fenster) { fenster_[name] = fenster; }
+    Bildtakt& takt() { return takt_; }
+    void aufnehmen(Fenster& fenster) { fenster_[fenster.kennung()] = &fenster; }
 
-    void zeigen(const std::string& name, anzeige_art art) override;
-    void verbergen(const std::string& name) override;
+    void zeigen(fenstername name, anzeige_art art) override;
+    void verbergen(fenstername name) override;
     /// A key that is held presses no button again: it was meant for what lay in front of that button. And the second
     /// half of a double click must not hit what lay behind the window that the first half closed.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
@@ -55,7 +57,7 @@ private:
     Bildtakt& takt_;
     QElapsedTimer seit_druck_;  ///< of a mouse button
     QPointer<QWidget> druck_fenster_;
-    std::map<std::string, Fenster*> fenster_;
+    std::map<fenstername, Fenster*> fenster_;
 };
 
 }  // namespace tarvel::ui

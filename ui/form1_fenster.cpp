@@ -30,9 +30,8 @@ void tabfolge(const std::vector<QWidget*>& folge) {
 
 }  // namespace
 
-Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt)
-    : Fenster("Form1", takt, nullptr), logik_(logik), ablage_(ablage) {
-    setWindowTitle("Tarvel");
+Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltung& verwaltung)
+    : Fenster(logik, verwaltung, nullptr), logik_(logik), ablage_(ablage) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(0);

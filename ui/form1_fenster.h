@@ -10,7 +10,7 @@ namespace tarvel::ui {
 /// The main window.
 class Form1Fenster : public Fenster {
 public:
-    Form1Fenster(form1& logik, const dateien& ablage, Bildtakt& takt);
+    Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltung& verwaltung);
 
 private:
     QWidget* wartehinweis();

@@ -28,11 +28,10 @@ private:
 
 }  // namespace
 
-Form2Fenster::Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Bildtakt& takt,
-                           QWidget* bahn)
-    : AmpelFenster("Form2", logik.fenster.Nachtabschaltung, {einst, ablage, takt, bahn}), logik_(logik) {
+Form2Fenster::Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage,
+                           Fensterverwaltung& verwaltung, QWidget* bahn)
+    : AmpelFenster(logik, logik.fenster.Nachtabschaltung, {einst, ablage, verwaltung, bahn}), logik_(logik) {
     constexpr int je_reihe = 5;
-    binder().fenstertitel(logik.fenster.titel);
     aufbau()->addStretch();
     aufbau()->addWidget(lampenkasten(logik.fenster.ampelbild, je_reihe, "ampelbild"), 0, Qt::AlignHCenter);
     aufbau()->addWidget(dragbaum(), 0, Qt::AlignHCenter);

@@ -10,7 +10,8 @@ namespace tarvel::ui {
 /// The light that begins a race.
 class Form2Fenster : public AmpelFenster {
 public:
-    Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Bildtakt& takt, QWidget* bahn);
+    Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
+                 QWidget* bahn);
 
     void aufschlagen() override;
 

@@ -8,12 +8,11 @@
 namespace tarvel::ui {
 
 KAmpelFenster::KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
-                             Bildtakt& takt, Bahn1Fenster* bahn)
-    : AmpelFenster("k_ampel", logik.k_nachtabschaltung, {einst, ablage, takt, bahn}),
+                             Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
+    : AmpelFenster(logik, logik.k_nachtabschaltung, {einst, ablage, verwaltung, bahn}),
       logik_(logik),
       bahn_(bahn),
       knopf_(binder().knopf(logik.Command1, "Command1")) {
-    binder().fenstertitel(logik.titel);
     aufbau()->addStretch();
     aufbau()->addWidget(lampenkasten(logik.k_ampelbild, k_ampel::schritte, "k_ampelbild"), 0, Qt::AlignCenter);
     for (std::size_t i = 0; i < logik.Shape1.size(); ++i) {

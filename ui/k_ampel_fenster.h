@@ -12,7 +12,7 @@ namespace tarvel::ui {
 class KAmpelFenster : public AmpelFenster {
 public:
     KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
-                  Bildtakt& takt, Bahn1Fenster* bahn);
+                  Fensterverwaltung& verwaltung, Bahn1Fenster* bahn);
 
     void aufschlagen() override;
 

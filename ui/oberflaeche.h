@@ -28,29 +28,53 @@ public:
     Oberflaeche& operator=(const Oberflaeche&) = delete;
     ~Oberflaeche();
 
-    Bildtakt takt;
-    Fensterverwaltung fenster{takt};
-    UpdateFenster update_form;
-    Form1Fenster form1;
-    Form3Fenster form3;
-    Bahn1Fenster bahn1;
-    Form2Fenster form2;
-    KAmpelFenster k_ampel;
-    AuswertungFenster auswertung;
-    SpeichernFenster rundenspeichern;
-    BestzeitenFenster bestzeiten;
-    TastaturFenster tastatur;
-    CuFenster cu;
-    SpeichernFenster speichern;
-    EinstellungenFenster einstellungen;
-    BestzeitverwaltungFenster bestzeitverwaltung;
-    UartEinstellungenFenster uart_einstellungen;
-    UartProfildateiFenster uart_profildatei;
-    BildwahlFenster bildwahl;
-    SpeichernFenster fahrerspeichern;
-
 private:
     programm& p_;
+
+public:
+    Bildtakt takt;
+    Fensterverwaltung fenster{takt};
+    // A line for each window: here its drawing meets its logic.
+    UpdateFenster update_form{p_.update_form, fenster};
+    Form1Fenster form1{p_.form1, p_.ablage, fenster};
+    Form3Fenster form3{p_.form3, p_.ablage, fenster, &form1};
+    Bahn1Fenster bahn1{p_.rennen, fenster, &form1};
+    Form2Fenster form2{p_.startampel, p_.einst, p_.ablage, fenster, &bahn1};
+    KAmpelFenster k_ampel{p_.k_ampel, p_.rennen.befehle, p_.einst, p_.ablage, fenster, &bahn1};
+    AuswertungFenster auswertung{p_.auswertung, p_.ablage, fenster, &bahn1};
+    SpeichernFenster rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
+    BestzeitenFenster bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
+    TastaturFenster tastatur{p_.tastaturbelegung, fenster, &form1};
+    CuFenster cu{p_.geraete.cu_eigenschaften, fenster, &form1};
+    SpeichernFenster speichern{p_.speichernfenster, fenster, &form1};
+    EinstellungenFenster einstellungen{p_.einstellungsfenster, p_.ablage, fenster, &form1};
+    BestzeitverwaltungFenster bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
+    UartEinstellungenFenster uart_einstellungen{p_.uart_einstellungen, fenster, &einstellungen};
+    UartProfildateiFenster uart_profildatei{p_.uart_profildatei, fenster, &form1};
+    BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
+    SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
+};
+UpdateFenster update_form;
+Form1Fenster form1;
+Form3Fenster form3;
+Bahn1Fenster bahn1;
+Form2Fenster form2;
+KAmpelFenster k_ampel;
+AuswertungFenster auswertung;
+SpeichernFenster rundenspeichern;
+BestzeitenFenster bestzeiten;
+TastaturFenster tastatur;
+CuFenster cu;
+SpeichernFenster speichern;
+EinstellungenFenster einstellungen;
+BestzeitverwaltungFenster bestzeitverwaltung;
+UartEinstellungenFenster uart_einstellungen;
+UartProfildateiFenster uart_profildatei;
+BildwahlFenster bildwahl;
+SpeichernFenster fahrerspeichern;
+
+private:
+programm& p_;
 };
 
 }  // namespace tarvel::ui

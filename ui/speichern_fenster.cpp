@@ -7,8 +7,8 @@
 
 namespace tarvel::ui {
 
-SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name, Bildtakt& takt, QWidget* eltern)
-    : Fenster(name, takt, eltern) {
+SpeichernFenster::SpeichernFenster(speichernfenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);
@@ -16,7 +16,6 @@ SpeichernFenster::SpeichernFenster(speichernfenster& logik, const QString& name,
     auto* kopf_aufbau = new QHBoxLayout(kopf);
     kopf_aufbau->setContentsMargins(0, 0, 0, 0);
     kopf_aufbau->addWidget(binder().label(logik.ueberschrift, "ueberschrift"));
-    binder().fenstertitel(logik.titel);
     QLineEdit* dateiname = binder().zeile(logik.name, "name");
     QListView* liste = binder().listenfeld(logik.dateiliste, "dateiliste");
     QCheckBox* alle = binder().kasten(logik.alle_dateien, "alle_dateien");

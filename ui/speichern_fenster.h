@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window in which a file is chosen.
 class SpeichernFenster : public Fenster {
 public:
-    SpeichernFenster(speichernfenster& logik, const QString& name, Bildtakt& takt, QWidget* eltern);
+    SpeichernFenster(speichernfenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 };
 
 }  // namespace tarvel::ui

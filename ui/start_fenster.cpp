@@ -9,10 +9,9 @@
 
 namespace tarvel::ui {
 
-Form3Fenster::Form3Fenster(form3& logik, const dateien& ablage, Bildtakt& takt, QWidget* eltern)
-    : Fenster("Form3", takt, eltern) {
+Form3Fenster::Form3Fenster(form3& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern) {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    setWindowTitle("Tarvel");
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(0, 0, 0, 12);
     auto* gezeichnet = new Streckenbild;
@@ -34,8 +33,7 @@ Form3Fenster::Form3Fenster(form3& logik, const dateien& ablage, Bildtakt& takt, 
     resize(760, 330);
 }
 
-UpdateFenster::UpdateFenster(update_form& logik, Bildtakt& takt) : Fenster("Update_form", takt, nullptr) {
-    setWindowTitle("Tarvel");
+UpdateFenster::UpdateFenster(update_form& logik, Fensterverwaltung& verwaltung) : Fenster(logik, verwaltung, nullptr) {
     auto* aufbau = new QHBoxLayout(this);
     aufbau->addWidget(binder().label(logik.Label1, "Label1"), 0, Qt::AlignCenter);
     resize(380, 90);

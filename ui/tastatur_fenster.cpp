@@ -10,9 +10,8 @@
 
 namespace tarvel::ui {
 
-TastaturFenster::TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("Tastaturbelegung", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+TastaturFenster::TastaturFenster(tastaturbelegung& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     QLabel* hinweis = binder().label(logik.hinweis, "hinweis");

@@ -10,7 +10,7 @@ namespace tarvel::ui {
 /// The window in which the keys are assigned.
 class TastaturFenster : public Fenster {
 public:
-    TastaturFenster(tastaturbelegung& logik, Bildtakt& takt, QWidget* eltern);
+    TastaturFenster(tastaturbelegung& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
 private:
     QGroupBox* gruppe(int spur);

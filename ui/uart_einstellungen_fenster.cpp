@@ -27,9 +27,9 @@ QHBoxLayout* reihe(Binder& binder, rahmen& element, const QString& name, QGridLa
 
 }  // namespace
 
-UartEinstellungenFenster::UartEinstellungenFenster(uart_einstellungen& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("UART_einstellungen", takt, eltern), logik_(logik) {
-    binder().fenstertitel(logik.titel);
+UartEinstellungenFenster::UartEinstellungenFenster(uart_einstellungen& logik, Fensterverwaltung& verwaltung,
+                                                   QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     auto* mitte = new QHBoxLayout;

@@ -10,7 +10,7 @@ namespace tarvel::ui {
 /// The wizard of the AT-2560: one page after the other, with the log at the side.
 class UartEinstellungenFenster : public Fenster {
 public:
-    UartEinstellungenFenster(uart_einstellungen& logik, Bildtakt& takt, QWidget* eltern);
+    UartEinstellungenFenster(uart_einstellungen& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
 private:
     QWidget* seite(int nummer, const std::function<void(QGridLayout*)>& fuellen);

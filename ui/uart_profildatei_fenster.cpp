@@ -7,9 +7,8 @@
 
 namespace tarvel::ui {
 
-UartProfildateiFenster::UartProfildateiFenster(uart_profildatei& logik, Bildtakt& takt, QWidget* eltern)
-    : Fenster("UART_Profildatei", takt, eltern) {
-    binder().fenstertitel(logik.titel);
+UartProfildateiFenster::UartProfildateiFenster(uart_profildatei& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(10);

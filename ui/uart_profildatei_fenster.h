@@ -8,7 +8,7 @@ namespace tarvel::ui {
 /// The window in which the command file of the AT-2560 is chosen.
 class UartProfildateiFenster : public Fenster {
 public:
-    UartProfildateiFenster(uart_profildatei& logik, Bildtakt& takt, QWidget* eltern);
+    UartProfildateiFenster(uart_profildatei& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 };
 
 }  // namespace tarvel::ui

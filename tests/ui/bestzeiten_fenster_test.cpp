@@ -100,10 +100,10 @@ TEST_F(BestzeitenFenster, SchliessenDerAuswertungFragtWieIhrKnopf) {
     t.starten("Runden", "1", {1});
     t.runde_nach(1000, "1");
     t.runde_nach(8000, "1");
-    ASSERT_TRUE(t.p.fenster.ist_offen("auswertung"));
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     o.takt.ausfuehren();
     o.auswertung.close();
-    EXPECT_TRUE(t.p.fenster.ist_offen("beste_zeiten_fenster"));
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::beste_zeiten_fenster));
 }
 
 }  // namespace

@@ -189,7 +189,7 @@ TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
         for (const QPushButton* knopf : o.form2.findChildren<QPushButton*>()) {
             EXPECT_TRUE(o.form2.rect().contains(knopf->geometry())) << modus;
         }
-        t.p.startampel.fenster_schliessen();
+        t.p.startampel.schliessen();
         o.takt.ausfuehren();
     }
     EXPECT_LT(groessen[4].width(), groessen[2].width());
@@ -199,7 +199,7 @@ TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
 TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
     t.einrichten("Zeit", "1", {1});
     o.bahn1.close();
-    EXPECT_FALSE(t.p.fenster.ist_offen("bahn1"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(500);
     o.bahn1.close();
@@ -214,10 +214,10 @@ TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
     EXPECT_FALSE(o.bahn1.isVisible());
     t.p.form1.command_tasten.klicken();
     o.tastatur.close();
-    EXPECT_FALSE(t.p.fenster.ist_offen("Tastaturbelegung"));
-    t.p.fenster.zeigen("Form3");
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Tastaturbelegung));
+    t.p.fenster.zeigen(fenstername::Form3);
     o.form3.close();
-    EXPECT_FALSE(t.p.fenster.ist_offen("Form3"));
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form3));
     o.form1.close();
     EXPECT_EQ(t.maschine.beendet, 1);
     EXPECT_FALSE(o.form1.isVisible());
@@ -225,7 +225,7 @@ TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
 
 TEST_F(Oberflaeche, JedesFeldHatNamenUndAnsage) {
     for (QWidget* fenster : {static_cast<QWidget*>(&o.form1), static_cast<QWidget*>(&o.tastatur)}) {
-        t.p.fenster.zeigen(fenster->objectName().toStdString());
+        t.p.fenster.zeigen(fenster->kennung());
         for (const QLineEdit* zeile : fenster->findChildren<QLineEdit*>()) {
             if (zeile->window() == fenster && qobject_cast<QComboBox*>(zeile->parentWidget()) == nullptr) {
                 EXPECT_FALSE(zeile->accessibleName().isEmpty()) << zeile->objectName().toStdString();
@@ -348,7 +348,7 @@ TEST_F(Oberflaeche, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
         EXPECT_GE(kuerzel.size(), fenster == &o.form1 ? 10 : 0);
         EXPECT_EQ(kuerzel.removeDuplicates(), 0) << fenster->objectName().toStdString();
     }
-    t.p.fenster.entladen("speichernfenster");
+    t.p.fenster.entladen(fenstername::speichernfenster);
     t.p.form1.Command1.text("R && B");
     o.takt.ausfuehren();
     auto* knopf = finde<QPushButton>(o.form1, "Form1.Command1");
@@ -358,7 +358,8 @@ TEST_F(Oberflaeche, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
     o.form1.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
     QTest::keyClick(&o.form1, knopf->text().at(knopf->text().indexOf('&') + 1).toLower().toLatin1(), Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen("bahn1"); }, 2000)) << "the press is shown first";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen(fenstername::bahn1); }, 2000))
+        << "the press is shown first";
 }
 
 }  // namespace

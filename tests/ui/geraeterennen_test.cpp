@@ -102,7 +102,7 @@ struct Geraeterennen : testing::Test {
         p.form1.Command1.klicken();
         p.rennen.bahn1.Command1.klicken();
         const int laengstens_ms = (dauer_s() + 20) * 1000;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return p.fenster.ist_offen("auswertung"); }, laengstens_ms));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return p.fenster.ist_offen(fenstername::auswertung); }, laengstens_ms));
         EXPECT_TRUE(maschine.meldungen_gezeigt.empty()) << maschine.meldungen_gezeigt.front();
     }
     /// Each lap as the device has seen it, and none that was driven in time is missing.

@@ -42,7 +42,7 @@ protected:
     ui::Oberflaeche o{t.p};
 
     void SetUp() override {
-        t.p.fenster.zeigen("Form1");
+        t.p.fenster.zeigen(fenstername::Form1);
         o.takt.ausfuehren();
     }
 };

@@ -48,7 +48,7 @@ buehne::buehne() : p(mit_daten(t)) {
     p.einst.zielmodus_erster = true;
     p.einst.runde_beenden = false;
     t.mit_bestzeiten = true;
-    p.fenster.zeigen("Form1");
+    p.fenster.zeigen(fenstername::Form1);
 }
 
 /// The club's drivers look like those of a fresh installation.

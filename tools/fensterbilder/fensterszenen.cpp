@@ -55,7 +55,7 @@ const std::vector<szeneneintrag> alle{
      }},
     {"cu_eigenschaften",
      [](buehne& b) -> QWidget& {
-         b.p.fenster.zeigen("cu_eigenschaften");
+         b.p.fenster.zeigen(fenstername::cu_eigenschaften);
          return b.o.cu;
      }},
     {"auswertung",
@@ -149,13 +149,13 @@ const std::vector<szeneneintrag> alle{
      true},
     {"programmstart",
      [](buehne& b) -> QWidget& {
-         b.p.fenster.zeigen("Update_form");
+         b.p.fenster.zeigen(fenstername::Update_form);
          return b.o.update_form;
      },
      true},
     {"version",
      [](buehne& b) -> QWidget& {
-         b.p.fenster.zeigen("Form3");
+         b.p.fenster.zeigen(fenstername::Form3);
          return b.o.form3;
      },
      true},
