@@ -129,6 +129,7 @@ void cu_eigenschaften::laden() {
         cbo_cu_tankgroesse[spur].ansage(Label_tankgroesse.text() + " " + std::to_string(spur));
     }
     Text1.ansage(Label_befehl.text());
+    List1.ansage(Frame_status.text());
     List1.leeren();
     anzeigen_leeren();
     port_belegen(true);

@@ -75,7 +75,9 @@ void rennansicht::ansagen_setzen() {
         ansagen(bahn.straflabel[spur], bahn.wort.strafzeit);
         ansagen(bahn.l_PosAnz.at(index), bahn.Label_platz[spur].text());
         ansagen(bahn.t_liste.at(index), bahn.wort.rundenliste);
+        ansagen(bahn.ch_strafzeit_hacken[spur], bahn.wort.strafzeit);
     }
+    bahn.ch_Text1.ansage(bahn.wort.strafzeit);
 }
 
 sprachliste rennansicht::sprache_r() {

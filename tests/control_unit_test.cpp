@@ -62,6 +62,15 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     status(false, "00>555");
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "0,00");
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[31]});
+    status(false, "70>555");
+    t.bahn().Command2.klicken();
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    status(false, "70>555");
+    ueberfahrt(1, 1000);
+    t.maschine.laufen(8000);
+    ueberfahrt(1, 9000);
+    ASSERT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "30,00") << "a lap burns what the unit says";
 }
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
@@ -84,7 +93,12 @@ TEST_F(ControlUnitRennen, RennfensterRichtetEinUndOhnePortBleibtDieTastatur) {
     EXPECT_EQ(geschrieben("J60980$"), 1);
     EXPECT_EQ(geschrieben("=101$"), 1);
     EXPECT_EQ(geschrieben("J2:1518$"), 1);
+    t.maschine.laufen(1000);
+    const int im_rennen = geschrieben("?");
     t.bahn().Command2.klicken();
+    EXPECT_EQ(geschrieben("=101$"), 2) << "its displays are cleared behind the race";
+    t.maschine.laufen(1000);
+    EXPECT_LT(geschrieben("?") - im_rennen, im_rennen / 10) << "and it is asked but now and then";
     t.maschine.anschluesse.abziehen(com);
     t.starten(t.p.txt.text_runden, "10", {1});
     ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);

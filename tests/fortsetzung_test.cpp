@@ -69,6 +69,7 @@ TEST_F(Fortsetzung, WerAmStartDisqualifiziertWurdeBleibtEs) {
     t.taste("q");  // a car is pushed over the tank and the sector
     t.p.ereignisse.ereignis_melden(erste_zwischenzeit);
     gruen();
+    EXPECT_TRUE(strom(2) && !strom(1)) << "green is for those who still drive";
     EXPECT_FALSE(t.p.ereignisse[erste_zwischenzeit].aktiv || t.p.ereignisse[art::tanken_ein[1]].aktiv);
     EXPECT_TRUE(t.bahn().Nachtabschaltung.sichtbar());
 }

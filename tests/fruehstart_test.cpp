@@ -183,16 +183,31 @@ TEST_F(Fruehstart, EigeneStartzeitBleibtDieDesFruehstarts) {
     EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), t.maschine.jetzt() - 1 - stempel);
 }
 
-TEST_F(Fruehstart, AusgeschlosseneSpurHaeltDasEndeNichtAuf) {
+TEST_F(Fruehstart, AusgeschlosseneSpurBekommtKeinenStromMehrUndHaeltDasEndeNichtAuf) {
     t.p.einst.fruehstart_option = fruehstart_aktion::disqualifikation;
     t.p.einst.zielmodus_erster = false;
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.chaos_strafe_strom = false;
     t.einrichten("Runden", "1", {1, 2});
     t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     starten();
     t.maschine.laufen(4000);
     ampeltaste('2');
     bis_gruen(4002);
-    t.runde_nach(1000, "1");
+    t.runde_nach(3000, "1");
+    t.taste("c");
+    t.bahn().ch_strafzeit_hacken[1].umschalten();
+    t.bahn().ch_strafzeit_hacken[2].umschalten();
+    t.bahn().ch_Text1.eingeben("3");
+    t.maschine.laufen(5000);
+    geraet.befehle.clear();
+    t.taste("c");
+    EXPECT_FALSE(strom(1) || strom(2));
+    t.maschine.laufen(3200);
+    EXPECT_TRUE(strom(1));
+    for (const int alle_oder_zwei : {0, 2}) {  // neither at the end of the pause nor at that of the penalty
+        EXPECT_FALSE(geraet.enthaelt({ausgang::bahnstrom, alle_oder_zwei, true}));
+    }
     t.runde_nach(6000, "1");
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }

@@ -44,6 +44,16 @@ TEST_F(Rundenzaehlung, ZaehltRundenZeitenUndBesteRundeJeSpur) {
     EXPECT_EQ(t.p.rennen.zustand.fuehrungsrunden, 3);
 }
 
+TEST_F(Rundenzaehlung, DieKuerzesteRundeIstDieEingegebeneUndEineZehntelsekunde) {
+    ASSERT_EQ(t.p.form1.wertmin.text(), "5");
+    t.runde_nach(1000, "1");
+    t.runde_nach(5099, "1");
+    EXPECT_EQ(t.spur(1).runden, 0);
+    t.runde_nach(1, "1");
+    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(rundenzeit(1, 1), 5100);
+}
+
 TEST_F(Rundenzaehlung, SperrtHundertMillisekundenNachJederRunde) {
     t.p.param.min_rundenzeit_ms = 10;
     t.runde_nach(1000, "1");

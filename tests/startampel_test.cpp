@@ -131,6 +131,7 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     t.p.einst.fruehstart_option = fruehstart_aktion::zeitstrafe;
     t.p.einst.tank_runden_modus = rundenzaehlung_auf::tanksensor_2;
     t.p.einst.nachtrennen_modus = nachtrennen::rennen_und_ampel;
+    t.p.form1.t_aktiv.umschalten();
     beginnen(1);
     auto& nacht = t.p.startampel.fenster.Nachtabschaltung;
     EXPECT_TRUE(nacht.sichtbar());
@@ -145,11 +146,14 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     EXPECT_TRUE(t.p.ereignisse[16].aktiv);
     t.maschine.laufen(1);
     EXPECT_EQ(t.spur(1).strafzeit, 10s);
-    bis_gruen(3);
-    t.p.ereignisse[29].aktiv = true;
-    t.p.ereignisse[38].aktiv = true;
-    t.maschine.laufen(2000);
-    EXPECT_FALSE(t.p.ereignisse[29].aktiv || t.p.ereignisse[38].aktiv) << "tank events of the start are forgotten";
+    bis_gruen(2 + 2 + 1);
+    t.maschine.laufen(1999);
+    t.p.startampel.taste('w');  // lane 2 comes to its tank contact, lane 3 leaves it, as the light closes
+    t.p.startampel.taste('d');
+    ASSERT_TRUE(t.p.ereignisse[art::tanken_ein[2]].aktiv && t.p.ereignisse[art::tanken_aus[3]].aktiv);
+    t.maschine.laufen(2);
+    EXPECT_FALSE(t.spur(2).tank_kontakt) << "tank events of the start are forgotten";
+    EXPECT_EQ(t.spur(3).runden, -1);
 }
 
 TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {
