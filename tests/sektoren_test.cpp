@@ -72,7 +72,7 @@ TEST_F(Sektoren, PauseGehtVonJedemSektorAbUndDieSummeStimmt) {
     EXPECT_EQ(zeit(2), 2000);
     t.runde_nach(2000, "1");
     EXPECT_EQ(zeit(3), 2000);
-    EXPECT_EQ(zeit(1) + zeit(2) + zeit(3), t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1));
+    EXPECT_EQ(zeit(1) + zeit(2) + zeit(3), t.p.rennen.zustand.konto.rundenzeit(1, 1));
 }
 
 TEST_F(Sektoren, TempoNachLaengeUndMassstab) {
