@@ -8,7 +8,6 @@ namespace tarvel {
 
 void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
     const spuren<spur_zustand> vorher = um_.zustand.spur;
-    const rundenspeicher runden_vorher = um_.zustand.rundenzeiten;
     const auto namen = um_.param.fahrer_name;
     const auto fahrzeuge = um_.param.fahrzeug_name;
     for (const int spur : alle_spuren) {
@@ -24,8 +23,8 @@ void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
         const sensorsperre sperre = zustand.sensor_sperre;  // the sensors stay where they are
         zustand = vorher[von];
         zustand.sensor_sperre = sperre;
-        um_.zustand.rundenzeiten.spur_uebernehmen(spur, runden_vorher, von, std::max(zustand.runden, 0));
     }
+    um_.zustand.konto.fahrer_umsetzen(herkunft);
     t_.sektor.fahrer_umsetzen(herkunft);
     t_.plaetze.fahrer_umsetzen(herkunft);
 }
@@ -90,8 +89,9 @@ void fortsetzung::freie_spuren_abschalten() {
 
 void fortsetzung::standzeit_abziehen(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
-    const zeit_ms letzte_ueberfahrt = um_.zustand.rundenzeiten.stempel(spur, zustand.runden);
-    if (um_.param.spur_aktiv[spur] && zustand.ziel_erreicht && zustand.runden >= 0 && letzte_ueberfahrt != 0) {
+    const rundenkonto& konto = um_.zustand.konto;
+    const zeit_ms letzte_ueberfahrt = konto.stempel(spur, konto.runden(spur));
+    if (um_.param.spur_aktiv[spur] && zustand.ziel_erreicht && letzte_ueberfahrt != 0) {
         zustand.pause_abzug =
             um_.zustand.renn_ende_stempel - letzte_ueberfahrt;  // was home: starts anew with the light
     }
@@ -100,8 +100,7 @@ void fortsetzung::standzeit_abziehen(int spur) {
 void fortsetzung::spur_freigeben(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     const bool rest_zu_verbuessen = zustand.ch_strafe_rest > 0;
-    const bool mitten_in_der_runde = zustand.runden >= 0 && !zustand.ziel_erreicht;
-    zustand.runden_vorher = std::max(zustand.runden, 0) + (mitten_in_der_runde ? 1 : 0);
+    um_.zustand.konto.fortsetzen(spur, !zustand.ziel_erreicht);
     zustand.ziel_erreicht = !um_.param.spur_aktiv[spur];
     zustand.fruehstart_sperre = rest_zu_verbuessen;
     zustand.strom_aus = rest_zu_verbuessen || zustand.disqualifiziert;

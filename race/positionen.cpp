@@ -34,7 +34,7 @@ void positionen::positions_pruefung() {
     for (const int a : alle_spuren) {
         for (const int b : alle_spuren) {
             const bool beide_dabei = um_.param.spur_aktiv[a] && um_.param.spur_aktiv[b];
-            if (beide_dabei && um_.zustand.spur[a].runden > um_.zustand.spur[b].runden &&
+            if (beide_dabei && um_.zustand.konto.runden(a) > um_.zustand.konto.runden(b) &&
                 position_[feld_index(a)] > position_[feld_index(b)]) {
                 positionen_tauschen(feld_index(a), feld_index(b));
             }

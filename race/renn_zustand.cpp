@@ -8,7 +8,7 @@ void renn_zustand::stempel_verschieben(zeit_ms um) {
             stempel += um;
         }
     };
-    rundenzeiten.stempel_verschieben(um);
+    konto.stempel_verschieben(um);
     for (spur_zustand& s : spur) {
         for (zeit_ms* stempel : {&s.start_zeit, &s.tankt_seit, &s.ch_durchfahrt_zeit}) {
             verschieben(*stempel);

@@ -5,7 +5,7 @@
 #include "core/spuren.h"
 #include "platform/dauer.h"
 #include "platform/uhr.h"
-#include "race/rundenspeicher.h"
+#include "race/rundenkonto.h"
 
 namespace tarvel {
 
@@ -13,28 +13,24 @@ namespace tarvel {
 enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
 
 struct spur_zustand {
-    int runden = -1;             ///< laps counted; -1 before the first crossing, which makes it 0
-    int runden_zeile = 0;        ///< always `runden` + 1: the row of the lap store that the next crossing fills
-    int runden_vorher = 0;       ///< laps up to this one were driven, in whole or in part, before the race went on
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
     zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
     dauer_s strafzeit{};         ///< time penalty
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
     bool disqualifiziert = false;
-    bool fruehstart_sperre = false;    ///< serves a penalty and counts nothing
-    double tank_inhalt = 0;            ///< litres
-    bool tank_kontakt = false;         ///< stands on the tank contact
-    zeit_ms tankt_seit = 0;            ///< stamp up to which refuelling has come, 0 while the lane does not refuel
-    dauer_hs tank_wartezaehler{};      ///< of the wait before refuelling
-    dauer_hs tank_strafzaehler{};      ///< of the penalty of an empty tank
-    bool tank_runde_genommen = false;  ///< that penalty holds back a lap
-    bool tank_strafe_aktiv = false;    ///< serves the penalty of an empty tank
-    bool tank_halt = false;            ///< held for a moment after a full tank
-    int sperrzaehler = 0;              ///< ticks by which the lock after a crossing is drawn out on the tank contact
-    bool strom_aus = false;            ///< home, out or in a penalty: the track power is cut
-    bool ch_durchfahrt = false;        ///< crossed the sensor while the pause was starting
-    zeit_ms ch_durchfahrt_zeit = 0;    ///< stamp of that
-    zeit_ms ch_strafe_rest = 0;        ///< power penalty of a pause still to serve
+    bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
+    double tank_inhalt = 0;          ///< litres
+    bool tank_kontakt = false;       ///< stands on the tank contact
+    zeit_ms tankt_seit = 0;          ///< stamp up to which refuelling has come, 0 while the lane does not refuel
+    dauer_hs tank_wartezaehler{};    ///< of the wait before refuelling
+    dauer_hs tank_strafzaehler{};    ///< of the penalty of an empty tank
+    bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
+    bool tank_halt = false;          ///< held for a moment after a full tank
+    int sperrzaehler = 0;            ///< ticks by which the lock after a crossing is drawn out on the tank contact
+    bool strom_aus = false;          ///< home, out or in a penalty: the track power is cut
+    bool ch_durchfahrt = false;      ///< crossed the sensor while the pause was starting
+    zeit_ms ch_durchfahrt_zeit = 0;  ///< stamp of that
+    zeit_ms ch_strafe_rest = 0;      ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 
     /// What the time penalty adds to a lap: as many thousandths as it has seconds. Its seconds are added to the result.
@@ -57,7 +53,7 @@ struct pausen_zustand {
 /// The record of the running race. Reset at each race.
 struct renn_zustand {
     spuren<spur_zustand> spur;
-    rundenspeicher rundenzeiten;
+    rundenkonto konto;  ///< the laps
 
     zeit_ms start_zeit = 0;         ///< stamp of the race start
     zeit_ms pause_abzug = 0;        ///< sum of the pauses; moves the end of the race, not its start

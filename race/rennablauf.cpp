@@ -55,8 +55,7 @@ void rennablauf::rennen_zuruecksetzen() {
         frisch.strafzeit = strafzeit;
         frisch.tank_inhalt = tank_inhalt;
         frisch.ziel_erreicht = !um_.param.spur_aktiv[spur];
-        zustand.rundenzeiten.leeren(spur, 0);
-        zustand.rundenzeiten.beste(spur, 0);
+        zustand.konto.leeren(spur);
     }
     zustand.pause_abzug = 0;
     zustand.fortgesetzt = false;
@@ -167,7 +166,7 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
         if (!um_.einst.start_zeit_sensor || start_zeit == 0) {
             start_zeit = stempel;
         }
-        zustand.rundenzeiten.setzen(spur, 0, 0, start_zeit);
+        zustand.konto.start_stempeln(spur, start_zeit);
     }
     t_.ansicht.freigeben();
 }
@@ -181,16 +180,13 @@ void rennablauf::renntimer_tick() {
         t_.zaehlung.runden_auswerten();
     }
     for (const int spur : alle_spuren) {
-        if (zustand.spur[spur].runden >= 0) {
+        if (zustand.konto.runden(spur) >= 0) {
             um_.bahn.zaehler[spur].schriftfarbe(um_.einst.farben_spur[spur]);
         }
     }
     t_.sektor.sektoren_auswerten();
     t_.sensoren.soundsensoren_pruefen();
     pause.pruefen();
-    for (spur_zustand& spur : zustand.spur) {
-        spur.runden_zeile = spur.runden + 1;
-    }
     if (zustand.rennen_beendet) {
         return;
     }

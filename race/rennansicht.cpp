@@ -289,10 +289,10 @@ void rennansicht::anzeigen_leeren() {
 
 void rennansicht::stand_zeigen() {
     bahn1& bahn = um_.bahn;
-    const rundenspeicher& speicher = um_.zustand.rundenzeiten;
+    const rundenkonto& konto = um_.zustand.konto;
     const auto kurz = [this](zeit_ms zeit) { return zeit_formatieren(zeit, false, um_.einst.trennzeichen); };
     for (const int spur : alle_spuren) {
-        const int runden = um_.zustand.spur[spur].runden;
+        const int runden = konto.runden(spur);
         const bool disqualifiziert = um_.zustand.spur[spur].disqualifiziert;
         if (disqualifiziert) {
             bahn.zaehler[spur].text(disqualifiziert_text);
@@ -311,12 +311,12 @@ void rennansicht::stand_zeigen() {
             zaehler_verkleinern(bahn, spur, 1000);
         }
         if (runden > 0) {
-            bahn.lrunde[spur].text(kurz(speicher.rundenzeit(spur, runden)));
-            bahn.brunde[spur].text(kurz(speicher.beste(spur)));
+            bahn.lrunde[spur].text(kurz(konto.rundenzeit(spur, runden)));
+            bahn.brunde[spur].text(kurz(konto.beste(spur)));
         }
         liste& rundenliste = bahn.t_liste.at(feld_index(spur));
         for (int runde = 0; rundenliste.sichtbar() && runde <= runden; ++runde) {
-            rundenliste.hinzufuegen(" " + std::to_string(runde) + ". " + kurz(speicher.rundenzeit(spur, runde)));
+            rundenliste.hinzufuegen(" " + std::to_string(runde) + ". " + kurz(konto.rundenzeit(spur, runde)));
         }
         rundenliste.markieren(runden);
     }

@@ -32,9 +32,10 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       ansicht(umgebung),
       blinken(umgebung),
       strafen(umgebung, ansicht),
-      tanken(umgebung, strafen),
+      rundenanzeige(umgebung),
+      tanken(umgebung, strafen, rundenanzeige),
       sektoren(umgebung),
-      zaehlung(umgebung, plaetze, ende, tanken, sektoren),
+      zaehlung(umgebung, {plaetze, ende, rundenanzeige, tanken, sektoren}),
       sensoren(umgebung),
       ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, blinken, tanken, sektoren, sensoren}),
       chaos(umgebung, {ablauf, ansicht, strafen}),
@@ -47,9 +48,6 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
         chaos.aufheben();
         zaehlung.runden_auswerten();  // who crossed the line while the pause began
         tanken.beenden();
-    };
-    tanken.rundenzeiten_pruefen = [this](zeit_ms dauer, int zeile, int spur) {
-        zaehlung.rundenzeiten_pruefen(dauer, zeile, spur);
     };
 }
 

@@ -68,6 +68,7 @@ struct rennen {
     rennansicht ansicht;
     tarvel::blinken blinken;
     tarvel::strafen strafen;
+    tarvel::rundenanzeige rundenanzeige;
     tarvel::tanken tanken;
     tarvel::sektoren sektoren;
     rundenzaehlung zaehlung;

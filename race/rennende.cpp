@@ -27,7 +27,7 @@ void rennende::zuruecksetzen() {
 }
 
 bool rennende::am_ziel(int spur) const {
-    return um_.zustand.spur[spur].runden == um_.param.renn_ziel && um_.param.spur_aktiv_gemerkt[spur];
+    return um_.zustand.konto.runden(spur) == um_.param.renn_ziel && um_.param.spur_aktiv_gemerkt[spur];
 }
 
 void rennende::pruefen() {
@@ -64,7 +64,7 @@ bool rennende::alle_fertig() const {
 
 bool rennende::ist_zu_ende() const {
     const renn_zustand& zustand = um_.zustand;
-    if (alle_fertig() || eine_spur([&](int spur) { return zustand.spur[spur].runden == runden_max; })) {
+    if (alle_fertig() || eine_spur([&](int spur) { return zustand.konto.runden(spur) == runden_max; })) {
         return true;
     }
     if (um_.ist_zeitrennen()) {
@@ -102,7 +102,7 @@ void rennende::nachlauf_zeit_starten() {
 
 void rennende::nachlauf_runden_starten() {
     for (const int spur : alle_spuren) {
-        if (um_.zustand.spur[spur].runden == um_.param.renn_ziel && !um_.zustand.spur[spur].ziel_erreicht) {
+        if (um_.zustand.konto.runden(spur) == um_.param.renn_ziel && !um_.zustand.spur[spur].ziel_erreicht) {
             spur_ziel_setzen(spur);
         }
     }

@@ -30,7 +30,6 @@ void rundenspeicher::spur_uebernehmen(int spur, const rundenspeicher& quelle, in
                quelle.pause(quellspur, zeile));
     }
     leeren(spur, letzte + 1);
-    beste(spur, quelle.beste(quellspur));
 }
 
 void rundenspeicher::stempel_verschieben(zeit_ms um) {

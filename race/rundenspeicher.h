@@ -27,15 +27,11 @@ public:
     /// Takes lap `zeile` of 1 to `letzte` off as a false crossing: its time goes to the row before, which closes with
     /// the later stamp, and the rows behind move up.
     void zeile_verschmelzen(int spur, int zeile, int letzte);
-    /// Rows 0 to `letzte` and the best lap of a lane of another store.
+    /// Rows 0 to `letzte` of a lane of another store.
     void spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte);
 
     /// All stamps move by `um` ms.
     void stempel_verschieben(zeit_ms um);
-
-    /// Best lap in ms, 0 until there is one.
-    zeit_ms beste(int spur) const { return beste_[spur]; }
-    void beste(int spur, zeit_ms zeit) { beste_[spur] = zeit; }
 
 private:
     static constexpr int zeilen_anzahl = runden_max + 2;
@@ -50,7 +46,6 @@ private:
     const eintrag& an(int zeile) const { return zeilen_[static_cast<std::size_t>(zeile)]; }
 
     std::vector<eintrag> zeilen_;
-    spuren<zeit_ms> beste_;
 };
 
 }  // namespace tarvel

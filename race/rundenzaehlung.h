@@ -2,6 +2,7 @@
 
 #include "race/positionen.h"
 #include "race/rennende.h"
+#include "race/rundenanzeige.h"
 #include "race/sektoren.h"
 #include "race/tanken.h"
 #include "race/umgebung.h"
@@ -12,18 +13,21 @@ namespace tarvel {
 /// crossing that breaks a rule vanishes silently.
 class rundenzaehlung {
 public:
-    rundenzaehlung(const renn_umgebung& um, positionen& plaetze, rennende& ende, tanken& t, sektoren& s)
-        : um_(um), plaetze_(plaetze), ende_(ende), tanken_(t), sektoren_(s) {}
+    struct teile {
+        positionen& plaetze;
+        rennende& ende;
+        rundenanzeige& anzeige;
+        tanken& tank;
+        sektoren& sektor;
+    };
+
+    rundenzaehlung(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {}
 
     /// One lap step over all lanes, once per race tick.
     void runden_auswerten();
-    /// Best lap, displays and lap list of a lane after a counted crossing; `zeile` is one row ahead of the lap just
-    /// stored.
-    void rundenzeiten_pruefen(zeit_ms zeit, int zeile, int spur);
-    /// Takes one lap off by hand, with its row of the lap store. False for a disqualified lane. A lane with 0 laps
-    /// stays at 0, while one before its first crossing goes further below.
+    /// Takes one lap off by hand. False for a disqualified lane.
     bool runde_abziehen(int spur);
-    /// Holds the counters at their upper limit and shows them, after a key.
+    /// Shows the counters, after a key.
     void zaehler_nachfuehren();
 
 private:
@@ -34,10 +38,7 @@ private:
     void zaehler_zeigen(int spur);
 
     renn_umgebung um_;
-    positionen& plaetze_;
-    rennende& ende_;
-    tanken& tanken_;
-    sektoren& sektoren_;
+    teile t_;
 };
 
 }  // namespace tarvel

@@ -81,11 +81,11 @@ void sektoren::sektoren_auswerten() {
 
 void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    const int zeile = zustand.runden_zeile;
+    const int zeile = um_.zustand.konto.laufende(spur);
     if (zeile <= 0) {
         return;  // has not crossed the line yet
     }
-    zeit_ms basis = um_.zustand.rundenzeiten.stempel(spur, zeile - 1);
+    zeit_ms basis = um_.zustand.konto.stempel(spur, zeile - 1);
     if (sektor == 2) {
         basis += sektorzeit(spur, 1, zeile);
     }
@@ -141,8 +141,8 @@ void sektoren::letzten_sektor_speichern(int spur, int zeile, zeit_ms stempel, ze
         return;
     }
     const zeit_ms bisher = sektorzeit(spur, 1, zeile) + sektorzeit(spur, 2, zeile);
-    const zeit_ms zeit = stempel - um_.zustand.rundenzeiten.stempel(spur, zeile - 1) - bisher - pause +
-                         um_.zustand.spur[spur].strafzuschlag();
+    const zeit_ms zeit =
+        stempel - um_.zustand.konto.stempel(spur, zeile - 1) - bisher - pause + um_.zustand.spur[spur].strafzuschlag();
     sektorzeit(spur, um_.einst.sektor_an[3] ? 3 : 2, zeile, zeit);
 }
 

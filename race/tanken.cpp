@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <utility>
 
 #include "core/text.h"
 #include "core/zeit.h"
@@ -34,7 +33,7 @@ double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit) {
     return runden_auf(std::min(std::max(je_zeit, mindestens), hoechstens) + rest, 100);
 }
 
-tanken::tanken(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {
+tanken::tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige) : um_(um), strafen_(s), anzeige_(anzeige) {
     for (const int spur : alle_spuren) {
         um_.zeitgeber.tanktimer[spur]->bei_tick = [this, spur] { tanktimer_tick(spur); };
         um_.zeitgeber.wartetimer[spur]->bei_tick = [this, spur] { wartetimer_tick(spur); };
@@ -233,22 +232,16 @@ void tanken::warnen(int spur, double stand) {
     }
 }
 
-bool tanken::runde_nehmen(int spur) {
-    spur_zustand& zustand = um_.zustand.spur[spur];
-    if (zustand.runden <= 0) {
-        return false;
-    }
-    zustand.pause_abzug += um_.zustand.rundenzeiten.pause(spur, zustand.runden);
-    --zustand.runden;
-    --zustand.runden_zeile;
-    zustand.runden_vorher = std::min(zustand.runden_vorher, zustand.runden + 1);
+void tanken::runde_genommen(int spur, zeit_ms pause) {
+    um_.zustand.spur[spur].pause_abzug += pause;
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
-    um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
-    return true;
+    um_.bahn.zaehler[spur].text(std::to_string(um_.zustand.konto.runden(spur)));
 }
 
 void tanken::leer(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
+    rundenkonto& konto = um_.zustand.konto;
+    const bool mit_runde = konto.runden(spur) > 0;
     um_.sounds.spielen(sound::tank_leer + spur);
     tankfarbe(spur, um_.einst.farben_schrift[2]);
     switch (um_.einst.tank_straf_option) {
@@ -262,11 +255,15 @@ void tanken::leer(int spur) {
             um_.sounds.spielen(sound::disqualifiziert + spur);
             break;
         case leer_aktion::runde_weg:
-            runde_nehmen(spur);
+            if (mit_runde) {
+                runde_genommen(spur, konto.abziehen(spur));
+            }
             break;
         case leer_aktion::stromunterbrechung:
             zustand.tank_strafzaehler = {};
-            zustand.tank_runde_genommen = runde_nehmen(spur) || zustand.tank_runde_genommen;
+            if (mit_runde) {
+                runde_genommen(spur, konto.zurueckhalten(spur));
+            }
             strafen_.spur_strom_aus(spur);
             um_.zeitgeber.t_straftimer[spur]->an();
             zustand.tank_strafe_aktiv = true;
@@ -284,26 +281,21 @@ void tanken::beenden() {
         um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
         zustand.tank_strafe_aktiv = false;
-        if (std::exchange(zustand.tank_runde_genommen, false)) {
-            zustand.ziel_erreicht = strafe_auf_letzte_runde(spur) || zustand.ziel_erreicht;
-            ++zustand.runden;
-            ++zustand.runden_zeile;
-            um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
+        if (um_.zustand.konto.haelt_zurueck(spur)) {
+            zustand.ziel_erreicht = letzte_runde(spur) || zustand.ziel_erreicht;
+            runde_zurueckgeben(spur);
         }
     }
 }
 
-bool tanken::strafe_auf_letzte_runde(int spur) {
-    const spur_zustand& zustand = um_.zustand.spur[spur];
-    if (!um_.ist_rundenrennen() || zustand.runden != um_.param.renn_ziel - 1) {
-        return false;  // the penalty has cost its time on the track
-    }
-    rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    const zeit_ms verloren = dauer_ms(um_.einst.tank_strafzeit).count();
-    const int zeile = zustand.runden_zeile;
-    speicher.setzen(spur, zeile, speicher.rundenzeit(spur, zeile) + verloren, speicher.stempel(spur, zeile) + verloren,
-                    speicher.pause(spur, zeile));
-    return true;
+bool tanken::letzte_runde(int spur) const {
+    return um_.ist_rundenrennen() && um_.zustand.konto.laufende(spur) == um_.param.renn_ziel;
+}
+
+void tanken::runde_zurueckgeben(int spur) {
+    rundenkonto& konto = um_.zustand.konto;
+    konto.zurueckgeben(spur, letzte_runde(spur) ? dauer_ms(um_.einst.tank_strafzeit).count() : 0);
+    um_.bahn.zaehler[spur].text(std::to_string(konto.runden(spur)));
 }
 
 void tanken::tanktimer_tick(int spur) {
@@ -330,19 +322,16 @@ void tanken::t_straftimer_tick(int spur) {
     strafen_.spur_strom_an(spur);
     zustand.tank_strafe_aktiv = false;
     zustand.tank_strafzaehler = {};
-    if (!std::exchange(zustand.tank_runde_genommen, false)) {  // the tank was empty before the first lap
+    const rundenkonto& konto = um_.zustand.konto;
+    if (!konto.haelt_zurueck(spur)) {  // the tank was empty before the first lap
         return;
     }
-    rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    strafe_auf_letzte_runde(spur);
-    const zeit_ms in_der_runde = speicher.pause(spur, zustand.runden_zeile);
-    ++zustand.runden;
-    ++zustand.runden_zeile;
-    um_.bahn.zaehler[spur].text(std::to_string(zustand.runden));
-    const zeit_ms zeit = um_.ereignisse.messzeit - speicher.stempel(spur, zustand.runden_zeile - 2) +
-                         zustand.strafzuschlag() - zustand.pause_abzug;
-    zustand.pause_abzug = std::max<zeit_ms>(zustand.pause_abzug - in_der_runde, 0);
-    rundenzeiten_pruefen(zeit, zustand.runden_zeile, spur);
+    runde_zurueckgeben(spur);
+    const int runde = konto.runden(spur);
+    const zeit_ms zeit =
+        um_.ereignisse.messzeit - konto.stempel(spur, runde - 1) + zustand.strafzuschlag() - zustand.pause_abzug;
+    zustand.pause_abzug = std::max<zeit_ms>(zustand.pause_abzug - konto.pause(spur, runde), 0);
+    anzeige_.runde_melden(spur, zeit);
 }
 
 }  // namespace tarvel

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <functional>
-
+#include "race/rundenanzeige.h"
 #include "race/strafen.h"
 #include "race/umgebung.h"
 
@@ -10,10 +9,7 @@ namespace tarvel {
 /// The fuel simulation: laps burn, standing on a tank contact refuels, an empty tank is punished.
 class tanken {
 public:
-    tanken(const renn_umgebung& um, strafen& s);
-
-    /// Called where a lap that a penalty had taken comes back: `zeit` in ms, `zeile` one ahead of the lap.
-    std::function<void(zeit_ms zeit, int zeile, int spur)> rundenzeiten_pruefen;
+    tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige);
 
     /// Full tanks and their displays, for a new race.
     void zuruecksetzen();
@@ -39,20 +35,24 @@ private:
     void voll(int spur);
     void warnen(int spur, double stand);
     void leer(int spur);
-    /// False for a lane that has no lap to take.
-    bool runde_nehmen(int spur);
+    /// A lap of the lane is gone; `pause` of it comes off the lap that takes it in.
+    void runde_genommen(int spur, zeit_ms pause);
+    /// A lap that is held back counts again.
+    void runde_zurueckgeben(int spur);
     void fuellstand_zeigen(int spur);
     void tankfarbe(int spur, farbe neu);
 
     void tanktimer_tick(int spur);
     void tankwartetimer_tick(int spur);
     void wartetimer_tick(int spur);
-    /// What an empty tank costs on the last lap, where nothing is left to drive; false for any other lap.
-    bool strafe_auf_letzte_runde(int spur);
+    /// The lap that is held back would be the last, with nothing left to drive: the penalty comes on top of it. For any
+    /// other lap it has cost its time on the track.
+    bool letzte_runde(int spur) const;
     void t_straftimer_tick(int spur);
 
     renn_umgebung um_;
     strafen& strafen_;
+    rundenanzeige& anzeige_;
 };
 
 /// Litres that a lap of `zeit` ms burns; `rundenzeit` is the nominal lap. The thousandths of the lap add up to one

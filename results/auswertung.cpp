@@ -217,7 +217,7 @@ void auswertung::bilder_anzeigen(int spur) {
 }
 
 void auswertung::rundenliste_schreiben(int spur) {
-    for (int runde = 1; runde <= um_.zustand.spur[spur].runden; ++runde) {
+    for (int runde = 1; runde <= um_.zustand.konto.runden(spur); ++runde) {
         liste.at(feld_index(spur)).hinzufuegen(rundenzeile(spur, runde));
     }
 }
@@ -229,8 +229,7 @@ std::string auswertung::rundenzeile(int spur, int runde) const {
     const auto zeit_text = [this](zeit_ms zeit, bool lang) {
         return zeit_formatieren(zeit, lang, um_.einst.trennzeichen);
     };
-    std::string zeile =
-        std::to_string(runde) + ".  " + zeit_text(um_.zustand.rundenzeiten.rundenzeit(spur, runde), true);
+    std::string zeile = std::to_string(runde) + ".  " + zeit_text(um_.zustand.konto.rundenzeit(spur, runde), true);
     for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
         if (!um_.einst.sektor_an.at(static_cast<std::size_t>(sektor))) {
             continue;
@@ -249,15 +248,14 @@ std::string auswertung::rundenzeile(int spur, int runde) const {
 void auswertung::nachzaehlen() {
     spuren<int> vorher;
     for (const int spur : alle_spuren) {
-        vorher[spur] = um_.zustand.spur[spur].runden;
+        vorher[spur] = um_.zustand.konto.runden(spur);
     }
     um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
     r_.zaehlung.runden_auswerten();
     bool gezaehlt = false;
     for (const int spur : alle_spuren) {
-        spur_zustand& zustand = um_.zustand.spur[spur];
-        if (zustand.runden > vorher[spur]) {
-            zustand.ziel_erreicht = true;  // the lap that the end has cut short, and no further one
+        if (um_.zustand.konto.runden(spur) > vorher[spur]) {
+            um_.zustand.spur[spur].ziel_erreicht = true;  // the lap that the end has cut short, and no further one
             gezaehlt = true;
         }
     }

@@ -5,14 +5,13 @@
 namespace tarvel {
 
 zeit_ms auswertung::beste_auf_der_spur(int spur) const {
-    const spur_zustand& zustand = um_.zustand.spur[spur];
-    const rundenspeicher& speicher = um_.zustand.rundenzeiten;
-    if (zustand.runden_vorher == 0) {
-        return speicher.beste(spur);
+    const rundenkonto& konto = um_.zustand.konto;
+    if (konto.vor_fortsetzung(spur) == 0) {
+        return konto.beste(spur);
     }
     zeit_ms beste = 0;  // of a continued race only the laps that were driven on this lane from line to line
-    for (int runde = zustand.runden_vorher + 1; runde <= zustand.runden; ++runde) {
-        const zeit_ms zeit = speicher.rundenzeit(spur, runde);
+    for (int runde = konto.vor_fortsetzung(spur) + 1; runde <= konto.runden(spur); ++runde) {
+        const zeit_ms zeit = konto.rundenzeit(spur, runde);
         if (zeit > 0 && (beste == 0 || zeit < beste)) {
             beste = zeit;
         }
@@ -48,14 +47,14 @@ void auswertung::bestzeiten_vor(aktion danach) {
 void auswertung::bestzeiten_oeffnen(aktion danach) {
     spuren<spur_angebot> angebote;
     for (const int spur : alle_spuren) {
-        const spur_zustand& zustand = um_.zustand.spur[spur];
+        const rundenkonto& konto = um_.zustand.konto;
         spur_angebot& angebot = angebote[spur];
         angebot.aktiv = um_.param.spur_aktiv[spur];
         angebot.fahrer = um_.param.fahrer_name[spur];
         angebot.fahrzeug = um_.param.fahrzeug_name[spur];
         angebot.beste = angebot.aktiv ? beste_auf_der_spur(spur) : 0;
-        for (int runde = zustand.runden_vorher + 1; runde <= zustand.runden; ++runde) {
-            angebot.runden.push_back(um_.zustand.rundenzeiten.rundenzeit(spur, runde));
+        for (int runde = konto.vor_fortsetzung(spur) + 1; runde <= konto.runden(spur); ++runde) {
+            angebot.runden.push_back(konto.rundenzeit(spur, runde));
         }
     }
     aktion_nach_bestzeiten_ = danach;

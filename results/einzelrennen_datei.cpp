@@ -82,8 +82,8 @@ private:
                 zeile += trenner_ + feld;
             }
             zeile += trenner_;
-            for (int runde = 0; runde <= q_.um.zustand.spur[spur].runden; ++runde) {
-                zeile += zeit(q_.um.zustand.rundenzeiten.rundenzeit(spur, runde)) + trenner_;
+            for (int runde = 0; runde <= q_.um.zustand.konto.runden(spur); ++runde) {
+                zeile += zeit(q_.um.zustand.konto.rundenzeit(spur, runde)) + trenner_;
             }
             aus_.push_back(std::move(zeile));
         });
@@ -121,10 +121,10 @@ private:
     }
 
     void rundenzeiten() {
-        const auto& spuren = q_.um.zustand.spur;
-        const int meiste = std::max_element(spuren.begin(), spuren.end(), [](const auto& a, const auto& b) {
-                               return a.runden < b.runden;
-                           })->runden;
+        int meiste = -1;
+        for (const int spur : alle_spuren) {
+            meiste = std::max(meiste, q_.um.zustand.konto.runden(spur));
+        }
         for (int runde = 0; runde <= meiste; ++runde) {
             block_zeile([&](int spur) { return rundenblock(spur, runde); });
         }
@@ -132,10 +132,10 @@ private:
 
     feldblock rundenblock(int spur, int runde) const {
         feldblock block;
-        if (runde > q_.um.zustand.spur[spur].runden) {
+        if (runde > q_.um.zustand.konto.runden(spur)) {
             return block;
         }
-        block[0] = zeit(q_.um.zustand.rundenzeiten.rundenzeit(spur, runde));
+        block[0] = zeit(q_.um.zustand.konto.rundenzeit(spur, runde));
         for (int sektor = 1; runde > 0 && sektor <= sektoren_max; ++sektor) {
             const zeit_ms dauer = q_.sektor.sektorzeit(spur, sektor, runde);
             if (einst().sektor_an.at(static_cast<std::size_t>(sektor)) && dauer != 0) {

@@ -12,12 +12,12 @@ constexpr zeit_ms zuschlag_prozent = 150;
 constexpr std::size_t aussagekraeftig = 3;  // laps from which a lane knows what is usual for it
 
 std::vector<verlaufsrunde> runden_lesen(const renn_zustand& zustand, int spur) {
-    const int anzahl = std::min(zustand.spur[spur].runden, runden_max);
+    const int anzahl = zustand.konto.runden(spur);
     std::vector<verlaufsrunde> runden;
     for (int runde = 1; runde <= anzahl; ++runde) {
-        const zeit_ms zeit = zustand.rundenzeiten.rundenzeit(spur, runde);
+        const zeit_ms zeit = zustand.konto.rundenzeit(spur, runde);
         if (zeit > 0) {
-            runden.push_back({runde, zeit, zustand.rundenzeiten.pause(spur, runde)});
+            runden.push_back({runde, zeit, zustand.konto.pause(spur, runde)});
         }
     }
     return runden;
@@ -46,7 +46,7 @@ rundenverlauf rundenverlauf_bilden(const renn_zustand& zustand, const renn_param
         }
         // a lap that was taken off may have been the best: then the record's best is none of these
         const auto beste = std::find_if(lauf.runden.begin(), lauf.runden.end(), [&](const verlaufsrunde& runde) {
-            return runde.zeit == zustand.rundenzeiten.beste(spur);
+            return runde.zeit == zustand.konto.beste(spur);
         });
         lauf.beste = beste == lauf.runden.end() ? 0 : beste->runde;
         verlauf.push_back(std::move(lauf));

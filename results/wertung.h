@@ -40,7 +40,7 @@ public:
     zeit_ms gesamtzeit(int spur) const { return werte_[spur].gesamtzeit; }
     /// Total time behind the leader's; below 0 for a lane that has the lower time in fewer laps.
     zeit_ms abstand(int spur) const { return gesamtzeit(spur) - gesamtzeit(fuehrende_spur_); }
-    zeit_ms beste_runde(int spur) const { return um_.zustand.rundenzeiten.beste(spur); }
+    zeit_ms beste_runde(int spur) const { return um_.zustand.konto.beste(spur); }
     double meter(int spur) const { return stand_[spur].meter(); }
     double restmeter(int spur) const { return stand_[spur].restmeter; }
     /// Two decimals behind `komma`: "23,40" in windows, "23.40" in files.
@@ -54,8 +54,6 @@ private:
 
         double meter() const { return std::accumulate(runden.begin(), runden.end(), restmeter); }
     };
-
-    void beste_runde_suchen(int spur);
 
     const renn_umgebung& um_;
     sektoren& sektoren_;

@@ -86,9 +86,7 @@ void fruehstart::je_frueher_spur(Tat tat) {
 }
 
 void fruehstart::ueberfahrt_zaehlen(int spur) {
-    spur_zustand& zustand = um_.zustand.spur[spur];
-    ++zustand.runden;
-    ++zustand.runden_zeile;
+    um_.zustand.konto.zaehlen(spur, 0, 0, 0);
 }
 
 void fruehstart::fruehstart_ohne() {

@@ -37,6 +37,7 @@ private:
     bool fruehstart_erkennen();
     void fruehstart_behandeln();
     void melden(int spur);
+    /// The green to come gives the crossing its stamp.
     void ueberfahrt_zaehlen(int spur);
     template <class Tat>
     void je_frueher_spur(Tat tat);

@@ -16,7 +16,7 @@ namespace {
 
 class At2560 : public testing::Test {
 protected:
-    zeit_ms rundenzeit(int spur, int runde) const { return a.t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
+    zeit_ms rundenzeit(int spur, int runde) const { return a.t.p.rennen.zustand.konto.rundenzeit(spur, runde); }
     zeit_ms jetzt() const { return a.t.maschine.jetzt(); }
 
     test::at2560_aufbau a;

@@ -97,7 +97,7 @@ TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
     a.Command1.klicken();
     EXPECT_FALSE(offen(fenstername::auswertung));
     EXPECT_TRUE(offen(fenstername::bahn1));
-    EXPECT_EQ(t.spur(1).runden, -1);
+    EXPECT_EQ(t.runden(1), -1);
     EXPECT_EQ(namen(), vorher);
     EXPECT_TRUE(t.bahn().Command1.aktiviert());
     t.bahn().Command1.klicken();
@@ -133,13 +133,13 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     t.taste("1");  // pushed over the line before green
     t.taste("c");
     gruen();
-    EXPECT_EQ(t.spur(1).runden, 2);
+    EXPECT_EQ(t.runden(1), 2);
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     // lane 1: Fahrer 2, 4 s into his third lap when the race ended; lane 2: Fahrer 1, was home, starts anew
     t.runde_nach(4000, "1");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 3), 4000 + 4000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 3), 4000 + 4000);
     t.runde_nach(1500, "2");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 4), 5499 + 5)
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 4), 5499 + 5)
         << "five seconds of penalty lengthen each lap, and a key has the stamp of the tick before";
     t.runde_nach(6000, "2");
     t.runde_nach(6000, "2");
@@ -159,7 +159,7 @@ TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
     EXPECT_EQ(a.neues_ziel.text(), "2");
     a.neues_ziel.eingeben("1,30");
     a.spurwechsel.umschalten();
-    const zeit_ms letzte = t.p.rennen.zustand.rundenzeiten.stempel(1, 3);
+    const zeit_ms letzte = t.p.rennen.zustand.konto.stempel(1, 3);
     const zeit_ms rest_der_runde = t.p.rennen.zustand.renn_ende_stempel - letzte;
     a.Command3.klicken();
     EXPECT_EQ(t.bahn().namenslabel[1].text(), "Fahrer 1");
@@ -168,7 +168,7 @@ TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
     t.maschine.laufen(500000);
     gruen();
     t.runde_nach(10000, "1");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 4), rest_der_runde + 9999);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 4), rest_der_runde + 9999);
     EXPECT_EQ(t.bahn().uhr1.sekunden.text() + t.bahn().uhr1.tausendstel.text(), "20000");
     t.maschine.laufen(19999);
     EXPECT_FALSE(offen(fenstername::auswertung));

@@ -91,16 +91,16 @@ TEST_F(Chaos, UeberfahrtBeimAnhaltenZaehltNachDerPauseMitIhrerZeit) {
     t.maschine.laufen(1000);
     t.taste("2");  // too late: the window has closed
     t.maschine.laufen(20000);
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
     t.taste("c");
     ASSERT_FALSE(pause());
     const zeit_ms weiter = t.maschine.jetzt();
     t.maschine.laufen(400);
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
     t.maschine.laufen(110);
-    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(t.runden(1), 1);
     EXPECT_NEAR(static_cast<double>(rundenzeit(1, 1)), 7000 + 1 + 1233 + 1, 1);
-    EXPECT_EQ(t.spur(2).runden, 0);
+    EXPECT_EQ(t.runden(2), 0);
     EXPECT_EQ(t.spur(1).pause_abzug, 0);
     EXPECT_GT(t.spur(2).pause_abzug, 20000);
     EXPECT_GT(weiter, ueberfahrt);
@@ -117,7 +117,7 @@ TEST_F(Chaos, OhneSammelfensterGehtDieUeberfahrtVerloren) {
     t.taste("c");
     t.maschine.laufen(1000);
     EXPECT_FALSE(pause());
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
 }
 
 TEST_F(Chaos, SchalterHaeltDiePauseSolangeErAnIst) {
@@ -174,7 +174,7 @@ TEST_F(Chaos, StrafeNachZeitOderStrom) {
         t.taste("c");
         EXPECT_EQ(strom(2), zeit) << "the pause does not give the power back";
         t.taste("2");
-        EXPECT_EQ(t.spur(2).runden, zeit ? 1 : 0);
+        EXPECT_EQ(t.runden(2), zeit ? 1 : 0);
         t.maschine.laufen(3000);
         EXPECT_EQ(strom(2), zeit);
         t.maschine.laufen(120);
@@ -262,12 +262,12 @@ TEST_F(Chaos, RennendeInDerTankstrafeGibtDieRundeZurueck) {
     fahren();
     t.spur(1).tank_inhalt = 1;
     t.runde_nach(8000, "1");
-    ASSERT_EQ(t.spur(1).runden, 0);
+    ASSERT_EQ(t.runden(1), 0);
     t.bahn().Command4.klicken();
     EXPECT_EQ(t.p.auswertung.runden_aus[0].text(), "1");
     t.maschine.sounds.clear();
     t.maschine.laufen(60000);
-    EXPECT_EQ(t.spur(1).runden, 1) << "nothing changes behind the result";
+    EXPECT_EQ(t.runden(1), 1) << "nothing changes behind the result";
     EXPECT_TRUE(t.maschine.sounds.empty());
 }
 

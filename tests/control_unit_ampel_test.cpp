@@ -111,7 +111,7 @@ TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
     EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
     t.maschine.laufen(3000 - 3);
     ueberfahrt(1, 28000);
-    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1)), 7000, 10);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 1)), 7000, 10);
     EXPECT_EQ(geschrieben("T2P$"), 0);
 }
 
@@ -154,7 +154,7 @@ TEST_F(ControlUnitRennen, EinGeraetOhneStromUeberlaesstPauseUndAmpelDemProgramm)
     t.starten(t.p.txt.text_runden, "10", {1});
     t.maschine.laufen(5000);
     t.taste("1");
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
 }
 
 TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
@@ -186,7 +186,7 @@ TEST_F(ControlUnitRennen, InDerPauseAbgezogenGehtEsMitDerTastaturWeiter) {
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     t.maschine.laufen(10000);
     t.taste("1");
-    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(t.runden(1), 1);
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 

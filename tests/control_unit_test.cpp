@@ -29,20 +29,20 @@ TEST_F(ControlUnitRennen, DieErsteUeberfahrtBringtAlleZeitenAufDieUhrDesGeraets)
     ueberfahrt(1, 900000);  // 4.5 s after green
     t.maschine.laufen(10000 - 3);
     ueberfahrt(1, 910000);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 10000);
-    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 0)), 4500, 5);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 10000);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 0)), 4500, 5);
     EXPECT_EQ(t.bahn().uhr1.minuten.text() + t.bahn().uhr1.sekunden.text(), "0014");
     t.taste("2");  // by hand, on the same clock
     t.maschine.laufen(6999);
     t.taste("2");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 7000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), 7000);
     // the unit was switched off and on: its clock begins anew
     t.maschine.laufen(3000 - 3);
     ueberfahrt(1, 100);
-    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 2)), 10000, 5);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)), 10000, 5);
     t.maschine.laufen(6000 - 3);
     ueberfahrt(1, 6100);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 3), 6000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 3), 6000);
 }
 
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
@@ -69,7 +69,7 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     ueberfahrt(1, 1000);
     t.maschine.laufen(8000);
     ueberfahrt(1, 9000);
-    ASSERT_EQ(t.spur(1).runden, 1);
+    ASSERT_EQ(t.runden(1), 1);
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "30,00") << "a lap burns what the unit says";
 }
 
@@ -104,7 +104,7 @@ TEST_F(ControlUnitRennen, RennfensterRichtetEinUndOhnePortBleibtDieTastatur) {
     ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, t.p.txt.meldung[14]);
     t.taste("1");
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
 }
 
 TEST_F(ControlUnitRennen, DieAnzeigeZaehltDieRundenDesFuehrendenHerunter) {
@@ -131,9 +131,9 @@ TEST_F(ControlUnitRennen, EineVerspaetetGemeldeteUeberfahrtVerschiebtNichts) {
     t.maschine.laufen(9994);
     ueberfahrt(1, 910000);
     ueberfahrt(2, 909997);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 10000);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 9998);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.stempel(2, 0), 899999);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 10000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), 9998);
+    EXPECT_EQ(t.p.rennen.zustand.konto.stempel(2, 0), 899999);
 }
 
 TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
@@ -144,8 +144,8 @@ TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
     t.maschine.uhr_stellen(7000);  // neither timers nor records
     wartend = {letzter_status, passage(1, 9000), passage(2, 6300)};
     t.maschine.laufen(20);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 8000);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), 5200);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 8000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), 5200);
 }
 
 TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {

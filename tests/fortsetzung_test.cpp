@@ -182,7 +182,7 @@ protected:
         for (int i = 0; i < 300000 && !zustand.rennen_beendet; ++i) {
             spuren<int> vorher;
             for (const int spur : alle_spuren) {
-                vorher[spur] = t.spur(spur).runden;
+                vorher[spur] = t.runden(spur);
             }
             for (const fahrer_modell& f : fahrer) {
                 if (!zustand.chaos_aktiv && uhr >= f.bereit_ab && eins_von(1500)) {
@@ -195,7 +195,7 @@ protected:
             uhr += laeuft && !zustand.rennen_beendet ? 1 : 0;
             for (fahrer_modell& f : fahrer) {
                 const int spur = spur_von(f.name);
-                if (t.spur(spur).runden > vorher[spur]) {
+                if (t.runden(spur) > vorher[spur]) {
                     if (f.zuletzt >= 0) {
                         f.runden.push_back(stempel - f.zuletzt);
                     }
@@ -217,7 +217,7 @@ protected:
             const int spur = spur_von(f.name);
             ASSERT_EQ(w.runden(spur), static_cast<int>(f.runden.size())) << f.name;
             for (std::size_t i = 0; i < f.runden.size(); ++i) {
-                const zeit_ms zeit = zustand.rundenzeiten.rundenzeit(spur, static_cast<int>(i) + 1);
+                const zeit_ms zeit = zustand.konto.rundenzeit(spur, static_cast<int>(i) + 1);
                 EXPECT_NEAR(static_cast<double>(zeit), static_cast<double>(f.runden[i]), 4) << f.name << " " << i + 1;
             }
         }

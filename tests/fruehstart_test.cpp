@@ -48,7 +48,7 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     ASSERT_TRUE(rennen_laeuft());
     EXPECT_FALSE(t.bahn().ampel_gr[2].sichtbar());
     EXPECT_TRUE(t.bahn().ampel_gr[0].sichtbar());
-    EXPECT_EQ(t.spur(3).runden, 0) << "the crossing has counted";
+    EXPECT_EQ(t.runden(3), 0) << "the crossing has counted";
     t.maschine.laufen(4999);
     EXPECT_FALSE(strom(3));
     t.taste("3");
@@ -56,10 +56,10 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     EXPECT_EQ(t.bahn().t_liste[2].zeilen(), std::vector<std::string>{" 0. 00,000"});
     EXPECT_TRUE(t.bahn().t_liste[0].zeilen().empty());
     t.runde_nach(5000, "3");
-    EXPECT_EQ(t.spur(3).runden, 0) << "locked for one minimum lap more";
+    EXPECT_EQ(t.runden(3), 0) << "locked for one minimum lap more";
     t.runde_nach(200, "3");
-    EXPECT_EQ(t.spur(3).runden, 1);
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(3, 1), 5000 + 5000 + 200 - 1);
+    EXPECT_EQ(t.runden(3), 1);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(3, 1), 5000 + 5000 + 200 - 1);
     EXPECT_EQ(t.p.einst.fruehstart_strafzeit, 5s);
 }
 
@@ -74,18 +74,18 @@ TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
         ampeltaste('2');
         t.maschine.laufen(2000 + 5 * 1500 - 5002);
         ASSERT_TRUE(rennen_laeuft());
-        EXPECT_EQ(t.spur(2).runden, runden_bei_gruen);
+        EXPECT_EQ(t.runden(2), runden_bei_gruen);
         EXPECT_EQ(t.spur(2).strafzeit, dauer_s(strafzeit));
         EXPECT_EQ(strom(2), mit_strom);
         EXPECT_EQ(t.bahn().zaehler[2].text(), zaehler);
-        EXPECT_EQ(t.spur(1).runden, -1);
+        EXPECT_EQ(t.runden(1), -1);
         EXPECT_TRUE(strom(1));
         t.runde_nach(2500, "1");
         EXPECT_EQ(t.p.einst.fruehstart_strafzeit, option == 2 ? 3s : dauer_hs(10))
             << "overwritten when the light closes";
         t.runde_nach(6000, "12");
-        EXPECT_EQ(t.spur(1).runden, 1);
-        EXPECT_EQ(t.spur(2).runden, option == 2 ? -1 : runden_bei_gruen + 1);
+        EXPECT_EQ(t.runden(1), 1);
+        EXPECT_EQ(t.runden(2), option == 2 ? -1 : runden_bei_gruen + 1);
         t.bahn().Command2.klicken();
     }
 }
@@ -146,7 +146,7 @@ TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
         EXPECT_EQ(rennen_laeuft(), option != 1) << "an aborted start does not go green";
         EXPECT_EQ(t.spur(1).strafzeit, option == 5 ? 10s : 0s);
         t.maschine.laufen(2000);
-        EXPECT_EQ(t.spur(1).runden, -1);
+        EXPECT_EQ(t.runden(1), -1);
         EXPECT_EQ(t.p.startampel.laeuft(), option == 1);
         t.p.startampel.fenster.abbrampel.klicken();
         t.bahn().Command2.klicken();
@@ -163,7 +163,7 @@ TEST_F(Fruehstart, OhneSoundsWirdBestraftAberNichtGestempelt) {
     EXPECT_EQ(t.spur(2).start_zeit, 0);
     EXPECT_TRUE(t.p.ereignisse[15].aktiv);
     EXPECT_FALSE(strom(2));
-    EXPECT_EQ(t.spur(2).runden, 0);
+    EXPECT_EQ(t.runden(2), 0);
     bis_gruen(4002);
     EXPECT_FALSE(t.p.ereignisse[15].aktiv) << "the crossing before green is no lap";
     EXPECT_EQ(t.spur(2).start_zeit, t.p.rennen.zustand.start_zeit) << "a lane without a stamp is timed from green";
@@ -180,7 +180,7 @@ TEST_F(Fruehstart, EigeneStartzeitBleibtDieDesFruehstarts) {
     EXPECT_EQ(stempel, t.maschine.jetzt() - 1);
     t.maschine.laufen(499);
     t.runde_nach(8000, "2");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(2, 1), t.maschine.jetzt() - 1 - stempel);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), t.maschine.jetzt() - 1 - stempel);
 }
 
 TEST_F(Fruehstart, AusgeschlosseneSpurBekommtKeinenStromMehrUndHaeltDasEndeNichtAuf) {

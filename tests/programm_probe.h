@@ -26,7 +26,7 @@ protected:
 
     bool offen(fenstername name) { return t.p.fenster.ist_offen(name); }
     bool strom(int spur) const { return geraet.ist_an(ausgang::bahnstrom, spur); }
-    zeit_ms rundenzeit(int spur, int runde) const { return t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde); }
+    zeit_ms rundenzeit(int spur, int runde) const { return t.p.rennen.zustand.konto.rundenzeit(spur, runde); }
     std::ptrdiff_t gespielt(const std::string& datei) const {
         return std::count(t.maschine.sounds.begin(), t.maschine.sounds.end(), "sound\\" + datei);
     }

@@ -81,7 +81,7 @@ TEST_F(Rennansicht, ZaehlerInDerZeileRuecktBeiTausendRunden) {
     const bezeichnung& zaehler = t.bahn().zaehler[1];
     const double links = zaehler.links();
     for (const int runden : {100, 1000}) {
-        t.spur(1).runden = runden - 1;
+        t.runden_auffuellen(1, runden - 1);
         t.runde_nach(8000, "1");
         EXPECT_DOUBLE_EQ(zaehler.schriftgroesse(), 0.8 * t.bahn().zaehler_schrift);
         EXPECT_DOUBLE_EQ(zaehler.links(), runden == 1000 ? links / 2 : links);

@@ -15,23 +15,29 @@ spur_verlauf lauf(int spur, const std::vector<zeit_ms>& zeiten) {
     return ergebnis;
 }
 
+void runden_fahren(rundenkonto& konto, int spur) {
+    konto.zaehlen(spur, 900, 1000, 0);  // only starts the count
+    konto.zaehlen(spur, 8000, 9000, 0);
+    konto.beste_werten(spur, 8000);
+    konto.zaehlen(spur, 7500, 47500, 31000);
+    konto.beste_werten(spur, 7500);
+    konto.zaehlen(spur, 7500, 55000, 0);
+}
+
 TEST(Rundenverlauf, LiestDieRundenDerGefahrenenSpuren) {
     renn_zustand zustand;
     renn_parameter param;
     for (const int spur : {1, 2, 3, 4, 6}) {
-        zustand.spur[spur].runden = 3;
-        zustand.rundenzeiten.setzen(spur, 0, 900, 1000);  // only starts the count
-        zustand.rundenzeiten.setzen(spur, 1, 8000, 9000);
-        zustand.rundenzeiten.setzen(spur, 2, 7500, 47500, 31000);
-        zustand.rundenzeiten.setzen(spur, 3, 7500, 55000);
-        zustand.rundenzeiten.beste(spur, 7500);
+        runden_fahren(zustand.konto, spur);
         param.spur_aktiv[spur] = spur != 6;  // left over from the race before
     }
     param.spur_aktiv[5] = true;
     param.fahrer_name[1] = "Anna";
     zustand.spur[2].disqualifiziert = true;
-    zustand.spur[3].runden = -1;
-    zustand.rundenzeiten.beste(4, 7000);  // that lap was taken off
+    zustand.konto.leeren(3);
+    zustand.konto.zaehlen(4, 7000, 62000, 0);
+    zustand.konto.beste_werten(4, 7000);
+    zustand.konto.abziehen(4);
 
     const rundenverlauf verlauf = rundenverlauf_bilden(zustand, param);
     ASSERT_EQ(verlauf.size(), 5U);

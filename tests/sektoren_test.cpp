@@ -72,10 +72,11 @@ TEST_F(Sektoren, PauseGehtVonJedemSektorAbUndDieSummeStimmt) {
     EXPECT_EQ(zeit(2), 2000);
     t.runde_nach(2000, "1");
     EXPECT_EQ(zeit(3), 2000);
-    EXPECT_EQ(zeit(1) + zeit(2) + zeit(3), t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1));
+    EXPECT_EQ(zeit(1) + zeit(2) + zeit(3), t.p.rennen.zustand.konto.rundenzeit(1, 1));
 }
 
 TEST_F(Sektoren, TempoNachLaengeUndMassstab) {
+    t.p.form1.massstab.eingeben("32");
     fahren();
     t.p.einst.topspeed_anzeige = sektor_ort::klein;
     t.p.einst.sektor_laenge[1][1] = "5";
@@ -87,7 +88,6 @@ TEST_F(Sektoren, TempoNachLaengeUndMassstab) {
     EXPECT_EQ(t.bahn().brunde[1].text(), "0,00 k/h");
     t.runde_nach(3000, "1");
     t.p.einst.real_speed = true;
-    t.p.form1.massstab.eingeben("32");
     t.runde_nach(1600, "u");
     EXPECT_EQ(t.bahn().brunde[1].text(), "360 k/h");
     EXPECT_EQ(sektor_tempo(5, 0), 0);

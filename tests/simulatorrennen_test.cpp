@@ -51,12 +51,12 @@ struct Simulatorrennen : testing::Test {
         ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
         for (const int spur : alle_spuren) {
             const std::vector<zeit_ms> stempel = ueberfahrten(spur);
-            const int runden = t.spur(spur).runden;
+            const int runden = t.runden(spur);
             ASSERT_GT(runden, 200);
             ASSERT_LE(static_cast<std::size_t>(runden), stempel.size());
             for (int runde = 1; runde <= runden; ++runde) {
                 const auto i = static_cast<std::size_t>(runde);
-                ASSERT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
+                ASSERT_EQ(t.p.rennen.zustand.konto.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
                     << spur << " " << runde;
             }
             const zeit_ms bis_zur_letzten = stempel[static_cast<std::size_t>(runden)] - stempel[0];

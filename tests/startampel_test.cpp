@@ -153,7 +153,7 @@ TEST_F(Startampel, TanksensorAlsRundensensorUndNachttaste) {
     ASSERT_TRUE(t.p.ereignisse[art::tanken_ein[2]].aktiv && t.p.ereignisse[art::tanken_aus[3]].aktiv);
     t.maschine.laufen(2);
     EXPECT_FALSE(t.spur(2).tank_kontakt) << "tank events of the start are forgotten";
-    EXPECT_EQ(t.spur(3).runden, -1);
+    EXPECT_EQ(t.runden(3), -1);
 }
 
 TEST_F(Startampel, RennenDasVorDerFreigabeEndetNimmtDieAmpelMit) {

@@ -67,8 +67,7 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
         fahren(12);
         t.runde_nach(8000, "1");
         t.runde_nach(8000, "1");
-        EXPECT_EQ(t.spur(1).runden, runden);
-        EXPECT_EQ(t.spur(1).runden_zeile, runden + 1);
+        EXPECT_EQ(t.runden(1), runden);
         EXPECT_EQ(t.spur(1).disqualifiziert, dis);
         EXPECT_EQ(t.bahn().zaehler[1].text(), dis ? "Dis." : std::to_string(runden));
         EXPECT_EQ(strom(1), mit_strom);
@@ -107,19 +106,19 @@ TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
     fahren(12);
     t.runde_nach(8000, "1");
     t.runde_nach(8000, "1");
-    ASSERT_EQ(t.spur(1).runden, 1);
+    ASSERT_EQ(t.runden(1), 1);
     t.runde_nach(6000, "1");
-    EXPECT_EQ(t.spur(1).runden, 1) << "a lane in the penalty counts nothing";
+    EXPECT_EQ(t.runden(1), 1) << "a lane in the penalty counts nothing";
     t.maschine.laufen(3999);
     EXPECT_FALSE(strom(1));
     t.maschine.laufen(2);
     EXPECT_TRUE(strom(1));
-    EXPECT_EQ(t.spur(1).runden, 2);
+    EXPECT_EQ(t.runden(1), 2);
     EXPECT_EQ(t.bahn().zaehler[1].text(), "2");
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 2), 8000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 8000);
     EXPECT_EQ(t.bahn().lrunde[1].text(), "18,001") << "the display tells the lap with its penalty";
     t.runde_nach(6000, "1");
-    EXPECT_EQ(t.spur(1).runden, 2) << "empty again: the next lap is taken at once";
+    EXPECT_EQ(t.runden(1), 2) << "empty again: the next lap is taken at once";
 }
 
 TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
@@ -130,7 +129,7 @@ TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
     t.maschine.laufen(5001);
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
-    EXPECT_EQ(t.p.rennen.zustand.rundenzeiten.rundenzeit(1, 1), 13000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 13000);
 }
 
 TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
@@ -138,9 +137,9 @@ TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
     t.starten("Zeit", "5", {1});
     t.spur(1).tank_inhalt = 3;
     t.runde_nach(8000, "1");
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
     t.maschine.laufen(20000);
-    EXPECT_EQ(t.spur(1).runden, 0);
+    EXPECT_EQ(t.runden(1), 0);
     EXPECT_TRUE(strom(1));
 }
 
@@ -161,11 +160,11 @@ TEST_F(Tanken, AufEinemKontaktWirdNachDerWartezeitGetankt) {
     EXPECT_FALSE(t.spur(1).tank_kontakt) << "full: thrown off the contact";
     EXPECT_TRUE(t.spur(1).tank_halt);
     t.taste("1");
-    EXPECT_EQ(t.spur(1).runden, 0) << "held for a moment";
+    EXPECT_EQ(t.runden(1), 0) << "held for a moment";
     t.maschine.laufen(500);
     EXPECT_FALSE(t.spur(1).tank_halt);
     t.taste("1");
-    EXPECT_EQ(t.spur(1).runden, 1);
+    EXPECT_EQ(t.runden(1), 1);
 }
 
 TEST_F(Tanken, VerlassenDesKontaktsUndStrafeHaltenDasTankenAn) {
@@ -193,10 +192,10 @@ TEST_F(Tanken, TanksensorZaehltRunden) {
         fahren(60);
         t.maschine.laufen(6000);
         t.taste("q");
-        EXPECT_EQ(t.spur(1).runden, modus == 1 ? 1 : 0);
+        EXPECT_EQ(t.runden(1), modus == 1 ? 1 : 0);
         t.maschine.laufen(6000);
         t.taste("a");
-        EXPECT_EQ(t.spur(1).runden, 1);
+        EXPECT_EQ(t.runden(1), 1);
         t.bahn().Command2.klicken();
     }
 }

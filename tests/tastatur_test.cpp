@@ -24,7 +24,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
         t.maschine.laufen(1);
         EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[3] && t.p.rennen.zustand.chaos_aktiv) << knopf;
         EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar()) << knopf;
-        EXPECT_EQ(t.spur(1).runden, -1) << knopf;
+        EXPECT_EQ(t.runden(1), -1) << knopf;
         t.bahn().Command2.klicken();
     }
 }

@@ -232,15 +232,15 @@ private:
 
     void runden_melden() {
         for (const int spur : alle_spuren) {
-            for (; gemeldet_[spur] < p_.rennen.zustand.spur[spur].runden;) {
+            for (; gemeldet_[spur] < p_.rennen.zustand.konto.runden(spur);) {
                 const int runde = ++gemeldet_[spur];
                 const QString zeile =
                     QString("  %1     %2 %3  %4")
                         .arg(spur)
                         .arg(QString::fromStdString(p_.rennen.bahn1.namenslabel[spur].text()), -20)
                         .arg(runde, 6)
-                        .arg(QString::fromStdString(zeit_formatieren(
-                            p_.rennen.zustand.rundenzeiten.rundenzeit(spur, runde), true, p_.einst.trennzeichen)));
+                        .arg(QString::fromStdString(zeit_formatieren(p_.rennen.zustand.konto.rundenzeit(spur, runde),
+                                                                     true, p_.einst.trennzeichen)));
                 schreiben(zeile.toStdString());
             }
         }
@@ -258,12 +258,12 @@ private:
     void vergleichen() {
         int verglichen = 0;
         for (const int spur : alle_spuren) {
-            const int gefahren = p_.rennen.zustand.spur[spur].runden;
+            const int gefahren = p_.rennen.zustand.konto.runden(spur);
             for (int runde = 1; runde <= gefahren; ++runde) {
                 const auto i = static_cast<std::size_t>(runde - 1);
                 warten("die Zeiten des Simulators", schritt_ms,
                        [&] { return simulator_.rundenzeiten(spur).size() > i; });
-                const zeit_ms gemessen = p_.rennen.zustand.rundenzeiten.rundenzeit(spur, runde);
+                const zeit_ms gemessen = p_.rennen.zustand.konto.rundenzeit(spur, runde);
                 if (const zeit_ms wahr = simulator_.rundenzeiten(spur)[i]; gemessen != wahr) {
                     scheitern("Spur " + std::to_string(spur) + ", Runde " + std::to_string(runde) + ": gemessen " +
                               std::to_string(gemessen) + " ms, gefahren " + std::to_string(wahr) + " ms.");

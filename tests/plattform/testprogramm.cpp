@@ -47,4 +47,10 @@ void testprogramm::runde_nach(zeit_ms dauer, std::string_view tasten) {
     maschine.laufen(1);
 }
 
+void testprogramm::runden_auffuellen(int spur, int bis) {
+    while (runden(spur) < bis) {
+        p.rennen.zustand.konto.zaehlen(spur, 0, 0, 0);
+    }
+}
+
 }  // namespace tarvel::test

@@ -25,6 +25,9 @@ struct testprogramm {
 
     bahn1& bahn() { return p.rennen.bahn1; }
     spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
+    int runden(int spur) const { return p.rennen.zustand.konto.runden(spur); }
+    /// The lane has this many laps, those that it lacks without a time.
+    void runden_auffuellen(int spur, int bis);
 
     bool mit_bestzeiten = false;  ///< else no race asks for them
 

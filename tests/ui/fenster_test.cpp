@@ -122,13 +122,13 @@ TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
 TEST_F(Oberflaeche, TasteZaehltEinmalUndGehaltenGarNichtNoch) {
     t.p.belegung.vorbelegen(belegung_stufe::standard);
     t.starten("Zeit", "5", {1});
-    t.spur(1).runden = 5;
+    t.runden_auffuellen(1, 5);
     o.takt.ausfuehren();
     taste(o.bahn1, '!');
-    EXPECT_EQ(t.spur(1).runden, 4);
+    EXPECT_EQ(t.runden(1), 4);
     QKeyEvent gehalten(QEvent::KeyPress, Qt::Key_Exclam, Qt::ShiftModifier, "!", true);
     QCoreApplication::sendEvent(o.bahn1.focusWidget() != nullptr ? o.bahn1.focusWidget() : &o.bahn1, &gehalten);
-    EXPECT_EQ(t.spur(1).runden, 4);
+    EXPECT_EQ(t.runden(1), 4);
 }
 
 TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {

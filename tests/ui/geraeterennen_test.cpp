@@ -115,15 +115,15 @@ struct Geraeterennen : testing::Test {
                     stempel.push_back(u.stempel);
                 }
             }
-            const int runden = p.rennen.zustand.spur[spur].runden;
+            const int runden = p.rennen.zustand.konto.runden(spur);
             ASSERT_GT(runden, 0);
             ASSERT_LT(static_cast<std::size_t>(runden), stempel.size());
             for (int runde = 1; runde <= runden; ++runde) {
                 const auto i = static_cast<std::size_t>(runde);
-                ASSERT_EQ(p.rennen.zustand.rundenzeiten.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
+                ASSERT_EQ(p.rennen.zustand.konto.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
                     << spur << " " << runde;
             }
-            const zeit_ms letzte = p.rennen.zustand.rundenzeiten.stempel(spur, runden);
+            const zeit_ms letzte = p.rennen.zustand.konto.stempel(spur, runden);
             constexpr zeit_ms laengste_runde = 2700;
             EXPECT_GT(letzte + laengste_runde, p.rennen.zustand.renn_ende_zeit) << "a lap is missing at the end";
             alle += runden;

@@ -44,7 +44,7 @@ TEST_F(Rennfenster, AllesStehtWoDieAufteilungEsHat) {
     alles_steht();
     t.bahn().Command1.klicken();
     t.runde_nach(1000, "2");
-    t.spur(2).runden = 999;
+    t.runden_auffuellen(2, 999);
     t.runde_nach(8000, "2");
     o.takt.ausfuehren();
     steht("bahn1.zaehler_2", soll().zaehler_weit);

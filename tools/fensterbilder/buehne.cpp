@@ -96,7 +96,7 @@ void buehne::sensor_treffen(int spur) {
         t.maschine.laufen(bis_dahin);
         p.ereignisse.ereignis_melden(erste_zwischenzeit + 2 * (spur - 1) + sensor - 1);
     }
-    const int runde = t.spur(spur).runden;
+    const int runde = t.runden(spur);
     const zeit_ms rundenzeit = 6950 + 45 * spur + streuung(spur, runde) + (runde == 8 && spur == 3 ? 9000 : 0);
     naechste_[spur] +=
         p.einst.sektor_an[0]

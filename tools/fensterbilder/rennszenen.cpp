@@ -96,7 +96,7 @@ QWidget& tausend_runden(buehne& b) {
     b.p.einst.darstellung_zeile = zeilen;
     b.rennen(20000);
     for (const auto& [spur, runden] : {std::pair(1, 9997), {2, 1234}, {3, 998}, {4, 111}, {5, 87}}) {
-        b.t.spur(spur).runden = runden;
+        b.t.runden_auffuellen(spur, runden);
     }
     b.fahren(16000);
     return b.o.bahn1;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// What the race window and the loudspeaker tell of a lap that is complete.
+class rundenanzeige {
+public:
+    explicit rundenanzeige(const renn_umgebung& um) : um_(um) {}
+
+    /// The lane's last lap took `zeit` ms: its sounds, last and best lap, the lap list. Lap 0 only starts the list.
+    void runde_melden(int spur, zeit_ms zeit);
+
+private:
+    renn_umgebung um_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "core/spuren.h"
+#include "race/rundenspeicher.h"
+
+namespace tarvel {
+
+/// The laps of a race: how many each lane has, how long they took, and which was its best. Whatever counts a lap, takes
+/// one off or gives one back does it here; a number of laps cannot be set.
+class rundenkonto {
+public:
+    /// Laps counted; -1 before the first crossing, which makes it 0.
+    int runden(int spur) const { return spur_[spur].runden; }
+    /// The lap that the lane is in: its row is what the next crossing fills.
+    int laufende(int spur) const { return spur_[spur].runden + 1; }
+    /// Laps up to this one were driven, in whole or in part, before the race went on.
+    int vor_fortsetzung(int spur) const { return spur_[spur].vor_fortsetzung; }
+    /// Best lap in ms, 0 until there is one.
+    zeit_ms beste(int spur) const { return spur_[spur].beste; }
+    /// A lap is held back that will be given back.
+    bool haelt_zurueck(int spur) const { return spur_[spur].zurueckgehalten; }
+
+    /// Rows as in `rundenspeicher`.
+    zeit_ms rundenzeit(int spur, int zeile) const { return speicher_.rundenzeit(spur, zeile); }
+    zeit_ms stempel(int spur, int zeile) const { return speicher_.stempel(spur, zeile); }
+    zeit_ms pause(int spur, int zeile) const { return speicher_.pause(spur, zeile); }
+
+    /// For a new race: no crossing yet.
+    void leeren(int spur);
+    /// The stamp from which the lane's first lap is timed until a crossing starts the count.
+    void start_stempeln(int spur, zeit_ms stempel) { speicher_.setzen(spur, 0, 0, stempel); }
+    /// Counts a crossing. Nobody counts beyond `runden_max`.
+    void zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause);
+    /// The lane's last lap took `zeit`. True if that is its best one now; the first lap always is.
+    bool beste_werten(int spur, zeit_ms zeit);
+
+    /// Takes one lap off. A lane with 0 laps stays at 0, while one before its first crossing goes further below.
+    /// Returns the pause that had come off that lap and now comes off the one that takes it in.
+    zeit_ms abziehen(int spur);
+    /// As `abziehen`, for a lane that has a lap, but the lap is kept to be given back.
+    zeit_ms zurueckhalten(int spur);
+    /// The lap that is held back counts again, `zuschlag` ms longer. Nothing without one.
+    void zurueckgeben(int spur, zeit_ms zuschlag);
+    /// Takes lap `runde` off as a false crossing: its time is part of the lap before it. False if there is no such lap.
+    bool verschmelzen(int spur, int runde);
+    /// The lane is out: it has no lap, and starts from none should the race go on.
+    void streichen(int spur) { spur_[spur].runden = 0; }
+
+    /// The race goes on. `unterwegs`: the lane has driven a part of the lap that it is in.
+    void fortsetzen(int spur, bool unterwegs);
+    /// Lane i takes the laps of lane `herkunft[i]`; 0 leaves it as it is.
+    void fahrer_umsetzen(const spuren<int>& herkunft);
+    /// All stamps move by `um` ms.
+    void stempel_verschieben(zeit_ms um) { speicher_.stempel_verschieben(um); }
+
+private:
+    struct spur_konto {
+        int runden = -1;
+        int vor_fortsetzung = 0;
+        zeit_ms beste = 0;
+        bool zurueckgehalten = false;
+    };
+
+    void beste_suchen(int spur);
+
+    spuren<spur_konto> spur_;
+    rundenspeicher speicher_;
+};
+
+}  // namespace tarvel
