@@ -66,7 +66,7 @@ void eine_stunde_sechs_spuren(benchmark::State& lauf) {
         while (!t.p.rennen.zustand.rennen_beendet) {
             t.runde_nach(8000, "123456");
         }
-        benchmark::DoNotOptimize(t.p.wertung.platzierung(1));
+        benchmark::DoNotOptimize(t.ergebnis(1).platz);
     }
 }
 BENCHMARK(eine_stunde_sechs_spuren)->Unit(benchmark::kMillisecond)->Iterations(1);

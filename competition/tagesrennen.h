@@ -13,9 +13,9 @@ public:
 
     std::string datei;  ///< below the program folder
 
-    bool uebernehmen(weitergang wie) override {
-        return wie == weitergang::verlassen ? um_.speichern.tages_ergebnis_schreiben(datei)
-                                            : einzelrennen::uebernehmen(wie);
+    bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override {
+        return wie == weitergang::verlassen ? um_.speichern.tages_ergebnis_schreiben(datei, ergebnis)
+                                            : einzelrennen::uebernehmen(ergebnis, wie);
     }
 };
 

@@ -12,8 +12,8 @@ constexpr int name_laenge_max = 100;
 
 }  // namespace
 
-speichernfenster::speichernfenster(fenster_umgebung um, fenstername kennung, std::string_view sprachdatei)
-    : fensterlogik(um.fenster, um.ablage, kennung), um_(um), sprachdatei_(sprachdatei) {
+speichernfenster::speichernfenster(fenster_umgebung um, fenstername welches, std::string_view sprachdatei)
+    : fensterlogik(um.fenster, um.ablage, welches), um_(um), sprachdatei_(sprachdatei) {
     name.laenge_max(name_laenge_max);
     dateiliste.bei_auswahl = [this] {
         const int zeile = dateiliste.markiert();
@@ -24,7 +24,7 @@ speichernfenster::speichernfenster(fenster_umgebung um, fenstername kennung, std
     dateiliste.bei_doppelklick = [this] { ausfuehren(); };
     alle_dateien.bei_aenderung = [this] { liste_fuellen(); };
     Command1.bei_klick = [this] { ausfuehren(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen(kennung()); };
+    Command2.bei_klick = [this] { schliessen(); };
 }
 
 sprachliste speichernfenster::sprache() {

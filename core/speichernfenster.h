@@ -26,8 +26,8 @@ struct dateiauftrag {
 /// The window in which a file is chosen for saving or loading.
 class speichernfenster : public fensterlogik {
 public:
-    /// `sprachdatei` is the file of the window's texts.
-    speichernfenster(fenster_umgebung um, fenstername kennung, std::string_view sprachdatei);
+    /// `welches` of the windows it is, `sprachdatei` the file of the window's texts.
+    speichernfenster(fenster_umgebung um, fenstername welches, std::string_view sprachdatei);
 
     bezeichnung ueberschrift;
     liste dateiliste;

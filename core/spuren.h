@@ -7,6 +7,7 @@
 namespace tarvel {
 
 inline constexpr int spuren_max = 6;
+inline constexpr int sektoren_max = 3;  ///< of a lap
 inline constexpr std::array<int, spuren_max> alle_spuren{1, 2, 3, 4, 5, 6};
 
 /// One value per lane, indexed by the lane number 1 to 6.

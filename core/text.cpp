@@ -83,6 +83,15 @@ std::string_view links(std::string_view text, std::size_t anzahl) {
     return text.substr(0, ende);
 }
 
+std::string_view rechts(std::string_view text, std::size_t anzahl) {
+    const std::size_t zeichen = laenge(text);
+    return text.substr(links(text, zeichen - std::min(anzahl, zeichen)).size());
+}
+
+std::string_view mitte(std::string_view text, std::size_t ab, std::size_t anzahl) {
+    return links(text.substr(links(text, ab - 1).size()), anzahl);
+}
+
 std::string_view gekuerzt(std::string_view text) {
     const auto anfang = text.find_first_not_of(" \t");
     if (anfang == std::string_view::npos) {

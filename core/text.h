@@ -11,6 +11,10 @@ namespace tarvel {
 std::size_t laenge(std::string_view text);
 /// The first `anzahl` characters.
 std::string_view links(std::string_view text, std::size_t anzahl);
+/// The last `anzahl` characters.
+std::string_view rechts(std::string_view text, std::size_t anzahl);
+/// `anzahl` characters from the one with number `ab`, the first being 1.
+std::string_view mitte(std::string_view text, std::size_t ab, std::size_t anzahl);
 
 /// Without blanks and tabs at both ends.
 std::string_view gekuerzt(std::string_view text);

@@ -11,7 +11,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view fenstername = "beste_zeiten_verwaltung";
 constexpr std::string_view endung = ".bst";
 constexpr int dateiname_laenge_max = 60;
 constexpr int zeit_laenge_max = 12;
@@ -115,14 +114,14 @@ void beste_zeiten_verwaltung::laden() {
 }
 
 void beste_zeiten_verwaltung::oeffnen() {
-    um_.fenster.laden(fenstername);
+    um_.fenster.laden(kennung());
     kopie_ = um_.bestzeiten;
     geschrieben_ = kopie_;
     datei_ = um_.einst.beste_datei;
     Combo1.platz(static_cast<int>(um_.einst.beste_modus));
     bestefile_name.text("");
     datei_zeigen();
-    um_.fenster.zeigen(fenstername, anzeige_art::modal);
+    um_.fenster.zeigen(kennung(), anzeige_art::modal);
     Combo2.fokus_setzen();
 }
 
@@ -297,7 +296,7 @@ void beste_zeiten_verwaltung::schliessen() {
         }
         kopie_ = geschrieben_;
     }
-    um_.fenster.entladen(fenstername);
+    um_.fenster.entladen(kennung());
     in_kraft_setzen();
 }
 

@@ -41,7 +41,7 @@ programm::programm(const plattform::dienste& d)
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
-      rundenspeichern(rennen, wertung, {ablage, txt, fenster, d.meldungen}),
+      rundenspeichern(einst.trennzeichen, d.kalender, {ablage, txt, fenster, d.meldungen}),
       einzelrennen({param, einst, txt, rundenspeichern}),
       tagesrennen({param, einst, txt, rundenspeichern}),
       intervalltraining({param, einst, txt, rundenspeichern}),

@@ -72,7 +72,6 @@ struct renn_zustand {
     bool ende_eingeleitet = false;  ///< guards against a second reason to end
     bool endesound_gespielt = false;
     bool rennabbruch = false;          ///< stopped by hand: the result is not a normal finish
-    std::string minuten_gefahren;      ///< minutes on the second clock when the race ended
     std::string rennen_start_uhrzeit;  ///< date and time of day
     std::string rennen_ende_uhrzeit;
 

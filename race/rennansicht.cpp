@@ -47,8 +47,8 @@ void rennansicht::fusszeile_setzen(const std::string& text, bool warnung) {
     um_.bahn.werbe_label.schriftfarbe(warnung ? warnfarbe : um_.einst.farben_schrift[2]);
 }
 
-void rennansicht::ziel_zeigen() {
-    bahn1& bahn = um_.bahn;
+std::string rennansicht::ziel_text() const {
+    const bahn1& bahn = um_.bahn;
     std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
     if (um_.ist_zeitrennen()) {
         const zeit_teile dauer = zeit_zerlegen(um_.param.renn_ziel);
@@ -56,7 +56,7 @@ void rennansicht::ziel_zeigen() {
         ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +
                 bahn.wort.minuten;
     }
-    bahn.ziel_label.text(ziel);
+    return ziel;
 }
 
 void rennansicht::ansagen_setzen() {

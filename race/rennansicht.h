@@ -27,7 +27,8 @@ public:
     /// Beside the commands: the club's line, or what is wrong.
     void fusszeile_setzen(const std::string& text, bool warnung);
     /// What is driven for.
-    void ziel_zeigen();
+    std::string ziel_text() const;
+    void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text()); }
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
     /// The same with what the lanes have, for a race that goes on.

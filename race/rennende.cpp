@@ -81,7 +81,6 @@ void rennende::rennende_einleiten() {
     }
     zustand.ende_eingeleitet = true;
     ende_stempeln();
-    zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
         nachlauf_runden_starten();
         return;
@@ -149,7 +148,6 @@ void rennende::rennende_ablauf() {
         return;
     }
     ende_stempeln();
-    zustand.minuten_gefahren = um_.bahn.uhr2.minuten.text();
     um_.zeitgeber.nachlauftimer1->aus();
     if (um_.ist_zeitrennen()) {
         uhr_.tausendstel_auf_null();

@@ -32,6 +32,14 @@ double sektor_tempo(double meter, zeit_ms zeit) {
     return zeit <= 0 ? 0 : (meter / 1000) / (static_cast<double>(zeit) / ms_je_stunde);
 }
 
+std::string sektor_tempo_text(const std::string& laenge, zeit_ms zeit, std::optional<double> massstab) {
+    if (laenge.empty()) {
+        return {};
+    }
+    const double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
+    return massstab ? std::to_string(std::llround(tempo * *massstab)) : zahl_fest(tempo, ',');
+}
+
 sektoren::sektoren(const renn_umgebung& um) : um_(um) {
     for (std::size_t i = 0; i < um_.zeitgeber.sekt_timer.size(); ++i) {
         um_.zeitgeber.sekt_timer.at(i)->bei_tick = [this, i] {
@@ -96,18 +104,6 @@ void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
     um_.sounds.spielen(sound::sektorzeit);
 }
 
-std::string sektoren::tempo_text(int spur, int sektor, zeit_ms zeit) const {
-    const std::string& laenge = um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur];
-    if (laenge.empty()) {
-        return {};
-    }
-    const double tempo = sektor_tempo(zahl_lesen(laenge), zeit);
-    if (um_.einst.real_speed) {
-        return std::to_string(std::llround(tempo * um_.param.massstab));
-    }
-    return zahl_fest(tempo, ',');
-}
-
 void sektoren::zeile_verschmelzen(int spur, int zeile, int letzte) {
     for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
         sektorzeit(spur, sektor, zeile - 1, sektorzeit(spur, sektor, zeile - 1) + sektorzeit(spur, sektor, zeile));
@@ -128,7 +124,8 @@ void sektoren::fahrer_umsetzen(const spuren<int>& herkunft) {
 
 void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
     anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen));
-    std::string text = tempo_text(spur, sektor, zeit);
+    std::string text = sektor_tempo_text(um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur], zeit,
+                                         um_.einst.real_speed ? std::optional(um_.param.massstab) : std::nullopt);
     if (text.empty()) {
         return;
     }

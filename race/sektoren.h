@@ -1,14 +1,13 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "race/umgebung.h"
 
 namespace tarvel {
-
-inline constexpr int sektoren_max = 3;  ///< of a lap
 
 /// Sector times and speeds from the sensors between the line and the line.
 class sektoren {
@@ -24,8 +23,6 @@ public:
 
     /// Time of sector 1 to 3 in ms, 0 for none; `zeile` as in the lap store.
     zeit_ms sektorzeit(int spur, int sektor, int zeile) const;
-    /// Speed through a sector as a number in km/h, of the model or of its original; empty without a length.
-    std::string tempo_text(int spur, int sektor, zeit_ms zeit) const;
 
     /// As `rundenspeicher::zeile_verschmelzen`.
     void zeile_verschmelzen(int spur, int zeile, int letzte);
@@ -45,5 +42,8 @@ private:
 
 /// km/h over `meter` in `zeit` ms; 0 for no time.
 double sektor_tempo(double meter, zeit_ms zeit);
+/// The same over a length as typed, as a number in km/h: of the model, or with its scale of the original. Empty without
+/// a length.
+std::string sektor_tempo_text(const std::string& laenge, zeit_ms zeit, std::optional<double> massstab);
 
 }  // namespace tarvel

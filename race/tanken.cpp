@@ -22,6 +22,15 @@ double runden_auf(double wert, double je_eins) {
 
 }  // namespace
 
+std::string tank_text(double liter) {
+    const auto hundertstel = std::lround(liter * 100);
+    std::string text = std::to_string(hundertstel / 100);
+    if (liter < tank_liter_drei_stellen) {
+        text += "," + ziffern(hundertstel % 100, 2);
+    }
+    return text;
+}
+
 double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit) {
     const zeit_teile teile = zeit_zerlegen(zeit);
     const double rest = static_cast<double>(teile.millisekunden) / 1000;
@@ -97,12 +106,7 @@ void tanken::tankwartetimer_tick(int spur) {
 
 void tanken::fuellstand_zeigen(int spur) {
     const double stand = um_.zustand.spur[spur].tank_inhalt;
-    const auto hundertstel = std::lround(stand * 100);
-    std::string text = std::to_string(hundertstel / 100);
-    if (stand < tank_liter_drei_stellen) {
-        text += "," + ziffern(hundertstel % 100, 2);
-    }
-    um_.bahn.t_bahn[spur].text(text);
+    um_.bahn.t_bahn[spur].text(tank_text(stand));
     um_.bahn.tankbalken.at(feld_index(spur))
         .hoehe(std::clamp(stand / um_.einst.tank_inhalt, 0.0, 1.0) * um_.bahn.tank_balkenhoehe);
 }

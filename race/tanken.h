@@ -55,6 +55,9 @@ private:
     rundenanzeige& anzeige_;
 };
 
+/// Litres as they are shown: two decimals below 100.
+std::string tank_text(double liter);
+
 /// Litres that a lap of `zeit` ms burns; `rundenzeit` is the nominal lap. The thousandths of the lap add up to one
 /// litre of scatter.
 double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit);

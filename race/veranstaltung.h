@@ -9,6 +9,8 @@
 
 namespace tarvel {
 
+struct rennergebnis;
+
 /// Who begins the race.
 enum class starter {
     bediener,
@@ -55,7 +57,7 @@ public:
     virtual ausweg weg_hinaus() const { return ausweg::hauptmenue; }
     virtual selbstlauf danach() const { return {}; }
     /// Takes the result of the race. False, and told, if it could not be kept.
-    virtual bool uebernehmen(weitergang wie) = 0;
+    virtual bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) = 0;
     /// Window to which a race leads that has been left or broken off.
     virtual fenstername zurueck() const { return fenstername::Form1; }
 };

@@ -7,6 +7,8 @@
 #include "core/text.h"
 #include "core/zeit.h"
 #include "results/ergebnisdatei.h"
+#include "results/ergebnistexte.h"
+#include "results/platzierung.h"
 
 namespace tarvel {
 namespace {
@@ -78,9 +80,8 @@ void auswertung::laden() {
         anzeige_modus_.fill(anzeige::zeit);
     }
     aktion_nach_bestzeiten_ = aktion::keine;
-    kopf_schreiben();
-    bedienung_einrichten();
     auswertung_anzeigen();
+    bedienung_einrichten();
     bestzeiten_pruefen();
     Command5.fokus_setzen();
 }
@@ -108,17 +109,16 @@ void auswertung::zielsignal_beenden() {
     um_.ausgaben.rennende_signal(false);
 }
 
-void auswertung::kopf_schreiben() {
-    std::string kopf = um_.ist_zeitrennen() ? wort_.zeitrennen : wort_.rundenrennen;
-    kopf += "  ·  " + um_.bahn.ziel_label.text();
-    const auto modus = static_cast<std::size_t>(gueltiger_modus(um_.param.auswertung_nach_rennen));
+std::string auswertung::kopf() const {
+    const rennergebnis& e = ergebnis();
+    std::string kopf = e.art == renn_art::zeit ? wort_.zeitrennen : wort_.rundenrennen;
+    kopf += "  ·  " + r_.ansicht.ziel_text();
+    const auto modus = static_cast<std::size_t>(gueltiger_modus(e.wertung.value_or(sortier_modus::runden)));
     kopf += "  ·  " + wort_.wertung.at(modus - 1);
-    if (um_.zustand.rennabbruch) {
+    if (e.vorzeitig.value_or(false)) {
         kopf += "  ·  " + wort_.vorzeitig;
     }
-    std::string ende = um_.zustand.rennen_ende_uhrzeit;
-    std::replace(ende.begin(), ende.end(), '-', ' ');
-    kopf_label.text(kopf + "  ·  " + ende);
+    return kopf + "  ·  " + e.datum + " " + e.uhrzeit;
 }
 
 void auswertung::bedienung_einrichten() {
@@ -160,86 +160,79 @@ void auswertung::auswertung_anzeigen() {
         runden.leeren();
     }
     gewaehlte_spur_ = 0;
-    u_.stand.disqualifizierte_streichen();
-    u_.stand.meter_auswerten();  // the standing may go by the metres
-    u_.stand.platzierung_berechnen();
+    u_.stand.auswerten();
+    kopf_label.text(kopf());
     for (const int spur : alle_spuren) {
-        const std::size_t i = feld_index(spur);
-        Frame[i].reihe(u_.stand.platzierung(spur) - 1);
-        Frame[i].sichtbar(um_.param.spur_aktiv[spur]);
-        if (um_.param.spur_aktiv[spur]) {
-            spur_anzeigen(spur);
+        const rennergebnis::spur* s = ergebnis().auf(spur);
+        Frame[feld_index(spur)].sichtbar(s != nullptr);
+        if (s != nullptr) {
+            spur_anzeigen(*s);
         }
     }
-    um_.quellen.melden<int, int>(&messquelle::platz, u_.stand.fuehrende_spur(), 1);
+    if (const rennergebnis::spur* erster = ergebnis().fuehrende(); erster != nullptr) {
+        um_.quellen.melden<int, int>(&messquelle::platz, erster->nummer, 1);
+    }
     verlauf_nachfuehren();
 }
 
-void auswertung::spur_anzeigen(int spur) {
-    const std::size_t i = feld_index(spur);
-    const spur_zustand& zustand = um_.zustand.spur[spur];
-    const wertung& stand = u_.stand;
-    const auto zeit_text = [this](zeit_ms zeit, bool lang) {
-        return zeit_formatieren(zeit, lang, um_.einst.trennzeichen);
-    };
-    const auto tempo = [&](int runden, zeit_ms zeit) {
-        return zahl_fest(sektor_tempo(um_.param.spurlaenge[spur] * runden, zeit), ',');
-    };
-    platz[i].text(std::to_string(stand.platzierung(spur)) + ".");
-    fahrer[i].text(um_.param.fahrer_name[spur]);
-    fahrzeug[i].text(um_.param.fahrzeug_name[spur]);
-    bilder_anzeigen(spur);
-    Frame[i].schriftfarbe(um_.einst.farben_spur[spur]);
-    runden_aus[i].text(zustand.disqualifiziert ? std::string(disqualifiziert_text)
-                                               : std::to_string(stand.runden(spur)));
-    beste_aus[i].text(zeit_text(stand.beste_runde(spur), false));
-    zeit_aus[i].text(zeit_text(stand.gesamtzeit(spur), true));
-    abstandlabel[i].sichtbar(spur != stand.fuehrende_spur());
-    const zeit_ms abstand = stand.abstand(spur);  // a car that is laps behind may have the lower time
-    abstandlabel[i].text((abstand < 0 ? "- " : "+ ") + zeit_text(std::abs(abstand), true));
-    ges_meter[i].text(stand.meter_text(spur, ',') + " m");
-    kmh_label[i].text(tempo(1, stand.beste_runde(spur)) + " / " + tempo(stand.runden(spur), stand.gesamtzeit(spur)) +
-                      " km/h");
-    aus_straflabel[i].sichtbar(zustand.strafzeit > 0s);
-    aus_straflabel[i].text(wort_.strafzeit + ": " + std::to_string(zustand.strafzeit.count()) + " sec");
-    tankinhalt[i].sichtbar(um_.param.tank_aktiv);
-    tankinhalt[i].text(wort_.tankinhalt + ": " + um_.bahn.t_bahn[spur].text() + " l");
-    rundenliste_schreiben(spur);
+void auswertung::spur_anzeigen(const rennergebnis::spur& s) {
+    namespace text = ergebnistext;
+    const std::size_t i = feld_index(s.nummer);
+    const trennzeichen_tabelle& trennzeichen = um_.einst.trennzeichen;
+    Frame[i].reihe(*s.platz - 1);
+    Frame[i].schriftfarbe(um_.einst.farben_spur[s.nummer]);
+    platz[i].text(std::to_string(*s.platz) + ".");
+    fahrer[i].text(s.fahrer);
+    fahrzeug[i].text(s.fahrzeug);
+    bilder_anzeigen(s);
+    runden_aus[i].text(text::runden(s));
+    beste_aus[i].text(text::beste(s, trennzeichen));
+    zeit_aus[i].text(text::zeit(s, trennzeichen));
+    abstandlabel[i].text(text::abstand(ergebnis(), s, trennzeichen));
+    abstandlabel[i].sichtbar(!abstandlabel[i].text().empty());
+    ges_meter[i].text(text::meter(s));
+    kmh_label[i].text(text::tempo(s));
+    aus_straflabel[i].text(text::strafe(s, wort_.strafzeit));
+    aus_straflabel[i].sichtbar(!aus_straflabel[i].text().empty());
+    tankinhalt[i].sichtbar(ergebnis().tanken);
+    tankinhalt[i].text(wort_.tankinhalt + ": " + tank_text(s.tankinhalt.value_or(0)) + " l");
+    rundenliste_schreiben(s);
 }
 
-void auswertung::bilder_anzeigen(int spur) {
-    const std::size_t i = feld_index(spur);
-    const bool besetzt = !um_.teil_von->ist_fueller(spur);
-    um_.fahrerliste.bild_zeigen(um_.ablage, um_.param.fahrer_name[spur], Image1[i]);
-    um_.fahrzeugliste.bild_zeigen(um_.ablage, um_.param.fahrzeug_name[spur], Image2[i]);
-    Image1[i].sichtbar(besetzt && u_.stand.runden(spur) < runden_ohne_bild);
+void auswertung::bilder_anzeigen(const rennergebnis::spur& s) {
+    const std::size_t i = feld_index(s.nummer);
+    const bool besetzt = !um_.teil_von->ist_fueller(s.nummer);
+    um_.fahrerliste.bild_zeigen(um_.ablage, s.fahrer, Image1[i]);
+    um_.fahrzeugliste.bild_zeigen(um_.ablage, s.fahrzeug, Image2[i]);
+    Image1[i].sichtbar(besetzt && s.rundenzahl() < runden_ohne_bild);
     Image2[i].sichtbar(besetzt && um_.einst.fahrzeugbild_an);
 }
 
-void auswertung::rundenliste_schreiben(int spur) {
-    for (int runde = 1; runde <= um_.zustand.konto.runden(spur); ++runde) {
-        liste.at(feld_index(spur)).hinzufuegen(rundenzeile(spur, runde));
+void auswertung::rundenliste_schreiben(const rennergebnis::spur& s) {
+    for (std::size_t runde = 1; runde < s.runden.size(); ++runde) {
+        liste.at(feld_index(s.nummer)).hinzufuegen(rundenzeile(s, runde));
     }
 }
 
-std::string auswertung::rundenzeile(int spur, int runde) const {
-    const anzeige modus = anzeige_modus_.at(feld_index(spur));
+std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t runde) const {
+    const anzeige modus = anzeige_modus_.at(feld_index(s.nummer));
     const bool mit_zeiten = modus == anzeige::mit_sektorzeit || modus == anzeige::mit_beidem;
     const bool mit_tempo = modus == anzeige::mit_tempo || modus == anzeige::mit_beidem;
     const auto zeit_text = [this](zeit_ms zeit, bool lang) {
         return zeit_formatieren(zeit, lang, um_.einst.trennzeichen);
     };
-    std::string zeile = std::to_string(runde) + ".  " + zeit_text(um_.zustand.konto.rundenzeit(spur, runde), true);
-    for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
-        if (!um_.einst.sektor_an.at(static_cast<std::size_t>(sektor))) {
+    std::string zeile = std::to_string(runde) + ".  " + zeit_text(s.runden[runde].zeit, true);
+    for (std::size_t i = 0; i < sektoren_max; ++i) {
+        if (!ergebnis().gemessen.at(i)) {
             continue;
         }
-        const zeit_ms zeit = r_.sektoren.sektorzeit(spur, sektor, runde);
+        const zeit_ms zeit = s.runden[runde].sektoren.at(i);
+        const std::string sektor = std::to_string(i + 1) + ": ";
         if (mit_zeiten) {
-            zeile += "    T" + std::to_string(sektor) + ": " + zeit_text(zeit, false);
+            zeile += "    T" + sektor + zeit_text(zeit, false);
         }
         if (mit_tempo) {
-            zeile += "    S" + std::to_string(sektor) + ": " + r_.sektoren.tempo_text(spur, sektor, zeit) + " km/h";
+            zeile += "    S" + sektor + sektor_tempo_text(s.sektorlaenge.at(i), zeit, ergebnis().massstab) + " km/h";
         }
     }
     return zeile;

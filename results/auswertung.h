@@ -104,8 +104,11 @@ public:
     bool escape_schliesst() const override { return false; }
     std::vector<sprachliste> sprachdateien() override { return {sprache_a()}; }
 
-    /// What the chart shows.
-    rundenverlauf verlauf() const { return rundenverlauf_bilden(um_.zustand, um_.param); }
+    /// What the window shows.
+    const rennergebnis& ergebnis() const { return u_.stand.ergebnis(); }
+    /// What was driven, and when.
+    std::string kopf() const;
+    const std::string& wort_strafzeit() const { return wort_.strafzeit; }
     const einstellungen& einst() const { return um_.einst; }
     /// Suggestion for the file of the page, below the program folder and without an extension.
     std::string blatt_datei() const;
@@ -137,13 +140,12 @@ private:
     void befehle_verbinden();
     void spurbefehle_verbinden(std::size_t i);
     void ansagen_setzen();
-    void kopf_schreiben();
     void bedienung_einrichten();
     void ziel_vorschlagen();
-    void spur_anzeigen(int spur);
-    void bilder_anzeigen(int spur);
-    void rundenliste_schreiben(int spur);
-    std::string rundenzeile(int spur, int runde) const;
+    void spur_anzeigen(const rennergebnis::spur& s);
+    void bilder_anzeigen(const rennergebnis::spur& s);
+    void rundenliste_schreiben(const rennergebnis::spur& s);
+    std::string rundenzeile(const rennergebnis::spur& s, std::size_t runde) const;
 
     void zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst);
     void zeitgeber_aus();
@@ -164,7 +166,6 @@ private:
     void bestzeiten_vor(aktion danach);
     void bestzeiten_oeffnen(aktion danach);
     void bestzeiten_pruefen();
-    zeit_ms beste_auf_der_spur(int spur) const;
     void ausfuehren(aktion was);
     /// False if the result could not be saved and the operator does not want to lose it.
     bool ergebnis_abgeben(weitergang wie);

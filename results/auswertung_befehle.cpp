@@ -23,7 +23,7 @@ void auswertung::befehle_verbinden() {
     };
     Command4.bei_klick = [this] {
         auswertung_anzeigen();
-        u_.speichern.oeffnen();
+        u_.speichern.oeffnen(ergebnis());
     };
     Command5.bei_klick = [this] { bestzeiten_vor(aktion::hauptmenue); };
     Command6.bei_klick = [this] { Command6_klick(); };
@@ -61,15 +61,17 @@ void auswertung::spurbefehle_verbinden(std::size_t i) {
 }
 
 void auswertung::anzeige_weiterschalten(std::size_t i) {
-    const auto& an = um_.einst.sektor_an;
-    if (std::none_of(an.begin() + 1, an.end(), [](bool sektor) { return sektor; })) {
+    const auto& gemessen = ergebnis().gemessen;
+    if (std::none_of(gemessen.begin(), gemessen.end(), [](bool sektor) { return sektor; })) {
         um_.meldungen.zeigen(wort_.keine_sektoren, um_.txt.titel[0]);
         return;
     }
     const bool letzte = anzeige_modus_.at(i) == anzeige::mit_beidem;
     anzeige_modus_.at(i) = letzte ? anzeige::zeit : static_cast<anzeige>(static_cast<int>(anzeige_modus_.at(i)) + 1);
     liste.at(i).leeren();
-    rundenliste_schreiben(static_cast<int>(i) + 1);
+    if (const rennergebnis::spur* s = ergebnis().auf(static_cast<int>(i) + 1); s != nullptr) {
+        rundenliste_schreiben(*s);
+    }
 }
 
 void auswertung::Command6_klick() {
@@ -94,13 +96,14 @@ void auswertung::meter_eingabe(bool an) {
         const std::size_t i = feld_index(spur);
         cmd_rd_inc[i].aktiviert(!an);
         meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
-        const double bisher = u_.stand.restmeter(spur);  // what is typed now comes on top
+        const rennergebnis::spur* s = ergebnis().auf(spur);
+        const double bisher = s == nullptr ? 0 : s->restmeter;  // what is typed now comes on top
         meter_label[i].text(wort_.restmeter + (bisher == 0 ? "" : " " + zahl_text(bisher, ',') + " +"));
         meter_label[i].sichtbar(meter[i].sichtbar());
         ges_meter[i].sichtbar(!an);
     }
-    if (an) {
-        meter.at(feld_index(u_.stand.fuehrende_spur())).fokus_setzen();
+    if (const rennergebnis::spur* erster = ergebnis().fuehrende(); an && erster != nullptr) {
+        meter.at(feld_index(erster->nummer)).fokus_setzen();
     }
 }
 
@@ -167,7 +170,7 @@ void auswertung::ausfuehren(aktion was) {
 bool auswertung::ergebnis_abgeben(weitergang wie) {
     meter_eingabe_uebernehmen();
     auswertung_anzeigen();
-    return um_.teil_von->uebernehmen(wie) || um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
+    return um_.teil_von->uebernehmen(ergebnis(), wie) || um_.meldungen.fragen(wort_.verlust, um_.txt.titel[1]);
 }
 
 void auswertung::rennen_verlassen() {
@@ -227,12 +230,10 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
     ziel = ganzzahl_lesen(neues_ziel.text(), 0, 99999999);
     int meiste = 0;
     int wenigste = runden_max;
-    for (const int spur : alle_spuren) {
-        const bool faehrt = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
-                            (um_.einst.freie_slots || !um_.teil_von->ist_fueller(spur));
-        if (faehrt) {
-            meiste = std::max(meiste, u_.stand.runden(spur));
-            wenigste = std::min(wenigste, u_.stand.runden(spur));
+    for (const rennergebnis::spur& s : ergebnis().spuren) {
+        if (!s.disqualifiziert && (um_.einst.freie_slots || !um_.teil_von->ist_fueller(s.nummer))) {
+            meiste = std::max(meiste, s.rundenzahl());
+            wenigste = std::min(wenigste, s.rundenzahl());
         }
     }
     // the last may still come home to a target that the first has reached

@@ -6,11 +6,21 @@ namespace tarvel {
 
 sprachliste auswertung::sprache_a() {
     sprachliste texte("language\\language_a.txt");
+    const auto spalte = [&texte](std::string_view deutsch, je_spur<bezeichnung>& ueber, std::string& auf_papier) {
+        texte.text(deutsch, [&ueber, &auf_papier](const std::string& neu) {
+            auf_papier = neu;
+            for (bezeichnung& label : ueber) {
+                label.text(neu);
+            }
+        });
+    };
     texte.ueberschrift("Auswertung").text("Auswertung des Rennens", titel).text("Hauptmenü", wort_.hauptmenue);
     texte.text("Zeitrennen", wort_.zeitrennen).text("Rundenrennen", wort_.rundenrennen);
     texte.text("vorzeitig beendet", wort_.vorzeitig).text("Strafzeit", wort_.strafzeit);
-    texte.text("Spur", wort_.spur).fuer_alle("Runden", Label_runden).fuer_alle("Gesamtzeit", Label_zeit);
-    texte.fuer_alle("beste Runde", Label_beste);
+    texte.text("Spur", wort_.spur);
+    spalte("Runden", Label_runden, blatt.runden);
+    spalte("Gesamtzeit", Label_zeit, blatt.gesamtzeit);
+    spalte("beste Runde", Label_beste, blatt.beste);
     texte.text("Geschwindigkeit beste Runde / Durchschnittsgeschwindigkeit", wort_.tempo);
     texte.text("Rundenliste", wort_.rundenliste);
     texte.text("Rennen wiederholen", Command1).text("neu starten", Command2).text("fortsetzen", Command3);

@@ -43,6 +43,26 @@ std::vector<std::string> rundenzeiten(const spur_angebot& angebot, const trennze
 
 }  // namespace
 
+spuren<spur_angebot> bestzeit_angebote(const rennergebnis& ergebnis) {
+    spuren<spur_angebot> angebote;
+    for (const rennergebnis::spur& s : ergebnis.spuren) {
+        spur_angebot& angebot = angebote[s.nummer];
+        const int davor = s.vor_fortsetzung.value_or(0);
+        angebot.aktiv = true;
+        angebot.fahrer = s.fahrer;
+        angebot.fahrzeug = s.fahrzeug;
+        angebot.beste = davor == 0 ? s.beste : 0;
+        for (auto runde = static_cast<std::size_t>(davor) + 1; runde < s.runden.size(); ++runde) {
+            const zeit_ms zeit = s.runden[runde].zeit;
+            angebot.runden.push_back(zeit);
+            if (davor > 0 && zeit > 0 && (angebot.beste == 0 || zeit < angebot.beste)) {
+                angebot.beste = zeit;
+            }
+        }
+    }
+    return angebote;
+}
+
 beste_zeiten_fenster::beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber)
     : fensterlogik(um.fenster, um.ablage, fenstername::beste_zeiten_fenster),
       um_(um),

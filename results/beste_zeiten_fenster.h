@@ -16,6 +16,7 @@
 #include "platform/kalender.h"
 #include "platform/meldungen.h"
 #include "platform/zeitgeber.h"
+#include "race/rennergebnis.h"
 
 namespace tarvel {
 
@@ -27,6 +28,10 @@ struct spur_angebot {
     zeit_ms beste = 0;            ///< 0 for no lap
     std::vector<zeit_ms> runden;  ///< in the order driven
 };
+
+/// What the lanes of a race offer: of one that has gone on only the laps that were driven on the lane from line to
+/// line.
+spuren<spur_angebot> bestzeit_angebote(const rennergebnis& ergebnis);
 
 /// The window at the end of a race: takes new best times into the table, with corrections of the operator's. Its
 /// control arrays count the lanes from 0.

@@ -9,8 +9,8 @@ std::optional<zeit_ms> einzelrennen::fortsetzbar_bis() const {
     return um_.param.ist_zeitrennen() ? zeit_ms{laengstes.count()} : zeit_ms{runden_max};
 }
 
-bool einzelrennen::uebernehmen(weitergang /*wie*/) {
-    return !um_.einst.aut_speichern || um_.speichern.automatisch_speichern();
+bool einzelrennen::uebernehmen(const rennergebnis& ergebnis, weitergang /*wie*/) {
+    return !um_.einst.aut_speichern || um_.speichern.automatisch_speichern(ergebnis);
 }
 
 }  // namespace tarvel

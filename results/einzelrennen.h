@@ -22,7 +22,7 @@ public:
 
     bool ist_fueller(int spur) const override { return um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]); }
     std::optional<zeit_ms> fortsetzbar_bis() const override;
-    bool uebernehmen(weitergang wie) override;
+    bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
 
 protected:
     umgebung um_;

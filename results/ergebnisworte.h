@@ -19,16 +19,20 @@ struct diagramm_worte {
     sprachliste& eintragen(sprachliste& texte);
 };
 
-/// Words of the printed result that no control holds.
+/// Words of the printed result.
 struct blatt_worte {
     std::string platz;
     std::string spur;
     std::string fahrer;
     std::string fahrzeug;
+    std::string runden;
     std::string meter;
+    std::string gesamtzeit;
     std::string abstand;
+    std::string beste;
     std::string tempo;  ///< of the best lap and on average
 
+    /// But for the captions that the result window has too: these it sets itself.
     sprachliste& eintragen(sprachliste& texte);
 };
 

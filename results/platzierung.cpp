@@ -1,8 +1,11 @@
 #include "results/platzierung.h"
 
+#include <algorithm>
 #include <array>
 #include <compare>
 #include <utility>
+
+#include "core/text.h"
 
 namespace tarvel {
 namespace {
@@ -40,6 +43,18 @@ schluessel_folge schluessel_von(sortier_modus modus) {
     return {mehr_runden, weniger_zeit, schnellere_runde};
 }
 
+// A lane that was not in the race stays behind all others, whatever the key.
+constexpr zeit_ms beste_inaktiv = 999999;
+constexpr platz_werte werte_inaktiv{false, -2, -100.0, 999999999, beste_inaktiv};
+
+platz_werte werte_von(const rennergebnis::spur& spur, sortier_modus modus) {
+    const double meter = std::max(zahl_lesen(zahl_fest(spur.meter, '.')), 0.0);  // what is shown decides
+    const int runden = static_cast<int>(spur.runden.size()) - 1;  // -1 is behind who has crossed the line
+    // out: no lap, and so no fast one either
+    const bool ohne_beste = spur.disqualifiziert && modus == sortier_modus::beste;
+    return {true, runden, meter, spur.gesamtzeit, ohne_beste ? beste_inaktiv : spur.beste};
+}
+
 }  // namespace
 
 sortier_modus gueltiger_modus(sortier_modus modus) {
@@ -67,6 +82,19 @@ spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus mo
         }
     }
     return rang;
+}
+
+void platzieren(rennergebnis& ergebnis) {
+    const sortier_modus modus = gueltiger_modus(ergebnis.wertung.value_or(sortier_modus::runden));
+    spuren<platz_werte> werte;
+    werte.fuellen(werte_inaktiv);
+    for (const rennergebnis::spur& spur : ergebnis.spuren) {
+        werte[spur.nummer] = werte_von(spur, modus);
+    }
+    const spuren<int> folge = rang_folge_bilden(werte, modus);
+    for (rennergebnis::spur& spur : ergebnis.spuren) {
+        spur.platz = static_cast<int>(std::find(folge.begin(), folge.end(), spur.nummer) - folge.begin()) + 1;
+    }
 }
 
 }  // namespace tarvel

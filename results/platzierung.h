@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/einstellungswerte.h"
 #include "core/spuren.h"
-#include "platform/uhr.h"
+#include "race/rennergebnis.h"
 
 namespace tarvel {
 
@@ -23,5 +22,8 @@ sortier_modus gueltiger_modus(sortier_modus modus);
 /// The order of ties is fixed by the exchange sort itself: after the keys of a pair it looks whether the lane whose
 /// number is the place just sorted is inactive, and then exchanges the pair once more.
 spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus modus);
+
+/// Gives each lane of the result its place, by what the result goes by; without that by laps.
+void platzieren(rennergebnis& ergebnis);
 
 }  // namespace tarvel

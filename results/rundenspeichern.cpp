@@ -12,8 +12,11 @@ constexpr std::size_t tageszeilen_max = 1000000;  // what was driven before is n
 
 }  // namespace
 
-rundenspeichern::rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um)
-    : speichernfenster(um, fenstername::rundenspeichern, "language\\language_s1.txt"), r_(r), stand_(stand) {}
+rundenspeichern::rundenspeichern(const trennzeichen_tabelle& trennzeichen, const plattform::kalender& kalender,
+                                 const fenster_umgebung& um)
+    : speichernfenster(um, fenstername::rundenspeichern, "language\\language_s1.txt"),
+      trennzeichen_(trennzeichen),
+      kalender_(kalender) {}
 
 sprachliste rundenspeichern::sprache() {
     sprachliste texte = speichernfenster::sprache();
@@ -30,10 +33,10 @@ sprachliste rundenspeichern::sprache() {
 }
 
 std::string rundenspeichern::stempel() const {
-    return ergebnis_stempel(r_.umgebung.kalender.jetzt());
+    return ergebnis_stempel(kalender_.jetzt());
 }
 
-void rundenspeichern::oeffnen() {
+void rundenspeichern::oeffnen(const rennergebnis& ergebnis) {
     um_.fenster.laden(fenstername::rundenspeichern);
     dateiauftrag auftrag;
     auftrag.speichern = true;
@@ -45,24 +48,24 @@ void rundenspeichern::oeffnen() {
     auftrag.andere_endung_bleibt = true;
     auftrag.name_fehlt = name_fehlt_;
     auftrag.vorschlag = stempel() + std::string(endung);
-    auftrag.ausfuehren = [this](const std::string& name) {
-        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + name) ||
+    auftrag.ausfuehren = [this, &ergebnis](const std::string& gewaehlt) {
+        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + gewaehlt, ergebnis) ||
                schreibfehler_melden();
     };
     speichernfenster::oeffnen(std::move(auftrag));
 }
 
-bool rundenspeichern::automatisch_speichern() {
+bool rundenspeichern::automatisch_speichern(const rennergebnis& ergebnis) {
     texte_lesen();  // the words of the file
     const std::string stamm = std::string(ergebnis_ordner::auto_einzelrennen) + "\\auto-" + stempel();
     std::string pfad = stamm + std::string(endung);
     for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {  // two results within ten seconds
         pfad = stamm + "-" + std::to_string(nummer) + std::string(endung);
     }
-    return einzelrennen_schreiben(pfad) || zeilen() == gesichert_ || schreibfehler_melden();
+    return einzelrennen_schreiben(pfad, ergebnis) || zeilen(ergebnis) == gesichert_ || schreibfehler_melden();
 }
 
-bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei) {
+bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const rennergebnis& ergebnis) {
     texte_lesen();
     auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max);
     if (!zeilen && !um_.ablage.gibt_es(datei)) {
@@ -70,7 +73,7 @@ bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei) {
     }
     const bool gueltig = zeilen && datei_typ_erkennen(*zeilen) == ergebnis_typ::tagesrennen;
     if (gueltig) {
-        const auto neue = tages_zeilen({r_.umgebung, r_.sektoren, stand_, wort_});
+        const auto neue = tages_zeilen(ergebnis, trennzeichen_);
         zeilen->insert(zeilen->end(), neue.begin(), neue.end());
     }
     if (!gueltig || !um_.ablage.zeilen_schreiben(datei, *zeilen)) {
@@ -85,11 +88,11 @@ bool rundenspeichern::schreibfehler_melden() {
     return false;
 }
 
-bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad) {
-    auto ergebnis = zeilen();
-    const bool geschrieben = um_.ablage.zeilen_schreiben(pfad, ergebnis);
+bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis) {
+    auto inhalt = zeilen(ergebnis);
+    const bool geschrieben = um_.ablage.zeilen_schreiben(pfad, inhalt);
     if (geschrieben) {
-        gesichert_ = std::move(ergebnis);
+        gesichert_ = std::move(inhalt);
     }
     return geschrieben;
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/speichernfenster.h"
+#include "platform/kalender.h"
 #include "results/einzelrennen_datei.h"
 
 namespace tarvel {
@@ -10,28 +11,31 @@ namespace tarvel {
 /// Saves results: under a name of the operator's choice in its window, or by itself.
 class rundenspeichern final : public speichernfenster {
 public:
-    rundenspeichern(rennen& r, const wertung& stand, const fenster_umgebung& um);
+    rundenspeichern(const trennzeichen_tabelle& trennzeichen, const plattform::kalender& kalender,
+                    const fenster_umgebung& um);
 
     std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
     /// The texts of the window and of the files.
     sprachliste sprache();
-    /// Opens the window for the single race.
-    void oeffnen();
+    /// Opens the window for the single race, as its result is when it is saved: it must outlive the window.
+    void oeffnen(const rennergebnis& ergebnis);
     /// Saves the single race without a question. A failure shows its message and is false, unless the operator has
     /// saved this very result already.
-    bool automatisch_speichern();
+    bool automatisch_speichern(const rennergebnis& ergebnis);
     /// Adds the result to the file of the day race, likewise. A file that is none of a day race stays as it is.
-    bool tages_ergebnis_schreiben(const std::string& datei);
+    bool tages_ergebnis_schreiben(const std::string& datei, const rennergebnis& ergebnis);
 
 private:
-    std::vector<std::string> zeilen() const { return einzelrennen_zeilen({r_.umgebung, r_.sektoren, stand_, wort_}); }
-    bool einzelrennen_schreiben(const std::string& pfad);
+    std::vector<std::string> zeilen(const rennergebnis& ergebnis) const {
+        return einzelrennen_zeilen(ergebnis, wort_, trennzeichen_);
+    }
+    bool einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
     /// Always false.
     bool schreibfehler_melden();
     std::string stempel() const;
 
-    rennen& r_;
-    const wertung& stand_;
+    const trennzeichen_tabelle& trennzeichen_;
+    const plattform::kalender& kalender_;
     ergebnis_worte wort_;
     std::string titel_;
     std::string name_fehlt_;

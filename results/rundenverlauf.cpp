@@ -11,13 +11,11 @@ constexpr zeit_ms streuungen = 3;
 constexpr zeit_ms zuschlag_prozent = 150;
 constexpr std::size_t aussagekraeftig = 3;  // laps from which a lane knows what is usual for it
 
-std::vector<verlaufsrunde> runden_lesen(const renn_zustand& zustand, int spur) {
-    const int anzahl = zustand.konto.runden(spur);
+std::vector<verlaufsrunde> runden_lesen(const rennergebnis::spur& spur) {
     std::vector<verlaufsrunde> runden;
-    for (int runde = 1; runde <= anzahl; ++runde) {
-        const zeit_ms zeit = zustand.konto.rundenzeit(spur, runde);
-        if (zeit > 0) {
-            runden.push_back({runde, zeit, zustand.konto.pause(spur, runde)});
+    for (std::size_t i = 1; i < spur.runden.size(); ++i) {
+        if (spur.runden[i].zeit > 0) {
+            runden.push_back({static_cast<int>(i), spur.runden[i].zeit, spur.runden[i].pause.value_or(0)});
         }
     }
     return runden;
@@ -34,20 +32,16 @@ zeit_ms grenze_bilden(std::vector<zeit_ms> zeiten) {
 
 }  // namespace
 
-rundenverlauf rundenverlauf_bilden(const renn_zustand& zustand, const renn_parameter& param) {
+rundenverlauf rundenverlauf_bilden(const rennergebnis& ergebnis) {
     rundenverlauf verlauf;
-    for (const int spur : alle_spuren) {
-        if (!param.spur_aktiv[spur]) {
-            continue;
-        }
-        spur_verlauf lauf{spur, param.fahrer_name[spur], zustand.spur[spur].disqualifiziert, {}, 0};
+    for (const rennergebnis::spur& spur : ergebnis.spuren) {
+        spur_verlauf lauf{spur.nummer, spur.fahrer, spur.disqualifiziert, {}, 0};
         if (!lauf.disqualifiziert) {
-            lauf.runden = runden_lesen(zustand, spur);
+            lauf.runden = runden_lesen(spur);
         }
-        // a lap that was taken off may have been the best: then the record's best is none of these
-        const auto beste = std::find_if(lauf.runden.begin(), lauf.runden.end(), [&](const verlaufsrunde& runde) {
-            return runde.zeit == zustand.konto.beste(spur);
-        });
+        // a lap that was taken off may have been the best: then the best is none of these
+        const auto beste = std::find_if(lauf.runden.begin(), lauf.runden.end(),
+                                        [&spur](const verlaufsrunde& runde) { return runde.zeit == spur.beste; });
         lauf.beste = beste == lauf.runden.end() ? 0 : beste->runde;
         verlauf.push_back(std::move(lauf));
     }

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/renn_parameter.h"
-#include "race/renn_zustand.h"
+#include "race/rennergebnis.h"
 
 namespace tarvel {
 
@@ -30,7 +29,7 @@ struct spur_verlauf {
 /// The laps of a race: one entry per lane that was in it, in the order of the lanes.
 using rundenverlauf = std::vector<spur_verlauf>;
 
-rundenverlauf rundenverlauf_bilden(const renn_zustand& zustand, const renn_parameter& param);
+rundenverlauf rundenverlauf_bilden(const rennergebnis& ergebnis);
 
 /// Number of the last lap that any lane has driven; 0 if there is nothing to show.
 int letzte_runde(const rundenverlauf& verlauf);

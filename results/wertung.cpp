@@ -2,16 +2,9 @@
 
 #include <algorithm>
 
-#include "core/text.h"
+#include "results/platzierung.h"
 
 namespace tarvel {
-namespace {
-
-// A lane that was not in the race stays behind all others, whatever the key.
-constexpr zeit_ms beste_inaktiv = 999999;
-constexpr platz_werte werte_inaktiv{false, -2, -100.0, 999999999, beste_inaktiv};
-
-}  // namespace
 
 void wertung::fahrer_umsetzen(const spuren<int>& herkunft) {
     const auto vorher = stand_;
@@ -30,58 +23,21 @@ void wertung::disqualifizierte_streichen() {
     }
 }
 
-int wertung::runden(int spur) const {
-    return std::max(um_.zustand.konto.runden(spur), 0);
-}
-
-std::string wertung::meter_text(int spur, char komma) const {
-    return zahl_fest(meter(spur), komma);
-}
-
 void wertung::meter_auswerten() {
     for (const int spur : alle_spuren) {
         if (um_.zustand.spur[spur].disqualifiziert) {
             stand_[spur] = {};
         } else if (um_.param.spur_aktiv[spur]) {
-            stand_[spur].runden.resize(static_cast<std::size_t>(runden(spur)), um_.param.spurlaenge[spur]);
+            const auto runden = static_cast<std::size_t>(std::max(um_.zustand.konto.runden(spur), 0));
+            stand_[spur].runden.resize(runden, um_.param.spurlaenge[spur]);
         }
     }
 }
 
 void wertung::restmeter_zuschlagen(int spur, double meter) {
-    if (um_.zustand.spur[spur].disqualifiziert) {
-        return;
+    if (!um_.zustand.spur[spur].disqualifiziert) {
+        stand_[spur].restmeter += meter;
     }
-    stand_[spur].restmeter += meter;
-}
-
-void wertung::platzierung_berechnen() {
-    const rundenkonto& konto = um_.zustand.konto;
-    const sortier_modus modus = gueltiger_modus(um_.param.auswertung_nach_rennen);
-    for (const int spur : alle_spuren) {
-        platz_werte& werte = werte_[spur];
-        if (!um_.param.spur_aktiv[spur]) {
-            werte = werte_inaktiv;
-            continue;
-        }
-        const spur_zustand& zustand = um_.zustand.spur[spur];
-        const double meter =
-            std::max(zahl_lesen(meter_text(spur, '.')), 0.0);  // what is shown decides, not what it hides
-        const int runden =
-            std::max(konto.runden(spur), -1);  // laps taken off before the first crossing go further down
-        werte = {true, runden, meter, dauer_ms(zustand.strafzeit).count(), beste_runde(spur)};
-        if (zustand.disqualifiziert && modus == sortier_modus::beste) {
-            werte.beste_runde = beste_inaktiv;  // no lap, and so no fast one either
-        }
-        for (int runde = 1; runde <= konto.runden(spur); ++runde) {
-            werte.gesamtzeit += konto.rundenzeit(spur, runde);
-        }
-    }
-    const spuren<int> rang_folge = rang_folge_bilden(werte_, modus);
-    for (int rang = 1; rang <= spuren_max; ++rang) {
-        platzierung_[rang_folge[rang]] = rang;
-    }
-    fuehrende_spur_ = rang_folge[1];
 }
 
 bool wertung::runde_loeschen(int spur, int runde) {
@@ -95,6 +51,76 @@ bool wertung::runde_loeschen(int spur, int runde) {
         meter_je_runde.erase(meter_je_runde.begin() + runde - 1);
     }
     return true;
+}
+
+void wertung::auswerten() {
+    disqualifizierte_streichen();
+    meter_auswerten();  // the places may go by the metres
+    ergebnis_ = kopf_bilden();
+    for (const int spur : alle_spuren) {
+        ergebnis_.rundenzeilen = std::max(ergebnis_.rundenzeilen, um_.zustand.konto.laufende(spur));
+        if (um_.param.spur_aktiv[spur]) {
+            ergebnis_.spuren.push_back(spur_bilden(spur));
+        }
+    }
+    platzieren(ergebnis_);
+}
+
+rennergebnis wertung::kopf_bilden() const {
+    rennergebnis neu;
+    neu.art = um_.param.art;
+    neu.ziel = um_.param.renn_ziel;
+    neu.wertung = um_.param.auswertung_nach_rennen;
+    neu.vorzeitig = um_.zustand.rennabbruch;
+    const std::string& ende = um_.zustand.rennen_ende_uhrzeit;
+    const std::size_t strich = ende.find('-');
+    neu.datum = ende.substr(0, strich);
+    neu.uhrzeit = strich == std::string::npos ? "" : ende.substr(strich + 1);
+    neu.tanken = um_.param.tank_aktiv;
+    if (um_.einst.real_speed) {
+        neu.massstab = um_.param.massstab;
+    }
+    std::copy(um_.einst.sektor_an.begin() + 1, um_.einst.sektor_an.end(), neu.gemessen.begin());
+    return neu;
+}
+
+rennergebnis::spur wertung::spur_bilden(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const rundenkonto& konto = um_.zustand.konto;
+    rennergebnis::spur neu;
+    neu.nummer = spur;
+    neu.fahrer = um_.param.fahrer_name[spur];
+    neu.fahrzeug = um_.param.fahrzeug_name[spur];
+    neu.laenge = um_.param.spurlaenge_text[spur];
+    for (std::size_t sektor = 1; sektor <= sektoren_max; ++sektor) {
+        if (um_.einst.sektor_an.at(sektor)) {
+            neu.sektorlaenge.at(sektor - 1) = um_.einst.sektor_laenge.at(sektor)[spur];
+        }
+    }
+    neu.disqualifiziert = zustand.disqualifiziert;
+    for (int runde = 0; runde <= konto.runden(spur); ++runde) {
+        neu.runden.push_back(runde_bilden(spur, runde));
+        neu.gesamtzeit += runde > 0 ? neu.runden.back().zeit : 0;
+    }
+    neu.beste = konto.beste(spur);
+    neu.gesamtzeit += dauer_ms(zustand.strafzeit).count();
+    neu.meter = stand_[spur].meter();
+    neu.restmeter = stand_[spur].restmeter;
+    neu.strafzeit = zustand.strafzeit;
+    neu.tankinhalt = zustand.tank_inhalt;
+    neu.vor_fortsetzung = konto.vor_fortsetzung(spur);
+    return neu;
+}
+
+rennergebnis::runde wertung::runde_bilden(int spur, int runde) const {
+    const rundenkonto& konto = um_.zustand.konto;
+    rennergebnis::runde neu{konto.rundenzeit(spur, runde), {}, konto.pause(spur, runde)};
+    for (std::size_t i = 0; runde > 0 && i < neu.sektoren.size(); ++i) {
+        if (um_.einst.sektor_an.at(i + 1)) {
+            neu.sektoren.at(i) = sektoren_.sektorzeit(spur, static_cast<int>(i) + 1, runde);
+        }
+    }
+    return neu;
 }
 
 }  // namespace tarvel

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <utility>
 
 namespace tarvel {
 void fruehstart::zuruecksetzen() {
@@ -102,10 +103,9 @@ void fruehstart::fruehstart_abbruch() {
 
 void fruehstart::fruehstart_disqualifikation() {
     for (const int spur : alle_spuren) {
-        bezeichnung& zaehler = um_.bahn.zaehler[spur];
-        if (stand_[spur].erkannt && zaehler.text() != disqualifiziert_text) {
-            zaehler.text(disqualifiziert_text);
-            um_.zustand.spur[spur].disqualifiziert = true;
+        bool& disqualifiziert = um_.zustand.spur[spur].disqualifiziert;
+        if (stand_[spur].erkannt && !std::exchange(disqualifiziert, true)) {
+            um_.bahn.zaehler[spur].text(disqualifiziert_text);
             strafen_.spur_strom_aus(spur);
         }
     }

@@ -9,7 +9,6 @@ namespace {
 class Auswertung : public test::ProgrammProbe {
 protected:
     auswertung& a = t.p.auswertung;
-    wertung& w = t.p.wertung;
 
     /// Presses the small start light's command and lets it go green.
     void gruen() {
@@ -42,12 +41,12 @@ TEST_F(Auswertung, SechsSpurenRundenrennenVonDerTasteBisZumStand) {
     t.runde_nach(500, "35");
     t.runde_nach(6000, "2");
     ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
-    EXPECT_EQ(w.platzierung(2), 1);
-    EXPECT_EQ(w.platzierung(1), 2);
-    EXPECT_EQ(w.platzierung(4), 3);
-    EXPECT_EQ(w.platzierung(3), 4);
-    EXPECT_EQ(w.platzierung(5), 5);
-    EXPECT_EQ(w.platzierung(6), 6);
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
+    EXPECT_EQ(t.ergebnis(1).platz, 2);
+    EXPECT_EQ(t.ergebnis(4).platz, 3);
+    EXPECT_EQ(t.ergebnis(3).platz, 4);
+    EXPECT_EQ(t.ergebnis(5).platz, 5);
+    EXPECT_EQ(t.ergebnis(6).platz, 6);
     EXPECT_EQ(a.Frame[1].reihe(), 0);
     EXPECT_EQ(a.runden_aus[1].text(), "3");
     EXPECT_EQ(a.beste_aus[1].text(), "06,500");
@@ -144,8 +143,8 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     t.runde_nach(6000, "2");
     t.runde_nach(6000, "2");
     ASSERT_TRUE(offen(fenstername::auswertung));
-    EXPECT_EQ(w.platzierung(2), 1);
-    EXPECT_EQ(w.gesamtzeit(2), 18000 + 5504 + 6005 + 6005 + 5000);
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
+    EXPECT_EQ(t.ergebnis(2).gesamtzeit, 18000 + 5504 + 6005 + 6005 + 5000);
     EXPECT_EQ(a.ges_meter[1].text(), "135,00 m") << "three laps of 25 m, three of 20 m";
     EXPECT_EQ(a.ges_meter[0].text(), "65,00 m");
     a.Command1.klicken();
@@ -220,7 +219,7 @@ TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_FALSE(offen(fenstername::k_ampel));
     EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, ende);
-    EXPECT_EQ(w.runden(1), 2) << "the drivers have changed lanes";
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 2) << "the drivers have changed lanes";
     a.Command3.klicken();
     gruen();
     t.maschine.laufen(59999);
@@ -234,16 +233,16 @@ TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
     t.p.einst.zielmodus_erster = true;
     zwei_spuren_fahren("Runden", "3");
     ASSERT_TRUE(offen(fenstername::auswertung));
-    ASSERT_EQ(w.runden(2), 2);
+    ASSERT_EQ(t.ergebnis(2).rundenzahl(), 2);
     t.maschine.laufen(5000 - 4000);
     t.p.ereignisse.ereignis_melden(art::rundenzaehlung[1]);
     t.maschine.laufen(1);
     t.p.ereignisse[art::rundenzaehlung[2]] = {true, false, false, t.maschine.jetzt()};
     t.p.rennen.zustand.spur[2].pause_abzug = -5000;  // long enough on the way
     t.maschine.laufen(20);
-    EXPECT_EQ(w.runden(1), 3) << "is home";
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 3) << "is home";
     EXPECT_EQ(a.runden_aus[1].text(), "3");
-    EXPECT_EQ(w.platzierung(1), 1);
+    EXPECT_EQ(t.ergebnis(1).platz, 1);
     t.maschine.laufen(2000);
     EXPECT_TRUE(t.spur(2).ziel_erreicht);
 }

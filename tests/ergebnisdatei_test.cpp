@@ -25,6 +25,12 @@ protected:
             EXPECT_TRUE(zeile.ends_with('\r')) << zeile;
             zeilen.push_back(von_1252(zeile.substr(0, zeile.size() - 1)));
         }
+        if (const auto gelesen = einzelrennen_lesen(zeilen)) {
+            EXPECT_EQ(einzelrennen_zeilen(gelesen->ergebnis, gelesen->wort, gelesen->trennzeichen), zeilen);
+            EXPECT_FALSE(gelesen->ergebnis.spuren.front().platz) << "the file has no places";
+        } else {
+            EXPECT_EQ(datei_typ_erkennen(zeilen), ergebnis_typ::tagesrennen);
+        }
         return zeilen;
     }
 

@@ -29,7 +29,6 @@ protected:
     }
 
     auswertung& a = t.p.auswertung;
-    wertung& w = t.p.wertung;
     renn_zustand& zustand = t.p.rennen.zustand;
 };
 
@@ -104,9 +103,9 @@ TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet)
     t.runde_nach(500, "1");
     t.maschine.laufen(10000);
     t.bahn().Command4.klicken();
-    EXPECT_EQ(w.runden(1), 1);
-    EXPECT_NEAR(static_cast<double>(w.gesamtzeit(1)), 4500, 2);
-    EXPECT_EQ(w.runden(2), 0);
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 1);
+    EXPECT_NEAR(static_cast<double>(t.ergebnis(1).gesamtzeit), 4500, 2);
+    EXPECT_EQ(t.ergebnis(2).rundenzahl(), 0);
     t.bahn().Command3.klicken();
     EXPECT_FALSE(zustand.chaos_aktiv) << "no pause behind the result";
 }
@@ -126,7 +125,7 @@ TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     t.runde_nach(500, "1");  // the rest of a lap that began on lane 2
     t.runde_nach(1500, "1");
     t.bahn().Command4.klicken();
-    EXPECT_EQ(w.runden(1), 2);
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 2);
     a.liste[1].auswaehlen(0);
     a.Command8.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "0,00 m") << "lap 1 was driven on lane 1, of 25 m";

@@ -25,21 +25,20 @@ void runden_fahren(rundenkonto& konto, int spur) {
 }
 
 TEST(Rundenverlauf, LiestDieRundenDerGefahrenenSpuren) {
-    renn_zustand zustand;
-    renn_parameter param;
-    for (const int spur : {1, 2, 3, 4, 6}) {
-        runden_fahren(zustand.konto, spur);
-        param.spur_aktiv[spur] = spur != 6;  // left over from the race before
+    rennergebnis ergebnis;
+    for (const int spur : {1, 2, 3, 4, 5}) {
+        rennergebnis::spur s;
+        s.nummer = spur;
+        s.runden = {{900, {}, {}}, {8000, {}, {}}, {7500, {}, 31000}, {7500, {}, 0}};  // row 0 only starts the count
+        s.beste = 7500;
+        ergebnis.spuren.push_back(s);
     }
-    param.spur_aktiv[5] = true;
-    param.fahrer_name[1] = "Anna";
-    zustand.spur[2].disqualifiziert = true;
-    zustand.konto.leeren(3);
-    zustand.konto.zaehlen(4, 7000, 62000, 0);
-    zustand.konto.beste_werten(4, 7000);
-    zustand.konto.abziehen(4);
+    ergebnis.spuren[0].fahrer = "Anna";
+    ergebnis.spuren[1].disqualifiziert = true;
+    ergebnis.spuren[2].runden.clear();
+    ergebnis.spuren[3].beste = 7000;  // that lap was taken off
 
-    const rundenverlauf verlauf = rundenverlauf_bilden(zustand, param);
+    const rundenverlauf verlauf = rundenverlauf_bilden(ergebnis);
     ASSERT_EQ(verlauf.size(), 5U);
     EXPECT_EQ(verlauf[0].fahrer, "Anna");
     EXPECT_EQ(verlauf[0].runden, (std::vector<verlaufsrunde>{{1, 8000, 0}, {2, 7500, 31000}, {3, 7500, 0}}));

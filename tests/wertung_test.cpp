@@ -96,9 +96,9 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
         int platz = 0;
         for (const platz_von_hand& p : r.stand) {
             SCOPED_TRACE(p.spur);
-            EXPECT_EQ(t.p.wertung.platzierung(p.spur), ++platz);
-            EXPECT_EQ(t.p.wertung.runden(p.spur), p.runden);
-            EXPECT_EQ(t.p.wertung.gesamtzeit(p.spur), p.zeit);
+            EXPECT_EQ(t.ergebnis(p.spur).platz, ++platz);
+            EXPECT_EQ(t.ergebnis(p.spur).rundenzahl(), p.runden);
+            EXPECT_EQ(t.ergebnis(p.spur).gesamtzeit, p.zeit);
         }
         t.p.auswertung.Command5.klicken();
     }
@@ -112,7 +112,6 @@ protected:
         t.p.einst.sensor_timeout = 0ms;
     }
     auswertung& a = t.p.auswertung;
-    wertung& w = t.p.wertung;
 };
 
 TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
@@ -126,13 +125,13 @@ TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
     t.bahn().Command4.klicken();
     a.Command8.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Bitte zu löschende Runde auswählen.");
-    EXPECT_EQ(w.platzierung(1), 1);
+    EXPECT_EQ(t.ergebnis(1).platz, 1);
     a.liste[0].auswaehlen(1);  // 3000, 3000, 3500
     a.Command8.klicken();
     EXPECT_EQ(a.liste[0].zeilen(), (std::vector<std::string>{"1.  00:06,000", "2.  00:03,500"}));
-    EXPECT_EQ(w.gesamtzeit(1), 9500);
-    EXPECT_EQ(w.beste_runde(1), 3500);
-    EXPECT_EQ(w.platzierung(2), 1);
+    EXPECT_EQ(t.ergebnis(1).gesamtzeit, 9500);
+    EXPECT_EQ(t.ergebnis(1).beste, 3500);
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
     EXPECT_EQ(a.ges_meter[0].text(), "50,00 m");
     a.liste[1].auswaehlen(0);
     a.cmd_rd_add[1].klicken();
@@ -140,11 +139,11 @@ TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
     a.liste[0].auswaehlen(0);
     EXPECT_EQ(a.liste[1].markiert(), -1) << "one lap is selected, not one in each list";
     a.cmd_rd_inc[0].klicken();
-    EXPECT_EQ(w.gesamtzeit(1), 3500) << "the first lap goes to the way to the line";
+    EXPECT_EQ(t.ergebnis(1).gesamtzeit, 3500) << "the first lap goes to the way to the line";
     a.liste[0].auswaehlen(0);
     a.cmd_rd_inc[0].klicken();
-    EXPECT_EQ(w.runden(1), 0);
-    EXPECT_EQ(w.beste_runde(1), 0);
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 0);
+    EXPECT_EQ(t.ergebnis(1).beste, 0);
     EXPECT_EQ(a.kmh_label[0].text(), "0,00 / 0,00 km/h");
 }
 
@@ -164,13 +163,13 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     a.Command6.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "27,46 m");
     EXPECT_EQ(a.ges_meter[2].text(), "0,00 m");
-    EXPECT_EQ(w.platzierung(2), 1);
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
     a.Command10.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "27,46 m") << "counts once";
     a.Command6.klicken();
     a.meter[1].eingeben("-2,5");
     a.Command6.klicken();
-    EXPECT_EQ(w.platzierung(1), 1) << "a wrong entry can be taken back";
+    EXPECT_EQ(t.ergebnis(1).platz, 1) << "a wrong entry can be taken back";
 }
 
 TEST_F(WertungKorrektur, AnzeigeDerSektoren) {
@@ -188,6 +187,7 @@ TEST_F(WertungKorrektur, AnzeigeDerSektoren) {
         EXPECT_EQ(a.liste[0].zeilen().front(), std::string(zeit) + dahinter);
     }
     t.p.einst.sektor_an = {};
+    a.Command10.klicken();
     a.cmd_anzeige[0].klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Sektoren nicht aktiviert - Anzeigeänderung nicht möglich.");
 }

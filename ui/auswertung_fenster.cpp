@@ -63,15 +63,16 @@ QWidget* AuswertungFenster::verlaufsfeld() {
 
 rundenbild_inhalt AuswertungFenster::bildinhalt() const {
     const einstellungen& einst = logik_.einst();
-    return {logik_.verlauf(), einst.farben_spur, logik_.diagramm, einst.trennzeichen};
+    return {rundenverlauf_bilden(logik_.ergebnis()), einst.farben_spur, logik_.diagramm, einst.trennzeichen};
 }
 
-ergebnisblatt AuswertungFenster::blatt_lesen() const {
-    return ergebnisblatt_lesen(logik_, bildinhalt(), logik_.blatt);
+ergebnisblatt AuswertungFenster::blatt_bilden() const {
+    return ergebnisblatt_bilden(
+        logik_.ergebnis(), {logik_.titel.text(), logik_.kopf(), logik_.wort_strafzeit(), logik_.blatt}, bildinhalt());
 }
 
 void AuswertungFenster::drucken() {
-    ergebnisblatt_drucken(this, blatt_lesen(), [this] { logik_.druck_misslungen(); });
+    ergebnisblatt_drucken(this, blatt_bilden(), [this] { logik_.druck_misslungen(); });
 }
 
 void AuswertungFenster::pdf_speichern(const dateien& ablage) {
@@ -82,7 +83,7 @@ void AuswertungFenster::pdf_speichern(const dateien& ablage) {
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
     dialog->selectFile(QString::fromStdU16String(vorschlag));
-    const ergebnisblatt blatt = blatt_lesen();  // as it stands now, whatever happens while the name is chosen
+    const ergebnisblatt blatt = blatt_bilden();  // as it stands now, whatever happens while the name is chosen
     QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, blatt](const QString& pfad) {
         if (!ergebnisblatt_pdf(pfad, blatt)) {
             logik_.pdf_misslungen();

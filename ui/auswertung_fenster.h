@@ -24,7 +24,7 @@ private:
     QWidget* standfeld(const dateien& ablage);
     QWidget* verlaufsfeld();
     rundenbild_inhalt bildinhalt() const;
-    ergebnisblatt blatt_lesen() const;
+    ergebnisblatt blatt_bilden() const;
     void drucken();
     void pdf_speichern(const dateien& ablage);
     QLayout* korrekturzeile();

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "core/texte.h"
+#include "results/ergebnistexte.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -22,35 +23,28 @@ QString wort_von(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-QString text_von(const steuerelement& element) {
-    return QString::fromStdString(element.text());
-}
-
-QString falls_sichtbar(const steuerelement& element) {
-    return element.sichtbar() ? text_von(element) : QString();
-}
-
 QString produkt() {
     return wort_von(std::string(programm_name) + " " + std::string(programm_version));
 }
 
-ergebnisblatt::zeile zeile_lesen(const auswertung& stand, int spur) {
-    const std::size_t i = feld_index(spur);
-    const QString runden = text_von(stand.runden_aus.at(i));
+ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebnis::spur& s,
+                                  const std::string& strafzeit, const rundenbild_inhalt& bild) {
+    namespace text = ergebnistext;
+    const trennzeichen_tabelle& trennzeichen = bild.trennzeichen;
     // what a lane without a lap is behind by, or its best lap of nothing, would only puzzle the reader
-    const bool gewertet = runden != "0" && runden != wort_von(std::string(disqualifiziert_text));
-    const auto zahl = [gewertet](const QString& text) { return gewertet ? text : QString("–"); };
-    return {stil::farbe_von(stand.Frame.at(i).schriftfarbe().value_or(0)),
-            gewertet && stand.Frame.at(i).reihe() == 0,
-            {{text_von(stand.platz.at(i)), {}},
-             {QString::number(spur), {}},
-             {text_von(stand.fahrer.at(i)), text_von(stand.fahrzeug.at(i))},
-             {runden, {}},
-             {zahl(text_von(stand.ges_meter.at(i))), {}},
-             {zahl(text_von(stand.zeit_aus.at(i))), falls_sichtbar(stand.aus_straflabel.at(i))},
-             {zahl(falls_sichtbar(stand.abstandlabel.at(i))), {}},
-             {zahl(text_von(stand.beste_aus.at(i))), {}},
-             {zahl(text_von(stand.kmh_label.at(i))), {}}}};
+    const bool gewertet = s.rundenzahl() > 0 && !s.disqualifiziert;
+    const auto zahl = [gewertet](const std::string& figur) { return gewertet ? wort_von(figur) : QString("–"); };
+    return {stil::farbe_von(bild.farben[s.nummer]),
+            gewertet && s.platz == 1,
+            {{QString::number(s.platz.value_or(0)) + ".", {}},
+             {QString::number(s.nummer), {}},
+             {wort_von(s.fahrer), wort_von(s.fahrzeug)},
+             {wort_von(text::runden(s)), {}},
+             {zahl(text::meter(s)), {}},
+             {zahl(text::zeit(s, trennzeichen)), wort_von(text::strafe(s, strafzeit))},
+             {zahl(text::abstand(ergebnis, s, trennzeichen)), {}},
+             {zahl(text::beste(s, trennzeichen)), {}},
+             {zahl(text::tempo(s)), {}}}};
 }
 
 QPageLayout seite() {
@@ -70,25 +64,18 @@ bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const ergebnisblatt& blatt) 
 
 }  // namespace
 
-ergebnisblatt ergebnisblatt_lesen(const auswertung& stand, rundenbild_inhalt bild, const blatt_worte& wort) {
-    ergebnisblatt blatt{text_von(stand.titel), text_von(stand.kopf_label), {}, {}, std::move(bild)};
-    blatt.spalten = {wort_von(wort.platz),
-                     wort_von(wort.spur),
-                     wort_von(wort.fahrer) + " / " + wort_von(wort.fahrzeug),
-                     text_von(stand.Label_runden.front()),
-                     wort_von(wort.meter),
-                     text_von(stand.Label_zeit.front()),
-                     wort_von(wort.abstand),
-                     text_von(stand.Label_beste.front()),
-                     wort_von(wort.tempo)};
-    std::vector<int> folge;
-    std::copy_if(alle_spuren.begin(), alle_spuren.end(), std::back_inserter(folge),
-                 [&](int spur) { return stand.Frame.at(feld_index(spur)).sichtbar(); });
-    std::stable_sort(folge.begin(), folge.end(), [&](int a, int b) {
-        return stand.Frame.at(feld_index(a)).reihe() < stand.Frame.at(feld_index(b)).reihe();
-    });
-    for (const int spur : folge) {
-        blatt.zeilen.push_back(zeile_lesen(stand, spur));
+ergebnisblatt ergebnisblatt_bilden(const rennergebnis& ergebnis, const blatt_beschriftung& beschriftung,
+                                   rundenbild_inhalt bild) {
+    const blatt_worte& wort = beschriftung.wort;
+    ergebnisblatt blatt{wort_von(beschriftung.titel), wort_von(beschriftung.kopf), {}, {}, std::move(bild)};
+    blatt.spalten = {
+        wort_von(wort.platz),   wort_von(wort.spur),  wort_von(wort.fahrer) + " / " + wort_von(wort.fahrzeug),
+        wort_von(wort.runden),  wort_von(wort.meter), wort_von(wort.gesamtzeit),
+        wort_von(wort.abstand), wort_von(wort.beste), wort_von(wort.tempo)};
+    std::vector<rennergebnis::spur> folge = ergebnis.spuren;
+    std::stable_sort(folge.begin(), folge.end(), [](const auto& a, const auto& b) { return a.platz < b.platz; });
+    for (const rennergebnis::spur& s : folge) {
+        blatt.zeilen.push_back(zeile_bilden(ergebnis, s, beschriftung.strafzeit, blatt.bild));
     }
     return blatt;
 }

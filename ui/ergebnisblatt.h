@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "results/auswertung.h"
+#include "race/rennergebnis.h"
 #include "results/ergebnisworte.h"
 #include "ui/rundenbild.h"
 
@@ -18,8 +18,8 @@ struct blattzelle {
     QString zusatz;
 };
 
-/// The result of a race as one page for the wall, as the result window showed it when it was read: what happens in the
-/// window while a dialog is open does not change it.
+/// The result of a race as one page for the wall, as the result was when it was made: what happens in the window while
+/// a dialog is open does not change it.
 struct ergebnisblatt {
     struct zeile {
         QColor farbe;                    ///< of the lane
@@ -34,7 +34,16 @@ struct ergebnisblatt {
     rundenbild_inhalt bild;
 };
 
-ergebnisblatt ergebnisblatt_lesen(const auswertung& stand, rundenbild_inhalt bild, const blatt_worte& wort);
+/// What is written over the figures.
+struct blatt_beschriftung {
+    std::string titel;
+    std::string kopf;
+    std::string strafzeit;
+    blatt_worte wort;
+};
+
+ergebnisblatt ergebnisblatt_bilden(const rennergebnis& ergebnis, const blatt_beschriftung& beschriftung,
+                                   rundenbild_inhalt bild);
 
 /// Fills the area and no more; it is meant for a page in landscape.
 void ergebnisblatt_zeichnen(QPainter& maler, const QRectF& flaeche, const ergebnisblatt& blatt);

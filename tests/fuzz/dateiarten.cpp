@@ -11,6 +11,7 @@
 #include "core/wechselschema.h"
 #include "hardware/at2560_profil.h"
 #include "hardware/tastenbelegung.h"
+#include "results/einzelrennen_datei.h"
 #include "results/ergebnisdatei.h"
 
 namespace fs = std::filesystem;
@@ -185,6 +186,12 @@ bool ergebnis_lesen(werkbank& bank, const std::string& bytes) {
     fordern(bank.ausgang.zeilen_schreiben("ergebnis.csv", zeilen), "a result cannot be written");
     const auto zurueck = ergebnis_zeilen_lesen(bank.ausgang, "ergebnis.csv");
     fordern(zurueck == zeilen && datei_typ_erkennen(zurueck) == typ, "a result changes on the way through its file");
+    if (const auto gelesen = einzelrennen_lesen(zeilen)) {
+        const auto neu = einzelrennen_zeilen(gelesen->ergebnis, gelesen->wort, gelesen->trennzeichen);
+        const auto wieder = einzelrennen_lesen(neu);
+        fordern(wieder && einzelrennen_zeilen(wieder->ergebnis, wieder->wort, wieder->trennzeichen) == neu,
+                "a race that was read changes each time it is written");
+    }
     return typ != ergebnis_typ::unbekannt;
 }
 
@@ -226,6 +233,34 @@ std::string alte_einstellungen(std::vector<std::string> zeilen) {
     std::replace(zeilen.begin(), zeilen.end(), std::string("Falsch"), std::string("False"));
     zeilen.emplace_back("{EOF}");
     return als_bytes(zeilen);
+}
+
+std::string volles_ergebnis() {
+    rennergebnis ergebnis;
+    ergebnis.datum = "21.11.2026";
+    ergebnis.uhrzeit = "14:03:22";
+    ergebnis.rundenzeilen = 3;
+    ergebnis.gemessen = {true, true, false};
+    for (const int nummer : {1, 4}) {
+        rennergebnis::spur s;
+        s.nummer = nummer;
+        s.fahrer = "J\xC3\xB6rg";
+        s.fahrzeug = "Viper";
+        s.laenge = "12.5";
+        s.sektorlaenge = {"5", "7.5", ""};
+        s.disqualifiziert = nummer == 4;
+        s.runden = {{900, {}, {}}, {8000, {3000, 5000, 0}, {}}};
+        ergebnis.spuren.push_back(s);
+    }
+    const ergebnis_worte wort{
+        "Rennergebnis",    "Tanken aktiv",     "Rundendirektvergleich", "Spur",      "Rundenzahl",
+        "Disqualifiziert", "Spurl\xC3\xA4nge", "Sektorl\xC3\xA4nge",    "Restmeter", "Gesamtmeter",
+        "Gesamtzeit"};
+    std::string bytes;
+    for (const std::string& zeile : einzelrennen_zeilen(ergebnis, wort, trennzeichen_standard)) {
+        bytes += nach_1252(zeile) + "\r\n";
+    }
+    return bytes;
 }
 
 std::string volle_liste() {
@@ -301,7 +336,8 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
           startdatei_lesen}},
         {"tasten", {{alle_tasten(bank)}, tasten_lesen}},
         {"ergebnis",
-         {{"Rennergebnis;15.11.2026;16:43:45\r\n\r\nAnna; 2;23.40;\r\nTarvel\r\nTV-ERD\r\nhttps://tarvel.invalid\r\n",
+         {{volles_ergebnis(),
+           "Rennergebnis;15.11.2026;16:43:45\r\n\r\nAnna; 2;23.40;\r\nTarvel\r\nTV-ERD\r\nhttps://tarvel.invalid\r\n",
            "Titel\r\nNr;Name\r\n1;Anna\r\nTV-WKD\r\n", "TV-JJ2-WKD\r\n", "Tarvel Tagesrennen\r\n0;Anna; 2\r\n"},
           ergebnis_lesen}},
         {"wechselschema", {{"\r\n#Rennen\r\n123456P\r\n\r\n#Zwei\r\n1P65432\r\n"}, wechselschema_lesen}},

@@ -24,6 +24,8 @@ struct testprogramm {
     void runde_nach(zeit_ms dauer, std::string_view tasten);
 
     bahn1& bahn() { return p.rennen.bahn1; }
+    /// What the result says of a lane that was in the race.
+    const rennergebnis::spur& ergebnis(int nummer) const { return *p.wertung.ergebnis().auf(nummer); }
     spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
     int runden(int spur) const { return p.rennen.zustand.konto.runden(spur); }
     /// The lane has this many laps, those that it lacks without a time.

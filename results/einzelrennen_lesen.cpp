@@ -1,0 +1,213 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "core/text.h"
+#include "race/rundenspeicher.h"
+#include "results/einzelrennen_datei.h"
+#include "results/ergebnisdatei.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t felder_je_spur = 5;
+constexpr std::size_t kennzahlen_anzahl = 9;
+constexpr std::size_t erste_spurzeile = 5;
+constexpr std::size_t fusszeilen = 4;
+
+using felder = std::vector<std::string>;
+
+felder zerlegen(std::string_view zeile, std::string_view trenner) {
+    felder alle;
+    for (std::size_t ende = zeile.find(trenner); ende != std::string_view::npos; ende = zeile.find(trenner)) {
+        alle.emplace_back(zeile.substr(0, ende));
+        zeile.remove_prefix(ende + trenner.size());
+    }
+    alle.emplace_back(zeile);
+    return alle;
+}
+
+/// Two, two and three digits with a character between them: minutes, seconds, thousandths. Nothing else is a time.
+std::optional<zeit_ms> zeit_lesen(std::string_view text, trennzeichen_tabelle& trennzeichen) {
+    const auto zahl = [](std::string_view ziffern) {
+        int wert = -1;
+        const auto [ende, fehler] = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
+        return fehler == std::errc() && ende == ziffern.data() + ziffern.size() ? wert : -1;
+    };
+    if (laenge(text) != 9) {
+        return std::nullopt;
+    }
+    const std::string_view minuten = links(text, 2);
+    const std::string_view sekunden = mitte(text, 4, 2);
+    const std::string_view tausendstel = rechts(text, 3);
+    if (zahl(minuten) < 0 || zahl(sekunden) < 0 || zahl(tausendstel) < 0) {
+        return std::nullopt;
+    }
+    trennzeichen[0] = mitte(text, 3, 1);
+    trennzeichen[1] = mitte(text, 6, 1);
+    return (zeit_ms{60} * zahl(minuten) + zahl(sekunden)) * 1000 + zahl(tausendstel);
+}
+
+class leser {
+public:
+    explicit leser(const std::vector<std::string>& zeilen) : z_(zeilen) {}
+
+    std::optional<gelesenes_rennen> lesen() {
+        const bool gut = datei_typ_erkennen(z_) == ergebnis_typ::einzelrennen && kopf() && direktvergleich() &&
+                         kennzahlen() && rundentabelle();
+        return gut ? std::optional(std::move(r_)) : std::nullopt;
+    }
+
+private:
+    using spur = rennergebnis::spur;
+
+    const std::string& trenner() const { return r_.trennzeichen[2]; }
+
+    /// The end's time of day stands last, the date in front of it, and a separator in front of both.
+    bool kopf() {
+        constexpr std::size_t uhrzeit_laenge = 8;
+        if (z_.size() < erste_spurzeile + fusszeilen || laenge(z_[0]) <= uhrzeit_laenge) {
+            return false;
+        }
+        r_.trennzeichen[2] = links(rechts(z_[0], uhrzeit_laenge + 1), 1);
+        const felder teile = zerlegen(z_[0], trenner());
+        if (teile.size() < 3) {
+            return false;
+        }
+        rennergebnis& e = r_.ergebnis;
+        e.uhrzeit = teile.back();
+        e.datum = teile[teile.size() - 2];
+        r_.wort.rennergebnis = teile[0];
+        r_.wort.tanken_aktiv = z_[1];
+        e.tanken = !z_[1].empty();
+        r_.wort.direktvergleich = z_[3];
+        return true;
+    }
+
+    bool direktvergleich() {
+        for (zeile_ = erste_spurzeile; zeile_ < z_.size() && !z_[zeile_].empty(); ++zeile_) {
+            felder teile = zerlegen(z_[zeile_], trenner());
+            if (teile.size() < 6 || r_.ergebnis.spuren.size() == spuren_max) {
+                return false;
+            }
+            spur s;
+            s.fahrer = teile[0];
+            const auto beste = zeit_lesen(teile[3], r_.trennzeichen);
+            const auto gesamt = zeit_lesen(teile[4], r_.trennzeichen);
+            if (!beste || !gesamt) {
+                return false;
+            }
+            s.beste = *beste;
+            s.gesamtzeit = *gesamt;
+            for (std::size_t i = 5; i + 1 < teile.size(); ++i) {  // behind the last separator stands nothing
+                const auto zeit = zeit_lesen(teile[i], r_.trennzeichen);
+                if (!zeit || s.runden.size() > static_cast<std::size_t>(runden_max)) {
+                    return false;
+                }
+                s.runden.push_back({*zeit, {}, {}});
+            }
+            r_.ergebnis.spuren.push_back(std::move(s));
+        }
+        zeile_ += 2;  // two blank lines
+        return !r_.ergebnis.spuren.empty();
+    }
+
+    /// The five fields of each lane in the next line.
+    bool block_zeile(std::vector<std::array<std::string, felder_je_spur>>& bloecke) {
+        if (zeile_ >= z_.size()) {
+            return false;
+        }
+        const felder teile = zerlegen(z_[zeile_++], trenner());
+        const std::size_t anzahl = r_.ergebnis.spuren.size();
+        if (teile.size() < anzahl * felder_je_spur) {
+            return false;
+        }
+        bloecke.resize(anzahl);
+        for (std::size_t i = 0; i < anzahl * felder_je_spur; ++i) {
+            bloecke[i / felder_je_spur].at(i % felder_je_spur) = teile[i];
+        }
+        return true;
+    }
+
+    bool kennzahlen() {
+        std::array<std::vector<std::array<std::string, felder_je_spur>>, kennzahlen_anzahl> k;
+        for (auto& zeile : k) {
+            if (!block_zeile(zeile)) {
+                return false;
+            }
+        }
+        auto& [nummern, fahrer, fahrzeuge, runden, laengen, sektoren, rest, meter, zeiten] = k;
+        r_.wort.rundenzahl = runden[0][0];
+        r_.wort.spurlaenge = laengen[0][0];
+        r_.wort.sektorlaenge = sektoren[0][0];
+        r_.wort.restmeter = rest[0][0];
+        r_.wort.gesamtmeter = meter[0][0];
+        r_.wort.gesamtzeit = zeiten[0][0];
+        for (std::size_t i = 0; i < r_.ergebnis.spuren.size(); ++i) {
+            spur& s = r_.ergebnis.spuren[i];
+            if (!nummer_lesen(nummern[i][0], s)) {
+                return false;
+            }
+            s.fahrzeug = fahrzeuge[i][0];
+            s.disqualifiziert = runden[i][1].find_first_of("0123456789") == std::string::npos;
+            if (s.disqualifiziert) {
+                r_.wort.disqualifiziert = runden[i][1];
+            }
+            s.laenge = laengen[i][1];
+            std::copy(sektoren[i].begin() + 1, sektoren[i].begin() + 4, s.sektorlaenge.begin());
+            s.restmeter = zahl_lesen(rest[i][1]);
+            s.meter = zahl_lesen(meter[i][1]);
+        }
+        return true;
+    }
+
+    /// "Spur 3": the number stands last.
+    bool nummer_lesen(const std::string& text, spur& s) {
+        const std::size_t blank = text.rfind(' ');
+        if (blank == std::string::npos) {
+            return false;
+        }
+        r_.wort.spur = text.substr(0, blank);
+        s.nummer = static_cast<int>(ganzzahl_lesen(text.substr(blank + 1), 0, spuren_max));
+        const auto gleiche = std::count_if(r_.ergebnis.spuren.begin(), r_.ergebnis.spuren.end(),
+                                           [&s](const spur& andere) { return andere.nummer == s.nummer; });
+        return s.nummer >= 1 && gleiche == 1;
+    }
+
+    bool rundentabelle() {
+        ++zeile_;  // the mark in front of the table
+        std::vector<std::array<std::string, felder_je_spur>> bloecke;
+        std::size_t runde = 0;
+        for (; zeile_ + fusszeilen < z_.size(); ++runde) {
+            if (!block_zeile(bloecke)) {
+                return false;
+            }
+            for (std::size_t i = 0; i < bloecke.size(); ++i) {
+                sektoren_lesen(bloecke[i], r_.ergebnis.spuren[i], runde);
+            }
+        }
+        r_.ergebnis.rundenzeilen = static_cast<int>(runde);
+        return true;
+    }
+
+    void sektoren_lesen(const std::array<std::string, felder_je_spur>& block, spur& s, std::size_t runde) {
+        for (std::size_t i = 0; i < sektoren_max; ++i) {
+            r_.ergebnis.gemessen.at(i) = r_.ergebnis.gemessen.at(i) || !s.sektorlaenge.at(i).empty();
+            if (runde < s.runden.size()) {
+                s.runden[runde].sektoren.at(i) = zeit_lesen(block.at(i + 1), r_.trennzeichen).value_or(0);
+            }
+        }
+    }
+
+    const std::vector<std::string>& z_;
+    std::size_t zeile_ = 0;
+    gelesenes_rennen r_;
+};
+
+}  // namespace
+
+std::optional<gelesenes_rennen> einzelrennen_lesen(const std::vector<std::string>& zeilen) {
+    return leser(zeilen).lesen();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,48 @@
+#include "results/ergebnistexte.h"
+
+#include <cstdlib>
+
+#include "core/text.h"
+#include "core/texte.h"
+#include "race/sektoren.h"
+
+namespace tarvel::ergebnistext {
+
+std::string runden(const spur& s) {
+    return s.disqualifiziert ? std::string(disqualifiziert_text) : std::to_string(s.rundenzahl());
+}
+
+std::string meter(const spur& s) {
+    return zahl_fest(s.meter, ',') + " m";
+}
+
+std::string zeit(const spur& s, const trennzeichen_tabelle& trennzeichen) {
+    return zeit_formatieren(s.gesamtzeit, true, trennzeichen);
+}
+
+std::string beste(const spur& s, const trennzeichen_tabelle& trennzeichen) {
+    return zeit_formatieren(s.beste, false, trennzeichen);
+}
+
+std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeichen_tabelle& trennzeichen) {
+    const spur* erster = ergebnis.fuehrende();
+    if (erster == nullptr || erster->nummer == s.nummer) {
+        return {};
+    }
+    const zeit_ms dahinter = s.gesamtzeit - erster->gesamtzeit;
+    return (dahinter < 0 ? "- " : "+ ") + zeit_formatieren(std::abs(dahinter), true, trennzeichen);
+}
+
+std::string tempo(const spur& s) {
+    const double laenge = zahl_lesen(s.laenge);
+    const auto ueber = [laenge](int runden, zeit_ms dauer) {
+        return zahl_fest(sektor_tempo(laenge * runden, dauer), ',');
+    };
+    return ueber(1, s.beste) + " / " + ueber(s.rundenzahl(), s.gesamtzeit) + " km/h";
+}
+
+std::string strafe(const spur& s, const std::string& wort) {
+    return s.strafzeit.value_or(0s) > 0s ? wort + ": " + std::to_string(s.strafzeit->count()) + " sec" : std::string();
+}
+
+}  // namespace tarvel::ergebnistext

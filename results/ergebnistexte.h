@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+#include "core/zeit.h"
+#include "race/rennergebnis.h"
+
+/// How the figures of a result are written in windows and on paper.
+namespace tarvel::ergebnistext {
+
+using spur = rennergebnis::spur;
+
+/// Laps, or that the lane is out.
+std::string runden(const spur& s);
+/// "23,40 m".
+std::string meter(const spur& s);
+/// Total time.
+std::string zeit(const spur& s, const trennzeichen_tabelle& trennzeichen);
+std::string beste(const spur& s, const trennzeichen_tabelle& trennzeichen);
+/// Total time behind the leader's, "- " for a lane that has the lower time in fewer laps. Empty for the leader.
+std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeichen_tabelle& trennzeichen);
+/// Speed of the best lap and on average.
+std::string tempo(const spur& s);
+/// Empty without a penalty; `wort` names it.
+std::string strafe(const spur& s, const std::string& wort);
+
+}  // namespace tarvel::ergebnistext
