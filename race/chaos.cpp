@@ -158,8 +158,7 @@ void chaos::pause_beginnen() {
 }
 
 void chaos::zeitgeber_anhalten() {
-    um_.zustand.pause.f_straftimer_lief = um_.zeitgeber.f_straftimer->laeuft();
-    um_.zeitgeber.f_straftimer->aus();
+    t_.fruehstart.anhalten();
     for (const int spur : alle_spuren) {
         um_.zeitgeber.t_straftimer[spur]->aus();
         um_.zeitgeber.tanktimer[spur]->aus();
@@ -167,9 +166,7 @@ void chaos::zeitgeber_anhalten() {
 }
 
 void chaos::zeitgeber_fortsetzen() {
-    if (um_.zustand.pause.f_straftimer_lief) {
-        um_.zeitgeber.f_straftimer->an();
-    }
+    t_.fruehstart.fortsetzen();
     for (const int spur : alle_spuren) {
         const spur_zustand& zustand = um_.zustand.spur[spur];
         if (zustand.tank_strafe_aktiv) {

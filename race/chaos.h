@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "race/fruehstartstrafe.h"
 #include "race/rennablauf.h"
 #include "race/strafen.h"
 #include "race/umgebung.h"
@@ -17,6 +18,7 @@ public:
         rennablauf& ablauf;
         rennansicht& ansicht;
         strafen& strafe;
+        fruehstartstrafe& fruehstart;
     };
 
     chaos(const renn_umgebung& um, const teile& t);

@@ -18,7 +18,7 @@ struct spur_zustand {
     dauer_s strafzeit{};         ///< time penalty
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
     bool disqualifiziert = false;
-    bool fruehstart_sperre = false;  ///< serves a penalty and counts nothing
+    bool fruehstart_sperre = false;  ///< serves a penalty, of a false start or a pause, and counts nothing
     double tank_inhalt = 0;          ///< litres
     bool tank_kontakt = false;       ///< stands on the tank contact
     zeit_ms tankt_seit = 0;          ///< stamp up to which refuelling has come, 0 while the lane does not refuel
@@ -45,7 +45,6 @@ struct pausen_zustand {
     bool schalter_stand = false;   ///< the chaos switch was seen on
     zeit_ms schalter_zuletzt = 0;  ///< stamp at which it was last seen on after a pause
     bool nachlauf_nach_pause = false;
-    bool f_straftimer_lief = false;
     bool geraet_rot = false;        ///< the light of the device has been red in this pause
     zeit_ms neustart_verlangt = 0;  ///< stamp at which that light was asked for, 0 not yet
 };
@@ -61,7 +60,6 @@ struct renn_zustand {
     zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
     int fuehrungsrunden = 0;        ///< most laps that any lane has reached
     int nachlauf_minuten = 0;       ///< minutes of the run-on so far
-    dauer_hs fruehstart_zaehler{};  ///< of the false-start penalty so far
     dauer_ms ampel_takt{1500};      ///< last step of the start light, for this start
     int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
     bool rennen_beendet = true;

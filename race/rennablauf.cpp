@@ -61,9 +61,7 @@ void rennablauf::rennen_zuruecksetzen() {
     zustand.fortgesetzt = false;
     zustand.fortsetzung_wartet = false;
     zustand.fuehrungsrunden = 0;
-    zustand.fruehstart_zaehler = {};
-    um_.zeitgeber.f_straftimer->aus();
-    um_.zeitgeber.f_straftimer2->aus();
+    t_.fruehstart.zuruecksetzen();
     t_.ende.zuruecksetzen();
     t_.ansicht.anzeigen_leeren();
     t_.tank.zuruecksetzen();

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "race/blinken.h"
+#include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
 #include "race/rennansicht.h"
 #include "race/rennende.h"
@@ -24,6 +25,7 @@ public:
         rundenzaehlung& zaehlung;
         rennansicht& ansicht;
         tarvel::blinken& blinken;
+        fruehstartstrafe& fruehstart;
         tanken& tank;
         sektoren& sektor;
         soundsensoren& sensoren;

@@ -32,18 +32,20 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       ansicht(umgebung),
       blinken(umgebung),
       strafen(umgebung, ansicht),
+      fruehstartstrafe(umgebung, strafen),
       rundenanzeige(umgebung),
       tanken(umgebung, strafen, rundenanzeige),
       sektoren(umgebung),
       zaehlung(umgebung, {plaetze, ende, rundenanzeige, tanken, sektoren}),
       sensoren(umgebung),
-      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, blinken, tanken, sektoren, sensoren}),
-      chaos(umgebung, {ablauf, ansicht, strafen}),
+      ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, blinken, fruehstartstrafe, tanken, sektoren, sensoren}),
+      chaos(umgebung, {ablauf, ansicht, strafen, fruehstartstrafe}),
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
       fenster(umgebung, {ablauf, ansicht, befehle}) {
     ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
     ende.laufendes_beenden = [this] {
+        fruehstartstrafe.beenden();
         fortsetzung.zuruecknehmen();
         chaos.aufheben();
         zaehlung.runden_auswerten();  // who crossed the line while the pause began

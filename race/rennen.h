@@ -5,6 +5,7 @@
 #include "race/blinken.h"
 #include "race/chaos.h"
 #include "race/fortsetzung.h"
+#include "race/fruehstartstrafe.h"
 #include "race/rennbefehle.h"
 #include "race/strafen.h"
 
@@ -68,6 +69,7 @@ struct rennen {
     rennansicht ansicht;
     tarvel::blinken blinken;
     tarvel::strafen strafen;
+    tarvel::fruehstartstrafe fruehstartstrafe;
     tarvel::rundenanzeige rundenanzeige;
     tarvel::tanken tanken;
     tarvel::sektoren sektoren;

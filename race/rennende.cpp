@@ -153,7 +153,6 @@ void rennende::rennende_ablauf() {
         uhr_.tausendstel_auf_null();
     }
     um_.sounds.spielen(sound::rennen_beendet);
-    um_.zeitgeber.f_straftimer->aus();
     laufendes_beenden();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();

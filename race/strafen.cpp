@@ -3,14 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "core/zeit.h"
-
 namespace tarvel {
-
-strafen::strafen(const renn_umgebung& um, rennansicht& ansicht) : um_(um), ansicht_(ansicht) {
-    um_.zeitgeber.f_straftimer->bei_tick = [this] { f_straftimer_tick(); };
-    um_.zeitgeber.f_straftimer2->bei_tick = [this] { f_straftimer2_tick(); };
-}
 
 void strafen::zeitstrafe(int spur, dauer_s mehr) {
     um_.zustand.spur[spur].strafzeit += mehr;
@@ -59,44 +52,6 @@ void strafen::strom_wiederherstellen() {
             um_.ausgaben.relais_on(spur);
         } else {
             um_.ausgaben.relais_off(spur);
-        }
-    }
-}
-
-void strafen::nullzeile_eintragen(int spur) {
-    liste& runden = um_.bahn.t_liste.at(feld_index(spur));
-    if (runden.sichtbar()) {
-        runden.hinzufuegen(" 0. " + zeit_formatieren(0, false, um_.einst.trennzeichen));
-        runden.markieren(0);
-    }
-}
-
-bool strafen::verbuesst_fruehstart(int spur) const {
-    return um_.zustand.spur[spur].fruehstart_sperre && !um_.zeitgeber.straftimer_ch[spur]->laeuft();
-}
-
-void strafen::f_straftimer_tick() {
-    um_.zeitgeber.f_straftimer2->intervall(dauer_ms(um_.param.min_rundenzeit_ms));
-    if (++um_.zustand.fruehstart_zaehler < um_.einst.fruehstart_strafzeit) {
-        return;
-    }
-    um_.ausgaben.bericht.schreiben();
-    for (const int spur : alle_spuren) {
-        if (verbuesst_fruehstart(spur)) {
-            spur_strom_an(spur);
-            nullzeile_eintragen(spur);
-            um_.zeitgeber.f_straftimer2->an();
-        }
-    }
-    um_.zustand.fruehstart_zaehler = {};
-    um_.zeitgeber.f_straftimer->aus();
-}
-
-void strafen::f_straftimer2_tick() {
-    um_.zeitgeber.f_straftimer2->aus();
-    for (const int spur : alle_spuren) {
-        if (verbuesst_fruehstart(spur)) {
-            um_.zustand.spur[spur].fruehstart_sperre = false;
         }
     }
 }

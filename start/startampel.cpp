@@ -239,7 +239,7 @@ void startampel::gruen_geben() {
     r_.ablauf.rennen_starten(um_.zeit.messzeit_lesen());
     fruehstarttimer_->aus();
     um_.bahn.cu_startframe.sichtbar(false);
-    um_.zeitgeber.f_straftimer->an();
+    r_.fruehstartstrafe.beginnen();
 }
 
 void startampel::freigabe_tick() {

@@ -1,0 +1,76 @@
+#include "race/fruehstartstrafe.h"
+
+#include "core/zeit.h"
+
+namespace tarvel {
+
+fruehstartstrafe::fruehstartstrafe(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {
+    um_.zeitgeber.f_straftimer->bei_tick = [this] { zeit_tick(); };
+    um_.zeitgeber.f_straftimer2->bei_tick = [this] { nachsperre_tick(); };
+}
+
+void fruehstartstrafe::zuruecksetzen() {
+    verbuesst_ = {};
+    angehalten_ = false;
+    um_.zeitgeber.f_straftimer->aus();
+    um_.zeitgeber.f_straftimer2->aus();
+}
+
+void fruehstartstrafe::beginnen() {
+    um_.zeitgeber.f_straftimer->an();
+}
+
+void fruehstartstrafe::anhalten() {
+    angehalten_ = um_.zeitgeber.f_straftimer->laeuft();
+    um_.zeitgeber.f_straftimer->aus();
+}
+
+void fruehstartstrafe::fortsetzen() {
+    if (angehalten_) {
+        um_.zeitgeber.f_straftimer->an();
+    }
+}
+
+void fruehstartstrafe::beenden() {
+    um_.zeitgeber.f_straftimer->aus();
+}
+
+bool fruehstartstrafe::gesperrt(int spur) const {
+    return um_.zustand.spur[spur].fruehstart_sperre && !um_.zeitgeber.straftimer_ch[spur]->laeuft();
+}
+
+void fruehstartstrafe::nullzeile_eintragen(int spur) {
+    liste& runden = um_.bahn.t_liste.at(feld_index(spur));
+    if (runden.sichtbar()) {
+        runden.hinzufuegen(" 0. " + zeit_formatieren(0, false, um_.einst.trennzeichen));
+        runden.markieren(0);
+    }
+}
+
+void fruehstartstrafe::zeit_tick() {
+    um_.zeitgeber.f_straftimer2->intervall(dauer_ms(um_.param.min_rundenzeit_ms));
+    if (++verbuesst_ < um_.einst.fruehstart_strafzeit) {
+        return;
+    }
+    um_.ausgaben.bericht.schreiben();
+    for (const int spur : alle_spuren) {
+        if (gesperrt(spur)) {
+            strafen_.spur_strom_an(spur);
+            nullzeile_eintragen(spur);
+            um_.zeitgeber.f_straftimer2->an();
+        }
+    }
+    verbuesst_ = {};
+    um_.zeitgeber.f_straftimer->aus();
+}
+
+void fruehstartstrafe::nachsperre_tick() {
+    um_.zeitgeber.f_straftimer2->aus();
+    for (const int spur : alle_spuren) {
+        if (gesperrt(spur)) {
+            um_.zustand.spur[spur].fruehstart_sperre = false;
+        }
+    }
+}
+
+}  // namespace tarvel
