@@ -39,9 +39,10 @@ const std::string& wort_fuer(const at_profil& profil, const schaltung& befehl) {
 }  // namespace
 
 std::string at_port_werte(const einstellungen& einst) {
-    std::string stopbits = einst.uart_stopbits;
+    std::string stopbits = einst.uart.uart_stopbits;
     werte_pruefen2(stopbits);  // the comma parts the values
-    return einst.uart_baud + "," + einst.uart_parity + "," + std::to_string(einst.uart_datenbits) + "," + stopbits;
+    return einst.uart.uart_baud + "," + einst.uart.uart_parity + "," + std::to_string(einst.uart.uart_datenbits) + "," +
+           stopbits;
 }
 
 at2560::at2560(const umgebung& um)
@@ -54,7 +55,7 @@ at2560::at2560(const umgebung& um)
 }
 
 void at2560::profil_laden() {
-    const std::string& datei = um_.einst.uart_datei;
+    const std::string& datei = um_.einst.uart.uart_datei;
     profil_ = {};
     bool gut = true;
     if (datei == at_standarddatei && !um_.ablage.gibt_es(datei)) {
@@ -84,7 +85,7 @@ bool at2560::oeffnen() {
 }
 
 bool at2560::µC_MSCOMM_settings_setzen() {
-    if (!MSComm2_->oeffnen(um_.einst.uart_port, at_port_werte(um_.einst))) {
+    if (!MSComm2_->oeffnen(um_.einst.uart.uart_port, at_port_werte(um_.einst))) {
         return false;
     }
     if (um_.einst.hardware.hw_uart) {

@@ -52,7 +52,7 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
 
 bool control_unit::mscomm1_oeffnen() {
     schliessen();
-    if (!leitung_.oeffnen(um_.einst.cu_modus)) {
+    if (!leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
         return false;
     }
     geoeffnet_ = uhr_.jetzt();
@@ -159,7 +159,7 @@ void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
-    if (!bewirkt.rennen_laeuft() && um_.einst.cu_tankautomatik) {
+    if (!bewirkt.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
         bewirkt.tankfunktion(status.tankmodus != 0);
     }
     if (um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
@@ -188,7 +188,7 @@ void control_unit::startzustand_auswerten(bool steht) {
         cu_chaos_durch_box_ = false;
         return;
     }
-    if (um_.einst.cu_sondermodus && !stand_verbraucht_ && bewirkt.rennen_ruht()) {
+    if (um_.einst.cu.cu_sondermodus && !stand_verbraucht_ && bewirkt.rennen_ruht()) {
         bewirkt.rennen_vorbereiten();
     }
     if (rennen_laeuft_ && !neustart_wartet_ && bewirkt.rennen_laeuft()) {
@@ -225,17 +225,17 @@ void control_unit::rennfenster_offen() {
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
     }
-    for (const std::string& befehl : um_.einst.cu_reglerbefehl) {
+    for (const std::string& befehl : um_.einst.cu.cu_reglerbefehl) {
         leitung_.senden(befehl);
     }
     rennbetrieb(true);
-    if (um_.einst.cu_option) {
+    if (um_.einst.cu.cu_option) {
         cu_alter_rz_start_->an();
     }
 }
 
 void control_unit::cu_alter_rz_start_tick() {
-    if (!um_.einst.cu_option || rennen_laeuft_) {
+    if (!um_.einst.cu.cu_option || rennen_laeuft_) {
         cu_alter_rz_start_->aus();
     }
 }
@@ -254,19 +254,19 @@ void control_unit::rennen_bereit() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();
-    if (um_.einst.cu_sondermodus && cu_startzustand_ == start::faehrt) {
+    if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt) {
         starttaste();  // stops the cars; the second press starts the light
     }
 }
 
 void control_unit::startkommando() {
-    if (um_.einst.cu_sondermodus) {
+    if (um_.einst.cu.cu_sondermodus) {
         starttaste();
     }
 }
 
 void control_unit::abbrechen() {
-    if (um_.einst.cu_sondermodus) {  // else somebody stands at its key
+    if (um_.einst.cu.cu_sondermodus) {  // else somebody stands at its key
         starttaste();
     }
 }
@@ -278,7 +278,7 @@ void control_unit::neustart() {
 
 void control_unit::start_abgebrochen() {
     stand_verbraucht_ = true;  // else the race would begin again by itself
-    if (leitung_.offen() && um_.einst.cu_option) {
+    if (leitung_.offen() && um_.einst.cu.cu_option) {
         cu_alter_rz_start_->an();
     }
 }

@@ -8,7 +8,7 @@ void programm::uart_verbinden() {
         einstellungsfenster.einstellungen_speichern();
         einstellungsfenster.uart_zeigen();
     };
-    const auto datei_waehlen = [this] { uart_profildatei.oeffnen(einst.uart_datei); };
+    const auto datei_waehlen = [this] { uart_profildatei.oeffnen(einst.uart.uart_datei); };
     form1.befehlsdatei_waehlen = datei_waehlen;
     einstellungsfenster.uart_datei_waehlen = datei_waehlen;
     einstellungsfenster.uart_einrichten = [this] {
@@ -23,7 +23,7 @@ void programm::uart_verbinden() {
     };
     uart_einstellungen.einstellungen_speichern = merken;
     uart_profildatei.gewaehlt = [this, merken](const std::string& name) {
-        einst.uart_datei = name;
+        einst.uart.uart_datei = name;
         geraete.at.profil_wechseln();
         merken();
     };

@@ -91,7 +91,7 @@ void startampel::laden() {
         Timer9_->an();
         cu_ampel_auswertetimer_->an();
         um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_start);
-        um_.bahn.cu_startframe.sichtbar(!um_.einst.cu_sondermodus);
+        um_.bahn.cu_startframe.sichtbar(!um_.einst.cu.cu_sondermodus);
     } else {
         eigene_kette_beginnen();
         if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {

@@ -239,7 +239,7 @@ TEST_F(At2560, AusgaengeSprechenDieWorteDerBefehlsdatei) {
 }
 
 TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
-    a.t.p.einst.uart_stopbits = "1,5";
+    a.t.p.einst.uart.uart_stopbits = "1,5";
     EXPECT_TRUE(a.geraet.oeffnen());
     EXPECT_EQ(a.t.maschine.anschluesse.werte[3], "57600,N,8,1.5");
     EXPECT_TRUE(a.t.maschine.datei_da("tvk_at2560.uart"));
@@ -253,7 +253,7 @@ TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
     a.geraet.oeffnen();
     a.geraet.schliessen();  // while the unit boots: nobody may stay locked out
     EXPECT_EQ(a.hinweise, (std::vector<bool>{true, false, true, false}));
-    a.t.p.einst.uart_port = 9;
+    a.t.p.einst.uart.uart_port = 9;
     EXPECT_FALSE(a.geraet.oeffnen());
     EXPECT_EQ(a.nicht_zu_oeffnen, 1);
     ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
@@ -262,7 +262,7 @@ TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
 }
 
 TEST_F(At2560, UnlesbareBefehlsdateiMeldetSich) {
-    a.t.p.einst.uart_datei = "andere.uart";
+    a.t.p.einst.uart.uart_datei = "andere.uart";
     a.oeffnen();
     ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(a.t.maschine.meldungen_gezeigt.front().text,

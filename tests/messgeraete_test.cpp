@@ -11,8 +11,8 @@ struct Wiedereingesteckt : testing::Test {
         t.maschine.anschluesse.da = {com};
         t.p.einst.hardware = {};
         t.p.einst.hardware.*geraet = true;
-        t.p.einst.cu_modus = com;
-        t.p.einst.uart_port = com;
+        t.p.einst.cu.anschluss.cu_modus = com;
+        t.p.einst.uart.uart_port = com;
         t.p.geraete.hardware_starten(false);
         t.maschine.laufen(at_bootzeit.count() + 500);
     }

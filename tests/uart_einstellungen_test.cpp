@@ -136,12 +136,12 @@ TEST_F(UartEinstellungen, VonDenSensorenBisZurBefehlsdatei) {
     t.maschine.antwort = true;
     w.weiter.klicken();
     ASSERT_EQ(seite(), u::seite_fertig);
-    t.p.einst.uart_port = 9;
+    t.p.einst.uart.uart_port = 9;
     w.weiter.klicken();
     EXPECT_FALSE(offen());
     EXPECT_FALSE(t.maschine.anschluesse.offen(3));
     EXPECT_EQ(journal, "getrennt verbunden ");
-    EXPECT_EQ(t.p.einst.uart_port, 3);
+    EXPECT_EQ(t.p.einst.uart.uart_port, 3);
 
     at_profil erwartet = von_hand;
     std::fill_n(erwartet.at_ereignis.begin() + 1, 35, at_nicht_belegt);
@@ -224,7 +224,7 @@ TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
     }
     f.name.eingeben("klub");
     f.Command1.klicken();
-    EXPECT_EQ(t.p.einst.uart_datei, "klub.uart");
+    EXPECT_EQ(t.p.einst.uart.uart_datei, "klub.uart");
     at_profil gelesen;
     ASSERT_TRUE(at_profil_laden(t.p.ablage, "klub.uart", gelesen));
     EXPECT_EQ(gelesen, profil);

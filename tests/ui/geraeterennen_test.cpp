@@ -146,8 +146,8 @@ TEST_F(Geraeterennen, ControlUnit) {
     simulator::control_unit geraet(einst);
     geraet_am_kabel kabel(geraet, maschine.ordner());
     p.einst.hardware.hw_cu = true;
-    p.einst.cu_modus = com;
-    p.einst.cu_sondermodus = true;
+    p.einst.cu.anschluss.cu_modus = com;
+    p.einst.cu.cu_sondermodus = true;
     p.geraete.hardware_starten(false);
     ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.cu.antwortet(); }));
     fahren();
@@ -163,7 +163,7 @@ TEST_F(Geraeterennen, At2560) {
     simulator::at2560 geraet(einst);
     geraet_am_kabel kabel(geraet, maschine.ordner());
     p.einst.hardware.hw_uart = true;
-    p.einst.uart_port = com;
+    p.einst.uart.uart_port = com;
     p.geraete.hardware_starten(false);
     ASSERT_TRUE(QTest::qWaitFor([&] { return p.form1.inhalt.sichtbar(); }));
     fahren();
