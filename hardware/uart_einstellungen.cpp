@@ -212,7 +212,7 @@ void uart_einstellungen::port_oeffnen() {
         }
         return;
     }
-    if (!port_->oeffnen(nummer, at_port_werte(um_.einst))) {
+    if (!port_->oeffnen(nummer, at_port_werte(um_.einst.uart))) {
         ergebnis.text(um_.txt.meldung[14]);
         notieren(um_.txt.meldung[14]);
         um_.meldungen.zeigen(um_.txt.meldung[14], um_.txt.titel[1]);

@@ -38,7 +38,6 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, form1, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten,
                  fahrerliste, fahrzeugliste}),
-      geraete({einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
@@ -51,15 +50,17 @@ programm::programm(const plattform::dienste& d)
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
       beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
-      uart_einstellungen({einst, txt, ablage, fenster, d.meldungen, d.zeitgeber, d.serienports}),
-      uart_profildatei({ablage, txt, fenster, d.meldungen}),
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
-          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
+          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}),
+      geraete(
+          {d, einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, einstellungsfenster, rennen, [this] {
+               form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+               return einstellungsfenster.einstellungen_speichern();
+           }}) {
     hauptfenster_verbinden();
     optionen_verbinden();
     bestzeiten_verbinden();
-    uart_verbinden();
     rennen.chaos.neustart_ampel = [this] {
         if (!fenster.ist_offen("k_ampel")) {
             fenster.zeigen("k_ampel");
@@ -114,11 +115,6 @@ void programm::optionen_verbinden() {
         }
         form1.beste_zeiten_anzeigen();
     };
-    geraete.cu_eigenschaften.einstellungen_speichern = [this] {
-        form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
-        return !datei.fehler_laden();
-    };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
         hardware_starten();
@@ -151,9 +147,6 @@ void programm::fenster_anmelden() {
     // a picture that was chosen is copied at once, also if the list is not taken over
     fenster.anmelden("einstellungen", {[this] { einstellungsfenster.laden(); }, [this] { form1.bilder_anzeigen(); }});
     fenster.anmelden("Tastaturbelegung", {[this] { tastaturbelegung.laden(); }, {}});
-    fenster.anmelden("UART_einstellungen",
-                     {[this] { uart_einstellungen.laden(); }, [this] { uart_einstellungen.entladen(); }});
-    fenster.anmelden("UART_Profildatei", {[this] { uart_profildatei.laden(); }, {}});
 }
 
 bool programm::starten() {
@@ -199,12 +192,12 @@ std::vector<sprachliste> programm::sprachdateien() {
     alle.push_back(beste_zeiten_fenster.sprache_best());
     alle.push_back(beste_zeiten_verwaltung.sprache_bt());
     alle.push_back(tastaturbelegung.sprache_e_tast());
-    alle.push_back(geraete.cu_eigenschaften.sprache_e_cu());
     alle.push_back(rundenspeichern.sprache());
     alle.push_back(fahrerspeichernfenster.sprache());
     alle.push_back(fahrerbild_laden.sprache_fbl());
-    alle.push_back(uart_einstellungen.sprache());
-    alle.push_back(uart_profildatei.sprache());
+    for (sprachliste& sprache : geraete.sprachdateien()) {
+        alle.push_back(std::move(sprache));
+    }
     for (sprachliste& sprache : einstellungsfenster.sprachdateien()) {
         alle.push_back(std::move(sprache));
     }
@@ -370,8 +363,7 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    uart_einstellungen.geraet_verbinden = nullptr;  // its window closes for good
-    geraete.schliessen();
+    geraete.beenden();
     constexpr std::array<std::string_view, 18> reihenfolge{"auswertung",
                                                            "bahn1",
                                                            "einstellungen",

@@ -138,6 +138,7 @@ void rennablauf::start_abgebrochen() {
 }
 
 void rennablauf::rennen_starten() {
+    um_.uhr_stellen();
     rennen_starten(um_.zeit.ereignis_zeit_lesen());
     befehle_freigeben();
 }
@@ -145,7 +146,7 @@ void rennablauf::rennen_starten() {
 void rennablauf::befehle_freigeben() {
     um_.bahn.Command2.aktiviert(true);
     // a device that is started at its own key is paused there too
-    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || um_.einst.cu.cu_sondermodus);
+    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || !um_.quellen.kann().start_am_geraet);
     um_.bahn.Command4.aktiviert(true);
 }
 

@@ -124,7 +124,7 @@ void auswertung::kopf_schreiben() {
 void auswertung::bedienung_einrichten() {
     const bool wettkampf = ist_wettkampf();
     const bool intervall = ist_intervalltraining();
-    const bool ohne_spurwechsel = um_.einst.hardware.hw_cu || um_.param.training_laeuft;
+    const bool ohne_spurwechsel = um_.quellen.kann().feste_wagen || um_.param.training_laeuft;
     Command5.text(wettkampf ? wort_.weiter : wort_.hauptmenue);
     Command7.sichtbar(wettkampf && um_.einst.w_autom);
     Command4.sichtbar(!wettkampf);

@@ -1,3 +1,4 @@
+#include "programm/control_unit_verdrahtung.h"
 #include "tests/programm_probe.h"
 #include "tools/simulator/control_unit.h"
 
@@ -43,7 +44,7 @@ struct CuEigenschaften : testing::Test {
 
     testprogramm t;
     std::unique_ptr<simulator::control_unit> geraet;
-    cu_eigenschaften& fenster = t.p.geraete.cu_eigenschaften;
+    cu_eigenschaften& fenster = t.p.geraete.von<control_unit_verdrahtung>().cu_eigenschaften;
 };
 
 TEST_F(CuEigenschaften, OhnePortSagtJederBefehlWasFehlt) {
@@ -70,7 +71,7 @@ TEST_F(CuEigenschaften, DieSucheFindetDasGeraetUndSeinPortWirdBehalten) {
     EXPECT_EQ(t.p.einst.cu.cu_reglerbefehl[2], "J220410$");
     EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini").find("\r\n 4 \r\n"), std::string::npos);
     laufen(700);
-    EXPECT_TRUE(t.p.geraete.cu.antwortet()) << "the race has the port again";
+    EXPECT_TRUE(t.p.geraete.verbunden()) << "the race has the port again";
 }
 
 TEST_F(CuEigenschaften, ZeigtWasDasGeraetSagtUndSendetWasManTippt) {

@@ -1,5 +1,6 @@
 #include "hardware/uart_einstellungen.h"
 
+#include "programm/at2560_verdrahtung.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -39,7 +40,7 @@ protected:
     }
 
     static constexpr zeit_ms at_bootzeit = 3000;
-    u& w = t.p.uart_einstellungen;
+    u& w = t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen;
     std::string journal;
 };
 
@@ -207,7 +208,7 @@ TEST_F(UartEinstellungen, DatenverlustUndAbziehenStehenImProtokoll) {
 }
 
 TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
-    uart_profildatei& f = t.p.uart_profildatei;
+    uart_profildatei& f = t.p.geraete.von<at2560_verdrahtung>().uart_profildatei;
     at_profil profil;
     profil.at_rennstart = "GO";
     at_profil_speichern(t.p.ablage, "tvk_at2560.uart", profil);

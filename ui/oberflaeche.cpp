@@ -2,6 +2,9 @@
 
 #include <QCoreApplication>
 
+#include "programm/at2560_verdrahtung.h"
+#include "programm/control_unit_verdrahtung.h"
+
 namespace tarvel::ui {
 
 Oberflaeche::Oberflaeche(programm& p)
@@ -15,12 +18,12 @@ Oberflaeche::Oberflaeche(programm& p)
       rundenspeichern(p.rundenspeichern.fenster, "rundenspeichern", takt, &auswertung),
       bestzeiten(p.beste_zeiten_fenster, takt, &auswertung),
       tastatur(p.tastaturbelegung, takt, &form1),
-      cu(p.geraete.cu_eigenschaften, takt, &form1),
+      cu(p.geraete.von<control_unit_verdrahtung>().cu_eigenschaften, takt, &form1),
       speichern(p.speichernfenster, "speichernfenster", takt, &form1),
       einstellungen(p.einstellungsfenster, p.ablage, takt, &form1),
       bestzeitverwaltung(p.beste_zeiten_verwaltung, takt, &einstellungen),
-      uart_einstellungen(p.uart_einstellungen, takt, &einstellungen),
-      uart_profildatei(p.uart_profildatei, takt, &form1),
+      uart_einstellungen(p.geraete.von<at2560_verdrahtung>().uart_einstellungen, takt, &einstellungen),
+      uart_profildatei(p.geraete.von<at2560_verdrahtung>().uart_profildatei, takt, &form1),
       bildwahl(p.fahrerbild_laden, takt, &einstellungen),
       fahrerspeichern(p.fahrerspeichernfenster, "fahrerspeichernfenster", takt, &einstellungen),
       p_(p) {

@@ -149,7 +149,7 @@ TEST_F(Geraeterennen, ControlUnit) {
     p.einst.cu.anschluss.cu_modus = com;
     p.einst.cu.cu_sondermodus = true;
     p.geraete.hardware_starten(false);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.cu.antwortet(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.verbunden(); }));
     fahren();
     kabel.anhalten();
     vergleichen(geraet);

@@ -1,0 +1,29 @@
+#include "programm/control_unit_verdrahtung.h"
+
+#include "programm/messgeraete.h"
+#include "race/rennen.h"
+
+namespace tarvel {
+
+control_unit_verdrahtung::control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
+    : cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle},
+         um.dienste),
+      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, um.dienste) {
+    um.form1.cu_oeffnen = [&fenster = um.fenster] { fenster.zeigen("cu_eigenschaften", anzeige_art::modal); };
+    um.fenster.anmelden("cu_eigenschaften",
+                        {[this] { cu_eigenschaften.laden(); }, [this] { cu_eigenschaften.entladen(); }});
+    cu_eigenschaften.port_belegen = [this, &einst = um.einst](bool belegt) {
+        if (belegt) {
+            cu.schliessen();
+        } else if (einst.hardware.hw_cu) {
+            cu.oeffnen();
+        }
+    };
+    cu_eigenschaften.einstellungen_speichern = um.einstellungen_speichern;
+}
+
+std::vector<sprachliste> control_unit_verdrahtung::sprachdateien() {
+    return {cu_eigenschaften.sprache_e_cu()};
+}
+
+}  // namespace tarvel
