@@ -1,7 +1,7 @@
 #include "core/einstellungen.h"
 
 #include <algorithm>
-#include <tuple>
+#include <cstddef>
 
 namespace tarvel {
 namespace {
@@ -15,14 +15,61 @@ std::string reglerbefehl(int spur, int wert) {
             '1', pruefzeichen, '$'};
 }
 
+/// A kind of timing hardware.
+struct hardwarezeile {
+    bool messhardware::*gewaehlt;  ///< null for the 4x4 module, which is chosen with its mode
+    bool (*gleich_erreicht)(const einstellungen&, const einstellungen&);
+};
+
+bool ohne_anschluss(const einstellungen& /*eine*/, const einstellungen& /*andere*/) {
+    return true;
+}
+
+template <auto geraet>
+bool gleich(const einstellungen& eine, const einstellungen& andere) {
+    return eine.*geraet == andere.*geraet;
+}
+
+template <auto geraet>
+bool anschluss_gleich(const einstellungen& eine, const einstellungen& andere) {
+    return (eine.*geraet).anschluss == (andere.*geraet).anschluss;
+}
+
+/// By their numbers, as `messhardware::modus` gives them.
+using h = messhardware;
+using e = einstellungen;
+constexpr std::array<hardwarezeile, 8> hardwaretabelle{{{&h::hw_simulation, ohne_anschluss},
+                                                        {&h::hw_iow, gleich<&e::iow>},
+                                                        {&h::hw_race_control, anschluss_gleich<&e::rc>},
+                                                        {&h::hw_lpt, anschluss_gleich<&e::lpt>},
+                                                        {nullptr, ohne_anschluss},
+                                                        {&h::hw_timekeeper, gleich<&e::tk>},
+                                                        {&h::hw_cu, anschluss_gleich<&e::cu>},
+                                                        {&h::hw_uart, gleich<&e::uart>}}};
+
+const hardwarezeile& zeile(int nummer) {
+    return hardwaretabelle.at(static_cast<std::size_t>(nummer));
+}
+
 }  // namespace
 
+bool messhardware::gewaehlt(int nummer) const {
+    bool messhardware::*const merker = zeile(nummer).gewaehlt;
+    return merker != nullptr ? this->*merker : hw_4x4();
+}
+
+void messhardware::waehlen(int nummer, bool an) {
+    if (bool messhardware::*const merker = zeile(nummer).gewaehlt; merker != nullptr) {
+        this->*merker = an;
+    } else {
+        hw_4x4_modus = an ? std::max(hw_4x4_modus, modul_4x4::modus_1) : modul_4x4::aus;
+    }
+}
+
 int messhardware::modus() const {
-    const std::array<bool, 8> in_kraft{hw_simulation, hw_iow,        hw_race_control, hw_lpt,
-                                       hw_4x4(),      hw_timekeeper, hw_cu,           hw_uart};
-    for (std::size_t i = 1; i < in_kraft.size(); ++i) {  // a device goes before the keyboard beside it
-        if (in_kraft.at(i)) {
-            return static_cast<int>(i);
+    for (int nummer = 1; nummer < static_cast<int>(hardwaretabelle.size()); ++nummer) {
+        if (gewaehlt(nummer)) {  // a device goes before the keyboard beside it
+            return nummer;
         }
     }
     return 0;
@@ -33,18 +80,16 @@ void messhardware::simulation_ableiten() {
 }
 
 bool einstellungen::hardware_anders_als(const einstellungen& andere) const {
-    const auto gewaehlt = [](const einstellungen& e) {
-        return std::tie(e.hardware, e.rc_com_port, e.lpt_adresse, e.tk_datei, e.iow_datei, e.cu_modus, e.uart_port,
-                        e.uart_baud, e.uart_datenbits, e.uart_parity, e.uart_stopbits, e.uart_datei);
-    };
-    return gewaehlt(*this) != gewaehlt(andere);
+    return hardware != andere.hardware ||
+           !std::all_of(hardwaretabelle.begin(), hardwaretabelle.end(),
+                        [&](const hardwarezeile& eine) { return eine.gleich_erreicht(*this, andere); });
 }
 
 void einstellungen::folgen_ableiten() {
     ampel_takt = start_ampel_modus == ampelwahl::dragrace ? 500ms : 1500ms;
     sektor_an[0] = std::any_of(sektor_an.begin() + 1, sektor_an.end(), [](bool an) { return an; });
     for (const int spur : alle_spuren) {
-        cu_reglerbefehl[spur] = reglerbefehl(spur, cu_spur_wert[spur]);
+        cu.cu_reglerbefehl[spur] = reglerbefehl(spur, cu.cu_spur_wert[spur]);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/einstellungswerte.h"
+#include "core/geraeteeinstellungen.h"
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
 #include "core/wechselschema.h"
@@ -26,10 +27,16 @@ struct messhardware {
     bool hw_cu = false;
     bool hw_uart = false;
 
-    static constexpr int timekeeper = 5;  ///< its `modus`
+    // some of the numbers that `modus` gives
+    static constexpr int timekeeper = 5;
+    static constexpr int control_unit = 6;
+    static constexpr int at_2560 = 7;
     bool hw_4x4() const { return hw_4x4_modus > modul_4x4::aus; }
     /// Index in `texte::hardware_name` of the device in force; 0 is the keyboard alone.
     int modus() const;
+    /// The device with this number is chosen, or no longer is; the others stay as they are.
+    bool gewaehlt(int nummer) const;
+    void waehlen(int nummer, bool an);
     /// The keyboard counts as the hardware while none of the devices does that has no keyboard beside it.
     void simulation_ableiten();
     bool operator==(const messhardware&) const = default;
@@ -75,41 +82,17 @@ struct einstellungen {
     bool chaos_strafe_strom = false;  ///< true time penalty, false power cut
 
     // timing hardware
-    bool rc_rev_zz = false;
-    bool rc_rev_sz = false;
-    int rc_level = 0;
-    dauer_ms rc_delay_ms{};
-    dauer_ms rc_post_ms{};
-    bool rc_schalter = false;
-    int rc_wert = 0;
-    std::string rc_com_port;
-    bool rc_tank_sensor34 = false;
-    bool rc_ziel_sensor34 = false;   ///< the sensors of lanes 3 and 4 also count for lanes 1 and 2
-    bool rc_mod1 = false;            ///< false is mode 2
-    std::array<int, 4> rc_sensor{};  ///< event per box sensor, index 0 to 3
-    int lpt_adresse = 0;
-    std::array<int, 6> lpt_eingang{};   ///< event per pin, index 1 to 5
-    std::array<int, 13> lpt_ausgang{};  ///< event per pin, index 1 to 12
     bool bahnstrom_invers = false;
     bool ampel_invers = false;
     bool sensorkalibrierung = false;
     bool zeit_methode_alt = false;
-    bool s6_option = false;
-    std::array<int, 9> s6_eingang{};              ///< event per module input, index 1 to 8
-    spuren<std::array<int, 5>> s6_eingang_modus;  ///< event per lane and module mode, modes 1 to 4
-    std::string tk_datei;
-    std::string iow_datei;
-    int cu_modus = 0;        ///< COM port of the Control Unit
-    bool cu_option = false;  ///< old lap timing of the unit
-    bool cu_tankautomatik = false;
-    bool cu_sondermodus = false;  ///< the program starts the race, not the unit
-    spuren<int> cu_spur_wert;     ///< controller setting 0 to 15
-    int uart_port = 0;
-    std::string uart_baud;
-    int uart_datenbits = 0;
-    std::string uart_parity;
-    std::string uart_stopbits;
-    std::string uart_datei;
+    iow_anschluss iow;
+    race_control_einstellungen rc;
+    druckeranschluss_einstellungen lpt;
+    modul_4x4_einstellungen s6;
+    timekeeper_anschluss tk;
+    control_unit_einstellungen cu;
+    at2560_anschluss uart;
 
     // competition and training
     wechselweise w_wechselmodus = wechselweise::normal;
@@ -153,12 +136,12 @@ struct einstellungen {
     std::string sound_ordner;
     std::array<std::string, sounds_max + 1> sound_dateien;  ///< index 1 to 64, empty for no sound
 
-    /// The timing hardware has to be started anew after a change from `andere`.
+    /// The timing hardware has to be started anew after a change from `andere`: another device, or one that is reached
+    /// by another way.
     bool hardware_anders_als(const einstellungen& andere) const;
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();
-    dauer_ms ampel_takt{1500};            ///< last step of the start light
-    spuren<std::string> cu_reglerbefehl;  ///< command for the controller of each lane
+    dauer_ms ampel_takt{1500};  ///< last step of the start light
 
     trennzeichen_tabelle trennzeichen = trennzeichen_standard;  ///< kept in a file of their own
 };

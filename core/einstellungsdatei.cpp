@@ -133,7 +133,7 @@ void einstellungsdatei::cu_spuren_uebernehmen() {
         const std::string& text = zeile(z::cu_spur_erste + spur - 1);
         const double wert = zahl_lesen(text);
         if (!text.empty() && wert >= 0 && wert <= 15) {
-            um_.ziel.einst.cu_spur_wert[spur] = static_cast<int>(wert);
+            um_.ziel.einst.cu.cu_spur_wert[spur] = static_cast<int>(wert);
         }
     }
 }

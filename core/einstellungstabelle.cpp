@@ -10,6 +10,16 @@ namespace {
 using namespace pruefung;
 using ziel = einstellungs_ziel;
 using e = einstellungen;
+using iow = iow_anschluss;
+using rc = race_control_einstellungen;
+using rc_anschluss = race_control_anschluss;
+using lpt = druckeranschluss_einstellungen;
+using lpt_anschluss = druckeranschluss_anschluss;
+using s6 = modul_4x4_einstellungen;
+using tk = timekeeper_anschluss;
+using cu = control_unit_einstellungen;
+using cu_anschluss = control_unit_anschluss;
+using uart = at2560_anschluss;
 
 constexpr wahr_laden nur_wahr = wahr_laden::nur_wahr;
 
@@ -190,24 +200,26 @@ void messgeraete(tabelle& t) {  // Z 65 to Z 101
       << zeile::wahrheit(hardware(&messhardware::hw_iow), false, nur_wahr, true)
       << zeile::wahrheit(hardware(&messhardware::hw_race_control), false, nur_wahr, true)
       << zeile::wahrheit(hardware(&messhardware::hw_lpt), false, nur_wahr, true)
-      << zeile::wahrheit(wert(&e::rc_rev_zz), false, nur_wahr, true)
-      << zeile::wahrheit(wert(&e::rc_rev_sz), false, nur_wahr, true)
-      << zeile::ganzzahl(wert(&e::rc_level), 65, ablehnen_ausser(0, 130))
-      << zeile::ganzzahl(wert(&e::rc_delay_ms), 25, ablehnen_ausser(0, 50))
-      << zeile::ganzzahl(wert(&e::rc_post_ms), 7, ablehnen_ausser(0, 15))
-      << zeile::wahrheit(wert(&e::rc_schalter), true, nur_wahr, true) << zeile::ganzzahl(wert(&e::rc_wert), 0)
-      << zeile::text(wert(&e::rc_com_port), "COM1")
-      << zeile::wahrheit(wert(&e::rc_tank_sensor34), false, nur_wahr, true)
-      << zeile::wahrheit(wert(&e::rc_ziel_sensor34), false, nur_wahr, true)
-      << zeile::wahrheit(wert(&e::rc_mod1), false, nur_wahr, false) << zeile::leer();
-    t << zeile::titel("[LPT-Port Einstellungen]", false) << zeile::ganzzahl(wert(&e::lpt_adresse), 888);
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_rev_zz), false, nur_wahr, true)
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_rev_sz), false, nur_wahr, true)
+      << zeile::ganzzahl(wert(&e::rc, &rc::rc_level), 65, ablehnen_ausser(0, 130))
+      << zeile::ganzzahl(wert(&e::rc, &rc::rc_delay_ms), 25, ablehnen_ausser(0, 50))
+      << zeile::ganzzahl(wert(&e::rc, &rc::rc_post_ms), 7, ablehnen_ausser(0, 15))
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_schalter), true, nur_wahr, true)
+      << zeile::ganzzahl(wert(&e::rc, &rc::rc_wert), 0)
+      << zeile::text(wert(&e::rc, &rc::anschluss, &rc_anschluss::rc_com_port), "COM1")
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_tank_sensor34), false, nur_wahr, true)
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_ziel_sensor34), false, nur_wahr, true)
+      << zeile::wahrheit(wert(&e::rc, &rc::rc_mod1), false, nur_wahr, false) << zeile::leer();
+    t << zeile::titel("[LPT-Port Einstellungen]", false)
+      << zeile::ganzzahl(wert(&e::lpt, &lpt::anschluss, &lpt_anschluss::lpt_adresse), 888);
     constexpr std::array<int, 5> eingaenge{16, 15, 14, 13, 0};
     for (std::size_t i = 0; i < eingaenge.size(); ++i) {
-        t << zeile::ereignis(element(&e::lpt_eingang, i + 1), eingaenge.at(i));
+        t << zeile::ereignis(element(wert(&e::lpt, &lpt::lpt_eingang), i + 1), eingaenge.at(i));
     }
     constexpr std::array<int, 12> ausgaenge{8, 7, 6, 5, 4, 3, 2, 1, 0, 0, 0, 0};
     for (std::size_t i = 0; i < ausgaenge.size(); ++i) {
-        t << zeile::ereignis(element(&e::lpt_ausgang, i + 1), ausgaenge.at(i));
+        t << zeile::ereignis(element(wert(&e::lpt, &lpt::lpt_ausgang), i + 1), ausgaenge.at(i));
     }
     t << zeile::wahrheit(wert(&e::bahnstrom_invers), false, nur_wahr, false) << zeile::leer();
 }
@@ -250,17 +262,18 @@ void farben_und_sounds(tabelle& t) {  // Z 117 to Z 177
 void modul_4x4(tabelle& t) {  // Z 178 to Z 216
     t << zeile::titel("[4x4 USB Einstellungen]", false)
       << zeile::ganzzahl(hardware(&messhardware::hw_4x4_modus), 3, reparieren_ausser(3, 7, "7"))
-      << zeile::wahrheit(wert(&e::s6_option), false, nur_wahr, true) << zeile::frei() << zeile::frei() << zeile::frei();
+      << zeile::wahrheit(wert(&e::s6, &s6::s6_option), false, nur_wahr, true) << zeile::frei() << zeile::frei()
+      << zeile::frei();
     constexpr std::array<int, 8> eingaenge{16, 15, 14, 13, 31, 29, 27, 25};
     for (std::size_t i = 0; i < eingaenge.size(); ++i) {
-        t << zeile::ereignis(element(&e::s6_eingang, i + 1), eingaenge.at(i));
+        t << zeile::ereignis(element(wert(&e::s6, &s6::s6_eingang), i + 1), eingaenge.at(i));
     }
     constexpr std::array<std::array<int, 6>, 4> modi{
         {{16, 15, 14, 13, 34, 35}, {16, 15, 14, 13, 34, 35}, {32, 30, 28, 26, 36, 38}, {31, 29, 27, 25, 37, 39}}};
     for (const int spur : alle_spuren) {
         for (std::size_t modus = 0; modus < modi.size(); ++modus) {
             t << zeile::ereignis(
-                [spur, modus](const ziel& a) -> int& { return a.einst.s6_eingang_modus[spur].at(modus + 1); },
+                [spur, modus](const ziel& a) -> int& { return a.einst.s6.s6_eingang_modus[spur].at(modus + 1); },
                 modi.at(modus).at(feld_index(spur)));
         }
     }
@@ -270,11 +283,12 @@ void modul_4x4(tabelle& t) {  // Z 178 to Z 216
 void ab_version_1(tabelle& t) {  // Z 229 to Z 255
     t << zeile::titel("[Timekeeper]", false)
       << zeile::wahrheit(hardware(&messhardware::hw_timekeeper), false, nur_wahr, false)
-      << zeile::text(wert(&e::tk_datei), "tvk_tk") << zeile::leer();
+      << zeile::text(wert(&e::tk, &tk::tk_datei), "tvk_tk") << zeile::leer();
     t << zeile::titel("[sonstige ab Version 1]", false)
       << zeile::wahrheit(wert(&e::darstellung_zeile), false, nur_wahr, false)
       << zeile::wahrheit(wert(&e::tankanzeige_grafisch), true, nur_wahr, false)
-      << zeile::text(wert(&e::iow_datei), "tvk_usb.iow") << zeile::ganzzahl(wert(&e::fruehstart_schritte), 10)
+      << zeile::text(wert(&e::iow, &iow::iow_datei), "tvk_usb.iow")
+      << zeile::ganzzahl(wert(&e::fruehstart_schritte), 10)
       << zeile::wahrheit(wert(&e::chaosampel_an), true, nur_wahr, false)
       << zeile::wahrheit(wert(&e::fahrzeugbild_an), false, nur_wahr, false)
       << zeile::wahrheit(wert(&e::chaos_schalter), false, nur_wahr, false)
@@ -288,8 +302,8 @@ void ab_version_1(tabelle& t) {  // Z 229 to Z 255
       << zeile::bruch(wert(&e::tank_warnung), "10", tankwarnung_pruefen) << zeile::leer();
     t << zeile::titel("[CU Carrera Control Unit]", false)
       << zeile::wahrheit(hardware(&messhardware::hw_cu), false, nur_wahr, false)
-      << zeile::ganzzahl(wert(&e::cu_modus), 0, {}, {0, 20})
-      << zeile::wahrheit(wert(&e::cu_option), false, nur_wahr, false) << zeile::leer();
+      << zeile::ganzzahl(wert(&e::cu, &cu::anschluss, &cu_anschluss::cu_modus), 0, {}, {0, 20})
+      << zeile::wahrheit(wert(&e::cu, &cu::cu_option), false, nur_wahr, false) << zeile::leer();
 }
 
 void erweitert(tabelle& t) {  // Z 256 to Z 299
@@ -309,16 +323,16 @@ void erweitert(tabelle& t) {  // Z 256 to Z 299
     t << sound(48, 1);
     constexpr std::array<int, 4> sensoren{16, 15, 14, 13};
     for (std::size_t i = 0; i < sensoren.size(); ++i) {
-        t << zeile::ganzzahl(element(&e::rc_sensor, i), sensoren.at(i), {}, {13, 16});
+        t << zeile::ganzzahl(element(wert(&e::rc, &rc::rc_sensor), i), sensoren.at(i), {}, {13, 16});
     }
     t << zeile::wahrheit(wert(&e::ampel_invers), false, nur_wahr, false) << zeile::leer();
     t << zeile::titel("[UART USB Einstellungen]", false)
-      << zeile::ganzzahl(wert(&e::uart_port), 3, reparieren_ausser(0, 16, "3"))
-      << zeile::text(wert(&e::uart_baud), "57600", 0,
+      << zeile::ganzzahl(wert(&e::uart, &uart::uart_port), 3, reparieren_ausser(0, 16, "3"))
+      << zeile::text(wert(&e::uart, &uart::uart_baud), "57600", 0,
                      reparieren_wenn_keins({"4800", "9600", "19200", "38400", "57600", "115200"}, "57600"))
-      << zeile::ganzzahl(wert(&e::uart_datenbits), 8, reparieren_ausser(4, 8, "8"))
-      << zeile::text(wert(&e::uart_parity), "N", 0, reparieren_wenn_nicht_in("EONMSO", "N"))
-      << zeile::text(wert(&e::uart_stopbits), "1", 0, reparieren_wenn_keins({"1", "1.5", "1,5", "2"}, "1"))
+      << zeile::ganzzahl(wert(&e::uart, &uart::uart_datenbits), 8, reparieren_ausser(4, 8, "8"))
+      << zeile::text(wert(&e::uart, &uart::uart_parity), "N", 0, reparieren_wenn_nicht_in("EONMSO", "N"))
+      << zeile::text(wert(&e::uart, &uart::uart_stopbits), "1", 0, reparieren_wenn_keins({"1", "1.5", "1,5", "2"}, "1"))
       << zeile::wahrheit(hardware(&messhardware::hw_uart), false, nur_wahr, false) << zeile::leer();
 }
 
@@ -336,12 +350,12 @@ void ab_version_183(tabelle& t) {  // Z 300 to Z 347
     for (std::size_t i = 1; i < wechsel_standard.size(); ++i) {
         t << gruppenzeile(zeile::ganzzahl(element(&e::wechsel_schema, i), wechsel_standard.at(i)));
     }
-    t << schema_name << zeile::wahrheit(wert(&e::cu_tankautomatik), true, wahr_laden::falsch_loescht, false)
+    t << schema_name << zeile::wahrheit(wert(&e::cu, &cu::cu_tankautomatik), true, wahr_laden::falsch_loescht, false)
       << chaos_strafzeit() << zeile::wahrheit(wert(&e::chaos_strafe_strom), true, wahr_laden::nicht_falsch, false)
-      << auswertung_nach() << zeile::text(wert(&e::uart_datei), "tvk_at2560.uart", 6)
-      << zeile::wahrheit(wert(&e::cu_sondermodus), true, wahr_laden::nicht_falsch, false);
+      << auswertung_nach() << zeile::text(wert(&e::uart, &uart::uart_datei), "tvk_at2560.uart", 6)
+      << zeile::wahrheit(wert(&e::cu, &cu::cu_sondermodus), true, wahr_laden::nicht_falsch, false);
     for (const int spur : alle_spuren) {
-        t << gruppenzeile(zeile::ganzzahl(je_spur(&e::cu_spur_wert, spur), 15));
+        t << gruppenzeile(zeile::ganzzahl(je_spur(wert(&e::cu, &cu::cu_spur_wert), spur), 15));
     }
     t << tanksensor_justierung() << zeile::leer() << zeile::titel(einstellungs_ende, false)
       << zeile::titel("Tarvel 2026", false);

@@ -24,10 +24,11 @@ struct einstellungs_ziel {
 template <class T>
 using zugriff = std::function<T&(const einstellungs_ziel&)>;
 
-/// A value of the record.
-template <class T>
-zugriff<T> wert(T einstellungen::*feld) {
-    return [feld](const einstellungs_ziel& ziel) -> T& { return ziel.einst.*feld; };
+/// A value of the record, or of a record in it: the members on the way to it.
+template <class... Glieder>
+auto wert(Glieder... weg) {
+    using T = std::remove_reference_t<decltype((std::declval<einstellungen&>().*....*weg))>;
+    return zugriff<T>([weg...](const einstellungs_ziel& ziel) -> T& { return (ziel.einst.*....*weg); });
 }
 
 /// An element of an array of the record.
@@ -36,9 +37,19 @@ zugriff<T> element(std::array<T, N> einstellungen::*feld, std::size_t index) {
     return [feld, index](const einstellungs_ziel& a) -> T& { return (a.einst.*feld).at(index); };
 }
 
+template <class T, std::size_t N>
+zugriff<T> element(const zugriff<std::array<T, N>>& feld, std::size_t index) {
+    return [feld, index](const einstellungs_ziel& a) -> T& { return feld(a).at(index); };
+}
+
 template <class T>
 zugriff<T> je_spur(spuren<T> einstellungen::*feld, int spur) {
     return [feld, spur](const einstellungs_ziel& a) -> T& { return (a.einst.*feld)[spur]; };
+}
+
+template <class T>
+zugriff<T> je_spur(const zugriff<spuren<T>>& feld, int spur) {
+    return [feld, spur](const einstellungs_ziel& a) -> T& { return feld(a)[spur]; };
 }
 
 template <class T>

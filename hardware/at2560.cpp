@@ -38,10 +38,11 @@ const std::string& wort_fuer(const at_profil& profil, const schaltung& befehl) {
 
 }  // namespace
 
-std::string at_port_werte(const einstellungen& einst) {
-    std::string stopbits = einst.uart_stopbits;
+std::string at_port_werte(const at2560_anschluss& anschluss) {
+    std::string stopbits = anschluss.uart_stopbits;
     werte_pruefen2(stopbits);  // the comma parts the values
-    return einst.uart_baud + "," + einst.uart_parity + "," + std::to_string(einst.uart_datenbits) + "," + stopbits;
+    return anschluss.uart_baud + "," + anschluss.uart_parity + "," + std::to_string(anschluss.uart_datenbits) + "," +
+           stopbits;
 }
 
 at2560::at2560(const umgebung& um)
@@ -54,7 +55,7 @@ at2560::at2560(const umgebung& um)
 }
 
 void at2560::profil_laden() {
-    const std::string& datei = um_.einst.uart_datei;
+    const std::string& datei = um_.einst.uart.uart_datei;
     profil_ = {};
     bool gut = true;
     if (datei == at_standarddatei && !um_.ablage.gibt_es(datei)) {
@@ -77,19 +78,19 @@ bool at2560::oeffnen() {
     schliessen();
     profil_laden();
     const bool geoeffnet = µC_MSCOMM_settings_setzen();
-    if (!geoeffnet && nicht_zu_oeffnen) {
-        nicht_zu_oeffnen();
+    if (!geoeffnet) {
+        um_.bedienung.nicht_zu_oeffnen(*this, um_.txt.meldung[27]);
     }
     return geoeffnet;
 }
 
 bool at2560::µC_MSCOMM_settings_setzen() {
-    if (!MSComm2_->oeffnen(um_.einst.uart_port, at_port_werte(um_.einst))) {
+    if (!MSComm2_->oeffnen(um_.einst.uart.uart_port, at_port_werte(um_.einst.uart))) {
         return false;
     }
     if (um_.einst.hardware.hw_uart) {
         tmr_µportopen_->an();
-        warten(true);
+        um_.bedienung.wartehinweis(true);
     }
     return true;
 }
@@ -100,27 +101,19 @@ void at2560::schliessen() {
     at_zeitversatz_ = 0;
     if (tmr_µportopen_->laeuft()) {
         tmr_µportopen_->aus();
-        warten(false);
+        um_.bedienung.wartehinweis(false);
     }
 }
 
 void at2560::verloren_melden() {
     schliessen();
-    if (verloren) {
-        verloren();
-    }
-}
-
-void at2560::warten(bool an) {
-    if (wartehinweis) {
-        wartehinweis(an);
-    }
+    um_.bedienung.verloren();
 }
 
 void at2560::tmr_µportopen_tick() {
     tmr_µportopen_->aus();
     at_senden(profil_.at_is_befehl);
-    warten(false);
+    um_.bedienung.wartehinweis(false);
 }
 
 void at2560::at_senden(std::string_view text) {
@@ -131,10 +124,10 @@ void at2560::at_senden(std::string_view text) {
 
 void at2560::rennfenster_offen() {
     if (tmr_µportopen_->laeuft()) {
-        warten(true);  // also in this window
+        um_.bedienung.wartehinweis(true);  // also in this window
     } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() &&
                !µC_MSCOMM_settings_setzen()) {  // lost, and not there again
-        um_.meldungen.zeigen(um_.txt.meldung[27], um_.txt.titel[1]);
+        um_.bedienung.port_fehlt(um_.txt.meldung[27]);
     }
 }
 
@@ -182,14 +175,12 @@ void at2560::µC_wert_zerlegen() {
     if (meldung) {
         ereignis_melden(*meldung);
     }
-    if (nach_ereignis) {
-        nach_ereignis();
-    }
+    um_.rennen.ereignisse_gemeldet();
 }
 
 void at2560::ereignis_melden(const at_meldung& meldung) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
-    if (ereignisse[art::chaostaster].aktiv && chaos_aktiv && chaos_aktiv()) {
+    if (ereignisse[art::chaostaster].aktiv && um_.rennen.pause()) {
         ereignisse.chaos_at_zaehler = chaos_nachhall;
     }
     if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -8,8 +7,10 @@
 #include "core/einstellungen.h"
 #include "core/texte.h"
 #include "hardware/at2560_empfang.h"
-#include "hardware/ausgaben.h"
-#include "hardware/messquelle.h"
+#include "hardware/ereignisse.h"
+#include "hardware/geraetebedienung.h"
+#include "hardware/messgeraet.h"
+#include "hardware/rennverbindung.h"
 #include "platform/meldungen.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
@@ -17,14 +18,14 @@
 namespace tarvel {
 
 /// Baud rate, parity, data bits and stop bits of the AT-2560's port as the port wants them.
-std::string at_port_werte(const einstellungen& einst);
+std::string at_port_werte(const at2560_anschluss& anschluss);
 
 /// After the port opens the unit boots this long, and hears nothing.
 inline constexpr dauer_ms at_bootzeit{3000};
 
 /// The timing unit AT-2560 USB. Its events carry the time of its own clock, which each race fetches anew; until it is
 /// known they are stamped with `messzeit`.
-class at2560 final : public messquelle, public ausgabe_geraet {
+class at2560 final : public messgeraet {
 public:
     struct umgebung {
         const einstellungen& einst;
@@ -35,24 +36,21 @@ public:
         plattform::zeitgeber_dienst& zeitgeber;
         plattform::serienport_dienst& serienports;
         plattform::meldungen& meldungen;
+        rennverbindung& rennen;
+        geraetebedienung& bedienung;
     };
 
     explicit at2560(const umgebung& um);
 
-    /// A pause is on.
-    std::function<bool()> chaos_aktiv;
-    /// Events of the unit have reached the table: the fuel simulation looks at them at once.
-    std::function<void()> nach_ereignis;
-    /// The unit boots (true), or is ready for a race (false).
-    std::function<void(bool)> wartehinweis;
-    /// The port cannot be opened: the message, and back to the keyboard alone.
-    std::function<void()> nicht_zu_oeffnen;
-    /// The unit was unplugged.
-    std::function<void()> verloren;
+    int nummer() const override { return messhardware::at_2560; }
+    std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::at_2560; }
+    faehigkeiten kann() const override { return {.kontakte_wiederholt = true}; }
+    /// Reads the command file and opens the port of the settings. If that fails, the operator's side knows.
+    bool oeffnen() override;
+    void schliessen() override;
+    bool verbunden() const override { return offen(); }
+    bool haelt_auf() const override { return true; }
 
-    /// Reads the command file and opens the port of the settings. If that fails, `nicht_zu_oeffnen` has run.
-    bool oeffnen();
-    void schliessen();
     bool offen() const { return MSComm2_->offen(); }
     /// Reads the command file of the settings; the default one is made if it is missing. A failure shows its message
     /// and leaves the words of the factory.
@@ -79,7 +77,6 @@ private:
     void ereignis_melden(const at_meldung& meldung);
     void zeile_melden(int zeile, zeit_ms stempel);
     void tmr_µportopen_tick();
-    void warten(bool an);
 
     umgebung um_;
     std::unique_ptr<plattform::serienport> MSComm2_;

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::string_view starttaste_befehl = "T2P$";
 
+constexpr int volle_stufe = 14;           // of the 15 that a tank can tell
 constexpr int durchgaenge_max = 100;      // slow passes without an end of a record
 constexpr zeit_ms verbunden_ms = 1000;    // the unit counts as connected for so long after a record
 constexpr zeit_ms ampel_still_ms = 3000;  // and a race waits for its light this long
@@ -50,9 +51,13 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     };
 }
 
-bool control_unit::mscomm1_oeffnen() {
+faehigkeiten control_unit::kann() const {
+    return {.eigener_tank = true, .start_am_geraet = !um_.einst.cu.cu_sondermodus, .feste_wagen = true};
+}
+
+bool control_unit::oeffnen() {
     schliessen();
-    if (!leitung_.oeffnen(um_.einst.cu_modus)) {
+    if (!leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
         return false;
     }
     geoeffnet_ = uhr_.jetzt();
@@ -141,7 +146,7 @@ void control_unit::uhr_nachstellen(zeit_ms stempel) {
     const bool neu_begonnen = letzter_stempel_ - stempel > uhr_sprung_ms + luecke_;
     if (!uhr_bekannt_ || neu_begonnen || verspaetung > uhr_sprung_ms + luecke_ || verspaetung < -uhr_sprung_ms) {
         um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
-        bewirkt.stempel_verschieben(-verspaetung);
+        um_.rennen.stempel_verschieben(-verspaetung);
         uhr_bekannt_ = true;
         letzter_stempel_ = stempel;
     } else if (verspaetung < 0) {  // this record came through faster than any before
@@ -152,15 +157,15 @@ void control_unit::uhr_nachstellen(zeit_ms stempel) {
 
 void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
     const bool eben_bereit = !std::exchange(zaehlerbox_bereit_, zaehler.bereit) && zaehler.bereit;
-    if (eben_bereit && cu_alter_rz_start_->laeuft() && bewirkt.rennen_ruht()) {
+    if (eben_bereit && cu_alter_rz_start_->laeuft() && um_.rennen.rennen_ruht()) {
         cu_alter_rz_start_->aus();
-        bewirkt.rennen_vorbereiten();
+        um_.rennen.rennen_vorbereiten();
     }
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
-    if (!bewirkt.rennen_laeuft() && um_.einst.cu_tankautomatik) {
-        bewirkt.tankfunktion(status.tankmodus != 0);
+    if (!um_.rennen.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
+        um_.rennen.tankfunktion(status.tankmodus != 0);
     }
     if (um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
         for (int bit = 0; bit < spuren_max - 1; ++bit) {
@@ -175,7 +180,7 @@ void control_unit::cu_tank_auswerten(const cu::status& status) {
     for (const int spur : alle_spuren) {
         if (status.tank[spur] != cu_tank_wert_[spur]) {
             cu_tank_wert_[spur] = status.tank[spur];
-            bewirkt.fuellstand(spur, status.tank[spur]);
+            um_.rennen.fuellstand(spur, status.tank[spur], volle_stufe);
         }
     }
 }
@@ -188,10 +193,10 @@ void control_unit::startzustand_auswerten(bool steht) {
         cu_chaos_durch_box_ = false;
         return;
     }
-    if (um_.einst.cu_sondermodus && !stand_verbraucht_ && bewirkt.rennen_ruht()) {
-        bewirkt.rennen_vorbereiten();
+    if (um_.einst.cu.cu_sondermodus && !stand_verbraucht_ && um_.rennen.rennen_ruht()) {
+        um_.rennen.rennen_vorbereiten();
     }
-    if (rennen_laeuft_ && !neustart_wartet_ && bewirkt.rennen_laeuft()) {
+    if (rennen_laeuft_ && !neustart_wartet_ && um_.rennen.rennen_laeuft()) {
         cu_chaos_durch_box_ = true;
         um_.ereignisse.ereignis_melden(art::chaostaster);
     }
@@ -217,25 +222,25 @@ void control_unit::rennfenster_offen() {
     cu_chaos_durch_box_ = false;
     zaehlerbox_bereit_ = false;
     stand_verbraucht_ = stand_verbraucht_ && im_startzustand();
-    if (!leitung_.offen() && !mscomm1_oeffnen()) {  // it may have been unplugged since, and plugged in again
-        bewirkt.port_fehlt();
+    if (!leitung_.offen() && !oeffnen()) {  // it may have been unplugged since, and plugged in again
+        um_.bedienung.port_fehlt(um_.txt.meldung[14]);
         return;
     }
     if (!cu_nicht_zuruecksetzen()) {
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
     }
-    for (const std::string& befehl : um_.einst.cu_reglerbefehl) {
+    for (const std::string& befehl : um_.einst.cu.cu_reglerbefehl) {
         leitung_.senden(befehl);
     }
     rennbetrieb(true);
-    if (um_.einst.cu_option) {
+    if (um_.einst.cu.cu_option) {
         cu_alter_rz_start_->an();
     }
 }
 
 void control_unit::cu_alter_rz_start_tick() {
-    if (!um_.einst.cu_option || rennen_laeuft_) {
+    if (!um_.einst.cu.cu_option || rennen_laeuft_) {
         cu_alter_rz_start_->aus();
     }
 }
@@ -254,19 +259,19 @@ void control_unit::rennen_bereit() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();
-    if (um_.einst.cu_sondermodus && cu_startzustand_ == start::faehrt) {
+    if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt) {
         starttaste();  // stops the cars; the second press starts the light
     }
 }
 
 void control_unit::startkommando() {
-    if (um_.einst.cu_sondermodus) {
+    if (um_.einst.cu.cu_sondermodus) {
         starttaste();
     }
 }
 
 void control_unit::abbrechen() {
-    if (um_.einst.cu_sondermodus) {  // else somebody stands at its key
+    if (um_.einst.cu.cu_sondermodus) {  // else somebody stands at its key
         starttaste();
     }
 }
@@ -278,7 +283,7 @@ void control_unit::neustart() {
 
 void control_unit::start_abgebrochen() {
     stand_verbraucht_ = true;  // else the race would begin again by itself
-    if (leitung_.offen() && um_.einst.cu_option) {
+    if (leitung_.offen() && um_.einst.cu.cu_option) {
         cu_alter_rz_start_->an();
     }
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "core/renn_parameter.h"
 #include "core/texte.h"
-#include "hardware/ausgaben.h"
 #include "hardware/cu_leitung.h"
 #include "hardware/ereignisse.h"
-#include "hardware/messquelle.h"
+#include "hardware/geraetebedienung.h"
+#include "hardware/messgeraet.h"
+#include "hardware/rennverbindung.h"
 #include "hardware/zeitbasis.h"
 #include "platform/dienste.h"
 #include "platform/zeitgeber.h"
@@ -18,7 +18,7 @@ namespace tarvel {
 
 /// A Carrera Control Unit: the central box of a digital track. It stamps the passages of its cars with its own clock,
 /// has the tanks and runs the start light; the program polls it. Controller n is lane n.
-class control_unit final : public messquelle, public ausgabe_geraet, private geraeteampel {
+class control_unit final : public messgeraet, private geraeteampel {
 public:
     struct umgebung {
         const einstellungen& einst;
@@ -26,26 +26,19 @@ public:
         const texte& txt;
         ereignis_tabelle& ereignisse;
         zeitbasis& zeit;
-    };
-
-    /// What the unit brings about in the program.
-    struct wirkung {
-        std::function<void(zeit_ms um)> stempel_verschieben;  ///< all stamps so far move by so many ms
-        std::function<bool()> rennen_ruht;                    ///< the race window waits for a start
-        std::function<bool()> rennen_laeuft;                  ///< and is neither paused nor over
-        std::function<void()> rennen_vorbereiten;             ///< as the start command
-        std::function<void(int spur, int stufe)> fuellstand;  ///< 0 to 15, of 14
-        std::function<void(bool an)> tankfunktion;            ///< before a race: the unit drives with fuel
-        std::function<void()> port_fehlt;                     ///< a race window opens without the unit
+        rennverbindung& rennen;
+        geraetebedienung& bedienung;
     };
 
     control_unit(const umgebung& um, const plattform::dienste& dienste);
 
-    wirkung bewirkt;
+    int nummer() const override { return messhardware::control_unit; }
+    std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::control_unit; }
+    faehigkeiten kann() const override;
+    bool oeffnen() override;
+    void schliessen() override;
+    bool verbunden() const override { return antwortet(); }
 
-    /// Opens the port of the settings; false if they name none or it is not there.
-    bool mscomm1_oeffnen();
-    void schliessen();
     bool port_offen() const { return leitung_.offen(); }
     /// The unit has answered lately.
     bool antwortet() const;

@@ -113,10 +113,10 @@ void cu_eigenschaften::laden() {
         ports.push_back(com(nummer));
     }
     cbo_cu_comport.eintraege(ports);
-    cbo_cu_comport.platz(std::clamp(um_.einst.cu_modus, 0, cu_comport_max));
-    opt_cu_tankautomatik.gesetzt(um_.einst.cu_tankautomatik);
-    opt_cu_prgstart.gesetzt(um_.einst.cu_sondermodus);
-    opt_cu_alterRZ.gesetzt(um_.einst.cu_option);
+    cbo_cu_comport.platz(std::clamp(um_.einst.cu.anschluss.cu_modus, 0, cu_comport_max));
+    opt_cu_tankautomatik.gesetzt(um_.einst.cu.cu_tankautomatik);
+    opt_cu_prgstart.gesetzt(um_.einst.cu.cu_sondermodus);
+    opt_cu_alterRZ.gesetzt(um_.einst.cu.cu_option);
     timer_aus.gesetzt(false);
     std::vector<std::string> groessen;
     for (int wert = 0; wert <= 15; ++wert) {
@@ -125,7 +125,7 @@ void cu_eigenschaften::laden() {
     for (const int spur : alle_spuren) {
         wagen[spur].text(std::to_string(spur));
         cbo_cu_tankgroesse[spur].eintraege(groessen);
-        cbo_cu_tankgroesse[spur].platz(um_.einst.cu_spur_wert[spur]);
+        cbo_cu_tankgroesse[spur].platz(um_.einst.cu.cu_spur_wert[spur]);
         cbo_cu_tankgroesse[spur].ansage(Label_tankgroesse.text() + " " + std::to_string(spur));
     }
     Text1.ansage(Label_befehl.text());
@@ -135,7 +135,7 @@ void cu_eigenschaften::laden() {
     port_belegen(true);
     Timer1_->an();
     Timer2_->an();
-    if (um_.einst.cu_modus > 0) {
+    if (um_.einst.cu.anschluss.cu_modus > 0) {
         oeffnen();
     }
 }
@@ -256,7 +256,7 @@ void cu_eigenschaften::suche_beenden(int gefunden) {
         return;
     }
     cbo_cu_comport.platz(gefunden);
-    um_.einst.cu_modus = gefunden;
+    um_.einst.cu.anschluss.cu_modus = gefunden;
     hinweisen(com(gefunden) + ": " + wort_.gefunden);
 }
 
@@ -316,12 +316,12 @@ void cu_eigenschaften::proto_schreiben() {
 }
 
 void cu_eigenschaften::uebernehmen() {
-    um_.einst.cu_modus = std::max(cbo_cu_comport.platz(), 0);
-    um_.einst.cu_tankautomatik = opt_cu_tankautomatik.gesetzt();
-    um_.einst.cu_sondermodus = opt_cu_prgstart.gesetzt();
-    um_.einst.cu_option = opt_cu_alterRZ.gesetzt();
+    um_.einst.cu.anschluss.cu_modus = std::max(cbo_cu_comport.platz(), 0);
+    um_.einst.cu.cu_tankautomatik = opt_cu_tankautomatik.gesetzt();
+    um_.einst.cu.cu_sondermodus = opt_cu_prgstart.gesetzt();
+    um_.einst.cu.cu_option = opt_cu_alterRZ.gesetzt();
     for (const int spur : alle_spuren) {
-        um_.einst.cu_spur_wert[spur] = std::max(cbo_cu_tankgroesse[spur].platz(), 0);
+        um_.einst.cu.cu_spur_wert[spur] = std::max(cbo_cu_tankgroesse[spur].platz(), 0);
     }
     um_.einst.folgen_ableiten();
     einstellungen_speichern();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "platform/uhr.h"
@@ -28,6 +29,19 @@ public:
     virtual void neustart() = 0;
 };
 
+/// What a device can do, or needs, that a race has to reckon with.
+struct faehigkeiten {
+    bool eigener_tank = false;         ///< it burns and refuels, and tells the levels
+    bool start_am_geraet = false;      ///< somebody starts and pauses the race at its own key
+    bool feste_wagen = false;          ///< cars keep to their controllers: nobody changes lanes
+    bool kontakte_wiederholt = false;  ///< a contact that stays closed is told again and again
+
+    faehigkeiten operator|(const faehigkeiten& andere) const {
+        return {eigener_tank || andere.eigener_tank, start_am_geraet || andere.start_am_geraet,
+                feste_wagen || andere.feste_wagen, kontakte_wiederholt || andere.kontakte_wiederholt};
+    }
+};
+
 /// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device. Of what the
 /// race tells, a device overrides what it has a use for.
 class messquelle {
@@ -42,6 +56,10 @@ public:
     /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.
     virtual void abtasten() {}
 
+    virtual faehigkeiten kann() const { return {}; }
+    /// Reading of a clock of its own, in ms: the race goes by it, and asks for it as it starts, pauses and goes on.
+    /// None for a device whose events are stamped by the race's clock, or that keeps that clock in step itself.
+    virtual std::optional<zeit_ms> uhr_lesen() { return std::nullopt; }
     /// A light of its own, for as long as the device is there; else none.
     virtual geraeteampel* ampel() { return nullptr; }
 
@@ -79,6 +97,25 @@ public:
         for (messquelle* quelle : alle_) {
             (quelle->*was)(werte...);
         }
+    }
+
+    /// What any of them can do.
+    faehigkeiten kann() const {
+        faehigkeiten alles;
+        for (const messquelle* quelle : alle_) {
+            alles = alles | quelle->kann();
+        }
+        return alles;
+    }
+
+    /// The first clock among them.
+    std::optional<zeit_ms> uhr_lesen() const {
+        for (messquelle* quelle : alle_) {
+            if (const std::optional<zeit_ms> zeit = quelle->uhr_lesen()) {
+                return zeit;
+            }
+        }
+        return std::nullopt;
     }
 
     geraeteampel* ampel() const {

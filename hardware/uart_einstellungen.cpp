@@ -54,7 +54,8 @@ void uart_einstellungen::laden() {
         geraet_trennen();
     }
     profil_ = {};
-    if (um_.ablage.gibt_es(um_.einst.uart_datei) && !at_profil_laden(um_.ablage, um_.einst.uart_datei, profil_)) {
+    if (um_.ablage.gibt_es(um_.einst.uart.uart_datei) &&
+        !at_profil_laden(um_.ablage, um_.einst.uart.uart_datei, profil_)) {
         um_.meldungen.zeigen(um_.txt.meldung[26], um_.txt.titel[1]);
     }
     auswahlen_fuellen();
@@ -62,7 +63,7 @@ void uart_einstellungen::laden() {
     protokoll.leeren();
     ergebnis.text("");
     port_schliessen.sichtbar(false);
-    port.platz(um_.einst.uart_port - 1);
+    port.platz(um_.einst.uart.uart_port - 1);
     sensoranzahl.text("4");
     chaos_anzahl.platz(0);
     stecker.platz(0);
@@ -212,7 +213,7 @@ void uart_einstellungen::port_oeffnen() {
         }
         return;
     }
-    if (!port_->oeffnen(nummer, at_port_werte(um_.einst))) {
+    if (!port_->oeffnen(nummer, at_port_werte(um_.einst.uart))) {
         ergebnis.text(um_.txt.meldung[14]);
         notieren(um_.txt.meldung[14]);
         um_.meldungen.zeigen(um_.txt.meldung[14], um_.txt.titel[1]);

@@ -150,29 +150,29 @@ void uart_einstellungen::zusammenfassen() {
                                     (fahrer == at_chaostaster::alle ? wort_.chaos.back() : wort_.chaos.at(platz)));
     }
     zusammenfassung.hinzufuegen(wort_.sensorbefehl + ": " + z.eintragen(profil_).at_is_befehl);
-    zusammenfassung.hinzufuegen(wort_.befehlsdatei + ": " + um_.einst.uart_datei);
-    if (um_.ablage.gibt_es(um_.einst.uart_datei)) {
+    zusammenfassung.hinzufuegen(wort_.befehlsdatei + ": " + um_.einst.uart.uart_datei);
+    if (um_.ablage.gibt_es(um_.einst.uart.uart_datei)) {
         zusammenfassung.hinzufuegen(wort_.gesichert + ": " + sicherungsname());
     }
 }
 
 std::string uart_einstellungen::sicherungsname() const {
-    std::string name = um_.einst.uart_datei + ".alt";
+    std::string name = um_.einst.uart.uart_datei + ".alt";
     for (int nummer = 2; um_.ablage.gibt_es(name); ++nummer) {
-        name = um_.einst.uart_datei + ".alt" + std::to_string(nummer);
+        name = um_.einst.uart.uart_datei + ".alt" + std::to_string(nummer);
     }
     return name;
 }
 
 void uart_einstellungen::fertigstellen() {
     // the file so far may have lines of its owner's
-    const bool gesichert =
-        !um_.ablage.gibt_es(um_.einst.uart_datei) || um_.ablage.kopieren(um_.einst.uart_datei, sicherungsname());
-    if (!gesichert || !at_profil_speichern(um_.ablage, um_.einst.uart_datei, zuordnung().eintragen(profil_))) {
+    const bool gesichert = !um_.ablage.gibt_es(um_.einst.uart.uart_datei) ||
+                           um_.ablage.kopieren(um_.einst.uart.uart_datei, sicherungsname());
+    if (!gesichert || !at_profil_speichern(um_.ablage, um_.einst.uart.uart_datei, zuordnung().eintragen(profil_))) {
         um_.meldungen.zeigen(um_.txt.meldung[26], um_.txt.titel[1]);
         return;
     }
-    um_.einst.uart_port = offener_port_;
+    um_.einst.uart.uart_port = offener_port_;
     if (einstellungen_speichern) {
         einstellungen_speichern();
     }

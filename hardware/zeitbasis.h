@@ -17,6 +17,8 @@ public:
     /// turn.
     zeit_ms ereignis_zeit_lesen();
 
+    /// A device's clock stands at `geraetezeit` now.
+    void stellen(zeit_ms geraetezeit) { versatz_ = uhr_.jetzt() - geraetezeit; }
     /// What the machine's counter is ahead of the device's clock, in ms; 0 without such a device.
     void versatz(zeit_ms neu) { versatz_ = neu; }
     zeit_ms versatz() const { return versatz_; }

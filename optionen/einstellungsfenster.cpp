@@ -190,15 +190,10 @@ void einstellungsfenster::hardware_gruppen_zeigen() {
 }
 
 void einstellungsfenster::hardware_uebernehmen() {
-    const auto gewaehlt = [this](std::size_t nummer) { return hardware.at(nummer).gesetzt(); };
     messhardware& h = um_.ziel.einst.hardware;
-    h.hw_iow = gewaehlt(1);
-    h.hw_race_control = gewaehlt(2);
-    h.hw_lpt = gewaehlt(3);
-    h.hw_4x4_modus = gewaehlt(hardware_4x4) ? std::max(h.hw_4x4_modus, modul_4x4::modus_1) : modul_4x4::aus;
-    h.hw_timekeeper = gewaehlt(5);
-    h.hw_cu = gewaehlt(6);
-    h.hw_uart = gewaehlt(7);
+    for (std::size_t nummer = 1; nummer < hardware.size(); ++nummer) {
+        h.waehlen(static_cast<int>(nummer), hardware.at(nummer).gesetzt());
+    }
     h.simulation_ableiten();
 }
 

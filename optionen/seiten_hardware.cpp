@@ -8,6 +8,15 @@ namespace {
 
 using namespace option;
 using e = einstellungen;
+using iow = iow_anschluss;
+using rc = race_control_einstellungen;
+using rc_anschluss = race_control_anschluss;
+using lpt = druckeranschluss_einstellungen;
+using s6 = modul_4x4_einstellungen;
+using tk = timekeeper_anschluss;
+using cu = control_unit_einstellungen;
+using cu_anschluss = control_unit_anschluss;
+using uart = at2560_anschluss;
 
 constexpr int comports_max = 20;
 
@@ -34,7 +43,8 @@ optionszeile_zeiger lpt_adresse() {
     zeile->zeigen = [element](const einstellungs_ziel& z) {
         constexpr std::string_view zeichen = "0123456789ABCDEF";
         std::string text;
-        for (unsigned rest = static_cast<unsigned>(z.einst.lpt_adresse); rest > 0 || text.empty(); rest /= 16) {
+        for (unsigned rest = static_cast<unsigned>(z.einst.lpt.anschluss.lpt_adresse); rest > 0 || text.empty();
+             rest /= 16) {
             text.insert(text.begin(), zeichen.at(rest % 16));
         }
         element->text(text);
@@ -42,7 +52,7 @@ optionszeile_zeiger lpt_adresse() {
     zeile->uebernehmen = [element](const einstellungs_ziel& z, const auto&) {
         const std::string text(gekuerzt(element->text()));
         if (!text.empty() && text.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos) {
-            z.einst.lpt_adresse = static_cast<int>(std::strtol(text.c_str(), nullptr, 16));
+            z.einst.lpt.anschluss.lpt_adresse = static_cast<int>(std::strtol(text.c_str(), nullptr, 16));
         }
     };
     return zeile;
@@ -58,23 +68,25 @@ void allgemein(optionsseite& seite) {
 
 void race_control(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Race Control", 1);
-    gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc_com_port), comport_namen(comports_max))
-           << entweder({"rc_mod1", "Modus"}, wert(&e::rc_mod1), "Modus 1", "Modus 2")
-           << zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc_level), begrenzt(0, 130))
-           << zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc_delay_ms), begrenzt(0, 50))
-           << zahl({"selPostMS", "Nachlauf (ms)", "0 bis 15"}, wert(&e::rc_post_ms), begrenzt(0, 15))
-           << kasten({"cbxRevZZ", "Reverse 1 - 2"}, wert(&e::rc_rev_zz))
-           << kasten({"cbxRevSZ", "Reverse 3 - 4"}, wert(&e::rc_rev_sz))
-           << kasten({"check_rctank", "bis Überfahrt Sensor 3 + 4"}, wert(&e::rc_tank_sensor34))
-           << kasten({"check_rcziel", "Rennende auf Sensor 3 + 4"}, wert(&e::rc_ziel_sensor34));
+    gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc, &rc::anschluss, &rc_anschluss::rc_com_port),
+                        comport_namen(comports_max))
+           << entweder({"rc_mod1", "Modus"}, wert(&e::rc, &rc::rc_mod1), "Modus 1", "Modus 2")
+           << zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc, &rc::rc_level), begrenzt(0, 130))
+           << zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc, &rc::rc_delay_ms), begrenzt(0, 50))
+           << zahl({"selPostMS", "Nachlauf (ms)", "0 bis 15"}, wert(&e::rc, &rc::rc_post_ms), begrenzt(0, 15))
+           << kasten({"cbxRevZZ", "Reverse 1 - 2"}, wert(&e::rc, &rc::rc_rev_zz))
+           << kasten({"cbxRevSZ", "Reverse 3 - 4"}, wert(&e::rc, &rc::rc_rev_sz))
+           << kasten({"check_rctank", "bis Überfahrt Sensor 3 + 4"}, wert(&e::rc, &rc::rc_tank_sensor34))
+           << kasten({"check_rcziel", "Rennende auf Sensor 3 + 4"}, wert(&e::rc, &rc::rc_ziel_sensor34));
     for (std::size_t sensor = 0; sensor < 4; ++sensor) {
         const std::string nummer = std::to_string(sensor + 1);
-        optionszeile_zeiger zeile = wahl({"selSpur_" + nummer, "Sensor " + nummer}, element(&e::rc_sensor, sensor), 13,
-                                         {"Spur 4", "Spur 3", "Spur 2", "Spur 1"});
+        optionszeile_zeiger zeile =
+            wahl({"selSpur_" + nummer, "Sensor " + nummer}, element(wert(&e::rc, &rc::rc_sensor), sensor), 13,
+                 {"Spur 4", "Spur 3", "Spur 2", "Spur 1"});
         gruppe << std::move(zeile);
     }
-    gruppe << kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc_schalter))
-           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc_wert), begrenzt(-999999999, 999999999));
+    gruppe << kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc, &rc::rc_schalter))
+           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc, &rc::rc_wert), begrenzt(-999999999, 999999999));
 }
 
 void druckeranschluss(optionsseite& seite) {
@@ -83,11 +95,11 @@ void druckeranschluss(optionsseite& seite) {
     constexpr std::array<int, 5> eingangspins{10, 11, 12, 13, 15};
     for (std::size_t i = 0; i < eingangspins.size(); ++i) {
         gruppe << ereignis({"ecomb_" + std::to_string(i + 1), "Eingang Pin " + std::to_string(eingangspins.at(i))},
-                           element(&e::lpt_eingang, i + 1));
+                           element(wert(&e::lpt, &lpt::lpt_eingang), i + 1));
     }
     for (std::size_t i = 1; i <= 12; ++i) {
         const std::string pin = i <= 8 ? "Ausgang Pin " + std::to_string(i + 1) : "Ausgang " + std::to_string(i);
-        gruppe << ereignis({"comb_" + std::to_string(i), pin}, element(&e::lpt_ausgang, i));
+        gruppe << ereignis({"comb_" + std::to_string(i), pin}, element(wert(&e::lpt, &lpt::lpt_ausgang), i));
     }
 }
 
@@ -98,10 +110,10 @@ void modul_4x4_seite(optionsseite& seite) {
     gruppe << wahl({"optModus", "Modus"}, hardware(&tarvel::messhardware::hw_4x4_modus),
                    static_cast<int>(modul_4x4_modus::modus_1),
                    {"Digital IR-Modus", "PRO-X Lochposition", "PRO-X Lochzählung", "Kontakt Modus"})
-           << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6_option));
+           << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6, &s6::s6_option));
     for (std::size_t i = 1; i <= 8; ++i) {
         gruppe << ereignis({"s6_eingang_" + std::to_string(i), "Eingang " + std::to_string(i)},
-                           element(&e::s6_eingang, i));
+                           element(wert(&e::s6, &s6::s6_eingang), i));
     }
     for (const int spur : alle_spuren) {
         const std::string name = "s6_eingang_modus_" + std::to_string(spur) + "_";
@@ -109,7 +121,7 @@ void modul_4x4_seite(optionsseite& seite) {
         for (std::size_t modus = 1; modus <= 4; ++modus) {
             const std::string m = std::to_string(modus);
             gruppe << ereignis({name + m, text + m}, [spur, modus](const einstellungs_ziel& z) -> int& {
-                return z.einst.s6_eingang_modus[spur].at(modus);
+                return z.einst.s6.s6_eingang_modus[spur].at(modus);
             });
         }
     }
@@ -117,26 +129,26 @@ void modul_4x4_seite(optionsseite& seite) {
 
 void control_unit(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Carrera Control Unit", 1);
-    gruppe << comport({"cu_comport", "COM-Port"}, wert(&e::cu_modus), comports_max)
-           << kasten({"opt_cu_tankautomatik", "automatische Tankfunktion"}, wert(&e::cu_tankautomatik))
-           << kasten({"opt_cu_prgstart", "Rennstart über Software"}, wert(&e::cu_sondermodus))
-           << kasten({"opt_cu_alterRZ", "Blackbox mit Rundenzähler 30342 verwenden"}, wert(&e::cu_option));
+    gruppe << comport({"cu_comport", "COM-Port"}, wert(&e::cu, &cu::anschluss, &cu_anschluss::cu_modus), comports_max)
+           << kasten({"opt_cu_tankautomatik", "automatische Tankfunktion"}, wert(&e::cu, &cu::cu_tankautomatik))
+           << kasten({"opt_cu_prgstart", "Rennstart über Software"}, wert(&e::cu, &cu::cu_sondermodus))
+           << kasten({"opt_cu_alterRZ", "Blackbox mit Rundenzähler 30342 verwenden"}, wert(&e::cu, &cu::cu_option));
     for (const int spur : alle_spuren) {
         const std::string nummer = std::to_string(spur);
-        gruppe << zahl({"cu_spur_wert_" + nummer, "Regler " + nummer, "0 bis 15"}, je_spur(&e::cu_spur_wert, spur),
-                       begrenzt(0, 15));
+        gruppe << zahl({"cu_spur_wert_" + nummer, "Regler " + nummer, "0 bis 15"},
+                       je_spur(wert(&e::cu, &cu::cu_spur_wert), spur), begrenzt(0, 15));
     }
 }
 
 void at_2560(optionsseite& seite) {
     seite.gruppe("AT-2560 USB", 1)
-        << comport({"uart_port", "COM-Port"}, wert(&e::uart_port), 16)
-        << wortliste({"uart_baud", "Baudrate"}, wert(&e::uart_baud),
+        << comport({"uart_port", "COM-Port"}, wert(&e::uart, &uart::uart_port), 16)
+        << wortliste({"uart_baud", "Baudrate"}, wert(&e::uart, &uart::uart_baud),
                      {"4800", "9600", "19200", "38400", "57600", "115200"})
-        << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart_datenbits), begrenzt(4, 8))
-        << wortliste({"uart_parity", "Parität"}, wert(&e::uart_parity), {"N", "E", "O", "M", "S"})
-        << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart_stopbits), {"1", "1.5", "2"})
-        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart_datei), 60, 6)
+        << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart, &uart::uart_datenbits), begrenzt(4, 8))
+        << wortliste({"uart_parity", "Parität"}, wert(&e::uart, &uart::uart_parity), {"N", "E", "O", "M", "S"})
+        << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart, &uart::uart_stopbits), {"1", "1.5", "2"})
+        << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart, &uart::uart_datei), 60, 6)
         << aktion({"uart_datei_waehlen", "Befehlsdatei auswählen"})
         << aktion({"uart_einrichten", "Zeitmessung einrichten"});
 }
@@ -147,11 +159,11 @@ optionsseite_zeiger messhardware() {
     auto seite = std::make_unique<optionsseite>("Messhardware");
     allgemein(*seite);
     seite->gruppe("Simulationsmodus", 1);  // the keyboard has its own window
-    seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow_datei), 60);
+    seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow, &iow::iow_datei), 60);
     race_control(*seite);
     druckeranschluss(*seite);
     modul_4x4_seite(*seite);
-    seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk_datei), 60);
+    seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk, &tk::tk_datei), 60);
     control_unit(*seite);
     at_2560(*seite);
     return seite;

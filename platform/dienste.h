@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "platform/bibliothek.h"
 #include "platform/bildschirm.h"
+#include "platform/druckerport.h"
 #include "platform/kalender.h"
 #include "platform/klang.h"
 #include "platform/meldungen.h"
@@ -25,6 +27,8 @@ struct dienste {
     plattform::prozess& prozess;
     plattform::zufall& zufall;
     plattform::serienport_dienst& serienports;
+    plattform::bibliothek_dienst& bibliotheken;
+    plattform::druckerport& druckerport;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/dienste.h"
+#include "platform_qt/druckerport.h"
+#include "platform_qt/qt_bibliothek.h"
 #include "platform_qt/qt_klang.h"
 #include "platform_qt/qt_meldungen.h"
 #include "platform_qt/qt_prozess.h"
@@ -46,6 +48,12 @@ private:
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
     QtSerienportDienst serienports_{ordner_};
+    QtBibliothekDienst bibliotheken_;
+#ifdef Q_OS_WIN
+    Portbibliothek druckerport_{bibliotheken_};
+#else
+    Portdatei druckerport_;
+#endif
 };
 
 }  // namespace tarvel::qt

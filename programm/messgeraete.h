@@ -1,58 +1,65 @@
 #pragma once
 
-#include <functional>
+#include <cassert>
 
-#include "core/fensterregister.h"
-#include "core/form1.h"
-#include "hardware/at2560.h"
-#include "hardware/control_unit.h"
-#include "hardware/cu_eigenschaften.h"
-#include "race/rennen.h"
+#include "hardware/geraetebedienung.h"
+#include "programm/geraete_im_rennen.h"
+#include "programm/geraeteverdrahtung.h"
 
 namespace tarvel {
 
-/// The timing devices, and how they meet the race. One of them at a time is in force.
-class messgeraete {
+/// The timing devices, and how they meet the operator. One of them at a time is in force.
+class messgeraete final : public geraetebedienung {
 public:
-    struct umgebung {
-        einstellungen& einst;
-        const texte& txt;
-        const dateien& ablage;
-        ereignis_tabelle& ereignisse;
-        messquellen& quellen;
-        tarvel::ausgaben& ausgaben;
-        fensterregister& fenster;
-        tarvel::form1& form1;
-        tarvel::rennen& rennen;
-    };
-
-    messgeraete(const umgebung& um, const plattform::dienste& dienste);
-
-    control_unit cu;
-    tarvel::cu_eigenschaften cu_eigenschaften;
-    at2560 at;
+    explicit messgeraete(const geraete_umgebung& um);
 
     /// Closes whatever was open, opens the device of the settings and puts the outputs to rest. A device that cannot be
-    /// reached leaves the race to the keyboard. The AT-2560 stops the operator while it boots: as the program starts it
-    /// waits (`spaeter`) for `nachholen`.
+    /// reached leaves the race to the keyboard. One that keeps the operator waiting waits for `nachholen` itself as the
+    /// program starts (`spaeter`).
     void hardware_starten(bool spaeter);
     /// The main window is on the screen: opens what has waited for it.
     void nachholen();
     void schliessen();
+    /// The program ends.
+    void beenden();
+
+    /// The device that is chosen can be heard.
+    bool verbunden() const;
+    tarvel::rennverbindung& rennverbindung() { return rennverbindung_; }
+
+    /// A device with its windows, by the type of its wiring.
+    template <class Verdrahtung>
+    Verdrahtung& von() {
+        Verdrahtung* gefunden = nullptr;
+        for (const auto& eines : alle_) {
+            gefunden = gefunden == nullptr ? dynamic_cast<Verdrahtung*>(eines.teile.get()) : gefunden;
+        }
+        assert(gefunden != nullptr);
+        return *gefunden;
+    }
+
+    void wartehinweis(bool an) override;
+    void port_fehlt(const std::string& meldung) override;
+    void nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldung) override;
+    void verloren() override;
 
 private:
-    void cu_verbinden();
-    void at_verbinden();
-    /// The AT-2560 boots (true), or is ready: meanwhile no race starts.
-    void at_wartet_anzeigen(bool an);
-    void verbindung_anzeigen();
-    /// The race window waits for a start, and nothing of a race runs behind it.
-    bool rennen_ruht() const;
+    struct eintrag {
+        std::unique_ptr<geraeteverdrahtung> teile;
+        bool wartet = false;  ///< to be opened
+    };
 
-    umgebung um_;
-    plattform::meldungen& meldungen_;
-    bool at_wartet_ = false;                             ///< to be opened
+    bool gewaehlt(const eintrag& eines) const { return um_.einst.hardware.gewaehlt(eines.teile->geraet().nummer()); }
+    void anschliessen(messgeraet& geraet);
+    void trennen(messgeraet& geraet);
+    void wartende_oeffnen(bool auch_aufhaltende);
+    void ausgaben_anzeigen();
+    void verbindung_anzeigen();
+
+    geraete_umgebung um_;
+    geraete_im_rennen rennverbindung_;
     std::unique_ptr<plattform::zeitgeber> anzeigetakt_;  ///< keeps the state of the device on the main window
+    std::vector<eintrag> alle_;
 };
 
 }  // namespace tarvel

@@ -37,7 +37,6 @@ programm::programm(const plattform::dienste& d)
       update_form(d.zeitgeber, ablage, fenster),
       rennen(d, {param, einst, txt, ablage, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten, fahrerliste,
                  fahrzeugliste}),
-      geraete({einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, rennen}, d),
       startampel(rennen, einst, d.zeitgeber),
       k_ampel(rennen, d.zeitgeber),
       wertung(rennen),
@@ -53,16 +52,18 @@ programm::programm(const plattform::dienste& d)
                              "language\\language_s2.txt"),
       fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
       beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
-      uart_einstellungen({einst, txt, ablage, fenster, d.meldungen, d.zeitgeber, d.serienports}),
-      uart_profildatei({ablage, txt, fenster, d.meldungen}),
       einstellungsfenster(
           {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
-          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}) {
+          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}),
+      geraete(
+          {d, einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, einstellungsfenster, rennen, [this] {
+               form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+               return einstellungsfenster.einstellungen_speichern();
+           }}) {
     rennen.teil_von.wechseln(einzelrennen);
     hauptfenster_verbinden();
     optionen_verbinden();
     bestzeiten_verbinden();
-    uart_verbinden();
     rennen.chaos.neustart_ampel = [this] {
         if (!fenster.ist_offen(fenstername::k_ampel)) {
             fenster.zeigen(fenstername::k_ampel);
@@ -121,11 +122,6 @@ void programm::optionen_verbinden() {
             bestzeiten_laden();
         }
         form1.beste_zeiten_anzeigen();
-    };
-    geraete.cu_eigenschaften.einstellungen_speichern = [this] {
-        form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
-        return !datei.fehler_laden();
     };
     einstellungsfenster.hardware_starten = [this] {
         laden_aus_menue_ = true;  // the main window is on the screen already
@@ -343,8 +339,7 @@ void programm::programm_beenden() {
     programm_beendet_ = true;
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
-    uart_einstellungen.geraet_verbinden = nullptr;  // its window closes for good
-    geraete.schliessen();
+    geraete.beenden();
     fenster.alle_entladen();
     dienste.prozess.beenden();
 }

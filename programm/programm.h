@@ -22,8 +22,6 @@
 #include "hardware/messquelle.h"
 #include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
-#include "hardware/uart_einstellungen.h"
-#include "hardware/uart_profildatei.h"
 #include "optionen/beste_zeiten_verwaltung.h"
 #include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
@@ -80,7 +78,6 @@ public:
     tarvel::form3 form3;
     tarvel::update_form update_form;
     tarvel::rennen rennen;
-    messgeraete geraete;
     tarvel::startampel startampel;
     tarvel::k_ampel k_ampel;
     tarvel::wertung wertung;
@@ -95,9 +92,8 @@ public:
     tarvel::speichernfenster fahrerspeichernfenster;
     tarvel::bildwahl fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
-    tarvel::uart_einstellungen uart_einstellungen;
-    tarvel::uart_profildatei uart_profildatei;
     tarvel::einstellungsfenster einstellungsfenster;
+    messgeraete geraete;
 
 private:
     void hauptfenster_verbinden();
@@ -123,7 +119,6 @@ private:
     bool einstellungen_aus_menue_laden(const std::string& name);
     void optionen_verbinden();
     void bestzeiten_verbinden();
-    void uart_verbinden();
     void hardware_starten();
     /// The best times of the settings in force; a missing file shows its message.
     void bestzeiten_laden();

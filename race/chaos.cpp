@@ -134,7 +134,7 @@ void chaos::pause_beginnen() {
     }
     um_.zeitgeber.chaostimer->an();
     um_.zeitgeber.chaostimer2->an();
-    zustand.pause.start = um_.zeit.messzeit_lesen();
+    zustand.pause.start = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
     um_.bahn.Command3.text(um_.bahn.wort.weiter);
@@ -270,7 +270,7 @@ void chaos::chaostimer2_tick() {
 void chaos::chaosende_routine() {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
-    const zeit_ms ende = um_.zeit.messzeit_lesen();
+    const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
     um_.ereignisse.messzeit = ende;  // keys are stamped with it, and no tick has read the clock in the pause
     um_.zeitgeber.ch_durch0->aus();

@@ -127,7 +127,7 @@ void fortsetzung::zuruecknehmen() {
 
 void fortsetzung::weiterfahren() {
     renn_zustand& zustand = um_.zustand;
-    const zeit_ms fortsetz_zeit = um_.zeit.messzeit_lesen();  // as the end was read
+    const zeit_ms fortsetz_zeit = um_.moment_lesen();  // as the end was read
     zustand.unterbrechung_abziehen(fortsetz_zeit - zustand.renn_ende_stempel);
     um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;

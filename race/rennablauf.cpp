@@ -135,6 +135,7 @@ void rennablauf::start_abgebrochen() {
 }
 
 void rennablauf::rennen_starten() {
+    um_.uhr_stellen();
     rennen_starten(um_.zeit.ereignis_zeit_lesen());
     befehle_freigeben();
 }
@@ -142,7 +143,7 @@ void rennablauf::rennen_starten() {
 void rennablauf::befehle_freigeben() {
     um_.bahn.Command2.aktiviert(true);
     // a device that is started at its own key is paused there too
-    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || um_.einst.cu_sondermodus);
+    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || !um_.quellen.kann().start_am_geraet);
     um_.bahn.Command4.aktiviert(true);
 }
 
@@ -208,7 +209,7 @@ void rennablauf::quellen_abfragen() {
 
 void rennablauf::renntimer2_tick() {
     quellen_abfragen();
-    if (!um_.einst.rc_ziel_sensor34) {
+    if (!um_.einst.rc.rc_ziel_sensor34) {
         return;
     }
     for (const int spur : {1, 2}) {

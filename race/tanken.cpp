@@ -52,16 +52,17 @@ tanken::tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige) : um
 }
 
 void tanken::zuruecksetzen() {
+    const bool eigener_tank = um_.quellen.kann().eigener_tank;
     for (const int spur : alle_spuren) {
         um_.zeitgeber.tanktimer[spur]->aus();
         um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
-        if (!um_.einst.hardware.hw_cu) {  // its tank is the unit's
+        if (!eigener_tank) {
             um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
         }
     }
     fuellstaende_zeigen();
-    if (!um_.einst.hardware.hw_cu) {
+    if (!eigener_tank) {
         for (const int spur : alle_spuren) {
             tankfarbe(spur, gruen);  // full, however near that is to the warning
         }
@@ -180,7 +181,7 @@ void tanken::tank_alle_spuren() {
 
 void tanken::tanken_spur(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
-    if (um_.einst.hardware.hw_uart) {
+    if (um_.quellen.kann().kontakte_wiederholt) {
         um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
     }
     if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
@@ -209,8 +210,8 @@ void tanken::voll(int spur) {
 }
 
 void tanken::tank_verbrauch_rechnen(zeit_ms zeit, int spur) {
-    if (um_.einst.hardware.hw_cu) {
-        return;  // the unit burns, and tells the level
+    if (um_.quellen.kann().eigener_tank) {
+        return;  // the device burns, and tells the level
     }
     if (um_.zustand.rennen_beendet) {
         return;  // a late crossing counts as a lap, but must not cut the power behind the result

@@ -45,6 +45,17 @@ struct renn_umgebung {
     const namensliste& fahrzeugliste;
     const laufende_veranstaltung& teil_von;
 
+    /// The stamp of a moment at which the race starts, pauses or goes on: a device with a clock of its own is asked.
+    zeit_ms moment_lesen() const {
+        uhr_stellen();
+        return zeit.messzeit_lesen();
+    }
+    void uhr_stellen() const {
+        if (const std::optional<zeit_ms> geraetezeit = quellen.uhr_lesen()) {
+            zeit.stellen(*geraetezeit);
+        }
+    }
+
     /// The light of the start has not come to its green.
     bool ampel_laeuft() const {
         return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zustand.fortsetzung_wartet &&

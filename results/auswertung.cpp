@@ -124,7 +124,7 @@ std::string auswertung::kopf() const {
 void auswertung::bedienung_einrichten() {
     const laufende_veranstaltung& v = um_.teil_von;
     selbst_ = v->danach();
-    const bool ohne_spurwechsel = um_.einst.hardware.hw_cu || !v->mit_spurwechsel();
+    const bool ohne_spurwechsel = um_.quellen.kann().feste_wagen || !v->mit_spurwechsel();
     Command5.text(v->weg_hinaus() == ausweg::weiter ? wort_.weiter : wort_.hauptmenue);
     Command7.sichtbar(selbst_.was == schritt::ausweg);
     Command4.sichtbar(v->mit_eigener_datei());

@@ -95,7 +95,7 @@ void startampel::laden() {
         Timer9_->an();
         cu_ampel_auswertetimer_->an();
         um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_start);
-        um_.bahn.cu_startframe.sichtbar(!um_.einst.cu_sondermodus);
+        um_.bahn.cu_startframe.sichtbar(um_.quellen.kann().start_am_geraet);
     } else {
         eigene_kette_beginnen();
         if (ampelmodus_von(um_.einst.start_ampel_modus).verborgen) {
@@ -236,7 +236,7 @@ void startampel::gruen_geben() {
     fenster.abbrampel.aktiviert(false);
     um_.ausgaben.ampelnRoff(0);
     um_.ausgaben.ampelnGRon();
-    r_.ablauf.rennen_starten(um_.zeit.messzeit_lesen());
+    r_.ablauf.rennen_starten(um_.moment_lesen());
     fruehstarttimer_->aus();
     um_.bahn.cu_startframe.sichtbar(false);
     r_.fruehstartstrafe.beginnen();

@@ -35,7 +35,7 @@ TEST_F(At2560, JedesEreignisKommtAnWoImmerDieBytesGeschnittenSind) {
     const std::vector<ereignis_art> arten{16, 15, 14, 13, 34, 35, 32, 31, 30, 29, 28, 27, 26, 25, 36,
                                           37, 38, 39, 42, 43, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53,
                                           1,  54, 55, 56, 57, 58, 59, 20, 19, 18, 17, 12, 11, 10, 9};
-    a.geraet.nach_ereignis = nullptr;  // else the fuel simulation has taken the tank events already
+    a.gesagt.ereignisse_weitersagen = false;  // else the fuel simulation has taken the tank events already
     a.oeffnen(alles_belegt());
     a.sagt(":T,0;");
     const zeit_ms versatz = jetzt();
@@ -56,7 +56,7 @@ TEST_F(At2560, EinNameInMehrerenZeilenMeldetSieAlle) {
     at_profil p;
     p.at_ereignis.at(at_zeile::tanken_ein(2)) = "S13";
     p.at_ereignis.at(at_zeile::zwischenzeit(6, 1)) = "S13";
-    a.geraet.nach_ereignis = nullptr;
+    a.gesagt.ereignisse_weitersagen = false;
     a.oeffnen(p);
     a.sagt(":S13,5;:Snv,6;:,7;:S99,8;:S11;");
     for (ereignis_art art = 1; art < 60; ++art) {
@@ -239,30 +239,30 @@ TEST_F(At2560, AusgaengeSprechenDieWorteDerBefehlsdatei) {
 }
 
 TEST_F(At2560, OeffnenWartetDreiSekundenUndSchicktDannDieSensorliste) {
-    a.t.p.einst.uart_stopbits = "1,5";
+    a.t.p.einst.uart.uart_stopbits = "1,5";
     EXPECT_TRUE(a.geraet.oeffnen());
     EXPECT_EQ(a.t.maschine.anschluesse.werte[3], "57600,N,8,1.5");
     EXPECT_TRUE(a.t.maschine.datei_da("tvk_at2560.uart"));
     a.t.maschine.laufen(2999);
     EXPECT_EQ(a.gesendet(), "");
-    EXPECT_EQ(a.hinweise, std::vector<bool>{true});
+    EXPECT_EQ(a.gesagt.hinweise, std::vector<bool>{true});
     a.t.maschine.laufen(10000);
     EXPECT_EQ(a.gesendet(), ":IS,13.11.9.7;\r:P01;\r:A00;\r:A61;\r") << "and the outputs at rest";
-    EXPECT_EQ(a.hinweise, (std::vector<bool>{true, false}));
+    EXPECT_EQ(a.gesagt.hinweise, (std::vector<bool>{true, false}));
 
     a.geraet.oeffnen();
     a.geraet.schliessen();  // while the unit boots: nobody may stay locked out
-    EXPECT_EQ(a.hinweise, (std::vector<bool>{true, false, true, false}));
-    a.t.p.einst.uart_port = 9;
+    EXPECT_EQ(a.gesagt.hinweise, (std::vector<bool>{true, false, true, false}));
+    a.t.p.einst.uart.uart_port = 9;
     EXPECT_FALSE(a.geraet.oeffnen());
-    EXPECT_EQ(a.nicht_zu_oeffnen, 1);
+    EXPECT_EQ(a.gesagt.zu_geblieben, 1);
     ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(a.t.maschine.meldungen_gezeigt[0].text, a.t.p.txt.meldung[27]);
     EXPECT_TRUE(a.t.p.einst.hardware.hw_simulation);
 }
 
 TEST_F(At2560, UnlesbareBefehlsdateiMeldetSich) {
-    a.t.p.einst.uart_datei = "andere.uart";
+    a.t.p.einst.uart.uart_datei = "andere.uart";
     a.oeffnen();
     ASSERT_EQ(a.t.maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(a.t.maschine.meldungen_gezeigt.front().text,
@@ -279,7 +279,7 @@ TEST_F(At2560, VerlustImRennenStoertDieTastaturNicht) {
     a.t.maschine.anschluesse.abziehen(3);
     a.t.runde_nach(7000, "1");
     EXPECT_EQ(rundenzeit(1, 1), 7000);
-    EXPECT_EQ(a.verloren, 1);
+    EXPECT_EQ(a.gesagt.abgezogen, 1);
     EXPECT_TRUE(a.t.maschine.meldungen_gezeigt.empty());
     a.t.p.fenster.entladen(fenstername::bahn1);
     a.t.einrichten("Runden", "20", {1});

@@ -46,7 +46,7 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
 }
 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
-    t.p.einst.cu_option = true;
+    t.p.einst.cu.cu_option = true;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     senden("?00$");
@@ -60,7 +60,7 @@ TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {
 }
 
 TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNicht) {
-    t.p.einst.cu_sondermodus = true;
+    t.p.einst.cu.cu_sondermodus = true;
     t.einrichten(t.p.txt.text_runden, "2", {1});
     t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
     status(true);

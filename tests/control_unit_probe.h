@@ -15,8 +15,8 @@ struct ControlUnitRennen : testing::Test {
         t.maschine.anschluesse.da = {com};
         t.p.einst.hardware = {};
         t.p.einst.hardware.hw_cu = true;
-        t.p.einst.cu_modus = com;
-        t.p.einst.cu_sondermodus = false;
+        t.p.einst.cu.anschluss.cu_modus = com;
+        t.p.einst.cu.cu_sondermodus = false;
         t.maschine.anschluesse.geraet = [this](int /*nummer*/, std::string_view bytes) {
             if (bytes == "\"?\r") {
                 antworten();
@@ -57,7 +57,7 @@ struct ControlUnitRennen : testing::Test {
     }
     /// A race window from which the program starts the unit's light.
     void mit_software_starten(int fruehstart_option) {
-        t.p.einst.cu_sondermodus = true;
+        t.p.einst.cu.cu_sondermodus = true;
         t.p.einst.fruehstart_option = fruehstart_aktion(fruehstart_option);
         t.einrichten(t.p.txt.text_runden, "10", {1, 2});
         t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;

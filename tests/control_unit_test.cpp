@@ -48,7 +48,7 @@ TEST_F(ControlUnitRennen, DieErsteUeberfahrtBringtAlleZeitenAufDieUhrDesGeraets)
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     t.p.form1.t_aktiv.gesetzt(true);
     t.p.einst.sound_an = true;
-    t.p.einst.cu_tankautomatik = false;
+    t.p.einst.cu.cu_tankautomatik = false;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.maschine.sounds.clear();
     status(false, "70>555");
@@ -75,7 +75,7 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
     lebt = false;
-    t.p.einst.cu_tankautomatik = true;
+    t.p.einst.cu.cu_tankautomatik = true;
     t.p.form1.t_aktiv.gesetzt(false);
     t.maschine.laufen(1600);
     EXPECT_EQ(t.p.form1.modus_label.text(), "Carrera Control Unit – keine Verbindung");

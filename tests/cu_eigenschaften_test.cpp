@@ -1,3 +1,4 @@
+#include "programm/control_unit_verdrahtung.h"
 #include "tests/programm_probe.h"
 #include "tools/simulator/control_unit.h"
 
@@ -22,7 +23,7 @@ struct CuEigenschaften : testing::Test {
         };
         t.p.einst.hardware = {};
         t.p.einst.hardware.hw_cu = true;
-        t.p.einst.cu_modus = 0;
+        t.p.einst.cu.anschluss.cu_modus = 0;
         t.p.geraete.hardware_starten(false);
         t.p.form1.command_cu.klicken();
     }
@@ -43,7 +44,7 @@ struct CuEigenschaften : testing::Test {
 
     testprogramm t;
     std::unique_ptr<simulator::control_unit> geraet;
-    cu_eigenschaften& fenster = t.p.geraete.cu_eigenschaften;
+    cu_eigenschaften& fenster = t.p.geraete.von<control_unit_verdrahtung>().cu_eigenschaften;
 };
 
 TEST_F(CuEigenschaften, OhnePortSagtJederBefehlWasFehlt) {
@@ -64,13 +65,13 @@ TEST_F(CuEigenschaften, DieSucheFindetDasGeraetUndSeinPortWirdBehalten) {
     EXPECT_EQ(fenster.cbo_cu_comport.text(), "COM7");
     fenster.opt_cu_prgstart.umschalten();
     fenster.cbo_cu_tankgroesse[2].waehlen(4);
-    const bool vorher = t.p.einst.cu_sondermodus;
+    const bool vorher = t.p.einst.cu.cu_sondermodus;
     fenster.Command4.klicken();
-    EXPECT_NE(t.p.einst.cu_sondermodus, vorher);
-    EXPECT_EQ(t.p.einst.cu_reglerbefehl[2], "J220410$");
+    EXPECT_NE(t.p.einst.cu.cu_sondermodus, vorher);
+    EXPECT_EQ(t.p.einst.cu.cu_reglerbefehl[2], "J220410$");
     EXPECT_NE(t.maschine.datei_lesen("Einstellungen/einstellungen.ini").find("\r\n 4 \r\n"), std::string::npos);
     laufen(700);
-    EXPECT_TRUE(t.p.geraete.cu.antwortet()) << "the race has the port again";
+    EXPECT_TRUE(t.p.geraete.verbunden()) << "the race has the port again";
 }
 
 TEST_F(CuEigenschaften, ZeigtWasDasGeraetSagtUndSendetWasManTippt) {

@@ -57,7 +57,7 @@ TEST_F(Einstellungsdatei, GespeichertGeladenGespeichertIstGleichBisAufsByte) {
     q.form1.fahrer[2].text("Jörg €");
     q.form1.rennart.text("Runden");
     q.form1.renndauer.text("5,30");
-    q.einst.tk_datei = "{EOF}";
+    q.einst.tk.tk_datei = "{EOF}";
     q.einst.tank_warnung = 12.5;
     q.einst.chaos_strafzeit = -1s;
     q.einst.sektor_an[2] = true;
@@ -176,8 +176,8 @@ TEST_F(Einstellungsdatei, AeltereDateienUndAndereVersion) {
     EXPECT_EQ(p->einst.chaos_strafzeit, 10s);
     EXPECT_EQ(p->einst.auswertung_nach, sortier_modus::runden);
     EXPECT_EQ(p->einst.wechsel_schema[2], 6);
-    EXPECT_EQ(p->einst.cu_spur_wert[6], 15);
-    EXPECT_EQ(p->einst.uart_datei, "tvk_at2560.uart");
+    EXPECT_EQ(p->einst.cu.cu_spur_wert[6], 15);
+    EXPECT_EQ(p->einst.uart.uart_datei, "tvk_at2560.uart");
 
     EXPECT_FALSE(start_mit_datei({grund.begin(), grund.begin() + 200})) << "torn off";
     std::vector<std::string> verschoben = grund;

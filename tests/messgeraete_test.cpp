@@ -1,3 +1,4 @@
+#include "hardware/at2560.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel::test {
@@ -11,8 +12,8 @@ struct Wiedereingesteckt : testing::Test {
         t.maschine.anschluesse.da = {com};
         t.p.einst.hardware = {};
         t.p.einst.hardware.*geraet = true;
-        t.p.einst.cu_modus = com;
-        t.p.einst.uart_port = com;
+        t.p.einst.cu.anschluss.cu_modus = com;
+        t.p.einst.uart.uart_port = com;
         t.p.geraete.hardware_starten(false);
         t.maschine.laufen(at_bootzeit.count() + 500);
     }
@@ -59,6 +60,59 @@ TEST_F(Wiedereingesteckt, At2560MisstErstWennEsHoert) {
     t.bahn().Command1.klicken();
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
     EXPECT_NE(gesendet().find(":S;"), std::string::npos);
+}
+
+/// Its clock is fast by a hundredth.
+struct geraet_mit_uhr final : messquelle {
+    explicit geraet_mit_uhr(const test_plattform& maschine) : maschine_(maschine), anfang_(maschine.jetzt()) {}
+    std::optional<zeit_ms> uhr_lesen() override { return 7'000'000 + (maschine_.jetzt() - anfang_) * 101 / 100; }
+
+private:
+    const test_plattform& maschine_;
+    zeit_ms anfang_;
+};
+
+TEST_F(ProgrammProbe, DieUhrEinesGeraetsIstDieDesRennens) {
+    geraet_mit_uhr uhr(t.maschine);
+    t.p.quellen.anschliessen(uhr);
+    t.p.einst.chaosampel_an = false;
+    const renn_zustand& zustand = t.p.rennen.zustand;
+    t.starten("Runden", "20", {1});
+    EXPECT_NEAR(static_cast<double>(zustand.start_zeit), 7'000'000, 10);
+    t.maschine.laufen(5000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1);
+    ASSERT_TRUE(zustand.chaos_aktiv);
+    EXPECT_NEAR(static_cast<double>(zustand.pause.start), 7'005'050, 2);
+    t.maschine.laufen(10000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1);
+    ASSERT_FALSE(zustand.chaos_aktiv);
+    EXPECT_NEAR(static_cast<double>(zustand.pause.dauer), 10100, 2);
+    t.p.quellen.trennen(uhr);
+}
+
+TEST(Messhardware, NurWasDenAnschlussBetrifftStartetSieNeu) {
+    using e = einstellungen;
+    const auto neu_nach = [](const std::function<void(e&)>& aendern) {
+        e geaendert;
+        aendern(geaendert);
+        return geaendert.hardware_anders_als(e{});
+    };
+    int nummer = 0;
+    for (const std::function<void(e&)>& aendern : std::vector<std::function<void(e&)>>{
+             [](e& x) { x.hardware.hw_lpt = true; }, [](e& x) { x.hardware.hw_4x4_modus = modul_4x4::modus_3; },
+             [](e& x) { x.hardware.tk_spurmodus = spurmodus::analog; }, [](e& x) { x.iow.iow_datei = "x"; },
+             [](e& x) { x.rc.anschluss.rc_com_port = "x"; }, [](e& x) { x.lpt.anschluss.lpt_adresse = 1; },
+             [](e& x) { x.tk.tk_datei = "x"; }, [](e& x) { x.cu.anschluss.cu_modus = 1; },
+             [](e& x) { x.uart.uart_port = 1; }, [](e& x) { x.uart.uart_datei = "x"; }}) {
+        EXPECT_TRUE(neu_nach(aendern)) << nummer++;
+    }
+    EXPECT_FALSE(neu_nach([](e& x) {
+        x.cu.cu_option = x.cu.cu_tankautomatik = x.cu.cu_sondermodus = true;
+        x.cu.cu_spur_wert[1] = 7;
+        x.rc.rc_level = x.lpt.lpt_eingang[1] = x.s6.s6_eingang[1] = 9;
+    })) << "a device that drives must not be stopped for what it takes over at once";
 }
 
 }  // namespace

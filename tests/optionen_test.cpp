@@ -73,7 +73,7 @@ TEST_F(Optionen, AbbrechenAendertNichts) {
 }
 
 TEST_F(Optionen, EineMesshardwareZurZeit) {
-    t.maschine.anschluesse.da = {einst.uart_port};
+    t.maschine.anschluesse.da = {einst.uart.uart_port};
     for (const std::size_t nummer : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 0U}) {
         fenster.hardware.at(nummer).umschalten();
         uebernehmen();
@@ -271,8 +271,10 @@ TEST_F(Optionen, StilleKorrekturen) {
     pruefen("txt_trainingwechseldauer", "1001", &e::training_wechseldauer, 1000s);
     pruefen("w_edauertext", "0", &e::w_edauer, 2);
     pruefen("w_edauertext", "100", &e::w_edauer, 10);
-    pruefen("lpt_text", "2f8", &e::lpt_adresse, 0x2F8);
-    pruefen("lpt_text", "XYZ", &e::lpt_adresse, 0x2F8);
+    for (const char* adresse : {"2f8", "XYZ"}) {
+        EXPECT_TRUE(nach_eingabe("lpt_text", adresse).empty());
+        EXPECT_EQ(einst.lpt.anschluss.lpt_adresse, 0x2F8) << adresse;
+    }
     waehlen("w_edauer1", 1);
     pruefen("w_edauertext", "0", &e::w_edauer, 60);
     pruefen("w_edauertext", "1000", &e::w_edauer, 999);

@@ -215,7 +215,7 @@ struct geraet_mit_spur_drei : messquelle {
 TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
     geraet_mit_spur_drei sensor(t.p.ereignisse);
     t.p.quellen.anschliessen(sensor);
-    t.p.einst.rc_ziel_sensor34 = true;
+    t.p.einst.rc.rc_ziel_sensor34 = true;
     sensor.flanke = true;
     t.maschine.laufen(3);
     EXPECT_EQ(t.runden(1), 0);

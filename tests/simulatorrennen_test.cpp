@@ -77,8 +77,8 @@ TEST_F(Simulatorrennen, ControlUnitDreissigMinuten) {
     einst.vorspann_promille = 100;
     t.p.einst.hardware = {};
     t.p.einst.hardware.hw_cu = true;
-    t.p.einst.cu_modus = com;
-    t.p.einst.cu_sondermodus = true;
+    t.p.einst.cu.anschluss.cu_modus = com;
+    t.p.einst.cu.cu_sondermodus = true;
     anschliessen(std::make_unique<simulator::control_unit>(einst));
     rennen_fahren("30");
     vergleichen();
@@ -94,7 +94,7 @@ TEST_F(Simulatorrennen, At2560DreissigMinuten) {
     t.maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
     t.p.einst.hardware = {};
     t.p.einst.hardware.hw_uart = true;
-    t.p.einst.uart_port = com;
+    t.p.einst.uart.uart_port = com;
     anschliessen(std::make_unique<simulator::at2560>(einst));
     geraet->verbunden();
     laufen(4000);

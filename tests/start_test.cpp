@@ -94,8 +94,9 @@ TEST(Start, EndeSchliesstAllesUndLaeuftEinmal) {
     t.p.programm_beenden();
     t.p.form1.Command2.klicken();
     EXPECT_EQ(t.maschine.beendet, 1);
-    for (const char* name : {"Form1", "Form3", "Update_form", "bahn1", "auswertung"}) {
-        EXPECT_FALSE(t.p.fenster.ist_offen(name)) << name;
+    using enum fenstername;
+    for (const fenstername name : {Form1, Form3, Update_form, bahn1, auswertung}) {
+        EXPECT_FALSE(t.p.fenster.ist_offen(name)) << text_von(name);
     }
     EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
 }

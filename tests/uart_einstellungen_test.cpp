@@ -1,5 +1,6 @@
 #include "hardware/uart_einstellungen.h"
 
+#include "programm/at2560_verdrahtung.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -39,7 +40,7 @@ protected:
     }
 
     static constexpr zeit_ms at_bootzeit = 3000;
-    u& w = t.p.uart_einstellungen;
+    u& w = t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen;
     std::string journal;
 };
 
@@ -136,12 +137,12 @@ TEST_F(UartEinstellungen, VonDenSensorenBisZurBefehlsdatei) {
     t.maschine.antwort = true;
     w.weiter.klicken();
     ASSERT_EQ(seite(), u::seite_fertig);
-    t.p.einst.uart_port = 9;
+    t.p.einst.uart.uart_port = 9;
     w.weiter.klicken();
     EXPECT_FALSE(offen());
     EXPECT_FALSE(t.maschine.anschluesse.offen(3));
     EXPECT_EQ(journal, "getrennt verbunden ");
-    EXPECT_EQ(t.p.einst.uart_port, 3);
+    EXPECT_EQ(t.p.einst.uart.uart_port, 3);
 
     at_profil erwartet = von_hand;
     std::fill_n(erwartet.at_ereignis.begin() + 1, 35, at_nicht_belegt);
@@ -207,7 +208,7 @@ TEST_F(UartEinstellungen, DatenverlustUndAbziehenStehenImProtokoll) {
 }
 
 TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
-    uart_profildatei& f = t.p.uart_profildatei;
+    uart_profildatei& f = t.p.geraete.von<at2560_verdrahtung>().uart_profildatei;
     at_profil profil;
     profil.at_rennstart = "GO";
     at_profil_speichern(t.p.ablage, "tvk_at2560.uart", profil);
@@ -224,7 +225,7 @@ TEST_F(UartEinstellungen, BefehlsdateiWirdGewaehltOderNeuAngelegt) {
     }
     f.name.eingeben("klub");
     f.Command1.klicken();
-    EXPECT_EQ(t.p.einst.uart_datei, "klub.uart");
+    EXPECT_EQ(t.p.einst.uart.uart_datei, "klub.uart");
     at_profil gelesen;
     ASSERT_TRUE(at_profil_laden(t.p.ablage, "klub.uart", gelesen));
     EXPECT_EQ(gelesen, profil);

@@ -185,8 +185,7 @@ private:
         software.gesetzt(true);
         e.Command1.klicken();
         warten("das Messgerät", schritt_ms, [this] {
-            const bool verbunden = p_.geraete.cu.antwortet() || p_.geraete.at.offen();
-            return verbunden && p_.form1.inhalt.sichtbar() &&
+            return p_.geraete.verbunden() && p_.form1.inhalt.sichtbar() &&
                    p_.form1.modus_label.text() == p_.txt.hardware_name.at(geraet_.hardware);
         });
         schreiben("Verbunden: " + p_.form1.modus_label.text());
@@ -304,8 +303,8 @@ private:
 
     plattform::dienste eigene_dienste() {
         const plattform::dienste d = maschine_.dienste();
-        return {d.uhr,        d.zeitgeber, meldungen_, d.klang,       d.kalender,
-                d.bildschirm, prozess_,    d.zufall,   d.serienports, d.programmordner};
+        return {d.uhr,    d.zeitgeber, meldungen_,    d.klang,        d.kalender,    d.bildschirm,
+                prozess_, d.zufall,    d.serienports, d.bibliotheken, d.druckerport, d.programmordner};
     }
 };
 

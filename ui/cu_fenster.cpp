@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "hardware/cu_eigenschaften.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {

@@ -1,7 +1,10 @@
 #pragma once
 
-#include "hardware/cu_eigenschaften.h"
 #include "ui/fenster.h"
+
+namespace tarvel {
+class cu_eigenschaften;
+}
 
 namespace tarvel::ui {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "programm/at2560_verdrahtung.h"
+#include "programm/control_unit_verdrahtung.h"
 #include "programm/programm.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
@@ -45,12 +47,13 @@ public:
     SpeichernFenster rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
     BestzeitenFenster bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
     TastaturFenster tastatur{p_.tastaturbelegung, fenster, &form1};
-    CuFenster cu{p_.geraete.cu_eigenschaften, fenster, &form1};
+    CuFenster cu{p_.geraete.von<control_unit_verdrahtung>().cu_eigenschaften, fenster, &form1};
     SpeichernFenster speichern{p_.speichernfenster, fenster, &form1};
     EinstellungenFenster einstellungen{p_.einstellungsfenster, p_.ablage, fenster, &form1};
     BestzeitverwaltungFenster bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
-    UartEinstellungenFenster uart_einstellungen{p_.uart_einstellungen, fenster, &einstellungen};
-    UartProfildateiFenster uart_profildatei{p_.uart_profildatei, fenster, &form1};
+    UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
+                                                &einstellungen};
+    UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
 };

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "hardware/uart_einstellungen.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {

@@ -1,9 +1,15 @@
 #pragma once
 
-#include "hardware/uart_einstellungen.h"
+#include <functional>
+
+#include "core/steuerelemente.h"
 #include "ui/fenster.h"
 
 class QGridLayout;
+
+namespace tarvel {
+class uart_einstellungen;
+}
 
 namespace tarvel::ui {
 

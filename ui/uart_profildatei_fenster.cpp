@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "hardware/uart_profildatei.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {

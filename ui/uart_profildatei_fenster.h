@@ -1,7 +1,10 @@
 #pragma once
 
-#include "hardware/uart_profildatei.h"
 #include "ui/fenster.h"
+
+namespace tarvel {
+class uart_profildatei;
+}
 
 namespace tarvel::ui {
 

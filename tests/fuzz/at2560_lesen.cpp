@@ -1,6 +1,7 @@
 #include "hardware/at2560.h"
 
 #include "tests/fuzz/dateiarten.h"
+#include "tests/plattform/geraete_mithoerer.h"
 
 namespace tarvel::test {
 
@@ -23,9 +24,10 @@ bool at2560_hoeren(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
     bank.t.maschine.anschluesse.da = {3};
     const plattform::dienste d = bank.t.maschine.dienste();
-    at2560 geraet({p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen});
-    bool gehoert = false;
-    geraet.nach_ereignis = [&] { gehoert = true; };
+    geraete_mithoerer gesagt(p.geraete);
+    gesagt.ereignisse_weitersagen = false;
+    at2560 geraet(
+        {p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen, gesagt, gesagt});
     fordern(geraet.oeffnen(), "the port is closed");
     std::size_t stueck = 1;
     for (std::size_t i = 0; i < bytes.size(); i += stueck) {
@@ -38,7 +40,7 @@ bool at2560_hoeren(werkbank& bank, const std::string& bytes) {
         const zeit_ms zeit = std::exchange(p.ereignisse[art].ereignis_zeit, 0);
         fordern(zeit > -spaetestens && zeit < spaetestens, "a stamp beyond all limits");
     }
-    return gehoert;
+    return gesagt.gemeldet > 0;
 }
 
 }  // namespace tarvel::test

@@ -35,8 +35,9 @@ const std::vector<grenze>& grenzen() {
         {"tank_strafzeit", wert(&einstellungen::tank_strafzeit), 1, 6000},
         {"tanksensor_justierung", wert(&einstellungen::tanksensor_justierung), 12, 100},
         {"chaos_strafzeit", wert(&einstellungen::chaos_strafzeit), -999, 9999},
-        {"cu_modus", wert(&einstellungen::cu_modus), 0, 20},
-        {"uart_port", wert(&einstellungen::uart_port), 0, 16},
+        {"cu_modus",
+         wert(&einstellungen::cu, &control_unit_einstellungen::anschluss, &control_unit_anschluss::cu_modus), 0, 20},
+        {"uart_port", wert(&einstellungen::uart, &at2560_anschluss::uart_port), 0, 16},
         {"w_wechselmodus", wert(&einstellungen::w_wechselmodus), 1, 3},
         {"training_art", wert(&einstellungen::training_art), 0, 2},
         {"sektor_anzeige", wert(&einstellungen::sektor_anzeige), 0, 2},
@@ -60,14 +61,14 @@ void werte_pruefen(programm& p) {
     for (const grenze& g : grenzen()) {
         fordern_zwischen(std::array{g.zahl({p.einst, p.form1, p.txt})}, g.min, g.max, g.name);
     }
-    fordern_zwischen(einst.lpt_eingang, 0, ereignis_max, "lpt_eingang");
-    fordern_zwischen(einst.lpt_ausgang, 0, ereignis_max, "lpt_ausgang");
-    fordern_zwischen(einst.s6_eingang, 0, ereignis_max, "s6_eingang");
-    for (const auto& modi : einst.s6_eingang_modus) {
+    fordern_zwischen(einst.lpt.lpt_eingang, 0, ereignis_max, "lpt_eingang");
+    fordern_zwischen(einst.lpt.lpt_ausgang, 0, ereignis_max, "lpt_ausgang");
+    fordern_zwischen(einst.s6.s6_eingang, 0, ereignis_max, "s6_eingang");
+    for (const auto& modi : einst.s6.s6_eingang_modus) {
         fordern_zwischen(modi, 0, ereignis_max, "s6_eingang_modus");
     }
-    fordern_zwischen(einst.rc_sensor, 13, 16, "rc_sensor");
-    fordern_zwischen(einst.cu_spur_wert, 0, 15, "cu_spur_wert");
+    fordern_zwischen(einst.rc.rc_sensor, 13, 16, "rc_sensor");
+    fordern_zwischen(einst.cu.cu_spur_wert, 0, 15, "cu_spur_wert");
     fordern_zwischen(std::span(einst.wechsel_schema).subspan(1), 1, 7, "wechsel_schema");
     const messhardware& hw = einst.hardware;
     fordern_zwischen(std::array{static_cast<int>(hw.hw_4x4_modus)}, 3, 7, "hw_4x4_modus");

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "hardware/at2560.h"
+#include "tests/plattform/geraete_mithoerer.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel::test {
@@ -15,9 +16,6 @@ struct at2560_aufbau {
         t.p.einst.hardware.hw_uart = true;
         t.p.quellen.anschliessen(geraet);
         t.p.ausgaben.anschliessen(ausgabe_platz::at_2560, geraet);
-        mithoeren(geraet.wartehinweis, [this](bool an) { hinweise.push_back(an); });
-        mithoeren(geraet.nicht_zu_oeffnen, [this] { ++nicht_zu_oeffnen; });
-        mithoeren(geraet.verloren, [this] { ++verloren; });
     }
     /// Opens the port and waits until the unit has booted.
     void oeffnen() {
@@ -36,20 +34,10 @@ struct at2560_aufbau {
     ereignis_zeile& zeile(ereignis_art art) { return t.p.ereignisse[art]; }
 
     testprogramm t;
-    at2560& geraet = t.p.geraete.at;
-    std::vector<bool> hinweise;
-    int nicht_zu_oeffnen = 0;
-    int verloren = 0;
-
-private:
-    /// What the program does with it stays as it is.
-    template <class Zaehler, class... Werte>
-    static void mithoeren(std::function<void(Werte...)>& rueckruf, Zaehler zaehler) {
-        rueckruf = [vorher = rueckruf, zaehler](Werte... werte) {
-            zaehler(werte...);
-            vorher(werte...);
-        };
-    }
+    geraete_mithoerer gesagt{t.p.geraete};
+    plattform::dienste maschine = t.maschine.dienste();
+    at2560 geraet{{t.p.einst, t.p.txt, t.p.ablage, t.p.ereignisse, maschine.uhr, maschine.zeitgeber,
+                   maschine.serienports, maschine.meldungen, gesagt, gesagt}};
 };
 
 }  // namespace tarvel::test

@@ -71,7 +71,8 @@ test_plattform::~test_plattform() {
 }
 
 plattform::dienste test_plattform::dienste() {
-    return {*this, *this, *this, *this, kalender_, *this, *this, *this, anschluesse, ordner_};
+    return {*this, *this, *this,       *this,        kalender_,   *this,
+            *this, *this, anschluesse, bibliotheken, druckerport, ordner_};
 }
 
 void test_plattform::laufen(zeit_ms dauer) {

@@ -9,6 +9,7 @@
 
 #include "platform/dienste.h"
 #include "tests/plattform/test_anschluesse.h"
+#include "tests/plattform/test_bibliotheken.h"
 
 namespace tarvel::test {
 
@@ -58,6 +59,8 @@ public:
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::vector<std::string> sounds;
     test_anschluesse anschluesse;
+    test_bibliotheken bibliotheken;
+    test_druckerport druckerport;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
     double zufallszahl = 0;  ///< from 0 up to below 1

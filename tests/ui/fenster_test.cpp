@@ -34,7 +34,7 @@ protected:
         t.p.einstellungsfenster.fahrerseite.namen.auswaehlen(0);
         t.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
         t.p.einstellungsfenster.uart_einrichten();
-        t.p.uart_profildatei.oeffnen("klub.uart");
+        t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
         const std::vector<ui::Fenster*> alle = alle_fenster();
         ASSERT_EQ(alle.size(), 18U);
         for (const ui::Fenster* fenster : alle) {

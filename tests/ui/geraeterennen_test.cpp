@@ -77,8 +77,8 @@ struct Geraeterennen : testing::Test {
     static plattform::dienste dienste(qt::QtDienste& echt, test::test_plattform& test) {
         const plattform::dienste e = echt.dienste();
         const plattform::dienste t = test.dienste();
-        return {e.uhr,        e.zeitgeber, t.meldungen, t.klang,       t.kalender,
-                t.bildschirm, t.prozess,   t.zufall,    e.serienports, test.ordner()};
+        return {e.uhr,     e.zeitgeber, t.meldungen,   t.klang,        t.kalender,    t.bildschirm,
+                t.prozess, t.zufall,    e.serienports, t.bibliotheken, t.druckerport, test.ordner()};
     }
     void SetUp() override {
         p.starten();
@@ -146,10 +146,10 @@ TEST_F(Geraeterennen, ControlUnit) {
     simulator::control_unit geraet(einst);
     geraet_am_kabel kabel(geraet, maschine.ordner());
     p.einst.hardware.hw_cu = true;
-    p.einst.cu_modus = com;
-    p.einst.cu_sondermodus = true;
+    p.einst.cu.anschluss.cu_modus = com;
+    p.einst.cu.cu_sondermodus = true;
     p.geraete.hardware_starten(false);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.cu.antwortet(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.verbunden(); }));
     fahren();
     kabel.anhalten();
     vergleichen(geraet);
@@ -163,7 +163,7 @@ TEST_F(Geraeterennen, At2560) {
     simulator::at2560 geraet(einst);
     geraet_am_kabel kabel(geraet, maschine.ordner());
     p.einst.hardware.hw_uart = true;
-    p.einst.uart_port = com;
+    p.einst.uart.uart_port = com;
     p.geraete.hardware_starten(false);
     ASSERT_TRUE(QTest::qWaitFor([&] { return p.form1.inhalt.sichtbar(); }));
     fahren();

@@ -1,6 +1,6 @@
 #include "tools/fensterbilder/szenen.h"
 
-#include "hardware/at2560.h"
+#include "programm/at2560_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -17,7 +17,7 @@ QWidget& uart_assistent(buehne& b) {
     b.t.maschine.anschluesse.da = {1, 3};
     optionsseite_zeigen<7>(b);
     b.p.einstellungsfenster.uart_einrichten();
-    uart_einstellungen& w = b.p.uart_einstellungen;
+    uart_einstellungen& w = b.p.geraete.von<at2560_verdrahtung>().uart_einstellungen;
     const auto sagt = [&](const char* bytes) { b.t.maschine.anschluesse.senden(3, bytes); };
     b.t.maschine.waehrend_meldung = [&b, nummer = 0]() mutable {
         b.t.maschine.anschluesse.da = nummer++ == 0 ? std::set<int>{1} : std::set<int>{1, 3};

@@ -68,8 +68,8 @@ void control_unit_anschliessen(buehne& b) {
     b.t.maschine.anschluesse.da = {com};
     b.p.einst.hardware = {};
     b.p.einst.hardware.hw_cu = true;
-    b.p.einst.cu_modus = com;
-    b.p.einst.cu_sondermodus = false;
+    b.p.einst.cu.anschluss.cu_modus = com;
+    b.p.einst.cu.cu_sondermodus = false;
     b.t.maschine.anschluesse.geraet = [&b](int nummer, std::string_view /*bytes*/) {
         const bool steht = b.p.rennen.zustand.chaos_aktiv;
         b.t.maschine.anschluesse.senden(nummer, steht ? "?:77777700100000000$" : "?:77777700000000000$");

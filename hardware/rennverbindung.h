@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/uhr.h"
+
+namespace tarvel {
+
+/// What a timing device asks of the race, and tells it beside its events.
+class rennverbindung {
+public:
+    rennverbindung() = default;
+    rennverbindung(const rennverbindung&) = delete;
+    rennverbindung& operator=(const rennverbindung&) = delete;
+    virtual ~rennverbindung() = default;
+
+    /// The race window waits for a start, and nothing of a race runs behind it.
+    virtual bool rennen_ruht() const = 0;
+    /// A race runs and is not paused.
+    virtual bool rennen_laeuft() const = 0;
+    virtual bool pause() const = 0;
+    /// As the start command.
+    virtual void rennen_vorbereiten() = 0;
+    /// All stamps so far move by so many ms.
+    virtual void stempel_verschieben(zeit_ms um) = 0;
+    /// Events have reached the table: the fuel simulation looks at them at once.
+    virtual void ereignisse_gemeldet() = 0;
+    /// Level of a tank that the device has itself: `stufe` of `stufen`, 0 is empty.
+    virtual void fuellstand(int spur, int stufe, int stufen) = 0;
+    /// The device drives with fuel. Nothing happens while a race window is open.
+    virtual void tankfunktion(bool an) = 0;
+};
+
+}  // namespace tarvel

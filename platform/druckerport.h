@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace tarvel::plattform {
+
+/// The registers of the parallel port. A machine without one, or that lets nobody at it, has none of them.
+class druckerport {
+public:
+    druckerport() = default;
+    druckerport(const druckerport&) = delete;
+    druckerport& operator=(const druckerport&) = delete;
+    virtual ~druckerport() = default;
+
+    /// The byte at this address, 0 to 0xFFFF; none if it cannot be read.
+    virtual std::optional<std::uint8_t> lesen(int adresse) = 0;
+    /// False if it cannot be written.
+    virtual bool schreiben(int adresse, std::uint8_t wert) = 0;
+};
+
+}  // namespace tarvel::plattform

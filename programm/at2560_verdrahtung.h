@@ -1,0 +1,27 @@
+#pragma once
+
+#include "hardware/at2560.h"
+#include "hardware/uart_einstellungen.h"
+#include "hardware/uart_profildatei.h"
+#include "programm/geraeteverdrahtung.h"
+
+namespace tarvel {
+
+/// The AT-2560, its wizard and the choice of its command file.
+class at2560_verdrahtung final : public geraeteverdrahtung {
+public:
+    at2560_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
+
+    messgeraet& geraet() override { return at; }
+    void beenden() override { uart_einstellungen.geraet_verbinden = nullptr; }
+
+    at2560 at;
+    tarvel::uart_einstellungen uart_einstellungen;
+    tarvel::uart_profildatei uart_profildatei;
+
+private:
+    void fenster_verbinden(const geraete_umgebung& um);
+    void assistent_verbinden(const geraete_umgebung& um, messgeraete& alle);
+};
+
+}  // namespace tarvel

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "hardware/messgeraet.h"
+#include "platform/dienste.h"
+
+namespace tarvel {
+
+class dateien;
+class einstellungsfenster;
+class ereignis_tabelle;
+class fensterregister;
+class form1;
+class messgeraete;
+struct rennen;
+struct texte;
+
+/// What the devices and their windows work on.
+struct geraete_umgebung {
+    plattform::dienste dienste;
+    einstellungen& einst;
+    const texte& txt;
+    const dateien& ablage;
+    ereignis_tabelle& ereignisse;
+    messquellen& quellen;
+    tarvel::ausgaben& ausgaben;
+    fensterregister& fenster;
+    tarvel::form1& form1;
+    tarvel::einstellungsfenster& einstellungsfenster;
+    tarvel::rennen& rennen;
+    std::function<bool()> einstellungen_speichern;  ///< with the main window's fields as they are; false if that failed
+};
+
+/// A device in the program, and what only it brings: its windows, the commands that open them.
+class geraeteverdrahtung {
+public:
+    geraeteverdrahtung() = default;
+    geraeteverdrahtung(const geraeteverdrahtung&) = delete;
+    geraeteverdrahtung& operator=(const geraeteverdrahtung&) = delete;
+    virtual ~geraeteverdrahtung() = default;
+
+    virtual messgeraet& geraet() = 0;
+    /// The program ends: its windows close for good.
+    virtual void beenden() {}
+};
+
+/// One line per timing device, in the order in which they are asked.
+using geraet_anlegen = std::unique_ptr<geraeteverdrahtung> (*)(const geraete_umgebung&, messgeraete&);
+const std::vector<geraet_anlegen>& geraetetabelle();
+
+}  // namespace tarvel
