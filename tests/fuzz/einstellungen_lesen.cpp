@@ -85,7 +85,7 @@ bool laden(programm& p, std::string_view name) {
     if (p.datei.fehler_laden()) {
         return false;
     }
-    p.datei.einstellungen_uebernehmen(0);
+    p.datei.einstellungen_uebernehmen(std::nullopt);
     return true;
 }
 
