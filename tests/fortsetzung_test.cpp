@@ -214,7 +214,7 @@ protected:
     void vergleichen() {
         for (const fahrer_modell& f : fahrer) {
             const int spur = spur_von(f.name);
-            ASSERT_EQ(w.runden(spur), static_cast<int>(f.runden.size())) << f.name;
+            ASSERT_EQ(t.ergebnis(spur).rundenzahl(), static_cast<int>(f.runden.size())) << f.name;
             for (std::size_t i = 0; i < f.runden.size(); ++i) {
                 const zeit_ms zeit = zustand.konto.rundenzeit(spur, static_cast<int>(i) + 1);
                 EXPECT_NEAR(static_cast<double>(zeit), static_cast<double>(f.runden[i]), 4) << f.name << " " << i + 1;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "race/rundenspeicher.h"
+
 namespace tarvel {
 namespace {
 
@@ -13,15 +15,6 @@ spur_verlauf lauf(int spur, const std::vector<zeit_ms>& zeiten) {
         ergebnis.runden.push_back({static_cast<int>(ergebnis.runden.size()) + 1, zeit, 0});
     }
     return ergebnis;
-}
-
-void runden_fahren(rundenkonto& konto, int spur) {
-    konto.zaehlen(spur, 900, 1000, 0);  // only starts the count
-    konto.zaehlen(spur, 8000, 9000, 0);
-    konto.beste_werten(spur, 8000);
-    konto.zaehlen(spur, 7500, 47500, 31000);
-    konto.beste_werten(spur, 7500);
-    konto.zaehlen(spur, 7500, 55000, 0);
 }
 
 TEST(Rundenverlauf, LiestDieRundenDerGefahrenenSpuren) {
