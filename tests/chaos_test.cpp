@@ -207,7 +207,7 @@ TEST_F(Chaos, TankstrafeRuhtInDerPause) {
 
 TEST_F(Chaos, InDerPauseWirdNichtGetanktUndKeinSektorGemessen) {
     t.p.form1.t_aktiv.umschalten();
-    t.p.einst.tank_wartezeit = 0s;
+    t.p.einst.tank_wartezeit = 1s;
     t.p.einst.sensor_timeout = 0ms;
     t.p.einst.sektor_an = {true, true, true, true};
     fahren();
