@@ -1,13 +1,12 @@
 #include "programm/programm.h"
 
-#include <algorithm>
-#include <string_view>
 #include <utility>
 
 #include "core/nebendateien.h"
 #include "core/ordner.h"
 #include "core/ordnerblick.h"
-#include "core/text.h"
+#include "programm/fluegel.h"
+#include "programm/messgeraete.h"
 
 namespace tarvel {
 namespace {
@@ -15,12 +14,6 @@ namespace {
 constexpr std::string_view fahrer_bildordner = "pictures";
 constexpr std::string_view fahrzeug_bildordner = "slotcars";
 const std::string listenordner = "Listen\\";
-constexpr std::string_view einstellungsordner = "Einstellungen\\";
-
-std::string mit_rueckstrichen(std::string text) {
-    std::replace(text.begin(), text.end(), '/', '\\');
-    return text;
-}
 
 }  // namespace
 
@@ -33,34 +26,38 @@ programm::programm(const plattform::dienste& d)
       form1({einst, txt, param, ablage, fahrerliste, fahrzeugliste, bestzeiten, fenster, d.meldungen, d.bildschirm,
              d.zeitgeber}),
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
-      form3(d.zeitgeber, ablage, fenster),
-      update_form(d.zeitgeber, ablage, fenster),
-      rennen(d, {param, einst, txt, ablage, ereignisse, quellen, belegung, ausgaben, fenster, bestzeiten, fahrerliste,
-                 fahrzeugliste}),
-      startampel(rennen, einst, d.zeitgeber),
-      k_ampel(rennen, d.zeitgeber),
-      wertung(rennen),
-      rundenspeichern(einst.trennzeichen, d.kalender, {ablage, txt, fenster, d.meldungen}),
-      einzelrennen({param, einst, txt, rundenspeichern}),
-      tagesrennen({param, einst, txt, rundenspeichern}),
-      intervalltraining({param, einst, txt, rundenspeichern}),
-      beste_zeiten_fenster({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}, d.zeitgeber),
-      auswertung({rennen, einst, d.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
-      tastaturbelegung({belegung, txt, ablage, fenster, d.meldungen}),
-      speichernfenster({ablage, txt, fenster, d.meldungen}, fenstername::speichernfenster, "language\\language_s1.txt"),
-      fahrerspeichernfenster({ablage, txt, fenster, d.meldungen}, fenstername::fahrerspeichernfenster,
-                             "language\\language_s2.txt"),
-      fahrerbild_laden({ablage, txt, fenster, d.meldungen}),
-      beste_zeiten_verwaltung({einst, txt, ablage, fenster, d.meldungen, d.kalender, bestzeiten}),
-      einstellungsfenster(
-          {{einst, form1, txt}, txt, ablage, fenster, d.meldungen, d.klang, fahrerspeichernfenster, fahrerbild_laden},
-          {fahrerliste, fahrer_datei, fahrzeugliste, fahrzeug_datei}),
-      geraete(
-          {d, einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, einstellungsfenster, rennen, [this] {
-               form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-               return einstellungsfenster.einstellungen_speichern();
-           }}) {
-    rennen.teil_von.wechseln(einzelrennen);
+      start_(std::make_unique<startfluegel>(*this)),
+      rennen_(std::make_unique<rennfluegel>(*this)),
+      ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen)),
+      optionen_(std::make_unique<optionsfluegel>(*this)),
+      geraete_(std::make_unique<messgeraete>(geraete_umgebung{
+          d, einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, optionen_->einstellungsfenster,
+          rennen_->rennen,
+          [this] {
+              form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+              return pflege_.speichern();
+          }})),
+      pflege_({datei, {einst, form1, txt}, belegung, ablage, fenster, d.meldungen, optionen_->speichernfenster, *this},
+              pfad_als_utf8(d.programmordner)),
+      form3(start_->form3),
+      update_form(start_->update_form),
+      rennen(rennen_->rennen),
+      startampel(rennen_->startampel),
+      k_ampel(rennen_->k_ampel),
+      wertung(ergebnisse_->wertung),
+      rundenspeichern(ergebnisse_->rundenspeichern),
+      beste_zeiten_fenster(ergebnisse_->beste_zeiten_fenster),
+      auswertung(ergebnisse_->auswertung),
+      einzelrennen(ergebnisse_->einzelrennen),
+      tagesrennen(ergebnisse_->tagesrennen),
+      intervalltraining(ergebnisse_->intervalltraining),
+      tastaturbelegung(optionen_->tastaturbelegung),
+      speichernfenster(optionen_->speichernfenster),
+      fahrerspeichernfenster(optionen_->fahrerspeichernfenster),
+      fahrerbild_laden(optionen_->fahrerbild_laden),
+      beste_zeiten_verwaltung(optionen_->beste_zeiten_verwaltung),
+      einstellungsfenster(optionen_->einstellungsfenster),
+      geraete(*geraete_) {
     hauptfenster_verbinden();
     optionen_verbinden();
     bestzeiten_verbinden();
@@ -72,9 +69,11 @@ programm::programm(const plattform::dienste& d)
     };
 }
 
+programm::~programm() = default;
+
 void programm::hauptfenster_verbinden() {
-    form1.einstellungen_speichern = [this] { speichern_oeffnen(); };
-    form1.einstellungen_laden = [this] { laden_oeffnen(); };
+    form1.einstellungen_speichern = [this] { pflege_.speichern_oeffnen(); };
+    form1.einstellungen_laden = [this] { pflege_.laden_oeffnen(); };
     form1.beenden = [this] { programm_beenden(); };
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
@@ -107,10 +106,7 @@ void programm::rennen_beginnen(veranstaltung& teil_von) {
 }
 
 void programm::optionen_verbinden() {
-    einstellungsfenster.einstellungen_speichern = [this] {
-        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
-        return !datei.fehler_laden();
-    };
+    einstellungsfenster.einstellungen_speichern = [this] { return pflege_.speichern(); };
     einstellungsfenster.nach_uebernahme = [this] {
         form1.listen_zeigen();
         form1.farben_einstellen();
@@ -123,11 +119,7 @@ void programm::optionen_verbinden() {
         }
         form1.beste_zeiten_anzeigen();
     };
-    einstellungsfenster.hardware_starten = [this] {
-        laden_aus_menue_ = true;  // the main window is on the screen already
-        hardware_starten();
-        laden_aus_menue_ = false;
-    };
+    einstellungsfenster.hardware_starten = [this] { geraete.hardware_starten(false); };
 }
 
 void programm::bilder_melden(int anzahl, bool gespeichert) {
@@ -141,12 +133,11 @@ bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
     fenster.zeigen(fenstername::Update_form);
-    texte_standard_setzen();
+    txt = {};
     txt.sprache_m1_laden(ablage);
     txt.sprache_tx1_laden(ablage);
     eingebaute_namen_setzen();
-    hardware_standard_setzen();
-    einstellungen_standard_setzen();
+    pflege_.standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
     if (!dienste.prozess.ist_einzige_instanz()) {
         dienste.meldungen.zeigen(txt.meldung[10], programm_name);
@@ -158,13 +149,9 @@ bool programm::starten() {
     fahrerliste_laden();
     form1.listen_zeigen();
     datei.beste_zeiten_laden = [this] { bestzeiten_laden(); };  // not for the defaults before the settings are read
-    start_datei_bestimmen();
-    einstellungen_laden();
+    pflege_.start_datei_bestimmen();
+    pflege_.laden();
     return true;
-}
-
-void programm::texte_standard_setzen() {
-    txt = {};
 }
 
 void programm::eingebaute_namen_setzen() {
@@ -178,16 +165,6 @@ std::vector<sprachliste> programm::sprachdateien() {
         alle.push_back(std::move(texte));
     }
     return alle;
-}
-
-void programm::hardware_standard_setzen() {
-    einst.hardware = {};
-}
-
-void programm::einstellungen_standard_setzen() {
-    fenster.laden(fenstername::Form1);
-    datei.einstellungen_standard_setzen();
-    belegung.vorbelegen(belegung_stufe::erststart);
 }
 
 void programm::fahrzeugliste_laden() {
@@ -220,113 +197,16 @@ bool programm::fahrerliste_speichern() {
     return geschrieben;
 }
 
-std::string programm::einstellungsname(std::string_view pfad) const {
-    std::string name = mit_rueckstrichen(std::string(pfad));
-    const std::string programm_pfad = mit_rueckstrichen(pfad_als_utf8(dienste.programmordner));
-    for (const std::string_view vorspann :
-         {std::string_view(programm_pfad), std::string_view("\\"), einstellungsordner}) {
-        if (name.starts_with(vorspann)) {
-            name.erase(0, vorspann.size());
-        }
-    }
-    return name;
-}
-
-void programm::start_datei_bestimmen() {
-    s6_start start = s6_laden(ablage);
-    const bool neustart = start.zustand == "2";
-    einstell_datei = start.einstell_datei;
-    const std::string name = einstellungsname(einstell_datei);
-    if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
-        einstell_datei = standard_einstellungen;
-    } else if (name.size() + einstellungsordner.size() < einstell_datei.size()) {
-        einstell_datei = std::string(einstellungsordner) + name;
-    }
-    const auto modus = static_cast<modul_4x4>(ganzzahl_lesen(start.modus, 0, 7));
-    hw_4x4_modus_start_ = neustart && modus >= modul_4x4::aus ? std::optional(modus) : std::nullopt;
-    if (!neustart) {
-        einstell_standarddatei = einstell_datei;
-    }
-    if (neustart || start.zustand == "0") {  // a restart request lasts one start only
-        start.zustand = start.naechster_zustand;
-        start.modus = start.naechster_modus;
-        start.einstell_datei = standard_einstellungen;
-        s6_speichern(ablage, start);
-    }
-}
-
-void programm::einstellungen_laden() {
-    datei.einstellungsdatei_einlesen(einstell_datei);
-    if (!datei.fehler_laden()) {
-        datei.einstellungsdatei_pruefen();
-    }
-    if (!datei.fehler_laden()) {
-        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, std::nullopt));
-    }
-    einstell_datei = einstellungsname(einstell_datei);
-    form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));
-    const bool unbrauchbar = datei.fehler_laden();
-    if (unbrauchbar) {
-        dienste.meldungen.zeigen(txt.meldung[9], txt.titel[1]);
-        hardware_standard_setzen();
-        einstellungen_standard_setzen();
-    }
-    belegung.tastenbelegung_laden(ablage);  // the keys are a file of their own: damaged settings do not cost them
-    if (unbrauchbar) {
-        einstellungen_speichern(std::string(einstellungsordner) + einstell_datei);
-    }
+void programm::einstellungen_geladen(bool im_betrieb) {
     form1.farben_einstellen();
     form1.bilder_anzeigen();
     rennen.sounds.bereitstellen();
-    if (einst.aut_loeschen && !laden_aus_menue_) {
+    if (einst.aut_loeschen && !im_betrieb) {
         auto_dateien_loeschen(ablage);
     }
     ergebnis_ordner_anlegen(ablage);
-    hardware_starten();
-}
-
-void programm::einstellungen_speichern(std::string_view name) {
-    datei.einstellungen_speichern(name);
-    if (!datei.fehler_laden()) {
-        einstell_datei = einstellungsname(name);
-    }
-    form1.einstellungsname_anzeigen(einstell_datei, einstellungsname(einstell_standarddatei));
-    belegung.tastenbelegung_speichern(ablage);
-}
-
-void programm::speichern_oeffnen() {
-    form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-    speichernfenster.oeffnen({true, txt.datei_text[4], txt.datei_text[1], txt.datei_text[0], "Einstellungen", ".ini",
-                              einstell_datei, [this](const std::string& name) {
-                                  einstellungen_speichern(std::string(einstellungsordner) + name);
-                                  return !datei.fehler_laden();
-                              }});
-}
-
-void programm::laden_oeffnen() {
-    speichernfenster.oeffnen({false, txt.datei_text[5], txt.datei_text[3], txt.datei_text[2], "Einstellungen", ".ini",
-                              einstell_datei,
-                              [this](const std::string& name) { return einstellungen_aus_menue_laden(name); }});
-}
-
-bool programm::einstellungen_aus_menue_laden(const std::string& name) {
-    const std::string pfad = std::string(einstellungsordner) + name;
-    datei.einstellungsdatei_einlesen(pfad, false, version_melden::nein);
-    datei.einstellungsdatei_pruefen();
-    if (datei.fehler_laden()) {
-        dienste.meldungen.zeigen(speichernfenster.ungueltig_text(), txt.titel[1]);
-        return false;
-    }
-    laden_aus_menue_ = true;
-    einstell_datei = pfad;
-    einstellungen_laden();
-    laden_aus_menue_ = false;
-    return true;
-}
-
-void programm::hardware_starten() {
-    geraete.hardware_starten(!laden_aus_menue_);
-    if (!laden_aus_menue_) {
+    geraete.hardware_starten(!im_betrieb);
+    if (!im_betrieb) {
         fenster.zeigen(fenstername::Form1);
         fenster.zeigen(fenstername::Form3);
     }

@@ -1,47 +1,56 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "competition/intervalltraining.h"
-#include "competition/tagesrennen.h"
 #include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/einstellungsdatei.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
+#include "core/namensliste.h"
 #include "core/renn_parameter.h"
-#include "core/speichernfenster.h"
-#include "core/sprache.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
 #include "hardware/messquelle.h"
-#include "hardware/tastaturbelegung.h"
 #include "hardware/tastenbelegung.h"
-#include "optionen/beste_zeiten_verwaltung.h"
-#include "optionen/bildwahl.h"
-#include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
-#include "programm/messgeraete.h"
-#include "programm/startfenster.h"
-#include "race/rennen.h"
-#include "results/auswertung.h"
-#include "results/beste_zeiten_fenster.h"
-#include "start/k_ampel.h"
-#include "start/startampel.h"
+#include "programm/einstellungspflege.h"
 
 namespace tarvel {
 
-/// The whole program: owns every record and every part, and wires them together. Two of them can live in one process.
-class programm {
+class auswertung;
+class beste_zeiten_fenster;
+class beste_zeiten_verwaltung;
+class bildwahl;
+class einstellungsfenster;
+class einzelrennen;
+class form3;
+class intervalltraining;
+class k_ampel;
+class messgeraete;
+class rundenspeichern;
+class speichernfenster;
+class startampel;
+class tagesrennen;
+class tastaturbelegung;
+class update_form;
+class veranstaltung;
+class wertung;
+struct ergebnisfluegel;
+struct optionsfluegel;
+struct rennen;
+struct rennfluegel;
+struct startfluegel;
+
+/// The whole program: owns every record and every wing, and puts them together. Two of them can live in one process.
+class programm final : private einstellungsfolgen {
 public:
     explicit programm(const plattform::dienste& dienste);
-    programm(const programm&) = delete;
-    programm& operator=(const programm&) = delete;
+    ~programm() override;
 
     /// Everything between process start and the moment the main window waits for the operator. False if the program
     /// already runs elsewhere and this one has ended itself.
@@ -73,61 +82,55 @@ public:
 
     tarvel::form1 form1;
     einstellungsdatei datei;
-    std::string einstell_datei;          ///< current settings file, without its folder once it is loaded
-    std::string einstell_standarddatei;  ///< the one the program starts with
-    tarvel::form3 form3;
-    tarvel::update_form update_form;
-    tarvel::rennen rennen;
-    tarvel::startampel startampel;
-    tarvel::k_ampel k_ampel;
-    tarvel::wertung wertung;
-    tarvel::rundenspeichern rundenspeichern;
-    tarvel::einzelrennen einzelrennen;
-    tarvel::tagesrennen tagesrennen;
-    tarvel::intervalltraining intervalltraining;
-    tarvel::beste_zeiten_fenster beste_zeiten_fenster;
-    tarvel::auswertung auswertung;
-    tarvel::tastaturbelegung tastaturbelegung;
-    tarvel::speichernfenster speichernfenster;
-    tarvel::speichernfenster fahrerspeichernfenster;
-    tarvel::bildwahl fahrerbild_laden;
-    tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
-    tarvel::einstellungsfenster einstellungsfenster;
-    messgeraete geraete;
 
 private:
+    std::unique_ptr<startfluegel> start_;
+    std::unique_ptr<rennfluegel> rennen_;
+    std::unique_ptr<ergebnisfluegel> ergebnisse_;
+    std::unique_ptr<optionsfluegel> optionen_;
+    std::unique_ptr<messgeraete> geraete_;
+    einstellungspflege pflege_;
+
+public:
+    // What the wings hold. Who uses one includes its header.
+    tarvel::form3& form3;
+    tarvel::update_form& update_form;
+    tarvel::rennen& rennen;
+    tarvel::startampel& startampel;
+    tarvel::k_ampel& k_ampel;
+    tarvel::wertung& wertung;
+    tarvel::rundenspeichern& rundenspeichern;
+    tarvel::beste_zeiten_fenster& beste_zeiten_fenster;
+    tarvel::auswertung& auswertung;
+    tarvel::einzelrennen& einzelrennen;
+    tarvel::tagesrennen& tagesrennen;
+    tarvel::intervalltraining& intervalltraining;
+    tarvel::tastaturbelegung& tastaturbelegung;
+    tarvel::speichernfenster& speichernfenster;
+    tarvel::speichernfenster& fahrerspeichernfenster;
+    tarvel::bildwahl& fahrerbild_laden;
+    tarvel::beste_zeiten_verwaltung& beste_zeiten_verwaltung;
+    tarvel::einstellungsfenster& einstellungsfenster;
+    messgeraete& geraete;
+
+private:
+    void einstellungen_geladen(bool im_betrieb) override;
     void hauptfenster_verbinden();
-    void texte_standard_setzen();
+    void optionen_verbinden();
+    void bestzeiten_verbinden();
     void eingebaute_namen_setzen();
-    void hardware_standard_setzen();
-    void einstellungen_standard_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();
     void fahrerliste_laden();
     /// A failure shows its message.
     bool fahrzeugliste_speichern();
     bool fahrerliste_speichern();
-    /// The file's name below the settings folder.
-    std::string einstellungsname(std::string_view pfad) const;
-    void start_datei_bestimmen();
-    void einstellungen_laden();
-    void einstellungen_speichern(std::string_view name);
     /// Tells how many pictures were taken over, once they are kept.
     void bilder_melden(int anzahl, bool gespeichert);
-    void speichern_oeffnen();
-    void laden_oeffnen();
-    bool einstellungen_aus_menue_laden(const std::string& name);
-    void optionen_verbinden();
-    void bestzeiten_verbinden();
-    void hardware_starten();
     /// The best times of the settings in force; a missing file shows its message.
     void bestzeiten_laden();
 
     std::string bestzeiten_datei_;  ///< last one that was asked for
-
-    std::optional<modul_4x4> hw_4x4_modus_start_;  ///< mode of the 4x4 module that a restart asked for
-
-    bool laden_aus_menue_ = false;  ///< a load on the operator's command, not at start
     bool programm_beendet_ = false;
 };
 

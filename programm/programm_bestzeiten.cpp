@@ -1,3 +1,4 @@
+#include "programm/fluegel.h"
 #include "programm/programm.h"
 
 namespace tarvel {

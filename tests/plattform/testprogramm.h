@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "programm/fluegel.h"
+#include "programm/messgeraete.h"
 #include "programm/programm.h"
 #include "tests/plattform/test_plattform.h"
 

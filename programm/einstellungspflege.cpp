@@ -1,0 +1,136 @@
+#include "programm/einstellungspflege.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/nebendateien.h"
+#include "core/ordnerblick.h"
+#include "core/speichernfenster.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view ordner = "Einstellungen";
+const std::string vorspann = "Einstellungen\\";
+
+std::string mit_rueckstrichen(std::string text) {
+    std::replace(text.begin(), text.end(), '/', '\\');
+    return text;
+}
+
+}  // namespace
+
+einstellungspflege::einstellungspflege(const umgebung& um, std::string_view programmordner)
+    : um_(um), programm_pfad_(mit_rueckstrichen(std::string(programmordner))) {}
+
+std::string einstellungspflege::einstellungsname(std::string_view pfad) const {
+    std::string name = mit_rueckstrichen(std::string(pfad));
+    for (const std::string_view davor :
+         {std::string_view(programm_pfad_), std::string_view("\\"), std::string_view(vorspann)}) {
+        if (name.starts_with(davor)) {
+            name.erase(0, davor.size());
+        }
+    }
+    return name;
+}
+
+void einstellungspflege::name_zeigen() {
+    um_.ziel.haupt.einstellungsname_anzeigen(einstell_datei_, einstellungsname(einstell_standarddatei_));
+}
+
+void einstellungspflege::standard_setzen() {
+    um_.ziel.einst.hardware = {};
+    um_.fenster.laden(fenstername::Form1);
+    um_.datei.einstellungen_standard_setzen();
+    um_.belegung.vorbelegen(belegung_stufe::erststart);
+}
+
+void einstellungspflege::start_datei_bestimmen() {
+    s6_start start = s6_laden(um_.ablage);
+    const bool neustart = start.zustand == "2";
+    einstell_datei_ = start.einstell_datei;
+    const std::string name = einstellungsname(einstell_datei_);
+    if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
+        einstell_datei_ = standard_einstellungen;
+    } else if (name.size() + vorspann.size() < einstell_datei_.size()) {
+        einstell_datei_ = vorspann + name;
+    }
+    const auto modus = static_cast<modul_4x4>(ganzzahl_lesen(start.modus, 0, 7));
+    hw_4x4_modus_start_ = neustart && modus >= modul_4x4::aus ? std::optional(modus) : std::nullopt;
+    if (!neustart) {
+        einstell_standarddatei_ = einstell_datei_;
+    }
+    if (neustart || start.zustand == "0") {  // a restart request lasts one start only
+        start.zustand = start.naechster_zustand;
+        start.modus = start.naechster_modus;
+        start.einstell_datei = standard_einstellungen;
+        s6_speichern(um_.ablage, start);
+    }
+}
+
+void einstellungspflege::laden(bool im_betrieb) {
+    einstellungsdatei& datei = um_.datei;
+    datei.einstellungsdatei_einlesen(einstell_datei_);
+    if (!datei.fehler_laden()) {
+        datei.einstellungsdatei_pruefen();
+    }
+    if (!datei.fehler_laden()) {
+        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, std::nullopt));
+    }
+    einstell_datei_ = einstellungsname(einstell_datei_);
+    name_zeigen();
+    const bool unbrauchbar = datei.fehler_laden();
+    if (unbrauchbar) {
+        um_.meldungen.zeigen(um_.ziel.txt.meldung[9], um_.ziel.txt.titel[1]);
+        standard_setzen();
+    }
+    um_.belegung.tastenbelegung_laden(um_.ablage);  // a file of their own: damaged settings do not cost the keys
+    if (unbrauchbar) {
+        speichern();
+    }
+    um_.folgen.einstellungen_geladen(im_betrieb);
+}
+
+bool einstellungspflege::speichern() {
+    return speichern(vorspann + einstell_datei_);
+}
+
+bool einstellungspflege::speichern(const std::string& pfad) {
+    um_.datei.einstellungen_speichern(pfad);
+    const bool gut = !um_.datei.fehler_laden();
+    if (gut) {
+        einstell_datei_ = einstellungsname(pfad);
+    }
+    name_zeigen();
+    um_.belegung.tastenbelegung_speichern(um_.ablage);
+    return gut;
+}
+
+void einstellungspflege::speichern_oeffnen() {
+    const auto& worte = um_.ziel.txt.datei_text;
+    um_.ziel.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+    um_.auswahl.oeffnen({true, worte[4], worte[1], worte[0], std::string(ordner), ".ini", einstell_datei_,
+                         [this](const std::string& name) { return speichern(vorspann + name); }});
+}
+
+void einstellungspflege::laden_oeffnen() {
+    const auto& worte = um_.ziel.txt.datei_text;
+    um_.auswahl.oeffnen({false, worte[5], worte[3], worte[2], std::string(ordner), ".ini", einstell_datei_,
+                         [this](const std::string& name) { return aus_menue_laden(name); }});
+}
+
+bool einstellungspflege::aus_menue_laden(const std::string& name) {
+    const std::string pfad = vorspann + name;
+    um_.datei.einstellungsdatei_einlesen(pfad, false, version_melden::nein);
+    um_.datei.einstellungsdatei_pruefen();
+    if (um_.datei.fehler_laden()) {
+        um_.meldungen.zeigen(um_.auswahl.ungueltig_text(), um_.ziel.txt.titel[1]);
+        return false;
+    }
+    einstell_datei_ = pfad;
+    laden(true);
+    return true;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/einstellungsdatei.h"
+#include "hardware/tastenbelegung.h"
+
+namespace tarvel {
+
+class speichernfenster;
+
+/// What has to follow settings that were loaded.
+class einstellungsfolgen {
+public:
+    einstellungsfolgen() = default;
+    einstellungsfolgen(const einstellungsfolgen&) = delete;
+    einstellungsfolgen& operator=(const einstellungsfolgen&) = delete;
+    virtual ~einstellungsfolgen() = default;
+
+    /// `im_betrieb`: the operator has loaded them, not the start.
+    virtual void einstellungen_geladen(bool im_betrieb) = 0;
+};
+
+/// The care of the settings file: which one is in force, its loading and saving, and the defaults in its place. The
+/// keys are a file of their own that goes with it.
+class einstellungspflege {
+public:
+    struct umgebung {
+        einstellungsdatei& datei;
+        einstellungs_ziel ziel;
+        tastenbelegung& belegung;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        speichernfenster& auswahl;
+        einstellungsfolgen& folgen;
+    };
+
+    einstellungspflege(const umgebung& um, std::string_view programmordner);
+
+    /// Every setting to its default.
+    void standard_setzen();
+    /// The file that the program starts with.
+    void start_datei_bestimmen();
+    /// Loads the file in force; an unusable one shows its message and is replaced by the defaults.
+    void laden() { laden(false); }
+    /// Saves the file in force, false after a failure.
+    bool speichern();
+    /// Open the window in which a file is chosen.
+    void speichern_oeffnen();
+    void laden_oeffnen();
+
+private:
+    void laden(bool im_betrieb);
+    bool speichern(const std::string& pfad);
+    bool aus_menue_laden(const std::string& name);
+    void name_zeigen();
+    /// The file's name below the settings folder.
+    std::string einstellungsname(std::string_view pfad) const;
+
+    umgebung um_;
+    std::string programm_pfad_;
+    std::string einstell_datei_;                   ///< current settings file, without its folder once it is loaded
+    std::string einstell_standarddatei_;           ///< the one the program starts with
+    std::optional<modul_4x4> hw_4x4_modus_start_;  ///< mode of the 4x4 module that a restart asked for
+};
+
+}  // namespace tarvel

@@ -1,0 +1,56 @@
+#include "programm/fluegel.h"
+
+#include "programm/programm.h"
+
+namespace tarvel {
+namespace {
+
+fenster_umgebung fensterwelt(programm& p) {
+    return {p.ablage, p.txt, p.fenster, p.dienste.meldungen};
+}
+
+einzelrennen::umgebung rennwelt(programm& p, rundenspeichern& speichern) {
+    return {p.param, p.einst, p.txt, speichern};
+}
+
+}  // namespace
+
+startfluegel::startfluegel(programm& p)
+    : form3(p.dienste.zeitgeber, p.ablage, p.fenster), update_form(p.dienste.zeitgeber, p.ablage, p.fenster) {}
+
+rennfluegel::rennfluegel(programm& p)
+    : rennen(p.dienste, {p.param, p.einst, p.txt, p.ablage, p.ereignisse, p.quellen, p.belegung, p.ausgaben, p.fenster,
+                         p.bestzeiten, p.fahrerliste, p.fahrzeugliste}),
+      startampel(rennen, p.einst, p.dienste.zeitgeber),
+      k_ampel(rennen, p.dienste.zeitgeber) {}
+
+ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r)
+    : wertung(r),
+      rundenspeichern(p.einst.trennzeichen, p.dienste.kalender, fensterwelt(p)),
+      beste_zeiten_fenster({p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten},
+                           p.dienste.zeitgeber),
+      auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
+      einzelrennen(rennwelt(p, rundenspeichern)),
+      tagesrennen(rennwelt(p, rundenspeichern)),
+      intervalltraining(rennwelt(p, rundenspeichern)) {
+    r.teil_von.wechseln(einzelrennen);
+}
+
+optionsfluegel::optionsfluegel(programm& p)
+    : tastaturbelegung({p.belegung, p.txt, p.ablage, p.fenster, p.dienste.meldungen}),
+      speichernfenster(fensterwelt(p), fenstername::speichernfenster, "language\\language_s1.txt"),
+      fahrerspeichernfenster(fensterwelt(p), fenstername::fahrerspeichernfenster, "language\\language_s2.txt"),
+      fahrerbild_laden(fensterwelt(p)),
+      beste_zeiten_verwaltung(
+          {p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten}),
+      einstellungsfenster({{p.einst, p.form1, p.txt},
+                           p.txt,
+                           p.ablage,
+                           p.fenster,
+                           p.dienste.meldungen,
+                           p.dienste.klang,
+                           fahrerspeichernfenster,
+                           fahrerbild_laden},
+                          {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
+
+}  // namespace tarvel

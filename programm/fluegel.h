@@ -1,0 +1,61 @@
+#pragma once
+
+#include "competition/intervalltraining.h"
+#include "competition/tagesrennen.h"
+#include "core/speichernfenster.h"
+#include "hardware/tastaturbelegung.h"
+#include "optionen/beste_zeiten_verwaltung.h"
+#include "optionen/bildwahl.h"
+#include "optionen/einstellungsfenster.h"
+#include "platform/dienste.h"
+#include "programm/startfenster.h"
+#include "race/rennen.h"
+#include "results/auswertung.h"
+#include "results/beste_zeiten_fenster.h"
+#include "start/k_ampel.h"
+#include "start/startampel.h"
+
+/// The wings of the program: parts that belong together and are made together.
+namespace tarvel {
+
+class programm;
+
+struct startfluegel {
+    explicit startfluegel(programm& p);
+
+    tarvel::form3 form3;
+    tarvel::update_form update_form;
+};
+
+struct rennfluegel {
+    explicit rennfluegel(programm& p);
+
+    tarvel::rennen rennen;
+    tarvel::startampel startampel;
+    tarvel::k_ampel k_ampel;
+};
+
+struct ergebnisfluegel {
+    ergebnisfluegel(programm& p, rennen& r);
+
+    tarvel::wertung wertung;
+    tarvel::rundenspeichern rundenspeichern;
+    tarvel::beste_zeiten_fenster beste_zeiten_fenster;
+    tarvel::auswertung auswertung;
+    tarvel::einzelrennen einzelrennen;
+    tarvel::tagesrennen tagesrennen;
+    tarvel::intervalltraining intervalltraining;
+};
+
+struct optionsfluegel {
+    explicit optionsfluegel(programm& p);
+
+    tarvel::tastaturbelegung tastaturbelegung;
+    tarvel::speichernfenster speichernfenster;
+    tarvel::speichernfenster fahrerspeichernfenster;
+    tarvel::bildwahl fahrerbild_laden;
+    tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
+    tarvel::einstellungsfenster einstellungsfenster;
+};
+
+}  // namespace tarvel
