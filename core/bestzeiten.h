@@ -11,6 +11,20 @@
 
 namespace tarvel {
 
+/// What has to follow in the program when the best times are others.
+class bestzeitfolgen {
+public:
+    bestzeitfolgen() = default;
+    bestzeitfolgen(const bestzeitfolgen&) = delete;
+    bestzeitfolgen& operator=(const bestzeitfolgen&) = delete;
+    virtual ~bestzeitfolgen() = default;
+
+    /// The settings name the file: reads it; a missing one shows its message.
+    virtual void bestzeiten_laden() = 0;
+    /// The table has changed, and its file with it.
+    virtual void bestzeiten_geaendert() = 0;
+};
+
 /// What stands where no best time is. Longer laps are no best times.
 inline constexpr zeit_ms keine_bestzeit = 99999;
 

@@ -88,8 +88,8 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
         if (z == z::ende_wettkampf && wettkampfdatei_) {
             wettkampf_uebergeben(um_.ziel.haupt.einrichtung(), um_.param);
         }
-        if (z == z::vor_den_bestzeiten && beste_zeiten_laden) {
-            beste_zeiten_laden();
+        if (z == z::vor_den_bestzeiten && bestzeiten != nullptr) {
+            bestzeiten->bestzeiten_laden();
         }
     }
     einstellungen& einst = um_.ziel.einst;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungszeile.h"
 #include "core/renn_parameter.h"
@@ -40,8 +40,9 @@ public:
     void einstellungsdatei_pruefen();
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`.
     void einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x4_modus_start);
-    /// Runs in the middle of taking over, as soon as it is known which best times are wanted.
-    std::function<void()> beste_zeiten_laden;
+    /// Asked in the middle of taking over, as soon as it is known which best times are wanted; null before the start
+    /// has come to them.
+    bestzeitfolgen* bestzeiten = nullptr;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 

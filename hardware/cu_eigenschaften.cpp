@@ -132,7 +132,9 @@ void cu_eigenschaften::laden() {
     List1.ansage(Frame_status.text());
     List1.leeren();
     anzeigen_leeren();
-    port_belegen(true);
+    if (zugang != nullptr) {
+        zugang->geraet_trennen();
+    }
     Timer1_->an();
     Timer2_->an();
     if (um_.einst.cu.anschluss.cu_modus > 0) {
@@ -147,7 +149,9 @@ void cu_eigenschaften::entladen() {
     prueft_ = 0;
     zu_pruefen_.clear();
     leitung_.schliessen();
-    port_belegen(false);
+    if (zugang != nullptr) {
+        zugang->geraet_verbinden();
+    }
 }
 
 void cu_eigenschaften::anzeigen_leeren() {
@@ -324,7 +328,9 @@ void cu_eigenschaften::uebernehmen() {
         um_.einst.cu.cu_spur_wert[spur] = std::max(cbo_cu_tankgroesse[spur].platz(), 0);
     }
     um_.einst.folgen_ableiten();
-    einstellungen_speichern();
+    if (zugang != nullptr) {
+        zugang->einstellungen_speichern();
+    }
     um_.fenster.entladen(fenstername::cu_eigenschaften);
 }
 

@@ -13,6 +13,7 @@
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "hardware/cu_leitung.h"
+#include "hardware/geraetezugang.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
@@ -30,10 +31,7 @@ public:
 
     cu_eigenschaften(const umgebung& um, const plattform::dienste& dienste);
 
-    /// The port is needed here (true), or free again (false).
-    std::function<void(bool)> port_belegen;
-    /// Keeps the settings; false if that failed.
-    std::function<bool()> einstellungen_speichern;
+    geraetezugang* zugang = nullptr;  ///< null without a device
 
     rahmen Frame_port;
     bezeichnung Label_port;

@@ -50,8 +50,8 @@ uart_einstellungen::uart_einstellungen(const umgebung& um)
 
 void uart_einstellungen::laden() {
     sprache().anwenden(um_.ablage);
-    if (geraet_trennen) {
-        geraet_trennen();
+    if (zugang != nullptr) {
+        zugang->geraet_trennen();
     }
     profil_ = {};
     if (um_.ablage.gibt_es(um_.einst.uart.uart_datei) &&
@@ -77,8 +77,8 @@ void uart_einstellungen::laden() {
 void uart_einstellungen::entladen() {
     bootzeit_->aus();
     port_->schliessen();
-    if (geraet_verbinden) {
-        geraet_verbinden();
+    if (zugang != nullptr) {
+        zugang->geraet_verbinden();
     }
 }
 

@@ -13,6 +13,7 @@
 #include "core/texte.h"
 #include "hardware/at2560_empfang.h"
 #include "hardware/at2560_zuordnung.h"
+#include "hardware/geraetezugang.h"
 #include "platform/meldungen.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
@@ -88,11 +89,7 @@ public:
 
     liste zusammenfassung;
 
-    /// The device in the race closes its port, and opens it again.
-    std::function<void()> geraet_trennen;
-    std::function<void()> geraet_verbinden;
-    /// The port of the settings is another one: keeps them.
-    std::function<void()> einstellungen_speichern;
+    geraetezugang* zugang = nullptr;  ///< null without a device
 
     void laden() override;
     void entladen() override;

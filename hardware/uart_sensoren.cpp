@@ -173,8 +173,8 @@ void uart_einstellungen::fertigstellen() {
         return;
     }
     um_.einst.uart.uart_port = offener_port_;
-    if (einstellungen_speichern) {
-        einstellungen_speichern();
+    if (zugang != nullptr) {
+        zugang->einstellungen_speichern();
     }
     um_.fenster.entladen(fenstername::UART_einstellungen);
 }

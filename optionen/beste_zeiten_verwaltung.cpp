@@ -306,12 +306,10 @@ void beste_zeiten_verwaltung::in_kraft_setzen() {
     um_.bestzeiten = kopie_;
     um_.einst.beste_modus = modus;
     um_.einst.beste_datei = datei_;
-    if (anders && einstellungen_geaendert) {
-        einstellungen_geaendert();
+    if (anders) {
+        um_.folgen.einstellungen_speichern();
     }
-    if (uebernommen) {
-        uebernommen();
-    }
+    um_.bestzeitfolge.bestzeiten_geaendert();
 }
 
 }  // namespace tarvel

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 
 #include "core/bestzeiten.h"
@@ -11,6 +10,7 @@
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
+#include "optionen/optionsfolgen.h"
 #include "platform/kalender.h"
 #include "platform/meldungen.h"
 
@@ -28,6 +28,8 @@ public:
         plattform::meldungen& meldungen;
         const plattform::kalender& kalender;
         tarvel::bestzeiten& bestzeiten;
+        optionsfolgen& folgen;
+        bestzeitfolgen& bestzeitfolge;
     };
 
     explicit beste_zeiten_verwaltung(umgebung um);
@@ -64,11 +66,6 @@ public:
     std::vector<sprachliste> sprachdateien() override { return {sprache_bt()}; }
     /// The texts of the window.
     sprachliste sprache_bt();
-
-    /// The settings have another mode or another file.
-    std::function<void()> einstellungen_geaendert;
-    /// The program has the table of the window.
-    std::function<void()> uebernommen;
 
 private:
     struct worte {

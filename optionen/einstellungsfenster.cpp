@@ -263,9 +263,7 @@ void einstellungsfenster::Command1_Click() {
     werte_uebernehmen();
     bool gespeichert = fahrerseite.uebernehmen();
     gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
-    if (nach_uebernahme) {
-        nach_uebernahme();
-    }
+    um_.folgen.einstellungen_uebernommen();
     if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != vorher.trennzeichen) {
         trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
         if (trennzeichen_fehlen_) {
@@ -273,9 +271,9 @@ void einstellungsfenster::Command1_Click() {
             gespeichert = false;
         }
     }
-    gespeichert = (!einstellungen_speichern || einstellungen_speichern()) && gespeichert;
-    if (hardware_starten && um_.ziel.einst.hardware_anders_als(vorher)) {
-        hardware_starten();
+    gespeichert = um_.folgen.einstellungen_speichern() && gespeichert;
+    if (um_.ziel.einst.hardware_anders_als(vorher)) {
+        um_.folgen.hardware_starten();
     }
     if (gespeichert) {
         um_.fenster.entladen(fenstername::einstellungen);

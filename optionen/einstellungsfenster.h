@@ -13,6 +13,7 @@
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "optionen/listenseite.h"
+#include "optionen/optionsfolgen.h"
 #include "optionen/optionsseite.h"
 #include "optionen/schemawahl.h"
 #include "platform/klang.h"
@@ -49,6 +50,7 @@ public:
         plattform::klang& klang;
         speichernfenster& dateiwahl;
         bildwahl& bilder;
+        optionsfolgen& folgen;
     };
     struct listen {
         namensliste& fahrer;
@@ -67,13 +69,6 @@ public:
     befehl Command2;                ///< cancel
     listenseite fahrerseite;
     listenseite fahrzeugseite;
-
-    /// Writes the current settings file; false after a failure.
-    std::function<bool()> einstellungen_speichern;
-    /// What has to follow new values: lists, colours, pictures of the main window.
-    std::function<void()> nach_uebernahme;
-    /// Another timing hardware is in force.
-    std::function<void()> hardware_starten;
 
     /// Opens the window of the best times.
     std::function<void()> bestzeiten_verwalten;

@@ -1,6 +1,7 @@
 #include "programm/at2560_verdrahtung.h"
 
 #include "optionen/einstellungsfenster.h"
+#include "programm/einstellungspflege.h"
 #include "programm/messgeraete.h"
 
 namespace tarvel {
@@ -10,9 +11,18 @@ at2560_verdrahtung::at2560_verdrahtung(const geraete_umgebung& um, messgeraete& 
           um.dienste.meldungen, alle.rennverbindung(), alle}),
       uart_einstellungen({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
                           um.dienste.serienports}),
-      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}) {
+      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}),
+      einst_(um.einst),
+      optionen_(um.einstellungsfenster),
+      pflege_(um.pflege),
+      alle_(alle) {
     fenster_verbinden(um);
-    assistent_verbinden(um, alle);
+    uart_einstellungen.zugang = this;
+    uart_profildatei.gewaehlt = [this](const std::string& name) {
+        einst_.uart.uart_datei = name;
+        at.profil_wechseln();
+        einstellungen_speichern();
+    };
 }
 
 void at2560_verdrahtung::fenster_verbinden(const geraete_umgebung& um) {
@@ -25,23 +35,16 @@ void at2560_verdrahtung::fenster_verbinden(const geraete_umgebung& um) {
     };
 }
 
-void at2560_verdrahtung::assistent_verbinden(const geraete_umgebung& um, messgeraete& alle) {
-    const auto merken = [&optionen = um.einstellungsfenster, speichern = um.einstellungen_speichern] {
-        speichern();
-        optionen.uart_zeigen();
-    };
-    uart_einstellungen.geraet_trennen = [this] { at.schliessen(); };
-    uart_einstellungen.geraet_verbinden = [&einst = um.einst, &alle] {
-        if (einst.hardware.hw_uart) {
-            alle.hardware_starten(false);
-        }
-    };
-    uart_einstellungen.einstellungen_speichern = merken;
-    uart_profildatei.gewaehlt = [this, &einst = um.einst, merken](const std::string& name) {
-        einst.uart.uart_datei = name;
-        at.profil_wechseln();
-        merken();
-    };
+void at2560_verdrahtung::geraet_verbinden() {
+    if (einst_.hardware.hw_uart) {
+        alle_.hardware_starten(false);
+    }
+}
+
+bool at2560_verdrahtung::einstellungen_speichern() {
+    const bool gut = pflege_.speichern_mit_feldern();
+    optionen_.uart_zeigen();
+    return gut;
 }
 
 }  // namespace tarvel

@@ -8,18 +8,19 @@ namespace tarvel {
 control_unit_verdrahtung::control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
     : cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle},
          um.dienste),
-      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, um.dienste) {
+      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, um.dienste),
+      einst_(um.einst),
+      pflege_(um.pflege) {
     um.form1.cu_oeffnen = [&fenster = um.fenster] {
         fenster.zeigen(fenstername::cu_eigenschaften, anzeige_art::modal);
     };
-    cu_eigenschaften.port_belegen = [this, &einst = um.einst](bool belegt) {
-        if (belegt) {
-            cu.schliessen();
-        } else if (einst.hardware.hw_cu) {
-            cu.oeffnen();
-        }
-    };
-    cu_eigenschaften.einstellungen_speichern = um.einstellungen_speichern;
+    cu_eigenschaften.zugang = this;
+}
+
+void control_unit_verdrahtung::geraet_verbinden() {
+    if (einst_.hardware.hw_cu) {
+        cu.oeffnen();
+    }
 }
 
 }  // namespace tarvel

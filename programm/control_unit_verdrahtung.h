@@ -2,12 +2,13 @@
 
 #include "hardware/control_unit.h"
 #include "hardware/cu_eigenschaften.h"
+#include "programm/einstellungspflege.h"
 #include "programm/geraeteverdrahtung.h"
 
 namespace tarvel {
 
 /// The Control Unit and its window.
-class control_unit_verdrahtung final : public geraeteverdrahtung {
+class control_unit_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
 public:
     control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -15,6 +16,14 @@ public:
 
     control_unit cu;
     tarvel::cu_eigenschaften cu_eigenschaften;
+
+private:
+    void geraet_trennen() override { cu.schliessen(); }
+    void geraet_verbinden() override;
+    bool einstellungen_speichern() override { return pflege_.speichern_mit_feldern(); }
+
+    const einstellungen& einst_;
+    einstellungspflege& pflege_;
 };
 
 }  // namespace tarvel

@@ -96,6 +96,11 @@ bool einstellungspflege::speichern() {
     return speichern(vorspann + einstell_datei_);
 }
 
+bool einstellungspflege::speichern_mit_feldern() {
+    um_.ziel.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+    return speichern();
+}
+
 bool einstellungspflege::speichern(const std::string& pfad) {
     um_.datei.einstellungen_speichern(pfad);
     const bool gut = !um_.datei.fehler_laden();

@@ -48,6 +48,8 @@ public:
     void laden() { laden(false); }
     /// Saves the file in force, false after a failure.
     bool speichern();
+    /// The same from elsewhere than the main window, whose fields go with it within their limits.
+    bool speichern_mit_feldern();
     /// Open the window in which a file is chosen.
     void speichern_oeffnen();
     void laden_oeffnen();

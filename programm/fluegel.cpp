@@ -22,13 +22,16 @@ rennfluegel::rennfluegel(programm& p)
     : rennen(p.dienste, {p.param, p.einst, p.txt, p.ablage, p.ereignisse, p.quellen, p.belegung, p.ausgaben, p.fenster,
                          p.bestzeiten, p.fahrerliste, p.fahrzeugliste}),
       startampel(rennen, p.einst, p.dienste.zeitgeber),
-      k_ampel(rennen, p.dienste.zeitgeber) {}
+      k_ampel(rennen, p.dienste.zeitgeber) {
+    rennen.chaos.neustart_ampel = &k_ampel;
+}
 
-ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r)
+ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
     : wertung(r),
       rundenspeichern(p.einst.trennzeichen, p.dienste.kalender, fensterwelt(p)),
-      beste_zeiten_fenster({p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten},
-                           p.dienste.zeitgeber),
+      beste_zeiten_fenster(
+          {p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten, folgen},
+          p.dienste.zeitgeber),
       auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
@@ -36,13 +39,13 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r)
     r.teil_von.wechseln(einzelrennen);
 }
 
-optionsfluegel::optionsfluegel(programm& p)
+optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolgen& bestzeiten)
     : tastaturbelegung({p.belegung, p.txt, p.ablage, p.fenster, p.dienste.meldungen}),
       speichernfenster(fensterwelt(p), fenstername::speichernfenster, "language\\language_s1.txt"),
       fahrerspeichernfenster(fensterwelt(p), fenstername::fahrerspeichernfenster, "language\\language_s2.txt"),
       fahrerbild_laden(fensterwelt(p)),
-      beste_zeiten_verwaltung(
-          {p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten}),
+      beste_zeiten_verwaltung({p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender,
+                               p.bestzeiten, folgen, bestzeiten}),
       einstellungsfenster({{p.einst, p.form1, p.txt},
                            p.txt,
                            p.ablage,
@@ -50,7 +53,8 @@ optionsfluegel::optionsfluegel(programm& p)
                            p.dienste.meldungen,
                            p.dienste.klang,
                            fahrerspeichernfenster,
-                           fahrerbild_laden},
+                           fahrerbild_laden,
+                           folgen},
                           {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
 
 }  // namespace tarvel

@@ -36,7 +36,7 @@ struct rennfluegel {
 };
 
 struct ergebnisfluegel {
-    ergebnisfluegel(programm& p, rennen& r);
+    ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen);
 
     tarvel::wertung wertung;
     tarvel::rundenspeichern rundenspeichern;
@@ -48,7 +48,7 @@ struct ergebnisfluegel {
 };
 
 struct optionsfluegel {
-    explicit optionsfluegel(programm& p);
+    optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolgen& bestzeiten);
 
     tarvel::tastaturbelegung tastaturbelegung;
     tarvel::speichernfenster speichernfenster;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -11,6 +10,7 @@ namespace tarvel {
 
 class dateien;
 class einstellungsfenster;
+class einstellungspflege;
 class ereignis_tabelle;
 class fensterregister;
 class form1;
@@ -31,7 +31,7 @@ struct geraete_umgebung {
     tarvel::form1& form1;
     tarvel::einstellungsfenster& einstellungsfenster;
     tarvel::rennen& rennen;
-    std::function<bool()> einstellungen_speichern;  ///< with the main window's fields as they are; false if that failed
+    einstellungspflege& pflege;
 };
 
 /// A device in the program, and what only it brings: its windows, the commands that open them.

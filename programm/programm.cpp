@@ -28,17 +28,14 @@ programm::programm(const plattform::dienste& d)
       datei({ablage, {einst, form1, txt}, param, d.meldungen}),
       start_(std::make_unique<startfluegel>(*this)),
       rennen_(std::make_unique<rennfluegel>(*this)),
-      ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen)),
-      optionen_(std::make_unique<optionsfluegel>(*this)),
-      geraete_(std::make_unique<messgeraete>(geraete_umgebung{
-          d, einst, txt, ablage, ereignisse, quellen, ausgaben, fenster, form1, optionen_->einstellungsfenster,
-          rennen_->rennen,
-          [this] {
-              form1.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-              return pflege_.speichern();
-          }})),
+      ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
+      optionen_(std::make_unique<optionsfluegel>(*this, static_cast<optionsfolgen&>(*this),
+                                                 static_cast<bestzeitfolgen&>(*this))),
       pflege_({datei, {einst, form1, txt}, belegung, ablage, fenster, d.meldungen, optionen_->speichernfenster, *this},
               pfad_als_utf8(d.programmordner)),
+      geraete_(std::make_unique<messgeraete>(geraete_umgebung{d, einst, txt, ablage, ereignisse, quellen, ausgaben,
+                                                              fenster, form1, optionen_->einstellungsfenster,
+                                                              rennen_->rennen, pflege_})),
       form3(start_->form3),
       update_form(start_->update_form),
       rennen(rennen_->rennen),
@@ -59,14 +56,7 @@ programm::programm(const plattform::dienste& d)
       einstellungsfenster(optionen_->einstellungsfenster),
       geraete(*geraete_) {
     hauptfenster_verbinden();
-    optionen_verbinden();
-    bestzeiten_verbinden();
-    rennen.chaos.neustart_ampel = [this] {
-        if (!fenster.ist_offen(fenstername::k_ampel)) {
-            fenster.zeigen(fenstername::k_ampel);
-        }
-        k_ampel.beginnen();
-    };
+    einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };
 }
 
 programm::~programm() = default;
@@ -105,21 +95,38 @@ void programm::rennen_beginnen(veranstaltung& teil_von) {
     fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
 }
 
-void programm::optionen_verbinden() {
-    einstellungsfenster.einstellungen_speichern = [this] { return pflege_.speichern(); };
-    einstellungsfenster.nach_uebernahme = [this] {
-        form1.listen_zeigen();
-        form1.farben_einstellen();
-        form1.bilder_anzeigen();
-        form1.modus_anzeigen();
-        form1.tankoptionen_zeigen();
-        rennen.sounds.bereitstellen();
-        if (einst.beste_datei != bestzeiten_datei_) {
-            bestzeiten_laden();
-        }
-        form1.beste_zeiten_anzeigen();
-    };
-    einstellungsfenster.hardware_starten = [this] { geraete.hardware_starten(false); };
+bool programm::einstellungen_speichern() {
+    return pflege_.speichern();
+}
+
+void programm::einstellungen_uebernommen() {
+    form1.listen_zeigen();
+    form1.farben_einstellen();
+    form1.bilder_anzeigen();
+    form1.modus_anzeigen();
+    form1.tankoptionen_zeigen();
+    rennen.sounds.bereitstellen();
+    if (einst.beste_datei != bestzeiten_datei_) {
+        bestzeiten_laden();
+    }
+    form1.beste_zeiten_anzeigen();
+}
+
+void programm::hardware_starten() {
+    geraete.hardware_starten(false);
+}
+
+void programm::bestzeiten_laden() {
+    bestzeiten_datei_ = einst.beste_datei;
+    if (!bestzeiten.laden(ablage, bestzeiten_datei_)) {
+        dienste.meldungen.zeigen(txt.meldung[20], txt.titel[1]);
+    }
+    form1.beste_zeiten_anzeigen();
+}
+
+void programm::bestzeiten_geaendert() {
+    bestzeiten_datei_ = einst.beste_datei;
+    form1.beste_zeiten_anzeigen();
 }
 
 void programm::bilder_melden(int anzahl, bool gespeichert) {
@@ -148,7 +155,7 @@ bool programm::starten() {
     fahrzeugliste_laden();
     fahrerliste_laden();
     form1.listen_zeigen();
-    datei.beste_zeiten_laden = [this] { bestzeiten_laden(); };  // not for the defaults before the settings are read
+    datei.bestzeiten = this;  // not for the defaults before the settings are read
     pflege_.start_datei_bestimmen();
     pflege_.laden();
     return true;

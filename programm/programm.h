@@ -17,6 +17,7 @@
 #include "hardware/ereignisse.h"
 #include "hardware/messquelle.h"
 #include "hardware/tastenbelegung.h"
+#include "optionen/optionsfolgen.h"
 #include "platform/dienste.h"
 #include "programm/einstellungspflege.h"
 
@@ -47,7 +48,7 @@ struct rennfluegel;
 struct startfluegel;
 
 /// The whole program: owns every record and every wing, and puts them together. Two of them can live in one process.
-class programm final : private einstellungsfolgen {
+class programm final : private einstellungsfolgen, private optionsfolgen, private bestzeitfolgen {
 public:
     explicit programm(const plattform::dienste& dienste);
     ~programm() override;
@@ -88,8 +89,8 @@ private:
     std::unique_ptr<rennfluegel> rennen_;
     std::unique_ptr<ergebnisfluegel> ergebnisse_;
     std::unique_ptr<optionsfluegel> optionen_;
-    std::unique_ptr<messgeraete> geraete_;
     einstellungspflege pflege_;
+    std::unique_ptr<messgeraete> geraete_;
 
 public:
     // What the wings hold. Who uses one includes its header.
@@ -115,9 +116,12 @@ public:
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;
+    bool einstellungen_speichern() override;
+    void einstellungen_uebernommen() override;
+    void hardware_starten() override;
+    void bestzeiten_laden() override;
+    void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
-    void optionen_verbinden();
-    void bestzeiten_verbinden();
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();
@@ -127,8 +131,6 @@ private:
     bool fahrerliste_speichern();
     /// Tells how many pictures were taken over, once they are kept.
     void bilder_melden(int anzahl, bool gespeichert);
-    /// The best times of the settings in force; a missing file shows its message.
-    void bestzeiten_laden();
 
     std::string bestzeiten_datei_;  ///< last one that was asked for
     bool programm_beendet_ = false;

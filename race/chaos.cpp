@@ -110,9 +110,9 @@ void chaos::loslassen_pruefen() {
 void chaos::chaos_umschalten() {
     if (!um_.zustand.chaos_aktiv) {
         pause_beginnen();
-    } else if (um_.einst.chaosampel_an && neustart_ampel) {
+    } else if (um_.einst.chaosampel_an && neustart_ampel != nullptr) {
         um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
-        neustart_ampel();
+        neustart_ampel->pause_beenden();
     } else if (!am_geraet_fortsetzen()) {
         chaosende_routine();
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "race/fruehstartstrafe.h"
 #include "race/rennablauf.h"
 #include "race/strafen.h"
@@ -9,10 +7,17 @@
 
 namespace tarvel {
 
+/// The light that ends a pause.
+class pausenampel {
+public:
+    virtual ~pausenampel() = default;
+    virtual void pause_beenden() = 0;
+};
+
 /// The pause: a driver or the race director halts the race, the power goes off and the clock stands still. The paused
 /// time comes off the clock and off each lane's lap, and a car that was still rolling over the sensor when the pause
 /// began gets its lap all the same.
-class chaos {
+class chaos final : public pausenteil {
 public:
     struct teile {
         rennablauf& ablauf;
@@ -23,13 +28,12 @@ public:
 
     chaos(const renn_umgebung& um, const teile& t);
 
-    /// Runs the light that ends a pause; empty without one.
-    std::function<void()> neustart_ampel;
+    pausenampel* neustart_ampel = nullptr;  ///< null without one
 
     /// For a new race.
-    void zuruecksetzen();
+    void zuruecksetzen() override;
     /// The trigger tests of the race tick.
-    void pruefen();
+    void pruefen() override;
     /// The chaos key: like the button, and in place of a switch it turns the switch over.
     void taste();
     /// Begins a pause, or ends the one that is.

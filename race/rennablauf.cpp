@@ -66,7 +66,7 @@ void rennablauf::rennen_zuruecksetzen() {
     t_.ansicht.anzeigen_leeren();
     t_.tank.zuruecksetzen();
     t_.sektor.zuruecksetzen();
-    pause.zuruecksetzen();
+    pause->zuruecksetzen();
     t_.plaetze.aufstellen();
     t_.uhr.zuruecksetzen();
 }
@@ -185,7 +185,7 @@ void rennablauf::renntimer_tick() {
     }
     t_.sektor.sektoren_auswerten();
     t_.sensoren.soundsensoren_pruefen();
-    pause.pruefen();
+    pause->pruefen();
     if (zustand.rennen_beendet) {
         return;
     }

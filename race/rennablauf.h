@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "race/blinken.h"
 #include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
@@ -14,6 +12,14 @@
 #include "race/umgebung.h"
 
 namespace tarvel {
+
+/// What the pauses do in the race's life; they need the race themselves.
+class pausenteil {
+public:
+    virtual ~pausenteil() = default;
+    virtual void zuruecksetzen() = 0;
+    virtual void pruefen() = 0;
+};
 
 /// The life of one race: window, reset, start, and the order of work in its ticks.
 class rennablauf {
@@ -31,15 +37,9 @@ public:
         soundsensoren& sensoren;
     };
 
-    /// What the pauses do in the race's life; they need the race themselves.
-    struct pausenteil {
-        std::function<void()> zuruecksetzen;
-        std::function<void()> pruefen;
-    };
-
     rennablauf(const renn_umgebung& um, const teile& t);
 
-    pausenteil pause;
+    pausenteil* pause = nullptr;  ///< set before the first race
 
     /// Load handler of the race window.
     void laden();

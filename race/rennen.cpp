@@ -43,14 +43,15 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
       fenster(umgebung, {ablauf, ansicht, befehle}) {
-    ablauf.pause = {[this] { chaos.zuruecksetzen(); }, [this] { chaos.pruefen(); }};
-    ende.laufendes_beenden = [this] {
-        fruehstartstrafe.beenden();
-        fortsetzung.zuruecknehmen();
-        chaos.aufheben();
-        zaehlung.runden_auswerten();  // who crossed the line while the pause began
-        tanken.beenden();
-    };
+    ablauf.pause = &chaos;
+    ende.abschluss = this;
+}
+
+void rennen::laufendes_beenden() {
+    fortsetzung.zuruecknehmen();
+    chaos.aufheben();
+    zaehlung.runden_auswerten();  // who crossed the line while the pause began
+    tanken.beenden();
 }
 
 }  // namespace tarvel

@@ -36,7 +36,7 @@ private:
 };
 
 /// The race with all its parts. What it works on beside them is owned by the program.
-struct rennen {
+struct rennen final : private rennabschluss {
     struct umfeld {
         renn_parameter& param;
         const einstellungen& einst;
@@ -80,6 +80,9 @@ struct rennen {
     tarvel::fortsetzung fortsetzung;
     rennbefehle befehle;
     rennfenster fenster;
+
+private:
+    void laufendes_beenden() override;
 };
 
 }  // namespace tarvel

@@ -153,7 +153,7 @@ void rennende::rennende_ablauf() {
         uhr_.tausendstel_auf_null();
     }
     um_.sounds.spielen(sound::rennen_beendet);
-    laufendes_beenden();
+    abschluss->laufendes_beenden();
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
     um_.fenster.entladen(fenstername::Form2);  // a very short race ends before its start light goes

@@ -1,19 +1,23 @@
 #pragma once
 
-#include <functional>
-
 #include "race/rennuhr.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
+
+/// What the race ends in the middle of: a pause, a penalty.
+class rennabschluss {
+public:
+    virtual ~rennabschluss() = default;
+    virtual void laufendes_beenden() = 0;
+};
 
 /// Decides when a race is over and hands it to the result window.
 class rennende {
 public:
     rennende(const renn_umgebung& um, rennuhr& uhr) : um_(um), uhr_(uhr) {}
 
-    /// Clears away what the race ends in the middle of: a pause, a penalty.
-    std::function<void()> laufendes_beenden;
+    rennabschluss* abschluss = nullptr;  ///< set before the first race
 
     /// Fresh flags for a new race.
     void zuruecksetzen();

@@ -217,9 +217,7 @@ void beste_zeiten_fenster::speichern() {
         return;  // all entries stay, for another attempt
     }
     um_.bestzeiten = neu;
-    if (gespeichert) {
-        gespeichert();
-    }
+    um_.folgen.bestzeiten_geaendert();
     schliessen();
 }
 

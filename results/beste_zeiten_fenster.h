@@ -45,6 +45,7 @@ public:
         plattform::meldungen& meldungen;
         const plattform::kalender& kalender;
         tarvel::bestzeiten& bestzeiten;
+        bestzeitfolgen& folgen;
     };
 
     beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber);
@@ -75,8 +76,6 @@ public:
 
     /// The lane's value would be saved now.
     bool wird_gespeichert(int spur) const;
-    /// The table has changed.
-    std::function<void()> gespeichert;
 
 private:
     void eingangswerte_zeigen();

@@ -74,6 +74,13 @@ void k_ampel::laden() {
     }
 }
 
+void k_ampel::pause_beenden() {
+    if (!um_.fenster.ist_offen(kennung())) {
+        um_.fenster.zeigen(kennung());
+    }
+    beginnen();
+}
+
 void k_ampel::entladen() {
     um_.teil_von->von_selbst_starten(false);
     zeitgeber_aus();

@@ -12,7 +12,7 @@ namespace tarvel {
 
 /// The small start light of a race that goes on rather than begins: after a pause, or after the result window. Three
 /// reds, then green; no false starts here.
-class k_ampel final : public fensterlogik {
+class k_ampel final : public fensterlogik, public pausenampel {
 public:
     k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber);
 
@@ -30,6 +30,8 @@ public:
     bool escape_schliesst() const override { return false; }
     /// The light begins, if it has not yet.
     void beginnen() { Command1.klicken(); }
+    /// The same behind a pause, also if its window is not there yet.
+    void pause_beenden() override;
     /// The race behind the light pauses: its window keeps the keys.
     bool in_pause() const { return um_.zustand.chaos_aktiv; }
 

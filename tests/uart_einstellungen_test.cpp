@@ -8,11 +8,10 @@ namespace {
 
 using u = uart_einstellungen;
 
-class UartEinstellungen : public test::ProgrammProbe {
+class UartEinstellungen : public test::ProgrammProbe, private geraetezugang {
 protected:
-    UartEinstellungen() {
-        w.geraet_trennen = [this] { journal += "getrennt "; };
-        w.geraet_verbinden = [this] { journal += "verbunden "; };
+    UartEinstellungen() : merken_(*w.zugang) {
+        w.zugang = this;
         t.maschine.anschluesse.da = {1, 3};
     }
     void oeffnen() {
@@ -42,6 +41,13 @@ protected:
     static constexpr zeit_ms at_bootzeit = 3000;
     u& w = t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen;
     std::string journal;
+
+private:
+    void geraet_trennen() override { journal += "getrennt "; }
+    void geraet_verbinden() override { journal += "verbunden "; }
+    bool einstellungen_speichern() override { return merken_.einstellungen_speichern(); }
+
+    geraetezugang& merken_;  ///< of the device that the window has in the program
 };
 
 TEST_F(UartEinstellungen, NeuerPortIstDerDesGeraets) {

@@ -2,6 +2,8 @@
 
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
+#include "programm/fluegel.h"
+#include "programm/messgeraete.h"
 #include "programm/programm.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
@@ -56,28 +58,6 @@ public:
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
-};
-UpdateFenster update_form;
-Form1Fenster form1;
-Form3Fenster form3;
-Bahn1Fenster bahn1;
-Form2Fenster form2;
-KAmpelFenster k_ampel;
-AuswertungFenster auswertung;
-SpeichernFenster rundenspeichern;
-BestzeitenFenster bestzeiten;
-TastaturFenster tastatur;
-CuFenster cu;
-SpeichernFenster speichern;
-EinstellungenFenster einstellungen;
-BestzeitverwaltungFenster bestzeitverwaltung;
-UartEinstellungenFenster uart_einstellungen;
-UartProfildateiFenster uart_profildatei;
-BildwahlFenster bildwahl;
-SpeichernFenster fahrerspeichern;
-
-private:
-programm& p_;
 };
 
 }  // namespace tarvel::ui

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "programm/programm.h"
+#include "results/einzelrennen.h"
 
 namespace tarvel::test {
 

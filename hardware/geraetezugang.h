@@ -1,0 +1,21 @@
+#pragma once
+
+namespace tarvel {
+
+/// What the window of a device needs of the device that is in the race: its port, and that its settings are kept.
+class geraetezugang {
+public:
+    geraetezugang() = default;
+    geraetezugang(const geraetezugang&) = delete;
+    geraetezugang& operator=(const geraetezugang&) = delete;
+    virtual ~geraetezugang() = default;
+
+    /// The window needs the port.
+    virtual void geraet_trennen() = 0;
+    /// It is free again.
+    virtual void geraet_verbinden() = 0;
+    /// False if the settings could not be kept.
+    virtual bool einstellungen_speichern() = 0;
+};
+
+}  // namespace tarvel
