@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/pakete.sh
-pakete_sicherstellen "${PAKETE_WINDOWS[@]}"
+pakete_sicherstellen --no-install-recommends "${PAKETE_WINDOWS[@]}"
 
 cmake --preset mingw >/dev/null
 cmake --build --preset mingw
