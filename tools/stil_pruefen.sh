@@ -30,10 +30,12 @@ cmake --preset debug -B build/stil -DTARVEL_BENCHMARKS=OFF -DTARVEL_VORKOMPILIER
 # many states, a tenth of its own limit: beyond that it takes minutes and finds nothing new. Says nothing of a clean file;
 # a checker that crashes has not checked.
 datei_pruefen() {
-    local datei=$1 ausgabe ende=0 arten=()
-    case $datei in */stil/tests/*) arten=(--config-file=tests/.clang-tidy) ;; esac
-    ausgabe=$(clang-tidy -p build/stil --quiet "${arten[@]}" --extra-arg=-Wno-unknown-warning-option \
-        --extra-arg=-Xclang --extra-arg=-analyzer-opt-analyze-headers \
+    local datei=$1 ausgabe ende=0 wahl=()
+    if [[ $datei = */Unity/* ]]; then
+        wahl+=(--extra-arg=-Xclang --extra-arg=-analyzer-opt-analyze-headers)
+        ! grep -q "#include \"$PWD/tests/" "$datei" || wahl+=(--config-file=tests/.clang-tidy)
+    fi
+    ausgabe=$(clang-tidy -p build/stil --quiet "${wahl[@]}" --extra-arg=-Wno-unknown-warning-option \
         --extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang --extra-arg=max-nodes=20000 "$datei" 2>&1) ||
         ende=$?
     [ "$ende" -ne 0 ] || return 0
@@ -42,7 +44,9 @@ datei_pruefen() {
 }
 export -f datei_pruefen
 
-# the largest first, so that both cores end together
-for ordner in "${@:-}"; do
-    find "build/stil/$ordner" -path '*/Unity/*.cxx' -printf '%s %p\0'
-done | sort -zrn | cut -zd' ' -f2- | xargs -0 -P 2 -n 1 bash -c 'datei_pruefen "$1"' datei_pruefen
+# The joint ones first, and of them the largest: so both cores end together. What the build makes itself ends in .cpp too.
+ordner=$(IFS='|' && echo "${*:-.*}")
+sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\?\$|\1|p" build/stil/compile_commands.json | sort -u |
+    grep -v '^build/.*\.cpp$' | grep -E "^(build/stil/)?($ordner)/" |
+    xargs stat -c '%s %n' | awk '/Unity/ { $1 *= 100 } { print }' | sort -rn | cut -d' ' -f2 |
+    xargs -P 2 -n 1 bash -c 'datei_pruefen "$1"' datei_pruefen
