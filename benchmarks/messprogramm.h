@@ -10,6 +10,13 @@
 
 namespace messung {
 
+/// Takes no lock: an installed program may run meanwhile, and nobody may be there to answer its question.
+class eigener_prozess final : public tarvel::plattform::prozess {
+public:
+    bool ist_einzige_instanz() override { return true; }
+    void beenden() override { QCoreApplication::exit(); }
+};
+
 /// The real program with its windows, in a program folder of its own. Needs a QApplication.
 struct messprogramm {
     /// Starts it and chooses all six lanes.
@@ -29,8 +36,16 @@ struct messprogramm {
     QTemporaryDir ordner;
     std::filesystem::path programmordner{ordner.path().toStdU16String()};
     tarvel::qt::QtDienste maschine{programmordner};
-    tarvel::programm p{maschine.dienste()};
+    eigener_prozess prozess;
+    tarvel::programm p{eigene_dienste()};
     tarvel::ui::Oberflaeche oberflaeche{p};
+
+private:
+    tarvel::plattform::dienste eigene_dienste() {
+        const tarvel::plattform::dienste d = maschine.dienste();
+        return {d.uhr,        d.zeitgeber, d.meldungen, d.klang,       d.kalender,
+                d.bildschirm, prozess,     d.zufall,    d.serienports, d.programmordner};
+    }
 };
 
 }  // namespace messung

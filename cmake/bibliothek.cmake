@@ -16,6 +16,9 @@ function(tarvel_einstellen ziel)
     target_compile_options(${ziel} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${ziel} PRIVATE -fsanitize=address,undefined)
   endif()
+  if(TARVEL_VERBUND)
+    tarvel_verbund(${ziel})
+  endif()
 endfunction()
 
 # tarvel_bibliothek(<folder> QUELLEN <files> NUTZT <libraries>): the library of one folder; includes start at the checkout's root.

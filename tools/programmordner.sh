@@ -7,7 +7,8 @@ cd "$(dirname "$0")/.."
 pakete_sicherstellen "${PAKETE_BAU[@]}"
 
 # A newer compiler may know new warnings; they must not keep anybody from racing.
-cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" >/dev/null
+cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" \
+    -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
 cmake --build --preset release --target tarvel cu_simulator at2560_simulator
 
 mkdir -p Tarvel

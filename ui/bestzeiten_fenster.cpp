@@ -16,7 +16,7 @@ constexpr int zeichen_groesse = 26;
 constexpr QMargins block_rand(22, 8, 12, 8);
 
 /// A card with a frame in the colour of its lane.
-class Spurblock : public QWidget {
+class Spurzeiten : public QWidget {
 public:
     using QWidget::QWidget;
     void setFarbe(const QColor& farbe) {
@@ -101,7 +101,7 @@ QWidget* BestzeitenFenster::kopfzeile() {
 QWidget* BestzeitenFenster::spurblock(int spur) {
     const std::size_t i = feld_index(spur);
     const QString nummer = "_" + QString::number(i);
-    auto* block = new Spurblock(this);
+    auto* block = new Spurzeiten(this);
     spalten(block, {binder().kasten(logik_.spur_chk.at(i), "spur_chk" + nummer),
                     binder().zeile(logik_.btext_name.at(i), "btext_name" + nummer),
                     binder().zeile(logik_.btext_kfz.at(i), "btext_kfz" + nummer),

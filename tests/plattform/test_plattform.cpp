@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "core/ordnerblick.h"
+
 namespace fs = std::filesystem;
 
 namespace tarvel::test {
@@ -110,17 +112,17 @@ bool test_plattform::fragen(std::string_view text, std::string_view titel) {
 }
 
 std::string test_plattform::datei_lesen(const std::string& name) const {
-    std::ifstream datei(ordner_ / name, std::ios::binary);
+    std::ifstream datei(ordner_ / pfad_aus_utf8(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(datei), {}};
 }
 
 void test_plattform::datei_schreiben(const std::string& name, const std::string& bytes) const {
-    fs::create_directories((ordner_ / name).parent_path());
-    std::ofstream(ordner_ / name, std::ios::binary) << bytes;
+    fs::create_directories((ordner_ / pfad_aus_utf8(name)).parent_path());
+    std::ofstream(ordner_ / pfad_aus_utf8(name), std::ios::binary) << bytes;
 }
 
 bool test_plattform::datei_da(const std::string& name) const {
-    return fs::exists(ordner_ / name);
+    return fs::exists(ordner_ / pfad_aus_utf8(name));
 }
 
 }  // namespace tarvel::test
