@@ -127,6 +127,9 @@ void programm::bestzeiten_laden() {
 void programm::bestzeiten_geaendert() {
     bestzeiten_datei_ = einst.beste_datei;
     form1.beste_zeiten_anzeigen();
+    if (fenster.ist_offen(fenstername::einstellungen)) {
+        einstellungsfenster.bestzeiten_zeigen();
+    }
 }
 
 void programm::bilder_melden(int anzahl, bool gespeichert) {
