@@ -98,7 +98,7 @@ void fruehstart::fruehstart_abbruch() {
     for (const int spur : alle_spuren) {
         strafen_.spur_strom_aus(spur);
     }
-    start_abbrechen();
+    folgen_.start_abbrechen();
 }
 
 void fruehstart::fruehstart_disqualifikation() {
@@ -115,7 +115,7 @@ void fruehstart::fruehstart_strom() {
     je_frueher_spur([this](int spur) {
         ueberfahrt_zaehlen(spur);
         stand_[spur].gemeldet = true;
-        strom_unterbrechen(spur);
+        folgen_.strom_unterbrechen(spur);
     });
 }
 

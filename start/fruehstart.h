@@ -1,23 +1,31 @@
 #pragma once
 
-#include <functional>
-
 #include "core/spuren.h"
 #include "race/strafen.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
 
+/// What a false start brings about in the start that runs.
+class fruehstartfolgen {
+public:
+    fruehstartfolgen() = default;
+    fruehstartfolgen(const fruehstartfolgen&) = delete;
+    fruehstartfolgen& operator=(const fruehstartfolgen&) = delete;
+    virtual ~fruehstartfolgen() = default;
+
+    /// Cuts the power of a lane within the next turn of the loop.
+    virtual void strom_unterbrechen(int spur) = 0;
+    /// The whole start is off.
+    virtual void start_abbrechen() = 0;
+};
+
 /// Watches the sensors for cars that move before green, and does to their lanes what the settings say. Lanes that are
 /// not in the race are watched too.
 class fruehstart {
 public:
-    fruehstart(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {}
-
-    /// Cuts the power of a lane within the next turn of the loop.
-    std::function<void(int spur)> strom_unterbrechen;
-    /// The whole start is off.
-    std::function<void()> start_abbrechen;
+    fruehstart(const renn_umgebung& um, strafen& s, fruehstartfolgen& folgen)
+        : um_(um), strafen_(s), folgen_(folgen) {}
 
     /// For a new start: nobody has moved, and only edges from here on count.
     void zuruecksetzen();
@@ -51,6 +59,7 @@ private:
 
     renn_umgebung um_;
     strafen& strafen_;
+    fruehstartfolgen& folgen_;
     spuren<spur_stand> stand_;
     bool einer_ = false;  ///< any lane has moved
 };

@@ -35,7 +35,7 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
       r_(r),
       um_(r.umgebung),
       einst_(einst),
-      fruehstart_(r.umgebung, r.strafen) {
+      fruehstart_(r.umgebung, r.strafen, *this) {
     const auto kette = [&](dauer_ms dauer, auto tick) {
         auto neu = zeitgeber.erzeugen(zeitgeber_art::zaehlend, dauer);
         neu->bei_tick = std::move(tick);
@@ -68,8 +68,6 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
     for (const int spur : alle_spuren) {
         stw_[spur] = kette(1ms, [this, spur] { strom_tick(spur); });
     }
-    fruehstart_.strom_unterbrechen = [this](int spur) { stw_[spur]->an(); };
-    fruehstart_.start_abbrechen = [this] { start_abbrechen(); };
     fenster.abbrampel.bei_klick = [this] { abbrampel_klick(); };
 }
 

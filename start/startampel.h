@@ -15,7 +15,7 @@ namespace tarvel {
 /// The window between the prepared and the running race: shows the start light, switches the real lamps, looks out for
 /// false starts and starts the race at green. A chain of one-shot timers: each switches itself off first and the next
 /// one on last, so the chain can be cut at any step.
-class startampel final : public fensterlogik {
+class startampel final : public fensterlogik, private fruehstartfolgen {
 public:
     startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_dienst& zeitgeber);
 
@@ -58,7 +58,8 @@ private:
     void fruehstart_tick();
     void strom_tick(int spur);
     void fruehstart_zeigen();
-    void start_abbrechen();
+    void strom_unterbrechen(int spur) override { stw_[spur]->an(); }
+    void start_abbrechen() override;
     void abbrampel_klick();
     void zeitgeber_aus();
     void nacht_umschalten();

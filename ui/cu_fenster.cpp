@@ -129,7 +129,7 @@ QWidget* CuFenster::codiergruppe() {
         raster->addWidget(eingabe, 1, spalte);
     }
     raster->setColumnStretch(4, 1);
-    raster->addWidget(binder().knopf(logik_.Command10, "Command10"), 1, 5);
+    raster->addWidget(binder().knopf(logik_.Command10, "Command10"), 2, 0, 1, 5, Qt::AlignRight);
     return kasten;
 }
 
