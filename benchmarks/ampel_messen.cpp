@@ -48,9 +48,9 @@ int main(int argc, char** argv) {
         return 1;
     }
     using ausgang = tarvel::schaltung::ausgang;
-    m.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
-    m.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
-    m.p.einst.fruehstart_strafzeit = 5s;
+    m.p.einst.start_ampel_modus = tarvel::ampelwahl::fuenf_rot_gruen;
+    m.p.einst.fruehstart_option = tarvel::fruehstart_aktion::stromunterbrechung;
+    m.p.einst.fruehstart_strafzeit = std::chrono::seconds(5);
     protokoll geraet;
     m.p.ausgaben.anschliessen(tarvel::ausgabe_platz::timekeeper, geraet);
     m.p.form1.Command1.klicken();

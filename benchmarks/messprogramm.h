@@ -26,7 +26,7 @@ struct messprogramm {
         if (!p.starten()) {
             return false;
         }
-        p.fenster.entladen(fenstername::Form3);
+        p.fenster.entladen(tarvel::fenstername::Form3);
         for (auto& spur : p.form1.spur) {
             spur.gesetzt(true);
         }
@@ -43,8 +43,8 @@ struct messprogramm {
 private:
     tarvel::plattform::dienste eigene_dienste() {
         const tarvel::plattform::dienste d = maschine.dienste();
-        return {d.uhr,        d.zeitgeber, d.meldungen, d.klang,       d.kalender,
-                d.bildschirm, prozess,     d.zufall,    d.serienports, d.programmordner};
+        return {d.uhr,    d.zeitgeber,   d.meldungen,    d.klang,       d.kalender,      d.bildschirm, prozess,
+                d.zufall, d.serienports, d.bibliotheken, d.druckerport, d.programmordner};
     }
 };
 

@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     tarvel::programm& p = m.p;
-    p.einst.start_ampel_modus = ampelwahl::keine;
+    p.einst.start_ampel_modus = tarvel::ampelwahl::keine;
     p.form1.Command1.klicken();
     p.rennen.bahn1.Command1.klicken();
 
