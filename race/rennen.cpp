@@ -48,6 +48,7 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
 }
 
 void rennen::laufendes_beenden() {
+    fruehstartstrafe.beenden();
     fortsetzung.zuruecknehmen();
     chaos.aufheben();
     zaehlung.runden_auswerten();  // who crossed the line while the pause began
