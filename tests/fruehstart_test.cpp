@@ -63,6 +63,20 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     EXPECT_EQ(t.p.einst.fruehstart_strafzeit, 5s);
 }
 
+TEST_F(Fruehstart, RennendeBeendetDieStromunterbrechung) {
+    t.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
+    t.p.einst.fruehstart_strafzeit = 5s;
+    beginnen(1);
+    t.maschine.laufen(4000);
+    t.p.startampel.taste('3');
+    bis_gruen(4000);
+    ASSERT_TRUE(rennen_laeuft());
+    t.maschine.laufen(2000);
+    t.p.rennen.ende.rennende_ablauf();
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(t.bahn().t_liste[2].zeilen().empty()) << "served into a race that is over";
+}
+
 TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
     for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler] :
          {std::tuple(0, 0, 0, true, "0"), {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
