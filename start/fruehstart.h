@@ -24,8 +24,7 @@ public:
 /// not in the race are watched too.
 class fruehstart {
 public:
-    fruehstart(const renn_umgebung& um, strafen& s, fruehstartfolgen& folgen)
-        : um_(um), strafen_(s), folgen_(folgen) {}
+    fruehstart(const renn_umgebung& um, strafen& s, fruehstartfolgen& folgen) : um_(um), strafen_(s), folgen_(folgen) {}
 
     /// For a new start: nobody has moved, and only edges from here on count.
     void zuruecksetzen();
