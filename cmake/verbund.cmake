@@ -1,5 +1,6 @@
 # tarvel_verbund(<target>): its files are compiled as few joint ones, which spares reading the same headers for each. A
-# name that two files have for themselves keeps them apart.
+# name that two files have for themselves keeps them apart, and so does a number of files that keeps one core waiting.
+set(TARVEL_VERBUND_DATEIEN 22)
 function(tarvel_verbund ziel)
   get_target_property(quellen ${ziel} SOURCES)
   set(gruppen 0)
@@ -15,7 +16,8 @@ function(tarvel_verbund ziel)
       list(REMOVE_ITEM gemeinsam "" ${namen_${gruppe}})
       list(LENGTH gemeinsam fremd)
       list(LENGTH namen alle)
-      if(fremd EQUAL alle)
+      list(LENGTH dateien_${gruppe} anzahl)
+      if(fremd EQUAL alle AND anzahl LESS TARVEL_VERBUND_DATEIEN)
         break()
       endif()
       math(EXPR gruppe "${gruppe} + 1")
