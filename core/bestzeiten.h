@@ -7,18 +7,14 @@
 
 #include "core/dateien.h"
 #include "core/spuren.h"
+#include "platform/schnittstelle.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
 
 /// What has to follow in the program when the best times are others.
-class bestzeitfolgen {
+class bestzeitfolgen : public schnittstelle {
 public:
-    bestzeitfolgen() = default;
-    bestzeitfolgen(const bestzeitfolgen&) = delete;
-    bestzeitfolgen& operator=(const bestzeitfolgen&) = delete;
-    virtual ~bestzeitfolgen() = default;
-
     /// The settings name the file: reads it; a missing one shows its message.
     virtual void bestzeiten_laden() = 0;
     /// The table has changed, and its file with it.

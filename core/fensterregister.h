@@ -5,6 +5,7 @@
 
 #include "core/fensternamen.h"
 #include "core/sprache.h"
+#include "platform/schnittstelle.h"
 
 namespace tarvel {
 
@@ -16,9 +17,8 @@ enum class anzeige_art {
 };
 
 /// The drawing side of the register.
-class fensteranzeige {
+class fensteranzeige : public schnittstelle {
 public:
-    virtual ~fensteranzeige() = default;
     /// Shows the window, or brings it to the front if it is on the screen.
     virtual void zeigen(fenstername name, anzeige_art art) = 0;
     virtual void verbergen(fenstername name) = 0;

@@ -5,6 +5,7 @@
 
 #include "core/einstellungen.h"
 #include "hardware/iow_bericht.h"
+#include "platform/schnittstelle.h"
 
 namespace tarvel {
 
@@ -26,9 +27,8 @@ struct schaltung {
 };
 
 /// A device that drives outputs. What it has no output for, it leaves alone.
-class ausgabe_geraet {
+class ausgabe_geraet : public schnittstelle {
 public:
-    virtual ~ausgabe_geraet() = default;
     virtual void schalten(const schaltung& befehl) = 0;
 };
 

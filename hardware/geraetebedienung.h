@@ -2,18 +2,15 @@
 
 #include <string>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel {
 
 class messgeraet;
 
 /// What a timing device asks of the operator's side.
-class geraetebedienung {
+class geraetebedienung : public schnittstelle {
 public:
-    geraetebedienung() = default;
-    geraetebedienung(const geraetebedienung&) = delete;
-    geraetebedienung& operator=(const geraetebedienung&) = delete;
-    virtual ~geraetebedienung() = default;
-
     /// A device boots (true), or is ready: meanwhile no race starts.
     virtual void wartehinweis(bool an) = 0;
     /// A race window opens without its device.

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel {
 
 /// What the window of a device needs of the device that is in the race: its port, and that its settings are kept.
-class geraetezugang {
+class geraetezugang : public schnittstelle {
 public:
-    geraetezugang() = default;
-    geraetezugang(const geraetezugang&) = delete;
-    geraetezugang& operator=(const geraetezugang&) = delete;
-    virtual ~geraetezugang() = default;
-
     /// The window needs the port.
     virtual void geraet_trennen() = 0;
     /// It is free again.

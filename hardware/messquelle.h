@@ -4,20 +4,16 @@
 #include <optional>
 #include <vector>
 
+#include "platform/schnittstelle.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
 
 /// A start light that the device runs itself: the race follows it.
-class geraeteampel {
+class geraeteampel : public schnittstelle {
 public:
     /// No light runs longer from its start key to green: a device that is still red then has not heard it.
     static constexpr zeit_ms laengste_ms = 15000;
-
-    geraeteampel() = default;
-    geraeteampel(const geraeteampel&) = delete;
-    geraeteampel& operator=(const geraeteampel&) = delete;
-    virtual ~geraeteampel() = default;
 
     /// The cars are stopped until its green.
     virtual bool rot() const = 0;
@@ -44,13 +40,8 @@ struct faehigkeiten {
 
 /// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device. Of what the
 /// race tells, a device overrides what it has a use for.
-class messquelle {
+class messquelle : public schnittstelle {
 public:
-    messquelle() = default;
-    messquelle(const messquelle&) = delete;
-    messquelle& operator=(const messquelle&) = delete;
-    virtual ~messquelle() = default;
-
     /// Each `renntimer2` tick: reads the device and delivers.
     virtual void abfragen() {}
     /// Each `renntimer3` tick: takes a sample, for devices without an event of their own.

@@ -1,17 +1,13 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
 
 /// What a timing device asks of the race, and tells it beside its events.
-class rennverbindung {
+class rennverbindung : public schnittstelle {
 public:
-    rennverbindung() = default;
-    rennverbindung(const rennverbindung&) = delete;
-    rennverbindung& operator=(const rennverbindung&) = delete;
-    virtual ~rennverbindung() = default;
-
     /// The race window waits for a start, and nothing of a race runs behind it.
     virtual bool rennen_ruht() const = 0;
     /// A race runs and is not paused.

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel {
 
 /// What has to follow in the program when the options have changed something.
-class optionsfolgen {
+class optionsfolgen : public schnittstelle {
 public:
-    optionsfolgen() = default;
-    optionsfolgen(const optionsfolgen&) = delete;
-    optionsfolgen& operator=(const optionsfolgen&) = delete;
-    virtual ~optionsfolgen() = default;
-
     /// Writes the current settings file; false after a failure.
     virtual bool einstellungen_speichern() = 0;
     /// New values are in force: lists, colours, pictures of the main window.

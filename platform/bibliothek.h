@@ -3,17 +3,14 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// A library of a device's vendor, loaded at run time; it stays loaded while this lives.
-class bibliothek {
+class bibliothek : public schnittstelle {
 public:
     using ruf = void (*)();
-
-    bibliothek() = default;
-    bibliothek(const bibliothek&) = delete;
-    bibliothek& operator=(const bibliothek&) = delete;
-    virtual ~bibliothek() = default;
 
     /// By its published call name; null if the library has none such.
     virtual ruf finden(const char* name) const = 0;
@@ -25,9 +22,8 @@ public:
     }
 };
 
-class bibliothek_dienst {
+class bibliothek_dienst : public schnittstelle {
 public:
-    virtual ~bibliothek_dienst() = default;
     /// `name` without prefix and suffix; null if the machine has no such library.
     virtual std::unique_ptr<bibliothek> laden(std::string_view name) = 0;
 };

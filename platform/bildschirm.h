@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 struct groesse_px {
@@ -7,9 +9,8 @@ struct groesse_px {
     int hoehe = 0;
 };
 
-class bildschirm {
+class bildschirm : public schnittstelle {
 public:
-    virtual ~bildschirm() = default;
     /// The whole screen that the windows open on.
     virtual groesse_px groesse() const = 0;
 };

@@ -3,16 +3,13 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// The registers of the parallel port. A machine without one, or that lets nobody at it, has none of them.
-class druckerport {
+class druckerport : public schnittstelle {
 public:
-    druckerport() = default;
-    druckerport(const druckerport&) = delete;
-    druckerport& operator=(const druckerport&) = delete;
-    virtual ~druckerport() = default;
-
     /// The byte at this address, 0 to 0xFFFF; none if it cannot be read.
     virtual std::optional<std::uint8_t> lesen(int adresse) = 0;
     /// False if it cannot be written.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// Local date and time of day.
@@ -12,9 +14,8 @@ struct datum_uhrzeit {
     int sekunde = 0;
 };
 
-class kalender {
+class kalender : public schnittstelle {
 public:
-    virtual ~kalender() = default;
     virtual datum_uhrzeit jetzt() const = 0;
 };
 

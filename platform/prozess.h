@@ -1,10 +1,11 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
-class prozess {
+class prozess : public schnittstelle {
 public:
-    virtual ~prozess() = default;
     /// False if this user already runs the program; the first call decides for the life of the process.
     virtual bool ist_einzige_instanz() = 0;
     /// Leaves the event loop.

@@ -5,16 +5,13 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// One serial port. Ports are named by their COM number.
-class serienport {
+class serienport : public schnittstelle {
 public:
-    serienport() = default;
-    serienport(const serienport&) = delete;
-    serienport& operator=(const serienport&) = delete;
-    virtual ~serienport() = default;
-
     /// Closes what was open. `nummer` counts from 1; `werte` are baud rate, parity letter, data bits and stop bits as
     /// in "19200,N,8,1". False if the port is not there, in use, or the values make no sense.
     virtual bool oeffnen(int nummer, std::string_view werte) = 0;
@@ -30,9 +27,8 @@ public:
     std::function<void()> bei_verlust;
 };
 
-class serienport_dienst {
+class serienport_dienst : public schnittstelle {
 public:
-    virtual ~serienport_dienst() = default;
     virtual std::unique_ptr<serienport> erzeugen() = 0;
     /// COM numbers of the ports that are there now, in ascending order.
     virtual std::vector<int> vorhandene() const = 0;

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel {
 
 /// Time stamps and durations: whole milliseconds of the active time source, never a time of day.
@@ -10,9 +12,8 @@ using zeit_ms = std::int64_t;
 namespace plattform {
 
 /// The machine's monotonic millisecond counter (GetTickCount). It starts at an arbitrary value.
-class uhr {
+class uhr : public schnittstelle {
 public:
-    virtual ~uhr() = default;
     virtual zeit_ms jetzt() const = 0;
 };
 

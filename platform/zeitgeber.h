@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/dauer.h"
+#include "platform/schnittstelle.h"
 
 namespace tarvel::plattform {
 
@@ -14,13 +15,8 @@ enum class zeitgeber_art {
 
 /// A periodic timer. A sequence of steps is a chain of timers: a tick first switches its own timer off and last the
 /// next one on.
-class zeitgeber {
+class zeitgeber : public schnittstelle {
 public:
-    zeitgeber() = default;
-    zeitgeber(const zeitgeber&) = delete;
-    zeitgeber& operator=(const zeitgeber&) = delete;
-    virtual ~zeitgeber() = default;
-
     /// A timer with an interval below 1 ms never fires. Changing it starts the running interval anew.
     virtual void intervall(dauer_ms dauer) = 0;
     /// Switching on a running timer changes nothing.
@@ -31,9 +27,8 @@ public:
     std::function<void()> bei_tick;
 };
 
-class zeitgeber_dienst {
+class zeitgeber_dienst : public schnittstelle {
 public:
-    virtual ~zeitgeber_dienst() = default;
     virtual std::unique_ptr<zeitgeber> erzeugen(zeitgeber_art art, dauer_ms intervall) = 0;
 };
 

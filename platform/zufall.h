@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// Chance.
-class zufall {
+class zufall : public schnittstelle {
 public:
-    virtual ~zufall() = default;
     /// From 0 up to below 1.
     virtual double bruchteil() = 0;
 };

@@ -6,19 +6,15 @@
 
 #include "core/einstellungsdatei.h"
 #include "hardware/tastenbelegung.h"
+#include "platform/schnittstelle.h"
 
 namespace tarvel {
 
 class speichernfenster;
 
 /// What has to follow settings that were loaded.
-class einstellungsfolgen {
+class einstellungsfolgen : public schnittstelle {
 public:
-    einstellungsfolgen() = default;
-    einstellungsfolgen(const einstellungsfolgen&) = delete;
-    einstellungsfolgen& operator=(const einstellungsfolgen&) = delete;
-    virtual ~einstellungsfolgen() = default;
-
     /// `im_betrieb`: the operator has loaded them, not the start.
     virtual void einstellungen_geladen(bool im_betrieb) = 0;
 };

@@ -5,6 +5,7 @@
 
 #include "hardware/messgeraet.h"
 #include "platform/dienste.h"
+#include "platform/schnittstelle.h"
 
 namespace tarvel {
 
@@ -35,13 +36,8 @@ struct geraete_umgebung {
 };
 
 /// A device in the program, and what only it brings: its windows, the commands that open them.
-class geraeteverdrahtung {
+class geraeteverdrahtung : public schnittstelle {
 public:
-    geraeteverdrahtung() = default;
-    geraeteverdrahtung(const geraeteverdrahtung&) = delete;
-    geraeteverdrahtung& operator=(const geraeteverdrahtung&) = delete;
-    virtual ~geraeteverdrahtung() = default;
-
     virtual messgeraet& geraet() = 0;
     /// The program ends: its windows close for good.
     virtual void beenden() {}

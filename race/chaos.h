@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
 #include "race/fruehstartstrafe.h"
 #include "race/rennablauf.h"
 #include "race/strafen.h"
@@ -8,9 +9,8 @@
 namespace tarvel {
 
 /// The light that ends a pause.
-class pausenampel {
+class pausenampel : public schnittstelle {
 public:
-    virtual ~pausenampel() = default;
     virtual void pause_beenden() = 0;
 };
 

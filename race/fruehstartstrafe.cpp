@@ -52,7 +52,6 @@ void fruehstartstrafe::zeit_tick() {
     if (++verbuesst_ < um_.einst.fruehstart_strafzeit) {
         return;
     }
-    um_.ausgaben.bericht.schreiben();
     for (const int spur : alle_spuren) {
         if (gesperrt(spur)) {
             strafen_.spur_strom_an(spur);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
 #include "race/blinken.h"
 #include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
@@ -14,9 +15,8 @@
 namespace tarvel {
 
 /// What the pauses do in the race's life; they need the race themselves.
-class pausenteil {
+class pausenteil : public schnittstelle {
 public:
-    virtual ~pausenteil() = default;
     virtual void zuruecksetzen() = 0;
     virtual void pruefen() = 0;
 };

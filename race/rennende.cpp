@@ -157,6 +157,8 @@ void rennende::rennende_ablauf() {
     zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     ausgaben_endzustand();
     um_.fenster.entladen(fenstername::Form2);  // a very short race ends before its start light goes
+    zustand.rennen_beendet = true;
+    zustand.chaos_aktiv = false;
     um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "platform/schnittstelle.h"
 #include "race/rennuhr.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
 
 /// What the race ends in the middle of: a pause, a penalty.
-class rennabschluss {
+class rennabschluss : public schnittstelle {
 public:
-    virtual ~rennabschluss() = default;
     virtual void laufendes_beenden() = 0;
 };
 

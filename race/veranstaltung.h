@@ -5,6 +5,7 @@
 
 #include "core/fensternamen.h"
 #include "platform/dauer.h"
+#include "platform/schnittstelle.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
@@ -29,17 +30,12 @@ struct selbstlauf {
 };
 
 /// What becomes of the race whose result is taken.
-enum class weitergang { noch_einmal, verlassen };
+enum class weitergang { wiederholen, neu_starten, fortsetzen, verlassen };
 
 /// What a race is part of: a race of its own, a training, the list of a day, an evening of many races. The race and its
 /// result window ask it what is allowed and where they lead, and nothing else tells the kinds of evening apart.
-class veranstaltung {
+class veranstaltung : public schnittstelle {
 public:
-    veranstaltung() = default;
-    veranstaltung(const veranstaltung&) = delete;
-    veranstaltung& operator=(const veranstaltung&) = delete;
-    virtual ~veranstaltung() = default;
-
     virtual starter wer_startet() const { return starter::bediener; }
     /// The result window goes on by itself, and so must the start that follows; false once it has.
     virtual void von_selbst_starten(bool /*an*/) {}

@@ -61,9 +61,6 @@ void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
 }
 
 void auswertung::laden() {
-    renn_zustand& zustand = um_.zustand;
-    zustand.rennen_beendet = true;
-    zustand.chaos_aktiv = false;
     if (!um_.einst.zielmodus_erster) {
         um_.zeitgeber.rennen_aus();
     } else if (um_.einst.sensor_timeout > 0ms && um_.zeitgeber.renntimer->laeuft()) {
@@ -75,7 +72,7 @@ void auswertung::laden() {
     zieltimer_->an();
     texte_lesen();
     ansagen_setzen();
-    if (!zustand.fortgesetzt) {
+    if (!um_.zustand.fortgesetzt) {
         u_.stand.zuruecksetzen();
         anzeige_modus_.fill(anzeige::zeit);
     }

@@ -87,7 +87,7 @@ public:
     std::function<void()> drucken;
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
-    /// Ends the race for the lap engine and shows the standing.
+    /// Counts late crossings and shows the standing.
     void laden() override;
     void entladen() override;
     /// Everything anew from the race record.

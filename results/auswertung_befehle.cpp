@@ -77,7 +77,6 @@ void auswertung::anzeige_weiterschalten(std::size_t i) {
 void auswertung::Command6_klick() {
     if (meter_eingabe_an_) {
         meter_eingabe_uebernehmen();
-        auswertung_anzeigen();
     } else {
         verlauf_zeigen(false);
         meter_eingabe(true);
@@ -120,6 +119,7 @@ void auswertung::meter_eingabe_uebernehmen() {
         }
         eingabe.text("0");
     }
+    auswertung_anzeigen();
     meter_eingabe(false);
 }
 
@@ -196,7 +196,7 @@ void auswertung::wechselschema_anwenden() {
 }
 
 void auswertung::cmd1_fortsetzung() {
-    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
+    if (!ergebnis_abgeben(weitergang::wiederholen)) {
         return;
     }
     rennen_verlassen();
@@ -205,7 +205,7 @@ void auswertung::cmd1_fortsetzung() {
 }
 
 void auswertung::cmd2_fortsetzung() {
-    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
+    if (!ergebnis_abgeben(weitergang::neu_starten)) {
         return;
     }
     rennen_verlassen();
@@ -258,7 +258,7 @@ void auswertung::cmd3_fortsetzung() {
     if (!ziel_pruefen(ziel)) {
         return;
     }
-    if (!ergebnis_abgeben(weitergang::noch_einmal)) {
+    if (!ergebnis_abgeben(weitergang::fortsetzen)) {
         return;
     }
     rennen_verlassen();

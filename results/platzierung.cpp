@@ -50,9 +50,9 @@ constexpr platz_werte werte_inaktiv{false, -2, -100.0, 999999999, beste_inaktiv}
 platz_werte werte_von(const rennergebnis::spur& spur, sortier_modus modus) {
     const double meter = std::max(zahl_lesen(zahl_fest(spur.meter, '.')), 0.0);  // what is shown decides
     const int runden = static_cast<int>(spur.runden.size()) - 1;  // -1 is behind who has crossed the line
-    // out: no lap, and so no fast one either
+    // out: no lap, and so no fast one either; nor does a lap of a quarter of an hour fall behind who was not there
     const bool ohne_beste = spur.disqualifiziert && modus == sortier_modus::beste;
-    return {true, runden, meter, spur.gesamtzeit, ohne_beste ? beste_inaktiv : spur.beste};
+    return {true, runden, meter, spur.gesamtzeit, ohne_beste ? beste_inaktiv : std::min(spur.beste, beste_inaktiv)};
 }
 
 }  // namespace

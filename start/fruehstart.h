@@ -1,19 +1,15 @@
 #pragma once
 
 #include "core/spuren.h"
+#include "platform/schnittstelle.h"
 #include "race/strafen.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
 
 /// What a false start brings about in the start that runs.
-class fruehstartfolgen {
+class fruehstartfolgen : public schnittstelle {
 public:
-    fruehstartfolgen() = default;
-    fruehstartfolgen(const fruehstartfolgen&) = delete;
-    fruehstartfolgen& operator=(const fruehstartfolgen&) = delete;
-    virtual ~fruehstartfolgen() = default;
-
     /// Cuts the power of a lane within the next turn of the loop.
     virtual void strom_unterbrechen(int spur) = 0;
     /// The whole start is off.

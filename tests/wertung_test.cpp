@@ -1,5 +1,6 @@
 #include "results/wertung.h"
 
+#include "results/platzierung.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -113,6 +114,20 @@ protected:
     }
     auswertung& a = t.p.auswertung;
 };
+
+TEST(Wertung, LangsameRundeFaelltNichtHinterFreieSpurenZurueck) {
+    rennergebnis e;
+    e.wertung = sortier_modus::beste;
+    for (const int nummer : {3, 5}) {
+        rennergebnis::spur& s = e.spuren.emplace_back();
+        s.nummer = nummer;
+        s.runden.resize(nummer == 3 ? 4 : 3);
+        s.beste = s.gesamtzeit = 1100000;
+    }
+    platzieren(e);
+    EXPECT_EQ(e.spuren[0].platz, 1);
+    EXPECT_EQ(e.spuren[1].platz, 2);
+}
 
 TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
     t.starten("Zeit", "1", {1, 2});
