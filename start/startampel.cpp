@@ -343,11 +343,7 @@ void startampel::entladen() {
     for (const auto& unterbrechung : stw_) {
         unterbrechung->aus();
     }
-    using aktion = fruehstart_aktion;
-    if (einst_.fruehstart_option == aktion::ohne || einst_.fruehstart_option == aktion::runde_abzug ||
-        einst_.fruehstart_option == aktion::zeitstrafe) {
-        einst_.fruehstart_strafzeit = dauer_hs(10);  // these actions cut no power: their lock need not last
-    }
+    einst_.fruehstart_strafzeit = fruehstart_sperrdauer(einst_);  // from here on what is saved, too
 }
 
 bool startampel::ist_belegt(int code) const {
