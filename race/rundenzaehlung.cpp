@@ -101,7 +101,11 @@ bool rundenzaehlung::runde_abziehen(int spur) {
     if (zustand.disqualifiziert) {
         return false;
     }
+    const bool hat_eine = um_.zustand.konto.runden(spur) > 0;
     zustand.pause_abzug += um_.zustand.konto.abziehen(spur);
+    if (hat_eine) {
+        t_.anzeige.beste_zeigen(spur);
+    }
     return true;
 }
 

@@ -240,6 +240,7 @@ void tanken::warnen(int spur, double stand) {
 void tanken::runde_genommen(int spur, zeit_ms pause) {
     um_.zustand.spur[spur].pause_abzug += pause;
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
+    anzeige_.beste_zeigen(spur);
     um_.bahn.zaehler[spur].text(std::to_string(um_.zustand.konto.runden(spur)));
 }
 
