@@ -28,6 +28,17 @@ void ereignis_tabelle::rundenzaehlung_leeren() {
     }
 }
 
+void ereignis_tabelle::spuren_3_4_mitzaehlen() {
+    for (const int spur : {1, 2}) {
+        const ereignis_zeile& zweiter = (*this)[art::rundenzaehlung[spur + 2]];
+        if (zweiter.aktiv) {
+            ereignis_zeile& erster = (*this)[art::rundenzaehlung[spur]];
+            erster.aktiv = true;
+            erster.ereignis_zeit = zweiter.ereignis_zeit;
+        }
+    }
+}
+
 void ereignis_tabelle::strecke_leeren() {
     rundenzaehlung_leeren();
     for (ereignis_art nummer = erste_zwischenzeit; nummer < erste_zwischenzeit + sektorsensoren_max; ++nummer) {

@@ -58,6 +58,8 @@ public:
     void rundenzaehlung_leeren();
     /// The same with the sector sensors.
     void strecke_leeren();
+    /// A waiting crossing of lane 3 is one of lane 1 too, and one of lane 4 is one of lane 2.
+    void spuren_3_4_mitzaehlen();
 
     zeit_ms messzeit = 0;         ///< stamp of the last race tick
     int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on

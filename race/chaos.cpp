@@ -214,6 +214,7 @@ void chaos::kleine_ampeln(kleines_licht licht) {
 
 void chaos::durchfahrten_merken() {
     const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+    um_.zielsensoren_falten();
     for (const int spur : alle_spuren) {
         spur_zustand& zustand = um_.zustand.spur[spur];
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];

@@ -76,6 +76,7 @@ void rundenzaehlung::zaehler_zeigen(int spur) {
 }
 
 void rundenzaehlung::runden_auswerten() {
+    um_.zielsensoren_falten();
     for (const int spur : alle_spuren) {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (entprellen(spur, ereignis)) {

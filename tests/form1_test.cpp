@@ -97,6 +97,16 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     EXPECT_TRUE(gross.p.form1.startbild.sichtbar());
 }
 
+TEST_F(Form1, SpurenDreiUndVierSindZuSolangeIhreSensorenVerliehenSind) {
+    f.spur[2].umschalten();
+    for (const bool verliehen : {true, false}) {
+        t.p.einst.rc.rc_tank_sensor34 = verliehen;
+        f.leihspuren_sperren();
+        EXPECT_NE(f.spur[2].aktiviert(), verliehen);
+        EXPECT_FALSE(f.spur[2].gesetzt() || f.lspur[2].aktiviert());
+    }
+}
+
 TEST_F(Form1, RennartUndTankhakenStellenDieFelderUm) {
     f.rennart.eingeben("Runden");
     EXPECT_EQ(f.Label19.text(), "Runden");

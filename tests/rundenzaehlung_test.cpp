@@ -228,6 +228,9 @@ TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
     sensor.flanke = true;
     t.maschine.laufen(3);
     EXPECT_EQ(t.runden(2), 0);
+    t.maschine.laufen(8000);
+    t.taste("3");
+    EXPECT_EQ(t.runden(1), 1) << "by key as well";
 }
 
 }  // namespace
