@@ -185,16 +185,16 @@ void rennablauf::renntimer_tick() {
     }
     t_.sektor.sektoren_auswerten();
     t_.sensoren.soundsensoren_pruefen();
-    pause->pruefen();
     if (zustand.rennen_beendet) {
         return;
     }
     t_.uhr.rennuhr_anzeigen();
     if (!zustand.chaos_aktiv) {
-        t_.ende.pruefen();
+        t_.ende.pruefen();  // before the pauses: a crossing that ends the race is worth more than a pause with it
     }
     if (!zustand.rennen_beendet) {  // else the clock stands as the end has left it
         t_.uhr.rennuhr_anzeigen();
+        pause->pruefen();
     }
 }
 
@@ -209,17 +209,6 @@ void rennablauf::quellen_abfragen() {
 
 void rennablauf::renntimer2_tick() {
     quellen_abfragen();
-    if (!um_.einst.rc.rc_ziel_sensor34) {
-        return;
-    }
-    for (const int spur : {1, 2}) {
-        const ereignis_zeile& zweiter = um_.ereignisse[art::rundenzaehlung[spur + 2]];
-        if (zweiter.aktiv) {
-            ereignis_zeile& erster = um_.ereignisse[art::rundenzaehlung[spur]];
-            erster.aktiv = true;
-            erster.ereignis_zeit = zweiter.ereignis_zeit;
-        }
-    }
 }
 
 void rennablauf::renntimer3_tick() {

@@ -44,7 +44,7 @@ TEST_F(Chaos, PauseHaeltUhrStromUndZaehlungAnUndVerschiebtDasEnde) {
     EXPECT_TRUE(strom(1) && strom(2) && geraet.ist_an(ausgang::ampel_gruen, 0));
     EXPECT_FALSE(t.bahn().yellowframe[1].sichtbar());
     EXPECT_TRUE(t.bahn().ampel_gr[0].sichtbar());
-    EXPECT_EQ(rest, "00:45,001");
+    EXPECT_EQ(rest, "00:45,000");
     t.maschine.laufen(1);
     EXPECT_EQ(restzeit(), "00:44,999");
     t.runde_nach(5000, "1");
