@@ -279,6 +279,7 @@ void chaos::chaosende_routine() {
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
     um_.sounds.spielen(sound::pause_endet);
     um_.ausgaben.chaos_aus();
+    unverbuesste_abschalten();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
     um_.ereignisse.strecke_leeren();
@@ -303,6 +304,15 @@ void chaos::chaosende_routine() {
     strafformular_schliessen();
     gelb_zeigen(false);
     um_.bahn.cu_startframe.sichtbar(false);
+}
+
+void chaos::unverbuesste_abschalten() {
+    for (const int spur : alle_spuren) {
+        const spur_zustand& zustand = um_.zustand.spur[spur];
+        if (zustand.tank_strafe_aktiv || zustand.ch_strafe_rest > 0) {
+            t_.strafe.spur_strom_aus(spur);
+        }
+    }
 }
 
 void chaos::strafen_verteilen() {

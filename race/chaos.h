@@ -55,6 +55,8 @@ private:
     void strafformular_zeigen();
     void strafformular_schliessen();
     void strafen_verteilen();
+    /// The shorter of two penalties has given the lane its power back: the pause behind it cuts it again.
+    void unverbuesste_abschalten();
     void gelb_zeigen(bool an);
     /// Small lights of the lanes that are not held off by anything else.
     void kleine_ampeln(kleines_licht licht);
