@@ -63,7 +63,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     t_.ansicht.oeffnen();
     t_.ansicht.anzeigen_leeren();
     t_.ansicht.stand_zeigen();
-    t_.plaetze.zeigen();
+    t_.plaetze.neu_ordnen();
     t_.tank.fuellstaende_zeigen();
     t_.uhr.fortsetzen_uhreinstellen();
     for (const int spur : alle_spuren) {
