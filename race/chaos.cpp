@@ -37,6 +37,7 @@ void chaos::zuruecksetzen() {
     um_.zeitgeber.pause_aus();
     um_.zustand.pause = {};
     um_.zustand.chaos_aktiv = false;
+    um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.bahn.Command3.text(um_.bahn.wort.pause);
     strafformular_schliessen();
     gelb_zeigen(false);
@@ -47,6 +48,9 @@ void chaos::befehl_klick() {
     if (!um_.zustand.rennen_beendet && !um_.zeitgeber.chaostimer->laeuft() &&
         !um_.zeitgeber.chaosende_timer->laeuft()) {
         geraeteschalter_vergessen();
+        if (!um_.zustand.chaos_aktiv) {
+            um_.ereignisse.chaos_fahrer.fuellen(false);  // the race director himself
+        }
         chaos_umschalten();
     }
 }
@@ -79,8 +83,8 @@ void chaos::pruefen() {
         loslassen_pruefen();
     } else if (frei && taster.aktiv && !um_.zeitgeber.chaosende_timer->laeuft()) {
         chaos_umschalten();
-    } else {
-        taster.aktiv = false;
+    } else if (std::exchange(taster.aktiv, false) && !um_.zustand.chaos_aktiv) {
+        um_.ereignisse.chaos_fahrer.fuellen(false);  // dropped: the next pause may be another's
     }
 }
 
@@ -144,10 +148,7 @@ void chaos::pause_beginnen() {
     zustand.chaos_aktiv = true;
     kleine_ampeln(kleines_licht::gelb);
     strafformular_zeigen();
-    if (um_.quellen.ampel() != nullptr) {
-        um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_pause);
-        um_.bahn.cu_startframe.sichtbar(true);
-    }
+    hinweis_zeigen();
     if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
         um_.zeitgeber.chaos_schalter_at2560->an();  // hands are at the switch: nobody needs to be shown
     } else if (um_.einst.chaosampel_an) {
@@ -155,6 +156,23 @@ void chaos::pause_beginnen() {
     } else {
         gelb_zeigen(true);
     }
+}
+
+void chaos::hinweis_zeigen() {
+    std::string text;
+    for (const int spur : alle_spuren) {
+        if (um_.ereignisse.chaos_fahrer[spur]) {
+            const std::string& name = um_.param.fahrer_name[spur];
+            const bool dabei = um_.param.spur_aktiv[spur] && !name.empty();
+            text += text.empty() ? um_.bahn.wort.pause + ": " : ", ";
+            text += dabei ? name : um_.bahn.wort.spur + " " + std::to_string(spur);
+        }
+    }
+    if (um_.quellen.ampel() != nullptr) {
+        text += (text.empty() ? "" : " – ") + um_.bahn.wort.cu_pause;
+    }
+    um_.bahn.cu_startlabel.text(text);
+    um_.bahn.cu_startframe.sichtbar(!text.empty());
 }
 
 void chaos::zeitgeber_anhalten() {

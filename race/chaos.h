@@ -50,6 +50,8 @@ private:
     bool am_geraet_fortsetzen();
     bool gruen_am_geraet();
     void pause_beginnen();
+    /// Whose button it was, and what is to do at a device.
+    void hinweis_zeigen();
     void zeitgeber_anhalten();
     void zeitgeber_fortsetzen();
     void strafformular_zeigen();

@@ -354,10 +354,17 @@ TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
     t.taste("x");
     EXPECT_TRUE(pause());
     EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[2]);
+    EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
+    EXPECT_EQ(t.bahn().cu_startlabel.text(), "Chaos / Pause: " + t.p.param.fahrer_name[2]);
     t.maschine.laufen(3000);
     t.taste("c");
     t.maschine.laufen(600);
     EXPECT_FALSE(t.p.ereignisse.chaos_fahrer[2]);
+    t.taste("y");  // too early, and forgotten
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    EXPECT_TRUE(pause());
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
 }
 
 }  // namespace
