@@ -238,7 +238,7 @@ void chaos::durchfahrten_merken() {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (ereignis.aktiv && !zustand.ch_durchfahrt) {
             zustand.ch_durchfahrt = true;
-            zustand.ch_durchfahrt_zeit = jetzt;
+            zustand.ch_durchfahrt_zeit = um_.hat_eigenen_stempel(ereignis) ? ereignis.ereignis_zeit : jetzt;
         }
     }
 }
@@ -291,7 +291,8 @@ void chaos::chaosende_routine() {
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
     const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
-    um_.ereignisse.messzeit = ende;  // keys are stamped with it, and no tick has read the clock in the pause
+    um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
+    um_.ereignisse.gilt_ab = ende;
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
     zustand.unterbrechung_abziehen(zustand.pause.dauer);

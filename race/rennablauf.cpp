@@ -1,5 +1,6 @@
 #include "race/rennablauf.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/zeit.h"
@@ -154,6 +155,7 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
     zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     um_.ereignisse.messzeit = zustand.start_zeit;
+    um_.ereignisse.gilt_ab = std::min(stempel, um_.zeit.messzeit_lesen());  // a start may be stamped a little ahead
     um_.ereignisse[art::ampel_gruen].aktiv = false;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     um_.zeitgeber.rennen_an();

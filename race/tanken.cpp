@@ -148,7 +148,10 @@ void tanken::kontakt_auswerten(int spur) {
     const bool ueberfahrt = (modus == rundenzaehlung_auf::tanksensor_2 && aus.aktiv) ||
                             (modus == rundenzaehlung_auf::tanksensor_1 && ein.aktiv);
     if (ueberfahrt && !zustand.tank_kontakt) {
-        um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur]);
+        const ereignis_zeile& kontakt = modus == rundenzaehlung_auf::tanksensor_2 ? aus : ein;
+        um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur], um_.hat_eigenen_stempel(kontakt)
+                                                                      ? kontakt.ereignis_zeit
+                                                                      : um_.ereignisse.messzeit);
     }
     if (um_.param.tank_aktiv && ein.aktiv) {
         zustand.tank_kontakt = true;

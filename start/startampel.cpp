@@ -357,8 +357,8 @@ void startampel::nacht_umschalten() {
                                                 : !fenster.Nachtabschaltung.sichtbar());
 }
 
-void startampel::taste(int code) {
-    r_.befehle.taste_auswerten(code);
+void startampel::taste(int code, std::optional<zeit_ms> alter) {
+    r_.befehle.taste_auswerten(code, alter);
     if (code == taste_nacht) {
         nacht_umschalten();
     }
