@@ -155,9 +155,6 @@ void form1::leihspuren_sperren() {
     for (const std::size_t i : {std::size_t{2}, std::size_t{3}}) {
         const bool frei_geworden = !verliehen && !spur[i].aktiviert();
         spur[i].aktiviert(!verliehen);
-        if (verliehen) {
-            spur[i].gesetzt(false);
-        }
         if (verliehen || frei_geworden) {
             spur_geaendert(i);
         }

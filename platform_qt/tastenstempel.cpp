@@ -25,7 +25,7 @@ bool Tastenstempel::nativeEventFilter(const QByteArray& art, void* nachricht, qi
     constexpr LPARAM scancode = 0x1ff;
     const auto* msg = static_cast<const MSG*>(nachricht);
     if (art == "windows_dispatcher_MSG" && (msg->message == WM_KEYDOWN || msg->message == WM_SYSKEYDOWN)) {
-        gedrueckt_.push_back({static_cast<quint32>((msg->lParam >> 16) & scancode), msg->time});
+        gedrueckt_.push_back({static_cast<quint32>((msg->lParam >> 16) & scancode), static_cast<quint32>(msg->time)});
         if (gedrueckt_.size() > wartende_max) {
             gedrueckt_.pop_front();
         }

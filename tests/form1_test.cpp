@@ -98,12 +98,15 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
 }
 
 TEST_F(Form1, SpurenDreiUndVierSindZuSolangeIhreSensorenVerliehenSind) {
-    f.spur[2].umschalten();
+    t.einrichten("Zeit", "5", {1, 3});
     for (const bool verliehen : {true, false}) {
+        t.bahn().Command2.klicken();
         t.p.einst.rc.rc_tank_sensor34 = verliehen;
         f.leihspuren_sperren();
-        EXPECT_NE(f.spur[2].aktiviert(), verliehen);
-        EXPECT_FALSE(f.spur[2].gesetzt() || f.lspur[2].aktiviert());
+        EXPECT_NE(f.spur[2].aktiviert() && f.lspur[2].aktiviert(), verliehen);
+        EXPECT_TRUE(f.spur[2].gesetzt()) << "as it was, once the sensors are its own again";
+        f.Command1.klicken();
+        EXPECT_EQ(t.p.param.spuren_anzahl, verliehen ? 1 : 2);
     }
 }
 
