@@ -99,7 +99,7 @@ void form1::rennart_geaendert() {
 }
 
 void form1::spur_geaendert(std::size_t index) {
-    const bool an = spur[index].gesetzt();
+    const bool an = spur[index].gesetzt() && spur[index].aktiviert();
     lspur[index].aktiviert(an);
     fahrer[index].aktiviert(an);
     auto_[index].aktiviert(an);
@@ -120,7 +120,7 @@ renneinrichtung form1::einrichtung() const {
     e.massstab = massstab.text();
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
-        e.bahn[nummer] = {spur[i].gesetzt(), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
+        e.bahn[nummer] = {spur[i].gesetzt() && spur[i].aktiviert(), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
     }
     return e;
 }

@@ -132,6 +132,8 @@ public:
     void sprache_m2_laden() { sprache_m2().anwenden(um_.ablage); }
     /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
     void spuren_nach_laden();
+    /// Where sensors 3 and 4 serve lanes 1 and 2, nobody drives on lanes 3 and 4.
+    void leihspuren_sperren();
     void farben_einstellen();
     /// Fills the choices of drivers and vehicles; what is chosen on the lanes stays.
     void listen_zeigen();

@@ -147,6 +147,18 @@ void form1::spuren_nach_laden() {
         fahrer[i].aktiviert(offen);
         auto_[i].aktiviert(offen);
     }
+    leihspuren_sperren();
+}
+
+void form1::leihspuren_sperren() {
+    const bool verliehen = um_.einst.rc.rc_ziel_sensor34 || um_.einst.rc.rc_tank_sensor34;
+    for (const std::size_t i : {std::size_t{2}, std::size_t{3}}) {
+        const bool frei_geworden = !verliehen && !spur[i].aktiviert();
+        spur[i].aktiviert(!verliehen);
+        if (verliehen || frei_geworden) {
+            spur_geaendert(i);
+        }
+    }
 }
 
 void form1::bahnstrom_schaltbar(bool schaltbar) {

@@ -7,8 +7,16 @@ void ereignis_tabelle::ereignis_melden(ereignis_art nummer) {
     (*this)[nummer].aktiv = true;
 }
 
+void ereignis_tabelle::ereignis_melden(ereignis_art nummer, zeit_ms stempel) {
+    if (stempel >= gilt_ab) {
+        (*this)[nummer].ereignis_zeit = stempel;
+        (*this)[nummer].aktiv = true;
+    }
+}
+
 void ereignis_tabelle::ruhe_herstellen() {
     constexpr std::size_t zeilen = 42;
+    gilt_ab = std::numeric_limits<zeit_ms>::min();  // the next race may go by another clock
     for (ereignis_zeile& zeile : std::span(zeilen_).first(zeilen)) {
         zeile.aktiv = false;
         zeile.pegel = zeile.pegel_ruhe;
@@ -17,6 +25,7 @@ void ereignis_tabelle::ruhe_herstellen() {
 
 void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     messzeit += um;
+    gilt_ab += gilt_ab == std::numeric_limits<zeit_ms>::min() ? 0 : um;
     for (ereignis_zeile& zeile : zeilen_) {
         zeile.ereignis_zeit += um;
     }
@@ -25,6 +34,17 @@ void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
 void ereignis_tabelle::rundenzaehlung_leeren() {
     for (const ereignis_art nummer : art::rundenzaehlung) {
         (*this)[nummer].aktiv = false;
+    }
+}
+
+void ereignis_tabelle::spuren_3_4_mitzaehlen() {
+    for (const int spur : {1, 2}) {
+        const ereignis_zeile& zweiter = (*this)[art::rundenzaehlung[spur + 2]];
+        if (zweiter.aktiv) {
+            ereignis_zeile& erster = (*this)[art::rundenzaehlung[spur]];
+            erster.aktiv = true;
+            erster.ereignis_zeit = zweiter.ereignis_zeit;
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <span>
 
 #include "core/spuren.h"
@@ -50,6 +51,8 @@ public:
 
     /// Plain delivery: stamps the row with `messzeit`.
     void ereignis_melden(ereignis_art nummer);
+    /// Delivery of something that happened at `stempel`. Before `gilt_ab` it is forgotten like all that waited then.
+    void ereignis_melden(ereignis_art nummer, zeit_ms stempel);
     /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
     void ruhe_herstellen();
     /// All stamps move by `um` ms.
@@ -58,8 +61,12 @@ public:
     void rundenzaehlung_leeren();
     /// The same with the sector sensors.
     void strecke_leeren();
+    /// A waiting crossing of lane 3 is one of lane 1 too, and one of lane 4 is one of lane 2.
+    void spuren_3_4_mitzaehlen();
 
-    zeit_ms messzeit = 0;         ///< stamp of the last race tick
+    zeit_ms messzeit = 0;  ///< stamp of the last race tick
+    /// The race has started, or gone on after a pause: what comes late from before is no crossing.
+    zeit_ms gilt_ab = std::numeric_limits<zeit_ms>::min();
     int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on
     spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
 

@@ -24,7 +24,7 @@ bool tastatur::rundenabzug_auswerten(int taste) {
     return erledigt;
 }
 
-void tastatur::taste_auswerten(int taste) {
+void tastatur::taste_auswerten(int taste, std::optional<zeit_ms> stempel) {
     bool chaos = ist(taste, tastenbelegung::zeile_chaos);
     bool nacht = ist(taste, tastenbelegung::zeile_nacht) && !rennen_.beendet();
     for (const int spur : alle_spuren) {
@@ -47,7 +47,7 @@ void tastatur::taste_auswerten(int taste) {
     }
     for (int zeile = erste_ereigniszeile; zeile <= letzte_ereigniszeile; ++zeile) {
         if (ist(taste, zeile)) {
-            ereignisse_.ereignis_melden(zeile);
+            ereignisse_.ereignis_melden(zeile, stempel.value_or(ereignisse_.messzeit));
         }
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "hardware/ereignisse.h"
 #include "hardware/tastenbelegung.h"
 
@@ -25,8 +27,8 @@ public:
     tastatur(ereignis_tabelle& ereignisse, const tastenbelegung& belegung, tasten_rennen& rennen)
         : ereignisse_(ereignisse), belegung_(belegung), rennen_(rennen) {}
 
-    /// `taste` is the Windows-1252 value of the typed character.
-    void taste_auswerten(int taste);
+    /// `taste` is the Windows-1252 value of the typed character, pressed at `stempel`; without one at the last tick.
+    void taste_auswerten(int taste, std::optional<zeit_ms> stempel = {});
 
 private:
     bool ist(int taste, int zeile) const;

@@ -8,6 +8,7 @@
 #include "platform_qt/qt_prozess.h"
 #include "platform_qt/qt_serienport.h"
 #include "platform_qt/qt_zeitgeber.h"
+#include "platform_qt/tastenstempel.h"
 
 namespace tarvel::qt {
 
@@ -51,6 +52,7 @@ private:
     QtBibliothekDienst bibliotheken_;
 #ifdef Q_OS_WIN
     Portbibliothek druckerport_{bibliotheken_};
+    Tastenstempel tastenstempel_;
 #else
     Portdatei druckerport_;
 #endif

@@ -105,6 +105,7 @@ void programm::einstellungen_uebernommen() {
     form1.bilder_anzeigen();
     form1.modus_anzeigen();
     form1.tankoptionen_zeigen();
+    form1.leihspuren_sperren();
     rennen.sounds.bereitstellen();
     if (einst.beste_datei != bestzeiten_datei_) {
         bestzeiten_laden();

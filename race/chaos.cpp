@@ -37,6 +37,7 @@ void chaos::zuruecksetzen() {
     um_.zeitgeber.pause_aus();
     um_.zustand.pause = {};
     um_.zustand.chaos_aktiv = false;
+    um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.bahn.Command3.text(um_.bahn.wort.pause);
     strafformular_schliessen();
     gelb_zeigen(false);
@@ -47,6 +48,9 @@ void chaos::befehl_klick() {
     if (!um_.zustand.rennen_beendet && !um_.zeitgeber.chaostimer->laeuft() &&
         !um_.zeitgeber.chaosende_timer->laeuft()) {
         geraeteschalter_vergessen();
+        if (!um_.zustand.chaos_aktiv) {
+            um_.ereignisse.chaos_fahrer.fuellen(false);  // the race director himself
+        }
         chaos_umschalten();
     }
 }
@@ -79,8 +83,8 @@ void chaos::pruefen() {
         loslassen_pruefen();
     } else if (frei && taster.aktiv && !um_.zeitgeber.chaosende_timer->laeuft()) {
         chaos_umschalten();
-    } else {
-        taster.aktiv = false;
+    } else if (std::exchange(taster.aktiv, false) && !um_.zustand.chaos_aktiv) {
+        um_.ereignisse.chaos_fahrer.fuellen(false);  // dropped: the next pause may be another's
     }
 }
 
@@ -144,10 +148,7 @@ void chaos::pause_beginnen() {
     zustand.chaos_aktiv = true;
     kleine_ampeln(kleines_licht::gelb);
     strafformular_zeigen();
-    if (um_.quellen.ampel() != nullptr) {
-        um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_pause);
-        um_.bahn.cu_startframe.sichtbar(true);
-    }
+    hinweis_zeigen();
     if (um_.einst.chaos_schalter && um_.ereignisse.chaos_at_zaehler > 0) {
         um_.zeitgeber.chaos_schalter_at2560->an();  // hands are at the switch: nobody needs to be shown
     } else if (um_.einst.chaosampel_an) {
@@ -155,6 +156,23 @@ void chaos::pause_beginnen() {
     } else {
         gelb_zeigen(true);
     }
+}
+
+void chaos::hinweis_zeigen() {
+    std::string text;
+    for (const int spur : alle_spuren) {
+        if (um_.ereignisse.chaos_fahrer[spur]) {
+            const std::string& name = um_.param.fahrer_name[spur];
+            const bool dabei = um_.param.spur_aktiv[spur] && !name.empty();
+            text += text.empty() ? um_.bahn.wort.pause + ": " : ", ";
+            text += dabei ? name : um_.bahn.wort.spur + " " + std::to_string(spur);
+        }
+    }
+    if (um_.quellen.ampel() != nullptr) {
+        text += (text.empty() ? "" : " – ") + um_.bahn.wort.cu_pause;
+    }
+    um_.bahn.cu_startlabel.text(text);
+    um_.bahn.cu_startframe.sichtbar(!text.empty());
 }
 
 void chaos::zeitgeber_anhalten() {
@@ -214,12 +232,13 @@ void chaos::kleine_ampeln(kleines_licht licht) {
 
 void chaos::durchfahrten_merken() {
     const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+    um_.zielsensoren_falten();
     for (const int spur : alle_spuren) {
         spur_zustand& zustand = um_.zustand.spur[spur];
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (ereignis.aktiv && !zustand.ch_durchfahrt) {
             zustand.ch_durchfahrt = true;
-            zustand.ch_durchfahrt_zeit = jetzt;
+            zustand.ch_durchfahrt_zeit = um_.hat_eigenen_stempel(ereignis) ? ereignis.ereignis_zeit : jetzt;
         }
     }
 }
@@ -272,12 +291,14 @@ void chaos::chaosende_routine() {
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
     const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
-    um_.ereignisse.messzeit = ende;  // keys are stamped with it, and no tick has read the clock in the pause
+    um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
+    um_.ereignisse.gilt_ab = ende;
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
     um_.sounds.spielen(sound::pause_endet);
     um_.ausgaben.chaos_aus();
+    unverbuesste_abschalten();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
     um_.ereignisse.strecke_leeren();
@@ -302,6 +323,15 @@ void chaos::chaosende_routine() {
     strafformular_schliessen();
     gelb_zeigen(false);
     um_.bahn.cu_startframe.sichtbar(false);
+}
+
+void chaos::unverbuesste_abschalten() {
+    for (const int spur : alle_spuren) {
+        const spur_zustand& zustand = um_.zustand.spur[spur];
+        if (zustand.tank_strafe_aktiv || zustand.ch_strafe_rest > 0) {
+            t_.strafe.spur_strom_aus(spur);
+        }
+    }
 }
 
 void chaos::strafen_verteilen() {

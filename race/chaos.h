@@ -50,11 +50,15 @@ private:
     bool am_geraet_fortsetzen();
     bool gruen_am_geraet();
     void pause_beginnen();
+    /// Whose button it was, and what is to do at a device.
+    void hinweis_zeigen();
     void zeitgeber_anhalten();
     void zeitgeber_fortsetzen();
     void strafformular_zeigen();
     void strafformular_schliessen();
     void strafen_verteilen();
+    /// The shorter of two penalties has given the lane its power back: the pause behind it cuts it again.
+    void unverbuesste_abschalten();
     void gelb_zeigen(bool an);
     /// Small lights of the lanes that are not held off by anything else.
     void kleine_ampeln(kleines_licht licht);

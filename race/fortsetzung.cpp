@@ -63,7 +63,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     t_.ansicht.oeffnen();
     t_.ansicht.anzeigen_leeren();
     t_.ansicht.stand_zeigen();
-    t_.plaetze.zeigen();
+    t_.plaetze.neu_ordnen();
     t_.tank.fuellstaende_zeigen();
     t_.uhr.fortsetzen_uhreinstellen();
     for (const int spur : alle_spuren) {
@@ -133,6 +133,7 @@ void fortsetzung::weiterfahren() {
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.fortsetzung_wartet = false;
     um_.ereignisse.messzeit = fortsetz_zeit;
+    um_.ereignisse.gilt_ab = fortsetz_zeit;
     um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     for (const int spur : alle_spuren) {

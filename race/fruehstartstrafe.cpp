@@ -4,6 +4,13 @@
 
 namespace tarvel {
 
+dauer_hs fruehstart_sperrdauer(const einstellungen& einst) {
+    using aktion = fruehstart_aktion;
+    const aktion wahl = einst.fruehstart_option;
+    const bool ohne_stromausfall = wahl == aktion::ohne || wahl == aktion::runde_abzug || wahl == aktion::zeitstrafe;
+    return ohne_stromausfall ? dauer_hs(10) : einst.fruehstart_strafzeit;
+}
+
 fruehstartstrafe::fruehstartstrafe(const renn_umgebung& um, strafen& s) : um_(um), strafen_(s) {
     um_.zeitgeber.f_straftimer->bei_tick = [this] { zeit_tick(); };
     um_.zeitgeber.f_straftimer2->bei_tick = [this] { nachsperre_tick(); };
@@ -49,7 +56,7 @@ void fruehstartstrafe::nullzeile_eintragen(int spur) {
 
 void fruehstartstrafe::zeit_tick() {
     um_.zeitgeber.f_straftimer2->intervall(dauer_ms(um_.param.min_rundenzeit_ms));
-    if (++verbuesst_ < um_.einst.fruehstart_strafzeit) {
+    if (++verbuesst_ < fruehstart_sperrdauer(um_.einst)) {
         return;
     }
     for (const int spur : alle_spuren) {

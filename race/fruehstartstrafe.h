@@ -5,6 +5,9 @@
 
 namespace tarvel {
 
+/// How long a false start locks its lane from green on: the actions that cut no power need no more than a tenth.
+dauer_hs fruehstart_sperrdauer(const einstellungen& einst);
+
 /// The time for which lanes that moved before green are locked. When it is served they get their power back and stay
 /// locked for one more minimum lap, so that rolling on over the sensor is no lap.
 class fruehstartstrafe {

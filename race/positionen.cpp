@@ -1,7 +1,10 @@
 #include "race/positionen.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tarvel {
 
@@ -19,6 +22,27 @@ void positionen::zeigen() {
         um_.bahn.l_PosAnz.at(index).text(std::to_string(position_.at(index)));
         um_.bahn.l_PosAnz.at(index).sichtbar(um_.param.spur_aktiv[spur]);
     }
+}
+
+void positionen::neu_ordnen() {
+    const std::array<int, spuren_max> vorher = position_;
+    std::vector<int> folge;
+    std::copy_if(alle_spuren.begin(), alle_spuren.end(), std::back_inserter(folge),
+                 [&](int spur) { return um_.param.spur_aktiv[spur]; });
+    std::stable_sort(folge.begin(), folge.end(), [&](int a, int b) {
+        const int runden_a = um_.zustand.konto.runden(a);
+        const int runden_b = um_.zustand.konto.runden(b);
+        return runden_a != runden_b ? runden_a > runden_b : vorher.at(feld_index(a)) < vorher.at(feld_index(b));
+    });
+    position_ = {};
+    int platz = 0;
+    for (const int spur : folge) {
+        position_.at(feld_index(spur)) = ++platz;
+        if (vorher.at(feld_index(spur)) != platz) {
+            um_.quellen.melden<int, int>(&messquelle::platz, spur, platz);
+        }
+    }
+    zeigen();
 }
 
 void positionen::fahrer_umsetzen(const spuren<int>& herkunft) {

@@ -18,6 +18,9 @@ public:
     /// A driver keeps his place on another lane: lane i takes that of lane `herkunft[i]`, 0 leaves it.
     void fahrer_umsetzen(const spuren<int>& herkunft);
     void zeigen();
+    /// All places anew by the laps, where a result has changed them or a lane has left; among equals who was ahead
+    /// stays so.
+    void neu_ordnen();
     /// At the end of every lap step.
     void positions_pruefung();
     void positionen_tauschen(std::size_t a, std::size_t b);

@@ -1,5 +1,6 @@
 #include "race/rennablauf.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/zeit.h"
@@ -154,6 +155,7 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
     zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     um_.ereignisse.messzeit = zustand.start_zeit;
+    um_.ereignisse.gilt_ab = std::min(stempel, um_.zeit.messzeit_lesen());  // a start may be stamped a little ahead
     um_.ereignisse[art::ampel_gruen].aktiv = false;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     um_.zeitgeber.rennen_an();
@@ -185,16 +187,16 @@ void rennablauf::renntimer_tick() {
     }
     t_.sektor.sektoren_auswerten();
     t_.sensoren.soundsensoren_pruefen();
-    pause->pruefen();
     if (zustand.rennen_beendet) {
         return;
     }
     t_.uhr.rennuhr_anzeigen();
     if (!zustand.chaos_aktiv) {
-        t_.ende.pruefen();
+        t_.ende.pruefen();  // before the pauses: a crossing that ends the race is worth more than a pause with it
     }
     if (!zustand.rennen_beendet) {  // else the clock stands as the end has left it
         t_.uhr.rennuhr_anzeigen();
+        pause->pruefen();
     }
 }
 
@@ -209,17 +211,6 @@ void rennablauf::quellen_abfragen() {
 
 void rennablauf::renntimer2_tick() {
     quellen_abfragen();
-    if (!um_.einst.rc.rc_ziel_sensor34) {
-        return;
-    }
-    for (const int spur : {1, 2}) {
-        const ereignis_zeile& zweiter = um_.ereignisse[art::rundenzaehlung[spur + 2]];
-        if (zweiter.aktiv) {
-            ereignis_zeile& erster = um_.ereignisse[art::rundenzaehlung[spur]];
-            erster.aktiv = true;
-            erster.ereignis_zeit = zweiter.ereignis_zeit;
-        }
-    }
 }
 
 void rennablauf::renntimer3_tick() {

@@ -1,5 +1,7 @@
 #include "race/rennbefehle.h"
 
+#include <algorithm>
+
 namespace tarvel {
 
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
@@ -16,8 +18,21 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
     um_.bahn.Command6.bei_klick = [this] { t_.ablauf.einfahrzeit_starten(); };
 }
 
-void rennbefehle::taste(int code) {
-    tastatur_.taste_auswerten(code);
+void rennbefehle::taste_auswerten(int code, std::optional<zeit_ms> alter) {
+    if (alter) {
+        tastatur_.taste_auswerten(code, um_.zeit.messzeit_lesen() - *alter);
+    } else {
+        tastatur_.taste_auswerten(code);
+    }
+}
+
+bool rennbefehle::ist_rundentaste(int code) const {
+    return std::any_of(art::rundenzaehlung.begin(), art::rundenzaehlung.end(),
+                       [&](ereignis_art zeile) { return belegung_.taste(zeile) == code; });
+}
+
+void rennbefehle::taste(int code, std::optional<zeit_ms> alter) {
+    taste_auswerten(code, alter);
     t_.zaehlung.zaehler_nachfuehren();
     if (!um_.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
         t_.tank.tank_kontakte_auswerten();

@@ -21,10 +21,13 @@ public:
 
     rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung);
 
-    /// A key press in the race window; `code` is the Windows-1252 value of the typed character.
-    void taste(int code);
+    /// A key of the race; `code` is the Windows-1252 value of the typed character. `alter`: ms since it was pressed,
+    /// without which it counts as pressed at the last tick.
+    void taste(int code, std::optional<zeit_ms> alter = {});
     /// The key as an event alone: what the start light takes of it.
-    void taste_auswerten(int code) { tastatur_.taste_auswerten(code); }
+    void taste_auswerten(int code, std::optional<zeit_ms> alter = {});
+    /// The key stands for a crossing of the line.
+    bool ist_rundentaste(int code) const;
     /// Whether that key does anything in a race.
     bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
     bool ist_nachttaste(int code) const { return belegung_.taste(tastenbelegung::zeile_nacht) == code; }

@@ -29,11 +29,15 @@ bool rundenkonto::beste_werten(int spur, zeit_ms zeit) {
 
 zeit_ms rundenkonto::abziehen(int spur) {
     spur_konto& konto = spur_[spur];
+    if (konto.runden == 0) {
+        return 0;  // nothing to take off; a lap that is held back stays as it is
+    }
     const zeit_ms frei = konto.runden > 0 ? pause(spur, konto.runden) : 0;
-    konto.runden = konto.runden == 0 ? 0 : konto.runden - 1;
+    --konto.runden;
     konto.vor_fortsetzung = std::min(konto.vor_fortsetzung, std::max(konto.runden, 0) + 1);
     speicher_.zeile_kopieren(spur, laufende(spur) + 1, laufende(spur));  // a lap that is held back moves up
     speicher_.leeren(spur, laufende(spur) + 1);
+    beste_suchen(spur);
     return frei;
 }
 

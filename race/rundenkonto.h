@@ -31,11 +31,11 @@ public:
     void start_stempeln(int spur, zeit_ms stempel) { speicher_.setzen(spur, 0, 0, stempel); }
     /// Counts a crossing. Nobody counts beyond `runden_max`.
     void zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause);
-    /// The lane's last lap took `zeit`. True if that is its best one now; the first lap always is.
+    /// The lane's last lap counts as `zeit`. True if that is its best one now; the first lap always is.
     bool beste_werten(int spur, zeit_ms zeit);
 
-    /// Takes one lap off. A lane with 0 laps stays at 0, while one before its first crossing goes further below.
-    /// Returns the pause that had come off that lap and now comes off the one that takes it in.
+    /// Takes one lap off, also as best lap. A lane with 0 laps stays at 0, while one before its first crossing goes
+    /// further below. Returns the pause that had come off that lap and now comes off the one that takes it in.
     zeit_ms abziehen(int spur);
     /// As `abziehen`, for a lane that has a lap, but the lap is kept to be given back.
     zeit_ms zurueckhalten(int spur);

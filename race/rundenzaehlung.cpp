@@ -76,6 +76,7 @@ void rundenzaehlung::zaehler_zeigen(int spur) {
 }
 
 void rundenzaehlung::runden_auswerten() {
+    um_.zielsensoren_falten();
     for (const int spur : alle_spuren) {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (entprellen(spur, ereignis)) {
@@ -101,7 +102,11 @@ bool rundenzaehlung::runde_abziehen(int spur) {
     if (zustand.disqualifiziert) {
         return false;
     }
+    const bool hat_eine = um_.zustand.konto.runden(spur) > 0;
     zustand.pause_abzug += um_.zustand.konto.abziehen(spur);
+    if (hat_eine) {
+        t_.anzeige.beste_zeigen(spur);
+    }
     return true;
 }
 

@@ -148,7 +148,10 @@ void tanken::kontakt_auswerten(int spur) {
     const bool ueberfahrt = (modus == rundenzaehlung_auf::tanksensor_2 && aus.aktiv) ||
                             (modus == rundenzaehlung_auf::tanksensor_1 && ein.aktiv);
     if (ueberfahrt && !zustand.tank_kontakt) {
-        um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur]);
+        const ereignis_zeile& kontakt = modus == rundenzaehlung_auf::tanksensor_2 ? aus : ein;
+        um_.ereignisse.ereignis_melden(art::rundenzaehlung[spur], um_.hat_eigenen_stempel(kontakt)
+                                                                      ? kontakt.ereignis_zeit
+                                                                      : um_.ereignisse.messzeit);
     }
     if (um_.param.tank_aktiv && ein.aktiv) {
         zustand.tank_kontakt = true;
@@ -240,6 +243,7 @@ void tanken::warnen(int spur, double stand) {
 void tanken::runde_genommen(int spur, zeit_ms pause) {
     um_.zustand.spur[spur].pause_abzug += pause;
     um_.bahn.t_liste.at(feld_index(spur)).letzte_entfernen();
+    anzeige_.beste_zeigen(spur);
     um_.bahn.zaehler[spur].text(std::to_string(um_.zustand.konto.runden(spur)));
 }
 

@@ -56,6 +56,18 @@ struct renn_umgebung {
         }
     }
 
+    /// The event knows its moment better than the last tick, which is what most are stamped with.
+    bool hat_eigenen_stempel(const ereignis_zeile& ereignis) const {
+        return ereignis.ereignis_zeit > ereignisse.messzeit && ereignis.ereignis_zeit <= zeit.messzeit_lesen();
+    }
+
+    /// Before crossings are looked at: where the finish has sensors 3 and 4 too, they count for lanes 1 and 2.
+    void zielsensoren_falten() const {
+        if (einst.rc.rc_ziel_sensor34) {
+            ereignisse.spuren_3_4_mitzaehlen();
+        }
+    }
+
     /// The light of the start has not come to its green.
     bool ampel_laeuft() const {
         return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zustand.fortsetzung_wartet &&

@@ -90,6 +90,8 @@ public:
     /// Counts late crossings and shows the standing.
     void laden() override;
     void entladen() override;
+    /// A crossing behind the end may still count.
+    bool zaehlt_nach() const { return ch_durch3_->laeuft(); }
     /// Everything anew from the race record.
     void auswertung_anzeigen();
     /// An entry of metres that has not been finished counts too.

@@ -34,11 +34,9 @@ std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeic
 }
 
 std::string tempo(const spur& s) {
-    const double laenge = zahl_lesen(s.laenge);
-    const auto ueber = [laenge](int runden, zeit_ms dauer) {
-        return zahl_fest(sektor_tempo(laenge * runden, dauer), ',');
-    };
-    return ueber(1, s.beste) + " / " + ueber(s.rundenzahl(), s.gesamtzeit) + " km/h";
+    const auto ueber = [](double meter, zeit_ms dauer) { return zahl_fest(sektor_tempo(meter, dauer), ','); };
+    const double in_der_zeit = s.meter - s.restmeter;  // a driver may have come from a lane of another length
+    return ueber(zahl_lesen(s.laenge), s.beste) + " / " + ueber(in_der_zeit, s.gesamtzeit) + " km/h";
 }
 
 std::string strafe(const spur& s, const std::string& wort) {

@@ -343,11 +343,7 @@ void startampel::entladen() {
     for (const auto& unterbrechung : stw_) {
         unterbrechung->aus();
     }
-    using aktion = fruehstart_aktion;
-    if (einst_.fruehstart_option == aktion::ohne || einst_.fruehstart_option == aktion::runde_abzug ||
-        einst_.fruehstart_option == aktion::zeitstrafe) {
-        einst_.fruehstart_strafzeit = dauer_hs(10);  // these actions cut no power: their lock need not last
-    }
+    einst_.fruehstart_strafzeit = fruehstart_sperrdauer(einst_);  // from here on what is saved, too
 }
 
 bool startampel::ist_belegt(int code) const {
@@ -361,8 +357,8 @@ void startampel::nacht_umschalten() {
                                                 : !fenster.Nachtabschaltung.sichtbar());
 }
 
-void startampel::taste(int code) {
-    r_.befehle.taste_auswerten(code);
+void startampel::taste(int code, std::optional<zeit_ms> alter) {
+    r_.befehle.taste_auswerten(code, alter);
     if (code == taste_nacht) {
         nacht_umschalten();
     }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "core/fensterlogik.h"
 #include "platform/zeitgeber.h"
@@ -24,8 +25,8 @@ public:
     /// The light begins.
     void laden() override;
     void entladen() override;
-    /// A key press while the lights run; `code` is the Windows-1252 value of the typed character.
-    void taste(int code);
+    /// A key press while the lights run, as `rennbefehle::taste` takes it.
+    void taste(int code, std::optional<zeit_ms> alter = {});
     bool ist_belegt(int code) const;
     /// Closing the window stops the start, as long as it can be stopped.
     void schliessen() override;

@@ -13,6 +13,7 @@ protected:
     /// Presses the small start light's command and lets it go green.
     void gruen() {
         t.p.k_ampel.Command1.klicken();
+        EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
         t.maschine.laufen(1500 + 1500 + 1500 + 2500);
     }
     std::vector<std::string> namen() {
@@ -147,8 +148,19 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     EXPECT_EQ(t.ergebnis(2).gesamtzeit, 18000 + 5504 + 6005 + 6005 + 5000);
     EXPECT_EQ(a.ges_meter[1].text(), "135,00 m") << "three laps of 25 m, three of 20 m";
     EXPECT_EQ(a.ges_meter[0].text(), "65,00 m");
+    EXPECT_EQ(a.kmh_label[1].text(), "13,08 / 12,00 km/h") << "the average by the metres driven: 135 m in 40.514 s";
     a.Command1.klicken();
     EXPECT_EQ(t.p.param.renn_ziel, 3) << "repeated as it was set up";
+}
+
+TEST_F(Auswertung, FortgesetztStehenDiePlaetzeSofortNachDenRunden) {
+    a.spurwechsel.gesetzt(false);
+    zwei_spuren_fahren("Zeit", "1");
+    t.bahn().Command4.klicken();
+    t.p.wertung.runde_loeschen(1, 3);
+    t.p.wertung.runde_loeschen(1, 2);
+    a.Command3.klicken();
+    EXPECT_EQ(t.bahn().l_PosAnz[0].text() + t.bahn().l_PosAnz[1].text(), "21");
 }
 
 TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {

@@ -44,7 +44,7 @@ TEST_F(Chaos, PauseHaeltUhrStromUndZaehlungAnUndVerschiebtDasEnde) {
     EXPECT_TRUE(strom(1) && strom(2) && geraet.ist_an(ausgang::ampel_gruen, 0));
     EXPECT_FALSE(t.bahn().yellowframe[1].sichtbar());
     EXPECT_TRUE(t.bahn().ampel_gr[0].sichtbar());
-    EXPECT_EQ(rest, "00:45,001");
+    EXPECT_EQ(rest, "00:45,000");
     t.maschine.laufen(1);
     EXPECT_EQ(restzeit(), "00:44,999");
     t.runde_nach(5000, "1");
@@ -205,6 +205,39 @@ TEST_F(Chaos, TankstrafeRuhtInDerPause) {
     EXPECT_TRUE(strom(1));
 }
 
+TEST_F(Chaos, TankstrafeSchaltetNachDerNaechstenPauseWiederAb) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 20s;
+    t.p.einst.chaos_strafe_strom = false;
+    t.p.einst.chaos_strafzeit = 2s;
+    fahren();
+    t.spur(1).tank_inhalt = 1;
+    t.runde_nach(8000, "1");
+    t.taste("c");
+    t.bahn().ch_strafzeit_hacken[1].umschalten();
+    t.maschine.laufen(4000);
+    t.taste("c");
+    t.maschine.laufen(5000);
+    EXPECT_TRUE(strom(1)) << "the end of the shorter penalty";
+    t.taste("c");
+    t.maschine.laufen(4000);
+    geraet.befehle.clear();
+    t.taste("c");
+    EXPECT_FALSE(strom(1));
+    EXPECT_FALSE(geraet.enthaelt({ausgang::bahnstrom, 1, true})) << "not even for a moment";
+    t.maschine.laufen(16000);
+    EXPECT_TRUE(strom(1));
+}
+
+TEST_F(Chaos, UeberfahrtInsZielGehtVorPause) {
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(8000, "c1");
+    EXPECT_TRUE(offen(fenstername::auswertung));
+    EXPECT_FALSE(pause());
+}
+
 TEST_F(Chaos, InDerPauseWirdNichtGetanktUndKeinSektorGemessen) {
     t.p.form1.t_aktiv.umschalten();
     t.p.einst.tank_wartezeit = 1s;
@@ -321,10 +354,17 @@ TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
     t.taste("x");
     EXPECT_TRUE(pause());
     EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[2]);
+    EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
+    EXPECT_EQ(t.bahn().cu_startlabel.text(), "Chaos / Pause: " + t.p.param.fahrer_name[2]);
     t.maschine.laufen(3000);
     t.taste("c");
     t.maschine.laufen(600);
     EXPECT_FALSE(t.p.ereignisse.chaos_fahrer[2]);
+    t.taste("y");  // too early, and forgotten
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    EXPECT_TRUE(pause());
+    EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
 }
 
 }  // namespace

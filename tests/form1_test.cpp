@@ -97,6 +97,19 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     EXPECT_TRUE(gross.p.form1.startbild.sichtbar());
 }
 
+TEST_F(Form1, SpurenDreiUndVierSindZuSolangeIhreSensorenVerliehenSind) {
+    t.einrichten("Zeit", "5", {1, 3});
+    for (const bool verliehen : {true, false}) {
+        t.bahn().Command2.klicken();
+        t.p.einst.rc.rc_tank_sensor34 = verliehen;
+        f.leihspuren_sperren();
+        EXPECT_NE(f.spur[2].aktiviert() && f.lspur[2].aktiviert(), verliehen);
+        EXPECT_TRUE(f.spur[2].gesetzt()) << "as it was, once the sensors are its own again";
+        f.Command1.klicken();
+        EXPECT_EQ(t.p.param.spuren_anzahl, verliehen ? 1 : 2);
+    }
+}
+
 TEST_F(Form1, RennartUndTankhakenStellenDieFelderUm) {
     f.rennart.eingeben("Runden");
     EXPECT_EQ(f.Label19.text(), "Runden");

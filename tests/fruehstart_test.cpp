@@ -77,6 +77,24 @@ TEST_F(Fruehstart, RennendeBeendetDieStromunterbrechung) {
     EXPECT_TRUE(t.bahn().t_liste[2].zeilen().empty()) << "served into a race that is over";
 }
 
+TEST_F(Fruehstart, OhneStromausfallIstDieSperreImErstenRennenSoKurzWieSpaeter) {
+    for (const int option : {0, 4, 5}) {
+        t.p.einst.fruehstart_option = fruehstart_aktion(option);
+        t.p.einst.fruehstart_strafzeit = 5s;
+        for (const int rennen : {1, 2}) {
+            SCOPED_TRACE(std::to_string(option) + " race " + std::to_string(rennen));
+            beginnen(1);
+            t.maschine.laufen(5000);
+            ampeltaste('2');
+            bis_gruen(5002);
+            const int bei_gruen = t.runden(2);
+            t.runde_nach(t.p.param.min_rundenzeit_ms + 110, "2");
+            EXPECT_EQ(t.runden(2), bei_gruen + 1);
+            t.bahn().Command2.klicken();
+        }
+    }
+}
+
 TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
     for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler] :
          {std::tuple(0, 0, 0, true, "0"), {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {

@@ -156,6 +156,8 @@ TEST_F(Rundenzaehlung, RundenabzugNimmtDieRundeAusDemSpeicher) {
     t.taste("!");
     EXPECT_EQ(t.runden(1), 1);
     EXPECT_EQ(t.bahn().zaehler[1].text(), "1");
+    EXPECT_EQ(t.p.rennen.zustand.konto.beste(1), 8000);
+    EXPECT_EQ(t.bahn().brunde[1].text(), "08,000");
     t.runde_nach(5999, "1");  // timed from the crossing before the one that was taken off
     EXPECT_EQ(rundenzeit(1, 2), 13000);
     t.taste("!");
@@ -226,6 +228,9 @@ TEST_F(Rundenzaehlung, GeraeteLiefernUndSensorDreiZaehltAufWunschFuerSpurEins) {
     sensor.flanke = true;
     t.maschine.laufen(3);
     EXPECT_EQ(t.runden(2), 0);
+    t.maschine.laufen(8000);
+    t.taste("3");
+    EXPECT_EQ(t.runden(1), 1) << "by key as well";
 }
 
 }  // namespace

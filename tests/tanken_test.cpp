@@ -121,6 +121,17 @@ TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
     EXPECT_EQ(t.runden(1), 2) << "empty again: the next lap is taken at once";
 }
 
+TEST_F(Tanken, StrafeInRundeEinsVerschlechtertDieBesteNicht) {
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 10s;
+    fahren(6);
+    t.runde_nach(8000, "1");
+    t.maschine.laufen(10001);
+    ASSERT_EQ(t.runden(1), 1);
+    EXPECT_EQ(t.bahn().lrunde[1].text(), "18,001");
+    EXPECT_EQ(t.p.rennen.zustand.konto.beste(1), 8000);
+}
+
 TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
     t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
     t.p.einst.tank_strafzeit = 5s;

@@ -178,5 +178,27 @@ TEST_F(Tastatur, NichtSchreibbarMeldetSichUndBehaeltDieBelegung) {
     EXPECT_EQ(t.p.belegung.taste(16), 'k');
 }
 
+TEST_F(Tastatur, UeberfahrtHatDenAugenblickDesDrucks) {
+    t.starten("Zeit", "5", {1, 2});
+    t.runde_nach(1000, "12");
+    t.maschine.laufen(8000);
+    t.p.rennen.befehle.taste('1', 300);  // the program was busy
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.p.rennen.zustand.konto.stempel(1, 1), t.maschine.jetzt() - 1 - 300);
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.sensor_timeout = 2000ms;
+    t.taste("c");
+    t.maschine.laufen(3000);
+    t.taste("c");
+    ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.maschine.laufen(100);
+    t.p.rennen.befehle.taste('2', 200);
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.runden(2), 0) << "pushed over the line in the pause";
+    t.p.rennen.befehle.taste('2', 50);
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.runden(2), 1);
+}
+
 }  // namespace
 }  // namespace tarvel

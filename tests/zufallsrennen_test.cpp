@@ -160,6 +160,7 @@ private:
         for (const int nummer : alle_spuren) {
             SCOPED_TRACE(nummer);
             runde_pruefen(nummer);
+            beste_pruefen(nummer);
             strom_pruefen(nummer);
             EXPECT_GE(spur(nummer).tank_inhalt, 0);
             EXPECT_LE(spur(nummer).tank_inhalt, t_.p.einst.tank_inhalt);
@@ -205,6 +206,19 @@ private:
         v.pausen_bis_runde = pausen;
         v.zusammenhang = !s.tank_strafe_aktiv;
         strafzeit_vorher_[nummer] = s.strafzuschlag();
+    }
+
+    void beste_pruefen(int nummer) {
+        const rundenkonto& konto = zustand().konto;
+        zeit_ms kleinste = konto.runden(nummer) > 0 ? konto.rundenzeit(nummer, 1) : 0;
+        for (int runde = 2; runde <= konto.runden(nummer); ++runde) {
+            kleinste = std::min(kleinste, konto.rundenzeit(nummer, runde));
+        }
+        if (t_.p.einst.tank_straf_option != leer_aktion::stromunterbrechung) {
+            EXPECT_EQ(konto.beste(nummer), kleinste);
+        } else if (konto.runden(nummer) > 0) {
+            EXPECT_LE(konto.beste(nummer), kleinste) << "a penalty may have lengthened the best one";
+        }
     }
 
     void strom_pruefen(int nummer) {

@@ -7,7 +7,6 @@
 
 #include "ui/bildanzeige.h"
 #include "ui/stil.h"
-#include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
 namespace {
@@ -46,9 +45,6 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     setMinimumSize(640, 480);
     resize(1280, 1024);
     binder().verbinden(logik.bahn1.ansicht, unsichtbar(), "ansicht", [this] { anordnen(); });
-    new Tastenfaenger(
-        this, [&logik](int code) { return logik.befehle.ist_belegt(code); },
-        [&logik](int code) { logik.befehle.taste(code); });
 }
 
 void Bahn1Fenster::kopf() {

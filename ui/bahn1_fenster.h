@@ -10,7 +10,7 @@
 
 namespace tarvel::ui {
 
-/// The race window, to be read from a distance. All characters typed while it is in front go to the race.
+/// The race window, to be read from a distance.
 class Bahn1Fenster : public Fenster {
 public:
     Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget* eltern);

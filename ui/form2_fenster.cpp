@@ -6,7 +6,6 @@
 
 #include "ui/lampe.h"
 #include "ui/stil.h"
-#include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
 namespace {
@@ -40,8 +39,6 @@ Form2Fenster::Form2Fenster(startampel& logik, const einstellungen& einst, const 
     text_aufnehmen(knopf);
     aufbau()->addWidget(knopf, 0, Qt::AlignHCenter);
     aufbau()->addStretch();
-    new Tastenfaenger(
-        this, [&logik](int code) { return logik.ist_belegt(code); }, [&logik](int code) { logik.taste(code); });
 }
 
 QWidget* Form2Fenster::hinweise() {

@@ -3,11 +3,10 @@
 #include <QVBoxLayout>
 
 #include "ui/stil.h"
-#include "ui/tastenfaenger.h"
 
 namespace tarvel::ui {
 
-KAmpelFenster::KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
+KAmpelFenster::KAmpelFenster(k_ampel& logik, const einstellungen& einst, const dateien& ablage,
                              Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
     : AmpelFenster(logik, logik.k_nachtabschaltung, {einst, ablage, verwaltung, bahn}),
       logik_(logik),
@@ -25,8 +24,6 @@ KAmpelFenster::KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstel
     text_aufnehmen(knopf_);
     aufbau()->addWidget(knopf_, 0, Qt::AlignCenter);
     aufbau()->addStretch();
-    new Tastenfaenger(
-        this, [&befehle](int code) { return befehle.ist_belegt(code); }, [&befehle](int code) { befehle.taste(code); });
     bei_aktivierung = [this] {  // after a click on it
         if (logik_.in_pause()) {
             bahn_->activateWindow();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "race/rennbefehle.h"
 #include "start/k_ampel.h"
 #include "ui/ampel_fenster.h"
 #include "ui/bahn1_fenster.h"
@@ -11,8 +10,8 @@ namespace tarvel::ui {
 /// the boxes of the penalties, and leaves the keyboard to the race window.
 class KAmpelFenster : public AmpelFenster {
 public:
-    KAmpelFenster(k_ampel& logik, rennbefehle& befehle, const einstellungen& einst, const dateien& ablage,
-                  Fensterverwaltung& verwaltung, Bahn1Fenster* bahn);
+    KAmpelFenster(k_ampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
+                  Bahn1Fenster* bahn);
 
     void aufschlagen() override;
 

@@ -19,6 +19,7 @@
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
+#include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 
@@ -44,7 +45,7 @@ public:
     Form3Fenster form3{p_.form3, p_.ablage, fenster, &form1};
     Bahn1Fenster bahn1{p_.rennen, fenster, &form1};
     Form2Fenster form2{p_.startampel, p_.einst, p_.ablage, fenster, &bahn1};
-    KAmpelFenster k_ampel{p_.k_ampel, p_.rennen.befehle, p_.einst, p_.ablage, fenster, &bahn1};
+    KAmpelFenster k_ampel{p_.k_ampel, p_.einst, p_.ablage, fenster, &bahn1};
     AuswertungFenster auswertung{p_.auswertung, p_.ablage, fenster, &bahn1};
     SpeichernFenster rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
     BestzeitenFenster bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
@@ -58,6 +59,7 @@ public:
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
+    Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel}};
 };
 
 }  // namespace tarvel::ui

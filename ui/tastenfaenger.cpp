@@ -1,41 +1,103 @@
 #include "ui/tastenfaenger.h"
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QWidget>
-#include <utility>
+#include <QMessageBox>
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
 
 #include "core/text.h"
+#include "programm/fluegel.h"
 
 namespace tarvel::ui {
+namespace {
 
-Tastenfaenger::Tastenfaenger(QWidget* fenster, std::function<bool(int)> belegt, std::function<void(int)> taste)
-    : QObject(fenster), fenster_(fenster), belegt_(std::move(belegt)), taste_(std::move(taste)) {
+bool nimmt_text(const QWidget* widget) {
+    return qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QComboBox*>(widget) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(widget) != nullptr;
+}
+
+/// A message box takes the underlined letters of its buttons without Alt.
+bool beantwortet(const QWidget* vorn, const QKeyEvent& ereignis) {
+    const auto* box = qobject_cast<const QMessageBox*>(vorn);
+    if (box == nullptr) {
+        return false;
+    }
+    const QList<QAbstractButton*> knoepfe = box->buttons();
+    return std::any_of(knoepfe.begin(), knoepfe.end(), [&](const QAbstractButton* knopf) {
+        return !knopf->shortcut().isEmpty() && knopf->shortcut()[0].key() == ereignis.key();
+    });
+}
+
+/// Milliseconds since the key was pressed: while the program is busy, keys wait. The window system stamps them by the
+/// machine's counter; a stamp of another clock says nothing.
+zeit_ms alter(const QKeyEvent& ereignis) {
+    constexpr std::uint32_t laengstens_ms = 5000;
+    using namespace std::chrono;
+    const auto jetzt = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    const auto vergangen = static_cast<std::uint32_t>(jetzt) - static_cast<std::uint32_t>(ereignis.timestamp());
+    return vergangen <= laengstens_ms ? vergangen : 0;
+}
+
+}  // namespace
+
+Tastenfaenger::Tastenfaenger(programm& p, const Rennfenster& fenster) : p_(p), fenster_(fenster) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool Tastenfaenger::eventFilter(QObject* ziel, QEvent* ereignis) {
-    // The first receiver only: an ignored key travels on to the parents, and would count again there.
-    QWidget* empfaenger = fenster_->focusWidget() != nullptr ? fenster_->focusWidget() : fenster_;
-    const bool tippt = qobject_cast<QLineEdit*>(empfaenger) != nullptr;  // a field takes what is typed into it
-    if (ereignis->type() == QEvent::KeyPress && ziel == empfaenger && !tippt && fenster_->isActiveWindow()) {
-        return nehmen(*static_cast<QKeyEvent*>(ereignis));
+    const QWidget* vorn = QApplication::activeWindow();
+    if (ereignis->type() == QEvent::KeyPress && vorn != nullptr && QApplication::activePopupWidget() == nullptr) {
+        // The first receiver only: an ignored key travels on to the parents, and would count again there.
+        const QWidget* empfaenger = vorn->focusWidget() != nullptr ? vorn->focusWidget() : vorn;
+        if (ziel == empfaenger && !nimmt_text(empfaenger)) {
+            return nehmen(vorn, *static_cast<QKeyEvent*>(ereignis));
+        }
     }
     return QObject::eventFilter(ziel, ereignis);
 }
 
-bool Tastenfaenger::nehmen(const QKeyEvent& ereignis) const {
+bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
     const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
     const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
     const auto code = ansi_code(ereignis.text().toStdString());
-    if (!code || strg != alt || !belegt_(*code)) {  // both together are AltGr
+    if (!code || strg != alt || !gilt(vorn, *code) || beantwortet(vorn, ereignis)) {  // both together are AltGr
         return false;
     }
-    if (!ereignis.isAutoRepeat()) {
-        taste_(*code);
+    if (ereignis.isAutoRepeat()) {
+        return true;
+    }
+    if (fuer_startampel(vorn)) {
+        p_.startampel.taste(*code, alter(ereignis));
+    } else {
+        p_.rennen.befehle.taste(*code, alter(ereignis));
     }
     return true;
+}
+
+bool Tastenfaenger::ist_rennfenster(const QWidget* vorn) const {
+    return vorn == fenster_.bahn1 || vorn == fenster_.startampel || vorn == fenster_.k_ampel;
+}
+
+bool Tastenfaenger::fuer_startampel(const QWidget* vorn) const {
+    return vorn == fenster_.startampel || (!ist_rennfenster(vorn) && fenster_.startampel->isVisible());
+}
+
+bool Tastenfaenger::gilt(const QWidget* vorn, int code) const {
+    const bool belegt = fuer_startampel(vorn) ? p_.startampel.ist_belegt(code) : p_.rennen.befehle.ist_belegt(code);
+    if (!belegt || ist_rennfenster(vorn)) {
+        return belegt;
+    }
+    if (code <= ' ' || !p_.fenster.ist_offen(fenstername::bahn1)) {  // the space bar and Enter press a button
+        return false;
+    }
+    return !p_.rennen.zustand.rennen_beendet ||
+           (p_.auswertung.zaehlt_nach() && p_.rennen.befehle.ist_rundentaste(code));
 }
 
 }  // namespace tarvel::ui

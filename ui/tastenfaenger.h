@@ -1,28 +1,38 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
+
+#include "programm/programm.h"
 
 class QKeyEvent;
 class QWidget;
 
 namespace tarvel::ui {
 
-/// Takes the characters that are typed while a window is in front, wherever its focus is. Keys that mean nothing to the
-/// race go their usual way.
+/// Takes the characters that mean something to the race, whichever window of the program is in front: a question or a
+/// message keeps no crossing back. What is typed into a field, and what answers a message, goes its usual way.
 class Tastenfaenger final : public QObject {
 public:
-    /// `belegt` and `taste` get the Windows-1252 value of the character. A key that is held counts once.
-    Tastenfaenger(QWidget* fenster, std::function<bool(int)> belegt, std::function<void(int)> taste);
+    struct Rennfenster {
+        const QWidget* bahn1;
+        const QWidget* startampel;
+        const QWidget* k_ampel;
+    };
+
+    Tastenfaenger(programm& p, const Rennfenster& fenster);
 
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
-    bool nehmen(const QKeyEvent& ereignis) const;
+    bool nehmen(const QWidget* vorn, const QKeyEvent& ereignis);
+    /// Before a race and behind it only its own windows take keys, and late crossings are waited for.
+    bool gilt(const QWidget* vorn, int code) const;
+    /// The start light takes the key, not the race.
+    bool fuer_startampel(const QWidget* vorn) const;
+    bool ist_rennfenster(const QWidget* vorn) const;
 
-    QWidget* fenster_;
-    std::function<bool(int)> belegt_;
-    std::function<void(int)> taste_;
+    programm& p_;
+    Rennfenster fenster_;
 };
 
 }  // namespace tarvel::ui

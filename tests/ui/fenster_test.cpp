@@ -1,6 +1,8 @@
 #include <QAccessible>
 #include <QListView>
+#include <QMessageBox>
 #include <QPushButton>
+#include <chrono>
 #include <map>
 
 #include "tests/ui/oberflaeche_probe.h"
@@ -129,6 +131,31 @@ TEST_F(Oberflaeche, TasteZaehltEinmalUndGehaltenGarNichtNoch) {
     QKeyEvent gehalten(QEvent::KeyPress, Qt::Key_Exclam, Qt::ShiftModifier, "!", true);
     QCoreApplication::sendEvent(o.bahn1.focusWidget() != nullptr ? o.bahn1.focusWidget() : &o.bahn1, &gehalten);
     EXPECT_EQ(t.runden(1), 4);
+}
+
+TEST_F(Oberflaeche, MeldungHaeltKeineUeberfahrtZurueck) {
+    using namespace std::chrono;
+    t.starten("Zeit", "5", {1, 2});
+    t.maschine.laufen(1000);
+    QMessageBox meldung(QMessageBox::Question, "?", "?", QMessageBox::Ok, &o.bahn1);
+    meldung.addButton("&2", QMessageBox::NoRole);
+    meldung.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&meldung));
+    QTest::keyClick(meldung.focusWidget(), '1');
+    t.maschine.laufen(8000);
+    EXPECT_EQ(t.runden(1), 0);
+    QKeyEvent alt(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, "1");
+    const auto jetzt = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    alt.setTimestamp(static_cast<quint64>(jetzt) - 300);
+    QCoreApplication::sendEvent(meldung.focusWidget(), &alt);
+    const zeit_ms alter = t.maschine.jetzt() - t.p.ereignisse[16].ereignis_zeit;
+    EXPECT_GE(alter, 300) << "it has waited while the program was busy";
+    EXPECT_LT(alter, 400);
+    QTest::keyClick(meldung.focusWidget(), '2');
+    t.maschine.laufen(1);
+    EXPECT_EQ(t.runden(1), 1);
+    EXPECT_EQ(t.runden(2), -1) << "the answer to the question";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !meldung.isVisible(); }));
 }
 
 TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {
