@@ -70,6 +70,11 @@ sprachliste einstellungsfenster::sprache_e() {
         }
     }
     schema_->texte_nennen(texte);
+    fuer_alle_zeilen([&texte](optionszeile& eine) {
+        for (optionswarnung& warnung : eine.warnungen) {
+            texte.text(warnung.deutsch, warnung.text);
+        }
+    });
     return texte;
 }
 
@@ -238,6 +243,11 @@ void einstellungsfenster::zeile_uebernehmen(optionszeile& eine) {
         eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
             um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);
         });
+    }
+    for (const optionswarnung& warnung : eine.warnungen) {
+        if (warnung.wenn(um_.ziel)) {
+            um_.meldungen.zeigen(warnung.text, um_.txt.titel[0]);
+        }
     }
 }
 

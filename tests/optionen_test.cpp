@@ -268,7 +268,6 @@ TEST_F(Optionen, StilleKorrekturen) {
     pruefen("txt_justierung_aufeinemsensortanken", "11", &e::tanksensor_justierung, 12);
     pruefen("txt_justierung_aufeinemsensortanken", "101", &e::tanksensor_justierung, 100);
     pruefen("e_ch_strafzeit", "123456", &e::chaos_strafzeit, 1234s);
-    pruefen("txt_trainingwechseldauer", "1001", &e::training_wechseldauer, 1000s);
     pruefen("w_edauertext", "0", &e::w_edauer, 2);
     pruefen("w_edauertext", "100", &e::w_edauer, 10);
     for (const char* adresse : {"2f8", "XYZ"}) {
@@ -278,6 +277,17 @@ TEST_F(Optionen, StilleKorrekturen) {
     waehlen("w_edauer1", 1);
     pruefen("w_edauertext", "0", &e::w_edauer, 60);
     pruefen("w_edauertext", "1000", &e::w_edauer, 999);
+    EXPECT_EQ(nach_eingabe("txt_trainingwechseldauer", "1001").size(), 1U) << "the file takes 999";
+    EXPECT_EQ(einst.training_wechseldauer, 1000s);
+}
+
+TEST_F(Optionen, WasDieDateiNichtSoWiedergibtWirdGesagt) {
+    EXPECT_EQ(nach_eingabe("t_warnung", "9,5").size(), 1U);
+    EXPECT_TRUE(nach_eingabe("t_warnung", "9").empty());
+    EXPECT_EQ(nach_eingabe("t_strafzeit", "0").size(), 1U);
+    EXPECT_TRUE(nach_eingabe("t_strafzeit", "1").empty());
+    EXPECT_EQ(nach_eingabe("t_inhalt_w", "13").size(), 1U);
+    EXPECT_EQ(einst.tank_warnung, 3) << "the file allows 8.5 litres of it";
 }
 
 }  // namespace
