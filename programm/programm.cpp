@@ -19,7 +19,7 @@ const std::string listenordner = "Listen\\";
 
 programm::programm(const plattform::dienste& d)
     : dienste(d),
-      ablage(d.programmordner),
+      ablage(d.programmordner, d.dateisystem),
       ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
@@ -154,6 +154,8 @@ bool programm::starten() {
         programm_beenden();
         return false;
     }
+    schreibreste_loeschen(ablage);
+    papierkorb_leeren(ablage);
     tvk_ini_laden(ablage, txt.werbetext);
     fahrzeugliste_laden();
     fahrerliste_laden();
@@ -212,7 +214,7 @@ void programm::einstellungen_geladen(bool im_betrieb) {
     form1.bilder_anzeigen();
     rennen.sounds.bereitstellen();
     if (einst.aut_loeschen && !im_betrieb) {
-        auto_dateien_loeschen(ablage);
+        auto_dateien_wegraeumen(ablage);
     }
     ergebnis_ordner_anlegen(ablage);
     geraete.hardware_starten(!im_betrieb);

@@ -215,7 +215,7 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
 
 TEST_F(Einstellungsdatei, NichtSchreibbarMeldetSichUndLaesstDieAlteDatei) {
     const std::string alt = t.maschine.datei_lesen(datei);
-    std::filesystem::create_directory(t.maschine.ordner() / (std::string(datei) + ".tarvel-neu"));
+    t.maschine.nicht_schreibbar = "einstellungen.ini";
     t.p.einst.tank_inhalt = 99;
     t.p.datei.einstellungen_speichern(datei);
     EXPECT_TRUE(t.p.datei.fehler_laden());
