@@ -38,7 +38,7 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
         hardware.at(nummer).bei_aenderung = [this, nummer] { hardware_waehlen(nummer); };
     }
     Command1.bei_klick = [this] { Command1_Click(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::einstellungen); };
+    Command2.bei_klick = [this] { schliessen(); };
     sounds_verbinden();
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
@@ -96,6 +96,7 @@ std::vector<sprachliste> einstellungsfenster::sprachdateien() {
 }
 
 void einstellungsfenster::laden() {
+    uart_gesichert();
     texte_lesen();
     um_.txt.sprache_usb2_laden(um_.ablage);
     seitenliste.leeren();
@@ -232,6 +233,16 @@ void einstellungsfenster::uart_zeigen() {
     }
 }
 
+void einstellungsfenster::schliessen() {
+    einstellungen& einst = um_.ziel.einst;
+    const bool geaendert = einst.uart != uart_vorher_;
+    einst.uart = uart_vorher_;
+    um_.fenster.entladen(fenstername::einstellungen);
+    if (geaendert && einst.hardware.hw_uart) {
+        um_.folgen.hardware_starten();
+    }
+}
+
 void einstellungsfenster::uart_portwerte_uebernehmen() {
     for (const char* name : {"uart_baud", "uart_datenbits", "uart_parity", "uart_stopbits"}) {
         zeile_uebernehmen(zeile(name));
@@ -273,7 +284,8 @@ void einstellungsfenster::Command1_Click() {
     werte_uebernehmen();
     bool gespeichert = fahrerseite.uebernehmen();
     gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
-    um_.folgen.einstellungen_uebernommen();
+    uart_gesichert();
+    um_.folgen.einstellungen_uebernommen(vorher);
     if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != vorher.trennzeichen) {
         trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
         if (trennzeichen_fehlen_) {

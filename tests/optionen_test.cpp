@@ -1,3 +1,4 @@
+#include "programm/at2560_verdrahtung.h"
 #include "tests/optionen_probe.h"
 
 namespace tarvel {
@@ -70,6 +71,41 @@ TEST_F(Optionen, AbbrechenAendertNichts) {
     EXPECT_EQ(element<feld>("t_inhalt_w").text(), "60");
     EXPECT_TRUE(fenster.hardware[0].gesetzt());
     EXPECT_EQ(fenster.fahrerseite.namen.zeilen().size(), 6U);
+}
+
+TEST_F(Optionen, AbbrechenNimmtAuchZurueckWasDerAssistentInKraftGesetztHat) {
+    waehlen("uart_baud", 0);
+    element<befehl>("uart_einrichten").klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "4800");
+    t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen.abbrechen.klicken();
+    fenster.Command2.klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "57600");
+    oeffnen();
+    waehlen("uart_baud", 1);
+    element<befehl>("uart_einrichten").klicken();
+    ASSERT_TRUE(t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen.zugang->einstellungen_speichern());
+    fenster.Command2.klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "9600") << "the wizard has kept it in the file";
+}
+
+TEST_F(Optionen, UmgekehrteVerdrahtungGiltMitDemUebernehmen) {
+    nach_kreuz("bahnstabsch");
+    EXPECT_FALSE(geraet.ist_an(ausgang::bahnstrom, 3)) << "the lane has power";
+    nach_kreuz("opt_ampel");
+    EXPECT_TRUE(geraet.ist_an(ausgang::ampel_rot, 2));
+    EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
+    t.p.form1.bahnstrom_aus();
+    nach_kreuz("bahnstabsch");
+    EXPECT_FALSE(geraet.ist_an(ausgang::bahnstrom, 3)) << "switched off by hand, and stays so";
+}
+
+TEST_F(Optionen, GesperrterAnschlussWirdGenannt) {
+    t.maschine.anschluesse.gesperrt = "/var/lock/LCK..ttyUSB0";
+    t.maschine.meldungen_gezeigt.clear();
+    fenster.hardware[messhardware::at_2560].umschalten();
+    fenster.Command1.klicken();
+    EXPECT_TRUE(letzte_meldung().starts_with(t.p.txt.meldung[27]));
+    EXPECT_TRUE(letzte_meldung().ends_with("/var/lock/LCK..ttyUSB0")) << letzte_meldung();
 }
 
 TEST_F(Optionen, EineMesshardwareZurZeit) {
