@@ -69,6 +69,7 @@ void einstellungspflege::start_datei_bestimmen() {
 
 void einstellungspflege::laden(bool im_betrieb) {
     einstellungsdatei& datei = um_.datei;
+    const bool da = um_.ablage.gibt_es(einstell_datei_);
     datei.einstellungsdatei_einlesen(einstell_datei_);
     if (!datei.fehler_laden()) {
         datei.einstellungsdatei_pruefen();
@@ -81,9 +82,9 @@ void einstellungspflege::laden(bool im_betrieb) {
     const bool unbrauchbar = datei.fehler_laden();
     if (unbrauchbar) {
         um_.meldungen.zeigen(um_.ziel.txt.meldung[9], um_.ziel.txt.titel[1]);
-        standard_statt_datei_ = true;
+        erststart_ = !da;
         standard_setzen();
-        standard_statt_datei_ = false;
+        erststart_ = false;
     }
     um_.belegung.tastenbelegung_laden(um_.ablage);  // a file of their own: damaged settings do not cost the keys
     if (unbrauchbar) {

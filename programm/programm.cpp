@@ -131,8 +131,8 @@ void programm::hardware_starten() {
 void programm::bestzeiten_laden() {
     bestzeiten_datei_ = einst.beste_datei;
     const bool geladen = bestzeiten.laden(ablage, bestzeiten_datei_);
-    if (pflege_.standard_statt_datei() && !ablage.gibt_es(bestzeit_pfad(bestzeiten_datei_))) {
-        bestzeiten.speichern(ablage, bestzeiten_datei_);  // a first start has none, and the next one finds them
+    if (pflege_.erststart() && !ablage.gibt_es(bestzeit_pfad(bestzeiten_datei_))) {
+        bestzeiten.speichern(ablage, bestzeiten_datei_);  // a first start has none yet, and the next one finds them
     } else if (!geladen) {
         dienste.meldungen.zeigen(txt.meldung[20], txt.titel[1]);
     }

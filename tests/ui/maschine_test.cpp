@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTest>
 #include <fstream>
 #include <vector>
@@ -12,7 +11,6 @@
 #include "platform_qt/druckerport.h"
 #include "platform_qt/qt_bibliothek.h"
 #include "platform_qt/qt_prozess.h"
-#include "platform_qt/qt_serienport.h"
 #include "tests/plattform/testprogramm.h"
 #include "ui/oberflaeche.h"
 
@@ -101,15 +99,6 @@ TEST(Prozess, SperreEinesLebendenBleibtAuchUnlesbar) {
     ASSERT_TRUE(erste.ist_einzige_instanz());
     maschine.datei_schreiben("tarvel.lock", "");  // the same file, emptied
     EXPECT_FALSE(qt::QtProzess(sperre).ist_einzige_instanz());
-}
-
-TEST(Serienport, NenntDieSperrdateiEinesAnderen) {
-    const QString name = "tarvel-test-" + QString::number(QCoreApplication::applicationPid());
-    EXPECT_EQ(qt::sperrdatei_von(name), QString());
-    QFile sperre("/tmp/LCK.." + name);
-    ASSERT_TRUE(sperre.open(QIODevice::WriteOnly));
-    EXPECT_EQ(qt::sperrdatei_von(name), sperre.fileName());
-    sperre.remove();
 }
 
 TEST(Dateien, EinePipeIstKeineDateiWelcherArtAuchImmer) {
