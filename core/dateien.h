@@ -1,11 +1,15 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/dateisystem.h"
 
 namespace tarvel {
 
@@ -14,11 +18,18 @@ bool dateiname_zulaessig(std::string_view name);
 /// The text as a name that every file system takes: other signs become "_".
 std::string als_dateiname(std::string_view text);
 
+/// A file that can be read to its end: no device, no pipe, and not larger than this.
+bool ist_lesbar(const std::filesystem::path& datei, std::uintmax_t bytes_max);
+inline constexpr std::uintmax_t bild_bytes_max = std::uintmax_t{64} * 1024 * 1024;  ///< of a picture
+
 /// The files below the program folder. Names are relative to it, with `\` and `/` alike; a name that leads out of the
 /// folder names no file. No call throws.
 class dateien {
 public:
-    explicit dateien(std::filesystem::path programmordner) : ordner_(std::move(programmordner)) {}
+    dateien(std::filesystem::path programmordner, const plattform::dateisystem& system)
+        : ordner_(std::move(programmordner)), system_(&system) {}
+    /// For tools: as far as the standard library goes.
+    explicit dateien(std::filesystem::path programmordner);
 
     /// Place of the file on the disk; empty if the name leads out of the program folder.
     std::filesystem::path pfad(std::string_view name) const;
@@ -40,6 +51,8 @@ public:
     bool umbenennen(std::string_view alt, std::string_view neu) const;
     bool kopieren(std::string_view alt, std::string_view neu) const;
     bool loeschen(std::string_view name) const;
+    /// Moves the file into a folder, under a name that is free there; the time of its last change is now.
+    bool wegraeumen(std::string_view name, std::string_view ordner) const;
     /// Copies a file from anywhere on the machine, of at most 16 MB; the old file of the name is whole until then.
     bool hereinkopieren(const std::filesystem::path& quelle, std::string_view neu) const;
 
@@ -47,8 +60,19 @@ public:
     /// order of their names.
     std::vector<std::string> auflisten(std::string_view ordner, std::string_view anfang, std::string_view ende) const;
 
+    /// Neither the folder nor one on the way to it is a link: what is tidied up in it is the program's own.
+    bool ist_eigener_ordner(std::string_view ordner) const;
+    /// Deletes the files of the folder whose last change is longer ago.
+    void aeltere_loeschen(std::string_view ordner, std::chrono::days als) const;
+    /// Deletes what writers have left in the folder that did not come to their end.
+    void reste_loeschen(std::string_view ordner) const;
+
 private:
+    /// Writes beside the file and renames: either the whole new file stands afterwards, or the old one is untouched.
+    bool ersetzen(const std::filesystem::path& datei, std::string_view inhalt) const;
+
     std::filesystem::path ordner_;
+    const plattform::dateisystem* system_;
 };
 
 }  // namespace tarvel

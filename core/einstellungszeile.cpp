@@ -23,17 +23,6 @@ std::string mit_blanks(const std::string& zahl) {
     return (zahl.starts_with('-') ? "" : " ") + zahl + " ";
 }
 
-/// What is typed as the reader will find it again: without blanks at its ends, in one line, and never the mark that
-/// ends a file.
-std::string als_zeile(const std::string& text) {
-    std::string zeile = text;
-    for (char& zeichen : zeile) {
-        zeichen = zeichen == '\r' || zeichen == '\n' ? ' ' : zeichen;
-    }
-    zeile = gekuerzt(zeile);
-    return zeile == einstellungs_ende ? std::string() : zeile;
-}
-
 int ganz(const std::string& zeile) {
     constexpr int grenze = std::numeric_limits<int>::max();
     return static_cast<int>(ganzzahl_lesen(zeile, -grenze, grenze));
@@ -53,6 +42,15 @@ zeilen_urteil ablehnen_wenn(bool schlecht) {
 }
 
 }  // namespace
+
+std::string als_zeile(std::string_view text) {
+    std::string zeile = von_1252(nach_1252(text));
+    for (char& zeichen : zeile) {
+        zeichen = zeichen == '\r' || zeichen == '\n' ? ' ' : zeichen;
+    }
+    zeile = gekuerzt(zeile);
+    return zeile == einstellungs_ende ? std::string() : zeile;
+}
 
 namespace pruefung {
 

@@ -12,6 +12,10 @@ namespace tarvel {
 /// The line that ends the settings in a file.
 inline constexpr std::string_view einstellungs_ende = "{EOF}";
 
+/// What is typed as the reader of a file will find it again: in one line, in the letters of a file, without blanks at
+/// its ends, and never the mark that ends a file.
+std::string als_zeile(std::string_view text);
+
 /// The lines of a settings file by their number Z; line 0 is the header.
 using einstellungs_zeilen = std::vector<std::string>;
 

@@ -151,6 +151,8 @@ public:
     void modus_anzeigen();
     /// The timing hardware in force has lost its connection, or has it again.
     void messgeraet_getrennt(bool getrennt);
+    /// What a message says more of a port that this lock file holds; nothing without one.
+    std::string anschluss_gesperrt(const std::string& sperrdatei) const;
     /// The AT-2560 is set up: until it is, nobody works in the window.
     void wartehinweis(bool an);
     /// The key F1.
@@ -195,6 +197,7 @@ private:
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;
     std::string wort_getrennt_;
+    std::string wort_gesperrt_;
     bool getrennt_ = false;
 };
 

@@ -41,7 +41,9 @@ sprachliste form1::sprache_m2() {
     texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
     texte.text("Liter je Runde", wort_verbrauch_).text("Bitte warten!", µwarte_titel);
     texte.text("AT-2560 Zeitmessung wird eingerichtet.", µwarte_text).text(" – keine Verbindung", wort_getrennt_);
-    return texte.text("Control Unit", command_cu);
+    texte.text("Control Unit", command_cu);
+    return texte.text("Den Anschluss hält ein anderes Programm oder ein anderer Benutzer, mit der Datei",
+                      wort_gesperrt_);
 }
 
 void form1::ansagen_setzen() {
@@ -181,6 +183,10 @@ void form1::modus_anzeigen() {
 void form1::messgeraet_getrennt(bool getrennt) {
     getrennt_ = getrennt;
     modus_anzeigen();
+}
+
+std::string form1::anschluss_gesperrt(const std::string& sperrdatei) const {
+    return sperrdatei.empty() ? std::string() : "\n\n" + wort_gesperrt_ + " " + sperrdatei;
 }
 
 void form1::wartehinweis(bool an) {

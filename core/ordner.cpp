@@ -1,10 +1,22 @@
 #include "core/ordner.h"
 
 #include <array>
+#include <chrono>
 #include <string>
 #include <string_view>
 
 namespace tarvel {
+namespace {
+
+constexpr std::array<std::string_view, 6> ergebnis_ordner_namen{"Ergebnisse",
+                                                                "Ergebnisse\\Einzelrennen",
+                                                                "Ergebnisse\\auto-Einzelrennen",
+                                                                "Ergebnisse\\Wettkampf",
+                                                                "Ergebnisse\\Wettkampf-Zwischenstand",
+                                                                "Ergebnisse\\Tagesrennen"};
+constexpr std::string_view papierkorb = "Ergebnisse\\Papierkorb";
+
+}  // namespace
 
 void bestzeiten_umziehen(const dateien& ablage) {
     const auto namen = ablage.auflisten("", "", ".bst");
@@ -16,18 +28,37 @@ void bestzeiten_umziehen(const dateien& ablage) {
 }
 
 void ergebnis_ordner_anlegen(const dateien& ablage) {
-    constexpr std::array<std::string_view, 6> ordner{"Ergebnisse",
-                                                     "Ergebnisse\\Einzelrennen",
-                                                     "Ergebnisse\\auto-Einzelrennen",
-                                                     "Ergebnisse\\Wettkampf",
-                                                     "Ergebnisse\\Wettkampf-Zwischenstand",
-                                                     "Ergebnisse\\Tagesrennen"};
-    for (const std::string_view name : ordner) {
+    for (const std::string_view name : ergebnis_ordner_namen) {
         ablage.ordner_anlegen(name);
     }
 }
 
-void auto_dateien_loeschen(const dateien& ablage) {
+void schreibreste_loeschen(const dateien& ablage) {
+    const auto aufraeumen = [&ablage](std::string_view ordner) {
+        if (ablage.ist_eigener_ordner(ordner)) {
+            ablage.reste_loeschen(ordner);
+        }
+    };
+    for (const std::string_view ordner :
+         {"", "Einstellungen", "Listen", "pictures", "slotcars", "Ergebnisse\\Bestzeiten"}) {
+        aufraeumen(ordner);
+    }
+    for (const std::string_view ordner : ergebnis_ordner_namen) {
+        aufraeumen(ordner);
+    }
+}
+
+void papierkorb_leeren(const dateien& ablage) {
+    constexpr std::chrono::days frist{30};
+    if (ablage.ist_eigener_ordner(papierkorb)) {
+        ablage.aeltere_loeschen(papierkorb, frist);
+    }
+}
+
+void auto_dateien_wegraeumen(const dateien& ablage) {
+    if (!ablage.ist_eigener_ordner(papierkorb)) {
+        return;
+    }
     struct muster {
         std::string_view ordner;
         std::string_view anfang;
@@ -37,8 +68,11 @@ void auto_dateien_loeschen(const dateien& ablage) {
                                                   {"Ergebnisse\\auto-Einzelrennen", "auto-", ".csv"},
                                                   {"Ergebnisse\\Wettkampf-Zwischenstand", "", ".wta"}}};
     for (const muster& gesucht : auto_dateien) {
+        if (!ablage.ist_eigener_ordner(gesucht.ordner)) {
+            continue;
+        }
         for (const std::string& name : ablage.auflisten(gesucht.ordner, gesucht.anfang, gesucht.ende)) {
-            ablage.loeschen(std::string(gesucht.ordner) + "\\" + name);
+            ablage.wegraeumen(std::string(gesucht.ordner) + "\\" + name, papierkorb);
         }
     }
 }

@@ -12,7 +12,14 @@ void bestzeiten_umziehen(const dateien& ablage);
 
 void ergebnis_ordner_anlegen(const dateien& ablage);
 
-/// Deletes the results that were saved without the operator's command.
-void auto_dateien_loeschen(const dateien& ablage);
+/// Deletes what a program that was killed while it wrote has left behind.
+void schreibreste_loeschen(const dateien& ablage);
+
+/// Moves the results that were saved without the operator's command to the folder `Ergebnisse\Papierkorb`. Linked
+/// folders are left alone.
+void auto_dateien_wegraeumen(const dateien& ablage);
+
+/// Deletes what has lain in that folder for 30 days.
+void papierkorb_leeren(const dateien& ablage);
 
 }  // namespace tarvel

@@ -5,7 +5,7 @@
 namespace tarvel {
 
 renndauer_angabe renndauer_lesen(std::string_view eingabe) {
-    std::string text(eingabe);
+    std::string text(gekuerzt(eingabe));
     werte_pruefen2(text);
     const std::size_t punkt = text.find('.');
     std::string sekunden = punkt == std::string::npos ? "00" : text.substr(punkt + 1);

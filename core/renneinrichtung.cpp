@@ -64,12 +64,18 @@ void renneinrichtung::werte_pruefen() {
         stunden = "0";
     }
 
-    const double zahl = zahl_lesen(dauer);
+    dauer_pruefen();
+}
+
+void renneinrichtung::dauer_pruefen() {
+    std::string mit_punkt = dauer;
+    werte_pruefen2(mit_punkt);  // as a settings file has it
+    const double zahl = zahl_lesen(mit_punkt);
     if (zahl < 0) {
         dauer = art == renn_art::runden ? "1" : "0";
     } else if (art == renn_art::runden && zahl > 9999) {
         dauer = "9999";
-    } else if (art == renn_art::zeit && zahl > 59) {
+    } else if (art == renn_art::zeit && std::trunc(zahl) > 59) {  // the seconds behind it do not count here
         dauer = "59";
     }
 }

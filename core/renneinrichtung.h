@@ -29,6 +29,9 @@ struct renneinrichtung {
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.
     void vor_dem_speichern_pruefen();
+
+private:
+    void dauer_pruefen();
 };
 
 enum class einrichtungsfehler { keiner, dauer, keine_spur };

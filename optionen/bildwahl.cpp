@@ -16,6 +16,9 @@ constexpr const char* darueber = "..";
 
 /// The file begins as pictures of the two kinds do.
 bool ist_bild(const fs::path& datei) {
+    if (!ist_lesbar(datei, bild_bytes_max)) {
+        return false;
+    }
     std::array<char, 4> anfang{};
     std::ifstream eingabe(datei, std::ios::binary);
     eingabe.read(anfang.data(), anfang.size());

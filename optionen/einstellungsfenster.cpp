@@ -38,7 +38,7 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
         hardware.at(nummer).bei_aenderung = [this, nummer] { hardware_waehlen(nummer); };
     }
     Command1.bei_klick = [this] { Command1_Click(); };
-    Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::einstellungen); };
+    Command2.bei_klick = [this] { schliessen(); };
     sounds_verbinden();
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
@@ -70,6 +70,11 @@ sprachliste einstellungsfenster::sprache_e() {
         }
     }
     schema_->texte_nennen(texte);
+    fuer_alle_zeilen([&texte](optionszeile& eine) {
+        for (optionswarnung& warnung : eine.warnungen) {
+            texte.text(warnung.deutsch, warnung.text);
+        }
+    });
     return texte;
 }
 
@@ -91,6 +96,7 @@ std::vector<sprachliste> einstellungsfenster::sprachdateien() {
 }
 
 void einstellungsfenster::laden() {
+    uart_gesichert();
     texte_lesen();
     um_.txt.sprache_usb2_laden(um_.ablage);
     seitenliste.leeren();
@@ -227,6 +233,16 @@ void einstellungsfenster::uart_zeigen() {
     }
 }
 
+void einstellungsfenster::schliessen() {
+    einstellungen& einst = um_.ziel.einst;
+    const bool geaendert = einst.uart != uart_vorher_;
+    einst.uart = uart_vorher_;
+    um_.fenster.entladen(fenstername::einstellungen);
+    if (geaendert && einst.hardware.hw_uart) {
+        um_.folgen.hardware_starten();
+    }
+}
+
 void einstellungsfenster::uart_portwerte_uebernehmen() {
     for (const char* name : {"uart_baud", "uart_datenbits", "uart_parity", "uart_stopbits"}) {
         zeile_uebernehmen(zeile(name));
@@ -238,6 +254,11 @@ void einstellungsfenster::zeile_uebernehmen(optionszeile& eine) {
         eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
             um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);
         });
+    }
+    for (const optionswarnung& warnung : eine.warnungen) {
+        if (warnung.wenn(um_.ziel)) {
+            um_.meldungen.zeigen(warnung.text, um_.txt.titel[0]);
+        }
     }
 }
 
@@ -263,7 +284,8 @@ void einstellungsfenster::Command1_Click() {
     werte_uebernehmen();
     bool gespeichert = fahrerseite.uebernehmen();
     gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
-    um_.folgen.einstellungen_uebernommen();
+    uart_gesichert();
+    um_.folgen.einstellungen_uebernommen(vorher);
     if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != vorher.trennzeichen) {
         trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
         if (trennzeichen_fehlen_) {

@@ -81,6 +81,8 @@ public:
     void laden() override;
     /// A picture that was chosen is copied at once, also if the list is not taken over.
     void entladen() override { um_.ziel.haupt.bilder_anzeigen(); }
+    /// Nothing is taken over, nor what the wizard of the AT-2560 has changed and not saved.
+    void schliessen() override;
     /// Opens the window on a page.
     void oeffnen(seitennummer erste);
     /// Shows what the settings say of the best times now, and the files that are there.
@@ -89,6 +91,8 @@ public:
     void uart_zeigen();
     /// What the page says of the AT-2560's port is in force: its wizard is about to open it.
     void uart_portwerte_uebernehmen();
+    /// What the settings say of the AT-2560 now stays when the window is cancelled.
+    void uart_gesichert() { uart_vorher_ = um_.ziel.einst.uart; }
     /// The language files of the window.
     std::vector<sprachliste> sprachdateien() override;
 
@@ -119,6 +123,7 @@ private:
     std::vector<soundfeld*> sounds_;  ///< in the order of their numbers, from 1 on at index 0
     std::string grenzen_titel_;
     std::string alte_bleibt_;
+    at2560_anschluss uart_vorher_;
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
     std::optional<schemawahl> schema_;  ///< once its rows are there
 };

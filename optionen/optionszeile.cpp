@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/einstellungszeile.h"
 #include "core/text.h"
 
 namespace tarvel {
@@ -56,6 +57,12 @@ double zahl_im_feld(const steuerelement& element) {
 
 std::string zahl_als_text(double zahl) {
     return zahl_text(zahl, ',');
+}
+
+optionszeile_zeiger mit_warnung(optionszeile_zeiger zeile, std::string_view text,
+                                std::function<bool(const einstellungs_ziel&)> wenn) {
+    zeile->warnungen.push_back({std::string(text), {}, std::move(wenn)});
+    return zeile;
 }
 
 optionszeile_zeiger leerer_kasten(const beschriftet& b) {
@@ -115,7 +122,7 @@ optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel,
     element->laenge_max(laenge_max);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->text(ziel(z)); };
     zeile->uebernehmen = [ziel, mindestens, e = element](const einstellungs_ziel& z, const auto&) {
-        const std::string_view neu = gekuerzt(e->text());  // the file's reader cuts blanks off as well
+        const std::string neu = als_zeile(e->text());
         if (laenge(neu) >= mindestens) {
             ziel(z) = neu;
         }
@@ -194,8 +201,8 @@ optionszeile_zeiger sound(const beschriftet& b, const zugriff<std::string>& ziel
     element->datei.laenge_max(200);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->datei.text(ziel(z)); };
     zeile->uebernehmen = [ziel, leer, e = element](const einstellungs_ziel& z, const auto&) {
-        const std::string_view neu = gekuerzt(e->datei.text());
-        ziel(z) = neu.empty() ? leer : neu;
+        const std::string neu = als_zeile(e->datei.text());
+        ziel(z) = neu.empty() ? std::string(leer) : neu;
     };
     return std::move(zeile);
 }

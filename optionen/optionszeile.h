@@ -19,6 +19,13 @@ struct soundfeld {
     befehl abspielen;
 };
 
+/// What is said of a value that was taken and that a settings file does not give back as it is.
+struct optionswarnung {
+    std::string deutsch;
+    std::string text;
+    std::function<bool(const einstellungs_ziel&)> wenn;
+};
+
 /// One value or command in the options window: caption, control, unit, and the ways between the control and the
 /// settings.
 struct optionszeile {
@@ -31,12 +38,13 @@ struct optionszeile {
     bezeichnung einheit;
     std::vector<std::string> eintraege;  ///< of a choice, in the window's language
     std::string grenzen_meldung;
+    std::vector<optionswarnung> warnungen;
 
     /// Settings to control.
     std::function<void(const einstellungs_ziel&)> zeigen;
     /// Control to settings.
     std::function<void(const einstellungs_ziel&, const melder&)> uebernehmen;
-    /// The row's texts in the order of the language file.
+    /// The row's texts in the order of the language file; its warnings stand at the end of all rows.
     std::function<void(sprachliste&)> texte_nennen;
 };
 
@@ -92,6 +100,10 @@ optionszeile_zeiger leeres_feld(const beschriftet& b, int laenge_max);
 optionszeile_zeiger leerer_kasten(const beschriftet& b);
 /// A command among the values. What it does the caller fills.
 optionszeile_zeiger aktion(const beschriftet& b);
+
+/// The row says so whenever it has taken over a value of that kind.
+optionszeile_zeiger mit_warnung(optionszeile_zeiger zeile, std::string_view text,
+                                std::function<bool(const einstellungs_ziel&)> wenn);
 
 /// The number in the field, with comma or point; 0 for none.
 double zahl_im_feld(const steuerelement& element);

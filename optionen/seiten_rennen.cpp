@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
 #include "optionen/optionsseite.h"
 
 // The pages of what happens in a race.
@@ -51,8 +55,19 @@ optionszeile_zeiger fruehstart_strafzeit() {
     return zeile;
 }
 
+/// The window takes a penalty of nothing, the file does not.
+optionszeile_zeiger tank_strafzeit() {
+    return mit_warnung(zahl({"t_strafzeit", "Strafzeit", "Sekunden"}, wert(&e::tank_strafzeit),
+                            {0, 60, "Strafzeit bei leerem Tank außerhalb des gültigen Bereichs (0-60)."}, 100),
+                       "Mit der Strafzeit 0 ist die Einstellungsdatei ungültig: Beim nächsten Laden gelten statt aller "
+                       "Einstellungen die Standardwerte. Soll ein leerer Tank nichts kosten, bitte als Aktion ohne "
+                       "wählen.",
+                       [](const einstellungs_ziel& z) { return z.einst.tank_strafzeit == 0s; });
+}
+
 /// At most half a tank, whatever size the tank has just been given.
 optionszeile_zeiger tankwarnung() {
+    constexpr double datei_spielraum = 2;  // litres above half a tank that a file may have
     optionszeile_zeiger zeile = leeres_feld({"t_warnung", "Tankwarnung bei", "Liter"}, 8);
     optionszeile* zeiger = zeile.get();
     feld* element = &std::get<feld>(zeile->element);
@@ -61,15 +76,25 @@ optionszeile_zeiger tankwarnung() {
         texte.text("in Box bei Literzahl außerhalb des gültigen Bereichs.", zeiger->grenzen_meldung);
     };
     zeile->zeigen = [element](const einstellungs_ziel& z) { element->text(zahl_als_text(z.einst.tank_warnung)); };
-    zeile->uebernehmen = [element, zeiger](const einstellungs_ziel& z, const optionszeile::melder& melden) {
+    const auto angepasst = std::make_shared<bool>(false);
+    zeile->uebernehmen = [element, zeiger, angepasst](const einstellungs_ziel& z, const optionszeile::melder& melden) {
         const double liter = zahl_im_feld(*element);
-        if (liter < 1 || liter > z.einst.tank_inhalt / 2.0) {
+        const double halber_tank = z.einst.tank_inhalt / 2.0;
+        *angepasst = false;
+        if (liter >= 1 && liter <= halber_tank) {
+            z.einst.tank_warnung = liter;
+        } else if (z.einst.tank_warnung <= halber_tank + datei_spielraum) {
             melden(zeiger->grenzen_meldung);
-            return;
+        } else {  // the tank has become too small for the old one as well
+            z.einst.tank_warnung = std::max(1, z.einst.tank_inhalt / 4);
+            *angepasst = true;
         }
-        z.einst.tank_warnung = liter;
     };
-    return zeile;
+    zeile = mit_warnung(std::move(zeile), "Die Tankwarnung liegt nun bei einem Viertel des neuen Tankinhalts.",
+                        [angepasst](const einstellungs_ziel& /*z*/) { return *angepasst; });
+    return mit_warnung(
+        std::move(zeile), "Die Tankwarnung wird beim nächsten Laden der Einstellungen auf ganze Liter gekürzt.",
+        [](const einstellungs_ziel& z) { return z.einst.tank_warnung != std::trunc(z.einst.tank_warnung); });
 }
 
 }  // namespace
@@ -118,11 +143,10 @@ optionsseite_zeiger tanken_chaos() {
                                      {1, 300, "Durchschn. Rundenzeit außerhalb des gültigen Bereichs (1-300)."})
                              << tankwarnung()
                              << kasten({"tankanz_art", "grafische Tankanzeige"}, wert(&e::tankanzeige_grafisch));
-    seite->gruppe("Leerer Tank", 0)
-        << wahl({"t_straf_combo", "Aktion bei leerem Tank"}, wert(&e::tank_straf_option), 0,
-                {"ohne", "Disqualifikation", "1 Runde Abzug", "Stromunterbrechung", "Zeitstrafe"})
-        << zahl({"t_strafzeit", "Strafzeit", "Sekunden"}, wert(&e::tank_strafzeit),
-                {0, 60, "Strafzeit bei leerem Tank außerhalb des gültigen Bereichs (0-60)."}, 100);
+    seite->gruppe("Leerer Tank", 0) << wahl({"t_straf_combo", "Aktion bei leerem Tank"}, wert(&e::tank_straf_option), 0,
+                                            {"ohne", "Disqualifikation", "1 Runde Abzug", "Stromunterbrechung",
+                                             "Zeitstrafe"})
+                                    << tank_strafzeit();
     seite->gruppe("Tanken", 1)
         << wahl({"tank_art", "Tanken"}, wert(&e::tank_art), 1, {"auf einem Kontakt", "zwischen 2 Kontakten"})
         << zahl({"t_wartezeit", "Wartezeit bis Tankbeginn", "Sekunden"}, wert(&e::tank_wartezeit),

@@ -48,6 +48,15 @@ optionszeile_zeiger einfahrdauer() {
     return zeile;
 }
 
+/// The window takes one second more than the file.
+optionszeile_zeiger trainingwechseldauer() {
+    return mit_warnung(zahl({"txt_trainingwechseldauer", "Countdown bis zum Fahrerwechsel", "Sekunden"},
+                            wert(&e::training_wechseldauer), begrenzt(0, 1000)),
+                       "Ein Countdown von 1000 Sekunden gilt nur bis zum Programmende: Beim Laden der Einstellungen "
+                       "gelten höchstens 999.",
+                       [](const einstellungs_ziel& z) { return z.einst.training_wechseldauer > 999s; });
+}
+
 }  // namespace
 
 optionsseite_zeiger wettkampf_training() {
@@ -77,8 +86,7 @@ optionsseite_zeiger wettkampf_training() {
                 1000);
     seite->gruppe("Training", 1) << wahl({"cmb_training", "Trainingsart"}, wert(&e::training_art), 0,
                                          {"normales Training", "Intervaltraining", "Dauertraining"})
-                                 << zahl({"txt_trainingwechseldauer", "Countdown bis zum Fahrerwechsel", "Sekunden"},
-                                         wert(&e::training_wechseldauer), begrenzt(0, 1000))
+                                 << trainingwechseldauer()
                                  << wahl({"cmb_trainingweiter", "danach"}, wert(&e::training_weiter), 0,
                                          {"neu starten", "fortsetzen"});
     return seite;

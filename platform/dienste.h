@@ -4,6 +4,7 @@
 
 #include "platform/bibliothek.h"
 #include "platform/bildschirm.h"
+#include "platform/dateisystem.h"
 #include "platform/druckerport.h"
 #include "platform/kalender.h"
 #include "platform/klang.h"
@@ -29,6 +30,7 @@ struct dienste {
     plattform::serienport_dienst& serienports;
     plattform::bibliothek_dienst& bibliotheken;
     plattform::druckerport& druckerport;
+    const plattform::dateisystem& dateisystem;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -32,6 +33,8 @@ public:
     virtual std::unique_ptr<serienport> erzeugen() = 0;
     /// COM numbers of the ports that are there now, in ascending order.
     virtual std::vector<int> vorhandene() const = 0;
+    /// The lock file of another program or user that kept the last port from opening; empty for any other reason.
+    virtual std::string sperrdatei() const { return {}; }
 };
 
 }  // namespace tarvel::plattform

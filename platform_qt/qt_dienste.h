@@ -3,6 +3,7 @@
 #include "platform/dienste.h"
 #include "platform_qt/druckerport.h"
 #include "platform_qt/qt_bibliothek.h"
+#include "platform_qt/qt_dateisystem.h"
 #include "platform_qt/qt_klang.h"
 #include "platform_qt/qt_meldungen.h"
 #include "platform_qt/qt_prozess.h"
@@ -46,6 +47,7 @@ private:
     QtBildschirm bildschirm_;
     QtProzess prozess_;
     QtZufall zufall_;
+    QtDateisystem dateisystem_;
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
     QtSerienportDienst serienports_{ordner_};

@@ -11,6 +11,8 @@ namespace tarvel::qt {
 class QtProzess final : public plattform::prozess {
 public:
     QtProzess();
+    /// With a lock file of another name.
+    explicit QtProzess(const QString& datei);
     bool ist_einzige_instanz() override;
     void beenden() override;
 

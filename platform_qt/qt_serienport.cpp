@@ -1,5 +1,6 @@
 #include "platform_qt/qt_serienport.h"
 
+#include <QFile>
 #include <QHash>
 #include <QStringList>
 
@@ -33,7 +34,22 @@ std::optional<Portwerte> portwerte_lesen(std::string_view text) {
     return Portwerte{baud, paritaeten[teile[1]], static_cast<QSerialPort::DataBits>(datenbits), stopbits[teile[3]]};
 }
 
-QtSerienport::QtSerienport(const Portnamen& namen) : namen_(namen) {
+QString sperrdatei_von(const QString& port) {
+#ifdef Q_OS_WIN
+    Q_UNUSED(port)
+#else
+    const QString name = "/LCK.." + QString(port).replace('/', '_');
+    for (const char* ordner : {"/var/lock", "/etc/locks", "/var/spool/locks", "/var/spool/uucp", "/tmp", "/var/tmp",
+                               "/var/lock/lockdev", "/run/lock"}) {
+        if (QFile::exists(ordner + name)) {
+            return ordner + name;
+        }
+    }
+#endif
+    return {};
+}
+
+QtSerienport::QtSerienport(const Portnamen& namen, QString& sperrdatei) : namen_(namen), sperrdatei_(sperrdatei) {
     QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { lesen(); });
     QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                      [this](QSerialPort::SerialPortError art) { fehler(art); });
@@ -45,6 +61,7 @@ QtSerienport::~QtSerienport() {
 
 bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
     schliessen();
+    sperrdatei_.clear();
     const QString name = namen_.von(nummer);
     const std::optional<Portwerte> portwerte = portwerte_lesen(werte);
     if (name.isEmpty() || !portwerte) {
@@ -56,7 +73,11 @@ bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
     port_.setDataBits(portwerte->datenbits);
     port_.setStopBits(portwerte->stopbits);
     port_.setFlowControl(QSerialPort::NoFlowControl);
-    return port_.open(QIODevice::ReadWrite);
+    const bool gut = port_.open(QIODevice::ReadWrite);
+    if (!gut && port_.error() == QSerialPort::PermissionError) {
+        sperrdatei_ = sperrdatei_von(port_.portName());
+    }
+    return gut;
 }
 
 void QtSerienport::schliessen() {

@@ -10,7 +10,7 @@ namespace tarvel::qt {
 
 class QtSerienport final : public plattform::serienport {
 public:
-    explicit QtSerienport(const Portnamen& namen);
+    QtSerienport(const Portnamen& namen, QString& sperrdatei);
     ~QtSerienport() override;
 
     bool oeffnen(int nummer, std::string_view werte) override;
@@ -23,6 +23,7 @@ private:
     void fehler(QSerialPort::SerialPortError art);
 
     const Portnamen& namen_;
+    QString& sperrdatei_;
     QSerialPort port_;
 };
 
@@ -30,12 +31,19 @@ class QtSerienportDienst final : public plattform::serienport_dienst {
 public:
     explicit QtSerienportDienst(std::filesystem::path programmordner) : namen_(std::move(programmordner)) {}
 
-    std::unique_ptr<plattform::serienport> erzeugen() override { return std::make_unique<QtSerienport>(namen_); }
+    std::unique_ptr<plattform::serienport> erzeugen() override {
+        return std::make_unique<QtSerienport>(namen_, sperrdatei_);
+    }
     std::vector<int> vorhandene() const override { return namen_.vorhandene(); }
+    std::string sperrdatei() const override { return sperrdatei_.toStdString(); }
 
 private:
     Portnamen namen_;
+    QString sperrdatei_;
 };
+
+/// The lock file that is there for a port of this name; empty if there is none.
+QString sperrdatei_von(const QString& port);
 
 /// The values of a port's settings text.
 struct Portwerte {

@@ -43,6 +43,9 @@ void at2560_verdrahtung::geraet_verbinden() {
 
 bool at2560_verdrahtung::einstellungen_speichern() {
     const bool gut = pflege_.speichern_mit_feldern();
+    if (gut) {
+        optionen_.uart_gesichert();
+    }
     optionen_.uart_zeigen();
     return gut;
 }

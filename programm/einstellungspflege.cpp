@@ -53,14 +53,12 @@ void einstellungspflege::start_datei_bestimmen() {
     const std::string name = einstellungsname(einstell_datei_);
     if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
         einstell_datei_ = standard_einstellungen;
-    } else if (name.size() + vorspann.size() < einstell_datei_.size()) {
+    } else {
         einstell_datei_ = vorspann + name;
     }
     const auto modus = static_cast<modul_4x4>(ganzzahl_lesen(start.modus, 0, 7));
     hw_4x4_modus_start_ = neustart && modus >= modul_4x4::aus ? std::optional(modus) : std::nullopt;
-    if (!neustart) {
-        einstell_standarddatei_ = einstell_datei_;
-    }
+    einstell_standarddatei_ = neustart ? std::string(standard_einstellungen) : einstell_datei_;
     if (neustart || start.zustand == "0") {  // a restart request lasts one start only
         start.zustand = start.naechster_zustand;
         start.modus = start.naechster_modus;
@@ -71,6 +69,7 @@ void einstellungspflege::start_datei_bestimmen() {
 
 void einstellungspflege::laden(bool im_betrieb) {
     einstellungsdatei& datei = um_.datei;
+    const bool da = um_.ablage.gibt_es(einstell_datei_);
     datei.einstellungsdatei_einlesen(einstell_datei_);
     if (!datei.fehler_laden()) {
         datei.einstellungsdatei_pruefen();
@@ -83,7 +82,9 @@ void einstellungspflege::laden(bool im_betrieb) {
     const bool unbrauchbar = datei.fehler_laden();
     if (unbrauchbar) {
         um_.meldungen.zeigen(um_.ziel.txt.meldung[9], um_.ziel.txt.titel[1]);
+        erststart_ = !da;
         standard_setzen();
+        erststart_ = false;
     }
     um_.belegung.tastenbelegung_laden(um_.ablage);  // a file of their own: damaged settings do not cost the keys
     if (unbrauchbar) {

@@ -42,6 +42,8 @@ public:
     void start_datei_bestimmen();
     /// Loads the file in force; an unusable one shows its message and is replaced by the defaults.
     void laden() { laden(false); }
+    /// The defaults are being set because there is no file yet.
+    bool erststart() const { return erststart_; }
     /// Saves the file in force, false after a failure.
     bool speichern();
     /// The same from elsewhere than the main window, whose fields go with it within their limits.
@@ -63,6 +65,7 @@ private:
     std::string einstell_datei_;                   ///< current settings file, without its folder once it is loaded
     std::string einstell_standarddatei_;           ///< the one the program starts with
     std::optional<modul_4x4> hw_4x4_modus_start_;  ///< mode of the 4x4 module that a restart asked for
+    bool erststart_ = false;
 };
 
 }  // namespace tarvel

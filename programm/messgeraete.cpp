@@ -106,7 +106,8 @@ void messgeraete::wartehinweis(bool an) {
 }
 
 void messgeraete::port_fehlt(const std::string& meldung) {
-    um_.dienste.meldungen.zeigen(meldung, um_.txt.titel[1]);
+    um_.dienste.meldungen.zeigen(meldung + um_.form1.anschluss_gesperrt(um_.dienste.serienports.sperrdatei()),
+                                 um_.txt.titel[1]);
 }
 
 void messgeraete::nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldung) {
@@ -114,7 +115,8 @@ void messgeraete::nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldun
     um_.einst.hardware.hw_simulation = true;
     trennen(geraet);
     ausgaben_anzeigen();
-    um_.dienste.meldungen.zeigen(meldung, um_.txt.titel[1]);
+    um_.dienste.meldungen.zeigen(meldung + um_.form1.anschluss_gesperrt(um_.dienste.serienports.sperrdatei()),
+                                 um_.txt.titel[1]);
 }
 
 void messgeraete::verloren() {

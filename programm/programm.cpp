@@ -19,7 +19,7 @@ const std::string listenordner = "Listen\\";
 
 programm::programm(const plattform::dienste& d)
     : dienste(d),
-      ablage(d.programmordner),
+      ablage(d.programmordner, d.dateisystem),
       ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
@@ -67,15 +67,8 @@ void programm::hauptfenster_verbinden() {
     form1.beenden = [this] { programm_beenden(); };
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
-    form1.bahnstrom_ein = [this] {
-        ausgaben.ampelnRoff(0);
-        ausgaben.ampelnGRon();
-        ausgaben.relais_off(0);
-    };
-    form1.bahnstrom_aus = [this] {
-        ausgaben.relais_on(0);
-        ausgaben.ampelnGRoff();
-    };
+    form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
+    form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
     form1.fahrerbilder_uebernehmen = [this] {
         const int anzahl = fahrerliste.bilder_uebernehmen(ablage, "nopic");
         bilder_melden(anzahl, fahrerliste_speichern());
@@ -90,6 +83,18 @@ void programm::hauptfenster_verbinden() {
     form1.fahrzeuge_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrzeuge); };
 }
 
+void programm::bahnstrom_von_hand(bool an) {
+    strom_von_hand_aus_ = !an;
+    if (an) {
+        ausgaben.ampelnRoff(0);
+        ausgaben.ampelnGRon();
+        ausgaben.relais_off(0);
+    } else {
+        ausgaben.relais_on(0);
+        ausgaben.ampelnGRoff();
+    }
+}
+
 void programm::rennen_beginnen(veranstaltung& teil_von) {
     rennen.teil_von.wechseln(teil_von);
     fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
@@ -99,7 +104,13 @@ bool programm::einstellungen_speichern() {
     return pflege_.speichern();
 }
 
-void programm::einstellungen_uebernommen() {
+void programm::einstellungen_uebernommen(const einstellungen& vorher) {
+    if (einst.bahnstrom_invers != vorher.bahnstrom_invers || einst.ampel_invers != vorher.ampel_invers) {
+        ausgaben.ruhezustand();  // in the new wiring
+        if (strom_von_hand_aus_) {
+            bahnstrom_von_hand(false);
+        }
+    }
     form1.listen_zeigen();
     form1.farben_einstellen();
     form1.bilder_anzeigen();
@@ -114,12 +125,16 @@ void programm::einstellungen_uebernommen() {
 }
 
 void programm::hardware_starten() {
+    strom_von_hand_aus_ = false;  // devices start with the power on
     geraete.hardware_starten(false);
 }
 
 void programm::bestzeiten_laden() {
     bestzeiten_datei_ = einst.beste_datei;
-    if (!bestzeiten.laden(ablage, bestzeiten_datei_)) {
+    const bool geladen = bestzeiten.laden(ablage, bestzeiten_datei_);
+    if (pflege_.erststart() && !ablage.gibt_es(bestzeit_pfad(bestzeiten_datei_))) {
+        bestzeiten.speichern(ablage, bestzeiten_datei_);  // a first start has none yet, and the next one finds them
+    } else if (!geladen) {
         dienste.meldungen.zeigen(txt.meldung[20], txt.titel[1]);
     }
     form1.beste_zeiten_anzeigen();
@@ -155,6 +170,8 @@ bool programm::starten() {
         programm_beenden();
         return false;
     }
+    schreibreste_loeschen(ablage);
+    papierkorb_leeren(ablage);
     tvk_ini_laden(ablage, txt.werbetext);
     fahrzeugliste_laden();
     fahrerliste_laden();
@@ -213,9 +230,10 @@ void programm::einstellungen_geladen(bool im_betrieb) {
     form1.bilder_anzeigen();
     rennen.sounds.bereitstellen();
     if (einst.aut_loeschen && !im_betrieb) {
-        auto_dateien_loeschen(ablage);
+        auto_dateien_wegraeumen(ablage);
     }
     ergebnis_ordner_anlegen(ablage);
+    strom_von_hand_aus_ = false;
     geraete.hardware_starten(!im_betrieb);
     if (!im_betrieb) {
         fenster.zeigen(fenstername::Form1);

@@ -117,11 +117,12 @@ public:
 private:
     void einstellungen_geladen(bool im_betrieb) override;
     bool einstellungen_speichern() override;
-    void einstellungen_uebernommen() override;
+    void einstellungen_uebernommen(const einstellungen& vorher) override;
     void hardware_starten() override;
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
+    void bahnstrom_von_hand(bool an);
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();
@@ -133,6 +134,7 @@ private:
     void bilder_melden(int anzahl, bool gespeichert);
 
     std::string bestzeiten_datei_;  ///< last one that was asked for
+    bool strom_von_hand_aus_ = false;
     bool programm_beendet_ = false;
 };
 

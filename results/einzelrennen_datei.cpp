@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <utility>
 
 #include "core/text.h"
 #include "core/texte.h"
@@ -12,6 +13,27 @@ namespace {
 
 /// One lane takes five fields of a line, so that a table program shows the lanes side by side.
 using feldblock = std::array<std::string, 5>;
+
+/// A separator within a name would move the columns.
+std::string ohne_trenner(std::string text, const std::string& trenner) {
+    const std::string ersatz = trenner == " " ? "_" : " ";
+    std::size_t stelle = text.find(trenner);
+    while (!trenner.empty() && stelle != std::string::npos) {
+        text.replace(stelle, trenner.size(), ersatz);
+        stelle = text.find(trenner, stelle + ersatz.size());
+    }
+    return text;
+}
+
+/// The class in front of a driver's name, with its separator; class "0" if he has none.
+std::pair<std::string, std::string> klasse_und_name(const std::string& fahrer, const std::string& trenner) {
+    const std::string_view klasse = links(fahrer, 1);
+    const std::string_view rest = std::string_view(fahrer).substr(klasse.size());
+    if (trenner.empty() || !rest.starts_with(trenner)) {
+        return {"0" + trenner, fahrer};
+    }
+    return {std::string(klasse) + trenner, std::string(rest.substr(trenner.size()))};
+}
 
 class schreiber {
 public:
@@ -35,16 +57,7 @@ private:
 
     std::string zeit(zeit_ms dauer) const { return zeit_formatieren(dauer, true, trennzeichen_); }
 
-    /// A separator within a name would move the columns.
-    std::string name(std::string text) const {
-        const std::string ersatz = trenner_ == " " ? "_" : " ";
-        std::size_t stelle = text.find(trenner_);
-        while (!trenner_.empty() && stelle != std::string::npos) {
-            text.replace(stelle, trenner_.size(), ersatz);
-            stelle = text.find(trenner_, stelle + ersatz.size());
-        }
-        return text;
-    }
+    std::string name(const std::string& text) const { return ohne_trenner(text, trenner_); }
 
     void block_zeile(const std::function<feldblock(const spur&)>& block) {
         std::string zeile;
@@ -135,9 +148,8 @@ std::vector<std::string> einzelrennen_zeilen(const rennergebnis& ergebnis, const
 std::vector<std::string> tages_zeilen(const rennergebnis& ergebnis, const trennzeichen_tabelle& trennzeichen) {
     std::vector<std::string> zeilen;
     for (const rennergebnis::spur& s : ergebnis.spuren) {
-        const bool mit_klasse =
-            std::string_view(s.fahrer).substr(links(s.fahrer, 1).size()).starts_with(trennzeichen[2]);
-        std::string zeile = mit_klasse ? s.fahrer : "0" + trennzeichen[2] + s.fahrer;
+        const auto [klasse, name] = klasse_und_name(s.fahrer, trennzeichen[2]);
+        std::string zeile = klasse + ohne_trenner(name, trennzeichen[2]);
         for (const std::string& feld :
              {zahl_mit_platz(s.rundenzahl()), zahl_fest(s.meter, '.'), zeit_formatieren(s.beste, true, trennzeichen),
               zeit_formatieren(s.gesamtzeit, true, trennzeichen)}) {

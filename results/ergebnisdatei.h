@@ -23,7 +23,7 @@ inline constexpr std::string_view auto_einzelrennen = "Ergebnisse\\auto-Einzelre
 
 enum class ergebnis_typ { unbekannt, einzelrennen, wettkampf, jeder_gegen_jeden, tagesrennen };
 
-/// At most 10000 lines; none if the file cannot be read.
+/// At most 10100 lines; none if the file cannot be read.
 std::vector<std::string> ergebnis_zeilen_lesen(const dateien& ablage, std::string_view name);
 ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen);
 

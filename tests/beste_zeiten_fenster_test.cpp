@@ -21,10 +21,7 @@ protected:
         });
     }
     bool offen() const { return t.p.fenster.ist_offen(fenstername::beste_zeiten_fenster); }
-    void schreibschutz(bool an) const {
-        const auto im_weg = t.maschine.ordner() / "Ergebnisse/Bestzeiten/bestefile.bst.tarvel-neu";
-        an ? std::filesystem::create_directory(im_weg) : std::filesystem::remove(im_weg);
-    }
+    void schreibschutz(bool an) { t.maschine.nicht_schreibbar = an ? "bestefile.bst" : ""; }
 
     beste_zeiten_fenster& f = t.p.beste_zeiten_fenster;
     bestzeiten& tabelle = t.p.bestzeiten;

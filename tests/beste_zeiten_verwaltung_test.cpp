@@ -116,7 +116,7 @@ TEST_F(BesteZeitenVerwaltung, NeueUndAndereDateien) {
 }
 
 TEST_F(BesteZeitenVerwaltung, MisslungenesSpeichernHaeltDasFensterOffen) {
-    std::filesystem::create_directory(t.maschine.ordner() / "Ergebnisse/Bestzeiten/bestefile.bst.tarvel-neu");
+    t.maschine.nicht_schreibbar = "bestefile.bst";
     spur(1).auswaehlen(0);
     EXPECT_EQ(aendern("00:05,000"), meldungen{});
     v.Command1.klicken();

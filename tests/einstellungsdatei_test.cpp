@@ -215,7 +215,7 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
 
 TEST_F(Einstellungsdatei, NichtSchreibbarMeldetSichUndLaesstDieAlteDatei) {
     const std::string alt = t.maschine.datei_lesen(datei);
-    std::filesystem::create_directory(t.maschine.ordner() / (std::string(datei) + ".tarvel-neu"));
+    t.maschine.nicht_schreibbar = "einstellungen.ini";
     t.p.einst.tank_inhalt = 99;
     t.p.datei.einstellungen_speichern(datei);
     EXPECT_TRUE(t.p.datei.fehler_laden());
@@ -238,7 +238,8 @@ TEST_F(Einstellungsdatei, SchreibweisenDesOrdnersMeinenDasselbe) {
     t.p.einst.tank_inhalt = 42;
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/klub, alt.ini", t.p.datei.schreiben()));
     const std::string voll = (t.maschine.ordner() / "Einstellungen").string();
-    for (const std::string& ordner : {std::string("Einstellungen/"), std::string("Einstellungen\\"), voll + "/"}) {
+    for (const std::string& ordner :
+         {std::string(), std::string("Einstellungen/"), std::string("Einstellungen\\"), voll + "/"}) {
         const programm& neu = startdatei_mit("\"" + ordner + "klub, alt.ini\"");
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty()) << ordner;
         EXPECT_EQ(neu.einst.tank_inhalt, 42) << ordner;
@@ -271,6 +272,7 @@ TEST_F(Einstellungsdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
     EXPECT_FALSE(neu.einst.hardware.hw_iow);
     EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::modus_2);
     EXPECT_EQ(s6_laden(ablage).zustand, "0");
+    EXPECT_EQ(neu.form1.Label6.tipp(), "Beim Programmstart: einstellungen.ini");
     neu.form1.Command7.klicken();
     neu.speichernfenster.name.eingeben("iow");
     neu.speichernfenster.Command1.klicken();

@@ -174,11 +174,24 @@ TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
+TEST_F(Ergebnisdatei, DasLaengsteRennenWirdWiedererkannt) {
+    t.starten("Zeit", "1", {1, 4});
+    t.runde_nach(1000, "14");
+    t.runden_auffuellen(4, 9999);
+    t.bahn().Command4.klicken();
+    a.Command5.klicken();
+    const auto zeilen = ergebnis_zeilen_lesen(t.p.ablage, automatisch);
+    const auto gelesen = einzelrennen_lesen(zeilen);
+    ASSERT_TRUE(gelesen) << zeilen.size();
+    EXPECT_EQ(gelesen->ergebnis.spuren[1].rundenzahl(), 9999);
+}
+
 TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
     const char* const datei = "Ergebnisse/Tagesrennen/Samstag.csv";
     t.p.tagesrennen.datei = "Ergebnisse\\Tagesrennen\\Samstag.csv";
     t.p.form1.einzelrennen_beginnen = [this] { t.p.rennen_beginnen(t.p.tagesrennen); };
-    t.p.form1.fahrer[1].eingeben("B;Ben");
+    t.p.form1.fahrer[0].eingeben("Anna;5;99");
+    t.p.form1.fahrer[1].eingeben("B;Ben;9");
     for (int rennen = 0; rennen < 2; ++rennen) {
         t.starten("Zeit", "1", {1, 2});
         t.runde_nach(1000, "12");
@@ -186,8 +199,8 @@ TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
         t.bahn().Command4.klicken();
         a.Command5.klicken();
     }
-    const std::string erste = "0;Fahrer 1; 1;25.00;00:06,000;00:06,000";
-    const std::string zweite = "B;Ben; 0;0.00;00:00,000;00:00,000";
+    const std::string erste = "0;Anna 5 99; 1;25.00;00:06,000;00:06,000";
+    const std::string zweite = "B;Ben 9; 0;0.00;00:00,000;00:00,000";
     EXPECT_EQ(gespeichert(datei), (std::vector<std::string>{"Tarvel Tagesrennen", erste, zweite, erste, zweite}));
     EXPECT_FALSE(t.maschine.datei_da(automatisch));
     t.maschine.datei_schreiben(datei, "fremd\r\n");

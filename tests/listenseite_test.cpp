@@ -86,8 +86,7 @@ TEST_F(Listenseite, ListenLassenSichSpeichernUndLaden) {
 }
 
 TEST_F(Listenseite, MisslungenesSchreibenWirdGemeldetUndNachgeholt) {
-    const auto im_weg = t.maschine.ordner() / "Listen/fahrer.lst.tarvel-neu";
-    std::filesystem::create_directory(im_weg);
+    t.maschine.nicht_schreibbar = "fahrer.lst";
     const std::string vorher = t.maschine.datei_lesen("Listen/fahrer.lst");
     fahrer.name.eingeben("Anna");  // typed only: it counts as well
     uebernehmen();
@@ -95,7 +94,7 @@ TEST_F(Listenseite, MisslungenesSchreibenWirdGemeldetUndNachgeholt) {
     EXPECT_EQ(t.maschine.datei_lesen("Listen/fahrer.lst"), vorher);
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::einstellungen));
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna") << "nothing the operator has typed is lost";
-    std::filesystem::remove(im_weg);
+    t.maschine.nicht_schreibbar.clear();
     uebernehmen();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::einstellungen));
     EXPECT_NE(t.maschine.datei_lesen("Listen/fahrer.lst").find("Anna"), std::string::npos);

@@ -1,3 +1,4 @@
+#include "programm/at2560_verdrahtung.h"
 #include "tests/optionen_probe.h"
 
 namespace tarvel {
@@ -70,6 +71,41 @@ TEST_F(Optionen, AbbrechenAendertNichts) {
     EXPECT_EQ(element<feld>("t_inhalt_w").text(), "60");
     EXPECT_TRUE(fenster.hardware[0].gesetzt());
     EXPECT_EQ(fenster.fahrerseite.namen.zeilen().size(), 6U);
+}
+
+TEST_F(Optionen, AbbrechenNimmtAuchZurueckWasDerAssistentInKraftGesetztHat) {
+    waehlen("uart_baud", 0);
+    element<befehl>("uart_einrichten").klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "4800");
+    t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen.abbrechen.klicken();
+    fenster.Command2.klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "57600");
+    oeffnen();
+    waehlen("uart_baud", 1);
+    element<befehl>("uart_einrichten").klicken();
+    ASSERT_TRUE(t.p.geraete.von<at2560_verdrahtung>().uart_einstellungen.zugang->einstellungen_speichern());
+    fenster.Command2.klicken();
+    EXPECT_EQ(einst.uart.uart_baud, "9600") << "the wizard has kept it in the file";
+}
+
+TEST_F(Optionen, UmgekehrteVerdrahtungGiltMitDemUebernehmen) {
+    nach_kreuz("bahnstabsch");
+    EXPECT_FALSE(geraet.ist_an(ausgang::bahnstrom, 3)) << "the lane has power";
+    nach_kreuz("opt_ampel");
+    EXPECT_TRUE(geraet.ist_an(ausgang::ampel_rot, 2));
+    EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0));
+    t.p.form1.bahnstrom_aus();
+    nach_kreuz("bahnstabsch");
+    EXPECT_FALSE(geraet.ist_an(ausgang::bahnstrom, 3)) << "switched off by hand, and stays so";
+}
+
+TEST_F(Optionen, GesperrterAnschlussWirdGenannt) {
+    t.maschine.anschluesse.gesperrt = "/var/lock/LCK..ttyUSB0";
+    t.maschine.meldungen_gezeigt.clear();
+    fenster.hardware[messhardware::at_2560].umschalten();
+    fenster.Command1.klicken();
+    EXPECT_TRUE(letzte_meldung().starts_with(t.p.txt.meldung[27]));
+    EXPECT_TRUE(letzte_meldung().ends_with("/var/lock/LCK..ttyUSB0")) << letzte_meldung();
 }
 
 TEST_F(Optionen, EineMesshardwareZurZeit) {
@@ -162,7 +198,7 @@ TEST_F(Optionen, TrennzeichenDateiWirdGemeldetUndNurNachAenderungGeschrieben) {
     t.maschine.datei_schreiben("trennzeichen.ini", "58,44,59\r\n");
     uebernehmen();
     EXPECT_EQ(t.maschine.datei_lesen("trennzeichen.ini"), "58,44,59\r\n") << "nothing has changed";
-    std::filesystem::create_directory(t.maschine.ordner() / "trennzeichen.ini.tarvel-neu");
+    t.maschine.nicht_schreibbar = "trennzeichen.ini";
     tippen("trennzeichen_0", ".");
     t.maschine.meldungen_gezeigt.clear();
     fenster.Command1.klicken();
@@ -268,7 +304,6 @@ TEST_F(Optionen, StilleKorrekturen) {
     pruefen("txt_justierung_aufeinemsensortanken", "11", &e::tanksensor_justierung, 12);
     pruefen("txt_justierung_aufeinemsensortanken", "101", &e::tanksensor_justierung, 100);
     pruefen("e_ch_strafzeit", "123456", &e::chaos_strafzeit, 1234s);
-    pruefen("txt_trainingwechseldauer", "1001", &e::training_wechseldauer, 1000s);
     pruefen("w_edauertext", "0", &e::w_edauer, 2);
     pruefen("w_edauertext", "100", &e::w_edauer, 10);
     for (const char* adresse : {"2f8", "XYZ"}) {
@@ -278,6 +313,17 @@ TEST_F(Optionen, StilleKorrekturen) {
     waehlen("w_edauer1", 1);
     pruefen("w_edauertext", "0", &e::w_edauer, 60);
     pruefen("w_edauertext", "1000", &e::w_edauer, 999);
+    EXPECT_EQ(nach_eingabe("txt_trainingwechseldauer", "1001").size(), 1U) << "the file takes 999";
+    EXPECT_EQ(einst.training_wechseldauer, 1000s);
+}
+
+TEST_F(Optionen, WasDieDateiNichtSoWiedergibtWirdGesagt) {
+    EXPECT_EQ(nach_eingabe("t_warnung", "9,5").size(), 1U);
+    EXPECT_TRUE(nach_eingabe("t_warnung", "9").empty());
+    EXPECT_EQ(nach_eingabe("t_strafzeit", "0").size(), 1U);
+    EXPECT_TRUE(nach_eingabe("t_strafzeit", "1").empty());
+    EXPECT_EQ(nach_eingabe("t_inhalt_w", "13").size(), 1U);
+    EXPECT_EQ(einst.tank_warnung, 3) << "the file allows 8.5 litres of it";
 }
 
 }  // namespace

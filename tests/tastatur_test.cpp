@@ -170,7 +170,7 @@ TEST_F(Tastatur, FensterVorlagen) {
 }
 
 TEST_F(Tastatur, NichtSchreibbarMeldetSichUndBehaeltDieBelegung) {
-    std::filesystem::create_directory(t.maschine.ordner() / "tvk_taste.ini.tarvel-neu");
+    t.maschine.nicht_schreibbar = "tvk_taste.ini";
     t.p.form1.command_tasten.klicken();
     taste(16).eingeben("k");
     t.p.tastaturbelegung.Command1.klicken();

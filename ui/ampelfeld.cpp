@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/dateien.h"
 #include "ui/lampe.h"
 
 namespace tarvel::ui {
@@ -60,7 +61,9 @@ void Ampelfeld::setRing(const QColor& farbe) {
 const QPixmap& Ampelfeld::bild_von(const std::string& datei) {
     const QString schluessel = QString::fromStdString(datei);
     if (!bilder_.contains(schluessel)) {
-        const QPixmap gelesen(QString::fromStdU16String(pfad_(datei).u16string()));
+        const std::filesystem::path pfad = pfad_(datei);
+        const QPixmap gelesen =
+            ist_lesbar(pfad, bild_bytes_max) ? QPixmap(QString::fromStdU16String(pfad.u16string())) : QPixmap();
         const int ab = art_ == art::erlischt ? gelesen.width() * 7 / 100 : 0;
         bilder_[schluessel] = gelesen.copy(gelesen.rect().adjusted(ab, ab, -ab, -ab));
     }

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/dateien.h"
 #include "ui/eingabefelder.h"
 #include "ui/listenmodell.h"
 #include "ui/stil.h"
@@ -35,7 +36,7 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
 
 /// Null if there is no picture that can be read.
 QImage bild_lesen(const std::filesystem::path& pfad) {
-    if (pfad.empty()) {
+    if (!ist_lesbar(pfad, bild_bytes_max)) {
         return {};
     }
     QImageReader leser(QString::fromStdU16String(pfad.u16string()));

@@ -2,6 +2,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QScreen>
+#include <QStringList>
 #include <QTranslator>
 #include <algorithm>
 #include <filesystem>
@@ -23,6 +24,22 @@ QIcon programmsymbol() {
     return symbol;
 }
 
+/// A factor of nothing or less hides the window or ends the program in its first drawing.
+void faktoren_pruefen() {
+    constexpr double faktor_min = 0.2;
+    constexpr double faktor_max = 10;
+    for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"}) {
+        const QStringList eintraege = qEnvironmentVariable(name).split(';');
+        const bool gut = std::all_of(eintraege.begin(), eintraege.end(), [](const QString& eintrag) {
+            const double faktor = eintrag.section('=', -1).toDouble();  // behind the name of a screen
+            return faktor >= faktor_min && faktor <= faktor_max;
+        });
+        if (!gut) {
+            qunsetenv(name);
+        }
+    }
+}
+
 /// Where the desktop does not enlarge its windows itself, a screen of 4K would show them half as large as they are
 /// meant.
 void grossem_schirm_anpassen(int argc, std::vector<char*> argumente) {
@@ -38,6 +55,7 @@ void grossem_schirm_anpassen(int argc, std::vector<char*> argumente) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    faktoren_pruefen();
     grossem_schirm_anpassen(argc, {argv, argv + argc + 1});
     QApplication anwendung(argc, argv);
     QApplication::setApplicationName("Tarvel");

@@ -22,7 +22,9 @@ Form3Fenster::Form3Fenster(form3& logik, const dateien& ablage, Fensterverwaltun
     aufbau->addWidget(gezeichnet, 1);
     aufbau->addWidget(foto, 1);
     binder().verbinden(logik.Picture1, foto, "Picture1", [&logik, &ablage, foto, gezeichnet] {
-        const QPixmap bild(QString::fromStdU16String(ablage.pfad(logik.Picture1.datei()).u16string()));
+        const std::filesystem::path pfad = ablage.pfad(logik.Picture1.datei());
+        const QPixmap bild =
+            ist_lesbar(pfad, bild_bytes_max) ? QPixmap(QString::fromStdU16String(pfad.u16string())) : QPixmap();
         foto->setPixmap(bild);
         foto->setVisible(!bild.isNull());
         gezeichnet->setVisible(bild.isNull());

@@ -14,6 +14,7 @@ class test_port;
 class test_anschluesse final : public plattform::serienport_dienst {
 public:
     std::set<int> da;                                   ///< COM numbers that exist
+    std::string gesperrt;                               ///< lock file that keeps ports from opening
     std::map<int, std::string> geschrieben;             ///< all that the program has written to the port
     std::map<int, std::string> werte;                   ///< settings text of the last opening
     std::function<void(int, std::string_view)> geraet;  ///< the other end hears each writing at once
@@ -26,6 +27,7 @@ public:
 
     std::unique_ptr<plattform::serienport> erzeugen() override;
     std::vector<int> vorhandene() const override { return {da.begin(), da.end()}; }
+    std::string sperrdatei() const override { return gesperrt; }
 
 private:
     friend class test_port;

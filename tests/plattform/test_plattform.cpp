@@ -73,8 +73,8 @@ test_plattform::~test_plattform() {
 }
 
 plattform::dienste test_plattform::dienste() {
-    return {*this, *this, *this,       *this,        kalender_,   *this,
-            *this, *this, anschluesse, bibliotheken, druckerport, ordner_};
+    return {*this, *this,       *this,        *this,       kalender_, *this,  *this,
+            *this, anschluesse, bibliotheken, druckerport, *this,     ordner_};
 }
 
 void test_plattform::laufen(zeit_ms dauer) {
@@ -109,6 +109,18 @@ void test_plattform::zeigen(std::string_view text, std::string_view titel) {
 bool test_plattform::fragen(std::string_view text, std::string_view titel) {
     fragen_gestellt.push_back({std::string(text), std::string(titel)});
     return antwort;
+}
+
+bool test_plattform::neue_datei(const fs::path& pfad, std::string_view inhalt) const {
+    const std::string name = pfad_als_utf8(pfad.filename());
+    if (fs::exists(fs::symlink_status(pfad)) ||
+        (!nicht_schreibbar.empty() && name.starts_with(nicht_schreibbar + "."))) {
+        return false;
+    }
+    std::ofstream datei(pfad, std::ios::binary);
+    datei << inhalt;
+    datei.close();
+    return static_cast<bool>(datei);
 }
 
 std::string test_plattform::datei_lesen(const std::string& name) const {

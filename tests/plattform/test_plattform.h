@@ -23,6 +23,7 @@ class test_plattform final : private plattform::uhr,
                              private plattform::klang,
                              private plattform::bildschirm,
                              private plattform::prozess,
+                             private plattform::dateisystem,
                              private plattform::zufall {
 public:
     struct meldung {
@@ -63,8 +64,9 @@ public:
     test_druckerport druckerport;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
-    double zufallszahl = 0;  ///< from 0 up to below 1
-    int beendet = 0;         ///< how often the process was asked to end
+    std::string nicht_schreibbar;  ///< name of a file, without its folder, that no writer can replace
+    double zufallszahl = 0;        ///< from 0 up to below 1
+    int beendet = 0;               ///< how often the process was asked to end
 
 private:
     friend class virtueller_zeitgeber;
@@ -77,6 +79,8 @@ private:
     bool ist_einzige_instanz() override { return erste_instanz; }
     void beenden() override { ++beendet; }
     double bruchteil() override { return zufallszahl; }
+    bool neue_datei(const std::filesystem::path& pfad, std::string_view inhalt) const override;
+    bool ist_verweis(const std::filesystem::path& pfad) const override { return is_symlink(pfad); }
     plattform::groesse_px groesse() const override { return bildschirm_groesse; }
 
     struct feste_uhrzeit final : plattform::kalender {

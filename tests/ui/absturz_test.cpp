@@ -4,28 +4,34 @@
 #include <QTest>
 
 #include "core/dateien.h"
+#include "core/ordner.h"
+#include "platform_qt/qt_dateisystem.h"
 #include "tests/plattform/test_plattform.h"
 #include "tests/ui/dauerschreiber.h"
 
 namespace tarvel {
 namespace {
 
-constexpr const char* neben_datei = "Einstellungen/dauer.ini.tarvel-neu";
-
 class Absturz : public testing::Test {
 protected:
     /// Lets the writer run this long once it writes, and kills it wherever it is then.
     void schreiben_und_toeten(int ms) {
-        ablage.loeschen(neben_datei);  // left over from the writer before
+        schreibreste_loeschen(ablage);  // left over from the writer before
         QProcess schreiber;
         schreiber.start(TARVEL_DAUERSCHREIBER, {QString::fromStdU16String(maschine.ordner().u16string())});
         ASSERT_TRUE(schreiber.waitForStarted());
-        ASSERT_TRUE(
-            QTest::qWaitFor([&] { return maschine.datei_da(test::dauer_datei) && maschine.datei_da(neben_datei); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return maschine.datei_da(test::dauer_datei) && reste() > 0; }));
         QTest::qSleep(ms);
         ASSERT_EQ(schreiber.state(), QProcess::Running) << "it could not write";
         schreiber.kill();
         ASSERT_TRUE(schreiber.waitForFinished());
+    }
+
+    std::ptrdiff_t reste() const {
+        std::error_code egal;
+        const std::filesystem::directory_iterator ordner(maschine.ordner() / "Einstellungen", egal);
+        return std::count_if(begin(ordner), end(ordner),
+                             [](const auto& eintrag) { return eintrag.path().extension() == ".tarvel-neu"; });
     }
 
     test::test_plattform maschine;
@@ -42,18 +48,28 @@ TEST_F(Absturz, MittenImSchreibenBleibtDieAlteOderDieNeueDatei) {
         ASSERT_TRUE(zeilen);
         ASSERT_TRUE(*zeilen == test::dauer_zeilen(false) || *zeilen == test::dauer_zeilen(true))
             << zeilen->size() << " lines after kill " << mal;
-        angefangene += maschine.datei_da(neben_datei) ? 1 : 0;
+        angefangene += reste() > 0 ? 1 : 0;
     }
     EXPECT_GT(angefangene, 0) << "no kill fell into the writing";
+    EXPECT_EQ(ablage.auflisten("Einstellungen", "", ""), std::vector<std::string>{"dauer.ini"});
+    schreibreste_loeschen(ablage);
+    EXPECT_EQ(reste(), 0);
 }
 
-TEST_F(Absturz, AngefangeneDateiStoertWederDasNaechsteSchreibenNochDieAuswahl) {
-    maschine.datei_schreiben(test::dauer_datei, "alt\r\n");
-    maschine.datei_schreiben(neben_datei, std::string(100000, 'x'));  // longer than what is written next
-    EXPECT_EQ(ablage.auflisten("Einstellungen", "", ".ini"), std::vector<std::string>{"dauer.ini"});
-    ASSERT_TRUE(ablage.zeilen_schreiben(test::dauer_datei, {"neu"}));
-    EXPECT_EQ(maschine.datei_lesen(test::dauer_datei), "neu\r\n");
-    EXPECT_FALSE(maschine.datei_da(neben_datei));
+TEST(Dateisystem, NeueDateiFolgtKeinemVerweisUndUeberschreibtNichts) {
+    test::test_plattform maschine;
+    const qt::QtDateisystem system;
+    const auto ort = maschine.ordner();
+    EXPECT_TRUE(system.neue_datei(ort / "neu", "a"));
+    EXPECT_FALSE(system.neue_datei(ort / "neu", "b"));
+    EXPECT_EQ(maschine.datei_lesen("neu"), "a");
+#ifndef _WIN32
+    std::filesystem::create_symlink(ort / "ziel", ort / "verweis");
+    EXPECT_FALSE(system.neue_datei(ort / "verweis", "b"));
+    EXPECT_FALSE(maschine.datei_da("ziel"));
+    EXPECT_TRUE(system.ist_verweis(ort / "verweis"));
+#endif
+    EXPECT_FALSE(system.ist_verweis(ort / "neu"));
 }
 
 }  // namespace

@@ -1,11 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <QTest>
 #include <fstream>
 #include <vector>
 
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
 #include "platform_qt/druckerport.h"
 #include "platform_qt/qt_bibliothek.h"
-#include "tests/plattform/test_plattform.h"
+#include "platform_qt/qt_prozess.h"
+#include "tests/plattform/testprogramm.h"
+#include "ui/oberflaeche.h"
 
 namespace tarvel {
 namespace {
@@ -65,6 +72,59 @@ TEST(Druckerport, PortbibliothekOhneIhreBeidenRufeIstKeinPort) {
     EXPECT_FALSE(port.lesen(-1) || port.schreiben(0x10000, 1));
     EXPECT_EQ(geschrieben, (std::vector<std::pair<int, int>>{{0x378, 0xFE}}));
 }
+
+TEST(Prozess, EineSperreOhneLebendenBesitzerHaeltNiemandenAuf) {
+    test::test_plattform maschine;
+    const QString sperre = QString::fromStdU16String((maschine.ordner() / "tarvel.lock").u16string());
+    const QByteArray fremd = "1\nanderes\nalter-rechnername\n\n\n";
+    for (const QByteArray& inhalt : {QByteArray(), QByteArray("unfug"), QByteArray(100000, '9'), fremd}) {
+        maschine.datei_schreiben("tarvel.lock", inhalt.toStdString());
+        qt::QtProzess erste(sperre);
+        EXPECT_TRUE(erste.ist_einzige_instanz()) << inhalt.left(20).toStdString();
+        qt::QtProzess zweite(sperre);
+        EXPECT_FALSE(zweite.ist_einzige_instanz()) << "its owner lives";
+        EXPECT_TRUE(erste.ist_einzige_instanz());
+    }
+#ifndef Q_OS_WIN
+    ASSERT_EQ(mkfifo((maschine.ordner() / "tarvel.lock").c_str(), 0600), 0);
+    EXPECT_TRUE(qt::QtProzess(sperre).ist_einzige_instanz()) << "and nobody waits for the other end of a pipe";
+#endif
+}
+
+#ifndef Q_OS_WIN
+TEST(Prozess, SperreEinesLebendenBleibtAuchUnlesbar) {
+    test::test_plattform maschine;
+    const QString sperre = QString::fromStdU16String((maschine.ordner() / "tarvel.lock").u16string());
+    qt::QtProzess erste(sperre);
+    ASSERT_TRUE(erste.ist_einzige_instanz());
+    maschine.datei_schreiben("tarvel.lock", "");  // the same file, emptied
+    EXPECT_FALSE(qt::QtProzess(sperre).ist_einzige_instanz());
+}
+
+TEST(Dateien, EinePipeIstKeineDateiWelcherArtAuchImmer) {
+    test::testprogramm t;
+    for (const char* name : {"pictures/nopic.jpg", "slotcars/nocar.gif", "tvkpic1.jpg", "tvkpic3.gif",
+                             "ampel/rt_an.gif", "ampel/rt_aus.gif", "ampel/gr_aus.gif", "sound/rs.wav",
+                             "Listen/fahrer.lst", "Einstellungen/einstellungen.ini", "trennzeichen.ini", "tvk.ini",
+                             "tvk_taste.ini", "Ergebnisse/Bestzeiten/bestefile.bst", "language/language_m1.txt"}) {
+        const auto pfad = t.maschine.ordner() / name;
+        std::filesystem::create_directories(pfad.parent_path());
+        std::filesystem::remove(pfad);
+        ASSERT_EQ(mkfifo(pfad.c_str(), 0600), 0) << name;
+    }
+    programm p(t.maschine.dienste());
+    ui::Oberflaeche o(p);
+    p.starten();
+    p.form1.Command1.klicken();
+    p.rennen.bahn1.Command1.klicken();
+    for (int mal = 0; mal < 20; ++mal) {
+        t.maschine.laufen(500);
+        o.takt.ausfuehren();
+        QTest::qWait(5);
+    }
+    EXPECT_TRUE(p.fenster.ist_offen(fenstername::bahn1)) << "it came so far without waiting for a pipe";
+}
+#endif
 
 }  // namespace
 }  // namespace tarvel

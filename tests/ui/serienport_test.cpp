@@ -75,6 +75,9 @@ TEST_F(Serienport, WasKeinPortUndKeinWertIstWirdVerweigert) {
     }
     const auto zweiter = dienst.erzeugen();
     EXPECT_FALSE(zweiter->oeffnen(com, werte)) << "somebody else has it";
+    EXPECT_NE(dienst.sperrdatei().find("/LCK.."), std::string::npos) << "and this file says so";
+    EXPECT_FALSE(zweiter->oeffnen(8, werte));
+    EXPECT_EQ(dienst.sperrdatei(), "") << "there is none";
     EXPECT_TRUE(port->offen());
 }
 
