@@ -144,7 +144,7 @@ void Bahn1Fenster::geraetehinweis() {
 
 void Bahn1Fenster::hinweis_anordnen() {
     const bool pause = logik_.zustand.chaos_aktiv;
-    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    const ansicht_geometrie geometrie = aufteilung();
     const rechteck& ort = geometrie.fenster[pause ? f::cu_startframe : f::uhrframe1].ort;
     teil(f::cu_startframe)->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
     hinweistext_->setSchriftPx(geometrie.fenster[f::cu_startframe].schrift_px);
@@ -180,9 +180,20 @@ void Bahn1Fenster::aufschlagen() {
     activateWindow();
 }
 
-QRect Bahn1Fenster::uhr_ort() const {
-    const QWidget* uhr = teil(f::uhrframe1);
-    return {uhr->mapToGlobal(QPoint(0, 0)), uhr->size()};
+void Bahn1Fenster::licht_der_pause(bool da) {
+    licht_der_pause_ = da && logik_.umgebung.ist_zeitrennen();  // else both clocks show the same
+    anordnen();
+}
+
+QRect Bahn1Fenster::licht_ort() const {
+    const rechteck ort = aufteilung().licht_der_pause;
+    return {mapToGlobal(QPoint(ort.x, ort.y)), QSize(ort.breite, ort.hoehe)};
+}
+
+ansicht_geometrie Bahn1Fenster::aufteilung() const {
+    ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
+    inhalt.licht_der_pause = licht_der_pause_;
+    return ansicht_aufteilen(inhalt, width(), height());
 }
 
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
@@ -192,7 +203,7 @@ void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
 }
 
 void Bahn1Fenster::anordnen() {
-    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    const ansicht_geometrie geometrie = aufteilung();
     for (Spurblock* block : bloecke_) {
         block->anordnen(geometrie);
     }

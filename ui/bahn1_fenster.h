@@ -16,8 +16,10 @@ public:
     Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
-    /// The large clock on the screen. It stands still in a pause.
-    QRect uhr_ort() const;
+    /// The light of a pause is there, or gone: of a time race, the time left moves out of its way.
+    void licht_der_pause(bool da);
+    /// Its place on the screen.
+    QRect licht_ort() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -32,6 +34,7 @@ private:
     void nachtabschaltung();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
+    ansicht_geometrie aufteilung() const;
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
     QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
@@ -43,6 +46,7 @@ private:
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
     QWidget* nacht_ = nullptr;
+    bool licht_der_pause_ = false;
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
 
