@@ -63,7 +63,7 @@ struct bahn1 {
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
     rennuhr_felder uhr2;  ///< second clock: time driven
     bezeichnung nachlauflabel;
-    bezeichnung ziel_label;  ///< what is driven for
+    bezeichnung ziel_label;  ///< what is driven for; in a pause, whose button began it
     bezeichnung Label_naechstesrennen;
     bezeichnung Label5;  ///< who drives in the next race
     bild logobild;       ///< pictures of the club, shown where there is a file of theirs
@@ -106,6 +106,8 @@ struct bahn1 {
         std::string bestzeit;  ///< in front of the time
         std::string cu_start;  ///< what is to do at the device, for the start
         std::string cu_pause;  ///< and in a pause
+        std::string chaos;     ///< in front of who pressed a chaos button of his own
+        std::string nacht;     ///< in front of the key that ends the dark
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -38,6 +38,7 @@ void chaos::zuruecksetzen() {
     um_.zustand.pause = {};
     um_.zustand.chaos_aktiv = false;
     um_.bahn.Command3.text(um_.bahn.wort.pause);
+    um_.ereignisse.chaos_fahrer.fuellen(false);
     strafformular_schliessen();
     gelb_zeigen(false);
     um_.bahn.cu_startframe.sichtbar(false);
@@ -79,8 +80,11 @@ void chaos::pruefen() {
         loslassen_pruefen();
     } else if (frei && taster.aktiv && !um_.zeitgeber.chaosende_timer->laeuft()) {
         chaos_umschalten();
-    } else {
+    } else if (taster.aktiv) {
         taster.aktiv = false;
+        if (!um_.zustand.chaos_aktiv) {
+            um_.ereignisse.chaos_fahrer.fuellen(false);  // whoever pressed has not begun a pause
+        }
     }
 }
 
@@ -144,6 +148,7 @@ void chaos::pause_beginnen() {
     zustand.chaos_aktiv = true;
     kleine_ampeln(kleines_licht::gelb);
     strafformular_zeigen();
+    t_.ansicht.verursacher_zeigen(um_.ereignisse.chaos_fahrer);
     if (um_.quellen.ampel() != nullptr) {
         um_.bahn.cu_startlabel.text(um_.bahn.wort.cu_pause);
         um_.bahn.cu_startframe.sichtbar(true);
@@ -196,6 +201,7 @@ void chaos::strafformular_schliessen() {
         kasten.sichtbar(false);
     }
     um_.bahn.ch_strafframe.sichtbar(false);
+    t_.ansicht.ziel_zeigen();
 }
 
 void chaos::gelb_zeigen(bool an) {

@@ -59,6 +59,24 @@ std::string rennansicht::ziel_text() const {
     return ziel;
 }
 
+void rennansicht::ziel_zeigen() {
+    um_.bahn.ziel_label.text(ziel_text());
+    um_.bahn.ziel_label.schriftfarbe(um_.einst.farben_schrift[2]);
+}
+
+void rennansicht::verursacher_zeigen(const spuren<bool>& wer) {
+    std::string namen;
+    for (const int spur : alle_spuren) {
+        if (wer[spur] && um_.param.spur_aktiv[spur]) {
+            namen += (namen.empty() ? " " : ", ") + um_.param.fahrer_name[spur];
+            um_.bahn.ziel_label.schriftfarbe(um_.einst.farben_spur[spur]);
+        }
+    }
+    if (!namen.empty()) {
+        um_.bahn.ziel_label.text(um_.bahn.wort.chaos + namen);
+    }
+}
+
 void rennansicht::ansagen_setzen() {
     bahn1& bahn = um_.bahn;
     for (const int spur : alle_spuren) {
@@ -102,7 +120,8 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Best: ", bahn.wort.bestzeit);
     texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
     texte.text("Pause: Weiter mit der Starttaste der Control Unit oder mit „Weiter“.", bahn.wort.cu_pause);
-    return texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
+    texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
+    return texte.text("Chaos:", bahn.wort.chaos).text("Hell mit der Taste", bahn.wort.nacht);
 }
 
 void rennansicht::oeffnen() {

@@ -28,7 +28,9 @@ public:
     void fusszeile_setzen(const std::string& text, bool warnung);
     /// What is driven for.
     std::string ziel_text() const;
-    void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text()); }
+    void ziel_zeigen();
+    /// In its place, in a pause: who began it with a button of his own, if somebody did.
+    void verursacher_zeigen(const spuren<bool>& wer);
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
     /// The same with what the lanes have, for a race that goes on.

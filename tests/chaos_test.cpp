@@ -321,10 +321,18 @@ TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
     t.taste("x");
     EXPECT_TRUE(pause());
     EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[2]);
+    EXPECT_EQ(t.bahn().ziel_label.text(), "Chaos: Fahrer 2");
     t.maschine.laufen(3000);
     t.taste("c");
+    EXPECT_EQ(t.bahn().ziel_label.text(), "5:00 min");
     t.maschine.laufen(600);
     EXPECT_FALSE(t.p.ereignisse.chaos_fahrer[2]);
+    t.taste("x");
+    EXPECT_FALSE(pause()) << "too soon after the last one";
+    t.maschine.laufen(3000);
+    t.taste("c");
+    ASSERT_TRUE(pause());
+    EXPECT_EQ(t.bahn().ziel_label.text(), "5:00 min") << "driver 2 has not begun this one";
 }
 
 }  // namespace

@@ -62,7 +62,9 @@ void Bahn1Fenster::kopf() {
         text->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
         teil(name) = text;
     }
-    static_cast<TextAnzeige*>(teil(f::Label5))->setZweizeilig();
+    for (const f name : {f::Label5, f::ziel_label}) {
+        static_cast<TextAnzeige*>(teil(name))->setZweizeilig();
+    }
     TextAnzeige* nachlauf = binder().anzeige(bahn.nachlauflabel, "nachlauflabel");
     nachlauf->setFett(true);
     teil(f::nachlauflabel) = nachlauf;
@@ -152,15 +154,28 @@ void Bahn1Fenster::hinweis_anordnen() {
 }
 
 void Bahn1Fenster::nachtabschaltung() {
-    nacht_ = new QWidget(this);
+    nacht_ = new TextAnzeige(this);
     nacht_->setAutoFillBackground(true);
+    nacht_->setFarbe(stil::nachtschrift);
+    nacht_->setAusrichtung(Qt::AlignHCenter | Qt::AlignBottom);
     QPalette schwarz;
     schwarz.setColor(QPalette::Window, Qt::black);
     nacht_->setPalette(schwarz);
     binder().verbinden(logik_.bahn1.Nachtabschaltung, nacht_, "Nachtabschaltung", [this] {
-        nacht_->setGeometry(rect());
+        nacht_->setText(nachthinweis());
+        nacht_anordnen();
         nacht_->raise();
     });
+}
+
+void Bahn1Fenster::nacht_anordnen() {
+    constexpr int zeilen = 45;
+    nacht_->setGeometry(rect());
+    nacht_->setSchriftPx(height() / zeilen);
+}
+
+QString Bahn1Fenster::nachthinweis() const {
+    return QString::fromStdString(logik_.bahn1.Nachtabschaltung.text());
 }
 
 void Bahn1Fenster::aufschlagen() {
@@ -198,7 +213,7 @@ ansicht_geometrie Bahn1Fenster::aufteilung() const {
 
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    nacht_->setGeometry(rect());
+    nacht_anordnen();
     anordnen();
 }
 

@@ -20,6 +20,8 @@ public:
     void licht_der_pause(bool da);
     /// Its place on the screen.
     QRect licht_ort() const;
+    /// How the dark screen gets bright again.
+    QString nachthinweis() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -32,6 +34,7 @@ private:
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();
     void nachtabschaltung();
+    void nacht_anordnen();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
     ansicht_geometrie aufteilung() const;
@@ -45,7 +48,7 @@ private:
     std::array<QWidget*, static_cast<std::size_t>(fenster_teil::anzahl)> teile_{};
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
-    QWidget* nacht_ = nullptr;
+    TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
     bool licht_der_pause_ = false;
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
