@@ -41,7 +41,10 @@ sprachliste form1::sprache_m2() {
     texte.text("kein Fahrer", um_.txt.kein_fahrer).text("Liter", wort_liter_);
     texte.text("Liter je Runde", wort_verbrauch_).text("Bitte warten!", µwarte_titel);
     texte.text("AT-2560 Zeitmessung wird eingerichtet.", µwarte_text).text(" – keine Verbindung", wort_getrennt_);
-    return texte.text("Control Unit", command_cu);
+    texte.text("Control Unit", command_cu);
+    texte.text("Hier stand keine Zahl. Jetzt gilt:", wort_keine_zahl_);
+    texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", wort_ersetzt_);
+    return texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_);
 }
 
 void form1::ansagen_setzen() {

@@ -31,6 +31,8 @@ struct optionszeile {
     bezeichnung einheit;
     std::vector<std::string> eintraege;  ///< of a choice, in the window's language
     std::string grenzen_meldung;
+    bool nur_zahlen = false;  ///< a field whose text would pass for 0 without being a number
+    bool auch_leer = false;   ///< which may stay empty all the same
 
     /// Settings to control.
     std::function<void(const einstellungs_ziel&)> zeigen;
