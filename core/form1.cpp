@@ -3,6 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "core/text.h"
+#include "core/zahleneingabe.h"
+
 namespace tarvel {
 namespace {
 
@@ -141,7 +144,69 @@ void form1::werte_pruefen() {
     einrichtung_zeigen(e);
 }
 
+std::vector<feld*> form1::felder_ohne_zahl() {
+    std::vector<feld*> alle{&wertmin, &massstab};
+    if (gewaehlte_art() == renn_art::zeit && !stddauer.text().empty()) {
+        alle.push_back(&stddauer);
+    }
+    for (std::size_t i = 0; i < lspur.size(); ++i) {
+        if (spur[i].gesetzt()) {
+            alle.push_back(&lspur[i]);
+        }
+    }
+    std::erase_if(alle, [](const feld* f) { return ist_zahl(f->text()); });
+    return alle;
+}
+
+void form1::unlesbares_ersetzen() {
+    std::string meldung;
+    if (const std::vector<feld*> ohne_zahl = felder_ohne_zahl(); !ohne_zahl.empty()) {
+        renneinrichtung e = einrichtung();
+        e.vor_dem_speichern_pruefen();
+        einrichtung_zeigen(e);
+        meldung = wort_keine_zahl_;
+        for (const feld* f : ohne_zahl) {
+            meldung += "\n" + f->ansage() + ": " + f->text();
+        }
+    }
+    std::string namen;
+    for (auto* wahl : {&fahrer, &auto_}) {
+        for (auswahl& name : *wahl) {
+            if (const std::string gilt = von_1252(nach_1252(name.text())); gilt != name.text()) {
+                namen += "\n" + name.text() + " – " + gilt;
+                name.text(gilt);
+            }
+        }
+    }
+    if (!namen.empty()) {
+        meldung += (meldung.empty() ? "" : "\n\n") + wort_ersetzt_ + namen;
+    }
+    if (!meldung.empty()) {
+        um_.meldungen.zeigen(meldung, um_.txt.titel[0]);
+    }
+}
+
+bool form1::fahrer_einmalig() {
+    for (std::size_t i = 0; i < fahrer.size(); ++i) {
+        const std::string& name = fahrer[i].text();
+        if (!spur[i].gesetzt() || name.empty() || name == um_.txt.kein_fahrer || um_.txt.ist_freier_platz(name)) {
+            continue;
+        }
+        for (std::size_t j = i + 1; j < fahrer.size(); ++j) {
+            if (spur[j].gesetzt() && fahrer[j].text() == name) {
+                const bool gewollt = um_.meldungen.fragen(name + " " + wort_zwei_spuren_, um_.txt.titel[0]);
+                if (!gewollt) {
+                    fahrer[j].fokus_setzen();
+                }
+                return gewollt;
+            }
+        }
+    }
+    return true;
+}
+
 void form1::vor_dem_speichern_pruefen() {
+    unlesbares_ersetzen();
     renneinrichtung e = einrichtung();
     e.vor_dem_speichern_pruefen();
     einrichtung_zeigen(e);
@@ -168,6 +233,7 @@ void form1::Command1_Click() {
     if (bahnstrom_ein) {
         bahnstrom_ein();
     }
+    unlesbares_ersetzen();
     renneinrichtung e = einrichtung();
     e.werte_pruefen();
     const einrichtungsfehler fehler = rennen_uebergeben(e, sperrzuschlag_einzelrennen_ms, um_.param);
@@ -176,7 +242,7 @@ void form1::Command1_Click() {
         ablehnen(um_.txt.meldung[13], renndauer);
     } else if (fehler == einrichtungsfehler::keine_spur) {
         ablehnen(um_.txt.meldung[12], spur[0]);
-    } else if (einzelrennen_beginnen) {
+    } else if (fahrer_einmalig() && einzelrennen_beginnen) {
         einzelrennen_beginnen();
     }
 }

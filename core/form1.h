@@ -178,6 +178,11 @@ private:
     void ablehnen(const std::string& meldung, steuerelement& ort);
     void spur_geaendert(std::size_t index);
 
+    /// Numbers that are none and letters that no file can hold are replaced, and the operator hears of it.
+    void unlesbares_ersetzen();
+    std::vector<feld*> felder_ohne_zahl();
+    /// Nobody drives on two lanes, or the operator wants it so.
+    bool fahrer_einmalig();
     void befehle_verbinden();
     void fahrer_Change(int nummer);
     void ansagen_setzen();
@@ -198,6 +203,9 @@ private:
     std::string wort_standarddatei_;
     std::string wort_getrennt_;
     std::string wort_gesperrt_;
+    std::string wort_keine_zahl_;
+    std::string wort_ersetzt_;
+    std::string wort_zwei_spuren_;
     bool getrennt_ = false;
 };
 

@@ -42,8 +42,10 @@ sprachliste form1::sprache_m2() {
     texte.text("Liter je Runde", wort_verbrauch_).text("Bitte warten!", µwarte_titel);
     texte.text("AT-2560 Zeitmessung wird eingerichtet.", µwarte_text).text(" – keine Verbindung", wort_getrennt_);
     texte.text("Control Unit", command_cu);
-    return texte.text("Den Anschluss hält ein anderes Programm oder ein anderer Benutzer, mit der Datei",
-                      wort_gesperrt_);
+    texte.text("Den Anschluss hält ein anderes Programm oder ein anderer Benutzer, mit der Datei", wort_gesperrt_);
+    texte.text("Hier stand keine Zahl. Jetzt gilt:", wort_keine_zahl_);
+    texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", wort_ersetzt_);
+    return texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_);
 }
 
 void form1::ansagen_setzen() {

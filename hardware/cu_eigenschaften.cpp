@@ -103,7 +103,7 @@ sprachliste cu_eigenschaften::sprache_e_cu() {
     texte.text("wird geprüft", wort_.wird_geprueft).text("Control Unit gefunden", wort_.gefunden);
     texte.text("keine Control Unit gefunden", wort_.nicht_gefunden);
     texte.text("Statusfenster geschrieben", wort_.geschrieben);
-    return texte.text("Die Datei konnte nicht geschrieben werden", wort_.nicht_geschrieben);
+    return texte.text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
 }
 
 void cu_eigenschaften::laden() {

@@ -1,6 +1,6 @@
 #include "hardware/tastaturbelegung.h"
 
-#include <set>
+#include <map>
 
 #include "core/spuren.h"
 #include "core/text.h"
@@ -91,13 +91,14 @@ void tastaturbelegung::anzeigen(const tastenbelegung& belegung) {
 }
 
 bool tastaturbelegung::pruefen() {
-    std::set<int> vergeben;
+    std::map<int, const feld*> vergeben;
     for (const tastenzeile& zeile : tastenzeilen()) {
         feld& zeichen = taste.at(static_cast<std::size_t>(zeile.zeile));
         const int code = feldcode(zeichen.text());
-        const bool doppelt = code > tastenbelegung::keine_taste && !vergeben.insert(code).second;
-        if (code == 0 || doppelt) {
-            um_.meldungen.zeigen(doppelt ? doppelt_text_ : ungueltig_text_, um_.txt.titel[1]);
+        const auto [erstes, neu] = vergeben.try_emplace(code, &zeichen);
+        if (code == 0 || (code != tastenbelegung::keine_taste && !neu)) {
+            hinweis.text(zeichen.text() + " – " + (neu ? "" : erstes->second->ansage() + ", ") + zeichen.ansage());
+            um_.meldungen.zeigen(code == 0 ? ungueltig_text_ : doppelt_text_, um_.txt.titel[1]);
             zeichen.fokus_setzen();
             return false;
         }

@@ -28,13 +28,13 @@ public:
 
     std::array<feld, tastenbelegung::zeile_max + 1> taste;  ///< index is the row; rows without a name have no field
     std::array<bezeichnung, tastenbelegung::zeile_max + 1> Label;  ///< what the row means
-    bezeichnung hinweis;                                           ///< how the fields are meant
-    std::array<rahmen, spuren_max + 1> Frame;                      ///< 1 to 6 the lanes, 0 the keys of the whole track
-    befehl Command1;                                               ///< confirm
-    befehl Command2;                                               ///< cancel
-    befehl Command3;                                               ///< "Standard"
-    befehl Command4;                                               ///< "alle belegen"
-    befehl Command5;                                               ///< "Felder löschen"
+    bezeichnung hinweis;                       ///< how the fields are meant, or which of them are not right
+    std::array<rahmen, spuren_max + 1> Frame;  ///< 1 to 6 the lanes, 0 the keys of the whole track
+    befehl Command1;                           ///< confirm
+    befehl Command2;                           ///< cancel
+    befehl Command3;                           ///< "Standard"
+    befehl Command4;                           ///< "alle belegen"
+    befehl Command5;                           ///< "Felder löschen"
 
     /// Load handler: shows the assignment in force.
     void laden() override;

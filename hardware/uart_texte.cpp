@@ -32,7 +32,7 @@ void uart_einstellungen::texte_port(sprachliste& texte) {
     texte.text("COM-PORT ", wort_.com_port).text(" gefunden.", wort_.gefunden);
     texte.text("Es konnte kein Port ermittelt werden.", wort_.nicht_ermittelt);
     texte.text("kein COM-Port gefunden", wort_.kein_port);
-    texte.text("COM-Ports größer 16 werden nicht erkannt", wort_.zu_gross);
+    texte.text("COM-Ports über 16 werden nicht erkannt.", wort_.zu_gross);
     texte.text(" +++ Vorhandene COM-Ports abfragen", wort_.abfragen);
     texte.text(" +++ COM-Port wurde geöffnet", wort_.geoeffnet);
     texte.text(" +++ COM-Port wurde geschlossen", wort_.geschlossen);

@@ -16,7 +16,6 @@ constexpr int dateiname_laenge_max = 60;
 constexpr int zeit_laenge_max = 12;
 constexpr int datum_laenge_max = 10;
 constexpr std::size_t name_spalte = 15;  // characters of a name in the lists
-constexpr std::string_view leere_zeit = "00:00,000";
 
 /// "01:02,345", "1:2.345" or without minutes "62,345"; the thousandths have three digits. None for any other text.
 std::optional<zeit_ms> zeit_lesen(std::string_view text) {
@@ -86,7 +85,8 @@ sprachliste beste_zeiten_verwaltung::sprache_bt() {
     texte.text("Zeit", Label_k[0]).text("Name", Label_k[1]).text("Datum", Label_k[2]).text("Fahrzeug", Label_k[3]);
     texte.text("ändern", Command34).text("Auswahl löschen", Command29).text("alle löschen", Command35);
     texte.text("Schließen", Command1);
-    texte.text("Die Zeit ist nicht lesbar oder zu lang. Bitte als 00:00,000 eintragen.", wort_.zeit_unlesbar);
+    texte.text("Die Zeit ist nicht lesbar oder zu lang. Bitte in dieser Form eintragen, höchstens",
+               wort_.zeit_unlesbar);
     texte.text("Bitte zuerst eine Zeile auswählen.", wort_.nichts_gewaehlt);
     texte.text("Alle Bestzeiten dieser Datei löschen?", wort_.wirklich_loeschen);
     texte.text("Bitte Dateinamen eingeben.", wort_.name_fehlt);
@@ -148,12 +148,11 @@ std::string beste_zeiten_verwaltung::listenzeile(const bestzeit& eintrag) const 
     if (eintrag.leer()) {
         return "–";
     }
-    return zeit_formatieren(eintrag.ms, true, um_.einst.trennzeichen) + "  " + spalte(eintrag.name, name_spalte) +
-           "  " + eintrag.datum;
+    return zeit_text(eintrag.ms) + "  " + spalte(eintrag.name, name_spalte) + "  " + eintrag.datum;
 }
 
 void beste_zeiten_verwaltung::felder_leeren() {
-    Text1.text(leere_zeit);
+    Text1.text(zeit_text(0));
     Text2.text(Label_k[1].text());
     Text3.text("00.00.0000");
     Text4.text(Label_k[3].text());
@@ -171,7 +170,7 @@ void beste_zeiten_verwaltung::eintrag_waehlen(int spur) {
         }
     }
     const bestzeit& eintrag = kopie_.eintrag(zeile + 1, spur);
-    Text1.text(eintrag.leer() ? std::string(leere_zeit) : zeit_formatieren(eintrag.ms, true, um_.einst.trennzeichen));
+    Text1.text(zeit_text(eintrag.leer() ? 0 : eintrag.ms));
     Text2.text(eintrag.name);
     Text3.text(eintrag.leer() ? datum_text(um_.kalender.jetzt()) : eintrag.datum);
     Text4.text(eintrag.fahrzeug);
@@ -181,9 +180,11 @@ void beste_zeiten_verwaltung::rekord_zeigen() {
     bestzeiten sortiert = kopie_;
     sortiert.sortieren();
     const bestzeit& rekord = sortiert.gesamt();
-    bestlabel2.text(rekord.leer() ? "–"
-                                  : zeit_formatieren(rekord.ms, true, um_.einst.trennzeichen) + "   " + rekord.name +
-                                        "   " + rekord.datum);
+    bestlabel2.text(rekord.leer() ? "–" : zeit_text(rekord.ms) + "   " + rekord.name + "   " + rekord.datum);
+}
+
+std::string beste_zeiten_verwaltung::zeit_text(zeit_ms zeit) const {
+    return zeit_formatieren(zeit, true, um_.einst.trennzeichen);
 }
 
 void beste_zeiten_verwaltung::melden(const std::string& text) {
@@ -205,7 +206,7 @@ void beste_zeiten_verwaltung::eintrag_aendern() {
     }
     const zeit_ms ms = zeit_lesen(Text1.text()).value_or(0);
     if (ms <= 0 || ms >= keine_bestzeit) {
-        melden(wort_.zeit_unlesbar);
+        melden(wort_.zeit_unlesbar + " " + zeit_text(keine_bestzeit - 1) + ".");
         Text1.fokus_setzen();
         return;
     }

@@ -97,6 +97,7 @@ private:
     bool speichern();
     void in_kraft_setzen();
     void melden(const std::string& text);
+    std::string zeit_text(zeit_ms zeit) const;
 
     umgebung um_;
     worte wort_;

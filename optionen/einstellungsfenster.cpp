@@ -6,6 +6,7 @@
 #include "core/bestzeiten.h"
 #include "core/nebendateien.h"
 #include "core/text.h"
+#include "core/zahleneingabe.h"
 
 namespace tarvel {
 namespace {
@@ -75,7 +76,8 @@ sprachliste einstellungsfenster::sprache_e() {
             texte.text(warnung.deutsch, warnung.text);
         }
     });
-    return texte;
+    texte.text("Hier steht keine Zahl.", keine_zahl_);
+    return texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -189,10 +191,13 @@ void einstellungsfenster::hardware_waehlen(std::size_t nummer) {
 
 void einstellungsfenster::hardware_gruppen_zeigen() {
     const auto& gruppen = seiten_[seite_hardware]->gruppen;
+    bool gewaehlt_geht = false;
     for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
         optionsgruppe& gruppe = *gruppen.at(nummer + erste_hardware_gruppe);
         gruppe.titel.sichtbar(hardware.at(nummer).gesetzt() && !gruppe.zeilen.empty());
+        gewaehlt_geht = gewaehlt_geht || (hardware.at(nummer).gesetzt() && unterstuetzt.at(nummer));
     }
+    hardware_hinweis.sichtbar(!gewaehlt_geht);
 }
 
 void einstellungsfenster::hardware_uebernehmen() {
@@ -250,6 +255,11 @@ void einstellungsfenster::uart_portwerte_uebernehmen() {
 }
 
 void einstellungsfenster::zeile_uebernehmen(optionszeile& eine) {
+    const feld* f = std::get_if<feld>(&eine.element);
+    if (f != nullptr && eine.nur_zahlen && !ist_zahl(f->text()) && !(eine.auch_leer && f->text().empty())) {
+        um_.meldungen.zeigen(f->ansage() + ": " + keine_zahl_ + " " + alte_bleibt_, grenzen_titel_);
+        return;
+    }
     if (eine.uebernehmen) {
         eine.uebernehmen(um_.ziel, [this](const std::string& meldung) {
             um_.meldungen.zeigen(meldung + " " + alte_bleibt_, grenzen_titel_);

@@ -65,8 +65,11 @@ public:
     std::array<rahmen, seiten_anzahl> seitenrahmen;  ///< the pages; only the chosen one is visible
     rahmen hardware_rahmen;
     std::array<haken, 8> hardware;  ///< of them exactly one is set
-    befehl Command1;                ///< take over and save
-    befehl Command2;                ///< cancel
+    /// The program can speak to these; whoever owns the devices fills it in.
+    std::array<bool, 8> unterstuetzt{true};
+    bezeichnung hardware_hinweis;  ///< says so of the others
+    befehl Command1;               ///< take over and save
+    befehl Command2;               ///< cancel
     listenseite fahrerseite;
     listenseite fahrzeugseite;
 
@@ -124,6 +127,7 @@ private:
     std::string grenzen_titel_;
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;
+    std::string keine_zahl_;
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
     std::optional<schemawahl> schema_;  ///< once its rows are there
 };

@@ -33,8 +33,10 @@ void listenseite::befehle_verbinden() {
         }
     };
     alle_loeschen.bei_klick = [this] {
-        kopie_.leeren();
-        anzeigen(-1);
+        if (um_.meldungen.fragen(frage_text_, um_.txt.titel[0])) {
+            kopie_.leeren();
+            anzeigen(-1);
+        }
     };
     Liste_laden.bei_klick = [this] { laden_oeffnen(); };
     Liste_speichern.bei_klick = [this] { speichern_oeffnen(); };
@@ -47,6 +49,8 @@ void listenseite::texte_nennen(sprachliste& texte) {
     texte.text("entfernen", entfernen).text("alle löschen", alle_loeschen).text("Liste laden", Liste_laden);
     texte.text("Liste speichern", Liste_speichern).text("kein Bild", kein_bild).text("anderes Bild", anderes_bild);
     texte.text(art_.voll, voll_text_).text(art_.bildtitel, bildtitel_text_);
+    texte.text("Alle Namen der Liste löschen?", frage_text_);
+    texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", ersetzt_text_);
 }
 
 void listenseite::zeigen() {
@@ -92,6 +96,9 @@ void listenseite::name_hinzufuegen() {
     if (neu.empty() || neu == art_.standard || namensliste::ist_marke(neu)) {  // none of them can stand in a file
         name.fokus_setzen();
         return;
+    }
+    if (const std::string getippt(gekuerzt(name.text())); neu != getippt) {
+        um_.meldungen.zeigen(ersetzt_text_ + "\n" + getippt + " – " + neu, um_.txt.titel[0]);
     }
     if (gefunden != eintraege.end()) {
         anzeigen(static_cast<int>(gefunden - eintraege.begin()));

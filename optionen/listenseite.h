@@ -79,6 +79,8 @@ private:
     bool nicht_geschrieben_ = false;
     std::string voll_text_;
     std::string bildtitel_text_;
+    std::string frage_text_;
+    std::string ersetzt_text_;
 };
 
 }  // namespace tarvel

@@ -90,6 +90,7 @@ optionszeile_zeiger zahl(const beschriftet& b, const zahlzugriff& ziel, const za
     auto [zeile, element] = neue_zeile<feld>(b);
     optionszeile* zeiger = zeile.get();
     element->laenge_max(zahlenfeld_laenge);
+    zeile->nur_zahlen = regel.min <= 0 || regel.meldung.empty();
     if (!regel.meldung.empty()) {
         zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen,
                                meldung = std::string(regel.meldung)](sprachliste& texte) {
@@ -132,6 +133,8 @@ optionszeile_zeiger text(const beschriftet& b, const zugriff<std::string>& ziel,
 
 optionszeile_zeiger meter(const beschriftet& b, const zugriff<std::string>& ziel) {
     optionszeile_zeiger zeile = text(b, ziel, zahlenfeld_laenge);
+    zeile->nur_zahlen = true;
+    zeile->auch_leer = true;
     zeile->uebernehmen = [ziel, davor = zeile->uebernehmen](const einstellungs_ziel& z, const auto& melden) {
         davor(z, melden);
         werte_pruefen2(ziel(z));

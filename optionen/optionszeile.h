@@ -39,6 +39,8 @@ struct optionszeile {
     std::vector<std::string> eintraege;  ///< of a choice, in the window's language
     std::string grenzen_meldung;
     std::vector<optionswarnung> warnungen;
+    bool nur_zahlen = false;  ///< a field whose text would pass for 0 without being a number
+    bool auch_leer = false;   ///< which may stay empty all the same
 
     /// Settings to control.
     std::function<void(const einstellungs_ziel&)> zeigen;

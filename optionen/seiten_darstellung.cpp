@@ -51,7 +51,7 @@ std::vector<std::string> sound_ereignisse() {
             namen.push_back(was + " Spur " + std::to_string(spur));
         }
     };
-    je_spur("beste Runde");
+    je_spur("Beste Runde");
     je_spur("Frühstart");
     je_spur("Disqualifikation");
     je_spur("Tankwarnung");
@@ -60,12 +60,12 @@ std::vector<std::string> sound_ereignisse() {
     for (int sensor = 1; sensor <= 8; ++sensor) {
         namen.push_back("Soundsensor " + std::to_string(sensor));
     }
-    namen.insert(namen.end(), {"Schritt der Startampel", "erstes Auto im Ziel", "Sektorzeit", "noch 5 Minuten",
-                               "noch 2 Minuten", "noch 1 Minute", "noch 30 Sekunden", "noch 20 Sekunden"});
+    namen.insert(namen.end(), {"Schritt der Startampel", "Erstes Auto im Ziel", "Sektorzeit", "Noch 5 Minuten",
+                               "Noch 2 Minuten", "Noch 1 Minute", "Noch 30 Sekunden", "Noch 20 Sekunden"});
     for (int sekunden = 10; sekunden > 1; --sekunden) {
-        namen.push_back("noch " + std::to_string(sekunden) + " Sekunden");
+        namen.push_back("Noch " + std::to_string(sekunden) + " Sekunden");
     }
-    namen.insert(namen.end(), {"noch 1 Sekunde", "noch 42,5 Sekunden"});
+    namen.insert(namen.end(), {"Noch 1 Sekunde", "Noch 42,5 Sekunden"});
     return namen;
 }
 
@@ -100,11 +100,11 @@ optionsseite_zeiger farben() {
     seite->gruppe("Rennbildschirm", 1)
         << farbwahl({"farben_ampel_1", "Hintergrund"}, element(&e::farben_ampel, 1))
         << farbwahl({"farben_schrift_2", "Schrift"}, element(&e::farben_schrift, 2))
-        << farbwahl({"farben_ampel_2", "weiterer Hintergrund 1"}, element(&e::farben_ampel, 2))
-        << farbwahl({"farben_ampel_3", "weiterer Hintergrund 2"}, element(&e::farben_ampel, 3))
-        << farbwahl({"farben_schrift_1", "weitere Schrift"}, element(&e::farben_schrift, 1));
-    seite->gruppe("Startampel", 1) << farbwahl({"farbe_ampel_rot_aus", "rote Lampe aus"}, wert(&e::farbe_ampel_rot_aus))
-                                   << farbwahl({"farbe_ampel_gruen_aus", "grüne Lampe aus"},
+        << farbwahl({"farben_ampel_2", "Weiterer Hintergrund 1"}, element(&e::farben_ampel, 2))
+        << farbwahl({"farben_ampel_3", "Weiterer Hintergrund 2"}, element(&e::farben_ampel, 3))
+        << farbwahl({"farben_schrift_1", "Weitere Schrift"}, element(&e::farben_schrift, 1));
+    seite->gruppe("Startampel", 1) << farbwahl({"farbe_ampel_rot_aus", "Rote Lampe aus"}, wert(&e::farbe_ampel_rot_aus))
+                                   << farbwahl({"farbe_ampel_gruen_aus", "Grüne Lampe aus"},
                                                wert(&e::farbe_ampel_gruen_aus));
     return seite;
 }

@@ -147,7 +147,7 @@ void at_2560(optionsseite& seite) {
                      {"4800", "9600", "19200", "38400", "57600", "115200"})
         << zahl({"uart_datenbits", "Datenbits", "4 bis 8"}, wert(&e::uart, &uart::uart_datenbits), begrenzt(4, 8))
         << wortliste({"uart_parity", "Parität"}, wert(&e::uart, &uart::uart_parity), {"N", "E", "O", "M", "S"})
-        << wortliste({"uart_stopbits", "Stopbits"}, wert(&e::uart, &uart::uart_stopbits), {"1", "1.5", "2"})
+        << wortliste({"uart_stopbits", "Stoppbits"}, wert(&e::uart, &uart::uart_stopbits), {"1", "1.5", "2"})
         << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart, &uart::uart_datei), 60, 6)
         << aktion({"uart_datei_waehlen", "Befehlsdatei auswählen"})
         << aktion({"uart_einrichten", "Zeitmessung einrichten"});

@@ -123,7 +123,7 @@ optionsseite_zeiger start_ziel() {
                                        wert(&e::fahrzeug_wechseln));
     seite->gruppe("Ergebnisse", 1) << kasten({"aut_speichern", "Ergebnisse automatisch speichern"},
                                              wert(&e::aut_speichern))
-                                   << kasten({"aut_loeschen", "automatische Dateien beim Programmstart löschen"},
+                                   << kasten({"aut_loeschen", "Automatische Dateien beim Programmstart löschen"},
                                              wert(&e::aut_loeschen));
     seite->gruppe("Rennbildschirm", 1) << kasten({"darstellung_opt", "Zeilenansicht"}, wert(&e::darstellung_zeile))
                                        << kasten({"chk_alte_leute", "große Zeitanzeige"}, wert(&e::grosse_zeit))
@@ -142,7 +142,7 @@ optionsseite_zeiger tanken_chaos() {
                              << zahl({"t_rundenzeit_w", "Durchschn. Rundenzeit", "Sekunden"}, wert(&e::tank_rundenzeit),
                                      {1, 300, "Durchschn. Rundenzeit außerhalb des gültigen Bereichs (1-300)."})
                              << tankwarnung()
-                             << kasten({"tankanz_art", "grafische Tankanzeige"}, wert(&e::tankanzeige_grafisch));
+                             << kasten({"tankanz_art", "Grafische Tankanzeige"}, wert(&e::tankanzeige_grafisch));
     seite->gruppe("Leerer Tank", 0) << wahl({"t_straf_combo", "Aktion bei leerem Tank"}, wert(&e::tank_straf_option), 0,
                                             {"ohne", "Disqualifikation", "1 Runde Abzug", "Stromunterbrechung",
                                              "Zeitstrafe"})
@@ -173,7 +173,7 @@ optionsseite_zeiger sektoren_topspeed() {
     for (std::size_t sektor = 1; sektor <= 3; ++sektor) {
         const std::string nummer = std::to_string(sektor);
         optionsgruppe& gruppe = seite->gruppe("Sektor " + nummer, static_cast<int>(sektor) - 1);
-        gruppe << kasten({"sektor_an_" + nummer, "messen, Länge:"}, element(&e::sektor_an, sektor));
+        gruppe << kasten({"sektor_an_" + nummer, "Messen, Länge:"}, element(&e::sektor_an, sektor));
         for (const int spur : alle_spuren) {
             gruppe << meter(
                 {"sektor_laenge_" + nummer + "_" + std::to_string(spur), "Spur " + std::to_string(spur), "m"},

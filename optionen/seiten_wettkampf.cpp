@@ -37,6 +37,7 @@ optionszeile_zeiger wechselfolge() {
 optionszeile_zeiger einfahrdauer() {
     optionszeile_zeiger zeile = leeres_feld({"w_edauertext", "Einfahrdauer", "max 99 Runden oder 999 Sekunden"}, 4);
     feld* element = &std::get<feld>(zeile->element);
+    zeile->nur_zahlen = true;
     zeile->zeigen = [element](const einstellungs_ziel& z) { element->text(zahl_als_text(z.einst.w_edauer)); };
     zeile->uebernehmen = [element](const einstellungs_ziel& z, const auto&) {
         const zahl_regel regel =
@@ -87,7 +88,7 @@ optionsseite_zeiger wettkampf_training() {
     seite->gruppe("Training", 1) << wahl({"cmb_training", "Trainingsart"}, wert(&e::training_art), 0,
                                          {"normales Training", "Intervaltraining", "Dauertraining"})
                                  << trainingwechseldauer()
-                                 << wahl({"cmb_trainingweiter", "danach"}, wert(&e::training_weiter), 0,
+                                 << wahl({"cmb_trainingweiter", "Danach"}, wert(&e::training_weiter), 0,
                                          {"neu starten", "fortsetzen"});
     return seite;
 }

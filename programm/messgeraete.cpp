@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "optionen/einstellungsfenster.h"
+
 namespace tarvel {
 
 messgeraete::messgeraete(const geraete_umgebung& um)
@@ -12,6 +14,7 @@ messgeraete::messgeraete(const geraete_umgebung& um)
     anzeigetakt_->bei_tick = [this] { verbindung_anzeigen(); };
     for (const geraet_anlegen anlegen : geraetetabelle()) {
         alle_.push_back({anlegen(um_, *this)});
+        um_.einstellungsfenster.unterstuetzt.at(static_cast<std::size_t>(alle_.back().teile->geraet().nummer())) = true;
     }
 }
 

@@ -254,8 +254,9 @@ void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double
 }
 
 /// Both clocks, what is driven for, and the pictures beside them.
-void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr, plaetze<fenster_teil>& g) {
+void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr, ansicht_geometrie& ganzes) {
     using f = fenster_teil;
+    plaetze<fenster_teil>& g = ganzes.fenster;
     const double luecke = 150 * uhr;
     const double seite = (inhalt.grosse_zeit ? 0.19 : 0.24) * kopf.breite;
     zuschnitt reihe(kopf, luecke);
@@ -264,9 +265,11 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     const double bild = std::min<double>(kopf.hoehe, 0.45 * seite);
     g[f::logobild].ort = links.links(inhalt.logobild ? bild : 0);
     g[f::wrpic1].ort = rechts.rechts(inhalt.wrpic1 ? bild : 0);
-    g[f::uhrframe1].ort = reihe.rest();
-    g[f::nachlauflabel].ort = reihe.rest();
-    g[f::uhrframe2].ort = rechts.rest();
+    ganzes.licht_der_pause = reihe.rest();
+    zuschnitt uhren(rechts.rest());
+    g[f::uhrframe1].ort = inhalt.licht_der_pause ? uhren.oben(0.5 * kopf.hoehe) : reihe.rest();
+    g[f::nachlauflabel].ort = g[f::uhrframe1].ort;
+    g[f::uhrframe2].ort = uhren.rest();
     zuschnitt ziel(links.rest());
     if (inhalt.naechstes_rennen) {
         g[f::Label5].ort = ziel.unten(0.36 * kopf.hoehe);
@@ -275,7 +278,7 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     g[f::ziel_label].ort = ziel.rest();
     schrift(g[f::uhrframe1], 0.78);
     schrift(g[f::nachlauflabel], 0.62);
-    schrift(g[f::uhrframe2], 0.36);
+    schrift(g[f::uhrframe2], inhalt.licht_der_pause ? 0.78 : 0.36);
     g[f::ziel_label].schrift_px = static_cast<int>(0.32 * kopf.hoehe);
     schrift(g[f::Label_naechstesrennen], 0.8);
     schrift(g[f::Label5], 0.46);  // two lines
@@ -362,7 +365,7 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     const double uhr = skal_faktor * (gezeigt.grosse_zeit ? 1.5 : 1);
 
     zuschnitt fenster(rechteck{0, 0, breite, hoehe}.innen(110 * skal_faktor), 90 * skal_faktor);
-    uhr_anordnen(gezeigt, fenster.oben(2250 * uhr), uhr, g.fenster);
+    uhr_anordnen(gezeigt, fenster.oben(2250 * uhr), uhr, g);
     const double fuss = zeilen ? 0.1 * hoehe - 200 * skal_faktor : 1450 * skal_faktor;
     befehle_legen(gezeigt, fenster.unten(fuss), skal_faktor, g.fenster);
 

@@ -36,6 +36,7 @@ struct ansicht_inhalt {
     bool wrpic2 = false;
     bool einfahrzeit = false;       ///< the command that begins the warm-up
     bool naechstes_rennen = false;  ///< who drives next
+    bool licht_der_pause = false;   ///< stands in the place of the large clock, which moves over the second one
 
     bool operator==(const ansicht_inhalt&) const = default;
 };
@@ -115,6 +116,7 @@ struct ansicht_geometrie {
     plaetze<spur_teil> spur;  ///< from the upper left corner of the block; the same in each of them
     rechteck streifen;        ///< of the lane's colour along an edge of its block
     rechteck zaehler_weit;    ///< place of `zaehler` with half its indent
+    rechteck licht_der_pause;
 };
 
 /// Lays the window out for this size in pixels.

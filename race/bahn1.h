@@ -106,6 +106,7 @@ struct bahn1 {
         std::string bestzeit;  ///< in front of the time
         std::string cu_start;  ///< what is to do at the device, for the start
         std::string cu_pause;  ///< and in a pause
+        std::string nacht;     ///< in front of the key that ends the dark
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

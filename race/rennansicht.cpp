@@ -102,7 +102,8 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Best: ", bahn.wort.bestzeit);
     texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
     texte.text("Pause: Weiter mit der Starttaste der Control Unit oder mit „Weiter“.", bahn.wort.cu_pause);
-    return texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
+    texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
+    return texte.text("Hell mit der Taste", bahn.wort.nacht);
 }
 
 void rennansicht::oeffnen() {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/text.h"
+
 namespace tarvel {
 
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
@@ -16,6 +18,11 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
     };
     um_.bahn.Command4.bei_klick = [this] { rennen_beenden(); };
     um_.bahn.Command6.bei_klick = [this] { t_.ablauf.einfahrzeit_starten(); };
+}
+
+std::string rennbefehle::nachthinweis() const {
+    const int code = belegung_.taste(tastenbelegung::zeile_nacht);
+    return code == tastenbelegung::keine_taste ? "" : um_.bahn.wort.nacht + " " + ansi_zeichen(code);
 }
 
 void rennbefehle::taste_auswerten(int code, std::optional<zeit_ms> alter) {

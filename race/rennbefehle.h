@@ -31,6 +31,8 @@ public:
     /// Whether that key does anything in a race.
     bool ist_belegt(int code) const { return belegung_.ist_belegt(code); }
     bool ist_nachttaste(int code) const { return belegung_.taste(tastenbelegung::zeile_nacht) == code; }
+    /// How the dark screen gets bright again; empty without a key for it.
+    std::string nachthinweis() const;
     /// Stops the race without a result.
     void rennen_abbrechen();
     /// Closing the window means the same, but a race that runs is not lost to a slip of the hand: it asks first.

@@ -25,7 +25,10 @@ public:
 
     rahmen& titelzeile() override { return bahn_.titel; }
     std::vector<sprachliste> sprachdateien() override { return {t_.ansicht.sprache_r()}; }
-    void laden() override { t_.ablauf.laden(); }
+    void laden() override {
+        t_.ablauf.laden();
+        bahn_.Nachtabschaltung.text(t_.befehle.nachthinweis());
+    }
     void entladen() override { t_.ablauf.entladen(); }
     void schliessen() override { t_.befehle.fenster_schliessen(); }
     bool escape_schliesst() const override { return false; }

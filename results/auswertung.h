@@ -135,7 +135,9 @@ private:
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
-        std::string abstand;                 ///< explains the gap to the leader
+        std::string abstand;     ///< explains the gap to the leader
+        std::string gesamtzeit;  ///< and what the total time is
+        std::string keine_zahl, zu_viele_meter, trotzdem;
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
 
@@ -160,6 +162,8 @@ private:
 
     void Command6_klick();
     void meter_eingabe(bool an);
+    /// Each entry is a number, and within its lane unless the operator insists.
+    bool meter_pruefen();
     void runde_loeschen();
     void runde_loeschen_auf(std::size_t i);
     void anzeige_weiterschalten(std::size_t i);

@@ -3,6 +3,7 @@
 #include "core/renndauer.h"
 #include "core/text.h"
 #include "core/wechselschema.h"
+#include "core/zahleneingabe.h"
 #include "results/auswertung.h"
 
 namespace tarvel {
@@ -76,7 +77,9 @@ void auswertung::anzeige_weiterschalten(std::size_t i) {
 
 void auswertung::Command6_klick() {
     if (meter_eingabe_an_) {
-        meter_eingabe_uebernehmen();
+        if (meter_pruefen()) {
+            meter_eingabe_uebernehmen();
+        }
     } else {
         verlauf_zeigen(false);
         meter_eingabe(true);
@@ -104,6 +107,31 @@ void auswertung::meter_eingabe(bool an) {
     if (const rennergebnis::spur* erster = ergebnis().fuehrende(); an && erster != nullptr) {
         meter.at(feld_index(erster->nummer)).fokus_setzen();
     }
+}
+
+bool auswertung::meter_pruefen() {
+    for (const rennergebnis::spur& s : ergebnis().spuren) {
+        feld& eingabe = meter.at(feld_index(s.nummer));
+        std::string text = eingabe.text();
+        werte_pruefen2(text);
+        const double gesamt = s.restmeter + zahl_lesen(text);
+        const double laenge_m = um_.param.spurlaenge[s.nummer];
+        const auto nennen = [&](const std::string& was) { return eingabe.ansage() + ": " + was; };
+        bool gut = true;
+        if (!ist_zahl(text)) {
+            um_.meldungen.zeigen(nennen(wort_.keine_zahl), um_.txt.titel[1]);
+            gut = false;
+        } else if (zahl_lesen(text) > 0 && gesamt > laenge_m && !s.disqualifiziert) {
+            gut = um_.meldungen.fragen(nennen(zahl_text(gesamt, ',') + " m. " + wort_.zu_viele_meter + " " +
+                                              zahl_text(laenge_m, ',') + " m. " + wort_.trotzdem),
+                                       um_.txt.titel[0]);
+        }
+        if (!gut) {
+            eingabe.fokus_setzen();
+            return false;
+        }
+    }
+    return true;
 }
 
 void auswertung::meter_eingabe_uebernehmen() {

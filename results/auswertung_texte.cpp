@@ -55,9 +55,11 @@ sprachliste auswertung::sprache_a() {
     texte.text("Wertung nach schnellster Runde", wort_.wertung[2]);
     blatt.eintragen(diagramm.eintragen(texte));
     texte.text("Minuten, auch mit Sekunden: 5,30 sind fünf Minuten und dreißig Sekunden", wort_.minuten_hinweis);
-    return texte.text(
-        "Unterschied der Gesamtzeiten; mit - hat dieser Fahrer weniger Runden und war mit ihnen früher fertig",
-        wort_.abstand);
+    texte.text("Unterschied der Gesamtzeiten; mit - hat dieser Fahrer weniger Runden und war mit ihnen früher fertig",
+               wort_.abstand);
+    texte.text("Alle Runden zusammen, von der ersten Überfahrt der Spur an, mit den Strafzeiten", wort_.gesamtzeit);
+    texte.text("Hier steht keine Zahl.", wort_.keine_zahl).text("Die Spur ist nur so lang:", wort_.zu_viele_meter);
+    return texte.text("Trotzdem eintragen?", wort_.trotzdem);
 }
 
 void auswertung::ansagen_setzen() {
@@ -78,6 +80,8 @@ void auswertung::ansagen_setzen() {
         beste_aus[i].tipp(wort_.tempo);
         kmh_label[i].tipp(wort_.tempo);
         abstandlabel[i].tipp(wort_.abstand);
+        zeit_aus[i].tipp(wort_.gesamtzeit);
+        Label_zeit[i].tipp(wort_.gesamtzeit);
         cmd_anzeige[i].text("…");
         cmd_rd_add[i].text("▼");
         cmd_rd_inc[i].text("✕");

@@ -96,7 +96,7 @@ sprachliste beste_zeiten_fenster::sprache_best() {
     texte.ueberschrift("Bestzeiten").text("Neue Bestzeiten", titel);
     texte.text("Korrekturen bitte direkt eintragen oder auswählen. Bei grün wird der Wert gespeichert.", Label1);
     texte.text("Spur", wort_spur_).text("Fahrer", Label_kopf[0]).text("Fahrzeug", Label_kopf[1]);
-    texte.text("Rundenzeit", Label_kopf[2]).text("bisher", Label_kopf[3]);
+    texte.text("Rundenzeit", Label_kopf[2]).text("Bisher", Label_kopf[3]);
     texte.text("speichern", Command1).text("Abbrechen", Command2);
     return texte.text("Eingangswerte", Command3);
 }

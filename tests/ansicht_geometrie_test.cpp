@@ -47,6 +47,7 @@ std::vector<ansicht_inhalt> alle_ansichten() {
         inhalt.grosse_zeit = (muster / 3 & 4) != 0;
         inhalt.logobild = inhalt.wrpic1 = inhalt.wrpic2 = (muster / 3 & 8) != 0;
         inhalt.einfahrzeit = inhalt.naechstes_rennen = inhalt.logobild;
+        inhalt.licht_der_pause = inhalt.tank == tankanzeige_art::balken;
         inhalt.art = ansicht_art::einfahrer;
         inhalt.spur_aktiv = letzte_spuren(1);
         alle.push_back(inhalt);
@@ -132,6 +133,9 @@ void bloecke_pruefen(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, c
         << "the chosen lanes take all the room";
     for (const f teil : {f::uhrframe1, f::uhrframe2, f::Frame1, f::ch_strafframe, f::ziel_label}) {
         bloecke.push_back(g.fenster[teil].ort);
+    }
+    if (inhalt.licht_der_pause) {
+        bloecke.push_back(g.licht_der_pause);
     }
     innere_pruefen(fenster, bloecke);
 }

@@ -45,8 +45,10 @@ TEST_F(BesteZeitenVerwaltung, KorrekturenGeltenSortiertNachDemSchliessen) {
     v.Text2.eingeben("Anna \"Blitz\" €");
     EXPECT_EQ(aendern("01:02.345"), meldungen{});
     EXPECT_EQ(v.Text1.text(), "01:02,345") << "a minute is a minute here";
-    EXPECT_EQ(aendern("7,5"),
-              (meldungen{{"Die Zeit ist nicht lesbar oder zu lang. Bitte als 00:00,000 eintragen.", "Hinweis"}}));
+    EXPECT_EQ(
+        aendern("7,5"),
+        (meldungen{{"Die Zeit ist nicht lesbar oder zu lang. Bitte in dieser Form eintragen, höchstens 01:39,998.",
+                    "Hinweis"}}));
     EXPECT_EQ(aendern("7:500").size(), 0U);
     EXPECT_EQ(v.bestlabel2.text(), "00:07,500   Anna 'Blitz' €   01.02.2026");
     spur(5).auswaehlen(9);

@@ -358,6 +358,7 @@ TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
     EXPECT_EQ(t.bahn().cu_startlabel.text(), "Chaos / Pause: " + t.p.param.fahrer_name[2]);
     t.maschine.laufen(3000);
     t.taste("c");
+    EXPECT_EQ(t.bahn().ziel_label.text(), "5:00 min");
     t.maschine.laufen(600);
     EXPECT_FALSE(t.p.ereignisse.chaos_fahrer[2]);
     t.taste("y");  // too early, and forgotten

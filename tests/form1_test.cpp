@@ -81,6 +81,24 @@ TEST_F(Form1, OhneLaengeOderSpurKeinRennen) {
     EXPECT_EQ(t.p.param.renn_ziel, 9999);
 }
 
+TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {
+    f.fahrer[0].eingeben("Anna");
+    f.fahrer[2].eingeben("Anna");
+    t.einrichten("Zeit", "5", {1, 3});
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_EQ(t.maschine.fragen_gestellt, (meldungen{{"Anna fährt auf zwei Spuren. Trotzdem starten?", "Hinweis"}}));
+    f.fahrer[2].eingeben("Łucja");
+    f.lspur[0].eingeben("lang");
+    f.massstab.eingeben("");
+    t.einrichten("Zeit", "5", {1, 3});
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_EQ(t.maschine.meldungen_gezeigt,
+              (meldungen{{"Hier stand keine Zahl. Jetzt gilt:\nMaßstab 1/: 43\nSpurlänge, Spur/Auto 1: 25\n\n"
+                          "Zeichen, die in keiner Datei stehen können, sind ersetzt:\nŁucja – ?ucja",
+                          "Hinweis"}}));
+    EXPECT_EQ(t.p.param.fahrer_name[3], "?ucja");
+}
+
 TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     t.maschine.bildschirm_groesse = {1024, 719};
     t.maschine.laufen(1000);

@@ -58,6 +58,10 @@ TEST_F(Listenseite, NeueNamenGeltenErstNachDemUebernehmen) {
 
 TEST_F(Listenseite, MehrAlsHundertNamenNimmtKeineListe) {
     fahrer.alle_loeschen.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt, (meldungen{{"Alle Namen der Liste löschen?", "Hinweis"}}));
+    EXPECT_EQ(fahrer.namen.zeilen().size(), 6U) << "the answer was no";
+    t.maschine.antwort = true;
+    fahrer.alle_loeschen.klicken();
     for (int nummer = 1; nummer <= 100; ++nummer) {
         hinzufuegen("F" + std::to_string(nummer));
     }
@@ -74,6 +78,7 @@ TEST_F(Listenseite, ListenLassenSichSpeichernUndLaden) {
     mit_datei(fahrer.Liste_speichern, "klub");
     EXPECT_EQ(t.p.fahrerspeichernfenster.titel.text(), "Fahrerliste speichern");
     EXPECT_TRUE(t.maschine.datei_da("Listen/klub.lst"));
+    t.maschine.antwort = true;
     fahrer.alle_loeschen.klicken();
     mit_datei(fahrer.Liste_laden, "klub.lst");
     EXPECT_EQ(fahrer.namen.zeilen().back(), "Anna");
@@ -104,6 +109,8 @@ TEST_F(Listenseite, GeltendeListeIstBeimNaechstenStartDa) {
     mit_datei(fahrer.Liste_speichern, "klub");
     hinzufuegen("Łukas");  // no sign of the files' code page
     EXPECT_EQ(fahrer.namen.zeilen().back(), "?ukas") << "shown as it will be kept";
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text,
+              "Zeichen, die in keiner Datei stehen können, sind ersetzt:\nŁukas – ?ukas");
     uebernehmen();
     programm neu(t.maschine.dienste());
     neu.starten();

@@ -277,6 +277,8 @@ TEST_F(Optionen, GrenzenMitMeldungLassenDenAltenWertUndNehmenDieAnderen) {
         EXPECT_TRUE(nach_eingabe(g.name, g.oben).empty());
         EXPECT_EQ(zeile(g), g.gespeichert);
     }
+    EXPECT_EQ(nach_eingabe("f_strafzeit", "fünf").at(0).text,
+              "Stromunterbrechung Sekunden: Hier steht keine Zahl. Die alte Einstellung wird beibehalten.");
     EXPECT_EQ(einst.fruehstart_schritte, 300s);
     einst.fruehstart_strafzeit = dauer_hs(10);  // what a start leaves behind
     nach_eingabe("f_strafzeit", "0.1");

@@ -138,6 +138,7 @@ TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
     taste(15).eingeben("1");
     t.p.tastaturbelegung.Command1.klicken();
     EXPECT_EQ(letzte_meldung(), "Felder doppelt belegt!!!");
+    EXPECT_EQ(t.p.tastaturbelegung.hinweis.text(), "1 – Spur 1/Auto 1: Rundenzählung, Spur 2/Auto 2: Rundenzählung");
     taste(15).eingeben("漢");
     t.p.tastaturbelegung.Command1.klicken();
     EXPECT_EQ(letzte_meldung(), "Ungültiges Zeichen!!!");

@@ -182,6 +182,13 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     a.Command10.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "27,46 m") << "counts once";
     a.Command6.klicken();
+    a.meter[1].eingeben("viel");
+    a.Command6.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Spur 2: Restmeter: Hier steht keine Zahl.");
+    a.meter[1].eingeben("23");
+    a.Command6.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
+              "Spur 2: Restmeter: 25,455 m. Die Spur ist nur so lang: 25 m. Trotzdem eintragen?");
     a.meter[1].eingeben("-2,5");
     a.Command6.klicken();
     EXPECT_EQ(t.ergebnis(1).platz, 1) << "a wrong entry can be taken back";

@@ -22,6 +22,7 @@ constexpr QMargins rand_schmal(12, 5, 12, 5);
 AmpelFenster::AmpelFenster(fensterlogik& logik, rahmen& nacht, const umfeld& um)
     : Fenster(logik, um.verwaltung, um.bahn),
       nacht_(nacht),
+      bahn_(*um.bahn),
       einst_(um.einst),
       ablage_(um.ablage),
       aufbau_(new QVBoxLayout(this)) {
@@ -144,6 +145,8 @@ void AmpelFenster::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     if (nacht_.sichtbar()) {
         maler.fillRect(rect(), Qt::black);
+        maler.setPen(stil::nachtschrift);
+        maler.drawText(rect(), Qt::AlignHCenter | Qt::AlignBottom, bahn_.nachthinweis());
         return;
     }
     maler.fillRect(rect(), grund);

@@ -6,7 +6,7 @@
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "ui/ampelfeld.h"
-#include "ui/fenster.h"
+#include "ui/bahn1_fenster.h"
 
 class QVBoxLayout;
 
@@ -22,7 +22,7 @@ protected:
         const einstellungen& einst;
         const dateien& ablage;
         Fensterverwaltung& verwaltung;
-        QWidget* bahn;
+        Bahn1Fenster* bahn;
     };
 
     /// `nacht` is visible while the ground is black.
@@ -51,6 +51,7 @@ private:
     int reihen() const;
 
     rahmen& nacht_;
+    const Bahn1Fenster& bahn_;
     const einstellungen& einst_;
     const dateien& ablage_;
     QVBoxLayout* aufbau_;

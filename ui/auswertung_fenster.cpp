@@ -89,7 +89,7 @@ void AuswertungFenster::pdf_speichern(const dateien& ablage) {
             logik_.pdf_misslungen();
         }
     });
-    dialog->open();
+    vor_allem_zeigen(*dialog);
 }
 
 QLayout* AuswertungFenster::korrekturzeile() {

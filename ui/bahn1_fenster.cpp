@@ -58,7 +58,9 @@ void Bahn1Fenster::kopf() {
         text->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
         teil(name) = text;
     }
-    static_cast<TextAnzeige*>(teil(f::Label5))->setZweizeilig();
+    for (const f name : {f::Label5, f::ziel_label}) {
+        static_cast<TextAnzeige*>(teil(name))->setZweizeilig();
+    }
     TextAnzeige* nachlauf = binder().anzeige(bahn.nachlauflabel, "nachlauflabel");
     nachlauf->setFett(true);
     teil(f::nachlauflabel) = nachlauf;
@@ -140,7 +142,7 @@ void Bahn1Fenster::geraetehinweis() {
 
 void Bahn1Fenster::hinweis_anordnen() {
     const bool pause = logik_.zustand.chaos_aktiv;
-    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    const ansicht_geometrie geometrie = aufteilung();
     const rechteck& ort = geometrie.fenster[pause ? f::cu_startframe : f::uhrframe1].ort;
     teil(f::cu_startframe)->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
     hinweistext_->setSchriftPx(geometrie.fenster[f::cu_startframe].schrift_px);
@@ -148,15 +150,28 @@ void Bahn1Fenster::hinweis_anordnen() {
 }
 
 void Bahn1Fenster::nachtabschaltung() {
-    nacht_ = new QWidget(this);
+    nacht_ = new TextAnzeige(this);
     nacht_->setAutoFillBackground(true);
+    nacht_->setFarbe(stil::nachtschrift);
+    nacht_->setAusrichtung(Qt::AlignHCenter | Qt::AlignBottom);
     QPalette schwarz;
     schwarz.setColor(QPalette::Window, Qt::black);
     nacht_->setPalette(schwarz);
     binder().verbinden(logik_.bahn1.Nachtabschaltung, nacht_, "Nachtabschaltung", [this] {
-        nacht_->setGeometry(rect());
+        nacht_->setText(nachthinweis());
+        nacht_anordnen();
         nacht_->raise();
     });
+}
+
+void Bahn1Fenster::nacht_anordnen() {
+    constexpr int zeilen = 45;
+    nacht_->setGeometry(rect());
+    nacht_->setSchriftPx(height() / zeilen);
+}
+
+QString Bahn1Fenster::nachthinweis() const {
+    return QString::fromStdString(logik_.bahn1.Nachtabschaltung.text());
 }
 
 void Bahn1Fenster::aufschlagen() {
@@ -176,19 +191,30 @@ void Bahn1Fenster::aufschlagen() {
     activateWindow();
 }
 
-QRect Bahn1Fenster::uhr_ort() const {
-    const QWidget* uhr = teil(f::uhrframe1);
-    return {uhr->mapToGlobal(QPoint(0, 0)), uhr->size()};
+void Bahn1Fenster::licht_der_pause(bool da) {
+    licht_der_pause_ = da && logik_.umgebung.ist_zeitrennen();  // else both clocks show the same
+    anordnen();
+}
+
+QRect Bahn1Fenster::licht_ort() const {
+    const rechteck ort = aufteilung().licht_der_pause;
+    return {mapToGlobal(QPoint(ort.x, ort.y)), QSize(ort.breite, ort.hoehe)};
+}
+
+ansicht_geometrie Bahn1Fenster::aufteilung() const {
+    ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
+    inhalt.licht_der_pause = licht_der_pause_;
+    return ansicht_aufteilen(inhalt, width(), height());
 }
 
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    nacht_->setGeometry(rect());
+    nacht_anordnen();
     anordnen();
 }
 
 void Bahn1Fenster::anordnen() {
-    const ansicht_geometrie geometrie = ansicht_aufteilen(logik_.bahn1.ansicht.inhalt(), width(), height());
+    const ansicht_geometrie geometrie = aufteilung();
     for (Spurblock* block : bloecke_) {
         block->anordnen(geometrie);
     }

@@ -16,8 +16,12 @@ public:
     Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
-    /// The large clock on the screen. It stands still in a pause.
-    QRect uhr_ort() const;
+    /// The light of a pause is there, or gone: of a time race, the time left moves out of its way.
+    void licht_der_pause(bool da);
+    /// Its place on the screen.
+    QRect licht_ort() const;
+    /// How the dark screen gets bright again.
+    QString nachthinweis() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -30,8 +34,10 @@ private:
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();
     void nachtabschaltung();
+    void nacht_anordnen();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
+    ansicht_geometrie aufteilung() const;
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
     QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
@@ -42,7 +48,8 @@ private:
     std::array<QWidget*, static_cast<std::size_t>(fenster_teil::anzahl)> teile_{};
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
-    QWidget* nacht_ = nullptr;
+    TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
+    bool licht_der_pause_ = false;
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
 

@@ -2,12 +2,13 @@
 
 #include <QAbstractItemView>
 #include <QColorDialog>
-#include <QImageReader>
 #include <QPixmap>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
 #include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -34,37 +35,35 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
     }
 }
 
-/// Null if there is no picture that can be read.
-QImage bild_lesen(const std::filesystem::path& pfad) {
-    if (!ist_lesbar(pfad, bild_bytes_max)) {
-        return {};
-    }
-    QImageReader leser(QString::fromStdU16String(pfad.u16string()));
-    leser.setDecideFormatFromContent(true);  // a picture keeps its kind when it is copied under another name
-    leser.setAutoTransform(true);
-    constexpr int kante_max = 1600;  // no window shows a photograph larger, and a JPEG is read small much faster
-    const QSize voll = leser.size();
-    if (voll.width() > kante_max || voll.height() > kante_max) {
-        leser.setScaledSize(voll.scaled(kante_max, kante_max, Qt::KeepAspectRatio));
-    }
-    return leser.read();
-}
-
-/// Reads the control's picture, or the one that stands in for it, when it is another one than before.
-auto bild_nachlesen(bild& element, std::function<std::filesystem::path(const std::string&)> pfad,
-                    std::function<void(const QImage&)> zeigen) {
-    const auto lesen = [pfad = std::move(pfad)](const std::string& datei) {
-        return datei.empty() ? QImage() : bild_lesen(pfad(datei));
-    };
-    return [&element, lesen, zeigen = std::move(zeigen), auflage = 0U, datei = std::string("\n")]() mutable {
+/// Tells `nehmer` the files of the control's picture, and of the one that stands in for it, when they are others than
+/// before.
+auto bild_verfolgen(bild& element, std::function<std::filesystem::path(const std::string&)> pfad,
+                    std::function<void(const Bildleser::Dateien&)> nehmer) {
+    return [&element, pfad = std::move(pfad), nehmer = std::move(nehmer), auflage = 0U,
+            datei = std::string("\n")]() mutable {
         if (datei == element.datei() && auflage == element.auflage()) {
             return;
         }
         datei = element.datei();
         auflage = element.auflage();
-        const QImage eigenes = lesen(element.datei());
-        zeigen(eigenes.isNull() ? lesen(element.ersatz()) : eigenes);
+        Bildleser::Dateien dateien;
+        for (const std::string& name : {element.datei(), element.ersatz()}) {
+            if (!name.empty()) {
+                dateien.push_back(pfad(name));
+            }
+        }
+        nehmer(dateien);
     };
+}
+
+/// What is too long for a field is not swallowed unsaid.
+void kuerzung_sagen(QLineEdit* zeile) {
+    QObject::connect(zeile, &QLineEdit::inputRejected, zeile, [zeile] {
+        if (zeile->text().size() >= zeile->maxLength()) {
+            QToolTip::showText(zeile->mapToGlobal(QPoint(0, zeile->height())),
+                               QString("max. %1").arg(zeile->maxLength()), zeile);
+        }
+    });
 }
 
 }  // namespace
@@ -127,8 +126,8 @@ private:
     bool vorgemerkt_ = false;
 };
 
-Binder::Binder(QString fenster, Bildtakt& takt, QWidget* eltern)
-    : takt_(takt), fenster_(std::move(fenster)), eltern_(eltern) {}
+Binder::Binder(QString fenster, Bildtakt& takt, Bildleser& bilder, QWidget* eltern)
+    : takt_(takt), bilder_(bilder), fenster_(std::move(fenster)), eltern_(eltern) {}
 
 Binder::~Binder() = default;
 
@@ -214,24 +213,38 @@ QLabel* Binder::bildfeld(bild& element, const QString& name, QSize groesse,
     auto* widget = new QLabel(eltern_);
     widget->setFixedSize(groesse);
     widget->setAlignment(Qt::AlignCenter);
-    verbinden(element, widget, name, bild_nachlesen(element, std::move(pfad), [widget, groesse](const QImage& inhalt) {
-                  const double dichte = widget->devicePixelRatioF();
-                  QPixmap passend;
-                  if (!inhalt.isNull()) {
-                      passend = QPixmap::fromImage(
-                          inhalt.scaled(groesse * dichte, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-                      passend.setDevicePixelRatio(dichte);
-                  }
-                  widget->setPixmap(passend);
-              }));
+    const auto zeigen = [widget, groesse](const QImage& inhalt) {
+        const double dichte = widget->devicePixelRatioF();
+        QPixmap passend;
+        if (!inhalt.isNull()) {
+            passend =
+                QPixmap::fromImage(inhalt.scaled(groesse * dichte, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+            passend.setDevicePixelRatio(dichte);
+        }
+        widget->setPixmap(passend);
+    };
+    const auto lesen = [this, widget, groesse, zeigen,
+                        anfrage = std::make_shared<unsigned>(0)](const Bildleser::Dateien& dateien) {
+        const int kante = Bildleser::stufe(std::max(groesse.width(), groesse.height()) * widget->devicePixelRatioF());
+        const unsigned nummer = ++*anfrage;
+        const bool da = bilder_.lesen(dateien, kante, widget, [zeigen, anfrage, nummer](const QImage& inhalt) {
+            if (nummer == *anfrage) {  // else another picture has been chosen meanwhile
+                zeigen(inhalt);
+            }
+        });
+        if (!da) {
+            zeigen({});
+        }
+    };
+    verbinden(element, widget, name, bild_verfolgen(element, std::move(pfad), lesen));
     return widget;
 }
 
 Bildanzeige* Binder::bildanzeige(bild& element, const QString& name,
                                  std::function<std::filesystem::path(const std::string&)> pfad) {
-    auto* widget = new Bildanzeige(eltern_);
+    auto* widget = new Bildanzeige(bilder_, eltern_);
     verbinden(element, widget, name,
-              bild_nachlesen(element, std::move(pfad), [widget](const QImage& inhalt) { widget->setBild(inhalt); }));
+              bild_verfolgen(element, std::move(pfad), [widget](const auto& dateien) { widget->setQuelle(dateien); }));
     return widget;
 }
 
@@ -276,6 +289,7 @@ void Binder::fenstertitel(rahmen& element) {
 
 QLineEdit* Binder::zeile(feld& element, const QString& name) {
     auto* widget = new Eingabezeile(eltern_);
+    kuerzung_sagen(widget);
     QObject::connect(widget, &QLineEdit::textEdited, widget,
                      [&element](const QString& text) { element.eingeben(text.toStdString()); });
     verbinden(element, widget, name, [&element, widget] {
@@ -316,6 +330,9 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
         const QSignalBlocker still(widget);
         if (widget->isEditable() != element.frei()) {
             widget->setEditable(element.frei());
+            if (element.frei()) {
+                kuerzung_sagen(widget->lineEdit());
+            }
             widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
         }
         if (element.frei() && element.laenge_max() > 0) {

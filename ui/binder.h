@@ -25,7 +25,7 @@ namespace tarvel::ui {
 /// at once, what the logic changes reaches the widget with the next frame. Widgets are named `window.control`.
 class Binder {
 public:
-    Binder(QString fenster, Bildtakt& takt, QWidget* eltern);
+    Binder(QString fenster, Bildtakt& takt, Bildleser& bilder, QWidget* eltern);
     Binder(const Binder&) = delete;
     Binder& operator=(const Binder&) = delete;
     ~Binder();
@@ -70,6 +70,7 @@ private:
     class Bindung;
 
     Bildtakt& takt_;
+    Bildleser& bilder_;
     QString fenster_;
     QWidget* eltern_;  ///< of each new widget, until a layout takes it
     double skala_ = 1;

@@ -60,6 +60,10 @@ QWidget* EinstellungenFenster::hardwarewahl() {
     for (std::size_t nummer = 0; nummer < logik_.hardware.size(); ++nummer) {
         aufbau->addWidget(binder().wahlknopf(logik_.hardware.at(nummer), "hardware" + QString::number(nummer)));
     }
+    QLabel* hinweis = binder().label(logik_.hardware_hinweis, "hardware_hinweis");
+    hinweis->setWordWrap(true);
+    hinweis->setStyleSheet("color: #c41e2a;");
+    aufbau->addWidget(hinweis);
     return kasten;
 }
 

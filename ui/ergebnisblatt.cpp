@@ -11,6 +11,7 @@
 
 #include "core/texte.h"
 #include "results/ergebnistexte.h"
+#include "ui/fenster.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -112,7 +113,7 @@ void ergebnisblatt_drucken(QWidget* eltern, const ergebnisblatt& blatt, const st
                              bei_fehler();
                          }
                      });
-    dialog->open();
+    vor_allem_zeigen(*dialog);
 }
 
 }  // namespace tarvel::ui

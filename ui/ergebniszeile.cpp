@@ -175,6 +175,9 @@ void Ergebniszeile::skalieren(double skala) {
     layout()->setSpacing(static_cast<int>(std::lround(abstand * std::max(skala, 1.0))));
     for (QWidget* bild : bilder_) {
         bild->setFixedSize(kante, kante);
+        QSizePolicy platz_halten = bild->sizePolicy();  // a row without it keeps its columns under those of the others
+        platz_halten.setRetainSizeWhenHidden(bild == bilder_.front() || logik_.einst().fahrzeugbild_an);
+        bild->setSizePolicy(platz_halten);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -12,7 +13,7 @@ namespace tarvel::ui {
 Fenster::Fenster(fensterlogik& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
     : QWidget(eltern, Qt::Window),
       logik_(logik),
-      binder_(QString::fromUtf8(text_von(logik.kennung()).data()), verwaltung.takt(), this) {
+      binder_(QString::fromUtf8(text_von(logik.kennung()).data()), verwaltung.takt(), verwaltung.bilder(), this) {
     setObjectName(QString::fromUtf8(text_von(logik.kennung()).data()));
     binder_.fenstertitel(logik.titelzeile());
     if (logik.escape_schliesst()) {
@@ -21,11 +22,33 @@ Fenster::Fenster(fensterlogik& logik, Fensterverwaltung& verwaltung, QWidget* el
     verwaltung.aufnehmen(*this);
 }
 
+void vor_allem_zeigen(QDialog& dialog) {
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
 bool Fenster::event(QEvent* ereignis) {
     if (ereignis->type() == QEvent::WindowActivate && bei_aktivierung) {
         bei_aktivierung();
     }
+    if (ereignis->type() == QEvent::WindowActivate) {
+        nach_vorn_lassen();
+    }
     return QWidget::event(ereignis);
+}
+
+void Fenster::nach_vorn_lassen() {
+    QWidget* gefragt = QApplication::activeModalWidget();
+    if (gefragt != nullptr && gefragt->isVisible() && gefragt != this && !gefragt->isAncestorOf(this)) {
+        QTimer::singleShot(0, gefragt, [gefragt] {  // the desktop has not done with this window yet
+            if (gefragt == QApplication::activeModalWidget()) {
+                gefragt->raise();
+                gefragt->activateWindow();
+            }
+        });
+    }
 }
 
 void Fenster::closeEvent(QCloseEvent* ereignis) {

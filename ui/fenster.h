@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
@@ -36,15 +37,22 @@ protected:
     void zentrieren();
 
 private:
+    /// A window or box that waits for an answer comes in front again, when this one has been clicked at.
+    void nach_vorn_lassen();
+
     fensterlogik& logik_;
     Binder binder_;
 };
+
+/// Opens a dialog of the desktop so that no window of the program comes in front of it, like a message box.
+void vor_allem_zeigen(QDialog& dialog);
 
 /// Shows and hides the windows for the register.
 class Fensterverwaltung final : public QObject, public fensteranzeige {
 public:
     explicit Fensterverwaltung(Bildtakt& takt) : takt_(takt) {}
     Bildtakt& takt() { return takt_; }
+    Bildleser& bilder() { return bilder_; }
     void aufnehmen(Fenster& fenster) { fenster_[fenster.kennung()] = &fenster; }
 
     void zeigen(fenstername name, anzeige_art art) override;
@@ -55,6 +63,7 @@ public:
 
 private:
     Bildtakt& takt_;
+    Bildleser bilder_;
     QElapsedTimer seit_druck_;  ///< of a mouse button
     QPointer<QWidget> druck_fenster_;
     std::map<fenstername, Fenster*> fenster_;

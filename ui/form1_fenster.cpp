@@ -137,6 +137,7 @@ QWidget* Form1Fenster::rennen_gruppe() {
     QSizePolicy haelt_platz(QSizePolicy::Ignored, QSizePolicy::Preferred);  // long values do not widen the window
     haelt_platz.setRetainSizeWhenHidden(true);
     tankwerte->setSizePolicy(haelt_platz);
+    tankwerte->setWordWrap(true);
     tankwerte->setMinimumWidth(155);
     raster->addWidget(tankwerte, 1, 6);
     raster->setColumnStretch(6, 1);

@@ -28,7 +28,7 @@ private:
 }  // namespace
 
 Form2Fenster::Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage,
-                           Fensterverwaltung& verwaltung, QWidget* bahn)
+                           Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
     : AmpelFenster(logik, logik.fenster.Nachtabschaltung, {einst, ablage, verwaltung, bahn}), logik_(logik) {
     constexpr int je_reihe = 5;
     aufbau()->addStretch();

@@ -11,7 +11,7 @@ namespace tarvel::ui {
 class Form2Fenster : public AmpelFenster {
 public:
     Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
-                 QWidget* bahn);
+                 Bahn1Fenster* bahn);
 
     void aufschlagen() override;
 

@@ -1,5 +1,6 @@
 #include "ui/k_ampel_fenster.h"
 
+#include <QHideEvent>
 #include <QVBoxLayout>
 
 #include "ui/stil.h"
@@ -32,13 +33,21 @@ KAmpelFenster::KAmpelFenster(k_ampel& logik, const einstellungen& einst, const d
 }
 
 QRect KAmpelFenster::eigener_platz() const {
-    return logik_.in_pause() ? bahn_->uhr_ort() : QRect();
+    return logik_.in_pause() ? bahn_->licht_ort() : QRect();
+}
+
+void KAmpelFenster::hideEvent(QHideEvent* ereignis) {
+    if (!ereignis->spontaneous()) {  // the desktop shows it again by itself
+        bahn_->licht_der_pause(false);
+    }
+    AmpelFenster::hideEvent(ereignis);
 }
 
 void KAmpelFenster::aufschlagen() {
     const bool pause = logik_.in_pause();
     setAttribute(Qt::WA_ShowWithoutActivating, pause);
     knopf_->setFocusPolicy(pause ? Qt::NoFocus : Qt::StrongFocus);  // a click counts though the focus goes back
+    bahn_->licht_der_pause(pause);
     anordnen();
     show();
     raise();

@@ -6,8 +6,8 @@
 
 namespace tarvel::ui {
 
-/// The light behind which a race goes on. In a pause it stands over the clock, where it hides neither the standing nor
-/// the boxes of the penalties, and leaves the keyboard to the race window.
+/// The light behind which a race goes on. In a pause it stands in the clock's place, where it hides neither the
+/// standing nor the boxes of the penalties, and leaves the keyboard to the race window.
 class KAmpelFenster : public AmpelFenster {
 public:
     KAmpelFenster(k_ampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
@@ -17,6 +17,7 @@ public:
 
 protected:
     QRect eigener_platz() const override;
+    void hideEvent(QHideEvent* ereignis) override;
 
 private:
     k_ampel& logik_;

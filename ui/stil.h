@@ -20,6 +20,7 @@ inline const QColor linie{208, 212, 219};
 inline const QColor schrift{28, 32, 40};
 inline const QColor schrift_leise{98, 106, 120};
 inline const QColor schrift_gesperrt{154, 161, 173};
+inline const QColor nachtschrift{58, 62, 70};  ///< on black: for who looks for it
 
 inline constexpr QMargins fensterrand{16, 12, 16, 12};
 inline constexpr int knopfhoehe = 42;  ///< of the commands at the foot of a window

@@ -58,7 +58,8 @@ void Uhranzeige::anordnen() {
     for (const Teil& t : teile_) {
         breite_em += em(t);
     }
-    const int titel = height() * 19 / 100;
+    constexpr int titel_min_px = 16;
+    const int titel = std::min(std::max(height() * 19 / 100, titel_min_px), height() / 3);
     const int px = std::min(schrift_px_, static_cast<int>(width() / breite_em));
     const int hoehe = std::min(px, height() - titel);
     const int oben = (height() - titel - hoehe) / 2;

@@ -126,6 +126,7 @@ TEST_F(Ergebnisblatt, DruckenWartetNichtUndHinterlaesstKeinenDialog) {
     ui::ergebnisblatt_drucken(&fenster, blatt, [] { ADD_FAILURE() << "the printer did not begin"; });
     auto* dialog = fenster.findChild<QPrintDialog*>();
     ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal) << "no window of the program comes in front of it";
     const QString gedruckt = QString::fromStdString((t.maschine.ordner() / "gedruckt.pdf").string());
     dialog->printer()->setOutputFileName(gedruckt);
     emit dialog->accepted(dialog->printer());

@@ -390,6 +390,22 @@ TEST_F(Oberflaeche, FarbenKommenAusDenEinstellungen) {
     EXPECT_EQ(spur.pixelColor(spur.width() / 2, g.streifen.y + g.streifen.hoehe / 2), QColor(0, 255, 0));
 }
 
+TEST_F(Oberflaeche, TausendRundenVerschiebenKeineSpalte) {
+    t.starten("Runden", "9999", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runden_auffuellen(1, 1200);
+    t.bahn().Command4.klicken();
+    QTest::qWait(50);
+    const auto links = [this](const char* name) {
+        return finde<QWidget>(o.auswertung, name)->mapTo(&o.auswertung, QPoint(0, 0)).x();
+    };
+    EXPECT_FALSE(finde<QWidget>(o.auswertung, "auswertung.Image1_0")->isVisible());
+    for (const auto& [oben, unten] : {std::pair("auswertung.fahrer_0", "auswertung.fahrer_1"),
+                                      {"auswertung.zeit_aus_0", "auswertung.zeit_aus_1"}}) {
+        EXPECT_EQ(links(oben), links(unten)) << oben;
+    }
+}
+
 TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
     constexpr QSize platz(1000, 740);  // of 1024x768, without the window's frame
     alle_zeigen();

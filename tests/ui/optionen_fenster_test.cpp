@@ -146,5 +146,22 @@ TEST_F(OptionenFenster, KaputtesBildZeigtDasStandardbild) {
     EXPECT_FALSE(gezeigt.isNull());
 }
 
+TEST_F(OptionenFenster, FotoWirdNebenherGelesenUndBleibtBereit) {
+    const std::filesystem::path foto = t.maschine.ordner() / "pictures" / "Fahrer 1.jpg";
+    std::filesystem::create_directories(foto.parent_path());
+    QImage gross(3000, 2000, QImage::Format_RGB32);
+    gross.fill(Qt::red);
+    ASSERT_TRUE(gross.save(QString::fromStdString(foto.string()), "JPG"));
+    klick(o.form1, "Form1.Command13");
+    o.takt.ausfuehren();
+    const auto* anzeige = finde<QLabel>(o.form1, "Form1.fahrerbild_0");
+    EXPECT_TRUE(anzeige->pixmap().isNull()) << "nobody waits for it";
+    ASSERT_TRUE(QTest::qWaitFor([anzeige] { return !anzeige->pixmap().isNull(); }));
+    EXPECT_GT(anzeige->pixmap().toImage().pixelColor(5, 5).red(), 200);
+    t.p.form1.bilder_anzeigen();
+    o.takt.ausfuehren();
+    EXPECT_FALSE(anzeige->pixmap().isNull()) << "from the copy";
+}
+
 }  // namespace
 }  // namespace tarvel

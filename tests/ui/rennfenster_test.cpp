@@ -93,7 +93,8 @@ TEST_F(Rennfenster, AmpelDerPauseVerdecktNichtsUndLaesstDemRennfensterDieTasten)
         const auto* widget = finde<QWidget>(o.bahn1, name);
         return o.k_ampel.geometry().intersects({widget->mapToGlobal(QPoint(0, 0)), widget->size()});
     };
-    for (const char* name : {"bahn1.bahnshape_1", "bahn1.bahnshape_2", "bahn1.Frame1", "bahn1.ch_strafframe"}) {
+    for (const char* name : {"bahn1.bahnshape_1", "bahn1.bahnshape_2", "bahn1.Frame1", "bahn1.ch_strafframe",
+                             "bahn1.labelmin1", "bahn1.labelhun1"}) {
         EXPECT_FALSE(verdeckt(name)) << name;
     }
     const QPoint vorher = o.k_ampel.pos();

@@ -167,6 +167,20 @@ const std::vector<szeneneintrag> alle{
          return tanken<>(b);
      }},
     {"rennen_pause", pause_ohne_ampel},
+    {"rennen_pause_taster",
+     [](buehne& b) -> QWidget& {
+         b.rennen(40000);
+         b.p.ereignisse.chaos_fahrer[3] = true;
+         b.t.bahn().Command3.klicken();
+         b.t.maschine.laufen(3000);
+         return b.o.bahn1;
+     }},
+    {"rennen_nacht",
+     [](buehne& b) -> QWidget& {
+         b.rennen(40000);
+         b.t.taste("n");
+         return b.o.bahn1;
+     }},
     {"rennen_pause_ampel", pause_mit_tank<false, 1, 2, 3, 4, 5, 6>},
     {"rennen_pause_ampel_vier_spuren", pause_mit_tank<false, 1, 2, 3, 4>},
     {"rennen_pause_ampel_zwei_spuren", pause_mit_tank<false, 2, 5>},
