@@ -7,6 +7,8 @@
 #include <system_error>
 #include <utility>
 
+#include "core/dateien.h"
+
 namespace fs = std::filesystem;
 
 namespace tarvel::ui {
@@ -14,7 +16,6 @@ namespace {
 
 constexpr std::array<int, 4> stufen{200, 400, 800, 1600};  // no window shows a photograph larger
 constexpr int kopien_max_kb = 96 * 1024;
-constexpr std::uintmax_t datei_max = std::uintmax_t{64} * 1024 * 1024;
 constexpr std::uintmax_t kleine_datei = std::uintmax_t{128} * 1024;
 constexpr qint64 kleines_bild_px = 512 * 1024;  // a few milliseconds
 
@@ -25,12 +26,12 @@ QString als_qt(const fs::path& datei) {
 /// Names the file as it is now, in this size; empty if it is none that may be opened.
 QString schluessel_von(const fs::path& datei, int kante) {
     std::error_code fehler;
-    if (datei.empty() || !fs::is_regular_file(datei, fehler)) {
+    if (datei.empty() || !ist_lesbar(datei, bild_bytes_max)) {
         return {};
     }
     const std::uintmax_t groesse = fs::file_size(datei, fehler);
     const auto stand = fs::last_write_time(datei, fehler);
-    if (fehler || groesse > datei_max) {
+    if (fehler) {
         return {};
     }
     return als_qt(datei) + QString("|%1|%2|%3").arg(groesse).arg(stand.time_since_epoch().count()).arg(kante);
