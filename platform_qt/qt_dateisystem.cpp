@@ -6,6 +6,7 @@
 #include <system_error>
 
 #ifdef Q_OS_WIN
+#define NOMINMAX  // its macros of that name
 #include <windows.h>
 #else
 #include <fcntl.h>
