@@ -1,5 +1,8 @@
 #include "hardware/at2560.h"
 
+#include <cstdlib>
+#include <utility>
+
 #include "core/text.h"
 
 namespace tarvel {
@@ -98,11 +101,17 @@ bool at2560::µC_MSCOMM_settings_setzen() {
 void at2560::schliessen() {
     MSComm2_->schliessen();
     empfang_.leeren();
-    at_zeitversatz_ = 0;
+    uhr_vergessen();
     if (tmr_µportopen_->laeuft()) {
         tmr_µportopen_->aus();
         um_.bedienung.wartehinweis(false);
     }
+}
+
+void at2560::uhr_vergessen() {
+    at_zeitversatz_ = 0;
+    versatz_davor_ = 0;
+    letzte_zeit_ = 0;
 }
 
 void at2560::verloren_melden() {
@@ -133,7 +142,7 @@ void at2560::rennfenster_offen() {
 
 void at2560::rennen_bereit() {
     empfang_.leeren();
-    at_zeitversatz_ = 0;
+    uhr_vergessen();
     um_.ereignisse.chaos_at_zaehler = 0;
 }
 
@@ -186,12 +195,28 @@ void at2560::ereignis_melden(const at_meldung& meldung) {
     if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {
         return;
     }
-    const zeit_ms stempel = at_zeitversatz_ != 0 ? meldung.zeit + at_zeitversatz_ : ereignisse.messzeit;
+    const zeit_ms stempel = at_zeitversatz_ != 0 ? stempel_von(meldung.zeit) : ereignisse.messzeit;
     for (int zeile = 1; zeile <= at_ereignisse_max; ++zeile) {
         if (profil_.at_ereignis.at(static_cast<std::size_t>(zeile)) == meldung.ereignis) {
             zeile_melden(zeile, stempel);
         }
     }
+}
+
+zeit_ms at2560::stempel_von(zeit_ms geraetezeit) {
+    constexpr zeit_ms umlauf = zeit_ms{1} << 32;
+    constexpr zeit_ms unordnung_ms = 2000;  // no event is told so long after a later one
+    const zeit_ms jetzt = um_.uhr.jetzt();
+    const auto abstand = [&](zeit_ms versatz) { return std::abs(jetzt - geraetezeit - versatz); };
+    if (const zeit_ms davor = std::exchange(versatz_davor_, 0);
+        davor != 0 && abstand(davor) < abstand(at_zeitversatz_)) {
+        at_zeitversatz_ = davor;  // the event in between was damaged
+    } else if (const zeit_ms zurueck = letzte_zeit_ - geraetezeit; geraetezeit >= 0 && zurueck > unordnung_ms) {
+        versatz_davor_ = at_zeitversatz_;
+        at_zeitversatz_ = zurueck > umlauf / 2 && zurueck <= umlauf ? at_zeitversatz_ + umlauf : jetzt - geraetezeit;
+    }
+    letzte_zeit_ = geraetezeit;
+    return geraetezeit + at_zeitversatz_;
 }
 
 void at2560::zeile_melden(int zeile, zeit_ms stempel) {

@@ -83,6 +83,10 @@ private:
     std::unique_ptr<plattform::zeitgeber> tmr_µportopen_;
     at_profil profil_;
     at_empfang empfang_;
+    void uhr_vergessen();
+    zeit_ms stempel_von(zeit_ms geraetezeit);
+    zeit_ms letzte_zeit_ = 0;     ///< of the last event on the unit's clock
+    zeit_ms versatz_davor_ = 0;   ///< before the clock began anew, until the next event bears that out; 0 none
     zeit_ms at_zeitversatz_ = 0;  ///< what the machine's counter is ahead of the unit's clock; 0 until it is known
     zeit_ms letzte_abfrage_ = 0;
 };
