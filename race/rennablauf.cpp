@@ -176,6 +176,7 @@ void rennablauf::renntimer_tick() {
     renn_zustand& zustand = um_.zustand;
     if (!zustand.rennen_beendet && !zustand.chaos_aktiv) {
         um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
+        sensoren_zusammenlegen();  // what has come by itself since the devices were polled
         t_.zaehlung.runden_auswerten();
     }
     for (const int spur : alle_spuren) {
@@ -209,6 +210,10 @@ void rennablauf::quellen_abfragen() {
 
 void rennablauf::renntimer2_tick() {
     quellen_abfragen();
+    sensoren_zusammenlegen();
+}
+
+void rennablauf::sensoren_zusammenlegen() {
     if (!um_.einst.rc.rc_ziel_sensor34) {
         return;
     }

@@ -71,6 +71,8 @@ private:
     void renntimer_tick();
     void renntimer2_tick();
     void renntimer3_tick();
+    /// The finish of lanes 1 and 2 on the sensors of lanes 3 and 4.
+    void sensoren_zusammenlegen();
 
     renn_umgebung um_;
     teile t_;
