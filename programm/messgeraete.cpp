@@ -38,7 +38,7 @@ void messgeraete::schliessen() {
     for (const eintrag& eines : alle_) {
         eines.teile->geraet().schliessen();
     }
-    um_.rennen.zeit.versatz(0);
+    um_.rennen.zeit.freigeben();
 }
 
 void messgeraete::beenden() {
