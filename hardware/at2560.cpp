@@ -81,6 +81,7 @@ bool at2560::oeffnen() {
     schliessen();
     profil_laden();
     const bool geoeffnet = µC_MSCOMM_settings_setzen();
+    gewuenscht_ = geoeffnet;
     if (!geoeffnet) {
         um_.bedienung.nicht_zu_oeffnen(*this, um_.txt.meldung[27]);
     }
@@ -98,7 +99,18 @@ bool at2560::µC_MSCOMM_settings_setzen() {
     return true;
 }
 
+void at2560::wieder_aufnehmen() {
+    if (gewuenscht_ && !offen()) {
+        µC_MSCOMM_settings_setzen();
+    }
+}
+
 void at2560::schliessen() {
+    gewuenscht_ = false;
+    port_schliessen();
+}
+
+void at2560::port_schliessen() {
     MSComm2_->schliessen();
     empfang_.leeren();
     uhr_vergessen();
@@ -115,7 +127,7 @@ void at2560::uhr_vergessen() {
 }
 
 void at2560::verloren_melden() {
-    schliessen();
+    port_schliessen();
     um_.bedienung.verloren();
 }
 
@@ -123,6 +135,9 @@ void at2560::tmr_µportopen_tick() {
     tmr_µportopen_->aus();
     at_senden(profil_.at_is_befehl);
     um_.bedienung.wartehinweis(false);
+    if (im_rennen_) {  // it was gone meanwhile, and knows nothing of it
+        rennstart();
+    }
 }
 
 void at2560::at_senden(std::string_view text) {
@@ -132,6 +147,7 @@ void at2560::at_senden(std::string_view text) {
 }
 
 void at2560::rennfenster_offen() {
+    im_rennen_ = false;
     if (tmr_µportopen_->laeuft()) {
         um_.bedienung.wartehinweis(true);  // also in this window
     } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() &&
@@ -141,12 +157,14 @@ void at2560::rennfenster_offen() {
 }
 
 void at2560::rennen_bereit() {
+    im_rennen_ = false;
     empfang_.leeren();
     uhr_vergessen();
     um_.ereignisse.chaos_at_zaehler = 0;
 }
 
 void at2560::rennstart() {
+    im_rennen_ = true;
     at_senden(profil_.at_rennstart);
     at_senden(profil_.at_zeit_anfordern);
 }

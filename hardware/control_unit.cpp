@@ -57,6 +57,7 @@ faehigkeiten control_unit::kann() const {
 
 bool control_unit::oeffnen() {
     schliessen();
+    gewuenscht_ = true;
     if (!leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
         return false;
     }
@@ -65,7 +66,20 @@ bool control_unit::oeffnen() {
     return true;
 }
 
+void control_unit::wieder_aufnehmen() {
+    if (!gewuenscht_ || leitung_.offen() || !leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
+        return;
+    }
+    geoeffnet_ = uhr_.jetzt();
+    if (im_rennfenster_ && !rennen_laeuft_) {
+        fuer_rennen_einrichten();
+    } else {
+        rennbetrieb(im_rennfenster_);  // in a race nothing may clear the laps that it has counted meanwhile
+    }
+}
+
 void control_unit::schliessen() {
+    gewuenscht_ = false;
     leitung_.schliessen();
     cu_abfrage_timer_->aus();
     cu_auswertung_timer_->aus();
@@ -224,6 +238,7 @@ void control_unit::rennbetrieb(bool an) {
 }
 
 void control_unit::rennfenster_offen() {
+    im_rennfenster_ = true;
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_chaos_durch_box_ = false;
@@ -234,6 +249,10 @@ void control_unit::rennfenster_offen() {
         um_.bedienung.port_fehlt(um_.txt.meldung[14]);
         return;
     }
+    fuer_rennen_einrichten();
+}
+
+void control_unit::fuer_rennen_einrichten() {
     if (!cu_nicht_zuruecksetzen()) {
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
@@ -254,6 +273,7 @@ void control_unit::cu_alter_rz_start_tick() {
 }
 
 void control_unit::rennfenster_zu() {
+    im_rennfenster_ = false;
     cu_ende_timer_->aus();
     if (leitung_.offen()) {
         if (!cu_nicht_zuruecksetzen()) {

@@ -38,6 +38,7 @@ public:
     faehigkeiten kann() const override;
     bool oeffnen() override;
     void schliessen() override;
+    void wieder_aufnehmen() override;
     bool verbunden() const override { return antwortet(); }
 
     bool port_offen() const { return leitung_.offen(); }
@@ -88,6 +89,7 @@ private:
     /// Somebody has pressed the start key already: a reset would throw him out.
     bool cu_nicht_zuruecksetzen() const { return im_startzustand() && !stand_verbraucht_; }
     void rennbetrieb(bool an);
+    void fuer_rennen_einrichten();
 
     umgebung um_;
     const plattform::uhr& uhr_;
@@ -114,6 +116,8 @@ private:
     int gezeigte_tankgroesse_ = 0;  ///< litres that the levels were told for; 0: they are to be told again
     spuren<bool> cu_boxenstatus_;
     start cu_startzustand_ = start::unbekannt;
+    bool gewuenscht_ = false;        ///< open, or to be opened as soon as it is there
+    bool im_rennfenster_ = false;    ///< the race window is open
     bool rennen_laeuft_ = false;     ///< between its start and its end
     bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
     bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start

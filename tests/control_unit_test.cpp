@@ -112,6 +112,20 @@ TEST_F(ControlUnitRennen, DerTankIstDerDesWagens) {
     EXPECT_TRUE(t.maschine.sounds.empty()) << "nothing has changed";
 }
 
+TEST_F(ControlUnitRennen, NachDemAbziehenImRennenZaehltWasSieInzwischenGemessenHat) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 900000);
+    t.maschine.laufen(4000);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(16000);
+    wartend = {passage(1, 906500), passage(1, 914000), passage(2, 912000)};
+    t.maschine.anschluesse.da = {com};
+    t.maschine.laufen(2600);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 6500);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 7500);
+    EXPECT_EQ(t.runden(2), 0);
+}
+
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
     lebt = false;
     t.p.einst.cu.cu_tankautomatik = true;

@@ -42,6 +42,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     strafformular();
     geraetehinweis();
     befehlszeile();
+    geraetealarm();
     nachtabschaltung();
     setMinimumSize(640, 480);
     resize(1280, 1024);
@@ -160,7 +161,29 @@ void Bahn1Fenster::nachtabschaltung() {
     binder().verbinden(logik_.bahn1.Nachtabschaltung, nacht_, "Nachtabschaltung", [this] {
         nacht_->setGeometry(rect());
         nacht_->raise();
+        alarm_->raise();
     });
+}
+
+void Bahn1Fenster::geraetealarm() {
+    alarm_ = binder().anzeige(logik_.bahn1.geraetealarm, "geraetealarm");
+    alarm_->setParent(this);
+    alarm_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    alarm_->setAutoFillBackground(true);
+    QPalette rot;
+    rot.setColor(QPalette::Window, QColor(200, 0, 0));
+    alarm_->setPalette(rot);
+    alarm_->setFett(true);
+    alarm_->setFarbe(Qt::white);
+    alarm_->setRahmen(Qt::white);
+    alarm_->setZweizeilig();
+}
+
+void Bahn1Fenster::alarm_anordnen() {
+    // between the counters and the lap times of the columns: the race goes on with the keys
+    alarm_->setGeometry(width() / 50, height() * 48 / 100, width() * 48 / 50, height() * 11 / 100);
+    alarm_->setSchriftPx(height() / 14);
+    alarm_->raise();
 }
 
 void Bahn1Fenster::aufschlagen() {
@@ -209,6 +232,7 @@ void Bahn1Fenster::anordnen() {
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
     hinweis_anordnen();
+    alarm_anordnen();
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
     update();  // between the blocks the last layout may still be seen

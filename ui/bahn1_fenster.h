@@ -29,6 +29,8 @@ private:
     void geraetehinweis();
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();
+    void geraetealarm();
+    void alarm_anordnen();
     void nachtabschaltung();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
@@ -43,6 +45,7 @@ private:
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
     QWidget* nacht_ = nullptr;
+    TextAnzeige* alarm_ = nullptr;        ///< the timing device is gone
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
 
