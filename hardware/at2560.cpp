@@ -1,5 +1,8 @@
 #include "hardware/at2560.h"
 
+#include <cstdlib>
+#include <utility>
+
 #include "core/text.h"
 
 namespace tarvel {
@@ -78,6 +81,7 @@ bool at2560::oeffnen() {
     schliessen();
     profil_laden();
     const bool geoeffnet = µC_MSCOMM_settings_setzen();
+    gewuenscht_ = geoeffnet;
     if (!geoeffnet) {
         um_.bedienung.nicht_zu_oeffnen(*this, um_.txt.meldung[27]);
     }
@@ -95,18 +99,35 @@ bool at2560::µC_MSCOMM_settings_setzen() {
     return true;
 }
 
+void at2560::wieder_aufnehmen() {
+    if (gewuenscht_ && !offen()) {
+        µC_MSCOMM_settings_setzen();
+    }
+}
+
 void at2560::schliessen() {
+    gewuenscht_ = false;
+    port_schliessen();
+}
+
+void at2560::port_schliessen() {
     MSComm2_->schliessen();
     empfang_.leeren();
-    at_zeitversatz_ = 0;
+    uhr_vergessen();
     if (tmr_µportopen_->laeuft()) {
         tmr_µportopen_->aus();
         um_.bedienung.wartehinweis(false);
     }
 }
 
+void at2560::uhr_vergessen() {
+    at_zeitversatz_ = 0;
+    versatz_davor_ = 0;
+    letzte_zeit_ = 0;
+}
+
 void at2560::verloren_melden() {
-    schliessen();
+    port_schliessen();
     um_.bedienung.verloren();
 }
 
@@ -114,6 +135,9 @@ void at2560::tmr_µportopen_tick() {
     tmr_µportopen_->aus();
     at_senden(profil_.at_is_befehl);
     um_.bedienung.wartehinweis(false);
+    if (im_rennen_) {  // it was gone meanwhile, and knows nothing of it
+        rennstart();
+    }
 }
 
 void at2560::at_senden(std::string_view text) {
@@ -123,6 +147,7 @@ void at2560::at_senden(std::string_view text) {
 }
 
 void at2560::rennfenster_offen() {
+    im_rennen_ = false;
     if (tmr_µportopen_->laeuft()) {
         um_.bedienung.wartehinweis(true);  // also in this window
     } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() &&
@@ -132,12 +157,14 @@ void at2560::rennfenster_offen() {
 }
 
 void at2560::rennen_bereit() {
+    im_rennen_ = false;
     empfang_.leeren();
-    at_zeitversatz_ = 0;
+    uhr_vergessen();
     um_.ereignisse.chaos_at_zaehler = 0;
 }
 
 void at2560::rennstart() {
+    im_rennen_ = true;
     at_senden(profil_.at_rennstart);
     at_senden(profil_.at_zeit_anfordern);
 }
@@ -186,12 +213,28 @@ void at2560::ereignis_melden(const at_meldung& meldung) {
     if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {
         return;
     }
-    const zeit_ms stempel = at_zeitversatz_ != 0 ? meldung.zeit + at_zeitversatz_ : ereignisse.messzeit;
+    const zeit_ms stempel = at_zeitversatz_ != 0 ? stempel_von(meldung.zeit) : ereignisse.messzeit;
     for (int zeile = 1; zeile <= at_ereignisse_max; ++zeile) {
         if (profil_.at_ereignis.at(static_cast<std::size_t>(zeile)) == meldung.ereignis) {
             zeile_melden(zeile, stempel);
         }
     }
+}
+
+zeit_ms at2560::stempel_von(zeit_ms geraetezeit) {
+    constexpr zeit_ms umlauf = zeit_ms{1} << 32;
+    constexpr zeit_ms unordnung_ms = 2000;  // no event is told so long after a later one
+    const zeit_ms jetzt = um_.uhr.jetzt();
+    const auto abstand = [&](zeit_ms versatz) { return std::abs(jetzt - geraetezeit - versatz); };
+    if (const zeit_ms davor = std::exchange(versatz_davor_, 0);
+        davor != 0 && abstand(davor) < abstand(at_zeitversatz_)) {
+        at_zeitversatz_ = davor;  // the event in between was damaged
+    } else if (const zeit_ms zurueck = letzte_zeit_ - geraetezeit; geraetezeit >= 0 && zurueck > unordnung_ms) {
+        versatz_davor_ = at_zeitversatz_;
+        at_zeitversatz_ = zurueck > umlauf / 2 && zurueck <= umlauf ? at_zeitversatz_ + umlauf : jetzt - geraetezeit;
+    }
+    letzte_zeit_ = geraetezeit;
+    return geraetezeit + at_zeitversatz_;
 }
 
 void at2560::zeile_melden(int zeile, zeit_ms stempel) {

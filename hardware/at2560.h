@@ -48,6 +48,7 @@ public:
     /// Reads the command file and opens the port of the settings. If that fails, the operator's side knows.
     bool oeffnen() override;
     void schliessen() override;
+    void wieder_aufnehmen() override;
     bool verbunden() const override { return offen(); }
     bool haelt_auf() const override { return true; }
 
@@ -66,12 +67,17 @@ public:
     void rennfenster_offen() override;
     void rennen_bereit() override;
     void rennstart() override;
+    void rennen_fortgesetzt() override { im_rennen_ = true; }
+    void rennende() override { im_rennen_ = false; }
     void schalten(const schaltung& befehl) override;
 
 private:
     bool µC_MSCOMM_settings_setzen();
     void empfangen(std::string_view bytes);
+    void port_schliessen();
     void verloren_melden();
+    void uhr_vergessen();
+    zeit_ms stempel_von(zeit_ms geraetezeit);
     bool µC_neuer_befehl() { return empfang_.µC_neuer_befehl(profil_); }
     void µC_wert_zerlegen();
     void ereignis_melden(const at_meldung& meldung);
@@ -83,8 +89,12 @@ private:
     std::unique_ptr<plattform::zeitgeber> tmr_µportopen_;
     at_profil profil_;
     at_empfang empfang_;
+    zeit_ms letzte_zeit_ = 0;     ///< of the last event on the unit's clock
+    zeit_ms versatz_davor_ = 0;   ///< before the clock began anew, until the next event bears that out; 0 none
     zeit_ms at_zeitversatz_ = 0;  ///< what the machine's counter is ahead of the unit's clock; 0 until it is known
     zeit_ms letzte_abfrage_ = 0;
+    bool im_rennen_ = false;   ///< between its start and its end
+    bool gewuenscht_ = false;  ///< open, or to be opened as soon as it is there
 };
 
 }  // namespace tarvel

@@ -16,7 +16,21 @@ bool ausgaben::angeschlossen() const {
                                          [](const ausgabe_geraet* geraet) { return geraet != nullptr; });
 }
 
-void ausgaben::geraete_schalten(const schaltung& befehl) const {
+void ausgaben::geraete_schalten(const schaltung& befehl) {
+    std::erase_if(stand_, [&befehl](const schaltung& vorher) {
+        return vorher.was == befehl.was && (befehl.nummer == 0 || befehl.nummer == vorher.nummer);
+    });
+    stand_.push_back(befehl);
+    an_geraete(befehl);
+}
+
+void ausgaben::wiederholen() {
+    for (const schaltung& befehl : stand_) {
+        an_geraete(befehl);
+    }
+}
+
+void ausgaben::an_geraete(const schaltung& befehl) const {
     for (ausgabe_geraet* geraet : geraete_) {
         if (geraet != nullptr) {
             geraet->schalten(befehl);

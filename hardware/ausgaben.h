@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 #include "core/einstellungen.h"
 #include "hardware/iow_bericht.h"
@@ -40,7 +41,7 @@ enum class ausgabe_platz { modul_4x4, druckeranschluss, timekeeper, at_2560, con
 /// not exist are ignored.
 class ausgaben {
 public:
-    explicit ausgaben(const einstellungen& einst) : einst_(einst) {}
+    explicit ausgaben(const einstellungen& einst) : einst_(einst) { stand_.reserve(ausgaenge_max); }
 
     iow_bericht bericht;
 
@@ -74,18 +75,23 @@ public:
     void kalibrieren();
     /// Rest state between races: red off, green on, power on.
     void ruhezustand();
+    /// Lamps, track power and signals as they stand, once more: for a device that was away.
+    void wiederholen();
 
 private:
     static constexpr std::size_t plaetze = 5;
+    static constexpr std::size_t ausgaenge_max = 16;  ///< lamps, lanes, signals, and once all lamps and all lanes
 
     ausgabe_geraet*& an(ausgabe_platz platz) { return geraete_.at(static_cast<std::size_t>(platz)); }
     void gruene_lampe(bool an);
     void rote_lampen(int lampe, bool an);
     void bahnstrom(int spur, bool strom);
-    void geraete_schalten(const schaltung& befehl) const;
+    void geraete_schalten(const schaltung& befehl);
+    void an_geraete(const schaltung& befehl) const;
 
     const einstellungen& einst_;
     std::array<ausgabe_geraet*, plaetze> geraete_{};
+    std::vector<schaltung> stand_;  ///< the last switching of each output; one of all of them takes their place
 };
 
 }  // namespace tarvel

@@ -12,9 +12,9 @@ constexpr int volle_stufe = 14;           // of the 15 that a tank can tell
 constexpr int durchgaenge_max = 100;      // slow passes without an end of a record
 constexpr zeit_ms verbunden_ms = 1000;    // the unit counts as connected for so long after a record
 constexpr zeit_ms ampel_still_ms = 3000;  // and a race waits for its light this long
-constexpr zeit_ms uhr_sprung_ms = 2000;   // nothing is that late of itself: the unit's clock has begun anew
-constexpr zeit_ms ohne_luecke_ms = 50;    // between two records of a unit that answers
-constexpr zeit_ms uhr_umlauf = zeit_ms{1} << 32;
+constexpr zeit_ms ohne_luecke_ms = 200;   // between two records of a unit that answers
+constexpr zeit_ms nach_luecke_ms = 1000;  // what has waited comes in the time that it waited, and a little
+constexpr zeit_ms stau_max_ms = 60000;    // and no buffer holds more
 
 /// What a car's passage at a sensor means; cars 7 and 8 have no lane.
 ereignis_art cu_art(int sensor, int fahrzeug) {
@@ -57,6 +57,7 @@ faehigkeiten control_unit::kann() const {
 
 bool control_unit::oeffnen() {
     schliessen();
+    gewuenscht_ = true;
     if (!leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
         return false;
     }
@@ -65,7 +66,20 @@ bool control_unit::oeffnen() {
     return true;
 }
 
+void control_unit::wieder_aufnehmen() {
+    if (!gewuenscht_ || leitung_.offen() || !leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
+        return;
+    }
+    geoeffnet_ = uhr_.jetzt();
+    if (im_rennfenster_ && !rennen_laeuft_) {
+        fuer_rennen_einrichten();
+    } else {
+        rennbetrieb(im_rennfenster_);  // in a race nothing may clear the laps that it has counted meanwhile
+    }
+}
+
 void control_unit::schliessen() {
+    gewuenscht_ = false;
     leitung_.schliessen();
     cu_abfrage_timer_->aus();
     cu_auswertung_timer_->aus();
@@ -74,10 +88,10 @@ void control_unit::schliessen() {
     cu_alter_rz_start_->aus();
     cu_ende_timer_->aus();
     geantwortet_ = 0;
-    uhr_bekannt_ = false;
-    letzter_stempel_ = 0;
+    geraeteuhr_.vergessen();
+    summenpruefung_ = {};
+    pausengang_ = 1;
     luecke_ = 0;
-    umlauf_ = 0;
     cu_startzustand_ = start::unbekannt;
     stand_verbraucht_ = false;
 }
@@ -113,46 +127,48 @@ void control_unit::cu_tankentscheidung_tick() {
 }
 
 void control_unit::satz_verarbeiten(const std::string& satz) {
-    const zeit_ms still = geantwortet_ == 0 ? 0 : uhr_.jetzt() - geantwortet_;
-    geantwortet_ = uhr_.jetzt();
-    const cu::meldung meldung = cu::satz_lesen(satz);
-    // A busy machine finds passages that have waited as long as it was busy, until the unit has none left.
-    const bool nichts_wartet = still <= ohne_luecke_ms && std::holds_alternative<cu::status>(meldung);
-    luecke_ = nichts_wartet ? 0 : std::max(luecke_, still);
-    std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, meldung);
+    const zeit_ms jetzt = uhr_.jetzt();
+    const zeit_ms still = geantwortet_ == 0 ? 0 : jetzt - geantwortet_;
+    geantwortet_ = jetzt;
+    if (still > ohne_luecke_ms) {
+        luecke_ = jetzt < luecke_bis_ ? std::max(luecke_, still) : still;
+        luecke_bis_ = std::max(luecke_bis_, jetzt + std::min(luecke_, stau_max_ms) + nach_luecke_ms);
+    } else if (jetzt >= luecke_bis_) {
+        luecke_ = 0;
+    }
+    std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, cu::satz_lesen(satz));
 }
 
 void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
-    const zeit_ms stempel = umlauf_ausgleichen(ueberfahrt.stempel);
-    uhr_nachstellen(stempel);
+    if (!summenpruefung_.annehmen(ueberfahrt)) {
+        ++verworfen_;
+        return;
+    }
+    const cu_uhr::befund befund =
+        geraeteuhr_.aufnehmen({ueberfahrt, uhr_.jetzt(), um_.zeit.messzeit_lesen(), luecke_, um_.rennen.pause()});
+    uhr_nachstellen(befund);
     if (const ereignis_art nummer = cu_art(ueberfahrt.sensor, ueberfahrt.fahrzeug); nummer != 0) {
         um_.ereignisse[nummer].aktiv = true;
-        um_.ereignisse[nummer].ereignis_zeit = stempel;
+        um_.ereignisse[nummer].ereignis_zeit = befund.stempel;
     }
 }
 
-zeit_ms control_unit::umlauf_ausgleichen(std::uint32_t stempel) {
-    const zeit_ms durchgehend = stempel + umlauf_;
-    if (uhr_bekannt_ && letzter_stempel_ - durchgehend > uhr_umlauf / 2) {
-        umlauf_ += uhr_umlauf;
-        return durchgehend + uhr_umlauf;
+void control_unit::uhr_nachstellen(const cu_uhr::befund& befund) {
+    if (!befund.nachstellen) {
+        return;
     }
-    // two cars at the moment of the overflow may be reported in the other order
-    return durchgehend - letzter_stempel_ > uhr_umlauf / 2 && umlauf_ > 0 ? durchgehend - uhr_umlauf : durchgehend;
-}
-
-void control_unit::uhr_nachstellen(zeit_ms stempel) {
-    const zeit_ms verspaetung = um_.zeit.messzeit_lesen() - stempel;
-    const bool neu_begonnen = letzter_stempel_ - stempel > uhr_sprung_ms + luecke_;
-    if (!uhr_bekannt_ || neu_begonnen || verspaetung > uhr_sprung_ms + luecke_ || verspaetung < -uhr_sprung_ms) {
-        um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
-        um_.rennen.stempel_verschieben(-verspaetung);
-        uhr_bekannt_ = true;
-        letzter_stempel_ = stempel;
-    } else if (verspaetung < 0) {  // this record came through faster than any before
-        um_.zeit.versatz(um_.zeit.versatz() + verspaetung);
+    const double gang = geraeteuhr_.gang();
+    const zeit_ms stand = geraeteuhr_.lesen(uhr_.jetzt());
+    if (befund.versetzen) {
+        um_.zeit.stellen(stand, gang);
+        um_.rennen.stempel_verschieben(*befund.versetzen);
+    } else {
+        um_.zeit.nachstellen(stand, gang);
     }
-    letzter_stempel_ = std::max(letzter_stempel_, stempel);
+    if (gang != pausengang_) {
+        um_.rennen.pausen_nachmessen(gang / pausengang_);
+        pausengang_ = gang;
+    }
 }
 
 void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
@@ -164,6 +180,10 @@ void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
+    const bool bestaetigt = std::exchange(letzter_status_, status) == status;
+    if (rennen_laeuft_ && !bestaetigt && luecke_ == 0) {
+        return;  // a status has no sum, and a damaged one must not stop the race; but after a silence any is news
+    }
     if (!um_.rennen.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
         um_.rennen.tankfunktion(status.tankmodus != 0);
     }
@@ -177,10 +197,11 @@ void control_unit::verarbeiten(const cu::status& status) {
 }
 
 void control_unit::cu_tank_auswerten(const cu::status& status) {
+    const bool alle = std::exchange(gezeigte_tankgroesse_, um_.einst.tank_inhalt) != um_.einst.tank_inhalt;
     for (const int spur : alle_spuren) {
-        if (status.tank[spur] != cu_tank_wert_[spur]) {
-            cu_tank_wert_[spur] = status.tank[spur];
-            um_.rennen.fuellstand(spur, status.tank[spur], volle_stufe);
+        const bool neu = std::exchange(cu_tank_wert_[spur], status.tank[spur]) != status.tank[spur];
+        if (neu || alle) {
+            um_.rennen.fuellstand(spur, status.tank[spur], volle_stufe, neu);
         }
     }
 }
@@ -217,15 +238,21 @@ void control_unit::rennbetrieb(bool an) {
 }
 
 void control_unit::rennfenster_offen() {
+    im_rennfenster_ = true;
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_chaos_durch_box_ = false;
     zaehlerbox_bereit_ = false;
+    gezeigte_tankgroesse_ = 0;
     stand_verbraucht_ = stand_verbraucht_ && im_startzustand();
     if (!leitung_.offen() && !oeffnen()) {  // it may have been unplugged since, and plugged in again
         um_.bedienung.port_fehlt(um_.txt.meldung[14]);
         return;
     }
+    fuer_rennen_einrichten();
+}
+
+void control_unit::fuer_rennen_einrichten() {
     if (!cu_nicht_zuruecksetzen()) {
         leitung_.senden(cu::programmierung_ruecksetzen);
         leitung_.senden(cu::anzeigen_ruecksetzen);
@@ -246,6 +273,7 @@ void control_unit::cu_alter_rz_start_tick() {
 }
 
 void control_unit::rennfenster_zu() {
+    im_rennfenster_ = false;
     cu_ende_timer_->aus();
     if (leitung_.offen()) {
         if (!cu_nicht_zuruecksetzen()) {
@@ -256,6 +284,8 @@ void control_unit::rennfenster_zu() {
 }
 
 void control_unit::rennen_bereit() {
+    geraeteuhr_.neu_ausrichten();
+    gezeigte_tankgroesse_ = 0;
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();

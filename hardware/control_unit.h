@@ -6,6 +6,7 @@
 #include "core/renn_parameter.h"
 #include "core/texte.h"
 #include "hardware/cu_leitung.h"
+#include "hardware/cu_uhr.h"
 #include "hardware/ereignisse.h"
 #include "hardware/geraetebedienung.h"
 #include "hardware/messgeraet.h"
@@ -37,9 +38,12 @@ public:
     faehigkeiten kann() const override;
     bool oeffnen() override;
     void schliessen() override;
+    void wieder_aufnehmen() override;
     bool verbunden() const override { return antwortet(); }
 
     bool port_offen() const { return leitung_.offen(); }
+    /// Passages that were damaged on the line, and dropped.
+    int verworfene_saetze() const { return verworfen_; }
     /// The unit has answered lately.
     bool antwortet() const;
 
@@ -78,14 +82,14 @@ private:
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
     void verarbeiten(const cu::status& status);
     void verarbeiten(const cu::rundenzaehler& zaehler);
-    zeit_ms umlauf_ausgleichen(std::uint32_t stempel);
-    void uhr_nachstellen(zeit_ms stempel);
+    void uhr_nachstellen(const cu_uhr::befund& befund);
     void cu_tank_auswerten(const cu::status& status);
     void startzustand_auswerten(bool steht);
     void starttaste();
     /// Somebody has pressed the start key already: a reset would throw him out.
     bool cu_nicht_zuruecksetzen() const { return im_startzustand() && !stand_verbraucht_; }
     void rennbetrieb(bool an);
+    void fuer_rennen_einrichten();
 
     umgebung um_;
     const plattform::uhr& uhr_;
@@ -101,13 +105,19 @@ private:
     zeit_ms geoeffnet_ = 0;    ///< when the port was
     zeit_ms geantwortet_ = 0;  ///< at the last record, 0 none
 
-    zeit_ms luecke_ = 0;  ///< ms without a record, as long as what has waited meanwhile still comes
-    bool uhr_bekannt_ = false;
-    zeit_ms letzter_stempel_ = 0;  ///< the latest
-    zeit_ms umlauf_ = 0;           ///< what the overflows of the unit's clock add up to
+    zeit_ms luecke_ = 0;      ///< ms without a record, as long as what has waited meanwhile may still come
+    zeit_ms luecke_bis_ = 0;  ///< until then
+    cu::summenpruefung summenpruefung_;
+    int verworfen_ = 0;  ///< damaged passages
+    cu_uhr geraeteuhr_;
+    double pausengang_ = 1;  ///< pauses have been measured on a clock as fast as this
     spuren<int> cu_tank_wert_;
+    cu::status letzter_status_;
+    int gezeigte_tankgroesse_ = 0;  ///< litres that the levels were told for; 0: they are to be told again
     spuren<bool> cu_boxenstatus_;
     start cu_startzustand_ = start::unbekannt;
+    bool gewuenscht_ = false;        ///< open, or to be opened as soon as it is there
+    bool im_rennfenster_ = false;    ///< the race window is open
     bool rennen_laeuft_ = false;     ///< between its start and its end
     bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
     bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start

@@ -103,7 +103,8 @@ sprachliste cu_eigenschaften::sprache_e_cu() {
     texte.text("wird geprüft", wort_.wird_geprueft).text("Control Unit gefunden", wort_.gefunden);
     texte.text("keine Control Unit gefunden", wort_.nicht_gefunden);
     texte.text("Statusfenster geschrieben", wort_.geschrieben);
-    return texte.text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
+    texte.text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
+    return texte.text("Überfahrten mit falschem Prüfzeichen verworfen: ", wort_.verworfen);
 }
 
 void cu_eigenschaften::laden() {
@@ -133,6 +134,7 @@ void cu_eigenschaften::laden() {
     List1.leeren();
     anzeigen_leeren();
     if (zugang != nullptr) {
+        verworfene_melden(zugang->verworfene_saetze());
         zugang->geraet_trennen();
     }
     Timer1_->an();
@@ -156,6 +158,8 @@ void cu_eigenschaften::entladen() {
 
 void cu_eigenschaften::anzeigen_leeren() {
     letzter_status_.clear();
+    summenpruefung_ = {};
+    verworfen_ = 0;
     for (const int spur : alle_spuren) {
         runden_[spur] = -1;
         stempel_[spur] = 0;
@@ -293,7 +297,17 @@ void cu_eigenschaften::protokollieren(const std::string& satz) {
     melden(lesbar(satz));
 }
 
+void cu_eigenschaften::verworfene_melden(int anzahl) {
+    if (anzahl > 0) {
+        hinweisen(wort_.verworfen + std::to_string(anzahl));
+    }
+}
+
 void cu_eigenschaften::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
+    if (!summenpruefung_.annehmen(ueberfahrt)) {
+        verworfene_melden(++verworfen_);
+        return;
+    }
     if (ueberfahrt.sensor != 1 || ueberfahrt.fahrzeug > spuren_max) {
         return;
     }

@@ -100,6 +100,7 @@ private:
     void auswertung_tick();
     void protokollieren(const std::string& satz);
     void verarbeiten(std::monostate /*nichts*/) {}
+    void verworfene_melden(int anzahl);
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
     void verarbeiten(const cu::status& status);
     void verarbeiten(const cu::rundenzaehler& /*zaehler*/) {}
@@ -117,6 +118,8 @@ private:
     std::vector<int> zu_pruefen_;  ///< COM numbers that the search has not tried yet, the next one last
     int prueft_ = 0;               ///< the one that it tries, 0 none
     std::string letzter_status_;   ///< what is repeated is not listed again
+    cu::summenpruefung summenpruefung_;
+    int verworfen_ = 0;  ///< damaged passages since the port is open here
     spuren<int> runden_;
     spuren<zeit_ms> stempel_;
 
@@ -134,6 +137,7 @@ private:
         std::string nicht_gefunden;
         std::string geschrieben;
         std::string nicht_geschrieben;
+        std::string verworfen;
     };
     worte wort_;
 };

@@ -5,8 +5,8 @@ namespace {
 
 constexpr std::string_view portwerte = "19200,N,8,1";
 constexpr std::string_view abfrage = "?\r";
-constexpr std::size_t empfang_max = 4096;  // characters: far more than ever wait between two ticks
-constexpr zeit_ms antwort_max_ms = 50;     // then the poll is lost, and the next one goes out
+constexpr std::size_t empfang_max = 65536;  // characters: what half a minute of unanswered polls may bring at once
+constexpr zeit_ms antwort_max_ms = 50;      // then the poll is lost, and the next one goes out
 
 }  // namespace
 

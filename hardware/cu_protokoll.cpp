@@ -24,6 +24,15 @@ bool ist_status_laenge(std::size_t laenge) {
     return std::count(laengen_status.begin(), laengen_status.end(), laenge) > 0;
 }
 
+/// In front of the end, over all between the first character and its own place.
+bool summe_stimmt(std::string_view satz) {
+    unsigned summe = 0;
+    for (const char zeichen : satz.substr(1, satz.size() - 3)) {
+        summe += static_cast<unsigned char>(zeichen) & 15U;
+    }
+    return satz[satz.size() - 2] == static_cast<char>('0' + (summe & 15U));
+}
+
 /// `satz` is 12 or 13 characters long.
 std::optional<ueberfahrt> ueberfahrt_lesen(std::string_view satz) {
     const int fahrzeug = ziffer(satz[1]);
@@ -32,7 +41,7 @@ std::optional<ueberfahrt> ueberfahrt_lesen(std::string_view satz) {
     if (fahrzeug < 1 || fahrzeug > fahrzeuge_max || sensor < 1 || sensor > sensoren_max || !stempel) {
         return {};
     }
-    return ueberfahrt{fahrzeug, sensor, *stempel};
+    return ueberfahrt{fahrzeug, sensor, *stempel, summe_stimmt(satz)};
 }
 
 /// `satz` is 17 or 19 characters long; the positions that mean nothing here may hold anything.
@@ -129,6 +138,15 @@ meldung satz_lesen(std::string_view satz) {
         return gelesen;
     }
     return satz.front() == '?' && ist_status_laenge(satz.size()) ? als_meldung(status_lesen(satz)) : meldung();
+}
+
+bool summenpruefung::annehmen(const ueberfahrt& neu) {
+    constexpr int gelernt_nach = 10;
+    constexpr int verlernt_nach = 30;  // no line damages so many in a row: it is another unit
+    einig_ = neu.summe ? einig_ + 1 : 0;
+    uneinig_ = neu.summe ? 0 : uneinig_ + 1;
+    mit_summe_ = (mit_summe_ || einig_ >= gelernt_nach) && uneinig_ < verlernt_nach;
+    return neu.summe || !mit_summe_;
 }
 
 std::optional<std::uint32_t> stempel_lesen(std::string_view zeichen) {

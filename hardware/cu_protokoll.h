@@ -22,6 +22,7 @@ struct ueberfahrt {
     int fahrzeug = 0;           ///< 1 to 8
     int sensor = 1;             ///< 1 finish line, 2 and 3 sectors
     std::uint32_t stempel = 0;  ///< the unit's clock, ms
+    bool summe = false;         ///< the record ends with the sum of what it says
     bool operator==(const ueberfahrt&) const = default;
 };
 
@@ -47,6 +48,19 @@ using meldung = std::variant<std::monostate, ueberfahrt, status, rundenzaehler>;
 std::string satz_abtrennen(std::string& empfang);
 /// What a record says; nothing for one that is damaged. Noise in front of a record is passed over.
 meldung satz_lesen(std::string_view satz);
+
+/// Whether a unit's passages end with the sum of what they say shows by itself. One that does not agree is then
+/// damaged; of a unit that sends something else in that place nothing is known.
+class summenpruefung {
+public:
+    /// False for a passage that is damaged.
+    bool annehmen(const ueberfahrt& neu);
+
+private:
+    bool mit_summe_ = false;
+    int einig_ = 0;    ///< in a row
+    int uneinig_ = 0;  ///< in a row
+};
 
 /// The eight characters of a stamp; nothing if one of them is no digit of sixteen.
 std::optional<std::uint32_t> stempel_lesen(std::string_view zeichen);

@@ -19,6 +19,8 @@ public:
     /// Closes what was open and opens it anew as the settings have it; false if they name nothing that is there.
     virtual bool oeffnen() = 0;
     virtual void schliessen() = 0;
+    /// It was open, and is gone: looks whether it is there again, and goes on where it was. Says nothing if it is not.
+    virtual void wieder_aufnehmen() {}
     /// It can be heard.
     virtual bool verbunden() const = 0;
     /// The operator has to wait until it is ready, and has to see for what.

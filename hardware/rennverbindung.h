@@ -17,10 +17,13 @@ public:
     virtual void rennen_vorbereiten() = 0;
     /// All stamps so far move by so many ms.
     virtual void stempel_verschieben(zeit_ms um) = 0;
+    /// The clock that pauses have been measured on runs `faktor` times as fast as was thought: the laps that they are
+    /// still to come off get the better measure.
+    virtual void pausen_nachmessen(double faktor) = 0;
     /// Events have reached the table: the fuel simulation looks at them at once.
     virtual void ereignisse_gemeldet() = 0;
-    /// Level of a tank that the device has itself: `stufe` of `stufen`, 0 is empty.
-    virtual void fuellstand(int spur, int stufe, int stufen) = 0;
+    /// Level of a tank that the device has itself: `stufe` of `stufen`, 0 is empty. `neu`: it was another a moment ago.
+    virtual void fuellstand(int spur, int stufe, int stufen, bool neu) = 0;
     /// The device drives with fuel. Nothing happens while a race window is open.
     virtual void tankfunktion(bool an) = 0;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <limits>
+
 #include "platform/uhr.h"
 
 namespace tarvel {
@@ -11,21 +13,29 @@ public:
     explicit zeitbasis(const plattform::uhr& uhr) : uhr_(uhr) {}
 
     /// The stamp used everywhere in a race.
-    zeit_ms messzeit_lesen() const { return uhr_.jetzt() - versatz_; }
+    zeit_ms messzeit_lesen() const;
 
     /// A stamp that differs from the one read just before, even within the same millisecond: adds 1, 2 ... 9, 0 in
     /// turn.
     zeit_ms ereignis_zeit_lesen();
 
     /// A device's clock stands at `geraetezeit` now.
-    void stellen(zeit_ms geraetezeit) { versatz_ = uhr_.jetzt() - geraetezeit; }
-    /// What the machine's counter is ahead of the device's clock, in ms; 0 without such a device.
-    void versatz(zeit_ms neu) { versatz_ = neu; }
-    zeit_ms versatz() const { return versatz_; }
+    void stellen(zeit_ms geraetezeit) { stellen(geraetezeit, gang_); }
+    void stellen(zeit_ms geraetezeit, double gang);
+    /// That clock turns out to stand at `geraetezeit` now, and to run `gang` ms in each of the machine's. The reading
+    /// does not go back for it: it waits.
+    void nachstellen(zeit_ms geraetezeit, double gang);
+    /// No device any more: the machine's counter itself.
+    void freigeben();
 
 private:
+    static constexpr zeit_ms nie = std::numeric_limits<zeit_ms>::min();
+
     const plattform::uhr& uhr_;
-    zeit_ms versatz_ = 0;
+    zeit_ms bezug_ = 0;  ///< reading of the machine's counter at which the clock stood at `stand_`
+    zeit_ms stand_ = 0;
+    double gang_ = 1;
+    zeit_ms mindestens_ = nie;
     int zeit_zaehler_ = 0;
 };
 

@@ -5,10 +5,17 @@
 #include <QRandomGenerator>
 #include <QScreen>
 #include <chrono>
+#include <ctime>
 
 namespace tarvel::qt {
 
 zeit_ms QtUhr::jetzt() const {
+#ifdef Q_OS_LINUX  // the other clock stands still while a laptop sleeps, and a device's does not
+    timespec seit_start{};
+    if (::clock_gettime(CLOCK_BOOTTIME, &seit_start) == 0) {
+        return zeit_ms{seit_start.tv_sec} * 1000 + seit_start.tv_nsec / 1000000;
+    }
+#endif
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }

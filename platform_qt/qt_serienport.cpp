@@ -4,11 +4,16 @@
 #include <QHash>
 #include <QStringList>
 
+#ifndef Q_OS_WIN
+#include <poll.h>
+#endif
+
 namespace tarvel::qt {
 namespace {
 
 constexpr qint64 stau_max = 4096;  // bytes that a device has not taken: it takes none any more
-constexpr int abschied_ms = 100;   // for the last commands before the port is closed
+constexpr int wache_ms = 1000;
+constexpr int abschied_ms = 100;  // for the last commands before the port is closed
 
 }  // namespace
 
@@ -53,6 +58,7 @@ QtSerienport::QtSerienport(const Portnamen& namen, QString& sperrdatei) : namen_
     QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { lesen(); });
     QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                      [this](QSerialPort::SerialPortError art) { fehler(art); });
+    QObject::connect(&wache_, &QTimer::timeout, &port_, [this] { nachsehen(); });
 }
 
 QtSerienport::~QtSerienport() {
@@ -73,14 +79,17 @@ bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
     port_.setDataBits(portwerte->datenbits);
     port_.setStopBits(portwerte->stopbits);
     port_.setFlowControl(QSerialPort::NoFlowControl);
-    const bool gut = port_.open(QIODevice::ReadWrite);
-    if (!gut && port_.error() == QSerialPort::PermissionError) {
+    const bool offen = port_.open(QIODevice::ReadWrite);
+    if (offen) {
+        wache_.start(wache_ms);
+    } else if (port_.error() == QSerialPort::PermissionError) {
         sperrdatei_ = sperrdatei_von(port_.portName());
     }
-    return gut;
+    return offen;
 }
 
 void QtSerienport::schliessen() {
+    wache_.stop();
     if (port_.isOpen()) {
         port_.flush();
         if (port_.bytesToWrite() > 0) {
@@ -106,10 +115,22 @@ void QtSerienport::lesen() {
     }
 }
 
+void QtSerienport::nachsehen() {
+#ifdef Q_OS_WIN
+    port_.pinoutSignals();  // fails, and says so, on a port that is gone
+#else
+    pollfd stand{port_.handle(), 0, 0};
+    if (::poll(&stand, 1, 0) > 0 && (stand.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0) {
+        fehler(QSerialPort::ResourceError);
+    }
+#endif
+}
+
 void QtSerienport::fehler(QSerialPort::SerialPortError art) {
     if (art != QSerialPort::ResourceError || !port_.isOpen()) {
         return;
     }
+    wache_.stop();
     port_.close();
     if (bei_verlust) {
         bei_verlust();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSerialPort>
+#include <QTimer>
 #include <optional>
 
 #include "platform/serienport.h"
@@ -21,10 +22,12 @@ public:
 private:
     void lesen();
     void fehler(QSerialPort::SerialPortError art);
+    void nachsehen();
 
     const Portnamen& namen_;
     QString& sperrdatei_;
     QSerialPort port_;
+    QTimer wache_;  ///< a device that is gone shows itself to whoever asks
 };
 
 class QtSerienportDienst final : public plattform::serienport_dienst {

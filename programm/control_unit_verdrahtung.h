@@ -20,6 +20,7 @@ public:
 private:
     void geraet_trennen() override { cu.schliessen(); }
     void geraet_verbinden() override;
+    int verworfene_saetze() const override { return cu.verworfene_saetze(); }
     bool einstellungen_speichern() override { return pflege_.speichern_mit_feldern(); }
 
     const einstellungen& einst_;

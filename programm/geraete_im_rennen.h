@@ -18,8 +18,11 @@ public:
     bool pause() const override { return r_.zustand.chaos_aktiv; }
     void rennen_vorbereiten() override { r_.bahn1.Command1.klicken(); }
     void stempel_verschieben(zeit_ms um) override;
+    void pausen_nachmessen(double faktor) override { r_.zustand.pausen_nachmessen(faktor); }
     void ereignisse_gemeldet() override;
-    void fuellstand(int spur, int stufe, int stufen) override { r_.tanken.fuellstand_melden(spur, stufe, stufen); }
+    void fuellstand(int spur, int stufe, int stufen, bool neu) override {
+        r_.tanken.fuellstand_melden(spur, stufe, stufen, neu);
+    }
     void tankfunktion(bool an) override;
 
 private:

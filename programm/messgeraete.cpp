@@ -11,7 +11,8 @@ messgeraete::messgeraete(const geraete_umgebung& um)
     : um_(um),
       rennverbindung_(um.rennen, um.form1, um.fenster),
       anzeigetakt_(um.dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 500ms)) {
-    anzeigetakt_->bei_tick = [this] { verbindung_anzeigen(); };
+    anzeigetakt_->bei_tick = [this] { anzeigetakt_tick(); };
+    um_.rennen.befehle.darf_starten = [this] { return trotzdem_starten(); };
     for (const geraet_anlegen anlegen : geraetetabelle()) {
         alle_.push_back({anlegen(um_, *this)});
         um_.einstellungsfenster.unterstuetzt.at(static_cast<std::size_t>(alle_.back().teile->geraet().nummer())) = true;
@@ -41,7 +42,7 @@ void messgeraete::schliessen() {
     for (const eintrag& eines : alle_) {
         eines.teile->geraet().schliessen();
     }
-    um_.rennen.zeit.versatz(0);
+    um_.rennen.zeit.freigeben();
 }
 
 void messgeraete::beenden() {
@@ -104,11 +105,14 @@ void messgeraete::wartehinweis(bool an) {
         rennstart.aktiviert(true);
         rennstart.fokus_setzen();
         um_.ausgaben.ruhezustand();  // what was switched while the unit booted has not reached it
+    } else {
+        um_.ausgaben.wiederholen();
     }
     verbindung_anzeigen();
 }
 
 void messgeraete::port_fehlt(const std::string& meldung) {
+    gewarnt_ = true;
     um_.dienste.meldungen.zeigen(meldung + um_.form1.anschluss_gesperrt(um_.dienste.serienports.sperrdatei()),
                                  um_.txt.titel[1]);
 }
@@ -127,12 +131,43 @@ void messgeraete::verloren() {
     verbindung_anzeigen();
 }
 
-void messgeraete::verbindung_anzeigen() {
-    const bool getrennt = std::any_of(alle_.begin(), alle_.end(), [this](const eintrag& eines) {
+bool messgeraete::getrennt() const {
+    return std::any_of(alle_.begin(), alle_.end(), [this](const eintrag& eines) {
         return gewaehlt(eines) && !eines.wartet && !eines.teile->geraet().verbunden();
     });
-    um_.form1.messgeraet_getrennt(getrennt);
-    um_.rennen.ansicht.fusszeile_setzen(getrennt ? um_.form1.modus_label.text() : um_.txt.werbetext, getrennt);
+}
+
+void messgeraete::anzeigetakt_tick() {
+    constexpr int suchen_alle = 4;
+    getrennt_seit_ = getrennt() ? getrennt_seit_ + 1 : 0;
+    if (getrennt_seit_ % suchen_alle == 1) {
+        for (const eintrag& eines : alle_) {
+            if (gewaehlt(eines) && !eines.wartet) {
+                eines.teile->geraet().wieder_aufnehmen();
+            }
+        }
+    }
+    verbindung_anzeigen();
+}
+
+bool messgeraete::trotzdem_starten() {
+    if (!anzeigetakt_->laeuft() || !getrennt() || std::exchange(gewarnt_, true)) {
+        return true;
+    }
+    return um_.dienste.meldungen.fragen(
+        "Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
+        um_.txt.titel[0]);
+}
+
+void messgeraete::verbindung_anzeigen() {
+    constexpr int alarm_nach = 2;  // half seconds: a line may falter
+    const bool fehlt = getrennt();
+    gewarnt_ = gewarnt_ && fehlt;
+    um_.form1.messgeraet_getrennt(fehlt);
+    const std::string& stand = um_.form1.modus_label.text();
+    um_.rennen.ansicht.fusszeile_setzen(fehlt ? stand : um_.txt.werbetext, fehlt);
+    const bool alarm = fehlt && getrennt_seit_ >= alarm_nach && um_.fenster.ist_offen(fenstername::bahn1);
+    um_.rennen.ansicht.geraetealarm_setzen(alarm ? stand : "");
 }
 
 }  // namespace tarvel

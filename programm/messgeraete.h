@@ -55,11 +55,17 @@ private:
     void wartende_oeffnen(bool auch_aufhaltende);
     void ausgaben_anzeigen();
     void verbindung_anzeigen();
+    void anzeigetakt_tick();
+    /// A device that is chosen, and not only just to be opened, cannot be heard.
+    bool getrennt() const;
+    bool trotzdem_starten();
 
     geraete_umgebung um_;
     geraete_im_rennen rennverbindung_;
     std::unique_ptr<plattform::zeitgeber> anzeigetakt_;  ///< keeps the state of the device on the main window
     std::vector<eintrag> alle_;
+    int getrennt_seit_ = 0;  ///< ticks of `anzeigetakt_`
+    bool gewarnt_ = false;   ///< the operator has been asked, or told, that the device is gone
 };
 
 }  // namespace tarvel

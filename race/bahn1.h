@@ -85,7 +85,8 @@ struct bahn1 {
     spuren<form> yellowframe;           ///< bars in a pause
     rahmen cu_startframe;               ///< says what is to do at a device that is started at its own key
     bezeichnung cu_startlabel;
-    rahmen Nachtabschaltung;  ///< dark cover over the whole window
+    bezeichnung geraetealarm;  ///< large over the lanes: the timing device is gone
+    rahmen Nachtabschaltung;   ///< dark cover over the whole window
 
     struct worte {
         std::string restzeit;

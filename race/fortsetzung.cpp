@@ -21,8 +21,10 @@ void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
         }
         spur_zustand& zustand = um_.zustand.spur[spur];
         const sensorsperre sperre = zustand.sensor_sperre;  // the sensors stay where they are
+        const double tank_inhalt = um_.quellen.kann().eigener_tank ? zustand.tank_inhalt : vorher[von].tank_inhalt;
         zustand = vorher[von];
         zustand.sensor_sperre = sperre;
+        zustand.tank_inhalt = tank_inhalt;  // a tank that the device has itself is the car's, and stays with it
     }
     um_.zustand.konto.fahrer_umsetzen(herkunft);
     t_.sektor.fahrer_umsetzen(herkunft);

@@ -14,6 +14,7 @@ enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
 
 struct spur_zustand {
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
+    zeit_ms gezaehlt_bei = 0;    ///< stamp of the crossing that was counted last
     zeit_ms pause_abzug = 0;     ///< pause to take off the next lap
     dauer_s strafzeit{};         ///< time penalty
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
@@ -75,6 +76,9 @@ struct renn_zustand {
 
     /// The clock that stamps have been taken from turns out to be `um` ms behind.
     void stempel_verschieben(zeit_ms um);
+
+    /// Pauses were measured on a clock that runs `faktor` times as fast as was thought.
+    void pausen_nachmessen(double faktor);
 
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {

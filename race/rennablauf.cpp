@@ -22,6 +22,7 @@ void rennablauf::laden() {
     t_.ansicht.oeffnen();
     t_.ansicht.farben_setzen();
     t_.ansicht.fusszeile_setzen(um_.txt.werbetext, false);
+    t_.ansicht.geraetealarm_setzen("");
     rennen_zuruecksetzen();
     vor_dem_start();
     t_.blinken.beginnen();

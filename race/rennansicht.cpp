@@ -47,6 +47,15 @@ void rennansicht::fusszeile_setzen(const std::string& text, bool warnung) {
     um_.bahn.werbe_label.schriftfarbe(warnung ? warnfarbe : um_.einst.farben_schrift[2]);
 }
 
+void rennansicht::geraetealarm_setzen(const std::string& text) {
+    bezeichnung& alarm = um_.bahn.geraetealarm;
+    alarm.text(text);
+    if (!text.empty() && !alarm.sichtbar()) {
+        um_.sounds.spielen(sound::pause_beginnt);
+    }
+    alarm.sichtbar(!text.empty());
+}
+
 std::string rennansicht::ziel_text() const {
     const bahn1& bahn = um_.bahn;
     std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;

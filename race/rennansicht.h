@@ -26,6 +26,8 @@ public:
     void farben_setzen();
     /// Beside the commands: the club's line, or what is wrong.
     void fusszeile_setzen(const std::string& text, bool warnung);
+    /// The timing device is gone: says so with a sound, large, until `text` is empty.
+    void geraetealarm_setzen(const std::string& text);
     /// What is driven for.
     std::string ziel_text() const;
     void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text()); }

@@ -8,7 +8,11 @@ namespace tarvel {
 
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
     : um_(um), t_(t), belegung_(belegung), tastatur_(um.ereignisse, belegung, *this) {
-    um_.bahn.Command1.bei_klick = [this] { t_.ablauf.rennstart_vorbereiten(); };
+    um_.bahn.Command1.bei_klick = [this] {
+        if (!darf_starten || darf_starten()) {
+            t_.ablauf.rennstart_vorbereiten();
+        }
+    };
     um_.bahn.Command2.bei_klick = [this] {
         if (um_.zustand.fortgesetzt) {
             fenster_schliessen();  // a result is at stake already: it asks

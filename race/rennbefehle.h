@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "hardware/tastatur.h"
 #include "race/chaos.h"
 #include "race/rennablauf.h"
@@ -20,6 +22,9 @@ public:
     };
 
     rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung);
+
+    /// Asked before each start by its command; false leaves it at that. May be empty.
+    std::function<bool()> darf_starten;
 
     /// A key of the race; `code` is the Windows-1252 value of the typed character. `alter`: ms since it was pressed,
     /// without which it counts as pressed at the last tick.

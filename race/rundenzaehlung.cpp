@@ -11,9 +11,20 @@ bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
         sperre = sensorsperre::bereit;
     } else if (ereignis.pegel == ereignis.pegel_ruhe) {
         sperre = sensorsperre::bereit;
-        ereignis.aktiv = false;
+        ereignis.aktiv = !zu_nah(spur, ereignis.ereignis_zeit);
     }
     return ereignis.aktiv && sperre == sensorsperre::bereit;
+}
+
+bool rundenzaehlung::zu_nah(int spur, zeit_ms stempel) const {
+    constexpr zeit_ms sperre_ms = 100;  // as `tankwartetimer`
+    return stempel - um_.zustand.spur[spur].gezaehlt_bei < sperre_ms;
+}
+
+bool rundenzaehlung::gesperrt(int spur, zeit_ms stempel) const {
+    // What a device has told late is as far apart as it says, however soon it comes one after the other.
+    return um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft() &&
+           (zu_nah(spur, stempel) || um_.zustand.spur[spur].sperrzaehler > 0);
 }
 
 zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
@@ -34,18 +45,18 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
     return stempel - zustand.start_zeit;
 }
 
-bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit) const {
+bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.fruehstart_sperre &&
            (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_strafe_aktiv && !zustand.ziel_erreicht &&
-           !um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft();
+           !zustand.tank_strafe_aktiv && !zustand.ziel_erreicht && !gesperrt(spur, stempel);
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     zustand.sensor_sperre = sensorsperre::eben_gezaehlt;
+    zustand.gezaehlt_bei = stempel;
     um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
     rundenkonto& konto = um_.zustand.konto;
     const bool voll = konto.runden(spur) == runden_max;
@@ -81,7 +92,7 @@ void rundenzaehlung::runden_auswerten() {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (entprellen(spur, ereignis)) {
             const zeit_ms zeit = rundenzeit_messen(spur, ereignis.ereignis_zeit);
-            if (zaehlt(spur, zeit)) {
+            if (zaehlt(spur, zeit, ereignis.ereignis_zeit)) {
                 zaehlen(spur, zeit, ereignis.ereignis_zeit);
             }
         }

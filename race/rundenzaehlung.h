@@ -33,7 +33,10 @@ public:
 private:
     bool entprellen(int spur, ereignis_zeile& ereignis);
     zeit_ms rundenzeit_messen(int spur, zeit_ms stempel);
-    bool zaehlt(int spur, zeit_ms zeit) const;
+    /// Right behind the crossing that was counted last.
+    bool zu_nah(int spur, zeit_ms stempel) const;
+    bool gesperrt(int spur, zeit_ms stempel) const;
+    bool zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const;
     void zaehlen(int spur, zeit_ms zeit, zeit_ms stempel);
     void zaehler_zeigen(int spur);
 

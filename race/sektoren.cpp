@@ -11,6 +11,7 @@ namespace tarvel {
 namespace {
 
 constexpr int sensoren_je_spur = 2;
+constexpr zeit_ms sperre_ms = 1500;  // as `sekt_timer`; what a device tells late is as far apart as it says
 
 /// Event of a lane's sector sensor 1 or 2.
 constexpr ereignis_art art_von(int spur, int sensor) {
@@ -76,10 +77,14 @@ void sektoren::sektoren_auswerten() {
     for (const int spur : alle_spuren) {
         for (int sensor = 1; sensor <= sensoren_je_spur; ++sensor) {
             const ereignis_art art = art_von(spur, sensor);
-            const auto& sperre = um_.zeitgeber.sekt_timer.at(static_cast<std::size_t>(art - erste_zwischenzeit));
-            if (um_.ereignisse[art].aktiv && !sperre->laeuft() &&
-                um_.einst.sektor_an.at(static_cast<std::size_t>(sensor)) && !um_.zustand.spur[spur].ziel_erreicht) {
+            const auto platz = static_cast<std::size_t>(art - erste_zwischenzeit);
+            const auto& sperre = um_.zeitgeber.sekt_timer.at(platz);
+            const zeit_ms stempel = um_.ereignisse[art].ereignis_zeit;
+            const bool gesperrt = sperre->laeuft() && stempel - zuletzt_.at(platz) < sperre_ms;
+            if (um_.ereignisse[art].aktiv && !gesperrt && um_.einst.sektor_an.at(static_cast<std::size_t>(sensor)) &&
+                !um_.zustand.spur[spur].ziel_erreicht) {
                 sperre->an();
+                zuletzt_.at(platz) = stempel;
                 um_.ereignisse[art].aktiv = false;
                 sektorzeit_verarbeiten(spur, sensor);
             }

@@ -38,6 +38,7 @@ private:
 
     renn_umgebung um_;
     spuren<zeilen> sektorzeiten_;
+    std::array<zeit_ms, sektorsensoren_max> zuletzt_{};  ///< stamp of the last hit of each sensor that counted
 };
 
 /// km/h over `meter` in `zeit` ms; 0 for no time.

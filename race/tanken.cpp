@@ -69,14 +69,19 @@ void tanken::zuruecksetzen() {
     }
 }
 
-void tanken::fuellstand_melden(int spur, int stufe, int stufen) {
+void tanken::fuellstand_melden(int spur, int stufe, int stufen, bool neu) {
+    const auto ansagen = [this, spur, neu](int was) {
+        if (neu) {
+            um_.sounds.spielen(was + spur);
+        }
+    };
     um_.zustand.spur[spur].tank_inhalt = runden_auf(static_cast<double>(stufe) * um_.einst.tank_inhalt / stufen, 100);
     if (stufe < 1) {
         tankfarbe(spur, um_.einst.farben_schrift[2]);
-        um_.sounds.spielen(sound::tank_leer + spur);
+        ansagen(sound::tank_leer);
     } else if (static_cast<double>(stufe) * 100 / stufen < um_.einst.tank_warnung) {
         tankfarbe(spur, farben::rot);
-        um_.sounds.spielen(sound::tankwarnung + spur);
+        ansagen(sound::tankwarnung);
     } else {
         tankfarbe(spur, gruen);
     }
@@ -186,6 +191,7 @@ void tanken::tanken_spur(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     if (um_.quellen.kann().kontakte_wiederholt) {
         um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
+        zustand.sperrzaehler = std::max(zustand.sperrzaehler, 1);  // whatever the stamps say
     }
     if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
         const double vorher = zustand.tank_inhalt;

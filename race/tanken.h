@@ -22,7 +22,7 @@ public:
     /// Levels and their displays, without any change.
     void fuellstaende_zeigen();
     /// A device that has the tanks itself tells a level: `stufe` of `stufen`, 0 is empty.
-    void fuellstand_melden(int spur, int stufe, int stufen);
+    void fuellstand_melden(int spur, int stufe, int stufen, bool neu);
     /// A car that stands on the one contact of its lane must not count laps there: each event that a device repeats
     /// draws out the lock after the crossing.
     void sensoren_nachhalten();

@@ -98,6 +98,30 @@ TEST_F(At2560, RundenHabenDieZeitDesGeraetsAuchWennSieSpaetKommen) {
     EXPECT_EQ(rundenzeit(2, 1), 8000);
 }
 
+TEST_F(At2560, EineUhrDieUmlaeuftOderNeuBeginntZaehltWeiter) {
+    constexpr zeit_ms umlauf = zeit_ms{1} << 32;
+    a.oeffnen();
+    a.t.starten("Runden", "20", {1});
+    a.sagt(":T," + std::to_string(umlauf - 12000) + ";");
+    const auto runde_bei = [&](zeit_ms nach, zeit_ms geraetezeit) {
+        a.t.maschine.laufen(nach);
+        a.sagt(":S13," + std::to_string(geraetezeit) + ";");
+        a.t.maschine.laufen(10);
+    };
+    runde_bei(5000, umlauf - 7000);
+    runde_bei(7990, 993);
+    EXPECT_EQ(rundenzeit(1, 1), 7993) << "it has run over";
+    runde_bei(7990, 9000);
+    EXPECT_EQ(rundenzeit(1, 2), 8007);
+    runde_bei(9990, 700);
+    EXPECT_NEAR(static_cast<double>(rundenzeit(1, 3)), 10000, 20) << "it was switched off and on";
+    runde_bei(5990, 6702);
+    EXPECT_EQ(rundenzeit(1, 4), 6002);
+    runde_bei(5990, 127);
+    runde_bei(5990, 18700);
+    EXPECT_EQ(rundenzeit(1, 5) + rundenzeit(1, 6), 11998) << "but for one damaged event it runs on";
+}
+
 TEST_F(At2560, VersatzWirdJeRennenEinmalGeholt) {
     ereignis_zeile& runde = a.zeile(16);
     a.oeffnen();

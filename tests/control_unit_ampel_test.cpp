@@ -151,6 +151,7 @@ TEST_F(ControlUnitRennen, EinGeraetOhneStromUeberlaesstPauseUndAmpelDemProgramm)
     t.maschine.laufen(7100);  // the program's own light
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     t.p.rennen.befehle.rennen_abbrechen();
+    t.maschine.antwort = true;  // to the question whether to start without it
     t.starten(t.p.txt.text_runden, "10", {1});
     t.maschine.laufen(5000);
     t.taste("1");

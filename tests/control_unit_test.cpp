@@ -45,6 +45,24 @@ TEST_F(ControlUnitRennen, DieErsteUeberfahrtBringtAlleZeitenAufDieUhrDesGeraets)
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 3), 6000);
 }
 
+TEST_F(ControlUnitRennen, NachEinemNeubeginnStimmenDieRundenAllerWagen) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    const auto beide = [this](zeit_ms nach, std::uint32_t erster, std::uint32_t zweiter) {
+        t.maschine.laufen(nach - 506);
+        ueberfahrt(1, erster);
+        t.maschine.laufen(500);
+        ueberfahrt(2, zweiter);
+    };
+    beide(2000, 900000, 900500);
+    beide(8000, 100, 603);
+    beide(8000, 8101, 8608);
+    beide(8000, 16107, 16611);
+    for (const int runde : {2, 3}) {
+        EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, runde), runde == 2 ? 8001 : 8006);
+        EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, runde), runde == 2 ? 8005 : 8003);
+    }
+}
+
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     t.p.form1.t_aktiv.gesetzt(true);
     t.p.einst.sound_an = true;
@@ -71,6 +89,41 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     ueberfahrt(1, 9000);
     ASSERT_EQ(t.runden(1), 1);
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "30,00") << "a lap burns what the unit says";
+}
+
+TEST_F(ControlUnitRennen, DerTankIstDerDesWagens) {
+    t.p.form1.t_aktiv.gesetzt(true);
+    t.p.einst.cu.cu_tankautomatik = false;
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    status(false, "72>555");
+    t.p.rennen.fortsetzung.fahrer_umsetzen({{2, 1, 0, 0, 0, 0}});
+    t.p.rennen.tanken.fuellstaende_zeigen();
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "30,00") << "the driver has changed, not the car";
+    t.p.einst.tank_inhalt = 80;
+    t.maschine.laufen(20);
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "40,00");
+    t.p.rennen.befehle.rennen_abbrechen();
+    t.spur(1).tank_inhalt = 3;  // a race with the keyboard
+    t.p.einst.sound_an = true;
+    t.einrichten(t.p.txt.text_runden, "10", {1, 2});
+    t.maschine.sounds.clear();
+    t.maschine.laufen(20);
+    EXPECT_EQ(t.bahn().t_bahn[1].text(), "40,00");
+    EXPECT_TRUE(t.maschine.sounds.empty()) << "nothing has changed";
+}
+
+TEST_F(ControlUnitRennen, NachDemAbziehenImRennenZaehltWasSieInzwischenGemessenHat) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 900000);
+    t.maschine.laufen(4000);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(16000);
+    wartend = {passage(1, 906500), passage(1, 914000), passage(2, 912000)};
+    t.maschine.anschluesse.da = {com};
+    t.maschine.laufen(2600);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 6500);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 7500);
+    EXPECT_EQ(t.runden(2), 0);
 }
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {

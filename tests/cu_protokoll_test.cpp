@@ -57,6 +57,23 @@ TEST(CuProtokoll, JederSatzAuchHinterRauschen) {
     }
 }
 
+TEST(CuProtokoll, NachZehnEinigenUeberfahrtenFaelltEineVerfaelschteAuf) {
+    const auto lesen = [](std::string_view satz) { return std::get<cu::ueberfahrt>(cu::satz_lesen(satz)); };
+    for (const char* echt : {"?2003037?>1=$", "?20030:9211<$", "?200301<?618$"}) {
+        cu::summenpruefung pruefung;
+        const cu::ueberfahrt verfaelscht = lesen("?2003037?=1=$");
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_TRUE(pruefung.annehmen(verfaelscht)) << "nothing is known of this unit";
+            EXPECT_TRUE(pruefung.annehmen(lesen(echt)));
+        }
+        for (int i = 0; i < 10; ++i) {
+            pruefung.annehmen(lesen(echt));
+        }
+        EXPECT_FALSE(pruefung.annehmen(verfaelscht)) << echt;
+        EXPECT_TRUE(pruefung.annehmen(lesen(echt)));
+    }
+}
+
 TEST(CuProtokoll, AbtrennenAnJedemByte) {
     const std::string strom = "?#?10123456711$##?20123456711$?#?#?30123456711$rest";
     for (std::size_t schnitt = 0; schnitt <= strom.size(); ++schnitt) {

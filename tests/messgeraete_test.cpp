@@ -62,6 +62,44 @@ TEST_F(Wiedereingesteckt, At2560MisstErstWennEsHoert) {
     EXPECT_NE(gesendet().find(":S;"), std::string::npos);
 }
 
+TEST_F(Wiedereingesteckt, ImRennenWirdEsVermisstGesuchtUndWiederAufgenommen) {
+    t.p.einst.sound_an = true;
+    einschalten(&messhardware::hw_uart);
+    t.starten("Runden", "20", {1, 2});
+    t.maschine.sounds.clear();
+    const bezeichnung& alarm = t.bahn().geraetealarm;
+    t.maschine.laufen(3000);
+    EXPECT_FALSE(alarm.sichtbar());
+    t.p.ausgaben.relais_on(2);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    EXPECT_TRUE(alarm.sichtbar());
+    EXPECT_EQ(alarm.text(), "AT-2560 USB – keine Verbindung");
+    EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[sound::pause_beginnt]});
+    t.maschine.anschluesse.da = {com};
+    gesendet();
+    t.maschine.laufen(2500 + at_bootzeit.count());
+    EXPECT_FALSE(alarm.sichtbar());
+    const std::string befehle = gesendet();
+    EXPECT_NE(befehle.find(":P20;"), std::string::npos) << "the lane stays without power";
+    EXPECT_LT(befehle.find(":P01;"), befehle.find(":P20;"));
+    EXPECT_NE(befehle.find(":T;"), std::string::npos) << "its clock has begun anew";
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
+TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
+    einschalten(&messhardware::hw_cu);
+    t.einrichten("Runden", "20", {1});
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(2000);
+    t.bahn().Command1.klicken();
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    t.bahn().Command1.klicken();
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+}
+
 /// Its clock is fast by a hundredth.
 struct geraet_mit_uhr final : messquelle {
     explicit geraet_mit_uhr(const test_plattform& maschine) : maschine_(maschine), anfang_(maschine.jetzt()) {}

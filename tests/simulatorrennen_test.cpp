@@ -1,3 +1,4 @@
+#include "programm/control_unit_verdrahtung.h"
 #include "tests/programm_probe.h"
 #include "tools/simulator/at2560.h"
 #include "tools/simulator/at2560_pins.h"
@@ -21,19 +22,57 @@ struct Simulatorrennen : testing::Test {
     void laufen(zeit_ms dauer) {
         for (; dauer > 0; --dauer) {
             geraet->weiter(t.maschine.jetzt());
-            if (!leitung.empty()) {
+            if (!leitung.empty() && !leitung_steht) {
                 t.maschine.anschluesse.senden(com, leitung.substr(0, zeichen_je_ms));
                 leitung.erase(0, zeichen_je_ms);
             }
             t.maschine.laufen(1);
+            if (t.p.rennen.zustand.chaos_aktiv != (pausen.size() % 2 == 1)) {
+                pausen.push_back(geraet->uhr());
+            }
         }
     }
-    void rennen_fahren(const char* minuten) {
+    /// The line says nothing for so long, and then all at once.
+    void leitung_stockt(zeit_ms dauer) {
+        leitung_steht = true;
+        laufen(dauer);
+        leitung_steht = false;
+        t.maschine.anschluesse.senden(com, std::exchange(leitung, {}));
+    }
+    /// Neither timers nor records; the cars drive on.
+    void rechner_steht(zeit_ms dauer) {
+        t.maschine.uhr_stellen(dauer);
+        geraet->weiter(t.maschine.jetzt());
+    }
+    void starten(const char* minuten) {
         t.einrichten(t.p.txt.text_zeit, minuten, {1, 2, 3, 4, 5, 6});
         t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
         t.p.einst.zielmodus_erster = true;
         laufen(500);
         t.bahn().Command1.klicken();
+    }
+    void control_unit_anschliessen(const simulator::control_unit_einstellung& einst) {
+        t.p.einst.hardware = {};
+        t.p.einst.hardware.hw_cu = true;
+        t.p.einst.cu.anschluss.cu_modus = com;
+        t.p.einst.cu.cu_sondermodus = true;
+        anschliessen(std::make_unique<simulator::control_unit>(einst));
+    }
+    void pause_machen(zeit_ms dauer) {
+        t.bahn().Command3.klicken();
+        laufen(dauer);
+        t.bahn().Command3.klicken();
+    }
+    /// What of the device's time from one stamp to another was a pause.
+    zeit_ms pause_zwischen(zeit_ms von, zeit_ms bis) const {
+        zeit_ms summe = 0;
+        for (std::size_t i = 1; i < pausen.size(); i += 2) {
+            summe += std::max<zeit_ms>(std::min(bis, pausen[i]) - std::max(von, pausen[i - 1]), 0);
+        }
+        return summe;
+    }
+    void rennen_fahren(const char* minuten) {
+        starten(minuten);
         laufen(zeit_ms{32} * 60 * 1000);
     }
     /// Stamps of the finish line.
@@ -47,26 +86,31 @@ struct Simulatorrennen : testing::Test {
         return stempel;
     }
     /// Every lap of the device is counted, and takes as long as the device says.
-    void vergleichen() {
+    void vergleichen(zeit_ms minuten) {
         ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
         for (const int spur : alle_spuren) {
             const std::vector<zeit_ms> stempel = ueberfahrten(spur);
             const int runden = t.runden(spur);
-            ASSERT_GT(runden, 200);
+            ASSERT_GT(runden, 6 * minuten);
             ASSERT_LE(static_cast<std::size_t>(runden), stempel.size());
             for (int runde = 1; runde <= runden; ++runde) {
                 const auto i = static_cast<std::size_t>(runde);
-                ASSERT_EQ(t.p.rennen.zustand.konto.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
+                const zeit_ms pause = pause_zwischen(stempel[i - 1], stempel[i]);
+                ASSERT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(spur, runde)),
+                            static_cast<double>(stempel[i] - stempel[i - 1] - pause), pause > 0 ? 20 : 0)
                     << spur << " " << runde;
             }
-            const zeit_ms bis_zur_letzten = stempel[static_cast<std::size_t>(runden)] - stempel[0];
-            EXPECT_GT(bis_zur_letzten + 10000, zeit_ms{30} * 60 * 1000) << "a lap is missing at the end";
+            const zeit_ms letzte = stempel[static_cast<std::size_t>(runden)];
+            const zeit_ms bis_zur_letzten = letzte - stempel[0] - pause_zwischen(stempel[0], letzte);
+            EXPECT_GT(bis_zur_letzten + 10000, minuten * 60 * 1000) << "a lap is missing at the end";
         }
     }
 
     testprogramm t;
     std::unique_ptr<simulator::geraet> geraet;
     std::string leitung;
+    bool leitung_steht = false;
+    std::vector<zeit_ms> pausen;  ///< the device's time of each beginning and end
     std::size_t zeichen_je_ms = 2;
 };
 
@@ -75,13 +119,70 @@ TEST_F(Simulatorrennen, ControlUnitDreissigMinuten) {
     einst.rennen.wagen.resize(6);
     einst.rennen.uhr_start = 0xFFFFFFFF - 600000;  // its clock overflows in the race
     einst.vorspann_promille = 100;
-    t.p.einst.hardware = {};
-    t.p.einst.hardware.hw_cu = true;
-    t.p.einst.cu.anschluss.cu_modus = com;
-    t.p.einst.cu.cu_sondermodus = true;
-    anschliessen(std::make_unique<simulator::control_unit>(einst));
+    control_unit_anschliessen(einst);
     rennen_fahren("30");
-    vergleichen();
+    vergleichen(30);
+}
+
+TEST_F(Simulatorrennen, EineUhrMitAndererGeschwindigkeitVerschiebtKeineRunde) {
+    for (const int gang_ppm : {-5000, 5000}) {
+        simulator::control_unit_einstellung einst;
+        einst.rennen.wagen.resize(6);
+        einst.rennen.gang_ppm = gang_ppm;
+        control_unit_anschliessen(einst);
+        laufen(2000);
+        rechner_steht(zeit_ms{5} * 60 * 60 * 1000);
+        starten("8");
+        laufen(35000);  // nothing is known of its clock yet
+        pause_machen(300000);
+        laufen(180000);
+        pause_machen(300000);
+        laufen(zeit_ms{6} * 60 * 1000);
+        vergleichen(8);
+        t.p.fenster.entladen(fenstername::auswertung);
+        t.p.fenster.entladen(fenstername::bahn1);
+        pausen.clear();
+    }
+}
+
+TEST_F(Simulatorrennen, WasWartenMussteHatDieZeitDesGeraets) {
+    simulator::control_unit_einstellung einst;
+    einst.rennen.wagen.resize(6);
+    for (simulator::wagen_einstellung& w : einst.rennen.wagen) {
+        w.rundenzeit = 3000;
+    }
+    control_unit_anschliessen(einst);
+    t.p.form1.wertmin.eingeben("1");
+    starten("6");
+    laufen(15000);
+    for (const zeit_ms dauer : {2300, 3500, 7000, 10000, 30000}) {
+        leitung_stockt(dauer);
+        laufen(11000);
+        rechner_steht(dauer);
+        laufen(11000);
+    }
+    laufen(zeit_ms{5} * 60 * 1000);
+    vergleichen(6);
+}
+
+TEST_F(Simulatorrennen, EinVerfaelschterSatzFehltUndVerschiebtNichts) {
+    simulator::control_unit_einstellung einst;
+    einst.rennen.wagen.resize(6);
+    einst.stoerung_promille = 5;
+    control_unit_anschliessen(einst);
+    starten("5");
+    laufen(zeit_ms{6} * 60 * 1000);
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
+    for (const int spur : alle_spuren) {
+        const std::vector<zeit_ms> stempel = ueberfahrten(spur);
+        zeit_ms bisher = t.p.rennen.zustand.konto.stempel(spur, 0);
+        for (int runde = 1; runde <= t.runden(spur); ++runde) {
+            bisher += t.p.rennen.zustand.konto.rundenzeit(spur, runde);
+            EXPECT_EQ(std::count(stempel.begin(), stempel.end(), bisher), 1) << spur << " " << runde;
+        }
+        EXPECT_GT(t.runden(spur), 30);
+    }
+    EXPECT_GT(t.p.geraete.von<control_unit_verdrahtung>().cu.verworfene_saetze(), 0);
 }
 
 TEST_F(Simulatorrennen, At2560DreissigMinuten) {
@@ -99,7 +200,7 @@ TEST_F(Simulatorrennen, At2560DreissigMinuten) {
     geraet->verbunden();
     laufen(4000);
     rennen_fahren("30");
-    vergleichen();
+    vergleichen(30);
 }
 
 }  // namespace

@@ -41,6 +41,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     strafformular();
     geraetehinweis();
     befehlszeile();
+    geraetealarm();
     nachtabschaltung();
     setMinimumSize(640, 480);
     resize(1280, 1024);
@@ -161,6 +162,7 @@ void Bahn1Fenster::nachtabschaltung() {
         nacht_->setText(nachthinweis());
         nacht_anordnen();
         nacht_->raise();
+        alarm_->raise();
     });
 }
 
@@ -172,6 +174,27 @@ void Bahn1Fenster::nacht_anordnen() {
 
 QString Bahn1Fenster::nachthinweis() const {
     return QString::fromStdString(logik_.bahn1.Nachtabschaltung.text());
+}
+
+void Bahn1Fenster::geraetealarm() {
+    alarm_ = binder().anzeige(logik_.bahn1.geraetealarm, "geraetealarm");
+    alarm_->setParent(this);
+    alarm_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    alarm_->setAutoFillBackground(true);
+    QPalette rot;
+    rot.setColor(QPalette::Window, QColor(200, 0, 0));
+    alarm_->setPalette(rot);
+    alarm_->setFett(true);
+    alarm_->setFarbe(Qt::white);
+    alarm_->setRahmen(Qt::white);
+    alarm_->setZweizeilig();
+}
+
+void Bahn1Fenster::alarm_anordnen() {
+    // between the counters and the lap times of the columns: the race goes on with the keys
+    alarm_->setGeometry(width() / 50, height() * 48 / 100, width() * 48 / 50, height() * 11 / 100);
+    alarm_->setSchriftPx(height() / 14);
+    alarm_->raise();
 }
 
 void Bahn1Fenster::aufschlagen() {
@@ -231,6 +254,7 @@ void Bahn1Fenster::anordnen() {
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
     hinweis_anordnen();
+    alarm_anordnen();
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
     update();  // between the blocks the last layout may still be seen

@@ -33,6 +33,8 @@ private:
     void geraetehinweis();
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();
+    void geraetealarm();
+    void alarm_anordnen();
     void nachtabschaltung();
     void nacht_anordnen();
     /// Puts every widget where the layout has it for the window's size.
@@ -49,6 +51,7 @@ private:
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
     TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
+    TextAnzeige* alarm_ = nullptr;  ///< the timing device is gone
     bool licht_der_pause_ = false;
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };

@@ -1,7 +1,9 @@
-// Reads damaged files of every kind. The same steps and seed give the same files on every machine.
+// Reads damaged files of every kind. The same steps and seed give the same files on every machine; without a seed every
+// day has its own.
 //   fuzz_lauf [steps per kind] [seed] [kind]
 //   fuzz_lauf <kind> <file>...         reads these files again
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -13,6 +15,11 @@
 
 namespace tarvel::test {
 namespace {
+
+unsigned saat_des_tages() {
+    using namespace std::chrono;
+    return static_cast<unsigned>(floor<days>(system_clock::now()).time_since_epoch().count());
+}
 
 bool art_laufen(werkbank& bank, const std::string& name, const dateiart& art, unsigned schritte, unsigned saat) {
     std::string bytes;
@@ -57,11 +64,14 @@ bool ausfuehren(const std::vector<std::string>& worte) {
         }
         return true;  // what is wrong ends the process with its reason
     }
+    const unsigned saat = zahl(1, saat_des_tages());
+    std::printf("Seed %u\n", saat);
+    std::fflush(stdout);
     bool gut = true;
     bool gelaufen = false;
     for (const auto& [name, art] : arten) {
         if (worte.size() < 3 || name == worte[2]) {
-            gut = art_laufen(bank, name, art, zahl(0, 10000), zahl(1, 1)) && gut;
+            gut = art_laufen(bank, name, art, zahl(0, 10000), saat) && gut;
             gelaufen = true;
         }
     }

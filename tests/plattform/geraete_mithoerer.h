@@ -22,13 +22,16 @@ public:
     bool pause() const override { return rennen_.pause(); }
     void rennen_vorbereiten() override { rennen_.rennen_vorbereiten(); }
     void stempel_verschieben(zeit_ms um) override { rennen_.stempel_verschieben(um); }
+    void pausen_nachmessen(double faktor) override { rennen_.pausen_nachmessen(faktor); }
     void ereignisse_gemeldet() override {
         ++gemeldet;
         if (ereignisse_weitersagen) {
             rennen_.ereignisse_gemeldet();
         }
     }
-    void fuellstand(int spur, int stufe, int stufen) override { rennen_.fuellstand(spur, stufe, stufen); }
+    void fuellstand(int spur, int stufe, int stufen, bool neu) override {
+        rennen_.fuellstand(spur, stufe, stufen, neu);
+    }
     void tankfunktion(bool an) override { rennen_.tankfunktion(an); }
 
     void wartehinweis(bool an) override {

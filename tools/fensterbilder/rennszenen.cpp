@@ -247,6 +247,12 @@ const std::vector<szeneneintrag> alle{
     {"rennen_control_unit_pause", control_unit_pause<false, 1, 2, 3, 4, 5, 6>},
     {"rennen_control_unit_pause_zeilen", control_unit_pause<true, 1, 2, 3, 4, 5, 6>},
     {"rennen_control_unit_pause_allein", control_unit_pause<false, 4>},
+    {"rennen_geraet_fehlt",
+     [](buehne& b) -> QWidget& {
+         b.rennen(31000);
+         b.p.rennen.ansicht.geraetealarm_setzen("Carrera Control Unit – keine Verbindung");
+         return b.o.bahn1;
+     }},
     {"rennen_tausend_runden", tausend_runden<false>},
     {"rennen_tausend_runden_zeilen", tausend_runden<true>},
     {"rennen_im_ziel", im_ziel<false>},

@@ -17,11 +17,11 @@ char nibblezeichen(unsigned nibble) {
     return static_cast<char>('0' + (nibble & 15U));
 }
 
-/// A passage has one more place in front of its end, on which nothing is said: the sum of what stands before it.
+/// In front of its end a passage has the sum of what stands between its first character and this place.
 char summenzeichen(const std::string& satz) {
     unsigned summe = 0;
-    for (const char zeichen : satz) {
-        summe += static_cast<unsigned char>(zeichen);
+    for (const char zeichen : satz.substr(1)) {
+        summe += static_cast<unsigned char>(zeichen) & 15U;
     }
     return nibblezeichen(summe);
 }
@@ -286,7 +286,14 @@ void control_unit::mit_vorspann(const std::string& satz) {
     if (wurf < static_cast<std::uint64_t>(std::max(einst_.vorspann_promille, 0))) {
         bytes = kurz ? "#" : "?#";
     }
-    hinaus(bytes + satz);
+    bytes += satz;
+    for (char& zeichen : bytes) {
+        if (einst_.stoerung_promille > 0 &&
+            zufall_() % promille < static_cast<std::uint64_t>(einst_.stoerung_promille)) {
+            zeichen = static_cast<char>(zufall_() & 0xFFU);
+        }
+    }
+    hinaus(bytes);
 }
 
 }  // namespace tarvel::simulator

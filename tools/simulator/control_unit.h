@@ -21,6 +21,7 @@ struct control_unit_einstellung {
     zeit_ms fuelltakt = 250;               ///< ms a step of fuel in the pit, at least 1
     zeit_ms lampentakt = 1000;             ///< ms from lamp to lamp, at least 1; green follows the fifth
     int vorspann_promille = 0;             ///< answers in a thousand that have "#" or "?#" in front
+    int stoerung_promille = 0;             ///< characters in a thousand that the line changes
     std::vector<zeit_ms> tastendruecke{};  ///< presses of the start key at the unit itself, ms since its first moment
     std::string versionstext = "0S100$";   ///< answer to the question for the version
 };

@@ -28,6 +28,8 @@ void eigene_optionen(kommandozeile& zeile, flotte& wagen, control_unit_einstellu
     zeile.haken("--zaehlerbox", "mit Rundenzählerbox", cu.zaehlerbox);
     zeile.zahl("--vorspann", "PROMILLE", 0, 1000, "so viele von tausend Antworten beginnen mit # oder ?# (0)",
                [&](std::int64_t n) { cu.vorspann_promille = static_cast<int>(n); });
+    zeile.zahl("--stoerung", "PROMILLE", 0, 1000, "so viele von tausend Zeichen verfälscht die Leitung (0)",
+               [&](std::int64_t n) { cu.stoerung_promille = static_cast<int>(n); });
 }
 
 }  // namespace

@@ -3,17 +3,22 @@
 namespace tarvel::simulator {
 
 geraet::geraet(const rennen_einstellung& rennen)
-    : feld_(rennen.wagen, rennen.saat), uhr_start_(rennen.uhr_start), uhr_(rennen.uhr_start) {
+    : feld_(rennen.wagen, rennen.saat),
+      uhr_start_(rennen.uhr_start),
+      uhr_(rennen.uhr_start),
+      gang_ppm_(rennen.gang_ppm) {
     feld_.bei_ereignis = [this](const wagen_ereignis& was) { wagen_meldet(was); };
 }
 
 void geraet::weiter(zeit_ms jetzt) {
     if (!gestellt_) {
         gestellt_ = true;
-        zuletzt_ = jetzt;
+        beginn_ = jetzt;
     }
-    while (zuletzt_ < jetzt) {
-        ++zuletzt_;
+    constexpr zeit_ms million = 1000000;
+    const zeit_ms dauer = jetzt - beginn_;
+    for (const zeit_ms bis = dauer + dauer * gang_ppm_ / million; vergangen_ < bis;) {
+        ++vergangen_;
         ++uhr_;
         feld_.schritt(uhr_);
         schritt();

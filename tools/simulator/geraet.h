@@ -14,6 +14,7 @@ struct rennen_einstellung {
     std::vector<wagen_einstellung> wagen;  ///< car 1 first
     std::uint64_t saat = 1;
     zeit_ms uhr_start = 0;       ///< ms that the device's clock shows at its first moment
+    int gang_ppm = 0;            ///< millionths by which that clock is fast
     zeit_ms chaos_dauer = 8000;  ///< ms from a driver's chaos press to the press that ends it; 0 leaves that to others
     bool sofort = false;         ///< the cars need no start
 };
@@ -31,8 +32,8 @@ public:
     virtual void empfangen(std::string_view bytes) = 0;
     /// The program has opened its side of the line.
     virtual void verbunden() {}
-    /// The device's time goes on up to `jetzt` in ms of the caller's clock. The first call only sets that clock against
-    /// the device's; a clock that goes back is waited for.
+    /// The device's time goes on up to `jetzt` in ms of the caller's clock, at its own rate. The first call only sets
+    /// that clock against the device's; a clock that goes back is waited for.
     void weiter(zeit_ms jetzt);
 
     std::function<void(std::string_view)> senden;  ///< bytes to the program
@@ -59,7 +60,9 @@ protected:
 private:
     zeit_ms uhr_start_;
     zeit_ms uhr_;
-    zeit_ms zuletzt_ = 0;  ///< of the caller's clock
+    int gang_ppm_;
+    zeit_ms beginn_ = 0;     ///< of the caller's clock
+    zeit_ms vergangen_ = 0;  ///< on the device's clock since then
     bool gestellt_ = false;
 };
 

@@ -1,0 +1,186 @@
+#include "hardware/cu_uhr.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace tarvel {
+namespace {
+
+constexpr zeit_ms umlauf_ms = zeit_ms{1} << 32;
+constexpr zeit_ms sprung_ms = 2000;          // no clock is that far ahead of itself, or behind what it has told
+constexpr zeit_ms fenster_ms = 5000;         // the fastest passage of so long stands for all of them
+constexpr zeit_ms verwandt_ms = 10000;       // two of those that are so near are compared
+constexpr zeit_ms streuung_ms = 20;          // between passages that nothing holds up
+constexpr zeit_ms spaet_ms = 100;            // later than that is held up
+constexpr zeit_ms dauernd_spaet_ms = 20000;  // unless it always is
+constexpr zeit_ms grob_ab_ms = 10000;        // from here on two passages show how fast the clock runs
+constexpr zeit_ms genau_ab_ms = 60000;       // and from here on well
+constexpr double gang_abweichung = 0.01;     // of any clock at most
+constexpr double gang_unsicher = 0.0003;     // of one that has been watched for `genau_ab_ms`
+constexpr double gang_rauschen = 0.000002;   // not worth a change
+
+zeit_ms anteil(zeit_ms dauer, double teil) {
+    return std::llround(static_cast<double>(dauer) * teil);
+}
+
+std::size_t sensor_platz(const cu::ueberfahrt& u) {
+    return static_cast<std::size_t>(u.fahrzeug * (cu::sensoren_max + 1) + u.sensor);
+}
+
+}  // namespace
+
+zeit_ms cu_uhr::stand::an(const anker& a, zeit_ms maschine) const {
+    return a.stempel + anteil(maschine - a.maschine, gang);
+}
+
+zeit_ms cu_uhr::stand::lesen(zeit_ms maschine) const {
+    return std::max(an(fenster, maschine), an(vorher, maschine));
+}
+
+void cu_uhr::stand::gesehen(const cu::ueberfahrt& u, zeit_ms stempel) {
+    je_sensor.at(sensor_platz(u)) = stempel;
+    letzter = std::max(letzter, stempel);
+}
+
+zeit_ms cu_uhr::stand::durchgehend(std::uint32_t stempel) {
+    const zeit_ms ganz = stempel + umlauf;
+    if (bekannt && letzter - ganz > umlauf_ms / 2) {
+        umlauf += umlauf_ms;
+        return ganz + umlauf_ms;
+    }
+    // two cars at the moment of the overflow may be reported in the other order
+    return ganz - letzter > umlauf_ms / 2 && umlauf > 0 ? ganz - umlauf_ms : ganz;
+}
+
+bool cu_uhr::stand::zurueck(const cu::ueberfahrt& u, zeit_ms stempel, zeit_ms luecke) const {
+    const zeit_ms zuletzt = je_sensor.at(sensor_platz(u));
+    return zuletzt != 0 ? zuletzt - stempel > sprung_ms : letzter - stempel > sprung_ms + luecke;
+}
+
+zeit_ms cu_uhr::stand::spiel(zeit_ms maschine) const {
+    return sprung_ms + nachsicht + anteil(maschine - genommen, gang_abweichung);
+}
+
+bool cu_uhr::stand::passt(const eingang& neu, zeit_ms stempel) const {
+    const zeit_ms voraus = stempel - lesen(neu.maschine);
+    const zeit_ms grenze = spiel(neu.maschine);
+    return !zurueck(neu.ueberfahrt, stempel, neu.luecke) && voraus <= grenze && -voraus <= grenze + neu.luecke;
+}
+
+void cu_uhr::stand::beginnen(const eingang& neu, zeit_ms stempel) {
+    bekannt = true;
+    ausrichten = false;
+    erster = fenster = vorher = {neu.maschine, stempel};
+    beginn = fenster_seit = genommen = neu.maschine;
+    zu_spaet_seit = 0;
+    nachsicht = neu.luecke;
+}
+
+bool cu_uhr::stand::folgen(const eingang& neu, zeit_ms stempel) {
+    const zeit_ms still = neu.maschine - genommen;
+    const zeit_ms voraus = stempel - lesen(neu.maschine);
+    const bool zu_spaet = -voraus > spaet_ms + anteil(still, gang_bekannt ? gang_unsicher : gang_abweichung);
+    if (neu.luecke > 0 || zu_spaet) {
+        zu_spaet_seit = neu.luecke > 0 || zu_spaet_seit == 0 ? neu.maschine : zu_spaet_seit;
+        if (neu.maschine - zu_spaet_seit < dauernd_spaet_ms) {
+            return false;
+        }
+        beginnen(neu, stempel);
+        return true;
+    }
+    if (voraus > streuung_ms + anteil(still, gang_abweichung)) {  // what the clock was set by had been held up
+        beginnen(neu, stempel);
+        return true;
+    }
+    zu_spaet_seit = 0;
+    nachsicht = 0;
+    genommen = neu.maschine;
+    const anker dieser{neu.maschine, stempel};
+    if (neu.maschine - beginn < fenster_ms && stempel >= an(erster, neu.maschine)) {
+        erster = dieser;
+    }
+    if (neu.maschine - fenster_seit >= fenster_ms) {
+        vorher = neu.maschine - fenster.maschine < verwandt_ms ? fenster : dieser;
+        fenster = dieser;
+        fenster_seit = neu.maschine;
+    } else if (stempel >= an(fenster, neu.maschine)) {
+        fenster = dieser;
+    }
+    gang_bestimmen();
+    return true;
+}
+
+void cu_uhr::stand::gang_bestimmen() {
+    const zeit_ms jetzt = std::max(fenster.maschine, vorher.maschine);
+    const anker& bester = an(fenster, jetzt) >= an(vorher, jetzt) ? fenster : vorher;
+    const zeit_ms seither = bester.maschine - erster.maschine;
+    if (seither < (gang_bekannt ? genau_ab_ms : grob_ab_ms)) {
+        return;
+    }
+    gang_bekannt = seither >= genau_ab_ms;
+    const double neu = static_cast<double>(bester.stempel - erster.stempel) / static_cast<double>(seither);
+    if (std::abs(neu - gang) > gang_rauschen) {
+        gang = std::clamp(neu, 1 - gang_abweichung, 1 + gang_abweichung);
+    }
+}
+
+cu_uhr::befund cu_uhr::springen(const eingang& neu, zeit_ms stempel) {
+    davor_ = jetzt_;
+    sprung_ = stempel - neu.messzeit;
+    jetzt_.beginnen(neu, stempel);
+    jetzt_.je_sensor = {};
+    jetzt_.letzter = stempel;
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    return {stempel, sprung_, true};
+}
+
+std::optional<cu_uhr::befund> cu_uhr::sprung_zuruecknehmen(const eingang& neu) {
+    stand vorher = *davor_;
+    const zeit_ms stempel = vorher.durchgehend(neu.ueberfahrt.stempel);
+    if (!vorher.passt(neu, stempel)) {
+        return std::nullopt;
+    }
+    jetzt_ = vorher;
+    davor_.reset();
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    return befund{stempel, -sprung_, true};
+}
+
+cu_uhr::befund cu_uhr::ausrichten(const eingang& neu, zeit_ms stempel) {
+    davor_.reset();
+    jetzt_.je_sensor = {};
+    // One that has waited shows less of the clock than what is known of it already.
+    const bool im_takt =
+        jetzt_.bekannt && neu.luecke > 0 && std::abs(stempel - jetzt_.lesen(neu.maschine)) <= sprung_ms + neu.luecke;
+    jetzt_.ausrichten = false;
+    if (!im_takt) {
+        jetzt_.beginnen(neu, stempel);
+        jetzt_.letzter = stempel;
+    }
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    return im_takt ? befund{stempel, std::nullopt, false} : befund{stempel, stempel - neu.messzeit, true};
+}
+
+cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
+    stand weiter = jetzt_;
+    const zeit_ms stempel = weiter.durchgehend(neu.ueberfahrt.stempel);
+    if (davor_ && !weiter.passt(neu, stempel)) {
+        if (const std::optional<befund> zurueck = sprung_zuruecknehmen(neu)) {
+            return *zurueck;
+        }
+    }
+    jetzt_ = weiter;
+    if (!jetzt_.bekannt || jetzt_.ausrichten) {
+        return ausrichten(neu, stempel);
+    }
+    if (jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke) ||
+        stempel - jetzt_.lesen(neu.maschine) > jetzt_.spiel(neu.maschine)) {
+        return springen(neu, stempel);
+    }
+    davor_.reset();
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    return {stempel, std::nullopt, !neu.pause && jetzt_.folgen(neu, stempel)};
+}
+
+}  // namespace tarvel
