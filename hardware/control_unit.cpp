@@ -180,20 +180,21 @@ void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
-    const bool bestaetigt = std::exchange(letzter_status_, status) == status;
-    if (rennen_laeuft_ && !bestaetigt && luecke_ == 0) {
-        return;  // a status has no sum, and a damaged one must not stop the race; but after a silence any is news
-    }
+    // A status has no sum, and a damaged one must not stop the race: it takes two. After a silence any is news.
+    const bool wiederholt = std::exchange(letzter_status_, status) == status;
+    const bool bestaetigt = wiederholt || !rennen_laeuft_ || luecke_ > 0;
     if (!um_.rennen.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
         um_.rennen.tankfunktion(status.tankmodus != 0);
     }
-    if (um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
+    if (bestaetigt && um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
         for (int bit = 0; bit < spuren_max - 1; ++bit) {
             cu_boxenstatus_[bit + 2] = (status.boxenbits >> bit & 1) != 0;
         }
         cu_tank_auswerten(status);
     }
-    startzustand_auswerten(status.startzustand);
+    if (bestaetigt || !status.startzustand) {
+        startzustand_auswerten(status.startzustand);
+    }
 }
 
 void control_unit::cu_tank_auswerten(const cu::status& status) {
