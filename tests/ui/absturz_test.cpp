@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QTest>
 
@@ -14,14 +15,17 @@ namespace {
 
 class Absturz : public testing::Test {
 protected:
-    /// Lets the writer run this long once it writes, and kills it wherever it is then.
-    void schreiben_und_toeten(int ms) {
+    /// Lets the writer run this long once it writes, and kills it wherever it is then, or as soon as it has begun a
+    /// file.
+    void schreiben_und_toeten(int ms, bool im_schreiben) {
         schreibreste_loeschen(ablage);  // left over from the writer before
         QProcess schreiber;
         schreiber.start(TARVEL_DAUERSCHREIBER, {QString::fromStdU16String(maschine.ordner().u16string())});
         ASSERT_TRUE(schreiber.waitForStarted());
         ASSERT_TRUE(QTest::qWaitFor([&] { return maschine.datei_da(test::dauer_datei) && reste() > 0; }));
         QTest::qSleep(ms);
+        for (const QDeadlineTimer frist(2000); im_schreiben && reste() == 0 && !frist.hasExpired();) {
+        }
         ASSERT_EQ(schreiber.state(), QProcess::Running) << "it could not write";
         schreiber.kill();
         ASSERT_TRUE(schreiber.waitForFinished());
@@ -43,7 +47,7 @@ TEST_F(Absturz, MittenImSchreibenBleibtDieAlteOderDieNeueDatei) {
     constexpr std::size_t alle_zeilen = 30000;
     int angefangene = 0;
     for (int mal = 0; mal < male; ++mal) {
-        ASSERT_NO_FATAL_FAILURE(schreiben_und_toeten(1 + mal * 7 % male));
+        ASSERT_NO_FATAL_FAILURE(schreiben_und_toeten(1 + mal * 7 % male, mal % 2 == 0));
         const auto zeilen = ablage.zeilen_lesen(test::dauer_datei, alle_zeilen);
         ASSERT_TRUE(zeilen);
         ASSERT_TRUE(*zeilen == test::dauer_zeilen(false) || *zeilen == test::dauer_zeilen(true))

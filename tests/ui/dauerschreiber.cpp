@@ -2,6 +2,7 @@
 
 #include "tests/ui/dauerschreiber.h"
 
+#include <array>
 #include <filesystem>
 
 #include "core/dateien.h"
@@ -13,9 +14,9 @@ int main(int argc, char** argv) {
     }
     const tarvel::qt::QtDateisystem system;
     const tarvel::dateien ablage{std::filesystem::path(argv[1]), system};
-    for (bool zweiter = false;
-         ablage.zeilen_schreiben(tarvel::test::dauer_datei, tarvel::test::dauer_zeilen(zweiter));) {
-        zweiter = !zweiter;
+    const std::array inhalte{tarvel::test::dauer_zeilen(false), tarvel::test::dauer_zeilen(true)};
+    for (std::size_t nr = 0; ablage.zeilen_schreiben(tarvel::test::dauer_datei, inhalte.at(nr));) {
+        nr = 1 - nr;
     }
     return 1;
 }
