@@ -30,9 +30,9 @@ felder zerlegen(std::string_view zeile, std::string_view trenner) {
 /// Two, two and three digits with a character between them: minutes, seconds, thousandths. Nothing else is a time.
 std::optional<zeit_ms> zeit_lesen(std::string_view text, trennzeichen_tabelle& trennzeichen) {
     const auto zahl = [](std::string_view ziffern) {
-        int wert = -1;
+        unsigned wert = 0;  // takes no sign
         const auto [ende, fehler] = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
-        return fehler == std::errc() && ende == ziffern.data() + ziffern.size() ? wert : -1;
+        return fehler == std::errc() && ende == ziffern.data() + ziffern.size() ? static_cast<int>(wert) : -1;
     };
     if (laenge(text) != 9) {
         return std::nullopt;
@@ -71,7 +71,7 @@ private:
         }
         r_.trennzeichen[2] = links(rechts(z_[0], uhrzeit_laenge + 1), 1);
         const felder teile = zerlegen(z_[0], trenner());
-        if (teile.size() < 3) {
+        if (teile.size() < 3 || laenge(teile.back()) != uhrzeit_laenge) {
             return false;
         }
         rennergebnis& e = r_.ergebnis;
@@ -155,6 +155,9 @@ private:
             }
             s.laenge = laengen[i][1];
             std::copy(sektoren[i].begin() + 1, sektoren[i].begin() + 4, s.sektorlaenge.begin());
+            for (std::size_t sektor = 0; sektor < sektoren_max; ++sektor) {
+                r_.ergebnis.gemessen.at(sektor) = r_.ergebnis.gemessen.at(sektor) || !s.sektorlaenge.at(sektor).empty();
+            }
             s.restmeter = zahl_lesen(rest[i][1]);
             s.meter = zahl_lesen(meter[i][1]);
         }
@@ -192,7 +195,6 @@ private:
 
     void sektoren_lesen(const std::array<std::string, felder_je_spur>& block, spur& s, std::size_t runde) {
         for (std::size_t i = 0; i < sektoren_max; ++i) {
-            r_.ergebnis.gemessen.at(i) = r_.ergebnis.gemessen.at(i) || !s.sektorlaenge.at(i).empty();
             if (runde < s.runden.size()) {
                 s.runden[runde].sektoren.at(i) = zeit_lesen(block.at(i + 1), r_.trennzeichen).value_or(0);
             }
