@@ -238,7 +238,8 @@ void chaos::durchfahrten_merken() {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (ereignis.aktiv && !zustand.ch_durchfahrt) {
             zustand.ch_durchfahrt = true;
-            zustand.ch_durchfahrt_zeit = um_.hat_eigenen_stempel(ereignis) ? ereignis.ereignis_zeit : jetzt;
+            const bool selbst_gestempelt = ereignis.ereignis_zeit != um_.ereignisse.messzeit;  // else as the race stood
+            zustand.ch_durchfahrt_zeit = selbst_gestempelt ? std::min(ereignis.ereignis_zeit, jetzt) : jetzt;
         }
     }
 }

@@ -27,8 +27,14 @@ void renn_zustand::pausen_nachmessen(double faktor) {
         gemessen = std::llround(static_cast<double>(gemessen) * faktor);
     };
     messen(pause_abzug);
-    for (spur_zustand& s : spur) {
+    messen(pause.dauer);
+    for (const int nummer : alle_spuren) {
+        spur_zustand& s = spur[nummer];
         messen(s.pause_abzug);
+        const zeit_ms vorher = s.pause_im_stempel;
+        messen(s.pause_im_stempel);
+        s.gezaehlt_bei += s.pause_im_stempel - vorher;
+        konto.letzten_stempel_verschieben(nummer, s.pause_im_stempel - vorher);
     }
 }
 

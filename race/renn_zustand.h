@@ -29,6 +29,7 @@ struct spur_zustand {
     bool tank_halt = false;          ///< held for a moment after a full tank
     int sperrzaehler = 0;            ///< ticks by which the lock after a crossing is drawn out on the tank contact
     bool strom_aus = false;          ///< home, out or in a penalty: the track power is cut
+    zeit_ms pause_im_stempel = 0;    ///< `gezaehlt_bei` has been moved behind a pause that was so long
     bool ch_durchfahrt = false;      ///< crossed the sensor while the pause was starting
     zeit_ms ch_durchfahrt_zeit = 0;  ///< stamp of that
     zeit_ms ch_strafe_rest = 0;      ///< power penalty of a pause still to serve

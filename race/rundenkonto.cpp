@@ -61,6 +61,13 @@ void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
     ++spur_[spur].runden;
 }
 
+void rundenkonto::letzten_stempel_verschieben(int spur, zeit_ms um) {
+    const int zeile = runden(spur);
+    if (zeile >= 0) {
+        speicher_.setzen(spur, zeile, rundenzeit(spur, zeile), stempel(spur, zeile) + um, pause(spur, zeile));
+    }
+}
+
 bool rundenkonto::verschmelzen(int spur, int runde) {
     spur_konto& konto = spur_[spur];
     if (runde < 1 || runde > konto.runden) {

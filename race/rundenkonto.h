@@ -50,6 +50,8 @@ public:
     void fortsetzen(int spur, bool unterwegs);
     /// Lane i takes the laps of lane `herkunft[i]`; 0 leaves it as it is.
     void fahrer_umsetzen(const spuren<int>& herkunft);
+    /// The crossing that was counted last was `um` ms later than it was stamped.
+    void letzten_stempel_verschieben(int spur, zeit_ms um);
     /// All stamps move by `um` ms.
     void stempel_verschieben(zeit_ms um) { speicher_.stempel_verschieben(um); }
 

@@ -57,6 +57,8 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     zustand.sensor_sperre = sensorsperre::eben_gezaehlt;
     zustand.gezaehlt_bei = stempel;
+    const zeit_ms pause = um_.zustand.pause.dauer;
+    zustand.pause_im_stempel = stempel == zustand.ch_durchfahrt_zeit + pause ? pause : 0;
     um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
     rundenkonto& konto = um_.zustand.konto;
     const bool voll = konto.runden(spur) == runden_max;

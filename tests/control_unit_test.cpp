@@ -1,3 +1,4 @@
+#include <cmath>
 #include <random>
 
 #include "tests/control_unit_probe.h"
@@ -61,6 +62,38 @@ TEST_F(ControlUnitRennen, NachEinemNeubeginnStimmenDieRundenAllerWagen) {
         EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, runde), runde == 2 ? 8001 : 8006);
         EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, runde), runde == 2 ? 8005 : 8003);
     }
+}
+
+TEST_F(ControlUnitRennen, EineUeberfahrtZuBeginnDerPauseHatIhrenStempelUndDiePauseDieUhrDesGeraets) {
+    t.p.einst.sensor_timeout = 2s;
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    const zeit_ms beginn = t.maschine.jetzt();
+    constexpr double gang = 0.995;
+    const auto stempel = [&] {
+        return static_cast<std::uint32_t>(500000 +
+                                          std::llround(static_cast<double>(t.maschine.jetzt() - beginn) * gang));
+    };
+    const std::uint32_t erste = stempel();
+    ueberfahrt(1, erste);
+    t.maschine.laufen(8000);
+    const std::uint32_t vor_der_pause = stempel();
+    t.maschine.laufen(4);
+    const zeit_ms angehalten = t.maschine.jetzt();
+    t.taste("c");
+    ueberfahrt(1, vor_der_pause);
+    status(true);
+    t.maschine.laufen(300000);
+    status(false);
+    const auto pause = static_cast<double>(t.maschine.jetzt() - angehalten) * gang;
+    ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.maschine.laufen(1000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), vor_der_pause - erste);
+    t.maschine.laufen(3000);
+    ueberfahrt(2, stempel());  // shows how fast the clock is
+    t.maschine.laufen(4000);
+    const std::uint32_t dritte = stempel();
+    ueberfahrt(1, dritte);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)), dritte - vor_der_pause - pause, 20);
 }
 
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
