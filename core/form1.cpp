@@ -102,7 +102,7 @@ void form1::rennart_geaendert() {
 }
 
 void form1::spur_geaendert(std::size_t index) {
-    const bool an = spur[index].gesetzt() && spur[index].aktiviert();
+    const bool an = faehrt(index);
     lspur[index].aktiviert(an);
     fahrer[index].aktiviert(an);
     auto_[index].aktiviert(an);
@@ -123,7 +123,7 @@ renneinrichtung form1::einrichtung() const {
     e.massstab = massstab.text();
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
-        e.bahn[nummer] = {spur[i].gesetzt() && spur[i].aktiviert(), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
+        e.bahn[nummer] = {faehrt(i), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
     }
     return e;
 }
@@ -150,7 +150,7 @@ std::vector<feld*> form1::felder_ohne_zahl() {
         alle.push_back(&stddauer);
     }
     for (std::size_t i = 0; i < lspur.size(); ++i) {
-        if (spur[i].gesetzt()) {
+        if (faehrt(i)) {
             alle.push_back(&lspur[i]);
         }
     }
@@ -189,11 +189,11 @@ void form1::unlesbares_ersetzen() {
 bool form1::fahrer_einmalig() {
     for (std::size_t i = 0; i < fahrer.size(); ++i) {
         const std::string& name = fahrer[i].text();
-        if (!spur[i].gesetzt() || name.empty() || name == um_.txt.kein_fahrer || um_.txt.ist_freier_platz(name)) {
+        if (!faehrt(i) || name.empty() || name == um_.txt.kein_fahrer || um_.txt.ist_freier_platz(name)) {
             continue;
         }
         for (std::size_t j = i + 1; j < fahrer.size(); ++j) {
-            if (spur[j].gesetzt() && fahrer[j].text() == name) {
+            if (faehrt(j) && fahrer[j].text() == name) {
                 const bool gewollt = um_.meldungen.fragen(name + " " + wort_zwei_spuren_, um_.txt.titel[0]);
                 if (!gewollt) {
                     fahrer[j].fokus_setzen();

@@ -180,6 +180,8 @@ private:
 
     /// Numbers that are none and letters that no file can hold are replaced, and the operator hears of it.
     void unlesbares_ersetzen();
+    /// The lane is ticked, and not lent to another one. Lanes count from 0.
+    bool faehrt(std::size_t i) const { return spur[i].gesetzt() && spur[i].aktiviert(); }
     std::vector<feld*> felder_ohne_zahl();
     /// Nobody drives on two lanes, or the operator wants it so.
     bool fahrer_einmalig();

@@ -169,6 +169,13 @@ void at2560::rennstart() {
     at_senden(profil_.at_zeit_anfordern);
 }
 
+void at2560::rennen_fortgesetzt() {
+    if (at_zeitversatz_ == 0) {  // it has come back since, and knows of no race
+        rennstart();
+    }
+    im_rennen_ = true;
+}
+
 void at2560::schalten(const schaltung& befehl) {
     at_senden(wort_fuer(profil_, befehl));
 }
@@ -243,8 +250,12 @@ void at2560::zeile_melden(int zeile, zeit_ms stempel) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
     const ereignis_art nummer = at_art(zeile);
     const std::string& name = profil_.at_ereignis.at(static_cast<std::size_t>(zeile));
-    ereignisse[nummer].aktiv = true;
-    ereignisse[nummer].ereignis_zeit = stempel;
+    if (std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer) != art::rundenzaehlung.end()) {
+        ereignisse.ueberfahrt_melden(nummer, stempel);
+    } else {
+        ereignisse[nummer].aktiv = true;
+        ereignisse[nummer].ereignis_zeit = stempel;
+    }
     const bool persoenlich = nummer >= erster_chaostaster && name != profil_.at_ereignis.at(vor_dem_chaos);
     if (persoenlich) {
         ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;

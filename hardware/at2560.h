@@ -67,7 +67,7 @@ public:
     void rennfenster_offen() override;
     void rennen_bereit() override;
     void rennstart() override;
-    void rennen_fortgesetzt() override { im_rennen_ = true; }
+    void rennen_fortgesetzt() override;
     void rennende() override { im_rennen_ = false; }
     void schalten(const schaltung& befehl) override;
 

@@ -71,6 +71,7 @@ void control_unit::wieder_aufnehmen() {
         return;
     }
     geoeffnet_ = uhr_.jetzt();
+    cu_startzustand_ = start::unbekannt;  // what it has done meanwhile is no news
     if (im_rennfenster_ && !rennen_laeuft_) {
         fuer_rennen_einrichten();
     } else {
@@ -148,8 +149,7 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
         geraeteuhr_.aufnehmen({ueberfahrt, uhr_.jetzt(), um_.zeit.messzeit_lesen(), luecke_, um_.rennen.pause()});
     uhr_nachstellen(befund);
     if (const ereignis_art nummer = cu_art(ueberfahrt.sensor, ueberfahrt.fahrzeug); nummer != 0) {
-        um_.ereignisse[nummer].aktiv = true;
-        um_.ereignisse[nummer].ereignis_zeit = befund.stempel;
+        um_.ereignisse.ueberfahrt_melden(nummer, befund.stempel);
     }
 }
 

@@ -25,7 +25,7 @@ zeit_ms anteil(zeit_ms dauer, double teil) {
 }
 
 std::size_t sensor_platz(const cu::ueberfahrt& u) {
-    return static_cast<std::size_t>(u.fahrzeug * (cu::sensoren_max + 1) + u.sensor);
+    return static_cast<std::size_t>(u.fahrzeug) * (cu::sensoren_max + 1) + static_cast<std::size_t>(u.sensor);
 }
 
 }  // namespace

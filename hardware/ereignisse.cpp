@@ -14,9 +14,21 @@ void ereignis_tabelle::ereignis_melden(ereignis_art nummer, zeit_ms stempel) {
     }
 }
 
+void ereignis_tabelle::ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) {
+    constexpr zeit_ms uhren_uneinig_ms = 100;  // a car that is let go on the line itself is not one from the pause
+    if (pause_ab && stempel < gilt_ab - uhren_uneinig_ms) {
+        if (stempel >= *pause_ab) {
+            return;
+        }
+        stempel += gilt_ab - *pause_ab;
+    }
+    (*this)[nummer].ereignis_zeit = stempel;
+    (*this)[nummer].aktiv = true;
+}
+
 void ereignis_tabelle::ruhe_herstellen() {
     constexpr std::size_t zeilen = 42;
-    gilt_ab = std::numeric_limits<zeit_ms>::min();  // the next race may go by another clock
+    gelten_lassen(std::numeric_limits<zeit_ms>::min());  // the next race may go by another clock
     for (ereignis_zeile& zeile : std::span(zeilen_).first(zeilen)) {
         zeile.aktiv = false;
         zeile.pegel = zeile.pegel_ruhe;
@@ -26,6 +38,9 @@ void ereignis_tabelle::ruhe_herstellen() {
 void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     messzeit += um;
     gilt_ab += gilt_ab == std::numeric_limits<zeit_ms>::min() ? 0 : um;
+    if (pause_ab) {
+        *pause_ab += um;
+    }
     for (ereignis_zeile& zeile : zeilen_) {
         zeile.ereignis_zeit += um;
     }

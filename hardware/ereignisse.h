@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <span>
 
 #include "core/spuren.h"
@@ -53,6 +54,14 @@ public:
     void ereignis_melden(ereignis_art nummer);
     /// Delivery of something that happened at `stempel`. Before `gilt_ab` it is forgotten like all that waited then.
     void ereignis_melden(ereignis_art nummer, zeit_ms stempel);
+    /// Delivery of a passage by a device that may tell it late. One from before the last pause comes as much later as
+    /// the pause was long, so that the pause comes off its lap as off any other; one from within it is forgotten.
+    void ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel);
+    /// The race has started, or gone on after the pause that began at `pause`.
+    void gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause = {}) {
+        gilt_ab = ab;
+        pause_ab = pause;
+    }
     /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
     void ruhe_herstellen();
     /// All stamps move by `um` ms.
@@ -67,8 +76,9 @@ public:
     zeit_ms messzeit = 0;  ///< stamp of the last race tick
     /// The race has started, or gone on after a pause: what comes late from before is no crossing.
     zeit_ms gilt_ab = std::numeric_limits<zeit_ms>::min();
-    int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on
-    spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
+    std::optional<zeit_ms> pause_ab;  ///< and that pause had begun here
+    int chaos_at_zaehler = 0;         ///< held up by a unit that repeats its chaos switch while it is on
+    spuren<bool> chaos_fahrer{};      ///< whose personal chaos button was pressed
 
 private:
     std::array<ereignis_zeile, zeilen_anzahl> zeilen_{};

@@ -151,7 +151,7 @@ void messgeraete::anzeigetakt_tick() {
 }
 
 bool messgeraete::trotzdem_starten() {
-    if (!anzeigetakt_->laeuft() || !getrennt() || std::exchange(gewarnt_, true)) {
+    if (!anzeigetakt_->laeuft() || getrennt_seit_ < alarm_nach || !getrennt() || std::exchange(gewarnt_, true)) {
         return true;
     }
     return um_.dienste.meldungen.fragen(
@@ -160,7 +160,6 @@ bool messgeraete::trotzdem_starten() {
 }
 
 void messgeraete::verbindung_anzeigen() {
-    constexpr int alarm_nach = 2;  // half seconds: a line may falter
     const bool fehlt = getrennt();
     gewarnt_ = gewarnt_ && fehlt;
     um_.form1.messgeraet_getrennt(fehlt);

@@ -64,8 +64,9 @@ private:
     geraete_im_rennen rennverbindung_;
     std::unique_ptr<plattform::zeitgeber> anzeigetakt_;  ///< keeps the state of the device on the main window
     std::vector<eintrag> alle_;
-    int getrennt_seit_ = 0;  ///< ticks of `anzeigetakt_`
-    bool gewarnt_ = false;   ///< the operator has been asked, or told, that the device is gone
+    static constexpr int alarm_nach = 2;  ///< half seconds: a line may falter
+    int getrennt_seit_ = 0;               ///< ticks of `anzeigetakt_`
+    bool gewarnt_ = false;                ///< the operator has been asked, or told, that the device is gone
 };
 
 }  // namespace tarvel

@@ -293,7 +293,7 @@ void chaos::chaosende_routine() {
     const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
     um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
-    um_.ereignisse.gilt_ab = ende;
+    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
     zustand.unterbrechung_abziehen(zustand.pause.dauer);

@@ -135,7 +135,8 @@ void fortsetzung::weiterfahren() {
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.fortsetzung_wartet = false;
     um_.ereignisse.messzeit = fortsetz_zeit;
-    um_.ereignisse.gilt_ab = fortsetz_zeit;
+    um_.ereignisse.gelten_lassen(fortsetz_zeit);
+    um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     for (const int spur : alle_spuren) {

@@ -156,7 +156,8 @@ void rennablauf::rennen_starten(zeit_ms stempel) {
     zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
     um_.ereignisse.messzeit = zustand.start_zeit;
-    um_.ereignisse.gilt_ab = std::min(stempel, um_.zeit.messzeit_lesen());  // a start may be stamped a little ahead
+    um_.ereignisse.gelten_lassen(std::min(stempel, um_.zeit.messzeit_lesen()));  // it may be stamped a little ahead
+    um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.ereignisse[art::ampel_gruen].aktiv = false;
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
     um_.zeitgeber.rennen_an();

@@ -9,7 +9,8 @@ namespace tarvel {
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
     : um_(um), t_(t), belegung_(belegung), tastatur_(um.ereignisse, belegung, *this) {
     um_.bahn.Command1.bei_klick = [this] {
-        if (!darf_starten || darf_starten()) {
+        // a device may have started the race itself while it was asked
+        if (!darf_starten || (darf_starten() && um_.bahn.Command1.bedienbar() && um_.zustand.rennen_beendet)) {
             t_.ablauf.rennstart_vorbereiten();
         }
     };

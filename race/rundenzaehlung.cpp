@@ -67,7 +67,9 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
         t_.sektor.letzten_sektor_speichern(spur, konto.laufende(spur), stempel, zustand.pause_abzug);
         konto.zaehlen(spur, zeit, stempel, std::exchange(zustand.pause_abzug, 0));
     }
-    if (um_.zeitgeber.nachlauftimer1->laeuft()) {  // also with the account full: the car can still come home
+    // Told late, a crossing from before the end is no finish. Also with the account full the car can still come home.
+    constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment earlier
+    if (um_.zeitgeber.nachlauftimer1->laeuft() && stempel >= um_.zustand.renn_ende_stempel - takt_ms) {
         t_.ende.spur_ziel_setzen(spur);
     }
     if (!voll && konto.runden(spur) >= 0) {  // laps taken off before the first crossing come first

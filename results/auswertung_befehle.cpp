@@ -110,7 +110,8 @@ void auswertung::meter_eingabe(bool an) {
 }
 
 bool auswertung::meter_pruefen() {
-    for (const rennergebnis::spur& s : ergebnis().spuren) {
+    const auto stand = ergebnis().spuren;  // a late crossing makes the result anew behind a message
+    for (const rennergebnis::spur& s : stand) {
         feld& eingabe = meter.at(feld_index(s.nummer));
         std::string text = eingabe.text();
         werte_pruefen2(text);

@@ -17,7 +17,7 @@ namespace {
 constexpr std::array<int, 4> stufen{200, 400, 800, 1600};  // no window shows a photograph larger
 constexpr int kopien_max_kb = 96 * 1024;
 constexpr std::uintmax_t kleine_datei = std::uintmax_t{128} * 1024;
-constexpr qint64 kleines_bild_px = 512 * 1024;  // a few milliseconds
+constexpr qint64 kleines_bild_px = qint64{512} * 1024;  // a few milliseconds
 
 QString als_qt(const fs::path& datei) {
     return QString::fromStdU16String(datei.u16string());
