@@ -115,6 +115,22 @@ schema_ablage wechselschema_speichern(const dateien& ablage, const std::vector<w
     return ablage.zeilen_schreiben(schema_datei, neu) ? schema_ablage::gespeichert : schema_ablage::nicht_geschrieben;
 }
 
+wechsel_folge wechsel_folge_ergaenzt(const wechsel_folge& folge) {
+    wechsel_folge neu{};
+    std::size_t platz = 1;
+    const auto anhaengen = [&](int wert) {
+        const bool moeglich = wert >= 1 && wert <= wechsel_pause;
+        if (moeglich && std::find(neu.begin(), neu.end(), wert) == neu.end()) {
+            neu.at(platz++) = wert;
+        }
+    };
+    std::for_each(folge.begin(), folge.end(), anhaengen);
+    for (int wert = 1; wert <= wechsel_pause; ++wert) {
+        anhaengen(wert);
+    }
+    return neu;
+}
+
 spuren<int> wechsel_nachfolger(const wechsel_folge& folge, const spuren<bool>& aktiv) {
     std::vector<int> kreis;
     for (const int wert : folge) {  // a lane that stands there twice would lose a driver
@@ -135,6 +151,21 @@ spuren<int> wechsel_nachfolger(const wechsel_folge& folge, const spuren<bool>& a
             }
         }
     }
+    return von;
+}
+
+wechsel_folge wechsel_ziel(const wechsel_folge& folge, const spuren<bool>& aktiv) {
+    wechsel_folge von{};
+    int erster = 0;
+    int voriger = 0;
+    for (const int wert : wechsel_folge_ergaenzt(folge)) {
+        if (wert == wechsel_pause || (wert != 0 && aktiv[wert])) {
+            von.at(static_cast<std::size_t>(wert)) = voriger;
+            erster = erster == 0 ? wert : erster;
+            voriger = wert;
+        }
+    }
+    von.at(static_cast<std::size_t>(erster)) = voriger;
     return von;
 }
 

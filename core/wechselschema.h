@@ -41,8 +41,15 @@ schema_ablage wechselschema_speichern(const dateien& ablage, const std::vector<w
 /// As it stands in the choice.
 std::string wechselschema_anzeige(std::string_view name, const wechsel_folge& folge);
 
+/// Every lane once and the pause: of a mark that stands there twice the first counts, what is missing follows in order.
+wechsel_folge wechsel_folge_ergaenzt(const wechsel_folge& folge);
+
 /// For each lane the one that its next driver comes from, 0 for a lane that is not `aktiv`: unused lanes are passed
 /// over.
 spuren<int> wechsel_nachfolger(const wechsel_folge& folge, const spuren<bool>& aktiv);
+
+/// The same where drivers wait: index is an active lane or `wechsel_pause`, its value where the next driver comes from,
+/// which may be `wechsel_pause`. 0 for other lanes.
+wechsel_folge wechsel_ziel(const wechsel_folge& folge, const spuren<bool>& aktiv);
 
 }  // namespace tarvel
