@@ -186,6 +186,7 @@ felder schema_gleichmaessig(const planansatz& a) {
         ++c;
     }
     std::vector<int> stelle;
+    stelle.reserve(static_cast<std::size_t>(a.anzahl()));
     for (int wer = 0; wer < a.anzahl(); ++wer) {
         stelle.push_back(c * (wer / teiler) % abstand + abstand * (wer % teiler));
     }
