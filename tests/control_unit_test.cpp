@@ -96,6 +96,37 @@ TEST_F(ControlUnitRennen, EineUeberfahrtZuBeginnDerPauseHatIhrenStempelUndDiePau
     EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)), dritte - vor_der_pause - pause, 20);
 }
 
+TEST_F(ControlUnitRennen, WasNachDerPauseErstErzaehltWirdZaehltWieEsWar) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    const zeit_ms beginn = t.maschine.jetzt();
+    const auto stempel = [&] { return static_cast<std::uint32_t>(500000 + t.maschine.jetzt() - beginn); };
+    const std::uint32_t erste = stempel();
+    ueberfahrt(1, erste);
+    ueberfahrt(2, erste);
+    t.maschine.laufen(8000);
+    const std::uint32_t vor_der_pause = stempel();
+    t.maschine.laufen(100);
+    t.taste("c");
+    status(true);
+    const zeit_ms angehalten = t.maschine.jetzt();
+    t.maschine.laufen(10000);
+    const std::uint32_t in_der_pause = stempel();
+    t.maschine.laufen(10000);
+    status(false);
+    ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    const zeit_ms pause = t.maschine.jetzt() - angehalten;
+    t.maschine.laufen(50);
+    ueberfahrt(1, vor_der_pause);
+    ueberfahrt(2, in_der_pause);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), vor_der_pause - erste);
+    EXPECT_EQ(t.runden(2), 0);
+    t.maschine.laufen(8000);
+    const std::uint32_t dritte = stempel();
+    ueberfahrt(1, dritte);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)),
+                static_cast<double>(dritte - vor_der_pause - pause), 20);
+}
+
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     t.p.form1.t_aktiv.gesetzt(true);
     t.p.einst.sound_an = true;
