@@ -3,16 +3,13 @@
 #include <filesystem>
 #include <string_view>
 
+#include "platform/schnittstelle.h"
+
 namespace tarvel::plattform {
 
 /// What the standard library does not tell or do with files.
-class dateisystem {
+class dateisystem : public schnittstelle {
 public:
-    dateisystem() = default;
-    dateisystem(const dateisystem&) = delete;
-    dateisystem& operator=(const dateisystem&) = delete;
-    virtual ~dateisystem() = default;
-
     /// Writes a file that is not there yet, and returns once the disk has it. Nothing of that name is followed or
     /// written over. False leaves no file behind.
     virtual bool neue_datei(const std::filesystem::path& pfad, std::string_view inhalt) const = 0;
