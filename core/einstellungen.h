@@ -138,6 +138,10 @@ struct einstellungen {
 
     /// The timing hardware has to be started anew after a change from `andere`: another device, or one that is reached
     /// by another way.
+    /// Its sensor serves another lane: nobody drives on it.
+    bool spur_verliehen(int spur) const {
+        return (spur == 3 || spur == 4) && (rc.rc_ziel_sensor34 || rc.rc_tank_sensor34);
+    }
     bool hardware_anders_als(const einstellungen& andere) const;
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();

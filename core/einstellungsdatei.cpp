@@ -30,7 +30,6 @@ bool einstellungsdatei::version_pruefen(std::string_view kopf, version_melden me
 void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
     zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
     rest_.clear();
-    wettkampfdatei_ = wettkampfdatei;
     fehler_laden_ = true;
     const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
     std::size_t i = wettkampfdatei ? 1 : 0;
@@ -85,9 +84,6 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
         if (tabelle[platz(z)].laden) {
             tabelle[platz(z)].laden(um_.ziel, zeile(z));
         }
-        if (z == z::ende_wettkampf && wettkampfdatei_) {
-            wettkampf_uebergeben(um_.ziel.haupt.einrichtung(), um_.param);
-        }
         if (z == z::vor_den_bestzeiten && bestzeiten != nullptr) {
             bestzeiten->bestzeiten_laden();
         }
@@ -97,7 +93,7 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
     wechselschema_uebernehmen();
     cu_spuren_uebernehmen();
     einst.folgen_ableiten();
-    um_.ziel.haupt.spuren_nach_laden();
+    um_.ansicht.einrichtung_zeigen();
 }
 
 void einstellungsdatei::hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_start) {
@@ -140,7 +136,6 @@ void einstellungsdatei::cu_spuren_uebernehmen() {
 
 void einstellungsdatei::einstellungen_standard_setzen() {
     zeilen_.clear();
-    wettkampfdatei_ = false;
     for (const einstellungszeile& zeile : einstellungstabelle()) {
         if (zeile.standard_setzen) {
             zeile.standard_setzen(um_.ziel);
@@ -151,6 +146,7 @@ void einstellungsdatei::einstellungen_standard_setzen() {
 }
 
 std::vector<std::string> einstellungsdatei::schreiben() const {
+    um_.ansicht.einrichtung_lesen();
     std::vector<std::string> inhalt;
     for (const einstellungszeile& zeile : einstellungstabelle()) {
         inhalt.push_back(zeile.schreiben(um_.ziel));

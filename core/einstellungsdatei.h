@@ -8,7 +8,6 @@
 #include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungszeile.h"
-#include "core/renn_parameter.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
@@ -22,7 +21,7 @@ public:
     struct umgebung {
         const dateien& ablage;
         einstellungs_ziel ziel;
-        renn_parameter& param;
+        einrichtungsansicht& ansicht;
         plattform::meldungen& meldungen;
     };
 
@@ -67,7 +66,6 @@ private:
     einstellungs_zeilen zeilen_;
     std::vector<std::string> rest_;
     bool fehler_laden_ = false;
-    bool wettkampfdatei_ = false;  ///< what was read last
 };
 
 }  // namespace tarvel

@@ -10,6 +10,7 @@ namespace {
 using namespace pruefung;
 using ziel = einstellungs_ziel;
 using e = einstellungen;
+using re = renneinrichtung;
 using iow = iow_anschluss;
 using rc = race_control_einstellungen;
 using rc_anschluss = race_control_anschluss;
@@ -35,16 +36,6 @@ public:
 private:
     std::vector<einstellungszeile> zeilen_;
 };
-
-template <class T>
-zugriff<steuerelement> haupt(T form1::*feld) {
-    return [feld](const ziel& a) -> steuerelement& { return a.haupt.*feld; };
-}
-
-template <class T, std::size_t N>
-zugriff<steuerelement> haupt(std::array<T, N> form1::*feld, std::size_t index) {
-    return [feld, index](const ziel& a) -> steuerelement& { return (a.haupt.*feld).at(index); };
-}
 
 std::string sound_standard(int nummer) {
     struct reihe {
@@ -90,15 +81,14 @@ einstellungszeile sound(int nummer, std::size_t mindestens) {
 
 /// Title, four values and a blank line of a lane. The default names are those of the language.
 void fahrer_block(tabelle& t, int spur) {
-    const std::size_t i = feld_index(spur);
-    einstellungszeile fahrer = zeile::hauptfeld(haupt(&form1::fahrer, i), "");
+    using bahn = renneinrichtung::spur;
+    einstellungszeile fahrer = zeile::eingabe(einrichtung(spur, &bahn::fahrer), "");
     fahrer.standard_aus_texten = [spur](const texte& txt) { return txt.fahrer_standard[spur]; };
-    einstellungszeile fahrzeug = zeile::hauptfeld(haupt(&form1::auto_, i), "");
+    einstellungszeile fahrzeug = zeile::eingabe(einrichtung(spur, &bahn::fahrzeug), "");
     fahrzeug.standard_aus_texten = [](const texte& txt) { return txt.standardfahrzeug_text; };
     t << zeile::titel("[Fahrer" + std::to_string(spur) + "]", true)
-      << zeile::kasten([i](const ziel& a) -> haken& { return a.haupt.spur.at(i); }, spur <= 4, false,
-                       nur_eines_von({"0", "1"}))
-      << zeile::zahlenfeld(haupt(&form1::lspur, i), "25", ablehnen_ausser(1, 10000)) << std::move(fahrer)
+      << zeile::kasten(einrichtung(spur, &bahn::dabei), spur <= 4, false, nur_eines_von({"0", "1"}))
+      << zeile::zahleneingabe(einrichtung(spur, &bahn::laenge), "25", ablehnen_ausser(1, 10000)) << std::move(fahrer)
       << std::move(fahrzeug) << zeile::leer();
 }
 
@@ -106,10 +96,9 @@ void fahrer_block(tabelle& t, int spur) {
 einstellungszeile rennart() {
     return {nur_eines_von({"2", "3"}),
             [](const ziel& a, const std::string& text) {
-                a.haupt.rennart.text(zahl_lesen(text) == 3 ? a.txt.text_runden : a.txt.text_zeit);
-                a.haupt.rennart_geaendert();
+                a.einrichtung.art = zahl_lesen(text) == 3 ? renn_art::runden : renn_art::zeit;
             },
-            [](const ziel& a) { return std::string(a.haupt.rennart.text() == a.txt.text_runden ? "3" : "2"); }, "2"};
+            [](const ziel& a) { return std::to_string(static_cast<int>(a.einrichtung.art)); }, "2"};
 }
 
 /// Above half a tank the warning makes no sense; two litres more are allowed.
@@ -165,12 +154,12 @@ einstellungszeile gruppenzeile(einstellungszeile neu) {
 }
 
 void rennen(tabelle& t) {  // Z 25 to Z 64
-    t << zeile::titel("[allgemein]", true) << zeile::hauptfeld(haupt(&form1::massstab), "43", ablehnen_ausser(1, 500))
-      << zeile::hauptfeld(haupt(&form1::stddauer), "0")
-      << zeile::zahlenfeld(haupt(&form1::renndauer), "5", ablehnen_ausser(0, 9999)) << rennart()
-      << zeile::zahlenfeld(haupt(&form1::wertmin), "5", ablehnen_ausser(0, 59)) << zeile::leer();
+    t << zeile::titel("[allgemein]", true) << zeile::eingabe(einrichtung(&re::massstab), "43", ablehnen_ausser(1, 500))
+      << zeile::eingabe(einrichtung(&re::stunden), "0")
+      << zeile::zahleneingabe(einrichtung(&re::dauer), "5", ablehnen_ausser(0, 9999)) << rennart()
+      << zeile::zahleneingabe(einrichtung(&re::mindestrunde), "5", ablehnen_ausser(0, 59)) << zeile::leer();
     t << zeile::titel("[Tankoptionen]", true)
-      << zeile::kasten([](const ziel& a) -> haken& { return a.haupt.t_aktiv; }, false, true, ablehnen_ausser(0, 1))
+      << zeile::kasten(einrichtung(&re::tanken), false, true, ablehnen_ausser(0, 1))
       << zeile::ganzzahl(wert(&e::tank_art), 1, ablehnen_ausser(1, 2))
       << zeile::ganzzahl(wert(&e::tank_straf_option), 3, ablehnen_ausser(0, 4))
       << zeile::ganzzahl(wert(&e::tank_inhalt), 60, ablehnen_ausser(1, 100))

@@ -14,7 +14,6 @@ inline constexpr std::string_view einstellungs_kopf = "Tarvel Version ";
 namespace z {
 inline constexpr int wahr_wort = 114;  ///< the words that the writing system used for true and false
 inline constexpr int falsch_wort = 115;
-inline constexpr int ende_wettkampf = 111;      ///< last line of the competition settings
 inline constexpr int vor_den_bestzeiten = 254;  ///< behind it the best times are read
 inline constexpr int schema_name = 323;
 inline constexpr int schema_erste = 324;   ///< seven numbers

@@ -194,13 +194,13 @@ einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standa
     return neu;
 }
 
-einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen) {
-    return {std::move(pruefen), [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).text(zeile); },
-            [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e).text()); }, std::string(standard)};
+einstellungszeile eingabe(const zugriff<std::string>& ziel, std::string_view standard, pruefung::art pruefen) {
+    return {std::move(pruefen), [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e) = zeile; },
+            [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e)); }, std::string(standard)};
 }
 
-einstellungszeile zahlenfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen) {
-    einstellungszeile neu = hauptfeld(ziel, standard, std::move(pruefen));
+einstellungszeile zahleneingabe(const zugriff<std::string>& ziel, std::string_view standard, pruefung::art pruefen) {
+    einstellungszeile neu = eingabe(ziel, standard, std::move(pruefen));
     neu.schreiben = [davor = neu.schreiben](const einstellungs_ziel& e) {
         std::string zeile = davor(e);
         werte_pruefen2(zeile);
@@ -209,11 +209,11 @@ einstellungszeile zahlenfeld(const zugriff<steuerelement>& ziel, std::string_vie
     return neu;
 }
 
-einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank, pruefung::art pruefen) {
+einstellungszeile kasten(const zugriff<bool>& ziel, bool standard, bool mit_blank, pruefung::art pruefen) {
     return {std::move(pruefen),
-            [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e).gesetzt(ganz(zeile) != 0); },
+            [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e) = ganz(zeile) != 0; },
             [ziel, mit_blank](const einstellungs_ziel& e) {
-                const std::string zahl = ziel(e).gesetzt() ? "1" : "0";
+                const std::string zahl = ziel(e) ? "1" : "0";
                 return mit_blank ? mit_blanks(zahl) : zahl;
             },
             standard ? "1" : "0"};

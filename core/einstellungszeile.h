@@ -85,10 +85,11 @@ einstellungszeile wahrheit(const zugriff<bool>& ziel, bool standard, wahr_laden 
 /// Texts shorter than `mindestens` characters leave the value.
 einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standard, std::size_t mindestens = 0,
                        pruefung::art pruefen = {});
-/// A field that holds a number: a comma is written as a point.
-einstellungszeile zahlenfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen = {});
-einstellungszeile hauptfeld(const zugriff<steuerelement>& ziel, std::string_view standard, pruefung::art pruefen = {});
-einstellungszeile kasten(const zugriff<haken>& ziel, bool standard, bool mit_blank, pruefung::art pruefen);
+/// What is typed on the main window; a number's comma is written as a point.
+einstellungszeile eingabe(const zugriff<std::string>& ziel, std::string_view standard, pruefung::art pruefen = {});
+einstellungszeile zahleneingabe(const zugriff<std::string>& ziel, std::string_view standard,
+                                pruefung::art pruefen = {});
+einstellungszeile kasten(const zugriff<bool>& ziel, bool standard, bool mit_blank, pruefung::art pruefen);
 
 }  // namespace zeile
 }  // namespace tarvel

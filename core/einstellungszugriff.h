@@ -8,16 +8,16 @@
 #include <utility>
 
 #include "core/einstellungen.h"
-#include "core/form1.h"
+#include "core/renneinrichtung.h"
 #include "core/texte.h"
 
 /// Where a value of the settings lives, for tables that name each value once.
 namespace tarvel {
 
-/// What a settings file fills and is written from: the record, and the fields of the main window.
+/// What a settings file fills and is written from.
 struct einstellungs_ziel {
     einstellungen& einst;
-    form1& haupt;
+    renneinrichtung& einrichtung;
     const texte& txt;
 };
 
@@ -50,6 +50,17 @@ zugriff<T> je_spur(spuren<T> einstellungen::*feld, int spur) {
 template <class T>
 zugriff<T> je_spur(const zugriff<spuren<T>>& feld, int spur) {
     return [feld, spur](const einstellungs_ziel& a) -> T& { return feld(a)[spur]; };
+}
+
+/// Of the set-up of a race.
+template <class T>
+zugriff<T> einrichtung(T renneinrichtung::*feld) {
+    return [feld](const einstellungs_ziel& a) -> T& { return a.einrichtung.*feld; };
+}
+
+template <class T>
+zugriff<T> einrichtung(int spur, T renneinrichtung::spur::*feld) {
+    return [spur, feld](const einstellungs_ziel& a) -> T& { return a.einrichtung.bahn[spur].*feld; };
 }
 
 template <class T>

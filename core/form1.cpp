@@ -112,36 +112,54 @@ renn_art form1::gewaehlte_art() const {
     return rennart.text() == um_.txt.text_runden ? renn_art::runden : renn_art::zeit;
 }
 
-renneinrichtung form1::einrichtung() const {
-    renneinrichtung e;
+void form1::einrichtung_lesen() {
+    renneinrichtung& e = um_.einrichtung;
     e.art = gewaehlte_art();
     e.tanken = t_aktiv.gesetzt();
-    e.wertung = um_.einst.auswertung_nach;
     e.stunden = stddauer.text();
     e.dauer = renndauer.text();
     e.mindestrunde = wertmin.text();
     e.massstab = massstab.text();
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
-        e.bahn[nummer] = {faehrt(i), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
+        e.bahn[nummer] = {spur[i].gesetzt(), lspur[i].text(), fahrer[i].text(), auto_[i].text()};
     }
-    return e;
 }
 
-void form1::einrichtung_zeigen(const renneinrichtung& einrichtung) {
-    stddauer.text(einrichtung.stunden);
-    renndauer.text(einrichtung.dauer);
-    wertmin.text(einrichtung.mindestrunde);
-    massstab.text(einrichtung.massstab);
+renneinrichtung& form1::gelesen() {
+    einrichtung_lesen();
+    return um_.einrichtung;
+}
+
+void form1::zahlen_zeigen() {
+    const renneinrichtung& e = um_.einrichtung;
+    stddauer.text(e.stunden);
+    renndauer.text(e.dauer);
+    wertmin.text(e.mindestrunde);
+    massstab.text(e.massstab);
     for (const int nummer : alle_spuren) {
-        lspur[feld_index(nummer)].text(einrichtung.bahn[nummer].laenge);
+        lspur[feld_index(nummer)].text(e.bahn[nummer].laenge);
     }
+}
+
+void form1::einrichtung_zeigen() {
+    const renneinrichtung& e = um_.einrichtung;
+    rennart.text(e.art == renn_art::runden ? um_.txt.text_runden : um_.txt.text_zeit);
+    t_aktiv.gesetzt(e.tanken);
+    zahlen_zeigen();
+    for (const int nummer : alle_spuren) {
+        const std::size_t i = feld_index(nummer);
+        spur[i].gesetzt(e.bahn[nummer].dabei);
+        fahrer[i].text(e.bahn[nummer].fahrer);
+        auto_[i].text(e.bahn[nummer].fahrzeug);
+    }
+    rennart_geaendert();
+    spuren_nach_laden();
 }
 
 void form1::werte_pruefen() {
-    renneinrichtung e = einrichtung();
-    e.werte_pruefen();
-    einrichtung_zeigen(e);
+    gelesen().werte_pruefen();
+    zahlen_zeigen();
 }
 
 std::vector<feld*> form1::felder_ohne_zahl() {
@@ -161,9 +179,8 @@ std::vector<feld*> form1::felder_ohne_zahl() {
 void form1::unlesbares_ersetzen() {
     std::string meldung;
     if (const std::vector<feld*> ohne_zahl = felder_ohne_zahl(); !ohne_zahl.empty()) {
-        renneinrichtung e = einrichtung();
-        e.vor_dem_speichern_pruefen();
-        einrichtung_zeigen(e);
+        gelesen().vor_dem_speichern_pruefen();
+        zahlen_zeigen();
         meldung = wort_keine_zahl_;
         for (const feld* f : ohne_zahl) {
             meldung += "\n" + f->ansage() + ": " + f->text();
@@ -207,9 +224,8 @@ bool form1::fahrer_einmalig() {
 
 void form1::vor_dem_speichern_pruefen() {
     unlesbares_ersetzen();
-    renneinrichtung e = einrichtung();
-    e.vor_dem_speichern_pruefen();
-    einrichtung_zeigen(e);
+    gelesen().vor_dem_speichern_pruefen();
+    zahlen_zeigen();
 }
 
 void form1::ablehnen(const std::string& meldung, steuerelement& ort) {
@@ -234,10 +250,10 @@ void form1::Command1_Click() {
         bahnstrom_ein();
     }
     unlesbares_ersetzen();
-    renneinrichtung e = einrichtung();
+    renneinrichtung& e = gelesen();
     e.werte_pruefen();
-    const einrichtungsfehler fehler = rennen_uebergeben(e, sperrzuschlag_einzelrennen_ms, um_.param);
-    einrichtung_zeigen(e);
+    const einrichtungsfehler fehler = rennen_uebergeben(e, um_.einst, rennumfang::einzelrennen, um_.param);
+    zahlen_zeigen();
     if (fehler == einrichtungsfehler::dauer) {
         ablehnen(um_.txt.meldung[13], renndauer);
     } else if (fehler == einrichtungsfehler::keine_spur) {

@@ -20,10 +20,11 @@
 namespace tarvel {
 
 /// The main window: the form on which a race is set up. Its control arrays count the lanes from 0.
-class form1 final : public fensterlogik {
+class form1 final : public fensterlogik, public einrichtungsansicht {
 public:
     struct umgebung {
         const einstellungen& einst;
+        renneinrichtung& einrichtung;
         texte& txt;
         renn_parameter& param;
         const dateien& ablage;
@@ -130,8 +131,6 @@ public:
     /// The texts of the window.
     sprachliste sprache_m2();
     void sprache_m2_laden() { sprache_m2().anwenden(um_.ablage); }
-    /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
-    void spuren_nach_laden();
     /// Where sensors 3 and 4 serve lanes 1 and 2, nobody drives on lanes 3 and 4.
     void leihspuren_sperren();
     void farben_einstellen();
@@ -162,8 +161,8 @@ public:
     /// The settings file in force, and the one that the program starts with.
     void einstellungsname_anzeigen(std::string_view name, std::string_view standard);
 
-    /// What the fields say.
-    renneinrichtung einrichtung() const;
+    void einrichtung_lesen() override;
+    void einrichtung_zeigen() override;
     /// Brings every field within its limits, silently.
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.
@@ -174,7 +173,12 @@ public:
 
 private:
     renn_art gewaehlte_art() const;
-    void einrichtung_zeigen(const renneinrichtung& einrichtung);
+    /// The record, with what the fields say.
+    renneinrichtung& gelesen();
+    /// Brings the numbers as they have been mended into their fields.
+    void zahlen_zeigen();
+    /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
+    void spuren_nach_laden();
     void ablehnen(const std::string& meldung, steuerelement& ort);
     void spur_geaendert(std::size_t index);
 

@@ -155,8 +155,8 @@ void form1::spuren_nach_laden() {
 }
 
 void form1::leihspuren_sperren() {
-    const bool verliehen = um_.einst.rc.rc_ziel_sensor34 || um_.einst.rc.rc_tank_sensor34;
     for (const std::size_t i : {std::size_t{2}, std::size_t{3}}) {
+        const bool verliehen = um_.einst.spur_verliehen(static_cast<int>(i) + 1);
         const bool frei_geworden = !verliehen && !spur[i].aktiviert();
         spur[i].aktiviert(!verliehen);
         if (verliehen || frei_geworden) {

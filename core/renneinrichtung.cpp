@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "core/einstellungen.h"
 #include "core/renndauer.h"
 #include "core/text.h"
 
@@ -32,12 +33,12 @@ bool dauer_zulaessig(const renneinrichtung& einrichtung, zeit_ms dauer_ms) {
     return dauer <= 59 && dauer_ms != 0;
 }
 
-void spuren_uebergeben(const renneinrichtung& einrichtung, renn_parameter& param) {
+void spuren_uebergeben(const renneinrichtung& einrichtung, const einstellungen& einst, renn_parameter& param) {
     param.spuren_anzahl = 0;
     for (const int nummer : alle_spuren) {
         const renneinrichtung::spur& spur = einrichtung.bahn[nummer];
-        param.spur_aktiv[nummer] = spur.dabei;
-        param.spuren_anzahl += spur.dabei ? 1 : 0;
+        param.spur_aktiv[nummer] = spur.dabei && !einst.spur_verliehen(nummer);
+        param.spuren_anzahl += param.spur_aktiv[nummer] ? 1 : 0;
         param.fahrer_name[nummer] = spur.fahrer;
         param.fahrzeug_name[nummer] = spur.fahrzeug;
         param.spurlaenge[nummer] = zahl_lesen(spur.laenge);
@@ -85,7 +86,9 @@ void renneinrichtung::vor_dem_speichern_pruefen() {
     begrenzen(massstab, 1, 500, "43");
 }
 
-einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, zeit_ms sperrzuschlag_ms, renn_parameter& param) {
+einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, const einstellungen& einst, rennumfang umfang,
+                                     renn_parameter& param) {
+    const bool eines = umfang == rennumfang::einzelrennen;
     const renndauer_angabe angabe = renndauer_lesen(einrichtung.dauer);
     einrichtung.dauer = angabe.text();
     param.renndauer_ms = in_ms(einrichtung.stunden, ms_je_stunde) + angabe.in_ms();
@@ -93,18 +96,19 @@ einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, zeit_ms sperr
         return einrichtungsfehler::dauer;
     }
     param.art = einrichtung.art;
-    param.auswertung_nach_rennen = einrichtung.wertung;
+    param.auswertung_nach_rennen = einst.auswertung_nach;
     param.tank_aktiv = einrichtung.tanken;
-    param.min_rundenzeit_ms = in_ms(einrichtung.mindestrunde, ms_je_sekunde) + sperrzuschlag_ms;
+    param.min_rundenzeit_ms =
+        in_ms(einrichtung.mindestrunde, ms_je_sekunde) + (eines ? sperrzuschlag_einzelrennen_ms : 0);
     param.massstab = zahl_lesen(einrichtung.massstab);
     param.renndauer_rest_ms = param.renndauer_ms;
     param.renn_ziel = param.ist_zeitrennen() ? param.renndauer_ms : ganzzahl_lesen(einrichtung.dauer, 1, 9999);
     param.renn_laenge = param.renn_ziel;
-    spuren_uebergeben(einrichtung, param);
-    return param.spuren_anzahl == 0 ? einrichtungsfehler::keine_spur : einrichtungsfehler::keiner;
+    spuren_uebergeben(einrichtung, einst, param);
+    return eines && param.spuren_anzahl == 0 ? einrichtungsfehler::keine_spur : einrichtungsfehler::keiner;
 }
 
-void wettkampf_uebergeben(const renneinrichtung& einrichtung, renn_parameter& param) {
+void wettkampfdatei_uebergeben(const renneinrichtung& einrichtung, renn_parameter& param) {
     param.art = einrichtung.art;
     param.tank_aktiv = einrichtung.tanken;
     param.min_rundenzeit_ms = in_ms(einrichtung.mindestrunde, ms_je_sekunde);

@@ -83,7 +83,7 @@ public:
     /// Load handler: all texts and all values.
     void laden() override;
     /// A picture that was chosen is copied at once, also if the list is not taken over.
-    void entladen() override { um_.ziel.haupt.bilder_anzeigen(); }
+    void entladen() override { um_.folgen.optionen_geschlossen(); }
     /// Nothing is taken over, nor what the wizard of the AT-2560 has changed and not saved.
     void schliessen() override;
     /// Opens the window on a page.

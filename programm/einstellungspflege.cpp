@@ -36,7 +36,7 @@ std::string einstellungspflege::einstellungsname(std::string_view pfad) const {
 }
 
 void einstellungspflege::name_zeigen() {
-    um_.ziel.haupt.einstellungsname_anzeigen(einstell_datei_, einstellungsname(einstell_standarddatei_));
+    um_.haupt.einstellungsname_anzeigen(einstell_datei_, einstellungsname(einstell_standarddatei_));
 }
 
 void einstellungspflege::standard_setzen() {
@@ -98,7 +98,7 @@ bool einstellungspflege::speichern() {
 }
 
 bool einstellungspflege::speichern_mit_feldern() {
-    um_.ziel.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+    um_.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
     return speichern();
 }
 
@@ -115,7 +115,7 @@ bool einstellungspflege::speichern(const std::string& pfad) {
 
 void einstellungspflege::speichern_oeffnen() {
     const auto& worte = um_.ziel.txt.datei_text;
-    um_.ziel.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
+    um_.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
     um_.auswahl.oeffnen({true, worte[4], worte[1], worte[0], std::string(ordner), ".ini", einstell_datei_,
                          [this](const std::string& name) { return speichern(vorspann + name); }});
 }

@@ -10,6 +10,7 @@
 
 namespace tarvel {
 
+class form1;
 class speichernfenster;
 
 /// What has to follow settings that were loaded.
@@ -26,6 +27,7 @@ public:
     struct umgebung {
         einstellungsdatei& datei;
         einstellungs_ziel ziel;
+        form1& haupt;
         tastenbelegung& belegung;
         const dateien& ablage;
         fensterregister& fenster;

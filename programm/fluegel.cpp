@@ -46,7 +46,7 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
       fahrerbild_laden(fensterwelt(p)),
       beste_zeiten_verwaltung({p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender,
                                p.bestzeiten, folgen, bestzeiten}),
-      einstellungsfenster({{p.einst, p.form1, p.txt},
+      einstellungsfenster({{p.einst, p.einrichtung, p.txt},
                            p.txt,
                            p.ablage,
                            p.fenster,

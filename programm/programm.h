@@ -12,6 +12,7 @@
 #include "core/form1.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
+#include "core/renneinrichtung.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/ereignisse.h"
@@ -69,6 +70,7 @@ public:
     fensterregister fenster;
     einstellungen einst;
     texte txt;
+    renneinrichtung einrichtung;
     renn_parameter param;
     ereignis_tabelle ereignisse;
     messquellen quellen;
@@ -118,6 +120,7 @@ private:
     void einstellungen_geladen(bool im_betrieb) override;
     bool einstellungen_speichern() override;
     void einstellungen_uebernommen(const einstellungen& vorher) override;
+    void optionen_geschlossen() override { form1.bilder_anzeigen(); }
     void hardware_starten() override;
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;

@@ -48,10 +48,11 @@ protected:
     }
     /// The race that the fields stand for.
     static auto rennen(programm& p) {
-        renneinrichtung einrichtung = p.form1.einrichtung();
+        p.form1.einrichtung_lesen();
+        renneinrichtung einrichtung = p.einrichtung;
         einrichtung.werte_pruefen();
         renn_parameter param;
-        const auto fehler = rennen_uebergeben(einrichtung, 0, param);
+        const auto fehler = rennen_uebergeben(einrichtung, p.einst, rennumfang::einzelrennen, param);
         return std::tuple(fehler, param.art, param.renndauer_ms, param.renn_ziel, param.min_rundenzeit_ms,
                           param.massstab, param.spurlaenge[1], param.spurlaenge[6]);
     }
