@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/fensterregister.h"
+#include "core/form1.h"
 #include "core/nebendateien.h"
 #include "core/ordnerblick.h"
 #include "core/speichernfenster.h"

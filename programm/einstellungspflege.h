@@ -10,6 +10,7 @@
 
 namespace tarvel {
 
+class fensterregister;
 class form1;
 class speichernfenster;
 
