@@ -52,7 +52,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
         t_.uhr.restzeit_vorbereiten(um_.param.renndauer_rest_ms);
     }
     t_.ende.zuruecksetzen();
-    freie_spuren_abschalten();
+    um_.spuren_einteilen(true);
     for (const int spur : alle_spuren) {
         daheim_[spur] = zustand.spur[spur].ziel_erreicht;
         standzeit_abziehen(spur);
@@ -77,16 +77,6 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     um_.bahn.Command2.aktiviert(true);
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(true);
-}
-
-void fortsetzung::freie_spuren_abschalten() {
-    for (const int spur : alle_spuren) {
-        const bool frei = um_.param.spur_aktiv[spur] && um_.teil_von->ist_fueller(spur);
-        if (frei && !um_.einst.freie_slots) {
-            um_.param.spur_aktiv[spur] = false;
-            --um_.param.spuren_anzahl;
-        }
-    }
 }
 
 void fortsetzung::standzeit_abziehen(int spur) {

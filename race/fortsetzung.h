@@ -34,7 +34,6 @@ public:
     void weiterfahren();
 
 private:
-    void freie_spuren_abschalten();
     void spur_freigeben(int spur);
     void standzeit_abziehen(int spur);
 

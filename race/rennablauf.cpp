@@ -16,6 +16,7 @@ rennablauf::rennablauf(const renn_umgebung& um, const teile& t) : um_(um), t_(t)
 
 void rennablauf::laden() {
     um_.zustand.rennen_beendet = true;
+    um_.spuren_einteilen(false);
     if (um_.einst.sensorkalibrierung) {
         um_.ausgaben.kalibrieren();
     }
@@ -85,6 +86,7 @@ void rennablauf::ampel_takt_bestimmen() {
 }
 
 void rennablauf::rennstart_vorbereiten() {
+    um_.teil_von->begonnen();
     t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
     if (um_.einst.sensorkalibrierung || mit_einfahrzeit()) {
@@ -118,6 +120,7 @@ void rennablauf::rennstart_vorbereiten() {
 }
 
 void rennablauf::einfahrzeit_starten() {
+    um_.teil_von->begonnen();
     t_.blinken.beenden();
     um_.ereignisse.ruhe_herstellen();
     rennen_zuruecksetzen();

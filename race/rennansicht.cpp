@@ -153,7 +153,9 @@ void rennansicht::ansicht_oeffnen(ansicht_art art) {
     const auto gibt_es = [this](const bild& b) { return um_.ablage.gibt_es(b.datei()); };
     ansicht_inhalt inhalt;
     inhalt.art = art;
-    inhalt.spur_aktiv = um_.param.spur_aktiv;
+    for (const int spur : alle_spuren) {
+        inhalt.spur_aktiv[spur] = um_.param.spur_aktiv[spur] || um_.teil_von->leer_gezeigt(spur);
+    }
     if (um_.param.tank_aktiv) {
         inhalt.tank = um_.einst.tankanzeige_grafisch ? tankanzeige_art::balken : tankanzeige_art::zahl;
     }
@@ -179,12 +181,14 @@ void rennansicht::spur_oeffnen(int spur) {
     bahn1& bahn = um_.bahn;
     const std::size_t index = feld_index(spur);
     const bool dabei = um_.param.spur_aktiv[spur];
+    const bool gezeigt = dabei || um_.teil_von->leer_gezeigt(spur);
     const bool mit_bild = dabei && !um_.teil_von->ist_fueller(spur);
     bahn.namenslabel[spur].text(um_.param.fahrer_name[spur]);
+    bahn.namenslabel[spur].sichtbar(gezeigt);
+    bahn.bahnshape[spur].sichtbar(gezeigt);
     for (steuerelement* element :
-         {static_cast<steuerelement*>(&bahn.namenslabel[spur]), static_cast<steuerelement*>(&bahn.zaehler[spur]),
-          static_cast<steuerelement*>(&bahn.lrunde[spur]), static_cast<steuerelement*>(&bahn.brunde[spur]),
-          static_cast<steuerelement*>(&bahn.bahnshape[spur]), static_cast<steuerelement*>(&bahn.t_liste[index])}) {
+         {static_cast<steuerelement*>(&bahn.zaehler[spur]), static_cast<steuerelement*>(&bahn.lrunde[spur]),
+          static_cast<steuerelement*>(&bahn.brunde[spur]), static_cast<steuerelement*>(&bahn.t_liste[index])}) {
         element->sichtbar(dabei);
     }
     bahn.Image1[spur].sichtbar(mit_bild);

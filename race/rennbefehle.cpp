@@ -60,6 +60,7 @@ void rennbefehle::rennen_abbrechen() {
     t_.ende.ausgaben_endzustand();
     um_.zustand.rennabbruch = true;
     um_.param.einrichtung_wiederherstellen();
+    um_.teil_von->abgebrochen();
     um_.fenster.entladen(fenstername::bahn1);
     um_.fenster.zeigen(um_.teil_von->zurueck());
 }

@@ -73,6 +73,16 @@ struct renn_umgebung {
         return !zustand.rennen_beendet && !zustand.chaos_aktiv && !zustand.fortsetzung_wartet &&
                !zeitgeber.renntimer->laeuft();
     }
+    /// The lanes of the set-up but those that nobody drives on.
+    void spuren_einteilen(bool fortgesetzt) const {
+        param.spuren_wiederherstellen();
+        for (const int spur : alle_spuren) {
+            if (param.spur_aktiv[spur] && teil_von->ist_fueller(spur) && !teil_von->fueller_fahren(fortgesetzt)) {
+                param.spur_aktiv[spur] = false;
+                --param.spuren_anzahl;
+            }
+        }
+    }
     bool ist_zeitrennen() const { return param.ist_zeitrennen(); }
     bool ist_rundenrennen() const { return !param.ist_zeitrennen(); }
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/fensternamen.h"
+#include "core/spuren.h"
 #include "platform/dauer.h"
 #include "platform/schnittstelle.h"
 #include "platform/uhr.h"
@@ -20,7 +21,11 @@ enum class starter {
 };
 
 /// Where the way out of the result leads.
-enum class ausweg { hauptmenue, weiter };
+enum class ausweg {
+    hauptmenue,
+    weiter,     ///< in the evening that the race is part of
+    fortsetzen  ///< into the next part of the same race
+};
 
 /// What the result window does if nobody takes a hand in it.
 struct selbstlauf {
@@ -41,11 +46,21 @@ public:
     virtual void von_selbst_starten(bool /*an*/) {}
     /// The lane has no driver; its place only fills the race up.
     virtual bool ist_fueller(int spur) const = 0;
+    /// A filler's lane is in the race all the same, when it begins or goes on.
+    virtual bool fueller_fahren(bool fortgesetzt) const = 0;
+    /// Its place shows on the race window although nobody drives there.
+    virtual bool leer_gezeigt(int /*spur*/) const { return false; }
     /// Drivers of the race after this one; empty if there is none.
     virtual std::string naechste_fahrer() const { return {}; }
+    /// The start, or the warm-up before it, has begun.
+    virtual void begonnen() {}
+    /// Broken off without a result.
+    virtual void abgebrochen() {}
 
     /// A race that goes on, or begins anew, may take the drivers to other lanes.
     virtual bool mit_spurwechsel() const { return true; }
+    /// Whatever the operator has chosen: lane i takes the driver of lane `[i]`, or keeps its own at 0.
+    virtual std::optional<spuren<int>> fester_wechsel() const { return {}; }
     /// Largest target to which the race may go on from its result, in laps or ms; none if it may not.
     virtual std::optional<zeit_ms> fortsetzbar_bis() const = 0;
     /// The result can be saved as a file of its own.

@@ -43,12 +43,7 @@ void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
     ch_durch4_ = dienst.erzeugen(zeitgeber_art::zaehlend, nachzaehltakt);
     ch_durch4_->bei_tick = [this] { nachzaehlen_beenden(); };
     w_auto5_ = dienst.erzeugen(zeitgeber_art::zaehlend, 1s);
-    w_auto5_->bei_tick = [this] {
-        w_auto5_->aus();
-        if (aktion_nach_bestzeiten_ != aktion::hauptmenue) {
-            Command5.klicken();
-        }
-    };
+    w_auto5_->bei_tick = [this] { w_auto5_tick(); };
     tmr_dauertraining_ = dienst.erzeugen(zeitgeber_art::zaehlend, 1s);
     tmr_dauertraining_->bei_tick = [this] { training_tick(); };
     for (std::size_t i = 0; i < spuren_max; ++i) {
@@ -122,14 +117,15 @@ void auswertung::bedienung_einrichten() {
     const laufende_veranstaltung& v = um_.teil_von;
     selbst_ = v->danach();
     const bool ohne_spurwechsel = um_.quellen.kann().feste_wagen || !v->mit_spurwechsel();
-    Command5.text(v->weg_hinaus() == ausweg::weiter ? wort_.weiter : wort_.hauptmenue);
+    const bool allein = v->weg_hinaus() == ausweg::hauptmenue;
+    Command5.text(allein ? wort_.hauptmenue : wort_.weiter);
     Command7.sichtbar(selbst_.was == schritt::ausweg);
     Command4.sichtbar(v->mit_eigener_datei());
     Command1.sichtbar(!geht_von_selbst_weiter());
     Frame1.text(ohne_spurwechsel ? wort_.rennen : wort_.spur_wechseln);
-    Frame1.sichtbar(v->fortsetzbar_bis() && !geht_von_selbst_weiter());
+    Frame1.sichtbar(allein && v->fortsetzbar_bis() && !geht_von_selbst_weiter());
     tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
-    trainingslabel.sichtbar(geht_von_selbst_weiter());
+    trainingslabel.sichtbar(selbst_.was != schritt::keiner);
     verlauf_zeigen(false);
     for (feld& eingabe : meter) {
         eingabe.text("0");
@@ -141,12 +137,12 @@ void auswertung::bedienung_einrichten() {
 }
 
 void auswertung::selbstlauf_beginnen() {
+    gewartet_ = -1s;
     if (selbst_.was == schritt::ausweg) {
-        w_auto5_->intervall(std::max(selbst_.nach, dauer_ms(1s)));
+        w_auto5_tick();
         w_auto5_->an();
     }
     if (geht_von_selbst_weiter()) {
-        training_zeit_ = -1s;
         training_tick();
         tmr_dauertraining_->an();
     }
@@ -260,18 +256,40 @@ void auswertung::nachzaehlen_beenden() {
     ch_durch4_->aus();
 }
 
-void auswertung::training_tick() {
-    if (meter_eingabe_an_ || um_.fenster.ist_offen(fenstername::rundenspeichern) ||
-        um_.fenster.ist_offen(fenstername::beste_zeiten_fenster)) {
-        return;  // nobody is thrown out of an entry
+bool auswertung::eingabe_offen() const {
+    return meter_eingabe_an_ || um_.fenster.ist_offen(fenstername::rundenspeichern) ||
+           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster);
+}
+
+bool auswertung::wartezeit_vorbei(const std::string& wort) {
+    if (eingabe_offen()) {
+        return false;
     }
-    ++training_zeit_;
-    const auto rest = std::chrono::ceil<dauer_s>(std::max<dauer_ms>(selbst_.nach - training_zeit_, 0ms));
-    trainingslabel.text(wort_.training + "  " + std::to_string(rest.count()) + "   ");
-    if (training_zeit_ > 0s && rest == 0s) {
+    ++gewartet_;
+    const auto rest = std::chrono::ceil<dauer_s>(std::max<dauer_ms>(selbst_.nach - gewartet_, 0ms));
+    trainingslabel.text(wort + "  " + std::to_string(rest.count()) + "   ");
+    return gewartet_ > 0s && rest == 0s;
+}
+
+void auswertung::training_tick() {
+    if (wartezeit_vorbei(wort_.training)) {
         tmr_dauertraining_->aus();
         automatik_ = true;
         bestzeiten_vor(selbst_.was == schritt::fortsetzen ? aktion::fortsetzen : aktion::neu_starten);
+    }
+}
+
+void auswertung::w_auto5_tick() {
+    if (wartezeit_vorbei(wort_.weiter_in)) {
+        w_auto5_->aus();
+        Command5.klicken();
+    }
+}
+
+void auswertung::selbstlauf_unterbrechen() {
+    if (w_auto5_->laeuft()) {
+        w_auto5_->aus();
+        trainingslabel.sichtbar(false);
     }
 }
 

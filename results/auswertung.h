@@ -133,7 +133,7 @@ private:
         std::string zeitrennen, rundenrennen, vorzeitig, spur, rundenliste, strafzeit, tankinhalt;
         std::string tempo;  ///< names the two speeds
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
-        std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, verlust;
+        std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, weiter_in, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
         std::string abstand;     ///< explains the gap to the leader
         std::string gesamtzeit;  ///< and what the total time is
@@ -157,6 +157,11 @@ private:
     void nachzaehlen();
     void nachzaehlen_beenden();
     void training_tick();
+    void w_auto5_tick();
+    /// Nobody is thrown out of an entry.
+    bool eingabe_offen() const;
+    /// One second of the wait; true when it is over.
+    bool wartezeit_vorbei(const std::string& wort);
     void verlauf_zeigen(bool zeigen);
     void verlauf_nachfuehren();
 
@@ -177,7 +182,9 @@ private:
     bool ergebnis_abgeben(weitergang wie);
     void rennen_verlassen();
     void bahn_neu_oeffnen();
+    aktion weg_hinaus() const;
     void selbstlauf_beginnen();
+    void selbstlauf_unterbrechen();
     bool geht_von_selbst_weiter() const {
         return selbst_.was == schritt::neu_starten || selbst_.was == schritt::fortsetzen;
     }
@@ -202,7 +209,7 @@ private:
     bool neue_bestzeit_ = false;
     bool meter_eingabe_an_ = false;
     int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
-    dauer_s training_zeit_{};
+    dauer_s gewartet_{};      ///< of the wait before it goes on by itself
     selbstlauf selbst_;       ///< of the race whose result is shown
     bool automatik_ = false;  ///< what is being left goes on without the operator
 };

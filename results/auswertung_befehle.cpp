@@ -26,9 +26,9 @@ void auswertung::befehle_verbinden() {
         auswertung_anzeigen();
         u_.speichern.oeffnen(ergebnis());
     };
-    Command5.bei_klick = [this] { bestzeiten_vor(aktion::hauptmenue); };
+    Command5.bei_klick = [this] { bestzeiten_vor(weg_hinaus()); };
     Command6.bei_klick = [this] { Command6_klick(); };
-    Command7.bei_klick = [this] { w_auto5_->aus(); };
+    Command7.bei_klick = [this] { selbstlauf_unterbrechen(); };
     Command8.bei_klick = [this] { runde_loeschen(); };
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
     Command10.bei_klick = [this] { auswertung_anzeigen(); };
@@ -161,7 +161,7 @@ void auswertung::runde_loeschen() {
     for (const auto& blinken : beste_blink_timer_) {
         blinken->aus();
     }
-    w_auto5_->aus();
+    selbstlauf_unterbrechen();
     verlauf_zeigen(false);  // the laps are in the lists
     const int runde = gewaehlte_spur_ == 0 ? 0 : liste.at(feld_index(gewaehlte_spur_)).markiert() + 1;
     if (runde < 1 || !u_.stand.runde_loeschen(gewaehlte_spur_, runde)) {
@@ -196,6 +196,10 @@ void auswertung::ausfuehren(aktion was) {
     }
 }
 
+auswertung::aktion auswertung::weg_hinaus() const {
+    return um_.teil_von->weg_hinaus() == ausweg::fortsetzen ? aktion::fortsetzen : aktion::hauptmenue;
+}
+
 bool auswertung::ergebnis_abgeben(weitergang wie) {
     meter_eingabe_uebernehmen();
     auswertung_anzeigen();
@@ -217,8 +221,9 @@ void auswertung::bahn_neu_oeffnen() {
 }
 
 void auswertung::wechselschema_anwenden() {
-    if (spurwechsel.gesetzt()) {
-        const spuren<int> herkunft = wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv);
+    const std::optional<spuren<int>> fest = um_.teil_von->fester_wechsel();
+    if (fest || spurwechsel.gesetzt()) {
+        const spuren<int> herkunft = fest.value_or(wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv));
         r_.fortsetzung.fahrer_umsetzen(herkunft);
         u_.stand.fahrer_umsetzen(herkunft);
     }
@@ -260,7 +265,7 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
     int meiste = 0;
     int wenigste = runden_max;
     for (const rennergebnis::spur& s : ergebnis().spuren) {
-        if (!s.disqualifiziert && (um_.einst.freie_slots || !um_.teil_von->ist_fueller(s.nummer))) {
+        if (!s.disqualifiziert && (um_.teil_von->fueller_fahren(true) || !um_.teil_von->ist_fueller(s.nummer))) {
             meiste = std::max(meiste, s.rundenzahl());
             wenigste = std::min(wenigste, s.rundenzahl());
         }

@@ -59,7 +59,8 @@ sprachliste auswertung::sprache_a() {
                wort_.abstand);
     texte.text("Alle Runden zusammen, von der ersten Überfahrt der Spur an, mit den Strafzeiten", wort_.gesamtzeit);
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl).text("Die Spur ist nur so lang:", wort_.zu_viele_meter);
-    return texte.text("Trotzdem eintragen?", wort_.trotzdem);
+    texte.text("Trotzdem eintragen?", wort_.trotzdem);
+    return texte.text("Weiter in:", wort_.weiter_in);
 }
 
 void auswertung::ansagen_setzen() {

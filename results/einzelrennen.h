@@ -21,6 +21,7 @@ public:
     explicit einzelrennen(const umgebung& um) : um_(um) {}
 
     bool ist_fueller(int spur) const override { return um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]); }
+    bool fueller_fahren(bool fortgesetzt) const override { return !fortgesetzt || um_.einst.freie_slots; }
     std::optional<zeit_ms> fortsetzbar_bis() const override;
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
 
