@@ -17,8 +17,11 @@ namespace tarvel {
     F(Form2)                  \
     F(Form3)                  \
     F(k_ampel)                \
+    F(rangliste)              \
     F(rundenspeichern)        \
     F(speichernfenster)       \
+    F(w_auswertung)           \
+    F(wettkampf2)             \
     F(Form1)                  \
     F(beste_zeiten_fenster)   \
     F(cu_eigenschaften)       \

@@ -4,9 +4,9 @@
 
 namespace tarvel {
 
-std::optional<zeit_ms> einzelrennen::fortsetzbar_bis() const {
+zeit_ms renn_maximum(const renn_parameter& param) {
     constexpr dauer_ms laengstes = std::chrono::minutes(1499);
-    return um_.param.ist_zeitrennen() ? zeit_ms{laengstes.count()} : zeit_ms{runden_max};
+    return param.ist_zeitrennen() ? zeit_ms{laengstes.count()} : zeit_ms{runden_max};
 }
 
 bool einzelrennen::uebernehmen(const rennergebnis& ergebnis, weitergang /*wie*/) {

@@ -1,0 +1,273 @@
+#include "competition/wettkampf2.h"
+
+#include <algorithm>
+
+#include "competition/rangfolge.h"
+#include "core/text.h"
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t namensbreite = 15;
+constexpr std::string_view nach_der_nummer = "        ";
+constexpr std::string_view zwischen_namen = "   ";
+constexpr std::string_view keine_beste = "99 : 99 , 999";
+
+std::string aufgefuellt(std::string_view name) {
+    std::string spalte(links(name, namensbreite));
+    spalte.append(namensbreite - laenge(spalte), ' ');
+    return spalte;
+}
+
+std::string verbunden(const std::vector<std::string>& namen) {
+    std::string alle;
+    for (const std::string& name : namen) {
+        alle += (alle.empty() ? "" : ", ") + name;
+    }
+    return alle;
+}
+
+}  // namespace
+
+wettkampf2::wettkampf2(const fenster_umgebung& um, const einstellungen& einst, const renn_parameter& param,
+                       const namensliste& fahrerliste, wettkampfabend& abend, wettkampf2_folgen& folgen)
+    : fensterlogik(um.fenster, um.ablage, fenstername::wettkampf2),
+      um_(um),
+      einst_(einst),
+      param_(param),
+      fahrerliste_(fahrerliste),
+      abend_(abend),
+      folgen_(folgen) {
+    abend_.ansicht_anmelden(*this);
+    befehle_verbinden();
+    neuer_name.laenge_max(namensliste::name_laenge_max);
+    for (std::size_t i = 0; i < spuren_max; ++i) {
+        anz_runden.at(i).laenge_max(5);
+        anz_meter.at(i).laenge_max(10);
+    }
+}
+
+void wettkampf2::befehle_verbinden() {
+    Command1.bei_klick = [this] { folgen_.stand_speichern_unter(); };
+    Command2.bei_klick = [this] { abend_.rennen_starten(); };
+    Command3.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung); };
+    Command4.bei_klick = [this] { abend_.automatik_umschalten(); };
+    Command5.bei_klick = [this] { wettkampf_beenden(); };
+    Command6.bei_klick = [this] { um_.fenster.zeigen(fenstername::rangliste); };
+    Command7.bei_klick = [this] { folgen_.fahrerverwaltung_oeffnen(); };
+    Command8.bei_klick = [this] { wiederholen(); };
+    Command9.bei_klick = [this] { zurückstellen(); };
+    Command10.bei_klick = [this] { folgen_.tabelle_speichern_unter(); };
+    Command11.bei_klick = [this] { folgen_.bahnstrom(true); };
+    Command12.bei_klick = [this] { folgen_.bahnstrom(false); };
+    Command13.bei_klick = [this] { felder_zeigen(feldgruppe::runden); };
+    Command14.bei_klick = [this] { felder_zeigen(feldgruppe::namen); };
+    Command_uebernehmen.bei_klick = [this] { korrektur_uebernehmen(); };
+    Command_runden_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
+    Command_umbenennen.bei_klick = [this] { umbenennen(); };
+    Command_namen_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
+    List1.bei_auswahl = [this] { rennen_gewaehlt(); };
+    rundenliste.bei_auswahl = [this] { korrekturfelder_zeigen(); };
+    aendernliste.bei_auswahl = [this] {
+        neuer_name.text(abend_.stand().name(umbenennbar_.at(static_cast<std::size_t>(aendernliste.markiert()))));
+    };
+}
+
+void wettkampf2::laden() {
+    texte_lesen();
+    titel.text(wort_.titel + ": " + abend_.stand().wettkampf_name);
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        listlabel[i].text(wort_.spur + " " + std::to_string(spur));
+        Label_anz[i].text(listlabel[i].text());
+        anz_runden[i].ansage(Label_runden.text() + ", " + listlabel[i].text());
+        anz_meter[i].ansage(Label_meter.text() + ", " + listlabel[i].text());
+        spurfarbe[i].hintergrund(einst_.farben_spur[spur]);
+    }
+    List1.ansage(Label_liste.text());
+    rundenliste.ansage(Label_rundenwahl.text());
+    aendernliste.ansage(Label_namenwahl.text());
+    neuer_name.ansage(Label_neuer_name.text());
+    opt_reihenfolge.gesetzt(false);
+    felder_zeigen(feldgruppe::blick);
+    stand_zeigen();
+    Command2.fokus_setzen();
+}
+
+void wettkampf2::felder_zeigen(feldgruppe welche) {
+    offen_ = welche;
+    Frame_blick.sichtbar(welche == feldgruppe::blick);
+    Frame_runden.sichtbar(welche == feldgruppe::runden);
+    aendernframe.sichtbar(welche == feldgruppe::namen);
+    if (welche == feldgruppe::runden) {
+        korrektur_zeigen();
+    } else if (welche == feldgruppe::namen) {
+        namen_zeigen();
+    }
+}
+
+void wettkampf2::stand_zeigen() {
+    if (!abend_.wettkampf_aktiv()) {
+        return;
+    }
+    blick_zeigen();
+    liste_zeigen();
+    beste_zeigen();
+    befehle_zeigen();
+    felder_zeigen(offen_);
+    wartezeit_zeigen();
+}
+
+void wettkampf2::wartezeit_zeigen() {
+    Label_wartezeit.sichtbar(abend_.wartet_auf_rennen());
+    Label_wartezeit.text(wort_.wartezeit + " " + std::to_string(abend_.wartezeit().count()));
+}
+
+void wettkampf2::blick_zeigen() {
+    const abendblick blick = abend_.blick();
+    const bool ende = blick.rennen == 0;
+    Label_nr.text(ende ? wort_.ende : std::to_string(blick.rennen));
+    Label_von.text(ende ? "" : wort_.von + " " + std::to_string(blick.rennen_gesamt));
+    Label2.sichtbar(!ende);
+    spuren_zeigen(blick);
+    std::vector<std::string> danach;
+    for (const std::string& name : blick.als_naechste) {
+        if (!name.empty()) {
+            danach.push_back(name);
+        }
+    }
+    Label_danach.sichtbar(!danach.empty());
+    Label_danach_fahrer.text(verbunden(danach));
+    Label_einsetzer.sichtbar(!ende);
+    Label_einsetzer_fahrer.text(ende ? "" : blick.einsetzer.empty() ? wort_.niemand : verbunden(blick.einsetzer));
+    Label_dauer.text(ende ? "" : dauer_text(blick));
+}
+
+void wettkampf2::spuren_zeigen(const abendblick& blick) {
+    const wettkampf& w = abend_.stand();
+    const renn_uebergabe dran = w.uebergabe();
+    for (const int spur : alle_spuren) {
+        const std::size_t i = feld_index(spur);
+        const bool dabei = w.spur_aktiv[spur];
+        listlabel[i].sichtbar(dabei);
+        spurfarbe[i].sichtbar(dabei);
+        Label_b[i].sichtbar(dabei);
+        Label_b[i].text(blick.faehrt[spur]);
+        const int platz = dran.spur_fahrer[spur];
+        const bool mit_bild = dabei && dran.rennen_spur_aktiv[spur];
+        Image_b[i].sichtbar(mit_bild);
+        if (mit_bild && !w.bilder.at(static_cast<std::size_t>(platz - 1)).empty()) {
+            Image_b[i].datei(fahrerliste_.listenart().bildordner + "/" +
+                             w.bilder.at(static_cast<std::size_t>(platz - 1)));
+        } else if (mit_bild) {
+            fahrerliste_.bild_zeigen(um_.ablage, w.name(platz), Image_b[i]);
+        }
+    }
+}
+
+std::string wettkampf2::dauer_text(const abendblick& blick) const {
+    if (!blick.dauert_noch) {
+        return {};
+    }
+    const auto minuten = std::chrono::ceil<std::chrono::minutes>(dauer_ms(*blick.dauert_noch)).count();
+    const std::string teil = std::to_string(minuten % 60) + " " + wort_.minuten;
+    return wort_.noch + " " + (minuten < 60 ? teil : std::to_string(minuten / 60) + " " + wort_.stunden + " " + teil);
+}
+
+std::string wettkampf2::rennzeile(int rennen) const {
+    const wettkampf& w = abend_.stand();
+    std::string nummer = std::to_string(rennen);
+    std::string zeile = std::string(3 - std::min<std::size_t>(nummer.size(), 3), '0') + nummer;
+    zeile += nach_der_nummer;
+    for (const int spur : alle_spuren) {
+        if (w.spur_aktiv[spur]) {
+            zeile += aufgefuellt(w.name(w.plan.feld(rennen)[spur]));
+            zeile += zwischen_namen;
+        }
+    }
+    const int teile = w.fortsetzung_nummer(rennen);
+    switch (w.rennen_gefahren(rennen)) {
+        case rennstatus::gefahren:
+            return zeile + "X";
+        case rennstatus::zurueckgestellt:
+            return zeile + "Z";
+        case rennstatus::offen:
+            break;
+    }
+    return teile == 0 ? zeile : zeile + std::to_string(teile) + "/" + std::to_string(w.plan.teile);
+}
+
+void wettkampf2::liste_zeigen() {
+    const wettkampf& w = abend_.stand();
+    List1.leeren();
+    for (int rennen = 1; rennen <= w.rennen_gesamt(); ++rennen) {
+        List1.hinzufuegen(rennzeile(rennen));
+    }
+    List1.markieren(w.aktuelles_rennen - 1);
+}
+
+void wettkampf2::beste_zeigen() {
+    const schnellste_runde beste = abend_.stand().beste_runde();
+    const bool keine = beste.beste_runde_fahrer == 0;
+    label_best.text(keine ? std::string(keine_beste)
+                          : zeit_formatieren(beste.beste_runde_ms, true, einst_.trennzeichen));
+    label_fahrer.text(keine ? "( Fahrername )" : abend_.stand().name(beste.beste_runde_fahrer));
+}
+
+void wettkampf2::befehle_zeigen() {
+    const wettkampf& w = abend_.stand();
+    const bool ende = w.ende_pruefen();
+    const int rennen = gewaehltes();
+    const bool gefahren = rennen > 0 && w.rennen_gefahren(rennen) == rennstatus::gefahren;
+    Command2.sichtbar(!ende);
+    Command9.sichtbar(!ende);
+    Command4.sichtbar(!ende);
+    Command8.aktiviert(rennen > 0 && w.fortsetzung_nummer(rennen) > 0);
+    Command9.aktiviert(rennen > 0 && !gefahren);
+    Command13.aktiviert(rennen > 0 && w.fortsetzung_nummer(rennen) > 0);
+    const bool unterbrochen = einst_.w_autom && !abend_.automatik_an() && abend_.unterbrochen();
+    Command4.text(!einst_.w_autom ? wort_.automatik_aus
+                  : unterbrochen  ? wort_.automatik_unterbrochen
+                                  : wort_.automatik_ein);
+}
+
+void wettkampf2::rennen_gewaehlt() {
+    const int rennen = gewaehltes();
+    if (opt_reihenfolge.gesetzt() && abend_.stand().aktuelles_rennen != rennen) {
+        abend_.aendern([rennen](wettkampf& w) { return w.rennen_waehlen(rennen); });
+    }
+    List1.markieren(rennen - 1);
+    befehle_zeigen();
+    felder_zeigen(offen_);
+}
+
+void wettkampf2::wiederholen() {
+    const int rennen = gewaehltes();
+    if (um_.meldungen.fragen(wort_.wiederholen, wort_.wiederholen_titel)) {
+        abend_.aendern([rennen](wettkampf& w) { return w.wiederholen(rennen); });
+    }
+}
+
+void wettkampf2::zurückstellen() {
+    const int rennen = gewaehltes();
+    abend_.aendern([rennen](wettkampf& w) { return w.zurueckstellen(rennen); });
+}
+
+void wettkampf2::wettkampf_beenden() {
+    const wettkampf& w = abend_.stand();
+    if (!w.ende_pruefen() && !um_.meldungen.fragen(wort_.ende_frage, titel.text())) {
+        return;
+    }
+    std::optional<std::vector<std::string>> qualifying;
+    if (w.qualifying_an) {
+        qualifying = qualifying_reihenfolge(w);
+    }
+    abend_.beenden();
+    for (const fenstername fenster : {fenstername::rangliste, fenstername::w_auswertung, fenstername::wettkampf2}) {
+        um_.fenster.entladen(fenster);
+    }
+    folgen_.wettkampf_beendet(qualifying);
+}
+
+}  // namespace tarvel

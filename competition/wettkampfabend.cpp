@@ -1,0 +1,218 @@
+#include "competition/wettkampfabend.h"
+
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+constexpr dauer_s ergebnis_steht{10};
+
+}  // namespace
+
+void wettkampfabend::beginnen(wettkampf neu) {
+    stand_ = std::move(neu);
+    stand_.zwischenstand_an = um_.einst.w_speichern;
+    aktiv_ = true;
+    automatik_an_ = false;
+    renndauern_.clear();
+    start_ = 0;
+    if (!stand_.ende_pruefen()) {
+        stand_.naechstes_offenes_rennen();
+    }
+    sichern();
+    zeigen();
+}
+
+void wettkampfabend::beenden() {
+    automat_.aus();
+    automatik_an_ = false;
+    aktiv_ = false;
+    um_.ablage.laufenden_vergessen();
+    zeigen();
+}
+
+bool wettkampfabend::rennen_starten() {
+    automat_.aus();
+    if (stand_.uebergabe().rennen == 0) {
+        return false;
+    }
+    uebergeben();
+    ab_teil_ = uebergabe_.teil;
+    teil_gebucht_ = false;
+    automatik_an_ = um_.einst.w_autom;
+    unterbrochen_ = false;
+    um_.teil_von.wechseln(*this);
+    um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
+    zeigen();
+    am_start_warten();
+    return true;
+}
+
+void wettkampfabend::uebergeben() {
+    uebergabe_ = stand_.uebergabe();
+    renn_parameter& param = um_.param;
+    param.spuren_anzahl_gemerkt = 0;
+    for (const int spur : alle_spuren) {
+        const bool besetzt = uebergabe_.spur_fahrer[spur] != 0;
+        param.spur_aktiv_gemerkt[spur] = besetzt;
+        param.spuren_anzahl_gemerkt += besetzt ? 1 : 0;
+        param.fahrer_name[spur] = uebergabe_.fahrer[spur];
+    }
+    param.einrichtung_wiederherstellen();
+}
+
+bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
+    if (!was(stand_)) {
+        return false;
+    }
+    sichern();
+    zeigen();
+    return true;
+}
+
+std::string wettkampfabend::naechste_fahrer() const {
+    const int rennen = stand_.folgendes_rennen();
+    if (rennen == 0) {
+        return {};
+    }
+    std::string namen;
+    const startfeld feld = stand_.plan.feld(rennen, stand_.fortsetzung_nummer(rennen) + 1);
+    for (const int spur : alle_spuren) {
+        if (const int platz = feld[spur]; platz != 0 && !stand_.ist_fueller(platz)) {
+            namen += (namen.empty() ? "" : ", ") + stand_.name(platz);
+        }
+    }
+    return namen;
+}
+
+void wettkampfabend::begonnen() {
+    automat_.aus();
+    teil_gebucht_ = false;
+    if (start_ != 0 && !renndauern_.empty()) {
+        renndauern_.back() = um_.uhr.jetzt() - start_;
+    }
+    start_ = um_.uhr.jetzt();
+}
+
+void wettkampfabend::abgebrochen() {
+    automat_.aus();
+    automatik_an_ = false;
+    unterbrochen_ = true;
+    start_ = 0;
+    sichern();
+    zeigen();
+}
+
+selbstlauf wettkampfabend::danach() const {
+    using schritt = selbstlauf::schritt;
+    return automatik_an_ ? selbstlauf{schritt::ausweg, ergebnis_steht} : selbstlauf{};
+}
+
+void wettkampfabend::buchen(const rennergebnis& ergebnis) {
+    if (std::exchange(teil_gebucht_, false)) {
+        stand_.gefahren.pop_back();  // the same result once more, perhaps corrected
+    }
+    stand_.ergebnis_eintragen(fahrten_aus(ergebnis, stand_.gebucht(ab_teil_)));
+}
+
+bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
+    switch (wie) {
+        case weitergang::wiederholen:
+        case weitergang::neu_starten:
+            teil_gebucht_ = false;
+            stand_.wiederholen(uebergabe_.rennen);
+            uebergeben();
+            ab_teil_ = uebergabe_.teil;
+            sichern();
+            break;
+        case weitergang::fortsetzen:
+            buchen(ergebnis);
+            teil_gebucht_ = true;
+            uebergabe_ = stand_.uebergabe();
+            sichern();
+            break;
+        case weitergang::verlassen:
+            nächstes_rennen(ergebnis);
+            break;
+    }
+    zeigen();
+    return true;
+}
+
+void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
+    const int rennen = uebergabe_.rennen;
+    buchen(ergebnis);
+    if (start_ != 0) {
+        renndauern_.push_back(um_.uhr.jetzt() - start_);
+    }
+    um_.ablage.rennen_sichern(stand_, rennen, ergebnis);
+    if (stand_.ende_pruefen()) {
+        automatik_an_ = false;
+    } else {
+        stand_.naechstes_offenes_rennen();
+    }
+    sichern();
+    um_.ablage.zwischenstand_sichern(stand_);
+    if (stand_.ende_pruefen()) {
+        um_.ablage.tabelle_sichern(stand_);
+    } else if (automatik_an_) {
+        automat_.auf_naechstes_rennen(um_.einst.w_zeit1);
+    }
+}
+
+void wettkampfabend::am_start_warten() {
+    if (!automatik_an_) {
+        return;
+    }
+    if (um_.einst.w_einfahren_an) {
+        automat_.auf_einfahren();
+    } else {
+        automat_.auf_rennstart();
+    }
+}
+
+void wettkampfabend::einfahren_beendet() {
+    if (automatik_an_) {
+        automat_.auf_rennstart();
+    }
+}
+
+bool wettkampfabend::w_auto2_vorbei() {
+    um_.bahn.Command6.klicken();
+    return true;
+}
+
+bool wettkampfabend::w_auto3_vorbei() {
+    if (messgeraet_da && !messgeraet_da()) {
+        return false;  // nobody is there to answer the question whether to start all the same
+    }
+    um_.bahn.Command1.klicken();
+    return true;
+}
+
+void wettkampfabend::automatik_umschalten() {
+    um_.einst.w_autom = !um_.einst.w_autom;
+    if (!um_.einst.w_autom) {
+        automat_.aus();
+        automatik_an_ = false;
+    }
+    zeigen();
+}
+
+void wettkampfabend::wartezeit_zeigen() {
+    for (abendansicht* ansicht : ansichten_) {
+        ansicht->wartezeit_zeigen();
+    }
+}
+
+void wettkampfabend::sichern() {
+    um_.ablage.laufenden_sichern(stand_);
+}
+
+void wettkampfabend::zeigen() {
+    for (abendansicht* ansicht : ansichten_) {
+        ansicht->stand_zeigen();
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "competition/abendblick.h"
+#include "competition/rennautomat.h"
+#include "competition/wettkampf.h"
+#include "core/einstellungen.h"
+#include "core/fensterregister.h"
+#include "core/renn_parameter.h"
+#include "core/texte.h"
+#include "platform/uhr.h"
+#include "race/bahn1.h"
+#include "race/veranstaltung.h"
+#include "results/einzelrennen.h"
+
+namespace tarvel {
+
+/// Where the evening is kept.
+class wettkampfablage : public schnittstelle {
+public:
+    /// What the program needs to take up the evening after its end, whenever that comes.
+    virtual void laufenden_sichern(const wettkampf& stand) = 0;
+    /// The evening has been ended: there is nothing to take up.
+    virtual void laufenden_vergessen() = 0;
+    /// A dated file of the state, if the settings want it.
+    virtual void zwischenstand_sichern(const wettkampf& stand) = 0;
+    /// The race's own file, likewise.
+    virtual void rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) = 0;
+    /// The table of the whole competition.
+    virtual void tabelle_sichern(const wettkampf& stand) = 0;
+};
+
+/// Windows that show the evening.
+class abendansicht : public schnittstelle {
+public:
+    virtual void stand_zeigen() = 0;
+    virtual void wartezeit_zeigen() {}
+};
+
+/// An evening of many races: hands each race its drivers and lanes, takes its result, goes on to the next one, by
+/// itself if that is wanted, and is kept after every race.
+class wettkampfabend final : public veranstaltung, private automatenfolgen {
+public:
+    struct umgebung {
+        renn_parameter& param;
+        einstellungen& einst;
+        laufende_veranstaltung& teil_von;
+        bahn1& bahn;
+        fensterregister& fenster;
+        wettkampfablage& ablage;
+        plattform::zeitgeber_dienst& zeitgeber;
+        const plattform::uhr& uhr;
+    };
+
+    explicit wettkampfabend(const umgebung& um) : um_(um), automat_(um.zeitgeber, *this) {}
+
+    /// Told whenever something has changed.
+    void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
+    /// The automatic flow starts no race while this is false. May be empty.
+    std::function<bool()> messgeraet_da;
+
+    const wettkampf& stand() const { return stand_; }
+    bool wettkampf_aktiv() const { return aktiv_; }
+    abendblick blick() const { return abend_blicken(stand_, renndauern_); }
+
+    /// A new evening, or one that is taken up again.
+    void beginnen(wettkampf neu);
+    /// The evening is over. What has been driven is kept where it has been saved.
+    void beenden();
+    /// Opens the race window on the current race. False if none is left.
+    bool rennen_starten();
+    /// What the director changes: keeps it and shows it, if `was` says true.
+    bool aendern(const std::function<bool(wettkampf&)>& was);
+
+    void automatik_umschalten();
+    /// The next race comes by itself.
+    bool automatik_an() const { return automatik_an_; }
+    /// A race has been broken off since it was last started.
+    bool unterbrochen() const { return unterbrochen_; }
+    bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
+    dauer_s wartezeit() const { return automat_.rest(); }
+    /// The warm-up is over: with the automatic flow the race follows.
+    void einfahren_beendet();
+
+    starter wer_startet() const override { return um_.einst.w_einfahren_an ? starter::einfahrzeit : starter::bediener; }
+    bool ist_fueller(int spur) const override { return uebergabe_.fueller[spur]; }
+    bool fueller_fahren(bool /*fortgesetzt*/) const override { return false; }
+    bool leer_gezeigt(int spur) const override { return uebergabe_.fueller[spur] && !um_.einst.freie_slots; }
+    std::string naechste_fahrer() const override;
+    void begonnen() override;
+    void abgebrochen() override;
+    bool mit_spurwechsel() const override { return false; }
+    std::optional<spuren<int>> fester_wechsel() const override { return stand_.plan.herkunft; }
+    std::optional<zeit_ms> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
+    bool mit_eigener_datei() const override { return false; }
+    ausweg weg_hinaus() const override { return weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter; }
+    selbstlauf danach() const override;
+    bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
+    fenstername zurueck() const override { return fenstername::wettkampf2; }
+
+private:
+    void w_auto1_vorbei() override { rennen_starten(); }
+    bool w_auto2_vorbei() override;
+    bool w_auto3_vorbei() override;
+    void wartezeit_zeigen() override;
+
+    /// The race goes on with its cars on the next lanes. One that would grow too long is started anew for the rest.
+    bool weiterer_teil() const {
+        return uebergabe_.teil < stand_.plan.teile &&
+               um_.param.renn_ziel + um_.param.renn_laenge <= renn_maximum(um_.param);
+    }
+    void uebergeben();
+    void buchen(const rennergebnis& ergebnis);
+    void nächstes_rennen(const rennergebnis& ergebnis);
+    void am_start_warten();
+    void sichern();
+    void zeigen();
+
+    umgebung um_;
+    rennautomat automat_;
+    std::vector<abendansicht*> ansichten_;
+    wettkampf stand_;
+    renn_uebergabe uebergabe_;   ///< of the race that is being driven
+    int ab_teil_ = 1;            ///< the part with which it was started
+    bool teil_gebucht_ = false;  ///< its result is in the books, and it has not gone on since
+    bool aktiv_ = false;
+    bool automatik_an_ = false;
+    bool unterbrochen_ = false;
+    std::vector<zeit_ms> renndauern_;  ///< from one start to the next
+    zeit_ms start_ = 0;                ///< of the last race that was started
+};
+
+}  // namespace tarvel
