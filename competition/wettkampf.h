@@ -119,6 +119,8 @@ struct wettkampf {
     int rennen_gesamt() const { return plan.rennen_gesamt(); }
     int plaetze() const { return static_cast<int>(teilnehmer.size()); }
     bool ist_fueller(int platz) const { return plan.platz(platz).ist_fueller(); }
+    /// Where each meets each.
+    int heats_je_fahrer() const { return 2 * (plan.rennen_teilnehmer - 1); }
     /// Empty for place 0, nobody.
     std::string name(int platz) const;
 

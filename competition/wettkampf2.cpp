@@ -261,7 +261,7 @@ void wettkampf2::wettkampf_beenden() {
     }
     std::optional<std::vector<std::string>> qualifying;
     if (w.qualifying_an) {
-        qualifying = qualifying_reihenfolge(w);
+        qualifying = qualifying_uebernehmen(w);
     }
     abend_.beenden();
     for (const fenstername fenster : {fenstername::rangliste, fenstername::w_auswertung, fenstername::wettkampf2}) {

@@ -14,17 +14,6 @@ namespace {
 /// One lane takes five fields of a line, so that a table program shows the lanes side by side.
 using feldblock = std::array<std::string, 5>;
 
-/// A separator within a name would move the columns.
-std::string ohne_trenner(std::string text, const std::string& trenner) {
-    const std::string ersatz = trenner == " " ? "_" : " ";
-    std::size_t stelle = text.find(trenner);
-    while (!trenner.empty() && stelle != std::string::npos) {
-        text.replace(stelle, trenner.size(), ersatz);
-        stelle = text.find(trenner, stelle + ersatz.size());
-    }
-    return text;
-}
-
 /// The class in front of a driver's name, with its separator; class "0" if he has none.
 std::pair<std::string, std::string> klasse_und_name(const std::string& fahrer, const std::string& trenner) {
     const std::string_view klasse = links(fahrer, 1);

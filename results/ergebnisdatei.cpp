@@ -40,4 +40,14 @@ std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment) {
     return stempel;
 }
 
+std::string ohne_trenner(std::string text, const std::string& trenner) {
+    const std::string ersatz = trenner == " " ? "_" : " ";
+    std::size_t stelle = text.find(trenner);
+    while (!trenner.empty() && stelle != std::string::npos) {
+        text.replace(stelle, trenner.size(), ersatz);
+        stelle = text.find(trenner, stelle + ersatz.size());
+    }
+    return text;
+}
+
 }  // namespace tarvel

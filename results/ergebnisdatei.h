@@ -30,4 +30,7 @@ ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen);
 /// Name of a result file: date and time without their separators and without the last digit of the seconds.
 std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment);
 
+/// A separator within a name would move the columns.
+std::string ohne_trenner(std::string text, const std::string& trenner);
+
 }  // namespace tarvel

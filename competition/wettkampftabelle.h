@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "competition/wettkampf.h"
+#include "core/zeit.h"
+
+namespace tarvel {
+
+/// The words over the columns.
+struct wettkampf_worte {
+    std::string name = "Name";
+    std::string runden = "Runden";
+    std::string einzelrunden = "Einzelrunden";
+    std::string meter = "Meter";
+    std::string beste_runde = "beste Runde";
+    std::string gesamtzeit = "Gesamtzeit";
+};
+
+/// The table of the standing, line by line: the drivers by their metres, with what they have on each lane.
+std::vector<std::string> wettkampf_tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,
+                                                     const trennzeichen_tabelle& trennzeichen);
+/// The same where each meets each: the drivers as they stand on the start list, with their heats.
+std::vector<std::string> jeder_tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,
+                                                 const trennzeichen_tabelle& trennzeichen);
+/// The one that belongs to this competition.
+std::vector<std::string> tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,
+                                           const trennzeichen_tabelle& trennzeichen);
+
+}  // namespace tarvel
