@@ -54,10 +54,28 @@ void speichernfenster::oeffnen(dateiauftrag auftrag) {
 
 void speichernfenster::liste_fuellen() {
     dateiliste.leeren();
-    const std::string endung = alle_dateien.gesetzt() ? "" : auftrag_.endung;
-    for (const std::string& datei : um_.ablage.auflisten(auftrag_.ordner, "", endung)) {
-        dateiliste.hinzufuegen(datei);
+    std::vector<dateiort> orte{{auftrag_.ordner, auftrag_.endung}};
+    orte.insert(orte.end(), auftrag_.weitere_orte.begin(), auftrag_.weitere_orte.end());
+    for (const dateiort& ort : orte) {
+        for (const std::string& datei :
+             um_.ablage.auflisten(ort.ordner, "", alle_dateien.gesetzt() ? "" : ort.endung)) {
+            dateiliste.hinzufuegen(datei);
+        }
     }
+}
+
+std::string speichernfenster::pfad_von(const std::string& datei) const {
+    for (const dateiort& ort : auftrag_.weitere_orte) {
+        for (const std::string& name : {datei, datei + ort.endung}) {
+            if (std::string dort = ort.ordner + "\\" + name; um_.ablage.gibt_es(dort)) {
+                return dort;
+            }
+        }
+    }
+    const bool hat_endung = auftrag_.andere_endung_bleibt ? datei.size() >= 4 && datei[datei.size() - 4] == '.'
+                                                          : endet_auf(datei, auftrag_.endung);
+    const std::string wie_getippt = auftrag_.ordner + "\\" + datei;
+    return hat_endung || um_.ablage.gibt_es(wie_getippt) ? wie_getippt : wie_getippt + auftrag_.endung;
 }
 
 void speichernfenster::melden(const std::string& text) {
@@ -75,12 +93,8 @@ void speichernfenster::ausfuehren() {
         melden(wort_.zeichen);
         return;
     }
-    const bool hat_endung = auftrag_.andere_endung_bleibt ? datei.size() >= 4 && datei[datei.size() - 4] == '.'
-                                                          : endet_auf(datei, auftrag_.endung);
-    if (!hat_endung && !um_.ablage.gibt_es(auftrag_.ordner + "\\" + datei)) {
-        datei += auftrag_.endung;
-    }
-    const std::string pfad = auftrag_.ordner + "\\" + datei;
+    const std::string pfad = pfad_von(datei);
+    datei = pfad.substr(pfad.rfind('\\') + 1);
     if (!auftrag_.speichern && !um_.ablage.gibt_es(pfad)) {
         melden(wort_.die_datei + " " + datei + " " + wort_.nicht_vorhanden);
         return;
@@ -89,7 +103,7 @@ void speichernfenster::ausfuehren() {
         !um_.meldungen.fragen(wort_.die_datei + " " + datei + " " + wort_.ueberschreiben, um_.txt.titel[0])) {
         return;
     }
-    if (auftrag_.ausfuehren(datei)) {
+    if (auftrag_.laden_von ? auftrag_.laden_von(pfad) : auftrag_.ausfuehren(datei)) {
         um_.fenster.entladen(kennung());
     }
 }

@@ -2,11 +2,18 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/fensterumgebung.h"
 #include "core/steuerelemente.h"
 
 namespace tarvel {
+
+/// Where files of one kind lie.
+struct dateiort {
+    std::string ordner;  ///< below the program folder
+    std::string endung;  ///< with its dot
+};
 
 /// What the window is opened for: to save one kind of file, or to load it.
 struct dateiauftrag {
@@ -21,6 +28,10 @@ struct dateiauftrag {
     std::function<bool(const std::string& name)> ausfuehren;
     std::string name_fehlt = {};        ///< what is said of an empty name, if not the window's own text
     bool andere_endung_bleibt = false;  ///< a name with any ending of three letters gets no second one
+    /// What is loaded may lie in one of these places too, ...
+    std::vector<dateiort> weitere_orte = {};
+    /// ... and then is given with its folder; takes the place of `ausfuehren`.
+    std::function<bool(const std::string& pfad)> laden_von = {};
 };
 
 /// The window in which a file is chosen for saving or loading.
@@ -49,6 +60,8 @@ protected:
 private:
     void liste_fuellen();
     void ausfuehren();
+    /// The name as typed, or with its ending, where there is such a file; else where one would be.
+    std::string pfad_von(const std::string& datei) const;
     void melden(const std::string& text);
 
     struct worte {
