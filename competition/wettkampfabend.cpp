@@ -19,7 +19,7 @@ void wettkampfabend::beginnen(wettkampf neu) {
     if (!stand_.ende_pruefen()) {
         stand_.naechstes_offenes_rennen();
     }
-    sichern();
+    gesichert(sichern());
     zeigen();
 }
 
@@ -65,7 +65,7 @@ bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
     if (!was(stand_)) {
         return false;
     }
-    sichern();
+    gesichert(sichern());
     zeigen();
     return true;
 }
@@ -99,7 +99,7 @@ void wettkampfabend::abgebrochen() {
     automatik_an_ = false;
     unterbrochen_ = true;
     start_ = 0;
-    sichern();
+    gesichert(sichern());
     zeigen();
 }
 
@@ -123,13 +123,13 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
             stand_.wiederholen(uebergabe_.rennen);
             uebergeben();
             ab_teil_ = uebergabe_.teil;
-            sichern();
+            gesichert(sichern());
             break;
         case weitergang::fortsetzen:
             buchen(ergebnis);
             teil_gebucht_ = true;
             uebergabe_ = stand_.uebergabe();
-            sichern();
+            gesichert(sichern());
             break;
         case weitergang::verlassen:
             nächstes_rennen(ergebnis);
@@ -145,19 +145,17 @@ void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     if (start_ != 0) {
         renndauern_.push_back(um_.uhr.jetzt() - start_);
     }
-    um_.ablage.rennen_sichern(stand_, rennen, ergebnis);
+    stand_.naechstes_offenes_rennen();
+    bool alles = um_.ablage.rennen_sichern(stand_, rennen, ergebnis);
+    alles = sichern() && alles;
+    alles = um_.ablage.zwischenstand_sichern(stand_) && alles;
     if (stand_.ende_pruefen()) {
+        alles = um_.ablage.tabelle_sichern(stand_) && alles;
         automatik_an_ = false;
-    } else {
-        stand_.naechstes_offenes_rennen();
-    }
-    sichern();
-    um_.ablage.zwischenstand_sichern(stand_);
-    if (stand_.ende_pruefen()) {
-        um_.ablage.tabelle_sichern(stand_);
     } else if (automatik_an_) {
         automat_.auf_naechstes_rennen(um_.einst.w_zeit1);
     }
+    gesichert(alles);
 }
 
 void wettkampfabend::am_start_warten() {
@@ -205,8 +203,11 @@ void wettkampfabend::wartezeit_zeigen() {
     }
 }
 
-void wettkampfabend::sichern() {
-    um_.ablage.laufenden_sichern(stand_);
+void wettkampfabend::gesichert(bool alles) {
+    nicht_gesichert_ = !alles;
+    if (!alles && !automatik_an_) {
+        um_.ablage.fehler_melden();
+    }
 }
 
 void wettkampfabend::zeigen() {

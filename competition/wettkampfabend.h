@@ -17,19 +17,21 @@
 
 namespace tarvel {
 
-/// Where the evening is kept.
+/// Where the evening is kept. A file that could not be written is false.
 class wettkampfablage : public schnittstelle {
 public:
     /// What the program needs to take up the evening after its end, whenever that comes.
-    virtual void laufenden_sichern(const wettkampf& stand) = 0;
+    virtual bool laufenden_sichern(const wettkampf& stand) = 0;
     /// The evening has been ended: there is nothing to take up.
     virtual void laufenden_vergessen() = 0;
     /// A dated file of the state, if the settings want it.
-    virtual void zwischenstand_sichern(const wettkampf& stand) = 0;
+    virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;
     /// The race's own file, likewise.
-    virtual void rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) = 0;
+    virtual bool rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) = 0;
     /// The table of the whole competition.
-    virtual void tabelle_sichern(const wettkampf& stand) = 0;
+    virtual bool tabelle_sichern(const wettkampf& stand) = 0;
+    /// A file could not be written: tells the operator.
+    virtual void fehler_melden() = 0;
 };
 
 /// Windows that show the evening.
@@ -79,6 +81,8 @@ public:
     bool automatik_an() const { return automatik_an_; }
     /// A race has been broken off since it was last started.
     bool unterbrochen() const { return unterbrochen_; }
+    /// The last time that something was to be kept it could not be.
+    bool nicht_gesichert() const { return nicht_gesichert_; }
     bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
     dauer_s wartezeit() const { return automat_.rest(); }
     /// The warm-up is over: with the automatic flow the race follows.
@@ -115,7 +119,9 @@ private:
     void buchen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();
-    void sichern();
+    /// Tells of a failure, but while nobody may be there.
+    void gesichert(bool alles);
+    bool sichern() { return um_.ablage.laufenden_sichern(stand_); }
     void zeigen();
 
     umgebung um_;
@@ -128,6 +134,7 @@ private:
     bool aktiv_ = false;
     bool automatik_an_ = false;
     bool unterbrochen_ = false;
+    bool nicht_gesichert_ = false;
     std::vector<zeit_ms> renndauern_;  ///< from one start to the next
     zeit_ms start_ = 0;                ///< of the last race that was started
 };

@@ -5,18 +5,9 @@
 
 #include "competition/wettkampf.h"
 #include "core/zeit.h"
+#include "results/tabellenworte.h"
 
 namespace tarvel {
-
-/// The words over the columns.
-struct wettkampf_worte {
-    std::string name = "Name";
-    std::string runden = "Runden";
-    std::string einzelrunden = "Einzelrunden";
-    std::string meter = "Meter";
-    std::string beste_runde = "beste Runde";
-    std::string gesamtzeit = "Gesamtzeit";
-};
 
 /// The table of the standing, line by line: the drivers by their metres, with what they have on each lane.
 std::vector<std::string> wettkampf_tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,

@@ -96,6 +96,19 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
     um_.ansicht.einrichtung_zeigen();
 }
 
+renneinrichtung einstellungsdatei::einrichtung() const {
+    einstellungen uebrige;
+    renneinrichtung neu;
+    const einstellungs_ziel ziel{uebrige, neu, um_.ziel.txt};
+    const auto& tabelle = einstellungstabelle();
+    for (int z = 1; z <= z::letzte_gelesene; ++z) {
+        if (tabelle[platz(z)].laden) {
+            tabelle[platz(z)].laden(ziel, zeile(z));
+        }
+    }
+    return neu;
+}
+
 void einstellungsdatei::hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_start) {
     messhardware& hardware = um_.ziel.einst.hardware;
     if (hw_4x4_modus_start) {

@@ -42,6 +42,8 @@ public:
     /// Asked in the middle of taking over, as soon as it is known which best times are wanted; null before the start
     /// has come to them.
     bestzeitfolgen* bestzeiten = nullptr;
+    /// The set-up of the race in the file last read, whose settings stay as they are.
+    renneinrichtung einrichtung() const;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 

@@ -152,6 +152,8 @@ public:
     void messgeraet_getrennt(bool getrennt);
     /// What a message says more of a port that this lock file holds; nothing without one.
     std::string anschluss_gesperrt(const std::string& sperrdatei) const;
+    /// The races of a competition go on: nobody sets up another race meanwhile.
+    void wettkampf_laeuft(bool laeuft) { inhalt.aktiviert(!laeuft); }
     /// The AT-2560 is set up: until it is, nobody works in the window.
     void wartehinweis(bool an);
     /// The key F1.

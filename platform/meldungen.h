@@ -6,12 +6,16 @@
 
 namespace tarvel::plattform {
 
+enum class dreifache_antwort { ja, nein, abbrechen };
+
 /// Message boxes. They return when the operator has closed the box; timers go on ticking meanwhile.
 class meldungen : public schnittstelle {
 public:
     virtual void zeigen(std::string_view text, std::string_view titel) = 0;
     /// A question with yes and no; closing the box means no.
     virtual bool fragen(std::string_view text, std::string_view titel) = 0;
+    /// With a way out; closing the box takes it.
+    virtual dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) = 0;
 };
 
 }  // namespace tarvel::plattform

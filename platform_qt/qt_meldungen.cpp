@@ -35,4 +35,18 @@ bool QtMeldungen::fragen(std::string_view text, std::string_view titel) {
     return box.clickedButton() == ja;
 }
 
+plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
+    QMessageBox box(QMessageBox::Question, als_text(titel), als_text(text), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setObjectName("frage");
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* ja = box.addButton("Ja", QMessageBox::YesRole);
+    QPushButton* nein = box.addButton("Nein", QMessageBox::NoRole);
+    box.setDefaultButton(nein);
+    box.setEscapeButton(box.addButton("Abbrechen", QMessageBox::RejectRole));
+    box.exec();
+    using antwort = plattform::dreifache_antwort;
+    return box.clickedButton() == ja ? antwort::ja : box.clickedButton() == nein ? antwort::nein : antwort::abbrechen;
+}
+
 }  // namespace tarvel::qt

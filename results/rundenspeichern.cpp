@@ -29,7 +29,10 @@ sprachliste rundenspeichern::sprache() {
     texte.text("Spurlänge", wort_.spurlaenge).text("Sektorlänge", wort_.sektorlaenge);
     texte.text("Restmeter", wort_.restmeter).text("Gesamtmeter", wort_.gesamtmeter);
     texte.text("Gesamtzeit", wort_.gesamtzeit);
-    return texte.text("Fehler beim Schreiben in Tages-Datei.", tagesfehler_);
+    texte.text("Fehler beim Schreiben in Tages-Datei.", tagesfehler_);
+    texte.text("Name", tabelle_.name).text("Runden", tabelle_.runden).text("Einzelrunden", tabelle_.einzelrunden);
+    texte.text("Meter", tabelle_.meter).text("beste Runde", tabelle_.beste_runde);
+    return texte.text("Gesamtzeit", tabelle_.gesamtzeit);
 }
 
 std::string rundenspeichern::stempel() const {
@@ -37,22 +40,38 @@ std::string rundenspeichern::stempel() const {
 }
 
 void rundenspeichern::oeffnen(const rennergebnis& ergebnis) {
+    oeffnen(stempel(), ergebnis_ordner::einzelrennen, endung, [this, &ergebnis](const std::string& gewaehlt) {
+        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + gewaehlt, ergebnis);
+    });
+}
+
+void rundenspeichern::oeffnen(const std::string& vorschlag, std::string_view ordner, std::string_view mit_endung,
+                              std::function<bool(const std::string& name)> schreiben) {
     um_.fenster.laden(fenstername::rundenspeichern);
     dateiauftrag auftrag;
     auftrag.speichern = true;
     auftrag.titel = titel_;
     auftrag.ueberschrift = um_.txt.datei_text[1];
     auftrag.knopf = um_.txt.datei_text[0];
-    auftrag.ordner = ergebnis_ordner::einzelrennen;
-    auftrag.endung = endung;
+    auftrag.ordner = ordner;
+    auftrag.endung = mit_endung;
     auftrag.andere_endung_bleibt = true;
     auftrag.name_fehlt = name_fehlt_;
-    auftrag.vorschlag = stempel() + std::string(endung);
-    auftrag.ausfuehren = [this, &ergebnis](const std::string& gewaehlt) {
-        return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + gewaehlt, ergebnis) ||
-               schreibfehler_melden();
+    auftrag.vorschlag = vorschlag + std::string(mit_endung);
+    auftrag.ausfuehren = [this, schreiben = std::move(schreiben)](const std::string& gewaehlt) {
+        return schreiben(gewaehlt) || schreibfehler_melden();
     };
     speichernfenster::oeffnen(std::move(auftrag));
+}
+
+bool rundenspeichern::rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis) {
+    texte_lesen();
+    return einzelrennen_schreiben(pfad, ergebnis);
+}
+
+const wettkampf_worte& rundenspeichern::tabellenworte() {
+    texte_lesen();
+    return tabelle_;
 }
 
 bool rundenspeichern::automatisch_speichern(const rennergebnis& ergebnis) {

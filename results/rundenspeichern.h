@@ -1,10 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "core/speichernfenster.h"
 #include "platform/kalender.h"
 #include "results/einzelrennen_datei.h"
+#include "results/tabellenworte.h"
 
 namespace tarvel {
 
@@ -22,6 +25,15 @@ public:
     /// Saves the single race without a question. A failure shows its message and is false, unless the operator has
     /// saved this very result already.
     bool automatisch_speichern(const rennergebnis& ergebnis);
+    /// Writes the result of one of many races. A failure is not shown.
+    bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
+    /// Opens the window for another file of the results. `schreiben` gets its name; a failure shows its message.
+    void oeffnen(const std::string& vorschlag, std::string_view ordner, std::string_view endung,
+                 std::function<bool(const std::string& name)> schreiben);
+    /// The words of a competition's table.
+    const wettkampf_worte& tabellenworte();
+    /// Always false.
+    bool schreibfehler_melden();
     /// Adds the result to the file of the day race, likewise. A file that is none of a day race stays as it is.
     bool tages_ergebnis_schreiben(const std::string& datei, const rennergebnis& ergebnis);
 
@@ -30,13 +42,12 @@ private:
         return einzelrennen_zeilen(ergebnis, wort_, trennzeichen_);
     }
     bool einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
-    /// Always false.
-    bool schreibfehler_melden();
     std::string stempel() const;
 
     const trennzeichen_tabelle& trennzeichen_;
     const plattform::kalender& kalender_;
     ergebnis_worte wort_;
+    wettkampf_worte tabelle_;
     std::string titel_;
     std::string name_fehlt_;
     std::string schreibfehler_;

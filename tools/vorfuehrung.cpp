@@ -57,6 +57,10 @@ public:
         zeigen(text, titel);
         return false;
     }
+    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override {
+        zeigen(text, titel);
+        return plattform::dreifache_antwort::abbrechen;
+    }
     std::string gemeldet;
 };
 

@@ -111,6 +111,11 @@ bool test_plattform::fragen(std::string_view text, std::string_view titel) {
     return antwort;
 }
 
+plattform::dreifache_antwort test_plattform::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
+    fragen_gestellt.push_back({std::string(text), std::string(titel)});
+    return antwort_mit_ausweg;
+}
+
 bool test_plattform::neue_datei(const fs::path& pfad, std::string_view inhalt) const {
     const std::string name = pfad_als_utf8(pfad.filename());
     if (fs::exists(fs::symlink_status(pfad)) ||

@@ -57,6 +57,7 @@ public:
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
     bool antwort = false;                    ///< to every question
+    plattform::dreifache_antwort antwort_mit_ausweg = plattform::dreifache_antwort::abbrechen;
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::vector<std::string> sounds;
     test_anschluesse anschluesse;
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
+    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
     void bereitstellen(std::string_view /*datei*/) override {}
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
     bool ist_einzige_instanz() override { return erste_instanz; }

@@ -1,0 +1,80 @@
+#include "competition/wettkampfspeicher.h"
+
+#include "competition/wettkampfdatei.h"
+#include "competition/wettkampftabelle.h"
+#include "results/ergebnisdatei.h"
+
+namespace tarvel {
+namespace {
+
+const std::string ordner = std::string(ergebnis_ordner::wettkampf) + "\\";
+const std::string zwischenordner = std::string(ergebnis_ordner::wettkampf_zwischenstand) + "\\";
+
+}  // namespace
+
+std::string wettkampfspeicher::stamm(const wettkampf& stand) const {
+    return als_dateiname(stand.wettkampf_name) + "-" + ergebnis_stempel(um_.kalender.jetzt());
+}
+
+std::string wettkampfspeicher::freier_pfad(const std::string& anfang, const std::string& endung) const {
+    std::string pfad = anfang + endung;
+    for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {
+        pfad = anfang + "-" + std::to_string(nummer) + endung;
+    }
+    return pfad;
+}
+
+bool wettkampfspeicher::stand_schreiben(const std::string& pfad, const wettkampf& stand) {
+    return wettkampf_speichern(um_.ablage, pfad, um_.datei, stand, um_.einst.trennzeichen);
+}
+
+bool wettkampfspeicher::tabelle_schreiben(const std::string& pfad, const wettkampf& stand) {
+    return um_.ablage.zeilen_schreiben(
+        pfad, tarvel::tabelle_schreiben(stand, um_.fenster.tabellenworte(), um_.einst.trennzeichen));
+}
+
+bool wettkampfspeicher::laufenden_sichern(const wettkampf& stand) {
+    return stand_schreiben(std::string(laufender_wettkampf), stand);
+}
+
+void wettkampfspeicher::laufenden_vergessen() {
+    um_.ablage.loeschen(laufender_wettkampf);
+}
+
+bool wettkampfspeicher::zwischenstand_sichern(const wettkampf& stand) {
+    return !um_.einst.w_speichern || stand_schreiben(freier_pfad(zwischenordner + stamm(stand), ".wta"), stand);
+}
+
+bool wettkampfspeicher::rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) {
+    const std::string anfang = ordner + stamm(stand) + "-Rennen" + std::to_string(rennen);
+    return !um_.einst.aut_speichern || um_.fenster.rennen_schreiben(freier_pfad(anfang, ".csv"), ergebnis);
+}
+
+bool wettkampfspeicher::tabelle_sichern(const wettkampf& stand) {
+    return tabelle_schreiben(freier_pfad(ordner + stamm(stand), ".csv"), stand);
+}
+
+void wettkampfspeicher::stand_speichern_unter(const wettkampf& stand) {
+    um_.fenster.oeffnen(stamm(stand), ergebnis_ordner::wettkampf, ".wtk",
+                        [this, &stand](const std::string& name) { return stand_schreiben(ordner + name, stand); });
+}
+
+void wettkampfspeicher::tabelle_speichern_unter(const wettkampf& stand) {
+    um_.fenster.oeffnen(stamm(stand), ergebnis_ordner::wettkampf, ".csv",
+                        [this, &stand](const std::string& name) { return tabelle_schreiben(ordner + name, stand); });
+}
+
+void wettkampfspeicher::laden_von(std::function<bool(const std::string& pfad)> laden) {
+    dateiauftrag auftrag;
+    auftrag.titel = um_.txt.datei_text[5];
+    auftrag.ueberschrift = um_.txt.datei_text[3];
+    auftrag.knopf = um_.txt.datei_text[2];
+    auftrag.ordner = ergebnis_ordner::wettkampf_zwischenstand;
+    auftrag.endung = ".wta";
+    auftrag.weitere_orte = {{std::string(ergebnis_ordner::wettkampf_zwischenstand), ".wtk"},
+                            {std::string(ergebnis_ordner::wettkampf), ".wtk"}};
+    auftrag.laden_von = std::move(laden);
+    um_.fenster.speichernfenster::oeffnen(std::move(auftrag));
+}
+
+}  // namespace tarvel

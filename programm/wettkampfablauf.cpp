@@ -1,0 +1,118 @@
+#include "programm/wettkampfablauf.h"
+
+#include <utility>
+
+#include "competition/wettkampfdatei.h"
+#include "core/zeit.h"
+
+namespace tarvel {
+namespace {
+
+// What stays when an evening that was cut off is not to go on: it can be loaded like any other.
+constexpr std::string_view abgelegt = "Ergebnisse\\Wettkampf\\nicht beendet ";
+
+}  // namespace
+
+void wettkampfablauf::beginnen(const wettkampfvorgabe& vorgabe) {
+    auto neu = wettkampf_beginnen(vorgabe.plan, vorgabe.fahrer, vorgabe.titel, um_.txt);
+    if (!neu) {
+        return;
+    }
+    for (std::size_t platz = 0; platz < neu->bilder.size(); ++platz) {
+        const int fahrer = neu->plan.teilnehmer.at(platz).fahrer;
+        if (fahrer > 0 && static_cast<std::size_t>(fahrer) <= vorgabe.bilder.size()) {
+            neu->bilder.at(platz) = vorgabe.bilder.at(static_cast<std::size_t>(fahrer) - 1);
+        }
+    }
+    neu->beginn = datum_text(um_.kalender.jetzt());
+    neu->rennlaenge = um_.param.renn_laenge;
+    neu->qualifying_an = vorgabe.qualifying;
+    neu->wertung = vorgabe.qualifying ? sortier_modus::beste : um_.param.auswertung_nach_rennen;
+    eroeffnen(std::move(*neu));
+}
+
+void wettkampfablauf::eroeffnen(wettkampf neu) {
+    um_.haupt.wettkampf_laeuft(true);
+    um_.abend.beginnen(std::move(neu));
+    um_.fenster.verbergen(fenstername::wettkampf1);
+    um_.fenster.zeigen(fenstername::wettkampf2);
+}
+
+void wettkampfablauf::laden() {
+    using antwort = plattform::dreifache_antwort;
+    antwort uebernehmen = antwort::nein;
+    if (!um_.einst.hardware.hw_cu) {  // that unit's settings are those of the track here
+        uebernehmen = um_.meldungen.fragen_mit_ausweg("Programmeinstellungen aus Datei übernehmen?", um_.txt.titel[0]);
+    }
+    if (uebernehmen == antwort::abbrechen) {
+        return;
+    }
+    const auto wie =
+        uebernehmen == antwort::ja ? einstellungen_aus_datei::uebernehmen : einstellungen_aus_datei::lassen;
+    um_.speicher.laden_von([this, wie](const std::string& pfad) {
+        if (laden(pfad, wie)) {
+            return true;
+        }
+        um_.meldungen.zeigen("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", um_.txt.titel[1]);
+        return false;
+    });
+}
+
+bool wettkampfablauf::laden(const std::string& pfad, einstellungen_aus_datei wie) {
+    auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, wie, version_melden::nein);
+    if (!gelesen) {
+        return false;
+    }
+    rennen_der_datei_uebergeben(*gelesen);
+    if (wie == einstellungen_aus_datei::uebernehmen) {
+        um_.folgen.einstellungen_geladen(true);
+    }
+    eroeffnen(std::move(*gelesen));
+    return true;
+}
+
+void wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
+    renneinrichtung einrichtung = um_.datei.einrichtung();
+    einrichtung.werte_pruefen();
+    rennen_uebergeben(einrichtung, um_.einst, rennumfang::wettkampf, um_.param);
+    renn_parameter& param = um_.param;
+    if (gelesen.rennlaenge > 0) {
+        param.renn_laenge = gelesen.rennlaenge;
+    } else if (param.ist_zeitrennen()) {
+        wettkampfdatei_uebergeben(einrichtung, param);
+        param.renn_laenge = param.renndauer_ms;
+    }
+    param.einrichtung_wiederherstellen();
+}
+
+void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::string>>& qualifying) {
+    um_.haupt.wettkampf_laeuft(false);
+    if (qualifying) {
+        vorbereitung->qualifying_uebernehmen(*qualifying);
+        um_.fenster.zeigen(fenstername::wettkampf1, anzeige_art::modal);
+    } else {
+        um_.fenster.entladen(fenstername::wettkampf1);
+        um_.fenster.zeigen(fenstername::Form1);
+    }
+}
+
+void wettkampfablauf::unterbrochenen_anbieten() {
+    if (!um_.ablage.gibt_es(laufender_wettkampf)) {
+        return;
+    }
+    const std::string pfad(laufender_wettkampf);
+    const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
+                                         version_melden::nein);
+    const bool fortsetzen =
+        gelesen && um_.meldungen.fragen("Der Wettkampf " + gelesen->wettkampf_name + " vom " + gelesen->beginn +
+                                            " wurde nicht beendet. Fortsetzen?",
+                                        um_.txt.titel[0]);
+    if (!fortsetzen) {
+        const plattform::datum_uhrzeit jetzt = um_.kalender.jetzt();
+        um_.ablage.umbenennen(pfad, std::string(abgelegt) + ergebnis_stempel(jetzt) + ".wtk");
+        return;
+    }
+    laden(pfad, um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen);
+}
+
+}  // namespace tarvel

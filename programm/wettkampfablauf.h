@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "competition/wettkampf1.h"
+#include "competition/wettkampf2.h"
+#include "competition/wettkampfabend.h"
+#include "competition/wettkampfspeicher.h"
+#include "core/einstellungsdatei.h"
+#include "core/form1.h"
+#include "programm/einstellungspflege.h"
+
+namespace tarvel {
+
+/// What a competition needs of the program around it.
+class wettkampfumfeld : public schnittstelle {
+public:
+    virtual void fahrerverwaltung_oeffnen() = 0;
+    virtual void bahnstrom_von_hand(bool an) = 0;
+};
+
+/// How a competition goes through the program: from its set-up, or from a file, into the evening, and out of it again.
+class wettkampfablauf final : public wettkampf1_folgen, public wettkampf2_folgen {
+public:
+    struct umgebung {
+        einstellungsdatei& datei;
+        einstellungen& einst;
+        renn_parameter& param;
+        const texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        const plattform::kalender& kalender;
+        form1& haupt;
+        einstellungsfolgen& folgen;
+        wettkampfumfeld& umfeld;
+        wettkampfabend& abend;
+        wettkampfspeicher& speicher;
+    };
+
+    explicit wettkampfablauf(const umgebung& um) : um_(um) {}
+    wettkampf1* vorbereitung = nullptr;  ///< set before the first competition
+
+    /// An evening that the end of the program has cut off is offered to go on.
+    void unterbrochenen_anbieten();
+
+    void beginnen(const wettkampfvorgabe& vorgabe) override;
+    void laden() override;
+    void auswertung() override {}
+    void wettkampf_beendet(const std::optional<std::vector<std::string>>& qualifying) override;
+    void stand_speichern_unter() override { um_.speicher.stand_speichern_unter(um_.abend.stand()); }
+    void tabelle_speichern_unter() override { um_.speicher.tabelle_speichern_unter(um_.abend.stand()); }
+    void fahrerverwaltung_oeffnen() override { um_.umfeld.fahrerverwaltung_oeffnen(); }
+    void bahnstrom(bool an) override { um_.umfeld.bahnstrom_von_hand(an); }
+
+private:
+    bool laden(const std::string& pfad, einstellungen_aus_datei wie);
+    /// Hands the race over as the file last read has it set up.
+    void rennen_der_datei_uebergeben(const wettkampf& gelesen);
+    void eroeffnen(wettkampf neu);
+
+    umgebung um_;
+};
+
+}  // namespace tarvel
