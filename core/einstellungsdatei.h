@@ -9,6 +9,7 @@
 #include "core/dateien.h"
 #include "core/einstellungszeile.h"
 #include "core/renn_parameter.h"
+#include "core/wechselschema.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
@@ -43,6 +44,10 @@ public:
     /// Asked in the middle of taking over, as soon as it is known which best times are wanted; null before the start
     /// has come to them.
     bestzeitfolgen* bestzeiten = nullptr;
+    /// The order of lanes in the lines read, none if it is not valid.
+    std::optional<wechsel_folge> wechselschema() const;
+    /// How the lines read have competitions drawn up.
+    wechselweise wettkampfweise() const;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 
