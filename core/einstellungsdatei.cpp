@@ -118,16 +118,29 @@ void einstellungsdatei::hardware_folgen(std::optional<modul_4x4> hw_4x4_modus_st
     hardware.simulation_ableiten();
 }
 
-void einstellungsdatei::wechselschema_uebernehmen() {
-    einstellungen& einst = um_.ziel.einst;
-    std::array<int, 8> schema{};
+std::optional<wechsel_folge> einstellungsdatei::wechselschema() const {
+    wechsel_folge schema{};
     for (std::size_t i = 1; i < schema.size(); ++i) {
         schema.at(i) = static_cast<int>(ganzzahl_lesen(zeile(z::schema_erste + static_cast<int>(i) - 1), 0, 8));
-        if (schema.at(i) < 1 || schema.at(i) > 7) {
-            return;
+        if (schema.at(i) < 1 || schema.at(i) > wechsel_pause) {
+            return std::nullopt;
         }
     }
-    einst.wechsel_schema = schema;
+    return schema;
+}
+
+wechselweise einstellungsdatei::wettkampfweise() const {
+    constexpr int z_wechselmodus = 103;
+    return static_cast<wechselweise>(ganzzahl_lesen(zeile(z_wechselmodus), 1, 3));
+}
+
+void einstellungsdatei::wechselschema_uebernehmen() {
+    einstellungen& einst = um_.ziel.einst;
+    const auto schema = wechselschema();
+    if (!schema) {
+        return;
+    }
+    einst.wechsel_schema = *schema;
     if (!zeile(z::schema_name).empty()) {
         einst.wechselschema_name = zeile(z::schema_name);
     }

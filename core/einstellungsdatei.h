@@ -8,6 +8,7 @@
 #include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungszeile.h"
+#include "core/wechselschema.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
@@ -44,6 +45,10 @@ public:
     bestzeitfolgen* bestzeiten = nullptr;
     /// The set-up of the race in the file last read, whose settings stay as they are.
     renneinrichtung einrichtung() const;
+    /// The order of lanes in the lines read, none if it is not valid.
+    std::optional<wechsel_folge> wechselschema() const;
+    /// How the lines read have competitions drawn up.
+    wechselweise wettkampfweise() const;
     /// The lines behind the settings of a competition file.
     const std::vector<std::string>& rest() const { return rest_; }
 
