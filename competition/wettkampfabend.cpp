@@ -40,6 +40,7 @@ bool wettkampfabend::rennen_starten() {
     ab_teil_ = uebergabe_.teil;
     teil_gebucht_ = false;
     automatik_an_ = um_.einst.w_autom;
+    von_selbst_ = false;
     unterbrochen_ = false;
     um_.teil_von.wechseln(*this);
     um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
@@ -68,6 +69,13 @@ bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
     gesichert(sichern());
     zeigen();
     return true;
+}
+
+starter wettkampfabend::wer_startet() const {
+    if (von_selbst_) {
+        return starter::ablauf;
+    }
+    return um_.einst.w_einfahren_an ? starter::einfahrzeit : starter::bediener;
 }
 
 std::string wettkampfabend::naechste_fahrer() const {
@@ -105,14 +113,17 @@ void wettkampfabend::abgebrochen() {
 
 selbstlauf wettkampfabend::danach() const {
     using schritt = selbstlauf::schritt;
-    return automatik_an_ ? selbstlauf{schritt::ausweg, ergebnis_steht} : selbstlauf{};
+    if (!automatik_an_) {
+        return {};
+    }
+    // between two parts the cars are moved
+    return {schritt::ausweg, weiterer_teil() ? um_.einst.w_zeit1 : dauer_ms(ergebnis_steht)};
 }
 
 void wettkampfabend::buchen(const rennergebnis& ergebnis) {
-    if (std::exchange(teil_gebucht_, false)) {
-        stand_.gefahren.pop_back();  // the same result once more, perhaps corrected
+    if (!teil_gebucht_) {
+        stand_.ergebnis_eintragen(fahrten_aus(ergebnis, stand_.gebucht(ab_teil_)));
     }
-    stand_.ergebnis_eintragen(fahrten_aus(ergebnis, stand_.gebucht(ab_teil_)));
 }
 
 bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
@@ -127,7 +138,8 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
             break;
         case weitergang::fortsetzen:
             buchen(ergebnis);
-            teil_gebucht_ = true;
+            // who has come back from the light without going on stands on his next lane already
+            wechsel_ = std::exchange(teil_gebucht_, true) ? spuren<int>{} : stand_.plan.herkunft;
             uebergabe_ = stand_.uebergabe();
             gesichert(sichern());
             break;

@@ -88,18 +88,22 @@ public:
     /// The warm-up is over: with the automatic flow the race follows.
     void einfahren_beendet();
 
-    starter wer_startet() const override { return um_.einst.w_einfahren_an ? starter::einfahrzeit : starter::bediener; }
+    starter wer_startet() const override;
+    void von_selbst_starten(bool an) override { von_selbst_ = an; }
     bool ist_fueller(int spur) const override { return uebergabe_.fueller[spur]; }
     bool fueller_fahren(bool /*fortgesetzt*/) const override { return false; }
     bool leer_gezeigt(int spur) const override { return uebergabe_.fueller[spur] && !um_.einst.freie_slots; }
     std::string naechste_fahrer() const override;
     void begonnen() override;
+    void weitergefahren() override { teil_gebucht_ = false; }
     void abgebrochen() override;
     bool mit_spurwechsel() const override { return false; }
-    std::optional<spuren<int>> fester_wechsel() const override { return stand_.plan.herkunft; }
+    std::optional<spuren<int>> fester_wechsel() const override { return wechsel_; }
     std::optional<zeit_ms> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
     bool mit_eigener_datei() const override { return false; }
-    ausweg weg_hinaus() const override { return weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter; }
+    ausweg weg_hinaus() const override {
+        return teil_gebucht_ || weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter;
+    }
     selbstlauf danach() const override;
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
     fenstername zurueck() const override { return fenstername::wettkampf2; }
@@ -130,9 +134,11 @@ private:
     wettkampf stand_;
     renn_uebergabe uebergabe_;   ///< of the race that is being driven
     int ab_teil_ = 1;            ///< the part with which it was started
+    spuren<int> wechsel_;        ///< into the next part, per lane the one that its driver comes from
     bool teil_gebucht_ = false;  ///< its result is in the books, and it has not gone on since
     bool aktiv_ = false;
     bool automatik_an_ = false;
+    bool von_selbst_ = false;  ///< the next part begins without anybody
     bool unterbrochen_ = false;
     bool nicht_gesichert_ = false;
     std::vector<zeit_ms> renndauern_;  ///< from one start to the next

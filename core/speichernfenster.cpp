@@ -66,8 +66,8 @@ void speichernfenster::liste_fuellen() {
 
 std::string speichernfenster::pfad_von(const std::string& datei) const {
     for (const dateiort& ort : auftrag_.weitere_orte) {
-        for (const std::string& name : {datei, datei + ort.endung}) {
-            if (std::string dort = ort.ordner + "\\" + name; um_.ablage.gibt_es(dort)) {
+        for (const std::string& gesucht : {datei, datei + ort.endung}) {
+            if (std::string dort = ort.ordner + "\\" + gesucht; um_.ablage.gibt_es(dort)) {
                 return dort;
             }
         }

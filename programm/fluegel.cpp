@@ -57,4 +57,9 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
                            folgen},
                           {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
 
+wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e)
+    : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
+      wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher,
+                      p.dienste.zeitgeber, p.dienste.uhr}) {}
+
 }  // namespace tarvel

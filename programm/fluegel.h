@@ -2,6 +2,8 @@
 
 #include "competition/intervalltraining.h"
 #include "competition/tagesrennen.h"
+#include "competition/wettkampfabend.h"
+#include "competition/wettkampfspeicher.h"
 #include "core/speichernfenster.h"
 #include "hardware/tastaturbelegung.h"
 #include "optionen/beste_zeiten_verwaltung.h"
@@ -56,6 +58,13 @@ struct optionsfluegel {
     tarvel::bildwahl fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
     tarvel::einstellungsfenster einstellungsfenster;
+};
+
+struct wettkampffluegel {
+    wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e);
+
+    tarvel::wettkampfspeicher wettkampfspeicher;
+    tarvel::wettkampfabend wettkampfabend;
 };
 
 }  // namespace tarvel

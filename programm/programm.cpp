@@ -31,6 +31,7 @@ programm::programm(const plattform::dienste& d)
       ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
       optionen_(std::make_unique<optionsfluegel>(*this, static_cast<optionsfolgen&>(*this),
                                                  static_cast<bestzeitfolgen&>(*this))),
+      wettkampf_(std::make_unique<wettkampffluegel>(*this, *rennen_, *ergebnisse_)),
       pflege_({datei,
                {einst, einrichtung, txt},
                form1,
@@ -62,6 +63,7 @@ programm::programm(const plattform::dienste& d)
       fahrerbild_laden(optionen_->fahrerbild_laden),
       beste_zeiten_verwaltung(optionen_->beste_zeiten_verwaltung),
       einstellungsfenster(optionen_->einstellungsfenster),
+      wettkampfabend(wettkampf_->wettkampfabend),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };

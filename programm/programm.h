@@ -42,11 +42,13 @@ class tastaturbelegung;
 class update_form;
 class veranstaltung;
 class wertung;
+class wettkampfabend;
 struct ergebnisfluegel;
 struct optionsfluegel;
 struct rennen;
 struct rennfluegel;
 struct startfluegel;
+struct wettkampffluegel;
 
 /// The whole program: owns every record and every wing, and puts them together. Two of them can live in one process.
 class programm final : private einstellungsfolgen, private optionsfolgen, private bestzeitfolgen {
@@ -91,6 +93,7 @@ private:
     std::unique_ptr<rennfluegel> rennen_;
     std::unique_ptr<ergebnisfluegel> ergebnisse_;
     std::unique_ptr<optionsfluegel> optionen_;
+    std::unique_ptr<wettkampffluegel> wettkampf_;
     einstellungspflege pflege_;
     std::unique_ptr<messgeraete> geraete_;
 
@@ -114,6 +117,7 @@ public:
     tarvel::bildwahl& fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung& beste_zeiten_verwaltung;
     tarvel::einstellungsfenster& einstellungsfenster;
+    tarvel::wettkampfabend& wettkampfabend;
     messgeraete& geraete;
 
 private:

@@ -136,6 +136,7 @@ void fortsetzung::weiterfahren() {
     }
     um_.zeitgeber.rennen_an();
     um_.quellen.melden(&messquelle::rennen_fortgesetzt);
+    um_.teil_von->weitergefahren();
     t_.ablauf.befehle_freigeben();
     t_.ansicht.freigeben();
     um_.bahn.Nachtabschaltung.sichtbar(dunkel_ || um_.bahn.Nachtabschaltung.sichtbar());

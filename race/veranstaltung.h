@@ -54,6 +54,8 @@ public:
     virtual std::string naechste_fahrer() const { return {}; }
     /// The start, or the warm-up before it, has begun.
     virtual void begonnen() {}
+    /// Green: the race goes on from its result.
+    virtual void weitergefahren() {}
     /// Broken off without a result.
     virtual void abgebrochen() {}
 

@@ -282,6 +282,7 @@ void auswertung::training_tick() {
 void auswertung::w_auto5_tick() {
     if (wartezeit_vorbei(wort_.weiter_in)) {
         w_auto5_->aus();
+        automatik_ = weg_hinaus() == aktion::fortsetzen;
         Command5.klicken();
     }
 }

@@ -1,0 +1,236 @@
+#include "competition/wettkampfabend.h"
+
+#include "competition/wettkampfspeicher.h"
+#include "competition/wettkampftabelle.h"
+#include "tests/programm_probe.h"
+
+namespace tarvel {
+namespace {
+
+/// A club evening of lap races, driven on the race window.
+class Wettkampfabend : public test::ProgrammProbe {
+protected:
+    Wettkampfabend() {
+        t.einrichten("Runden", "3", {1, 2, 3, 4});
+        t.p.fenster.entladen(fenstername::bahn1);
+        t.p.einst.aut_speichern = false;
+        t.p.einst.w_einfahren_an = false;
+    }
+
+    void beginnen(wettkampf_modus modus, int fahrer, const std::vector<int>& spuren, bool centermode = false) {
+        planvorgabe vorgabe;
+        vorgabe.modus = modus;
+        for (const int spur : spuren) {
+            vorgabe.aktiv[spur] = true;
+        }
+        vorgabe.centermode = centermode;
+        std::vector<std::string> namen;
+        for (int i = 0; i < fahrer; ++i) {
+            namen.push_back("Fahrer " + std::string(1, static_cast<char>('A' + i)));
+        }
+        auto neu = wettkampf_beginnen(vorgabe, namen, "Vereinsabend", t.p.txt);
+        ASSERT_TRUE(neu);
+        neu->rennlaenge = t.p.param.renn_laenge;
+        abend.beginnen(std::move(*neu));
+    }
+    /// Each lane that is in the race drives its laps.
+    void runden_fahren(int runden) {
+        for (int runde = 0; runde <= runden; ++runde) {
+            t.maschine.laufen(5500);
+            for (const int spur : alle_spuren) {
+                if (t.p.param.spur_aktiv[spur]) {
+                    t.maschine.laufen(150);
+                    t.taste(std::string(1, static_cast<char>('0' + spur)));
+                }
+            }
+        }
+        t.maschine.laufen(3000);
+    }
+    void gruen() {
+        ASSERT_TRUE(offen(fenstername::k_ampel));
+        t.p.k_ampel.Command1.klicken();
+        t.maschine.laufen(1500 * 3 + 2500);
+    }
+    void rennen_fahren() {
+        ASSERT_TRUE(abend.rennen_starten());
+        t.bahn().Command1.klicken();
+        runden_fahren(3);
+        ASSERT_TRUE(offen(fenstername::auswertung));
+        t.p.auswertung.Command5.klicken();
+    }
+
+    wettkampfabend& abend = t.p.wettkampfabend;
+};
+
+TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
+    beginnen(wettkampf_modus::rotation, 5, {1, 2, 4});
+    for (int rennen = 1; rennen <= 5; ++rennen) {
+        ASSERT_EQ(abend.stand().aktuelles_rennen, rennen);
+        rennen_fahren();
+        EXPECT_TRUE(offen(fenstername::bahn1) == false);
+    }
+    EXPECT_TRUE(abend.stand().ende_pruefen());
+    EXPECT_FALSE(abend.rennen_starten());
+    for (const fahrer_stand& fahrer : abend.stand().staende()) {
+        EXPECT_EQ(fahrer.fahrer_runden(0), 9);
+        EXPECT_EQ(fahrer.fahrer_runden(3), 0);
+        EXPECT_EQ(fahrer.fahrer_meter(0), 9 * 2500);
+    }
+}
+
+TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSich) {
+    beginnen(wettkampf_modus::am_stueck, 3, {1, 3, 4}, true);
+    ASSERT_EQ(abend.stand().plan.teile, 3);
+    const startfeld erstes = abend.stand().plan.feld(1, 1);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    for (int teil = 1; teil <= 3; ++teil) {
+        for (const int spur : {1, 3, 4}) {
+            EXPECT_EQ(t.p.param.fahrer_name[spur], abend.stand().name(abend.stand().plan.feld(1, teil)[spur]));
+        }
+        runden_fahren(teil == 1 ? 3 : 2);  // a continued lap goes on
+        ASSERT_TRUE(offen(fenstername::auswertung));
+        EXPECT_EQ(t.p.auswertung.Command5.text(), "Weiter");
+        t.p.auswertung.Command5.klicken();
+        EXPECT_EQ(abend.stand().fortsetzung_nummer(1), teil);
+        if (teil < 3) {
+            gruen();
+        }
+    }
+    EXPECT_FALSE(offen(fenstername::bahn1));
+    EXPECT_TRUE(abend.stand().ende_pruefen());
+    for (const int spur : {1, 3, 4}) {
+        const fahrer_stand fahrer = abend.stand().staende().at(static_cast<std::size_t>(erstes[spur] - 1));
+        EXPECT_EQ(fahrer.fahrer_runden(0), 9);
+        for (const int auf : {1, 3, 4}) {
+            EXPECT_EQ(fahrer.fahrer_runden(auf), 3);
+        }
+    }
+}
+
+TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
+    for (const bool ausblenden : {false, true}) {
+        t.p.einst.freie_slots = ausblenden;
+        beginnen(wettkampf_modus::gruppen, 3, {1, 2});
+        int mit_freiem = 0;
+        for (int rennen = 1; rennen <= 4; ++rennen) {
+            ASSERT_TRUE(abend.rennen_starten());
+            const renn_uebergabe dran = abend.stand().uebergabe();
+            for (const int spur : {1, 2}) {
+                mit_freiem += dran.fueller[spur] ? 1 : 0;
+                EXPECT_EQ(t.p.param.spur_aktiv[spur], !dran.fueller[spur]);
+                EXPECT_EQ(t.bahn().ansicht.inhalt().spur_aktiv[spur], !dran.fueller[spur] || !ausblenden);
+            }
+            t.bahn().Command1.klicken();
+            runden_fahren(3);
+            t.p.auswertung.Command5.klicken();
+        }
+        EXPECT_EQ(mit_freiem, 2);
+        EXPECT_TRUE(abend.stand().ende_pruefen());
+    }
+}
+
+TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
+    beginnen(wettkampf_modus::rotation, 4, {1, 2});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    t.p.auswertung.Command1.klicken();
+    EXPECT_TRUE(abend.stand().gefahren.empty());
+    ASSERT_TRUE(offen(fenstername::bahn1));
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(1000);
+    t.bahn().Command2.klicken();
+    EXPECT_FALSE(offen(fenstername::bahn1));
+    EXPECT_TRUE(abend.stand().gefahren.empty());
+    rennen_fahren();
+    EXPECT_EQ(abend.stand().gefahren.size(), 1U);
+    EXPECT_EQ(abend.stand().aktuelles_rennen, 2);
+}
+
+TEST_F(Wettkampfabend, VonSelbstVomErstenStartBisZurTabelle) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 20s;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    for (int rennen = 1; rennen <= 3; ++rennen) {
+        ASSERT_TRUE(offen(fenstername::bahn1));
+        t.maschine.laufen(2000);
+        EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+        t.maschine.laufen(1100);
+        EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+        runden_fahren(3);  // the result is seen for three seconds of its ten
+        ASSERT_TRUE(offen(fenstername::auswertung));
+        t.maschine.laufen(8000);
+        EXPECT_FALSE(offen(fenstername::auswertung));
+        EXPECT_EQ(abend.stand().fortsetzung_nummer(rennen), 1);
+        EXPECT_EQ(abend.wartet_auf_rennen(), rennen < 3);
+        t.maschine.laufen(19000);
+    }
+    EXPECT_TRUE(abend.stand().ende_pruefen());
+    EXPECT_FALSE(offen(fenstername::bahn1));
+    const auto tabellen = t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ".csv");
+    ASSERT_EQ(tabellen.size(), 1U);
+    EXPECT_EQ(*t.p.ablage.zeilen_lesen("Ergebnisse\\Wettkampf\\" + tabellen.front(), 1000),
+              tabelle_schreiben(abend.stand(), {}, t.p.einst.trennzeichen));
+}
+
+TEST_F(Wettkampfabend, AbbruchHaeltDenAblaufAnUndEineEingabeIhnAuf) {
+    t.p.einst.w_autom = true;
+    t.p.einst.zielmodus_erster = true;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(10000);
+    t.bahn().Command2.klicken();
+    t.maschine.laufen(600000);
+    EXPECT_FALSE(offen(fenstername::bahn1));
+    EXPECT_TRUE(abend.unterbrochen());
+    ASSERT_TRUE(abend.rennen_starten());
+    t.maschine.laufen(4000);
+    runden_fahren(3);
+    t.p.auswertung.Command6.klicken();  // metres are being entered
+    t.maschine.laufen(60000);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    t.p.auswertung.Command6.klicken();
+    t.maschine.laufen(12000);
+    EXPECT_FALSE(offen(fenstername::auswertung));
+}
+
+TEST_F(Wettkampfabend, CentermodeLaeuftAuchVonSelbst) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 30s;
+    beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.maschine.laufen(4000);
+    runden_fahren(3);
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(offen(fenstername::auswertung)) << "the cars are being moved";
+    t.maschine.laufen(20000);
+    runden_fahren(2);
+    t.maschine.laufen(10000);
+    EXPECT_TRUE(abend.stand().ende_pruefen());
+    EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
+}
+
+TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
+    beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    t.p.auswertung.Command5.klicken();
+    ASSERT_TRUE(offen(fenstername::k_ampel));
+    t.bahn().Command4.klicken();  // ended before it has gone on: the earlier result again
+    t.maschine.laufen(100);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    t.p.auswertung.Command5.klicken();
+    EXPECT_EQ(abend.stand().fortsetzung_nummer(1), 1);
+    gruen();
+    runden_fahren(2);
+    t.p.auswertung.Command5.klicken();
+    ASSERT_TRUE(abend.stand().ende_pruefen());
+    EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
+}
+
+}  // namespace
+}  // namespace tarvel
