@@ -76,8 +76,6 @@ std::vector<int> sortiert(std::span<const fahrer_stand> staende, const schluesse
     return liste;
 }
 
-constexpr std::size_t name_breite = 15;
-
 std::string aufgefuellt(std::string_view text, std::size_t breite) {
     return std::string(text) + std::string(breite - std::min(breite, laenge(text)), ' ');
 }
@@ -127,7 +125,7 @@ std::vector<std::string> rangschreiben(const wettkampf& w, sortier_modus wertung
         const fahrt& stand = staende.at(static_cast<std::size_t>(platz - 1)).auf.front();
         ++rang;
         std::string zeile = std::to_string(rang) + (rang >= zweistellig ? ". " : ".  ");
-        zeile += aufgefuellt(links(w.name(platz), name_breite), name_breite);
+        zeile += aufgefuellt(links(w.name(platz), listenname_breite), listenname_breite);
         zeile += "   " + aufgefuellt(std::to_string(stand.runden), 6) + aufgefuellt(meter_text(stand.meter), 9);
         zeile += zeit_formatieren(wertung == sortier_modus::beste ? stand.beste : stand.zeit, true, trennzeichen);
         zeilen.push_back(std::move(zeile));

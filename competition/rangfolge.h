@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <vector>
@@ -8,6 +9,9 @@
 #include "core/zeit.h"
 
 namespace tarvel {
+
+/// So many characters of a name have room in lists and tables.
+inline constexpr std::size_t listenname_breite = 15;
 
 /// Places of the start list, the best first, by each way of judging. All are in them, fillers too.
 struct ranglisten {

@@ -53,7 +53,8 @@ struct fahrer_stand {
 
 /// A driver's heats where each meets each, by their numbers among his races in the plan; 0 is the total.
 struct jeder_zeile {
-    static constexpr int heats_max = 18;
+    static constexpr int fahrer_max = 10;
+    static constexpr int heats_max = 2 * (fahrer_max - 1);
     std::array<fahrt, heats_max + 1> heat;
 
     int jeder_runden(int nummer) const { return heat.at(static_cast<std::size_t>(nummer)).runden; }

@@ -10,8 +10,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int tabelle_max = 100;
-constexpr int jeder_max = 10;
 constexpr std::string_view keine_beste_text = "99 : 99 , 999";
 constexpr std::string_view kein_fahrer_text = "( Fahrername )";
 constexpr std::string_view schlusszeile = "Ende der Wettkampfdaten";
@@ -103,7 +101,7 @@ private:
         zahl(aktiv(0));
         zahl(aktiv(0) == 0 ? 0 : aktiv(aktiv(0)));
         const auto tabelle = ist_jeder() ? w_.jeder_tabelle() : std::vector<jeder_zeile>{};
-        for (int i = 0; ist_jeder() && i <= jeder_max; ++i) {
+        for (int i = 0; ist_jeder() && i <= jeder_zeile::fahrer_max; ++i) {
             const bool vorhanden = i >= 1 && i <= w_.plaetze();
             const jeder_zeile stand = vorhanden ? tabelle.at(static_cast<std::size_t>(i - 1)) : jeder_zeile{};
             for (int heat = 0; heat <= jeder_zeile::heats_max; ++heat) {

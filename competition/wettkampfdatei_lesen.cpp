@@ -10,12 +10,11 @@
 namespace tarvel {
 namespace {
 
-constexpr int tabelle_max = 100;
-constexpr int jeder_max = 10;
+constexpr int jeder_max = jeder_zeile::fahrer_max;
 constexpr std::size_t kopf_zeilen = 20;
-constexpr std::size_t tabelle_zeilen = (tabelle_max + 1) * (spuren_max + 2);
+constexpr std::size_t tabelle_zeilen = std::size_t{tabelle_max + 1} * (spuren_max + 2);
 constexpr std::size_t zeiger_zeilen = 2;
-constexpr std::size_t jeder_zeilen = (jeder_max + 1) * (2 * jeder_zeile::heats_max + 3);
+constexpr std::size_t jeder_zeilen = std::size_t{jeder_max + 1} * (2 * jeder_zeile::heats_max + 3);
 constexpr std::int64_t zahl_max = 100000000000;
 
 /// The tables as the file has them, index 1 to 100 and lane 0 to 6.

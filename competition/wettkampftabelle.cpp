@@ -7,8 +7,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t name_breite = 15;
-
 /// Fields of a line, with the separator between them.
 class feldreihe {
 public:
@@ -20,7 +18,7 @@ public:
         return *this;
     }
     feldreihe& name(const std::string& text) {
-        return feld(ohne_trenner(std::string(links(text, name_breite)), trennzeichen_[2]));
+        return feld(ohne_trenner(std::string(links(text, listenname_breite)), trennzeichen_[2]));
     }
     feldreihe& zeit(zeit_ms dauer) { return feld(zeit_formatieren(dauer, true, trennzeichen_)); }
     feldreihe& nummern(int von, int bis) {

@@ -13,7 +13,6 @@ namespace {
 constexpr std::string_view zusatz_kopf = "[Wettkampfzusatz 1]";
 constexpr std::string_view kopf_anfang = "[Wettkampfzusatz ";
 constexpr std::string_view zusatz_ende = "[Zusatzende]";
-constexpr int tabelle_max = 100;
 constexpr zeit_ms laenge_max = 999999999;
 
 using werte = std::vector<std::string_view>;

@@ -11,6 +11,8 @@
 /// The end of a competition's file: what its format has no place for. Older versions do not read so far.
 namespace tarvel {
 
+inline constexpr int tabelle_max = 100;  ///< places and races that a file has room for
+
 struct wettkampf_zusatz {
     bool vorhanden = false;
     wettkampf_modus modus = wettkampf_modus::rotation;

@@ -294,6 +294,14 @@ std::string volle_befehlsdatei(const werkbank& bank) {
     return bank.t.maschine.datei_lesen("ausgang/" + std::string(at_standarddatei));
 }
 
+std::vector<std::string> wettkampfstaende(const programm& p) {
+    std::vector<std::string> bytes;
+    for (const std::vector<std::string>& zeilen : volle_wettkampfstaende(p.txt)) {
+        bytes.push_back(als_bytes(zeilen));
+    }
+    return bytes;
+}
+
 std::vector<std::string> sprachdateien(programm& p) {
     std::vector<std::string> bytes;
     for (const sprachliste& sprache : p.sprachdateien()) {
@@ -324,6 +332,7 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"einstellungen", {{einstellungen, alte_einstellungen(zeilen)}, einstellungen_lesen}},
         {"wettkampfdatei",
          {{"Wettkampfdatei: Vereinsmeister\r\n" + einstellungen + "Teilnehmer\r\n 2 \r\n"}, wettkampfdatei_lesen}},
+        {"wettkampfstand", {wettkampfstaende(bank.t.p), wettkampfstand_lesen}},
         {"namensliste",
          {{"Fahrerliste:\r\nJ\xF6rg\r\nAnna\r\n{pic}\r\njoerg\r\n\r\n{ende}\r\n", volle_liste(),
            bank.t.maschine.datei_lesen("Listen/fahrzeuge.kfz")},

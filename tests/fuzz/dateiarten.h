@@ -38,6 +38,9 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank);
 
 bool einstellungen_lesen(werkbank& bank, const std::string& bytes);
 bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes);
+bool wettkampfstand_lesen(werkbank& bank, const std::string& bytes);
+/// Lines of such files, of this version and of older ones.
+std::vector<std::vector<std::string>> volle_wettkampfstaende(const texte& txt);
 bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
 
