@@ -2,10 +2,10 @@
 
 #include "competition/intervalltraining.h"
 #include "competition/tagesrennen.h"
+#include "core/bildwahl.h"
 #include "core/speichernfenster.h"
 #include "hardware/tastaturbelegung.h"
 #include "optionen/beste_zeiten_verwaltung.h"
-#include "optionen/bildwahl.h"
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
