@@ -8,6 +8,7 @@
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
 #include "core/wechselschema.h"
+#include "core/wettkampfmodus.h"
 #include "core/zeit.h"
 #include "platform/dauer.h"
 
@@ -107,6 +108,7 @@ struct einstellungen {
     bool centermode = false;
     std::string wechselschema_name;
     wechsel_folge wechsel_schema{};
+    gruppenwahl gruppen;  ///< in a file of its own, beside those of the settings
     trainingsart training_art = trainingsart::normal;
     dauer_s training_wechseldauer{};
     training_weitergang training_weiter = training_weitergang::neu_starten;

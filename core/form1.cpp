@@ -51,6 +51,7 @@ void form1::befehle_verbinden() {
         };
     };
     Command1.bei_klick = [this] { Command1_Click(); };
+    Command3.bei_klick = [this] { Command3_Click(); };
     weitergeben(Command2, beenden);
     weitergeben(Command5, einstellungen_speichern);
     weitergeben(Command6, bahnstrom_ein);
@@ -233,12 +234,12 @@ void form1::ablehnen(const std::string& meldung, steuerelement& ort) {
     ort.fokus_setzen();
 }
 
-void form1::Command1_Click() {
+bool form1::uebergeben(rennumfang umfang) {
     if (timer1_->laeuft()) {
         timer1_tick();  // a race waits for its timing hardware
     }
     if (µwartehinweis.sichtbar()) {
-        return;
+        return false;
     }
     if (kleiner_bildschirm()) {
         for (const std::size_t index : {std::size_t{4}, std::size_t{5}}) {
@@ -252,14 +253,25 @@ void form1::Command1_Click() {
     unlesbares_ersetzen();
     renneinrichtung& e = gelesen();
     e.werte_pruefen();
-    const einrichtungsfehler fehler = rennen_uebergeben(e, um_.einst, rennumfang::einzelrennen, um_.param);
+    const einrichtungsfehler fehler = rennen_uebergeben(e, um_.einst, umfang, um_.param);
     zahlen_zeigen();
     if (fehler == einrichtungsfehler::dauer) {
         ablehnen(um_.txt.meldung[13], renndauer);
     } else if (fehler == einrichtungsfehler::keine_spur) {
         ablehnen(um_.txt.meldung[12], spur[0]);
-    } else if (fahrer_einmalig() && einzelrennen_beginnen) {
+    }
+    return fehler == einrichtungsfehler::keiner;
+}
+
+void form1::Command1_Click() {
+    if (uebergeben(rennumfang::einzelrennen) && fahrer_einmalig() && einzelrennen_beginnen) {
         einzelrennen_beginnen();
+    }
+}
+
+void form1::Command3_Click() {
+    if (uebergeben(rennumfang::wettkampf) && wettkampf_beginnen) {
+        wettkampf_beginnen();
     }
 }
 

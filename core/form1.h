@@ -85,6 +85,7 @@ public:
     bezeichnung Label7;       ///< "Bahnstrom"
     befehl Command1;          ///< single race
     befehl Command2;          ///< end of the program
+    befehl Command3;          ///< competition
     befehl Command4;          ///< options
     befehl Command5;          ///< save the settings
     befehl Command6;          ///< track power on
@@ -99,6 +100,8 @@ public:
 
     /// The race is set up: a race of its own begins with it.
     std::function<void()> einzelrennen_beginnen;
+    /// The same for all the races of a competition.
+    std::function<void()> wettkampf_beginnen;
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
     std::function<void()> bahnstrom_aus;
@@ -171,6 +174,8 @@ public:
     void vor_dem_speichern_pruefen();
     /// Begins a single race: corrections, checks with their messages, hand-over, race window.
     void Command1_Click();
+    /// The same for a competition, whose drivers and lanes are told by its own windows.
+    void Command3_Click();
     void rennart_geaendert();
 
 private:
@@ -181,6 +186,8 @@ private:
     void zahlen_zeigen();
     /// What follows from fields that a settings file has filled: lanes 5 and 6 close their fields if they are off.
     void spuren_nach_laden();
+    /// False while a race cannot begin, or with a length that is none.
+    bool uebergeben(rennumfang umfang);
     void ablehnen(const std::string& meldung, steuerelement& ort);
     void spur_geaendert(std::size_t index);
 

@@ -45,7 +45,8 @@ sprachliste form1::sprache_m2() {
     texte.text("Den Anschluss hält ein anderes Programm oder ein anderer Benutzer, mit der Datei", wort_gesperrt_);
     texte.text("Hier stand keine Zahl. Jetzt gilt:", wort_keine_zahl_);
     texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", wort_ersetzt_);
-    return texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_);
+    texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_).text("Wettkampf", Command3);
+    return texte.tipp("Rennen für viele Fahrer, mit Startliste, Rennplan und Rangliste", Command3);
 }
 
 void form1::ansagen_setzen() {

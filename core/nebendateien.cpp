@@ -1,6 +1,7 @@
 #include "core/nebendateien.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "core/felder.h"
@@ -10,8 +11,13 @@ namespace tarvel {
 namespace {
 
 constexpr std::string_view trennzeichen_datei = "trennzeichen.ini";
+constexpr std::string_view gruppen_datei = "tvk_gruppen.ini";
 constexpr std::string_view s6_datei = "tvk_s6.ini";
 constexpr std::string_view werbe_datei = "tvk.ini";
+
+constexpr std::string_view wahr = "Wahr";
+constexpr std::string_view falsch = "Falsch";
+constexpr std::array kaesten{&gruppenwahl::feste_gruppen, &gruppenwahl::optimal_verteilen, &gruppenwahl::am_stueck};
 
 }  // namespace
 
@@ -39,6 +45,29 @@ bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& w
         zeilen.push_back(" " + std::to_string(ansi_code(zeichen).value_or('?')) + " ");
     }
     return ablage.zeilen_schreiben(trennzeichen_datei, zeilen);
+}
+
+void gruppenwahl_laden(const dateien& ablage, gruppenwahl& ziel) {
+    const auto zeilen = ablage.zeilen_lesen(gruppen_datei, kaesten.size()).value_or(std::vector<std::string>{});
+    gruppenwahl neu;
+    if (zeilen.size() < kaesten.size()) {
+        return;
+    }
+    for (std::size_t i = 0; i < kaesten.size(); ++i) {
+        if (zeilen[i] != wahr && zeilen[i] != falsch) {
+            return;
+        }
+        neu.*kaesten.at(i) = zeilen[i] == wahr;
+    }
+    ziel = neu;
+}
+
+bool gruppenwahl_speichern(const dateien& ablage, const gruppenwahl& werte) {
+    std::vector<std::string> zeilen;
+    for (const auto kasten : kaesten) {
+        zeilen.emplace_back(werte.*kasten ? wahr : falsch);
+    }
+    return ablage.zeilen_schreiben(gruppen_datei, zeilen);
 }
 
 void tvk_ini_laden(const dateien& ablage, std::string& ziel) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/dateien.h"
+#include "core/wettkampfmodus.h"
 #include "core/zeit.h"
 
 /// The small files beside the settings.
@@ -12,6 +13,11 @@ namespace tarvel {
 /// `trennzeichen.ini`: the character codes of the three separators, one a line. False leaves `ziel` as it was.
 bool trennzeichen_laden(const dateien& ablage, trennzeichen_tabelle& ziel);
 bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& werte);
+
+/// `tvk_gruppen.ini`: how the drivers of a competition are grouped, one "Wahr" or "Falsch" a line. Any other file
+/// leaves `ziel`.
+void gruppenwahl_laden(const dateien& ablage, gruppenwahl& ziel);
+bool gruppenwahl_speichern(const dateien& ablage, const gruppenwahl& werte);
 
 /// `tvk.ini`: the line of advertising in the race window. A missing or empty file leaves `ziel`.
 void tvk_ini_laden(const dateien& ablage, std::string& ziel);

@@ -44,6 +44,10 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
                                        zeile("schema_hinzufuegen")});
+    gruppen_.emplace(gruppenkaesten::zeilen{zeile("wechselcheck1"), zeile("wechselcheck2"), zeile("wechselcheck3"),
+                                            zeile("wechsel_schema")},
+                     um_.ziel.einst.wechsel_schema);
+    schema_->folge_geaendert = [this] { gruppen_->abgleichen(); };
     aktion_verbinden("bestzeiten_verwalten", bestzeiten_verwalten);
     aktion_verbinden("uart_einrichten", uart_einrichten);
     aktion_verbinden("uart_datei_waehlen", uart_datei_waehlen);
@@ -77,7 +81,8 @@ sprachliste einstellungsfenster::sprache_e() {
         }
     });
     texte.text("Hier steht keine Zahl.", keine_zahl_);
-    return texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
+    texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
+    return texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -215,6 +220,7 @@ void einstellungsfenster::werte_zeigen() {
             eine.zeigen(um_.ziel);
         }
     });
+    gruppen_->abgleichen();
     bestzeiten_zeigen();
     const auto in_kraft = static_cast<std::size_t>(um_.ziel.einst.hardware.modus());
     for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {
@@ -289,6 +295,24 @@ void einstellungsfenster::sektoranzeige_trennen() {
     }
 }
 
+/// What has files of its own.
+bool einstellungsfenster::nebendateien_speichern(const einstellungen& vorher) {
+    const einstellungen& einst = um_.ziel.einst;
+    if (trennzeichen_fehlen_ || einst.trennzeichen != vorher.trennzeichen) {
+        trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, einst.trennzeichen);
+        if (trennzeichen_fehlen_) {
+            um_.meldungen.zeigen(um_.txt.meldung[24], um_.txt.titel[1]);
+        }
+    }
+    if (gruppen_ungesichert_ || einst.gruppen != vorher.gruppen) {
+        gruppen_ungesichert_ = !gruppenwahl_speichern(um_.ablage, einst.gruppen);
+        if (gruppen_ungesichert_) {
+            um_.meldungen.zeigen(gruppen_fehler_, um_.txt.titel[1]);
+        }
+    }
+    return !trennzeichen_fehlen_ && !gruppen_ungesichert_;
+}
+
 void einstellungsfenster::Command1_Click() {
     const einstellungen vorher = um_.ziel.einst;
     werte_uebernehmen();
@@ -296,13 +320,7 @@ void einstellungsfenster::Command1_Click() {
     gespeichert = fahrzeugseite.uebernehmen() && gespeichert;
     uart_gesichert();
     um_.folgen.einstellungen_uebernommen(vorher);
-    if (trennzeichen_fehlen_ || um_.ziel.einst.trennzeichen != vorher.trennzeichen) {
-        trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, um_.ziel.einst.trennzeichen);
-        if (trennzeichen_fehlen_) {
-            um_.meldungen.zeigen(um_.txt.meldung[24], um_.txt.titel[1]);
-            gespeichert = false;
-        }
-    }
+    gespeichert = nebendateien_speichern(vorher) && gespeichert;
     gespeichert = um_.folgen.einstellungen_speichern() && gespeichert;
     if (um_.ziel.einst.hardware_anders_als(vorher)) {
         um_.folgen.hardware_starten();

@@ -12,6 +12,7 @@
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
+#include "optionen/gruppenkaesten.h"
 #include "optionen/listenseite.h"
 #include "optionen/optionsfolgen.h"
 #include "optionen/optionsseite.h"
@@ -118,6 +119,7 @@ private:
     void werte_uebernehmen();
     void zeile_uebernehmen(optionszeile& eine);
     void sektoranzeige_trennen();
+    bool nebendateien_speichern(const einstellungen& vorher);
     void Command1_Click();
     void fuer_alle_zeilen(const std::function<void(optionszeile&)>& tun);
 
@@ -129,7 +131,10 @@ private:
     at2560_anschluss uart_vorher_;
     std::string keine_zahl_;
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
-    std::optional<schemawahl> schema_;  ///< once its rows are there
+    bool gruppen_ungesichert_ = false;
+    std::string gruppen_fehler_;
+    std::optional<schemawahl> schema_;  ///< these two once their rows are there
+    std::optional<gruppenkaesten> gruppen_;
 };
 
 }  // namespace tarvel

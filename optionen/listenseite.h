@@ -3,13 +3,13 @@
 #include <functional>
 #include <string>
 
+#include "core/bildwahl.h"
 #include "core/dateien.h"
 #include "core/namensliste.h"
 #include "core/speichernfenster.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
-#include "optionen/bildwahl.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {

@@ -13,6 +13,7 @@ schemawahl::schemawahl(const umgebung& um, const zeilen& z)
       folge_(std::get<feld>(z.folge.element)),
       name_(std::get<feld>(z.name.element)) {
     auswahl_.bei_aenderung = [this] { auswahl_geaendert(); };
+    folge_.bei_aenderung = [this] { folge_melden(); };
     std::get<befehl>(z.hinzufuegen.element).bei_klick = [this] { schema_hinzufuegen(); };
 }
 
@@ -48,6 +49,13 @@ void schemawahl::auswahl_geaendert() {
     const int platz = auswahl_.platz();
     if (platz >= 0 && schemas_.at(static_cast<std::size_t>(platz)).folge) {
         folge_.text(wechsel_folge_text(*schemas_.at(static_cast<std::size_t>(platz)).folge));
+        folge_melden();
+    }
+}
+
+void schemawahl::folge_melden() const {
+    if (folge_geaendert) {
+        folge_geaendert();
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,9 @@ public:
 
     schemawahl(const umgebung& um, const zeilen& z);
 
+    /// The order in the field has changed.
+    std::function<void()> folge_geaendert;
+
     void texte_nennen(sprachliste& texte);
     /// Fills the choice from the file; `gewaehlt` stays in it, also where the file no longer has it.
     void zeigen(const std::string& gewaehlt);
@@ -34,6 +38,7 @@ public:
 private:
     void auswahl_geaendert();
     void schema_hinzufuegen();
+    void folge_melden() const;
     void eintraege_zeigen();
     void melden(const std::string& text) { um_.meldungen.zeigen(text, um_.txt.titel[0]); }
 

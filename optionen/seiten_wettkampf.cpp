@@ -33,6 +33,18 @@ optionszeile_zeiger wechselfolge() {
     return zeile;
 }
 
+/// One of the boxes of the grouping. Which of them may be ticked depends on the others, so they are tied together by
+/// their window.
+optionszeile_zeiger gruppenkasten(const beschriftet& b, bool gruppenwahl::*ziel) {
+    optionszeile_zeiger zeile = leerer_kasten(b);
+    haken* element = &std::get<haken>(zeile->element);
+    zeile->zeigen = [element, ziel](const einstellungs_ziel& z) { element->gesetzt(z.einst.gruppen.*ziel); };
+    zeile->uebernehmen = [element, ziel](const einstellungs_ziel& z, const auto&) {
+        z.einst.gruppen.*ziel = element->gesetzt();
+    };
+    return zeile;
+}
+
 /// The length of the warm-up has limits of its own for laps and for seconds.
 optionszeile_zeiger einfahrdauer() {
     optionszeile_zeiger zeile = leeres_feld({"w_edauertext", "Einfahrdauer", "max 99 Runden oder 999 Sekunden"}, 4);
@@ -72,6 +84,10 @@ optionsseite_zeiger wettkampf_training() {
     seite->gruppe("Wechselschema", 0) << wortliste({"Wechselschemaauswahl", "Schema"}, wert(&e::wechselschema_name), {})
                                       << wechselfolge() << leeres_feld({"schema_name", "Neues Schema", "Name"}, 40)
                                       << aktion({"schema_hinzufuegen", "Als neues Schema hinzufügen"});
+    seite->gruppe("Gruppen", 0)
+        << gruppenkasten({"wechselcheck1", "in festen Gruppen fahren"}, &gruppenwahl::feste_gruppen)
+        << gruppenkasten({"wechselcheck2", "optimal verteilen"}, &gruppenwahl::optimal_verteilen)
+        << gruppenkasten({"wechselcheck3", "Grp fährt Rennen hintereinander"}, &gruppenwahl::am_stueck);
     seite->gruppe("Einfahren", 1) << kasten({"w_einfahren_an", "Einfahrzeit aktivieren"}, wert(&e::w_einfahren_an))
                                   << entweder({"w_edauer1", "Einfahren nach"}, wert(&e::w_edauer_runden), "Runden",
                                               "Sekunden")

@@ -175,6 +175,7 @@ bool programm::starten() {
     eingebaute_namen_setzen();
     pflege_.standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
+    gruppenwahl_laden(ablage, einst.gruppen);
     if (!dienste.prozess.ist_einzige_instanz()) {
         dienste.meldungen.zeigen(txt.meldung[10], programm_name);
         programm_beenden();

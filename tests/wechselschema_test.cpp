@@ -1,5 +1,6 @@
 #include "core/wechselschema.h"
 
+#include "core/nebendateien.h"
 #include "tests/optionen_probe.h"
 
 namespace tarvel {
@@ -74,6 +75,56 @@ TEST_F(WechselschemaWahl, NeuesSchemaWirdAngehaengt) {
     fenster.Command2.klicken();
     oeffnen();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Datei Wechselschema.ws fehlerfaft");
+}
+
+TEST_F(WechselschemaWahl, GruppenkaestenFolgenEinanderUndDemSchema) {
+    t.maschine.datei_schreiben("Wechselschema.ws", "\r\n#Rennen\r\n123456P\r\n");
+    fenster.Command2.klicken();
+    oeffnen();
+    const std::array<haken*, 3> kasten{&element<haken>("wechselcheck1"), &element<haken>("wechselcheck2"),
+                                       &element<haken>("wechselcheck3")};
+    const auto stand = [&] {  // "x" ticked, "-" empty, blank not to be ticked
+        std::string zeichen;
+        for (const haken* k : kasten) {
+            EXPECT_FALSE(k->gesetzt() && !k->aktiviert());
+            zeichen += k->gesetzt() ? 'x' : k->aktiviert() ? '-' : ' ';
+        }
+        return zeichen;
+    };
+    EXPECT_EQ(stand(), "-  ");
+    for (haken* k : kasten) {
+        k->umschalten();
+    }
+    EXPECT_EQ(stand(), "xxx");
+    kasten[0]->umschalten();
+    EXPECT_EQ(stand(), "-  ");
+    schemas.waehlen(1);
+    EXPECT_EQ(stand(), "-- ");
+    kasten[1]->umschalten();
+    folge.eingeben("1-6-5-4-3-2");
+    EXPECT_EQ(stand(), "-  ") << "the standard's order under any name";
+    folge.eingeben("1-2-3-4-5-6-P");
+    kasten[1]->umschalten();
+    EXPECT_EQ(stand(), "-x ");
+    schemas.waehlen(0);
+    EXPECT_EQ(stand(), "-  ");
+    fenster.Command2.klicken();
+    EXPECT_EQ(einst.gruppen, gruppenwahl{}) << "cancelled";
+
+    oeffnen();
+    kasten[0]->umschalten();
+    kasten[2]->umschalten();
+    uebernehmen();
+    EXPECT_EQ(stand(), "x-x");
+    einst.gruppen = {};
+    gruppenwahl_laden(t.p.ablage, einst.gruppen);
+    EXPECT_EQ(einst.gruppen, (gruppenwahl{true, false, true})) << "as the next start reads it";
+    for (const char* inhalt : {"", "Wahr\r\nWahr", "Wahr\r\nja\r\nWahr\r\n"}) {
+        t.maschine.datei_schreiben("tvk_gruppen.ini", inhalt);
+        gruppenwahl neu;
+        gruppenwahl_laden(t.p.ablage, neu);
+        EXPECT_EQ(neu, gruppenwahl{}) << inhalt;
+    }
 }
 
 }  // namespace

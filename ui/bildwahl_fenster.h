@@ -1,6 +1,6 @@
 #pragma once
 
-#include "optionen/bildwahl.h"
+#include "core/bildwahl.h"
 #include "ui/fenster.h"
 
 namespace tarvel::ui {

@@ -221,6 +221,9 @@ QWidget* Form1Fenster::rennbefehle() {
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
     rennen->setMinimumSize(220, stil::knopfhoehe);
     aufbau->addWidget(rennen);
+    QPushButton* wettkampf = hoher_knopf(logik_.Command3, "Command3");
+    wettkampf->setMinimumWidth(140);
+    aufbau->addWidget(wettkampf);
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
     aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));

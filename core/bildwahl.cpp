@@ -1,4 +1,4 @@
-#include "optionen/bildwahl.h"
+#include "core/bildwahl.h"
 
 #include <array>
 #include <fstream>
