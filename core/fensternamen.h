@@ -21,6 +21,7 @@ namespace tarvel {
     F(rundenspeichern)        \
     F(speichernfenster)       \
     F(w_auswertung)           \
+    F(wettkampf1)             \
     F(wettkampf2)             \
     F(Form1)                  \
     F(beste_zeiten_fenster)   \

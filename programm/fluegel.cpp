@@ -57,9 +57,17 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
                            folgen},
                           {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
 
-wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e)
+wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o,
+                                   einstellungsfolgen& folgen, wettkampfumfeld& umfeld)
     : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
       wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher,
-                      p.dienste.zeitgeber, p.dienste.uhr}) {}
+                      p.dienste.zeitgeber, p.dienste.uhr}),
+      wettkampfablauf({p.datei, p.einst, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender,
+                       p.form1, folgen, umfeld, wettkampfabend, wettkampfspeicher}),
+      wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, o.fahrerspeichernfenster,
+                  o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
+      wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf) {
+    wettkampfablauf.vorbereitung = &wettkampf1;
+}
 
 }  // namespace tarvel

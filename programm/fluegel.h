@@ -2,8 +2,8 @@
 
 #include "competition/intervalltraining.h"
 #include "competition/tagesrennen.h"
-#include "competition/wettkampfabend.h"
-#include "competition/wettkampfspeicher.h"
+#include "competition/wettkampf1.h"
+#include "competition/wettkampf2.h"
 #include "core/bildwahl.h"
 #include "core/speichernfenster.h"
 #include "hardware/tastaturbelegung.h"
@@ -11,6 +11,7 @@
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
+#include "programm/wettkampfablauf.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
@@ -61,10 +62,14 @@ struct optionsfluegel {
 };
 
 struct wettkampffluegel {
-    wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e);
+    wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o, einstellungsfolgen& folgen,
+                     wettkampfumfeld& umfeld);
 
     tarvel::wettkampfspeicher wettkampfspeicher;
     tarvel::wettkampfabend wettkampfabend;
+    tarvel::wettkampfablauf wettkampfablauf;
+    tarvel::wettkampf1 wettkampf1;
+    tarvel::wettkampf2 wettkampf2;
 };
 
 }  // namespace tarvel

@@ -25,6 +25,8 @@ public:
 
     /// The device that is chosen can be heard.
     bool verbunden() const;
+    /// A device that is chosen, and not only just to be opened, cannot be heard.
+    bool getrennt() const;
     tarvel::rennverbindung& rennverbindung() { return rennverbindung_; }
 
     /// A device with its windows, by the type of its wiring.
@@ -56,8 +58,6 @@ private:
     void ausgaben_anzeigen();
     void verbindung_anzeigen();
     void anzeigetakt_tick();
-    /// A device that is chosen, and not only just to be opened, cannot be heard.
-    bool getrennt() const;
     bool trotzdem_starten();
 
     geraete_umgebung um_;

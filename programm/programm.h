@@ -21,6 +21,7 @@
 #include "optionen/optionsfolgen.h"
 #include "platform/dienste.h"
 #include "programm/einstellungspflege.h"
+#include "programm/wettkampfumfeld.h"
 
 namespace tarvel {
 
@@ -42,6 +43,8 @@ class tastaturbelegung;
 class update_form;
 class veranstaltung;
 class wertung;
+class wettkampf1;
+class wettkampf2;
 class wettkampfabend;
 struct ergebnisfluegel;
 struct optionsfluegel;
@@ -51,7 +54,10 @@ struct startfluegel;
 struct wettkampffluegel;
 
 /// The whole program: owns every record and every wing, and puts them together. Two of them can live in one process.
-class programm final : private einstellungsfolgen, private optionsfolgen, private bestzeitfolgen {
+class programm final : private einstellungsfolgen,
+                       private optionsfolgen,
+                       private bestzeitfolgen,
+                       private wettkampfumfeld {
 public:
     explicit programm(const plattform::dienste& dienste);
     ~programm() override;
@@ -118,18 +124,21 @@ public:
     tarvel::beste_zeiten_verwaltung& beste_zeiten_verwaltung;
     tarvel::einstellungsfenster& einstellungsfenster;
     tarvel::wettkampfabend& wettkampfabend;
+    tarvel::wettkampf1& wettkampf1;
+    tarvel::wettkampf2& wettkampf2;
     messgeraete& geraete;
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;
     bool einstellungen_speichern() override;
     void einstellungen_uebernommen(const einstellungen& vorher) override;
-    void optionen_geschlossen() override { form1.bilder_anzeigen(); }
+    void optionen_geschlossen() override;
     void hardware_starten() override;
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
-    void bahnstrom_von_hand(bool an);
+    void bahnstrom_von_hand(bool an) override;
+    void fahrerverwaltung_oeffnen() override;
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();

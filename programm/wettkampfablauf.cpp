@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "competition/wettkampfdatei.h"
 #include "core/zeit.h"
+#include "results/ergebnisdatei.h"
 
 namespace tarvel {
 namespace {
@@ -103,10 +103,9 @@ void wettkampfablauf::unterbrochenen_anbieten() {
     const std::string pfad(laufender_wettkampf);
     const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
                                          version_melden::nein);
-    const bool fortsetzen =
-        gelesen && um_.meldungen.fragen("Der Wettkampf " + gelesen->wettkampf_name + " vom " + gelesen->beginn +
-                                            " wurde nicht beendet. Fortsetzen?",
-                                        um_.txt.titel[0]);
+    const bool fortsetzen = gelesen && um_.meldungen.fragen("Der Wettkampf " + gelesen->wettkampf_name + " vom " +
+                                                                gelesen->beginn + " wurde nicht beendet. Fortsetzen?",
+                                                            um_.txt.titel[0]);
     if (!fortsetzen) {
         const plattform::datum_uhrzeit jetzt = um_.kalender.jetzt();
         um_.ablage.umbenennen(pfad, std::string(abgelegt) + ergebnis_stempel(jetzt) + ".wtk");

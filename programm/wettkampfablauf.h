@@ -7,19 +7,14 @@
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
 #include "competition/wettkampfabend.h"
+#include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "core/einstellungsdatei.h"
 #include "core/form1.h"
 #include "programm/einstellungspflege.h"
+#include "programm/wettkampfumfeld.h"
 
 namespace tarvel {
-
-/// What a competition needs of the program around it.
-class wettkampfumfeld : public schnittstelle {
-public:
-    virtual void fahrerverwaltung_oeffnen() = 0;
-    virtual void bahnstrom_von_hand(bool an) = 0;
-};
 
 /// How a competition goes through the program: from its set-up, or from a file, into the evening, and out of it again.
 class wettkampfablauf final : public wettkampf1_folgen, public wettkampf2_folgen {

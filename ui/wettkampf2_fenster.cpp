@@ -3,6 +3,8 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScreen>
+
 #include <QVBoxLayout>
 #include <algorithm>
 
