@@ -14,6 +14,7 @@
 #include "core/einstellungswerte.h"
 #include "core/spuren.h"
 #include "core/texte.h"
+#include "core/zeit.h"
 #include "platform/uhr.h"
 #include "race/rennergebnis.h"
 
@@ -79,6 +80,9 @@ struct schnellste_runde {
     zeit_ms beste_runde_ms = keine;
     int beste_runde_fahrer = 0;  ///< his place, 0 for nobody
 
+    /// What shows; of nobody's too.
+    std::string beste_runde_text(const trennzeichen_tabelle& trennzeichen) const;
+
     bool operator==(const schnellste_runde&) const = default;
 };
 
@@ -142,6 +146,8 @@ struct wettkampf {
     std::vector<fahrer_stand> staende() const;
     std::vector<jeder_zeile> jeder_tabelle() const;
     schnellste_runde beste_runde() const;
+    /// Who drove it, or what stands in his place.
+    std::string beste_runde_name() const;
 
     /// The result of the current race, or of its next part. Fillers get nothing. False if it has been driven.
     bool ergebnis_eintragen(const spuren<fahrt>& fahrten);

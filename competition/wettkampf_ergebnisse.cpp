@@ -121,6 +121,15 @@ std::vector<jeder_zeile> wettkampf::jeder_tabelle() const {
     return alle;
 }
 
+std::string schnellste_runde::beste_runde_text(const trennzeichen_tabelle& trennzeichen) const {
+    return beste_runde_fahrer == 0 ? "99 : 99 , 999" : zeit_formatieren(beste_runde_ms, true, trennzeichen);
+}
+
+std::string wettkampf::beste_runde_name() const {
+    const int wer = beste_runde().beste_runde_fahrer;
+    return wer == 0 ? "( Fahrername )" : name(wer);
+}
+
 schnellste_runde wettkampf::beste_runde() const {
     schnellste_runde schnellste;
     for (const gefahrener_teil& einer : gefahren) {

@@ -10,8 +10,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view keine_beste_text = "99 : 99 , 999";
-constexpr std::string_view kein_fahrer_text = "( Fahrername )";
 constexpr std::string_view schlusszeile = "Ende der Wettkampfdaten";
 
 std::string wort(bool wert) {
@@ -59,7 +57,6 @@ private:
 
     void kopf() {
         const schnellste_runde beste = w_.beste_runde();
-        const bool keine = beste.beste_runde_fahrer == 0;
         const bool ende = w_.ende_pruefen();
         aus_.push_back(w_.wettkampf_name);
         zahl(w_.aktuelles_rennen);
@@ -68,9 +65,8 @@ private:
         zahl(teilnehmer_anzahl());
         zahl(w_.plan.rennen_teilnehmer);
         zahl(w_.rennen_gesamt());
-        aus_.push_back(keine ? std::string(keine_beste_text)
-                             : zeit_formatieren(beste.beste_runde_ms, true, trennzeichen_));
-        aus_.push_back(keine ? std::string(kein_fahrer_text) : w_.name(beste.beste_runde_fahrer));
+        aus_.push_back(beste.beste_runde_text(trennzeichen_));
+        aus_.push_back(w_.beste_runde_name());
         zahl(beste.beste_runde_ms);
         aus_.push_back(wort(w_.zwischenstand_an));
         for (const bool aktiv : w_.spur_aktiv) {

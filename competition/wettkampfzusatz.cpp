@@ -98,7 +98,7 @@ bool fahrt_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/
     }
     gefahrener_teil neu{*rennen, *teil, {}};
     for (const int spur : alle_spuren) {
-        const auto stelle = static_cast<std::size_t>(2 * spur + 1);
+        const auto stelle = 2 * static_cast<std::size_t>(spur) + 1;
         neu.fahrten[spur].zeit = ganzzahl_lesen(w[stelle], 0, laenge_max);
         neu.fahrten[spur].meter = zentimeter_aus(zahl_lesen(w[stelle + 1]));
         neu.fahrten[spur] = begrenzt(neu.fahrten[spur]);

@@ -36,7 +36,7 @@ inline spuren<fahrt> zufallsfahrten(std::mt19937& wuerfel) {
     spuren<fahrt> neu;
     for (fahrt& eine : neu) {
         const int runden = zahl(3);
-        eine = {runden, runden * zeit_ms{8000 + zahl(2)}, zentimeter{runden} * 1005 + zahl(1) * 240,
+        eine = {runden, runden * zeit_ms{8000 + zahl(2)}, zentimeter{runden} * 1005 + zentimeter{zahl(1)} * 240,
                 runden == 0 ? 0 : 7000 + zahl(3)};
     }
     return neu;

@@ -98,10 +98,13 @@ TEST(Wettkampf, ZurueckgestellteKommenNachAllenAnderen) {
 
 TEST(Wettkampf, HeatsBehaltenIhrenPlatz) {
     auto w = wettkampf_mit(m::jeder_gegen_jeden, 3, {2, 5});  // 1-2, 2-3, 3-1, 1-3, 2-1, 3-2
-    const auto paar = [](int links, int rechts) {
+    const auto fahrten = [](int runden, zeit_ms beste) {
+        return fahrt{runden, zeit_ms{1000} * runden, zentimeter{100} * runden, runden == 0 ? 0 : beste};
+    };
+    const auto paar = [&](int links, int rechts) {
         spuren<fahrt> neu;
-        neu[2] = {links, 1000 * links, 100 * links, links == 0 ? 0 : 900};
-        neu[5] = {rechts, 1000 * rechts, 100 * rechts, rechts == 0 ? 0 : 950};
+        neu[2] = fahrten(links, 900);
+        neu[5] = fahrten(rechts, 950);
         return neu;
     };
     w.rennen_waehlen(4);
@@ -142,7 +145,7 @@ TEST(Wettkampf, TeileEinesRennensBekommenNurIhrEigenes) {
     auto w = wettkampf_mit(m::am_stueck, 2, {1, 2}, true);
     ASSERT_EQ(w.plan.teile, 2);
     rennergebnis e;
-    const auto spur = [](int nummer, std::vector<zeit_ms> zeiten, double meter) {
+    const auto spur = [](int nummer, const std::vector<zeit_ms>& zeiten, double meter) {
         rennergebnis::spur s;
         s.nummer = nummer;
         s.meter = meter;

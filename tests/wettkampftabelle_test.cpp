@@ -19,14 +19,14 @@ TEST(Wettkampftabelle, ZeileFuerZeile) {
     fahrten[3] = {13, 98001, 13050, 7500};
     w.ergebnis_eintragen(fahrten);
     const zeilen tabelle = tabelle_schreiben(w, {}, trennzeichen_standard);
+    const std::string leer = "00:00,000;";
+    const std::string erster = "1;Bernd  der Lang;13;0;0;13;0;0;0;130.5;0;0;130.5;0;0;0;";
+    const std::string zweiter = "2;Fahrer 1;12;12;0;0;0;0;0;123.45;123.45;0;0;0;0;0;";
+    const std::string dritter = "3;Fahrer 3;0;0;0;0;0;0;0;0;0;0;0;0;0;0;";
     EXPECT_EQ(tabelle, (zeilen{"Pokal", "Nr;Name;Runden;1;2;3;4;5;6;Meter;1;2;3;4;5;6;beste Runde;2;3;4;5;6;Gesamtzeit",
-                               "1;Bernd  der Lang;13;0;0;13;0;0;0;130.5;0;0;130.5;0;0;0;00:00,000;00:00,000;00:07,500;"
-                               "00:00,000;00:00,000;00:00,000;01:38,001",
-                               "2;Fahrer 1;12;12;0;0;0;0;0;123.45;123.45;0;0;0;0;0;00:08,001;00:00,000;00:00,000;"
-                               "00:00,000;00:00,000;00:00,000;01:38,765",
-                               "3;Fahrer 3;0;0;0;0;0;0;0;0;0;0;0;0;0;0;00:00,000;00:00,000;00:00,000;00:00,000;"
-                               "00:00,000;00:00,000;00:00,000",
-                               "TV-WKD"}));
+                               erster + leer + leer + "00:07,500;" + leer + leer + leer + "01:38,001",
+                               zweiter + "00:08,001;" + leer + leer + leer + leer + leer + "01:38,765",
+                               dritter + leer + leer + leer + leer + leer + leer + "00:00,000", "TV-WKD"}));
     EXPECT_EQ(datei_typ_erkennen(tabelle), ergebnis_typ::wettkampf);
 }
 
