@@ -19,6 +19,7 @@ namespace tarvel {
     F(k_ampel)                \
     F(rundenspeichern)        \
     F(speichernfenster)       \
+    F(wettkampf1)             \
     F(Form1)                  \
     F(beste_zeiten_fenster)   \
     F(cu_eigenschaften)       \

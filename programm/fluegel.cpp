@@ -57,4 +57,8 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
                            folgen},
                           {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
 
+wettkampffluegel::wettkampffluegel(programm& p, optionsfluegel& optionen)
+    : wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, optionen.fahrerspeichernfenster,
+                  optionen.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}) {}
+
 }  // namespace tarvel

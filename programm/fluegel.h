@@ -2,6 +2,7 @@
 
 #include "competition/intervalltraining.h"
 #include "competition/tagesrennen.h"
+#include "competition/wettkampf1.h"
 #include "core/bildwahl.h"
 #include "core/speichernfenster.h"
 #include "hardware/tastaturbelegung.h"
@@ -9,6 +10,7 @@
 #include "optionen/einstellungsfenster.h"
 #include "platform/dienste.h"
 #include "programm/startfenster.h"
+#include "programm/wettkampf_platzhalter.h"
 #include "race/rennen.h"
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
@@ -56,6 +58,13 @@ struct optionsfluegel {
     tarvel::bildwahl fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung beste_zeiten_verwaltung;
     tarvel::einstellungsfenster einstellungsfenster;
+};
+
+struct wettkampffluegel {
+    wettkampffluegel(programm& p, optionsfluegel& optionen);
+
+    wettkampf_platzhalter wettkampfablauf;
+    tarvel::wettkampf1 wettkampf1;
 };
 
 }  // namespace tarvel

@@ -31,6 +31,7 @@ programm::programm(const plattform::dienste& d)
       ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
       optionen_(std::make_unique<optionsfluegel>(*this, static_cast<optionsfolgen&>(*this),
                                                  static_cast<bestzeitfolgen&>(*this))),
+      wettkampf_(std::make_unique<wettkampffluegel>(*this, *optionen_)),
       pflege_({datei,
                {einst, einrichtung, txt},
                form1,
@@ -62,6 +63,7 @@ programm::programm(const plattform::dienste& d)
       fahrerbild_laden(optionen_->fahrerbild_laden),
       beste_zeiten_verwaltung(optionen_->beste_zeiten_verwaltung),
       einstellungsfenster(optionen_->einstellungsfenster),
+      wettkampf1(wettkampf_->wettkampf1),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };
@@ -75,6 +77,7 @@ void programm::hauptfenster_verbinden() {
     form1.beenden = [this] { programm_beenden(); };
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
+    form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
     form1.fahrerbilder_uebernehmen = [this] {
@@ -89,6 +92,10 @@ void programm::hauptfenster_verbinden() {
     form1.einstellungen_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_start_ziel); };
     form1.fahrer_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrer); };
     form1.fahrzeuge_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrzeuge); };
+    wettkampf1.einstellungen_oeffnen = [this] {
+        form1.vor_dem_speichern_pruefen();  // its fields are saved with the options
+        einstellungsfenster.oeffnen(f::seite_wettkampf);
+    };
 }
 
 void programm::bahnstrom_von_hand(bool an) {
@@ -130,6 +137,13 @@ void programm::einstellungen_uebernommen(const einstellungen& vorher) {
         bestzeiten_laden();
     }
     form1.beste_zeiten_anzeigen();
+}
+
+void programm::optionen_geschlossen() {
+    form1.bilder_anzeigen();
+    if (fenster.ist_offen(fenstername::wettkampf1)) {
+        wettkampf1.optionen_geschlossen();
+    }
 }
 
 void programm::hardware_starten() {

@@ -42,11 +42,13 @@ class tastaturbelegung;
 class update_form;
 class veranstaltung;
 class wertung;
+class wettkampf1;
 struct ergebnisfluegel;
 struct optionsfluegel;
 struct rennen;
 struct rennfluegel;
 struct startfluegel;
+struct wettkampffluegel;
 
 /// The whole program: owns every record and every wing, and puts them together. Two of them can live in one process.
 class programm final : private einstellungsfolgen, private optionsfolgen, private bestzeitfolgen {
@@ -91,6 +93,7 @@ private:
     std::unique_ptr<rennfluegel> rennen_;
     std::unique_ptr<ergebnisfluegel> ergebnisse_;
     std::unique_ptr<optionsfluegel> optionen_;
+    std::unique_ptr<wettkampffluegel> wettkampf_;
     einstellungspflege pflege_;
     std::unique_ptr<messgeraete> geraete_;
 
@@ -114,13 +117,14 @@ public:
     tarvel::bildwahl& fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung& beste_zeiten_verwaltung;
     tarvel::einstellungsfenster& einstellungsfenster;
+    tarvel::wettkampf1& wettkampf1;
     messgeraete& geraete;
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;
     bool einstellungen_speichern() override;
     void einstellungen_uebernommen(const einstellungen& vorher) override;
-    void optionen_geschlossen() override { form1.bilder_anzeigen(); }
+    void optionen_geschlossen() override;
     void hardware_starten() override;
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;

@@ -22,6 +22,7 @@
 #include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
+#include "ui/wettkampf1_fenster.h"
 
 namespace tarvel::ui {
 
@@ -57,6 +58,7 @@ public:
     UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
+    Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel}};
