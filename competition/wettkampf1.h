@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "competition/rennplan.h"
-#include "competition/startliste.h"
+#include "competition/teilnehmerliste.h"
 #include "core/bildwahl.h"
 #include "core/einstellungen.h"
 #include "core/fensterumgebung.h"
@@ -131,13 +131,13 @@ public:
     /// There may be other drivers now, and another kind of plan.
     void optionen_geschlossen();
 
-    const startliste& gesamtliste() const { return gesamt_; }
-    const startliste& teilnehmer() const { return start_; }
+    const teilnehmerliste& gesamtliste() const { return gesamt_; }
+    const teilnehmerliste& teilnehmer() const { return start_; }
 
 private:
     /// A list, its drawing, and the file that it is saved in unless another is named.
     struct seite {
-        startliste& inhalt;
+        teilnehmerliste& inhalt;
         liste& anzeige;
         std::string datei;
     };
@@ -215,8 +215,8 @@ private:
     };
 
     umgebung um_;
-    startliste gesamt_;
-    startliste start_;
+    teilnehmerliste gesamt_;
+    teilnehmerliste start_;
     seite links_;
     seite rechts_;
     std::vector<listeneintrag> bekannte_;  ///< the driver list as it was looked at last

@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view listenordner = "Listen";
 
 /// Of the row that was there, the one below it, or the last.
-int nach_streichen(const startliste& inhalt, int zeile) {
+int nach_streichen(const teilnehmerliste& inhalt, int zeile) {
     return std::min(zeile, static_cast<int>(inhalt.anzahl()) - 1);
 }
 
@@ -83,7 +83,7 @@ void wettkampf1::verschieben(seite& von, seite& nach) {
 }
 
 void wettkampf1::alle_verschieben(seite& von, seite& nach) {
-    startliste geblieben(um_.welt.txt, namensliste::namen_max);
+    teilnehmerliste geblieben(um_.welt.txt, namensliste::namen_max);
     for (const listeneintrag& wer : von.inhalt.eintraege()) {
         if (nach.inhalt.hinzufuegen(wer) == namensmangel::voll) {
             geblieben.hinzufuegen(wer);
@@ -110,7 +110,7 @@ void wettkampf1::ersetzen(seite& ziel, const seite& quelle) {
 
 /// Who has no room on the start list stays.
 void wettkampf1::listen_tauschen() {
-    startliste bleibt(um_.welt.txt, namensliste::namen_max);
+    teilnehmerliste bleibt(um_.welt.txt, namensliste::namen_max);
     bleibt.inhalt_tauschen(start_);
     for (const listeneintrag& wer : gesamt_.eintraege()) {
         if (start_.hinzufuegen(wer) == namensmangel::voll) {
@@ -167,7 +167,7 @@ void wettkampf1::laden_oeffnen(seite& wo) {
 
 /// Who is on the start list is not to be chosen any more; who has left it is.
 void wettkampf1::laden_beenden(seite& wo, const namensliste& gelesen) {
-    startliste bisher(um_.welt.txt, namensliste::namen_max);
+    teilnehmerliste bisher(um_.welt.txt, namensliste::namen_max);
     bisher.inhalt_tauschen(wo.inhalt);
     std::vector<std::string> abgelehnt;
     for (const listeneintrag& wer : gelesen.eintraege()) {
@@ -205,7 +205,7 @@ void wettkampf1::speichern_oeffnen(seite& wo) {
 
 void wettkampf1::bildnamen_zuordnen() {
     int anzahl = 0;
-    for (startliste* inhalt : {&gesamt_, &start_}) {
+    for (teilnehmerliste* inhalt : {&gesamt_, &start_}) {
         namensliste alle = inhalt->als_namensliste(um_.fahrerliste.listenart());
         anzahl += alle.bilder_uebernehmen(um_.welt.ablage, "nopic");
         inhalt->bilder_von(alle);
@@ -232,7 +232,7 @@ void wettkampf1::bild_neu_zuordnen() {
 }
 
 void wettkampf1::qualifying_uebernehmen(const std::vector<std::string>& rangfolge) {
-    startliste bisher(um_.welt.txt, namensliste::namen_max);
+    teilnehmerliste bisher(um_.welt.txt, namensliste::namen_max);
     bisher.inhalt_tauschen(start_);
     for (const std::string& name : rangfolge) {
         const auto zeile = bisher.zeile_von(startlistenname(name));

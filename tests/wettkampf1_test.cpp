@@ -30,7 +30,7 @@ protected:
         t.maschine.meldungen_gezeigt.clear();
         w.optionen_geschlossen();
     }
-    static namen ohne_bilder(const startliste& liste) {
+    static namen ohne_bilder(const teilnehmerliste& liste) {
         namen alle;
         for (const listeneintrag& eintrag : liste.eintraege()) {
             alle.push_back(eintrag.name);

@@ -19,9 +19,9 @@ enum class namensmangel { keiner, leer, platzhalter, doppelt, voll };
 std::string startlistenname(std::string_view text);
 
 /// Names with their pictures, each name once. Rows count from 0; one that does not exist changes nothing.
-class startliste {
+class teilnehmerliste {
 public:
-    startliste(const texte& txt, std::size_t max) : txt_(txt), max_(max) {}
+    teilnehmerliste(const texte& txt, std::size_t max) : txt_(txt), max_(max) {}
 
     const std::vector<listeneintrag>& eintraege() const { return eintraege_; }
     std::size_t anzahl() const { return eintraege_.size(); }
@@ -37,7 +37,7 @@ public:
     void mit_naechster_tauschen(std::size_t zeile);
     /// All orders are equally likely.
     void mischen(plattform::zufall& zufall);
-    void inhalt_tauschen(startliste& andere);
+    void inhalt_tauschen(teilnehmerliste& andere);
     void bild_setzen(std::size_t zeile, std::string_view stamm);
     /// The pictures of a list with the same rows.
     void bilder_von(const namensliste& andere);
