@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <vector>
 
 #include "core/felder.h"
@@ -64,9 +65,8 @@ void gruppenwahl_laden(const dateien& ablage, gruppenwahl& ziel) {
 
 bool gruppenwahl_speichern(const dateien& ablage, const gruppenwahl& werte) {
     std::vector<std::string> zeilen;
-    for (const auto kasten : kaesten) {
-        zeilen.emplace_back(werte.*kasten ? wahr : falsch);
-    }
+    std::transform(kaesten.begin(), kaesten.end(), std::back_inserter(zeilen),
+                   [&](const auto kasten) { return std::string(werte.*kasten ? wahr : falsch); });
     return ablage.zeilen_schreiben(gruppen_datei, zeilen);
 }
 

@@ -23,6 +23,7 @@
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/wettkampf2_fenster.h"
+#include "ui/wettkampf1_fenster.h"
 
 namespace tarvel::ui {
 
@@ -59,6 +60,7 @@ public:
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
+    Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel}};

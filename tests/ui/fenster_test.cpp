@@ -38,7 +38,7 @@ protected:
         t.p.einstellungsfenster.uart_einrichten();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 18U);
+        ASSERT_EQ(alle.size(), 19U);
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());
             EXPECT_TRUE(fenster->isVisible()) << fenster->objectName().toStdString();

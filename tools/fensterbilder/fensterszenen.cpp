@@ -44,6 +44,21 @@ QWidget& uart_assistent(buehne& b) {
     return b.o.uart_einstellungen;
 }
 
+/// An evening is prepared: those who are there are on the start list.
+QWidget& wettkampf(buehne& b, int fahrer) {
+    for (const char* name : {"Jörg Hansen", "Anna", "Käthe", "Björn", "Uwe Petersen"}) {
+        b.p.fahrerliste.hinzufuegen(name);
+    }
+    b.p.form1.Command3.klicken();
+    b.p.wettkampf1.Text1.eingeben("Vereinsabend im November");
+    for (int nummer = 0; nummer < fahrer; ++nummer) {
+        b.p.wettkampf1.rennliste.auswaehlen(1);
+        b.p.wettkampf1.Command16.klicken();
+    }
+    b.p.wettkampf1.auswahlliste.auswaehlen(1);
+    return b.o.wettkampf1;
+}
+
 const std::vector<szeneneintrag> alle{
     {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
     {"hauptfenster_control_unit",
@@ -111,6 +126,15 @@ const std::vector<szeneneintrag> alle{
     {"einstellungen_sounds", optionsseite_zeigen<8>},
     {"einstellungen_farben", optionsseite_zeigen<9>},
     {"einstellungen_trennzeichen", optionsseite_zeigen<10>},
+    {"wettkampf_vorbereiten", [](buehne& b) -> QWidget& { return wettkampf(b, 7); }},
+    {"wettkampf_leer", [](buehne& b) -> QWidget& { return wettkampf(b, 0); }},
+    {"wettkampf_gruppen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.gruppen = {true, true, true};
+         b.p.einst.wechsel_schema = *wechsel_folge_lesen("1-2-3-4-5-6-P");
+         b.p.form1.t_aktiv.gesetzt(true);
+         return wettkampf(b, 5);
+     }},
     {"tastatur",
      [](buehne& b) -> QWidget& {
          b.p.form1.command_tasten.klicken();
