@@ -1,11 +1,11 @@
 #include "ui/auswertung_fenster.h"
 
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <algorithm>
 
+#include "ui/blattausgabe.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -77,19 +77,13 @@ void AuswertungFenster::drucken() {
 
 void AuswertungFenster::pdf_speichern(const dateien& ablage) {
     const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
-    auto* dialog = new QFileDialog(this, QString::fromStdString(logik_.Command_pdf.text()),
-                                   QString::fromStdU16String(vorschlag), "PDF (*.pdf)");
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix("pdf");
-    dialog->selectFile(QString::fromStdU16String(vorschlag));
     const ergebnisblatt blatt = blatt_bilden();  // as it stands now, whatever happens while the name is chosen
-    QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, blatt](const QString& pfad) {
-        if (!ergebnisblatt_pdf(pfad, blatt)) {
-            logik_.pdf_misslungen();
-        }
-    });
-    vor_allem_zeigen(*dialog);
+    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
+                     [this, blatt](const QString& pfad) {
+                         if (!ergebnisblatt_pdf(pfad, blatt)) {
+                             logik_.pdf_misslungen();
+                         }
+                     });
 }
 
 QLayout* AuswertungFenster::korrekturzeile() {

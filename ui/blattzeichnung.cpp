@@ -13,9 +13,6 @@ namespace tarvel::ui {
 namespace {
 
 // all measures in tenths of a millimetre
-constexpr double breite_min = 2770;  // A4 in landscape within its margins
-constexpr double hoehe_min = 1700;
-
 constexpr double schrift_titel = 78;
 constexpr double schrift_kopf = 44;
 constexpr double schrift_spalte = 31;
@@ -31,7 +28,6 @@ constexpr double luft_spalte = 30;      // at both sides of a cell together
 constexpr double diagramm_je_px = 2.1;  // the chart measures its lines in pixels
 
 constexpr double zahlen_anteil_max = 0.68;  // of the width; the names keep the rest
-constexpr double kleinste_schrift = 0.62;   // of its size, before a text is cut
 
 struct spaltenart {
     Qt::AlignmentFlag ausrichtung;
@@ -52,24 +48,7 @@ constexpr std::size_t spalte_fahrer = 2;
 const QColor gold{255, 250, 232};
 const QColor streifen{247, 248, 250};
 
-QFont schrift_mit(double px, bool fett) {
-    QFont schrift;
-    schrift.setPixelSize(static_cast<int>(std::lround(px)));
-    schrift.setBold(fett);
-    return schrift;
-}
-
 }  // namespace
-
-void ergebnisblatt_zeichnen(QPainter& maler, const QRectF& flaeche, const ergebnisblatt& blatt) {
-    const double skala = std::min(flaeche.width() / breite_min, flaeche.height() / hoehe_min);
-    maler.save();
-    maler.setRenderHint(QPainter::Antialiasing);
-    maler.translate(flaeche.topLeft());
-    maler.scale(skala, skala);
-    Blattzeichnung(maler, blatt, flaeche.size() / skala).zeichnen();
-    maler.restore();
-}
 
 void Blattzeichnung::zeichnen() {
     spalten_messen();
@@ -78,18 +57,6 @@ void Blattzeichnung::zeichnen() {
     // on a tall page the chart is no tower
     diagramm({0, oben, groesse_.width(), std::min(unten - oben, groesse_.width() * 0.75)});
     fuss();
-}
-
-void Blattzeichnung::text(const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, const schrift& art) {
-    QFont gewaehlt = schrift_mit(art.px, art.fett);
-    const double noetig = QFontMetricsF(gewaehlt).horizontalAdvance(inhalt);
-    if (noetig > feld.width()) {
-        gewaehlt = schrift_mit(std::floor(art.px * std::max(feld.width() / noetig, kleinste_schrift)), art.fett);
-    }
-    maler_.setFont(gewaehlt);
-    maler_.setPen(art.farbe);
-    maler_.drawText(feld, static_cast<int>(ausrichtung | Qt::AlignVCenter | Qt::TextSingleLine),
-                    QFontMetricsF(gewaehlt).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
 }
 
 double Blattzeichnung::kopf() {

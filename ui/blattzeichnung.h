@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <vector>
 
+#include "ui/blattausgabe.h"
 #include "ui/ergebnisblatt.h"
 
 namespace tarvel::ui {
@@ -16,14 +17,9 @@ public:
     void zeichnen();
 
 private:
-    struct schrift {
-        double px = 0;
-        bool fett = false;
-        QColor farbe;
-    };
-
-    /// One line of text that becomes smaller, and at last is cut, where it is too wide.
-    void text(const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, const schrift& art);
+    void text(const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, const blattschrift& art) {
+        blatttext(maler_, feld, ausrichtung, inhalt, art);
+    }
     double kopf();
     double tabelle(double oben);
     void tabellenzeile(const ergebnisblatt::zeile& zeile, const QRectF& feld);

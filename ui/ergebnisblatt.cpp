@@ -1,31 +1,17 @@
 #include "ui/ergebnisblatt.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QSaveFile>
 #include <algorithm>
-#include <memory>
 
-#include "core/texte.h"
 #include "results/ergebnistexte.h"
-#include "ui/fenster.h"
+#include "ui/blattausgabe.h"
+#include "ui/blattzeichnung.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
 
-constexpr double rand_mm = 10;
-constexpr int pdf_dpi = 300;
-
 QString wort_von(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-QString produkt() {
-    return wort_von(std::string(programm_name) + " " + std::string(programm_version));
 }
 
 ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebnis::spur& s,
@@ -48,19 +34,11 @@ ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebn
              {zahl(text::tempo(s)), {}}}};
 }
 
-QPageLayout seite() {
-    return {QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(rand_mm, rand_mm, rand_mm, rand_mm),
-            QPageLayout::Millimeter};
-}
-
-/// The page on a device that has just one.
-bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const ergebnisblatt& blatt) {
-    QPainter maler;
-    if (!maler.begin(&geraet)) {
-        return false;
-    }
-    ergebnisblatt_zeichnen(maler, QRectF(0, 0, geraet.width(), geraet.height()), blatt);
-    return maler.end();
+blattseiten eine_seite(const ergebnisblatt& blatt) {
+    return {blatt.titel, [](const QSizeF& /*groesse*/) { return 1; },
+            [blatt](QPainter& maler, const QSizeF& groesse, int /*nummer*/) {
+                Blattzeichnung(maler, blatt, groesse).zeichnen();
+            }};
 }
 
 }  // namespace
@@ -81,39 +59,16 @@ ergebnisblatt ergebnisblatt_bilden(const rennergebnis& ergebnis, const blatt_bes
     return blatt;
 }
 
+void ergebnisblatt_zeichnen(QPainter& maler, const QRectF& flaeche, const ergebnisblatt& blatt) {
+    seite_malen(maler, flaeche, eine_seite(blatt));
+}
+
 bool ergebnisblatt_pdf(const QString& pfad, const ergebnisblatt& blatt) {
-    QDir().mkpath(QFileInfo(pfad).path());
-    QSaveFile datei(pfad);
-    if (!datei.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    {
-        QPdfWriter schreiber(&datei);
-        schreiber.setResolution(pdf_dpi);
-        schreiber.setPageLayout(seite());
-        schreiber.setTitle(blatt.titel);
-        schreiber.setCreator(produkt());
-        if (!auf_geraet_zeichnen(schreiber, blatt)) {
-            datei.cancelWriting();
-        }
-    }
-    return datei.commit();
+    return blatt_als_pdf(pfad, eine_seite(blatt));
 }
 
 void ergebnisblatt_drucken(QWidget* eltern, const ergebnisblatt& blatt, const std::function<void()>& bei_fehler) {
-    const auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    drucker->setPageLayout(seite());
-    drucker->setDocName(blatt.titel);
-    auto* dialog = new QPrintDialog(drucker.get(), eltern);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setOption(QAbstractPrintDialog::PrintPageRange, false);  // there is but one
-    QObject::connect(dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), dialog,
-                     [drucker, blatt, bei_fehler](QPrinter* /*selber*/) {
-                         if (!auf_geraet_zeichnen(*drucker, blatt) && bei_fehler) {
-                             bei_fehler();
-                         }
-                     });
-    vor_allem_zeigen(*dialog);
+    blatt_drucken(eltern, eine_seite(blatt), bei_fehler);
 }
 
 }  // namespace tarvel::ui

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <memory>
 #include <vector>
 
 #include "tests/plattform/testprogramm.h"
@@ -27,6 +28,7 @@ struct buehne {
     programm& p;
     test::vereinsabend abend{p};
     ui::Oberflaeche o{p};
+    std::shared_ptr<void> dazu;  ///< what a scene has added; it goes first
 
 private:
     void klub_anmelden();

@@ -73,8 +73,8 @@ int main(int argc, char** argv) {
     bool gut = true;
     const bool alle = argumente.isEmpty();
     std::vector<tarvel::szeneneintrag> szenen = tarvel::fensterszenen();
-    for (const auto& szene : tarvel::rennszenen()) {
-        szenen.push_back(szene);
+    for (const auto* weitere : {&tarvel::rennszenen(), &tarvel::abendszenen()}) {
+        szenen.insert(szenen.end(), weitere->begin(), weitere->end());
     }
     for (const auto& szene : szenen) {
         if (alle || argumente.removeAll(szene.name) > 0) {

@@ -16,6 +16,8 @@ struct szeneneintrag {
 
 /// The race, its lights and its pauses.
 const std::vector<szeneneintrag>& rennszenen();
+/// The evening of many races.
+const std::vector<szeneneintrag>& abendszenen();
 /// All other windows.
 const std::vector<szeneneintrag>& fensterszenen();
 

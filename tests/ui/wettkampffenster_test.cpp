@@ -1,0 +1,101 @@
+#include <QListView>
+#include <QScrollBar>
+#include <map>
+
+#include "competition/rangliste.h"
+#include "competition/w_auswertung.h"
+#include "tests/plattform/vereinswettkampf.h"
+#include "tests/ui/oberflaeche_probe.h"
+#include "ui/rangliste_fenster.h"
+#include "ui/w_auswertung_fenster.h"
+#include "ui/wettkampfblatt.h"
+
+namespace tarvel {
+namespace {
+
+using m = wettkampf_modus;
+
+class Wettkampffenster : public test::OberflaecheProbe {
+protected:
+    void zeigen(m modus, int fahrer, std::initializer_list<int> lanes, int rennen) {
+        wettkampf w = test::vereinswettkampf::neu(modus, fahrer, lanes);
+        test::vereinswettkampf::fahren(w, rennen);
+        v.abend.beginnen(std::move(w));
+        t.p.fenster.zeigen(fenstername::w_auswertung);
+        fenster.resize(1024, 768);
+        setzen_lassen();
+    }
+    void setzen_lassen() {
+        o.takt.ausfuehren();
+        QTest::qWait(60);
+    }
+
+    fenster_umgebung um{t.p.ablage, t.p.txt, t.p.fenster, t.p.dienste.meldungen};
+    test::vereinswettkampf v{t.p};
+    w_auswertung stand{um, t.p.einst, v.abend};
+    ui::WAuswertungFenster fenster{stand, t.p.ablage, o.fenster, &o.form1};
+};
+
+TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
+    zeigen(m::gruppen, 99, {1, 3, 5}, 40);
+    auto* namen = finde<QListView>(fenster, "w_auswertung.List_name");
+    const auto spalten = fenster.findChildren<QListView*>();
+    const auto auf_einer_hoehe = [&] {
+        for (const QListView* eine : spalten) {
+            if (eine->isVisible()) {
+                EXPECT_EQ(eine->verticalScrollBar()->value(), namen->verticalScrollBar()->value())
+                    << eine->objectName().toStdString();
+                EXPECT_EQ(eine->mapTo(&fenster, QPoint()).y(), namen->mapTo(&fenster, QPoint()).y());
+                EXPECT_EQ(eine->viewport()->height(), namen->viewport()->height());
+            }
+        }
+    };
+    klick(fenster, "w_auswertung.Command2");
+    const int seite = namen->verticalScrollBar()->value();
+    EXPECT_GT(seite, 5) << "a page, not a row";
+    auf_einer_hoehe();
+    finde<QListView>(fenster, "w_auswertung.List_balken")->verticalScrollBar()->setValue(50);
+    auf_einer_hoehe();
+    v.abend.aendern([](wettkampf& w) {
+        test::vereinswettkampf::fahren(w, 1);
+        return true;
+    });
+    setzen_lassen();
+    EXPECT_EQ(namen->verticalScrollBar()->value(), 50) << "a race does not take the reader away";
+    stand.List_zeit.auswaehlen(98);
+    setzen_lassen();
+    auf_einer_hoehe();
+    EXPECT_EQ(namen->currentIndex().row(), 98);
+    EXPECT_FALSE(stand.Command2.bedienbar()) << "nothing is behind the last row";
+}
+
+TEST_F(Wettkampffenster, BlattVerliertKeineZeile) {
+    const QString pfad = QString::fromStdString((t.maschine.ordner() / "Ergebnisse" / "Blatt.pdf").string());
+    for (const auto& [modus, fahrer] : {std::pair{m::gruppen, 99}, {m::jeder_gegen_jeden, 10}, {m::rotation, 2}}) {
+        zeigen(modus, fahrer, {2, 5}, 30);
+        ASSERT_EQ(stand.List_name.zeilen().size(), static_cast<std::size_t>(fahrer));
+        const wettkampfblatt blatt = stand.blatt();
+        for (const double hoehe : {1900.0, 1700.0, 3600.0}) {
+            std::map<std::size_t, std::size_t> naechste;
+            for (const auto& seite : ui::seiten_aufteilen(blatt, hoehe)) {
+                for (const ui::tabellenstueck& stueck : seite) {
+                    EXPECT_EQ(stueck.von, naechste[stueck.tabelle]);
+                    EXPECT_GT(stueck.bis, stueck.von);
+                    naechste[stueck.tabelle] = stueck.bis;
+                    EXPECT_LT(ui::unterkante(blatt, stueck), hoehe - 40) << "over the foot of the page";
+                }
+            }
+            for (std::size_t n = 0; n < blatt.tabellen.size(); ++n) {
+                EXPECT_EQ(naechste[n], blatt.tabellen[n].zeilen.size()) << blatt.tabellen[n].titel;
+            }
+        }
+        ASSERT_TRUE(ui::blatt_als_pdf(pfad, ui::wettkampfseiten(blatt)));
+        QFile datei(pfad);
+        ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
+        const auto seiten = static_cast<std::ptrdiff_t>(ui::seiten_aufteilen(blatt, 1900).size());
+        EXPECT_EQ(datei.readAll().count("/Type /Page\n"), seiten);
+    }
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,134 @@
+#include "ui/blattausgabe.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSaveFile>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <utility>
+
+#include "core/texte.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr double rand_mm = 10;
+constexpr int pdf_dpi = 300;
+constexpr double kleinste_schrift = 0.62;  // of its size, before a text is cut
+
+QPageLayout seitenformat() {
+    return {QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(rand_mm, rand_mm, rand_mm, rand_mm),
+            QPageLayout::Millimeter};
+}
+
+double skala_von(const QSizeF& flaeche) {
+    return std::min(flaeche.width() / blattmass::breite_min, flaeche.height() / blattmass::hoehe_min);
+}
+
+/// The pages from `von` on, up to `bis` if that is above 0; both count from 1.
+bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const blattseiten& seiten, int von = 1, int bis = 0) {
+    QPainter maler;
+    if (!maler.begin(&geraet)) {
+        return false;
+    }
+    const QRectF flaeche(0, 0, geraet.width(), geraet.height());
+    const int anzahl = seiten.anzahl(flaeche.size() / skala_von(flaeche.size()));
+    const int letzte = bis > 0 ? std::min(bis, anzahl) : anzahl;
+    for (int nummer = von; nummer <= letzte; ++nummer) {
+        if (nummer > von && !geraet.newPage()) {
+            return false;
+        }
+        seite_malen(maler, flaeche, seiten, nummer - 1);
+    }
+    return maler.end();
+}
+
+}  // namespace
+
+void seite_malen(QPainter& maler, const QRectF& flaeche, const blattseiten& seiten, int nummer) {
+    const double skala = skala_von(flaeche.size());
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.translate(flaeche.topLeft());
+    maler.scale(skala, skala);
+    seiten.zeichnen(maler, flaeche.size() / skala, nummer);
+    maler.restore();
+}
+
+bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten) {
+    QDir().mkpath(QFileInfo(pfad).path());
+    QSaveFile datei(pfad);
+    if (!datei.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    {
+        QPdfWriter schreiber(&datei);
+        schreiber.setResolution(pdf_dpi);
+        schreiber.setPageLayout(seitenformat());
+        schreiber.setTitle(seiten.titel);
+        schreiber.setCreator(QString::fromStdString(std::string(programm_name) + " " + std::string(programm_version)));
+        if (!auf_geraet_zeichnen(schreiber, seiten)) {
+            datei.cancelWriting();
+        }
+    }
+    return datei.commit();
+}
+
+void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::function<void()>& bei_fehler) {
+    const auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    drucker->setPageLayout(seitenformat());
+    drucker->setDocName(seiten.titel);
+    const int anzahl = seiten.anzahl(QSizeF(blattmass::breite_min, blattmass::hoehe_min));
+    auto* dialog = new QPrintDialog(drucker.get(), eltern);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QAbstractPrintDialog::PrintPageRange, anzahl > 1);
+    QObject::connect(dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), dialog,
+                     [drucker, seiten, bei_fehler](QPrinter* /*selber*/) {
+                         const bool teil = drucker->printRange() == QPrinter::PageRange;
+                         const int von = teil ? std::max(drucker->fromPage(), 1) : 1;
+                         if (!auf_geraet_zeichnen(*drucker, seiten, von, teil ? drucker->toPage() : 0) && bei_fehler) {
+                             bei_fehler();
+                         }
+                     });
+    vor_allem_zeigen(*dialog);
+}
+
+void pdf_datei_fragen(QWidget* eltern, const QString& titel, const QString& vorschlag,
+                      std::function<void(const QString&)> weiter) {
+    auto* dialog = new QFileDialog(eltern, titel, vorschlag, "PDF (*.pdf)");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix("pdf");
+    dialog->selectFile(vorschlag);
+    QObject::connect(dialog, &QFileDialog::fileSelected, eltern, std::move(weiter));
+    vor_allem_zeigen(*dialog);
+}
+
+QFont schrift_mit(double px, bool fett) {
+    QFont schrift;
+    schrift.setPixelSize(static_cast<int>(std::lround(px)));
+    schrift.setBold(fett);
+    return schrift;
+}
+
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
+               const blattschrift& art) {
+    QFont gewaehlt = schrift_mit(art.px, art.fett);
+    const double noetig = QFontMetricsF(gewaehlt).horizontalAdvance(inhalt);
+    if (noetig > feld.width()) {
+        gewaehlt = schrift_mit(std::floor(art.px * std::max(feld.width() / noetig, kleinste_schrift)), art.fett);
+    }
+    maler.setFont(gewaehlt);
+    maler.setPen(art.farbe);
+    maler.drawText(feld, static_cast<int>(ausrichtung | Qt::AlignVCenter | Qt::TextSingleLine),
+                   QFontMetricsF(gewaehlt).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QPainter>
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+/// What all printed sheets have in common: their paper, and the ways on which they leave the program.
+namespace tarvel::ui {
+
+/// Pages in landscape that draw themselves.
+struct blattseiten {
+    QString titel;
+    /// How many there are of this size in the sheet's own measure.
+    std::function<int(const QSizeF& groesse)> anzahl;
+    /// Draws the page with this number, from 0, into its area.
+    std::function<void(QPainter& maler, const QSizeF& groesse, int nummer)> zeichnen;
+};
+
+/// All measures of a sheet are tenths of a millimetre; on paper of another shape the sheet is scaled to fit.
+namespace blattmass {
+inline constexpr double breite_min = 2770;  ///< A4 in landscape within its margins
+inline constexpr double hoehe_min = 1700;
+}  // namespace blattmass
+
+/// Paints a page into an area of any device.
+void seite_malen(QPainter& maler, const QRectF& flaeche, const blattseiten& seiten, int nummer = 0);
+
+/// Writes the pages as an A4 file, creating its folder as needed. Either the whole new file stands afterwards, or the
+/// result is false and the old one is untouched.
+bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten);
+
+/// Opens the dialog in which the operator chooses a printer. `bei_fehler` is called if the printer does not begin.
+void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::function<void()>& bei_fehler);
+
+/// Opens the dialog in which he names a file; `weiter` gets its path.
+void pdf_datei_fragen(QWidget* eltern, const QString& titel, const QString& vorschlag,
+                      std::function<void(const QString&)> weiter);
+
+/// How a text stands on a sheet.
+struct blattschrift {
+    double px = 0;
+    bool fett = false;
+    QColor farbe;
+};
+QFont schrift_mit(double px, bool fett);
+/// One line of text that becomes smaller, and at last is cut, where it is too wide.
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
+               const blattschrift& art);
+
+}  // namespace tarvel::ui
