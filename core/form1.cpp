@@ -155,6 +155,9 @@ std::vector<feld*> form1::felder_ohne_zahl() {
         }
     }
     std::erase_if(alle, [](const feld* f) { return ist_zahl(f->text()); });
+    if (!einrichtung().dauer_lesbar()) {
+        alle.push_back(&renndauer);
+    }
     return alle;
 }
 
@@ -232,6 +235,10 @@ void form1::Command1_Click() {
     }
     if (bahnstrom_ein) {
         bahnstrom_ein();
+    }
+    if (!einrichtung().dauer_lesbar()) {
+        ablehnen(um_.txt.meldung[13], renndauer);  // what was typed stays to be mended
+        return;
     }
     unlesbares_ersetzen();
     renneinrichtung e = einrichtung();

@@ -97,6 +97,12 @@ TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {
                           "Zeichen, die in keiner Datei stehen können, sind ersetzt:\nŁucja – ?ucja",
                           "Hinweis"}}));
     EXPECT_EQ(t.p.param.fahrer_name[3], "?ucja");
+    t.bahn().Command2.klicken();
+    t.einrichten("Zeit", "fünf", {1});
+    EXPECT_EQ(f.renndauer.text(), "fünf") << "to be mended";
+    f.Command5.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text,
+              "Hier stand keine Zahl. Jetzt gilt:\nRenndauer Minuten/Runden: 5");
 }
 
 TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
