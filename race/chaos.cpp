@@ -139,6 +139,7 @@ void chaos::pause_beginnen() {
     um_.zeitgeber.chaostimer->an();
     um_.zeitgeber.chaostimer2->an();
     zustand.pause.start = um_.moment_lesen();
+    um_.ereignisse.anhalten(zustand.pause.start);
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
     um_.bahn.Command3.text(um_.bahn.wort.weiter);
@@ -186,7 +187,7 @@ void chaos::zeitgeber_anhalten() {
 void chaos::zeitgeber_fortsetzen() {
     t_.fruehstart.fortsetzen();
     for (const int spur : alle_spuren) {
-        const spur_zustand& zustand = um_.zustand.spur[spur];
+        spur_zustand& zustand = um_.zustand.spur[spur];
         if (zustand.tank_strafe_aktiv) {
             um_.zeitgeber.t_straftimer[spur]->an();
         }
@@ -293,7 +294,6 @@ void chaos::chaosende_routine() {
     const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
     um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
-    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
@@ -305,6 +305,7 @@ void chaos::chaosende_routine() {
     um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
+    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     geraeteschalter_vergessen();
     zustand.chaos_aktiv = false;
     zustand.pause.schalter_zuletzt = ende;
@@ -373,7 +374,8 @@ void chaos::chaos_nachholen() {
         if (std::exchange(zustand.ch_durchfahrt, false)) {
             ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
             ereignis.aktiv = true;
-            ereignis.ereignis_zeit = zustand.ch_durchfahrt_zeit + um_.zustand.pause.dauer;
+            ereignis.verschoben = um_.zustand.pause.dauer;
+            ereignis.ereignis_zeit = zustand.ch_durchfahrt_zeit + ereignis.verschoben;
         }
     }
 }
@@ -381,13 +383,15 @@ void chaos::chaos_nachholen() {
 void chaos::aufheben() {
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
-        um_.zustand.pause.dauer = um_.zeit.messzeit_lesen() - um_.zustand.pause.start;
+        const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+        um_.zustand.pause.dauer = jetzt - um_.zustand.pause.start;
         um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
         um_.ereignisse.strecke_leeren();
         kleine_ampeln(kleines_licht::gruen);
     }
     chaos_nachholen();
     um_.fenster.entladen(fenstername::k_ampel);
+        um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);
     zuruecksetzen();
 }
 
