@@ -189,6 +189,7 @@ void chaos::zeitgeber_fortsetzen() {
     for (const int spur : alle_spuren) {
         spur_zustand& zustand = um_.zustand.spur[spur];
         if (zustand.tank_strafe_aktiv) {
+            zustand.tank_sperre.bis += zustand.tank_sperre.bis == 0 ? 0 : um_.zustand.pause.dauer;
             um_.zeitgeber.t_straftimer[spur]->an();
         }
         if (zustand.tank_wartezaehler > 0s) {
@@ -302,10 +303,11 @@ void chaos::chaosende_routine() {
     unverbuesste_abschalten();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
+    zustand.strafreste_ab(ende);
     um_.ereignisse.strecke_leeren();
+    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
-    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     geraeteschalter_vergessen();
     zustand.chaos_aktiv = false;
     zustand.pause.schalter_zuletzt = ende;
@@ -346,7 +348,9 @@ void chaos::strafen_verteilen() {
         if (um_.einst.chaos_strafe_strom) {
             t_.strafe.zeitstrafe(spur, dauer_s(std::lround(sekunden)));
         } else {
-            zustand.fruehstart_sperre = true;
+            if (!std::exchange(zustand.fruehstart_sperre, true)) {
+                zustand.sperre.von = um_.zustand.pause.start + um_.zustand.pause.dauer;
+            }
             zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;
             um_.zeitgeber.straftimer_ch[spur]->an();
             t_.strafe.spur_strom_aus(spur);
@@ -387,11 +391,11 @@ void chaos::aufheben() {
         um_.zustand.pause.dauer = jetzt - um_.zustand.pause.start;
         um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
         um_.ereignisse.strecke_leeren();
+        um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);
         kleine_ampeln(kleines_licht::gruen);
     }
     chaos_nachholen();
     um_.fenster.entladen(fenstername::k_ampel);
-        um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);
     zuruecksetzen();
 }
 

@@ -30,7 +30,7 @@ bool rundenzaehlung::gesperrt(int spur, zeit_ms stempel) const {
 zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     const rundenkonto& konto = um_.zustand.konto;
-    if (konto.runden(spur) >= 0 && !zustand.fruehstart_sperre) {
+    if (konto.runden(spur) >= 0 && !zustand.gesperrt(stempel)) {
         for (int zeile = konto.runden(spur); zeile >= 0; --zeile) {
             const zeit_ms vorher = konto.stempel(spur, zeile);
             if (vorher != 0) {
@@ -47,10 +47,11 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
 
 bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.fruehstart_sperre &&
+    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(stempel) &&
            (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_strafe_aktiv && !zustand.ziel_erreicht && !gesperrt(spur, stempel);
+           !zustand.tank_sperre.gilt(stempel, zustand.tank_strafe_aktiv) && !zustand.ziel_erreicht &&
+           !gesperrt(spur, stempel);
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {
@@ -72,9 +73,9 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereig
     const bool nach_dem_ende = stempel >= um_.zustand.renn_ende_stempel - takt_ms;
     if (um_.zeitgeber.nachlauftimer1->laeuft() && nach_dem_ende) {
         t_.ende.spur_ziel_setzen(spur);
-    }
     } else if (um_.zustand.rennen_beendet && (nach_dem_ende || t_.ende.hat_das_ziel(spur))) {
         zustand.ziel_erreicht = true;  // the lap that the end has cut short, and no further one
+    }
     if (!voll && konto.runden(spur) >= 0) {  // laps taken off before the first crossing come first
         zaehler_zeigen(spur);
         t_.anzeige.runde_melden(spur, zeit);
@@ -97,6 +98,7 @@ void rundenzaehlung::ueberfahrt_auswerten(int spur) {
     um_.ereignisse.vorlassen(spur);
     ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
     if (entprellen(spur, ereignis)) {
+        t_.tank.strafe_abgelaufen(spur, ereignis.ereignis_zeit);
         const zeit_ms zeit = rundenzeit_messen(spur, ereignis.ereignis_zeit);
         if (zaehlt(spur, zeit, ereignis.ereignis_zeit)) {
             zaehlen(spur, zeit, ereignis);

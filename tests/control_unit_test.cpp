@@ -302,6 +302,37 @@ TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), 5200);
 }
 
+TEST_F(ControlUnitRennen, StrafenEndenFuerDieRundeNachIhremStempel) {
+    t.p.einst.chaos_strafe_strom = false;
+    t.p.einst.chaos_strafzeit = 5s;
+    starten(t.p.txt.text_runden, "10", {1, 2, 3});
+    const zeit_ms beginn = t.maschine.jetzt();
+    const auto stempel = [&](zeit_ms frueher) {
+        return static_cast<std::uint32_t>(500000 + t.maschine.jetzt() - beginn - frueher);
+    };
+    for (const int spur : {1, 2, 3}) {
+        ueberfahrt(spur, stempel(0));
+    }
+    t.maschine.laufen(1000);
+    t.taste("c");
+    status(true);
+    t.maschine.laufen(3000);
+    for (const int spur : {1, 2, 3}) {
+        t.bahn().ch_strafzeit_hacken[spur].umschalten();
+    }
+    status(false);
+    t.maschine.laufen(4000);
+    t.maschine.uhr_stellen(3000);  // neither timers nor records: 1.9 s behind the end of the penalty
+    wartend = {passage(1, stempel(2500)), passage(2, stempel(1000))};
+    t.maschine.laufen(4);
+    EXPECT_EQ(t.runden(1), 0) << "in the penalty";
+    EXPECT_EQ(t.runden(2), 1) << "behind it, before any timer has told so";
+    t.maschine.laufen(1000);
+    EXPECT_FALSE(t.spur(3).fruehstart_sperre);
+    ueberfahrt(3, stempel(3500));
+    EXPECT_EQ(t.runden(3), 0) << "told when it was over long ago";
+}
+
 TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {
     lebt = false;
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
