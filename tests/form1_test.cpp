@@ -105,6 +105,17 @@ TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {
               "Hier stand keine Zahl. Jetzt gilt:\nRenndauer Minuten/Runden: 5");
 }
 
+TEST_F(Form1, NachEinerVerliehenenSpurWirdNichtGefragt) {
+    f.fahrer[0].eingeben("Anna");
+    f.fahrer[2].eingeben("Anna");
+    f.lspur[2].eingeben("lang");
+    t.p.einst.rc.rc_ziel_sensor34 = true;
+    f.leihspuren_sperren();
+    t.einrichten("Zeit", "5", {1, 3});
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(t.maschine.fragen_gestellt.empty() && t.maschine.meldungen_gezeigt.empty());
+}
+
 TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     t.maschine.bildschirm_groesse = {1024, 719};
     t.maschine.laufen(1000);

@@ -58,6 +58,7 @@ public:
     std::vector<meldung> fragen_gestellt;
     bool antwort = false;                    ///< to every question
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
+    std::function<void()> waehrend_frage;    ///< and while a question is
     std::vector<std::string> sounds;
     test_anschluesse anschluesse;
     test_bibliotheken bibliotheken;
