@@ -6,6 +6,7 @@
 #include "core/einstellungen.h"
 #include "core/renndauer.h"
 #include "core/text.h"
+#include "core/zahleneingabe.h"
 
 namespace tarvel {
 namespace {
@@ -81,7 +82,14 @@ void renneinrichtung::dauer_pruefen() {
     }
 }
 
+bool renneinrichtung::dauer_lesbar() const {
+    return ist_zahl(dauer) || (dauer.empty() && art == renn_art::zeit);  // the hours may be all
+}
+
 void renneinrichtung::vor_dem_speichern_pruefen() {
+    if (!dauer_lesbar()) {
+        dauer = "5";
+    }
     werte_pruefen();
     begrenzen(massstab, 1, 500, "43");
 }

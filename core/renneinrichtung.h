@@ -31,6 +31,8 @@ struct renneinrichtung {
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.
     void vor_dem_speichern_pruefen();
+    /// False where a number is missing that nothing can stand for.
+    bool dauer_lesbar() const;
 
 private:
     void dauer_pruefen();

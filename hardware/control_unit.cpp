@@ -180,10 +180,12 @@ void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
-    // A status has no sum, and a damaged one must not stop the race: it takes two. After a silence any is news.
+    // A status has no sum, and a damaged one must not stop the race: it takes two. After a silence any is news. Where
+    // damage is known by the passages' sums it must not prepare, start or resume one either, nor drain a tank.
     const bool wiederholt = std::exchange(letzter_status_, status) == status;
-    const bool bestaetigt = wiederholt || !rennen_laeuft_ || luecke_ > 0;
-    if (!um_.rennen.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
+    const bool streng = summenpruefung_.bewiesen();
+    const bool bestaetigt = wiederholt || luecke_ > 0 || !(rennen_laeuft_ || streng);
+    if (bestaetigt && !um_.rennen.rennen_laeuft() && um_.einst.cu.cu_tankautomatik) {
         um_.rennen.tankfunktion(status.tankmodus != 0);
     }
     if (bestaetigt && um_.param.tank_aktiv && cu_abfrage_timer_->laeuft()) {
@@ -192,7 +194,7 @@ void control_unit::verarbeiten(const cu::status& status) {
         }
         cu_tank_auswerten(status);
     }
-    if (bestaetigt || !status.startzustand) {
+    if (bestaetigt || (!status.startzustand && !streng)) {
         startzustand_auswerten(status.startzustand);
     }
 }

@@ -55,6 +55,8 @@ class summenpruefung {
 public:
     /// False for a passage that is damaged.
     bool annehmen(const ueberfahrt& neu);
+    /// This unit's passages do end with it: what disagrees was damaged on the line.
+    bool bewiesen() const { return mit_summe_; }
 
 private:
     bool mit_summe_ = false;

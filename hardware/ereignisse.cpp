@@ -1,29 +1,97 @@
 #include "hardware/ereignisse.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tarvel {
+namespace {
+
+constexpr zeit_ms prellen_ms = 100;  // nobody drives a lap in it
+
+}  // namespace
 
 void ereignis_tabelle::ereignis_melden(ereignis_art nummer) {
-    (*this)[nummer].ereignis_zeit = messzeit;
-    (*this)[nummer].aktiv = true;
+    ereignis_zeile& zeile = (*this)[nummer];
+    zeile.ereignis_zeit = messzeit;
+    zeile.verschoben = 0;
+    zeile.aktiv = true;
 }
 
 void ereignis_tabelle::ereignis_melden(ereignis_art nummer, zeit_ms stempel) {
     if (stempel >= gilt_ab) {
-        (*this)[nummer].ereignis_zeit = stempel;
-        (*this)[nummer].aktiv = true;
+        ereignis_zeile& zeile = (*this)[nummer];
+        zeile.ereignis_zeit = stempel;
+        zeile.verschoben = 0;
+        zeile.aktiv = true;
     }
 }
 
 void ereignis_tabelle::ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) {
     constexpr zeit_ms uhren_uneinig_ms = 100;  // a car that is let go on the line itself is not one from the pause
+    zeit_ms verschoben = 0;
     if (pause_ab && stempel < gilt_ab - uhren_uneinig_ms) {
         if (stempel >= *pause_ab) {
             return;
         }
-        stempel += gilt_ab - *pause_ab;
+        verschoben = gilt_ab - *pause_ab;
+        stempel += verschoben;
     }
-    (*this)[nummer].ereignis_zeit = stempel;
-    (*this)[nummer].aktiv = true;
+    ereignis_zeile& zeile = (*this)[nummer];
+    const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer);
+    if (lauf == art::rundenzaehlung.end() || !steht_seit_ || stempel >= *steht_seit_) {
+        zeile.ereignis_zeit = stempel;
+        zeile.verschoben = verschoben;
+        zeile.aktiv = true;
+        return;
+    }
+    schlange& wartende = schlangen_[static_cast<int>(lauf - art::rundenzaehlung.begin()) + 1];
+    if (zeile.aktiv && zeile.ereignis_zeit < stempel) {  // what the pause would count only behind this one
+        wartende.einreihen({zeile.ereignis_zeit, zeile.verschoben});
+    }
+    wartende.einreihen({stempel, verschoben});
+}
+
+void ereignis_tabelle::schlange::einreihen(const ueberfahrt& neu) {
+    const auto ende = wartende.begin() + static_cast<std::ptrdiff_t>(anzahl);
+    const auto ort =
+        std::find_if(wartende.begin(), ende, [&](const ueberfahrt& u) { return u.stempel > neu.stempel - prellen_ms; });
+    if (anzahl == platz || (ort != ende && ort->stempel < neu.stempel + prellen_ms)) {
+        return;
+    }
+    std::move_backward(ort, ende, std::next(ende));
+    *ort = neu;
+    ++anzahl;
+}
+
+bool ereignis_tabelle::vorlassen(int spur) {
+    ereignis_zeile& zeile = (*this)[art::rundenzaehlung[spur]];
+    schlange& s = schlangen_[spur];
+    if (s.anzahl > 0 && (!zeile.aktiv || s.wartende.front().stempel < zeile.ereignis_zeit)) {
+        const schlange::ueberfahrt erste = s.wartende.front();
+        std::move(std::next(s.wartende.begin()), s.wartende.begin() + static_cast<std::ptrdiff_t>(s.anzahl),
+                  s.wartende.begin());
+        --s.anzahl;
+        if (zeile.aktiv) {
+            s.einreihen({zeile.ereignis_zeit, zeile.verschoben});
+        }
+        zeile.aktiv = true;
+        zeile.ereignis_zeit = erste.stempel;
+        zeile.verschoben = erste.verschoben;
+    }
+    return zeile.aktiv;
+}
+
+void ereignis_tabelle::gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause) {
+    gilt_ab = ab;
+    pause_ab = pause;
+    steht_seit_.reset();
+    for (schlange& s : schlangen_) {
+        s.anzahl = pause ? s.anzahl : 0;
+        for (schlange::ueberfahrt& u : std::span(s.wartende).first(s.anzahl)) {
+            u.verschoben += ab - *pause;
+            u.stempel += ab - *pause;
+        }
+    }
 }
 
 void ereignis_tabelle::ruhe_herstellen() {
@@ -38,8 +106,15 @@ void ereignis_tabelle::ruhe_herstellen() {
 void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     messzeit += um;
     gilt_ab += gilt_ab == std::numeric_limits<zeit_ms>::min() ? 0 : um;
-    if (pause_ab) {
-        *pause_ab += um;
+    for (std::optional<zeit_ms>* stempel : {&pause_ab, &steht_seit_}) {
+        if (*stempel) {
+            **stempel += um;
+        }
+    }
+    for (schlange& s : schlangen_) {
+        for (schlange::ueberfahrt& u : s.wartende) {
+            u.stempel += um;
+        }
     }
     for (ereignis_zeile& zeile : zeilen_) {
         zeile.ereignis_zeit += um;
@@ -50,6 +125,9 @@ void ereignis_tabelle::rundenzaehlung_leeren() {
     for (const ereignis_art nummer : art::rundenzaehlung) {
         (*this)[nummer].aktiv = false;
     }
+    for (schlange& s : schlangen_) {
+        s.anzahl = steht_seit_ ? s.anzahl : 0;
+    }
 }
 
 void ereignis_tabelle::spuren_3_4_mitzaehlen() {
@@ -59,7 +137,13 @@ void ereignis_tabelle::spuren_3_4_mitzaehlen() {
             ereignis_zeile& erster = (*this)[art::rundenzaehlung[spur]];
             erster.aktiv = true;
             erster.ereignis_zeit = zweiter.ereignis_zeit;
+            erster.verschoben = zweiter.verschoben;
         }
+        schlange& wartende = schlangen_[spur + 2];
+        for (const schlange::ueberfahrt& u : std::span(wartende.wartende).first(wartende.anzahl)) {
+            schlangen_[spur].einreihen(u);
+        }
+        wartende.anzahl = 0;
     }
 }
 

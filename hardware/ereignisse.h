@@ -9,8 +9,8 @@
 #include "core/spuren.h"
 #include "platform/uhr.h"
 
-/// Sensor events. A source sets the row of its event, the race logic reads and clears it in its own tick: no queue, no
-/// callback. A second edge before the tick overwrites the first.
+/// Sensor events. A source sets the row of its event, the race logic reads and clears it in its own tick: no callback.
+/// A second edge before the tick overwrites the first. Only what a device tells in a pause, from before it, is queued.
 namespace tarvel {
 
 /// Number of everything that a hardware port can mean, inputs and outputs in one list. The irregular order stands in
@@ -41,6 +41,7 @@ struct ereignis_zeile {
     bool pegel = false;       ///< level read in this poll
     bool pegel_ruhe = false;  ///< rest level of the line, taken when the race gets ready
     zeit_ms ereignis_zeit = 0;
+    zeit_ms verschoben = 0;  ///< of that, to behind the pause that it lies before
 };
 
 class ereignis_tabelle {
@@ -55,18 +56,20 @@ public:
     /// Delivery of something that happened at `stempel`. Before `gilt_ab` it is forgotten like all that waited then.
     void ereignis_melden(ereignis_art nummer, zeit_ms stempel);
     /// Delivery of a passage by a device that may tell it late. One from before the last pause comes as much later as
-    /// the pause was long, so that the pause comes off its lap as off any other; one from within it is forgotten.
+    /// the pause was long, so that the pause comes off its lap as off any other; one from within it is forgotten. While
+    /// the race stands still, those from before wait until it goes on.
     void ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel);
+    /// The oldest passage of a lane that waits stands in its row. False if none does.
+    bool vorlassen(int spur);
+    /// The race stands still from this moment on.
+    void anhalten(zeit_ms ab) { steht_seit_ = ab; }
     /// The race has started, or gone on after the pause that began at `pause`.
-    void gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause = {}) {
-        gilt_ab = ab;
-        pause_ab = pause;
-    }
+    void gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause = {});
     /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
     void ruhe_herstellen();
     /// All stamps move by `um` ms.
     void stempel_verschieben(zeit_ms um);
-    /// Forgets waiting crossings of all lanes.
+    /// Forgets waiting crossings of all lanes, but in a pause not those from before it.
     void rundenzaehlung_leeren();
     /// The same with the sector sensors.
     void strecke_leeren();
@@ -81,7 +84,22 @@ public:
     spuren<bool> chaos_fahrer{};      ///< whose personal chaos button was pressed
 
 private:
+    /// What waits for the end of the pause, oldest first.
+    struct schlange {
+        struct ueberfahrt {
+            zeit_ms stempel = 0;
+            zeit_ms verschoben = 0;
+        };
+        static constexpr std::size_t platz = 32;  // more laps are in no buffer
+
+        void einreihen(const ueberfahrt& neu);
+        std::array<ueberfahrt, platz> wartende{};
+        std::size_t anzahl = 0;
+    };
+
     std::array<ereignis_zeile, zeilen_anzahl> zeilen_{};
+    spuren<schlange> schlangen_;
+    std::optional<zeit_ms> steht_seit_;
 };
 
 }  // namespace tarvel

@@ -154,9 +154,7 @@ bool messgeraete::trotzdem_starten() {
     if (!anzeigetakt_->laeuft() || getrennt_seit_ < alarm_nach || !getrennt() || std::exchange(gewarnt_, true)) {
         return true;
     }
-    return um_.dienste.meldungen.fragen(
-        "Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
-        um_.txt.titel[0]);
+    return um_.dienste.meldungen.fragen(um_.rennen.bahn1.wort.ohne_messung, um_.txt.titel[0]);
 }
 
 void messgeraete::verbindung_anzeigen() {

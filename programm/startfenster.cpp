@@ -13,8 +13,14 @@ update_form::update_form(plattform::zeitgeber_dienst& zeitgeber, const dateien& 
     titel.text(programm_name);
 }
 
+sprachliste update_form::sprache_up() {
+    sprachliste texte("language/language_up.txt");
+    texte.ueberschrift("Übernahme älterer Dateien");
+    return texte.text("Bestzeiten werden übernommen …", Label1);
+}
+
 void update_form::laden() {
-    Label1.text("Bestzeiten werden übernommen …");
+    sprache_up().anwenden(ablage_);
     bestzeiten_umziehen(ablage_);
     fensterschliessen_->an();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "core/dateien.h"
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
+#include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "platform/zeitgeber.h"
 
@@ -18,9 +20,12 @@ public:
     bezeichnung Label1;
     void laden() override;
     void entladen() override { fensterschliessen_->aus(); }
+    std::vector<sprachliste> sprachdateien() override { return {sprache_up()}; }
     bool escape_schliesst() const override { return false; }
 
 private:
+    sprachliste sprache_up();
+
     const dateien& ablage_;
     std::unique_ptr<plattform::zeitgeber> fensterschliessen_;
 };

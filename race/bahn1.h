@@ -108,6 +108,10 @@ struct bahn1 {
         std::string cu_start;  ///< what is to do at the device, for the start
         std::string cu_pause;  ///< and in a pause
         std::string nacht;     ///< in front of the key that ends the dark
+        std::string prestage;  ///< rows of the drag race's tree
+        std::string stage;
+        std::string ohne_messung;   ///< asks whether to start without the timing device
+        std::string ohne_ergebnis;  ///< asks whether to stop a race that runs
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

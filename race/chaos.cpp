@@ -139,6 +139,7 @@ void chaos::pause_beginnen() {
     um_.zeitgeber.chaostimer->an();
     um_.zeitgeber.chaostimer2->an();
     zustand.pause.start = um_.moment_lesen();
+    um_.ereignisse.anhalten(zustand.pause.start);
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
     um_.bahn.Command3.text(um_.bahn.wort.weiter);
@@ -186,8 +187,9 @@ void chaos::zeitgeber_anhalten() {
 void chaos::zeitgeber_fortsetzen() {
     t_.fruehstart.fortsetzen();
     for (const int spur : alle_spuren) {
-        const spur_zustand& zustand = um_.zustand.spur[spur];
+        spur_zustand& zustand = um_.zustand.spur[spur];
         if (zustand.tank_strafe_aktiv) {
+            zustand.tank_sperre.bis += zustand.tank_sperre.bis == 0 ? 0 : um_.zustand.pause.dauer;
             um_.zeitgeber.t_straftimer[spur]->an();
         }
         if (zustand.tank_wartezaehler > 0s) {
@@ -293,7 +295,6 @@ void chaos::chaosende_routine() {
     const zeit_ms ende = um_.moment_lesen();
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
     um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
-    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
@@ -302,7 +303,9 @@ void chaos::chaosende_routine() {
     unverbuesste_abschalten();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();
+    zustand.strafreste_ab(ende);
     um_.ereignisse.strecke_leeren();
+    um_.ereignisse.gelten_lassen(ende, zustand.pause.start);
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaostimer2->aus();
     geraeteschalter_vergessen();
@@ -345,7 +348,9 @@ void chaos::strafen_verteilen() {
         if (um_.einst.chaos_strafe_strom) {
             t_.strafe.zeitstrafe(spur, dauer_s(std::lround(sekunden)));
         } else {
-            zustand.fruehstart_sperre = true;
+            if (!std::exchange(zustand.fruehstart_sperre, true)) {
+                zustand.sperre.von = um_.zustand.pause.start + um_.zustand.pause.dauer;
+            }
             zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;
             um_.zeitgeber.straftimer_ch[spur]->an();
             t_.strafe.spur_strom_aus(spur);
@@ -373,7 +378,8 @@ void chaos::chaos_nachholen() {
         if (std::exchange(zustand.ch_durchfahrt, false)) {
             ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
             ereignis.aktiv = true;
-            ereignis.ereignis_zeit = zustand.ch_durchfahrt_zeit + um_.zustand.pause.dauer;
+            ereignis.verschoben = um_.zustand.pause.dauer;
+            ereignis.ereignis_zeit = zustand.ch_durchfahrt_zeit + ereignis.verschoben;
         }
     }
 }
@@ -381,9 +387,11 @@ void chaos::chaos_nachholen() {
 void chaos::aufheben() {
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
-        um_.zustand.pause.dauer = um_.zeit.messzeit_lesen() - um_.zustand.pause.start;
+        const zeit_ms jetzt = um_.zeit.messzeit_lesen();
+        um_.zustand.pause.dauer = jetzt - um_.zustand.pause.start;
         um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
         um_.ereignisse.strecke_leeren();
+        um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);
         kleine_ampeln(kleines_licht::gruen);
     }
     chaos_nachholen();

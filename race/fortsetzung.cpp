@@ -95,6 +95,7 @@ void fortsetzung::spur_freigeben(int spur) {
     um_.zustand.konto.fortsetzen(spur, !zustand.ziel_erreicht);
     zustand.ziel_erreicht = !um_.param.spur_aktiv[spur];
     zustand.fruehstart_sperre = rest_zu_verbuessen;
+    zustand.sperre = {};
     zustand.strom_aus = rest_zu_verbuessen || zustand.disqualifiziert;
     zustand.tank_kontakt = false;
     zustand.tankt_seit = 0;
@@ -126,6 +127,7 @@ void fortsetzung::weiterfahren() {
     zustand.fortsetzung_wartet = false;
     um_.ereignisse.messzeit = fortsetz_zeit;
     um_.ereignisse.gelten_lassen(fortsetz_zeit);
+    zustand.strafreste_ab(fortsetz_zeit);
     um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.ereignisse.strecke_leeren();
     um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;

@@ -24,6 +24,12 @@ void fruehstartstrafe::zuruecksetzen() {
 }
 
 void fruehstartstrafe::beginnen() {
+    const zeit_ms strom_ab = um_.zeit.messzeit_lesen() + dauer_ms(fruehstart_sperrdauer(um_.einst)).count();
+    for (const int spur : alle_spuren) {
+        if (gesperrt(spur) && um_.param.min_rundenzeit_ms > 0) {
+            um_.zustand.spur[spur].sperre = {zeitsperre::seit_immer, strom_ab + um_.param.min_rundenzeit_ms};
+        }
+    }
     um_.zeitgeber.f_straftimer->an();
 }
 
@@ -34,11 +40,20 @@ void fruehstartstrafe::anhalten() {
 
 void fruehstartstrafe::fortsetzen() {
     if (angehalten_) {
+        for (const int spur : alle_spuren) {
+            zeit_ms& bis = um_.zustand.spur[spur].sperre.bis;
+            bis += gesperrt(spur) && bis != 0 ? um_.zustand.pause.dauer : 0;
+        }
         um_.zeitgeber.f_straftimer->an();
     }
 }
 
 void fruehstartstrafe::beenden() {
+    for (const int spur : alle_spuren) {
+        if (gesperrt(spur) && !um_.zeitgeber.f_straftimer2->laeuft()) {
+            um_.zustand.spur[spur].sperre = {};  // nobody ends it any more
+        }
+    }
     um_.zeitgeber.f_straftimer->aus();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <string>
 
 #include "core/spuren.h"
@@ -12,6 +13,16 @@ namespace tarvel {
 /// Debounce of a lane's lap sensor.
 enum class sensorsperre { unbestimmt, bereit, eben_gezaehlt };
 
+/// A penalty in which nothing counts, by the stamps: what was told or found late is judged as of its moment.
+struct zeitsperre {
+    static constexpr zeit_ms seit_immer = std::numeric_limits<zeit_ms>::min() / 2;
+
+    zeit_ms von = 0;
+    zeit_ms bis = 0;  ///< 0: it has no time, `laeuft` tells
+
+    bool gilt(zeit_ms stempel, bool laeuft) const { return bis == 0 ? laeuft : stempel >= von && stempel < bis; }
+};
+
 struct spur_zustand {
     zeit_ms start_zeit = 0;      ///< stamp from which the first lap is timed
     zeit_ms gezaehlt_bei = 0;    ///< stamp of the crossing that was counted last
@@ -20,12 +31,14 @@ struct spur_zustand {
     bool ziel_erreicht = false;  ///< home; true from the start for lanes that are not in the race
     bool disqualifiziert = false;
     bool fruehstart_sperre = false;  ///< serves a penalty, of a false start or a pause, and counts nothing
+    zeitsperre sperre;               ///< of that
     double tank_inhalt = 0;          ///< litres
     bool tank_kontakt = false;       ///< stands on the tank contact
     zeit_ms tankt_seit = 0;          ///< stamp up to which refuelling has come, 0 while the lane does not refuel
     dauer_hs tank_wartezaehler{};    ///< of the wait before refuelling
     dauer_hs tank_strafzaehler{};    ///< of the penalty of an empty tank
     bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
+    zeitsperre tank_sperre;          ///< of that
     bool tank_halt = false;          ///< held for a moment after a full tank
     int sperrzaehler = 0;            ///< ticks by which the lock after a crossing is drawn out on the tank contact
     bool strom_aus = false;          ///< home, out or in a penalty: the track power is cut
@@ -34,6 +47,9 @@ struct spur_zustand {
     zeit_ms ch_durchfahrt_zeit = 0;  ///< stamp of that
     zeit_ms ch_strafe_rest = 0;      ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
+
+    /// A crossing at this moment falls in a penalty of a false start or a pause.
+    bool gesperrt(zeit_ms stempel) const { return sperre.gilt(stempel, fruehstart_sperre); }
 
     /// What the time penalty adds to a lap: as many thousandths as it has seconds. Its seconds are added to the result.
     zeit_ms strafzuschlag() const { return strafzeit.count(); }
@@ -80,6 +96,13 @@ struct renn_zustand {
 
     /// Pauses were measured on a clock that runs `faktor` times as fast as was thought.
     void pausen_nachmessen(double faktor);
+
+    /// What is left of the penalties of pauses is served from this stamp on.
+    void strafreste_ab(zeit_ms stempel) {
+        for (spur_zustand& s : spur) {
+            s.sperre.bis = s.ch_strafe_rest > 0 ? stempel + s.ch_strafe_rest : s.sperre.bis;
+        }
+    }
 
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {

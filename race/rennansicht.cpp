@@ -112,7 +112,11 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Zum Rennstart bitte die Starttaste an der CU oder Blackbox 2x drücken!!!", bahn.wort.cu_start);
     texte.text("Pause: Weiter mit der Starttaste der Control Unit oder mit „Weiter“.", bahn.wort.cu_pause);
     texte.text("Einfahrzeit starten", bahn.Command6).text("Nächstes Rennen:", bahn.Label_naechstesrennen);
-    return texte.text("Hell mit der Taste", bahn.wort.nacht);
+    texte.text("Hell mit der Taste", bahn.wort.nacht);
+    texte.text("Prestage", bahn.wort.prestage).text("Stage", bahn.wort.stage);
+    texte.text("Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
+               bahn.wort.ohne_messung);
+    return texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
 }
 
 void rennansicht::oeffnen() {

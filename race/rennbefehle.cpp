@@ -72,7 +72,7 @@ void rennbefehle::fenster_schliessen() {
         }
         return;
     }
-    const bool ja = um_.meldungen.fragen("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", um_.txt.titel[0]);
+    const bool ja = um_.meldungen.fragen(um_.bahn.wort.ohne_ergebnis, um_.txt.titel[0]);
     if (ja && !um_.zustand.rennen_beendet) {  // it may have come to its end meanwhile
         rennen_abbrechen();
     }

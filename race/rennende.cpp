@@ -26,6 +26,10 @@ void rennende::zuruecksetzen() {
     um_.bahn.uhr1.uhrframe.sichtbar(true);
 }
 
+bool rennende::hat_das_ziel(int spur) const {
+    return um_.ist_rundenrennen() && um_.zustand.konto.runden(spur) == um_.param.renn_ziel;
+}
+
 bool rennende::am_ziel(int spur) const {
     return um_.zustand.konto.runden(spur) == um_.param.renn_ziel && um_.param.spur_aktiv_gemerkt[spur];
 }
@@ -49,6 +53,7 @@ void rennende::pruefen() {
     if (um_.zeitgeber.nachlauftimer1->laeuft()) {
         if (alle_fertig()) {
             um_.zeitgeber.rennen_aus();
+            ende_stempeln();
             rennende_ablauf();
         }
     } else if (ist_zu_ende()) {
@@ -81,6 +86,9 @@ void rennende::rennende_einleiten() {
     }
     zustand.ende_eingeleitet = true;
     ende_stempeln();
+    if (um_.ist_zeitrennen()) {  // a machine that stood still finds it late
+        zustand.renn_ende_stempel = std::min(zustand.renn_ende_stempel, zustand.renn_ende_zeit + zustand.pause_abzug);
+    }
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
         nachlauf_runden_starten();
         return;
@@ -112,6 +120,7 @@ void rennende::nachlauf_tick() {
     if (++um_.zustand.nachlauf_minuten >= nachlauf_minuten_max) {
         um_.bahn.nachlauflabel.sichtbar(false);
         um_.bahn.uhr1.uhrframe.sichtbar(true);
+        ende_stempeln();
         rennende_ablauf();
     }
 }
@@ -147,7 +156,6 @@ void rennende::rennende_ablauf() {
     if (zustand.rennen_beendet) {
         return;
     }
-    ende_stempeln();
     um_.zeitgeber.nachlauftimer1->aus();
     if (um_.ist_zeitrennen()) {
         uhr_.tausendstel_auf_null();

@@ -25,7 +25,7 @@ public:
     void pruefen();
     /// Ends the race proper, perhaps with a run-on first. Safe to call many times in one tick.
     void rennende_einleiten();
-    /// Stops the race and opens the result. Does nothing if the race is over.
+    /// Stops the race and opens the result, for the end that has been stamped. Does nothing if the race is over.
     void rennende_ablauf();
     /// One lane is home.
     void spur_ziel_setzen(int spur);
@@ -33,6 +33,8 @@ public:
     void ausgaben_endzustand();
     /// Takes the moment at which the race ended. One that is ended before it has gone on keeps its earlier end.
     void ende_stempeln();
+    /// A lap race, and the lane has all its laps.
+    bool hat_das_ziel(int spur) const;
     /// One minute of the run-on is over.
     void nachlauf_tick();
 

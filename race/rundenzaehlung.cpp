@@ -30,7 +30,7 @@ bool rundenzaehlung::gesperrt(int spur, zeit_ms stempel) const {
 zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     const rundenkonto& konto = um_.zustand.konto;
-    if (konto.runden(spur) >= 0 && !zustand.fruehstart_sperre) {
+    if (konto.runden(spur) >= 0 && !zustand.gesperrt(stempel)) {
         for (int zeile = konto.runden(spur); zeile >= 0; --zeile) {
             const zeit_ms vorher = konto.stempel(spur, zeile);
             if (vorher != 0) {
@@ -47,18 +47,19 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
 
 bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.fruehstart_sperre &&
+    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(stempel) &&
            (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_strafe_aktiv && !zustand.ziel_erreicht && !gesperrt(spur, stempel);
+           !zustand.tank_sperre.gilt(stempel, zustand.tank_strafe_aktiv) && !zustand.ziel_erreicht &&
+           !gesperrt(spur, stempel);
 }
 
-void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
+void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {
+    const zeit_ms stempel = ereignis.ereignis_zeit;
     spur_zustand& zustand = um_.zustand.spur[spur];
     zustand.sensor_sperre = sensorsperre::eben_gezaehlt;
     zustand.gezaehlt_bei = stempel;
-    const zeit_ms pause = um_.zustand.pause.dauer;
-    zustand.pause_im_stempel = stempel == zustand.ch_durchfahrt_zeit + pause ? pause : 0;
+    zustand.pause_im_stempel = ereignis.verschoben;
     um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
     rundenkonto& konto = um_.zustand.konto;
     const bool voll = konto.runden(spur) == runden_max;
@@ -69,8 +70,11 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, zeit_ms stempel) {
     }
     // Told late, a crossing from before the end is no finish. Also with the account full the car can still come home.
     constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment earlier
-    if (um_.zeitgeber.nachlauftimer1->laeuft() && stempel >= um_.zustand.renn_ende_stempel - takt_ms) {
+    const bool nach_dem_ende = stempel >= um_.zustand.renn_ende_stempel - takt_ms;
+    if (um_.zeitgeber.nachlauftimer1->laeuft() && nach_dem_ende) {
         t_.ende.spur_ziel_setzen(spur);
+    } else if (um_.zustand.rennen_beendet && (nach_dem_ende || t_.ende.hat_das_ziel(spur))) {
+        zustand.ziel_erreicht = true;  // the lap that the end has cut short, and no further one
     }
     if (!voll && konto.runden(spur) >= 0) {  // laps taken off before the first crossing come first
         zaehler_zeigen(spur);
@@ -90,17 +94,25 @@ void rundenzaehlung::zaehler_zeigen(int spur) {
     }
 }
 
+void rundenzaehlung::ueberfahrt_auswerten(int spur) {
+    um_.ereignisse.vorlassen(spur);
+    ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
+    if (entprellen(spur, ereignis)) {
+        t_.tank.strafe_abgelaufen(spur, ereignis.ereignis_zeit);
+        const zeit_ms zeit = rundenzeit_messen(spur, ereignis.ereignis_zeit);
+        if (zaehlt(spur, zeit, ereignis.ereignis_zeit)) {
+            zaehlen(spur, zeit, ereignis);
+        }
+    }
+    ereignis.aktiv = false;
+}
+
 void rundenzaehlung::runden_auswerten() {
     um_.zielsensoren_falten();
     for (const int spur : alle_spuren) {
-        ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
-        if (entprellen(spur, ereignis)) {
-            const zeit_ms zeit = rundenzeit_messen(spur, ereignis.ereignis_zeit);
-            if (zaehlt(spur, zeit, ereignis.ereignis_zeit)) {
-                zaehlen(spur, zeit, ereignis.ereignis_zeit);
-            }
-        }
-        ereignis.aktiv = false;
+        do {
+            ueberfahrt_auswerten(spur);
+        } while (!t_.ende.hat_das_ziel(spur) && um_.ereignisse.vorlassen(spur));
     }
     t_.plaetze.positions_pruefung();
     for (const int spur : alle_spuren) {

@@ -37,7 +37,8 @@ private:
     bool zu_nah(int spur, zeit_ms stempel) const;
     bool gesperrt(int spur, zeit_ms stempel) const;
     bool zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const;
-    void zaehlen(int spur, zeit_ms zeit, zeit_ms stempel);
+    void zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis);
+    void ueberfahrt_auswerten(int spur);
     void zaehler_zeigen(int spur);
 
     renn_umgebung um_;

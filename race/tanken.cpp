@@ -282,6 +282,8 @@ void tanken::leer(int spur) {
             strafen_.spur_strom_aus(spur);
             um_.zeitgeber.t_straftimer[spur]->an();
             zustand.tank_strafe_aktiv = true;
+            zustand.tank_sperre = {zustand.gezaehlt_bei,
+                                   um_.zeit.messzeit_lesen() + dauer_ms(um_.einst.tank_strafzeit).count()};
             break;
         case leer_aktion::zeitstrafe:
             strafen_.zeitstrafe(spur, std::chrono::duration_cast<dauer_s>(um_.einst.tank_strafzeit));
@@ -296,6 +298,7 @@ void tanken::beenden() {
         um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
         zustand.tank_strafe_aktiv = false;
+        zustand.tank_sperre.bis = std::min(zustand.tank_sperre.bis, um_.zeit.messzeit_lesen());
         if (um_.zustand.konto.haelt_zurueck(spur)) {
             zustand.ziel_erreicht = letzte_runde(spur) || zustand.ziel_erreicht;
             runde_zurueckgeben(spur);
@@ -333,6 +336,18 @@ void tanken::t_straftimer_tick(int spur) {
     if (++zustand.tank_strafzaehler < um_.einst.tank_strafzeit) {
         return;
     }
+    strafe_beenden(spur);
+}
+
+void tanken::strafe_abgelaufen(int spur, zeit_ms stempel) {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    if (zustand.tank_strafe_aktiv && zustand.tank_sperre.bis != 0 && stempel >= zustand.tank_sperre.bis) {
+        strafe_beenden(spur);
+    }
+}
+
+void tanken::strafe_beenden(int spur) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
     um_.zeitgeber.t_straftimer[spur]->aus();
     strafen_.spur_strom_an(spur);
     zustand.tank_strafe_aktiv = false;

@@ -26,6 +26,8 @@ public:
     /// A car that stands on the one contact of its lane must not count laps there: each event that a device repeats
     /// draws out the lock after the crossing.
     void sensoren_nachhalten();
+    /// A penalty that was served at `stempel` is over, however late its timer comes.
+    void strafe_abgelaufen(int spur, zeit_ms stempel);
     /// Burns the fuel of a counted crossing that took `zeit` ms.
     void tank_verbrauch_rechnen(zeit_ms zeit, int spur);
 
@@ -49,6 +51,7 @@ private:
     /// other lap it has cost its time on the track.
     bool letzte_runde(int spur) const;
     void t_straftimer_tick(int spur);
+    void strafe_beenden(int spur);
 
     renn_umgebung um_;
     strafen& strafen_;

@@ -38,7 +38,7 @@ auswertung::auswertung(const umfeld& um)
 void auswertung::zeitgeber_verbinden(plattform::zeitgeber_dienst& dienst) {
     zieltimer_ = dienst.erzeugen(zeitgeber_art::zaehlend, zielsignal_dauer);
     zieltimer_->bei_tick = [this] { zielsignal_beenden(); };
-    ch_durch3_ = dienst.erzeugen(zeitgeber_art::abfragend, nachzaehltakt);
+    ch_durch3_ = dienst.erzeugen(zeitgeber_art::abfragend, 1ms);  // as often as a device tells
     ch_durch3_->bei_tick = [this] { nachzaehlen(); };
     ch_durch4_ = dienst.erzeugen(zeitgeber_art::zaehlend, nachzaehltakt);
     ch_durch4_->bei_tick = [this] { nachzaehlen_beenden(); };
@@ -241,7 +241,6 @@ void auswertung::nachzaehlen() {
     bool gezaehlt = false;
     for (const int spur : alle_spuren) {
         if (um_.zustand.konto.runden(spur) > vorher[spur]) {
-            um_.zustand.spur[spur].ziel_erreicht = true;  // the lap that the end has cut short, and no further one
             gezaehlt = true;
         }
     }

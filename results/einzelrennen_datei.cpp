@@ -18,7 +18,7 @@ using feldblock = std::array<std::string, 5>;
 std::pair<std::string, std::string> klasse_und_name(const std::string& fahrer, const std::string& trenner) {
     const std::string_view klasse = links(fahrer, 1);
     const std::string_view rest = std::string_view(fahrer).substr(klasse.size());
-    if (trenner.empty() || !rest.starts_with(trenner)) {
+    if (trenner.empty() || klasse == trenner || !rest.starts_with(trenner)) {
         return {"0" + trenner, fahrer};
     }
     return {std::string(klasse) + trenner, std::string(rest.substr(trenner.size()))};

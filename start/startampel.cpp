@@ -105,8 +105,8 @@ void startampel::laden() {
 
 void startampel::texte_setzen() {
     titel.text(um_.bahn.wort.startampel);
-    fenster.Label_prestage.text("Prestage");
-    fenster.Label_stage.text("Stage");
+    fenster.Label_prestage.text(um_.bahn.wort.prestage);
+    fenster.Label_stage.text(um_.bahn.wort.stage);
     fenster.Label1.text(um_.txt.meldung[17]);
     fenster.Label1.sichtbar(false);
     fenster.Label_fruehstart.sichtbar(false);

@@ -115,6 +115,44 @@ TEST_F(ControlUnitRennen, PauseAmGeraetEndetMitSeinemGruen) {
     EXPECT_EQ(geschrieben("T2P$"), 0);
 }
 
+TEST_F(ControlUnitRennen, EinBeschaedigterStatusBereitetKeinRennenVorUndBeendetKeinePause) {
+    const auto einmal = [this](bool steht) {
+        wartend.emplace_back(std::string("?:55555500") + (steht ? '1' : '0') + "0000000$");
+        t.maschine.laufen(50);
+    };
+    t.p.einst.cu.cu_sondermodus = true;
+    t.einrichten(t.p.txt.text_runden, "10", {1});
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    status(false);
+    for (std::uint32_t i = 0; i < 10; ++i) {  // from here on damage on this line is known
+        std::string satz = passage(8, 1000 + i);
+        unsigned summe = 0;
+        for (const char zeichen : satz.substr(1, satz.size() - 3)) {
+            summe += static_cast<unsigned char>(zeichen) & 15U;
+        }
+        satz[satz.size() - 2] = static_cast<char>('0' + (summe & 15U));
+        senden(satz);
+    }
+    einmal(true);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    status(true);
+    t.maschine.laufen(3000);
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    einmal(false);
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2));
+    EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft()) << "no green";
+    status(false);
+    t.maschine.laufen(5000);
+    EXPECT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft());
+    status(true);
+    t.maschine.laufen(3000);
+    einmal(false);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    status(false);
+    t.maschine.laufen(50);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+}
+
 TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen) {
     starten(t.p.txt.text_runden, "10", {1, 2});
     t.taste("c");

@@ -127,6 +127,43 @@ TEST_F(ControlUnitRennen, WasNachDerPauseErstErzaehltWirdZaehltWieEsWar) {
                 static_cast<double>(dritte - vor_der_pause - pause), 20);
 }
 
+TEST_F(ControlUnitRennen, JedeRundeZaehltDieErstInDerPauseOderNachDemEndeErzaehltWird) {
+    t.p.einst.zielmodus_erster = true;
+    t.p.einst.sensor_timeout = 2s;
+    starten(t.p.txt.text_zeit, "1", {1, 2});
+    const zeit_ms beginn = t.maschine.jetzt();
+    const auto bei = [](zeit_ms ms) { return static_cast<std::uint32_t>(500000 + ms); };
+    ueberfahrt(1, bei(0));
+    ueberfahrt(2, bei(3));
+    t.maschine.laufen(20000);
+    t.taste("c");
+    status(true);
+    wartend = {passage(1, bei(6000)), passage(1, bei(12000)), passage(1, bei(18000))};
+    t.maschine.laufen(5000);
+    EXPECT_EQ(t.runden(1), 0) << "the race stands still";
+    const zeit_ms vorher = t.maschine.jetzt();
+    status(false);
+    const zeit_ms pause = t.p.rennen.zustand.pause.dauer;
+    EXPECT_NEAR(static_cast<double>(pause), static_cast<double>(vorher - beginn - 20000), 20);
+    t.maschine.laufen(50);
+    EXPECT_EQ(t.runden(1), 3);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 6000);
+    t.maschine.laufen(4000);
+    const zeit_ms vierte = t.maschine.jetzt() - beginn;
+    ueberfahrt(1, bei(vierte));
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 4)),
+                static_cast<double>(vierte - 18000 - pause), 10)
+        << "the pause comes off once";
+    while (!t.p.fenster.ist_offen(fenstername::auswertung)) {
+        t.maschine.laufen(1);
+    }
+    const zeit_ms ende = t.maschine.jetzt() - beginn;
+    t.maschine.laufen(1600);
+    wartend = {passage(1, bei(ende - 12000)), passage(1, bei(ende - 6000)), passage(1, bei(ende + 200))};
+    t.maschine.laufen(100);
+    EXPECT_EQ(t.runden(1), 7) << "two from before the end, and the one that it has cut short";
+}
+
 TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     t.p.form1.t_aktiv.gesetzt(true);
     t.p.einst.sound_an = true;
@@ -263,6 +300,37 @@ TEST_F(ControlUnitRennen, WasEinStehenderRechnerSpaetFindetHatSeineZeit) {
     t.maschine.laufen(20);
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 8000);
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(2, 1), 5200);
+}
+
+TEST_F(ControlUnitRennen, StrafenEndenFuerDieRundeNachIhremStempel) {
+    t.p.einst.chaos_strafe_strom = false;
+    t.p.einst.chaos_strafzeit = 5s;
+    starten(t.p.txt.text_runden, "10", {1, 2, 3});
+    const zeit_ms beginn = t.maschine.jetzt();
+    const auto stempel = [&](zeit_ms frueher) {
+        return static_cast<std::uint32_t>(500000 + t.maschine.jetzt() - beginn - frueher);
+    };
+    for (const int spur : {1, 2, 3}) {
+        ueberfahrt(spur, stempel(0));
+    }
+    t.maschine.laufen(1000);
+    t.taste("c");
+    status(true);
+    t.maschine.laufen(3000);
+    for (const int spur : {1, 2, 3}) {
+        t.bahn().ch_strafzeit_hacken[spur].umschalten();
+    }
+    status(false);
+    t.maschine.laufen(4000);
+    t.maschine.uhr_stellen(3000);  // neither timers nor records: 1.9 s behind the end of the penalty
+    wartend = {passage(1, stempel(2500)), passage(2, stempel(1000))};
+    t.maschine.laufen(4);
+    EXPECT_EQ(t.runden(1), 0) << "in the penalty";
+    EXPECT_EQ(t.runden(2), 1) << "behind it, before any timer has told so";
+    t.maschine.laufen(1000);
+    EXPECT_FALSE(t.spur(3).fruehstart_sperre);
+    ueberfahrt(3, stempel(3500));
+    EXPECT_EQ(t.runden(3), 0) << "told when it was over long ago";
 }
 
 TEST_F(ControlUnitRennen, EineMillionZufaelligeBytesUndDerNaechsteSatzStimmt) {

@@ -212,6 +212,13 @@ TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
+TEST_F(Ergebnisdatei, TrennzeichenAlsKlasseVerschiebenKeineSpalte) {
+    rennergebnis e;
+    e.spuren.resize(1);
+    e.spuren[0].fahrer = ";;x";
+    EXPECT_EQ(tages_zeilen(e, t.p.einst.trennzeichen).front().substr(0, 6), "0;  x;");
+}
+
 TEST_F(Ergebnisdatei, ArtStehtInDerDateiNichtImNamen) {
     using zeilen = std::vector<std::string>;
     EXPECT_EQ(datei_typ_erkennen({}), ergebnis_typ::unbekannt);

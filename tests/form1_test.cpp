@@ -97,6 +97,23 @@ TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {
                           "Zeichen, die in keiner Datei stehen können, sind ersetzt:\nŁucja – ?ucja",
                           "Hinweis"}}));
     EXPECT_EQ(t.p.param.fahrer_name[3], "?ucja");
+    t.bahn().Command2.klicken();
+    t.einrichten("Zeit", "fünf", {1});
+    EXPECT_EQ(f.renndauer.text(), "fünf") << "to be mended";
+    f.Command5.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text,
+              "Hier stand keine Zahl. Jetzt gilt:\nRenndauer Minuten/Runden: 5");
+}
+
+TEST_F(Form1, NachEinerVerliehenenSpurWirdNichtGefragt) {
+    f.fahrer[0].eingeben("Anna");
+    f.fahrer[2].eingeben("Anna");
+    f.lspur[2].eingeben("lang");
+    t.p.einst.rc.rc_ziel_sensor34 = true;
+    f.leihspuren_sperren();
+    t.einrichten("Zeit", "5", {1, 3});
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(t.maschine.fragen_gestellt.empty() && t.maschine.meldungen_gezeigt.empty());
 }
 
 TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {

@@ -100,6 +100,23 @@ TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
     EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
 }
 
+TEST_F(Wiedereingesteckt, WasWaehrendDerFrageVonSelbstBeginntBeginntNichtNocheinmal) {
+    einschalten(&messhardware::hw_cu);
+    t.einrichten("Runden", "20", {1});
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(2000);
+    t.maschine.antwort = true;
+    t.maschine.waehrend_frage = [this] {
+        t.p.rennen.ablauf.rennstart_vorbereiten();
+        t.maschine.laufen(20000);
+        t.taste("1");
+        t.maschine.laufen(10);
+    };
+    t.bahn().Command1.klicken();
+    EXPECT_EQ(t.runden(1), 0) << "and not -1, as before a start";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
+}
+
 /// Its clock is fast by a hundredth.
 struct geraet_mit_uhr final : messquelle {
     explicit geraet_mit_uhr(const test_plattform& maschine) : maschine_(maschine), anfang_(maschine.jetzt()) {}

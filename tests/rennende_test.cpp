@@ -187,6 +187,28 @@ TEST_F(Rennende, AktuelleRundeBeendenLaesstJedenAusfahren) {
     EXPECT_TRUE(beendet());
 }
 
+TEST_F(Rennende, EineAbgeschalteteSpurRuehrtSichAuchNachDemFortsetzenNicht) {
+    t.p.einst.runde_beenden = true;
+    t.starten("Runden", "2", {1});
+    geraet.befehle.clear();
+    for (int runde = 0; runde < 3; ++runde) {
+        t.runde_nach(6000, "12");
+    }
+    t.maschine.laufen(10);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    t.p.auswertung.neues_ziel.eingeben("4");
+    t.p.auswertung.Command3.klicken();
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(7000);
+    ASSERT_TRUE(t.p.rennen.zeitgeber.renntimer->laeuft());
+    t.runde_nach(6000, "12");
+    EXPECT_EQ(t.runden(1), 3);
+    EXPECT_EQ(t.runden(2), -1);
+    EXPECT_TRUE(t.spur(2).ziel_erreicht);
+    EXPECT_EQ(t.p.rennen.zustand.konto.beste(2), 0);
+    EXPECT_FALSE(geraet.enthaelt({ausgang::bahnstrom, 2, false}));
+}
+
 TEST_F(Rennende, VonHandBeendetGibtGenauEinErgebnis) {
     t.starten("Zeit", "5", {1});
     t.maschine.laufen(1000);

@@ -192,6 +192,15 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     a.meter[1].eingeben("-2,5");
     a.Command6.klicken();
     EXPECT_EQ(t.ergebnis(1).platz, 1) << "a wrong entry can be taken back";
+    a.Command6.klicken();
+    a.meter[1].eingeben("99");
+    t.maschine.antwort = true;
+    t.maschine.waehrend_frage = [this] {
+        t.p.fenster.entladen(fenstername::auswertung);
+        t.p.rennen.ablauf.rennstart_vorbereiten();  // the result that was asked about is no more
+    };
+    a.Command6.klicken();
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::auswertung));
 }
 
 TEST_F(WertungKorrektur, AnzeigeDerSektoren) {

@@ -108,6 +108,9 @@ void test_plattform::zeigen(std::string_view text, std::string_view titel) {
 
 bool test_plattform::fragen(std::string_view text, std::string_view titel) {
     fragen_gestellt.push_back({std::string(text), std::string(titel)});
+    if (waehrend_frage) {
+        waehrend_frage();
+    }
     return antwort;
 }
 

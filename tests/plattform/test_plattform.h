@@ -59,6 +59,7 @@ public:
     bool antwort = false;                    ///< to every question
     plattform::dreifache_antwort antwort_mit_ausweg = plattform::dreifache_antwort::abbrechen;
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
+    std::function<void()> waehrend_frage;    ///< and while a question is
     std::vector<std::string> sounds;
     test_anschluesse anschluesse;
     test_bibliotheken bibliotheken;
