@@ -3,16 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/text.h"
-
 namespace tarvel {
-
-std::string startlistenname(std::string_view text) {
-    std::string name = von_1252(nach_1252(text));  // as a file gives it back
-    std::erase(name, ',');
-    const std::string_view ohne_rand = gekuerzt(name);
-    return std::string(gekuerzt(links(ohne_rand, namensliste::name_laenge_max)));
-}
 
 std::optional<std::size_t> teilnehmerliste::zeile_von(std::string_view name) const {
     const auto gefunden =
@@ -22,14 +13,11 @@ std::optional<std::size_t> teilnehmerliste::zeile_von(std::string_view name) con
 }
 
 namensmangel teilnehmerliste::pruefen(std::string_view name) const {
-    if (name.empty()) {
-        return namensmangel::leer;
-    }
-    if (txt_.ist_freier_platz(name) || name == txt_.kein_fahrer || namensliste::ist_marke(name)) {
-        return namensmangel::platzhalter;
+    if (const namensmangel mangel = name_pruefen(name, txt_); mangel != namensmangel::keiner) {
+        return mangel;
     }
     if (zeile_von(name)) {
-        return namensmangel::doppelt;
+        return namensmangel::vergeben;
     }
     return eintraege_.size() >= max_ ? namensmangel::voll : namensmangel::keiner;
 }

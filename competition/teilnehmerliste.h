@@ -6,17 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "competition/fahrername.h"
 #include "core/namensliste.h"
 #include "core/texte.h"
 #include "platform/zufall.h"
 
 namespace tarvel {
-
-/// Why a name has no place in a list of participants.
-enum class namensmangel { keiner, leer, platzhalter, doppelt, voll };
-
-/// As the files of a competition hold a name: without commas, which divide their fields.
-std::string startlistenname(std::string_view text);
 
 /// Names with their pictures, each name once. Rows count from 0; one that does not exist changes nothing.
 class teilnehmerliste {

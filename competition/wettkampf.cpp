@@ -7,24 +7,6 @@
 
 namespace tarvel {
 
-std::string wettkampf_text(std::string_view eingabe) {
-    constexpr std::size_t zeichen_max = 100;
-    std::string text(eingabe);
-    std::erase(text, ',');
-    return std::string(gekuerzt(links(als_zeile(text), zeichen_max)));
-}
-
-namensmangel name_pruefen(std::string_view name, std::span<const std::string> andere, const texte& txt) {
-    if (name.empty()) {
-        return namensmangel::leer;
-    }
-    if (txt.ist_freier_platz(name)) {
-        return namensmangel::wie_fueller;
-    }
-    const bool vergeben = std::find(andere.begin(), andere.end(), name) != andere.end();
-    return vergeben ? namensmangel::vergeben : namensmangel::keiner;
-}
-
 std::optional<wettkampf> wettkampf_beginnen(planvorgabe vorgabe, std::span<const std::string> fahrer,
                                             std::string_view titel, const texte& txt) {
     std::vector<std::string> namen;

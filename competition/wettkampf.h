@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "competition/fahrername.h"
 #include "competition/rennplan.h"
 #include "core/einstellungswerte.h"
 #include "core/spuren.h"
@@ -95,13 +96,6 @@ struct renn_uebergabe {
     spuren<bool> rennen_spur_aktiv;  ///< has a real driver: takes part in the warm-up and in the race
     spuren<bool> fueller;
 };
-
-enum class namensmangel { keiner, leer, vergeben, wie_fueller, kein_fahrer };
-
-/// A name or title as the competition keeps it: without commas, which part the values of its file.
-std::string wettkampf_text(std::string_view eingabe);
-/// May this name, as `wettkampf_text` gives it, join the others?
-namensmangel name_pruefen(std::string_view name, std::span<const std::string> andere, const texte& txt);
 
 /// A competition that runs: who drives when, and what has been driven. All else follows from these. Races and places
 /// count from 1; a number that there is not changes nothing.

@@ -18,9 +18,9 @@ int nach_streichen(const teilnehmerliste& inhalt, int zeile) {
 
 std::string wettkampf1::mangel_text(namensmangel mangel, const std::string& name) const {
     switch (mangel) {
-        case namensmangel::platzhalter:
+        case namensmangel::wie_fueller:
             return name + " " + wort_.platzhalter;
-        case namensmangel::doppelt:
+        case namensmangel::vergeben:
             return wort_.enthalten + name;
         case namensmangel::voll:
             return wort_.voll;
@@ -72,7 +72,7 @@ void wettkampf1::verschieben(seite& von, seite& nach) {
     }
     const listeneintrag wer = von.inhalt.eintraege().at(static_cast<std::size_t>(zeile));
     const namensmangel mangel = nach.inhalt.hinzufuegen(wer);
-    const bool schon_drueben = mangel == namensmangel::doppelt && &nach == &links_;
+    const bool schon_drueben = mangel == namensmangel::vergeben && &nach == &links_;
     if (mangel != namensmangel::keiner && !schon_drueben) {
         const bool kein_platz = mangel == namensmangel::voll && &nach == &links_;
         melden(kein_platz ? wort_.gesamt_voll : mangel_text(mangel, wer.name));

@@ -157,11 +157,12 @@ void wettkampf2::spuren_zeigen(const abendblick& blick) {
         const int platz = dran.spur_fahrer[spur];
         const bool mit_bild = dabei && dran.rennen_spur_aktiv[spur];
         Image_b[i].sichtbar(mit_bild);
-        if (mit_bild && !w.bilder.at(static_cast<std::size_t>(platz - 1)).empty()) {
-            Image_b[i].datei(fahrerliste_.listenart().bildordner + "/" +
-                             w.bilder.at(static_cast<std::size_t>(platz - 1)));
-        } else if (mit_bild) {
-            fahrerliste_.bild_zeigen(um_.ablage, w.name(platz), Image_b[i]);
+        if (mit_bild) {
+            const std::string& datei = w.bilder.at(static_cast<std::size_t>(platz - 1));
+            Image_b[i].datei(datei);
+            if (datei.empty()) {
+                fahrerliste_.bild_zeigen(um_.ablage, w.name(platz), Image_b[i]);
+            }
         }
     }
 }

@@ -125,6 +125,7 @@ void wettkampf2::umbenennen() {
     switch (mangel) {
         case namensmangel::keiner:
         case namensmangel::kein_fahrer:
+        case namensmangel::voll:
             return;
         case namensmangel::leer:
             um_.meldungen.zeigen(wort_.name_leer, um_.txt.titel[1]);

@@ -174,7 +174,7 @@ std::vector<feld*> form1::felder_ohne_zahl() {
         }
     }
     std::erase_if(alle, [](const feld* f) { return ist_zahl(f->text()); });
-    if (!einrichtung().dauer_lesbar()) {
+    if (!gelesen().dauer_lesbar()) {
         alle.push_back(&renndauer);
     }
     return alle;
@@ -253,9 +253,9 @@ bool form1::uebergeben(rennumfang umfang) {
     if (bahnstrom_ein) {
         bahnstrom_ein();
     }
-    if (!einrichtung().dauer_lesbar()) {
+    if (!gelesen().dauer_lesbar()) {
         ablehnen(um_.txt.meldung[13], renndauer);  // what was typed stays to be mended
-        return;
+        return false;
     }
     unlesbares_ersetzen();
     renneinrichtung& e = gelesen();

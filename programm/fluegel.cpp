@@ -66,7 +66,9 @@ wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel&
                        p.form1, folgen, umfeld, wettkampfabend, wettkampfspeicher}),
       wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, o.fahrerspeichernfenster,
                   o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
-      wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf) {
+      wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf),
+      rangliste(fensterwelt(p), p.einst, wettkampfabend),
+      w_auswertung(fensterwelt(p), p.einst, wettkampfabend) {
     wettkampfablauf.vorbereitung = &wettkampf1;
 }
 

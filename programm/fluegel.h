@@ -1,7 +1,9 @@
 #pragma once
 
 #include "competition/intervalltraining.h"
+#include "competition/rangliste.h"
 #include "competition/tagesrennen.h"
+#include "competition/w_auswertung.h"
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
 #include "core/bildwahl.h"
@@ -70,6 +72,8 @@ struct wettkampffluegel {
     tarvel::wettkampfablauf wettkampfablauf;
     tarvel::wettkampf1 wettkampf1;
     tarvel::wettkampf2 wettkampf2;
+    tarvel::rangliste rangliste;
+    tarvel::w_auswertung w_auswertung;
 };
 
 }  // namespace tarvel

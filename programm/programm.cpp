@@ -68,6 +68,8 @@ programm::programm(const plattform::dienste& d)
       wettkampfabend(wettkampf_->wettkampfabend),
       wettkampf1(wettkampf_->wettkampf1),
       wettkampf2(wettkampf_->wettkampf2),
+      rangliste(wettkampf_->rangliste),
+      w_auswertung(wettkampf_->w_auswertung),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };

@@ -35,12 +35,14 @@ class form3;
 class intervalltraining;
 class k_ampel;
 class messgeraete;
+class rangliste;
 class rundenspeichern;
 class speichernfenster;
 class startampel;
 class tagesrennen;
 class tastaturbelegung;
 class update_form;
+class w_auswertung;
 class veranstaltung;
 class wertung;
 class wettkampf1;
@@ -126,6 +128,8 @@ public:
     tarvel::wettkampfabend& wettkampfabend;
     tarvel::wettkampf1& wettkampf1;
     tarvel::wettkampf2& wettkampf2;
+    tarvel::rangliste& rangliste;
+    tarvel::w_auswertung& w_auswertung;
     messgeraete& geraete;
 
 private:

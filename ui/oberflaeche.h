@@ -16,14 +16,16 @@
 #include "ui/form1_fenster.h"
 #include "ui/form2_fenster.h"
 #include "ui/k_ampel_fenster.h"
+#include "ui/rangliste_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
-#include "ui/wettkampf2_fenster.h"
+#include "ui/w_auswertung_fenster.h"
 #include "ui/wettkampf1_fenster.h"
+#include "ui/wettkampf2_fenster.h"
 
 namespace tarvel::ui {
 
@@ -60,6 +62,8 @@ public:
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
+    RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
+    WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};

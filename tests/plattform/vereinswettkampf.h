@@ -6,27 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "competition/wettkampfabend.h"
-#include "programm/fluegel.h"
-#include "programm/programm.h"
+#include "competition/wettkampf.h"
 
 namespace tarvel::test {
 
-/// Keeps nothing, and remembers what it was asked to keep.
-struct merkablage final : wettkampfablage {
-    void laufenden_sichern(const wettkampf& stand) override { letzter = stand; }
-    void laufenden_vergessen() override {}
-    void zwischenstand_sichern(const wettkampf& /*stand*/) override {}
-    void rennen_sichern(const wettkampf& /*stand*/, int /*rennen*/, const rennergebnis& /*ergebnis*/) override {}
-    void tabelle_sichern(const wettkampf& /*stand*/) override {}
-
-    wettkampf letzter;
-};
-
 /// A club that drives a whole competition without a track.
 struct vereinswettkampf {
-    explicit vereinswettkampf(programm& prog) : p(prog) {}
-
     static wettkampf neu(wettkampf_modus modus, int fahrer, std::initializer_list<int> lanes) {
         static constexpr std::array<const char*, 8> namen{"Anna",         "Ben Olsen",    "Carl-Friedrich von Gauß",
                                                           "Dora Schmidt", "Emil Lindner", "Frieda",
@@ -57,11 +42,6 @@ struct vereinswettkampf {
             w.ergebnis_eintragen(fahrten);
         }
     }
-
-    programm& p;
-    merkablage ablage;
-    wettkampfabend abend{
-        {p.param, p.einst, p.rennen.teil_von, p.rennen.bahn1, p.fenster, ablage, p.dienste.zeitgeber, p.dienste.uhr}};
 };
 
 }  // namespace tarvel::test

@@ -20,7 +20,7 @@ protected:
     void zeigen(m modus, int fahrer, std::initializer_list<int> lanes, int rennen) {
         wettkampf w = test::vereinswettkampf::neu(modus, fahrer, lanes);
         test::vereinswettkampf::fahren(w, rennen);
-        v.abend.beginnen(std::move(w));
+        abend.beginnen(std::move(w));
         t.p.fenster.zeigen(fenstername::w_auswertung);
         fenster.resize(1024, 768);
         setzen_lassen();
@@ -30,10 +30,9 @@ protected:
         QTest::qWait(60);
     }
 
-    fenster_umgebung um{t.p.ablage, t.p.txt, t.p.fenster, t.p.dienste.meldungen};
-    test::vereinswettkampf v{t.p};
-    w_auswertung stand{um, t.p.einst, v.abend};
-    ui::WAuswertungFenster fenster{stand, t.p.ablage, o.fenster, &o.form1};
+    wettkampfabend& abend = t.p.wettkampfabend;
+    w_auswertung& stand = t.p.w_auswertung;
+    ui::WAuswertungFenster& fenster = o.w_auswertung;
 };
 
 TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
@@ -56,7 +55,7 @@ TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
     auf_einer_hoehe();
     finde<QListView>(fenster, "w_auswertung.List_balken")->verticalScrollBar()->setValue(50);
     auf_einer_hoehe();
-    v.abend.aendern([](wettkampf& w) {
+    abend.aendern([](wettkampf& w) {
         test::vereinswettkampf::fahren(w, 1);
         return true;
     });

@@ -14,32 +14,6 @@
 namespace tarvel {
 namespace {
 
-/// The windows of an evening beside those of the program.
-struct abendbuehne {
-    explicit abendbuehne(buehne& b) : v(b.p), b_(b) {}
-
-private:
-    fenster_umgebung umgebung() { return {b_.p.ablage, b_.p.txt, b_.p.fenster, b_.p.dienste.meldungen}; }
-
-public:
-    test::vereinswettkampf v;
-
-private:
-    buehne& b_;
-
-public:
-    rangliste rang{umgebung(), b_.p.einst, v.abend};
-    w_auswertung stand{umgebung(), b_.p.einst, v.abend};
-    ui::RanglisteFenster rangfenster{rang, b_.o.fenster, &b_.o.form1};
-    ui::WAuswertungFenster standfenster{stand, b_.p.ablage, b_.o.fenster, &b_.o.form1};
-};
-
-abendbuehne& abend_an(buehne& b) {
-    const auto neu = std::make_shared<abendbuehne>(b);
-    b.dazu = neu;
-    return *neu;
-}
-
 wettkampf gefahren(wettkampf_modus modus, int fahrer, std::initializer_list<int> lanes, int rennen) {
     wettkampf w = test::vereinswettkampf::neu(modus, fahrer, lanes);
     test::vereinswettkampf::fahren(w, rennen);
@@ -47,17 +21,21 @@ wettkampf gefahren(wettkampf_modus modus, int fahrer, std::initializer_list<int>
 }
 
 QWidget& auswertung_zeigen(buehne& b, wettkampf w) {
-    abendbuehne& a = abend_an(b);
-    a.v.abend.beginnen(std::move(w));
+    b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::w_auswertung);
-    return a.standfenster;
+    return b.o.w_auswertung;
+}
+
+QWidget& wettkampf2_zeigen(buehne& b, wettkampf w) {
+    b.p.wettkampfabend.beginnen(std::move(w));
+    b.p.fenster.zeigen(fenstername::wettkampf2);
+    return b.o.wettkampf2;
 }
 
 QWidget& rangliste_zeigen(buehne& b, wettkampf w) {
-    abendbuehne& a = abend_an(b);
-    a.v.abend.beginnen(std::move(w));
+    b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::rangliste);
-    return a.rangfenster;
+    return b.o.rangliste;
 }
 
 /// A page as it is printed.
@@ -82,8 +60,7 @@ private:
 
 QWidget& blatt_zeigen(buehne& b, wettkampf w, int nummer) {
     auswertung_zeigen(b, std::move(w));
-    const auto& a = *std::static_pointer_cast<abendbuehne>(b.dazu);
-    return *new Blattbild(&b.o.form1, ui::wettkampfseiten(a.stand.blatt()), nummer);
+    return *new Blattbild(&b.o.form1, ui::wettkampfseiten(b.p.w_auswertung.blatt()), nummer);
 }
 
 using m = wettkampf_modus;
@@ -111,9 +88,8 @@ const std::vector<szeneneintrag> alle{
      }},
     {"w_auswertung_ohne",
      [](buehne& b) -> QWidget& {
-         abendbuehne& a = abend_an(b);
          b.p.fenster.zeigen(fenstername::w_auswertung);
-         return a.standfenster;
+         return b.o.w_auswertung;
      }},
     {"wettkampfblatt_eins",
      [](buehne& b) -> QWidget& {
@@ -134,6 +110,32 @@ const std::vector<szeneneintrag> alle{
     {"wettkampfblatt_jeder",
      [](buehne& b) -> QWidget& {
          return blatt_zeigen(b, gefahren(m::jeder_gegen_jeden, 10, {2, 5}, 70), 1);
+     }},
+    {"wettkampf2",
+     [](buehne& b) -> QWidget& {
+         return wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 3));
+     }},
+    {"wettkampf2_sechs_spuren",
+     [](buehne& b) -> QWidget& {
+         return wettkampf2_zeigen(b, gefahren(m::gruppen, 40, {1, 2, 3, 4, 5, 6}, 17));
+     }},
+    {"wettkampf2_runden",
+     [](buehne& b) -> QWidget& {
+         QWidget& fenster = wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 3));
+         b.p.wettkampf2.List1.auswaehlen(1);
+         b.p.wettkampf2.Command13.klicken();
+         b.p.wettkampf2.rundenliste.auswaehlen(2);
+         return fenster;
+     }},
+    {"wettkampf2_namen",
+     [](buehne& b) -> QWidget& {
+         QWidget& fenster = wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 3));
+         b.p.wettkampf2.Command14.klicken();
+         return fenster;
+     }},
+    {"wettkampf2_ende",
+     [](buehne& b) -> QWidget& {
+         return wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 7));
      }},
     {"rangliste",
      [](buehne& b) -> QWidget& {

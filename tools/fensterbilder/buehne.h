@@ -28,7 +28,6 @@ struct buehne {
     programm& p;
     test::vereinsabend abend{p};
     ui::Oberflaeche o{p};
-    std::shared_ptr<void> dazu;  ///< what a scene has added; it goes first
 
 private:
     void klub_anmelden();
