@@ -35,7 +35,6 @@ public:
     virtual void beginnen(const wettkampfvorgabe& vorgabe) = 0;
     /// A competition that was saved goes on.
     virtual void laden() = 0;
-    virtual void auswertung() = 0;
 };
 
 /// The window `wettkampf1`: who takes part in a competition, in which order, and what plan comes of it. On its left
@@ -114,7 +113,7 @@ public:
     befehl Command3;   ///< begins the competition
     befehl Command11;  ///< begins a qualifying
     befehl Command9;   ///< goes on with one that was saved
-    befehl Command25;  ///< evaluation of results
+    befehl Command25;  ///< evaluation of results, where there is a window for it
     befehl Command8;   ///< options
     befehl Command4;   ///< back to the main window
 

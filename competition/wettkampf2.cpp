@@ -10,22 +10,15 @@ namespace tarvel {
 namespace {
 
 constexpr std::size_t namensbreite = 15;
-constexpr std::string_view nach_der_nummer = "        ";
+constexpr std::size_t markenbreite = 6;
 constexpr std::string_view zwischen_namen = "   ";
+constexpr std::size_t namen_max = 8;  // more of them nobody reads from the track
 constexpr std::string_view keine_beste = "99 : 99 , 999";
 
 std::string aufgefuellt(std::string_view name) {
     std::string spalte(links(name, namensbreite));
     spalte.append(namensbreite - laenge(spalte), ' ');
     return spalte;
-}
-
-std::string verbunden(const std::vector<std::string>& namen) {
-    std::string alle;
-    for (const std::string& name : namen) {
-        alle += (alle.empty() ? "" : ", ") + name;
-    }
-    return alle;
 }
 
 }  // namespace
@@ -138,10 +131,20 @@ void wettkampf2::blick_zeigen() {
         }
     }
     Label_danach.sichtbar(!danach.empty());
-    Label_danach_fahrer.text(verbunden(danach));
+    Label_danach_fahrer.text(aufgezaehlt(danach));
     Label_einsetzer.sichtbar(!ende);
-    Label_einsetzer_fahrer.text(ende ? "" : blick.einsetzer.empty() ? wort_.niemand : verbunden(blick.einsetzer));
+    Label_einsetzer_fahrer.text(ende ? "" : blick.einsetzer.empty() ? wort_.niemand : aufgezaehlt(blick.einsetzer));
+    Label_fehler.sichtbar(abend_.nicht_gesichert());
     Label_dauer.text(ende ? "" : dauer_text(blick));
+}
+
+std::string wettkampf2::aufgezaehlt(const std::vector<std::string>& namen) const {
+    std::string alle;
+    for (std::size_t i = 0; i < std::min(namen.size(), namen_max); ++i) {
+        alle += (i == 0 ? "" : ", ") + namen[i];
+    }
+    const std::size_t rest = namen.size() - std::min(namen.size(), namen_max);
+    return rest == 0 ? alle : alle + " " + wort_.und + " " + std::to_string(rest) + " " + wort_.weitere;
 }
 
 void wettkampf2::spuren_zeigen(const abendblick& blick) {
@@ -176,27 +179,34 @@ std::string wettkampf2::dauer_text(const abendblick& blick) const {
     return wort_.noch + " " + (minuten < 60 ? teil : std::to_string(minuten / 60) + " " + wort_.stunden + " " + teil);
 }
 
+std::string wettkampf2::rennmarke(int rennen) const {
+    const wettkampf& w = abend_.stand();
+    switch (w.rennen_gefahren(rennen)) {
+        case rennstatus::gefahren:
+            return "X";
+        case rennstatus::zurueckgestellt:
+            return "Z";
+        case rennstatus::offen:
+            break;
+    }
+    const int teile = w.fortsetzung_nummer(rennen);
+    return teile == 0 ? "" : std::to_string(teile) + "/" + std::to_string(w.plan.teile);
+}
+
 std::string wettkampf2::rennzeile(int rennen) const {
     const wettkampf& w = abend_.stand();
-    std::string nummer = std::to_string(rennen);
+    const std::string nummer = std::to_string(rennen);
+    const std::string marke = rennmarke(rennen);
     std::string zeile = std::string(3 - std::min<std::size_t>(nummer.size(), 3), '0') + nummer;
-    zeile += nach_der_nummer;
+    // the mark stands at both ends: a narrow window shows the first
+    zeile += "  " + marke + std::string(markenbreite - std::min(marke.size(), markenbreite), ' ');
     for (const int spur : alle_spuren) {
         if (w.spur_aktiv[spur]) {
             zeile += aufgefuellt(w.name(w.plan.feld(rennen)[spur]));
             zeile += zwischen_namen;
         }
     }
-    const int teile = w.fortsetzung_nummer(rennen);
-    switch (w.rennen_gefahren(rennen)) {
-        case rennstatus::gefahren:
-            return zeile + "X";
-        case rennstatus::zurueckgestellt:
-            return zeile + "Z";
-        case rennstatus::offen:
-            break;
-    }
-    return teile == 0 ? zeile : zeile + std::to_string(teile) + "/" + std::to_string(w.plan.teile);
+    return zeile + marke;
 }
 
 void wettkampf2::liste_zeigen() {

@@ -53,9 +53,10 @@ public:
     bezeichnung label_best;
     bezeichnung label_fahrer;  ///< who has it
 
-    bezeichnung Label_liste;  ///< columns of the list
-    liste List1;              ///< row n - 1 is race n
-    haken opt_reihenfolge;    ///< a race that is selected comes next
+    bezeichnung Label_fehler;  ///< the state could not be kept
+    bezeichnung Label_liste;   ///< columns of the list
+    liste List1;               ///< row n - 1 is race n
+    haken opt_reihenfolge;     ///< a race that is selected comes next
 
     befehl Command1;   ///< save the state
     befehl Command2;   ///< start the race
@@ -107,7 +108,7 @@ private:
     };
     struct worte {
         std::string titel, spur, rennen, von, noch, stunden, minuten, wartezeit, ende, zeit_unbekannt;
-        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand;
+        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere;
         std::string wiederholen, wiederholen_titel, ende_frage;
         std::string name_leer, name_vergeben, name_fueller, keine_zahl;
     };
@@ -119,10 +120,13 @@ private:
 
     void blick_zeigen();
     void spuren_zeigen(const abendblick& blick);
+    std::string aufgezaehlt(const std::vector<std::string>& namen) const;
     void liste_zeigen();
     void beste_zeigen();
     void befehle_zeigen();
     std::string rennzeile(int rennen) const;
+    /// Driven, postponed, or how many of its parts are driven.
+    std::string rennmarke(int rennen) const;
     std::string dauer_text(const abendblick& blick) const;
 
     /// The selected race, 0 for none.

@@ -35,6 +35,8 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("Name in Liste enthalten: ", wort_.name_vergeben);
     texte.text("So heißen nur freie Plätze: ", wort_.name_fueller);
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl);
+    texte.text("Der Stand konnte nicht gespeichert werden.", Label_fehler).text("und", wort_.und);
+    texte.text("weitere", wort_.weitere);
     texte.tipp("Das markierte Rennen wird noch einmal gefahren; seine Runden gehen verloren", Command8);
     texte.tipp("Das markierte Rennen wird gefahren, wenn alle anderen gefahren sind", Command9);
     texte.tipp("Das Rennen, das in der Liste markiert wird, ist das nächste", opt_reihenfolge);

@@ -75,7 +75,7 @@ starter wettkampfabend::wer_startet() const {
     if (von_selbst_) {
         return starter::ablauf;
     }
-    return um_.einst.w_einfahren_an ? starter::einfahrzeit : starter::bediener;
+    return mit_einfahrzeit() ? starter::einfahrzeit : starter::bediener;
 }
 
 std::string wettkampfabend::naechste_fahrer() const {
@@ -174,7 +174,7 @@ void wettkampfabend::am_start_warten() {
     if (!automatik_an_) {
         return;
     }
-    if (um_.einst.w_einfahren_an) {
+    if (mit_einfahrzeit()) {
         automat_.auf_einfahren();
     } else {
         automat_.auf_rennstart();

@@ -119,6 +119,7 @@ private:
         return uebergabe_.teil < stand_.plan.teile &&
                um_.param.renn_ziel + um_.param.renn_laenge <= renn_maximum(um_.param);
     }
+    bool mit_einfahrzeit() const { return um_.einst.w_einfahren_an && um_.fenster.gibt_es(fenstername::einfahren); }
     void uebergeben();
     void buchen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);

@@ -32,6 +32,7 @@ public:
     void abmelden(const fensterlogik& logik) { an(logik) = {}; }
     void anzeigen_auf(fensteranzeige* anzeige) { anzeige_ = anzeige; }
 
+    bool gibt_es(fenstername name) const { return an(name).logik != nullptr; }
     /// Loads the window without showing it, if it is not loaded.
     void laden(fenstername name);
     void zeigen(fenstername name, anzeige_art art = anzeige_art::frei);

@@ -159,7 +159,11 @@ sprachliste texte::sprache_m1() {
     alle(datei_texte, datei_text);
     alle(hardware_namen, hardware_name);
     alle(modus_namen, modus_name);
-    return gruppe.text("Kann nicht activiert werden.", nicht_aktiv_text);
+    gruppe.text("Kann nicht activiert werden.", nicht_aktiv_text);
+    gruppe.text("Programmeinstellungen aus Datei übernehmen?", wettkampf.einstellungen_uebernehmen);
+    gruppe.text("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", wettkampf.ladefehler);
+    gruppe.text("Der Wettkampf", wettkampf.der_wettkampf).text("vom", wettkampf.vom);
+    return gruppe.text("wurde nicht beendet. Fortsetzen?", wettkampf.nicht_beendet);
 }
 
 sprachliste texte::sprache_tx1() {

@@ -46,6 +46,10 @@ struct texte {
     std::array<std::string, 8> hardware_name;
     std::array<std::string, 5> modus_name;  ///< track modes of a digital-capable device
     std::string nicht_aktiv_text;
+    struct {
+        std::string einstellungen_uebernehmen, ladefehler;
+        std::string der_wettkampf, vom, nicht_beendet;  ///< an evening that was cut off, around its name and day
+    } wettkampf;
     std::array<std::string, 20> tx_text;        ///< of the 4x4 USB module
     std::array<std::string, 60> ereignis_name;  ///< index is the event number
 

@@ -42,7 +42,7 @@ void wettkampfablauf::laden() {
     using antwort = plattform::dreifache_antwort;
     antwort uebernehmen = antwort::nein;
     if (!um_.einst.hardware.hw_cu) {  // that unit's settings are those of the track here
-        uebernehmen = um_.meldungen.fragen_mit_ausweg("Programmeinstellungen aus Datei übernehmen?", um_.txt.titel[0]);
+        uebernehmen = um_.meldungen.fragen_mit_ausweg(um_.txt.wettkampf.einstellungen_uebernehmen, um_.txt.titel[0]);
     }
     if (uebernehmen == antwort::abbrechen) {
         return;
@@ -53,7 +53,7 @@ void wettkampfablauf::laden() {
         if (laden(pfad, wie)) {
             return true;
         }
-        um_.meldungen.zeigen("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", um_.txt.titel[1]);
+        um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler, um_.txt.titel[1]);
         return false;
     });
 }
@@ -103,9 +103,11 @@ void wettkampfablauf::unterbrochenen_anbieten() {
     const std::string pfad(laufender_wettkampf);
     const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
                                          version_melden::nein);
-    const bool fortsetzen = gelesen && um_.meldungen.fragen("Der Wettkampf " + gelesen->wettkampf_name + " vom " +
-                                                                gelesen->beginn + " wurde nicht beendet. Fortsetzen?",
-                                                            um_.txt.titel[0]);
+    const auto& wort = um_.txt.wettkampf;
+    const bool fortsetzen =
+        gelesen && um_.meldungen.fragen(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
+                                            gelesen->beginn + " " + wort.nicht_beendet,
+                                        um_.txt.titel[0]);
     if (!fortsetzen) {
         const plattform::datum_uhrzeit jetzt = um_.kalender.jetzt();
         um_.ablage.umbenennen(pfad, std::string(abgelegt) + ergebnis_stempel(jetzt) + ".wtk");

@@ -43,7 +43,6 @@ public:
 
     void beginnen(const wettkampfvorgabe& vorgabe) override;
     void laden() override;
-    void auswertung() override {}
     void wettkampf_beendet(const std::optional<std::vector<std::string>>& qualifying) override;
     void stand_speichern_unter() override { um_.speicher.stand_speichern_unter(um_.abend.stand()); }
     void tabelle_speichern_unter() override { um_.speicher.tabelle_speichern_unter(um_.abend.stand()); }

@@ -147,6 +147,7 @@ QWidget* Wettkampf2Fenster::rundenfeld() {
         werte->addWidget(binder().zeile(logik_.anz_meter.at(i), "anz_meter" + nummer), spur, 2);
     }
     auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(8);
     knoepfe->addStretch(1);
     knoepfe->addWidget(binder().knopf(logik_.Command_uebernehmen, "Command_uebernehmen"));
     knoepfe->addWidget(binder().knopf(logik_.Command_runden_fertig, "Command_runden_fertig"));
@@ -170,6 +171,7 @@ QWidget* Wettkampf2Fenster::namenfeld() {
     QObject::connect(name, &QLineEdit::returnPressed, name, [this] { logik_.Command_umbenennen.klicken(); });
     neu->addWidget(name);
     auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(8);
     knoepfe->addStretch(1);
     knoepfe->addWidget(binder().knopf(logik_.Command_umbenennen, "Command_umbenennen"));
     knoepfe->addWidget(binder().knopf(logik_.Command_namen_fertig, "Command_namen_fertig"));
@@ -186,6 +188,10 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     aufbau->setSpacing(4);
     auto* kopf = new QHBoxLayout;
     kopf->addWidget(binder().label(logik_.Label_liste, "Label_liste"));
+    QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
+    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
+    kopf->addSpacing(24);
+    kopf->addWidget(fehler);
     kopf->addStretch(1);
     kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
     aufbau->addLayout(kopf);
