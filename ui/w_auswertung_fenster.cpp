@@ -44,6 +44,9 @@ WAuswertungFenster::WAuswertungFenster(w_auswertung& logik, const dateien& ablag
     aufbau->addWidget(werte_);
     aufbau->addWidget(tabelle(), 1);
     schieber_ = new QScrollBar(Qt::Horizontal, this);
+    schieber_->setFocusPolicy(Qt::TabFocus);  // without a mouse too
+    schieber_->setStyleSheet("QScrollBar:focus { border: 1px solid #c41e2a; border-radius: 5px; }");
+    schieber_->setObjectName("w_auswertung.schieber");
     aufbau->addWidget(schieber_);
     QScrollBar* innen = mitte_->horizontalScrollBar();
     QObject::connect(schieber_, &QScrollBar::valueChanged, innen, &QScrollBar::setValue);
@@ -217,6 +220,7 @@ void WAuswertungFenster::schriften_setzen(double px) {
         eine.kopf->setFont(kopf);
     }
     werte_->setFont(kopf);
+    schieber_->setAccessibleName(werte_->text());
     stand_->setSchriftPx(std::max(static_cast<int>(px), 24));
 }
 
