@@ -129,10 +129,8 @@ void w_auswertung::zeilen_zeigen() {
     const std::size_t spalten = zeilen.empty() ? 0 : std::min(zeilen.front().je.size(), je_max);
     koepfe_zeigen(spalten);
     const auto spalte = [&zeilen](liste& ziel, const auto& text) {
-        std::vector<std::string> texte;
-        for (const auswertung_zeile& zeile : zeilen) {
-            texte.push_back(text(zeile));
-        }
+        std::vector<std::string> texte(zeilen.size());
+        std::transform(zeilen.begin(), zeilen.end(), texte.begin(), text);
         fuellen(ziel, texte);
     };
     using z = auswertung_zeile;

@@ -44,6 +44,9 @@ WAuswertungFenster::WAuswertungFenster(w_auswertung& logik, const dateien& ablag
     aufbau->addWidget(werte_);
     aufbau->addWidget(tabelle(), 1);
     schieber_ = new QScrollBar(Qt::Horizontal, this);
+    schieber_->setFocusPolicy(Qt::TabFocus);  // without a mouse too
+    schieber_->setStyleSheet("QScrollBar:focus { border: 1px solid #c41e2a; border-radius: 5px; }");
+    schieber_->setObjectName("w_auswertung.schieber");
     aufbau->addWidget(schieber_);
     QScrollBar* innen = mitte_->horizontalScrollBar();
     QObject::connect(schieber_, &QScrollBar::valueChanged, innen, &QScrollBar::setValue);
@@ -217,7 +220,8 @@ void WAuswertungFenster::schriften_setzen(double px) {
         eine.kopf->setFont(kopf);
     }
     werte_->setFont(kopf);
-    stand_->setSchriftPx(std::clamp(static_cast<int>(px), 24, 40));
+    schieber_->setAccessibleName(werte_->text());
+    stand_->setSchriftPx(std::max(static_cast<int>(px), 24));
 }
 
 int WAuswertungFenster::breite_von(const spalte& eine) const {
@@ -229,18 +233,25 @@ int WAuswertungFenster::breite_von(const spalte& eine) const {
     return std::max(zeilen, eine.kopf->sizeHint().width());
 }
 
+/// The columns grow with their letters, but for their margins: each step comes closer and none goes too far.
 double WAuswertungFenster::passende_schrift(int platz, int hoehe) {
-    for (double px = std::max(schrift_min_px, hoehe * schrift_max_anteil); px >= schrift_min_px; px -= 1) {
+    double px = std::max(schrift_min_px, hoehe * schrift_max_anteil);
+    while (true) {
         schriften_setzen(px);
-        int breite = 0;
+        double breite = 0;
         for (const spalte& eine : spalten_) {
             breite += eine.logik.sichtbar() && &eine != &spalten_.back() ? breite_von(eine) : 0;
         }
-        if (breite <= platz * (1 - (px > schrift_klein_px ? balken_anteil : balken_anteil_min))) {
+        const double frei = platz * (1 - (px > schrift_klein_px ? balken_anteil : balken_anteil_min));
+        if (breite <= frei) {
             return px;
         }
+        if (px <= schrift_min_px) {
+            break;
+        }
+        px = std::max(schrift_min_px, std::min(px - 0.5, px * frei / breite));
     }
-    const double px = std::max(schrift_min_px, hoehe * schieben_anteil);
+    px = std::max(schrift_min_px, hoehe * schieben_anteil);
     schriften_setzen(px);
     return px;
 }
