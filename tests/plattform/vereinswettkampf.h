@@ -37,7 +37,8 @@ struct vereinswettkampf {
                 const int platz = w.plan.feld(w.aktuelles_rennen)[spur];
                 const int runden = 14 + (platz * 37 + spur * 11) % 9 - platz % 5;
                 const zeit_ms beste = 6800 + (platz * 7919 + spur * 1047) % 900;
-                fahrten[spur] = {runden, runden * (beste + 240), runden * zentimeter{1050} + 37 * platz, beste};
+                fahrten[spur] = {runden, runden * (beste + 240), runden * zentimeter{1050} + zentimeter{37} * platz,
+                                 beste};
             }
             w.ergebnis_eintragen(fahrten);
         }
