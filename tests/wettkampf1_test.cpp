@@ -12,7 +12,6 @@ struct folgen_protokoll final : wettkampf1_folgen {
 
     void beginnen(const wettkampfvorgabe& vorgabe) override { begonnen.push_back(vorgabe); }
     void laden() override {}
-    void auswertung() override {}
 };
 
 /// The window with windows of its own beside those of the program, after four lanes and five minutes were set up.
