@@ -1,5 +1,8 @@
 #include "competition/wettkampfabend.h"
 
+#include "competition/rangfolge.h"
+#include "competition/wettkampf1.h"
+#include "competition/wettkampf2.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
 #include "tests/programm_probe.h"
@@ -230,6 +233,85 @@ TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     t.p.auswertung.Command5.klicken();
     ASSERT_TRUE(abend.stand().ende_pruefen());
     EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
+}
+
+TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    const wettkampf vorher = abend.stand();
+    t.maschine.antwort = true;
+    {
+        programm neu(t.maschine.dienste());
+        neu.starten();
+        ASSERT_FALSE(t.maschine.fragen_gestellt.empty());
+        EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
+                  "Der Wettkampf Vereinsabend vom " + vorher.beginn + " wurde nicht beendet. Fortsetzen?");
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf2));
+        EXPECT_EQ(neu.wettkampfabend.stand(), vorher);
+        EXPECT_EQ(neu.param.renn_laenge, 3);
+        EXPECT_EQ(neu.param.art, renn_art::runden);
+        EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
+        EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
+        neu.wettkampf2.Command5.klicken();
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
+        EXPECT_TRUE(neu.form1.inhalt.aktiviert());
+        EXPECT_FALSE(neu.ablage.gibt_es(laufender_wettkampf));
+    }
+    abend.aendern([](wettkampf&) { return true; });
+    t.maschine.antwort = false;
+    programm anderer(t.maschine.dienste());
+    anderer.starten();
+    EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
+    EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
+    EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
+}
+
+TEST_F(Wettkampfabend, VomHauptfensterDurchDenAbendUndZurueck) {
+    t.p.form1.Command3.klicken();
+    ASSERT_TRUE(offen(fenstername::wettkampf1));
+    wettkampf1& vorbereitung = t.p.wettkampf1;
+    vorbereitung.Text1.eingeben("Pokal, der erste");
+    for (const char* name : {"Anna", "Ben", "Carl", "Dora", "Emil"}) {
+        vorbereitung.auswahl.eingeben(name);
+        vorbereitung.Command1.klicken();
+    }
+    vorbereitung.Command11.klicken();  // its ranking becomes the next start list
+    ASSERT_TRUE(offen(fenstername::wettkampf2));
+    EXPECT_FALSE(offen(fenstername::wettkampf1));
+    wettkampf2& w = t.p.wettkampf2;
+    EXPECT_EQ(abend.stand().wettkampf_name, "Pokal der erste");
+    EXPECT_EQ(w.Label_nr.text(), "1");
+    for (int rennen = 1; rennen <= 5; ++rennen) {
+        w.Command2.klicken();
+        ASSERT_TRUE(offen(fenstername::bahn1));
+        EXPECT_EQ(t.p.param.min_rundenzeit_ms, 5000);
+        t.bahn().Command1.klicken();
+        runden_fahren(3);
+        t.p.auswertung.Command5.klicken();
+        EXPECT_EQ(w.List1.zeilen().at(static_cast<std::size_t>(rennen) - 1).back(), 'X');
+    }
+    EXPECT_EQ(w.Label_nr.text(), "ENDE");
+    EXPECT_FALSE(w.Command2.sichtbar());
+    t.maschine.antwort = true;
+    w.List1.auswaehlen(1);
+    w.Command8.klicken();
+    EXPECT_EQ(w.Label_nr.text(), "2");
+    EXPECT_FALSE(abend.stand().ende_pruefen());
+    w.Command2.klicken();
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    t.p.auswertung.Command5.klicken();
+    const std::vector<std::string> rangfolge = qualifying_uebernehmen(abend.stand());
+    w.Command5.klicken();
+    ASSERT_TRUE(offen(fenstername::wettkampf1));
+    std::vector<std::string> startliste;
+    for (const listeneintrag& eintrag : vorbereitung.teilnehmer().eintraege()) {
+        startliste.push_back(eintrag.name);
+    }
+    EXPECT_EQ(startliste, rangfolge);
+    vorbereitung.Command4.klicken();
+    t.p.form1.Command1.klicken();
+    EXPECT_EQ(t.p.param.min_rundenzeit_ms, 5100) << "a race of its own again";
 }
 
 }  // namespace
