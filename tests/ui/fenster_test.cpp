@@ -5,6 +5,7 @@
 #include <chrono>
 #include <map>
 
+#include "tests/plattform/vereinswettkampf.h"
 #include "tests/ui/oberflaeche_probe.h"
 
 namespace tarvel {
@@ -38,7 +39,8 @@ protected:
         t.p.einstellungsfenster.uart_einrichten();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 19U);
+        ASSERT_EQ(alle.size(), 22U);
+        t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());
             EXPECT_TRUE(fenster->isVisible()) << fenster->objectName().toStdString();
