@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/spuren.h"
+#include "hardware/ereignisse.h"
 #include "platform/dauer.h"
 #include "platform/uhr.h"
 #include "race/rundenkonto.h"
@@ -20,7 +21,10 @@ struct zeitsperre {
     zeit_ms von = 0;
     zeit_ms bis = 0;  ///< 0: it has no time, `laeuft` tells
 
-    bool gilt(zeit_ms stempel, bool laeuft) const { return bis == 0 ? laeuft : stempel >= von && stempel < bis; }
+    /// A crossing from the beginning of a pause is `verschoben` behind it, where only a penalty that goes on meets it.
+    bool gilt(zeit_ms stempel, bool verschoben, bool laeuft) const {
+        return bis == 0 ? laeuft : stempel >= von && stempel < bis && (laeuft || !verschoben);
+    }
 };
 
 struct spur_zustand {
@@ -48,8 +52,14 @@ struct spur_zustand {
     zeit_ms ch_strafe_rest = 0;      ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 
-    /// A crossing at this moment falls in a penalty of a false start or a pause.
-    bool gesperrt(zeit_ms stempel) const { return sperre.gilt(stempel, fruehstart_sperre); }
+    /// The crossing falls in a penalty of a false start or a pause.
+    bool gesperrt(const ereignis_zeile& ueberfahrt) const {
+        return sperre.gilt(ueberfahrt.ereignis_zeit, ueberfahrt.verschoben != 0, fruehstart_sperre);
+    }
+    /// In that of an empty tank.
+    bool tank_gesperrt(const ereignis_zeile& ueberfahrt) const {
+        return tank_sperre.gilt(ueberfahrt.ereignis_zeit, ueberfahrt.verschoben != 0, tank_strafe_aktiv);
+    }
 
     /// What the time penalty adds to a lap: as many thousandths as it has seconds. Its seconds are added to the result.
     zeit_ms strafzuschlag() const { return strafzeit.count(); }

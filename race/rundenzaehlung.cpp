@@ -27,10 +27,11 @@ bool rundenzaehlung::gesperrt(int spur, zeit_ms stempel) const {
            (zu_nah(spur, stempel) || um_.zustand.spur[spur].sperrzaehler > 0);
 }
 
-zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
+zeit_ms rundenzaehlung::rundenzeit_messen(int spur, const ereignis_zeile& ereignis) {
+    const zeit_ms stempel = ereignis.ereignis_zeit;
     spur_zustand& zustand = um_.zustand.spur[spur];
     const rundenkonto& konto = um_.zustand.konto;
-    if (konto.runden(spur) >= 0 && !zustand.gesperrt(stempel)) {
+    if (konto.runden(spur) >= 0 && !zustand.gesperrt(ereignis)) {
         for (int zeile = konto.runden(spur); zeile >= 0; --zeile) {
             const zeit_ms vorher = konto.stempel(spur, zeile);
             if (vorher != 0) {
@@ -45,13 +46,12 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, zeit_ms stempel) {
     return stempel - zustand.start_zeit;
 }
 
-bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, zeit_ms stempel) const {
+bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(stempel) &&
+    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(ereignis) &&
            (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_sperre.gilt(stempel, zustand.tank_strafe_aktiv) && !zustand.ziel_erreicht &&
-           !gesperrt(spur, stempel);
+           !zustand.tank_gesperrt(ereignis) && !zustand.ziel_erreicht && !gesperrt(spur, ereignis.ereignis_zeit);
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {
@@ -99,8 +99,8 @@ void rundenzaehlung::ueberfahrt_auswerten(int spur) {
     ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
     if (entprellen(spur, ereignis)) {
         t_.tank.strafe_abgelaufen(spur, ereignis.ereignis_zeit);
-        const zeit_ms zeit = rundenzeit_messen(spur, ereignis.ereignis_zeit);
-        if (zaehlt(spur, zeit, ereignis.ereignis_zeit)) {
+        const zeit_ms zeit = rundenzeit_messen(spur, ereignis);
+        if (zaehlt(spur, zeit, ereignis)) {
             zaehlen(spur, zeit, ereignis);
         }
     }
