@@ -44,6 +44,9 @@ void rennautomat::auf_naechstes_rennen(dauer_ms wartezeit) {
 }
 
 void rennautomat::w_auto1_tick() {
+    if (!folgen_.darf_warten()) {
+        return;
+    }
     const bool ende = vorbei();
     if (ende) {
         w_auto1_->aus();

@@ -11,6 +11,8 @@ namespace tarvel {
 /// What the automatic flow does when a wait is over.
 class automatenfolgen : public schnittstelle {
 public:
+    /// Else the wait for the next race stands still.
+    virtual bool darf_warten() const = 0;
     /// Opens the race window on the next race.
     virtual void w_auto1_vorbei() = 0;
     /// Begins the warm-up, or the race. False if that cannot be yet: asked again a second later.

@@ -84,6 +84,7 @@ void wettkampf2::laden() {
     neuer_name.ansage(Label_neuer_name.text());
     opt_reihenfolge.gesetzt(false);
     felder_zeigen(feldgruppe::blick);
+    gezeigtes_rennen_ = 0;
     stand_zeigen();
     Command2.fokus_setzen();
 }
@@ -211,11 +212,13 @@ std::string wettkampf2::rennzeile(int rennen) const {
 
 void wettkampf2::liste_zeigen() {
     const wettkampf& w = abend_.stand();
+    const int vorher = w.aktuelles_rennen == gezeigtes_rennen_ ? List1.markiert() : -1;
+    gezeigtes_rennen_ = w.aktuelles_rennen;
     List1.leeren();
     for (int rennen = 1; rennen <= w.rennen_gesamt(); ++rennen) {
         List1.hinzufuegen(rennzeile(rennen));
     }
-    List1.markieren(w.aktuelles_rennen - 1);
+    List1.markieren(vorher < 0 ? w.aktuelles_rennen - 1 : vorher);
 }
 
 void wettkampf2::beste_zeigen() {
@@ -253,9 +256,16 @@ void wettkampf2::rennen_gewaehlt() {
     felder_zeigen(offen_);
 }
 
+bool wettkampf2::fragen(const std::string& text, const std::string& ueberschrift) {
+    fragt_ = true;
+    const bool ja = um_.meldungen.fragen(text, ueberschrift);
+    fragt_ = false;
+    return ja;
+}
+
 void wettkampf2::wiederholen() {
     const int rennen = gewaehltes();
-    if (um_.meldungen.fragen(wort_.wiederholen, wort_.wiederholen_titel)) {
+    if (fragen(wort_.wiederholen, wort_.wiederholen_titel)) {
         abend_.aendern([rennen](wettkampf& w) { return w.wiederholen(rennen); });
     }
 }
@@ -267,7 +277,7 @@ void wettkampf2::zurückstellen() {
 
 void wettkampf2::wettkampf_beenden() {
     const wettkampf& w = abend_.stand();
-    if (!w.ende_pruefen() && !um_.meldungen.fragen(wort_.ende_frage, titel.text())) {
+    if (!w.ende_pruefen() && !fragen(wort_.ende_frage, titel.text())) {
         return;
     }
     std::optional<std::vector<std::string>> qualifying;

@@ -115,6 +115,8 @@ private:
 
     void stand_zeigen() override;
     void wartezeit_zeigen() override;
+    bool beschaeftigt() const override { return offen_ != feldgruppe::blick || fragt_; }
+    bool fragen(const std::string& text, const std::string& ueberschrift);
     void befehle_verbinden();
     void felder_zeigen(feldgruppe welche);
 
@@ -152,6 +154,8 @@ private:
     std::vector<korrekturzeile> korrigierbar_;  ///< the rows of `rundenliste`
     std::vector<int> umbenennbar_;              ///< places of the rows of `aendernliste`
     feldgruppe offen_ = feldgruppe::blick;
+    int gezeigtes_rennen_ = 0;  ///< the current one when the list was drawn last
+    bool fragt_ = false;
 };
 
 }  // namespace tarvel

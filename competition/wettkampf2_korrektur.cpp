@@ -89,9 +89,6 @@ void wettkampf2::korrektur_uebernehmen() {
         }
         return runden != bisher.runden || meter_getippt;
     });
-    List1.markieren(rennen - 1);
-    befehle_zeigen();
-    korrektur_zeigen();
 }
 
 void wettkampf2::namen_zeigen() {

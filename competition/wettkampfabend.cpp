@@ -1,5 +1,6 @@
 #include "competition/wettkampfabend.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tarvel {
@@ -14,7 +15,9 @@ void wettkampfabend::beginnen(wettkampf neu) {
     stand_.zwischenstand_an = um_.einst.w_speichern;
     aktiv_ = true;
     automatik_an_ = false;
+    unterbrochen_ = false;
     renndauern_.clear();
+    ergebnis_da_ = false;
     start_ = 0;
     if (!stand_.ende_pruefen()) {
         stand_.naechstes_offenes_rennen();
@@ -27,7 +30,7 @@ void wettkampfabend::beenden() {
     automat_.aus();
     automatik_an_ = false;
     aktiv_ = false;
-    um_.ablage.laufenden_vergessen();
+    um_.ablage.laufenden_weglegen(stand_.ende_pruefen() && !nicht_gesichert_);
     zeigen();
 }
 
@@ -43,6 +46,7 @@ bool wettkampfabend::rennen_starten() {
     von_selbst_ = false;
     unterbrochen_ = false;
     um_.teil_von.wechseln(*this);
+    um_.strecke.bahnstrom_von_hand(true);
     um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
     zeigen();
     am_start_warten();
@@ -96,17 +100,19 @@ std::string wettkampfabend::naechste_fahrer() const {
 void wettkampfabend::begonnen() {
     automat_.aus();
     teil_gebucht_ = false;
-    if (start_ != 0 && !renndauern_.empty()) {
+    if (ergebnis_da_) {
         renndauern_.back() = um_.uhr.jetzt() - start_;
     }
-    start_ = um_.uhr.jetzt();
+    if (ergebnis_da_ || start_ == 0) {  // else the same race once more, which is part of its time
+        start_ = um_.uhr.jetzt();
+        ergebnis_da_ = false;
+    }
 }
 
 void wettkampfabend::abgebrochen() {
     automat_.aus();
     automatik_an_ = false;
     unterbrochen_ = true;
-    start_ = 0;
     gesichert(sichern());
     zeigen();
 }
@@ -121,7 +127,7 @@ selbstlauf wettkampfabend::danach() const {
 }
 
 void wettkampfabend::buchen(const rennergebnis& ergebnis) {
-    if (!teil_gebucht_) {
+    if (!teil_gebucht_ && stand_.aktuelles_rennen == uebergabe_.rennen) {
         stand_.ergebnis_eintragen(fahrten_aus(ergebnis, stand_.gebucht(ab_teil_)));
     }
 }
@@ -154,9 +160,8 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
 void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     const int rennen = uebergabe_.rennen;
     buchen(ergebnis);
-    if (start_ != 0) {
-        renndauern_.push_back(um_.uhr.jetzt() - start_);
-    }
+    renndauern_.push_back(um_.uhr.jetzt() - start_);
+    ergebnis_da_ = true;
     stand_.naechstes_offenes_rennen();
     bool alles = um_.ablage.rennen_sichern(stand_, rennen, ergebnis);
     alles = sichern() && alles;
@@ -187,13 +192,21 @@ void wettkampfabend::einfahren_beendet() {
     }
 }
 
+bool wettkampfabend::darf_warten() const {
+    const auto offen = [this](fenstername fenster) { return um_.fenster.ist_offen(fenster); };
+    return !offen(fenstername::einstellungen) && !offen(fenstername::rundenspeichern) &&
+           std::none_of(ansichten_.begin(), ansichten_.end(),
+                        [](const abendansicht* ansicht) { return ansicht->beschaeftigt(); });
+}
+
 bool wettkampfabend::w_auto2_vorbei() {
+    const bool frei = um_.bahn.Command6.bedienbar();  // else a device is being set up
     um_.bahn.Command6.klicken();
-    return true;
+    return frei;
 }
 
 bool wettkampfabend::w_auto3_vorbei() {
-    if (messgeraet_da && !messgeraet_da()) {
+    if (!um_.strecke.messgeraet_da() || !um_.bahn.Command1.bedienbar()) {
         return false;  // nobody is there to answer the question whether to start all the same
     }
     um_.bahn.Command1.klicken();
@@ -202,6 +215,10 @@ bool wettkampfabend::w_auto3_vorbei() {
 
 void wettkampfabend::automatik_umschalten() {
     um_.einst.w_autom = !um_.einst.w_autom;
+    einstellungen_geaendert();
+}
+
+void wettkampfabend::einstellungen_geaendert() {
     if (!um_.einst.w_autom) {
         automat_.aus();
         automatik_an_ = false;

@@ -22,8 +22,8 @@ class wettkampfablage : public schnittstelle {
 public:
     /// What the program needs to take up the evening after its end, whenever that comes.
     virtual bool laufenden_sichern(const wettkampf& stand) = 0;
-    /// The evening has been ended: there is nothing to take up.
-    virtual void laufenden_vergessen() = 0;
+    /// The evening has been ended: there is nothing to take up. One that is not `fertig` stays where it can be loaded.
+    virtual void laufenden_weglegen(bool fertig) = 0;
     /// A dated file of the state, if the settings want it.
     virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;
     /// The race's own file, likewise.
@@ -39,6 +39,17 @@ class abendansicht : public schnittstelle {
 public:
     virtual void stand_zeigen() = 0;
     virtual void wartezeit_zeigen() {}
+    /// The director is about something in it, and no race may begin by itself meanwhile.
+    virtual bool beschaeftigt() const { return false; }
+};
+
+/// The track on which the evening is driven.
+class bahnumfeld : public schnittstelle {
+public:
+    /// The timing device that is chosen can be heard, or none is.
+    virtual bool messgeraet_da() const = 0;
+    /// The track power, which the director may have switched off to place the cars.
+    virtual void bahnstrom_von_hand(bool an) = 0;
 };
 
 /// An evening of many races: hands each race its drivers and lanes, takes its result, goes on to the next one, by
@@ -52,6 +63,7 @@ public:
         bahn1& bahn;
         fensterregister& fenster;
         wettkampfablage& ablage;
+        bahnumfeld& strecke;
         plattform::zeitgeber_dienst& zeitgeber;
         const plattform::uhr& uhr;
     };
@@ -60,9 +72,6 @@ public:
 
     /// Told whenever something has changed.
     void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
-    /// The automatic flow starts no race while this is false. May be empty.
-    std::function<bool()> messgeraet_da;
-
     const wettkampf& stand() const { return stand_; }
     bool wettkampf_aktiv() const { return aktiv_; }
     abendblick blick() const { return abend_blicken(stand_, renndauern_); }
@@ -77,6 +86,8 @@ public:
     bool aendern(const std::function<bool(wettkampf&)>& was);
 
     void automatik_umschalten();
+    /// The options have been changed.
+    void einstellungen_geaendert();
     /// The next race comes by itself.
     bool automatik_an() const { return automatik_an_; }
     /// A race has been broken off since it was last started.
@@ -109,6 +120,7 @@ public:
     fenstername zurueck() const override { return fenstername::wettkampf2; }
 
 private:
+    bool darf_warten() const override;
     void w_auto1_vorbei() override { rennen_starten(); }
     bool w_auto2_vorbei() override;
     bool w_auto3_vorbei() override;
@@ -143,7 +155,8 @@ private:
     bool unterbrochen_ = false;
     bool nicht_gesichert_ = false;
     std::vector<zeit_ms> renndauern_;  ///< from one start to the next
-    zeit_ms start_ = 0;                ///< of the last race that was started
+    zeit_ms start_ = 0;                ///< first one of the race that was started last, 0 for none
+    bool ergebnis_da_ = false;         ///< and it has its result
 };
 
 }  // namespace tarvel

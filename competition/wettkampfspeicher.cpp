@@ -37,8 +37,18 @@ bool wettkampfspeicher::laufenden_sichern(const wettkampf& stand) {
     return stand_schreiben(std::string(laufender_wettkampf), stand);
 }
 
-void wettkampfspeicher::laufenden_vergessen() {
-    um_.ablage.loeschen(laufender_wettkampf);
+void wettkampfspeicher::laufenden_weglegen(bool fertig) {
+    if (fertig) {
+        um_.ablage.loeschen(laufender_wettkampf);
+    } else {
+        laufenden_aufheben();
+    }
+}
+
+std::string wettkampfspeicher::laufenden_aufheben() {
+    const std::string neu = freier_pfad(ordner + "nicht beendet " + ergebnis_stempel(um_.kalender.jetzt()), ".wtk");
+    um_.ablage.umbenennen(laufender_wettkampf, neu);
+    return neu;
 }
 
 bool wettkampfspeicher::zwischenstand_sichern(const wettkampf& stand) {

@@ -26,12 +26,14 @@ public:
     explicit wettkampfspeicher(const umgebung& um) : um_(um) {}
 
     bool laufenden_sichern(const wettkampf& stand) override;
-    void laufenden_vergessen() override;
+    void laufenden_weglegen(bool fertig) override;
     bool zwischenstand_sichern(const wettkampf& stand) override;
     bool rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) override;
     bool tabelle_sichern(const wettkampf& stand) override;
     void fehler_melden() override { um_.fenster.schreibfehler_melden(); }
 
+    /// Where an evening lies that was not ended, or that cannot be read.
+    std::string laufenden_aufheben();
     /// Open the window in which a file is chosen. The competition must outlive it.
     void stand_speichern_unter(const wettkampf& stand);
     void tabelle_speichern_unter(const wettkampf& stand);

@@ -259,7 +259,11 @@ bool form1::uebergeben(rennumfang umfang) {
     }
     unlesbares_ersetzen();
     renneinrichtung& e = gelesen();
-    e.werte_pruefen();
+    if (umfang == rennumfang::wettkampf) {
+        e.vor_dem_speichern_pruefen();  // its files hold the set-up too
+    } else {
+        e.werte_pruefen();
+    }
     const einrichtungsfehler fehler = rennen_uebergeben(e, um_.einst, umfang, um_.param);
     zahlen_zeigen();
     if (fehler == einrichtungsfehler::dauer) {

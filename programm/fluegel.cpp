@@ -60,10 +60,10 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
 wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o,
                                    einstellungsfolgen& folgen, wettkampfumfeld& umfeld)
     : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
-      wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher,
+      wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher, umfeld,
                       p.dienste.zeitgeber, p.dienste.uhr}),
-      wettkampfablauf({p.datei, p.einst, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender,
-                       p.form1, folgen, umfeld, wettkampfabend, wettkampfspeicher}),
+      wettkampfablauf({p.datei, p.einst, p.einrichtung, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen,
+                       p.dienste.kalender, p.form1, folgen, umfeld, wettkampfabend, wettkampfspeicher}),
       wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, o.fahrerspeichernfenster,
                   o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
       wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf),

@@ -102,7 +102,10 @@ void programm::hauptfenster_verbinden() {
         form1.vor_dem_speichern_pruefen();  // its fields are saved with the options
         einstellungsfenster.oeffnen(f::seite_wettkampf);
     };
-    wettkampfabend.messgeraet_da = [this] { return !geraete.getrennt(); };
+}
+
+bool programm::messgeraet_da() const {
+    return !geraete.getrennt();
 }
 
 void programm::fahrerverwaltung_oeffnen() {
@@ -155,6 +158,9 @@ void programm::optionen_geschlossen() {
     form1.bilder_anzeigen();
     if (fenster.ist_offen(fenstername::wettkampf1)) {
         wettkampf1.optionen_geschlossen();
+    }
+    if (wettkampfabend.wettkampf_aktiv()) {
+        wettkampfabend.einstellungen_geaendert();
     }
 }
 

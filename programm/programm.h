@@ -142,6 +142,7 @@ private:
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
     void bahnstrom_von_hand(bool an) override;
+    bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.

@@ -3,16 +3,8 @@
 #include <utility>
 
 #include "core/zeit.h"
-#include "results/ergebnisdatei.h"
 
 namespace tarvel {
-namespace {
-
-// What stays when an evening that was cut off is not to go on: it can be loaded like any other.
-constexpr std::string_view abgelegt = "Ergebnisse\\Wettkampf\\nicht beendet ";
-
-}  // namespace
-
 void wettkampfablauf::beginnen(const wettkampfvorgabe& vorgabe) {
     auto neu = wettkampf_beginnen(vorgabe.plan, vorgabe.fahrer, vorgabe.titel, um_.txt);
     if (!neu) {
@@ -59,23 +51,27 @@ void wettkampfablauf::laden() {
 }
 
 bool wettkampfablauf::laden(const std::string& pfad, einstellungen_aus_datei wie) {
-    auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, wie, version_melden::nein);
-    if (!gelesen) {
+    auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
+                                   version_melden::nein);
+    if (!gelesen || !rennen_der_datei_uebergeben(*gelesen)) {
         return false;
     }
-    rennen_der_datei_uebergeben(*gelesen);
     if (wie == einstellungen_aus_datei::uebernehmen) {
+        um_.datei.einstellungen_uebernehmen(std::nullopt);
         um_.folgen.einstellungen_geladen(true);
     }
+    um_.einrichtung = um_.datei.einrichtung();  // its files are written from what the main window shows
+    um_.haupt.einrichtung_zeigen();
     eroeffnen(std::move(*gelesen));
     return true;
 }
 
-void wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
+bool wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
     renneinrichtung einrichtung = um_.datei.einrichtung();
-    einrichtung.werte_pruefen();
-    rennen_uebergeben(einrichtung, um_.einst, rennumfang::wettkampf, um_.param);
-    renn_parameter& param = um_.param;
+    renn_parameter param = um_.param;
+    if (rennen_uebergeben(einrichtung, um_.einst, rennumfang::wettkampf, param) != einrichtungsfehler::keiner) {
+        return false;
+    }
     if (gelesen.rennlaenge > 0) {
         param.renn_laenge = gelesen.rennlaenge;
     } else if (param.ist_zeitrennen()) {
@@ -83,6 +79,8 @@ void wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
         param.renn_laenge = param.renndauer_ms;
     }
     param.einrichtung_wiederherstellen();
+    um_.param = param;
+    return true;
 }
 
 void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::string>>& qualifying) {
@@ -108,12 +106,15 @@ void wettkampfablauf::unterbrochenen_anbieten() {
         gelesen && um_.meldungen.fragen(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
                                             gelesen->beginn + " " + wort.nicht_beendet,
                                         um_.txt.titel[0]);
-    if (!fortsetzen) {
-        const plattform::datum_uhrzeit jetzt = um_.kalender.jetzt();
-        um_.ablage.umbenennen(pfad, std::string(abgelegt) + ergebnis_stempel(jetzt) + ".wtk");
+    const auto wie = um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
+    const bool gut = gelesen && (!fortsetzen || laden(pfad, wie));
+    if (gut && fortsetzen) {
         return;
     }
-    laden(pfad, um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen);
+    const std::string hier = um_.speicher.laufenden_aufheben();
+    if (!gut) {
+        um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + hier, um_.txt.titel[1]);
+    }
 }
 
 }  // namespace tarvel

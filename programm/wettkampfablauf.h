@@ -22,6 +22,7 @@ public:
     struct umgebung {
         einstellungsdatei& datei;
         einstellungen& einst;
+        renneinrichtung& einrichtung;
         renn_parameter& param;
         const texte& txt;
         const dateien& ablage;
@@ -51,8 +52,8 @@ public:
 
 private:
     bool laden(const std::string& pfad, einstellungen_aus_datei wie);
-    /// Hands the race over as the file last read has it set up.
-    void rennen_der_datei_uebergeben(const wettkampf& gelesen);
+    /// Hands the race over as the file last read has it set up. False, and nothing, if nobody can drive that.
+    bool rennen_der_datei_uebergeben(const wettkampf& gelesen);
     void eroeffnen(wettkampf neu);
 
     umgebung um_;

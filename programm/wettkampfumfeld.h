@@ -1,14 +1,13 @@
 #pragma once
 
-#include "platform/schnittstelle.h"
+#include "competition/wettkampfabend.h"
 
 namespace tarvel {
 
 /// What a competition needs of the program around it.
-class wettkampfumfeld : public schnittstelle {
+class wettkampfumfeld : public bahnumfeld {
 public:
     virtual void fahrerverwaltung_oeffnen() = 0;
-    virtual void bahnstrom_von_hand(bool an) = 0;
 };
 
 }  // namespace tarvel

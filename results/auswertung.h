@@ -190,6 +190,8 @@ private:
     }
     void wechselschema_anwenden();
     zeit_ms ziel_max() const { return um_.teil_von->fortsetzbar_bis().value_or(0); }
+    /// Of the next part, as long as the first.
+    zeit_ms naechstes_ziel() const;
     bool ziel_lesen(zeit_ms& ziel) const;
     /// The same with its messages.
     bool ziel_pruefen(zeit_ms& ziel);

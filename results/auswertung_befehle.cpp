@@ -256,7 +256,19 @@ void auswertung::ziel_vorschlagen() {
     ziel_einheit.text(zeitrennen ? wort_.minuten : wort_.runden);
 }
 
+zeit_ms auswertung::naechstes_ziel() const {
+    zeit_ms gefahren = um_.ist_zeitrennen() ? r_.fortsetzung.gefahren() : 0;
+    for (const rennergebnis::spur& s : ergebnis().spuren) {
+        gefahren = um_.ist_zeitrennen() ? gefahren : std::max<zeit_ms>(gefahren, s.rundenzahl());
+    }
+    return std::min(gefahren, um_.param.renn_ziel) + um_.param.renn_laenge;
+}
+
 bool auswertung::ziel_lesen(zeit_ms& ziel) const {
+    if (weg_hinaus() == aktion::fortsetzen) {
+        ziel = naechstes_ziel();
+        return true;
+    }
     if (um_.ist_zeitrennen()) {
         ziel = renndauer_lesen(neues_ziel.text()).in_ms();
         return ziel > r_.fortsetzung.gefahren();

@@ -216,6 +216,37 @@ TEST_F(Wettkampfabend, CentermodeLaeuftAuchVonSelbst) {
     EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
 }
 
+TEST_F(Wettkampfabend, EinVorzeitigBeendeterTeilMachtDenNaechstenNichtLaenger) {
+    beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(1);
+    t.bahn().Command4.klicken();
+    t.p.auswertung.Command5.klicken();
+    EXPECT_EQ(t.p.param.renn_ziel, 1 + 3);
+}
+
+TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 5s;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.maschine.laufen(4000);
+    runden_fahren(3);
+    t.maschine.laufen(8000);
+    ASSERT_TRUE(abend.wartet_auf_rennen());
+    t.p.wettkampf2.Command14.klicken();  // a name is being corrected
+    t.maschine.laufen(60000);
+    EXPECT_FALSE(offen(fenstername::bahn1));
+    t.p.wettkampf2.Command_namen_fertig.klicken();
+    t.p.wettkampf2.Command12.klicken();  // no power while the cars are placed
+    EXPECT_FALSE(strom(1));
+    t.maschine.laufen(6000);
+    EXPECT_TRUE(offen(fenstername::bahn1));
+    EXPECT_TRUE(strom(1));
+}
+
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
     ASSERT_TRUE(abend.rennen_starten());
@@ -256,6 +287,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
         EXPECT_TRUE(neu.form1.inhalt.aktiviert());
         EXPECT_FALSE(neu.ablage.gibt_es(laufender_wettkampf));
+        EXPECT_EQ(neu.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
     }
     abend.aendern([](wettkampf&) { return true; });
     t.maschine.antwort = false;
@@ -263,7 +295,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     anderer.starten();
     EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
-    EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
+    EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
 }
 
 TEST_F(Wettkampfabend, VomHauptfensterDurchDenAbendUndZurueck) {
