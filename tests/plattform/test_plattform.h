@@ -56,7 +56,7 @@ public:
 
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
-    bool antwort = false;                    ///< to every question
+    bool antwort = false;  ///< to every question
     plattform::dreifache_antwort antwort_mit_ausweg = plattform::dreifache_antwort::abbrechen;
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::function<void()> waehrend_frage;    ///< and while a question is
