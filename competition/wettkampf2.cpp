@@ -131,6 +131,11 @@ void wettkampf2::blick_zeigen() {
             danach.push_back(name);
         }
     }
+    const std::vector<int> stand = fahrer_in_rangfolge(abend_.stand(), abend_.stand().wertung);
+    if (ende && !stand.empty()) {
+        danach.push_back(abend_.stand().name(stand.front()));
+    }
+    Label_danach.text(ende ? wort_.sieger : wort_.danach);
     Label_danach.sichtbar(!danach.empty());
     Label_danach_fahrer.text(aufgezaehlt(danach));
     Label_einsetzer.sichtbar(!ende);
@@ -153,7 +158,7 @@ void wettkampf2::spuren_zeigen(const abendblick& blick) {
     const renn_uebergabe dran = w.uebergabe();
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
-        const bool dabei = w.spur_aktiv[spur];
+        const bool dabei = w.spur_aktiv[spur] && blick.rennen != 0;
         listlabel[i].sichtbar(dabei);
         spurfarbe[i].sichtbar(dabei);
         Label_b[i].sichtbar(dabei);

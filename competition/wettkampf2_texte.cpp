@@ -24,7 +24,7 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("Ausgewähltes Rennen wiederholen?", wort_.wiederholen);
     texte.text("Alle gefahrenen Runden gehen verloren.", wort_.wiederholen_titel);
     texte.text("Der Wettkampf ist noch nicht beendet. Wirklich beenden?", wort_.ende_frage);
-    texte.text("Als Nächste an die Bahn:", Label_danach).text("Einsetzer:", Label_einsetzer);
+    texte.text("Als Nächste an die Bahn:", wort_.danach).text("Einsetzer:", Label_einsetzer);
     texte.text("Der Wettkampf dauert noch etwa", wort_.noch).text("Stunden", wort_.stunden);
     texte.text("Minuten", wort_.minuten).text("Nächstes Rennen in Sekunden:", wort_.wartezeit);
     texte.text("Teil", wort_.teil).text("niemand", wort_.niemand);
@@ -36,7 +36,7 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("So heißen nur freie Plätze: ", wort_.name_fueller);
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl);
     texte.text("Der Stand konnte nicht gespeichert werden.", Label_fehler).text("und", wort_.und);
-    texte.text("weitere", wort_.weitere);
+    texte.text("weitere", wort_.weitere).text("Gewonnen hat:", wort_.sieger);
     texte.tipp("Das markierte Rennen wird noch einmal gefahren; seine Runden gehen verloren", Command8);
     texte.tipp("Das markierte Rennen wird gefahren, wenn alle anderen gefahren sind", Command9);
     texte.tipp("Das Rennen, das in der Liste markiert wird, ist das nächste", opt_reihenfolge);

@@ -20,7 +20,7 @@ const std::set<m> verteilt{m::gruppen_verteilt, m::am_stueck_verteilt, m::schema
                            m::schema_gruppen_verteilt};
 const std::set<m> am_stueck{m::am_stueck, m::am_stueck_verteilt, m::schema_am_stueck, m::schema_am_stueck_verteilt};
 
-struct fahrt {
+struct planfahrt {
     int rennen;
     int spur;
 };
@@ -104,11 +104,11 @@ private:
     }
 
     void fahrten(int platz) {
-        const std::vector<fahrt>& f = seine_.at(static_cast<std::size_t>(platz));
+        const std::vector<planfahrt>& f = seine_.at(static_cast<std::size_t>(platz));
         const auto oft = v_.modus == m::jeder_gegen_jeden ? plaetze_ - 1 : 1;
         for (const int spur : alle_spuren) {
             const bool dort = v_.aktiv[spur] && v_.modus != m::einmal && !plan_.platz(platz).ist_fueller();
-            const auto auf = std::count_if(f.begin(), f.end(), [&](const fahrt& eine) { return eine.spur == spur; });
+            const auto auf = std::count_if(f.begin(), f.end(), [&](const planfahrt& eine) { return eine.spur == spur; });
             fordern(!dort || auf == oft, "every lane once");
         }
         fordern(v_.modus != m::einmal || f.size() == 1, "one race");
@@ -118,7 +118,7 @@ private:
     }
 
     /// What lies between two races of a driver.
-    void wechsel(const fahrt& von, const fahrt& nach) {
+    void wechsel(const planfahrt& von, const planfahrt& nach) {
         const int wartet = nach.rennen - von.rennen - 1;
         const auto [ziel, pause] = naechste(von.spur);
         if (v_.modus != m::rotation && v_.modus != m::jeder_gegen_jeden) {
@@ -148,7 +148,7 @@ private:
     int plaetze_;  ///< with fillers
     bool am_stueck_;
     bool gruppen_;
-    std::array<std::vector<fahrt>, 101> seine_;
+    std::array<std::vector<planfahrt>, 101> seine_;
     std::string fehler_;
 };
 
