@@ -59,7 +59,7 @@ void werte_pruefen(programm& p) {
     const einstellungen& einst = p.einst;
     constexpr int ereignis_max = 59;
     for (const grenze& g : grenzen()) {
-        fordern_zwischen(std::array{g.zahl({p.einst, p.form1, p.txt})}, g.min, g.max, g.name);
+        fordern_zwischen(std::array{g.zahl({p.einst, p.einrichtung, p.txt})}, g.min, g.max, g.name);
     }
     fordern_zwischen(einst.lpt.lpt_eingang, 0, ereignis_max, "lpt_eingang");
     fordern_zwischen(einst.lpt.lpt_ausgang, 0, ereignis_max, "lpt_ausgang");
