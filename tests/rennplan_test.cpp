@@ -108,7 +108,8 @@ private:
         const auto oft = v_.modus == m::jeder_gegen_jeden ? plaetze_ - 1 : 1;
         for (const int spur : alle_spuren) {
             const bool dort = v_.aktiv[spur] && v_.modus != m::einmal && !plan_.platz(platz).ist_fueller();
-            const auto auf = std::count_if(f.begin(), f.end(), [&](const planfahrt& eine) { return eine.spur == spur; });
+            const auto auf =
+                std::count_if(f.begin(), f.end(), [&](const planfahrt& eine) { return eine.spur == spur; });
             fordern(!dort || auf == oft, "every lane once");
         }
         fordern(v_.modus != m::einmal || f.size() == 1, "one race");
