@@ -15,6 +15,12 @@ constexpr std::string_view zwischen_namen = "   ";
 constexpr std::size_t namen_max = 8;  // more of them nobody reads from the track
 constexpr std::string_view keine_beste = "99 : 99 , 999";
 
+bool in_gruppen(wettkampf_modus modus) {
+    using m = wettkampf_modus;
+    return modus != m::rotation && modus != m::jeder_gegen_jeden && modus != m::schema_rotation &&
+           modus != m::schema_gleichmaessig;
+}
+
 std::string aufgefuellt(std::string_view name) {
     std::string spalte(links(name, namensbreite));
     spalte.append(namensbreite - laenge(spalte), ' ');
@@ -78,6 +84,7 @@ void wettkampf2::laden() {
         anz_meter[i].ansage(Label_meter.text() + ", " + listlabel[i].text());
         spurfarbe[i].hintergrund(einst_.farben_spur[spur]);
     }
+    Label_liste.text(in_gruppen(abend_.stand().modus) ? wort_.gruppenliste : wort_.liste);
     List1.ansage(Label_liste.text());
     rundenliste.ansage(Label_rundenwahl.text());
     aendernliste.ansage(Label_namenwahl.text());

@@ -108,7 +108,8 @@ private:
     };
     struct worte {
         std::string titel, spur, rennen, von, noch, stunden, minuten, wartezeit, ende, zeit_unbekannt;
-        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, danach, sieger;
+        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, danach, sieger,
+            liste, gruppenliste;
         std::string wiederholen, wiederholen_titel, ende_frage;
         std::string name_leer, name_vergeben, name_fueller, keine_zahl;
     };

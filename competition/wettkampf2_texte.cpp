@@ -28,7 +28,8 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("Der Wettkampf dauert noch etwa", wort_.noch).text("Stunden", wort_.stunden);
     texte.text("Minuten", wort_.minuten).text("Nächstes Rennen in Sekunden:", wort_.wartezeit);
     texte.text("Teil", wort_.teil).text("niemand", wort_.niemand);
-    texte.text("Runden und Meter ändern", Frame_runden).text("Abend", Frame_blick).text("Rennen", Label_liste);
+    texte.text("Runden und Meter ändern", Frame_runden).text("Abend", Frame_blick).text("Rennen", wort_.liste);
+    texte.text("Gruppenmodus, folgende Gruppenreihenfolge:", wort_.gruppenliste);
     texte.text("Übernehmen", Command_uebernehmen).text("fertig", Command_runden_fertig);
     texte.text("Umbenennen", Command_umbenennen).text("fertig", Command_namen_fertig);
     texte.text("Bitte einen Namen eingeben.", wort_.name_leer);

@@ -19,7 +19,8 @@ std::string wettkampfspeicher::stamm(const wettkampf& stand) const {
 std::string wettkampfspeicher::freier_pfad(const std::string& anfang, const std::string& endung) const {
     std::string pfad = anfang + endung;
     for (int nummer = 2; um_.ablage.gibt_es(pfad); ++nummer) {
-        pfad = anfang + "-" + std::to_string(nummer) + endung;
+        pfad = anfang + "-";
+        pfad += std::to_string(nummer) + endung;
     }
     return pfad;
 }
@@ -46,7 +47,7 @@ void wettkampfspeicher::laufenden_weglegen(bool fertig) {
 }
 
 std::string wettkampfspeicher::laufenden_aufheben() {
-    const std::string neu = freier_pfad(ordner + "nicht beendet " + ergebnis_stempel(um_.kalender.jetzt()), ".wtk");
+    std::string neu = freier_pfad(ordner + "nicht beendet " + ergebnis_stempel(um_.kalender.jetzt()), ".wtk");
     um_.ablage.umbenennen(laufender_wettkampf, neu);
     return neu;
 }

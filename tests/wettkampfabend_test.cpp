@@ -3,6 +3,7 @@
 #include "competition/rangfolge.h"
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
+#include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
 #include "tests/programm_probe.h"
@@ -27,9 +28,9 @@ protected:
             vorgabe.aktiv[spur] = true;
         }
         vorgabe.centermode = centermode;
-        std::vector<std::string> namen;
-        for (int i = 0; i < fahrer; ++i) {
-            namen.push_back("Fahrer " + std::string(1, static_cast<char>('A' + i)));
+        std::vector<std::string> namen(static_cast<std::size_t>(fahrer), "Fahrer ");
+        for (std::size_t i = 0; i < namen.size(); ++i) {
+            namen[i] += static_cast<char>('A' + i);
         }
         auto neu = wettkampf_beginnen(vorgabe, namen, "Vereinsabend", t.p.txt);
         ASSERT_TRUE(neu);
@@ -296,6 +297,56 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
     EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
+}
+
+TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
+    using m = wettkampf_modus;
+    for (const m modus : {m::rotation, m::am_stueck, m::jeder_gegen_jeden, m::schema_gruppen_verteilt, m::einmal}) {
+        const bool geteilt = modus == m::am_stueck;
+        std::vector<wettkampf> ende;
+        for (const bool neu_laden : {false, true}) {
+            beginnen(modus, 3, {2, 5}, geteilt);
+            while (!abend.stand().ende_pruefen()) {
+                ASSERT_TRUE(abend.rennen_starten());
+                t.bahn().Command1.klicken();
+                runden_fahren(3);
+                t.p.auswertung.Command5.klicken();
+                if (geteilt && !neu_laden) {
+                    gruen();
+                    t.maschine.laufen(500);
+                    runden_fahren(2);
+                    t.p.auswertung.Command5.klicken();
+                } else if (geteilt) {
+                    t.p.k_ampel.Command1.klicken();
+                    t.p.rennen.befehle.rennen_abbrechen();  // the rest is driven after the program's end
+                }
+                if (neu_laden) {
+                    auto gelesen = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt,
+                                                   einstellungen_aus_datei::lassen, version_melden::nein);
+                    ASSERT_TRUE(gelesen);
+                    EXPECT_EQ(*gelesen, abend.stand());
+                    abend.beginnen(std::move(*gelesen));
+                }
+                if (geteilt && neu_laden && !abend.stand().ende_pruefen()) {
+                    EXPECT_EQ(abend.stand().uebergabe().teil, 2);
+                    rennen_fahren();
+                }
+            }
+            ende.push_back(abend.stand());
+        }
+        const auto stand = [](const wettkampf& w) {
+            std::vector<int> runden;
+            for (const fahrer_stand& einer : w.staende()) {
+                runden.insert(runden.end(), {einer.fahrer_runden(0), einer.fahrer_runden(2), einer.fahrer_runden(5)});
+            }
+            return runden;
+        };
+        EXPECT_EQ(stand(ende[0]), stand(ende[1])) << static_cast<int>(modus);
+        if (!geteilt) {
+            EXPECT_EQ(tabelle_schreiben(ende[0], {}, t.p.einst.trennzeichen),
+                      tabelle_schreiben(ende[1], {}, t.p.einst.trennzeichen));
+        }
+    }
 }
 
 TEST_F(Wettkampfabend, VomHauptfensterDurchDenAbendUndZurueck) {
