@@ -76,7 +76,7 @@ bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
 }
 
 starter wettkampfabend::wer_startet() const {
-    if (von_selbst_) {
+    if (von_selbst_ && um_.strecke.messgeraet_da()) {
         return starter::ablauf;
     }
     return mit_einfahrzeit() ? starter::einfahrzeit : starter::bediener;
@@ -194,7 +194,8 @@ void wettkampfabend::einfahren_beendet() {
 
 bool wettkampfabend::darf_warten() const {
     const auto offen = [this](fenstername fenster) { return um_.fenster.ist_offen(fenster); };
-    return !offen(fenstername::einstellungen) && !offen(fenstername::rundenspeichern) &&
+    // a race window without its device asks, and nobody may be there
+    return um_.strecke.messgeraet_da() && !offen(fenstername::einstellungen) && !offen(fenstername::rundenspeichern) &&
            std::none_of(ansichten_.begin(), ansichten_.end(),
                         [](const abendansicht* ansicht) { return ansicht->beschaeftigt(); });
 }
