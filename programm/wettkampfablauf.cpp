@@ -59,6 +59,7 @@ bool wettkampfablauf::laden(const std::string& pfad, einstellungen_aus_datei wie
     if (wie == einstellungen_aus_datei::uebernehmen) {
         um_.datei.einstellungen_uebernehmen(std::nullopt);
         um_.folgen.einstellungen_geladen(true);
+        rennen_der_datei_uebergeben(*gelesen);  // lent lanes and the way of judging are those of the file now
     }
     um_.einrichtung = um_.datei.einrichtung();  // its files are written from what the main window shows
     um_.haupt.einrichtung_zeigen();
