@@ -8,8 +8,11 @@
 
 namespace tarvel::ui {
 
-Rundendiagramm::Rundendiagramm(QWidget* eltern) : QChartView(eltern), bild_(new Rundenbild) {
-    setChart(bild_);
+// the view takes it along: one made without a chart makes its own, which setChart() would leave behind
+Rundendiagramm::Rundendiagramm(QWidget* eltern) : Rundendiagramm(new Rundenbild, eltern) {
+}
+
+Rundendiagramm::Rundendiagramm(Rundenbild* bild, QWidget* eltern) : QChartView(bild, eltern), bild_(bild) {
     setRenderHint(QPainter::Antialiasing);
     setFocusPolicy(Qt::NoFocus);  // there is nothing to operate
     setFrameShape(QFrame::NoFrame);

@@ -22,6 +22,8 @@ protected:
     bool viewportEvent(QEvent* ereignis) override;
 
 private:
+    Rundendiagramm(Rundenbild* bild, QWidget* eltern);
+
     Rundenbild* bild_;  ///< belongs to the view
 };
 
