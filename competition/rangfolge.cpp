@@ -76,10 +76,6 @@ std::vector<int> sortiert(std::span<const fahrer_stand> staende, const schluesse
     return liste;
 }
 
-std::string aufgefuellt(std::string_view text, std::size_t breite) {
-    return std::string(text) + std::string(breite - std::min(breite, laenge(text)), ' ');
-}
-
 std::string meter_text(zentimeter wert) {
     return zahl_fest(als_meter(wert), ',');
 }

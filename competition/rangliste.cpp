@@ -74,8 +74,7 @@ void rangliste::ordnung_gewaehlt() {
 std::string rangliste::kopfzeile() const {
     std::string kopf;
     const auto spalte = [&kopf](const std::string& wort, std::size_t breite) {
-        const std::string_view passend = links(wort, breite - 1);
-        kopf += std::string(passend) + std::string(breite - laenge(passend), ' ');
+        kopf += aufgefuellt(links(wort, breite - 1), breite);
     };
     spalte(wort_.nummer, 4);
     spalte(wort_.name, 18);

@@ -27,6 +27,7 @@ namespace tarvel {
     F(beste_zeiten_fenster)   \
     F(cu_eigenschaften)       \
     F(Tastaturbelegung)       \
+    F(Tagesrennen)            \
     F(fahrerbild_laden)       \
     F(UART_einstellungen)     \
     F(UART_Profildatei)       \

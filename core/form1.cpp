@@ -63,6 +63,7 @@ void form1::befehle_verbinden() {
     Command8.bei_klick = [this] { einstellungen_rufen(fahrer_oeffnen); };
     Command9.bei_klick = [this] { einstellungen_rufen(fahrzeuge_oeffnen); };
     weitergeben(command_cu, cu_oeffnen);
+    command17.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tagesrennen, anzeige_art::modal); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };
 }
 
@@ -274,8 +275,12 @@ bool form1::uebergeben(rennumfang umfang) {
     return fehler == einrichtungsfehler::keiner;
 }
 
+bool form1::einzelrennen_einrichten() {
+    return uebergeben(rennumfang::einzelrennen) && fahrer_einmalig();
+}
+
 void form1::Command1_Click() {
-    if (uebergeben(rennumfang::einzelrennen) && fahrer_einmalig() && einzelrennen_beginnen) {
+    if (einzelrennen_einrichten() && einzelrennen_beginnen) {
         einzelrennen_beginnen();
     }
 }

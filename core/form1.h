@@ -90,6 +90,7 @@ public:
     befehl Command5;          ///< save the settings
     befehl Command6;          ///< track power on
     befehl Command7;          ///< load settings
+    befehl command17;         ///< day race
     befehl Command8;          ///< options, page of the drivers
     befehl Command9;          ///< options, page of the vehicles
     befehl Command10;         ///< take over the pictures of the vehicles
@@ -172,7 +173,9 @@ public:
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.
     void vor_dem_speichern_pruefen();
-    /// Begins a single race: corrections, checks with their messages, hand-over, race window.
+    /// Corrections, checks with their messages and hand-over of a single race. False while it cannot begin.
+    bool einzelrennen_einrichten();
+    /// The same, and begins it.
     void Command1_Click();
     /// The same for a competition, whose drivers and lanes are told by its own windows.
     void Command3_Click();

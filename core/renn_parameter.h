@@ -24,6 +24,7 @@ struct renn_parameter {
     int spuren_anzahl_gemerkt = 0;  ///< both as the set-up had them: a continued race may leave lanes out
     spuren<bool> spur_aktiv_gemerkt;
     spuren<std::string> fahrer_name;
+    spuren<std::string> klasse;  ///< of the driver, one character; empty without classes
     spuren<std::string> fahrzeug_name;
     spuren<double> spurlaenge;            ///< metres
     spuren<std::string> spurlaenge_text;  ///< the same as typed

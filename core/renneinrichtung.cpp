@@ -41,6 +41,7 @@ void spuren_uebergeben(const renneinrichtung& einrichtung, const einstellungen& 
         param.spur_aktiv[nummer] = spur.dabei && !einst.spur_verliehen(nummer);
         param.spuren_anzahl += param.spur_aktiv[nummer] ? 1 : 0;
         param.fahrer_name[nummer] = spur.fahrer;
+        param.klasse[nummer].clear();
         param.fahrzeug_name[nummer] = spur.fahrzeug;
         param.spurlaenge[nummer] = zahl_lesen(spur.laenge);
         param.spurlaenge_text[nummer] = spur.laenge;

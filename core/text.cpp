@@ -92,6 +92,10 @@ std::string_view mitte(std::string_view text, std::size_t ab, std::size_t anzahl
     return links(text.substr(links(text, ab - 1).size()), anzahl);
 }
 
+std::string aufgefuellt(std::string_view text, std::size_t breite) {
+    return std::string(text) + std::string(breite - std::min(breite, laenge(text)), ' ');
+}
+
 std::string_view gekuerzt(std::string_view text) {
     const auto anfang = text.find_first_not_of(" \t");
     if (anfang == std::string_view::npos) {

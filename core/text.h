@@ -16,6 +16,9 @@ std::string_view rechts(std::string_view text, std::size_t anzahl);
 /// `anzahl` characters from the one with number `ab`, the first being 1.
 std::string_view mitte(std::string_view text, std::size_t ab, std::size_t anzahl);
 
+/// With blanks behind it up to `breite` characters; what is longer stays.
+std::string aufgefuellt(std::string_view text, std::size_t breite);
+
 /// Without blanks and tabs at both ends.
 std::string_view gekuerzt(std::string_view text);
 

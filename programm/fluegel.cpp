@@ -58,7 +58,7 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
                           {p.fahrerliste, p.fahrer_datei, p.fahrzeugliste, p.fahrzeug_datei}) {}
 
 wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o,
-                                   einstellungsfolgen& folgen, wettkampfumfeld& umfeld)
+                                   einstellungsfolgen& folgen, wettkampfumfeld& umfeld, tagesrennen_folgen& tagesfolgen)
     : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
       wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher, umfeld,
                       p.dienste.zeitgeber, p.dienste.uhr}),
@@ -68,7 +68,9 @@ wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel&
                   o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
       wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf),
       rangliste(fensterwelt(p), p.einst, wettkampfabend),
-      w_auswertung(fensterwelt(p), p.einst, wettkampfabend) {
+      w_auswertung(fensterwelt(p), p.einst, wettkampfabend),
+      tagesrennen_fenster(
+          {fensterwelt(p), p.einst, p.einrichtung, p.form1, p.fahrerliste, p.dienste.zeitgeber, tagesfolgen}) {
     wettkampfablauf.vorbereitung = &wettkampf1;
 }
 

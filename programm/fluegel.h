@@ -3,6 +3,7 @@
 #include "competition/intervalltraining.h"
 #include "competition/rangliste.h"
 #include "competition/tagesrennen.h"
+#include "competition/tagesrennen_fenster.h"
 #include "competition/w_auswertung.h"
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
@@ -65,7 +66,7 @@ struct optionsfluegel {
 
 struct wettkampffluegel {
     wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o, einstellungsfolgen& folgen,
-                     wettkampfumfeld& umfeld);
+                     wettkampfumfeld& umfeld, tagesrennen_folgen& tagesfolgen);
 
     tarvel::wettkampfspeicher wettkampfspeicher;
     tarvel::wettkampfabend wettkampfabend;
@@ -74,6 +75,7 @@ struct wettkampffluegel {
     tarvel::wettkampf2 wettkampf2;
     tarvel::rangliste rangliste;
     tarvel::w_auswertung w_auswertung;
+    tarvel::tagesrennen_fenster tagesrennen_fenster;
 };
 
 }  // namespace tarvel

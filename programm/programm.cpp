@@ -31,9 +31,9 @@ programm::programm(const plattform::dienste& d)
       ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
       optionen_(std::make_unique<optionsfluegel>(*this, static_cast<optionsfolgen&>(*this),
                                                  static_cast<bestzeitfolgen&>(*this))),
-      wettkampf_(std::make_unique<wettkampffluegel>(*this, *rennen_, *ergebnisse_, *optionen_,
-                                                    static_cast<einstellungsfolgen&>(*this),
-                                                    static_cast<wettkampfumfeld&>(*this))),
+      wettkampf_(std::make_unique<wettkampffluegel>(
+          *this, *rennen_, *ergebnisse_, *optionen_, static_cast<einstellungsfolgen&>(*this),
+          static_cast<wettkampfumfeld&>(*this), static_cast<tagesrennen_folgen&>(*this))),
       pflege_({datei,
                {einst, einrichtung, txt},
                form1,
@@ -70,6 +70,7 @@ programm::programm(const plattform::dienste& d)
       wettkampf2(wettkampf_->wettkampf2),
       rangliste(wettkampf_->rangliste),
       w_auswertung(wettkampf_->w_auswertung),
+      tagesrennen_fenster(wettkampf_->tagesrennen_fenster),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };
@@ -129,6 +130,16 @@ void programm::rennen_beginnen(veranstaltung& teil_von) {
     rennen.teil_von.wechseln(teil_von);
     fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
 }
+
+void programm::tagesrennen_beginnen(const tagesauftrag& auftrag) {
+    if (form1.einzelrennen_einrichten()) {
+        param.klasse = auftrag.klassen;
+        tagesrennen.datei = auftrag.datei;
+        rennen_beginnen(tagesrennen);
+    }
+}
+
+void programm::tagesergebnisse_zeigen(const std::string& /*datei*/) {}
 
 bool programm::einstellungen_speichern() {
     return pflege_.speichern();

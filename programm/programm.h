@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "competition/tagesrennen_folgen.h"
 #include "core/bestzeiten.h"
 #include "core/dateien.h"
 #include "core/einstellungen.h"
@@ -40,6 +41,7 @@ class rundenspeichern;
 class speichernfenster;
 class startampel;
 class tagesrennen;
+class tagesrennen_fenster;
 class tastaturbelegung;
 class update_form;
 class w_auswertung;
@@ -59,7 +61,8 @@ struct wettkampffluegel;
 class programm final : private einstellungsfolgen,
                        private optionsfolgen,
                        private bestzeitfolgen,
-                       private wettkampfumfeld {
+                       private wettkampfumfeld,
+                       private tagesrennen_folgen {
 public:
     explicit programm(const plattform::dienste& dienste);
     ~programm() override;
@@ -130,6 +133,7 @@ public:
     tarvel::wettkampf2& wettkampf2;
     tarvel::rangliste& rangliste;
     tarvel::w_auswertung& w_auswertung;
+    tarvel::tagesrennen_fenster& tagesrennen_fenster;
     messgeraete& geraete;
 
 private:
@@ -144,6 +148,8 @@ private:
     void bahnstrom_von_hand(bool an) override;
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;
+    void tagesrennen_beginnen(const tagesauftrag& auftrag) override;
+    void tagesergebnisse_zeigen(const std::string& datei) override;
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();

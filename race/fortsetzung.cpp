@@ -9,6 +9,7 @@ namespace tarvel {
 void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
     const spuren<spur_zustand> vorher = um_.zustand.spur;
     const auto namen = um_.param.fahrer_name;
+    const auto klassen = um_.param.klasse;
     const auto fahrzeuge = um_.param.fahrzeug_name;
     for (const int spur : alle_spuren) {
         const int von = herkunft[spur];
@@ -16,6 +17,7 @@ void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
             continue;
         }
         um_.param.fahrer_name[spur] = namen[von];
+        um_.param.klasse[spur] = klassen[von];
         if (um_.einst.fahrzeug_wechseln) {
             um_.param.fahrzeug_name[spur] = fahrzeuge[von];
         }

@@ -26,6 +26,7 @@ struct rennergebnis {
     struct spur {
         int nummer = 0;  ///< of the lane
         std::string fahrer;
+        std::string klasse;  ///< of the driver, one character; empty without classes
         std::string fahrzeug;
         std::string laenge;                                  ///< metres, as typed
         std::array<std::string, sektoren_max> sektorlaenge;  ///< metres, as typed; empty for sectors not measured

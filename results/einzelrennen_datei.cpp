@@ -14,8 +14,12 @@ namespace {
 /// One lane takes five fields of a line, so that a table program shows the lanes side by side.
 using feldblock = std::array<std::string, 5>;
 
-/// The class in front of a driver's name, with its separator; class "0" if he has none.
-std::pair<std::string, std::string> klasse_und_name(const std::string& fahrer, const std::string& trenner) {
+/// The class of a driver, or the one typed in front of his name, with its separator; class "0" if he has none.
+std::pair<std::string, std::string> klasse_und_name(const rennergebnis::spur& s, const std::string& trenner) {
+    const std::string& fahrer = s.fahrer;
+    if (!s.klasse.empty()) {
+        return {s.klasse + trenner, fahrer};
+    }
     const std::string_view klasse = links(fahrer, 1);
     const std::string_view rest = std::string_view(fahrer).substr(klasse.size());
     if (trenner.empty() || klasse == trenner || !rest.starts_with(trenner)) {
@@ -137,7 +141,7 @@ std::vector<std::string> einzelrennen_zeilen(const rennergebnis& ergebnis, const
 std::vector<std::string> tages_zeilen(const rennergebnis& ergebnis, const trennzeichen_tabelle& trennzeichen) {
     std::vector<std::string> zeilen;
     for (const rennergebnis::spur& s : ergebnis.spuren) {
-        const auto [klasse, name] = klasse_und_name(s.fahrer, trennzeichen[2]);
+        const auto [klasse, name] = klasse_und_name(s, trennzeichen[2]);
         std::string zeile = klasse + ohne_trenner(name, trennzeichen[2]);
         for (const std::string& feld :
              {zahl_mit_platz(s.rundenzahl()), zahl_fest(s.meter, '.'), zeit_formatieren(s.beste, true, trennzeichen),

@@ -17,16 +17,6 @@ constexpr std::size_t fusszeilen = 4;
 
 using felder = std::vector<std::string>;
 
-felder zerlegen(std::string_view zeile, std::string_view trenner) {
-    felder alle;
-    for (std::size_t ende = zeile.find(trenner); ende != std::string_view::npos; ende = zeile.find(trenner)) {
-        alle.emplace_back(zeile.substr(0, ende));
-        zeile.remove_prefix(ende + trenner.size());
-    }
-    alle.emplace_back(zeile);
-    return alle;
-}
-
 /// Two, two and three digits with a character between them: minutes, seconds, thousandths. Nothing else is a time.
 std::optional<zeit_ms> zeit_lesen(std::string_view text, trennzeichen_tabelle& trennzeichen) {
     const auto zahl = [](std::string_view ziffern) {

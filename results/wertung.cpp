@@ -90,6 +90,7 @@ rennergebnis::spur wertung::spur_bilden(int spur) const {
     rennergebnis::spur neu;
     neu.nummer = spur;
     neu.fahrer = um_.param.fahrer_name[spur];
+    neu.klasse = um_.param.klasse[spur];
     neu.fahrzeug = um_.param.fahrzeug_name[spur];
     neu.laenge = um_.param.spurlaenge_text[spur];
     for (std::size_t sektor = 1; sektor <= sektoren_max; ++sektor) {

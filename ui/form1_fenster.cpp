@@ -224,6 +224,9 @@ QWidget* Form1Fenster::rennbefehle() {
     QPushButton* wettkampf = hoher_knopf(logik_.Command3, "Command3");
     wettkampf->setMinimumWidth(140);
     aufbau->addWidget(wettkampf);
+    QPushButton* tagesrennen = hoher_knopf(logik_.command17, "command17");
+    tagesrennen->setMinimumWidth(130);
+    aufbau->addWidget(tagesrennen);
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
     aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));

@@ -19,6 +19,7 @@
 #include "ui/rangliste_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
+#include "ui/tagesrennen_fenster.h"
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
@@ -65,6 +66,7 @@ public:
     RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
     WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
+    TagesrennenFenster tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel}};

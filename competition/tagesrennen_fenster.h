@@ -1,0 +1,99 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "competition/tagesdatei.h"
+#include "competition/tagesrennen_folgen.h"
+#include "core/einstellungen.h"
+#include "core/fensterumgebung.h"
+#include "core/namensliste.h"
+#include "core/renneinrichtung.h"
+#include "core/steuerelemente.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// The window `Tagesrennen`: the file of the day, and who drives in its next race. Its arrays count the lanes from 0.
+class tagesrennen_fenster final : public fensterlogik {
+public:
+    struct umgebung {
+        fenster_umgebung welt;
+        const einstellungen& einst;
+        renneinrichtung& einrichtung;
+        einrichtungsansicht& hauptfenster;
+        const namensliste& fahrerliste;
+        plattform::zeitgeber_dienst& zeitgeber;
+        tagesrennen_folgen& folgen;
+    };
+
+    explicit tagesrennen_fenster(const umgebung& um);
+
+    rahmen Frame_datei;
+    bezeichnung Label17;
+    feld text_lf_datei;  ///< name of the day's file
+    bezeichnung Label18;
+    bezeichnung Label_lf_hinweis;  ///< its state
+
+    rahmen Frame_fahrer;
+    haken Check1;  ///< with classes
+    bezeichnung Label_fahrer;
+    bezeichnung Label_klasse;
+    std::array<form, spuren_max> spurfarbe;
+    std::array<bezeichnung, spuren_max> Label_spur;
+    std::array<auswahl, spuren_max> Text_fahrer;
+    std::array<auswahl, spuren_max> lstb_klasse;
+    std::array<bezeichnung, spuren_max> Label_bisher;  ///< what the driver has driven in the day's file
+
+    rahmen Frame_klassen;
+    std::array<feld, klassenzeilen> klassen_text;
+
+    rahmen Frame_liste;
+    bezeichnung Label_kopf;  ///< heads of the columns, each above its place in the lines
+    liste ergebnisse;        ///< of the day, the last race at the bottom
+
+    befehl Command18;  ///< begins the race
+    befehl Command1;   ///< looks at the day's file
+    befehl Command20;  ///< closes the window
+
+    std::vector<sprachliste> sprachdateien() override { return {sprache_lf()}; }
+    sprachliste sprache_lf();
+    void laden() override;
+    void entladen() override;
+
+private:
+    struct worte {
+        std::string pruefe, neu, angelegt, bereit, unbrauchbar, name_fehlt, klasse_fehlt, nicht_gesichert;
+        std::string klasse, name, runden, meter, beste, gesamtzeit, spur, bisher, rennen;
+        std::array<std::string, klassenzeilen> klassen_text;
+    };
+
+    std::string dateiname() const { return text_lf_datei.text(); }
+    bool faehrt(std::size_t i) const;
+    tagesparameter parameter() const;
+    void parameter_zeigen();
+    void parameter_sichern();
+    void spuren_zeigen();
+    void datei_geaendert();
+    void datei_pruefen();
+    void zeilen_zeigen();
+    /// What the day's file knows of the driver; his class is the one he had last.
+    void bisher_zeigen(std::size_t i);
+    void fahrer_geaendert(std::size_t i);
+    void klassen_geaendert();
+    void starten();
+    bool klassen_vollstaendig();
+    /// Makes the file if there is none yet.
+    bool datei_bereitstellen();
+    void ablehnen(const std::string& meldung, steuerelement& ort);
+
+    umgebung um_;
+    std::unique_ptr<plattform::zeitgeber> Timer1_;  ///< looks at the file once its name stands
+    std::vector<tageszeile> zeilen_;                ///< of the file that stands in the field
+    tagesparameter gesichert_;
+    worte wort_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,135 @@
+#include "ui/tagesrennen_fenster.h"
+
+#include <QCompleter>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int klassenbreite = 66;
+constexpr int listenbreite = 520;
+
+}  // namespace
+
+TagesrennenFenster::TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(8);
+    auto* mitte = new QHBoxLayout;
+    mitte->setSpacing(12);
+    auto* links = new QVBoxLayout;
+    links->setSpacing(8);
+    links->addWidget(dateigruppe());
+    links->addWidget(fahrergruppe(), 1);
+    links->addWidget(klassengruppe());
+    mitte->addLayout(links, 4);
+    mitte->addWidget(listengruppe(), 5);
+    aufbau->addLayout(mitte, 1);
+    aufbau->addLayout(fusszeile());
+    resize(1100, 690);
+}
+
+QWidget* TagesrennenFenster::dateigruppe() {
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_datei, "Frame_datei");
+    auto* aufbau = new QVBoxLayout(gruppe);
+    aufbau->setSpacing(4);
+    auto* zeile = new QHBoxLayout;
+    zeile->addWidget(binder().label(logik_.Label17, "Label17"));
+    zeile->addWidget(binder().zeile(logik_.text_lf_datei, "text_lf_datei"), 1);
+    zeile->addWidget(binder().label(logik_.Label18, "Label18"));
+    aufbau->addLayout(zeile);
+    aufbau->addWidget(stil::leise(binder().label(logik_.Label_lf_hinweis, "Label_lf_hinweis")));
+    return gruppe;
+}
+
+QWidget* TagesrennenFenster::fahrergruppe() {
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_fahrer, "Frame_fahrer");
+    auto* raster = new QGridLayout(gruppe);
+    raster->setHorizontalSpacing(8);
+    raster->setVerticalSpacing(2);
+    raster->addWidget(stil::leise(binder().label(logik_.Label_fahrer, "Label_fahrer")), 0, 2);
+    raster->addWidget(binder().kasten(logik_.Check1, "Check1"), 0, 3);
+    for (std::size_t i = 0; i < logik_.Text_fahrer.size(); ++i) {
+        spurzeile(raster, i);
+    }
+    raster->setColumnStretch(2, 1);
+    return gruppe;
+}
+
+void TagesrennenFenster::spurzeile(QGridLayout* raster, std::size_t i) {
+    const QString nummer = QString::number(i);
+    const int reihe = static_cast<int>(2 * i) + 1;  // below the driver what he has driven
+    auto* fleck = new QLabel(this);
+    fleck->setFixedSize(14, 26);
+    form& farbe = logik_.spurfarbe.at(i);
+    binder().verbinden(farbe, fleck, "spurfarbe_" + nummer,
+                       [&farbe, fleck] { stil::fleck_faerben(fleck, farbe.hintergrund().value_or(0)); });
+    raster->addWidget(fleck, reihe, 0);
+    raster->addWidget(binder().label(logik_.Label_spur.at(i), "Label_spur_" + nummer), reihe, 1);
+    QComboBox* fahrer = binder().auswahlfeld(logik_.Text_fahrer.at(i), "Text_fahrer_" + nummer);
+    auto* ergaenzung = new QCompleter(fahrer->model(), fahrer);
+    ergaenzung->setCaseSensitivity(Qt::CaseInsensitive);
+    fahrer->setCompleter(ergaenzung);
+    raster->addWidget(fahrer, reihe, 2);
+    QComboBox* klasse = binder().auswahlfeld(logik_.lstb_klasse.at(i), "lstb_klasse_" + nummer);
+    klasse->setFixedWidth(klassenbreite);
+    raster->addWidget(klasse, reihe, 3);
+    QLabel* bisher = stil::leise(binder().label(logik_.Label_bisher.at(i), "Label_bisher_" + nummer));
+    QSizePolicy haelt_platz = bisher->sizePolicy();
+    haelt_platz.setRetainSizeWhenHidden(true);
+    bisher->setSizePolicy(haelt_platz);
+    raster->addWidget(bisher, reihe + 1, 2, 1, 2);
+    setTabOrder(fahrer, klasse);
+}
+
+QWidget* TagesrennenFenster::klassengruppe() {
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_klassen, "Frame_klassen");
+    auto* aufbau = new QVBoxLayout(gruppe);
+    aufbau->setSpacing(2);
+    for (std::size_t i = 0; i < logik_.klassen_text.size(); ++i) {
+        aufbau->addWidget(binder().zeile(logik_.klassen_text.at(i), "klassen_text_" + QString::number(i)));
+    }
+    return gruppe;
+}
+
+QWidget* TagesrennenFenster::listengruppe() {
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_liste, "Frame_liste");
+    gruppe->setMinimumWidth(listenbreite);
+    auto* aufbau = new QVBoxLayout(gruppe);
+    aufbau->setSpacing(2);
+    QLabel* kopf = binder().label(logik_.Label_kopf, "Label_kopf");
+    kopf->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    QListView* zeilen = binder().listenfeld(logik_.ergebnisse, "ergebnisse");
+    zeilen->setAlternatingRowColors(true);
+    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    kopf->setStyleSheet(
+        QString("font-family: '%1', monospace; font-size: 13px; color: #626a78; padding-left: 6px;").arg(schrift));
+    zeilen->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: 13px; "
+                                  "alternate-background-color: #f2f4f7; }")
+                              .arg(schrift));
+    aufbau->addWidget(kopf);
+    aufbau->addWidget(zeilen, 1);
+    return gruppe;
+}
+
+QLayout* TagesrennenFenster::fusszeile() {
+    QPushButton* starten = binder().hauptknopf(logik_.Command18, "Command18");
+    QPushButton* auswertung = binder().knopf(logik_.Command1, "Command1");
+    QPushButton* ende = stil::fensterknopf(binder().knopf(logik_.Command20, "Command20"));
+    starten->setMinimumSize(200, stil::knopfhoehe);
+    auswertung->setMinimumSize(140, stil::knopfhoehe);
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(starten);
+    zeile->addWidget(auswertung);
+    zeile->addStretch();
+    zeile->addWidget(ende);
+    return zeile;
+}
+
+}  // namespace tarvel::ui

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QGridLayout>
+
+#include "competition/tagesrennen_fenster.h"
+#include "ui/fenster.h"
+
+namespace tarvel::ui {
+
+/// The window of the day race: on the left who drives next, on the right what has been driven.
+class TagesrennenFenster : public Fenster {
+public:
+    TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
+
+private:
+    QWidget* dateigruppe();
+    QWidget* fahrergruppe();
+    void spurzeile(QGridLayout* raster, std::size_t i);
+    QWidget* klassengruppe();
+    QWidget* listengruppe();
+    QLayout* fusszeile();
+
+    tagesrennen_fenster& logik_;
+};
+
+}  // namespace tarvel::ui
