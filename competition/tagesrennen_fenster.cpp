@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 constexpr dauer_ms getippt_nach = 400ms;
 constexpr int dateiname_max = 80;
 constexpr std::string_view klassen_zeichen = "ABCDEFGHIJKLMNOPQRSTUVWXYZ123456789";
-constexpr std::array<std::size_t, 5> spaltenbreiten{5, 22, 9, 11, 12};
+constexpr std::array<std::size_t, 5> spaltenbreiten{4, 17, 8, 9, 11};
 
 std::string spalten(const std::array<std::string, spaltenbreiten.size()>& felder, std::string_view letztes) {
     std::string zeile;

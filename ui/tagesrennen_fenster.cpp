@@ -2,8 +2,10 @@
 
 #include <QCompleter>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/stil.h"
 
@@ -11,7 +13,9 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int klassenbreite = 66;
-constexpr int listenbreite = 520;
+constexpr int listenbreite = 480;
+constexpr int zeichen_je_zeile = 61;   // and the room beside it
+constexpr double listenanteil = 0.49;  // of the window's width
 
 }  // namespace
 
@@ -26,9 +30,12 @@ TagesrennenFenster::TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwal
     links->setSpacing(8);
     links->addWidget(dateigruppe());
     links->addWidget(fahrergruppe(), 1);
-    links->addWidget(klassengruppe());
     mitte->addLayout(links, 4);
-    mitte->addWidget(listengruppe(), 5);
+    auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(8);
+    rechts->addWidget(listengruppe(), 1);
+    rechts->addWidget(klassengruppe());
+    mitte->addLayout(rechts, 5);
     aufbau->addLayout(mitte, 1);
     aufbau->addLayout(fusszeile());
     resize(1100, 690);
@@ -52,8 +59,8 @@ QWidget* TagesrennenFenster::fahrergruppe() {
     auto* raster = new QGridLayout(gruppe);
     raster->setHorizontalSpacing(8);
     raster->setVerticalSpacing(2);
-    raster->addWidget(stil::leise(binder().label(logik_.Label_fahrer, "Label_fahrer")), 0, 2);
-    raster->addWidget(binder().kasten(logik_.Check1, "Check1"), 0, 3);
+    raster->addWidget(stil::leise(binder().label(logik_.Label_fahrer, "Label_fahrer")), 0, 2, Qt::AlignBottom);
+    raster->addWidget(binder().kasten(logik_.Check1, "Check1"), 0, 3, Qt::AlignBottom);
     for (std::size_t i = 0; i < logik_.Text_fahrer.size(); ++i) {
         spurzeile(raster, i);
     }
@@ -83,7 +90,8 @@ void TagesrennenFenster::spurzeile(QGridLayout* raster, std::size_t i) {
     QSizePolicy haelt_platz = bisher->sizePolicy();
     haelt_platz.setRetainSizeWhenHidden(true);
     bisher->setSizePolicy(haelt_platz);
-    raster->addWidget(bisher, reihe + 1, 2, 1, 2);
+    raster->addWidget(bisher, reihe + 1, 2, 1, 2, Qt::AlignTop);
+    raster->setRowStretch(reihe + 1, 1);
     setTabOrder(fahrer, klasse);
 }
 
@@ -102,19 +110,25 @@ QWidget* TagesrennenFenster::listengruppe() {
     gruppe->setMinimumWidth(listenbreite);
     auto* aufbau = new QVBoxLayout(gruppe);
     aufbau->setSpacing(2);
-    QLabel* kopf = binder().label(logik_.Label_kopf, "Label_kopf");
-    kopf->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    QListView* zeilen = binder().listenfeld(logik_.ergebnisse, "ergebnisse");
-    zeilen->setAlternatingRowColors(true);
-    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    kopf->setStyleSheet(
-        QString("font-family: '%1', monospace; font-size: 13px; color: #626a78; padding-left: 6px;").arg(schrift));
-    zeilen->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: 13px; "
-                                  "alternate-background-color: #f2f4f7; }")
-                              .arg(schrift));
-    aufbau->addWidget(kopf);
-    aufbau->addWidget(zeilen, 1);
+    kopf_ = binder().label(logik_.Label_kopf, "Label_kopf");
+    kopf_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    zeilen_ = binder().listenfeld(logik_.ergebnisse, "ergebnisse");
+    zeilen_->setAlternatingRowColors(true);
+    aufbau->addWidget(kopf_);
+    aufbau->addWidget(zeilen_, 1);
     return gruppe;
+}
+
+void TagesrennenFenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(100);
+    const double zeichen = QFontMetricsF(schrift).horizontalAdvance('0') / 100;
+    const double px = std::clamp(width() * listenanteil / (zeichen * zeichen_je_zeile), 12.0, 22.0);
+    const QString art =
+        QString("font-family: '%1', monospace; font-size: %2px;").arg(schrift.family()).arg(static_cast<int>(px));
+    kopf_->setStyleSheet(art + " color: #626a78; padding-left: 6px;");
+    zeilen_->setStyleSheet("QListView { " + art + " alternate-background-color: #f2f4f7; }");
 }
 
 QLayout* TagesrennenFenster::fusszeile() {

@@ -12,6 +12,10 @@ class TagesrennenFenster : public Fenster {
 public:
     TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
+protected:
+    /// The lines are as large as their room lets them be.
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
     QWidget* dateigruppe();
     QWidget* fahrergruppe();
@@ -21,6 +25,8 @@ private:
     QLayout* fusszeile();
 
     tagesrennen_fenster& logik_;
+    QLabel* kopf_ = nullptr;
+    QListView* zeilen_ = nullptr;
 };
 
 }  // namespace tarvel::ui

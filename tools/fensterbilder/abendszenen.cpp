@@ -63,6 +63,17 @@ QWidget& blatt_zeigen(buehne& b, wettkampf w, int nummer) {
     return *new Blattbild(&b.o.form1, ui::wettkampfseiten(b.p.w_auswertung.blatt()), nummer);
 }
 
+/// Four lanes set up, with drivers of the day on them.
+QWidget& tagesrennen_zeigen(buehne& b) {
+    std::size_t i = 0;
+    for (const char* name : {"Anna", "Ben", "Carla", "Dieter"}) {
+        b.p.form1.spur.at(i).gesetzt(true);
+        b.p.form1.fahrer.at(i++).eingeben(name);
+    }
+    b.p.form1.command17.klicken();
+    return b.o.tagesrennen;
+}
+
 using m = wettkampf_modus;
 
 const std::vector<szeneneintrag> alle{
@@ -144,6 +155,20 @@ const std::vector<szeneneintrag> alle{
     {"rangliste_viele",
      [](buehne& b) -> QWidget& {
          return rangliste_zeigen(b, gefahren(m::gruppen, 40, {1, 2, 3, 4}, 40));
+     }},
+    {"tagesrennen_neu", tagesrennen_zeigen},
+    {"tagesrennen",
+     [](buehne& b) -> QWidget& {
+         b.t.maschine.datei_schreiben(
+             "Ergebnisse/Tagesrennen/Samstag.csv",
+             "Tarvel Tagesrennen\r\nA;Anna; 12;125.40;00:08,123;01:42,004\r\nB;Ben; 11;118.10;00:08,401;01:41,870\r\n"
+             "A;Carla; 12;121.00;00:08,250;01:42,900\r\n0;Emil; 10;104.77;00:09,020;01:43,112\r\n"
+             "A;Anna; 13;131.20;00:07,998;01:42,350\r\n");
+         QWidget& fenster = tagesrennen_zeigen(b);
+         b.p.tagesrennen_fenster.text_lf_datei.eingeben("Samstag");
+         b.p.tagesrennen_fenster.Check1.umschalten();
+         b.t.maschine.laufen(1000);
+         return fenster;
      }},
 };
 
