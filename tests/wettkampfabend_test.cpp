@@ -248,6 +248,35 @@ TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
     EXPECT_TRUE(strom(1));
 }
 
+TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 5s;
+    t.maschine.nicht_schreibbar = "bestefile.bst";
+    for (const auto modus : {bestzeit_speicherung::manuell, bestzeit_speicherung::automatisch}) {
+        t.p.einst.beste_modus = modus;
+        beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+        ASSERT_TRUE(abend.rennen_starten());
+        t.maschine.laufen(4000);
+        runden_fahren(3);
+        t.maschine.laufen(8000);
+        ASSERT_TRUE(offen(fenstername::beste_zeiten_fenster));
+        if (modus == bestzeit_speicherung::manuell) {
+            for (const char* name : {"An", "Ann", "Anna"}) {
+                t.maschine.laufen(10000);
+                t.p.beste_zeiten_fenster.btext_name[0].eingeben(name);
+            }
+            t.maschine.laufen(14000);
+            EXPECT_TRUE(offen(fenstername::auswertung)) << "somebody is typing";
+        }
+        t.maschine.laufen(2500);
+        EXPECT_FALSE(offen(fenstername::auswertung));
+        t.maschine.laufen(6000);
+        EXPECT_TRUE(offen(fenstername::bahn1));
+        EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+        t.bahn().Command2.klicken();
+    }
+}
+
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
     ASSERT_TRUE(abend.rennen_starten());
