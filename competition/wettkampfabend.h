@@ -101,6 +101,7 @@ public:
 
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
+    bool ohne_bediener() const override { return automatik_an_; }
     bool ist_fueller(int spur) const override { return uebergabe_.fueller[spur]; }
     bool fueller_fahren(bool /*fortgesetzt*/) const override { return false; }
     bool leer_gezeigt(int spur) const override { return uebergabe_.fueller[spur] && !um_.einst.freie_slots; }
