@@ -16,7 +16,6 @@ void wettkampfabend::beginnen(wettkampf neu) {
     aktiv_ = true;
     automatik_an_ = false;
     unterbrochen_ = false;
-    renndauern_.clear();
     ergebnis_da_ = false;
     start_ = 0;
     if (!stand_.ende_pruefen()) {
@@ -101,7 +100,7 @@ void wettkampfabend::begonnen() {
     automat_.aus();
     teil_gebucht_ = false;
     if (ergebnis_da_) {
-        renndauern_.back() = um_.uhr.jetzt() - start_;
+        stand_.renndauern.back() = um_.uhr.jetzt() - start_;
     }
     if (ergebnis_da_ || start_ == 0) {  // else the same race once more, which is part of its time
         start_ = um_.uhr.jetzt();
@@ -160,7 +159,7 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
 void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     const int rennen = uebergabe_.rennen;
     buchen(ergebnis);
-    renndauern_.push_back(um_.uhr.jetzt() - start_);
+    stand_.renndauern.push_back(um_.uhr.jetzt() - start_);
     ergebnis_da_ = true;
     stand_.naechstes_offenes_rennen();
     bool alles = um_.ablage.rennen_sichern(stand_, rennen, ergebnis);

@@ -74,7 +74,7 @@ public:
     void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
     const wettkampf& stand() const { return stand_; }
     bool wettkampf_aktiv() const { return aktiv_; }
-    abendblick blick() const { return abend_blicken(stand_, renndauern_); }
+    abendblick blick() const { return abend_blicken(stand_); }
 
     /// A new evening, or one that is taken up again.
     void beginnen(wettkampf neu);
@@ -155,9 +155,8 @@ private:
     bool von_selbst_ = false;  ///< the next part begins without anybody
     bool unterbrochen_ = false;
     bool nicht_gesichert_ = false;
-    std::vector<zeit_ms> renndauern_;  ///< from one start to the next
-    zeit_ms start_ = 0;                ///< first one of the race that was started last, 0 for none
-    bool ergebnis_da_ = false;         ///< and it has its result
+    zeit_ms start_ = 0;         ///< first one of the race that was started last, 0 for none
+    bool ergebnis_da_ = false;  ///< and it has its result
 };
 
 }  // namespace tarvel

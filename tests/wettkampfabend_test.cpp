@@ -328,6 +328,27 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
 }
 
+TEST_F(Wettkampfabend, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
+    beginnen(wettkampf_modus::rotation, 4, {1, 2});
+    rennen_fahren();
+    const zeit_ms ohne_pause = abend.stand().renndauern.front();
+    t.maschine.laufen(60000);
+    rennen_fahren();
+    EXPECT_GE(abend.stand().renndauern.front(), ohne_pause + 60000);
+    EXPECT_LT(abend.stand().renndauern.front(), ohne_pause + 61000);
+    const auto noch = abend.blick().dauert_noch;
+    ASSERT_TRUE(noch);
+    EXPECT_EQ(*noch / 2, (abend.stand().renndauern.front() + abend.stand().renndauern.back()) / 2) << "two races more";
+    auto gelesen = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt, einstellungen_aus_datei::lassen,
+                                   version_melden::nein);
+    ASSERT_TRUE(gelesen);
+    t.maschine.laufen(3600000);
+    abend.beginnen(std::move(*gelesen));
+    EXPECT_EQ(abend.blick().dauert_noch, noch);
+    rennen_fahren();
+    EXPECT_LT(abend.blick().dauert_noch, *noch) << "the time until it was taken up again is no race";
+}
+
 TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
     using m = wettkampf_modus;
     for (const m modus : {m::rotation, m::am_stueck, m::jeder_gegen_jeden, m::schema_gruppen_verteilt, m::einmal}) {
