@@ -26,8 +26,8 @@ public:
     virtual void laufenden_weglegen(bool fertig) = 0;
     /// A dated file of the state, if the settings want it.
     virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;
-    /// The race's own file, likewise.
-    virtual bool rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) = 0;
+    /// The race's own file, likewise; of one that goes on, what has been driven up to this part.
+    virtual bool rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) = 0;
     /// The table of the whole competition.
     virtual bool tabelle_sichern(const wettkampf& stand) = 0;
     /// A file could not be written: tells the operator.
@@ -135,6 +135,7 @@ private:
     bool mit_einfahrzeit() const { return um_.einst.w_einfahren_an && um_.fenster.gibt_es(fenstername::einfahren); }
     void uebergeben();
     void buchen(const rennergebnis& ergebnis);
+    void teil_abschliessen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();
     /// Tells of a failure, but while nobody may be there.

@@ -83,6 +83,7 @@ TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
 }
 
 TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSich) {
+    t.p.einst.aut_speichern = true;
     beginnen(wettkampf_modus::am_stueck, 3, {1, 3, 4}, true);
     ASSERT_EQ(abend.stand().plan.teile, 3);
     const startfeld erstes = abend.stand().plan.feld(1, 1);
@@ -97,6 +98,8 @@ TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSi
         EXPECT_EQ(t.p.auswertung.Command5.text(), "Weiter");
         t.p.auswertung.Command5.klicken();
         EXPECT_EQ(abend.stand().fortsetzung_nummer(1), teil);
+        const std::string ende = teil < 3 ? "-Rennen1-Teil" + std::to_string(teil) + ".csv" : "-Rennen1.csv";
+        EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ende).size(), 1U) << ende;
         if (teil < 3) {
             gruen();
         }
