@@ -316,6 +316,12 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_EQ(neu.param.art, renn_art::runden);
         EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
         EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
+        t.maschine.antwort = false;
+        neu.form1.schliessen();
+        EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
+                  "Der Wettkampf ist noch nicht beendet. Wirklich beenden?");
+        EXPECT_EQ(t.maschine.beendet, 0);
+        t.maschine.antwort = true;
         neu.wettkampf2.Command5.klicken();
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
         EXPECT_TRUE(neu.form1.inhalt.aktiviert());
