@@ -316,6 +316,10 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_EQ(neu.param.art, renn_art::runden);
         EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
         EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
+        neu.einst.hardware.hw_uart = true;
+        neu.form1.taste_F1();
+        EXPECT_FALSE(neu.fenster.ist_offen(fenstername::UART_Profildatei)) << "nobody sets the device up meanwhile";
+        neu.einst.hardware.hw_uart = false;
         t.maschine.antwort = false;
         neu.form1.schliessen();
         EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
