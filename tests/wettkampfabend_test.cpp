@@ -338,7 +338,15 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     anderer.starten();
     EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
-    EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
+    const auto liegen = anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk");
+    ASSERT_EQ(liegen.size(), 2U);
+    anderer.form1.Command3.klicken();
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
+    anderer.wettkampf1.Command9.klicken();
+    anderer.rundenspeichern.dateiliste.auswaehlen(0);
+    EXPECT_EQ(anderer.rundenspeichern.name.text(), liegen.front());
+    anderer.rundenspeichern.Command1.klicken();
+    EXPECT_EQ(anderer.wettkampfabend.stand(), vorher) << "an answer given too fast has lost nothing";
 }
 
 TEST_F(Wettkampfabend, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
