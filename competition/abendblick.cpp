@@ -17,7 +17,7 @@ spuren<std::string> fahrer_namen(const wettkampf& w, const startfeld& feld) {
 
 }  // namespace
 
-abendblick abend_blicken(const wettkampf& w, std::span<const zeit_ms> renndauern) {
+abendblick abend_blicken(const wettkampf& w) {
     abendblick blick;
     blick.rennen_gesamt = w.rennen_gesamt();
     const renn_uebergabe dran = w.uebergabe();
@@ -38,9 +38,9 @@ abendblick abend_blicken(const wettkampf& w, std::span<const zeit_ms> renndauern
             blick.einsetzer.push_back(w.name(platz));
         }
     }
-    if (!renndauern.empty()) {
-        const zeit_ms summe = std::accumulate(renndauern.begin(), renndauern.end(), zeit_ms{0});
-        blick.dauert_noch = summe / static_cast<zeit_ms>(renndauern.size()) * blick.noch;
+    if (const auto& dauern = w.renndauern; !dauern.empty()) {
+        const zeit_ms summe = std::accumulate(dauern.begin(), dauern.end(), zeit_ms{0});
+        blick.dauert_noch = summe / static_cast<zeit_ms>(dauern.size()) * blick.noch;
     }
     return blick;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -21,7 +20,6 @@ struct abendblick {
     std::optional<zeit_ms> dauert_noch;  ///< none before a race has been driven
 };
 
-/// `renndauern`: how long the races driven so far took on the clock, from one start to the next.
-abendblick abend_blicken(const wettkampf& w, std::span<const zeit_ms> renndauern);
+abendblick abend_blicken(const wettkampf& w);
 
 }  // namespace tarvel

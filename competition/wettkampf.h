@@ -114,6 +114,7 @@ struct wettkampf {
     int aktuelles_rennen = 1;
     std::set<int> zurueckgestellte;
     std::vector<gefahrener_teil> gefahren;  ///< in the order driven
+    std::vector<zeit_ms> renndauern;        ///< on the clock, from one start to the next
 
     int rennen_gesamt() const { return plan.rennen_gesamt(); }
     int plaetze() const { return static_cast<int>(teilnehmer.size()); }

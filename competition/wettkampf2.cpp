@@ -287,11 +287,15 @@ void wettkampf2::zurückstellen() {
     abend_.aendern([rennen](wettkampf& w) { return w.zurueckstellen(rennen); });
 }
 
+bool wettkampf2::darf_enden() {
+    return !abend_.wettkampf_aktiv() || abend_.stand().ende_pruefen() || fragen(wort_.ende_frage, titel.text());
+}
+
 void wettkampf2::wettkampf_beenden() {
-    const wettkampf& w = abend_.stand();
-    if (!w.ende_pruefen() && !fragen(wort_.ende_frage, titel.text())) {
+    if (!darf_enden()) {
         return;
     }
+    const wettkampf& w = abend_.stand();
     std::optional<std::vector<std::string>> qualifying;
     if (w.qualifying_an) {
         qualifying = qualifying_uebernehmen(w);

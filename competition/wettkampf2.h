@@ -98,6 +98,8 @@ public:
     void laden() override;
     void schliessen() override { Command5.klicken(); }
     bool escape_schliesst() const override { return false; }
+    /// No evening runs, or all its races are driven, or the director says so.
+    bool darf_enden();
 
 private:
     enum class feldgruppe { blick, runden, namen };

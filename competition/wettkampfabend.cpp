@@ -16,7 +16,6 @@ void wettkampfabend::beginnen(wettkampf neu) {
     aktiv_ = true;
     automatik_an_ = false;
     unterbrochen_ = false;
-    renndauern_.clear();
     ergebnis_da_ = false;
     start_ = 0;
     if (!stand_.ende_pruefen()) {
@@ -101,7 +100,7 @@ void wettkampfabend::begonnen() {
     automat_.aus();
     teil_gebucht_ = false;
     if (ergebnis_da_) {
-        renndauern_.back() = um_.uhr.jetzt() - start_;
+        stand_.renndauern.back() = um_.uhr.jetzt() - start_;
     }
     if (ergebnis_da_ || start_ == 0) {  // else the same race once more, which is part of its time
         start_ = um_.uhr.jetzt();
@@ -143,11 +142,7 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
             gesichert(sichern());
             break;
         case weitergang::fortsetzen:
-            buchen(ergebnis);
-            // who has come back from the light without going on stands on his next lane already
-            wechsel_ = std::exchange(teil_gebucht_, true) ? spuren<int>{} : stand_.plan.herkunft;
-            uebergabe_ = stand_.uebergabe();
-            gesichert(sichern());
+            teil_abschliessen(ergebnis);
             break;
         case weitergang::verlassen:
             nächstes_rennen(ergebnis);
@@ -157,13 +152,24 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
     return true;
 }
 
+void wettkampfabend::teil_abschliessen(const rennergebnis& ergebnis) {
+    buchen(ergebnis);
+    // the rest of the race may be driven another day
+    bool alles = teil_gebucht_ || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, uebergabe_.teil, ergebnis);
+    // who has come back from the light without going on stands on his next lane already
+    wechsel_ = std::exchange(teil_gebucht_, true) ? spuren<int>{} : stand_.plan.herkunft;
+    uebergabe_ = stand_.uebergabe();
+    alles = sichern() && alles;
+    gesichert(alles);
+}
+
 void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     const int rennen = uebergabe_.rennen;
     buchen(ergebnis);
-    renndauern_.push_back(um_.uhr.jetzt() - start_);
+    stand_.renndauern.push_back(um_.uhr.jetzt() - start_);
     ergebnis_da_ = true;
     stand_.naechstes_offenes_rennen();
-    bool alles = um_.ablage.rennen_sichern(stand_, rennen, ergebnis);
+    bool alles = um_.ablage.rennen_sichern(stand_, rennen, uebergabe_.teil, ergebnis);
     alles = sichern() && alles;
     alles = um_.ablage.zwischenstand_sichern(stand_) && alles;
     if (stand_.ende_pruefen()) {

@@ -26,8 +26,8 @@ public:
     virtual void laufenden_weglegen(bool fertig) = 0;
     /// A dated file of the state, if the settings want it.
     virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;
-    /// The race's own file, likewise.
-    virtual bool rennen_sichern(const wettkampf& stand, int rennen, const rennergebnis& ergebnis) = 0;
+    /// The race's own file, likewise; of one that goes on, what has been driven up to this part.
+    virtual bool rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) = 0;
     /// The table of the whole competition.
     virtual bool tabelle_sichern(const wettkampf& stand) = 0;
     /// A file could not be written: tells the operator.
@@ -74,7 +74,7 @@ public:
     void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
     const wettkampf& stand() const { return stand_; }
     bool wettkampf_aktiv() const { return aktiv_; }
-    abendblick blick() const { return abend_blicken(stand_, renndauern_); }
+    abendblick blick() const { return abend_blicken(stand_); }
 
     /// A new evening, or one that is taken up again.
     void beginnen(wettkampf neu);
@@ -101,6 +101,7 @@ public:
 
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
+    bool ohne_bediener() const override { return automatik_an_; }
     bool ist_fueller(int spur) const override { return uebergabe_.fueller[spur]; }
     bool fueller_fahren(bool /*fortgesetzt*/) const override { return false; }
     bool leer_gezeigt(int spur) const override { return uebergabe_.fueller[spur] && !um_.einst.freie_slots; }
@@ -134,6 +135,7 @@ private:
     bool mit_einfahrzeit() const { return um_.einst.w_einfahren_an && um_.fenster.gibt_es(fenstername::einfahren); }
     void uebergeben();
     void buchen(const rennergebnis& ergebnis);
+    void teil_abschliessen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();
     /// Tells of a failure, but while nobody may be there.
@@ -154,9 +156,8 @@ private:
     bool von_selbst_ = false;  ///< the next part begins without anybody
     bool unterbrochen_ = false;
     bool nicht_gesichert_ = false;
-    std::vector<zeit_ms> renndauern_;  ///< from one start to the next
-    zeit_ms start_ = 0;                ///< first one of the race that was started last, 0 for none
-    bool ergebnis_da_ = false;         ///< and it has its result
+    zeit_ms start_ = 0;         ///< first one of the race that was started last, 0 for none
+    bool ergebnis_da_ = false;  ///< and it has its result
 };
 
 }  // namespace tarvel

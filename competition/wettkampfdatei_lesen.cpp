@@ -70,6 +70,7 @@ public:
         w_.wertung = zusatz_.wertung;
         w_.rennlaenge = zusatz_.rennlaenge;
         w_.beginn = zusatz_.beginn;
+        w_.renndauern = zusatz_.renndauern;
         if (!kopf() || !tabelle() || !jeder() || !startliste() || !plan() || !teile() || !gefahrene() || !stand()) {
             return std::nullopt;
         }

@@ -107,12 +107,17 @@ bool fahrt_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/
     return true;
 }
 
+bool renndauer_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/) {
+    z.renndauern.push_back(ganzzahl_lesen(w[1], 0, laenge_max));
+    return true;
+}
+
 struct zeilenart {
     std::string_view name;
     std::size_t werte;  ///< at least, with the name
     zeilenleser lesen;
 };
-constexpr std::array<zeilenart, 9> zeilenarten{{
+constexpr std::array<zeilenart, 10> zeilenarten{{
     {"Art", 2, art_lesen},
     {"Teile", 2, teile_lesen},
     {"Herkunft", 1 + spuren_max, herkunft_lesen},
@@ -122,6 +127,7 @@ constexpr std::array<zeilenart, 9> zeilenarten{{
     {"Beginn", 2, beginn_lesen},
     {"Platz", 4, platz_lesen},
     {"Fahrt", 3 + 2 * spuren_max, fahrt_lesen},
+    {"Renndauer", 2, renndauer_lesen},
 }};
 
 bool zeile_lesen(wettkampf_zusatz& z, std::string_view zeile) {
@@ -168,6 +174,9 @@ std::vector<std::string> zusatz_zeilen(const wettkampf& w) {
         zeilen.push_back(reihe("Platz", {platz.fahrer, platz.fueller}) + "," + bild);
     }
     std::transform(w.gefahren.begin(), w.gefahren.end(), std::back_inserter(zeilen), teil_zeile);
+    for (const zeit_ms dauer : w.renndauern) {
+        zeilen.push_back(reihe("Renndauer", {dauer}));
+    }
     zeilen.emplace_back(zusatz_ende);
     return zeilen;
 }

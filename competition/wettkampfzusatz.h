@@ -25,6 +25,7 @@ struct wettkampf_zusatz {
     std::vector<startplatz> teilnehmer;
     std::vector<std::string> bilder;
     std::vector<gefahrener_teil> gefahren;  ///< times and metres; laps and best laps the format holds
+    std::vector<zeit_ms> renndauern;
 };
 
 std::vector<std::string> zusatz_zeilen(const wettkampf& w);

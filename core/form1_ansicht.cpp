@@ -200,7 +200,7 @@ void form1::wartehinweis(bool an) {
 }
 
 void form1::taste_F1() {
-    if (um_.einst.hardware.hw_uart && !µwartehinweis.sichtbar() && befehlsdatei_waehlen) {
+    if (um_.einst.hardware.hw_uart && inhalt.aktiviert() && !µwartehinweis.sichtbar() && befehlsdatei_waehlen) {
         befehlsdatei_waehlen();
     }
 }

@@ -112,6 +112,9 @@ void messgeraete::wartehinweis(bool an) {
 }
 
 void messgeraete::port_fehlt(const std::string& meldung) {
+    if (um_.rennen.teil_von->ohne_bediener()) {
+        return;  // the race window shows it over its lanes, and who starts all the same is asked
+    }
     gewarnt_ = true;
     um_.dienste.meldungen.zeigen(meldung + um_.form1.anschluss_gesperrt(um_.dienste.serienports.sperrdatei()),
                                  um_.txt.titel[1]);

@@ -81,7 +81,11 @@ programm::~programm() = default;
 void programm::hauptfenster_verbinden() {
     form1.einstellungen_speichern = [this] { pflege_.speichern_oeffnen(); };
     form1.einstellungen_laden = [this] { pflege_.laden_oeffnen(); };
-    form1.beenden = [this] { programm_beenden(); };
+    form1.beenden = [this] {
+        if (wettkampf2.darf_enden()) {
+            programm_beenden();
+        }
+    };
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
     form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };

@@ -44,6 +44,8 @@ public:
     virtual starter wer_startet() const { return starter::bediener; }
     /// The result window goes on by itself, and so must the start that follows; false once it has.
     virtual void von_selbst_starten(bool /*an*/) {}
+    /// Races come by themselves: no message may wait for somebody.
+    virtual bool ohne_bediener() const { return false; }
     /// The lane has no driver; its place only fills the race up.
     virtual bool ist_fueller(int spur) const = 0;
     /// A filler's lane is in the race all the same, when it begins or goes on.

@@ -274,7 +274,7 @@ void auswertung::training_tick() {
     if (wartezeit_vorbei(wort_.training)) {
         tmr_dauertraining_->aus();
         automatik_ = true;
-        bestzeiten_vor(selbst_.was == schritt::fortsetzen ? aktion::fortsetzen : aktion::neu_starten);
+        bestzeiten_vor(selbst_.was == schritt::fortsetzen ? aktion::fortsetzen : aktion::neu_starten, true);
     }
 }
 
@@ -282,7 +282,7 @@ void auswertung::w_auto5_tick() {
     if (wartezeit_vorbei(wort_.weiter_in)) {
         w_auto5_->aus();
         automatik_ = weg_hinaus() == aktion::fortsetzen;
-        Command5.klicken();
+        bestzeiten_vor(weg_hinaus(), true);
     }
 }
 

@@ -174,8 +174,8 @@ private:
     void anzeige_weiterschalten(std::size_t i);
 
     /// Opens the best times if there is a new one; `danach` follows when they are closed, or at once.
-    void bestzeiten_vor(aktion danach);
-    void bestzeiten_oeffnen(aktion danach);
+    void bestzeiten_vor(aktion danach, bool von_selbst = false);
+    void bestzeiten_oeffnen(aktion danach, bool von_selbst = false);
     void bestzeiten_pruefen();
     void ausfuehren(aktion was);
     /// False if the result could not be saved and the operator does not want to lose it.

@@ -21,21 +21,22 @@ void auswertung::bestzeiten_pruefen() {
     }
 }
 
-void auswertung::bestzeiten_vor(aktion danach) {
+void auswertung::bestzeiten_vor(aktion danach, bool von_selbst) {
     nachzaehlen_beenden();  // what is offered and saved from here on stands
     if (neue_bestzeit_) {
-        bestzeiten_oeffnen(danach);
+        bestzeiten_oeffnen(danach, von_selbst);
     } else {
         ausfuehren(danach);
     }
 }
 
-void auswertung::bestzeiten_oeffnen(aktion danach) {
+void auswertung::bestzeiten_oeffnen(aktion danach, bool von_selbst) {
     aktion_nach_bestzeiten_ = danach;
-    u_.bestzeiten.oeffnen(bestzeit_angebote(ergebnis()), [this, danach] {
+    const auto fortfahren = [this, danach] {
         bestzeiten_pruefen();
         ausfuehren(danach);
-    });
+    };
+    u_.bestzeiten.oeffnen(bestzeit_angebote(ergebnis()), fortfahren, von_selbst);
 }
 
 }  // namespace tarvel

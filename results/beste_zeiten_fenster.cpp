@@ -14,7 +14,8 @@ constexpr std::string_view keine_runde = "---";
 constexpr std::string_view leere_zeit = "00:00:000";
 constexpr int zeit_laenge = 9;
 constexpr farbe gruen = 0x3CA01E;
-constexpr dauer_ms anzeigedauer{2000};  // long enough to see what is saved
+constexpr dauer_s anzeigedauer{2};    // long enough to see what is saved
+constexpr dauer_s ohne_bediener{15};  // and for somebody to come to it
 
 /// The number that stands at these characters, the first at 0; -1 if something else stands there.
 int zahl_an(std::string_view text, std::size_t ab, std::size_t anzahl) {
@@ -66,11 +67,8 @@ spuren<spur_angebot> bestzeit_angebote(const rennergebnis& ergebnis) {
 beste_zeiten_fenster::beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber)
     : fensterlogik(um.fenster, um.ablage, fenstername::beste_zeiten_fenster),
       um_(um),
-      timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, anzeigedauer)) {
-    timer1_->bei_tick = [this] {
-        timer1_->aus();
-        Command1.klicken();
-    };
+      timer1_(zeitgeber.erzeugen(plattform::zeitgeber_art::zaehlend, 1s)) {
+    timer1_->bei_tick = [this] { timer1_tick(); };
     for (std::size_t i = 0; i < spur_chk.size(); ++i) {
         btext_name.at(i).laenge_max(namensliste::name_laenge_max);
         btext_kfz.at(i).laenge_max(namensliste::name_laenge_max);
@@ -83,7 +81,7 @@ beste_zeiten_fenster::beste_zeiten_fenster(umgebung um, plattform::zeitgeber_die
             eingabe->bei_aenderung = [this] { eintrag_geaendert(); };
         }
     }
-    Command1.bei_klick = [this] { speichern(); };
+    Command1.bei_klick = [this] { speichern(true); };
     Command2.bei_klick = [this] { schliessen(); };
     Command3.bei_klick = [this] {
         eingangswerte_zeigen();
@@ -97,12 +95,13 @@ sprachliste beste_zeiten_fenster::sprache_best() {
     texte.text("Korrekturen bitte direkt eintragen oder auswählen. Bei grün wird der Wert gespeichert.", Label1);
     texte.text("Spur", wort_spur_).text("Fahrer", Label_kopf[0]).text("Fahrzeug", Label_kopf[1]);
     texte.text("Rundenzeit", Label_kopf[2]).text("Bisher", Label_kopf[3]);
-    texte.text("speichern", Command1).text("Abbrechen", Command2);
+    texte.text("speichern", Command1).text("Abbrechen", wort_abbrechen_);
     return texte.text("Eingangswerte", Command3);
 }
 
 void beste_zeiten_fenster::laden() {
     texte_lesen();
+    Command2.text(wort_abbrechen_);
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         spur_chk[i].text(wort_spur_ + " " + std::to_string(spur));
@@ -121,7 +120,8 @@ void beste_zeiten_fenster::entladen() {
     danach_ = nullptr;
 }
 
-void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach) {
+void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach,
+                                   bool von_selbst) {
     if (um_.einst.beste_modus == bestzeit_speicherung::aus) {
         if (danach) {
             danach();
@@ -131,12 +131,40 @@ void beste_zeiten_fenster::oeffnen(const spuren<spur_angebot>& angebote, std::fu
     um_.fenster.laden(kennung());
     angebote_ = angebote;
     danach_ = std::move(danach);
+    von_selbst_ = von_selbst;
     eingangswerte_zeigen();
     anzeigen();
     um_.fenster.zeigen(kennung(), anzeige_art::modal);
     Command1.fokus_setzen();
-    if (um_.einst.beste_modus == bestzeit_speicherung::automatisch) {
-        timer1_->an();
+    if (automatisch() || von_selbst_) {
+        warten();
+    }
+}
+
+void beste_zeiten_fenster::warten() {
+    timer1_->aus();
+    rest_ = automatisch() ? anzeigedauer : ohne_bediener;
+    timer1_->an();
+    wartezeit_zeigen();
+}
+
+void beste_zeiten_fenster::wartezeit_zeigen() {
+    if (!automatisch()) {
+        Command2.text(wort_abbrechen_ + "  " + std::to_string(rest_.count()));
+    }
+}
+
+void beste_zeiten_fenster::timer1_tick() {
+    rest_ -= 1s;
+    wartezeit_zeigen();
+    if (rest_ > 0s) {
+        return;
+    }
+    timer1_->aus();
+    if (automatisch()) {
+        speichern(!von_selbst_);
+    } else {
+        schliessen();
     }
 }
 
@@ -165,9 +193,8 @@ void beste_zeiten_fenster::eingangswerte_zeigen() {
 
 void beste_zeiten_fenster::eintrag_geaendert() {
     anzeigen();
-    if (timer1_->laeuft()) {  // nobody saves a correction that is half typed
-        timer1_->aus();
-        timer1_->an();
+    if (timer1_->laeuft()) {  // nobody saves a correction that is half typed, or takes it away
+        warten();
     }
 }
 
@@ -202,7 +229,7 @@ bool beste_zeiten_fenster::wird_gespeichert(int spur) const {
            neue_zeit(spur) < um_.bestzeiten.beste(spur);
 }
 
-void beste_zeiten_fenster::speichern() {
+void beste_zeiten_fenster::speichern(bool bediener_da) {
     timer1_->aus();
     bestzeiten neu = um_.bestzeiten;
     const std::string heute = datum_text(um_.kalender.jetzt());
@@ -213,8 +240,12 @@ void beste_zeiten_fenster::speichern() {
         }
     }
     if (!neu.speichern(um_.ablage, um_.einst.beste_datei)) {
-        um_.meldungen.zeigen(um_.txt.meldung[21], um_.txt.titel[1]);
-        return;  // all entries stay, for another attempt
+        if (bediener_da) {
+            um_.meldungen.zeigen(um_.txt.meldung[21], um_.txt.titel[1]);  // all entries stay, for another attempt
+        } else {
+            schliessen();
+        }
+        return;
     }
     um_.bestzeiten = neu;
     um_.folgen.bestzeiten_geaendert();

@@ -13,6 +13,7 @@
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
+#include "platform/dauer.h"
 #include "platform/kalender.h"
 #include "platform/meldungen.h"
 #include "platform/zeitgeber.h"
@@ -64,8 +65,10 @@ public:
     befehl Command3;                      ///< the entries as they were
 
     /// Opens the window, and runs `danach` once when it is closed, however that is. With best times switched off
-    /// nothing opens and `danach` runs at once. A window that is unloaded from elsewhere forgets it.
-    void oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach);
+    /// nothing opens and `danach` runs at once. A window that is unloaded from elsewhere forgets it. One that comes
+    /// `von_selbst` may find nobody: it closes, unsaved if it is the operator who saves, unless somebody is at work in
+    /// it, and no message holds it up.
+    void oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach, bool von_selbst = false);
     /// Closes without saving.
     void schliessen() override;
     void laden() override;
@@ -81,14 +84,22 @@ private:
     void eingangswerte_zeigen();
     void eintrag_geaendert();
     void anzeigen();
-    void speichern();
+    bool automatisch() const { return um_.einst.beste_modus == bestzeit_speicherung::automatisch; }
+    void warten();
+    void wartezeit_zeigen();
+    void timer1_tick();
+    /// A failure is told, or nobody is there and the window closes.
+    void speichern(bool bediener_da);
     zeit_ms neue_zeit(int spur) const;
 
     umgebung um_;
-    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< saves by itself where that is wanted
+    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< saves by itself where that is wanted, or closes
     spuren<spur_angebot> angebote_;
     std::function<void()> danach_;
     std::string wort_spur_;
+    std::string wort_abbrechen_;
+    bool von_selbst_ = false;
+    dauer_s rest_{};  ///< of the wait that runs
 };
 
 }  // namespace tarvel

@@ -1,3 +1,4 @@
+#include "competition/wettkampfabend.h"
 #include "hardware/at2560.h"
 #include "tests/programm_probe.h"
 
@@ -42,6 +43,31 @@ TEST_F(Wiedereingesteckt, ControlUnitWirdMitDemRennfensterWiederBefragt) {
     const std::string befehle = gesendet();
     EXPECT_NE(befehle.find("\"?\r"), std::string::npos);
     EXPECT_NE(befehle.find("\"=101$"), std::string::npos) << "its laps are told anew";
+}
+
+TEST_F(Wiedereingesteckt, EinAbendVonSelbstWartetAufDasGeraetUndNichtAufEineAntwort) {
+    einschalten(&messhardware::hw_uart);
+    t.einrichten("Runden", "20", {1, 2});
+    t.p.fenster.entladen(fenstername::bahn1);
+    t.p.einst.w_einfahren_an = false;
+    for (const bool von_selbst : {false, true}) {
+        t.p.einst.w_autom = von_selbst;
+        planvorgabe vorgabe;
+        vorgabe.aktiv[1] = vorgabe.aktiv[2] = true;
+        auto abend = wettkampf_beginnen(vorgabe, std::vector<std::string>{"Anna", "Ben"}, "Abend", t.p.txt);
+        ASSERT_TRUE(abend);
+        t.p.wettkampfabend.beginnen(std::move(*abend));
+        t.maschine.anschluesse.abziehen(com);  // as the window opens
+        ASSERT_TRUE(t.p.wettkampfabend.rennen_starten());
+        t.maschine.laufen(10000);
+        EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+        EXPECT_TRUE(t.bahn().geraetealarm.sichtbar());
+        EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+        t.maschine.anschluesse.da = {com};
+        t.maschine.laufen(at_bootzeit.count() + 3000);
+        EXPECT_NE(t.p.rennen.zustand.rennen_beendet, von_selbst);
+        t.p.rennen.befehle.rennen_abbrechen();
+    }
 }
 
 TEST_F(Wiedereingesteckt, At2560MisstErstWennEsHoert) {

@@ -192,11 +192,11 @@ TEST(Wettkampf, NamenOhneKommaUndKeinerZweimal) {
 
 TEST(Wettkampf, AbendAufEinenBlick) {
     auto w = wettkampf_mit(m::gruppen, 3, {1, 2});
-    const std::vector<zeit_ms> dauern{60000, 90000};
-    EXPECT_FALSE(abend_blicken(w, {}).dauert_noch);
+    EXPECT_FALSE(abend_blicken(w).dauert_noch);
     fahren(w, {});
     fahren(w, {});
-    const abendblick blick = abend_blicken(w, dauern);
+    w.renndauern = {60000, 90000};
+    const abendblick blick = abend_blicken(w);
     EXPECT_EQ(blick.rennen, 3);
     EXPECT_EQ(blick.noch, 2);
     EXPECT_EQ(blick.dauert_noch, 150000);
@@ -205,9 +205,9 @@ TEST(Wettkampf, AbendAufEinenBlick) {
     EXPECT_EQ(blick.als_naechste[1], "") << "a filler need not come";
     EXPECT_EQ(blick.einsetzer, (namen{"Fahrer 3"}));
     fahren(w, {});
-    EXPECT_EQ(abend_blicken(w, dauern).naechstes_rennen, 0);
+    EXPECT_EQ(abend_blicken(w).naechstes_rennen, 0);
     fahren(w, {});
-    EXPECT_EQ(abend_blicken(w, dauern).rennen, 0);
+    EXPECT_EQ(abend_blicken(w).rennen, 0);
 }
 
 }  // namespace

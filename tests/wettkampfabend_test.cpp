@@ -6,6 +6,7 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
+#include "results/ergebnisdatei.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -83,6 +84,7 @@ TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
 }
 
 TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSich) {
+    t.p.einst.aut_speichern = true;
     beginnen(wettkampf_modus::am_stueck, 3, {1, 3, 4}, true);
     ASSERT_EQ(abend.stand().plan.teile, 3);
     const startfeld erstes = abend.stand().plan.feld(1, 1);
@@ -97,6 +99,8 @@ TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSi
         EXPECT_EQ(t.p.auswertung.Command5.text(), "Weiter");
         t.p.auswertung.Command5.klicken();
         EXPECT_EQ(abend.stand().fortsetzung_nummer(1), teil);
+        const std::string ende = teil < 3 ? "-Rennen1-Teil" + std::to_string(teil) + ".csv" : "-Rennen1.csv";
+        EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ende).size(), 1U) << ende;
         if (teil < 3) {
             gruen();
         }
@@ -248,6 +252,48 @@ TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
     EXPECT_TRUE(strom(1));
 }
 
+TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 5s;
+    t.maschine.nicht_schreibbar = "bestefile.bst";
+    for (const auto modus : {bestzeit_speicherung::manuell, bestzeit_speicherung::automatisch}) {
+        t.p.einst.beste_modus = modus;
+        beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+        EXPECT_FALSE(abend.unterbrochen()) << "that was another evening";
+        ASSERT_TRUE(abend.rennen_starten());
+        t.maschine.laufen(4000);
+        runden_fahren(3);
+        t.maschine.laufen(8000);
+        ASSERT_TRUE(offen(fenstername::beste_zeiten_fenster));
+        if (modus == bestzeit_speicherung::manuell) {
+            for (const char* name : {"An", "Ann", "Anna"}) {
+                t.maschine.laufen(10000);
+                t.p.beste_zeiten_fenster.btext_name[0].eingeben(name);
+            }
+            t.maschine.laufen(14000);
+            EXPECT_TRUE(offen(fenstername::auswertung)) << "somebody is typing";
+        }
+        t.maschine.laufen(2500);
+        EXPECT_FALSE(offen(fenstername::auswertung));
+        t.maschine.laufen(6000);
+        EXPECT_TRUE(offen(fenstername::bahn1));
+        EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+        t.bahn().Command2.klicken();
+    }
+}
+
+TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {
+    beginnen(wettkampf_modus::rotation, 2, {1, 2});
+    rennen_fahren();
+    EXPECT_FALSE(abend.nicht_gesichert());
+    t.maschine.nicht_schreibbar = "Vereinsabend-" + ergebnis_stempel(t.maschine.dienste().kalender.jetzt()) + ".csv";
+    rennen_fahren();
+    EXPECT_TRUE(abend.stand().ende_pruefen() && abend.nicht_gesichert());
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    abend.beenden();
+    EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
+}
+
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
     ASSERT_TRUE(abend.rennen_starten());
@@ -284,6 +330,15 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_EQ(neu.param.art, renn_art::runden);
         EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
         EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
+        neu.einst.hardware.hw_uart = true;
+        neu.form1.taste_F1();
+        EXPECT_FALSE(neu.fenster.ist_offen(fenstername::UART_Profildatei)) << "nobody sets the device up meanwhile";
+        neu.einst.hardware.hw_uart = false;
+        t.maschine.antwort = false;
+        neu.form1.schliessen();
+        EXPECT_EQ(t.maschine.fragen_gestellt.back().text, "Der Wettkampf ist noch nicht beendet. Wirklich beenden?");
+        EXPECT_EQ(t.maschine.beendet, 0);
+        t.maschine.antwort = true;
         neu.wettkampf2.Command5.klicken();
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
         EXPECT_TRUE(neu.form1.inhalt.aktiviert());
@@ -296,7 +351,36 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     anderer.starten();
     EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
-    EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
+    const auto liegen = anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk");
+    ASSERT_EQ(liegen.size(), 2U);
+    anderer.form1.Command3.klicken();
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
+    anderer.wettkampf1.Command9.klicken();
+    anderer.rundenspeichern.dateiliste.auswaehlen(0);
+    EXPECT_EQ(anderer.rundenspeichern.name.text(), liegen.front());
+    anderer.rundenspeichern.Command1.klicken();
+    EXPECT_EQ(anderer.wettkampfabend.stand(), vorher) << "an answer given too fast has lost nothing";
+}
+
+TEST_F(Wettkampfabend, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
+    beginnen(wettkampf_modus::rotation, 4, {1, 2});
+    rennen_fahren();
+    const zeit_ms ohne_pause = abend.stand().renndauern.front();
+    t.maschine.laufen(60000);
+    rennen_fahren();
+    EXPECT_GE(abend.stand().renndauern.front(), ohne_pause + 60000);
+    EXPECT_LT(abend.stand().renndauern.front(), ohne_pause + 61000);
+    const auto noch = abend.blick().dauert_noch;
+    ASSERT_TRUE(noch);
+    EXPECT_EQ(*noch / 2, (abend.stand().renndauern.front() + abend.stand().renndauern.back()) / 2) << "two races more";
+    auto gelesen = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt, einstellungen_aus_datei::lassen,
+                                   version_melden::nein);
+    ASSERT_TRUE(gelesen);
+    t.maschine.laufen(3600000);
+    abend.beginnen(std::move(*gelesen));
+    EXPECT_EQ(abend.blick().dauert_noch, noch);
+    rennen_fahren();
+    EXPECT_LT(abend.blick().dauert_noch, *noch) << "the time until it was taken up again is no race";
 }
 
 TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {

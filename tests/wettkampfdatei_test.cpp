@@ -24,6 +24,7 @@ wettkampf beispiel(m art) {
     w.qualifying_an = true;
     w.zwischenstand_an = true;
     w.rennlaenge = 330000;
+    w.renndauern = {412345, 398001};
     w.bilder.back() = "Käthe, neu.jpg";
     return w;
 }

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -73,8 +74,19 @@ void Fenster::zentrieren() {
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));
 }
 
+void Fenster::vor_sein_fenster_stellen() {
+    QWidget* vorn = QApplication::activeWindow();
+    const bool woanders = parentWidget() != nullptr && !parentWidget()->isVisible() && vorn != nullptr && vorn != this;
+    dahinter_ = woanders ? vorn : parentWidget();
+    if (dahinter_ != nullptr && dahinter_->windowHandle() != nullptr) {
+        winId();  // makes its handle
+        windowHandle()->setTransientParent(dahinter_->windowHandle());
+    }
+}
+
 void Fenster::aufschlagen() {
     if (!isVisible()) {
+        vor_sein_fenster_stellen();
         zentrieren();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -104,7 +116,7 @@ void Fensterverwaltung::verbergen(fenstername name) {
     Fenster* fenster = gefunden->second;
     const bool war_vorn = fenster->isActiveWindow();
     fenster->hide();
-    QWidget* dahinter = fenster->parentWidget();
+    QWidget* dahinter = fenster->dahinter();
     if (war_vorn && dahinter != nullptr && dahinter->isVisible()) {  // else the keys may reach no window at all
         dahinter->activateWindow();
     }

@@ -21,7 +21,7 @@ void zu_ende_fahren(wettkampf w) {
     fordern(w.aktuelles_rennen >= 1 && w.aktuelles_rennen <= w.rennen_gesamt(), "the current race is none");
     const int teile = w.rennen_gesamt() * w.plan.teile;
     for (int teil = 0; w.naechstes_offenes_rennen(); ++teil) {
-        fordern(teil < teile && abend_blicken(w, {}).noch > 0, "the evening has no end");
+        fordern(teil < teile && abend_blicken(w).noch > 0, "the evening has no end");
         fordern(w.ergebnis_eintragen(w.gebucht(1)), "an open race takes no result");
     }
     fordern(w.ende_pruefen() && w.uebergabe().rennen == 0, "the evening is over but has not ended");
@@ -68,6 +68,7 @@ std::vector<std::vector<std::string>> volle_wettkampfstaende(const texte& txt) {
             w.naechstes_offenes_rennen();
         }
         w.zurueckstellen(w.rennen_gesamt());
+        w.renndauern = {300000};
         std::vector<std::string> zeilen = wettkampf_zeilen(w, trennzeichen_standard);
         alle.push_back(zeilen);
         zeilen.erase(std::find(zeilen.begin(), zeilen.end(), "[Wettkampfzusatz 1]"), zeilen.end());
