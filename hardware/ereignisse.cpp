@@ -4,12 +4,6 @@
 #include <iterator>
 
 namespace tarvel {
-namespace {
-
-constexpr zeit_ms prellen_ms = 100;  // nobody drives a lap in it
-
-}  // namespace
-
 void ereignis_tabelle::ereignis_melden(ereignis_art nummer) {
     ereignis_zeile& zeile = (*this)[nummer];
     zeile.ereignis_zeit = messzeit;

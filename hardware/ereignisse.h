@@ -36,6 +36,9 @@ inline constexpr int sektorsensoren_max = 12;
 /// Event of the first sector sensor; those of all lanes follow it, two a lane.
 inline constexpr ereignis_art erste_zwischenzeit = 42;
 
+/// Nobody drives a lap in it.
+inline constexpr zeit_ms prellen_ms = 100;
+
 struct ereignis_zeile {
     bool aktiv = false;       ///< an edge waits for the race logic
     bool pegel = false;       ///< level read in this poll

@@ -102,7 +102,7 @@ void fortsetzung::spur_freigeben(int spur) {
     zustand.tank_kontakt = false;
     zustand.tankt_seit = 0;
     zustand.tank_wartezaehler = {};
-    zustand.tank_halt = false;
+    zustand.tank_halt = {};
     zustand.ch_durchfahrt = false;
 }
 

@@ -43,8 +43,8 @@ struct spur_zustand {
     dauer_hs tank_strafzaehler{};    ///< of the penalty of an empty tank
     bool tank_strafe_aktiv = false;  ///< serves the penalty of an empty tank
     zeitsperre tank_sperre;          ///< of that
-    bool tank_halt = false;          ///< held for a moment after a full tank
-    int sperrzaehler = 0;            ///< ticks by which the lock after a crossing is drawn out on the tank contact
+    zeitsperre tank_halt;            ///< held for a moment after a full tank
+    zeit_ms prellen_bis = 0;         ///< stamp up to which a crossing is the last one once more
     bool strom_aus = false;          ///< home, out or in a penalty: the track power is cut
     zeit_ms pause_im_stempel = 0;    ///< `gezaehlt_bei` has been moved behind a pause that was so long
     bool ch_durchfahrt = false;      ///< crossed the sensor while the pause was starting
@@ -59,6 +59,10 @@ struct spur_zustand {
     /// In that of an empty tank.
     bool tank_gesperrt(const ereignis_zeile& ueberfahrt) const {
         return tank_sperre.gilt(ueberfahrt.ereignis_zeit, ueberfahrt.verschoben != 0, tank_strafe_aktiv);
+    }
+    /// In the moment after a full tank.
+    bool tank_haelt(const ereignis_zeile& ueberfahrt) const {
+        return tank_halt.gilt(ueberfahrt.ereignis_zeit, ueberfahrt.verschoben != 0, false);
     }
 
     /// What the time penalty adds to a lap: as many thousandths as it has seconds. Its seconds are added to the result.

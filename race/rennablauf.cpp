@@ -97,7 +97,7 @@ void rennablauf::rennstart_vorbereiten() {
     rennen_zuruecksetzen();
     um_.ereignisse.ruhe_herstellen();
     for (spur_zustand& spur : um_.zustand.spur) {
-        spur.tank_halt = false;
+        spur.tank_halt = {};
         spur.strafzeit = {};
     }
     t_.uhr.restzeit_vorbereiten(um_.param.renn_ziel);

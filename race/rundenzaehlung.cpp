@@ -17,14 +17,7 @@ bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
 }
 
 bool rundenzaehlung::zu_nah(int spur, zeit_ms stempel) const {
-    constexpr zeit_ms sperre_ms = 100;  // as `tankwartetimer`
-    return stempel - um_.zustand.spur[spur].gezaehlt_bei < sperre_ms;
-}
-
-bool rundenzaehlung::gesperrt(int spur, zeit_ms stempel) const {
-    // What a device has told late is as far apart as it says, however soon it comes one after the other.
-    return um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft() &&
-           (zu_nah(spur, stempel) || um_.zustand.spur[spur].sperrzaehler > 0);
+    return stempel - um_.zustand.spur[spur].gezaehlt_bei < prellen_ms;
 }
 
 zeit_ms rundenzaehlung::rundenzeit_messen(int spur, const ereignis_zeile& ereignis) {
@@ -49,9 +42,9 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, const ereignis_zeile& ereign
 bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(ereignis) &&
-           (!zustand.tank_halt || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
+           (!zustand.tank_haelt(ereignis) || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
            (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_gesperrt(ereignis) && !zustand.ziel_erreicht && !gesperrt(spur, ereignis.ereignis_zeit);
+           !zustand.tank_gesperrt(ereignis) && !zustand.ziel_erreicht && ereignis.ereignis_zeit >= zustand.prellen_bis;
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {
@@ -60,7 +53,7 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereig
     zustand.sensor_sperre = sensorsperre::eben_gezaehlt;
     zustand.gezaehlt_bei = stempel;
     zustand.pause_im_stempel = ereignis.verschoben;
-    um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
+    zustand.prellen_bis = stempel + prellen_ms;
     rundenkonto& konto = um_.zustand.konto;
     const bool voll = konto.runden(spur) == runden_max;
     if (!voll) {

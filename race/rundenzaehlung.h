@@ -35,7 +35,6 @@ private:
     zeit_ms rundenzeit_messen(int spur, const ereignis_zeile& ereignis);
     /// Right behind the crossing that was counted last.
     bool zu_nah(int spur, zeit_ms stempel) const;
-    bool gesperrt(int spur, zeit_ms stempel) const;
     bool zaehlt(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) const;
     void zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis);
     void ueberfahrt_auswerten(int spur);

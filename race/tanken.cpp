@@ -14,6 +14,7 @@ constexpr farbe hellrot = 0x8080FF;
 constexpr farbe gruen = 0x00C000;
 constexpr double schritt_liter = 0.1;
 constexpr zeit_ms schritt_ms = 10;
+constexpr zeit_ms halt_ms = 500;
 constexpr double tank_liter_drei_stellen = 100;
 
 double runden_auf(double wert, double je_eins) {
@@ -45,9 +46,7 @@ double verbrauch(zeit_ms zeit, int liter_je_runde, dauer_s rundenzeit) {
 tanken::tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige) : um_(um), strafen_(s), anzeige_(anzeige) {
     for (const int spur : alle_spuren) {
         um_.zeitgeber.tanktimer[spur]->bei_tick = [this, spur] { tanktimer_tick(spur); };
-        um_.zeitgeber.wartetimer[spur]->bei_tick = [this, spur] { wartetimer_tick(spur); };
         um_.zeitgeber.t_straftimer[spur]->bei_tick = [this, spur] { t_straftimer_tick(spur); };
-        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->bei_tick = [this, spur] { tankwartetimer_tick(spur); };
     }
 }
 
@@ -55,7 +54,6 @@ void tanken::zuruecksetzen() {
     const bool eigener_tank = um_.quellen.kann().eigener_tank;
     for (const int spur : alle_spuren) {
         um_.zeitgeber.tanktimer[spur]->aus();
-        um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
         if (!eigener_tank) {
             um_.zustand.spur[spur].tank_inhalt = um_.einst.tank_inhalt;
@@ -92,21 +90,15 @@ void tanken::sensoren_nachhalten() {
     if (!um_.param.tank_aktiv || um_.einst.tank_art != tankweise::auf_einem_kontakt) {
         return;
     }
+    const zeit_ms dauer = um_.einst.tanksensor_justierung * prellen_ms;
     for (const int spur : alle_spuren) {
-        const bool gemeldet = um_.ereignisse[art::rundenzaehlung[spur]].aktiv ||
-                              um_.ereignisse[art::tanken_ein[spur]].aktiv ||
-                              um_.ereignisse[art::tanken_aus[spur]].aktiv;
-        if (gemeldet && um_.zeitgeber.tankwartetimer.at(feld_index(spur))->laeuft()) {
-            um_.zustand.spur[spur].sperrzaehler = um_.einst.tanksensor_justierung;
+        zeit_ms& bis = um_.zustand.spur[spur].prellen_bis;
+        for (const ereignis_art art : {art::rundenzaehlung[spur], art::tanken_ein[spur], art::tanken_aus[spur]}) {
+            const ereignis_zeile& zeile = um_.ereignisse[art];
+            if (zeile.aktiv && zeile.ereignis_zeit < bis) {
+                bis = std::max(bis, zeile.ereignis_zeit + dauer);
+            }
         }
-    }
-}
-
-void tanken::tankwartetimer_tick(int spur) {
-    int& rest = um_.zustand.spur[spur].sperrzaehler;
-    rest = std::max(rest - 1, 0);
-    if (rest == 0) {
-        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->aus();
     }
 }
 
@@ -190,8 +182,7 @@ void tanken::tank_alle_spuren() {
 void tanken::tanken_spur(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     if (um_.quellen.kann().kontakte_wiederholt) {
-        um_.zeitgeber.tankwartetimer.at(feld_index(spur))->an();
-        zustand.sperrzaehler = std::max(zustand.sperrzaehler, 1);  // whatever the stamps say
+        zustand.prellen_bis = std::max(zustand.prellen_bis, zustand.tankt_seit + prellen_ms);
     }
     if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
         const double vorher = zustand.tank_inhalt;
@@ -209,8 +200,7 @@ void tanken::voll(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
     um_.zeitgeber.tanktimer[spur]->aus();
     if (um_.einst.tank_runden_modus != rundenzaehlung_auf::keinem_tanksensor) {
-        zustand.tank_halt = true;
-        um_.zeitgeber.wartetimer[spur]->an();
+        zustand.tank_halt = {zustand.tankt_seit, zustand.tankt_seit + halt_ms};
     }
     zustand.tank_wartezaehler = {};
     zustand.tank_kontakt = false;
@@ -295,7 +285,6 @@ void tanken::beenden() {
     for (const int spur : alle_spuren) {
         spur_zustand& zustand = um_.zustand.spur[spur];
         um_.zeitgeber.tanktimer[spur]->aus();
-        um_.zeitgeber.wartetimer[spur]->aus();
         um_.zeitgeber.t_straftimer[spur]->aus();
         zustand.tank_strafe_aktiv = false;
         zustand.tank_sperre.bis = std::min(zustand.tank_sperre.bis, um_.zeit.messzeit_lesen());
@@ -321,13 +310,6 @@ void tanken::tanktimer_tick(int spur) {
     if (++zustand.tank_wartezaehler >= um_.einst.tank_wartezeit) {
         um_.zeitgeber.tanktimer[spur]->aus();
         zustand.tank_wartezaehler = {};
-    }
-}
-
-void tanken::wartetimer_tick(int spur) {
-    um_.zustand.spur[spur].tank_halt = false;
-    if (!um_.zustand.spur[spur].tank_kontakt) {
-        um_.zeitgeber.wartetimer[spur]->aus();
     }
 }
 

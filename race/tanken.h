@@ -45,8 +45,6 @@ private:
     void tankfarbe(int spur, farbe neu);
 
     void tanktimer_tick(int spur);
-    void tankwartetimer_tick(int spur);
-    void wartetimer_tick(int spur);
     /// The lap that is held back would be the last, with nothing left to drive: the penalty comes on top of it. For any
     /// other lap it has cost its time on the track.
     bool letzte_runde(int spur) const;

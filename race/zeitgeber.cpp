@@ -30,9 +30,6 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
       chaos_schalter_at2560(dienst.erzeugen(zeitgeber_art::zaehlend, 200ms)),
       f_straftimer(dienst.erzeugen(zeitgeber_art::zaehlend, 10ms)),
       f_straftimer2(dienst.erzeugen(zeitgeber_art::zaehlend, 0ms)) {
-    for (auto& sperre : tankwartetimer) {
-        sperre = dienst.erzeugen(zeitgeber_art::abfragend, 100ms);
-    }
     for (auto& sperre : soundtrigger) {
         sperre = einmalig(dienst, 3000ms);
     }
@@ -41,7 +38,6 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
     }
     for (const int spur : alle_spuren) {
         tanktimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10ms);
-        wartetimer[spur] = dienst.erzeugen(zeitgeber_art::abfragend, 500ms);
         t_straftimer[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 10ms);
         straftimer_ch[spur] = dienst.erzeugen(zeitgeber_art::zaehlend, 12ms);
     }
@@ -76,9 +72,6 @@ void rennzeitgeber::alle_aus() const {
     nachlauftimer1->aus();
     f_straftimer->aus();
     f_straftimer2->aus();
-    for (const auto& sperre : tankwartetimer) {
-        sperre->aus();
-    }
     for (const auto& sperre : soundtrigger) {
         sperre->aus();
     }
@@ -87,7 +80,6 @@ void rennzeitgeber::alle_aus() const {
     }
     for (const int spur : alle_spuren) {
         tanktimer[spur]->aus();
-        wartetimer[spur]->aus();
         t_straftimer[spur]->aus();
     }
 }

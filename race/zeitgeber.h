@@ -30,16 +30,13 @@ struct rennzeitgeber {
     spuren<std::unique_ptr<plattform::zeitgeber>> straftimer_ch;  ///< power penalty of a pause
     std::unique_ptr<plattform::zeitgeber> f_straftimer;   ///< counts the false-start penalty in hundredths of a second
     std::unique_ptr<plattform::zeitgeber> f_straftimer2;  ///< keeps the lanes locked for one minimum lap after it
-    spuren<std::unique_ptr<plattform::zeitgeber>> tanktimer;   ///< wait before refuelling, in hundredths of a second
-    spuren<std::unique_ptr<plattform::zeitgeber>> wartetimer;  ///< ends the hold of a lane with a full tank
+    spuren<std::unique_ptr<plattform::zeitgeber>> tanktimer;  ///< wait before refuelling, in hundredths of a second
     spuren<std::unique_ptr<plattform::zeitgeber>>
         t_straftimer;  ///< penalty of an empty tank, in hundredths of a second
     /// Lock-out of each sector sensor, index is its event - `erste_zwischenzeit`.
     std::array<std::unique_ptr<plattform::zeitgeber>, sektorsensoren_max> sekt_timer;
     /// Hold-off of each sound sensor.
     std::array<std::unique_ptr<plattform::zeitgeber>, soundsensoren_max> soundtrigger;
-    /// One per lane, index lane - 1: blocks the next crossing after a counted lap.
-    std::array<std::unique_ptr<plattform::zeitgeber>, spuren_max> tankwartetimer;
 
     void rennen_an() const;
     void rennen_aus() const;

@@ -122,6 +122,96 @@ TEST_F(At2560, EineUhrDieUmlaeuftOderNeuBeginntZaehltWeiter) {
     EXPECT_EQ(rundenzeit(1, 5) + rundenzeit(1, 6), 11998) << "but for one damaged event it runs on";
 }
 
+/// Events found late, after the program has stood still, are judged as of their moments.
+TEST_F(At2560, SperrenEndenNachDemStempelWasImmerStillstand) {
+    at_profil profil;
+    profil.at_ereignis.at(at_zeile::tanken_ein(1)) = "e7";
+    profil.at_ereignis.at(at_zeile::tanken_ein(2)) = "e9";
+    profil.at_ereignis.at(at_zeile::tanken_ein(3)) = "e11";
+    a.oeffnen(profil);
+    a.t.p.form1.t_aktiv.gesetzt(true);
+    einstellungen& einst = a.t.p.einst;
+    einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    einst.tank_strafzeit = 8s;
+    einst.tank_wartezeit = 0s;
+    einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
+    einst.fruehstart_strafzeit = 5s;
+    zeit_ms beginn = 0;
+    const auto alle_bei = [&](zeit_ms zeit, const std::array<std::string, 3>& namen) {
+        a.t.maschine.laufen(beginn + zeit - jetzt());
+        for (const std::string& name : namen) {
+            a.sagt(":" + name + "," + std::to_string(zeit) + ";");
+        }
+        a.t.maschine.laufen(5);
+    };
+    const auto rennen = [&](double liter) {
+        a.t.starten("Runden", "20", {1, 2, 3});
+        beginn = jetzt();
+        a.sagt(":T,0;");
+        alle_bei(100, {"S13", "S11", "S9"});
+        for (const int spur : {1, 2, 3}) {
+            a.t.spur(spur).tank_inhalt = liter;
+        }
+    };
+    const auto leerer_tank = [&] {
+        rennen(1);
+        alle_bei(8000, {"S13", "S11", "S9"});
+        a.t.spur(2).tank_inhalt = 60;
+        return zeit_ms{16000};
+    };
+    const auto voller_tank = [&] {
+        einst.tank_runden_modus = rundenzaehlung_auf::tanksensor_1;
+        rennen(10);
+        alle_bei(8000, {"e7", "e9", "e11"});
+        while (a.t.spur(3).tank_inhalt < einst.tank_inhalt) {
+            a.t.maschine.laufen(1);
+        }
+        return jetzt() - beginn + 500;
+    };
+    const auto fruehstart = [&] {
+        a.t.einrichten("Runden", "20", {1, 2, 3});
+        einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+        a.t.bahn().Command1.klicken();
+        a.t.maschine.laufen(3000);
+        a.sagt(":S13,0;:S11,0;:S9,0;");
+        while (!a.t.p.rennen.zeitgeber.renntimer->laeuft()) {
+            a.t.maschine.laufen(1);
+        }
+        beginn = jetzt();
+        a.sagt(":T,0;");
+        return zeit_ms{5000 + a.t.p.param.min_rundenzeit_ms};
+    };
+    struct fall {
+        std::string sperre;
+        std::function<zeit_ms()> beginnen;  ///< gives the moment at which it ends
+    };
+    for (const fall& f :
+         {fall{"empty tank", leerer_tank}, fall{"full tank", voller_tank}, fall{"false start", fruehstart}}) {
+        SCOPED_TRACE(f.sperre);
+        const zeit_ms ende = f.beginnen();
+        a.t.maschine.laufen(std::max<zeit_ms>(beginn + ende - 2000 - jetzt(), 0));
+        a.t.maschine.uhr_stellen(20000);
+        const auto bei = [&](const std::string& name, zeit_ms spaeter) {
+            return ":" + name + "," + std::to_string(ende + spaeter) + ";";
+        };
+        a.sagt(bei("S13", -200) + bei("S11", 200));
+        a.t.maschine.laufen(2);
+        EXPECT_EQ(a.t.spur(2).gezaehlt_bei, beginn + ende + 200) << "behind it each lap counts";
+        a.t.maschine.laufen(1000);
+        const int runden = a.t.runden(2);
+        a.sagt(bei("S9", -200));
+        a.t.maschine.laufen(5);
+        a.t.maschine.uhr_stellen(1000);
+        a.sagt(bei("S11", 6200) + bei("S11", 12200));
+        a.t.maschine.laufen(5);
+        EXPECT_EQ(a.t.runden(2), runden + 2) << "also two that come at once";
+        for (const int spur : {1, 3}) {
+            EXPECT_LT(a.t.spur(spur).gezaehlt_bei, beginn + ende - 200) << "in it nothing does, whenever it is told";
+        }
+        a.t.bahn().Command2.klicken();
+    }
+}
+
 TEST_F(At2560, VersatzWirdJeRennenEinmalGeholt) {
     ereignis_zeile& runde = a.zeile(16);
     a.oeffnen();

@@ -113,6 +113,58 @@ TEST_F(Wiedereingesteckt, ImRennenWirdEsVermisstGesuchtUndWiederAufgenommen) {
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 
+TEST_F(Wiedereingesteckt, InDerPauseZurueckMisstEsWeiterAlsWaereNichtsGewesen) {
+    t.p.einst.chaosampel_an = false;
+    for (const bool erst_in_der_pause : {true, false}) {
+        SCOPED_TRACE(erst_in_der_pause);
+        einschalten(&messhardware::hw_uart);
+        t.starten("Runden", "20", {1});
+        zeit_ms uhr_seit = t.maschine.jetzt();
+        const auto sagt = [&](const std::string& name) {
+            t.maschine.anschluesse.senden(com, ":" + name + "," + std::to_string(t.maschine.jetzt() - uhr_seit) + ";");
+        };
+        const auto pause_umschalten = [&] {
+            t.bahn().Command3.klicken();
+            t.maschine.laufen(3000);
+        };
+        const auto runde_nach = [&](zeit_ms dauer) {
+            t.maschine.laufen(dauer - 10);
+            sagt("S13");
+            t.maschine.laufen(10);
+        };
+        sagt("T");
+        runde_nach(1000);
+        runde_nach(8000);
+        if (erst_in_der_pause) {
+            pause_umschalten();
+        }
+        t.maschine.anschluesse.abziehen(com);
+        t.maschine.laufen(2000);
+        EXPECT_TRUE(t.bahn().geraetealarm.sichtbar());
+        if (!erst_in_der_pause) {
+            pause_umschalten();
+        }
+        t.maschine.anschluesse.da = {com};
+        t.maschine.laufen(2500);
+        uhr_seit = t.maschine.jetzt();
+        gesendet();
+        t.maschine.laufen(at_bootzeit.count());
+        EXPECT_FALSE(t.bahn().geraetealarm.sichtbar());
+        EXPECT_NE(gesendet().find(":T;"), std::string::npos);
+        sagt("T");
+        t.maschine.laufen(1000);
+        pause_umschalten();
+        ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+        runde_nach(4000);
+        runde_nach(8000);
+        const rundenkonto& konto = t.p.rennen.zustand.konto;
+        EXPECT_EQ(konto.rundenzeit(1, 1), 8000);
+        EXPECT_EQ(konto.rundenzeit(1, 2), (erst_in_der_pause ? 0 : 2000) + 3000 + 4000);
+        EXPECT_EQ(konto.rundenzeit(1, 3), 8000);
+        t.bahn().Command2.klicken();
+    }
+}
+
 TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
     einschalten(&messhardware::hw_cu);
     t.einrichten("Runden", "20", {1});

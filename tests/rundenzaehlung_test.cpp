@@ -119,7 +119,7 @@ TEST_F(Rundenzaehlung, GesperrteUndAusgeschiedeneSpurenZaehlenNicht) {
     EXPECT_EQ(t.bahn().zaehler[2].text(), "Dis.");
     EXPECT_EQ(t.runden(3), -1) << "not in the race";
     t.spur(1).tank_strafe_aktiv = false;
-    t.spur(1).tank_halt = true;
+    t.spur(1).tank_halt = {zeitsperre::seit_immer, -zeitsperre::seit_immer};
     t.runde_nach(8000, "1");
     EXPECT_EQ(t.runden(1), 0);
     t.p.einst.tank_art = tankweise::zwischen_zwei_kontakten;
