@@ -56,16 +56,16 @@ void rennansicht::geraetealarm_setzen(const std::string& text) {
     alarm.sichtbar(!text.empty());
 }
 
-std::string rennansicht::ziel_text() const {
-    const bahn1& bahn = um_.bahn;
-    std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
-    if (um_.ist_zeitrennen()) {
-        const zeit_teile dauer = zeit_zerlegen(um_.param.renn_ziel);
-        ziel = dauer.stunden > 0 ? std::to_string(dauer.stunden) + " " + bahn.wort.stunden + " " : "";
-        ziel += std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +
-                bahn.wort.minuten;
+std::string rennansicht::ziel_text(renn_art art, zeit_ms ziel) const {
+    if (art == renn_art::runden) {
+        return std::to_string(ziel) + " " + um_.txt.text_runden;
     }
-    return ziel;
+    const bahn1& bahn = um_.bahn;
+    const zeit_teile dauer = zeit_zerlegen(ziel);
+    const std::string stunden =
+        dauer.stunden > 0 ? std::to_string(dauer.stunden) + " " + bahn.wort.stunden + " " : std::string();
+    return stunden + std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +
+           bahn.wort.minuten;
 }
 
 void rennansicht::ansagen_setzen() {
