@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -73,6 +74,18 @@ void Fenster::zentrieren() {
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));
 }
 
+void Fenster::vor_sein_fenster_stellen() {
+    QWidget* vorn = QApplication::activeWindow();
+    const bool woanders = parentWidget() != nullptr && !parentWidget()->isVisible() && vorn != nullptr && vorn != this;
+    dahinter_ = woanders ? vorn : parentWidget();
+    if (woanders) {
+        winId();  // makes its handle
+    }
+    if (windowHandle() != nullptr && dahinter_ != nullptr) {
+        windowHandle()->setTransientParent(dahinter_->windowHandle());
+    }
+}
+
 void Fenster::aufschlagen() {
     if (!isVisible()) {
         zentrieren();
@@ -91,6 +104,7 @@ void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
     Fenster* fenster = gefunden->second;
     if (!fenster->isVisible()) {
         fenster->setWindowModality(art == anzeige_art::modal ? Qt::ApplicationModal : Qt::NonModal);
+        fenster->vor_sein_fenster_stellen();
     }
     takt_.ausfuehren();
     fenster->aufschlagen();
@@ -104,7 +118,7 @@ void Fensterverwaltung::verbergen(fenstername name) {
     Fenster* fenster = gefunden->second;
     const bool war_vorn = fenster->isActiveWindow();
     fenster->hide();
-    QWidget* dahinter = fenster->parentWidget();
+    QWidget* dahinter = fenster->dahinter();
     if (war_vorn && dahinter != nullptr && dahinter->isVisible()) {  // else the keys may reach no window at all
         dahinter->activateWindow();
     }

@@ -24,6 +24,10 @@ public:
     fenstername kennung() const { return logik_.kennung(); }
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
+    /// In front of its parent or, while that is hidden, of the window that it is opened from.
+    void vor_sein_fenster_stellen();
+    /// That window: there the keys go when this one is hidden; null for nowhere.
+    QWidget* dahinter() const { return dahinter_; }
     /// The Escape key, unless an open choice takes it; closes the window if its logic wants that.
     std::function<void()> bei_escape;
     /// The window has come to the front.
@@ -42,6 +46,7 @@ private:
 
     fensterlogik& logik_;
     Binder binder_;
+    QPointer<QWidget> dahinter_;
 };
 
 /// Opens a dialog of the desktop so that no window of the program comes in front of it, like a message box.

@@ -1,5 +1,6 @@
 #include <QListView>
 #include <QScrollBar>
+#include <QWindow>
 #include <map>
 
 #include "competition/rangliste.h"
@@ -66,6 +67,17 @@ TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
     auf_einer_hoehe();
     EXPECT_EQ(namen->currentIndex().row(), 98);
     EXPECT_FALSE(stand.Command2.bedienbar()) << "nothing is behind the last row";
+}
+
+TEST_F(Wettkampffenster, GesichertWirdVorDemFensterDasManSieht) {
+    abend.beginnen(test::vereinswettkampf::neu(m::gruppen, 6, {1, 3}));
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.wettkampf2));
+    klick(o.wettkampf2, "wettkampf2.Command1");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.rundenspeichern));
+    EXPECT_EQ(o.rundenspeichern.windowHandle()->transientParent(), o.wettkampf2.windowHandle());
+    klick(o.rundenspeichern, "rundenspeichern.Command2");
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&o.wettkampf2)) << "its keys work again";
 }
 
 TEST_F(Wettkampffenster, BlattVerliertKeineZeile) {
