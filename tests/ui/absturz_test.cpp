@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include "competition/wettkampfdatei.h"
+#include "competition/wettkampfspeicher.h"
 #include "core/dateien.h"
 #include "core/ordner.h"
 #include "platform_qt/qt_dateisystem.h"
@@ -20,9 +22,10 @@ protected:
     void schreiben_und_toeten(int ms, bool im_schreiben) {
         schreibreste_loeschen(ablage);  // left over from the writer before
         QProcess schreiber;
-        schreiber.start(TARVEL_DAUERSCHREIBER, {QString::fromStdU16String(maschine.ordner().u16string())});
+        const QString ordner = QString::fromStdU16String(maschine.ordner().u16string());
+        schreiber.start(TARVEL_DAUERSCHREIBER, {ordner, abend ? "abend" : ""});
         ASSERT_TRUE(schreiber.waitForStarted());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return maschine.datei_da(test::dauer_datei) && reste() > 0; }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return ablage.gibt_es(datei) && reste() > 0; }, 20000));
         QTest::qSleep(ms);
         for (const QDeadlineTimer frist(2000); im_schreiben && reste() == 0 && !frist.hasExpired();) {
         }
@@ -33,13 +36,15 @@ protected:
 
     std::ptrdiff_t reste() const {
         std::error_code egal;
-        const std::filesystem::directory_iterator ordner(maschine.ordner() / "Einstellungen", egal);
+        const std::filesystem::directory_iterator ordner(ablage.pfad(datei).parent_path(), egal);
         return std::count_if(begin(ordner), end(ordner),
                              [](const auto& eintrag) { return eintrag.path().extension() == ".tarvel-neu"; });
     }
 
     test::test_plattform maschine;
     dateien ablage{maschine.ordner()};
+    std::string_view datei = test::dauer_datei;
+    bool abend = false;  ///< its state is written
 };
 
 TEST_F(Absturz, MittenImSchreibenBleibtDieAlteOderDieNeueDatei) {
@@ -58,6 +63,22 @@ TEST_F(Absturz, MittenImSchreibenBleibtDieAlteOderDieNeueDatei) {
     EXPECT_EQ(ablage.auflisten("Einstellungen", "", ""), std::vector<std::string>{"dauer.ini"});
     schreibreste_loeschen(ablage);
     EXPECT_EQ(reste(), 0);
+}
+
+TEST_F(Absturz, EinAbendIstImmerGanzDa) {
+    abend = true;
+    datei = laufender_wettkampf;
+    const texte txt;
+    constexpr int male = 16;
+    int angefangene = 0;
+    for (int mal = 0; mal < male; ++mal) {
+        ASSERT_NO_FATAL_FAILURE(schreiben_und_toeten(1 + mal * 7 % male, mal % 2 == 0));
+        const auto gelesen = wettkampf_lesen(*ablage.zeilen_lesen(datei, 10000), wettkampf_annahme{txt});
+        ASSERT_TRUE(gelesen) << "after kill " << mal;
+        EXPECT_TRUE(*gelesen == test::dauer_abend(false) || *gelesen == test::dauer_abend(true));
+        angefangene += reste() > 0 ? 1 : 0;
+    }
+    EXPECT_GT(angefangene, 0) << "no kill fell into the writing";
 }
 
 TEST(Dateisystem, NeueDateiFolgtKeinemVerweisUndUeberschreibtNichts) {
