@@ -40,7 +40,6 @@ bool rennautomat::vorbei() {
 
 void rennautomat::auf_naechstes_rennen(dauer_ms wartezeit) {
     beginnen(w_auto1_, std::chrono::ceil<dauer_s>(wartezeit));
-    folgen_.wartezeit_zeigen();
 }
 
 void rennautomat::w_auto1_tick() {

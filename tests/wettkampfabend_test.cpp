@@ -6,6 +6,7 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
+#include "results/ergebnisdatei.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -258,6 +259,7 @@ TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {
     for (const auto modus : {bestzeit_speicherung::manuell, bestzeit_speicherung::automatisch}) {
         t.p.einst.beste_modus = modus;
         beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+        EXPECT_FALSE(abend.unterbrochen()) << "that was another evening";
         ASSERT_TRUE(abend.rennen_starten());
         t.maschine.laufen(4000);
         runden_fahren(3);
@@ -278,6 +280,18 @@ TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
         t.bahn().Command2.klicken();
     }
+}
+
+TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {
+    beginnen(wettkampf_modus::rotation, 2, {1, 2});
+    rennen_fahren();
+    EXPECT_FALSE(abend.nicht_gesichert());
+    t.maschine.nicht_schreibbar = "Vereinsabend-" + ergebnis_stempel(t.maschine.dienste().kalender.jetzt()) + ".csv";
+    rennen_fahren();
+    EXPECT_TRUE(abend.stand().ende_pruefen() && abend.nicht_gesichert());
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    abend.beenden();
+    EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
 }
 
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
@@ -322,8 +336,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         neu.einst.hardware.hw_uart = false;
         t.maschine.antwort = false;
         neu.form1.schliessen();
-        EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
-                  "Der Wettkampf ist noch nicht beendet. Wirklich beenden?");
+        EXPECT_EQ(t.maschine.fragen_gestellt.back().text, "Der Wettkampf ist noch nicht beendet. Wirklich beenden?");
         EXPECT_EQ(t.maschine.beendet, 0);
         t.maschine.antwort = true;
         neu.wettkampf2.Command5.klicken();

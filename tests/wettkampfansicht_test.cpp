@@ -46,12 +46,14 @@ TEST_F(Wettkampfansicht, ReihenfolgeWirdBehaltenUndAllesFolgtDemRennen) {
     EXPECT_EQ(stand.List_je[2].markiert(), stand.List_balken.markiert());
     EXPECT_EQ(rang.List_name.zeilen(), rangschreiben(abend.stand(), sortier_modus::beste, t.p.einst.trennzeichen));
     EXPECT_NE(stand.Label_stand.text().find("nach 5 von 5 Rennen"), std::string::npos);
+    EXPECT_NE(rang.Label_stand.text().find("nach 5 von 5 Rennen"), std::string::npos);
     EXPECT_FALSE(stand.List_je[1].sichtbar()) << "nobody drives there";
 
     abend.aendern([](wettkampf& w) {
         w.wertung = static_cast<sortier_modus>(7);
         return true;
     });
+    EXPECT_EQ(rang.cbo_sortierung.platz(), 1);
     t.p.fenster.neu_laden(fenstername::rangliste);
     EXPECT_EQ(abend.stand().wertung, sortier_modus::runden);
     abend.beenden();
