@@ -250,6 +250,10 @@ TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
     t.maschine.laufen(6000);
     EXPECT_TRUE(offen(fenstername::bahn1));
     EXPECT_TRUE(strom(1));
+    abend.automatik_umschalten();
+    t.maschine.laufen(10000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "switched off is off";
+    EXPECT_FALSE(abend.automatik_an());
 }
 
 TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {

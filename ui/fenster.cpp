@@ -78,15 +78,16 @@ void Fenster::vor_sein_fenster_stellen() {
     QWidget* vorn = QApplication::activeWindow();
     const bool woanders = parentWidget() != nullptr && !parentWidget()->isVisible() && vorn != nullptr && vorn != this;
     dahinter_ = woanders ? vorn : parentWidget();
-    if (dahinter_ != nullptr && dahinter_->windowHandle() != nullptr) {
+    if (woanders) {
         winId();  // makes its handle
+    }
+    if (windowHandle() != nullptr && dahinter_ != nullptr) {
         windowHandle()->setTransientParent(dahinter_->windowHandle());
     }
 }
 
 void Fenster::aufschlagen() {
     if (!isVisible()) {
-        vor_sein_fenster_stellen();
         zentrieren();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -103,6 +104,7 @@ void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
     Fenster* fenster = gefunden->second;
     if (!fenster->isVisible()) {
         fenster->setWindowModality(art == anzeige_art::modal ? Qt::ApplicationModal : Qt::NonModal);
+        fenster->vor_sein_fenster_stellen();
     }
     takt_.ausfuehren();
     fenster->aufschlagen();

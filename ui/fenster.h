@@ -24,7 +24,9 @@ public:
     fenstername kennung() const { return logik_.kennung(); }
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
-    /// Where the keys go when it is hidden; null for nowhere.
+    /// In front of its parent or, while that is hidden, of the window that it is opened from.
+    void vor_sein_fenster_stellen();
+    /// That window: there the keys go when this one is hidden; null for nowhere.
     QWidget* dahinter() const { return dahinter_; }
     /// The Escape key, unless an open choice takes it; closes the window if its logic wants that.
     std::function<void()> bei_escape;
@@ -41,8 +43,6 @@ protected:
 private:
     /// A window or box that waits for an answer comes in front again, when this one has been clicked at.
     void nach_vorn_lassen();
-    /// The window's parent, or the window that it is opened from while that is hidden.
-    void vor_sein_fenster_stellen();
 
     fensterlogik& logik_;
     Binder binder_;
