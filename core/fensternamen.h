@@ -28,6 +28,8 @@ namespace tarvel {
     F(cu_eigenschaften)       \
     F(Tastaturbelegung)       \
     F(fahrerbild_laden)       \
+    F(w_ausw_debug)           \
+    F(w_auswertung2)          \
     F(UART_einstellungen)     \
     F(UART_Profildatei)       \
     F(Update_form)            \

@@ -70,6 +70,7 @@ programm::programm(const plattform::dienste& d)
       wettkampf2(wettkampf_->wettkampf2),
       rangliste(wettkampf_->rangliste),
       w_auswertung(wettkampf_->w_auswertung),
+      w_auswertung2(ergebnisse_->w_auswertung2),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };

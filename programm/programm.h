@@ -43,6 +43,7 @@ class tagesrennen;
 class tastaturbelegung;
 class update_form;
 class w_auswertung;
+class w_auswertung2;
 class veranstaltung;
 class wertung;
 class wettkampf1;
@@ -130,6 +131,7 @@ public:
     tarvel::wettkampf2& wettkampf2;
     tarvel::rangliste& rangliste;
     tarvel::w_auswertung& w_auswertung;
+    tarvel::w_auswertung2& w_auswertung2;
     messgeraete& geraete;
 
 private:

@@ -33,7 +33,7 @@ struct spalte {
 
 class bilder {
 public:
-    bilder(const ergebnistabelle& tabelle, const ansicht_worte& wort, const ansicht_wahl& wahl)
+    bilder(const ergebnistabelle& tabelle, const ansicht_worte& wort, const detailwahl& wahl)
         : t_(tabelle), wort_(wort), wahl_(wahl) {
         for (std::size_t i = 0; i < t_.zeilen.size(); ++i) {
             auto fahrer = t_.zeilen[i].ergebnis ? fahrerzeile_von(t_, t_.zeilen[i]) : std::nullopt;
@@ -218,7 +218,7 @@ private:
 
     const ergebnistabelle& t_;
     const ansicht_worte& wort_;
-    const ansicht_wahl& wahl_;
+    const detailwahl& wahl_;
     std::vector<std::pair<std::size_t, fahrerzeile>> fahrer_;  ///< with their places in the table
     std::vector<spalte> spalten_;
 };
@@ -226,11 +226,11 @@ private:
 }  // namespace
 
 ergebnisansicht ergebnisansicht_bilden(const ergebnistabelle& tabelle, const ansicht_worte& wort,
-                                       const ansicht_wahl& wahl) {
+                                       const detailwahl& wahl) {
     return bilder(tabelle, wort, wahl).bilden();
 }
 
-ansicht_wahl moegliche_details(const ergebnistabelle& tabelle) {
+detailwahl moegliche_details(const ergebnistabelle& tabelle) {
     switch (tabelle.typ) {
         case ergebnis_typ::einzelrennen:
             return {true, true, false, {}};

@@ -14,7 +14,7 @@ struct ansicht_worte {
 };
 
 /// What of the table is shown.
-struct ansicht_wahl {
+struct detailwahl {
     bool runden = false;  ///< of lanes and heats, or the laps of a race
     bool meter = false;   ///< of lanes
     bool beste = false;   ///< of lanes and heats
@@ -34,9 +34,9 @@ struct ergebnisansicht {
 };
 
 ergebnisansicht ergebnisansicht_bilden(const ergebnistabelle& tabelle, const ansicht_worte& wort,
-                                       const ansicht_wahl& wahl);
+                                       const detailwahl& wahl);
 
 /// The file has such details.
-ansicht_wahl moegliche_details(const ergebnistabelle& tabelle);
+detailwahl moegliche_details(const ergebnistabelle& tabelle);
 
 }  // namespace tarvel

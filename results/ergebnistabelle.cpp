@@ -83,8 +83,18 @@ bool rennen_lesen(ergebnistabelle& t, textzeilen zeilen) {
     return true;
 }
 
-void tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
+/// The mark of another kind of file within a day race: two files have become one.
+bool ist_gemischt(const textzeilen& zeilen) {
+    return std::any_of(zeilen.begin(), zeilen.end(), [](const std::string& zeile) {
+        return zeile == magie_einzelrennen || zeile == magie_wettkampf || zeile == magie_jeder_gegen_jeden;
+    });
+}
+
+bool tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
     const bool tagesrennen = t.typ == ergebnis_typ::tagesrennen;
+    if (tagesrennen && ist_gemischt(zeilen)) {
+        return false;
+    }
     if (!tagesrennen) {
         zeilen.pop_back();  // what told the kind of the file
     }
@@ -94,6 +104,7 @@ void tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
         t.zeilen.push_back({std::move(zeilen[i]), false, 0, {}, 0});
         t.zeilen.back().ergebnis = fahrerzeile_von(t, t.zeilen.back()).has_value();
     }
+    return true;
 }
 
 std::size_t blockzeilen(const ergebnistabelle& t) {
@@ -191,12 +202,9 @@ std::optional<ergebnistabelle> ergebnistabelle_lesen(std::vector<std::string> ze
     if (t.typ == ergebnis_typ::unbekannt) {
         return std::nullopt;
     }
-    if (t.typ != ergebnis_typ::einzelrennen) {
-        tabelle_lesen(t, std::move(zeilen));
-    } else if (!rennen_lesen(t, std::move(zeilen))) {
-        return std::nullopt;
-    }
-    return kuerzen(t) ? std::optional(std::move(t)) : std::nullopt;
+    const bool gelesen =
+        t.typ == ergebnis_typ::einzelrennen ? rennen_lesen(t, std::move(zeilen)) : tabelle_lesen(t, std::move(zeilen));
+    return gelesen && kuerzen(t) ? std::optional(std::move(t)) : std::nullopt;
 }
 
 hinzufuegen_ergebnis hinzufuegen(ergebnistabelle& tabelle, const ergebnistabelle& neue) {
