@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
+#include "results/ergebniswerte.h"
 
 namespace tarvel {
 namespace {
@@ -68,7 +69,7 @@ std::vector<tageszeile> tageszeilen_lesen(const dateien& ablage, std::string_vie
     std::vector<tageszeile> alle;
     const auto zeilen = ablage.zeilen_lesen(tagesdatei_pfad(name), zeilen_max).value_or(std::vector<std::string>{});
     for (std::size_t i = 1; i < zeilen.size(); ++i) {
-        const auto f = zerlegen(zeilen[i], trennzeichen[2]);
+        const auto f = felder_teilen(zeilen[i], trennzeichen[2]);
         if (f.size() == 6) {
             alle.push_back({f[0], f[1], std::string(gekuerzt(f[2])), f[3], f[4], f[5]});
         }

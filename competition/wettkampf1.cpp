@@ -64,7 +64,7 @@ void wettkampf1::befehle_verbinden() {
     Command3.bei_klick = [this] { wettkampf_starten(false); };
     Command11.bei_klick = [this] { wettkampf_starten(true); };
     Command9.bei_klick = [this] { um_.folgen.laden(); };
-    Command25.sichtbar(false);
+    Command25.bei_klick = [this] { um_.welt.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal); };
     Command8.bei_klick = [this] {
         if (einstellungen_oeffnen) {
             einstellungen_oeffnen();

@@ -29,6 +29,8 @@ namespace tarvel {
     F(Tastaturbelegung)       \
     F(Tagesrennen)            \
     F(fahrerbild_laden)       \
+    F(w_ausw_debug)           \
+    F(w_auswertung2)          \
     F(UART_einstellungen)     \
     F(UART_Profildatei)       \
     F(Update_form)            \

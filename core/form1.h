@@ -91,6 +91,7 @@ public:
     befehl Command6;          ///< track power on
     befehl Command7;          ///< load settings
     befehl command17;         ///< day race
+    befehl Command18;         ///< looks at results that were saved
     befehl Command8;          ///< options, page of the drivers
     befehl Command9;          ///< options, page of the vehicles
     befehl Command10;         ///< take over the pictures of the vehicles

@@ -48,7 +48,9 @@ sprachliste form1::sprache_m2() {
     texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_).text("Wettkampf", Command3);
     texte.tipp("Rennen für viele Fahrer, mit Startliste, Rennplan und Rangliste", Command3);
     texte.text("Tagesrennen", command17);
-    return texte.tipp("Einzelrennen, deren Ergebnisse in einer Datei des Tages zusammenkommen", command17);
+    texte.tipp("Einzelrennen, deren Ergebnisse in einer Datei des Tages zusammenkommen", command17);
+    texte.text("Auswertung", Command18);
+    return texte.tipp("Gespeicherte Ergebnisse ansehen, sortieren, addieren, vergleichen und drucken", Command18);
 }
 
 void form1::ansagen_setzen() {

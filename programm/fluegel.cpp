@@ -35,7 +35,8 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
-      intervalltraining(rennwelt(p, rundenspeichern)) {
+      intervalltraining(rennwelt(p, rundenspeichern)),
+      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung}) {
     r.teil_von.wechseln(einzelrennen);
 }
 

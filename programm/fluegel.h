@@ -18,6 +18,7 @@
 #include "race/rennen.h"
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
+#include "results/w_auswertung2.h"
 #include "start/k_ampel.h"
 #include "start/startampel.h"
 
@@ -51,6 +52,7 @@ struct ergebnisfluegel {
     tarvel::einzelrennen einzelrennen;
     tarvel::tagesrennen tagesrennen;
     tarvel::intervalltraining intervalltraining;
+    tarvel::w_auswertung2 w_auswertung2;
 };
 
 struct optionsfluegel {

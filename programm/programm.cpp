@@ -71,6 +71,7 @@ programm::programm(const plattform::dienste& d)
       rangliste(wettkampf_->rangliste),
       w_auswertung(wettkampf_->w_auswertung),
       tagesrennen_fenster(wettkampf_->tagesrennen_fenster),
+      w_auswertung2(ergebnisse_->w_auswertung2),
       geraete(*geraete_) {
     hauptfenster_verbinden();
     einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };
@@ -143,7 +144,9 @@ void programm::tagesrennen_beginnen(const tagesauftrag& auftrag) {
     }
 }
 
-void programm::tagesergebnisse_zeigen(const std::string& /*datei*/) {}
+void programm::tagesergebnisse_zeigen(const std::string& datei) {
+    w_auswertung2.datei_zeigen(datei);
+}
 
 bool programm::einstellungen_speichern() {
     return pflege_.speichern();

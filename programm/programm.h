@@ -45,6 +45,7 @@ class tagesrennen_fenster;
 class tastaturbelegung;
 class update_form;
 class w_auswertung;
+class w_auswertung2;
 class veranstaltung;
 class wertung;
 class wettkampf1;
@@ -134,6 +135,7 @@ public:
     tarvel::rangliste& rangliste;
     tarvel::w_auswertung& w_auswertung;
     tarvel::tagesrennen_fenster& tagesrennen_fenster;
+    tarvel::w_auswertung2& w_auswertung2;
     messgeraete& geraete;
 
 private:

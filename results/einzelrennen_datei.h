@@ -29,7 +29,7 @@ std::vector<std::string> einzelrennen_zeilen(const rennergebnis& ergebnis, const
                                              const trennzeichen_tabelle& trennzeichen);
 
 /// A result with the words and separators that its file was written in, so that it can be written the same again. Words
-/// that the file has no place for are empty. Times are without their hours.
+/// that the file has no place for are empty.
 struct gelesenes_rennen {
     tarvel::rennergebnis ergebnis;
     ergebnis_worte wort;

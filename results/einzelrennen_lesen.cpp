@@ -6,6 +6,7 @@
 #include "race/rundenspeicher.h"
 #include "results/einzelrennen_datei.h"
 #include "results/ergebnisdatei.h"
+#include "results/ergebniswerte.h"
 
 namespace tarvel {
 namespace {
@@ -17,25 +18,37 @@ constexpr std::size_t fusszeilen = 4;
 
 using felder = std::vector<std::string>;
 
-/// Two, two and three digits with a character between them: minutes, seconds, thousandths. Nothing else is a time.
+/// All digits, and not too many of them; none otherwise.
+std::optional<zeit_ms> ziffern_lesen(std::string_view text) {
+    constexpr std::size_t ziffern_max = 8;
+    unsigned wert = 0;  // takes no sign
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
+    const bool gut = text.size() <= ziffern_max && fehler == std::errc() && ende == text.data() + text.size();
+    return gut ? std::optional<zeit_ms>(wert) : std::nullopt;
+}
+
+/// Two, two and three digits with a character between them: minutes, seconds, thousandths. A sum may have hours in
+/// front of them. Nothing else is a time.
 std::optional<zeit_ms> zeit_lesen(std::string_view text, trennzeichen_tabelle& trennzeichen) {
-    const auto zahl = [](std::string_view ziffern) {
-        unsigned wert = 0;  // takes no sign
-        const auto [ende, fehler] = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
-        return fehler == std::errc() && ende == ziffern.data() + ziffern.size() ? static_cast<int>(wert) : -1;
-    };
-    if (laenge(text) != 9) {
+    constexpr std::size_t ohne_stunden = 9;
+    const std::string_view hinten = rechts(text, ohne_stunden);
+    const std::string_view doppelpunkt = mitte(hinten, 3, 1);
+    std::string_view stunden = text.substr(0, text.size() - hinten.size());
+    std::optional<zeit_ms> stundenzahl = 0;
+    if (!stunden.empty() && stunden.ends_with(doppelpunkt)) {
+        stundenzahl = ziffern_lesen(stunden.substr(0, stunden.size() - doppelpunkt.size()));
+    } else if (!stunden.empty() || laenge(hinten) != ohne_stunden) {
         return std::nullopt;
     }
-    const std::string_view minuten = links(text, 2);
-    const std::string_view sekunden = mitte(text, 4, 2);
-    const std::string_view tausendstel = rechts(text, 3);
-    if (zahl(minuten) < 0 || zahl(sekunden) < 0 || zahl(tausendstel) < 0) {
+    const auto minuten = ziffern_lesen(links(hinten, 2));
+    const auto sekunden = ziffern_lesen(mitte(hinten, 4, 2));
+    const auto tausendstel = ziffern_lesen(rechts(hinten, 3));
+    if (!stundenzahl || !minuten || !sekunden || !tausendstel) {
         return std::nullopt;
     }
-    trennzeichen[0] = mitte(text, 3, 1);
-    trennzeichen[1] = mitte(text, 6, 1);
-    return (zeit_ms{60} * zahl(minuten) + zahl(sekunden)) * 1000 + zahl(tausendstel);
+    trennzeichen[0] = doppelpunkt;
+    trennzeichen[1] = mitte(hinten, 6, 1);
+    return ((*stundenzahl * 60 + *minuten) * 60 + *sekunden) * 1000 + *tausendstel;
 }
 
 class leser {
@@ -60,7 +73,7 @@ private:
             return false;
         }
         r_.trennzeichen[2] = links(rechts(z_[0], uhrzeit_laenge + 1), 1);
-        const felder teile = zerlegen(z_[0], trenner());
+        const felder teile = felder_teilen(z_[0], trenner());
         if (teile.size() < 3 || laenge(teile.back()) != uhrzeit_laenge) {
             return false;
         }
@@ -76,7 +89,7 @@ private:
 
     bool direktvergleich() {
         for (zeile_ = erste_spurzeile; zeile_ < z_.size() && !z_[zeile_].empty(); ++zeile_) {
-            felder teile = zerlegen(z_[zeile_], trenner());
+            felder teile = felder_teilen(z_[zeile_], trenner());
             if (teile.size() < 6 || r_.ergebnis.spuren.size() == spuren_max) {
                 return false;
             }
@@ -107,7 +120,7 @@ private:
         if (zeile_ >= z_.size()) {
             return false;
         }
-        const felder teile = zerlegen(z_[zeile_++], trenner());
+        const felder teile = felder_teilen(z_[zeile_++], trenner());
         const std::size_t anzahl = r_.ergebnis.spuren.size();
         if (teile.size() < anzahl * felder_je_spur) {
             return false;

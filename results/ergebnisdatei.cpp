@@ -40,16 +40,6 @@ std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment) {
     return stempel;
 }
 
-std::vector<std::string> zerlegen(std::string_view zeile, std::string_view trenner) {
-    std::vector<std::string> alle;
-    for (std::size_t ende = zeile.find(trenner); ende != std::string_view::npos; ende = zeile.find(trenner)) {
-        alle.emplace_back(zeile.substr(0, ende));
-        zeile.remove_prefix(ende + trenner.size());
-    }
-    alle.emplace_back(zeile);
-    return alle;
-}
-
 std::string ohne_trenner(std::string text, const std::string& trenner) {
     const std::string ersatz = trenner == " " ? "_" : " ";
     std::size_t stelle = text.find(trenner);

@@ -32,9 +32,6 @@ ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen);
 /// Name of a result file: date and time without their separators and without the last digit of the seconds.
 std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment);
 
-/// The fields of a line, one more than it has separators.
-std::vector<std::string> zerlegen(std::string_view zeile, std::string_view trenner);
-
 /// A separator within a name would move the columns.
 std::string ohne_trenner(std::string text, const std::string& trenner);
 

@@ -227,6 +227,7 @@ QWidget* Form1Fenster::rennbefehle() {
     QPushButton* tagesrennen = hoher_knopf(logik_.command17, "command17");
     tagesrennen->setMinimumWidth(130);
     aufbau->addWidget(tagesrennen);
+    aufbau->addWidget(hoher_knopf(logik_.Command18, "Command18"));
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
     aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));

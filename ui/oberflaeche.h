@@ -24,6 +24,7 @@
 #include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
+#include "ui/w_auswertung2_fenster.h"
 #include "ui/w_auswertung_fenster.h"
 #include "ui/wettkampf1_fenster.h"
 #include "ui/wettkampf2_fenster.h"
@@ -65,6 +66,8 @@ public:
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
     WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
+    WAuswertung2Fenster w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
+    WAuswDebugFenster w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};
     Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     TagesrennenFenster tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};

@@ -349,6 +349,13 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
            "Rennergebnis;15.11.2026;16:43:45\r\n\r\nAnna; 2;23.40;\r\nTarvel\r\nTV-ERD\r\nhttps://tarvel.invalid\r\n",
            "Titel\r\nNr;Name\r\n1;Anna\r\nTV-WKD\r\n", "TV-JJ2-WKD\r\n", "Tarvel Tagesrennen\r\n0;Anna; 2\r\n"},
           ergebnis_lesen}},
+        {"ergebnistabelle",
+         {{volles_ergebnis(),
+           "Titel\r\nNr;Name\r\n1;Anna;3;1;2;0;0;0;0;30.5;10;20.5;0;0;0;0;00:09,000;00:08,500;00:00,000;00:00,000;"
+           "00:00,000;00:00,000;00:26,000\r\nTV-WKD\r\n",
+           "Titel\r\nNr;Name\r\n1.;Anna; 7; 3; 4;00:08,000;00:08,100;01:02,000\r\nTV-JJ2-WKD\r\n",
+           "Tarvel Tagesrennen\r\nA;Anna; 2;20.00;00:08,000;00:17,000\r\n0;Ben; 1;9.50;00:09,000;1:00:09,000\r\n"},
+          tabelle_betrachten}},
         {"wechselschema", {{"\r\n#Rennen\r\n123456P\r\n\r\n#Zwei\r\n1P65432\r\n"}, wechselschema_lesen}},
         {"bestzeiten", {{volle_bestzeiten(), "8123,Anna,Viper,21.11.2026\r\n"}, bestzeiten_lesen}},
         {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},

@@ -41,6 +41,8 @@ bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes);
 bool wettkampfstand_lesen(werkbank& bank, const std::string& bytes);
 /// Lines of such files, of this version and of older ones.
 std::vector<std::vector<std::string>> volle_wettkampfstaende(const texte& txt);
+/// Everything that the viewer does with a result file.
+bool tabelle_betrachten(werkbank& bank, const std::string& bytes);
 bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
 

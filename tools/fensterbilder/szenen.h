@@ -18,6 +18,8 @@ struct szeneneintrag {
 const std::vector<szeneneintrag>& rennszenen();
 /// The evening of many races.
 const std::vector<szeneneintrag>& abendszenen();
+/// The viewer of result files.
+const std::vector<szeneneintrag>& ergebnisszenen();
 /// All other windows.
 const std::vector<szeneneintrag>& fensterszenen();
 

@@ -1,0 +1,248 @@
+#include "results/ergebnisansicht.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t erstes_feld = 5;
+constexpr std::size_t zweites_feld = 20;
+constexpr std::size_t rundenspalte = 11;  // of the table of laps
+constexpr const char* nichts = "–";
+
+std::string linksbuendig(std::string_view text, std::size_t breite) {
+    std::string feld(links(text, breite - 1));
+    return feld.append(breite - laenge(feld), ' ');
+}
+
+std::string rechtsbuendig(std::string_view text, std::size_t breite) {
+    const std::string_view gekuerzter = links(text, breite - 1);
+    return std::string(breite - laenge(gekuerzter), ' ').append(gekuerzter);
+}
+
+struct spalte {
+    std::string kopf;
+    std::size_t breite;  ///< with a blank
+    bool text;           ///< begins at the left
+    std::function<std::string(const ergebniszeile&, const fahrerzeile&)> zelle;
+};
+
+class bilder {
+public:
+    bilder(const ergebnistabelle& tabelle, const ansicht_worte& wort, const detailwahl& wahl)
+        : t_(tabelle), wort_(wort), wahl_(wahl) {
+        for (std::size_t i = 0; i < t_.zeilen.size(); ++i) {
+            auto fahrer = t_.zeilen[i].ergebnis ? fahrerzeile_von(t_, t_.zeilen[i]) : std::nullopt;
+            if (fahrer && !ausgeblendet(*fahrer)) {
+                fahrer_.emplace_back(i, std::move(*fahrer));
+            }
+        }
+    }
+
+    ergebnisansicht bilden() {
+        spalten_waehlen();
+        ergebnisansicht ansicht;
+        ansicht.kopf = {reihe([](const spalte& s) { return s.kopf; }), true};
+        for (const auto& [nummer, fahrer] : fahrer_) {
+            const ergebniszeile& zeile = t_.zeilen[nummer];
+            ansicht.zeilen.push_back(
+                {reihe([&, &wer = fahrer](const spalte& s) { return s.zelle(zeile, wer); }), false, nummer});
+        }
+        if (t_.typ == ergebnis_typ::einzelrennen && wahl_.runden) {
+            rundentabelle(ansicht);
+        }
+        return ansicht;
+    }
+
+private:
+    bool ausgeblendet(const fahrerzeile& fahrer) const {
+        const auto& klasse = fahrer.spalten.klasse;
+        return klasse && wahl_.ohne_klassen.contains(fahrer.felder[*klasse]);
+    }
+
+    template <class Zelle>
+    std::string reihe(const Zelle& zelle) const {
+        std::string text;
+        for (const spalte& s : spalten_) {
+            const std::string inhalt = zelle(s);
+            text += s.text ? linksbuendig(inhalt, s.breite) : rechtsbuendig(inhalt, s.breite);
+        }
+        return text;
+    }
+
+    std::string zeit(const std::string& feld) const {
+        const zeit_ms dauer = ergebniszeit_lesen(feld);
+        return dauer > 0 ? ergebniszeit(dauer, t_.trennzeichen) : nichts;
+    }
+    std::string meter(const std::string& feld) const {
+        return zahl_fest(ergebnismeter_lesen(feld, t_.trennzeichen), ',') + " m";
+    }
+
+    void spalten_waehlen() {
+        const bool rennen = t_.typ == ergebnis_typ::einzelrennen;
+        spalten_.push_back({wort_.platz, erstes_feld, true, [](const ergebniszeile& zeile, const fahrerzeile& fahrer) {
+                                return fahrer.spalten.platz ? fahrer.felder[*fahrer.spalten.platz]
+                                       : zeile.platz > 0    ? std::to_string(zeile.platz) + "."
+                                                            : std::string();
+                            }});
+        spalten_.push_back(
+            {wort_.name, zweites_feld, true, [](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                 return fahrer.felder[fahrer.spalten.name];
+             }});
+        if (t_.typ == ergebnis_typ::tagesrennen) {
+            spalten_.push_back({wort_.klasse, 7, true, [](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                                    return fahrer.felder[*fahrer.spalten.klasse];
+                                }});
+        }
+        if (rennen) {
+            rennspalten();
+        }
+        wertespalten();
+    }
+
+    void rennspalten() {
+        if (t_.rennen.size() > 1 && !t_.addiert) {
+            spalten_.push_back({wort_.rennen, 8, false, [](const ergebniszeile& zeile, const fahrerzeile& /*fahrer*/) {
+                                    return std::to_string(zeile.rennen + 1);
+                                }});
+        }
+        if (!t_.addiert) {
+            blockspalte(wort_.spur, 6, blockreihe::spur, 0,
+                        [](const std::string& feld) { return feld.substr(feld.find_last_not_of("0123456789") + 1); });
+        }
+    }
+
+    void blockspalte(const std::string& kopf, std::size_t breite, blockreihe welche, std::size_t feld,
+                     std::function<std::string(const std::string&)> schreiben) {
+        spalten_.push_back({kopf, breite, false,
+                            [this, welche, feld, schreiben = std::move(schreiben)](const ergebniszeile& zeile,
+                                                                                   const fahrerzeile& /*fahrer*/) {
+                                return schreiben(blockfeld(zeile.block, welche, feld, t_.trennzeichen[2]));
+                            }});
+    }
+
+    /// Totals, and behind each those of the lanes or heats.
+    void wertespalten() {
+        const ergebnisspalten muster = fahrer_.empty() ? ergebnisspalten{} : breiteste();
+        const auto runden = [](const std::string& feld) { return std::to_string(ergebnisrunden_lesen(feld)); };
+        const auto als_meter = [this](const std::string& feld) { return meter(feld); };
+        const auto als_zeit = [this](const std::string& feld) { return zeit(feld); };
+        const bool heats = t_.typ == ergebnis_typ::jeder_gegen_jeden;
+        const std::string teil = (heats ? wort_.heat : wort_.spur) + " ";
+        wertespalte(wort_.runden, 9, &ergebnisspalten::runden, 0, runden);
+        for (std::size_t i = 1; wahl_.runden && i <= muster.teile(); ++i) {
+            if (teil_gefahren(i)) {
+                wertespalte(teil + std::to_string(i), 8, &ergebnisspalten::runden, i, runden);
+            }
+        }
+        if (muster.meter.anzahl > 0) {
+            wertespalte(wort_.meter, 14, &ergebnisspalten::meter, 0, als_meter);
+            for (std::size_t i = 1; wahl_.meter && i <= muster.teile(); ++i) {
+                if (teil_gefahren(i)) {
+                    wertespalte(teil + std::to_string(i), 13, &ergebnisspalten::meter, i, als_meter);
+                }
+            }
+        }
+        if (t_.typ == ergebnis_typ::einzelrennen && wahl_.meter) {
+            const auto wie_er_steht = [](const std::string& feld) { return feld.empty() ? nichts : feld + " m"; };
+            blockspalte(wort_.laenge, 12, blockreihe::spurlaenge, 1, wie_er_steht);
+            blockspalte(wort_.restmeter, 12, blockreihe::restmeter, 1, wie_er_steht);
+        }
+        spalten_.push_back({wort_.beste, 13, false, [this](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                                const zeit_ms beste = werte_von(fahrer.felder, fahrer.spalten, t_.trennzeichen).beste;
+                                return beste > 0 ? ergebniszeit(beste, t_.trennzeichen) : nichts;
+                            }});
+        for (std::size_t i = 1; wahl_.beste && i <= muster.teile(); ++i) {
+            if (teil_gefahren(i)) {
+                wertespalte(teil + std::to_string(i), 11, &ergebnisspalten::beste, i - 1, als_zeit);
+            }
+        }
+        spalten_.push_back({wort_.gesamtzeit, 15, false, [this](const ergebniszeile& /*zeile*/, const fahrerzeile& f) {
+                                return zeit(f.felder[f.spalten.gesamtzeit]);
+                            }});
+    }
+
+    void wertespalte(const std::string& kopf, std::size_t breite, feldbereich ergebnisspalten::*bereich, std::size_t i,
+                     std::function<std::string(const std::string&)> schreiben) {
+        spalten_.push_back(
+            {kopf, breite, false,
+             [bereich, i, schreiben = std::move(schreiben)](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                 const feldbereich& felder = fahrer.spalten.*bereich;
+                 return i < felder.anzahl ? schreiben(fahrer.felder[felder.ab + i]) : std::string();
+             }});
+    }
+
+    ergebnisspalten breiteste() const {
+        return std::max_element(
+                   fahrer_.begin(), fahrer_.end(),
+                   [](const auto& a, const auto& b) { return a.second.spalten.teile() < b.second.spalten.teile(); })
+            ->second.spalten;
+    }
+
+    /// A lane that was not in use has nothing to show.
+    bool teil_gefahren(std::size_t i) const {
+        return std::any_of(fahrer_.begin(), fahrer_.end(), [i](const auto& paar) {
+            const auto& [felder, spalten] = paar.second;
+            return i < spalten.runden.anzahl && (ergebnisrunden_lesen(felder[spalten.runden.ab + i]) > 0 ||
+                                                 ergebniszeit_lesen(felder[spalten.beste.ab + i - 1]) > 0);
+        });
+    }
+
+    void rundentabelle(ergebnisansicht& ansicht) const {
+        constexpr std::size_t erste = 5;
+        std::string kopf = linksbuendig(wort_.runde, erstes_feld + 3);
+        std::size_t reihen = 0;
+        for (const auto& [nummer, fahrer] : fahrer_) {
+            kopf += rechtsbuendig(links(fahrer.felder[fahrer.spalten.name], rundenspalte - 2), rundenspalte);
+            reihen = std::max(reihen, fahrer.felder.size() - erste);
+        }
+        ansicht.zeilen.push_back({});
+        ansicht.zeilen.push_back({std::move(kopf), true});
+        for (std::size_t runde = 0; runde < reihen; ++runde) {
+            std::string text = linksbuendig(runde == 0 ? wort_.start : std::to_string(runde) + ".", erstes_feld + 3);
+            bool leer = true;
+            for (const auto& [nummer, fahrer] : fahrer_) {
+                const bool da = erste + runde < fahrer.felder.size() && !fahrer.felder[erste + runde].empty();
+                text += rechtsbuendig(da ? zeit(fahrer.felder[erste + runde]) : std::string(), rundenspalte);
+                leer = leer && !da;
+            }
+            if (!leer) {
+                ansicht.zeilen.push_back({std::move(text), false});
+            }
+        }
+    }
+
+    const ergebnistabelle& t_;
+    const ansicht_worte& wort_;
+    const detailwahl& wahl_;
+    std::vector<std::pair<std::size_t, fahrerzeile>> fahrer_;  ///< with their places in the table
+    std::vector<spalte> spalten_;
+};
+
+}  // namespace
+
+ergebnisansicht ergebnisansicht_bilden(const ergebnistabelle& tabelle, const ansicht_worte& wort,
+                                       const detailwahl& wahl) {
+    return bilder(tabelle, wort, wahl).bilden();
+}
+
+detailwahl moegliche_details(const ergebnistabelle& tabelle) {
+    switch (tabelle.typ) {
+        case ergebnis_typ::einzelrennen:
+            return {true, true, false, {}};
+        case ergebnis_typ::wettkampf:
+            return {true, true, true, {}};
+        case ergebnis_typ::jeder_gegen_jeden:
+            return {true, false, true, {}};
+        case ergebnis_typ::tagesrennen:
+        case ergebnis_typ::unbekannt:
+            break;
+    }
+    return {};
+}
+
+}  // namespace tarvel

@@ -1,0 +1,379 @@
+#include "results/w_auswertung2.h"
+
+#include <algorithm>
+
+#include "core/ordnerblick.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view wurzel = "Ergebnisse";
+constexpr std::string_view darueber = "..";
+constexpr std::string_view tagesordner = "Ergebnisse\\Tagesrennen";
+constexpr std::array<std::string_view, 3> sprungziele{ergebnis_ordner::einzelrennen, tagesordner,
+                                                      ergebnis_ordner::wettkampf};
+
+std::string ordner_von(std::string_view pfad) {
+    const std::size_t ende = pfad.find_last_of("\\/");
+    return std::string(ende == std::string_view::npos ? wurzel : pfad.substr(0, ende));
+}
+
+std::string name_von(std::string_view pfad) {
+    return std::string(pfad.substr(pfad.find_last_of("\\/") + 1));
+}
+
+void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
+    ziel.leeren();
+    for (const std::string& zeile : zeilen) {
+        ziel.hinzufuegen(zeile);
+    }
+}
+
+}  // namespace
+
+w_auswertung2::w_auswertung2(const umfeld& um)
+    : fensterlogik(um.welt.fenster, um.welt.ablage, fenstername::w_auswertung2),
+      korrektur(um.einrichtung),
+      um_(um),
+      debug_(um.welt.fenster, um.welt.ablage) {
+    befehle_verbinden();
+    sortierbefehle_verbinden();
+    speicherbefehle_verbinden();
+}
+
+void w_auswertung2::befehle_verbinden() {
+    for (std::size_t i = 0; i < Command19.size(); ++i) {
+        Command19.at(i).bei_klick = [this, i] { ordner_zeigen(std::string(sprungziele.at(i))); };
+    }
+    Dir1.bei_doppelklick = [this] { ordner_betreten(); };
+    const auto mit_datei = [this](void (w_auswertung2::*tun)(const std::string&)) {
+        if (const std::string pfad = gewaehlte_datei(); !pfad.empty()) {
+            (this->*tun)(pfad);
+        }
+    };
+    File1.bei_doppelklick = [mit_datei] { mit_datei(&w_auswertung2::oeffnen); };
+    Command4.bei_klick = [mit_datei] { mit_datei(&w_auswertung2::oeffnen); };
+    Command2.bei_klick = [mit_datei] { mit_datei(&w_auswertung2::dazu); };
+    for (std::size_t i = 0; i < Command_blick.size(); ++i) {
+        Command_blick.at(i).bei_klick = [this, i] { blicken(static_cast<blick>(i)); };
+    }
+    cbo_rennen.bei_aenderung = [this] { rennen_zeigen(); };
+    Command10.bei_klick = [this] { details_umschalten(0); };
+    command9.bei_klick = [this] { details_umschalten(1); };
+    Command11.bei_klick = [this] { details_umschalten(2); };
+    Command13.bei_klick = [this] { debug_umschalten(); };
+    Command5.bei_klick = [this] { schliessen(); };
+    debug_.bei_ende = [this] { Command13.text(wort_.debug_auf); };
+    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
+        knopf.bei_klick = [&wohin] {
+            if (wohin) {
+                wohin();
+            }
+        };
+    };
+    weitergeben(Command_drucken, drucken);
+    weitergeben(Command_pdf, als_pdf);
+}
+
+void w_auswertung2::laden() {
+    texte_lesen();
+    titel.text(wort_.titel);
+    Command13.text(wort_.debug_auf);
+    tabelle_.reset();
+    dateien_.clear();
+    details_ = {};
+    Frame_sortieren.sichtbar(false);
+    Frame7.sichtbar(false);
+    korrektur.schliessen();
+    for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
+        opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
+    }
+    ordner_zeigen(std::string(sprungziele.front()));
+    tabelle_neu();
+    File1.fokus_setzen();
+}
+
+void w_auswertung2::entladen() {
+    um_.welt.fenster.entladen(fenstername::w_ausw_debug);
+    tabelle_.reset();
+    rennen_.reset();
+    ansicht_ = {};
+    auswertung_schoen.leeren();
+}
+
+/// First what lies over the table, then the window.
+void w_auswertung2::schliessen() {
+    if (korrektur.offen()) {
+        korrektur_beenden();
+    } else if (Frame7.sichtbar()) {
+        Command12.klicken();
+    } else {
+        fensterlogik::schliessen();
+    }
+}
+
+void w_auswertung2::datei_zeigen(const std::string& pfad) {
+    um_.welt.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal);
+    if (pfad.empty()) {
+        return;
+    }
+    ordner_zeigen(ordner_von(pfad));
+    const auto& namen = File1.zeilen();
+    File1.markieren(static_cast<int>(std::find(namen.begin(), namen.end(), name_von(pfad)) - namen.begin()));
+    oeffnen(pfad);
+}
+
+void w_auswertung2::ordner_zeigen(const std::string& ordner) {
+    ordner_ = ordner;
+    Label_ordner.text(ordner_);
+    const ordnerblick darin = ordner_ansehen(um_.welt.ablage.pfad(ordner_), {".csv"});
+    std::vector<std::string> ziele = darin.ordner;
+    if (ordner_ != wurzel) {
+        ziele.insert(ziele.begin(), std::string(darueber));
+    }
+    fuellen(Dir1, ziele);
+    fuellen(File1, darin.dateien);
+}
+
+void w_auswertung2::ordner_betreten() {
+    if (const int zeile = Dir1.markiert(); zeile >= 0) {
+        const std::string ziel = Dir1.zeilen().at(static_cast<std::size_t>(zeile));
+        ordner_zeigen(ziel == darueber ? ordner_von(ordner_) : ordner_ + "\\" + ziel);
+    }
+}
+
+std::string w_auswertung2::gewaehlte_datei() {
+    const int zeile = File1.markiert();
+    if (zeile < 0) {
+        hinweisen(wort_.keine_datei);
+        return {};
+    }
+    return ordner_ + "\\" + File1.zeilen().at(static_cast<std::size_t>(zeile));
+}
+
+std::optional<w_auswertung2::datei> w_auswertung2::datei_lesen(const std::string& pfad) const {
+    constexpr std::size_t zeilen_hoechstens = 1000000;  // to the end, which tells the kind
+    constexpr std::size_t zeile_bytes_max = 200000;
+    auto zeilen = um_.welt.ablage.zeilen_lesen(pfad, zeilen_hoechstens, zeile_bytes_max);
+    if (!zeilen) {
+        return std::nullopt;
+    }
+    const bool zu_lang = zeilen->size() > ergebnistabelle::zeilen_max ||
+                         std::any_of(zeilen->begin(), zeilen->end(), [](const std::string& zeile) {
+                             return zeile.size() >= zeile_bytes_max && laenge(zeile) >= zeile_bytes_max;
+                         });
+    return datei{std::move(*zeilen), zu_lang};
+}
+
+std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad) {
+    auto gelesen = datei_lesen(pfad);
+    auto tabelle = gelesen ? ergebnistabelle_lesen(std::move(gelesen->zeilen), um_.einst.trennzeichen) : std::nullopt;
+    if (!tabelle) {
+        fehler_melden(wort_.dateifehler);
+    } else if (gelesen->zu_lang || tabelle->gekuerzt) {
+        hinweisen(wort_.zu_lang);
+    }
+    return tabelle;
+}
+
+void w_auswertung2::oeffnen(const std::string& pfad) {
+    if (auto neue = tabelle_von(pfad)) {
+        tabelle_ = std::move(neue);
+        dateien_ = {pfad};
+        tabelle_neu();
+    }
+}
+
+void w_auswertung2::dazu(const std::string& pfad) {
+    if (!tabelle_) {
+        oeffnen(pfad);
+        return;
+    }
+    const auto neue = tabelle_von(pfad);
+    if (!neue) {
+        return;
+    }
+    switch (hinzufuegen(*tabelle_, *neue)) {
+        case hinzufuegen_ergebnis::anderer_typ:
+            hinweisen(wort_.anderer_typ);
+            break;
+        case hinzufuegen_ergebnis::zu_viele_zeilen:
+            hinweisen(wort_.zu_viele);
+            break;
+        case hinzufuegen_ergebnis::hinzugefuegt:
+            dateien_.push_back(pfad);
+            tabelle_neu();
+    }
+}
+
+/// After other lines have come into memory.
+void w_auswertung2::tabelle_neu() {
+    std::vector<std::string> namen;
+    const std::size_t anzahl = tabelle_ ? tabelle_->rennen.size() : 0;
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        const ergebnistabelle::lauf& lauf = tabelle_->rennen[i];
+        namen.push_back(std::to_string(i + 1) + ":  " + lauf.datum + "  " + lauf.uhrzeit);
+    }
+    const int gewaehlt = cbo_rennen.platz();
+    cbo_rennen.eintraege(namen);
+    cbo_rennen.platz(gewaehlt >= 0 && gewaehlt < static_cast<int>(namen.size()) ? gewaehlt : 0);
+    klassen_zeigen();
+    tabelle_anzeigen();
+    const bool mit_rennen = tabelle_ && tabelle_->typ == ergebnis_typ::einzelrennen && !tabelle_->addiert;
+    const bool bleibt = blick_ == blick::vergleich || mit_rennen;
+    blicken(tabelle_ && bleibt ? blick_ : blick::tabelle);
+}
+
+void w_auswertung2::tabelle_anzeigen() {
+    details_.ohne_klassen = ausgelassene_klassen();
+    ansicht_ = tabelle_ ? ergebnisansicht_bilden(*tabelle_, ansicht_wort_, details_) : ergebnisansicht{};
+    Label_kopf.text(ansicht_.kopf.text);
+    std::vector<std::string> zeilen;
+    std::size_t eintraege = 0;
+    for (const ergebnisansicht::zeile& zeile : ansicht_.zeilen) {
+        zeilen.push_back(zeile.text);
+        eintraege += zeile.ergebnis ? 1 : 0;
+    }
+    fuellen(auswertung_schoen, zeilen);
+    std::string text = wort_.keine_tabelle;
+    if (tabelle_) {
+        text = name_von(dateien_.front());
+        if (const std::size_t mehr = dateien_.size() - 1; mehr > 0) {
+            text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
+        }
+        text += "  ·  " + wort_.art.at(static_cast<std::size_t>(tabelle_->typ)) + "  ·  " + std::to_string(eintraege) +
+                " " + wort_.eintraege + (tabelle_->addiert ? "  ·  " + wort_.addiert : "");
+    }
+    Label_datei.text(text);
+    if (um_.welt.fenster.ist_offen(fenstername::w_ausw_debug)) {
+        debug_.zeilen_zeigen(tabelle_ ? tabelle_->alle_zeilen() : std::vector<std::string>{});
+    }
+    details_zeigen();
+    bedienung_einrichten();
+}
+
+/// New classes are shown; those that were left out stay out.
+void w_auswertung2::klassen_zeigen() {
+    const std::set<std::string> ohne = ausgelassene_klassen();
+    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
+    for (std::size_t i = 0; i < klassen_max; ++i) {
+        haken& kasten = Check1.at(i);
+        kasten.sichtbar(i < klassen.size());
+        kasten.text(i < klassen.size() ? klassen[i] : std::string());
+        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
+    }
+    Frame_klassen.sichtbar(!klassen.empty());
+}
+
+std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
+    std::set<std::string> ohne;
+    for (const haken& kasten : Check1) {
+        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
+            ohne.insert(kasten.text());
+        }
+    }
+    return ohne;
+}
+
+void w_auswertung2::details_umschalten(std::size_t welche) {
+    const std::array<bool*, 3> an{&details_.runden, &details_.meter, &details_.beste};
+    *an.at(welche) = !*an.at(welche);
+    tabelle_anzeigen();
+}
+
+void w_auswertung2::details_zeigen() {
+    const detailwahl moeglich = tabelle_ ? moegliche_details(*tabelle_) : detailwahl{};
+    const std::array<befehl*, 3> knoepfe{&Command10, &command9, &Command11};
+    const std::array<bool, 3> an{details_.runden, details_.meter, details_.beste};
+    const std::array<bool, 3> geht{moeglich.runden, moeglich.meter, moeglich.beste};
+    for (std::size_t i = 0; i < knoepfe.size(); ++i) {
+        knoepfe.at(i)->text(wort_.details.at(i).at(an.at(i) ? 1 : 0));
+        knoepfe.at(i)->aktiviert(geht.at(i) && !korrektur.offen());
+    }
+}
+
+void w_auswertung2::blicken(blick neu) {
+    blick_ = neu;
+    for (std::size_t i = 0; i < Frame_blick.size(); ++i) {
+        Frame_blick.at(i).sichtbar(static_cast<blick>(i) == blick_);
+    }
+    rennen_zeigen();
+    bedienung_einrichten();
+}
+
+void w_auswertung2::rennen_zeigen() {
+    rennen_.reset();
+    if (blick_ == blick::blatt || blick_ == blick::verlauf) {
+        rennen_ = tabelle_ ? rennen_von(*tabelle_, static_cast<std::size_t>(std::max(cbo_rennen.platz(), 0)),
+                                        sortieren_nach())
+                           : std::nullopt;
+        if (!rennen_) {
+            hinweisen(wort_.kein_blatt);
+            blicken(blick::tabelle);
+            return;
+        }
+    }
+    if (zeichnen) {
+        zeichnen();
+    }
+}
+
+std::vector<fahrerstreuung> w_auswertung2::vergleich() const {
+    return tabelle_ ? fahrervergleich(*tabelle_) : std::vector<fahrerstreuung>{};
+}
+
+std::string w_auswertung2::kopf() const {
+    if (!tabelle_ || !rennen_) {
+        return Label_datei.text();
+    }
+    const auto wertung = static_cast<std::size_t>(sortieren_nach()) - 1;
+    return wort_.rennen + " " + rennen_->datum + " " + rennen_->uhrzeit + "  ·  " + wort_.wertung.at(wertung);
+}
+
+std::string w_auswertung2::blatt_datei() const {
+    if (dateien_.empty()) {
+        return std::string(wurzel) + "\\" + wort_.titel;
+    }
+    const std::string& erste = dateien_.front();
+    std::string stamm = endet_auf(erste, ".csv") ? erste.substr(0, erste.size() - 4) : erste;
+    if (blick_ == blick::vergleich) {
+        stamm += "-" + als_dateiname(vergleichswort.titel);
+    } else if (cbo_rennen.platz() > 0) {
+        stamm += "-" + std::to_string(cbo_rennen.platz() + 1);
+    }
+    return stamm;
+}
+
+void w_auswertung2::bedienung_einrichten() {
+    const bool frei = !korrektur.offen() && !Frame7.sichtbar();
+    const bool da = tabelle_.has_value();
+    const bool mit_rennen = da && tabelle_->typ == ergebnis_typ::einzelrennen && !tabelle_->addiert;
+    const bool als_tabelle = blick_ == blick::tabelle;
+    for (steuerelement* element : std::initializer_list<steuerelement*>{&Command19[0], &Command19[1], &Command19[2],
+                                                                        &Dir1, &File1, &Command4, &Command2}) {
+        element->aktiviert(frei);
+    }
+    for (befehl* knopf : {&Command3, &Command20, &Command16}) {
+        knopf->aktiviert(frei && da);
+    }
+    Command18.aktiviert(frei && da && als_tabelle);
+    Command22.aktiviert(da && frei);
+    auswertung_schoen.aktiviert(!korrektur.offen());
+    for (std::size_t i = 0; i < Command_blick.size(); ++i) {
+        const auto ziel = static_cast<blick>(i);
+        const bool moeglich = ziel == blick::tabelle || (ziel == blick::vergleich ? da : mit_rennen);
+        Command_blick.at(i).aktiviert(frei && moeglich && blick_ != ziel);
+    }
+    const bool ein_rennen = blick_ == blick::blatt || blick_ == blick::verlauf;
+    Label_rennen.sichtbar(ein_rennen && cbo_rennen.eintraege().size() > 1);
+    cbo_rennen.sichtbar(Label_rennen.sichtbar());
+    Command_drucken.aktiviert(frei && !als_tabelle);
+    Command_pdf.aktiviert(frei && !als_tabelle);
+    korrekturzeile.sichtbar(da && als_tabelle && frei);
+    for (befehl* knopf : {&Command8, &Command6, &Command1, &Command21}) {
+        knopf->aktiviert(frei);
+    }
+}
+
+}  // namespace tarvel

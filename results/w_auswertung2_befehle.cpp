@@ -1,0 +1,190 @@
+#include <algorithm>
+
+#include "core/ordnerblick.h"
+#include "core/text.h"
+#include "results/ergebnissortierung.h"
+#include "results/fahrer_addieren.h"
+#include "results/w_auswertung2.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int name_laenge_max = 100;
+
+}  // namespace
+
+void w_auswertung2::sortierbefehle_verbinden() {
+    Command3.bei_klick = [this] { neu_sortieren(); };
+    Command1.bei_klick = [this] { neu_sortieren(); };
+    for (befehl* knopf : {&Command21, &Command22}) {
+        knopf->bei_klick = [this] { Frame_sortieren.sichtbar(!Frame_sortieren.sichtbar()); };
+    }
+    for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
+        opt_sortieren_nach.at(i).bei_aenderung = [this, i] {
+            for (std::size_t j = 0; j < opt_sortieren_nach.size(); ++j) {
+                opt_sortieren_nach.at(j).gesetzt(i == j);
+            }
+        };
+    }
+    Command20.bei_klick = [this] { fahrer_addieren(); };
+    Command18.bei_klick = [this] { korrektur_beginnen(); };
+    auswertung_schoen.bei_doppelklick = [this] { Command18.klicken(); };
+    korrektur.Command14.bei_klick = [this] { korrektur_eintragen(); };
+    korrektur.Command15.bei_klick = [this] { korrektur_beenden(); };
+    Command8.bei_klick = [this] {
+        for (haken& kasten : Check1) {
+            kasten.gesetzt(kasten.sichtbar());
+        }
+        tabelle_anzeigen();
+    };
+}
+
+void w_auswertung2::speicherbefehle_verbinden() {
+    Text3.laenge_max(name_laenge_max);
+    Command16.bei_klick = [this] { speichern_oeffnen(false); };
+    Command6.bei_klick = [this] { speichern_oeffnen(true); };
+    Command17.bei_klick = [this] { speichern(); };
+    Command12.bei_klick = [this] {
+        Frame7.sichtbar(false);
+        bedienung_einrichten();
+    };
+}
+
+sortier_modus w_auswertung2::sortieren_nach() const {
+    for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
+        if (opt_sortieren_nach.at(i).gesetzt()) {
+            return static_cast<sortier_modus>(i + 1);
+        }
+    }
+    return sortier_modus::runden;
+}
+
+void w_auswertung2::neu_sortieren() {
+    const bool mit_fahrern = tabelle_ && std::any_of(tabelle_->zeilen.begin(), tabelle_->zeilen.end(),
+                                                     [](const ergebniszeile& zeile) { return zeile.ergebnis; });
+    if (!mit_fahrern) {
+        hinweisen(wort_.nicht_sortierbar);
+        return;
+    }
+    sortieren(*tabelle_, sortieren_nach());
+    tabelle_anzeigen();
+    rennen_zeigen();
+}
+
+void w_auswertung2::fahrer_addieren() {
+    const bool mit_klasse = tabelle_->typ == ergebnis_typ::tagesrennen &&
+                            um_.welt.meldungen.fragen(wort_.klasse_fragen, wort_.klasse_titel);
+    gleiche_fahrer_addieren(*tabelle_, mit_klasse);
+    sortieren(*tabelle_, sortieren_nach());
+    tabelle_neu();
+}
+
+void w_auswertung2::korrektur_beginnen() {
+    const int zeile = auswertung_schoen.markiert();
+    const auto gemeint =
+        zeile >= 0 ? ansicht_.zeilen.at(static_cast<std::size_t>(zeile)).ergebnis : std::optional<std::size_t>();
+    if (!gemeint || !korrektur.oeffnen(*tabelle_, *gemeint)) {
+        hinweisen(wort_.eintrag_waehlen);
+        return;
+    }
+    details_zeigen();
+    bedienung_einrichten();
+}
+
+void w_auswertung2::korrektur_eintragen() {
+    const auto eintrag = korrektur.eintrag();
+    if (!eintrag) {
+        hinweisen(wort_.falscher_wert);
+        return;
+    }
+    eintrag_schreiben(*tabelle_, korrektur.zeile(), *eintrag);
+    const int zeile = auswertung_schoen.markiert();
+    korrektur.schliessen();
+    klassen_zeigen();
+    tabelle_anzeigen();
+    auswertung_schoen.markieren(zeile);
+    auswertung_schoen.fokus_setzen();
+}
+
+void w_auswertung2::korrektur_beenden() {
+    korrektur.schliessen();
+    details_zeigen();
+    bedienung_einrichten();
+    auswertung_schoen.fokus_setzen();
+}
+
+void w_auswertung2::speichern_oeffnen(bool auswahl) {
+    nur_auswahl_ = auswahl;
+    const int zeile = File1.markiert();
+    Text3.text(zeile >= 0 ? File1.zeilen().at(static_cast<std::size_t>(zeile)) : std::string());
+    Frame7.sichtbar(true);
+    bedienung_einrichten();
+    Text3.fokus_setzen();
+}
+
+std::vector<std::string> w_auswertung2::zu_speichern() const {
+    if (!nur_auswahl_) {
+        return tabelle_->alle_zeilen();
+    }
+    const std::set<std::string> ohne = ausgelassene_klassen();
+    ergebnistabelle auswahl = *tabelle_;
+    std::erase_if(auswahl.zeilen, [&](const ergebniszeile& zeile) {
+        const auto fahrer = zeile.ergebnis ? fahrerzeile_von(auswahl, zeile) : std::nullopt;
+        return fahrer && fahrer->spalten.klasse && ohne.contains(fahrer->felder[*fahrer->spalten.klasse]);
+    });
+    return auswahl.alle_zeilen();
+}
+
+/// What stands there and cannot be held whole must not be lost.
+bool w_auswertung2::darf_schreiben(const std::string& pfad) {
+    if (!um_.welt.ablage.gibt_es(pfad)) {
+        return true;
+    }
+    const auto alte = datei_lesen(pfad);
+    if (!alte) {
+        fehler_melden(wort_.schreibfehler);
+        return false;
+    }
+    if (alte->zu_lang) {
+        hinweisen(wort_.nicht_ueber);
+        return false;
+    }
+    return um_.welt.meldungen.fragen(wort_.ueberschreiben, um_.welt.txt.titel[0]);
+}
+
+void w_auswertung2::speichern() {
+    std::string name(gekuerzt(Text3.text()));
+    const bool leer = name.empty() || name == ".csv" || name == ".CSV";
+    if (leer || !dateiname_zulaessig(name)) {
+        hinweisen(leer ? wort_.name_fehlt : wort_.zeichen);
+        Text3.fokus_setzen();
+        return;
+    }
+    name += endet_auf(name, ".csv") ? "" : ".csv";
+    const std::string pfad = ordner_ + "\\" + name;
+    if (!darf_schreiben(pfad)) {
+        Text3.fokus_setzen();
+        return;
+    }
+    if (!um_.welt.ablage.zeilen_schreiben(pfad, zu_speichern())) {
+        fehler_melden(wort_.schreibfehler);
+        return;
+    }
+    Frame7.sichtbar(false);
+    ordner_zeigen(ordner_);
+    const auto& namen = File1.zeilen();
+    File1.markieren(static_cast<int>(std::find(namen.begin(), namen.end(), name) - namen.begin()));
+    bedienung_einrichten();
+}
+
+void w_auswertung2::debug_umschalten() {
+    if (um_.welt.fenster.ist_offen(fenstername::w_ausw_debug)) {
+        um_.welt.fenster.entladen(fenstername::w_ausw_debug);
+        return;
+    }
+    Command13.text(wort_.debug_zu);
+    debug_.zeilen_zeigen(tabelle_ ? tabelle_->alle_zeilen() : std::vector<std::string>{});
+    um_.welt.fenster.zeigen(fenstername::w_ausw_debug);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,245 @@
+#include "results/w_auswertung2.h"
+
+#include "competition/wettkampftabelle.h"
+#include "results/ergebnissortierung.h"
+#include "tests/ergebnistabelle_probe.h"
+#include "tests/programm_probe.h"
+#include "tests/wettkampf_probe.h"
+
+namespace tarvel {
+namespace {
+
+using textzeilen = std::vector<std::string>;
+
+class Ergebnisbetrachter : public test::ProgrammProbe {
+protected:
+    void ablegen(const std::string& name, const textzeilen& zeilen) {
+        ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\Tagesrennen\\" + name, zeilen));
+    }
+    void tag_ablegen(const std::string& name, const textzeilen& zeilen) { ablegen(name, test::tageszeilen(zeilen)); }
+    textzeilen gelesen(const std::string& name) {
+        return t.p.ablage.zeilen_lesen("Ergebnisse\\Tagesrennen\\" + name, 20000).value_or(textzeilen{});
+    }
+    void zeigen(const std::string& name) { w.datei_zeigen("Ergebnisse\\Tagesrennen\\" + name); }
+    void waehlen(const std::string& name) {
+        const auto& namen = w.File1.zeilen();
+        w.File1.auswaehlen(static_cast<int>(std::find(namen.begin(), namen.end(), name) - namen.begin()));
+    }
+    void speichern_als(const char* name) {
+        w.Command16.klicken();
+        w.Text3.eingeben(name);
+        w.Command17.klicken();
+    }
+    std::string namen() const {
+        std::string alle;
+        for (const std::string& zeile : w.auswertung_schoen.zeilen()) {
+            alle += zeile.size() > 5 ? zeile.substr(0, 2) + zeile.substr(5, 1) + " " : "| ";
+        }
+        return alle;
+    }
+
+    const textzeilen abend{"A;Anna; 7;70.25;00:08,000;00:58,000", "B;Ben; 9;90.00;00:07,500;01:09,000",
+                           "A;Cem; 8;80.00;00:07,900;01:01,000", "A;Anna; 3;30.00;00:07,800;00:24,000"};
+    w_auswertung2& w = t.p.w_auswertung2;
+};
+
+TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
+    tag_ablegen("mai.csv", abend);
+    ablegen("kaputt.csv", {"Tarvel", "TV-ERD", "x"});
+    t.p.wettkampf1.oeffnen();
+    t.p.wettkampf1.Command25.klicken();
+    ASSERT_TRUE(offen(fenstername::w_auswertung2));
+    EXPECT_EQ(w.File1.zeilen(), textzeilen{}) << "no single race has been saved";
+    w.Command4.klicken();
+    EXPECT_EQ(letzte_meldung(), "Keine Datei ausgewählt!");
+    w.Command19[1].klicken();
+    waehlen("mai.csv");
+    w.Command4.klicken();
+    EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
+    EXPECT_EQ(namen(), "  A   B   C   A ") << "as they were driven";
+    waehlen("kaputt.csv");
+    w.Command4.klicken();
+    EXPECT_EQ(letzte_meldung(), "Dateifehler, Ergebnisse können nicht angezeigt werden!");
+    EXPECT_EQ(namen(), "  A   B   C   A ");
+    w.Dir1.doppelklicken(0);
+    EXPECT_EQ(w.Label_ordner.text(), "Ergebnisse");
+    EXPECT_NE(w.Dir1.zeilen().front(), "..") << "no way out of the results";
+}
+
+TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
+    tag_ablegen("mai.csv", abend);
+    zeigen("mai.csv");
+    EXPECT_TRUE(w.Check1[0].sichtbar() && w.Check1[1].gesetzt() && !w.Check1[2].sichtbar());
+    w.Command3.klicken();
+    EXPECT_EQ(namen(), "1.C 2.A 3.A 1.B ");
+    w.opt_sortieren_nach[2].sichtbar(true);
+    w.Command22.klicken();
+    w.opt_sortieren_nach[2].umschalten();
+    w.Check1[1].umschalten();
+    w.Command1.klicken();
+    EXPECT_EQ(namen(), "1.A 2.C 3.A ");
+    w.Command6.klicken();
+    w.Text3.eingeben("klasse-a");
+    w.Command17.klicken();
+    EXPECT_EQ(gelesen("klasse-a.csv").size(), 4U);
+    speichern_als("alle");
+    EXPECT_EQ(gelesen("alle.csv").size(), 5U) << "what is not shown is not lost";
+    EXPECT_EQ(gelesen("alle.csv").at(1), abend[3]) << "without its place";
+    w.Command8.klicken();
+    EXPECT_EQ(namen(), "1.A 2.C 3.A 1.B ");
+}
+
+TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
+    tag_ablegen("mai.csv", abend);
+    tag_ablegen("juni.csv", {"B;Anna; 100;1000.00;00:07,700;59:00,000"});
+    for (const bool mit_klasse : {true, false}) {
+        zeigen("mai.csv");
+        waehlen("juni.csv");
+        w.Command2.klicken();
+        t.maschine.antwort = mit_klasse;
+        w.Command20.klicken();
+        EXPECT_EQ(t.maschine.fragen_gestellt.back(),
+                  (test::test_plattform::meldung{"Klasse in den Vergleich einbeziehen?", "Vergleichsmethode wählen"}));
+        EXPECT_EQ(namen(), mit_klasse ? "1.A 2.C 1.A 2.B " : "1.A 2.C 1.B ");
+    }
+    EXPECT_NE(w.auswertung_schoen.zeilen().front().find("1:00:22,000"), std::string::npos);
+}
+
+TEST_F(Ergebnisbetrachter, AndereArtWirdNichtHinzugefuegt) {
+    tag_ablegen("mai.csv", abend);
+    ablegen("rennen.csv", test::rennzeilen(test::rennen_mit({"Anna"}, 3, "14:00:00")));
+    zeigen("mai.csv");
+    waehlen("rennen.csv");
+    w.Command2.klicken();
+    EXPECT_EQ(letzte_meldung(), "Ergebnisse anderen Typs können nicht hinzugefügt werden!");
+    EXPECT_EQ(namen(), "  A   B   C   A ");
+}
+
+TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
+    const std::string krumm = "A;Anna;7 ;70,250;0:08,0;58,000;mehr";
+    tag_ablegen("mai.csv", {krumm});
+    zeigen("mai.csv");
+    w.Command18.klicken();
+    EXPECT_EQ(letzte_meldung(), "Bitte den zu berichtigenden Eintrag auswählen.");
+    w.auswertung_schoen.auswaehlen(0);
+    w.Command18.klicken();
+    ASSERT_TRUE(w.korrektur.offen());
+    w.korrektur.Command14.klicken();
+    speichern_als("gleich");
+    EXPECT_EQ(gelesen("gleich.csv").at(1), krumm);
+    w.auswertung_schoen.auswaehlen(0);
+    w.Command18.klicken();
+    w.korrektur.aus_runden[0].eingeben("acht");
+    w.korrektur.Command14.klicken();
+    EXPECT_TRUE(w.korrektur.offen()) << "no number";
+    w.korrektur.aus_runden[0].eingeben("8");
+    w.korrektur.w_aus_min.eingeben("01");
+    w.korrektur.Command14.klicken();
+    speichern_als("anders.csv");
+    EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;0:08,0;01:58,000;mehr");
+    EXPECT_EQ(gelesen("mai.csv").at(1), krumm) << "the source";
+}
+
+TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
+    auto wettkampf = test::wettkampf_mit(wettkampf_modus::rotation, 3, {1, 2});
+    spuren<fahrt> fahrten;
+    fahrten[1] = {12, 98765, 12000, 8001};
+    wettkampf.ergebnis_eintragen(fahrten);
+    ablegen("pokal.csv", tabelle_schreiben(wettkampf, {}, trennzeichen_standard));
+    for (const int spur : alle_spuren) {
+        t.p.form1.lspur[feld_index(spur)].eingeben("12,5");
+    }
+    t.p.form1.einrichtung_lesen();
+    zeigen("pokal.csv");
+    w.auswertung_schoen.auswaehlen(0);
+    w.Command18.klicken();
+    w.korrektur.aus_runden[1].eingeben("14");
+    EXPECT_EQ(w.korrektur.aus_runden[0].text(), "14");
+    w.korrektur.meter_berechnen.klicken();
+    w.korrektur.Command14.klicken();
+    speichern_als("neu");
+    const auto felder = felder_teilen(gelesen("neu.csv").at(2), ";");
+    EXPECT_EQ((textzeilen{felder[2], felder[3], felder[9], felder[10], felder[16], felder[22]}),
+              (textzeilen{"14", "14", "175", "175", "00:08,001", "01:38,765"}));
+}
+
+TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
+    tag_ablegen("lang.csv", textzeilen(10000, abend[0]));
+    tag_ablegen("voll.csv", textzeilen(9999, abend[1]));
+    t.maschine.antwort = true;
+    zeigen("voll.csv");
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    zeigen("lang.csv");
+    EXPECT_NE(letzte_meldung().find("mehr als 10000 Zeilen"), std::string::npos);
+    speichern_als("lang");
+    EXPECT_NE(letzte_meldung().find("wird nicht überschrieben"), std::string::npos);
+    EXPECT_EQ(gelesen("lang.csv").size(), 10001U);
+    w.Command12.klicken();
+    waehlen("voll.csv");
+    w.Command2.klicken();
+    EXPECT_NE(letzte_meldung().find("nicht hinzugefügt"), std::string::npos);
+}
+
+TEST_F(Ergebnisbetrachter, SpeichertNurUnterBrauchbarenNamen) {
+    tag_ablegen("mai.csv", abend);
+    zeigen("mai.csv");
+    for (const char* name : {" ", "../aus", "a:b", ".csv"}) {
+        const std::size_t bisher = t.maschine.meldungen_gezeigt.size();
+        speichern_als(name);
+        EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), bisher + 1) << name;
+        w.Command12.klicken();
+    }
+    t.maschine.nicht_schreibbar = "neu.csv";
+    speichern_als("neu");
+    EXPECT_EQ(letzte_meldung(), "Datei kann nicht geschrieben werden!");
+    t.maschine.antwort = false;
+    w.Text3.eingeben("mai");
+    w.Command17.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U) << "an old file";
+    EXPECT_EQ(gelesen("mai.csv"), test::tageszeilen(abend));
+}
+
+TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
+    ablegen("eins.csv", test::rennzeilen(test::rennen_mit({"Anna", "Ben"}, 3, "14:00:00")));
+    ablegen("zwei.csv", test::rennzeilen(test::rennen_mit({"Cem", "Ben"}, 5, "15:00:00")));
+    zeigen("eins.csv");
+    EXPECT_FALSE(w.cbo_rennen.sichtbar());
+    waehlen("zwei.csv");
+    w.Command2.klicken();
+    int gezeichnet = 0;
+    w.zeichnen = [&] { ++gezeichnet; };
+    w.Command_blick[1].klicken();
+    ASSERT_TRUE(w.rennen());
+    EXPECT_EQ(w.rennen()->spuren.at(0).fahrer, "Anna");
+    w.cbo_rennen.waehlen(1);
+    EXPECT_EQ(w.rennen()->spuren.at(0).fahrer, "Cem");
+    EXPECT_EQ(w.rennen()->spuren.at(0).platz, 1);
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden");
+    EXPECT_EQ(w.blatt_datei(), "Ergebnisse\\Tagesrennen\\eins-2");
+    w.Command_blick[3].klicken();
+    EXPECT_EQ(w.vergleich().size(), 3U);
+    EXPECT_EQ(gezeichnet, 3);
+    w.Command20.klicken();
+    EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
+}
+
+TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {
+    ablegen("eins.csv", test::rennzeilen(test::rennen_mit({"Anna", "Ben"}, 3, "14:00:00")));
+    zeigen("eins.csv");
+    EXPECT_EQ(w.auswertung_schoen.zeilen().size(), 2U);
+    w.Command10.klicken();
+    EXPECT_EQ(w.Command10.text(), "Rundendetails ausblenden");
+    ASSERT_EQ(w.auswertung_schoen.zeilen().size(), 2U + 2 + 4);
+    EXPECT_EQ(w.auswertung_schoen.zeilen().back(), "3.        00:08,100  00:08,200");
+    w.auswertung_schoen.auswaehlen(3);
+    w.Command18.klicken();
+    EXPECT_EQ(letzte_meldung(), "Bitte den zu berichtigenden Eintrag auswählen.") << "a head";
+    w.Command13.klicken();
+    EXPECT_EQ(w.Command13.text(), "Debug-Fenster schiessen");
+    EXPECT_EQ(w.debug().zeilenliste.zeilen(), gelesen("eins.csv"));
+    w.debug().schliessen();
+    EXPECT_EQ(w.Command13.text(), "Debug-Fenster öffnen");
+}
+
+}  // namespace
+}  // namespace tarvel

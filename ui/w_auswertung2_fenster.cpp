@@ -1,0 +1,463 @@
+#include "ui/w_auswertung2_fenster.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QGridLayout>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "core/dateien.h"
+#include "core/text.h"
+#include "results/rundenverlauf.h"
+#include "ui/blattausgabe.h"
+#include "ui/stil.h"
+#include "ui/w_auswertung2_teile.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int dateispalte_breite = 236;
+constexpr int einzug_px = 6;
+constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
+constexpr double schrift_min_px = 13;
+constexpr double schrift_max_px = 22;
+constexpr int ordner_zeilen = 5;
+constexpr int feld_breite_min = 78;  // of a time
+constexpr int feld_breite_max = 120;
+
+}  // namespace
+
+QSize Ergebniszeichner::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*zelle*/) const {
+    return {breite, static_cast<int>(QFontMetricsF(schrift).height() * 1.25)};
+}
+
+void Ergebniszeichner::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& zelle) const {
+    QStyledItemDelegate::initStyleOption(option, zelle);
+    option->font = schrift;
+    option->font.setBold(logik_.ist_kopf(static_cast<std::size_t>(zelle.row())));
+}
+
+WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
+                                         QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    auto* aufbau = new QHBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(14);
+    aufbau->addWidget(dateispalte());
+    auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(6);
+    TextAnzeige* datei = binder().anzeige(logik.Label_datei, "Label_datei");
+    datei->setFett(true);
+    datei->setSchriftPx(20);
+    datei->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    rechts->addWidget(datei);
+    rechts->addLayout(blickzeile());
+    rechts->addLayout(rennzeile());
+    rechts->addWidget(tabelle(), 1);
+    blatt_ = new Blattbild(this);
+    verlauf_ = new Rundendiagramm(this);
+    vergleich_ = new Vergleichsbild(this);
+    auto* rollfeld = new QScrollArea(this);
+    rollfeld->setFrameShape(QFrame::NoFrame);
+    rollfeld->setWidgetResizable(true);
+    rollfeld->setWidget(vergleich_);
+    const std::array<QWidget*, 3> bilder{blatt_, verlauf_, rollfeld};
+    for (std::size_t i = 0; i < bilder.size(); ++i) {
+        binder().verbinden(logik.Frame_blick.at(i + 1), bilder.at(i), "Frame_blick_" + QString::number(i + 1), {});
+        rechts->addWidget(bilder.at(i), 1);
+    }
+    for (QWidget* feld : {korrekturfeld(), klassenfeld(), sortierfeld(), speicherfeld()}) {
+        rechts->addWidget(feld);
+    }
+    rechts->addLayout(befehlszeile());
+    rechts->addLayout(fusszeile());
+    aufbau->addLayout(rechts, 1);
+    logik.zeichnen = [this] { zeichnen(); };
+    logik.drucken = [this] { drucken(); };
+    logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
+    setMinimumSize(900, 560);
+    resize(1180, 760);
+}
+
+QWidget* WAuswertung2Fenster::dateispalte() {
+    auto* feld = new QWidget(this);
+    feld->setFixedWidth(dateispalte_breite);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(6);
+    QLabel* hinweis = stil::leise(binder().label(logik_.Label1, "Label1"));
+    hinweis->setWordWrap(true);
+    aufbau->addWidget(hinweis);
+    for (std::size_t i = 0; i < logik_.Command19.size(); ++i) {
+        aufbau->addWidget(binder().knopf(logik_.Command19.at(i), "Command19_" + QString::number(i), "schmal"));
+    }
+    QLabel* ordner = stil::leise(binder().label(logik_.Label_ordner, "Label_ordner"));
+    ordner->setWordWrap(true);
+    ordner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    aufbau->addWidget(ordner);
+    QListView* unterordner = binder().listenfeld(logik_.Dir1, "Dir1");
+    unterordner->setFixedHeight(ordner_zeilen * fontMetrics().height() * 5 / 4);
+    aufbau->addWidget(unterordner);
+    QListView* dateien = binder().listenfeld(logik_.File1, "File1");
+    dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    aufbau->addWidget(dateien, 1);
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(8);
+    for (const auto& [element, name] : {std::pair{&logik_.Command4, "Command4"}, {&logik_.Command2, "Command2"}}) {
+        QPushButton* knopf = binder().knopf(*element, name);
+        knopf->setMinimumHeight(stil::knopfhoehe - 4);
+        knoepfe->addWidget(knopf, 1);
+    }
+    aufbau->addLayout(knoepfe);
+    return feld;
+}
+
+QLayout* WAuswertung2Fenster::blickzeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(4);
+    for (std::size_t i = 0; i < logik_.Command_blick.size(); ++i) {
+        zeile->addWidget(binder().knopf(logik_.Command_blick.at(i), "Command_blick_" + QString::number(i), "schmal"));
+    }
+    zeile->addStretch(1);
+    zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf", "schmal"));
+    return zeile;
+}
+
+QLayout* WAuswertung2Fenster::rennzeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(binder().label(logik_.Label_rennen, "Label_rennen"));
+    QComboBox* rennen = binder().auswahlfeld(logik_.cbo_rennen, "cbo_rennen");
+    rennen->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    zeile->addWidget(rennen);
+    zeile->addStretch(1);
+    return zeile;
+}
+
+QWidget* WAuswertung2Fenster::tabelle() {
+    auto* feld = new QWidget(this);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(3);
+    kopf_ = new Tabellenkopf(einzug_px + zellrand_px, this);
+    binder().verbinden(logik_.Label_kopf, kopf_, "Label_kopf", [this] {
+        kopf_->setText(QString::fromStdString(logik_.Label_kopf.text()));
+        skalieren();
+    });
+    aufbau->addWidget(kopf_);
+    zeilen_ = binder().listenfeld(logik_.auswertung_schoen, "auswertung_schoen");
+    zeilen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    zeilen_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    zeilen_->setAlternatingRowColors(true);
+    zeilen_->setStyleSheet(
+        QString("QListView { alternate-background-color: #f2f4f7; } QListView::item { padding: 0px %1px; }")
+            .arg(einzug_px));
+    zeichner_ = new Ergebniszeichner(logik_, this);
+    zeilen_->setItemDelegate(zeichner_);
+    QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
+    QObject::connect(zeilen_->horizontalScrollBar(), &QScrollBar::valueChanged, kopf_, &Tabellenkopf::setVersatz);
+    aufbau->addWidget(zeilen_, 1);
+    auto* unten = new QHBoxLayout;
+    unten->setSpacing(4);
+    unten->addWidget(binder().knopf(logik_.Command10, "Command10", "schmal"));
+    unten->addWidget(binder().knopf(logik_.command9, "command9", "schmal"));
+    unten->addWidget(binder().knopf(logik_.Command11, "Command11", "schmal"));
+    unten->addStretch(1);
+    aufbau->addLayout(unten);
+    binder().verbinden(logik_.Frame_blick[0], feld, "Frame_blick_0", {});
+    return feld;
+}
+
+QWidget* WAuswertung2Fenster::klassenfeld() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_klassen, "Frame_klassen");
+    auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->setContentsMargins(10, 2, 10, 6);
+    aufbau->setSpacing(4);
+    auto* klassen = new QGridLayout;
+    klassen->setHorizontalSpacing(14);
+    klassen->setVerticalSpacing(2);
+    constexpr int je_reihe = 12;
+    for (std::size_t i = 0; i < logik_.Check1.size(); ++i) {
+        const int nummer = static_cast<int>(i);
+        klassen->addWidget(binder().kasten(logik_.Check1.at(i), "Check1_" + QString::number(i)), nummer / je_reihe,
+                           nummer % je_reihe);
+    }
+    klassen->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, je_reihe);
+    aufbau->addLayout(klassen);
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->setSpacing(4);
+    for (const auto& [element, name] : {std::pair{&logik_.Command8, "Command8"},
+                                        {&logik_.Command1, "Command1"},
+                                        {&logik_.Command21, "Command21"},
+                                        {&logik_.Command6, "Command6"}}) {
+        knoepfe->addWidget(binder().knopf(*element, name, "schmal"));
+    }
+    knoepfe->addStretch(1);
+    aufbau->addLayout(knoepfe);
+    return kasten;
+}
+
+QWidget* WAuswertung2Fenster::sortierfeld() {
+    auto* feld = new QWidget(this);
+    auto* aufbau = new QHBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(14);
+    aufbau->addWidget(binder().label(logik_.Label10, "Label10"));
+    for (std::size_t i = 0; i < logik_.opt_sortieren_nach.size(); ++i) {
+        aufbau->addWidget(
+            binder().wahlknopf(logik_.opt_sortieren_nach.at(i), "opt_sortieren_nach_" + QString::number(i)));
+    }
+    aufbau->addStretch(1);
+    binder().verbinden(logik_.Frame_sortieren, feld, "Frame_sortieren", {});
+    return feld;
+}
+
+QWidget* WAuswertung2Fenster::speicherfeld() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame7, "Frame7");
+    auto* aufbau = new QHBoxLayout(kasten);
+    aufbau->setContentsMargins(10, 2, 10, 6);
+    aufbau->setSpacing(8);
+    QLineEdit* name = binder().zeile(logik_.Text3, "Text3");
+    QPushButton* speichern = binder().hauptknopf(logik_.Command17, "Command17");
+    QObject::connect(name, &QLineEdit::returnPressed, speichern, [this] { logik_.Command17.klicken(); });
+    aufbau->addWidget(name, 1);
+    aufbau->addWidget(speichern);
+    aufbau->addWidget(binder().knopf(logik_.Command12, "Command12"));
+    return kasten;
+}
+
+QWidget* WAuswertung2Fenster::korrekturfeld() {
+    korrekturrahmen& k = logik_.korrektur;
+    QGroupBox* kasten = binder().gruppe(k.Frame2, "Frame2");
+    auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->setContentsMargins(10, 2, 10, 6);
+    aufbau->setSpacing(6);
+    auto* oben = new QHBoxLayout;
+    oben->setSpacing(8);
+    oben->addWidget(binder().label(k.Label_name, "Label_name"));
+    oben->addWidget(binder().zeile(k.Text2, "Text2"), 1);
+    oben->addWidget(binder().label(k.lbl_klasse, "lbl_klasse"));
+    QComboBox* klasse = binder().auswahlfeld(k.cbo_klasse, "cbo_klasse");
+    klasse->setMinimumContentsLength(3);
+    oben->addWidget(klasse);
+    aufbau->addLayout(oben);
+    aufbau->addWidget(korrekturraster());
+    aufbau->addLayout(zeitzeile());
+    aufbau->addLayout(korrekturknoepfe());
+    return kasten;
+}
+
+QWidget* WAuswertung2Fenster::korrekturraster() {
+    korrekturrahmen& k = logik_.korrektur;
+    auto* feld = new QWidget(this);
+    auto* raster = new QGridLayout(feld);
+    raster->setContentsMargins(0, 0, 0, 0);
+    raster->setHorizontalSpacing(6);
+    raster->setVerticalSpacing(3);
+    const std::array<std::pair<bezeichnung*, const char*>, 3> titel{
+        {{&k.Label_runden, "Label_runden"}, {&k.Label_meter, "Label_meter"}, {&k.Label_beste, "Label_beste"}}};
+    for (std::size_t i = 0; i < titel.size(); ++i) {
+        raster->addWidget(binder().label(*titel.at(i).first, titel.at(i).second), static_cast<int>(i) + 1, 0);
+    }
+    for (std::size_t i = 0; i < korrekturrahmen::teile_max; ++i) {
+        const int spalte = static_cast<int>(i) + 1;
+        const QString nummer = "_" + QString::number(i);
+        raster->addWidget(stil::leise(binder().label(k.Label_teil.at(i), "Label_teil" + nummer)), 0, spalte);
+        const auto eingabe = [&](tarvel::feld& element, const QString& name, int zeile) {
+            QLineEdit* widget = binder().zeile(element, name + nummer);
+            widget->setMinimumWidth(feld_breite_min);
+            widget->setMaximumWidth(feld_breite_max);
+            widget->setStyleSheet("QLineEdit { padding: 3px 4px; }");
+            raster->addWidget(widget, zeile, spalte);
+        };
+        eingabe(k.aus_runden.at(i), "aus_runden", 1);
+        if (i < k.aus_meter.size()) {
+            eingabe(k.aus_meter.at(i), "aus_meter", 2);
+        }
+        eingabe(k.aus_beste.at(i), "aus_beste", 3);
+    }
+    raster->setColumnStretch(static_cast<int>(korrekturrahmen::teile_max) + 1, 1);
+    auto* rollfeld = new QScrollArea(this);  // heats are more than the window is wide
+    rollfeld->setFrameShape(QFrame::NoFrame);
+    rollfeld->setWidgetResizable(true);
+    rollfeld->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rollfeld->setFocusPolicy(Qt::NoFocus);
+    rollfeld->setWidget(feld);
+    for (QWidget* grund : {static_cast<QWidget*>(rollfeld), rollfeld->viewport(), feld}) {
+        grund->setAutoFillBackground(false);
+    }
+    rollfeld->setFixedHeight(feld->sizeHint().height() + rollfeld->horizontalScrollBar()->sizeHint().height());
+    return rollfeld;
+}
+
+QLayout* WAuswertung2Fenster::zeitzeile() {
+    korrekturrahmen& k = logik_.korrektur;
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(6);
+    zeile->addWidget(binder().label(k.Label_zeit, "Label_zeit"));
+    const std::array<std::pair<tarvel::feld*, const char*>, 4> teile{{{&k.w_aus_std, "w_aus_std"},
+                                                                      {&k.w_aus_min, "w_aus_min"},
+                                                                      {&k.w_aus_sec, "w_aus_sec"},
+                                                                      {&k.w_aus_hun, "w_aus_hun"}}};
+    for (std::size_t i = 0; i < teile.size(); ++i) {
+        QLineEdit* eingabe = binder().zeile(*teile.at(i).first, teile.at(i).second);
+        eingabe->setFixedWidth(52);
+        zeile->addWidget(eingabe);
+        zeile->addWidget(stil::leise(binder().label(k.Label_einheit.at(i), "Label_einheit_" + QString::number(i))));
+    }
+    zeile->addStretch(1);
+    return zeile;
+}
+
+QLayout* WAuswertung2Fenster::korrekturknoepfe() {
+    korrekturrahmen& k = logik_.korrektur;
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(binder().knopf(k.meter_berechnen, "meter_berechnen"));
+    zeile->addStretch(1);
+    zeile->addWidget(binder().hauptknopf(k.Command14, "Command14"));
+    zeile->addWidget(binder().knopf(k.Command15, "Command15"));
+    return zeile;
+}
+
+QLayout* WAuswertung2Fenster::befehlszeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(4);
+    for (const auto& [element, name] : {std::pair{&logik_.Command3, "Command3"},
+                                        {&logik_.Command22, "Command22"},
+                                        {&logik_.Command20, "Command20"},
+                                        {&logik_.Command18, "Command18"}}) {
+        zeile->addWidget(binder().knopf(*element, name));
+    }
+    zeile->addStretch(1);
+    return zeile;
+}
+
+QLayout* WAuswertung2Fenster::fusszeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(binder().knopf(logik_.Command13, "Command13", "schmal"), 0, Qt::AlignBottom);
+    QLabel* hinweis = stil::leise(binder().label(logik_.korrekturzeile, "korrekturzeile"));
+    hinweis->setWordWrap(true);
+    zeile->addWidget(hinweis, 1);
+    zeile->addStretch(0);
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command16, "Command16")));
+    zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command5, "Command5")));
+    return zeile;
+}
+
+void WAuswertung2Fenster::aufschlagen() {
+    if (!isVisible()) {
+        const QSize platz = screen()->availableGeometry().size();
+        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
+    }
+    Fenster::aufschlagen();
+    skalieren();
+}
+
+void WAuswertung2Fenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    skalieren();
+}
+
+/// The letters are as large as the columns leave them; more columns than that are scrolled.
+void WAuswertung2Fenster::skalieren() {
+    if (zeichner_ == nullptr) {
+        return;  // while the window is being made
+    }
+    std::size_t zeichen = laenge(logik_.Label_kopf.text());
+    for (const std::string& zeile : logik_.auswertung_schoen.zeilen()) {
+        zeichen = std::max(zeichen, laenge(zeile));
+    }
+    constexpr int probe_px = 100;
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(probe_px);
+    const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px;
+    const double platz = zeilen_->viewport()->width() - 2 * einzug_px - 8;
+    const double passend = platz / (je_px * static_cast<double>(std::max<std::size_t>(zeichen, 60)));
+    schrift.setPixelSize(static_cast<int>(std::clamp(passend, schrift_min_px, schrift_max_px)));
+    kopf_->setSchrift(schrift);
+    zeichner_->schrift = schrift;
+    zeichner_->breite =
+        static_cast<int>(QFontMetricsF(schrift).horizontalAdvance('0') * static_cast<double>(zeichen)) + 2 * einzug_px;
+    zeilen_->doItemsLayout();
+}
+
+void WAuswertung2Fenster::zeichnen() {
+    using blick = w_auswertung2::blick;
+    if (logik_.gezeigt() == blick::blatt) {
+        blatt_->setBlatt(blatt_bilden());
+    } else if (logik_.gezeigt() == blick::verlauf) {
+        verlauf_->setInhalt(blatt_bilden().bild);
+    } else if (logik_.gezeigt() == blick::vergleich) {
+        vergleich_->setInhalt(vergleich_bilden());
+    }
+}
+
+ergebnisblatt WAuswertung2Fenster::blatt_bilden() const {
+    const einstellungen& einst = logik_.einst();
+    const rennergebnis& rennen = *logik_.rennen();
+    return ergebnisblatt_bilden(rennen, {logik_.titel.text(), logik_.kopf(), {}, logik_.blatt},
+                                {rundenverlauf_bilden(rennen), einst.farben_spur, logik_.diagramm, einst.trennzeichen});
+}
+
+vergleichsbild_inhalt WAuswertung2Fenster::vergleich_bilden() const {
+    const auto& wort = logik_.vergleichswort;
+    const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
+    return {logik_.vergleich(),
+            logik_.einst().trennzeichen,
+            text(wort.titel),
+            text(logik_.kopf()),
+            text(logik_.vergleicht_runden() ? wort.achse_runden : wort.achse_beste),
+            text(wort.beste),
+            text(wort.median),
+            text(wort.streuung),
+            text(wort.zeiten),
+            text(wort.leer)};
+}
+
+void WAuswertung2Fenster::drucken() {
+    const auto bei_fehler = [this] { logik_.druck_misslungen(); };
+    if (logik_.gezeigt() == w_auswertung2::blick::vergleich) {
+        blatt_drucken(this, vergleichsseiten(vergleich_bilden()), bei_fehler);
+    } else {
+        ergebnisblatt_drucken(this, blatt_bilden(), bei_fehler);
+    }
+}
+
+void WAuswertung2Fenster::pdf_speichern(const dateien& ablage) {
+    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
+    std::function<bool(const QString&)> schreiben;  // what is shown now, whatever follows meanwhile
+    if (logik_.gezeigt() == w_auswertung2::blick::vergleich) {
+        schreiben = [seiten = vergleichsseiten(vergleich_bilden())](const QString& pfad) {
+            return blatt_als_pdf(pfad, seiten);
+        };
+    } else {
+        schreiben = [blatt = blatt_bilden()](const QString& pfad) { return ergebnisblatt_pdf(pfad, blatt); };
+    }
+    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
+                     [this, schreiben](const QString& pfad) {
+                         if (!schreiben(pfad)) {
+                             logik_.pdf_misslungen();
+                         }
+                     });
+}
+
+WAuswDebugFenster::WAuswDebugFenster(w_ausw_debug& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern) {
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    QListView* zeilen = binder().listenfeld(logik.zeilenliste, "zeilenliste");
+    zeilen->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    zeilen->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    zeilen->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    zeilen->setUniformItemSizes(false);
+    aufbau->addWidget(zeilen);
+    resize(820, 520);
+}
+
+}  // namespace tarvel::ui
