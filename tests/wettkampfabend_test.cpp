@@ -6,6 +6,7 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
+#include "results/rundenspeichern.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -291,12 +292,19 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_EQ(neu.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
     }
     abend.aendern([](wettkampf&) { return true; });
+    t.p.ablage.kopieren(laufender_wettkampf, "Ergebnisse\\Wettkampf-Zwischenstand\\Abend.wta");
     t.maschine.antwort = false;
     programm anderer(t.maschine.dienste());
     anderer.starten();
     EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
     EXPECT_EQ(anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 2U);
+    EXPECT_TRUE(anderer.ablage.gibt_es("Ergebnisse\\Papierkorb\\Abend.wta"));
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
+    anderer.wettkampf1.Command9.klicken();
+    anderer.rundenspeichern.name.eingeben("Abend");
+    anderer.rundenspeichern.Command1.klicken();
+    EXPECT_EQ(anderer.wettkampfabend.stand(), abend.stand()) << "what the start has tidied away";
 }
 
 TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
