@@ -224,16 +224,16 @@ TEST_F(At2560, WerVorDemFortsetzenUeberDieLinieGeschobenWirdHatNichtsGefahren) {
     a.sagt(":T,0;");
     ueberfahrt_nach(1000);
     ueberfahrt_nach(9990);
+    a.t.maschine.laufen(20000);
     a.t.bahn().Command4.klicken();
     a.t.p.auswertung.neues_ziel.eingeben("5");
     a.t.p.auswertung.Command3.klicken();
-    ueberfahrt_nach(7000);
-    ueberfahrt_nach(7000);
     a.t.p.k_ampel.Command1.klicken();
-    a.t.maschine.laufen(10000);
+    ueberfahrt_nach(3000);
+    a.t.maschine.laufen(7000);
     ASSERT_TRUE(a.t.p.rennen.zeitgeber.renntimer->laeuft());
     EXPECT_EQ(a.t.runden(1), 1);
-    ueberfahrt_nach(6000);
+    ueberfahrt_nach(1000);
     EXPECT_EQ(a.t.runden(1), 2);
 }
 
