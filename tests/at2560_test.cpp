@@ -233,6 +233,9 @@ TEST_F(At2560, WerVorDemFortsetzenUeberDieLinieGeschobenWirdHatNichtsGefahren) {
     a.t.maschine.laufen(7000);
     ASSERT_TRUE(a.t.p.rennen.zeitgeber.renntimer->laeuft());
     EXPECT_EQ(a.t.runden(1), 1);
+    a.sagt(":S13," + std::to_string(jetzt() - beginn - 5000) + ";");
+    a.t.maschine.laufen(10);
+    EXPECT_EQ(a.t.runden(1), 1) << "also where that is told behind green";
     ueberfahrt_nach(1000);
     EXPECT_EQ(a.t.runden(1), 2);
 }
