@@ -2,6 +2,7 @@
 
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampftabelle.h"
+#include "core/ordner.h"
 #include "results/ergebnisdatei.h"
 
 namespace tarvel {
@@ -86,7 +87,8 @@ void wettkampfspeicher::laden_von(std::function<bool(const std::string& pfad)> l
     auftrag.ordner = ergebnis_ordner::wettkampf_zwischenstand;
     auftrag.endung = ".wta";
     auftrag.weitere_orte = {{std::string(ergebnis_ordner::wettkampf_zwischenstand), ".wtk"},
-                            {std::string(ergebnis_ordner::wettkampf), ".wtk"}};
+                            {std::string(ergebnis_ordner::wettkampf), ".wtk"},
+                            {std::string(papierkorb), ".wta"}};
     auftrag.laden_von = std::move(laden);
     um_.fenster.speichernfenster::oeffnen(std::move(auftrag));
 }

@@ -14,7 +14,6 @@ constexpr std::array<std::string_view, 6> ergebnis_ordner_namen{"Ergebnisse",
                                                                 "Ergebnisse\\Wettkampf",
                                                                 "Ergebnisse\\Wettkampf-Zwischenstand",
                                                                 "Ergebnisse\\Tagesrennen"};
-constexpr std::string_view papierkorb = "Ergebnisse\\Papierkorb";
 
 }  // namespace
 

@@ -184,9 +184,10 @@ void at2560::empfangen(std::string_view bytes) {
     constexpr zeit_ms abfragepause_ms = 100;
     empfang_.anhaengen(bytes);
     // One sequence a tick in a race, so that the race sees each of them. But the clock is still to be fetched before
-    // it, and in a pause nobody asks while the unit repeats that its chaos switch is on. A race that does not ask has
-    // stood still, and will.
-    const bool ungefragt = !um_.rennen.rennen_laeuft() && um_.uhr.jetzt() - letzte_abfrage_ > abfragepause_ms;
+    // it, and in a pause nobody asks while the unit repeats that its chaos switch is on. A race that runs and has not
+    // asked for long has stood still, and will ask.
+    const bool rennen_fragt = im_rennen_ && um_.rennen.rennen_laeuft();
+    const bool ungefragt = !rennen_fragt && um_.uhr.jetzt() - letzte_abfrage_ > abfragepause_ms;
     while ((at_zeitversatz_ == 0 || ungefragt) && µC_neuer_befehl()) {
         µC_wert_zerlegen();
     }

@@ -20,16 +20,26 @@ void ereignis_tabelle::ereignis_melden(ereignis_art nummer, zeit_ms stempel) {
     }
 }
 
-void ereignis_tabelle::ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) {
+std::optional<zeit_ms> ereignis_tabelle::verschiebung(zeit_ms stempel) const {
     constexpr zeit_ms uhren_uneinig_ms = 100;  // a car that is let go on the line itself is not one from the pause
-    zeit_ms verschoben = 0;
-    if (pause_ab && stempel < gilt_ab - uhren_uneinig_ms) {
-        if (stempel >= *pause_ab) {
-            return;
+    zeit_ms summe = 0;
+    for (const pause& p : std::span(pausen_).first(pausen_anzahl_)) {
+        if (stempel < p.von) {
+            summe += p.bis - p.von;
+        } else if (stempel < p.bis - uhren_uneinig_ms) {
+            return std::nullopt;
         }
-        verschoben = gilt_ab - *pause_ab;
-        stempel += verschoben;
     }
+    return summe;
+}
+
+void ereignis_tabelle::ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) {
+    const std::optional<zeit_ms> um = verschiebung(stempel);
+    if (!um) {
+        return;
+    }
+    const zeit_ms verschoben = *um;
+    stempel += verschoben;
     ereignis_zeile& zeile = (*this)[nummer];
     const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer);
     if (lauf == art::rundenzaehlung.end() || !steht_seit_ || stempel >= *steht_seit_) {
@@ -75,15 +85,19 @@ bool ereignis_tabelle::vorlassen(int spur) {
     return zeile.aktiv;
 }
 
-void ereignis_tabelle::gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause) {
+void ereignis_tabelle::gelten_lassen(zeit_ms ab, std::optional<zeit_ms> beginn) {
     gilt_ab = ab;
-    pause_ab = pause;
+    if (beginn) {
+        std::shift_right(pausen_.begin(), pausen_.end(), 1);
+        pausen_.front() = {*beginn, ab};
+    }
+    pausen_anzahl_ = beginn ? std::min(pausen_anzahl_ + 1, pausen_.size()) : 0;
     steht_seit_.reset();
     for (schlange& s : schlangen_) {
-        s.anzahl = pause ? s.anzahl : 0;
+        s.anzahl = beginn ? s.anzahl : 0;
         for (schlange::ueberfahrt& u : std::span(s.wartende).first(s.anzahl)) {
-            u.verschoben += ab - *pause;
-            u.stempel += ab - *pause;
+            u.verschoben += ab - *beginn;
+            u.stempel += ab - *beginn;
         }
     }
 }
@@ -100,10 +114,12 @@ void ereignis_tabelle::ruhe_herstellen() {
 void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     messzeit += um;
     gilt_ab += gilt_ab == std::numeric_limits<zeit_ms>::min() ? 0 : um;
-    for (std::optional<zeit_ms>* stempel : {&pause_ab, &steht_seit_}) {
-        if (*stempel) {
-            **stempel += um;
-        }
+    if (steht_seit_) {
+        *steht_seit_ += um;
+    }
+    for (pause& p : pausen_) {
+        p.von += um;
+        p.bis += um;
     }
     for (schlange& s : schlangen_) {
         for (schlange::ueberfahrt& u : s.wartende) {

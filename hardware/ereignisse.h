@@ -58,16 +58,16 @@ public:
     void ereignis_melden(ereignis_art nummer);
     /// Delivery of something that happened at `stempel`. Before `gilt_ab` it is forgotten like all that waited then.
     void ereignis_melden(ereignis_art nummer, zeit_ms stempel);
-    /// Delivery of a passage by a device that may tell it late. One from before the last pause comes as much later as
-    /// the pause was long, so that the pause comes off its lap as off any other; one from within it is forgotten. While
-    /// the race stands still, those from before wait until it goes on.
+    /// Delivery of a passage by a device that may tell it late. It comes as much later as the pauses behind it were
+    /// long, so that they come off its lap as off any other; one from within a pause is forgotten. While the race
+    /// stands still, those from before wait until it goes on.
     void ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel);
     /// The oldest passage of a lane that waits stands in its row. False if none does.
     bool vorlassen(int spur);
     /// The race stands still from this moment on.
     void anhalten(zeit_ms ab) { steht_seit_ = ab; }
-    /// The race has started, or gone on after the pause that began at `pause`.
-    void gelten_lassen(zeit_ms ab, std::optional<zeit_ms> pause = {});
+    /// The race has started, or gone on after the pause that had begun at `beginn`.
+    void gelten_lassen(zeit_ms ab, std::optional<zeit_ms> beginn = {});
     /// Forgets all that waits in rows 0 to 41 and takes their level for the rest level's.
     void ruhe_herstellen();
     /// All stamps move by `um` ms.
@@ -82,9 +82,8 @@ public:
     zeit_ms messzeit = 0;  ///< stamp of the last race tick
     /// The race has started, or gone on after a pause: what comes late from before is no crossing.
     zeit_ms gilt_ab = std::numeric_limits<zeit_ms>::min();
-    std::optional<zeit_ms> pause_ab;  ///< and that pause had begun here
-    int chaos_at_zaehler = 0;         ///< held up by a unit that repeats its chaos switch while it is on
-    spuren<bool> chaos_fahrer{};      ///< whose personal chaos button was pressed
+    int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on
+    spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
 
 private:
     /// What waits for the end of the pause, oldest first.
@@ -100,7 +99,16 @@ private:
         std::size_t anzahl = 0;
     };
 
+    struct pause {
+        zeit_ms von = 0;
+        zeit_ms bis = 0;
+    };
+    /// By how much a passage comes later; nothing for one from within a pause.
+    std::optional<zeit_ms> verschiebung(zeit_ms stempel) const;
+
     std::array<ereignis_zeile, zeilen_anzahl> zeilen_{};
+    std::array<pause, 8> pausen_{};  ///< the last ones of the race, the last one first; nothing is told later
+    std::size_t pausen_anzahl_ = 0;
     spuren<schlange> schlangen_;
     std::optional<zeit_ms> steht_seit_;
 };

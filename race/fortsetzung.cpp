@@ -128,7 +128,7 @@ void fortsetzung::weiterfahren() {
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.fortsetzung_wartet = false;
     um_.ereignisse.messzeit = fortsetz_zeit;
-    um_.ereignisse.gelten_lassen(fortsetz_zeit);
+    um_.ereignisse.gelten_lassen(fortsetz_zeit, zeitsperre::seit_immer);  // before, the lane was another driver's
     zustand.strafreste_ab(fortsetz_zeit);
     um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.ereignisse.strecke_leeren();

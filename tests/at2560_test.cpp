@@ -212,6 +212,34 @@ TEST_F(At2560, SperrenEndenNachDemStempelWasImmerStillstand) {
     }
 }
 
+TEST_F(At2560, WerVorDemFortsetzenUeberDieLinieGeschobenWirdHatNichtsGefahren) {
+    a.oeffnen();
+    a.t.starten("Zeit", "1", {1});
+    const zeit_ms beginn = jetzt();
+    const auto ueberfahrt_nach = [&](zeit_ms dauer) {
+        a.t.maschine.laufen(dauer);
+        a.sagt(":S13," + std::to_string(jetzt() - beginn) + ";");
+        a.t.maschine.laufen(10);
+    };
+    a.sagt(":T,0;");
+    ueberfahrt_nach(1000);
+    ueberfahrt_nach(9990);
+    a.t.maschine.laufen(20000);
+    a.t.bahn().Command4.klicken();
+    a.t.p.auswertung.neues_ziel.eingeben("5");
+    a.t.p.auswertung.Command3.klicken();
+    a.t.p.k_ampel.Command1.klicken();
+    ueberfahrt_nach(3000);
+    a.t.maschine.laufen(7000);
+    ASSERT_TRUE(a.t.p.rennen.zeitgeber.renntimer->laeuft());
+    EXPECT_EQ(a.t.runden(1), 1);
+    a.sagt(":S13," + std::to_string(jetzt() - beginn - 5000) + ";");
+    a.t.maschine.laufen(10);
+    EXPECT_EQ(a.t.runden(1), 1) << "also where that is told behind green";
+    ueberfahrt_nach(1000);
+    EXPECT_EQ(a.t.runden(1), 2);
+}
+
 TEST_F(At2560, VersatzWirdJeRennenEinmalGeholt) {
     ereignis_zeile& runde = a.zeile(16);
     a.oeffnen();

@@ -96,35 +96,47 @@ TEST_F(ControlUnitRennen, EineUeberfahrtZuBeginnDerPauseHatIhrenStempelUndDiePau
     EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)), dritte - vor_der_pause - pause, 20);
 }
 
-TEST_F(ControlUnitRennen, WasNachDerPauseErstErzaehltWirdZaehltWieEsWar) {
-    starten(t.p.txt.text_runden, "10", {1, 2});
+TEST_F(ControlUnitRennen, WasNachDenPausenErstErzaehltWirdZaehltWieEsWar) {
+    starten(t.p.txt.text_runden, "10", {1, 2, 3});
     const zeit_ms beginn = t.maschine.jetzt();
     const auto stempel = [&] { return static_cast<std::uint32_t>(500000 + t.maschine.jetzt() - beginn); };
     const std::uint32_t erste = stempel();
-    ueberfahrt(1, erste);
-    ueberfahrt(2, erste);
+    for (const int spur : {1, 2, 3}) {
+        ueberfahrt(spur, erste);
+    }
     t.maschine.laufen(8000);
-    const std::uint32_t vor_der_pause = stempel();
-    t.maschine.laufen(100);
-    t.taste("c");
-    status(true);
-    const zeit_ms angehalten = t.maschine.jetzt();
-    t.maschine.laufen(10000);
-    const std::uint32_t in_der_pause = stempel();
-    t.maschine.laufen(10000);
-    status(false);
+    const std::uint32_t vor_den_pausen = stempel();
+    std::uint32_t in_der_pause = 0;
+    const auto pause = [&](zeit_ms dauer) {
+        t.maschine.laufen(100);
+        t.taste("c");
+        status(true);
+        t.maschine.laufen(dauer);
+        in_der_pause = stempel();
+        t.maschine.laufen(dauer);
+        status(false);
+        return t.p.rennen.zustand.pause.dauer;
+    };
+    const zeit_ms erste_pause = pause(10000);
+    const std::uint32_t in_der_ersten = in_der_pause;
+    t.maschine.laufen(4000);
+    const std::uint32_t dazwischen = stempel();
+    const zeit_ms zweite_pause = pause(5000);
     ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
-    const zeit_ms pause = t.maschine.jetzt() - angehalten;
     t.maschine.laufen(50);
-    ueberfahrt(1, vor_der_pause);
+    ueberfahrt(1, vor_den_pausen);
+    ueberfahrt(2, in_der_ersten);
     ueberfahrt(2, in_der_pause);
-    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), vor_der_pause - erste);
+    ueberfahrt(3, dazwischen);
+    const rundenkonto& konto = t.p.rennen.zustand.konto;
+    EXPECT_EQ(konto.rundenzeit(1, 1), vor_den_pausen - erste);
     EXPECT_EQ(t.runden(2), 0);
+    EXPECT_EQ(konto.rundenzeit(3, 1), dazwischen - erste - erste_pause);
     t.maschine.laufen(8000);
-    const std::uint32_t dritte = stempel();
-    ueberfahrt(1, dritte);
-    EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)),
-                static_cast<double>(dritte - vor_der_pause - pause), 20);
+    const std::uint32_t letzte = stempel();
+    ueberfahrt(1, letzte);
+    EXPECT_NEAR(static_cast<double>(konto.rundenzeit(1, 2)),
+                static_cast<double>(letzte - vor_den_pausen - erste_pause - zweite_pause), 20);
 }
 
 TEST_F(ControlUnitRennen, JedeRundeZaehltDieErstInDerPauseOderNachDemEndeErzaehltWird) {

@@ -7,6 +7,7 @@
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
 #include "results/ergebnisdatei.h"
+#include "results/rundenspeichern.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -350,6 +351,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
         EXPECT_EQ(neu.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
     }
     abend.aendern([](wettkampf&) { return true; });
+    t.p.ablage.kopieren(laufender_wettkampf, "Ergebnisse\\Wettkampf-Zwischenstand\\Abend.wta");
     t.maschine.antwort = false;
     programm anderer(t.maschine.dienste());
     anderer.starten();
@@ -357,6 +359,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
     const auto liegen = anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk");
     ASSERT_EQ(liegen.size(), 2U);
+    EXPECT_TRUE(anderer.ablage.gibt_es("Ergebnisse\\Papierkorb\\Abend.wta"));
     anderer.form1.Command3.klicken();
     t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
     anderer.wettkampf1.Command9.klicken();
