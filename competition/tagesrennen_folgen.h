@@ -19,7 +19,7 @@ public:
     /// The race that is set up in the main window begins.
     virtual void tagesrennen_beginnen(const tagesauftrag& auftrag) = 0;
     /// The day's file is looked at.
-    virtual void tagesergebnisse_zeigen(const std::string& datei) = 0;
+    virtual void tagesergebnisse_zeigen(const std::string& pfad) = 0;
 };
 
 }  // namespace tarvel

@@ -144,8 +144,8 @@ void programm::tagesrennen_beginnen(const tagesauftrag& auftrag) {
     }
 }
 
-void programm::tagesergebnisse_zeigen(const std::string& datei) {
-    w_auswertung2.datei_zeigen(datei);
+void programm::tagesergebnisse_zeigen(const std::string& pfad) {
+    w_auswertung2.datei_zeigen(pfad);
 }
 
 bool programm::einstellungen_speichern() {

@@ -151,7 +151,7 @@ private:
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;
     void tagesrennen_beginnen(const tagesauftrag& auftrag) override;
-    void tagesergebnisse_zeigen(const std::string& datei) override;
+    void tagesergebnisse_zeigen(const std::string& pfad) override;
     void eingebaute_namen_setzen();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();
