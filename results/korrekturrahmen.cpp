@@ -134,7 +134,7 @@ void korrekturrahmen::teile_zeigen(const ergebnisspalten& spalten, bool heats) {
         const bool da = i <= teile_;
         const std::string titel = i == 0 ? wort_.gesamt : (heats ? wort_.heat : wort_.spur) + " " + std::to_string(i);
         Label_teil.at(i).text(teile_ == 0 ? std::string() : titel);
-        Label_teil.at(i).sichtbar(da);
+        Label_teil.at(i).sichtbar(da && teile_ > 0);
         aus_runden.at(i).sichtbar(da);
         aus_beste.at(i).sichtbar(da && (i > 0 || teile_ == 0));
         const auto benennen = [&](feld& ziel, const bezeichnung& was) { ziel.ansage(was.text() + " " + titel); };
