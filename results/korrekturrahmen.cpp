@@ -65,7 +65,17 @@ korrekturrahmen::korrekturrahmen(const renneinrichtung& einrichtung) : einrichtu
 
 void korrekturrahmen::sprache(sprachliste& texte) {
     texte.text("Rundenkorrektur", Frame2).text("Name", Label_name).text("Klasse", lbl_klasse);
-    texte.text("Runden", Label_runden).text("Meter", Label_meter).text("beste Runde", Label_beste);
+    const auto spalte = [&texte](std::string_view deutsch, bezeichnung& titel, auto& felder) {
+        texte.text(deutsch, [&titel, &felder](const std::string& neu) {
+            titel.text(neu);
+            for (feld& eines : felder) {
+                eines.ansage(neu);
+            }
+        });
+    };
+    spalte("Runden", Label_runden, aus_runden);
+    spalte("Meter", Label_meter, aus_meter);
+    spalte("beste Runde", Label_beste, aus_beste);
     texte.text("Gesamtzeit", Label_zeit).text("Meter neu berechnen", meter_berechnen);
     texte.text("Änderung eintragen", Command14).text("abbrechen", Command15);
     texte.text("gesamt", wort_.gesamt).text("Spur", wort_.spur).text("Heat", wort_.heat);

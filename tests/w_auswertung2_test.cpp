@@ -255,6 +255,10 @@ TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {
     w.auswertung_schoen.auswaehlen(3);
     w.Command18.klicken();
     EXPECT_EQ(letzte_meldung(), "Bitte den zu berichtigenden Eintrag auswählen.") << "a head";
+    ablegen("leer.csv", {"Pokal", "Nr;Name", "TV-WKD"});
+    zeigen("leer.csv");
+    EXPECT_TRUE(w.auswertung_schoen.zeilen().empty()) << "details of nobody";
+    zeigen("eins.csv");
     w.Command13.klicken();
     EXPECT_EQ(w.Command13.text(), "Debug-Fenster schiessen");
     EXPECT_EQ(w.debug().zeilenliste.zeilen(), gelesen("eins.csv"));
