@@ -127,21 +127,21 @@ private:
 
     /// Totals, and behind each those of the lanes or heats.
     void wertespalten() {
-        const ergebnisspalten muster = fahrer_.empty() ? ergebnisspalten{} : breiteste();
+        const std::size_t teile = meiste_teile();
         const auto runden = [](const std::string& feld) { return std::to_string(ergebnisrunden_lesen(feld)); };
         const auto als_meter = [this](const std::string& feld) { return meter(feld); };
         const auto als_zeit = [this](const std::string& feld) { return zeit(feld); };
         const bool heats = t_.typ == ergebnis_typ::jeder_gegen_jeden;
         const std::string teil = (heats ? wort_.heat : wort_.spur) + " ";
         wertespalte(wort_.runden, 9, &ergebnisspalten::runden, 0, runden);
-        for (std::size_t i = 1; wahl_.runden && i <= muster.teile(); ++i) {
+        for (std::size_t i = 1; wahl_.runden && i <= teile; ++i) {
             if (teil_gefahren(i)) {
                 wertespalte(teil + std::to_string(i), 8, &ergebnisspalten::runden, i, runden);
             }
         }
-        if (muster.meter.anzahl > 0) {
+        if (!heats) {
             wertespalte(wort_.meter, 14, &ergebnisspalten::meter, 0, als_meter);
-            for (std::size_t i = 1; wahl_.meter && i <= muster.teile(); ++i) {
+            for (std::size_t i = 1; wahl_.meter && i <= teile; ++i) {
                 if (teil_gefahren(i)) {
                     wertespalte(teil + std::to_string(i), 13, &ergebnisspalten::meter, i, als_meter);
                 }
@@ -156,7 +156,7 @@ private:
                                 const zeit_ms beste = werte_von(fahrer.felder, fahrer.spalten, t_.trennzeichen).beste;
                                 return beste > 0 ? ergebniszeit(beste, t_.trennzeichen) : nichts;
                             }});
-        for (std::size_t i = 1; wahl_.beste && i <= muster.teile(); ++i) {
+        for (std::size_t i = 1; wahl_.beste && i <= teile; ++i) {
             if (teil_gefahren(i)) {
                 wertespalte(teil + std::to_string(i), 11, &ergebnisspalten::beste, i - 1, als_zeit);
             }
@@ -176,11 +176,12 @@ private:
              }});
     }
 
-    ergebnisspalten breiteste() const {
-        return std::max_element(
-                   fahrer_.begin(), fahrer_.end(),
-                   [](const auto& a, const auto& b) { return a.second.spalten.teile() < b.second.spalten.teile(); })
-            ->second.spalten;
+    std::size_t meiste_teile() const {
+        std::size_t teile = 0;
+        for (const auto& [nummer, fahrer] : fahrer_) {
+            teile = std::max(teile, fahrer.spalten.teile());
+        }
+        return teile;
     }
 
     /// A lane that was not in use has nothing to show.

@@ -104,7 +104,10 @@ bool tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
         t.zeilen.push_back({std::move(zeilen[i]), false, 0, {}, 0});
         t.zeilen.back().ergebnis = fahrerzeile_von(t, t.zeilen.back()).has_value();
     }
-    return true;
+    // written with other separators, none of its lines is a driver's
+    const auto einer = [&t](const auto& bedingung) { return std::any_of(t.zeilen.begin(), t.zeilen.end(), bedingung); };
+    return einer([](const ergebniszeile& zeile) { return zeile.ergebnis; }) ||
+           !einer([](const ergebniszeile& zeile) { return !zeile.text.empty(); });
 }
 
 std::size_t blockzeilen(const ergebnistabelle& t) {

@@ -65,7 +65,17 @@ korrekturrahmen::korrekturrahmen(const renneinrichtung& einrichtung) : einrichtu
 
 void korrekturrahmen::sprache(sprachliste& texte) {
     texte.text("Rundenkorrektur", Frame2).text("Name", Label_name).text("Klasse", lbl_klasse);
-    texte.text("Runden", Label_runden).text("Meter", Label_meter).text("beste Runde", Label_beste);
+    const auto spalte = [&texte](std::string_view deutsch, bezeichnung& titel, auto& felder) {
+        texte.text(deutsch, [&titel, &felder](const std::string& neu) {
+            titel.text(neu);
+            for (feld& eines : felder) {
+                eines.ansage(neu);
+            }
+        });
+    };
+    spalte("Runden", Label_runden, aus_runden);
+    spalte("Meter", Label_meter, aus_meter);
+    spalte("beste Runde", Label_beste, aus_beste);
     texte.text("Gesamtzeit", Label_zeit).text("Meter neu berechnen", meter_berechnen);
     texte.text("Änderung eintragen", Command14).text("abbrechen", Command15);
     texte.text("gesamt", wort_.gesamt).text("Spur", wort_.spur).text("Heat", wort_.heat);
@@ -134,7 +144,7 @@ void korrekturrahmen::teile_zeigen(const ergebnisspalten& spalten, bool heats) {
         const bool da = i <= teile_;
         const std::string titel = i == 0 ? wort_.gesamt : (heats ? wort_.heat : wort_.spur) + " " + std::to_string(i);
         Label_teil.at(i).text(teile_ == 0 ? std::string() : titel);
-        Label_teil.at(i).sichtbar(da);
+        Label_teil.at(i).sichtbar(da && teile_ > 0);
         aus_runden.at(i).sichtbar(da);
         aus_beste.at(i).sichtbar(da && (i > 0 || teile_ == 0));
         const auto benennen = [&](feld& ziel, const bezeichnung& was) { ziel.ansage(was.text() + " " + titel); };

@@ -83,9 +83,8 @@ void w_auswertung2::laden() {
     tabelle_.reset();
     dateien_.clear();
     details_ = {};
+    korrigiert_ = false;
     Frame_sortieren.sichtbar(false);
-    Frame7.sichtbar(false);
-    korrektur.schliessen();
     for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
         opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
     }
@@ -108,9 +107,13 @@ void w_auswertung2::schliessen() {
         korrektur_beenden();
     } else if (Frame7.sichtbar()) {
         Command12.klicken();
-    } else {
+    } else if (darf_verwerfen()) {
         fensterlogik::schliessen();
     }
+}
+
+bool w_auswertung2::darf_verwerfen() {
+    return !korrigiert_ || um_.welt.meldungen.fragen(wort_.verwerfen, um_.welt.txt.titel[0]);
 }
 
 void w_auswertung2::datei_zeigen(const std::string& pfad) {
@@ -178,8 +181,12 @@ std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfa
 }
 
 void w_auswertung2::oeffnen(const std::string& pfad) {
+    if (!darf_verwerfen()) {
+        return;
+    }
     if (auto neue = tabelle_von(pfad)) {
         tabelle_ = std::move(neue);
+        korrigiert_ = false;
         dateien_ = {pfad};
         tabelle_neu();
     }
@@ -209,6 +216,8 @@ void w_auswertung2::dazu(const std::string& pfad) {
 
 /// After other lines have come into memory.
 void w_auswertung2::tabelle_neu() {
+    korrektur.schliessen();
+    Frame7.sichtbar(false);
     std::vector<std::string> namen;
     const std::size_t anzahl = tabelle_ ? tabelle_->rennen.size() : 0;
     for (std::size_t i = 0; i < anzahl; ++i) {
@@ -263,7 +272,6 @@ void w_auswertung2::klassen_zeigen() {
         kasten.text(i < klassen.size() ? klassen[i] : std::string());
         kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
     }
-    Frame_klassen.sichtbar(!klassen.empty());
 }
 
 std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
@@ -339,7 +347,7 @@ std::string w_auswertung2::blatt_datei() const {
     std::string stamm = endet_auf(erste, ".csv") ? erste.substr(0, erste.size() - 4) : erste;
     if (blick_ == blick::vergleich) {
         stamm += "-" + als_dateiname(vergleichswort.titel);
-    } else if (cbo_rennen.platz() > 0) {
+    } else if (blick_ != blick::tabelle && cbo_rennen.platz() > 0) {
         stamm += "-" + std::to_string(cbo_rennen.platz() + 1);
     }
     return stamm;
@@ -368,12 +376,10 @@ void w_auswertung2::bedienung_einrichten() {
     const bool ein_rennen = blick_ == blick::blatt || blick_ == blick::verlauf;
     Label_rennen.sichtbar(ein_rennen && cbo_rennen.eintraege().size() > 1);
     cbo_rennen.sichtbar(Label_rennen.sichtbar());
-    Command_drucken.aktiviert(frei && !als_tabelle);
-    Command_pdf.aktiviert(frei && !als_tabelle);
+    Command_drucken.aktiviert(frei && da);
+    Command_pdf.aktiviert(frei && da);
+    Frame_klassen.sichtbar(Check1.front().sichtbar() && frei);
     korrekturzeile.sichtbar(da && als_tabelle && frei);
-    for (befehl* knopf : {&Command8, &Command6, &Command1, &Command21}) {
-        knopf->aktiviert(frei);
-    }
 }
 
 }  // namespace tarvel

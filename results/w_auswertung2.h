@@ -113,7 +113,7 @@ private:
     struct worte {
         std::string titel, keine_datei, dateifehler, anderer_typ, nicht_sortierbar, klasse_fragen, klasse_titel;
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben;
-        std::string zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
+        std::string verwerfen, zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, rennen;
         std::string debug_auf, debug_zu;
         std::array<std::string, 3> wertung;
@@ -152,6 +152,8 @@ private:
     std::vector<std::string> zu_speichern() const;
     void debug_umschalten();
 
+    /// Corrections that are not saved go only if the operator wants it.
+    bool darf_verwerfen();
     void tabelle_neu();
     void tabelle_anzeigen();
     void klassen_zeigen();
@@ -176,6 +178,7 @@ private:
     blick blick_ = blick::tabelle;
     std::optional<rennergebnis> rennen_;
     bool nur_auswahl_ = false;  ///< is to be saved
+    bool korrigiert_ = false;   ///< and not saved since
 };
 
 }  // namespace tarvel

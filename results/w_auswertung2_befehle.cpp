@@ -97,6 +97,7 @@ void w_auswertung2::korrektur_eintragen() {
         hinweisen(wort_.falscher_wert);
         return;
     }
+    korrigiert_ = korrigiert_ || eintrag_lesen(*tabelle_, korrektur.zeile()) != eintrag;
     eintrag_schreiben(*tabelle_, korrektur.zeile(), *eintrag);
     const int zeile = auswertung_schoen.markiert();
     korrektur.schliessen();
@@ -170,6 +171,7 @@ void w_auswertung2::speichern() {
         fehler_melden(wort_.schreibfehler);
         return;
     }
+    korrigiert_ = korrigiert_ && nur_auswahl_;
     Frame7.sichtbar(false);
     ordner_zeigen(ordner_);
     const auto& namen = File1.zeilen();

@@ -51,6 +51,7 @@ void w_auswertung2::meldungstexte(sprachliste& texte) {
         wort_.zu_lang);
     texte.text("Diese Datei hat mehr als 10000 Zeilen und wird nicht überschrieben. Bitte einen anderen Namen wählen.",
                wort_.nicht_ueber);
+    texte.text("Die Korrekturen sind nicht gespeichert. Verwerfen?", wort_.verwerfen);
     texte.text("Zusammen sind es mehr als 10000 Zeilen. Die Datei wird nicht hinzugefügt.", wort_.zu_viele);
     texte.text("Dieses Rennen lässt sich nicht als Ergebnisblatt zeigen.", wort_.kein_blatt);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);

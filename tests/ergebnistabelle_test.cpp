@@ -262,6 +262,8 @@ TEST(Ergebnistabelle, AndereTrennzeichen) {
     gleiche_fahrer_addieren(t, false);
     EXPECT_TRUE(t.zeilen[0].text.starts_with("Anna| 6|60.00|00.08'100|00.48'600|")) << t.zeilen[0].text;
     EXPECT_FALSE(ergebnistabelle_lesen(datei, trennzeichen_standard)) << "its lanes cannot be told apart";
+    EXPECT_FALSE(ergebnistabelle_lesen(tageszeilen({"A|Anna| 7|70.25|00:08,000|00:58,000"}), trennzeichen_standard));
+    EXPECT_TRUE(ergebnistabelle_lesen(tageszeilen({}), trennzeichen_standard)) << "nobody has driven yet";
 }
 
 TEST(Fahrervergleich, MisstWieGleichmaessigGefahrenWird) {

@@ -138,6 +138,27 @@ TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
     speichern_als("anders.csv");
     EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;0:08,0;01:58,000;mehr");
     EXPECT_EQ(gelesen("mai.csv").at(1), krumm) << "the source";
+    w.Command5.klicken();
+    EXPECT_FALSE(offen(fenstername::w_auswertung2)) << "all is saved";
+}
+
+TEST_F(Ergebnisbetrachter, KorrekturenGehenNichtUngefragtVerloren) {
+    tag_ablegen("mai.csv", abend);
+    zeigen("mai.csv");
+    w.auswertung_schoen.auswaehlen(0);
+    w.Command18.klicken();
+    w.korrektur.Text2.eingeben("Anna-Lena");
+    w.korrektur.cbo_klasse.eingeben("C");
+    w.korrektur.Command14.klicken();
+    t.maschine.antwort = false;
+    w.Command5.klicken();
+    zeigen("mai.csv");
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 2U);
+    EXPECT_EQ(w.auswertung_schoen.zeilen().front().substr(5, 9), "Anna-Lena");
+    EXPECT_EQ(w.Check1[2].text(), "C");
+    t.maschine.antwort = true;
+    w.Command5.klicken();
+    EXPECT_FALSE(offen(fenstername::w_auswertung2));
 }
 
 TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
@@ -234,6 +255,10 @@ TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {
     w.auswertung_schoen.auswaehlen(3);
     w.Command18.klicken();
     EXPECT_EQ(letzte_meldung(), "Bitte den zu berichtigenden Eintrag auswählen.") << "a head";
+    ablegen("leer.csv", {"Pokal", "Nr;Name", "TV-WKD"});
+    zeigen("leer.csv");
+    EXPECT_TRUE(w.auswertung_schoen.zeilen().empty()) << "details of nobody";
+    zeigen("eins.csv");
     w.Command13.klicken();
     EXPECT_EQ(w.Command13.text(), "Debug-Fenster schiessen");
     EXPECT_EQ(w.debug().zeilenliste.zeilen(), gelesen("eins.csv"));

@@ -22,7 +22,7 @@ constexpr int dateispalte_breite = 236;
 constexpr int einzug_px = 6;
 constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
 constexpr double schrift_min_px = 13;
-constexpr double schrift_max_px = 22;
+constexpr double schrift_max_px = 30;
 constexpr int ordner_zeilen = 5;
 constexpr int feld_breite_min = 78;  // of a time
 constexpr int feld_breite_max = 120;
@@ -271,7 +271,7 @@ QWidget* WAuswertung2Fenster::korrekturraster() {
             QLineEdit* widget = binder().zeile(element, name + nummer);
             widget->setMinimumWidth(feld_breite_min);
             widget->setMaximumWidth(feld_breite_max);
-            widget->setStyleSheet("QLineEdit { padding: 3px 4px; }");
+            widget->setStyleSheet("QLineEdit { padding: 3px 4px; font-size: 13px; }");
             raster->addWidget(widget, zeile, spalte);
         };
         eingabe(k.aus_runden.at(i), "aus_runden", 1);
@@ -420,24 +420,39 @@ vergleichsbild_inhalt WAuswertung2Fenster::vergleich_bilden() const {
             text(wort.leer)};
 }
 
+tabellenblatt WAuswertung2Fenster::tabelle_bilden() const {
+    tabellenblatt blatt{QString::fromStdString(logik_.titel.text()),
+                        QString::fromStdString(logik_.kopf()),
+                        QString::fromStdString(logik_.Label_kopf.text()),
+                        {}};
+    const auto& zeilen = logik_.auswertung_schoen.zeilen();
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        blatt.zeilen.push_back({QString::fromStdString(zeilen[i]), logik_.ist_kopf(i)});
+    }
+    return blatt;
+}
+
+blattseiten WAuswertung2Fenster::seiten_bilden() const {
+    return logik_.gezeigt() == w_auswertung2::blick::vergleich ? vergleichsseiten(vergleich_bilden())
+                                                               : tabellenseiten(tabelle_bilden());
+}
+
 void WAuswertung2Fenster::drucken() {
     const auto bei_fehler = [this] { logik_.druck_misslungen(); };
-    if (logik_.gezeigt() == w_auswertung2::blick::vergleich) {
-        blatt_drucken(this, vergleichsseiten(vergleich_bilden()), bei_fehler);
-    } else {
+    if (logik_.rennen()) {
         ergebnisblatt_drucken(this, blatt_bilden(), bei_fehler);
+    } else {
+        blatt_drucken(this, seiten_bilden(), bei_fehler);
     }
 }
 
 void WAuswertung2Fenster::pdf_speichern(const dateien& ablage) {
     const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
     std::function<bool(const QString&)> schreiben;  // what is shown now, whatever follows meanwhile
-    if (logik_.gezeigt() == w_auswertung2::blick::vergleich) {
-        schreiben = [seiten = vergleichsseiten(vergleich_bilden())](const QString& pfad) {
-            return blatt_als_pdf(pfad, seiten);
-        };
-    } else {
+    if (logik_.rennen()) {
         schreiben = [blatt = blatt_bilden()](const QString& pfad) { return ergebnisblatt_pdf(pfad, blatt); };
+    } else {
+        schreiben = [seiten = seiten_bilden()](const QString& pfad) { return blatt_als_pdf(pfad, seiten); };
     }
     pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
                      [this, schreiben](const QString& pfad) {

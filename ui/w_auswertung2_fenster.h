@@ -8,6 +8,7 @@
 #include "ui/ergebnisblatt.h"
 #include "ui/fenster.h"
 #include "ui/rundendiagramm.h"
+#include "ui/tabellenblatt.h"
 #include "ui/vergleichsbild.h"
 
 namespace tarvel::ui {
@@ -60,6 +61,9 @@ private:
     void zeichnen();
     ergebnisblatt blatt_bilden() const;
     vergleichsbild_inhalt vergleich_bilden() const;
+    tabellenblatt tabelle_bilden() const;
+    /// What is shown, if it is no race.
+    blattseiten seiten_bilden() const;
     void drucken();
     void pdf_speichern(const dateien& ablage);
 

@@ -1,0 +1,76 @@
+#include <QFile>
+#include <QListView>
+#include <QScrollBar>
+
+#include "results/w_auswertung2.h"
+#include "tests/ergebnistabelle_probe.h"
+#include "tests/ui/oberflaeche_probe.h"
+#include "ui/tabellenblatt.h"
+#include "ui/vergleichsbild.h"
+#include "ui/w_auswertung2_fenster.h"
+
+namespace tarvel {
+namespace {
+
+const std::string datei = "Ergebnisse\\Tagesrennen\\mai.csv";
+
+class Ergebnisfenster : public test::OberflaecheProbe {
+protected:
+    void zeigen(std::size_t zeilen) {
+        ASSERT_TRUE(t.p.ablage.zeilen_schreiben(
+            datei, test::tageszeilen(std::vector<std::string>(zeilen, "A;Anna; 7;70.25;00:08,000;00:56,000"))));
+        t.p.w_auswertung2.datei_zeigen(datei);
+        setzen_lassen();
+    }
+    void setzen_lassen() {
+        o.takt.ausfuehren();
+        QTest::qWait(60);
+    }
+    qsizetype pdf_seiten(const ui::blattseiten& seiten) {
+        const QString pfad = QString::fromStdString((t.maschine.ordner() / "Blatt.pdf").string());
+        EXPECT_TRUE(ui::blatt_als_pdf(pfad, seiten));
+        QFile blatt(pfad);
+        EXPECT_TRUE(blatt.open(QIODevice::ReadOnly));
+        return blatt.readAll().count("/Type /Page\n");
+    }
+
+    ui::WAuswertung2Fenster& fenster = o.w_auswertung2;
+};
+
+TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
+    zeigen(9999);
+    auto* liste = finde<QListView>(fenster, "w_auswertung2.auswertung_schoen");
+    ASSERT_EQ(liste->model()->rowCount(), 9999);
+    liste->verticalScrollBar()->setValue(5000);
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {},
+                      liste->visualRect(liste->model()->index(5003, 0)).center());
+    klick(fenster, "w_auswertung2.Command18");
+    setzen_lassen();
+    tippen(fenster, "w_auswertung2.aus_runden_0", "9");
+    klick(fenster, "w_auswertung2.Command14");
+    setzen_lassen();
+    EXPECT_EQ(liste->verticalScrollBar()->value(), 5000) << "who corrects stays where he is";
+    klick(fenster, "w_auswertung2.Command16");
+    setzen_lassen();
+    tippen(fenster, "w_auswertung2.Text3", "juni");
+    klick(fenster, "w_auswertung2.Command17");
+    const auto gespeichert = t.p.ablage.zeilen_lesen("Ergebnisse\\Tagesrennen\\juni.csv", 20000).value();
+    EXPECT_EQ(gespeichert.at(5004), "A;Anna; 9;70.25;00:08,000;00:56,000");
+    EXPECT_EQ(gespeichert.size(), 10000U);
+}
+
+TEST_F(Ergebnisfenster, SeitenFuerDieWandVerlierenNiemand) {
+    ui::vergleichsbild_inhalt vergleich;
+    vergleich.fahrer.assign(40, {"Anna", 5, 8000, 8100, 8200, 8300, 8400});
+    EXPECT_EQ(pdf_seiten(ui::vergleichsseiten(vergleich)), 3);
+    vergleich.fahrer.clear();
+    EXPECT_EQ(pdf_seiten(ui::vergleichsseiten(vergleich)), 1);
+    ui::tabellenblatt tabelle;
+    tabelle.zeilen.assign(200, {QString(90, 'x'), false});
+    const auto seiten = ui::tabellenseiten(tabelle);
+    EXPECT_EQ(pdf_seiten(seiten), seiten.anzahl({2770, 1900}));
+    EXPECT_GT(seiten.anzahl({2770, 1900}), 3);
+}
+
+}  // namespace
+}  // namespace tarvel
