@@ -46,7 +46,8 @@ sprachliste form1::sprache_m2() {
     texte.text("Hier stand keine Zahl. Jetzt gilt:", wort_keine_zahl_);
     texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", wort_ersetzt_);
     texte.text("fährt auf zwei Spuren. Trotzdem starten?", wort_zwei_spuren_).text("Wettkampf", Command3);
-    return texte.tipp("Rennen für viele Fahrer, mit Startliste, Rennplan und Rangliste", Command3);
+    texte.tipp("Rennen für viele Fahrer, mit Startliste, Rennplan und Rangliste", Command3).text("Training", Command11);
+    return texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
 }
 
 void form1::ansagen_setzen() {

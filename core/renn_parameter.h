@@ -11,6 +11,9 @@ namespace tarvel {
 /// What a race goes by. The numbers are those of the settings file.
 enum class renn_art { zeit = 2, runden = 3 };
 
+/// Target in laps of a race without an end: more than anybody can drive, and than a race may go on to.
+inline constexpr zeit_ms ziel_ohne_ende = 10000;
+
 /// What the set-up hands over to a race.
 struct renn_parameter {
     renn_art art = renn_art::zeit;
@@ -32,6 +35,7 @@ struct renn_parameter {
     sortier_modus auswertung_nach_rennen = sortier_modus::runden;  ///< `einstellungen::auswertung_nach` of this race
 
     bool ist_zeitrennen() const { return art == renn_art::zeit; }
+    bool ohne_ende() const { return !ist_zeitrennen() && renn_ziel == ziel_ohne_ende; }
 
     void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;

@@ -35,6 +35,7 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
+      training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)) {
     r.teil_von.wechseln(einzelrennen);
 }

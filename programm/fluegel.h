@@ -3,6 +3,7 @@
 #include "competition/intervalltraining.h"
 #include "competition/rangliste.h"
 #include "competition/tagesrennen.h"
+#include "competition/training.h"
 #include "competition/w_auswertung.h"
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
@@ -49,6 +50,7 @@ struct ergebnisfluegel {
     tarvel::auswertung auswertung;
     tarvel::einzelrennen einzelrennen;
     tarvel::tagesrennen tagesrennen;
+    tarvel::training training;
     tarvel::intervalltraining intervalltraining;
 };
 

@@ -58,6 +58,7 @@ programm::programm(const plattform::dienste& d)
       auswertung(ergebnisse_->auswertung),
       einzelrennen(ergebnisse_->einzelrennen),
       tagesrennen(ergebnisse_->tagesrennen),
+      training(ergebnisse_->training),
       intervalltraining(ergebnisse_->intervalltraining),
       tastaturbelegung(optionen_->tastaturbelegung),
       speichernfenster(optionen_->speichernfenster),
@@ -84,6 +85,7 @@ void programm::hauptfenster_verbinden() {
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
     form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };
+    form1.training_beginnen = [this] { training_beginnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
     form1.fahrerbilder_uebernehmen = [this] {
@@ -128,6 +130,14 @@ void programm::bahnstrom_von_hand(bool an) {
 void programm::rennen_beginnen(veranstaltung& teil_von) {
     rennen.teil_von.wechseln(teil_von);
     fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
+}
+
+void programm::training_beginnen() {
+    if (einst.training_art == trainingsart::intervall) {
+        rennen_beginnen(intervalltraining);
+    } else {
+        rennen_beginnen(training);
+    }
 }
 
 bool programm::einstellungen_speichern() {

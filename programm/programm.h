@@ -41,6 +41,7 @@ class speichernfenster;
 class startampel;
 class tagesrennen;
 class tastaturbelegung;
+class training;
 class update_form;
 class w_auswertung;
 class veranstaltung;
@@ -118,6 +119,7 @@ public:
     tarvel::auswertung& auswertung;
     tarvel::einzelrennen& einzelrennen;
     tarvel::tagesrennen& tagesrennen;
+    tarvel::training& training;
     tarvel::intervalltraining& intervalltraining;
     tarvel::tastaturbelegung& tastaturbelegung;
     tarvel::speichernfenster& speichernfenster;
@@ -141,6 +143,7 @@ private:
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
+    void training_beginnen();
     void bahnstrom_von_hand(bool an) override;
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;

@@ -58,6 +58,9 @@ void rennansicht::geraetealarm_setzen(const std::string& text) {
 
 std::string rennansicht::ziel_text() const {
     const bahn1& bahn = um_.bahn;
+    if (um_.param.ohne_ende()) {
+        return bahn.wort.ohne_ende;
+    }
     std::string ziel = std::to_string(um_.param.renn_ziel) + " " + um_.txt.text_runden;
     if (um_.ist_zeitrennen()) {
         const zeit_teile dauer = zeit_zerlegen(um_.param.renn_ziel);
@@ -116,7 +119,8 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Prestage", bahn.wort.prestage).text("Stage", bahn.wort.stage);
     texte.text("Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
                bahn.wort.ohne_messung);
-    return texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
+    texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
+    return texte.text("ohne Ende", bahn.wort.ohne_ende);
 }
 
 void rennansicht::oeffnen() {

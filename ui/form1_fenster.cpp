@@ -224,6 +224,7 @@ QWidget* Form1Fenster::rennbefehle() {
     QPushButton* wettkampf = hoher_knopf(logik_.Command3, "Command3");
     wettkampf->setMinimumWidth(140);
     aufbau->addWidget(wettkampf);
+    aufbau->addWidget(hoher_knopf(logik_.Command11, "Command11"));
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
     aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));
