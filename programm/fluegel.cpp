@@ -60,7 +60,8 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
 
 wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o,
                                    einstellungsfolgen& folgen, wettkampfumfeld& umfeld)
-    : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
+    : einfahren(r.rennen, p.belegung, p.dienste.zeitgeber),
+      wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
       wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher, umfeld,
                       p.dienste.zeitgeber, p.dienste.uhr}),
       wettkampfablauf({p.datei, p.einst, p.einrichtung, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen,

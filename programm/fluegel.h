@@ -1,5 +1,6 @@
 #pragma once
 
+#include "competition/einfahren.h"
 #include "competition/intervalltraining.h"
 #include "competition/rangliste.h"
 #include "competition/tagesrennen.h"
@@ -69,6 +70,7 @@ struct wettkampffluegel {
     wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o, einstellungsfolgen& folgen,
                      wettkampfumfeld& umfeld);
 
+    tarvel::einfahren einfahren;
     tarvel::wettkampfspeicher wettkampfspeicher;
     tarvel::wettkampfabend wettkampfabend;
     tarvel::wettkampfablauf wettkampfablauf;

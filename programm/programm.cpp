@@ -66,6 +66,7 @@ programm::programm(const plattform::dienste& d)
       fahrerbild_laden(optionen_->fahrerbild_laden),
       beste_zeiten_verwaltung(optionen_->beste_zeiten_verwaltung),
       einstellungsfenster(optionen_->einstellungsfenster),
+      einfahren(wettkampf_->einfahren),
       wettkampfabend(wettkampf_->wettkampfabend),
       wettkampf1(wettkampf_->wettkampf1),
       wettkampf2(wettkampf_->wettkampf2),

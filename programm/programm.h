@@ -29,6 +29,7 @@ class auswertung;
 class beste_zeiten_fenster;
 class beste_zeiten_verwaltung;
 class bildwahl;
+class einfahren;
 class einstellungsfenster;
 class einzelrennen;
 class form3;
@@ -127,6 +128,7 @@ public:
     tarvel::bildwahl& fahrerbild_laden;
     tarvel::beste_zeiten_verwaltung& beste_zeiten_verwaltung;
     tarvel::einstellungsfenster& einstellungsfenster;
+    tarvel::einfahren& einfahren;
     tarvel::wettkampfabend& wettkampfabend;
     tarvel::wettkampf1& wettkampf1;
     tarvel::wettkampf2& wettkampf2;

@@ -1,4 +1,6 @@
+#include "competition/einfahren.h"
 #include "hardware/at2560.h"
+#include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel::test {
@@ -85,6 +87,29 @@ TEST_F(Wiedereingesteckt, ImRennenWirdEsVermisstGesuchtUndWiederAufgenommen) {
     EXPECT_LT(befehle.find(":P01;"), befehle.find(":P20;"));
     EXPECT_NE(befehle.find(":T;"), std::string::npos) << "its clock has begun anew";
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
+TEST_F(Wiedereingesteckt, BeimEinfahrenBleibtEineFertigeSpurOhneStrom) {
+    einschalten(&messhardware::hw_uart);
+    vereinsabend abend(t.p);
+    t.einrichten("Runden", "20", {1, 2});
+    t.p.rennen.teil_von.wechseln(abend);
+    t.p.einst.w_edauer = 1;
+    t.p.fenster.neu_laden(fenstername::bahn1);
+    t.bahn().Command6.klicken();
+    t.p.einfahren.taste('2');
+    t.maschine.laufen(10);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    EXPECT_TRUE(t.p.einfahren.geraetealarm.sichtbar());
+    t.maschine.anschluesse.da = {com};
+    gesendet();
+    t.maschine.laufen(2500 + at_bootzeit.count());
+    EXPECT_FALSE(t.p.einfahren.geraetealarm.sichtbar());
+    const std::string befehle = gesendet();
+    EXPECT_NE(befehle.find(":P20;"), std::string::npos) << befehle;
+    EXPECT_LT(befehle.rfind(":P01;"), befehle.rfind(":P20;")) << befehle;
+    EXPECT_FALSE(t.bahn().Command1.bedienbar());
 }
 
 TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
