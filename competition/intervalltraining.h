@@ -1,17 +1,16 @@
 #pragma once
 
-#include "results/einzelrennen.h"
+#include "competition/training.h"
 
 namespace tarvel {
 
 /// A training of short races: the same again after a while, by itself and with the drivers on their next lanes.
-class intervalltraining final : public einzelrennen {
+class intervalltraining final : public training {
 public:
-    using einzelrennen::einzelrennen;
+    using training::training;
 
     starter wer_startet() const override { return von_selbst_ ? starter::ablauf : starter::bediener; }
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
-    bool mit_spurwechsel() const override { return false; }
     selbstlauf danach() const override;
 
 private:

@@ -7,6 +7,7 @@ namespace tarvel {
 namespace {
 
 constexpr dauer_s ergebnis_steht{10};
+constexpr dauer_s einfahren_zuschlag{1};  // of the wait after the warm-up
 
 }  // namespace
 
@@ -192,6 +193,10 @@ void wettkampfabend::am_start_warten() {
     }
 }
 
+std::optional<dauer_ms> wettkampfabend::nach_einfahren() const {
+    return automatik_an_ ? std::optional(um_.einst.w_zeit2 + einfahren_zuschlag) : std::nullopt;
+}
+
 void wettkampfabend::einfahren_beendet() {
     if (automatik_an_) {
         automat_.auf_rennstart();
@@ -207,9 +212,11 @@ bool wettkampfabend::darf_warten() const {
 }
 
 bool wettkampfabend::w_auto2_vorbei() {
-    const bool frei = um_.bahn.Command6.bedienbar();  // else a device is being set up
+    if (!um_.strecke.messgeraet_da() || !um_.bahn.Command6.bedienbar()) {  // nobody's laps would be counted
+        return false;
+    }
     um_.bahn.Command6.klicken();
-    return frei;
+    return true;
 }
 
 bool wettkampfabend::w_auto3_vorbei() {

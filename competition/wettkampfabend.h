@@ -96,8 +96,6 @@ public:
     bool nicht_gesichert() const { return nicht_gesichert_; }
     bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
     dauer_s wartezeit() const { return automat_.rest(); }
-    /// The warm-up is over: with the automatic flow the race follows.
-    void einfahren_beendet();
 
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
@@ -107,6 +105,8 @@ public:
     bool leer_gezeigt(int spur) const override { return uebergabe_.fueller[spur] && !um_.einst.freie_slots; }
     std::string naechste_fahrer() const override;
     void begonnen() override;
+    std::optional<dauer_ms> nach_einfahren() const override;
+    void einfahren_beendet() override;
     void weitergefahren() override { teil_gebucht_ = false; }
     void abgebrochen() override;
     bool mit_spurwechsel() const override { return false; }

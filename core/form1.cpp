@@ -52,6 +52,7 @@ void form1::befehle_verbinden() {
     };
     Command1.bei_klick = [this] { Command1_Click(); };
     Command3.bei_klick = [this] { Command3_Click(); };
+    Command11.bei_klick = [this] { Command11_Click(); };
     weitergeben(Command2, beenden);
     weitergeben(Command5, einstellungen_speichern);
     weitergeben(Command6, bahnstrom_ein);
@@ -165,9 +166,9 @@ void form1::werte_pruefen() {
     zahlen_zeigen();
 }
 
-std::vector<feld*> form1::felder_ohne_zahl() {
+std::vector<feld*> form1::felder_ohne_zahl(bool mit_dauer) {
     std::vector<feld*> alle{&wertmin, &massstab};
-    if (gewaehlte_art() == renn_art::zeit && !stddauer.text().empty()) {
+    if (mit_dauer && gewaehlte_art() == renn_art::zeit && !stddauer.text().empty()) {
         alle.push_back(&stddauer);
     }
     for (std::size_t i = 0; i < lspur.size(); ++i) {
@@ -176,16 +177,19 @@ std::vector<feld*> form1::felder_ohne_zahl() {
         }
     }
     std::erase_if(alle, [](const feld* f) { return ist_zahl(f->text()); });
-    if (!gelesen().dauer_lesbar()) {
+    if (mit_dauer && !gelesen().dauer_lesbar()) {
         alle.push_back(&renndauer);
     }
     return alle;
 }
 
-void form1::unlesbares_ersetzen() {
+void form1::unlesbares_ersetzen(bool mit_dauer) {
     std::string meldung;
-    if (const std::vector<feld*> ohne_zahl = felder_ohne_zahl(); !ohne_zahl.empty()) {
-        gelesen().vor_dem_speichern_pruefen();
+    if (const std::vector<feld*> ohne_zahl = felder_ohne_zahl(mit_dauer); !ohne_zahl.empty()) {
+        renneinrichtung& e = gelesen();
+        const std::string dauer = e.dauer;
+        e.vor_dem_speichern_pruefen();
+        e.dauer = mit_dauer ? e.dauer : dauer;
         zahlen_zeigen();
         meldung = wort_keine_zahl_;
         for (const feld* f : ohne_zahl) {
@@ -255,11 +259,12 @@ bool form1::uebergeben(rennumfang umfang) {
     if (bahnstrom_ein) {
         bahnstrom_ein();
     }
-    if (!gelesen().dauer_lesbar()) {
+    const bool mit_dauer = umfang != rennumfang::dauertraining;  // else nobody drives by it, and it stays as typed
+    if (mit_dauer && !gelesen().dauer_lesbar()) {
         ablehnen(um_.txt.meldung[13], renndauer);  // what was typed stays to be mended
         return false;
     }
-    unlesbares_ersetzen();
+    unlesbares_ersetzen(mit_dauer);
     renneinrichtung& e = gelesen();
     if (umfang == rennumfang::wettkampf) {
         e.vor_dem_speichern_pruefen();  // its files hold the set-up too
@@ -276,13 +281,21 @@ bool form1::uebergeben(rennumfang umfang) {
     return fehler == einrichtungsfehler::keiner;
 }
 
-bool form1::einzelrennen_einrichten() {
-    return uebergeben(rennumfang::einzelrennen) && fahrer_einmalig();
+bool form1::einzelrennen_einrichten(rennumfang umfang) {
+    return uebergeben(umfang) && fahrer_einmalig();
 }
 
 void form1::Command1_Click() {
     if (einzelrennen_einrichten() && einzelrennen_beginnen) {
         einzelrennen_beginnen();
+    }
+}
+
+void form1::Command11_Click() {
+    const bool ohne_ende = um_.einst.training_art == trainingsart::dauer;
+    if (einzelrennen_einrichten(ohne_ende ? rennumfang::dauertraining : rennumfang::einzelrennen) &&
+        training_beginnen) {
+        training_beginnen();
     }
 }
 

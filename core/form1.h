@@ -95,6 +95,7 @@ public:
     befehl Command8;          ///< options, page of the drivers
     befehl Command9;          ///< options, page of the vehicles
     befehl Command10;         ///< take over the pictures of the vehicles
+    befehl Command11;         ///< training
     befehl Command12;         ///< track power off
     befehl Command13;         ///< take over the pictures of the drivers
     befehl command_tasten;    ///< key assignment
@@ -104,6 +105,8 @@ public:
     std::function<void()> einzelrennen_beginnen;
     /// The same for all the races of a competition.
     std::function<void()> wettkampf_beginnen;
+    /// The same for a training of the kind that is set.
+    std::function<void()> training_beginnen;
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
     std::function<void()> bahnstrom_aus;
@@ -175,11 +178,13 @@ public:
     /// The same, and the scale, which a settings file refuses beyond its limits.
     void vor_dem_speichern_pruefen();
     /// Corrections, checks with their messages and hand-over of a single race. False while it cannot begin.
-    bool einzelrennen_einrichten();
+    bool einzelrennen_einrichten(rennumfang umfang = rennumfang::einzelrennen);
     /// The same, and begins it.
     void Command1_Click();
     /// The same for a competition, whose drivers and lanes are told by its own windows.
     void Command3_Click();
+    /// The same as a single race, but under training, which may do without an end.
+    void Command11_Click();
     void rennart_geaendert();
 
 private:
@@ -196,10 +201,10 @@ private:
     void spur_geaendert(std::size_t index);
 
     /// Numbers that are none and letters that no file can hold are replaced, and the operator hears of it.
-    void unlesbares_ersetzen();
+    void unlesbares_ersetzen(bool mit_dauer = true);
     /// The lane is ticked, and not lent to another one. Lanes count from 0.
     bool faehrt(std::size_t i) const { return spur[i].gesetzt() && spur[i].aktiviert(); }
-    std::vector<feld*> felder_ohne_zahl();
+    std::vector<feld*> felder_ohne_zahl(bool mit_dauer);
     /// Nobody drives on two lanes, or the operator wants it so.
     bool fahrer_einmalig();
     void befehle_verbinden();

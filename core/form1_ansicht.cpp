@@ -50,7 +50,9 @@ sprachliste form1::sprache_m2() {
     texte.text("Tagesrennen", command17);
     texte.tipp("Einzelrennen, deren Ergebnisse in einer Datei des Tages zusammenkommen", command17);
     texte.text("Auswertung", Command18);
-    return texte.tipp("Gespeicherte Ergebnisse ansehen, sortieren, addieren, vergleichen und drucken", Command18);
+    texte.tipp("Gespeicherte Ergebnisse ansehen, sortieren, addieren, vergleichen und drucken", Command18);
+    texte.text("Training", Command11);
+    return texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
 }
 
 void form1::ansagen_setzen() {

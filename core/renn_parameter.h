@@ -11,6 +11,9 @@ namespace tarvel {
 /// What a race goes by. The numbers are those of the settings file.
 enum class renn_art { zeit = 2, runden = 3 };
 
+/// Target in laps of a race without an end: more than anybody can drive, and than a race may go on to.
+inline constexpr zeit_ms ziel_ohne_ende = 10000;
+
 /// What the set-up hands over to a race.
 struct renn_parameter {
     renn_art art = renn_art::zeit;

@@ -97,21 +97,26 @@ void renneinrichtung::vor_dem_speichern_pruefen() {
 
 einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, const einstellungen& einst, rennumfang umfang,
                                      renn_parameter& param) {
-    const bool eines = umfang == rennumfang::einzelrennen;
+    const bool eines = umfang != rennumfang::wettkampf;
+    const bool ohne_ende = umfang == rennumfang::dauertraining;
     const renndauer_angabe angabe = renndauer_lesen(einrichtung.dauer);
-    einrichtung.dauer = angabe.text();
+    if (!ohne_ende || einrichtung.dauer_lesbar()) {
+        einrichtung.dauer = angabe.text();
+    }
     param.renndauer_ms = in_ms(einrichtung.stunden, ms_je_stunde) + angabe.in_ms();
-    if (!dauer_zulaessig(einrichtung, param.renndauer_ms)) {
+    if (!ohne_ende && !dauer_zulaessig(einrichtung, param.renndauer_ms)) {
         return einrichtungsfehler::dauer;
     }
-    param.art = einrichtung.art;
+    param.art = ohne_ende ? renn_art::runden : einrichtung.art;
     param.auswertung_nach_rennen = einst.auswertung_nach;
     param.tank_aktiv = einrichtung.tanken;
     param.min_rundenzeit_ms =
         in_ms(einrichtung.mindestrunde, ms_je_sekunde) + (eines ? sperrzuschlag_einzelrennen_ms : 0);
     param.massstab = zahl_lesen(einrichtung.massstab);
     param.renndauer_rest_ms = param.renndauer_ms;
-    param.renn_ziel = param.ist_zeitrennen() ? param.renndauer_ms : ganzzahl_lesen(einrichtung.dauer, 1, 9999);
+    param.renn_ziel = param.ist_zeitrennen() ? param.renndauer_ms
+                      : ohne_ende            ? ziel_ohne_ende
+                                             : ganzzahl_lesen(einrichtung.dauer, 1, 9999);
     param.renn_laenge = param.renn_ziel;
     spuren_uebergeben(einrichtung, einst, param);
     return eines && param.spuren_anzahl == 0 ? einrichtungsfehler::keine_spur : einrichtungsfehler::keiner;

@@ -49,8 +49,9 @@ public:
 
 enum class einrichtungsfehler { keiner, dauer, keine_spur };
 
-/// What is set up: a race of its own, or all the races of a competition, whose lanes are counted by its plan.
-enum class rennumfang { einzelrennen, wettkampf };
+/// What is set up: a race of its own, one of laps without an end, whatever kind and length are set, or all the races of
+/// a competition, whose lanes are counted by its plan.
+enum class rennumfang { einzelrennen, dauertraining, wettkampf };
 
 /// In a race of its own a lap counts only this much above the entered minimum.
 inline constexpr zeit_ms sperrzuschlag_einzelrennen_ms = 100;

@@ -124,4 +124,11 @@ void ausgaben::ruhezustand() {
     ampelnGRon();
 }
 
+void ausgaben::stillstand() {
+    bericht.ruhe();
+    relais_on(0);  // first: with inverted wiring a lane has power at rest
+    ampelnRoff(0);
+    ampelnGRoff();
+}
+
 }  // namespace tarvel

@@ -75,6 +75,8 @@ public:
     void kalibrieren();
     /// Rest state between races: red off, green on, power on.
     void ruhezustand();
+    /// Nobody drives: every lamp and signal out, no lane with power.
+    void stillstand();
     /// Lamps, track power and signals as they stand, once more: for a device that was away.
     void wiederholen();
 

@@ -286,6 +286,18 @@ void control_unit::rennfenster_zu() {
     }
 }
 
+void control_unit::einfahren_beginnt() {
+    cu_ende_timer_->aus();
+    if (um_.einst.cu.cu_sondermodus && im_startzustand()) {
+        starttaste();  // else somebody stands at its key
+    }
+}
+
+void control_unit::einfahren_vorbei() {
+    stand_verbraucht_ = true;
+    cu_ende_timer_->an();
+}
+
 void control_unit::rennen_bereit() {
     geraeteuhr_.neu_ausrichten();
     gezeigte_tankgroesse_ = 0;

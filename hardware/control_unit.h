@@ -56,6 +56,8 @@ public:
     geraeteampel* ampel() override;
     void rennfenster_offen() override;
     void rennfenster_zu() override;
+    void einfahren_beginnt() override;
+    void einfahren_vorbei() override;
     void rennen_bereit() override;
     void start_abgebrochen() override;
     void rennstart() override;

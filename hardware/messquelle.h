@@ -57,6 +57,9 @@ public:
     /// The race window has opened.
     virtual void rennfenster_offen() {}
     virtual void rennfenster_zu() {}
+    /// The cars warm up before a race: they may drive until that is over.
+    virtual void einfahren_beginnt() {}
+    virtual void einfahren_vorbei() {}
     /// A race is prepared; its light comes next.
     virtual void rennen_bereit() {}
     /// The start has been stopped before green.

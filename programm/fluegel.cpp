@@ -35,6 +35,7 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
+      training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
       w_auswertung2({fensterwelt(p), p.einst, p.einrichtung}) {
     r.teil_von.wechseln(einzelrennen);
@@ -60,7 +61,8 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
 
 wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o,
                                    einstellungsfolgen& folgen, wettkampfumfeld& umfeld, tagesrennen_folgen& tagesfolgen)
-    : wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
+    : einfahren(r.rennen, p.belegung, p.dienste.zeitgeber),
+      wettkampfspeicher({p.datei, p.einst, p.ablage, p.txt, p.dienste.kalender, e.rundenspeichern}),
       wettkampfabend({p.param, p.einst, r.rennen.teil_von, r.rennen.bahn1, p.fenster, wettkampfspeicher, umfeld,
                       p.dienste.zeitgeber, p.dienste.uhr}),
       wettkampfablauf({p.datei, p.einst, p.einrichtung, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen,

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "competition/einfahren.h"
 #include "competition/intervalltraining.h"
 #include "competition/rangliste.h"
 #include "competition/tagesrennen.h"
 #include "competition/tagesrennen_fenster.h"
+#include "competition/training.h"
 #include "competition/w_auswertung.h"
 #include "competition/wettkampf1.h"
 #include "competition/wettkampf2.h"
@@ -51,6 +53,7 @@ struct ergebnisfluegel {
     tarvel::auswertung auswertung;
     tarvel::einzelrennen einzelrennen;
     tarvel::tagesrennen tagesrennen;
+    tarvel::training training;
     tarvel::intervalltraining intervalltraining;
     tarvel::w_auswertung2 w_auswertung2;
 };
@@ -70,6 +73,7 @@ struct wettkampffluegel {
     wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel& e, optionsfluegel& o, einstellungsfolgen& folgen,
                      wettkampfumfeld& umfeld, tagesrennen_folgen& tagesfolgen);
 
+    tarvel::einfahren einfahren;
     tarvel::wettkampfspeicher wettkampfspeicher;
     tarvel::wettkampfabend wettkampfabend;
     tarvel::wettkampfablauf wettkampfablauf;

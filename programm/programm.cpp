@@ -58,6 +58,7 @@ programm::programm(const plattform::dienste& d)
       auswertung(ergebnisse_->auswertung),
       einzelrennen(ergebnisse_->einzelrennen),
       tagesrennen(ergebnisse_->tagesrennen),
+      training(ergebnisse_->training),
       intervalltraining(ergebnisse_->intervalltraining),
       tastaturbelegung(optionen_->tastaturbelegung),
       speichernfenster(optionen_->speichernfenster),
@@ -65,6 +66,7 @@ programm::programm(const plattform::dienste& d)
       fahrerbild_laden(optionen_->fahrerbild_laden),
       beste_zeiten_verwaltung(optionen_->beste_zeiten_verwaltung),
       einstellungsfenster(optionen_->einstellungsfenster),
+      einfahren(wettkampf_->einfahren),
       wettkampfabend(wettkampf_->wettkampfabend),
       wettkampf1(wettkampf_->wettkampf1),
       wettkampf2(wettkampf_->wettkampf2),
@@ -90,6 +92,7 @@ void programm::hauptfenster_verbinden() {
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
     form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };
+    form1.training_beginnen = [this] { training_beginnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
     form1.fahrerbilder_uebernehmen = [this] {
@@ -146,6 +149,14 @@ void programm::tagesrennen_beginnen(const tagesauftrag& auftrag) {
 
 void programm::tagesergebnisse_zeigen(const std::string& pfad) {
     w_auswertung2.datei_zeigen(pfad);
+}
+
+void programm::training_beginnen() {
+    if (einst.training_art == trainingsart::intervall) {
+        rennen_beginnen(intervalltraining);
+    } else {
+        rennen_beginnen(training);
+    }
 }
 
 bool programm::einstellungen_speichern() {

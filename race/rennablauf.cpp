@@ -41,6 +41,7 @@ void rennablauf::vor_dem_start() {
 
 void rennablauf::entladen() {
     um_.fenster.entladen(fenstername::Form2);
+    um_.fenster.entladen(fenstername::einfahren);
     t_.blinken.beenden();
     um_.quellen.melden(&messquelle::rennfenster_zu);
     um_.zeitgeber.alle_aus();
@@ -124,10 +125,18 @@ void rennablauf::einfahrzeit_starten() {
     t_.blinken.beenden();
     um_.ereignisse.ruhe_herstellen();
     rennen_zuruecksetzen();
-    um_.ausgaben.ampelnRoff(0);
-    um_.ausgaben.ampelnGRoff();
-    um_.ausgaben.relais_on(0);
-    um_.fenster.zeigen(fenstername::einfahren);
+    um_.ausgaben.stillstand();
+    um_.bahn.Command1.aktiviert(false);  // a device that starts races must not start one now
+    um_.bahn.Command6.aktiviert(false);
+    um_.fenster.zeigen(fenstername::einfahren, anzeige_art::modal);
+}
+
+void rennablauf::einfahrzeit_beendet() {
+    um_.ausgaben.stillstand();
+    um_.ereignisse.ruhe_herstellen();
+    um_.ereignisse.strecke_leeren();
+    vor_dem_start();
+    um_.bahn.Command1.fokus_setzen();
 }
 
 void rennablauf::start_abgebrochen() {

@@ -51,6 +51,8 @@ public:
     void rennstart_vorbereiten();
     /// Hands the track over to the warm-up that comes before the race.
     void einfahrzeit_starten();
+    /// The track is at rest and the race can start. Nothing of the warm-up waits for it.
+    void einfahrzeit_beendet();
     /// Without a start light: the clock and the race timers start, and the commands are free at once.
     void rennen_starten();
     /// The work of every start, timed from `stempel`. Lanes that have been stamped by a false start keep their stamp if

@@ -58,7 +58,7 @@ void rennansicht::geraetealarm_setzen(const std::string& text) {
 
 std::string rennansicht::ziel_text(renn_art art, zeit_ms ziel) const {
     if (art == renn_art::runden) {
-        return std::to_string(ziel) + " " + um_.txt.text_runden;
+        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende : std::to_string(ziel) + " " + um_.txt.text_runden;
     }
     const bahn1& bahn = um_.bahn;
     const zeit_teile dauer = zeit_zerlegen(ziel);
@@ -116,7 +116,8 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Prestage", bahn.wort.prestage).text("Stage", bahn.wort.stage);
     texte.text("Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
                bahn.wort.ohne_messung);
-    return texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
+    texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
+    return texte.text("ohne Ende", bahn.wort.ohne_ende);
 }
 
 void rennansicht::oeffnen() {

@@ -131,6 +131,14 @@ void tanken::tank_kontakte_auswerten() {
     }
 }
 
+void tanken::kontakte_nur_als_runden() {
+    tank_kontakte_auswerten();
+    for (const int spur : alle_spuren) {
+        um_.zeitgeber.tanktimer[spur]->aus();
+        um_.zustand.spur[spur].tank_kontakt = false;
+    }
+}
+
 void tanken::kontakt_auswerten(int spur) {
     ereignis_zeile& ein = um_.ereignisse[art::tanken_ein[spur]];
     ereignis_zeile& aus = um_.ereignisse[art::tanken_aus[spur]];

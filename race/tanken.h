@@ -17,6 +17,8 @@ public:
     void beenden();
     /// First call of the race tick, and after each key: turns contact edges into lane states.
     void tank_kontakte_auswerten();
+    /// The same where nobody refuels: they count only where they stand in for the lap sensor.
+    void kontakte_nur_als_runden();
     /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.
     void tank_alle_spuren();
     /// Levels and their displays, without any change.

@@ -56,6 +56,10 @@ public:
     virtual std::string naechste_fahrer() const { return {}; }
     /// The start, or the warm-up before it, has begun.
     virtual void begonnen() {}
+    /// After its end the warm-up is left by itself, this much later.
+    virtual std::optional<dauer_ms> nach_einfahren() const { return {}; }
+    /// It has been left, and the race comes next.
+    virtual void einfahren_beendet() {}
     /// Green: the race goes on from its result.
     virtual void weitergefahren() {}
     /// Broken off without a result.

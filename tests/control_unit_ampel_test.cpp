@@ -1,4 +1,6 @@
+#include "competition/einfahren.h"
 #include "tests/control_unit_probe.h"
+#include "tests/plattform/vereinsabend.h"
 
 /// The race follows the unit's own light: its start, its pauses and their ends.
 namespace tarvel::test {
@@ -43,6 +45,35 @@ TEST_F(ControlUnitRennen, EinFruehstartDerDenStartAbbrichtHaeltAuchDasGeraetAn) 
     t.einrichten(t.p.txt.text_runden, "10", {1, 2});
     t.maschine.laufen(3000);
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << "nor does the next race begin by itself";
+}
+
+TEST_F(ControlUnitRennen, ZumEinfahrenFahrenDieWagenUndStehenDanachOhneDassEinRennenBeginnt) {
+    vereinsabend abend(t.p);
+    mit_software_starten(1);
+    status(false);
+    t.p.rennen.teil_von.wechseln(abend);
+    t.p.fenster.neu_laden(fenstername::bahn1);
+    t.bahn().Command6.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 0) << "they drive already";
+    t.p.einfahren.Command5.klicken();
+    t.maschine.laufen(150);
+    EXPECT_EQ(geschrieben("T2P$"), 1);
+    status(true);
+    t.maschine.laufen(3000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    t.bahn().Command6.klicken();
+    EXPECT_EQ(geschrieben("T2P$"), 2) << "its light lets them go";
+    status(false);
+    status(true);  // somebody has pressed the unit's key
+    t.maschine.laufen(1000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    t.p.einfahren.Command5.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(geschrieben("T2P$"), 2) << "they stand";
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(2100);
+    EXPECT_EQ(geschrieben("T2P$"), 3) << "the race's own light";
 }
 
 TEST_F(ControlUnitRennen, DieRundenzaehlerboxStartetJedesMalWennSieBereitWird) {

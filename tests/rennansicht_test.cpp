@@ -60,7 +60,6 @@ TEST_F(Rennansicht, EinfahrzeitGibtDieBahnFreiUndDanebenStehtWerAlsNaechstesFaeh
     EXPECT_FALSE(t.bahn().Command6.sichtbar() || inhalt().einfahrzeit || inhalt().naechstes_rennen);
     abend.naechste = "Gerd, Hanna";
     t.p.form1.einzelrennen_beginnen = [this] { t.p.rennen_beginnen(abend); };
-    const fensterlogik einfahren(t.p.fenster, t.p.ablage, fenstername::einfahren);
     oeffnen({1, 2});
     EXPECT_TRUE(inhalt().einfahrzeit && inhalt().naechstes_rennen);
     EXPECT_EQ(t.bahn().Label_naechstesrennen.text() + t.bahn().Label5.text(), "Nächstes Rennen:Gerd, Hanna");
@@ -68,6 +67,8 @@ TEST_F(Rennansicht, EinfahrzeitGibtDieBahnFreiUndDanebenStehtWerAlsNaechstesFaeh
     t.bahn().Command6.klicken();
     EXPECT_TRUE(offen(fenstername::einfahren));
     EXPECT_FALSE(t.p.ereignisse[16].aktiv);
+    t.p.fenster.entladen(fenstername::einfahren);
+    t.p.rennen.ablauf.einfahrzeit_beendet();
     EXPECT_FALSE(strom(1));
     t.bahn().Command1.klicken();
     EXPECT_FALSE(t.bahn().Command6.bedienbar());

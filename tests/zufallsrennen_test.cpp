@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <random>
 
+#include "competition/einfahren.h"
+#include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -95,6 +97,9 @@ private:
     void starten() {
         const bool zeit = selten(2);
         t_.einrichten(zeit ? "Zeit" : "Runden", zeit ? "0,25" : "7", {1, 2, 4, 6});
+        if (selten(3)) {
+            einfahren();
+        }
         t_.p.einst.start_ampel_modus = selten(3) ? ampelwahl::fuenf_rot_gruen : ampelwahl::keine;
         t_.bahn().Command1.klicken();
         while (!t_.p.rennen.zeitgeber.renntimer->laeuft()) {
@@ -108,6 +113,23 @@ private:
                 t_.bahn().Command1.klicken();
             }
         }
+    }
+
+    /// Cars warm up before the race, and some still roll as that ends.
+    void einfahren() {
+        t_.p.einst.w_edauer_runden = selten(2);
+        t_.p.einst.w_edauer = 1 + unter(4);
+        t_.p.rennen.teil_von.wechseln(abend_);
+        t_.bahn().Command6.klicken();
+        const int dauer_ms = unter(5000);
+        for (int ms = 0; ms < dauer_ms; ++ms) {
+            if (selten(200)) {
+                t_.p.einfahren.taste("123456qwertzasdfghcn!\"uiop"[unter(26)]);
+            }
+            t_.maschine.laufen(1);
+        }
+        t_.p.einfahren.taste('1');
+        t_.p.einfahren.Command5.klicken();
     }
 
     void handeln() {
@@ -238,6 +260,7 @@ private:
 
     std::mt19937 z_;
     test::testprogramm t_;
+    test::vereinsabend abend_{t_.p};
     stromstand strom_;
     spuren<vorher> bisher_;
     spuren<zeit_ms> strafzeit_vorher_{};

@@ -219,14 +219,11 @@ QWidget* Form1Fenster::rennbefehle() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
-    rennen->setMinimumSize(220, stil::knopfhoehe);
+    rennen->setMinimumSize(170, stil::knopfhoehe);
     aufbau->addWidget(rennen);
-    QPushButton* wettkampf = hoher_knopf(logik_.Command3, "Command3");
-    wettkampf->setMinimumWidth(140);
-    aufbau->addWidget(wettkampf);
-    QPushButton* tagesrennen = hoher_knopf(logik_.command17, "command17");
-    tagesrennen->setMinimumWidth(130);
-    aufbau->addWidget(tagesrennen);
+    aufbau->addWidget(hoher_knopf(logik_.Command11, "Command11"));
+    aufbau->addWidget(hoher_knopf(logik_.Command3, "Command3"));
+    aufbau->addWidget(hoher_knopf(logik_.command17, "command17"));
     aufbau->addWidget(hoher_knopf(logik_.Command18, "Command18"));
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));

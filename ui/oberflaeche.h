@@ -11,6 +11,7 @@
 #include "ui/bestzeitverwaltung_fenster.h"
 #include "ui/bildwahl_fenster.h"
 #include "ui/cu_fenster.h"
+#include "ui/einfahren_fenster.h"
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
@@ -52,6 +53,7 @@ public:
     Bahn1Fenster bahn1{p_.rennen, fenster, &form1};
     Form2Fenster form2{p_.startampel, p_.einst, p_.ablage, fenster, &bahn1};
     KAmpelFenster k_ampel{p_.k_ampel, p_.einst, p_.ablage, fenster, &bahn1};
+    EinfahrenFenster einfahren{p_.einfahren, fenster, &bahn1};
     AuswertungFenster auswertung{p_.auswertung, p_.ablage, fenster, &bahn1};
     SpeichernFenster rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
     BestzeitenFenster bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
@@ -72,7 +74,7 @@ public:
     TagesrennenFenster tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
     BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
-    Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel}};
+    Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel, &einfahren}};
 };
 
 }  // namespace tarvel::ui

@@ -9,8 +9,7 @@
 namespace tarvel::ui {
 
 // the view takes it along: one made without a chart makes its own, which setChart() would leave behind
-Rundendiagramm::Rundendiagramm(QWidget* eltern) : Rundendiagramm(new Rundenbild, eltern) {
-}
+Rundendiagramm::Rundendiagramm(QWidget* eltern) : Rundendiagramm(new Rundenbild, eltern) {}
 
 Rundendiagramm::Rundendiagramm(Rundenbild* bild, QWidget* eltern) : QChartView(bild, eltern), bild_(bild) {
     setRenderHint(QPainter::Antialiasing);

@@ -72,7 +72,9 @@ bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
     if (ereignis.isAutoRepeat()) {
         return true;
     }
-    if (fuer_startampel(vorn)) {
+    if (fenster_.einfahren->isVisible()) {
+        p_.einfahren.taste(*code, alter(ereignis));
+    } else if (fuer_startampel(vorn)) {
         p_.startampel.taste(*code, alter(ereignis));
     } else {
         p_.rennen.befehle.taste(*code, alter(ereignis));
@@ -81,7 +83,8 @@ bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
 }
 
 bool Tastenfaenger::ist_rennfenster(const QWidget* vorn) const {
-    return vorn == fenster_.bahn1 || vorn == fenster_.startampel || vorn == fenster_.k_ampel;
+    return vorn == fenster_.bahn1 || vorn == fenster_.startampel || vorn == fenster_.k_ampel ||
+           vorn == fenster_.einfahren;
 }
 
 bool Tastenfaenger::fuer_startampel(const QWidget* vorn) const {

@@ -17,6 +17,7 @@ public:
         const QWidget* bahn1;
         const QWidget* startampel;
         const QWidget* k_ampel;
+        const QWidget* einfahren;
     };
 
     Tastenfaenger(programm& p, const Rennfenster& fenster);

@@ -1,6 +1,7 @@
 #include <QPushButton>
 #include <map>
 
+#include "tests/plattform/vereinsabend.h"
 #include "tests/ui/oberflaeche_probe.h"
 
 namespace tarvel {
@@ -68,6 +69,24 @@ TEST_F(Rennfenster, UhrMitStundenBleibtInIhremPlatz) {
     const QRect trenner = finde<QWidget>(o.bahn1, "bahn1.Label10")->geometry();
     EXPECT_GT(trenner.width(), 5);
     EXPECT_LE(trenner.left(), finde<QWidget>(o.bahn1, "bahn1.labelmin1")->geometry().left());
+}
+
+TEST_F(Rennfenster, BeimEinfahrenZaehltDieTasteUndEscBeendetEs) {
+    test::vereinsabend abend(t.p);
+    t.einrichten("Runden", "5", {1, 2});
+    t.p.rennen.teil_von.wechseln(abend);
+    t.p.einst.w_edauer = 3;
+    t.p.fenster.neu_laden(fenstername::bahn1);
+    o.takt.ausfuehren();
+    klick(o.bahn1, "bahn1.Command6");
+    ASSERT_TRUE(o.einfahren.isVisible() && o.einfahren.isModal());
+    taste(o.einfahren, '2');
+    t.maschine.laufen(2);
+    EXPECT_EQ(anzeige(o.einfahren, "einfahren.runden_1"), "2");
+    EXPECT_EQ(anzeige(o.einfahren, "einfahren.runden_0"), "3");
+    QTest::keyClick(&o.einfahren, Qt::Key_Escape);
+    EXPECT_FALSE(o.einfahren.isVisible());
+    EXPECT_EQ(t.runden(2), -1);
 }
 
 TEST_F(Rennfenster, FenstermodusStattVollbild) {

@@ -115,6 +115,14 @@ QWidget& im_ziel(buehne& b) {
     return b.o.bahn1;
 }
 
+void einfahren_zeigen(buehne& b, bool runden, int laenge, std::initializer_list<int> spuren) {
+    b.p.einst.w_edauer_runden = runden;
+    b.p.einst.w_edauer = laenge;
+    b.p.form1.einzelrennen_beginnen = [&b] { b.p.rennen_beginnen(b.abend); };
+    b.einrichten("Runden", "10", spuren);
+    b.t.bahn().Command6.klicken();
+}
+
 const std::vector<szeneneintrag> alle{
     {"rennen_vor_dem_start",
      [](buehne& b) -> QWidget& {
@@ -210,6 +218,35 @@ const std::vector<szeneneintrag> alle{
          b.p.form1.einzelrennen_beginnen = [&b] { b.p.rennen_beginnen(b.abend); };
          b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
          return b.o.bahn1;
+     }},
+    {"einfahren_runden",
+     [](buehne& b) -> QWidget& {
+         einfahren_zeigen(b, true, 8, {1, 2, 3, 4, 5, 6});
+         for (const int taste : {'1', '2', '4', '4', '6'}) {
+             b.t.maschine.laufen(6000);
+             b.p.einfahren.taste(taste);
+         }
+         b.t.maschine.laufen(10);
+         return b.o.einfahren;
+     }},
+    {"einfahren_zwei_spuren_99",
+     [](buehne& b) -> QWidget& {
+         einfahren_zeigen(b, true, 99, {1, 2});
+         return b.o.einfahren;
+     }},
+    {"einfahren_zeit",
+     [](buehne& b) -> QWidget& {
+         einfahren_zeigen(b, false, 180, {1, 2, 3, 4});
+         b.t.maschine.laufen(51300);
+         return b.o.einfahren;
+     }},
+    {"einfahren_ende",
+     [](buehne& b) -> QWidget& {
+         einfahren_zeigen(b, false, 10, {1, 2, 3, 4});
+         b.t.maschine.laufen(10000);
+         b.p.einfahren.weiterlabel.sichtbar(true);
+         b.p.einfahren.weiterlabel.text("Weiter in: 27");
+         return b.o.einfahren;
      }},
     {"rennen_nachlauf",
      [](buehne& b) -> QWidget& {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "results/einzelrennen.h"
+
+namespace tarvel {
+
+/// A race for practice.
+class training : public einzelrennen {
+public:
+    using einzelrennen::einzelrennen;
+
+    bool mit_spurwechsel() const override { return false; }
+};
+
+}  // namespace tarvel
