@@ -21,9 +21,10 @@ struct zeitsperre {
     zeit_ms von = 0;
     zeit_ms bis = 0;  ///< 0: it has no time, `laeuft` tells
 
-    /// A crossing from the beginning of a pause is `verschoben` behind it, where only a penalty that goes on meets it.
+    /// A crossing from the beginning of a pause is `verschoben` behind it, by all of it, where a penalty meets it that
+    /// still has to be served.
     bool gilt(zeit_ms stempel, bool verschoben, bool laeuft) const {
-        return bis == 0 ? laeuft : stempel >= von && stempel < bis && (laeuft || !verschoben);
+        return bis == 0 ? laeuft : stempel >= von && (verschoben ? laeuft : stempel < bis);
     }
 };
 
