@@ -7,12 +7,12 @@
 #include "results/einzelrennen_datei.h"
 #include "results/ergebnisdatei.h"
 #include "results/ergebniswerte.h"
+#include "results/rennblock.h"
 
 namespace tarvel {
 namespace {
 
 constexpr std::size_t felder_je_spur = 5;
-constexpr std::size_t kennzahlen_anzahl = 9;
 constexpr std::size_t erste_spurzeile = 5;
 constexpr std::size_t fusszeilen = 4;
 

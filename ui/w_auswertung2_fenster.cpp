@@ -12,6 +12,7 @@
 #include "core/text.h"
 #include "results/rundenverlauf.h"
 #include "ui/blattausgabe.h"
+#include "ui/korrekturfeld.h"
 #include "ui/stil.h"
 #include "ui/w_auswertung2_teile.h"
 
@@ -24,8 +25,6 @@ constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
 constexpr double schrift_min_px = 13;
 constexpr double schrift_max_px = 30;
 constexpr int ordner_zeilen = 5;
-constexpr int feld_breite_min = 78;  // of a time
-constexpr int feld_breite_max = 120;
 
 }  // namespace
 
@@ -68,7 +67,8 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
         binder().verbinden(logik.Frame_blick.at(i + 1), bilder.at(i), "Frame_blick_" + QString::number(i + 1), {});
         rechts->addWidget(bilder.at(i), 1);
     }
-    for (QWidget* feld : {korrekturfeld(), klassenfeld(), sortierfeld(), speicherfeld()}) {
+    for (QWidget* feld :
+         {korrekturfeld(logik.korrektur, binder(), this), klassenfeld(), sortierfeld(), speicherfeld()}) {
         rechts->addWidget(feld);
     }
     rechts->addLayout(befehlszeile());
@@ -228,100 +228,6 @@ QWidget* WAuswertung2Fenster::speicherfeld() {
     aufbau->addWidget(speichern);
     aufbau->addWidget(binder().knopf(logik_.Command12, "Command12"));
     return kasten;
-}
-
-QWidget* WAuswertung2Fenster::korrekturfeld() {
-    korrekturrahmen& k = logik_.korrektur;
-    QGroupBox* kasten = binder().gruppe(k.Frame2, "Frame2");
-    auto* aufbau = new QVBoxLayout(kasten);
-    aufbau->setContentsMargins(10, 2, 10, 6);
-    aufbau->setSpacing(6);
-    auto* oben = new QHBoxLayout;
-    oben->setSpacing(8);
-    oben->addWidget(binder().label(k.Label_name, "Label_name"));
-    oben->addWidget(binder().zeile(k.Text2, "Text2"), 1);
-    oben->addWidget(binder().label(k.lbl_klasse, "lbl_klasse"));
-    QComboBox* klasse = binder().auswahlfeld(k.cbo_klasse, "cbo_klasse");
-    klasse->setMinimumContentsLength(3);
-    oben->addWidget(klasse);
-    aufbau->addLayout(oben);
-    aufbau->addWidget(korrekturraster());
-    aufbau->addLayout(zeitzeile());
-    aufbau->addLayout(korrekturknoepfe());
-    return kasten;
-}
-
-QWidget* WAuswertung2Fenster::korrekturraster() {
-    korrekturrahmen& k = logik_.korrektur;
-    auto* feld = new QWidget(this);
-    auto* raster = new QGridLayout(feld);
-    raster->setContentsMargins(0, 0, 0, 0);
-    raster->setHorizontalSpacing(6);
-    raster->setVerticalSpacing(3);
-    const std::array<std::pair<bezeichnung*, const char*>, 3> titel{
-        {{&k.Label_runden, "Label_runden"}, {&k.Label_meter, "Label_meter"}, {&k.Label_beste, "Label_beste"}}};
-    for (std::size_t i = 0; i < titel.size(); ++i) {
-        raster->addWidget(binder().label(*titel.at(i).first, titel.at(i).second), static_cast<int>(i) + 1, 0);
-    }
-    for (std::size_t i = 0; i < korrekturrahmen::teile_max; ++i) {
-        const int spalte = static_cast<int>(i) + 1;
-        const QString nummer = "_" + QString::number(i);
-        raster->addWidget(stil::leise(binder().label(k.Label_teil.at(i), "Label_teil" + nummer)), 0, spalte);
-        const auto eingabe = [&](tarvel::feld& element, const QString& name, int zeile) {
-            QLineEdit* widget = binder().zeile(element, name + nummer);
-            widget->setMinimumWidth(feld_breite_min);
-            widget->setMaximumWidth(feld_breite_max);
-            widget->setStyleSheet("QLineEdit { padding: 3px 4px; font-size: 13px; }");
-            raster->addWidget(widget, zeile, spalte);
-        };
-        eingabe(k.aus_runden.at(i), "aus_runden", 1);
-        if (i < k.aus_meter.size()) {
-            eingabe(k.aus_meter.at(i), "aus_meter", 2);
-        }
-        eingabe(k.aus_beste.at(i), "aus_beste", 3);
-    }
-    raster->setColumnStretch(static_cast<int>(korrekturrahmen::teile_max) + 1, 1);
-    auto* rollfeld = new QScrollArea(this);  // heats are more than the window is wide
-    rollfeld->setFrameShape(QFrame::NoFrame);
-    rollfeld->setWidgetResizable(true);
-    rollfeld->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rollfeld->setFocusPolicy(Qt::NoFocus);
-    rollfeld->setWidget(feld);
-    for (QWidget* grund : {static_cast<QWidget*>(rollfeld), rollfeld->viewport(), feld}) {
-        grund->setAutoFillBackground(false);
-    }
-    rollfeld->setFixedHeight(feld->sizeHint().height() + rollfeld->horizontalScrollBar()->sizeHint().height());
-    return rollfeld;
-}
-
-QLayout* WAuswertung2Fenster::zeitzeile() {
-    korrekturrahmen& k = logik_.korrektur;
-    auto* zeile = new QHBoxLayout;
-    zeile->setSpacing(6);
-    zeile->addWidget(binder().label(k.Label_zeit, "Label_zeit"));
-    const std::array<std::pair<tarvel::feld*, const char*>, 4> teile{{{&k.w_aus_std, "w_aus_std"},
-                                                                      {&k.w_aus_min, "w_aus_min"},
-                                                                      {&k.w_aus_sec, "w_aus_sec"},
-                                                                      {&k.w_aus_hun, "w_aus_hun"}}};
-    for (std::size_t i = 0; i < teile.size(); ++i) {
-        QLineEdit* eingabe = binder().zeile(*teile.at(i).first, teile.at(i).second);
-        eingabe->setFixedWidth(52);
-        zeile->addWidget(eingabe);
-        zeile->addWidget(stil::leise(binder().label(k.Label_einheit.at(i), "Label_einheit_" + QString::number(i))));
-    }
-    zeile->addStretch(1);
-    return zeile;
-}
-
-QLayout* WAuswertung2Fenster::korrekturknoepfe() {
-    korrekturrahmen& k = logik_.korrektur;
-    auto* zeile = new QHBoxLayout;
-    zeile->setSpacing(8);
-    zeile->addWidget(binder().knopf(k.meter_berechnen, "meter_berechnen"));
-    zeile->addStretch(1);
-    zeile->addWidget(binder().hauptknopf(k.Command14, "Command14"));
-    zeile->addWidget(binder().knopf(k.Command15, "Command15"));
-    return zeile;
 }
 
 QLayout* WAuswertung2Fenster::befehlszeile() {

@@ -51,10 +51,6 @@ private:
     QWidget* klassenfeld();
     QWidget* sortierfeld();
     QWidget* speicherfeld();
-    QWidget* korrekturfeld();
-    QWidget* korrekturraster();
-    QLayout* zeitzeile();
-    QLayout* korrekturknoepfe();
     QLayout* befehlszeile();
     QLayout* fusszeile();
     void skalieren();
