@@ -165,111 +165,113 @@ TEST_F(Wiedereingesteckt, InDerPauseZurueckMisstEsWeiterAlsWaereNichtsGewesen) {
         EXPECT_EQ(konto.rundenzeit(1, 3), 8000);
         t.bahn().Command2.klicken();
     }
-    TEST_F(Wiedereingesteckt, BeimEinfahrenBleibtEineFertigeSpurOhneStrom) {
-        einschalten(&messhardware::hw_uart);
-        vereinsabend abend(t.p);
-        t.einrichten("Runden", "20", {1, 2});
-        t.p.rennen.teil_von.wechseln(abend);
-        t.p.einst.w_edauer = 1;
-        t.p.fenster.neu_laden(fenstername::bahn1);
-        t.bahn().Command6.klicken();
-        t.p.einfahren.taste('2');
+}
+
+TEST_F(Wiedereingesteckt, BeimEinfahrenBleibtEineFertigeSpurOhneStrom) {
+    einschalten(&messhardware::hw_uart);
+    vereinsabend abend(t.p);
+    t.einrichten("Runden", "20", {1, 2});
+    t.p.rennen.teil_von.wechseln(abend);
+    t.p.einst.w_edauer = 1;
+    t.p.fenster.neu_laden(fenstername::bahn1);
+    t.bahn().Command6.klicken();
+    t.p.einfahren.taste('2');
+    t.maschine.laufen(10);
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    EXPECT_TRUE(t.p.einfahren.geraetealarm.sichtbar());
+    t.maschine.anschluesse.da = {com};
+    gesendet();
+    t.maschine.laufen(2500 + at_bootzeit.count());
+    EXPECT_FALSE(t.p.einfahren.geraetealarm.sichtbar());
+    const std::string befehle = gesendet();
+    EXPECT_NE(befehle.find(":P20;"), std::string::npos) << befehle;
+    EXPECT_LT(befehle.rfind(":P01;"), befehle.rfind(":P20;")) << befehle;
+    EXPECT_FALSE(t.bahn().Command1.bedienbar());
+}
+
+TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
+    einschalten(&messhardware::hw_cu);
+    t.einrichten("Runden", "20", {1});
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(2000);
+    t.bahn().Command1.klicken();
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    t.bahn().Command1.klicken();
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+}
+
+TEST_F(Wiedereingesteckt, WasWaehrendDerFrageVonSelbstBeginntBeginntNichtNocheinmal) {
+    einschalten(&messhardware::hw_cu);
+    t.einrichten("Runden", "20", {1});
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(2000);
+    t.maschine.antwort = true;
+    t.maschine.waehrend_frage = [this] {
+        t.p.rennen.ablauf.rennstart_vorbereiten();
+        t.maschine.laufen(20000);
+        t.taste("1");
         t.maschine.laufen(10);
-        t.maschine.anschluesse.abziehen(com);
-        t.maschine.laufen(3000);
-        EXPECT_TRUE(t.p.einfahren.geraetealarm.sichtbar());
-        t.maschine.anschluesse.da = {com};
-        gesendet();
-        t.maschine.laufen(2500 + at_bootzeit.count());
-        EXPECT_FALSE(t.p.einfahren.geraetealarm.sichtbar());
-        const std::string befehle = gesendet();
-        EXPECT_NE(befehle.find(":P20;"), std::string::npos) << befehle;
-        EXPECT_LT(befehle.rfind(":P01;"), befehle.rfind(":P20;")) << befehle;
-        EXPECT_FALSE(t.bahn().Command1.bedienbar());
-    }
-
-    TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
-        einschalten(&messhardware::hw_cu);
-        t.einrichten("Runden", "20", {1});
-        t.maschine.anschluesse.abziehen(com);
-        t.maschine.laufen(2000);
-        t.bahn().Command1.klicken();
-        EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
-        EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
-        t.bahn().Command1.klicken();
-        EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
-        EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
-    }
-
-    TEST_F(Wiedereingesteckt, WasWaehrendDerFrageVonSelbstBeginntBeginntNichtNocheinmal) {
-        einschalten(&messhardware::hw_cu);
-        t.einrichten("Runden", "20", {1});
-        t.maschine.anschluesse.abziehen(com);
-        t.maschine.laufen(2000);
-        t.maschine.antwort = true;
-        t.maschine.waehrend_frage = [this] {
-            t.p.rennen.ablauf.rennstart_vorbereiten();
-            t.maschine.laufen(20000);
-            t.taste("1");
-            t.maschine.laufen(10);
-        };
-        t.bahn().Command1.klicken();
-        EXPECT_EQ(t.runden(1), 0) << "and not -1, as before a start";
-        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
-    }
-
-    /// Its clock is fast by a hundredth.
-    struct geraet_mit_uhr final : messquelle {
-        explicit geraet_mit_uhr(const test_plattform& maschine) : maschine_(maschine), anfang_(maschine.jetzt()) {}
-        std::optional<zeit_ms> uhr_lesen() override { return 7'000'000 + (maschine_.jetzt() - anfang_) * 101 / 100; }
-
-    private:
-        const test_plattform& maschine_;
-        zeit_ms anfang_;
     };
+    t.bahn().Command1.klicken();
+    EXPECT_EQ(t.runden(1), 0) << "and not -1, as before a start";
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
+}
 
-    TEST_F(ProgrammProbe, DieUhrEinesGeraetsIstDieDesRennens) {
-        geraet_mit_uhr uhr(t.maschine);
-        t.p.quellen.anschliessen(uhr);
-        t.p.einst.chaosampel_an = false;
-        const renn_zustand& zustand = t.p.rennen.zustand;
-        t.starten("Runden", "20", {1});
-        EXPECT_NEAR(static_cast<double>(zustand.start_zeit), 7'000'000, 10);
-        t.maschine.laufen(5000);
-        t.bahn().Command3.klicken();
-        t.maschine.laufen(1);
-        ASSERT_TRUE(zustand.chaos_aktiv);
-        EXPECT_NEAR(static_cast<double>(zustand.pause.start), 7'005'050, 2);
-        t.maschine.laufen(10000);
-        t.bahn().Command3.klicken();
-        t.maschine.laufen(1);
-        ASSERT_FALSE(zustand.chaos_aktiv);
-        EXPECT_NEAR(static_cast<double>(zustand.pause.dauer), 10100, 2);
-        t.p.quellen.trennen(uhr);
-    }
+/// Its clock is fast by a hundredth.
+struct geraet_mit_uhr final : messquelle {
+    explicit geraet_mit_uhr(const test_plattform& maschine) : maschine_(maschine), anfang_(maschine.jetzt()) {}
+    std::optional<zeit_ms> uhr_lesen() override { return 7'000'000 + (maschine_.jetzt() - anfang_) * 101 / 100; }
 
-    TEST(Messhardware, NurWasDenAnschlussBetrifftStartetSieNeu) {
-        using e = einstellungen;
-        const auto neu_nach = [](const std::function<void(e&)>& aendern) {
-            e geaendert;
-            aendern(geaendert);
-            return geaendert.hardware_anders_als(e{});
-        };
-        int nummer = 0;
-        for (const std::function<void(e&)>& aendern : std::vector<std::function<void(e&)>>{
-                 [](e& x) { x.hardware.hw_lpt = true; }, [](e& x) { x.hardware.hw_4x4_modus = modul_4x4::modus_3; },
-                 [](e& x) { x.hardware.tk_spurmodus = spurmodus::analog; }, [](e& x) { x.iow.iow_datei = "x"; },
-                 [](e& x) { x.rc.anschluss.rc_com_port = "x"; }, [](e& x) { x.lpt.anschluss.lpt_adresse = 1; },
-                 [](e& x) { x.tk.tk_datei = "x"; }, [](e& x) { x.cu.anschluss.cu_modus = 1; },
-                 [](e& x) { x.uart.uart_port = 1; }, [](e& x) { x.uart.uart_datei = "x"; }}) {
-            EXPECT_TRUE(neu_nach(aendern)) << nummer++;
-        }
-        EXPECT_FALSE(neu_nach([](e& x) {
-            x.cu.cu_option = x.cu.cu_tankautomatik = x.cu.cu_sondermodus = true;
-            x.cu.cu_spur_wert[1] = 7;
-            x.rc.rc_level = x.lpt.lpt_eingang[1] = x.s6.s6_eingang[1] = 9;
-        })) << "a device that drives must not be stopped for what it takes over at once";
+private:
+    const test_plattform& maschine_;
+    zeit_ms anfang_;
+};
+
+TEST_F(ProgrammProbe, DieUhrEinesGeraetsIstDieDesRennens) {
+    geraet_mit_uhr uhr(t.maschine);
+    t.p.quellen.anschliessen(uhr);
+    t.p.einst.chaosampel_an = false;
+    const renn_zustand& zustand = t.p.rennen.zustand;
+    t.starten("Runden", "20", {1});
+    EXPECT_NEAR(static_cast<double>(zustand.start_zeit), 7'000'000, 10);
+    t.maschine.laufen(5000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1);
+    ASSERT_TRUE(zustand.chaos_aktiv);
+    EXPECT_NEAR(static_cast<double>(zustand.pause.start), 7'005'050, 2);
+    t.maschine.laufen(10000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1);
+    ASSERT_FALSE(zustand.chaos_aktiv);
+    EXPECT_NEAR(static_cast<double>(zustand.pause.dauer), 10100, 2);
+    t.p.quellen.trennen(uhr);
+}
+
+TEST(Messhardware, NurWasDenAnschlussBetrifftStartetSieNeu) {
+    using e = einstellungen;
+    const auto neu_nach = [](const std::function<void(e&)>& aendern) {
+        e geaendert;
+        aendern(geaendert);
+        return geaendert.hardware_anders_als(e{});
+    };
+    int nummer = 0;
+    for (const std::function<void(e&)>& aendern : std::vector<std::function<void(e&)>>{
+             [](e& x) { x.hardware.hw_lpt = true; }, [](e& x) { x.hardware.hw_4x4_modus = modul_4x4::modus_3; },
+             [](e& x) { x.hardware.tk_spurmodus = spurmodus::analog; }, [](e& x) { x.iow.iow_datei = "x"; },
+             [](e& x) { x.rc.anschluss.rc_com_port = "x"; }, [](e& x) { x.lpt.anschluss.lpt_adresse = 1; },
+             [](e& x) { x.tk.tk_datei = "x"; }, [](e& x) { x.cu.anschluss.cu_modus = 1; },
+             [](e& x) { x.uart.uart_port = 1; }, [](e& x) { x.uart.uart_datei = "x"; }}) {
+        EXPECT_TRUE(neu_nach(aendern)) << nummer++;
     }
+    EXPECT_FALSE(neu_nach([](e& x) {
+        x.cu.cu_option = x.cu.cu_tankautomatik = x.cu.cu_sondermodus = true;
+        x.cu.cu_spur_wert[1] = 7;
+        x.rc.rc_level = x.lpt.lpt_eingang[1] = x.s6.s6_eingang[1] = 9;
+    })) << "a device that drives must not be stopped for what it takes over at once";
+}
 
 }  // namespace
 }  // namespace tarvel::test
