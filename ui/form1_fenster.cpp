@@ -219,16 +219,12 @@ QWidget* Form1Fenster::rennbefehle() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
-    rennen->setMinimumSize(170, stil::knopfhoehe);
+    rennen->setMinimumSize(190, stil::knopfhoehe);
     aufbau->addWidget(rennen);
     aufbau->addWidget(hoher_knopf(logik_.Command11, "Command11"));
     aufbau->addWidget(hoher_knopf(logik_.Command3, "Command3"));
     aufbau->addWidget(hoher_knopf(logik_.command17, "command17"));
     aufbau->addWidget(hoher_knopf(logik_.Command18, "Command18"));
-    aufbau->addStretch();
-    aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
-    aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));
-    aufbau->addWidget(hoher_knopf(logik_.Command12, "Command12"));
     aufbau->addStretch();
     QPushButton* ende = hoher_knopf(logik_.Command2, "Command2");
     ende->setMinimumWidth(110);
@@ -244,6 +240,10 @@ QWidget* Form1Fenster::werkzeugbefehle() {
     aufbau->addWidget(hoher_knopf(logik_.Command8, "Command8"));
     aufbau->addWidget(hoher_knopf(logik_.Command9, "Command9"));
     aufbau->addWidget(hoher_knopf(logik_.command_tasten, "command_tasten"));
+    aufbau->addStretch();
+    aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
+    aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));
+    aufbau->addWidget(hoher_knopf(logik_.Command12, "Command12"));
     aufbau->addStretch();
     aufbau->addWidget(hoher_knopf(logik_.Command5, "Command5"));
     aufbau->addWidget(hoher_knopf(logik_.Command7, "Command7"));
