@@ -17,7 +17,7 @@ bool sind_ziffern(std::string_view text) {
 }
 
 /// Digits, and one decimal mark.
-bool ist_zahl(std::string_view text) {
+bool ist_meterzahl(std::string_view text) {
     const bool zeichen = text.find_first_not_of("0123456789.,") == std::string_view::npos;
     return zeichen && !text.empty() &&
            std::count_if(text.begin(), text.end(), [](char c) { return c > '9' || c < '0'; }) <= 1 &&
@@ -272,7 +272,7 @@ std::optional<ergebniseintrag> korrekturrahmen::eintrag() {
     };
     const auto meter = [this](feld& eingabe, double& wert) {
         wert = ergebnismeter_lesen(eingabe.text(), trennzeichen_);
-        return ist_zahl(eingabe.text());
+        return ist_meterzahl(eingabe.text());
     };
     const auto zeit = [this](feld& eingabe, zeit_ms& wert) { return zeitfeld_lesen(eingabe, wert); };
     const bool gut = alle_lesen(aus_runden, runden_texte_, neu.runden, runden) &&
