@@ -443,10 +443,10 @@ TEST_F(Oberflaeche, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
         EXPECT_EQ(kuerzel.removeDuplicates(), 0) << fenster->objectName().toStdString();
     }
     t.p.fenster.entladen(fenstername::speichernfenster);
-    t.p.form1.Command1.text("R && B");
+    t.p.form1.Command1.text("J && B");
     o.takt.ausfuehren();
     auto* knopf = finde<QPushButton>(o.form1, "Form1.Command1");
-    EXPECT_EQ(QString(knopf->text()).remove("&&"), "&R  B") << "an ampersand of the text is no mark";
+    EXPECT_EQ(QString(knopf->text()).remove("&&"), "&J  B") << "an ampersand of the text is no mark";
     t.p.form1.Command1.text("Einzelrennen");
     o.takt.ausfuehren();
     o.form1.activateWindow();
