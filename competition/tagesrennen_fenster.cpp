@@ -47,6 +47,7 @@ tagesrennen_fenster::tagesrennen_fenster(const umgebung& um)
         Text_fahrer.at(i).laenge_max(namensliste::name_laenge_max);
         Text_fahrer.at(i).bei_aenderung = [this, i] { fahrer_geaendert(i); };
         lstb_klasse.at(i).eintraege(alle_klassen);
+        lstb_klasse.at(i).bei_aenderung = [this, i] { vorgeschlagen_.at(i) = false; };
     }
     Command18.bei_klick = [this] { starten(); };
     Command20.bei_klick = [this] { schliessen(); };
@@ -94,7 +95,9 @@ void tagesrennen_fenster::laden() {
 
 void tagesrennen_fenster::entladen() {
     Timer1_->aus();
-    parameter_sichern();
+    if (const tagesparameter werte = parameter(); werte != gesichert_) {
+        parameter_sichern(werte);
+    }
 }
 
 tagesparameter tagesrennen_fenster::parameter() const {
@@ -116,11 +119,7 @@ void tagesrennen_fenster::parameter_zeigen() {
     gesichert_ = parameter();
 }
 
-void tagesrennen_fenster::parameter_sichern() {
-    const tagesparameter werte = parameter();
-    if (werte == gesichert_) {
-        return;
-    }
+void tagesrennen_fenster::parameter_sichern(const tagesparameter& werte) {
     gesichert_ = werte;
     if (!tagesparameter_speichern(um_.welt.ablage, werte)) {
         um_.welt.meldungen.zeigen(wort_.nicht_gesichert, um_.welt.txt.titel[1]);
@@ -143,7 +142,7 @@ void tagesrennen_fenster::spuren_zeigen() {
         const std::string& fahrer = um_.einrichtung.bahn[spur].fahrer;
         const std::string neu = fahrer == um_.welt.txt.kein_fahrer ? std::string() : fahrer;
         if (neu != Text_fahrer.at(i).text()) {
-            lstb_klasse.at(i).platz(-1);  // it was another one's
+            klasse_leeren(i);  // it was another one's
         }
         spurfarbe.at(i).hintergrund(um_.einst.farben_spur[spur]);
         Label_spur.at(i).text(wort_.spur + " " + std::to_string(spur));
@@ -164,6 +163,11 @@ void tagesrennen_fenster::klassen_geaendert() {
 
 void tagesrennen_fenster::datei_geaendert() {
     Timer1_->aus();
+    for (std::size_t i = 0; i < lstb_klasse.size(); ++i) {
+        if (vorgeschlagen_.at(i)) {
+            klasse_leeren(i);  // of another day
+        }
+    }
     if (dateiname().empty()) {
         datei_pruefen();
         return;
@@ -223,11 +227,17 @@ void tagesrennen_fenster::bisher_zeigen(std::size_t i) {
         const auto& klassen = lstb_klasse.at(i).eintraege();
         const auto stelle = std::find(klassen.begin(), klassen.end(), letzte->klasse);
         lstb_klasse.at(i).platz(stelle == klassen.end() ? -1 : static_cast<int>(stelle - klassen.begin()));
+        vorgeschlagen_.at(i) = true;
     }
 }
 
+void tagesrennen_fenster::klasse_leeren(std::size_t i) {
+    lstb_klasse.at(i).platz(-1);
+    vorgeschlagen_.at(i) = false;
+}
+
 void tagesrennen_fenster::fahrer_geaendert(std::size_t i) {
-    lstb_klasse.at(i).platz(-1);  // nobody drives in the class of the one before him
+    klasse_leeren(i);  // nobody drives in the class of the one before him
     bisher_zeigen(i);
 }
 
@@ -272,16 +282,18 @@ void tagesrennen_fenster::starten() {
     tagesauftrag auftrag{tagesdatei_pfad(dateiname()), {}};
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
-        if (!faehrt(i) || Text_fahrer.at(i).text().empty()) {
+        if (!faehrt(i)) {
             continue;
         }
-        um_.einrichtung.bahn[spur].fahrer = Text_fahrer.at(i).text();
-        if (Check1.gesetzt()) {
+        const bool jemand = !Text_fahrer.at(i).text().empty();  // who was struck here does not drive
+        um_.einrichtung.bahn[spur].fahrer = jemand ? Text_fahrer.at(i).text() : um_.welt.txt.kein_fahrer;
+        if (jemand && Check1.gesetzt()) {
             auftrag.klassen[spur] = lstb_klasse.at(i).text();
         }
     }
     um_.hauptfenster.einrichtung_zeigen();
     if (datei_bereitstellen()) {
+        parameter_sichern(parameter());
         schliessen();
         um_.folgen.tagesrennen_beginnen(auftrag);
     }

@@ -62,6 +62,8 @@ public:
     sprachliste sprache_lf();
     void laden() override;
     void entladen() override;
+    /// Reads the file of the day: it may have changed meanwhile.
+    void datei_pruefen();
 
 private:
     struct worte {
@@ -74,14 +76,14 @@ private:
     bool faehrt(std::size_t i) const;
     tagesparameter parameter() const;
     void parameter_zeigen();
-    void parameter_sichern();
+    void parameter_sichern(const tagesparameter& werte);
     void spuren_zeigen();
     void datei_geaendert();
-    void datei_pruefen();
     void zeilen_zeigen();
     /// What the day's file knows of the driver; his class is the one he had last.
     void bisher_zeigen(std::size_t i);
     void fahrer_geaendert(std::size_t i);
+    void klasse_leeren(std::size_t i);
     void klassen_geaendert();
     void starten();
     bool klassen_vollstaendig();
@@ -92,6 +94,7 @@ private:
     umgebung um_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;  ///< looks at the file once its name stands
     std::vector<tageszeile> zeilen_;                ///< of the file that stands in the field
+    std::array<bool, spuren_max> vorgeschlagen_{};  ///< the class comes from the file, nobody has chosen it
     tagesparameter gesichert_;
     worte wort_;
 };

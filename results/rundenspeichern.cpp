@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::string_view endung = ".csv";
 constexpr std::size_t tageszeilen_max = 1000000;  // what was driven before is never cut
+constexpr std::size_t tageszeile_bytes_max = 200000;
 
 }  // namespace
 
@@ -86,7 +87,7 @@ bool rundenspeichern::automatisch_speichern(const rennergebnis& ergebnis) {
 
 bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const rennergebnis& ergebnis) {
     texte_lesen();
-    auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max);
+    auto zeilen = um_.ablage.zeilen_lesen(datei, tageszeilen_max, tageszeile_bytes_max);
     if (!zeilen && !um_.ablage.gibt_es(datei)) {
         zeilen = {std::string(magie_tagesrennen)};
     }

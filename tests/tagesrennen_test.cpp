@@ -76,6 +76,11 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     f.Text_fahrer[1].eingeben("Anna");
     EXPECT_EQ(f.lstb_klasse[1].text(), "B") << "as she drove before";
     klasse(0, "A");
+    f.text_lf_datei.eingeben("Sonntag");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(f.lstb_klasse[0].text(), "A") << "chosen by hand";
+    EXPECT_EQ(f.lstb_klasse[1].platz(), -1) << "of another day";
+    datei("Samstag");
     f.Command18.klicken();
     rennen_fahren();
     const std::string carl = "A;Carl; 1;25.00;00:06,000;00:06,000";
@@ -84,9 +89,11 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
 
     oeffnen();
     f.Check1.umschalten();
+    f.Text_fahrer[1].eingeben("");
     f.Command18.klicken();
     rennen_fahren();
     EXPECT_EQ(inhalt(samstag).at(5).substr(0, 7), "0;Carl;") << "without classes";
+    EXPECT_EQ(inhalt(samstag).at(6).substr(0, 14), "0;kein Fahrer;") << "struck from the list";
 
     t.p.form1.Command1.klicken();
     rennen_fahren();
