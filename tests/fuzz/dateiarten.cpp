@@ -356,6 +356,12 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
            "Titel\r\nNr;Name\r\n1.;Anna; 7; 3; 4;00:08,000;00:08,100;01:02,000\r\nTV-JJ2-WKD\r\n",
            "Tarvel Tagesrennen\r\nA;Anna; 2;20.00;00:08,000;00:17,000\r\n0;Ben; 1;9.50;00:09,000;1:00:09,000\r\n"},
           tabelle_betrachten}},
+        {"tagesrennen",
+         {{"Tarvel Parameter-Datei f\xFCr das Tagesrennen\r\nErgebnisse\\Tagesrennen\\Samstag.csv\r\n 1 \r\nA bis 12 "
+           "Jahre\r\n"
+           "B\r\n\r\n\r\n\r\n",
+           "Tarvel Tagesrennen\r\nA;Anna; 2;20.00;00:08,000;00:17,000\r\n0;Ben; 1;9.50;00:09,000;00:09,000\r\n"},
+          tagesrennen_lesen}},
         {"wechselschema", {{"\r\n#Rennen\r\n123456P\r\n\r\n#Zwei\r\n1P65432\r\n"}, wechselschema_lesen}},
         {"bestzeiten", {{volle_bestzeiten(), "8123,Anna,Viper,21.11.2026\r\n"}, bestzeiten_lesen}},
         {"sprache", {sprachdateien(bank.t.p), sprache_lesen}},

@@ -43,6 +43,7 @@ bool wettkampfstand_lesen(werkbank& bank, const std::string& bytes);
 std::vector<std::vector<std::string>> volle_wettkampfstaende(const texte& txt);
 /// Everything that the viewer does with a result file.
 bool tabelle_betrachten(werkbank& bank, const std::string& bytes);
+bool tagesrennen_lesen(werkbank& bank, const std::string& bytes);
 bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
 
