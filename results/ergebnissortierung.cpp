@@ -70,6 +70,7 @@ void platz_schreiben(const ergebnistabelle& tabelle, ergebniszeile& zeile, int p
 void sortieren(ergebnistabelle& tabelle, sortier_modus nach) {
     std::vector<sortierzeile> fahrer = fahrer_von(tabelle);
     std::vector<ergebniszeile*> plaetze;
+    plaetze.reserve(fahrer.size());
     for (const sortierzeile& einer : fahrer) {
         plaetze.push_back(einer.zeile);
     }
@@ -79,13 +80,14 @@ void sortieren(ergebnistabelle& tabelle, sortier_modus nach) {
             return a.klasse < b.klasse;
         }
         for (const vergleich vergleichen : schluessel) {
-            if (const auto ordnung = vergleichen(a.werte, b.werte); ordnung != 0) {
-                return ordnung < 0;
+            if (const auto ordnung = vergleichen(a.werte, b.werte); std::is_neq(ordnung)) {
+                return std::is_lt(ordnung);
             }
         }
         return false;
     });
     std::vector<ergebniszeile> geordnet;
+    geordnet.reserve(fahrer.size());
     for (const sortierzeile& einer : fahrer) {
         geordnet.push_back(std::move(*einer.zeile));
     }

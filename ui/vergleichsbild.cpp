@@ -105,7 +105,9 @@ private:
         const QLocale sprache = i_.trennzeichen[1] == "." ? QLocale::c() : QLocale(QLocale::German);
         const int stellen = schritt_ < 10 ? 3 : schritt_ < 100 ? 2 : schritt_ < 1000 ? 1 : 0;
         maler_.setPen(QPen(stil::linie, std::max(1.0, zeile_ / 34)));
-        for (double wert = von_; wert < bis_ + schritt_ / 2; wert += schritt_) {
+        const int anzahl = static_cast<int>(std::lround((bis_ - von_) / schritt_));
+        for (int i = 0; i <= anzahl; ++i) {
+            const double wert = von_ + i * schritt_;
             const double hier = x(wert);
             maler_.setPen(QPen(stil::linie, std::max(1.0, zeile_ / 34)));
             maler_.drawLine(QPointF(hier, feld_.top()), QPointF(hier, feld_.bottom() + zeile_ * 0.15));
