@@ -48,7 +48,8 @@ zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalt
     if (spalten.meter.anzahl > 0) {
         werte.meter = ergebnismeter_lesen(felder.at(spalten.meter.ab), trennzeichen);
     }
-    for (std::size_t i = spalten.beste.ab; i < spalten.beste.ende(); ++i) {
+    // who is out keeps his best lap in the file, but has none that counts
+    for (std::size_t i = spalten.beste.ab; werte.runden > 0 && i < spalten.beste.ende(); ++i) {
         const zeit_ms beste = ergebniszeit_lesen(felder.at(i));
         if (beste > 0 && (werte.beste == 0 || beste < werte.beste)) {
             werte.beste = beste;

@@ -42,7 +42,7 @@ std::optional<ergebnisspalten> spalten_von(ergebnis_typ typ, std::size_t felder)
 struct zeilenwerte {
     std::int64_t runden = 0;
     double meter = 0;
-    zeit_ms beste = 0;  ///< the lowest one above 0; 0 for none
+    zeit_ms beste = 0;  ///< the lowest one above 0; 0 for none, or without a lap
     zeit_ms gesamtzeit = 0;
 };
 zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalten,

@@ -138,7 +138,7 @@ TEST(Ergebnistabelle, AddierteRennenBleibenEinzelnLesbar) {
 
 TEST(Ergebnistabelle, SortiertNachWertenUndJedeKlasseFuerSich) {
     ergebnistabelle t = tabelle_aus(tageszeilen({
-        "B;Null; 0;0.00;00:00,000;00:00,000",
+        "B;Null; 0;0.00;00:06,000;00:00,000",
         "B;Eine; 1;10.00;00:09,000;00:09,000",
         "A;Lang; 100;1000.00;00:08,000;1:00:00,000",
         "",
