@@ -24,11 +24,14 @@ public:
         : typ_(tabelle.typ), trennzeichen_(tabelle.trennzeichen), trenner_(tabelle.trennzeichen[2]) {}
 
     void addieren(fahrerzeile& a, rennblock& block, const fahrerzeile& b, const rennblock& block_b) const {
+        const zeit_ms gesamtzeit = gesamtzeit_lesen(a.felder, a.spalten) + gesamtzeit_lesen(b.felder, b.spalten);
         werte_addieren(a, b);
         if (typ_ == ergebnis_typ::einzelrennen) {
             block_addieren(block, rundenzeiten(a.felder), block_b, rundenzeiten(b.felder));
             runden_anhaengen(a.felder, b.felder);
         }
+        gesamtzeit_schreiben(a.felder, a.spalten, gesamtzeit, trennzeichen_);
+        blockfeld_setzen(block, blockreihe::gesamtzeit, 1, a.felder[a.spalten.gesamtzeit], trenner_);
     }
 
 private:
@@ -38,10 +41,13 @@ private:
                 a.felder[i] = summe(a.felder[i], b.felder[i]);
             }
         };
+        const bool ohne_runde_a = ergebnisrunden_lesen(a.felder[a.spalten.runden.ab]) == 0;
+        const bool ohne_runde_b = ergebnisrunden_lesen(b.felder[b.spalten.runden.ab]) == 0;
         je_feld(a.spalten.runden, [this](const auto& x, const auto& y) { return runden(x, y); });
         je_feld(a.spalten.meter, [this](const auto& x, const auto& y) { return meter(x, y); });
-        je_feld(a.spalten.beste, [](const auto& x, const auto& y) { return schnellere(x, y); });
-        je_feld({a.spalten.gesamtzeit, 1}, [this](const auto& x, const auto& y) { return zeit(x, y); });
+        je_feld(a.spalten.beste, [=](const auto& x, const auto& y) {
+            return ohne_runde_a == ohne_runde_b ? schnellere(x, y) : ohne_runde_a ? y : x;
+        });
     }
 
     std::string runden(const std::string& x, const std::string& y) const {
@@ -49,9 +55,6 @@ private:
     }
     std::string meter(const std::string& x, const std::string& y) const {
         return meter_schreiben(typ_, ergebnismeter_lesen(x, trennzeichen_) + ergebnismeter_lesen(y, trennzeichen_));
-    }
-    std::string zeit(const std::string& x, const std::string& y) const {
-        return ergebniszeit(ergebniszeit_lesen(x) + ergebniszeit_lesen(y), trennzeichen_);
     }
     static std::string schnellere(const std::string& x, const std::string& y) {
         const zeit_ms eine = ergebniszeit_lesen(x);
@@ -79,7 +82,6 @@ private:
         feld(blockreihe::rundenzahl, [this](const auto& x, const auto& y) { return rundenzahl(x, y); });
         feld(blockreihe::restmeter, [this](const auto& x, const auto& y) { return meter(x, y); });
         feld(blockreihe::gesamtmeter, [this](const auto& x, const auto& y) { return meter(x, y); });
-        feld(blockreihe::gesamtzeit, [this](const auto& x, const auto& y) { return zeit(x, y); });
         a.resize(kennzahlen_anzahl + reihen_a, leerer_block(trenner_));
         for (std::size_t i = reihen_a > 0 ? 1 : 0; i < reihen_b && a.size() <= kennzahlen_anzahl + runden_max; ++i) {
             a.push_back(kennzahlen_anzahl + i < b.size() ? b[kennzahlen_anzahl + i] : leerer_block(trenner_));

@@ -211,6 +211,24 @@ TEST(Ergebnistabelle, RundenAddierterRennenFolgenEinander) {
     EXPECT_FALSE(rennen_von(t, 0, sortier_modus::runden)) << "no race any more";
 }
 
+TEST(Ergebnistabelle, UeberEineStundeKommtAusDenRundenZurueck) {
+    constexpr int runden = 555;
+    const zeit_ms dauer = runden * 8100;
+    const auto datei = rennzeilen(rennen_mit({"Anna"}, runden, "14:00:00"));
+    EXPECT_EQ(einzelrennen_lesen(datei)->ergebnis.spuren.at(0).gesamtzeit, dauer);
+    ergebnistabelle t = tabelle_aus(datei);
+    auto eintrag = eintrag_lesen(t, 0).value();
+    EXPECT_EQ(eintrag.gesamtzeit, dauer);
+    eintrag.gesamtzeit -= 3600000;
+    eintrag_schreiben(t, 0, eintrag);
+    EXPECT_EQ(eintrag_lesen(t, 0), eintrag) << "a correction is no lost hour";
+    EXPECT_EQ(rennen_von(t, 0, sortier_modus::runden)->spuren.at(0).gesamtzeit, eintrag.gesamtzeit);
+    hinzufuegen(t, tabelle_aus(datei));
+    hinzufuegen(t, tabelle_aus(datei));
+    gleiche_fahrer_addieren(t, false);
+    EXPECT_EQ(einzelrennen_lesen(t.alle_zeilen())->ergebnis.spuren.at(0).gesamtzeit, 3 * dauer - 3600000);
+}
+
 TEST(Ergebnistabelle, KorrekturAendertNurWasAndersIst) {
     for (const textzeilen& datei : alle_arten(1)) {
         SCOPED_TRACE(datei.front());
