@@ -56,8 +56,16 @@ void rennen_zuordnen(ergebnistabelle& t) {
     }
 }
 
+/// Written with these separators: the time of day, as long as it always is, stands last, and the date before it.
+bool ist_rennkopf(const std::string& zeile, const std::string& trenner) {
+    constexpr std::size_t uhrzeit_laenge = 8;
+    const ergebnisfelder felder = felder_teilen(zeile, trenner);
+    return felder.size() >= 3 && laenge(felder.back()) == uhrzeit_laenge;
+}
+
 bool rennen_lesen(ergebnistabelle& t, textzeilen zeilen) {
-    if (zeilen.size() < rennkopf + 2 + kennzahlen_anzahl + 1 + fusszeilen) {
+    if (zeilen.size() < rennkopf + 2 + kennzahlen_anzahl + 1 + fusszeilen ||
+        !ist_rennkopf(zeilen.front(), t.trennzeichen[2])) {
         return false;
     }
     const auto ende = zeilen.end() - static_cast<std::ptrdiff_t>(fusszeilen);
@@ -99,6 +107,10 @@ bool tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
         zeilen.pop_back();  // what told the kind of the file
     }
     const std::size_t im_kopf = std::min(tagesrennen ? 1 : tabellenkopf, zeilen.size());
+    if (t.typ == ergebnis_typ::jeder_gegen_jeden && im_kopf == tabellenkopf &&
+        felder_teilen(zeilen[1], t.trennzeichen[2]).size() < 2) {
+        return false;  // written with other separators; any even number of fields would be a driver's
+    }
     t.kopf.assign(zeilen.begin(), zeilen.begin() + static_cast<std::ptrdiff_t>(im_kopf));
     for (std::size_t i = im_kopf; i < zeilen.size(); ++i) {
         t.zeilen.push_back({std::move(zeilen[i]), false, 0, {}, 0});

@@ -188,7 +188,7 @@ TEST(Ergebnistabelle, AddiertGleicheFahrer) {
     EXPECT_EQ(t.alle_zeilen(), vorher);
 
     ergebnistabelle jeder =
-        tabelle_aus({"Pokal", "Nr", "1.;Anna; 9; 9;00:08,000;01:12,000", "1.;Anna;991;991;00:07,000;01:13,000",
+        tabelle_aus({"Pokal", "Nr;Name", "1.;Anna; 9; 9;00:08,000;01:12,000", "1.;Anna;991;991;00:07,000;01:13,000",
                      "1.;Anna; 9; 4; 5;00:08,000;00:07,000;01:12,000", "TV-JJ2-WKD"});
     gleiche_fahrer_addieren(jeder, true);
     EXPECT_EQ(texte_von(jeder),
@@ -282,6 +282,11 @@ TEST(Ergebnistabelle, AndereTrennzeichen) {
     EXPECT_FALSE(ergebnistabelle_lesen(datei, trennzeichen_standard)) << "its lanes cannot be told apart";
     EXPECT_FALSE(ergebnistabelle_lesen(tageszeilen({"A|Anna| 7|70.25|00:08,000|00:58,000"}), trennzeichen_standard));
     EXPECT_TRUE(ergebnistabelle_lesen(tageszeilen({}), trennzeichen_standard)) << "nobody has driven yet";
+    for (const char* trenner : {",", ".", ":", "", " "}) {
+        for (const textzeilen& mit_semikolon : alle_arten(1)) {
+            EXPECT_FALSE(ergebnistabelle_lesen(mit_semikolon, {":", ".", trenner})) << trenner << mit_semikolon.front();
+        }
+    }
 }
 
 TEST(Fahrervergleich, MisstWieGleichmaessigGefahrenWird) {
