@@ -104,6 +104,17 @@ TEST(Ergebnistabelle, AndereArtUndUnbrauchbaresLassenDieTabelleWieSieIst) {
         const auto rest = ergebnistabelle_lesen(abgeschnitten, trennzeichen_standard);
         EXPECT_EQ(rest.has_value(), arten[art].front() == magie_tagesrennen) << "a day race has no end of its own";
     }
+    for (const textzeilen& vorne : arten) {
+        for (const textzeilen& hinten : arten) {
+            textzeilen beide = vorne;
+            beide.insert(beide.end(), hinten.begin(), hinten.end());
+            EXPECT_EQ(ergebnistabelle_lesen(beide, trennzeichen_standard).has_value(),
+                      vorne.front() == magie_tagesrennen && vorne == hinten);
+        }
+    }
+    textzeilen mit_kopf = arten[2];
+    mit_kopf.insert(mit_kopf.begin() + 3, mit_kopf[1]);
+    EXPECT_FALSE(tabelle_aus(mit_kopf).zeilen[1].ergebnis) << "a second head is no driver";
     textzeilen gemischt = arten[0];
     gemischt[12] += "mehr als die Spuren;";
     EXPECT_FALSE(ergebnistabelle_lesen(gemischt, trennzeichen_standard));
