@@ -293,7 +293,7 @@ TEST(Ergebnistabelle, AndereTrennzeichen) {
     EXPECT_FALSE(ergebnistabelle_lesen(datei, trennzeichen_standard)) << "its lanes cannot be told apart";
     EXPECT_FALSE(ergebnistabelle_lesen(tageszeilen({"A|Anna| 7|70.25|00:08,000|00:58,000"}), trennzeichen_standard));
     EXPECT_TRUE(ergebnistabelle_lesen(tageszeilen({}), trennzeichen_standard)) << "nobody has driven yet";
-    for (const char* trenner : {",", ".", ":", "", " "}) {
+    for (const char* trenner : {",", ".", ":", ""}) {
         for (const textzeilen& mit_semikolon : alle_arten(1)) {
             EXPECT_FALSE(ergebnistabelle_lesen(mit_semikolon, {":", ".", trenner})) << trenner << mit_semikolon.front();
         }

@@ -133,10 +133,16 @@ TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
     w.korrektur.Command14.klicken();
     EXPECT_TRUE(w.korrektur.offen()) << "no number";
     w.korrektur.aus_runden[0].eingeben("8");
+    for (const char* keine_zeit : {"8,5000", "8s", "1:2:3:4", "75,000", "8,", ":8,5"}) {
+        w.korrektur.aus_beste[0].eingeben(keine_zeit);
+        w.korrektur.Command14.klicken();
+        EXPECT_TRUE(w.korrektur.offen()) << keine_zeit;
+    }
+    w.korrektur.aus_beste[0].eingeben("8,5");
     w.korrektur.w_aus_min.eingeben("01");
     w.korrektur.Command14.klicken();
     speichern_als("anders.csv");
-    EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;0:08,0;01:58,000;mehr");
+    EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;00:08,500;01:58,000;mehr");
     EXPECT_EQ(gelesen("mai.csv").at(1), krumm) << "the source";
     w.Command5.klicken();
     EXPECT_FALSE(offen(fenstername::w_auswertung2)) << "all is saved";
