@@ -269,7 +269,7 @@ bool korrekturrahmen::zeit_lesen(zeit_ms& zeit) {
         const std::string& text = felder.at(i)->text();
         const zeit_ms zahl = ganzzahl_lesen(text, 0, 99999);
         const bool unveraendert = text == zeit_texte_.at(i);
-        if (!unveraendert && (!sind_ziffern(text) || zahl > bis.at(i))) {
+        if (!unveraendert && (text.empty() || !sind_ziffern(text) || zahl > bis.at(i))) {
             felder.at(i)->fokus_setzen();
             return false;
         }

@@ -139,6 +139,9 @@ TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
         EXPECT_TRUE(w.korrektur.offen()) << keine_zeit;
     }
     w.korrektur.aus_beste[0].eingeben("8,5");
+    w.korrektur.w_aus_min.eingeben("");
+    w.korrektur.Command14.klicken();
+    EXPECT_TRUE(w.korrektur.offen()) << "no minutes are not 0 of them";
     w.korrektur.w_aus_min.eingeben("01");
     w.korrektur.Command14.klicken();
     speichern_als("anders.csv");
