@@ -23,6 +23,14 @@ std::string name_von(std::string_view pfad) {
     return std::string(pfad.substr(pfad.find_last_of("\\/") + 1));
 }
 
+std::size_t abdruck_von(const std::vector<std::string>& zeilen) {
+    std::size_t abdruck = zeilen.size();
+    for (const std::string& zeile : zeilen) {
+        abdruck = abdruck * 31 + std::hash<std::string>{}(zeile);
+    }
+    return abdruck;
+}
+
 void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
     ziel.leeren();
     for (const std::string& zeile : zeilen) {
@@ -82,6 +90,7 @@ void w_auswertung2::laden() {
     Command13.text(wort_.debug_auf);
     tabelle_.reset();
     dateien_.clear();
+    abdruecke_.clear();
     details_ = {};
     korrigiert_ = false;
     Frame_sortieren.sichtbar(false);
@@ -166,7 +175,8 @@ std::optional<w_auswertung2::datei> w_auswertung2::datei_lesen(const std::string
                          std::any_of(zeilen->begin(), zeilen->end(), [](const std::string& zeile) {
                              return zeile.size() >= zeile_bytes_max && laenge(zeile) >= zeile_bytes_max;
                          });
-    return datei{std::move(*zeilen), zu_lang};
+    const std::size_t abdruck = abdruck_von(*zeilen);
+    return datei{std::move(*zeilen), zu_lang, abdruck};
 }
 
 std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad) {
@@ -174,9 +184,12 @@ std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfa
     auto tabelle = gelesen ? ergebnistabelle_lesen(std::move(gelesen->zeilen), um_.einst.trennzeichen) : std::nullopt;
     if (!tabelle) {
         fehler_melden(wort_.dateifehler);
-    } else if (gelesen->zu_lang || tabelle->gekuerzt) {
+        return tabelle;
+    }
+    if (gelesen->zu_lang || tabelle->gekuerzt) {
         hinweisen(wort_.zu_lang);
     }
+    abdruecke_[pfad] = gelesen->abdruck;
     return tabelle;
 }
 
@@ -188,6 +201,7 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
         tabelle_ = std::move(neue);
         korrigiert_ = false;
         dateien_ = {pfad};
+        std::erase_if(abdruecke_, [&pfad](const auto& einer) { return einer.first != pfad; });
         tabelle_neu();
     }
 }

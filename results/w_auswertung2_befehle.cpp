@@ -150,7 +150,9 @@ bool w_auswertung2::darf_schreiben(const std::string& pfad) {
         hinweisen(wort_.nicht_ueber);
         return false;
     }
-    return um_.welt.meldungen.fragen(wort_.ueberschreiben, um_.welt.txt.titel[0]);
+    const auto bekannt = abdruecke_.find(pfad);
+    const bool veraendert = bekannt != abdruecke_.end() && bekannt->second != alte->abdruck;
+    return um_.welt.meldungen.fragen(veraendert ? wort_.veraendert : wort_.ueberschreiben, um_.welt.txt.titel[0]);
 }
 
 void w_auswertung2::speichern() {
@@ -170,6 +172,9 @@ void w_auswertung2::speichern() {
     if (!um_.welt.ablage.zeilen_schreiben(pfad, zu_speichern())) {
         fehler_melden(wort_.schreibfehler);
         return;
+    }
+    if (const auto geschrieben = datei_lesen(pfad)) {
+        abdruecke_[pfad] = geschrieben->abdruck;
     }
     korrigiert_ = korrigiert_ && nur_auswahl_;
     Frame7.sichtbar(false);

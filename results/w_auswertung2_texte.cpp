@@ -86,6 +86,8 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
     texte.text("beste Runden in Sekunden", v.achse_beste).text("Es gibt keine Rundenzeiten.", v.leer);
     blatt.eintragen(diagramm.eintragen(texte));
     texte.text("Runden", blatt.runden).text("Gesamtzeit", blatt.gesamtzeit).text("beste Runde", blatt.beste);
+    texte.text("Die Datei wurde geändert, seit sie geöffnet ist. Was dazugekommen ist, geht verloren. Überschreiben?",
+               wort_.veraendert);
 }
 
 }  // namespace tarvel

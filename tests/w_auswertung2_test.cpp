@@ -210,6 +210,25 @@ TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
     EXPECT_NE(letzte_meldung().find("nicht hinzugefügt"), std::string::npos);
 }
 
+TEST_F(Ergebnisbetrachter, UeberschreibtNichtsUngesagt) {
+    tag_ablegen("mai.csv", abend);
+    zeigen("mai.csv");
+    tag_ablegen("juni.csv", abend);
+    t.maschine.antwort = true;
+    const auto frage = [this] {
+        w.Command17.klicken();
+        return t.maschine.fragen_gestellt.back().text;
+    };
+    w.Command16.klicken();
+    EXPECT_NE(frage().find("bereits vorhanden"), std::string::npos);
+    tag_ablegen("mai.csv", {abend[0]});
+    w.Command16.klicken();
+    w.Text3.eingeben("mai");
+    EXPECT_NE(frage().find("wurde geändert"), std::string::npos) << "a race has come in meanwhile";
+    w.Command16.klicken();
+    EXPECT_NE(frage().find("bereits vorhanden"), std::string::npos) << "as it has just been saved";
+}
+
 TEST_F(Ergebnisbetrachter, SpeichertNurUnterBrauchbarenNamen) {
     tag_ablegen("mai.csv", abend);
     zeigen("mai.csv");
