@@ -148,6 +148,7 @@ private:
     void korrektur_beginnen();
     void korrektur_eintragen();
     void korrektur_beenden();
+    std::string namensvorschlag() const;
     void speichern_oeffnen(bool auswahl);
     void speichern();
     bool darf_schreiben(const std::string& pfad);

@@ -114,10 +114,15 @@ void w_auswertung2::korrektur_beenden() {
     auswertung_schoen.fokus_setzen();
 }
 
+/// What was opened first.
+std::string w_auswertung2::namensvorschlag() const {
+    const std::string& erste = dateien_.front();
+    return erste.substr(erste.find_last_of("\\/") + 1);
+}
+
 void w_auswertung2::speichern_oeffnen(bool auswahl) {
     nur_auswahl_ = auswahl;
-    const int zeile = File1.markiert();
-    Text3.text(zeile >= 0 ? File1.zeilen().at(static_cast<std::size_t>(zeile)) : std::string());
+    Text3.text(namensvorschlag());
     Frame7.sichtbar(true);
     bedienung_einrichten();
     Text3.fokus_setzen();
@@ -152,7 +157,9 @@ bool w_auswertung2::darf_schreiben(const std::string& pfad) {
     }
     const auto bekannt = abdruecke_.find(pfad);
     const bool veraendert = bekannt != abdruecke_.end() && bekannt->second != alte->abdruck;
-    return um_.welt.meldungen.fragen(veraendert ? wort_.veraendert : wort_.ueberschreiben, um_.welt.txt.titel[0]);
+    return um_.welt.meldungen.fragen(
+        pfad.substr(pfad.find_last_of('\\') + 1) + "\n\n" + (veraendert ? wort_.veraendert : wort_.ueberschreiben),
+        um_.welt.txt.titel[0]);
 }
 
 void w_auswertung2::speichern() {
