@@ -114,10 +114,18 @@ void w_auswertung2::korrektur_beenden() {
     auswertung_schoen.fokus_setzen();
 }
 
-/// What was opened first.
+/// What was opened first; some of its classes must not take its place.
 std::string w_auswertung2::namensvorschlag() const {
     const std::string& erste = dateien_.front();
-    return erste.substr(erste.find_last_of("\\/") + 1);
+    std::string name = erste.substr(erste.find_last_of("\\/") + 1);
+    if (!nur_auswahl_) {
+        return name;
+    }
+    std::string klassen = "-";
+    for (const haken& kasten : Check1) {
+        klassen += kasten.sichtbar() && kasten.gesetzt() ? kasten.text() : std::string();
+    }
+    return name.insert(name.size() - (endet_auf(name, ".csv") ? 4 : 0), als_dateiname(klassen));
 }
 
 void w_auswertung2::speichern_oeffnen(bool auswahl) {
