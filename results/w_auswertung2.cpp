@@ -349,7 +349,7 @@ std::string w_auswertung2::kopf() const {
     if (!tabelle_ || !rennen_) {
         return Label_datei.text();
     }
-    const auto wertung = static_cast<std::size_t>(sortieren_nach()) - 1;
+    const auto wertung = static_cast<std::size_t>(rennen_->wertung.value_or(sortier_modus::runden)) - 1;
     return wort_.rennen + " " + rennen_->datum + " " + rennen_->uhrzeit + "  ·  " + wort_.wertung.at(wertung);
 }
 

@@ -263,11 +263,14 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     w.cbo_rennen.waehlen(1);
     EXPECT_EQ(w.rennen()->spuren.at(0).fahrer, "Cem");
     EXPECT_EQ(w.rennen()->spuren.at(0).platz, 1);
-    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden");
+    w.opt_sortieren_nach[0].umschalten();
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden") << "as long as the places are those";
+    w.Command3.klicken();
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Metern");
     EXPECT_EQ(w.blatt_datei(), "Ergebnisse\\Tagesrennen\\eins-2");
     w.Command_blick[3].klicken();
     EXPECT_EQ(w.vergleich().size(), 3U);
-    EXPECT_EQ(gezeichnet, 3);
+    EXPECT_EQ(gezeichnet, 4);
     w.Command20.klicken();
     EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
 }
