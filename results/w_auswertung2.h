@@ -114,7 +114,7 @@ private:
     struct worte {
         std::string titel, keine_datei, dateifehler, anderer_typ, nicht_sortierbar, klasse_fragen, klasse_titel;
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
-        std::string verwerfen, zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
+        std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, rennen;
         std::string debug_auf, debug_zu;
         std::array<std::string, 3> wertung;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "core/ordnerblick.h"
 #include "core/text.h"
@@ -74,7 +75,12 @@ void w_auswertung2::neu_sortieren() {
 void w_auswertung2::fahrer_addieren() {
     const bool mit_klasse = tabelle_->typ == ergebnis_typ::tagesrennen &&
                             um_.welt.meldungen.fragen(wort_.klasse_fragen, wort_.klasse_titel);
+    const bool schon_gekuerzt = std::exchange(tabelle_->gekuerzt, false);
     gleiche_fahrer_addieren(*tabelle_, mit_klasse);
+    if (tabelle_->gekuerzt) {
+        hinweisen(wort_.summe_zu_lang);
+    }
+    tabelle_->gekuerzt = tabelle_->gekuerzt || schon_gekuerzt;
     sortieren(*tabelle_, sortieren_nach());
     tabelle_neu();
 }

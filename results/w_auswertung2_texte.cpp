@@ -88,6 +88,9 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
     texte.text("Runden", blatt.runden).text("Gesamtzeit", blatt.gesamtzeit).text("beste Runde", blatt.beste);
     texte.text("Die Datei wurde geändert, seit sie geöffnet ist. Was dazugekommen ist, geht verloren. Überschreiben?",
                wort_.veraendert);
+    texte.text(
+        "Zusammen sind es mehr Runden, als eine Datei fasst. Die Summen stimmen, die letzten Rundenzeiten fehlen.",
+        wort_.summe_zu_lang);
 }
 
 }  // namespace tarvel

@@ -280,6 +280,12 @@ TEST(Ergebnistabelle, JenseitsDerGrenzeIstGekuerzt) {
     EXPECT_TRUE(lang.gekuerzt);
     EXPECT_EQ(lang.alle_zeilen().size(), 10000U);
     EXPECT_EQ(eintrag_lesen(lang, 0)->runden.at(0), 9999);
+    ergebnistabelle summe = tabelle_aus(rennzeilen(rennen_mit({"Anna", "Anna"}, 4990, "14:00:00")));
+    gleiche_fahrer_addieren(summe, false);
+    EXPECT_TRUE(summe.gekuerzt) << "laps that have no line of their own";
+    summe = tabelle_aus(rennzeilen(rennen_mit({"Anna", "Anna"}, 4950, "14:00:00")));
+    gleiche_fahrer_addieren(summe, false);
+    EXPECT_FALSE(summe.gekuerzt);
 }
 
 TEST(Ergebnistabelle, AndereTrennzeichen) {
