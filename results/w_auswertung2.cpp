@@ -200,6 +200,9 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
     if (auto neue = tabelle_von(pfad)) {
         tabelle_ = std::move(neue);
         korrigiert_ = false;
+        for (haken& kasten : Check1) {
+            kasten.gesetzt(true);  // what was left out was so in the file before
+        }
         dateien_ = {pfad};
         std::erase_if(abdruecke_, [&pfad](const auto& einer) { return einer.first != pfad; });
         tabelle_neu();

@@ -129,7 +129,7 @@ std::string w_auswertung2::namensvorschlag() const {
     }
     std::string klassen = "-";
     for (const haken& kasten : Check1) {
-        klassen += kasten.sichtbar() && kasten.gesetzt() ? kasten.text() : std::string();
+        klassen += details_.ohne_klassen.contains(kasten.text()) ? std::string() : kasten.text();
     }
     return name.insert(name.size() - (endet_auf(name, ".csv") ? 4 : 0), als_dateiname(klassen));
 }
@@ -146,7 +146,7 @@ std::vector<std::string> w_auswertung2::zu_speichern() const {
     if (!nur_auswahl_) {
         return tabelle_->alle_zeilen();
     }
-    const std::set<std::string> ohne = ausgelassene_klassen();
+    const std::set<std::string>& ohne = details_.ohne_klassen;  // as the table is shown
     ergebnistabelle auswahl = *tabelle_;
     std::erase_if(auswahl.zeilen, [&](const ergebniszeile& zeile) {
         const auto fahrer = zeile.ergebnis ? fahrerzeile_von(auswahl, zeile) : std::nullopt;

@@ -78,6 +78,7 @@ TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
     w.Check1[1].umschalten();
     w.Command1.klicken();
     EXPECT_EQ(namen(), "1.A 2.C 3.A ");
+    w.Check1[1].umschalten();
     w.Command6.klicken();
     w.Command17.klicken();
     EXPECT_EQ(gelesen("mai-A.csv").size(), 4U) << "in a file of its own";
@@ -86,6 +87,10 @@ TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
     EXPECT_EQ(gelesen("alle.csv").at(1), abend[3]) << "without its place";
     w.Command8.klicken();
     EXPECT_EQ(namen(), "1.A 2.C 3.A 1.B ");
+    w.Check1[0].umschalten();
+    w.Command1.klicken();
+    zeigen("mai.csv");
+    EXPECT_EQ(namen(), "  A   B   C   A ") << "classes are left out of one file";
 }
 
 TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
