@@ -91,6 +91,7 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
     texte.text(
         "Zusammen sind es mehr Runden, als eine Datei fasst. Die Summen stimmen, die letzten Rundenzeiten fehlen.",
         wort_.summe_zu_lang);
+    texte.tipp("Korrektur eintragen", korrektur.Command14);
 }
 
 }  // namespace tarvel
