@@ -10,8 +10,7 @@ namespace {
 
 constexpr std::string_view wurzel = "Ergebnisse";
 constexpr std::string_view darueber = "..";
-constexpr std::string_view tagesordner = "Ergebnisse\\Tagesrennen";
-constexpr std::array<std::string_view, 3> sprungziele{ergebnis_ordner::einzelrennen, tagesordner,
+constexpr std::array<std::string_view, 3> sprungziele{ergebnis_ordner::einzelrennen, ergebnis_ordner::tagesrennen,
                                                       ergebnis_ordner::wettkampf};
 
 std::string ordner_von(std::string_view pfad) {
