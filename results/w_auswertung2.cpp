@@ -278,28 +278,6 @@ void w_auswertung2::tabelle_anzeigen() {
     bedienung_einrichten();
 }
 
-/// New classes are shown; those that were left out stay out.
-void w_auswertung2::klassen_zeigen() {
-    const std::set<std::string> ohne = ausgelassene_klassen();
-    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
-    for (std::size_t i = 0; i < klassen_max; ++i) {
-        haken& kasten = Check1.at(i);
-        kasten.sichtbar(i < klassen.size());
-        kasten.text(i < klassen.size() ? klassen[i] : std::string());
-        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
-    }
-}
-
-std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
-    std::set<std::string> ohne;
-    for (const haken& kasten : Check1) {
-        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
-            ohne.insert(kasten.text());
-        }
-    }
-    return ohne;
-}
-
 void w_auswertung2::details_umschalten(std::size_t welche) {
     const std::array<bool*, 3> an{&details_.runden, &details_.meter, &details_.beste};
     *an.at(welche) = !*an.at(welche);

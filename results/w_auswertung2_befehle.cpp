@@ -60,6 +60,28 @@ sortier_modus w_auswertung2::sortieren_nach() const {
     return sortier_modus::runden;
 }
 
+/// New classes are shown; those that were left out stay out.
+void w_auswertung2::klassen_zeigen() {
+    const std::set<std::string> ohne = ausgelassene_klassen();
+    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
+    for (std::size_t i = 0; i < klassen_max; ++i) {
+        haken& kasten = Check1.at(i);
+        kasten.sichtbar(i < klassen.size());
+        kasten.text(i < klassen.size() ? klassen[i] : std::string());
+        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
+    }
+}
+
+std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
+    std::set<std::string> ohne;
+    for (const haken& kasten : Check1) {
+        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
+            ohne.insert(kasten.text());
+        }
+    }
+    return ohne;
+}
+
 void w_auswertung2::neu_sortieren() {
     const bool mit_fahrern = tabelle_ && std::any_of(tabelle_->zeilen.begin(), tabelle_->zeilen.end(),
                                                      [](const ergebniszeile& zeile) { return zeile.ergebnis; });
