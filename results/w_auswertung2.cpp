@@ -178,7 +178,7 @@ std::optional<w_auswertung2::datei> w_auswertung2::datei_lesen(const std::string
     return datei{std::move(*zeilen), zu_lang, abdruck};
 }
 
-std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad) {
+std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad, std::size_t& abdruck) {
     auto gelesen = datei_lesen(pfad);
     auto tabelle = gelesen ? ergebnistabelle_lesen(std::move(gelesen->zeilen), um_.einst.trennzeichen) : std::nullopt;
     if (!tabelle) {
@@ -188,7 +188,7 @@ std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfa
     if (gelesen->zu_lang || tabelle->gekuerzt) {
         hinweisen(wort_.zu_lang);
     }
-    abdruecke_[pfad] = gelesen->abdruck;
+    abdruck = gelesen->abdruck;
     return tabelle;
 }
 
@@ -196,14 +196,15 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
     if (!darf_verwerfen()) {
         return;
     }
-    if (auto neue = tabelle_von(pfad)) {
+    std::size_t abdruck = 0;
+    if (auto neue = tabelle_von(pfad, abdruck)) {
         tabelle_ = std::move(neue);
         korrigiert_ = false;
         for (haken& kasten : Check1) {
             kasten.gesetzt(true);  // what was left out was so in the file before
         }
         dateien_ = {pfad};
-        std::erase_if(abdruecke_, [&pfad](const auto& einer) { return einer.first != pfad; });
+        abdruecke_ = {{pfad, abdruck}};
         tabelle_neu();
     }
 }
@@ -213,7 +214,8 @@ void w_auswertung2::dazu(const std::string& pfad) {
         oeffnen(pfad);
         return;
     }
-    const auto neue = tabelle_von(pfad);
+    std::size_t abdruck = 0;
+    const auto neue = tabelle_von(pfad, abdruck);
     if (!neue) {
         return;
     }
@@ -226,6 +228,7 @@ void w_auswertung2::dazu(const std::string& pfad) {
             break;
         case hinzufuegen_ergebnis::hinzugefuegt:
             dateien_.push_back(pfad);
+            abdruecke_[pfad] = abdruck;
             tabelle_neu();
     }
 }

@@ -138,7 +138,7 @@ private:
     /// The file that is chosen; a message and an empty text without one.
     std::string gewaehlte_datei();
     std::optional<datei> datei_lesen(const std::string& pfad) const;
-    std::optional<ergebnistabelle> tabelle_von(const std::string& pfad);
+    std::optional<ergebnistabelle> tabelle_von(const std::string& pfad, std::size_t& abdruck);
     void oeffnen(const std::string& pfad);
     void dazu(const std::string& pfad);
 
