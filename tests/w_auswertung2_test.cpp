@@ -216,8 +216,8 @@ TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
 
 TEST_F(Ergebnisbetrachter, UeberschreibtNichtsUngesagt) {
     tag_ablegen("mai.csv", abend);
-    zeigen("mai.csv");
     tag_ablegen("juni.csv", abend);
+    zeigen("mai.csv");
     t.maschine.antwort = true;
     const auto frage = [this] {
         w.Command17.klicken();
