@@ -87,6 +87,15 @@ private:
         return true;
     }
 
+    /// Without the way to the first crossing, as the total.
+    static zeit_ms rundensumme(const spur& s) {
+        zeit_ms summe = 0;
+        for (std::size_t i = 1; i < s.runden.size(); ++i) {
+            summe += s.runden[i].zeit;
+        }
+        return summe;
+    }
+
     bool direktvergleich() {
         for (zeile_ = erste_spurzeile; zeile_ < z_.size() && !z_[zeile_].empty(); ++zeile_) {
             felder teile = felder_teilen(z_[zeile_], trenner());
@@ -101,7 +110,6 @@ private:
                 return false;
             }
             s.beste = *beste;
-            s.gesamtzeit = *gesamt;
             for (std::size_t i = 5; i + 1 < teile.size(); ++i) {  // behind the last separator stands nothing
                 const auto zeit = zeit_lesen(teile[i], r_.trennzeichen);
                 if (!zeit || s.runden.size() > static_cast<std::size_t>(runden_max)) {
@@ -109,6 +117,7 @@ private:
                 }
                 s.runden.push_back({*zeit, {}, {}});
             }
+            s.gesamtzeit = nennt_stunden(teile[4]) ? *gesamt : mit_stunden(*gesamt, rundensumme(s));
             r_.ergebnis.spuren.push_back(std::move(s));
         }
         zeile_ += 2;  // two blank lines

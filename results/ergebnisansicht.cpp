@@ -74,10 +74,8 @@ private:
         return text;
     }
 
-    std::string zeit(const std::string& feld) const {
-        const zeit_ms dauer = ergebniszeit_lesen(feld);
-        return dauer > 0 ? ergebniszeit(dauer, t_.trennzeichen) : nichts;
-    }
+    std::string zeit(const std::string& feld) const { return zeit(ergebniszeit_lesen(feld)); }
+    std::string zeit(zeit_ms dauer) const { return dauer > 0 ? ergebniszeit(dauer, t_.trennzeichen) : nichts; }
     std::string meter(const std::string& feld) const {
         return zahl_fest(ergebnismeter_lesen(feld, t_.trennzeichen), ',') + " m";
     }
@@ -153,8 +151,7 @@ private:
             blockspalte(wort_.restmeter, 12, blockreihe::restmeter, 1, wie_er_steht);
         }
         spalten_.push_back({wort_.beste, 13, false, [this](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
-                                const zeit_ms beste = werte_von(fahrer.felder, fahrer.spalten, t_.trennzeichen).beste;
-                                return beste > 0 ? ergebniszeit(beste, t_.trennzeichen) : nichts;
+                                return zeit(werte_von(fahrer.felder, fahrer.spalten, t_.trennzeichen).beste);
                             }});
         for (std::size_t i = 1; wahl_.beste && i <= teile; ++i) {
             if (teil_gefahren(i)) {
@@ -162,7 +159,7 @@ private:
             }
         }
         spalten_.push_back({wort_.gesamtzeit, 15, false, [this](const ergebniszeile& /*zeile*/, const fahrerzeile& f) {
-                                return zeit(f.felder[f.spalten.gesamtzeit]);
+                                return zeit(gesamtzeit_lesen(f.felder, f.spalten));
                             }});
     }
 

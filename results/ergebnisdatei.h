@@ -19,6 +19,7 @@ inline constexpr std::string_view web_adresse = "https://tarvel.invalid";
 namespace ergebnis_ordner {
 inline constexpr std::string_view einzelrennen = "Ergebnisse\\Einzelrennen";
 inline constexpr std::string_view auto_einzelrennen = "Ergebnisse\\auto-Einzelrennen";
+inline constexpr std::string_view tagesrennen = "Ergebnisse\\Tagesrennen";
 inline constexpr std::string_view wettkampf = "Ergebnisse\\Wettkampf";
 inline constexpr std::string_view wettkampf_zwischenstand = "Ergebnisse\\Wettkampf-Zwischenstand";
 }  // namespace ergebnis_ordner

@@ -20,7 +20,7 @@ ergebniseintrag eintrag_von(const fahrerzeile& fahrer, const trennzeichen_tabell
     for (std::size_t i = spalten.beste.ab; i < spalten.beste.ende(); ++i) {
         eintrag.beste.push_back(ergebniszeit_lesen(felder[i]));
     }
-    eintrag.gesamtzeit = ergebniszeit_lesen(felder[spalten.gesamtzeit]);
+    eintrag.gesamtzeit = gesamtzeit_lesen(felder, spalten);
     return eintrag;
 }
 
@@ -81,7 +81,7 @@ void eintrag_schreiben(ergebnistabelle& tabelle, std::size_t nummer, const ergeb
     je_feld(spalten.meter, alt->meter, neu.meter, [&](double n) { return meter_schreiben(tabelle.typ, n); });
     je_feld(spalten.beste, alt->beste, neu.beste, zeit);
     if (neu.gesamtzeit != alt->gesamtzeit) {
-        felder[spalten.gesamtzeit] = zeit(neu.gesamtzeit);
+        gesamtzeit_schreiben(felder, spalten, neu.gesamtzeit, tabelle.trennzeichen);
     }
     zeile.text = felder_verbinden(felder, trenner);
     block_nachtragen(zeile, *alt, neu, fahrer, trenner);

@@ -6,7 +6,7 @@
 namespace tarvel {
 namespace {
 
-constexpr ergebnisspalten einzelspalten{{}, {}, 0, {1, 1}, {2, 1}, {3, 1}, 4};
+constexpr ergebnisspalten einzelspalten{{}, {}, 0, {1, 1}, {2, 1}, {3, 1}, 4, 6};
 constexpr ergebnisspalten tagesspalten{{}, 0, 1, {2, 1}, {3, 1}, {4, 1}, 5};
 constexpr ergebnisspalten wettkampfspalten{0, {}, 1, {2, spuren_max + 1}, {9, spuren_max + 1}, {16, spuren_max}, 22};
 
@@ -48,14 +48,37 @@ zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalt
     if (spalten.meter.anzahl > 0) {
         werte.meter = ergebnismeter_lesen(felder.at(spalten.meter.ab), trennzeichen);
     }
-    for (std::size_t i = spalten.beste.ab; i < spalten.beste.ende(); ++i) {
+    // who is out keeps his best lap in the file, but has none that counts
+    for (std::size_t i = spalten.beste.ab; werte.runden > 0 && i < spalten.beste.ende(); ++i) {
         const zeit_ms beste = ergebniszeit_lesen(felder.at(i));
         if (beste > 0 && (werte.beste == 0 || beste < werte.beste)) {
             werte.beste = beste;
         }
     }
-    werte.gesamtzeit = ergebniszeit_lesen(felder.at(spalten.gesamtzeit));
+    werte.gesamtzeit = gesamtzeit_lesen(felder, spalten);
     return werte;
+}
+
+zeit_ms gesamtzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten) {
+    const std::string& text = felder.at(spalten.gesamtzeit);
+    const zeit_ms zeit = ergebniszeit_lesen(text);
+    if (!spalten.erste_runde || nennt_stunden(text)) {
+        return zeit;
+    }
+    zeit_ms summe = 0;
+    for (std::size_t i = *spalten.erste_runde; i < felder.size(); ++i) {
+        summe += ergebniszeit_lesen(felder[i]);
+    }
+    return mit_stunden(zeit, summe);
+}
+
+void gesamtzeit_schreiben(ergebnisfelder& felder, const ergebnisspalten& spalten, zeit_ms zeit,
+                          const trennzeichen_tabelle& trennzeichen) {
+    std::string& text = felder.at(spalten.gesamtzeit);
+    text = ergebniszeit(zeit, trennzeichen);
+    if (gesamtzeit_lesen(felder, spalten) != zeit) {
+        text.insert(0, "0" + trennzeichen[0]);  // less than its laps: no hour is missing
+    }
 }
 
 std::string runden_schreiben(ergebnis_typ typ, std::int64_t runden) {

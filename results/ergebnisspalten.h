@@ -30,6 +30,7 @@ struct ergebnisspalten {
     feldbereich meter;   ///< likewise; a table of heats has none
     feldbereich beste;   ///< of the lanes or heats, or the one
     std::size_t gesamtzeit = 0;
+    std::optional<std::size_t> erste_runde = {};  ///< where the lap times begin, behind the way to the first crossing
 
     /// Lanes or heats; 0 where the line has totals alone.
     std::size_t teile() const { return runden.anzahl - 1; }
@@ -42,11 +43,17 @@ std::optional<ergebnisspalten> spalten_von(ergebnis_typ typ, std::size_t felder)
 struct zeilenwerte {
     std::int64_t runden = 0;
     double meter = 0;
-    zeit_ms beste = 0;  ///< the lowest one above 0; 0 for none
+    zeit_ms beste = 0;  ///< the lowest one above 0; 0 for none, or without a lap
     zeit_ms gesamtzeit = 0;
 };
 zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalten,
                       const trennzeichen_tabelle& trennzeichen);
+
+/// The total time of a line. A race of more than an hour is written without the hours: its laps bring them back.
+zeit_ms gesamtzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten);
+/// Writes it so that it is read as the same.
+void gesamtzeit_schreiben(ergebnisfelder& felder, const ergebnisspalten& spalten, zeit_ms zeit,
+                          const trennzeichen_tabelle& trennzeichen);
 
 /// How a file of this kind writes laps and metres.
 std::string runden_schreiben(ergebnis_typ typ, std::int64_t runden);

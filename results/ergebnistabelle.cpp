@@ -56,8 +56,16 @@ void rennen_zuordnen(ergebnistabelle& t) {
     }
 }
 
+/// Written with these separators: the time of day, as long as it always is, stands last, and the date before it.
+bool ist_rennkopf(const std::string& zeile, const std::string& trenner) {
+    constexpr std::size_t uhrzeit_laenge = 8;
+    const ergebnisfelder felder = felder_teilen(zeile, trenner);
+    return felder.size() >= 3 && laenge(felder.back()) == uhrzeit_laenge;
+}
+
 bool rennen_lesen(ergebnistabelle& t, textzeilen zeilen) {
-    if (zeilen.size() < rennkopf + 2 + kennzahlen_anzahl + 1 + fusszeilen) {
+    if (zeilen.size() < rennkopf + 2 + kennzahlen_anzahl + 1 + fusszeilen ||
+        !ist_rennkopf(zeilen.front(), t.trennzeichen[2])) {
         return false;
     }
     const auto ende = zeilen.end() - static_cast<std::ptrdiff_t>(fusszeilen);
@@ -83,26 +91,35 @@ bool rennen_lesen(ergebnistabelle& t, textzeilen zeilen) {
     return true;
 }
 
-/// The mark of another kind of file within a day race: two files have become one.
-bool ist_gemischt(const textzeilen& zeilen) {
-    return std::any_of(zeilen.begin(), zeilen.end(), [](const std::string& zeile) {
-        return zeile == magie_einzelrennen || zeile == magie_wettkampf || zeile == magie_jeder_gegen_jeden;
-    });
+/// A mark beside the file's own: two files have become one. Lines of two day races are one day.
+bool ist_gemischt(const textzeilen& zeilen, ergebnis_typ typ) {
+    const auto anzahl = [&zeilen](std::string_view marke) { return std::count(zeilen.begin(), zeilen.end(), marke); };
+    const bool tagesrennen = typ == ergebnis_typ::tagesrennen;
+    return anzahl(magie_einzelrennen) + anzahl(magie_wettkampf) + anzahl(magie_jeder_gegen_jeden) >
+               (tagesrennen ? 0 : 1) ||
+           (!tagesrennen && anzahl(magie_tagesrennen) > 0);
+}
+
+/// As many fields as a driver's line and a number of laps: the head of a table has no such number.
+bool ist_fahrer(const ergebnistabelle& t, const ergebniszeile& zeile) {
+    const auto fahrer = fahrerzeile_von(t, zeile);
+    return fahrer && fahrer->felder[fahrer->spalten.runden.ab].find_first_of("0123456789") != std::string::npos;
 }
 
 bool tabelle_lesen(ergebnistabelle& t, textzeilen zeilen) {
     const bool tagesrennen = t.typ == ergebnis_typ::tagesrennen;
-    if (tagesrennen && ist_gemischt(zeilen)) {
-        return false;
-    }
     if (!tagesrennen) {
         zeilen.pop_back();  // what told the kind of the file
     }
     const std::size_t im_kopf = std::min(tagesrennen ? 1 : tabellenkopf, zeilen.size());
+    if (t.typ == ergebnis_typ::jeder_gegen_jeden && im_kopf == tabellenkopf &&
+        felder_teilen(zeilen[1], t.trennzeichen[2]).size() < 2) {
+        return false;  // written with other separators; any even number of fields would be a driver's
+    }
     t.kopf.assign(zeilen.begin(), zeilen.begin() + static_cast<std::ptrdiff_t>(im_kopf));
     for (std::size_t i = im_kopf; i < zeilen.size(); ++i) {
         t.zeilen.push_back({std::move(zeilen[i]), false, 0, {}, 0});
-        t.zeilen.back().ergebnis = fahrerzeile_von(t, t.zeilen.back()).has_value();
+        t.zeilen.back().ergebnis = ist_fahrer(t, t.zeilen.back());
     }
     // written with other separators, none of its lines is a driver's
     const auto einer = [&t](const auto& bedingung) { return std::any_of(t.zeilen.begin(), t.zeilen.end(), bedingung); };
@@ -202,7 +219,7 @@ std::optional<ergebnistabelle> ergebnistabelle_lesen(std::vector<std::string> ze
     ergebnistabelle t;
     t.typ = datei_typ_erkennen(zeilen);
     t.trennzeichen = trennzeichen;
-    if (t.typ == ergebnis_typ::unbekannt) {
+    if (t.typ == ergebnis_typ::unbekannt || ist_gemischt(zeilen, t.typ)) {
         return std::nullopt;
     }
     const bool gelesen =

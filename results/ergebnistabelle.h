@@ -34,7 +34,7 @@ struct ergebnistabelle {
     std::vector<std::string> kopf;      ///< in front of the results
     std::vector<ergebniszeile> zeilen;  ///< up to the foot
     std::vector<lauf> rennen;           ///< single races: when each was driven, the first one's as in its head
-    bool gekuerzt = false;              ///< a file had more lines than there is room for
+    bool gekuerzt = false;              ///< lines of a file, or laps of a sum, had no room
     bool addiert = false;               ///< lines of several races have become one
 
     /// The lines of the file that it is saved as.

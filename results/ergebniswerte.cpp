@@ -51,6 +51,18 @@ zeit_ms ergebniszeit_lesen(std::string_view text) {
     return ((teil(stundenziffern_max) * 60 + minuten) * 60 + sekunden) * 1000 + tausendstel;
 }
 
+bool nennt_stunden(std::string_view text) {
+    constexpr std::ptrdiff_t ohne_stunden = 7;
+    return std::count_if(text.begin(), text.end(), [](char zeichen) { return zeichen >= '0' && zeichen <= '9'; }) >
+           ohne_stunden;
+}
+
+zeit_ms mit_stunden(zeit_ms gesamtzeit, zeit_ms rundensumme) {
+    constexpr zeit_ms stunde = 3600000;
+    const zeit_ms fehlt = rundensumme - gesamtzeit + stunde / 2;  // penalties move the two apart
+    return gesamtzeit + std::max<zeit_ms>(fehlt / stunde, 0) * stunde;
+}
+
 std::string ergebniszeit(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
     const std::string ohne_stunden = zeit_formatieren(zeit, true, trennzeichen);
     const zeit_ms stunden = zeit_zerlegen(zeit).stunden;

@@ -16,6 +16,10 @@ std::string felder_verbinden(const std::vector<std::string>& felder, std::string
 
 /// Of the digits alone, from the right: three of thousandths, two of seconds, two of minutes, the others are hours.
 zeit_ms ergebniszeit_lesen(std::string_view text);
+/// Such a text has digits for its hours. What the program writes of a race has none.
+bool nennt_stunden(std::string_view text);
+/// A total that was written without its hours, with those that the sum of its laps calls for.
+zeit_ms mit_stunden(zeit_ms gesamtzeit, zeit_ms rundensumme);
 /// As the files hold a time, with its hours from the first one on: "01:23,456", "1:01:23,456".
 std::string ergebniszeit(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 

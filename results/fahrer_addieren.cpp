@@ -23,12 +23,18 @@ public:
     explicit addierer(const ergebnistabelle& tabelle)
         : typ_(tabelle.typ), trennzeichen_(tabelle.trennzeichen), trenner_(tabelle.trennzeichen[2]) {}
 
-    void addieren(fahrerzeile& a, rennblock& block, const fahrerzeile& b, const rennblock& block_b) const {
+    /// Whether every lap had room.
+    bool addieren(fahrerzeile& a, rennblock& block, const fahrerzeile& b, const rennblock& block_b) const {
+        bool alle = true;
+        const zeit_ms gesamtzeit = gesamtzeit_lesen(a.felder, a.spalten) + gesamtzeit_lesen(b.felder, b.spalten);
         werte_addieren(a, b);
         if (typ_ == ergebnis_typ::einzelrennen) {
             block_addieren(block, rundenzeiten(a.felder), block_b, rundenzeiten(b.felder));
-            runden_anhaengen(a.felder, b.felder);
+            alle = runden_anhaengen(a.felder, b.felder);
         }
+        gesamtzeit_schreiben(a.felder, a.spalten, gesamtzeit, trennzeichen_);
+        blockfeld_setzen(block, blockreihe::gesamtzeit, 1, a.felder[a.spalten.gesamtzeit], trenner_);
+        return alle;
     }
 
 private:
@@ -38,10 +44,13 @@ private:
                 a.felder[i] = summe(a.felder[i], b.felder[i]);
             }
         };
+        const bool ohne_runde_a = ergebnisrunden_lesen(a.felder[a.spalten.runden.ab]) == 0;
+        const bool ohne_runde_b = ergebnisrunden_lesen(b.felder[b.spalten.runden.ab]) == 0;
         je_feld(a.spalten.runden, [this](const auto& x, const auto& y) { return runden(x, y); });
         je_feld(a.spalten.meter, [this](const auto& x, const auto& y) { return meter(x, y); });
-        je_feld(a.spalten.beste, [](const auto& x, const auto& y) { return schnellere(x, y); });
-        je_feld({a.spalten.gesamtzeit, 1}, [this](const auto& x, const auto& y) { return zeit(x, y); });
+        je_feld(a.spalten.beste, [=](const auto& x, const auto& y) {
+            return ohne_runde_a == ohne_runde_b ? schnellere(x, y) : ohne_runde_a ? y : x;
+        });
     }
 
     std::string runden(const std::string& x, const std::string& y) const {
@@ -50,25 +59,24 @@ private:
     std::string meter(const std::string& x, const std::string& y) const {
         return meter_schreiben(typ_, ergebnismeter_lesen(x, trennzeichen_) + ergebnismeter_lesen(y, trennzeichen_));
     }
-    std::string zeit(const std::string& x, const std::string& y) const {
-        return ergebniszeit(ergebniszeit_lesen(x) + ergebniszeit_lesen(y), trennzeichen_);
-    }
     static std::string schnellere(const std::string& x, const std::string& y) {
         const zeit_ms eine = ergebniszeit_lesen(x);
         const zeit_ms andere = ergebniszeit_lesen(y);
         return andere > 0 && (eine == 0 || andere < eine) ? y : x;
     }
 
-    static void runden_anhaengen(ergebnisfelder& a, const ergebnisfelder& b) {
+    /// Whether all of them had room.
+    static bool runden_anhaengen(ergebnisfelder& a, const ergebnisfelder& b) {
         const std::size_t vorhanden = rundenzeiten(a);
         const std::size_t ab = erste_rundenzeit + (vorhanden > 0 ? 1 : 0);
         a.resize(erste_rundenzeit + vorhanden);
-        for (std::size_t i = ab; i < erste_rundenzeit + rundenzeiten(b); ++i) {
-            if (a.size() <= erste_rundenzeit + static_cast<std::size_t>(runden_max)) {
-                a.push_back(b[i]);
-            }
+        const std::size_t ende = erste_rundenzeit + rundenzeiten(b);
+        std::size_t i = ab;
+        for (; i < ende && a.size() <= erste_rundenzeit + static_cast<std::size_t>(runden_max); ++i) {
+            a.push_back(b[i]);
         }
         a.emplace_back();
+        return i >= ende;
     }
 
     void block_addieren(rennblock& a, std::size_t reihen_a, const rennblock& b, std::size_t reihen_b) const {
@@ -79,7 +87,6 @@ private:
         feld(blockreihe::rundenzahl, [this](const auto& x, const auto& y) { return rundenzahl(x, y); });
         feld(blockreihe::restmeter, [this](const auto& x, const auto& y) { return meter(x, y); });
         feld(blockreihe::gesamtmeter, [this](const auto& x, const auto& y) { return meter(x, y); });
-        feld(blockreihe::gesamtzeit, [this](const auto& x, const auto& y) { return zeit(x, y); });
         a.resize(kennzahlen_anzahl + reihen_a, leerer_block(trenner_));
         for (std::size_t i = reihen_a > 0 ? 1 : 0; i < reihen_b && a.size() <= kennzahlen_anzahl + runden_max; ++i) {
             a.push_back(kennzahlen_anzahl + i < b.size() ? b[kennzahlen_anzahl + i] : leerer_block(trenner_));
@@ -107,6 +114,7 @@ void auf_umfang_kuerzen(ergebnistabelle& tabelle) {
         laengster = std::max(laengster, zeile.block.size());
     }
     const std::size_t zu_viele = umfang - std::min(umfang, ergebnistabelle::zeilen_max);
+    tabelle.gekuerzt = tabelle.gekuerzt || zu_viele > 0;
     for (ergebniszeile& zeile : tabelle.zeilen) {
         zeile.block.resize(std::min(zeile.block.size(), laengster - std::min(zu_viele, laengster)));
     }
@@ -132,7 +140,8 @@ void gleiche_fahrer_addieren(ergebnistabelle& tabelle, bool mit_klasse) {
             const auto [stelle, neu] = erste.try_emplace({felder[spalten.name], klasse, breite}, summen.size());
             if (!neu) {
                 summe& ziel = summen[stelle->second];
-                rechner.addieren(*ziel.fahrer, ziel.zeile.block, *fahrer, zeile.block);
+                const bool alle = rechner.addieren(*ziel.fahrer, ziel.zeile.block, *fahrer, zeile.block);
+                tabelle.gekuerzt = tabelle.gekuerzt || !alle;
                 ziel.geaendert = true;
                 continue;
             }

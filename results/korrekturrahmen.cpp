@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "core/text.h"
@@ -22,6 +23,45 @@ bool ist_meterzahl(std::string_view text) {
     return zeichen && !text.empty() &&
            std::count_if(text.begin(), text.end(), [](char c) { return c > '9' || c < '0'; }) <= 1 &&
            text.find_first_of("0123456789") != std::string_view::npos;
+}
+
+/// Where the thousandths are set off, by the program's mark or a usual one; none without a mark.
+std::optional<std::pair<std::string, std::string>> am_komma(const std::string& text,
+                                                            const trennzeichen_tabelle& trennzeichen) {
+    for (const std::string& komma : {trennzeichen[1], std::string(","), std::string(".")}) {
+        const std::size_t stelle = komma.empty() ? std::string::npos : text.rfind(komma);
+        if (stelle != std::string::npos && (komma != trennzeichen[0] || komma == trennzeichen[1])) {
+            return std::pair(text.substr(0, stelle), text.substr(stelle + komma.size()));
+        }
+    }
+    return std::nullopt;
+}
+
+/// As a person types it: [hours:][minutes:]seconds, and up to three decimals: "8,5" are eight seconds and a half. No
+/// text is no time; none for anything else.
+std::optional<zeit_ms> getippte_zeit(const std::string& text, const trennzeichen_tabelle& trennzeichen) {
+    constexpr std::size_t stellen = 3;
+    if (text.empty()) {
+        return 0;
+    }
+    auto [vorne, hinten] = am_komma(text, trennzeichen).value_or(std::pair(text, std::string("0")));
+    const std::string doppelpunkt = vorne.find(':') != std::string::npos ? std::string(":") : trennzeichen[0];
+    const auto teile = felder_teilen(vorne, doppelpunkt);
+    if (hinten.empty() || hinten.size() > stellen || !sind_ziffern(hinten) || teile.size() > 3) {
+        return std::nullopt;
+    }
+    zeit_ms sekunden = 0;
+    for (std::size_t i = 0; i < teile.size(); ++i) {
+        const bool stunden = teile.size() - i == 3;
+        const zeit_ms zahl = ganzzahl_lesen(teile[i], 0, 9999);
+        if (teile[i].empty() || !sind_ziffern(teile[i]) || teile[i].size() > (stunden ? 4 : 2) ||
+            (!stunden && zahl > 59)) {
+            return std::nullopt;
+        }
+        sekunden = sekunden * 60 + zahl;
+    }
+    hinten.append(stellen - hinten.size(), '0');
+    return sekunden * 1000 + ganzzahl_lesen(hinten, 0, 999);
 }
 
 std::vector<std::string> alle_klassen(const std::string& bisher) {
@@ -219,13 +259,6 @@ void korrekturrahmen::summe_bilden(std::size_t was) {
     }
 }
 
-bool korrekturrahmen::zeitfeld_lesen(feld& eingabe, zeit_ms& zeit) {
-    const std::string erlaubt = "0123456789.:," + trennzeichen_[0] + trennzeichen_[1];
-    const bool gut = eingabe.text().find_first_not_of(erlaubt) == std::string::npos;
-    zeit = ergebniszeit_lesen(eingabe.text());
-    return gut;
-}
-
 bool korrekturrahmen::zeit_lesen(zeit_ms& zeit) {
     const std::array<feld*, 4> felder{&w_aus_std, &w_aus_min, &w_aus_sec, &w_aus_hun};
     constexpr std::array<zeit_ms, 4> wert{3600000, 60000, 1000, 1};
@@ -236,7 +269,7 @@ bool korrekturrahmen::zeit_lesen(zeit_ms& zeit) {
         const std::string& text = felder.at(i)->text();
         const zeit_ms zahl = ganzzahl_lesen(text, 0, 99999);
         const bool unveraendert = text == zeit_texte_.at(i);
-        if (!unveraendert && (!sind_ziffern(text) || zahl > bis.at(i))) {
+        if (!unveraendert && (text.empty() || !sind_ziffern(text) || zahl > bis.at(i))) {
             felder.at(i)->fokus_setzen();
             return false;
         }
@@ -274,7 +307,11 @@ std::optional<ergebniseintrag> korrekturrahmen::eintrag() {
         wert = ergebnismeter_lesen(eingabe.text(), trennzeichen_);
         return ist_meterzahl(eingabe.text());
     };
-    const auto zeit = [this](feld& eingabe, zeit_ms& wert) { return zeitfeld_lesen(eingabe, wert); };
+    const auto zeit = [this](feld& eingabe, zeit_ms& wert) {
+        const auto getippt = getippte_zeit(eingabe.text(), trennzeichen_);
+        wert = getippt.value_or(wert);
+        return getippt.has_value();
+    };
     const bool gut = alle_lesen(aus_runden, runden_texte_, neu.runden, runden) &&
                      alle_lesen(aus_meter, meter_texte_, neu.meter, meter) &&
                      alle_lesen(aus_beste, beste_texte_, neu.beste, zeit) && zeit_lesen(neu.gesamtzeit);

@@ -57,7 +57,6 @@ private:
     void meter_neu_berechnen();
     void summe_bilden(std::size_t i);
     bool zeit_lesen(zeit_ms& zeit);
-    bool zeitfeld_lesen(feld& eingabe, zeit_ms& zeit);
 
     const renneinrichtung& einrichtung_;
     trennzeichen_tabelle trennzeichen_;

@@ -10,8 +10,7 @@ namespace {
 
 constexpr std::string_view wurzel = "Ergebnisse";
 constexpr std::string_view darueber = "..";
-constexpr std::string_view tagesordner = "Ergebnisse\\Tagesrennen";
-constexpr std::array<std::string_view, 3> sprungziele{ergebnis_ordner::einzelrennen, tagesordner,
+constexpr std::array<std::string_view, 3> sprungziele{ergebnis_ordner::einzelrennen, ergebnis_ordner::tagesrennen,
                                                       ergebnis_ordner::wettkampf};
 
 std::string ordner_von(std::string_view pfad) {
@@ -21,6 +20,14 @@ std::string ordner_von(std::string_view pfad) {
 
 std::string name_von(std::string_view pfad) {
     return std::string(pfad.substr(pfad.find_last_of("\\/") + 1));
+}
+
+std::size_t abdruck_von(const std::vector<std::string>& zeilen) {
+    std::size_t abdruck = zeilen.size();
+    for (const std::string& zeile : zeilen) {
+        abdruck = abdruck * 31 + std::hash<std::string>{}(zeile);
+    }
+    return abdruck;
 }
 
 void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
@@ -82,6 +89,7 @@ void w_auswertung2::laden() {
     Command13.text(wort_.debug_auf);
     tabelle_.reset();
     dateien_.clear();
+    abdruecke_.clear();
     details_ = {};
     korrigiert_ = false;
     Frame_sortieren.sichtbar(false);
@@ -166,17 +174,21 @@ std::optional<w_auswertung2::datei> w_auswertung2::datei_lesen(const std::string
                          std::any_of(zeilen->begin(), zeilen->end(), [](const std::string& zeile) {
                              return zeile.size() >= zeile_bytes_max && laenge(zeile) >= zeile_bytes_max;
                          });
-    return datei{std::move(*zeilen), zu_lang};
+    const std::size_t abdruck = abdruck_von(*zeilen);
+    return datei{std::move(*zeilen), zu_lang, abdruck};
 }
 
-std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad) {
+std::optional<ergebnistabelle> w_auswertung2::tabelle_von(const std::string& pfad, std::size_t& abdruck) {
     auto gelesen = datei_lesen(pfad);
     auto tabelle = gelesen ? ergebnistabelle_lesen(std::move(gelesen->zeilen), um_.einst.trennzeichen) : std::nullopt;
     if (!tabelle) {
         fehler_melden(wort_.dateifehler);
-    } else if (gelesen->zu_lang || tabelle->gekuerzt) {
+        return tabelle;
+    }
+    if (gelesen->zu_lang || tabelle->gekuerzt) {
         hinweisen(wort_.zu_lang);
     }
+    abdruck = gelesen->abdruck;
     return tabelle;
 }
 
@@ -184,10 +196,15 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
     if (!darf_verwerfen()) {
         return;
     }
-    if (auto neue = tabelle_von(pfad)) {
+    std::size_t abdruck = 0;
+    if (auto neue = tabelle_von(pfad, abdruck)) {
         tabelle_ = std::move(neue);
         korrigiert_ = false;
+        for (haken& kasten : Check1) {
+            kasten.gesetzt(true);  // what was left out was so in the file before
+        }
         dateien_ = {pfad};
+        abdruecke_ = {{pfad, abdruck}};
         tabelle_neu();
     }
 }
@@ -197,7 +214,8 @@ void w_auswertung2::dazu(const std::string& pfad) {
         oeffnen(pfad);
         return;
     }
-    const auto neue = tabelle_von(pfad);
+    std::size_t abdruck = 0;
+    const auto neue = tabelle_von(pfad, abdruck);
     if (!neue) {
         return;
     }
@@ -210,6 +228,7 @@ void w_auswertung2::dazu(const std::string& pfad) {
             break;
         case hinzufuegen_ergebnis::hinzugefuegt:
             dateien_.push_back(pfad);
+            abdruecke_[pfad] = abdruck;
             tabelle_neu();
     }
 }
@@ -260,28 +279,6 @@ void w_auswertung2::tabelle_anzeigen() {
     }
     details_zeigen();
     bedienung_einrichten();
-}
-
-/// New classes are shown; those that were left out stay out.
-void w_auswertung2::klassen_zeigen() {
-    const std::set<std::string> ohne = ausgelassene_klassen();
-    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
-    for (std::size_t i = 0; i < klassen_max; ++i) {
-        haken& kasten = Check1.at(i);
-        kasten.sichtbar(i < klassen.size());
-        kasten.text(i < klassen.size() ? klassen[i] : std::string());
-        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
-    }
-}
-
-std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
-    std::set<std::string> ohne;
-    for (const haken& kasten : Check1) {
-        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
-            ohne.insert(kasten.text());
-        }
-    }
-    return ohne;
 }
 
 void w_auswertung2::details_umschalten(std::size_t welche) {
@@ -335,7 +332,7 @@ std::string w_auswertung2::kopf() const {
     if (!tabelle_ || !rennen_) {
         return Label_datei.text();
     }
-    const auto wertung = static_cast<std::size_t>(sortieren_nach()) - 1;
+    const auto wertung = static_cast<std::size_t>(rennen_->wertung.value_or(sortier_modus::runden)) - 1;
     return wort_.rennen + " " + rennen_->datum + " " + rennen_->uhrzeit + "  ·  " + wort_.wertung.at(wertung);
 }
 

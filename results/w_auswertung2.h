@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -112,8 +113,8 @@ public:
 private:
     struct worte {
         std::string titel, keine_datei, dateifehler, anderer_typ, nicht_sortierbar, klasse_fragen, klasse_titel;
-        std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben;
-        std::string verwerfen, zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
+        std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
+        std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, rennen;
         std::string debug_auf, debug_zu;
         std::array<std::string, 3> wertung;
@@ -122,7 +123,8 @@ private:
     };
     struct datei {
         std::vector<std::string> zeilen;
-        bool zu_lang = false;  ///< has more than the program holds
+        bool zu_lang = false;     ///< has more than the program holds
+        std::size_t abdruck = 0;  ///< tells its lines from others
     };
 
     void befehle_verbinden();
@@ -136,7 +138,7 @@ private:
     /// The file that is chosen; a message and an empty text without one.
     std::string gewaehlte_datei();
     std::optional<datei> datei_lesen(const std::string& pfad) const;
-    std::optional<ergebnistabelle> tabelle_von(const std::string& pfad);
+    std::optional<ergebnistabelle> tabelle_von(const std::string& pfad, std::size_t& abdruck);
     void oeffnen(const std::string& pfad);
     void dazu(const std::string& pfad);
 
@@ -146,6 +148,7 @@ private:
     void korrektur_beginnen();
     void korrektur_eintragen();
     void korrektur_beenden();
+    std::string namensvorschlag() const;
     void speichern_oeffnen(bool auswahl);
     void speichern();
     bool darf_schreiben(const std::string& pfad);
@@ -170,8 +173,9 @@ private:
     w_ausw_debug debug_;
     worte wort_;
     ansicht_worte ansicht_wort_;
-    std::string ordner_;                ///< below the program folder
-    std::vector<std::string> dateien_;  ///< in memory, with their folders
+    std::string ordner_;                            ///< below the program folder
+    std::vector<std::string> dateien_;              ///< in memory, with their folders
+    std::map<std::string, std::size_t> abdruecke_;  ///< of the files as they were opened or saved last
     std::optional<ergebnistabelle> tabelle_;
     ergebnisansicht ansicht_;
     detailwahl details_;

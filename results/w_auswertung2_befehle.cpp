@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "core/ordnerblick.h"
 #include "core/text.h"
@@ -59,6 +60,28 @@ sortier_modus w_auswertung2::sortieren_nach() const {
     return sortier_modus::runden;
 }
 
+/// New classes are shown; those that were left out stay out.
+void w_auswertung2::klassen_zeigen() {
+    const std::set<std::string> ohne = ausgelassene_klassen();
+    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
+    for (std::size_t i = 0; i < klassen_max; ++i) {
+        haken& kasten = Check1.at(i);
+        kasten.sichtbar(i < klassen.size());
+        kasten.text(i < klassen.size() ? klassen[i] : std::string());
+        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
+    }
+}
+
+std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
+    std::set<std::string> ohne;
+    for (const haken& kasten : Check1) {
+        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
+            ohne.insert(kasten.text());
+        }
+    }
+    return ohne;
+}
+
 void w_auswertung2::neu_sortieren() {
     const bool mit_fahrern = tabelle_ && std::any_of(tabelle_->zeilen.begin(), tabelle_->zeilen.end(),
                                                      [](const ergebniszeile& zeile) { return zeile.ergebnis; });
@@ -74,7 +97,12 @@ void w_auswertung2::neu_sortieren() {
 void w_auswertung2::fahrer_addieren() {
     const bool mit_klasse = tabelle_->typ == ergebnis_typ::tagesrennen &&
                             um_.welt.meldungen.fragen(wort_.klasse_fragen, wort_.klasse_titel);
+    const bool schon_gekuerzt = std::exchange(tabelle_->gekuerzt, false);
     gleiche_fahrer_addieren(*tabelle_, mit_klasse);
+    if (tabelle_->gekuerzt) {
+        hinweisen(wort_.summe_zu_lang);
+    }
+    tabelle_->gekuerzt = tabelle_->gekuerzt || schon_gekuerzt;
     sortieren(*tabelle_, sortieren_nach());
     tabelle_neu();
 }
@@ -114,10 +142,23 @@ void w_auswertung2::korrektur_beenden() {
     auswertung_schoen.fokus_setzen();
 }
 
+/// What was opened first; some of its classes must not take its place.
+std::string w_auswertung2::namensvorschlag() const {
+    const std::string& erste = dateien_.front();
+    std::string name = erste.substr(erste.find_last_of("\\/") + 1);
+    if (!nur_auswahl_) {
+        return name;
+    }
+    std::string klassen = "-";
+    for (const haken& kasten : Check1) {
+        klassen += details_.ohne_klassen.contains(kasten.text()) ? std::string() : kasten.text();
+    }
+    return name.insert(name.size() - (endet_auf(name, ".csv") ? 4 : 0), als_dateiname(klassen));
+}
+
 void w_auswertung2::speichern_oeffnen(bool auswahl) {
     nur_auswahl_ = auswahl;
-    const int zeile = File1.markiert();
-    Text3.text(zeile >= 0 ? File1.zeilen().at(static_cast<std::size_t>(zeile)) : std::string());
+    Text3.text(namensvorschlag());
     Frame7.sichtbar(true);
     bedienung_einrichten();
     Text3.fokus_setzen();
@@ -127,7 +168,7 @@ std::vector<std::string> w_auswertung2::zu_speichern() const {
     if (!nur_auswahl_) {
         return tabelle_->alle_zeilen();
     }
-    const std::set<std::string> ohne = ausgelassene_klassen();
+    const std::set<std::string>& ohne = details_.ohne_klassen;  // as the table is shown
     ergebnistabelle auswahl = *tabelle_;
     std::erase_if(auswahl.zeilen, [&](const ergebniszeile& zeile) {
         const auto fahrer = zeile.ergebnis ? fahrerzeile_von(auswahl, zeile) : std::nullopt;
@@ -150,7 +191,11 @@ bool w_auswertung2::darf_schreiben(const std::string& pfad) {
         hinweisen(wort_.nicht_ueber);
         return false;
     }
-    return um_.welt.meldungen.fragen(wort_.ueberschreiben, um_.welt.txt.titel[0]);
+    const auto bekannt = abdruecke_.find(pfad);
+    const bool veraendert = bekannt != abdruecke_.end() && bekannt->second != alte->abdruck;
+    return um_.welt.meldungen.fragen(
+        pfad.substr(pfad.find_last_of('\\') + 1) + "\n\n" + (veraendert ? wort_.veraendert : wort_.ueberschreiben),
+        um_.welt.txt.titel[0]);
 }
 
 void w_auswertung2::speichern() {
@@ -170,6 +215,9 @@ void w_auswertung2::speichern() {
     if (!um_.welt.ablage.zeilen_schreiben(pfad, zu_speichern())) {
         fehler_melden(wort_.schreibfehler);
         return;
+    }
+    if (const auto geschrieben = datei_lesen(pfad)) {
+        abdruecke_[pfad] = geschrieben->abdruck;
     }
     korrigiert_ = korrigiert_ && nur_auswahl_;
     Frame7.sichtbar(false);

@@ -86,6 +86,12 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
     texte.text("beste Runden in Sekunden", v.achse_beste).text("Es gibt keine Rundenzeiten.", v.leer);
     blatt.eintragen(diagramm.eintragen(texte));
     texte.text("Runden", blatt.runden).text("Gesamtzeit", blatt.gesamtzeit).text("beste Runde", blatt.beste);
+    texte.text("Die Datei wurde geändert, seit sie geöffnet ist. Was dazugekommen ist, geht verloren. Überschreiben?",
+               wort_.veraendert);
+    texte.text(
+        "Zusammen sind es mehr Runden, als eine Datei fasst. Die Summen stimmen, die letzten Rundenzeiten fehlen.",
+        wort_.summe_zu_lang);
+    texte.tipp("Korrektur eintragen", korrektur.Command14);
 }
 
 }  // namespace tarvel

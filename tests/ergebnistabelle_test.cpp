@@ -104,6 +104,17 @@ TEST(Ergebnistabelle, AndereArtUndUnbrauchbaresLassenDieTabelleWieSieIst) {
         const auto rest = ergebnistabelle_lesen(abgeschnitten, trennzeichen_standard);
         EXPECT_EQ(rest.has_value(), arten[art].front() == magie_tagesrennen) << "a day race has no end of its own";
     }
+    for (const textzeilen& vorne : arten) {
+        for (const textzeilen& hinten : arten) {
+            textzeilen beide = vorne;
+            beide.insert(beide.end(), hinten.begin(), hinten.end());
+            EXPECT_EQ(ergebnistabelle_lesen(beide, trennzeichen_standard).has_value(),
+                      vorne.front() == magie_tagesrennen && vorne == hinten);
+        }
+    }
+    textzeilen mit_kopf = arten[2];
+    mit_kopf.insert(mit_kopf.begin() + 3, mit_kopf[1]);
+    EXPECT_FALSE(tabelle_aus(mit_kopf).zeilen[1].ergebnis) << "a second head is no driver";
     textzeilen gemischt = arten[0];
     gemischt[12] += "mehr als die Spuren;";
     EXPECT_FALSE(ergebnistabelle_lesen(gemischt, trennzeichen_standard));
@@ -138,7 +149,7 @@ TEST(Ergebnistabelle, AddierteRennenBleibenEinzelnLesbar) {
 
 TEST(Ergebnistabelle, SortiertNachWertenUndJedeKlasseFuerSich) {
     ergebnistabelle t = tabelle_aus(tageszeilen({
-        "B;Null; 0;0.00;00:00,000;00:00,000",
+        "B;Null; 0;0.00;00:06,000;00:00,000",
         "B;Eine; 1;10.00;00:09,000;00:09,000",
         "A;Lang; 100;1000.00;00:08,000;1:00:00,000",
         "",
@@ -188,7 +199,7 @@ TEST(Ergebnistabelle, AddiertGleicheFahrer) {
     EXPECT_EQ(t.alle_zeilen(), vorher);
 
     ergebnistabelle jeder =
-        tabelle_aus({"Pokal", "Nr", "1.;Anna; 9; 9;00:08,000;01:12,000", "1.;Anna;991;991;00:07,000;01:13,000",
+        tabelle_aus({"Pokal", "Nr;Name", "1.;Anna; 9; 9;00:08,000;01:12,000", "1.;Anna;991;991;00:07,000;01:13,000",
                      "1.;Anna; 9; 4; 5;00:08,000;00:07,000;01:12,000", "TV-JJ2-WKD"});
     gleiche_fahrer_addieren(jeder, true);
     EXPECT_EQ(texte_von(jeder),
@@ -209,6 +220,24 @@ TEST(Ergebnistabelle, RundenAddierterRennenFolgenEinander) {
     EXPECT_EQ(anna.beste, 8100);
     EXPECT_EQ(anna.gesamtzeit, 2 * 8100 + 3 * 8200);
     EXPECT_FALSE(rennen_von(t, 0, sortier_modus::runden)) << "no race any more";
+}
+
+TEST(Ergebnistabelle, UeberEineStundeKommtAusDenRundenZurueck) {
+    constexpr int runden = 555;
+    const zeit_ms dauer = runden * 8100;
+    const auto datei = rennzeilen(rennen_mit({"Anna"}, runden, "14:00:00"));
+    EXPECT_EQ(einzelrennen_lesen(datei)->ergebnis.spuren.at(0).gesamtzeit, dauer);
+    ergebnistabelle t = tabelle_aus(datei);
+    auto eintrag = eintrag_lesen(t, 0).value();
+    EXPECT_EQ(eintrag.gesamtzeit, dauer);
+    eintrag.gesamtzeit -= 3600000;
+    eintrag_schreiben(t, 0, eintrag);
+    EXPECT_EQ(eintrag_lesen(t, 0), eintrag) << "a correction is no lost hour";
+    EXPECT_EQ(rennen_von(t, 0, sortier_modus::runden)->spuren.at(0).gesamtzeit, eintrag.gesamtzeit);
+    hinzufuegen(t, tabelle_aus(datei));
+    hinzufuegen(t, tabelle_aus(datei));
+    gleiche_fahrer_addieren(t, false);
+    EXPECT_EQ(einzelrennen_lesen(t.alle_zeilen())->ergebnis.spuren.at(0).gesamtzeit, 3 * dauer - 3600000);
 }
 
 TEST(Ergebnistabelle, KorrekturAendertNurWasAndersIst) {
@@ -251,6 +280,12 @@ TEST(Ergebnistabelle, JenseitsDerGrenzeIstGekuerzt) {
     EXPECT_TRUE(lang.gekuerzt);
     EXPECT_EQ(lang.alle_zeilen().size(), 10000U);
     EXPECT_EQ(eintrag_lesen(lang, 0)->runden.at(0), 9999);
+    ergebnistabelle summe = tabelle_aus(rennzeilen(rennen_mit({"Anna", "Anna"}, 4990, "14:00:00")));
+    gleiche_fahrer_addieren(summe, false);
+    EXPECT_TRUE(summe.gekuerzt) << "laps that have no line of their own";
+    summe = tabelle_aus(rennzeilen(rennen_mit({"Anna", "Anna"}, 4950, "14:00:00")));
+    gleiche_fahrer_addieren(summe, false);
+    EXPECT_FALSE(summe.gekuerzt);
 }
 
 TEST(Ergebnistabelle, AndereTrennzeichen) {
@@ -264,6 +299,11 @@ TEST(Ergebnistabelle, AndereTrennzeichen) {
     EXPECT_FALSE(ergebnistabelle_lesen(datei, trennzeichen_standard)) << "its lanes cannot be told apart";
     EXPECT_FALSE(ergebnistabelle_lesen(tageszeilen({"A|Anna| 7|70.25|00:08,000|00:58,000"}), trennzeichen_standard));
     EXPECT_TRUE(ergebnistabelle_lesen(tageszeilen({}), trennzeichen_standard)) << "nobody has driven yet";
+    for (const char* trenner : {",", ".", ":", ""}) {
+        for (const textzeilen& mit_semikolon : alle_arten(1)) {
+            EXPECT_FALSE(ergebnistabelle_lesen(mit_semikolon, {":", ".", trenner})) << trenner << mit_semikolon.front();
+        }
+    }
 }
 
 TEST(Fahrervergleich, MisstWieGleichmaessigGefahrenWird) {

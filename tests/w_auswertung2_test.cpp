@@ -78,15 +78,19 @@ TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
     w.Check1[1].umschalten();
     w.Command1.klicken();
     EXPECT_EQ(namen(), "1.A 2.C 3.A ");
+    w.Check1[1].umschalten();
     w.Command6.klicken();
-    w.Text3.eingeben("klasse-a");
     w.Command17.klicken();
-    EXPECT_EQ(gelesen("klasse-a.csv").size(), 4U);
+    EXPECT_EQ(gelesen("mai-A.csv").size(), 4U) << "in a file of its own";
     speichern_als("alle");
     EXPECT_EQ(gelesen("alle.csv").size(), 5U) << "what is not shown is not lost";
     EXPECT_EQ(gelesen("alle.csv").at(1), abend[3]) << "without its place";
     w.Command8.klicken();
     EXPECT_EQ(namen(), "1.A 2.C 3.A 1.B ");
+    w.Check1[0].umschalten();
+    w.Command1.klicken();
+    zeigen("mai.csv");
+    EXPECT_EQ(namen(), "  A   B   C   A ") << "classes are left out of one file";
 }
 
 TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
@@ -133,10 +137,19 @@ TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
     w.korrektur.Command14.klicken();
     EXPECT_TRUE(w.korrektur.offen()) << "no number";
     w.korrektur.aus_runden[0].eingeben("8");
+    for (const char* keine_zeit : {"8,5000", "8s", "1:2:3:4", "75,000", "8,", ":8,5"}) {
+        w.korrektur.aus_beste[0].eingeben(keine_zeit);
+        w.korrektur.Command14.klicken();
+        EXPECT_TRUE(w.korrektur.offen()) << keine_zeit;
+    }
+    w.korrektur.aus_beste[0].eingeben("8,5");
+    w.korrektur.w_aus_min.eingeben("");
+    w.korrektur.Command14.klicken();
+    EXPECT_TRUE(w.korrektur.offen()) << "no minutes are not 0 of them";
     w.korrektur.w_aus_min.eingeben("01");
     w.korrektur.Command14.klicken();
     speichern_als("anders.csv");
-    EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;0:08,0;01:58,000;mehr");
+    EXPECT_EQ(gelesen("anders.csv").at(1), "A;Anna; 8;70,250;00:08,500;01:58,000;mehr");
     EXPECT_EQ(gelesen("mai.csv").at(1), krumm) << "the source";
     w.Command5.klicken();
     EXPECT_FALSE(offen(fenstername::w_auswertung2)) << "all is saved";
@@ -201,6 +214,26 @@ TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
     EXPECT_NE(letzte_meldung().find("nicht hinzugefügt"), std::string::npos);
 }
 
+TEST_F(Ergebnisbetrachter, UeberschreibtNichtsUngesagt) {
+    tag_ablegen("mai.csv", abend);
+    tag_ablegen("juni.csv", abend);
+    zeigen("mai.csv");
+    t.maschine.antwort = true;
+    const auto frage = [this] {
+        w.Command17.klicken();
+        return t.maschine.fragen_gestellt.back().text;
+    };
+    waehlen("juni.csv");
+    w.Command16.klicken();
+    EXPECT_TRUE(frage().starts_with("mai.csv\n")) << "what is open, whatever is marked";
+    tag_ablegen("mai.csv", {abend[0]});
+    w.Command16.klicken();
+    w.Text3.eingeben("mai");
+    EXPECT_NE(frage().find("wurde geändert"), std::string::npos) << "a race has come in meanwhile";
+    w.Command16.klicken();
+    EXPECT_NE(frage().find("bereits vorhanden"), std::string::npos) << "as it has just been saved";
+}
+
 TEST_F(Ergebnisbetrachter, SpeichertNurUnterBrauchbarenNamen) {
     tag_ablegen("mai.csv", abend);
     zeigen("mai.csv");
@@ -235,11 +268,14 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     w.cbo_rennen.waehlen(1);
     EXPECT_EQ(w.rennen()->spuren.at(0).fahrer, "Cem");
     EXPECT_EQ(w.rennen()->spuren.at(0).platz, 1);
-    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden");
+    w.opt_sortieren_nach[0].umschalten();
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden") << "as long as the places are those";
+    w.Command3.klicken();
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Metern");
     EXPECT_EQ(w.blatt_datei(), "Ergebnisse\\Tagesrennen\\eins-2");
     w.Command_blick[3].klicken();
     EXPECT_EQ(w.vergleich().size(), 3U);
-    EXPECT_EQ(gezeichnet, 3);
+    EXPECT_EQ(gezeichnet, 4);
     w.Command20.klicken();
     EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
 }

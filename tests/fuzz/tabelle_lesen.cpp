@@ -13,9 +13,9 @@ namespace {
 
 constexpr const char* datei = "betrachtet.csv";
 
-std::optional<ergebnistabelle> gelesen(const dateien& ablage) {
+std::optional<ergebnistabelle> gelesen(const dateien& ablage, const trennzeichen_tabelle& trennzeichen) {
     return ergebnistabelle_lesen(ablage.zeilen_lesen(datei, 1000000, 200000).value_or(std::vector<std::string>{}),
-                                 trennzeichen_standard);
+                                 trennzeichen);
 }
 
 /// All that the window does with it.
@@ -39,16 +39,13 @@ void speichern_und_lesen(const werkbank& bank, const ergebnistabelle& tabelle) {
     fordern(zeilen.size() == tabelle.umfang() && zeilen.size() <= ergebnistabelle::zeilen_max,
             "more lines than there is room for");
     fordern(bank.ausgang.zeilen_schreiben(datei, zeilen), "a table cannot be written");
-    const auto wieder = gelesen(bank.ausgang);
+    const auto wieder = gelesen(bank.ausgang, tabelle.trennzeichen);
     fordern(wieder && wieder->typ == tabelle.typ && wieder->alle_zeilen() == zeilen,
             "a table changes on the way through its file");
 }
 
-}  // namespace
-
-bool tabelle_betrachten(werkbank& bank, const std::string& bytes) {
-    bank.legen(datei, bytes);
-    auto tabelle = gelesen(bank.eingang);
+bool mit_trennzeichen_betrachten(werkbank& bank, const trennzeichen_tabelle& trennzeichen) {
+    auto tabelle = gelesen(bank.eingang, trennzeichen);
     if (!tabelle) {
         return false;
     }
@@ -73,6 +70,15 @@ bool tabelle_betrachten(werkbank& bank, const std::string& bytes) {
     ansehen(*tabelle);
     speichern_und_lesen(bank, *tabelle);
     return true;
+}
+
+}  // namespace
+
+bool tabelle_betrachten(werkbank& bank, const std::string& bytes) {
+    const std::vector<trennzeichen_tabelle> andere{{":", ".", ","}, {".", "'", "|"}, {":", ",", " "}, {"", "", ""}};
+    bank.legen(datei, bytes);
+    mit_trennzeichen_betrachten(bank, andere[bytes.size() % andere.size()]);
+    return mit_trennzeichen_betrachten(bank, trennzeichen_standard);
 }
 
 }  // namespace tarvel::test
