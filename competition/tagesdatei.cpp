@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view parameter_datei = "Tagesrennen.ini";
 constexpr std::string_view parameter_titel = "Tarvel Parameter-Datei für das Tagesrennen";
-constexpr std::string_view ordner = "Ergebnisse\\Tagesrennen\\";
+const std::string ordner = std::string(ergebnis_ordner::tagesrennen) + "\\";
 constexpr std::string_view endung = ".csv";
 constexpr std::size_t feste_zeilen = 3;
 constexpr std::size_t zeilen_max = 1000000;  // an evening is never too long to be looked at
@@ -44,7 +44,7 @@ bool tagesparameter_speichern(const dateien& ablage, const tagesparameter& werte
 }
 
 std::string tagesdatei_pfad(std::string_view name) {
-    return std::string(ordner) + std::string(ohne_endung(name)) + std::string(endung);
+    return ordner + std::string(ohne_endung(name)) + std::string(endung);
 }
 
 tagesdatei_zustand tagesdatei_pruefen(const dateien& ablage, std::string_view name) {
