@@ -222,7 +222,7 @@ void auswertung::bahn_neu_oeffnen() {
 
 void auswertung::wechselschema_anwenden() {
     const std::optional<spuren<int>> fest = um_.teil_von->fester_wechsel();
-    if (fest || spurwechsel.gesetzt()) {
+    if (fest || geht_von_selbst_weiter() || spurwechsel.gesetzt()) {  // the box is hidden while it goes on by itself
         const spuren<int> herkunft = fest.value_or(wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv));
         r_.fortsetzung.fahrer_umsetzen(herkunft);
         u_.stand.fahrer_umsetzen(herkunft);

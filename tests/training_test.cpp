@@ -120,6 +120,7 @@ TEST_F(Training, IntervallDreiRundenMitFahrerwechselUndOhneWartezeit) {
         t.p.einst.training_weiter = fortsetzen ? training_weitergang::fortsetzen : training_weitergang::neu_starten;
         aufstellen("Runden", "2", {1, 2});
         begonnen(trainingsart::intervall);
+        t.p.auswertung.spurwechsel.gesetzt(false);  // as an ordinary race has left it
         t.bahn().Command1.klicken();
         for (int durchgang = 1; durchgang <= 3; ++durchgang) {
             SCOPED_TRACE(durchgang);
