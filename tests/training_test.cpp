@@ -153,5 +153,28 @@ TEST_F(Training, IntervallDreiRundenMitFahrerwechselUndOhneWartezeit) {
     }
 }
 
+TEST_F(Training, IntervallAmRennmaximumGibtDieAuswertungFrei) {
+    t.p.einst.training_wechseldauer = 2s;
+    t.p.einst.training_weiter = training_weitergang::fortsetzen;
+    aufstellen("Runden", "9999", {1, 2});
+    begonnen(trainingsart::intervall);
+    t.bahn().Command1.klicken();
+    runde(1500);
+    t.runden_auffuellen(1, 9998);
+    runde(6000);
+    t.bahn().Command4.klicken();
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    EXPECT_FALSE(t.p.auswertung.Frame1.sichtbar());
+    t.maschine.laufen(60000);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(letzte_meldung(), "Rennmaximum erreicht. Fortsetzung nicht möglich.");
+    EXPECT_FALSE(t.p.auswertung.trainingslabel.sichtbar());
+    EXPECT_TRUE(t.p.auswertung.Frame1.sichtbar() && t.p.auswertung.Command1.sichtbar());
+    t.p.auswertung.Command2.klicken();
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "nobody has started it";
+}
+
 }  // namespace
 }  // namespace tarvel
