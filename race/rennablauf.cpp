@@ -90,8 +90,10 @@ void rennablauf::rennstart_vorbereiten() {
     um_.teil_von->begonnen();
     t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
-    if (um_.einst.sensorkalibrierung || mit_einfahrzeit()) {
-        um_.ausgaben.relais_off(0);  // the calibration or the warm-up has put the outputs to rest
+    if (mit_einfahrzeit()) {
+        um_.ausgaben.ruhezustand();  // the warm-up has left the track without power and the green lamp dark
+    } else if (um_.einst.sensorkalibrierung) {
+        um_.ausgaben.relais_off(0);  // the calibration has put the outputs to rest
     }
     um_.zustand.rennen_beendet = false;
     um_.sounds.spielen(sound::rennstart_vorbereitet);

@@ -192,7 +192,13 @@ void auswertung::ausfuehren(aktion was) {
             break;
     }
     if (um_.fenster.ist_offen(fenstername::auswertung)) {
-        um_.teil_von->von_selbst_starten(false);  // it did not come to that
+        um_.teil_von->von_selbst_starten(false);                          // it did not come to that
+        if (geht_von_selbst_weiter() && !tmr_dauertraining_->laeuft()) {  // nor will it: the operator decides again
+            selbst_ = {};
+            trainingslabel.sichtbar(false);
+            Command1.sichtbar(true);
+            Frame1.sichtbar(um_.teil_von->fortsetzbar_bis().has_value());
+        }
     }
 }
 
@@ -222,7 +228,7 @@ void auswertung::bahn_neu_oeffnen() {
 
 void auswertung::wechselschema_anwenden() {
     const std::optional<spuren<int>> fest = um_.teil_von->fester_wechsel();
-    if (fest || spurwechsel.gesetzt()) {
+    if (fest || geht_von_selbst_weiter() || spurwechsel.gesetzt()) {  // the box is hidden while it goes on by itself
         const spuren<int> herkunft = fest.value_or(wechsel_nachfolger(um_.einst.wechsel_schema, um_.param.spur_aktiv));
         r_.fortsetzung.fahrer_umsetzen(herkunft);
         u_.stand.fahrer_umsetzen(herkunft);
@@ -288,7 +294,8 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
 
 bool auswertung::ziel_pruefen(zeit_ms& ziel) {
     const bool ziel_offen = ziel_lesen(ziel);
-    if (std::max(ziel, um_.param.renn_ziel) > ziel_max()) {
+    const bool ausgefahren = !ziel_offen && geht_von_selbst_weiter();  // else its own proposal would have been beyond
+    if (ausgefahren || std::max(ziel, um_.param.renn_ziel) > ziel_max()) {
         um_.meldungen.zeigen(wort_.maximum, wort_.maximum_titel);
         return false;
     }

@@ -69,6 +69,7 @@ protected:
     void rennen_fahren_und_pruefen() {
         ASSERT_FALSE(t.p.rennen.zustand.rennen_beendet);
         EXPECT_TRUE(strom(1) && strom(2) && strom(3));
+        EXPECT_TRUE(geraet.ist_an(ausgang::ampel_gruen, 0)) << "without a light too";
         t.maschine.laufen(1);
         for (const int spur : alle_spuren) {
             EXPECT_EQ(t.runden(spur), -1);

@@ -120,6 +120,7 @@ TEST_F(Training, IntervallDreiRundenMitFahrerwechselUndOhneWartezeit) {
         t.p.einst.training_weiter = fortsetzen ? training_weitergang::fortsetzen : training_weitergang::neu_starten;
         aufstellen("Runden", "2", {1, 2});
         begonnen(trainingsart::intervall);
+        t.p.auswertung.spurwechsel.gesetzt(false);  // as an ordinary race has left it
         t.bahn().Command1.klicken();
         for (int durchgang = 1; durchgang <= 3; ++durchgang) {
             SCOPED_TRACE(durchgang);
@@ -150,6 +151,29 @@ TEST_F(Training, IntervallDreiRundenMitFahrerwechselUndOhneWartezeit) {
         EXPECT_EQ(t.p.form1.fahrer[0].text(), "Anna");
         danach_rennen_pruefen();
     }
+}
+
+TEST_F(Training, IntervallAmRennmaximumGibtDieAuswertungFrei) {
+    t.p.einst.training_wechseldauer = 2s;
+    t.p.einst.training_weiter = training_weitergang::fortsetzen;
+    aufstellen("Runden", "9999", {1, 2});
+    begonnen(trainingsart::intervall);
+    t.bahn().Command1.klicken();
+    runde(1500);
+    t.runden_auffuellen(1, 9998);
+    runde(6000);
+    t.bahn().Command4.klicken();
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    EXPECT_FALSE(t.p.auswertung.Frame1.sichtbar());
+    t.maschine.laufen(60000);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(letzte_meldung(), "Rennmaximum erreicht. Fortsetzung nicht möglich.");
+    EXPECT_FALSE(t.p.auswertung.trainingslabel.sichtbar());
+    EXPECT_TRUE(t.p.auswertung.Frame1.sichtbar() && t.p.auswertung.Command1.sichtbar());
+    t.p.auswertung.Command2.klicken();
+    t.maschine.laufen(20000);
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "nobody has started it";
 }
 
 }  // namespace
