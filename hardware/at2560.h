@@ -44,7 +44,7 @@ public:
 
     int nummer() const override { return messhardware::at_2560; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::at_2560; }
-    faehigkeiten kann() const override { return {.kontakte_wiederholt = true}; }
+    faehigkeiten kann() const override { return {.kontakte_wiederholt = true, .bootet = tmr_µportopen_->laeuft()}; }
     /// Reads the command file and opens the port of the settings. If that fails, the operator's side knows.
     bool oeffnen() override;
     void schliessen() override;

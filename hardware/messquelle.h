@@ -31,10 +31,12 @@ struct faehigkeiten {
     bool start_am_geraet = false;      ///< somebody starts and pauses the race at its own key
     bool feste_wagen = false;          ///< cars keep to their controllers: nobody changes lanes
     bool kontakte_wiederholt = false;  ///< a contact that stays closed is told again and again
+    bool bootet = false;               ///< it hears nothing yet: no race starts meanwhile
 
     faehigkeiten operator|(const faehigkeiten& andere) const {
         return {eigener_tank || andere.eigener_tank, start_am_geraet || andere.start_am_geraet,
-                feste_wagen || andere.feste_wagen, kontakte_wiederholt || andere.kontakte_wiederholt};
+                feste_wagen || andere.feste_wagen, kontakte_wiederholt || andere.kontakte_wiederholt,
+                bootet || andere.bootet};
     }
 };
 

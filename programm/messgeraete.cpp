@@ -105,9 +105,9 @@ void messgeraete::wartehinweis(bool an) {
                !um_.fenster.ist_offen(fenstername::einfahren)) {
         rennstart.aktiviert(true);
         rennstart.fokus_setzen();
-        um_.ausgaben.ruhezustand();  // what was switched while the unit booted has not reached it
-    } else {
-        um_.ausgaben.wiederholen();
+    }
+    if (!an) {
+        um_.ausgaben.wiederholen();  // what was switched while the unit booted has not reached it
     }
     verbindung_anzeigen();
 }

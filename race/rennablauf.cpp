@@ -31,7 +31,7 @@ void rennablauf::laden() {
 }
 
 void rennablauf::vor_dem_start() {
-    um_.bahn.Command1.aktiviert(true);
+    um_.bahn.Command1.aktiviert(!um_.quellen.kann().bootet);
     um_.bahn.Command2.aktiviert(true);
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);

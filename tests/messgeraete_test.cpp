@@ -190,6 +190,25 @@ TEST_F(Wiedereingesteckt, BeimEinfahrenBleibtEineFertigeSpurOhneStrom) {
     EXPECT_FALSE(t.bahn().Command1.bedienbar());
 }
 
+TEST_F(Wiedereingesteckt, NachDemEinfahrenWartetDerStartAufDasGeraet) {
+    einschalten(&messhardware::hw_uart);
+    vereinsabend abend(t.p);
+    t.einrichten("Runden", "20", {1, 2});
+    t.p.rennen.teil_von.wechseln(abend);
+    t.p.fenster.neu_laden(fenstername::bahn1);
+    t.bahn().Command6.klicken();
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.laufen(3000);
+    t.maschine.anschluesse.da = {com};
+    t.maschine.laufen(2500);
+    t.p.einfahren.Command5.klicken();
+    EXPECT_FALSE(t.bahn().Command1.bedienbar());
+    gesendet();
+    t.maschine.laufen(at_bootzeit.count());
+    EXPECT_TRUE(t.bahn().Command1.bedienbar());
+    EXPECT_EQ(gesendet().find(":P01;"), std::string::npos) << "the start gives the power back";
+}
+
 TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
     einschalten(&messhardware::hw_cu);
     t.einrichten("Runden", "20", {1});
