@@ -148,10 +148,7 @@ void at2560::at_senden(std::string_view text) {
 
 void at2560::rennfenster_offen() {
     im_rennen_ = false;
-    if (tmr_µportopen_->laeuft()) {
-        um_.bedienung.wartehinweis(true);  // also in this window
-    } else if (um_.einst.hardware.hw_uart && !MSComm2_->offen() &&
-               !µC_MSCOMM_settings_setzen()) {  // lost, and not there again
+    if (um_.einst.hardware.hw_uart && !MSComm2_->offen() && !µC_MSCOMM_settings_setzen()) {  // lost, not there again
         um_.bedienung.port_fehlt(um_.txt.meldung[27]);
     }
 }
