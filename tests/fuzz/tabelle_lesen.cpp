@@ -75,7 +75,7 @@ bool mit_trennzeichen_betrachten(werkbank& bank, const trennzeichen_tabelle& tre
 }  // namespace
 
 bool tabelle_betrachten(werkbank& bank, const std::string& bytes) {
-    const std::vector<trennzeichen_tabelle> andere{{":", ".", ","}, {".", "'", "|"}, {":", ",", " "}, {"", "", ""}};
+    const std::vector<trennzeichen_tabelle> andere{{":", ".", ","}, {".", "'", "|"}, {":", ".", "\t"}, {"", "", ""}};
     bank.legen(datei, bytes);
     mit_trennzeichen_betrachten(bank, andere[bytes.size() % andere.size()]);
     return mit_trennzeichen_betrachten(bank, trennzeichen_standard);
