@@ -295,8 +295,23 @@ TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {
     rennen_fahren();
     EXPECT_TRUE(abend.stand().ende_pruefen() && abend.nicht_gesichert());
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    abend.aendern([&](wettkampf& w) { return w.name_aendern(1, "Anton", t.p.txt) == namensmangel::keiner; });
     abend.beenden();
     EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
+}
+
+TEST_F(Wettkampfabend, WasNachDemLetztenRennenBerichtigtWirdStehtInDerTabelle) {
+    beginnen(wettkampf_modus::einmal, 2, {1, 2});
+    rennen_fahren();
+    abend.aendern([&](wettkampf& w) { return w.name_aendern(1, "Anton", t.p.txt) == namensmangel::keiner; });
+    abend.beenden();
+    const auto tabellen = t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ".csv");
+    ASSERT_EQ(tabellen.size(), 2U);
+    EXPECT_TRUE(std::any_of(tabellen.begin(), tabellen.end(), [&](const std::string& name) {
+        return *t.p.ablage.zeilen_lesen("Ergebnisse\\Wettkampf\\" + name, 1000) ==
+               tabelle_schreiben(abend.stand(), {}, t.p.einst.trennzeichen);
+    }));
+    EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf));
 }
 
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
