@@ -88,6 +88,9 @@ TEST(Wettkampf, ZurueckgestellteKommenNachAllenAnderen) {
     fahren(w, {});
     EXPECT_EQ(w.aktuelles_rennen, 1);
     EXPECT_EQ(w.rennen_gefahren(3), rennstatus::offen) << "all that was put off is open again";
+    EXPECT_TRUE(w.zurueckstellen(3) && w.zurueckstellen(1));
+    EXPECT_EQ(w.aktuelles_rennen, 3) << "the one put off last comes last";
+    w.rennen_waehlen(1);
     fahren(w, {});
     EXPECT_TRUE(w.zurueckstellen(3)) << "the only one left stays where it is";
     EXPECT_EQ(w.uebergabe().rennen, 3);
