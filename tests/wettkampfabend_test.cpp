@@ -69,11 +69,14 @@ protected:
 };
 
 TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
+    t.p.einst.w_speichern = true;
     beginnen(wettkampf_modus::rotation, 5, {1, 2, 4});
     for (int rennen = 1; rennen <= 5; ++rennen) {
         ASSERT_EQ(abend.stand().aktuelles_rennen, rennen);
         rennen_fahren();
         EXPECT_TRUE(offen(fenstername::bahn1) == false);
+        EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf-Zwischenstand", "", ".wta").size(),
+                  static_cast<std::size_t>(rennen));
     }
     EXPECT_TRUE(abend.stand().ende_pruefen());
     EXPECT_FALSE(abend.rennen_starten());
