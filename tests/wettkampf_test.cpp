@@ -166,12 +166,13 @@ TEST(Wettkampf, TeileEinesRennensBekommenNurIhrEigenes) {
     EXPECT_EQ(dran.teil, 2);
     EXPECT_EQ(dran.spur_fahrer[1], 2);
     e.spuren = {spur(1, {500, 8000, 7500, 9000}, 30), spur(2, {500, 6000, 7000, 6500}, 32.25)};
+    e.spuren[0].vor_fortsetzung = 2;  // was under way when the cars changed lanes
     w.ergebnis_eintragen(fahrten_aus(e, w.gebucht(1)));
     EXPECT_TRUE(w.ende_pruefen());
     const auto staende = w.staende();
     EXPECT_EQ(staende[0].auf[1], (fahrt{2, 13000, 2050, 6000}));
     EXPECT_EQ(staende[0].auf[2], (fahrt{1, 6500, 1175, 6500}));
-    EXPECT_EQ(staende[1].auf[1], (fahrt{2, 16500, 2000, 7500}));
+    EXPECT_EQ(staende[1].auf[1], (fahrt{2, 16500, 2000, 9000}));
     EXPECT_TRUE(w.wiederholen(1));
     EXPECT_EQ(w.fortsetzung_nummer(1), 0);
 }
