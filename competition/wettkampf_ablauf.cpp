@@ -19,7 +19,7 @@ bool wettkampf::naechstes_offenes_rennen() {
     int rennen = naechstes(aktuelles_rennen, rennstatus::offen);
     if (rennen == 0) {
         zurueckgestellte.clear();
-        rennen = naechstes(aktuelles_rennen, rennstatus::offen);
+        rennen = naechstes(aktuelles_rennen + 1, rennstatus::offen);  // the current one was put off last
     }
     aktuelles_rennen = rennen == 0 ? aktuelles_rennen : rennen;
     return rennen != 0;

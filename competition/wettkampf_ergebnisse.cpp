@@ -51,9 +51,10 @@ spuren<fahrt> fahrten_aus(const rennergebnis& ergebnis, const spuren<fahrt>& geb
     spuren<fahrt> neu;
     for (const rennergebnis::spur& s : ergebnis.spuren) {
         const fahrt& davor = gebucht[s.nummer];
-        neu[s.nummer] =
-            begrenzt({s.rundenzahl() - davor.runden, s.gesamtzeit - davor.zeit, zentimeter_aus(s.meter) - davor.meter,
-                      davor == fahrt{} ? s.beste : beste_nach(s, davor.runden)});
+        // a lap that was begun on the former lane says nothing of this one
+        const int ab = std::max(davor.runden, s.vor_fortsetzung.value_or(0));
+        neu[s.nummer] = begrenzt({s.rundenzahl() - davor.runden, s.gesamtzeit - davor.zeit,
+                                  zentimeter_aus(s.meter) - davor.meter, ab == 0 ? s.beste : beste_nach(s, ab)});
     }
     return neu;
 }

@@ -19,7 +19,8 @@ void wettkampfabend::beginnen(wettkampf neu) {
     unterbrochen_ = false;
     ergebnis_da_ = false;
     start_ = 0;
-    if (!stand_.ende_pruefen()) {
+    tabelle_offen_ = stand_.ende_pruefen();  // the program's end may have come before its table
+    if (!tabelle_offen_) {
         stand_.naechstes_offenes_rennen();
     }
     gesichert(sichern());
@@ -30,7 +31,11 @@ void wettkampfabend::beenden() {
     automat_.aus();
     automatik_an_ = false;
     aktiv_ = false;
-    um_.ablage.laufenden_weglegen(stand_.ende_pruefen() && !nicht_gesichert_);
+    const bool fertig = stand_.ende_pruefen();
+    if (fertig && tabelle_offen_) {
+        gesichert(tabelle_sichern());
+    }
+    um_.ablage.laufenden_weglegen(fertig && !nicht_gesichert_);
     zeigen();
 }
 
@@ -70,6 +75,7 @@ bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
     if (!was(stand_)) {
         return false;
     }
+    tabelle_offen_ = tabelle_offen_ || stand_.ende_pruefen();
     gesichert(sichern());
     zeigen();
     return true;
@@ -174,12 +180,17 @@ void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     alles = sichern() && alles;
     alles = um_.ablage.zwischenstand_sichern(stand_) && alles;
     if (stand_.ende_pruefen()) {
-        alles = um_.ablage.tabelle_sichern(stand_) && alles;
+        alles = tabelle_sichern() && alles;
         automatik_an_ = false;
     } else if (automatik_an_) {
         automat_.auf_naechstes_rennen(um_.einst.w_zeit1);
     }
     gesichert(alles);
+}
+
+bool wettkampfabend::tabelle_sichern() {
+    tabelle_offen_ = !um_.ablage.tabelle_sichern(stand_);
+    return !tabelle_offen_;
 }
 
 void wettkampfabend::am_start_warten() {

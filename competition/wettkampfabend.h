@@ -141,6 +141,7 @@ private:
     /// Tells of a failure, but while nobody may be there.
     void gesichert(bool alles);
     bool sichern() { return um_.ablage.laufenden_sichern(stand_); }
+    bool tabelle_sichern();
     void zeigen();
 
     umgebung um_;
@@ -156,8 +157,9 @@ private:
     bool von_selbst_ = false;  ///< the next part begins without anybody
     bool unterbrochen_ = false;
     bool nicht_gesichert_ = false;
-    zeit_ms start_ = 0;         ///< first one of the race that was started last, 0 for none
-    bool ergebnis_da_ = false;  ///< and it has its result
+    bool tabelle_offen_ = false;  ///< all races are driven, and no table on the disk shows how it stands
+    zeit_ms start_ = 0;           ///< first one of the race that was started last, 0 for none
+    bool ergebnis_da_ = false;    ///< and it has its result
 };
 
 }  // namespace tarvel

@@ -88,6 +88,9 @@ TEST(Wettkampf, ZurueckgestellteKommenNachAllenAnderen) {
     fahren(w, {});
     EXPECT_EQ(w.aktuelles_rennen, 1);
     EXPECT_EQ(w.rennen_gefahren(3), rennstatus::offen) << "all that was put off is open again";
+    EXPECT_TRUE(w.zurueckstellen(3) && w.zurueckstellen(1));
+    EXPECT_EQ(w.aktuelles_rennen, 3) << "the one put off last comes last";
+    w.rennen_waehlen(1);
     fahren(w, {});
     EXPECT_TRUE(w.zurueckstellen(3)) << "the only one left stays where it is";
     EXPECT_EQ(w.uebergabe().rennen, 3);
@@ -163,12 +166,13 @@ TEST(Wettkampf, TeileEinesRennensBekommenNurIhrEigenes) {
     EXPECT_EQ(dran.teil, 2);
     EXPECT_EQ(dran.spur_fahrer[1], 2);
     e.spuren = {spur(1, {500, 8000, 7500, 9000}, 30), spur(2, {500, 6000, 7000, 6500}, 32.25)};
+    e.spuren[0].vor_fortsetzung = 2;  // was under way when the cars changed lanes
     w.ergebnis_eintragen(fahrten_aus(e, w.gebucht(1)));
     EXPECT_TRUE(w.ende_pruefen());
     const auto staende = w.staende();
     EXPECT_EQ(staende[0].auf[1], (fahrt{2, 13000, 2050, 6000}));
     EXPECT_EQ(staende[0].auf[2], (fahrt{1, 6500, 1175, 6500}));
-    EXPECT_EQ(staende[1].auf[1], (fahrt{2, 16500, 2000, 7500}));
+    EXPECT_EQ(staende[1].auf[1], (fahrt{2, 16500, 2000, 9000}));
     EXPECT_TRUE(w.wiederholen(1));
     EXPECT_EQ(w.fortsetzung_nummer(1), 0);
 }

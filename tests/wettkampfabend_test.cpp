@@ -69,11 +69,14 @@ protected:
 };
 
 TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
+    t.p.einst.w_speichern = true;
     beginnen(wettkampf_modus::rotation, 5, {1, 2, 4});
     for (int rennen = 1; rennen <= 5; ++rennen) {
         ASSERT_EQ(abend.stand().aktuelles_rennen, rennen);
         rennen_fahren();
         EXPECT_TRUE(offen(fenstername::bahn1) == false);
+        EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf-Zwischenstand", "", ".wta").size(),
+                  static_cast<std::size_t>(rennen));
     }
     EXPECT_TRUE(abend.stand().ende_pruefen());
     EXPECT_FALSE(abend.rennen_starten());
@@ -295,8 +298,23 @@ TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {
     rennen_fahren();
     EXPECT_TRUE(abend.stand().ende_pruefen() && abend.nicht_gesichert());
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    abend.aendern([&](wettkampf& w) { return w.name_aendern(1, "Anton", t.p.txt) == namensmangel::keiner; });
     abend.beenden();
     EXPECT_EQ(t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk").size(), 1U);
+}
+
+TEST_F(Wettkampfabend, WasNachDemLetztenRennenBerichtigtWirdStehtInDerTabelle) {
+    beginnen(wettkampf_modus::einmal, 2, {1, 2});
+    rennen_fahren();
+    abend.aendern([&](wettkampf& w) { return w.name_aendern(1, "Anton", t.p.txt) == namensmangel::keiner; });
+    abend.beenden();
+    const auto tabellen = t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ".csv");
+    ASSERT_EQ(tabellen.size(), 2U);
+    EXPECT_TRUE(std::any_of(tabellen.begin(), tabellen.end(), [&](const std::string& name) {
+        return *t.p.ablage.zeilen_lesen("Ergebnisse\\Wettkampf\\" + name, 1000) ==
+               tabelle_schreiben(abend.stand(), {}, t.p.einst.trennzeichen);
+    }));
+    EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf));
 }
 
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
