@@ -409,9 +409,9 @@ TEST_F(Wettkampfabend, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
 }
 
 TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
-    using m = wettkampf_modus;
-    for (const m modus : {m::rotation, m::am_stueck, m::jeder_gegen_jeden, m::schema_gruppen_verteilt, m::einmal}) {
-        const bool geteilt = modus == m::am_stueck;
+    for (int art = 1; art <= wettkampf_modus_max; ++art) {
+        const auto modus = static_cast<wettkampf_modus>(art);
+        const bool geteilt = modus == wettkampf_modus::am_stueck;
         std::vector<wettkampf> ende;
         for (const bool neu_laden : {false, true}) {
             beginnen(modus, 3, {2, 5}, geteilt);
@@ -450,7 +450,7 @@ TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
             }
             return runden;
         };
-        EXPECT_EQ(stand(ende[0]), stand(ende[1])) << static_cast<int>(modus);
+        EXPECT_EQ(stand(ende[0]), stand(ende[1])) << art;
         if (!geteilt) {
             EXPECT_EQ(tabelle_schreiben(ende[0], {}, t.p.einst.trennzeichen),
                       tabelle_schreiben(ende[1], {}, t.p.einst.trennzeichen));
