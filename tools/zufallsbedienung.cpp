@@ -112,11 +112,18 @@ private:
     std::mt19937 wuerfel_;
 };
 
+template <class Fenster>
+void ohne_papier(Fenster& fenster) {
+    fenster.drucken = [] {};
+    fenster.als_pdf = [] {};
+}
+
 int bedienen(long anzahl, unsigned saat) {
     constexpr long geduld = 20000;  // actions in which something must open or close
     buehne b;
-    b.p.auswertung.drucken = [] {};
-    b.p.auswertung.als_pdf = [] {};
+    ohne_papier(b.p.auswertung);
+    ohne_papier(b.p.w_auswertung);
+    ohne_papier(b.p.w_auswertung2);
     b.p.form1.beenden = [] {};
     bediener hand(b, saat);
     QString vorher;
