@@ -224,7 +224,7 @@ TEST(Ergebnistabelle, RundenAddierterRennenFolgenEinander) {
 
 TEST(Ergebnistabelle, UeberEineStundeKommtAusDenRundenZurueck) {
     constexpr int runden = 555;
-    const zeit_ms dauer = runden * 8100;
+    constexpr zeit_ms dauer = zeit_ms{runden} * 8100;
     const auto datei = rennzeilen(rennen_mit({"Anna"}, runden, "14:00:00"));
     EXPECT_EQ(einzelrennen_lesen(datei)->ergebnis.spuren.at(0).gesamtzeit, dauer);
     ergebnistabelle t = tabelle_aus(datei);
