@@ -117,11 +117,11 @@ QWidget* Wettkampf2Fenster::nebenfeld() {
         anzeige->setZweizeilig();
         aufbau->addWidget(anzeige, 3);
     };
-    paar(logik_.Label_danach, "Label_danach", logik_.Label_danach_fahrer, "Label_danach_fahrer", 28);
-    paar(logik_.Label_einsetzer, "Label_einsetzer", logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", 22);
-    paar(logik_.Label1, "Label1", logik_.label_best, "label_best", 34);
+    paar(logik_.Label_danach, "Label_danach", logik_.Label_danach_fahrer, "Label_danach_fahrer", 32);
+    paar(logik_.Label_einsetzer, "Label_einsetzer", logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", 28);
+    paar(logik_.Label1, "Label1", logik_.label_best, "label_best", 26);
     aufbau->addWidget(links_buendig(binder().anzeige(logik_.label_fahrer, "label_fahrer", 22)), 2);
-    aufbau->addWidget(links_buendig(binder().anzeige(logik_.Label_dauer, "Label_dauer", 18)), 2);
+    aufbau->addWidget(links_buendig(binder().anzeige(logik_.Label_dauer, "Label_dauer", 26)), 2);
     return feld;
 }
 

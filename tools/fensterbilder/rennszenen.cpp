@@ -1,6 +1,7 @@
 #include "tools/fensterbilder/szenen.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 #include <utility>
 
@@ -222,7 +223,7 @@ const std::vector<szeneneintrag> alle{
     {"einfahren_runden",
      [](buehne& b) -> QWidget& {
          einfahren_zeigen(b, true, 8, {1, 2, 3, 4, 5, 6});
-         for (const int taste : {'1', '2', '4', '4', '6'}) {
+         for (const int taste : std::to_array<unsigned char>({'1', '2', '4', '4', '6'})) {
              b.t.maschine.laufen(6000);
              b.p.einfahren.taste(taste);
          }
