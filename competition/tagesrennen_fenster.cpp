@@ -211,8 +211,9 @@ void tagesrennen_fenster::bisher_zeigen(std::size_t i) {
     const tageszeile* letzte = nullptr;
     std::string beste;
     const std::string leer = zeit_formatieren(0, true, um_.einst.trennzeichen);
+    const std::string name = ohne_trenner(Text_fahrer.at(i).text(), um_.einst.trennzeichen[2]);  // as the file has it
     for (const tageszeile& z : zeilen_) {
-        if (z.name == ohne_trenner(Text_fahrer.at(i).text(), um_.einst.trennzeichen[2])) {
+        if (z.name == name) {
             ++rennen;
             letzte = &z;
             if (z.beste != leer && (beste.empty() || z.beste < beste)) {
