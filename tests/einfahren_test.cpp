@@ -2,6 +2,7 @@
 
 #include "competition/wettkampf2.h"
 #include "competition/wettkampfabend.h"
+#include "tests/plattform/vereinswettkampf.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -32,20 +33,10 @@ protected:
         t.p.param.min_rundenzeit_ms = 5000;
     }
 
-    void beginnen(wettkampf_modus modus, int fahrer, const std::vector<int>& lanes) {
-        planvorgabe vorgabe;
-        vorgabe.modus = modus;
-        for (const int spur : lanes) {
-            vorgabe.aktiv[spur] = true;
-        }
-        std::vector<std::string> namen(static_cast<std::size_t>(fahrer), "Fahrer ");
-        for (std::size_t i = 0; i < namen.size(); ++i) {
-            namen[i] += static_cast<char>('A' + i);
-        }
-        auto neu = wettkampf_beginnen(vorgabe, namen, "Vereinsabend", t.p.txt);
-        ASSERT_TRUE(neu);
-        neu->rennlaenge = t.p.param.renn_laenge;
-        abend.beginnen(std::move(*neu));
+    void beginnen(wettkampf_modus modus, int fahrer, std::initializer_list<int> lanes) {
+        wettkampf neu = test::vereinswettkampf::neu(modus, fahrer, lanes);
+        neu.rennlaenge = t.p.param.renn_laenge;
+        abend.beginnen(std::move(neu));
     }
     void oeffnen() {
         ASSERT_TRUE(abend.rennen_starten());
