@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 #include "core/bestzeiten.h"
 #include "core/nebendateien.h"
@@ -48,17 +49,10 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
                                             zeile("wechsel_schema")},
                      um_.ziel.einst.wechsel_schema);
     schema_->folge_geaendert = [this] { gruppen_->abgleichen(); };
-    aktion_verbinden("bestzeiten_verwalten", bestzeiten_verwalten);
-    aktion_verbinden("uart_einrichten", uart_einrichten);
-    aktion_verbinden("uart_datei_waehlen", uart_datei_waehlen);
 }
 
-void einstellungsfenster::aktion_verbinden(std::string_view name, const std::function<void()>& wohin) {
-    std::get<befehl>(zeile(name).element).bei_klick = [&wohin] {
-        if (wohin) {
-            wohin();
-        }
-    };
+void einstellungsfenster::aktion_verbinden(std::string_view name, std::function<void()> wohin) {
+    std::get<befehl>(zeile(name).element).bei_klick = std::move(wohin);
 }
 
 sprachliste einstellungsfenster::sprache_e() {
@@ -238,8 +232,8 @@ void einstellungsfenster::bestzeiten_zeigen() {
     }
 }
 
-void einstellungsfenster::uart_zeigen() {
-    for (const char* name : {"uart_port", "uart_datei"}) {
+void einstellungsfenster::zeilen_zeigen(std::span<const std::string_view> namen) {
+    for (const std::string_view name : namen) {
         zeile(name).zeigen(um_.ziel);
     }
 }

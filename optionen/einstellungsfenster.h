@@ -3,7 +3,9 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/dateien.h"
@@ -74,12 +76,8 @@ public:
     listenseite fahrerseite;
     listenseite fahrzeugseite;
 
-    /// Opens the window of the best times.
-    std::function<void()> bestzeiten_verwalten;
-    /// Opens the wizard of the AT-2560.
-    std::function<void()> uart_einrichten;
-    /// Chooses the command file of the AT-2560.
-    std::function<void()> uart_datei_waehlen;
+    /// What the button of a row does, by the row's name; it must exist.
+    void aktion_verbinden(std::string_view name, std::function<void()> wohin);
 
     /// Load handler: all texts and all values.
     void laden() override;
@@ -91,8 +89,8 @@ public:
     void oeffnen(seitennummer erste);
     /// Shows what the settings say of the best times now, and the files that are there.
     void bestzeiten_zeigen();
-    /// Shows what the settings say of the AT-2560 now.
-    void uart_zeigen();
+    /// Shows in these rows what the settings say now, after a device's own window has changed them.
+    void zeilen_zeigen(std::span<const std::string_view> namen);
     /// What the page says of the AT-2560's port is in force: its wizard is about to open it.
     void uart_portwerte_uebernehmen();
     /// What the settings say of the AT-2560 now stays when the window is cancelled.
@@ -112,7 +110,6 @@ private:
     void hardware_waehlen(std::size_t nummer);
     void hardware_gruppen_zeigen();
     void hardware_uebernehmen();
-    void aktion_verbinden(std::string_view name, const std::function<void()>& wohin);
     void sounds_verbinden();
     void sounds_auffrischen();
     void werte_zeigen();

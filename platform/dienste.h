@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "platform/abtaster.h"
 #include "platform/bibliothek.h"
 #include "platform/bildschirm.h"
 #include "platform/dateisystem.h"
@@ -30,6 +31,7 @@ struct dienste {
     plattform::serienport_dienst& serienports;
     plattform::bibliothek_dienst& bibliotheken;
     plattform::druckerport& druckerport;
+    plattform::abtaster_dienst& abtaster;
     const plattform::dateisystem& dateisystem;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };

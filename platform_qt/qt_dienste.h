@@ -2,6 +2,7 @@
 
 #include "platform/dienste.h"
 #include "platform_qt/druckerport.h"
+#include "platform_qt/qt_abtaster.h"
 #include "platform_qt/qt_bibliothek.h"
 #include "platform_qt/qt_dateisystem.h"
 #include "platform_qt/qt_klang.h"
@@ -52,6 +53,7 @@ private:
     QtKlang klang_{ordner_};
     QtSerienportDienst serienports_{ordner_};
     QtBibliothekDienst bibliotheken_;
+    QtAbtasterDienst abtaster_{uhr_};
 #ifdef Q_OS_WIN
     Portbibliothek druckerport_{bibliotheken_};
     Tastenstempel tastenstempel_;

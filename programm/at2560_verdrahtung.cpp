@@ -1,5 +1,8 @@
 #include "programm/at2560_verdrahtung.h"
 
+#include <array>
+#include <string_view>
+
 #include "optionen/einstellungsfenster.h"
 #include "programm/einstellungspflege.h"
 #include "programm/messgeraete.h"
@@ -28,11 +31,12 @@ at2560_verdrahtung::at2560_verdrahtung(const geraete_umgebung& um, messgeraete& 
 void at2560_verdrahtung::fenster_verbinden(const geraete_umgebung& um) {
     const auto datei_waehlen = [this, &einst = um.einst] { uart_profildatei.oeffnen(einst.uart.uart_datei); };
     um.form1.befehlsdatei_waehlen = datei_waehlen;
-    um.einstellungsfenster.uart_datei_waehlen = datei_waehlen;
-    um.einstellungsfenster.uart_einrichten = [&optionen = um.einstellungsfenster, &fenster = um.fenster] {
-        optionen.uart_portwerte_uebernehmen();
-        fenster.zeigen(fenstername::UART_einstellungen, anzeige_art::modal);
-    };
+    um.einstellungsfenster.aktion_verbinden("uart_datei_waehlen", datei_waehlen);
+    um.einstellungsfenster.aktion_verbinden("uart_einrichten",
+                                            [&optionen = um.einstellungsfenster, &fenster = um.fenster] {
+                                                optionen.uart_portwerte_uebernehmen();
+                                                fenster.zeigen(fenstername::UART_einstellungen, anzeige_art::modal);
+                                            });
 }
 
 void at2560_verdrahtung::geraet_verbinden() {
@@ -46,7 +50,7 @@ bool at2560_verdrahtung::einstellungen_speichern() {
     if (gut) {
         optionen_.uart_gesichert();
     }
-    optionen_.uart_zeigen();
+    optionen_.zeilen_zeigen(std::to_array<std::string_view>({"uart_port", "uart_datei"}));
     return gut;
 }
 

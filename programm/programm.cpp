@@ -76,7 +76,7 @@ programm::programm(const plattform::dienste& d)
       w_auswertung2(ergebnisse_->w_auswertung2),
       geraete(*geraete_) {
     hauptfenster_verbinden();
-    einstellungsfenster.bestzeiten_verwalten = [this] { beste_zeiten_verwaltung.oeffnen(); };
+    einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
 }
 
 programm::~programm() = default;

@@ -15,7 +15,7 @@ protected:
         t.maschine.anschluesse.da = {1, 3};
     }
     void oeffnen() {
-        t.p.einstellungsfenster.uart_einrichten();
+        std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.maschine.meldungen_gezeigt.clear();
     }
     bool offen() { return t.p.fenster.ist_offen(fenstername::UART_einstellungen); }

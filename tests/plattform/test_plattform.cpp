@@ -73,8 +73,8 @@ test_plattform::~test_plattform() {
 }
 
 plattform::dienste test_plattform::dienste() {
-    return {*this, *this,       *this,        *this,       kalender_, *this,  *this,
-            *this, anschluesse, bibliotheken, druckerport, *this,     ordner_};
+    return {*this, *this,       *this,        *this,       kalender_, *this, *this,
+            *this, anschluesse, bibliotheken, druckerport, *this,     *this, ordner_};
 }
 
 void test_plattform::laufen(zeit_ms dauer) {
@@ -97,6 +97,23 @@ void test_plattform::laufen(zeit_ms dauer) {
 
 std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) {
     return std::make_unique<virtueller_zeitgeber>(*this, art, intervall);
+}
+
+namespace {
+
+/// Looks as the clock moves: between two looks nothing else happens.
+struct virtueller_abtaster final : schnittstelle {
+    explicit virtueller_abtaster(std::unique_ptr<plattform::zeitgeber> wecker) : takt(std::move(wecker)) { takt->an(); }
+
+    std::unique_ptr<plattform::zeitgeber> takt;
+};
+
+}  // namespace
+
+std::unique_ptr<schnittstelle> test_plattform::starten(dauer_ms abstand, std::function<void(zeit_ms)> blick) {
+    auto takt = erzeugen(plattform::zeitgeber_art::abfragend, abstand);
+    takt->bei_tick = [this, blick = std::move(blick)] { blick(jetzt_); };
+    return std::make_unique<virtueller_abtaster>(std::move(takt));
 }
 
 void test_plattform::zeigen(std::string_view text, std::string_view titel) {

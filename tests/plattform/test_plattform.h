@@ -19,6 +19,7 @@ class virtueller_zeitgeber;
 /// record, and a program folder of its own below `unter` that goes with it.
 class test_plattform final : private plattform::uhr,
                              private plattform::zeitgeber_dienst,
+                             private plattform::abtaster_dienst,
                              private plattform::meldungen,
                              private plattform::klang,
                              private plattform::bildschirm,
@@ -74,6 +75,7 @@ private:
     friend class virtueller_zeitgeber;
 
     std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
+    std::unique_ptr<schnittstelle> starten(dauer_ms abstand, std::function<void(zeit_ms)> blick) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;

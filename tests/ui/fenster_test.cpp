@@ -36,7 +36,7 @@ protected:
         t.p.einstellungsfenster.fahrerseite.Liste_speichern.klicken();
         t.p.einstellungsfenster.fahrerseite.namen.auswaehlen(0);
         t.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
-        t.p.einstellungsfenster.uart_einrichten();
+        std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
         const std::vector<ui::Fenster*> alle = alle_fenster();
         ASSERT_EQ(alle.size(), 26U);

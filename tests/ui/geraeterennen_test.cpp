@@ -77,8 +77,8 @@ struct Geraeterennen : testing::Test {
     static plattform::dienste dienste(qt::QtDienste& echt, test::test_plattform& test) {
         const plattform::dienste e = echt.dienste();
         const plattform::dienste t = test.dienste();
-        return {e.uhr,    e.zeitgeber,   t.meldungen,    t.klang,       t.kalender,    t.bildschirm, t.prozess,
-                t.zufall, e.serienports, t.bibliotheken, t.druckerport, t.dateisystem, test.ordner()};
+        return {e.uhr,    e.zeitgeber,   t.meldungen,    t.klang,       t.kalender, t.bildschirm,  t.prozess,
+                t.zufall, e.serienports, t.bibliotheken, t.druckerport, t.abtaster, t.dateisystem, test.ordner()};
     }
     void SetUp() override {
         p.starten();

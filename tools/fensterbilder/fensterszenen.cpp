@@ -16,7 +16,7 @@ template <int seite>
 QWidget& uart_assistent(buehne& b) {
     b.t.maschine.anschluesse.da = {1, 3};
     optionsseite_zeigen<7>(b);
-    b.p.einstellungsfenster.uart_einrichten();
+    std::get<befehl>(b.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
     uart_einstellungen& w = b.p.geraete.von<at2560_verdrahtung>().uart_einstellungen;
     const auto sagt = [&](const char* bytes) { b.t.maschine.anschluesse.senden(3, bytes); };
     b.t.maschine.waehrend_meldung = [&b, nummer = 0]() mutable {
@@ -162,7 +162,7 @@ const std::vector<szeneneintrag> alle{
          for (const char* name : {"tvk_at2560.uart", "klubbahn.uart"}) {
              at_profil_speichern(b.p.ablage, name, {});
          }
-         b.p.einstellungsfenster.uart_datei_waehlen();
+         std::get<befehl>(b.p.einstellungsfenster.zeile("uart_datei_waehlen").element).klicken();
          return b.o.uart_profildatei;
      },
      true},

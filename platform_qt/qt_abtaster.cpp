@@ -1,0 +1,79 @@
+#include "platform_qt/qt_abtaster.h"
+
+#include <QThread>
+#include <atomic>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+// after it
+#include <timeapi.h>
+#endif
+#ifdef Q_OS_LINUX
+#include <pthread.h>
+#include <sched.h>
+#include <sys/prctl.h>
+#endif
+
+namespace tarvel::qt {
+namespace {
+
+/// As long as it lives, the system wakes sleepers to the millisecond.
+class FeinesWecken {
+public:
+    FeinesWecken() {
+#ifdef Q_OS_WIN
+        timeBeginPeriod(1);
+#endif
+#ifdef Q_OS_LINUX
+        prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
+        sched_param vorrang{};
+        vorrang.sched_priority = sched_get_priority_min(SCHED_RR);
+        pthread_setschedparam(pthread_self(), SCHED_RR, &vorrang);  // granted to few: without it, it goes on as it is
+#endif
+    }
+    FeinesWecken(const FeinesWecken&) = delete;
+    FeinesWecken& operator=(const FeinesWecken&) = delete;
+    ~FeinesWecken() {
+#ifdef Q_OS_WIN
+        timeEndPeriod(1);
+#endif
+    }
+};
+
+class QtAbtaster final : public schnittstelle {
+public:
+    QtAbtaster(const plattform::uhr& uhr, dauer_ms abstand, std::function<void(zeit_ms)> blick)
+        : faden_(QThread::create([this, &uhr, abstand, blick = std::move(blick)] { laufen(uhr, abstand, blick); })) {
+        faden_->start(QThread::TimeCriticalPriority);
+    }
+    ~QtAbtaster() override {
+        beendet_ = true;
+        faden_->wait();
+    }
+
+private:
+    void laufen(const plattform::uhr& uhr, dauer_ms abstand, const std::function<void(zeit_ms)>& blick) const {
+        using stoppuhr = std::chrono::steady_clock;
+        const FeinesWecken wecken;
+        stoppuhr::time_point naechster = stoppuhr::now();
+        while (!beendet_) {
+            blick(uhr.jetzt());
+            naechster = std::max(naechster + abstand, stoppuhr::now());  // missed samples are gone
+            std::this_thread::sleep_until(naechster);
+        }
+    }
+
+    std::atomic<bool> beendet_ = false;
+    std::unique_ptr<QThread> faden_;
+};
+
+}  // namespace
+
+std::unique_ptr<schnittstelle> QtAbtasterDienst::starten(dauer_ms abstand, std::function<void(zeit_ms)> blick) {
+    return std::make_unique<QtAbtaster>(uhr_, abstand, std::move(blick));
+}
+
+}  // namespace tarvel::qt
