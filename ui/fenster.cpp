@@ -96,7 +96,20 @@ void Fenster::aufschlagen() {
     activateWindow();
 }
 
+void Fensterverwaltung::bereitstellen(fenstername name) {
+    if (const auto knoten = noch_zu_machen_.extract(name)) {
+        knoten.mapped()();
+    }
+}
+
+void Fensterverwaltung::alle_machen() {
+    while (!noch_zu_machen_.empty()) {
+        bereitstellen(noch_zu_machen_.begin()->first);
+    }
+}
+
 void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
+    bereitstellen(name);
     const auto gefunden = fenster_.find(name);
     if (gefunden == fenster_.end()) {
         return;

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <utility>
 
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
@@ -59,6 +60,10 @@ public:
     Bildtakt& takt() { return takt_; }
     Bildleser& bilder() { return bilder_; }
     void aufnehmen(Fenster& fenster) { fenster_[fenster.kennung()] = &fenster; }
+    /// A window that is still to be made, and takes itself in then.
+    void vormerken(fenstername name, std::function<void()> machen) { noch_zu_machen_[name] = std::move(machen); }
+    /// Makes all that are still to be made.
+    void alle_machen();
 
     void zeigen(fenstername name, anzeige_art art) override;
     void verbergen(fenstername name) override;
@@ -67,11 +72,14 @@ public:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
+    void bereitstellen(fenstername name);
+
     Bildtakt& takt_;
     Bildleser bilder_;
     QElapsedTimer seit_druck_;  ///< of a mouse button
     QPointer<QWidget> druck_fenster_;
     std::map<fenstername, Fenster*> fenster_;
+    std::map<fenstername, std::function<void()>> noch_zu_machen_;
 };
 
 }  // namespace tarvel::ui

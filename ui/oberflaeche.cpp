@@ -19,7 +19,6 @@ Oberflaeche::Oberflaeche(programm& p) : p_(p) {
             }
         }
     };
-    tagesrennen.bei_aktivierung = [&p] { p.tagesrennen_fenster.datei_pruefen(); };  // after a look at the file
 }
 
 Oberflaeche::~Oberflaeche() {

@@ -18,6 +18,7 @@
 #include "ui/form2_fenster.h"
 #include "ui/k_ampel_fenster.h"
 #include "ui/rangliste_fenster.h"
+#include "ui/spaetes_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
 #include "ui/tagesrennen_fenster.h"
@@ -46,7 +47,7 @@ private:
 public:
     Bildtakt takt;
     Fensterverwaltung fenster{takt};
-    // A line for each window: here its drawing meets its logic.
+    // A line for each window: here its drawing meets its logic. Those of a race are there before they are needed.
     UpdateFenster update_form{p_.update_form, fenster};
     Form1Fenster form1{p_.form1, p_.ablage, fenster};
     Form3Fenster form3{p_.form3, p_.ablage, fenster, &form1};
@@ -55,25 +56,26 @@ public:
     KAmpelFenster k_ampel{p_.k_ampel, p_.einst, p_.ablage, fenster, &bahn1};
     EinfahrenFenster einfahren{p_.einfahren, fenster, &bahn1};
     AuswertungFenster auswertung{p_.auswertung, p_.ablage, fenster, &bahn1};
-    SpeichernFenster rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
-    BestzeitenFenster bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
-    TastaturFenster tastatur{p_.tastaturbelegung, fenster, &form1};
-    CuFenster cu{p_.geraete.von<control_unit_verdrahtung>().cu_eigenschaften, fenster, &form1};
-    SpeichernFenster speichern{p_.speichernfenster, fenster, &form1};
-    EinstellungenFenster einstellungen{p_.einstellungsfenster, p_.ablage, fenster, &form1};
-    BestzeitverwaltungFenster bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
-    UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
-                                                &einstellungen};
-    UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
-    Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
-    RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
-    WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
-    WAuswertung2Fenster w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
-    WAuswDebugFenster w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};
-    Wettkampf1Fenster wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
-    TagesrennenFenster tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
-    BildwahlFenster bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
-    SpeichernFenster fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
+    SpaetesFenster<SpeichernFenster> rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
+    SpaetesFenster<BestzeitenFenster> bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
+    SpaetesFenster<TastaturFenster> tastatur{p_.tastaturbelegung, fenster, &form1};
+    SpaetesFenster<CuFenster> cu{p_.geraete.von<control_unit_verdrahtung>().cu_eigenschaften, fenster, &form1};
+    SpaetesFenster<SpeichernFenster> speichern{p_.speichernfenster, fenster, &form1};
+    SpaetesFenster<EinstellungenFenster> einstellungen{p_.einstellungsfenster, p_.ablage, fenster, &form1};
+    SpaetesFenster<BestzeitverwaltungFenster> bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
+    SpaetesFenster<UartEinstellungenFenster> uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen,
+                                                                fenster, &einstellungen};
+    SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
+                                                            fenster, &form1};
+    SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
+    SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
+    SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
+    SpaetesFenster<WAuswertung2Fenster> w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
+    SpaetesFenster<WAuswDebugFenster> w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};
+    SpaetesFenster<Wettkampf1Fenster> wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
+    SpaetesFenster<TagesrennenFenster> tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
+    SpaetesFenster<BildwahlFenster> bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
+    SpaetesFenster<SpeichernFenster> fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel, &einfahren}};
 };
 

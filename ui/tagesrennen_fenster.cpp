@@ -21,6 +21,7 @@ constexpr double listenanteil = 0.49;  // of the window's width
 
 TagesrennenFenster::TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
     : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    bei_aktivierung = [&logik] { logik.datei_pruefen(); };  // after a look at the file
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);

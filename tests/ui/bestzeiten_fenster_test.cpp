@@ -15,11 +15,11 @@ protected:
         }
         t.p.beste_zeiten_fenster.oeffnen(angebote, [this] { ++danach; });
         o.takt.ausfuehren();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&o.bestzeiten));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&*o.bestzeiten));
     }
     bool gruen(const char* name) {
         o.takt.ausfuehren();
-        return !finde<QLabel>(o.bestzeiten, name)->text().isEmpty();
+        return !finde<QLabel>(*o.bestzeiten, name)->text().isEmpty();
     }
 
     int danach = 0;
@@ -27,18 +27,18 @@ protected:
 
 TEST_F(BestzeitenFenster, ZeigtBeimTippenWasGespeichertWird) {
     oeffnen(2);
-    EXPECT_FALSE(finde<QWidget>(o.bestzeiten, "beste_zeiten_fenster.Frame_2")->isVisible());
-    auto* zeit = finde<QComboBox>(o.bestzeiten, "beste_zeiten_fenster.beste_combo_0");
+    EXPECT_FALSE(finde<QWidget>(*o.bestzeiten, "beste_zeiten_fenster.Frame_2")->isVisible());
+    auto* zeit = finde<QComboBox>(*o.bestzeiten, "beste_zeiten_fenster.beste_combo_0");
     EXPECT_TRUE(gruen("beste_zeiten_fenster.Shape1_0"));
     zeit->lineEdit()->selectAll();
     QTest::keyClicks(zeit->lineEdit(), "00:07,12");
     EXPECT_FALSE(gruen("beste_zeiten_fenster.Shape1_0"));
     QTest::keyClicks(zeit->lineEdit(), "3");
     EXPECT_TRUE(gruen("beste_zeiten_fenster.Shape1_0"));
-    klick(o.bestzeiten, "beste_zeiten_fenster.spur_chk_1");
+    klick(*o.bestzeiten, "beste_zeiten_fenster.spur_chk_1");
     EXPECT_FALSE(gruen("beste_zeiten_fenster.Shape1_1"));
-    klick(o.bestzeiten, "beste_zeiten_fenster.Command1");
-    EXPECT_FALSE(o.bestzeiten.isVisible());
+    klick(*o.bestzeiten, "beste_zeiten_fenster.Command1");
+    EXPECT_FALSE(o.bestzeiten->isVisible());
     EXPECT_EQ(t.p.bestzeiten.beste(1), 7123);
     EXPECT_EQ(t.p.bestzeiten.beste(2), keine_bestzeit);
     EXPECT_EQ(danach, 1);
@@ -46,11 +46,11 @@ TEST_F(BestzeitenFenster, ZeigtBeimTippenWasGespeichertWird) {
 
 TEST_F(BestzeitenFenster, SchliesstAufJedemWeg) {
     oeffnen(6);
-    o.bestzeiten.close();
+    o.bestzeiten->close();
     EXPECT_EQ(danach, 1);
     oeffnen(1);
-    QTest::keyClick(finde<QWidget>(o.bestzeiten, "beste_zeiten_fenster.btext_name_0"), Qt::Key_Escape);
-    EXPECT_FALSE(o.bestzeiten.isVisible());
+    QTest::keyClick(finde<QWidget>(*o.bestzeiten, "beste_zeiten_fenster.btext_name_0"), Qt::Key_Escape);
+    EXPECT_FALSE(o.bestzeiten->isVisible());
     EXPECT_EQ(danach, 2);
 }
 
@@ -60,11 +60,11 @@ TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
     }
     t.p.einstellungsfenster.oeffnen(einstellungsfenster::seite_bestzeiten);
     o.takt.ausfuehren();
-    klick(o.einstellungen, "einstellungen.bestzeiten_verwalten");
+    klick(*o.einstellungen, "einstellungen.bestzeiten_verwalten");
     o.takt.ausfuehren();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&o.bestzeitverwaltung));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&*o.bestzeitverwaltung));
     const auto liste = [this](int index) {
-        return finde<QListView>(o.bestzeitverwaltung,
+        return finde<QListView>(*o.bestzeitverwaltung,
                                 ("beste_zeiten_verwaltung.bestefile_list_" + std::to_string(index)).c_str());
     };
     const auto druecken = [&](int index) {
@@ -79,11 +79,11 @@ TEST_F(BestzeitenFenster, VerwaltungWaehltEineZeileAllerListen) {
     for (const int index : {0, 4, 0}) {
         druecken(index);
     }
-    tippen(o.bestzeitverwaltung, "beste_zeiten_verwaltung.Text1", "00:07,000");
-    QTest::keyClick(finde<QLineEdit>(o.bestzeitverwaltung, "beste_zeiten_verwaltung.Text1"), Qt::Key_Return);
-    QTest::keyClick(&o.bestzeitverwaltung, Qt::Key_Escape);
-    EXPECT_FALSE(o.bestzeitverwaltung.isVisible());
-    EXPECT_TRUE(o.einstellungen.isVisible());
+    tippen(*o.bestzeitverwaltung, "beste_zeiten_verwaltung.Text1", "00:07,000");
+    QTest::keyClick(finde<QLineEdit>(*o.bestzeitverwaltung, "beste_zeiten_verwaltung.Text1"), Qt::Key_Return);
+    QTest::keyClick(&*o.bestzeitverwaltung, Qt::Key_Escape);
+    EXPECT_FALSE(o.bestzeitverwaltung->isVisible());
+    EXPECT_TRUE(o.einstellungen->isVisible());
     EXPECT_EQ(t.p.bestzeiten.beste(1), 7000);
     o.takt.ausfuehren();
     EXPECT_TRUE(finde<QLabel>(o.form1, "Form1.Label_fahrzeug_0")->toolTip().contains("&lt;b&gt;")) << "no markup";

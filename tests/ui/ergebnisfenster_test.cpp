@@ -34,7 +34,7 @@ protected:
         return blatt.readAll().count("/Type /Page\n");
     }
 
-    ui::WAuswertung2Fenster& fenster = o.w_auswertung2;
+    ui::WAuswertung2Fenster& fenster = *o.w_auswertung2;
 };
 
 TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {

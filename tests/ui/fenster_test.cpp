@@ -13,7 +13,8 @@ namespace {
 
 class Oberflaeche : public test::OberflaecheProbe {
 protected:
-    static std::vector<ui::Fenster*> alle_fenster() {
+    std::vector<ui::Fenster*> alle_fenster() {
+        o.fenster.alle_machen();
         std::vector<ui::Fenster*> alle;
         for (QWidget* fenster : QApplication::topLevelWidgets()) {
             if (auto* eines = dynamic_cast<ui::Fenster*>(fenster)) {
@@ -116,8 +117,8 @@ TEST_F(Oberflaeche, ZweispurigesZeitrennenMitMausUndTasten) {
     EXPECT_LT(finde<QWidget>(o.auswertung, "auswertung.Frame_1")->y(),
               finde<QWidget>(o.auswertung, "auswertung.Frame_0")->y());
     klick(o.auswertung, "auswertung.Command5");
-    ASSERT_TRUE(o.bestzeiten.isVisible()) << "the first laps on this track are its best";
-    klick(o.bestzeiten, "beste_zeiten_fenster.Command1");
+    ASSERT_TRUE(o.bestzeiten->isVisible()) << "the first laps on this track are its best";
+    klick(*o.bestzeiten, "beste_zeiten_fenster.Command1");
     EXPECT_FALSE(o.auswertung.isVisible());
     EXPECT_FALSE(o.bahn1.isVisible());
     EXPECT_TRUE(o.form1.isVisible());
@@ -281,7 +282,7 @@ TEST_F(Oberflaeche, SchliessenJedesFenstersInJedemZustand) {
     o.auswertung.close();
     EXPECT_FALSE(o.bahn1.isVisible());
     t.p.form1.command_tasten.klicken();
-    o.tastatur.close();
+    o.tastatur->close();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Tastaturbelegung));
     t.p.fenster.zeigen(fenstername::Form3);
     o.form3.close();
@@ -327,14 +328,14 @@ TEST_F(Oberflaeche, NamenBleibenWieGetippt) {
 
 TEST_F(Oberflaeche, TastenfeldErsetztSeinZeichenUndDasFensterKommtGrossWieder) {
     klick(o.form1, "Form1.command_tasten");
-    auto* zeile = finde<QLineEdit>(o.tastatur, "Tastaturbelegung.taste_16");
+    auto* zeile = finde<QLineEdit>(*o.tastatur, "Tastaturbelegung.taste_16");
     QTest::mouseClick(zeile, Qt::LeftButton);
     QTest::keyClicks(zeile, "k");
     EXPECT_EQ(t.p.tastaturbelegung.taste[16].text(), "k");
-    o.tastatur.showMinimized();
-    o.tastatur.close();
+    o.tastatur->showMinimized();
+    o.tastatur->close();
     t.p.form1.command_tasten.klicken();
-    EXPECT_FALSE(o.tastatur.isMinimized());
+    EXPECT_FALSE(o.tastatur->isMinimized());
 }
 
 TEST_F(Oberflaeche, TabFolgtInJedemFensterDemAuge) {
@@ -342,7 +343,7 @@ TEST_F(Oberflaeche, TabFolgtInJedemFensterDemAuge) {
     t.runde_nach(1000, "12");
     t.runde_nach(6000, "2");
     for (ui::Fenster* fenster : alle_fenster()) {
-        if (fenster == &o.einstellungen) {
+        if (fenster == &*o.einstellungen) {
             continue;  // one page after the other, below
         }
         fenster->show();
@@ -354,10 +355,10 @@ TEST_F(Oberflaeche, TabFolgtInJedemFensterDemAuge) {
     constexpr QSize ohne_rollen(1280, 2600);
     for (int seite = 0; seite < einstellungsfenster::seiten_anzahl; ++seite) {
         t.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(seite));
-        o.einstellungen.resize(ohne_rollen);
+        o.einstellungen->resize(ohne_rollen);
         o.takt.ausfuehren();
         QTest::qWait(20);
-        folgt_dem_auge(o.einstellungen);
+        folgt_dem_auge(*o.einstellungen);
     }
 }
 
@@ -422,7 +423,7 @@ TEST_F(Oberflaeche, FensterPassenAufDenKleinenBildschirm) {
     for (int seite = 0; seite < einstellungsfenster::seiten_anzahl; ++seite) {
         t.p.einstellungsfenster.seitenliste.auswaehlen(seite);
         o.takt.ausfuehren();
-        passt(o.einstellungen);
+        passt(*o.einstellungen);
     }
 }
 

@@ -17,21 +17,21 @@ protected:
         QTest::qWait(QApplication::doubleClickInterval() + 1);  // the click that closed the window was another one
         klick(o.form1, "Form1.Command4");
         o.takt.ausfuehren();
-        ASSERT_TRUE(o.einstellungen.isVisible());
+        ASSERT_TRUE(o.einstellungen->isVisible());
     }
     void seite(int nummer) {
         seitenliste()->setCurrentIndex(seitenliste()->model()->index(nummer, 0));
         o.takt.ausfuehren();
         QCoreApplication::processEvents();
     }
-    bool gesetzt(const char* name) { return finde<QAbstractButton>(o.einstellungen, name)->isChecked(); }
-    QListView* seitenliste() { return finde<QListView>(o.einstellungen, "einstellungen.seitenliste"); }
-    QComboBox* ampel() { return finde<QComboBox>(o.einstellungen, "einstellungen.start_ampel_combo"); }
+    bool gesetzt(const char* name) { return finde<QAbstractButton>(*o.einstellungen, name)->isChecked(); }
+    QListView* seitenliste() { return finde<QListView>(*o.einstellungen, "einstellungen.seitenliste"); }
+    QComboBox* ampel() { return finde<QComboBox>(*o.einstellungen, "einstellungen.start_ampel_combo"); }
 };
 
 TEST_F(OptionenFenster, TastaturFuehrtDurchAlleSeitenUndNichtsIstAbgeschnitten) {
     oeffnen();
-    o.einstellungen.resize(1010, 700);
+    o.einstellungen->resize(1010, 700);
     QListView* seiten = seitenliste();
     ASSERT_EQ(seiten->model()->rowCount(), static_cast<int>(f::seiten_anzahl));
     for (int nummer = 0; nummer < f::seiten_anzahl; ++nummer) {
@@ -39,7 +39,7 @@ TEST_F(OptionenFenster, TastaturFuehrtDurchAlleSeitenUndNichtsIstAbgeschnitten) 
         QCoreApplication::processEvents();
         const QString titel = seiten->currentIndex().data().toString();
         int gezeigt = 0;
-        for (QScrollArea* flaeche : o.einstellungen.findChildren<QScrollArea*>()) {
+        for (QScrollArea* flaeche : o.einstellungen->findChildren<QScrollArea*>()) {
             if (flaeche->isVisible()) {
                 ++gezeigt;
                 EXPECT_LE(flaeche->widget()->width(), flaeche->viewport()->width()) << titel.toStdString();
@@ -52,27 +52,27 @@ TEST_F(OptionenFenster, TastaturFuehrtDurchAlleSeitenUndNichtsIstAbgeschnitten) 
 
 TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
     oeffnen();
-    klick(o.einstellungen, "einstellungen.formelcheck");
+    klick(*o.einstellungen, "einstellungen.formelcheck");
     QTest::keyClick(ampel(), Qt::Key_Down);
     seite(f::seite_tanken);
-    tippen(o.einstellungen, "einstellungen.t_inhalt_w", "88");
+    tippen(*o.einstellungen, "einstellungen.t_inhalt_w", "88");
     seite(f::seite_hardware);
-    klick(o.einstellungen, "einstellungen.hardware6");
-    klick(o.einstellungen, "einstellungen.hardware6");
+    klick(*o.einstellungen, "einstellungen.hardware6");
+    klick(*o.einstellungen, "einstellungen.hardware6");
     o.takt.ausfuehren();
-    EXPECT_TRUE(finde<QWidget>(o.einstellungen, "einstellungen.cu_comport")->isVisible());
-    EXPECT_FALSE(finde<QWidget>(o.einstellungen, "einstellungen.uart_baud")->isVisible());
+    EXPECT_TRUE(finde<QWidget>(*o.einstellungen, "einstellungen.cu_comport")->isVisible());
+    EXPECT_FALSE(finde<QWidget>(*o.einstellungen, "einstellungen.uart_baud")->isVisible());
     seite(f::seite_farben);
-    klick(o.einstellungen, "einstellungen.farben_spur_2");
-    auto* dialog = o.einstellungen.findChild<QColorDialog*>();
+    klick(*o.einstellungen, "einstellungen.farben_spur_2");
+    auto* dialog = o.einstellungen->findChild<QColorDialog*>();
     ASSERT_NE(dialog, nullptr);
     dialog->setCurrentColor(QColor(1, 2, 3));
     dialog->accept();
     seite(f::seite_fahrer);
-    tippen(o.einstellungen, "einstellungen.fahrer_name", "Kaethe");
-    QTest::keyClick(finde<QLineEdit>(o.einstellungen, "einstellungen.fahrer_name"), Qt::Key_Return);
-    klick(o.einstellungen, "einstellungen.Command1");
-    EXPECT_FALSE(o.einstellungen.isVisible());
+    tippen(*o.einstellungen, "einstellungen.fahrer_name", "Kaethe");
+    QTest::keyClick(finde<QLineEdit>(*o.einstellungen, "einstellungen.fahrer_name"), Qt::Key_Return);
+    klick(*o.einstellungen, "einstellungen.Command1");
+    EXPECT_FALSE(o.einstellungen->isVisible());
 
     EXPECT_TRUE(t.p.einst.runde_beenden);
     EXPECT_EQ(t.p.einst.start_ampel_modus, ampelwahl::fuenf_rot);
@@ -89,14 +89,14 @@ TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
 
 TEST_F(OptionenFenster, EscapeSchliesstErstDieOffeneAuswahlUndVerwirftDann) {
     oeffnen();
-    klick(o.einstellungen, "einstellungen.formelcheck");
+    klick(*o.einstellungen, "einstellungen.formelcheck");
     ampel()->showPopup();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_TRUE(o.einstellungen.isVisible());
+    EXPECT_TRUE(o.einstellungen->isVisible());
     QTest::keyClick(seitenliste(), Qt::Key_Escape);
-    EXPECT_FALSE(o.einstellungen.isVisible());
+    EXPECT_FALSE(o.einstellungen->isVisible());
     EXPECT_FALSE(t.p.einst.runde_beenden);
     oeffnen();
     EXPECT_FALSE(gesetzt("einstellungen.formelcheck"));
@@ -120,10 +120,10 @@ TEST_F(OptionenFenster, DoppelklickBetrittEinenOrdner) {
     std::filesystem::create_directories(t.maschine.ordner() / "pictures/a/b/c");
     oeffnen();
     seite(f::seite_fahrer);
-    klick(o.einstellungen, "einstellungen.Command40");
+    klick(*o.einstellungen, "einstellungen.Command40");
     o.takt.ausfuehren();
-    auto* ordner = finde<QListView>(o.bildwahl, "fahrerbild_laden.ordner");
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&o.bildwahl));
+    auto* ordner = finde<QListView>(*o.bildwahl, "fahrerbild_laden.ordner");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&*o.bildwahl));
     const auto pfad_nach = [&](int zeile) {
         const QPoint ort = ordner->visualRect(ordner->model()->index(zeile, 0)).center();
         QTest::mouseClick(ordner->viewport(), Qt::LeftButton, {}, ort);

@@ -15,7 +15,7 @@ protected:
         OberflaecheProbe::SetUp();
         klick(o.form1, "Form1.Command3");
         o.takt.ausfuehren();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&o.wettkampf1));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.wettkampf1));
     }
     namen startliste() {
         QCoreApplication::processEvents();
@@ -25,7 +25,7 @@ protected:
 };
 
 TEST_F(Wettkampf1Fenster, StartlisteMitDerTastatur) {
-    auto* feld = finde<QComboBox>(o.wettkampf1, "wettkampf1.auswahl");
+    auto* feld = finde<QComboBox>(*o.wettkampf1, "wettkampf1.auswahl");
     ASSERT_TRUE(feld->hasFocus() || feld->lineEdit()->hasFocus()) << "names can be typed at once";
     QTest::keyClicks(feld->lineEdit(), "Kim");
     QTest::keyClick(feld->lineEdit(), Qt::Key_Return);
@@ -40,8 +40,8 @@ TEST_F(Wettkampf1Fenster, StartlisteMitDerTastatur) {
     QTest::keyClicks(feld->lineEdit(), "Fahrer");  // as many begin, and stays as it is typed
     QTest::keyClick(feld->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(startliste().back(), "3   Fahrer");
-    QTest::keyClick(&o.wettkampf1, Qt::Key_Escape);
-    EXPECT_FALSE(o.wettkampf1.isVisible());
+    QTest::keyClick(&*o.wettkampf1, Qt::Key_Escape);
+    EXPECT_FALSE(o.wettkampf1->isVisible());
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ protected:
 
     wettkampfabend& abend = t.p.wettkampfabend;
     w_auswertung& stand = t.p.w_auswertung;
-    ui::WAuswertungFenster& fenster = o.w_auswertung;
+    ui::WAuswertungFenster& fenster = *o.w_auswertung;
 };
 
 TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
@@ -72,12 +72,12 @@ TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
 TEST_F(Wettkampffenster, GesichertWirdVorDemFensterDasManSieht) {
     abend.beginnen(test::vereinswettkampf::neu(m::gruppen, 6, {1, 3}));
     t.p.fenster.zeigen(fenstername::wettkampf2);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.wettkampf2));
-    klick(o.wettkampf2, "wettkampf2.Command1");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.rundenspeichern));
-    EXPECT_EQ(o.rundenspeichern.windowHandle()->transientParent(), o.wettkampf2.windowHandle());
-    klick(o.rundenspeichern, "rundenspeichern.Command2");
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&o.wettkampf2)) << "its keys work again";
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.wettkampf2));
+    klick(*o.wettkampf2, "wettkampf2.Command1");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.rundenspeichern));
+    EXPECT_EQ(o.rundenspeichern->windowHandle()->transientParent(), o.wettkampf2->windowHandle());
+    klick(*o.rundenspeichern, "rundenspeichern.Command2");
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&*o.wettkampf2)) << "its keys work again";
 }
 
 TEST_F(Wettkampffenster, BlattVerliertKeineZeile) {

@@ -23,19 +23,19 @@ wettkampf gefahren(wettkampf_modus modus, int fahrer, std::initializer_list<int>
 QWidget& auswertung_zeigen(buehne& b, wettkampf w) {
     b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::w_auswertung);
-    return b.o.w_auswertung;
+    return *b.o.w_auswertung;
 }
 
 QWidget& wettkampf2_zeigen(buehne& b, wettkampf w) {
     b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::wettkampf2);
-    return b.o.wettkampf2;
+    return *b.o.wettkampf2;
 }
 
 QWidget& rangliste_zeigen(buehne& b, wettkampf w) {
     b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::rangliste);
-    return b.o.rangliste;
+    return *b.o.rangliste;
 }
 
 /// A page as it is printed.
@@ -71,7 +71,7 @@ QWidget& tagesrennen_zeigen(buehne& b) {
         b.p.form1.fahrer.at(i++).eingeben(name);
     }
     b.p.form1.command17.klicken();
-    return b.o.tagesrennen;
+    return *b.o.tagesrennen;
 }
 
 using m = wettkampf_modus;
@@ -100,7 +100,7 @@ const std::vector<szeneneintrag> alle{
     {"w_auswertung_ohne",
      [](buehne& b) -> QWidget& {
          b.p.fenster.zeigen(fenstername::w_auswertung);
-         return b.o.w_auswertung;
+         return *b.o.w_auswertung;
      }},
     {"wettkampfblatt_eins",
      [](buehne& b) -> QWidget& {

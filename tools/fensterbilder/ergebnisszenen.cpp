@@ -87,67 +87,67 @@ const std::vector<szeneneintrag> alle{
     {"betrachter_leer",
      [](buehne& b) -> QWidget& {
          b.p.fenster.zeigen(fenstername::w_auswertung2);
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_rennen",
      [](buehne& b) -> QWidget& {
          rennen_zeigen(b, 1).Command10.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_drei_rennen",
      [](buehne& b) -> QWidget& {
          w_auswertung2& w = rennen_zeigen(b, 3);
          w.Command22.klicken();
          w.Command3.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_tagesrennen",
      [](buehne& b) -> QWidget& {
          tagesrennen_zeigen(b).Command3.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_korrektur",
      [](buehne& b) -> QWidget& {
          w_auswertung2& w = tagesrennen_zeigen(b);
          w.auswertung_schoen.auswaehlen(2);
          w.Command18.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_wettkampf",
      [](buehne& b) -> QWidget& {
          w_auswertung2& w = wettkampf_zeigen(b, m::rotation, 12, {1, 2, 3, 4});
          w.Command10.klicken();
          w.Command11.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_wettkampf_korrektur",
      [](buehne& b) -> QWidget& {
          w_auswertung2& w = wettkampf_zeigen(b, m::rotation, 12, {1, 2, 3, 4});
          w.auswertung_schoen.auswaehlen(1);
          w.Command18.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_jeder",
      [](buehne& b) -> QWidget& {
          w_auswertung2& w = wettkampf_zeigen(b, m::jeder_gegen_jeden, 8, {2, 5});
          w.Command10.klicken();
          w.Command16.klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_blatt",
      [](buehne& b) -> QWidget& {
          rennen_zeigen(b, 2).Command_blick[1].klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_verlauf",
      [](buehne& b) -> QWidget& {
          rennen_zeigen(b, 2).Command_blick[2].klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
     {"betrachter_vergleich",
      [](buehne& b) -> QWidget& {
          rennen_zeigen(b, 3).Command_blick[3].klicken();
-         return b.o.w_auswertung2;
+         return *b.o.w_auswertung2;
      }},
 };
 

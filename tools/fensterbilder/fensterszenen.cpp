@@ -8,7 +8,7 @@ namespace {
 template <int nummer>
 QWidget& optionsseite_zeigen(buehne& b) {
     b.p.einstellungsfenster.oeffnen(static_cast<einstellungsfenster::seitennummer>(nummer));
-    return b.o.einstellungen;
+    return *b.o.einstellungen;
 }
 
 /// The wizard of the AT-2560 on this page, after four sensors have been heard.
@@ -41,7 +41,7 @@ QWidget& uart_assistent(buehne& b) {
             sagt(":S2,9001;:S3,9100;");
         }
     }
-    return b.o.uart_einstellungen;
+    return *b.o.uart_einstellungen;
 }
 
 /// An evening is prepared: those who are there are on the start list.
@@ -56,7 +56,7 @@ QWidget& wettkampf(buehne& b, int fahrer) {
         b.p.wettkampf1.Command16.klicken();
     }
     b.p.wettkampf1.auswahlliste.auswaehlen(1);
-    return b.o.wettkampf1;
+    return *b.o.wettkampf1;
 }
 
 const std::vector<szeneneintrag> alle{
@@ -71,7 +71,7 @@ const std::vector<szeneneintrag> alle{
     {"cu_eigenschaften",
      [](buehne& b) -> QWidget& {
          b.p.fenster.zeigen(fenstername::cu_eigenschaften);
-         return b.o.cu;
+         return *b.o.cu;
      }},
     {"auswertung",
      [](buehne& b) -> QWidget& {
@@ -100,19 +100,19 @@ const std::vector<szeneneintrag> alle{
          b.p.bestzeiten.leeren();
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
          b.p.auswertung.Command5.klicken();
-         return b.o.bestzeiten;
+         return *b.o.bestzeiten;
      },
      true},
     {"bestzeitverwaltung",
      [](buehne& b) -> QWidget& {
          b.p.beste_zeiten_verwaltung.oeffnen();
-         return b.o.bestzeitverwaltung;
+         return *b.o.bestzeitverwaltung;
      }},
     {"ergebnis_speichern",
      [](buehne& b) -> QWidget& {
          b.ergebnis("8", {1, 2});
          b.p.auswertung.Command4.klicken();
-         return b.o.rundenspeichern;
+         return *b.o.rundenspeichern;
      },
      true},
     {"einstellungen_start", optionsseite_zeigen<0>},
@@ -138,14 +138,14 @@ const std::vector<szeneneintrag> alle{
     {"tastatur",
      [](buehne& b) -> QWidget& {
          b.p.form1.command_tasten.klicken();
-         return b.o.tastatur;
+         return *b.o.tastatur;
      },
      true},
     {"einstellungen_noch_nicht",
      [](buehne& b) -> QWidget& {
          optionsseite_zeigen<einstellungsfenster::seite_hardware>(b);
          b.p.einstellungsfenster.hardware.at(1).umschalten();
-         return b.o.einstellungen;
+         return *b.o.einstellungen;
      }},
     {"uart_port", uart_assistent<uart_einstellungen::seite_port>},
     {"uart_anzahl", uart_assistent<uart_einstellungen::seite_anzahl>},
@@ -163,7 +163,7 @@ const std::vector<szeneneintrag> alle{
              at_profil_speichern(b.p.ablage, name, {});
          }
          std::get<befehl>(b.p.einstellungsfenster.zeile("uart_datei_waehlen").element).klicken();
-         return b.o.uart_profildatei;
+         return *b.o.uart_profildatei;
      },
      true},
     {"einstellungen_at2560",
@@ -174,7 +174,7 @@ const std::vector<szeneneintrag> alle{
     {"laden",
      [](buehne& b) -> QWidget& {
          b.p.form1.Command7.klicken();
-         return b.o.speichern;
+         return *b.o.speichern;
      },
      true},
     {"programmstart",
@@ -193,14 +193,14 @@ const std::vector<szeneneintrag> alle{
      [](buehne& b) -> QWidget& {
          optionsseite_zeigen<einstellungsfenster::seite_fahrer>(b);
          b.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
-         return b.o.bildwahl;
+         return *b.o.bildwahl;
      },
      true},
     {"liste_speichern",
      [](buehne& b) -> QWidget& {
          optionsseite_zeigen<einstellungsfenster::seite_fahrer>(b);
          b.p.einstellungsfenster.fahrerseite.Liste_speichern.klicken();
-         return b.o.fahrerspeichern;
+         return *b.o.fahrerspeichern;
      },
      true},
 };
