@@ -18,6 +18,7 @@ namespace tarvel {
     F(Form3)                  \
     F(k_ampel)                \
     F(rangliste)              \
+    F(rc_einstellungen)       \
     F(rundenspeichern)        \
     F(speichernfenster)       \
     F(w_auswertung)           \

@@ -73,6 +73,12 @@ optionszeile_zeiger aktion(const beschriftet& b) {
     return neue_zeile<befehl>(b).first;
 }
 
+optionszeile_zeiger hinweis(const beschriftet& b) {
+    optionszeile_zeiger zeile = neue_zeile<haken>(b).first;
+    zeile->element = std::monostate();
+    return zeile;
+}
+
 optionszeile_zeiger kasten(const beschriftet& b, const zugriff<bool>& ziel) {
     auto [zeile, element] = neue_zeile<haken>(b);
     zeile->zeigen = [ziel, e = element](const einstellungs_ziel& z) { e->gesetzt(ziel(z)); };

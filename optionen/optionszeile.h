@@ -102,6 +102,8 @@ optionszeile_zeiger leeres_feld(const beschriftet& b, int laenge_max);
 optionszeile_zeiger leerer_kasten(const beschriftet& b);
 /// A command among the values. What it does the caller fills.
 optionszeile_zeiger aktion(const beschriftet& b);
+/// A caption alone, about the rows below it.
+optionszeile_zeiger hinweis(const beschriftet& b);
 
 /// The row says so whenever it has taken over a value of that kind.
 optionszeile_zeiger mit_warnung(optionszeile_zeiger zeile, std::string_view text,

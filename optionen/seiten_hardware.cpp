@@ -1,4 +1,6 @@
 #include <cstdlib>
+#include <type_traits>
+#include <variant>
 
 #include "core/text.h"
 #include "optionen/optionsseite.h"
@@ -66,27 +68,44 @@ void allgemein(optionsseite& seite) {
         << kasten({"opt_ampel", "Ampelschaltung umkehren"}, wert(&e::ampel_invers));
 }
 
+/// A value that is kept, and that nobody can send to its device.
+optionszeile_zeiger aufbewahrt(optionszeile_zeiger zeile) {
+    zeile->beschriftung.aktiviert(false);
+    std::visit(
+        [](auto& element) {
+            if constexpr (std::is_base_of_v<steuerelement, std::decay_t<decltype(element)>>) {
+                element.aktiviert(false);
+            }
+        },
+        zeile->element);
+    return zeile;
+}
+
 void race_control(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Race Control", 1);
     gruppe << wortliste({"selComPort", "COM-Port"}, wert(&e::rc, &rc::anschluss, &rc_anschluss::rc_com_port),
-                        comport_namen(comports_max))
-           << entweder({"rc_mod1", "Modus"}, wert(&e::rc, &rc::rc_mod1), "Modus 1", "Modus 2")
-           << zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc, &rc::rc_level), begrenzt(0, 130))
-           << zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc, &rc::rc_delay_ms), begrenzt(0, 50))
-           << zahl({"selPostMS", "Nachlauf (ms)", "0 bis 15"}, wert(&e::rc, &rc::rc_post_ms), begrenzt(0, 15))
-           << kasten({"cbxRevZZ", "Reverse 1 - 2"}, wert(&e::rc, &rc::rc_rev_zz))
-           << kasten({"cbxRevSZ", "Reverse 3 - 4"}, wert(&e::rc, &rc::rc_rev_sz))
-           << kasten({"check_rctank", "bis Überfahrt Sensor 3 + 4"}, wert(&e::rc, &rc::rc_tank_sensor34))
-           << kasten({"check_rcziel", "Rennende auf Sensor 3 + 4"}, wert(&e::rc, &rc::rc_ziel_sensor34));
+                        comport_namen(comports_max));
     for (std::size_t sensor = 0; sensor < 4; ++sensor) {
         const std::string nummer = std::to_string(sensor + 1);
-        optionszeile_zeiger zeile =
-            wahl({"selSpur_" + nummer, "Sensor " + nummer}, element(wert(&e::rc, &rc::rc_sensor), sensor), 13,
-                 {"Spur 4", "Spur 3", "Spur 2", "Spur 1"});
-        gruppe << std::move(zeile);
+        gruppe << wahl({"selSpur_" + nummer, "Sensor " + nummer}, element(wert(&e::rc, &rc::rc_sensor), sensor), 13,
+                       {"Spur 4", "Spur 3", "Spur 2", "Spur 1"});
     }
-    gruppe << kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc, &rc::rc_schalter))
-           << zahl({"rc_wert", "Wert der Box"}, wert(&e::rc, &rc::rc_wert), begrenzt(-999999999, 999999999));
+    gruppe
+        << kasten({"check_rctank", "bis Überfahrt Sensor 3 + 4"}, wert(&e::rc, &rc::rc_tank_sensor34))
+        << kasten({"check_rcziel", "Rennende auf Sensor 3 + 4"}, wert(&e::rc, &rc::rc_ziel_sensor34))
+        << aktion({"rc_einrichten", "Box prüfen und Sensoren zuordnen"})
+        << hinweis({"rc_aufbewahrt",
+                    "Die folgenden Werte bleiben gespeichert. Die Bibliothek des Herstellers hat keinen Aufruf, der "
+                    "sie zur Box bringt; dort gilt, was die Box selbst eingestellt hat."})
+        << aufbewahrt(entweder({"rc_mod1", "Modus"}, wert(&e::rc, &rc::rc_mod1), "Modus 1", "Modus 2"))
+        << aufbewahrt(zahl({"selLevel", "Empfindlichkeit", "0 bis 130"}, wert(&e::rc, &rc::rc_level), begrenzt(0, 130)))
+        << aufbewahrt(
+               zahl({"selDelayMS", "Verzögerung (ms)", "0 bis 50"}, wert(&e::rc, &rc::rc_delay_ms), begrenzt(0, 50)))
+        << aufbewahrt(zahl({"selPostMS", "Nachlauf (ms)", "0 bis 15"}, wert(&e::rc, &rc::rc_post_ms), begrenzt(0, 15)))
+        << aufbewahrt(kasten({"cbxRevZZ", "Reverse 1 - 2"}, wert(&e::rc, &rc::rc_rev_zz)))
+        << aufbewahrt(kasten({"cbxRevSZ", "Reverse 3 - 4"}, wert(&e::rc, &rc::rc_rev_sz)))
+        << aufbewahrt(kasten({"rc_schalter", "Kennzeichen der Box"}, wert(&e::rc, &rc::rc_schalter)))
+        << aufbewahrt(zahl({"rc_wert", "Wert der Box"}, wert(&e::rc, &rc::rc_wert), begrenzt(-999999999, 999999999)));
 }
 
 void druckeranschluss(optionsseite& seite) {

@@ -4,7 +4,7 @@
 
 namespace tarvel::qt {
 
-/// Threads that look at devices, with the highest priority that the system grants.
+/// Threads that look at devices, with the highest priority that the system grants. Of one device, one at a time.
 class QtAbtasterDienst final : public plattform::abtaster_dienst {
 public:
     explicit QtAbtasterDienst(const plattform::uhr& uhr) : uhr_(uhr) {}

@@ -1,4 +1,5 @@
-// A short race of the whole program against a simulated timing device, told as text: vorfuehrung [cu|at2560] [<folder>]
+// A short race of the whole program against a simulated timing device, told as text:
+//   vorfuehrung [cu|at2560|rc] [<folder>]
 // Needs no screen. The program has a folder of its own; settings, results and the lock of an installed one stay as they
 // are. Ends with 0 if every lap has been measured to the millisecond.
 
@@ -38,11 +39,15 @@ struct vorfuehrgeraet {
     std::size_t hardware;  ///< place of its tick box on the options' page
     const char* comzeile;  ///< row of its port there
     bool mit_befehlsdatei;
+    int spuren = spuren_max;
+    const char* bibliothek = nullptr;  ///< to lie in the program's folder
+    bool sieht_ampel = true;           ///< else its cars are told when to go
 };
 
 const std::map<std::string, vorfuehrgeraet> vorfuehrgeraete{
     {"cu", {"Carrera Control Unit", TARVEL_CU_SIMULATOR, 6, "cu_comport", false}},
-    {"at2560", {"AT-2560 USB", TARVEL_AT2560_SIMULATOR, 7, "uart_port", true}}};
+    {"at2560", {"AT-2560 USB", TARVEL_AT2560_SIMULATOR, 7, "uart_port", true}},
+    {"rc", {"Race Control", TARVEL_RC_SIMULATOR, 2, "selComPort", false, 4, TARVEL_RC_BIBLIOTHEK, false}}};
 
 void schreiben(const std::string& text) {
     std::printf("%s\n", text.c_str());
@@ -78,8 +83,8 @@ public:
     simulatorlauf(const vorfuehrgeraet& geraet, const QString& ordner) {
         prozess_.setProcessChannelMode(QProcess::MergedChannels);
         QObject::connect(&prozess_, &QProcess::readyRead, &prozess_, [this] { lesen(); });
-        prozess_.start(geraet.simulator, {"--ordner", ordner, "--com", com, "--spuren", "6", "--saat", "7",
-                                          "--rundenzeit", "4200", "--dauer", "600"});
+        prozess_.start(geraet.simulator, {"--ordner", ordner, "--com", com, "--spuren", QString::number(geraet.spuren),
+                                          "--saat", "7", "--rundenzeit", "4200", "--dauer", "600"});
     }
     ~simulatorlauf() {
         prozess_.terminate();
@@ -89,6 +94,7 @@ public:
         }
     }
 
+    void los() { prozess_.write("los\n"); }
     bool bereit() const { return ausgabe_.contains("Bereit an"); }
     bool beendet() const { return prozess_.state() == QProcess::NotRunning; }
     std::string ausgabe() const { return ausgabe_.toStdString(); }
@@ -125,6 +131,10 @@ fs::path ordner_anlegen(const vorfuehrgeraet& geraet, const fs::path& ordner) {
     if (geraet.mit_befehlsdatei) {
         const fs::path datei = ordner / "tvk_at2560.uart";
         QProcess::execute(geraet.simulator, {"--profil", QString::fromStdU16String(datei.u16string())});
+    }
+    if (geraet.bibliothek != nullptr) {
+        const fs::path bibliothek = geraet.bibliothek;
+        fs::copy(bibliothek, ordner / bibliothek.filename(), fs::copy_options::overwrite_existing);
     }
     return ordner;
 }
@@ -202,7 +212,7 @@ private:
         f.wertmin.eingeben("3");
         for (const int spur : alle_spuren) {
             const std::size_t i = feld_index(spur);
-            if (!f.spur.at(i).gesetzt()) {
+            if (f.spur.at(i).gesetzt() != (spur <= geraet_.spuren)) {
                 f.spur.at(i).umschalten();
             }
             f.fahrer.at(i).waehlen(spur);  // the first entry is nobody
@@ -216,7 +226,12 @@ private:
         }
         schreiben("Rennen über " + std::to_string(runden) + " Runden. Die Startampel läuft …");
         p_.rennen.bahn1.Command1.klicken();
-        warten("Grün", schritt_ms, [this] { return !p_.rennen.zustand.rennen_beendet; });
+        warten("Grün", schritt_ms, [this] {
+            return !p_.rennen.zustand.rennen_beendet && (geraet_.sieht_ampel || !p_.rennen.umgebung.ampel_laeuft());
+        });
+        if (!geraet_.sieht_ampel) {
+            simulator_.los();
+        }
         schreiben("Grün!\n\n  Spur  Fahrer                Runde  Zeit");
     }
 
@@ -355,7 +370,7 @@ int main(int argc, char** argv) {
     const QStringList argumente = QApplication::arguments().mid(1);
     const auto geraet = tarvel::vorfuehrgeraete.find(argumente.value(0, "cu").toStdString());
     if (geraet == tarvel::vorfuehrgeraete.end() || argumente.size() > 2) {
-        std::fprintf(stderr, "vorfuehrung [cu|at2560] [<Ordner>]\n");
+        std::fprintf(stderr, "vorfuehrung [cu|at2560|rc] [<Ordner>]\n");
         return 2;
     }
     const QString ordner = argumente.value(1, TARVEL_QUELLEN "/Tarvel/Vorfuehrung");

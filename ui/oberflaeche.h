@@ -5,6 +5,7 @@
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
+#include "programm/race_control_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -18,6 +19,7 @@
 #include "ui/form2_fenster.h"
 #include "ui/k_ampel_fenster.h"
 #include "ui/rangliste_fenster.h"
+#include "ui/rc_fenster.h"
 #include "ui/spaetes_fenster.h"
 #include "ui/speichern_fenster.h"
 #include "ui/start_fenster.h"
@@ -65,6 +67,7 @@ public:
     SpaetesFenster<BestzeitverwaltungFenster> bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
     SpaetesFenster<UartEinstellungenFenster> uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen,
                                                                 fenster, &einstellungen};
+    SpaetesFenster<RcFenster> rc{p_.geraete.von<race_control_verdrahtung>().rc_einstellungen, fenster, &einstellungen};
     SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
                                                             fenster, &form1};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};

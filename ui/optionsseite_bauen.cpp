@@ -78,7 +78,8 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
     }
     QLabel* titel = binder_.label(inhalt.beschriftung, name + "_Label");
     titel->setWordWrap(true);
-    raster->addWidget(titel, platz, 0);
+    const bool allein = std::holds_alternative<std::monostate>(inhalt.element);
+    raster->addWidget(allein ? stil::leise(titel) : titel, platz, 0, 1, allein ? 3 : 1);
     if (auto* eingabe = std::get_if<feld>(&inhalt.element)) {
         eingabefeld(inhalt, *eingabe, raster, platz);
     } else if (auto* liste = std::get_if<auswahl>(&inhalt.element)) {

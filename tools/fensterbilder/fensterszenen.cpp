@@ -1,6 +1,7 @@
 #include "tools/fensterbilder/szenen.h"
 
 #include "programm/at2560_verdrahtung.h"
+#include "programm/race_control_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -44,6 +45,14 @@ QWidget& uart_assistent(buehne& b) {
     return *b.o.uart_einstellungen;
 }
 
+/// The options with this hardware chosen.
+template <int nummer>
+QWidget& messhardware(buehne& b) {
+    optionsseite_zeigen<7>(b);
+    b.p.einstellungsfenster.hardware.at(nummer).umschalten();
+    return b.o.einstellungen;
+}
+
 /// An evening is prepared: those who are there are on the start list.
 QWidget& wettkampf(buehne& b, int fahrer) {
     for (const char* name : {"Jörg Hansen", "Anna", "Käthe", "Björn", "Uwe Petersen"}) {
@@ -72,6 +81,15 @@ const std::vector<szeneneintrag> alle{
      [](buehne& b) -> QWidget& {
          b.p.fenster.zeigen(fenstername::cu_eigenschaften);
          return *b.o.cu;
+     }},
+    {"einstellungen_race_control", messhardware<2>},
+    {"rc_einstellungen",
+     [](buehne& b) -> QWidget& {
+         optionsseite_zeigen<7>(b);
+         auto& fenster = b.p.geraete.von<race_control_verdrahtung>().rc_einstellungen;
+         fenster.oeffnen("COM7");
+         fenster.doInit.klicken();
+         return b.o.rc;
      }},
     {"auswertung",
      [](buehne& b) -> QWidget& {

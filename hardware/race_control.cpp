@@ -1,0 +1,169 @@
+#include "hardware/race_control.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+/// What a lap sensor is as well: a contact of the tanks, where sensors 3 and 4 end the refuelling of lanes 1 and 2, and
+/// a second finish line, where they count for these.
+struct nebenrolle {
+    ereignis_art sensor;
+    ereignis_art tank;
+    ereignis_art ziel;  ///< 0 none
+};
+constexpr std::array<nebenrolle, 4> nebenrollen{{{16, 32, 0}, {15, 30, 0}, {14, 31, 16}, {13, 29, 15}}};
+
+}  // namespace
+
+race_control::race_control(const umgebung& um, rc_verbindung& verbindung)
+    : um_(um),
+      verbindung_(verbindung),
+      meldung_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(1))) {
+    verbindung_.zuhoeren(*this);
+    meldung_->bei_tick = [this] {
+        meldung_->aus();
+        um_.meldungen.zeigen(um_.txt.meldung[15], um_.txt.titel[1]);
+    };
+}
+
+bool race_control::verbinden() {
+    return verbindung_.oeffnen(um_.einst.rc.anschluss.rc_com_port);
+}
+
+bool race_control::oeffnen() {
+    schliessen();
+    gewuenscht_ = verbinden();
+    if (gewuenscht_) {
+        ansagen(true);
+    } else {
+        um_.bedienung.nicht_zu_oeffnen(*this, um_.txt.meldung[verbindung_.bibliothek_da() ? 14 : 16]);
+    }
+    return gewuenscht_;
+}
+
+void race_control::schliessen() {
+    gewuenscht_ = false;
+    gemeldet_ = false;
+    meldung_->aus();
+    verbindung_.schliessen();
+    uhr_.vergessen();
+}
+
+void race_control::wieder_aufnehmen() {
+    if (gewuenscht_ && !verbindung_.offen()) {
+        verbinden();
+    }
+}
+
+void race_control::rennfenster_offen() {
+    if (!um_.einst.hardware.hw_race_control || verbindung_.bereit()) {
+        return;
+    }
+    gewuenscht_ = true;
+    if (verbindung_.offen() || verbinden()) {
+        ansagen(true);
+    } else {
+        um_.bedienung.port_fehlt(um_.txt.meldung[verbindung_.bibliothek_da() ? 14 : 16]);
+    }
+}
+
+void race_control::ansagen(bool an) {
+    if (std::exchange(angesagt_, an) != an) {
+        um_.bedienung.wartehinweis(an);
+    }
+}
+
+void race_control::rc_geschehen(rc_schritt schritt) {
+    switch (schritt) {
+        case rc_schritt::bereit:
+            uhr_.wieder_da();
+            uhr_nachfuehren();
+            ansagen(false);
+            break;
+        case rc_schritt::stumm:
+            stumm();
+            break;
+        case rc_schritt::unterbrochen:
+            ansagen(false);
+            if (gewuenscht_) {
+                um_.bedienung.verloren();
+            }
+            break;
+        case rc_schritt::geschlossen:
+            ansagen(false);
+            break;
+        case rc_schritt::unbekanntes_ereignis:
+            unbekanntes_ereignis();
+            break;
+        default:
+            break;
+    }
+}
+
+void race_control::stumm() {
+    if (angesagt_) {  // else nobody has asked for it just now
+        ansagen(false);
+        um_.bedienung.port_fehlt(um_.txt.meldung[16]);
+    }
+}
+
+void race_control::unbekanntes_ereignis() {
+    if (gewuenscht_ && !std::exchange(gemeldet_, true)) {
+        meldung_->an();  // a message box within the reading would hold up the line
+    }
+}
+
+zeit_ms race_control::stempel_von(std::uint32_t ticks) {
+    const rc_uhr::befund befund = uhr_.lesen(ticks, um_.uhr.jetzt(), um_.zeit.messzeit_lesen());
+    if (befund.versetzen) {
+        um_.zeit.stellen(befund.stempel, 1);
+        um_.rennen.stempel_verschieben(*befund.versetzen);
+    } else if (befund.stand) {
+        um_.zeit.nachstellen(*befund.stand, 1);
+    }
+    return befund.stempel;
+}
+
+void race_control::uhr_nachfuehren() {
+    if (gewuenscht_ && verbindung_.bereit()) {
+        stempel_von(verbindung_.stempel());
+    }
+}
+
+void race_control::rc_meldet(const rc_kontakt& kontakt) {
+    if (!gewuenscht_ || !verbindung_.bereit()) {
+        return;
+    }
+    const zeit_ms stempel = stempel_von(kontakt.stempel);
+    if (kontakt.belegt) {
+        rc_ereignis(um_.einst.rc.rc_sensor.at(static_cast<std::size_t>(kontakt.sensor)), stempel);
+    }
+}
+
+void race_control::rc_ereignis(ereignis_art nummer, zeit_ms stempel) {
+    const auto rolle = std::find_if(nebenrollen.begin(), nebenrollen.end(),
+                                    [nummer](const nebenrolle& r) { return r.sensor == nummer; });
+    if (rolle == nebenrollen.end()) {
+        return;
+    }
+    um_.ereignisse.ueberfahrt_melden(nummer, stempel);
+    if (um_.einst.rc.rc_tank_sensor34) {
+        um_.ereignisse.ereignis_melden(rolle->tank, stempel);
+    }
+    if (um_.einst.rc.rc_ziel_sensor34 && rolle->ziel != 0) {
+        um_.ereignisse.ueberfahrt_melden(rolle->ziel, stempel);
+    }
+    etwas_neues_ = true;
+}
+
+void race_control::rc_gelesen() {
+    uhr_nachfuehren();
+    if (std::exchange(etwas_neues_, false)) {
+        um_.rennen.ereignisse_gemeldet();
+    }
+}
+
+}  // namespace tarvel

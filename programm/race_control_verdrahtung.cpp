@@ -1,0 +1,46 @@
+#include "programm/race_control_verdrahtung.h"
+
+#include <array>
+#include <string_view>
+
+#include "core/form1.h"
+#include "optionen/einstellungsfenster.h"
+#include "programm/einstellungspflege.h"
+#include "programm/messgeraete.h"
+
+namespace tarvel {
+
+race_control_verdrahtung::race_control_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
+    : verbindung(um.dienste.serienports, um.dienste.zeitgeber, um.dienste.bibliotheken),
+      box({um.einst, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle, um.dienste.uhr,
+           um.dienste.zeitgeber, um.dienste.meldungen},
+          verbindung),
+      rc_einstellungen({um.einst, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber}, verbindung),
+      einst_(um.einst),
+      optionen_(um.einstellungsfenster),
+      form1_(um.form1),
+      pflege_(um.pflege),
+      alle_(alle) {
+    rc_einstellungen.zugang = this;
+    optionen_.aktion_verbinden("rc_einrichten", [this] {
+        rc_einstellungen.oeffnen(std::get<auswahl>(optionen_.zeile("selComPort").element).text());
+    });
+}
+
+void race_control_verdrahtung::geraet_verbinden() {
+    if (einst_.hardware.hw_race_control) {
+        alle_.hardware_starten(false);
+    } else {
+        verbindung.schliessen();
+    }
+}
+
+bool race_control_verdrahtung::einstellungen_speichern() {
+    const bool gut = pflege_.speichern_mit_feldern();
+    form1_.leihspuren_sperren();
+    optionen_.zeilen_zeigen(std::to_array<std::string_view>(
+        {"selComPort", "selSpur_1", "selSpur_2", "selSpur_3", "selSpur_4", "check_rctank", "check_rcziel"}));
+    return gut;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "hardware/race_control.h"
+#include "hardware/rc_einstellungen.h"
+#include "programm/geraeteverdrahtung.h"
+
+namespace tarvel {
+
+/// The Race Control box and its window.
+class race_control_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+public:
+    race_control_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
+
+    messgeraet& geraet() override { return box; }
+    void beenden() override { rc_einstellungen.zugang = nullptr; }
+
+    rc_verbindung verbindung;
+    race_control box;
+    tarvel::rc_einstellungen rc_einstellungen;
+
+private:
+    void geraet_trennen() override { box.schliessen(); }
+    void geraet_verbinden() override;
+    bool einstellungen_speichern() override;
+
+    einstellungen& einst_;
+    tarvel::einstellungsfenster& optionen_;
+    tarvel::form1& form1_;
+    einstellungspflege& pflege_;
+    messgeraete& alle_;
+};
+
+}  // namespace tarvel
