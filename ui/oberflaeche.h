@@ -5,6 +5,7 @@
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
+#include "programm/timekeeper_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -23,6 +24,7 @@
 #include "ui/tagesrennen_fenster.h"
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
+#include "ui/timekeeper_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
@@ -65,6 +67,7 @@ public:
     UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
+    TimekeeperFenster timekeeper{p_.geraete.von<timekeeper_verdrahtung>().tk_einstellungen, fenster, &einstellungen};
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
     WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};

@@ -73,6 +73,11 @@ const std::vector<szeneneintrag> alle{
          b.p.fenster.zeigen(fenstername::cu_eigenschaften);
          return b.o.cu;
      }},
+    {"timekeeper",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen(fenstername::timekeeper);
+         return b.o.timekeeper;
+     }},
     {"auswertung",
      [](buehne& b) -> QWidget& {
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
