@@ -142,17 +142,18 @@ sprachliste tk_einstellungen::sprache_e_tk() {
     }
     texte.text("alle an", relais_alle_an).text("alle aus", relais_alle_aus);
     texte.text("Firmwareversion", Frame_firmware).text("abfragen", firmware_lesen);
-    texte.text("Aufzeichnung in tk_debug_info-1 bis -6.txt", Frame_debug);
     for (const int spur : alle_spuren) {
         texte.text("open " + std::to_string(spur), debug_open[spur]);
     }
+    texte.tipp_fuer_alle("schreibt alles, was das Gerät bis „close“ sendet, in die Datei tk_debug_info-… der Spur",
+                         debug_open);
     texte.text("close", debug_close).text("Protokoll", Frame_log).text("tk-command", Label_command);
     texte.text("Send", Send).text("Gerät suchen", suchen).text("Einstellungsdatei", Label_datei);
     texte.text("Laden", Laden).text("Werkseinstellungen", Werkseinstellungen).text("Speichern", Speichern);
     texte.text("Abbrechen", Abbrechen);
     texte.text("Kein Modus aktiv", wort_.modus[0]).text("Modus 1 - Analog", wort_.modus[1]);
     texte.text("Modus 2 - Digital 124, 132", wort_.modus[2]).text("Modus 2 - Digital 143", wort_.modus[3]);
-    texte.text("Wagen", wort_.wagen).text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
+    texte.text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
     texte.text("Der Timekeeper USB ist nicht zu erreichen. Bitte das Kabel prüfen.", wort_.weg);
     return texte.text(
         "Kein Timekeeper USB angeschlossen, starte im Simulationsmodus. Bitte in den Einstellungen Messhardware "
@@ -353,7 +354,7 @@ void tk_einstellungen::sensor_zeigen(const tk::sensor& satz) {
     kanal& k = kanaele.at(i);
     k.lampe.hintergrund(lampe_an);
     leuchtet_bis_.at(i) = uhr_.jetzt() + leuchtdauer_ms;
-    const std::string wer = satz.wagen > 0 ? wort_.wagen + " " + std::to_string(satz.wagen) + "  " : std::string();
+    const std::string wer = satz.wagen > 0 ? std::to_string(satz.wagen) + ": " : std::string();
     const zeit_ms seither = letzte_.at(i) ? std::max<zeit_ms>(satz.zeit - *letzte_.at(i), 0) : 0;
     k.ergebnis.text(wer + zeit_formatieren(seither, true, um_.einst.trennzeichen));
     letzte_.at(i) = satz.zeit;

@@ -56,8 +56,7 @@ public:
     rahmen Frame_firmware;
     bezeichnung firmware;
     befehl firmware_lesen;
-    rahmen Frame_debug;
-    spuren<befehl> debug_open;
+    spuren<befehl> debug_open;  ///< what the box sends goes to the file of that lane
     befehl debug_close;
     rahmen Frame_log;
     liste List1;
@@ -127,7 +126,6 @@ private:
         std::string nicht_da;
         std::string weg;
         std::array<std::string, 4> modus;
-        std::string wagen;
         std::string nicht_geschrieben;
     };
     worte wort_;

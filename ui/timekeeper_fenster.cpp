@@ -10,10 +10,17 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int sensoren_je_spalte = 12;
+constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
-constexpr int ergebnisbreite = 118;
+constexpr int ergebnisbreite = 92;
 constexpr int eingabebreite = 196;
+constexpr int schmaler_knopf = 62;
+
+QPushButton* schmal(QPushButton* knopf) {
+    knopf->setFixedWidth(schmaler_knopf);
+    knopf->setStyleSheet("padding-left: 2px; padding-right: 2px;");
+    return knopf;
+}
 
 }  // namespace
 
@@ -22,24 +29,22 @@ TimekeeperFenster::TimekeeperFenster(tk_einstellungen& logik, Fensterverwaltung&
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(6);
-    aufbau->addWidget(modusgruppe());
+    auto* oben = new QHBoxLayout;
+    oben->addWidget(modusgruppe(), 1);
+    oben->addWidget(firmwaregruppe());
+    aufbau->addLayout(oben);
     aufbau->addWidget(sensorgruppe());
     auto* unten = new QHBoxLayout;
-    auto* links = new QVBoxLayout;
-    links->addWidget(ampelgruppe());
-    links->addWidget(relaisgruppe());
-    links->addStretch();
-    unten->addLayout(links);
-    auto* rechts = new QVBoxLayout;
-    rechts->addWidget(protokollgruppe(), 1);
-    auto* klein = new QHBoxLayout;
-    klein->addWidget(debuggruppe(), 1);
-    klein->addWidget(firmwaregruppe());
-    rechts->addLayout(klein);
-    unten->addLayout(rechts, 1);
+    for (QWidget* schalter : {ampelgruppe(), relaisgruppe()}) {
+        auto* spalte = new QVBoxLayout;
+        spalte->addWidget(schalter);
+        spalte->addStretch();
+        unten->addLayout(spalte);
+    }
+    unten->addWidget(protokollgruppe(), 1);
     aufbau->addLayout(unten, 1);
     aufbau->addLayout(fuss());
-    resize(1000, 720);
+    resize(1000, 700);
 }
 
 QWidget* TimekeeperFenster::modusgruppe() {
@@ -73,8 +78,8 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(lampe, reihe, 0);
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
-        wahl->setMinimumContentsLength(12);
-        wahl->setMaximumHeight(24);
+        wahl->setMinimumContentsLength(10);
+        wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
         ergebnis->setFixedWidth(ergebnisbreite);
@@ -119,17 +124,6 @@ QWidget* TimekeeperFenster::firmwaregruppe() {
     return kasten;
 }
 
-QWidget* TimekeeperFenster::debuggruppe() {
-    QGroupBox* kasten = binder().gruppe(logik_.Frame_debug, "Frame_debug");
-    auto* zeile = new QHBoxLayout(kasten);
-    zeile->setSpacing(3);
-    for (const int spur : alle_spuren) {
-        zeile->addWidget(binder().knopf(logik_.debug_open[spur], "debug_open_" + QString::number(spur)));
-    }
-    zeile->addWidget(binder().knopf(logik_.debug_close, "debug_close"));
-    return kasten;
-}
-
 QWidget* TimekeeperFenster::protokollgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_log, "Frame_log");
     auto* spalte = new QVBoxLayout(kasten);
@@ -141,6 +135,14 @@ QWidget* TimekeeperFenster::protokollgruppe() {
     zeile->addWidget(eingabe, 1);
     zeile->addWidget(binder().knopf(logik_.Send, "Send"));
     zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
+    spalte->addLayout(zeile);
+    zeile = new QHBoxLayout;
+    zeile->setSpacing(4);
+    for (const int spur : alle_spuren) {
+        zeile->addWidget(schmal(binder().knopf(logik_.debug_open[spur], "debug_open_" + QString::number(spur))));
+    }
+    zeile->addWidget(schmal(binder().knopf(logik_.debug_close, "debug_close")));
+    zeile->addStretch();
     spalte->addLayout(zeile);
     return kasten;
 }

@@ -19,7 +19,6 @@ private:
     QWidget* ampelgruppe();
     QWidget* relaisgruppe();
     QWidget* firmwaregruppe();
-    QWidget* debuggruppe();
     QWidget* protokollgruppe();
     QLayout* fuss();
 

@@ -1,21 +1,19 @@
-// In place of the FTDI chips' library: one chip with a simulated Timekeeper and its cars behind it. How they drive
-// stands in TARVEL_TIMEKEEPER, as the options of the simulator programs do; --protokoll tells where the laps go.
+// In place of the FTDI chips' library: one chip with a simulated Timekeeper and its cars behind it, which drive in real
+// time for as long as anybody calls. The options are those of the other simulators, in a line of the file simulator.txt
+// of the working folder or as SimulatorEinstellen gives them.
 
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <deque>
 #include <fstream>
-#include <iostream>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tools/simulator/kommandozeile.h"
@@ -37,49 +35,51 @@ using griff = void*;
 constexpr status gut = 0;
 constexpr status falscher_griff = 1;
 constexpr status nicht_gefunden = 2;
+constexpr status nicht_zu_oeffnen = 3;
 constexpr status ein_ausgabe_fehler = 4;
+constexpr status falsche_baudrate = 7;
 constexpr wort nur_anzahl = 0x80000000;
 
-/// The laps as lines, in a file or on the console.
-class rundenschreiber {
+/// Tells the laps on the console as they are driven, and keeps their times.
+class rundenbuch {
 public:
-    void oeffnen(const std::string& name) { datei_.open(name); }
-
-    void schreiben(const simulator::geraet& g) {
+    void aufnehmen(const simulator::geraet& g, bool still) {
         if (g.aufstellungen() != aufstellung_) {
             aufstellung_ = g.aufstellungen();
-            stand_.clear();
+            letzte_.clear();
+            zeiten_.clear();
         }
         for (; gelesen_ < g.fahrten().size(); ++gelesen_) {
-            if (g.fahrten()[gelesen_].sensor == 1) {
-                zeile(g.fahrten()[gelesen_]);
+            const simulator::ueberfahrt& u = g.fahrten()[gelesen_];
+            if (u.sensor != 1) {
+                continue;
+            }
+            if (const auto vorher = letzte_.find(u.wagen); vorher != letzte_.end()) {
+                zeiten_[u.wagen].push_back(u.stempel - vorher->second);
+            }
+            letzte_[u.wagen] = u.stempel;
+            if (!still) {
+                melden(u.wagen);
             }
         }
     }
+    const std::vector<zeit_ms>& zeiten(int wagen) { return zeiten_[wagen]; }
 
 private:
-    struct stand {
-        int runde = -1;
-        zeit_ms stempel = 0;
-    };
-
-    void zeile(const simulator::ueberfahrt& u) {
-        stand& s = stand_[u.wagen];
-        const zeit_ms dauer = u.stempel - std::exchange(s.stempel, u.stempel);
-        std::string text = "Wagen " + std::to_string(u.wagen) + "  ";
-        if (++s.runde == 0) {
-            text += "erste Überfahrt";
+    void melden(int wagen) {
+        const std::vector<zeit_ms>& alle = zeiten_[wagen];
+        constexpr zeit_ms sekunde = 1000;
+        if (alle.empty()) {
+            std::printf("Wagen %d  erste Überfahrt\n", wagen);
         } else {
-            std::string tausendstel = std::to_string(dauer % 1000);
-            tausendstel.insert(0, 3 - tausendstel.size(), '0');
-            text +=
-                "Runde " + std::to_string(s.runde) + "   " + std::to_string(dauer / 1000) + "," + tausendstel + " s";
+            std::printf("Wagen %d  Runde %zu   %d,%03d s\n", wagen, alle.size(),
+                        static_cast<int>(alle.back() / sekunde), static_cast<int>(alle.back() % sekunde));
         }
-        (datei_.is_open() ? static_cast<std::ostream&>(datei_) : std::cout) << text << std::endl;
+        std::fflush(stdout);
     }
 
-    std::ofstream datei_;
-    std::map<int, stand> stand_;
+    std::map<int, zeit_ms> letzte_;  ///< stamp of each car
+    std::map<int, std::vector<zeit_ms>> zeiten_;
     std::size_t gelesen_ = 0;
     int aufstellung_ = 0;
 };
@@ -88,46 +88,26 @@ private:
 class kabel {
 public:
     kabel() {
-        simulator::flotte wagen;
-        simulator::rennen_einstellung rennen;
-        simulator::kommandozeile zeile(
-            "TARVEL_TIMEKEEPER: Timekeeper USB mit fahrenden Wagen hinter der FTDI-Bibliothek");
-        std::string protokoll;
-        simulator::gemeinsame_optionen(zeile, simulator::timekeeper::spuren, wagen, rennen, lauf_);
-        zeile.text("--protokoll", "DATEI", "dorthin gehen die Runden, sonst auf die Konsole", protokoll);
-        const char* const umgebung = std::getenv("TARVEL_TIMEKEEPER");
-        std::istringstream woerter(umgebung != nullptr ? umgebung : "");
-        std::vector<std::string> texte{"ftd2xx"};
-        for (std::string wort_text; woerter >> wort_text;) {
-            texte.push_back(wort_text);
-        }
-        std::vector<const char*> argumente;
-        for (const std::string& text : texte) {
-            argumente.push_back(text.c_str());
-        }
-        gelesen_ = zeile.lesen(static_cast<int>(argumente.size()), argumente.data());
-        if (zeile.hilfe_gewuenscht()) {
-            zeile.hilfe_zeigen();
-        }
-        if (!protokoll.empty()) {
-            runden_.oeffnen(protokoll);
-        }
-        rennen.wagen = wagen.wagen();
-        box_ = std::make_unique<simulator::timekeeper>(rennen);
-        box_->senden = [this](std::string_view bytes) { puffer_.insert(puffer_.end(), bytes.begin(), bytes.end()); };
+        std::string zeile;
+        std::getline(std::ifstream("simulator.txt") >> std::ws, zeile);
+        anlegen(zeile, false);
     }
 
+    void einstellen(const std::string& optionen) {
+        const std::unique_lock sperre(sperre_);
+        anlegen(optionen, true);
+    }
     std::unique_lock<std::mutex> sperren() {
         std::unique_lock sperre(sperre_);
         weiter();
         return sperre;
     }
+    void von_hand(bool steckt) { von_hand_gezogen_ = !steckt; }
     bool steckt() const { return steckt_; }
     bool gueltig(griff g) const { return offen_ && g == griff_von(); }
-    /// The handle does not outlive the plug.
     status oeffnen(griff& g) {
         if (!steckt_ || offen_) {
-            return steckt_ ? 3 : nicht_gefunden;
+            return steckt_ ? nicht_zu_oeffnen : nicht_gefunden;
         }
         offen_ = true;
         abgerissen_ = false;
@@ -139,9 +119,39 @@ public:
     status zustand(griff g) const { return !gueltig(g) ? falscher_griff : abgerissen_ ? ein_ausgabe_fehler : gut; }
     simulator::timekeeper& box() { return *box_; }
     std::deque<char>& puffer() { return puffer_; }
+    rundenbuch& runden() { return runden_; }
 
 private:
     griff griff_von() const { return const_cast<kabel*>(this); }
+
+    void anlegen(const std::string& optionen, bool still) {
+        simulator::flotte wagen;
+        simulator::rennen_einstellung rennen;
+        simulator::kommandozeile zeile(
+            "Timekeeper USB mit fahrenden Wagen hinter der FTDI-Bibliothek. Optionen in simulator.txt:");
+        lauf_ = {};
+        simulator::gemeinsame_optionen(zeile, simulator::timekeeper::spuren, wagen, rennen, lauf_);
+        std::istringstream woerter(optionen);
+        std::vector<std::string> texte{"ftd2xx"};
+        for (std::string eines; woerter >> eines;) {
+            texte.push_back(eines);
+        }
+        std::vector<const char*> argumente;
+        for (const std::string& text : texte) {
+            argumente.push_back(text.c_str());
+        }
+        verstanden_ = zeile.lesen(static_cast<int>(argumente.size()), argumente.data());
+        if (zeile.hilfe_gewuenscht()) {
+            zeile.hilfe_zeigen();
+        }
+        rennen.wagen = wagen.wagen();
+        box_ = std::make_unique<simulator::timekeeper>(rennen);
+        box_->senden = [this](std::string_view bytes) { puffer_.insert(puffer_.end(), bytes.begin(), bytes.end()); };
+        runden_ = {};
+        still_ = still;
+        steckt_ = false;
+        beginn_ = 0;
+    }
 
     void weiter() {
         using namespace std::chrono;
@@ -151,26 +161,28 @@ private:
         const zeit_ms vergangen = jetzt - beginn_;
         const bool gezogen = lauf_.abziehen_s >= 0 && vergangen >= lauf_.abziehen_s * sekunde;
         const bool wieder = lauf_.einstecken_s > lauf_.abziehen_s && vergangen >= lauf_.einstecken_s * sekunde;
-        const bool soll = gelesen_ && (!gezogen || wieder);
+        const bool soll = verstanden_ && !von_hand_gezogen_ && (!gezogen || wieder);
         if (soll && !steckt_) {
             box_->verbunden();
         }
-        abgerissen_ = abgerissen_ || (offen_ && steckt_ && !soll);
+        abgerissen_ = abgerissen_ || (offen_ && steckt_ && !soll);  // the handle does not outlive the plug
         steckt_ = soll;
         box_->weiter(jetzt);
-        runden_.schreiben(*box_);
+        runden_.aufnehmen(*box_, still_);
     }
 
     std::mutex sperre_;
     simulator::lauf_einstellung lauf_;
     std::unique_ptr<simulator::timekeeper> box_;
-    rundenschreiber runden_;
+    rundenbuch runden_;
     std::deque<char> puffer_;
     zeit_ms beginn_ = 0;
-    bool gelesen_ = false;
+    bool verstanden_ = false;
+    bool still_ = false;
     bool steckt_ = false;
+    bool von_hand_gezogen_ = false;
     bool offen_ = false;
-    bool abgerissen_ = false;  ///< the plug was pulled while the channel was open
+    bool abgerissen_ = false;
 };
 
 kabel& das_kabel() {
@@ -218,7 +230,7 @@ ERSATZ_RUF status FT_Close(griff g) {
 ERSATZ_RUF status FT_SetBaudRate(griff g, wort baud) {
     constexpr wort richtige = 230400;
     const status ergebnis = eingestellt(g);
-    return ergebnis == gut && baud != richtige ? 7 : ergebnis;
+    return ergebnis == gut && baud != richtige ? falsche_baudrate : ergebnis;
 }
 ERSATZ_RUF status FT_SetDataCharacteristics(griff g, std::uint8_t, std::uint8_t, std::uint8_t) {
     return eingestellt(g);
@@ -261,4 +273,25 @@ ERSATZ_RUF status FT_Write(griff g, void* bytes, wort anzahl, wort* geschrieben)
         das_kabel().box().empfangen({static_cast<const char*>(bytes), anzahl});
     }
     return ergebnis;
+}
+
+/// Begins anew with these options, in silence.
+ERSATZ_RUF void SimulatorEinstellen(const char* optionen) {
+    das_kabel().einstellen(optionen);
+}
+
+/// Pulls the plug, or puts it in.
+ERSATZ_RUF void SimulatorStecken(int steckt) {
+    const auto sperre = das_kabel().sperren();
+    das_kabel().von_hand(steckt != 0);
+}
+
+/// Lap times of a car in ms, its first lap first, at most `platz` of them; returns how many there are.
+ERSATZ_RUF int SimulatorRunden(int wagen, int* zeiten, int platz) {
+    const auto sperre = das_kabel().sperren();
+    const std::vector<zeit_ms>& alle = das_kabel().runden().zeiten(wagen);
+    const auto anzahl = std::min(alle.size(), static_cast<std::size_t>(std::max(platz, 0)));
+    std::transform(alle.begin(), alle.begin() + static_cast<std::ptrdiff_t>(anzahl), zeiten,
+                   [](zeit_ms zeit) { return static_cast<int>(zeit); });
+    return static_cast<int>(alle.size());
 }
