@@ -2,7 +2,7 @@
 # Installs what is missing, builds the program and starts it. Without a screen, or on demand, a short race against a
 # simulated timing device shows it at work:
 #   ./run.sh                            the program, without a screen the demonstration
-#   ./run.sh vorfuehrung [cu|at2560|rc] the demonstration, with the one device or the other
+#   ./run.sh vorfuehrung [cu|at2560|rc|tk] the demonstration, with the one device or the other
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -17,10 +17,10 @@ vorfuehrung)
     shift
     vorfuehrung "$@"
     ;;
-cu | at2560 | rc) vorfuehrung "$@" ;;
+cu | at2560 | rc | tk) vorfuehrung "$@" ;;
 "") ;;
 *)
-    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560|rc]" >&2
+    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560|rc|tk]" >&2
     exit 2
     ;;
 esac

@@ -21,6 +21,10 @@ public:
         gegeben_.store(ort + 1, std::memory_order_release);
         return true;
     }
+    /// By the giver: there is no room.
+    bool voll() const {
+        return gegeben_.load(std::memory_order_relaxed) - genommen_.load(std::memory_order_acquire) == platz;
+    }
     std::optional<T> nehmen() {
         const std::size_t ort = genommen_.load(std::memory_order_relaxed);
         if (ort == gegeben_.load(std::memory_order_acquire)) {

@@ -182,7 +182,8 @@ optionsseite_zeiger messhardware() {
     race_control(*seite);
     druckeranschluss(*seite);
     modul_4x4_seite(*seite);
-    seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk, &tk::tk_datei), 60);
+    seite->gruppe("Timekeeper", 1) << text({"tk_datei", "Einstellungsdatei"}, wert(&e::tk, &tk::tk_datei), 60)
+                                   << aktion({"tk_einrichten", "Timekeeper einrichten"});
     control_unit(*seite);
     at_2560(*seite);
     return seite;

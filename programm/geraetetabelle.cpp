@@ -1,6 +1,7 @@
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
+#include "programm/timekeeper_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -14,7 +15,8 @@ std::unique_ptr<geraeteverdrahtung> anlegen(const geraete_umgebung& um, messgera
 
 const std::vector<geraet_anlegen>& geraetetabelle() {
     static const std::vector<geraet_anlegen> tabelle{anlegen<control_unit_verdrahtung>, anlegen<at2560_verdrahtung>,
-                                                     anlegen<race_control_verdrahtung>};
+                                                     anlegen<race_control_verdrahtung>,
+                                                     anlegen<timekeeper_verdrahtung>};
     return tabelle;
 }
 

@@ -1,5 +1,6 @@
 #include "programm/at2560_verdrahtung.h"
 #include "tests/optionen_probe.h"
+#include "tests/plattform/test_ftdi.h"
 
 namespace tarvel {
 namespace {
@@ -110,6 +111,8 @@ TEST_F(Optionen, GesperrterAnschlussWirdGenannt) {
 
 TEST_F(Optionen, EineMesshardwareZurZeit) {
     t.maschine.anschluesse.da = {einst.uart.uart_port};
+    const test::test_ftdi ftdi;
+    ftdi.eintragen(t.maschine.bibliotheken);
     for (const std::size_t nummer : {1U, 3U, 4U, 5U, 6U, 7U, 0U}) {
         fenster.hardware.at(nummer).umschalten();
         uebernehmen();
@@ -119,7 +122,7 @@ TEST_F(Optionen, EineMesshardwareZurZeit) {
                   1);
         EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? modul_4x4::modus_1 : modul_4x4::aus);
         EXPECT_EQ(einst.hardware.hw_simulation, nummer == 0 || nummer > 5) << nummer;
-        const std::string zusatz = nummer == 5 ? ": Kein Modus" : nummer == 6 ? " – keine Verbindung" : "";
+        const std::string zusatz = nummer == 5 ? ": Analog" : nummer == 6 ? " – keine Verbindung" : "";
         EXPECT_EQ(t.p.form1.modus_label.text(), t.p.txt.hardware_name.at(nummer) + zusatz);
     }
 }

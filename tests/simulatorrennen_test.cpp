@@ -1,8 +1,10 @@
 #include "programm/control_unit_verdrahtung.h"
+#include "tests/plattform/test_ftdi.h"
 #include "tests/programm_probe.h"
 #include "tools/simulator/at2560.h"
 #include "tools/simulator/at2560_pins.h"
 #include "tools/simulator/control_unit.h"
+#include "tools/simulator/timekeeper.h"
 
 namespace tarvel::test {
 namespace {
@@ -201,6 +203,67 @@ TEST_F(Simulatorrennen, At2560DreissigMinuten) {
     laufen(4000);
     rennen_fahren("30");
     vergleichen(30);
+}
+
+struct ftdi_kabel {
+    test_ftdi ftdi;  // outlives the program
+};
+
+struct Timekeeperrennen : ftdi_kabel, Simulatorrennen {
+    void einstecken(const simulator::rennen_einstellung& rennen, const std::string& datei) {
+        ftdi.eintragen(t.maschine.bibliotheken);
+        ftdi.geraet = [this](std::string_view bytes) { geraet->empfangen(bytes); };
+        t.maschine.datei_schreiben("tvk_tk.tk", datei);
+        t.p.einst.hardware = {};
+        t.p.einst.hardware.hw_timekeeper = true;
+        anschliessen(std::make_unique<simulator::timekeeper>(rennen));
+        geraet->senden = [this](std::string_view bytes) { ftdi.wartet += bytes; };
+        laufen(4000);
+    }
+    static simulator::rennen_einstellung sechs_wagen(int gang_ppm) {
+        simulator::rennen_einstellung rennen;
+        rennen.wagen.resize(6);
+        rennen.gang_ppm = gang_ppm;
+        rennen.uhr_start = 77000;
+        return rennen;
+    }
+};
+
+TEST_F(Timekeeperrennen, DreissigMinutenMitChaos) {
+    simulator::rennen_einstellung rennen = sechs_wagen(150);
+    rennen.wagen[2].chaos_promille = 30;
+    einstecken(rennen, simulator::timekeeper_datei());
+    rennen_fahren("30");
+    EXPECT_GE(pausen.size(), 4U) << "nobody has pressed";
+    laufen(zeit_ms{10} * 60 * 1000);
+    vergleichen(30);
+}
+
+TEST_F(Timekeeperrennen, EineSchiefeUhrUndEinRechnerDerStehtVerschiebenKeineRunde) {
+    for (const int gang_ppm : {-5000, 5000}) {
+        einstecken(sechs_wagen(gang_ppm), simulator::timekeeper_datei());
+        starten("5");
+        laufen(15000);
+        for (const zeit_ms dauer : {300, 2300, 7000}) {
+            rechner_steht(dauer);
+            laufen(21000);
+        }
+        pause_machen(20000);
+        laufen(zeit_ms{5} * 60 * 1000);
+        vergleichen(5);
+        t.p.fenster.entladen(fenstername::auswertung);
+        t.p.fenster.entladen(fenstername::bahn1);
+        pausen.clear();
+    }
+}
+
+TEST_F(Timekeeperrennen, ImDigitalmodusFahrenSechsWagenUeberEinenSensor) {
+    std::string datei = simulator::timekeeper_datei();
+    datei.replace(datei.find("1\r\n16"), 1, "2");
+    einstecken(sechs_wagen(0), datei);
+    starten("5");
+    laufen(zeit_ms{6} * 60 * 1000);
+    vergleichen(5);
 }
 
 }  // namespace

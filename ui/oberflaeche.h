@@ -6,6 +6,7 @@
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
 #include "programm/race_control_verdrahtung.h"
+#include "programm/timekeeper_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -26,6 +27,7 @@
 #include "ui/tagesrennen_fenster.h"
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
+#include "ui/timekeeper_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
@@ -68,6 +70,8 @@ public:
     SpaetesFenster<UartEinstellungenFenster> uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen,
                                                                 fenster, &einstellungen};
     SpaetesFenster<RcFenster> rc{p_.geraete.von<race_control_verdrahtung>().rc_einstellungen, fenster, &einstellungen};
+    SpaetesFenster<TimekeeperFenster> timekeeper{p_.geraete.von<timekeeper_verdrahtung>().tk_einstellungen, fenster,
+                                                 &einstellungen};
     SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
                                                             fenster, &form1};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};

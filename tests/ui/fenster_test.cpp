@@ -39,6 +39,7 @@ protected:
         t.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
         std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
+        t.p.fenster.zeigen(fenstername::timekeeper);
         const std::vector<ui::Fenster*> alle = alle_fenster();
         ASSERT_EQ(alle.size(), 27U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));

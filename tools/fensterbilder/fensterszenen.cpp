@@ -2,6 +2,7 @@
 
 #include "programm/at2560_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
+#include "tests/plattform/test_ftdi.h"
 
 namespace tarvel {
 namespace {
@@ -89,7 +90,22 @@ const std::vector<szeneneintrag> alle{
          auto& fenster = b.p.geraete.von<race_control_verdrahtung>().rc_einstellungen;
          fenster.oeffnen("COM7");
          fenster.doInit.klicken();
-         return b.o.rc;
+         return *b.o.rc;
+     }},
+    {"timekeeper",
+     [](buehne& b) -> QWidget& {
+         static test::test_ftdi ftdi;
+         ftdi.eintragen(b.t.maschine.bibliotheken);
+         b.p.fenster.zeigen(fenstername::timekeeper);
+         ftdi.wartet = "\x02Timekeeper_active\x03\x02V1.42\x03";
+         for (int i = 0; i < 30; ++i) {
+             ftdi.wartet +=
+                 "\x02"
+                 "D" +
+                 std::to_string(1 + i % 14) + '\x17' + std::to_string(4711 + i * 617) + '\x03';
+             b.t.maschine.laufen(60);
+         }
+         return *b.o.timekeeper;
      }},
     {"auswertung",
      [](buehne& b) -> QWidget& {

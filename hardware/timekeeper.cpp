@@ -1,0 +1,258 @@
+#include "hardware/timekeeper.h"
+
+#include <algorithm>
+#include <string_view>
+#include <variant>
+
+namespace tarvel {
+namespace {
+
+using plattform::zeitgeber_art;
+
+constexpr dauer_ms erste_abgleiche_takt{200};
+constexpr int erste_abgleiche = 6;
+constexpr dauer_ms abgleich_takt{10000};
+constexpr zeit_ms still_ms = 25000;  // two of its answers are missing
+constexpr zeit_ms abfragepause_ms = 100;
+constexpr ereignis_art erster_chaostaster = 54;
+constexpr ereignis_art letzter_chaostaster = 59;
+
+std::string mit_nummer(const std::string& was, int nummer, const char* zustand) {
+    return was + std::to_string(nummer) + zustand;
+}
+
+}  // namespace
+
+std::string tk_schaltbefehl(const schaltung& befehl) {
+    using ausgang = schaltung::ausgang;
+    const char* zustand = befehl.an ? "on" : "off";
+    switch (befehl.was) {
+        case ausgang::ampel_rot:
+            return befehl.nummer == 0 ? std::string("ampelnR") + zustand : mit_nummer("ampelR", befehl.nummer, zustand);
+        case ausgang::ampel_gruen:
+            return std::string("ampelnGR") + zustand;
+        case ausgang::bahnstrom:
+            return befehl.nummer == 0 ? std::string("relais_") + zustand : mit_nummer("relais", befehl.nummer, zustand);
+        case ausgang::chaosanzeige:
+            return std::string("ampelnGE") + zustand;
+        case ausgang::rennende:
+            break;
+    }
+    return std::string("raceEnd") + zustand;
+}
+
+timekeeper::timekeeper(const umgebung& um, const plattform::dienste& dienste)
+    : um_(um),
+      uhr_(dienste.uhr),
+      meldungen_(dienste.meldungen),
+      leitung_(dienste),
+      tk_timer1_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{1000})),
+      tk_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{5})),
+      tk_sync_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, abgleich_takt)) {
+    tk_timer1_->bei_tick = [this] { tk_timer1_tick(); };
+    tk_timer_->bei_tick = [this] { tk_timer_tick(); };
+    tk_sync_->bei_tick = [this] { tk_sync_tick(); };
+    leitung_.melden = [this](const std::string& zeile) { letzte_zeile_ = zeile; };
+}
+
+void timekeeper::profil_laden() {
+    const std::string& stamm = um_.einst.tk.tk_datei;
+    profil_ = {};
+    if (!um_.ablage.gibt_es(tk_dateiname(stamm)) && !tk_profil_speichern(um_.ablage, stamm, profil_)) {
+        meldungen_.zeigen(um_.txt.meldung[22], um_.txt.titel[1]);
+    } else if (!tk_profil_laden(um_.ablage, stamm, profil_)) {
+        meldungen_.zeigen(um_.txt.meldung[23], um_.txt.titel[1]);
+    }
+    um_.einst.hardware.tk_spurmodus = profil_.modus;
+}
+
+bool timekeeper::oeffnen() {
+    schliessen();
+    profil_laden();
+    gewuenscht_ = kanal_oeffnen();
+    if (!gewuenscht_) {
+        um_.bedienung.nicht_zu_oeffnen(*this, um_.nicht_da() + "\n\n" + letzte_zeile_);
+    }
+    return gewuenscht_;
+}
+
+bool timekeeper::kanal_oeffnen() {
+    if (!leitung_.oeffnen()) {
+        return false;
+    }
+    empfang_.leeren();
+    geraeteuhr_.vergessen();
+    gehoert_ = uhr_.jetzt();
+    tk_timer1_->an();
+    tk_timer_->an();
+    return true;
+}
+
+void timekeeper::schliessen() {
+    gewuenscht_ = false;
+    tk_timer1_->aus();
+    tk_timer_->aus();
+    tk_sync_->aus();
+    leitung_.schliessen();
+    geraeteuhr_.vergessen();
+}
+
+bool timekeeper::verbunden() const {
+    return leitung_.offen() && !leitung_.gestoert() && uhr_.jetzt() - gehoert_ <= still_ms;
+}
+
+void timekeeper::wieder_aufnehmen() {
+    if (gewuenscht_ && !verbunden()) {
+        schliessen();
+        kanal_oeffnen();
+        gewuenscht_ = true;
+    }
+}
+
+void timekeeper::rennfenster_offen() {
+    im_rennen_ = false;
+    wieder_aufnehmen();
+    if (gewuenscht_ && !verbunden()) {
+        um_.bedienung.port_fehlt(um_.weg());
+    }
+}
+
+void timekeeper::tk_timer1_tick() {
+    tk_timer1_->aus();
+    leitung_.senden("activate");
+    leitung_.senden("timest_start");
+    for (const std::string_view befehl : tk_modusbefehle(profil_.modus)) {
+        leitung_.senden(befehl);
+    }
+    um_.ausgaben.wiederholen();  // what was switched before has not reached it
+    abgleiche_ = 0;
+    tk_sync_->intervall(erste_abgleiche_takt);
+    tk_sync_->an();
+}
+
+void timekeeper::tk_sync_tick() {
+    leitung_.senden("get_timest");
+    if (++abgleiche_ == erste_abgleiche) {
+        tk_sync_->intervall(abgleich_takt);
+    }
+}
+
+std::optional<zeit_ms> timekeeper::uhr_lesen() {
+    if (geraeteuhr_.bekannt()) {
+        leitung_.senden("get_timest");
+    }
+    return std::nullopt;
+}
+
+void timekeeper::tk_timer_tick() {
+    const bool rennen_fragt = im_rennen_ && um_.rennen.rennen_laeuft();
+    if (!rennen_fragt && uhr_.jetzt() - letzte_abfrage_ > abfragepause_ms) {
+        while (satz_verarbeiten()) {
+        }
+    }
+    if (leitung_.gestoert()) {
+        const bool war_gewuenscht = gewuenscht_;
+        schliessen();
+        gewuenscht_ = war_gewuenscht;
+        um_.bedienung.verloren();
+    }
+}
+
+/// One event a tick, so that a race sees each of them.
+void timekeeper::abfragen() {
+    letzte_abfrage_ = uhr_.jetzt();
+    satz_verarbeiten();
+}
+
+/// Takes what waits up to the first event. False if there was none.
+bool timekeeper::satz_verarbeiten() {
+    while (true) {
+        if (const auto inhalt = empfang_.naechster()) {
+            const tk::satz satz = tk::satz_lesen(*inhalt, profil_.digital());
+            if (std::visit([this](const auto& eines) { return verarbeiten(eines); }, satz)) {
+                um_.rennen.ereignisse_gemeldet();
+                return true;
+            }
+        } else if (const auto stueck = leitung_.lesen()) {
+            angekommen_ = gehoert_ = stueck->stempel;
+            empfang_.anhaengen(stueck->text());
+        } else {
+            return false;
+        }
+    }
+}
+
+bool timekeeper::verarbeiten(const tk::gestoert& /*satz*/) {
+    ++verworfen_;
+    return false;
+}
+
+bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
+    const tk_uhr::befund befund = geraeteuhr_.aufnehmen(angekommen_, satz.zeit);
+    if (befund == tk_uhr::befund::fraglich) {
+        leitung_.senden("get_timest");
+        return false;
+    }
+    const zeit_ms stand = geraeteuhr_.lesen(uhr_.jetzt());
+    if (befund == tk_uhr::befund::neu) {
+        const zeit_ms um = stand - um_.zeit.messzeit_lesen();
+        um_.zeit.stellen(stand, geraeteuhr_.gang());
+        um_.rennen.stempel_verschieben(um);
+    } else if (!um_.rennen.pause()) {  // what has been measured of it must not change underneath
+        um_.zeit.nachstellen(stand, geraeteuhr_.gang());
+    }
+    return false;
+}
+
+bool timekeeper::verarbeiten(const tk::chaostaste& /*satz*/) {
+    melden(art::chaostaster, jetzt_bei_ankunft());
+    return true;
+}
+
+bool timekeeper::verarbeiten(const tk::sensor& satz) {
+    const ereignis_art art = profil_.modus == spurmodus::keiner ? 0 : profil_.art_von(satz);
+    if (art == 0) {
+        return false;
+    }
+    const zeit_ms stempel = stempel_von(satz.zeit);
+    if (art >= erster_chaostaster && art <= letzter_chaostaster) {
+        um_.ereignisse.chaos_fahrer[art - erster_chaostaster + 1] = true;
+        melden(art::chaostaster, stempel);
+    } else {
+        melden(art, stempel);
+    }
+    return true;
+}
+
+void timekeeper::melden(ereignis_art art, zeit_ms stempel) {
+    const bool ist_runde =
+        std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), art) != art::rundenzaehlung.end();
+    if (ist_runde && um_.rennen.pause()) {
+        um_.ereignisse.ueberfahrt_melden(art, stempel);  // in a pause these have an order of their own
+    } else if (um_.ereignisse[art].aktiv) {
+        return;  // the first stamp holds
+    } else if (ist_runde) {
+        um_.ereignisse.ueberfahrt_melden(art, stempel);
+    } else {
+        um_.ereignisse.ereignis_melden(art, stempel);
+    }
+}
+
+/// The race's clock as what is being taken was there.
+zeit_ms timekeeper::jetzt_bei_ankunft() const {
+    return um_.zeit.messzeit_lesen() - (uhr_.jetzt() - angekommen_);
+}
+
+zeit_ms timekeeper::stempel_von(zeit_ms geraetezeit) {
+    if (geraeteuhr_.glaubhaft(geraetezeit, angekommen_)) {
+        geraeteuhr_.gesehen(geraetezeit);
+        return geraetezeit;
+    }
+    if (geraeteuhr_.bekannt()) {  // damaged, or its clock has begun anew: the answer tells
+        ++verworfen_;
+        leitung_.senden("get_timest");
+    }
+    return jetzt_bei_ankunft();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "hardware/ftd2xx.h"
+#include "hardware/uebergabe.h"
+#include "platform/dienste.h"
+
+namespace tarvel {
+
+/// What a box has said in one piece, and when that was there.
+struct tk_stueck {
+    static constexpr std::size_t platz = 250;
+
+    std::string_view text() const { return {bytes.data(), laenge}; }
+
+    zeit_ms stempel = 0;  ///< machine's clock
+    std::size_t laenge = 0;
+    std::array<char, platz> bytes{};
+};
+
+/// The channel to a Timekeeper. A thread of its own reads, so that each piece is stamped as it arrives; the program
+/// takes the pieces and writes.
+class tk_leitung {
+public:
+    explicit tk_leitung(const plattform::dienste& dienste)
+        : bibliotheken_(dienste.bibliotheken), abtaster_dienst_(dienste.abtaster) {}
+    tk_leitung(const tk_leitung&) = delete;
+    tk_leitung& operator=(const tk_leitung&) = delete;
+    ~tk_leitung() { schliessen(); }
+
+    std::function<void(const std::string&)> melden;  ///< a line about what was done, or failed
+
+    bool oeffnen();
+    void schliessen();
+    bool offen() const { return griff_ != nullptr; }
+    /// The box is gone: the calls fail.
+    bool gestoert() const;
+    /// Puts the text into its frame and writes it. False if there is no box, or it does not take it.
+    bool senden(std::string_view text);
+    /// The next piece; none if nothing waits.
+    std::optional<tk_stueck> lesen() { return stuecke_.nehmen(); }
+
+    /// Status of the last reading that failed, once; 0 none.
+    ftd2xx::status lesefehler_abholen() { return lesefehler_.exchange(ftd2xx::gut); }
+    /// The same of the question how much waits.
+    ftd2xx::status wartefehler_abholen() { return wartefehler_.exchange(ftd2xx::gut); }
+
+private:
+    static constexpr std::size_t stuecke_max = 128;
+
+    void sagen(const std::string& zeile) const;
+    std::optional<int> geraet_suchen() const;
+    bool einstellen();
+    void nachsehen(zeit_ms jetzt);
+
+    plattform::bibliothek_dienst& bibliotheken_;
+    plattform::abtaster_dienst& abtaster_dienst_;
+    ftd2xx ft_;
+    ftd2xx::griff griff_ = nullptr;
+    bool schreiben_misslang_ = false;
+    uebergabe<tk_stueck, stuecke_max> stuecke_;
+    std::atomic<int> fehler_in_folge_ = 0;
+    std::atomic<ftd2xx::status> lesefehler_ = ftd2xx::gut;
+    std::atomic<ftd2xx::status> wartefehler_ = ftd2xx::gut;
+    std::unique_ptr<schnittstelle> abtaster_;  ///< looks while the channel is open
+};
+
+}  // namespace tarvel

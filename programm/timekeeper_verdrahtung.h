@@ -1,0 +1,32 @@
+#pragma once
+
+#include "hardware/timekeeper.h"
+#include "hardware/tk_einstellungen.h"
+#include "programm/geraeteverdrahtung.h"
+
+namespace tarvel {
+
+/// The Timekeeper and its window.
+class timekeeper_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+public:
+    timekeeper_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
+
+    messgeraet& geraet() override { return tk; }
+    void beenden() override { tk_einstellungen.zugang = nullptr; }
+
+    tarvel::tk_einstellungen tk_einstellungen;  ///< has the words that the device needs
+    timekeeper tk;
+
+private:
+    void geraet_trennen() override { tk.schliessen(); }
+    void geraet_verbinden() override;
+    int verworfene_saetze() const override { return tk.verworfene_saetze(); }
+    bool einstellungen_speichern() override;
+
+    const einstellungen& einst_;
+    tarvel::einstellungsfenster& optionen_;
+    einstellungspflege& pflege_;
+    messgeraete& alle_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,164 @@
+#include "ui/timekeeper_fenster.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "hardware/tk_einstellungen.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int sensoren_je_spalte = 8;
+constexpr int lampengroesse = 14;
+constexpr int ergebnisbreite = 92;
+constexpr int eingabebreite = 196;
+constexpr int schmaler_knopf = 62;
+
+QPushButton* schmal(QPushButton* knopf) {
+    knopf->setFixedWidth(schmaler_knopf);
+    knopf->setStyleSheet("padding-left: 2px; padding-right: 2px;");
+    return knopf;
+}
+
+}  // namespace
+
+TimekeeperFenster::TimekeeperFenster(tk_einstellungen& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(6);
+    auto* oben = new QHBoxLayout;
+    oben->addWidget(modusgruppe(), 1);
+    oben->addWidget(firmwaregruppe());
+    aufbau->addLayout(oben);
+    aufbau->addWidget(sensorgruppe());
+    auto* unten = new QHBoxLayout;
+    for (QWidget* schalter : {ampelgruppe(), relaisgruppe()}) {
+        auto* spalte = new QVBoxLayout;
+        spalte->addWidget(schalter);
+        spalte->addStretch();
+        unten->addLayout(spalte);
+    }
+    unten->addWidget(protokollgruppe(), 1);
+    aufbau->addLayout(unten, 1);
+    aufbau->addLayout(fuss());
+    resize(1000, 700);
+}
+
+QWidget* TimekeeperFenster::modusgruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_modus, "Frame_modus");
+    auto* zeile = new QHBoxLayout(kasten);
+    for (std::size_t i = 0; i < logik_.Option.size(); ++i) {
+        zeile->addWidget(binder().wahlknopf(logik_.Option.at(i), "Option" + QString::number(i + 1)));
+    }
+    zeile->addStretch();
+    return kasten;
+}
+
+QWidget* TimekeeperFenster::sensorgruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_sensoren, "Frame_sensoren");
+    auto* spalten = new QHBoxLayout(kasten);
+    QGridLayout* raster = nullptr;
+    for (std::size_t i = 0; i < logik_.kanaele.size(); ++i) {
+        const int reihe = static_cast<int>(i) % sensoren_je_spalte;
+        if (reihe == 0) {
+            raster = new QGridLayout;
+            raster->setVerticalSpacing(1);
+            raster->setColumnStretch(2, 1);
+            spalten->addLayout(raster, 1);
+        }
+        auto& k = logik_.kanaele.at(i);
+        const QString nummer = "_" + QString::number(i + 1);
+        auto* lampe = new QLabel(kasten);
+        lampe->setFixedSize(lampengroesse, lampengroesse);
+        binder().verbinden(k.lampe, lampe, "lampe" + nummer,
+                           [&k, lampe] { stil::fleck_faerben(lampe, k.lampe.hintergrund().value_or(0)); });
+        raster->addWidget(lampe, reihe, 0);
+        raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
+        QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
+        wahl->setMinimumContentsLength(10);
+        wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        raster->addWidget(wahl, reihe, 2);
+        QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
+        ergebnis->setFixedWidth(ergebnisbreite);
+        raster->addWidget(ergebnis, reihe, 3);
+    }
+    return kasten;
+}
+
+QWidget* TimekeeperFenster::ampelgruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_ampel, "Frame_ampel");
+    auto* raster = new QGridLayout(kasten);
+    raster->setVerticalSpacing(2);
+    for (std::size_t i = 0; i < logik_.ampel_check.size(); ++i) {
+        raster->addWidget(binder().kasten(logik_.ampel_check.at(i), "ampel_check_" + QString::number(i + 1)),
+                          static_cast<int>(i) / 2, static_cast<int>(i) % 2);
+    }
+    raster->addWidget(binder().knopf(logik_.ampel_alle_an, "ampel_alle_an"), 4, 0);
+    raster->addWidget(binder().knopf(logik_.ampel_alle_aus, "ampel_alle_aus"), 4, 1);
+    return kasten;
+}
+
+QWidget* TimekeeperFenster::relaisgruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_relais, "Frame_relais");
+    auto* raster = new QGridLayout(kasten);
+    raster->setVerticalSpacing(2);
+    for (const int spur : alle_spuren) {
+        raster->addWidget(binder().kasten(logik_.relais_check[spur], "relais_check_" + QString::number(spur)),
+                          (spur - 1) / 2, (spur - 1) % 2);
+    }
+    raster->addWidget(binder().knopf(logik_.relais_alle_an, "relais_alle_an"), 3, 0);
+    raster->addWidget(binder().knopf(logik_.relais_alle_aus, "relais_alle_aus"), 3, 1);
+    return kasten;
+}
+
+QWidget* TimekeeperFenster::firmwaregruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_firmware, "Frame_firmware");
+    auto* zeile = new QHBoxLayout(kasten);
+    QLabel* anzeige = binder().label(logik_.firmware, "firmware");
+    anzeige->setMinimumWidth(60);
+    zeile->addWidget(anzeige, 1);
+    zeile->addWidget(binder().knopf(logik_.firmware_lesen, "firmware_lesen"));
+    return kasten;
+}
+
+QWidget* TimekeeperFenster::protokollgruppe() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_log, "Frame_log");
+    auto* spalte = new QVBoxLayout(kasten);
+    spalte->addWidget(binder().listenfeld(logik_.List1, "List1"), 1);
+    auto* zeile = new QHBoxLayout;
+    zeile->addWidget(binder().label(logik_.Label_command, "Label_command"));
+    QLineEdit* eingabe = binder().zeile(logik_.tk_command, "tk-command");
+    QObject::connect(eingabe, &QLineEdit::returnPressed, eingabe, [this] { logik_.Send.klicken(); });
+    zeile->addWidget(eingabe, 1);
+    zeile->addWidget(binder().knopf(logik_.Send, "Send"));
+    zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
+    spalte->addLayout(zeile);
+    zeile = new QHBoxLayout;
+    zeile->setSpacing(4);
+    for (const int spur : alle_spuren) {
+        zeile->addWidget(schmal(binder().knopf(logik_.debug_open[spur], "debug_open_" + QString::number(spur))));
+    }
+    zeile->addWidget(schmal(binder().knopf(logik_.debug_close, "debug_close")));
+    zeile->addStretch();
+    spalte->addLayout(zeile);
+    return kasten;
+}
+
+QLayout* TimekeeperFenster::fuss() {
+    auto* zeile = new QHBoxLayout;
+    zeile->addWidget(binder().label(logik_.Label_datei, "Label_datei"));
+    QLineEdit* datei = binder().zeile(logik_.tk_datei, "tk_datei");
+    datei->setFixedWidth(eingabebreite);
+    zeile->addWidget(datei);
+    zeile->addWidget(binder().knopf(logik_.Laden, "Laden"));
+    zeile->addWidget(binder().knopf(logik_.Werkseinstellungen, "Werkseinstellungen"));
+    zeile->addStretch();
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Abbrechen, "Abbrechen")));
+    zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Speichern, "Speichern")));
+    return zeile;
+}
+
+}  // namespace tarvel::ui
