@@ -59,6 +59,14 @@ TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
     EXPECT_EQ(gespeichert.size(), 10000U);
 }
 
+TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
+    zeigen(3);
+    ASSERT_TRUE(fenster.isModal());
+    klick(fenster, "w_auswertung2.Command13");
+    setzen_lassen();
+    EXPECT_EQ(QApplication::activeWindow(), &o.w_ausw_debug);
+}
+
 TEST_F(Ergebnisfenster, SeitenFuerDieWandVerlierenNiemand) {
     ui::vergleichsbild_inhalt vergleich;
     vergleich.fahrer.assign(40, {"Anna", 5, 8000, 8100, 8200, 8300, 8400});
