@@ -20,6 +20,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int dateispalte_breite = 236;
+constexpr int dateispalte_breite_max = 400;
 constexpr int einzug_px = 6;
 constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
 constexpr double schrift_min_px = 13;
@@ -84,6 +85,7 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
 QWidget* WAuswertung2Fenster::dateispalte() {
     auto* feld = new QWidget(this);
     feld->setFixedWidth(dateispalte_breite);
+    dateispalte_ = feld;
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(6);
@@ -103,6 +105,7 @@ QWidget* WAuswertung2Fenster::dateispalte() {
     QListView* dateien = binder().listenfeld(logik_.File1, "File1");
     dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    dateien->setItemDelegate(new Dateinamen(dateien));
     aufbau->addWidget(dateien, 1);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(8);
@@ -267,6 +270,7 @@ void WAuswertung2Fenster::aufschlagen() {
 
 void WAuswertung2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
+    dateispalte_->setFixedWidth(std::clamp(width() * 23 / 100, dateispalte_breite, dateispalte_breite_max));
     skalieren();
 }
 
@@ -318,7 +322,7 @@ vergleichsbild_inhalt WAuswertung2Fenster::vergleich_bilden() const {
             logik_.einst().trennzeichen,
             text(wort.titel),
             text(logik_.kopf()),
-            text(logik_.vergleicht_runden() ? wort.achse_runden : wort.achse_beste),
+            text(logik_.vergleichsachse()),
             text(wort.beste),
             text(wort.median),
             text(wort.streuung),
