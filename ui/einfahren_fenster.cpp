@@ -165,7 +165,7 @@ void EinfahrenFenster::resizeEvent(QResizeEvent* ereignis) {
     einheit_->setSchriftPx(hoch * 6 / 100);
     ende_->setSchriftPx(hoch * 11 / 100);
     weiter_->setSchriftPx(hoch * 5 / 100);
-    zeit_->setSchriftPx(hoch * 52 / 100);
+    zeit_->setSchriftPx(hoch * 42 / 100);
     for (const Spurfeld& felder : spurfelder_) {
         felder.nummer->setSchriftPx(hoch * 6 / 100);
         felder.fahrer->setSchriftPx(hoch * 5 / 100);
