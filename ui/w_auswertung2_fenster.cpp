@@ -20,7 +20,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int dateispalte_breite = 236;
-constexpr int dateispalte_breite_max = 400;
+constexpr int dateispalte_breite_max = 460;
 constexpr int einzug_px = 6;
 constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
 constexpr double schrift_min_px = 13;
@@ -105,6 +105,7 @@ QWidget* WAuswertung2Fenster::dateispalte() {
     QListView* dateien = binder().listenfeld(logik_.File1, "File1");
     dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    dateien->setUniformItemSizes(false);  // the longest name says how far to scroll
     dateien->setItemDelegate(new Dateinamen(dateien));
     aufbau->addWidget(dateien, 1);
     auto* knoepfe = new QHBoxLayout;
@@ -270,7 +271,7 @@ void WAuswertung2Fenster::aufschlagen() {
 
 void WAuswertung2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    dateispalte_->setFixedWidth(std::clamp(width() * 23 / 100, dateispalte_breite, dateispalte_breite_max));
+    dateispalte_->setFixedWidth(std::clamp(width() * 25 / 100, dateispalte_breite, dateispalte_breite_max));
     skalieren();
 }
 
