@@ -132,6 +132,7 @@ TEST_F(Tagesrennen, FremdeDateiUndUnmoeglicherNameWerdenNichtBenutzt) {
     t.maschine.meldungen_gezeigt.clear();
     f.Command18.klicken();
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    EXPECT_TRUE(f.Label_lf_hinweis.schriftfarbe()) << "what is missing is seen";
     EXPECT_FALSE(offen(fenstername::bahn1));
     EXPECT_EQ(t.maschine.datei_lesen(samstag), "fremd\r\n");
 }

@@ -54,7 +54,7 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     EXPECT_EQ(letzte_meldung(), "Keine Datei ausgewählt!");
     w.Command19[1].klicken();
     waehlen("mai.csv");
-    w.Command4.klicken();
+    w.Command2.klicken();  // to nothing
     EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
     EXPECT_EQ(namen(), "  A   B   C   A ") << "as they were driven";
     waehlen("kaputt.csv");
@@ -105,6 +105,7 @@ TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
         EXPECT_EQ(t.maschine.fragen_gestellt.back(),
                   (test::test_plattform::meldung{"Klasse in den Vergleich einbeziehen?", "Vergleichsmethode wählen"}));
         EXPECT_EQ(namen(), mit_klasse ? "1.A 2.C 1.A 2.B " : "1.A 2.C 1.B ");
+        EXPECT_EQ(w.Label_datei.text().find("ohne Klassen") == std::string::npos, mit_klasse);
     }
     EXPECT_NE(w.auswertung_schoen.zeilen().front().find("1:00:22,000"), std::string::npos);
 }
@@ -192,6 +193,7 @@ TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
     w.korrektur.meter_berechnen.klicken();
     w.korrektur.Command14.klicken();
     speichern_als("neu");
+    EXPECT_EQ(w.Label_datei.text().substr(0, 7), "neu.csv") << "what is in memory now";
     const auto felder = felder_teilen(gelesen("neu.csv").at(2), ";");
     EXPECT_EQ((textzeilen{felder[2], felder[3], felder[9], felder[10], felder[16], felder[22]}),
               (textzeilen{"14", "14", "175", "175", "00:08,001", "01:38,765"}));
