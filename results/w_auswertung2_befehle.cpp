@@ -101,7 +101,9 @@ void w_auswertung2::fahrer_addieren() {
         hinweisen(wort_.summe_zu_lang);
     }
     tabelle_->gekuerzt = tabelle_->gekuerzt || schon_gekuerzt;
-    sortieren(*tabelle_, sortieren_nach());
+    if (tabelle_->zeilen.size() > 1) {  // a line alone stays as it is, also in the way its place is written
+        sortieren(*tabelle_, sortieren_nach());
+    }
     tabelle_neu();
 }
 

@@ -54,6 +54,7 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     t.maschine.laufen(1000);
     EXPECT_FALSE(t.maschine.datei_da(samstag)) << "a name that is being typed makes no file";
     f.Check1.umschalten();
+    EXPECT_TRUE(f.lstb_klasse[1].aktiviert() && !f.lstb_klasse[2].aktiviert());
     klasse(0, "B");
     f.Command18.klicken();
     EXPECT_EQ(letzte_meldung(), "Bitte Klasse auswählen oder deaktivieren.");

@@ -199,6 +199,17 @@ TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
               (textzeilen{"14", "14", "175", "175", "00:08,001", "01:38,765"}));
 }
 
+TEST_F(Ergebnisbetrachter, EineZeileAlleinAendertSichBeimAddierenNicht) {
+    const auto wettkampf = test::wettkampf_mit(wettkampf_modus::rotation, 2, {1, 2});
+    auto zeilen = tabelle_schreiben(wettkampf, {}, trennzeichen_standard);
+    zeilen.erase(zeilen.begin() + 3);
+    ablegen("allein.csv", zeilen);
+    zeigen("allein.csv");
+    w.Command20.klicken();
+    speichern_als("danach");
+    EXPECT_EQ(gelesen("danach.csv"), gelesen("allein.csv"));
+}
+
 TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
     tag_ablegen("lang.csv", textzeilen(10000, abend[0]));
     tag_ablegen("voll.csv", textzeilen(9999, abend[1]));
@@ -280,6 +291,7 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     EXPECT_EQ(gezeichnet, 4);
     w.Command20.klicken();
     EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
+    EXPECT_NE(w.Label_datei.text().find("gleiche Fahrer addiert"), std::string::npos) << "nothing about classes";
 }
 
 TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {
