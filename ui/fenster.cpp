@@ -55,7 +55,8 @@ void Fenster::nach_vorn_lassen() {
     QWidget* gefragt = QApplication::activeModalWidget();
     if (gefragt != nullptr && gefragt->isVisible() && !gehoert_zu(this, gefragt)) {
         QTimer::singleShot(0, gefragt, [gefragt] {  // the desktop has not done with this window yet
-            if (gefragt == QApplication::activeModalWidget()) {
+            const bool vorn = gehoert_zu(QApplication::activeWindow(), gefragt);  // meanwhile, or what it has opened
+            if (!vorn && gefragt == QApplication::activeModalWidget()) {
                 gefragt->raise();
                 gefragt->activateWindow();
             }

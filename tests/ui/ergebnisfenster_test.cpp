@@ -61,8 +61,9 @@ TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
 
 TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
     zeigen(3);
-    ASSERT_TRUE(fenster.isModal());
+    ASSERT_TRUE(fenster.isModal() && QTest::qWaitForWindowActive(&fenster));
     klick(fenster, "w_auswertung2.Command13");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.w_ausw_debug));
     setzen_lassen();
     EXPECT_EQ(QApplication::activeWindow(), &o.w_ausw_debug);
 }
