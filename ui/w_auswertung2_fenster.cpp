@@ -288,7 +288,8 @@ void WAuswertung2Fenster::skalieren() {
     QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     schrift.setPixelSize(probe_px);
     const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px;
-    const double platz = zeilen_->viewport()->width() - 2 * einzug_px - 8;
+    const int rollbalken = zeilen_->verticalScrollBar()->sizeHint().width();  // comes only after the lines
+    const double platz = zeilen_->contentsRect().width() - rollbalken - 2 * einzug_px - 8;
     const double passend = platz / (je_px * static_cast<double>(std::max<std::size_t>(zeichen, 60)));
     schrift.setPixelSize(static_cast<int>(std::clamp(passend, schrift_min_px, schrift_max_px)));
     kopf_->setSchrift(schrift);
