@@ -70,7 +70,8 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
 
     oeffnen();
     EXPECT_EQ(f.Label_lf_hinweis.text(), "verwende bestehende Datei - Datei bereit");
-    EXPECT_EQ(f.ergebnisse.zeilen().size(), 2U);
+    EXPECT_EQ(f.ergebnisse.zeilen(), (zeilen{"B   Anna             1       25,00    00:06,000  00:06,000",
+                                             "9   Ben              0       0,00     00:00,000  00:00,000"}));
     EXPECT_NE(f.Label_bisher[0].text().find("00:06,000"), std::string::npos);
     f.Text_fahrer[0].eingeben("Carl");
     EXPECT_EQ(f.lstb_klasse[0].platz(), -1) << "Anna's class is not his";
