@@ -273,6 +273,8 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     EXPECT_FALSE(w.cbo_rennen.sichtbar());
     waehlen("zwei.csv");
     w.Command2.klicken();
+    w.Command10.klicken();
+    EXPECT_EQ(w.auswertung_schoen.zeilen().at(5), "Rennen            1          1          2          2");
     int gezeichnet = 0;
     w.zeichnen = [&] { ++gezeichnet; };
     w.Command_blick[1].klicken();
