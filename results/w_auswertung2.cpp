@@ -341,14 +341,6 @@ std::vector<fahrerstreuung> w_auswertung2::vergleich() const {
     return tabelle_ ? fahrervergleich(*tabelle_) : std::vector<fahrerstreuung>{};
 }
 
-const std::string& w_auswertung2::vergleichsachse() const {
-    const auto& v = vergleichswort;
-    if (tabelle_ && vergleicht_runden(*tabelle_)) {
-        return v.achse_runden;
-    }
-    return tabelle_ && tabelle_->addiert ? v.achse_addiert : v.achse_beste;
-}
-
 std::string w_auswertung2::kopf() const {
     if (!tabelle_ || !rennen_) {
         return Label_datei.text();

@@ -100,4 +100,12 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
         Command20);
 }
 
+const std::string& w_auswertung2::vergleichsachse() const {
+    const auto& v = vergleichswort;
+    if (tabelle_ && vergleicht_runden(*tabelle_)) {
+        return v.achse_runden;
+    }
+    return tabelle_ && tabelle_->addiert ? v.achse_addiert : v.achse_beste;
+}
+
 }  // namespace tarvel
