@@ -65,9 +65,10 @@ void einfahren::laden() {
 void einfahren::anzeigen_aufstellen() {
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
-        Frame[i].sichtbar(nach_runden_ && um_.param.spur_aktiv[nummer]);
+        Frame[i].sichtbar(um_.param.spur_aktiv[nummer]);
         spur[i].text(std::to_string(nummer));
         fahrer[i].text(um_.param.fahrer_name[nummer]);
+        runden[i].sichtbar(nach_runden_);
         runden[i].schriftfarbe(um_.einst.farben_spur[nummer]);
         runden[i].ansage(um_.bahn.wort.spur + " " + std::to_string(nummer) + ": " + wort_runden_);
     }

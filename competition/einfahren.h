@@ -26,10 +26,10 @@ public:
 
     bezeichnung Label12;          ///< what the window is about
     bezeichnung Label_einheit;    ///< what the numbers count
-    je_spur<rahmen> Frame;        ///< all of a lane; hidden where nobody warms up, and by time
+    je_spur<rahmen> Frame;        ///< all of a lane; hidden where nobody warms up
     je_spur<bezeichnung> spur;    ///< its number
     je_spur<bezeichnung> fahrer;  ///< its driver
-    je_spur<bezeichnung> runden;  ///< laps left, in the colour of the lane
+    je_spur<bezeichnung> runden;  ///< laps left, in the colour of the lane; hidden by time
     bezeichnung zeitanzeige;      ///< seconds left
     form zeitbalken;              ///< the same as the part of the whole, up to 1
     bezeichnung labelende;

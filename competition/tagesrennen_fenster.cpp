@@ -179,6 +179,7 @@ void tagesrennen_fenster::datei_geaendert() {
 void tagesrennen_fenster::datei_pruefen() {
     const auto zustand = tagesdatei_pruefen(um_.welt.ablage, dateiname());
     const bool bereit = !dateiname().empty() && zustand == tagesdatei_zustand::bereit;
+    Label_lf_hinweis.schriftfarbe({});
     if (dateiname().empty()) {
         Label_lf_hinweis.text(wort_.name_fehlt);
     } else if (zustand == tagesdatei_zustand::neu) {
@@ -197,8 +198,10 @@ void tagesrennen_fenster::datei_pruefen() {
 void tagesrennen_fenster::zeilen_zeigen() {
     ergebnisse.leeren();
     for (const tageszeile& z : zeilen_) {
+        std::string meter = z.meter;
+        std::replace(meter.begin(), meter.end(), '.', ',');  // as everywhere on the screen
         ergebnisse.hinzufuegen(
-            spalten({z.klasse == "0" ? "" : z.klasse, z.name, z.runden, z.meter, z.beste}, z.gesamtzeit));
+            spalten({z.klasse == "0" ? "" : z.klasse, z.name, z.runden, meter, z.beste}, z.gesamtzeit));
     }
     ergebnisse.markieren(static_cast<int>(zeilen_.size()) - 1);
     for (std::size_t i = 0; i < Text_fahrer.size(); ++i) {
@@ -277,6 +280,7 @@ void tagesrennen_fenster::starten() {
     }
     if (dateiname().empty()) {
         Label_lf_hinweis.text(wort_.name_fehlt);
+        Label_lf_hinweis.schriftfarbe(farben::rot);
         text_lf_datei.fokus_setzen();
         return;
     }

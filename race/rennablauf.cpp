@@ -26,6 +26,7 @@ void rennablauf::laden() {
     t_.ansicht.geraetealarm_setzen("");
     rennen_zuruecksetzen();
     vor_dem_start();
+    (mit_einfahrzeit() ? um_.bahn.Command6 : um_.bahn.Command1).fokus_setzen();
     t_.blinken.beginnen();
     um_.quellen.melden(&messquelle::rennfenster_offen);
 }
@@ -36,7 +37,6 @@ void rennablauf::vor_dem_start() {
     um_.bahn.Command3.aktiviert(false);
     um_.bahn.Command4.aktiviert(false);
     um_.bahn.Command6.aktiviert(true);
-    (mit_einfahrzeit() ? um_.bahn.Command6 : um_.bahn.Command1).fokus_setzen();
 }
 
 void rennablauf::entladen() {

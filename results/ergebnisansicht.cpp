@@ -102,8 +102,10 @@ private:
         wertespalten();
     }
 
+    bool mehrere_rennen() const { return t_.rennen.size() > 1 && !t_.addiert; }
+
     void rennspalten() {
-        if (t_.rennen.size() > 1 && !t_.addiert) {
+        if (mehrere_rennen()) {
             spalten_.push_back({wort_.rennen, 8, false, [](const ergebniszeile& zeile, const fahrerzeile& /*fahrer*/) {
                                     return std::to_string(zeile.rennen + 1);
                                 }});
@@ -146,7 +148,10 @@ private:
             }
         }
         if (t_.typ == ergebnis_typ::einzelrennen && wahl_.meter) {
-            const auto wie_er_steht = [](const std::string& feld) { return feld.empty() ? nichts : feld + " m"; };
+            const auto wie_er_steht = [](std::string feld) {
+                std::replace(feld.begin(), feld.end(), '.', ',');  // as all the others
+                return feld.empty() ? nichts : feld + " m";
+            };
             blockspalte(wort_.laenge, 12, blockreihe::spurlaenge, 1, wie_er_steht);
             blockspalte(wort_.restmeter, 12, blockreihe::restmeter, 1, wie_er_steht);
         }
@@ -193,12 +198,17 @@ private:
     void rundentabelle(ergebnisansicht& ansicht) const {
         constexpr std::size_t erste = 5;
         std::string kopf = linksbuendig(wort_.runde, erstes_feld + 3);
+        std::string rennen = linksbuendig(wort_.rennen, erstes_feld + 3);
         std::size_t reihen = 0;
         for (const auto& [nummer, fahrer] : fahrer_) {
+            rennen += rechtsbuendig(std::to_string(t_.zeilen[nummer].rennen + 1), rundenspalte);
             kopf += rechtsbuendig(links(fahrer.felder[fahrer.spalten.name], rundenspalte - 2), rundenspalte);
             reihen = std::max(reihen, fahrer.felder.size() - erste);
         }
         ansicht.zeilen.push_back({});
+        if (mehrere_rennen()) {
+            ansicht.zeilen.push_back({std::move(rennen), true});
+        }
         ansicht.zeilen.push_back({std::move(kopf), true});
         for (std::size_t runde = 0; runde < reihen; ++runde) {
             std::string text = linksbuendig(runde == 0 ? wort_.start : std::to_string(runde) + ".", erstes_feld + 3);

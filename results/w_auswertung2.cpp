@@ -63,7 +63,11 @@ void w_auswertung2::befehle_verbinden() {
     Command4.bei_klick = [mit_datei] { mit_datei(&w_auswertung2::oeffnen); };
     Command2.bei_klick = [mit_datei] { mit_datei(&w_auswertung2::dazu); };
     for (std::size_t i = 0; i < Command_blick.size(); ++i) {
-        Command_blick.at(i).bei_klick = [this, i] { blicken(static_cast<blick>(i)); };
+        Command_blick.at(i).bei_klick = [this, i] {
+            blicken(static_cast<blick>(i));
+            const bool tabelle = blick_ == blick::tabelle;  // never on to the printer
+            (tabelle ? static_cast<steuerelement&>(auswertung_schoen) : Command_blick[0]).fokus_setzen();
+        };
     }
     cbo_rennen.bei_aenderung = [this] { rennen_zeigen(); };
     Command10.bei_klick = [this] { details_umschalten(0); };
@@ -200,6 +204,7 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
     if (auto neue = tabelle_von(pfad, abdruck)) {
         tabelle_ = std::move(neue);
         korrigiert_ = false;
+        klassen_vereint_ = false;
         for (haken& kasten : Check1) {
             kasten.gesetzt(true);  // what was left out was so in the file before
         }
@@ -258,27 +263,35 @@ void w_auswertung2::tabelle_anzeigen() {
     ansicht_ = tabelle_ ? ergebnisansicht_bilden(*tabelle_, ansicht_wort_, details_) : ergebnisansicht{};
     Label_kopf.text(ansicht_.kopf.text);
     std::vector<std::string> zeilen;
-    std::size_t eintraege = 0;
     for (const ergebnisansicht::zeile& zeile : ansicht_.zeilen) {
         zeilen.push_back(zeile.text);
-        eintraege += zeile.ergebnis ? 1 : 0;
     }
     fuellen(auswertung_schoen, zeilen);
-    std::string text = wort_.keine_tabelle;
-    if (tabelle_) {
-        text = name_von(dateien_.front());
-        if (const std::size_t mehr = dateien_.size() - 1; mehr > 0) {
-            text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
-        }
-        text += "  ·  " + wort_.art.at(static_cast<std::size_t>(tabelle_->typ)) + "  ·  " + std::to_string(eintraege) +
-                " " + wort_.eintraege + (tabelle_->addiert ? "  ·  " + wort_.addiert : "");
-    }
-    Label_datei.text(text);
+    datei_nennen();
     if (um_.welt.fenster.ist_offen(fenstername::w_ausw_debug)) {
         debug_.zeilen_zeigen(tabelle_ ? tabelle_->alle_zeilen() : std::vector<std::string>{});
     }
     details_zeigen();
     bedienung_einrichten();
+}
+
+void w_auswertung2::datei_nennen() {
+    if (!tabelle_) {
+        Label_datei.text(wort_.keine_tabelle);
+        return;
+    }
+    const auto eintraege = std::count_if(ansicht_.zeilen.begin(), ansicht_.zeilen.end(),
+                                         [](const auto& zeile) { return zeile.ergebnis.has_value(); });
+    std::string text = name_von(dateien_.front());
+    if (const std::size_t mehr = dateien_.size() - 1; mehr > 0) {
+        text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
+    }
+    text += "  ·  " + wort_.art.at(static_cast<std::size_t>(tabelle_->typ)) + "  ·  " + std::to_string(eintraege) +
+            " " + wort_.eintraege;
+    if (tabelle_->addiert) {
+        text += "  ·  " + (klassen_vereint_ ? wort_.addiert_alle : wort_.addiert);
+    }
+    Label_datei.text(text);
 }
 
 void w_auswertung2::details_umschalten(std::size_t welche) {

@@ -95,7 +95,8 @@ public:
     bool ist_kopf(std::size_t zeile) const { return zeile < ansicht_.zeilen.size() && ansicht_.zeilen[zeile].kopf; }
     const std::optional<rennergebnis>& rennen() const { return rennen_; }
     std::vector<fahrerstreuung> vergleich() const;
-    bool vergleicht_runden() const { return tabelle_ && tarvel::vergleicht_runden(*tabelle_); }
+    /// What its times are.
+    const std::string& vergleichsachse() const;
     const einstellungen& einst() const { return um_.einst; }
     /// What was driven, and when; over the sheet and the charts.
     std::string kopf() const;
@@ -107,7 +108,7 @@ public:
     diagramm_worte diagramm;
     blatt_worte blatt;
     struct {
-        std::string titel, beste, median, streuung, zeiten, achse_runden, achse_beste, leer;
+        std::string titel, beste, median, streuung, zeiten, achse_runden, achse_beste, achse_addiert, leer;
     } vergleichswort;
 
 private:
@@ -115,7 +116,7 @@ private:
         std::string titel, keine_datei, dateifehler, anderer_typ, nicht_sortierbar, klasse_fragen, klasse_titel;
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
         std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
-        std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, rennen;
+        std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
         std::string debug_auf, debug_zu;
         std::array<std::string, 3> wertung;
         std::array<std::array<std::string, 2>, 3> details;  ///< in, out
@@ -150,6 +151,7 @@ private:
     void korrektur_beenden();
     std::string namensvorschlag() const;
     void speichern_oeffnen(bool auswahl);
+    void speichern_schliessen();
     void speichern();
     bool darf_schreiben(const std::string& pfad);
     std::vector<std::string> zu_speichern() const;
@@ -159,6 +161,8 @@ private:
     bool darf_verwerfen();
     void tabelle_neu();
     void tabelle_anzeigen();
+    /// Over the table: what is in memory.
+    void datei_nennen();
     void klassen_zeigen();
     std::set<std::string> ausgelassene_klassen() const;
     void details_umschalten(std::size_t welche);
@@ -181,8 +185,9 @@ private:
     detailwahl details_;
     blick blick_ = blick::tabelle;
     std::optional<rennergebnis> rennen_;
-    bool nur_auswahl_ = false;  ///< is to be saved
-    bool korrigiert_ = false;   ///< and not saved since
+    bool nur_auswahl_ = false;      ///< is to be saved
+    bool korrigiert_ = false;       ///< and not saved since
+    bool klassen_vereint_ = false;  ///< drivers were added up whatever their class
 };
 
 }  // namespace tarvel

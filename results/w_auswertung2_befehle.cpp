@@ -45,10 +45,7 @@ void w_auswertung2::speicherbefehle_verbinden() {
     Command16.bei_klick = [this] { speichern_oeffnen(false); };
     Command6.bei_klick = [this] { speichern_oeffnen(true); };
     Command17.bei_klick = [this] { speichern(); };
-    Command12.bei_klick = [this] {
-        Frame7.sichtbar(false);
-        bedienung_einrichten();
-    };
+    Command12.bei_klick = [this] { speichern_schliessen(); };
 }
 
 sortier_modus w_auswertung2::sortieren_nach() const {
@@ -99,11 +96,14 @@ void w_auswertung2::fahrer_addieren() {
                             um_.welt.meldungen.fragen(wort_.klasse_fragen, wort_.klasse_titel);
     const bool schon_gekuerzt = std::exchange(tabelle_->gekuerzt, false);
     gleiche_fahrer_addieren(*tabelle_, mit_klasse);
+    klassen_vereint_ = klassen_vereint_ || (tabelle_->typ == ergebnis_typ::tagesrennen && !mit_klasse);
     if (tabelle_->gekuerzt) {
         hinweisen(wort_.summe_zu_lang);
     }
     tabelle_->gekuerzt = tabelle_->gekuerzt || schon_gekuerzt;
-    sortieren(*tabelle_, sortieren_nach());
+    if (tabelle_->zeilen.size() > 1) {  // a line alone stays as it is, also in the way its place is written
+        sortieren(*tabelle_, sortieren_nach());
+    }
     tabelle_neu();
 }
 
@@ -164,6 +164,12 @@ void w_auswertung2::speichern_oeffnen(bool auswahl) {
     Text3.fokus_setzen();
 }
 
+void w_auswertung2::speichern_schliessen() {
+    Frame7.sichtbar(false);
+    bedienung_einrichten();
+    (nur_auswahl_ ? Command6 : Command16).fokus_setzen();
+}
+
 std::vector<std::string> w_auswertung2::zu_speichern() const {
     if (!nur_auswahl_) {
         return tabelle_->alle_zeilen();
@@ -219,12 +225,15 @@ void w_auswertung2::speichern() {
     if (const auto geschrieben = datei_lesen(pfad)) {
         abdruecke_[pfad] = geschrieben->abdruck;
     }
-    korrigiert_ = korrigiert_ && nur_auswahl_;
-    Frame7.sichtbar(false);
+    if (!nur_auswahl_) {
+        dateien_ = {pfad};
+        korrigiert_ = false;
+        datei_nennen();
+    }
     ordner_zeigen(ordner_);
     const auto& namen = File1.zeilen();
     File1.markieren(static_cast<int>(std::find(namen.begin(), namen.end(), name) - namen.begin()));
-    bedienung_einrichten();
+    speichern_schliessen();
 }
 
 void w_auswertung2::debug_umschalten() {

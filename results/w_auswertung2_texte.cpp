@@ -92,6 +92,20 @@ void w_auswertung2::dateitexte(sprachliste& texte) {
         "Zusammen sind es mehr Runden, als eine Datei fasst. Die Summen stimmen, die letzten Rundenzeiten fehlen.",
         wort_.summe_zu_lang);
     texte.tipp("Korrektur eintragen", korrektur.Command14);
+    texte.text("ohne Klassen addiert", wort_.addiert_alle);
+    texte.text("beste Runden in Sekunden; vom Addieren bleibt nur die jeweils schnellste", v.achse_addiert);
+    texte.tipp(
+        "Ein Eintrag je Fahrer mit Summe und bester Runde. Im Tagesrennen: Wird die Klasse nicht einbezogen, zählen "
+        "gleiche Namen aller Klassen als ein Fahrer.",
+        Command20);
+}
+
+const std::string& w_auswertung2::vergleichsachse() const {
+    const auto& v = vergleichswort;
+    if (tabelle_ && vergleicht_runden(*tabelle_)) {
+        return v.achse_runden;
+    }
+    return tabelle_ && tabelle_->addiert ? v.achse_addiert : v.achse_beste;
 }
 
 }  // namespace tarvel

@@ -131,7 +131,7 @@ TEST_F(Einfahren, ZeitInSekundenVonHandBeendetUndVonSelbst) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
     oeffnen();
     EXPECT_EQ(f.zeitanzeige.text(), "60");
-    EXPECT_FALSE(f.Frame[0].sichtbar());
+    EXPECT_TRUE(f.Frame[0].sichtbar() && !f.runden[0].sichtbar()) << "who drives";
     EXPECT_FALSE(geraet.ist_an(ausgang::bahnstrom, 1)) << "power, with the wiring turned round";
     for (int runde = 0; runde < 3; ++runde) {
         t.maschine.laufen(6000);

@@ -255,6 +255,11 @@ TEST(Ergebnistabelle, KorrekturAendertNurWasAndersIst) {
         const auto spalten = *spalten_von(t.typ, neue.size());
         EXPECT_EQ(neue.at(spalten.name), "Ben  der Neue");
         EXPECT_EQ(ergebnisrunden_lesen(neue.at(spalten.runden.ab)), eintrag.runden[0]);
+        if (t.typ == ergebnis_typ::einzelrennen) {  // its lane's own block too
+            const rennblock& block = t.zeilen[1].block;
+            EXPECT_EQ(blockfeld(block, blockreihe::fahrer, 0, ";"), neue.at(spalten.name));
+            EXPECT_EQ(blockfeld(block, blockreihe::rundenzahl, 1, ";"), neue.at(spalten.runden.ab));
+        }
         neue[spalten.name] = felder[spalten.name];
         neue[spalten.runden.ab] = felder[spalten.runden.ab];
         EXPECT_EQ(neue, felder);

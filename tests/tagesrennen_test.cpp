@@ -54,6 +54,7 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     t.maschine.laufen(1000);
     EXPECT_FALSE(t.maschine.datei_da(samstag)) << "a name that is being typed makes no file";
     f.Check1.umschalten();
+    EXPECT_TRUE(f.lstb_klasse[1].aktiviert() && !f.lstb_klasse[2].aktiviert());
     klasse(0, "B");
     f.Command18.klicken();
     EXPECT_EQ(letzte_meldung(), "Bitte Klasse auswählen oder deaktivieren.");
@@ -69,7 +70,8 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
 
     oeffnen();
     EXPECT_EQ(f.Label_lf_hinweis.text(), "verwende bestehende Datei - Datei bereit");
-    EXPECT_EQ(f.ergebnisse.zeilen().size(), 2U);
+    EXPECT_EQ(f.ergebnisse.zeilen(), (zeilen{"B   Anna             1       25,00    00:06,000  00:06,000",
+                                             "9   Ben              0       0,00     00:00,000  00:00,000"}));
     EXPECT_NE(f.Label_bisher[0].text().find("00:06,000"), std::string::npos);
     f.Text_fahrer[0].eingeben("Carl");
     EXPECT_EQ(f.lstb_klasse[0].platz(), -1) << "Anna's class is not his";
@@ -132,6 +134,7 @@ TEST_F(Tagesrennen, FremdeDateiUndUnmoeglicherNameWerdenNichtBenutzt) {
     t.maschine.meldungen_gezeigt.clear();
     f.Command18.klicken();
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    EXPECT_TRUE(f.Label_lf_hinweis.schriftfarbe()) << "what is missing is seen";
     EXPECT_FALSE(offen(fenstername::bahn1));
     EXPECT_EQ(t.maschine.datei_lesen(samstag), "fremd\r\n");
 }

@@ -54,7 +54,7 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     EXPECT_EQ(letzte_meldung(), "Keine Datei ausgewählt!");
     w.Command19[1].klicken();
     waehlen("mai.csv");
-    w.Command4.klicken();
+    w.Command2.klicken();  // to nothing
     EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
     EXPECT_EQ(namen(), "  A   B   C   A ") << "as they were driven";
     waehlen("kaputt.csv");
@@ -105,6 +105,7 @@ TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
         EXPECT_EQ(t.maschine.fragen_gestellt.back(),
                   (test::test_plattform::meldung{"Klasse in den Vergleich einbeziehen?", "Vergleichsmethode wählen"}));
         EXPECT_EQ(namen(), mit_klasse ? "1.A 2.C 1.A 2.B " : "1.A 2.C 1.B ");
+        EXPECT_EQ(w.Label_datei.text().find("ohne Klassen") == std::string::npos, mit_klasse);
     }
     EXPECT_NE(w.auswertung_schoen.zeilen().front().find("1:00:22,000"), std::string::npos);
 }
@@ -192,9 +193,21 @@ TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
     w.korrektur.meter_berechnen.klicken();
     w.korrektur.Command14.klicken();
     speichern_als("neu");
+    EXPECT_EQ(w.Label_datei.text().substr(0, 7), "neu.csv") << "what is in memory now";
     const auto felder = felder_teilen(gelesen("neu.csv").at(2), ";");
     EXPECT_EQ((textzeilen{felder[2], felder[3], felder[9], felder[10], felder[16], felder[22]}),
               (textzeilen{"14", "14", "175", "175", "00:08,001", "01:38,765"}));
+}
+
+TEST_F(Ergebnisbetrachter, EineZeileAlleinAendertSichBeimAddierenNicht) {
+    const auto wettkampf = test::wettkampf_mit(wettkampf_modus::rotation, 2, {1, 2});
+    auto zeilen = tabelle_schreiben(wettkampf, {}, trennzeichen_standard);
+    zeilen.erase(zeilen.begin() + 3);
+    ablegen("allein.csv", zeilen);
+    zeigen("allein.csv");
+    w.Command20.klicken();
+    speichern_als("danach");
+    EXPECT_EQ(gelesen("danach.csv"), gelesen("allein.csv"));
 }
 
 TEST_F(Ergebnisbetrachter, MehrAls10000ZeilenWerdenGesagtUndNieUeberschrieben) {
@@ -260,6 +273,8 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     EXPECT_FALSE(w.cbo_rennen.sichtbar());
     waehlen("zwei.csv");
     w.Command2.klicken();
+    w.Command10.klicken();
+    EXPECT_EQ(w.auswertung_schoen.zeilen().at(5), "Rennen            1          1          2          2");
     int gezeichnet = 0;
     w.zeichnen = [&] { ++gezeichnet; };
     w.Command_blick[1].klicken();
@@ -278,6 +293,7 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     EXPECT_EQ(gezeichnet, 4);
     w.Command20.klicken();
     EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
+    EXPECT_NE(w.Label_datei.text().find("gleiche Fahrer addiert"), std::string::npos) << "nothing about classes";
 }
 
 TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {

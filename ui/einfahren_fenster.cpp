@@ -63,7 +63,7 @@ EinfahrenFenster::EinfahrenFenster(einfahren& logik, Fensterverwaltung& verwaltu
     aufbau->addWidget(titel_, 10);
     spuren_ = spuren();
     aufbau->addWidget(spuren_, 64);
-    aufbau->addWidget(zeit(), 64);
+    aufbau->addWidget(zeit(), 48);
     einheit_->setFett(false);
     aufbau->addWidget(einheit_, 14);  // one of these two is to be seen
     faerben(ende_, QColor(200, 0, 0));
@@ -126,8 +126,9 @@ QWidget* EinfahrenFenster::zeit() {
     aufbau->addWidget(zeit_, 85);
     zeitbalken_ = new Zeitbalken(logik_.zeitbalken, this);
     binder().verbinden(logik_.zeitbalken, zeitbalken_, "zeitbalken", [this, kasten] {
-        kasten->setVisible(logik_.zeitbalken.sichtbar());  // one of the two, or they share the room
-        spuren_->setVisible(!logik_.zeitbalken.sichtbar());
+        const bool nach_zeit = logik_.zeitbalken.sichtbar();
+        kasten->setVisible(nach_zeit);
+        static_cast<QVBoxLayout*>(layout())->setStretchFactor(spuren_, nach_zeit ? 16 : 64);  // without their laps
         zeitbalken_->update();
     });
     aufbau->addWidget(zeitbalken_, 15);
@@ -164,7 +165,7 @@ void EinfahrenFenster::resizeEvent(QResizeEvent* ereignis) {
     einheit_->setSchriftPx(hoch * 6 / 100);
     ende_->setSchriftPx(hoch * 11 / 100);
     weiter_->setSchriftPx(hoch * 5 / 100);
-    zeit_->setSchriftPx(hoch * 52 / 100);
+    zeit_->setSchriftPx(hoch * 42 / 100);
     for (const Spurfeld& felder : spurfelder_) {
         felder.nummer->setSchriftPx(hoch * 6 / 100);
         felder.fahrer->setSchriftPx(hoch * 5 / 100);

@@ -10,6 +10,17 @@
 #include <algorithm>
 
 namespace tarvel::ui {
+namespace {
+
+/// `QWidget::isAncestorOf` ends at the edge of a window.
+bool gehoert_zu(const QWidget* fenster, const QWidget* offen) {
+    while (fenster != nullptr && fenster != offen) {
+        fenster = fenster->parentWidget();
+    }
+    return fenster == offen;
+}
+
+}  // namespace
 
 Fenster::Fenster(fensterlogik& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
     : QWidget(eltern, Qt::Window),
@@ -42,9 +53,10 @@ bool Fenster::event(QEvent* ereignis) {
 
 void Fenster::nach_vorn_lassen() {
     QWidget* gefragt = QApplication::activeModalWidget();
-    if (gefragt != nullptr && gefragt->isVisible() && gefragt != this && !gefragt->isAncestorOf(this)) {
+    if (gefragt != nullptr && gefragt->isVisible() && !gehoert_zu(this, gefragt)) {
         QTimer::singleShot(0, gefragt, [gefragt] {  // the desktop has not done with this window yet
-            if (gefragt == QApplication::activeModalWidget()) {
+            const bool vorn = gehoert_zu(QApplication::activeWindow(), gefragt);  // meanwhile, or what it has opened
+            if (!vorn && gefragt == QApplication::activeModalWidget()) {
                 gefragt->raise();
                 gefragt->activateWindow();
             }

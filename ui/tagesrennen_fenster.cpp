@@ -51,7 +51,16 @@ QWidget* TagesrennenFenster::dateigruppe() {
     zeile->addWidget(binder().zeile(logik_.text_lf_datei, "text_lf_datei"), 1);
     zeile->addWidget(binder().label(logik_.Label18, "Label18"));
     aufbau->addLayout(zeile);
-    aufbau->addWidget(stil::leise(binder().label(logik_.Label_lf_hinweis, "Label_lf_hinweis")));
+    auto* hinweis = stil::leise(new QLabel(this));
+    hinweis->setTextFormat(Qt::PlainText);
+    bezeichnung& zustand = logik_.Label_lf_hinweis;
+    binder().verbinden(zustand, hinweis, "Label_lf_hinweis", [&zustand, hinweis] {
+        const auto farbe = zustand.schriftfarbe();
+        hinweis->setText(QString::fromStdString(zustand.text()));
+        hinweis->setStyleSheet(farbe ? QString("color: %1; font-weight: bold;").arg(stil::farbe_von(*farbe).name())
+                                     : QString());
+    });
+    aufbau->addWidget(hinweis);
     return gruppe;
 }
 

@@ -114,8 +114,9 @@ private:
             text({hier - 2 * zeile_, feld_.bottom() + zeile_ * 0.15, 4 * zeile_, zeile_ * 0.7}, Qt::AlignHCenter,
                  sprache.toString(wert / 1000, 'f', stellen), false, stil::schrift_leise, 0.4);
         }
-        text({feld_.left(), feld_.bottom() + zeile_ * 0.75, feld_.width(), zeile_ * 0.8}, Qt::AlignHCenter, i_.achse,
-             false, stil::schrift_leise, 0.4);
+        const double halb = feld_.center().x() - f_.left();  // as wide as it can be in the middle of the axis
+        text({f_.left(), feld_.bottom() + zeile_ * 0.75, 2 * halb, zeile_ * 0.8}, Qt::AlignHCenter, i_.achse, false,
+             stil::schrift_leise, 0.4);
     }
 
     void zeile(const fahrerstreuung& fahrer, double y, std::size_t nummer) {

@@ -20,6 +20,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int dateispalte_breite = 236;
+constexpr int dateispalte_breite_max = 460;
 constexpr int einzug_px = 6;
 constexpr int zellrand_px = 3;  // that Qt adds to the text of a cell
 constexpr double schrift_min_px = 13;
@@ -84,6 +85,7 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
 QWidget* WAuswertung2Fenster::dateispalte() {
     auto* feld = new QWidget(this);
     feld->setFixedWidth(dateispalte_breite);
+    dateispalte_ = feld;
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(6);
@@ -103,6 +105,8 @@ QWidget* WAuswertung2Fenster::dateispalte() {
     QListView* dateien = binder().listenfeld(logik_.File1, "File1");
     dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    dateien->setUniformItemSizes(false);  // the longest name says how far to scroll
+    dateien->setItemDelegate(new Dateinamen(dateien));
     aufbau->addWidget(dateien, 1);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(8);
@@ -267,6 +271,7 @@ void WAuswertung2Fenster::aufschlagen() {
 
 void WAuswertung2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
+    dateispalte_->setFixedWidth(std::clamp(width() * 25 / 100, dateispalte_breite, dateispalte_breite_max));
     skalieren();
 }
 
@@ -283,7 +288,8 @@ void WAuswertung2Fenster::skalieren() {
     QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     schrift.setPixelSize(probe_px);
     const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px;
-    const double platz = zeilen_->viewport()->width() - 2 * einzug_px - 8;
+    const int rollbalken = zeilen_->verticalScrollBar()->sizeHint().width();  // comes only after the lines
+    const double platz = zeilen_->contentsRect().width() - rollbalken - 2 * einzug_px - 8;
     const double passend = platz / (je_px * static_cast<double>(std::max<std::size_t>(zeichen, 60)));
     schrift.setPixelSize(static_cast<int>(std::clamp(passend, schrift_min_px, schrift_max_px)));
     kopf_->setSchrift(schrift);
@@ -318,7 +324,7 @@ vergleichsbild_inhalt WAuswertung2Fenster::vergleich_bilden() const {
             logik_.einst().trennzeichen,
             text(wort.titel),
             text(logik_.kopf()),
-            text(logik_.vergleicht_runden() ? wort.achse_runden : wort.achse_beste),
+            text(logik_.vergleichsachse()),
             text(wort.beste),
             text(wort.median),
             text(wort.streuung),

@@ -64,6 +64,7 @@ private:
     void pdf_speichern(const dateien& ablage);
 
     w_auswertung2& logik_;
+    QWidget* dateispalte_ = nullptr;
     Tabellenkopf* kopf_ = nullptr;
     QListView* zeilen_ = nullptr;
     Ergebniszeichner* zeichner_ = nullptr;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QWidget>
 #include <algorithm>
 #include <optional>
@@ -10,6 +14,19 @@
 #include "ui/stil.h"
 
 namespace tarvel::ui {
+
+/// The names of files: one that is wider than its list is told whole under the pointer.
+class Dateinamen final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* liste, const QStyleOptionViewItem& option,
+                   const QModelIndex& zelle) override {
+        const bool abgeschnitten = sizeHint(option, zelle).width() > liste->viewport()->width();
+        QToolTip::showText(ereignis->globalPos(), abgeschnitten ? zelle.data().toString() : QString(), liste);
+        return true;
+    }
+};
 
 /// The captions over the columns of a list: it moves sideways with them.
 class Tabellenkopf final : public QWidget {

@@ -59,6 +59,15 @@ TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
     EXPECT_EQ(gespeichert.size(), 10000U);
 }
 
+TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
+    zeigen(3);
+    ASSERT_TRUE(fenster.isModal() && QTest::qWaitForWindowActive(&fenster));
+    klick(fenster, "w_auswertung2.Command13");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.w_ausw_debug));
+    setzen_lassen();
+    EXPECT_EQ(QApplication::activeWindow(), &o.w_ausw_debug);
+}
+
 TEST_F(Ergebnisfenster, SeitenFuerDieWandVerlierenNiemand) {
     ui::vergleichsbild_inhalt vergleich;
     vergleich.fahrer.assign(40, {"Anna", 5, 8000, 8100, 8200, 8300, 8400});

@@ -87,6 +87,8 @@ TEST_F(Rennfenster, BeimEinfahrenZaehltDieTasteUndEscBeendetEs) {
     QTest::keyClick(&o.einfahren, Qt::Key_Escape);
     EXPECT_FALSE(o.einfahren.isVisible());
     EXPECT_EQ(t.runden(2), -1);
+    o.takt.ausfuehren();
+    EXPECT_EQ(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1")) << "the race is next";
 }
 
 TEST_F(Rennfenster, FenstermodusStattVollbild) {
