@@ -249,7 +249,8 @@ TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
     t.maschine.laufen(60000);
     EXPECT_FALSE(offen(fenstername::bahn1));
     t.p.wettkampf2.Command_namen_fertig.klicken();
-    t.p.wettkampf2.Command12.klicken();  // no power while the cars are placed
+    t.p.wettkampf2.Command_aushang.klicken();  // is for reading, and holds nobody up
+    t.p.wettkampf2.Command12.klicken();        // no power while the cars are placed
     EXPECT_FALSE(strom(1));
     t.maschine.laufen(6000);
     EXPECT_TRUE(offen(fenstername::bahn1));
