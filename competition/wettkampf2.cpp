@@ -105,7 +105,7 @@ void wettkampf2::felder_zeigen(feldgruppe welche) {
     Frame_blick.sichtbar(aushang || welche == feldgruppe::blick);
     Frame_liste.sichtbar(!aushang);
     Command_aushang.text(aushang ? wort_.rennliste : wort_.aushang);
-    Command_aushang.sichtbar(Frame_blick.sichtbar());
+    Command_aushang.aktiviert(Frame_blick.sichtbar());
     Frame_runden.sichtbar(welche == feldgruppe::runden);
     aendernframe.sichtbar(welche == feldgruppe::namen);
     if (welche == feldgruppe::runden) {

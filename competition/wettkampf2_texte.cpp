@@ -27,7 +27,7 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("Der Wettkampf ist noch nicht beendet. Wirklich beenden?", wort_.ende_frage);
     texte.text("Als Nächste an die Bahn:", Label_danach).text("Einsetzer:", wort_.einsetzer);
     texte.text("Der Wettkampf dauert noch etwa", Label_noch).text("Std.", wort_.stunden);
-    texte.text("Min.", wort_.minuten).text("Nächstes Rennen in Sekunden:", Label_warten);
+    texte.text("Min.", wort_.minuten).text("Start in Sekunden:", Label_warten);
     texte.text("Teil", wort_.teil).text("niemand", wort_.niemand);
     texte.text("Runden und Meter ändern", Frame_runden).text("Abend", Frame_blick).text("Rennen", wort_.liste);
     texte.text("Gruppenmodus, folgende Gruppenreihenfolge:", wort_.gruppenliste);
