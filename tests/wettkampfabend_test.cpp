@@ -120,6 +120,17 @@ TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
     }
 }
 
+TEST_F(Wettkampfabend, GesichertWirdNachDemRennenUndNieDarin) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    ASSERT_TRUE(abend.rennen_starten());
+    ASSERT_TRUE(t.p.ablage.loeschen(laufender_wettkampf));
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf)) << "no tick waits for the disk";
+    t.p.auswertung.Command5.klicken();
+    EXPECT_TRUE(t.p.ablage.gibt_es(laufender_wettkampf));
+}
+
 TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
     beginnen(wettkampf_modus::rotation, 4, {1, 2});
     ASSERT_TRUE(abend.rennen_starten());

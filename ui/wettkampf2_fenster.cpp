@@ -45,6 +45,9 @@ Wettkampf2Fenster::Wettkampf2Fenster(wettkampf2& logik, const dateien& ablage, F
     liste->addLayout(rennbefehle());
     binder().verbinden(logik_.Frame_liste, mitte, "Frame_liste", [this] { skalieren(); });
     aufbau->addWidget(mitte, 4);
+    QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
+    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
+    aufbau->addWidget(fehler);  // below whatever is shown: in the automatic flow no box tells of it
     aufbau->addLayout(fuss());
 }
 
@@ -204,10 +207,6 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     aufbau->setSpacing(4);
     auto* kopf = new QHBoxLayout;
     kopf->addWidget(binder().label(logik_.Label_liste, "Label_liste"));
-    QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
-    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
-    kopf->addSpacing(24);
-    kopf->addWidget(fehler);
     kopf->addStretch(1);
     kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
     aufbau->addLayout(kopf);

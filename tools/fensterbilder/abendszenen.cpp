@@ -142,7 +142,6 @@ const std::vector<szeneneintrag> alle{
     {"wettkampf2_aushang",
      [](buehne& b) -> QWidget& {
          QWidget& fenster = wettkampf2_zeigen(b, lange_namen(gefahren(m::rotation, 20, {1, 2, 3, 4, 5, 6}, 4)));
-         b.p.einst.w_autom = true;
          b.p.wettkampf2.Command_aushang.klicken();
          return fenster;
      }},
