@@ -38,6 +38,10 @@ abendblick abend_blicken(const wettkampf& w) {
             blick.einsetzer.push_back(w.name(platz));
         }
     }
+    const auto& bald = blick.als_naechste;
+    std::stable_partition(blick.einsetzer.begin(), blick.einsetzer.end(), [&](const std::string& name) {
+        return std::find(bald.begin(), bald.end(), name) == bald.end();
+    });
     if (const auto& dauern = w.renndauern; !dauern.empty()) {
         const zeit_ms summe = std::accumulate(dauern.begin(), dauern.end(), zeit_ms{0});
         blick.dauert_noch = summe / static_cast<zeit_ms>(dauern.size()) * blick.noch;

@@ -16,7 +16,7 @@ struct abendblick {
     spuren<std::string> faehrt;
     int naechstes_rennen = 0;  ///< 0 for none
     spuren<std::string> als_naechste;
-    std::vector<std::string> einsetzer;  ///< drivers who do not drive now
+    std::vector<std::string> einsetzer;  ///< drivers who do not drive now, first those who need not be ready soon
     std::optional<zeit_ms> dauert_noch;  ///< none before a race has been driven
 };
 

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t namensbreite = 15;
 constexpr std::size_t markenbreite = 6;
 constexpr std::string_view zwischen_namen = "   ";
-constexpr std::size_t namen_max = 8;  // more of them nobody reads from the track
+constexpr std::size_t einsetzer_zeichen_max = 72;  // more have no room in letters that the track can read
 constexpr std::string_view keine_beste = "99 : 99 , 999";
 
 bool in_gruppen(wettkampf_modus modus) {
@@ -64,6 +64,9 @@ void wettkampf2::befehle_verbinden() {
     Command14.bei_klick = [this] { felder_zeigen(feldgruppe::namen); };
     Command_uebernehmen.bei_klick = [this] { korrektur_uebernehmen(); };
     Command_runden_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
+    Command_aushang.bei_klick = [this] {
+        felder_zeigen(offen_ == feldgruppe::aushang ? feldgruppe::blick : feldgruppe::aushang);
+    };
     Command_umbenennen.bei_klick = [this] { umbenennen(); };
     Command_namen_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
     List1.bei_auswahl = [this] { rennen_gewaehlt(); };
@@ -98,7 +101,11 @@ void wettkampf2::laden() {
 
 void wettkampf2::felder_zeigen(feldgruppe welche) {
     offen_ = welche;
-    Frame_blick.sichtbar(welche == feldgruppe::blick);
+    const bool aushang = welche == feldgruppe::aushang;
+    Frame_blick.sichtbar(aushang || welche == feldgruppe::blick);
+    Frame_liste.sichtbar(!aushang);
+    Command_aushang.text(aushang ? wort_.rennliste : wort_.aushang);
+    Command_aushang.aktiviert(Frame_blick.sichtbar());
     Frame_runden.sichtbar(welche == feldgruppe::runden);
     aendernframe.sichtbar(welche == feldgruppe::namen);
     if (welche == feldgruppe::runden) {
@@ -121,8 +128,9 @@ void wettkampf2::stand_zeigen() {
 }
 
 void wettkampf2::wartezeit_zeigen() {
+    Label_warten.sichtbar(abend_.wartet_auf_rennen());
     Label_wartezeit.sichtbar(abend_.wartet_auf_rennen());
-    Label_wartezeit.text(wort_.wartezeit + " " + std::to_string(abend_.wartezeit().count()));
+    Label_wartezeit.text(std::to_string(abend_.wartezeit().count()));
 }
 
 void wettkampf2::blick_zeigen() {
@@ -132,32 +140,28 @@ void wettkampf2::blick_zeigen() {
     Label_von.text(ende ? "" : wort_.von + " " + std::to_string(blick.rennen_gesamt));
     Label2.sichtbar(!ende);
     spuren_zeigen(blick);
-    std::vector<std::string> danach;
-    for (const std::string& name : blick.als_naechste) {
-        if (!name.empty()) {
-            danach.push_back(name);
-        }
-    }
+    Label_jetzt.sichtbar(!ende);
+    Label_danach.sichtbar(blick.naechstes_rennen != 0);
     const std::vector<int> stand = fahrer_in_rangfolge(abend_.stand(), abend_.stand().wertung);
-    if (ende && !stand.empty()) {
-        danach.push_back(abend_.stand().name(stand.front()));
-    }
-    Label_danach.text(ende ? wort_.sieger : wort_.danach);
-    Label_danach.sichtbar(!danach.empty());
-    Label_danach_fahrer.text(aufgezaehlt(danach));
-    Label_einsetzer.sichtbar(!ende);
-    Label_einsetzer_fahrer.text(ende ? "" : blick.einsetzer.empty() ? wort_.niemand : aufgezaehlt(blick.einsetzer));
+    Label_einsetzer.text(ende ? wort_.sieger : wort_.einsetzer);
+    Label_einsetzer.sichtbar(!ende || !stand.empty());
+    Label_einsetzer_fahrer.text(!ende            ? einsetzer_text(blick.einsetzer)
+                                : !stand.empty() ? abend_.stand().name(stand.front())
+                                                 : "");
     Label_fehler.sichtbar(abend_.nicht_gesichert());
-    Label_dauer.text(ende ? "" : dauer_text(blick));
+    Label_noch.sichtbar(blick.dauert_noch.has_value());
+    Label_dauer.text(dauer_text(blick));
 }
 
-std::string wettkampf2::aufgezaehlt(const std::vector<std::string>& namen) const {
+std::string wettkampf2::einsetzer_text(const std::vector<std::string>& namen) const {
     std::string alle;
-    for (std::size_t i = 0; i < std::min(namen.size(), namen_max); ++i) {
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        if (i > 0 && laenge(alle) + laenge(namen[i]) > einsetzer_zeichen_max) {
+            return alle + " " + wort_.und + " " + std::to_string(namen.size() - i) + " " + wort_.weitere;
+        }
         alle += (i == 0 ? "" : ", ") + namen[i];
     }
-    const std::size_t rest = namen.size() - std::min(namen.size(), namen_max);
-    return rest == 0 ? alle : alle + " " + wort_.und + " " + std::to_string(rest) + " " + wort_.weitere;
+    return alle.empty() ? wort_.niemand : alle;
 }
 
 void wettkampf2::spuren_zeigen(const abendblick& blick) {
@@ -170,6 +174,8 @@ void wettkampf2::spuren_zeigen(const abendblick& blick) {
         spurfarbe[i].sichtbar(dabei);
         Label_b[i].sichtbar(dabei);
         Label_b[i].text(blick.faehrt[spur]);
+        Label_danach_b[i].sichtbar(dabei);
+        Label_danach_b[i].text(blick.als_naechste[spur]);
         const int platz = dran.spur_fahrer[spur];
         const bool mit_bild = dabei && dran.rennen_spur_aktiv[spur];
         Image_b[i].sichtbar(mit_bild);
@@ -189,7 +195,7 @@ std::string wettkampf2::dauer_text(const abendblick& blick) const {
     }
     const auto minuten = std::chrono::ceil<std::chrono::minutes>(dauer_ms(*blick.dauert_noch)).count();
     const std::string teil = std::to_string(minuten % 60) + " " + wort_.minuten;
-    return wort_.noch + " " + (minuten < 60 ? teil : std::to_string(minuten / 60) + " " + wort_.stunden + " " + teil);
+    return minuten < 60 ? teil : std::to_string(minuten / 60) + " " + wort_.stunden + " " + teil;
 }
 
 std::string wettkampf2::rennmarke(int rennen) const {

@@ -35,25 +35,29 @@ public:
     template <class Element>
     using je_spur = std::array<Element, spuren_max>;
 
-    rahmen Frame_blick;     ///< the evening at a glance
-    bezeichnung Label2;     ///< caption of the race that is next
-    bezeichnung Label_nr;   ///< its number
-    bezeichnung Label_von;  ///< of how many
+    rahmen Frame_blick;       ///< the evening at a glance
+    bezeichnung Label2;       ///< caption of the race that is next
+    bezeichnung Label_nr;     ///< its number
+    bezeichnung Label_von;    ///< of how many
+    bezeichnung Label_jetzt;  ///< caption: who drives
     je_spur<form> spurfarbe;
     je_spur<bezeichnung> listlabel;  ///< names of the lanes
     je_spur<bezeichnung> Label_b;    ///< their drivers
     je_spur<bild> Image_b;
     bezeichnung Label_danach;  ///< caption: who comes to the track
-    bezeichnung Label_danach_fahrer;
-    bezeichnung Label_einsetzer;  ///< caption: who puts cars back
+    je_spur<bezeichnung> Label_danach_b;
+    bezeichnung Label_einsetzer;  ///< caption: who puts cars back; at the end who has won
     bezeichnung Label_einsetzer_fahrer;
-    bezeichnung Label_dauer;      ///< how long the evening still takes
-    bezeichnung Label_wartezeit;  ///< until the next race comes by itself
-    bezeichnung Label1;           ///< caption of the fastest lap
+    bezeichnung Label_noch;  ///< caption: how long the evening still takes
+    bezeichnung Label_dauer;
+    bezeichnung Label_warten;  ///< caption: seconds until the next race comes by itself
+    bezeichnung Label_wartezeit;
+    bezeichnung Label1;  ///< caption of the fastest lap
     bezeichnung label_best;
     bezeichnung label_fahrer;  ///< who has it
 
     bezeichnung Label_fehler;  ///< the state could not be kept
+    rahmen Frame_liste;        ///< the list and what is done in it; away while the glance has the window to itself
     bezeichnung Label_liste;   ///< columns of the list
     liste List1;               ///< row n - 1 is race n
     haken opt_reihenfolge;     ///< a race that is selected comes next
@@ -69,10 +73,11 @@ public:
     befehl Command9;   ///< postpone it
     befehl Command10;  ///< save the table
     bezeichnung Label8;
-    befehl Command11;  ///< track power on
-    befehl Command12;  ///< and off
-    befehl Command13;  ///< correct laps and metres
-    befehl Command14;  ///< correct a name
+    befehl Command11;        ///< track power on
+    befehl Command12;        ///< and off
+    befehl Command13;        ///< correct laps and metres
+    befehl Command14;        ///< correct a name
+    befehl Command_aushang;  ///< the glance without the list, and back
 
     rahmen Frame_runden;  ///< corrections of the selected race
     bezeichnung Label_rundenwahl;
@@ -102,30 +107,30 @@ public:
     bool darf_enden();
 
 private:
-    enum class feldgruppe { blick, runden, namen };
+    enum class feldgruppe { blick, aushang, runden, namen };
     /// A result that can be corrected.
     struct korrekturzeile {
         int teil = 1;
         int spur = 0;
     };
     struct worte {
-        std::string titel, spur, rennen, von, noch, stunden, minuten, wartezeit, ende, zeit_unbekannt;
-        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, danach, sieger,
-            liste, gruppenliste;
+        std::string titel, spur, rennen, von, stunden, minuten, ende;
+        std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, einsetzer,
+            sieger, liste, gruppenliste, aushang, rennliste;
         std::string wiederholen, wiederholen_titel, ende_frage;
         std::string name_leer, name_vergeben, name_fueller, keine_zahl;
     };
 
     void stand_zeigen() override;
     void wartezeit_zeigen() override;
-    bool beschaeftigt() const override { return offen_ != feldgruppe::blick || fragt_; }
+    bool beschaeftigt() const override { return offen_ == feldgruppe::runden || offen_ == feldgruppe::namen || fragt_; }
     bool fragen(const std::string& text, const std::string& ueberschrift);
     void befehle_verbinden();
     void felder_zeigen(feldgruppe welche);
 
     void blick_zeigen();
     void spuren_zeigen(const abendblick& blick);
-    std::string aufgezaehlt(const std::vector<std::string>& namen) const;
+    std::string einsetzer_text(const std::vector<std::string>& namen) const;
     void liste_zeigen();
     void beste_zeigen();
     void befehle_zeigen();

@@ -4,7 +4,8 @@ namespace tarvel {
 
 sprachliste wettkampf2::sprache_w2() {
     sprachliste texte("language\\language_w2.txt");
-    texte.text("Wettkampf", wort_.titel).text("nächstes Rennen:", Label2).text("Rennen", wort_.rennen);
+    texte.text("Wettkampf", wort_.titel).text("nächstes Rennen:", Label2);
+    texte.text("Es fahren:", Label_jetzt);
     texte.text("von", wort_.von).text("ENDE", wort_.ende).text("Spur", wort_.spur);
     texte.text("schnellste Runde:", Label1).text("Bahnstrom", Label8);
     texte.text("aktuellen Stand speichern", Command1).text("Rennen starten", Command2).text("Auswertung", Command3);
@@ -24,9 +25,9 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("Ausgewähltes Rennen wiederholen?", wort_.wiederholen);
     texte.text("Alle gefahrenen Runden gehen verloren.", wort_.wiederholen_titel);
     texte.text("Der Wettkampf ist noch nicht beendet. Wirklich beenden?", wort_.ende_frage);
-    texte.text("Als Nächste an die Bahn:", wort_.danach).text("Einsetzer:", Label_einsetzer);
-    texte.text("Der Wettkampf dauert noch etwa", wort_.noch).text("Stunden", wort_.stunden);
-    texte.text("Minuten", wort_.minuten).text("Nächstes Rennen in Sekunden:", wort_.wartezeit);
+    texte.text("Als Nächste an die Bahn:", Label_danach).text("Einsetzer:", wort_.einsetzer);
+    texte.text("Der Wettkampf dauert noch etwa", Label_noch).text("Std.", wort_.stunden);
+    texte.text("Min.", wort_.minuten).text("Start in Sekunden:", Label_warten);
     texte.text("Teil", wort_.teil).text("niemand", wort_.niemand);
     texte.text("Runden und Meter ändern", Frame_runden).text("Abend", Frame_blick).text("Rennen", wort_.liste);
     texte.text("Gruppenmodus, folgende Gruppenreihenfolge:", wort_.gruppenliste);
@@ -41,7 +42,9 @@ sprachliste wettkampf2::sprache_w2() {
     texte.tipp("Das markierte Rennen wird noch einmal gefahren; seine Runden gehen verloren", Command8);
     texte.tipp("Das markierte Rennen wird gefahren, wenn alle anderen gefahren sind", Command9);
     texte.tipp("Das Rennen, das in der Liste markiert wird, ist das nächste", opt_reihenfolge);
-    return texte.tipp("Die Rennen folgen von selbst aufeinander", Command4);
+    texte.tipp("Die Rennen folgen von selbst aufeinander", Command4);
+    texte.text("Aushang", wort_.aushang).text("Rennliste", wort_.rennliste);
+    return texte.tipp("Ohne die Liste der Rennen: so groß, dass man es von der Bahn aus liest", Command_aushang);
 }
 
 }  // namespace tarvel

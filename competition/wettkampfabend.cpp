@@ -46,7 +46,6 @@ bool wettkampfabend::rennen_starten() {
     }
     uebergeben();
     ab_teil_ = uebergabe_.teil;
-    teil_gebucht_ = false;
     automatik_an_ = um_.einst.w_autom;
     von_selbst_ = false;
     unterbrochen_ = false;

@@ -173,6 +173,9 @@ TEST_F(Wettkampf1, BilderDerTeilnehmer) {
     EXPECT_EQ(w.Image1.datei(), "pictures/Anna.jpg");
     w.auswahlliste.auswaehlen(1);
     EXPECT_EQ(w.Image1.datei(), "pictures/nopic.jpg");
+    w.auswahl.eingeben("Carla");
+    EXPECT_EQ(w.Label_bild.text(), "Carla") << "whose name is typed";
+    w.auswahl.eingeben("");
     w.Command24.klicken();
     EXPECT_TRUE(eigene.ist_offen(fenstername::fahrerbild_laden));
     bilder.datei.auswaehlen(0);

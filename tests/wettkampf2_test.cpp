@@ -34,6 +34,21 @@ TEST_F(Wettkampf2, DerLeiterBestimmtWelchesRennenKommt) {
     EXPECT_EQ(stand().rennen_gefahren(2), rennstatus::offen);
 }
 
+TEST_F(Wettkampf2, SagtWerWoAlsNaechsterFaehrtUndWerZeitHat) {
+    wettkampf neu = test::vereinswettkampf::neu(wettkampf_modus::gruppen, 19, {2, 4});
+    t.p.wettkampfabend.beginnen(std::move(neu));
+    const startfeld danach = stand().plan.feld(2);
+    for (const int spur : {2, 4}) {
+        EXPECT_EQ(w.Label_danach_b[feld_index(spur)].text(), stand().name(danach[spur]));
+    }
+    EXPECT_EQ(w.Label_einsetzer_fahrer.text(),
+              "Emil Lindner, Frieda, Gustav, Hilde, Fahrer 9, Fahrer 10, Fahrer 11 und 10 weitere");
+    w.Command_aushang.klicken();
+    EXPECT_TRUE(w.Frame_blick.sichtbar() && !w.Frame_liste.sichtbar());
+    w.Command_aushang.klicken();
+    EXPECT_TRUE(w.Frame_blick.sichtbar() && w.Frame_liste.sichtbar());
+}
+
 TEST_F(Wettkampf2, RundenMeterUndNamenWerdenBerichtigt) {
     t.p.param.spurlaenge[3] = 10.5;
     const fahrt vorher = (*stand().ergebnis(1))[3];

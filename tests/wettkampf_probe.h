@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <random>
 #include <string>
 #include <vector>
@@ -19,7 +18,7 @@ inline std::vector<std::string> fahrernamen(int anzahl) {
     return namen;
 }
 
-inline wettkampf wettkampf_mit(wettkampf_modus modus, int fahrer, std::initializer_list<int> lanes,
+inline wettkampf wettkampf_mit(wettkampf_modus modus, int fahrer, const std::vector<int>& lanes,
                                bool centermode = false) {
     planvorgabe vorgabe;
     vorgabe.modus = modus;

@@ -8,65 +8,12 @@
 #include "competition/wettkampftabelle.h"
 #include "results/ergebnisdatei.h"
 #include "results/rundenspeichern.h"
-#include "tests/programm_probe.h"
+#include "tests/wettkampfabend_probe.h"
 
 namespace tarvel {
 namespace {
 
-/// A club evening of lap races, driven on the race window.
-class Wettkampfabend : public test::ProgrammProbe {
-protected:
-    Wettkampfabend() {
-        t.einrichten("Runden", "3", {1, 2, 3, 4});
-        t.p.fenster.entladen(fenstername::bahn1);
-        t.p.einst.aut_speichern = false;
-        t.p.einst.w_einfahren_an = false;
-    }
-
-    void beginnen(wettkampf_modus modus, int fahrer, const std::vector<int>& spuren, bool centermode = false) {
-        planvorgabe vorgabe;
-        vorgabe.modus = modus;
-        for (const int spur : spuren) {
-            vorgabe.aktiv[spur] = true;
-        }
-        vorgabe.centermode = centermode;
-        std::vector<std::string> namen(static_cast<std::size_t>(fahrer), "Fahrer ");
-        for (std::size_t i = 0; i < namen.size(); ++i) {
-            namen[i] += static_cast<char>('A' + i);
-        }
-        auto neu = wettkampf_beginnen(vorgabe, namen, "Vereinsabend", t.p.txt);
-        ASSERT_TRUE(neu);
-        neu->rennlaenge = t.p.param.renn_laenge;
-        abend.beginnen(std::move(*neu));
-    }
-    /// Each lane that is in the race drives its laps.
-    void runden_fahren(int runden) {
-        for (int runde = 0; runde <= runden; ++runde) {
-            t.maschine.laufen(5500);
-            for (const int spur : alle_spuren) {
-                if (t.p.param.spur_aktiv[spur]) {
-                    t.maschine.laufen(150);
-                    t.taste(std::string(1, static_cast<char>('0' + spur)));
-                }
-            }
-        }
-        t.maschine.laufen(3000);
-    }
-    void gruen() {
-        ASSERT_TRUE(offen(fenstername::k_ampel));
-        t.p.k_ampel.Command1.klicken();
-        t.maschine.laufen(1500 * 3 + 2500);
-    }
-    void rennen_fahren() {
-        ASSERT_TRUE(abend.rennen_starten());
-        t.bahn().Command1.klicken();
-        runden_fahren(3);
-        ASSERT_TRUE(offen(fenstername::auswertung));
-        t.p.auswertung.Command5.klicken();
-    }
-
-    wettkampfabend& abend = t.p.wettkampfabend;
-};
+using Wettkampfabend = test::Abendprobe;
 
 TEST_F(Wettkampfabend, JederFaehrtJedeSpurUndAlleRundenStehenInDerTabelle) {
     t.p.einst.w_speichern = true;
@@ -120,6 +67,37 @@ TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSi
     }
 }
 
+TEST_F(Wettkampfabend, EineRundeVonDerVorigenSpurIstNichtDieBesteDerNeuen) {
+    beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    const auto ueberfahrten = [&](std::initializer_list<zeit_ms> abstaende) {
+        for (const zeit_ms abstand : abstaende) {
+            t.maschine.laufen(abstand);
+            t.taste("1");
+            t.maschine.laufen(100);
+            t.taste("2");
+        }
+        t.maschine.laufen(3000);
+    };
+    ueberfahrten({5400, 7900, 6900});
+    t.bahn().Command4.klicken();  // while all are on their way
+    t.p.auswertung.Command5.klicken();
+    gruen();
+    ueberfahrten({3500, 8900, 8400});
+    for (const int spur : {1, 2}) {
+        EXPECT_LT(rundenzeit(spur, 3), 6900) << "the shortest lap of all";
+    }
+    t.p.auswertung.Command5.klicken();
+    ASSERT_TRUE(abend.stand().ende_pruefen());
+    for (const int spur : {1, 2}) {
+        EXPECT_EQ((*abend.stand().ergebnis(1, 1))[spur].beste / 100, 70);
+        EXPECT_EQ((*abend.stand().ergebnis(1, 2))[spur].runden, 3);
+        EXPECT_EQ((*abend.stand().ergebnis(1, 2))[spur].beste / 100, 85);
+    }
+    EXPECT_EQ(abend.stand().beste_runde().beste_runde_ms / 100, 70);
+}
+
 TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
     for (const bool ausblenden : {false, true}) {
         t.p.einst.freie_slots = ausblenden;
@@ -142,6 +120,17 @@ TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
     }
 }
 
+TEST_F(Wettkampfabend, GesichertWirdNachDemRennenUndNieDarin) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    ASSERT_TRUE(abend.rennen_starten());
+    ASSERT_TRUE(t.p.ablage.loeschen(laufender_wettkampf));
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf)) << "no tick waits for the disk";
+    t.p.auswertung.Command5.klicken();
+    EXPECT_TRUE(t.p.ablage.gibt_es(laufender_wettkampf));
+}
+
 TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
     beginnen(wettkampf_modus::rotation, 4, {1, 2});
     ASSERT_TRUE(abend.rennen_starten());
@@ -160,71 +149,6 @@ TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
     EXPECT_EQ(abend.stand().aktuelles_rennen, 2);
 }
 
-TEST_F(Wettkampfabend, VonSelbstVomErstenStartBisZurTabelle) {
-    t.p.einst.w_autom = true;
-    t.p.einst.w_zeit1 = 20s;
-    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-    ASSERT_TRUE(abend.rennen_starten());
-    for (int rennen = 1; rennen <= 3; ++rennen) {
-        ASSERT_TRUE(offen(fenstername::bahn1));
-        t.maschine.laufen(2000);
-        EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
-        t.maschine.laufen(1100);
-        EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
-        runden_fahren(3);  // the result is seen for three seconds of its ten
-        ASSERT_TRUE(offen(fenstername::auswertung));
-        t.maschine.laufen(8000);
-        EXPECT_FALSE(offen(fenstername::auswertung));
-        EXPECT_EQ(abend.stand().fortsetzung_nummer(rennen), 1);
-        EXPECT_EQ(abend.wartet_auf_rennen(), rennen < 3);
-        t.maschine.laufen(19000);
-    }
-    EXPECT_TRUE(abend.stand().ende_pruefen());
-    EXPECT_FALSE(offen(fenstername::bahn1));
-    const auto tabellen = t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ".csv");
-    ASSERT_EQ(tabellen.size(), 1U);
-    EXPECT_EQ(*t.p.ablage.zeilen_lesen("Ergebnisse\\Wettkampf\\" + tabellen.front(), 1000),
-              tabelle_schreiben(abend.stand(), {}, t.p.einst.trennzeichen));
-}
-
-TEST_F(Wettkampfabend, AbbruchHaeltDenAblaufAnUndEineEingabeIhnAuf) {
-    t.p.einst.w_autom = true;
-    t.p.einst.zielmodus_erster = true;
-    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-    ASSERT_TRUE(abend.rennen_starten());
-    t.bahn().Command1.klicken();
-    t.maschine.laufen(10000);
-    t.bahn().Command2.klicken();
-    t.maschine.laufen(600000);
-    EXPECT_FALSE(offen(fenstername::bahn1));
-    EXPECT_TRUE(abend.unterbrochen());
-    ASSERT_TRUE(abend.rennen_starten());
-    t.maschine.laufen(4000);
-    runden_fahren(3);
-    t.p.auswertung.Command6.klicken();  // metres are being entered
-    t.maschine.laufen(60000);
-    ASSERT_TRUE(offen(fenstername::auswertung));
-    t.p.auswertung.Command6.klicken();
-    t.maschine.laufen(12000);
-    EXPECT_FALSE(offen(fenstername::auswertung));
-}
-
-TEST_F(Wettkampfabend, CentermodeLaeuftAuchVonSelbst) {
-    t.p.einst.w_autom = true;
-    t.p.einst.w_zeit1 = 30s;
-    beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
-    ASSERT_TRUE(abend.rennen_starten());
-    t.maschine.laufen(4000);
-    runden_fahren(3);
-    t.maschine.laufen(20000);
-    EXPECT_TRUE(offen(fenstername::auswertung)) << "the cars are being moved";
-    t.maschine.laufen(20000);
-    runden_fahren(2);
-    t.maschine.laufen(10000);
-    EXPECT_TRUE(abend.stand().ende_pruefen());
-    EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
-}
-
 TEST_F(Wettkampfabend, EinVorzeitigBeendeterTeilMachtDenNaechstenNichtLaenger) {
     beginnen(wettkampf_modus::am_stueck, 2, {1, 2}, true);
     ASSERT_TRUE(abend.rennen_starten());
@@ -233,61 +157,6 @@ TEST_F(Wettkampfabend, EinVorzeitigBeendeterTeilMachtDenNaechstenNichtLaenger) {
     t.bahn().Command4.klicken();
     t.p.auswertung.Command5.klicken();
     EXPECT_EQ(t.p.param.renn_ziel, 1 + 3);
-}
-
-TEST_F(Wettkampfabend, NiemandWirdVomAblaufUeberrascht) {
-    t.p.einst.w_autom = true;
-    t.p.einst.w_zeit1 = 5s;
-    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-    t.p.fenster.zeigen(fenstername::wettkampf2);
-    ASSERT_TRUE(abend.rennen_starten());
-    t.maschine.laufen(4000);
-    runden_fahren(3);
-    t.maschine.laufen(8000);
-    ASSERT_TRUE(abend.wartet_auf_rennen());
-    t.p.wettkampf2.Command14.klicken();  // a name is being corrected
-    t.maschine.laufen(60000);
-    EXPECT_FALSE(offen(fenstername::bahn1));
-    t.p.wettkampf2.Command_namen_fertig.klicken();
-    t.p.wettkampf2.Command12.klicken();  // no power while the cars are placed
-    EXPECT_FALSE(strom(1));
-    t.maschine.laufen(6000);
-    EXPECT_TRUE(offen(fenstername::bahn1));
-    EXPECT_TRUE(strom(1));
-    abend.automatik_umschalten();
-    t.maschine.laufen(10000);
-    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "switched off is off";
-    EXPECT_FALSE(abend.automatik_an());
-}
-
-TEST_F(Wettkampfabend, NeueBestzeitenHaltenDenAblaufNichtAuf) {
-    t.p.einst.w_autom = true;
-    t.p.einst.w_zeit1 = 5s;
-    t.maschine.nicht_schreibbar = "bestefile.bst";
-    for (const auto modus : {bestzeit_speicherung::manuell, bestzeit_speicherung::automatisch}) {
-        t.p.einst.beste_modus = modus;
-        beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-        EXPECT_FALSE(abend.unterbrochen()) << "that was another evening";
-        ASSERT_TRUE(abend.rennen_starten());
-        t.maschine.laufen(4000);
-        runden_fahren(3);
-        t.maschine.laufen(8000);
-        ASSERT_TRUE(offen(fenstername::beste_zeiten_fenster));
-        if (modus == bestzeit_speicherung::manuell) {
-            for (const char* name : {"An", "Ann", "Anna"}) {
-                t.maschine.laufen(10000);
-                t.p.beste_zeiten_fenster.btext_name[0].eingeben(name);
-            }
-            t.maschine.laufen(14000);
-            EXPECT_TRUE(offen(fenstername::auswertung)) << "somebody is typing";
-        }
-        t.maschine.laufen(2500);
-        EXPECT_FALSE(offen(fenstername::auswertung));
-        t.maschine.laufen(6000);
-        EXPECT_TRUE(offen(fenstername::bahn1));
-        EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
-        t.bahn().Command2.klicken();
-    }
 }
 
 TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {

@@ -1,10 +1,10 @@
 // Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
 // hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
 
-#include <cstdlib>
 #include <random>
 
 #include "competition/einfahren.h"
+#include "tests/plattform/umgebung.h"
 #include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
 
@@ -268,14 +268,9 @@ private:
     zeit_ms rest_vor_pause_ = 0;
 };
 
-unsigned aus_umgebung(const char* name, unsigned sonst) {
-    const char* wert = std::getenv(name);
-    return wert == nullptr ? sonst : static_cast<unsigned>(std::strtoul(wert, nullptr, 10));
-}
-
 TEST(Zufallsrennen, ImmerGiltWasImmerGeltenMuss) {
-    const unsigned erste = aus_umgebung("TARVEL_SAAT", 1);
-    const unsigned anzahl = aus_umgebung("TARVEL_RENNEN", 25);
+    const unsigned erste = test::aus_umgebung("TARVEL_SAAT", 1);
+    const unsigned anzahl = test::aus_umgebung("TARVEL_RENNEN", 25);
     for (unsigned saat = erste; saat < erste + anzahl && !testing::Test::HasFailure(); ++saat) {
         SCOPED_TRACE("TARVEL_SAAT=" + std::to_string(saat));
         zufallsrennen(saat).fahren();

@@ -14,21 +14,17 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double breite_entwurf = 1000;
-constexpr double hoehe_entwurf = 700;
+constexpr int fuss_hoehe = 100;   // of the window below the list, and its margins
+constexpr int rand_entwurf = 60;  // pixels of the glance that no line takes
+constexpr double schrift_klein = 21;
+constexpr double schrift_kopf = 46;
+constexpr double schrift_nummer = 58;
+constexpr double schrift_spur = 34;
+constexpr double schrift_fahrer = 56;
+constexpr double schrift_einsetzer = 46;
+constexpr double anteil_blick = 0.6;  // of the window beside the list
 constexpr int schrift_liste_px = 15;
-constexpr QSize bildgroesse(64, 48);
 constexpr int fleck_breite = 18;
-
-TextAnzeige* links_buendig(TextAnzeige* anzeige) {
-    anzeige->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    return anzeige;
-}
-
-/// A caption above what it names.
-TextAnzeige* ueberschrift(TextAnzeige* anzeige) {
-    anzeige->setLeise();
-    return links_buendig(anzeige);
-}
 
 }  // namespace
 
@@ -39,90 +35,113 @@ Wettkampf2Fenster::Wettkampf2Fenster(wettkampf2& logik, const dateien& ablage, F
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(8);
     for (QWidget* feld : {blickfeld(), rundenfeld(), namenfeld()}) {  // one of them at a time
-        aufbau->addWidget(feld, 5);
+        aufbau->addWidget(feld, 6);
     }
-    auto* mitte = new QHBoxLayout;
-    mitte->setSpacing(12);
-    mitte->addWidget(listenfeld(), 1);
-    mitte->addLayout(rennbefehle());
-    aufbau->addLayout(mitte, 4);
+    auto* mitte = new QWidget(this);
+    auto* liste = new QHBoxLayout(mitte);
+    liste->setContentsMargins(0, 0, 0, 0);
+    liste->setSpacing(12);
+    liste->addWidget(listenfeld(), 1);
+    liste->addLayout(rennbefehle());
+    binder().verbinden(logik_.Frame_liste, mitte, "Frame_liste", [this] { skalieren(); });
+    aufbau->addWidget(mitte, 4);
+    QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
+    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
+    aufbau->addWidget(fehler);  // below whatever is shown: in the automatic flow no box tells of it
     aufbau->addLayout(fuss());
 }
 
 QWidget* Wettkampf2Fenster::blickfeld() {
     QGroupBox* feld = binder().gruppe(logik_.Frame_blick, "Frame_blick");
-    auto* aufbau = new QHBoxLayout(feld);
-    aufbau->setSpacing(18);
-    aufbau->addWidget(rennkopf(), 2);
-    auto* spuren = new QVBoxLayout;
-    spuren->setSpacing(4);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setSpacing(4);
+    aufbau->addLayout(kopfzeile(), 5);
+    auto* spuren = new QGridLayout;
+    spuren->setHorizontalSpacing(12);
+    spuren->setVerticalSpacing(4);
+    spuren->addWidget(klein(logik_.Label_jetzt, "Label_jetzt"), 0, 3);
+    spuren->addWidget(klein(logik_.Label_danach, "Label_danach"), 0, 4);
     for (const int spur : alle_spuren) {
-        spuren->addWidget(spurzeile(spur), 1);
+        spurzeile(*spuren, spur);
     }
-    aufbau->addLayout(spuren, 6);
-    aufbau->addWidget(nebenfeld(), 4);
+    spuren->setColumnStretch(1, 3);
+    spuren->setColumnStretch(2, 2);
+    spuren->setColumnStretch(3, 18);
+    spuren->setColumnStretch(4, 17);
+    spuren->addWidget(klein(logik_.Label_einsetzer, "Label_einsetzer"), spuren_max + 1, 0, 1, 3);
+    TextAnzeige* einsetzer = gross(logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", schrift_einsetzer);
+    einsetzer->setZweizeilig();
+    spuren->addWidget(einsetzer, spuren_max + 1, 3, 1, 2);
+    spuren->setRowStretch(spuren_max + 1, 7);
+    aufbau->addLayout(spuren, 31);
     return feld;
 }
 
-QWidget* Wettkampf2Fenster::rennkopf() {
-    auto* feld = new QWidget(this);
-    auto* aufbau = new QVBoxLayout(feld);
-    aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->setSpacing(0);
-    aufbau->addWidget(ueberschrift(binder().anzeige(logik_.Label2, "Label2", 17)));
-    TextAnzeige* nummer = links_buendig(binder().anzeige(logik_.Label_nr, "Label_nr", 110));
+TextAnzeige* Wettkampf2Fenster::klein(bezeichnung& element, const QString& name) {
+    TextAnzeige* anzeige = gross(element, name, schrift_klein);
+    anzeige->setLeise();
+    return anzeige;
+}
+
+TextAnzeige* Wettkampf2Fenster::gross(bezeichnung& element, const QString& name, double schrift) {
+    TextAnzeige* anzeige = binder().anzeige(element, name, schrift);
+    anzeige->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    return anzeige;
+}
+
+/// How far the evening is: captions, and below them what they name.
+QLayout* Wettkampf2Fenster::kopfzeile() {
+    auto* kopf = new QGridLayout;
+    kopf->setHorizontalSpacing(12);
+    kopf->setVerticalSpacing(0);
+    kopf->addWidget(klein(logik_.Label2, "Label2"), 0, 0, 1, 2);
+    kopf->addWidget(klein(logik_.Label_warten, "Label_warten"), 0, 2);
+    kopf->addWidget(klein(logik_.Label_noch, "Label_noch"), 0, 3);
+    kopf->addWidget(klein(logik_.Label1, "Label1"), 0, 4, 1, 2);
+    TextAnzeige* nummer = gross(logik_.Label_nr, "Label_nr", schrift_nummer);
     nummer->setFett(true);
-    aufbau->addWidget(nummer, 3);
-    aufbau->addWidget(links_buendig(binder().anzeige(logik_.Label_von, "Label_von", 34)), 1);
-    TextAnzeige* warten = links_buendig(binder().anzeige(logik_.Label_wartezeit, "Label_wartezeit", 22));
-    warten->setZweizeilig();
+    kopf->addWidget(nummer, 1, 0);
+    kopf->addWidget(gross(logik_.Label_von, "Label_von", schrift_kopf), 1, 1);
+    TextAnzeige* warten = gross(logik_.Label_wartezeit, "Label_wartezeit", schrift_nummer);
     warten->setFett(true);
     warten->setFarbe(stil::akzent);
-    aufbau->addWidget(warten, 1);
-    return feld;
+    kopf->addWidget(warten, 1, 2);
+    kopf->addWidget(gross(logik_.Label_dauer, "Label_dauer", schrift_kopf), 1, 3);
+    kopf->addWidget(gross(logik_.label_best, "label_best", schrift_klein * 1.4), 1, 4);
+    TextAnzeige* fahrer = gross(logik_.label_fahrer, "label_fahrer", schrift_klein * 1.1);
+    fahrer->setZweizeilig();
+    kopf->addWidget(fahrer, 1, 5);
+    int spalte = 0;
+    for (const int breite : {3, 6, 6, 11, 5, 6}) {
+        kopf->setColumnStretch(spalte++, breite);
+    }
+    kopf->setRowStretch(1, 1);
+    return kopf;
 }
 
-QWidget* Wettkampf2Fenster::spurzeile(int spur) {
+void Wettkampf2Fenster::spurzeile(QGridLayout& zeilen, int spur) {
     const std::size_t i = feld_index(spur);
     const QString nummer = "_" + QString::number(i);
-    auto* zeile = new QWidget(this);
-    auto* aufbau = new QHBoxLayout(zeile);
-    aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->setSpacing(10);
     auto* fleck = new QLabel(this);
     fleck->setFixedWidth(fleck_breite);
     form& farbe = logik_.spurfarbe.at(i);
-    binder().verbinden(farbe, fleck, "spurfarbe" + nummer,
-                       [fleck, &farbe] { stil::fleck_faerben(fleck, farbe.hintergrund().value_or(0)); });
-    aufbau->addWidget(fleck);
-    aufbau->addWidget(links_buendig(binder().anzeige(logik_.listlabel.at(i), "listlabel" + nummer, 20)), 2);
-    QLabel* bild = binder().bildfeld(logik_.Image_b.at(i), "Image_b" + nummer, bildgroesse,
-                                     [this](const std::string& datei) { return ablage_.pfad(datei); });
-    aufbau->addWidget(bild);
-    TextAnzeige* name = links_buendig(binder().anzeige(logik_.Label_b.at(i), "Label_b" + nummer, 44));
+    binder().verbinden(farbe, fleck, "spurfarbe" + nummer, [this, fleck, &farbe, &zeilen, spur] {
+        stil::fleck_faerben(fleck, farbe.hintergrund().value_or(0));
+        zeilen.setRowStretch(spur, farbe.sichtbar() ? 4 : 0);
+        skalieren();
+    });
+    zeilen.addWidget(fleck, spur, 0);
+    zeilen.addWidget(gross(logik_.listlabel.at(i), "listlabel" + nummer, schrift_spur), spur, 1);
+    zeilen.addWidget(binder().bildanzeige(logik_.Image_b.at(i), "Image_b" + nummer,
+                                          [this](const std::string& datei) { return ablage_.pfad(datei); }),
+                     spur, 2);
+    TextAnzeige* name = gross(logik_.Label_b.at(i), "Label_b" + nummer, schrift_fahrer);
     name->setFett(true);
-    aufbau->addWidget(name, 9);
-    return zeile;
-}
-
-QWidget* Wettkampf2Fenster::nebenfeld() {
-    auto* feld = new QWidget(this);
-    auto* aufbau = new QVBoxLayout(feld);
-    aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->setSpacing(0);
-    const auto paar = [&](bezeichnung& titel, const QString& titelname, bezeichnung& inhalt, const QString& name,
-                          double gross) {
-        aufbau->addWidget(ueberschrift(binder().anzeige(titel, titelname, 17)), 1);
-        TextAnzeige* anzeige = links_buendig(binder().anzeige(inhalt, name, gross));
-        anzeige->setZweizeilig();
-        aufbau->addWidget(anzeige, 3);
-    };
-    paar(logik_.Label_danach, "Label_danach", logik_.Label_danach_fahrer, "Label_danach_fahrer", 32);
-    paar(logik_.Label_einsetzer, "Label_einsetzer", logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", 28);
-    paar(logik_.Label1, "Label1", logik_.label_best, "label_best", 26);
-    aufbau->addWidget(links_buendig(binder().anzeige(logik_.label_fahrer, "label_fahrer", 22)), 2);
-    aufbau->addWidget(links_buendig(binder().anzeige(logik_.Label_dauer, "Label_dauer", 26)), 2);
-    return feld;
+    name->setZweizeilig();
+    zeilen.addWidget(name, spur, 3);
+    TextAnzeige* danach = gross(logik_.Label_danach_b.at(i), "Label_danach_b" + nummer, schrift_fahrer);
+    danach->setZweizeilig();
+    zeilen.addWidget(danach, spur, 4);
 }
 
 QWidget* Wettkampf2Fenster::rundenfeld() {
@@ -188,10 +207,6 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     aufbau->setSpacing(4);
     auto* kopf = new QHBoxLayout;
     kopf->addWidget(binder().label(logik_.Label_liste, "Label_liste"));
-    QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
-    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
-    kopf->addSpacing(24);
-    kopf->addWidget(fehler);
     kopf->addStretch(1);
     kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
     aufbau->addLayout(kopf);
@@ -221,24 +236,27 @@ QLayout* Wettkampf2Fenster::fuss() {
     auto* aufbau = new QGridLayout;
     aufbau->setHorizontalSpacing(8);
     aufbau->setVerticalSpacing(6);
-    const auto klein = [&](befehl& element, const QString& name, int reihe, int spalte) {
+    const auto schmal = [&](befehl& element, const QString& name, int reihe, int spalte) {
         aufbau->addWidget(binder().knopf(element, name, "schmal"), reihe, spalte);
     };
-    klein(logik_.Command5, "Command5", 0, 0);
-    klein(logik_.Command7, "Command7", 1, 0);
-    klein(logik_.Command1, "Command1", 0, 1);
-    klein(logik_.Command10, "Command10", 1, 1);
+    schmal(logik_.Command5, "Command5", 0, 0);
+    schmal(logik_.Command7, "Command7", 1, 0);
+    schmal(logik_.Command1, "Command1", 0, 1);
+    schmal(logik_.Command10, "Command10", 1, 1);
     aufbau->addWidget(binder().label(logik_.Label8, "Label8"), 0, 2, Qt::AlignCenter);
     auto* strom = new QHBoxLayout;
     strom->setSpacing(4);
     strom->addWidget(binder().knopf(logik_.Command11, "Command11", "schmal"));
     strom->addWidget(binder().knopf(logik_.Command12, "Command12", "schmal"));
     aufbau->addLayout(strom, 1, 2);
-    klein(logik_.Command6, "Command6", 0, 4);
-    klein(logik_.Command3, "Command3", 1, 4);
+    schmal(logik_.Command6, "Command6", 0, 4);
+    schmal(logik_.Command3, "Command3", 1, 4);
     QPushButton* start = binder().hauptknopf(logik_.Command2, "Command2");
     start->setMinimumSize(200, 2 * stil::knopfhoehe - 6);
-    aufbau->addWidget(start, 0, 5, 2, 1);
+    aufbau->addWidget(start, 0, 6, 2, 1);
+    QPushButton* aushang = binder().knopf(logik_.Command_aushang, "Command_aushang");
+    aushang->setMinimumHeight(2 * stil::knopfhoehe - 6);
+    aufbau->addWidget(aushang, 0, 5, 2, 1);
     aufbau->setColumnStretch(3, 1);
     return aufbau;
 }
@@ -253,7 +271,18 @@ void Wettkampf2Fenster::aufschlagen() {
 
 void Wettkampf2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    binder().skala(std::clamp(std::min(width() / breite_entwurf, height() / hoehe_entwurf), 0.6, 2.4));
+    skalieren();
+}
+
+/// Letters as large as the lanes of the evening leave room for.
+void Wettkampf2Fenster::skalieren() {
+    const auto zeilen = static_cast<double>(std::count_if(logik_.spurfarbe.begin(), logik_.spurfarbe.end(),
+                                                          [](const form& farbe) { return farbe.sichtbar(); }));
+    constexpr double zeilenhoehe = 1.2;
+    const double entwurf =
+        zeilenhoehe * (2 * schrift_klein + schrift_kopf + 2 * schrift_einsetzer + zeilen * schrift_fahrer);
+    const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
+    binder().skala(std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4));
 }
 
 }  // namespace tarvel::ui

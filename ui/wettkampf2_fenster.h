@@ -3,6 +3,8 @@
 #include "competition/wettkampf2.h"
 #include "ui/fenster.h"
 
+class QGridLayout;
+
 namespace tarvel::ui {
 
 /// The window of the evening: who drives now and next, large, above the list of the races and the commands.
@@ -17,14 +19,16 @@ protected:
 
 private:
     QWidget* blickfeld();
-    QWidget* rennkopf();
-    QWidget* spurzeile(int spur);
-    QWidget* nebenfeld();
+    QLayout* kopfzeile();
+    void spurzeile(QGridLayout& zeilen, int spur);
+    TextAnzeige* klein(bezeichnung& element, const QString& name);
+    TextAnzeige* gross(bezeichnung& element, const QString& name, double schrift);
     QWidget* rundenfeld();
     QWidget* namenfeld();
     QWidget* listenfeld();
     QLayout* rennbefehle();
     QLayout* fuss();
+    void skalieren();
 
     wettkampf2& logik_;
     const dateien& ablage_;

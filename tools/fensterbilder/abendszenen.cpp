@@ -20,6 +20,15 @@ wettkampf gefahren(wettkampf_modus modus, int fahrer, std::initializer_list<int>
     return w;
 }
 
+/// A club of long names, whose races take their time.
+wettkampf lange_namen(wettkampf w) {
+    for (std::size_t i = 0; i < w.teilnehmer.size(); i += 2) {
+        w.teilnehmer[i] = "Karl-Friedrich Schulze " + std::to_string(i + 1);
+    }
+    w.renndauern = {640000};
+    return w;
+}
+
 QWidget& auswertung_zeigen(buehne& b, wettkampf w) {
     b.p.wettkampfabend.beginnen(std::move(w));
     b.p.fenster.zeigen(fenstername::w_auswertung);
@@ -129,6 +138,18 @@ const std::vector<szeneneintrag> alle{
     {"wettkampf2_sechs_spuren",
      [](buehne& b) -> QWidget& {
          return wettkampf2_zeigen(b, gefahren(m::gruppen, 40, {1, 2, 3, 4, 5, 6}, 17));
+     }},
+    {"wettkampf2_aushang",
+     [](buehne& b) -> QWidget& {
+         QWidget& fenster = wettkampf2_zeigen(b, lange_namen(gefahren(m::rotation, 20, {1, 2, 3, 4, 5, 6}, 4)));
+         b.p.wettkampf2.Command_aushang.klicken();
+         return fenster;
+     }},
+    {"wettkampf2_aushang_vier",
+     [](buehne& b) -> QWidget& {
+         QWidget& fenster = wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 3));
+         b.p.wettkampf2.Command_aushang.klicken();
+         return fenster;
      }},
     {"wettkampf2_runden",
      [](buehne& b) -> QWidget& {
