@@ -51,7 +51,7 @@ template <int nummer>
 QWidget& messhardware(buehne& b) {
     optionsseite_zeigen<7>(b);
     b.p.einstellungsfenster.hardware.at(nummer).umschalten();
-    return b.o.einstellungen;
+    return *b.o.einstellungen;
 }
 
 /// An evening is prepared: those who are there are on the start list.
