@@ -322,6 +322,13 @@ TEST(Fahrervergleich, MisstWieGleichmaessigGefahrenWird) {
     EXPECT_EQ(vergleich[0].name, "Ben");
     EXPECT_EQ(vergleich[0].streuung(), 0);
     EXPECT_EQ(vergleich[1], (fahrerstreuung{"Anna", 5, 8000, 8200, 8400, 9000, 9000}));
+    e = rennen_mit({"Anna"}, 4, "14:00:00");
+    for (std::size_t i = 1; i < 5; ++i) {
+        e.spuren[0].runden[i].zeit = 8000 + 100 * static_cast<zeit_ms>(i * i);
+    }
+    EXPECT_EQ(fahrervergleich(tabelle_aus(rennzeilen(e))).at(0),
+              (fahrerstreuung{"Anna", 4, 8100, 8325, 8650, 9075, 9600}))
+        << "between two times";
     for (const textzeilen& datei : alle_arten(1)) {
         EXPECT_FALSE(fahrervergleich(tabelle_aus(datei)).empty()) << datei.front();
     }
