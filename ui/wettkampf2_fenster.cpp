@@ -251,12 +251,12 @@ QLayout* Wettkampf2Fenster::fuss() {
     aufbau->addLayout(strom, 1, 2);
     schmal(logik_.Command6, "Command6", 0, 4);
     schmal(logik_.Command3, "Command3", 1, 4);
-    QPushButton* start = binder().hauptknopf(logik_.Command2, "Command2");
-    start->setMinimumSize(200, 2 * stil::knopfhoehe - 6);
-    aufbau->addWidget(start, 0, 6, 2, 1);
     QPushButton* aushang = binder().knopf(logik_.Command_aushang, "Command_aushang");
     aushang->setMinimumHeight(2 * stil::knopfhoehe - 6);
     aufbau->addWidget(aushang, 0, 5, 2, 1);
+    QPushButton* start = binder().hauptknopf(logik_.Command2, "Command2");
+    start->setMinimumSize(200, 2 * stil::knopfhoehe - 6);
+    aufbau->addWidget(start, 0, 6, 2, 1);
     aufbau->setColumnStretch(3, 1);
     return aufbau;
 }
