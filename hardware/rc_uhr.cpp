@@ -1,7 +1,6 @@
 #include "hardware/rc_uhr.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace tarvel {
 namespace {

@@ -314,6 +314,10 @@ TEST_F(RaceControl, WasFehltEndetInSeinerMeldung) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U) << "what is looked for silently is not told again";
     laufen(5000);
     EXPECT_TRUE(t.p.geraete.verbunden()) << "switched on meanwhile";
+    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.da.clear();
+    t.einrichten(t.p.txt.text_zeit, "5", {1});
+    EXPECT_EQ(gemeldet(), "COM-Port kann nicht geöffnet werden.") << "as its race window opens";
 }
 
 TEST_F(RaceControl, DasFensterZeigtSchritteUndSensorenUndBehaeltDieSpuren) {
