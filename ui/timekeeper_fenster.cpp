@@ -14,7 +14,7 @@ constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
 constexpr int ergebnisbreite = 92;
 constexpr int eingabebreite = 150;
-constexpr int schmaler_knopf = 52;
+constexpr int schmaler_knopf = 58;
 constexpr int schaltknopf = 78;
 
 QPushButton* schmal(QPushButton* knopf, int breite) {
@@ -55,6 +55,7 @@ QWidget* TimekeeperFenster::modusgruppe() {
         zeile->addWidget(binder().wahlknopf(logik_.Option.at(i), "Option" + QString::number(i + 1)));
     }
     zeile->addStretch();
+    zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
     return kasten;
 }
 
@@ -108,11 +109,10 @@ QWidget* TimekeeperFenster::relaisgruppe() {
     auto* raster = new QGridLayout(kasten);
     raster->setVerticalSpacing(2);
     for (const int spur : alle_spuren) {
-        raster->addWidget(binder().kasten(logik_.relais_check[spur], "relais_check_" + QString::number(spur)),
-                          (spur - 1) / 2, (spur - 1) % 2);
+        raster->addWidget(binder().kasten(logik_.relais_check[spur], "relais_check_" + QString::number(spur)), spur, 0);
     }
-    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_an, "relais_alle_an"), schaltknopf), 3, 0);
-    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_aus, "relais_alle_aus"), schaltknopf), 3, 1);
+    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_an, "relais_alle_an"), schaltknopf), 1, 1, 2, 1);
+    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_aus, "relais_alle_aus"), schaltknopf), 3, 1, 2, 1);
     return kasten;
 }
 
@@ -151,8 +151,6 @@ QWidget* TimekeeperFenster::protokollgruppe() {
 
 QLayout* TimekeeperFenster::fuss() {
     auto* zeile = new QHBoxLayout;
-    zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
-    zeile->addSpacing(12);
     zeile->addWidget(binder().label(logik_.Label_datei, "Label_datei"));
     QLineEdit* datei = binder().zeile(logik_.tk_datei, "tk_datei");
     datei->setFixedWidth(eingabebreite);
