@@ -174,7 +174,7 @@ bool timekeeper::satz_verarbeiten() {
                 return true;
             }
         } else if (const auto stueck = leitung_.lesen()) {
-            angekommen_ = gehoert_ = stueck->stempel;
+            angekommen_ = stueck->stempel;
             empfang_.anhaengen(stueck->text());
         } else {
             return false;
@@ -188,6 +188,7 @@ bool timekeeper::verarbeiten(const tk::gestoert& /*satz*/) {
 }
 
 bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
+    gehoert_ = angekommen_;
     const tk_uhr::befund befund = geraeteuhr_.aufnehmen(angekommen_, satz.zeit);
     if (befund == tk_uhr::befund::fraglich) {
         leitung_.senden("get_timest");
@@ -210,6 +211,7 @@ bool timekeeper::verarbeiten(const tk::chaostaste& /*satz*/) {
 }
 
 bool timekeeper::verarbeiten(const tk::sensor& satz) {
+    gehoert_ = angekommen_;
     const ereignis_art art = profil_.modus == spurmodus::keiner ? 0 : profil_.art_von(satz);
     if (art == 0) {
         return false;

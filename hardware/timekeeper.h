@@ -96,7 +96,7 @@ private:
     tk_uhr geraeteuhr_;
     int abgleiche_ = 0;  ///< since the box has started up
     int verworfen_ = 0;
-    zeit_ms gehoert_ = 0;         ///< the box has opened, or said something
+    zeit_ms gehoert_ = 0;         ///< the box has opened, or told a time; a refusal is no sign that it measures
     zeit_ms letzte_abfrage_ = 0;  ///< of a race
     bool im_rennen_ = false;      ///< between its start and its end
     bool gewuenscht_ = false;     ///< open, or to be opened as soon as it is there

@@ -82,6 +82,11 @@ public:
     sprachliste sprache_e_tk();
 
 private:
+    static constexpr std::size_t gruen = 5;  ///< places of the lamps behind the red ones
+    static constexpr std::size_t gelb = 6;
+    static constexpr std::size_t rennende = 7;
+    static constexpr farbe lampe_aus = 0xC8C8C8;
+
     /// What a box has sent since a lane's file was opened.
     struct mitschrift {
         int spur = 0;  ///< 0 nothing is written down
@@ -93,8 +98,7 @@ private:
     void ansagen();
     void melden(std::string_view zeile);
     void senden(const std::string& text);
-    void schalten(schaltung::ausgang was, int nummer, bool an) { senden_schaltung({was, nummer, an}); }
-    void senden_schaltung(const schaltung& befehl);
+    void schalten(schaltung::ausgang was, int nummer, bool an);
     void verbinden();
     void modus_waehlen(std::size_t modus);
     void modus_senden();

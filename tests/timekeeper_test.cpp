@@ -208,6 +208,15 @@ TEST_F(Timekeeper, AbgezogenImRennenUndWiederEingestecktZaehltEsWeiter) {
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 
+TEST_F(Timekeeper, EinGeraetDasNurAblehntFaehrtNeuHoch) {
+    bereit();
+    gesendet();
+    for (int i = 0; i < 300; ++i) {
+        sagt("NAK>");
+    }
+    EXPECT_NE(gesendet().find("activate,timest_start,mode1,"), std::string::npos);
+}
+
 TEST_F(Timekeeper, AusgaengeSprechenDieWorteDesGeraets) {
     bereit();
     gesendet();

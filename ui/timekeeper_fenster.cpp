@@ -13,11 +13,12 @@ namespace {
 constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
 constexpr int ergebnisbreite = 92;
-constexpr int eingabebreite = 196;
-constexpr int schmaler_knopf = 62;
+constexpr int eingabebreite = 150;
+constexpr int schmaler_knopf = 58;
+constexpr int schaltknopf = 78;
 
-QPushButton* schmal(QPushButton* knopf) {
-    knopf->setFixedWidth(schmaler_knopf);
+QPushButton* schmal(QPushButton* knopf, int breite) {
+    knopf->setFixedWidth(breite);
     knopf->setStyleSheet("padding-left: 2px; padding-right: 2px;");
     return knopf;
 }
@@ -54,6 +55,7 @@ QWidget* TimekeeperFenster::modusgruppe() {
         zeile->addWidget(binder().wahlknopf(logik_.Option.at(i), "Option" + QString::number(i + 1)));
     }
     zeile->addStretch();
+    zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
     return kasten;
 }
 
@@ -79,6 +81,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);
+        wahl->setStyleSheet("min-height: 22px; padding-top: 0; padding-bottom: 0;");
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
@@ -96,8 +99,8 @@ QWidget* TimekeeperFenster::ampelgruppe() {
         raster->addWidget(binder().kasten(logik_.ampel_check.at(i), "ampel_check_" + QString::number(i + 1)),
                           static_cast<int>(i) / 2, static_cast<int>(i) % 2);
     }
-    raster->addWidget(binder().knopf(logik_.ampel_alle_an, "ampel_alle_an"), 4, 0);
-    raster->addWidget(binder().knopf(logik_.ampel_alle_aus, "ampel_alle_aus"), 4, 1);
+    raster->addWidget(schmal(binder().knopf(logik_.ampel_alle_an, "ampel_alle_an"), schaltknopf), 4, 0);
+    raster->addWidget(schmal(binder().knopf(logik_.ampel_alle_aus, "ampel_alle_aus"), schaltknopf), 4, 1);
     return kasten;
 }
 
@@ -106,11 +109,10 @@ QWidget* TimekeeperFenster::relaisgruppe() {
     auto* raster = new QGridLayout(kasten);
     raster->setVerticalSpacing(2);
     for (const int spur : alle_spuren) {
-        raster->addWidget(binder().kasten(logik_.relais_check[spur], "relais_check_" + QString::number(spur)),
-                          (spur - 1) / 2, (spur - 1) % 2);
+        raster->addWidget(binder().kasten(logik_.relais_check[spur], "relais_check_" + QString::number(spur)), spur, 0);
     }
-    raster->addWidget(binder().knopf(logik_.relais_alle_an, "relais_alle_an"), 3, 0);
-    raster->addWidget(binder().knopf(logik_.relais_alle_aus, "relais_alle_aus"), 3, 1);
+    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_an, "relais_alle_an"), schaltknopf), 1, 1, 2, 1);
+    raster->addWidget(schmal(binder().knopf(logik_.relais_alle_aus, "relais_alle_aus"), schaltknopf), 3, 1, 2, 1);
     return kasten;
 }
 
@@ -134,14 +136,14 @@ QWidget* TimekeeperFenster::protokollgruppe() {
     QObject::connect(eingabe, &QLineEdit::returnPressed, eingabe, [this] { logik_.Send.klicken(); });
     zeile->addWidget(eingabe, 1);
     zeile->addWidget(binder().knopf(logik_.Send, "Send"));
-    zeile->addWidget(binder().knopf(logik_.suchen, "suchen"));
     spalte->addLayout(zeile);
     zeile = new QHBoxLayout;
-    zeile->setSpacing(4);
+    zeile->setSpacing(2);
     for (const int spur : alle_spuren) {
-        zeile->addWidget(schmal(binder().knopf(logik_.debug_open[spur], "debug_open_" + QString::number(spur))));
+        zeile->addWidget(
+            schmal(binder().knopf(logik_.debug_open[spur], "debug_open_" + QString::number(spur)), schmaler_knopf));
     }
-    zeile->addWidget(schmal(binder().knopf(logik_.debug_close, "debug_close")));
+    zeile->addWidget(schmal(binder().knopf(logik_.debug_close, "debug_close"), schmaler_knopf));
     zeile->addStretch();
     spalte->addLayout(zeile);
     return kasten;

@@ -369,6 +369,25 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"at2560",
          {{":S13,100:S11,200;:T,5;:S7,300;\r\n:S9,4294967295;", ":T,12;:S13,-5.5;:V.1;:S13,1;:S11,99999999999999999;"},
           at2560_hoeren}},
+        {"tk_datei", {{"Tarvel Timekeeper-Einstellungen\r\n\r\n2\r\n16\r\n15\r\n1\r\n59\r\n0\r\n"}, tk_datei_lesen}},
+        {"timekeeper",
+         {{"\x02"
+           "D1\x17"
+           "510\x03\x02\x17"
+           "600\x03\x02"
+           "D13\x17"
+           "650\x03\x02NAK\x03\x02"
+           "D2\x17"
+           "700\x03",
+           "\x02"
+           "Chaos_bttn\x17"
+           "9\x03\x02\x17"
+           "999999\x03\x02"
+           "D24\x17"
+           "99999999999999999\x03\x02"
+           "D3\x17"
+           "12\x03"},
+          timekeeper_hoeren}},
     };
 }
 

@@ -46,5 +46,7 @@ bool tabelle_betrachten(werkbank& bank, const std::string& bytes);
 bool tagesrennen_lesen(werkbank& bank, const std::string& bytes);
 bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
+bool tk_datei_lesen(werkbank& bank, const std::string& bytes);
+bool timekeeper_hoeren(werkbank& bank, const std::string& bytes);
 
 }  // namespace tarvel::test
