@@ -29,6 +29,8 @@ struct messhardware {
     bool hw_uart = false;
 
     // some of the numbers that `modus` gives
+    static constexpr int iow_40 = 1;
+    static constexpr int druckeranschluss = 3;
     static constexpr int timekeeper = 5;
     static constexpr int control_unit = 6;
     static constexpr int at_2560 = 7;
