@@ -8,8 +8,7 @@ namespace {
 
 class QtBibliothek final : public plattform::bibliothek {
 public:
-    explicit QtBibliothek(std::string_view name)
-        : bibliothek_(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))) {}
+    explicit QtBibliothek(const QString& name) : bibliothek_(name) {}
     ~QtBibliothek() override { bibliothek_.unload(); }
 
     bool laden() { return bibliothek_.load(); }
@@ -22,8 +21,14 @@ private:
 }  // namespace
 
 std::unique_ptr<plattform::bibliothek> QtBibliothekDienst::laden(std::string_view name) {
-    auto bibliothek = std::make_unique<QtBibliothek>(name);
-    return bibliothek->laden() ? std::move(bibliothek) : nullptr;
+    const QString blank = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    for (const QString& ort : {QString::fromStdU16String(ordner_.u16string()), QString()}) {
+        auto bibliothek = std::make_unique<QtBibliothek>(ort.isEmpty() ? blank : ort + "/" + blank);
+        if (bibliothek->laden()) {
+            return bibliothek;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace tarvel::qt

@@ -52,13 +52,14 @@ private:
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
     QtSerienportDienst serienports_{ordner_};
-    QtBibliothekDienst bibliotheken_;
+    QtBibliothekDienst bibliotheken_{ordner_};
     QtAbtasterDienst abtaster_{uhr_};
 #ifdef Q_OS_WIN
     Portbibliothek druckerport_{bibliotheken_};
     Tastenstempel tastenstempel_;
 #else
-    Portdatei druckerport_;
+    Portdatei portdatei_;
+    Portbibliothek druckerport_{bibliotheken_, &portdatei_};
 #endif
 };
 
