@@ -2,7 +2,9 @@
 
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
+#include "programm/druckeranschluss_verdrahtung.h"
 #include "programm/fluegel.h"
+#include "programm/iow_verdrahtung.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
 #include "ui/auswertung_fenster.h"
@@ -11,6 +13,7 @@
 #include "ui/bestzeitverwaltung_fenster.h"
 #include "ui/bildwahl_fenster.h"
 #include "ui/cu_fenster.h"
+#include "ui/drucker_fenster.h"
 #include "ui/einfahren_fenster.h"
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
@@ -25,6 +28,7 @@
 #include "ui/tastenfaenger.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
+#include "ui/usbtest_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
 #include "ui/w_auswertung_fenster.h"
 #include "ui/wettkampf1_fenster.h"
@@ -65,6 +69,9 @@ public:
     UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
+    UsbtestFenster usbtest{p_.geraete.von<iow_verdrahtung>().usbtest, fenster, &einstellungen};
+    DruckerFenster druckeranschluss{p_.geraete.von<druckeranschluss_verdrahtung>().drucker_fenster, fenster,
+                                    &einstellungen};
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
     WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};

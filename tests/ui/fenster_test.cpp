@@ -38,8 +38,11 @@ protected:
         t.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
         std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
+        for (const char* zeile : {"iow_einrichten", "lpt_einrichten"}) {
+            std::get<befehl>(t.p.einstellungsfenster.zeile(zeile).element).klicken();
+        }
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 26U);
+        ASSERT_EQ(alle.size(), 28U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());
