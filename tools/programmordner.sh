@@ -9,7 +9,7 @@ pakete_sicherstellen "${PAKETE_BAU[@]}"
 # A newer compiler may know new warnings; they must not keep anybody from racing.
 cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" \
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
-cmake --build --preset release --target tarvel cu_simulator at2560_simulator
+cmake --build --preset release --target tarvel cu_simulator at2560_simulator iowkit inpout32
 
 mkdir -p Tarvel
 cp -f build/release/ui/tarvel Tarvel/tarvel.neu
@@ -17,6 +17,10 @@ mv -f Tarvel/tarvel.neu Tarvel/tarvel
 mkdir -p Tarvel/Werkzeuge
 for werkzeug in cu_simulator at2560_simulator; do
     cp -f --remove-destination "build/release/tools/simulator/$werkzeug" Tarvel/Werkzeuge/
+done
+mkdir -p Tarvel/Werkzeuge/Bibliotheken
+for bibliothek in libiowkit.so libinpout32.so; do
+    cp -f --remove-destination "build/release/tools/simulator/$bibliothek" Tarvel/Werkzeuge/Bibliotheken/
 done
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
