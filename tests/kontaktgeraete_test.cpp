@@ -413,20 +413,23 @@ struct Kontaktrennen : Kontaktgeraet {
             autos.weiter(t.maschine.jetzt());
             uebertragen();
             t.maschine.laufen(1);
-            pausen += pause() != std::exchange(in_pause, pause()) ? 1 : 0;
+            pausen += pause() && !std::exchange(in_pause, pause()) ? 1 : 0;
+            in_pause = pause();
         }
         ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
+        int mit_pause = 0;
         for (const int spur : {1, 2, 3, 4}) {
             const std::vector<zeit_ms> wahr = autos.runden(spur);
             ASSERT_GT(t.runden(spur), 5 * minuten);
             ASSERT_LE(static_cast<std::size_t>(t.runden(spur)), wahr.size());
             for (int runde = 1; runde <= t.runden(spur); ++runde) {
-                const zeit_ms zeit = wahr[static_cast<std::size_t>(runde) - 1];
-                EXPECT_NEAR(static_cast<double>(rundenzeit(spur, runde)), static_cast<double>(zeit),
-                            pausen > 0 ? 10000 : 1)
-                    << spur << " " << runde;
+                const zeit_ms zu_kurz = wahr[static_cast<std::size_t>(runde) - 1] - rundenzeit(spur, runde);
+                const bool ohne_pause = std::abs(zu_kurz) <= 1;  // else it has stood still for that long
+                EXPECT_TRUE(ohne_pause || (zu_kurz > 7000 && zu_kurz < 20000)) << spur << " " << runde;
+                mit_pause += ohne_pause ? 0 : 1;
             }
         }
+        EXPECT_LE(mit_pause, 4 * pausen);
     }
     int pausen = 0;
     bool in_pause = false;
@@ -440,9 +443,13 @@ simulator::rennen_einstellung vier_wagen() {
     return rennen;
 }
 
-TEST_F(Kontaktrennen, Iow40) {
+TEST_F(Kontaktrennen, Iow40MitPausen) {
     iow_waehlen();
-    simulator::kontaktbrett autos(simulator::iow_werksverdrahtung(vier_wagen()));
+    simulator::rennen_einstellung rennen = vier_wagen();
+    for (simulator::wagen_einstellung& w : rennen.wagen) {
+        w.chaos_promille = 4;
+    }
+    simulator::kontaktbrett autos(simulator::iow_werksverdrahtung(rennen));
     fahren(
         autos,
         [&] {
@@ -451,17 +458,12 @@ TEST_F(Kontaktrennen, Iow40) {
             autos.schalten(~(a[1] | a[2] << 8U | a[3] << 16U | static_cast<std::uint32_t>(a[4]) << 24U));
         },
         30);
-    EXPECT_EQ(pausen, 0);
+    EXPECT_GT(pausen, 1);
 }
 
-TEST_F(Kontaktrennen, DruckeranschlussMitPausen) {
+TEST_F(Kontaktrennen, Druckeranschluss) {
     lpt_waehlen();
-    t.p.einst.lpt.lpt_eingang[5] = art::chaostaster;
-    simulator::rennen_einstellung rennen = vier_wagen();
-    for (simulator::wagen_einstellung& w : rennen.wagen) {
-        w.chaos_promille = 10;
-    }
-    simulator::kontaktbrett autos(simulator::lpt_verdrahtung(rennen));
+    simulator::kontaktbrett autos(simulator::lpt_verdrahtung(vier_wagen()));
     auto& port = t.maschine.druckerport.register_werte;
     fahren(
         autos,
@@ -474,8 +476,7 @@ TEST_F(Kontaktrennen, DruckeranschlussMitPausen) {
             port[0x379] = static_cast<std::uint8_t>(wert);
             autos.schalten(port[0x378]);
         },
-        10);
-    EXPECT_GT(pausen, 1);
+        30);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <QLibrary>
 #include <QTest>
+#include <QThread>
+#include <QTimer>
 #include <algorithm>
 #include <thread>
 
@@ -187,6 +189,9 @@ struct Bibliotheksrennen : Geraeterennen {
         ASSERT_TRUE(p.geraete.verbunden());
         maschine.meldungen_gezeigt.clear();
         p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+        QTimer aufenthalt;  // a dialog, a drawing: the loop stands still
+        QObject::connect(&aufenthalt, &QTimer::timeout, [] { QThread::msleep(300); });
+        aufenthalt.start(1900);
         fahren();
         int alle = 0;
         zeit_ms abweichung = 0;
