@@ -30,6 +30,8 @@ struct messhardware {
 
     // some of the numbers that `modus` gives
     static constexpr int race_control = 2;
+    static constexpr int iow_40 = 1;
+    static constexpr int druckeranschluss = 3;
     static constexpr int timekeeper = 5;
     static constexpr int control_unit = 6;
     static constexpr int at_2560 = 7;

@@ -11,6 +11,7 @@ namespace tarvel {
 #define TARVEL_FENSTER(F)     \
     F(auswertung)             \
     F(bahn1)                  \
+    F(drucker_fenster)        \
     F(einfahren)              \
     F(einstellungen)          \
     F(fahrerspeichernfenster) \
@@ -21,6 +22,7 @@ namespace tarvel {
     F(rc_einstellungen)       \
     F(rundenspeichern)        \
     F(speichernfenster)       \
+    F(usbtest)                \
     F(w_auswertung)           \
     F(wettkampf1)             \
     F(wettkampf2)             \

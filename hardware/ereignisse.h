@@ -30,6 +30,19 @@ inline constexpr spuren<ereignis_art> rundenzaehlung{{16, 15, 14, 13, 34, 35}};
 inline constexpr spuren<ereignis_art> bahnstrom{{24, 23, 22, 21, 40, 41}};
 inline constexpr spuren<ereignis_art> tanken_ein{{32, 30, 28, 26, 36, 38}};
 inline constexpr spuren<ereignis_art> tanken_aus{{31, 29, 27, 25, 37, 39}};
+/// Numbers of the list that a device drives.
+constexpr bool ist_ausgang(ereignis_art nummer) {
+    constexpr ereignis_art erste_abschaltung = 21;
+    constexpr ereignis_art letzte_abschaltung = 24;
+    return (nummer >= chaosanzeige && nummer <= ampel_rot(1)) ||
+           (nummer >= erste_abschaltung && nummer <= letzte_abschaltung) || nummer == zieleinfahrt ||
+           nummer == bahnstrom[5] || nummer == bahnstrom[6];
+}
+/// And those that it reads.
+constexpr bool ist_eingang(ereignis_art nummer) {
+    constexpr ereignis_art letzte = 59;
+    return nummer >= chaostaster && nummer <= letzte && !ist_ausgang(nummer);
+}
 }  // namespace art
 
 inline constexpr int sektorsensoren_max = 12;
@@ -82,8 +95,9 @@ public:
     zeit_ms messzeit = 0;  ///< stamp of the last race tick
     /// The race has started, or gone on after a pause: what comes late from before is no crossing.
     zeit_ms gilt_ab = std::numeric_limits<zeit_ms>::min();
-    int chaos_at_zaehler = 0;     ///< held up by a unit that repeats its chaos switch while it is on
-    spuren<bool> chaos_fahrer{};  ///< whose personal chaos button was pressed
+    int chaos_at_zaehler = 0;             ///< held up by a unit that repeats its chaos switch while it is on
+    bool chaos_taster_gedrueckt = false;  ///< a device's chaos button is held: the key has no say
+    spuren<bool> chaos_fahrer{};          ///< whose personal chaos button was pressed
 
 private:
     /// What waits for the end of the pause, oldest first.

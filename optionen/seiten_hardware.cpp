@@ -1,8 +1,7 @@
-#include <cstdlib>
 #include <type_traits>
 #include <variant>
 
-#include "core/text.h"
+#include "core/portadresse.h"
 #include "optionen/optionsseite.h"
 
 namespace tarvel::optionsseiten {
@@ -42,19 +41,19 @@ optionszeile_zeiger comport(const beschriftet& b, const zahlzugriff& ziel, int a
 optionszeile_zeiger lpt_adresse() {
     optionszeile_zeiger zeile = leeres_feld({"lpt_text", "Druckeranschluß:", "hexadezimal"}, 4);
     feld* element = &std::get<feld>(zeile->element);
-    zeile->zeigen = [element](const einstellungs_ziel& z) {
-        constexpr std::string_view zeichen = "0123456789ABCDEF";
-        std::string text;
-        for (unsigned rest = static_cast<unsigned>(z.einst.lpt.anschluss.lpt_adresse); rest > 0 || text.empty();
-             rest /= 16) {
-            text.insert(text.begin(), zeichen.at(rest % 16));
-        }
-        element->text(text);
+    optionszeile* zeiger = zeile.get();
+    zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen](sprachliste& texte) {
+        davor(texte);
+        texte.text("Die Adresse ist keine hexadezimale Zahl.", zeiger->grenzen_meldung);
     };
-    zeile->uebernehmen = [element](const einstellungs_ziel& z, const auto&) {
-        const std::string text(gekuerzt(element->text()));
-        if (!text.empty() && text.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos) {
-            z.einst.lpt.anschluss.lpt_adresse = static_cast<int>(std::strtol(text.c_str(), nullptr, 16));
+    zeile->zeigen = [element](const einstellungs_ziel& z) {
+        element->text(portadresse_text(z.einst.lpt.anschluss.lpt_adresse));
+    };
+    zeile->uebernehmen = [element, zeiger](const einstellungs_ziel& z, const optionszeile::melder& melden) {
+        if (const auto adresse = portadresse_lesen(element->text())) {
+            z.einst.lpt.anschluss.lpt_adresse = *adresse;
+        } else {
+            melden(zeiger->grenzen_meldung);
         }
     };
     return zeile;
@@ -110,7 +109,7 @@ void race_control(optionsseite& seite) {
 
 void druckeranschluss(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Druckeranschluss", 1);
-    gruppe << lpt_adresse();
+    gruppe << lpt_adresse() << aktion({"lpt_einrichten", "Druckeranschluss einrichten und testen"});
     constexpr std::array<int, 5> eingangspins{10, 11, 12, 13, 15};
     for (std::size_t i = 0; i < eingangspins.size(); ++i) {
         gruppe << ereignis({"ecomb_" + std::to_string(i + 1), "Eingang Pin " + std::to_string(eingangspins.at(i))},
@@ -178,7 +177,8 @@ optionsseite_zeiger messhardware() {
     auto seite = std::make_unique<optionsseite>("Messhardware");
     allgemein(*seite);
     seite->gruppe("Simulationsmodus", 1);  // the keyboard has its own window
-    seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow, &iow::iow_datei), 60);
+    seite->gruppe("IOW 40 USB", 1) << text({"iow_datei", "Zuordnungsdatei"}, wert(&e::iow, &iow::iow_datei), 60)
+                                   << aktion({"iow_einrichten", "Modul einrichten und testen"});
     race_control(*seite);
     druckeranschluss(*seite);
     modul_4x4_seite(*seite);

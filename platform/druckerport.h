@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "platform/schnittstelle.h"
 
@@ -14,6 +15,8 @@ public:
     virtual std::optional<std::uint8_t> lesen(int adresse) = 0;
     /// False if it cannot be written.
     virtual bool schreiben(int adresse, std::uint8_t wert) = 0;
+    /// Through what it would be reached, and what of that is missing; for the operator who looks for the reason.
+    virtual std::string weg() const { return {}; }
 };
 
 }  // namespace tarvel::plattform

@@ -60,16 +60,23 @@ bool Portbibliothek::bereit(int adresse) {
     return lesen_ != nullptr && schreiben_ != nullptr && adresse >= 0 && adresse <= adresse_max;
 }
 
+std::string Portbibliothek::weg() const {
+    if (bibliothek_ == nullptr) {
+        return sonst_ != nullptr ? sonst_->weg() : "inpout32";
+    }
+    return std::string("inpout32") + (lesen_ == nullptr ? ", Inp32" : "") + (schreiben_ == nullptr ? ", Out32" : "");
+}
+
 std::optional<std::uint8_t> Portbibliothek::lesen(int adresse) {
     if (!bereit(adresse)) {
-        return std::nullopt;
+        return bibliothek_ == nullptr && sonst_ != nullptr ? sonst_->lesen(adresse) : std::nullopt;
     }
     return static_cast<std::uint8_t>(lesen_(static_cast<short>(adresse)));
 }
 
 bool Portbibliothek::schreiben(int adresse, std::uint8_t wert) {
     if (!bereit(adresse)) {
-        return false;
+        return bibliothek_ == nullptr && sonst_ != nullptr && sonst_->schreiben(adresse, wert);
     }
     schreiben_(static_cast<short>(adresse), wert);
     return true;

@@ -18,6 +18,7 @@ public:
 
     std::optional<std::uint8_t> lesen(int adresse) override;
     bool schreiben(int adresse, std::uint8_t wert) override;
+    std::string weg() const override { return datei_.string(); }
 
 private:
     bool bereit(int adresse);
@@ -28,19 +29,22 @@ private:
 #endif
 
 /// The registers behind a library that has the right to reach them. It is looked for at their first use: its driver
-/// may ask the operator something.
+/// may ask the operator something. Where there is none, they are reached through `sonst`.
 class Portbibliothek final : public plattform::druckerport {
 public:
-    explicit Portbibliothek(plattform::bibliothek_dienst& dienst) : dienst_(dienst) {}
+    explicit Portbibliothek(plattform::bibliothek_dienst& dienst, plattform::druckerport* sonst = nullptr)
+        : dienst_(dienst), sonst_(sonst) {}
 
     std::optional<std::uint8_t> lesen(int adresse) override;
     bool schreiben(int adresse, std::uint8_t wert) override;
+    std::string weg() const override;
 
 private:
     void suchen();
     bool bereit(int adresse);
 
     plattform::bibliothek_dienst& dienst_;
+    plattform::druckerport* sonst_;
     bool gesucht_ = false;
     std::unique_ptr<plattform::bibliothek> bibliothek_;
     short (*lesen_)(short) = nullptr;

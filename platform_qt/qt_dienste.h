@@ -58,7 +58,8 @@ private:
     Portbibliothek druckerport_{bibliotheken_};
     Tastenstempel tastenstempel_;
 #else
-    Portdatei druckerport_;
+    Portdatei portdatei_;
+    Portbibliothek druckerport_{bibliotheken_, &portdatei_};
 #endif
 };
 

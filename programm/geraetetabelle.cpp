@@ -1,5 +1,7 @@
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
+#include "programm/druckeranschluss_verdrahtung.h"
+#include "programm/iow_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
 #include "programm/timekeeper_verdrahtung.h"
 
@@ -14,10 +16,12 @@ std::unique_ptr<geraeteverdrahtung> anlegen(const geraete_umgebung& um, messgera
 }  // namespace
 
 const std::vector<geraet_anlegen>& geraetetabelle() {
-    static const std::vector<geraet_anlegen> tabelle{anlegen<control_unit_verdrahtung>, anlegen<at2560_verdrahtung>,
-                                                     anlegen<race_control_verdrahtung>,
-                                                     anlegen<timekeeper_verdrahtung>};
-    return tabelle;
+    static const std::vector<geraet_anlegen> tabelle{
+        anlegen<control_unit_verdrahtung>,     anlegen<at2560_verdrahtung>,       anlegen<iow_verdrahtung>,
+        anlegen<druckeranschluss_verdrahtung>, anlegen<race_control_verdrahtung>, anlegen<timekeeper_verdrahtung>};
+    anlegen<iow_verdrahtung>, anlegen<druckeranschluss_verdrahtung>
+};
+return tabelle;
 }
 
 }  // namespace tarvel

@@ -56,6 +56,9 @@ void chaos::befehl_klick() {
 }
 
 void chaos::taste() {
+    if (um_.ereignisse.chaos_taster_gedrueckt) {
+        return;
+    }
     const bool schalter_loesen = um_.einst.chaos_schalter && um_.zustand.chaos_aktiv && !um_.zustand.rennen_beendet;
     if (schalter_loesen && um_.zeitgeber.chaostimer->laeuft()) {
         return;

@@ -165,6 +165,12 @@ void tanken::kontakt_auswerten(int spur) {
     aus.aktiv = false;
 }
 
+void tanken::kontakt_verlassen(int spur) {
+    if (um_.einst.tank_art == tankweise::auf_einem_kontakt) {
+        um_.zustand.spur[spur].tank_kontakt = false;
+    }
+}
+
 void tanken::tank_alle_spuren() {
     if (!um_.param.tank_aktiv) {
         return;

@@ -19,6 +19,8 @@ public:
     void tank_kontakte_auswerten();
     /// The same where nobody refuels: they count only where they stand in for the lap sensor.
     void kontakte_nur_als_runden();
+    /// The car has left its tank contact: where one contact is all there is, it refuels no longer.
+    void kontakt_verlassen(int spur);
     /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.
     void tank_alle_spuren();
     /// Levels and their displays, without any change.

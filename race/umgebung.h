@@ -58,7 +58,7 @@ struct renn_umgebung {
 
     /// The event knows its moment better than the last tick, which is what most are stamped with.
     bool hat_eigenen_stempel(const ereignis_zeile& ereignis) const {
-        return ereignis.ereignis_zeit > ereignisse.messzeit && ereignis.ereignis_zeit <= zeit.messzeit_lesen();
+        return ereignis.ereignis_zeit != ereignisse.messzeit && ereignis.ereignis_zeit <= zeit.messzeit_lesen();
     }
 
     /// Before crossings are looked at: where the finish has sensors 3 and 4 too, they count for lanes 1 and 2.

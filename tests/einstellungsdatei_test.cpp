@@ -267,17 +267,17 @@ TEST_F(Einstellungsdatei, StartdateiOeffnetNieEineAndereDatei) {
 }
 
 TEST_F(Einstellungsdatei, NeustartVerlangtEinenModusNurFuerDiesenStart) {
-    t.p.einst.hardware.hw_iow = true;
+    t.p.einst.hardware.hw_lpt = true;
     ASSERT_TRUE(ablage.zeilen_schreiben("Einstellungen/iow.ini", t.p.datei.schreiben()));
     programm& neu = startdatei_mit("Einstellungen\\iow.ini", "2\r\n5\r\n");
-    EXPECT_FALSE(neu.einst.hardware.hw_iow);
+    EXPECT_FALSE(neu.einst.hardware.hw_lpt);
     EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::modus_2);
     EXPECT_EQ(s6_laden(ablage).zustand, "0");
     EXPECT_EQ(neu.form1.Label6.tipp(), "Beim Programmstart: einstellungen.ini");
     neu.form1.Command7.klicken();
     neu.speichernfenster.name.eingeben("iow");
     neu.speichernfenster.Command1.klicken();
-    EXPECT_TRUE(neu.einst.hardware.hw_iow) << "what is loaded later counts as it stands";
+    EXPECT_TRUE(neu.einst.hardware.hw_lpt) << "what is loaded later counts as it stands";
     EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::aus);
     startdatei_mit("Einstellungen\\iow.ini", "2\r\n1\r\n");
     EXPECT_EQ(p->einst.hardware.hw_4x4_modus, modul_4x4::aus) << "there is no such mode";

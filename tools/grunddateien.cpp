@@ -7,6 +7,7 @@
 
 #include "core/dateien.h"
 #include "core/nebendateien.h"
+#include "hardware/iow_profil.h"
 #include "tests/plattform/testprogramm.h"
 
 int main(int argc, char** argv) {
@@ -22,6 +23,8 @@ int main(int argc, char** argv) {
                        t.p.fahrerliste.speichern(ziel, "Listen\\fahrer.lst") &&
                        t.p.fahrzeugliste.speichern(ziel, "Listen\\fahrzeuge.kfz") &&
                        tarvel::bestzeiten{}.speichern(ziel, t.p.einst.beste_datei);
+    geschrieben =
+        tarvel::iow_profil_speichern(ziel, t.p.einst.iow.iow_datei, tarvel::iow_werkseinstellung()) && geschrieben;
     geschrieben = tarvel::trennzeichen_speichern(ziel, t.p.einst.trennzeichen) && geschrieben;
     for (const tarvel::sprachliste& sprache : t.p.sprachdateien()) {
         geschrieben = ziel.zeilen_schreiben(sprache.datei(), sprache.deutsche_datei()) && geschrieben;

@@ -9,20 +9,22 @@ pakete_sicherstellen "${PAKETE_BAU[@]}"
 # A newer compiler may know new warnings; they must not keep anybody from racing.
 cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" \
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
-cmake --build --preset release --target tarvel cu_simulator at2560_simulator rc_simulator RaceControl ftd2xx
+simulatoren=(cu_simulator at2560_simulator)
+bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
+cmake --build --preset release --target tarvel "${simulatoren[@]}" rc_simulator "${bibliotheken[@]}"
 
 mkdir -p Tarvel
 cp -f build/release/ui/tarvel Tarvel/tarvel.neu
 mv -f Tarvel/tarvel.neu Tarvel/tarvel
 mkdir -p Tarvel/Werkzeuge
-for werkzeug in cu_simulator at2560_simulator; do
+for werkzeug in "${simulatoren[@]}"; do
     cp -f --remove-destination "build/release/tools/simulator/$werkzeug" Tarvel/Werkzeuge/
 done
 cp -f --remove-destination build/release/tools/ersatz/race_control/rc_simulator Tarvel/Werkzeuge/
 # Not beside the program: there they would go before the vendors' own.
 mkdir -p Tarvel/Werkzeuge/Bibliotheken
-for bibliothek in race_control/libRaceControl.so ftd2xx/libftd2xx.so; do
-    cp -f --remove-destination "build/release/tools/ersatz/$bibliothek" Tarvel/Werkzeuge/Bibliotheken/
+for bibliothek in "${bibliotheken[@]}"; do
+    find build/release/tools -name "lib$bibliothek.so" -exec cp -f --remove-destination {} Tarvel/Werkzeuge/Bibliotheken/ \;
 done
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do

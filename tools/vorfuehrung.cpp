@@ -1,5 +1,5 @@
 // A short race of the whole program against a simulated timing device, told as text:
-//   vorfuehrung [cu|at2560|rc|tk] [<folder>]
+//   vorfuehrung [cu|at2560|iow|lpt|rc|tk] [<folder>]
 // Needs no screen. The program has a folder of its own; settings, results and the lock of an installed one stay as they
 // are. Ends with 0 if every lap has been measured right: to the millisecond by a device with a clock of its own.
 
@@ -54,6 +54,8 @@ struct vorfuehrgeraet {
 const std::map<std::string, vorfuehrgeraet> vorfuehrgeraete{
     {"cu", {"Carrera Control Unit", TARVEL_CU_SIMULATOR, 6, "cu_comport", false}},
     {"at2560", {"AT-2560 USB", TARVEL_AT2560_SIMULATOR, 7, "uart_port", true}},
+    {"iow", {"IOW 40 USB", TARVEL_IOWKIT, 1, nullptr, false, 4, TARVEL_IOWKIT, true, true, 10}},
+    {"lpt", {"Druckeranschluss", TARVEL_INPOUT32, 3, nullptr, false, 4, TARVEL_INPOUT32, true, true, 10}},
     {"rc", {"Race Control", TARVEL_RC_SIMULATOR, 2, "selComPort", false, 4, TARVEL_RC_BIBLIOTHEK, false}},
     {"tk", {"Timekeeper", TARVEL_FTD2XX, 5, nullptr, false, 4, TARVEL_FTD2XX, true, true}}};
 
@@ -420,7 +422,7 @@ int main(int argc, char** argv) {
     const QStringList argumente = QApplication::arguments().mid(1);
     const auto geraet = tarvel::vorfuehrgeraete.find(argumente.value(0, "cu").toStdString());
     if (geraet == tarvel::vorfuehrgeraete.end() || argumente.size() > 2) {
-        std::fprintf(stderr, "vorfuehrung [cu|at2560|rc|tk] [<Ordner>]\n");
+        std::fprintf(stderr, "vorfuehrung [cu|at2560|iow|lpt|rc|tk] [<Ordner>]\n");
         return 2;
     }
     const QString ordner = argumente.value(1, TARVEL_QUELLEN "/Tarvel/Vorfuehrung");

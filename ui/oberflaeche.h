@@ -2,7 +2,9 @@
 
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
+#include "programm/druckeranschluss_verdrahtung.h"
 #include "programm/fluegel.h"
+#include "programm/iow_verdrahtung.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
 #include "programm/race_control_verdrahtung.h"
@@ -13,6 +15,7 @@
 #include "ui/bestzeitverwaltung_fenster.h"
 #include "ui/bildwahl_fenster.h"
 #include "ui/cu_fenster.h"
+#include "ui/drucker_fenster.h"
 #include "ui/einfahren_fenster.h"
 #include "ui/einstellungen_fenster.h"
 #include "ui/fenster.h"
@@ -30,6 +33,7 @@
 #include "ui/timekeeper_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
+#include "ui/usbtest_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
 #include "ui/w_auswertung_fenster.h"
 #include "ui/wettkampf1_fenster.h"
@@ -72,6 +76,9 @@ public:
     SpaetesFenster<RcFenster> rc{p_.geraete.von<race_control_verdrahtung>().rc_einstellungen, fenster, &einstellungen};
     SpaetesFenster<TimekeeperFenster> timekeeper{p_.geraete.von<timekeeper_verdrahtung>().tk_einstellungen, fenster,
                                                  &einstellungen};
+    SpaetesFenster<UsbtestFenster> usbtest{p_.geraete.von<iow_verdrahtung>().usbtest, fenster, &einstellungen};
+    SpaetesFenster<DruckerFenster> druckeranschluss{p_.geraete.von<druckeranschluss_verdrahtung>().drucker_fenster,
+                                                    fenster, &einstellungen};
     SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
                                                             fenster, &form1};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};

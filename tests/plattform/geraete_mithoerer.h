@@ -29,6 +29,7 @@ public:
             rennen_.ereignisse_gemeldet();
         }
     }
+    void tankkontakt_verlassen(int spur) override { rennen_.tankkontakt_verlassen(spur); }
     void fuellstand(int spur, int stufe, int stufen, bool neu) override {
         rennen_.fuellstand(spur, stufe, stufen, neu);
     }

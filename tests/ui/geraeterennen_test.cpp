@@ -215,5 +215,13 @@ TEST_F(Bibliotheksrennen, Timekeeper) {
     fahren_mit(TARVEL_FTD2XX, &messhardware::hw_timekeeper, 0);
 }
 
+TEST_F(Bibliotheksrennen, Iow40) {
+    fahren_mit(TARVEL_IOWKIT, &messhardware::hw_iow, 10);
+}
+
+TEST_F(Bibliotheksrennen, Druckeranschluss) {
+    fahren_mit(TARVEL_INPOUT32, &messhardware::hw_lpt, 10);
+}
+
 }  // namespace
 }  // namespace tarvel

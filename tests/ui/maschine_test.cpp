@@ -62,6 +62,7 @@ TEST(Druckerport, PortbibliothekOhneIhreBeidenRufeIstKeinPort) {
     {
         qt::Portbibliothek halb(bibliotheken);
         EXPECT_FALSE(halb.lesen(0x379) || halb.schreiben(0x378, 1));
+        EXPECT_EQ(halb.weg(), "inpout32, Out32") << "what is missing";
     }
     EXPECT_EQ(bibliotheken.geladen, 0);
     bibliotheken.ruf("inpoutx64", "Out32", schreiben);
@@ -71,6 +72,13 @@ TEST(Druckerport, PortbibliothekOhneIhreBeidenRufeIstKeinPort) {
     EXPECT_TRUE(port.schreiben(0x378, 0xFE));
     EXPECT_FALSE(port.lesen(-1) || port.schreiben(0x10000, 1));
     EXPECT_EQ(geschrieben, (std::vector<std::pair<int, int>>{{0x378, 0xFE}}));
+    bibliotheken.da.clear();
+    test::test_druckerport anderer;
+    anderer.register_werte[0x378] = 7;
+    qt::Portbibliothek ohne(bibliotheken, &anderer);
+    EXPECT_EQ(ohne.lesen(0x378), 7);
+    EXPECT_TRUE(ohne.schreiben(0x378, 9));
+    EXPECT_EQ(anderer.register_werte[0x378], 9);
 }
 
 TEST(Prozess, EineSperreOhneLebendenBesitzerHaeltNiemandenAuf) {

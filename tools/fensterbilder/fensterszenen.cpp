@@ -1,5 +1,6 @@
 #include "tools/fensterbilder/szenen.h"
 
+#include "hardware/iow_profil.h"
 #include "programm/at2560_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
 #include "tests/plattform/test_ftdi.h"
@@ -200,6 +201,36 @@ const std::vector<szeneneintrag> alle{
          return *b.o.uart_profildatei;
      },
      true},
+    {"usbtest",
+     [](buehne& b) -> QWidget& {
+         b.p.fenster.zeigen(fenstername::usbtest);
+         return *b.o.usbtest;
+     }},
+    {"usbtest_oeffnen",
+     [](buehne& b) -> QWidget& {
+         for (const char* name : {"tvk_usb.iow", "klubbahn.iow"}) {
+             iow_profil_speichern(b.p.ablage, name, iow_werkseinstellung());
+         }
+         b.p.fenster.zeigen(fenstername::usbtest);
+         b.p.geraete.von<iow_verdrahtung>().usbtest.Command8.klicken();
+         return *b.o.usbtest;
+     }},
+    {"druckeranschluss",
+     [](buehne& b) -> QWidget& {
+         b.t.maschine.druckerport.register_werte = {{0x378, 0x21}, {0x379, 0xC0}, {0x37A, 4}};
+         b.p.fenster.zeigen(fenstername::drucker_fenster);
+         return *b.o.druckeranschluss;
+     }},
+    {"einstellungen_iow",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_iow = true;
+         return optionsseite_zeigen<7>(b);
+     }},
+    {"einstellungen_lpt",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_lpt = true;
+         return optionsseite_zeigen<7>(b);
+     }},
     {"einstellungen_at2560",
      [](buehne& b) -> QWidget& {
          b.p.einst.hardware.hw_uart = true;

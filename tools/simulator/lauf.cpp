@@ -2,8 +2,9 @@
 
 #include <chrono>
 #include <cstdio>
-#include <map>
 #include <string>
+
+#include "tools/simulator/rundenschreiber.h"
 
 namespace tarvel::simulator {
 namespace {
@@ -15,58 +16,6 @@ zeit_ms maschinenzeit() {
         .count();
 }
 
-void zeile(const std::string& text) {
-    std::printf("%s\n", text.c_str());
-    std::fflush(stdout);
-}
-
-/// Writes each passage as a line, with the lap it ends.
-class rundenschreiber {
-public:
-    explicit rundenschreiber(const geraet& g) : g_(g) {}
-
-    void schreiben() {
-        if (g_.aufstellungen() != aufstellung_) {
-            aufstellung_ = g_.aufstellungen();
-            stand_.clear();
-        }
-        for (; gelesen_ < g_.fahrten().size(); ++gelesen_) {
-            schreiben(g_.fahrten()[gelesen_]);
-        }
-    }
-
-private:
-    struct stand {
-        int runde = -1;
-        zeit_ms stempel = 0;
-    };
-
-    void schreiben(const ueberfahrt& u) {
-        stand& s = stand_[u.wagen];
-        const std::string wagen = "Wagen " + std::to_string(u.wagen) + "  ";
-        if (u.sensor > 1) {
-            zeile(wagen + "Sektor " + std::to_string(u.sensor - 1));
-            return;
-        }
-        ++s.runde;
-        const zeit_ms dauer = u.stempel - s.stempel;
-        s.stempel = u.stempel;
-        if (s.runde == 0) {
-            zeile(wagen + "erste Überfahrt");
-            return;
-        }
-        std::string tausendstel = std::to_string(dauer % sekunde);
-        tausendstel.insert(0, 3 - tausendstel.size(), '0');
-        zeile(wagen + "Runde " + std::to_string(s.runde) + "   " + std::to_string(dauer / sekunde) + "," + tausendstel +
-              " s");
-    }
-
-    const geraet& g_;
-    std::map<int, stand> stand_;
-    std::size_t gelesen_ = 0;
-    int aufstellung_ = 0;
-};
-
 /// Pulls the plug and puts it back in when it is time; false if that failed.
 bool stecker(anschluss& a, const lauf_einstellung& einst, zeit_ms vergangen, bool& steckt) {
     const bool gezogen = einst.abziehen_s >= 0 && vergangen >= einst.abziehen_s * sekunde;
@@ -76,7 +25,7 @@ bool stecker(anschluss& a, const lauf_einstellung& einst, zeit_ms vergangen, boo
         return true;
     }
     steckt = soll;
-    zeile(soll ? "Eingesteckt" : "Abgezogen");
+    zeile_schreiben(soll ? "Eingesteckt" : "Abgezogen");
     if (!soll) {
         a.abziehen();
         return true;
@@ -98,9 +47,9 @@ int laufen(geraet& g, const lauf_einstellung& einst) {
         std::fprintf(stderr, "%s\n", fehler.c_str());
         return 1;
     }
-    zeile("Bereit an " + a.name());
+    zeile_schreiben("Bereit an " + a.name());
     g.senden = [&a](std::string_view bytes) { a.schreiben(bytes); };
-    g.melden = [](std::string_view text) { zeile("  " + std::string(text)); };
+    g.melden = [](std::string_view text) { zeile_schreiben("  " + std::string(text)); };
 
     const zeit_ms beginn = maschinenzeit();
     rundenschreiber runden(g);
@@ -116,7 +65,7 @@ int laufen(geraet& g, const lauf_einstellung& einst) {
         }
         if (verbunden != a.verbunden()) {
             verbunden = !verbunden;
-            zeile(verbunden ? "  Verbunden" : "  Getrennt");
+            zeile_schreiben(verbunden ? "  Verbunden" : "  Getrennt");
             if (verbunden) {
                 g.verbunden();
             }

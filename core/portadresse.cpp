@@ -1,0 +1,35 @@
+#include "core/portadresse.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int hexadezimal = 16;
+constexpr int adresse_max = 0xFFFF - 2;
+
+}  // namespace
+
+std::string portadresse_text(int adresse) {
+    std::array<char, 8> ziffern{};
+    const auto ende = std::to_chars(ziffern.begin(), ziffern.end(), static_cast<unsigned>(adresse), hexadezimal).ptr;
+    std::string text(ziffern.begin(), ende);
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char z) { return z >= 'a' ? static_cast<char>(z - 'a' + 'A') : z; });
+    return text;
+}
+
+std::optional<int> portadresse_lesen(std::string_view text) {
+    text = gekuerzt(text);
+    int adresse = 0;
+    const char* const ende = text.data() + text.size();
+    const auto [bis, fehler] = std::from_chars(text.data(), ende, adresse, hexadezimal);
+    const bool gut = fehler == std::errc() && bis == ende && adresse >= 0 && adresse <= adresse_max;
+    return gut ? std::optional(adresse) : std::nullopt;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "core/einstellungen.h"
+#include "hardware/ausgaben.h"
+#include "hardware/kontaktleser.h"
+#include "hardware/messgeraet.h"
+#include "platform/abtaster.h"
+#include "platform/druckerport.h"
+
+namespace tarvel {
+
+/// Sensors and lamps on the lines of the printer port: five inputs in the status register, eight outputs in the data
+/// register. Nothing tells whether somebody is at the other end; a machine without the port shows.
+class druckeranschluss final : public messgeraet {
+public:
+    struct umgebung {
+        const einstellungen& einst;
+        ereignis_tabelle& ereignisse;
+        plattform::abtaster_dienst& abtaster;
+        plattform::druckerport& port;
+        rennverbindung& rennen;
+    };
+
+    explicit druckeranschluss(const umgebung& um);
+    druckeranschluss(const druckeranschluss&) = delete;
+    druckeranschluss& operator=(const druckeranschluss&) = delete;
+    ~druckeranschluss() override { schliessen(); }
+
+    int nummer() const override { return messhardware::druckeranschluss; }
+    std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::druckeranschluss; }
+    bool oeffnen() override;
+    void schliessen() override;
+    bool verbunden() const override { return abtastung_ != nullptr && da_; }
+
+    void abfragen() override { lpt_auswerten(); }
+    void rennfenster_offen() override { lpt_bereit(); }
+    void einfahren_beginnt() override;
+    void rennen_bereit() override;
+    void schalten(const schaltung& befehl) override;
+
+    /// Switches the output of this number; 0 are all eight. Of two with the same number the last one.
+    void lpt_an(ereignis_art nummer) { lpt_schalten(nummer, true); }
+    void lpt_aus(ereignis_art nummer) { lpt_schalten(nummer, false); }
+    /// What the data register has to show.
+    std::uint8_t lpt_ausgaenge() const { return soll_; }
+
+private:
+    void lpt_schalten(ereignis_art nummer, bool an);
+    /// Every output at rest, but those that are active there.
+    void grundstellung();
+    void lpt_bereit();
+    /// By the sampling thread: the outputs as they have to be, and a look at the inputs.
+    void lpt_abtasten(zeit_ms jetzt);
+    void lpt_auswerten() { kontakte_.auswerten(); }
+    void zuordnen();
+
+    umgebung um_;
+    kontaktleser kontakte_;
+    std::atomic<std::uint8_t> soll_ = 0;
+    std::atomic<bool> da_ = false;  ///< there is a port
+    int lpt_basis_ = 0;
+    std::unique_ptr<schnittstelle> abtastung_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "core/einstellungen.h"
+#include "core/texte.h"
+#include "hardware/ausgaben.h"
+#include "hardware/geraetebedienung.h"
+#include "hardware/iow_platine.h"
+#include "hardware/kontaktleser.h"
+#include "hardware/messgeraet.h"
+#include "platform/abtaster.h"
+#include "platform/meldungen.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+class dateien;
+
+/// The IO-Warrior 40 USB: contacts and lamps on 32 pins that the profile file gives their meaning. Its outputs are the
+/// report that the outputs of the program keep.
+class iow_40 final : public messgeraet {
+public:
+    struct umgebung {
+        const einstellungen& einst;
+        const texte& txt;
+        const dateien& ablage;
+        ereignis_tabelle& ereignisse;
+        tarvel::ausgaben& ausgaben;
+        plattform::zeitgeber_dienst& zeitgeber;
+        plattform::abtaster_dienst& abtaster;
+        plattform::bibliothek_dienst& bibliotheken;
+        plattform::meldungen& meldungen;
+        rennverbindung& rennen;
+        geraetebedienung& bedienung;
+    };
+
+    explicit iow_40(const umgebung& um);
+    iow_40(const iow_40&) = delete;
+    iow_40& operator=(const iow_40&) = delete;
+    ~iow_40() override { schliessen(); }
+
+    int nummer() const override { return messhardware::iow_40; }
+    /// Reads the profile of the settings and opens the first board. Without a board the operator's side knows.
+    bool oeffnen() override;
+    void schliessen() override;
+    void wieder_aufnehmen() override;
+    bool verbunden() const override { return platine_.offen(); }
+
+    void abfragen() override;
+    void rennfenster_offen() override { iow_pegel_merken(); }
+    void einfahren_beginnt() override { iow_pegel_merken(); }
+    void rennen_bereit() override { iow_pegel_merken(); }
+
+private:
+    void iow_belegung_laden();
+    void iow_pegel_merken() { kontakte_.ruhe_merken(); }
+    /// By the sampling thread.
+    void blick(zeit_ms jetzt);
+    bool senden(std::span<const std::uint8_t> bericht) const { return platine_.schreiben(bericht); }
+    bool anfangen();
+    void anhalten();
+    void lebenstakt_tick();
+
+    umgebung um_;
+    iow_platine platine_;
+    kontaktleser kontakte_;
+    std::unique_ptr<plattform::zeitgeber> lebenstakt_;  ///< a board that takes no report any more is gone
+    std::unique_ptr<schnittstelle> abtastung_;          ///< none while the board is closed
+    std::uint32_t linien_ = 0;                          ///< of the last report; the sampling thread's own
+    bool gewuenscht_ = false;                           ///< open, or to be opened as soon as it is there
+};
+
+}  // namespace tarvel

@@ -1,0 +1,109 @@
+#include "hardware/iow_platine.h"
+
+#include <algorithm>
+
+namespace tarvel {
+namespace {
+
+constexpr const char* bibliotheksname = "iowkit";
+constexpr std::uint32_t pipe = 0;  // of the port pins
+constexpr std::size_t bericht_max = 8;
+constexpr unsigned bits_je_port = 8;
+
+}  // namespace
+
+bool iow_platine::bibliothek_laden() {
+    if (bibliothek_ != nullptr) {
+        return true;
+    }
+    auto neue = dienst_.laden(bibliotheksname);
+    if (neue == nullptr) {
+        es_fehlt_ = bibliotheksname;
+        return false;
+    }
+    es_fehlt_.clear();
+    const auto finden = [&](auto& ruf, const char* name) {
+        ruf = neue->template finden_als<std::remove_pointer_t<std::remove_reference_t<decltype(ruf)>>>(name);
+        if (ruf == nullptr && es_fehlt_.empty()) {
+            es_fehlt_ = name;
+        }
+    };
+    finden(ruf_.IowKitOpenDevice, "IowKitOpenDevice");
+    finden(ruf_.IowKitCloseDevice, "IowKitCloseDevice");
+    finden(ruf_.IowKitGetNumDevs, "IowKitGetNumDevs");
+    finden(ruf_.IowKitGetDeviceHandle, "IowKitGetDeviceHandle");
+    finden(ruf_.IowKitGetProductId, "IowKitGetProductId");
+    finden(ruf_.IowKitGetSerialNumber, "IowKitGetSerialNumber");
+    finden(ruf_.IowKitReadNonBlocking, "IowKitReadNonBlocking");
+    finden(ruf_.IowKitWrite, "IowKitWrite");
+    if (!es_fehlt_.empty()) {
+        return false;
+    }
+    bibliothek_ = std::move(neue);
+    return true;
+}
+
+bool iow_platine::iow_oeffnen() {
+    schliessen();
+    if (!bibliothek_laden()) {
+        return false;
+    }
+    const handle erstes = ruf_.IowKitOpenDevice();
+    if (erstes == nullptr) {
+        ruf_.IowKitCloseDevice(erstes);
+        return false;
+    }
+    const std::size_t anzahl = std::min<std::size_t>(ruf_.IowKitGetNumDevs(), geraete_max);
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        iow_handle_.at(i) = ruf_.IowKitGetDeviceHandle(static_cast<std::uint32_t>(i + 1));
+    }
+    if (iow_handle_.front() == nullptr) {
+        iow_handle_.front() = erstes;
+    }
+    std::array<char, 64> seriennummer{};  // some boards answer nothing else before they were asked for it
+    ruf_.IowKitGetSerialNumber(iow_handle_.front(), seriennummer.data());
+    iow_typ_lesen();
+    return true;
+}
+
+void iow_platine::iow_typ_lesen() {
+    constexpr std::uint32_t iow_24 = 5377;
+    constexpr std::uint32_t iow_56 = 5379;
+    const std::uint32_t produkt = ruf_.IowKitGetProductId(iow_handle_.front());
+    iow_berichtgroesse_ = produkt == iow_24 ? 3 : produkt == iow_56 ? bericht_max : 5;
+}
+
+void iow_platine::schliessen() {
+    if (offen()) {
+        ruf_.IowKitCloseDevice(iow_handle_.front());
+    }
+    iow_handle_ = {};
+    iow_berichtgroesse_ = 0;
+}
+
+bool iow_platine::lesen(std::uint32_t& linien) const {
+    std::array<std::uint8_t, bericht_max> bericht{};
+    const auto groesse = static_cast<std::uint32_t>(iow_berichtgroesse_);
+    if (!offen() || ruf_.IowKitReadNonBlocking(iow_handle_.front(), pipe, bericht.data(), groesse) != groesse) {
+        return false;
+    }
+    const std::size_t letzter = std::min<std::size_t>(iow_berichtgroesse_ - 1, ports);
+    std::uint32_t neu = 0;
+    for (std::size_t port = 0; port < letzter; ++port) {
+        const auto geschlossen = static_cast<std::uint8_t>(~bericht.at(port + 1));
+        neu |= static_cast<std::uint32_t>(geschlossen) << (port * bits_je_port);
+    }
+    linien = neu;
+    return true;
+}
+
+bool iow_platine::schreiben(std::span<const std::uint8_t> bericht) const {
+    std::array<std::uint8_t, bericht_max> bytes{};
+    bytes.fill(255);
+    std::copy_n(bericht.begin(), std::min(bericht.size(), bytes.size()), bytes.begin());
+    bytes.front() = 0;
+    return offen() && ruf_.IowKitWrite(iow_handle_.front(), pipe, bytes.data(),
+                                       static_cast<std::uint32_t>(iow_berichtgroesse_)) == iow_berichtgroesse_;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,181 @@
+#include "hardware/kontaktleser.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+constexpr ereignis_art erster_chaostaster = 54;  // of a driver
+
+bool steht_in(const spuren<ereignis_art>& arten, ereignis_art nummer) {
+    return std::find(arten.begin(), arten.end(), nummer) != arten.end();
+}
+
+bool ist_chaostaster(ereignis_art nummer) {
+    return nummer == art::chaostaster || nummer >= erster_chaostaster;
+}
+
+bool ist_tankkontakt(ereignis_art nummer) {
+    return steht_in(art::tanken_ein, nummer) || steht_in(art::tanken_aus, nummer);
+}
+
+/// The contact is the lane's lap sensor too.
+bool zaehlt_runden(ereignis_art nummer, rundenzaehlung_auf modus) {
+    return (modus == rundenzaehlung_auf::tanksensor_1 && steht_in(art::tanken_ein, nummer)) ||
+           (modus == rundenzaehlung_auf::tanksensor_2 && steht_in(art::tanken_aus, nummer));
+}
+
+}  // namespace
+
+void kontaktleser::gesehen(zeit_ms stempel, std::uint32_t linien) {
+    linien_ = linien;  // before the change itself: who forgets what waits knows this
+    if (linien != gegeben_ && proben_.geben({stempel, linien})) {
+        gegeben_ = linien;
+    }
+}
+
+void kontaktleser::beginnen(std::uint32_t linien) {
+    linien_ = gegeben_ = linien;
+    ruhe_merken();
+}
+
+void kontaktleser::ruhe_merken() {
+    proben_.leeren();
+    wartet_.reset();
+    stand_ = linien_;
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        if (art::ist_eingang(arten_.at(linie))) {
+            ereignis_zeile& zeile = um_.ereignisse[arten_.at(linie)];
+            zeile.pegel = zeile.pegel_ruhe = (stand_ >> linie & 1U) != 0;
+        }
+    }
+    chaos_von_hier_ = false;
+    tank_frei_.fuellen(false);
+    um_.ereignisse.chaos_taster_gedrueckt = false;
+}
+
+bool kontaktleser::von_ruhe_weg(std::size_t linie, std::uint32_t linien) const {
+    const ereignis_art nummer = arten_.at(linie);
+    return art::ist_eingang(nummer) && ((linien >> linie & 1U) != 0) != um_.ereignisse[nummer].pegel_ruhe;
+}
+
+bool kontaktleser::zu_frueh(const probe& p) const {
+    if (!um_.rennen.rennen_laeuft()) {
+        return false;
+    }
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        const ereignis_art nummer = arten_.at(linie);
+        const bool runde = steht_in(art::rundenzaehlung, nummer) && um_.ereignisse[nummer].aktiv;
+        if (runde && von_ruhe_weg(linie, p.linien) && !von_ruhe_weg(linie, stand_)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void kontaktleser::auswerten() {
+    while (wartet_ || (wartet_ = proben_.nehmen())) {
+        if (!gewartet_ && zu_frueh(*wartet_)) {
+            gewartet_ = true;
+            break;
+        }
+        gewartet_ = false;
+        uebernehmen(*std::exchange(wartet_, std::nullopt));
+    }
+    tankkontakte_halten();
+    um_.rennen.ereignisse_gemeldet();
+    tankkontakte_freigeben();
+}
+
+void kontaktleser::uebernehmen(const probe& p) {
+    const std::uint32_t vorher = std::exchange(stand_, p.linien);
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        const bool weg = von_ruhe_weg(linie, p.linien);
+        if (weg == von_ruhe_weg(linie, vorher)) {
+            continue;
+        }
+        if (weg) {
+            weggegangen(arten_.at(linie), p.stempel);
+        } else {
+            zurueckgekommen(arten_.at(linie));
+        }
+    }
+}
+
+void kontaktleser::weggegangen(ereignis_art nummer, zeit_ms stempel) {
+    const ereignis_zeile& zeile = um_.ereignisse[nummer];
+    if (ist_chaostaster(nummer)) {
+        chaostaster_gedrueckt(nummer, stempel);
+    } else if (steht_in(art::rundenzaehlung, nummer)) {
+        um_.ereignisse.ueberfahrt_melden(nummer, stempel);
+    } else if (!zeile.aktiv || stempel - zeile.ereignis_zeit >= prellen_ms) {
+        um_.ereignisse.ereignis_melden(nummer, stempel);
+    }
+}
+
+void kontaktleser::zurueckgekommen(ereignis_art nummer) {
+    if (ist_chaostaster(nummer)) {
+        chaostaster_losgelassen();
+    }
+    for (const int spur : alle_spuren) {
+        tank_frei_[spur] = tank_frei_[spur] || nummer == art::tanken_ein[spur];
+    }
+}
+
+void kontaktleser::chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel) {
+    ereignis_tabelle& ereignisse = um_.ereignisse;
+    if (nummer >= erster_chaostaster) {
+        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
+    }
+    chaos_von_hier_ = chaos_von_hier_ || !ereignisse[art::chaostaster].aktiv;
+    ereignisse.ereignis_melden(art::chaostaster, stempel);
+    ereignisse.chaos_taster_gedrueckt = um_.einst.chaos_schalter || eigenheit_.taster_sperrt_taste;
+}
+
+void kontaktleser::chaostaster_losgelassen() {
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        if (ist_chaostaster(arten_.at(linie)) && von_ruhe_weg(linie, stand_)) {
+            return;  // another one is held
+        }
+    }
+    um_.ereignisse.chaos_taster_gedrueckt = false;
+    if (std::exchange(chaos_von_hier_, false) && um_.einst.chaos_schalter) {
+        um_.ereignisse[art::chaostaster].aktiv = false;
+    }
+}
+
+void kontaktleser::tankkontakte_halten() {
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        const ereignis_art nummer = arten_.at(linie);
+        if (ist_tankkontakt(nummer) && von_ruhe_weg(linie, stand_) && !um_.ereignisse[nummer].aktiv &&
+            !zaehlt_runden(nummer, um_.einst.tank_runden_modus)) {
+            um_.ereignisse.ereignis_melden(nummer);
+        }
+    }
+}
+
+void kontaktleser::tankkontakte_freigeben() {
+    for (const int spur : alle_spuren) {
+        if (!tank_frei_[spur] || um_.ereignisse[art::tanken_ein[spur]].aktiv) {
+            continue;  // the race has still to learn that it was there
+        }
+        tank_frei_[spur] = false;
+        const bool endet_anders = std::find(arten_.begin(), arten_.end(), art::tanken_aus[spur]) != arten_.end();
+        if (eigenheit_.tankt_nur_auf_kontakt || !endet_anders) {
+            um_.rennen.tankkontakt_verlassen(spur);
+        }
+    }
+}
+
+void kontaktleser::verstummt() {
+    um_.ereignisse.chaos_taster_gedrueckt = false;
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        if (von_ruhe_weg(linie, stand_) && ist_tankkontakt(arten_.at(linie))) {
+            zurueckgekommen(arten_.at(linie));
+        }
+    }
+    tankkontakte_freigeben();
+}
+
+}  // namespace tarvel

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "core/einstellungen.h"
+#include "hardware/ereignisse.h"
+#include "hardware/rennverbindung.h"
+#include "hardware/uebergabe.h"
+
+namespace tarvel {
+
+/// What the plain contacts on the lines of an interface say. The thread that samples them hands over each change with
+/// its stamp; the race takes them later, and loses neither an edge nor its time. A lap, sector, sound or chaos contact
+/// counts once each time it leaves its rest level; a tank contact counts for as long as it is away from it. The rest
+/// level is the one that a line has as the race gets ready.
+class kontaktleser {
+public:
+    static constexpr std::size_t linien_max = 32;
+    using linienzuordnung = std::array<ereignis_art, linien_max>;  ///< 0 for a line that means nothing
+
+    struct umgebung {
+        const einstellungen& einst;
+        ereignis_tabelle& ereignisse;
+        rennverbindung& rennen;
+    };
+    /// In what the devices differ.
+    struct eigenheit {
+        bool taster_sperrt_taste = false;    ///< a chaos button that is held locks the key, also where it is no switch
+        bool tankt_nur_auf_kontakt = false;  ///< on one contact, also with a contact for the end of it
+    };
+
+    kontaktleser(const umgebung& um, eigenheit art) : um_(um), eigenheit_(art) {}
+
+    /// By the thread that samples: the lines that are active now, a bit each.
+    void gesehen(zeit_ms stempel, std::uint32_t linien);
+
+    /// Outputs among them are passed over.
+    void zuordnen(const linienzuordnung& arten) { arten_ = arten; }
+    /// Before the device is sampled for the first time.
+    void beginnen(std::uint32_t linien);
+    /// What the lines are now is their rest; what has waited is forgotten.
+    void ruhe_merken();
+    /// Delivers what has come since the last time.
+    void auswerten();
+    /// The device is gone: nothing is held any more.
+    void verstummt();
+
+private:
+    struct probe {
+        zeit_ms stempel = 0;
+        std::uint32_t linien = 0;
+    };
+
+    bool von_ruhe_weg(std::size_t linie, std::uint32_t linien) const;
+    /// A lap of this sample would take the place of one that the race has still to count.
+    bool zu_frueh(const probe& p) const;
+    void uebernehmen(const probe& p);
+    void weggegangen(ereignis_art nummer, zeit_ms stempel);
+    void zurueckgekommen(ereignis_art nummer);
+    void chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel);
+    void chaostaster_losgelassen();
+    void tankkontakte_halten();
+    void tankkontakte_freigeben();
+
+    umgebung um_;
+    eigenheit eigenheit_;
+    linienzuordnung arten_{};
+    uebergabe<probe, 1024> proben_;
+    std::atomic<std::uint32_t> linien_ = 0;  ///< as they are
+    std::uint32_t gegeben_ = 0;              ///< as they were handed over last; the sampling thread's own
+    std::uint32_t stand_ = 0;                ///< as the race knows them
+    std::optional<probe> wartet_;
+    bool gewartet_ = false;
+    bool chaos_von_hier_ = false;  ///< the chaos that waits, or runs, is of a button here
+    spuren<bool> tank_frei_{};     ///< has left its tank contact, and the race does not know yet
+};
+
+}  // namespace tarvel

@@ -1,0 +1,297 @@
+#include "hardware/usbtest.h"
+
+#include <algorithm>
+
+#include "core/ordnerblick.h"
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view endung = ".iow";
+constexpr std::size_t protokoll_zeilen_max = 400;
+constexpr int name_laenge_max = 60;
+constexpr int wert_max = 255;
+constexpr std::size_t ports_iow_24 = 2;
+
+/// For the small board: what its sixteen pins mean, the others nothing.
+iow_profil kleine_platine(std::initializer_list<ereignis_art> arten) {
+    iow_profil profil{};
+    std::copy(arten.begin(), arten.end(), profil.begin());
+    return profil;
+}
+
+}  // namespace
+
+usbtest::usbtest(const umgebung& um)
+    : fensterlogik(um.fenster, um.ablage, fenstername::usbtest),
+      um_(um),
+      Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)),
+      lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)),
+      platine_(um.bibliotheken) {
+    Timer1_->bei_tick = [this] { takt_tick(); };
+    lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
+    bericht_.senden = [this](std::span<const std::uint8_t> bericht) { return platine_.schreiben(bericht); };
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        combo_c.at(platz).bei_aenderung = [this] { zuordnung_geaendert(); };
+        c.at(platz).bei_aenderung = [this, platz] { schalten(platz); };
+    }
+    for (feld& wert : tp) {
+        wert.laenge_max(3);
+    }
+    datei.laenge_max(name_laenge_max);
+    lesen.bei_klick = [this] { werte_lesen(); };
+    setzen.bei_klick = [this] { werte_setzen(); };
+    Command1.bei_klick = [this] { profil_zeigen(iow_werkseinstellung(), ports); };
+    Command2.bei_klick = [this] {
+        profil_zeigen(kleine_platine({16, 15, 14, 13, 24, 23, 22, 21, 8, 7, 6, 5, 4, 3, 2, 1}), ports_iow_24);
+    };
+    Command4.bei_klick = [this] {
+        profil_zeigen(kleine_platine({16, 15, 32, 31, 30, 29, 24, 23, 8, 7, 6, 5, 4, 3, 2, 1}), ports_iow_24);
+    };
+    Command7.bei_klick = Command1.bei_klick;
+    Command5.bei_klick = [this] { ruecksetzen(); };
+    Command3.bei_klick = [this] { speichern(); };
+    Command8.bei_klick = [this] { dateien_zeigen(); };
+    Command10.bei_klick = [this] { laden_klick(); };
+    dateiliste.bei_doppelklick = [this] { laden_klick(); };
+    Command9.bei_klick = [this] { oeffnen_rahmen.sichtbar(false); };
+    Command6.bei_klick = [this] { um_.fenster.entladen(fenstername::usbtest); };
+}
+
+std::string usbtest::pin_name(std::size_t platz) {
+    return "P" + std::to_string(platz / bits_je_port) + "," + std::to_string(platz % bits_je_port);
+}
+
+void usbtest::laden() {
+    sprache().anwenden(um_.ablage);
+    if (zugang != nullptr) {
+        zugang->geraet_trennen();
+    }
+    ansagen_setzen();
+    protokoll.leeren();
+    oeffnen_rahmen.sichtbar(false);
+    linien_ = 0;
+    datei.text(um_.einst.iow.iow_datei);
+    const auto gelesen = iow_profil_laden(um_.ablage, um_.einst.iow.iow_datei);
+    profil_zeigen(gelesen.value_or(iow_werkseinstellung()), ports);
+    for (feld& wert : tp) {
+        wert.text(std::to_string(wert_max));
+    }
+    verbinden(true);
+    Timer1_->an();
+    lebenstakt_->an();
+}
+
+void usbtest::entladen() {
+    Timer1_->aus();
+    lebenstakt_->aus();
+    ruecksetzen();
+    platine_.schliessen();
+    if (zugang != nullptr) {
+        zugang->geraet_verbinden();
+    }
+}
+
+void usbtest::verbinden(bool auch_ohne_melden) {
+    if (platine_.iow_oeffnen()) {
+        constexpr std::size_t iow_24 = 3;
+        constexpr std::size_t iow_56 = 8;
+        const std::size_t groesse = platine_.iow_berichtgroesse();
+        zustand_melden(wort_.verbunden + " IO-Warrior " + (groesse == iow_24 ? "24" : groesse == iow_56 ? "56" : "40"));
+        ruecksetzen();
+    } else if (auch_ohne_melden) {
+        const std::string& fehlt = platine_.es_fehlt();
+        zustand_melden(fehlt.empty()       ? wort_.keine_box
+                       : fehlt == "iowkit" ? wort_.ohne_bibliothek
+                                           : wort_.ohne_ruf + " " + fehlt);
+    }
+}
+
+void usbtest::zustand_melden(const std::string& text) {
+    zustand.text(text);
+    notieren("+++ " + text + " +++");
+}
+
+void usbtest::notieren(std::string_view text) {
+    if (protokoll.zeilen().size() >= protokoll_zeilen_max) {
+        protokoll.leeren();
+    }
+    protokoll.hinzufuegen(text);
+}
+
+void usbtest::takt_tick() {
+    constexpr int berichte_max = 16;
+    for (int n = 0; n < berichte_max; ++n) {
+        const std::uint32_t vorher = linien_;
+        if (!platine_.lesen(linien_)) {
+            break;
+        }
+        kontakte_notieren(linien_ & ~vorher);
+    }
+    lampen_zeigen();
+}
+
+void usbtest::kontakte_notieren(std::uint32_t geschlossene) {
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        const int nummer = std::max(combo_c.at(platz).platz(), 0);
+        if ((geschlossene >> platz & 1U) != 0 && !art::ist_ausgang(nummer)) {
+            notieren(pin_name(platz) + "  " + um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));
+        }
+    }
+}
+
+void usbtest::lebenstakt_tick() {
+    if (!platine_.offen()) {
+        verbinden(false);
+        return;
+    }
+    bericht_.schreiben();
+    if (bericht_.schreibfehler()) {
+        platine_.schliessen();
+        zustand_melden(wort_.getrennt);
+    }
+}
+
+void usbtest::lampen_zeigen() {
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        lampe.at(platz).gesetzt((linien_ >> platz & 1U) != 0 || c.at(platz).gesetzt());
+    }
+}
+
+iow_profil usbtest::profil() const {
+    iow_profil neu{};
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        neu.at(platz) = std::max(combo_c.at(platz).platz(), 0);
+    }
+    return neu;
+}
+
+void usbtest::profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports) {
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        const ereignis_art nummer = neu.at(platz);
+        const bool bekannt = nummer > 0 && nummer < static_cast<int>(um_.txt.ereignis_name.size());
+        combo_c.at(platz).platz(bekannt ? nummer : 0);
+    }
+    for (std::size_t port = 0; port < ports; ++port) {
+        Frame.at(port).sichtbar(port < sichtbare_ports);
+    }
+    zuordnung_geaendert();
+}
+
+void usbtest::zuordnung_geaendert() {
+    bericht_.belegung = belegung_von(profil());
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        c.at(platz).sichtbar(art::ist_ausgang(combo_c.at(platz).platz()));
+    }
+    ruecksetzen();  // what was an output may be an input now, which nothing may hold
+}
+
+void usbtest::schalten(std::size_t platz) {
+    bericht_.schalten(combo_c.at(platz).platz(), c.at(platz).gesetzt());
+    bericht_.schreiben();
+    lampen_zeigen();
+}
+
+void usbtest::werte_lesen() {
+    for (std::size_t port = 0; port < ports; ++port) {
+        unsigned wert = 0;
+        for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
+            wert |= lampe.at(port * bits_je_port + bit).gesetzt() ? 0U : 1U << bit;
+        }
+        tp.at(port).text(std::to_string(wert));
+    }
+}
+
+void usbtest::werte_setzen() {
+    for (std::size_t port = 0; port < ports; ++port) {
+        const auto wert = static_cast<unsigned>(ganzzahl_lesen(tp.at(port).text(), 0, wert_max));
+        tp.at(port).text(std::to_string(wert));
+        for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
+            const std::size_t platz = port * bits_je_port + bit;
+            const ereignis_art nummer = combo_c.at(platz).platz();
+            if (art::ist_ausgang(nummer)) {
+                c.at(platz).gesetzt((wert >> bit & 1U) == 0);
+                bericht_.schalten(nummer, c.at(platz).gesetzt());
+            }
+        }
+    }
+    bericht_.schreiben();
+    lampen_zeigen();
+}
+
+void usbtest::ruecksetzen() {
+    for (haken& ausgang : c) {
+        ausgang.gesetzt(false);
+    }
+    bericht_.ruhe();
+    bericht_.schreiben();
+    lampen_zeigen();
+}
+
+bool usbtest::doppelt() const {
+    iow_profil alle = profil();
+    std::sort(alle.begin(), alle.end());
+    return std::adjacent_find(alle.begin(), alle.end(), [](int a, int b) { return a != 0 && a == b; }) != alle.end();
+}
+
+void usbtest::speichern() {
+    if (doppelt()) {
+        um_.meldungen.zeigen(wort_.doppelt, um_.txt.titel[1]);
+        return;
+    }
+    std::string name(gekuerzt(datei.text()));
+    if (name.empty() || !dateiname_zulaessig(name)) {
+        um_.meldungen.zeigen(wort_.name, um_.txt.titel[1]);
+        datei.fokus_setzen();
+        return;
+    }
+    if (!endet_auf(name, endung)) {
+        name += endung;
+    }
+    if (!iow_profil_speichern(um_.ablage, name, profil())) {
+        um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
+        return;
+    }
+    datei.text(name);
+    um_.einst.iow.iow_datei = name;
+    if (zugang != nullptr) {
+        zugang->einstellungen_speichern();
+    }
+    notieren("+++ " + name + ": " + wort_.gespeichert + " +++");
+    ruecksetzen();
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        const ereignis_art nummer = combo_c.at(platz).platz();
+        const bool strom = std::find(art::bahnstrom.begin(), art::bahnstrom.end(), nummer) != art::bahnstrom.end();
+        if (strom && !um_.einst.bahnstrom_invers) {
+            c.at(platz).gesetzt(true);
+            schalten(platz);
+        }
+    }
+}
+
+void usbtest::dateien_zeigen() {
+    dateiliste.leeren();
+    for (const std::string& eine : um_.ablage.auflisten("", "", endung)) {
+        dateiliste.hinzufuegen(eine);
+    }
+    dateiliste.markieren(-1);
+    oeffnen_rahmen.sichtbar(true);
+}
+
+void usbtest::laden_klick() {
+    if (dateiliste.markiert() < 0) {
+        return;
+    }
+    const std::string name = dateiliste.zeilen().at(static_cast<std::size_t>(dateiliste.markiert()));
+    const auto neu = iow_profil_laden(um_.ablage, name);
+    if (!neu) {
+        um_.meldungen.zeigen(um_.txt.meldung[11], um_.txt.titel[1]);
+        return;
+    }
+    datei.text(name);
+    profil_zeigen(*neu, ports);
+    oeffnen_rahmen.sichtbar(false);
+}
+
+}  // namespace tarvel

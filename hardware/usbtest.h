@@ -1,0 +1,129 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/einstellungen.h"
+#include "core/fensterlogik.h"
+#include "core/fensterregister.h"
+#include "core/steuerelemente.h"
+#include "core/texte.h"
+#include "hardware/geraetezugang.h"
+#include "hardware/iow_bericht.h"
+#include "hardware/iow_platine.h"
+#include "hardware/iow_profil.h"
+#include "platform/meldungen.h"
+#include "platform/zeitgeber.h"
+
+namespace tarvel {
+
+/// The window `usbtest`: what each pin of the IO board means, with a lamp for every contact and a tick box for every
+/// output. While it is open it has the board for itself.
+class usbtest final : public fensterlogik {
+public:
+    static constexpr std::size_t ports = 4;
+    static constexpr std::size_t bits_je_port = 8;
+
+    struct umgebung {
+        einstellungen& einst;
+        const texte& txt;
+        const dateien& ablage;
+        fensterregister& fenster;
+        plattform::meldungen& meldungen;
+        plattform::zeitgeber_dienst& zeitgeber;
+        plattform::bibliothek_dienst& bibliotheken;
+    };
+
+    explicit usbtest(const umgebung& um);
+
+    bezeichnung hinweis;
+    bezeichnung zustand;                      ///< which board is there, or what is missing
+    std::array<rahmen, ports> Frame;          ///< "Port 0" to "Port 3"
+    std::array<bezeichnung, iow_bits> Label;  ///< "P0,0" to "P3,7"
+    std::array<haken, iow_bits> lampe;        ///< set while the contact is closed or the output active
+    std::array<auswahl, iow_bits> combo_c;
+    std::array<haken, iow_bits> c;  ///< switches an output; only there for these
+    std::array<bezeichnung, ports> Label_wert;
+    std::array<feld, ports> tp;  ///< value of a port, 0 to 255
+    befehl lesen;
+    befehl setzen;
+    bezeichnung Label_protokoll;
+    liste protokoll;
+    rahmen vorlagen;
+    befehl Command1;  ///< "IO-W 40 / 56 Einstellungen"
+    befehl Command2;  ///< "IO-W 24 / 4 Spur Einstellungen"
+    befehl Command4;  ///< "IO-W 24 / 2 Spur Einstellungen"
+    befehl Command5;  ///< "RESET IO-W"
+    befehl Command7;  ///< "Werkseinstellungen"
+    bezeichnung Label_datei;
+    feld datei;
+    befehl Command3;  ///< save
+    befehl Command8;  ///< open a file
+    befehl Command6;  ///< close
+    rahmen oeffnen_rahmen;
+    liste dateiliste;
+    befehl Command10;  ///< load it
+    befehl Command9;   ///< leave it
+
+    geraetezugang* zugang = nullptr;  ///< null without a device
+
+    void laden() override;
+    void entladen() override;
+    std::vector<sprachliste> sprachdateien() override { return {sprache()}; }
+    /// The texts of the window.
+    sprachliste sprache();
+
+private:
+    struct worte {
+        std::string ohne_bibliothek;
+        std::string ohne_ruf;
+        std::string keine_box;
+        std::string verbunden;
+        std::string getrennt;
+        std::string doppelt;
+        std::string wert;
+        std::string lampe;
+        std::string schalten;
+        std::string funktion;
+        std::string name;
+        std::string gespeichert;
+    };
+
+    static std::string pin_name(std::size_t platz);
+    void verbinden(bool auch_ohne_melden);
+    void zustand_melden(const std::string& text);
+    void notieren(std::string_view text);
+    void takt_tick();
+    void kontakte_notieren(std::uint32_t geschlossene);
+    void lebenstakt_tick();
+    void lampen_zeigen();
+
+    iow_profil profil() const;
+    void profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports);
+    void zuordnung_geaendert();
+    void schalten(std::size_t platz);
+    void werte_lesen();
+    void werte_setzen();
+    void ruecksetzen();
+    bool doppelt() const;
+    void speichern();
+    void dateien_zeigen();
+    void laden_klick();
+    void ansagen_setzen();
+
+    umgebung um_;
+    std::unique_ptr<plattform::zeitgeber> Timer1_;
+    std::unique_ptr<plattform::zeitgeber>
+        lebenstakt_;  ///< looks each second whether the board is still, or again, there
+    iow_platine platine_;
+    iow_bericht bericht_;
+    std::uint32_t linien_ = 0;  ///< closed contacts as last heard of
+    worte wort_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,122 @@
+#include "ui/usbtest_fenster.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "hardware/usbtest.h"
+#include "ui/lampenknopf.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+
+UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(8);
+    QLabel* hinweis = stil::leise(binder().label(logik.hinweis, "hinweis"));
+    hinweis->setWordWrap(true);
+    aufbau->addWidget(hinweis);
+    auto* reihe = new QHBoxLayout;
+    reihe->setSpacing(8);
+    for (std::size_t nummer = 0; nummer < usbtest::ports; ++nummer) {
+        reihe->addWidget(port(nummer), 1);
+    }
+    aufbau->addLayout(reihe);
+    auto* unten = new QHBoxLayout;
+    unten->setSpacing(12);
+    unten->addWidget(meldungen(), 1);
+    unten->addWidget(dateiwahl(), 1);
+    unten->addWidget(vorlagen());
+    aufbau->addLayout(unten, 1);
+
+    auto* fuss = new QHBoxLayout;
+    fuss->addWidget(binder().label(logik.Label_datei, "Label_datei"));
+    fuss->addWidget(binder().zeile(logik.datei, "datei"), 1);
+    QPushButton* oeffnen = binder().knopf(logik.Command8, "Command8");
+    oeffnen->setMinimumHeight(stil::knopfhoehe);
+    fuss->addWidget(oeffnen);
+    fuss->addSpacing(24);
+    fuss->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command3, "Command3")));
+    fuss->addWidget(stil::fensterknopf(binder().knopf(logik.Command6, "Command6")));
+    aufbau->addLayout(fuss);
+    resize(1000, 700);
+}
+
+QWidget* UsbtestFenster::port(std::size_t nummer) {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame.at(nummer), "Frame_" + QString::number(nummer));
+    auto* raster = new QGridLayout(kasten);
+    raster->setContentsMargins(8, 6, 8, 8);
+    raster->setVerticalSpacing(2);
+    raster->setHorizontalSpacing(5);
+    raster->setColumnStretch(2, 1);
+    for (std::size_t bit = 0; bit < usbtest::bits_je_port; ++bit) {
+        const std::size_t platz = nummer * usbtest::bits_je_port + bit;
+        const QString ziffer = QString::number(platz);
+        const int zeile = static_cast<int>(bit);
+        raster->addWidget(binder().label(logik_.Label.at(platz), "Label_" + ziffer), zeile, 0);
+        raster->addWidget(lampe(binder(), logik_.lampe.at(platz), "lampe_" + ziffer, false), zeile, 1);
+        raster->addWidget(binder().auswahlfeld(logik_.combo_c.at(platz), "combo_c_" + ziffer), zeile, 2);
+        raster->addWidget(binder().kasten(logik_.c.at(platz), "c_" + ziffer), zeile, 3);
+    }
+    raster->setColumnMinimumWidth(3, 20);
+    auto* wert = new QHBoxLayout;
+    wert->addWidget(binder().label(logik_.Label_wert.at(nummer), "Label_wert_" + QString::number(nummer)));
+    QLineEdit* feld = binder().zeile(logik_.tp.at(nummer), "tp" + QString::number(nummer));
+    feld->setFixedWidth(56);
+    feld->setAlignment(Qt::AlignRight);
+    wert->addWidget(feld);
+    wert->addStretch();
+    raster->addLayout(wert, static_cast<int>(usbtest::bits_je_port), 0, 1, 4);
+    return kasten;
+}
+
+QWidget* UsbtestFenster::meldungen() {
+    auto* flaeche = new QWidget(this);
+    auto* aufbau = new QVBoxLayout(flaeche);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    auto* werte = new QHBoxLayout;
+    werte->addWidget(binder().knopf(logik_.lesen, "lesen"));
+    werte->addWidget(binder().knopf(logik_.setzen, "setzen"));
+    werte->addStretch();
+    aufbau->addLayout(werte);
+    QLabel* zustand = binder().label(logik_.zustand, "zustand");
+    zustand->setStyleSheet("font-weight: bold;");
+    zustand->setWordWrap(true);
+    aufbau->addWidget(zustand);
+    aufbau->addWidget(stil::leise(binder().label(logik_.Label_protokoll, "Label_protokoll")));
+    QListView* liste = binder().listenfeld(logik_.protokoll, "protokoll");
+    liste->setFocusPolicy(Qt::ClickFocus);
+    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
+                     Qt::QueuedConnection);
+    aufbau->addWidget(liste, 1);
+    return flaeche;
+}
+
+QWidget* UsbtestFenster::dateiwahl() {
+    QGroupBox* kasten = binder().gruppe(logik_.oeffnen_rahmen, "oeffnen_rahmen");
+    auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->addWidget(binder().listenfeld(logik_.dateiliste, "dateiliste"), 1);
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->addWidget(binder().knopf(logik_.Command10, "Command10"));
+    knoepfe->addWidget(binder().knopf(logik_.Command9, "Command9"));
+    knoepfe->addStretch();
+    aufbau->addLayout(knoepfe);
+    return kasten;
+}
+
+QWidget* UsbtestFenster::vorlagen() {
+    QGroupBox* kasten = binder().gruppe(logik_.vorlagen, "vorlagen");
+    auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->setSpacing(4);
+    aufbau->addWidget(binder().knopf(logik_.Command1, "Command1"));
+    aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"));
+    aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
+    aufbau->addWidget(binder().knopf(logik_.Command7, "Command7"));
+    aufbau->addStretch();
+    aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));
+    return kasten;
+}
+
+}  // namespace tarvel::ui
