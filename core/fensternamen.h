@@ -12,6 +12,7 @@ namespace tarvel {
     F(auswertung)             \
     F(bahn1)                  \
     F(einfahren)              \
+    F(frmMain)                \
     F(einstellungen)          \
     F(fahrerspeichernfenster) \
     F(Form2)                  \
@@ -23,6 +24,8 @@ namespace tarvel {
     F(w_auswertung)           \
     F(wettkampf1)             \
     F(wettkampf2)             \
+    F(s6_fragefenster)        \
+    F(Form5)                  \
     F(Form1)                  \
     F(beste_zeiten_fenster)   \
     F(cu_eigenschaften)       \

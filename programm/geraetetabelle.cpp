@@ -1,5 +1,6 @@
 #include "programm/at2560_verdrahtung.h"
 #include "programm/control_unit_verdrahtung.h"
+#include "programm/tx_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -12,7 +13,8 @@ std::unique_ptr<geraeteverdrahtung> anlegen(const geraete_umgebung& um, messgera
 }  // namespace
 
 const std::vector<geraet_anlegen>& geraetetabelle() {
-    static const std::vector<geraet_anlegen> tabelle{anlegen<control_unit_verdrahtung>, anlegen<at2560_verdrahtung>};
+    static const std::vector<geraet_anlegen> tabelle{anlegen<control_unit_verdrahtung>, anlegen<at2560_verdrahtung>,
+                                                     anlegen<tx_verdrahtung>};
     return tabelle;
 }
 
