@@ -369,6 +369,9 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"at2560",
          {{":S13,100:S11,200;:T,5;:S7,300;\r\n:S9,4294967295;", ":T,12;:S13,-5.5;:V.1;:S13,1;:S11,99999999999999999;"},
           at2560_hoeren}},
+        {"modul4x4",
+         {{"TRAXIUM-USB\rTXUSB_OK\rV1.2\rMODUS\rmod1\r1?\r4:\r0>\r", "V2.0\rmod4\r1?\r8?\rRC2Long\rRC2\rmod9\r"},
+          modul4x4_hoeren}},
     };
 }
 

@@ -46,5 +46,6 @@ bool tabelle_betrachten(werkbank& bank, const std::string& bytes);
 bool tagesrennen_lesen(werkbank& bank, const std::string& bytes);
 bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
+bool modul4x4_hoeren(werkbank& bank, const std::string& bytes);
 
 }  // namespace tarvel::test
