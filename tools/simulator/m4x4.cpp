@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kontakt = 4;
 constexpr int bahnen_im_kontakt = 4;
+constexpr int lampen_eines_starts = 2;
 constexpr int lampen_vor_gruen = 3;
 constexpr zeit_ms gleichzeitig_ms = 50;  // lamps that are lit together are no countdown
 constexpr int tank_ein = 3;              // positions of the sensors on a digital track
@@ -103,7 +104,7 @@ void m4x4::schalten(int nummer, bool an) {
     sagen("Ausgang " + std::to_string(nummer) + (an ? " an" : " aus"));
     if (ist_lampe(nummer)) {
         if (vorher != an) {
-            lampe_geschaltet(nummer, an);
+            lampe_geschaltet(an);
         }
         return;
     }
@@ -116,30 +117,34 @@ void m4x4::schalten(int nummer, bool an) {
     }
 }
 
-/// There is no green lamp: the cars go when the red ones that were lit one after the other are all out. In a pause,
-/// without power, lamps begin no race.
-void m4x4::lampe_geschaltet(int nummer, bool an) {
-    constexpr int erste_lampe = 9;
-    if (an && strom_da()) {
-        if (nummer == erste_lampe) {
+/// There is no green lamp: the cars go when the red ones that were lit one after the other are all out. In a pause they
+/// are lit together, and begin no race.
+void m4x4::lampe_geschaltet(bool an) {
+    if (an) {
+        lampen_gesehen_ += uhr() - letzte_lampe_ > gleichzeitig_ms ? 1 : 0;
+        letzte_lampe_ = uhr();
+        if (lampen_gesehen_ == lampen_eines_starts && !gestartet_) {
+            gestartet_ = true;
             faehrt_ = false;
-            lampen_gesehen_ = 0;
             feld_.aufstellen();
             feld_.rot();
         }
-        lampen_gesehen_ += uhr() - letzte_lampe_ > gleichzeitig_ms ? 1 : 0;
-        letzte_lampe_ = uhr();
+        return;
     }
-    const bool alle_aus =
-        std::none_of(an_.begin() + (einst_.spuren_6 ? 7 : 5), an_.begin() + 10, [](bool x) { return x; });
-    if (!an && alle_aus && !faehrt_) {
-        if (lampen_gesehen_ >= lampen_vor_gruen) {
-            losfahren();
-        } else {
-            feld_.startabbruch();
-        }
-        lampen_gesehen_ = 0;
+    bool eine_an = false;
+    for (int nummer = 1; nummer <= ausgaenge; ++nummer) {
+        eine_an = eine_an || (ist_lampe(nummer) && an_.at(static_cast<std::size_t>(nummer)));
     }
+    if (eine_an) {
+        return;
+    }
+    if (gestartet_ && lampen_gesehen_ >= lampen_vor_gruen) {
+        losfahren();
+    } else if (gestartet_) {
+        feld_.startabbruch();
+    }
+    gestartet_ = false;
+    lampen_gesehen_ = 0;
 }
 
 void m4x4::losfahren() {
@@ -200,7 +205,7 @@ void m4x4::schritt() {
             taste_druecken(false);
         }
     }
-    if (einst_.antippen > 0 && !faehrt_ && modus_ != 0 && uhr() % einst_.antippen == 0) {
+    if (einst_.antippen > 0 && !faehrt_ && lampen_gesehen_ == 0 && modus_ != 0 && uhr() % einst_.antippen == 0) {
         sensor(1, 1 + getippt_ % (modus_ == kontakt ? bahnen_im_kontakt : autos));
         ++getippt_;
     }

@@ -42,7 +42,7 @@ private:
     void neustart();
     void zeichen(char c);
     void schalten(int nummer, bool an);
-    void lampe_geschaltet(int nummer, bool an);
+    void lampe_geschaltet(bool an);
     bool ist_lampe(int nummer) const;
     bool strom_da() const;
     void losfahren();
@@ -56,7 +56,8 @@ private:
     bool modus_folgt_ = false;  ///< "0" was heard: a digit is the mode
     bool haengt_ = false;
     bool faehrt_ = false;
-    int lampen_gesehen_ = 0;
+    int lampen_gesehen_ = 0;        ///< that were lit one after the other
+    bool gestartet_ = false;        ///< by a countdown that still goes on
     zeit_ms letzte_lampe_ = -1000;  ///< when one was lit
     zeit_ms hoert_ab_ = 0;
     zeit_ms chaos_ende_ = -1;
