@@ -190,8 +190,8 @@ void frm_main::werte_zeigen() {
         }
         tx_sensor_liste.at(i).platz(static_cast<int>(funktion));
     }
-    modus_waehlen(static_cast<std::size_t>(um_.einst.hardware.hw_4x4() ? modus_der_einstellungen(um_.einst)
-                                                                       : tx_modul::kontakt_modus));
+    modus_waehlen(
+        static_cast<std::size_t>(um_.einst.hardware.hw_4x4() ? modus_der_einstellungen(um_.einst) : modus_vorgewaehlt));
     Check2.gesetzt(modul_.datei().spuren_6);
     ausgaenge_zeigen();
 }
@@ -273,7 +273,7 @@ void frm_main::ausgeloest(const tx::sensor& was, ereignis_art nummer) {
     } else if (!kontakt && was.gruppe >= 1 && was.gruppe <= static_cast<int>(sensoren)) {
         const auto platz = static_cast<std::size_t>(was.gruppe - 1);
         aufleuchten(lampe_sensor.at(platz));
-        auto_sensor.at(platz).text(um_.txt.tx_text[0] + " " + std::to_string(was.wert));
+        auto_sensor.at(platz).text(std::to_string(was.wert));
     }
     const std::string ort = kontakt ? wort_.eingang + " " + std::to_string(was.gruppe)
                                     : um_.txt.tx_text[0] + " " + std::to_string(was.wert) + ", " + um_.txt.tx_text[1] +

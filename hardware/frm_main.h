@@ -70,6 +70,7 @@ public:
 
     geraetezugang* zugang = nullptr;  ///< null without a device
     /// The mode, 1 to 4, where the module is not the device in force.
+    int modus_vorgewaehlt = tx_modul::kontakt_modus;
     std::function<void(int)> modus_vormerken;
 
     void laden() override;

@@ -30,6 +30,7 @@ sprachliste s6_fragefenster::sprache_e_tx4() {
     texte.text("Leerlauf", Option1[4]).text("gem. Vorgabe in:", Option1[vorgabe]).text("OK", Command1);
     texte.text("Neustart", Frame_neustart);
     texte.text("Zum Wechsel zwischen Analog- und Digitalmodus ist ein Programmneustart erforderlich.", Label_neustart);
+    texte.text("Programm beenden und beim nächsten Start nehmen:", Label_mit);
     texte.text("Fortsetzen ohne Neustart", Command2).text("Standarddatei Einstellungen", Command3);
     texte.text("aktuelle Einstellungen", Command4);
     texte.tipp("Beendet das Programm. Beim nächsten Start gilt die Standarddatei mit dem neuen Modus.", Command3);

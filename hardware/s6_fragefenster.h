@@ -27,6 +27,7 @@ public:
     rahmen Frame_neustart;
     bezeichnung Label_neustart;
     befehl Command2;  ///< goes on without a restart
+    bezeichnung Label_mit;
     befehl Command3;  ///< restart with the standard settings
     befehl Command4;  ///< restart with the settings in force
 

@@ -21,11 +21,12 @@ tx_verdrahtung::tx_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
       alle_(alle) {
     form5.bei_erfolg = [this] { wechsel_pruefen(); };
     frm_main.zugang = this;
-    frm_main.modus_vormerken = [this](int modus) {
-        std::get<auswahl>(um_.einstellungsfenster.zeile("optModus").element).platz(modus - 1);
-    };
-    um.einstellungsfenster.aktion_verbinden("tx_einrichten",
-                                            [this] { um_.fenster.zeigen(fenstername::frmMain, anzeige_art::modal); });
+    auto& modus = std::get<auswahl>(um.einstellungsfenster.zeile("optModus").element);
+    frm_main.modus_vormerken = [&modus](int nummer) { modus.platz(nummer - 1); };
+    um.einstellungsfenster.aktion_verbinden("tx_einrichten", [this, &modus] {
+        frm_main.modus_vorgewaehlt = modus.platz() < 0 ? tx_modul::kontakt_modus : modus.platz() + 1;
+        um_.fenster.zeigen(fenstername::frmMain, anzeige_art::modal);
+    });
 }
 
 void tx_verdrahtung::beenden() {

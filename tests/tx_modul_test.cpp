@@ -251,7 +251,7 @@ TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {
     EXPECT_EQ(w.lampe_eingang[2].hintergrund(), aus);
     w.optModus[1].umschalten();
     sagt("mod1\r2;\r");
-    EXPECT_EQ(w.auto_sensor[1].text(), "Spur/Auto 5");
+    EXPECT_EQ(w.auto_sensor[1].text(), "5");
     gesendet();
     w.chkTrafficAll.umschalten();
     w.chkBahnStrom[3].umschalten();

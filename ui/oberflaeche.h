@@ -5,6 +5,7 @@
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
+#include "programm/tx_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -16,6 +17,7 @@
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
 #include "ui/form2_fenster.h"
+#include "ui/frm_main_fenster.h"
 #include "ui/k_ampel_fenster.h"
 #include "ui/rangliste_fenster.h"
 #include "ui/speichern_fenster.h"
@@ -23,6 +25,7 @@
 #include "ui/tagesrennen_fenster.h"
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
+#include "ui/tx_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
@@ -65,6 +68,9 @@ public:
     UartEinstellungenFenster uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen, fenster,
                                                 &einstellungen};
     UartProfildateiFenster uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei, fenster, &form1};
+    FrmMainFenster frm_main{p_.geraete.von<tx_verdrahtung>().frm_main, p_.ablage, fenster, &einstellungen};
+    Form5Fenster form5{p_.geraete.von<tx_verdrahtung>().form5, fenster, &form1};
+    S6FrageFenster s6_frage{p_.geraete.von<tx_verdrahtung>().s6_fragefenster, fenster, &form1};
     Wettkampf2Fenster wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     RanglisteFenster rangliste{p_.rangliste, fenster, &wettkampf2};
     WAuswertungFenster w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};

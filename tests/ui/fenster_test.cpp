@@ -39,7 +39,7 @@ protected:
         std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 26U);
+        ASSERT_EQ(alle.size(), 29U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());
