@@ -2,7 +2,7 @@
 # Installs what is missing, builds the program and starts it. Without a screen, or on demand, a short race against a
 # simulated timing device shows it at work:
 #   ./run.sh                            the program, without a screen the demonstration
-#   ./run.sh vorfuehrung [cu|at2560]    the demonstration, with the one device or the other
+#   ./run.sh vorfuehrung [cu|at2560|4x4]    the demonstration, with one of the devices
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -17,10 +17,10 @@ vorfuehrung)
     shift
     vorfuehrung "$@"
     ;;
-cu | at2560) vorfuehrung "$@" ;;
+cu | at2560 | 4x4) vorfuehrung "$@" ;;
 "") ;;
 *)
-    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560]" >&2
+    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560|4x4]" >&2
     exit 2
     ;;
 esac

@@ -9,13 +9,13 @@ pakete_sicherstellen "${PAKETE_BAU[@]}"
 # A newer compiler may know new warnings; they must not keep anybody from racing.
 cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" \
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
-cmake --build --preset release --target tarvel cu_simulator at2560_simulator
+cmake --build --preset release --target tarvel cu_simulator at2560_simulator m4x4_simulator
 
 mkdir -p Tarvel
 cp -f build/release/ui/tarvel Tarvel/tarvel.neu
 mv -f Tarvel/tarvel.neu Tarvel/tarvel
 mkdir -p Tarvel/Werkzeuge
-for werkzeug in cu_simulator at2560_simulator; do
+for werkzeug in cu_simulator at2560_simulator m4x4_simulator; do
     cp -f --remove-destination "build/release/tools/simulator/$werkzeug" Tarvel/Werkzeuge/
 done
 if [ -d data ]; then
