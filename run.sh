@@ -2,7 +2,7 @@
 # Installs what is missing, builds the program and starts it. Without a screen, or on demand, a short race against a
 # simulated timing device shows it at work:
 #   ./run.sh                            the program, without a screen the demonstration
-#   ./run.sh vorfuehrung [cu|at2560|iow|lpt|rc|tk]
+#   ./run.sh vorfuehrung [cu|at2560|iow|lpt|4x4|rc|tk]
 #                                       the demonstration, with one of these devices
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -18,10 +18,10 @@ vorfuehrung)
     shift
     vorfuehrung "$@"
     ;;
-cu | at2560 | iow | lpt | rc | tk) vorfuehrung "$@" ;;
+cu | at2560 | iow | lpt | 4x4 | rc | tk) vorfuehrung "$@" ;;
 "") ;;
 *)
-    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560|iow|lpt|rc|tk]" >&2
+    echo "Aufruf: ./run.sh [vorfuehrung] [cu|at2560|iow|lpt|4x4|rc|tk]" >&2
     exit 2
     ;;
 esac

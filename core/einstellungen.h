@@ -29,9 +29,10 @@ struct messhardware {
     bool hw_uart = false;
 
     // some of the numbers that `modus` gives
-    static constexpr int race_control = 2;
     static constexpr int iow_40 = 1;
+    static constexpr int race_control = 2;
     static constexpr int druckeranschluss = 3;
+    static constexpr int usb_4x4 = 4;
     static constexpr int timekeeper = 5;
     static constexpr int control_unit = 6;
     static constexpr int at_2560 = 7;

@@ -13,6 +13,7 @@ namespace tarvel {
     F(bahn1)                  \
     F(drucker_fenster)        \
     F(einfahren)              \
+    F(frmMain)                \
     F(einstellungen)          \
     F(fahrerspeichernfenster) \
     F(Form2)                  \
@@ -26,6 +27,8 @@ namespace tarvel {
     F(w_auswertung)           \
     F(wettkampf1)             \
     F(wettkampf2)             \
+    F(s6_fragefenster)        \
+    F(Form5)                  \
     F(Form1)                  \
     F(beste_zeiten_fenster)   \
     F(cu_eigenschaften)       \

@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view trennzeichen_datei = "trennzeichen.ini";
 constexpr std::string_view gruppen_datei = "tvk_gruppen.ini";
 constexpr std::string_view s6_datei = "tvk_s6.ini";
+constexpr std::string_view s6_vorgabe_datei = "tvk_s6_load.ini";
 constexpr std::string_view werbe_datei = "tvk.ini";
 
 constexpr std::string_view wahr = "Wahr";
@@ -93,6 +94,16 @@ s6_start s6_laden(const dateien& ablage) {
 bool s6_speichern(const dateien& ablage, const s6_start& werte) {
     return ablage.zeilen_schreiben(s6_datei, {werte.zustand, werte.modus, als_feld(werte.einstell_datei),
                                               werte.naechster_zustand, werte.naechster_modus});
+}
+
+std::string s6_vorgabe_laden(const dateien& ablage) {
+    const auto felder = felder_lesen(ablage, s6_vorgabe_datei, 1);
+    return felder && !felder->empty() && !felder->front().empty() ? felder->front()
+                                                                  : std::string(standard_einstellungen);
+}
+
+bool s6_vorgabe_speichern(const dateien& ablage, std::string_view einstell_datei) {
+    return ablage.zeilen_schreiben(s6_vorgabe_datei, {als_feld(einstell_datei)});
 }
 
 }  // namespace tarvel

@@ -38,4 +38,8 @@ struct s6_start {
 s6_start s6_laden(const dateien& ablage);
 bool s6_speichern(const dateien& ablage, const s6_start& werte);
 
+/// `tvk_s6_load.ini`: the settings file that a start takes which asks for the mode of the 4x4 module.
+std::string s6_vorgabe_laden(const dateien& ablage);
+bool s6_vorgabe_speichern(const dateien& ablage, std::string_view einstell_datei);
+
 }  // namespace tarvel

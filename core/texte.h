@@ -50,7 +50,12 @@ struct texte {
         std::string einstellungen_uebernehmen, ladefehler;
         std::string der_wettkampf, vom, nicht_beendet;  ///< an evening that was cut off, around its name and day
     } wettkampf;
-    std::array<std::string, 20> tx_text;        ///< of the 4x4 USB module
+    std::array<std::string, 20> tx_text;  ///< of the 4x4 USB module
+    /// Name of a mode of that module, 1 to 4; any other number is none.
+    const std::string& tx_modus(int nummer) const {
+        constexpr int kein_modus = 6;
+        return tx_text.at(static_cast<std::size_t>(nummer >= 1 && nummer <= 4 ? nummer + 1 : kein_modus));
+    }
     std::array<std::string, 60> ereignis_name;  ///< index is the event number
 
 private:

@@ -128,14 +128,15 @@ void modul_4x4_seite(optionsseite& seite) {
     gruppe << wahl({"optModus", "Modus"}, hardware(&tarvel::messhardware::hw_4x4_modus),
                    static_cast<int>(modul_4x4_modus::modus_1),
                    {"Digital IR-Modus", "PRO-X Lochposition", "PRO-X Lochzählung", "Kontakt Modus"})
-           << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6, &s6::s6_option));
+           << kasten({"manuell_s6", "manuelle Modusabfrage bei Programmstart"}, wert(&e::s6, &s6::s6_option))
+           << aktion({"tx_einrichten", "4x4 USB einrichten und prüfen"});
     for (std::size_t i = 1; i <= 8; ++i) {
         gruppe << ereignis({"s6_eingang_" + std::to_string(i), "Eingang " + std::to_string(i)},
                            element(wert(&e::s6, &s6::s6_eingang), i));
     }
     for (const int spur : alle_spuren) {
         const std::string name = "s6_eingang_modus_" + std::to_string(spur) + "_";
-        const std::string text = "Spur " + std::to_string(spur) + " in Modus ";
+        const std::string text = "Spur/Auto " + std::to_string(spur) + ", Sensorposition ";
         for (std::size_t modus = 1; modus <= 4; ++modus) {
             const std::string m = std::to_string(modus);
             gruppe << ereignis({name + m, text + m}, [spur, modus](const einstellungs_ziel& z) -> int& {

@@ -16,6 +16,11 @@ namespace {
 constexpr std::string_view ordner = "Einstellungen";
 const std::string vorspann = "Einstellungen\\";
 
+// what a start does, as its file has it
+constexpr std::string_view ruhe_zustand = "0";
+constexpr std::string_view frage_zustand = "1";
+constexpr std::string_view neustart_zustand = "2";
+
 std::string mit_rueckstrichen(std::string text) {
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;
@@ -50,8 +55,9 @@ void einstellungspflege::standard_setzen() {
 
 void einstellungspflege::start_datei_bestimmen() {
     s6_start start = s6_laden(um_.ablage);
-    const bool neustart = start.zustand == "2";
-    einstell_datei_ = start.einstell_datei;
+    const bool neustart = start.zustand == neustart_zustand;
+    start_fragt_ = start.zustand == frage_zustand;
+    einstell_datei_ = start_fragt_ ? s6_vorgabe_laden(um_.ablage) : start.einstell_datei;
     const std::string name = einstellungsname(einstell_datei_);
     if (!dateiname_zulaessig(name)) {  // elsewhere the defaults could be written over another file
         einstell_datei_ = standard_einstellungen;
@@ -61,10 +67,41 @@ void einstellungspflege::start_datei_bestimmen() {
     const auto modus = static_cast<modul_4x4>(ganzzahl_lesen(start.modus, 0, 7));
     hw_4x4_modus_start_ = neustart && modus >= modul_4x4::aus ? std::optional(modus) : std::nullopt;
     einstell_standarddatei_ = neustart ? std::string(standard_einstellungen) : einstell_datei_;
-    if (neustart || start.zustand == "0") {  // a restart request lasts one start only
+    if (neustart || start.zustand == ruhe_zustand) {  // a restart request lasts one start only
         start.zustand = start.naechster_zustand;
         start.modus = start.naechster_modus;
         start.einstell_datei = standard_einstellungen;
+        s6_speichern(um_.ablage, start);
+    }
+}
+
+void einstellungspflege::start_fortsetzen(std::optional<modul_4x4> modus) {
+    hw_4x4_modus_start_ = start_fragt_ ? modus : hw_4x4_modus_start_;
+    start_fragt_ = false;
+    laden(false);
+    if (nach_dem_start) {
+        nach_dem_start();
+    }
+}
+
+bool einstellungspflege::neustart_vormerken(modul_4x4 modus, bool aktuelle) {
+    const std::string datei = aktuelle ? vorspann + einstell_datei_ : std::string(standard_einstellungen);
+    const std::string_view danach = um_.ziel.einst.s6.s6_option ? frage_zustand : ruhe_zustand;
+    return s6_vorgabe_speichern(um_.ablage, datei) &&
+           s6_speichern(um_.ablage, {std::string(neustart_zustand), std::to_string(static_cast<int>(modus)), datei,
+                                     std::string(danach), ""});
+}
+
+/// The start file asks for the mode as long as the settings want it.
+void einstellungspflege::modusfrage_vormerken() {
+    s6_start start = s6_laden(um_.ablage);
+    const bool fragt = start.zustand == frage_zustand;
+    const bool soll = um_.ziel.einst.s6.s6_option;
+    if (soll) {
+        s6_vorgabe_speichern(um_.ablage, vorspann + einstell_datei_);
+    }
+    if (fragt != soll && start.zustand != neustart_zustand) {
+        start.zustand = start.naechster_zustand = soll ? frage_zustand : ruhe_zustand;
         s6_speichern(um_.ablage, start);
     }
 }
@@ -109,6 +146,7 @@ bool einstellungspflege::speichern(const std::string& pfad) {
     const bool gut = !um_.datei.fehler_laden();
     if (gut) {
         einstell_datei_ = einstellungsname(pfad);
+        modusfrage_vormerken();
     }
     name_zeigen();
     um_.belegung.tastenbelegung_speichern(um_.ablage);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,6 +44,15 @@ public:
     void standard_setzen();
     /// The file that the program starts with.
     void start_datei_bestimmen();
+    /// The operator is asked for the mode of the 4x4 module first: then `start_fortsetzen` with it goes on.
+    bool start_fragt() const { return start_fragt_; }
+    void start_fortsetzen(std::optional<modul_4x4> modus);
+    /// What the start does behind the settings.
+    std::function<void()> nach_dem_start;
+    /// The next start takes this mode of the 4x4 module, with the settings in force or with the standard ones.
+    bool neustart_vormerken(modul_4x4 modus, bool aktuelle);
+    /// The file in force, without its folder.
+    const std::string& einstell_datei() const { return einstell_datei_; }
     /// Loads the file in force; an unusable one shows its message and is replaced by the defaults.
     void laden() { laden(false); }
     /// The defaults are being set because there is no file yet.
@@ -60,6 +70,7 @@ private:
     bool speichern(const std::string& pfad);
     bool aus_menue_laden(const std::string& name);
     void name_zeigen();
+    void modusfrage_vormerken();
     /// The file's name below the settings folder.
     std::string einstellungsname(std::string_view pfad) const;
 
@@ -69,6 +80,7 @@ private:
     std::string einstell_standarddatei_;           ///< the one the program starts with
     std::optional<modul_4x4> hw_4x4_modus_start_;  ///< mode of the 4x4 module that a restart asked for
     bool erststart_ = false;
+    bool start_fragt_ = false;
 };
 
 }  // namespace tarvel

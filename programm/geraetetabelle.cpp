@@ -4,6 +4,7 @@
 #include "programm/iow_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
 #include "programm/timekeeper_verdrahtung.h"
+#include "programm/tx_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -17,11 +18,11 @@ std::unique_ptr<geraeteverdrahtung> anlegen(const geraete_umgebung& um, messgera
 
 const std::vector<geraet_anlegen>& geraetetabelle() {
     static const std::vector<geraet_anlegen> tabelle{
-        anlegen<control_unit_verdrahtung>,     anlegen<at2560_verdrahtung>,       anlegen<iow_verdrahtung>,
-        anlegen<druckeranschluss_verdrahtung>, anlegen<race_control_verdrahtung>, anlegen<timekeeper_verdrahtung>};
-    anlegen<iow_verdrahtung>, anlegen<druckeranschluss_verdrahtung>
-};
-return tabelle;
+        anlegen<control_unit_verdrahtung>,     anlegen<at2560_verdrahtung>, anlegen<iow_verdrahtung>,
+        anlegen<druckeranschluss_verdrahtung>, anlegen<tx_verdrahtung>,     anlegen<race_control_verdrahtung>,
+        anlegen<timekeeper_verdrahtung>,
+    };
+    return tabelle;
 }
 
 }  // namespace tarvel

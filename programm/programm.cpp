@@ -7,6 +7,7 @@
 #include "core/ordnerblick.h"
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
+#include "programm/tx_verdrahtung.h"
 
 namespace tarvel {
 namespace {
@@ -247,9 +248,13 @@ bool programm::starten() {
     fahrerliste_laden();
     form1.listen_zeigen();
     datei.bestzeiten = this;  // not for the defaults before the settings are read
+    pflege_.nach_dem_start = [this] { wettkampf_->wettkampfablauf.unterbrochenen_anbieten(); };
     pflege_.start_datei_bestimmen();
-    pflege_.laden();
-    wettkampf_->wettkampfablauf.unterbrochenen_anbieten();
+    if (pflege_.start_fragt() && fenster.gibt_es(fenstername::s6_fragefenster)) {
+        geraete.von<tx_verdrahtung>().startmodus_fragen();  // its answer goes on
+    } else {
+        pflege_.start_fortsetzen({});
+    }
     return true;
 }
 

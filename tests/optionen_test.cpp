@@ -1,4 +1,5 @@
 #include "programm/at2560_verdrahtung.h"
+#include "programm/tx_verdrahtung.h"
 #include "tests/optionen_probe.h"
 #include "tests/plattform/test_ftdi.h"
 
@@ -123,7 +124,10 @@ TEST_F(Optionen, EineMesshardwareZurZeit) {
                   1);
         EXPECT_EQ(einst.hardware.hw_4x4_modus, nummer == 4 ? modul_4x4::modus_1 : modul_4x4::aus);
         EXPECT_EQ(einst.hardware.hw_simulation, nummer == 0 || nummer > 5) << nummer;
-        const std::string zusatz = nummer == 5 ? ": Analog" : nummer == 6 ? " – keine Verbindung" : "";
+        const std::string zusatz = nummer == 4   ? ": Digital IR-Modus – keine Verbindung"
+                                   : nummer == 5 ? ": Analog"
+                                   : nummer == 6 ? " – keine Verbindung"
+                                                 : "";
         EXPECT_EQ(t.p.form1.modus_label.text(), t.p.txt.hardware_name.at(nummer) + zusatz);
     }
 }
@@ -164,6 +168,7 @@ TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
     element<feld>("wechsel_schema").text("P-1-6-5-4-3-2");
     element<feld>("t_inhalt_w").text("40");
     element<haken>("opt_centermode").gesetzt(false);  // it would set another value back
+    t.maschine.anschluesse.da = {3};                  // of a module that does not answer yet
     fenster.hardware[4].umschalten();
     waehlen("optModus", 2);
     t.maschine.meldungen_gezeigt.clear();
@@ -186,6 +191,7 @@ TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
 
     programm neu(t.maschine.dienste());
     neu.starten();
+    neu.geraete.von<tx_verdrahtung>().s6_fragefenster.schliessen();  // it asks now, and the settings hold
     EXPECT_EQ(t.maschine.meldungen_gezeigt, meldungen{});
     EXPECT_EQ(neu.datei.schreiben(), nachher);
     EXPECT_EQ(neu.einst.trennzeichen, (trennzeichen_tabelle{"#", "#", "#"}));

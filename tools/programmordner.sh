@@ -11,6 +11,8 @@ cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_F
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
 simulatoren=(cu_simulator at2560_simulator)
 bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
+simulatoren=(cu_simulator at2560_simulator m4x4_simulator)
+bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
 cmake --build --preset release --target tarvel "${simulatoren[@]}" rc_simulator "${bibliotheken[@]}"
 
 mkdir -p Tarvel

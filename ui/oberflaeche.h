@@ -9,6 +9,7 @@
 #include "programm/programm.h"
 #include "programm/race_control_verdrahtung.h"
 #include "programm/timekeeper_verdrahtung.h"
+#include "programm/tx_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -21,6 +22,7 @@
 #include "ui/fenster.h"
 #include "ui/form1_fenster.h"
 #include "ui/form2_fenster.h"
+#include "ui/frm_main_fenster.h"
 #include "ui/k_ampel_fenster.h"
 #include "ui/rangliste_fenster.h"
 #include "ui/rc_fenster.h"
@@ -31,6 +33,7 @@
 #include "ui/tastatur_fenster.h"
 #include "ui/tastenfaenger.h"
 #include "ui/timekeeper_fenster.h"
+#include "ui/tx_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/usbtest_fenster.h"
@@ -79,6 +82,10 @@ public:
     SpaetesFenster<UsbtestFenster> usbtest{p_.geraete.von<iow_verdrahtung>().usbtest, fenster, &einstellungen};
     SpaetesFenster<DruckerFenster> druckeranschluss{p_.geraete.von<druckeranschluss_verdrahtung>().drucker_fenster,
                                                     fenster, &einstellungen};
+    SpaetesFenster<FrmMainFenster> frm_main{p_.geraete.von<tx_verdrahtung>().frm_main, p_.ablage, fenster,
+                                            &einstellungen};
+    SpaetesFenster<Form5Fenster> form5{p_.geraete.von<tx_verdrahtung>().form5, fenster, &form1};
+    SpaetesFenster<S6FrageFenster> s6_frage{p_.geraete.von<tx_verdrahtung>().s6_fragefenster, fenster, &form1};
     SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
                                                             fenster, &form1};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};

@@ -13,6 +13,7 @@
 #include "tools/simulator/at2560.h"
 #include "tools/simulator/at2560_pins.h"
 #include "tools/simulator/control_unit.h"
+#include "tools/simulator/m4x4.h"
 #include "ui/oberflaeche.h"
 
 namespace tarvel {
@@ -109,8 +110,9 @@ struct Geraeterennen : testing::Test {
         EXPECT_TRUE(maschine.meldungen_gezeigt.empty()) << maschine.meldungen_gezeigt.front();
     }
     /// Each lap as the device has seen it, and none that was driven in time is missing.
-    void vergleichen(const simulator::geraet& geraet) {
+    void vergleichen(const simulator::geraet& geraet, zeit_ms genauigkeit = 0) {
         int alle = 0;
+        zeit_ms schlechteste = 0;
         for (const int spur : alle_spuren) {
             std::vector<zeit_ms> stempel;
             for (const simulator::ueberfahrt& u : geraet.fahrten()) {
@@ -123,15 +125,16 @@ struct Geraeterennen : testing::Test {
             ASSERT_LT(static_cast<std::size_t>(runden), stempel.size());
             for (int runde = 1; runde <= runden; ++runde) {
                 const auto i = static_cast<std::size_t>(runde);
-                ASSERT_EQ(p.rennen.zustand.konto.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
-                    << spur << " " << runde;
+                const zeit_ms fehler = p.rennen.zustand.konto.rundenzeit(spur, runde) - stempel[i] + stempel[i - 1];
+                schlechteste = std::max(schlechteste, std::abs(fehler));
+                ASSERT_LE(std::abs(fehler), genauigkeit) << spur << " " << runde;
             }
             const zeit_ms letzte = p.rennen.zustand.konto.stempel(spur, runden);
             constexpr zeit_ms laengste_runde = 2700;
             EXPECT_GT(letzte + laengste_runde, p.rennen.zustand.renn_ende_zeit) << "a lap is missing at the end";
             alle += runden;
         }
-        std::printf("%d Runden in %d s, jede auf die Millisekunde\n", alle, dauer_s());
+        std::printf("%d Runden in %d s, jede auf %d ms\n", alle, dauer_s(), static_cast<int>(schlechteste));
     }
 
     test::test_plattform maschine;
@@ -221,6 +224,23 @@ TEST_F(Bibliotheksrennen, Iow40) {
 
 TEST_F(Bibliotheksrennen, Druckeranschluss) {
     fahren_mit(TARVEL_INPOUT32, &messhardware::hw_lpt, 10);
+}
+
+/// It stamps nothing: what holds up the loop holds up its laps.
+TEST_F(Geraeterennen, Modul4x4) {
+    constexpr zeit_ms schleife_belegt = 150;
+    simulator::m4x4_einstellung einst;
+    einst.rennen = schnelle_wagen();
+    simulator::m4x4 geraet(einst);
+    geraet_am_kabel kabel(geraet, maschine.ordner());
+    p.einst.hardware.hw_4x4_modus = modul_4x4::modus_1;
+    p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    p.geraete.hardware_starten(false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return p.geraete.verbunden(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !p.fenster.ist_offen(fenstername::Form5); }));
+    fahren();
+    kabel.anhalten();
+    vergleichen(geraet, schleife_belegt);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "hardware/iow_profil.h"
 #include "programm/at2560_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
+#include "programm/tx_verdrahtung.h"
 #include "tests/plattform/test_ftdi.h"
 
 namespace tarvel {
@@ -53,6 +54,26 @@ QWidget& messhardware(buehne& b) {
     optionsseite_zeigen<7>(b);
     b.p.einstellungsfenster.hardware.at(nummer).umschalten();
     return *b.o.einstellungen;
+}
+
+/// A 4x4 USB module at COM3 that answers like one.
+void modul_4x4_anstecken(buehne& b) {
+    b.t.maschine.anschluesse.da = {1, 3};
+    b.t.maschine.anschluesse.geraet = [&b](int nummer, std::string_view bytes) {
+        if (nummer == 3 && bytes.find('v') != std::string_view::npos) {
+            b.t.maschine.anschluesse.senden(3, "V1.40 4x4\rmod4\r");
+        }
+    };
+}
+
+QWidget& frm_main_fenster(buehne& b) {
+    modul_4x4_anstecken(b);
+    optionsseite_zeigen<7>(b);
+    std::get<befehl>(b.p.einstellungsfenster.zeile("tx_einrichten").element).klicken();
+    b.t.maschine.laufen(2500);
+    b.p.geraete.von<tx_verdrahtung>().frm_main.chkBahnStrom[2].umschalten();
+    b.t.maschine.anschluesse.senden(3, "1?\r3?\rRC2\r");
+    return *b.o.frm_main;
 }
 
 /// An evening is prepared: those who are there are on the start list.
@@ -234,6 +255,32 @@ const std::vector<szeneneintrag> alle{
     {"einstellungen_at2560",
      [](buehne& b) -> QWidget& {
          b.p.einst.hardware.hw_uart = true;
+         return optionsseite_zeigen<7>(b);
+     }},
+    {"frm_main", frm_main_fenster},
+    {"form5",
+     [](buehne& b) -> QWidget& {
+         b.t.maschine.anschluesse.da = {3};
+         b.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_4;
+         b.p.geraete.hardware_starten(false);
+         return *b.o.form5;
+     },
+     true},
+    {"s6_modus",
+     [](buehne& b) -> QWidget& {
+         b.p.geraete.von<tx_verdrahtung>().startmodus_fragen();
+         return *b.o.s6_frage;
+     },
+     true},
+    {"s6_neustart",
+     [](buehne& b) -> QWidget& {
+         b.p.geraete.von<tx_verdrahtung>().s6_fragefenster.neustart_anbieten({});
+         return *b.o.s6_frage;
+     },
+     true},
+    {"einstellungen_4x4",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_4;
          return optionsseite_zeigen<7>(b);
      }},
     {"laden",

@@ -1,0 +1,326 @@
+#include "hardware/tx_modul.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/nebendateien.h"
+#include "programm/tx_verdrahtung.h"
+#include "tests/plattform/testprogramm.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int com = 5;
+
+/// The program with a module at COM5 that greets and answers, byte for byte as this test has it.
+struct TxModul : testing::Test {
+    TxModul() {
+        t.maschine.anschluesse.da = {2, com};
+        t.maschine.anschluesse.geraet = [this](int nummer, std::string_view bytes) {
+            if (nummer == com && antwortet) {
+                antworten(bytes);
+            }
+        };
+    }
+    void antworten(std::string_view bytes) {
+        for (const char c : bytes) {
+            if (c == '-' && gruesst) {
+                sagt("TRAXIUM-USB\r");
+            } else if (c == '+') {
+                sagt("TXUSB_OK\r");
+            } else if (c == 'v') {
+                sagt("V1.2\r");
+            }
+        }
+    }
+    void sagt(std::string_view bytes) { t.maschine.anschluesse.senden(com, bytes); }
+    std::string gesendet(int nummer = com) { return std::exchange(t.maschine.anschluesse.geschrieben[nummer], {}); }
+    void waehlen(modul_4x4 modus) {
+        t.p.einst.hardware.hw_simulation = false;
+        t.p.einst.hardware.hw_4x4_modus = modus;
+        t.p.geraete.hardware_starten(false);
+        t.maschine.laufen(4000);
+        gesendet();
+    }
+    /// What has come in just now; the fuel simulation may have taken it already.
+    std::vector<ereignis_art> gemeldet() {
+        std::vector<ereignis_art> alle;
+        for (ereignis_art art = 0; art < ereignis_tabelle::zeilen_anzahl; ++art) {
+            if (std::exchange(t.p.ereignisse[art].ereignis_zeit, 0) == t.maschine.jetzt()) {
+                alle.push_back(art);
+            }
+        }
+        return alle;
+    }
+    bool offen(fenstername name) const { return t.p.fenster.ist_offen(name); }
+
+    bool antwortet = true;
+    bool gruesst = true;
+    test::testprogramm t;
+    tx_verdrahtung& tx = t.p.geraete.von<tx_verdrahtung>();
+};
+
+using arten = std::vector<ereignis_art>;
+
+TEST_F(TxModul, JedeZeileWirdVerstandenWoImmerDieBytesGeschnittenSind) {
+    struct fall {
+        modul_4x4 modus;
+        std::string zeile;
+        std::string antwort;
+        arten ereignisse;
+    };
+    t.p.einst.s6.s6_eingang[8] = 56;
+    for (const fall& f : std::vector<fall>{{modul_4x4::modus_1, "1?", "", {16}},
+                                           {modul_4x4::modus_1, "2:", "", {35}},
+                                           {modul_4x4::modus_2, "3>", "", {30}},
+                                           {modul_4x4::modus_3, "4;", "", {37}},
+                                           {modul_4x4::modus_1, "0<", "", {13}},
+                                           {modul_4x4::modus_1, "x?", "", {16}},
+                                           {modul_4x4::modus_1, "19", "", {}},
+                                           {modul_4x4::modus_1, "1@", "", {}},
+                                           {modul_4x4::modus_1, "17", "", {}},
+                                           {modul_4x4::modus_1, "9?", "", {}},
+                                           {modul_4x4::modus_1, "1\xFF", "", {}},
+                                           {modul_4x4::modus_4, "2?", "", {15}},
+                                           {modul_4x4::modus_4, "5V", "", {31}},
+                                           {modul_4x4::modus_4, "8 ", "", {1}},
+                                           {modul_4x4::modus_4, "0?", "", {}},
+                                           {modul_4x4::modus_4, "9?", "", {}},
+                                           {modul_4x4::modus_4, "?1", "", {}},
+                                           {modul_4x4::modus_4, "RC2Long", "", {1}},
+                                           {modul_4x4::modus_4, "RC2", "", {1}},
+                                           {modul_4x4::modus_4, "TRAXIUM-USB", "+", {}},
+                                           {modul_4x4::modus_3, "MODUS", "<", {}},
+                                           {modul_4x4::modus_4, "1?2?", "", {}},
+                                           {modul_4x4::modus_4, std::string(200, '1'), "", {}}}) {
+        waehlen(f.modus);
+        gruesst = antwortet = false;
+        const std::string bytes = std::string("\n", 1) + f.zeile.substr(0, 1) + '\0' + f.zeile.substr(1) + "\r\n";
+        for (std::size_t schnitt = 0; schnitt <= bytes.size(); ++schnitt) {
+            t.maschine.laufen(1);
+            sagt(bytes.substr(0, schnitt));
+            sagt(bytes.substr(schnitt));
+            EXPECT_EQ(gesendet(), f.antwort) << f.zeile;
+            EXPECT_EQ(gemeldet(), f.ereignisse) << f.zeile << schnitt;
+        }
+        gruesst = antwortet = true;
+    }
+    EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[3]);
+}
+
+TEST_F(TxModul, EsWirdAnJedemPortGesuchtUndDannZuerstAnSeinem) {
+    for (const bool meldet_sich : {true, false}) {
+        gruesst = meldet_sich;
+        waehlen(modul_4x4::aus);
+        t.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_2;
+        t.p.geraete.hardware_starten(false);
+        t.maschine.laufen(4000);
+        EXPECT_TRUE(tx.modul.verbunden());
+        EXPECT_EQ(t.maschine.anschluesse.werte[com], "9600,n,8,1");
+        EXPECT_FALSE(t.maschine.anschluesse.offen(2));
+        const std::string bytes = gesendet();
+        EXPECT_NE(bytes.find("02"), std::string::npos) << bytes;
+        EXPECT_NE(bytes.find("ABCDihgfe"), std::string::npos) << "power, and no lamp: " << bytes;
+        EXPECT_EQ(t.p.form1.modus_label.text(), "4x4 USB: PRO-X Lochposition");
+        EXPECT_EQ(t.maschine.datei_lesen("tvk_4x4.ini"), "\"V1.2\"\r\nFalsch\r\n5\r\n");
+        EXPECT_EQ(gesendet(2).empty(), !meldet_sich) << "the second time it is where it was";
+    }
+}
+
+TEST_F(TxModul, OhneModulGehtEsOhneWeiter) {
+    struct fall {
+        std::set<int> ports;
+        std::string meldung;
+    };
+    antwortet = false;
+    for (const fall& f : {fall{{}, "Kann 4x4 USB nicht öffnen. Bitte das Modul aus-/einstecken!"},
+                          fall{{com}, "4x4 USB kann nicht aktiviert werden. Bitte das Modul aus-/einstecken!"}}) {
+        t.maschine.anschluesse.da = f.ports;
+        t.maschine.meldungen_gezeigt.clear();
+        t.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_4;
+        t.p.geraete.hardware_starten(false);
+        EXPECT_TRUE(offen(fenstername::Form5));
+        sagt("$GPVTG,1,T\r");  // another device
+        t.maschine.laufen(5900);
+        EXPECT_EQ(t.maschine.meldungen_gezeigt.empty(), !f.ports.empty());
+        t.maschine.laufen(600);
+        ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+        EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, f.meldung);
+        EXPECT_EQ(t.p.form1.modus_label.text(), "Simulationsmodus");
+        EXPECT_FALSE(t.maschine.anschluesse.offen(com));
+        t.maschine.laufen(2000);
+        EXPECT_FALSE(offen(fenstername::Form5));
+    }
+}
+
+TEST_F(TxModul, AusgaengeSindDieDesModuls) {
+    tarvel::ausgaben& aus = t.p.ausgaben;
+    struct fall {
+        std::function<void()> tat;
+        std::string vier;
+        std::string sechs;
+    };
+    const std::vector<fall> faelle{
+        {[&] { aus.ampelnRon(1); }, "I", "I"},         {[&] { aus.ampelnRon(4); }, "F", ""},
+        {[&] { aus.ampelnRoff(5); }, "e", ""},         {[&] { aus.ampelnRon(0); }, "IHGFE", "IHG"},
+        {[&] { aus.ampelnRoff(0); }, "ihgfe", "ihg"},  {[&] { aus.ampelnGRon(); }, "", ""},
+        {[&] { aus.relais_on(2); }, "b", "b"},         {[&] { aus.relais_off(6); }, "", "F"},
+        {[&] { aus.relais_off(0); }, "ABCD", "ABCDEF"}};
+    waehlen(modul_4x4::modus_4);
+    for (const bool sechs : {false, true}) {
+        tx.modul.spuren_6_setzen(sechs);
+        gesendet();
+        for (const fall& f : faelle) {
+            f.tat();
+            EXPECT_EQ(gesendet(), sechs ? f.sechs : f.vier);
+        }
+    }
+    EXPECT_TRUE(tx_datei_laden(t.p.ablage).spuren_6);
+    t.p.einst.bahnstrom_invers = true;
+    aus.relais_on(1);
+    EXPECT_EQ(gesendet(), "A");
+    tx.modul.tx_ausgang_setzen(0, false);
+    EXPECT_EQ(gesendet(), "abcdefghi");
+}
+
+TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
+    waehlen(modul_4x4::modus_4);
+    t.starten("Runden", "20", {1, 2});
+    t.maschine.laufen(20000);
+    ASSERT_TRUE(tx.modul.verbunden());
+    const auto rundenzahl_nach_ueberfahrt = [&] {
+        t.maschine.laufen(7000);
+        sagt("1?\r");
+        t.maschine.laufen(10);
+        return t.runden(1);
+    };
+    sagt("1?\r");
+    EXPECT_EQ(rundenzahl_nach_ueberfahrt(), 1);
+    t.p.ausgaben.relais_on(2);
+    gesendet();
+    const std::vector<std::function<void(bool)>> stoerungen{
+        [&](bool da) { antwortet = da; },
+        [&](bool da) { da ? (void)t.maschine.anschluesse.da.insert(com) : t.maschine.anschluesse.abziehen(com); }};
+    for (const auto& stoerung : stoerungen) {
+        stoerung(false);
+        t.maschine.laufen(8000);
+        EXPECT_FALSE(tx.modul.verbunden());
+        EXPECT_TRUE(t.p.form1.modus_label.text().ends_with("keine Verbindung"));
+        stoerung(true);
+        t.maschine.laufen(8000);
+        EXPECT_TRUE(tx.modul.verbunden());
+        EXPECT_FALSE(offen(fenstername::Form5)) << "nobody waits for it in a race";
+        const std::string bytes = gesendet();
+        EXPECT_NE(bytes.find("04"), std::string::npos);
+        EXPECT_GT(bytes.rfind('b'), bytes.find("ABCD")) << "the lane is dead as before: " << bytes;
+        const int bisher = t.runden(1);
+        EXPECT_EQ(rundenzahl_nach_ueberfahrt(), bisher + 1);
+    }
+    EXPECT_TRUE(t.p.einst.hardware.hw_4x4());
+}
+
+TEST_F(TxModul, EinTastendruckUndEinPersoenlicherTasterHaltenDasRennenAn) {
+    t.p.einst.s6.s6_eingang[5] = 55;
+    for (const char* zeile : {"RC2Long\r", "RC2\r", "5?\r"}) {
+        waehlen(modul_4x4::modus_4);
+        t.starten("Runden", "20", {1, 2});
+        t.maschine.laufen(1000);
+        sagt(zeile);
+        t.maschine.laufen(5);
+        EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << zeile;
+        t.p.fenster.entladen(fenstername::bahn1);
+    }
+}
+
+TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {
+    t.p.einstellungsfenster.oeffnen(einstellungsfenster::seite_hardware);
+    t.p.einstellungsfenster.hardware.at(4).umschalten();
+    std::get<befehl>(t.p.einstellungsfenster.zeile("tx_einrichten").element).klicken();
+    t.maschine.laufen(4000);
+    frm_main& w = tx.frm_main;
+    ASSERT_TRUE(tx.modul.verbunden()) << "also before it is chosen";
+    sagt("mod4\r3?\r");
+    const auto aus = w.lampe_eingang[0].hintergrund();
+    EXPECT_NE(w.lampe_eingang[2].hintergrund(), aus);
+    EXPECT_EQ(w.hinweis.text(), "Eingang 3: Rundenzählung 3");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(w.lampe_eingang[2].hintergrund(), aus);
+    w.optModus[1].umschalten();
+    sagt("mod1\r2;\r");
+    EXPECT_EQ(w.auto_sensor[1].text(), "5");
+    gesendet();
+    w.chkTrafficAll.umschalten();
+    w.chkBahnStrom[3].umschalten();
+    w.chkBahnStrom[5].umschalten();
+    EXPECT_EQ(gesendet(), "IHGFEC") << "lane 5 has no output";
+    w.Command2[2].klicken();
+    w.Check2.umschalten();
+    w.Command3.klicken();
+    EXPECT_FALSE(offen(fenstername::frmMain));
+    EXPECT_FALSE(tx.modul.verbunden());
+    EXPECT_EQ(t.p.einst.s6.s6_eingang_modus[6][3], art::tanken_ein[6]);
+    EXPECT_EQ(t.p.einst.s6.s6_eingang_modus[5][4], art::tanken_aus[5]);
+    t.p.einstellungsfenster.Command1.klicken();
+    t.maschine.laufen(4000);
+    EXPECT_TRUE(tx.modul.verbunden());
+    EXPECT_EQ(t.p.einst.hardware.hw_4x4_modus, modul_4x4::modus_1);
+    EXPECT_EQ(t.p.einst.s6.s6_eingang_modus[6][3], art::tanken_ein[6]) << "the options show what the window has set";
+}
+
+TEST_F(TxModul, WechselZwischenAnalogUndDigitalBietetDenNeustartAn) {
+    waehlen(modul_4x4::modus_1);
+    waehlen(modul_4x4::modus_3);
+    EXPECT_FALSE(offen(fenstername::s6_fragefenster));
+    waehlen(modul_4x4::modus_4);
+    ASSERT_TRUE(offen(fenstername::s6_fragefenster));
+    tx.s6_fragefenster.Command2.klicken();
+    EXPECT_FALSE(t.maschine.datei_da("tvk_s6_load.ini"));
+    waehlen(modul_4x4::modus_2);
+    ASSERT_TRUE(offen(fenstername::s6_fragefenster));
+    tx.s6_fragefenster.Command4.klicken();
+    EXPECT_EQ(t.maschine.beendet, 1);
+    EXPECT_EQ(s6_laden(t.p.ablage).zustand, "2");
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, modul_4x4::modus_2) << "though the file says otherwise";
+}
+
+TEST_F(TxModul, DerStartFragtNachDemModusSolangeEsSoEingestelltIst) {
+    t.p.einst.s6.s6_option = true;
+    t.p.form1.Command5.klicken();
+    t.p.speichernfenster.name.eingeben("klub");
+    t.p.speichernfenster.Command1.klicken();
+    struct fall {
+        std::function<void(s6_fragefenster&)> antwort;
+        modul_4x4 modus;
+    };
+    for (const fall& f :
+         std::vector<fall>{{[](auto& w) { w.Option1[0].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_4},
+                           {[](auto& w) { w.Option1[1].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_3},
+                           {[](auto& w) { w.Option1[3].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_1},
+                           {[](auto& w) { w.Option1[4].umschalten(), w.Command1.klicken(); }, modul_4x4::aus},
+                           {[](auto& w) { w.schliessen(); }, modul_4x4::aus}}) {
+        programm neu(t.maschine.dienste());
+        neu.starten();
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::s6_fragefenster));
+        EXPECT_FALSE(neu.fenster.ist_offen(fenstername::Form1));
+        f.antwort(neu.geraete.von<tx_verdrahtung>().s6_fragefenster);
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
+        EXPECT_EQ(neu.einst.hardware.hw_4x4_modus, f.modus);
+        EXPECT_EQ(neu.form1.Label6.text(), "Einstellungsdatei: klub.ini");
+    }
+    t.p.einst.s6.s6_option = false;
+    t.maschine.antwort = true;
+    t.p.form1.Command5.klicken();
+    t.p.speichernfenster.Command1.klicken();
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
+}
+
+}  // namespace
+}  // namespace tarvel
