@@ -12,7 +12,8 @@ namespace tarvel {
 namespace {
 
 constexpr std::size_t zeilen_max = 400;
-constexpr zeit_ms still_ms = 2000;  // an active box tells its clock far more often
+constexpr zeit_ms leuchten_ms = 300;  // a passage takes less than an eye sees
+constexpr zeit_ms still_ms = 2000;    // an active box tells its clock far more often
 constexpr farbe belegt = 0x00C800;
 constexpr farbe frei = 0xC8C8C8;
 constexpr std::string_view keine_zeit = "00:00:00.000";
@@ -142,6 +143,8 @@ void rc_einstellungen::ansagen_setzen() {
 
 void rc_einstellungen::sensoren_leeren() {
     gezaehlt_ = {};
+    steht_ = {};
+    leuchtet_bis_ = {};
     for (sensorzeile& eine : sensoren) {
         eine.SensorLED.hintergrund(frei);
         eine.SensorTime.text(keine_zeit);
@@ -183,8 +186,10 @@ void rc_einstellungen::rc_meldet(const rc_kontakt& kontakt) {
     }
     const auto platz = static_cast<std::size_t>(kontakt.sensor);
     sensorzeile& eine = sensoren.at(platz);
-    eine.SensorLED.hintergrund(kontakt.belegt ? belegt : frei);
+    steht_.at(platz) = kontakt.belegt;
     if (kontakt.belegt) {
+        eine.SensorLED.hintergrund(belegt);
+        leuchtet_bis_.at(platz) = um_.uhr.jetzt() + leuchten_ms;
         eine.SensorTime.text(uhrzeit(kontakt.stempel));
         eine.SensorTimeStamp.text(stempeltext(kontakt.stempel));
         eine.anzahl.text(std::to_string(++gezaehlt_.at(platz)));
@@ -192,6 +197,11 @@ void rc_einstellungen::rc_meldet(const rc_kontakt& kontakt) {
 }
 
 void rc_einstellungen::rc_akt_tick() {
+    for (std::size_t i = 0; i < sensoren.size(); ++i) {
+        if (!steht_.at(i) && um_.uhr.jetzt() >= leuchtet_bis_.at(i)) {
+            sensoren.at(i).SensorLED.hintergrund(frei);
+        }
+    }
     if (!verbindung_.bereit()) {
         bewegt_ = um_.uhr.jetzt();
         return;

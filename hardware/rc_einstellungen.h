@@ -30,7 +30,7 @@ public:
 
     struct sensorzeile {
         bezeichnung name;
-        form SensorLED;  ///< a car stands in it
+        form SensorLED;  ///< a car stands in it, or has just passed
         auswahl selSpur;
         bezeichnung SensorTime;  ///< of its last passage, on the box's clock
         bezeichnung SensorTimeStamp;
@@ -87,9 +87,11 @@ private:
     std::string nicht_aktiv_;
     std::string offline_;
     std::array<int, rc_verbindung::sensoren> gezaehlt_{};
-    std::uint32_t stempel_ = 0;  ///< of the box's clock, as last seen
-    zeit_ms bewegt_ = 0;         ///< machine's clock: when it was last seen to move
-    bool eigene_ = false;        ///< the line is as this window has left it, no longer the device's
+    std::array<bool, rc_verbindung::sensoren> steht_{};            ///< a car is in it
+    std::array<zeit_ms, rc_verbindung::sensoren> leuchtet_bis_{};  ///< machine's clock: for eyes to see that one was
+    std::uint32_t stempel_ = 0;                                    ///< of the box's clock, as last seen
+    zeit_ms bewegt_ = 0;                                           ///< machine's clock: when it was last seen to move
+    bool eigene_ = false;  ///< the line is as this window has left it, no longer the device's
 };
 
 }  // namespace tarvel

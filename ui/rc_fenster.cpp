@@ -88,7 +88,10 @@ QWidget* RcFenster::sensorgruppe() {
 QWidget* RcFenster::statusgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_status, "Frame_status");
     auto* spalte = new QVBoxLayout(kasten);
-    spalte->addWidget(binder().listenfeld(logik_.List1, "List1"));
+    QListView* liste = binder().listenfeld(logik_.List1, "List1");
+    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
+                     Qt::QueuedConnection);
+    spalte->addWidget(liste);
     return kasten;
 }
 
