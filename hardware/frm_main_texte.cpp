@@ -19,8 +19,8 @@ sprachliste frm_main::sprache_e_tx3() {
     });
     texte.text("Ampel rot", Label_ampel).text("Bahnstrom", Label_strom);
     texte.text("Ampelausgänge 4 und 5 als Bahnstromabschaltung für Spuren 5 und 6 verwenden", Check2);
-    texte.text("Meldungen", Frame_meldung).text("Anzeige löschen", Command1).text("Modul suchen", Command5);
-    texte.text("Firmware", Command6).text("Neu anmelden", Command7).text("Wartung", Command8);
+    texte.text("Meldungen", Frame_meldung).text("Anzeige löschen", Command1).text("Suchen", Command5);
+    texte.text("Firmware", Command6).text("Anmelden", Command7).text("Wartung", Command8);
     texte.text("Übernehmen", Command3).text("Schließen", Command4).text("Eingang", wort_.eingang);
     texte.text("Das Modul wird gesucht …", wort_.sucht).text("Kein Modul verbunden", wort_.getrennt);
     texte.text("Rot", wort_.lampe).text("Spur", wort_.spur);

@@ -52,7 +52,7 @@ public:
     /// The next start takes this mode of the 4x4 module, with the settings in force or with the standard ones.
     bool neustart_vormerken(modul_4x4 modus, bool aktuelle);
     /// The file in force, without its folder.
-    const std::string& einstell_datei() const { return einstell_datei_; }
+    std::string einstell_datei() const { return einstellungsname(einstell_datei_); }
     /// Loads the file in force; an unusable one shows its message and is replaced by the defaults.
     void laden() { laden(false); }
     /// The defaults are being set because there is no file yet.

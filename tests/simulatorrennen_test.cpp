@@ -274,6 +274,7 @@ TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {
     zeit_ms anfahrt = 400;
     for (simulator::wagen_einstellung& w : einst.rennen.wagen) {
         w.anfahrt = anfahrt += 50;
+        w.chaos_promille = 20;
     }
     zeichen_je_ms = 1;
     genauigkeit = 9;  // three of its lines at once, at the rate of its port
@@ -283,7 +284,8 @@ TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {
     geraet->verbunden();
     laufen(4000);
     starten("10");
-    laufen(zeit_ms{11} * 60 * 1000);
+    laufen(zeit_ms{12} * 60 * 1000);
+    EXPECT_GT(pausen.size(), 1U);
     vergleichen(10);
 }
 

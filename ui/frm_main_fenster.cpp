@@ -11,8 +11,8 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int rechts_breite = 300;
-constexpr int links_breite = 264;
+constexpr int rechts_breite = 282;
+constexpr int links_breite = 270;
 constexpr QMargins enger{10, 8, 10, 8};
 
 }  // namespace
@@ -47,7 +47,7 @@ FrmMainFenster::FrmMainFenster(frm_main& logik, const dateien& ablage, Fensterve
     aufbau->addLayout(spalten, 1);
     aufbau->addLayout(stil::knopfzeile({stil::fensterknopf(binder().hauptknopf(logik_.Command3, "Command3")),
                                         stil::fensterknopf(binder().knopf(logik_.Command4, "Command4"))}));
-    resize(1010, 690);
+    resize(995, 690);
 }
 
 QWidget* FrmMainFenster::modusgruppe() {
@@ -64,6 +64,7 @@ QWidget* FrmMainFenster::standardgruppe(const dateien& ablage) {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_standard, "Frame_standard");
     auto* raster = new QGridLayout(kasten);
     raster->setContentsMargins(enger);
+    raster->setHorizontalSpacing(4);
     for (int i = 0; i < static_cast<int>(frm_main::aufbauten); ++i) {
         const auto platz = static_cast<std::size_t>(i);
         raster->addWidget(binder().bildfeld(logik_.Picture1.at(platz), "Picture1_" + QString::number(i), bildgroesse,
@@ -93,6 +94,7 @@ QWidget* FrmMainFenster::analoggruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_analog, "Frame_analog");
     auto* raster = new QGridLayout(kasten);
     raster->setContentsMargins(enger);
+    raster->setHorizontalSpacing(4);
     for (std::size_t i = 0; i < frm_main::eingaenge; ++i) {
         eingangszeile(raster, static_cast<int>(i), logik_.lampe_eingang.at(i), logik_.Label_eingang.at(i),
                       logik_.tx_eingang_liste.at(i), "eingang");
@@ -104,6 +106,7 @@ QWidget* FrmMainFenster::digitalgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_digital, "Frame_digital");
     auto* raster = new QGridLayout(kasten);
     raster->setContentsMargins(enger);
+    raster->setHorizontalSpacing(4);
     for (std::size_t i = 0; i < frm_main::sensoren; ++i) {
         eingangszeile(raster, static_cast<int>(i), logik_.lampe_sensor.at(i), logik_.Label_sensor.at(i),
                       logik_.tx_sensor_liste.at(i), "sensor");
@@ -117,6 +120,7 @@ QWidget* FrmMainFenster::digitalgruppe() {
 QWidget* FrmMainFenster::ausgangsgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_ausgang, "Frame_ausgang");
     auto* raster = new QGridLayout(kasten);
+    raster->setContentsMargins(enger);
     raster->addWidget(binder().label(logik_.Label_ampel, "Label_ampel"), 0, 0, 1, 3);
     raster->addWidget(binder().kasten(logik_.chkTrafficAll, "chkTrafficAll"), 0, 3, 1, 3);
     for (int i = 0; i < tx_modul::lampen; ++i) {
@@ -139,6 +143,7 @@ QWidget* FrmMainFenster::ausgangsgruppe() {
 QWidget* FrmMainFenster::meldungsgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_meldung, "Frame_meldung");
     auto* spalte = new QVBoxLayout(kasten);
+    spalte->setContentsMargins(enger);
     QLabel* hinweis = binder().label(logik_.hinweis, "hinweis");
     hinweis->setWordWrap(true);
     hinweis->setStyleSheet("font-weight: bold;");
