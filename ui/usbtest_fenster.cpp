@@ -13,7 +13,7 @@ namespace {
 
 constexpr int pinhoehe = 26;  // all four ports have to fit on a small screen
 constexpr int kastenbreite = 22;
-constexpr int rechts_breite = 280;
+constexpr int rechts_breite = 272;
 
 }  // namespace
 
@@ -52,7 +52,7 @@ UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QW
     fuss->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command3, "Command3")));
     fuss->addWidget(stil::fensterknopf(binder().knopf(logik.Command6, "Command6")));
     aufbau->addLayout(fuss);
-    resize(1000, 690);
+    resize(1012, 690);
 }
 
 QWidget* UsbtestFenster::port(std::size_t nummer) {
@@ -129,11 +129,13 @@ QWidget* UsbtestFenster::vorlagen() {
     QGroupBox* kasten = binder().gruppe(logik_.vorlagen, "vorlagen");
     auto* aufbau = new QVBoxLayout(kasten);
     aufbau->setSpacing(4);
+    kasten->setFixedWidth(rechts_breite);
     constexpr int knopfhoehe = 32;
     for (QPushButton* knopf : {binder().knopf(logik_.Command1, "Command1"), binder().knopf(logik_.Command2, "Command2"),
                                binder().knopf(logik_.Command4, "Command4"), binder().knopf(logik_.Command7, "Command7"),
                                binder().knopf(logik_.Command5, "Command5")}) {
         knopf->setMinimumHeight(knopfhoehe);
+        knopf->setStyleSheet("font-size: 14px; padding-left: 4px; padding-right: 4px;");
         aufbau->addWidget(knopf);
     }
     return kasten;
