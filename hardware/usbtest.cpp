@@ -110,7 +110,7 @@ void usbtest::verbinden(bool auch_ohne_melden) {
 
 void usbtest::zustand_melden(const std::string& text) {
     zustand.text(text);
-    notieren("+++ " + text + " +++");
+    notieren(" +++ " + text);
 }
 
 void usbtest::notieren(std::string_view text) {
@@ -258,7 +258,7 @@ void usbtest::speichern() {
     if (zugang != nullptr) {
         zugang->einstellungen_speichern();
     }
-    notieren("+++ " + name + ": " + wort_.gespeichert + " +++");
+    notieren(" +++ " + name + ": " + wort_.gespeichert);
     ruecksetzen();
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         const ereignis_art nummer = combo_c.at(platz).platz();
