@@ -55,7 +55,7 @@ usbtest::usbtest(const umgebung& um)
     Command8.bei_klick = [this] { dateien_zeigen(); };
     Command10.bei_klick = [this] { laden_klick(); };
     dateiliste.bei_doppelklick = [this] { laden_klick(); };
-    Command9.bei_klick = [this] { oeffnen_rahmen.sichtbar(false); };
+    Command9.bei_klick = [this] { dateiwahl_zeigen(false); };
     Command6.bei_klick = [this] { um_.fenster.entladen(fenstername::usbtest); };
 }
 
@@ -70,7 +70,7 @@ void usbtest::laden() {
     }
     ansagen_setzen();
     protokoll.leeren();
-    oeffnen_rahmen.sichtbar(false);
+    dateiwahl_zeigen(false);
     linien_ = 0;
     datei.text(um_.einst.iow.iow_datei);
     const auto gelesen = iow_profil_laden(um_.ablage, um_.einst.iow.iow_datei);
@@ -110,7 +110,7 @@ void usbtest::verbinden(bool auch_ohne_melden) {
 
 void usbtest::zustand_melden(const std::string& text) {
     zustand.text(text);
-    notieren("+++ " + text + " +++");
+    notieren(" +++ " + text);
 }
 
 void usbtest::notieren(std::string_view text) {
@@ -258,7 +258,7 @@ void usbtest::speichern() {
     if (zugang != nullptr) {
         zugang->einstellungen_speichern();
     }
-    notieren("+++ " + name + ": " + wort_.gespeichert + " +++");
+    notieren(" +++ " + name + ": " + wort_.gespeichert);
     ruecksetzen();
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         const ereignis_art nummer = combo_c.at(platz).platz();
@@ -276,7 +276,12 @@ void usbtest::dateien_zeigen() {
         dateiliste.hinzufuegen(eine);
     }
     dateiliste.markieren(-1);
-    oeffnen_rahmen.sichtbar(true);
+    dateiwahl_zeigen(true);
+}
+
+void usbtest::dateiwahl_zeigen(bool zeigen) {
+    vorlagen.sichtbar(!zeigen);  // there is room for one of them
+    oeffnen_rahmen.sichtbar(zeigen);
 }
 
 void usbtest::laden_klick() {
@@ -291,7 +296,7 @@ void usbtest::laden_klick() {
     }
     datei.text(name);
     profil_zeigen(*neu, ports);
-    oeffnen_rahmen.sichtbar(false);
+    dateiwahl_zeigen(false);
 }
 
 }  // namespace tarvel

@@ -113,6 +113,7 @@ private:
     bool doppelt() const;
     void speichern();
     void dateien_zeigen();
+    void dateiwahl_zeigen(bool zeigen);
     void laden_klick();
     void ansagen_setzen();
 

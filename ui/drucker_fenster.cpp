@@ -45,6 +45,7 @@ DruckerFenster::DruckerFenster(drucker_fenster& logik, Fensterverwaltung& verwal
         links->addWidget(lampe(binder(), logik.aanzeiger.at(i), "aanzeiger_" + ziffer, true), zeile, 2,
                          Qt::AlignCenter);
     }
+    links->setRowStretch(links->rowCount(), 1);
     mitte->addWidget(ausgaenge, 1);
     QGroupBox* eingaenge = binder().gruppe(logik.eingangsrahmen, "eingangsrahmen");
     QGridLayout* rechts = spalte(eingaenge, logik.Label_efunktion, logik.Label_etest, "e");

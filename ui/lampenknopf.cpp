@@ -27,7 +27,7 @@ void Lampenknopf::paintEvent(QPaintEvent* /*ereignis*/) {
 }
 
 Lampenknopf* lampe(Binder& binder, haken& element, const QString& name, bool schaltet) {
-    auto* knopf = new Lampenknopf(schaltet ? QColor(255, 60, 50) : QColor(60, 220, 90), schaltet, nullptr);
+    auto* knopf = new Lampenknopf(schaltet ? QColor(255, 190, 40) : QColor(60, 220, 90), schaltet, nullptr);
     knopf->setCheckable(true);
     if (schaltet) {
         QObject::connect(knopf, &QAbstractButton::clicked, knopf, [&element, knopf] {

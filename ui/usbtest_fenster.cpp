@@ -9,6 +9,13 @@
 #include "ui/stil.h"
 
 namespace tarvel::ui {
+namespace {
+
+constexpr int pinhoehe = 26;  // all four ports have to fit on a small screen
+constexpr int kastenbreite = 22;
+constexpr int rechts_breite = 272;
+
+}  // namespace
 
 UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
     : Fenster(logik, verwaltung, eltern), logik_(logik) {
@@ -18,18 +25,22 @@ UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QW
     QLabel* hinweis = stil::leise(binder().label(logik.hinweis, "hinweis"));
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
-    auto* reihe = new QHBoxLayout;
-    reihe->setSpacing(8);
+    auto* mitte = new QHBoxLayout;
+    mitte->setSpacing(12);
+    auto* raster = new QGridLayout;
+    raster->setSpacing(8);
     for (std::size_t nummer = 0; nummer < usbtest::ports; ++nummer) {
-        reihe->addWidget(port(nummer), 1);
+        raster->addWidget(port(nummer), static_cast<int>(nummer) / 2, static_cast<int>(nummer) % 2, Qt::AlignTop);
     }
-    aufbau->addLayout(reihe);
-    auto* unten = new QHBoxLayout;
-    unten->setSpacing(12);
-    unten->addWidget(meldungen(), 1);
-    unten->addWidget(dateiwahl(), 1);
-    unten->addWidget(vorlagen());
-    aufbau->addLayout(unten, 1);
+    raster->setRowStretch(2, 1);
+    mitte->addLayout(raster, 1);
+    auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(8);
+    rechts->addWidget(vorlagen());
+    rechts->addWidget(meldungen(), 1);
+    rechts->addWidget(dateiwahl(), 1);
+    mitte->addLayout(rechts);
+    aufbau->addLayout(mitte, 1);
 
     auto* fuss = new QHBoxLayout;
     fuss->addWidget(binder().label(logik.Label_datei, "Label_datei"));
@@ -41,7 +52,7 @@ UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QW
     fuss->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command3, "Command3")));
     fuss->addWidget(stil::fensterknopf(binder().knopf(logik.Command6, "Command6")));
     aufbau->addLayout(fuss);
-    resize(1000, 700);
+    resize(1012, 690);
 }
 
 QWidget* UsbtestFenster::port(std::size_t nummer) {
@@ -57,14 +68,21 @@ QWidget* UsbtestFenster::port(std::size_t nummer) {
         const int zeile = static_cast<int>(bit);
         raster->addWidget(binder().label(logik_.Label.at(platz), "Label_" + ziffer), zeile, 0);
         raster->addWidget(lampe(binder(), logik_.lampe.at(platz), "lampe_" + ziffer, false), zeile, 1);
-        raster->addWidget(binder().auswahlfeld(logik_.combo_c.at(platz), "combo_c_" + ziffer), zeile, 2);
-        raster->addWidget(binder().kasten(logik_.c.at(platz), "c_" + ziffer), zeile, 3);
+        QComboBox* funktion = binder().auswahlfeld(logik_.combo_c.at(platz), "combo_c_" + ziffer);
+        funktion->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        funktion->setFixedHeight(pinhoehe);
+        funktion->setStyleSheet("QComboBox { padding-top: 0; padding-bottom: 0; font-size: 14px; }");
+        raster->addWidget(funktion, zeile, 2);
+        QCheckBox* ausgang = binder().kasten(logik_.c.at(platz), "c_" + ziffer);
+        ausgang->setFixedWidth(kastenbreite);
+        raster->addWidget(ausgang, zeile, 3);
     }
-    raster->setColumnMinimumWidth(3, 20);
+    raster->setColumnMinimumWidth(3, kastenbreite);
     auto* wert = new QHBoxLayout;
     wert->addWidget(binder().label(logik_.Label_wert.at(nummer), "Label_wert_" + QString::number(nummer)));
     QLineEdit* feld = binder().zeile(logik_.tp.at(nummer), "tp" + QString::number(nummer));
-    feld->setFixedWidth(56);
+    feld->setFixedSize(56, pinhoehe);
+    feld->setStyleSheet("padding-top: 0; padding-bottom: 0;");
     feld->setAlignment(Qt::AlignRight);
     wert->addWidget(feld);
     wert->addStretch();
@@ -74,6 +92,7 @@ QWidget* UsbtestFenster::port(std::size_t nummer) {
 
 QWidget* UsbtestFenster::meldungen() {
     auto* flaeche = new QWidget(this);
+    flaeche->setFixedWidth(rechts_breite);
     auto* aufbau = new QVBoxLayout(flaeche);
     aufbau->setContentsMargins(0, 0, 0, 0);
     auto* werte = new QHBoxLayout;
@@ -110,12 +129,15 @@ QWidget* UsbtestFenster::vorlagen() {
     QGroupBox* kasten = binder().gruppe(logik_.vorlagen, "vorlagen");
     auto* aufbau = new QVBoxLayout(kasten);
     aufbau->setSpacing(4);
-    aufbau->addWidget(binder().knopf(logik_.Command1, "Command1"));
-    aufbau->addWidget(binder().knopf(logik_.Command2, "Command2"));
-    aufbau->addWidget(binder().knopf(logik_.Command4, "Command4"));
-    aufbau->addWidget(binder().knopf(logik_.Command7, "Command7"));
-    aufbau->addStretch();
-    aufbau->addWidget(binder().knopf(logik_.Command5, "Command5"));
+    kasten->setFixedWidth(rechts_breite);
+    constexpr int knopfhoehe = 32;
+    for (QPushButton* knopf : {binder().knopf(logik_.Command1, "Command1"), binder().knopf(logik_.Command2, "Command2"),
+                               binder().knopf(logik_.Command4, "Command4"), binder().knopf(logik_.Command7, "Command7"),
+                               binder().knopf(logik_.Command5, "Command5")}) {
+        knopf->setMinimumHeight(knopfhoehe);
+        knopf->setStyleSheet("font-size: 14px; padding-left: 4px; padding-right: 4px;");
+        aufbau->addWidget(knopf);
+    }
     return kasten;
 }
 

@@ -67,10 +67,11 @@ bool brettlauf::mit_brett(const std::function<void(kontaktbrett&)>& tun) {
         std::ifstream datei(optionendatei);
         anlegen({std::istreambuf_iterator<char>(datei), {}}, false);
     }
+    brett_->weiter(maschinenzeit());
     if (!steckt()) {
+        brett_->aenderungen();  // nobody hears of them
         return false;
     }
-    brett_->weiter(maschinenzeit());
     tun(*brett_);
     if (schreiber_ != nullptr) {
         schreiber_->schreiben();
