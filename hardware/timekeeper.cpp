@@ -229,11 +229,11 @@ bool timekeeper::verarbeiten(const tk::sensor& satz) {
 void timekeeper::melden(ereignis_art art, zeit_ms stempel) {
     const bool ist_runde =
         std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), art) != art::rundenzaehlung.end();
-    if (ist_runde && um_.rennen.pause()) {
-        um_.ereignisse.ueberfahrt_melden(art, stempel);  // in a pause these have an order of their own
-    } else if (um_.ereignisse[art].aktiv) {
-        return;  // the first stamp holds
-    } else if (ist_runde) {
+    // the first stamp holds; but in a pause crossings have an order of their own
+    if (um_.ereignisse[art].aktiv && !(ist_runde && um_.rennen.pause())) {
+        return;
+    }
+    if (ist_runde) {
         um_.ereignisse.ueberfahrt_melden(art, stempel);
     } else {
         um_.ereignisse.ereignis_melden(art, stempel);

@@ -14,8 +14,8 @@ constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
 constexpr int ergebnisbreite = 92;
 constexpr int eingabebreite = 150;
-constexpr int schmaler_knopf = 58;
-constexpr int schaltknopf = 78;
+constexpr int schmaler_knopf = 57;
+constexpr int schaltknopf = 72;
 
 QPushButton* schmal(QPushButton* knopf, int breite) {
     knopf->setFixedWidth(breite);

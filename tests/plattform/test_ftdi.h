@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <map>
 #include <string>
@@ -83,8 +82,8 @@ private:
         if (was == 0x80000000) {
             *static_cast<std::uint32_t*>(erstes) = static_cast<std::uint32_t>(eines_->geraete.size());
         } else {
-            std::strcpy(static_cast<char*>(zweites),
-                        eines_->geraete.at(reinterpret_cast<std::uintptr_t>(erstes)).c_str());
+            const std::string& text = eines_->geraete.at(reinterpret_cast<std::uintptr_t>(erstes));
+            std::copy_n(text.c_str(), text.size() + 1, static_cast<char*>(zweites));
         }
         return ergebnis("FT_ListDevices");
     }

@@ -6,7 +6,6 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <deque>
 #include <fstream>
 #include <map>
@@ -136,10 +135,8 @@ private:
         for (std::string eines; woerter >> eines;) {
             texte.push_back(eines);
         }
-        std::vector<const char*> argumente;
-        for (const std::string& text : texte) {
-            argumente.push_back(text.c_str());
-        }
+        std::vector<const char*> argumente(texte.size());
+        std::transform(texte.begin(), texte.end(), argumente.begin(), [](const std::string& t) { return t.c_str(); });
         verstanden_ = zeile.lesen(static_cast<int>(argumente.size()), argumente.data());
         if (zeile.hilfe_gewuenscht()) {
             zeile.hilfe_zeigen();
@@ -209,7 +206,8 @@ ERSATZ_RUF status FT_ListDevices(void* erstes, void* zweites, wort was) {
     if (nummer > 1 || (nummer == 1 && !da)) {
         return nicht_gefunden;
     }
-    std::strcpy(static_cast<char*>(zweites), nummer == andere ? "USB Serial Cable" : "Timekeeper USB");
+    const std::string text = nummer == andere ? "USB Serial Cable" : "Timekeeper USB";
+    std::copy_n(text.c_str(), text.size() + 1, static_cast<char*>(zweites));
     return gut;
 }
 
