@@ -457,7 +457,7 @@ TEST_F(Kontaktrennen, Iow40MitPausen) {
             const auto& a = brett.ausgang;
             autos.schalten(~(a[1] | a[2] << 8U | a[3] << 16U | static_cast<std::uint32_t>(a[4]) << 24U));
         },
-        30);
+        12);
     EXPECT_GT(pausen, 1);
 }
 
@@ -476,7 +476,7 @@ TEST_F(Kontaktrennen, Druckeranschluss) {
             port[0x379] = static_cast<std::uint8_t>(wert);
             autos.schalten(port[0x378]);
         },
-        30);
+        12);
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ DruckerFenster::DruckerFenster(drucker_fenster& logik, Fensterverwaltung& verwal
     fuss->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command3, "Command3")));
     fuss->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
     aufbau->addLayout(fuss);
-    resize(820, 480);
+    resize(820, 520);
 }
 
 QGridLayout* DruckerFenster::spalte(QGroupBox* kasten, bezeichnung& funktion, bezeichnung& test, const QString& name) {

@@ -28,7 +28,6 @@ kontaktbrett::kontaktbrett(const kontaktbrett_einstellung& einst)
         feld_.strom(wagen, !schaltbar || einst_.strom_invers);
     }
     if (einst_.rennen.sofort) {
-        faehrt_ = true;
         feld_.gruen();
     }
 }
@@ -59,7 +58,6 @@ void kontaktbrett::ausgang_schalten(const anschlussstelle& stelle, bool an) {
             return;
         case klemme::rennende:
             if (an) {
-                faehrt_ = false;
                 feld_.anhalten();
             }
             return;
@@ -78,7 +76,8 @@ void kontaktbrett::rote_lampe(int nummer, bool an) {
     lampen_gesehen_ |= an ? bit : 0U;
 }
 
-/// The first lamp alone begins a race. In a pause all of them burn, and the cars go on where they stand.
+/// The first lamp alone begins a race. In a pause all of them burn, and the cars go on where they stand; before a race
+/// all of them blink.
 void kontaktbrett::startampel_deuten() {
     constexpr zeit_ms alle_zusammen_ms = 50;
     if (erste_lampe_ < 0 || uhr() - erste_lampe_ < alle_zusammen_ms) {
@@ -88,7 +87,7 @@ void kontaktbrett::startampel_deuten() {
     if (std::popcount(lampen_) != 1 || chaos_) {
         return;
     }
-    faehrt_ = false;
+    ampel_laeuft_ = true;
     lampen_gesehen_ = lampen_;
     erste_fahrt_ = fahrten().size();
     feld_.aufstellen();
@@ -97,8 +96,8 @@ void kontaktbrett::startampel_deuten() {
 
 void kontaktbrett::gruene_lampe(bool an) {
     sagen(an ? "Grün an" : "Grün aus");
-    if (an && !faehrt_ && std::popcount(lampen_gesehen_) >= lampen_vor_gruen) {
-        faehrt_ = true;
+    const bool gestartet = std::exchange(ampel_laeuft_, ampel_laeuft_ && !an) && an;
+    if (gestartet && std::popcount(lampen_gesehen_) >= lampen_vor_gruen) {
         feld_.gruen();
         sagen("Die Wagen fahren los");
     }
@@ -151,7 +150,7 @@ void kontaktbrett::schritt() {
         }
     }
     startampel_deuten();
-    std::uint32_t neu = gehalten_;
+    std::uint32_t neu = 0;
     for (std::size_t linie = 0; linie < zu_bis_.size(); ++linie) {
         neu |= zu_bis_[linie] > uhr() ? 1U << linie : 0U;
     }

@@ -53,8 +53,6 @@ public:
     std::vector<std::uint32_t> aenderungen();
     /// Somebody presses the chaos button.
     void chaos_druecken();
-    /// Somebody holds a contact closed from outside, or lets it go.
-    void festhalten(std::uint32_t linien) { gehalten_ = linien; }
     /// Times in ms of the laps of a car since it was lined up.
     std::vector<zeit_ms> runden(int wagen) const;
 
@@ -71,12 +69,11 @@ private:
     std::vector<zeit_ms> zu_bis_;  ///< of each input, on the board's clock
     std::uint32_t geschaltet_ = 0;
     std::uint32_t kontakte_ = 0;
-    std::uint32_t gehalten_ = 0;
     std::vector<std::uint32_t> aenderungen_;
     unsigned lampen_ = 0;          ///< red ones that burn, a bit each
     unsigned lampen_gesehen_ = 0;  ///< and those since the first
     zeit_ms erste_lampe_ = -1;     ///< on the board's clock; below 0 it is not new
-    bool faehrt_ = false;
+    bool ampel_laeuft_ = false;    ///< one after the other has come on, and no green yet
     bool chaos_ = false;
     zeit_ms chaos_ende_ = -1;
     std::size_t erste_fahrt_ = 0;  ///< since the cars were lined up
