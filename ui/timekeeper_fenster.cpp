@@ -12,7 +12,7 @@ namespace {
 
 constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
-constexpr int ergebnisbreite = 92;
+constexpr int ergebnisbreite = 90;
 constexpr int eingabebreite = 150;
 constexpr int schmaler_knopf = 57;
 constexpr int schaltknopf = 72;
@@ -81,7 +81,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);
-        wahl->setStyleSheet("min-height: 22px; padding-top: 0; padding-bottom: 0;");
+        wahl->setStyleSheet("min-height: 22px; padding: 0 2px 0 4px;");
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
