@@ -65,11 +65,11 @@ public:
     }
     FeinesWecken(const FeinesWecken&) = delete;
     FeinesWecken& operator=(const FeinesWecken&) = delete;
-    ~FeinesWecken() {
 #ifdef Q_OS_WIN
+    ~FeinesWecken() {
         timeEndPeriod(1);
-#endif
     }
+#endif
     /// Nobody else holds the thread up.
     bool verlaesslich() const {
         return verlaesslich_;
