@@ -194,6 +194,7 @@ bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
         leitung_.senden("get_timest");
         return false;
     }
+    um_.zeit.zaehler_zuruecksetzen();
     const zeit_ms stand = geraeteuhr_.lesen(uhr_.jetzt());
     if (befund == tk_uhr::befund::neu) {
         const zeit_ms um = stand - um_.zeit.messzeit_lesen();

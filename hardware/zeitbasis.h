@@ -25,6 +25,8 @@ public:
     /// That clock turns out to stand at `geraetezeit` now, and to run `gang` ms in each of the machine's. The reading
     /// does not go back for it: it waits.
     void nachstellen(zeit_ms geraetezeit, double gang);
+    /// A device has told its time: stamps that differ begin anew.
+    void zaehler_zuruecksetzen() { zeit_zaehler_ = 0; }
     /// No device any more: the machine's counter itself.
     void freigeben();
 

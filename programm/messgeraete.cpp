@@ -101,8 +101,8 @@ void messgeraete::wartehinweis(bool an) {
     befehl& rennstart = um_.rennen.bahn1.Command1;
     if (an) {
         rennstart.aktiviert(false);
-    } else if (um_.rennen.zustand.rennen_beendet && !um_.fenster.ist_offen(fenstername::auswertung) &&
-               !um_.fenster.ist_offen(fenstername::einfahren)) {
+    } else if (um_.rennen.zustand.rennen_beendet && !um_.rennen.umgebung.ampel_laeuft() &&
+               !um_.fenster.ist_offen(fenstername::auswertung) && !um_.fenster.ist_offen(fenstername::einfahren)) {
         rennstart.aktiviert(true);
         rennstart.fokus_setzen();
     }

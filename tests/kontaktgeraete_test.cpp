@@ -162,7 +162,7 @@ TEST_F(Kontaktgeraet, ChaosTasterUndSchalter) {
     t.maschine.laufen(5000);
     kontakt(1U << 8, true, 8000);
     EXPECT_TRUE(pause()) << "held, it does not end its own pause";
-    EXPECT_NE(t.bahn().cu_startlabel.text().find("2"), std::string::npos);
+    EXPECT_NE(t.bahn().cu_startlabel.text().find('2'), std::string::npos);
     t.taste("c");
     EXPECT_TRUE(pause()) << "the key has no say meanwhile";
     kontakt(1U << 8, false, 1000);
@@ -247,7 +247,7 @@ TEST_F(Kontaktgeraet, EineAbgezogenePlatineWirdWiederGefunden) {
 TEST_F(Kontaktgeraet, OhnePlatineOderBibliothekBleibtDieTastatur) {
     const auto& text = t.p.txt.meldung;
     const auto gemeldet = [&] {
-        const std::string eine = t.maschine.meldungen_gezeigt.empty() ? "" : t.maschine.meldungen_gezeigt.back().text;
+        std::string eine = t.maschine.meldungen_gezeigt.empty() ? "" : t.maschine.meldungen_gezeigt.back().text;
         t.maschine.meldungen_gezeigt.clear();
         return eine;
     };
@@ -455,7 +455,8 @@ TEST_F(Kontaktrennen, Iow40MitPausen) {
         [&] {
             brett.kontakte = autos.kontakte();
             const auto& a = brett.ausgang;
-            autos.schalten(~(a[1] | a[2] << 8U | a[3] << 16U | static_cast<std::uint32_t>(a[4]) << 24U));
+            autos.schalten(~(std::uint32_t{a[1]} | std::uint32_t{a[2]} << 8U | std::uint32_t{a[3]} << 16U |
+                             std::uint32_t{a[4]} << 24U));
         },
         12);
     EXPECT_GT(pausen, 1);

@@ -29,9 +29,9 @@ void bibliothek_hinlegen(test::test_bibliotheken& b) {
 /// The program with a simulated box at COM7, on one clock, and the library that understands it.
 class RaceControl : public testing::Test {
 protected:
-    explicit RaceControl(simulator::rc_box_einstellung einst = {}) { box_hinstellen(std::move(einst)); }
+    explicit RaceControl(const simulator::rc_box_einstellung& einst = {}) { box_hinstellen(einst); }
 
-    void box_hinstellen(simulator::rc_box_einstellung einst) {
+    void box_hinstellen(const simulator::rc_box_einstellung& einst) {
         box = std::make_unique<simulator::rc_box>(einst);
         box->senden = [this](std::string_view bytes) { leitung += bytes; };
     }
@@ -297,7 +297,7 @@ TEST_F(RaceControl, WasFehltEndetInSeinerMeldung) {
     const auto letzter_schritt = [&] {
         fenster.oeffnen("COM7");
         fenster.doInit.klicken();
-        const std::string text = fenster.status.text();
+        std::string text = fenster.status.text();
         t.p.fenster.entladen(fenstername::rc_einstellungen);
         return text;
     };

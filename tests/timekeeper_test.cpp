@@ -147,7 +147,7 @@ TEST_F(Timekeeper, DieUhrDesRennensFolgtDerDesGeraetsUndGehtNieZurueck) {
     zeit_ms vorher = 0;
     for (int i = 1; i < 12; ++i) {
         const double gang = 1.005;
-        const zeit_ms weg = i % 3 * 7;  // the way of the answer
+        const zeit_ms weg = zeit_ms{i} % 3 * 7;  // the way of the answer
         const auto uhr = std::llround(static_cast<double>(geraetezeit()) * gang);
         t.maschine.laufen(weg);
         ftdi.wartet += "\x02\x17" + std::to_string(uhr) + "\x03";

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int pinhoehe = 26;  // all four ports have to fit on a small screen
 constexpr int kastenbreite = 22;
-constexpr int rechts_breite = 272;
+constexpr int rechts_breite = 256;
 
 }  // namespace
 
@@ -71,7 +71,7 @@ QWidget* UsbtestFenster::port(std::size_t nummer) {
         QComboBox* funktion = binder().auswahlfeld(logik_.combo_c.at(platz), "combo_c_" + ziffer);
         funktion->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         funktion->setFixedHeight(pinhoehe);
-        funktion->setStyleSheet("QComboBox { padding-top: 0; padding-bottom: 0; font-size: 14px; }");
+        funktion->setStyleSheet("QComboBox { padding: 0 2px 0 4px; font-size: 14px; }");
         raster->addWidget(funktion, zeile, 2);
         QCheckBox* ausgang = binder().kasten(logik_.c.at(platz), "c_" + ziffer);
         ausgang->setFixedWidth(kastenbreite);
