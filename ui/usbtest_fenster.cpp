@@ -13,7 +13,7 @@ namespace {
 
 constexpr int pinhoehe = 26;  // all four ports have to fit on a small screen
 constexpr int kastenbreite = 22;
-constexpr int rechts_breite = 256;
+constexpr int rechts_breite = 272;
 
 }  // namespace
 
