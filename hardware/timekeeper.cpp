@@ -77,7 +77,7 @@ bool timekeeper::oeffnen() {
 }
 
 bool timekeeper::kanal_oeffnen() {
-    if (!leitung_.oeffnen()) {
+    if (!leitung_.tk_oeffnen()) {
         return false;
     }
     empfang_.leeren();
@@ -119,10 +119,10 @@ void timekeeper::rennfenster_offen() {
 
 void timekeeper::tk_timer1_tick() {
     tk_timer1_->aus();
-    leitung_.senden("activate");
-    leitung_.senden("timest_start");
+    leitung_.tk_senden("activate");
+    leitung_.tk_senden("timest_start");
     for (const std::string_view befehl : tk_modusbefehle(profil_.modus)) {
-        leitung_.senden(befehl);
+        leitung_.tk_senden(befehl);
     }
     um_.ausgaben.wiederholen();  // what was switched before has not reached it
     abgleiche_ = 0;
@@ -131,7 +131,7 @@ void timekeeper::tk_timer1_tick() {
 }
 
 void timekeeper::tk_sync_tick() {
-    leitung_.senden("get_timest");
+    leitung_.tk_senden("get_timest");
     if (++abgleiche_ == erste_abgleiche) {
         tk_sync_->intervall(abgleich_takt);
     }
@@ -139,7 +139,7 @@ void timekeeper::tk_sync_tick() {
 
 std::optional<zeit_ms> timekeeper::uhr_lesen() {
     if (geraeteuhr_.bekannt()) {
-        leitung_.senden("get_timest");
+        leitung_.tk_senden("get_timest");
     }
     return std::nullopt;
 }
@@ -147,7 +147,7 @@ std::optional<zeit_ms> timekeeper::uhr_lesen() {
 void timekeeper::tk_timer_tick() {
     const bool rennen_fragt = im_rennen_ && um_.rennen.rennen_laeuft();
     if (!rennen_fragt && uhr_.jetzt() - letzte_abfrage_ > abfragepause_ms) {
-        while (satz_verarbeiten()) {
+        while (tk_wert_zerlegen()) {
         }
     }
     if (leitung_.gestoert()) {
@@ -161,11 +161,11 @@ void timekeeper::tk_timer_tick() {
 /// One event a tick, so that a race sees each of them.
 void timekeeper::abfragen() {
     letzte_abfrage_ = uhr_.jetzt();
-    satz_verarbeiten();
+    tk_wert_zerlegen();
 }
 
 /// Takes what waits up to the first event. False if there was none.
-bool timekeeper::satz_verarbeiten() {
+bool timekeeper::tk_wert_zerlegen() {
     while (true) {
         if (const auto inhalt = empfang_.naechster()) {
             const tk::satz satz = tk::satz_lesen(*inhalt, profil_.digital());
@@ -173,7 +173,7 @@ bool timekeeper::satz_verarbeiten() {
                 um_.rennen.ereignisse_gemeldet();
                 return true;
             }
-        } else if (const auto stueck = leitung_.lesen()) {
+        } else if (const auto stueck = leitung_.tk_lesen()) {
             angekommen_ = stueck->stempel;
             empfang_.anhaengen(stueck->text());
         } else {
@@ -191,7 +191,7 @@ bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
     gehoert_ = angekommen_;
     const tk_uhr::befund befund = geraeteuhr_.aufnehmen(angekommen_, satz.zeit);
     if (befund == tk_uhr::befund::fraglich) {
-        leitung_.senden("get_timest");
+        leitung_.tk_senden("get_timest");
         return false;
     }
     um_.zeit.zaehler_zuruecksetzen();
@@ -253,7 +253,7 @@ zeit_ms timekeeper::stempel_von(zeit_ms geraetezeit) {
     }
     if (geraeteuhr_.bekannt()) {  // damaged, or its clock has begun anew: the answer tells
         ++verworfen_;
-        leitung_.senden("get_timest");
+        leitung_.tk_senden("get_timest");
     }
     return jetzt_bei_ankunft();
 }

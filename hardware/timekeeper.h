@@ -65,14 +65,14 @@ public:
     void rennstart() override { im_rennen_ = true; }
     void rennen_fortgesetzt() override { im_rennen_ = true; }
     void rennende() override { im_rennen_ = false; }
-    void schalten(const schaltung& befehl) override { leitung_.senden(tk_schaltbefehl(befehl)); }
+    void schalten(const schaltung& befehl) override { leitung_.tk_senden(tk_schaltbefehl(befehl)); }
 
 private:
     bool kanal_oeffnen();
     void tk_timer1_tick();
     void tk_timer_tick();
     void tk_sync_tick();
-    bool satz_verarbeiten();
+    bool tk_wert_zerlegen();
     bool verarbeiten(const tk::antwort& /*egal*/) { return false; }
     bool verarbeiten(const tk::gestoert& /*satz*/);
     bool verarbeiten(const tk::uhrzeit& satz);

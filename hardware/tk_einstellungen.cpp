@@ -167,7 +167,7 @@ void tk_einstellungen::verbinden() {
     empfang_.leeren();
     letzte_ = {};
     fehler_gemeldet_ = false;
-    if (leitung_.oeffnen()) {
+    if (leitung_.tk_oeffnen()) {
         senden("activate");
         modus_senden();
     }
@@ -177,7 +177,7 @@ void tk_einstellungen::senden(const std::string& text) {
     if (text.empty()) {
         return;
     }
-    if (!leitung_.senden(nach_1252(text))) {
+    if (!leitung_.tk_senden(nach_1252(text))) {
         melden("Write Failed");
         return;
     }
@@ -238,7 +238,7 @@ tk_profil tk_einstellungen::profil_lesen() const {
 }
 
 void tk_einstellungen::Timer1_tick() {
-    while (const auto stueck = leitung_.lesen()) {
+    while (const auto stueck = leitung_.tk_lesen()) {
         fehler_gemeldet_ = false;
         const std::string text = lesbar(stueck->text());
         melden("Data received: " + text);

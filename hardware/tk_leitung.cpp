@@ -20,7 +20,7 @@ void tk_leitung::sagen(const std::string& zeile) const {
     }
 }
 
-bool tk_leitung::oeffnen() {
+bool tk_leitung::tk_oeffnen() {
     schliessen();
     if (const std::string fehlt = ft_.laden(bibliotheken_); !fehlt.empty()) {
         sagen(fehlt.starts_with("FT_") ? "ftd2xx lacks " + fehlt : fehlt + " not found");
@@ -103,7 +103,7 @@ bool tk_leitung::gestoert() const {
     return offen() && (schreiben_misslang_ || fehler_in_folge_ >= weg_nach);
 }
 
-bool tk_leitung::senden(std::string_view text) {
+bool tk_leitung::tk_senden(std::string_view text) {
     if (!offen()) {
         return false;
     }

@@ -37,15 +37,15 @@ public:
 
     std::function<void(const std::string&)> melden;  ///< a line about what was done, or failed
 
-    bool oeffnen();
+    bool tk_oeffnen();
     void schliessen();
     bool offen() const { return griff_ != nullptr; }
     /// The box is gone: the calls fail.
     bool gestoert() const;
     /// Puts the text into its frame and writes it. False if there is no box, or it does not take it.
-    bool senden(std::string_view text);
+    bool tk_senden(std::string_view text);
     /// The next piece; none if nothing waits.
-    std::optional<tk_stueck> lesen() { return stuecke_.nehmen(); }
+    std::optional<tk_stueck> tk_lesen() { return stuecke_.nehmen(); }
 
     /// Status of the last reading that failed, once; 0 none.
     ftd2xx::status lesefehler_abholen() { return lesefehler_.exchange(ftd2xx::gut); }
