@@ -179,6 +179,9 @@ TEST_F(Geraeterennen, At2560) {
 
 /// A library that stands in for a vendor's, beside the program, which loads it itself.
 struct Bibliotheksrennen : Geraeterennen {
+    static constexpr int aufenthalt_ms = 300;
+    /// A machine that is busy itself may hold a sample up, but not as long as the loop stands still.
+    static constexpr zeit_ms nicht_die_schleife = aufenthalt_ms / 2;
     /// `hoechstens` ms may a lap be off.
     void fahren_mit(const std::filesystem::path& datei, bool messhardware::*geraet, zeit_ms hoechstens) {
         const std::filesystem::path hier = maschine.ordner() / datei.filename();
@@ -194,7 +197,7 @@ struct Bibliotheksrennen : Geraeterennen {
         maschine.meldungen_gezeigt.clear();
         p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
         QTimer aufenthalt;  // a dialog, a drawing: the loop stands still
-        QObject::connect(&aufenthalt, &QTimer::timeout, [] { QThread::msleep(300); });
+        QObject::connect(&aufenthalt, &QTimer::timeout, [] { QThread::msleep(aufenthalt_ms); });
         aufenthalt.start(1900);
         fahren();
         int alle = 0;
@@ -209,7 +212,7 @@ struct Bibliotheksrennen : Geraeterennen {
                 abweichung = std::max(abweichung, std::abs(gemessen - wahr.at(static_cast<std::size_t>(runde) - 1)));
             }
         }
-        EXPECT_LE(abweichung, hoechstens) << "a sample comes late on a busy machine, but not a lap";
+        EXPECT_LE(abweichung, hoechstens) << "a lap waits for the loop";
         std::printf("%d Runden in %d s, jede auf %d ms\n", alle, dauer_s(), static_cast<int>(abweichung));
     }
 };
@@ -219,16 +222,16 @@ TEST_F(Bibliotheksrennen, Timekeeper) {
 }
 
 TEST_F(Bibliotheksrennen, Iow40) {
-    fahren_mit(TARVEL_IOWKIT, &messhardware::hw_iow, 10);
+    fahren_mit(TARVEL_IOWKIT, &messhardware::hw_iow, nicht_die_schleife);
 }
 
 TEST_F(Bibliotheksrennen, Druckeranschluss) {
-    fahren_mit(TARVEL_INPOUT32, &messhardware::hw_lpt, 10);
+    fahren_mit(TARVEL_INPOUT32, &messhardware::hw_lpt, nicht_die_schleife);
 }
 
 /// It stamps nothing: what holds up the loop holds up its laps.
 TEST_F(Geraeterennen, Modul4x4) {
-    constexpr zeit_ms schleife_belegt = 150;
+    constexpr zeit_ms schleife_belegt = 1000;
     simulator::m4x4_einstellung einst;
     einst.rennen = schnelle_wagen();
     simulator::m4x4 geraet(einst);
