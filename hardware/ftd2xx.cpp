@@ -4,7 +4,8 @@
 #include <array>
 #include <cstring>
 #include <string_view>
-#include <type_traits>
+
+#include "hardware/rufbinder.h"
 
 namespace tarvel {
 namespace {
@@ -25,11 +26,7 @@ std::string ftd2xx::laden(plattform::bibliothek_dienst& bibliotheken) {
     if (!neu) {
         return std::string(name);
     }
-    std::string fehlt;
-    const auto finden = [&](auto& ruf, const char* rufname) {
-        ruf = neu->finden_als<std::remove_pointer_t<std::remove_reference_t<decltype(ruf)>>>(rufname);
-        fehlt = ruf == nullptr && fehlt.empty() ? rufname : fehlt;
-    };
+    rufbinder finden(*neu);
     finden(liste_, "FT_ListDevices");
     finden(open_, "FT_Open");
     finden(close_, "FT_Close");
@@ -41,10 +38,10 @@ std::string ftd2xx::laden(plattform::bibliothek_dienst& bibliotheken) {
     finden(fristen_, "FT_SetTimeouts");
     finden(zeichen_, "FT_SetChars");
     finden(wartende_, "FT_GetQueueStatus");
-    if (fehlt.empty()) {
+    if (finden.fehlt().empty()) {
         bibliothek_ = std::move(neu);
     }
-    return fehlt;
+    return finden.fehlt();
 }
 
 ftd2xx::status ftd2xx::anzahl(wort& geraete) const {

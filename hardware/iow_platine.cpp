@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "hardware/rufbinder.h"
+
 namespace tarvel {
 namespace {
 
@@ -21,13 +23,7 @@ bool iow_platine::bibliothek_laden() {
         es_fehlt_ = bibliotheksname;
         return false;
     }
-    es_fehlt_.clear();
-    const auto finden = [&](auto& ruf, const char* name) {
-        ruf = neue->template finden_als<std::remove_pointer_t<std::remove_reference_t<decltype(ruf)>>>(name);
-        if (ruf == nullptr && es_fehlt_.empty()) {
-            es_fehlt_ = name;
-        }
-    };
+    rufbinder finden(*neue);
     finden(ruf_.IowKitOpenDevice, "IowKitOpenDevice");
     finden(ruf_.IowKitCloseDevice, "IowKitCloseDevice");
     finden(ruf_.IowKitGetNumDevs, "IowKitGetNumDevs");
@@ -36,6 +32,7 @@ bool iow_platine::bibliothek_laden() {
     finden(ruf_.IowKitGetSerialNumber, "IowKitGetSerialNumber");
     finden(ruf_.IowKitReadNonBlocking, "IowKitReadNonBlocking");
     finden(ruf_.IowKitWrite, "IowKitWrite");
+    es_fehlt_ = finden.fehlt();
     if (!es_fehlt_.empty()) {
         return false;
     }

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "hardware/rufbinder.h"
+
 namespace tarvel {
 namespace {
 
@@ -22,18 +24,14 @@ bool rc_bibliothek::laden() {
     if (neu == nullptr) {
         return false;
     }
-    const auto binden = [&]<class Funktion>(Funktion*& ziel, const char* name) {
-        ziel = neu->finden_als<Funktion>(name);
-        if (ziel == nullptr && fehlt_.empty()) {
-            fehlt_ = name;
-        }
-    };
+    rufbinder binden(*neu);
     binden(rufe_.InitBoxes, "InitBoxes");
     binden(rufe_.OpenBox, "OpenBox");
     binden(rufe_.RX_data, "RX_data");
     binden(rufe_.Get_Event, "Get_Event");
     binden(rufe_.Get_TXDat, "Get_TXDat");
     binden(rufe_.Get_TStamp, "Get_TStamp");
+    fehlt_ = binden.fehlt();
     if (!fehlt_.empty()) {
         return false;
     }
