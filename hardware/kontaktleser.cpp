@@ -75,6 +75,7 @@ bool kontaktleser::zu_frueh(const probe& p) const {
 }
 
 void kontaktleser::auswerten() {
+    bool neues = false;
     while (wartet_ || (wartet_ = proben_.nehmen())) {
         if (!gewartet_ && zu_frueh(*wartet_)) {
             gewartet_ = true;
@@ -82,9 +83,11 @@ void kontaktleser::auswerten() {
         }
         gewartet_ = false;
         uebernehmen(*std::exchange(wartet_, std::nullopt));
+        neues = true;
     }
-    tankkontakte_halten();
-    um_.rennen.ereignisse_gemeldet();
+    if (tankkontakte_halten() || neues) {
+        um_.rennen.ereignisse_gemeldet();
+    }
     tankkontakte_freigeben();
 }
 
@@ -145,14 +148,17 @@ void kontaktleser::chaostaster_losgelassen() {
     }
 }
 
-void kontaktleser::tankkontakte_halten() {
+bool kontaktleser::tankkontakte_halten() {
+    bool gehalten = false;
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         const ereignis_art nummer = arten_.at(linie);
         if (ist_tankkontakt(nummer) && von_ruhe_weg(linie, stand_) && !um_.ereignisse[nummer].aktiv &&
             !zaehlt_runden(nummer, um_.einst.tank_runden_modus)) {
             um_.ereignisse.ereignis_melden(nummer);
+            gehalten = true;
         }
     }
+    return gehalten;
 }
 
 void kontaktleser::tankkontakte_freigeben() {

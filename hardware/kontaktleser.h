@@ -63,7 +63,8 @@ private:
     void zurueckgekommen(ereignis_art nummer);
     void chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel);
     void chaostaster_losgelassen();
-    void tankkontakte_halten();
+    /// True if one of them is held.
+    bool tankkontakte_halten();
     void tankkontakte_freigeben();
 
     umgebung um_;
