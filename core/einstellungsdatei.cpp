@@ -28,28 +28,32 @@ bool einstellungsdatei::version_pruefen(std::string_view kopf, version_melden me
 }
 
 void einstellungsdatei::einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei, version_melden melden) {
+    einlesen(um_.ablage.zeilen_lesen(datei, zeilen_max).value_or(std::vector<std::string>{}), wettkampfdatei ? 1 : 0,
+             melden);
+}
+
+void einstellungsdatei::einlesen(const std::vector<std::string>& inhalt, std::size_t erste, version_melden melden) {
     zeilen_.assign(platz(z::letzte_gelesene) + 1, "");
     rest_.clear();
     fehler_laden_ = true;
-    const auto inhalt = um_.ablage.zeilen_lesen(datei, zeilen_max);
-    std::size_t i = wettkampfdatei ? 1 : 0;
-    if (!inhalt || inhalt->size() <= i + 1 || !version_pruefen((*inhalt)[i], melden)) {
+    std::size_t i = erste;
+    if (inhalt.size() <= i + 1 || !version_pruefen(inhalt[i], melden)) {
         return;
     }
-    zeilen_[0] = (*inhalt)[i];
+    zeilen_[0] = inhalt[i];
     i += 2;  // the line behind the header is blank
     bool vollstaendig = false;
     for (int z = 1; z <= z::letzte_gelesene && !vollstaendig; ++z) {
-        if (i == inhalt->size()) {
+        if (i == inhalt.size()) {
             return;  // ends in the middle
         }
         std::string& neue = zeilen_[platz(z)];
-        neue = gekuerzt((*inhalt)[i++]);
+        neue = gekuerzt(inhalt[i++]);
         vollstaendig = neue == einstellungs_ende;
         neue = vollstaendig ? std::string() : neue;  // the mark is no value of the line it stands in
     }
     fehler_laden_ = false;
-    rest_.assign(inhalt->begin() + static_cast<std::ptrdiff_t>(i), inhalt->end());
+    rest_.assign(inhalt.begin() + static_cast<std::ptrdiff_t>(i), inhalt.end());
     wahrheitswoerter_uebersetzen();
 }
 

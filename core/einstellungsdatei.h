@@ -36,6 +36,9 @@ public:
     /// stands there is left in `rest`.
     void einstellungsdatei_einlesen(std::string_view datei, bool wettkampfdatei = false,
                                     version_melden melden = version_melden::ja);
+    /// The same of lines that stand elsewhere, as `schreiben` gives them.
+    void einlesen(const std::vector<std::string>& inhalt, std::size_t erste = 0,
+                  version_melden melden = version_melden::nein);
     /// Second stage: refuses the file or mends single lines.
     void einstellungsdatei_pruefen();
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`.

@@ -8,7 +8,7 @@
 namespace tarvel {
 namespace {
 
-constexpr int chaos_nachhall = 20;  // ticks of the chaos switch's timer that each message of the unit is good for
+constexpr int nachhall = 20;  // ticks of the chaos switch's timer that each message of the unit is good for
 
 /// Number of the word for this output; `alle` is the switching of all of them at once.
 std::size_t zeile_fuer(int nummer, bool an) {
@@ -157,7 +157,7 @@ void at2560::rennen_bereit() {
     im_rennen_ = false;
     empfang_.leeren();
     uhr_vergessen();
-    um_.ereignisse.chaos_at_zaehler = 0;
+    um_.ereignisse.chaos_nachhall(0);
 }
 
 void at2560::rennstart() {
@@ -214,7 +214,7 @@ void at2560::µC_wert_zerlegen() {
 void at2560::ereignis_melden(const at_meldung& meldung) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
     if (ereignisse[art::chaostaster].aktiv && um_.rennen.pause()) {
-        ereignisse.chaos_at_zaehler = chaos_nachhall;
+        ereignisse.chaos_nachhall(nachhall);
     }
     if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {
         return;
@@ -252,16 +252,15 @@ void at2560::zeile_melden(int zeile, zeit_ms stempel) {
     if (std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer) != art::rundenzaehlung.end()) {
         ereignisse.ueberfahrt_melden(nummer, stempel);
     } else {
-        ereignisse[nummer].aktiv = true;
-        ereignisse[nummer].ereignis_zeit = stempel;
+        ereignisse.ereignis_setzen(nummer, stempel);
     }
     const bool persoenlich = nummer >= erster_chaostaster && name != profil_.at_ereignis.at(vor_dem_chaos);
     if (persoenlich) {
-        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
-        ereignisse[art::chaostaster].aktiv = true;
+        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
+        ereignisse.ereignis_setzen(art::chaostaster, ereignisse[art::chaostaster].ereignis_zeit);
     }
     if (persoenlich || nummer == art::chaostaster) {
-        ereignisse.chaos_at_zaehler = chaos_nachhall;
+        ereignisse.chaos_nachhall(nachhall);
     }
 }
 

@@ -4,20 +4,99 @@
 #include <iterator>
 
 namespace tarvel {
-void ereignis_tabelle::ereignis_melden(ereignis_art nummer) {
-    ereignis_zeile& zeile = (*this)[nummer];
-    zeile.ereignis_zeit = messzeit;
-    zeile.verschoben = 0;
-    zeile.aktiv = true;
+namespace {
+
+struct eingangsart {
+    const char* name;
+    std::size_t werte;
+};
+
+/// Index is the entry.
+constexpr std::array<eingangsart, 9> eingangsarten{{{"ereignis", 2},
+                                                    {"jetzt", 2},
+                                                    {"ueberfahrt", 2},
+                                                    {"weg", 1},
+                                                    {"ruhe", 2},
+                                                    {"knopf", 1},
+                                                    {"taster", 1},
+                                                    {"nachhall", 1},
+                                                    {"zeile", 6}}};
+
+}  // namespace
+
+void ereignis_tabelle::mitschreiben(mitschrift& protokoll) {
+    static_assert(eingangsarten.size() == eingaenge);
+    protokoll_ = &protokoll;
+    for (std::size_t i = 0; i < eingaenge; ++i) {
+        const eingangsart& art = eingangsarten.at(i);
+        eingang_.at(i) = protokoll.eingang(
+            art.name, art.werte, [this, i](const mitschrift::werte& w) { ausfuehren(static_cast<eingang>(i), w); });
+    }
 }
 
-void ereignis_tabelle::ereignis_melden(ereignis_art nummer, zeit_ms stempel) {
-    if (stempel >= gilt_ab) {
-        ereignis_zeile& zeile = (*this)[nummer];
-        zeile.ereignis_zeit = stempel;
-        zeile.verschoben = 0;
-        zeile.aktiv = true;
+void ereignis_tabelle::tun(eingang was, std::int64_t erstes, std::int64_t zweites) {
+    if (protokoll_ != nullptr) {
+        protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(was)), {erstes, zweites});
+    } else {
+        ausfuehren(was, {erstes, zweites});
     }
+}
+
+void ereignis_tabelle::stand_mitschreiben() {
+    for (int nummer = 0; nummer < zeilen_anzahl; ++nummer) {
+        const ereignis_zeile& z = (*this)[nummer];
+        if (z.aktiv || z.pegel || z.pegel_ruhe || z.ereignis_zeit != 0) {
+            protokoll_->geschieht(
+                eingang_.at(static_cast<std::size_t>(eingang::zeile)),
+                {nummer, z.aktiv ? 1 : 0, z.pegel ? 1 : 0, z.pegel_ruhe ? 1 : 0, z.ereignis_zeit, z.verschoben});
+        }
+    }
+    tun(eingang::nachhall, chaos_at_zaehler);
+    tun(eingang::taster, chaos_taster_gedrueckt ? 1 : 0);
+}
+
+void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
+    const std::int64_t erstes = w[0];
+    const std::int64_t zweites = w[1];
+    const auto nummer = static_cast<ereignis_art>(std::clamp<std::int64_t>(erstes, 0, zeilen_anzahl - 1));
+    switch (was) {
+        case eingang::melden:
+            if (zweites >= gilt_ab) {
+                setzen(nummer, zweites);
+            }
+            break;
+        case eingang::setzen:
+            setzen(nummer, zweites);
+            break;
+        case eingang::ueberfahrt:
+            ueberfahrt_aufnehmen(nummer, zweites);
+            break;
+        case eingang::weg:
+            (*this)[nummer].aktiv = false;
+            break;
+        case eingang::ruhe:
+            (*this)[nummer].pegel = (*this)[nummer].pegel_ruhe = zweites != 0;
+            break;
+        case eingang::knopf:
+            chaos_fahrer[std::clamp(nummer, 1, spuren_max)] = true;
+            break;
+        case eingang::taster:
+            chaos_taster_gedrueckt = erstes != 0;
+            break;
+        case eingang::nachhall:
+            chaos_at_zaehler = static_cast<int>(erstes);
+            break;
+        case eingang::zeile:
+            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, w[4], w[5]};
+            break;
+    }
+}
+
+void ereignis_tabelle::setzen(ereignis_art nummer, zeit_ms stempel) {
+    ereignis_zeile& zeile = (*this)[nummer];
+    zeile.ereignis_zeit = stempel;
+    zeile.verschoben = 0;
+    zeile.aktiv = true;
 }
 
 std::optional<zeit_ms> ereignis_tabelle::verschiebung(zeit_ms stempel) const {
@@ -33,7 +112,7 @@ std::optional<zeit_ms> ereignis_tabelle::verschiebung(zeit_ms stempel) const {
     return summe;
 }
 
-void ereignis_tabelle::ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) {
+void ereignis_tabelle::ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel) {
     const std::optional<zeit_ms> um = verschiebung(stempel);
     if (!um) {
         return;

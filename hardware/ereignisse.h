@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 
+#include "core/mitschrift.h"
 #include "core/spuren.h"
 #include "platform/uhr.h"
 
@@ -67,14 +68,33 @@ public:
     ereignis_zeile& operator[](ereignis_art nummer) { return zeilen_.at(static_cast<std::size_t>(nummer)); }
     const ereignis_zeile& operator[](ereignis_art nummer) const { return zeilen_.at(static_cast<std::size_t>(nummer)); }
 
+    /// What sources deliver goes through this from now on.
+    void mitschreiben(mitschrift& protokoll);
+
+    /// Tells the log of a race what waits already.
+    void stand_mitschreiben();
+
     /// Plain delivery: stamps the row with `messzeit`.
-    void ereignis_melden(ereignis_art nummer);
+    void ereignis_melden(ereignis_art nummer) { tun(eingang::setzen, nummer, messzeit); }
     /// Delivery of something that happened at `stempel`. Before `gilt_ab` it is forgotten like all that waited then.
-    void ereignis_melden(ereignis_art nummer, zeit_ms stempel);
+    void ereignis_melden(ereignis_art nummer, zeit_ms stempel) { tun(eingang::melden, nummer, stempel); }
     /// Delivery of a passage by a device that may tell it late. It comes as much later as the pauses behind it were
     /// long, so that they come off its lap as off any other; one from within a pause is forgotten. While the race
     /// stands still, those from before wait until it goes on.
-    void ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel);
+    void ueberfahrt_melden(ereignis_art nummer, zeit_ms stempel) { tun(eingang::ueberfahrt, nummer, stempel); }
+    /// Delivery at `stempel` that counts whatever it is from.
+    void ereignis_setzen(ereignis_art nummer, zeit_ms stempel) { tun(eingang::setzen, nummer, stempel); }
+    /// The source takes back what waits.
+    void ereignis_weg(ereignis_art nummer) { tun(eingang::weg, nummer); }
+    /// A line's level at rest; it is at rest now.
+    void ruhe_lernen(ereignis_art nummer, bool pegel) { tun(eingang::ruhe, nummer, pegel ? 1 : 0); }
+    /// The personal chaos button of a lane was pressed.
+    void chaos_knopf(int spur) { tun(eingang::knopf, spur); }
+    /// A device's chaos button is held, or is no longer.
+    void chaos_taster(bool gedrueckt) { tun(eingang::taster, gedrueckt ? 1 : 0); }
+    /// A unit that repeats its chaos switch has told it again, or is silent from now on.
+    void chaos_nachhall(int zaehler) { tun(eingang::nachhall, zaehler); }
+
     /// The oldest passage of a lane that waits stands in its row. False if none does.
     bool vorlassen(int spur);
     /// The race stands still from this moment on.
@@ -117,6 +137,13 @@ private:
         zeit_ms von = 0;
         zeit_ms bis = 0;
     };
+    enum class eingang { melden, setzen, ueberfahrt, weg, ruhe, knopf, taster, nachhall, zeile };
+    static constexpr std::size_t eingaenge = 9;
+
+    void tun(eingang was, std::int64_t erstes, std::int64_t zweites = 0);
+    void ausfuehren(eingang was, const mitschrift::werte& w);
+    void setzen(ereignis_art nummer, zeit_ms stempel);
+    void ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel);
     /// By how much a passage comes later; nothing for one from within a pause.
     std::optional<zeit_ms> verschiebung(zeit_ms stempel) const;
 
@@ -125,6 +152,8 @@ private:
     std::size_t pausen_anzahl_ = 0;
     spuren<schlange> schlangen_;
     std::optional<zeit_ms> steht_seit_;
+    mitschrift* protokoll_ = nullptr;
+    std::array<int, eingaenge> eingang_{};  ///< numbers of the doings
 };
 
 }  // namespace tarvel

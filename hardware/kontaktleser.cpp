@@ -46,13 +46,12 @@ void kontaktleser::ruhe_merken() {
     stand_ = linien_;
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         if (art::ist_eingang(arten_.at(linie))) {
-            ereignis_zeile& zeile = um_.ereignisse[arten_.at(linie)];
-            zeile.pegel = zeile.pegel_ruhe = (stand_ >> linie & 1U) != 0;
+            um_.ereignisse.ruhe_lernen(arten_.at(linie), (stand_ >> linie & 1U) != 0);
         }
     }
     chaos_von_hier_ = false;
     tank_frei_.fuellen(false);
-    um_.ereignisse.chaos_taster_gedrueckt = false;
+    um_.ereignisse.chaos_taster(false);
 }
 
 bool kontaktleser::von_ruhe_weg(std::size_t linie, std::uint32_t linien) const {
@@ -129,11 +128,11 @@ void kontaktleser::zurueckgekommen(ereignis_art nummer) {
 void kontaktleser::chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
     if (nummer >= erster_chaostaster) {
-        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
+        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
     }
     chaos_von_hier_ = chaos_von_hier_ || !ereignisse[art::chaostaster].aktiv;
     ereignisse.ereignis_melden(art::chaostaster, stempel);
-    ereignisse.chaos_taster_gedrueckt = um_.einst.chaos_schalter || eigenheit_.taster_sperrt_taste;
+    ereignisse.chaos_taster(um_.einst.chaos_schalter || eigenheit_.taster_sperrt_taste);
 }
 
 void kontaktleser::chaostaster_losgelassen() {
@@ -142,9 +141,9 @@ void kontaktleser::chaostaster_losgelassen() {
             return;  // another one is held
         }
     }
-    um_.ereignisse.chaos_taster_gedrueckt = false;
+    um_.ereignisse.chaos_taster(false);
     if (std::exchange(chaos_von_hier_, false) && um_.einst.chaos_schalter) {
-        um_.ereignisse[art::chaostaster].aktiv = false;
+        um_.ereignisse.ereignis_weg(art::chaostaster);
     }
 }
 
@@ -175,7 +174,7 @@ void kontaktleser::tankkontakte_freigeben() {
 }
 
 void kontaktleser::verstummt() {
-    um_.ereignisse.chaos_taster_gedrueckt = false;
+    um_.ereignisse.chaos_taster(false);
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         if (von_ruhe_weg(linie, stand_) && ist_tankkontakt(arten_.at(linie))) {
             zurueckgekommen(arten_.at(linie));

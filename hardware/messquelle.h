@@ -1,9 +1,11 @@
 #pragma once
 
-#include <algorithm>
+#include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
+#include "core/mitschrift.h"
 #include "platform/schnittstelle.h"
 #include "platform/uhr.h"
 
@@ -78,7 +80,7 @@ public:
     virtual void platz(int /*spur*/, int /*platz*/) {}
 };
 
-/// The devices in force. Each must outlive its connection.
+/// The devices in force, as the race has to do with them. Each must outlive its connection.
 class messquellen {
 public:
     void anschliessen(messquelle& quelle) {
@@ -86,45 +88,58 @@ public:
         alle_.push_back(&quelle);
     }
     void trennen(const messquelle& quelle) { std::erase(alle_, &quelle); }
+    /// What the devices answer, and do while they are told something, goes through this from now on.
+    void mitschreiben(mitschrift& protokoll) { protokoll_ = &protokoll; }
 
     /// `melden(handler, values…)`: tells all of them.
     template <class... Werte>
     void melden(void (messquelle::*was)(Werte...), Werte... werte) const {
-        for (messquelle* quelle : alle_) {
-            (quelle->*was)(werte...);
-        }
+        aussen([&] {
+            for (messquelle* quelle : alle_) {
+                (quelle->*was)(werte...);
+            }
+        });
     }
 
     /// What any of them can do.
-    faehigkeiten kann() const {
-        faehigkeiten alles;
-        for (const messquelle* quelle : alle_) {
-            alles = alles | quelle->kann();
-        }
-        return alles;
-    }
-
+    faehigkeiten kann() const;
     /// The first clock among them.
-    std::optional<zeit_ms> uhr_lesen() const {
-        for (messquelle* quelle : alle_) {
-            if (const std::optional<zeit_ms> zeit = quelle->uhr_lesen()) {
-                return zeit;
-            }
-        }
-        return std::nullopt;
-    }
-
-    geraeteampel* ampel() const {
-        for (messquelle* quelle : alle_) {
-            if (geraeteampel* licht = quelle->ampel(); licht != nullptr) {
-                return licht;
-            }
-        }
-        return nullptr;
-    }
+    std::optional<zeit_ms> uhr_lesen() const;
+    /// The first start light among them.
+    geraeteampel* ampel() const;
 
 private:
+    /// The light of a device as the race sees it.
+    struct ampelbild final : geraeteampel {
+        explicit ampelbild(const messquellen& alle) : quellen(alle) {}
+        bool rot() const override;
+        void startkommando() override;
+        void abbrechen() override;
+        void neustart() override;
+        const messquellen& quellen;
+        geraeteampel* echte = nullptr;
+        mutable std::int64_t rot_zuletzt = mitschrift::unbekannt;
+    };
+
+    template <class Rest>
+    void aussen(Rest was) const {
+        if (protokoll_ != nullptr) {
+            protokoll_->tor(was);
+        } else {
+            was();
+        }
+    }
+    template <class Frage>
+    std::int64_t erfragen(std::string_view name, std::int64_t& zuletzt, Frage frage) const {
+        return protokoll_ != nullptr ? protokoll_->zustand(name, zuletzt, frage) : frage();
+    }
+
     std::vector<messquelle*> alle_;
+    mitschrift* protokoll_ = nullptr;
+    mutable ampelbild ampel_{*this};
+    mutable std::int64_t kann_zuletzt_ = mitschrift::unbekannt;
+    mutable std::int64_t ampel_zuletzt_ = mitschrift::unbekannt;
+    mutable std::int64_t uhr_zuletzt_ = mitschrift::unbekannt;
 };
 
 }  // namespace tarvel

@@ -30,7 +30,7 @@ void tastatur::taste_auswerten(int taste, std::optional<zeit_ms> stempel) {
     for (const int spur : alle_spuren) {
         if (ist(taste, zeile_chaostaster + spur)) {
             // a personal button acts as the common chaos key from here on, and as nothing else
-            ereignisse_.chaos_fahrer[spur] = true;
+            ereignisse_.chaos_knopf(spur);
             taste = belegung_.taste(tastenbelegung::zeile_chaos);
             chaos = true;
             nacht = false;

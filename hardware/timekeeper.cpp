@@ -219,7 +219,7 @@ bool timekeeper::verarbeiten(const tk::sensor& satz) {
     }
     const zeit_ms stempel = stempel_von(satz.zeit);
     if (art >= erster_chaostaster && art <= letzter_chaostaster) {
-        um_.ereignisse.chaos_fahrer[art - erster_chaostaster + 1] = true;
+        um_.ereignisse.chaos_knopf(art - erster_chaostaster + 1);
         melden(art::chaostaster, stempel);
     } else {
         melden(art, stempel);

@@ -286,7 +286,7 @@ void tx_modul::melden(ereignis_art nummer) {
     if (runde || zwischen(nummer, erste_zwischenzeit, letzte_zwischenzeit)) {
         ereignisse.ueberfahrt_melden(nummer, jetzt);
     } else if (nummer >= erster_chaostaster) {
-        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
+        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
         ereignisse.ereignis_melden(art::chaostaster, jetzt);
     } else {
         ereignisse.ereignis_melden(nummer, jetzt);

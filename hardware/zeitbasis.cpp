@@ -1,7 +1,9 @@
 #include "hardware/zeitbasis.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <utility>
 
 namespace tarvel {
 
@@ -20,23 +22,65 @@ zeit_ms zeitbasis::ereignis_zeit_lesen() {
     return stempel;
 }
 
-void zeitbasis::stellen(zeit_ms geraetezeit, double gang) {
+void zeitbasis::mitschreiben(mitschrift& protokoll) {
+    protokoll_ = &protokoll;
+    constexpr std::array<std::pair<const char*, std::size_t>, eingaenge> namen{
+        {{"uhr", 2}, {"uhrgang", 2}, {"uhrzaehler", 0}, {"uhrfrei", 0}, {"uhrstand", 5}}};
+    for (std::size_t i = 0; i < eingaenge; ++i) {
+        eingang_.at(i) =
+            protokoll.eingang(namen.at(i).first, namen.at(i).second,
+                              [this, i](const mitschrift::werte& w) { ausfuehren(static_cast<eingang>(i), w); });
+    }
+}
+
+void zeitbasis::tun(eingang was, zeit_ms geraetezeit, double gang) {
+    const mitschrift::werte w{geraetezeit, std::bit_cast<std::int64_t>(gang)};
+    if (protokoll_ != nullptr) {
+        protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(was)), w);
+    } else {
+        ausfuehren(was, w);
+    }
+}
+
+void zeitbasis::stand_mitschreiben() {
+    protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(eingang::stand)),
+                          {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_});
+}
+
+void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
+    switch (was) {
+        case eingang::stellen:
+            setzen(w[0], std::bit_cast<double>(w[1]));
+            break;
+        case eingang::nachstellen: {
+            const zeit_ms gelesen = messzeit_lesen();
+            setzen(w[0], std::bit_cast<double>(w[1]));
+            mindestens_ = gelesen;
+            break;
+        }
+        case eingang::zaehler:
+            zeit_zaehler_ = 0;
+            break;
+        case eingang::freigeben:
+            bezug_ = 0;
+            stand_ = 0;
+            gang_ = 1;
+            mindestens_ = nie;
+            break;
+        case eingang::stand:
+            bezug_ = w[0];
+            stand_ = w[1];
+            gang_ = std::bit_cast<double>(w[2]);
+            mindestens_ = w[3];
+            zeit_zaehler_ = static_cast<int>(w[4]);
+            break;
+    }
+}
+
+void zeitbasis::setzen(zeit_ms geraetezeit, double gang) {
     bezug_ = uhr_.jetzt();
     stand_ = geraetezeit;
     gang_ = gang;
-    mindestens_ = nie;
-}
-
-void zeitbasis::nachstellen(zeit_ms geraetezeit, double gang) {
-    const zeit_ms gelesen = messzeit_lesen();
-    stellen(geraetezeit, gang);
-    mindestens_ = gelesen;
-}
-
-void zeitbasis::freigeben() {
-    bezug_ = 0;
-    stand_ = 0;
-    gang_ = 1;
     mindestens_ = nie;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <limits>
 
+#include "core/mitschrift.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
@@ -12,6 +15,9 @@ class zeitbasis {
 public:
     explicit zeitbasis(const plattform::uhr& uhr) : uhr_(uhr) {}
 
+    /// What devices do to the clock goes through this from now on.
+    void mitschreiben(mitschrift& protokoll);
+
     /// The stamp used everywhere in a race.
     zeit_ms messzeit_lesen() const;
 
@@ -21,17 +27,25 @@ public:
 
     /// A device's clock stands at `geraetezeit` now.
     void stellen(zeit_ms geraetezeit) { stellen(geraetezeit, gang_); }
-    void stellen(zeit_ms geraetezeit, double gang);
+    void stellen(zeit_ms geraetezeit, double gang) { tun(eingang::stellen, geraetezeit, gang); }
     /// That clock turns out to stand at `geraetezeit` now, and to run `gang` ms in each of the machine's. The reading
     /// does not go back for it: it waits.
-    void nachstellen(zeit_ms geraetezeit, double gang);
+    void nachstellen(zeit_ms geraetezeit, double gang) { tun(eingang::nachstellen, geraetezeit, gang); }
     /// A device has told its time: stamps that differ begin anew.
-    void zaehler_zuruecksetzen() { zeit_zaehler_ = 0; }
+    void zaehler_zuruecksetzen() { tun(eingang::zaehler, 0, 0); }
     /// No device any more: the machine's counter itself.
-    void freigeben();
+    void freigeben() { tun(eingang::freigeben, 0, 0); }
+    /// Tells the log of a race how the clock stands.
+    void stand_mitschreiben();
 
 private:
+    enum class eingang { stellen, nachstellen, zaehler, freigeben, stand };
+    static constexpr std::size_t eingaenge = 5;
     static constexpr zeit_ms nie = std::numeric_limits<zeit_ms>::min();
+
+    void tun(eingang was, zeit_ms geraetezeit, double gang);
+    void ausfuehren(eingang was, const mitschrift::werte& w);
+    void setzen(zeit_ms geraetezeit, double gang);
 
     const plattform::uhr& uhr_;
     zeit_ms bezug_ = 0;  ///< reading of the machine's counter at which the clock stood at `stand_`
@@ -39,6 +53,8 @@ private:
     double gang_ = 1;
     zeit_ms mindestens_ = nie;
     int zeit_zaehler_ = 0;
+    mitschrift* protokoll_ = nullptr;
+    std::array<int, eingaenge> eingang_{};  ///< numbers of the doings
 };
 
 }  // namespace tarvel

@@ -21,8 +21,8 @@ startfluegel::startfluegel(programm& p)
 rennfluegel::rennfluegel(programm& p)
     : rennen(p.dienste, {p.param, p.einst, p.txt, p.ablage, p.ereignisse, p.quellen, p.belegung, p.ausgaben, p.fenster,
                          p.bestzeiten, p.fahrerliste, p.fahrzeugliste}),
-      startampel(rennen, p.einst, p.dienste.zeitgeber),
-      k_ampel(rennen, p.dienste.zeitgeber) {
+      startampel(rennen, p.einst, rennen.maschine.dienste().zeitgeber),
+      k_ampel(rennen, rennen.maschine.dienste().zeitgeber) {
     rennen.chaos.neustart_ampel = &k_ampel;
 }
 

@@ -1,18 +1,45 @@
 #include "programm/geraete_im_rennen.h"
 
+#include <algorithm>
+#include <bit>
+
 namespace tarvel {
+namespace {
+
+int als_spur(std::int64_t wert) {
+    return static_cast<int>(std::clamp<std::int64_t>(wert, 1, spuren_max));
+}
+
+}  // namespace
+
+geraete_im_rennen::geraete_im_rennen(tarvel::rennen& r, tarvel::form1& form1, const fensterregister& fenster)
+    : r_(r), form1_(form1), fenster_(fenster) {
+    using werte = mitschrift::werte;
+    ereignisse_gemeldet_ = r_.protokoll.befehl("gemeldet", [this] { gemeldetes_ansehen(); });
+    verschieben_ = r_.protokoll.eingang("verschieben", 1, [this](const werte& w) {
+        r_.zustand.stempel_verschieben(w[0]);
+        r_.umgebung.ereignisse.stempel_verschieben(w[0]);
+    });
+    nachmessen_ = r_.protokoll.eingang(
+        "nachmessen", 1, [this](const werte& w) { r_.zustand.pausen_nachmessen(std::bit_cast<double>(w[0])); });
+    verlassen_ =
+        r_.protokoll.eingang("verlassen", 1, [this](const werte& w) { r_.tanken.kontakt_verlassen(als_spur(w[0])); });
+    fuellstand_ = r_.protokoll.eingang("fuellstand", 4, [this](const werte& w) {
+        r_.tanken.fuellstand_melden(als_spur(w[0]), static_cast<int>(w[1]), std::max(static_cast<int>(w[2]), 1),
+                                    w[3] != 0);
+    });
+}
 
 bool geraete_im_rennen::rennen_ruht() const {
     return fenster_.ist_offen(fenstername::bahn1) && !fenster_.ist_offen(fenstername::auswertung) &&
            r_.zustand.rennen_beendet && r_.bahn1.Command1.bedienbar();
 }
 
-void geraete_im_rennen::stempel_verschieben(zeit_ms um) {
-    r_.zustand.stempel_verschieben(um);
-    r_.umgebung.ereignisse.stempel_verschieben(um);
+void geraete_im_rennen::pausen_nachmessen(double faktor) {
+    r_.protokoll.geschieht(nachmessen_, {std::bit_cast<std::int64_t>(faktor)});
 }
 
-void geraete_im_rennen::ereignisse_gemeldet() {
+void geraete_im_rennen::gemeldetes_ansehen() {
     r_.tanken.sensoren_nachhalten();
     if (!r_.umgebung.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
         r_.tanken.tank_kontakte_auswerten();

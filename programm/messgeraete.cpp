@@ -131,7 +131,7 @@ void messgeraete::nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldun
 }
 
 void messgeraete::verloren() {
-    um_.rennen.chaos.geraeteschalter_vergessen();
+    um_.rennen.chaos.geraet_verloren();
     verbindung_anzeigen();
 }
 

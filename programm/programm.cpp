@@ -7,6 +7,7 @@
 #include "core/ordnerblick.h"
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
+#include "programm/rennprotokoll.h"
 #include "programm/tx_verdrahtung.h"
 
 namespace tarvel {
@@ -48,6 +49,8 @@ programm::programm(const plattform::dienste& d)
       geraete_(std::make_unique<messgeraete>(geraete_umgebung{d, einst, txt, ablage, ereignisse, quellen, ausgaben,
                                                               fenster, form1, optionen_->einstellungsfenster,
                                                               rennen_->rennen, pflege_})),
+      protokoll_(std::make_unique<tarvel::rennprotokoll>(
+          tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, d.uhr, d.kalender})),
       form3(start_->form3),
       update_form(start_->update_form),
       rennen(rennen_->rennen),
@@ -75,7 +78,9 @@ programm::programm(const plattform::dienste& d)
       w_auswertung(wettkampf_->w_auswertung),
       tagesrennen_fenster(wettkampf_->tagesrennen_fenster),
       w_auswertung2(ergebnisse_->w_auswertung2),
-      geraete(*geraete_) {
+      geraete(*geraete_),
+      rennprotokoll(*protokoll_) {
+    rennen.fenster.fuehrung = protokoll_.get();
     hauptfenster_verbinden();
     einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
 }

@@ -38,6 +38,7 @@ class intervalltraining;
 class k_ampel;
 class messgeraete;
 class rangliste;
+class rennprotokoll;
 class rundenspeichern;
 class speichernfenster;
 class startampel;
@@ -110,6 +111,7 @@ private:
     std::unique_ptr<wettkampffluegel> wettkampf_;
     einstellungspflege pflege_;
     std::unique_ptr<messgeraete> geraete_;
+    std::unique_ptr<tarvel::rennprotokoll> protokoll_;
 
 public:
     // What the wings hold. Who uses one includes its header.
@@ -141,6 +143,7 @@ public:
     tarvel::tagesrennen_fenster& tagesrennen_fenster;
     tarvel::w_auswertung2& w_auswertung2;
     messgeraete& geraete;
+    tarvel::rennprotokoll& rennprotokoll;
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;

@@ -1,6 +1,7 @@
 #include "race/chaos.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -30,7 +31,8 @@ chaos::chaos(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
     for (const int spur : alle_spuren) {
         zeitgeber.straftimer_ch[spur]->bei_tick = [this, spur] { straftimer_ch_tick(spur); };
     }
-    um_.bahn.Command3.bei_klick = [this] { befehl_klick(); };
+    um_.bahn.Command3.bei_klick = um_.protokoll.befehl("pause", [this] { befehl_klick(); });
+    geraet_verloren_ = um_.protokoll.befehl("verloren", [this] { geraeteschalter_vergessen(); });
 }
 
 void chaos::zuruecksetzen() {
@@ -103,6 +105,7 @@ void chaos::schalter_verfolgen() {
         pause.schalter_zuletzt = um_.ereignisse.messzeit;
     } else if (um_.ereignisse.messzeit - pause.schalter_zuletzt > losgelassen_nach_ms) {
         pause.schalter_stand = false;
+        um_.protokoll.vermerken(vermerk::schalter);
     }
 }
 
@@ -142,6 +145,7 @@ void chaos::pause_beginnen() {
     um_.zeitgeber.chaostimer->an();
     um_.zeitgeber.chaostimer2->an();
     zustand.pause.start = um_.moment_lesen();
+    um_.protokoll.vermerken(vermerk::pause, {zustand.pause.start});
     um_.ereignisse.anhalten(zustand.pause.start);
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
@@ -245,6 +249,7 @@ void chaos::durchfahrten_merken() {
             zustand.ch_durchfahrt = true;
             const bool selbst_gestempelt = ereignis.ereignis_zeit != um_.ereignisse.messzeit;  // else as the race stood
             zustand.ch_durchfahrt_zeit = selbst_gestempelt ? std::min(ereignis.ereignis_zeit, jetzt) : jetzt;
+            um_.protokoll.vermerken(vermerk::durchfahrt, {spur, zustand.ch_durchfahrt_zeit});
         }
     }
 }
@@ -300,6 +305,7 @@ void chaos::chaosende_routine() {
     um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
     um_.zeitgeber.ch_durch0->aus();
     zustand.pause.dauer = ende - zustand.pause.start;
+    um_.protokoll.vermerken(vermerk::weiter, {ende, zustand.pause.dauer});
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
     um_.sounds.spielen(sound::pause_endet);
     um_.ausgaben.chaos_aus();
@@ -342,9 +348,18 @@ void chaos::unverbuesste_abschalten() {
 }
 
 void chaos::strafen_verteilen() {
-    const double sekunden = std::clamp(zahl_lesen(um_.bahn.ch_Text1.text()), 0.0, strafe_max_s);
+    const double sekunden = std::bit_cast<double>(um_.protokoll.antwort("strafzeit", [this] {
+        return std::bit_cast<std::int64_t>(std::clamp(zahl_lesen(um_.bahn.ch_Text1.text()), 0.0, strafe_max_s));
+    }));
+    const std::int64_t schuldige = um_.protokoll.antwort("schuldige", [this] {
+        std::int64_t spuren = 0;
+        for (const int spur : alle_spuren) {
+            spuren |= um_.bahn.ch_strafzeit_hacken[spur].gesetzt() ? std::int64_t{1} << spur : 0;
+        }
+        return spuren;
+    });
     for (const int spur : alle_spuren) {
-        if (!um_.bahn.ch_strafzeit_hacken[spur].gesetzt()) {
+        if ((schuldige >> spur & 1) == 0) {
             continue;
         }
         spur_zustand& zustand = um_.zustand.spur[spur];
@@ -354,6 +369,7 @@ void chaos::strafen_verteilen() {
             if (!std::exchange(zustand.fruehstart_sperre, true)) {
                 zustand.sperre.von = um_.zustand.pause.start + um_.zustand.pause.dauer;
             }
+            um_.protokoll.vermerken(vermerk::strafe, {spur, std::llround(sekunden), 1});
             zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;
             um_.zeitgeber.straftimer_ch[spur]->an();
             t_.strafe.spur_strom_aus(spur);

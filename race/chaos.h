@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/schnittstelle.h"
 #include "race/fruehstartstrafe.h"
 #include "race/rennablauf.h"
@@ -42,10 +44,11 @@ public:
     /// The race ends in its pause: nothing of the pause stays.
     void aufheben();
     /// A device is gone whose switch may have begun the pause: it ends by command.
-    void geraeteschalter_vergessen();
+    void geraet_verloren() { geraet_verloren_(); }
 
 private:
     void befehl_klick();
+    void geraeteschalter_vergessen();
     /// The device runs the light that ends the pause.
     bool am_geraet_fortsetzen();
     bool gruen_am_geraet();
@@ -76,6 +79,7 @@ private:
 
     renn_umgebung um_;
     teile t_;
+    std::function<void()> geraet_verloren_;
 };
 
 }  // namespace tarvel

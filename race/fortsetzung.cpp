@@ -6,7 +6,27 @@
 
 namespace tarvel {
 
+fortsetzung::fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
+    umsetzen_ = um_.protokoll.eingang("umsetzen", spuren_max, [this](const mitschrift::werte& w) {
+        spuren<int> herkunft;
+        for (const int spur : alle_spuren) {
+            herkunft[spur] = std::clamp(static_cast<int>(w.at(feld_index(spur))), 0, spuren_max);
+        }
+        umsetzen(herkunft);
+    });
+    vorbereiten_ = um_.protokoll.eingang("fortsetzen", 1, [this](const mitschrift::werte& w) { einrichten(w[0]); });
+}
+
 void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
+    mitschrift::werte w{};
+    for (const int spur : alle_spuren) {
+        w.at(feld_index(spur)) = herkunft[spur];
+    }
+    um_.protokoll.geschieht(umsetzen_, w);
+}
+
+void fortsetzung::umsetzen(const spuren<int>& herkunft) {
+    um_.param.spuren_wiederherstellen();  // a place without a driver goes round as well
     const spuren<spur_zustand> vorher = um_.zustand.spur;
     const auto namen = um_.param.fahrer_name;
     const auto klassen = um_.param.klasse;
@@ -39,7 +59,8 @@ zeit_ms fortsetzung::gefahren() const {
     return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel) : gelaufen;
 }
 
-void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
+void fortsetzung::einrichten(zeit_ms neues_ziel) {
+    um_.param.spuren_wiederherstellen();
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.alle_aus();
     const zeit_ms gefahren_ms = gefahren();
@@ -140,7 +161,7 @@ void fortsetzung::weiterfahren() {
     }
     um_.zeitgeber.rennen_an();
     um_.quellen.melden(&messquelle::rennen_fortgesetzt);
-    um_.teil_von->weitergefahren();
+    um_.teil_von.melden(&veranstaltung::weitergefahren);
     t_.ablauf.befehle_freigeben();
     t_.ansicht.freigeben();
     um_.bahn.Nachtabschaltung.sichtbar(dunkel_ || um_.bahn.Nachtabschaltung.sichtbar());

@@ -19,7 +19,7 @@ public:
         sektoren& sektor;
     };
 
-    fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {}
+    fortsetzung(const renn_umgebung& um, const teile& t);
 
     /// Lane i takes the driver of lane `herkunft[i]` with all he has, and his vehicle if vehicles change lanes; 0
     /// leaves the lane as it is.
@@ -27,18 +27,22 @@ public:
     /// Time driven up to the end, without pauses and without the run-on.
     zeit_ms gefahren() const;
     /// All that comes before the light. `neues_ziel` counts from the first start: laps, or ms in a time race.
-    void vorbereiten(zeit_ms neues_ziel);
+    void vorbereiten(zeit_ms neues_ziel) { um_.protokoll.geschieht(vorbereiten_, {neues_ziel}); }
     /// The race ends before it has gone on: its result is the earlier one.
     void zuruecknehmen();
     /// Green: the break comes off the race and off the lap that each lane is in.
     void weiterfahren();
 
 private:
+    void umsetzen(const spuren<int>& herkunft);
+    void einrichten(zeit_ms neues_ziel);
     void spur_freigeben(int spur);
     void standzeit_abziehen(int spur);
 
     renn_umgebung um_;
     teile t_;
+    int umsetzen_;  ///< numbers of the doings
+    int vorbereiten_;
     zeit_ms ziel_vorher_ = 0;
     spuren<bool> daheim_;  ///< lanes that were home
     bool abbruch_vorher_ = false;

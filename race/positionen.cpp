@@ -39,6 +39,7 @@ void positionen::neu_ordnen() {
     for (const int spur : folge) {
         position_.at(feld_index(spur)) = ++platz;
         if (vorher.at(feld_index(spur)) != platz) {
+            um_.protokoll.vermerken(vermerk::platz, {spur, platz});
             um_.quellen.melden<int, int>(&messquelle::platz, spur, platz);
         }
     }
@@ -71,6 +72,7 @@ void positionen::positionen_tauschen(std::size_t a, std::size_t b) {
     um_.bahn.l_PosAnz.at(b).text(std::to_string(position_.at(b)));
     um_.bahn.l_PosAnz.at(a).text(std::to_string(position_.at(a)));
     for (const std::size_t index : {b, a}) {
+        um_.protokoll.vermerken(vermerk::platz, {static_cast<int>(index) + 1, position_.at(index)});
         um_.quellen.melden<int, int>(&messquelle::platz, static_cast<int>(index) + 1, position_.at(index));
     }
 }

@@ -12,6 +12,7 @@ rennablauf::rennablauf(const renn_umgebung& um, const teile& t) : um_(um), t_(t)
     um_.zeitgeber.renntimer2->bei_tick = [this] { renntimer2_tick(); };
     um_.zeitgeber.renntimer3->bei_tick = [this] { renntimer3_tick(); };
     um_.zeitgeber.nachlauftimer1->bei_tick = [this] { t_.ende.nachlauf_tick(); };
+    einfahrzeit_beendet_ = um_.protokoll.befehl("eingefahren", [this] { freigeben_nach_einfahrzeit(); });
 }
 
 void rennablauf::laden() {
@@ -87,7 +88,7 @@ void rennablauf::ampel_takt_bestimmen() {
 }
 
 void rennablauf::rennstart_vorbereiten() {
-    um_.teil_von->begonnen();
+    um_.teil_von.melden(&veranstaltung::begonnen);
     t_.blinken.beenden();
     um_.ausgaben.rennende_signal(false);  // perhaps still on from the race before
     if (mit_einfahrzeit()) {
@@ -123,7 +124,7 @@ void rennablauf::rennstart_vorbereiten() {
 }
 
 void rennablauf::einfahrzeit_starten() {
-    um_.teil_von->begonnen();
+    um_.teil_von.melden(&veranstaltung::begonnen);
     t_.blinken.beenden();
     um_.ereignisse.ruhe_herstellen();
     rennen_zuruecksetzen();
@@ -133,7 +134,7 @@ void rennablauf::einfahrzeit_starten() {
     um_.fenster.zeigen(fenstername::einfahren, anzeige_art::modal);
 }
 
-void rennablauf::einfahrzeit_beendet() {
+void rennablauf::freigeben_nach_einfahrzeit() {
     um_.ausgaben.stillstand();
     um_.ereignisse.ruhe_herstellen();
     um_.ereignisse.strecke_leeren();
@@ -166,6 +167,7 @@ void rennablauf::befehle_freigeben() {
 void rennablauf::rennen_starten(zeit_ms stempel) {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.rennen_aus();
+    um_.protokoll.vermerken(vermerk::gruen, {stempel});
     zustand.start_zeit = stempel;
     zustand.renn_ende_zeit = zustand.start_zeit + um_.param.renndauer_ms;
     zustand.rennen_start_uhrzeit = uhrzeit_text(um_.kalender.jetzt());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/schnittstelle.h"
 #include "race/blinken.h"
 #include "race/fruehstartstrafe.h"
@@ -52,7 +54,7 @@ public:
     /// Hands the track over to the warm-up that comes before the race.
     void einfahrzeit_starten();
     /// The track is at rest and the race can start. Nothing of the warm-up waits for it.
-    void einfahrzeit_beendet();
+    void einfahrzeit_beendet() { einfahrzeit_beendet_(); }
     /// Without a start light: the clock and the race timers start, and the commands are free at once.
     void rennen_starten();
     /// The work of every start, timed from `stempel`. Lanes that have been stamped by a false start keep their stamp if
@@ -68,14 +70,16 @@ public:
 private:
     /// The commands before a start.
     void vor_dem_start();
+    void freigeben_nach_einfahrzeit();
     void ampel_takt_bestimmen();
-    bool mit_einfahrzeit() const { return um_.teil_von->wer_startet() == starter::einfahrzeit; }
+    bool mit_einfahrzeit() const { return um_.teil_von.wer_startet() == starter::einfahrzeit; }
     void renntimer_tick();
     void renntimer2_tick();
     void renntimer3_tick();
 
     renn_umgebung um_;
     teile t_;
+    std::function<void()> einfahrzeit_beendet_;
     bool am_geraet_ = false;  ///< at the last poll a device ran the start light
 };
 

@@ -8,21 +8,38 @@ namespace tarvel {
 
 rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbelegung& belegung)
     : um_(um), t_(t), belegung_(belegung), tastatur_(um.ereignisse, belegung, *this) {
-    um_.bahn.Command1.bei_klick = [this] {
-        // a device may have started the race itself while it was asked
-        if (!darf_starten || (darf_starten() && um_.bahn.Command1.bedienbar() && um_.zustand.rennen_beendet)) {
+    mitschrift& protokoll = um_.protokoll;
+    um_.bahn.Command1.bei_klick = protokoll.befehl("start", [this] {
+        if (darf()) {
             t_.ablauf.rennstart_vorbereiten();
         }
-    };
-    um_.bahn.Command2.bei_klick = [this] {
+    });
+    um_.bahn.Command2.bei_klick = protokoll.befehl("abbruch", [this] {
         if (um_.zustand.fortgesetzt) {
             fenster_schliessen();  // a result is at stake already: it asks
         } else {
             rennen_abbrechen();
         }
-    };
-    um_.bahn.Command4.bei_klick = [this] { rennen_beenden(); };
-    um_.bahn.Command6.bei_klick = [this] { t_.ablauf.einfahrzeit_starten(); };
+    });
+    um_.bahn.Command4.bei_klick = protokoll.befehl("ende", [this] { rennen_beenden(); });
+    um_.bahn.Command6.bei_klick = protokoll.befehl("einfahren", [this] { t_.ablauf.einfahrzeit_starten(); });
+    schliessen_ = protokoll.befehl("schliessen", [this] { fenster_schliessen_nach_frage(); });
+    taste_ = protokoll.eingang("taste", 2, [this](const mitschrift::werte& w) {
+        taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(w[1]));
+        t_.zaehlung.zaehler_nachfuehren();
+        if (!um_.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
+            t_.tank.tank_kontakte_auswerten();
+        }
+    });
+}
+
+bool rennbefehle::darf() {
+    bool ja = true;
+    um_.protokoll.tor([&] {
+        // a device may have started the race itself while it was asked
+        ja = !darf_starten || (darf_starten() && um_.bahn.Command1.bedienbar() && um_.zustand.rennen_beendet);
+    });
+    return um_.protokoll.antwort("darf", [&] { return ja ? 1 : 0; }) == 1;
 }
 
 std::string rennbefehle::nachthinweis() const {
@@ -44,11 +61,7 @@ bool rennbefehle::ist_rundentaste(int code) const {
 }
 
 void rennbefehle::taste(int code, std::optional<zeit_ms> alter) {
-    taste_auswerten(code, alter);
-    t_.zaehlung.zaehler_nachfuehren();
-    if (!um_.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
-        t_.tank.tank_kontakte_auswerten();
-    }
+    um_.protokoll.geschieht(taste_, {code, alter.value_or(-1)});
 }
 
 void rennbefehle::rennen_abbrechen() {
@@ -60,12 +73,16 @@ void rennbefehle::rennen_abbrechen() {
     t_.ende.ausgaben_endzustand();
     um_.zustand.rennabbruch = true;
     um_.param.einrichtung_wiederherstellen();
-    um_.teil_von->abgebrochen();
+    um_.teil_von.melden(&veranstaltung::abgebrochen);
     um_.fenster.entladen(fenstername::bahn1);
     um_.fenster.zeigen(um_.teil_von->zurueck());
 }
 
 void rennbefehle::fenster_schliessen() {
+    schliessen_();
+}
+
+void rennbefehle::fenster_schliessen_nach_frage() {
     if (um_.zustand.rennen_beendet) {
         if (!um_.fenster.ist_offen(fenstername::auswertung)) {
             rennen_abbrechen();

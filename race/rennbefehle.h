@@ -46,6 +46,8 @@ public:
     void rennen_beenden();
 
 private:
+    bool darf();
+    void fenster_schliessen_nach_frage();
     bool beendet() const override { return um_.zustand.rennen_beendet; }
     void bildschirm_dunkel() override { t_.ansicht.bildschirm_dunkel(); }
     void chaos_taste() override { t_.pause.taste(); }
@@ -55,6 +57,8 @@ private:
     teile t_;
     const tastenbelegung& belegung_;
     tastatur tastatur_;
+    std::function<void()> schliessen_;
+    int taste_ = 0;  ///< number of the doing
 };
 
 }  // namespace tarvel

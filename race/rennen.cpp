@@ -2,10 +2,12 @@
 
 namespace tarvel {
 
-rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
-    : zeit(dienste.uhr),
-      zeitgeber(dienste.zeitgeber),
-      sounds(um.einst, dienste.klang),
+rennen::rennen(const plattform::dienste& echte, const umfeld& um)
+    : maschine(protokoll, echte),
+      teil_von(protokoll),
+      zeit(maschine.dienste().uhr),
+      zeitgeber(maschine.dienste().zeitgeber),
+      sounds(um.einst, maschine.dienste().klang),
       umgebung{zustand,
                um.param,
                um.einst,
@@ -19,13 +21,14 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
                zeitgeber,
                sounds,
                um.fenster,
-               dienste.kalender,
-               dienste.zufall,
-               dienste.meldungen,
+               maschine.dienste().kalender,
+               maschine.dienste().zufall,
+               maschine.dienste().meldungen,
                um.bestzeiten,
                um.fahrerliste,
                um.fahrzeugliste,
-               teil_von},
+               teil_von,
+               protokoll},
       plaetze(umgebung),
       uhr(umgebung),
       ende(umgebung, uhr),
@@ -43,6 +46,20 @@ rennen::rennen(const plattform::dienste& dienste, const umfeld& um)
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
       fenster(umgebung, {ablauf, ansicht, befehle}) {
+    protokoll.nebenbei(
+        [this] {
+            return mitschrift::beiwerk{umgebung.ereignisse.messzeit, tanken.getankt_bis()};
+        },
+        [this](const mitschrift::beiwerk& b) {
+            if (b[1] != 0) {
+                umgebung.ereignisse.messzeit = b[1];
+                tanken.tank_alle_spuren();
+            }
+            umgebung.ereignisse.messzeit = b[0];
+        });
+    um.quellen.mitschreiben(protokoll);
+    um.ereignisse.mitschreiben(protokoll);
+    zeit.mitschreiben(protokoll);
     ablauf.pause = &chaos;
     ende.abschluss = this;
 }

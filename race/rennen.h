@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/fensterlogik.h"
+#include "core/mitschriftdienste.h"
 #include "platform/dienste.h"
 #include "race/blinken.h"
 #include "race/chaos.h"
@@ -10,6 +11,15 @@
 #include "race/strafen.h"
 
 namespace tarvel {
+
+/// Keeps the log of a race.
+class protokollfuehrung : public schnittstelle {
+public:
+    /// The race window opens.
+    virtual void beginnen() = 0;
+    /// It has closed.
+    virtual void abschliessen() = 0;
+};
 
 /// The race window as the register sees it.
 class rennfenster final : public fensterlogik {
@@ -21,21 +31,36 @@ public:
     };
 
     rennfenster(const renn_umgebung& um, const teile& t)
-        : fensterlogik(um.fenster, um.ablage, fenstername::bahn1), bahn_(um.bahn), t_(t) {}
+        : fensterlogik(um.fenster, um.ablage, fenstername::bahn1), bahn_(um.bahn), t_(t) {
+        oeffnen_ = um.protokoll.befehl("oeffnen", [this] { t_.ablauf.laden(); });
+        zumachen_ = um.protokoll.befehl("zumachen", [this] { t_.ablauf.entladen(); });
+    }
+
+    protokollfuehrung* fuehrung = nullptr;  ///< null without a log
 
     rahmen& titelzeile() override { return bahn_.titel; }
     std::vector<sprachliste> sprachdateien() override { return {t_.ansicht.sprache_r()}; }
     void laden() override {
-        t_.ablauf.laden();
+        if (fuehrung != nullptr) {
+            fuehrung->beginnen();
+        }
+        oeffnen_();
         bahn_.Nachtabschaltung.text(t_.befehle.nachthinweis());
     }
-    void entladen() override { t_.ablauf.entladen(); }
+    void entladen() override {
+        zumachen_();
+        if (fuehrung != nullptr) {
+            fuehrung->abschliessen();
+        }
+    }
     void schliessen() override { t_.befehle.fenster_schliessen(); }
     bool escape_schliesst() const override { return false; }
 
 private:
     tarvel::bahn1& bahn_;
     teile t_;
+    std::function<void()> oeffnen_;
+    std::function<void()> zumachen_;
 };
 
 /// The race with all its parts. What it works on beside them is owned by the program.
@@ -46,7 +71,7 @@ struct rennen final : private rennabschluss {
         const texte& txt;
         const dateien& ablage;
         ereignis_tabelle& ereignisse;
-        const messquellen& quellen;
+        messquellen& quellen;
         const tastenbelegung& belegung;
         tarvel::ausgaben& ausgaben;
         fensterregister& fenster;
@@ -59,6 +84,8 @@ struct rennen final : private rennabschluss {
     rennen(const rennen&) = delete;
     rennen& operator=(const rennen&) = delete;
 
+    mitschrift protokoll;
+    mitschriftdienste maschine;  ///< what the race and its lights live on
     renn_zustand zustand;
     laufende_veranstaltung teil_von;
     tarvel::bahn1 bahn1;

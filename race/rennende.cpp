@@ -89,6 +89,7 @@ void rennende::rennende_einleiten() {
     if (um_.ist_zeitrennen()) {  // a machine that stood still finds it late
         zustand.renn_ende_stempel = std::min(zustand.renn_ende_stempel, zustand.renn_ende_zeit + zustand.pause_abzug);
     }
+    um_.protokoll.vermerken(vermerk::letzte, {zustand.renn_ende_stempel});
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
         nachlauf_runden_starten();
         return;
@@ -128,6 +129,7 @@ void rennende::nachlauf_tick() {
 void rennende::spur_ziel_setzen(int spur) {
     um_.zustand.spur[spur].ziel_erreicht = true;
     um_.zustand.spur[spur].strom_aus = true;
+    um_.protokoll.vermerken(vermerk::ziel, {spur});
     um_.ausgaben.relais_on(spur);
     um_.bahn.bahnshape[spur].randfarbe(farben::rot);
     um_.bahn.ampel_gr.at(feld_index(spur)).sichtbar(false);
@@ -156,6 +158,7 @@ void rennende::rennende_ablauf() {
     if (zustand.rennen_beendet) {
         return;
     }
+    um_.protokoll.vermerken(vermerk::ende, {zustand.renn_ende_stempel, zustand.rennabbruch ? 1 : 0});
     um_.zeitgeber.nachlauftimer1->aus();
     if (um_.ist_zeitrennen()) {
         uhr_.tausendstel_auf_null();

@@ -5,6 +5,16 @@
 #include <utility>
 
 namespace tarvel {
+rundenzaehlung::rundenzaehlung(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
+    nachzaehlen_ = um_.protokoll.eingang(
+        "nachzaehlen", 0,
+        [this](const mitschrift::werte& /*keine*/) {
+            um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
+            runden_auswerten();
+        },
+        mitschrift::sorte::blick);
+}
+
 bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
     sensorsperre& sperre = um_.zustand.spur[spur].sensor_sperre;
     if (!(ereignis.aktiv && sperre == sensorsperre::eben_gezaehlt)) {
@@ -12,6 +22,10 @@ bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
     } else if (ereignis.pegel == ereignis.pegel_ruhe) {
         sperre = sensorsperre::bereit;
         ereignis.aktiv = !zu_nah(spur, ereignis.ereignis_zeit);
+        if (!ereignis.aktiv) {
+            ablehnen(spur, ereignis.ereignis_zeit,
+                     {ablehnung::prellen, um_.zustand.spur[spur].gezaehlt_bei + prellen_ms});
+        }
     }
     return ereignis.aktiv && sperre == sensorsperre::bereit;
 }
@@ -39,12 +53,39 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, const ereignis_zeile& ereign
     return stempel - zustand.start_zeit;
 }
 
-bool rundenzaehlung::zaehlt(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) const {
+std::optional<rundenzaehlung::hindernis> rundenzaehlung::hindernis_von(int spur, zeit_ms zeit,
+                                                                       const ereignis_zeile& ereignis) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && !zustand.gesperrt(ereignis) &&
-           (!zustand.tank_haelt(ereignis) || um_.einst.tank_art == tankweise::zwischen_zwei_kontakten) &&
-           (zeit >= um_.param.min_rundenzeit_ms + zustand.pause_abzug || um_.zustand.konto.runden(spur) == -1) &&
-           !zustand.tank_gesperrt(ereignis) && !zustand.ziel_erreicht && ereignis.ereignis_zeit >= zustand.prellen_bis;
+    const zeit_ms mindestens = um_.param.min_rundenzeit_ms + zustand.pause_abzug;
+    if (!um_.param.spur_aktiv[spur]) {
+        return hindernis{ablehnung::nicht_dabei};
+    }
+    if (zustand.disqualifiziert) {
+        return hindernis{ablehnung::disqualifiziert};
+    }
+    if (zustand.gesperrt(ereignis)) {
+        return hindernis{ablehnung::sperre, zustand.sperre.bis};
+    }
+    if (zustand.tank_haelt(ereignis) && um_.einst.tank_art != tankweise::zwischen_zwei_kontakten) {
+        return hindernis{ablehnung::volltanken, zustand.tank_halt.bis};
+    }
+    if (zeit < mindestens && um_.zustand.konto.runden(spur) != -1) {
+        return hindernis{ablehnung::zu_schnell, zeit - zustand.pause_abzug, um_.param.min_rundenzeit_ms};
+    }
+    if (zustand.tank_gesperrt(ereignis)) {
+        return hindernis{ablehnung::tankstrafe, zustand.tank_sperre.bis};
+    }
+    if (zustand.ziel_erreicht) {
+        return hindernis{ablehnung::im_ziel};
+    }
+    if (ereignis.ereignis_zeit < zustand.prellen_bis) {
+        return hindernis{ablehnung::prellen, zustand.prellen_bis};
+    }
+    return std::nullopt;
+}
+
+void rundenzaehlung::ablehnen(int spur, zeit_ms stempel, const hindernis& h) const {
+    um_.protokoll.vermerken(vermerk::abgelehnt, {spur, static_cast<int>(h.grund), stempel, h.wert, h.grenze});
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {
@@ -61,6 +102,7 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereig
         t_.sektor.letzten_sektor_speichern(spur, konto.laufende(spur), stempel, zustand.pause_abzug);
         konto.zaehlen(spur, zeit, stempel, std::exchange(zustand.pause_abzug, 0));
     }
+    um_.protokoll.vermerken(vermerk::runde, {spur, konto.runden(spur), zeit, stempel});
     // Told late, a crossing from before the end is no finish. Also with the account full the car can still come home.
     constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment earlier
     const bool nach_dem_ende = stempel >= um_.zustand.renn_ende_stempel - takt_ms;
@@ -93,7 +135,9 @@ void rundenzaehlung::ueberfahrt_auswerten(int spur) {
     if (entprellen(spur, ereignis)) {
         t_.tank.strafe_abgelaufen(spur, ereignis.ereignis_zeit);
         const zeit_ms zeit = rundenzeit_messen(spur, ereignis);
-        if (zaehlt(spur, zeit, ereignis)) {
+        if (const auto grund = hindernis_von(spur, zeit, ereignis)) {
+            ablehnen(spur, ereignis.ereignis_zeit, *grund);
+        } else {
             zaehlen(spur, zeit, ereignis);
         }
     }
@@ -124,6 +168,7 @@ bool rundenzaehlung::runde_abziehen(int spur) {
     }
     const bool hat_eine = um_.zustand.konto.runden(spur) > 0;
     zustand.pause_abzug += um_.zustand.konto.abziehen(spur);
+    um_.protokoll.vermerken(vermerk::abzug, {spur, um_.zustand.konto.runden(spur)});
     if (hat_eine) {
         t_.anzeige.beste_zeigen(spur);
     }

@@ -105,6 +105,7 @@ void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
     const zeit_ms zeit =
         um_.ereignisse[art_von(spur, sektor)].ereignis_zeit - basis + zustand.strafzuschlag() - zustand.pause_abzug;
     sektorzeit(spur, sektor, zeile, zeit);
+    um_.protokoll.vermerken(vermerk::sektor, {spur, sektor, zeit});
     anzeigen(spur, sektor, zeit);
     um_.sounds.spielen(sound::sektorzeit);
 }

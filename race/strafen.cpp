@@ -7,6 +7,7 @@ namespace tarvel {
 
 void strafen::zeitstrafe(int spur, dauer_s mehr) {
     um_.zustand.spur[spur].strafzeit += mehr;
+    um_.protokoll.vermerken(vermerk::strafe, {spur, mehr.count(), 0});
     straflabel_zeigen(spur);
 }
 
@@ -18,6 +19,7 @@ void strafen::straflabel_zeigen(int spur) {
 
 void strafen::spur_strom_aus(int spur) {
     um_.zustand.spur[spur].strom_aus = true;
+    um_.protokoll.vermerken(vermerk::strom_aus, {spur});
     um_.ausgaben.relais_on(spur);
     ansicht_.kleine_ampel(spur, kleines_licht::rot);
 }
@@ -35,6 +37,7 @@ void strafen::spur_strom_an(int spur) {
         return;
     }
     um_.zustand.spur[spur].strom_aus = false;
+    um_.protokoll.vermerken(vermerk::strom_an, {spur});
     um_.ausgaben.relais_off(spur);
     if (um_.zeitgeber.renntimer->laeuft()) {
         ansicht_.kleine_ampel(spur, kleines_licht::gruen);

@@ -1,6 +1,7 @@
 #include "race/tanken.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <string>
 
@@ -47,6 +48,16 @@ tanken::tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige) : um
     for (const int spur : alle_spuren) {
         um_.zeitgeber.tanktimer[spur]->bei_tick = [this, spur] { tanktimer_tick(spur); };
         um_.zeitgeber.t_straftimer[spur]->bei_tick = [this, spur] { t_straftimer_tick(spur); };
+    }
+    stand_ = um_.protokoll.eingang("tank", 2, [this](const mitschrift::werte& w) {
+        um_.zustand.spur[static_cast<int>(std::clamp<std::int64_t>(w[0], 1, spuren_max))].tank_inhalt =
+            std::bit_cast<double>(w[1]);
+    });
+}
+
+void tanken::stand_mitschreiben() {
+    for (const int spur : alle_spuren) {
+        um_.protokoll.geschieht(stand_, {spur, std::bit_cast<std::int64_t>(um_.zustand.spur[spur].tank_inhalt)});
     }
 }
 
@@ -175,6 +186,8 @@ void tanken::tank_alle_spuren() {
     if (!um_.param.tank_aktiv) {
         return;
     }
+    getankt_bis_ = um_.ereignisse.messzeit;
+    const bool kontakte_wiederholt = um_.quellen.kann().kontakte_wiederholt;
     for (const int spur : alle_spuren) {
         spur_zustand& zustand = um_.zustand.spur[spur];
         const bool tankt = zustand.tank_kontakt && !um_.zeitgeber.tanktimer[spur]->laeuft() &&
@@ -185,17 +198,25 @@ void tanken::tank_alle_spuren() {
         }
         if (zustand.tankt_seit == 0) {
             zustand.tankt_seit = um_.ereignisse.messzeit;
+            um_.protokoll.vermerken(vermerk::tankt, {spur, std::llround(zustand.tank_inhalt * 100)});
         }
         while (zustand.tank_kontakt && um_.ereignisse.messzeit - zustand.tankt_seit >= schritt_ms) {
             zustand.tankt_seit += schritt_ms;
-            tanken_spur(spur);
+            tanken_spur(spur, kontakte_wiederholt);
         }
     }
 }
 
-void tanken::tanken_spur(int spur) {
+zeit_ms tanken::getankt_bis() const {
+    const auto& spuren = um_.zustand.spur;
+    const bool einer =
+        std::any_of(spuren.begin(), spuren.end(), [](const spur_zustand& s) { return s.tankt_seit != 0; });
+    return einer ? getankt_bis_ : 0;
+}
+
+void tanken::tanken_spur(int spur, bool kontakte_wiederholt) {
     spur_zustand& zustand = um_.zustand.spur[spur];
-    if (um_.quellen.kann().kontakte_wiederholt) {
+    if (kontakte_wiederholt) {
         zustand.prellen_bis = std::max(zustand.prellen_bis, zustand.tankt_seit + prellen_ms);
     }
     if (zustand.tank_inhalt < um_.einst.tank_inhalt && !um_.zeitgeber.t_straftimer[spur]->laeuft()) {
@@ -212,6 +233,7 @@ void tanken::tanken_spur(int spur) {
 
 void tanken::voll(int spur) {
     spur_zustand& zustand = um_.zustand.spur[spur];
+    um_.protokoll.vermerken(vermerk::voll, {spur});
     um_.zeitgeber.tanktimer[spur]->aus();
     if (um_.einst.tank_runden_modus != rundenzaehlung_auf::keinem_tanksensor) {
         zustand.tank_halt = {zustand.tankt_seit, zustand.tankt_seit + halt_ms};
@@ -262,6 +284,7 @@ void tanken::leer(int spur) {
     rundenkonto& konto = um_.zustand.konto;
     const bool mit_runde = konto.runden(spur) > 0;
     um_.sounds.spielen(sound::tank_leer + spur);
+    um_.protokoll.vermerken(vermerk::leer, {spur, static_cast<int>(um_.einst.tank_straf_option)});
     tankfarbe(spur, um_.einst.farben_schrift[2]);
     switch (um_.einst.tank_straf_option) {
         case leer_aktion::ohne:

@@ -13,6 +13,8 @@ public:
 
     /// Full tanks and their displays, for a new race.
     void zuruecksetzen();
+    /// Tells the log of a race the levels that it begins with.
+    void stand_mitschreiben();
     /// The race is over: a lap that a penalty holds back counts, and nothing changes behind the result.
     void beenden();
     /// First call of the race tick, and after each key: turns contact edges into lane states.
@@ -23,6 +25,8 @@ public:
     void kontakt_verlassen(int spur);
     /// Second call of the race tick: refuels whoever stands on a contact, a step each nominal hundredth of a second.
     void tank_alle_spuren();
+    /// Stamp up to which the last such call has refuelled, 0 if nobody refuels.
+    zeit_ms getankt_bis() const;
     /// Levels and their displays, without any change.
     void fuellstaende_zeigen();
     /// A device that has the tanks itself tells a level: `stufe` of `stufen`, 0 is empty.
@@ -37,7 +41,7 @@ public:
 
 private:
     void kontakt_auswerten(int spur);
-    void tanken_spur(int spur);
+    void tanken_spur(int spur, bool kontakte_wiederholt);
     void voll(int spur);
     void warnen(int spur, double stand);
     void leer(int spur);
@@ -58,6 +62,8 @@ private:
     renn_umgebung um_;
     strafen& strafen_;
     rundenanzeige& anzeige_;
+    int stand_;  ///< number of the doing
+    zeit_ms getankt_bis_ = 0;
 };
 
 /// Litres as they are shown: two decimals below 100.

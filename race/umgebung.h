@@ -4,6 +4,7 @@
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
+#include "core/mitschrift.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/texte.h"
@@ -15,6 +16,7 @@
 #include "platform/meldungen.h"
 #include "platform/zufall.h"
 #include "race/bahn1.h"
+#include "race/protokollworte.h"
 #include "race/renn_zustand.h"
 #include "race/rennsounds.h"
 #include "race/veranstaltung.h"
@@ -44,6 +46,7 @@ struct renn_umgebung {
     const namensliste& fahrerliste;
     const namensliste& fahrzeugliste;
     const laufende_veranstaltung& teil_von;
+    mitschrift& protokoll;
 
     /// The stamp of a moment at which the race starts, pauses or goes on: a device with a clock of its own is asked.
     zeit_ms moment_lesen() const {
@@ -77,7 +80,7 @@ struct renn_umgebung {
     void spuren_einteilen(bool fortgesetzt) const {
         param.spuren_wiederherstellen();
         for (const int spur : alle_spuren) {
-            if (param.spur_aktiv[spur] && teil_von->ist_fueller(spur) && !teil_von->fueller_fahren(fortgesetzt)) {
+            if (param.spur_aktiv[spur] && teil_von.ist_fueller(spur) && !teil_von.fueller_fahren(fortgesetzt)) {
                 param.spur_aktiv[spur] = false;
                 --param.spuren_anzahl;
             }

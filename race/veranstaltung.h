@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/fensternamen.h"
+#include "core/mitschrift.h"
 #include "core/spuren.h"
 #include "platform/dauer.h"
 #include "platform/schnittstelle.h"
@@ -84,11 +85,30 @@ public:
 /// The one that the race is part of now. It must outlive the race.
 class laufende_veranstaltung {
 public:
+    explicit laufende_veranstaltung(mitschrift& protokoll) : protokoll_(protokoll) {}
+
     void wechseln(veranstaltung& neue) { laufende_ = &neue; }
     veranstaltung* operator->() const { return laufende_; }
 
+    // What the race itself goes by, and tells.
+    starter wer_startet() const {
+        return static_cast<starter>(protokoll_.zustand(
+            "starter", starter_, [this] { return static_cast<std::int64_t>(laufende_->wer_startet()); }));
+    }
+    bool ist_fueller(int spur) const {
+        return protokoll_.antwort("fueller", [&] { return laufende_->ist_fueller(spur) ? 1 : 0; }) == 1;
+    }
+    bool fueller_fahren(bool fortgesetzt) const {
+        return protokoll_.antwort("faehrt", [&] { return laufende_->fueller_fahren(fortgesetzt) ? 1 : 0; }) == 1;
+    }
+    void melden(void (veranstaltung::*was)()) const {
+        protokoll_.tor([&] { (laufende_->*was)(); });
+    }
+
 private:
+    mitschrift& protokoll_;
     veranstaltung* laufende_ = nullptr;
+    mutable std::int64_t starter_ = mitschrift::unbekannt;  ///< as it was written last
 };
 
 }  // namespace tarvel

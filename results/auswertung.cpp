@@ -237,8 +237,7 @@ void auswertung::nachzaehlen() {
     for (const int spur : alle_spuren) {
         vorher[spur] = um_.zustand.konto.runden(spur);
     }
-    um_.ereignisse.messzeit = um_.zeit.messzeit_lesen();
-    r_.zaehlung.runden_auswerten();
+    r_.zaehlung.nachzaehlen();
     bool gezaehlt = false;
     for (const int spur : alle_spuren) {
         if (um_.zustand.konto.runden(spur) > vorher[spur]) {

@@ -43,7 +43,10 @@ bool fruehstart::fruehstart_erkennen() {
     for (const int spur : alle_spuren) {
         if (ereignisse[art::rundenzaehlung[spur]].aktiv || ereignisse[art::tanken_ein[spur]].aktiv ||
             ereignisse[art::tanken_aus[spur]].aktiv) {
-            neu = neu || !stand_[spur].erkannt;
+            if (!stand_[spur].erkannt) {
+                neu = true;
+                um_.protokoll.vermerken(vermerk::fruehstart, {spur, um_.zeit.messzeit_lesen()});
+            }
             stand_[spur].erkannt = true;
             einer_ = true;
         }

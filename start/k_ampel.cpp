@@ -42,10 +42,10 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber)
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_nach);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
-        um_.teil_von->von_selbst_starten(false);
+        um_.protokoll.tor([this] { um_.teil_von->von_selbst_starten(false); });
         beginnen();
     };
-    Command1.bei_klick = [this] { Command1_klick(); };
+    Command1.bei_klick = um_.protokoll.befehl("weiter", [this] { Command1_klick(); });
 }
 
 void k_ampel::laden() {
@@ -69,7 +69,7 @@ void k_ampel::laden() {
     } else {
         Command1.fokus_setzen();
     }
-    if (um_.teil_von->wer_startet() == starter::ablauf && !um_.zustand.chaos_aktiv) {
+    if (um_.teil_von.wer_startet() == starter::ablauf && !um_.zustand.chaos_aktiv) {
         training_autotimer_->an();
     }
 }
@@ -82,7 +82,7 @@ void k_ampel::pause_beenden() {
 }
 
 void k_ampel::entladen() {
-    um_.teil_von->von_selbst_starten(false);
+    um_.protokoll.tor([this] { um_.teil_von->von_selbst_starten(false); });
     zeitgeber_aus();
 }
 

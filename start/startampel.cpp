@@ -68,7 +68,10 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
     for (const int spur : alle_spuren) {
         stw_[spur] = kette(1ms, [this, spur] { strom_tick(spur); });
     }
-    fenster.abbrampel.bei_klick = [this] { abbrampel_klick(); };
+    fenster.abbrampel.bei_klick = um_.protokoll.befehl("ampel_abbrechen", [this] { abbrampel_klick(); });
+    taste_ = um_.protokoll.eingang("ampeltaste", 2, [this](const mitschrift::werte& w) {
+        taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(w[1]));
+    });
 }
 
 void startampel::laden() {
@@ -358,6 +361,10 @@ void startampel::nacht_umschalten() {
 }
 
 void startampel::taste(int code, std::optional<zeit_ms> alter) {
+    um_.protokoll.geschieht(taste_, {code, alter.value_or(-1)});
+}
+
+void startampel::taste_auswerten(int code, std::optional<zeit_ms> alter) {
     r_.befehle.taste_auswerten(code, alter);
     if (code == taste_nacht) {
         nacht_umschalten();

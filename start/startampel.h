@@ -38,6 +38,7 @@ public:
 private:
     static constexpr std::size_t rot_max = 5;
 
+    void taste_auswerten(int code, std::optional<zeit_ms> alter);
     void texte_setzen();
     void farben_setzen();
     void lampen_aufstellen();
@@ -85,6 +86,7 @@ private:
     bool geraet_rot_ = false;        ///< the device's light has been red in this start
     bool geraet_gestartet_ = false;  ///< and was started from here
     bool gruen_erreicht_ = false;    ///< the green moment comes once per start
+    int taste_ = 0;                  ///< number of the doing
     bool abgebrochen_ = false;       ///< a false start has stopped this start
 };
 

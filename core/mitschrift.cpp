@@ -1,0 +1,335 @@
+#include "core/mitschrift.h"
+
+#include <algorithm>
+
+namespace tarvel {
+namespace {
+
+constexpr std::string_view vermerk = ">";
+constexpr std::string_view uhrsprung = "u";
+constexpr std::string_view kopf = "#";
+
+}  // namespace
+
+int mitschrift::eingang(std::string name, std::size_t anzahl, tat was, sorte art) {
+    const int nummer = static_cast<int>(eingaenge_.size());
+    nummer_.emplace(name, nummer);
+    eingaenge_.push_back({.name = std::move(name), .anzahl = anzahl, .was = std::move(was), .art = art});
+    return nummer;
+}
+
+std::function<void()> mitschrift::befehl(std::string name, std::function<void()> was) {
+    const int nummer = eingang(std::move(name), 0, [was = std::move(was)](const werte& /*keine*/) { was(); });
+    return [this, nummer] { geschieht(nummer); };
+}
+
+void mitschrift::geschieht(int eingang, const werte& w) {
+    if (betrieb_ != betrieb::schreiben || !von_aussen()) {
+        ausfuehren(eingang, w);
+        return;
+    }
+    eintrag& e = eingaenge_[static_cast<std::size_t>(eingang)];
+    const bool geweckt = std::exchange(e.geweckt, false);
+    const zeit_ms jetzt = uhr_();
+    zuege_.push_back({.eingang = eingang, .w = w, .beginn = jetzt, .nebenbei = nebenbei_lesen_(), .zeit = jetzt});
+    if (e.art == sorte::handlung) {
+        zuege_schreiben();
+        wecken();
+    } else if (geweckt) {
+        zuege_schreiben();
+    }
+    ausfuehren(eingang, w);
+    if (!zuege_.empty()) {  // the log may have been closed within
+        nebenbei_ = zuege_.back().steht_da ? nebenbei_lesen_() : nebenbei_;
+        zuege_.pop_back();
+    }
+}
+
+void mitschrift::wecken() {
+    for (eintrag& e : eingaenge_) {
+        e.geweckt = e.art == sorte::blick;
+    }
+}
+
+void mitschrift::schreiben(protokollsenke& senke, zeit_ms beginn, std::function<zeit_ms()> uhr) {
+    betrieb_ = betrieb::schreiben;
+    senke_ = &senke;
+    beginn_ = beginn;
+    uhr_ = std::move(uhr);
+    zuege_.clear();
+    nebenbei_ = {unbekannt};
+    wecken();
+}
+
+void mitschrift::aufhoeren() {
+    betrieb_ = betrieb::aus;
+    senke_ = nullptr;
+    zuege_.clear();
+    zeilen_.clear();
+}
+
+void mitschrift::kopfzeile(std::string_view text) {
+    if (schreibt()) {
+        schreiber_.beginnen(0).wort(kopf).wort(text);
+        anhaengen();
+    }
+}
+
+void mitschrift::zuege_schreiben() {
+    for (std::size_t i = 0; i < zuege_.size(); ++i) {
+        if (!std::exchange(zuege_[i].steht_da, true)) {
+            zug_schreiben(i);
+        }
+    }
+}
+
+void mitschrift::zug_schreiben(std::size_t nummer) {
+    const zug& z = zuege_[nummer];
+    const eintrag& e = eingaenge_[static_cast<std::size_t>(z.eingang)];
+    schreiber_.beginnen(static_cast<int>(nummer));
+    if (nummer > 0) {
+        schreiber_.zahl(zuege_[nummer - 1].tor);
+    }
+    schreiber_.wort(e.name).zahl(z.beginn - beginn_);
+    for (std::size_t i = 0; i < e.anzahl; ++i) {
+        schreiber_.zahl(z.w[i]);
+    }
+    if (z.nebenbei != nebenbei_) {
+        schreiber_.zahl(z.nebenbei[0]);
+        if (z.nebenbei[1] != 0) {
+            schreiber_.zahl(z.nebenbei[1]);
+        }
+    }
+    anhaengen();
+    for (std::size_t i = 0; i < z.spruenge_anzahl; ++i) {
+        schreiber_.beginnen(static_cast<int>(nummer) + 1);
+        schreiber_.zahl(z.spruenge[i].schritt).wort(uhrsprung).zahl(z.spruenge[i].zeit - beginn_);
+        anhaengen();
+    }
+}
+
+protokollschreiber& mitschrift::inhalt_beginnen() {
+    zuege_schreiben();
+    wecken();  // what one look has found, the others may find, too
+    return schreiber_.beginnen(tiefe());
+}
+
+zeit_ms mitschrift::zeit_merken(zeit_ms echte) {
+    if (zuege_.empty() || zuege_.back().tor != 0 || betrieb_ == betrieb::aus) {
+        return echte;
+    }
+    zug& z = zuege_.back();
+    ++z.schritt;
+    if (z.zeit == echte) {
+        return echte;
+    }
+    z.zeit = echte;
+    if (z.steht_da || z.spruenge_anzahl == z.spruenge.size()) {
+        zuege_schreiben();
+        schreiber_.beginnen(tiefe()).zahl(z.schritt).wort(uhrsprung).zahl(echte - beginn_);
+        anhaengen();
+    } else {
+        z.spruenge[z.spruenge_anzahl++] = {z.schritt, echte};
+    }
+    return echte;
+}
+
+std::int64_t mitschrift::antwort_merken(std::string_view name, std::int64_t wert) {
+    schritt();
+    if (schreibt() && !zuege_.empty() && zuege_.back().tor == 0) {
+        inhalt_beginnen().zahl(zuege_.back().schritt).wort(name).zahl(wert);
+        anhaengen();
+    }
+    return wert;
+}
+
+int mitschrift::tor_oeffnen() {
+    if (zuege_.empty()) {
+        return 0;
+    }
+    zug& z = zuege_.back();
+    if (z.tor != 0) {
+        return z.tor;
+    }
+    z.tor = ++z.schritt;
+    return 0;
+}
+
+void mitschrift::tor_schliessen(int vorher) {
+    if (!zuege_.empty()) {
+        zuege_.back().tor = vorher;
+    }
+}
+
+void mitschrift::vermerken(std::string_view wort, std::initializer_list<std::int64_t> zahlen) {
+    if (betrieb_ == betrieb::aus || zuege_.empty()) {
+        return;
+    }
+    if (schreibt()) {
+        inhalt_beginnen().wort(vermerk).wort(wort);
+        for (const std::int64_t zahl : zahlen) {
+            schreiber_.zahl(zahl);
+        }
+        anhaengen();
+        return;
+    }
+    std::string jetzt(static_cast<std::size_t>(tiefe()), '.');
+    jetzt.append(vermerk).append(" ").append(wort);
+    for (const std::int64_t zahl : zahlen) {
+        jetzt.append(" ").append(std::to_string(zahl));
+    }
+    if (ort_ == zeilen_.size()) {
+        return;  // the log was cut off in the middle of a doing
+    }
+    if (zeilen_[ort_] == jetzt) {
+        ++ort_;
+    } else {
+        abweichen(std::move(jetzt));
+    }
+}
+
+void mitschrift::lesen(std::vector<std::string_view> zeilen, int erste_zeile, zeit_ms beginn) {
+    betrieb_ = betrieb::lesen;
+    zeilen_ = std::move(zeilen);
+    ort_ = 0;
+    erste_zeile_ = erste_zeile;
+    beginn_ = beginn;
+    zuletzt_ = beginn;
+    abweichung_.reset();
+    zuege_.clear();
+}
+
+std::optional<mitschrift::satz> mitschrift::naechster() const {
+    if (ort_ == zeilen_.size() || abweichung_) {
+        return std::nullopt;
+    }
+    std::string_view zeile = zeilen_[ort_];
+    satz s;
+    s.tiefe = static_cast<int>(std::min(zeile.find_first_not_of('.'), zeile.size()));
+    zeile.remove_prefix(static_cast<std::size_t>(s.tiefe));
+    s.wort = naechstes_wort(zeile);
+    s.schritt = s.tiefe > 0 ? als_zahl(s.wort) : std::nullopt;
+    if (s.schritt) {
+        s.wort = naechstes_wort(zeile);
+    }
+    s.rest = zeile;
+    return s;
+}
+
+void mitschrift::abweichen(std::string stattdessen) {
+    if (!abweichung_) {
+        abweichung_ = {erste_zeile_ + static_cast<int>(ort_), ort_ < zeilen_.size() ? std::string(zeilen_[ort_]) : "",
+                       std::move(stattdessen)};
+    }
+}
+
+bool mitschrift::weiter() {
+    std::optional<satz> s = naechster();
+    while (s && s->wort == kopf) {
+        ++ort_;
+        s = naechster();
+    }
+    if (!s) {
+        return false;
+    }
+    if (s->tiefe != 0) {
+        abweichen("");  // nobody has asked for it
+        return false;
+    }
+    satz_ausfuehren(*s);
+    return !abweichung_;
+}
+
+void mitschrift::satz_ausfuehren(const satz& s) {
+    const auto gefunden = nummer_.find(std::string(s.wort));
+    if (gefunden == nummer_.end() || zuege_.size() == tiefe_max) {
+        abweichen("");
+        return;
+    }
+    const eintrag& e = eingaenge_[static_cast<std::size_t>(gefunden->second)];
+    zug z{.eingang = gefunden->second, .steht_da = true};
+    std::string_view rest = s.rest;
+    const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
+    bool ganz = zeit.has_value();
+    z.zeit = beginn_ + zeit.value_or(0);
+    for (std::size_t i = 0; i < e.anzahl; ++i) {
+        const std::optional<std::int64_t> wert = als_zahl(naechstes_wort(rest));
+        ganz = ganz && wert;
+        z.w[i] = wert.value_or(0);
+    }
+    if (!rest.empty()) {
+        const std::optional<std::int64_t> erstes = als_zahl(naechstes_wort(rest));
+        const std::optional<std::int64_t> zweites = rest.empty() ? 0 : als_zahl(rest);
+        ganz = ganz && erstes && zweites;
+        if (ganz) {
+            nebenbei_setzen_({*erstes, *zweites});
+        }
+    }
+    if (!ganz) {
+        abweichen("");
+        return;
+    }
+    ++ort_;
+    zuletzt_ = z.zeit;
+    const std::size_t tiefe = zuege_.size();
+    zuege_.push_back(z);
+    ausfuehren(z.eingang, z.w);
+    if (zuege_.size() > tiefe) {
+        zuletzt_ = zuege_.back().zeit;
+        zuege_.resize(tiefe);
+    }
+}
+
+zeit_ms mitschrift::zeit_nachlesen() {
+    if (zuege_.empty()) {
+        return zuletzt_;
+    }
+    zug& z = zuege_.back();
+    if (z.tor == 0) {
+        ++z.schritt;
+        const std::optional<satz> s = naechster();
+        if (s && s->tiefe == tiefe() && s->schritt == z.schritt && s->wort == uhrsprung) {
+            z.zeit = beginn_ + als_zahl(s->rest).value_or(0);
+            ++ort_;
+        }
+    }
+    return z.zeit;
+}
+
+std::optional<std::int64_t> mitschrift::antwort_nachlesen(std::string_view name) {
+    if (zuege_.empty()) {
+        return std::nullopt;
+    }
+    zug& z = zuege_.back();
+    ++z.schritt;
+    const std::optional<satz> s = naechster();
+    if (!s || s->tiefe != tiefe() || s->schritt != z.schritt || s->wort != name) {
+        return std::nullopt;
+    }
+    ++ort_;
+    return als_zahl(s->rest);
+}
+
+void mitschrift::tor_nachlesen() {
+    if (zuege_.empty()) {
+        return;
+    }
+    const std::size_t nummer = zuege_.size() - 1;
+    if (zuege_[nummer].tor != 0) {
+        return;
+    }
+    const int schritt = ++zuege_[nummer].schritt;
+    for (std::optional<satz> s = naechster(); s; s = naechster()) {
+        if (s->tiefe != tiefe() || s->schritt != schritt || !nummer_.contains(std::string(s->wort))) {
+            return;
+        }
+        zuege_[nummer].tor = schritt;
+        satz_ausfuehren(*s);
+        if (zuege_.size() <= nummer) {
+            return;
+        }
+        zuege_[nummer].tor = 0;
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,133 @@
+#include "core/mitschriftdienste.h"
+
+#include <algorithm>
+#include <bit>
+#include <string>
+
+namespace tarvel {
+
+/// A timer each of whose ticks is a doing.
+class mitschriftdienste::zeitgeber final : public plattform::zeitgeber {
+public:
+    zeitgeber(zeitgeber_dienst& dienst, std::unique_ptr<plattform::zeitgeber> echter, mitschrift::sorte sorte)
+        : dienst_(dienst), echter_(std::move(echter)) {
+        const int nummer = dienst_.m.eingang(
+            "t" + std::to_string(dienst_.alle.size()), 0, [this](const mitschrift::werte& /*keine*/) { bei_tick(); },
+            sorte);
+        dienst_.alle.push_back(this);
+        echter_->bei_tick = [this, nummer] { dienst_.m.geschieht(nummer); };
+    }
+
+    void intervall(dauer_ms dauer) override { echter_->intervall(dauer); }
+    void an() override {
+        an_ = true;
+        if (!dienst_.m.liest()) {
+            echter_->an();
+        }
+    }
+    void aus() override {
+        an_ = false;
+        echter_->aus();
+    }
+    bool laeuft() const override { return an_; }
+    void loslassen() {
+        if (an_) {
+            echter_->an();
+        }
+    }
+
+private:
+    zeitgeber_dienst& dienst_;
+    std::unique_ptr<plattform::zeitgeber> echter_;
+    bool an_ = false;
+};
+
+mitschriftdienste::mitschriftdienste(mitschrift& m, const plattform::dienste& echte)
+    : echte_(echte),
+      uhr_(m, echte.uhr),
+      zeitgeber_(std::make_unique<zeitgeber_dienst>(m, echte.zeitgeber)),
+      zufall_(m, echte.zufall),
+      kalender_(m, echte.kalender),
+      meldungen_(m, echte.meldungen),
+      klang_(m, echte.klang) {}
+
+mitschriftdienste::~mitschriftdienste() = default;
+
+std::unique_ptr<plattform::zeitgeber> mitschriftdienste::zeitgeber_dienst::erzeugen(plattform::zeitgeber_art art,
+                                                                                    dauer_ms intervall) {
+    const bool blick = art == plattform::zeitgeber_art::abfragend && intervall <= 1ms;
+    return std::make_unique<zeitgeber>(*this, echte.erzeugen(art, intervall),
+                                       blick ? mitschrift::sorte::blick : mitschrift::sorte::handlung);
+}
+
+double mitschriftdienste::zufall::bruchteil() {
+    return std::bit_cast<double>(m.antwort("zufall", [&] { return std::bit_cast<std::int64_t>(echte.bruchteil()); }));
+}
+
+plattform::datum_uhrzeit mitschriftdienste::kalender::jetzt() const {
+    constexpr std::int64_t stelle = 100;
+    std::int64_t rest = m.antwort("datum", [&] {
+        const plattform::datum_uhrzeit d = echte.jetzt();
+        std::int64_t alles = d.jahr;
+        for (const int teil : {d.monat, d.tag, d.stunde, d.minute, d.sekunde}) {
+            alles = alles * stelle + teil;
+        }
+        return alles;
+    });
+    plattform::datum_uhrzeit d;
+    for (int* teil : {&d.sekunde, &d.minute, &d.stunde, &d.tag, &d.monat}) {
+        *teil = static_cast<int>(rest % stelle);
+        rest /= stelle;
+    }
+    d.jahr = static_cast<int>(rest);
+    return d;
+}
+
+void mitschriftdienste::meldungen::zeigen(std::string_view text, std::string_view titel) {
+    m.tor([&] { echte.zeigen(text, titel); });
+}
+
+bool mitschriftdienste::meldungen::fragen(std::string_view text, std::string_view titel) {
+    bool ja = false;
+    m.tor([&] { ja = echte.fragen(text, titel); });
+    return m.antwort("antwort", [&] { return ja ? 1 : 0; }) == 1;
+}
+
+plattform::dreifache_antwort mitschriftdienste::meldungen::fragen_mit_ausweg(std::string_view text,
+                                                                             std::string_view titel) {
+    plattform::dreifache_antwort gewaehlt = plattform::dreifache_antwort::abbrechen;
+    m.tor([&] { gewaehlt = echte.fragen_mit_ausweg(text, titel); });
+    return static_cast<plattform::dreifache_antwort>(
+        m.antwort("antwort", [&] { return static_cast<std::int64_t>(gewaehlt); }));
+}
+
+void mitschriftdienste::klang::spielen(std::string_view datei) {
+    if (!m.liest()) {
+        echte.spielen(datei);
+    }
+}
+
+plattform::dienste mitschriftdienste::dienste() {
+    return {uhr_,
+            *zeitgeber_,
+            meldungen_,
+            klang_,
+            kalender_,
+            echte_.bildschirm,
+            echte_.prozess,
+            zufall_,
+            echte_.serienports,
+            echte_.bibliotheken,
+            echte_.druckerport,
+            echte_.abtaster,
+            echte_.dateisystem,
+            echte_.programmordner};
+}
+
+void mitschriftdienste::zeitgeber_loslassen() {
+    for (zeitgeber* einer : zeitgeber_->alle) {
+        einer->loslassen();
+    }
+}
+
+}  // namespace tarvel

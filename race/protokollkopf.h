@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/renn_parameter.h"
+#include "hardware/tastenbelegung.h"
+#include "platform/kalender.h"
+
+namespace tarvel {
+
+/// What stands before the doings in the log of a race: all that it went by.
+struct protokollkopf {
+    std::string zeitpunkt;  ///< date and time of day at which the race window opened
+    zeit_ms beginn = 0;     ///< reading of the clock at that moment; the times of the doings count from it
+    std::vector<std::string> einstellungen;  ///< the lines of a settings file
+    renn_parameter param;
+    tastenbelegung belegung;
+};
+
+/// The lines, without the mark that makes them lines of the head.
+std::vector<std::string> kopf_schreiben(const protokollkopf& kopf);
+/// The head from the first lines of a log, and how many they are. None for a log of another version, or if anything
+/// is missing.
+struct gelesener_kopf {
+    protokollkopf kopf;
+    std::size_t zeilen = 0;
+};
+std::optional<gelesener_kopf> kopf_lesen(std::span<const std::string_view> zeilen);
+
+}  // namespace tarvel
