@@ -36,10 +36,10 @@ void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
 zeit_ms fortsetzung::gefahren() const {
     const renn_zustand& zustand = um_.zustand;
     const zeit_ms gelaufen = zustand.renn_ende_stempel - zustand.start_zeit - zustand.pause_abzug;
-    return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel) : gelaufen;
+    return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel.ms()) : gelaufen;
 }
 
-void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
+void fortsetzung::vorbereiten(rennziel neues_ziel) {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.alle_aus();
     const zeit_ms gefahren_ms = gefahren();
@@ -49,7 +49,7 @@ void fortsetzung::vorbereiten(zeit_ms neues_ziel) {
     dunkel_ = um_.bahn.Nachtabschaltung.sichtbar();
     um_.param.renn_ziel = neues_ziel;
     if (um_.ist_zeitrennen()) {
-        um_.param.renndauer_rest_ms = neues_ziel - gefahren_ms;
+        um_.param.renndauer_rest_ms = neues_ziel.ms() - gefahren_ms;
         um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
         t_.uhr.restzeit_vorbereiten(um_.param.renndauer_rest_ms);
     }

@@ -26,8 +26,8 @@ public:
     void fahrer_umsetzen(const spuren<int>& herkunft);
     /// Time driven up to the end, without pauses and without the run-on.
     zeit_ms gefahren() const;
-    /// All that comes before the light. `neues_ziel` counts from the first start: laps, or ms in a time race.
-    void vorbereiten(zeit_ms neues_ziel);
+    /// All that comes before the light. `neues_ziel` counts from the first start.
+    void vorbereiten(rennziel neues_ziel);
     /// The race ends before it has gone on: its result is the earlier one.
     void zuruecknehmen();
     /// Green: the break comes off the race and off the lap that each lane is in.
@@ -39,7 +39,7 @@ private:
 
     renn_umgebung um_;
     teile t_;
-    zeit_ms ziel_vorher_ = 0;
+    rennziel ziel_vorher_;
     spuren<bool> daheim_;  ///< lanes that were home
     bool abbruch_vorher_ = false;
     bool dunkel_ = false;  ///< the dark cover lay over the race
