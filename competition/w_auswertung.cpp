@@ -4,6 +4,7 @@
 
 #include "competition/rangfolge.h"
 #include "core/dateien.h"
+#include "core/weitergeben.h"
 
 namespace tarvel {
 namespace {
@@ -33,13 +34,6 @@ void w_auswertung::befehle_verbinden() {
     Command1.bei_klick = [this] { blaettern(-1); };
     Command2.bei_klick = [this] { blaettern(1); };
     Command_schliessen.bei_klick = [this] { schliessen(); };
-    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
-        knopf.bei_klick = [&wohin] {
-            if (wohin) {
-                wohin();
-            }
-        };
-    };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
     for (liste* einer : listen()) {

@@ -110,7 +110,7 @@ struct wettkampf {
     sortier_modus wertung = sortier_modus::runden;  ///< the ranking that counts
     bool qualifying_an = false;
     bool zwischenstand_an = false;  ///< dated files are kept of the state after each race
-    zeit_ms rennlaenge = 0;         ///< of every heat alike: laps, or ms in a time race; 0 if not known
+    std::int64_t rennlaenge = 0;    ///< number of every heat's `rennziel`, whose kind the settings tell; 0 if not known
     int aktuelles_rennen = 1;
     std::set<int> zurueckgestellte;
     std::vector<gefahrener_teil> gefahren;  ///< in the order driven

@@ -111,7 +111,7 @@ public:
     void abgebrochen() override;
     bool mit_spurwechsel() const override { return false; }
     std::optional<spuren<int>> fester_wechsel() const override { return wechsel_; }
-    std::optional<zeit_ms> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
+    std::optional<rennziel> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
     bool mit_eigener_datei() const override { return false; }
     ausweg weg_hinaus() const override {
         return teil_gebucht_ || weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter;

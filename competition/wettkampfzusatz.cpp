@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view zusatz_kopf = "[Wettkampfzusatz 1]";
 constexpr std::string_view kopf_anfang = "[Wettkampfzusatz ";
 constexpr std::string_view zusatz_ende = "[Zusatzende]";
-constexpr zeit_ms laenge_max = 999999999;
+constexpr std::int64_t laenge_max = 999999999;
 
 using werte = std::vector<std::string_view>;
 

@@ -20,7 +20,7 @@ struct wettkampf_zusatz {
     spuren<int> herkunft;
     sortier_modus wertung = sortier_modus::runden;
     bool qualifying_an = false;
-    zeit_ms rennlaenge = 0;
+    std::int64_t rennlaenge = 0;
     std::string beginn;
     std::vector<startplatz> teilnehmer;
     std::vector<std::string> bilder;

@@ -35,7 +35,7 @@ bool anschluss_gleich(const einstellungen& eine, const einstellungen& andere) {
     return (eine.*geraet).anschluss == (andere.*geraet).anschluss;
 }
 
-/// By their numbers, as `messhardware::modus` gives them.
+/// In the order of `hardware_art`.
 using h = messhardware;
 using e = einstellungen;
 constexpr std::array<hardwarezeile, 8> hardwaretabelle{{{&h::hw_simulation, ohne_anschluss},
@@ -47,32 +47,33 @@ constexpr std::array<hardwarezeile, 8> hardwaretabelle{{{&h::hw_simulation, ohne
                                                         {&h::hw_cu, anschluss_gleich<&e::cu>},
                                                         {&h::hw_uart, gleich<&e::uart>}}};
 
-const hardwarezeile& zeile(int nummer) {
-    return hardwaretabelle.at(static_cast<std::size_t>(nummer));
+const hardwarezeile& zeile(hardware_art welche) {
+    return hardwaretabelle.at(static_cast<std::size_t>(welche));
 }
 
 }  // namespace
 
-bool messhardware::gewaehlt(int nummer) const {
-    bool messhardware::*const merker = zeile(nummer).gewaehlt;
+bool messhardware::gewaehlt(hardware_art welche) const {
+    bool messhardware::*const merker = zeile(welche).gewaehlt;
     return merker != nullptr ? this->*merker : hw_4x4();
 }
 
-void messhardware::waehlen(int nummer, bool an) {
-    if (bool messhardware::*const merker = zeile(nummer).gewaehlt; merker != nullptr) {
+void messhardware::waehlen(hardware_art welche, bool an) {
+    if (bool messhardware::*const merker = zeile(welche).gewaehlt; merker != nullptr) {
         this->*merker = an;
     } else {
         hw_4x4_modus = an ? std::max(hw_4x4_modus, modul_4x4::modus_1) : modul_4x4::aus;
     }
 }
 
-int messhardware::modus() const {
-    for (int nummer = 1; nummer < static_cast<int>(hardwaretabelle.size()); ++nummer) {
-        if (gewaehlt(nummer)) {  // a device goes before the keyboard beside it
-            return nummer;
+hardware_art messhardware::modus() const {
+    for (std::size_t nummer = 1; nummer < hardwaretabelle.size(); ++nummer) {
+        const auto welche = static_cast<hardware_art>(nummer);
+        if (gewaehlt(welche)) {  // a device goes before the keyboard beside it
+            return welche;
         }
     }
-    return 0;
+    return hardware_art::tastatur;
 }
 
 void messhardware::simulation_ableiten() {

@@ -28,20 +28,12 @@ struct messhardware {
     bool hw_cu = false;
     bool hw_uart = false;
 
-    // some of the numbers that `modus` gives
-    static constexpr int iow_40 = 1;
-    static constexpr int race_control = 2;
-    static constexpr int druckeranschluss = 3;
-    static constexpr int usb_4x4 = 4;
-    static constexpr int timekeeper = 5;
-    static constexpr int control_unit = 6;
-    static constexpr int at_2560 = 7;
     bool hw_4x4() const { return hw_4x4_modus > modul_4x4::aus; }
-    /// Index in `texte::hardware_name` of the device in force; 0 is the keyboard alone.
-    int modus() const;
-    /// The device with this number is chosen, or no longer is; the others stay as they are.
-    bool gewaehlt(int nummer) const;
-    void waehlen(int nummer, bool an);
+    /// The one in force.
+    hardware_art modus() const;
+    /// The device is chosen, or no longer is; the others stay as they are.
+    bool gewaehlt(hardware_art welche) const;
+    void waehlen(hardware_art welche, bool an);
     /// The keyboard counts as the hardware while none of the devices does that has no keyboard beside it.
     void simulation_ableiten();
     bool operator==(const messhardware&) const = default;

@@ -103,7 +103,7 @@ einstellungszeile rennart() {
 
 /// Above half a tank the warning makes no sense; two litres more are allowed.
 zeilen_urteil tankwarnung_pruefen(einstellungs_zeilen& zeilen, int z) {
-    const double inhalt = zahl_lesen(zeilen.at(36));
+    const double inhalt = zahl_lesen(zeilen.at(z::tank_inhalt));
     std::string& zeile = zeilen.at(static_cast<std::size_t>(z));
     const double warnung = zahl_lesen(zeile);
     if (warnung < 1 || warnung > inhalt / 2 + 2) {

@@ -12,6 +12,7 @@ const std::vector<einstellungszeile>& einstellungstabelle();
 inline constexpr std::string_view einstellungs_kopf = "Tarvel Version ";
 
 namespace z {
+inline constexpr int tank_inhalt = 36;
 inline constexpr int wahr_wort = 114;  ///< the words that the writing system used for true and false
 inline constexpr int falsch_wort = 115;
 inline constexpr int vor_den_bestzeiten = 254;  ///< behind it the best times are read

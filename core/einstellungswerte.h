@@ -4,6 +4,9 @@ namespace tarvel {
 
 // What the operator chooses among. The numbers are those of the settings file; a file may hold others.
 
+/// What a race goes by.
+enum class renn_art { zeit = 2, runden = 3 };
+
 enum class startzeit { fest = 1, variabel = 2 };
 
 /// The start light.
@@ -46,6 +49,18 @@ enum class trainingsart { normal, intervall, dauer };
 
 /// How a training goes on after the drivers have changed.
 enum class training_weitergang { neu_starten, fortsetzen };
+
+/// The timing hardware, in the order of `texte::hardware_name`. No file holds these numbers.
+enum class hardware_art {
+    tastatur,  ///< alone; it works beside the others too
+    iow_40,
+    race_control,
+    druckeranschluss,
+    usb_4x4,
+    timekeeper,
+    control_unit,
+    at_2560
+};
 
 /// Mode of the 4x4 module.
 enum class modul_4x4 { aus = 3, modus_1, modus_2, modus_3, modus_4 };

@@ -138,7 +138,6 @@ public:
     std::vector<sprachliste> sprachdateien() override { return {sprache_m2()}; }
     /// The texts of the window.
     sprachliste sprache_m2();
-    void sprache_m2_laden() { sprache_m2().anwenden(um_.ablage); }
     /// Where sensors 3 and 4 serve lanes 1 and 2, nobody drives on lanes 3 and 4.
     void leihspuren_sperren();
     void farben_einstellen();

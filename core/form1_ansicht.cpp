@@ -73,7 +73,7 @@ void form1::ansagen_setzen() {
 
 void form1::laden() {
     version_label.text("V " + std::string(programm_version));
-    sprache_m2_laden();
+    texte_lesen();
     ansagen_setzen();
     tankoptionen_zeigen();
     constexpr std::array<std::string_view, 2> startbilder{"tvkpic1.jpg", "tvkpic2.jpg"};
@@ -180,11 +180,11 @@ void form1::bahnstrom_schaltbar(bool schaltbar) {
 }
 
 void form1::modus_anzeigen() {
-    const int modus = um_.einst.hardware.modus();
+    const hardware_art modus = um_.einst.hardware.modus();
     std::string status = um_.txt.hardware_name.at(static_cast<std::size_t>(modus));
-    if (modus == messhardware::timekeeper) {
+    if (modus == hardware_art::timekeeper) {
         status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
-    } else if (modus == messhardware::usb_4x4) {
+    } else if (modus == hardware_art::usb_4x4) {
         status += ": " + um_.txt.tx_modus(static_cast<int>(um_.einst.hardware.hw_4x4_modus) -
                                           static_cast<int>(modul_4x4::aus));
     }

@@ -3,22 +3,19 @@
 #include <string>
 
 #include "core/einstellungswerte.h"
+#include "core/rennziel.h"
 #include "core/spuren.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
 
-/// What a race goes by. The numbers are those of the settings file.
-enum class renn_art { zeit = 2, runden = 3 };
-
-/// Target in laps of a race without an end: more than anybody can drive, and than a race may go on to.
-inline constexpr zeit_ms ziel_ohne_ende = 10000;
+/// Target of a race without an end: more than anybody can drive, and than a race may go on to.
+inline constexpr rennziel ziel_ohne_ende = rennziel::runden(10000);
 
 /// What the set-up hands over to a race.
 struct renn_parameter {
-    renn_art art = renn_art::zeit;
-    zeit_ms renn_ziel = 0;     ///< laps to drive; in a time race the duration in ms
-    zeit_ms renn_laenge = 0;   ///< what the set-up asked for; `renn_ziel` grows beyond it when the race is continued
+    rennziel renn_ziel;
+    rennziel renn_laenge;      ///< what the set-up asked for; `renn_ziel` grows beyond it when the race is continued
     zeit_ms renndauer_ms = 0;  ///< of the race, or of the part of it that a continuation adds
     zeit_ms renndauer_rest_ms = 0;
     zeit_ms min_rundenzeit_ms = 0;  ///< shortest lap to count
@@ -35,7 +32,7 @@ struct renn_parameter {
     bool tank_aktiv = false;
     sortier_modus auswertung_nach_rennen = sortier_modus::runden;  ///< `einstellungen::auswertung_nach` of this race
 
-    bool ist_zeitrennen() const { return art == renn_art::zeit; }
+    bool ist_zeitrennen() const { return renn_ziel.ist_zeit(); }
 
     void spuren_wiederherstellen() {
         spur_aktiv = spur_aktiv_gemerkt;
@@ -46,8 +43,8 @@ struct renn_parameter {
         spuren_wiederherstellen();
         renn_ziel = renn_laenge;
         if (ist_zeitrennen()) {
-            renndauer_ms = renn_laenge;
-            renndauer_rest_ms = renn_laenge;
+            renndauer_ms = renn_laenge.ms();
+            renndauer_rest_ms = renn_laenge.ms();
         }
     }
 };

@@ -107,23 +107,22 @@ einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, const einstel
     if (!ohne_ende && !dauer_zulaessig(einrichtung, param.renndauer_ms)) {
         return einrichtungsfehler::dauer;
     }
-    param.art = ohne_ende ? renn_art::runden : einrichtung.art;
     param.auswertung_nach_rennen = einst.auswertung_nach;
     param.tank_aktiv = einrichtung.tanken;
     param.min_rundenzeit_ms =
         in_ms(einrichtung.mindestrunde, ms_je_sekunde) + (eines ? sperrzuschlag_einzelrennen_ms : 0);
     param.massstab = zahl_lesen(einrichtung.massstab);
     param.renndauer_rest_ms = param.renndauer_ms;
-    param.renn_ziel = param.ist_zeitrennen() ? param.renndauer_ms
-                      : ohne_ende            ? ziel_ohne_ende
-                                             : ganzzahl_lesen(einrichtung.dauer, 1, 9999);
+    param.renn_ziel = ohne_ende ? ziel_ohne_ende
+                      : einrichtung.art == renn_art::zeit
+                          ? rennziel::zeit(param.renndauer_ms)
+                          : rennziel::runden(static_cast<int>(ganzzahl_lesen(einrichtung.dauer, 1, 9999)));
     param.renn_laenge = param.renn_ziel;
     spuren_uebergeben(einrichtung, einst, param);
     return eines && param.spuren_anzahl == 0 ? einrichtungsfehler::keine_spur : einrichtungsfehler::keiner;
 }
 
 void wettkampfdatei_uebergeben(const renneinrichtung& einrichtung, renn_parameter& param) {
-    param.art = einrichtung.art;
     param.tank_aktiv = einrichtung.tanken;
     param.min_rundenzeit_ms = in_ms(einrichtung.mindestrunde, ms_je_sekunde);
     param.renndauer_ms =

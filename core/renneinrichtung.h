@@ -61,7 +61,7 @@ inline constexpr zeit_ms sperrzuschlag_einzelrennen_ms = 100;
 einrichtungsfehler rennen_uebergeben(renneinrichtung& einrichtung, const einstellungen& einst, rennumfang umfang,
                                      renn_parameter& param);
 
-/// What the settings in a competition's file tell of its races, whose length knows no seconds there.
+/// What the settings in a competition's file tell of its races but their target: the length knows no seconds there.
 void wettkampfdatei_uebergeben(const renneinrichtung& einrichtung, renn_parameter& param);
 
 }  // namespace tarvel

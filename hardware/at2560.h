@@ -42,7 +42,7 @@ public:
 
     explicit at2560(const umgebung& um);
 
-    int nummer() const override { return messhardware::at_2560; }
+    hardware_art welches() const override { return hardware_art::at_2560; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::at_2560; }
     faehigkeiten kann() const override { return {.kontakte_wiederholt = true, .bootet = tmr_µportopen_->laeuft()}; }
     /// Reads the command file and opens the port of the settings. If that fails, the operator's side knows.

@@ -347,7 +347,7 @@ void control_unit::rennende() {
 
 void control_unit::fuehrungsrunden(int runden) {
     const bool rundenrennen = !um_.param.ist_zeitrennen();
-    const int wert = rundenrennen ? static_cast<int>(um_.param.renn_ziel) - runden : runden;
+    const int wert = rundenrennen ? um_.param.renn_ziel.runden() - runden : runden;
     for (const std::string& befehl : cu::anzeigebefehle(wert)) {
         leitung_.senden(befehl);
     }

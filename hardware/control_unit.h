@@ -33,7 +33,7 @@ public:
 
     control_unit(const umgebung& um, const plattform::dienste& dienste);
 
-    int nummer() const override { return messhardware::control_unit; }
+    hardware_art welches() const override { return hardware_art::control_unit; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::control_unit; }
     faehigkeiten kann() const override;
     bool oeffnen() override;

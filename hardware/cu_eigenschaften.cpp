@@ -30,7 +30,7 @@ std::string com(int nummer) {
 }  // namespace
 
 cu_eigenschaften::cu_eigenschaften(const umgebung& um, const plattform::dienste& dienste)
-    : fensterlogik(um.fenster, um.ablage, fenstername::cu_eigenschaften),
+    : geraetefenster(um.fenster, um.ablage, fenstername::cu_eigenschaften),
       um_(um),
       meldungen_(dienste.meldungen),
       ports_(dienste.serienports),
@@ -108,7 +108,7 @@ sprachliste cu_eigenschaften::sprache_e_cu() {
 }
 
 void cu_eigenschaften::laden() {
-    sprache_e_cu().anwenden(um_.ablage);
+    texte_lesen();
     std::vector<std::string> ports{wort_.kein_port};
     for (int nummer = 1; nummer <= cu_comport_max; ++nummer) {
         ports.push_back(com(nummer));
@@ -151,9 +151,7 @@ void cu_eigenschaften::entladen() {
     prueft_ = 0;
     zu_pruefen_.clear();
     leitung_.schliessen();
-    if (zugang != nullptr) {
-        zugang->geraet_verbinden();
-    }
+    geraet_zurueckgeben();
 }
 
 void cu_eigenschaften::anzeigen_leeren() {
@@ -342,9 +340,7 @@ void cu_eigenschaften::uebernehmen() {
         um_.einst.cu.cu_spur_wert[spur] = std::max(cbo_cu_tankgroesse[spur].platz(), 0);
     }
     um_.einst.folgen_ableiten();
-    if (zugang != nullptr) {
-        zugang->einstellungen_speichern();
-    }
+    einstellungen_sichern();
     um_.fenster.entladen(fenstername::cu_eigenschaften);
 }
 

@@ -7,20 +7,19 @@
 #include <vector>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "hardware/cu_leitung.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "platform/meldungen.h"
 
 namespace tarvel {
 
 /// The window in which a Control Unit is looked for, tried and set up. While it is open it has the unit's port to
 /// itself.
-class cu_eigenschaften final : public fensterlogik {
+class cu_eigenschaften final : public geraetefenster {
 public:
     struct umgebung {
         einstellungen& einst;
@@ -30,8 +29,6 @@ public:
     };
 
     cu_eigenschaften(const umgebung& um, const plattform::dienste& dienste);
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     rahmen Frame_port;
     bezeichnung Label_port;

@@ -22,7 +22,7 @@ bool doppelt(const std::array<auswahl, anzahl>& listen) {
 }  // namespace
 
 drucker_fenster::drucker_fenster(const umgebung& um)
-    : fensterlogik(um.fenster, um.ablage, fenstername::drucker_fenster),
+    : geraetefenster(um.fenster, um.ablage, fenstername::drucker_fenster),
       um_(um),
       Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)) {
     constexpr int ziffern = 4;
@@ -93,10 +93,8 @@ void drucker_fenster::listen_fuellen() {
 }
 
 void drucker_fenster::laden() {
-    sprache().anwenden(um_.ablage);
-    if (zugang != nullptr) {
-        zugang->geraet_trennen();
-    }
+    texte_lesen();
+    geraet_nehmen();
     listen_fuellen();
     lpt_basis_ = um_.einst.lpt.anschluss.lpt_adresse;
     lpt_text.text(portadresse_text(lpt_basis_));
@@ -108,9 +106,7 @@ void drucker_fenster::laden() {
 void drucker_fenster::entladen() {
     Timer1_->aus();
     um_.port.schreiben(lpt_basis_ + lpt::daten, vorher_);
-    if (zugang != nullptr) {
-        zugang->geraet_verbinden();
-    }
+    geraet_zurueckgeben();
 }
 
 void drucker_fenster::Timer1_tick() {
@@ -163,7 +159,7 @@ void drucker_fenster::bestaetigen() {
     for (std::size_t i = 0; i < eingaenge; ++i) {
         um_.einst.lpt.lpt_eingang.at(i + 1) = ecomb.at(i).platz();
     }
-    if (zugang == nullptr || zugang->einstellungen_speichern()) {
+    if (einstellungen_sichern()) {
         um_.fenster.entladen(fenstername::drucker_fenster);
     }
 }

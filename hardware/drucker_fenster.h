@@ -8,11 +8,10 @@
 #include <vector>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "hardware/lpt_register.h"
 #include "platform/druckerport.h"
 #include "platform/meldungen.h"
@@ -22,7 +21,7 @@ namespace tarvel {
 
 /// The window `drucker_fenster`: address and pins of the printer port, with a lamp for each input and a button for each
 /// output. While it is open it has the port for itself.
-class drucker_fenster final : public fensterlogik {
+class drucker_fenster final : public geraetefenster {
 public:
     static constexpr std::size_t ausgaenge = lpt::ausgaenge;
     static constexpr std::size_t eingaenge = lpt::eingaenge.size();
@@ -60,8 +59,6 @@ public:
     bezeichnung hinweis;
     befehl Command3;  ///< confirm
     befehl Command2;  ///< cancel
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     void laden() override;
     void entladen() override;

@@ -33,7 +33,7 @@ public:
     druckeranschluss& operator=(const druckeranschluss&) = delete;
     ~druckeranschluss() override { schliessen(); }
 
-    int nummer() const override { return messhardware::druckeranschluss; }
+    hardware_art welches() const override { return hardware_art::druckeranschluss; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::druckeranschluss; }
     bool oeffnen() override;
     void schliessen() override;

@@ -51,7 +51,7 @@ int modus_der_einstellungen(const einstellungen& einst) {
 }  // namespace
 
 frm_main::frm_main(const umgebung& um, tx_modul& modul, const plattform::dienste& dienste)
-    : fensterlogik(um.fenster, um.ablage, fenstername::frmMain),
+    : geraetefenster(um.fenster, um.ablage, fenstername::frmMain),
       um_(um),
       modul_(modul),
       uhr_(dienste.uhr),
@@ -138,9 +138,7 @@ void frm_main::entladen() {
     } else {
         modul_.tx_ausgang_setzen(0, false);
     }
-    if (zugang != nullptr) {
-        zugang->geraet_trennen();
-    }
+    geraet_nehmen();
 }
 
 void frm_main::auswahlen_fuellen() {
@@ -334,7 +332,7 @@ void frm_main::uebernehmen() {
     } else if (modus > 0 && modus_vormerken) {
         modus_vormerken(modus);
     }
-    if (zugang == nullptr || zugang->einstellungen_speichern()) {
+    if (einstellungen_sichern()) {
         um_.fenster.entladen(fenstername::frmMain);
     }
 }

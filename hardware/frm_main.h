@@ -7,11 +7,10 @@
 #include <vector>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "hardware/tx_modul.h"
 #include "platform/dienste.h"
 
@@ -19,7 +18,7 @@ namespace tarvel {
 
 /// The window of the 4x4 USB module: what its inputs mean, with a lamp for each, and every output by hand. It works on
 /// the module of the race; one that is not chosen yet it opens itself.
-class frm_main final : public fensterlogik, private tx_zuschauer {
+class frm_main final : public geraetefenster, private tx_zuschauer {
 public:
     static constexpr std::size_t eingaenge = 8;
     static constexpr std::size_t sensoren = 4;  ///< positions on a digital track
@@ -68,7 +67,6 @@ public:
     befehl Command3;  ///< takes over and closes
     befehl Command4;  ///< closes
 
-    geraetezugang* zugang = nullptr;  ///< null without a device
     /// The mode, 1 to 4, where the module is not the device in force.
     int modus_vorgewaehlt = tx_modul::kontakt_modus;
     std::function<void(int)> modus_vormerken;

@@ -42,7 +42,7 @@ public:
     iow_40& operator=(const iow_40&) = delete;
     ~iow_40() override { schliessen(); }
 
-    int nummer() const override { return messhardware::iow_40; }
+    hardware_art welches() const override { return hardware_art::iow_40; }
     /// Reads the profile of the settings and opens the first board. Without a board the operator's side knows.
     bool oeffnen() override;
     void schliessen() override;

@@ -11,8 +11,7 @@ namespace tarvel {
 /// after it was lost.
 class messgeraet : public messquelle, public ausgabe_geraet {
 public:
-    /// Index of its name in `texte::hardware_name`, as `messhardware::modus`.
-    virtual int nummer() const = 0;
+    virtual hardware_art welches() const = 0;
     /// Where it stands among the outputs; none for a device without outputs.
     virtual std::optional<ausgabe_platz> ausgabeplatz() const { return std::nullopt; }
 

@@ -33,7 +33,7 @@ public:
 
     race_control(const umgebung& um, rc_verbindung& verbindung);
 
-    int nummer() const override { return messhardware::race_control; }
+    hardware_art welches() const override { return hardware_art::race_control; }
     faehigkeiten kann() const override { return {.bootet = angesagt_}; }
     bool oeffnen() override;
     void schliessen() override;

@@ -37,7 +37,7 @@ std::string stempeltext(std::uint32_t ticks) {
 }  // namespace
 
 rc_einstellungen::rc_einstellungen(const umgebung& um, rc_verbindung& verbindung)
-    : fensterlogik(um.fenster, um.ablage, fenstername::rc_einstellungen),
+    : geraetefenster(um.fenster, um.ablage, fenstername::rc_einstellungen),
       um_(um),
       verbindung_(verbindung),
       rc_akt_timer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(20))) {
@@ -95,7 +95,7 @@ void rc_einstellungen::oeffnen(const std::string& port) {
 }
 
 void rc_einstellungen::laden() {
-    sprache().anwenden(um_.ablage);
+    texte_lesen();
     eigene_ = false;
     List1.leeren();
     werte_zeigen();
@@ -107,8 +107,8 @@ void rc_einstellungen::laden() {
 
 void rc_einstellungen::entladen() {
     rc_akt_timer_->aus();
-    if (std::exchange(eigene_, false) && zugang != nullptr) {
-        zugang->geraet_verbinden();
+    if (std::exchange(eigene_, false)) {
+        geraet_zurueckgeben();
     }
 }
 
@@ -156,8 +156,8 @@ void rc_einstellungen::sensoren_leeren() {
 }
 
 void rc_einstellungen::uebernehmen_in_eigene_hand() {
-    if (!std::exchange(eigene_, true) && zugang != nullptr) {
-        zugang->geraet_trennen();
+    if (!std::exchange(eigene_, true)) {
+        geraet_nehmen();
     }
 }
 
@@ -227,7 +227,7 @@ void rc_einstellungen::uebernehmen() {
     }
     rc.rc_tank_sensor34 = check_rctank.gesetzt();
     rc.rc_ziel_sensor34 = check_rcziel.gesetzt();
-    if (zugang == nullptr || zugang->einstellungen_speichern()) {
+    if (einstellungen_sichern()) {
         um_.fenster.entladen(fenstername::rc_einstellungen);
     }
 }

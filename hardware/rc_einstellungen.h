@@ -6,10 +6,9 @@
 #include <string>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "hardware/rc_verbindung.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
@@ -18,7 +17,7 @@ namespace tarvel {
 
 /// The window `rc_einstellungen`: starts a Race Control box step by step, shows what its sensors do, and says which
 /// lane each of them stands in. It looks on while the device has the line, and takes it over with a command.
-class rc_einstellungen final : public fensterlogik, private rc_hoerer {
+class rc_einstellungen final : public geraetefenster, private rc_hoerer {
 public:
     struct umgebung {
         einstellungen& einst;
@@ -56,8 +55,6 @@ public:
     liste List1;      ///< the steps
     befehl Command1;  ///< keeps lanes and port, and closes
     befehl Command2;
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     /// Opens the window with this port in its choice.
     void oeffnen(const std::string& port);

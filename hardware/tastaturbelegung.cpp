@@ -43,7 +43,7 @@ tastaturbelegung::tastaturbelegung(umgebung um)
 }
 
 void tastaturbelegung::laden() {
-    sprache_e_tast().anwenden(um_.ablage);
+    texte_lesen();
     anzeigen(um_.belegung);
     taste.at(static_cast<std::size_t>(tastenzeilen().front().zeile)).fokus_setzen();
 }

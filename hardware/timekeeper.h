@@ -41,7 +41,7 @@ public:
 
     timekeeper(const umgebung& um, const plattform::dienste& dienste);
 
-    int nummer() const override { return messhardware::timekeeper; }
+    hardware_art welches() const override { return hardware_art::timekeeper; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::timekeeper; }
     /// Reads the settings file and opens the channel. If that fails, the operator's side knows.
     bool oeffnen() override;

@@ -35,7 +35,7 @@ std::string debug_datei(int spur) {
 }  // namespace
 
 tk_einstellungen::tk_einstellungen(const umgebung& um, const plattform::dienste& dienste)
-    : fensterlogik(um.fenster, um.ablage, fenstername::timekeeper),
+    : geraetefenster(um.fenster, um.ablage, fenstername::timekeeper),
       um_(um),
       meldungen_(dienste.meldungen),
       uhr_(dienste.uhr),
@@ -137,9 +137,7 @@ void tk_einstellungen::laden() {
     tk_profil profil;
     tk_profil_laden(um_.ablage, um_.einst.tk.tk_datei, profil);
     profil_zeigen(profil);
-    if (zugang != nullptr) {
-        zugang->geraet_trennen();
-    }
+    geraet_nehmen();
     Timer1_->an();
     lampen_->an();
     verbinden();
@@ -150,9 +148,7 @@ void tk_einstellungen::entladen() {
     Timer1_->aus();
     lampen_->aus();
     leitung_.schliessen();
-    if (zugang != nullptr) {
-        zugang->geraet_verbinden();
-    }
+    geraet_zurueckgeben();
 }
 
 void tk_einstellungen::melden(std::string_view zeile) {
@@ -324,9 +320,7 @@ void tk_einstellungen::speichern() {
     }
     um_.einst.tk.tk_datei = stamm;
     um_.einst.hardware.tk_spurmodus = profil.modus;
-    if (zugang != nullptr) {
-        zugang->einstellungen_speichern();
-    }
+    einstellungen_sichern();
     schliessen();
 }
 

@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "hardware/tk_leitung.h"
 #include "hardware/tk_profil.h"
 #include "hardware/tk_protokoll.h"
@@ -21,7 +20,7 @@
 namespace tarvel {
 
 /// The window in which a Timekeeper is tried and set up. While it is open it has the box to itself.
-class tk_einstellungen final : public fensterlogik {
+class tk_einstellungen final : public geraetefenster {
 public:
     struct umgebung {
         einstellungen& einst;
@@ -31,8 +30,6 @@ public:
     };
 
     tk_einstellungen(const umgebung& um, const plattform::dienste& dienste);
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     struct kanal {
         form lampe;  ///< lit for a moment when the sensor was heard

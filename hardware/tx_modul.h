@@ -52,7 +52,7 @@ public:
 
     explicit tx_modul(const umgebung& um);
 
-    int nummer() const override { return messhardware::usb_4x4; }
+    hardware_art welches() const override { return hardware_art::usb_4x4; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::modul_4x4; }
     /// Begins to look for the module. If it is not found, the operator's side hears of it in the end.
     bool oeffnen() override;

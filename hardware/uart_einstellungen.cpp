@@ -28,7 +28,7 @@ std::string als_pinliste(std::string_view text) {
 }  // namespace
 
 uart_einstellungen::uart_einstellungen(const umgebung& um)
-    : fensterlogik(um.fenster, um.ablage, fenstername::UART_einstellungen),
+    : geraetefenster(um.fenster, um.ablage, fenstername::UART_einstellungen),
       um_(um),
       port_(um.serienports.erzeugen()),
       bootzeit_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
@@ -49,10 +49,8 @@ uart_einstellungen::uart_einstellungen(const umgebung& um)
 }
 
 void uart_einstellungen::laden() {
-    sprache().anwenden(um_.ablage);
-    if (zugang != nullptr) {
-        zugang->geraet_trennen();
-    }
+    texte_lesen();
+    geraet_nehmen();
     profil_ = {};
     if (um_.ablage.gibt_es(um_.einst.uart.uart_datei) &&
         !at_profil_laden(um_.ablage, um_.einst.uart.uart_datei, profil_)) {
@@ -77,9 +75,7 @@ void uart_einstellungen::laden() {
 void uart_einstellungen::entladen() {
     bootzeit_->aus();
     port_->schliessen();
-    if (zugang != nullptr) {
-        zugang->geraet_verbinden();
-    }
+    geraet_zurueckgeben();
 }
 
 void uart_einstellungen::auswahlen_fuellen() {

@@ -7,13 +7,12 @@
 #include <string_view>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "hardware/at2560_empfang.h"
 #include "hardware/at2560_zuordnung.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "platform/meldungen.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
@@ -22,7 +21,7 @@ namespace tarvel {
 
 /// The wizard `UART_einstellungen`: finds the port of an AT-2560, lets its sensors and chaos buttons be triggered one
 /// after the other, and writes what they do into the command file. It has a port of its own.
-class uart_einstellungen final : public fensterlogik {
+class uart_einstellungen final : public geraetefenster {
 public:
     enum seitennummer { seite_port, seite_anzahl, seite_sensoren, seite_chaos, seite_fertig, seiten_anzahl };
     static constexpr int sensoren_max = 8;
@@ -88,8 +87,6 @@ public:
     bezeichnung Label_von_hand;
 
     liste zusammenfassung;
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     void laden() override;
     void entladen() override;

@@ -173,9 +173,7 @@ void uart_einstellungen::fertigstellen() {
         return;
     }
     um_.einst.uart.uart_port = offener_port_;
-    if (zugang != nullptr) {
-        zugang->einstellungen_speichern();
-    }
+    einstellungen_sichern();
     um_.fenster.entladen(fenstername::UART_einstellungen);
 }
 

@@ -24,7 +24,7 @@ iow_profil kleine_platine(std::initializer_list<ereignis_art> arten) {
 }  // namespace
 
 usbtest::usbtest(const umgebung& um)
-    : fensterlogik(um.fenster, um.ablage, fenstername::usbtest),
+    : geraetefenster(um.fenster, um.ablage, fenstername::usbtest),
       um_(um),
       Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)),
       lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)),
@@ -64,10 +64,8 @@ std::string usbtest::pin_name(std::size_t platz) {
 }
 
 void usbtest::laden() {
-    sprache().anwenden(um_.ablage);
-    if (zugang != nullptr) {
-        zugang->geraet_trennen();
-    }
+    texte_lesen();
+    geraet_nehmen();
     ansagen_setzen();
     protokoll.leeren();
     dateiwahl_zeigen(false);
@@ -88,9 +86,7 @@ void usbtest::entladen() {
     lebenstakt_->aus();
     ruecksetzen();
     platine_.schliessen();
-    if (zugang != nullptr) {
-        zugang->geraet_verbinden();
-    }
+    geraet_zurueckgeben();
 }
 
 void usbtest::verbinden(bool auch_ohne_melden) {
@@ -255,9 +251,7 @@ void usbtest::speichern() {
     }
     datei.text(name);
     um_.einst.iow.iow_datei = name;
-    if (zugang != nullptr) {
-        zugang->einstellungen_speichern();
-    }
+    einstellungen_sichern();
     notieren(" +++ " + name + ": " + wort_.gespeichert);
     ruecksetzen();
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {

@@ -9,11 +9,10 @@
 #include <vector>
 
 #include "core/einstellungen.h"
-#include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
-#include "hardware/geraetezugang.h"
+#include "hardware/geraetefenster.h"
 #include "hardware/iow_bericht.h"
 #include "hardware/iow_platine.h"
 #include "hardware/iow_profil.h"
@@ -24,7 +23,7 @@ namespace tarvel {
 
 /// The window `usbtest`: what each pin of the IO board means, with a lamp for every contact and a tick box for every
 /// output. While it is open it has the board for itself.
-class usbtest final : public fensterlogik {
+class usbtest final : public geraetefenster {
 public:
     static constexpr std::size_t ports = 4;
     static constexpr std::size_t bits_je_port = 8;
@@ -69,8 +68,6 @@ public:
     liste dateiliste;
     befehl Command10;  ///< load it
     befehl Command9;   ///< leave it
-
-    geraetezugang* zugang = nullptr;  ///< null without a device
 
     void laden() override;
     void entladen() override;

@@ -96,7 +96,7 @@ sprachliste beste_zeiten_verwaltung::sprache_bt() {
 }
 
 void beste_zeiten_verwaltung::laden() {
-    sprache_bt().anwenden(um_.ablage);
+    texte_lesen();
     Combo1.ansage(Label_modus.text());
     Combo2.ansage(Label_datei.text());
     bestefile_name.ansage(Label_neu.text());

@@ -12,7 +12,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t hardware_4x4 = 4;
 constexpr std::size_t erste_hardware_gruppe = 1;
 
 }  // namespace
@@ -182,7 +181,7 @@ void einstellungsfenster::hardware_waehlen(std::size_t nummer) {
         hardware.at(andere).gesetzt(andere == nummer);
     }
     auto& modus = std::get<auswahl>(zeile("optModus").element);
-    if (nummer == hardware_4x4 && modus.platz() < 0) {
+    if (static_cast<hardware_art>(nummer) == hardware_art::usb_4x4 && modus.platz() < 0) {
         modus.platz(0);
     }
     hardware_gruppen_zeigen();
@@ -202,7 +201,7 @@ void einstellungsfenster::hardware_gruppen_zeigen() {
 void einstellungsfenster::hardware_uebernehmen() {
     messhardware& h = um_.ziel.einst.hardware;
     for (std::size_t nummer = 1; nummer < hardware.size(); ++nummer) {
-        h.waehlen(static_cast<int>(nummer), hardware.at(nummer).gesetzt());
+        h.waehlen(static_cast<hardware_art>(nummer), hardware.at(nummer).gesetzt());
     }
     h.simulation_ableiten();
 }

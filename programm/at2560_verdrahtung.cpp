@@ -10,15 +10,12 @@
 namespace tarvel {
 
 at2560_verdrahtung::at2560_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : at({um.einst, um.txt, um.ablage, um.ereignisse, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.serienports,
+    : geraet_mit_fenster(um, alle),
+      at({um.einst, um.txt, um.ablage, um.ereignisse, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.serienports,
           um.dienste.meldungen, alle.rennverbindung(), alle}),
       uart_einstellungen({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
                           um.dienste.serienports}),
-      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}),
-      einst_(um.einst),
-      optionen_(um.einstellungsfenster),
-      pflege_(um.pflege),
-      alle_(alle) {
+      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}) {
     fenster_verbinden(um);
     uart_einstellungen.zugang = this;
     uart_profildatei.gewaehlt = [this](const std::string& name) {
@@ -37,12 +34,6 @@ void at2560_verdrahtung::fenster_verbinden(const geraete_umgebung& um) {
                                                 optionen.uart_portwerte_uebernehmen();
                                                 fenster.zeigen(fenstername::UART_einstellungen, anzeige_art::modal);
                                             });
-}
-
-void at2560_verdrahtung::geraet_verbinden() {
-    if (einst_.hardware.hw_uart) {
-        alle_.hardware_starten(false);
-    }
 }
 
 bool at2560_verdrahtung::einstellungen_speichern() {

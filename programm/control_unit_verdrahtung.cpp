@@ -6,11 +6,10 @@
 namespace tarvel {
 
 control_unit_verdrahtung::control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle},
+    : geraet_mit_fenster(um, alle),
+      cu({um.einst, um.rennen.umgebung.param, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle},
          um.dienste),
-      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, um.dienste),
-      einst_(um.einst),
-      pflege_(um.pflege) {
+      cu_eigenschaften({um.einst, um.txt, um.ablage, um.fenster}, um.dienste) {
     um.form1.cu_oeffnen = [&fenster = um.fenster] {
         fenster.zeigen(fenstername::cu_eigenschaften, anzeige_art::modal);
     };

@@ -3,12 +3,12 @@
 #include "hardware/control_unit.h"
 #include "hardware/cu_eigenschaften.h"
 #include "programm/einstellungspflege.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The Control Unit and its window.
-class control_unit_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class control_unit_verdrahtung final : public geraet_mit_fenster {
 public:
     control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -18,13 +18,9 @@ public:
     tarvel::cu_eigenschaften cu_eigenschaften;
 
 private:
-    void geraet_trennen() override { cu.schliessen(); }
     void geraet_verbinden() override;
     int verworfene_saetze() const override { return cu.verworfene_saetze(); }
     bool einstellungen_speichern() override { return pflege_.speichern_mit_feldern(); }
-
-    const einstellungen& einst_;
-    einstellungspflege& pflege_;
 };
 
 }  // namespace tarvel

@@ -11,23 +11,14 @@
 namespace tarvel {
 
 druckeranschluss_verdrahtung::druckeranschluss_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : anschluss({um.einst, um.ereignisse, um.dienste.abtaster, um.dienste.druckerport, alle.rennverbindung()}),
+    : geraet_mit_fenster(um, alle),
+      anschluss({um.einst, um.ereignisse, um.dienste.abtaster, um.dienste.druckerport, alle.rennverbindung()}),
       drucker_fenster({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
-                       um.dienste.druckerport}),
-      einst_(um.einst),
-      optionen_(um.einstellungsfenster),
-      pflege_(um.pflege),
-      alle_(alle) {
+                       um.dienste.druckerport}) {
     drucker_fenster.zugang = this;
     um.einstellungsfenster.aktion_verbinden("lpt_einrichten", [&fenster = um.fenster] {
         fenster.zeigen(fenstername::drucker_fenster, anzeige_art::modal);
     });
-}
-
-void druckeranschluss_verdrahtung::geraet_verbinden() {
-    if (einst_.hardware.hw_lpt) {
-        alle_.hardware_starten(false);
-    }
 }
 
 bool druckeranschluss_verdrahtung::einstellungen_speichern() {

@@ -2,12 +2,12 @@
 
 #include "hardware/drucker_fenster.h"
 #include "hardware/druckeranschluss.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The printer port and the window of its pins.
-class druckeranschluss_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class druckeranschluss_verdrahtung final : public geraet_mit_fenster {
 public:
     druckeranschluss_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -18,14 +18,7 @@ public:
     tarvel::drucker_fenster drucker_fenster;
 
 private:
-    void geraet_trennen() override { anschluss.schliessen(); }
-    void geraet_verbinden() override;
     bool einstellungen_speichern() override;
-
-    einstellungen& einst_;
-    tarvel::einstellungsfenster& optionen_;
-    einstellungspflege& pflege_;
-    messgeraete& alle_;
 };
 
 }  // namespace tarvel

@@ -10,23 +10,14 @@
 namespace tarvel {
 
 iow_verdrahtung::iow_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : iow({um.einst, um.txt, um.ablage, um.ereignisse, um.ausgaben, um.dienste.zeitgeber, um.dienste.abtaster,
+    : geraet_mit_fenster(um, alle),
+      iow({um.einst, um.txt, um.ablage, um.ereignisse, um.ausgaben, um.dienste.zeitgeber, um.dienste.abtaster,
            um.dienste.bibliotheken, um.dienste.meldungen, alle.rennverbindung(), alle}),
       usbtest({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
-               um.dienste.bibliotheken}),
-      einst_(um.einst),
-      optionen_(um.einstellungsfenster),
-      pflege_(um.pflege),
-      alle_(alle) {
+               um.dienste.bibliotheken}) {
     usbtest.zugang = this;
     um.einstellungsfenster.aktion_verbinden(
         "iow_einrichten", [&fenster = um.fenster] { fenster.zeigen(fenstername::usbtest, anzeige_art::modal); });
-}
-
-void iow_verdrahtung::geraet_verbinden() {
-    if (einst_.hardware.hw_iow) {
-        alle_.hardware_starten(false);
-    }
 }
 
 bool iow_verdrahtung::einstellungen_speichern() {

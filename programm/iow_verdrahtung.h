@@ -2,12 +2,12 @@
 
 #include "hardware/iow_40.h"
 #include "hardware/usbtest.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The IO board and the window of its pins.
-class iow_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class iow_verdrahtung final : public geraet_mit_fenster {
 public:
     iow_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -18,14 +18,7 @@ public:
     tarvel::usbtest usbtest;
 
 private:
-    void geraet_trennen() override { iow.schliessen(); }
-    void geraet_verbinden() override;
     bool einstellungen_speichern() override;
-
-    einstellungen& einst_;
-    tarvel::einstellungsfenster& optionen_;
-    einstellungspflege& pflege_;
-    messgeraete& alle_;
 };
 
 }  // namespace tarvel

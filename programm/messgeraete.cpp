@@ -15,7 +15,8 @@ messgeraete::messgeraete(const geraete_umgebung& um)
     um_.rennen.befehle.darf_starten = [this] { return trotzdem_starten(); };
     for (const geraet_anlegen anlegen : geraetetabelle()) {
         alle_.push_back({anlegen(um_, *this)});
-        um_.einstellungsfenster.unterstuetzt.at(static_cast<std::size_t>(alle_.back().teile->geraet().nummer())) = true;
+        um_.einstellungsfenster.unterstuetzt.at(static_cast<std::size_t>(alle_.back().teile->geraet().welches())) =
+            true;
     }
 }
 
@@ -122,7 +123,7 @@ void messgeraete::port_fehlt(const std::string& meldung) {
 }
 
 void messgeraete::nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldung) {
-    um_.einst.hardware.waehlen(geraet.nummer(), false);
+    um_.einst.hardware.waehlen(geraet.welches(), false);
     um_.einst.hardware.hw_simulation = true;
     trennen(geraet);
     ausgaben_anzeigen();

@@ -51,7 +51,7 @@ private:
         bool wartet = false;  ///< to be opened
     };
 
-    bool gewaehlt(const eintrag& eines) const { return um_.einst.hardware.gewaehlt(eines.teile->geraet().nummer()); }
+    bool gewaehlt(const eintrag& eines) const { return um_.einst.hardware.gewaehlt(eines.teile->geraet().welches()); }
     void anschliessen(messgeraet& geraet);
     void trennen(messgeraet& geraet);
     void wartende_oeffnen(bool auch_aufhaltende);

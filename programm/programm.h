@@ -114,7 +114,13 @@ private:
     std::unique_ptr<tarvel::rennprotokoll> protokoll_;
 
 public:
-    // What the wings hold. Who uses one includes its header.
+    /// The wings, for what has no name of its own here: a window that only its drawing asks for needs none.
+    startfluegel& start_fluegel() { return *start_; }
+    ergebnisfluegel& ergebnis_fluegel() { return *ergebnisse_; }
+    optionsfluegel& options_fluegel() { return *optionen_; }
+    wettkampffluegel& wettkampf_fluegel() { return *wettkampf_; }
+
+    // What the wings hold and many ask for. Who uses one includes its header.
     tarvel::form3& form3;
     tarvel::update_form& update_form;
     tarvel::rennen& rennen;

@@ -11,16 +11,13 @@
 namespace tarvel {
 
 race_control_verdrahtung::race_control_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : verbindung(um.dienste.serienports, um.dienste.zeitgeber, um.dienste.bibliotheken),
+    : geraet_mit_fenster(um, alle),
+      verbindung(um.dienste.serienports, um.dienste.zeitgeber, um.dienste.bibliotheken),
       box({um.einst, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle, um.dienste.uhr,
            um.dienste.zeitgeber, um.dienste.meldungen},
           verbindung),
       rc_einstellungen({um.einst, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber}, verbindung),
-      einst_(um.einst),
-      optionen_(um.einstellungsfenster),
-      form1_(um.form1),
-      pflege_(um.pflege),
-      alle_(alle) {
+      form1_(um.form1) {
     rc_einstellungen.zugang = this;
     optionen_.aktion_verbinden("rc_einrichten", [this] {
         rc_einstellungen.oeffnen(std::get<auswahl>(optionen_.zeile("selComPort").element).text());
@@ -28,11 +25,10 @@ race_control_verdrahtung::race_control_verdrahtung(const geraete_umgebung& um, m
 }
 
 void race_control_verdrahtung::geraet_verbinden() {
-    if (einst_.hardware.hw_race_control) {
-        alle_.hardware_starten(false);
-    } else {
+    if (!einst_.hardware.hw_race_control) {
         verbindung.schliessen();
     }
+    geraet_mit_fenster::geraet_verbinden();
 }
 
 bool race_control_verdrahtung::einstellungen_speichern() {

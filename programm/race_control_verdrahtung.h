@@ -2,12 +2,12 @@
 
 #include "hardware/race_control.h"
 #include "hardware/rc_einstellungen.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The Race Control box and its window.
-class race_control_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class race_control_verdrahtung final : public geraet_mit_fenster {
 public:
     race_control_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -19,15 +19,10 @@ public:
     tarvel::rc_einstellungen rc_einstellungen;
 
 private:
-    void geraet_trennen() override { box.schliessen(); }
     void geraet_verbinden() override;
     bool einstellungen_speichern() override;
 
-    einstellungen& einst_;
-    tarvel::einstellungsfenster& optionen_;
     tarvel::form1& form1_;
-    einstellungspflege& pflege_;
-    messgeraete& alle_;
 };
 
 }  // namespace tarvel

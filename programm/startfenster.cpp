@@ -20,7 +20,7 @@ sprachliste update_form::sprache_up() {
 }
 
 void update_form::laden() {
-    sprache_up().anwenden(ablage_);
+    texte_lesen();
     bestzeiten_umziehen(ablage_);
     fensterschliessen_->an();
 }

@@ -10,23 +10,14 @@
 namespace tarvel {
 
 timekeeper_verdrahtung::timekeeper_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : tk_einstellungen({um.einst, um.txt, um.ablage, um.fenster}, um.dienste),
+    : geraet_mit_fenster(um, alle),
+      tk_einstellungen({um.einst, um.txt, um.ablage, um.fenster}, um.dienste),
       tk({um.einst, um.txt, um.ablage, um.ereignisse, um.rennen.zeit, um.ausgaben, alle.rennverbindung(), alle,
           [this] { return tk_einstellungen.nicht_da(); }, [this] { return tk_einstellungen.weg(); }},
-         um.dienste),
-      einst_(um.einst),
-      optionen_(um.einstellungsfenster),
-      pflege_(um.pflege),
-      alle_(alle) {
+         um.dienste) {
     um.einstellungsfenster.aktion_verbinden(
         "tk_einrichten", [&fenster = um.fenster] { fenster.zeigen(fenstername::timekeeper, anzeige_art::modal); });
     tk_einstellungen.zugang = this;
-}
-
-void timekeeper_verdrahtung::geraet_verbinden() {
-    if (einst_.hardware.hw_timekeeper) {
-        alle_.hardware_starten(false);
-    }
 }
 
 bool timekeeper_verdrahtung::einstellungen_speichern() {

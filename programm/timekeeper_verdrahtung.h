@@ -2,12 +2,12 @@
 
 #include "hardware/timekeeper.h"
 #include "hardware/tk_einstellungen.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The Timekeeper and its window.
-class timekeeper_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class timekeeper_verdrahtung final : public geraet_mit_fenster {
 public:
     timekeeper_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -18,15 +18,8 @@ public:
     timekeeper tk;
 
 private:
-    void geraet_trennen() override { tk.schliessen(); }
-    void geraet_verbinden() override;
     int verworfene_saetze() const override { return tk.verworfene_saetze(); }
     bool einstellungen_speichern() override;
-
-    const einstellungen& einst_;
-    tarvel::einstellungsfenster& optionen_;
-    einstellungspflege& pflege_;
-    messgeraete& alle_;
 };
 
 }  // namespace tarvel

@@ -12,13 +12,13 @@
 namespace tarvel {
 
 tx_verdrahtung::tx_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
-    : modul({um.einst, um.txt, um.ablage, um.ereignisse, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.serienports,
+    : geraet_mit_fenster(um, alle),
+      modul({um.einst, um.txt, um.ablage, um.ereignisse, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.serienports,
              alle.rennverbindung(), alle}),
       form5({um.ablage, um.fenster, um.dienste.zeitgeber}, modul),
       frm_main({um.einst, um.txt, um.ablage, um.fenster}, modul, um.dienste),
       s6_fragefenster(um.ablage, um.fenster),
-      um_(um),
-      alle_(alle) {
+      um_(um) {
     form5.bei_erfolg = [this] { wechsel_pruefen(); };
     frm_main.zugang = this;
     auto& modus = std::get<auswahl>(um.einstellungsfenster.zeile("optModus").element);
@@ -45,12 +45,6 @@ void tx_verdrahtung::geraet_trennen() {
         modul.schliessen();
     } else if (modul.verbunden()) {
         um_.ausgaben.wiederholen();
-    }
-}
-
-void tx_verdrahtung::geraet_verbinden() {
-    if (um_.einst.hardware.hw_4x4()) {
-        alle_.hardware_starten(false);
     }
 }
 

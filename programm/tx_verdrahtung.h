@@ -5,12 +5,12 @@
 #include "hardware/form5.h"
 #include "hardware/frm_main.h"
 #include "hardware/s6_fragefenster.h"
-#include "programm/geraeteverdrahtung.h"
+#include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
 
 /// The 4x4 USB module with its windows and the two questions about its mode.
-class tx_verdrahtung final : public geraeteverdrahtung, private geraetezugang {
+class tx_verdrahtung final : public geraet_mit_fenster {
 public:
     tx_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
@@ -26,13 +26,11 @@ public:
 
 private:
     void geraet_trennen() override;
-    void geraet_verbinden() override;
     bool einstellungen_speichern() override;
     void zeilen_zeigen();
     void wechsel_pruefen();
 
     geraete_umgebung um_;
-    messgeraete& alle_;
     std::optional<bool> analog_;  ///< kind of mode that the program has run in so far
 };
 

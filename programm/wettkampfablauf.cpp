@@ -17,7 +17,7 @@ void wettkampfablauf::beginnen(const wettkampfvorgabe& vorgabe) {
         }
     }
     neu->beginn = datum_text(um_.kalender.jetzt());
-    neu->rennlaenge = um_.param.renn_laenge;
+    neu->rennlaenge = um_.param.renn_laenge.zahl();
     neu->qualifying_an = vorgabe.qualifying;
     neu->wertung = vorgabe.qualifying ? sortier_modus::beste : um_.param.auswertung_nach_rennen;
     eroeffnen(std::move(*neu));
@@ -74,10 +74,10 @@ bool wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
         return false;
     }
     if (gelesen.rennlaenge > 0) {
-        param.renn_laenge = gelesen.rennlaenge;
+        param.renn_laenge = rennziel::aus_zahl(param.renn_laenge.art(), gelesen.rennlaenge);
     } else if (param.ist_zeitrennen()) {
         wettkampfdatei_uebergeben(einrichtung, param);
-        param.renn_laenge = param.renndauer_ms;
+        param.renn_laenge = rennziel::zeit(param.renndauer_ms);
     }
     param.einrichtung_wiederherstellen();
     um_.param = param;

@@ -14,7 +14,9 @@ fortsetzung::fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(
         }
         umsetzen(herkunft);
     });
-    vorbereiten_ = um_.protokoll.eingang("fortsetzen", 1, [this](const mitschrift::werte& w) { einrichten(w[0]); });
+    vorbereiten_ = um_.protokoll.eingang("fortsetzen", 1, [this](const mitschrift::werte& w) {
+        einrichten(rennziel::aus_zahl(um_.param.renn_ziel.art(), w[0]));
+    });
 }
 
 void fortsetzung::fahrer_umsetzen(const spuren<int>& herkunft) {
@@ -56,10 +58,10 @@ void fortsetzung::umsetzen(const spuren<int>& herkunft) {
 zeit_ms fortsetzung::gefahren() const {
     const renn_zustand& zustand = um_.zustand;
     const zeit_ms gelaufen = zustand.renn_ende_stempel - zustand.start_zeit - zustand.pause_abzug;
-    return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel) : gelaufen;
+    return um_.ist_zeitrennen() ? std::min(gelaufen, um_.param.renn_ziel.ms()) : gelaufen;
 }
 
-void fortsetzung::einrichten(zeit_ms neues_ziel) {
+void fortsetzung::einrichten(rennziel neues_ziel) {
     um_.param.spuren_wiederherstellen();
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.alle_aus();
@@ -70,7 +72,7 @@ void fortsetzung::einrichten(zeit_ms neues_ziel) {
     dunkel_ = um_.bahn.Nachtabschaltung.sichtbar();
     um_.param.renn_ziel = neues_ziel;
     if (um_.ist_zeitrennen()) {
-        um_.param.renndauer_rest_ms = neues_ziel - gefahren_ms;
+        um_.param.renndauer_rest_ms = neues_ziel.ms() - gefahren_ms;
         um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
         t_.uhr.restzeit_vorbereiten(um_.param.renndauer_rest_ms);
     }

@@ -26,8 +26,8 @@ public:
     void fahrer_umsetzen(const spuren<int>& herkunft);
     /// Time driven up to the end, without pauses and without the run-on.
     zeit_ms gefahren() const;
-    /// All that comes before the light. `neues_ziel` counts from the first start: laps, or ms in a time race.
-    void vorbereiten(zeit_ms neues_ziel) { um_.protokoll.geschieht(vorbereiten_, {neues_ziel}); }
+    /// All that comes before the light. `neues_ziel` counts from the first start.
+    void vorbereiten(rennziel neues_ziel) { um_.protokoll.geschieht(vorbereiten_, {neues_ziel.zahl()}); }
     /// The race ends before it has gone on: its result is the earlier one.
     void zuruecknehmen();
     /// Green: the break comes off the race and off the lap that each lane is in.
@@ -35,7 +35,7 @@ public:
 
 private:
     void umsetzen(const spuren<int>& herkunft);
-    void einrichten(zeit_ms neues_ziel);
+    void einrichten(rennziel neues_ziel);
     void spur_freigeben(int spur);
     void standzeit_abziehen(int spur);
 
@@ -43,7 +43,7 @@ private:
     teile t_;
     int umsetzen_;  ///< numbers of the doings
     int vorbereiten_;
-    zeit_ms ziel_vorher_ = 0;
+    rennziel ziel_vorher_;
     spuren<bool> daheim_;  ///< lanes that were home
     bool abbruch_vorher_ = false;
     bool dunkel_ = false;  ///< the dark cover lay over the race

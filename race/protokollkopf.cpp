@@ -22,7 +22,6 @@ void jedes_feld(Kopf& k, Feld feld) {
     feld("Zeitpunkt", k.zeitpunkt);
     feld("Beginn", k.beginn);
     auto& p = k.param;
-    feld("Art", p.art);
     feld("Ziel", p.renn_ziel);
     feld("Laenge", p.renn_laenge);
     feld("Dauer", p.renndauer_ms);
@@ -49,6 +48,8 @@ template <class Wert>
 std::string als_text(const Wert& wert) {
     if constexpr (std::is_same_v<Wert, std::string>) {
         return wert;
+    } else if constexpr (std::is_same_v<Wert, rennziel>) {
+        return als_text(wert.art()) + " " + std::to_string(wert.zahl());
     } else if constexpr (std::is_same_v<Wert, double>) {
         constexpr std::size_t stellen = 32;
         std::array<char, stellen> text{};
@@ -62,6 +63,10 @@ template <class Wert>
 void aus_text(std::string_view text, Wert& wert) {
     if constexpr (std::is_same_v<Wert, std::string>) {
         wert = text;
+    } else if constexpr (std::is_same_v<Wert, rennziel>) {
+        renn_art art{};
+        aus_text(naechstes_wort(text), art);
+        wert = rennziel::aus_zahl(art == renn_art::runden ? art : renn_art::zeit, als_zahl(text).value_or(0));
     } else if constexpr (std::is_same_v<Wert, double>) {
         std::from_chars(text.data(), text.data() + text.size(), wert);
     } else {

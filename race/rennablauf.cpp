@@ -104,7 +104,7 @@ void rennablauf::rennstart_vorbereiten() {
         spur.tank_halt = {};
         spur.strafzeit = {};
     }
-    t_.uhr.restzeit_vorbereiten(um_.param.renn_ziel);
+    t_.uhr.restzeit_vorbereiten(um_.ist_zeitrennen() ? um_.param.renn_ziel.ms() : 0);
     ampel_takt_bestimmen();
     um_.quellen.melden(&messquelle::rennen_bereit);
     um_.bahn.Command1.aktiviert(false);

@@ -56,12 +56,13 @@ void rennansicht::geraetealarm_setzen(const std::string& text) {
     alarm.sichtbar(!text.empty());
 }
 
-std::string rennansicht::ziel_text(renn_art art, zeit_ms ziel) const {
-    if (art == renn_art::runden) {
-        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende : std::to_string(ziel) + " " + um_.txt.text_runden;
+std::string rennansicht::ziel_text(const rennziel& ziel) const {
+    if (!ziel.ist_zeit()) {
+        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende
+                                      : std::to_string(ziel.runden()) + " " + um_.txt.text_runden;
     }
     const bahn1& bahn = um_.bahn;
-    const zeit_teile dauer = zeit_zerlegen(ziel);
+    const zeit_teile dauer = zeit_zerlegen(ziel.ms());
     const std::string stunden =
         dauer.stunden > 0 ? std::to_string(dauer.stunden) + " " + bahn.wort.stunden + " " : std::string();
     return stunden + std::to_string(dauer.minuten) + um_.einst.trennzeichen[0] + ziffern(dauer.sekunden, 2) + " " +

@@ -28,9 +28,8 @@ public:
     void fusszeile_setzen(const std::string& text, bool warnung);
     /// The timing device is gone: says so with a sound, large, until `text` is empty.
     void geraetealarm_setzen(const std::string& text);
-    /// What is driven for; `ziel` in laps, or ms in a time race.
-    std::string ziel_text(renn_art art, zeit_ms ziel) const;
-    void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text(um_.param.art, um_.param.renn_ziel)); }
+    std::string ziel_text(const rennziel& ziel) const;
+    void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text(um_.param.renn_ziel)); }
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
     /// The same with what the lanes have, for a race that goes on.

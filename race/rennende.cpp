@@ -27,11 +27,11 @@ void rennende::zuruecksetzen() {
 }
 
 bool rennende::hat_das_ziel(int spur) const {
-    return um_.ist_rundenrennen() && um_.zustand.konto.runden(spur) == um_.param.renn_ziel;
+    return um_.ist_rundenrennen() && um_.zustand.konto.runden(spur) == um_.param.renn_ziel.runden();
 }
 
 bool rennende::am_ziel(int spur) const {
-    return um_.zustand.konto.runden(spur) == um_.param.renn_ziel && um_.param.spur_aktiv_gemerkt[spur];
+    return um_.zustand.konto.runden(spur) == um_.param.renn_ziel.runden() && um_.param.spur_aktiv_gemerkt[spur];
 }
 
 void rennende::pruefen() {
@@ -110,7 +110,7 @@ void rennende::nachlauf_zeit_starten() {
 
 void rennende::nachlauf_runden_starten() {
     for (const int spur : alle_spuren) {
-        if (um_.zustand.konto.runden(spur) == um_.param.renn_ziel && !um_.zustand.spur[spur].ziel_erreicht) {
+        if (um_.zustand.konto.runden(spur) == um_.param.renn_ziel.runden() && !um_.zustand.spur[spur].ziel_erreicht) {
             spur_ziel_setzen(spur);
         }
     }

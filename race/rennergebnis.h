@@ -45,8 +45,7 @@ struct rennergebnis {
         int rundenzahl() const { return runden.empty() ? 0 : static_cast<int>(runden.size()) - 1; }
     };
 
-    std::optional<renn_art> art = {};
-    std::optional<zeit_ms> ziel = {};           ///< laps, or ms in a time race
+    std::optional<rennziel> ziel = {};
     std::optional<sortier_modus> wertung = {};  ///< by what the places go
     std::optional<bool> vorzeitig = {};         ///< ended by hand
     std::optional<double> massstab = {};        ///< speeds are those of the original, so many times as large

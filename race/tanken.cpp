@@ -333,7 +333,7 @@ void tanken::beenden() {
 }
 
 bool tanken::letzte_runde(int spur) const {
-    return um_.ist_rundenrennen() && um_.zustand.konto.laufende(spur) == um_.param.renn_ziel;
+    return um_.ist_rundenrennen() && um_.zustand.konto.laufende(spur) == um_.param.renn_ziel.runden();
 }
 
 void tanken::runde_zurueckgeben(int spur) {

@@ -5,10 +5,10 @@
 
 #include "core/fensternamen.h"
 #include "core/mitschrift.h"
+#include "core/rennziel.h"
 #include "core/spuren.h"
 #include "platform/dauer.h"
 #include "platform/schnittstelle.h"
-#include "platform/uhr.h"
 
 namespace tarvel {
 
@@ -70,8 +70,8 @@ public:
     virtual bool mit_spurwechsel() const { return true; }
     /// Whatever the operator has chosen: lane i takes the driver of lane `[i]`, or keeps its own at 0.
     virtual std::optional<spuren<int>> fester_wechsel() const { return {}; }
-    /// Largest target to which the race may go on from its result, in laps or ms; none if it may not.
-    virtual std::optional<zeit_ms> fortsetzbar_bis() const = 0;
+    /// Largest target to which the race may go on from its result; none if it may not.
+    virtual std::optional<rennziel> fortsetzbar_bis() const = 0;
     /// The result can be saved as a file of its own.
     virtual bool mit_eigener_datei() const { return true; }
     virtual ausweg weg_hinaus() const { return ausweg::hauptmenue; }

@@ -103,9 +103,9 @@ void auswertung::zielsignal_beenden() {
 
 std::string auswertung::kopf() const {
     const rennergebnis& e = ergebnis();
-    const renn_art art = e.art.value_or(renn_art::runden);
-    std::string kopf = art == renn_art::zeit ? wort_.zeitrennen : wort_.rundenrennen;
-    kopf += "  ·  " + r_.ansicht.ziel_text(art, e.ziel.value_or(0));
+    const rennziel ziel = e.ziel.value_or(rennziel::runden(0));
+    std::string kopf = ziel.ist_zeit() ? wort_.zeitrennen : wort_.rundenrennen;
+    kopf += "  ·  " + r_.ansicht.ziel_text(ziel);
     const auto modus = static_cast<std::size_t>(gueltiger_modus(e.wertung.value_or(sortier_modus::runden)));
     kopf += "  ·  " + wort_.wertung.at(modus - 1);
     if (e.vorzeitig.value_or(false)) {

@@ -143,6 +143,7 @@ private:
 
     void befehle_verbinden();
     void spurbefehle_verbinden(std::size_t i);
+    void tipps_eintragen(sprachliste& texte);
     void ansagen_setzen();
     void bedienung_einrichten();
     void ziel_vorschlagen();
@@ -189,12 +190,14 @@ private:
         return selbst_.was == schritt::neu_starten || selbst_.was == schritt::fortsetzen;
     }
     void wechselschema_anwenden();
-    zeit_ms ziel_max() const { return um_.teil_von->fortsetzbar_bis().value_or(0); }
+    rennziel ziel_max() const {
+        return um_.teil_von->fortsetzbar_bis().value_or(rennziel::aus_zahl(um_.param.renn_ziel.art(), 0));
+    }
     /// Of the next part, as long as the first.
-    zeit_ms naechstes_ziel() const;
-    bool ziel_lesen(zeit_ms& ziel) const;
+    rennziel naechstes_ziel() const;
+    bool ziel_lesen(rennziel& ziel) const;
     /// The same with its messages.
-    bool ziel_pruefen(zeit_ms& ziel);
+    bool ziel_pruefen(rennziel& ziel);
 
     rennen& r_;
     const renn_umgebung& um_;

@@ -3,6 +3,7 @@
 #include "core/renndauer.h"
 #include "core/text.h"
 #include "core/wechselschema.h"
+#include "core/weitergeben.h"
 #include "core/zahleneingabe.h"
 #include "results/auswertung.h"
 
@@ -17,7 +18,7 @@ void auswertung::befehle_verbinden() {
     Command1.bei_klick = [this] { bestzeiten_vor(aktion::wiederholen); };
     Command2.bei_klick = [this] { bestzeiten_vor(aktion::neu_starten); };
     Command3.bei_klick = [this] {
-        zeit_ms ziel = 0;
+        rennziel ziel;
         if (ziel_pruefen(ziel)) {
             bestzeiten_vor(aktion::fortsetzen);
         }
@@ -33,13 +34,6 @@ void auswertung::befehle_verbinden() {
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
     Command10.bei_klick = [this] { auswertung_anzeigen(); };
     Command_verlauf.bei_klick = [this] { verlauf_zeigen(!Frame_verlauf.sichtbar()); };
-    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
-        knopf.bei_klick = [&wohin] {
-            if (wohin) {
-                wohin();
-            }
-        };
-    };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
@@ -256,30 +250,33 @@ void auswertung::cmd2_fortsetzung() {
 
 void auswertung::ziel_vorschlagen() {
     const bool zeitrennen = um_.ist_zeitrennen();
-    const zeit_ms ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max());
-    neues_ziel.text(zeitrennen ? renndauer_aus_ms(ziel).text() : std::to_string(ziel));
+    const rennziel ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max());
+    neues_ziel.text(zeitrennen ? renndauer_aus_ms(ziel.ms()).text() : std::to_string(ziel.runden()));
     neues_ziel.tipp(zeitrennen ? wort_.minuten_hinweis : "");
     ziel_einheit.text(zeitrennen ? wort_.minuten : wort_.runden);
 }
 
-zeit_ms auswertung::naechstes_ziel() const {
-    zeit_ms gefahren = um_.ist_zeitrennen() ? r_.fortsetzung.gefahren() : 0;
+rennziel auswertung::naechstes_ziel() const {
+    int meiste = 0;
     for (const rennergebnis::spur& s : ergebnis().spuren) {
-        gefahren = um_.ist_zeitrennen() ? gefahren : std::max<zeit_ms>(gefahren, s.rundenzahl());
+        meiste = std::max(meiste, s.rundenzahl());
     }
+    const rennziel gefahren =
+        um_.ist_zeitrennen() ? rennziel::zeit(r_.fortsetzung.gefahren()) : rennziel::runden(meiste);
     return std::min(gefahren, um_.param.renn_ziel) + um_.param.renn_laenge;
 }
 
-bool auswertung::ziel_lesen(zeit_ms& ziel) const {
+bool auswertung::ziel_lesen(rennziel& ziel) const {
     if (weg_hinaus() == aktion::fortsetzen) {
         ziel = naechstes_ziel();
         return true;
     }
     if (um_.ist_zeitrennen()) {
-        ziel = renndauer_lesen(neues_ziel.text()).in_ms();
-        return ziel > r_.fortsetzung.gefahren();
+        ziel = rennziel::zeit(renndauer_lesen(neues_ziel.text()).in_ms());
+        return ziel.ms() > r_.fortsetzung.gefahren();
     }
-    ziel = ganzzahl_lesen(neues_ziel.text(), 0, 99999999);
+    const auto runden = static_cast<int>(ganzzahl_lesen(neues_ziel.text(), 0, 99999999));
+    ziel = rennziel::runden(runden);
     int meiste = 0;
     int wenigste = runden_max;
     for (const rennergebnis::spur& s : ergebnis().spuren) {
@@ -289,10 +286,10 @@ bool auswertung::ziel_lesen(zeit_ms& ziel) const {
         }
     }
     // the last may still come home to a target that the first has reached
-    return ziel > meiste || (ziel == meiste && ziel > wenigste && !um_.einst.zielmodus_erster);
+    return runden > meiste || (runden == meiste && runden > wenigste && !um_.einst.zielmodus_erster);
 }
 
-bool auswertung::ziel_pruefen(zeit_ms& ziel) {
+bool auswertung::ziel_pruefen(rennziel& ziel) {
     const bool ziel_offen = ziel_lesen(ziel);
     const bool ausgefahren = !ziel_offen && geht_von_selbst_weiter();  // else its own proposal would have been beyond
     if (ausgefahren || std::max(ziel, um_.param.renn_ziel) > ziel_max()) {
@@ -307,7 +304,7 @@ bool auswertung::ziel_pruefen(zeit_ms& ziel) {
 }
 
 void auswertung::cmd3_fortsetzung() {
-    zeit_ms ziel = 0;
+    rennziel ziel;
     if (!ziel_pruefen(ziel)) {
         return;
     }

@@ -40,15 +40,7 @@ sprachliste auswertung::sprache_a() {
     texte.text("Als PDF speichern", Command_pdf).text("bis", Label_bis);
     texte.text("Runden insgesamt", wort_.runden).text("Minuten insgesamt", wort_.minuten);
     texte.text("Das Ergebnis ist nicht gespeichert. Trotzdem weiter?", wort_.verlust);
-    texte.tipp("Dasselbe Rennen noch einmal, jeder auf seiner Spur", Command1);
-    texte.tipp("Ein neues Rennen, in dem jeder Fahrer auf die nächste Spur wechselt", Command2);
-    texte.tipp("Das Rennen geht mit allen Runden weiter, und jeder Fahrer wechselt auf die nächste Spur", Command3);
-    texte.tipp("Die Fahrzeuge wechseln die Spur mit ihren Fahrern", tauschfahrzeug);
-    texte.tipp("Die markierte Runde war keine: ihre Zeit zählt zur Runde davor", Command8);
-    texte.tipp("Meter, die ein Fahrzeug über seine letzte volle Runde hinaus gekommen ist", Command6);
-    texte.tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
-    texte.tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
-    texte.tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
+    tipps_eintragen(texte);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
     texte.text("Wertung nach Metern", wort_.wertung[0]).text("Wertung nach Runden", wort_.wertung[1]);
@@ -61,6 +53,18 @@ sprachliste auswertung::sprache_a() {
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl).text("Die Spur ist nur so lang:", wort_.zu_viele_meter);
     texte.text("Trotzdem eintragen?", wort_.trotzdem);
     return texte.text("Weiter in:", wort_.weiter_in);
+}
+
+void auswertung::tipps_eintragen(sprachliste& texte) {
+    texte.tipp("Dasselbe Rennen noch einmal, jeder auf seiner Spur", Command1);
+    texte.tipp("Ein neues Rennen, in dem jeder Fahrer auf die nächste Spur wechselt", Command2);
+    texte.tipp("Das Rennen geht mit allen Runden weiter, und jeder Fahrer wechselt auf die nächste Spur", Command3);
+    texte.tipp("Die Fahrzeuge wechseln die Spur mit ihren Fahrern", tauschfahrzeug);
+    texte.tipp("Die markierte Runde war keine: ihre Zeit zählt zur Runde davor", Command8);
+    texte.tipp("Meter, die ein Fahrzeug über seine letzte volle Runde hinaus gekommen ist", Command6);
+    texte.tipp_fuer_alle("Sektorzeiten und Geschwindigkeiten einblenden", cmd_anzeige);
+    texte.tipp_fuer_alle("Nächste Runde markieren", cmd_rd_add);
+    texte.tipp_fuer_alle("Markierte Runde löschen", cmd_rd_inc);
 }
 
 void auswertung::ansagen_setzen() {

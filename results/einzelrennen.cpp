@@ -4,9 +4,9 @@
 
 namespace tarvel {
 
-zeit_ms renn_maximum(const renn_parameter& param) {
+rennziel renn_maximum(const renn_parameter& param) {
     constexpr dauer_ms laengstes = std::chrono::minutes(1499);
-    return param.ist_zeitrennen() ? zeit_ms{laengstes.count()} : zeit_ms{runden_max};
+    return param.ist_zeitrennen() ? rennziel::zeit(laengstes.count()) : rennziel::runden(runden_max);
 }
 
 bool einzelrennen::uebernehmen(const rennergebnis& ergebnis, weitergang /*wie*/) {

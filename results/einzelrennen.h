@@ -8,8 +8,8 @@
 
 namespace tarvel {
 
-/// The largest target that a race may go on to: laps, or ms in a time race.
-zeit_ms renn_maximum(const renn_parameter& param);
+/// The largest target that a race may go on to.
+rennziel renn_maximum(const renn_parameter& param);
 
 /// A race of its own: its result is saved by itself if the settings say so.
 class einzelrennen : public veranstaltung {
@@ -25,7 +25,7 @@ public:
 
     bool ist_fueller(int spur) const override { return um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]); }
     bool fueller_fahren(bool fortgesetzt) const override { return !fortgesetzt || um_.einst.freie_slots; }
-    std::optional<zeit_ms> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
+    std::optional<rennziel> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
 
 protected:

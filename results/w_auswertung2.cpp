@@ -4,6 +4,7 @@
 
 #include "core/ordnerblick.h"
 #include "core/text.h"
+#include "core/weitergeben.h"
 
 namespace tarvel {
 namespace {
@@ -76,13 +77,6 @@ void w_auswertung2::befehle_verbinden() {
     Command13.bei_klick = [this] { debug_umschalten(); };
     Command5.bei_klick = [this] { schliessen(); };
     debug_.bei_ende = [this] { Command13.text(wort_.debug_auf); };
-    const auto weitergeben = [](befehl& knopf, const std::function<void()>& wohin) {
-        knopf.bei_klick = [&wohin] {
-            if (wohin) {
-                wohin();
-            }
-        };
-    };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
 }

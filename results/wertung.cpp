@@ -68,7 +68,6 @@ void wertung::auswerten() {
 
 rennergebnis wertung::kopf_bilden() const {
     rennergebnis neu;
-    neu.art = um_.param.art;
     neu.ziel = um_.param.renn_ziel;
     neu.wertung = um_.param.auswertung_nach_rennen;
     neu.vorzeitig = um_.zustand.rennabbruch;

@@ -150,7 +150,7 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
     EXPECT_EQ(a.ges_meter[0].text(), "65,00 m");
     EXPECT_EQ(a.kmh_label[1].text(), "13,08 / 12,00 km/h") << "the average by the metres driven: 135 m in 40.514 s";
     a.Command1.klicken();
-    EXPECT_EQ(t.p.param.renn_ziel, 3) << "repeated as it was set up";
+    EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(3)) << "repeated as it was set up";
 }
 
 TEST_F(Auswertung, FortgesetztStehenDiePlaetzeSofortNachDenRunden) {

@@ -35,7 +35,7 @@ protected:
 
     void beginnen(wettkampf_modus modus, int fahrer, std::initializer_list<int> lanes) {
         wettkampf neu = test::vereinswettkampf::neu(modus, fahrer, lanes);
-        neu.rennlaenge = t.p.param.renn_laenge;
+        neu.rennlaenge = t.p.param.renn_laenge.zahl();
         abend.beginnen(std::move(neu));
     }
     void oeffnen() {

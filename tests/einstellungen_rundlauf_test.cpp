@@ -53,8 +53,8 @@ protected:
         einrichtung.werte_pruefen();
         renn_parameter param;
         const auto fehler = rennen_uebergeben(einrichtung, p.einst, rennumfang::einzelrennen, param);
-        return std::tuple(fehler, param.art, param.renndauer_ms, param.renn_ziel, param.min_rundenzeit_ms,
-                          param.massstab, param.spurlaenge[1], param.spurlaenge[6]);
+        return std::tuple(fehler, param.renndauer_ms, param.renn_ziel, param.min_rundenzeit_ms, param.massstab,
+                          param.spurlaenge[1], param.spurlaenge[6]);
     }
     void tippen_und_sichern(const std::string& text, const std::string& art) {
         fenster.Command2.klicken();

@@ -205,7 +205,6 @@ TEST_F(Einstellungsdatei, WettkampfdateiHatEineZeileDavorUndIhreDatenDahinter) {
     EXPECT_EQ(neu.datei.rest().back(), "Teilnehmer");
     neu.datei.einstellungen_uebernehmen({});
     wettkampfdatei_uebergeben(neu.einrichtung, neu.param);
-    EXPECT_EQ(neu.param.art, renn_art::runden);
     EXPECT_EQ(neu.param.min_rundenzeit_ms, 4500);
     EXPECT_EQ(neu.param.renndauer_ms, 3600000 + 600000);
     EXPECT_EQ(neu.param.renndauer_rest_ms, neu.param.renndauer_ms);

@@ -42,7 +42,7 @@ TEST_F(Form1, RenndauerInMinutenUndSekunden) {
         f.Command1.klicken();
         EXPECT_EQ(f.renndauer.text(), danach) << eingabe;
         EXPECT_EQ(t.p.param.renndauer_ms, dauer) << eingabe;
-        EXPECT_EQ(t.p.param.renn_ziel, dauer) << eingabe;
+        EXPECT_EQ(t.p.param.renn_ziel, rennziel::zeit(dauer)) << eingabe;
         t.bahn().Command2.klicken();
     };
     pruefen("5,3", "5,30", 330000);
@@ -78,7 +78,7 @@ TEST_F(Form1, OhneLaengeOderSpurKeinRennen) {
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     t.einrichten("Runden", "10000", {1});
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
-    EXPECT_EQ(t.p.param.renn_ziel, 9999);
+    EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(9999));
 }
 
 TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {

@@ -104,7 +104,7 @@ TEST_F(Optionen, UmgekehrteVerdrahtungGiltMitDemUebernehmen) {
 TEST_F(Optionen, GesperrterAnschlussWirdGenannt) {
     t.maschine.anschluesse.gesperrt = "/var/lock/LCK..ttyUSB0";
     t.maschine.meldungen_gezeigt.clear();
-    fenster.hardware[messhardware::at_2560].umschalten();
+    fenster.hardware.at(static_cast<std::size_t>(hardware_art::at_2560)).umschalten();
     fenster.Command1.klicken();
     EXPECT_TRUE(letzte_meldung().starts_with(t.p.txt.meldung[27]));
     EXPECT_TRUE(letzte_meldung().ends_with("/var/lock/LCK..ttyUSB0")) << letzte_meldung();

@@ -37,7 +37,7 @@ protected:
         t.p.form1.renndauer.eingeben("3");
         t.p.form1.Command1.klicken();
         ASSERT_TRUE(offen(fenstername::bahn1));
-        EXPECT_EQ(t.p.param.renn_ziel, 3);
+        EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(3));
         t.maschine.laufen(20000);
         EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet) << "nobody starts it";
         t.bahn().Command1.klicken();
@@ -59,8 +59,7 @@ protected:
 TEST_F(Training, NormalFaehrtWasEingestelltIst) {
     aufstellen("Zeit", "1,3", {1, 2});
     begonnen(trainingsart::normal);
-    EXPECT_EQ(t.p.param.art, renn_art::zeit);
-    EXPECT_EQ(t.p.param.renn_ziel, 90000);
+    EXPECT_EQ(t.p.param.renn_ziel, rennziel::zeit(90000));
     EXPECT_EQ(t.p.form1.renndauer.text(), "1,30");
     t.bahn().Command1.klicken();
     t.maschine.laufen(91000);
@@ -81,8 +80,7 @@ TEST_F(Training, DauertrainingHatKeinEndeUndLaesstDieEingabenWieSieSind) {
         aufstellen(rennart, dauer, {1, 2});
         t.maschine.meldungen_gezeigt.clear();
         begonnen(trainingsart::dauer);
-        EXPECT_EQ(t.p.param.art, renn_art::runden);
-        EXPECT_EQ(t.p.param.renn_ziel, 10000);
+        EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(10000));
         EXPECT_EQ(t.p.param.min_rundenzeit_ms, 5100);
         EXPECT_EQ(t.p.form1.rennart.text(), rennart);
         EXPECT_EQ(t.p.form1.renndauer.text(), dauer);
@@ -102,7 +100,7 @@ TEST_F(Training, DauertrainingHatKeinEndeUndLaesstDieEingabenWieSieSind) {
     EXPECT_EQ(letzte_meldung(), "Rennmaximum erreicht. Fortsetzung nicht möglich.");
     ASSERT_TRUE(offen(fenstername::auswertung));
     t.p.auswertung.Command1.klicken();  // once more, again without an end
-    EXPECT_EQ(t.p.param.renn_ziel, 10000);
+    EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(10000));
     t.bahn().Command2.klicken();
     aufstellen("Runden", "3", {});
     t.p.form1.Command11.klicken();

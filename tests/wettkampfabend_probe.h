@@ -22,7 +22,7 @@ protected:
     void beginnen(wettkampf_modus modus, int fahrer, const std::vector<int>& spuren, bool centermode = false) {
         wettkampf neu = wettkampf_mit(modus, fahrer, spuren, centermode);
         neu.wettkampf_name = "Vereinsabend";
-        neu.rennlaenge = t.p.param.renn_laenge;
+        neu.rennlaenge = t.p.param.renn_laenge.zahl();
         abend.beginnen(std::move(neu));
     }
     /// Each lane that is in the race drives its laps.

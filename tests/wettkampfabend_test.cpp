@@ -156,7 +156,7 @@ TEST_F(Wettkampfabend, EinVorzeitigBeendeterTeilMachtDenNaechstenNichtLaenger) {
     runden_fahren(1);
     t.bahn().Command4.klicken();
     t.p.auswertung.Command5.klicken();
-    EXPECT_EQ(t.p.param.renn_ziel, 1 + 3);
+    EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(1 + 3));
 }
 
 TEST_F(Wettkampfabend, EineTabelleDieNichtGeschriebenWirdLaesstDenAbendLiegen) {
@@ -218,8 +218,7 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
                   "Der Wettkampf Vereinsabend vom " + vorher.beginn + " wurde nicht beendet. Fortsetzen?");
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf2));
         EXPECT_EQ(neu.wettkampfabend.stand(), vorher);
-        EXPECT_EQ(neu.param.renn_laenge, 3);
-        EXPECT_EQ(neu.param.art, renn_art::runden);
+        EXPECT_EQ(neu.param.renn_laenge, rennziel::runden(3));
         EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
         EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
         neu.einst.hardware.hw_uart = true;

@@ -407,4 +407,11 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
     return widget;
 }
 
+QListView* Binder::protokollfeld(liste& element, const QString& name) {
+    QListView* widget = listenfeld(element, name);
+    QObject::connect(widget->model(), &QAbstractItemModel::rowsInserted, widget, &QListView::scrollToBottom,
+                     Qt::QueuedConnection);
+    return widget;
+}
+
 }  // namespace tarvel::ui

@@ -60,6 +60,8 @@ public:
     QComboBox* auswahlfeld(auswahl& element, const QString& name);
     QListView* listenfeld(liste& element, const QString& name,
                           Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter);
+    /// The same for lines that come in as it runs: the newest stays in sight.
+    QListView* protokollfeld(liste& element, const QString& name);
     /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.
     void verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich);
 

@@ -148,9 +148,7 @@ QWidget* FrmMainFenster::meldungsgruppe() {
     hinweis->setWordWrap(true);
     hinweis->setStyleSheet("font-weight: bold;");
     spalte->addWidget(hinweis);
-    QListView* liste = binder().listenfeld(logik_.List1, "List1");
-    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
-                     Qt::QueuedConnection);
+    QListView* liste = binder().protokollfeld(logik_.List1, "List1");
     spalte->addWidget(liste, 1);
     auto* raster = new QGridLayout;
     raster->addWidget(binder().knopf(logik_.Command5, "Command5"), 0, 0);

@@ -88,9 +88,7 @@ QWidget* RcFenster::sensorgruppe() {
 QWidget* RcFenster::statusgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_status, "Frame_status");
     auto* spalte = new QVBoxLayout(kasten);
-    QListView* liste = binder().listenfeld(logik_.List1, "List1");
-    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
-                     Qt::QueuedConnection);
+    QListView* liste = binder().protokollfeld(logik_.List1, "List1");
     spalte->addWidget(liste);
     return kasten;
 }

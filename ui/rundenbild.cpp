@@ -8,6 +8,7 @@
 
 #include "core/texte.h"
 #include "ui/stil.h"
+#include "ui/teilung.h"
 
 namespace tarvel::ui {
 namespace {
@@ -18,17 +19,6 @@ constexpr int dicht_ab = 120;    // laps from which thin lines are told apart be
 constexpr int einzeln_bis = 50;  // laps up to which each has its dot
 constexpr double zeit_striche = 6;
 constexpr double rand_anteil = 0.06;  // of the time axis, above and below the laps
-
-/// The smallest step of an even scale that is not below `mindestens`.
-double teilung(double mindestens) {
-    const double dekade = std::pow(10, std::floor(std::log10(mindestens)));
-    for (const double faktor : {1.0, 2.0, 5.0}) {
-        if (faktor * dekade >= mindestens * 0.999) {
-            return faktor * dekade;
-        }
-    }
-    return 10 * dekade;
-}
 
 double sekunden(zeit_ms zeit) {
     return static_cast<double>(zeit) / 1000;

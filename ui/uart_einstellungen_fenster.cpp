@@ -178,10 +178,8 @@ QWidget* UartEinstellungenFenster::protokoll() {
     auto* aufbau = new QVBoxLayout(flaeche);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->addWidget(binder().label(logik_.Label_protokoll, "Label_protokoll"));
-    QListView* liste = binder().listenfeld(logik_.protokoll, "protokoll");
+    QListView* liste = binder().protokollfeld(logik_.protokoll, "protokoll");
     liste->setFocusPolicy(Qt::ClickFocus);
-    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
-                     Qt::QueuedConnection);
     aufbau->addWidget(liste, 1);
     return flaeche;
 }

@@ -105,10 +105,8 @@ QWidget* UsbtestFenster::meldungen() {
     zustand->setWordWrap(true);
     aufbau->addWidget(zustand);
     aufbau->addWidget(stil::leise(binder().label(logik_.Label_protokoll, "Label_protokoll")));
-    QListView* liste = binder().listenfeld(logik_.protokoll, "protokoll");
+    QListView* liste = binder().protokollfeld(logik_.protokoll, "protokoll");
     liste->setFocusPolicy(Qt::ClickFocus);
-    QObject::connect(liste->model(), &QAbstractItemModel::rowsInserted, liste, &QListView::scrollToBottom,
-                     Qt::QueuedConnection);
     aufbau->addWidget(liste, 1);
     return flaeche;
 }

@@ -9,6 +9,7 @@
 
 #include "core/texte.h"
 #include "ui/stil.h"
+#include "ui/teilung.h"
 
 namespace tarvel::ui {
 namespace {
@@ -25,17 +26,6 @@ constexpr double zahl_anteil = 0.095;
 constexpr double striche = 6;
 const QColor streifen{247, 248, 250};
 const QColor kasten{228, 196, 199};
-
-/// The smallest step of an even scale that is not below `mindestens`.
-double teilung(double mindestens) {
-    const double dekade = std::pow(10, std::floor(std::log10(mindestens)));
-    for (const double faktor : {1.0, 2.0, 5.0}) {
-        if (faktor * dekade >= mindestens * 0.999) {
-            return faktor * dekade;
-        }
-    }
-    return 10 * dekade;
-}
 
 class Vergleichszeichnung {
 public:
