@@ -8,7 +8,8 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view endung = ".iow";
+constexpr std::string_view profildateien = "*.iow";
+constexpr std::string_view endung = profildateien.substr(1);
 constexpr std::size_t protokoll_zeilen_max = 400;
 constexpr int name_laenge_max = 60;
 constexpr int wert_max = 255;
@@ -39,7 +40,8 @@ usbtest::usbtest(const umgebung& um)
     for (feld& wert : tp) {
         wert.laenge_max(3);
     }
-    datei.laenge_max(name_laenge_max);
+    iow_profildatei.laenge_max(name_laenge_max);
+    muster.text(std::string(profildateien));
     lesen.bei_klick = [this] { werte_lesen(); };
     setzen.bei_klick = [this] { werte_setzen(); };
     Command1.bei_klick = [this] { profil_zeigen(iow_werkseinstellung(), ports); };
@@ -72,7 +74,7 @@ void usbtest::laden() {
     protokoll.leeren();
     dateiwahl_zeigen(false);
     linien_ = 0;
-    datei.text(um_.einst.iow.iow_datei);
+    iow_profildatei.text(um_.einst.iow.iow_datei);
     const auto gelesen = iow_profil_laden(um_.ablage, um_.einst.iow.iow_datei);
     profil_zeigen(gelesen.value_or(iow_werkseinstellung()), ports);
     for (feld& wert : tp) {
@@ -132,11 +134,18 @@ void usbtest::takt_tick() {
     lampen_zeigen();
 }
 
+ereignis_art usbtest::zuordnung(std::size_t platz) const {
+    return std::max(combo_c.at(platz).platz(), 0);
+}
+
+const std::string& usbtest::ereignis_zuordnung_name(std::size_t platz) const {
+    return um_.txt.ereignis_name.at(static_cast<std::size_t>(zuordnung(platz)));
+}
+
 void usbtest::kontakte_notieren(std::uint32_t geschlossene) {
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        const int nummer = std::max(combo_c.at(platz).platz(), 0);
-        if ((geschlossene >> platz & 1U) != 0 && !art::ist_ausgang(nummer)) {
-            notieren(pin_name(platz) + "  " + um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));
+        if ((geschlossene >> platz & 1U) != 0 && !art::ist_ausgang(zuordnung(platz))) {
+            notieren(pin_name(platz) + "  " + ereignis_zuordnung_name(platz));
         }
     }
 }
@@ -147,7 +156,7 @@ void usbtest::lebenstakt_tick() {
         return;
     }
     bericht_.schreiben();
-    if (bericht_.schreibfehler()) {
+    if (bericht_.iow_schreibfehler()) {
         platine_.schliessen();
         zustand_melden(wort_.getrennt);
     }
@@ -162,7 +171,7 @@ void usbtest::lampen_zeigen() {
 iow_profil usbtest::profil() const {
     iow_profil neu{};
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        neu.at(platz) = std::max(combo_c.at(platz).platz(), 0);
+        neu.at(platz) = zuordnung(platz);
     }
     return neu;
 }
@@ -182,13 +191,13 @@ void usbtest::profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports) 
 void usbtest::zuordnung_geaendert() {
     bericht_.belegung = belegung_von(profil());
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        c.at(platz).sichtbar(art::ist_ausgang(combo_c.at(platz).platz()));
+        c.at(platz).sichtbar(art::ist_ausgang(zuordnung(platz)));
     }
     ruecksetzen();  // what was an output may be an input now, which nothing may hold
 }
 
 void usbtest::schalten(std::size_t platz) {
-    bericht_.schalten(combo_c.at(platz).platz(), c.at(platz).gesetzt());
+    bericht_.schalten(zuordnung(platz), c.at(platz).gesetzt());
     bericht_.schreiben();
     lampen_zeigen();
 }
@@ -209,7 +218,7 @@ void usbtest::werte_setzen() {
         tp.at(port).text(std::to_string(wert));
         for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
             const std::size_t platz = port * bits_je_port + bit;
-            const ereignis_art nummer = combo_c.at(platz).platz();
+            const ereignis_art nummer = zuordnung(platz);
             if (art::ist_ausgang(nummer)) {
                 c.at(platz).gesetzt((wert >> bit & 1U) == 0);
                 bericht_.schalten(nummer, c.at(platz).gesetzt());
@@ -229,21 +238,21 @@ void usbtest::ruecksetzen() {
     lampen_zeigen();
 }
 
-bool usbtest::doppelt() const {
+bool usbtest::doppelt_pruefen() const {
     iow_profil alle = profil();
     std::sort(alle.begin(), alle.end());
     return std::adjacent_find(alle.begin(), alle.end(), [](int a, int b) { return a != 0 && a == b; }) != alle.end();
 }
 
 void usbtest::speichern() {
-    if (doppelt()) {
+    if (doppelt_pruefen()) {
         um_.meldungen.zeigen(wort_.doppelt, um_.txt.titel[1]);
         return;
     }
-    std::string name(gekuerzt(datei.text()));
+    std::string name(gekuerzt(iow_profildatei.text()));
     if (name.empty() || !dateiname_zulaessig(name)) {
         um_.meldungen.zeigen(wort_.name, um_.txt.titel[1]);
-        datei.fokus_setzen();
+        iow_profildatei.fokus_setzen();
         return;
     }
     if (!endet_auf(name, endung)) {
@@ -253,7 +262,7 @@ void usbtest::speichern() {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
         return;
     }
-    datei.text(name);
+    iow_profildatei.text(name);
     um_.einst.iow.iow_datei = name;
     if (zugang != nullptr) {
         zugang->einstellungen_speichern();
@@ -261,7 +270,7 @@ void usbtest::speichern() {
     notieren(" +++ " + name + ": " + wort_.gespeichert);
     ruecksetzen();
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        const ereignis_art nummer = combo_c.at(platz).platz();
+        const ereignis_art nummer = zuordnung(platz);
         const bool strom = std::find(art::bahnstrom.begin(), art::bahnstrom.end(), nummer) != art::bahnstrom.end();
         if (strom && !um_.einst.bahnstrom_invers) {
             c.at(platz).gesetzt(true);
@@ -294,7 +303,7 @@ void usbtest::laden_klick() {
         um_.meldungen.zeigen(um_.txt.meldung[11], um_.txt.titel[1]);
         return;
     }
-    datei.text(name);
+    iow_profildatei.text(name);
     profil_zeigen(*neu, ports);
     dateiwahl_zeigen(false);
 }

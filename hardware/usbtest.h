@@ -61,11 +61,12 @@ public:
     befehl Command5;  ///< "RESET IO-W"
     befehl Command7;  ///< "Werkseinstellungen"
     bezeichnung Label_datei;
-    feld datei;
+    feld iow_profildatei;
     befehl Command3;  ///< save
     befehl Command8;  ///< open a file
     befehl Command6;  ///< close
     rahmen oeffnen_rahmen;
+    bezeichnung muster;  ///< which files the list shows
     liste dateiliste;
     befehl Command10;  ///< load it
     befehl Command9;   ///< leave it
@@ -99,6 +100,8 @@ private:
     void zustand_melden(const std::string& text);
     void notieren(std::string_view text);
     void takt_tick();
+    ereignis_art zuordnung(std::size_t platz) const;
+    const std::string& ereignis_zuordnung_name(std::size_t platz) const;
     void kontakte_notieren(std::uint32_t geschlossene);
     void lebenstakt_tick();
     void lampen_zeigen();
@@ -110,7 +113,7 @@ private:
     void werte_lesen();
     void werte_setzen();
     void ruecksetzen();
-    bool doppelt() const;
+    bool doppelt_pruefen() const;
     void speichern();
     void dateien_zeigen();
     void dateiwahl_zeigen(bool zeigen);

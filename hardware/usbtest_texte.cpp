@@ -31,7 +31,7 @@ sprachliste usbtest::sprache() {
 
 void usbtest::ansagen_setzen() {
     protokoll.ansage(Label_protokoll.text());
-    datei.ansage(Label_datei.text());
+    iow_profildatei.ansage(Label_datei.text());
     dateiliste.ansage(oeffnen_rahmen.text());
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         const std::string pin = pin_name(platz);

@@ -305,7 +305,7 @@ TEST_F(Kontaktgeraet, ProfildateiMitFehlern) {
     EXPECT_EQ((*mit_kopf)[31], 31);
     const auto wild = laden("60\r\n-1\r\n99999999999999\r\n" + bytes);
     ASSERT_TRUE(wild);
-    EXPECT_EQ(belegung_von(*wild)[1].maske, 8);
+    EXPECT_EQ(belegung_von(*wild)[1].iow_maske, 8);
     EXPECT_EQ(linien_von(*wild)[0], 0);
 }
 
@@ -327,7 +327,7 @@ TEST_F(Kontaktgeraet, UsbtestPrueftSchaltetUndSpeichert) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Ein Ereignis wurde mehrfach einem Port zugewiesen.");
     w.Command4.klicken();
     EXPECT_FALSE(w.Frame[2].sichtbar());
-    w.datei.eingeben("klub");
+    w.iow_profildatei.eingeben("klub");
     w.Command3.klicken();
     EXPECT_EQ(t.p.einst.iow.iow_datei, "klub.iow");
     EXPECT_EQ(iow_profil_laden(t.p.ablage, "klub.iow")->at(2), 32);
@@ -338,7 +338,7 @@ TEST_F(Kontaktgeraet, UsbtestPrueftSchaltetUndSpeichert) {
     t.maschine.laufen(1100);
     w.Command6.klicken();
     EXPECT_TRUE(t.p.geraete.verbunden());
-    EXPECT_EQ(t.p.ausgaben.bericht.belegung[16].maske, 1);
+    EXPECT_EQ(t.p.ausgaben.bericht.belegung[16].iow_maske, 1);
 }
 
 TEST_F(Kontaktgeraet, DruckeranschlussSchaltetSeineLinien) {
