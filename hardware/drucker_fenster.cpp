@@ -24,10 +24,13 @@ bool doppelt(const std::array<auswahl, anzahl>& listen) {
 drucker_fenster::drucker_fenster(const umgebung& um)
     : fensterlogik(um.fenster, um.ablage, fenstername::drucker_fenster),
       um_(um),
-      Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)) {
+      Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)),
+      register_{um.port} {
     constexpr int ziffern = 4;
     lpt_text.laenge_max(ziffern);
-    lpt_text.bei_aenderung = [this] { lpt_basis_ = portadresse_lesen(lpt_text.text()).value_or(lpt_basis_); };
+    lpt_text.bei_aenderung = [this] {
+        register_.lpt_basis = portadresse_lesen(lpt_text.text()).value_or(register_.lpt_basis);
+    };
     Timer1_->bei_tick = [this] { Timer1_tick(); };
     for (std::size_t platz = 0; platz < ausgaenge; ++platz) {
         aanzeiger.at(platz).bei_aenderung = [this, platz] { umschalten(platz); };
@@ -98,25 +101,25 @@ void drucker_fenster::laden() {
         zugang->geraet_trennen();
     }
     listen_fuellen();
-    lpt_basis_ = um_.einst.lpt.anschluss.lpt_adresse;
-    lpt_text.text(portadresse_text(lpt_basis_));
-    ausgang_ = vorher_ = um_.port.lesen(lpt_basis_ + lpt::daten).value_or(0);
+    register_.lpt_basis = um_.einst.lpt.anschluss.lpt_adresse;
+    lpt_text.text(portadresse_text(register_.lpt_basis));
+    ausgang_ = vorher_ = register_.lesen(lpt::lpt_offset).value_or(0);
     Timer1_tick();
     Timer1_->an();
 }
 
 void drucker_fenster::entladen() {
     Timer1_->aus();
-    um_.port.schreiben(lpt_basis_ + lpt::daten, vorher_);
+    register_.schreiben(vorher_);
     if (zugang != nullptr) {
         zugang->geraet_verbinden();
     }
 }
 
 void drucker_fenster::Timer1_tick() {
-    const auto daten = um_.port.lesen(lpt_basis_ + lpt::daten);
-    const auto stand = um_.port.lesen(lpt_basis_ + lpt::status);
-    const auto steuerung = um_.port.lesen(lpt_basis_ + lpt::steuerung);
+    const auto daten = register_.lesen(lpt::lpt_offset);
+    const auto stand = register_.lesen(lpt::status);
+    const auto steuerung = register_.lesen(lpt::steuerung);
     const auto zahl = [](std::optional<std::uint8_t> wert) { return wert ? std::to_string(*wert) : "–"; };
     status.text(zahl(daten) + "   " + zahl(stand) + "   " + zahl(steuerung));
     zustand.text(stand ? wort_.da : wort_.fehlt + " " + um_.port.weg());
@@ -130,8 +133,8 @@ void drucker_fenster::Timer1_tick() {
 }
 
 void drucker_fenster::umschalten(std::size_t platz) {
-    ausgang_ = static_cast<std::uint8_t>(um_.port.lesen(lpt_basis_ + lpt::daten).value_or(ausgang_) ^ (1U << platz));
-    um_.port.schreiben(lpt_basis_ + lpt::daten, ausgang_);
+    ausgang_ = static_cast<std::uint8_t>(register_.lesen(lpt::lpt_offset).value_or(ausgang_) ^ (1U << platz));
+    register_.schreiben(ausgang_);
 }
 
 bool drucker_fenster::adresse_uebernehmen() {

@@ -89,7 +89,7 @@ private:
 
     umgebung um_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;
-    int lpt_basis_ = 0;
+    lpt::registersatz register_;
     std::uint8_t ausgang_ = 0;  ///< what the data register is to show
     std::uint8_t vorher_ = 0;   ///< and what it showed as the window opened
     worte wort_;
