@@ -12,7 +12,7 @@ void geraete_im_rennen::stempel_verschieben(zeit_ms um) {
     r_.umgebung.ereignisse.stempel_verschieben(um);
 }
 
-void geraete_im_rennen::ereignisse_gemeldet() {
+void geraete_im_rennen::tankflanken_auswerten() {
     r_.tanken.sensoren_nachhalten();
     if (!r_.umgebung.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
         r_.tanken.tank_kontakte_auswerten();

@@ -19,7 +19,7 @@ public:
     void rennen_vorbereiten() override { r_.bahn1.Command1.klicken(); }
     void stempel_verschieben(zeit_ms um) override;
     void pausen_nachmessen(double faktor) override { r_.zustand.pausen_nachmessen(faktor); }
-    void ereignisse_gemeldet() override;
+    void tankflanken_auswerten() override;
     void tankkontakt_verlassen(int spur) override { r_.tanken.kontakt_verlassen(spur); }
     void fuellstand(int spur, int stufe, int stufen, bool neu) override {
         r_.tanken.fuellstand_melden(spur, stufe, stufen, neu);
