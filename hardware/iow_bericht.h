@@ -37,6 +37,7 @@ class iow_bericht {
 public:
     /// Byte 0 is the report number, always 0; the ports follow.
     using bytes = std::array<std::uint8_t, 8>;
+    static constexpr bytes in_ruhe{0, 255, 255, 255, 255, 255, 255, 255};
 
     iow_belegung belegung;
     /// Hands the report to the board, false if that failed. Empty without a board.
@@ -55,8 +56,6 @@ public:
     bool ist_an(ereignis_art nummer) const;
 
 private:
-    static constexpr bytes in_ruhe{0, 255, 255, 255, 255, 255, 255, 255};
-
     bytes iow_ausgang_ = in_ruhe;
     bytes iow_ausgang_sicherung_ = in_ruhe;
     bool iow_schreibfehler_ = false;

@@ -32,10 +32,9 @@ usbtest::usbtest(const umgebung& um)
       platine_(um.bibliotheken) {
     Timer1_->bei_tick = [this] { takt_tick(); };
     lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
-    bericht_.senden = [this](std::span<const std::uint8_t> bericht) { return platine_.schreiben(bericht); };
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         combo_c.at(platz).bei_aenderung = [this] { zuordnung_geaendert(); };
-        c.at(platz).bei_aenderung = [this, platz] { schalten(platz); };
+        c.at(platz).bei_aenderung = [this] { ausgaenge_schreiben(); };
     }
     for (feld& wert : tp) {
         wert.laenge_max(3);
@@ -155,9 +154,9 @@ void usbtest::lebenstakt_tick() {
         verbinden(false);
         return;
     }
-    bericht_.schreiben();
-    if (bericht_.iow_schreibfehler()) {
+    if (!ausgaenge_schreiben()) {
         platine_.schliessen();
+        linien_ = 0;
         zustand_melden(wort_.getrennt);
     }
 }
@@ -189,17 +188,21 @@ void usbtest::profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports) 
 }
 
 void usbtest::zuordnung_geaendert() {
-    bericht_.belegung = belegung_von(profil());
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         c.at(platz).sichtbar(art::ist_ausgang(zuordnung(platz)));
     }
     ruecksetzen();  // what was an output may be an input now, which nothing may hold
 }
 
-void usbtest::schalten(std::size_t platz) {
-    bericht_.schalten(zuordnung(platz), c.at(platz).gesetzt());
-    bericht_.schreiben();
+bool usbtest::ausgaenge_schreiben() {
+    iow_bericht::bytes iow_ausgang = iow_bericht::in_ruhe;
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        if (c.at(platz).gesetzt()) {
+            iow_ausgang.at(1 + platz / bits_je_port) &= static_cast<std::uint8_t>(~(1U << platz % bits_je_port));
+        }
+    }
     lampen_zeigen();
+    return platine_.schreiben(iow_ausgang);
 }
 
 void usbtest::werte_lesen() {
@@ -218,24 +221,17 @@ void usbtest::werte_setzen() {
         tp.at(port).text(std::to_string(wert));
         for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
             const std::size_t platz = port * bits_je_port + bit;
-            const ereignis_art nummer = zuordnung(platz);
-            if (art::ist_ausgang(nummer)) {
-                c.at(platz).gesetzt((wert >> bit & 1U) == 0);
-                bericht_.schalten(nummer, c.at(platz).gesetzt());
-            }
+            c.at(platz).gesetzt(art::ist_ausgang(zuordnung(platz)) && (wert >> bit & 1U) == 0);
         }
     }
-    bericht_.schreiben();
-    lampen_zeigen();
+    ausgaenge_schreiben();
 }
 
 void usbtest::ruecksetzen() {
     for (haken& ausgang : c) {
         ausgang.gesetzt(false);
     }
-    bericht_.ruhe();
-    bericht_.schreiben();
-    lampen_zeigen();
+    ausgaenge_schreiben();
 }
 
 bool usbtest::doppelt_pruefen() const {
@@ -262,21 +258,22 @@ void usbtest::speichern() {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
         return;
     }
+    profil_gilt(name, wort_.gespeichert);
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        const bool strom =
+            std::find(art::bahnstrom.begin(), art::bahnstrom.end(), zuordnung(platz)) != art::bahnstrom.end();
+        c.at(platz).gesetzt(strom && !um_.einst.bahnstrom_invers);
+    }
+    ausgaenge_schreiben();
+}
+
+void usbtest::profil_gilt(const std::string& name, const std::string& wodurch) {
     iow_profildatei.text(name);
     um_.einst.iow.iow_datei = name;
     if (zugang != nullptr) {
         zugang->einstellungen_speichern();
     }
-    notieren(" +++ " + name + ": " + wort_.gespeichert);
-    ruecksetzen();
-    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        const ereignis_art nummer = zuordnung(platz);
-        const bool strom = std::find(art::bahnstrom.begin(), art::bahnstrom.end(), nummer) != art::bahnstrom.end();
-        if (strom && !um_.einst.bahnstrom_invers) {
-            c.at(platz).gesetzt(true);
-            schalten(platz);
-        }
-    }
+    notieren(" +++ " + name + ": " + wodurch);
 }
 
 void usbtest::dateien_zeigen() {
@@ -303,9 +300,9 @@ void usbtest::laden_klick() {
         um_.meldungen.zeigen(um_.txt.meldung[11], um_.txt.titel[1]);
         return;
     }
-    iow_profildatei.text(name);
     profil_zeigen(*neu, ports);
     dateiwahl_zeigen(false);
+    profil_gilt(name, wort_.geladen);
 }
 
 }  // namespace tarvel

@@ -93,6 +93,7 @@ private:
         std::string funktion;
         std::string name;
         std::string gespeichert;
+        std::string geladen;
     };
 
     static std::string pin_name(std::size_t platz);
@@ -109,12 +110,15 @@ private:
     iow_profil profil() const;
     void profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports);
     void zuordnung_geaendert();
-    void schalten(std::size_t platz);
+    /// Holds the pins of the outputs that are ticked, and no others. False without a board.
+    bool ausgaenge_schreiben();
     void werte_lesen();
     void werte_setzen();
     void ruecksetzen();
     bool doppelt_pruefen() const;
     void speichern();
+    /// The program measures with this file from now on.
+    void profil_gilt(const std::string& name, const std::string& wodurch);
     void dateien_zeigen();
     void dateiwahl_zeigen(bool zeigen);
     void laden_klick();
@@ -125,7 +129,6 @@ private:
     std::unique_ptr<plattform::zeitgeber>
         lebenstakt_;  ///< looks each second whether the board is still, or again, there
     iow_platine platine_;
-    iow_bericht bericht_;
     std::uint32_t linien_ = 0;  ///< closed contacts as last heard of
     worte wort_;
 };

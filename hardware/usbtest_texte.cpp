@@ -26,7 +26,7 @@ sprachliste usbtest::sprache() {
     texte.text("Das Modul wurde abgezogen", wort_.getrennt).text("Kontakt", wort_.lampe);
     texte.text("Ausgang schalten", wort_.schalten).text("Funktion", wort_.funktion);
     texte.text("Dieser Dateiname ist nicht zulässig.", wort_.name);
-    return texte.text("gespeichert", wort_.gespeichert);
+    return texte.text("gespeichert", wort_.gespeichert).text("geladen", wort_.geladen);
 }
 
 void usbtest::ansagen_setzen() {
