@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "hardware/iow_profil.h"
@@ -40,7 +41,7 @@ protected:
         }
         t.p.geraete.hardware_starten(false);
     }
-    auto& lpt() { return t.maschine.druckerport.register_werte; }
+    std::map<int, std::uint8_t>& lpt() { return t.maschine.druckerport.register_werte; }
     bool lpt_pin(int stecker) { return (lpt().at(lpt_basis) >> (stecker - 2) & 1) != 0; }
 
     /// The bit of an event in the factory assignment.
