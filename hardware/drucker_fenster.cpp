@@ -30,7 +30,9 @@ drucker_fenster::drucker_fenster(const umgebung& um)
     constexpr int ziffern = 4;
     lpt_text.laenge_max(ziffern);
     lpt_text.bei_aenderung = [this] {
-        port_wechseln(portadresse_lesen(lpt_text.text()).value_or(register_.lpt_basis));
+        if (const auto neu = portadresse_lesen(lpt_text.text()); neu && neu != register_.lpt_basis) {
+            port_wechseln(*neu);
+        }
     };
     Timer1_->bei_tick = [this] { Timer1_tick(); };
     for (std::size_t platz = 0; platz < ausgaenge; ++platz) {
