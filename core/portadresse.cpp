@@ -10,6 +10,7 @@ namespace tarvel {
 namespace {
 
 constexpr int hexadezimal = 16;
+constexpr int adresse_min = 0x100;  // below it the machine has its timers and interrupts, which nobody may write
 constexpr int adresse_max = 0xFFFF - 2;
 
 }  // namespace
@@ -28,7 +29,7 @@ std::optional<int> portadresse_lesen(std::string_view text) {
     int adresse = 0;
     const char* const ende = text.data() + text.size();
     const auto [bis, fehler] = std::from_chars(text.data(), ende, adresse, hexadezimal);
-    const bool gut = fehler == std::errc() && bis == ende && adresse >= 0 && adresse <= adresse_max;
+    const bool gut = fehler == std::errc() && bis == ende && adresse >= adresse_min && adresse <= adresse_max;
     return gut ? std::optional(adresse) : std::nullopt;
 }
 

@@ -208,7 +208,7 @@ void at2560::µC_wert_zerlegen() {
     if (meldung) {
         ereignis_melden(*meldung);
     }
-    um_.rennen.ereignisse_gemeldet();
+    um_.rennen.tankflanken_auswerten();
 }
 
 void at2560::ereignis_melden(const at_meldung& meldung) {

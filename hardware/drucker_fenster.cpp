@@ -1,6 +1,7 @@
 #include "hardware/drucker_fenster.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/portadresse.h"
 #include "hardware/ereignisse.h"
@@ -24,10 +25,15 @@ bool doppelt(const std::array<auswahl, anzahl>& listen) {
 drucker_fenster::drucker_fenster(const umgebung& um)
     : geraetefenster(um.fenster, um.ablage, fenstername::drucker_fenster),
       um_(um),
-      Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)) {
+      Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1ms)),
+      register_{um.port} {
     constexpr int ziffern = 4;
     lpt_text.laenge_max(ziffern);
-    lpt_text.bei_aenderung = [this] { lpt_basis_ = portadresse_lesen(lpt_text.text()).value_or(lpt_basis_); };
+    lpt_text.bei_aenderung = [this] {
+        if (const auto neu = portadresse_lesen(lpt_text.text()); neu && neu != register_.lpt_basis) {
+            port_wechseln(*neu);
+        }
+    };
     Timer1_->bei_tick = [this] { Timer1_tick(); };
     for (std::size_t platz = 0; platz < ausgaenge; ++platz) {
         aanzeiger.at(platz).bei_aenderung = [this, platz] { umschalten(platz); };
@@ -57,8 +63,10 @@ sprachliste drucker_fenster::sprache() {
     texte.text("Übernehmen", Command3).text("Abbrechen", Command2);
     texte.text("Auswahlelemente -Eingang- doppelt. Einstellungen wurden nicht übernommen.", wort_.eingang_doppelt);
     texte.text("Auswahlelemente -Ausgang- doppelt. Einstellungen wurden nicht übernommen.", wort_.ausgang_doppelt);
-    texte.text("Die Adresse des Druckeranschlusses ist keine hexadezimale Zahl. Einstellungen wurden nicht übernommen.",
-               wort_.adresse_falsch);
+    texte.text(
+        "Die Adresse des Druckeranschlusses ist keine hexadezimale Zahl von 100 bis FFFD. Einstellungen wurden nicht "
+        "übernommen.",
+        wort_.adresse_falsch);
     texte.text("Der Druckeranschluss ist erreichbar.", wort_.da);
     texte.text("Der Druckeranschluss ist nicht erreichbar, es fehlt:", wort_.fehlt);
     return texte.text("Ampel gelb (Chaos)", wort_.gelb).text("Tankausgang (immer an)", wort_.tankausgang);
@@ -96,23 +104,22 @@ void drucker_fenster::laden() {
     texte_lesen();
     geraet_nehmen();
     listen_fuellen();
-    lpt_basis_ = um_.einst.lpt.anschluss.lpt_adresse;
-    lpt_text.text(portadresse_text(lpt_basis_));
-    ausgang_ = vorher_ = um_.port.lesen(lpt_basis_ + lpt::daten).value_or(0);
+    register_.lpt_basis = um_.einst.lpt.anschluss.lpt_adresse;
+    lpt_text.text(portadresse_text(register_.lpt_basis));
     Timer1_tick();
     Timer1_->an();
 }
 
 void drucker_fenster::entladen() {
     Timer1_->aus();
-    um_.port.schreiben(lpt_basis_ + lpt::daten, vorher_);
+    port_wechseln(register_.lpt_basis);
     geraet_zurueckgeben();
 }
 
 void drucker_fenster::Timer1_tick() {
-    const auto daten = um_.port.lesen(lpt_basis_ + lpt::daten);
-    const auto stand = um_.port.lesen(lpt_basis_ + lpt::status);
-    const auto steuerung = um_.port.lesen(lpt_basis_ + lpt::steuerung);
+    const auto daten = register_.lesen(lpt::lpt_offset);
+    const auto stand = register_.lesen(lpt::status);
+    const auto steuerung = register_.lesen(lpt::steuerung);
     const auto zahl = [](std::optional<std::uint8_t> wert) { return wert ? std::to_string(*wert) : "–"; };
     status.text(zahl(daten) + "   " + zahl(stand) + "   " + zahl(steuerung));
     zustand.text(stand ? wort_.da : wort_.fehlt + " " + um_.port.weg());
@@ -121,13 +128,21 @@ void drucker_fenster::Timer1_tick() {
         eanzeiger.at(i).gesetzt((linien >> i & 1U) != 0);
     }
     for (std::size_t i = 0; i < ausgaenge; ++i) {
-        aanzeiger.at(i).gesetzt((daten.value_or(ausgang_) >> i & 1U) != 0);
+        aanzeiger.at(i).gesetzt((daten.value_or(0) >> i & 1U) != 0);
     }
 }
 
 void drucker_fenster::umschalten(std::size_t platz) {
-    ausgang_ = static_cast<std::uint8_t>(um_.port.lesen(lpt_basis_ + lpt::daten).value_or(ausgang_) ^ (1U << platz));
-    um_.port.schreiben(lpt_basis_ + lpt::daten, ausgang_);
+    const std::uint8_t jetzt = register_.lesen(lpt::lpt_offset).value_or(0);
+    vorher_ = vorher_.value_or(jetzt);
+    register_.schreiben(static_cast<std::uint8_t>(jetzt ^ (1U << platz)));
+}
+
+void drucker_fenster::port_wechseln(int lpt_basis) {
+    if (vorher_) {
+        register_.schreiben(*std::exchange(vorher_, std::nullopt));
+    }
+    register_.lpt_basis = lpt_basis;
 }
 
 bool drucker_fenster::adresse_uebernehmen() {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -81,14 +82,15 @@ private:
     void listen_fuellen();
     void Timer1_tick();
     void umschalten(std::size_t platz);
+    /// What was switched here is as before, and the next switching goes to the port at this address.
+    void port_wechseln(int lpt_basis);
     void bestaetigen();
     bool adresse_uebernehmen();
 
     umgebung um_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;
-    int lpt_basis_ = 0;
-    std::uint8_t ausgang_ = 0;  ///< what the data register is to show
-    std::uint8_t vorher_ = 0;   ///< and what it showed as the window opened
+    lpt::registersatz register_;
+    std::optional<std::uint8_t> vorher_;  ///< what the outputs were before the first switching; none without any
     worte wort_;
 };
 

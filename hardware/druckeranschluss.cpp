@@ -1,18 +1,16 @@
 #include "hardware/druckeranschluss.h"
 
-#include "hardware/lpt_register.h"
-
 namespace tarvel {
 
 druckeranschluss::druckeranschluss(const umgebung& um)
-    : um_(um), kontakte_({um.einst, um.ereignisse, um.rennen}, {.tankt_nur_auf_kontakt = true}) {}
+    : um_(um), kontakte_({um.einst, um.ereignisse, um.rennen}, {.tankt_nur_auf_kontakt = true}), register_{um.port} {}
 
 bool druckeranschluss::oeffnen() {
     schliessen();
-    lpt_basis_ = um_.einst.lpt.anschluss.lpt_adresse;
+    register_.lpt_basis = um_.einst.lpt.anschluss.lpt_adresse;
     zuordnen();
     grundstellung();
-    const std::optional<std::uint8_t> stand = um_.port.lesen(lpt_basis_ + lpt::status);
+    const std::optional<std::uint8_t> stand = register_.lesen(lpt::status);
     da_ = stand.has_value();
     kontakte_.beginnen(lpt::aktive_linien(stand.value_or(lpt::in_ruhe)));
     abtastung_ = um_.abtaster.starten(1ms, [this](zeit_ms jetzt) { lpt_abtasten(jetzt); });
@@ -24,21 +22,21 @@ void druckeranschluss::schliessen() {
         return;
     }
     abtastung_.reset();
-    um_.port.schreiben(lpt_basis_ + lpt::daten, soll_);  // the last switching
+    register_.schreiben(lpt_pin_zustand_);  // the last switching
     kontakte_.verstummt();
 }
 
 void druckeranschluss::zuordnen() {
-    kontaktleser::linienzuordnung arten{};
+    kontaktleser::linienzuordnung lpt_eingang_art{};
     for (std::size_t i = 0; i < lpt::eingaenge.size(); ++i) {
-        arten.at(i) = um_.einst.lpt.lpt_eingang.at(i + 1);
+        lpt_eingang_art.at(i) = um_.einst.lpt.lpt_eingang.at(i + 1);
     }
-    kontakte_.zuordnen(arten);
+    kontakte_.zuordnen(lpt_eingang_art);
 }
 
 void druckeranschluss::lpt_abtasten(zeit_ms jetzt) {
-    um_.port.schreiben(lpt_basis_ + lpt::daten, soll_);  // anything on the machine may have written there
-    const std::optional<std::uint8_t> stand = um_.port.lesen(lpt_basis_ + lpt::status);
+    register_.schreiben(lpt_pin_zustand_);  // anything on the machine may have written there
+    const std::optional<std::uint8_t> stand = register_.lesen(lpt::status);
     da_ = stand.has_value();
     if (stand) {
         kontakte_.gesehen(jetzt, lpt::aktive_linien(*stand));
@@ -46,17 +44,18 @@ void druckeranschluss::lpt_abtasten(zeit_ms jetzt) {
 }
 
 void druckeranschluss::lpt_schalten(ereignis_art nummer, bool an) {
+    const auto& lpt_ausgang_art = um_.einst.lpt.lpt_ausgang;
     std::optional<std::size_t> zeile;
-    for (std::size_t i = 0; i < um_.einst.lpt.lpt_ausgang.size(); ++i) {
-        if (i > 0 && um_.einst.lpt.lpt_ausgang.at(i) == nummer) {
+    for (std::size_t i = 1; i < lpt_ausgang_art.size(); ++i) {
+        if (lpt_ausgang_art.at(i) == nummer) {
             zeile = i - 1;
         }
     }
     if (nummer == 0) {
-        soll_ = an ? 0xFF : 0;
+        lpt_pin_zustand_ = an ? 0xFF : 0;
     } else if (zeile && *zeile < lpt::ausgaenge) {
         const auto maske = static_cast<std::uint8_t>(1U << *zeile);
-        soll_ = static_cast<std::uint8_t>(an ? soll_ | maske : soll_ & ~maske);
+        lpt_pin_zustand_ = static_cast<std::uint8_t>(an ? lpt_pin_zustand_ | maske : lpt_pin_zustand_ & ~maske);
     }
 }
 

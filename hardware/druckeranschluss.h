@@ -10,6 +10,7 @@
 #include "core/einstellungen.h"
 #include "hardware/ausgaben.h"
 #include "hardware/kontaktleser.h"
+#include "hardware/lpt_register.h"
 #include "hardware/messgeraet.h"
 #include "platform/abtaster.h"
 #include "platform/druckerport.h"
@@ -49,7 +50,7 @@ public:
     void lpt_an(ereignis_art nummer) { lpt_schalten(nummer, true); }
     void lpt_aus(ereignis_art nummer) { lpt_schalten(nummer, false); }
     /// What the data register has to show.
-    std::uint8_t lpt_ausgaenge() const { return soll_; }
+    std::uint8_t lpt_pin_zustand() const { return lpt_pin_zustand_; }
 
 private:
     void lpt_schalten(ereignis_art nummer, bool an);
@@ -63,9 +64,9 @@ private:
 
     umgebung um_;
     kontaktleser kontakte_;
-    std::atomic<std::uint8_t> soll_ = 0;
+    lpt::registersatz register_;
+    std::atomic<std::uint8_t> lpt_pin_zustand_ = 0;
     std::atomic<bool> da_ = false;  ///< there is a port
-    int lpt_basis_ = 0;
     std::unique_ptr<schnittstelle> abtastung_;
 };
 

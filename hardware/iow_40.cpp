@@ -68,7 +68,7 @@ void iow_40::wieder_aufnehmen() {
 
 void iow_40::lebenstakt_tick() {
     um_.ausgaben.bericht.schreiben();
-    if (um_.ausgaben.bericht.schreibfehler()) {
+    if (um_.ausgaben.bericht.iow_schreibfehler()) {
         anhalten();
         um_.bedienung.verloren();
     }
@@ -82,7 +82,7 @@ void iow_40::blick(zeit_ms jetzt) {
     kontakte_.gesehen(jetzt, linien_);
 }
 
-void iow_40::abfragen() {
+void iow_40::iow_auswerten() {
     if (platine_.offen()) {
         kontakte_.auswerten();
     }

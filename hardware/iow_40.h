@@ -49,13 +49,14 @@ public:
     void wieder_aufnehmen() override;
     bool verbunden() const override { return platine_.offen(); }
 
-    void abfragen() override;
+    void abfragen() override { iow_auswerten(); }
     void rennfenster_offen() override { iow_pegel_merken(); }
     void einfahren_beginnt() override { iow_pegel_merken(); }
     void rennen_bereit() override { iow_pegel_merken(); }
 
 private:
     void iow_belegung_laden();
+    void iow_auswerten();
     void iow_pegel_merken() { kontakte_.ruhe_merken(); }
     /// By the sampling thread.
     void blick(zeit_ms jetzt);

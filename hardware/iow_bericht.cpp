@@ -25,14 +25,14 @@ void iow_belegung::zuweisen(ereignis_art nummer, int port, int bit) {
 }
 
 void iow_bericht::schalten(ereignis_art nummer, bool an) {
-    const auto [port, maske] = belegung[nummer];
-    std::uint8_t& byte = ausgang_.at(static_cast<std::size_t>(port));
-    byte = static_cast<std::uint8_t>(an ? byte & ~maske : byte | maske);
+    const auto [iow_port, iow_maske] = belegung[nummer];
+    std::uint8_t& byte = iow_ausgang_.at(static_cast<std::size_t>(iow_port));
+    byte = static_cast<std::uint8_t>(an ? byte & ~iow_maske : byte | iow_maske);
 }
 
 bool iow_bericht::ist_an(ereignis_art nummer) const {
-    const auto [port, maske] = belegung[nummer];
-    return maske != 0 && (ausgang_.at(static_cast<std::size_t>(port)) & maske) == 0;
+    const auto [iow_port, iow_maske] = belegung[nummer];
+    return iow_maske != 0 && (iow_ausgang_.at(static_cast<std::size_t>(iow_port)) & iow_maske) == 0;
 }
 
 }  // namespace tarvel

@@ -12,11 +12,11 @@ namespace tarvel {
 /// Which bit of the IO board's report means which event or output.
 class iow_belegung {
 public:
-    /// `port` is a byte of the report, 1 to 4; `maske` is one of its bits. Both are 0 for what has no place on the
-    /// board.
+    /// `iow_port` is a byte of the report, 1 to 4; `iow_maske` is one of its bits. Both are 0 for what has no place on
+    /// the board.
     struct stelle {
-        int port = 0;
-        std::uint8_t maske = 0;
+        int iow_port = 0;
+        std::uint8_t iow_maske = 0;
     };
 
     /// The factory assignment: numbers 1 to 32 on the 32 bits in order.
@@ -37,29 +37,28 @@ class iow_bericht {
 public:
     /// Byte 0 is the report number, always 0; the ports follow.
     using bytes = std::array<std::uint8_t, 8>;
+    static constexpr bytes in_ruhe{0, 255, 255, 255, 255, 255, 255, 255};
 
     iow_belegung belegung;
     /// Hands the report to the board, false if that failed. Empty without a board.
     std::function<bool(std::span<const std::uint8_t>)> senden;
 
     void schalten(ereignis_art nummer, bool an);
-    void ruhe() { ausgang_ = in_ruhe; }
+    void ruhe() { iow_ausgang_ = in_ruhe; }
     /// Keeps the image as it is, for `wiederherstellen`.
-    void sichern() { sicherung_ = ausgang_; }
-    void wiederherstellen() { ausgang_ = sicherung_; }
+    void sichern() { iow_ausgang_sicherung_ = iow_ausgang_; }
+    void wiederherstellen() { iow_ausgang_ = iow_ausgang_sicherung_; }
 
-    void schreiben() { schreibfehler_ = !senden || !senden(ausgang_); }
-    bool schreibfehler() const { return schreibfehler_; }
+    void schreiben() { iow_schreibfehler_ = !senden || !senden(iow_ausgang_); }
+    bool iow_schreibfehler() const { return iow_schreibfehler_; }
 
-    const bytes& ausgang() const { return ausgang_; }
+    const bytes& iow_ausgang() const { return iow_ausgang_; }
     bool ist_an(ereignis_art nummer) const;
 
 private:
-    static constexpr bytes in_ruhe{0, 255, 255, 255, 255, 255, 255, 255};
-
-    bytes ausgang_ = in_ruhe;
-    bytes sicherung_ = in_ruhe;
-    bool schreibfehler_ = false;
+    bytes iow_ausgang_ = in_ruhe;
+    bytes iow_ausgang_sicherung_ = in_ruhe;
+    bool iow_schreibfehler_ = false;
 };
 
 }  // namespace tarvel

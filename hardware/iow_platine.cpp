@@ -58,7 +58,7 @@ bool iow_platine::iow_oeffnen() {
         iow_handle_.front() = erstes;
     }
     std::array<char, 64> seriennummer{};  // some boards answer nothing else before they were asked for it
-    ruf_.IowKitGetSerialNumber(iow_handle_.front(), seriennummer.data());
+    ruf_.IowKitGetSerialNumber(iow_handle(), seriennummer.data());
     iow_typ_lesen();
     return true;
 }
@@ -66,40 +66,40 @@ bool iow_platine::iow_oeffnen() {
 void iow_platine::iow_typ_lesen() {
     constexpr std::uint32_t iow_24 = 5377;
     constexpr std::uint32_t iow_56 = 5379;
-    const std::uint32_t produkt = ruf_.IowKitGetProductId(iow_handle_.front());
+    const std::uint32_t produkt = ruf_.IowKitGetProductId(iow_handle());
     iow_berichtgroesse_ = produkt == iow_24 ? 3 : produkt == iow_56 ? bericht_max : 5;
 }
 
 void iow_platine::schliessen() {
     if (offen()) {
-        ruf_.IowKitCloseDevice(iow_handle_.front());
+        ruf_.IowKitCloseDevice(iow_handle());
     }
     iow_handle_ = {};
     iow_berichtgroesse_ = 0;
 }
 
 bool iow_platine::lesen(std::uint32_t& linien) const {
-    std::array<std::uint8_t, bericht_max> bericht{};
+    std::array<std::uint8_t, bericht_max> iow_eingang{};
     const auto groesse = static_cast<std::uint32_t>(iow_berichtgroesse_);
-    if (!offen() || ruf_.IowKitReadNonBlocking(iow_handle_.front(), pipe, bericht.data(), groesse) != groesse) {
+    if (!offen() || ruf_.IowKitReadNonBlocking(iow_handle(), pipe, iow_eingang.data(), groesse) != groesse) {
         return false;
     }
     const std::size_t letzter = std::min<std::size_t>(iow_berichtgroesse_ - 1, ports);
     std::uint32_t neu = 0;
     for (std::size_t port = 0; port < letzter; ++port) {
-        const auto geschlossen = static_cast<std::uint8_t>(~bericht.at(port + 1));
+        const auto geschlossen = static_cast<std::uint8_t>(~iow_eingang.at(port + 1));
         neu |= static_cast<std::uint32_t>(geschlossen) << (port * bits_je_port);
     }
     linien = neu;
     return true;
 }
 
-bool iow_platine::schreiben(std::span<const std::uint8_t> bericht) const {
+bool iow_platine::schreiben(std::span<const std::uint8_t> iow_ausgang) const {
     std::array<std::uint8_t, bericht_max> bytes{};
     bytes.fill(255);
-    std::copy_n(bericht.begin(), std::min(bericht.size(), bytes.size()), bytes.begin());
+    std::copy_n(iow_ausgang.begin(), std::min(iow_ausgang.size(), bytes.size()), bytes.begin());
     bytes.front() = 0;
-    return offen() && ruf_.IowKitWrite(iow_handle_.front(), pipe, bytes.data(),
+    return offen() && ruf_.IowKitWrite(iow_handle(), pipe, bytes.data(),
                                        static_cast<std::uint32_t>(iow_berichtgroesse_)) == iow_berichtgroesse_;
 }
 

@@ -26,7 +26,7 @@ public:
     bool iow_oeffnen();
     /// The library stays loaded.
     void schliessen();
-    bool offen() const { return iow_handle_.front() != nullptr; }
+    bool offen() const { return iow_handle() != nullptr; }
 
     /// Of the library: the call that it lacks; "iowkit" if there is none at all, empty if nothing is missing.
     const std::string& es_fehlt() const { return es_fehlt_; }
@@ -37,7 +37,7 @@ public:
     /// set while the contact is closed. Beside this call, on a thread of its own, only `schreiben` may run.
     bool lesen(std::uint32_t& linien) const;
     /// Writes the report's image as far as this board has ports; false if the board is gone.
-    bool schreiben(std::span<const std::uint8_t> bericht) const;
+    bool schreiben(std::span<const std::uint8_t> iow_ausgang) const;
 
 private:
     using handle = void*;
@@ -53,6 +53,8 @@ private:
         std::uint32_t (*IowKitWrite)(handle, std::uint32_t, void*, std::uint32_t) = nullptr;
     };
 
+    /// All traffic is with the first board.
+    handle iow_handle() const { return iow_handle_.front(); }
     bool bibliothek_laden();
     void iow_typ_lesen();
 

@@ -85,7 +85,7 @@ void kontaktleser::auswerten() {
         neues = true;
     }
     if (tankkontakte_halten() || neues) {
-        um_.rennen.ereignisse_gemeldet();
+        um_.rennen.tankflanken_auswerten();
     }
     tankkontakte_freigeben();
 }

@@ -3,14 +3,26 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+
+#include "platform/druckerport.h"
 
 /// The printer port's registers and pins.
 namespace tarvel::lpt {
 
-/// Places of the registers behind the base address.
-inline constexpr int daten = 0;
+/// Places of the registers behind the base address. The first is the one that is written, with the outputs.
+inline constexpr int lpt_offset = 0;
 inline constexpr int status = 1;
 inline constexpr int steuerung = 2;
+
+/// The three of a port. A machine without it reads nothing.
+struct registersatz {
+    plattform::druckerport& port;
+    int lpt_basis = 888;
+
+    std::optional<std::uint8_t> lesen(int platz) const { return port.lesen(lpt_basis + platz); }
+    void schreiben(std::uint8_t ausgaenge) const { port.schreiben(lpt_basis + lpt_offset, ausgaenge); }
+};
 
 struct eingangspin {
     int stecker = 0;  ///< number in the connector

@@ -162,7 +162,7 @@ void race_control::rc_ereignis(ereignis_art nummer, zeit_ms stempel) {
 void race_control::rc_gelesen() {
     uhr_nachfuehren();
     if (std::exchange(etwas_neues_, false)) {
-        um_.rennen.ereignisse_gemeldet();
+        um_.rennen.tankflanken_auswerten();
     }
 }
 

@@ -21,7 +21,7 @@ public:
     /// still to come off get the better measure.
     virtual void pausen_nachmessen(double faktor) = 0;
     /// Events have reached the table: the fuel simulation looks at them at once.
-    virtual void ereignisse_gemeldet() = 0;
+    virtual void tankflanken_auswerten() = 0;
     /// The lane's car has left its tank contact: where one contact is all there is, it refuels no longer.
     virtual void tankkontakt_verlassen(int spur) = 0;
     /// Level of a tank that the device has itself: `stufe` of `stufen`, 0 is empty. `neu`: it was another a moment ago.

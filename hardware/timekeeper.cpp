@@ -170,7 +170,7 @@ bool timekeeper::tk_wert_zerlegen() {
         if (const auto inhalt = empfang_.naechster()) {
             const tk::satz satz = tk::satz_lesen(*inhalt, profil_.digital());
             if (std::visit([this](const auto& eines) { return verarbeiten(eines); }, satz)) {
-                um_.rennen.ereignisse_gemeldet();
+                um_.rennen.tankflanken_auswerten();
                 return true;
             }
         } else if (const auto stueck = leitung_.tk_lesen()) {

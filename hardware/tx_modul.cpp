@@ -291,7 +291,7 @@ void tx_modul::melden(ereignis_art nummer) {
     } else {
         ereignisse.ereignis_melden(nummer, jetzt);
     }
-    um_.rennen.ereignisse_gemeldet();
+    um_.rennen.tankflanken_auswerten();
 }
 
 void tx_modul::rennfenster_offen() {

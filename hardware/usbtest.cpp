@@ -8,7 +8,8 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view endung = ".iow";
+constexpr std::string_view profildateien = "*.iow";
+constexpr std::string_view endung = profildateien.substr(1);
 constexpr std::size_t protokoll_zeilen_max = 400;
 constexpr int name_laenge_max = 60;
 constexpr int wert_max = 255;
@@ -31,15 +32,15 @@ usbtest::usbtest(const umgebung& um)
       platine_(um.bibliotheken) {
     Timer1_->bei_tick = [this] { takt_tick(); };
     lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
-    bericht_.senden = [this](std::span<const std::uint8_t> bericht) { return platine_.schreiben(bericht); };
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         combo_c.at(platz).bei_aenderung = [this] { zuordnung_geaendert(); };
-        c.at(platz).bei_aenderung = [this, platz] { schalten(platz); };
+        c.at(platz).bei_aenderung = [this] { ausgaenge_schreiben(); };
     }
     for (feld& wert : tp) {
         wert.laenge_max(3);
     }
-    datei.laenge_max(name_laenge_max);
+    iow_profildatei.laenge_max(name_laenge_max);
+    muster.text(std::string(profildateien));
     lesen.bei_klick = [this] { werte_lesen(); };
     setzen.bei_klick = [this] { werte_setzen(); };
     Command1.bei_klick = [this] { profil_zeigen(iow_werkseinstellung(), ports); };
@@ -70,7 +71,7 @@ void usbtest::laden() {
     protokoll.leeren();
     dateiwahl_zeigen(false);
     linien_ = 0;
-    datei.text(um_.einst.iow.iow_datei);
+    iow_profildatei.text(um_.einst.iow.iow_datei);
     const auto gelesen = iow_profil_laden(um_.ablage, um_.einst.iow.iow_datei);
     profil_zeigen(gelesen.value_or(iow_werkseinstellung()), ports);
     for (feld& wert : tp) {
@@ -128,11 +129,18 @@ void usbtest::takt_tick() {
     lampen_zeigen();
 }
 
+ereignis_art usbtest::zuordnung(std::size_t platz) const {
+    return std::max(combo_c.at(platz).platz(), 0);
+}
+
+const std::string& usbtest::ereignis_zuordnung_name(std::size_t platz) const {
+    return um_.txt.ereignis_name.at(static_cast<std::size_t>(zuordnung(platz)));
+}
+
 void usbtest::kontakte_notieren(std::uint32_t geschlossene) {
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        const int nummer = std::max(combo_c.at(platz).platz(), 0);
-        if ((geschlossene >> platz & 1U) != 0 && !art::ist_ausgang(nummer)) {
-            notieren(pin_name(platz) + "  " + um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));
+        if ((geschlossene >> platz & 1U) != 0 && !art::ist_ausgang(zuordnung(platz))) {
+            notieren(pin_name(platz) + "  " + ereignis_zuordnung_name(platz));
         }
     }
 }
@@ -142,9 +150,9 @@ void usbtest::lebenstakt_tick() {
         verbinden(false);
         return;
     }
-    bericht_.schreiben();
-    if (bericht_.schreibfehler()) {
+    if (!ausgaenge_schreiben()) {
         platine_.schliessen();
+        linien_ = 0;
         zustand_melden(wort_.getrennt);
     }
 }
@@ -158,7 +166,7 @@ void usbtest::lampen_zeigen() {
 iow_profil usbtest::profil() const {
     iow_profil neu{};
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        neu.at(platz) = std::max(combo_c.at(platz).platz(), 0);
+        neu.at(platz) = zuordnung(platz);
     }
     return neu;
 }
@@ -176,17 +184,21 @@ void usbtest::profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports) 
 }
 
 void usbtest::zuordnung_geaendert() {
-    bericht_.belegung = belegung_von(profil());
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        c.at(platz).sichtbar(art::ist_ausgang(combo_c.at(platz).platz()));
+        c.at(platz).sichtbar(art::ist_ausgang(zuordnung(platz)));
     }
     ruecksetzen();  // what was an output may be an input now, which nothing may hold
 }
 
-void usbtest::schalten(std::size_t platz) {
-    bericht_.schalten(combo_c.at(platz).platz(), c.at(platz).gesetzt());
-    bericht_.schreiben();
+bool usbtest::ausgaenge_schreiben() {
+    iow_bericht::bytes iow_ausgang = iow_bericht::in_ruhe;
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        if (c.at(platz).gesetzt()) {
+            iow_ausgang.at(1 + platz / bits_je_port) &= static_cast<std::uint8_t>(~(1U << platz % bits_je_port));
+        }
+    }
     lampen_zeigen();
+    return platine_.schreiben(iow_ausgang);
 }
 
 void usbtest::werte_lesen() {
@@ -205,41 +217,34 @@ void usbtest::werte_setzen() {
         tp.at(port).text(std::to_string(wert));
         for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
             const std::size_t platz = port * bits_je_port + bit;
-            const ereignis_art nummer = combo_c.at(platz).platz();
-            if (art::ist_ausgang(nummer)) {
-                c.at(platz).gesetzt((wert >> bit & 1U) == 0);
-                bericht_.schalten(nummer, c.at(platz).gesetzt());
-            }
+            c.at(platz).gesetzt(art::ist_ausgang(zuordnung(platz)) && (wert >> bit & 1U) == 0);
         }
     }
-    bericht_.schreiben();
-    lampen_zeigen();
+    ausgaenge_schreiben();
 }
 
 void usbtest::ruecksetzen() {
     for (haken& ausgang : c) {
         ausgang.gesetzt(false);
     }
-    bericht_.ruhe();
-    bericht_.schreiben();
-    lampen_zeigen();
+    ausgaenge_schreiben();
 }
 
-bool usbtest::doppelt() const {
+bool usbtest::doppelt_pruefen() const {
     iow_profil alle = profil();
     std::sort(alle.begin(), alle.end());
     return std::adjacent_find(alle.begin(), alle.end(), [](int a, int b) { return a != 0 && a == b; }) != alle.end();
 }
 
 void usbtest::speichern() {
-    if (doppelt()) {
+    if (doppelt_pruefen()) {
         um_.meldungen.zeigen(wort_.doppelt, um_.txt.titel[1]);
         return;
     }
-    std::string name(gekuerzt(datei.text()));
+    std::string name(gekuerzt(iow_profildatei.text()));
     if (name.empty() || !dateiname_zulaessig(name)) {
         um_.meldungen.zeigen(wort_.name, um_.txt.titel[1]);
-        datei.fokus_setzen();
+        iow_profildatei.fokus_setzen();
         return;
     }
     if (!endet_auf(name, endung)) {
@@ -249,19 +254,20 @@ void usbtest::speichern() {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
         return;
     }
-    datei.text(name);
+    profil_gilt(name, wort_.gespeichert);
+    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
+        const bool strom =
+            std::find(art::bahnstrom.begin(), art::bahnstrom.end(), zuordnung(platz)) != art::bahnstrom.end();
+        c.at(platz).gesetzt(strom && !um_.einst.bahnstrom_invers);
+    }
+    ausgaenge_schreiben();
+}
+
+void usbtest::profil_gilt(const std::string& name, const std::string& wodurch) {
+    iow_profildatei.text(name);
     um_.einst.iow.iow_datei = name;
     einstellungen_sichern();
-    notieren(" +++ " + name + ": " + wort_.gespeichert);
-    ruecksetzen();
-    for (std::size_t platz = 0; platz < iow_bits; ++platz) {
-        const ereignis_art nummer = combo_c.at(platz).platz();
-        const bool strom = std::find(art::bahnstrom.begin(), art::bahnstrom.end(), nummer) != art::bahnstrom.end();
-        if (strom && !um_.einst.bahnstrom_invers) {
-            c.at(platz).gesetzt(true);
-            schalten(platz);
-        }
-    }
+    notieren(" +++ " + name + ": " + wodurch);
 }
 
 void usbtest::dateien_zeigen() {
@@ -288,9 +294,9 @@ void usbtest::laden_klick() {
         um_.meldungen.zeigen(um_.txt.meldung[11], um_.txt.titel[1]);
         return;
     }
-    datei.text(name);
     profil_zeigen(*neu, ports);
     dateiwahl_zeigen(false);
+    profil_gilt(name, wort_.geladen);
 }
 
 }  // namespace tarvel

@@ -60,11 +60,12 @@ public:
     befehl Command5;  ///< "RESET IO-W"
     befehl Command7;  ///< "Werkseinstellungen"
     bezeichnung Label_datei;
-    feld datei;
+    feld iow_profildatei;
     befehl Command3;  ///< save
     befehl Command8;  ///< open a file
     befehl Command6;  ///< close
     rahmen oeffnen_rahmen;
+    bezeichnung muster;  ///< which files the list shows
     liste dateiliste;
     befehl Command10;  ///< load it
     befehl Command9;   ///< leave it
@@ -89,6 +90,7 @@ private:
         std::string funktion;
         std::string name;
         std::string gespeichert;
+        std::string geladen;
     };
 
     static std::string pin_name(std::size_t platz);
@@ -96,6 +98,8 @@ private:
     void zustand_melden(const std::string& text);
     void notieren(std::string_view text);
     void takt_tick();
+    ereignis_art zuordnung(std::size_t platz) const;
+    const std::string& ereignis_zuordnung_name(std::size_t platz) const;
     void kontakte_notieren(std::uint32_t geschlossene);
     void lebenstakt_tick();
     void lampen_zeigen();
@@ -103,12 +107,15 @@ private:
     iow_profil profil() const;
     void profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports);
     void zuordnung_geaendert();
-    void schalten(std::size_t platz);
+    /// Holds the pins of the outputs that are ticked, and no others. False without a board.
+    bool ausgaenge_schreiben();
     void werte_lesen();
     void werte_setzen();
     void ruecksetzen();
-    bool doppelt() const;
+    bool doppelt_pruefen() const;
     void speichern();
+    /// The program measures with this file from now on.
+    void profil_gilt(const std::string& name, const std::string& wodurch);
     void dateien_zeigen();
     void dateiwahl_zeigen(bool zeigen);
     void laden_klick();
@@ -119,7 +126,6 @@ private:
     std::unique_ptr<plattform::zeitgeber>
         lebenstakt_;  ///< looks each second whether the board is still, or again, there
     iow_platine platine_;
-    iow_bericht bericht_;
     std::uint32_t linien_ = 0;  ///< closed contacts as last heard of
     worte wort_;
 };

@@ -26,12 +26,12 @@ sprachliste usbtest::sprache() {
     texte.text("Das Modul wurde abgezogen", wort_.getrennt).text("Kontakt", wort_.lampe);
     texte.text("Ausgang schalten", wort_.schalten).text("Funktion", wort_.funktion);
     texte.text("Dieser Dateiname ist nicht zulässig.", wort_.name);
-    return texte.text("gespeichert", wort_.gespeichert);
+    return texte.text("gespeichert", wort_.gespeichert).text("geladen", wort_.geladen);
 }
 
 void usbtest::ansagen_setzen() {
     protokoll.ansage(Label_protokoll.text());
-    datei.ansage(Label_datei.text());
+    iow_profildatei.ansage(Label_datei.text());
     dateiliste.ansage(oeffnen_rahmen.text());
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         const std::string pin = pin_name(platz);

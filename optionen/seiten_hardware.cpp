@@ -44,7 +44,7 @@ optionszeile_zeiger lpt_adresse() {
     optionszeile* zeiger = zeile.get();
     zeile->texte_nennen = [zeiger, davor = zeile->texte_nennen](sprachliste& texte) {
         davor(texte);
-        texte.text("Die Adresse ist keine hexadezimale Zahl.", zeiger->grenzen_meldung);
+        texte.text("Die Adresse ist keine hexadezimale Zahl von 100 bis FFFD.", zeiger->grenzen_meldung);
     };
     zeile->zeigen = [element](const einstellungs_ziel& z) {
         element->text(portadresse_text(z.einst.lpt.anschluss.lpt_adresse));

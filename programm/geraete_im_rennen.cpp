@@ -15,7 +15,7 @@ int als_spur(std::int64_t wert) {
 geraete_im_rennen::geraete_im_rennen(tarvel::rennen& r, tarvel::form1& form1, const fensterregister& fenster)
     : r_(r), form1_(form1), fenster_(fenster) {
     using werte = mitschrift::werte;
-    ereignisse_gemeldet_ = r_.protokoll.befehl("gemeldet", [this] { gemeldetes_ansehen(); });
+    tankflanken_auswerten_ = r_.protokoll.befehl("tankflanken", [this] { tankflanken_ansehen(); });
     verschieben_ = r_.protokoll.eingang("verschieben", 1, [this](const werte& w) {
         r_.zustand.stempel_verschieben(w[0]);
         r_.umgebung.ereignisse.stempel_verschieben(w[0]);
@@ -39,7 +39,7 @@ void geraete_im_rennen::pausen_nachmessen(double faktor) {
     r_.protokoll.geschieht(nachmessen_, {std::bit_cast<std::int64_t>(faktor)});
 }
 
-void geraete_im_rennen::gemeldetes_ansehen() {
+void geraete_im_rennen::tankflanken_ansehen() {
     r_.tanken.sensoren_nachhalten();
     if (!r_.umgebung.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
         r_.tanken.tank_kontakte_auswerten();

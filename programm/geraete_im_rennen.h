@@ -20,7 +20,7 @@ public:
     void rennen_vorbereiten() override { r_.bahn1.Command1.klicken(); }
     void stempel_verschieben(zeit_ms um) override { r_.protokoll.geschieht(verschieben_, {um}); }
     void pausen_nachmessen(double faktor) override;
-    void ereignisse_gemeldet() override { ereignisse_gemeldet_(); }
+    void tankflanken_auswerten() override { tankflanken_auswerten_(); }
     void tankkontakt_verlassen(int spur) override { r_.protokoll.geschieht(verlassen_, {spur}); }
     void fuellstand(int spur, int stufe, int stufen, bool neu) override {
         r_.protokoll.geschieht(fuellstand_, {spur, stufe, stufen, neu ? 1 : 0});
@@ -28,12 +28,12 @@ public:
     void tankfunktion(bool an) override;
 
 private:
-    void gemeldetes_ansehen();
+    void tankflanken_ansehen();
 
     tarvel::rennen& r_;
     tarvel::form1& form1_;
     const fensterregister& fenster_;
-    std::function<void()> ereignisse_gemeldet_;
+    std::function<void()> tankflanken_auswerten_;
     int verschieben_;  ///< numbers of the doings
     int nachmessen_;
     int verlassen_;

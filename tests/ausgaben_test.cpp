@@ -119,10 +119,10 @@ TEST_F(Ausgaben, WasEsNichtGibtAendertNichts) {
     a.ampelnRon(0);
     a.relais_on(0);
     EXPECT_EQ(gesendet, vorher);
-    EXPECT_FALSE(a.bericht.schreibfehler());
+    EXPECT_FALSE(a.bericht.iow_schreibfehler());
     a.bericht.senden = {};
     a.ampelnGRon();
-    EXPECT_TRUE(a.bericht.schreibfehler());
+    EXPECT_TRUE(a.bericht.iow_schreibfehler());
 }
 
 TEST(AusgabenImProgramm, StromVonHandKalibrierungUndEnde) {

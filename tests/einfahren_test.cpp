@@ -113,7 +113,7 @@ TEST_F(Einfahren, RundenVonHandUndDannEinRichtigesRennen) {
     f.Command5.klicken();
     EXPECT_FALSE(offen(fenstername::einfahren));
     EXPECT_TRUE(alle_ohne_strom());
-    EXPECT_EQ(t.p.ausgaben.bericht.ausgang(), (iow_bericht::bytes{0, 255, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(t.p.ausgaben.bericht.iow_ausgang(), (iow_bericht::bytes{0, 255, 255, 255, 255, 255, 255, 255}));
     for (const ereignis_art nummer : art::rundenzaehlung) {
         EXPECT_FALSE(t.p.ereignisse[nummer].aktiv);
     }

@@ -26,4 +26,6 @@ rundenverlauf            rundenverlauf      1280x800
 wettkampf_vorbereiten    wettkampf          1180x800
 bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760
+usbtest                  usbtest            1012x690
+druckeranschluss         druckeranschluss   820x520
 BILDER

@@ -44,7 +44,7 @@ UsbtestFenster::UsbtestFenster(usbtest& logik, Fensterverwaltung& verwaltung, QW
 
     auto* fuss = new QHBoxLayout;
     fuss->addWidget(binder().label(logik.Label_datei, "Label_datei"));
-    fuss->addWidget(binder().zeile(logik.datei, "datei"), 1);
+    fuss->addWidget(binder().zeile(logik.iow_profildatei, "iow_profildatei"), 1);
     QPushButton* oeffnen = binder().knopf(logik.Command8, "Command8");
     oeffnen->setMinimumHeight(stil::knopfhoehe);
     fuss->addWidget(oeffnen);
@@ -114,6 +114,7 @@ QWidget* UsbtestFenster::meldungen() {
 QWidget* UsbtestFenster::dateiwahl() {
     QGroupBox* kasten = binder().gruppe(logik_.oeffnen_rahmen, "oeffnen_rahmen");
     auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->addWidget(stil::leise(binder().label(logik_.muster, "muster")));
     aufbau->addWidget(binder().listenfeld(logik_.dateiliste, "dateiliste"), 1);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addWidget(binder().knopf(logik_.Command10, "Command10"));

@@ -388,6 +388,8 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
            "D3\x17"
            "12\x03"},
           timekeeper_hoeren}},
+        {"iow_datei", iow_datei()},
+        {"iow", iow_berichte()},
         {"modul4x4",
          {{"TRAXIUM-USB\rTXUSB_OK\rV1.2\rMODUS\rmod1\r1?\r4:\r0>\r", "V2.0\rmod4\r1?\r8?\rRC2Long\rRC2\rmod9\r"},
           modul4x4_hoeren}},

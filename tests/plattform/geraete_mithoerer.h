@@ -23,10 +23,10 @@ public:
     void rennen_vorbereiten() override { rennen_.rennen_vorbereiten(); }
     void stempel_verschieben(zeit_ms um) override { rennen_.stempel_verschieben(um); }
     void pausen_nachmessen(double faktor) override { rennen_.pausen_nachmessen(faktor); }
-    void ereignisse_gemeldet() override {
+    void tankflanken_auswerten() override {
         ++gemeldet;
         if (ereignisse_weitersagen) {
-            rennen_.ereignisse_gemeldet();
+            rennen_.tankflanken_auswerten();
         }
     }
     void tankkontakt_verlassen(int spur) override { rennen_.tankkontakt_verlassen(spur); }

@@ -5,6 +5,7 @@
 #include "programm/race_control_verdrahtung.h"
 #include "programm/tx_verdrahtung.h"
 #include "tests/plattform/test_ftdi.h"
+#include "tests/plattform/test_iowkit.h"
 
 namespace tarvel {
 namespace {
@@ -74,6 +75,21 @@ QWidget& frm_main_fenster(buehne& b) {
     b.p.geraete.von<tx_verdrahtung>().frm_main.chkBahnStrom[2].umschalten();
     b.t.maschine.anschluesse.senden(3, "1?\r3?\rRC2\r");
     return *b.o.frm_main;
+}
+
+/// The board is there, a car stands in a sensor, and somebody has switched a lamp.
+QWidget& usbtest_fenster(buehne& b) {
+    static test::test_iowkit brett;
+    brett.steckt = true;
+    brett.kontakte = brett.gemeldet = 0;
+    brett.eintragen(b.t.maschine.bibliotheken);
+    b.p.fenster.zeigen(fenstername::usbtest);
+    for (const unsigned pin : {0, 13, 12, 15}) {
+        brett.kontakte = 1U << pin;
+        b.t.maschine.laufen(50);
+    }
+    b.p.geraete.von<iow_verdrahtung>().usbtest.c[7].umschalten();
+    return *b.o.usbtest;
 }
 
 /// An evening is prepared: those who are there are on the start list.
@@ -222,11 +238,7 @@ const std::vector<szeneneintrag> alle{
          return *b.o.uart_profildatei;
      },
      true},
-    {"usbtest",
-     [](buehne& b) -> QWidget& {
-         b.p.fenster.zeigen(fenstername::usbtest);
-         return *b.o.usbtest;
-     }},
+    {"usbtest", usbtest_fenster},
     {"usbtest_oeffnen",
      [](buehne& b) -> QWidget& {
          for (const char* name : {"tvk_usb.iow", "klubbahn.iow"}) {

@@ -13,7 +13,7 @@ namespace tarvel::simulator {
 namespace {
 
 constexpr const char* optionendatei = "simulator.txt";
-constexpr int spuren_max = 4;
+constexpr int spuren_max = 4;  // that the boards are wired for
 
 zeit_ms maschinenzeit() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch())
@@ -48,10 +48,9 @@ void brettlauf::anlegen(const std::string& zeile, bool still) {
     }
 }
 
-bool brettlauf::einstellen(const std::string& zeile, bool still) {
+void brettlauf::einstellen(const std::string& zeile, bool still) {
     const std::lock_guard sperre(schloss_);
     anlegen(zeile, still);
-    return true;
 }
 
 bool brettlauf::steckt() const {

@@ -21,7 +21,7 @@ public:
     explicit brettlauf(verdrahtung wie) : wie_(wie) {}
 
     /// Begins anew, with the options of a command line. Tells nothing on the console if it is to be `still`.
-    bool einstellen(const std::string& zeile, bool still);
+    void einstellen(const std::string& zeile, bool still);
     /// Calls `tun` with the board as it is now; not while it is unplugged. False then.
     bool mit_brett(const std::function<void(kontaktbrett&)>& tun);
     /// Its plug in or out by hand.

@@ -104,17 +104,22 @@ void kontaktbrett::gruene_lampe(bool an) {
     lampen_gesehen_ = an ? 0 : lampen_gesehen_;
 }
 
-void kontaktbrett::schliessen(klemme was, int nummer, zeit_ms dauer) {
+bool kontaktbrett::schliessen(klemme was, int nummer, zeit_ms dauer) {
+    bool verdrahtet = false;
     for (std::size_t linie = 0; linie < einst_.eingaenge.size(); ++linie) {
         if (einst_.eingaenge[linie].was == was && einst_.eingaenge[linie].nummer == nummer) {
             zu_bis_[linie] = dauer == bis_auf_weiteres ? dauer : uhr() + dauer;
+            verdrahtet = true;
         }
     }
+    return verdrahtet;
 }
 
-void kontaktbrett::chaos_druecken() {
+void kontaktbrett::chaos_druecken(int spur) {
     sagen("Chaostaster");
-    schliessen(klemme::chaos, 0, einst_.tasterzeit);
+    if (!schliessen(klemme::chaos, spur, einst_.tasterzeit)) {
+        schliessen(klemme::chaos, 0, einst_.tasterzeit);
+    }
 }
 
 void kontaktbrett::wagen_meldet(const wagen_ereignis& was) {
@@ -136,7 +141,8 @@ void kontaktbrett::wagen_meldet(const wagen_ereignis& was) {
         case wagen_art::chaos:
             if (!chaos_ && chaos_ende_ < 0) {
                 chaos_ende_ = einst_.rennen.chaos_dauer > 0 ? uhr() + einst_.rennen.chaos_dauer : -1;
-                chaos_druecken();
+                chaos_fahrer_ = was.wagen;
+                chaos_druecken(chaos_fahrer_);
             }
             return;
     }
@@ -146,7 +152,7 @@ void kontaktbrett::schritt() {
     if (chaos_ende_ >= 0 && uhr() >= chaos_ende_) {
         chaos_ende_ = -1;
         if (chaos_) {
-            chaos_druecken();
+            chaos_druecken(chaos_fahrer_);
         }
     }
     startampel_deuten();

@@ -25,7 +25,7 @@ enum class klemme {
 
 struct anschlussstelle {
     klemme was = klemme::nichts;
-    int nummer = 0;  ///< lane or lamp from 1; 0 for what there is one of
+    int nummer = 0;  ///< lane or lamp from 1; 0 for what there is one of, and for the common chaos button
 };
 
 struct kontaktbrett_einstellung {
@@ -51,15 +51,16 @@ public:
     std::uint32_t kontakte() const { return kontakte_; }
     /// All of them as they became so, in their order, once.
     std::vector<std::uint32_t> aenderungen();
-    /// Somebody presses the chaos button.
-    void chaos_druecken();
+    /// The driver of this lane presses the own chaos button, or the common one where there is none.
+    void chaos_druecken(int spur);
     /// Times in ms of the laps of a car since it was lined up.
     std::vector<zeit_ms> runden(int wagen) const;
 
 private:
     void schritt() override;
     void wagen_meldet(const wagen_ereignis& was) override;
-    void schliessen(klemme was, int nummer, zeit_ms dauer);
+    /// False if nothing of the kind is wired.
+    bool schliessen(klemme was, int nummer, zeit_ms dauer);
     void ausgang_schalten(const anschlussstelle& stelle, bool an);
     void rote_lampe(int nummer, bool an);
     void gruene_lampe(bool an);
@@ -76,6 +77,7 @@ private:
     bool ampel_laeuft_ = false;    ///< one after the other has come on, and no green yet
     bool chaos_ = false;
     zeit_ms chaos_ende_ = -1;
+    int chaos_fahrer_ = 0;         ///< who has pressed, and ends it
     std::size_t erste_fahrt_ = 0;  ///< since the cars were lined up
 };
 

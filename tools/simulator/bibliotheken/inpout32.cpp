@@ -12,10 +12,16 @@ namespace {
 using namespace tarvel::simulator;
 
 constexpr unsigned basis = 0x378;
+constexpr std::uint32_t offene_leitungen = 0x1F;  // the port pulls them up where no plug is
 
 struct port {
+    port() {
+        bytes.fill(0xFF);  // where nothing is, nothing pulls the bus low
+        bytes.at(basis) = 0;
+        bytes.at(basis + 2) = 0x0C;
+    }
     brettlauf lauf{lpt_verdrahtung};
-    std::array<std::uint8_t, 65536> bytes{};
+    std::array<std::uint8_t, 65536> bytes;
 };
 
 port& der_port() {
@@ -39,7 +45,9 @@ TARVEL_RUF short Inp32(short adresse) {
     port& p = der_port();
     const unsigned ort = static_cast<std::uint16_t>(adresse);
     if (ort == basis + 1) {
-        p.lauf.mit_brett([&](kontaktbrett& brett) { p.bytes.at(ort) = statusregister(brett.kontakte()); });
+        std::uint32_t kontakte = offene_leitungen;
+        p.lauf.mit_brett([&](const kontaktbrett& brett) { kontakte = brett.kontakte(); });
+        return statusregister(kontakte);
     }
     return p.bytes.at(ort);
 }

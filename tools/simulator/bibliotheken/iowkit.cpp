@@ -17,7 +17,13 @@ constexpr std::uint32_t iow_40 = 5376;
 
 struct platine {
     brettlauf lauf{iow_werksverdrahtung};
-    std::deque<std::uint32_t> berichte;  ///< that nobody has read yet; only with the board
+    std::deque<std::uint32_t> berichte;  ///< pins that are low, as nobody has read yet; only with the board
+
+    void kontakte_berichten(kontaktbrett& brett) {
+        for (const std::uint32_t kontakte : brett.aenderungen()) {
+            berichte.push_back(kontakte | brett.geschaltet());
+        }
+    }
 };
 
 platine& die_platine() {
@@ -29,7 +35,11 @@ platine& die_platine() {
 
 TARVEL_RUF void* IowKitOpenDevice() {
     platine& p = die_platine();
-    return p.lauf.mit_brett([](kontaktbrett&) {}) ? &p : nullptr;
+    const auto vergessen = [&p](kontaktbrett& brett) {  // who opens it hears of what changes from then on
+        brett.aenderungen();
+        p.berichte.clear();
+    };
+    return p.lauf.mit_brett(vergessen) ? &p : nullptr;
 }
 
 TARVEL_RUF void IowKitCloseDevice(void* /*geraet*/) {}
@@ -39,7 +49,7 @@ TARVEL_RUF std::uint32_t IowKitGetNumDevs() {
 }
 
 TARVEL_RUF void* IowKitGetDeviceHandle(std::uint32_t nummer) {
-    return nummer == 1 ? IowKitOpenDevice() : nullptr;
+    return IowKitGetNumDevs() >= nummer && nummer == 1 ? &die_platine() : nullptr;
 }
 
 TARVEL_RUF std::uint32_t IowKitGetProductId(void* geraet) {
@@ -55,22 +65,19 @@ TARVEL_RUF std::uint32_t IowKitGetSerialNumber(void* geraet, void* ziel) {
     return 1;
 }
 
-/// A report tells the pins as they are: an output that is active is low too.
 TARVEL_RUF std::uint32_t IowKitReadNonBlocking(void* geraet, std::uint32_t pipe, void* ziel, std::uint32_t laenge) {
     if (geraet == nullptr || pipe != 0 || laenge < bericht_groesse) {
         return 0;
     }
     bool gelesen = false;
-    die_platine().lauf.mit_brett([&](kontaktbrett& brett) {
-        std::deque<std::uint32_t>& berichte = die_platine().berichte;
-        for (const std::uint32_t kontakte : brett.aenderungen()) {
-            berichte.push_back(kontakte);
-        }
-        if (berichte.empty()) {
+    platine& p = die_platine();
+    p.lauf.mit_brett([&](kontaktbrett& brett) {
+        p.kontakte_berichten(brett);
+        if (p.berichte.empty()) {
             return;
         }
-        const std::uint32_t pins = ~(berichte.front() | brett.geschaltet());
-        berichte.pop_front();
+        const std::uint32_t pins = ~p.berichte.front();
+        p.berichte.pop_front();
         const unsigned char bericht[bericht_groesse] = {
             0, static_cast<unsigned char>(pins), static_cast<unsigned char>(pins >> 8),
             static_cast<unsigned char>(pins >> 16), static_cast<unsigned char>(pins >> 24)};
@@ -80,6 +87,7 @@ TARVEL_RUF std::uint32_t IowKitReadNonBlocking(void* geraet, std::uint32_t pipe,
     return gelesen ? bericht_groesse : 0;
 }
 
+/// An output that is switched changes its pin, and that is reported like a contact.
 TARVEL_RUF std::uint32_t IowKitWrite(void* geraet, std::uint32_t pipe, void* quelle, std::uint32_t laenge) {
     if (geraet == nullptr || pipe != 0 || laenge < bericht_groesse) {
         return 0;
@@ -89,7 +97,16 @@ TARVEL_RUF std::uint32_t IowKitWrite(void* geraet, std::uint32_t pipe, void* que
     const std::uint32_t pins = bericht[1] | static_cast<std::uint32_t>(bericht[2]) << 8 |
                                static_cast<std::uint32_t>(bericht[3]) << 16 |
                                static_cast<std::uint32_t>(bericht[4]) << 24;
-    return die_platine().lauf.mit_brett([&](kontaktbrett& brett) { brett.schalten(~pins); }) ? bericht_groesse : 0;
+    platine& p = die_platine();
+    const bool da = p.lauf.mit_brett([&](kontaktbrett& brett) {
+        p.kontakte_berichten(brett);
+        const std::uint32_t vorher = brett.geschaltet();
+        brett.schalten(~pins);
+        if (brett.geschaltet() != vorher) {
+            p.berichte.push_back(brett.kontakte() | brett.geschaltet());
+        }
+    });
+    return da ? bericht_groesse : 0;
 }
 
 TARVEL_RUF void SimulatorEinstellen(const char* optionen) {

@@ -1,0 +1,113 @@
+#include "hardware/kontaktleser.h"
+
+#include "tests/kontaktgeraete_probe.h"
+
+namespace tarvel::test {
+namespace {
+
+using Kontaktleser = Kontaktgeraet;
+
+TEST_F(Kontaktleser, EinKontaktZaehltEinmalJeVerlassenDerRuhe) {
+    iow_waehlen();
+    kontakt(bit(15), true);  // a car stands in lane 2's sensor
+    t.starten("Runden", "50", {1, 2});
+    t.maschine.laufen(4000);
+    EXPECT_EQ(t.runden(2), -1);
+    puls(16, 1000);
+    t.maschine.laufen(3000);
+    kontakt(bit(16), true, 9000);
+    EXPECT_EQ(t.runden(1), 1) << "a car that stands in the sensor gains nothing";
+    kontakt(bit(16), false, 5000);
+    EXPECT_EQ(t.runden(1), 1);
+    kontakt(bit(15), false, 3000);
+    EXPECT_EQ(t.runden(2), 0) << "it drives off";
+    kontakt(bit(15), true, 30);
+    kontakt(bit(15), false, 3000);
+    EXPECT_EQ(t.runden(2), 1);
+    EXPECT_EQ(rundenzeit(2, 1), 3030);
+}
+
+/// Beside the program its windows, a dialog or another program may hold the loop.
+TEST_F(Kontaktleser, EineSchleifeDieStehtKostetKeineRundeUndKeineZeit) {
+    iow_waehlen();
+    t.starten("Runden", "50", {1, 2, 3, 4});
+    t.maschine.laufen(1000);
+    kontaktleser leser({t.p.einst, t.p.ereignisse, t.p.geraete.rennverbindung()}, {});
+    leser.zuordnen(linien_von(iow_werkseinstellung()));
+    leser.ruhe_merken();
+    const zeit_ms null = t.maschine.jetzt();
+    const auto von_bis = [&](ereignis_art nummer, zeit_ms bei) {
+        leser.gesehen(null + bei, bit(nummer));
+        leser.gesehen(null + bei + 2, 0);
+        leser.gesehen(null + bei + 4, bit(nummer));  // it bounces
+        leser.gesehen(null + bei + 6, 0);
+    };
+    von_bis(16, 100);
+    von_bis(15, 101);
+    von_bis(16, 3100);
+    von_bis(15, 3333);
+    von_bis(16, 6201);
+    t.maschine.uhr_stellen(6300);
+    for (int takt = 0; takt < 20; ++takt) {
+        leser.auswerten();
+        t.maschine.laufen(1);
+    }
+    EXPECT_EQ(t.runden(1), 2);
+    EXPECT_EQ(rundenzeit(1, 1), 3000);
+    EXPECT_EQ(rundenzeit(1, 2), 3101);
+    EXPECT_EQ(rundenzeit(2, 1), 3232);
+}
+
+TEST_F(Kontaktleser, ChaosTasterUndSchalter) {
+    iow_profil profil = iow_werkseinstellung();
+    profil[8] = 55;
+    iow_waehlen(profil);
+    t.p.einst.chaosampel_an = false;
+    t.starten("Runden", "50", {1, 2});
+    t.maschine.laufen(5000);
+    kontakt(1U << 8, true, 8000);
+    EXPECT_TRUE(pause()) << "held, it does not end its own pause";
+    EXPECT_NE(t.bahn().cu_startlabel.text().find('2'), std::string::npos);
+    t.taste("c");
+    EXPECT_TRUE(pause()) << "the key has no say meanwhile";
+    kontakt(1U << 8, false, 1000);
+    EXPECT_TRUE(pause());
+    kontakt(bit(1), true, 500);
+    kontakt(bit(1), false, 5000);
+    EXPECT_FALSE(pause());
+    t.p.einst.chaos_schalter = true;
+    kontakt(bit(1), true, 8000);
+    EXPECT_TRUE(pause());
+    kontakt(bit(1), false, 1000);
+    EXPECT_FALSE(pause()) << "the switch is off";
+    t.maschine.laufen(8000);
+    t.taste("c");
+    t.maschine.laufen(8000);
+    EXPECT_TRUE(pause()) << "a pause by key is not the switch's to end";
+    t.taste("c");
+    EXPECT_FALSE(pause());
+}
+
+TEST_F(Kontaktleser, TankenEndetMitDemKontaktOderMitSeinemZweiten) {
+    iow_profil profil = iow_werkseinstellung();
+    profil[30] = 0;  // lane 1 has no contact for the end
+    iow_waehlen(profil);
+    t.p.form1.t_aktiv.gesetzt(true);
+    t.starten("Runden", "50", {1, 2});
+    for (const int spur : {1, 2}) {
+        t.spur(spur).tank_inhalt = 10;
+    }
+    kontakt(bit(32) | bit(30), true, 3000);
+    const double nach_drei = t.spur(1).tank_inhalt;
+    EXPECT_GT(nach_drei, 20);
+    kontakt(bit(32) | bit(30), false, 2000);
+    EXPECT_LT(t.spur(1).tank_inhalt, nach_drei + 0.3);
+    EXPECT_GT(t.spur(2).tank_inhalt, nach_drei + 10) << "it drives to its second contact";
+    puls(29, 10);
+    const double am_ende = t.spur(2).tank_inhalt;
+    t.maschine.laufen(1000);
+    EXPECT_EQ(t.spur(2).tank_inhalt, am_ende);
+}
+
+}  // namespace
+}  // namespace tarvel::test
