@@ -279,10 +279,10 @@ void tk_einstellungen::satz_zeigen(std::string_view inhalt) {
 }
 
 void tk_einstellungen::sensor_zeigen(const tk::sensor& satz) {
-    if (satz.nummer < 1 || satz.nummer > tk::sensoren_max) {
+    if (satz.tk_sensor < 1 || satz.tk_sensor > tk::sensoren_max) {
         return;
     }
-    const auto i = static_cast<std::size_t>(satz.nummer - 1);
+    const auto i = static_cast<std::size_t>(satz.tk_sensor - 1);
     kanal& k = kanaele.at(i);
     k.lampe.hintergrund(lampe_an);
     leuchtet_bis_.at(i) = uhr_.jetzt() + leuchtdauer_ms;
