@@ -133,13 +133,17 @@ void race_control::uhr_nachfuehren() {
     }
 }
 
+ereignis_art race_control::rc_eingang_art(int sensor) const {
+    return um_.einst.rc.rc_sensor.at(static_cast<std::size_t>(sensor));
+}
+
 void race_control::rc_meldet(const rc_kontakt& kontakt) {
     if (!gewuenscht_ || !verbindung_.bereit()) {
         return;
     }
     const zeit_ms stempel = stempel_von(kontakt.stempel);
     if (kontakt.belegt) {
-        rc_ereignis(um_.einst.rc.rc_sensor.at(static_cast<std::size_t>(kontakt.sensor)), stempel);
+        rc_ereignis(rc_eingang_art(kontakt.sensor), stempel);
     }
 }
 

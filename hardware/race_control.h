@@ -55,6 +55,7 @@ private:
     void unbekanntes_ereignis();
     void uhr_nachfuehren();
     zeit_ms stempel_von(std::uint32_t ticks);
+    ereignis_art rc_eingang_art(int sensor) const;
     void rc_ereignis(ereignis_art nummer, zeit_ms stempel);
 
     umgebung um_;
