@@ -9,8 +9,10 @@
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
+#include "core/texte.h"
 #include "hardware/geraetezugang.h"
 #include "hardware/rc_verbindung.h"
+#include "platform/meldungen.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
 
@@ -22,10 +24,12 @@ class rc_einstellungen final : public fensterlogik, private rc_hoerer {
 public:
     struct umgebung {
         einstellungen& einst;
+        const texte& txt;
         const dateien& ablage;
         fensterregister& fenster;
         const plattform::uhr& uhr;
         plattform::zeitgeber_dienst& zeitgeber;
+        plattform::meldungen& meldungen;
     };
 
     struct sensorzeile {
@@ -74,6 +78,7 @@ private:
     void werte_zeigen();
     void sensoren_leeren();
     void ansagen_setzen();
+    bool werte_zulaessig() const;
     void uebernehmen();
     void rc_akt_tick();
     const std::string& schritttext(rc_schritt schritt) { return schritttexte_[schritt]; }
@@ -86,6 +91,7 @@ private:
     std::string sensor_;
     std::string nicht_aktiv_;
     std::string offline_;
+    std::string unzulaessig_;
     std::array<int, rc_verbindung::sensoren> gezaehlt_{};
     std::array<bool, rc_verbindung::sensoren> steht_{};            ///< a car is in it
     std::array<zeit_ms, rc_verbindung::sensoren> leuchtet_bis_{};  ///< machine's clock: for eyes to see that one was

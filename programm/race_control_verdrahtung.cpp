@@ -15,7 +15,9 @@ race_control_verdrahtung::race_control_verdrahtung(const geraete_umgebung& um, m
       box({um.einst, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle, um.dienste.uhr,
            um.dienste.zeitgeber, um.dienste.meldungen},
           verbindung),
-      rc_einstellungen({um.einst, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber}, verbindung),
+      rc_einstellungen(
+          {um.einst, um.txt, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.meldungen},
+          verbindung),
       einst_(um.einst),
       optionen_(um.einstellungsfenster),
       form1_(um.form1),
