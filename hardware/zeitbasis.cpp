@@ -12,6 +12,9 @@ zeit_ms zeitbasis::messzeit_lesen() const {
 }
 
 zeit_ms zeitbasis::ereignis_zeit_lesen() {
+    if (!zaehlt_) {
+        return messzeit_lesen();
+    }
     ++zeit_zaehler_;
     const zeit_ms stempel = messzeit_lesen() + zeit_zaehler_;
     if (zeit_zaehler_ == 9) {
@@ -38,6 +41,7 @@ void zeitbasis::freigeben() {
     stand_ = 0;
     gang_ = 1;
     mindestens_ = nie;
+    zaehlt_ = true;
 }
 
 }  // namespace tarvel

@@ -16,7 +16,7 @@ public:
     zeit_ms messzeit_lesen() const;
 
     /// A stamp that differs from the one read just before, even within the same millisecond: adds 1, 2 ... 9, 0 in
-    /// turn.
+    /// turn; not for a clock that stands for itself.
     zeit_ms ereignis_zeit_lesen();
 
     /// A device's clock stands at `geraetezeit` now.
@@ -27,6 +27,8 @@ public:
     void nachstellen(zeit_ms geraetezeit, double gang);
     /// A device has told its time: stamps that differ begin anew.
     void zaehler_zuruecksetzen() { zeit_zaehler_ = 0; }
+    /// The device's clock stands for itself, until it is released: nothing is added to its stamps.
+    void nicht_zaehlen() { zaehlt_ = false; }
     /// No device any more: the machine's counter itself.
     void freigeben();
 
@@ -39,6 +41,7 @@ private:
     double gang_ = 1;
     zeit_ms mindestens_ = nie;
     int zeit_zaehler_ = 0;
+    bool zaehlt_ = true;
 };
 
 }  // namespace tarvel
