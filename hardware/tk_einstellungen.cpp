@@ -269,6 +269,8 @@ void tk_einstellungen::satz_zeigen(std::string_view inhalt) {
     const tk::satz satz = tk::satz_lesen(inhalt, digital());
     if (const auto* sensor = std::get_if<tk::sensor>(&satz)) {
         sensor_zeigen(*sensor);
+    } else if (const auto* taste = std::get_if<tk::chaostaste>(&satz)) {
+        melden(um_.txt.ereignis_name.at(art::chaostaster) + " " + std::to_string(taste->tk_chaos_wert));
     } else if (inhalt == "Timekeeper_USB") {
         melden("Device recognized");
     } else if (inhalt == "Timekeeper_active") {

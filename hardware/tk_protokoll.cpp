@@ -6,6 +6,7 @@
 namespace tarvel::tk {
 namespace {
 
+constexpr std::string_view chaoswort = "Chaos_bttn";
 constexpr std::size_t zeit_stellen = 13;  // of a clock that has run for three hundred years
 
 /// Digits alone: what else stands there was damaged on the way.
@@ -38,6 +39,12 @@ satz sensor_lesen(std::string_view rest, bool digital) {
     return sensor{static_cast<int>(*tk_sensor), static_cast<int>(*wagen), *zeit};
 }
 
+int chaoswert_lesen(std::string_view rest) {
+    constexpr std::size_t wert_stellen = 9;
+    const std::size_t trenner = std::min<std::size_t>(rest.size(), 1);
+    return static_cast<int>(ziffern_lesen(rest.substr(trenner), wert_stellen).value_or(0));
+}
+
 }  // namespace
 
 satz satz_lesen(std::string_view inhalt, bool digital) {
@@ -45,8 +52,8 @@ satz satz_lesen(std::string_view inhalt, bool digital) {
         const auto zeit = ziffern_lesen(inhalt.substr(1), zeit_stellen);
         return zeit ? satz(uhrzeit{*zeit}) : satz(gestoert{});
     }
-    if (inhalt.starts_with("Chaos_bttn")) {
-        return chaostaste{};
+    if (inhalt.starts_with(chaoswort)) {
+        return chaostaste{chaoswert_lesen(inhalt.substr(chaoswort.size()))};
     }
     // an answer in words may begin with that letter too
     const bool ist_sensor = inhalt.size() > 1 && inhalt[0] == 'D' && inhalt[1] >= '0' && inhalt[1] <= '9';

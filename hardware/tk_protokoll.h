@@ -26,7 +26,9 @@ struct sensor {
     zeit_ms zeit = 0;
 };
 
-struct chaostaste {};
+struct chaostaste {
+    int tk_chaos_wert = 0;  ///< what the box adds to it
+};
 /// An answer in words.
 struct antwort {};
 /// A time or a sensor that cannot be read.
