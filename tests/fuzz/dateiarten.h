@@ -48,6 +48,7 @@ bool befehlsdatei_lesen(werkbank& bank, const std::string& bytes);
 bool at2560_hoeren(werkbank& bank, const std::string& bytes);
 bool tk_datei_lesen(werkbank& bank, const std::string& bytes);
 bool timekeeper_hoeren(werkbank& bank, const std::string& bytes);
+bool race_control_hoeren(werkbank& bank, const std::string& bytes);
 bool modul4x4_hoeren(werkbank& bank, const std::string& bytes);
 
 }  // namespace tarvel::test
