@@ -24,7 +24,7 @@ struct messhardware {
     bool hw_lpt = false;
     modul_4x4 hw_4x4_modus = modul_4x4::aus;
     bool hw_timekeeper = false;
-    spurmodus tk_spurmodus = spurmodus::keiner;  ///< of the Timekeeper; index in `texte::modus_name`
+    spurmodus tk_spurmodus = spurmodus::keiner;  ///< of the Timekeeper; index in `texte::spurmodus_name`
     bool hw_cu = false;
     bool hw_uart = false;
 

@@ -183,7 +183,7 @@ void form1::modus_anzeigen() {
     const hardware_art modus = um_.einst.hardware.modus();
     std::string status = um_.txt.hardware_name.at(static_cast<std::size_t>(modus));
     if (modus == hardware_art::timekeeper) {
-        status += ": " + um_.txt.modus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
+        status += ": " + um_.txt.spurmodus_name.at(static_cast<std::size_t>(um_.einst.hardware.tk_spurmodus));
     } else if (modus == hardware_art::usb_4x4) {
         status += ": " + um_.txt.tx_modus(static_cast<int>(um_.einst.hardware.hw_4x4_modus) -
                                           static_cast<int>(modul_4x4::aus));

@@ -158,7 +158,7 @@ sprachliste texte::sprache_m1() {
     alle(meldungen, meldung, 1);
     alle(datei_texte, datei_text);
     alle(hardware_namen, hardware_name);
-    alle(modus_namen, modus_name);
+    alle(modus_namen, spurmodus_name);
     gruppe.text("Kann nicht activiert werden.", nicht_aktiv_text);
     gruppe.text("Programmeinstellungen aus Datei übernehmen?", wettkampf.einstellungen_uebernehmen);
     gruppe.text("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", wettkampf.ladefehler);

@@ -44,7 +44,7 @@ struct texte {
     std::vector<std::string> fahrzeuge_standard{"Formel 1",       "Porsche GT3", "Peugeot 206", "Peugeot 307",
                                                 "Subaru Impreza", "Viper",       "Corvette",    "Mini Cooper S"};
     std::array<std::string, 8> hardware_name;
-    std::array<std::string, 5> modus_name;  ///< track modes of a digital-capable device
+    std::array<std::string, 5> spurmodus_name;  ///< track modes of a digital-capable device
     std::string nicht_aktiv_text;
     struct {
         std::string einstellungen_uebernehmen, ladefehler;

@@ -16,6 +16,13 @@ struct nebenrolle {
 };
 constexpr std::array<nebenrolle, 4> nebenrollen{{{16, 32, 0}, {15, 30, 0}, {14, 31, 16}, {13, 29, 15}}};
 
+/// Null for an event that no sensor of the box may stand for.
+const nebenrolle* nebenrolle_von(ereignis_art nummer) {
+    const auto rolle = std::find_if(nebenrollen.begin(), nebenrollen.end(),
+                                    [nummer](const nebenrolle& r) { return r.sensor == nummer; });
+    return rolle == nebenrollen.end() ? nullptr : &*rolle;
+}
+
 }  // namespace
 
 race_control::race_control(const umgebung& um, rc_verbindung& verbindung)
@@ -50,6 +57,7 @@ void race_control::schliessen() {
     meldung_->aus();
     verbindung_.schliessen();
     uhr_.vergessen();
+    vergessen();
 }
 
 void race_control::wieder_aufnehmen() {
@@ -79,9 +87,7 @@ void race_control::ansagen(bool an) {
 void race_control::rc_geschehen(rc_schritt schritt) {
     switch (schritt) {
         case rc_schritt::bereit:
-            uhr_.wieder_da();
-            uhr_nachfuehren();
-            ansagen(false);
+            rc_bereit();
             break;
         case rc_schritt::stumm:
             stumm();
@@ -103,6 +109,15 @@ void race_control::rc_geschehen(rc_schritt schritt) {
     }
 }
 
+void race_control::rc_bereit() {
+    uhr_.wieder_da();
+    uhr_nachfuehren();
+    if (gewuenscht_) {
+        um_.zeit.nicht_zaehlen();
+    }
+    ansagen(false);
+}
+
 void race_control::stumm() {
     if (angesagt_) {  // else nobody has asked for it just now
         ansagen(false);
@@ -119,6 +134,7 @@ void race_control::unbekanntes_ereignis() {
 zeit_ms race_control::stempel_von(std::uint32_t ticks) {
     const rc_uhr::befund befund = uhr_.lesen(ticks, um_.uhr.jetzt(), um_.zeit.messzeit_lesen());
     if (befund.versetzen) {
+        weitergeben(true);  // they are of the clock before
         um_.zeit.stellen(befund.stempel, 1);
         um_.rennen.stempel_verschieben(*befund.versetzen);
     } else if (befund.stand) {
@@ -133,37 +149,68 @@ void race_control::uhr_nachfuehren() {
     }
 }
 
+ereignis_art race_control::rc_eingang_art(int sensor) const {
+    return um_.einst.rc.rc_sensor.at(static_cast<std::size_t>(sensor));
+}
+
 void race_control::rc_meldet(const rc_kontakt& kontakt) {
     if (!gewuenscht_ || !verbindung_.bereit()) {
         return;
     }
-    const zeit_ms stempel = stempel_von(kontakt.stempel);
-    if (kontakt.belegt) {
-        rc_ereignis(um_.einst.rc.rc_sensor.at(static_cast<std::size_t>(kontakt.sensor)), stempel);
+    const sensor_ereignis neu{rc_eingang_art(kontakt.sensor), stempel_von(kontakt.stempel)};
+    if (kontakt.belegt && nebenrolle_von(neu.nummer) != nullptr && !ereignisse_.geben(neu)) {
+        weitergeben(true);
+        ereignisse_.geben(neu);
     }
-}
-
-void race_control::rc_ereignis(ereignis_art nummer, zeit_ms stempel) {
-    const auto rolle = std::find_if(nebenrollen.begin(), nebenrollen.end(),
-                                    [nummer](const nebenrolle& r) { return r.sensor == nummer; });
-    if (rolle == nebenrollen.end()) {
-        return;
-    }
-    um_.ereignisse.ueberfahrt_melden(nummer, stempel);
-    if (um_.einst.rc.rc_tank_sensor34) {
-        um_.ereignisse.ereignis_melden(rolle->tank, stempel);
-    }
-    if (um_.einst.rc.rc_ziel_sensor34 && rolle->ziel != 0) {
-        um_.ereignisse.ueberfahrt_melden(rolle->ziel, stempel);
-    }
-    etwas_neues_ = true;
 }
 
 void race_control::rc_gelesen() {
+    constexpr zeit_ms abfragepause_ms = 100;
     uhr_nachfuehren();
-    if (std::exchange(etwas_neues_, false)) {
-        um_.rennen.tankflanken_auswerten();
+    // a race that runs and has not asked for long has stood still, and will ask
+    if (!um_.rennen.rennen_laeuft() && um_.uhr.jetzt() - letzte_abfrage_ > abfragepause_ms) {
+        weitergeben(true);
     }
+}
+
+void race_control::abfragen() {
+    letzte_abfrage_ = um_.uhr.jetzt();
+    uhr_nachfuehren();
+    weitergeben(false);
+}
+
+bool race_control::zu_frueh(const sensor_ereignis& ereignis) const {
+    const ereignis_art ziel = um_.einst.rc.rc_ziel_sensor34 ? nebenrolle_von(ereignis.nummer)->ziel : 0;
+    return um_.ereignisse[ereignis.nummer].aktiv || (ziel != 0 && um_.ereignisse[ziel].aktiv);
+}
+
+void race_control::weitergeben(bool alle) {
+    while (wartet_ || (wartet_ = ereignisse_.nehmen())) {
+        if (!alle && !gewartet_ && zu_frueh(*wartet_)) {
+            gewartet_ = true;
+            return;
+        }
+        gewartet_ = false;
+        rc_ereignis(*std::exchange(wartet_, std::nullopt));
+    }
+}
+
+void race_control::vergessen() {
+    ereignisse_.leeren();
+    wartet_.reset();
+    gewartet_ = false;
+}
+
+void race_control::rc_ereignis(const sensor_ereignis& ereignis) {
+    const nebenrolle& rolle = *nebenrolle_von(ereignis.nummer);
+    um_.ereignisse.ueberfahrt_melden(ereignis.nummer, ereignis.stempel);
+    if (um_.einst.rc.rc_tank_sensor34) {
+        um_.ereignisse.ereignis_melden(rolle.tank, ereignis.stempel);
+    }
+    if (um_.einst.rc.rc_ziel_sensor34 && rolle.ziel != 0) {
+        um_.ereignisse.ueberfahrt_melden(rolle.ziel, ereignis.stempel);
+    }
+    um_.rennen.tankflanken_auswerten();
 }
 
 }  // namespace tarvel

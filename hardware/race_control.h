@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "core/einstellungen.h"
 #include "core/texte.h"
@@ -10,6 +11,7 @@
 #include "hardware/rc_uhr.h"
 #include "hardware/rc_verbindung.h"
 #include "hardware/rennverbindung.h"
+#include "hardware/uebergabe.h"
 #include "hardware/zeitbasis.h"
 #include "platform/meldungen.h"
 
@@ -41,30 +43,45 @@ public:
     bool verbunden() const override { return verbindung_.bereit(); }
     bool haelt_auf() const override { return true; }
 
-    void abfragen() override { uhr_nachfuehren(); }
+    void abfragen() override;
     void rennfenster_offen() override;
+    void rennen_bereit() override { vergessen(); }
 
 private:
+    struct sensor_ereignis {
+        ereignis_art nummer = 0;
+        zeit_ms stempel = 0;
+    };
+
     void rc_geschehen(rc_schritt schritt) override;
     void rc_meldet(const rc_kontakt& kontakt) override;
     void rc_gelesen() override;
 
     bool verbinden();
     void ansagen(bool an);
+    void rc_bereit();
     void stumm();
     void unbekanntes_ereignis();
     void uhr_nachfuehren();
     zeit_ms stempel_von(std::uint32_t ticks);
-    void rc_ereignis(ereignis_art nummer, zeit_ms stempel);
+    ereignis_art rc_eingang_art(int sensor) const;
+    /// The race has still to count another one in its row.
+    bool zu_frueh(const sensor_ereignis& ereignis) const;
+    void weitergeben(bool alle);
+    void vergessen();
+    void rc_ereignis(const sensor_ereignis& ereignis);
 
     umgebung um_;
     rc_verbindung& verbindung_;
     std::unique_ptr<plattform::zeitgeber> meldung_;  ///< a message waits until the line has been read
     rc_uhr uhr_;
-    bool gewuenscht_ = false;  ///< open, or to be opened as soon as it is there
-    bool angesagt_ = false;    ///< the operator waits for it
-    bool gemeldet_ = false;    ///< he has been told that it says what nobody knows
-    bool etwas_neues_ = false;
+    bool gewuenscht_ = false;                    ///< open, or to be opened as soon as it is there
+    bool angesagt_ = false;                      ///< the operator waits for it
+    bool gemeldet_ = false;                      ///< he has been told that it says what nobody knows
+    uebergabe<sensor_ereignis, 64> ereignisse_;  ///< that the race has not taken yet
+    std::optional<sensor_ereignis> wartet_;      ///< the first of them
+    bool gewartet_ = false;                      ///< for a tick
+    zeit_ms letzte_abfrage_ = 0;                 ///< of a race
 };
 
 }  // namespace tarvel

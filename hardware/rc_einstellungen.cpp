@@ -40,7 +40,7 @@ rc_einstellungen::rc_einstellungen(const umgebung& um, rc_verbindung& verbindung
     : geraetefenster(um.fenster, um.ablage, fenstername::rc_einstellungen),
       um_(um),
       verbindung_(verbindung),
-      rc_akt_timer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(20))) {
+      rc_akt_timer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(1))) {
     verbindung_.zuhoeren(*this);
     rc_akt_timer_->bei_tick = [this] { rc_akt_tick(); };
     doInit.bei_klick = [this] {
@@ -84,7 +84,8 @@ sprachliste rc_einstellungen::sprache() {
     for (const auto& [schritt, deutsch] : schritte) {
         texte.text(deutsch, schritttexte_[schritt]);
     }
-    return texte.text("Unbekannter Fehler", schritttexte_[s::unbekannter_fehler]);
+    texte.text("Unbekannter Fehler", schritttexte_[s::unbekannter_fehler]);
+    return texte.text("Werte außerhalb des zulässigen Bereichs", unzulaessig_);
 }
 
 void rc_einstellungen::oeffnen(const std::string& port) {
@@ -216,14 +217,22 @@ void rc_einstellungen::rc_akt_tick() {
     }
 }
 
+/// What the settings file brought may be no port, or no lane, of the lists.
+bool rc_einstellungen::werte_zulaessig() const {
+    return selComPort.platz() >= 0 && std::all_of(sensoren.begin(), sensoren.end(),
+                                                  [](const sensorzeile& eine) { return eine.selSpur.platz() >= 0; });
+}
+
 void rc_einstellungen::uebernehmen() {
+    if (!werte_zulaessig()) {
+        um_.meldungen.zeigen(unzulaessig_, um_.txt.titel[1]);
+        return;
+    }
     race_control_einstellungen& rc = um_.einst.rc;
     eigene_ = eigene_ || rc.anschluss.rc_com_port != selComPort.text();
     rc.anschluss.rc_com_port = selComPort.text();
     for (std::size_t i = 0; i < sensoren.size(); ++i) {
-        if (const int spur = sensoren.at(i).selSpur.platz(); spur >= 0) {
-            rc.rc_sensor.at(i) = erste_art + rc_verbindung::sensoren - 1 - spur;
-        }
+        rc.rc_sensor.at(i) = erste_art + rc_verbindung::sensoren - 1 - sensoren.at(i).selSpur.platz();
     }
     rc.rc_tank_sensor34 = check_rctank.gesetzt();
     rc.rc_ziel_sensor34 = check_rcziel.gesetzt();

@@ -8,8 +8,10 @@
 #include "core/einstellungen.h"
 #include "core/fensterregister.h"
 #include "core/steuerelemente.h"
+#include "core/texte.h"
 #include "hardware/geraetefenster.h"
 #include "hardware/rc_verbindung.h"
+#include "platform/meldungen.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
 
@@ -21,10 +23,12 @@ class rc_einstellungen final : public geraetefenster, private rc_hoerer {
 public:
     struct umgebung {
         einstellungen& einst;
+        const texte& txt;
         const dateien& ablage;
         fensterregister& fenster;
         const plattform::uhr& uhr;
         plattform::zeitgeber_dienst& zeitgeber;
+        plattform::meldungen& meldungen;
     };
 
     struct sensorzeile {
@@ -71,6 +75,7 @@ private:
     void werte_zeigen();
     void sensoren_leeren();
     void ansagen_setzen();
+    bool werte_zulaessig() const;
     void uebernehmen();
     void rc_akt_tick();
     const std::string& schritttext(rc_schritt schritt) { return schritttexte_[schritt]; }
@@ -83,6 +88,7 @@ private:
     std::string sensor_;
     std::string nicht_aktiv_;
     std::string offline_;
+    std::string unzulaessig_;
     std::array<int, rc_verbindung::sensoren> gezaehlt_{};
     std::array<bool, rc_verbindung::sensoren> steht_{};            ///< a car is in it
     std::array<zeit_ms, rc_verbindung::sensoren> leuchtet_bis_{};  ///< machine's clock: for eyes to see that one was

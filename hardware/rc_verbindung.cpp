@@ -41,30 +41,30 @@ void rc_verbindung::melden(rc_schritt schritt) {
     }
 }
 
-bool rc_verbindung::oeffnen(const std::string& port) {
+bool rc_verbindung::oeffnen(const std::string& rc_comport) {
     schliessen();
     bibliothek_da_ = bibliothek_.laden();
     if (!bibliothek_da_) {
         melden(fehlender_ruf().empty() ? rc_schritt::bibliothek_fehlt : rc_schritt::ruf_fehlt);
         return false;
     }
-    return anfangen(port);
+    return rc_einschalten(rc_comport);
 }
 
-bool rc_verbindung::anfangen(const std::string& port) {
+bool rc_verbindung::rc_einschalten(const std::string& rc_comport) {
     melden(rc_schritt::port_oeffnet);
-    const int nummer = portnummer(port);
+    const int nummer = portnummer(rc_comport);
     if (nummer == 0 || !port_->oeffnen(nummer, portwerte)) {
         melden(rc_schritt::port_fehlt);
         return false;
     }
-    rc_box_ = bibliothek_.box_oeffnen(port);
-    if (rc_box_ < 0) {
+    zustand_.rc_box = bibliothek_.box_oeffnen(rc_comport);
+    if (zustand_.rc_box < 0) {
         port_->schliessen();
         melden(rc_schritt::box_fehlt);
         return false;
     }
-    rc_aktiv_ = true;
+    zustand_.rc_aktiv = true;
     rc_timer_->an();
     melden(rc_schritt::angesprochen);
     return true;
@@ -79,14 +79,13 @@ void rc_verbindung::schliessen() {
 void rc_verbindung::zumachen(rc_schritt warum) {
     rc_timer_->aus();
     port_->schliessen();
-    rc_aktiv_ = false;
-    rc_bereit_ = false;
+    zustand_ = {};
     melden(warum);
 }
 
 void rc_verbindung::empfangen(std::string_view bytes) {
     for (const char byte : bytes) {
-        if (!rc_aktiv_) {  // somebody has closed the port meanwhile
+        if (!zustand_.rc_aktiv) {  // somebody has closed the port meanwhile
             return;
         }
         byte_empfangen(byte);
@@ -97,14 +96,14 @@ void rc_verbindung::empfangen(std::string_view bytes) {
 }
 
 void rc_verbindung::byte_empfangen(char byte) {
-    const unsigned status = bibliothek_.byte_geben(rc_box_, byte);
-    if (status == ereignis_da) {
+    const unsigned rc_ergebnis = bibliothek_.byte_geben(zustand_.rc_box, byte);
+    if (rc_ergebnis == ereignis_da) {
         ereignis_holen();
-    } else if (status >= senden_erstes && status <= senden_letztes) {
+    } else if (rc_ergebnis >= senden_erstes && rc_ergebnis <= senden_letztes) {
         melden(rc_schritt::sendedaten);
         sendedaten_schreiben();
         melden(rc_schritt::uebertragen);
-    } else if (status != nichts) {
+    } else if (rc_ergebnis != nichts) {
         melden(rc_schritt::unbekannter_fehler);
     }
 }
@@ -142,11 +141,11 @@ void rc_verbindung::ereignis_holen() {
 }
 
 void rc_verbindung::bereit_melden() {
-    if (rc_bereit_) {
+    if (zustand_.rc_bereit) {
         return;
     }
     sendedaten_schreiben();
-    rc_bereit_ = true;
+    zustand_.rc_bereit = true;
     rc_timer_->aus();
     melden(rc_schritt::bereit);
 }

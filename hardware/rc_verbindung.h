@@ -71,15 +71,21 @@ public:
 
     /// Closes what was open, opens the port "COMn" and has the box become active. False if it comes to nothing at once;
     /// the rest is told.
-    bool oeffnen(const std::string& port);
+    bool oeffnen(const std::string& rc_comport);
     void schliessen();
     bool offen() const { return port_->offen(); }
-    bool bereit() const { return rc_bereit_; }
+    bool bereit() const { return zustand_.rc_bereit; }
     /// The box's clock, of an active box.
     std::uint32_t stempel() const { return bibliothek_.stempel(); }
 
 private:
-    bool anfangen(const std::string& port);
+    struct zustand {
+        int rc_box = 0;
+        bool rc_aktiv = false;   ///< the library has a box
+        bool rc_bereit = false;  ///< and that is active
+    };
+
+    bool rc_einschalten(const std::string& rc_comport);
     void empfangen(std::string_view bytes);
     void byte_empfangen(char byte);
     void ereignis_holen();
@@ -92,9 +98,7 @@ private:
     std::unique_ptr<plattform::serienport> port_;
     std::unique_ptr<plattform::zeitgeber> rc_timer_;
     std::vector<rc_hoerer*> hoerer_;
-    int rc_box_ = 0;
-    bool rc_aktiv_ = false;   ///< the library has a box
-    bool rc_bereit_ = false;  ///< and that is active
+    zustand zustand_;
     bool bibliothek_da_ = false;
 };
 

@@ -46,12 +46,12 @@ timekeeper::timekeeper(const umgebung& um, const plattform::dienste& dienste)
       uhr_(dienste.uhr),
       meldungen_(dienste.meldungen),
       leitung_(dienste),
-      tk_timer1_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{1000})),
-      tk_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{5})),
-      tk_sync_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, abgleich_takt)) {
-    tk_timer1_->bei_tick = [this] { tk_timer1_tick(); };
-    tk_timer_->bei_tick = [this] { tk_timer_tick(); };
-    tk_sync_->bei_tick = [this] { tk_sync_tick(); };
+      zeitgeber_{dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{1000}),
+                 dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms{5}),
+                 dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, abgleich_takt)} {
+    zeitgeber_.tk_timer1->bei_tick = [this] { tk_timer1_tick(); };
+    zeitgeber_.tk_timer->bei_tick = [this] { tk_timer_tick(); };
+    zeitgeber_.tk_sync->bei_tick = [this] { tk_sync_tick(); };
     leitung_.melden = [this](const std::string& zeile) { letzte_zeile_ = zeile; };
 }
 
@@ -83,16 +83,16 @@ bool timekeeper::kanal_oeffnen() {
     empfang_.leeren();
     geraeteuhr_.vergessen();
     gehoert_ = uhr_.jetzt();
-    tk_timer1_->an();
-    tk_timer_->an();
+    zeitgeber_.tk_timer1->an();
+    zeitgeber_.tk_timer->an();
     return true;
 }
 
 void timekeeper::schliessen() {
     gewuenscht_ = false;
-    tk_timer1_->aus();
-    tk_timer_->aus();
-    tk_sync_->aus();
+    zeitgeber_.tk_timer1->aus();
+    zeitgeber_.tk_timer->aus();
+    zeitgeber_.tk_sync->aus();
     leitung_.schliessen();
     geraeteuhr_.vergessen();
 }
@@ -118,7 +118,7 @@ void timekeeper::rennfenster_offen() {
 }
 
 void timekeeper::tk_timer1_tick() {
-    tk_timer1_->aus();
+    zeitgeber_.tk_timer1->aus();
     leitung_.tk_senden("activate");
     leitung_.tk_senden("timest_start");
     for (const std::string_view befehl : tk_modusbefehle(profil_.modus)) {
@@ -126,14 +126,14 @@ void timekeeper::tk_timer1_tick() {
     }
     um_.ausgaben.wiederholen();  // what was switched before has not reached it
     abgleiche_ = 0;
-    tk_sync_->intervall(erste_abgleiche_takt);
-    tk_sync_->an();
+    zeitgeber_.tk_sync->intervall(erste_abgleiche_takt);
+    zeitgeber_.tk_sync->an();
 }
 
 void timekeeper::tk_sync_tick() {
     leitung_.tk_senden("get_timest");
     if (++abgleiche_ == erste_abgleiche) {
-        tk_sync_->intervall(abgleich_takt);
+        zeitgeber_.tk_sync->intervall(abgleich_takt);
     }
 }
 
@@ -189,10 +189,15 @@ bool timekeeper::verarbeiten(const tk::gestoert& /*satz*/) {
 
 bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
     gehoert_ = angekommen_;
-    const tk_uhr::befund befund = geraeteuhr_.aufnehmen(angekommen_, satz.zeit);
+    tk_zeit_setzen(satz.zeit);
+    return false;
+}
+
+void timekeeper::tk_zeit_setzen(zeit_ms zeit) {
+    const tk_uhr::befund befund = geraeteuhr_.aufnehmen(angekommen_, zeit);
     if (befund == tk_uhr::befund::fraglich) {
         leitung_.tk_senden("get_timest");
-        return false;
+        return;
     }
     um_.zeit.zaehler_zuruecksetzen();
     const zeit_ms stand = geraeteuhr_.lesen(uhr_.jetzt());
@@ -203,7 +208,6 @@ bool timekeeper::verarbeiten(const tk::uhrzeit& satz) {
     } else if (!um_.rennen.pause()) {  // what has been measured of it must not change underneath
         um_.zeit.nachstellen(stand, geraeteuhr_.gang());
     }
-    return false;
 }
 
 bool timekeeper::verarbeiten(const tk::chaostaste& /*satz*/) {

@@ -68,6 +68,12 @@ public:
     void schalten(const schaltung& befehl) override { leitung_.tk_senden(tk_schaltbefehl(befehl)); }
 
 private:
+    struct takte {
+        std::unique_ptr<plattform::zeitgeber> tk_timer1;  ///< the box starts up
+        std::unique_ptr<plattform::zeitgeber> tk_timer;   ///< takes what it says while no race asks
+        std::unique_ptr<plattform::zeitgeber> tk_sync;    ///< asks for its time
+    };
+
     bool kanal_oeffnen();
     void tk_timer1_tick();
     void tk_timer_tick();
@@ -78,6 +84,7 @@ private:
     bool verarbeiten(const tk::uhrzeit& satz);
     bool verarbeiten(const tk::chaostaste& satz);
     bool verarbeiten(const tk::sensor& satz);
+    void tk_zeit_setzen(zeit_ms zeit);
     void melden(ereignis_art art, zeit_ms stempel);
     zeit_ms jetzt_bei_ankunft() const;
     zeit_ms stempel_von(zeit_ms geraetezeit);
@@ -86,12 +93,10 @@ private:
     const plattform::uhr& uhr_;
     plattform::meldungen& meldungen_;
     tk_leitung leitung_;
-    std::string letzte_zeile_;                         ///< of the channel
-    std::unique_ptr<plattform::zeitgeber> tk_timer1_;  ///< the box starts up
-    std::unique_ptr<plattform::zeitgeber> tk_timer_;   ///< takes what it says while no race asks
-    std::unique_ptr<plattform::zeitgeber> tk_sync_;    ///< asks for its time
+    std::string letzte_zeile_;  ///< of the channel
+    takte zeitgeber_;
     tk_profil profil_;
-    tk::empfang empfang_;
+    tk_empfang empfang_;
     zeit_ms angekommen_ = 0;  ///< machine's clock: what is being taken was there
     tk_uhr geraeteuhr_;
     int abgleiche_ = 0;  ///< since the box has started up

@@ -265,6 +265,8 @@ void tk_einstellungen::satz_zeigen(std::string_view inhalt) {
     const tk::satz satz = tk::satz_lesen(inhalt, digital());
     if (const auto* sensor = std::get_if<tk::sensor>(&satz)) {
         sensor_zeigen(*sensor);
+    } else if (const auto* taste = std::get_if<tk::chaostaste>(&satz)) {
+        melden(um_.txt.ereignis_name.at(art::chaostaster) + " " + std::to_string(taste->tk_chaos_wert));
     } else if (inhalt == "Timekeeper_USB") {
         melden("Device recognized");
     } else if (inhalt == "Timekeeper_active") {
@@ -275,10 +277,10 @@ void tk_einstellungen::satz_zeigen(std::string_view inhalt) {
 }
 
 void tk_einstellungen::sensor_zeigen(const tk::sensor& satz) {
-    if (satz.nummer < 1 || satz.nummer > tk::sensoren_max) {
+    if (satz.tk_sensor < 1 || satz.tk_sensor > tk::sensoren_max) {
         return;
     }
-    const auto i = static_cast<std::size_t>(satz.nummer - 1);
+    const auto i = static_cast<std::size_t>(satz.tk_sensor - 1);
     kanal& k = kanaele.at(i);
     k.lampe.hintergrund(lampe_an);
     leuchtet_bis_.at(i) = uhr_.jetzt() + leuchtdauer_ms;

@@ -115,7 +115,7 @@ private:
     plattform::meldungen& meldungen_;
     const plattform::uhr& uhr_;
     tk_leitung leitung_;
-    tk::empfang empfang_;
+    tk_empfang empfang_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;  ///< reads
     std::unique_ptr<plattform::zeitgeber> lampen_;
     std::array<std::optional<zeit_ms>, tk::sensoren_max> letzte_{};  ///< stamp of each sensor

@@ -30,8 +30,8 @@ bool tk_leitung::tk_oeffnen() {
     if (!nummer) {
         return false;
     }
-    if (ft_.oeffnen(*nummer, griff_) != ftd2xx::gut || griff_ == nullptr) {
-        griff_ = nullptr;
+    if (ft_.oeffnen(*nummer, tk_handle_) != ftd2xx::gut || tk_handle_ == nullptr) {
+        tk_handle_ = nullptr;
         sagen("Open Failed");
         return false;
     }
@@ -79,22 +79,22 @@ bool tk_leitung::einstellen() {
         }
         return ergebnis == ftd2xx::gut;
     };
-    if (!gelungen(ft_.baudrate(griff_, baud), "SetBaudRate Failed") ||
-        !gelungen(ft_.format_8n1(griff_), "SetDataCharacteristics Failed") ||
-        !gelungen(ft_.ohne_flusskontrolle(griff_), "SetFlowControl Failed")) {
+    if (!gelungen(ft_.baudrate(tk_handle_, baud), "SetBaudRate Failed") ||
+        !gelungen(ft_.format_8n1(tk_handle_), "SetDataCharacteristics Failed") ||
+        !gelungen(ft_.ohne_flusskontrolle(tk_handle_), "SetFlowControl Failed")) {
         return false;
     }
     // both only make it quicker, so a refusal is no failure
-    ft_.fristen(griff_, frist_ms, frist_ms);
-    ft_.abgeben_bei(griff_, static_cast<ftd2xx::byte>(tk::satzende));
+    ft_.fristen(tk_handle_, frist_ms, frist_ms);
+    ft_.abgeben_bei(tk_handle_, static_cast<ftd2xx::byte>(tk::satzende));
     return true;
 }
 
 void tk_leitung::schliessen() {
     abtaster_.reset();  // before the handle goes that it looks at
-    if (griff_ != nullptr) {
-        ft_.schliessen(griff_);
-        griff_ = nullptr;
+    if (tk_handle_ != nullptr) {
+        ft_.schliessen(tk_handle_);
+        tk_handle_ = nullptr;
     }
     stuecke_.leeren();
 }
@@ -107,7 +107,7 @@ bool tk_leitung::tk_senden(std::string_view text) {
     if (!offen()) {
         return false;
     }
-    schreiben_misslang_ = !ft_.schreiben(griff_, tk::satzanfang + std::string(text) + tk::satzende);
+    schreiben_misslang_ = !ft_.schreiben(tk_handle_, tk::satzanfang + std::string(text) + tk::satzende);
     return !schreiben_misslang_;
 }
 
@@ -117,7 +117,7 @@ void tk_leitung::nachsehen(zeit_ms jetzt) {
         fehler_in_folge_ = std::min(fehler_in_folge_ + 1, weg_nach);
     };
     ftd2xx::wort wartende = 0;
-    if (const ftd2xx::status ergebnis = ft_.wartende(griff_, wartende); ergebnis != ftd2xx::gut) {
+    if (const ftd2xx::status ergebnis = ft_.wartende(tk_handle_, wartende); ergebnis != ftd2xx::gut) {
         misslungen(wartefehler_, ergebnis);
         return;
     }
@@ -131,7 +131,7 @@ void tk_leitung::nachsehen(zeit_ms jetzt) {
     tk_stueck neu;
     ftd2xx::wort gelesen = 0;
     const auto hoechstens = static_cast<ftd2xx::wort>(std::min<std::size_t>(wartende, tk_stueck::platz));
-    const ftd2xx::status ergebnis = ft_.lesen(griff_, neu.bytes.data(), hoechstens, gelesen);
+    const ftd2xx::status ergebnis = ft_.lesen(tk_handle_, neu.bytes.data(), hoechstens, gelesen);
     if (ergebnis != ftd2xx::gut) {
         misslungen(lesefehler_, ergebnis);
         if (ergebnis != ftd2xx::ein_ausgabe_fehler) {

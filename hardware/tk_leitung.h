@@ -39,7 +39,7 @@ public:
 
     bool tk_oeffnen();
     void schliessen();
-    bool offen() const { return griff_ != nullptr; }
+    bool offen() const { return tk_handle_ != nullptr; }
     /// The box is gone: the calls fail.
     bool gestoert() const;
     /// Puts the text into its frame and writes it. False if there is no box, or it does not take it.
@@ -63,7 +63,7 @@ private:
     plattform::bibliothek_dienst& bibliotheken_;
     plattform::abtaster_dienst& abtaster_dienst_;
     ftd2xx ft_;
-    ftd2xx::griff griff_ = nullptr;
+    ftd2xx::griff tk_handle_ = nullptr;
     bool schreiben_misslang_ = false;
     uebergabe<tk_stueck, stuecke_max> stuecke_;
     std::atomic<int> fehler_in_folge_ = 0;

@@ -27,10 +27,10 @@ tk_profil::tk_profil() {
 }
 
 ereignis_art tk_profil::art_von(const tk::sensor& s) const {
-    if (s.nummer < 1 || s.nummer > tk::sensoren_max) {
+    if (s.tk_sensor < 1 || s.tk_sensor > tk::sensoren_max) {
         return 0;
     }
-    const ereignis_art art = tk_sensor_art.at(static_cast<std::size_t>(s.nummer - 1));
+    const ereignis_art art = tk_sensor_art.at(static_cast<std::size_t>(s.tk_sensor - 1));
     const auto familie = std::find_if(je_spur.begin(), je_spur.end(), [art](const spuren<ereignis_art>& alle) {
         return std::find(alle.begin(), alle.end(), art) != alle.end();
     });

@@ -21,12 +21,14 @@ struct uhrzeit {
 };
 
 struct sensor {
-    int nummer = 0;  ///< as it stands: others than 1 to 24 are possible
-    int wagen = 0;   ///< code of a digital car; 0 on an analog track
+    int tk_sensor = 0;  ///< as it stands: others than 1 to 24 are possible
+    int wagen = 0;      ///< code of a digital car; 0 on an analog track
     zeit_ms zeit = 0;
 };
 
-struct chaostaste {};
+struct chaostaste {
+    int tk_chaos_wert = 0;  ///< what the box adds to it
+};
 /// An answer in words.
 struct antwort {};
 /// A time or a sensor that cannot be read.
@@ -37,10 +39,14 @@ using satz = std::variant<antwort, uhrzeit, sensor, chaostaste, gestoert>;
 /// `inhalt` without its frame.
 satz satz_lesen(std::string_view inhalt, bool digital);
 
+}  // namespace tarvel::tk
+
+namespace tarvel {
+
 /// Bytes as they come, and the records in them. A record that begins anew has lost its end.
-class empfang {
+class tk_empfang {
 public:
-    empfang() { puffer_.reserve(puffer_bytes); }
+    tk_empfang() { puffer_.reserve(puffer_bytes); }
 
     void anhaengen(std::string_view bytes);
     /// The next whole record without its frame, until the next call; none if it is still to come.
@@ -55,4 +61,4 @@ private:
     std::size_t gelesen_ = 0;  ///< bytes at its front that have been taken
 };
 
-}  // namespace tarvel::tk
+}  // namespace tarvel

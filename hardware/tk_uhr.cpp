@@ -30,8 +30,12 @@ const tk_uhr::abgleich& tk_uhr::bester(zeit_ms maschine) const {
                              [&](const abgleich& a, const abgleich& b) { return an(a, maschine) < an(b, maschine); });
 }
 
+zeit_ms tk_uhr::tk_versatz(zeit_ms maschine) const {
+    return bekannt() ? maschine - an(bester(maschine), maschine) : 0;
+}
+
 zeit_ms tk_uhr::lesen(zeit_ms maschine) const {
-    return bekannt() ? an(bester(maschine), maschine) : maschine;
+    return maschine - tk_versatz(maschine);
 }
 
 bool tk_uhr::glaubhaft(zeit_ms stempel, zeit_ms maschine) const {
@@ -41,7 +45,7 @@ bool tk_uhr::glaubhaft(zeit_ms stempel, zeit_ms maschine) const {
 }
 
 void tk_uhr::beginnen(const abgleich& neu) {
-    letzte_.front() = erster_ = neu;
+    letzte_.front() = tk_erste_zeit_ = neu;
     anzahl_ = 1;
     letzter_ = neu.geraet;
     zweifelt_ = false;
@@ -68,8 +72,8 @@ tk_uhr::befund tk_uhr::aufnehmen(zeit_ms maschine, zeit_ms geraet) {
     gesehen(geraet);
     letzte_.at(anzahl_ % abgleiche_max) = neu;
     ++anzahl_;
-    if (maschine - erster_.maschine <= anfang_ms && geraet > an(erster_, maschine)) {
-        erster_ = neu;
+    if (maschine - tk_erste_zeit_.maschine <= anfang_ms && geraet > an(tk_erste_zeit_, maschine)) {
+        tk_erste_zeit_ = neu;
     }
     gang_bestimmen(maschine);
     return befund::weiter;
@@ -77,14 +81,14 @@ tk_uhr::befund tk_uhr::aufnehmen(zeit_ms maschine, zeit_ms geraet) {
 
 void tk_uhr::gang_bestimmen(zeit_ms maschine) {
     const abgleich& jetzt = bester(maschine);
-    const zeit_ms seither = jetzt.maschine - erster_.maschine;
+    const zeit_ms seither = jetzt.maschine - tk_erste_zeit_.maschine;
     if (seither < gang_ab_ms) {
         return;
     }
-    const double neu = static_cast<double>(jetzt.geraet - erster_.geraet) / static_cast<double>(seither);
+    const double neu = static_cast<double>(jetzt.geraet - tk_erste_zeit_.geraet) / static_cast<double>(seither);
     gang_ = std::clamp(neu, 1 - gang_abweichung, 1 + gang_abweichung);
     if (seither > grundlinie_ms) {
-        erster_ = jetzt;
+        tk_erste_zeit_ = jetzt;
     }
 }
 

@@ -42,13 +42,15 @@ private:
     static constexpr std::size_t abgleiche_max = 4;
 
     zeit_ms an(const abgleich& a, zeit_ms maschine) const;
+    /// What the machine's clock is ahead of it: the least of what its last answers say.
+    zeit_ms tk_versatz(zeit_ms maschine) const;
     const abgleich& bester(zeit_ms maschine) const;
     void beginnen(const abgleich& neu);
     void gang_bestimmen(zeit_ms maschine);
 
     std::array<abgleich, abgleiche_max> letzte_{};
     std::size_t anzahl_ = 0;  ///< since the clock is known; the next one goes to this place, round and round
-    abgleich erster_;         ///< the best of the first ones
+    abgleich tk_erste_zeit_;  ///< the best of the first ones
     abgleich zweifel_;        ///< the answer that did not fit
     bool zweifelt_ = false;
     zeit_ms letzter_ = 0;  ///< latest stamp

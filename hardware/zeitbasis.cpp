@@ -14,6 +14,9 @@ zeit_ms zeitbasis::messzeit_lesen() const {
 }
 
 zeit_ms zeitbasis::ereignis_zeit_lesen() {
+    if (!zaehlt_) {
+        return messzeit_lesen();
+    }
     ++zeit_zaehler_;
     const zeit_ms stempel = messzeit_lesen() + zeit_zaehler_;
     if (zeit_zaehler_ == 9) {
@@ -25,7 +28,7 @@ zeit_ms zeitbasis::ereignis_zeit_lesen() {
 void zeitbasis::mitschreiben(mitschrift& protokoll) {
     protokoll_ = &protokoll;
     constexpr std::array<std::pair<const char*, std::size_t>, eingaenge> namen{
-        {{"uhr", 2}, {"uhrgang", 2}, {"uhrzaehler", 0}, {"uhrfrei", 0}, {"uhrstand", 5}}};
+        {{"uhr", 2}, {"uhrgang", 2}, {"uhrzaehler", 0}, {"uhrzaehltnicht", 0}, {"uhrfrei", 0}, {"uhrstand", 6}}};
     for (std::size_t i = 0; i < eingaenge; ++i) {
         eingang_.at(i) =
             protokoll.eingang(namen.at(i).first, namen.at(i).second,
@@ -44,7 +47,7 @@ void zeitbasis::tun(eingang was, zeit_ms geraetezeit, double gang) {
 
 void zeitbasis::stand_mitschreiben() {
     protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(eingang::stand)),
-                          {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_});
+                          {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_, zaehlt_ ? 1 : 0});
 }
 
 void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
@@ -61,11 +64,15 @@ void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
         case eingang::zaehler:
             zeit_zaehler_ = 0;
             break;
+        case eingang::nicht_zaehlen:
+            zaehlt_ = false;
+            break;
         case eingang::freigeben:
             bezug_ = 0;
             stand_ = 0;
             gang_ = 1;
             mindestens_ = nie;
+            zaehlt_ = true;
             break;
         case eingang::stand:
             bezug_ = w[0];
@@ -73,6 +80,7 @@ void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
             gang_ = std::bit_cast<double>(w[2]);
             mindestens_ = w[3];
             zeit_zaehler_ = static_cast<int>(w[4]);
+            zaehlt_ = w[5] != 0;
             break;
     }
 }

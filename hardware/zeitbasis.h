@@ -22,7 +22,7 @@ public:
     zeit_ms messzeit_lesen() const;
 
     /// A stamp that differs from the one read just before, even within the same millisecond: adds 1, 2 ... 9, 0 in
-    /// turn.
+    /// turn; not for a clock that stands for itself.
     zeit_ms ereignis_zeit_lesen();
 
     /// A device's clock stands at `geraetezeit` now.
@@ -33,14 +33,16 @@ public:
     void nachstellen(zeit_ms geraetezeit, double gang) { tun(eingang::nachstellen, geraetezeit, gang); }
     /// A device has told its time: stamps that differ begin anew.
     void zaehler_zuruecksetzen() { tun(eingang::zaehler, 0, 0); }
+    /// The device's clock stands for itself, until it is released: nothing is added to its stamps.
+    void nicht_zaehlen() { tun(eingang::nicht_zaehlen, 0, 0); }
     /// No device any more: the machine's counter itself.
     void freigeben() { tun(eingang::freigeben, 0, 0); }
     /// Tells the log of a race how the clock stands.
     void stand_mitschreiben();
 
 private:
-    enum class eingang { stellen, nachstellen, zaehler, freigeben, stand };
-    static constexpr std::size_t eingaenge = 5;
+    enum class eingang { stellen, nachstellen, zaehler, nicht_zaehlen, freigeben, stand };
+    static constexpr std::size_t eingaenge = 6;
     static constexpr zeit_ms nie = std::numeric_limits<zeit_ms>::min();
 
     void tun(eingang was, zeit_ms geraetezeit, double gang);
@@ -53,6 +55,7 @@ private:
     double gang_ = 1;
     zeit_ms mindestens_ = nie;
     int zeit_zaehler_ = 0;
+    bool zaehlt_ = true;
     mitschrift* protokoll_ = nullptr;
     std::array<int, eingaenge> eingang_{};  ///< numbers of the doings
 };

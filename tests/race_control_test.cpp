@@ -1,130 +1,11 @@
 #include "hardware/race_control.h"
 
-#include <gtest/gtest.h>
+#include "tests/race_control_probe.h"
 
-#include <functional>
-#include <random>
-
-#include "programm/race_control_verdrahtung.h"
-#include "tests/plattform/geraete_mithoerer.h"
-#include "tests/plattform/testprogramm.h"
-#include "tools/ersatz/race_control/bibliothek.h"
-#include "tools/ersatz/race_control/box.h"
-
-namespace tarvel {
+namespace tarvel::test {
 namespace {
 
-constexpr int com = 7;
 constexpr std::int64_t tickende = std::int64_t{1} << 32;
-
-void bibliothek_hinlegen(test::test_bibliotheken& b) {
-    b.ruf("RaceControl", "InitBoxes", &InitBoxes);
-    b.ruf("RaceControl", "OpenBox", &OpenBox);
-    b.ruf("RaceControl", "RX_data", &RX_data);
-    b.ruf("RaceControl", "Get_Event", &Get_Event);
-    b.ruf("RaceControl", "Get_TXDat", &Get_TXDat);
-    b.ruf("RaceControl", "Get_TStamp", &Get_TStamp);
-}
-
-/// The program with a simulated box at COM7, on one clock, and the library that understands it.
-class RaceControl : public testing::Test {
-protected:
-    explicit RaceControl(const simulator::rc_box_einstellung& einst = {}) { box_hinstellen(einst); }
-
-    void box_hinstellen(const simulator::rc_box_einstellung& einst) {
-        box = std::make_unique<simulator::rc_box>(einst);
-        box->senden = [this](std::string_view bytes) { leitung += bytes; };
-    }
-    void SetUp() override {
-        bibliothek_hinlegen(t.maschine.bibliotheken);
-        t.maschine.anschluesse.da = {com};
-        t.maschine.anschluesse.geraet = [this](int /*com*/, std::string_view bytes) { box->empfangen(bytes); };
-        t.p.einst.rc.anschluss.rc_com_port = "COM7";
-        t.p.einst.hardware = {};
-        t.p.einst.hardware.hw_race_control = true;
-    }
-    /// Opens it, and lets it become active.
-    void verbinden() {
-        t.p.geraete.hardware_starten(false);
-        laufen(600);
-    }
-    /// The line carries a byte each other millisecond, as 4800 baud do.
-    void laufen(zeit_ms dauer) {
-        for (; dauer > 0; --dauer) {
-            box->weiter(t.maschine.jetzt());
-            if (!leitung.empty() && t.maschine.jetzt() % 2 == 0) {
-                t.maschine.anschluesse.senden(com, leitung.substr(0, 1));
-                leitung.erase(0, 1);
-            }
-            t.maschine.laufen(1);
-        }
-    }
-    /// A contact straight from the library.
-    void kontakt(int sensor, zeit_ms um) {
-        satz({simulator::rc_draht::art::ueberfahrt, static_cast<std::uint8_t>(sensor), ticks(um)});
-    }
-    void satz(const simulator::rc_draht::satz& s) {
-        t.maschine.anschluesse.senden(com, simulator::rc_draht::schreiben(s));
-    }
-    static std::uint32_t ticks(zeit_ms ms) { return static_cast<std::uint32_t>((ms * 24 + 4) / 5); }
-    ereignis_zeile& zeile(ereignis_art art) { return t.p.ereignisse[art]; }
-    zeit_ms messzeit() { return t.p.rennen.zeit.messzeit_lesen(); }
-
-    void rennen_starten(const char* minuten) {
-        t.einrichten(t.p.txt.text_zeit, minuten, {1, 2, 3, 4});
-        t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
-        t.p.einst.zielmodus_erster = true;
-        laufen(500);
-        t.bahn().Command1.klicken();
-        for (int i = 0; i < 30000 && (t.p.rennen.zustand.rennen_beendet || t.p.rennen.umgebung.ampel_laeuft()); ++i) {
-            laufen(1);
-        }
-        box->los();
-    }
-    void kabel_ziehen(zeit_ms dauer) {
-        t.maschine.anschluesse.abziehen(com);
-        t.maschine.anschluesse.da.clear();
-        for (zeit_ms davor = messzeit(), i = 0; i < dauer; ++i) {
-            laufen(1);
-            ASSERT_EQ(messzeit(), ++davor) << "the race's clock runs on";
-            leitung.clear();
-        }
-        EXPECT_FALSE(t.p.geraete.verbunden());
-    }
-    std::vector<zeit_ms> ueberfahrten(int wagen) const {
-        std::vector<zeit_ms> stempel;
-        for (const simulator::ueberfahrt& fahrt : box->fahrten()) {
-            if (fahrt.wagen == wagen && fahrt.sensor == 1) {
-                stempel.push_back(fahrt.stempel);
-            }
-        }
-        return stempel;
-    }
-    void alle_runden_stimmen(int mindestens) {
-        for (const int spur : {1, 2, 3, 4}) {
-            const std::vector<zeit_ms> stempel = ueberfahrten(spur);
-            const int runden = t.runden(spur);
-            ASSERT_GE(runden, mindestens);
-            ASSERT_LT(static_cast<std::size_t>(runden), stempel.size());
-            for (int runde = 1; runde <= runden; ++runde) {
-                const auto i = static_cast<std::size_t>(runde);
-                ASSERT_EQ(t.p.rennen.zustand.konto.rundenzeit(spur, runde), stempel[i] - stempel[i - 1])
-                    << spur << " " << runde;
-            }
-        }
-    }
-
-    test::testprogramm t;
-    std::unique_ptr<simulator::rc_box> box;
-    std::string leitung;
-};
-
-simulator::rc_box_einstellung vier_wagen() {
-    simulator::rc_box_einstellung einst;
-    einst.rennen.wagen.resize(4);
-    einst.rennen.uhr_start = 5000;
-    return einst;
-}
 
 TEST_F(RaceControl, DreissigMinutenUeberDasEndeDerTicksHinwegStimmtJedeRunde) {
     simulator::rc_box_einstellung einst = vier_wagen();
@@ -286,139 +167,70 @@ TEST_F(RaceControl, EineUeberfahrtDerZweitenZiellinieZaehltEinmal) {
     }
 }
 
-TEST_F(RaceControl, WasFehltEndetInSeinerMeldung) {
-    const auto gemeldet = [this] { return t.maschine.meldungen_gezeigt.back().text; };
-    auto& fenster = t.p.geraete.von<race_control_verdrahtung>().rc_einstellungen;
-    const auto starten = [&] {
-        t.p.einst.hardware = {};
-        t.p.einst.hardware.hw_race_control = true;
-        t.p.geraete.hardware_starten(false);
-    };
-    const auto letzter_schritt = [&] {
-        fenster.oeffnen("COM7");
-        fenster.doInit.klicken();
-        std::string text = fenster.status.text();
-        t.p.fenster.entladen(fenstername::rc_einstellungen);
-        return text;
-    };
-    t.maschine.bibliotheken.da["RaceControl"].erase("Get_TXDat");
-    starten();
-    EXPECT_EQ(gemeldet(), "RaceControl kann nicht aktiviert werden.");
-    EXPECT_TRUE(t.p.einst.hardware.hw_simulation && !t.p.einst.hardware.hw_race_control);
-    EXPECT_EQ(letzter_schritt(), "Fehler: In der Bibliothek des Herstellers fehlt der Aufruf Get_TXDat");
-    t.maschine.bibliotheken.da.clear();
-    starten();
-    EXPECT_EQ(letzter_schritt(), "Fehler: Bibliothek des Herstellers nicht gefunden: RaceControl");
-    bibliothek_hinlegen(t.maschine.bibliotheken);
-    t.maschine.anschluesse.da.clear();
-    starten();
-    EXPECT_EQ(gemeldet(), "COM-Port kann nicht geöffnet werden.");
-    EXPECT_EQ(letzter_schritt(), "Fehler: COM-Port kann nicht geöffnet werden");
-    t.maschine.anschluesse.da = {com};
-    t.maschine.meldungen_gezeigt.clear();
-    starten();  // a port without a box behind it
-    EXPECT_FALSE(t.p.form1.inhalt.sichtbar());
-    t.maschine.laufen(rc_antwortzeit.count() - 1);
-    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
-    t.maschine.laufen(1);
-    EXPECT_EQ(gemeldet(), "RaceControl kann nicht aktiviert werden.");
-    EXPECT_TRUE(t.p.form1.inhalt.sichtbar() && t.p.einst.hardware.hw_race_control);
-    t.maschine.laufen(60000);
-    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U) << "what is looked for silently is not told again";
-    laufen(5000);
-    EXPECT_TRUE(t.p.geraete.verbunden()) << "switched on meanwhile";
-    t.maschine.anschluesse.abziehen(com);
-    t.maschine.anschluesse.da.clear();
-    t.einrichten(t.p.txt.text_zeit, "5", {1});
-    EXPECT_EQ(gemeldet(), "COM-Port kann nicht geöffnet werden.") << "as its race window opens";
+TEST_F(RaceControl, ZweiUeberfahrtenEinerSpurInEinemStueckZaehlenMitIhrenStempeln) {
+    for (const int zweiter : {0, 2}) {  // the second finish line counts for the same lane
+        t.p.einst.rc.rc_ziel_sensor34 = zweiter == 2;
+        verbinden();
+        t.einrichten(t.p.txt.text_zeit, "5", {1, 2});
+        t.bahn().Command1.klicken();
+        laufen(7000);
+        const zeit_ms erste = box->uhr();
+        kontakt(0, erste);
+        laufen(10);
+        t.maschine.uhr_stellen(14000);  // the loop is held
+        t.maschine.anschluesse.senden(
+            com, satzbytes(0, erste + 6100) + satzbytes(1, erste + 6200) + satzbytes(zweiter, erste + 13300));
+        box->weiter(t.maschine.jetzt());
+        leitung.clear();
+        laufen(10);
+        ASSERT_EQ(t.runden(1), 2);
+        EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 6100);
+        EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 7200);
+        EXPECT_EQ(t.runden(2), 0);
+        t.p.fenster.entladen(fenstername::bahn1);
+    }
 }
 
-TEST_F(RaceControl, DasFensterZeigtSchritteUndSensorenUndBehaeltDieSpuren) {
-    box_hinstellen(vier_wagen());
+TEST_F(RaceControl, JederSatzKommtAnWoImmerErGeschnittenIst) {
+    verbinden();
+    for (int sensor = 0; sensor < 4; ++sensor) {
+        const std::string bytes = satzbytes(sensor, box->uhr());
+        for (std::size_t schnitt = 0; schnitt <= bytes.size(); ++schnitt) {
+            zeile(16 - sensor) = {};
+            t.maschine.anschluesse.senden(com, bytes.substr(0, schnitt));
+            EXPECT_EQ(zeile(16 - sensor).aktiv, schnitt == bytes.size());
+            t.maschine.anschluesse.senden(com, bytes.substr(schnitt));
+            EXPECT_TRUE(zeile(16 - sensor).aktiv);
+            EXPECT_EQ(zeile(16 - sensor).ereignis_zeit, box->uhr());
+        }
+    }
+}
+
+TEST_F(RaceControl, EinRennenBeginntMitDemStempelDerBoxUndOhneSieMitDemZaehler) {
+    verbinden();
+    zeitbasis& zeit = t.p.rennen.zeit;
+    EXPECT_EQ(zeit.ereignis_zeit_lesen(), messzeit());
+    EXPECT_EQ(zeit.ereignis_zeit_lesen(), messzeit());
     t.p.einst.hardware = {};
-    t.p.einst.rc.anschluss.rc_com_port = "COM1";
-    auto& fenster = t.p.geraete.von<race_control_verdrahtung>().rc_einstellungen;
-    auto& optionen = t.p.einstellungsfenster;
-    optionen.oeffnen(einstellungsfenster::seite_hardware);
-    std::get<auswahl>(optionen.zeile("selComPort").element).eingeben("COM7");
-    std::get<befehl>(optionen.zeile("rc_einrichten").element).klicken();
-    fenster.doInit.klicken();
-    laufen(1000);
-    EXPECT_EQ(fenster.List1.zeilen(),
-              (std::vector<std::string>{"Port wird geöffnet", "RaceControl aktiviert", "TX Datenabfrage",
-                                        "Box Konfiguration übertragen", "TX Datenabfrage",
-                                        "Box Konfiguration übertragen", "Box aktiviert"}));
-    kontakt(2, 3723004);
-    EXPECT_EQ(fenster.sensoren[2].SensorTime.text(), "01:02:03.004");
-    EXPECT_EQ(fenster.sensoren[2].SensorTimeStamp.text(), "17870420");
-    const auto belegt = fenster.sensoren[2].SensorLED.hintergrund();
-    satz({simulator::rc_draht::art::verlassen, 2, ticks(3723044)});
-    leitung.clear();
-    t.maschine.laufen(500);
-    EXPECT_NE(fenster.sensoren[2].SensorLED.hintergrund(), belegt);
-    leitung.clear();
-    t.maschine.laufen(2100);
-    EXPECT_EQ(fenster.status.text(), "Sensoren offline");
-    t.maschine.anschluesse.abziehen(com);
-    EXPECT_EQ(fenster.status.text(), "Fehler: Verbindung unterbrochen");
-    fenster.sensoren[0].selSpur.waehlen(3);
-    fenster.Command1.klicken();
-    EXPECT_EQ(t.p.einst.rc.rc_sensor, (std::array<int, 4>{13, 15, 14, 13}));
-    EXPECT_EQ(t.p.einst.rc.anschluss.rc_com_port, "COM7");
-    EXPECT_FALSE(t.maschine.anschluesse.offen(com));
+    t.p.geraete.hardware_starten(false);
+    EXPECT_NE(zeit.ereignis_zeit_lesen(), zeit.ereignis_zeit_lesen());
 }
 
-/// A library that says anything.
-struct zufallsbibliothek {
-    static inline std::mt19937 zufall{7};
-    static inline int angefangen = 0;
-
-    static unsigned eines(std::initializer_list<unsigned> haeufige) {
-        const auto wurf = zufall() % (2 * haeufige.size());
-        return wurf < haeufige.size() ? haeufige.begin()[wurf] : static_cast<unsigned>(zufall());
+TEST_F(RaceControl, EinUnbekanntesEreignisWirdEinmalGesagt) {
+    static int angefangen;
+    angefangen = 0;
+    t.maschine.bibliotheken.ruf(
+        "RaceControl", "InitBoxes", +[] { ++angefangen; });
+    verbinden();
+    for (int i = 0; i < 100; ++i) {
+        satz({static_cast<simulator::rc_draht::art>(7), 0, ticks(box->uhr())});
+        laufen(5);
     }
-    static void InitBoxes() { ++angefangen; }
-    static std::int32_t OpenBox(std::int32_t /*box*/, const char* /*name*/) { return 3; }
-    static std::int32_t RX_data(std::int32_t /*box*/, std::int32_t /*byte*/) {
-        return static_cast<std::int32_t>(eines({0, 2, 2, 2, 0x8003, 0x8006, 0x8007}));
-    }
-    static std::uint8_t Get_Event(std::int32_t* ereignis) {
-        *ereignis = static_cast<std::int32_t>(eines({0x200, 0x201, 0x302, 0x403, 0x500, 0x600}));
-        return static_cast<std::uint8_t>(zufall() % 4);
-    }
-    static std::int32_t Get_TXDat(char* daten) {
-        daten[0] = 'x';
-        return static_cast<std::int32_t>(eines({0, 1, 1023})) % 1500;
-    }
-    static std::uint32_t Get_TStamp(std::int32_t /*box*/) { return static_cast<std::uint32_t>(zufall()); }
-};
-
-TEST_F(RaceControl, WasImmerDieBibliothekSagt) {
-    using z = zufallsbibliothek;
-    auto& b = t.maschine.bibliotheken;
-    b.ruf("RaceControl", "InitBoxes", &z::InitBoxes);
-    b.ruf("RaceControl", "OpenBox", &z::OpenBox);
-    b.ruf("RaceControl", "RX_data", &z::RX_data);
-    b.ruf("RaceControl", "Get_Event", &z::Get_Event);
-    b.ruf("RaceControl", "Get_TXDat", &z::Get_TXDat);
-    b.ruf("RaceControl", "Get_TStamp", &z::Get_TStamp);
-    t.maschine.anschluesse.geraet = {};
+    ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.front().text, "Unbekannter Fehler.");
     t.p.geraete.hardware_starten(false);
-    t.maschine.anschluesse.senden(com, std::string(200, 'x'));
-    t.maschine.laufen(10);
-    t.einrichten(t.p.txt.text_zeit, "5", {1, 2, 3, 4});
-    t.bahn().Command1.klicken();
-    for (int i = 0; i < 20000; ++i) {
-        t.maschine.anschluesse.senden(com, "12345");
-        t.maschine.laufen(1);
-    }
-    EXPECT_EQ(std::count_if(t.maschine.meldungen_gezeigt.begin(), t.maschine.meldungen_gezeigt.end(),
-                            [](const auto& m) { return m.text == "Unbekannter Fehler."; }),
-              1)
-        << "not once for each of them";
-    t.p.geraete.hardware_starten(false);
-    EXPECT_EQ(z::angefangen, 1) << "once a program";
+    EXPECT_EQ(angefangen, 1) << "once a program";
 }
 
 }  // namespace
-}  // namespace tarvel
+}  // namespace tarvel::test

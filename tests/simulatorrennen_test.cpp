@@ -259,13 +259,18 @@ TEST_F(Timekeeperrennen, EineSchiefeUhrUndEinRechnerDerStehtVerschiebenKeineRund
     }
 }
 
-TEST_F(Timekeeperrennen, ImDigitalmodusFahrenSechsWagenUeberEinenSensor) {
-    std::string datei = simulator::timekeeper_datei();
-    datei.replace(datei.find("1\r\n16"), 1, "2");
-    einstecken(sechs_wagen(0), datei);
-    starten("5");
-    laufen(zeit_ms{6} * 60 * 1000);
-    vergleichen(5);
+TEST_F(Timekeeperrennen, InDenDigitalmodenFahrenSechsWagenUeberEinenSensor) {
+    for (const char* modus : {"2", "3"}) {
+        std::string datei = simulator::timekeeper_datei();
+        datei.replace(datei.find("1\r\n16"), 1, modus);
+        einstecken(sechs_wagen(0), datei);
+        starten("5");
+        laufen(zeit_ms{6} * 60 * 1000);
+        vergleichen(5);
+        t.p.fenster.entladen(fenstername::auswertung);
+        t.p.fenster.entladen(fenstername::bahn1);
+        pausen.clear();
+    }
 }
 
 TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {

@@ -303,6 +303,8 @@ TEST_F(Timekeeper, DasFensterProbiertSchreibtMitUndSpeichert) {
     EXPECT_EQ(f.kanaele[2].lampe.hintergrund(), 0x00C800U);
     t.maschine.laufen(1000);
     EXPECT_NE(f.kanaele[2].lampe.hintergrund(), 0x00C800U);
+    sagt("Chaos_bttn|17>");
+    EXPECT_TRUE(protokoll("Chaostaster 17"));
     f.firmware_lesen.klicken();
     sagt("V2.1>");
     EXPECT_EQ(f.firmware.text(), "V2.1");

@@ -393,6 +393,9 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"modul4x4",
          {{"TRAXIUM-USB\rTXUSB_OK\rV1.2\rMODUS\rmod1\r1?\r4:\r0>\r", "V2.0\rmod4\r1?\r8?\rRC2Long\rRC2\rmod9\r"},
           modul4x4_hoeren}},
+        {"race_control",
+         {{"\x83\x84\x60\x09\x20\x30\x09\x21\x40\x50\x22\x0F\x0F\x23\x20\x20", "\x60\x0E\x20\x92\x21\x0A\x70\x88\x22"},
+          race_control_hoeren}},
     };
 }
 

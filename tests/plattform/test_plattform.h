@@ -48,6 +48,8 @@ public:
     /// Moves the clock alone: no timer fires.
     void uhr_stellen(zeit_ms dauer) { jetzt_ += dauer; }
     zeit_ms jetzt() const override { return jetzt_; }
+    /// Timers that run, those of threads among them.
+    std::size_t laufende_zeitgeber() const { return laufende_.size(); }
 
     std::filesystem::path ordner() const { return ordner_; }
     /// Raw bytes of a file of the program folder; empty if there is none.
