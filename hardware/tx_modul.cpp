@@ -14,7 +14,6 @@ constexpr int fragen_max = 3;
 constexpr int ausgaenge_nach_gruss = 9;
 constexpr int autos_je_sensor = 6;
 constexpr int sensorpositionen = 4;
-constexpr ereignis_art letzte_zwischenzeit = erste_zwischenzeit + sektorsensoren_max - 1;
 
 bool zwischen(int wert, int von, int bis) {
     return wert >= von && wert <= bis;
@@ -23,8 +22,14 @@ bool zwischen(int wert, int von, int bis) {
 }  // namespace
 
 tx_modul::tx_modul(const umgebung& um)
-    : um_(um), suche_(um.serienports), takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, suchtakt)) {
-    suche_.bei_meldung = [this](const tx_leitung& leitung, const tx::meldung& was) { gehoert(leitung, was); };
+    : um_(um),
+      folge_(um.ereignisse, um.rennen),
+      suche_(um.serienports),
+      takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, suchtakt)) {
+    suche_.bei_meldung = [this](const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel) {
+        gehoert(leitung, was, stempel);
+    };
+    suche_.bei_ereignis = [this](int nummer) { notieren("EVENT " + std::to_string(nummer)); };
     suche_.bei_verlust = [this](const tx_leitung& leitung) { verloren(leitung); };
     takt_->bei_tick = [this] { stand_ == stand::da ? nachfragen() : suche_tick(); };
 }
@@ -72,7 +77,7 @@ bool tx_modul::suchen(anlass warum) {
     takt_->an();
     stand_melden();
     const std::vector<int> da = um_.serienports.vorhandene();
-    const bool bekannt = std::find(da.begin(), da.end(), datei_.port) != da.end() && suche_.versuchen(datei_.port);
+    const bool bekannt = std::find(da.begin(), da.end(), datei_.port) != da.end() && port_versuchen(datei_.port);
     const bool offen = bekannt || uebrige_versuchen();
     if (!offen) {
         gescheitert(false);
@@ -88,11 +93,22 @@ bool tx_modul::uebrige_versuchen() {
         const bool fremd =
             anlass_ == anlass::wieder && std::find(fremde_.begin(), fremde_.end(), nummer) != fremde_.end();
         if (leitung_ == nullptr && !fremd && !suche_.versucht(nummer)) {
-            notieren("Port: COM" + std::to_string(nummer));
-            eine = suche_.versuchen(nummer) || eine;
+            eine = port_versuchen(nummer) || eine;
         }
     }
     return eine || leitung_ != nullptr;
+}
+
+bool tx_modul::port_versuchen(int nummer) {
+    constexpr std::size_t fehlernummer = 9;
+    const plattform::portangaben port = um_.serienports.angaben(nummer);
+    notieren("Port: COM" + std::to_string(nummer));
+    notieren("Typ: " + port.typ + " Name:" + port.name + " DESC: " + port.beschreibung);
+    const bool offen = suche_.versuchen(nummer);
+    if (const int fehler = um_.serienports.fehlernummer(); !offen && fehler != 0) {
+        notieren(um_.txt.tx_text.at(fehlernummer) + " " + std::to_string(fehler));
+    }
+    return offen;
 }
 
 void tx_modul::suche_tick() {
@@ -190,14 +206,14 @@ void tx_modul::verloren(const tx_leitung& leitung) {
     }
 }
 
-void tx_modul::gehoert(const tx_leitung& leitung, const tx::meldung& was) {
+void tx_modul::gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel) {
     if (&leitung != leitung_.get()) {
         if (leitung_ != nullptr || !tx::ist_modul(was)) {
             return;
         }
         leitung_ = suche_.nehmen(leitung);
     }
-    letzte_zeile_ = um_.uhr.jetzt();
+    letzte_zeile_ = stempel;
     unbeantwortet_ = 0;
     std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, was);
 }
@@ -250,13 +266,13 @@ void tx_modul::verarbeiten(tx::taster was) {
     constexpr std::size_t lang = 7;
     constexpr std::size_t normal = 8;
     notieren(um_.txt.tx_text.at(was.lang ? lang : normal));
-    melden(art::chaostaster);
+    folge_.melden(art::chaostaster, letzte_zeile_);
 }
 
 void tx_modul::verarbeiten(const tx::sensor& was) {
     const ereignis_art nummer = art_von(was);
     if (nummer != 0) {
-        melden(nummer);
+        folge_.melden(nummer, letzte_zeile_);
     }
     for (tx_zuschauer* wer : zuschauer_) {
         wer->ausgeloest(was, nummer);
@@ -275,23 +291,6 @@ ereignis_art tx_modul::art_von(const tx::sensor& was) const {
     }
     const bool belegt = was.gruppe <= sensorpositionen && eingang <= autos_je_sensor;
     return belegt ? s6.s6_eingang_modus[eingang].at(static_cast<std::size_t>(was.gruppe)) : 0;
-}
-
-void tx_modul::melden(ereignis_art nummer) {
-    constexpr ereignis_art erster_chaostaster = 54;
-    const zeit_ms jetzt = um_.uhr.jetzt();
-    ereignis_tabelle& ereignisse = um_.ereignisse;
-    const bool runde =
-        std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer) != art::rundenzaehlung.end();
-    if (runde || zwischen(nummer, erste_zwischenzeit, letzte_zwischenzeit)) {
-        ereignisse.ueberfahrt_melden(nummer, jetzt);
-    } else if (nummer >= erster_chaostaster) {
-        ereignisse.chaos_fahrer[nummer - erster_chaostaster + 1] = true;
-        ereignisse.ereignis_melden(art::chaostaster, jetzt);
-    } else {
-        ereignisse.ereignis_melden(nummer, jetzt);
-    }
-    um_.rennen.ereignisse_gemeldet();
 }
 
 void tx_modul::rennfenster_offen() {

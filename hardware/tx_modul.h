@@ -8,7 +8,7 @@
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/texte.h"
-#include "hardware/ereignisse.h"
+#include "hardware/ereignisfolge.h"
 #include "hardware/geraetebedienung.h"
 #include "hardware/messgeraet.h"
 #include "hardware/rennverbindung.h"
@@ -30,7 +30,7 @@ public:
     virtual void stand_geaendert() {}
 };
 
-/// The 4x4 USB module. It has no clock: an event has the time at which its line arrives.
+/// The 4x4 USB module. It has no clock: an event has the time at which its line is there.
 class tx_modul final : public messgeraet {
 public:
     /// A module that has not told its version by then is none.
@@ -61,6 +61,9 @@ public:
     bool verbunden() const override { return stand_ == stand::da; }
     bool haelt_auf() const override { return true; }
 
+    void abfragen() override { folge_.abfragen(); }
+    void einfahren_beginnt() override { folge_.leeren(); }
+    void rennen_bereit() override { folge_.leeren(); }
     void rennfenster_offen() override;
     void schalten(const schaltung& befehl) override;
 
@@ -93,12 +96,13 @@ private:
 
     bool suchen(anlass warum);
     bool uebrige_versuchen();
+    bool port_versuchen(int nummer);
     void suche_tick();
     void gescheitert(bool geoeffnet);
     void gefunden();
     void nachfragen();
     void verloren(const tx_leitung& leitung);
-    void gehoert(const tx_leitung& leitung, const tx::meldung& was);
+    void gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel);
     void verarbeiten(std::monostate /*rauschen*/) {}
     void verarbeiten(tx::gruss was);
     void verarbeiten(tx::aktiviert was);
@@ -108,7 +112,6 @@ private:
     void verarbeiten(tx::taster was);
     void verarbeiten(const tx::sensor& was);
     ereignis_art art_von(const tx::sensor& was) const;
-    void melden(ereignis_art nummer);
     void ausgaenge_wiederholen();
     std::string fehlertext(bool geoeffnet) const;
     void senden(std::string_view bytes);
@@ -116,6 +119,7 @@ private:
     void stand_melden() const;
 
     umgebung um_;
+    ereignisfolge folge_;
     tx_suche suche_;
     std::unique_ptr<tx_leitung> leitung_;   ///< to the module
     std::unique_ptr<tx_leitung> abgelegt_;  ///< the one that was lost, until nobody is in its handlers any more
@@ -135,7 +139,7 @@ private:
     int modus_ = 0;
     int ausgaenge_ = 0;
     std::array<bool, tx::ausgang_max + 1> an_{};
-    zeit_ms letzte_zeile_ = 0;
+    zeit_ms letzte_zeile_ = 0;  ///< when it was there
     int unbeantwortet_ = 0;
 };
 

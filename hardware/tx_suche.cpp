@@ -14,7 +14,10 @@ bool tx_suche::versuchen(int nummer) {
     auto leitung = std::make_unique<tx_leitung>();
     leitung->nummer = nummer;
     leitung->port = dienst_.erzeugen();
-    leitung->port->bei_empfang = [this, l = leitung.get()](std::string_view bytes) { empfangen(*l, bytes); };
+    leitung->port->bei_empfang = [this, l = leitung.get()](std::string_view bytes, zeit_ms stempel) {
+        empfangen(*l, bytes, stempel);
+    };
+    leitung->port->bei_ereignis = [this](int ereignis) { bei_ereignis(ereignis); };
     leitung->port->bei_verlust = [this, l = leitung.get()] { bei_verlust(*l); };
     if (!leitung->port->oeffnen(nummer, port_werte)) {
         return false;
@@ -47,10 +50,10 @@ std::unique_ptr<tx_leitung> tx_suche::nehmen(const tx_leitung& diese) {
     return genommen;
 }
 
-void tx_suche::empfangen(tx_leitung& leitung, std::string_view bytes) const {
+void tx_suche::empfangen(tx_leitung& leitung, std::string_view bytes, zeit_ms stempel) const {
     for (const char byte : bytes) {
         if (const auto zeile = leitung.puffer.nehmen(byte)) {
-            bei_meldung(leitung, tx::zeile_lesen(*zeile));
+            bei_meldung(leitung, tx::zeile_lesen(*zeile), stempel);
         }
     }
 }

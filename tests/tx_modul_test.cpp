@@ -50,6 +50,7 @@ struct TxModul : testing::Test {
     std::vector<ereignis_art> gemeldet() {
         std::vector<ereignis_art> alle;
         for (ereignis_art art = 0; art < ereignis_tabelle::zeilen_anzahl; ++art) {
+            t.p.ereignisse[art].aktiv = false;
             if (std::exchange(t.p.ereignisse[art].ereignis_zeit, 0) == t.maschine.jetzt()) {
                 alle.push_back(art);
             }
@@ -221,6 +222,25 @@ TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
         EXPECT_EQ(rundenzahl_nach_ueberfahrt(), bisher + 1);
     }
     EXPECT_TRUE(t.p.einst.hardware.hw_4x4());
+}
+
+TEST_F(TxModul, WasWaehrendEinesDialogsKamZaehltMitSeinerZeit) {
+    waehlen(modul_4x4::modus_4);
+    t.starten("Runden", "20", {1, 2});
+    sagt("1?\r2?\r");
+    t.maschine.laufen(10);
+    const zeit_ms von = t.maschine.jetzt();
+    t.maschine.uhr_stellen(30000);
+    t.maschine.anschluesse.senden(com, "1?\r2?\r", von + 7000);
+    t.maschine.anschluesse.senden(com, "1?\r5?\r1", von + 15000);
+    t.maschine.anschluesse.senden(com, "?\r", von + 24500);
+    t.maschine.laufen(10);
+    const rundenkonto& konto = t.p.rennen.zustand.konto;
+    EXPECT_EQ(konto.runden(1), 3);
+    EXPECT_EQ(konto.stempel(1, 1), von + 7000);
+    EXPECT_EQ(konto.stempel(1, 2), von + 15000);
+    EXPECT_EQ(konto.stempel(1, 3), von + 24500);
+    EXPECT_EQ(konto.stempel(2, 1), von + 7000);
 }
 
 TEST_F(TxModul, EinTastendruckUndEinPersoenlicherTasterHaltenDasRennenAn) {
