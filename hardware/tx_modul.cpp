@@ -37,17 +37,17 @@ tx_modul::tx_modul(const umgebung& um)
 bool tx_modul::oeffnen() {
     modus_soll_ = static_cast<int>(um_.einst.hardware.hw_4x4_modus) - static_cast<int>(modul_4x4::aus);
     schliessen();
-    return suchen(anlass::start);
+    return tx_initialisieren(anlass::start);
 }
 
 bool tx_modul::probe_oeffnen() {
     schliessen();
-    return suchen(anlass::probe);
+    return tx_initialisieren(anlass::probe);
 }
 
 void tx_modul::wieder_aufnehmen() {
     if (gewuenscht_ && stand_ == stand::zu) {
-        suchen(anlass::wieder);
+        tx_initialisieren(anlass::wieder);
     }
 }
 
@@ -61,15 +61,15 @@ void tx_modul::schliessen() {
     stand_melden();
 }
 
-bool tx_modul::suchen(anlass warum) {
+bool tx_modul::tx_initialisieren(anlass warum) {
     const zeit_ms jetzt = um_.uhr.jetzt();
     abgelegt_.reset();
     if (warum != anlass::wieder) {
         datei_ = tx_datei_laden(um_.ablage);
     }
     anlass_ = warum;
-    firmware_da_ = ok_ = false;
-    modus_ = modus_soll_;
+    auskunft_ = {};
+    auskunft_.modus = modus_soll_;
     suche_seit_ = jetzt;
     alle_versucht_ = false;
     stand_ = stand::sucht;
@@ -159,7 +159,7 @@ void tx_modul::gefunden() {
     gewuenscht_ = true;
     takt_->intervall(statustakt);
     unbeantwortet_ = 0;
-    if (!ok_) {  // it was awake, and did not greet
+    if (!auskunft_.ok) {  // it was awake, and did not greet
         verarbeiten(tx::aktiviert{});
     }
     fremde_ = um_.serienports.vorhandene();
@@ -193,7 +193,7 @@ void tx_modul::verloren(const tx_leitung& leitung) {
         return;
     }
     const bool war_da = stand_ == stand::da;
-    leitung_->port->schliessen();
+    leitung_->MSCommTX->schliessen();
     abgelegt_ = std::move(leitung_);
     if (war_da) {
         takt_->aus();
@@ -219,15 +219,15 @@ void tx_modul::gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_m
 }
 
 void tx_modul::verarbeiten(tx::gruss /*was*/) {
-    ok_ = false;
+    auskunft_.ok = false;
     senden({&tx::gruss_antwort, 1});
 }
 
 void tx_modul::verarbeiten(tx::aktiviert /*was*/) {
-    ok_ = true;
-    ausgaenge_ = ausgaenge_nach_gruss;
+    auskunft_.ok = true;
+    auskunft_.ausgaenge = ausgaenge_nach_gruss;
     tx_modus_setzen(modus_soll_);
-    if (!firmware_da_) {
+    if (!auskunft_.firmware_da) {
         senden({&tx::firmware_frage, 1});
     } else if (stand_ == stand::da) {  // it has begun anew: its outputs are at rest
         ausgaenge_wiederholen();
@@ -240,8 +240,8 @@ void tx_modul::verarbeiten(tx::modusfrage /*was*/) {
 
 void tx_modul::verarbeiten(const tx::firmware& was) {
     const tx_datei bisher = datei_;
-    const bool neu = !firmware_da_ || was.text != datei_.firmware;
-    firmware_da_ = true;
+    const bool neu = !auskunft_.firmware_da || was.text != datei_.firmware;
+    auskunft_.firmware_da = true;
     datei_.firmware = was.text;
     datei_.port = leitung_->nummer;
     if (neu || std::exchange(firmware_gefragt_, false)) {
@@ -257,8 +257,8 @@ void tx_modul::verarbeiten(const tx::firmware& was) {
 }
 
 void tx_modul::verarbeiten(tx::modus was) {
-    modus_ = was.nummer;
-    notieren(um_.txt.tx_modus(modus_));
+    auskunft_.modus = was.nummer;
+    notieren(um_.txt.tx_modus(auskunft_.modus));
     stand_melden();
 }
 
@@ -270,7 +270,7 @@ void tx_modul::verarbeiten(tx::taster was) {
 }
 
 void tx_modul::verarbeiten(const tx::sensor& was) {
-    const ereignis_art nummer = art_von(was);
+    const ereignis_art nummer = tx_eingang(was.gruppe, was.wert);
     if (nummer != 0) {
         folge_.melden(nummer, letzte_zeile_);
     }
@@ -279,18 +279,18 @@ void tx_modul::verarbeiten(const tx::sensor& was) {
     }
 }
 
-ereignis_art tx_modul::art_von(const tx::sensor& was) const {
+ereignis_art tx_modul::tx_eingang(int gruppe, int wert) const {
     const modul_4x4_einstellungen& s6 = um_.einst.s6;
-    const int eingang = modus_ == kontakt_modus ? was.gruppe : was.wert;
-    const bool einzeln = modus_ == kontakt_modus || was.gruppe == 0;
+    const int eingang = auskunft_.modus == kontakt_modus ? gruppe : wert;
+    const bool einzeln = auskunft_.modus == kontakt_modus || gruppe == 0;
     if (!zwischen(eingang, 1, static_cast<int>(s6.s6_eingang.size()) - 1)) {
         return 0;
     }
     if (einzeln) {
         return s6.s6_eingang.at(static_cast<std::size_t>(eingang));
     }
-    const bool belegt = was.gruppe <= sensorpositionen && eingang <= autos_je_sensor;
-    return belegt ? s6.s6_eingang_modus[eingang].at(static_cast<std::size_t>(was.gruppe)) : 0;
+    const bool belegt = gruppe <= sensorpositionen && eingang <= autos_je_sensor;
+    return belegt ? s6.s6_eingang_modus[eingang].at(static_cast<std::size_t>(gruppe)) : 0;
 }
 
 void tx_modul::rennfenster_offen() {
@@ -340,7 +340,7 @@ void tx_modul::tx_modus_setzen(int neu) {
 
 void tx_modul::tx_ausgang_setzen(int nummer, bool an) {
     std::string befehl;
-    const int bis = nummer == 0 ? ausgaenge_ : std::min(nummer, tx::ausgang_max);
+    const int bis = nummer == 0 ? auskunft_.ausgaenge : std::min(nummer, tx::ausgang_max);
     for (int n = std::max(nummer, 1); n <= bis; ++n) {
         an_.at(static_cast<std::size_t>(n)) = an;
         befehl += tx::schaltbefehl(n, an);
@@ -355,7 +355,7 @@ void tx_modul::befehl_senden(char zeichen) {
 
 void tx_modul::senden(std::string_view bytes) {
     if (leitung_ != nullptr) {
-        leitung_->port->schreiben(bytes);
+        leitung_->MSCommTX->schreiben(bytes);
     }
 }
 

@@ -30,6 +30,14 @@ public:
     virtual void stand_geaendert() {}
 };
 
+/// What the module has told of itself since it was looked for.
+struct tx_auskunft {
+    bool firmware_da = false;  ///< its version
+    bool ok = false;           ///< its greeting has been answered
+    int modus = 0;             ///< 1 to 4, 0 none
+    int ausgaenge = 0;         ///< how many outputs it has
+};
+
 /// The 4x4 USB module. It has no clock: an event has the time at which its line is there.
 class tx_modul final : public messgeraet {
 public:
@@ -76,7 +84,7 @@ public:
     bool sucht() const { return stand_ == stand::sucht; }
     /// The operator waits no longer.
     void aufgeben();
-    int modus() const { return modus_; }
+    int modus() const { return auskunft_.modus; }
     const tx_datei& datei() const { return datei_; }
     void spuren_6_setzen(bool an);
     /// 1 to 4, 0 none; of the module that is there, and of one that comes.
@@ -94,7 +102,7 @@ private:
     enum class stand { zu, sucht, da };
     enum class anlass { start, wieder, probe };
 
-    bool suchen(anlass warum);
+    bool tx_initialisieren(anlass warum);
     bool uebrige_versuchen();
     bool port_versuchen(int nummer);
     void suche_tick();
@@ -111,7 +119,7 @@ private:
     void verarbeiten(tx::modus was);
     void verarbeiten(tx::taster was);
     void verarbeiten(const tx::sensor& was);
-    ereignis_art art_von(const tx::sensor& was) const;
+    ereignis_art tx_eingang(int gruppe, int wert) const;
     void ausgaenge_wiederholen();
     std::string fehlertext(bool geoeffnet) const;
     void senden(std::string_view bytes);
@@ -126,18 +134,15 @@ private:
     std::unique_ptr<plattform::zeitgeber> takt_;
     std::vector<tx_zuschauer*> zuschauer_;
     tx_datei datei_;
+    tx_auskunft auskunft_;
     stand stand_ = stand::zu;
     anlass anlass_ = anlass::start;
     zeit_ms suche_seit_ = 0;
     bool alle_versucht_ = false;
-    std::vector<int> fremde_;   ///< ports that were there beside the module's
-    bool gewuenscht_ = false;   ///< found once, and not closed since
-    bool firmware_da_ = false;  ///< it has told its version
+    std::vector<int> fremde_;  ///< ports that were there beside the module's
+    bool gewuenscht_ = false;  ///< found once, and not closed since
     bool firmware_gefragt_ = false;
-    bool ok_ = false;  ///< its greeting has been answered
     int modus_soll_ = 0;
-    int modus_ = 0;
-    int ausgaenge_ = 0;
     std::array<bool, tx::ausgang_max + 1> an_{};
     zeit_ms letzte_zeile_ = 0;  ///< when it was there
     int unbeantwortet_ = 0;

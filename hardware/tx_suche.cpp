@@ -13,18 +13,18 @@ constexpr std::string_view port_werte = "9600,n,8,1";
 bool tx_suche::versuchen(int nummer) {
     auto leitung = std::make_unique<tx_leitung>();
     leitung->nummer = nummer;
-    leitung->port = dienst_.erzeugen();
-    leitung->port->bei_empfang = [this, l = leitung.get()](std::string_view bytes, zeit_ms stempel) {
+    leitung->MSCommTX = dienst_.erzeugen();
+    leitung->MSCommTX->bei_empfang = [this, l = leitung.get()](std::string_view bytes, zeit_ms stempel) {
         empfangen(*l, bytes, stempel);
     };
-    leitung->port->bei_ereignis = [this](int ereignis) { bei_ereignis(ereignis); };
-    leitung->port->bei_verlust = [this, l = leitung.get()] { bei_verlust(*l); };
-    if (!leitung->port->oeffnen(nummer, port_werte)) {
+    leitung->MSCommTX->bei_ereignis = [this](int ereignis) { bei_ereignis(ereignis); };
+    leitung->MSCommTX->bei_verlust = [this, l = leitung.get()] { bei_verlust(*l); };
+    if (!leitung->MSCommTX->oeffnen(nummer, port_werte)) {
         return false;
     }
     tx_leitung& neue = *leitung;
     leitungen_.push_back(std::move(leitung));
-    neue.port->schreiben({&tx::anmelden, 1});
+    neue.MSCommTX->schreiben({&tx::anmelden, 1});
     return true;
 }
 
@@ -35,7 +35,7 @@ bool tx_suche::versucht(int nummer) const {
 
 void tx_suche::nochmals_gruessen() {
     for (std::size_t i = 0; i < leitungen_.size(); ++i) {  // who answers at once ends the search
-        leitungen_[i]->port->schreiben(std::string{tx::anmelden, tx::firmware_frage});
+        leitungen_[i]->MSCommTX->schreiben(std::string{tx::anmelden, tx::firmware_frage});
     }
 }
 

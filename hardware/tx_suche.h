@@ -14,7 +14,7 @@ namespace tarvel {
 /// A port with a 4x4 USB module at its other end, perhaps. Its handlers stay the same from the search to the race.
 struct tx_leitung {
     int nummer = 0;  ///< of the COM port
-    std::unique_ptr<plattform::serienport> port;
+    std::unique_ptr<plattform::serienport> MSCommTX;
     tx::zeilenpuffer puffer;
 };
 
