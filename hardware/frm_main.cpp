@@ -266,16 +266,15 @@ void frm_main::ausgeloest(const tx::sensor& was, ereignis_art nummer) {
     if (!lampentakt_->laeuft()) {
         return;
     }
-    const bool kontakt = modul_.modus() == tx_modul::kontakt_modus;
-    const auto stelle = static_cast<std::size_t>(kontakt ? was.gruppe : was.gruppe == 0 ? was.wert : 0);
-    if (stelle >= 1 && stelle <= eingaenge) {
-        aufleuchten(lampe_eingang.at(stelle - 1));
-    } else if (!kontakt && was.gruppe >= 1 && was.gruppe <= static_cast<int>(sensoren)) {
+    const bool kontakt = was.gruppe == 0;
+    if (kontakt) {
+        aufleuchten(lampe_eingang.at(static_cast<std::size_t>(was.wert - 1)));
+    } else if (was.gruppe <= static_cast<int>(sensoren)) {
         const auto platz = static_cast<std::size_t>(was.gruppe - 1);
         aufleuchten(lampe_sensor.at(platz));
         auto_sensor.at(platz).text(std::to_string(was.wert));
     }
-    const std::string ort = kontakt ? wort_.eingang + " " + std::to_string(was.gruppe)
+    const std::string ort = kontakt ? wort_.eingang + " " + std::to_string(was.wert)
                                     : um_.txt.tx_text[0] + " " + std::to_string(was.wert) + ", " + um_.txt.tx_text[1] +
                                           " " + std::to_string(was.gruppe);
     notiert(ort + ": " + um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));

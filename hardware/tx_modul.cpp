@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "hardware/tx_eingang.h"
+
 namespace tarvel {
 namespace {
 
@@ -12,8 +14,6 @@ constexpr zeit_ms erst_allein_ms = 1500;  // the port that it had the last time,
 constexpr zeit_ms stille_ms = 2000;       // then it is asked whether it is still there: an answer holds up an event
 constexpr int fragen_max = 3;
 constexpr int ausgaenge_nach_gruss = 9;
-constexpr int autos_je_sensor = 6;
-constexpr int sensorpositionen = 4;
 
 bool zwischen(int wert, int von, int bis) {
     return wert >= von && wert <= bis;
@@ -176,7 +176,16 @@ void tx_modul::ausgaenge_wiederholen() {
     }
 }
 
+/// A mode that it has missed would have it tell its sensors in another one's way.
+void tx_modul::modus_wiederholen() {
+    if (auskunft_.modus_bereit && !auskunft_.tx_mode_gelesen && modus_soll_ != 0 && modus_wiederholt_ < fragen_max) {
+        ++modus_wiederholt_;
+        modus_senden();
+    }
+}
+
 void tx_modul::nachfragen() {
+    modus_wiederholen();
     if (um_.uhr.jetzt() - letzte_zeile_ < stille_ms) {
         return;
     }
@@ -235,6 +244,7 @@ void tx_modul::verarbeiten(tx::aktiviert /*was*/) {
 }
 
 void tx_modul::verarbeiten(tx::modusfrage /*was*/) {
+    auskunft_.modus_bereit = true;
     senden({&tx::modus_antwort, 1});
 }
 
@@ -258,6 +268,7 @@ void tx_modul::verarbeiten(const tx::firmware& was) {
 
 void tx_modul::verarbeiten(tx::modus was) {
     auskunft_.modus = was.nummer;
+    auskunft_.tx_mode_gelesen = true;
     notieren(um_.txt.tx_modus(auskunft_.modus));
     stand_melden();
 }
@@ -270,27 +281,17 @@ void tx_modul::verarbeiten(tx::taster was) {
 }
 
 void tx_modul::verarbeiten(const tx::sensor& was) {
-    const ereignis_art nummer = tx_eingang(was.gruppe, was.wert);
+    const tx::sensor eingang = auskunft_.modus == kontakt_modus ? tx::sensor{0, was.gruppe} : was;
+    if (eingang.wert < 1 || eingang.wert > tx_eingang_max) {
+        return;
+    }
+    const ereignis_art nummer = tx_eingang(um_.einst.s6, eingang.gruppe, eingang.wert);
     if (nummer != 0) {
         folge_.melden(nummer, letzte_zeile_);
     }
     for (tx_zuschauer* wer : zuschauer_) {
-        wer->ausgeloest(was, nummer);
+        wer->ausgeloest(eingang, nummer);
     }
-}
-
-ereignis_art tx_modul::tx_eingang(int gruppe, int wert) const {
-    const modul_4x4_einstellungen& s6 = um_.einst.s6;
-    const int eingang = auskunft_.modus == kontakt_modus ? gruppe : wert;
-    const bool einzeln = auskunft_.modus == kontakt_modus || gruppe == 0;
-    if (!zwischen(eingang, 1, static_cast<int>(s6.s6_eingang.size()) - 1)) {
-        return 0;
-    }
-    if (einzeln) {
-        return s6.s6_eingang.at(static_cast<std::size_t>(eingang));
-    }
-    const bool belegt = gruppe <= sensorpositionen && eingang <= autos_je_sensor;
-    return belegt ? s6.s6_eingang_modus[eingang].at(static_cast<std::size_t>(gruppe)) : 0;
 }
 
 void tx_modul::rennfenster_offen() {
@@ -335,7 +336,13 @@ void tx_modul::spuren_6_setzen(bool an) {
 
 void tx_modul::tx_modus_setzen(int neu) {
     modus_soll_ = neu;
-    senden(tx::modusbefehl(neu));
+    modus_wiederholt_ = 0;
+    modus_senden();
+}
+
+void tx_modul::modus_senden() {
+    auskunft_.modus_bereit = auskunft_.tx_mode_gelesen = false;
+    senden(tx::modusbefehl(modus_soll_));
 }
 
 void tx_modul::tx_ausgang_setzen(int nummer, bool an) {

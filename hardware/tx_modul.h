@@ -24,7 +24,7 @@ class tx_zuschauer : public schnittstelle {
 public:
     /// A line for the window's list.
     virtual void notiert(const std::string& /*zeile*/) {}
-    /// A sensor, and the event that it stands for; 0 none.
+    /// A sensor, as the mode has it: group 0 is that of the contacts. And the event that it stands for; 0 none.
     virtual void ausgeloest(const tx::sensor& /*was*/, ereignis_art /*nummer*/) {}
     /// Connection, mode, firmware or an output is another one.
     virtual void stand_geaendert() {}
@@ -32,10 +32,12 @@ public:
 
 /// What the module has told of itself since it was looked for.
 struct tx_auskunft {
-    bool firmware_da = false;  ///< its version
-    bool ok = false;           ///< its greeting has been answered
-    int modus = 0;             ///< 1 to 4, 0 none
-    int ausgaenge = 0;         ///< how many outputs it has
+    bool firmware_da = false;      ///< its version
+    bool ok = false;               ///< its greeting has been answered
+    bool modus_bereit = false;     ///< it waits for a mode
+    bool tx_mode_gelesen = false;  ///< it has told the one that it has taken
+    int modus = 0;                 ///< 1 to 4, 0 none
+    int ausgaenge = 0;             ///< how many outputs it has
 };
 
 /// The 4x4 USB module. It has no clock: an event has the time at which its line is there.
@@ -109,6 +111,8 @@ private:
     void gescheitert(bool geoeffnet);
     void gefunden();
     void nachfragen();
+    void modus_wiederholen();
+    void modus_senden();
     void verloren(const tx_leitung& leitung);
     void gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel);
     void verarbeiten(std::monostate /*rauschen*/) {}
@@ -119,7 +123,6 @@ private:
     void verarbeiten(tx::modus was);
     void verarbeiten(tx::taster was);
     void verarbeiten(const tx::sensor& was);
-    ereignis_art tx_eingang(int gruppe, int wert) const;
     void ausgaenge_wiederholen();
     std::string fehlertext(bool geoeffnet) const;
     void senden(std::string_view bytes);
@@ -146,6 +149,7 @@ private:
     std::array<bool, tx::ausgang_max + 1> an_{};
     zeit_ms letzte_zeile_ = 0;  ///< when it was there
     int unbeantwortet_ = 0;
+    int modus_wiederholt_ = 0;
 };
 
 }  // namespace tarvel

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -254,6 +255,29 @@ TEST_F(TxModul, EinTastendruckUndEinPersoenlicherTasterHaltenDasRennenAn) {
         EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << zeile;
         t.p.fenster.entladen(fenstername::bahn1);
     }
+}
+
+TEST_F(TxModul, EinModusDenEsVerpasstHatWirdNochmalsGesetzt) {
+    waehlen(modul_4x4::modus_4);
+    sagt("MODUS\r");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(gesendet(), "<04");
+    sagt("MODUS\rmod4\r");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(gesendet(), "<");
+}
+
+TEST_F(TxModul, DieListeNenntPortsUndIhreEreignisse) {
+    t.maschine.anschluesse.bekannt[com] = {"USB 0403:6001", "/dev/ttyUSB0", "Serial"};
+    t.p.fenster.laden(fenstername::frmMain);
+    t.maschine.laufen(4000);
+    t.maschine.anschluesse.ereignis(com, 7);
+    sagt("mod1\r1@\r");
+    const auto& zeilen = tx.frm_main.List1.zeilen();
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Port: COM5"), 1);
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Typ: USB 0403:6001 Name:/dev/ttyUSB0 DESC: Serial"), 1);
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "EVENT 7"), 1);
+    EXPECT_EQ(zeilen.back(), "Digital IR-Modus") << "and no car 0";
 }
 
 TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {
