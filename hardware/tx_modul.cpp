@@ -167,10 +167,11 @@ void tx_modul::gefunden() {
     notieren(um_.txt.tx_text.at(am_port) + " " + std::to_string(datei_.port));
     notieren(um_.txt.tx_text.at(ist_aktiviert));
     stand_melden();
-    ausgaenge_wiederholen();
+    bereit_melden();
 }
 
-void tx_modul::ausgaenge_wiederholen() {
+/// The race has its outputs as they were.
+void tx_modul::bereit_melden() {
     if (anlass_ != anlass::probe) {
         um_.bedienung.wartehinweis(false);
     }
@@ -239,7 +240,7 @@ void tx_modul::verarbeiten(tx::aktiviert /*was*/) {
     if (!auskunft_.firmware_da) {
         senden({&tx::firmware_frage, 1});
     } else if (stand_ == stand::da) {  // it has begun anew: its outputs are at rest
-        ausgaenge_wiederholen();
+        bereit_melden();
     }
 }
 
@@ -300,15 +301,15 @@ void tx_modul::rennfenster_offen() {
     }
 }
 
-int tx_modul::lampenausgang(int lampe) const {
+int tx_modul::lampenausgang(int lampe, bool spuren_6) {
     constexpr int vor_der_ersten = 10;
     constexpr int immer = 3;
-    return zwischen(lampe, 1, datei_.spuren_6 ? immer : lampen) ? vor_der_ersten - lampe : 0;
+    return zwischen(lampe, 1, spuren_6 ? immer : lampen) ? vor_der_ersten - lampe : 0;
 }
 
-int tx_modul::stromausgang(int spur) const {
+int tx_modul::stromausgang(int spur, bool spuren_6) {
     constexpr int immer = 4;
-    return zwischen(spur, 1, datei_.spuren_6 ? spuren_max : immer) ? spur : 0;
+    return zwischen(spur, 1, spuren_6 ? spuren_max : immer) ? spur : 0;
 }
 
 void tx_modul::schalten(const schaltung& befehl) {
@@ -319,7 +320,7 @@ void tx_modul::schalten(const schaltung& befehl) {
     }
     const int alle = lampe ? lampen : spuren_max;
     for (int nummer = 1; nummer <= alle; ++nummer) {
-        const int platz = lampe ? lampenausgang(nummer) : stromausgang(nummer);
+        const int platz = lampe ? lampenausgang(nummer, datei_.spuren_6) : stromausgang(nummer, datei_.spuren_6);
         if (platz != 0 && (befehl.nummer == 0 || befehl.nummer == nummer)) {
             tx_ausgang_setzen(platz, befehl.an);
         }
@@ -330,7 +331,7 @@ void tx_modul::spuren_6_setzen(bool an) {
     if (datei_.spuren_6 != an) {
         datei_.spuren_6 = an;
         tx_datei_speichern(um_.ablage, datei_);
-        ausgaenge_wiederholen();
+        bereit_melden();
     }
 }
 

@@ -95,8 +95,8 @@ public:
     void tx_ausgang_setzen(int nummer, bool an);
     bool ausgang_an(int nummer) const { return an_.at(static_cast<std::size_t>(nummer)); }
     /// The output of a red lamp, or of a lane's power; 0 if it has none.
-    int lampenausgang(int lampe) const;
-    int stromausgang(int spur) const;
+    static int lampenausgang(int lampe, bool spuren_6);
+    static int stromausgang(int spur, bool spuren_6);
     /// One of the module's commands, as it stands.
     void befehl_senden(char zeichen);
 
@@ -123,7 +123,7 @@ private:
     void verarbeiten(tx::modus was);
     void verarbeiten(tx::taster was);
     void verarbeiten(const tx::sensor& was);
-    void ausgaenge_wiederholen();
+    void bereit_melden();
     std::string fehlertext(bool geoeffnet) const;
     void senden(std::string_view bytes);
     void notieren(const std::string& zeile) const;
