@@ -52,7 +52,7 @@ at2560::at2560(const umgebung& um)
     : um_(um),
       MSComm2_(um.serienports.erzeugen()),
       tmr_µportopen_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
-    MSComm2_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
+    MSComm2_->bei_empfang = [this](std::string_view bytes, zeit_ms /*stempel*/) { empfangen(bytes); };
     MSComm2_->bei_verlust = [this] { verloren_melden(); };
     tmr_µportopen_->bei_tick = [this] { tmr_µportopen_tick(); };
 }

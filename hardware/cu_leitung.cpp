@@ -11,7 +11,7 @@ constexpr zeit_ms antwort_max_ms = 50;      // then the poll is lost, and the ne
 }  // namespace
 
 cu_leitung::cu_leitung(const plattform::dienste& dienste) : uhr_(dienste.uhr), port_(dienste.serienports.erzeugen()) {
-    port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
+    port_->bei_empfang = [this](std::string_view bytes, zeit_ms /*stempel*/) { empfangen(bytes); };
 }
 
 bool cu_leitung::oeffnen(int nummer) {

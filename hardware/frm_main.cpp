@@ -91,12 +91,12 @@ void frm_main::ausgaenge_verbinden() {
     };
     for (int lampe = 1; lampe <= tx_modul::lampen; ++lampe) {
         haken& eine = chkTraffic.at(static_cast<std::size_t>(lampe - 1));
-        eine.bei_aenderung = [this, schalten, &eine, lampe] { schalten(eine, modul_.lampenausgang(lampe)); };
+        eine.bei_aenderung = [this, schalten, &eine, lampe] { schalten(eine, lampenausgang(lampe)); };
         chkTraffic.at(static_cast<std::size_t>(lampe - 1)).text(std::to_string(lampe));
     }
     for (const int spur : alle_spuren) {
         haken& eine = chkBahnStrom[spur];
-        eine.bei_aenderung = [this, schalten, &eine, spur] { schalten(eine, modul_.stromausgang(spur)); };
+        eine.bei_aenderung = [this, schalten, &eine, spur] { schalten(eine, stromausgang(spur)); };
         eine.text(std::to_string(spur));
     }
     const auto alle = [](const haken& einer, auto& reihe) {
@@ -107,6 +107,7 @@ void frm_main::ausgaenge_verbinden() {
             }
         }
     };
+    Check2.bei_aenderung = [this] { ausgaenge_zeigen(); };
     chkTrafficAll.bei_aenderung = [this, alle] { alle(chkTrafficAll, chkTraffic); };
     chkBahnStromAll.bei_aenderung = [this, alle] { alle(chkBahnStromAll, chkBahnStrom); };
 }
@@ -194,6 +195,14 @@ void frm_main::werte_zeigen() {
     ausgaenge_zeigen();
 }
 
+int frm_main::lampenausgang(int lampe) const {
+    return tx_modul::lampenausgang(lampe, Check2.gesetzt());
+}
+
+int frm_main::stromausgang(int spur) const {
+    return tx_modul::stromausgang(spur, Check2.gesetzt());
+}
+
 void frm_main::ausgaenge_zeigen() {
     const auto zeigen = [this](haken& element, int ausgang) {
         element.aktiviert(ausgang != 0 && modul_.verbunden());
@@ -202,13 +211,13 @@ void frm_main::ausgaenge_zeigen() {
     bool alle_lampen = true;
     for (int lampe = 1; lampe <= tx_modul::lampen; ++lampe) {
         haken& eine = chkTraffic.at(static_cast<std::size_t>(lampe - 1));
-        zeigen(eine, modul_.lampenausgang(lampe));
-        alle_lampen = alle_lampen && (eine.gesetzt() || modul_.lampenausgang(lampe) == 0);
+        zeigen(eine, lampenausgang(lampe));
+        alle_lampen = alle_lampen && (eine.gesetzt() || lampenausgang(lampe) == 0);
     }
     bool alle_bahnen = true;
     for (const int spur : alle_spuren) {
-        zeigen(chkBahnStrom[spur], modul_.stromausgang(spur));
-        alle_bahnen = alle_bahnen && (chkBahnStrom[spur].gesetzt() || modul_.stromausgang(spur) == 0);
+        zeigen(chkBahnStrom[spur], stromausgang(spur));
+        alle_bahnen = alle_bahnen && (chkBahnStrom[spur].gesetzt() || stromausgang(spur) == 0);
     }
     chkTrafficAll.aktiviert(modul_.verbunden());
     chkBahnStromAll.aktiviert(modul_.verbunden());
@@ -264,16 +273,15 @@ void frm_main::ausgeloest(const tx::sensor& was, ereignis_art nummer) {
     if (!lampentakt_->laeuft()) {
         return;
     }
-    const bool kontakt = modul_.modus() == tx_modul::kontakt_modus;
-    const auto stelle = static_cast<std::size_t>(kontakt ? was.gruppe : was.gruppe == 0 ? was.wert : 0);
-    if (stelle >= 1 && stelle <= eingaenge) {
-        aufleuchten(lampe_eingang.at(stelle - 1));
-    } else if (!kontakt && was.gruppe >= 1 && was.gruppe <= static_cast<int>(sensoren)) {
+    const bool kontakt = was.gruppe == 0;
+    if (kontakt) {
+        aufleuchten(static_cast<std::size_t>(was.wert - 1));
+    } else if (was.gruppe <= static_cast<int>(sensoren)) {
         const auto platz = static_cast<std::size_t>(was.gruppe - 1);
-        aufleuchten(lampe_sensor.at(platz));
+        aufleuchten(eingaenge + platz);
         auto_sensor.at(platz).text(std::to_string(was.wert));
     }
-    const std::string ort = kontakt ? wort_.eingang + " " + std::to_string(was.gruppe)
+    const std::string ort = kontakt ? wort_.eingang + " " + std::to_string(was.wert)
                                     : um_.txt.tx_text[0] + " " + std::to_string(was.wert) + ", " + um_.txt.tx_text[1] +
                                           " " + std::to_string(was.gruppe);
     notiert(ort + ": " + um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));
@@ -294,18 +302,19 @@ void frm_main::stand_geaendert() {
     ausgaenge_zeigen();
 }
 
-void frm_main::aufleuchten(form& lampe) {
-    const bool am_eingang = &lampe >= lampe_eingang.data() && &lampe < lampe_eingang.data() + eingaenge;
-    const auto platz = static_cast<std::size_t>(
-        am_eingang ? &lampe - lampe_eingang.data() : &lampe - lampe_sensor.data() + static_cast<int>(eingaenge));
+form& frm_main::lampe(std::size_t platz) {
+    return platz < eingaenge ? lampe_eingang.at(platz) : lampe_sensor.at(platz - eingaenge);
+}
+
+void frm_main::aufleuchten(std::size_t platz) {
     leuchtet_bis_.at(platz) = uhr_.jetzt() + leuchtdauer_ms;
-    lampe.hintergrund(lampe_an);
+    lampe(platz).hintergrund(lampe_an);
 }
 
 void frm_main::lampen_tick() {
-    for (std::size_t i = 0; i < leuchtet_bis_.size(); ++i) {
-        if (uhr_.jetzt() >= leuchtet_bis_.at(i)) {
-            (i < eingaenge ? lampe_eingang.at(i) : lampe_sensor.at(i - eingaenge)).hintergrund(lampe_aus);
+    for (std::size_t platz = 0; platz < leuchtet_bis_.size(); ++platz) {
+        if (uhr_.jetzt() >= leuchtet_bis_.at(platz)) {
+            lampe(platz).hintergrund(lampe_aus);
         }
     }
 }

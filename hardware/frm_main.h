@@ -85,11 +85,16 @@ private:
     void ausgaenge_verbinden();
     void auswahlen_fuellen();
     void werte_zeigen();
+    /// The outputs as the window has them, also before that is taken over.
+    int lampenausgang(int lampe) const;
+    int stromausgang(int spur) const;
     void ausgaenge_zeigen();
     void modus_waehlen(std::size_t nummer);
     std::size_t gewaehlter_modus() const;
     void aufbau_setzen(std::size_t nummer);
-    void aufleuchten(form& lampe);
+    /// Of the inputs, and behind them of the sensors.
+    form& lampe(std::size_t platz);
+    void aufleuchten(std::size_t platz);
     void lampen_tick();
     void suchen();
     void uebernehmen();

@@ -30,7 +30,7 @@ rc_verbindung::rc_verbindung(plattform::serienport_dienst& serienports, plattfor
       port_(serienports.erzeugen()),
       rc_timer_(zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, rc_antwortzeit)),
       bibliothek_da_(bibliothek_.laden()) {
-    port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
+    port_->bei_empfang = [this](std::string_view bytes, zeit_ms /*stempel*/) { empfangen(bytes); };
     port_->bei_verlust = [this] { zumachen(rc_schritt::unterbrochen); };
     rc_timer_->bei_tick = [this] { zumachen(rc_schritt::stumm); };
 }

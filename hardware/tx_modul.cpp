@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "hardware/tx_eingang.h"
+
 namespace tarvel {
 namespace {
 
@@ -12,9 +14,6 @@ constexpr zeit_ms erst_allein_ms = 1500;  // the port that it had the last time,
 constexpr zeit_ms stille_ms = 2000;       // then it is asked whether it is still there: an answer holds up an event
 constexpr int fragen_max = 3;
 constexpr int ausgaenge_nach_gruss = 9;
-constexpr int autos_je_sensor = 6;
-constexpr int sensorpositionen = 4;
-constexpr ereignis_art letzte_zwischenzeit = erste_zwischenzeit + sektorsensoren_max - 1;
 
 bool zwischen(int wert, int von, int bis) {
     return wert >= von && wert <= bis;
@@ -23,8 +22,14 @@ bool zwischen(int wert, int von, int bis) {
 }  // namespace
 
 tx_modul::tx_modul(const umgebung& um)
-    : um_(um), suche_(um.serienports), takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, suchtakt)) {
-    suche_.bei_meldung = [this](const tx_leitung& leitung, const tx::meldung& was) { gehoert(leitung, was); };
+    : um_(um),
+      folge_(um.ereignisse, um.rennen),
+      suche_(um.serienports),
+      takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, suchtakt)) {
+    suche_.bei_meldung = [this](const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel) {
+        gehoert(leitung, was, stempel);
+    };
+    suche_.bei_ereignis = [this](int nummer) { notieren("EVENT " + std::to_string(nummer)); };
     suche_.bei_verlust = [this](const tx_leitung& leitung) { verloren(leitung); };
     takt_->bei_tick = [this] { stand_ == stand::da ? nachfragen() : suche_tick(); };
 }
@@ -32,17 +37,17 @@ tx_modul::tx_modul(const umgebung& um)
 bool tx_modul::oeffnen() {
     modus_soll_ = static_cast<int>(um_.einst.hardware.hw_4x4_modus) - static_cast<int>(modul_4x4::aus);
     schliessen();
-    return suchen(anlass::start);
+    return tx_initialisieren(anlass::start);
 }
 
 bool tx_modul::probe_oeffnen() {
     schliessen();
-    return suchen(anlass::probe);
+    return tx_initialisieren(anlass::probe);
 }
 
 void tx_modul::wieder_aufnehmen() {
     if (gewuenscht_ && stand_ == stand::zu) {
-        suchen(anlass::wieder);
+        tx_initialisieren(anlass::wieder);
     }
 }
 
@@ -56,15 +61,15 @@ void tx_modul::schliessen() {
     stand_melden();
 }
 
-bool tx_modul::suchen(anlass warum) {
+bool tx_modul::tx_initialisieren(anlass warum) {
     const zeit_ms jetzt = um_.uhr.jetzt();
     abgelegt_.reset();
     if (warum != anlass::wieder) {
         datei_ = tx_datei_laden(um_.ablage);
     }
     anlass_ = warum;
-    firmware_da_ = ok_ = false;
-    modus_ = modus_soll_;
+    auskunft_ = {};
+    auskunft_.modus = modus_soll_;
     suche_seit_ = jetzt;
     alle_versucht_ = false;
     stand_ = stand::sucht;
@@ -72,7 +77,7 @@ bool tx_modul::suchen(anlass warum) {
     takt_->an();
     stand_melden();
     const std::vector<int> da = um_.serienports.vorhandene();
-    const bool bekannt = std::find(da.begin(), da.end(), datei_.port) != da.end() && suche_.versuchen(datei_.port);
+    const bool bekannt = std::find(da.begin(), da.end(), datei_.port) != da.end() && port_versuchen(datei_.port);
     const bool offen = bekannt || uebrige_versuchen();
     if (!offen) {
         gescheitert(false);
@@ -88,11 +93,22 @@ bool tx_modul::uebrige_versuchen() {
         const bool fremd =
             anlass_ == anlass::wieder && std::find(fremde_.begin(), fremde_.end(), nummer) != fremde_.end();
         if (leitung_ == nullptr && !fremd && !suche_.versucht(nummer)) {
-            notieren("Port: COM" + std::to_string(nummer));
-            eine = suche_.versuchen(nummer) || eine;
+            eine = port_versuchen(nummer) || eine;
         }
     }
     return eine || leitung_ != nullptr;
+}
+
+bool tx_modul::port_versuchen(int nummer) {
+    constexpr std::size_t fehlernummer = 9;
+    const plattform::portangaben port = um_.serienports.angaben(nummer);
+    notieren("Port: COM" + std::to_string(nummer));
+    notieren("Typ: " + port.typ + " Name:" + port.name + " DESC: " + port.beschreibung);
+    const bool offen = suche_.versuchen(nummer);
+    if (const int fehler = um_.serienports.fehlernummer(); !offen && fehler != 0) {
+        notieren(um_.txt.tx_text.at(fehlernummer) + " " + std::to_string(fehler));
+    }
+    return offen;
 }
 
 void tx_modul::suche_tick() {
@@ -143,7 +159,7 @@ void tx_modul::gefunden() {
     gewuenscht_ = true;
     takt_->intervall(statustakt);
     unbeantwortet_ = 0;
-    if (!ok_) {  // it was awake, and did not greet
+    if (!auskunft_.ok) {  // it was awake, and did not greet
         verarbeiten(tx::aktiviert{});
     }
     fremde_ = um_.serienports.vorhandene();
@@ -151,16 +167,26 @@ void tx_modul::gefunden() {
     notieren(um_.txt.tx_text.at(am_port) + " " + std::to_string(datei_.port));
     notieren(um_.txt.tx_text.at(ist_aktiviert));
     stand_melden();
-    ausgaenge_wiederholen();
+    bereit_melden();
 }
 
-void tx_modul::ausgaenge_wiederholen() {
+/// The race has its outputs as they were.
+void tx_modul::bereit_melden() {
     if (anlass_ != anlass::probe) {
         um_.bedienung.wartehinweis(false);
     }
 }
 
+/// A mode that it has missed would have it tell its sensors in another one's way.
+void tx_modul::modus_wiederholen() {
+    if (auskunft_.modus_bereit && !auskunft_.tx_mode_gelesen && modus_soll_ != 0 && modus_wiederholt_ < fragen_max) {
+        ++modus_wiederholt_;
+        modus_senden();
+    }
+}
+
 void tx_modul::nachfragen() {
+    modus_wiederholen();
     if (um_.uhr.jetzt() - letzte_zeile_ < stille_ms) {
         return;
     }
@@ -177,7 +203,7 @@ void tx_modul::verloren(const tx_leitung& leitung) {
         return;
     }
     const bool war_da = stand_ == stand::da;
-    leitung_->port->schliessen();
+    leitung_->MSCommTX->schliessen();
     abgelegt_ = std::move(leitung_);
     if (war_da) {
         takt_->aus();
@@ -190,42 +216,43 @@ void tx_modul::verloren(const tx_leitung& leitung) {
     }
 }
 
-void tx_modul::gehoert(const tx_leitung& leitung, const tx::meldung& was) {
+void tx_modul::gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel) {
     if (&leitung != leitung_.get()) {
         if (leitung_ != nullptr || !tx::ist_modul(was)) {
             return;
         }
         leitung_ = suche_.nehmen(leitung);
     }
-    letzte_zeile_ = um_.uhr.jetzt();
+    letzte_zeile_ = stempel;
     unbeantwortet_ = 0;
     std::visit([this](const auto& inhalt) { verarbeiten(inhalt); }, was);
 }
 
 void tx_modul::verarbeiten(tx::gruss /*was*/) {
-    ok_ = false;
+    auskunft_.ok = false;
     senden({&tx::gruss_antwort, 1});
 }
 
 void tx_modul::verarbeiten(tx::aktiviert /*was*/) {
-    ok_ = true;
-    ausgaenge_ = ausgaenge_nach_gruss;
+    auskunft_.ok = true;
+    auskunft_.ausgaenge = ausgaenge_nach_gruss;
     tx_modus_setzen(modus_soll_);
-    if (!firmware_da_) {
+    if (!auskunft_.firmware_da) {
         senden({&tx::firmware_frage, 1});
     } else if (stand_ == stand::da) {  // it has begun anew: its outputs are at rest
-        ausgaenge_wiederholen();
+        bereit_melden();
     }
 }
 
 void tx_modul::verarbeiten(tx::modusfrage /*was*/) {
+    auskunft_.modus_bereit = true;
     senden({&tx::modus_antwort, 1});
 }
 
 void tx_modul::verarbeiten(const tx::firmware& was) {
     const tx_datei bisher = datei_;
-    const bool neu = !firmware_da_ || was.text != datei_.firmware;
-    firmware_da_ = true;
+    const bool neu = !auskunft_.firmware_da || was.text != datei_.firmware;
+    auskunft_.firmware_da = true;
     datei_.firmware = was.text;
     datei_.port = leitung_->nummer;
     if (neu || std::exchange(firmware_gefragt_, false)) {
@@ -241,8 +268,9 @@ void tx_modul::verarbeiten(const tx::firmware& was) {
 }
 
 void tx_modul::verarbeiten(tx::modus was) {
-    modus_ = was.nummer;
-    notieren(um_.txt.tx_modus(modus_));
+    auskunft_.modus = was.nummer;
+    auskunft_.tx_mode_gelesen = true;
+    notieren(um_.txt.tx_modus(auskunft_.modus));
     stand_melden();
 }
 
@@ -250,48 +278,21 @@ void tx_modul::verarbeiten(tx::taster was) {
     constexpr std::size_t lang = 7;
     constexpr std::size_t normal = 8;
     notieren(um_.txt.tx_text.at(was.lang ? lang : normal));
-    melden(art::chaostaster);
+    folge_.melden(art::chaostaster, letzte_zeile_);
 }
 
 void tx_modul::verarbeiten(const tx::sensor& was) {
-    const ereignis_art nummer = art_von(was);
+    const tx::sensor eingang = auskunft_.modus == kontakt_modus ? tx::sensor{0, was.gruppe} : was;
+    if (eingang.wert < 1 || eingang.wert > tx_eingang_max) {
+        return;
+    }
+    const ereignis_art nummer = tx_eingang(um_.einst.s6, eingang.gruppe, eingang.wert);
     if (nummer != 0) {
-        melden(nummer);
+        folge_.melden(nummer, letzte_zeile_);
     }
     for (tx_zuschauer* wer : zuschauer_) {
-        wer->ausgeloest(was, nummer);
+        wer->ausgeloest(eingang, nummer);
     }
-}
-
-ereignis_art tx_modul::art_von(const tx::sensor& was) const {
-    const modul_4x4_einstellungen& s6 = um_.einst.s6;
-    const int eingang = modus_ == kontakt_modus ? was.gruppe : was.wert;
-    const bool einzeln = modus_ == kontakt_modus || was.gruppe == 0;
-    if (!zwischen(eingang, 1, static_cast<int>(s6.s6_eingang.size()) - 1)) {
-        return 0;
-    }
-    if (einzeln) {
-        return s6.s6_eingang.at(static_cast<std::size_t>(eingang));
-    }
-    const bool belegt = was.gruppe <= sensorpositionen && eingang <= autos_je_sensor;
-    return belegt ? s6.s6_eingang_modus[eingang].at(static_cast<std::size_t>(was.gruppe)) : 0;
-}
-
-void tx_modul::melden(ereignis_art nummer) {
-    constexpr ereignis_art erster_chaostaster = 54;
-    const zeit_ms jetzt = um_.uhr.jetzt();
-    ereignis_tabelle& ereignisse = um_.ereignisse;
-    const bool runde =
-        std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer) != art::rundenzaehlung.end();
-    if (runde || zwischen(nummer, erste_zwischenzeit, letzte_zwischenzeit)) {
-        ereignisse.ueberfahrt_melden(nummer, jetzt);
-    } else if (nummer >= erster_chaostaster) {
-        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
-        ereignisse.ereignis_melden(art::chaostaster, jetzt);
-    } else {
-        ereignisse.ereignis_melden(nummer, jetzt);
-    }
-    um_.rennen.tankflanken_auswerten();
 }
 
 void tx_modul::rennfenster_offen() {
@@ -300,15 +301,15 @@ void tx_modul::rennfenster_offen() {
     }
 }
 
-int tx_modul::lampenausgang(int lampe) const {
+int tx_modul::lampenausgang(int lampe, bool spuren_6) {
     constexpr int vor_der_ersten = 10;
     constexpr int immer = 3;
-    return zwischen(lampe, 1, datei_.spuren_6 ? immer : lampen) ? vor_der_ersten - lampe : 0;
+    return zwischen(lampe, 1, spuren_6 ? immer : lampen) ? vor_der_ersten - lampe : 0;
 }
 
-int tx_modul::stromausgang(int spur) const {
+int tx_modul::stromausgang(int spur, bool spuren_6) {
     constexpr int immer = 4;
-    return zwischen(spur, 1, datei_.spuren_6 ? spuren_max : immer) ? spur : 0;
+    return zwischen(spur, 1, spuren_6 ? spuren_max : immer) ? spur : 0;
 }
 
 void tx_modul::schalten(const schaltung& befehl) {
@@ -319,7 +320,7 @@ void tx_modul::schalten(const schaltung& befehl) {
     }
     const int alle = lampe ? lampen : spuren_max;
     for (int nummer = 1; nummer <= alle; ++nummer) {
-        const int platz = lampe ? lampenausgang(nummer) : stromausgang(nummer);
+        const int platz = lampe ? lampenausgang(nummer, datei_.spuren_6) : stromausgang(nummer, datei_.spuren_6);
         if (platz != 0 && (befehl.nummer == 0 || befehl.nummer == nummer)) {
             tx_ausgang_setzen(platz, befehl.an);
         }
@@ -330,18 +331,24 @@ void tx_modul::spuren_6_setzen(bool an) {
     if (datei_.spuren_6 != an) {
         datei_.spuren_6 = an;
         tx_datei_speichern(um_.ablage, datei_);
-        ausgaenge_wiederholen();
+        bereit_melden();
     }
 }
 
 void tx_modul::tx_modus_setzen(int neu) {
     modus_soll_ = neu;
-    senden(tx::modusbefehl(neu));
+    modus_wiederholt_ = 0;
+    modus_senden();
+}
+
+void tx_modul::modus_senden() {
+    auskunft_.modus_bereit = auskunft_.tx_mode_gelesen = false;
+    senden(tx::modusbefehl(modus_soll_));
 }
 
 void tx_modul::tx_ausgang_setzen(int nummer, bool an) {
     std::string befehl;
-    const int bis = nummer == 0 ? ausgaenge_ : std::min(nummer, tx::ausgang_max);
+    const int bis = nummer == 0 ? auskunft_.ausgaenge : std::min(nummer, tx::ausgang_max);
     for (int n = std::max(nummer, 1); n <= bis; ++n) {
         an_.at(static_cast<std::size_t>(n)) = an;
         befehl += tx::schaltbefehl(n, an);
@@ -356,7 +363,7 @@ void tx_modul::befehl_senden(char zeichen) {
 
 void tx_modul::senden(std::string_view bytes) {
     if (leitung_ != nullptr) {
-        leitung_->port->schreiben(bytes);
+        leitung_->MSCommTX->schreiben(bytes);
     }
 }
 

@@ -8,7 +8,7 @@
 #include "core/dateien.h"
 #include "core/einstellungen.h"
 #include "core/texte.h"
-#include "hardware/ereignisse.h"
+#include "hardware/ereignisfolge.h"
 #include "hardware/geraetebedienung.h"
 #include "hardware/messgeraet.h"
 #include "hardware/rennverbindung.h"
@@ -24,13 +24,23 @@ class tx_zuschauer : public schnittstelle {
 public:
     /// A line for the window's list.
     virtual void notiert(const std::string& /*zeile*/) {}
-    /// A sensor, and the event that it stands for; 0 none.
+    /// A sensor, as the mode has it: group 0 is that of the contacts. And the event that it stands for; 0 none.
     virtual void ausgeloest(const tx::sensor& /*was*/, ereignis_art /*nummer*/) {}
     /// Connection, mode, firmware or an output is another one.
     virtual void stand_geaendert() {}
 };
 
-/// The 4x4 USB module. It has no clock: an event has the time at which its line arrives.
+/// What the module has told of itself since it was looked for.
+struct tx_auskunft {
+    bool firmware_da = false;      ///< its version
+    bool ok = false;               ///< its greeting has been answered
+    bool modus_bereit = false;     ///< it waits for a mode
+    bool tx_mode_gelesen = false;  ///< it has told the one that it has taken
+    int modus = 0;                 ///< 1 to 4, 0 none
+    int ausgaenge = 0;             ///< how many outputs it has
+};
+
+/// The 4x4 USB module. It has no clock: an event has the time at which its line is there.
 class tx_modul final : public messgeraet {
 public:
     /// A module that has not told its version by then is none.
@@ -61,6 +71,9 @@ public:
     bool verbunden() const override { return stand_ == stand::da; }
     bool haelt_auf() const override { return true; }
 
+    void abfragen() override { folge_.abfragen(); }
+    void einfahren_beginnt() override { folge_.leeren(); }
+    void rennen_bereit() override { folge_.leeren(); }
     void rennfenster_offen() override;
     void schalten(const schaltung& befehl) override;
 
@@ -73,7 +86,7 @@ public:
     bool sucht() const { return stand_ == stand::sucht; }
     /// The operator waits no longer.
     void aufgeben();
-    int modus() const { return modus_; }
+    int modus() const { return auskunft_.modus; }
     const tx_datei& datei() const { return datei_; }
     void spuren_6_setzen(bool an);
     /// 1 to 4, 0 none; of the module that is there, and of one that comes.
@@ -82,8 +95,8 @@ public:
     void tx_ausgang_setzen(int nummer, bool an);
     bool ausgang_an(int nummer) const { return an_.at(static_cast<std::size_t>(nummer)); }
     /// The output of a red lamp, or of a lane's power; 0 if it has none.
-    int lampenausgang(int lampe) const;
-    int stromausgang(int spur) const;
+    static int lampenausgang(int lampe, bool spuren_6);
+    static int stromausgang(int spur, bool spuren_6);
     /// One of the module's commands, as it stands.
     void befehl_senden(char zeichen);
 
@@ -91,14 +104,17 @@ private:
     enum class stand { zu, sucht, da };
     enum class anlass { start, wieder, probe };
 
-    bool suchen(anlass warum);
+    bool tx_initialisieren(anlass warum);
     bool uebrige_versuchen();
+    bool port_versuchen(int nummer);
     void suche_tick();
     void gescheitert(bool geoeffnet);
     void gefunden();
     void nachfragen();
+    void modus_wiederholen();
+    void modus_senden();
     void verloren(const tx_leitung& leitung);
-    void gehoert(const tx_leitung& leitung, const tx::meldung& was);
+    void gehoert(const tx_leitung& leitung, const tx::meldung& was, zeit_ms stempel);
     void verarbeiten(std::monostate /*rauschen*/) {}
     void verarbeiten(tx::gruss was);
     void verarbeiten(tx::aktiviert was);
@@ -107,36 +123,33 @@ private:
     void verarbeiten(tx::modus was);
     void verarbeiten(tx::taster was);
     void verarbeiten(const tx::sensor& was);
-    ereignis_art art_von(const tx::sensor& was) const;
-    void melden(ereignis_art nummer);
-    void ausgaenge_wiederholen();
+    void bereit_melden();
     std::string fehlertext(bool geoeffnet) const;
     void senden(std::string_view bytes);
     void notieren(const std::string& zeile) const;
     void stand_melden() const;
 
     umgebung um_;
+    ereignisfolge folge_;
     tx_suche suche_;
     std::unique_ptr<tx_leitung> leitung_;   ///< to the module
     std::unique_ptr<tx_leitung> abgelegt_;  ///< the one that was lost, until nobody is in its handlers any more
     std::unique_ptr<plattform::zeitgeber> takt_;
     std::vector<tx_zuschauer*> zuschauer_;
     tx_datei datei_;
+    tx_auskunft auskunft_;
     stand stand_ = stand::zu;
     anlass anlass_ = anlass::start;
     zeit_ms suche_seit_ = 0;
     bool alle_versucht_ = false;
-    std::vector<int> fremde_;   ///< ports that were there beside the module's
-    bool gewuenscht_ = false;   ///< found once, and not closed since
-    bool firmware_da_ = false;  ///< it has told its version
+    std::vector<int> fremde_;  ///< ports that were there beside the module's
+    bool gewuenscht_ = false;  ///< found once, and not closed since
     bool firmware_gefragt_ = false;
-    bool ok_ = false;  ///< its greeting has been answered
     int modus_soll_ = 0;
-    int modus_ = 0;
-    int ausgaenge_ = 0;
     std::array<bool, tx::ausgang_max + 1> an_{};
-    zeit_ms letzte_zeile_ = 0;
+    zeit_ms letzte_zeile_ = 0;  ///< when it was there
     int unbeantwortet_ = 0;
+    int modus_wiederholt_ = 0;
 };
 
 }  // namespace tarvel

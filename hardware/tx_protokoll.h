@@ -27,10 +27,11 @@ struct modus {
 struct taster {
     bool lang = false;
 };
-/// A sensor: in contact mode `gruppe` is the number of the input, else the place of the sensor, and `wert` the car.
+/// A sensor: in contact mode `gruppe` is the number of the contact, else the position of the sensor, and `wert` the
+/// car.
 struct sensor {
     int gruppe = 0;  ///< 0 to 9
-    int wert = 0;    ///< 64 - code of the character; a car only from 1 to 8
+    int wert = 0;    ///< 64 - code of the character; only from 1 to 8 it means anything
 };
 using meldung = std::variant<std::monostate, gruss, aktiviert, modusfrage, firmware, modus, taster, sensor>;
 

@@ -14,7 +14,7 @@ namespace tarvel {
 /// A port with a 4x4 USB module at its other end, perhaps. Its handlers stay the same from the search to the race.
 struct tx_leitung {
     int nummer = 0;  ///< of the COM port
-    std::unique_ptr<plattform::serienport> port;
+    std::unique_ptr<plattform::serienport> MSCommTX;
     tx::zeilenpuffer puffer;
 };
 
@@ -23,8 +23,9 @@ class tx_suche {
 public:
     explicit tx_suche(plattform::serienport_dienst& dienst) : dienst_(dienst) {}
 
-    /// A line that came in on a port that is open.
-    std::function<void(tx_leitung&, const tx::meldung&)> bei_meldung;
+    /// A line that came in on a port that is open, and when its end was there.
+    std::function<void(tx_leitung&, const tx::meldung&, zeit_ms)> bei_meldung;
+    std::function<void(int)> bei_ereignis;  ///< number of another event of a port
     std::function<void(tx_leitung&)> bei_verlust;
 
     /// Opens the port, and greets what is behind it. False if it cannot be opened.
@@ -37,7 +38,7 @@ public:
     void beenden() { leitungen_.clear(); }
 
 private:
-    void empfangen(tx_leitung& leitung, std::string_view bytes) const;
+    void empfangen(tx_leitung& leitung, std::string_view bytes, zeit_ms stempel) const;
 
     plattform::serienport_dienst& dienst_;
     std::vector<std::unique_ptr<tx_leitung>> leitungen_;

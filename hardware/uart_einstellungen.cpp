@@ -32,7 +32,7 @@ uart_einstellungen::uart_einstellungen(const umgebung& um)
       um_(um),
       port_(um.serienports.erzeugen()),
       bootzeit_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
-    port_->bei_empfang = [this](std::string_view bytes) { empfangen(bytes); };
+    port_->bei_empfang = [this](std::string_view bytes, zeit_ms /*stempel*/) { empfangen(bytes); };
     port_->bei_verlust = [this] { port_verloren(); };
     bootzeit_->bei_tick = [this] { boot_vorbei(); };
     port_ermitteln.bei_klick = [this] { port_suchen(); };

@@ -78,6 +78,18 @@ QString Portnamen::von(int nummer) const {
 #endif
 }
 
+plattform::portangaben Portnamen::angaben(int nummer) const {
+    const QString pfad = von(nummer);
+    const QSerialPortInfo port(QFileInfo(pfad).fileName());
+    QString typ = port.isNull() ? "" : "RS232";
+    if (port.hasVendorIdentifier()) {
+        typ = QString("USB %1:%2")
+                  .arg(port.vendorIdentifier(), 4, 16, QChar('0'))
+                  .arg(port.productIdentifier(), 4, 16, QChar('0'));
+    }
+    return {typ.toStdString(), pfad.toStdString(), port.description().toStdString()};
+}
+
 std::vector<int> Portnamen::vorhandene() const {
     std::vector<int> nummern;
     const QList<QSerialPortInfo> ports = QSerialPortInfo::availablePorts();

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "platform/serienport.h"
+
 namespace tarvel::qt {
 
 /// Which device a COM number stands for. On Windows the name is the port's own. Elsewhere COMn is the link
@@ -18,6 +20,7 @@ public:
     QString von(int nummer) const;
     /// COM numbers of all ports that are there, ascending.
     std::vector<int> vorhandene() const;
+    plattform::portangaben angaben(int nummer) const;
 
 private:
     QString verweis(int nummer) const;

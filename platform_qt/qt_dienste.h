@@ -51,7 +51,7 @@ private:
     QtDateisystem dateisystem_;
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
-    QtSerienportDienst serienports_{ordner_};
+    QtSerienportDienst serienports_{ordner_, uhr_};
     QtBibliothekDienst bibliotheken_{ordner_};
     QtAbtasterDienst abtaster_{uhr_};
 #ifdef Q_OS_WIN

@@ -2,21 +2,10 @@
 
 #include <QFile>
 #include <QHash>
+#include <QPointer>
 #include <QStringList>
 
-#ifndef Q_OS_WIN
-#include <poll.h>
-#endif
-
 namespace tarvel::qt {
-namespace {
-
-constexpr qint64 stau_max = 4096;  // bytes that a device has not taken: it takes none any more
-constexpr int wache_ms = 1000;
-constexpr int abschied_ms = 100;  // for the last commands before the port is closed
-
-}  // namespace
-
 std::optional<Portwerte> portwerte_lesen(std::string_view text) {
     static const QHash<QString, QSerialPort::Parity> paritaeten{{"N", QSerialPort::NoParity},
                                                                 {"E", QSerialPort::EvenParity},
@@ -54,87 +43,85 @@ QString sperrdatei_von(const QString& port) {
     return {};
 }
 
-QtSerienport::QtSerienport(const Portnamen& namen, QString& sperrdatei) : namen_(namen), sperrdatei_(sperrdatei) {
-    QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { lesen(); });
-    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
-                     [this](QSerialPort::SerialPortError art) { fehler(art); });
-    QObject::connect(&wache_, &QTimer::timeout, &port_, [this] { nachsehen(); });
-}
-
-QtSerienport::~QtSerienport() {
-    port_.disconnect();
-}
-
 bool QtSerienport::oeffnen(int nummer, std::string_view werte) {
     schliessen();
-    sperrdatei_.clear();
+    fehler_ = {};
     const QString name = namen_.von(nummer);
     const std::optional<Portwerte> portwerte = portwerte_lesen(werte);
     if (name.isEmpty() || !portwerte) {
         return false;
     }
-    port_.setPortName(name);
-    port_.setBaudRate(portwerte->baud);
-    port_.setParity(portwerte->paritaet);
-    port_.setDataBits(portwerte->datenbits);
-    port_.setStopBits(portwerte->stopbits);
-    port_.setFlowControl(QSerialPort::NoFlowControl);
-    const bool offen = port_.open(QIODevice::ReadWrite);
-    if (offen) {
-        wache_.start(wache_ms);
-    } else if (port_.error() == QSerialPort::PermissionError) {
-        sperrdatei_ = sperrdatei_von(port_.portName());
+    auto faden = std::make_unique<Portfaden>(uhr_, [this](const Portnachricht& nachricht) { einwerfen(nachricht); });
+    const QSerialPort::SerialPortError fehler = faden->oeffnen(name, *portwerte);
+    if (fehler == QSerialPort::NoError) {
+        faden_ = std::move(faden);
+    } else {
+        fehler_ = {fehler,
+                   fehler == QSerialPort::PermissionError ? sperrdatei_von(QSerialPort(name).portName()) : QString()};
     }
-    return offen;
+    return offen();
 }
 
 void QtSerienport::schliessen() {
-    wache_.stop();
-    if (port_.isOpen()) {
-        port_.flush();
-        if (port_.bytesToWrite() > 0) {
-            port_.waitForBytesWritten(abschied_ms);
-        }
-        port_.clear();  // else closing waits for a device that takes nothing any more
-        port_.close();
+    faden_.reset();
+    eingang_.clear();
+}
+
+/// By the port's thread.
+void QtSerienport::einwerfen(const Portnachricht& nachricht) {
+    const std::lock_guard schutz(sperre_);
+    eingang_.push_back(nachricht);
+    if (eingang_.size() == 1) {
+        QMetaObject::invokeMethod(
+            &briefkasten_, [this] { austragen(); }, Qt::QueuedConnection);
     }
 }
 
-bool QtSerienport::schreiben(std::string_view bytes) {
-    if (!port_.isOpen() || port_.bytesToWrite() > stau_max) {
-        return false;
+std::optional<Portnachricht> QtSerienport::naechste() {
+    const std::lock_guard schutz(sperre_);
+    if (eingang_.empty()) {
+        return {};
     }
-    const auto laenge = static_cast<qint64>(bytes.size());
-    return port_.write(bytes.data(), laenge) == laenge;
+    const Portnachricht erste = eingang_.front();
+    eingang_.pop_front();
+    return erste;
 }
 
-void QtSerienport::lesen() {
-    const QByteArray bytes = port_.readAll();
-    if (bei_empfang && !bytes.isEmpty()) {
-        bei_empfang({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+void QtSerienport::zustellen(const Portnachricht& nachricht) {
+    const QByteArray& bytes = nachricht.bytes;
+    switch (nachricht.art) {
+        case Portnachricht::Art::bytes:
+            if (bei_empfang) {
+                bei_empfang({bytes.constData(), static_cast<std::size_t>(bytes.size())}, nachricht.stempel);
+            }
+            return;
+        case Portnachricht::Art::ereignis:
+            if (bei_ereignis) {
+                bei_ereignis(nachricht.ereignis);
+            }
+            return;
+        case Portnachricht::Art::verlust:
+            schliessen();
+            if (bei_verlust) {
+                bei_verlust();
+            }
+            return;
     }
 }
 
-void QtSerienport::nachsehen() {
-#ifdef Q_OS_WIN
-    port_.pinoutSignals();  // fails, and says so, on a port that is gone
-#else
-    pollfd stand{port_.handle(), 0, 0};
-    if (::poll(&stand, 1, 0) > 0 && (stand.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0) {
-        fehler(QSerialPort::ResourceError);
-    }
-#endif
-}
-
-void QtSerienport::fehler(QSerialPort::SerialPortError art) {
-    if (art != QSerialPort::ResourceError || !port_.isOpen()) {
+void QtSerienport::austragen() {
+    if (traegt_aus_) {  // a handler shows a dialog, and goes on behind it
         return;
     }
-    wache_.stop();
-    port_.close();
-    if (bei_verlust) {
-        bei_verlust();
+    traegt_aus_ = true;
+    const QPointer<QObject> noch_da(&briefkasten_);
+    while (const std::optional<Portnachricht> eine = naechste()) {
+        zustellen(*eine);
+        if (noch_da.isNull()) {
+            return;
+        }
     }
+    traegt_aus_ = false;
 }
 
 }  // namespace tarvel::qt

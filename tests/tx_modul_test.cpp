@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -50,6 +51,7 @@ struct TxModul : testing::Test {
     std::vector<ereignis_art> gemeldet() {
         std::vector<ereignis_art> alle;
         for (ereignis_art art = 0; art < ereignis_tabelle::zeilen_anzahl; ++art) {
+            t.p.ereignisse[art].aktiv = false;
             if (std::exchange(t.p.ereignisse[art].ereignis_zeit, 0) == t.maschine.jetzt()) {
                 alle.push_back(art);
             }
@@ -223,6 +225,25 @@ TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
     EXPECT_TRUE(t.p.einst.hardware.hw_4x4());
 }
 
+TEST_F(TxModul, WasWaehrendEinesDialogsKamZaehltMitSeinerZeit) {
+    waehlen(modul_4x4::modus_4);
+    t.starten("Runden", "20", {1, 2});
+    sagt("1?\r2?\r");
+    t.maschine.laufen(10);
+    const zeit_ms von = t.maschine.jetzt();
+    t.maschine.uhr_stellen(30000);
+    t.maschine.anschluesse.senden(com, "1?\r2?\r", von + 7000);
+    t.maschine.anschluesse.senden(com, "1?\r5?\r1", von + 15000);
+    t.maschine.anschluesse.senden(com, "?\r", von + 24500);
+    t.maschine.laufen(10);
+    const rundenkonto& konto = t.p.rennen.zustand.konto;
+    EXPECT_EQ(konto.runden(1), 3);
+    EXPECT_EQ(konto.stempel(1, 1), von + 7000);
+    EXPECT_EQ(konto.stempel(1, 2), von + 15000);
+    EXPECT_EQ(konto.stempel(1, 3), von + 24500);
+    EXPECT_EQ(konto.stempel(2, 1), von + 7000);
+}
+
 TEST_F(TxModul, EinTastendruckUndEinPersoenlicherTasterHaltenDasRennenAn) {
     t.p.einst.s6.s6_eingang[5] = 55;
     for (const char* zeile : {"RC2Long\r", "RC2\r", "5?\r"}) {
@@ -234,6 +255,29 @@ TEST_F(TxModul, EinTastendruckUndEinPersoenlicherTasterHaltenDasRennenAn) {
         EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv) << zeile;
         t.p.fenster.entladen(fenstername::bahn1);
     }
+}
+
+TEST_F(TxModul, EinModusDenEsVerpasstHatWirdNochmalsGesetzt) {
+    waehlen(modul_4x4::modus_4);
+    sagt("MODUS\r");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(gesendet(), "<04");
+    sagt("MODUS\rmod4\r");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(gesendet(), "<");
+}
+
+TEST_F(TxModul, DieListeNenntPortsUndIhreEreignisse) {
+    t.maschine.anschluesse.bekannt[com] = {"USB 0403:6001", "/dev/ttyUSB0", "Serial"};
+    t.p.fenster.laden(fenstername::frmMain);
+    t.maschine.laufen(4000);
+    t.maschine.anschluesse.ereignis(com, 7);
+    sagt("mod1\r1@\r");
+    const auto& zeilen = tx.frm_main.List1.zeilen();
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Port: COM5"), 1);
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Typ: USB 0403:6001 Name:/dev/ttyUSB0 DESC: Serial"), 1);
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "EVENT 7"), 1);
+    EXPECT_EQ(zeilen.back(), "Digital IR-Modus") << "and no car 0";
 }
 
 TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {

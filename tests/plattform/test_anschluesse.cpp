@@ -11,6 +11,8 @@ public:
 
     bool oeffnen(int nummer, std::string_view werte) override {
         schliessen();
+        constexpr int belegt = 2;
+        dienst_.fehler_ = dienst_.offen(nummer) ? belegt : 0;
         if (!dienst_.da.contains(nummer) || dienst_.offen(nummer)) {
             return false;
         }
@@ -44,11 +46,23 @@ std::unique_ptr<plattform::serienport> test_anschluesse::erzeugen() {
     return std::make_unique<test_port>(*this);
 }
 
-void test_anschluesse::senden(int nummer, std::string_view bytes) {
+void test_anschluesse::senden(int nummer, std::string_view bytes, zeit_ms stempel) {
     const auto port = offene_.find(nummer);
     if (port != offene_.end() && port->second->bei_empfang) {
-        port->second->bei_empfang(bytes);
+        port->second->bei_empfang(bytes, stempel);
     }
+}
+
+void test_anschluesse::ereignis(int nummer, int ereignis) {
+    const auto port = offene_.find(nummer);
+    if (port != offene_.end() && port->second->bei_ereignis) {
+        port->second->bei_ereignis(ereignis);
+    }
+}
+
+plattform::portangaben test_anschluesse::angaben(int nummer) const {
+    const auto ort = bekannt.find(nummer);
+    return ort == bekannt.end() ? plattform::portangaben{} : ort->second;
 }
 
 void test_anschluesse::abziehen(int nummer) {

@@ -64,7 +64,7 @@ public:
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
     std::function<void()> waehrend_frage;    ///< and while a question is
     std::vector<std::string> sounds;
-    test_anschluesse anschluesse;
+    test_anschluesse anschluesse{*this};
     test_bibliotheken bibliotheken;
     test_druckerport druckerport;
     plattform::groesse_px bildschirm_groesse{1920, 1080};

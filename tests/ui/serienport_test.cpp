@@ -3,8 +3,10 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <algorithm>
+#include <thread>
+#include <vector>
 
-#include "platform_qt/qt_serienport.h"
+#include "platform_qt/qt_dienste.h"
 #include "tests/plattform/test_plattform.h"
 #include "tools/simulator/anschluss.h"
 
@@ -26,7 +28,7 @@ std::string alle_bytes() {
 struct Serienport : testing::Test {
     void SetUp() override {
         ASSERT_EQ(geraet.oeffnen(), "");
-        port->bei_empfang = [this](std::string_view bytes) { empfangen += bytes; };
+        port->bei_empfang = [this](std::string_view bytes, zeit_ms) { empfangen += bytes; };
         port->bei_verlust = [this] { ++verluste; };
     }
     /// What the device has got, once it is as long.
@@ -37,7 +39,8 @@ struct Serienport : testing::Test {
     }
 
     test::test_plattform maschine;
-    qt::QtSerienportDienst dienst{maschine.ordner()};
+    qt::QtUhr uhr;
+    qt::QtSerienportDienst dienst{maschine.ordner(), uhr};
     simulator::anschluss geraet{{maschine.ordner().string(), com, {}, 19200}};
     std::unique_ptr<plattform::serienport> port = dienst.erzeugen();
     std::string empfangen;
@@ -53,11 +56,42 @@ TEST_F(Serienport, JedesByteInBeidenRichtungen) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return empfangen.size() >= 256; }));
     EXPECT_EQ(empfangen, alle_bytes());
 
-    port->bei_empfang = [this](std::string_view) { port->schliessen(); };
+    port->bei_empfang = [this](std::string_view, zeit_ms) { port->schliessen(); };
     geraet.schreiben("x");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !port->offen(); }));
     EXPECT_FALSE(geraet.verbunden());
     EXPECT_EQ(verluste, 0);
+}
+
+/// A dialog, a drawing: the loop stands still, and the device goes on.
+TEST_F(Serienport, BytesHabenDieZeitIhrerAnkunftUndWerZumachtBekommtKeineMehr) {
+    std::vector<zeit_ms> stempel;
+    port->bei_empfang = [&](std::string_view bytes, zeit_ms wann) {
+        empfangen += bytes;
+        stempel.push_back(wann);
+        QTest::qWait(20);  // it shows one itself
+    };
+    for (const bool zumachen : {false, true}) {
+        ASSERT_TRUE(port->oeffnen(com, werte));
+        zeit_ms erstes = 0;
+        std::jthread sender([&] {
+            erstes = uhr.jetzt();
+            for (const char* byte : {"a", "b", "c"}) {
+                geraet.schreiben(byte);
+                std::this_thread::sleep_for(100ms);
+            }
+        });
+        sender.join();
+        if (zumachen) {
+            port->schliessen();
+        }
+        QTest::qWait(100);
+        EXPECT_EQ(empfangen, "abc");
+        ASSERT_EQ(stempel.size(), 3U);
+        for (int i = 0; i < 3 && !zumachen; ++i) {
+            EXPECT_NEAR(static_cast<double>(stempel.at(static_cast<std::size_t>(i)) - erstes), i * 100.0, 50.0);
+        }
+    }
 }
 
 TEST_F(Serienport, WasKeinPortUndKeinWertIstWirdVerweigert) {

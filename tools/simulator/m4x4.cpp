@@ -10,8 +10,27 @@ constexpr int bahnen_im_kontakt = 4;
 constexpr int lampen_eines_starts = 2;
 constexpr int lampen_vor_gruen = 3;
 constexpr zeit_ms gleichzeitig_ms = 50;  // lamps that are lit together are no countdown
-constexpr int tank_ein = 3;              // positions of the sensors on a digital track
-constexpr int tank_aus = 4;
+
+klemme klemme_von(const wagen_ereignis& was) {
+    switch (was.art) {
+        case wagen_art::ueberfahrt:
+            return was.sensor == 1 ? klemme::ziel : was.sensor == 2 ? klemme::sektor_1 : klemme::sektor_2;
+        case wagen_art::box_ein:
+            return klemme::tank_ein;
+        case wagen_art::box_aus:
+            return klemme::tank_aus;
+        case wagen_art::chaos:
+            break;
+    }
+    return klemme::chaos;
+}
+
+/// On a digital track; 0 where there is no sensor.
+int sensorposition(klemme wo) {
+    constexpr int tank_ein = 3;
+    constexpr int tank_aus = 4;
+    return wo == klemme::ziel ? 1 : wo == klemme::tank_ein ? tank_ein : wo == klemme::tank_aus ? tank_aus : 0;
+}
 
 m4x4_einstellung passend(m4x4_einstellung einst) {
     if (einst.rennen.wagen.size() > static_cast<std::size_t>(m4x4::autos)) {
@@ -163,38 +182,42 @@ void m4x4::zeile(const std::string& text) const {
     }
 }
 
-/// In contact mode each lane has its own input; on a digital track a sensor tells its position and the car.
-void m4x4::sensor(int position, int wagen) const {
-    if (modus_ == kontakt) {
-        const int eingang = position == 1 ? wagen : position == tank_aus ? bahnen_im_kontakt + wagen : 0;
-        if (eingang != 0 && wagen <= bahnen_im_kontakt) {
-            zeile(std::to_string(eingang) + "?");
+bool m4x4::kontakt_schliessen(klemme was, int wagen) const {
+    for (std::size_t i = 0; i < einst_.kontakte.size(); ++i) {
+        if (const anschlussstelle& stelle = einst_.kontakte.at(i); stelle.was == was && stelle.nummer == wagen) {
+            zeile(std::to_string(i + 1) + "?");
+            return true;
         }
-    } else if (modus_ != 0) {
+    }
+    return false;
+}
+
+/// On a digital track a sensor tells its position and the car.
+void m4x4::sensor(int position, int wagen) const {
+    if (modus_ != 0) {
         zeile(std::to_string(position) + static_cast<char>('@' - wagen));
     }
 }
 
 void m4x4::wagen_meldet(const wagen_ereignis& was) {
-    switch (was.art) {
-        case wagen_art::ueberfahrt:
-            if (was.sensor == 1) {
-                sensor(1, was.wagen);
-            }
-            return;
-        case wagen_art::box_ein:
-            sensor(tank_ein, was.wagen);
-            return;
-        case wagen_art::box_aus:
-            sensor(tank_aus, was.wagen);
-            return;
-        case wagen_art::chaos:
-            if (strom_da() && chaos_ende_ < 0) {
-                chaos_ende_ = einst_.rennen.chaos_dauer > 0 ? uhr() + einst_.rennen.chaos_dauer : -1;
-                sagen("Chaostaste");
-                taste_druecken(was.wagen % 2 == 0);
-            }
-            return;
+    const klemme wo = klemme_von(was);
+    if (wo == klemme::chaos) {
+        chaos_druecken(was.wagen);
+    } else if (modus_ == kontakt) {
+        kontakt_schliessen(wo, was.wagen);
+    } else if (const int position = sensorposition(wo); position != 0) {
+        sensor(position, was.wagen);
+    }
+}
+
+void m4x4::chaos_druecken(int wagen) {
+    if (!strom_da() || chaos_ende_ >= 0) {
+        return;
+    }
+    chaos_ende_ = einst_.rennen.chaos_dauer > 0 ? uhr() + einst_.rennen.chaos_dauer : -1;
+    sagen("Chaostaste");
+    if (modus_ != kontakt || !kontakt_schliessen(klemme::chaos, wagen)) {
+        taste_druecken(wagen % 2 == 0);
     }
 }
 
@@ -206,7 +229,11 @@ void m4x4::schritt() {
         }
     }
     if (einst_.antippen > 0 && !faehrt_ && lampen_gesehen_ == 0 && modus_ != 0 && uhr() % einst_.antippen == 0) {
-        sensor(1, 1 + getippt_ % (modus_ == kontakt ? bahnen_im_kontakt : autos));
+        if (modus_ == kontakt) {
+            zeile(std::to_string(1 + getippt_ % static_cast<int>(einst_.kontakte.size())) + "?");
+        } else {
+            sensor(1, 1 + getippt_ % autos);
+        }
         ++getippt_;
     }
 }

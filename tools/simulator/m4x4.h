@@ -5,11 +5,34 @@
 #include <string_view>
 
 #include "tools/simulator/geraet.h"
+#include "tools/simulator/kontaktbrett.h"
 
 namespace tarvel::simulator {
 
+/// Contacts by their number, from 1.
+using m4x4_kontakte = std::array<anschlussstelle, 8>;
+/// Four lanes, and a contact at the end of each one's pit.
+inline constexpr m4x4_kontakte m4x4_vier_spuren{{{klemme::ziel, 1},
+                                                 {klemme::ziel, 2},
+                                                 {klemme::ziel, 3},
+                                                 {klemme::ziel, 4},
+                                                 {klemme::tank_aus, 1},
+                                                 {klemme::tank_aus, 2},
+                                                 {klemme::tank_aus, 3},
+                                                 {klemme::tank_aus, 4}}};
+/// Two lanes, each with a pit of its own; and a sector of the first and a button of the driver of the second.
+inline constexpr m4x4_kontakte m4x4_zwei_spuren{{{klemme::ziel, 1},
+                                                 {klemme::ziel, 2},
+                                                 {klemme::tank_ein, 1},
+                                                 {klemme::tank_ein, 2},
+                                                 {klemme::tank_aus, 1},
+                                                 {klemme::tank_aus, 2},
+                                                 {klemme::sektor_1, 1},
+                                                 {klemme::chaos, 2}}};
+
 struct m4x4_einstellung {
-    rennen_einstellung rennen;  ///< cars 1 to 6; in contact mode the track has four lanes
+    rennen_einstellung rennen;                  ///< cars 1 to 6
+    m4x4_kontakte kontakte = m4x4_vier_spuren;  ///< in contact mode
     bool spuren_6 = false;      ///< outputs 5 and 6 are the power of lanes 5 and 6 instead of the red lamps 5 and 4
     bool strom_invers = false;  ///< a lane has power while its output is off
     zeit_ms bootzeit = 0;       ///< ms in which it hears nothing after it was plugged in
@@ -45,8 +68,11 @@ private:
     void lampe_geschaltet(bool an);
     bool ist_lampe(int nummer) const;
     bool strom_da() const;
+    void chaos_druecken(int wagen);
     void losfahren();
     void modus_setzen(int nummer);
+    /// False if there is no such contact.
+    bool kontakt_schliessen(klemme was, int wagen) const;
     void sensor(int position, int wagen) const;
     void zeile(const std::string& text) const;
 

@@ -1,0 +1,64 @@
+#include "hardware/ereignisfolge.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+constexpr ereignis_art erster_chaostaster = 54;  // of a driver
+
+/// The row that it is told in.
+ereignis_art zeile_von(ereignis_art nummer) {
+    return nummer >= erster_chaostaster ? art::chaostaster : nummer;
+}
+
+bool ist_ueberfahrt(ereignis_art nummer) {
+    return std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer) != art::rundenzaehlung.end() ||
+           (nummer >= erste_zwischenzeit && nummer < erste_zwischenzeit + sektorsensoren_max);
+}
+
+}  // namespace
+
+void ereignisfolge::melden(ereignis_art nummer, zeit_ms stempel) {
+    if (folge_.voll()) {
+        folge_.nehmen();
+    }
+    folge_.geben({nummer, stempel});
+    zustellen(false);
+}
+
+void ereignisfolge::abfragen() {
+    zustellen(std::exchange(gewartet_, false));
+    gewartet_ = naechstes_.has_value();
+}
+
+void ereignisfolge::leeren() {
+    folge_.leeren();
+    naechstes_.reset();
+    gewartet_ = false;
+}
+
+/// `verdraengen`: nobody takes what is in the way of the first.
+void ereignisfolge::zustellen(bool verdraengen) {
+    while (naechstes_ || (naechstes_ = folge_.nehmen())) {
+        if (ereignisse_[zeile_von(naechstes_->nummer)].aktiv && !std::exchange(verdraengen, false)) {
+            return;
+        }
+        uebergeben(*std::exchange(naechstes_, std::nullopt));
+    }
+}
+
+void ereignisfolge::uebergeben(const ereignis& eines) {
+    if (ist_ueberfahrt(eines.nummer)) {
+        ereignisse_.ueberfahrt_melden(eines.nummer, eines.stempel);
+    } else {
+        if (eines.nummer >= erster_chaostaster) {
+            ereignisse_.chaos_fahrer[eines.nummer - erster_chaostaster + 1] = true;
+        }
+        ereignisse_.ereignis_melden(zeile_von(eines.nummer), eines.stempel);
+    }
+    rennen_.ereignisse_gemeldet();
+}
+
+}  // namespace tarvel
