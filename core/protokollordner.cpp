@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::chrono::days frist{90};
 constexpr std::size_t protokolle_max = 200;
-constexpr std::size_t eintraege_max = 50000;   // looked at in one start,
-constexpr std::size_t loeschungen_max = 1000;  // and deleted: either takes a blink at most
+constexpr std::size_t eintraege_max = 50000;  // looked at in one start,
+constexpr std::size_t loeschungen_max = 500;  // and deleted: either takes a blink at most
 
 constexpr std::string_view endung = ".txt";
 constexpr std::string_view zeitmuster = "0000-00-00 00-00-00";  // "0" stands for any digit
