@@ -43,8 +43,9 @@ struct messprogramm {
 private:
     tarvel::plattform::dienste eigene_dienste() {
         const tarvel::plattform::dienste d = maschine.dienste();
-        return {d.uhr,    d.zeitgeber,   d.meldungen,    d.klang,       d.kalender, d.bildschirm,  prozess,
-                d.zufall, d.serienports, d.bibliotheken, d.druckerport, d.abtaster, d.dateisystem, d.programmordner};
+        return {d.uhr,         d.zeitgeber, d.meldungen,   d.klang,       d.kalender,
+                d.bildschirm,  prozess,     d.zufall,      d.serienports, d.bibliotheken,
+                d.druckerport, d.abtaster,  d.dateisystem, d.anhaenge,    d.programmordner};
     }
 };
 

@@ -120,6 +120,7 @@ plattform::dienste mitschriftdienste::dienste() {
             echte_.bibliotheken,
             echte_.druckerport,
             echte_.abtaster,
+            echte_.anhaenge,
             echte_.dateisystem,
             echte_.programmordner};
 }

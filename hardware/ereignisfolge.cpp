@@ -54,11 +54,11 @@ void ereignisfolge::uebergeben(const ereignis& eines) {
         ereignisse_.ueberfahrt_melden(eines.nummer, eines.stempel);
     } else {
         if (eines.nummer >= erster_chaostaster) {
-            ereignisse_.chaos_fahrer[eines.nummer - erster_chaostaster + 1] = true;
+            ereignisse_.chaos_knopf(eines.nummer - erster_chaostaster + 1);
         }
         ereignisse_.ereignis_melden(zeile_von(eines.nummer), eines.stempel);
     }
-    rennen_.ereignisse_gemeldet();
+    rennen_.tankflanken_auswerten();
 }
 
 }  // namespace tarvel

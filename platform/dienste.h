@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "platform/abtaster.h"
+#include "platform/anhaengedatei.h"
 #include "platform/bibliothek.h"
 #include "platform/bildschirm.h"
 #include "platform/dateisystem.h"
@@ -33,6 +34,7 @@ struct dienste {
     plattform::druckerport& druckerport;
     plattform::abtaster_dienst& abtaster;
     const plattform::dateisystem& dateisystem;
+    plattform::anhaenge_dienst& anhaenge;
     std::filesystem::path programmordner;  ///< all files of the program lie below it
 };
 

@@ -37,8 +37,8 @@ double QtZufall::bruchteil() {
 }
 
 plattform::dienste QtDienste::dienste() {
-    return {uhr_,    zeitgeber_,   meldungen_,    klang_,       kalender_, bildschirm_,  prozess_,
-            zufall_, serienports_, bibliotheken_, druckerport_, abtaster_, dateisystem_, ordner_};
+    return {uhr_,         zeitgeber_,    meldungen_,   klang_,    kalender_,    bildschirm_, prozess_, zufall_,
+            serienports_, bibliotheken_, druckerport_, abtaster_, dateisystem_, anhaenge_,   ordner_};
 }
 
 }  // namespace tarvel::qt

@@ -3,6 +3,7 @@
 #include "platform/dienste.h"
 #include "platform_qt/druckerport.h"
 #include "platform_qt/qt_abtaster.h"
+#include "platform_qt/qt_anhaengedatei.h"
 #include "platform_qt/qt_bibliothek.h"
 #include "platform_qt/qt_dateisystem.h"
 #include "platform_qt/qt_klang.h"
@@ -49,6 +50,7 @@ private:
     QtProzess prozess_;
     QtZufall zufall_;
     QtDateisystem dateisystem_;
+    QtAnhaengeDienst anhaenge_;
     std::filesystem::path ordner_;
     QtKlang klang_{ordner_};
     QtSerienportDienst serienports_{ordner_, uhr_};

@@ -375,8 +375,9 @@ private:
 
     plattform::dienste eigene_dienste() {
         const plattform::dienste d = maschine_.dienste();
-        return {d.uhr,    d.zeitgeber,   meldungen_,     d.klang,       d.kalender, d.bildschirm,  prozess_,
-                d.zufall, d.serienports, d.bibliotheken, d.druckerport, d.abtaster, d.dateisystem, d.programmordner};
+        return {d.uhr,         d.zeitgeber, meldungen_,    d.klang,       d.kalender,
+                d.bildschirm,  prozess_,    d.zufall,      d.serienports, d.bibliotheken,
+                d.druckerport, d.abtaster,  d.dateisystem, d.anhaenge,    d.programmordner};
     }
 };
 

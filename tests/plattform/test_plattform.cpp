@@ -73,8 +73,8 @@ test_plattform::~test_plattform() {
 }
 
 plattform::dienste test_plattform::dienste() {
-    return {*this, *this,       *this,        *this,       kalender_, *this, *this,
-            *this, anschluesse, bibliotheken, druckerport, *this,     *this, ordner_};
+    return {*this,       *this,        *this,       *this, kalender_, *this,           *this,  *this,
+            anschluesse, bibliotheken, druckerport, *this, *this,     anhaengedateien, ordner_};
 }
 
 void test_plattform::laufen(zeit_ms dauer) {

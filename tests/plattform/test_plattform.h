@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/dienste.h"
+#include "tests/plattform/test_anhaengen.h"
 #include "tests/plattform/test_anschluesse.h"
 #include "tests/plattform/test_bibliotheken.h"
 
@@ -67,6 +68,7 @@ public:
     test_anschluesse anschluesse{*this};
     test_bibliotheken bibliotheken;
     test_druckerport druckerport;
+    test_anhaenge_dienst anhaengedateien;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
     std::string nicht_schreibbar;  ///< name of a file, without its folder, that no writer can replace

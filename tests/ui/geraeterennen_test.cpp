@@ -81,8 +81,9 @@ struct Geraeterennen : testing::Test {
     static plattform::dienste dienste(qt::QtDienste& echt, test::test_plattform& test) {
         const plattform::dienste e = echt.dienste();
         const plattform::dienste t = test.dienste();
-        return {e.uhr,    e.zeitgeber,   t.meldungen,    t.klang,       t.kalender, t.bildschirm,  t.prozess,
-                t.zufall, e.serienports, e.bibliotheken, e.druckerport, e.abtaster, t.dateisystem, test.ordner()};
+        return {e.uhr,         e.zeitgeber, t.meldungen,   t.klang,       t.kalender,
+                t.bildschirm,  t.prozess,   t.zufall,      e.serienports, e.bibliotheken,
+                e.druckerport, e.abtaster,  t.dateisystem, e.anhaenge,    test.ordner()};
     }
     void SetUp() override {
         p.starten();

@@ -52,7 +52,7 @@ TEST(RaceControlRennen, JedeRundeAufDieMillisekunde) {
     const plattform::dienste e = echt.dienste();
     const plattform::dienste d = maschine.dienste();
     programm p({e.uhr, e.zeitgeber, d.meldungen, d.klang, d.kalender, d.bildschirm, d.prozess, d.zufall, e.serienports,
-                e.bibliotheken, d.druckerport, d.abtaster, d.dateisystem, maschine.ordner()});
+                e.bibliotheken, d.druckerport, d.abtaster, d.dateisystem, e.anhaenge, maschine.ordner()});
     simulator::rc_box_einstellung einst;
     einst.rennen.wagen.resize(4);
     for (simulator::wagen_einstellung& w : einst.rennen.wagen) {

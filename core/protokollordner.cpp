@@ -1,0 +1,106 @@
+#include "core/protokollordner.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+#include <vector>
+
+#include "core/ordnerblick.h"
+#include "core/text.h"
+
+namespace fs = std::filesystem;
+
+namespace tarvel {
+namespace {
+
+constexpr std::chrono::days frist{90};
+constexpr std::size_t protokolle_max = 200;
+constexpr std::size_t eintraege_max = 50000;  // looked at in one start,
+constexpr std::size_t loeschungen_max = 500;  // and deleted: either takes a blink at most
+
+constexpr std::string_view endung = ".txt";
+constexpr std::string_view zeitmuster = "0000-00-00 00-00-00";  // "0" stands for any digit
+constexpr char vor_nummer = '_';                                // behind the "." in the order of names
+constexpr int nummer_max = 9999;
+
+bool ist_ziffer(char zeichen) {
+    return zeichen >= '0' && zeichen <= '9';
+}
+
+bool ist_protokollname(std::string_view name) {
+    if (name.size() < zeitmuster.size() + endung.size() || !name.ends_with(endung)) {
+        return false;
+    }
+    const std::string_view nummer = name.substr(zeitmuster.size(), name.size() - zeitmuster.size() - endung.size());
+    const bool mit_zeit = std::equal(zeitmuster.begin(), zeitmuster.end(), name.begin(),
+                                     [](char soll, char ist) { return soll == '0' ? ist_ziffer(ist) : ist == soll; });
+    return mit_zeit && (nummer.empty() || (nummer.size() > 1 && nummer.front() == vor_nummer &&
+                                           std::all_of(nummer.begin() + 1, nummer.end(), ist_ziffer)));
+}
+
+std::string tag_text(std::chrono::year_month_day tag) {
+    return ziffern(static_cast<int>(tag.year()), 4) + "-" + ziffern(static_cast<unsigned>(tag.month()), 2) + "-" +
+           ziffern(static_cast<unsigned>(tag.day()), 2);
+}
+
+std::chrono::year_month_day tag_von(const plattform::datum_uhrzeit& moment) {
+    return std::chrono::year(moment.jahr) / moment.monat / moment.tag;
+}
+
+std::string zeit_text(const plattform::datum_uhrzeit& moment) {
+    return tag_text(tag_von(moment)) + " " + ziffern(moment.stunde, 2) + "-" + ziffern(moment.minute, 2) + "-" +
+           ziffern(moment.sekunde, 2);
+}
+
+/// From the oldest to the newest.
+std::vector<std::string> protokolle(const fs::path& ort) {
+    std::vector<std::string> namen;
+    std::error_code fehler;
+    std::size_t gesehen = 0;
+    for (fs::directory_iterator eintrag(ort, fehler), schluss; !fehler && eintrag != schluss && gesehen < eintraege_max;
+         eintrag.increment(fehler), ++gesehen) {
+        std::error_code egal;
+        std::string name = pfad_als_utf8(eintrag->path().filename());
+        if (ist_protokollname(name) && fs::is_regular_file(eintrag->symlink_status(egal))) {
+            namen.push_back(std::move(name));
+        }
+    }
+    std::sort(namen.begin(), namen.end());
+    return namen;
+}
+
+std::string im_ordner(std::string_view name) {
+    return std::string(protokoll_ordner) + "\\" + std::string(name);
+}
+
+}  // namespace
+
+std::string neuer_protokollname(const dateien& ablage, const plattform::datum_uhrzeit& jetzt) {
+    const std::string zeit = zeit_text(jetzt);
+    std::string name = zeit + std::string(endung);
+    std::error_code fehler;
+    for (int nummer = 2; fs::exists(fs::symlink_status(ablage.pfad(im_ordner(name)), fehler)) && nummer <= nummer_max;
+         ++nummer) {
+        name = zeit + vor_nummer + ziffern(nummer, 4) + std::string(endung);
+    }
+    return name;
+}
+
+void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch) {
+    if (!ablage.ist_eigener_ordner(protokoll_ordner)) {
+        return;
+    }
+    const std::vector<std::string> namen = protokolle(ablage.pfad(protokoll_ordner));
+    const std::string erster_tag = tag_text(std::chrono::sys_days(tag_von(heute)) - frist);
+    const auto zu_alt = std::lower_bound(namen.begin(), namen.end(), erster_tag) - namen.begin();
+    const std::size_t zu_viele = namen.size() - std::min(namen.size(), protokolle_max);
+    const std::size_t anzahl = std::min(std::max(static_cast<std::size_t>(zu_alt), zu_viele), loeschungen_max);
+    for (std::size_t nr = 0; nr < anzahl; ++nr) {
+        if (namen[nr] != in_gebrauch) {
+            ablage.loeschen(im_ordner(namen[nr]));
+        }
+    }
+}
+
+}  // namespace tarvel
