@@ -14,29 +14,19 @@
 #include "hardware/rennverbindung.h"
 #include "hardware/tx_datei.h"
 #include "hardware/tx_suche.h"
+#include "hardware/tx_zuschauer.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
 
 namespace tarvel {
-
-/// A window that follows what the module does.
-class tx_zuschauer : public schnittstelle {
-public:
-    /// A line for the window's list.
-    virtual void notiert(const std::string& /*zeile*/) {}
-    /// A sensor, and the event that it stands for; 0 none.
-    virtual void ausgeloest(const tx::sensor& /*was*/, ereignis_art /*nummer*/) {}
-    /// Connection, mode, firmware or an output is another one.
-    virtual void stand_geaendert() {}
-};
 
 /// The 4x4 USB module. It has no clock: an event has the time at which its line arrives.
 class tx_modul final : public messgeraet {
 public:
     /// A module that has not told its version by then is none.
     static constexpr dauer_ms frist{6000};
-    static constexpr int kontakt_modus = 4;
-    static constexpr int lampen = 5;
+    static constexpr int kontakt_modus = tx::kontakt_modus;
+    static constexpr int lampen = tx::lampen;
 
     struct umgebung {
         const einstellungen& einst;
