@@ -120,8 +120,8 @@ plattform::dienste mitschriftdienste::dienste() {
             echte_.bibliotheken,
             echte_.druckerport,
             echte_.abtaster,
-            echte_.anhaenge,
             echte_.dateisystem,
+            echte_.anhaenge,
             echte_.programmordner};
 }
 

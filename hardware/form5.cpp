@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "hardware/tx_modul.h"
+
 namespace tarvel {
 namespace {
 

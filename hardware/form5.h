@@ -7,7 +7,8 @@
 
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
-#include "hardware/tx_modul.h"
+#include "hardware/tx_zuschauer.h"
+#include "platform/zeitgeber.h"
 
 namespace tarvel {
 

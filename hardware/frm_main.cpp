@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "hardware/tx_modul.h"
+
 namespace tarvel {
 namespace {
 

@@ -11,7 +11,7 @@
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 #include "hardware/geraetefenster.h"
-#include "hardware/tx_modul.h"
+#include "hardware/tx_zuschauer.h"
 #include "platform/dienste.h"
 
 namespace tarvel {
@@ -50,7 +50,7 @@ public:
     std::array<bild, aufbauten> Picture1;
     rahmen Frame_ausgang;
     bezeichnung Label_ampel;
-    std::array<haken, tx_modul::lampen> chkTraffic;
+    std::array<haken, tx::lampen> chkTraffic;
     haken chkTrafficAll;
     bezeichnung Label_strom;
     spuren<haken> chkBahnStrom;
@@ -68,7 +68,7 @@ public:
     befehl Command4;  ///< closes
 
     /// The mode, 1 to 4, where the module is not the device in force.
-    int modus_vorgewaehlt = tx_modul::kontakt_modus;
+    int modus_vorgewaehlt = tx::kontakt_modus;
     std::function<void(int)> modus_vormerken;
 
     void laden() override;

@@ -14,21 +14,11 @@
 #include "hardware/rennverbindung.h"
 #include "hardware/tx_datei.h"
 #include "hardware/tx_suche.h"
+#include "hardware/tx_zuschauer.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
 
 namespace tarvel {
-
-/// A window that follows what the module does.
-class tx_zuschauer : public schnittstelle {
-public:
-    /// A line for the window's list.
-    virtual void notiert(const std::string& /*zeile*/) {}
-    /// A sensor, as the mode has it: group 0 is that of the contacts. And the event that it stands for; 0 none.
-    virtual void ausgeloest(const tx::sensor& /*was*/, ereignis_art /*nummer*/) {}
-    /// Connection, mode, firmware or an output is another one.
-    virtual void stand_geaendert() {}
-};
 
 /// What the module has told of itself since it was looked for.
 struct tx_auskunft {
@@ -40,13 +30,13 @@ struct tx_auskunft {
     int ausgaenge = 0;             ///< how many outputs it has
 };
 
-/// The 4x4 USB module. It has no clock: an event has the time at which its line is there.
+/// The 4x4 USB module. It has no clock: an event has the time at which its line arrives.
 class tx_modul final : public messgeraet {
 public:
     /// A module that has not told its version by then is none.
     static constexpr dauer_ms frist{6000};
-    static constexpr int kontakt_modus = 4;
-    static constexpr int lampen = 5;
+    static constexpr int kontakt_modus = tx::kontakt_modus;
+    static constexpr int lampen = tx::lampen;
 
     struct umgebung {
         const einstellungen& einst;

@@ -9,7 +9,9 @@
 namespace tarvel::tx {
 
 inline constexpr int ausgang_max = 10;  ///< outputs count from 1
-inline constexpr char anmelden = '-';   ///< command: greet anew
+inline constexpr int lampen = 5;
+inline constexpr int kontakt_modus = 4;  ///< its inputs are contacts, on an analog track
+inline constexpr char anmelden = '-';    ///< command: greet anew
 inline constexpr char wartung = '=';
 inline constexpr char firmware_frage = 'v';
 inline constexpr char gruss_antwort = '+';

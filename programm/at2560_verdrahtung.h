@@ -13,6 +13,7 @@ public:
     at2560_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return at; }
+    std::vector<fensterlogik*> fenster() override { return {&uart_einstellungen, &uart_profildatei}; }
     void beenden() override { uart_einstellungen.zugang = nullptr; }
 
     at2560 at;

@@ -13,6 +13,7 @@ public:
     control_unit_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return cu; }
+    std::vector<fensterlogik*> fenster() override { return {&cu_eigenschaften}; }
 
     control_unit cu;
     tarvel::cu_eigenschaften cu_eigenschaften;

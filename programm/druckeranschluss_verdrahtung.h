@@ -12,6 +12,7 @@ public:
     druckeranschluss_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return anschluss; }
+    std::vector<fensterlogik*> fenster() override { return {&drucker_fenster}; }
     void beenden() override { drucker_fenster.zugang = nullptr; }
 
     druckeranschluss anschluss;

@@ -13,6 +13,7 @@ class dateien;
 class einstellungsfenster;
 class einstellungspflege;
 class ereignis_tabelle;
+class fensterlogik;
 class fensterregister;
 class form1;
 class messgeraete;
@@ -39,6 +40,7 @@ struct geraete_umgebung {
 class geraeteverdrahtung : public schnittstelle {
 public:
     virtual messgeraet& geraet() = 0;
+    virtual std::vector<fensterlogik*> fenster() = 0;
     /// The program ends: its windows close for good.
     virtual void beenden() {}
 };

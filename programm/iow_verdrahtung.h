@@ -12,6 +12,7 @@ public:
     iow_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return iow; }
+    std::vector<fensterlogik*> fenster() override { return {&usbtest}; }
     void beenden() override { usbtest.zugang = nullptr; }
 
     iow_40 iow;

@@ -40,6 +40,19 @@ public:
         return *gefunden;
     }
 
+    /// One of their windows, by its type: who draws it need not know its device.
+    template <class Fenster>
+    Fenster& fenster() {
+        Fenster* gefunden = nullptr;
+        for (const auto& eines : alle_) {
+            for (fensterlogik* logik : eines.teile->fenster()) {
+                gefunden = gefunden == nullptr ? dynamic_cast<Fenster*>(logik) : gefunden;
+            }
+        }
+        assert(gefunden != nullptr);
+        return *gefunden;
+    }
+
     void wartehinweis(bool an) override;
     void port_fehlt(const std::string& meldung) override;
     void nicht_zu_oeffnen(messgeraet& geraet, const std::string& meldung) override;

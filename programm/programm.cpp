@@ -50,7 +50,7 @@ programm::programm(const plattform::dienste& d)
                                                               fenster, form1, optionen_->einstellungsfenster,
                                                               rennen_->rennen, pflege_})),
       protokoll_(std::make_unique<tarvel::rennprotokoll>(
-          tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, d.uhr, d.kalender})),
+          tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, ablage, txt, d})),
       form3(start_->form3),
       update_form(start_->update_form),
       rennen(rennen_->rennen),
@@ -85,7 +85,9 @@ programm::programm(const plattform::dienste& d)
     einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
 }
 
-programm::~programm() = default;
+programm::~programm() {
+    rennen.fenster.fuehrung = nullptr;
+}
 
 void programm::hauptfenster_verbinden() {
     form1.einstellungen_speichern = [this] { pflege_.speichern_oeffnen(); };
@@ -248,6 +250,7 @@ bool programm::starten() {
     }
     schreibreste_loeschen(ablage);
     papierkorb_leeren(ablage);
+    rennprotokoll.aufraeumen();
     tvk_ini_laden(ablage, txt.werbetext);
     fahrzeugliste_laden();
     fahrerliste_laden();

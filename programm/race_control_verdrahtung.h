@@ -12,6 +12,7 @@ public:
     race_control_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return box; }
+    std::vector<fensterlogik*> fenster() override { return {&rc_einstellungen}; }
     void beenden() override { rc_einstellungen.zugang = nullptr; }
 
     rc_verbindung verbindung;

@@ -2,30 +2,55 @@
 
 #include <utility>
 
+#include "core/protokollordner.h"
 #include "core/zeit.h"
 
 namespace tarvel {
 
 void rennprotokoll::beginnen() {
     mitschrift& protokoll = um_.rennen.protokoll;
-    if (senke == nullptr || protokoll.liest()) {
+    if (!fuehren || protokoll.liest()) {
         return;
     }
-    const zeit_ms jetzt = um_.uhr.jetzt();
-    protokoll.schreiben(*senke, jetzt, [&uhr = um_.uhr] { return uhr.jetzt(); });
-    for (const std::string& zeile :
-         kopf_schreiben({uhrzeit_text(um_.kalender.jetzt()), jetzt, um_.datei.schreiben(), um_.param, um_.belegung})) {
-        protokoll.kopfzeile(zeile);
+    dateiname_ = std::string(protokoll_ordner) + "\\" + neuer_protokollname(um_.ablage, um_.dienste.kalender.jetzt());
+    datei_ = um_.dienste.anhaenge.oeffnen(um_.ablage.pfad(dateiname_));
+    if (datei_ == nullptr) {
+        return;
     }
+    const zeit_ms jetzt = um_.dienste.uhr.jetzt();
+    protokoll.schreiben(*this, jetzt, [&uhr = um_.dienste.uhr] { return uhr.jetzt(); });
+    kopf_anhaengen(jetzt);
     um_.rennen.zeit.stand_mitschreiben();
     um_.ereignisse.stand_mitschreiben();
     um_.rennen.tanken.stand_mitschreiben();
 }
 
-void rennprotokoll::abschliessen() {
-    if (um_.rennen.protokoll.schreibt()) {
-        um_.rennen.protokoll.aufhoeren();
+void rennprotokoll::kopf_anhaengen(zeit_ms beginn) {
+    const std::string zeitpunkt = uhrzeit_text(um_.dienste.kalender.jetzt());
+    for (const std::string& zeile :
+         kopf_schreiben({zeitpunkt, beginn, um_.datei.schreiben(), um_.param, um_.belegung})) {
+        um_.rennen.protokoll.kopfzeile(zeile);
     }
+}
+
+void rennprotokoll::anhaengen(std::string_view zeile) {
+    datei_->anhaengen(zeile);
+}
+
+void rennprotokoll::abschliessen() {
+    if (!fuehren || um_.rennen.protokoll.liest()) {
+        return;
+    }
+    um_.rennen.protokoll.aufhoeren();
+    const bool ganz = datei_ != nullptr && !datei_->gescheitert();
+    datei_.reset();
+    if (!ganz && !std::exchange(gewarnt_, true)) {
+        um_.dienste.meldungen.zeigen(um_.rennen.bahn1.wort.ohne_protokoll, um_.txt.titel[1]);
+    }
+}
+
+void rennprotokoll::aufraeumen() const {
+    protokolle_aufraeumen(um_.ablage, um_.dienste.kalender.jetzt(), "");
 }
 
 rennprotokoll::ausgang rennprotokoll::nachspielen(std::string_view inhalt) {

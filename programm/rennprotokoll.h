@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,7 +14,7 @@
 namespace tarvel {
 
 /// The log of each race: begins it as the race window opens, and can do it again.
-class rennprotokoll final : public protokollfuehrung {
+class rennprotokoll final : public protokollfuehrung, private protokollsenke {
 public:
     struct umgebung {
         tarvel::rennen& rennen;
@@ -22,17 +22,25 @@ public:
         tastenbelegung& belegung;
         ereignis_tabelle& ereignisse;
         einstellungsdatei& datei;
-        const plattform::uhr& uhr;
-        const plattform::kalender& kalender;
+        const dateien& ablage;
+        const texte& txt;
+        plattform::dienste dienste;
     };
 
     explicit rennprotokoll(const umgebung& um) : um_(um) {}
+    rennprotokoll(const rennprotokoll&) = delete;
+    rennprotokoll& operator=(const rennprotokoll&) = delete;
+    ~rennprotokoll() override { um_.rennen.protokoll.aufhoeren(); }
 
-    /// Where the lines go; null for nowhere. Must outlive the race.
-    protokollsenke* senke = nullptr;
+    bool fuehren = true;  ///< off: races leave no log
 
     void beginnen() override;
+    /// Tells if the log could not be kept to its end.
     void abschliessen() override;
+    /// Deletes the logs that nobody needs any more.
+    void aufraeumen() const;
+    /// File of the log that is kept now, or was kept last; empty without one.
+    const std::string& dateiname() const { return dateiname_; }
 
     enum class ausgang {
         ganz,         ///< to the last line, and all as it was written
@@ -47,7 +55,13 @@ public:
     std::optional<mitschrift::unterschied> abweichung() const { return um_.rennen.protokoll.abweichung(); }
 
 private:
+    void anhaengen(std::string_view zeile) override;
+    void kopf_anhaengen(zeit_ms beginn);
+
     umgebung um_;
+    std::unique_ptr<plattform::anhaengedatei> datei_;
+    std::string dateiname_;
+    bool gewarnt_ = false;  ///< has told of a log that could not be kept
 };
 
 }  // namespace tarvel

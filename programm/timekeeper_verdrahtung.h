@@ -12,6 +12,7 @@ public:
     timekeeper_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return tk; }
+    std::vector<fensterlogik*> fenster() override { return {&tk_einstellungen}; }
     void beenden() override { tk_einstellungen.zugang = nullptr; }
 
     tarvel::tk_einstellungen tk_einstellungen;  ///< has the words that the device needs

@@ -15,6 +15,7 @@ public:
     tx_verdrahtung(const geraete_umgebung& um, messgeraete& alle);
 
     messgeraet& geraet() override { return modul; }
+    std::vector<fensterlogik*> fenster() override { return {&form5, &frm_main, &s6_fragefenster}; }
     void beenden() override;
     /// The start waits for the operator's answer.
     void startmodus_fragen();

@@ -118,7 +118,9 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
                bahn.wort.ohne_messung);
     texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
-    return texte.text("ohne Ende", bahn.wort.ohne_ende);
+    texte.text("ohne Ende", bahn.wort.ohne_ende);
+    return texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
+                      bahn.wort.ohne_protokoll);
 }
 
 void rennansicht::oeffnen() {

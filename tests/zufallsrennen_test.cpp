@@ -1,8 +1,6 @@
 // Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
 // hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
 
-#include <cstdlib>
-#include <fstream>
 #include <random>
 
 #include "competition/einfahren.h"
@@ -34,7 +32,6 @@ class zufallsrennen {
 public:
     explicit zufallsrennen(unsigned saat) : z_(saat) {
         t_.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, strom_);
-        t_.p.rennprotokoll.senke = &protokoll_;
     }
 
     void fahren() {
@@ -59,20 +56,12 @@ public:
 private:
     static constexpr int laengstens_ms = 300000;
 
-    /// The log of a race, in memory.
-    struct protokoll final : protokollsenke {
-        std::string inhalt;
-        void anhaengen(std::string_view zeile) override { inhalt += zeile; }
-    };
-
     /// What was written of the race gives it once more.
     void nachrechnen() {
+        const std::string protokoll = t_.maschine.datei_lesen(t_.p.rennprotokoll.dateiname());
         test::testprogramm zweites;
-        const auto wie = zweites.p.rennprotokoll.nachspielen(protokoll_.inhalt);
+        const auto wie = zweites.p.rennprotokoll.nachspielen(protokoll);
         const auto unterschied = zweites.p.rennprotokoll.abweichung();
-        if (std::getenv("PROT") != nullptr) {
-            std::ofstream(std::getenv("PROT")) << protokoll_.inhalt;
-        }
         ASSERT_FALSE(unterschied) << unterschied->zeile << ": " << unterschied->geschrieben << " / "
                                   << unterschied->stattdessen;
         ASSERT_EQ(wie, rennprotokoll::ausgang::ganz);
@@ -298,7 +287,6 @@ private:
     }
 
     std::mt19937 z_;
-    protokoll protokoll_;
     test::testprogramm t_;
     test::vereinsabend abend_{t_.p};
     stromstand strom_;

@@ -123,7 +123,7 @@ QWidget* FrmMainFenster::ausgangsgruppe() {
     raster->setContentsMargins(enger);
     raster->addWidget(binder().label(logik_.Label_ampel, "Label_ampel"), 0, 0, 1, 3);
     raster->addWidget(binder().kasten(logik_.chkTrafficAll, "chkTrafficAll"), 0, 3, 1, 3);
-    for (int i = 0; i < tx_modul::lampen; ++i) {
+    for (int i = 0; i < tx::lampen; ++i) {
         raster->addWidget(
             binder().kasten(logik_.chkTraffic.at(static_cast<std::size_t>(i)), "chkTraffic_" + QString::number(i)), 1,
             i);

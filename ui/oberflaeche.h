@@ -1,15 +1,18 @@
 #pragma once
 
-#include "programm/at2560_verdrahtung.h"
-#include "programm/control_unit_verdrahtung.h"
-#include "programm/druckeranschluss_verdrahtung.h"
+#include "hardware/cu_eigenschaften.h"
+#include "hardware/drucker_fenster.h"
+#include "hardware/form5.h"
+#include "hardware/frm_main.h"
+#include "hardware/rc_einstellungen.h"
+#include "hardware/s6_fragefenster.h"
+#include "hardware/tk_einstellungen.h"
+#include "hardware/uart_einstellungen.h"
+#include "hardware/uart_profildatei.h"
+#include "hardware/usbtest.h"
 #include "programm/fluegel.h"
-#include "programm/iow_verdrahtung.h"
 #include "programm/messgeraete.h"
 #include "programm/programm.h"
-#include "programm/race_control_verdrahtung.h"
-#include "programm/timekeeper_verdrahtung.h"
-#include "programm/tx_verdrahtung.h"
 #include "ui/auswertung_fenster.h"
 #include "ui/bahn1_fenster.h"
 #include "ui/bestzeiten_fenster.h"
@@ -70,24 +73,23 @@ public:
     SpaetesFenster<SpeichernFenster> rundenspeichern{p_.rundenspeichern, fenster, &auswertung};
     SpaetesFenster<BestzeitenFenster> bestzeiten{p_.beste_zeiten_fenster, fenster, &auswertung};
     SpaetesFenster<TastaturFenster> tastatur{p_.tastaturbelegung, fenster, &form1};
-    SpaetesFenster<CuFenster> cu{p_.geraete.von<control_unit_verdrahtung>().cu_eigenschaften, fenster, &form1};
+    SpaetesFenster<CuFenster> cu{p_.geraete.fenster<tarvel::cu_eigenschaften>(), fenster, &form1};
     SpaetesFenster<SpeichernFenster> speichern{p_.speichernfenster, fenster, &form1};
     SpaetesFenster<EinstellungenFenster> einstellungen{p_.einstellungsfenster, p_.ablage, fenster, &form1};
     SpaetesFenster<BestzeitverwaltungFenster> bestzeitverwaltung{p_.beste_zeiten_verwaltung, fenster, &einstellungen};
-    SpaetesFenster<UartEinstellungenFenster> uart_einstellungen{p_.geraete.von<at2560_verdrahtung>().uart_einstellungen,
+    SpaetesFenster<UartEinstellungenFenster> uart_einstellungen{p_.geraete.fenster<tarvel::uart_einstellungen>(),
                                                                 fenster, &einstellungen};
-    SpaetesFenster<RcFenster> rc{p_.geraete.von<race_control_verdrahtung>().rc_einstellungen, fenster, &einstellungen};
-    SpaetesFenster<TimekeeperFenster> timekeeper{p_.geraete.von<timekeeper_verdrahtung>().tk_einstellungen, fenster,
+    SpaetesFenster<RcFenster> rc{p_.geraete.fenster<tarvel::rc_einstellungen>(), fenster, &einstellungen};
+    SpaetesFenster<TimekeeperFenster> timekeeper{p_.geraete.fenster<tarvel::tk_einstellungen>(), fenster,
                                                  &einstellungen};
-    SpaetesFenster<UsbtestFenster> usbtest{p_.geraete.von<iow_verdrahtung>().usbtest, fenster, &einstellungen};
-    SpaetesFenster<DruckerFenster> druckeranschluss{p_.geraete.von<druckeranschluss_verdrahtung>().drucker_fenster,
-                                                    fenster, &einstellungen};
-    SpaetesFenster<FrmMainFenster> frm_main{p_.geraete.von<tx_verdrahtung>().frm_main, p_.ablage, fenster,
-                                            &einstellungen};
-    SpaetesFenster<Form5Fenster> form5{p_.geraete.von<tx_verdrahtung>().form5, fenster, &form1};
-    SpaetesFenster<S6FrageFenster> s6_frage{p_.geraete.von<tx_verdrahtung>().s6_fragefenster, fenster, &form1};
-    SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.von<at2560_verdrahtung>().uart_profildatei,
-                                                            fenster, &form1};
+    SpaetesFenster<UsbtestFenster> usbtest{p_.geraete.fenster<tarvel::usbtest>(), fenster, &einstellungen};
+    SpaetesFenster<DruckerFenster> druckeranschluss{p_.geraete.fenster<tarvel::drucker_fenster>(), fenster,
+                                                    &einstellungen};
+    SpaetesFenster<FrmMainFenster> frm_main{p_.geraete.fenster<tarvel::frm_main>(), p_.ablage, fenster, &einstellungen};
+    SpaetesFenster<Form5Fenster> form5{p_.geraete.fenster<tarvel::form5>(), fenster, &form1};
+    SpaetesFenster<S6FrageFenster> s6_frage{p_.geraete.fenster<tarvel::s6_fragefenster>(), fenster, &form1};
+    SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.fenster<tarvel::uart_profildatei>(), fenster,
+                                                            &form1};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};

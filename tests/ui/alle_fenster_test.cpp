@@ -35,7 +35,7 @@ protected:
         t.p.einstellungsfenster.fahrerseite.namen.auswaehlen(0);
         t.p.einstellungsfenster.fahrerseite.anderes_bild.klicken();
         std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
-        t.p.geraete.von<at2560_verdrahtung>().uart_profildatei.oeffnen("klub.uart");
+        t.p.geraete.fenster<uart_profildatei>().oeffnen("klub.uart");
         t.p.fenster.zeigen(fenstername::timekeeper);
         for (const char* zeile : {"iow_einrichten", "lpt_einrichten"}) {
             std::get<befehl>(t.p.einstellungsfenster.zeile(zeile).element).klicken();

@@ -2,6 +2,7 @@
 
 #include "hardware/iow_profil.h"
 #include "programm/at2560_verdrahtung.h"
+#include "programm/iow_verdrahtung.h"
 #include "programm/race_control_verdrahtung.h"
 #include "programm/tx_verdrahtung.h"
 #include "tests/plattform/test_ftdi.h"
