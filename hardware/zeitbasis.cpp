@@ -46,8 +46,9 @@ void zeitbasis::tun(eingang was, zeit_ms geraetezeit, double gang) {
 }
 
 void zeitbasis::stand_mitschreiben() {
-    protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(eingang::stand)),
-                          {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_, zaehlt_ ? 1 : 0});
+    protokoll_->geschieht(
+        eingang_.at(static_cast<std::size_t>(eingang::stand)),
+        {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_, zaehlt_ ? 1 : 0});
 }
 
 void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {

@@ -113,7 +113,7 @@ struct bahn1 {
         std::string ohne_messung;   ///< asks whether to start without the timing device
         std::string ohne_ergebnis;  ///< asks whether to stop a race that runs
         std::string ohne_protokoll;
-        std::string ohne_ende;      ///< what is driven for, where nothing is
+        std::string ohne_ende;  ///< what is driven for, where nothing is
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -135,7 +135,8 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     EXPECT_EQ(brett.ausgang[1], 0xFE) << "that pin, although another one has the same meaning";
     w.Command8.klicken();
     const auto& dateien = w.dateiliste.zeilen();
-    w.dateiliste.auswaehlen(static_cast<int>(std::find(dateien.begin(), dateien.end(), "tvk_usb.iow") - dateien.begin()));
+    w.dateiliste.auswaehlen(
+        static_cast<int>(std::find(dateien.begin(), dateien.end(), "tvk_usb.iow") - dateien.begin()));
     w.Command10.klicken();
     EXPECT_EQ(t.p.einst.iow.iow_datei, "tvk_usb.iow") << "it is in force";
     EXPECT_EQ(w.combo_c[2].platz(), 3);

@@ -30,9 +30,7 @@ struct stromstand : ausgabe_geraet {
 
 class zufallsrennen {
 public:
-    explicit zufallsrennen(unsigned saat) : z_(saat) {
-        t_.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, strom_);
-    }
+    explicit zufallsrennen(unsigned saat) : z_(saat) { t_.p.ausgaben.anschliessen(ausgabe_platz::timekeeper, strom_); }
 
     void fahren() {
         einrichten();
