@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t summe_zeichen = 5;  // "*" and four digits
 constexpr std::string_view zeilenende = "\r\n";
-constexpr std::string_view ziffern = "0123456789ABCDEF";
+constexpr std::string_view hexzeichen = "0123456789ABCDEF";
 
 /// CRC-16 with the polynomial 0x1021: it misses no burst of up to 16 bits.
 constexpr std::array<std::uint16_t, 256> tabelle = [] {
@@ -35,7 +35,7 @@ std::uint16_t summe(std::string_view text, std::uint16_t kette) {
 std::array<char, 4> als_ziffern(std::uint16_t wert) {
     std::array<char, 4> text{};
     for (std::size_t i = 0; i < text.size(); ++i) {
-        text.at(i) = ziffern[wert >> (12U - 4U * static_cast<unsigned>(i)) & 0xFU];
+        text.at(i) = hexzeichen[wert >> (12U - 4U * static_cast<unsigned>(i)) & 0xFU];
     }
     return text;
 }

@@ -5,6 +5,7 @@
 #include "hardware/form5.h"
 #include "hardware/frm_main.h"
 #include "hardware/s6_fragefenster.h"
+#include "hardware/tx_modul.h"
 #include "programm/geraet_mit_fenster.h"
 
 namespace tarvel {
