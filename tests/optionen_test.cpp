@@ -167,6 +167,7 @@ TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
     }
     element<feld>("wechsel_schema").text("P-1-6-5-4-3-2");
     element<feld>("t_inhalt_w").text("40");
+    element<feld>("lpt_text").text("278");
     element<haken>("opt_centermode").gesetzt(false);  // it would set another value back
     t.maschine.anschluesse.da = {3};                  // of a module that does not answer yet
     fenster.hardware[4].umschalten();
