@@ -28,9 +28,14 @@ TEST_F(Druckeranschluss, DruckeranschlussSchaltetSeineLinien) {
     lpt_waehlen();
     t.maschine.laufen(2);
     EXPECT_TRUE(lpt_pin(9)) << "with inverted wiring high is power";
-    lpt().clear();
+    lpt().erase(lpt_basis + lpt::status);
     t.maschine.laufen(2);
     EXPECT_FALSE(t.p.geraete.verbunden()) << "a machine without the port";
+    t.p.einst.hardware = {};
+    t.p.geraete.hardware_starten(false);
+    lpt()[lpt_basis] = 3;
+    t.maschine.laufen(2);
+    EXPECT_EQ(lpt()[lpt_basis], 3) << "another device is chosen: nothing writes there";
 }
 
 TEST_F(Druckeranschluss, DasSignalDesRennendesStehtSolangeEsGilt) {

@@ -56,6 +56,11 @@ TEST_F(Kontaktleser, EineSchleifeDieStehtKostetKeineRundeUndKeineZeit) {
     EXPECT_EQ(rundenzeit(1, 1), 3000);
     EXPECT_EQ(rundenzeit(1, 2), 3101);
     EXPECT_EQ(rundenzeit(2, 1), 3232);
+    leser.gesehen(null + 6310, bit(1));
+    leser.gesehen(null + 6400, 0);
+    leser.auswerten();
+    t.maschine.laufen(1);
+    EXPECT_TRUE(pause()) << "a button that was pressed and released meanwhile";
 }
 
 TEST_F(Kontaktleser, ChaosTasterUndSchalter) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <span>
+
 #include "ui/fenster.h"
 
-class QGridLayout;
+class QHBoxLayout;
 
 namespace tarvel {
 class drucker_fenster;
@@ -16,8 +18,22 @@ public:
     DruckerFenster(drucker_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
 private:
-    /// A column of pins: number, meaning, lamp.
-    QGridLayout* spalte(QGroupBox* kasten, bezeichnung& funktion, bezeichnung& test, const QString& name);
+    /// A frame with a row for each pin: number, meaning, lamp.
+    struct pins {
+        rahmen& kasten;
+        QString kastenname;
+        bezeichnung& funktion;
+        bezeichnung& test;
+        std::span<bezeichnung> pin;
+        std::span<auswahl> wahl;
+        std::span<haken> lampe;
+        QString name;  ///< in front of the names of its widgets
+        QString lampenname;
+        bool schaltbar;
+    };
+
+    QHBoxLayout* kopf(drucker_fenster& logik);
+    QGroupBox* pinkasten(const pins& p);
 };
 
 }  // namespace tarvel::ui

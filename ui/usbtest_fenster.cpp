@@ -107,12 +107,16 @@ QWidget* UsbtestFenster::meldungen() {
     aufbau->addWidget(stil::leise(binder().label(logik_.Label_protokoll, "Label_protokoll")));
     QListView* liste = binder().protokollfeld(logik_.protokoll, "protokoll");
     liste->setFocusPolicy(Qt::ClickFocus);
+    liste->setUniformItemSizes(false);  // the reasons why there is no board are long
+    liste->setWordWrap(true);
+    liste->setResizeMode(QListView::Adjust);
     aufbau->addWidget(liste, 1);
     return flaeche;
 }
 
 QWidget* UsbtestFenster::dateiwahl() {
     QGroupBox* kasten = binder().gruppe(logik_.oeffnen_rahmen, "oeffnen_rahmen");
+    kasten->setFixedWidth(rechts_breite);  // as what it takes the place of
     auto* aufbau = new QVBoxLayout(kasten);
     aufbau->addWidget(stil::leise(binder().label(logik_.muster, "muster")));
     aufbau->addWidget(binder().listenfeld(logik_.dateiliste, "dateiliste"), 1);
