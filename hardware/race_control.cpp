@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <utility>
 
 namespace tarvel {
@@ -134,13 +135,28 @@ void race_control::unbekanntes_ereignis() {
 zeit_ms race_control::stempel_von(std::uint32_t ticks) {
     const rc_uhr::befund befund = uhr_.lesen(ticks, um_.uhr.jetzt(), um_.zeit.messzeit_lesen());
     if (befund.versetzen) {
-        weitergeben(true);  // they are of the clock before
         um_.zeit.stellen(befund.stempel, 1);
         um_.rennen.stempel_verschieben(*befund.versetzen);
+        wartende_verschieben(*befund.versetzen);
     } else if (befund.stand) {
         um_.zeit.nachstellen(*befund.stand, 1);
     }
     return befund.stempel;
+}
+
+void race_control::wartende_verschieben(zeit_ms um) {
+    std::array<sensor_ereignis, wartende_max> alle{};
+    std::size_t anzahl = 0;
+    while (const auto eines = ereignisse_.nehmen()) {
+        alle.at(anzahl++) = *eines;
+    }
+    for (sensor_ereignis& eines : std::span(alle).first(anzahl)) {
+        eines.stempel += um;
+        ereignisse_.geben(eines);
+    }
+    if (wartet_) {
+        wartet_->stempel += um;
+    }
 }
 
 void race_control::uhr_nachfuehren() {

@@ -48,6 +48,8 @@ public:
     void rennen_bereit() override { vergessen(); }
 
 private:
+    static constexpr std::size_t wartende_max = 64;
+
     struct sensor_ereignis {
         ereignis_art nummer = 0;
         zeit_ms stempel = 0;
@@ -68,6 +70,7 @@ private:
     /// The race has still to count another one in its row.
     bool zu_frueh(const sensor_ereignis& ereignis) const;
     void weitergeben(bool alle);
+    void wartende_verschieben(zeit_ms um);
     void vergessen();
     void rc_ereignis(const sensor_ereignis& ereignis);
 
@@ -75,13 +78,13 @@ private:
     rc_verbindung& verbindung_;
     std::unique_ptr<plattform::zeitgeber> meldung_;  ///< a message waits until the line has been read
     rc_uhr uhr_;
-    bool gewuenscht_ = false;                    ///< open, or to be opened as soon as it is there
-    bool angesagt_ = false;                      ///< the operator waits for it
-    bool gemeldet_ = false;                      ///< he has been told that it says what nobody knows
-    uebergabe<sensor_ereignis, 64> ereignisse_;  ///< that the race has not taken yet
-    std::optional<sensor_ereignis> wartet_;      ///< the first of them
-    bool gewartet_ = false;                      ///< for a tick
-    zeit_ms letzte_abfrage_ = 0;                 ///< of a race
+    bool gewuenscht_ = false;                              ///< open, or to be opened as soon as it is there
+    bool angesagt_ = false;                                ///< the operator waits for it
+    bool gemeldet_ = false;                                ///< he has been told that it says what nobody knows
+    uebergabe<sensor_ereignis, wartende_max> ereignisse_;  ///< that the race has not taken yet
+    std::optional<sensor_ereignis> wartet_;                ///< the first of them
+    bool gewartet_ = false;                                ///< for a tick
+    zeit_ms letzte_abfrage_ = 0;                           ///< of a race
 };
 
 }  // namespace tarvel

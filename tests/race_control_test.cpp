@@ -191,6 +191,22 @@ TEST_F(RaceControl, ZweiUeberfahrtenEinerSpurInEinemStueckZaehlenMitIhrenStempel
     }
 }
 
+TEST_F(RaceControl, WasWartetBehaeltSeineZeitWennDieUhrDerBoxNeuBeginnt) {
+    verbinden();
+    t.starten("Zeit", "5", {1});
+    laufen(7000);
+    const zeit_ms erste = box->uhr();
+    kontakt(0, erste);
+    laufen(10);
+    t.maschine.uhr_stellen(14000);
+    const std::string neue_uhr = simulator::rc_draht::schreiben({simulator::rc_draht::art::takt, 0, ticks(500)});
+    t.maschine.anschluesse.senden(com, satzbytes(0, erste + 6100) + satzbytes(0, erste + 12400) + neue_uhr);
+    t.maschine.laufen(10);
+    ASSERT_EQ(t.runden(1), 2);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 6100);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 6300);
+}
+
 TEST_F(RaceControl, JederSatzKommtAnWoImmerErGeschnittenIst) {
     verbinden();
     for (int sensor = 0; sensor < 4; ++sensor) {

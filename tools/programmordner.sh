@@ -9,8 +9,6 @@ pakete_sicherstellen "${PAKETE_BAU[@]}"
 # A newer compiler may know new warnings; they must not keep anybody from racing.
 cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_FEHLER:-OFF}" \
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
-simulatoren=(cu_simulator at2560_simulator)
-bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
 simulatoren=(cu_simulator at2560_simulator m4x4_simulator)
 bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
 cmake --build --preset release --target tarvel "${simulatoren[@]}" rc_simulator "${bibliotheken[@]}"
