@@ -37,6 +37,7 @@ void form5::beginnen() {
     Label1.text(wort_.sucht);
     Label2.text("");
     hinweis.text("");
+    Command1.sichtbar(true);
     wartet_ = true;
 }
 
@@ -70,6 +71,7 @@ void form5::stand_geaendert() {
     const bool gut = modul_.verbunden();
     Label1.text(gut ? wort_.gut : wort_.schlecht);
     Label2.text(gut ? "" : wort_.simulation);
+    Command1.sichtbar(false);  // there is nothing to stop any more
     timer1_->an();
 }
 
