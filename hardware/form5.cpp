@@ -39,6 +39,7 @@ void form5::beginnen() {
     Label1.text(wort_.sucht);
     Label2.text("");
     hinweis.text("");
+    Command1.sichtbar(true);
     wartet_ = true;
 }
 
@@ -72,6 +73,7 @@ void form5::stand_geaendert() {
     const bool gut = modul_.verbunden();
     Label1.text(gut ? wort_.gut : wort_.schlecht);
     Label2.text(gut ? "" : wort_.simulation);
+    Command1.sichtbar(false);  // there is nothing to stop any more
     timer1_->an();
 }
 

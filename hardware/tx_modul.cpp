@@ -103,7 +103,12 @@ bool tx_modul::port_versuchen(int nummer) {
     constexpr std::size_t fehlernummer = 9;
     const plattform::portangaben port = um_.serienports.angaben(nummer);
     notieren("Port: COM" + std::to_string(nummer));
-    notieren("Typ: " + port.typ + " Name:" + port.name + " DESC: " + port.beschreibung);
+    for (const auto& [was, wert] :
+         {std::pair("Typ: ", &port.typ), std::pair(" Name:", &port.name), std::pair(" DESC: ", &port.beschreibung)}) {
+        if (!wert->empty()) {
+            notieren(was + *wert);
+        }
+    }
     const bool offen = suche_.versuchen(nummer);
     if (const int fehler = um_.serienports.fehlernummer(); !offen && fehler != 0) {
         notieren(um_.txt.tx_text.at(fehlernummer) + " " + std::to_string(fehler));

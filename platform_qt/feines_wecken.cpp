@@ -1,7 +1,5 @@
 #include "platform_qt/feines_wecken.h"
 
-#include <QtGlobal>
-
 #ifdef Q_OS_WIN
 #include <windows.h>
 // after it
@@ -56,10 +54,10 @@ FeinesWecken::FeinesWecken() {
 #endif
 }
 
-FeinesWecken::~FeinesWecken() {
 #ifdef Q_OS_WIN
+FeinesWecken::~FeinesWecken() {
     timeEndPeriod(1);
-#endif
 }
+#endif
 
 }  // namespace tarvel::qt

@@ -272,11 +272,13 @@ TEST_F(TxModul, DieListeNenntPortsUndIhreEreignisse) {
     t.p.fenster.laden(fenstername::frmMain);
     t.maschine.laufen(4000);
     t.maschine.anschluesse.ereignis(com, 7);
+    tx.frm_main.Command6.klicken();
+    EXPECT_EQ(tx.frm_main.hinweis.text(), "Firmware: V1.2") << "also where it is known";
     sagt("mod1\r1@\r");
     const auto& zeilen = tx.frm_main.List1.zeilen();
-    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Port: COM5"), 1);
-    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Typ: USB 0403:6001 Name:/dev/ttyUSB0 DESC: Serial"), 1);
-    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "EVENT 7"), 1);
+    for (const char* zeile : {"Port: COM5", "Typ: USB 0403:6001", " Name:/dev/ttyUSB0", " DESC: Serial", "EVENT 7"}) {
+        EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), zeile), 1) << zeile;
+    }
     EXPECT_EQ(zeilen.back(), "Digital IR-Modus") << "and no car 0";
 }
 
