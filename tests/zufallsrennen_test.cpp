@@ -1,6 +1,7 @@
 // Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
 // hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
 
+#include <algorithm>
 #include <random>
 
 #include "competition/einfahren.h"
@@ -56,7 +57,9 @@ private:
 
     /// What was written of the race gives it once more.
     void nachrechnen() {
-        const std::string protokoll = t_.maschine.datei_lesen(t_.p.rennprotokoll.dateiname());
+        std::string name = t_.p.rennprotokoll.dateiname();
+        std::replace(name.begin(), name.end(), '\\', '/');
+        const std::string protokoll = t_.maschine.datei_lesen(name);
         test::testprogramm zweites;
         const auto wie = zweites.p.rennprotokoll.nachspielen(protokoll);
         const auto unterschied = zweites.p.rennprotokoll.abweichung();
