@@ -314,6 +314,18 @@ std::vector<std::string> sprachdateien(programm& p) {
 
 werkbank::werkbank() : t(schneller_ordner()) {}
 
+geraeteprobe::geraeteprobe(werkbank& bank) : p_(bank.t.p) {
+    for (ereignis_art nummer = 0; nummer < ereignis_tabelle::zeilen_anzahl; ++nummer) {
+        p_.ereignisse[nummer] = {};
+    }
+    p_.einst.hardware = {};
+}
+
+geraeteprobe::~geraeteprobe() {
+    p_.einst.hardware = {};
+    p_.geraete.hardware_starten(false);
+}
+
 void werkbank::legen(const std::string& name, const std::string& bytes) {
     t.maschine.meldungen_gezeigt.clear();
     t.maschine.datei_schreiben(name, bytes);

@@ -20,6 +20,18 @@ struct werkbank {
     dateien ausgang{t.maschine.ordner() / "ausgang"};  ///< where readings write: what they were given stays as it was
 };
 
+/// A device is heard alone: nothing waits from the one before, and it is closed behind, also if something is wrong.
+class geraeteprobe {
+public:
+    explicit geraeteprobe(werkbank& bank);
+    geraeteprobe(const geraeteprobe&) = delete;
+    geraeteprobe& operator=(const geraeteprobe&) = delete;
+    ~geraeteprobe();
+
+private:
+    programm& p_;
+};
+
 /// Ends the reading with what is wrong.
 void fordern(bool erfuellt, const char* was);
 

@@ -36,7 +36,7 @@ bool iow_hoeren(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
     test_iowkit brett;
     brett.eintragen(bank.t.maschine.bibliotheken);
-    p.einst.hardware = {};
+    const geraeteprobe probe(bank);  // closes it while the script lives
     p.einst.hardware.hw_iow = true;
     p.geraete.hardware_starten(false);
     iow_40& geraet = p.geraete.von<iow_verdrahtung>().iow;
@@ -56,8 +56,6 @@ bool iow_hoeren(werkbank& bank, const std::string& bytes) {
             gehoert = std::exchange(zeile.aktiv, false) || gehoert;
         }
     }
-    p.einst.hardware = {};
-    p.geraete.hardware_starten(false);  // closes it while the script lives
     return gehoert;
 }
 

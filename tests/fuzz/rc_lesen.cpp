@@ -58,7 +58,7 @@ bool race_control_hoeren(werkbank& bank, const std::string& bytes) {
     hinlegen(bank.t.maschine.bibliotheken);
     bank.t.maschine.anschluesse.da = {com};
     p.einst.rc.anschluss.rc_com_port = "COM3";
-    p.einst.hardware = {};
+    const geraeteprobe probe(bank);
     p.einst.hardware.hw_race_control = true;
     p.geraete.hardware_starten(false);
     fordern(bank.t.maschine.anschluesse.offen(com), "the port is closed");
@@ -76,8 +76,6 @@ bool race_control_hoeren(werkbank& bank, const std::string& bytes) {
             gehoert = std::exchange(zeile.aktiv, false) || gehoert;
         }
     }
-    p.einst.hardware = {};
-    p.geraete.hardware_starten(false);
     bank.t.maschine.meldungen_gezeigt.clear();
     return gehoert;
 }

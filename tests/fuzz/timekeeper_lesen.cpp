@@ -26,7 +26,7 @@ bool timekeeper_hoeren(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
     test_ftdi ftdi;
     ftdi.eintragen(bank.t.maschine.bibliotheken);
-    p.einst.hardware = {};
+    const geraeteprobe probe(bank);  // closes it while the script lives
     p.einst.hardware.hw_timekeeper = true;
     p.geraete.hardware_starten(false);
     const timekeeper& geraet = p.geraete.von<timekeeper_verdrahtung>().tk;
@@ -52,8 +52,6 @@ bool timekeeper_hoeren(werkbank& bank, const std::string& bytes) {
         gehoert = std::exchange(zeile.aktiv, false) || gehoert;
         zeile.ereignis_zeit = 0;
     }
-    p.einst.hardware = {};
-    p.geraete.hardware_starten(false);  // closes it while the script lives
     return gehoert;
 }
 

@@ -8,6 +8,7 @@ namespace tarvel::test {
 bool modul4x4_hoeren(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
     bank.t.maschine.anschluesse.da = {3};
+    const geraeteprobe probe(bank);
     const plattform::dienste d = bank.t.maschine.dienste();
     geraete_mithoerer gesagt(p.geraete);
     gesagt.ereignisse_weitersagen = false;
