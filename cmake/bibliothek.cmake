@@ -21,6 +21,7 @@ function(tarvel_einstellen ziel)
   if(TARVEL_VERBUND)
     tarvel_verbund(${ziel})
   endif()
+  set_property(GLOBAL APPEND PROPERTY TARVEL_ZIELE ${ziel})
 endfunction()
 
 # tarvel_bibliothek(<folder> QUELLEN <files> NUTZT <libraries>): the library of one folder; includes start at the checkout's root.

@@ -22,9 +22,10 @@ if [ $# -eq 0 ] || [ "$1" = format ]; then
     [ $# -eq 0 ] || exit 0
 fi
 
-# Each folder in few joint files: the headers, most of the work, are read once. Without precompiled headers: this compiler
-# cannot read those of the other. Only what is built here: the other system's files do not compile without its headers.
-cmake --preset debug -B build/stil -DTARVEL_BENCHMARKS=OFF -DTARVEL_VORKOMPILIERT=OFF -DTARVEL_VERBUND=ON >/dev/null
+# The whole in few joint files of several folders: the headers, most of the work, are read and checked once. Without
+# precompiled headers: this compiler cannot read those of the other. Only what is built here: the other system's files do not compile without its headers.
+cmake --preset debug -B build/stil -DTARVEL_BENCHMARKS=OFF -DTARVEL_VORKOMPILIERT=OFF -DTARVEL_VERBUND=ON \
+    -DTARVEL_STIL=ON >/dev/null
 
 # The files of a joint one count as headers, so the analyzer looks into those too. It gives up on a function after this
 # many states, a fortieth of its own limit: beyond that it takes minutes and finds nothing new. Says nothing of a clean file; a
@@ -45,7 +46,7 @@ datei_pruefen() {
 export -f datei_pruefen
 
 # The joint ones first, and of them the largest: so both cores end together. What the build makes itself ends in .cpp too.
-ordner=$(IFS='|' && echo "${*:-.*}")
+ordner=$(IFS='|' && echo "${*:-CMakeFiles}")
 sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\?\$|\1|p" build/stil/compile_commands.json | sort -u |
     grep -v '^build/.*\.cpp$' | grep -E "^(build/stil/)?($ordner)/" |
     xargs stat -c '%s %n' | awk '/Unity/ { $1 *= 100 } { print }' | sort -rn | cut -d' ' -f2 |
