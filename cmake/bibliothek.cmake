@@ -17,6 +17,11 @@ function(tarvel_einstellen ziel)
     target_compile_options(${ziel} PRIVATE -fsanitize=address,undefined -fno-sanitize=null,alignment,object-size
                                            -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${ziel} PRIVATE -fsanitize=address,undefined)
+    get_target_property(art ${ziel} TYPE)
+    if(art STREQUAL "EXECUTABLE" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+      # The tests' own code runs little: checked by calls it compiles in four fifths of the time.
+      target_compile_options(${ziel} PRIVATE "SHELL:--param asan-instrumentation-with-call-threshold=0")
+    endif()
   endif()
   if(TARVEL_VERBUND)
     tarvel_verbund(${ziel})
