@@ -11,7 +11,7 @@ cmake --preset release -DTARVEL_WARNUNGEN_SIND_FEHLER="${TARVEL_WARNUNGEN_SIND_F
     -DTARVEL_VORKOMPILIERT="${TARVEL_VORKOMPILIERT:-ON}" >/dev/null
 simulatoren=(cu_simulator at2560_simulator m4x4_simulator)
 bibliotheken=(ftd2xx inpout32 iowkit RaceControl)
-cmake --build --preset release --target tarvel "${simulatoren[@]}" rc_simulator "${bibliotheken[@]}"
+cmake --build --preset release --target tarvel nachrechnen "${simulatoren[@]}" rc_simulator "${bibliotheken[@]}"
 
 mkdir -p Tarvel
 cp -f build/release/ui/tarvel Tarvel/tarvel.neu
@@ -20,7 +20,7 @@ mkdir -p Tarvel/Werkzeuge
 for werkzeug in "${simulatoren[@]}"; do
     cp -f --remove-destination "build/release/tools/simulator/$werkzeug" Tarvel/Werkzeuge/
 done
-cp -f --remove-destination build/release/tools/ersatz/race_control/rc_simulator Tarvel/Werkzeuge/
+cp -f --remove-destination build/release/tools/ersatz/race_control/rc_simulator build/release/tools/nachrechnen/nachrechnen Tarvel/Werkzeuge/
 # Not beside the program: there they would go before the vendors' own.
 mkdir -p Tarvel/Werkzeuge/Bibliotheken
 for bibliothek in "${bibliotheken[@]}"; do
