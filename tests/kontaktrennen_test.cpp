@@ -48,7 +48,7 @@ struct Kontaktrennen : Kontaktgeraet {
         einst.strom_invers = true;
         t.p.einst.lpt.lpt_eingang = {0, 16, 15, 14, 13, 1};
         for (const int spur : {1, 2}) {
-            const auto platz = static_cast<std::size_t>(2 + spur);
+            const auto platz = static_cast<std::size_t>(spur) + 2;
             einst.ausgaenge.at(platz) = {klemme::strom, spur};
             t.p.einst.lpt.lpt_ausgang.at(platz + 1) = art::bahnstrom[spur];
         }
@@ -112,7 +112,7 @@ struct Kontaktrennen : Kontaktgeraet {
         int mit_pause = 0;
         for (int runde = 1; runde <= t.runden(spur); ++runde) {
             for (const int sektor : {1, 2}) {
-                const auto i = static_cast<std::size_t>(3 * (runde - 1) + sektor);
+                const std::size_t i = 3 * static_cast<std::size_t>(runde - 1) + static_cast<std::size_t>(sektor);
                 ASSERT_EQ(fahrten.at(i).sensor, sektor + 1);
                 mit_pause += stimmt(fahrten[i].stempel - fahrten[i - 1].stempel,
                                     t.p.rennen.sektoren.sektorzeit(spur, sektor, runde))

@@ -1,11 +1,9 @@
 // Races that nobody has thought of: crossings, pauses, refuelling, penalties and deductions by chance, and what must
 // hold in each millisecond all the same. TARVEL_RENNEN=<number> runs more of them, TARVEL_SAAT=<seed> begins elsewhere.
 
-#include <algorithm>
 #include <random>
 
 #include "competition/einfahren.h"
-#include "programm/rennprotokoll.h"
 #include "tests/plattform/umgebung.h"
 #include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
@@ -49,34 +47,11 @@ public:
         }
         EXPECT_TRUE(t_.p.fenster.ist_offen(fenstername::auswertung));
         EXPECT_FALSE(zustand().chaos_aktiv);
-        nachrechnen();
+        EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
     }
 
 private:
     static constexpr int laengstens_ms = 300000;
-
-    /// What was written of the race gives it once more.
-    void nachrechnen() {
-        std::string name = t_.p.rennprotokoll.dateiname();
-        std::replace(name.begin(), name.end(), '\\', '/');
-        const std::string protokoll = t_.maschine.datei_lesen(name);
-        test::testprogramm zweites;
-        const auto wie = zweites.p.rennprotokoll.nachspielen(protokoll);
-        const auto unterschied = zweites.p.rennprotokoll.abweichung();
-        ASSERT_FALSE(unterschied) << unterschied->zeile << ": " << unterschied->geschrieben << " / "
-                                  << unterschied->stattdessen;
-        ASSERT_EQ(wie, rennprotokoll::ausgang::ganz);
-        for (const int nummer : alle_spuren) {
-            ASSERT_EQ(zweites.runden(nummer), t_.runden(nummer));
-            for (int runde = 0; runde <= t_.runden(nummer); ++runde) {
-                ASSERT_EQ(zweites.p.rennen.zustand.konto.rundenzeit(nummer, runde),
-                          zustand().konto.rundenzeit(nummer, runde));
-                ASSERT_EQ(zweites.p.rennen.zustand.konto.stempel(nummer, runde),
-                          zustand().konto.stempel(nummer, runde));
-            }
-            ASSERT_EQ(zweites.spur(nummer).tank_inhalt, spur(nummer).tank_inhalt);
-        }
-    }
 
     /// What the lane was before the millisecond.
     struct vorher {

@@ -44,7 +44,7 @@ bool iow_hoeren(werkbank& bank, const std::string& bytes) {
     bool gehoert = false;
     for (std::size_t i = 0; i + bericht <= bytes.size(); i += bericht) {
         const auto byte = [&](std::size_t n) { return std::uint32_t{static_cast<unsigned char>(bytes[i + n])}; };
-        brett.gelesen = byte(0) < 64 ? byte(0) * 0x01010101U : bericht;
+        brett.gelesen = byte(0) < 64 ? byte(0) * 0x01010101U : static_cast<std::uint32_t>(bericht);
         brett.kontakte = byte(1) | byte(2) << 8U | byte(3) << 16U | byte(4) << 24U;
         bank.t.maschine.laufen(1);
         const zeit_ms jetzt = p.ereignisse.messzeit = bank.t.maschine.jetzt();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "programm/rennprotokoll.h"
 
 namespace tarvel::test {
 
@@ -51,6 +52,34 @@ void testprogramm::runden_auffuellen(int spur, int bis) {
     while (runden(spur) < bis) {
         p.rennen.zustand.konto.zaehlen(spur, 0, 0, 0);
     }
+}
+
+std::string nachrechnen(const programm& p, const test_plattform& maschine) {
+    std::string name = p.rennprotokoll.dateiname();
+    std::replace(name.begin(), name.end(), '\\', '/');
+    testprogramm noch_einmal;
+    const auto ausgang = noch_einmal.p.rennprotokoll.nachspielen(maschine.datei_lesen(name));
+    if (const auto u = noch_einmal.p.rennprotokoll.abweichung()) {
+        return "line " + std::to_string(u->zeile) + ": " + u->geschrieben + " / " + u->stattdessen;
+    }
+    if (ausgang != rennprotokoll::ausgang::ganz) {
+        return "no whole log: " + name;
+    }
+    const renn_zustand& war = p.rennen.zustand;
+    const renn_zustand& ist = noch_einmal.p.rennen.zustand;
+    for (const int spur : alle_spuren) {
+        bool gleich = war.konto.runden(spur) == ist.konto.runden(spur) &&
+                      war.spur[spur].tank_inhalt == ist.spur[spur].tank_inhalt &&
+                      war.spur[spur].strafzeit == ist.spur[spur].strafzeit;
+        for (int runde = 0; gleich && runde <= war.konto.runden(spur); ++runde) {
+            gleich = war.konto.rundenzeit(spur, runde) == ist.konto.rundenzeit(spur, runde) &&
+                     war.konto.stempel(spur, runde) == ist.konto.stempel(spur, runde);
+        }
+        if (!gleich) {
+            return "lane " + std::to_string(spur);
+        }
+    }
+    return {};
 }
 
 }  // namespace tarvel::test

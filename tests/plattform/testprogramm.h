@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -38,5 +39,9 @@ struct testprogramm {
     test_plattform maschine;
     programm p;
 };
+
+/// Drives the last race of this program again from its log. What comes out otherwise; empty if it is the same race,
+/// lap for lap.
+std::string nachrechnen(const programm& p, const test_plattform& maschine);
 
 }  // namespace tarvel::test

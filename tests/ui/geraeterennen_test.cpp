@@ -125,6 +125,8 @@ struct Geraeterennen : testing::Test {
         const int laengstens_ms = (dauer_s() + 20) * 1000;
         EXPECT_TRUE(QTest::qWaitFor([&] { return p.fenster.ist_offen(fenstername::auswertung); }, laengstens_ms));
         EXPECT_TRUE(maschine.meldungen_gezeigt.empty()) << maschine.meldungen_gezeigt.front();
+        QTest::qWait(200);  // until the log is on the disk
+        EXPECT_EQ(test::nachrechnen(p, maschine), "");
     }
     /// Each lap as the device has seen it, and none that was driven in time is missing.
     void vergleichen(const simulator::geraet& geraet, zeit_ms genauigkeit = 0) {
