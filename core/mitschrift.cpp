@@ -32,11 +32,11 @@ void mitschrift::geschieht(int eingang, const werte& w) {
     const bool geweckt = std::exchange(e.geweckt, false);
     const zeit_ms jetzt = uhr_();
     zuege_.push_back({.eingang = eingang, .w = w, .beginn = jetzt, .nebenbei = nebenbei_lesen_(), .zeit = jetzt});
+    if (e.art != sorte::blick || geweckt) {
+        zuege_schreiben();
+    }
     if (e.art == sorte::handlung) {
-        zuege_schreiben();
         wecken();
-    } else if (geweckt) {
-        zuege_schreiben();
     }
     ausfuehren(eingang, w);
     if (!zuege_.empty()) {  // the log may have been closed within

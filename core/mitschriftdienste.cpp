@@ -55,9 +55,12 @@ mitschriftdienste::~mitschriftdienste() = default;
 
 std::unique_ptr<plattform::zeitgeber> mitschriftdienste::zeitgeber_dienst::erzeugen(plattform::zeitgeber_art art,
                                                                                     dauer_ms intervall) {
-    const bool blick = art == plattform::zeitgeber_art::abfragend && intervall <= 1ms;
-    return std::make_unique<zeitgeber>(*this, echte.erzeugen(art, intervall),
-                                       blick ? mitschrift::sorte::blick : mitschrift::sorte::handlung);
+    using sorte = mitschrift::sorte;
+    constexpr dauer_ms schnell{12};
+    const bool abfragend = art == plattform::zeitgeber_art::abfragend;
+    const sorte haeufig = abfragend ? sorte::blick : sorte::zaehlung;
+    const bool oft = intervall > 0ms && intervall <= (abfragend ? 1ms : schnell);
+    return std::make_unique<zeitgeber>(*this, echte.erzeugen(art, intervall), oft ? haeufig : sorte::handlung);
 }
 
 double mitschriftdienste::zufall::bruchteil() {
