@@ -54,6 +54,7 @@ void mitschrift::wecken() {
 void mitschrift::schreiben(protokollsenke& senke, zeit_ms beginn, std::function<zeit_ms()> uhr) {
     betrieb_ = betrieb::schreiben;
     senke_ = &senke;
+    schreiber_.fortsetzen(protokoll_kette_anfang);
     beginn_ = beginn;
     uhr_ = std::move(uhr);
     zuege_.clear();
