@@ -53,6 +53,7 @@ void mitschrift::wecken() {
 
 void mitschrift::schreiben(protokollsenke& senke, zeit_ms beginn, std::function<zeit_ms()> uhr) {
     betrieb_ = betrieb::schreiben;
+    ++lauf_;
     senke_ = &senke;
     schreiber_.fortsetzen(protokoll_kette_anfang);
     beginn_ = beginn;

@@ -89,16 +89,22 @@ public:
     std::int64_t antwort(std::string_view name, Frage fragen) {
         return liest() ? antwort_nachlesen(name).value_or(0) : antwort_merken(name, fragen());
     }
+    /// The last answer to a question that is only written where it changes. Each log begins with none.
+    struct letzte_antwort {
+        std::int64_t wert = 0;
+        int lauf = 0;
+    };
     template <class Frage>
-    std::int64_t zustand(std::string_view name, std::int64_t& zuletzt, Frage fragen) {
+    std::int64_t zustand(std::string_view name, letzte_antwort& zuletzt, Frage fragen) {
         if (liest()) {
-            zuletzt = antwort_nachlesen(name).value_or(zuletzt);
-        } else if (const std::int64_t neu = fragen(); std::exchange(zuletzt, neu) != neu) {
-            antwort_merken(name, neu);
+            zuletzt.wert = antwort_nachlesen(name).value_or(zuletzt.wert);
+        } else if (const letzte_antwort neu{fragen(), lauf_}; neu.wert != zuletzt.wert || neu.lauf != zuletzt.lauf) {
+            zuletzt = neu;
+            antwort_merken(name, neu.wert);
         } else {
             schritt();
         }
-        return zuletzt;
+        return zuletzt.wert;
     }
     /// Something outside is told or asked, and may do something here meanwhile. When it is done again, only that is.
     template <class Rest>
@@ -180,6 +186,7 @@ private:
     void abweichen(std::string stattdessen);
 
     betrieb betrieb_ = betrieb::aus;
+    int lauf_ = 0;  ///< number of the log
     std::vector<eintrag> eingaenge_;
     std::unordered_map<std::string, int> nummer_;
     std::function<beiwerk()> nebenbei_lesen_ = [] { return beiwerk{}; };

@@ -118,7 +118,7 @@ private:
         void neustart() override;
         const messquellen& quellen;
         geraeteampel* echte = nullptr;
-        mutable std::int64_t rot_zuletzt = mitschrift::unbekannt;
+        mutable mitschrift::letzte_antwort rot_zuletzt;
     };
 
     template <class Rest>
@@ -130,16 +130,16 @@ private:
         }
     }
     template <class Frage>
-    std::int64_t erfragen(std::string_view name, std::int64_t& zuletzt, Frage frage) const {
+    std::int64_t erfragen(std::string_view name, mitschrift::letzte_antwort& zuletzt, Frage frage) const {
         return protokoll_ != nullptr ? protokoll_->zustand(name, zuletzt, frage) : frage();
     }
 
     std::vector<messquelle*> alle_;
     mitschrift* protokoll_ = nullptr;
     mutable ampelbild ampel_{*this};
-    mutable std::int64_t kann_zuletzt_ = mitschrift::unbekannt;
-    mutable std::int64_t ampel_zuletzt_ = mitschrift::unbekannt;
-    mutable std::int64_t uhr_zuletzt_ = mitschrift::unbekannt;
+    mutable mitschrift::letzte_antwort kann_zuletzt_;
+    mutable mitschrift::letzte_antwort ampel_zuletzt_;
+    mutable mitschrift::letzte_antwort uhr_zuletzt_;
 };
 
 }  // namespace tarvel

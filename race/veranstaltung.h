@@ -108,7 +108,7 @@ public:
 private:
     mitschrift& protokoll_;
     veranstaltung* laufende_ = nullptr;
-    mutable std::int64_t starter_ = mitschrift::unbekannt;  ///< as it was written last
+    mutable mitschrift::letzte_antwort starter_;
 };
 
 }  // namespace tarvel
