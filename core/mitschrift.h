@@ -42,7 +42,7 @@ public:
     enum class sorte {
         handlung,
         zaehlung,  ///< counts on, many times a second; no look needs to look for it
-        blick  ///< comes again and again, and mostly changes nothing; it looks at what else has happened
+        blick      ///< comes again and again, and mostly changes nothing; it looks at what else has happened
     };
 
     /// What was done again differs from what was written.
