@@ -177,6 +177,10 @@ void einstellungsdatei::einstellungen_standard_setzen() {
 
 std::vector<std::string> einstellungsdatei::schreiben() const {
     um_.ansicht.einrichtung_lesen();
+    return festhalten();
+}
+
+std::vector<std::string> einstellungsdatei::festhalten() const {
     std::vector<std::string> inhalt;
     for (const einstellungszeile& zeile : einstellungstabelle()) {
         inhalt.push_back(zeile.schreiben(um_.ziel));

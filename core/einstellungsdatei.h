@@ -57,8 +57,10 @@ public:
 
     /// Every value to its default.
     void einstellungen_standard_setzen();
-    /// The whole file as it is written.
+    /// The whole file as it is written, with what the main window shows.
     std::vector<std::string> schreiben() const;
+    /// The same of the settings in force, whatever the main window shows.
+    std::vector<std::string> festhalten() const;
     /// The settings as a competition file begins with them; its own data follow behind.
     std::vector<std::string> schreiben_fuer_wettkampf(std::string_view wettkampf) const;
     /// A failure shows its message and leaves the old file.

@@ -28,7 +28,7 @@ void rennprotokoll::beginnen() {
 void rennprotokoll::kopf_anhaengen(zeit_ms beginn) {
     const std::string zeitpunkt = uhrzeit_text(um_.dienste.kalender.jetzt());
     for (const std::string& zeile :
-         kopf_schreiben({zeitpunkt, beginn, um_.datei.schreiben(), um_.param, um_.belegung})) {
+         kopf_schreiben({zeitpunkt, beginn, um_.datei.festhalten(), um_.param, um_.belegung})) {
         um_.rennen.protokoll.kopfzeile(zeile);
     }
 }
