@@ -12,9 +12,8 @@ public:
     zeitgeber(zeitgeber_dienst& dienst, std::unique_ptr<plattform::zeitgeber> echter, mitschrift::sorte sorte)
         : dienst_(dienst), echter_(std::move(echter)) {
         const int nummer = dienst_.m.eingang(
-            "t" + std::to_string(dienst_.alle.size()), 0, [this](const mitschrift::werte& /*keine*/) { bei_tick(); },
+            "t" + std::to_string(dienst_.anzahl++), 0, [this](const mitschrift::werte& /*keine*/) { bei_tick(); },
             sorte);
-        dienst_.alle.push_back(this);
         echter_->bei_tick = [this, nummer] { dienst_.m.geschieht(nummer); };
     }
 
@@ -30,11 +29,6 @@ public:
         echter_->aus();
     }
     bool laeuft() const override { return an_; }
-    void loslassen() {
-        if (an_) {
-            echter_->an();
-        }
-    }
 
 private:
     zeitgeber_dienst& dienst_;
@@ -126,12 +120,6 @@ plattform::dienste mitschriftdienste::dienste() {
             echte_.dateisystem,
             echte_.anhaenge,
             echte_.programmordner};
-}
-
-void mitschriftdienste::zeitgeber_loslassen() {
-    for (zeitgeber* einer : zeitgeber_->alle) {
-        einer->loslassen();
-    }
 }
 
 }  // namespace tarvel

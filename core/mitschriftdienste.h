@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "core/mitschrift.h"
 #include "platform/dienste.h"
@@ -19,8 +18,6 @@ public:
 
     /// What the part is built with.
     plattform::dienste dienste();
-    /// A log has been done again: the timers that run in it run on from here.
-    void zeitgeber_loslassen();
 
 private:
     class zeitgeber;
@@ -37,7 +34,7 @@ private:
         std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
         mitschrift& m;
         plattform::zeitgeber_dienst& echte;
-        std::vector<zeitgeber*> alle;
+        int anzahl = 0;  ///< timers so far: their numbers stand in logs
     };
 
     struct zufall final : plattform::zufall {
