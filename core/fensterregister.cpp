@@ -11,8 +11,46 @@ fensterregister::fenster& fensterregister::an(const fensterlogik& logik) {
     return an(logik.kennung());
 }
 
+bool fensterregister::nur_gezaehlt(fenstername name) const {
+    return vor_der_stille_ && std::find(mitspieler_.begin(), mitspieler_.end(), name) == mitspieler_.end();
+}
+
+void fensterregister::auf_den_schirm(fenstername name, bool offen) {
+    if (anzeige_ == nullptr || vor_der_stille_) {
+        return;
+    }
+    if (offen) {
+        anzeige_->zeigen(name, an(name).art);
+    } else {
+        anzeige_->verbergen(name);
+    }
+}
+
+void fensterregister::stillhalten(std::vector<fenstername> mitspieler) {
+    mitspieler_ = std::move(mitspieler);
+    vor_der_stille_ = fenster_;
+}
+
+void fensterregister::aufleben() {
+    const alle_fenster vorher = *vor_der_stille_;
+    for (std::size_t i = 0; i < fenster_.size(); ++i) {
+        if (nur_gezaehlt(static_cast<fenstername>(i))) {
+            fenster_.at(i).offen = vorher.at(i).offen;
+        }
+    }
+    vor_der_stille_.reset();
+    for (const fenstername name : mitspieler_) {
+        if (ist_offen(name) || vorher.at(static_cast<std::size_t>(name)).offen) {
+            auf_den_schirm(name, ist_offen(name));
+        }
+    }
+}
+
 void fensterregister::laden(fenstername name) {
     fenster& f = an(name);
+    if (nur_gezaehlt(name)) {
+        return;
+    }
     if (f.logik != nullptr && !std::exchange(f.geladen, true)) {
         f.logik->laden();
     }
@@ -20,37 +58,40 @@ void fensterregister::laden(fenstername name) {
 
 void fensterregister::zeigen(fenstername name, anzeige_art art) {
     laden(name);
-    if (!an(name).geladen) {
+    if (!an(name).geladen && !nur_gezaehlt(name)) {
         return;  // unknown, or closed again by its own load handler
     }
     an(name).offen = true;
-    if (anzeige_ != nullptr) {
-        anzeige_->zeigen(name, art);
-    }
+    an(name).art = art;
+    auf_den_schirm(name, true);
 }
 
 void fensterregister::verbergen(fenstername name) {
-    if (std::exchange(an(name).offen, false) && anzeige_ != nullptr) {
-        anzeige_->verbergen(name);
+    if (std::exchange(an(name).offen, false)) {
+        auf_den_schirm(name, false);
     }
 }
 
 void fensterregister::entladen(fenstername name) {
     fenster& f = an(name);
+    if (nur_gezaehlt(name)) {
+        f.offen = false;
+        return;
+    }
     if (!f.geladen) {
         return;
     }
     const bool war_offen = std::exchange(f.offen, false);
     f.geladen = false;
     f.logik->entladen();
-    if (war_offen && anzeige_ != nullptr) {
-        anzeige_->verbergen(name);
+    if (war_offen) {
+        auf_den_schirm(name, false);
     }
 }
 
 void fensterregister::neu_laden(fenstername name) {
     fenster& f = an(name);
-    if (!f.geladen) {
+    if (!f.geladen || nur_gezaehlt(name)) {
         return;
     }
     const bool war_offen = f.offen;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "core/fensternamen.h"
@@ -44,6 +45,12 @@ public:
     /// Loaded and on the screen.
     bool ist_offen(fenstername name) const { return an(name).offen; }
 
+    /// What happens from here on has happened before: of the windows only these load, and nothing shows. The others are
+    /// kept count of.
+    void stillhalten(std::vector<fenstername> mitspieler);
+    /// Shows what has become of them. The others are what they were before.
+    void aufleben();
+
     /// Unloads all windows, in the order of their names' list.
     void alle_entladen();
     /// The language files of all windows. Of two windows with the same file one reads only its beginning: it is named
@@ -55,14 +62,20 @@ private:
         fensterlogik* logik = nullptr;
         bool geladen = false;
         bool offen = false;
+        anzeige_art art = anzeige_art::frei;
     };
+    using alle_fenster = std::array<fenster, fensternamen.size()>;
 
     fenster& an(fenstername name) { return fenster_.at(static_cast<std::size_t>(name)); }
     const fenster& an(fenstername name) const { return fenster_.at(static_cast<std::size_t>(name)); }
     fenster& an(const fensterlogik& logik);
+    bool nur_gezaehlt(fenstername name) const;
+    void auf_den_schirm(fenstername name, bool offen);
 
-    std::array<fenster, fensternamen.size()> fenster_{};
+    alle_fenster fenster_{};
     fensteranzeige* anzeige_ = nullptr;
+    std::optional<alle_fenster> vor_der_stille_;
+    std::vector<fenstername> mitspieler_;
 };
 
 }  // namespace tarvel

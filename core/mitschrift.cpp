@@ -8,6 +8,7 @@ namespace {
 constexpr std::string_view vermerk = ">";
 constexpr std::string_view uhrsprung = "u";
 constexpr std::string_view kopf = "#";
+constexpr std::string_view andere_uhr = "Uhr";  // behind that: the times count from there
 
 }  // namespace
 
@@ -61,6 +62,18 @@ void mitschrift::schreiben(protokollsenke& senke, zeit_ms beginn, std::function<
     zuege_.clear();
     nebenbei_ = {unbekannt};
     wecken();
+}
+
+void mitschrift::weiterschreiben(protokollsenke& senke, std::uint16_t kette, zeit_ms beginn,
+                                 std::function<zeit_ms()> uhr) {
+    schreiben(senke, beginn, std::move(uhr));
+    schreiber_.fortsetzen(kette);
+    for (const std::string& zeile : nachtrag_) {
+        schreiber_.beginnen(0).wort(zeile);
+        anhaengen();
+    }
+    nachtrag_.clear();
+    kopfzeile(std::string(andere_uhr) + " " + std::to_string(beginn));
 }
 
 void mitschrift::aufhoeren() {
@@ -180,8 +193,9 @@ void mitschrift::vermerken(std::string_view wort, std::initializer_list<std::int
     for (const std::int64_t zahl : zahlen) {
         jetzt.append(" ").append(std::to_string(zahl));
     }
-    if (ort_ == zeilen_.size()) {
-        return;  // the log was cut off in the middle of a doing
+    if (ort_ == zeilen_.size()) {  // the log was cut off in the middle of a doing
+        nachtrag_.push_back(std::move(jetzt));
+        return;
     }
     if (zeilen_[ort_] == jetzt) {
         ++ort_;
@@ -198,7 +212,14 @@ void mitschrift::lesen(std::vector<std::string_view> zeilen, int erste_zeile, ze
     beginn_ = beginn;
     zuletzt_ = beginn;
     abweichung_.reset();
+    nachtrag_.clear();
     zuege_.clear();
+}
+
+void mitschrift::kopfzeile_lesen(std::string_view rest) {
+    if (naechstes_wort(rest) == andere_uhr) {
+        beginn_ = als_zahl(rest).value_or(beginn_);
+    }
 }
 
 std::optional<mitschrift::satz> mitschrift::naechster() const {
@@ -228,6 +249,7 @@ void mitschrift::abweichen(std::string stattdessen) {
 bool mitschrift::weiter() {
     std::optional<satz> s = naechster();
     while (s && s->wort == kopf) {
+        kopfzeile_lesen(s->rest);
         ++ort_;
         s = naechster();
     }

@@ -70,6 +70,9 @@ public:
 
     /// Writes from here on.
     void schreiben(protokollsenke& senke, zeit_ms beginn, std::function<zeit_ms()> uhr);
+    /// Goes on writing behind what has been done again, whose last line had the sum `kette`: first what the last doing
+    /// has decided beyond it. On this clock the times of the doings count from `beginn`.
+    void weiterschreiben(protokollsenke& senke, std::uint16_t kette, zeit_ms beginn, std::function<zeit_ms()> uhr);
     void aufhoeren();
     bool schreibt() const { return betrieb_ == betrieb::schreiben; }
     /// A line that is only for the reader who comes later.
@@ -80,6 +83,9 @@ public:
     /// The next doing. False at the end of the lines, and at a difference.
     bool weiter();
     bool liest() const { return betrieb_ == betrieb::lesen; }
+    /// The clock at the last doing that was done again, and what the times count from there.
+    zeit_ms gelesen_bis() const { return zuletzt_; }
+    zeit_ms beginn() const { return beginn_; }
     const std::optional<unterschied>& abweichung() const { return abweichung_; }
 
     /// The clock as the part sees it.
@@ -184,6 +190,7 @@ private:
     std::optional<satz> naechster() const;
     void satz_ausfuehren(const satz& s);
     void abweichen(std::string stattdessen);
+    void kopfzeile_lesen(std::string_view rest);
 
     betrieb betrieb_ = betrieb::aus;
     int lauf_ = 0;  ///< number of the log
@@ -203,6 +210,7 @@ private:
     std::size_t ort_ = 0;
     int erste_zeile_ = 1;
     zeit_ms zuletzt_ = 0;  ///< the clock outside all doings
+    std::vector<std::string> nachtrag_;  ///< decided beyond the last line
     std::optional<unterschied> abweichung_;
 };
 

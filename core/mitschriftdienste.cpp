@@ -15,7 +15,11 @@ public:
             "t" + std::to_string(dienst_.anzahl++), 0, [this](const mitschrift::werte& /*keine*/) { bei_tick(); },
             sorte);
         echter_->bei_tick = [this, nummer] { dienst_.m.geschieht(nummer); };
+        dienst_.alle.push_back(this);
     }
+    zeitgeber(const zeitgeber&) = delete;
+    zeitgeber& operator=(const zeitgeber&) = delete;
+    ~zeitgeber() override { std::erase(dienst_.alle, this); }
 
     void intervall(dauer_ms dauer) override { echter_->intervall(dauer); }
     void an() override {
@@ -55,6 +59,14 @@ std::unique_ptr<plattform::zeitgeber> mitschriftdienste::zeitgeber_dienst::erzeu
     const sorte haeufig = abfragend ? sorte::blick : sorte::zaehlung;
     const bool oft = intervall > 0ms && intervall <= (abfragend ? 1ms : schnell);
     return std::make_unique<zeitgeber>(*this, echte.erzeugen(art, intervall), oft ? haeufig : sorte::handlung);
+}
+
+void mitschriftdienste::zeitgeber_starten() {
+    for (zeitgeber* einer : zeitgeber_->alle) {
+        if (einer->laeuft()) {
+            einer->an();
+        }
+    }
 }
 
 double mitschriftdienste::zufall::bruchteil() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "core/mitschrift.h"
 #include "platform/dienste.h"
@@ -18,6 +19,8 @@ public:
 
     /// What the part is built with.
     plattform::dienste dienste();
+    /// What has been done again goes on: the timers that run there run from now on.
+    void zeitgeber_starten();
 
 private:
     class zeitgeber;
@@ -35,6 +38,7 @@ private:
         mitschrift& m;
         plattform::zeitgeber_dienst& echte;
         int anzahl = 0;  ///< timers so far: their numbers stand in logs
+        std::vector<zeitgeber*> alle;
     };
 
     struct zufall final : plattform::zufall {

@@ -1,6 +1,7 @@
 #include "hardware/ausgaben.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvel {
 namespace {
@@ -30,7 +31,23 @@ void ausgaben::wiederholen() {
     }
 }
 
+void ausgaben::stillhalten() {
+    still_ = true;
+    bericht.festhalten(true);
+}
+
+void ausgaben::aufleben() {
+    if (std::exchange(still_, false)) {
+        bericht.festhalten(false);
+        bericht.schreiben();
+        wiederholen();
+    }
+}
+
 void ausgaben::an_geraete(const schaltung& befehl) const {
+    if (still_) {
+        return;
+    }
     for (ausgabe_geraet* geraet : geraete_) {
         if (geraet != nullptr) {
             geraet->schalten(befehl);

@@ -79,6 +79,9 @@ public:
     void stillstand();
     /// Lamps, track power and signals as they stand, once more: for a device that was away.
     void wiederholen();
+    /// From now on nothing reaches a device, until it does again: then all as it stands by then.
+    void stillhalten();
+    void aufleben();
 
 private:
     static constexpr std::size_t plaetze = 5;
@@ -93,6 +96,7 @@ private:
 
     const einstellungen& einst_;
     std::array<ausgabe_geraet*, plaetze> geraete_{};
+    bool still_ = false;
     std::vector<schaltung> stand_;  ///< the last switching of each output; one of all of them takes their place
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 
 #include "hardware/ereignisse.h"
@@ -49,7 +50,9 @@ public:
     void sichern() { iow_ausgang_sicherung_ = iow_ausgang_; }
     void wiederherstellen() { iow_ausgang_ = iow_ausgang_sicherung_; }
 
-    void schreiben() { iow_schreibfehler_ = !senden || !senden(iow_ausgang_); }
+    void schreiben() { iow_schreibfehler_ = !senden || !senden(steht_.value_or(iow_ausgang_)); }
+    /// The board keeps what it has, whatever becomes of the image meanwhile.
+    void festhalten(bool fest) { steht_ = fest ? std::optional(iow_ausgang_) : std::nullopt; }
     bool iow_schreibfehler() const { return iow_schreibfehler_; }
 
     const bytes& iow_ausgang() const { return iow_ausgang_; }
@@ -58,6 +61,7 @@ public:
 private:
     bytes iow_ausgang_ = in_ruhe;
     bytes iow_ausgang_sicherung_ = in_ruhe;
+    std::optional<bytes> steht_;
     bool iow_schreibfehler_ = false;
 };
 
