@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "core/protokollfortsetzung.h"
 #include "tests/plattform/test_plattform.h"
 
 namespace tarvel {
@@ -79,6 +80,30 @@ TEST_F(Protokollordner, ZweihundertBleibenUndKeinemVerweisWirdGefolgt) {
     std::erase_if(alle, [&](const std::string& name) { return name != verweis && name < "2026-03-01 09-00-03"; });
     alle.push_back("fremd.txt");
     EXPECT_EQ(namen(), alle);
+}
+
+TEST_F(Protokollordner, EinGeschlossenesProtokollGehtHinterSeinerLetztenGanzenZeileWeiter) {
+    const auto datei = ablage.pfad(protokoll_ordner) / "lauf.txt";
+    protokollschreiber schreiber;
+    std::string ganz;
+    for (const int nr : {1, 2}) {
+        ganz += schreiber.beginnen(0).wort("t0").zahl(nr).fertig();
+    }
+    for (const std::string_view rest : {"", "t0 3", "t0 3*\r"}) {
+        maschine.datei_schreiben("Ergebnisse/Protokoll/lauf.txt", ganz + std::string(rest));
+        const auto stand = protokollfortsetzung::lesen(datei);
+        ASSERT_TRUE(stand && stand->inhalt() == ganz && !stand->beschaedigt()) << rest;
+        protokollschreiber weiter;
+        weiter.fortsetzen(stand->kette());
+        stand->oeffnen(maschine.anhaengedateien)->anhaengen(weiter.beginnen(0).wort("# danach").fertig());
+        const std::string jetzt = maschine.datei_lesen("Ergebnisse/Protokoll/lauf.txt");
+        protokollleser leser(jetzt);
+        EXPECT_TRUE(leser.zeile() && leser.zeile() && leser.zeile() == "# danach" && leser.vollstaendig()) << rest;
+    }
+    maschine.datei_schreiben("Ergebnisse/Protokoll/lauf.txt", ganz + "t1 3*0000\r\nt2 4*0000\r\n");
+    EXPECT_TRUE(protokollfortsetzung::lesen(datei)->beschaedigt()) << "what is behind may be whole";
+    maschine.datei_schreiben("Ergebnisse/Protokoll/lauf.txt", "x");
+    EXPECT_FALSE(protokollfortsetzung::lesen(datei));
 }
 
 }  // namespace
