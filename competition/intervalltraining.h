@@ -9,6 +9,7 @@ class intervalltraining final : public training {
 public:
     using training::training;
 
+    std::string kennung() const override { return "intervalltraining"; }
     starter wer_startet() const override { return von_selbst_ ? starter::ablauf : starter::bediener; }
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
     selbstlauf danach() const override;

@@ -13,6 +13,7 @@ public:
 
     std::string datei;  ///< below the program folder
 
+    std::string kennung() const override { return "tagesrennen " + datei; }
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override {
         return wie == weitergang::verlassen ? um_.speichern.tages_ergebnis_schreiben(datei, ergebnis)
                                             : einzelrennen::uebernehmen(ergebnis, wie);

@@ -9,6 +9,7 @@ class training : public einzelrennen {
 public:
     using einzelrennen::einzelrennen;
 
+    std::string kennung() const override { return "training"; }
     bool mit_spurwechsel() const override { return false; }
 };
 

@@ -57,6 +57,23 @@ bool wettkampfabend::rennen_starten() {
     return true;
 }
 
+bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil) {
+    automat_.aus();
+    if (stand_.uebergabe().rennen != rennen) {
+        return false;
+    }
+    uebergeben();
+    ab_teil_ = ab_teil;
+    automatik_an_ = false;  // nobody may be there yet
+    von_selbst_ = false;
+    unterbrochen_ = false;
+    um_.teil_von.wechseln(*this);
+    start_ = um_.uhr.jetzt();
+    ergebnis_da_ = false;
+    zeigen();
+    return true;
+}
+
 void wettkampfabend::uebergeben() {
     uebergabe_ = stand_.uebergabe();
     renn_parameter& param = um_.param;

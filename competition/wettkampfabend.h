@@ -82,6 +82,9 @@ public:
     void beenden();
     /// Opens the race window on the current race. False if none is left.
     bool rennen_starten();
+    /// The race window is to go on where an outage has left this race, which was started with that part. False if the
+    /// evening has come elsewhere.
+    bool rennen_wiederaufnehmen(int rennen, int ab_teil);
     /// What the director changes: keeps it and shows it, if `was` says true.
     bool aendern(const std::function<bool(wettkampf&)>& was);
 
@@ -97,6 +100,9 @@ public:
     bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
     dauer_s wartezeit() const { return automat_.rest(); }
 
+    std::string kennung() const override {
+        return "wettkampf " + std::to_string(uebergabe_.rennen) + " " + std::to_string(ab_teil_);
+    }
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
     bool ohne_bediener() const override { return automatik_an_; }

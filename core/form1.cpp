@@ -65,6 +65,11 @@ void form1::befehle_verbinden() {
     Command9.bei_klick = [this] { einstellungen_rufen(fahrzeuge_oeffnen); };
     weitergeben(command_cu, cu_oeffnen);
     command17.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tagesrennen, anzeige_art::modal); };
+    command_fortsetzen.bei_klick = [this] {
+        if (rennen_fortsetzen) {
+            rennen_fortsetzen();
+        }
+    };
     Command18.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };
 }

@@ -80,26 +80,27 @@ public:
     std::array<bild, spuren_max> autobild;
     std::array<bezeichnung, spuren_max> Label_fahrzeug;  ///< best time of the lane
 
-    bezeichnung Label6;       ///< settings file in force
-    bezeichnung modus_label;  ///< status line: the timing hardware in force
-    bezeichnung Label7;       ///< "Bahnstrom"
-    befehl Command1;          ///< single race
-    befehl Command2;          ///< end of the program
-    befehl Command3;          ///< competition
-    befehl Command4;          ///< options
-    befehl Command5;          ///< save the settings
-    befehl Command6;          ///< track power on
-    befehl Command7;          ///< load settings
-    befehl command17;         ///< day race
-    befehl Command18;         ///< looks at results that were saved
-    befehl Command8;          ///< options, page of the drivers
-    befehl Command9;          ///< options, page of the vehicles
-    befehl Command10;         ///< take over the pictures of the vehicles
-    befehl Command11;         ///< training
-    befehl Command12;         ///< track power off
-    befehl Command13;         ///< take over the pictures of the drivers
-    befehl command_tasten;    ///< key assignment
-    befehl command_cu;        ///< window of the Control Unit, while that is the timing hardware
+    bezeichnung Label6;         ///< settings file in force
+    bezeichnung modus_label;    ///< status line: the timing hardware in force
+    bezeichnung Label7;         ///< "Bahnstrom"
+    befehl Command1;            ///< single race
+    befehl Command2;            ///< end of the program
+    befehl Command3;            ///< competition
+    befehl Command4;            ///< options
+    befehl Command5;            ///< save the settings
+    befehl Command6;            ///< track power on
+    befehl Command7;            ///< load settings
+    befehl command17;           ///< day race
+    befehl Command18;           ///< looks at results that were saved
+    befehl Command8;            ///< options, page of the drivers
+    befehl Command9;            ///< options, page of the vehicles
+    befehl Command10;           ///< take over the pictures of the vehicles
+    befehl Command11;           ///< training
+    befehl Command12;           ///< track power off
+    befehl Command13;           ///< take over the pictures of the drivers
+    befehl command_fortsetzen;  ///< a race that was cut off goes on
+    befehl command_tasten;      ///< key assignment
+    befehl command_cu;          ///< window of the Control Unit, while that is the timing hardware
 
     /// The race is set up: a race of its own begins with it.
     std::function<void()> einzelrennen_beginnen;
@@ -107,6 +108,8 @@ public:
     std::function<void()> wettkampf_beginnen;
     /// The same for a training of the kind that is set.
     std::function<void()> training_beginnen;
+    /// A race that was cut off is looked for and offered.
+    std::function<void()> rennen_fortsetzen;
     /// Switch the track power; filled by the part that owns the outputs.
     std::function<void()> bahnstrom_ein;
     std::function<void()> bahnstrom_aus;

@@ -51,6 +51,8 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Einzelrennen, deren Ergebnisse in einer Datei des Tages zusammenkommen", command17);
     texte.text("Auswertung", Command18);
     texte.tipp("Gespeicherte Ergebnisse ansehen, sortieren, addieren, vergleichen und drucken", Command18);
+    texte.text("Fortsetzen", command_fortsetzen);
+    texte.tipp("Ein Rennen weiterfahren, das unterbrochen oder abgebrochen wurde", command_fortsetzen);
     texte.text("Training", Command11);
     return texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
 }

@@ -7,6 +7,7 @@ namespace {
 
 constexpr std::string_view vermerk = ">";
 constexpr std::string_view uhrsprung = "u";
+constexpr zeit_ms lebenszeichen_ms = 200;  // what is cut off is known to have lived until then
 constexpr std::string_view kopf = "#";
 constexpr std::string_view andere_uhr = "Uhr";  // behind that: the times count from there
 
@@ -33,7 +34,7 @@ void mitschrift::geschieht(int eingang, const werte& w) {
     const bool geweckt = std::exchange(e.geweckt, false);
     const zeit_ms jetzt = uhr_();
     zuege_.push_back({.eingang = eingang, .w = w, .beginn = jetzt, .nebenbei = nebenbei_lesen_(), .zeit = jetzt});
-    if (e.art != sorte::blick || geweckt) {
+    if (e.art != sorte::blick || geweckt || jetzt - lebenszeichen_ >= lebenszeichen_ms) {
         zuege_schreiben();
     }
     if (e.art == sorte::handlung) {
@@ -100,6 +101,7 @@ void mitschrift::zuege_schreiben() {
 
 void mitschrift::zug_schreiben(std::size_t nummer) {
     const zug& z = zuege_[nummer];
+    lebenszeichen_ = z.beginn;
     const eintrag& e = eingaenge_[static_cast<std::size_t>(z.eingang)];
     schreiber_.beginnen(static_cast<int>(nummer));
     if (nummer > 0) {
@@ -299,7 +301,7 @@ void mitschrift::satz_ausfuehren(const satz& s) {
     zuege_.push_back(z);
     ausfuehren(z.eingang, z.w);
     if (zuege_.size() > tiefe) {
-        zuletzt_ = zuege_.back().zeit;
+        zuletzt_ = std::max(zuletzt_, zuege_.back().zeit);  // another one may have come later within
         zuege_.resize(tiefe);
     }
 }

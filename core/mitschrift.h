@@ -31,7 +31,8 @@ public:
 /// and compared when it is done again.
 ///
 /// A doing within which another one comes from outside (while it asks a device, or shows a message) holds that one. Its
-/// place in it is a *step*: how many questions and gates came before. A look that finds nothing is not written down.
+/// place in it is a *step*: how many questions and gates came before. A look that finds nothing is not written down,
+/// but for one now and then that shows how long the part has lived.
 class mitschrift {
 public:
     static constexpr std::size_t werte_max = 6;
@@ -204,12 +205,13 @@ private:
     protokollsenke* senke_ = nullptr;
     protokollschreiber schreiber_;
     zeit_ms beginn_ = 0;
+    zeit_ms lebenszeichen_ = 0;  ///< when the last doing was written
     std::function<zeit_ms()> uhr_;
 
     std::vector<std::string_view> zeilen_;
     std::size_t ort_ = 0;
     int erste_zeile_ = 1;
-    zeit_ms zuletzt_ = 0;  ///< the clock outside all doings
+    zeit_ms zuletzt_ = 0;                ///< the clock outside all doings
     std::vector<std::string> nachtrag_;  ///< decided beyond the last line
     std::optional<unterschied> abweichung_;
 };

@@ -87,6 +87,16 @@ std::string neuer_protokollname(const dateien& ablage, const plattform::datum_uh
     return name;
 }
 
+std::vector<std::string> neueste_protokolle(const dateien& ablage, std::size_t anzahl) {
+    std::vector<std::string> namen;
+    if (ablage.ist_eigener_ordner(protokoll_ordner)) {
+        namen = protokolle(ablage.pfad(protokoll_ordner));
+    }
+    std::reverse(namen.begin(), namen.end());
+    namen.resize(std::min(namen.size(), anzahl));
+    return namen;
+}
+
 void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch) {
     if (!ablage.ist_eigener_ordner(protokoll_ordner)) {
         return;

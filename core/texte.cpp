@@ -163,7 +163,15 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Programmeinstellungen aus Datei übernehmen?", wettkampf.einstellungen_uebernehmen);
     gruppe.text("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", wettkampf.ladefehler);
     gruppe.text("Der Wettkampf", wettkampf.der_wettkampf).text("vom", wettkampf.vom);
-    return gruppe.text("wurde nicht beendet. Fortsetzen?", wettkampf.nicht_beendet);
+    gruppe.text("wurde nicht beendet. Fortsetzen?", wettkampf.nicht_beendet);
+    gruppe.text("Das Rennen von", wettkampf.das_rennen).text("wurde in Runde", wettkampf.in_runde);
+    gruppe.text("unterbrochen. Fortsetzen?", wettkampf.unterbrochen);
+    gruppe.text("ist gefahren, sein Ergebnis war noch offen. Wieder öffnen?", wettkampf.gefahren);
+    gruppe.text("Es gibt kein Rennen, das fortgesetzt werden kann.", wettkampf.keines);
+    gruppe.text("Dieses Rennen lässt sich nicht fortsetzen: Sein Protokoll ist beschädigt oder passt nicht mehr.",
+                wettkampf.nicht_fortsetzbar);
+    return gruppe.text("Das Rennen geht weiter, aber sein Protokoll lässt sich nicht mehr schreiben.",
+                       wettkampf.ohne_protokoll);
 }
 
 sprachliste texte::sprache_tx1() {

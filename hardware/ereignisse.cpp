@@ -210,6 +210,18 @@ void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     }
 }
 
+void ereignis_tabelle::vergessen() {
+    zeilen_ = {};
+    pausen_anzahl_ = 0;
+    schlangen_ = {};
+    steht_seit_.reset();
+    messzeit = 0;
+    gilt_ab = std::numeric_limits<zeit_ms>::min();
+    chaos_at_zaehler = 0;
+    chaos_taster_gedrueckt = false;
+    chaos_fahrer = {};
+}
+
 void ereignis_tabelle::rundenzaehlung_leeren() {
     for (const ereignis_art nummer : art::rundenzaehlung) {
         (*this)[nummer].aktiv = false;

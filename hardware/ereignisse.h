@@ -71,6 +71,8 @@ public:
     /// What sources deliver goes through this from now on.
     void mitschreiben(mitschrift& protokoll);
 
+    /// As if no source had ever told anything.
+    void vergessen();
     /// Tells the log of a race what waits already.
     void stand_mitschreiben();
 

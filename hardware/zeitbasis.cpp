@@ -45,10 +45,12 @@ void zeitbasis::tun(eingang was, zeit_ms geraetezeit, double gang) {
     }
 }
 
-void zeitbasis::stand_mitschreiben() {
-    protokoll_->geschieht(
-        eingang_.at(static_cast<std::size_t>(eingang::stand)),
-        {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_, zaehlt_ ? 1 : 0});
+mitschrift::werte zeitbasis::stand() const {
+    return {bezug_, stand_, std::bit_cast<std::int64_t>(gang_), mindestens_, zeit_zaehler_, zaehlt_ ? 1 : 0};
+}
+
+void zeitbasis::stand_setzen(const mitschrift::werte& stand) {
+    protokoll_->geschieht(eingang_.at(static_cast<std::size_t>(eingang::stand)), stand);
 }
 
 void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {

@@ -37,8 +37,10 @@ public:
     void nicht_zaehlen() { tun(eingang::nicht_zaehlen, 0, 0); }
     /// No device any more: the machine's counter itself.
     void freigeben() { tun(eingang::freigeben, 0, 0); }
-    /// Tells the log of a race how the clock stands.
-    void stand_mitschreiben();
+    /// How the clock stands, as numbers.
+    mitschrift::werte stand() const;
+    /// It stands like that, which the log of a race is told.
+    void stand_setzen(const mitschrift::werte& stand);
 
 private:
     enum class eingang { stellen, nachstellen, zaehler, nicht_zaehlen, freigeben, stand };

@@ -9,6 +9,7 @@
 #include "programm/messgeraete.h"
 #include "programm/rennprotokoll.h"
 #include "programm/tx_verdrahtung.h"
+#include "programm/wiederaufnahme.h"
 
 namespace tarvel {
 namespace {
@@ -51,6 +52,9 @@ programm::programm(const plattform::dienste& d)
                                                               rennen_->rennen, pflege_})),
       protokoll_(std::make_unique<tarvel::rennprotokoll>(
           tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, ablage, txt, d})),
+      wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(
+          tarvel::wiederaufnahme::umgebung{datei, *this, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen,
+                                           *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), d})),
       form3(start_->form3),
       update_form(start_->update_form),
       rennen(rennen_->rennen),
@@ -100,6 +104,7 @@ void programm::hauptfenster_verbinden() {
     form1.messgeraet_oeffnen = [this] { geraete.nachholen(); };
     form1.einzelrennen_beginnen = [this] { rennen_beginnen(einzelrennen); };
     form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };
+    form1.rennen_fortsetzen = [this] { wiederaufnahme_->anbieten(); };
     form1.training_beginnen = [this] { training_beginnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
@@ -256,7 +261,7 @@ bool programm::starten() {
     fahrerliste_laden();
     form1.listen_zeigen();
     datei.bestzeiten = this;  // not for the defaults before the settings are read
-    pflege_.nach_dem_start = [this] { wettkampf_->wettkampfablauf.unterbrochenen_anbieten(); };
+    pflege_.nach_dem_start = [this] { wiederaufnahme_->nach_dem_start_anbieten(); };
     pflege_.start_datei_bestimmen();
     if (pflege_.start_fragt() && fenster.gibt_es(fenstername::s6_fragefenster)) {
         geraete.von<tx_verdrahtung>().startmodus_fragen();  // its answer goes on

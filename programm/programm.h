@@ -49,6 +49,7 @@ class training;
 class update_form;
 class w_auswertung;
 class w_auswertung2;
+class wiederaufnahme;
 class veranstaltung;
 class wertung;
 class wettkampf1;
@@ -112,6 +113,7 @@ private:
     einstellungspflege pflege_;
     std::unique_ptr<messgeraete> geraete_;
     std::unique_ptr<tarvel::rennprotokoll> protokoll_;
+    std::unique_ptr<tarvel::wiederaufnahme> wiederaufnahme_;
 
 public:
     /// The wings, for what has no name of its own here: a window that only its drawing asks for needs none.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/protokollordner.h"
+#include "core/protokollzeile.h"
 #include "core/zeit.h"
 
 namespace tarvel {
@@ -20,15 +21,15 @@ void rennprotokoll::beginnen() {
     const zeit_ms jetzt = um_.dienste.uhr.jetzt();
     protokoll.schreiben(*this, jetzt, [&uhr = um_.dienste.uhr] { return uhr.jetzt(); });
     kopf_anhaengen(jetzt);
-    um_.rennen.zeit.stand_mitschreiben();
+    um_.rennen.zeit.stand_setzen(um_.rennen.zeit.stand());
     um_.ereignisse.stand_mitschreiben();
     um_.rennen.tanken.stand_mitschreiben();
 }
 
 void rennprotokoll::kopf_anhaengen(zeit_ms beginn) {
     const std::string zeitpunkt = uhrzeit_text(um_.dienste.kalender.jetzt());
-    for (const std::string& zeile :
-         kopf_schreiben({zeitpunkt, beginn, um_.datei.festhalten(), um_.param, um_.belegung})) {
+    for (const std::string& zeile : kopf_schreiben(
+             {zeitpunkt, beginn, um_.datei.festhalten(), um_.param, um_.belegung, um_.rennen.teil_von->kennung()})) {
         um_.rennen.protokoll.kopfzeile(zeile);
     }
 }
@@ -41,6 +42,7 @@ void rennprotokoll::abschliessen() {
     if (!fuehren || um_.rennen.protokoll.liest()) {
         return;
     }
+    um_.rennen.protokoll.kopfzeile(protokoll_geschlossen);
     um_.rennen.protokoll.aufhoeren();
     const bool ganz = datei_ != nullptr && !datei_->gescheitert();
     datei_.reset();
@@ -55,28 +57,51 @@ void rennprotokoll::aufraeumen() const {
 
 rennprotokoll::ausgang rennprotokoll::nachspielen(std::string_view inhalt) {
     protokollleser leser(inhalt);
-    std::vector<std::string_view> zeilen;
+    protokollstand stand;
     while (const auto zeile = leser.zeile()) {
-        zeilen.push_back(*zeile);
+        stand.zeilen.push_back(*zeile);
     }
-    const std::optional<gelesener_kopf> gelesen = kopf_lesen(zeilen);
+    std::optional<gelesener_kopf> gelesen = kopf_lesen(stand.zeilen);
     if (!gelesen) {
         return ausgang::fremd;
     }
-    um_.datei.einlesen(gelesen->kopf.einstellungen);
+    stand.kopf = std::move(gelesen->kopf);
+    um_.datei.einlesen(stand.kopf.einstellungen);
     um_.datei.einstellungsdatei_pruefen();
     if (um_.datei.fehler_laden()) {
         return ausgang::fremd;
     }
     um_.datei.einstellungen_uebernehmen({});
-    um_.belegung = gelesen->kopf.belegung;
-    um_.param = gelesen->kopf.param;
+    stand.zeilen.erase(stand.zeilen.begin(), stand.zeilen.begin() + static_cast<std::ptrdiff_t>(gelesen->zeilen));
+    stand.erste_zeile = static_cast<int>(gelesen->zeilen) + 1;
+    const ausgang wie = abspielen(stand);
+    return wie == ausgang::ganz && !leser.vollstaendig() ? ausgang::beschaedigt : wie;
+}
+
+rennprotokoll::ausgang rennprotokoll::abspielen(const protokollstand& stand) {
+    um_.belegung = stand.kopf.belegung;
+    um_.param = stand.kopf.param;
+    um_.ereignisse.vergessen();
     mitschrift& protokoll = um_.rennen.protokoll;
-    zeilen.erase(zeilen.begin(), zeilen.begin() + static_cast<std::ptrdiff_t>(gelesen->zeilen));
-    protokoll.lesen(std::move(zeilen), static_cast<int>(gelesen->zeilen) + 1, gelesen->kopf.beginn);
+    protokoll.lesen(stand.zeilen, stand.erste_zeile, stand.kopf.beginn);
     while (protokoll.weiter()) {
     }
-    return protokoll.abweichung() ? ausgang::anders : leser.vollstaendig() ? ausgang::ganz : ausgang::beschaedigt;
+    return protokoll.abweichung() ? ausgang::anders : ausgang::ganz;
+}
+
+bool rennprotokoll::weiterfuehren(const std::string& datei, const protokollstand& stand, dauer_ms seither) {
+    dateiname_ = datei;
+    datei_ = um_.dienste.anhaenge.oeffnen(um_.ablage.pfad(dateiname_), stand.bytes);
+    mitschrift& protokoll = um_.rennen.protokoll;
+    const zeit_ms vergangen = protokoll.gelesen_bis() - protokoll.beginn() + seither.count();
+    const zeit_ms beginn = um_.dienste.uhr.jetzt() - vergangen;
+    if (datei_ == nullptr) {
+        protokoll.aufhoeren();
+    } else {
+        protokoll.weiterschreiben(*this, stand.kette, beginn, [&uhr = um_.dienste.uhr] { return uhr.jetzt(); });
+    }
+    um_.rennen.maschine.zeitgeber_starten();
+    return datei_ != nullptr;
 }
 
 }  // namespace tarvel

@@ -8,7 +8,7 @@
 
 #include "core/einstellungsdatei.h"
 #include "hardware/tastenbelegung.h"
-#include "race/protokollkopf.h"
+#include "race/protokollstand.h"
 #include "race/rennen.h"
 
 namespace tarvel {
@@ -51,6 +51,11 @@ public:
     /// Does a race again from its log, with settings, set-up and keys as they were. The race is then as it was behind
     /// the last line, and all that stands for the world is left to whoever called.
     ausgang nachspielen(std::string_view inhalt);
+    /// The same of lines behind the head alone, in a program that has been set up by that.
+    ausgang abspielen(const protokollstand& stand);
+    /// What has been done again goes on, and its log with it: `seither` ms have passed. False if the log cannot be
+    /// kept; the race goes on all the same.
+    bool weiterfuehren(const std::string& datei, const protokollstand& stand, dauer_ms seither);
     /// The line of the log where it went another way.
     std::optional<mitschrift::unterschied> abweichung() const { return um_.rennen.protokoll.abweichung(); }
 

@@ -95,9 +95,9 @@ void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::str
     }
 }
 
-void wettkampfablauf::unterbrochenen_anbieten() {
+bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     if (!um_.ablage.gibt_es(laufender_wettkampf)) {
-        return;
+        return false;
     }
     const std::string pfad(laufender_wettkampf);
     const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
@@ -105,17 +105,18 @@ void wettkampfablauf::unterbrochenen_anbieten() {
     const auto& wort = um_.txt.wettkampf;
     const bool fortsetzen =
         gelesen && um_.meldungen.fragen(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
-                                            gelesen->beginn + " " + wort.nicht_beendet,
+                                            gelesen->beginn + " " + wort.nicht_beendet + rennen,
                                         um_.txt.titel[0]);
     const auto wie = um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
     const bool gut = gelesen && (!fortsetzen || laden(pfad, wie));
     if (gut && fortsetzen) {
-        return;
+        return true;
     }
     const std::string hier = um_.speicher.laufenden_aufheben();
     if (!gut) {
         um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + hier, um_.txt.titel[1]);
     }
+    return false;
 }
 
 }  // namespace tarvel

@@ -39,8 +39,9 @@ public:
     explicit wettkampfablauf(const umgebung& um) : um_(um) {}
     wettkampf1* vorbereitung = nullptr;  ///< set before the first competition
 
-    /// An evening that the end of the program has cut off is offered to go on.
-    void unterbrochenen_anbieten();
+    /// An evening that the end of the program has cut off is offered to go on. `rennen` tells of its race that was cut
+    /// off with it. True if it goes on.
+    bool unterbrochenen_anbieten(const std::string& rennen = {});
 
     void beginnen(const wettkampfvorgabe& vorgabe) override;
     void laden() override;

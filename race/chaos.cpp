@@ -1,20 +1,13 @@
 #include "race/chaos.h"
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 #include <string>
 #include <utility>
-
-#include "core/text.h"
 
 namespace tarvel {
 namespace {
 
 constexpr dauer_ms sammeltakt{10};  // of `ch_durch0`
-constexpr zeit_ms straftakt_ms = 12;
-constexpr zeit_ms strafe_zugabe_ms = 100;
-constexpr double strafe_max_s = 9999;
 
 }  // namespace
 
@@ -120,7 +113,7 @@ void chaos::loslassen_pruefen() {
 void chaos::chaos_umschalten() {
     if (!um_.zustand.chaos_aktiv) {
         pause_beginnen();
-    } else if (um_.einst.chaosampel_an && neustart_ampel != nullptr) {
+    } else if (mit_ampel() && neustart_ampel != nullptr) {
         um_.ereignisse[art::chaostaster].aktiv = um_.einst.chaos_schalter && um_.ereignisse[art::chaostaster].aktiv;
         neustart_ampel->pause_beenden();
     } else if (!am_geraet_fortsetzen()) {
@@ -128,7 +121,21 @@ void chaos::chaos_umschalten() {
     }
 }
 
-void chaos::pause_beginnen() {
+void chaos::nach_ausfall(zeit_ms seit) {
+    if (!um_.zustand.chaos_aktiv) {
+        pause_beginnen(seit);
+    }
+    sammeln_beenden();  // whoever rolled over the line meanwhile was seen by nobody
+    um_.zustand.pause.ausfall = true;
+    um_.zustand.pause.schalter_stand = false;  // nobody knows how the switch stands now
+    um_.ereignisse[art::chaostaster].aktiv = false;
+    um_.zeitgeber.chaos_schalter_at2560->aus();
+    gelb_zeigen(false);
+    um_.fenster.entladen(fenstername::k_ampel);  // its light had perhaps begun
+    um_.fenster.zeigen(fenstername::k_ampel);
+}
+
+void chaos::pause_beginnen(std::optional<zeit_ms> seit) {
     renn_zustand& zustand = um_.zustand;
     zustand.nachlauf_minuten = 0;
     zustand.pause.ch_zaehler = 0;
@@ -144,7 +151,7 @@ void chaos::pause_beginnen() {
     }
     um_.zeitgeber.chaostimer->an();
     um_.zeitgeber.chaostimer2->an();
-    zustand.pause.start = um_.moment_lesen();
+    zustand.pause.start = seit ? *seit : um_.moment_lesen();
     um_.protokoll.vermerken(vermerk::pause, {zustand.pause.start});
     um_.ereignisse.anhalten(zustand.pause.start);
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
@@ -203,26 +210,6 @@ void chaos::zeitgeber_fortsetzen() {
             um_.zeitgeber.tanktimer[spur]->an();
         }
     }
-}
-
-void chaos::strafformular_zeigen() {
-    if (um_.einst.chaos_strafzeit < 0s) {
-        return;
-    }
-    for (const int spur : alle_spuren) {
-        um_.bahn.ch_strafzeit_hacken[spur].sichtbar(um_.param.spur_aktiv[spur]);
-    }
-    um_.bahn.ch_Text1.laenge_max(4);
-    um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit.count()));
-    um_.bahn.ch_strafframe.sichtbar(true);
-}
-
-void chaos::strafformular_schliessen() {
-    for (haken& kasten : um_.bahn.ch_strafzeit_hacken) {
-        kasten.gesetzt(false);
-        kasten.sichtbar(false);
-    }
-    um_.bahn.ch_strafframe.sichtbar(false);
 }
 
 void chaos::gelb_zeigen(bool an) {
@@ -301,6 +288,10 @@ void chaos::chaosende_routine() {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
     const zeit_ms ende = um_.moment_lesen();
+    if (std::exchange(zustand.pause.ausfall, false)) {
+        um_.ausgaben.aufleben();
+        um_.quellen.melden(&messquelle::rennen_fortgesetzt);
+    }
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
     um_.ereignisse.messzeit = ende;  // events are stamped with it, and no tick has read the clock in the pause
     um_.zeitgeber.ch_durch0->aus();
@@ -338,58 +329,6 @@ void chaos::chaosende_routine() {
     um_.bahn.cu_startframe.sichtbar(false);
 }
 
-void chaos::unverbuesste_abschalten() {
-    for (const int spur : alle_spuren) {
-        const spur_zustand& zustand = um_.zustand.spur[spur];
-        if (zustand.tank_strafe_aktiv || zustand.ch_strafe_rest > 0) {
-            t_.strafe.spur_strom_aus(spur);
-        }
-    }
-}
-
-void chaos::strafen_verteilen() {
-    const double sekunden = std::bit_cast<double>(um_.protokoll.antwort("strafzeit", [this] {
-        return std::bit_cast<std::int64_t>(std::clamp(zahl_lesen(um_.bahn.ch_Text1.text()), 0.0, strafe_max_s));
-    }));
-    const std::int64_t schuldige = um_.protokoll.antwort("schuldige", [this] {
-        std::int64_t spuren = 0;
-        for (const int spur : alle_spuren) {
-            spuren |= um_.bahn.ch_strafzeit_hacken[spur].gesetzt() ? std::int64_t{1} << spur : 0;
-        }
-        return spuren;
-    });
-    for (const int spur : alle_spuren) {
-        if ((schuldige >> spur & 1) == 0) {
-            continue;
-        }
-        spur_zustand& zustand = um_.zustand.spur[spur];
-        if (um_.einst.chaos_strafe_strom) {
-            t_.strafe.zeitstrafe(spur, dauer_s(std::lround(sekunden)));
-        } else {
-            if (!std::exchange(zustand.fruehstart_sperre, true)) {
-                zustand.sperre.von = um_.zustand.pause.start + um_.zustand.pause.dauer;
-            }
-            um_.protokoll.vermerken(vermerk::strafe, {spur, std::llround(sekunden), 1});
-            zustand.ch_strafe_rest += std::llround(sekunden * 1000) + strafe_zugabe_ms;
-            um_.zeitgeber.straftimer_ch[spur]->an();
-            t_.strafe.spur_strom_aus(spur);
-        }
-    }
-}
-
-void chaos::straftimer_ch_tick(int spur) {
-    spur_zustand& zustand = um_.zustand.spur[spur];
-    if (!um_.zustand.chaos_aktiv) {
-        zustand.ch_strafe_rest -= straftakt_ms;
-    }
-    if (zustand.ch_strafe_rest <= 0) {
-        zustand.ch_strafe_rest = 0;
-        um_.zeitgeber.straftimer_ch[spur]->aus();
-        zustand.fruehstart_sperre = false;
-        t_.strafe.spur_strom_an(spur);
-    }
-}
-
 void chaos::chaos_nachholen() {
     um_.zeitgeber.chaos_runden->aus();
     for (const int spur : alle_spuren) {
@@ -404,6 +343,7 @@ void chaos::chaos_nachholen() {
 }
 
 void chaos::aufheben() {
+    um_.ausgaben.aufleben();
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
         const zeit_ms jetzt = um_.zeit.messzeit_lesen();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/schnittstelle.h"
 #include "race/fruehstartstrafe.h"
@@ -41,6 +42,8 @@ public:
     /// Begins a pause, or ends the one that is.
     void chaos_umschalten();
     void chaosende_routine();
+    /// The program was away from this stamp on: the race stands still since then, and goes on by the small light.
+    void nach_ausfall(zeit_ms seit);
     /// The race ends in its pause: nothing of the pause stays.
     void aufheben();
     /// A device is gone whose switch may have begun the pause: it ends by command.
@@ -52,7 +55,10 @@ private:
     /// The device runs the light that ends the pause.
     bool am_geraet_fortsetzen();
     bool gruen_am_geraet();
-    void pause_beginnen();
+    /// From now on, or from an earlier stamp.
+    void pause_beginnen(std::optional<zeit_ms> seit = {});
+    /// A light ends the pause that is.
+    bool mit_ampel() const { return um_.einst.chaosampel_an || um_.zustand.pause.ausfall; }
     /// Whose button it was, and what is to do at a device.
     void hinweis_zeigen();
     void zeitgeber_anhalten();

@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view kennung = "Tarvel-Rennprotokoll 1";
 constexpr std::string_view einstellung = "E";
 constexpr std::string_view tasten = "Tasten";
+constexpr std::string_view teil = "Teil";
 constexpr std::string_view ende = "Anfang";
 
 /// Each value of the head with its name.
@@ -84,6 +85,7 @@ std::vector<std::string> kopf_schreiben(const protokollkopf& kopf) {
         codes += " " + std::to_string(kopf.belegung.taste(zeile));
     }
     zeilen.push_back(codes);
+    zeilen.push_back(std::string(teil) + " " + kopf.teil_von);
     for (const std::string& zeile : kopf.einstellungen) {
         zeilen.push_back(std::string(einstellung) + " " + zeile);
     }
@@ -113,6 +115,8 @@ std::optional<gelesener_kopf> kopf_lesen(std::span<const std::string_view> zeile
         const std::string_view name = naechstes_wort(rest);
         if (name == einstellung) {
             gelesen.kopf.einstellungen.emplace_back(rest);
+        } else if (name == teil) {
+            gelesen.kopf.teil_von = rest;
         } else if (name == tasten) {
             for (int zeile = 0; zeile <= tastenbelegung::zeile_max; ++zeile) {
                 gelesen.kopf.belegung.taste(zeile, static_cast<int>(als_zahl(naechstes_wort(rest)).value_or(0)));

@@ -19,6 +19,7 @@ struct protokollkopf {
     std::vector<std::string> einstellungen;  ///< the lines of a settings file
     renn_parameter param;
     tastenbelegung belegung;
+    std::string teil_von;  ///< what the race is part of, as `veranstaltung::kennung`
 };
 
 /// The lines, without the mark that makes them lines of the head.

@@ -24,12 +24,16 @@ inline constexpr std::string_view leer = "Leer";  ///< number of the `leer_aktio
 inline constexpr std::string_view voll = "Voll";
 inline constexpr std::string_view tankt = "Tankt";  ///< hundredths of a litre at the beginning
 inline constexpr std::string_view ziel = "Ziel";
-inline constexpr std::string_view letzte = "Letzte";  ///< no lane; stamp from which the race is run to its end
-inline constexpr std::string_view ende = "Ende";      ///< no lane; stamp of the end, 1 if it was ended by hand
+inline constexpr std::string_view letzte = "Letzte";    ///< no lane; stamp from which the race is run to its end
+inline constexpr std::string_view ende = "Ende";        ///< no lane; stamp of the end, 1 if it was ended by hand
+inline constexpr std::string_view abbruch = "Abbruch";  ///< no lane; broken off without a result
 
 }  // namespace tarvel::vermerk
 
 namespace tarvel {
+
+/// Line behind the doings: the race window was closed.
+inline constexpr std::string_view protokoll_geschlossen = "Geschlossen";
 
 /// Why a crossing was not counted. The numbers stand in logs.
 enum class ablehnung {

@@ -78,6 +78,7 @@ struct pausen_zustand {
     bool schalter_stand = false;   ///< the chaos switch was seen on
     zeit_ms schalter_zuletzt = 0;  ///< stamp at which it was last seen on after a pause
     bool nachlauf_nach_pause = false;
+    bool ausfall = false;           ///< the program was away: it ends by the small light, whatever the settings say
     bool geraet_rot = false;        ///< the light of the device has been red in this pause
     zeit_ms neustart_verlangt = 0;  ///< stamp at which that light was asked for, 0 not yet
 };

@@ -65,6 +65,7 @@ void rennbefehle::taste(int code, std::optional<zeit_ms> alter) {
 }
 
 void rennbefehle::rennen_abbrechen() {
+    um_.protokoll.vermerken(vermerk::abbruch);
     um_.fenster.entladen(fenstername::Form2);
     um_.fenster.entladen(fenstername::auswertung);
     um_.sounds.spielen(sound::rennen_abgebrochen);

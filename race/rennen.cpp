@@ -44,6 +44,7 @@ rennen::rennen(const plattform::dienste& echte, const umfeld& um)
       ablauf(umgebung, {plaetze, uhr, ende, zaehlung, ansicht, blinken, fruehstartstrafe, tanken, sektoren, sensoren}),
       chaos(umgebung, {ablauf, ansicht, strafen, fruehstartstrafe}),
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
+      ausfall(umgebung, {zaehlung, chaos}),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
       fenster(umgebung, {ablauf, ansicht, befehle}) {
     protokoll.nebenbei(

@@ -3,6 +3,7 @@
 #include "core/fensterlogik.h"
 #include "core/mitschriftdienste.h"
 #include "platform/dienste.h"
+#include "race/ausfall.h"
 #include "race/blinken.h"
 #include "race/chaos.h"
 #include "race/fortsetzung.h"
@@ -108,6 +109,7 @@ struct rennen final : private rennabschluss {
     rennablauf ablauf;
     tarvel::chaos chaos;
     tarvel::fortsetzung fortsetzung;
+    tarvel::ausfall ausfall;
     rennbefehle befehle;
     rennfenster fenster;
 

@@ -42,6 +42,8 @@ enum class weitergang { wiederholen, neu_starten, fortsetzen, verlassen };
 /// result window ask it what is allowed and where they lead, and nothing else tells the kinds of evening apart.
 class veranstaltung : public schnittstelle {
 public:
+    /// Its kind, and what else it takes to find it again after an outage.
+    virtual std::string kennung() const = 0;
     virtual starter wer_startet() const { return starter::bediener; }
     /// The result window goes on by itself, and so must the start that follows; false once it has.
     virtual void von_selbst_starten(bool /*an*/) {}

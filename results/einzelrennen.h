@@ -23,6 +23,7 @@ public:
 
     explicit einzelrennen(const umgebung& um) : um_(um) {}
 
+    std::string kennung() const override { return "einzelrennen"; }
     bool ist_fueller(int spur) const override { return um_.txt.ist_freier_platz(um_.param.fahrer_name[spur]); }
     bool fueller_fahren(bool fortgesetzt) const override { return !fortgesetzt || um_.einst.freie_slots; }
     std::optional<rennziel> fortsetzbar_bis() const override { return renn_maximum(um_.param); }

@@ -105,6 +105,7 @@ void k_ampel::strom_aus() {
 }
 
 void k_ampel::Command1_klick() {
+    um_.ausgaben.aufleben();     // they may have slept since an outage
     um_.ausgaben.ampelnGRoff();  // the rest state's green must not burn beside the reds
     const int vorab = lampe_vor_dem_ersten(um_.einst.start_ampel_modus);
     for (int lampe = 1; lampe <= vorab; ++lampe) {

@@ -225,6 +225,7 @@ QWidget* Form1Fenster::rennbefehle() {
     aufbau->addWidget(hoher_knopf(logik_.Command3, "Command3"));
     aufbau->addWidget(hoher_knopf(logik_.command17, "command17"));
     aufbau->addWidget(hoher_knopf(logik_.Command18, "Command18"));
+    aufbau->addWidget(hoher_knopf(logik_.command_fortsetzen, "command_fortsetzen"));
     aufbau->addStretch();
     QPushButton* ende = hoher_knopf(logik_.Command2, "Command2");
     ende->setMinimumWidth(110);

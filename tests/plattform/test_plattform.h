@@ -49,6 +49,7 @@ public:
     /// Moves the clock alone: no timer fires.
     void uhr_stellen(zeit_ms dauer) { jetzt_ += dauer; }
     zeit_ms jetzt() const override { return jetzt_; }
+    void datum_stellen(const plattform::datum_uhrzeit& moment) { kalender_.moment = moment; }
     /// Timers that run, those of threads among them.
     std::size_t laufende_zeitgeber() const { return laufende_.size(); }
 
@@ -93,7 +94,8 @@ private:
     plattform::groesse_px groesse() const override { return bildschirm_groesse; }
 
     struct feste_uhrzeit final : plattform::kalender {
-        plattform::datum_uhrzeit jetzt() const override { return {2026, 11, 21, 14, 3, 22}; }
+        plattform::datum_uhrzeit jetzt() const override { return moment; }
+        plattform::datum_uhrzeit moment{2026, 11, 21, 14, 3, 22};
     };
 
     feste_uhrzeit kalender_;

@@ -1,0 +1,226 @@
+#include "programm/wiederaufnahme.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "core/protokollfortsetzung.h"
+#include "core/protokollordner.h"
+#include "core/protokollzeile.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t gesucht_max = 20;  // logs that are looked at
+constexpr std::chrono::hours ausfall_max{24};
+constexpr std::string_view abend_kennung = "wettkampf";
+
+using sekunden = std::chrono::sys_seconds;
+
+sekunden als_zeitpunkt(const plattform::datum_uhrzeit& d) {
+    using namespace std::chrono;
+    const year_month_day tag = year(d.jahr) / d.monat / d.tag;
+    return tag.ok() ? sys_days(tag) + hours(d.stunde) + minutes(d.minute) + seconds(d.sekunde) : sekunden{};
+}
+
+/// Day.month.year-hours:minutes:seconds, as the head of a log has it.
+plattform::datum_uhrzeit datum_lesen(std::string_view text) {
+    plattform::datum_uhrzeit d{};
+    for (int* teil : {&d.tag, &d.monat, &d.jahr, &d.stunde, &d.minute, &d.sekunde}) {
+        const std::size_t ende = std::min(text.find_first_of(".-:"), text.size());
+        *teil = static_cast<int>(als_zahl(text.substr(0, ende)).value_or(0));
+        text.remove_prefix(std::min(ende + 1, text.size()));
+    }
+    return d;
+}
+
+}  // namespace
+
+std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string& name) const {
+    kandidat k;
+    k.datei = std::string(protokoll_ordner) + "\\" + name;
+    auto gelesen = protokollfortsetzung::lesen(um_.ablage.pfad(k.datei));
+    if (!gelesen) {
+        return std::nullopt;
+    }
+    k.inhalt = std::make_unique<const std::string>(gelesen->inhalt());
+    auto stand = protokollstand_lesen(*k.inhalt);
+    if (!stand || !stand->fortsetzbar()) {
+        return std::nullopt;
+    }
+    k.stand = std::move(*stand);
+    return k;
+}
+
+std::string wiederaufnahme::frage(const protokollstand& stand) const {
+    const auto& wort = um_.txt.wettkampf;
+    const std::string& zeitpunkt = stand.kopf.zeitpunkt;
+    const std::string heute = datum_text(um_.dienste.kalender.jetzt());
+    const std::size_t strich = zeitpunkt.find('-');
+    const std::string uhrzeit = strich == std::string::npos ? zeitpunkt : zeitpunkt.substr(strich + 1, 5);
+    std::string text = wort.das_rennen + " ";
+    text += zeitpunkt.starts_with(heute) ? uhrzeit : zeitpunkt.substr(0, strich) + ", " + uhrzeit;
+    text += stand.beendet
+                ? " " + wort.gefahren
+                : " " + wort.in_runde + " " + std::to_string(stand.fuehrungsrunden() + 1) + " " + wort.unterbrochen;
+    std::vector<int> dabei;
+    for (const int spur : alle_spuren) {
+        if (stand.kopf.param.spur_aktiv_gemerkt[spur]) {
+            dabei.push_back(spur);
+        }
+    }
+    std::stable_sort(dabei.begin(), dabei.end(), [&](int a, int b) { return stand.runden[a] > stand.runden[b]; });
+    text += "\n";
+    for (const int spur : dabei) {
+        text += "\n" + stand.fahrer[spur] + ": " + std::to_string(std::max(stand.runden[spur], 0)) + " " +
+                um_.txt.text_runden;
+    }
+    return text;
+}
+
+void wiederaufnahme::nach_dem_start_anbieten() {
+    const std::vector<std::string> namen = neueste_protokolle(um_.ablage, 1);
+    std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
+    if (k && (k->stand.geschlossen || k->stand.abgebrochen)) {
+        k.reset();  // nobody has lost it
+    }
+    if (k && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+        if (um_.wettkampf.wettkampfablauf.unterbrochenen_anbieten("\n\n" + frage(k->stand))) {
+            fortsetzen(*k);
+        } else {
+            weglegen(*k);
+        }
+        return;
+    }
+    if (k && um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0])) {
+        fortsetzen(*k);
+        return;
+    }
+    if (k) {
+        weglegen(*k);
+    }
+    um_.wettkampf.wettkampfablauf.unterbrochenen_anbieten();
+}
+
+void wiederaufnahme::anbieten() {
+    using antwort = plattform::dreifache_antwort;
+    for (const std::string& name : neueste_protokolle(um_.ablage, gesucht_max)) {
+        const std::optional<kandidat> k = lesen(name);
+        if (!k || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+            continue;  // that one waits in its evening
+        }
+        const antwort will = um_.dienste.meldungen.fragen_mit_ausweg(frage(k->stand), um_.txt.titel[0]);
+        if (will == antwort::ja) {
+            fortsetzen(*k);
+        }
+        if (will != antwort::nein) {
+            return;
+        }
+    }
+    um_.dienste.meldungen.zeigen(um_.txt.wettkampf.keines, um_.txt.titel[0]);
+}
+
+bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
+    if (um_.datei.festhalten() == kopf.einstellungen) {
+        return true;
+    }
+    um_.datei.einlesen(kopf.einstellungen);
+    um_.datei.einstellungsdatei_pruefen();
+    if (um_.datei.fehler_laden()) {
+        return false;
+    }
+    um_.datei.einstellungen_uebernehmen({});
+    um_.folgen.einstellungen_geladen(true);
+    return true;
+}
+
+bool wiederaufnahme::eingliedern(std::string_view kennung) {
+    std::string_view rest = kennung;
+    const std::string_view art = naechstes_wort(rest);
+    if (art == abend_kennung) {
+        const auto rennen = als_zahl(naechstes_wort(rest)).value_or(0);
+        const auto teil = als_zahl(rest).value_or(1);
+        return um_.wettkampf.wettkampfabend.wettkampf_aktiv() &&
+               um_.wettkampf.wettkampfabend.rennen_wiederaufnehmen(static_cast<int>(rennen), static_cast<int>(teil));
+    }
+    ergebnisfluegel& e = um_.ergebnisse;
+    if (art == "tagesrennen") {
+        e.tagesrennen.datei = rest;
+    }
+    const std::array<std::pair<std::string_view, veranstaltung*>, 4> alle{{{"tagesrennen", &e.tagesrennen},
+                                                                           {"training", &e.training},
+                                                                           {"intervalltraining", &e.intervalltraining},
+                                                                           {"einzelrennen", &e.einzelrennen}}};
+    const auto gefunden = std::find_if(alle.begin(), alle.end(), [&](const auto& eine) { return eine.first == art; });
+    um_.rennen.teil_von.wechseln(gefunden == alle.end() ? e.einzelrennen : *gefunden->second);
+    return true;
+}
+
+dauer_ms wiederaufnahme::vergangen(const protokollstand& stand) const {
+    const sekunden beginn = als_zeitpunkt(datum_lesen(stand.kopf.zeitpunkt));
+    const dauer_ms seit_beginn = als_zeitpunkt(um_.dienste.kalender.jetzt()) - beginn;
+    return std::clamp<dauer_ms>(seit_beginn - dauer_ms(stand.dauer), 0ms, ausfall_max);
+}
+
+void wiederaufnahme::fortsetzen(const kandidat& k) {
+    if (!einrichten(k.stand.kopf) || !eingliedern(k.stand.kopf.teil_von)) {
+        melden(um_.txt.wettkampf.nicht_fortsetzbar);
+        return;
+    }
+    const mitschrift::werte uhrstand = um_.rennen.zeit.stand();
+    um_.fenster.stillhalten({fenstername::bahn1, fenstername::Form2, fenstername::k_ampel});
+    um_.ausgang.stillhalten();
+    const bool fuehren = std::exchange(um_.protokoll.fuehren, false);
+    um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
+    um_.protokoll.fuehren = fuehren;
+    if (um_.protokoll.abspielen(k.stand) != rennprotokoll::ausgang::ganz) {
+        um_.fenster.entladen(fenstername::k_ampel);
+        um_.fenster.entladen(fenstername::bahn1);
+        um_.rennen.protokoll.aufhoeren();
+        um_.rennen.zeit.freigeben();
+        um_.fenster.aufleben();
+        um_.ausgang.ruhezustand();
+        um_.ausgang.aufleben();
+        melden(um_.txt.wettkampf.nicht_fortsetzbar);
+        return;
+    }
+    aufwachen(k, uhrstand);
+}
+
+void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrstand) {
+    const bool mit_ergebnis = um_.fenster.ist_offen(fenstername::auswertung) && um_.rennen.zustand.rennen_beendet;
+    const dauer_ms seither = vergangen(k.stand);
+    const zeit_ms letzte = um_.rennen.zeit.messzeit_lesen();
+    const bool mit_protokoll = um_.protokoll.weiterfuehren(k.datei, k.stand, seither);
+    um_.rennen.zeit.stand_setzen(uhrstand);
+    const zeit_ms seit = um_.rennen.zeit.messzeit_lesen() - seither.count();
+    um_.geraete.stempel_verschieben(seit - letzte);
+    um_.rennen.ausfall.ueberstehen(seit);
+    um_.fenster.aufleben();
+    if (mit_ergebnis) {
+        um_.ausgang.aufleben();
+        um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
+    } else {
+        um_.quellen.melden(&messquelle::rennen_bereit);
+    }
+    if (!mit_protokoll) {
+        melden(um_.txt.wettkampf.ohne_protokoll);
+    }
+}
+
+void wiederaufnahme::weglegen(const kandidat& k) const {
+    const auto ende = protokollfortsetzung::lesen(um_.ablage.pfad(k.datei));
+    if (!ende || ende->beschaedigt()) {
+        return;
+    }
+    if (const auto datei = ende->oeffnen(um_.dienste.anhaenge)) {
+        protokollschreiber zeile;
+        zeile.fortsetzen(ende->kette());
+        datei->anhaengen(zeile.beginnen(0).wort("#").wort(protokoll_geschlossen).fertig());
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "hardware/rennverbindung.h"
+#include "programm/fluegel.h"
+#include "programm/rennprotokoll.h"
+
+namespace tarvel {
+
+/// Races that were cut off: by an outage, or by the director himself, who wants it back.
+class wiederaufnahme {
+public:
+    struct umgebung {
+        einstellungsdatei& datei;
+        einstellungsfolgen& folgen;
+        fensterregister& fenster;
+        ausgaben& ausgang;
+        const messquellen& quellen;
+        const dateien& ablage;
+        const texte& txt;
+        tarvel::rennen& rennen;
+        ergebnisfluegel& ergebnisse;
+        wettkampffluegel& wettkampf;
+        rennprotokoll& protokoll;
+        rennverbindung& geraete;
+        plattform::dienste dienste;
+    };
+
+    explicit wiederaufnahme(const umgebung& um) : um_(um) {}
+
+    /// The last race, if the program before has not come to its end, and the evening that it is part of.
+    void nach_dem_start_anbieten();
+    /// One after the other, the newest first.
+    void anbieten();
+
+private:
+    struct kandidat {
+        std::string datei;  ///< below the program folder
+        std::unique_ptr<const std::string> inhalt;
+        protokollstand stand;  ///< its lines lie in `inhalt`
+    };
+
+    std::optional<kandidat> lesen(const std::string& name) const;
+    std::string frage(const protokollstand& stand) const;
+    void fortsetzen(const kandidat& k);
+    bool einrichten(const protokollkopf& kopf);
+    /// Makes the race part of what it was part of. False if that is no more.
+    bool eingliedern(std::string_view kennung);
+    /// Since the last line of the log, by the calendar.
+    dauer_ms vergangen(const protokollstand& stand) const;
+    void aufwachen(const kandidat& k, const mitschrift::werte& uhrstand);
+    /// Nobody wants it now: it is not asked for at the next start.
+    void weglegen(const kandidat& k) const;
+    void melden(const std::string& text) const { um_.dienste.meldungen.zeigen(text, um_.txt.titel[1]); }
+
+    umgebung um_;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,159 @@
+// Races that were cut off: by the end of the program, in any line of their log, or by hand. And what becomes of them.
+
+#include "programm/rennprotokoll.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "core/text.h"
+#include "tests/plattform/testprogramm.h"
+#include "tests/plattform/umgebung.h"
+
+namespace tarvel {
+namespace {
+
+/// The next start of the program, on a machine whose clock has begun anew. It finds this log.
+struct neustart {
+    neustart(const test::testprogramm& vorher, std::string_view protokoll, zeit_ms uhr = 5000) {
+        std::string name = vorher.p.rennprotokoll.dateiname();
+        std::replace(name.begin(), name.end(), '\\', '/');
+        maschine.uhr_stellen(uhr - maschine.jetzt());
+        maschine.datei_schreiben(name, std::string(protokoll));
+        maschine.antwort = true;
+    }
+
+    rennen& lauf() { return p.rennen; }
+    spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
+    void weiter() {
+        p.k_ampel.Command1.klicken();
+        maschine.laufen(3 * 1500 + 2500);
+    }
+
+    test::test_plattform maschine;
+    programm p{maschine.dienste()};
+};
+
+std::string protokoll_von(const test::testprogramm& t) {
+    std::string name = t.p.rennprotokoll.dateiname();
+    std::replace(name.begin(), name.end(), '\\', '/');
+    return t.maschine.datei_lesen(name);
+}
+
+class Wiederaufnahme : public testing::Test {
+protected:
+    void SetUp() override {
+        t_.p.belegung.vorbelegen(belegung_stufe::alle);
+        t_.p.form1.wertmin.eingeben("1");
+    }
+
+    test::testprogramm t_;
+};
+
+TEST_F(Wiederaufnahme, NachEinemAusfallGehtDasRennenWeiterAlsWaereErEinePause) {
+    t_.starten("Runden", "10", {1, 2});
+    t_.runde_nach(4000, "12");
+    for (int runde = 0; runde < 3; ++runde) {
+        t_.runde_nach(4000, "1");
+        t_.runde_nach(1000, "2");
+    }
+    t_.maschine.laufen(2400);  // lane 1 has driven 3.4 s of its lap, lane 2 2.4 s
+
+    neustart danach(t_, protokoll_von(t_));
+    danach.maschine.datum_stellen({2026, 11, 21, 14, 30, 0});
+    danach.p.starten();
+
+    ASSERT_EQ(danach.maschine.fragen_gestellt.size(), 1U);
+    const std::string& frage = danach.maschine.fragen_gestellt.front().text;
+    EXPECT_TRUE(frage.starts_with("Das Rennen von 14:03 wurde in Runde 4 unterbrochen. Fortsetzen?\n")) << frage;
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1))
+        << testing::PrintToString(danach.maschine.meldungen_gezeigt);
+    EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::k_ampel));
+    EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    const rundenkonto& konto = danach.lauf().zustand.konto;
+    const rundenkonto& vorher = t_.p.rennen.zustand.konto;
+    for (const int spur : {1, 2}) {
+        ASSERT_EQ(konto.runden(spur), 3);
+        for (int runde = 1; runde <= 3; ++runde) {
+            EXPECT_EQ(konto.rundenzeit(spur, runde), vorher.rundenzeit(spur, runde));
+        }
+    }
+    danach.weiter();
+    EXPECT_FALSE(danach.lauf().zustand.chaos_aktiv);
+    danach.maschine.laufen(1600);
+    danach.p.rennen.befehle.taste('1');
+    danach.p.rennen.befehle.taste('2');
+    danach.maschine.laufen(1);
+    EXPECT_NEAR(static_cast<double>(konto.rundenzeit(1, 4)), 5000, 210) << "the last sign of life is a moment old";
+    EXPECT_EQ(konto.rundenzeit(1, 4) - konto.rundenzeit(2, 4), 1000);
+    for (int runde = 4; runde < 10; ++runde) {
+        danach.maschine.laufen(4999);
+        danach.p.rennen.befehle.taste('1');
+        danach.maschine.laufen(1);
+        EXPECT_EQ(konto.rundenzeit(1, runde + 1), 5000);
+    }
+    danach.p.rennen.bahn1.Command4.klicken();
+    EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
+    EXPECT_EQ(konto.runden(1), 10);
+    EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
+}
+
+TEST_F(Wiederaufnahme, WerNichtWillWirdNichtNochEinmalGefragtUndKannEsSpaeter) {
+    t_.starten("Zeit", "10", {1});
+    t_.runde_nach(5000, "1");
+    t_.runde_nach(5000, "1");
+    neustart danach(t_, protokoll_von(t_));
+    danach.maschine.antwort = false;
+    danach.p.starten();
+    EXPECT_FALSE(danach.p.fenster.ist_offen(fenstername::bahn1));
+
+    neustart morgen(t_, danach.maschine.datei_lesen("Ergebnisse/Protokoll/2026-11-21 14-03-22.txt"));
+    morgen.p.starten();
+    EXPECT_TRUE(morgen.maschine.fragen_gestellt.empty());
+    morgen.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    morgen.p.form1.command_fortsetzen.klicken();
+    EXPECT_TRUE(morgen.lauf().zustand.chaos_aktiv);
+    EXPECT_EQ(morgen.lauf().zustand.konto.runden(1), 1);
+}
+
+TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
+    t_.starten("Zeit", "10", {1});
+    t_.runde_nach(5000, "1");
+    t_.runde_nach(5000, "1");
+    t_.maschine.antwort = true;
+    t_.maschine.waehrend_frage = [this] { t_.runde_nach(5000, "1"); };
+    t_.p.rennen.befehle.fenster_schliessen();
+    t_.maschine.waehrend_frage = {};
+    ASSERT_FALSE(t_.p.fenster.ist_offen(fenstername::bahn1));
+
+    t_.maschine.laufen(60000);
+    t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t_.p.form1.command_fortsetzen.klicken();
+    ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1)) << testing::PrintToString(t_.maschine.meldungen_gezeigt);
+    EXPECT_TRUE(t_.p.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(t_.runden(1), 2) << "the lap while the question stood was driven";
+    t_.p.k_ampel.Command1.klicken();
+    t_.maschine.laufen(7000);
+    EXPECT_FALSE(t_.p.rennen.zustand.chaos_aktiv);
+    t_.runde_nach(4000, "1");
+    EXPECT_EQ(t_.p.rennen.zustand.konto.rundenzeit(1, 3), 4000);
+    t_.bahn().Command4.klicken();
+    EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
+}
+
+TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtWieder) {
+    t_.starten("Runden", "2", {1});
+    t_.runde_nach(5000, "1");
+    t_.runde_nach(6000, "1");
+    t_.runde_nach(7000, "1");
+    ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::auswertung));
+    neustart danach(t_, protokoll_von(t_));
+    danach.p.starten();
+    ASSERT_EQ(danach.maschine.fragen_gestellt.size(), 1U);
+    EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
+    EXPECT_EQ(danach.lauf().zustand.konto.runden(1), t_.runden(1));
+}
+
+}  // namespace
+}  // namespace tarvel
