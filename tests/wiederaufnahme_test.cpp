@@ -4,42 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-
-#include "core/text.h"
-#include "tests/plattform/testprogramm.h"
-#include "tests/plattform/umgebung.h"
+#include "tests/plattform/neustart.h"
 
 namespace tarvel {
 namespace {
 
-/// The next start of the program, on a machine whose clock has begun anew. It finds this log.
-struct neustart {
-    neustart(const test::testprogramm& vorher, std::string_view protokoll, zeit_ms uhr = 5000) {
-        std::string name = vorher.p.rennprotokoll.dateiname();
-        std::replace(name.begin(), name.end(), '\\', '/');
-        maschine.uhr_stellen(uhr - maschine.jetzt());
-        maschine.datei_schreiben(name, std::string(protokoll));
-        maschine.antwort = true;
-    }
-
-    rennen& lauf() { return p.rennen; }
-    spur_zustand& spur(int nummer) { return p.rennen.zustand.spur[nummer]; }
-    void weiter() {
-        p.k_ampel.Command1.klicken();
-        maschine.laufen(3 * 1500 + 2500);
-    }
-
-    test::test_plattform maschine;
-    programm p{maschine.dienste()};
-};
-
-std::string protokoll_von(const test::testprogramm& t) {
-    std::string name = t.p.rennprotokoll.dateiname();
-    std::replace(name.begin(), name.end(), '\\', '/');
-    return t.maschine.datei_lesen(name);
-}
+using test::neustart;
+using test::protokoll_von;
 
 class Wiederaufnahme : public testing::Test {
 protected:

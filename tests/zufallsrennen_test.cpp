@@ -4,6 +4,7 @@
 #include <random>
 
 #include "competition/einfahren.h"
+#include "tests/plattform/neustart.h"
 #include "tests/plattform/umgebung.h"
 #include "tests/plattform/vereinsabend.h"
 #include "tests/programm_probe.h"
@@ -49,6 +50,24 @@ public:
         EXPECT_FALSE(zustand().chaos_aktiv);
         EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
     }
+    /// The program goes away somewhere in the race, and comes back on a machine with another clock.
+    void abreissen() {
+        const std::string ganz = test::protokoll_von(t_);
+        const std::string bis = ganz.substr(0, ganz.size() / 16 + z_() % (ganz.size() * 15 / 16));
+        const auto stand = protokollstand_lesen(bis);
+        test::neustart danach(t_, bis, 1000 + unter(3000000));
+        danach.p.starten();
+        if (!stand || !stand->fortsetzbar()) {
+            return;
+        }
+        SCOPED_TRACE("after " + std::to_string(stand->bytes) + " bytes");
+        ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1));
+        test::testprogramm nur_gelesen;
+        nur_gelesen.p.rennprotokoll.nachspielen(bis.substr(0, stand->bytes));
+        nur_gelesen.p.rennen.ausfall.ueberstehen(nur_gelesen.p.rennen.zeit.messzeit_lesen());
+        vergleichen(danach.lauf().zustand, nur_gelesen.p.rennen.zustand);
+        weiterfahren(danach);
+    }
 
 private:
     static constexpr int laengstens_ms = 300000;
@@ -63,6 +82,69 @@ private:
         zeit_ms pausen_bis_runde = 0;
         bool zusammenhang = false;  ///< the lap before was counted under our eyes
     };
+
+    /// The same race, on another clock.
+    static void vergleichen(const renn_zustand& ist, const renn_zustand& soll) {
+        const zeit_ms um = ist.start_zeit - soll.start_zeit;
+        EXPECT_EQ(ist.chaos_aktiv, soll.chaos_aktiv);
+        EXPECT_EQ(ist.rennen_beendet, soll.rennen_beendet);
+        EXPECT_EQ(ist.pause_abzug, soll.pause_abzug);
+        EXPECT_EQ(ist.renn_ende_zeit, soll.renn_ende_zeit + um);
+        for (const int nummer : alle_spuren) {
+            SCOPED_TRACE(nummer);
+            const spur_zustand& s = ist.spur[nummer];
+            const spur_zustand& v = soll.spur[nummer];
+            EXPECT_EQ(ist.konto.beste(nummer), soll.konto.beste(nummer));
+            ASSERT_EQ(ist.konto.runden(nummer), soll.konto.runden(nummer));
+            for (int runde = 0; runde <= ist.konto.runden(nummer); ++runde) {
+                EXPECT_EQ(ist.konto.rundenzeit(nummer, runde), soll.konto.rundenzeit(nummer, runde));
+                const zeit_ms stempel = soll.konto.stempel(nummer, runde);
+                EXPECT_EQ(ist.konto.stempel(nummer, runde), stempel == 0 ? 0 : stempel + um);
+            }
+            EXPECT_EQ(s.tank_inhalt, v.tank_inhalt);
+            EXPECT_EQ(s.strafzeit, v.strafzeit);
+            EXPECT_EQ(s.pause_abzug, v.pause_abzug);
+            EXPECT_EQ(s.ch_strafe_rest, v.ch_strafe_rest);
+            EXPECT_EQ(s.tank_strafzaehler, v.tank_strafzaehler);
+            EXPECT_EQ(s.sperre.bis, v.sperre.bis == 0 ? 0 : v.sperre.bis + um);
+            for (const auto wahr : {&spur_zustand::ziel_erreicht, &spur_zustand::disqualifiziert,
+                                    &spur_zustand::fruehstart_sperre, &spur_zustand::tank_strafe_aktiv}) {
+                EXPECT_EQ(s.*wahr, v.*wahr);
+            }
+        }
+    }
+
+    /// The first lap of each lane has what it had driven before, and what it drives now. The log tells the whole race.
+    void weiterfahren(test::neustart& danach) {
+        renn_zustand& lauf = danach.lauf().zustand;
+        if (lauf.rennen_beendet) {
+            return;
+        }
+        danach.weiter();
+        EXPECT_FALSE(lauf.chaos_aktiv);
+        spuren<int> runden;
+        for (int ms = 0; ms < 20000 && !lauf.rennen_beendet; ++ms) {
+            for (const int nummer : {1, 2, 4, 6}) {
+                runden[nummer] = lauf.konto.runden(nummer);
+                if (selten(2500)) {
+                    danach.p.rennen.befehle.taste(static_cast<char>('0' + nummer));
+                }
+            }
+            const spuren<spur_zustand> davor = lauf.spur;
+            danach.maschine.laufen(1);
+            for (const int nummer : {1, 2, 4, 6}) {
+                const int runde = lauf.konto.runden(nummer);
+                if (runde == runden[nummer] + 1 && runde > 0 && !davor[nummer].tank_strafe_aktiv) {
+                    const zeit_ms gefahren = lauf.konto.stempel(nummer, runde) - lauf.konto.stempel(nummer, runde - 1);
+                    const zeit_ms erwartet = gefahren - davor[nummer].pause_abzug + davor[nummer].strafzuschlag();
+                    EXPECT_EQ(lauf.konto.rundenzeit(nummer, runde), std::max<zeit_ms>(erwartet, 0));
+                }
+            }
+        }
+        danach.p.rennen.bahn1.Command4.klicken();
+        EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
+        EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
+    }
 
     int unter(int n) { return static_cast<int>(z_() % static_cast<unsigned>(n)); }
     bool selten(int ms) { return unter(ms) == 0; }
@@ -277,7 +359,9 @@ TEST(Zufallsrennen, ImmerGiltWasImmerGeltenMuss) {
     const unsigned anzahl = test::aus_umgebung("TARVEL_RENNEN", 25);
     for (unsigned saat = erste; saat < erste + anzahl && !testing::Test::HasFailure(); ++saat) {
         SCOPED_TRACE("TARVEL_SAAT=" + std::to_string(saat));
-        zufallsrennen(saat).fahren();
+        zufallsrennen rennen(saat);
+        rennen.fahren();
+        rennen.abreissen();
     }
 }
 
