@@ -205,6 +205,42 @@ TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     EXPECT_EQ(abend.stand().staende().front().fahrer_runden(0), 6);
 }
 
+TEST_F(Wettkampfabend, MitDemAbendGehtAuchSeinAbgeschnittenesRennenWeiter) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(1);
+    const spuren<std::string> fahrer = t.p.param.fahrer_name;
+    t.p.rennen.protokoll.aufhoeren();  // the power goes
+    t.p.rennen.zeitgeber.alle_aus();
+
+    t.maschine.antwort = true;
+    t.maschine.fragen_gestellt.clear();
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U) << "one question for both";
+    EXPECT_NE(t.maschine.fragen_gestellt.front().text.find("wurde in Runde 2 unterbrochen"), std::string::npos);
+    ASSERT_TRUE(neu.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(neu.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(neu.param.fahrer_name, fahrer);
+    neu.k_ampel.Command1.klicken();
+    t.maschine.laufen(7000);
+    for (int runde = 2; runde <= 3; ++runde) {
+        t.maschine.laufen(5500);
+        for (const int spur : alle_spuren) {
+            if (neu.param.spur_aktiv[spur]) {
+                neu.rennen.befehle.taste('0' + spur);
+                t.maschine.laufen(150);
+            }
+        }
+    }
+    ASSERT_TRUE(neu.fenster.ist_offen(fenstername::auswertung));
+    neu.auswertung.Command5.klicken();
+    EXPECT_EQ(neu.wettkampfabend.stand().aktuelles_rennen, 3);
+    EXPECT_EQ(neu.wettkampfabend.stand().renndauern.size(), 2U);
+}
+
 TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2});
     rennen_fahren();

@@ -89,6 +89,7 @@ private:
         EXPECT_EQ(ist.chaos_aktiv, soll.chaos_aktiv);
         EXPECT_EQ(ist.rennen_beendet, soll.rennen_beendet);
         EXPECT_EQ(ist.pause_abzug, soll.pause_abzug);
+        EXPECT_EQ(ist.pause.start, soll.pause.start == 0 ? 0 : soll.pause.start + um);
         EXPECT_EQ(ist.renn_ende_zeit, soll.renn_ende_zeit + um);
         for (const int nummer : alle_spuren) {
             SCOPED_TRACE(nummer);
