@@ -51,7 +51,7 @@ usbtest::usbtest(const umgebung& um)
         profil_zeigen(kleine_platine({16, 15, 32, 31, 30, 29, 24, 23, 8, 7, 6, 5, 4, 3, 2, 1}), ports_iow_24);
     };
     Command7.bei_klick = Command1.bei_klick;
-    Command5.bei_klick = [this] { ruecksetzen(); };
+    Command5.bei_klick = [this] { ruecksetzen_und_anhalten(); };
     Command3.bei_klick = [this] { speichern(); };
     Command8.bei_klick = [this] { dateien_zeigen(); };
     Command10.bei_klick = [this] { laden_klick(); };
@@ -97,6 +97,7 @@ void usbtest::verbinden(bool auch_ohne_melden) {
         const std::size_t groesse = platine_.iow_berichtgroesse();
         zustand_melden(wort_.verbunden + " IO-Warrior " + (groesse == iow_24 ? "24" : groesse == iow_56 ? "56" : "40"));
         ruecksetzen();
+        Timer1_->an();
     } else if (auch_ohne_melden) {
         const std::string& fehlt = platine_.es_fehlt();
         zustand_melden(fehlt.empty()       ? wort_.keine_box
@@ -202,6 +203,8 @@ bool usbtest::ausgaenge_schreiben() {
 }
 
 void usbtest::werte_lesen() {
+    lampen_weiter();
+    takt_tick();
     for (std::size_t port = 0; port < ports; ++port) {
         unsigned wert = 0;
         for (std::size_t bit = 0; bit < bits_je_port; ++bit) {
@@ -212,6 +215,7 @@ void usbtest::werte_lesen() {
 }
 
 void usbtest::werte_setzen() {
+    lampen_weiter();
     for (std::size_t port = 0; port < ports; ++port) {
         const auto wert = static_cast<unsigned>(ganzzahl_lesen(tp.at(port).text(), 0, wert_max));
         tp.at(port).text(std::to_string(wert));
@@ -228,6 +232,19 @@ void usbtest::ruecksetzen() {
         ausgang.gesetzt(false);
     }
     ausgaenge_schreiben();
+}
+
+void usbtest::ruecksetzen_und_anhalten() {
+    Timer1_->aus();
+    ruecksetzen();
+    notieren(" +++ " + wort_.angehalten);
+}
+
+void usbtest::lampen_weiter() {
+    if (!Timer1_->laeuft()) {
+        Timer1_->an();
+        notieren(" +++ " + wort_.weiter);
+    }
 }
 
 bool usbtest::doppelt_pruefen() const {

@@ -91,6 +91,8 @@ private:
         std::string name;
         std::string gespeichert;
         std::string geladen;
+        std::string angehalten;
+        std::string weiter;
     };
 
     static std::string pin_name(std::size_t platz);
@@ -112,6 +114,9 @@ private:
     void werte_lesen();
     void werte_setzen();
     void ruecksetzen();
+    /// The lamps stay as they are until what the pins say is read again.
+    void ruecksetzen_und_anhalten();
+    void lampen_weiter();
     bool doppelt_pruefen() const;
     void speichern();
     /// The program measures with this file from now on.
