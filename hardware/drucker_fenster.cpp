@@ -69,7 +69,7 @@ sprachliste drucker_fenster::sprache() {
         wort_.adresse_falsch);
     texte.text("Der Druckeranschluss ist erreichbar.", wort_.da);
     texte.text("Der Druckeranschluss ist nicht erreichbar, es fehlt:", wort_.fehlt);
-    return texte.text("Ampel gelb (Chaos)", wort_.gelb).text("Tankausgang (immer an)", wort_.tankausgang);
+    return texte.text("Ampel gelb (Chaos)", wort_.gelb).text("Tankausgang (ab Rennbildschirm an)", wort_.tankausgang);
 }
 
 void drucker_fenster::listen_fuellen() {

@@ -9,7 +9,7 @@ bool druckeranschluss::oeffnen() {
     schliessen();
     register_.lpt_basis = um_.einst.lpt.anschluss.lpt_adresse;
     zuordnen();
-    grundstellung();
+    grundstellung(false);
     const std::optional<std::uint8_t> stand = register_.lesen(lpt::status);
     da_ = stand.has_value();
     kontakte_.beginnen(lpt::aktive_linien(stand.value_or(lpt::in_ruhe)));
@@ -43,7 +43,7 @@ void druckeranschluss::lpt_abtasten(zeit_ms jetzt) {
     }
 }
 
-void druckeranschluss::lpt_schalten(ereignis_art nummer, bool an) {
+std::uint8_t druckeranschluss::mit(std::uint8_t zustand, ereignis_art nummer, bool an) const {
     const auto& lpt_ausgang_art = um_.einst.lpt.lpt_ausgang;
     std::optional<std::size_t> zeile;
     for (std::size_t i = 1; i < lpt_ausgang_art.size(); ++i) {
@@ -52,25 +52,27 @@ void druckeranschluss::lpt_schalten(ereignis_art nummer, bool an) {
         }
     }
     if (nummer == 0) {
-        lpt_pin_zustand_ = an ? 0xFF : 0;
-    } else if (zeile && *zeile < lpt::ausgaenge) {
-        const auto maske = static_cast<std::uint8_t>(1U << *zeile);
-        lpt_pin_zustand_ = static_cast<std::uint8_t>(an ? lpt_pin_zustand_ | maske : lpt_pin_zustand_ & ~maske);
+        return an ? 0xFF : 0;
     }
+    if (!zeile || *zeile >= lpt::ausgaenge) {
+        return zustand;
+    }
+    const auto maske = static_cast<std::uint8_t>(1U << *zeile);
+    return static_cast<std::uint8_t>(an ? zustand | maske : zustand & ~maske);
 }
 
-void druckeranschluss::grundstellung() {
-    lpt_aus(0);
-    lpt_an(art::tanken_ein[1]);  // the supply of a tank, for as long as the program runs
+void druckeranschluss::grundstellung(bool tankausgang) {
+    std::uint8_t neu = mit(0, art::tanken_ein[1], tankausgang);
     if (um_.einst.bahnstrom_invers) {
         for (const int spur : {1, 2, 3, 4}) {
-            lpt_an(art::bahnstrom[spur]);
+            neu = mit(neu, art::bahnstrom[spur], true);
         }
     }
+    lpt_pin_zustand_ = neu;  // at once: what stays on must not blink
 }
 
 void druckeranschluss::lpt_bereit() {
-    grundstellung();
+    grundstellung(true);
     rennen_bereit();
 }
 

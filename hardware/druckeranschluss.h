@@ -36,6 +36,7 @@ public:
 
     hardware_art welches() const override { return hardware_art::druckeranschluss; }
     std::optional<ausgabe_platz> ausgabeplatz() const override { return ausgabe_platz::druckeranschluss; }
+    /// The supply of a tank is off until a race window opens.
     bool oeffnen() override;
     void schliessen() override;
     bool verbunden() const override { return abtastung_ != nullptr && da_; }
@@ -45,6 +46,8 @@ public:
     void einfahren_beginnt() override;
     void rennen_bereit() override;
     void schalten(const schaltung& befehl) override;
+    /// On from here, as long as the device is in force.
+    void tankausgang_einschalten() { lpt_an(art::tanken_ein[1]); }
 
     /// Switches the output of this number; 0 are all eight. Of two with the same number the last one.
     void lpt_an(ereignis_art nummer) { lpt_schalten(nummer, true); }
@@ -53,9 +56,10 @@ public:
     std::uint8_t lpt_pin_zustand() const { return lpt_pin_zustand_; }
 
 private:
-    void lpt_schalten(ereignis_art nummer, bool an);
-    /// Every output at rest, but those that are active there.
-    void grundstellung();
+    void lpt_schalten(ereignis_art nummer, bool an) { lpt_pin_zustand_ = mit(lpt_pin_zustand_, nummer, an); }
+    std::uint8_t mit(std::uint8_t zustand, ereignis_art nummer, bool an) const;
+    /// Every output at rest, but those that are active there; with the supply of a tank or without.
+    void grundstellung(bool tankausgang);
     void lpt_bereit();
     /// By the sampling thread: the outputs as they have to be, and a look at the inputs.
     void lpt_abtasten(zeit_ms jetzt);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "optionen/einstellungsfenster.h"
@@ -21,8 +22,15 @@ druckeranschluss_verdrahtung::druckeranschluss_verdrahtung(const geraete_umgebun
     });
 }
 
+void druckeranschluss_verdrahtung::geraet_verbinden() {
+    geraet_mit_fenster::geraet_verbinden();
+    if (std::exchange(uebernommen_, false)) {
+        anschluss.tankausgang_einschalten();
+    }
+}
+
 bool druckeranschluss_verdrahtung::einstellungen_speichern() {
-    const bool gut = pflege_.speichern_mit_feldern();
+    const bool gut = uebernommen_ = pflege_.speichern_mit_feldern();
     std::vector<std::string> zeilen{"lpt_text"};
     for (std::size_t i = 1; i <= tarvel::drucker_fenster::eingaenge; ++i) {
         zeilen.push_back("ecomb_" + std::to_string(i));

@@ -19,7 +19,10 @@ public:
     tarvel::drucker_fenster drucker_fenster;
 
 private:
+    void geraet_verbinden() override;
     bool einstellungen_speichern() override;
+
+    bool uebernommen_ = false;  ///< its window has just been confirmed
 };
 
 }  // namespace tarvel

@@ -13,10 +13,11 @@ TEST_F(Druckeranschluss, DruckeranschlussSchaltetSeineLinien) {
     lpt_waehlen();
     t.maschine.laufen(2);
     EXPECT_TRUE(lpt_pin(7)) << "green";
-    EXPECT_TRUE(lpt_pin(8)) << "the tank's supply";
+    EXPECT_FALSE(lpt_pin(8)) << "the tank's supply waits for the race window";
     EXPECT_FALSE(lpt_pin(9)) << "low while the lane has power";
     t.starten("Runden", "5", {1});
     t.maschine.laufen(3000);
+    EXPECT_TRUE(lpt_pin(8));
     t.bahn().Command3.klicken();
     t.maschine.laufen(2);
     EXPECT_TRUE(lpt_pin(9) && lpt_pin(2) && lpt_pin(6));
@@ -87,8 +88,12 @@ TEST_F(Druckeranschluss, DruckerfensterPrueftAdresseUndListen) {
         w.Command3.klicken();
         EXPECT_NE(gemeldet().find("hexadezimal"), std::string::npos) << falsch;
     }
+    lpt()[0xD010] = 0;
+    w.comb[6].waehlen(32);
     w.lpt_text.eingeben("d010");
     w.Command3.klicken();
+    t.maschine.laufen(2);
+    EXPECT_EQ(lpt()[0xD010] & 0x40, 0x40) << "the tank's supply";
     EXPECT_EQ(lpt()[0x278], 17);
     EXPECT_EQ(t.p.einst.lpt.anschluss.lpt_adresse, 0xD010);
     EXPECT_EQ(t.p.einst.lpt.lpt_eingang[5], 1);
