@@ -32,8 +32,24 @@ bool iow_40::oeffnen() {
         um_.bedienung.nicht_zu_oeffnen(*this, um_.txt.meldung[1]);
         return false;
     }
-    um_.ausgaben.bericht.senden = [this](std::span<const std::uint8_t> bericht) { return senden(bericht); };
+    ausgaben_uebernehmen();
     return true;
+}
+
+void iow_40::nebenher_oeffnen() {
+    schliessen();
+    nebenher_ = platine_.iow_oeffnen();
+    if (nebenher_) {
+        iow_belegung_laden();
+        ausgaben_uebernehmen();
+        um_.ausgaben.einschalten();  // by its own assignment
+        um_.ausgaben.ruhezustand();
+        lebenstakt_->an();
+    }
+}
+
+void iow_40::ausgaben_uebernehmen() {
+    um_.ausgaben.bericht.senden = [this](std::span<const std::uint8_t> bericht) { return senden(bericht); };
 }
 
 bool iow_40::anfangen() {
@@ -53,10 +69,10 @@ void iow_40::anhalten() {
 }
 
 void iow_40::schliessen() {
-    if (gewuenscht_) {
+    if (gewuenscht_ || nebenher_) {
         um_.ausgaben.bericht.senden = {};
     }
-    gewuenscht_ = false;
+    gewuenscht_ = nebenher_ = false;
     anhalten();
 }
 
@@ -67,8 +83,16 @@ void iow_40::wieder_aufnehmen() {
 }
 
 void iow_40::lebenstakt_tick() {
+    if (nebenher_ && !platine_.offen() && !platine_.iow_oeffnen()) {
+        return;
+    }
     um_.ausgaben.bericht.schreiben();
-    if (um_.ausgaben.bericht.iow_schreibfehler()) {
+    if (!um_.ausgaben.bericht.iow_schreibfehler()) {
+        return;
+    }
+    if (nebenher_) {
+        platine_.schliessen();  // what measures goes on
+    } else {
         anhalten();
         um_.bedienung.verloren();
     }

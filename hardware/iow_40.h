@@ -45,6 +45,8 @@ public:
     hardware_art welches() const override { return hardware_art::iow_40; }
     /// Reads the profile of the settings and opens the first board. Without a board the operator's side knows.
     bool oeffnen() override;
+    /// For its outputs alone, beside the device that measures. Without a board nothing happens, and nobody is told.
+    void nebenher_oeffnen();
     void schliessen() override;
     void wieder_aufnehmen() override;
     bool verbunden() const override { return platine_.offen(); }
@@ -63,6 +65,7 @@ private:
     bool senden(std::span<const std::uint8_t> bericht) const { return platine_.schreiben(bericht); }
     bool anfangen();
     void anhalten();
+    void ausgaben_uebernehmen();
     void lebenstakt_tick();
 
     umgebung um_;
@@ -72,6 +75,7 @@ private:
     std::unique_ptr<schnittstelle> abtastung_;          ///< none while the board is closed
     std::uint32_t linien_ = 0;                          ///< of the last report; the sampling thread's own
     bool gewuenscht_ = false;                           ///< open, or to be opened as soon as it is there
+    bool nebenher_ = false;                             ///< the same, but another device measures
 };
 
 }  // namespace tarvel

@@ -41,6 +41,9 @@ class geraeteverdrahtung : public schnittstelle {
 public:
     virtual messgeraet& geraet() = 0;
     virtual std::vector<fensterlogik*> fenster() = 0;
+    /// Another device is in force: what this one switches it may switch all the same, if it is there. Says nothing if
+    /// it is not.
+    virtual void nebenher_oeffnen() {}
     /// The program ends: its windows close for good.
     virtual void beenden() {}
 };

@@ -20,6 +20,13 @@ iow_verdrahtung::iow_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
         "iow_einrichten", [&fenster = um.fenster] { fenster.zeigen(fenstername::usbtest, anzeige_art::modal); });
 }
 
+void iow_verdrahtung::geraet_verbinden() {
+    geraet_mit_fenster::geraet_verbinden();
+    if (!einst_.hardware.hw_iow) {
+        iow.nebenher_oeffnen();
+    }
+}
+
 bool iow_verdrahtung::einstellungen_speichern() {
     const bool gut = pflege_.speichern_mit_feldern();
     optionen_.zeilen_zeigen(std::to_array<std::string_view>({"iow_datei"}));

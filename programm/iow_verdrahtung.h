@@ -13,12 +13,14 @@ public:
 
     messgeraet& geraet() override { return iow; }
     std::vector<fensterlogik*> fenster() override { return {&usbtest}; }
+    void nebenher_oeffnen() override { iow.nebenher_oeffnen(); }
     void beenden() override { usbtest.zugang = nullptr; }
 
     iow_40 iow;
     tarvel::usbtest usbtest;
 
 private:
+    void geraet_verbinden() override;
     bool einstellungen_speichern() override;
 };
 

@@ -60,6 +60,8 @@ void messgeraete::hardware_starten(bool spaeter) {
         if (gewaehlt(eines)) {
             anschliessen(eines.teile->geraet());
             eines.wartet = true;
+        } else {
+            eines.teile->nebenher_oeffnen();
         }
     }
     wartende_oeffnen(!spaeter);

@@ -26,6 +26,32 @@ TEST_F(Iow40, AusgaengeHaltenKeinenEingangUndNurDieZugewiesenenSchalten) {
     EXPECT_EQ(brett.schliessungen, 1);
 }
 
+TEST_F(Iow40, NebenEinemAnderenGeraetSchaltetEsNur) {
+    iow_waehlen();
+    lpt_waehlen();
+    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0x00) << "the lanes have power";
+    t.starten("Runden", "5", {1});
+    puls(16, 1000);
+    EXPECT_EQ(t.runden(1), -1) << "another device measures";
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0xF0);
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(5000);
+    brett.steckt = false;
+    t.maschine.laufen(2000);
+    EXPECT_TRUE(t.p.geraete.verbunden());
+    EXPECT_FALSE(pause());
+    brett.steckt = true;
+    brett.ausgang = {};
+    t.maschine.laufen(1100);
+    EXPECT_EQ(brett.ausgang[3], 0x0F);
+    t.p.fenster.zeigen(fenstername::usbtest);
+    t.p.fenster.entladen(fenstername::usbtest);
+    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0x00) << "the test window gives it back";
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
 TEST_F(Iow40, EineAbgezogenePlatineWirdWiederGefunden) {
     iow_waehlen();
     t.starten("Runden", "50", {1});
@@ -121,6 +147,14 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     w.tp[0].eingeben("0");
     w.setzen.klicken();
     EXPECT_EQ(brett.ausgang[1], 0x01) << "the button on pin 0 is not held by an output";
+    w.Command5.klicken();
+    EXPECT_EQ(brett.ausgang[1], 0xFF);
+    kontakt(bit(15), true, 50);
+    EXPECT_FALSE(w.lampe[14].gesetzt()) << "the lamps stand still";
+    w.lesen.klicken();
+    EXPECT_EQ(w.tp[1].text(), "63");
+    kontakt(bit(15), false, 50);
+    EXPECT_FALSE(w.lampe[14].gesetzt()) << "and live again";
     w.combo_c[8].waehlen(16);
     w.Command3.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Ein Ereignis wurde mehrfach einem Port zugewiesen.");
