@@ -75,6 +75,7 @@ sprachliste einstellungsfenster::sprache_e() {
     });
     texte.text("Hier steht keine Zahl.", keine_zahl_);
     texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
+    texte.text("Tarvel 4x4 USB / Digital", text_4x4_);
     return texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
 }
 
@@ -110,6 +111,7 @@ void einstellungsfenster::laden() {
     for (std::size_t i = 0; i < hardware.size(); ++i) {
         hardware.at(i).text(um_.txt.hardware_name.at(i));
     }
+    hardware.at(static_cast<std::size_t>(hardware_art::usb_4x4)).text(text_4x4_);
     fuer_alle_zeilen([](optionszeile& z) {
         std::visit(
             [&z](auto& element) {

@@ -127,6 +127,7 @@ private:
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;
     std::string keine_zahl_;
+    std::string text_4x4_;              ///< of its tick box; elsewhere it has its short name
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
     bool gruppen_ungesichert_ = false;
     std::string gruppen_fehler_;
