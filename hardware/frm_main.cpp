@@ -57,6 +57,7 @@ frm_main::frm_main(const umgebung& um, tx_modul& modul, const plattform::dienste
       um_(um),
       modul_(modul),
       uhr_(dienste.uhr),
+      meldungen_(dienste.meldungen),
       lampentakt_(dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 50ms)) {
     lampentakt_->bei_tick = [this] { lampen_tick(); };
     for (std::size_t i = 0; i < aufbauten; ++i) {
@@ -322,6 +323,12 @@ void frm_main::lampen_tick() {
 }
 
 void frm_main::uebernehmen() {
+    const auto modus = static_cast<int>(gewaehlter_modus());
+    if (modus == 0) {
+        meldungen_.zeigen(wort_.modus_fehlt, um_.txt.titel[1]);
+        optModus.front().fokus_setzen();
+        return;
+    }
     modul_4x4_einstellungen& s6 = um_.einst.s6;
     for (std::size_t i = 0; i < eingaenge; ++i) {
         if (const int platz = tx_eingang_liste.at(i).platz(); platz >= 0) {
@@ -337,10 +344,9 @@ void frm_main::uebernehmen() {
         }
     }
     modul_.spuren_6_setzen(Check2.gesetzt());
-    const auto modus = static_cast<int>(gewaehlter_modus());
-    if (modus > 0 && um_.einst.hardware.hw_4x4()) {
+    if (um_.einst.hardware.hw_4x4()) {
         um_.einst.hardware.hw_4x4_modus = static_cast<modul_4x4>(modus + static_cast<int>(modul_4x4::aus));
-    } else if (modus > 0 && modus_vormerken) {
+    } else if (modus_vormerken) {
         modus_vormerken(modus);
     }
     if (einstellungen_sichern()) {

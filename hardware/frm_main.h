@@ -102,11 +102,12 @@ private:
     umgebung um_;
     tx_modul& modul_;
     const plattform::uhr& uhr_;
+    plattform::meldungen& meldungen_;
     std::unique_ptr<plattform::zeitgeber> lampentakt_;
     std::array<zeit_ms, eingaenge + sensoren> leuchtet_bis_{};
     struct {
         std::array<std::string, 7> funktion;  ///< the last one: not the same for all cars
-        std::string eingang, alle, sucht, getrennt, lampe, spur;
+        std::string eingang, alle, sucht, getrennt, lampe, spur, modus_fehlt;
     } wort_;
 };
 

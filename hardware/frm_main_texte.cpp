@@ -24,6 +24,9 @@ sprachliste frm_main::sprache_e_tx3() {
     texte.text("Übernehmen", Command3).text("Schließen", Command4).text("Eingang", wort_.eingang);
     texte.text("Das Modul wird gesucht …", wort_.sucht).text("Kein Modul verbunden", wort_.getrennt);
     texte.text("Rot", wort_.lampe).text("Spur", wort_.spur);
+    texte.text(
+        "Ohne Modus misst das Modul nicht. Bitte einen Modus wählen, oder mit „Schließen“ den bisherigen behalten.",
+        wort_.modus_fehlt);
     texte.tipp("Das Modul meldet sich neu an und stellt seine Ausgänge zurück.", Command7);
     return texte.ansage("Meldungen des Moduls", List1);
 }

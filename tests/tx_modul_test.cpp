@@ -305,6 +305,11 @@ TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {
     EXPECT_EQ(gesendet(), "IHGFEC") << "lane 5 has no output";
     w.Command2[2].klicken();
     w.Check2.umschalten();
+    w.optModus[0].umschalten();
+    w.Command3.klicken();
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.back().text.starts_with("Ohne Modus misst das Modul nicht"))
+        << "and it waits for one";
+    w.optModus[1].umschalten();
     w.Command3.klicken();
     EXPECT_FALSE(offen(fenstername::frmMain));
     EXPECT_FALSE(tx.modul.verbunden());
