@@ -14,6 +14,7 @@ public:
 
     messgeraet& geraet() override { return cu; }
     std::vector<fensterlogik*> fenster() override { return {&cu_eigenschaften}; }
+    void beenden() override { cu_eigenschaften.zugang = nullptr; }
 
     control_unit cu;
     tarvel::cu_eigenschaften cu_eigenschaften;
