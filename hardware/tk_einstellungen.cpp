@@ -170,10 +170,14 @@ void tk_einstellungen::verbinden() {
 }
 
 void tk_einstellungen::senden(const std::string& text) {
-    if (text.empty()) {
-        return;
+    if (!text.empty() && !leitung_.tk_senden(nach_1252(text))) {
+        melden("Write Failed");
     }
-    if (!leitung_.tk_senden(nach_1252(text))) {
+}
+
+void tk_einstellungen::erledigt(const tk_befehl& befehl) {
+    const std::string text = von_1252(befehl.text());
+    if (!befehl.geschrieben) {
         melden("Write Failed");
         return;
     }
@@ -234,6 +238,9 @@ tk_profil tk_einstellungen::profil_lesen() const {
 }
 
 void tk_einstellungen::Timer1_tick() {
+    while (const auto befehl = leitung_.erledigt()) {
+        erledigt(*befehl);
+    }
     while (const auto stueck = leitung_.tk_lesen()) {
         fehler_gemeldet_ = false;
         const std::string text = lesbar(stueck->text());

@@ -95,6 +95,7 @@ private:
     void ansagen();
     void melden(std::string_view zeile);
     void senden(const std::string& text);
+    void erledigt(const tk_befehl& befehl);
     void schalten(schaltung::ausgang was, int nummer, bool an);
     void verbinden();
     void modus_waehlen(std::size_t modus);

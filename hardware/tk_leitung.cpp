@@ -93,10 +93,13 @@ bool tk_leitung::einstellen() {
 void tk_leitung::schliessen() {
     abtaster_.reset();  // before the handle goes that it looks at
     if (tk_handle_ != nullptr) {
+        ausstehendes_schreiben();
         ft_.schliessen(tk_handle_);
         tk_handle_ = nullptr;
     }
     stuecke_.leeren();
+    befehle_.leeren();
+    erledigte_.leeren();
 }
 
 bool tk_leitung::gestoert() const {
@@ -104,11 +107,22 @@ bool tk_leitung::gestoert() const {
 }
 
 bool tk_leitung::tk_senden(std::string_view text) {
-    if (!offen()) {
+    tk_befehl neu;
+    if (!offen() || text.size() > neu.bytes.size()) {
         return false;
     }
-    schreiben_misslang_ = !ft_.schreiben(tk_handle_, tk::satzanfang + std::string(text) + tk::satzende);
-    return !schreiben_misslang_;
+    neu.laenge = text.copy(neu.bytes.data(), neu.bytes.size());
+    return befehle_.geben(neu);
+}
+
+void tk_leitung::ausstehendes_schreiben() {
+    bool geht = true;  // after one that failed no other is tried: each of them may take the whole time limit
+    while (auto befehl = befehle_.nehmen()) {
+        geht = geht && ft_.schreiben(tk_handle_, tk::satzanfang + std::string(befehl->text()) + tk::satzende);
+        schreiben_misslang_ = !geht;
+        befehl->geschrieben = geht;
+        erledigte_.geben(*befehl);  // nobody may want to know
+    }
 }
 
 void tk_leitung::nachsehen(zeit_ms jetzt) {
@@ -116,6 +130,7 @@ void tk_leitung::nachsehen(zeit_ms jetzt) {
         wo = ergebnis;
         fehler_in_folge_ = std::min(fehler_in_folge_ + 1, weg_nach);
     };
+    ausstehendes_schreiben();
     ftd2xx::wort wartende = 0;
     if (const ftd2xx::status ergebnis = ft_.wartende(tk_handle_, wartende); ergebnis != ftd2xx::gut) {
         misslungen(wartefehler_, ergebnis);

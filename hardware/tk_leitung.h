@@ -25,8 +25,19 @@ struct tk_stueck {
     std::array<char, platz> bytes{};
 };
 
-/// The channel to a Timekeeper. A thread of its own reads, so that each piece is stamped as it arrives; the program
-/// takes the pieces and writes.
+/// What a box was told.
+struct tk_befehl {
+    static constexpr std::size_t platz = 250;
+
+    std::string_view text() const { return {bytes.data(), laenge}; }
+
+    bool geschrieben = false;
+    std::size_t laenge = 0;
+    std::array<char, platz> bytes{};
+};
+
+/// The channel to a Timekeeper. A thread of its own has the box: it reads, so that each piece is stamped as it arrives,
+/// and writes, so that a driver that is stuck holds nobody up. The program takes the pieces, and gives what to write.
 class tk_leitung {
 public:
     explicit tk_leitung(const plattform::dienste& dienste)
@@ -38,12 +49,16 @@ public:
     std::function<void(const std::string&)> melden;  ///< a line about what was done, or failed
 
     bool tk_oeffnen();
+    /// Waits for what is still to be written, until the box takes no more.
     void schliessen();
     bool offen() const { return tk_handle_ != nullptr; }
     /// The box is gone: the calls fail.
     bool gestoert() const;
-    /// Puts the text into its frame and writes it. False if there is no box, or it does not take it.
+    /// Puts the text into its frame, to be written. False if there is no box, or no room; whether the box has taken it
+    /// tells `erledigt`.
     bool tk_senden(std::string_view text);
+    /// The next text that has been written, or could not be; none if nothing has happened since.
+    std::optional<tk_befehl> erledigt() { return erledigte_.nehmen(); }
     /// The next piece; none if nothing waits.
     std::optional<tk_stueck> tk_lesen() { return stuecke_.nehmen(); }
 
@@ -54,17 +69,21 @@ public:
 
 private:
     static constexpr std::size_t stuecke_max = 128;
+    static constexpr std::size_t befehle_max = 64;
 
     void sagen(const std::string& zeile) const;
     std::optional<int> geraet_suchen() const;
     bool einstellen();
     void nachsehen(zeit_ms jetzt);
+    void ausstehendes_schreiben();
 
     plattform::bibliothek_dienst& bibliotheken_;
     plattform::abtaster_dienst& abtaster_dienst_;
     ftd2xx ft_;
     ftd2xx::griff tk_handle_ = nullptr;
-    bool schreiben_misslang_ = false;
+    std::atomic<bool> schreiben_misslang_ = false;
+    uebergabe<tk_befehl, befehle_max> befehle_;
+    uebergabe<tk_befehl, befehle_max> erledigte_;
     uebergabe<tk_stueck, stuecke_max> stuecke_;
     std::atomic<int> fehler_in_folge_ = 0;
     std::atomic<ftd2xx::status> lesefehler_ = ftd2xx::gut;

@@ -35,7 +35,11 @@ struct Timekeeper : testing::Test {
         ftdi.wartet += bytes;
         t.maschine.laufen(110);
     }
-    std::string gesendet() { return std::exchange(ftdi.gesendet, {}); }
+    /// What the thread that writes has written by now.
+    std::string gesendet() {
+        t.maschine.laufen(1);
+        return std::exchange(ftdi.gesendet, {});
+    }
     ereignis_zeile& zeile(ereignis_art art) { return t.p.ereignisse[art]; }
     timekeeper& geraet() { return t.p.geraete.von<timekeeper_verdrahtung>().tk; }
 
@@ -232,6 +236,26 @@ TEST_F(Timekeeper, AusgaengeSprechenDieWorteDesGeraets) {
     EXPECT_EQ(gesendet(), "relais_off,ampelnRon,ampelnGRoff,ampelnGEon,");
 }
 
+TEST_F(Timekeeper, AmEndeStehtDieBahnInRuheUndWerNichtsNimmtHaeltNichtAuf) {
+    bereit();
+    t.p.ausgaben.chaos_an();
+    gesendet();
+    int versuche = 0;
+    ftdi.fehler["FT_Write"] = 4;
+    ftdi.geraet = [&](std::string_view) { ++versuche; };
+    t.p.ausgaben.chaos_aus();
+    t.p.ausgaben.ruhezustand();
+    EXPECT_EQ(versuche, 0) << "the loop writes nothing itself";
+    t.maschine.laufen(1);
+    EXPECT_EQ(versuche, 1) << "each may take seconds";
+    ftdi.fehler.clear();
+    t.maschine.laufen(5000);
+    gesendet();
+    t.p.programm_beenden();
+    EXPECT_EQ(ftdi.gesendet, "relais_on,ampelnRoff,ampelnGRon,");
+    EXPECT_FALSE(ftdi.offen);
+}
+
 TEST_F(Timekeeper, WasNichtGehtNenntDieMeldungUndDieTastaturZaehlt) {
     struct fall {
         const char* ruf;
@@ -295,6 +319,7 @@ TEST_F(Timekeeper, DasFensterProbiertSchreibtMitUndSpeichert) {
         const auto& alle = f.List1.zeilen();
         return std::find(alle.begin(), alle.end(), zeile) != alle.end();
     };
+    t.maschine.laufen(2);
     EXPECT_TRUE(protokoll("Device description received:  #1 Timekeeper USB"));
     EXPECT_TRUE(protokoll("Command sent: activate"));
     sagt("Timekeeper_active><D3|700>");
@@ -316,8 +341,10 @@ TEST_F(Timekeeper, DasFensterProbiertSchreibtMitUndSpeichert) {
     EXPECT_TRUE(protokoll("Modus 2 - Digital 143"));
     f.tk_command.eingeben("open 4");
     f.Send.klicken();
+    t.maschine.laufen(2);
     sagt("D3|2|2345>");
     f.debug_close.klicken();
+    t.maschine.laufen(2);
     EXPECT_TRUE(protokoll("tk_debug_info-4.txt open") && protokoll("file closed"));
     EXPECT_NE(t.maschine.datei_lesen("tk_debug_info-4.txt").find("2345"), std::string::npos);
     f.kanaele[13].sensorart.waehlen(5);
@@ -344,6 +371,7 @@ TEST_F(Timekeeper, DasFensterSagtWennDasGeraetWegIst) {
     f.Send.klicken();
     f.tk_command.eingeben("version");
     f.Send.klicken();
+    t.maschine.laufen(2);
     EXPECT_EQ(f.List1.zeilen().back(), "Write Failed");
 }
 
