@@ -6,25 +6,21 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
-#include <QFileInfo>
-#include <QLibrary>
 #include <QLockFile>
 #include <QPainter>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTimer>
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "platform_qt/qt_dienste.h"
+#include "tools/vorfuehrgeraete.h"
 #include "ui/oberflaeche.h"
 #include "ui/stil.h"
 
@@ -34,31 +30,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int runden = 5;
-constexpr const char* com = "7";
 constexpr zeit_ms schritt_ms = 60000;  // far more than a busy machine needs for any step but the race
 constexpr zeit_ms rennen_ms = 120000;
-
-struct vorfuehrgeraet {
-    const char* name;
-    const char* simulator;
-    std::size_t hardware;  ///< place of its tick box on the options' page
-    const char* comzeile;  ///< row of its port there; null where the program finds it
-    bool mit_befehlsdatei;
-    int spuren = spuren_max;
-    const char* bibliothek = nullptr;  ///< to lie in the program's folder, with the simulator behind it
-    bool sieht_ampel = true;           ///< else its cars are told when to go
-    bool ist_bibliothek = false;       ///< the simulator is that library itself
-    zeit_ms abweichung = 0;            ///< a lap may be off by so much: of a device without a clock
-};
-
-const std::map<std::string, vorfuehrgeraet> vorfuehrgeraete{
-    {"cu", {"Carrera Control Unit", TARVEL_CU_SIMULATOR, 6, "cu_comport", false}},
-    {"at2560", {"AT-2560 USB", TARVEL_AT2560_SIMULATOR, 7, "uart_port", true}},
-    {"iow", {"IOW 40 USB", TARVEL_IOWKIT, 1, nullptr, false, 4, TARVEL_IOWKIT, true, true, 10}},
-    {"lpt", {"Druckeranschluss", TARVEL_INPOUT32, 3, nullptr, false, 4, TARVEL_INPOUT32, true, true, 10}},
-    {"4x4", {"4x4 USB", TARVEL_M4X4_SIMULATOR, 4, nullptr, false, 6, nullptr, true, false, 200}},
-    {"rc", {"Race Control", TARVEL_RC_SIMULATOR, 2, "selComPort", false, 4, TARVEL_RC_BIBLIOTHEK, false}},
-    {"tk", {"Timekeeper", TARVEL_FTD2XX, 5, nullptr, false, 4, TARVEL_FTD2XX, true, true}}};
 
 void schreiben(const std::string& text) {
     std::printf("%s\n", text.c_str());
@@ -88,84 +61,12 @@ public:
     bool beendet = false;
 };
 
-/// The simulator as a program of its own, and the laps that it tells.
-class simulatorlauf {
-public:
-    simulatorlauf(const vorfuehrgeraet& geraet, const QString& ordner) {
-        if (geraet.ist_bibliothek) {
-            bibliothek_beginnen(ordner + "/" + QFileInfo(geraet.simulator).fileName());
-            return;
-        }
-        prozess_.setProcessChannelMode(QProcess::MergedChannels);
-        QObject::connect(&prozess_, &QProcess::readyRead, &prozess_, [this] { lesen(); });
-        prozess_.start(geraet.simulator, {"--ordner", ordner, "--com", com, "--spuren", QString::number(geraet.spuren),
-                                          "--saat", "7", "--rundenzeit", "4200", "--dauer", "600"});
-    }
-    ~simulatorlauf() {
-        if (lesen_ != nullptr) {
-            return;
-        }
-        prozess_.terminate();
-        if (!prozess_.waitForFinished(3000)) {
-            prozess_.kill();
-            prozess_.waitForFinished();
-        }
-    }
-
-    void los() { prozess_.write("los\n"); }
-    bool bereit() const { return lesen_ != nullptr || ausgabe_.contains("Bereit an"); }
-    bool beendet() const { return lesen_ == nullptr && prozess_.state() == QProcess::NotRunning; }
-    std::string ausgabe() const { return ausgabe_.toStdString(); }
-    /// Lap times of a car in ms, its first lap first.
-    const std::vector<zeit_ms>& rundenzeiten(int wagen) {
-        if (lesen_ != nullptr) {
-            std::array<int, 1000> zeiten{};
-            const int anzahl = lesen_(wagen, zeiten.data(), static_cast<int>(zeiten.size()));
-            runden_[wagen].assign(zeiten.begin(), zeiten.begin() + std::min<int>(anzahl, zeiten.size()));
-        }
-        return runden_[wagen];
-    }
-
-private:
-    /// The one that the program loads too.
-    void bibliothek_beginnen(const QString& pfad) {
-        bibliothek_.setFileName(pfad);
-        auto* const einstellen = reinterpret_cast<void (*)(const char*)>(bibliothek_.resolve("SimulatorEinstellen"));
-        lesen_ = reinterpret_cast<int (*)(int, int*, int)>(bibliothek_.resolve("SimulatorRunden"));
-        if (einstellen == nullptr || lesen_ == nullptr) {
-            throw std::runtime_error(bibliothek_.errorString().toStdString());
-        }
-        einstellen("--spuren 4 --saat 7 --rundenzeit 4200");
-    }
-    void lesen() {
-        static const QRegularExpression runde("^Wagen (\\d)  Runde \\d+ +(\\d+),(\\d{3}) s");
-        static const QRegularExpression erste("^Wagen (\\d)  erste");
-        ausgabe_ += QString::fromUtf8(prozess_.readAll());
-        for (; ausgabe_.indexOf('\n', gelesen_) >= 0; gelesen_ = ausgabe_.indexOf('\n', gelesen_) + 1) {
-            const QString zeile = ausgabe_.mid(gelesen_, ausgabe_.indexOf('\n', gelesen_) - gelesen_);
-            if (const auto treffer = runde.match(zeile); treffer.hasMatch()) {
-                runden_[treffer.captured(1).toInt()].push_back(treffer.captured(2).toInt() * 1000 +
-                                                               treffer.captured(3).toInt());
-            } else if (const auto start = erste.match(zeile); start.hasMatch()) {
-                runden_[start.captured(1).toInt()].clear();
-            }
-        }
-    }
-
-    QProcess prozess_;
-    QLibrary bibliothek_;
-    int (*lesen_)(int, int*, int) = nullptr;  ///< of the library; null for a simulator on its own
-    QString ausgabe_;
-    qsizetype gelesen_ = 0;
-    std::map<int, std::vector<zeit_ms>> runden_;
-};
-
 /// The files that come with the program, as a fresh installation has them.
 fs::path ordner_anlegen(const vorfuehrgeraet& geraet, const fs::path& ordner) {
     fs::create_directories(ordner);
     fs::copy(TARVEL_QUELLEN "/data", ordner, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     fs::remove_all(ordner / "Anschluesse");  // a link that a crash has left may lead to somebody else's terminal by now
-    for (const auto& [kurz, eines] : vorfuehrgeraete) {
+    for (const auto& [kurz, eines] : vorfuehrgeraete()) {
         if (eines.bibliothek != nullptr) {  // of another demonstration, or of an older build
             fs::remove(ordner / fs::path(eines.bibliothek).filename());
         }
@@ -190,7 +91,7 @@ public:
     void zeigen() {
         warten("den Simulator", schritt_ms, [this] { return simulator_.bereit(); });
         schreiben(std::string("Simulator: ") + geraet_.name +
-                  (geraet_.ist_bibliothek ? std::string() : std::string(" an COM") + com));
+                  (geraet_.ist_bibliothek ? std::string() : std::string(" an COM") + simulatorlauf::com));
         p_.starten();
         warten("das Hauptfenster", schritt_ms, [this] { return p_.fenster.ist_offen(fenstername::Form1); });
         messgeraet_waehlen();
@@ -237,7 +138,7 @@ private:
         e.oeffnen(einstellungsfenster::seite_hardware);
         e.hardware.at(geraet_.hardware).umschalten();
         if (geraet_.comzeile != nullptr) {
-            std::get<auswahl>(e.zeile(geraet_.comzeile).element).eingeben(std::string("COM") + com);
+            std::get<auswahl>(e.zeile(geraet_.comzeile).element).eingeben(std::string("COM") + simulatorlauf::com);
         }
         auto& software = std::get<haken>(e.zeile("opt_cu_prgstart").element);
         software.gesetzt(true);
@@ -273,8 +174,8 @@ private:
         }
         schreiben("Rennen über " + std::to_string(runden) + " Runden. Die Startampel läuft …");
         p_.rennen.bahn1.Command1.klicken();
-        warten("Grün", schritt_ms, [this] {
-            return !p_.rennen.zustand.rennen_beendet && (geraet_.sieht_ampel || !p_.rennen.umgebung.ampel_laeuft());
+        warten("Grün", schritt_ms, [this] {  // a race is prepared, and not over any more, before its light
+            return !p_.rennen.zustand.rennen_beendet && !p_.rennen.umgebung.ampel_laeuft();
         });
         if (!geraet_.sieht_ampel) {
             simulator_.los();
@@ -422,8 +323,8 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     tarvel::ui::stil::anwenden(anwendung);
     const QStringList argumente = QApplication::arguments().mid(1);
-    const auto geraet = tarvel::vorfuehrgeraete.find(argumente.value(0, "cu").toStdString());
-    if (geraet == tarvel::vorfuehrgeraete.end() || argumente.size() > 2) {
+    const auto geraet = tarvel::vorfuehrgeraete().find(argumente.value(0, "cu").toStdString());
+    if (geraet == tarvel::vorfuehrgeraete().end() || argumente.size() > 2) {
         std::fprintf(stderr, "vorfuehrung [cu|at2560|iow|lpt|4x4|rc|tk] [<Ordner>]\n");
         return 2;
     }
