@@ -79,6 +79,19 @@ struct Simulatorrennen : testing::Test {
         starten(minuten);
         laufen(zeit_ms{32} * 60 * 1000);
     }
+    void rennen_verlassen() {
+        t.p.fenster.entladen(fenstername::auswertung);
+        t.p.fenster.entladen(fenstername::bahn1);
+        pausen.clear();
+    }
+    void modul_4x4_anschliessen(const simulator::m4x4_einstellung& einst, modul_4x4 modus) {
+        zeichen_je_ms = 1;
+        t.p.einst.hardware = {};
+        t.p.einst.hardware.hw_4x4_modus = modus;
+        anschliessen(std::make_unique<simulator::m4x4>(einst));
+        geraet->verbunden();
+        laufen(4000);
+    }
     /// Stamps of the finish line.
     std::vector<zeit_ms> ueberfahrten(int wagen) const {
         std::vector<zeit_ms> stempel;
@@ -149,9 +162,7 @@ TEST_F(Simulatorrennen, EineUhrMitAndererGeschwindigkeitVerschiebtKeineRunde) {
         pause_machen(300000);
         laufen(zeit_ms{6} * 60 * 1000);
         vergleichen(8);
-        t.p.fenster.entladen(fenstername::auswertung);
-        t.p.fenster.entladen(fenstername::bahn1);
-        pausen.clear();
+        rennen_verlassen();
     }
 }
 
@@ -259,9 +270,7 @@ TEST_F(Timekeeperrennen, EineSchiefeUhrUndEinRechnerDerStehtVerschiebenKeineRund
         pause_machen(20000);
         laufen(zeit_ms{5} * 60 * 1000);
         vergleichen(5);
-        t.p.fenster.entladen(fenstername::auswertung);
-        t.p.fenster.entladen(fenstername::bahn1);
-        pausen.clear();
+        rennen_verlassen();
     }
 }
 
@@ -273,9 +282,7 @@ TEST_F(Timekeeperrennen, InDenDigitalmodenFahrenSechsWagenUeberEinenSensor) {
         starten("5");
         laufen(zeit_ms{6} * 60 * 1000);
         vergleichen(5);
-        t.p.fenster.entladen(fenstername::auswertung);
-        t.p.fenster.entladen(fenstername::bahn1);
-        pausen.clear();
+        rennen_verlassen();
     }
 }
 
@@ -289,19 +296,14 @@ TEST_F(Simulatorrennen, Modul4x4DreissigMinutenAufKontakten) {
         w.standzeit = 4000;
     }
     einst.rennen.wagen[1].chaos_promille = 15;
-    zeichen_je_ms = 1;
     genauigkeit = 12;  // the answer to whether it is still there comes first, at the rate of its port
-    t.p.einst.hardware = {};
-    t.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_4;
     t.p.einst.s6.s6_eingang = {0, 16, 15, 32, 30, 31, 29, 42, 55};
     t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
     t.p.einst.tank_art = tankweise::zwischen_zwei_kontakten;
     t.p.einst.sektor_an[0] = t.p.einst.sektor_an[1] = true;
     t.p.form1.t_aktiv.umschalten();
     t.p.form1.wertmin.eingeben("3");  // the false starter's first lap is short
-    anschliessen(std::make_unique<simulator::m4x4>(einst));
-    geraet->verbunden();
-    laufen(4000);
+    modul_4x4_anschliessen(einst, modul_4x4::modus_4);
     starten("30", {1, 2});
     laufen(zeit_ms{34} * 60 * 1000);
     EXPECT_GT(pausen.size(), 1U);
@@ -319,13 +321,8 @@ TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {
         w.anfahrt = anfahrt += 50;
         w.chaos_promille = 20;
     }
-    zeichen_je_ms = 1;
     genauigkeit = 9;  // three of its lines at once, at the rate of its port
-    t.p.einst.hardware = {};
-    t.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_1;
-    anschliessen(std::make_unique<simulator::m4x4>(einst));
-    geraet->verbunden();
-    laufen(4000);
+    modul_4x4_anschliessen(einst, modul_4x4::modus_1);
     starten("10");
     laufen(zeit_ms{12} * 60 * 1000);
     EXPECT_GT(pausen.size(), 1U);

@@ -29,13 +29,11 @@ bool at2560_hoeren(werkbank& bank, const std::string& bytes) {
     at2560 geraet(
         {p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen, gesagt, gesagt});
     fordern(geraet.oeffnen(), "the port is closed");
-    std::size_t stueck = 1;
-    for (std::size_t i = 0; i < bytes.size(); i += stueck) {
-        stueck = 1 + static_cast<unsigned char>(bytes[i]) % 23;
-        bank.t.maschine.anschluesse.senden(3, std::string_view(bytes).substr(i, stueck));
+    in_stuecken(bytes, [&](std::string_view stueck) {
+        bank.t.maschine.anschluesse.senden(3, stueck);
         geraet.abfragen();
         bank.t.maschine.uhr_stellen(1);
-    }
+    });
     for (ereignis_art art = 1; art < ereignis_tabelle::zeilen_anzahl; ++art) {
         const zeit_ms zeit = std::exchange(p.ereignisse[art].ereignis_zeit, 0);
         fordern(zeit > -spaetestens && zeit < spaetestens, "a stamp beyond all limits");

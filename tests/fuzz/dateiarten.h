@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/dateien.h"
@@ -35,6 +37,15 @@ private:
 /// Ends the reading with what is wrong.
 void fordern(bool erfuellt, const char* was);
 
+/// The longest line that a file of the program has, in characters.
+inline constexpr std::size_t zeile_max = 4000;
+bool ist_eine_zeile(const std::string& text);
+
+/// Bytes in pieces that they say the length of themselves.
+void in_stuecken(std::string_view bytes, const std::function<void(std::string_view)>& hoeren);
+/// What the devices have delivered is taken, and looked at first. False if it is nothing.
+bool ereignisse_abholen(programm& p, const std::function<void(ereignis_art, const ereignis_zeile&)>& pruefen);
+
 /// Lets the program read a file of these bytes and holds what it made of it against what must be true of any file.
 /// Tells whether the file was accepted; throws when something is wrong.
 using leseversuch = bool (*)(werkbank&, const std::string& bytes);
@@ -48,6 +59,11 @@ struct dateiart {
 /// All kinds by their names. A new one gets its row here, and its name in the CMake list of the targets.
 std::map<std::string, dateiart> dateiarten(werkbank& bank);
 
+bool namensliste_lesen(werkbank& bank, const std::string& bytes);
+bool trennzeichen_lesen(werkbank& bank, const std::string& bytes);
+bool werbezeile_lesen(werkbank& bank, const std::string& bytes);
+bool startdatei_lesen(werkbank& bank, const std::string& bytes);
+bool tasten_lesen(werkbank& bank, const std::string& bytes);
 bool einstellungen_lesen(werkbank& bank, const std::string& bytes);
 bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes);
 bool wettkampfstand_lesen(werkbank& bank, const std::string& bytes);

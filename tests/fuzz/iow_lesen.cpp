@@ -49,12 +49,11 @@ bool iow_hoeren(werkbank& bank, const std::string& bytes) {
         bank.t.maschine.laufen(1);
         const zeit_ms jetzt = p.ereignisse.messzeit = bank.t.maschine.jetzt();
         geraet.abfragen();
-        for (ereignis_art nummer = 1; nummer < ereignis_tabelle::zeilen_anzahl; ++nummer) {
-            ereignis_zeile& zeile = p.ereignisse[nummer];
-            fordern(!zeile.aktiv || art::ist_eingang(nummer), "an event of an output");
-            fordern(!zeile.aktiv || zeile.ereignis_zeit == jetzt, "an event of another moment");
-            gehoert = std::exchange(zeile.aktiv, false) || gehoert;
-        }
+        const bool etwas = ereignisse_abholen(p, [&](ereignis_art nummer, const ereignis_zeile& zeile) {
+            fordern(art::ist_eingang(nummer), "an event of an output");
+            fordern(zeile.ereignis_zeit == jetzt, "an event of another moment");
+        });
+        gehoert = gehoert || etwas;
     }
     return gehoert;
 }

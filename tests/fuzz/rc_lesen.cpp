@@ -63,10 +63,8 @@ bool race_control_hoeren(werkbank& bank, const std::string& bytes) {
     p.geraete.hardware_starten(false);
     fordern(bank.t.maschine.anschluesse.offen(com), "the port is closed");
     bool gehoert = false;
-    std::size_t stueck = 1;
-    for (std::size_t i = 0; i < bytes.size(); i += stueck) {
-        stueck = 1 + static_cast<unsigned char>(bytes[i]) % 23;
-        bank.t.maschine.anschluesse.senden(com, std::string_view(bytes).substr(i, stueck));
+    in_stuecken(bytes, [&](std::string_view stueck) {
+        bank.t.maschine.anschluesse.senden(com, stueck);
         bank.t.maschine.laufen(1);
         bank.t.maschine.uhr_stellen(30);
         const zeit_ms jetzt = p.rennen.zeit.messzeit_lesen();
@@ -75,7 +73,7 @@ bool race_control_hoeren(werkbank& bank, const std::string& bytes) {
             fordern(!zeile.aktiv || zeile.ereignis_zeit <= jetzt, "an event from the future");
             gehoert = std::exchange(zeile.aktiv, false) || gehoert;
         }
-    }
+    });
     bank.t.maschine.meldungen_gezeigt.clear();
     return gehoert;
 }

@@ -36,23 +36,16 @@ bool timekeeper_hoeren(werkbank& bank, const std::string& bytes) {
         "\x02\x17"
         "500\x03";
     bank.t.maschine.laufen(110);
-    bool gehoert = false;
-    std::size_t stueck = 1;
-    for (std::size_t i = 0; i < bytes.size(); i += stueck) {
-        stueck = 1 + static_cast<unsigned char>(bytes[i]) % 23;
-        ftdi.wartet += bytes.substr(i, stueck);
+    in_stuecken(bytes, [&](std::string_view stueck) {
+        ftdi.wartet += stueck;
         bank.t.maschine.laufen(1);
         bank.t.maschine.uhr_stellen(30);
-    }
+    });
     bank.t.maschine.laufen(110);
     const zeit_ms jetzt = p.rennen.zeit.messzeit_lesen();
-    for (ereignis_art art = 1; art < ereignis_tabelle::zeilen_anzahl; ++art) {
-        ereignis_zeile& zeile = p.ereignisse[art];
-        fordern(!zeile.aktiv || zeile.ereignis_zeit <= jetzt + 1000, "an event from the future");
-        gehoert = std::exchange(zeile.aktiv, false) || gehoert;
-        zeile.ereignis_zeit = 0;
-    }
-    return gehoert;
+    return ereignisse_abholen(p, [&](ereignis_art /*art*/, const ereignis_zeile& zeile) {
+        fordern(zeile.ereignis_zeit <= jetzt + 1000, "an event from the future");
+    });
 }
 
 }  // namespace tarvel::test

@@ -14,12 +14,10 @@ bool modul4x4_hoeren(werkbank& bank, const std::string& bytes) {
     gesagt.ereignisse_weitersagen = false;
     tx_modul modul({p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, gesagt, gesagt});
     fordern(modul.oeffnen(), "the port is closed");
-    std::size_t stueck = 1;
-    for (std::size_t i = 0; i < bytes.size(); i += stueck) {
-        stueck = 1 + static_cast<unsigned char>(bytes[i]) % 23;
-        bank.t.maschine.anschluesse.senden(3, std::string_view(bytes).substr(i, stueck));
+    in_stuecken(bytes, [&](std::string_view stueck) {
+        bank.t.maschine.anschluesse.senden(3, stueck);
         bank.t.maschine.uhr_stellen(1);
-    }
+    });
     fordern(modul.modus() >= 0 && modul.modus() <= tx_modul::kontakt_modus, "a mode that there is not");
     for (ereignis_art art = 1; art < ereignis_tabelle::zeilen_anzahl; ++art) {
         fordern(p.ereignisse[art].ereignis_zeit <= d.uhr.jetzt(), "a stamp from the future");
