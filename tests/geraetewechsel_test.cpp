@@ -15,7 +15,7 @@
 namespace tarvel::test {
 namespace {
 
-constexpr std::array<int, 8> com{0, 0, 2, 0, 4, 0, 6, 8};  ///< port of each kind of hardware; 0 none
+constexpr std::array<int, 8> com_je_art{0, 0, 2, 0, 4, 0, 6, 8};  ///< port of each kind of hardware; 0 none
 constexpr int boot_ms = 4000;
 
 /// The car of each kind has a lap time of its own, so that a lap tells where it was driven.
@@ -72,11 +72,11 @@ struct Geraetewechsel : bibliotheken_dahinter, testing::Test {
         iow_profil_speichern(t.p.ablage, t.p.einst.iow.iow_datei, iow_werkseinstellung());
         t.maschine.datei_schreiben("tvk_tk.tk", simulator::timekeeper_datei());
         t.maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
-        t.maschine.anschluesse.da = {com[2], com[4], com[6], com[7]};
-        t.p.einst.rc.anschluss.rc_com_port = "COM" + std::to_string(com[2]);
-        t.p.einst.cu.anschluss.cu_modus = com[6];
+        t.maschine.anschluesse.da = {com_je_art[2], com_je_art[4], com_je_art[6], com_je_art[7]};
+        t.p.einst.rc.anschluss.rc_com_port = "COM" + std::to_string(com_je_art[2]);
+        t.p.einst.cu.anschluss.cu_modus = com_je_art[6];
         t.p.einst.cu.cu_sondermodus = true;
-        t.p.einst.uart.uart_port = com[7];
+        t.p.einst.uart.uart_port = com_je_art[7];
         t.p.form1.wertmin.eingeben("1");
         geraete_hinstellen();
     }
@@ -123,7 +123,9 @@ struct Geraetewechsel : bibliotheken_dahinter, testing::Test {
         }
         ftdi.geraet = [this](std::string_view bytes) { geraete[5]->empfangen(bytes); };
         t.maschine.anschluesse.geraet = [this](int port, std::string_view bytes) {
-            geraete.at(static_cast<std::size_t>(std::find(com.begin(), com.end(), port) - com.begin()))
+            geraete
+                .at(static_cast<std::size_t>(std::find(com_je_art.begin(), com_je_art.end(), port) -
+                                             com_je_art.begin()))
                 ->empfangen(bytes);
         };
     }
@@ -141,7 +143,7 @@ struct Geraetewechsel : bibliotheken_dahinter, testing::Test {
                     if (art == 5) {
                         ftdi.wartet += ftdi.offen ? bytes : std::string();
                     } else if (!bytes.empty()) {
-                        t.maschine.anschluesse.senden(com.at(art), bytes);
+                        t.maschine.anschluesse.senden(com_je_art.at(art), bytes);
                     }
                 }
             }
@@ -160,8 +162,9 @@ struct Geraetewechsel : bibliotheken_dahinter, testing::Test {
     /// Numbers of those that the program has open, but for the IO board: it switches beside each of them.
     std::vector<std::size_t> offene() const {
         std::vector<std::size_t> alle;
-        for (std::size_t art = 2; art < com.size(); ++art) {
-            if ((art == 5 && ftdi.offen) || (com.at(art) != 0 && t.maschine.anschluesse.offen(com.at(art)))) {
+        for (std::size_t art = 2; art < com_je_art.size(); ++art) {
+            if ((art == 5 && ftdi.offen) ||
+                (com_je_art.at(art) != 0 && t.maschine.anschluesse.offen(com_je_art.at(art)))) {
                 alle.push_back(art);
             }
         }
@@ -203,8 +206,8 @@ TEST_F(Geraetewechsel, NachJedemAnderenMisstDasNeueAllein) {
     std::array<std::size_t, 8> zeitgeber{};
     waehlen(0);
     t.maschine.meldungen_gezeigt.clear();  // of files that the folder lacks
-    for (std::size_t altes = 0; altes < com.size(); ++altes) {
-        for (std::size_t neues = 0; neues < com.size(); ++neues) {
+    for (std::size_t altes = 0; altes < com_je_art.size(); ++altes) {
+        for (std::size_t neues = 0; neues < com_je_art.size(); ++neues) {
             if (altes == neues) {
                 continue;
             }

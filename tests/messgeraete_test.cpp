@@ -7,33 +7,33 @@
 namespace tarvel::test {
 namespace {
 
-constexpr int com = 7;
+constexpr int com_am_stecker = 7;
 
 /// A device that is pulled out in the race and is in again for the next one.
 struct Wiedereingesteckt : testing::Test {
     void einschalten(bool messhardware::*geraet) {
-        t.maschine.anschluesse.da = {com};
+        t.maschine.anschluesse.da = {com_am_stecker};
         t.p.einst.hardware = {};
         t.p.einst.hardware.*geraet = true;
-        t.p.einst.cu.anschluss.cu_modus = com;
-        t.p.einst.uart.uart_port = com;
+        t.p.einst.cu.anschluss.cu_modus = com_am_stecker;
+        t.p.einst.uart.uart_port = com_am_stecker;
         t.p.geraete.hardware_starten(false);
         t.maschine.laufen(at_bootzeit.count() + 500);
     }
     void abziehen_und_einstecken() {
         t.einrichten("Runden", "20", {1});
-        t.maschine.anschluesse.abziehen(com);
+        t.maschine.anschluesse.abziehen(com_am_stecker);
         t.maschine.laufen(2000);
         EXPECT_TRUE(getrennt());
         t.p.fenster.entladen(fenstername::bahn1);
-        t.maschine.anschluesse.da = {com};
+        t.maschine.anschluesse.da = {com_am_stecker};
         gesendet();
         t.einrichten("Runden", "20", {1});
-        EXPECT_TRUE(t.maschine.anschluesse.offen(com));
+        EXPECT_TRUE(t.maschine.anschluesse.offen(com_am_stecker));
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
     }
     bool getrennt() { return t.p.form1.modus_label.text().find("keine Verbindung") != std::string::npos; }
-    std::string gesendet() { return std::exchange(t.maschine.anschluesse.geschrieben[com], {}); }
+    std::string gesendet() { return std::exchange(t.maschine.anschluesse.geschrieben[com_am_stecker], {}); }
 
     testprogramm t;
 };
@@ -59,13 +59,13 @@ TEST_F(Wiedereingesteckt, EinAbendVonSelbstWartetAufDasGeraetUndNichtAufEineAntw
         auto abend = wettkampf_beginnen(vorgabe, std::vector<std::string>{"Anna", "Ben"}, "Abend", t.p.txt);
         ASSERT_TRUE(abend);
         t.p.wettkampfabend.beginnen(std::move(*abend));
-        t.maschine.anschluesse.abziehen(com);  // as the window opens
+        t.maschine.anschluesse.abziehen(com_am_stecker);  // as the window opens
         ASSERT_TRUE(t.p.wettkampfabend.rennen_starten());
         t.maschine.laufen(10000);
         EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
         EXPECT_TRUE(t.bahn().geraetealarm.sichtbar());
         EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
-        t.maschine.anschluesse.da = {com};
+        t.maschine.anschluesse.da = {com_am_stecker};
         t.maschine.laufen(at_bootzeit.count() + 3000);
         EXPECT_NE(t.p.rennen.zustand.rennen_beendet, von_selbst);
         t.p.rennen.befehle.rennen_abbrechen();
@@ -99,12 +99,12 @@ TEST_F(Wiedereingesteckt, ImRennenWirdEsVermisstGesuchtUndWiederAufgenommen) {
     t.maschine.laufen(3000);
     EXPECT_FALSE(alarm.sichtbar());
     t.p.ausgaben.relais_on(2);
-    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.abziehen(com_am_stecker);
     t.maschine.laufen(3000);
     EXPECT_TRUE(alarm.sichtbar());
     EXPECT_EQ(alarm.text(), "AT-2560 USB – keine Verbindung");
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[sound::pause_beginnt]});
-    t.maschine.anschluesse.da = {com};
+    t.maschine.anschluesse.da = {com_am_stecker};
     gesendet();
     t.maschine.laufen(2500 + at_bootzeit.count());
     EXPECT_FALSE(alarm.sichtbar());
@@ -123,7 +123,8 @@ TEST_F(Wiedereingesteckt, InDerPauseZurueckMisstEsWeiterAlsWaereNichtsGewesen) {
         t.starten("Runden", "20", {1});
         zeit_ms uhr_seit = t.maschine.jetzt();
         const auto sagt = [&](const std::string& name) {
-            t.maschine.anschluesse.senden(com, ":" + name + "," + std::to_string(t.maschine.jetzt() - uhr_seit) + ";");
+            t.maschine.anschluesse.senden(com_am_stecker,
+                                          ":" + name + "," + std::to_string(t.maschine.jetzt() - uhr_seit) + ";");
         };
         const auto pause_umschalten = [&] {
             t.bahn().Command3.klicken();
@@ -140,13 +141,13 @@ TEST_F(Wiedereingesteckt, InDerPauseZurueckMisstEsWeiterAlsWaereNichtsGewesen) {
         if (erst_in_der_pause) {
             pause_umschalten();
         }
-        t.maschine.anschluesse.abziehen(com);
+        t.maschine.anschluesse.abziehen(com_am_stecker);
         t.maschine.laufen(2000);
         EXPECT_TRUE(t.bahn().geraetealarm.sichtbar());
         if (!erst_in_der_pause) {
             pause_umschalten();
         }
-        t.maschine.anschluesse.da = {com};
+        t.maschine.anschluesse.da = {com_am_stecker};
         t.maschine.laufen(2500);
         uhr_seit = t.maschine.jetzt();
         gesendet();
@@ -177,10 +178,10 @@ TEST_F(Wiedereingesteckt, BeimEinfahrenBleibtEineFertigeSpurOhneStrom) {
     t.bahn().Command6.klicken();
     t.p.einfahren.taste('2');
     t.maschine.laufen(10);
-    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.abziehen(com_am_stecker);
     t.maschine.laufen(3000);
     EXPECT_TRUE(t.p.einfahren.geraetealarm.sichtbar());
-    t.maschine.anschluesse.da = {com};
+    t.maschine.anschluesse.da = {com_am_stecker};
     gesendet();
     t.maschine.laufen(2500 + at_bootzeit.count());
     EXPECT_FALSE(t.p.einfahren.geraetealarm.sichtbar());
@@ -197,9 +198,9 @@ TEST_F(Wiedereingesteckt, NachDemEinfahrenWartetDerStartAufDasGeraet) {
     t.p.rennen.teil_von.wechseln(abend);
     t.p.fenster.neu_laden(fenstername::bahn1);
     t.bahn().Command6.klicken();
-    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.abziehen(com_am_stecker);
     t.maschine.laufen(3000);
-    t.maschine.anschluesse.da = {com};
+    t.maschine.anschluesse.da = {com_am_stecker};
     t.maschine.laufen(2500);
     t.p.einfahren.Command5.klicken();
     EXPECT_FALSE(t.bahn().Command1.bedienbar());
@@ -212,7 +213,7 @@ TEST_F(Wiedereingesteckt, NachDemEinfahrenWartetDerStartAufDasGeraet) {
 TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
     einschalten(&messhardware::hw_cu);
     t.einrichten("Runden", "20", {1});
-    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.abziehen(com_am_stecker);
     t.maschine.laufen(2000);
     t.bahn().Command1.klicken();
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
@@ -225,7 +226,7 @@ TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
 TEST_F(Wiedereingesteckt, WasWaehrendDerFrageVonSelbstBeginntBeginntNichtNocheinmal) {
     einschalten(&messhardware::hw_cu);
     t.einrichten("Runden", "20", {1});
-    t.maschine.anschluesse.abziehen(com);
+    t.maschine.anschluesse.abziehen(com_am_stecker);
     t.maschine.laufen(2000);
     t.maschine.antwort = true;
     t.maschine.waehrend_frage = [this] {

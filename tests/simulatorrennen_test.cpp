@@ -10,7 +10,7 @@
 namespace tarvel::test {
 namespace {
 
-constexpr int com = 7;
+constexpr int com_der_leitung = 7;
 
 /// The program against a simulated device, on one clock. The line carries a few characters a millisecond, so that every
 /// record comes in pieces.
@@ -18,7 +18,7 @@ struct Simulatorrennen : testing::Test {
     void anschliessen(std::unique_ptr<simulator::geraet> neu) {
         geraet = std::move(neu);
         geraet->senden = [this](std::string_view bytes) { leitung += bytes; };
-        t.maschine.anschluesse.da = {com};
+        t.maschine.anschluesse.da = {com_der_leitung};
         t.maschine.anschluesse.geraet = [this](int /*com*/, std::string_view bytes) { geraet->empfangen(bytes); };
         t.p.geraete.hardware_starten(false);
     }
@@ -26,7 +26,7 @@ struct Simulatorrennen : testing::Test {
         for (; dauer > 0; --dauer) {
             geraet->weiter(t.maschine.jetzt());
             if (!leitung.empty() && !leitung_steht) {
-                t.maschine.anschluesse.senden(com, leitung.substr(0, zeichen_je_ms));
+                t.maschine.anschluesse.senden(com_der_leitung, leitung.substr(0, zeichen_je_ms));
                 leitung.erase(0, zeichen_je_ms);
             }
             t.maschine.laufen(1);
@@ -40,7 +40,7 @@ struct Simulatorrennen : testing::Test {
         leitung_steht = true;
         laufen(dauer);
         leitung_steht = false;
-        t.maschine.anschluesse.senden(com, std::exchange(leitung, {}));
+        t.maschine.anschluesse.senden(com_der_leitung, std::exchange(leitung, {}));
     }
     /// Neither timers nor records; the cars drive on.
     void rechner_steht(zeit_ms dauer) {
@@ -58,7 +58,7 @@ struct Simulatorrennen : testing::Test {
     void control_unit_anschliessen(const simulator::control_unit_einstellung& einst) {
         t.p.einst.hardware = {};
         t.p.einst.hardware.hw_cu = true;
-        t.p.einst.cu.anschluss.cu_modus = com;
+        t.p.einst.cu.anschluss.cu_modus = com_der_leitung;
         t.p.einst.cu.cu_sondermodus = true;
         anschliessen(std::make_unique<simulator::control_unit>(einst));
     }
@@ -216,7 +216,7 @@ TEST_F(Simulatorrennen, At2560DreissigMinuten) {
     t.maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
     t.p.einst.hardware = {};
     t.p.einst.hardware.hw_uart = true;
-    t.p.einst.uart.uart_port = com;
+    t.p.einst.uart.uart_port = com_der_leitung;
     anschliessen(std::make_unique<simulator::at2560>(einst));
     geraet->verbunden();
     laufen(4000);

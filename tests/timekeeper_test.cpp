@@ -48,7 +48,7 @@ struct Timekeeper : testing::Test {
     zeit_ms beginn = 0;
 };
 
-std::string datei(int modus, const std::string& arten) {
+std::string tk_datei(int modus, const std::string& arten) {
     std::string text = "Tarvel Timekeeper-Einstellungen\r\n\r\n" + std::to_string(modus) + "\r\n";
     for (const char zeichen : arten) {
         text += zeichen == ' ' ? std::string("\r\n") : std::string(1, zeichen);
@@ -60,7 +60,7 @@ TEST_F(Timekeeper, FaehrtInAllenModenHochUndStehtInDerStatuszeile) {
     constexpr std::array<const char*, 4> befehle{"mode0,", "mode1,", "mode2,digital124132,", "mode2,digital143,"};
     constexpr std::array<const char*, 4> namen{"Kein Modus", "Analog", "Digital 124/132", "Digital 143"};
     for (const std::size_t modus : {0U, 1U, 2U, 3U}) {
-        t.maschine.datei_schreiben("tvk_tk.tk", datei(static_cast<int>(modus), "16"));
+        t.maschine.datei_schreiben("tvk_tk.tk", tk_datei(static_cast<int>(modus), "16"));
         einschalten();
         gesendet();
         t.maschine.laufen(1000);
@@ -95,7 +95,7 @@ TEST_F(Timekeeper, JederSatzKommtAnWoImmerErGeschnittenIst) {
 }
 
 TEST_F(Timekeeper, ImDigitalmodusWaehltDerWagenDieSpurUndDerSensorDasEreignis) {
-    t.maschine.datei_schreiben("tvk_tk.tk", datei(2, "16 32 25 43 56 20 1 0"));
+    t.maschine.datei_schreiben("tvk_tk.tk", tk_datei(2, "16 32 25 43 56 20 1 0"));
     bereit(1000);
     struct fall {
         std::string satz;
@@ -299,7 +299,7 @@ TEST_F(Timekeeper, DateiGehtRundUndVerdorbeneWerteWerdenKeine) {
     tk_profil q;
     ASSERT_TRUE(tk_profil_laden(t.p.ablage, "klub", q));
     EXPECT_EQ(p, q);
-    t.maschine.datei_schreiben("klub.tk", datei(9, "2 61 -4 x 13"));
+    t.maschine.datei_schreiben("klub.tk", tk_datei(9, "2 61 -4 x 13"));
     ASSERT_TRUE(tk_profil_laden(t.p.ablage, "klub", q));
     EXPECT_EQ((std::vector<int>(q.tk_sensor_art.begin(), q.tk_sensor_art.begin() + 6)),
               (std::vector<int>{0, 0, 0, 0, 13, 31}));

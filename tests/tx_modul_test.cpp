@@ -15,14 +15,14 @@
 namespace tarvel {
 namespace {
 
-constexpr int com = 5;
+constexpr int com_am_modul = 5;
 
 /// The program with a module at COM5 that greets and answers, byte for byte as this test has it.
 struct TxModul : testing::Test {
     TxModul() {
-        t.maschine.anschluesse.da = {2, com};
+        t.maschine.anschluesse.da = {2, com_am_modul};
         t.maschine.anschluesse.geraet = [this](int nummer, std::string_view bytes) {
-            if (nummer == com && antwortet) {
+            if (nummer == com_am_modul && antwortet) {
                 antworten(bytes);
             }
         };
@@ -38,8 +38,10 @@ struct TxModul : testing::Test {
             }
         }
     }
-    void sagt(std::string_view bytes) { t.maschine.anschluesse.senden(com, bytes); }
-    std::string gesendet(int nummer = com) { return std::exchange(t.maschine.anschluesse.geschrieben[nummer], {}); }
+    void sagt(std::string_view bytes) { t.maschine.anschluesse.senden(com_am_modul, bytes); }
+    std::string gesendet(int nummer = com_am_modul) {
+        return std::exchange(t.maschine.anschluesse.geschrieben[nummer], {});
+    }
     void waehlen(modul_4x4 modus) {
         t.p.einst.hardware.hw_simulation = false;
         t.p.einst.hardware.hw_4x4_modus = modus;
@@ -122,7 +124,7 @@ TEST_F(TxModul, EsWirdAnJedemPortGesuchtUndDannZuerstAnSeinem) {
         t.p.geraete.hardware_starten(false);
         t.maschine.laufen(4000);
         EXPECT_TRUE(tx.modul.verbunden());
-        EXPECT_EQ(t.maschine.anschluesse.werte[com], "9600,n,8,1");
+        EXPECT_EQ(t.maschine.anschluesse.werte[com_am_modul], "9600,n,8,1");
         EXPECT_FALSE(t.maschine.anschluesse.offen(2));
         const std::string bytes = gesendet();
         EXPECT_NE(bytes.find("02"), std::string::npos) << bytes;
@@ -139,8 +141,9 @@ TEST_F(TxModul, OhneModulGehtEsOhneWeiter) {
         std::string meldung;
     };
     antwortet = false;
-    for (const fall& f : {fall{{}, "Kann 4x4 USB nicht öffnen. Bitte das Modul aus-/einstecken!"},
-                          fall{{com}, "4x4 USB kann nicht aktiviert werden. Bitte das Modul aus-/einstecken!"}}) {
+    for (const fall& f :
+         {fall{{}, "Kann 4x4 USB nicht öffnen. Bitte das Modul aus-/einstecken!"},
+          fall{{com_am_modul}, "4x4 USB kann nicht aktiviert werden. Bitte das Modul aus-/einstecken!"}}) {
         t.maschine.anschluesse.da = f.ports;
         t.maschine.meldungen_gezeigt.clear();
         t.p.einst.hardware.hw_4x4_modus = modul_4x4::modus_4;
@@ -153,7 +156,7 @@ TEST_F(TxModul, OhneModulGehtEsOhneWeiter) {
         ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
         EXPECT_EQ(t.maschine.meldungen_gezeigt[0].text, f.meldung);
         EXPECT_EQ(t.p.form1.modus_label.text(), "Simulationsmodus");
-        EXPECT_FALSE(t.maschine.anschluesse.offen(com));
+        EXPECT_FALSE(t.maschine.anschluesse.offen(com_am_modul));
         t.maschine.laufen(2000);
         EXPECT_FALSE(offen(fenstername::Form5));
     }
@@ -206,7 +209,9 @@ TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
     gesendet();
     const std::vector<std::function<void(bool)>> stoerungen{
         [&](bool da) { antwortet = da; },
-        [&](bool da) { da ? (void)t.maschine.anschluesse.da.insert(com) : t.maschine.anschluesse.abziehen(com); }};
+        [&](bool da) {
+            da ? (void)t.maschine.anschluesse.da.insert(com_am_modul) : t.maschine.anschluesse.abziehen(com_am_modul);
+        }};
     for (const auto& stoerung : stoerungen) {
         stoerung(false);
         t.maschine.laufen(8000);
@@ -232,9 +237,9 @@ TEST_F(TxModul, WasWaehrendEinesDialogsKamZaehltMitSeinerZeit) {
     t.maschine.laufen(10);
     const zeit_ms von = t.maschine.jetzt();
     t.maschine.uhr_stellen(30000);
-    t.maschine.anschluesse.senden(com, "1?\r2?\r", von + 7000);
-    t.maschine.anschluesse.senden(com, "1?\r5?\r1", von + 15000);
-    t.maschine.anschluesse.senden(com, "?\r", von + 24500);
+    t.maschine.anschluesse.senden(com_am_modul, "1?\r2?\r", von + 7000);
+    t.maschine.anschluesse.senden(com_am_modul, "1?\r5?\r1", von + 15000);
+    t.maschine.anschluesse.senden(com_am_modul, "?\r", von + 24500);
     t.maschine.laufen(10);
     const rundenkonto& konto = t.p.rennen.zustand.konto;
     EXPECT_EQ(konto.runden(1), 3);
@@ -268,10 +273,10 @@ TEST_F(TxModul, EinModusDenEsVerpasstHatWirdNochmalsGesetzt) {
 }
 
 TEST_F(TxModul, DieListeNenntPortsUndIhreEreignisse) {
-    t.maschine.anschluesse.bekannt[com] = {"USB 0403:6001", "/dev/ttyUSB0", "Serial"};
+    t.maschine.anschluesse.bekannt[com_am_modul] = {"USB 0403:6001", "/dev/ttyUSB0", "Serial"};
     t.p.fenster.laden(fenstername::frmMain);
     t.maschine.laufen(4000);
-    t.maschine.anschluesse.ereignis(com, 7);
+    t.maschine.anschluesse.ereignis(com_am_modul, 7);
     tx.frm_main.Command6.klicken();
     EXPECT_EQ(tx.frm_main.hinweis.text(), "Firmware: V1.2") << "also where it is known";
     sagt("mod1\r1@\r");

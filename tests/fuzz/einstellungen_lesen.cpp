@@ -10,19 +10,19 @@
 namespace tarvel::test {
 namespace {
 
-constexpr const char* datei = "Einstellungen/einstellungen.ini";
+constexpr const char* klubdatei = "Einstellungen/einstellungen.ini";
 constexpr const char* wieder = "Einstellungen/wieder.ini";
 
 /// What other parts count on as an index, a choice or a divisor.
-struct grenze {
+struct feldgrenze {
     const char* name;
     zahlzugriff zahl;
     int min;
     int max;
 };
 
-const std::vector<grenze>& grenzen() {
-    static const std::vector<grenze> alle{
+const std::vector<feldgrenze>& grenzen() {
+    static const std::vector<feldgrenze> alle{
         {"start_option", wert(&einstellungen::start_option), 1, 3},
         {"fruehstart_option", wert(&einstellungen::fruehstart_option), 0, 5},
         {"nachtrennen_modus", wert(&einstellungen::nachtrennen_modus), 0, 2},
@@ -58,7 +58,7 @@ void fordern_zwischen(const Werte& werte, int min, int max, const char* was) {
 void werte_pruefen(programm& p) {
     const einstellungen& einst = p.einst;
     constexpr int ereignis_max = 59;
-    for (const grenze& g : grenzen()) {
+    for (const feldgrenze& g : grenzen()) {
         fordern_zwischen(std::array{g.zahl({p.einst, p.einrichtung, p.txt})}, g.min, g.max, g.name);
     }
     fordern_zwischen(einst.lpt.lpt_eingang, 0, ereignis_max, "lpt_eingang");
@@ -109,8 +109,8 @@ void hin_und_zurueck(programm& p) {
 
 bool einstellungen_lesen(werkbank& bank, const std::string& bytes) {
     programm& p = bank.t.p;
-    bank.legen(datei, bytes);
-    if (!laden(p, datei)) {
+    bank.legen(klubdatei, bytes);
+    if (!laden(p, klubdatei)) {
         return false;
     }
     werte_pruefen(p);
@@ -125,8 +125,8 @@ bool einstellungen_lesen(werkbank& bank, const std::string& bytes) {
 
 bool wettkampfdatei_lesen(werkbank& bank, const std::string& bytes) {
     einstellungsdatei& d = bank.t.p.datei;
-    bank.legen(datei, bytes);
-    d.einstellungsdatei_einlesen(datei, true);
+    bank.legen(klubdatei, bytes);
+    d.einstellungsdatei_einlesen(klubdatei, true);
     d.einstellungsdatei_pruefen();
     const bool angenommen = !d.fehler_laden();
     const einstellungs_zeilen zeilen = d.zeilen();

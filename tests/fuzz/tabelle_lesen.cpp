@@ -11,11 +11,11 @@
 namespace tarvel::test {
 namespace {
 
-constexpr const char* datei = "betrachtet.csv";
+constexpr const char* tabellendatei = "betrachtet.csv";
 
 std::optional<ergebnistabelle> gelesen(const dateien& ablage, const trennzeichen_tabelle& trennzeichen) {
-    return ergebnistabelle_lesen(ablage.zeilen_lesen(datei, 1000000, 200000).value_or(std::vector<std::string>{}),
-                                 trennzeichen);
+    return ergebnistabelle_lesen(
+        ablage.zeilen_lesen(tabellendatei, 1000000, 200000).value_or(std::vector<std::string>{}), trennzeichen);
 }
 
 /// All that the window does with it.
@@ -38,7 +38,7 @@ void speichern_und_lesen(const werkbank& bank, const ergebnistabelle& tabelle) {
     const auto zeilen = tabelle.alle_zeilen();
     fordern(zeilen.size() == tabelle.umfang() && zeilen.size() <= ergebnistabelle::zeilen_max,
             "more lines than there is room for");
-    fordern(bank.ausgang.zeilen_schreiben(datei, zeilen), "a table cannot be written");
+    fordern(bank.ausgang.zeilen_schreiben(tabellendatei, zeilen), "a table cannot be written");
     const auto wieder = gelesen(bank.ausgang, tabelle.trennzeichen);
     fordern(wieder && wieder->typ == tabelle.typ && wieder->alle_zeilen() == zeilen,
             "a table changes on the way through its file");
@@ -76,7 +76,7 @@ bool mit_trennzeichen_betrachten(werkbank& bank, const trennzeichen_tabelle& tre
 
 bool tabelle_betrachten(werkbank& bank, const std::string& bytes) {
     const std::vector<trennzeichen_tabelle> andere{{":", ".", ","}, {".", "'", "|"}, {":", ".", "\t"}, {"", "", ""}};
-    bank.legen(datei, bytes);
+    bank.legen(tabellendatei, bytes);
     mit_trennzeichen_betrachten(bank, andere[bytes.size() % andere.size()]);
     return mit_trennzeichen_betrachten(bank, trennzeichen_standard);
 }

@@ -9,10 +9,10 @@
 namespace tarvel::test {
 namespace {
 
-constexpr const char* datei = "stand.wtk";
+constexpr const char* standdatei = "stand.wtk";
 
-std::optional<wettkampf> gelesen(const dateien& ablage, const wettkampf_annahme& annahme) {
-    return wettkampf_lesen(ablage.zeilen_lesen(datei, 10000).value_or(std::vector<std::string>{}), annahme);
+std::optional<wettkampf> stand_gelesen(const dateien& ablage, const wettkampf_annahme& annahme) {
+    return wettkampf_lesen(ablage.zeilen_lesen(standdatei, 10000).value_or(std::vector<std::string>{}), annahme);
 }
 
 /// All that the windows do with it, to the end of the evening.
@@ -36,18 +36,18 @@ void zu_ende_fahren(wettkampf w) {
 }  // namespace
 
 bool wettkampfstand_lesen(werkbank& bank, const std::string& bytes) {
-    bank.legen(datei, bytes);
+    bank.legen(standdatei, bytes);
     wettkampf_annahme annahme{bank.t.p.txt, wettkampf_modus::jeder_gegen_jeden};
-    auto erstes = gelesen(bank.eingang, annahme);
+    auto erstes = stand_gelesen(bank.eingang, annahme);
     annahme.modus = wettkampf_modus::am_stueck_verteilt;
-    erstes = erstes ? erstes : gelesen(bank.eingang, annahme);
+    erstes = erstes ? erstes : stand_gelesen(bank.eingang, annahme);
     if (!erstes) {
         return false;
     }
     const auto zeilen = wettkampf_zeilen(*erstes, trennzeichen_standard);
-    fordern(bank.ausgang.zeilen_schreiben(datei, zeilen), "a competition cannot be written");
+    fordern(bank.ausgang.zeilen_schreiben(standdatei, zeilen), "a competition cannot be written");
     annahme.modus = wettkampf_modus::einmal;  // it is in the file now
-    const auto wieder = gelesen(bank.ausgang, annahme);
+    const auto wieder = stand_gelesen(bank.ausgang, annahme);
     fordern(wieder == erstes, "a competition changes on the way through its file");
     fordern(wettkampf_zeilen(*wieder, trennzeichen_standard) == zeilen, "and its file with it");
     zu_ende_fahren(*wieder);

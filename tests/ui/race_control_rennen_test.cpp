@@ -14,13 +14,13 @@
 namespace tarvel {
 namespace {
 
-constexpr int com = 7;
+constexpr int com_der_box = 7;
 
 /// A box on a thread of its own, at the other end of a pseudo-terminal.
 class box_am_kabel {
 public:
     box_am_kabel(simulator::rc_box& box, const std::filesystem::path& ordner)
-        : box_(box), kabel_({ordner.string(), com, {}, 4800}) {
+        : box_(box), kabel_({ordner.string(), com_der_box, {}, 4800}) {
         EXPECT_EQ(kabel_.oeffnen(), "");
         box_.senden = [this](std::string_view bytes) { kabel_.schreiben(bytes); };
         lauf_ = std::jthread([this](const std::stop_token& ende) {

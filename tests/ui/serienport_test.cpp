@@ -15,7 +15,7 @@
 namespace tarvel {
 namespace {
 
-constexpr int com = 7;
+constexpr int com_am_ende = 7;
 constexpr const char* werte = "19200,N,8,1";
 
 std::string alle_bytes() {
@@ -61,7 +61,7 @@ struct Serienport : testing::Test {
     test::test_plattform maschine;
     qt::QtUhr uhr;
     qt::QtSerienportDienst dienst{maschine.ordner(), uhr};
-    simulator::anschluss geraet{{maschine.ordner().string(), com, {}, 19200}};
+    simulator::anschluss geraet{{maschine.ordner().string(), com_am_ende, {}, 19200}};
     std::unique_ptr<plattform::serienport> port = dienst.erzeugen();
     std::string empfangen;
     int verluste = 0;
@@ -69,7 +69,7 @@ struct Serienport : testing::Test {
 
 TEST_F(Serienport, JedesByteInBeidenRichtungen) {
     EXPECT_FALSE(port->schreiben("x"));
-    ASSERT_TRUE(port->oeffnen(com, werte));
+    ASSERT_TRUE(port->oeffnen(com_am_ende, werte));
     EXPECT_TRUE(port->schreiben(alle_bytes()));
     EXPECT_EQ(am_geraet(256), alle_bytes());
     geraet.schreiben(alle_bytes());
@@ -92,7 +92,7 @@ TEST_F(Serienport, BytesHabenDieZeitIhrerAnkunftUndWerZumachtBekommtKeineMehr) {
         QTest::qWait(20);  // it shows one itself
     };
     for (const bool zumachen : {false, true}) {
-        ASSERT_TRUE(port->oeffnen(com, werte));
+        ASSERT_TRUE(port->oeffnen(com_am_ende, werte));
         zeit_ms erstes = 0;
         std::jthread sender([&] {
             erstes = uhr.jetzt();
@@ -118,17 +118,17 @@ TEST_F(Serienport, WasKeinPortUndKeinWertIstWirdVerweigert) {
     for (const char* falsch :
          {"", "19200", "19200,N,8", "19200,N,8,1,1", "0,N,8,1", "-9600,N,8,1", "abc,N,8,1", "19200,X,8,1", "19200,,8,1",
           "19200,N,4,1", "19200,N,9,1", "19200,N,8,3", "19200,N,8,"}) {
-        EXPECT_FALSE(port->oeffnen(com, falsch)) << falsch;
+        EXPECT_FALSE(port->oeffnen(com_am_ende, falsch)) << falsch;
         EXPECT_FALSE(port->offen());
     }
     for (const int nummer : {-1, 0, 8, 256, 257}) {
         EXPECT_FALSE(port->oeffnen(nummer, werte)) << nummer;
     }
     for (const char* richtig : {"4800,n,8,1", "115200,E,7,2", "57600,O,5,1"}) {
-        EXPECT_TRUE(port->oeffnen(com, richtig)) << richtig;
+        EXPECT_TRUE(port->oeffnen(com_am_ende, richtig)) << richtig;
     }
     const auto zweiter = dienst.erzeugen();
-    EXPECT_FALSE(zweiter->oeffnen(com, werte)) << "somebody else has it";
+    EXPECT_FALSE(zweiter->oeffnen(com_am_ende, werte)) << "somebody else has it";
     EXPECT_NE(dienst.sperrdatei().find("/LCK.."), std::string::npos) << "and this file says so";
     EXPECT_FALSE(zweiter->oeffnen(8, werte));
     EXPECT_EQ(dienst.sperrdatei(), "") << "there is none";
@@ -137,7 +137,7 @@ TEST_F(Serienport, WasKeinPortUndKeinWertIstWirdVerweigert) {
 
 TEST_F(Serienport, AbgezogenMeldetEsSichEinmalUndSteckt) {
     for (int mal = 1; mal <= 3; ++mal) {
-        ASSERT_TRUE(port->oeffnen(com, werte));
+        ASSERT_TRUE(port->oeffnen(com_am_ende, werte));
         while (mal < 3 && port->schreiben(std::string(4096, 'x'))) {  // nobody takes it: the line is full
         }
         const bremse maschinenlast;
@@ -150,7 +150,7 @@ TEST_F(Serienport, AbgezogenMeldetEsSichEinmalUndSteckt) {
         EXPECT_LT(seit.elapsed(), (mal < 3 ? 1000 : 2000) + 2 * maschinenlast.verspaetung())
             << "the race stood still, or nobody has noticed";
         EXPECT_EQ(verluste, mal);
-        EXPECT_FALSE(port->oeffnen(com, werte));
+        EXPECT_FALSE(port->oeffnen(com_am_ende, werte));
         ASSERT_EQ(geraet.oeffnen(), "");
     }
 }
@@ -159,7 +159,7 @@ TEST_F(Serienport, ListeNenntWasDaIst) {
     const auto da = [this] {
         const std::vector<int> ports = dienst.vorhandene();
         EXPECT_TRUE(std::is_sorted(ports.begin(), ports.end()));
-        return std::count(ports.begin(), ports.end(), com);
+        return std::count(ports.begin(), ports.end(), com_am_ende);
     };
     EXPECT_EQ(da(), 1);
     geraet.abziehen();
