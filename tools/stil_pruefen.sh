@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/pakete.sh
-pakete_sicherstellen clang-format clang-tidy
+pakete_sicherstellen "${PAKETE_STIL[@]}"
 
 version=14
 for werkzeug in clang-format clang-tidy; do

@@ -85,7 +85,7 @@ QWidget& usbtest_fenster(buehne& b) {
     brett.kontakte = brett.gemeldet = 0;
     brett.eintragen(b.t.maschine.bibliotheken);
     b.p.fenster.zeigen(fenstername::usbtest);
-    for (const unsigned pin : {0, 13, 12, 15}) {
+    for (const unsigned pin : {0U, 13U, 12U, 15U}) {
         brett.kontakte = 1U << pin;
         b.t.maschine.laufen(50);
     }
