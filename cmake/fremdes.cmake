@@ -15,6 +15,9 @@ function(tarvel_fremdes_vorkompilieren)
   endif()
   get_property(ziele GLOBAL PROPERTY TARVEL_ZIELE)
   foreach(ziel IN LISTS ziele)
+    if(ziel STREQUAL "vorlagen")
+      continue()  # compiled with other flags
+    endif()
     get_target_property(art ${ziel} TYPE)
     get_target_property(nutzt ${ziel} LINK_LIBRARIES)
     target_compile_definitions(${ziel} PRIVATE GTEST_HAS_PTHREAD=1)  # what gtest's own targets set
