@@ -137,7 +137,7 @@ bool dateien::zeilen_schreiben(std::string_view name, const std::vector<std::str
     for (const std::string& zeile : zeilen) {
         inhalt += nach_1252(zeile) + "\r\n";
     }
-    return ersetzen(pfad(name), inhalt);
+    return ersetzen(schreibpfad(name), inhalt);
 }
 
 bool dateien::ersetzen(const fs::path& datei, std::string_view inhalt) const {
@@ -165,13 +165,13 @@ bool dateien::gibt_es(std::string_view name) const {
 }
 
 bool dateien::ordner_anlegen(std::string_view name) const {
-    const fs::path ordner = pfad(name);
+    const fs::path ordner = schreibpfad(name);
     std::error_code fehler;
     return !ordner.empty() && fs::create_directories(ordner, fehler) && !fehler;
 }
 
 bool dateien::umbenennen(std::string_view alt, std::string_view neu) const {
-    const fs::path von = pfad(alt);
+    const fs::path von = schreibpfad(alt);
     const fs::path nach = pfad(neu);
     std::error_code fehler;
     if (von.empty() || nach.empty() || fs::exists(nach, fehler) || fehler) {
@@ -184,11 +184,11 @@ bool dateien::umbenennen(std::string_view alt, std::string_view neu) const {
 bool dateien::kopieren(std::string_view alt, std::string_view neu) const {
     const fs::path von = pfad(alt);
     const auto inhalt = von.empty() ? std::nullopt : inhalt_lesen(von);
-    return inhalt && ersetzen(pfad(neu), *inhalt);
+    return inhalt && ersetzen(schreibpfad(neu), *inhalt);
 }
 
 bool dateien::hereinkopieren(const fs::path& quelle, std::string_view neu) const {
-    const fs::path nach = pfad(neu);
+    const fs::path nach = schreibpfad(neu);
     std::error_code fehler;
     if (!nach.empty() && fs::equivalent(quelle, nach, fehler)) {
         return true;
@@ -198,13 +198,13 @@ bool dateien::hereinkopieren(const fs::path& quelle, std::string_view neu) const
 }
 
 bool dateien::loeschen(std::string_view name) const {
-    const fs::path datei = pfad(name);
+    const fs::path datei = schreibpfad(name);
     std::error_code fehler;
     return !datei.empty() && fs::is_regular_file(datei, fehler) && fs::remove(datei, fehler) && !fehler;
 }
 
 bool dateien::wegraeumen(std::string_view name, std::string_view ordner) const {
-    const fs::path von = pfad(name);
+    const fs::path von = schreibpfad(name);
     const fs::path ort = pfad(ordner);
     std::error_code fehler;
     if (von.empty() || ort.empty() || !fs::is_regular_file(fs::symlink_status(von, fehler))) {
@@ -239,6 +239,9 @@ bool dateien::ist_eigener_ordner(std::string_view ordner) const {
 }
 
 void dateien::aeltere_loeschen(std::string_view ordner, std::chrono::days als) const {
+    if (nur_lesen_) {
+        return;
+    }
     const auto grenze = fs::file_time_type::clock::now() - als;
     for (const std::string& name : auflisten(ordner, "", "")) {
         std::error_code fehler;
@@ -253,7 +256,7 @@ void dateien::aeltere_loeschen(std::string_view ordner, std::chrono::days als) c
 void dateien::reste_loeschen(std::string_view ordner) const {
     std::vector<fs::path> reste;
     std::error_code fehler;
-    for (fs::directory_iterator eintrag(pfad(ordner), fehler), schluss; !fehler && eintrag != schluss;
+    for (fs::directory_iterator eintrag(schreibpfad(ordner), fehler), schluss; !fehler && eintrag != schluss;
          eintrag.increment(fehler)) {
         std::error_code egal;
         if (endet_auf(pfad_als_utf8(eintrag->path().filename()), neben_endung) &&

@@ -31,6 +31,9 @@ public:
     /// For tools: as far as the standard library goes.
     explicit dateien(std::filesystem::path programmordner);
 
+    /// Nothing in the folder is changed by these files: each try fails.
+    void nur_lesen() { nur_lesen_ = true; }
+
     /// Place of the file on the disk; empty if the name leads out of the program folder.
     std::filesystem::path pfad(std::string_view name) const;
 
@@ -68,11 +71,16 @@ public:
     void reste_loeschen(std::string_view ordner) const;
 
 private:
+    /// The same for a file or folder that is to be changed; empty also if none may be.
+    std::filesystem::path schreibpfad(std::string_view name) const {
+        return nur_lesen_ ? std::filesystem::path() : pfad(name);
+    }
     /// Writes beside the file and renames: either the whole new file stands afterwards, or the old one is untouched.
     bool ersetzen(const std::filesystem::path& datei, std::string_view inhalt) const;
 
     std::filesystem::path ordner_;
     const plattform::dateisystem* system_;
+    bool nur_lesen_ = false;
 };
 
 }  // namespace tarvel

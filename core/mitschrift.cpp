@@ -1,6 +1,8 @@
 #include "core/mitschrift.h"
 
 #include <algorithm>
+#include <bit>
+#include <cmath>
 
 namespace tarvel {
 namespace {
@@ -12,6 +14,12 @@ constexpr std::string_view kopf = "#";
 constexpr std::string_view andere_uhr = "Uhr";  // behind that: the times count from there
 
 }  // namespace
+
+double protokoll_bruch(std::int64_t bits, double sonst) {
+    constexpr double grenze = 1e9;
+    const auto wert = std::bit_cast<double>(bits);
+    return std::abs(wert) <= grenze ? wert : sonst;
+}
 
 int mitschrift::eingang(std::string name, std::size_t anzahl, tat was, sorte art) {
     const int nummer = static_cast<int>(eingaenge_.size());
@@ -44,6 +52,9 @@ void mitschrift::geschieht(int eingang, const werte& w) {
     if (!zuege_.empty()) {  // the log may have been closed within
         nebenbei_ = zuege_.back().steht_da ? nebenbei_lesen_() : nebenbei_;
         zuege_.pop_back();
+    }
+    if (zuege_.empty() && !ausstehend_.empty()) {
+        ausstehende_schreiben();
     }
 }
 
@@ -78,6 +89,7 @@ void mitschrift::weiterschreiben(protokollsenke& senke, std::uint16_t kette, zei
 }
 
 void mitschrift::aufhoeren() {
+    ausstehende_schreiben();
     betrieb_ = betrieb::aus;
     senke_ = nullptr;
     zuege_.clear();
@@ -85,9 +97,18 @@ void mitschrift::aufhoeren() {
 }
 
 void mitschrift::kopfzeile(std::string_view text) {
-    if (schreibt()) {
+    if (schreibt() && !zuege_.empty()) {
+        ausstehend_.emplace_back(text);
+    } else if (schreibt()) {
         schreiber_.beginnen(0).wort(kopf).wort(text);
         anhaengen();
+    }
+}
+
+void mitschrift::ausstehende_schreiben() {
+    zuege_.clear();
+    for (const std::string& zeile : std::exchange(ausstehend_, {})) {
+        kopfzeile(zeile);
     }
 }
 
@@ -211,8 +232,8 @@ void mitschrift::lesen(std::vector<std::string_view> zeilen, int erste_zeile, ze
     zeilen_ = std::move(zeilen);
     ort_ = 0;
     erste_zeile_ = erste_zeile;
-    beginn_ = beginn;
-    zuletzt_ = beginn;
+    beginn_ = protokoll_stempel(beginn);
+    zuletzt_ = beginn_;
     abweichung_.reset();
     nachtrag_.clear();
     zuege_.clear();
@@ -220,7 +241,7 @@ void mitschrift::lesen(std::vector<std::string_view> zeilen, int erste_zeile, ze
 
 void mitschrift::kopfzeile_lesen(std::string_view rest) {
     if (naechstes_wort(rest) == andere_uhr) {
-        beginn_ = als_zahl(rest).value_or(beginn_);
+        beginn_ = protokoll_stempel(als_zahl(rest).value_or(beginn_));
     }
 }
 
@@ -248,13 +269,29 @@ void mitschrift::abweichen(std::string stattdessen) {
     }
 }
 
-bool mitschrift::weiter() {
+std::optional<mitschrift::satz> mitschrift::naechste_tat() {
     std::optional<satz> s = naechster();
     while (s && s->wort == kopf) {
         kopfzeile_lesen(s->rest);
         ++ort_;
+        if (bei_kopfzeile) {
+            bei_kopfzeile(s->rest);
+        }
         s = naechster();
     }
+    return s;
+}
+
+std::optional<zeit_ms> mitschrift::naechste_zeit() {
+    std::optional<satz> s = naechste_tat();
+    if (!s) {
+        return std::nullopt;
+    }
+    return protokoll_stempel(als_zahl(naechstes_wort(s->rest)).value_or(0));
+}
+
+bool mitschrift::weiter() {
+    const std::optional<satz> s = naechste_tat();
     if (!s) {
         return false;
     }
@@ -277,7 +314,7 @@ void mitschrift::satz_ausfuehren(const satz& s) {
     std::string_view rest = s.rest;
     const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
     bool ganz = zeit.has_value();
-    z.zeit = beginn_ + zeit.value_or(0);
+    z.zeit = beginn_ + protokoll_stempel(zeit.value_or(0));
     for (std::size_t i = 0; i < e.anzahl; ++i) {
         const std::optional<std::int64_t> wert = als_zahl(naechstes_wort(rest));
         ganz = ganz && wert;
@@ -288,7 +325,7 @@ void mitschrift::satz_ausfuehren(const satz& s) {
         const std::optional<std::int64_t> zweites = rest.empty() ? 0 : als_zahl(rest);
         ganz = ganz && erstes && zweites;
         if (ganz) {
-            nebenbei_setzen_({*erstes, *zweites});
+            nebenbei_setzen_({protokoll_stempel(*erstes), protokoll_stempel(*zweites)});
         }
     }
     if (!ganz) {
@@ -315,7 +352,7 @@ zeit_ms mitschrift::zeit_nachlesen() {
         ++z.schritt;
         const std::optional<satz> s = naechster();
         if (s && s->tiefe == tiefe() && s->schritt == z.schritt && s->wort == uhrsprung) {
-            z.zeit = beginn_ + als_zahl(s->rest).value_or(0);
+            z.zeit = beginn_ + protokoll_stempel(als_zahl(s->rest).value_or(0));
             ++ort_;
         }
     }

@@ -19,6 +19,14 @@
 
 namespace tarvel {
 
+/// A stamp or count as a log holds it. A damaged log may hold any number: nothing that is computed with these overflows.
+constexpr std::int64_t protokoll_stempel(std::int64_t wert) {
+    constexpr std::int64_t grenze = 10'000'000'000'000;
+    return wert < -grenze ? -grenze : wert > grenze ? grenze : wert;
+}
+/// A fraction, by its bits, likewise; `sonst` if it is none.
+double protokoll_bruch(std::int64_t bits, double sonst);
+
 /// Takes the lines that a log is written in.
 class protokollsenke : public schnittstelle {
 public:
@@ -76,13 +84,19 @@ public:
     void weiterschreiben(protokollsenke& senke, std::uint16_t kette, zeit_ms beginn, std::function<zeit_ms()> uhr);
     void aufhoeren();
     bool schreibt() const { return betrieb_ == betrieb::schreiben; }
-    /// A line that is only for the reader who comes later.
+    /// A line that is only for the reader who comes later. Within a doing it waits for that one's end.
     void kopfzeile(std::string_view text);
 
     /// Does again what these lines hold, whose first is number `erste_zeile` of the log.
     void lesen(std::vector<std::string_view> zeilen, int erste_zeile, zeit_ms beginn);
     /// The next doing. False at the end of the lines, and at a difference.
     bool weiter();
+    /// When the next doing came, in ms from the beginning of the log; none at the end.
+    std::optional<zeit_ms> naechste_zeit();
+    /// Told of each line that is only for the reader, as it is passed.
+    std::function<void(std::string_view text)> bei_kopfzeile;
+    /// Outside all doings, the clock as it is read again goes on to this time from the beginning.
+    void uhr_vor(zeit_ms zeit) { zuletzt_ = beginn_ + zeit; }
     bool liest() const { return betrieb_ == betrieb::lesen; }
     /// The clock at the last doing that was done again, and what the times count from there.
     zeit_ms gelesen_bis() const { return zuletzt_; }
@@ -176,6 +190,7 @@ private:
     void wecken();
     /// The doings under way, as far as they are not written down.
     void zuege_schreiben();
+    void ausstehende_schreiben();
     void zug_schreiben(std::size_t nummer);
     /// The beginning of a line within them.
     protokollschreiber& inhalt_beginnen();
@@ -189,6 +204,8 @@ private:
     std::optional<std::int64_t> antwort_nachlesen(std::string_view name);
     void tor_nachlesen();
     std::optional<satz> naechster() const;
+    /// Past the lines that are only for the reader.
+    std::optional<satz> naechste_tat();
     void satz_ausfuehren(const satz& s);
     void abweichen(std::string stattdessen);
     void kopfzeile_lesen(std::string_view rest);
@@ -201,6 +218,7 @@ private:
     std::function<void(const beiwerk&)> nebenbei_setzen_ = [](const beiwerk& /*werte*/) {};
     beiwerk nebenbei_{unbekannt};  ///< as the last doing that was written has left it
     std::vector<zug> zuege_;       ///< that are under way, each within the one before
+    std::vector<std::string> ausstehend_;  ///< lines for the reader that wait for their end
 
     protokollsenke* senke_ = nullptr;
     protokollschreiber schreiber_;

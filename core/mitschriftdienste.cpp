@@ -70,7 +70,10 @@ void mitschriftdienste::zeitgeber_starten() {
 }
 
 double mitschriftdienste::zufall::bruchteil() {
-    return std::bit_cast<double>(m.antwort("zufall", [&] { return std::bit_cast<std::int64_t>(echte.bruchteil()); }));
+    const std::int64_t gezogen =
+        m.antwort("zufall", [&] { return std::bit_cast<std::int64_t>(echte.bruchteil()); });
+    constexpr double hoechstens = 0x1.fffffffffffffp-1;  // below 1
+    return std::clamp(protokoll_bruch(gezogen, 0), 0.0, hoechstens);
 }
 
 plattform::datum_uhrzeit mitschriftdienste::kalender::jetzt() const {

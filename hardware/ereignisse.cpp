@@ -56,8 +56,8 @@ void ereignis_tabelle::stand_mitschreiben() {
 }
 
 void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
-    const std::int64_t erstes = w[0];
-    const std::int64_t zweites = w[1];
+    const std::int64_t erstes = protokoll_stempel(w[0]);
+    const std::int64_t zweites = protokoll_stempel(w[1]);
     const auto nummer = static_cast<ereignis_art>(std::clamp<std::int64_t>(erstes, 0, zeilen_anzahl - 1));
     switch (was) {
         case eingang::melden:
@@ -87,7 +87,7 @@ void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
             chaos_at_zaehler = static_cast<int>(erstes);
             break;
         case eingang::zeile:
-            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, w[4], w[5]};
+            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, protokoll_stempel(w[4]), protokoll_stempel(w[5])};
             break;
     }
 }

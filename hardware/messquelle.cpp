@@ -44,7 +44,7 @@ std::optional<zeit_ms> messquellen::uhr_lesen() const {
     if (protokoll_->zustand("geraeteuhr", uhr_zuletzt_, [&] { return zeit ? 1 : 0; }) != 1) {
         return std::nullopt;
     }
-    return protokoll_->antwort("stand", [&] { return *zeit; });
+    return protokoll_stempel(protokoll_->antwort("stand", [&] { return *zeit; }));
 }
 
 geraeteampel* messquellen::ampel() const {

@@ -6,6 +6,14 @@
 #include <utility>
 
 namespace tarvel {
+namespace {
+
+/// No device's clock is as wrong as that.
+double gang_aus(std::int64_t bits) {
+    return std::clamp(protokoll_bruch(bits, 1), 0.01, 100.0);
+}
+
+}  // namespace
 
 zeit_ms zeitbasis::messzeit_lesen() const {
     const zeit_ms seither = uhr_.jetzt() - bezug_;
@@ -56,11 +64,11 @@ void zeitbasis::stand_setzen(const mitschrift::werte& stand) {
 void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
     switch (was) {
         case eingang::stellen:
-            setzen(w[0], std::bit_cast<double>(w[1]));
+            setzen(protokoll_stempel(w[0]), gang_aus(w[1]));
             break;
         case eingang::nachstellen: {
             const zeit_ms gelesen = messzeit_lesen();
-            setzen(w[0], std::bit_cast<double>(w[1]));
+            setzen(protokoll_stempel(w[0]), gang_aus(w[1]));
             mindestens_ = gelesen;
             break;
         }
@@ -78,11 +86,11 @@ void zeitbasis::ausfuehren(eingang was, const mitschrift::werte& w) {
             zaehlt_ = true;
             break;
         case eingang::stand:
-            bezug_ = w[0];
-            stand_ = w[1];
-            gang_ = std::bit_cast<double>(w[2]);
-            mindestens_ = w[3];
-            zeit_zaehler_ = static_cast<int>(w[4]);
+            bezug_ = protokoll_stempel(w[0]);
+            stand_ = protokoll_stempel(w[1]);
+            gang_ = gang_aus(w[2]);
+            mindestens_ = w[3] == nie ? nie : protokoll_stempel(w[3]);
+            zeit_zaehler_ = static_cast<int>(std::clamp<std::int64_t>(w[4], -1, 9));
             zaehlt_ = w[5] != 0;
             break;
     }

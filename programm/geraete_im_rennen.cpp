@@ -17,11 +17,11 @@ geraete_im_rennen::geraete_im_rennen(tarvel::rennen& r, tarvel::form1& form1, co
     using werte = mitschrift::werte;
     tankflanken_auswerten_ = r_.protokoll.befehl("tankflanken", [this] { tankflanken_ansehen(); });
     verschieben_ = r_.protokoll.eingang("verschieben", 1, [this](const werte& w) {
-        r_.zustand.stempel_verschieben(w[0]);
-        r_.umgebung.ereignisse.stempel_verschieben(w[0]);
+        r_.zustand.stempel_verschieben(protokoll_stempel(w[0]));
+        r_.umgebung.ereignisse.stempel_verschieben(protokoll_stempel(w[0]));
     });
     nachmessen_ = r_.protokoll.eingang(
-        "nachmessen", 1, [this](const werte& w) { r_.zustand.pausen_nachmessen(std::bit_cast<double>(w[0])); });
+        "nachmessen", 1, [this](const werte& w) { r_.zustand.pausen_nachmessen(protokoll_bruch(w[0], 1)); });
     verlassen_ =
         r_.protokoll.eingang("verlassen", 1, [this](const werte& w) { r_.tanken.kontakt_verlassen(als_spur(w[0])); });
     fuellstand_ = r_.protokoll.eingang("fuellstand", 4, [this](const werte& w) {

@@ -48,9 +48,10 @@ void chaos::unverbuesste_abschalten() {
 }
 
 void chaos::strafen_verteilen() {
-    const double sekunden = std::bit_cast<double>(um_.protokoll.antwort("strafzeit", [this] {
+    const std::int64_t gefragt = um_.protokoll.antwort("strafzeit", [this] {
         return std::bit_cast<std::int64_t>(std::clamp(zahl_lesen(um_.bahn.ch_Text1.text()), 0.0, strafe_max_s));
-    }));
+    });
+    const double sekunden = std::clamp(protokoll_bruch(gefragt, 0), 0.0, strafe_max_s);
     const std::int64_t schuldige = um_.protokoll.antwort("schuldige", [this] {
         std::int64_t spuren = 0;
         for (const int spur : alle_spuren) {

@@ -15,7 +15,7 @@ fortsetzung::fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(
         umsetzen(herkunft);
     });
     vorbereiten_ = um_.protokoll.eingang("fortsetzen", 1, [this](const mitschrift::werte& w) {
-        einrichten(rennziel::aus_zahl(um_.param.renn_ziel.art(), w[0]));
+        einrichten(rennziel::aus_zahl(um_.param.renn_ziel.art(), protokoll_stempel(w[0])));
     });
 }
 

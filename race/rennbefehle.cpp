@@ -25,7 +25,7 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
     um_.bahn.Command6.bei_klick = protokoll.befehl("einfahren", [this] { t_.ablauf.einfahrzeit_starten(); });
     schliessen_ = protokoll.befehl("schliessen", [this] { fenster_schliessen_nach_frage(); });
     taste_ = protokoll.eingang("taste", 2, [this](const mitschrift::werte& w) {
-        taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(w[1]));
+        taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(protokoll_stempel(w[1])));
         t_.zaehlung.zaehler_nachfuehren();
         if (!um_.ampel_laeuft()) {  // else a tank sensor may be what sees a false start
             t_.tank.tank_kontakte_auswerten();

@@ -50,10 +50,6 @@ void stunden_zeigen(rennuhr_felder& uhr, bool sichtbar) {
 
 }  // namespace
 
-zeit_ms rennuhr::gefahren() const {
-    return um_.ereignisse.messzeit - um_.zustand.start_zeit - um_.zustand.pause_abzug;
-}
-
 void rennuhr::schreiben(zeit_ms gefahren, zeit_ms rest) {
     const zeit_teile hin = zeit_zerlegen(gefahren);
     const zeit_teile her = zeit_zerlegen(rest);
@@ -77,12 +73,15 @@ void rennuhr::zuruecksetzen() {
     schreiben(0, rest);
 }
 
-void rennuhr::rennuhr_anzeigen() {
-    if (!um_.zeitgeber.renntimer->laeuft() || um_.zustand.chaos_aktiv) {
-        return;
+void rennuhr::zeigen_bei(zeit_ms messzeit) {
+    if (laeuft()) {
+        schreiben(gefahren_bei(messzeit), ende() - messzeit);
     }
-    schreiben(gefahren(), ende() - um_.ereignisse.messzeit);
-    if (um_.ist_zeitrennen()) {
+}
+
+void rennuhr::rennuhr_anzeigen() {
+    zeigen_bei(um_.ereignisse.messzeit);
+    if (laeuft() && um_.ist_zeitrennen()) {
         restzeit_sounds();
     }
 }

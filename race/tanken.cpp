@@ -15,6 +15,7 @@ constexpr farbe hellrot = 0x8080FF;
 constexpr farbe gruen = 0x00C000;
 constexpr double schritt_liter = 0.1;
 constexpr zeit_ms schritt_ms = 10;
+constexpr zeit_ms laengstes_tanken_ms = 600000;  // any tank is full by then, whatever the clock has done
 constexpr zeit_ms halt_ms = 500;
 constexpr double tank_liter_drei_stellen = 100;
 
@@ -51,7 +52,7 @@ tanken::tanken(const renn_umgebung& um, strafen& s, rundenanzeige& anzeige) : um
     }
     stand_ = um_.protokoll.eingang("tank", 2, [this](const mitschrift::werte& w) {
         um_.zustand.spur[static_cast<int>(std::clamp<std::int64_t>(w[0], 1, spuren_max))].tank_inhalt =
-            std::bit_cast<double>(w[1]);
+            protokoll_bruch(w[1], 0);
     });
 }
 
@@ -200,6 +201,7 @@ void tanken::tank_alle_spuren() {
             zustand.tankt_seit = um_.ereignisse.messzeit;
             um_.protokoll.vermerken(vermerk::tankt, {spur, std::llround(zustand.tank_inhalt * 100)});
         }
+        zustand.tankt_seit = std::max(zustand.tankt_seit, um_.ereignisse.messzeit - laengstes_tanken_ms);
         while (zustand.tank_kontakt && um_.ereignisse.messzeit - zustand.tankt_seit >= schritt_ms) {
             zustand.tankt_seit += schritt_ms;
             tanken_spur(spur, kontakte_wiederholt);
