@@ -9,6 +9,7 @@ namespace tarvel {
 // The windows of the program, in the order in which its end closes them. One list, so that a window's name and its
 // place in that order cannot come apart.
 #define TARVEL_FENSTER(F)     \
+    F(wiedergabe)             \
     F(auswertung)             \
     F(bahn1)                  \
     F(drucker_fenster)        \

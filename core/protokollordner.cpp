@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 #include <vector>
 
@@ -18,6 +20,9 @@ constexpr std::chrono::days frist{90};
 constexpr std::size_t protokolle_max = 200;
 constexpr std::size_t eintraege_max = 50000;  // looked at in one start,
 constexpr std::size_t loeschungen_max = 500;  // and deleted: either takes a blink at most
+
+constexpr std::uintmax_t protokoll_bytes_max = std::uintmax_t{64} * 1024 * 1024;  // of one that is searched,
+constexpr std::uintmax_t suche_bytes_max = 8 * protokoll_bytes_max;               // and of all
 
 constexpr std::string_view endung = ".txt";
 constexpr std::string_view zeitmuster = "0000-00-00 00-00-00";  // "0" stands for any digit
@@ -111,6 +116,27 @@ void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit
             ablage.loeschen(im_ordner(namen[nr]));
         }
     }
+}
+
+std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis) {
+    std::string name(ergebnis);
+    std::replace(name.begin(), name.end(), '/', '\\');
+    const std::string gesucht = "\n# " + std::string(ergebnis_vermerk) + name + "*";
+    std::vector<std::string> namen = protokolle(ablage.pfad(protokoll_ordner));
+    std::uintmax_t gelesen = 0;
+    for (auto protokoll = namen.rbegin(); protokoll != namen.rend() && gelesen < suche_bytes_max; ++protokoll) {
+        const fs::path datei = ablage.pfad(im_ordner(*protokoll));
+        if (!ist_lesbar(datei, protokoll_bytes_max)) {
+            continue;
+        }
+        std::ifstream strom(datei, std::ios::binary);
+        const std::string inhalt{std::istreambuf_iterator<char>(strom), {}};
+        gelesen += inhalt.size();
+        if (inhalt.find(gesucht) != std::string::npos) {
+            return im_ordner(*protokoll);
+        }
+    }
+    return std::nullopt;
 }
 
 }  // namespace tarvel

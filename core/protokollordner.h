@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,5 +23,12 @@ std::vector<std::string> neueste_protokolle(const dateien& ablage, std::size_t a
 /// alone, and so are linked folders, linked files and the log `in_gebrauch` (without the folder). After a long time
 /// away, not all goes at once.
 void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch);
+
+/// What a log says where a result was written to a file, before its name below the program folder.
+inline constexpr std::string_view ergebnis_vermerk = "Ergebnis ";
+
+/// The newest log, by its name below the program folder, of which that file holds a result; none if there is none in
+/// what is worth searching.
+std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis);
 
 }  // namespace tarvel

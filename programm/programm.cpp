@@ -5,11 +5,13 @@
 #include "core/nebendateien.h"
 #include "core/ordner.h"
 #include "core/ordnerblick.h"
+#include "core/protokollordner.h"
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
 #include "programm/rennprotokoll.h"
 #include "programm/tx_verdrahtung.h"
 #include "programm/wiederaufnahme.h"
+#include "programm/wiedergabe.h"
 
 namespace tarvel {
 namespace {
@@ -55,6 +57,8 @@ programm::programm(const plattform::dienste& d)
       wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(
           tarvel::wiederaufnahme::umgebung{datei, *this, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen,
                                            *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), d})),
+      wiedergabe_(std::make_unique<tarvel::wiedergabe>(
+          tarvel::wiedergabe::umfeld{{ablage, txt, fenster, d.meldungen}, d.uhr, d.zeitgeber, d.programmordner})),
       form3(start_->form3),
       update_form(start_->update_form),
       rennen(rennen_->rennen),
@@ -83,9 +87,11 @@ programm::programm(const plattform::dienste& d)
       tagesrennen_fenster(wettkampf_->tagesrennen_fenster),
       w_auswertung2(ergebnisse_->w_auswertung2),
       geraete(*geraete_),
-      rennprotokoll(*protokoll_) {
+      rennprotokoll(*protokoll_),
+      wiedergabe(*wiedergabe_) {
     rennen.fenster.fuehrung = protokoll_.get();
     hauptfenster_verbinden();
+    wiedergabe_verbinden();
     einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
 }
 
@@ -124,6 +130,35 @@ void programm::hauptfenster_verbinden() {
         form1.vor_dem_speichern_pruefen();  // its fields are saved with the options
         einstellungsfenster.oeffnen(f::seite_wettkampf);
     };
+}
+
+void programm::wiedergabe_verbinden() {
+    rundenspeichern.bei_ergebnis = [this](const std::string& pfad) { rennprotokoll.ergebnis_geschrieben(pfad); };
+    rennprotokoll.bei_beginn = [this] { fenster.entladen(fenstername::wiedergabe); };
+    wiedergabe.darf = [this] { return ruhe_fuer_wiedergabe(); };
+    auswertung.wiedergabe_zeigen = [this] {
+        rennprotokoll.sichern();
+        wiedergabe.zeigen(rennprotokoll.dateiname());
+    };
+    form1.wiedergabe_waehlen = [this] {
+        dateiauftrag auftrag;
+        auftrag.titel = form1.command_wiedergabe.text();
+        auftrag.ueberschrift = txt.datei_text[3];
+        auftrag.knopf = txt.datei_text[2];
+        auftrag.ordner = protokoll_ordner;
+        auftrag.endung = ".txt";
+        auftrag.ausfuehren = [this](const std::string& name) {
+            fenster.entladen(fenstername::speichernfenster);
+            wiedergabe.zeigen(std::string(protokoll_ordner) + "\\" + name);
+            return true;
+        };
+        speichernfenster.oeffnen(std::move(auftrag));
+    };
+}
+
+bool programm::ruhe_fuer_wiedergabe() const {
+    return !fenster.ist_offen(fenstername::bahn1) ||
+           (fenster.ist_offen(fenstername::auswertung) && !auswertung.zaehlt_nach());
 }
 
 bool programm::messgeraet_da() const {
@@ -261,7 +296,11 @@ bool programm::starten() {
     fahrerliste_laden();
     form1.listen_zeigen();
     datei.bestzeiten = this;  // not for the defaults before the settings are read
-    pflege_.nach_dem_start = [this] { wiederaufnahme_->nach_dem_start_anbieten(); };
+    pflege_.nach_dem_start = [this] {
+        if (rennprotokoll.fuehren) {  // else this program drives what is written already
+            wiederaufnahme_->nach_dem_start_anbieten();
+        }
+    };
     pflege_.start_datei_bestimmen();
     if (pflege_.start_fragt() && fenster.gibt_es(fenstername::s6_fragefenster)) {
         geraete.von<tx_verdrahtung>().startmodus_fragen();  // its answer goes on

@@ -55,6 +55,7 @@ class wertung;
 class wettkampf1;
 class wettkampf2;
 class wettkampfabend;
+class wiedergabe;
 struct ergebnisfluegel;
 struct optionsfluegel;
 struct rennen;
@@ -114,6 +115,7 @@ private:
     std::unique_ptr<messgeraete> geraete_;
     std::unique_ptr<tarvel::rennprotokoll> protokoll_;
     std::unique_ptr<tarvel::wiederaufnahme> wiederaufnahme_;
+    std::unique_ptr<tarvel::wiedergabe> wiedergabe_;
 
 public:
     /// The wings, for what has no name of its own here: a window that only its drawing asks for needs none.
@@ -152,6 +154,7 @@ public:
     tarvel::w_auswertung2& w_auswertung2;
     messgeraete& geraete;
     tarvel::rennprotokoll& rennprotokoll;
+    tarvel::wiedergabe& wiedergabe;
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;
@@ -163,6 +166,9 @@ private:
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
     void training_beginnen();
+    void wiedergabe_verbinden();
+    /// No race runs, and none is being prepared.
+    bool ruhe_fuer_wiedergabe() const;
     void bahnstrom_von_hand(bool an) override;
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;

@@ -10,6 +10,9 @@ namespace tarvel {
 
 void rennprotokoll::beginnen() {
     mitschrift& protokoll = um_.rennen.protokoll;
+    if (bei_beginn) {
+        bei_beginn();
+    }
     if (!fuehren || protokoll.liest()) {
         return;
     }
@@ -51,11 +54,21 @@ void rennprotokoll::abschliessen() {
     }
 }
 
+void rennprotokoll::ergebnis_geschrieben(const std::string& pfad) {
+    um_.rennen.protokoll.kopfzeile(std::string(ergebnis_vermerk) + pfad);
+}
+
+void rennprotokoll::sichern() {
+    if (datei_ != nullptr) {
+        datei_->sichern();
+    }
+}
+
 void rennprotokoll::aufraeumen() const {
     protokolle_aufraeumen(um_.ablage, um_.dienste.kalender.jetzt(), "");
 }
 
-rennprotokoll::ausgang rennprotokoll::nachspielen(std::string_view inhalt) {
+std::optional<bool> rennprotokoll::bereitlegen(std::string_view inhalt) {
     protokollleser leser(inhalt);
     protokollstand stand;
     while (const auto zeile = leser.zeile()) {
@@ -63,30 +76,46 @@ rennprotokoll::ausgang rennprotokoll::nachspielen(std::string_view inhalt) {
     }
     std::optional<gelesener_kopf> gelesen = kopf_lesen(stand.zeilen);
     if (!gelesen) {
-        return ausgang::fremd;
+        return std::nullopt;
     }
     stand.kopf = std::move(gelesen->kopf);
     um_.datei.einlesen(stand.kopf.einstellungen);
     um_.datei.einstellungsdatei_pruefen();
     if (um_.datei.fehler_laden()) {
-        return ausgang::fremd;
+        return std::nullopt;
     }
     um_.datei.einstellungen_uebernehmen({});
     stand.zeilen.erase(stand.zeilen.begin(), stand.zeilen.begin() + static_cast<std::ptrdiff_t>(gelesen->zeilen));
     stand.erste_zeile = static_cast<int>(gelesen->zeilen) + 1;
-    const ausgang wie = abspielen(stand);
-    return wie == ausgang::ganz && !leser.vollstaendig() ? ausgang::beschaedigt : wie;
+    bereitlegen(stand);
+    return leser.vollstaendig();
 }
 
-rennprotokoll::ausgang rennprotokoll::abspielen(const protokollstand& stand) {
+void rennprotokoll::bereitlegen(const protokollstand& stand) {
     um_.belegung = stand.kopf.belegung;
     um_.param = stand.kopf.param;
     um_.ereignisse.vergessen();
-    mitschrift& protokoll = um_.rennen.protokoll;
-    protokoll.lesen(stand.zeilen, stand.erste_zeile, stand.kopf.beginn);
-    while (protokoll.weiter()) {
+    um_.rennen.protokoll.lesen(stand.zeilen, stand.erste_zeile, stand.kopf.beginn);
+}
+
+rennprotokoll::ausgang rennprotokoll::nachspielen(std::string_view inhalt) {
+    const std::optional<bool> ganz = bereitlegen(inhalt);
+    if (!ganz) {
+        return ausgang::fremd;
     }
-    return protokoll.abweichung() ? ausgang::anders : ausgang::ganz;
+    const ausgang wie = zu_ende();
+    return wie == ausgang::ganz && !*ganz ? ausgang::beschaedigt : wie;
+}
+
+rennprotokoll::ausgang rennprotokoll::zu_ende() {
+    while (um_.rennen.protokoll.weiter()) {
+    }
+    return abweichung() ? ausgang::anders : ausgang::ganz;
+}
+
+rennprotokoll::ausgang rennprotokoll::abspielen(const protokollstand& stand) {
+    bereitlegen(stand);
+    return zu_ende();
 }
 
 bool rennprotokoll::weiterfuehren(const std::string& datei, const protokollstand& stand, dauer_ms seither) {

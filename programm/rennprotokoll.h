@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -39,6 +40,12 @@ public:
     void abschliessen() override;
     /// Deletes the logs that nobody needs any more.
     void aufraeumen() const;
+    /// A new log begins.
+    std::function<void()> bei_beginn;
+    /// A file with the result of the race that the log is of has been written; its name below the program folder.
+    void ergebnis_geschrieben(const std::string& pfad);
+    /// What was written so far is in the file, as far as the disk takes it.
+    void sichern();
     /// File of the log that is kept now, or was kept last; empty without one.
     const std::string& dateiname() const { return dateiname_; }
 
@@ -51,6 +58,9 @@ public:
     /// Does a race again from its log, with settings, set-up and keys as they were. The race is then as it was behind
     /// the last line, and all that stands for the world is left to whoever called.
     ausgang nachspielen(std::string_view inhalt);
+    /// Lays a log ready to be done again doing by doing (`mitschrift::weiter`). `inhalt` must outlive that. None if it
+    /// is foreign, else whether it is whole.
+    std::optional<bool> bereitlegen(std::string_view inhalt);
     /// The same of lines behind the head alone, in a program that has been set up by that.
     ausgang abspielen(const protokollstand& stand);
     /// What has been done again goes on, and its log with it: `seither` ms have passed. False if the log cannot be
@@ -61,6 +71,8 @@ public:
 
 private:
     void anhaengen(std::string_view zeile) override;
+    void bereitlegen(const protokollstand& stand);
+    ausgang zu_ende();
     void kopf_anhaengen(zeit_ms beginn);
 
     umgebung um_;

@@ -257,7 +257,7 @@ void auswertung::nachzaehlen_beenden() {
 
 bool auswertung::eingabe_offen() const {
     return meter_eingabe_an_ || um_.fenster.ist_offen(fenstername::rundenspeichern) ||
-           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster);
+           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster) || um_.fenster.ist_offen(fenstername::wiedergabe);
 }
 
 bool auswertung::wartezeit_vorbei(const std::string& wort) {

@@ -75,6 +75,7 @@ public:
     befehl Command_verlauf;  ///< chart or standing
     befehl Command_drucken;
     befehl Command_pdf;
+    befehl Command_wiedergabe;  ///< the race runs again
     rahmen Frame1;          ///< the two commands that move drivers
     haken spurwechsel;      ///< drivers go to their next lanes; as the operator left it
     haken tauschfahrzeug;   ///< and vehicles with them
@@ -87,6 +88,7 @@ public:
     std::function<void()> drucken;
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
+    std::function<void()> wiedergabe_zeigen;  ///< null without a log
     /// Counts late crossings and shows the standing.
     void laden() override;
     void entladen() override;

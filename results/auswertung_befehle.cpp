@@ -36,6 +36,12 @@ void auswertung::befehle_verbinden() {
     Command_verlauf.bei_klick = [this] { verlauf_zeigen(!Frame_verlauf.sichtbar()); };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
+    Command_wiedergabe.bei_klick = [this] {
+        if (wiedergabe_zeigen) {
+            selbstlauf_unterbrechen();
+            wiedergabe_zeigen();
+        }
+    };
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
     neues_ziel.laenge_max(eingabe_laenge_max);
 }
@@ -84,7 +90,7 @@ void auswertung::meter_eingabe(bool an) {
     meter_eingabe_an_ = an;
     Command6.text(an ? wort_.fertig : wort_.meter_eingeben);
     for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command10,
-                          &Command_verlauf, &Command_drucken, &Command_pdf}) {
+                          &Command_verlauf, &Command_drucken, &Command_pdf, &Command_wiedergabe}) {
         knopf->aktiviert(!an);
     }
     Command9.aktiviert(!an && um_.einst.beste_modus != bestzeit_speicherung::aus);

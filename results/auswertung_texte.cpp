@@ -52,7 +52,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Alle Runden zusammen, von der ersten Überfahrt der Spur an, mit den Strafzeiten", wort_.gesamtzeit);
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl).text("Die Spur ist nur so lang:", wort_.zu_viele_meter);
     texte.text("Trotzdem eintragen?", wort_.trotzdem);
-    return texte.text("Weiter in:", wort_.weiter_in);
+    texte.text("Weiter in:", wort_.weiter_in).text("Wiedergabe", Command_wiedergabe);
+    return texte.tipp("Das Rennen noch einmal auf dem Rennbildschirm ablaufen lassen", Command_wiedergabe);
 }
 
 void auswertung::tipps_eintragen(sprachliste& texte) {

@@ -113,6 +113,9 @@ bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad, const renn
     const bool geschrieben = um_.ablage.zeilen_schreiben(pfad, inhalt);
     if (geschrieben) {
         gesichert_ = std::move(inhalt);
+        if (bei_ergebnis) {
+            bei_ergebnis(pfad);
+        }
     }
     return geschrieben;
 }

@@ -25,6 +25,8 @@ public:
     /// Saves the single race without a question. A failure shows its message and is false, unless the operator has
     /// saved this very result already.
     bool automatisch_speichern(const rennergebnis& ergebnis);
+    /// A file with the result of a race stands; below the program folder.
+    std::function<void(const std::string& pfad)> bei_ergebnis;
     /// Writes the result of one of many races. A failure is not shown.
     bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
     /// Opens the window for another file of the results. `schreiben` gets its name; a failure shows its message.

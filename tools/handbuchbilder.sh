@@ -22,6 +22,7 @@ hauptfenster             hauptfenster       1024x768
 startampel_im_rennen     startampel         1280x800
 einstellungen_start      einstellungen      1180x800
 auswertung               auswertung         1280x900
+wiedergabe               wiedergabe         1280x900
 rundenverlauf            rundenverlauf      1280x800
 wettkampf_vorbereiten    wettkampf          1180x800
 bestzeiten               bestzeiten         1000x560

@@ -100,6 +100,7 @@ QLayout* AuswertungFenster::korrekturzeile() {
     knopf(logik_.Command_verlauf, "Command_verlauf");
     knopf(logik_.Command_drucken, "Command_drucken");
     knopf(logik_.Command_pdf, "Command_pdf");
+    knopf(logik_.Command_wiedergabe, "Command_wiedergabe");
     knopf(logik_.Command4, "Command4");
     return zeile;
 }

@@ -44,6 +44,7 @@
 #include "ui/w_auswertung_fenster.h"
 #include "ui/wettkampf1_fenster.h"
 #include "ui/wettkampf2_fenster.h"
+#include "ui/wiedergabe_fenster.h"
 
 namespace tarvel::ui {
 
@@ -99,6 +100,7 @@ public:
     SpaetesFenster<TagesrennenFenster> tagesrennen{p_.tagesrennen_fenster, fenster, &form1};
     SpaetesFenster<BildwahlFenster> bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpaetesFenster<SpeichernFenster> fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
+    SpaetesFenster<WiedergabeFenster> wiedergabe{p_.wiedergabe, fenster, &form1};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel, &einfahren}};
 };
 

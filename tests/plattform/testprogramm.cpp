@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "programm/rennprotokoll.h"
+#include "programm/ergebnisvergleich.h"
 
 namespace tarvel::test {
 
@@ -58,11 +58,14 @@ std::string nachrechnen(const programm& p, const test_plattform& maschine) {
     std::string name = p.rennprotokoll.dateiname();
     std::replace(name.begin(), name.end(), '\\', '/');
     testprogramm noch_einmal;
-    const auto ausgang = noch_einmal.p.rennprotokoll.nachspielen(maschine.datei_lesen(name));
+    const ergebnisvergleich v = rennen_vergleichen(noch_einmal.p, maschine.datei_lesen(name), p.ablage);
     if (const auto u = noch_einmal.p.rennprotokoll.abweichung()) {
         return "line " + std::to_string(u->zeile) + ": " + u->geschrieben + " / " + u->stattdessen;
     }
-    if (ausgang != rennprotokoll::ausgang::ganz) {
+    if (!v.anders.empty()) {
+        return v.anders.front().datei + ": " + v.anders.front().geschrieben + " / " + v.anders.front().gerechnet;
+    }
+    if (v.ausgang != rennprotokoll::ausgang::ganz) {
         return "no whole log: " + name;
     }
     const renn_zustand& war = p.rennen.zustand;

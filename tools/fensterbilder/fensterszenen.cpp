@@ -162,6 +162,22 @@ const std::vector<szeneneintrag> alle{
          b.p.auswertung.Command6.klicken();
          return b.o.auswertung;
      }},
+    {"wiedergabe",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.t_aktiv.umschalten();
+         b.rennen(61000);
+         b.t.bahn().Command3.klicken();
+         b.t.maschine.laufen(5000);
+         b.t.bahn().Command3.klicken();
+         b.t.maschine.laufen(10000);
+         b.fahren(40000);
+         b.t.bahn().Command4.klicken();
+         b.t.maschine.laufen(20000);  // no crossing counts any more
+         b.p.auswertung.Command_wiedergabe.klicken();
+         b.p.wiedergabe.leiste.greifen(95000);
+         b.t.maschine.laufen(100);
+         return *b.o.wiedergabe;
+     }},
     {"rundenverlauf",
      [](buehne& b) -> QWidget& {
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});

@@ -1,7 +1,7 @@
-// Drives races again from their logs, on a machine without a clock, and tells whether each decision comes out as it was
-// written.
+// Drives races again from their logs, on a machine without a clock, and tells whether each decision and each result
+// file comes out as it was written. A file may be a log, or a result: that one's log is looked for beside it.
 //   nachrechnen DATEI...
-// Ends with 0 if all do; else it names the first line of each log that does not.
+// Ends with 0 if all do; else it names the first line of each that does not.
 
 #include <cstdio>
 #include <cstdlib>
@@ -9,15 +9,20 @@
 #include <iterator>
 #include <system_error>
 
+#include "core/ordnerblick.h"
+#include "core/protokollordner.h"
 #include "core/spuren.h"
 #include "core/zeit.h"
+#include "platform/stille_maschine.h"
+#include "programm/ergebnisvergleich.h"
 #include "programm/programm.h"
 #include "programm/rennprotokoll.h"
 #include "results/wertung.h"
-#include "tools/nachrechnen/stille_maschine.h"
 
 namespace tarvel::nachrechnen {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::uintmax_t bytes_max = std::uintmax_t{256} * 1024 * 1024;
 
@@ -68,44 +73,88 @@ void stand_zeigen(programm& p) {
     }
 }
 
-bool datei_rechnen(const std::string& name) {
-    const std::optional<std::string> inhalt = lesen(std::filesystem::path(name));
+void ergebnisse_zeigen(const ergebnisvergleich& v) {
+    for (const std::string& name : v.gleich) {
+        std::printf("  %s: gleich\n", name.c_str());
+    }
+    for (const std::string& name : v.fehlen) {
+        std::printf("  %s: nicht mehr da, nicht verglichen\n", name.c_str());
+    }
+    for (const std::string& name : v.korrigierte) {
+        std::printf("  %s: nach einer Korrektur geschrieben, nicht verglichen\n", name.c_str());
+    }
+    for (const ergebnisvergleich::unterschied& u : v.anders) {
+        std::printf("  %s, Zeile %d, Spalte %d: geschrieben \"%s\", gerechnet \"%s\"\n", u.datei.c_str(), u.zeile,
+                    u.spalte, u.geschrieben.c_str(), u.gerechnet.c_str());
+    }
+}
+
+/// The program folder that the file lies in: the next one above it with logs of races.
+fs::path programmordner(const fs::path& datei) {
+    std::error_code fehler;
+    fs::path ordner = fs::absolute(datei, fehler).lexically_normal().parent_path();
+    while (!fs::is_directory(ordner / "Ergebnisse" / "Protokoll", fehler) && ordner.has_relative_path()) {
+        ordner = ordner.parent_path();
+    }
+    return ordner;
+}
+
+/// The file itself, or the log of the race whose result it holds.
+fs::path protokoll_von(const fs::path& datei, const dateien& ablage, const fs::path& ordner) {
+    const std::optional<std::string> inhalt = lesen(datei);
+    if (!inhalt || inhalt->starts_with("# Tarvel-Rennprotokoll")) {
+        return datei;
+    }
+    std::error_code fehler;
+    const fs::path unter = fs::absolute(datei, fehler).lexically_normal().lexically_relative(ordner);
+    const auto protokoll = protokoll_zu_ergebnis(ablage, pfad_als_utf8(unter));
+    return protokoll ? ablage.pfad(*protokoll) : datei;
+}
+
+bool datei_rechnen(const std::string& wort) {
+    const fs::path ordner = programmordner(fs::path(wort));
+    const dateien ablage(ordner);
+    const fs::path datei = protokoll_von(fs::path(wort), ablage, ordner);
+    const std::string name = datei == fs::path(wort) ? wort : wort + " (" + pfad_als_utf8(datei) + ")";
+    const std::optional<std::string> inhalt = lesen(datei);
     if (!inhalt) {
         std::printf("%s: nicht zu lesen\n", name.c_str());
         return false;
     }
-    const eigener_ordner ordner;
-    stille_maschine maschine(ordner.pfad());
+    const eigener_ordner eigener;
+    stille_maschine maschine(eigener.pfad());
     programm p(maschine.dienste());
     p.rennprotokoll.fuehren = false;
     p.starten();
     using wie = rennprotokoll::ausgang;
-    const wie ausgang = p.rennprotokoll.nachspielen(*inhalt);
-    switch (ausgang) {
+    const ergebnisvergleich v = rennen_vergleichen(p, *inhalt, ablage);
+    const mitschrift::unterschied u = p.rennprotokoll.abweichung().value_or(mitschrift::unterschied{});
+    switch (v.ausgang) {
         case wie::fremd:
             std::printf("%s: kein Rennprotokoll, das diese Version nachrechnen kann\n", name.c_str());
             return false;
-        case wie::anders: {
-            const mitschrift::unterschied u = p.rennprotokoll.abweichung().value_or(mitschrift::unterschied{});
+        case wie::anders:
             std::printf("%s, Zeile %d: geschrieben \"%s\", gerechnet \"%s\"\n", name.c_str(), u.zeile,
                         u.geschrieben.c_str(), u.stattdessen.c_str());
-            return false;
-        }
+            break;
         case wie::beschaedigt:
             std::printf("%s: gleich bis zu einer Zeile, die beschädigt oder abgerissen ist\n", name.c_str());
             stand_zeigen(p);
-            return false;
+            break;
         case wie::ganz:
             std::printf("%s: gleich\n", name.c_str());
             stand_zeigen(p);
-            return true;
+            break;
     }
-    return false;
+    ergebnisse_zeigen(v);
+    return v.gut();
 }
 
 int alle_rechnen(int anzahl, char** worte) {
     if (anzahl < 2) {
-        std::printf("nachrechnen DATEI...\nRechnet Rennen aus ihren Protokollen nach (Ergebnisse/Protokoll).\n");
+        std::printf(
+            "nachrechnen DATEI...\nRechnet Rennen aus ihren Protokollen nach (Ergebnisse/Protokoll); auch die Datei\n"
+            "eines Ergebnisses darf es sein.\n");
         return 2;
     }
     bool gleich = true;

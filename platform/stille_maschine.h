@@ -4,7 +4,7 @@
 
 #include "platform/dienste.h"
 
-namespace tarvel::nachrechnen {
+namespace tarvel {
 
 /// A machine on which nothing happens by itself: no clock, no screen, no device. What is driven again on it goes by
 /// its log alone.
@@ -111,4 +111,4 @@ private:
     std::filesystem::path ordner_;
 };
 
-}  // namespace tarvel::nachrechnen
+}  // namespace tarvel

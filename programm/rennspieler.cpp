@@ -1,0 +1,145 @@
+#include "programm/rennspieler.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include "core/protokollzeile.h"
+#include "platform/stille_maschine.h"
+#include "programm/programm.h"
+#include "programm/rennprotokoll.h"
+#include "race/protokollworte.h"
+
+namespace tarvel {
+namespace {
+
+using sorte = rennspieler::marke::sorte;
+
+const std::map<std::string_view, sorte> markenworte{
+    {vermerk::gruen, sorte::sonst},      {vermerk::fruehstart, sorte::sonst}, {vermerk::runde, sorte::runde},
+    {vermerk::abgelehnt, sorte::sonst},  {vermerk::pause, sorte::pause},      {vermerk::weiter, sorte::pause},
+    {vermerk::strafe, sorte::sonst},     {vermerk::leer, sorte::sonst},       {vermerk::tankt, sorte::sonst},
+    {vermerk::durchfahrt, sorte::sonst}, {vermerk::ende, sorte::sonst},
+};
+
+bool ohne_spur(std::string_view wort) {
+    return wort == vermerk::gruen || wort == vermerk::pause || wort == vermerk::weiter || wort == vermerk::ende;
+}
+
+}  // namespace
+
+struct rennspieler::spiel {
+    explicit spiel(const std::filesystem::path& ordner) : maschine(ordner), p(maschine.dienste()) {
+        p.ablage.nur_lesen();
+        p.rennprotokoll.fuehren = false;
+        p.starten();
+    }
+
+    stille_maschine maschine;
+    programm p;
+};
+
+rennspieler::rennspieler(std::filesystem::path programmordner, std::string inhalt)
+    : ordner_(std::move(programmordner)), inhalt_(std::move(inhalt)) {
+    abtasten();
+    von_vorn();
+}
+
+rennspieler::~rennspieler() = default;
+
+void rennspieler::abtasten() {
+    protokollleser leser(inhalt_);
+    zeit_ms zeit = 0;
+    int taten = 0;
+    while (const auto gelesen = leser.zeile()) {
+        std::string_view zeile = *gelesen;
+        const bool tat = !zeile.starts_with('.');
+        zeile.remove_prefix(std::min(zeile.find_first_not_of('.'), zeile.size()));
+        const std::string_view wort = naechstes_wort(zeile);
+        if (tat && wort != "#") {
+            zeit = protokoll_stempel(als_zahl(naechstes_wort(zeile)).value_or(zeit));
+            ++taten;
+            if (wort == "oeffnen") {
+                anfang_ = zeit;
+            }
+            if (wort != "zumachen") {
+                ende_ = std::max(ende_, zeit);
+                taten_ = taten;
+            }
+        } else if (!tat && wort == ">") {
+            const auto art = markenworte.find(naechstes_wort(zeile));
+            if (art != markenworte.end()) {
+                const std::int64_t spur = ohne_spur(art->first) ? 0 : als_zahl(naechstes_wort(zeile)).value_or(0);
+                marken_.push_back({zeit, art->second, static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
+            }
+        }
+    }
+    std::stable_sort(marken_.begin(), marken_.end(), [](const marke& a, const marke& b) { return a.bei < b.bei; });
+}
+
+void rennspieler::von_vorn() {
+    if (alt_ == nullptr) {  // else that one is still looked at, and the other never was
+        alt_ = std::move(spiel_);
+    }
+    spiel_ = std::make_unique<spiel>(ordner_);
+    const std::optional<bool> ganz = spiel_->p.rennprotokoll.bereitlegen(inhalt_);
+    wie_ = !ganz ? gueltigkeit::fremd : *ganz ? gueltigkeit::ganz : gueltigkeit::beschaedigt;
+    abgewichen_ = false;
+    getan_ = 0;
+    stelle_ = anfang_;
+    vor(anfang_, taten_);
+}
+
+void rennspieler::alten_vergessen() {
+    alt_.reset();
+}
+
+rennen& rennspieler::rennen() {
+    return spiel_->p.rennen;
+}
+
+bool rennspieler::vor(zeit_ms bis, int hoechstens) {
+    if (wie_ == gueltigkeit::fremd) {
+        return true;
+    }
+    mitschrift& protokoll = rennen().protokoll;
+    bis = std::clamp(bis, stelle_, ende_);
+    for (int getan = 0; getan_ < taten_ && !abgewichen_; ++getan) {
+        const std::optional<zeit_ms> zeit = protokoll.naechste_zeit();
+        if (!zeit || *zeit > bis) {
+            break;
+        }
+        stelle_ = std::clamp(*zeit, stelle_, bis);
+        if (getan == hoechstens) {
+            return false;
+        }
+        ++getan_;
+        abgewichen_ = !protokoll.weiter() && protokoll.abweichung();
+    }
+    if (abgewichen_) {
+        ende_ = stelle_;
+    } else {
+        stelle_ = bis;
+        uhr_zeigen();
+    }
+    return true;
+}
+
+void rennspieler::uhr_zeigen() {
+    rennen().protokoll.uhr_vor(stelle_);
+    rennen().uhr.zeigen_bei(rennen().zeit.messzeit_lesen());
+}
+
+zeit_ms rennspieler::naechste_marke(zeit_ms stelle) const {
+    const auto ort = std::upper_bound(marken_.begin(), marken_.end(), stelle,
+                                      [](zeit_ms zeit, const marke& m) { return zeit < m.bei; });
+    return ort == marken_.end() ? ende_ : std::min(ort->bei, ende_);
+}
+
+zeit_ms rennspieler::vorige_marke(zeit_ms stelle) const {
+    const auto ort = std::lower_bound(marken_.begin(), marken_.end(), stelle,
+                                      [](const marke& m, zeit_ms zeit) { return m.bei < zeit; });
+    return ort == marken_.begin() ? anfang_ : std::max(std::prev(ort)->bei, anfang_);
+}
+
+}  // namespace tarvel
