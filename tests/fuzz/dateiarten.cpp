@@ -292,6 +292,7 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
         {"at2560",
          {{":S13,100:S11,200;:T,5;:S7,300;\r\n:S9,4294967295;", ":T,12;:S13,-5.5;:V.1;:S13,1;:S11,99999999999999999;"},
           at2560_hoeren}},
+        {"rennprotokoll", rennprotokoll_datei()},
         {"tk_datei", {{"Tarvel Timekeeper-Einstellungen\r\n\r\n2\r\n16\r\n15\r\n1\r\n59\r\n0\r\n"}, tk_datei_lesen}},
         {"timekeeper",
          {{"\x02"
