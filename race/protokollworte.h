@@ -22,7 +22,8 @@ inline constexpr std::string_view strom_aus = "StromAus";
 inline constexpr std::string_view strom_an = "StromAn";
 inline constexpr std::string_view leer = "Leer";  ///< number of the `leer_aktion`
 inline constexpr std::string_view voll = "Voll";
-inline constexpr std::string_view tankt = "Tankt";  ///< hundredths of a litre at the beginning
+inline constexpr std::string_view tankt = "Tankt";         ///< hundredths of a litre at the beginning
+inline constexpr std::string_view tank_ende = "TankEnde";  ///< hundredths of a litre
 inline constexpr std::string_view ziel = "Ziel";
 inline constexpr std::string_view letzte = "Letzte";    ///< no lane; stamp from which the race is run to its end
 inline constexpr std::string_view ende = "Ende";        ///< no lane; stamp of the end, 1 if it was ended by hand
@@ -45,6 +46,8 @@ enum class ablehnung {
     tankstrafe = 6,  ///< until this stamp
     im_ziel = 7,
     prellen = 8,  ///< the last crossing once more; until this stamp
+    pause = 9,    ///< the race stood still
+    vor_dem_start = 10,
 };
 
 }  // namespace tarvel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "core/sprache.h"
+#include "race/rennhergang.h"
+
+namespace tarvel {
+
+/// "1:05,432", with so many decimals; "-0:03,000" before the green light.
+std::string hergang_zeit(zeit_ms zeit, int stellen, char komma);
+
+/// What happened, in words that a race director uses.
+struct hergangsworte {
+    sprachliste& eintragen(sprachliste& texte);
+
+    /// "Runde 12: 5,432 s", "zu schnell: 3,214 s, gezählt wird ab 5,100 s".
+    std::string von(const geschehen& g) const;
+
+    char komma = ',';
+
+private:
+    std::string ablehnung_von(const geschehen& g) const;
+    std::string taste_von(const geschehen& g) const;
+    std::string dauer(zeit_ms zeit) const;
+
+    std::map<vorgang, std::string> vorlagen_;  ///< with "%1" and "%2" for what is put in
+    std::map<ablehnung, std::string> gruende_;
+    std::map<int, std::string> leer_;
+    std::map<int, std::string> befehle_;
+    std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_;
+};
+
+}  // namespace tarvel

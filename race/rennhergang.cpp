@@ -1,0 +1,348 @@
+#include "race/rennhergang.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "core/protokollzeile.h"
+#include "core/spuren.h"
+#include "hardware/ereignisse.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t alle_max = 500'000;
+constexpr std::int64_t zahl_max = std::int64_t{1} << 50;  // sums of a few of them stay numbers
+constexpr zeit_ms wiederholt_ms = 300;                    // a board tells a contact that is held again and again
+
+using ort = std::int64_t geschehen::*;
+
+struct vermerkform {
+    std::string_view wort;
+    vorgang was;
+    bool mit_spur;
+    std::array<ort, 4> zahlen;
+};
+
+constexpr ort nummer = &geschehen::nummer;
+constexpr ort wert = &geschehen::wert;
+constexpr ort grenze = &geschehen::grenze;
+constexpr ort stempel = &geschehen::stempel;
+
+constexpr std::array<vermerkform, 21> vermerkformen{{
+    {vermerk::gruen, vorgang::gruen, false, {stempel}},
+    {vermerk::fruehstart, vorgang::fruehstart, true, {stempel}},
+    {vermerk::runde, vorgang::runde, true, {nummer, wert, stempel}},
+    {vermerk::abgelehnt, vorgang::abgelehnt, true, {nummer, stempel, wert, grenze}},
+    {vermerk::abzug, vorgang::abzug, true, {nummer}},
+    {vermerk::sektor, vorgang::sektor, true, {nummer, wert}},
+    {vermerk::platz, vorgang::platz, true, {nummer}},
+    {vermerk::pause, vorgang::pause, false, {stempel}},
+    {vermerk::weiter, vorgang::weiter, false, {stempel, wert}},
+    {vermerk::durchfahrt, vorgang::durchfahrt, true, {stempel}},
+    {vermerk::schalter, vorgang::schalter, false, {}},
+    {vermerk::strafe, vorgang::strafe, true, {wert, nummer}},
+    {vermerk::strom_aus, vorgang::strom_aus, true, {}},
+    {vermerk::strom_an, vorgang::strom_an, true, {}},
+    {vermerk::leer, vorgang::leer, true, {nummer}},
+    {vermerk::voll, vorgang::voll, true, {}},
+    {vermerk::tankt, vorgang::tankt, true, {nummer}},
+    {vermerk::tank_ende, vorgang::tank_ende, true, {nummer}},
+    {vermerk::ziel, vorgang::ziel, true, {}},
+    {vermerk::letzte, vorgang::letzte, false, {stempel}},
+    {vermerk::ende, vorgang::ende, false, {stempel, nummer}},
+}};
+
+/// What the second number of a refusal is: a stamp until which, which moves with all others.
+bool bis_stempel(const geschehen& g) {
+    constexpr std::array gruende{ablehnung::sperre, ablehnung::volltanken, ablehnung::tankstrafe, ablehnung::prellen};
+    return g.ist_abgelehnt() && g.wert != 0 && std::find(gruende.begin(), gruende.end(), g.grund()) != gruende.end();
+}
+
+int spur_des_ereignisses(std::int64_t art) {
+    constexpr ereignis_art erster_chaostaster = 54;
+    for (const int spur : alle_spuren) {
+        if (art == art::rundenzaehlung[spur] || art == art::tanken_ein[spur] || art == art::tanken_aus[spur] ||
+            art == erster_chaostaster + spur - 1 ||
+            (art >= erste_zwischenzeit && art < erste_zwischenzeit + sektorsensoren_max &&
+             (art - erste_zwischenzeit) / 2 + 1 == spur)) {
+            return spur;
+        }
+    }
+    return 0;
+}
+
+/// What lasts, from its beginning to its end.
+class dauern {
+public:
+    void ansehen(geschehen& g) {
+        const bool alles = g.was == vorgang::ende || g.was == vorgang::gruen;
+        for (const int spur : alle_spuren) {
+            const bool seine = spur == g.spur;
+            if (alles || (seine && (g.was == vorgang::strom_an || g.was == vorgang::ziel))) {
+                schliessen(strom_[spur], g.seit_gruen);
+            }
+            if (alles || g.was == vorgang::pause || (seine && endet_tanken(g.was))) {
+                schliessen(tank_[spur], g.seit_gruen);
+            }
+        }
+        if (alles || g.was == vorgang::weiter) {
+            schliessen(pause_, g.seit_gruen);
+        }
+        if (g.was == vorgang::pause) {
+            pause_ = &g;
+        } else if (g.was == vorgang::strom_aus && strom_[g.spur] == nullptr) {
+            strom_[g.spur] = &g;
+        } else if (g.was == vorgang::tankt) {
+            tank_[g.spur] = &g;
+        }
+    }
+    void abschliessen(zeit_ms schluss) {
+        schliessen(pause_, schluss);
+        for (const int spur : alle_spuren) {
+            schliessen(strom_[spur], schluss);
+            schliessen(tank_[spur], schluss);
+        }
+    }
+
+private:
+    static bool endet_tanken(vorgang was) {
+        return was == vorgang::voll || was == vorgang::tank_ende || was == vorgang::tankt || was == vorgang::ziel;
+    }
+    static void schliessen(geschehen*& offen, zeit_ms bis) {
+        if (offen != nullptr) {
+            offen->bis = bis;
+        }
+        offen = nullptr;
+    }
+
+    geschehen* pause_ = nullptr;
+    spuren<geschehen*> strom_{};
+    spuren<geschehen*> tank_{};
+};
+
+class leser {
+public:
+    explicit leser(rennhergang& h) : h_(h) {}
+
+    void zeile(std::string_view text) {
+        const std::size_t tiefe = std::min(text.find_first_not_of('.'), text.size());
+        text.remove_prefix(tiefe);
+        std::string_view wort = naechstes_wort(text);
+        if (wort == "#") {
+            kopfzeile(text);
+        } else if (wort == ">") {
+            entscheidung(text);
+        } else {
+            wort = tiefe > 0 ? naechstes_wort(text) : wort;  // behind the step
+            tat(wort, text, tiefe == 0);
+        }
+    }
+
+    /// When each thing was, and how long it lasted.
+    void abschliessen() {
+        h_.hat_gruen = gruen_.has_value();
+        const start beginn = gruen_.value_or(start{});
+        for (geschehen& g : h_.alle) {
+            const bool gestempelt = h_.hat_gruen && g.stempel != geschehen::keine;
+            g.seit_gruen = gestempelt ? g.stempel - beginn.stempel : g.zeit - beginn.zeit;
+            if (bis_stempel(g)) {
+                g.bis = g.wert - beginn.stempel;
+            }
+            if (g.stempel != geschehen::keine) {
+                g.stempel += verschoben_;
+            }
+        }
+        std::stable_sort(h_.alle.begin(), h_.alle.end(),
+                         [](const geschehen& a, const geschehen& b) { return a.seit_gruen < b.seit_gruen; });
+        dauern d;
+        for (geschehen& g : h_.alle) {
+            d.ansehen(g);
+        }
+        d.abschliessen(h_.dauer());
+    }
+
+private:
+    struct start {
+        zeit_ms stempel = 0;
+        zeit_ms zeit = 0;
+    };
+    struct wiederholung {
+        std::optional<std::size_t> platz;
+        zeit_ms zeit = 0;
+    };
+
+    static std::optional<std::int64_t> zahl(std::string_view& rest) {
+        const std::optional<std::int64_t> gelesen = als_zahl(naechstes_wort(rest));
+        return gelesen && *gelesen >= -zahl_max && *gelesen <= zahl_max ? gelesen : std::nullopt;
+    }
+
+    geschehen& anhaengen(vorgang was, int spur) {
+        h_.alle.push_back({.was = was, .spur = spur, .zeit = zeit_});
+        return h_.alle.back();
+    }
+
+    void kopfzeile(std::string_view text) {
+        const std::string_view ganze = text;
+        if (naechstes_wort(text) == "Korrektur") {
+            anhaengen(vorgang::korrektur, 0).text = ganze;
+        }
+    }
+
+    void entscheidung(std::string_view text) {
+        const std::string_view wort = naechstes_wort(text);
+        const auto form = std::find_if(vermerkformen.begin(), vermerkformen.end(),
+                                       [&](const vermerkform& f) { return f.wort == wort; });
+        if (form == vermerkformen.end()) {
+            return;
+        }
+        geschehen g{.was = form->was, .zeit = zeit_};
+        if (form->mit_spur) {
+            const std::int64_t spur = zahl(text).value_or(0);
+            if (spur < 1 || spur > spuren_max) {
+                return;
+            }
+            g.spur = static_cast<int>(spur);
+        }
+        for (const ort platz : form->zahlen) {
+            if (platz == nullptr) {
+                break;
+            }
+            const std::optional<std::int64_t> gelesen = zahl(text);
+            if (!gelesen) {
+                return;
+            }
+            g.*platz = *gelesen;
+        }
+        einordnen(g);
+        h_.alle.push_back(std::move(g));
+    }
+
+    void einordnen(geschehen& g) {
+        if (g.stempel != geschehen::keine) {
+            g.stempel -= verschoben_;
+            stempel_der_tat_ = g.stempel;
+        } else if (stempel_der_tat_) {  // what follows from a crossing that was told late happened with it
+            g.stempel = *stempel_der_tat_;
+        }
+        if (bis_stempel(g)) {
+            g.wert -= verschoben_;
+        }
+        if (g.was == vorgang::gruen && !gruen_) {
+            gruen_ = {g.stempel, zeit_};
+        } else if (g.was == vorgang::fruehstart) {
+            nach_pause_[g.spur] = false;
+        } else if (g.was == vorgang::strafe && g.nummer == 1) {
+            nach_pause_[g.spur] = true;
+        } else if (g.ist_abgelehnt()) {
+            g.nach_pause = nach_pause_[g.spur];
+        }
+    }
+
+    /// `aussen`: it does not lie in another, where answers look alike.
+    void tat(std::string_view name, std::string_view rest, bool aussen) {
+        const auto* const befehl = std::find(std::begin(hergang_befehle), std::end(hergang_befehle), name);
+        const bool ist_befehl = befehl != std::end(hergang_befehle);
+        constexpr std::array<std::string_view, 8> bekannte{"ereignis", "jetzt",      "ueberfahrt",  "taste",
+                                                           "u",        "ampeltaste", "verschieben", "verloren"};
+        if (!aussen && !ist_befehl && std::find(bekannte.begin(), bekannte.end(), name) == bekannte.end()) {
+            return;
+        }
+        zeit_ = zahl(rest).value_or(zeit_);
+        if (name == "u") {
+            return;
+        }
+        stempel_der_tat_.reset();
+        if (ist_befehl) {
+            anhaengen(vorgang::befehl, 0).nummer = std::distance(std::begin(hergang_befehle), befehl);
+        } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
+            geraet(zahl(rest).value_or(-1));
+        } else if (name == "verschieben") {
+            verschoben_ = std::clamp(verschoben_ + zahl(rest).value_or(0), -zahl_max, zahl_max);
+        } else if (name == "taste" || name == "ampeltaste") {
+            taste(zahl(rest).value_or(0));
+        } else if (name == "verloren") {
+            anhaengen(vorgang::verloren, 0);
+        }
+    }
+
+    void taste(std::int64_t code) {
+        const std::vector<tastenzeile>& zeilen = tastenzeilen();
+        const auto treffer = std::find_if(zeilen.begin(), zeilen.end(), [&](const tastenzeile& t) {
+            return code != tastenbelegung::keine_taste && h_.kopf->belegung.taste(t.zeile) == code;
+        });
+        const bool belegt = treffer != zeilen.end();
+        geschehen& g = anhaengen(vorgang::taste, belegt ? treffer->spur : 0);
+        g.nummer = code;
+        g.wert = belegt ? treffer->zeile : 0;
+    }
+
+    void geraet(std::int64_t art) {
+        if (art < 0 || art >= ereignis_tabelle::zeilen_anzahl) {
+            return;
+        }
+        wiederholung& w = zuletzt_.at(static_cast<std::size_t>(art));
+        if (w.platz && zeit_ - w.zeit <= wiederholt_ms) {
+            ++h_.alle[*w.platz].wert;
+        } else {
+            w.platz = h_.alle.size();
+            geschehen& g = anhaengen(vorgang::geraet, spur_des_ereignisses(art));
+            g.nummer = art;
+            g.wert = 1;
+        }
+        w.zeit = zeit_;
+    }
+
+    rennhergang& h_;
+    zeit_ms zeit_ = 0;
+    std::optional<zeit_ms> stempel_der_tat_;
+    std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
+    zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
+    spuren<bool> nach_pause_{};   ///< the lane's last penalty was that of a pause
+    std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
+};
+
+}  // namespace
+
+std::vector<geschehen> rennhergang::abgelehnte(int spur) const {
+    std::vector<geschehen> treffer;
+    std::copy_if(alle.begin(), alle.end(), std::back_inserter(treffer),
+                 [spur](const geschehen& g) { return g.ist_abgelehnt() && (spur == 0 || g.spur == spur); });
+    return treffer;
+}
+
+zeit_ms rennhergang::dauer() const {
+    return alle.empty() ? 0 : alle.back().seit_gruen;
+}
+
+rennhergang hergang_lesen(std::string_view inhalt) {
+    rennhergang h;
+    protokollleser zeilen(inhalt);
+    std::vector<std::string_view> kopf;
+    leser l(h);
+    while (const auto zeile = zeilen.zeile()) {
+        if (h.kopf) {
+            if (h.alle.size() >= alle_max) {
+                break;
+            }
+            l.zeile(*zeile);
+            continue;
+        }
+        kopf.push_back(*zeile);
+        if (*zeile == "# Anfang") {
+            std::optional<gelesener_kopf> gelesen = kopf_lesen(kopf);
+            if (!gelesen) {
+                return h;
+            }
+            h.kopf = std::move(gelesen->kopf);
+        } else if (!zeile->starts_with('#') || kopf.size() > 20'000) {
+            return h;
+        }
+    }
+    h.ganz = h.kopf && zeilen.vollstaendig();
+    l.abschliessen();
+    return h;
+}
+
+}  // namespace tarvel

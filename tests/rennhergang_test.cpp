@@ -1,0 +1,134 @@
+#include "race/rennhergang.h"
+
+#include <random>
+
+#include "core/protokollzeile.h"
+#include "programm/rennprotokoll.h"
+#include "race/hergangsworte.h"
+#include "tests/programm_probe.h"
+
+namespace tarvel {
+namespace {
+
+class Rennhergang : public test::ProgrammProbe {
+protected:
+    Rennhergang() { worte_.eintragen(texte_).deutsch_setzen(); }
+
+    std::string datei() {
+        std::string name = t.p.rennprotokoll.dateiname();
+        std::replace(name.begin(), name.end(), '\\', '/');
+        return t.maschine.datei_lesen(name);
+    }
+    /// A log whose head is that of the race that runs.
+    std::string protokoll(const std::vector<std::string>& zeilen) {
+        std::string text;
+        protokollschreiber s;
+        protokollleser kopf(inhalt_);
+        for (auto zeile = kopf.zeile(); zeile && zeile->starts_with('#'); zeile = kopf.zeile()) {
+            text += s.beginnen(0).wort(*zeile).fertig();
+        }
+        for (const std::string& zeile : zeilen) {
+            text += s.beginnen(0).wort(zeile).fertig();
+        }
+        return text;
+    }
+    /// What is told of a lane, each with its time.
+    std::vector<std::string> von(const rennhergang& h, int spur, std::vector<vorgang> ohne = {}) const {
+        std::vector<std::string> zeilen;
+        for (const geschehen& g : h.alle) {
+            if (g.spur == spur && std::find(ohne.begin(), ohne.end(), g.was) == ohne.end()) {
+                zeilen.push_back(hergang_zeit(g.seit_gruen, 3, ',') + " " + worte_.von(g));
+            }
+        }
+        return zeilen;
+    }
+
+    sprachliste texte_{"protokoll"};
+    hergangsworte worte_;
+    std::string inhalt_;
+};
+
+TEST_F(Rennhergang, EinRennenErzaehltSich) {
+    t.p.form1.wertmin.eingeben("5,1");
+    t.p.einst.chaosampel_an = false;
+    t.starten("Runden", "2", {1, 2});
+    t.runde_nach(1000, "1");
+    t.runde_nach(3214, "1");
+    t.runde_nach(3000, "1");
+    t.maschine.laufen(1000);
+    t.taste("c");
+    t.maschine.laufen(5000);
+    t.bahn().Command3.klicken();
+    t.runde_nach(6000, "1");
+    t.maschine.laufen(100);
+    const rennhergang h = hergang_lesen(datei());
+    ASSERT_TRUE(h.kopf && h.ganz);
+    const std::vector<vorgang> ohne{vorgang::taste, vorgang::platz, vorgang::ende, vorgang::letzte};
+    EXPECT_EQ(von(h, 1, ohne),
+              (std::vector<std::string>{"0:01,000 erste Überfahrt nach 1,000 s, ab hier wird gezählt",
+                                        "0:04,214 zu schnell: 3,214 s, gezählt wird ab 5,100 s",
+                                        "0:07,214 Runde 1: 6,214 s", "0:19,215 Runde 2: 7,001 s", "0:19,215 im Ziel"}));
+    const auto pause = std::find_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause; });
+    ASSERT_NE(pause, h.alle.end());
+    EXPECT_EQ(pause->bis - pause->seit_gruen, 5001);
+    ASSERT_EQ(h.abgelehnte(1).size(), 1U);
+    EXPECT_EQ(h.abgelehnte(1)[0].stempel - t.p.rennen.zustand.start_zeit, 4214);
+    EXPECT_TRUE(h.abgelehnte(2).empty());
+}
+
+TEST_F(Rennhergang, GruendeInWorten) {
+    t.starten("Runden", "9", {1, 2});
+    inhalt_ = datei();
+    const rennhergang h = hergang_lesen(
+        protokoll({"t0 500", ".> Gruen 10000", ".> Fruehstart 1 9000", "t0 3000", ".> Abgelehnt 1 3 12000 22400 0",
+                   ".> Strafe 1 5 1", ".> Abgelehnt 1 3 13000 23400 0", ".> Abgelehnt 2 6 14000 31000 0",
+                   ".> Abgelehnt 2 7 15000 0 0", ".> Abgelehnt 2 9 16000 0 0", ".> Abgelehnt 2 99 17000 0 0",
+                   "verschieben 8000 -500", "t0 9000", ".> Runde 2 12 5432 18500", "ereignis 9100 16 1",
+                   "ereignis 9200 16 1", "ereignis 9900 16 1", "# Korrektur Spur 1"}));
+    EXPECT_EQ(von(h, 1), (std::vector<std::string>{
+                             "-0:01,000 Frühstart", "0:02,000 Sperre nach Frühstart bis 12,4 s",
+                             "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 13,4 s",
+                             "0:08,600 Gerät meldet Rundenzählung (2-mal)", "0:09,400 Gerät meldet Rundenzählung"}));
+    EXPECT_EQ(von(h, 2), (std::vector<std::string>{"0:04,000 Tankstrafe bis 21,0 s", "0:05,000 im Ziel",
+                                                   "0:06,000 Pause", "0:07,000 ", "0:09,000 Runde 12: 5,432 s"}));
+    EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
+}
+
+TEST_F(Rennhergang, ErtraegtJedenInhalt) {
+    t.starten("Runden", "3", {1, 2});
+    t.runde_nach(6000, "12");
+    t.runde_nach(6000, "12");
+    inhalt_ = datei();
+    const std::size_t ganz = hergang_lesen(inhalt_).alle.size();
+    const rennhergang torn = hergang_lesen(std::string_view(inhalt_).substr(0, inhalt_.size() - 1));
+    EXPECT_FALSE(torn.ganz);
+    EXPECT_LT(torn.alle.size(), ganz + 1);
+    EXPECT_FALSE(hergang_lesen("").kopf || hergang_lesen(std::string(100000, '#')).kopf);
+
+    std::mt19937 z(4711);
+    const std::vector<std::string> zahlen{
+        "9223372036854775807", "-9223372036854775808", "1125899906842624", "-1", "x", ""};
+    const std::vector<std::string> worte{".> Runde",    ".> Abgelehnt", ".> Pause",   ".> Gruen",  ".> Weiter",
+                                         ".> Tankt",    "verschieben",  "taste",      ".u",        ".4 ereignis",
+                                         ".> StromAus", "...",          "ueberfahrt", ".> Sektor", "# Korrektur"};
+    for (int i = 0; i < 3000; ++i) {
+        std::vector<std::string> zeilen;
+        for (int n = 0; n < 12; ++n) {
+            std::string zeile = worte[z() % worte.size()];
+            for (unsigned felder = z() % 6; felder > 0; --felder) {
+                zeile += " " + (z() % 2 == 0 ? std::to_string(z() % 8) : zahlen[z() % zahlen.size()]);
+            }
+            zeilen.push_back(zeile);
+        }
+        const rennhergang h = hergang_lesen(protokoll(zeilen));
+        EXPECT_TRUE(h.ganz);
+        for (const geschehen& g : h.alle) {
+            EXPECT_TRUE(g.spur >= 0 && g.spur <= spuren_max);
+            worte_.von(g);
+            hergang_zeit(g.seit_gruen, 3, ',');
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tarvel
