@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/protokollfortsetzung.h"
 #include "core/protokollordner.h"
 #include "core/protokollzeile.h"
 #include "core/zeit.h"
@@ -62,6 +63,14 @@ void rennprotokoll::sichern() {
     if (datei_ != nullptr) {
         datei_->sichern();
     }
+}
+
+std::string rennprotokoll::bisher() {
+    if (datei_ == nullptr || !datei_->sichern()) {
+        return {};
+    }
+    const auto stand = protokollfortsetzung::lesen(um_.ablage.pfad(dateiname_));
+    return stand ? stand->inhalt() : std::string();
 }
 
 void rennprotokoll::aufraeumen() const {

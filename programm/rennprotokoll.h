@@ -38,6 +38,7 @@ public:
     void beginnen() override;
     /// Tells if the log could not be kept to its end.
     void abschliessen() override;
+    std::string bisher() override;
     /// Deletes the logs that nobody needs any more.
     void aufraeumen() const;
     /// A new log begins.

@@ -45,6 +45,7 @@ rennen::rennen(const plattform::dienste& echte, const umfeld& um)
       chaos(umgebung, {ablauf, ansicht, strafen, fruehstartstrafe}),
       fortsetzung(umgebung, {plaetze, uhr, ende, ansicht, ablauf, strafen, tanken, sektoren}),
       ausfall(umgebung, {zaehlung, chaos}),
+      rundenkorrektur(umgebung, sektoren),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
       fenster(umgebung, {ablauf, ansicht, befehle}) {
     protokoll.nebenbei(

@@ -9,6 +9,7 @@
 #include "race/fortsetzung.h"
 #include "race/fruehstartstrafe.h"
 #include "race/rennbefehle.h"
+#include "race/rundenkorrektur.h"
 #include "race/strafen.h"
 
 namespace tarvel {
@@ -20,6 +21,8 @@ public:
     virtual void beginnen() = 0;
     /// It has closed.
     virtual void abschliessen() = 0;
+    /// The whole lines of the log so far; empty without one.
+    virtual std::string bisher() { return {}; }
 };
 
 /// The race window as the register sees it.
@@ -110,6 +113,7 @@ struct rennen final : private rennabschluss {
     tarvel::chaos chaos;
     tarvel::fortsetzung fortsetzung;
     tarvel::ausfall ausfall;
+    tarvel::rundenkorrektur rundenkorrektur;
     rennbefehle befehle;
     rennfenster fenster;
 

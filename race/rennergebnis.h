@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -21,6 +22,11 @@ struct rennergebnis {
         zeit_ms zeit = 0;
         std::array<zeit_ms, sektoren_max> sektoren{};  ///< of sectors 1 to 3, 0 for none
         std::optional<zeit_ms> pause = {};             ///< has come off `zeit` already
+        zeit_ms stempel = 0;                           ///< of the crossing that closes it; 0 in a result that was read
+        double meter = 0;                              ///< length of its lane; likewise
+        bool nachgetragen = false;                     ///< that crossing was added by the race director
+
+        bool operator==(const runde&) const = default;
     };
 
     struct spur {
@@ -42,12 +48,22 @@ struct rennergebnis {
         std::optional<double> tankinhalt = {};    ///< litres at the end
         std::optional<int> vor_fortsetzung = {};  ///< laps up to this one were driven before the race went on
 
+        bool operator==(const spur&) const = default;
+        /// Both crossings of lap 1 to the last were measured: none was added.
+        bool gemessen(std::size_t runde) const {
+            return !runden[runde].nachgetragen && !runden[runde - 1].nachgetragen;
+        }
+        int nachgetragene() const {
+            return static_cast<int>(
+                std::count_if(runden.begin(), runden.end(), [](const auto& r) { return r.nachgetragen; }));
+        }
         int rundenzahl() const { return runden.empty() ? 0 : static_cast<int>(runden.size()) - 1; }
     };
 
     std::optional<rennziel> ziel = {};
     std::optional<sortier_modus> wertung = {};  ///< by what the places go
     std::optional<bool> vorzeitig = {};         ///< ended by hand
+    std::optional<zeit_ms> zeit_um = {};        ///< stamp of the end of the time
     std::optional<double> massstab = {};        ///< speeds are those of the original, so many times as large
     std::string datum;                          ///< of the end
     std::string uhrzeit;
@@ -56,6 +72,7 @@ struct rennergebnis {
     int rundenzeilen = 0;      ///< rows of the table of laps; a lane that has left the race may have had the most
     std::vector<spur> spuren;  ///< that were in the race, in the order of their numbers
 
+    bool operator==(const rennergebnis&) const = default;
     /// The lane's part, null for a lane that was not in the race.
     const spur* auf(int nummer) const {
         for (const spur& eine : spuren) {

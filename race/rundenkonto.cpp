@@ -4,6 +4,8 @@
 #include <cassert>
 #include <utility>
 
+#include "race/bestensuche.h"
+
 namespace tarvel {
 
 void rundenkonto::leeren(int spur) {
@@ -20,7 +22,8 @@ void rundenkonto::zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms
 
 bool rundenkonto::beste_werten(int spur, zeit_ms zeit) {
     spur_konto& konto = spur_[spur];
-    if (zeit >= konto.beste && konto.runden != 1) {
+    const bool halbe_runde = speicher_.nachgetragen(spur, konto.runden - 1);  // began with a crossing nobody measured
+    if (halbe_runde || (zeit >= konto.beste && konto.runden != 1)) {
         return false;
     }
     konto.beste = zeit;
@@ -57,38 +60,41 @@ void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
     }
     const int zeile = laufende(spur);
     speicher_.setzen(spur, zeile, rundenzeit(spur, zeile) + zuschlag, stempel(spur, zeile) + zuschlag,
-                     pause(spur, zeile));
+                     pause(spur, zeile), speicher_.nachgetragen(spur, zeile));
     ++spur_[spur].runden;
 }
 
 void rundenkonto::letzten_stempel_verschieben(int spur, zeit_ms um) {
     const int zeile = runden(spur);
     if (zeile >= 0) {
-        speicher_.setzen(spur, zeile, rundenzeit(spur, zeile), stempel(spur, zeile) + um, pause(spur, zeile));
+        speicher_.setzen(spur, zeile, rundenzeit(spur, zeile), stempel(spur, zeile) + um, pause(spur, zeile),
+                         speicher_.nachgetragen(spur, zeile));
     }
 }
 
-bool rundenkonto::verschmelzen(int spur, int runde) {
+void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>& runden, int vor_fortsetzung) {
     spur_konto& konto = spur_[spur];
-    if (runde < 1 || runde > konto.runden) {
-        return false;
+    const rennergebnis::runde dahinter = runde(spur, laufende(spur));
+    int zeile = 0;
+    const auto eintragen = [&](const rennergebnis::runde& r) {
+        speicher_.setzen(spur, zeile++, r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen);
+    };
+    std::for_each(runden.begin(), runden.end(), eintragen);
+    const int vorher = std::exchange(konto.runden, zeile - 1);
+    eintragen(dahinter);
+    while (zeile <= vorher + 1) {
+        speicher_.leeren(spur, zeile++);
     }
-    speicher_.zeile_verschmelzen(spur, runde, konto.runden);
-    --konto.runden;
-    konto.vor_fortsetzung -= runde <= konto.vor_fortsetzung ? 1 : 0;
+    konto.vor_fortsetzung = vor_fortsetzung;
     beste_suchen(spur);
-    return true;
 }
 
 void rundenkonto::beste_suchen(int spur) {
-    zeit_ms beste = runden(spur) > 0 ? rundenzeit(spur, 1) : 0;
-    for (int runde = 2; runde <= runden(spur); ++runde) {
-        const zeit_ms zeit = rundenzeit(spur, runde);
-        if (zeit > 0 && zeit < beste) {
-            beste = zeit;
-        }
+    bestensuche suche(speicher_.nachgetragen(spur, 0));
+    for (int zeile = 1; zeile <= runden(spur); ++zeile) {
+        suche.runde(rundenzeit(spur, zeile), speicher_.nachgetragen(spur, zeile));
     }
-    spur_[spur].beste = beste;
+    spur_[spur].beste = suche.beste();
 }
 
 void rundenkonto::fortsetzen(int spur, bool unterwegs) {

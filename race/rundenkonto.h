@@ -1,6 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "core/spuren.h"
+#include "race/rennergebnis.h"
 #include "race/rundenspeicher.h"
 
 namespace tarvel {
@@ -24,6 +27,11 @@ public:
     zeit_ms rundenzeit(int spur, int zeile) const { return speicher_.rundenzeit(spur, zeile); }
     zeit_ms stempel(int spur, int zeile) const { return speicher_.stempel(spur, zeile); }
     zeit_ms pause(int spur, int zeile) const { return speicher_.pause(spur, zeile); }
+    /// The row as a result has it, without sectors and metres.
+    rennergebnis::runde runde(int spur, int zeile) const {
+        return {rundenzeit(spur, zeile), {}, pause(spur, zeile),
+                stempel(spur, zeile),    0,  speicher_.nachgetragen(spur, zeile)};
+    }
 
     /// For a new race: no crossing yet.
     void leeren(int spur);
@@ -41,8 +49,9 @@ public:
     zeit_ms zurueckhalten(int spur);
     /// The lap that is held back counts again, `zuschlag` ms longer. Nothing without one.
     void zurueckgeben(int spur, zeit_ms zuschlag);
-    /// Takes lap `runde` off as a false crossing: its time is part of the lap before it. False if there is no such lap.
-    bool verschmelzen(int spur, int runde);
+    /// The lane has had these laps, row 0 first; those up to lap `vor_fortsetzung` before the race went on. A lap that
+    /// is held back is still the one behind.
+    void runden_setzen(int spur, const std::vector<rennergebnis::runde>& runden, int vor_fortsetzung);
     /// The lane is out: it has no lap, and starts from none should the race go on.
     void streichen(int spur) { spur_[spur].runden = 0; }
 

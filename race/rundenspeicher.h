@@ -21,12 +21,11 @@ public:
     zeit_ms stempel(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).stempel[spur] : 0; }
     /// Pause that has come off the lap time: it comes off the time of whatever lap takes this one in.
     zeit_ms pause(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).pause[spur] : 0; }
-    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause = 0);
+    /// The crossing that closes the lap was added later.
+    bool nachgetragen(int spur, int zeile) const { return gibt_es(zeile) && an(zeile).nachgetragen[spur]; }
+    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause = 0, bool nachgetragen = false);
     void leeren(int spur, int zeile) { setzen(spur, zeile, 0, 0); }
     void zeile_kopieren(int spur, int von, int nach);
-    /// Takes lap `zeile` of 1 to `letzte` off as a false crossing: its time goes to the row before, which closes with
-    /// the later stamp, and the rows behind move up.
-    void zeile_verschmelzen(int spur, int zeile, int letzte);
     /// Rows 0 to `letzte` of a lane of another store.
     void spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte);
 
@@ -40,6 +39,7 @@ private:
         spuren<zeit_ms> rundenzeit;
         spuren<zeit_ms> stempel;
         spuren<zeit_ms> pause;
+        spuren<bool> nachgetragen;
     };
 
     static bool gibt_es(int zeile) { return zeile >= 0 && zeile < zeilen_anzahl; }

@@ -56,11 +56,8 @@ void sektoren::zuruecksetzen() {
     }
 }
 
-zeit_ms sektoren::sektorzeit(int spur, int sektor, int zeile) const {
-    const zeilen& speicher = sektorzeiten_[spur];
-    return zeile < 0 || zeile >= static_cast<int>(speicher.size())
-               ? 0
-               : speicher[static_cast<std::size_t>(zeile)].at(static_cast<std::size_t>(sektor - 1));
+zeit_ms sektoren::sektorzeit(int spur, int sektor, int nummer) const {
+    return zeile(spur, nummer).at(static_cast<std::size_t>(sektor - 1));
 }
 
 void sektoren::sektorzeit(int spur, int sektor, int zeile, zeit_ms zeit) {
@@ -110,12 +107,18 @@ void sektoren::sektorzeit_verarbeiten(int spur, int sektor) {
     um_.sounds.spielen(sound::sektorzeit);
 }
 
-void sektoren::zeile_verschmelzen(int spur, int zeile, int letzte) {
-    for (int sektor = 1; sektor <= sektoren_max; ++sektor) {
-        sektorzeit(spur, sektor, zeile - 1, sektorzeit(spur, sektor, zeile - 1) + sektorzeit(spur, sektor, zeile));
-        for (int ziel = zeile; ziel <= letzte; ++ziel) {
-            sektorzeit(spur, sektor, ziel, ziel < letzte ? sektorzeit(spur, sektor, ziel + 1) : 0);
-        }
+sektoren::zeiten sektoren::zeile(int spur, int zeile) const {
+    const zeilen& speicher = sektorzeiten_[spur];
+    return zeile < 0 || zeile >= static_cast<int>(speicher.size()) ? zeiten{}
+                                                                   : speicher[static_cast<std::size_t>(zeile)];
+}
+
+void sektoren::runden_setzen(int spur, const std::vector<rennergebnis::runde>& runden, int laufende, bool begonnen) {
+    zeilen& speicher = sektorzeiten_[spur];
+    const zeiten unterwegs = begonnen ? zeiten{} : zeile(spur, laufende);
+    const std::size_t bis = std::max(runden.size(), static_cast<std::size_t>(std::max(laufende, 0)));
+    for (std::size_t i = 0; i <= bis && i < speicher.size(); ++i) {
+        speicher[i] = i < runden.size() ? runden[i].sektoren : i == runden.size() ? unterwegs : zeiten{};
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "race/rennergebnis.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
@@ -24,13 +25,17 @@ public:
     /// Time of sector 1 to 3 in ms, 0 for none; `zeile` as in the lap store.
     zeit_ms sektorzeit(int spur, int sektor, int zeile) const;
 
-    /// As `rundenspeicher::zeile_verschmelzen`.
-    void zeile_verschmelzen(int spur, int zeile, int letzte);
+    using zeiten = std::array<zeit_ms, 3>;
+    /// All three times of a row.
+    zeiten zeile(int spur, int zeile) const;
+    /// The lane has had these laps, row 0 first; it was in lap `laufende`, whose times so far are those of the lap that
+    /// it is in now, unless that one has only begun.
+    void runden_setzen(int spur, const std::vector<rennergebnis::runde>& runden, int laufende, bool begonnen);
     /// The sector times go with their drivers: lane i takes those of lane `herkunft[i]`, 0 leaves them.
     void fahrer_umsetzen(const spuren<int>& herkunft);
 
 private:
-    using zeilen = std::vector<std::array<zeit_ms, 3>>;
+    using zeilen = std::vector<zeiten>;
 
     void sektorzeit_verarbeiten(int spur, int sektor);
     void anzeigen(int spur, int sektor, zeit_ms zeit);

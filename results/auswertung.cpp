@@ -127,7 +127,7 @@ void auswertung::bedienung_einrichten() {
     Frame1.sichtbar(allein && v->fortsetzbar_bis() && !geht_von_selbst_weiter());
     tauschfahrzeug.gesetzt(um_.einst.fahrzeug_wechseln);
     trainingslabel.sichtbar(selbst_.was != schritt::keiner);
-    verlauf_zeigen(false);
+    zeigen(ansicht::stand);
     for (feld& eingabe : meter) {
         eingabe.text("0");
     }
@@ -165,6 +165,10 @@ void auswertung::auswertung_anzeigen() {
     }
     if (const rennergebnis::spur* erster = ergebnis().fuehrende(); erster != nullptr) {
         um_.quellen.melden<int, int>(&messquelle::platz, erster->nummer, 1);
+    }
+    korrekturen_anbieten();
+    if (nachtrag.Frame_nachtrag.sichtbar()) {
+        nachtrag_fuellen(nachtrag.spur(), nachtrag.runde());
     }
     verlauf_nachfuehren();
 }
@@ -229,6 +233,11 @@ std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t run
             zeile += "    S" + sektor + sektor_tempo_text(s.sektorlaenge.at(i), zeit, ergebnis().massstab) + " km/h";
         }
     }
+    if (s.runden[runde].nachgetragen) {
+        zeile += "    + " + wort_.nachgetragen;
+    } else if (!s.gemessen(runde)) {
+        zeile += "    (" + wort_.geteilt + ")";
+    }
     return zeile;
 }
 
@@ -256,7 +265,8 @@ void auswertung::nachzaehlen_beenden() {
 }
 
 bool auswertung::eingabe_offen() const {
-    return meter_eingabe_an_ || um_.fenster.ist_offen(fenstername::rundenspeichern) ||
+    return meter_eingabe_an_ || nachtrag.Frame_nachtrag.sichtbar() ||
+           um_.fenster.ist_offen(fenstername::rundenspeichern) ||
            um_.fenster.ist_offen(fenstername::beste_zeiten_fenster) || um_.fenster.ist_offen(fenstername::wiedergabe);
 }
 
@@ -293,10 +303,11 @@ void auswertung::selbstlauf_unterbrechen() {
     }
 }
 
-void auswertung::verlauf_zeigen(bool zeigen) {
-    Frame_stand.sichtbar(!zeigen);
-    Frame_verlauf.sichtbar(zeigen);
-    Command_verlauf.text(zeigen ? wort_.stand : wort_.verlauf);
+void auswertung::zeigen(ansicht was) {
+    Frame_stand.sichtbar(was == ansicht::stand);
+    Frame_verlauf.sichtbar(was == ansicht::verlauf);
+    nachtrag.Frame_nachtrag.sichtbar(was == ansicht::nachtrag);
+    Command_verlauf.text(was == ansicht::verlauf ? wort_.stand : wort_.verlauf);
     verlauf_nachfuehren();
 }
 

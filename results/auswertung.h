@@ -10,6 +10,7 @@
 #include "race/rennen.h"
 #include "results/beste_zeiten_fenster.h"
 #include "results/ergebnisworte.h"
+#include "results/rundennachtrag.h"
 #include "results/rundenspeichern.h"
 #include "results/rundenverlauf.h"
 #include "results/wertung.h"
@@ -59,20 +60,24 @@ public:
     je_spur<befehl> cmd_rd_inc;       ///< deletes the selected lap
     je_spur<befehl> cmd_rd_add;       ///< selects the next lap
 
-    bezeichnung kopf_label;  ///< what was driven, and when
-    rahmen Frame_stand;      ///< the lanes, and in their place
-    rahmen Frame_verlauf;    ///< the chart
-    befehl Command1;         ///< repeats the race
-    befehl Command2;         ///< starts a race with the drivers on their next lanes
-    befehl Command3;         ///< goes on, likewise
-    befehl Command4;         ///< saves under a name
-    befehl Command5;         ///< back to the main window
-    befehl Command6;         ///< begins and ends the entry of metres
-    befehl Command7;         ///< the competition waits
-    befehl Command8;         ///< deletes the selected lap
-    befehl Command9;         ///< best times
-    befehl Command10;        ///< evaluates anew
-    befehl Command_verlauf;  ///< chart or standing
+    bezeichnung kopf_label;     ///< what was driven, and when
+    rahmen Frame_stand;         ///< the lanes, and in their place
+    rahmen Frame_verlauf;       ///< the chart
+    befehl Command1;            ///< repeats the race
+    befehl Command2;            ///< starts a race with the drivers on their next lanes
+    befehl Command3;            ///< goes on, likewise
+    befehl Command4;            ///< saves under a name
+    befehl Command5;            ///< back to the main window
+    befehl Command6;            ///< begins and ends the entry of metres
+    befehl Command7;            ///< the competition waits
+    befehl Command8;            ///< deletes the selected lap
+    befehl Command9;            ///< best times
+    befehl Command10;           ///< evaluates anew
+    befehl Command_verlauf;     ///< chart or standing
+    befehl Command_nachtragen;  ///< opens the frame in which a lap is added
+    befehl Command_zurueck;     ///< the last correction, or the last that was taken back
+    befehl Command_wieder;
+    rundennachtrag nachtrag;  ///< in place of the standing
     befehl Command_drucken;
     befehl Command_pdf;
     befehl Command_wiedergabe;  ///< the race runs again
@@ -139,6 +144,7 @@ private:
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
         std::string abstand;     ///< explains the gap to the leader
         std::string gesamtzeit;  ///< and what the total time is
+        std::string zurueck, wieder, nachgetragen, geteilt, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
@@ -146,6 +152,7 @@ private:
     void befehle_verbinden();
     void spurbefehle_verbinden(std::size_t i);
     void tipps_eintragen(sprachliste& texte);
+    void korrekturtexte(sprachliste& texte);
     void ansagen_setzen();
     void bedienung_einrichten();
     void ziel_vorschlagen();
@@ -165,14 +172,24 @@ private:
     bool eingabe_offen() const;
     /// One second of the wait; true when it is over.
     bool wartezeit_vorbei(const std::string& wort);
-    void verlauf_zeigen(bool zeigen);
+    enum class ansicht { stand, verlauf, nachtrag };
+    void zeigen(ansicht was);
     void verlauf_nachfuehren();
 
     void Command6_klick();
     void meter_eingabe(bool an);
     /// Each entry is a number, and within its lane unless the operator insists.
     bool meter_pruefen();
+    void korrektur_beginnen();
     void runde_loeschen();
+    void korrekturen_anbieten();
+    std::string korrektur_text(const korrekturschritt& schritt) const;
+    void korrektur_zuruecknehmen();
+    void korrektur_wiederherstellen();
+    void nachtrag_oeffnen();
+    void nachtrag_fuellen(int spur, int runde);
+    offene_runden offene_runden_lesen() const;
+    void runde_nachtragen(const korrektur& k);
     void runde_loeschen_auf(std::size_t i);
     void anzeige_weiterschalten(std::size_t i);
 

@@ -4,7 +4,6 @@
 #include "core/text.h"
 #include "core/wechselschema.h"
 #include "core/weitergeben.h"
-#include "core/zahleneingabe.h"
 #include "results/auswertung.h"
 
 namespace tarvel {
@@ -33,7 +32,13 @@ void auswertung::befehle_verbinden() {
     Command8.bei_klick = [this] { runde_loeschen(); };
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
     Command10.bei_klick = [this] { auswertung_anzeigen(); };
-    Command_verlauf.bei_klick = [this] { verlauf_zeigen(!Frame_verlauf.sichtbar()); };
+    Command_nachtragen.bei_klick = [this] { nachtrag_oeffnen(); };
+    Command_zurueck.bei_klick = [this] { korrektur_zuruecknehmen(); };
+    Command_wieder.bei_klick = [this] { korrektur_wiederherstellen(); };
+    nachtrag.Command_abbrechen.bei_klick = [this] { zeigen(ansicht::stand); };
+    nachtrag.eintragen = [this](const korrektur& k) { runde_nachtragen(k); };
+    nachtrag.ohne_wahl = [this] { um_.meldungen.zeigen(wort_.nachtrag_waehlen, um_.txt.titel[0]); };
+    Command_verlauf.bei_klick = [this] { zeigen(Frame_verlauf.sichtbar() ? ansicht::stand : ansicht::verlauf); };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
     Command_wiedergabe.bei_klick = [this] {
@@ -73,103 +78,6 @@ void auswertung::anzeige_weiterschalten(std::size_t i) {
     if (const rennergebnis::spur* s = ergebnis().auf(static_cast<int>(i) + 1); s != nullptr) {
         rundenliste_schreiben(*s);
     }
-}
-
-void auswertung::Command6_klick() {
-    if (meter_eingabe_an_) {
-        if (meter_pruefen()) {
-            meter_eingabe_uebernehmen();
-        }
-    } else {
-        verlauf_zeigen(false);
-        meter_eingabe(true);
-    }
-}
-
-void auswertung::meter_eingabe(bool an) {
-    meter_eingabe_an_ = an;
-    Command6.text(an ? wort_.fertig : wort_.meter_eingeben);
-    for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command10,
-                          &Command_verlauf, &Command_drucken, &Command_pdf, &Command_wiedergabe}) {
-        knopf->aktiviert(!an);
-    }
-    Command9.aktiviert(!an && um_.einst.beste_modus != bestzeit_speicherung::aus);
-    for (const int spur : alle_spuren) {
-        const std::size_t i = feld_index(spur);
-        cmd_rd_inc[i].aktiviert(!an);
-        meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
-        const rennergebnis::spur* s = ergebnis().auf(spur);
-        const double bisher = s == nullptr ? 0 : s->restmeter;  // what is typed now comes on top
-        meter_label[i].text(wort_.restmeter + (bisher == 0 ? "" : " " + zahl_text(bisher, ',') + " +"));
-        meter_label[i].sichtbar(meter[i].sichtbar());
-        ges_meter[i].sichtbar(!an);
-    }
-    if (const rennergebnis::spur* erster = ergebnis().fuehrende(); an && erster != nullptr) {
-        meter.at(feld_index(erster->nummer)).fokus_setzen();
-    }
-}
-
-bool auswertung::meter_pruefen() {
-    const auto stand = ergebnis().spuren;  // a late crossing makes the result anew behind a message
-    for (const rennergebnis::spur& s : stand) {
-        feld& eingabe = meter.at(feld_index(s.nummer));
-        std::string text = eingabe.text();
-        werte_pruefen2(text);
-        const double gesamt = s.restmeter + zahl_lesen(text);
-        const double laenge_m = um_.param.spurlaenge[s.nummer];
-        const auto nennen = [&](const std::string& was) { return eingabe.ansage() + ": " + was; };
-        bool gut = true;
-        if (!ist_zahl(text)) {
-            um_.meldungen.zeigen(nennen(wort_.keine_zahl), um_.txt.titel[1]);
-            gut = false;
-        } else if (zahl_lesen(text) > 0 && gesamt > laenge_m && !s.disqualifiziert) {
-            gut = um_.meldungen.fragen(nennen(zahl_text(gesamt, ',') + " m. " + wort_.zu_viele_meter + " " +
-                                              zahl_text(laenge_m, ',') + " m. " + wort_.trotzdem),
-                                       um_.txt.titel[0]);
-        }
-        if (!gut) {
-            eingabe.fokus_setzen();
-            return false;
-        }
-    }
-    return true;
-}
-
-void auswertung::meter_eingabe_uebernehmen() {
-    if (!meter_eingabe_an_) {
-        return;
-    }
-    for (const int spur : alle_spuren) {
-        feld& eingabe = meter.at(feld_index(spur));
-        if (um_.param.spur_aktiv[spur]) {
-            std::string text = eingabe.text();
-            werte_pruefen2(text);
-            u_.stand.restmeter_zuschlagen(spur, zahl_lesen(text));
-        }
-        eingabe.text("0");
-    }
-    auswertung_anzeigen();
-    meter_eingabe(false);
-}
-
-void auswertung::runde_loeschen_auf(std::size_t i) {
-    gewaehlte_spur_ = static_cast<int>(i) + 1;
-    runde_loeschen();
-}
-
-void auswertung::runde_loeschen() {
-    for (const auto& blinken : beste_blink_timer_) {
-        blinken->aus();
-    }
-    selbstlauf_unterbrechen();
-    verlauf_zeigen(false);  // the laps are in the lists
-    const int runde = gewaehlte_spur_ == 0 ? 0 : liste.at(feld_index(gewaehlte_spur_)).markiert() + 1;
-    if (runde < 1 || !u_.stand.runde_loeschen(gewaehlte_spur_, runde)) {
-        um_.meldungen.zeigen(wort_.runde_waehlen, um_.txt.titel[0]);
-        return;
-    }
-    auswertung_anzeigen();
-    bestzeiten_pruefen();
 }
 
 void auswertung::ausfuehren(aktion was) {
@@ -213,6 +121,7 @@ bool auswertung::ergebnis_abgeben(weitergang wie) {
 }
 
 void auswertung::rennen_verlassen() {
+    u_.stand.festschreiben();
     um_.fenster.entladen(fenstername::beste_zeiten_fenster);
     um_.fenster.entladen(fenstername::auswertung);
     um_.ausgaben.ruhezustand();

@@ -52,8 +52,27 @@ sprachliste auswertung::sprache_a() {
     texte.text("Alle Runden zusammen, von der ersten Überfahrt der Spur an, mit den Strafzeiten", wort_.gesamtzeit);
     texte.text("Hier steht keine Zahl.", wort_.keine_zahl).text("Die Spur ist nur so lang:", wort_.zu_viele_meter);
     texte.text("Trotzdem eintragen?", wort_.trotzdem);
-    texte.text("Weiter in:", wort_.weiter_in).text("Wiedergabe", Command_wiedergabe);
-    return texte.tipp("Das Rennen noch einmal auf dem Rennbildschirm ablaufen lassen", Command_wiedergabe);
+    texte.text("Weiter in:", wort_.weiter_in);
+    texte.text("Wiedergabe", Command_wiedergabe);
+    texte.tipp("Das Rennen noch einmal auf dem Rennbildschirm ablaufen lassen", Command_wiedergabe);
+    korrekturtexte(texte);
+    return texte;
+}
+
+void auswertung::korrekturtexte(sprachliste& texte) {
+    texte.text("Rückgängig", Command_zurueck).text("Wiederherstellen", Command_wieder);
+    texte.text("Runde nachtragen", Command_nachtragen);
+    texte.tipp(
+        "Eine Überfahrt, die nicht gezählt wurde, zählt doch, oder eine Runde wird geteilt, weil der Sensor "
+        "eine Überfahrt verpasst hat",
+        Command_nachtragen);
+    texte.text("Nimmt die letzte Korrektur zurück (Strg+Z)", wort_.zurueck);
+    texte.text("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", wort_.wieder);
+    texte.text("nachgetragen", wort_.nachgetragen).text("Rest", wort_.geteilt);
+    texte.text("Bitte auswählen, was nachgetragen werden soll.", wort_.nachtrag_waehlen);
+    texte.text("Das geht nicht: Diese Runde läge hinter dem Ziel.", wort_.hinter_dem_ziel);
+    texte.text("nachgetragene Runde", diagramm.nachgetragen).text("nachgetragen:", blatt.nachgetragen);
+    nachtrag.sprache(texte);
 }
 
 void auswertung::tipps_eintragen(sprachliste& texte) {
@@ -92,6 +111,8 @@ void auswertung::ansagen_setzen() {
         cmd_rd_add[i].text("▼");
         cmd_rd_inc[i].text("✕");
     }
+    nachtrag.cbo_nachtrag.ansage(nachtrag.Label_nachtrag_spur.text());
+    nachtrag.angebote.ansage(nachtrag.Label_nachtrag.text());
     neues_ziel.ansage(Command3.text() + " " + Label_bis.text());
 }
 

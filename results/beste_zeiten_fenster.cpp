@@ -55,6 +55,9 @@ spuren<spur_angebot> bestzeit_angebote(const rennergebnis& ergebnis) {
         angebot.beste = davor == 0 ? s.beste : 0;
         for (auto runde = static_cast<std::size_t>(davor) + 1; runde < s.runden.size(); ++runde) {
             const zeit_ms zeit = s.runden[runde].zeit;
+            if (!s.gemessen(runde)) {
+                continue;
+            }
             angebot.runden.push_back(zeit);
             if (davor > 0 && zeit > 0 && (angebot.beste == 0 || zeit < angebot.beste)) {
                 angebot.beste = zeit;

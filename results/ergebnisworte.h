@@ -11,8 +11,9 @@ struct diagramm_worte {
     std::string achse_runde;
     std::string achse_zeit;  ///< with its unit
     std::string beste;
-    std::string pause;  ///< a lap with a pause
-    std::string lang;   ///< a lap that is longer than the chart is high
+    std::string pause;         ///< a lap with a pause
+    std::string nachgetragen;  ///< a lap that was added, in a result that can have one
+    std::string lang;          ///< a lap that is longer than the chart is high
     std::string ohne_runden;
     std::string leer;  ///< stands in place of the chart
 
@@ -30,7 +31,8 @@ struct blatt_worte {
     std::string gesamtzeit;
     std::string abstand;
     std::string beste;
-    std::string tempo;  ///< of the best lap and on average
+    std::string nachgetragen;  ///< stands before the number of laps that were added
+    std::string tempo;         ///< of the best lap and on average
 
     /// But for the captions that the result window has too: these it sets itself.
     sprachliste& eintragen(sprachliste& texte);

@@ -10,9 +10,10 @@ namespace tarvel {
 
 /// A lap as the chart shows it.
 struct verlaufsrunde {
-    int runde = 0;      ///< from 1
-    zeit_ms zeit = 0;   ///< always above 0
-    zeit_ms pause = 0;  ///< has come off `zeit` already; 0 for a lap without a pause
+    int runde = 0;              ///< from 1
+    zeit_ms zeit = 0;           ///< always above 0
+    zeit_ms pause = 0;          ///< has come off `zeit` already; 0 for a lap without a pause
+    bool nachgetragen = false;  ///< added by the race director, or what is left of the lap that it was cut from
 
     bool operator==(const verlaufsrunde&) const = default;
 };

@@ -1,8 +1,8 @@
 #include "results/wertung.h"
 
 #include <algorithm>
-
-#include "results/platzierung.h"
+#include <iterator>
+#include <utility>
 
 namespace tarvel {
 
@@ -34,41 +34,83 @@ void wertung::meter_auswerten() {
     }
 }
 
-void wertung::restmeter_zuschlagen(int spur, double meter) {
-    if (!um_.zustand.spur[spur].disqualifiziert) {
-        stand_[spur].restmeter += meter;
+void wertung::zuruecksetzen() {
+    stand_.fuellen({});
+    korrekturen_.leeren();
+}
+
+bool wertung::korrigieren(const korrekturschritt& schritt) {
+    korrekturschritt passende;
+    std::copy_if(schritt.begin(), schritt.end(), std::back_inserter(passende),
+                 [this](const korrektur& k) { return tarvel::korrigieren(ergebnis_, k); });
+    if (passende.empty()) {
+        return false;
+    }
+    protokollieren("", passende);
+    korrekturen_.anfuegen(std::move(passende));
+    auswerten();
+    return true;
+}
+
+bool wertung::zuruecknehmen() {
+    const korrekturschritt* weg = korrekturen_.zuruecknehmen();
+    if (weg != nullptr) {
+        protokollieren("zurück", {weg->rbegin(), weg->rend()});
+        auswerten();
+    }
+    return weg != nullptr;
+}
+
+bool wertung::wiederherstellen() {
+    const korrekturschritt* wieder = korrekturen_.wiederherstellen();
+    if (wieder != nullptr) {
+        protokollieren("wieder", *wieder);
+        auswerten();
+    }
+    return wieder != nullptr;
+}
+
+void wertung::protokollieren(std::string_view wie, const korrekturschritt& schritt) const {
+    for (const korrektur& k : schritt) {
+        um_.protokoll.kopfzeile(korrekturzeile(wie, k));
     }
 }
 
-bool wertung::runde_loeschen(int spur, int runde) {
-    const int letzte = um_.zustand.konto.runden(spur);
-    if (!um_.zustand.konto.verschmelzen(spur, runde)) {
-        return false;
+void wertung::festschreiben() {
+    auswerten();
+    for (const korrekturschritt& schritt : korrekturen_.geltende()) {
+        for (const korrektur& k : schritt) {
+            r_.rundenkorrektur.uebernehmen(k);
+        }
     }
-    sektoren_.zeile_verschmelzen(spur, runde, letzte);
-    auto& meter_je_runde = stand_[spur].runden;
-    if (static_cast<std::size_t>(runde) <= meter_je_runde.size()) {
-        meter_je_runde.erase(meter_je_runde.begin() + runde - 1);
+    for (const rennergebnis::spur& s : ergebnis_.spuren) {
+        meter_fortsetzung& stand = stand_[s.nummer];
+        stand = {{}, s.restmeter};
+        for (std::size_t i = 1; i < s.runden.size(); ++i) {
+            stand.runden.push_back(s.runden[i].meter);
+        }
     }
-    return true;
+    korrekturen_.leeren();
 }
 
 void wertung::auswerten() {
     disqualifizierte_streichen();
     meter_auswerten();  // the places may go by the metres
-    ergebnis_ = kopf_bilden();
+    rennergebnis gefahren = kopf_bilden();
     for (const int spur : alle_spuren) {
-        ergebnis_.rundenzeilen = std::max(ergebnis_.rundenzeilen, um_.zustand.konto.laufende(spur));
         if (um_.param.spur_aktiv[spur]) {
-            ergebnis_.spuren.push_back(spur_bilden(spur));
+            gefahren.spuren.push_back(spur_bilden(spur));
+        } else {
+            gefahren.rundenzeilen = std::max(gefahren.rundenzeilen, um_.zustand.konto.laufende(spur));
         }
     }
-    platzieren(ergebnis_);
+    ergebnis_ = korrekturen_.angewandt(std::move(gefahren));
 }
 
 rennergebnis wertung::kopf_bilden() const {
     rennergebnis neu;
     neu.ziel = um_.param.renn_ziel;
+    neu.zeit_um = zeit_um(um_);
     neu.wertung = um_.param.auswertung_nach_rennen;
     neu.vorzeitig = um_.zustand.rennabbruch;
     const std::string& ende = um_.zustand.rennen_ende_uhrzeit;
@@ -113,12 +155,14 @@ rennergebnis::spur wertung::spur_bilden(int spur) const {
 }
 
 rennergebnis::runde wertung::runde_bilden(int spur, int runde) const {
-    const rundenkonto& konto = um_.zustand.konto;
-    rennergebnis::runde neu{konto.rundenzeit(spur, runde), {}, konto.pause(spur, runde)};
+    rennergebnis::runde neu = um_.zustand.konto.runde(spur, runde);
     for (std::size_t i = 0; runde > 0 && i < neu.sektoren.size(); ++i) {
         if (um_.einst.sektor_an.at(i + 1)) {
-            neu.sektoren.at(i) = sektoren_.sektorzeit(spur, static_cast<int>(i) + 1, runde);
+            neu.sektoren.at(i) = r_.sektoren.sektorzeit(spur, static_cast<int>(i) + 1, runde);
         }
+    }
+    if (runde > 0) {
+        neu.meter = stand_[spur].runden[static_cast<std::size_t>(runde) - 1];
     }
     return neu;
 }

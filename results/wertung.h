@@ -5,22 +5,27 @@
 
 #include "race/rennen.h"
 #include "race/rennergebnis.h"
+#include "results/korrekturliste.h"
 
 namespace tarvel {
 
-/// Makes the result from what the race left behind, with the race director's corrections.
+/// Makes the result from what the race left behind, and from that the one with the race director's corrections.
 class wertung {
 public:
-    explicit wertung(rennen& r) : um_(r.umgebung), sektoren_(r.sektoren) {}
+    explicit wertung(rennen& r) : r_(r), um_(r.umgebung) {}
 
     /// Nothing of the race before counts.
-    void zuruecksetzen() { stand_.fuellen({}); }
+    void zuruecksetzen();
     /// The metres go with their drivers: lane i takes those of lane `herkunft[i]`, 0 leaves them.
     void fahrer_umsetzen(const spuren<int>& herkunft);
-    /// Metres that a car has come beyond its last lap.
-    void restmeter_zuschlagen(int spur, double meter);
-    /// Takes lap `runde` off as a false crossing: its time is part of the lap before it. False if there is no such lap.
-    bool runde_loeschen(int spur, int runde);
+    /// Corrects the result; what does not fit is left out. False if nothing is left.
+    bool korrigieren(const korrekturschritt& schritt);
+    /// The last correction counts no more, or again. False if there is none.
+    bool zuruecknehmen();
+    bool wiederherstellen();
+    const korrekturliste& korrekturen() const { return korrekturen_; }
+    /// The race has the corrections from here on, and none can be taken back.
+    void festschreiben();
 
     /// Makes the result anew.
     void auswerten();
@@ -35,15 +40,17 @@ private:
         double meter() const { return std::accumulate(runden.begin(), runden.end(), restmeter); }
     };
 
+    void protokollieren(std::string_view wie, const korrekturschritt& schritt) const;
     void disqualifizierte_streichen();
     void meter_auswerten();
     rennergebnis kopf_bilden() const;
     rennergebnis::spur spur_bilden(int spur) const;
     rennergebnis::runde runde_bilden(int spur, int runde) const;
 
+    rennen& r_;
     const renn_umgebung& um_;
-    sektoren& sektoren_;
     spuren<meter_fortsetzung> stand_;
+    korrekturliste korrekturen_;
     rennergebnis ergebnis_;
 };
 

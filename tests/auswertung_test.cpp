@@ -157,8 +157,9 @@ TEST_F(Auswertung, FortgesetztStehenDiePlaetzeSofortNachDenRunden) {
     a.spurwechsel.gesetzt(false);
     zwei_spuren_fahren("Zeit", "1");
     t.bahn().Command4.klicken();
-    t.p.wertung.runde_loeschen(1, 3);
-    t.p.wertung.runde_loeschen(1, 2);
+    for (const int runde : {3, 2}) {
+        t.p.wertung.korrigieren({{.was = korrektur::art::geloescht, .spur = 1, .runde = runde}});
+    }
     a.Command3.klicken();
     EXPECT_EQ(t.bahn().l_PosAnz[0].text() + t.bahn().l_PosAnz[1].text(), "21");
 }

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/uhr.h"
+
+namespace tarvel {
+
+/// Finds the best of a lane's laps, which are told in their order. A crossing that was added later makes no lap faster:
+/// what counts is the time between two crossings that were measured.
+class bestensuche {
+public:
+    /// Whether the crossing at which lap 1 begins was added, too.
+    explicit bestensuche(bool beginn_nachgetragen) : gemessen_(!beginn_nachgetragen) {}
+
+    void runde(zeit_ms zeit, bool nachgetragen) {
+        spanne_ += zeit;
+        if (nachgetragen) {
+            return;
+        }
+        if (gemessen_ && (!gefunden_ || (spanne_ > 0 && spanne_ < beste_))) {  // the first counts, whatever it is
+            beste_ = spanne_;
+            gefunden_ = true;
+        }
+        gemessen_ = true;
+        spanne_ = 0;
+    }
+    /// 0 without a lap that was measured.
+    zeit_ms beste() const { return beste_; }
+
+private:
+    bool gemessen_;  ///< so was the crossing at which the span begins
+    bool gefunden_ = false;
+    zeit_ms spanne_ = 0;
+    zeit_ms beste_ = 0;
+};
+
+}  // namespace tarvel
