@@ -3,7 +3,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QSet>
+#include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "ui/blattausgabe.h"
 #include "ui/stil.h"
@@ -31,11 +34,13 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     aufbau->addWidget(kopf);
     aufbau->addWidget(standfeld(ablage), 1);
     aufbau->addWidget(verlaufsfeld(), 1);
+    aufbau->addWidget(nachtragsfeld(), 1);
     aufbau->addLayout(korrekturzeile());
     aufbau->addLayout(wegezeile());
     logik.drucken = [this] { drucken(); };
     logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
     logik.verlauf_zeichnen = [this] { diagramm_->setInhalt(bildinhalt()); };
+    kuerzel_einrichten();
     setMinimumSize(760, 420);
     resize(1180, 760);
 }
@@ -59,6 +64,40 @@ QWidget* AuswertungFenster::verlaufsfeld() {
     diagramm_ = new Rundendiagramm(this);
     binder().verbinden(logik_.Frame_verlauf, diagramm_, "Frame_verlauf", {});
     return diagramm_;
+}
+
+QWidget* AuswertungFenster::nachtragsfeld() {
+    rundennachtrag& n = logik_.nachtrag;
+    QGroupBox* feld = binder().gruppe(n.Frame_nachtrag, "Frame_nachtrag");
+    auto* aufbau = new QVBoxLayout(feld);
+    auto* oben = new QHBoxLayout;
+    oben->setSpacing(8);
+    oben->addWidget(binder().label(n.Label_nachtrag_spur, "Label_nachtrag_spur"));
+    oben->addWidget(binder().auswahlfeld(n.cbo_nachtrag, "cbo_nachtrag"));
+    oben->addStretch(1);
+    aufbau->addLayout(oben);
+    aufbau->addWidget(stil::leise(binder().label(n.Label_nachtrag, "Label_nachtrag")));
+    aufbau->addWidget(binder().listenfeld(n.angebote, "angebote"), 1);
+    auto* unten = new QHBoxLayout;
+    unten->setSpacing(8);
+    unten->addStretch(1);
+    unten->addWidget(binder().knopf(n.Command_eintragen, "Command_eintragen"));
+    unten->addWidget(binder().knopf(n.Command_abbrechen, "Command_abbrechen"));
+    aufbau->addLayout(unten);
+    return feld;
+}
+
+void AuswertungFenster::kuerzel_einrichten() {
+    for (const auto& [tasten, knopf] : {std::pair(QKeySequence::Undo, &logik_.Command_zurueck),
+                                        std::pair(QKeySequence::Redo, &logik_.Command_wieder)}) {
+        QList<QKeySequence> folgen = QKeySequence::keyBindings(tasten);
+        folgen.append(tasten == QKeySequence::Undo ? QKeySequence(Qt::CTRL | Qt::Key_Z)
+                                                   : QKeySequence(Qt::CTRL | Qt::Key_Y));
+        for (const QKeySequence& folge : QSet<QKeySequence>(folgen.begin(), folgen.end())) {
+            auto* kuerzel = new QShortcut(folge, this);
+            QObject::connect(kuerzel, &QShortcut::activated, this, [k = knopf] { k->klicken(); });
+        }
+    }
 }
 
 rundenbild_inhalt AuswertungFenster::bildinhalt() const {
@@ -94,6 +133,9 @@ QLayout* AuswertungFenster::korrekturzeile() {
     };
     knopf(logik_.Command6, "Command6");
     knopf(logik_.Command8, "Command8");
+    knopf(logik_.Command_nachtragen, "Command_nachtragen");
+    knopf(logik_.Command_zurueck, "Command_zurueck");
+    knopf(logik_.Command_wieder, "Command_wieder");
     knopf(logik_.Command10, "Command10");
     knopf(logik_.Command9, "Command9");
     zeile->addStretch(1);

@@ -23,6 +23,8 @@ protected:
 private:
     QWidget* standfeld(const dateien& ablage);
     QWidget* verlaufsfeld();
+    QWidget* nachtragsfeld();
+    void kuerzel_einrichten();
     rundenbild_inhalt bildinhalt() const;
     ergebnisblatt blatt_bilden() const;
     void drucken();

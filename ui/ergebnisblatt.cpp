@@ -14,8 +14,13 @@ QString wort_von(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+QString nachgetragen(const rennergebnis::spur& s, const blatt_worte& wort) {
+    const int anzahl = s.nachgetragene();
+    return anzahl == 0 ? QString() : wort_von(wort.nachgetragen) + " " + QString::number(anzahl);
+}
+
 ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebnis::spur& s,
-                                  const std::string& strafzeit, const rundenbild_inhalt& bild) {
+                                  const blatt_beschriftung& beschriftung, const rundenbild_inhalt& bild) {
     namespace text = ergebnistext;
     const trennzeichen_tabelle& trennzeichen = bild.trennzeichen;
     // what a lane without a lap is behind by, or its best lap of nothing, would only puzzle the reader
@@ -26,9 +31,9 @@ ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebn
             {{QString::number(s.platz.value_or(0)) + ".", {}},
              {QString::number(s.nummer), {}},
              {wort_von(s.fahrer), wort_von(s.fahrzeug)},
-             {wort_von(text::runden(s)), {}},
+             {wort_von(text::runden(s)), nachgetragen(s, beschriftung.wort)},
              {zahl(text::meter(s)), {}},
-             {zahl(text::zeit(s, trennzeichen)), wort_von(text::strafe(s, strafzeit))},
+             {zahl(text::zeit(s, trennzeichen)), wort_von(text::strafe(s, beschriftung.strafzeit))},
              {zahl(text::abstand(ergebnis, s, trennzeichen)), {}},
              {zahl(text::beste(s, trennzeichen)), {}},
              {zahl(text::tempo(s)), {}}}};
@@ -54,7 +59,7 @@ ergebnisblatt ergebnisblatt_bilden(const rennergebnis& ergebnis, const blatt_bes
     std::vector<rennergebnis::spur> folge = ergebnis.spuren;
     std::stable_sort(folge.begin(), folge.end(), [](const auto& a, const auto& b) { return a.platz < b.platz; });
     for (const rennergebnis::spur& s : folge) {
-        blatt.zeilen.push_back(zeile_bilden(ergebnis, s, beschriftung.strafzeit, blatt.bild));
+        blatt.zeilen.push_back(zeile_bilden(ergebnis, s, beschriftung, blatt.bild));
     }
     return blatt;
 }

@@ -134,10 +134,14 @@ void Rundenbild::spur_bauen(const spur_verlauf& lauf, std::vector<rundensymbol>&
 
     std::vector<verlaufsrunde> pausen;
     std::vector<verlaufsrunde> lange;
+    std::vector<verlaufsrunde> nachgetragene;
     for (const verlaufsrunde& runde : lauf.runden) {
         const bool lang = sekunden(runde.zeit) > y_->max();
         if (runde.runde == lauf.beste) {
             symbole.push_back({symbolform::beste, wert(runde), farbe, zeit_text(runde.zeit)});
+        }
+        if (runde.nachgetragen && !lang) {
+            nachgetragene.push_back(runde);
         }
         if (lang) {
             lange.push_back(runde);
@@ -149,6 +153,9 @@ void Rundenbild::spur_bauen(const spur_verlauf& lauf, std::vector<rundensymbol>&
     }
     for (const verlaufsrunde& runde : ausgeduennt(pausen, symbole_je_spur)) {
         symbole.push_back({symbolform::pause, wert(runde), farbe, {}});
+    }
+    for (const verlaufsrunde& runde : ausgeduennt(nachgetragene, symbole_je_spur)) {
+        symbole.push_back({symbolform::nachgetragen, wert(runde), farbe, {}});
     }
     for (const verlaufsrunde& runde : ausgeduennt(lange, symbole_je_spur)) {
         symbole.push_back({symbolform::lang, wert(runde), farbe, zeit_text(runde.zeit)});
@@ -165,9 +172,11 @@ void Rundenbild::legende_bauen(const std::vector<rundensymbol>& symbole) {
         }
         eintraege.push_back(eintrag);
     }
-    const std::array<std::pair<symbolform, std::string>, 3> zeichen{{{symbolform::beste, inhalt_.wort.beste},
-                                                                     {symbolform::pause, inhalt_.wort.pause},
-                                                                     {symbolform::lang, inhalt_.wort.lang}}};
+    const std::array<std::pair<symbolform, std::string>, 4> zeichen{
+        {{symbolform::beste, inhalt_.wort.beste},
+         {symbolform::nachgetragen, inhalt_.wort.nachgetragen},
+         {symbolform::pause, inhalt_.wort.pause},
+         {symbolform::lang, inhalt_.wort.lang}}};
     for (const auto& [was, wort] : zeichen) {
         if (std::any_of(symbole.begin(), symbole.end(), [f = was](const rundensymbol& s) { return s.was == f; })) {
             eintraege.push_back({QString::fromStdString(wort), {}, stil::schrift_leise, was});
@@ -215,6 +224,9 @@ QString Rundenbild::runde_bei(const QPointF& ort) {
                 text = QString("%1\n%2 %3: %4")
                            .arg(QString::fromStdString(lauf.fahrer), QString::fromStdString(inhalt_.wort.achse_runde),
                                 QString::number(runde.runde), zeit_text(runde.zeit));
+                if (runde.nachgetragen) {
+                    text += "\n" + QString::fromStdString(inhalt_.wort.nachgetragen);
+                }
                 if (runde.pause > 0) {
                     text += QString("\n%1: %2")
                                 .arg(QString::fromStdString(inhalt_.wort.pause),

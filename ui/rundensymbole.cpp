@@ -46,6 +46,11 @@ void symbol_zeichnen(QPainter& maler, symbolform was, const QPointF& mitte, doub
             maler.setBrush(stil::karte);
             maler.drawPolygon(QPolygonF({mitte - unten, mitte + rechts, mitte + unten, mitte - rechts}));
             break;
+        case symbolform::nachgetragen:
+            maler.drawRect(QRectF(mitte - rechts - unten, mitte + rechts + unten));
+            maler.drawLine(mitte - rechts, mitte + rechts);
+            maler.drawLine(mitte - unten, mitte + unten);
+            break;
         case symbolform::lang:
             maler.drawPolygon(QPolygonF({mitte - unten, mitte + rechts + unten, mitte - rechts + unten}));
             break;

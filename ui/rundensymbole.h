@@ -8,7 +8,7 @@
 namespace tarvel::ui {
 
 /// In the order in which they are drawn: a best lap with a pause shows both.
-enum class symbolform { punkt, lang, beste, pause };
+enum class symbolform { punkt, lang, nachgetragen, beste, pause };
 
 /// A lap that the chart points out.
 struct rundensymbol {

@@ -178,6 +178,40 @@ const std::vector<szeneneintrag> alle{
          b.t.maschine.laufen(100);
          return *b.o.wiedergabe;
      }},
+    {"auswertung_nachtragen",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.wertmin.eingeben("5");
+         b.rundenrennen(40000, "14", {1, 2, 3, 4, 5, 6});
+         for (int mal = 0; mal < 4; ++mal) {
+             b.t.taste("1");
+             b.fahren(1300);
+         }
+         b.fahren(100000);
+         b.p.auswertung.liste[0].auswaehlen(4);
+         b.p.auswertung.Command_nachtragen.klicken();
+         return b.o.auswertung;
+     }},
+    {"auswertung_nachgetragen",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         for (const std::size_t spur : {0U, 3U}) {
+             b.p.auswertung.liste.at(spur).auswaehlen(5);
+             b.p.auswertung.Command_nachtragen.klicken();
+             b.p.auswertung.nachtrag.Command_eintragen.klicken();
+         }
+         b.p.auswertung.Command_zurueck.klicken();
+         b.p.auswertung.Command_wieder.klicken();
+         return b.o.auswertung;
+     }},
+    {"rundenverlauf_nachgetragen",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.liste[0].auswaehlen(5);
+         b.p.auswertung.Command_nachtragen.klicken();
+         b.p.auswertung.nachtrag.Command_eintragen.klicken();
+         b.p.auswertung.Command_verlauf.klicken();
+         return b.o.auswertung;
+     }},
     {"rundenverlauf",
      [](buehne& b) -> QWidget& {
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
