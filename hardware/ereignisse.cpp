@@ -63,6 +63,8 @@ void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
         case eingang::melden:
             if (zweites >= gilt_ab) {
                 setzen(nummer, zweites);
+            } else {
+                verwerfen(nummer, zweites, pausen_anzahl_ > 0 ? verwurf::pause : verwurf::vor_dem_start);
             }
             break;
         case eingang::setzen:
@@ -87,16 +89,35 @@ void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
             chaos_at_zaehler = static_cast<int>(erstes);
             break;
         case eingang::zeile:
-            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, protokoll_stempel(w[4]), protokoll_stempel(w[5])};
+            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, protokoll_stempel(w[4]), protokoll_stempel(w[5]), false};
             break;
     }
 }
 
-void ereignis_tabelle::setzen(ereignis_art nummer, zeit_ms stempel) {
+void ereignis_tabelle::setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben) {
+    if (steht_seit_) {  // no tick has taken what was there
+        zeile_verwerfen(nummer);
+    }
     ereignis_zeile& zeile = (*this)[nummer];
     zeile.ereignis_zeit = stempel;
-    zeile.verschoben = 0;
+    zeile.verschoben = verschoben;
     zeile.aktiv = true;
+    zeile.vorgemerkt = false;
+}
+
+void ereignis_tabelle::verwerfen(ereignis_art nummer, zeit_ms stempel, verwurf grund) const {
+    const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer);
+    if (lauf != art::rundenzaehlung.end() && verworfen) {
+        verworfen(static_cast<int>(lauf - art::rundenzaehlung.begin()) + 1, stempel, grund);
+    }
+}
+
+void ereignis_tabelle::zeile_verwerfen(ereignis_art nummer) {
+    ereignis_zeile& zeile = (*this)[nummer];
+    if (zeile.aktiv && !zeile.vorgemerkt) {
+        verwerfen(nummer, zeile.ereignis_zeit, steht_seit_ ? verwurf::pause : verwurf::vor_dem_start);
+    }
+    zeile.aktiv = false;
 }
 
 std::optional<zeit_ms> ereignis_tabelle::verschiebung(zeit_ms stempel) const {
@@ -115,6 +136,7 @@ std::optional<zeit_ms> ereignis_tabelle::verschiebung(zeit_ms stempel) const {
 void ereignis_tabelle::ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel) {
     const std::optional<zeit_ms> um = verschiebung(stempel);
     if (!um) {
+        verwerfen(nummer, stempel, verwurf::pause);
         return;
     }
     const zeit_ms verschoben = *um;
@@ -122,9 +144,7 @@ void ereignis_tabelle::ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel
     ereignis_zeile& zeile = (*this)[nummer];
     const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer);
     if (lauf == art::rundenzaehlung.end() || !steht_seit_ || stempel >= *steht_seit_) {
-        zeile.ereignis_zeit = stempel;
-        zeile.verschoben = verschoben;
-        zeile.aktiv = true;
+        setzen(nummer, stempel, verschoben);
         return;
     }
     schlange& wartende = schlangen_[static_cast<int>(lauf - art::rundenzaehlung.begin()) + 1];
@@ -224,7 +244,7 @@ void ereignis_tabelle::vergessen() {
 
 void ereignis_tabelle::rundenzaehlung_leeren() {
     for (const ereignis_art nummer : art::rundenzaehlung) {
-        (*this)[nummer].aktiv = false;
+        zeile_verwerfen(nummer);
     }
     for (schlange& s : schlangen_) {
         s.anzahl = steht_seit_ ? s.anzahl : 0;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <span>
@@ -58,8 +59,12 @@ struct ereignis_zeile {
     bool pegel = false;       ///< level read in this poll
     bool pegel_ruhe = false;  ///< rest level of the line, taken when the race gets ready
     zeit_ms ereignis_zeit = 0;
-    zeit_ms verschoben = 0;  ///< of that, to behind the pause that it lies before
+    zeit_ms verschoben = 0;   ///< of that, to behind the pause that it lies before
+    bool vorgemerkt = false;  ///< the race has taken note of it, though it still waits
 };
+
+/// Why a crossing is forgotten before the race has counted.
+enum class verwurf { pause, vor_dem_start };
 
 class ereignis_tabelle {
 public:
@@ -114,6 +119,9 @@ public:
     /// A waiting crossing of lane 3 is one of lane 1 too, and one of lane 4 is one of lane 2.
     void spuren_3_4_mitzaehlen();
 
+    /// Told of each crossing that is forgotten, with its lane and stamp.
+    std::function<void(int spur, zeit_ms stempel, verwurf grund)> verworfen;
+
     zeit_ms messzeit = 0;  ///< stamp of the last race tick
     /// The race has started, or gone on after a pause: what comes late from before is no crossing.
     zeit_ms gilt_ab = std::numeric_limits<zeit_ms>::min();
@@ -144,7 +152,10 @@ private:
 
     void tun(eingang was, std::int64_t erstes, std::int64_t zweites = 0);
     void ausfuehren(eingang was, const mitschrift::werte& w);
-    void setzen(ereignis_art nummer, zeit_ms stempel);
+    void setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben = 0);
+    void verwerfen(ereignis_art nummer, zeit_ms stempel, verwurf grund) const;
+    /// What waits in the row is forgotten.
+    void zeile_verwerfen(ereignis_art nummer);
     void ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel);
     /// By how much a passage comes later; nothing for one from within a pause.
     std::optional<zeit_ms> verschiebung(zeit_ms stempel) const;

@@ -236,6 +236,8 @@ void chaos::durchfahrten_merken() {
             zustand.ch_durchfahrt = true;
             const bool selbst_gestempelt = ereignis.ereignis_zeit != um_.ereignisse.messzeit;  // else as the race stood
             zustand.ch_durchfahrt_zeit = selbst_gestempelt ? std::min(ereignis.ereignis_zeit, jetzt) : jetzt;
+            zustand.verworfen_bei = ereignis.ereignis_zeit;  // what bounces behind it is not another one
+            ereignis.vorgemerkt = true;
             um_.protokoll.vermerken(vermerk::durchfahrt, {spur, zustand.ch_durchfahrt_zeit});
         }
     }

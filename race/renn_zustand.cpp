@@ -12,9 +12,9 @@ void renn_zustand::stempel_verschieben(zeit_ms um) {
     };
     konto.stempel_verschieben(um);
     for (spur_zustand& s : spur) {
-        for (zeit_ms* stempel :
-             {&s.start_zeit, &s.gezaehlt_bei, &s.tankt_seit, &s.ch_durchfahrt_zeit, &s.sperre.von, &s.sperre.bis,
-              &s.tank_sperre.von, &s.tank_sperre.bis, &s.tank_halt.von, &s.tank_halt.bis, &s.prellen_bis}) {
+        for (zeit_ms* stempel : {&s.start_zeit, &s.gezaehlt_bei, &s.tankt_seit, &s.ch_durchfahrt_zeit, &s.sperre.von,
+                                 &s.sperre.bis, &s.tank_sperre.von, &s.tank_sperre.bis, &s.tank_halt.von,
+                                 &s.tank_halt.bis, &s.prellen_bis, &s.verworfen_bei}) {
             verschieben(*stempel);
         }
     }

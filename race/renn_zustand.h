@@ -47,10 +47,11 @@ struct spur_zustand {
     zeitsperre tank_halt;            ///< held for a moment after a full tank
     zeit_ms prellen_bis = 0;         ///< stamp up to which a crossing is the last one once more
     bool strom_aus = false;          ///< home, out or in a penalty: the track power is cut
-    zeit_ms pause_im_stempel = 0;    ///< `gezaehlt_bei` has been moved behind a pause that was so long
-    bool ch_durchfahrt = false;      ///< crossed the sensor while the pause was starting
-    zeit_ms ch_durchfahrt_zeit = 0;  ///< stamp of that
-    zeit_ms ch_strafe_rest = 0;      ///< power penalty of a pause still to serve
+    zeit_ms verworfen_bei = zeitsperre::seit_immer;  ///< stamp of the crossing that was forgotten last
+    zeit_ms pause_im_stempel = 0;                    ///< `gezaehlt_bei` has been moved behind a pause that was so long
+    bool ch_durchfahrt = false;                      ///< crossed the sensor while the pause was starting
+    zeit_ms ch_durchfahrt_zeit = 0;                  ///< stamp of that
+    zeit_ms ch_strafe_rest = 0;                      ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
 
     /// The crossing falls in a penalty of a false start or a pause.

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t alle_max = 500'000;
 constexpr std::int64_t zahl_max = std::int64_t{1} << 50;  // sums of a few of them stay numbers
+constexpr zeit_ms uhr_fremd_ms = 1000;                    // a stamp from before the window opened is of another race
 constexpr zeit_ms wiederholt_ms = 300;                    // a board tells a contact that is held again and again
 
 using ort = std::int64_t geschehen::*;
@@ -145,7 +146,8 @@ public:
         h_.hat_gruen = gruen_.has_value();
         const start beginn = gruen_.value_or(start{});
         for (geschehen& g : h_.alle) {
-            const bool gestempelt = h_.hat_gruen && g.stempel != geschehen::keine;
+            const bool gestempelt = h_.hat_gruen && g.stempel != geschehen::keine &&
+                                    g.stempel - beginn.stempel > -beginn.zeit - uhr_fremd_ms;
             g.seit_gruen = gestempelt ? g.stempel - beginn.stempel : g.zeit - beginn.zeit;
             if (bis_stempel(g)) {
                 g.bis = g.wert - beginn.stempel;

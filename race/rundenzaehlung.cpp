@@ -1,6 +1,7 @@
 #include "race/rundenzaehlung.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -13,6 +14,7 @@ rundenzaehlung::rundenzaehlung(const renn_umgebung& um, const teile& t) : um_(um
             runden_auswerten();
         },
         mitschrift::sorte::blick);
+    um_.ereignisse.verworfen = [this](int spur, zeit_ms stempel, verwurf wie) { verworfen(spur, stempel, wie); };
 }
 
 bool rundenzaehlung::entprellen(int spur, ereignis_zeile& ereignis) {
@@ -86,6 +88,20 @@ std::optional<rundenzaehlung::hindernis> rundenzaehlung::hindernis_von(int spur,
 
 void rundenzaehlung::ablehnen(int spur, zeit_ms stempel, const hindernis& h) const {
     um_.protokoll.vermerken(vermerk::abgelehnt, {spur, static_cast<int>(h.grund), stempel, h.wert, h.grenze});
+}
+
+void rundenzaehlung::verworfen(int spur, zeit_ms stempel, verwurf wie) {
+    spur_zustand& zustand = um_.zustand.spur[spur];
+    const bool prellt = std::abs(stempel - std::exchange(zustand.verworfen_bei, stempel)) < prellen_ms ||
+                        std::abs(stempel - zustand.gezaehlt_bei) < prellen_ms;
+    if (um_.zustand.rennen_beendet || !um_.param.spur_aktiv[spur] || prellt) {
+        return;
+    }
+    ablehnen(spur, stempel,
+             {zustand.disqualifiziert ? ablehnung::disqualifiziert
+              : zustand.ziel_erreicht ? ablehnung::im_ziel
+              : wie == verwurf::pause ? ablehnung::pause
+                                      : ablehnung::vor_dem_start});
 }
 
 void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) {

@@ -48,6 +48,8 @@ private:
     };
     std::optional<hindernis> hindernis_von(int spur, zeit_ms zeit, const ereignis_zeile& ereignis) const;
     void ablehnen(int spur, zeit_ms stempel, const hindernis& h) const;
+    /// The event table has forgotten a crossing. A contact that bounces is told once.
+    void verworfen(int spur, zeit_ms stempel, verwurf wie);
     void zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereignis);
     void ueberfahrt_auswerten(int spur);
     void zaehler_zeigen(int spur);

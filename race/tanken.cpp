@@ -194,7 +194,9 @@ void tanken::tank_alle_spuren() {
         const bool tankt = zustand.tank_kontakt && !um_.zeitgeber.tanktimer[spur]->laeuft() &&
                            !zustand.disqualifiziert && !um_.zustand.chaos_aktiv && !zustand.ziel_erreicht;
         if (!tankt) {
-            zustand.tankt_seit = 0;
+            if (std::exchange(zustand.tankt_seit, 0) != 0) {
+                um_.protokoll.vermerken(vermerk::tank_ende, {spur, std::llround(zustand.tank_inhalt * 100)});
+            }
             continue;
         }
         if (zustand.tankt_seit == 0) {

@@ -48,6 +48,7 @@ bool fruehstart::fruehstart_erkennen() {
                 um_.protokoll.vermerken(vermerk::fruehstart, {spur, um_.zeit.messzeit_lesen()});
             }
             stand_[spur].erkannt = true;
+            um_.ereignisse[art::rundenzaehlung[spur]].vorgemerkt = true;
             einer_ = true;
         }
     }
