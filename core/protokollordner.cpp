@@ -92,7 +92,7 @@ std::string neuer_protokollname(const dateien& ablage, const plattform::datum_uh
     return name;
 }
 
-std::vector<std::string> neueste_protokolle(const dateien& ablage, std::size_t anzahl) {
+std::vector<std::string> protokolle_auflisten(const dateien& ablage, std::size_t anzahl) {
     std::vector<std::string> namen;
     if (ablage.ist_eigener_ordner(protokoll_ordner)) {
         namen = protokolle(ablage.pfad(protokoll_ordner));
@@ -100,6 +100,21 @@ std::vector<std::string> neueste_protokolle(const dateien& ablage, std::size_t a
     std::reverse(namen.begin(), namen.end());
     namen.resize(std::min(namen.size(), anzahl));
     return namen;
+}
+
+std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_view name, std::size_t bytes_max) {
+    const fs::path datei = ablage.pfad(im_ordner(name));
+    std::ifstream eingabe;
+    if (ist_lesbar(datei, protokoll_bytes_max)) {
+        eingabe.open(datei, std::ios::binary);
+    }
+    if (!eingabe.is_open()) {
+        return std::nullopt;
+    }
+    std::string inhalt(bytes_max, '\0');
+    eingabe.read(inhalt.data(), static_cast<std::streamsize>(bytes_max));
+    inhalt.resize(static_cast<std::size_t>(eingabe.gcount()));
+    return eingabe.bad() ? std::nullopt : std::optional(std::move(inhalt));
 }
 
 void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,12 +14,17 @@
 namespace tarvel {
 
 inline constexpr std::string_view protokoll_ordner = "Ergebnisse\\Protokoll";
+inline constexpr std::size_t protokoll_bytes_max = std::size_t{64} * 1024 * 1024;
 
 /// A name, without the folder, that is free: "2026-11-21 20-14-03.txt", then "2026-11-21 20-14-03_0002.txt".
 std::string neuer_protokollname(const dateien& ablage, const plattform::datum_uhrzeit& jetzt);
 
-/// The names of the logs, without the folder, from the newest to the oldest; so many at most.
-std::vector<std::string> neueste_protokolle(const dateien& ablage, std::size_t anzahl);
+/// The names of the logs, without the folder, the newest first; so many at most.
+std::vector<std::string> protokolle_auflisten(const dateien& ablage,
+                                              std::size_t anzahl = std::numeric_limits<std::size_t>::max());
+/// The bytes of a log; none if it cannot be read. `bytes_max`: only its beginning, up to that.
+std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_view name,
+                                           std::size_t bytes_max = protokoll_bytes_max);
 
 /// Deletes the logs that are older than 90 days by their names, and all but the newest 200. Any other file is left
 /// alone, and so are linked folders, linked files and the log `in_gebrauch` (without the folder). After a long time

@@ -37,7 +37,8 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       tagesrennen(rennwelt(p, rundenspeichern)),
       training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
-      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung}) {
+      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung}),
+      protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}) {
     r.teil_von.wechseln(einzelrennen);
 }
 

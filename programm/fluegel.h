@@ -20,6 +20,7 @@
 #include "race/rennen.h"
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
+#include "results/protokollfenster.h"
 #include "results/w_auswertung2.h"
 #include "start/k_ampel.h"
 #include "start/startampel.h"
@@ -56,6 +57,7 @@ struct ergebnisfluegel {
     tarvel::training training;
     tarvel::intervalltraining intervalltraining;
     tarvel::w_auswertung2 w_auswertung2;
+    tarvel::protokollfenster protokollfenster;
 };
 
 struct optionsfluegel {

@@ -86,12 +86,14 @@ programm::programm(const plattform::dienste& d)
       w_auswertung(wettkampf_->w_auswertung),
       tagesrennen_fenster(wettkampf_->tagesrennen_fenster),
       w_auswertung2(ergebnisse_->w_auswertung2),
+      protokollfenster(ergebnisse_->protokollfenster),
       geraete(*geraete_),
       rennprotokoll(*protokoll_),
       wiedergabe(*wiedergabe_) {
     rennen.fenster.fuehrung = protokoll_.get();
     hauptfenster_verbinden();
     wiedergabe_verbinden();
+    protokoll_verbinden();
     einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
 }
 
@@ -159,6 +161,16 @@ void programm::wiedergabe_verbinden() {
 bool programm::ruhe_fuer_wiedergabe() const {
     return !fenster.ist_offen(fenstername::bahn1) ||
            (fenster.ist_offen(fenstername::auswertung) && !auswertung.zaehlt_nach());
+}
+
+void programm::protokoll_verbinden() {
+    const auto dieses = [this] {
+        rennprotokoll.sichern();
+        protokollfenster.zeigen(rennprotokoll.dateiname());
+    };
+    rennen.bahn1.Command_protokoll.bei_klick = dieses;
+    auswertung.Command_protokoll.bei_klick = dieses;
+    w_auswertung2.Command_protokoll.bei_klick = [this] { protokollfenster.auswahl_zeigen(); };
 }
 
 bool programm::messgeraet_da() const {

@@ -37,6 +37,7 @@ class form3;
 class intervalltraining;
 class k_ampel;
 class messgeraete;
+class protokollfenster;
 class rangliste;
 class rennprotokoll;
 class rundenspeichern;
@@ -152,6 +153,7 @@ public:
     tarvel::w_auswertung& w_auswertung;
     tarvel::tagesrennen_fenster& tagesrennen_fenster;
     tarvel::w_auswertung2& w_auswertung2;
+    tarvel::protokollfenster& protokollfenster;
     messgeraete& geraete;
     tarvel::rennprotokoll& rennprotokoll;
     tarvel::wiedergabe& wiedergabe;
@@ -169,6 +171,7 @@ private:
     void wiedergabe_verbinden();
     /// No race runs, and none is being prepared.
     bool ruhe_fuer_wiedergabe() const;
+    void protokoll_verbinden();
     void bahnstrom_von_hand(bool an) override;
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;

@@ -82,7 +82,7 @@ std::string wiederaufnahme::frage(const protokollstand& stand) const {
 }
 
 void wiederaufnahme::nach_dem_start_anbieten() {
-    const std::vector<std::string> namen = neueste_protokolle(um_.ablage, 1);
+    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
     std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
     if (k && (k->stand.geschlossen || k->stand.abgebrochen)) {
         k.reset();  // nobody has lost it
@@ -107,7 +107,7 @@ void wiederaufnahme::nach_dem_start_anbieten() {
 
 void wiederaufnahme::anbieten() {
     using antwort = plattform::dreifache_antwort;
-    for (const std::string& name : neueste_protokolle(um_.ablage, gesucht_max)) {
+    for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
         const std::optional<kandidat> k = lesen(name);
         if (!k || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
             continue;  // that one waits in its evening

@@ -71,12 +71,13 @@ struct bahn1 {
     bild wrpic2;
     bezeichnung werbe_label;
     rahmen Frame1;
-    befehl Command1;       ///< start
-    befehl Command2;       ///< abort without a result
-    befehl Command3;       ///< begins and ends a pause
-    befehl Command4;       ///< end with the result so far
-    befehl Command6;       ///< begins the warm-up before the race
-    rahmen ch_strafframe;  ///< asks whose fault the pause was
+    befehl Command1;           ///< start
+    befehl Command2;           ///< abort without a result
+    befehl Command3;           ///< begins and ends a pause
+    befehl Command4;           ///< end with the result so far
+    befehl Command6;           ///< begins the warm-up before the race
+    befehl Command_protokoll;  ///< in a pause: what has happened so far
+    rahmen ch_strafframe;      ///< asks whose fault the pause was
     bezeichnung ch_Label1;
     bezeichnung ch_Label2;
     feld ch_Text1;  ///< seconds

@@ -34,6 +34,7 @@ void chaos::zuruecksetzen() {
     um_.zustand.chaos_aktiv = false;
     um_.ereignisse.chaos_fahrer.fuellen(false);
     um_.bahn.Command3.text(um_.bahn.wort.pause);
+    um_.bahn.Command_protokoll.sichtbar(false);
     strafformular_schliessen();
     gelb_zeigen(false);
     um_.bahn.cu_startframe.sichtbar(false);
@@ -157,6 +158,7 @@ void chaos::pause_beginnen(std::optional<zeit_ms> seit) {
     um_.ereignisse[art::chaostaster].ereignis_zeit = zustand.pause.start;
     um_.sounds.spielen(sound::pause_beginnt);
     um_.bahn.Command3.text(um_.bahn.wort.weiter);
+    um_.bahn.Command_protokoll.sichtbar(true);
     um_.bahn.Command3.aktiviert(true);
     zeitgeber_anhalten();
     um_.ausgaben.chaos_an();
@@ -320,6 +322,7 @@ void chaos::chaosende_routine() {
         um_.zeitgeber.nachlauftimer1->an();
     }
     um_.bahn.Command3.text(um_.bahn.wort.pause_wieder);
+    um_.bahn.Command_protokoll.sichtbar(false);
     t_.ablauf.befehle_freigeben();
     kleine_ampeln(kleines_licht::gruen);
     zeitgeber_fortsetzen();

@@ -62,7 +62,6 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                             {{gruen, "Start: Grün"},
                              {fruehstart, "Frühstart"},
                              {runde, "Runde %1: %2"},
-                             {abgelehnt, "%1"},
                              {abzug, "Runde abgezogen, es bleiben %1"},
                              {sektor, "Sektor %1: %2"},
                              {platz, "Platz %1"},
@@ -80,11 +79,9 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                              {ziel, "im Ziel"},
                              {letzte, "Rennzeit oder Ziel erreicht, Runden werden zu Ende gefahren"},
                              {ende, "Ende des Rennens%1"},
-                             {befehl, "%1"},
                              {taste, "Taste „%1“: %2"},
                              {geraet, "Gerät meldet %1"},
-                             {verloren, "Gerät ist nicht mehr da"},
-                             {korrektur, "%1"}});
+                             {verloren, "Gerät ist nicht mehr da"}});
     eintragen_alle<ablehnung>(texte, gruende_,
                               {{ablehnung::nicht_dabei, "Spur fährt nicht mit"},
                                {ablehnung::disqualifiziert, "disqualifiziert"},
@@ -157,7 +154,7 @@ std::string hergangsworte::von(const geschehen& g) const {
         case vorgang::sektor:
             return ersetzt(vorlage, {nummer, dauer(g.wert)});
         case vorgang::abgelehnt:
-            return ersetzt(vorlage, {ablehnung_von(g)});
+            return ablehnung_von(g);
         case vorgang::weiter:
             return ersetzt(vorlage, {dauer(g.wert)});
         case vorgang::strafe:
@@ -170,7 +167,7 @@ std::string hergangsworte::von(const geschehen& g) const {
         case vorgang::ende:
             return ersetzt(vorlage, {g.nummer == 1 ? abgebrochen_ : ""});
         case vorgang::befehl:
-            return ersetzt(vorlage, {gesucht(befehle_, static_cast<int>(g.nummer))});
+            return gesucht(befehle_, static_cast<int>(g.nummer));
         case vorgang::taste:
             return taste_von(g);
         case vorgang::geraet: {
@@ -181,7 +178,7 @@ std::string hergangsworte::von(const geschehen& g) const {
                    (g.wert > 1 ? ersetzt(mehrmals_, {std::to_string(g.wert)}) : "");
         }
         case vorgang::korrektur:
-            return ersetzt(vorlage, {g.text});
+            return g.text;
         default:
             return ersetzt(vorlage, {nummer});
     }

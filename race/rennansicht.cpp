@@ -118,7 +118,7 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Die Zeitmessung ist nicht verbunden, nur die Tasten zählen Runden. Das Rennen trotzdem starten?",
                bahn.wort.ohne_messung);
     texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
-    texte.text("ohne Ende", bahn.wort.ohne_ende);
+    texte.text("ohne Ende", bahn.wort.ohne_ende).text("Protokoll", bahn.Command_protokoll);
     return texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
                       bahn.wort.ohne_protokoll);
 }

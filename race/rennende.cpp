@@ -170,6 +170,7 @@ void rennende::rennende_ablauf() {
     um_.fenster.entladen(fenstername::Form2);  // a very short race ends before its start light goes
     zustand.rennen_beendet = true;
     zustand.chaos_aktiv = false;
+    um_.bahn.Command_protokoll.sichtbar(false);
     um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
 }
 

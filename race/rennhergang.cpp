@@ -305,6 +305,21 @@ private:
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 
+/// Reads up to the end of the head.
+std::optional<protokollkopf> kopf_aus(protokollleser& zeilen) {
+    constexpr std::size_t zeilen_max = 20'000;
+    std::vector<std::string_view> gelesen;
+    for (auto zeile = zeilen.zeile(); zeile && zeile->starts_with('#') && gelesen.size() < zeilen_max;
+         zeile = zeilen.zeile()) {
+        gelesen.push_back(*zeile);
+        if (*zeile == "# Anfang") {
+            std::optional<gelesener_kopf> kopf = kopf_lesen(gelesen);
+            return kopf ? std::optional(std::move(kopf->kopf)) : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::vector<geschehen> rennhergang::abgelehnte(int spur) const {
@@ -318,31 +333,23 @@ zeit_ms rennhergang::dauer() const {
     return alle.empty() ? 0 : alle.back().seit_gruen;
 }
 
+std::optional<protokollkopf> hergang_kopf(std::string_view anfang) {
+    protokollleser zeilen(anfang);
+    return kopf_aus(zeilen);
+}
+
 rennhergang hergang_lesen(std::string_view inhalt) {
     rennhergang h;
     protokollleser zeilen(inhalt);
-    std::vector<std::string_view> kopf;
-    leser l(h);
-    while (const auto zeile = zeilen.zeile()) {
-        if (h.kopf) {
-            if (h.alle.size() >= alle_max) {
-                break;
-            }
-            l.zeile(*zeile);
-            continue;
-        }
-        kopf.push_back(*zeile);
-        if (*zeile == "# Anfang") {
-            std::optional<gelesener_kopf> gelesen = kopf_lesen(kopf);
-            if (!gelesen) {
-                return h;
-            }
-            h.kopf = std::move(gelesen->kopf);
-        } else if (!zeile->starts_with('#') || kopf.size() > 20'000) {
-            return h;
-        }
+    h.kopf = kopf_aus(zeilen);
+    if (!h.kopf) {
+        return h;
     }
-    h.ganz = h.kopf && zeilen.vollstaendig();
+    leser l(h);
+    for (auto zeile = zeilen.zeile(); zeile && h.alle.size() < alle_max; zeile = zeilen.zeile()) {
+        l.zeile(*zeile);
+    }
+    h.ganz = zeilen.vollstaendig();
     l.abschliessen();
     return h;
 }

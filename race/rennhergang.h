@@ -80,6 +80,9 @@ struct rennhergang {
     zeit_ms dauer() const;
 };
 
+/// The head alone, from the first bytes of a log.
+std::optional<protokollkopf> hergang_kopf(std::string_view anfang);
+
 /// Bears any bytes; what is behind a damaged line is left out.
 rennhergang hergang_lesen(std::string_view inhalt);
 

@@ -74,6 +74,7 @@ public:
     befehl Command9;            ///< best times
     befehl Command10;           ///< evaluates anew
     befehl Command_verlauf;     ///< chart or standing
+    befehl Command_protokoll;   ///< what happened, and when
     befehl Command_nachtragen;  ///< opens the frame in which a lap is added
     befehl Command_zurueck;     ///< the last correction, or the last that was taken back
     befehl Command_wieder;

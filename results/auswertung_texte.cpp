@@ -56,7 +56,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Wiedergabe", Command_wiedergabe);
     texte.tipp("Das Rennen noch einmal auf dem Rennbildschirm ablaufen lassen", Command_wiedergabe);
     korrekturtexte(texte);
-    return texte;
+    texte.text("Protokoll", Command_protokoll);
+    return texte.tipp("Was im Rennen geschah, auch die Überfahrten, die nicht zählten", Command_protokoll);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

@@ -69,10 +69,11 @@ public:
     befehl Command16;                       ///< save
     rahmen Frame7;
     feld Text3;
-    befehl Command17;  ///< saves under this name
-    befehl Command12;  ///< or not
-    befehl Command13;  ///< lines in memory, in or out
-    befehl Command5;   ///< close
+    befehl Command17;          ///< saves under this name
+    befehl Command12;          ///< or not
+    befehl Command13;          ///< lines in memory, in or out
+    befehl Command_protokoll;  ///< logs of races
+    befehl Command5;           ///< close
     korrekturrahmen korrektur;
 
     /// Print what is shown or save it as pages, and bring it up to date; filled by the drawing.

@@ -26,7 +26,7 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     korrektur.sprache(texte);
     meldungstexte(texte);
     dateitexte(texte);
-    return texte;
+    return texte.text("Protokolle", Command_protokoll);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {

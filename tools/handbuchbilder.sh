@@ -24,6 +24,7 @@ einstellungen_start      einstellungen      1180x800
 auswertung               auswertung         1280x900
 wiedergabe               wiedergabe         1280x900
 rundenverlauf            rundenverlauf      1280x800
+protokoll                protokoll          1280x800
 wettkampf_vorbereiten    wettkampf          1180x800
 bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760

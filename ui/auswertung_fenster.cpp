@@ -140,6 +140,7 @@ QLayout* AuswertungFenster::korrekturzeile() {
     knopf(logik_.Command9, "Command9");
     zeile->addStretch(1);
     knopf(logik_.Command_verlauf, "Command_verlauf");
+    knopf(logik_.Command_protokoll, "Command_protokoll");
     knopf(logik_.Command_drucken, "Command_drucken");
     knopf(logik_.Command_pdf, "Command_pdf");
     knopf(logik_.Command_wiedergabe, "Command_wiedergabe");

@@ -94,6 +94,9 @@ void Bahn1Fenster::befehlszeile() {
         }
         vorher = teil(name);
     }
+    protokoll_ = binder().knopf_ohne_kuerzel(bahn.Command_protokoll, "Command_protokoll");
+    protokoll_->setParent(zeile);
+    setTabOrder(vorher, protokoll_);
     binder().verbinden(bahn.Frame1, zeile, "Frame1", {});
 }
 
@@ -253,11 +256,22 @@ void Bahn1Fenster::anordnen() {
         }
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
+    protokollknopf_anordnen();
     hinweis_anordnen();
     alarm_anordnen();
     const platz& formular = geometrie.fenster[f::ch_strafframe];
     formular_beschriften(formular.schrift_px, formular.ort);
     update();  // between the blocks the last layout may still be seen
+}
+
+void Bahn1Fenster::protokollknopf_anordnen() {
+    const QRect frei = teil(f::werbe_label)->geometry();  // there is nothing to advertise in a pause
+    const QRect befehl = teil(f::Command3)->geometry();
+    const bool daneben = frei.width() >= befehl.width() / 2;
+    const QRect& ort = daneben ? frei : teil(f::Command1)->geometry();  // which nobody can give in a pause
+    protokoll_->setGeometry(ort.x(), befehl.y(), std::min(befehl.width(), ort.width()), befehl.height());
+    protokoll_->setFont(teil(f::Command3)->font());
+    protokoll_->raise();
 }
 
 void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {

@@ -42,6 +42,8 @@ private:
     ansicht_geometrie aufteilung() const;
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
+    /// In a pause beside the other commands.
+    void protokollknopf_anordnen();
     QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
     QWidget* teil(fenster_teil name) const { return teile_.at(static_cast<std::size_t>(name)); }
 
@@ -50,6 +52,7 @@ private:
     std::array<QWidget*, static_cast<std::size_t>(fenster_teil::anzahl)> teile_{};
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
+    QPushButton* protokoll_ = nullptr;
     TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
     TextAnzeige* alarm_ = nullptr;  ///< the timing device is gone
     bool licht_der_pause_ = false;

@@ -27,6 +27,7 @@
 #include "ui/form2_fenster.h"
 #include "ui/frm_main_fenster.h"
 #include "ui/k_ampel_fenster.h"
+#include "ui/protokoll_fenster.h"
 #include "ui/rangliste_fenster.h"
 #include "ui/rc_fenster.h"
 #include "ui/spaetes_fenster.h"
@@ -95,6 +96,7 @@ public:
     SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     SpaetesFenster<WAuswertung2Fenster> w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
+    SpaetesFenster<ProtokollFenster> protokoll{p_.protokollfenster, p_.ablage, fenster, &bahn1};
     SpaetesFenster<WAuswDebugFenster> w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};
     SpaetesFenster<Wettkampf1Fenster> wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     SpaetesFenster<TagesrennenFenster> tagesrennen{p_.tagesrennen_fenster, fenster, &form1};

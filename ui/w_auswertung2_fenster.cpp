@@ -255,6 +255,7 @@ QLayout* WAuswertung2Fenster::fusszeile() {
     hinweis->setWordWrap(true);
     zeile->addWidget(hinweis, 1);
     zeile->addStretch(0);
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_protokoll, "Command_protokoll")));
     zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command16, "Command16")));
     zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command5, "Command5")));
     return zeile;

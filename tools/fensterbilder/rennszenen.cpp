@@ -1,9 +1,11 @@
-#include "tools/fensterbilder/szenen.h"
-
 #include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
+
+#include "results/protokollfenster.h"
+#include "results/w_auswertung2.h"
+#include "tools/fensterbilder/szenen.h"
 
 namespace tarvel {
 namespace {
@@ -124,7 +126,57 @@ void einfahren_zeigen(buehne& b, bool runden, int laenge, std::initializer_list<
     b.t.bahn().Command6.klicken();
 }
 
+/// A race in which more happened than laps.
+void bewegtes_rennen(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    b.p.einst.chaos_strafe_strom = false;
+    b.p.einst.tank_inhalt = 20;
+    b.p.form1.t_aktiv.gesetzt(true);
+    b.rundenrennen(38000, "24", {1, 2, 3, 4});
+    b.t.runde_nach(400, "3");
+    b.fahren(21000);
+    b.t.taste("q");
+    b.t.bahn().Command3.klicken();
+    b.t.bahn().ch_strafzeit_hacken[2].umschalten();
+    b.t.runde_nach(4000, "4");
+    b.t.bahn().Command3.klicken();
+    b.fahren(30000);
+    b.t.runde_nach(700, "1");
+    b.fahren(12000);
+    b.t.taste("a");
+    b.fahren(60000);
+}
+
+QWidget& protokoll(buehne& b) {
+    bewegtes_rennen(b);
+    b.t.bahn().Command4.klicken();
+    b.p.auswertung.Command_protokoll.klicken();
+    const auto& zeilen = b.p.protokollfenster.zeilen();
+    for (std::size_t i = zeilen.size(); i-- > 0;) {
+        if (b.p.protokollfenster.zeile(i).ist_abgelehnt()) {
+            b.p.protokollfenster.waehlen(static_cast<int>(i));
+        }
+    }
+    return *b.o.protokoll;
+}
+
+QWidget& protokoll_in_der_pause(buehne& b) {
+    pause_ohne_ampel(b);
+    b.t.bahn().Command_protokoll.klicken();
+    return *b.o.protokoll;
+}
+
+QWidget& protokoll_auswahl(buehne& b) {
+    b.rundenrennen(40000, "5", {1, 2});
+    b.p.auswertung.Command5.klicken();
+    b.p.w_auswertung2.Command_protokoll.klicken();
+    return *b.o.protokoll;
+}
+
 const std::vector<szeneneintrag> alle{
+    {"protokoll", protokoll},
+    {"protokoll_in_der_pause", protokoll_in_der_pause},
+    {"protokoll_auswahl", protokoll_auswahl},
     {"rennen_vor_dem_start",
      [](buehne& b) -> QWidget& {
          b.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});

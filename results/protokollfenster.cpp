@@ -1,0 +1,349 @@
+#include "results/protokollfenster.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/protokollordner.h"
+#include "core/text.h"
+#include "results/ergebnisdatei.h"
+
+namespace tarvel {
+namespace {
+
+constexpr std::size_t kopf_bytes_max = std::size_t{128} * 1024;
+constexpr zeit_ms ausschnitt_min_ms = 1000;
+constexpr double zoom_schritt = 2;
+
+std::string eingesetzt(std::string text, const std::string& wert) {
+    const std::size_t ort = text.find("%1");
+    return ort == std::string::npos ? text : text.replace(ort, 2, wert);
+}
+
+}  // namespace
+
+protokollfenster::gruppe protokollfenster::gruppe_von(vorgang was) {
+    using enum vorgang;
+    switch (was) {
+        case vorgang::abgelehnt:
+            return gruppe::abgelehnt;
+        case gruen:
+        case letzte:
+        case ende:
+        case ziel:
+            return start_ziel;
+        case pause:
+        case weiter:
+        case schalter:
+            return pausen;
+        case fruehstart:
+        case strafe:
+        case strom_aus:
+        case strom_an:
+            return strafen;
+        case leer:
+        case voll:
+        case tankt:
+        case tank_ende:
+            return gruppe::tanken;
+        case sektor:
+        case platz:
+            return plaetze;
+        case befehl:
+        case taste:
+            return befehle;
+        case geraet:
+        case verloren:
+            return geraete;
+        default:
+            return runden;
+    }
+}
+
+protokollfenster::protokollfenster(const umfeld& um)
+    : fensterlogik(um.welt.fenster, um.welt.ablage, fenstername::protokoll),
+      um_(um),
+      pausentimer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(50))) {
+    for (const gruppe g : {runden, abgelehnt, start_ziel, pausen, strafen, gruppe::tanken}) {
+        Check_gruppe.at(g).gesetzt(true);
+    }
+    pausentimer_->bei_tick = [this] {
+        if (!um_.r.zustand.chaos_aktiv) {  // whoever drives wants to see the race
+            um_.welt.fenster.entladen(fenstername::protokoll);
+        }
+    };
+    befehle_verbinden();
+}
+
+void protokollfenster::befehle_verbinden() {
+    for (haken& kasten : Check_gruppe) {
+        kasten.bei_aenderung = [this] { filtern(); };
+    }
+    cbo_spur.bei_aenderung = [this] { filtern(); };
+    List_dateien.bei_auswahl = [this] {
+        const int nummer = List_dateien.markiert();
+        if (nummer >= 0 && static_cast<std::size_t>(nummer) < namen_.size()) {
+            datei_lesen(namen_[static_cast<std::size_t>(nummer)]);
+        }
+    };
+    const auto mitte = [this] {
+        const bool da = gewaehlt_ >= 0;
+        return da ? zeile(static_cast<std::size_t>(gewaehlt_)).seit_gruen : ausschnitt_.von + ausschnitt_.dauer() / 2;
+    };
+    Command_groesser.bei_klick = [this, mitte] { zoomen(1 / zoom_schritt, mitte()); };
+    Command_kleiner.bei_klick = [this, mitte] { zoomen(zoom_schritt, mitte()); };
+    Command_ganz.bei_klick = [this] { ausschnitt_setzen(ganzes()); };
+    Command_drucken.bei_klick = [this] {
+        if (drucken) {
+            drucken();
+        }
+    };
+    Command_pdf.bei_klick = [this] {
+        if (als_pdf) {
+            als_pdf();
+        }
+    };
+    Command_wiedergabe.bei_klick = [this] {
+        if (wiedergeben) {
+            wiedergeben(std::string(protokoll_ordner) + "\\" + name_);
+        }
+    };
+    Command_weiter.bei_klick = [this] { um_.r.bahn1.Command3.klicken(); };
+    Command_schliessen.bei_klick = [this] { schliessen(); };
+}
+
+void protokollfenster::laden() {
+    texte_lesen();
+    worte_.komma = um_.einst.trennzeichen[1].empty() ? ',' : um_.einst.trennzeichen[1].front();
+    name_.clear();
+    hergang_ = {};
+    Command_weiter.text(um_.r.bahn1.wort.weiter);
+    Command_wiedergabe.sichtbar(static_cast<bool>(wiedergeben));
+}
+
+void protokollfenster::entladen() {
+    pausentimer_->aus();
+    hergang_ = {};
+    zeilen_ = {};
+    gewaehlt_ = -1;
+    if (inhalt_neu) {
+        inhalt_neu();
+    }
+}
+
+void protokollfenster::oeffnen(anzeige_art art) {
+    um_.welt.fenster.zeigen(fenstername::protokoll, art);
+    const bool pause = um_.r.zustand.chaos_aktiv;
+    Command_weiter.sichtbar(pause);
+    Command_wiedergabe.sichtbar(wiedergeben && !pause);
+    if (pause) {
+        pausentimer_->an();
+    }
+}
+
+void protokollfenster::zeigen(const std::string& datei) {
+    const std::size_t ordner = datei.rfind('\\');
+    const std::string name = ordner == std::string::npos ? datei : datei.substr(ordner + 1);
+    if (name.empty()) {
+        fehler_melden(wort_.kein_protokoll);
+        return;
+    }
+    oeffnen(um_.r.zustand.chaos_aktiv ? anzeige_art::frei : anzeige_art::modal);
+    Frame_dateien.sichtbar(false);
+    datei_lesen(name);
+}
+
+void protokollfenster::auswahl_zeigen() {
+    oeffnen(anzeige_art::modal);
+    Frame_dateien.sichtbar(true);
+    dateien_auflisten();
+}
+
+void protokollfenster::dateien_auflisten() {
+    namen_ = protokolle_auflisten(um_.welt.ablage);
+    List_dateien.leeren();
+    for (const std::string& name : namen_) {
+        const std::string anfang = protokoll_lesen(um_.welt.ablage, name, kopf_bytes_max).value_or("");
+        const std::optional<protokollkopf> kopf = hergang_kopf(anfang);
+        List_dateien.hinzufuegen(kopf ? beschreibung(*kopf) : name);
+    }
+    if (namen_.empty()) {
+        datei_lesen("");
+    } else {
+        List_dateien.auswaehlen(0);
+    }
+}
+
+void protokollfenster::datei_lesen(const std::string& name) {
+    name_ = name;
+    const std::string inhalt = name.empty() ? "" : protokoll_lesen(um_.welt.ablage, name).value_or("");
+    hergang_ = hergang_lesen(inhalt);
+    Label_kopf.text(hergang_.kopf ? beschreibung(*hergang_.kopf) : name);
+    std::vector<std::string> auswahl{wort_.alle_spuren};
+    for (const int spur : alle_spuren) {
+        auswahl.push_back(wort_.spur + " " + std::to_string(spur) + (fahrer(spur).empty() ? "" : " – " + fahrer(spur)));
+    }
+    const int vorher = cbo_spur.platz();
+    cbo_spur.eintraege(auswahl);
+    cbo_spur.platz(std::max(vorher, 0));
+    ausschnitt_ = ganzes();
+    gewaehlt_ = -1;
+    filtern();
+    Label_hinweis.text(hinweis());
+}
+
+std::string protokollfenster::fahrer(int spur) const {
+    return faehrt(spur) ? hergang_.kopf->param.fahrer_name[spur] : "";
+}
+
+bool protokollfenster::faehrt(int spur) const {
+    return spur > 0 && hergang_.kopf && hergang_.kopf->param.spur_aktiv[spur];
+}
+
+std::string protokollfenster::beschreibung(const protokollkopf& kopf) const {
+    const rennziel ziel = kopf.param.renn_ziel;
+    std::string text = std::string(links(kopf.zeitpunkt, std::string_view("21.11.2026-14:03").size())) + "  ";
+    if (ziel == ziel_ohne_ende) {
+        text += wort_.ohne_ende;
+    } else if (ziel.ist_zeit()) {
+        text += eingesetzt(wort_.zeitrennen, hergang_zeit(std::clamp<zeit_ms>(ziel.ms(), 0, 360'000'000), 0, ','));
+    } else {
+        text += eingesetzt(wort_.rundenrennen, std::to_string(ziel.runden()));
+    }
+    std::string namen;
+    for (const int spur : alle_spuren) {
+        if (kopf.param.spur_aktiv[spur]) {
+            namen += (namen.empty() ? ": " : ", ") + kopf.param.fahrer_name[spur];
+        }
+    }
+    return text + namen;
+}
+
+std::string protokollfenster::hinweis() const {
+    if (!hergang_.kopf) {
+        return name_.empty() ? wort_.keine : wort_.unlesbar;
+    }
+    const std::size_t anzahl = hergang_.abgelehnte(0).size();
+    const std::string gezaehlt = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, std::to_string(anzahl));
+    return hergang_.ganz ? gezaehlt : gezaehlt + "  " + wort_.beschaedigt;
+}
+
+void protokollfenster::filtern() {
+    const std::size_t vorher = gewaehlt_ >= 0 && static_cast<std::size_t>(gewaehlt_) < zeilen_.size()
+                                   ? zeilen_[static_cast<std::size_t>(gewaehlt_)]
+                                   : hergang_.alle.size();
+    const int spur = std::max(cbo_spur.platz(), 0);
+    zeilen_.clear();
+    gewaehlt_ = -1;
+    for (std::size_t i = 0; i < hergang_.alle.size(); ++i) {
+        const geschehen& g = hergang_.alle[i];
+        if (Check_gruppe.at(gruppe_von(g.was)).gesetzt() && (spur == 0 || g.spur == 0 || g.spur == spur)) {
+            gewaehlt_ = i == vorher ? static_cast<int>(zeilen_.size()) : gewaehlt_;
+            zeilen_.push_back(i);
+        }
+    }
+    if (inhalt_neu) {
+        inhalt_neu();
+    }
+}
+
+void protokollfenster::waehlen(int neu) {
+    neu = std::clamp(neu, -1, static_cast<int>(zeilen_.size()) - 1);
+    if (neu == gewaehlt_) {
+        return;
+    }
+    gewaehlt_ = neu;
+    if (neu >= 0) {
+        const zeit_ms zeit = zeile(static_cast<std::size_t>(neu)).seit_gruen;
+        if (zeit < ausschnitt_.von || zeit > ausschnitt_.bis) {
+            schieben(zeit - ausschnitt_.von - ausschnitt_.dauer() / 2);
+        }
+    }
+    if (wahl_neu) {
+        wahl_neu();
+    }
+}
+
+int protokollfenster::naechste_zeile(int spur, zeit_ms zeit, zeit_ms hoechstens) const {
+    int beste = -1;
+    zeit_ms abstand = hoechstens;
+    for (std::size_t i = 0; i < zeilen_.size(); ++i) {
+        const geschehen& g = zeile(i);
+        const bool darin = g.bis != geschehen::keine && !g.ist_abgelehnt() && zeit >= g.seit_gruen && zeit <= g.bis;
+        const zeit_ms hier = darin ? hoechstens : std::abs(g.seit_gruen - zeit);
+        if ((spur == 0 || g.spur == spur || g.spur == 0) && (hier < abstand || (beste < 0 && hier == hoechstens))) {
+            beste = static_cast<int>(i);
+            abstand = hier;
+        }
+    }
+    return beste;
+}
+
+protokollfenster::zeitraum protokollfenster::ganzes() const {
+    constexpr zeit_ms rand_teil = 40;
+    const zeit_ms dauer = std::max<zeit_ms>(hergang_.dauer(), ausschnitt_min_ms);
+    const zeit_ms erstes = hergang_.alle.empty() ? 0 : hergang_.alle.front().seit_gruen;
+    return {std::clamp<zeit_ms>(erstes, -dauer / rand_teil, 0), dauer + dauer / rand_teil};
+}
+
+void protokollfenster::ausschnitt_setzen(zeitraum neu) {
+    const zeitraum alles = ganzes();
+    const zeit_ms dauer = std::clamp(neu.dauer(), std::min(ausschnitt_min_ms, alles.dauer()), alles.dauer());
+    neu.von = std::clamp(neu.von, alles.von, alles.bis - dauer);
+    neu.bis = neu.von + dauer;
+    if (neu != ausschnitt_) {
+        ausschnitt_ = neu;
+        if (ausschnitt_neu) {
+            ausschnitt_neu();
+        }
+    }
+}
+
+void protokollfenster::zoomen(double faktor, zeit_ms um) {
+    const zeit_ms vorher = ausschnitt_.dauer();
+    const zeit_ms dauer =
+        std::clamp<zeit_ms>(std::llround(static_cast<double>(vorher) * std::clamp(faktor, 0.01, 100.0)),
+                            ausschnitt_min_ms, std::max(ganzes().dauer(), ausschnitt_min_ms));
+    const double teil = static_cast<double>(std::clamp(um, ausschnitt_.von, ausschnitt_.bis) - ausschnitt_.von) /
+                        static_cast<double>(std::max<zeit_ms>(vorher, 1));
+    const zeit_ms von =
+        std::clamp(um, ausschnitt_.von, ausschnitt_.bis) - std::llround(teil * static_cast<double>(dauer));
+    ausschnitt_setzen({von, von + dauer});
+}
+
+void protokollfenster::schieben(zeit_ms um) {
+    const zeit_ms weit = ganzes().dauer();
+    um = std::clamp(um, -weit, weit);
+    ausschnitt_setzen({ausschnitt_.von + um, ausschnitt_.bis + um});
+}
+
+std::string protokollfenster::blatt_datei() const {
+    return std::string(ergebnis_ordner::einzelrennen) + "\\Protokoll " + name_.substr(0, name_.rfind('.'));
+}
+
+sprachliste protokollfenster::sprache_pr() {
+    sprachliste texte("language\\language_pr.txt", sprachliste::form::zeilen);
+    texte.text("Protokoll", titel).text("Rennen, das neueste zuerst", Label_dateien);
+    texte.text("Spur", Label_spur).text("alle Spuren", wort_.alle_spuren).text("Spur", wort_.spur);
+    texte.text("Runden", Check_gruppe[runden]).text("Abgelehnt", Check_gruppe[abgelehnt]);
+    texte.text("Start und Ziel", Check_gruppe[start_ziel]).text("Pausen", Check_gruppe[pausen]);
+    texte.text("Strafen", Check_gruppe[strafen]).text("Tanken", Check_gruppe[gruppe::tanken]);
+    texte.text("Plätze, Sektoren", Check_gruppe[plaetze]).text("Befehle, Tasten", Check_gruppe[befehle]);
+    texte.text("Geräte", Check_gruppe[geraete]);
+    texte.text("Größer", Command_groesser).text("Kleiner", Command_kleiner).text("Alles", Command_ganz);
+    texte.text("Drucken", Command_drucken).text("Als PDF speichern", Command_pdf);
+    texte.text("Wiedergabe", Command_wiedergabe).text("Schließen", Command_schliessen);
+    texte.text("Zeit", wort_.spalten[0]).text("Spur", wort_.spalten[1]).text("Fahrer", wort_.spalten[2]);
+    texte.text("Was geschah", wort_.spalten[3]);
+    texte.text("Rennen über %1 Runden", wort_.rundenrennen).text("Zeitrennen über %1", wort_.zeitrennen);
+    texte.text("Rennen ohne Ende", wort_.ohne_ende);
+    texte.text("Dieses Protokoll ist nicht lesbar oder aus einer anderen Version.", wort_.unlesbar);
+    texte.text("Ein Teil am Ende ist beschädigt; gezeigt wird, was davor steht.", wort_.beschaedigt);
+    texte.text("Es gibt noch kein Protokoll.", wort_.keine).text("1 Überfahrt nicht gezählt.", wort_.einer);
+    texte.text("%1 Überfahrten nicht gezählt.", wort_.mehrere);
+    texte.text("Zu diesem Rennen gibt es kein Protokoll.", wort_.kein_protokoll);
+    texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
+    texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
+    return worte_.eintragen(texte);
+}
+
+}  // namespace tarvel

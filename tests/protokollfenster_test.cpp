@@ -1,0 +1,136 @@
+#include "results/protokollfenster.h"
+
+#include <fstream>
+
+#include "core/protokollordner.h"
+#include "core/protokollzeile.h"
+#include "programm/rennprotokoll.h"
+#include "results/w_auswertung2.h"
+#include "tests/programm_probe.h"
+
+namespace tarvel {
+namespace {
+
+class Protokollfenster : public test::ProgrammProbe {
+protected:
+    using f = protokollfenster;
+
+    protokollfenster& fenster() { return t.p.protokollfenster; }
+    void fahren() {
+        t.p.einst.chaosampel_an = false;
+        t.starten("Runden", "9", {1, 2});
+        t.runde_nach(1000, "12");
+        t.runde_nach(6000, "1");
+        t.runde_nach(1000, "1");
+    }
+    std::vector<std::string> zeilen() {
+        std::vector<std::string> alle;
+        for (std::size_t i = 0; i < fenster().zeilen().size(); ++i) {
+            alle.push_back(std::to_string(fenster().zeile(i).spur) + " " + fenster().worte_von(fenster().zeile(i)));
+        }
+        return alle;
+    }
+    void nur(std::initializer_list<f::gruppe> gruppen) {
+        for (haken& kasten : fenster().Check_gruppe) {
+            kasten.gesetzt(false);
+        }
+        for (const f::gruppe g : gruppen) {
+            fenster().Check_gruppe.at(g).umschalten();
+        }
+    }
+};
+
+TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
+    fahren();
+    EXPECT_FALSE(t.bahn().Command_protokoll.sichtbar());
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.bahn().Command_protokoll.klicken();
+    ASSERT_TRUE(offen(fenstername::protokoll));
+    EXPECT_TRUE(fenster().Command_weiter.sichtbar());
+    EXPECT_EQ(fenster().Label_hinweis.text(), "1 Überfahrt nicht gezählt.");
+    nur({f::abgelehnt, f::pausen});
+    EXPECT_EQ(zeilen(), (std::vector<std::string>{"1 zu schnell: 1,000 s, gezählt wird ab 5,100 s", "0 Pause"}));
+    t.maschine.laufen(4000);
+    EXPECT_TRUE(offen(fenstername::protokoll));
+    fenster().Command_weiter.klicken();
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv || t.bahn().Command_protokoll.sichtbar());
+    t.maschine.laufen(100);
+    EXPECT_FALSE(offen(fenstername::protokoll));
+    t.bahn().Command4.klicken();
+    t.p.auswertung.Command_protokoll.klicken();
+    ASSERT_TRUE(offen(fenstername::protokoll));
+    EXPECT_FALSE(fenster().Command_weiter.sichtbar());
+    EXPECT_TRUE(offen(fenstername::auswertung));
+}
+
+TEST_F(Protokollfenster, SpurUndArtWaehlenUndDieWahlBleibt) {
+    fahren();
+    t.bahn().Command4.klicken();
+    t.p.auswertung.Command_protokoll.klicken();
+    nur({f::runden, f::abgelehnt});
+    EXPECT_EQ(zeilen().size(), 4U);
+    fenster().waehlen(3);
+    ASSERT_TRUE(fenster().zeile(3).ist_abgelehnt());
+    fenster().cbo_spur.waehlen(1);
+    EXPECT_EQ(zeilen().size(), 3U);
+    EXPECT_EQ(fenster().gewaehlt(), 2) << "the same happening";
+    fenster().Check_gruppe[f::abgelehnt].umschalten();
+    EXPECT_EQ(fenster().gewaehlt(), -1);
+    fenster().cbo_spur.waehlen(2);
+    EXPECT_EQ(zeilen().size(), 1U);
+}
+
+TEST_F(Protokollfenster, AusschnittBleibtImRennenUndZeigtDieWahl) {
+    fahren();
+    t.maschine.laufen(60000);
+    t.bahn().Command4.klicken();
+    t.p.auswertung.Command_protokoll.klicken();
+    const f::zeitraum alles = fenster().ganzes();
+    EXPECT_EQ(fenster().ausschnitt(), alles);
+    fenster().zoomen(2, 5000);
+    EXPECT_EQ(fenster().ausschnitt(), alles);
+    fenster().zoomen(0.25, 40000);
+    const f::zeitraum teil = fenster().ausschnitt();
+    EXPECT_NEAR(static_cast<double>(teil.dauer()), static_cast<double>(alles.dauer()) / 4, 1);
+    EXPECT_TRUE(teil.von > 7000 && teil.bis < alles.bis);
+    fenster().waehlen(fenster().naechste_zeile(1, 1100, 500));
+    ASSERT_EQ(fenster().gewaehlt() >= 0, true);
+    const zeit_ms zeit = fenster().zeile(static_cast<std::size_t>(fenster().gewaehlt())).seit_gruen;
+    EXPECT_TRUE(zeit >= fenster().ausschnitt().von && zeit <= fenster().ausschnitt().bis);
+    fenster().schieben(-1000000);
+    EXPECT_EQ(fenster().ausschnitt().von, alles.von);
+    fenster().zoomen(0, 0);
+    EXPECT_EQ(fenster().ausschnitt().dauer(), 1000);
+    fenster().Command_ganz.klicken();
+    EXPECT_EQ(fenster().ausschnitt(), alles);
+    EXPECT_EQ(fenster().naechste_zeile(2, 4000, 100), -1);
+}
+
+TEST_F(Protokollfenster, WaehltUnterAllenProtokollenAuchBeschaedigten) {
+    t.p.w_auswertung2.Command_protokoll.klicken();
+    EXPECT_EQ(fenster().Label_hinweis.text(), "Es gibt noch kein Protokoll.");
+    t.p.fenster.entladen(fenstername::protokoll);
+    fahren();
+    t.bahn().Command4.klicken();
+    t.p.auswertung.Command5.klicken();
+    const auto schreiben = [&](const std::string& name, const std::string& inhalt) {
+        std::ofstream(t.p.ablage.pfad(std::string(protokoll_ordner) + "\\" + name), std::ios::binary) << inhalt;
+    };
+    const std::string name = t.p.rennprotokoll.dateiname();
+    const std::string ganz = *protokoll_lesen(t.p.ablage, name.substr(name.rfind('\\') + 1));
+    schreiben("2026-11-22 10-00-00.txt", ganz.substr(0, ganz.size() - 30));
+    schreiben("2026-11-23 10-00-00.txt", "etwas anderes");
+    t.p.w_auswertung2.Command_protokoll.klicken();
+    ASSERT_EQ(fenster().List_dateien.zeilen().size(), 3U);
+    EXPECT_EQ(fenster().List_dateien.zeilen()[2].substr(0, 41), "21.11.2026-14:03  Rennen über 9 Runden: ");
+    EXPECT_EQ(fenster().Label_hinweis.text(), "Dieses Protokoll ist nicht lesbar oder aus einer anderen Version.");
+    fenster().List_dateien.auswaehlen(1);
+    EXPECT_NE(fenster().Label_hinweis.text().find("beschädigt"), std::string::npos);
+    EXPECT_FALSE(zeilen().empty());
+    fenster().List_dateien.auswaehlen(2);
+    EXPECT_EQ(fenster().Label_hinweis.text(), "1 Überfahrt nicht gezählt.");
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,283 @@
+#include "ui/protokoll_fenster.h"
+
+#include <QHeaderView>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "core/text.h"
+#include "ui/stil.h"
+#include "ui/tabellenblatt.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int dateispalte_breite = 300;
+constexpr int fleck_px = 12;
+const QColor abgelehnt_grund{253, 234, 236};
+
+}  // namespace
+
+QString Protokollmodell::text(std::size_t zeile, spalte welche) const {
+    const geschehen& g = logik_.zeile(zeile);
+    switch (welche) {
+        case zeit:
+            return QString::fromStdString(logik_.zeit_von(g));
+        case spur:
+            return g.spur == 0 ? "" : QString::number(g.spur);
+        case fahrer:
+            return QString::fromStdString(logik_.fahrer(g.spur));
+        default:
+            return QString::fromStdString(logik_.worte_von(g));
+    }
+}
+
+QVariant Protokollmodell::data(const QModelIndex& zelle, int rolle) const {
+    if (!zelle.isValid() || static_cast<std::size_t>(zelle.row()) >= logik_.zeilen().size()) {
+        return {};
+    }
+    const auto zeile = static_cast<std::size_t>(zelle.row());
+    const auto welche = static_cast<spalte>(zelle.column());
+    const geschehen& g = logik_.zeile(zeile);
+    const bool abgelehnt = g.ist_abgelehnt();
+    switch (rolle) {
+        case Qt::DisplayRole:
+            return text(zeile, welche);
+        case Qt::ToolTipRole:
+            return welche == was ? text(zeile, welche) : QVariant();
+        case Qt::TextAlignmentRole:
+            return static_cast<int>((welche == zeit ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        case Qt::DecorationRole: {
+            if (welche != spur || g.spur == 0) {
+                return {};
+            }
+            QPixmap fleck(fleck_px, fleck_px);
+            fleck.fill(stil::farbe_von(logik_.einst().farben_spur[g.spur]));
+            return fleck;
+        }
+        case Qt::BackgroundRole:
+            return abgelehnt ? QVariant(abgelehnt_grund) : QVariant();
+        case Qt::ForegroundRole:
+            return abgelehnt ? QVariant(stil::akzent) : QVariant();
+        default:
+            return {};
+    }
+}
+
+QVariant Protokollmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const {
+    if (richtung != Qt::Horizontal || abschnitt < 0 || abschnitt >= spalten_anzahl) {
+        return {};
+    }
+    if (rolle == Qt::TextAlignmentRole) {
+        return static_cast<int>((abschnitt == zeit ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+    return rolle == Qt::DisplayRole
+               ? QVariant(QString::fromStdString(logik_.spalten().at(static_cast<std::size_t>(abschnitt))))
+               : QVariant();
+}
+
+void Protokollmodell::neuerInhalt() {
+    beginResetModel();
+    zeilen_ = static_cast<int>(logik_.zeilen().size());
+    endResetModel();
+}
+
+ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
+                                   QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik) {
+    auto* aufbau = new QHBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(14);
+    aufbau->addWidget(dateispalte());
+    auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(6);
+    TextAnzeige* kopf = binder().anzeige(logik.Label_kopf, "Label_kopf");
+    kopf->setFett(true);
+    kopf->setSchriftPx(18);
+    kopf->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    rechts->addWidget(kopf);
+    rechts->addWidget(stil::leise(binder().label(logik.Label_hinweis, "Label_hinweis")));
+    rechts->addLayout(filterzeile());
+    rechts->addLayout(artenzeile());
+    streifen_ = new Protokollstreifen(logik, this);
+    rechts->addWidget(streifen_);
+    rechts->addWidget(tabelle(), 1);
+    rechts->addLayout(fusszeile());
+    aufbau->addLayout(rechts, 1);
+    logik.inhalt_neu = [this] { inhalt_neu(); };
+    logik.wahl_neu = [this] { wahl_zeigen(); };
+    logik.ausschnitt_neu = [this] { streifen_->neuerBlick(); };
+    logik.drucken = [this] { drucken(); };
+    logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
+    setMinimumSize(760, 480);
+    resize(1180, 760);
+    inhalt_neu();
+}
+
+QWidget* ProtokollFenster::dateispalte() {
+    auto* feld = new QWidget(this);
+    feld->setFixedWidth(dateispalte_breite);
+    auto* aufbau = new QVBoxLayout(feld);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->setSpacing(6);
+    aufbau->addWidget(stil::leise(binder().label(logik_.Label_dateien, "Label_dateien")));
+    QListView* liste = binder().listenfeld(logik_.List_dateien, "List_dateien");
+    liste->setWordWrap(true);
+    liste->setUniformItemSizes(false);
+    liste->setTextElideMode(Qt::ElideNone);
+    aufbau->addWidget(liste, 1);
+    binder().verbinden(logik_.Frame_dateien, feld, "Frame_dateien", {});
+    return feld;
+}
+
+QLayout* ProtokollFenster::filterzeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(binder().label(logik_.Label_spur, "Label_spur"));
+    QComboBox* spur = binder().auswahlfeld(logik_.cbo_spur, "cbo_spur");
+    spur->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    zeile->addWidget(spur);
+    zeile->addStretch(1);
+    zeile->addWidget(binder().knopf(logik_.Command_groesser, "Command_groesser", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_kleiner, "Command_kleiner", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_ganz, "Command_ganz", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf", "schmal"));
+    return zeile;
+}
+
+QLayout* ProtokollFenster::artenzeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(10);
+    for (std::size_t i = 0; i < logik_.Check_gruppe.size(); ++i) {
+        zeile->addWidget(binder().kasten(logik_.Check_gruppe.at(i), "Check_gruppe_" + QString::number(i)));
+    }
+    zeile->addStretch(1);
+    return zeile;
+}
+
+QTableView* ProtokollFenster::tabelle() {
+    tabelle_ = new QTableView(this);
+    tabelle_->setObjectName("protokoll.tabelle");
+    modell_ = new Protokollmodell(logik_, tabelle_);
+    tabelle_->setModel(modell_);
+    tabelle_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    tabelle_->setSelectionMode(QAbstractItemView::SingleSelection);
+    tabelle_->setShowGrid(false);
+    tabelle_->setTabKeyNavigation(false);
+    tabelle_->setWordWrap(false);
+    tabelle_->verticalHeader()->hide();
+    tabelle_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);  // nobody measures ten thousand rows
+    tabelle_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    tabelle_->horizontalHeader()->setHighlightSections(false);
+    tabelle_->horizontalHeader()->setStretchLastSection(true);
+    const int em = fontMetrics().height();
+    for (const auto& [spalte, breite] : {std::pair{Protokollmodell::zeit, 5 * em},
+                                         {Protokollmodell::spur, 3 * em + fleck_px},
+                                         {Protokollmodell::fahrer, 10 * em}}) {
+        tabelle_->setColumnWidth(spalte, breite);
+    }
+    QObject::connect(tabelle_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                     [this](const QModelIndex& neu) {
+                         if (neu.isValid()) {
+                             logik_.waehlen(neu.row());
+                         }
+                     });
+    return tabelle_;
+}
+
+QLayout* ProtokollFenster::fusszeile() {
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(8);
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_wiedergabe, "Command_wiedergabe")));
+    zeile->addStretch(1);
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_weiter, "Command_weiter")));
+    zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command_schliessen, "Command_schliessen")));
+    return zeile;
+}
+
+void ProtokollFenster::inhalt_neu() {
+    modell_->neuerInhalt();
+    tabelle_->setAccessibleName(windowTitle());
+    streifen_->setAccessibleName(windowTitle());
+    streifen_->neuerInhalt();
+    wahl_zeigen();
+}
+
+void ProtokollFenster::wahl_zeigen() {
+    const QModelIndex zelle = modell_->index(logik_.gewaehlt(), 0);
+    if (zelle.isValid()) {
+        tabelle_->selectionModel()->setCurrentIndex(zelle,
+                                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        tabelle_->scrollTo(zelle);
+    } else {
+        tabelle_->selectionModel()->clear();
+    }
+    tabelle_->viewport()->update();
+    streifen_->neuerBlick();
+}
+
+void ProtokollFenster::aufschlagen() {
+    if (!isVisible()) {
+        const QSize platz = screen()->availableGeometry().size();
+        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
+    }
+    Fenster::aufschlagen();
+}
+
+blattseiten ProtokollFenster::seiten() const {
+    const streifeninhalt inhalt = [this] {
+        streifeninhalt alles = streifeninhalt_bilden(logik_);
+        alles.gewaehlt = -1;
+        return alles;
+    }();
+    tabellenblatt blatt{windowTitle(), QString::fromStdString(logik_.kopf()), {}, {}};
+    const auto zeile = [](const QString& zeit, const QString& spur, const QString& fahrer, const QString& was) {
+        return zeit.rightJustified(12) + "  " + spur.leftJustified(5) + fahrer.left(20).leftJustified(22) + was;
+    };
+    const auto& kopf = logik_.spalten();
+    const auto wort = [&](std::size_t i) { return QString::fromStdString(kopf.at(i)); };
+    blatt.spalten = zeile(wort(0), wort(1), wort(2), wort(3));
+    for (std::size_t i = 0; i < logik_.zeilen().size(); ++i) {
+        using m = Protokollmodell;
+        blatt.zeilen.push_back({zeile(modell_->text(i, m::zeit), modell_->text(i, m::spur), modell_->text(i, m::fahrer),
+                                      modell_->text(i, m::was)),
+                                logik_.zeile(i).ist_abgelehnt()});
+    }
+    const blattseiten liste = tabellenseiten(blatt);
+    const auto bild = [inhalt, blatt](QPainter& maler, const QSizeF& groesse) {
+        constexpr double kopf_hoehe = 175;  // all measures in tenths of a millimetre
+        constexpr double zeile_hoehe_max = 220;
+        blatttext(maler, {0, 0, groesse.width(), 85}, Qt::AlignLeft, blatt.titel, {78, true, stil::schrift});
+        blatttext(maler, {0, 90, groesse.width(), 55}, Qt::AlignLeft, blatt.kopf, {44, false, stil::schrift_leise});
+        const double hoehe =
+            std::min(groesse.height() - kopf_hoehe,
+                     70 + zeile_hoehe_max * static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1)));
+        streifen_malen(maler, {0, kopf_hoehe, groesse.width(), hoehe}, inhalt, 38);
+    };
+    return {windowTitle(), [liste](const QSizeF& groesse) { return 1 + liste.anzahl(groesse); },
+            [liste, bild](QPainter& maler, const QSizeF& groesse, int nummer) {
+                if (nummer == 0) {
+                    bild(maler, groesse);
+                } else {
+                    liste.zeichnen(maler, groesse, nummer - 1);
+                }
+            }};
+}
+
+void ProtokollFenster::drucken() {
+    blatt_drucken(this, seiten(), [this] { logik_.druck_misslungen(); });
+}
+
+void ProtokollFenster::pdf_speichern(const dateien& ablage) {
+    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
+    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
+                     [this, alle = seiten()](const QString& pfad) {
+                         if (!blatt_als_pdf(pfad, alle)) {
+                             logik_.pdf_misslungen();
+                         }
+                     });
+}
+
+}  // namespace tarvel::ui

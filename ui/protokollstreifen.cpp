@@ -1,0 +1,375 @@
+#include "ui/protokollstreifen.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWheelEvent>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+
+#include "ui/blattausgabe.h"
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+const QColor pausenfarbe{255, 236, 150};
+const QColor tankfarbe{70, 130, 200};
+const QColor strafenfarbe{150, 80, 170};
+
+/// Where everything is.
+class feldmass {
+public:
+    feldmass(const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
+        : inhalt_(inhalt),
+          feld_(flaeche.adjusted(9 * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px, -0.3 * schrift_px)),
+          zeile_(feld_.height() / static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1))) {}
+
+    const QRectF& feld() const { return feld_; }
+    double x(zeit_ms zeit) const { return feld_.left() + static_cast<double>(zeit - inhalt_.zeitraum.von) * je_ms(); }
+    double je_ms() const { return feld_.width() / static_cast<double>(std::max<zeit_ms>(inhalt_.zeitraum.dauer(), 1)); }
+    zeit_ms zeit(double x) const { return inhalt_.zeitraum.von + std::llround((x - feld_.left()) / je_ms()); }
+    QRectF zeile(std::size_t nummer) const {
+        return {feld_.left(), feld_.top() + zeile_ * static_cast<double>(nummer), feld_.width(), zeile_};
+    }
+    /// The row of the lane; the whole field for all lanes, nothing for one that does not drive.
+    QRectF zeile_von(int spur) const {
+        if (spur == 0) {
+            return feld_;
+        }
+        for (std::size_t i = 0; i < inhalt_.zeilen.size(); ++i) {
+            if (inhalt_.zeilen[i].spur == spur) {
+                return zeile(i);
+            }
+        }
+        return {};
+    }
+    int spur_bei(double y) const {
+        for (std::size_t i = 0; i < inhalt_.zeilen.size(); ++i) {
+            if (y >= zeile(i).top() && y < zeile(i).bottom()) {
+                return inhalt_.zeilen[i].spur;
+            }
+        }
+        return 0;
+    }
+
+private:
+    const streifeninhalt& inhalt_;
+    QRectF feld_;
+    double zeile_;
+};
+
+/// Paints one strip. Marks that would cover each other are painted once.
+class streifenmaler {
+public:
+    streifenmaler(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
+        : maler_(maler), flaeche_(flaeche), inhalt_(inhalt), px_(schrift_px), mass_(flaeche, inhalt, schrift_px) {}
+
+    void malen() {
+        grund();
+        maler_.save();
+        maler_.setClipRect(mass_.feld().adjusted(-1, -1, 1, 1));
+        balken(vorgang::pause, pausenfarbe, 0, 1);
+        linien();
+        balken(vorgang::strom_aus, strafenfarbe, 0.72, 0.16);
+        balken(vorgang::tankt, tankfarbe, 0.72, 0.16);
+        marken();
+        wahl();
+        maler_.restore();
+    }
+
+private:
+    bool sichtbar(const geschehen& g) const {
+        const zeit_ms bis =
+            g.bis == geschehen::keine || g.ist_abgelehnt() ? g.seit_gruen : std::max(g.bis, g.seit_gruen);
+        return bis >= inhalt_.zeitraum.von && g.seit_gruen <= inhalt_.zeitraum.bis;
+    }
+
+    void grund() {
+        maler_.fillRect(mass_.feld(), stil::karte);
+        for (std::size_t i = 0; i < inhalt_.zeilen.size(); ++i) {
+            const streifeninhalt::zeile& z = inhalt_.zeilen[i];
+            const QRectF zeile = mass_.zeile(i);
+            const double fleck = 0.7 * px_;
+            maler_.fillRect(QRectF(flaeche_.left() + 2, zeile.center().y() - fleck / 2, fleck, fleck), z.farbe);
+            blatttext(maler_, {flaeche_.left() + px_ + 4, zeile.top(), 8 * px_ - 8, zeile.height()}, Qt::AlignLeft,
+                      z.name, {px_, false, stil::schrift});
+        }
+        zeitachse();
+    }
+
+    void zeitachse() {
+        constexpr std::array<zeit_ms, 16> schritte{100,   200,    500,    1000,   2000,    5000,    10000,   30000,
+                                                   60000, 120000, 300000, 600000, 1800000, 3600000, 7200000, 36000000};
+        const double mindestens = 6 * px_;
+        zeit_ms schritt = schritte.back();
+        for (const zeit_ms s : schritte) {
+            if (static_cast<double>(s) * mass_.je_ms() >= mindestens) {
+                schritt = s;
+                break;
+            }
+        }
+        const zeit_ms von = inhalt_.zeitraum.von;
+        maler_.setPen(QPen(stil::linie, px_ / 14));
+        for (zeit_ms t = von / schritt * schritt; t <= inhalt_.zeitraum.bis; t += schritt) {
+            if (t < von) {
+                continue;
+            }
+            const double x = mass_.x(t);
+            maler_.setPen(QPen(stil::linie, px_ / 14));
+            maler_.drawLine(QPointF(x, mass_.feld().top()), QPointF(x, mass_.feld().bottom()));
+            blatttext(maler_, {x - 3 * px_, flaeche_.top(), 6 * px_, 1.5 * px_}, Qt::AlignHCenter,
+                      QString::fromStdString(hergang_zeit(t, schritt < 1000 ? 1 : 0, ',')),
+                      {0.85 * px_, false, stil::schrift_leise});
+        }
+    }
+
+    void linien() {
+        maler_.setPen(QPen(stil::linie, px_ / 10));
+        for (std::size_t i = 0; i <= inhalt_.zeilen.size(); ++i) {
+            const double y = mass_.zeile(i).top();
+            maler_.drawLine(QPointF(mass_.feld().left(), y), QPointF(mass_.feld().right(), y));
+        }
+    }
+
+    /// `oben` and `hoehe` in parts of the row.
+    void balken(vorgang was, const QColor& farbe, double oben, double hoehe) {
+        for (const geschehen& g : inhalt_.geschehnisse) {
+            if (g.was == was && g.bis != geschehen::keine && sichtbar(g)) {
+                const QRectF zeile = mass_.zeile_von(g.spur);
+                const double x = std::max(mass_.x(g.seit_gruen), mass_.feld().left());
+                const double bis = std::min(mass_.x(g.bis), mass_.feld().right());
+                maler_.fillRect(
+                    QRectF(x, zeile.top() + oben * zeile.height(), std::max(bis - x, px_ / 8), hoehe * zeile.height()),
+                    farbe);
+            }
+        }
+    }
+
+    void marken() {
+        std::map<std::pair<int, bool>, double> zuletzt;  // by lane, and refused or not
+        for (const geschehen& g : inhalt_.geschehnisse) {
+            const bool kreuz = g.ist_abgelehnt();
+            const bool strich = g.was == vorgang::runde;
+            if (g.spur == 0 ? !ganze_hoehe(g.was)
+                            : !(kreuz || strich || g.was == vorgang::ziel || g.was == vorgang::fruehstart ||
+                                g.was == vorgang::strafe)) {
+                continue;
+            }
+            const double x = mass_.x(g.seit_gruen);
+            const auto vorher = zuletzt.find({g.spur, kreuz});
+            if (!sichtbar(g) || (vorher != zuletzt.end() && x - vorher->second < px_ / 12)) {
+                continue;
+            }
+            zuletzt[{g.spur, kreuz}] = x;
+            marke(g, x);
+        }
+    }
+
+    static bool ganze_hoehe(vorgang was) { return was == vorgang::gruen || was == vorgang::ende; }
+
+    void marke(const geschehen& g, double x) {
+        const QRectF zeile = mass_.zeile_von(g.spur);
+        if (zeile.isEmpty()) {
+            return;
+        }
+        const double r = std::min(0.3 * px_, 0.3 * zeile.height());
+        if (g.spur == 0) {
+            maler_.setPen(QPen(g.was == vorgang::gruen ? QColor(20, 140, 60) : stil::schrift, px_ / 6));
+            maler_.drawLine(QPointF(x, zeile.top()), QPointF(x, zeile.bottom()));
+        } else if (g.ist_abgelehnt()) {
+            maler_.setPen(QPen(stil::akzent, px_ / 6));
+            const QPointF m = zeile.center();
+            maler_.drawLine(QPointF(x - r, m.y() - r), QPointF(x + r, m.y() + r));
+            maler_.drawLine(QPointF(x - r, m.y() + r), QPointF(x + r, m.y() - r));
+        } else if (g.was == vorgang::runde) {
+            maler_.setPen(QPen(stil::schrift, px_ / 10));
+            maler_.drawLine(QPointF(x, zeile.top() + 0.2 * zeile.height()),
+                            QPointF(x, zeile.top() + 0.66 * zeile.height()));
+        } else {
+            maler_.setPen(Qt::NoPen);
+            maler_.setBrush(g.was == vorgang::ziel ? stil::schrift : strafenfarbe);
+            maler_.drawEllipse(QPointF(x, zeile.top() + 0.8 * zeile.height()), r, r);
+        }
+    }
+
+    void wahl() {
+        if (inhalt_.gewaehlt < 0 || static_cast<std::size_t>(inhalt_.gewaehlt) >= inhalt_.geschehnisse.size()) {
+            return;
+        }
+        const geschehen& g = inhalt_.geschehnisse[static_cast<std::size_t>(inhalt_.gewaehlt)];
+        const QRectF zeile = mass_.zeile_von(g.spur);
+        const double x = mass_.x(g.seit_gruen);
+        QColor hell = stil::akzent;
+        hell.setAlpha(60);
+        maler_.fillRect(QRectF(x - 0.4 * px_, zeile.top(), 0.8 * px_, zeile.height()), hell);
+        maler_.setPen(QPen(stil::akzent, px_ / 10));
+        maler_.setBrush(Qt::NoBrush);
+        maler_.drawRect(QRectF(x - 0.4 * px_, zeile.top(), 0.8 * px_, zeile.height()));
+    }
+
+    QPainter& maler_;
+    QRectF flaeche_;
+    const streifeninhalt& inhalt_;
+    double px_;
+    feldmass mass_;
+};
+
+}  // namespace
+
+streifeninhalt streifeninhalt_bilden(const protokollfenster& logik) {
+    streifeninhalt inhalt;
+    for (const int spur : alle_spuren) {
+        if (logik.faehrt(spur)) {
+            inhalt.zeilen.push_back({spur, QString::number(spur) + "  " + QString::fromStdString(logik.fahrer(spur)),
+                                     stil::farbe_von(logik.einst().farben_spur[spur])});
+        }
+    }
+    inhalt.geschehnisse.reserve(logik.zeilen().size());
+    for (std::size_t i = 0; i < logik.zeilen().size(); ++i) {
+        inhalt.geschehnisse.push_back(logik.zeile(i));
+    }
+    inhalt.zeitraum = logik.ausschnitt();
+    inhalt.gewaehlt = logik.gewaehlt();
+    return inhalt;
+}
+
+void streifen_malen(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px) {
+    streifenmaler(maler, flaeche, inhalt, schrift_px).malen();
+}
+
+Protokollstreifen::Protokollstreifen(protokollfenster& logik, QWidget* eltern) : QWidget(eltern), logik_(logik) {
+    setObjectName("protokoll.streifen");
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void Protokollstreifen::neuerInhalt() {
+    inhalt_ = streifeninhalt_bilden(logik_);
+    updateGeometry();
+    update();
+}
+
+void Protokollstreifen::neuerBlick() {
+    inhalt_.zeitraum = logik_.ausschnitt();
+    inhalt_.gewaehlt = logik_.gewaehlt();
+    update();
+}
+
+double Protokollstreifen::schriftPx() const {
+    return fontMetrics().height() * 0.78;
+}
+
+QSize Protokollstreifen::sizeHint() const {
+    const int zeilen = static_cast<int>(std::max<std::size_t>(inhalt_.zeilen.size(), 2));
+    return {600, static_cast<int>(schriftPx() * (2 + 2.1 * zeilen))};
+}
+
+QSize Protokollstreifen::minimumSizeHint() const {
+    return {240, sizeHint().height()};
+}
+
+void Protokollstreifen::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    streifen_malen(maler, rect(), inhalt_, schriftPx());
+    if (hasFocus()) {
+        maler.setPen(QPen(stil::akzent, 1));
+        maler.setBrush(Qt::NoBrush);
+        maler.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+QPointF Protokollstreifen::ortVon(int spur, zeit_ms zeit) const {
+    const feldmass mass(rect(), inhalt_, schriftPx());
+    return {mass.x(zeit), mass.zeile_von(spur).center().y()};
+}
+
+zeit_ms Protokollstreifen::zeitBei(double x) const {
+    return feldmass(rect(), inhalt_, schriftPx()).zeit(x);
+}
+
+zeit_ms Protokollstreifen::zeitVon(double pixel) const {
+    return std::llround(pixel / feldmass(rect(), inhalt_, schriftPx()).je_ms());
+}
+
+int Protokollstreifen::zeileBei(const QPointF& ort) const {
+    constexpr double nah_px = 8;
+    const feldmass mass(rect(), inhalt_, schriftPx());
+    if (!mass.feld().contains(ort)) {
+        return -1;
+    }
+    return logik_.naechste_zeile(mass.spur_bei(ort.y()), zeitBei(ort.x()), zeitVon(nah_px));
+}
+
+void Protokollstreifen::wheelEvent(QWheelEvent* ereignis) {
+    constexpr double raste = 120;
+    constexpr double faktor = 1.25;
+    const QPoint drehung = ereignis->angleDelta();
+    if (drehung.x() != 0 || (ereignis->modifiers() & Qt::ShiftModifier) != 0) {
+        logik_.schieben(zeitVon(-(drehung.x() != 0 ? drehung.x() : drehung.y()) / 2.0));
+    } else if (drehung.y() != 0) {
+        logik_.zoomen(std::pow(faktor, -drehung.y() / raste), zeitBei(ereignis->position().x()));
+    }
+    ereignis->accept();
+}
+
+void Protokollstreifen::mousePressEvent(QMouseEvent* ereignis) {
+    druck_ = ereignis->position();
+    gezogen_bis_ = druck_.x();
+    gezogen_ = false;
+}
+
+void Protokollstreifen::mouseMoveEvent(QMouseEvent* ereignis) {
+    constexpr double ab_px = 5;
+    if ((ereignis->buttons() & Qt::LeftButton) == 0) {
+        return;
+    }
+    const double x = ereignis->position().x();
+    gezogen_ = gezogen_ || std::abs(x - druck_.x()) > ab_px;
+    if (gezogen_) {
+        logik_.schieben(zeitVon(gezogen_bis_ - x));
+        gezogen_bis_ = x;
+    }
+}
+
+void Protokollstreifen::mouseReleaseEvent(QMouseEvent* ereignis) {
+    if (!gezogen_ && ereignis->button() == Qt::LeftButton) {
+        logik_.waehlen(zeileBei(ereignis->position()));
+    }
+}
+
+void Protokollstreifen::keyPressEvent(QKeyEvent* ereignis) {
+    const int letzte = static_cast<int>(logik_.zeilen().size()) - 1;
+    switch (ereignis->key()) {
+        case Qt::Key_Left:
+            logik_.waehlen(std::max(logik_.gewaehlt() - 1, std::min(letzte, 0)));
+            break;
+        case Qt::Key_Right:
+            logik_.waehlen(std::min(logik_.gewaehlt() + 1, letzte));
+            break;
+        default:
+            QWidget::keyPressEvent(ereignis);
+    }
+}
+
+bool Protokollstreifen::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::ToolTip) {
+        const auto* hilfe = static_cast<QHelpEvent*>(ereignis);
+        const int zeile = zeileBei(hilfe->pos());
+        if (zeile < 0) {
+            QToolTip::hideText();
+        } else {
+            const geschehen& g = logik_.zeile(static_cast<std::size_t>(zeile));
+            QToolTip::showText(hilfe->globalPos(),
+                               QString::fromStdString(logik_.zeit_von(g) + "  " + logik_.worte_von(g)), this);
+        }
+        return true;
+    }
+    return QWidget::event(ereignis);
+}
+
+}  // namespace tarvel::ui
