@@ -189,6 +189,9 @@ void protokollfenster::datei_lesen(const std::string& name) {
     gewaehlt_ = -1;
     filtern();
     Label_hinweis.text(hinweis());
+    if (um_.r.zustand.chaos_aktiv) {
+        waehlen(static_cast<int>(zeilen_.size()) - 1);  // whoever asks in a pause asks about what was just now
+    }
 }
 
 std::string protokollfenster::fahrer(int spur) const {

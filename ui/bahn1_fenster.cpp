@@ -265,11 +265,12 @@ void Bahn1Fenster::anordnen() {
 }
 
 void Bahn1Fenster::protokollknopf_anordnen() {
-    const QRect frei = teil(f::werbe_label)->geometry();  // there is nothing to advertise in a pause
+    const QRect frei = teil(f::werbe_label)->geometry();
     const QRect befehl = teil(f::Command3)->geometry();
     const bool daneben = frei.width() >= befehl.width() / 2;
     const QRect& ort = daneben ? frei : teil(f::Command1)->geometry();  // which nobody can give in a pause
-    protokoll_->setGeometry(ort.x(), befehl.y(), std::min(befehl.width(), ort.width()), befehl.height());
+    const bool schmal = ort.width() < 5 * befehl.width() / 2;           // half of a text in the place would look broken
+    protokoll_->setGeometry(ort.x(), befehl.y(), schmal ? ort.width() : befehl.width(), befehl.height());
     protokoll_->setFont(teil(f::Command3)->font());
     protokoll_->raise();
 }

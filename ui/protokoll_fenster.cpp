@@ -1,5 +1,6 @@
 #include "ui/protokoll_fenster.h"
 
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -99,7 +100,7 @@ ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablag
     rechts->addWidget(kopf);
     rechts->addWidget(stil::leise(binder().label(logik.Label_hinweis, "Label_hinweis")));
     rechts->addLayout(filterzeile());
-    rechts->addLayout(artenzeile());
+    rechts->addLayout(artenfeld());
     streifen_ = new Protokollstreifen(logik, this);
     rechts->addWidget(streifen_);
     rechts->addWidget(tabelle(), 1);
@@ -147,14 +148,16 @@ QLayout* ProtokollFenster::filterzeile() {
     return zeile;
 }
 
-QLayout* ProtokollFenster::artenzeile() {
-    auto* zeile = new QHBoxLayout;
-    zeile->setSpacing(10);
-    for (std::size_t i = 0; i < logik_.Check_gruppe.size(); ++i) {
-        zeile->addWidget(binder().kasten(logik_.Check_gruppe.at(i), "Check_gruppe_" + QString::number(i)));
+QLayout* ProtokollFenster::artenfeld() {
+    constexpr int spalten = 5;
+    auto* felder = new QGridLayout;
+    felder->setHorizontalSpacing(14);
+    felder->setVerticalSpacing(2);
+    for (int i = 0; i < static_cast<int>(logik_.Check_gruppe.size()); ++i) {
+        haken& kasten = logik_.Check_gruppe.at(static_cast<std::size_t>(i));
+        felder->addWidget(binder().kasten(kasten, "Check_gruppe_" + QString::number(i)), i / spalten, i % spalten);
     }
-    zeile->addStretch(1);
-    return zeile;
+    return felder;
 }
 
 QTableView* ProtokollFenster::tabelle() {

@@ -40,7 +40,7 @@ public:
 private:
     QWidget* dateispalte();
     QLayout* filterzeile();
-    QLayout* artenzeile();
+    QLayout* artenfeld();
     QTableView* tabelle();
     QLayout* fusszeile();
     void inhalt_neu();

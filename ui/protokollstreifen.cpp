@@ -16,6 +16,7 @@
 namespace tarvel::ui {
 namespace {
 
+constexpr double namen_em = 10;  // width of the names
 const QColor pausenfarbe{255, 236, 150};
 const QColor tankfarbe{70, 130, 200};
 const QColor strafenfarbe{150, 80, 170};
@@ -25,7 +26,7 @@ class feldmass {
 public:
     feldmass(const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
         : inhalt_(inhalt),
-          feld_(flaeche.adjusted(9 * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px, -0.3 * schrift_px)),
+          feld_(flaeche.adjusted(namen_em * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px, -0.3 * schrift_px)),
           zeile_(feld_.height() / static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1))) {}
 
     const QRectF& feld() const { return feld_; }
@@ -95,8 +96,13 @@ private:
             const QRectF zeile = mass_.zeile(i);
             const double fleck = 0.7 * px_;
             maler_.fillRect(QRectF(flaeche_.left() + 2, zeile.center().y() - fleck / 2, fleck, fleck), z.farbe);
-            blatttext(maler_, {flaeche_.left() + px_ + 4, zeile.top(), 8 * px_ - 8, zeile.height()}, Qt::AlignLeft,
-                      z.name, {px_, false, stil::schrift});
+            const double breite = (namen_em - 1) * px_ - 8;
+            const QFont schrift = schrift_mit(px_, false);
+            maler_.setFont(schrift);
+            maler_.setPen(stil::schrift);
+            maler_.drawText(QRectF(flaeche_.left() + px_ + 4, zeile.top(), breite, zeile.height()),
+                            static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine),
+                            QFontMetricsF(schrift).elidedText(z.name, Qt::ElideRight, breite));
         }
         zeitachse();
     }

@@ -130,7 +130,7 @@ void einfahren_zeigen(buehne& b, bool runden, int laenge, std::initializer_list<
 void bewegtes_rennen(buehne& b) {
     b.p.einst.chaosampel_an = false;
     b.p.einst.chaos_strafe_strom = false;
-    b.p.einst.tank_inhalt = 20;
+    b.p.einst.tank_inhalt = 60;
     b.p.form1.t_aktiv.gesetzt(true);
     b.rundenrennen(38000, "24", {1, 2, 3, 4});
     b.t.runde_nach(400, "3");
