@@ -19,7 +19,8 @@
 
 namespace tarvel {
 
-/// A stamp or count as a log holds it. A damaged log may hold any number: nothing that is computed with these overflows.
+/// A stamp or count as a log holds it. A damaged log may hold any number: nothing that is computed with these
+/// overflows.
 constexpr std::int64_t protokoll_stempel(std::int64_t wert) {
     constexpr std::int64_t grenze = 10'000'000'000'000;
     return wert < -grenze ? -grenze : wert > grenze ? grenze : wert;
@@ -216,8 +217,8 @@ private:
     std::unordered_map<std::string, int> nummer_;
     std::function<beiwerk()> nebenbei_lesen_ = [] { return beiwerk{}; };
     std::function<void(const beiwerk&)> nebenbei_setzen_ = [](const beiwerk& /*werte*/) {};
-    beiwerk nebenbei_{unbekannt};  ///< as the last doing that was written has left it
-    std::vector<zug> zuege_;       ///< that are under way, each within the one before
+    beiwerk nebenbei_{unbekannt};          ///< as the last doing that was written has left it
+    std::vector<zug> zuege_;               ///< that are under way, each within the one before
     std::vector<std::string> ausstehend_;  ///< lines for the reader that wait for their end
 
     protokollsenke* senke_ = nullptr;

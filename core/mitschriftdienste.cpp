@@ -70,8 +70,7 @@ void mitschriftdienste::zeitgeber_starten() {
 }
 
 double mitschriftdienste::zufall::bruchteil() {
-    const std::int64_t gezogen =
-        m.antwort("zufall", [&] { return std::bit_cast<std::int64_t>(echte.bruchteil()); });
+    const std::int64_t gezogen = m.antwort("zufall", [&] { return std::bit_cast<std::int64_t>(echte.bruchteil()); });
     constexpr double hoechstens = 0x1.fffffffffffffp-1;  // below 1
     return std::clamp(protokoll_bruch(gezogen, 0), 0.0, hoechstens);
 }

@@ -89,7 +89,8 @@ void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
             chaos_at_zaehler = static_cast<int>(erstes);
             break;
         case eingang::zeile:
-            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, protokoll_stempel(w[4]), protokoll_stempel(w[5]), false};
+            (*this)[nummer] = {w[1] != 0, w[2] != 0, w[3] != 0, protokoll_stempel(w[4]), protokoll_stempel(w[5]),
+                               false};
             break;
     }
 }

@@ -82,11 +82,11 @@ public:
     befehl Command_drucken;
     befehl Command_pdf;
     befehl Command_wiedergabe;  ///< the race runs again
-    rahmen Frame1;          ///< the two commands that move drivers
-    haken spurwechsel;      ///< drivers go to their next lanes; as the operator left it
-    haken tauschfahrzeug;   ///< and vehicles with them
-    bezeichnung Label_bis;  ///< new target of a race that goes on
-    feld neues_ziel;        ///< laps, or minutes and seconds as on the main window
+    rahmen Frame1;              ///< the two commands that move drivers
+    haken spurwechsel;          ///< drivers go to their next lanes; as the operator left it
+    haken tauschfahrzeug;       ///< and vehicles with them
+    bezeichnung Label_bis;      ///< new target of a race that goes on
+    feld neues_ziel;            ///< laps, or minutes and seconds as on the main window
     bezeichnung ziel_einheit;
     bezeichnung trainingslabel;  ///< counts down to the next round of a training
 
