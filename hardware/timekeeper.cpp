@@ -94,7 +94,6 @@ void timekeeper::schliessen() {
     zeitgeber_.tk_timer->aus();
     zeitgeber_.tk_sync->aus();
     leitung_.schliessen();
-    geraeteuhr_.vergessen();
 }
 
 bool timekeeper::verbunden() const {

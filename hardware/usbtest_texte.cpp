@@ -26,8 +26,8 @@ sprachliste usbtest::sprache() {
     texte.text("Das Modul wurde abgezogen", wort_.getrennt).text("Kontakt", wort_.lampe);
     texte.text("Ausgang schalten", wort_.schalten).text("Funktion", wort_.funktion);
     texte.text("Dieser Dateiname ist nicht zulässig.", wort_.name);
-    texte.text("Die Lampen stehen still, bis wieder gelesen oder gesetzt wird.", wort_.angehalten);
-    texte.text("Die Lampen folgen wieder den Kontakten.", wort_.weiter);
+    texte.text("angehalten, weiter mit „lesen“", wort_.angehalten);
+    texte.text("läuft weiter", wort_.weiter);
     return texte.text("gespeichert", wort_.gespeichert).text("geladen", wort_.geladen);
 }
 

@@ -202,6 +202,14 @@ struct Geraetewechsel : bibliotheken_dahinter, testing::Test {
     std::array<std::string, 8> leitung;
 };
 
+TEST_F(Geraetewechsel, AmEndeIstKeinesOffenAuchNichtHinterEinemFenster) {
+    waehlen(6);
+    t.p.fenster.zeigen(fenstername::cu_eigenschaften);
+    t.p.programm_beenden();
+    EXPECT_EQ(offene(), std::vector<std::size_t>{});
+    EXPECT_EQ(io.offen, 0);
+}
+
 TEST_F(Geraetewechsel, NachJedemAnderenMisstDasNeueAllein) {
     std::array<std::size_t, 8> zeitgeber{};
     waehlen(0);

@@ -164,6 +164,9 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     w.Command3.klicken();
     EXPECT_EQ(t.p.einst.iow.iow_datei, "klub.iow");
     EXPECT_EQ(iow_profil_laden(t.p.ablage, "klub.iow")->at(2), 32);
+    w.Command1.klicken();
+    EXPECT_TRUE(w.Frame[2].sichtbar());
+    EXPECT_EQ(w.combo_c[2].platz(), 3);
     w.combo_c[0].waehlen(24);
     w.c[0].umschalten();
     EXPECT_EQ(brett.ausgang[1], 0xFE) << "that pin, although another one has the same meaning";
@@ -173,7 +176,7 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
         static_cast<int>(std::find(dateien.begin(), dateien.end(), "tvk_usb.iow") - dateien.begin()));
     w.Command10.klicken();
     EXPECT_EQ(t.p.einst.iow.iow_datei, "tvk_usb.iow") << "it is in force";
-    EXPECT_EQ(w.combo_c[2].platz(), 3);
+    EXPECT_EQ(w.combo_c[0].platz(), 1);
     brett.steckt = false;
     t.maschine.laufen(1100);
     EXPECT_NE(w.protokoll.zeilen().back().find("abgezogen"), std::string::npos);

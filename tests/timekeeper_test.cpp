@@ -166,6 +166,22 @@ TEST_F(Timekeeper, DieUhrDesRennensFolgtDerDesGeraetsUndGehtNieZurueck) {
     }
 }
 
+TEST_F(Timekeeper, EineVerspaeteteErsteAntwortVerschiebtKeineRunde) {
+    bereit(5000);
+    beginn -= 3000;  // what the box said had been held up so long
+    t.starten("Runden", "20", {1});
+    t.maschine.laufen(1000);
+    const zeit_ms erste = geraetezeit() - 3000;
+    sagt("D1|" + std::to_string(erste) + ">");
+    for (int i = 0; i < 2; ++i) {
+        t.maschine.laufen(1000);
+        sagt("|" + std::to_string(geraetezeit() + 1) + ">");
+    }
+    t.maschine.laufen(6000);
+    sagt("D1|" + std::to_string(erste + 9000) + ">");
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 9000);
+}
+
 TEST_F(Timekeeper, EinVerfaelschterStempelVerschiebtNichts) {
     bereit(100000);
     t.maschine.laufen(1000);
@@ -348,6 +364,9 @@ TEST_F(Timekeeper, DasFensterProbiertSchreibtMitUndSpeichert) {
     EXPECT_TRUE(protokoll("tk_debug_info-4.txt open") && protokoll("file closed"));
     EXPECT_NE(t.maschine.datei_lesen("tk_debug_info-4.txt").find("2345"), std::string::npos);
     f.kanaele[13].sensorart.waehlen(5);
+    f.tk_datei.eingeben("../klub");
+    f.Speichern.klicken();
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, t.p.txt.meldung[22]);
     f.tk_datei.eingeben("klub");
     f.Speichern.klicken();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::timekeeper));
