@@ -138,6 +138,8 @@ QLayout* ProtokollFenster::filterzeile() {
     zeile->addWidget(binder().label(logik_.Label_spur, "Label_spur"));
     QComboBox* spur = binder().auswahlfeld(logik_.cbo_spur, "cbo_spur");
     spur->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // a choice keeps keys for itself, and in a pause they are the race's
+    QObject::connect(spur, &QComboBox::activated, this, [this] { tabelle_->setFocus(); });
     zeile->addWidget(spur);
     zeile->addStretch(1);
     zeile->addWidget(binder().knopf(logik_.Command_groesser, "Command_groesser", "schmal"));
@@ -227,6 +229,7 @@ void ProtokollFenster::aufschlagen() {
         resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
     }
     Fenster::aufschlagen();
+    tabelle_->setFocus();
 }
 
 blattseiten ProtokollFenster::seiten() const {
