@@ -168,6 +168,7 @@ void programm::protokoll_verbinden() {
         rennprotokoll.sichern();
         protokollfenster.zeigen(rennprotokoll.dateiname());
     };
+    protokollfenster.wiedergeben = [this](const std::string& datei) { wiedergabe.zeigen(datei); };
     rennen.bahn1.Command_protokoll.bei_klick = dieses;
     auswertung.Command_protokoll.bei_klick = dieses;
     w_auswertung2.Command_protokoll.bei_klick = [this] { protokollfenster.auswahl_zeigen(); };

@@ -117,6 +117,8 @@ void protokollfenster::laden() {
     name_.clear();
     hergang_ = {};
     Command_weiter.text(um_.r.bahn1.wort.weiter);
+    List_dateien.ansage(Label_dateien.text());
+    cbo_spur.ansage(Label_spur.text());
     Command_wiedergabe.sichtbar(static_cast<bool>(wiedergeben));
 }
 

@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QShortcut>
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "ui/blattausgabe.h"
@@ -126,26 +127,31 @@ void AuswertungFenster::pdf_speichern(const dateien& ablage) {
 }
 
 QLayout* AuswertungFenster::korrekturzeile() {
-    auto* zeile = new QHBoxLayout;
-    zeile->setSpacing(4);
-    const auto knopf = [&](befehl& element, const QString& name) {
-        zeile->addWidget(binder().knopf(element, name, "schmal"));
+    auto* zeilen = new QVBoxLayout;  // in one row they would be wider than a small screen
+    zeilen->setSpacing(4);
+    const auto zeile = [&](std::initializer_list<std::pair<befehl*, const char*>> knoepfe) {
+        auto* neue = new QHBoxLayout;
+        neue->setSpacing(4);
+        for (const auto& [element, name] : knoepfe) {
+            neue->addWidget(binder().knopf(*element, name, "schmal"));
+        }
+        neue->addStretch(1);
+        zeilen->addLayout(neue);
     };
-    knopf(logik_.Command6, "Command6");
-    knopf(logik_.Command8, "Command8");
-    knopf(logik_.Command_nachtragen, "Command_nachtragen");
-    knopf(logik_.Command_zurueck, "Command_zurueck");
-    knopf(logik_.Command_wieder, "Command_wieder");
-    knopf(logik_.Command10, "Command10");
-    knopf(logik_.Command9, "Command9");
-    zeile->addStretch(1);
-    knopf(logik_.Command_verlauf, "Command_verlauf");
-    knopf(logik_.Command_protokoll, "Command_protokoll");
-    knopf(logik_.Command_drucken, "Command_drucken");
-    knopf(logik_.Command_pdf, "Command_pdf");
-    knopf(logik_.Command_wiedergabe, "Command_wiedergabe");
-    knopf(logik_.Command4, "Command4");
-    return zeile;
+    zeile({{&logik_.Command6, "Command6"},
+           {&logik_.Command8, "Command8"},
+           {&logik_.Command_nachtragen, "Command_nachtragen"},
+           {&logik_.Command_zurueck, "Command_zurueck"},
+           {&logik_.Command_wieder, "Command_wieder"},
+           {&logik_.Command10, "Command10"},
+           {&logik_.Command9, "Command9"}});
+    zeile({{&logik_.Command_verlauf, "Command_verlauf"},
+           {&logik_.Command_protokoll, "Command_protokoll"},
+           {&logik_.Command_wiedergabe, "Command_wiedergabe"},
+           {&logik_.Command_drucken, "Command_drucken"},
+           {&logik_.Command_pdf, "Command_pdf"},
+           {&logik_.Command4, "Command4"}});
+    return zeilen;
 }
 
 QLayout* AuswertungFenster::wegezeile() {
