@@ -21,7 +21,7 @@ constexpr std::size_t protokolle_max = 200;
 constexpr std::size_t eintraege_max = 50000;  // looked at in one start,
 constexpr std::size_t loeschungen_max = 500;  // and deleted: either takes a blink at most
 
-constexpr std::uintmax_t suche_bytes_max = 8 * protokoll_bytes_max;               // and of all
+constexpr std::uintmax_t suche_bytes_max = 8 * protokoll_bytes_max;  // and of all
 
 constexpr std::string_view endung = ".txt";
 constexpr std::string_view zeitmuster = "0000-00-00 00-00-00";  // "0" stands for any digit
