@@ -21,8 +21,7 @@ pakete_sicherstellen() {
 # qt6-base-dev brings the run-time libraries and the window system plugin with it
 PAKETE_BAU=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-serialport-dev qt6-translations-l10n libgl-dev fonts-dejavu-core)
 # the measuring programs are compiled with the tests, so that they stay sound
-# the sanitizers' own compiler takes half the time of the other
-PAKETE_TEST=(clang lld libclang-rt-dev libgtest-dev libbenchmark-dev)
+PAKETE_TEST=(lld libgtest-dev libbenchmark-dev)
 PAKETE_STIL=(clang-format clang-tidy)
 # the whole for Windows and its run here; no more of Wine than that
 PAKETE_WINDOWS=(g++ cmake ninja-build g++-mingw-w64-x86-64-posix googletest lld wine64)
