@@ -234,9 +234,9 @@ std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t run
         }
     }
     if (s.runden[runde].nachgetragen) {
-        zeile += "    + " + wort_.nachgetragen;
+        zeile += " + " + wort_.nachgetragen;
     } else if (!s.gemessen(runde)) {
-        zeile += "    (" + wort_.geteilt + ")";
+        zeile += " (" + wort_.geteilt + ")";
     }
     return zeile;
 }

@@ -36,7 +36,7 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     aufbau->addWidget(standfeld(ablage), 1);
     aufbau->addWidget(verlaufsfeld(), 1);
     aufbau->addWidget(nachtragsfeld(), 1);
-    aufbau->addLayout(korrekturzeile());
+    aufbau->addLayout(korrekturzeile());  // both in one row are too wide for a small screen
     aufbau->addLayout(wegezeile());
     logik.drucken = [this] { drucken(); };
     logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
@@ -74,7 +74,9 @@ QWidget* AuswertungFenster::nachtragsfeld() {
     auto* oben = new QHBoxLayout;
     oben->setSpacing(8);
     oben->addWidget(binder().label(n.Label_nachtrag_spur, "Label_nachtrag_spur"));
-    oben->addWidget(binder().auswahlfeld(n.cbo_nachtrag, "cbo_nachtrag"));
+    QComboBox* spur = binder().auswahlfeld(n.cbo_nachtrag, "cbo_nachtrag");
+    spur->setMinimumContentsLength(24);  // the name of a driver, and his lane
+    oben->addWidget(spur);
     oben->addStretch(1);
     aufbau->addLayout(oben);
     aufbau->addWidget(stil::leise(binder().label(n.Label_nachtrag, "Label_nachtrag")));
