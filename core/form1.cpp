@@ -70,7 +70,6 @@ void form1::befehle_verbinden() {
             rennen_fortsetzen();
         }
     };
-    weitergeben(command_wiedergabe, wiedergabe_waehlen);
     Command18.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };
 }

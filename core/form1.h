@@ -98,7 +98,6 @@ public:
     befehl Command11;           ///< training
     befehl Command12;           ///< track power off
     befehl Command13;           ///< take over the pictures of the drivers
-    befehl command_wiedergabe;  ///< plays a race again from its log
     befehl command_fortsetzen;  ///< a race that was cut off goes on
     befehl command_tasten;      ///< key assignment
     befehl command_cu;          ///< window of the Control Unit, while that is the timing hardware
@@ -129,7 +128,6 @@ public:
     std::function<void()> messgeraet_oeffnen;
     /// Chooses the command file of the AT-2560.
     std::function<void()> befehlsdatei_waehlen;
-    std::function<void()> wiedergabe_waehlen;
 
     /// Load handler of the window.
     void laden() override;

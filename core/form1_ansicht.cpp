@@ -54,10 +54,7 @@ sprachliste form1::sprache_m2() {
     texte.text("Fortsetzen", command_fortsetzen);
     texte.tipp("Ein Rennen weiterfahren, das unterbrochen oder abgebrochen wurde", command_fortsetzen);
     texte.text("Training", Command11);
-    texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
-    texte.text("Wiedergabe", command_wiedergabe);
-    return texte.tipp("Ein gefahrenes Rennen aus seinem Protokoll noch einmal auf dem Rennbildschirm ablaufen lassen",
-                      command_wiedergabe);
+    return texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
 }
 
 void form1::ansagen_setzen() {

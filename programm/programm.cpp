@@ -142,20 +142,6 @@ void programm::wiedergabe_verbinden() {
         rennprotokoll.sichern();
         wiedergabe.zeigen(rennprotokoll.dateiname());
     };
-    form1.wiedergabe_waehlen = [this] {
-        dateiauftrag auftrag;
-        auftrag.titel = form1.command_wiedergabe.text();
-        auftrag.ueberschrift = txt.datei_text[3];
-        auftrag.knopf = txt.datei_text[2];
-        auftrag.ordner = protokoll_ordner;
-        auftrag.endung = ".txt";
-        auftrag.ausfuehren = [this](const std::string& name) {
-            fenster.entladen(fenstername::speichernfenster);
-            wiedergabe.zeigen(std::string(protokoll_ordner) + "\\" + name);
-            return true;
-        };
-        speichernfenster.oeffnen(std::move(auftrag));
-    };
 }
 
 bool programm::ruhe_fuer_wiedergabe() const {

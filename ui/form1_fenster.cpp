@@ -241,7 +241,6 @@ QWidget* Form1Fenster::werkzeugbefehle() {
     aufbau->addWidget(hoher_knopf(logik_.Command8, "Command8"));
     aufbau->addWidget(hoher_knopf(logik_.Command9, "Command9"));
     aufbau->addWidget(hoher_knopf(logik_.command_tasten, "command_tasten"));
-    aufbau->addWidget(hoher_knopf(logik_.command_wiedergabe, "command_wiedergabe"));
     aufbau->addStretch();
     aufbau->addWidget(binder().label(logik_.Label7, "Label7"));
     aufbau->addWidget(hoher_knopf(logik_.Command6, "Command6"));
