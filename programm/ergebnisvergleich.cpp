@@ -18,7 +18,7 @@ namespace tarvel {
 namespace {
 
 constexpr std::uintmax_t datei_bytes_max = std::uintmax_t{64} * 1024 * 1024;
-constexpr std::string_view korrektur = "Korrektur";
+constexpr std::string_view korrektur_vermerk = "Korrektur";
 
 std::optional<std::string> bytes_lesen(const std::filesystem::path& datei) {
     if (datei.empty() || !ist_lesbar(datei, datei_bytes_max)) {
@@ -101,7 +101,7 @@ private:
     }
 
     void kopfzeile(std::string_view text) {
-        korrigiert_ = korrigiert_ || text.starts_with(korrektur);
+        korrigiert_ = korrigiert_ || text.starts_with(korrektur_vermerk);
         if (!text.starts_with(ergebnis_vermerk)) {
             return;
         }

@@ -10,7 +10,7 @@
 namespace tarvel {
 namespace {
 
-using art = korrektur::art;
+using korrekturart = korrektur::art;
 
 class Zufallsergebnis {
 public:
@@ -39,7 +39,7 @@ public:
                 s.runden.push_back(r);
             }
             e.spuren.push_back(s);
-            korrigieren(e, {.was = art::restmeter, .spur = nummer, .meter = 0});
+            korrigieren(e, {.was = korrekturart::restmeter, .spur = nummer, .meter = 0});
         }
         for (rennergebnis::spur& s : e.spuren) {  // all that follows from the laps
             s.gesamtzeit = gesamtzeit(s);
@@ -51,7 +51,7 @@ public:
     korrektur eine(const rennergebnis& e) {
         const rennergebnis::spur& s = e.spuren[static_cast<std::size_t>(bis(3))];
         korrektur k{art(1 + bis(3)), s.nummer, 1 + bis(s.rundenzahl() + 1)};
-        if (k.was == art::restmeter) {
+        if (k.was == korrekturart::restmeter) {
             k.meter = bis(20) - 5;
         } else if (k.traegt_nach() && !s.runden.empty()) {
             const auto davor = static_cast<std::size_t>(std::min(k.runde, s.rundenzahl() + 1) - 1);
@@ -154,12 +154,12 @@ TEST(Rundenkorrektur, WerDasZielSchonEherErreichtHatFuhrDanachWeiter) {
     rennergebnis::spur& s = e.spuren.emplace_back();
     s.nummer = 1;
     s.runden = {{1000, {}, 0, 1000, 10}, {5000, {}, 0, 6000, 10}, {10000, {}, 0, 16000, 10}, {6000, {}, 0, 22000, 10}};
-    const korrektur k{art::geteilt, 1, 2, 5000, 11000, 0};
+    const korrektur k{korrekturart::geteilt, 1, 2, 5000, 11000, 0};
     ASSERT_TRUE(korrigieren(e, k));
     EXPECT_EQ(e.spuren[0].rundenzahl(), 3);
     EXPECT_EQ(e.spuren[0].gesamtzeit, 15000) << "home at 16 s";
     EXPECT_EQ(e.spuren[0].beste, 5000) << "lap 1, none of the halves";
-    EXPECT_FALSE(korrigieren(e, {art::ueberfahrt, 1, 4, 3000, 19000, 0, 10})) << "behind the target";
+    EXPECT_FALSE(korrigieren(e, {korrekturart::ueberfahrt, 1, 4, 3000, 19000, 0, 10})) << "behind the target";
 }
 
 class KorrekturImFenster : public test::ProgrammProbe {
