@@ -50,7 +50,7 @@ public:
 
     korrektur eine(const rennergebnis& e) {
         const rennergebnis::spur& s = e.spuren[static_cast<std::size_t>(bis(3))];
-        korrektur k{art(1 + bis(3)), s.nummer, 1 + bis(s.rundenzahl() + 1)};
+        korrektur k{korrekturart(1 + bis(3)), s.nummer, 1 + bis(s.rundenzahl() + 1)};
         if (k.was == korrekturart::restmeter) {
             k.meter = bis(20) - 5;
         } else if (k.traegt_nach() && !s.runden.empty()) {
