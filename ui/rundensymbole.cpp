@@ -91,7 +91,7 @@ QPointF Rundensymbole::stelle(const rundensymbol& symbol) const {
 }
 
 double Rundensymbole::radius(symbolform was) const {
-    constexpr std::array<double, 4> je_schrift{0.16, 0.4, 0.55, 0.36};
+    constexpr std::array<double, 5> je_schrift{0.16, 0.4, 0.34, 0.55, 0.36};
     return schrift_.pixelSize() * je_schrift.at(static_cast<std::size_t>(was));
 }
 

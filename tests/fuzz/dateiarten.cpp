@@ -208,7 +208,7 @@ geraeteprobe::geraeteprobe(werkbank& bank) : p_(bank.t.p) {
 
 geraeteprobe::~geraeteprobe() {
     p_.einst.hardware = {};
-    p_.geraete.hardware_starten(false);
+    p_.geraete.schliessen();  // whatever it is: the IO board switches beside each of them
 }
 
 void werkbank::legen(const std::string& name, const std::string& bytes) {

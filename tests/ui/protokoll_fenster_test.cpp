@@ -67,8 +67,8 @@ TEST_F(ProtokollImFenster, DieTastenDesRennensGeltenInDerPauseWeiter) {
     ASSERT_TRUE(fenster().isVisible());
     t.maschine.laufen(3000);
     taste(fenster(), 'c');
-    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     t.maschine.laufen(100);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     setzen_lassen();
     EXPECT_FALSE(fenster().isVisible());
 }

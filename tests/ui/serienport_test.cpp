@@ -147,7 +147,7 @@ TEST_F(Serienport, AbgezogenMeldetEsSichEinmalUndSteckt) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !port->offen(); }, 20000));
         EXPECT_FALSE(port->schreiben("x"));
         QTest::qWait(50);
-        EXPECT_LT(seit.elapsed(), (mal < 3 ? 1000 : 2000) + 2 * maschinenlast.verspaetung())
+        EXPECT_LT(seit.elapsed(), (mal < 3 ? 1500 : 2500) + 2 * maschinenlast.verspaetung())
             << "the race stood still, or nobody has noticed";
         EXPECT_EQ(verluste, mal);
         EXPECT_FALSE(port->oeffnen(com_am_ende, werte));
