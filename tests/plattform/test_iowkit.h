@@ -27,7 +27,7 @@ public:
         ruf(
             "IowKitCloseDevice", +[](void*) { ++eines_->schliessungen; });
         ruf(
-            "IowKitGetNumDevs", +[]() -> std::uint32_t { return eines_->steckt ? 1 : 0; });
+            "IowKitGetNumDevs", +[]() -> std::uint32_t { return da() ? 1 : 0; });
         ruf(
             "IowKitGetDeviceHandle", +[](std::uint32_t) { return oeffnen(); });
         ruf(
@@ -48,9 +48,11 @@ public:
     int schliessungen = 0;
 
 private:
-    static void* oeffnen() { return eines_->steckt ? eines_ : nullptr; }
+    /// The program may have the library open longer than its script.
+    static bool da() { return eines_ != nullptr && eines_->steckt; }
+    static void* oeffnen() { return da() ? eines_ : nullptr; }
     static std::uint32_t lesen(void* /*handle*/, std::uint32_t /*pipe*/, void* ziel, std::uint32_t laenge) {
-        if (!eines_->steckt || eines_->kontakte == eines_->gemeldet) {
+        if (!da() || eines_->kontakte == eines_->gemeldet) {
             return 0;
         }
         eines_->gemeldet = eines_->kontakte;
