@@ -31,7 +31,7 @@ public:
         ruf(
             "IowKitGetDeviceHandle", +[](std::uint32_t) { return oeffnen(); });
         ruf(
-            "IowKitGetProductId", +[](void*) { return eines_->produkt; });
+            "IowKitGetProductId", +[](void*) { return da() ? eines_->produkt : 0; });
         ruf(
             "IowKitGetSerialNumber", +[](void*, void*) { return std::uint32_t{0}; });
         ruf("IowKitReadNonBlocking", lesen);
