@@ -25,7 +25,11 @@ public:
         const auto ruf = [&](const char* name, auto* funktion) { bibliotheken.ruf("iowkit", name, funktion); };
         ruf("IowKitOpenDevice", oeffnen);
         ruf(
-            "IowKitCloseDevice", +[](void*) { ++eines_->schliessungen; });
+            "IowKitCloseDevice", +[](void*) {
+                if (eines_ != nullptr) {
+                    ++eines_->schliessungen;
+                }
+            });
         ruf(
             "IowKitGetNumDevs", +[]() -> std::uint32_t { return da() ? 1 : 0; });
         ruf(
