@@ -54,6 +54,7 @@ using leseversuch = bool (*)(werkbank&, const std::string& bytes);
 struct dateiart {
     std::vector<std::string> gute;  ///< bytes of files that are accepted, as seeds of all others
     leseversuch lesen;
+    unsigned dauert = 1;  ///< a step takes so many times as long as with the others
 };
 
 /// All kinds by their names. A new one gets its row here, and its name in the CMake list of the targets.

@@ -71,7 +71,7 @@ bool ausfuehren(const std::vector<std::string>& worte) {
     bool gelaufen = false;
     for (const auto& [name, art] : arten) {
         if (worte.size() < 3 || name == worte[2]) {
-            gut = art_laufen(bank, name, art, zahl(0, 10000), saat) && gut;
+            gut = art_laufen(bank, name, art, zahl(0, 10000) / art.dauert, saat) && gut;
             gelaufen = true;
         }
     }

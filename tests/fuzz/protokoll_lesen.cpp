@@ -80,7 +80,7 @@ bool protokoll_lesen(werkbank& bank, const std::string& bytes) {
 }  // namespace
 
 dateiart rennprotokoll_datei() {
-    return {{volles_protokoll()}, protokoll_lesen};
+    return {{volles_protokoll()}, protokoll_lesen, 40};
 }
 
 }  // namespace tarvel::test
