@@ -154,7 +154,8 @@ void programm::protokoll_verbinden() {
         rennprotokoll.sichern();
         protokollfenster.zeigen(rennprotokoll.dateiname());
     };
-    protokollfenster.wiedergeben = [this](const std::string& datei) { wiedergabe.zeigen(datei); };
+    protokollfenster.wiedergeben = [this](const std::string& protokoll) { wiedergabe.zeigen(protokoll); };
+    auswertung.hergang_in_worten = [this] { return protokollfenster.in_worten(); };
     rennen.bahn1.Command_protokoll.bei_klick = dieses;
     auswertung.Command_protokoll.bei_klick = dieses;
     w_auswertung2.Command_protokoll.bei_klick = [this] { protokollfenster.auswahl_zeigen(); };

@@ -17,6 +17,8 @@
 
 namespace tarvel {
 
+struct hergangsworte;
+
 /// The result window: shows the standing of the race, lets the race director correct it, and decides how the program
 /// goes on. Its control arrays count the lanes from 0.
 class auswertung final : public fensterlogik {
@@ -95,6 +97,8 @@ public:
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
     std::function<void()> wiedergabe_zeigen;  ///< null without a log
+    /// How the window "Protokoll" says what happened.
+    std::function<hergangsworte()> hergang_in_worten;
     /// Counts late crossings and shows the standing.
     void laden() override;
     void entladen() override;

@@ -180,9 +180,7 @@ void auswertung::nachtrag_fuellen(int spur, int runde) {
 offene_runden auswertung::offene_runden_lesen() const {
     const rennhergang hergang =
         hergang_lesen(r_.fenster.fuehrung == nullptr ? std::string() : r_.fenster.fuehrung->bisher());
-    hergangsworte in_worten;
-    sprachliste texte("language\\language_protokoll.txt");
-    in_worten.eintragen(texte).anwenden(um_.ablage);
+    const hergangsworte in_worten = hergang_in_worten ? hergang_in_worten() : hergangsworte();
     offene_runden offen;
     for (const geschehen& g : hergang.alle) {
         if (g.was == vorgang::befehl && ist_umzug(g)) {

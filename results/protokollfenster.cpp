@@ -325,6 +325,11 @@ std::string protokollfenster::blatt_datei() const {
     return std::string(ergebnis_ordner::einzelrennen) + "\\Protokoll " + name_.substr(0, name_.rfind('.'));
 }
 
+hergangsworte protokollfenster::in_worten() {
+    texte_lesen();
+    return worte_;
+}
+
 sprachliste protokollfenster::sprache_pr() {
     sprachliste texte("language\\language_pr.txt", sprachliste::form::zeilen);
     texte.text("Protokoll", titel).text("Rennen, das neueste zuerst", Label_dateien);

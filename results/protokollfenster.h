@@ -78,6 +78,8 @@ public:
     void entladen() override;
     std::vector<sprachliste> sprachdateien() override { return {sprache_pr()}; }
     sprachliste sprache_pr();
+    /// How it says what happened, in the language of now.
+    hergangsworte in_worten();
 
     const rennhergang& hergang() const { return hergang_; }
     /// What the table shows: places in `hergang().alle`.

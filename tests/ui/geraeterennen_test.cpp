@@ -184,7 +184,7 @@ struct Geraeterennen : testing::Test {
 
     QTimer aufenthalt;
     std::vector<std::pair<zeit_ms, zeit_ms>> aufenthalte;  ///< the machine's clock, from and to
-    const qt::QtUhr uhr;
+    const qt::QtUhr uhr{};
     test::test_plattform maschine;
     qt::QtDienste echt{maschine.ordner()};
     programm p{dienste(echt, maschine)};

@@ -88,13 +88,14 @@ TEST_F(ProtokollImFenster, EineStundeIstSofortDa) {
     lang += s.beginnen(1).wort(">").wort("Gruen 1000").fertig();
     for (int i = 1; i <= 20000; ++i) {
         const std::string stempel = std::to_string(1000 + i * 180);
-        lang += s.beginnen(0).wort("t0").zahl(i * 180).fertig();
-        const std::string spur = i % 2 == 0 ? " 2 " : " 1 ";
-        lang += s.beginnen(1)
-                    .wort(">")
-                    .wort(i % 9 == 0 ? "Abgelehnt" + spur + "5 " + stempel + " 900 3100"
-                                     : "Runde" + spur + std::to_string(i / 2) + " 5432 " + stempel)
-                    .fertig();
+        lang += s.beginnen(0).wort("t0").zahl(std::int64_t{180} * i).fertig();
+        const bool abgelehnt = i % 9 == 0;
+        std::string vermerk = abgelehnt ? "Abgelehnt" : "Runde";
+        vermerk += i % 2 == 0 ? " 2 " : " 1 ";
+        vermerk += abgelehnt ? "5 " : std::to_string(i / 2) + " 5432 ";
+        vermerk += stempel;
+        vermerk += abgelehnt ? " 900 3100" : "";
+        lang += s.beginnen(1).wort(">").wort(vermerk).fertig();
     }
     std::ofstream(t.p.ablage.pfad(std::string(protokoll_ordner) + "\\2026-11-22 10-00-00.txt"), std::ios::binary)
         << lang;

@@ -39,7 +39,7 @@ private:
         seit.start();
         for (int mal = 1; !ende.stop_requested(); ++mal) {
             QThread::msleep(schlaf_ms);
-            verspaetung_ = seit.elapsed() - mal * schlaf_ms;
+            verspaetung_ = seit.elapsed() - qint64{mal} * schlaf_ms;
         }
     }};
 };
