@@ -107,6 +107,13 @@ fs::path dateien::pfad(std::string_view name) const {
     return ordner_ / ziel;
 }
 
+std::string dateien::sprachdatei(std::string_view name) const {
+    const std::size_t trenner = name.find_first_of("\\/");
+    return sprachordner_.empty() || trenner == std::string_view::npos
+               ? std::string(name)
+               : sprachordner_ + std::string(name.substr(trenner));
+}
+
 std::optional<std::vector<std::string>> dateien::zeilen_lesen(std::string_view name, std::size_t zeilen_max,
                                                               std::size_t bytes_max) const {
     const fs::path datei = pfad(name);

@@ -34,6 +34,11 @@ public:
     /// Nothing in the folder is changed by these files: each try fails.
     void nur_lesen() { nur_lesen_ = true; }
 
+    /// From here on the language files come from this folder in place of `language`.
+    void sprache_aus(std::string ordner) { sprachordner_ = std::move(ordner); }
+    /// Where a language file, named as one of the folder `language`, is read.
+    std::string sprachdatei(std::string_view name) const;
+
     /// Place of the file on the disk; empty if the name leads out of the program folder.
     std::filesystem::path pfad(std::string_view name) const;
 
@@ -81,6 +86,7 @@ private:
     std::filesystem::path ordner_;
     const plattform::dateisystem* system_;
     bool nur_lesen_ = false;
+    std::string sprachordner_;  ///< empty: as the names say
 };
 
 }  // namespace tarvel

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/einstellungswerte.h"
+#include "core/erscheinung.h"
 #include "core/geraeteeinstellungen.h"
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
@@ -105,6 +106,7 @@ struct einstellungen {
     std::string wechselschema_name;
     wechsel_folge wechsel_schema{};
     gruppenwahl gruppen;  ///< in a file of its own, beside those of the settings
+    erscheinung anzeige;  ///< in a file of its own as well
     trainingsart training_art = trainingsart::normal;
     dauer_s training_wechseldauer{};
     training_weitergang training_weiter = training_weitergang::neu_starten;

@@ -28,6 +28,8 @@ public:
     virtual std::vector<sprachliste> sprachdateien() { return {}; }
     /// Load handler: all texts as the language has them.
     virtual void laden();
+    /// Another language is in force while the window is loaded. Windows that come and go take it as they load.
+    virtual void sprache_gewechselt() {}
     /// Unload handler: nothing of the window goes on behind its back.
     virtual void entladen() {}
     /// The operator closes the window.

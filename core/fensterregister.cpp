@@ -101,6 +101,14 @@ void fensterregister::neu_laden(fenstername name) {
     f.offen = war_offen && f.geladen;
 }
 
+void fensterregister::sprache_gewechselt() {
+    for (const fenster& f : fenster_) {
+        if (f.geladen) {
+            f.logik->sprache_gewechselt();
+        }
+    }
+}
+
 void fensterregister::alle_entladen() {
     for (std::size_t i = 0; i < fenster_.size(); ++i) {
         entladen(static_cast<fenstername>(i));

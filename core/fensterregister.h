@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/erscheinung.h"
 #include "core/fensternamen.h"
 #include "core/sprache.h"
 #include "platform/schnittstelle.h"
@@ -23,6 +24,8 @@ public:
     /// Shows the window, or brings it to the front if it is on the screen.
     virtual void zeigen(fenstername name, anzeige_art art) = 0;
     virtual void verbergen(fenstername name) = 0;
+    /// In this language, as far as the desktop's own windows speak it, and light or dark.
+    virtual void erscheinen(const erscheinung& /*wie*/) {}
 };
 
 /// All windows of the program. A window's logic opens and closes other windows through it, and so need not know the
@@ -44,6 +47,12 @@ public:
     void neu_laden(fenstername name);
     /// Loaded and on the screen.
     bool ist_offen(fenstername name) const { return an(name).offen; }
+    void sprache_gewechselt();
+    void erscheinen(const erscheinung& wie) {
+        if (anzeige_ != nullptr) {
+            anzeige_->erscheinen(wie);
+        }
+    }
 
     /// What happens from here on has happened before: of the windows only these load, and nothing shows. The others are
     /// kept count of.

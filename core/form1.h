@@ -131,6 +131,7 @@ public:
 
     /// Load handler of the window.
     void laden() override;
+    void sprache_gewechselt() override;
     void entladen() override { timer1_->aus(); }
     void schliessen() override {
         if (beenden) {
@@ -232,6 +233,8 @@ private:
     std::string wort_keine_zahl_;
     std::string wort_ersetzt_;
     std::string wort_zwei_spuren_;
+    std::string einstell_name_;
+    std::string standard_name_;
     bool getrennt_ = false;
 };
 

@@ -90,6 +90,25 @@ void form1::laden() {
     timer1_->an();
 }
 
+void form1::sprache_gewechselt() {
+    const std::string bisher_niemand = um_.txt.kein_fahrer;
+    texte_lesen();
+    ansagen_setzen();
+    tankoptionen_zeigen();
+    const int art = rennart.platz();  // the word in the field is that of the language before
+    rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});
+    rennart.platz(art);
+    for (auswahl& wer : fahrer) {
+        if (wer.text() == bisher_niemand) {
+            wer.text(um_.txt.kein_fahrer);
+        }
+    }
+    listen_zeigen();
+    rennart_geaendert();
+    modus_anzeigen();
+    einstellungsname_anzeigen(einstell_name_, standard_name_);
+}
+
 void form1::listen_zeigen() {
     const auto mit_standard = [](const std::string& standard, const namensliste& liste) {
         std::vector<std::string> namen{standard};
@@ -215,8 +234,10 @@ void form1::taste_F1() {
 }
 
 void form1::einstellungsname_anzeigen(std::string_view name, std::string_view standard) {
-    Label6.text(wort_einstellungsdatei_ + std::string(name));
-    Label6.tipp(wort_standarddatei_ + std::string(standard));
+    einstell_name_ = name;
+    standard_name_ = standard;
+    Label6.text(wort_einstellungsdatei_ + einstell_name_);
+    Label6.tipp(wort_standarddatei_ + standard_name_);
 }
 
 }  // namespace tarvel

@@ -30,8 +30,9 @@ sprachliste& sprachliste::ansage(std::string_view deutsch, steuerelement& ziel) 
 }
 
 void sprachliste::anwenden(const dateien& ablage) const {
-    const auto gelesen = form_ == form::zeilen ? ablage.zeilen_lesen(datei_, eintraege_.size())
-                                               : felder_lesen(ablage, datei_, eintraege_.size());
+    const std::string datei = ablage.sprachdatei(datei_);
+    const auto gelesen = form_ == form::zeilen ? ablage.zeilen_lesen(datei, eintraege_.size())
+                                               : felder_lesen(ablage, datei, eintraege_.size());
     setzen(gelesen.value_or(std::vector<std::string>{}));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 #include <utility>
 
 #include "core/bestzeiten.h"
@@ -40,6 +41,7 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
     }
     Command1.bei_klick = [this] { Command1_Click(); };
     Command2.bei_klick = [this] { schliessen(); };
+    sprachwahl_verbinden();
     sounds_verbinden();
     schema_.emplace(schemawahl::umgebung{um.ablage, um.txt, um.meldungen},
                     schemawahl::zeilen{zeile("Wechselschemaauswahl"), zeile("wechsel_schema"), zeile("schema_name"),
@@ -76,7 +78,8 @@ sprachliste einstellungsfenster::sprache_e() {
     texte.text("Hier steht keine Zahl.", keine_zahl_);
     texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
     texte.text("Tarvel 4x4 USB / Digital", text_4x4_);
-    return texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
+    texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
+    return texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.", anzeige_fehler_);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -305,7 +308,13 @@ bool einstellungsfenster::nebendateien_speichern(const einstellungen& vorher) {
             um_.meldungen.zeigen(gruppen_fehler_, um_.txt.titel[1]);
         }
     }
-    return !trennzeichen_fehlen_ && !gruppen_ungesichert_;
+    if (anzeige_ungesichert_ || einst.anzeige != vorher.anzeige) {
+        anzeige_ungesichert_ = !erscheinung_speichern(um_.ablage, einst.anzeige);
+        if (anzeige_ungesichert_) {
+            um_.meldungen.zeigen(anzeige_fehler_, um_.txt.titel[1]);
+        }
+    }
+    return !trennzeichen_fehlen_ && !gruppen_ungesichert_ && !anzeige_ungesichert_;
 }
 
 void einstellungsfenster::Command1_Click() {
@@ -325,6 +334,29 @@ void einstellungsfenster::Command1_Click() {
     } else {
         werte_zeigen();
     }
+}
+
+void einstellungsfenster::sprachwahl_verbinden() {
+    optionszeile& eine = zeile("sprache");
+    auto* wahl = &std::get<auswahl>(eine.element);
+    eine.zeigen = [this, wahl](const einstellungs_ziel& z) {
+        sprachordner_ = sprachordner_finden(um_.ablage);
+        std::vector<std::string> namen;
+        std::transform(sprachordner_.begin(), sprachordner_.end(), std::back_inserter(namen), sprachname);
+        wahl->eintraege(namen);
+        const auto jetzt = std::find(sprachordner_.begin(), sprachordner_.end(), z.einst.anzeige.sprachordner);
+        wahl->platz(jetzt == sprachordner_.end() ? -1 : static_cast<int>(jetzt - sprachordner_.begin()));
+        // Empty places and drivers have names of the language: during an evening they are all of one.
+        constexpr std::array am_abend{fenstername::wettkampf1, fenstername::wettkampf2, fenstername::w_auswertung,
+                                      fenstername::Tagesrennen};
+        wahl->aktiviert(std::none_of(am_abend.begin(), am_abend.end(),
+                                     [this](fenstername name) { return um_.fenster.ist_offen(name); }));
+    };
+    eine.uebernehmen = [this, wahl](const einstellungs_ziel& z, const auto&) {
+        if (wahl->platz() >= 0) {
+            z.einst.anzeige.sprachordner = sprachordner_.at(static_cast<std::size_t>(wahl->platz()));
+        }
+    };
 }
 
 void einstellungsfenster::sounds_verbinden() {

@@ -110,6 +110,7 @@ private:
     void hardware_waehlen(std::size_t nummer);
     void hardware_gruppen_zeigen();
     void hardware_uebernehmen();
+    void sprachwahl_verbinden();
     void sounds_verbinden();
     void sounds_auffrischen();
     void werte_zeigen();
@@ -122,7 +123,8 @@ private:
 
     umgebung um_;
     std::array<optionsseite_zeiger, seiten_anzahl> seiten_;
-    std::vector<soundfeld*> sounds_;  ///< in the order of their numbers, from 1 on at index 0
+    std::vector<std::string> sprachordner_;  ///< in the order of the choice
+    std::vector<soundfeld*> sounds_;         ///< in the order of their numbers, from 1 on at index 0
     std::string grenzen_titel_;
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;
@@ -131,6 +133,8 @@ private:
     bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
     bool gruppen_ungesichert_ = false;
     std::string gruppen_fehler_;
+    bool anzeige_ungesichert_ = false;
+    std::string anzeige_fehler_;
     std::optional<schemawahl> schema_;  ///< these two once their rows are there
     std::optional<gruppenkaesten> gruppen_;
 };

@@ -92,6 +92,9 @@ optionsseite_zeiger sounds() {
 
 optionsseite_zeiger farben() {
     auto seite = std::make_unique<optionsseite>("Farben");
+    seite->gruppe("Fenster", 1) << wortliste({"sprache", "Sprache"}, wert(&e::anzeige, &erscheinung::sprachordner), {})
+                                << wahl({"aussehen", "Hell oder dunkel"}, wert(&e::anzeige, &erscheinung::fenster), 0,
+                                        {"hell", "dunkel", "wie das System"});
     optionsgruppe& spuren_gruppe = seite->gruppe("Spuren", 0);
     for (const int spur : alle_spuren) {
         const std::string nummer = std::to_string(spur);

@@ -218,6 +218,13 @@ void programm::einstellungen_uebernommen(const einstellungen& vorher) {
             bahnstrom_von_hand(false);
         }
     }
+    if (einst.anzeige.sprachordner != vorher.anzeige.sprachordner) {
+        gemeinsame_texte_laden();
+        fenster.sprache_gewechselt();
+    }
+    if (einst.anzeige != vorher.anzeige) {
+        fenster.erscheinen(einst.anzeige);
+    }
     form1.listen_zeigen();
     form1.farben_einstellen();
     form1.bilder_anzeigen();
@@ -275,11 +282,14 @@ void programm::bilder_melden(int anzahl, bool gespeichert) {
 bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
+    erscheinung anzeige;
+    erscheinung_laden(ablage, anzeige);
+    ablage.sprache_aus(anzeige.sprachordner);
+    fenster.erscheinen(anzeige);
     fenster.zeigen(fenstername::Update_form);
     txt = {};
-    txt.sprache_m1_laden(ablage);
-    txt.sprache_tx1_laden(ablage);
-    eingebaute_namen_setzen();
+    einst.anzeige = anzeige;
+    gemeinsame_texte_laden();
     pflege_.standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
     gruppenwahl_laden(ablage, einst.gruppen);
@@ -308,6 +318,13 @@ bool programm::starten() {
         pflege_.start_fortsetzen({});
     }
     return true;
+}
+
+void programm::gemeinsame_texte_laden() {
+    ablage.sprache_aus(einst.anzeige.sprachordner);
+    txt.sprache_m1_laden(ablage);
+    txt.sprache_tx1_laden(ablage);
+    eingebaute_namen_setzen();
 }
 
 void programm::eingebaute_namen_setzen() {

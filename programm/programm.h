@@ -178,6 +178,8 @@ private:
     void tagesrennen_beginnen(const tagesauftrag& auftrag) override;
     void tagesergebnisse_zeigen(const std::string& pfad) override;
     void eingebaute_namen_setzen();
+    /// The texts that no window owns, in the language in force.
+    void gemeinsame_texte_laden();
     /// An unusable list is made anew from the built-in names.
     void fahrzeugliste_laden();
     void fahrerliste_laden();

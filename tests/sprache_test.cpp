@@ -83,6 +83,35 @@ TEST_F(Sprache, HauptfensterNimmtSeineTexteDerReiheNach) {
     EXPECT_EQ(haupt.fahrer[1].ansage(), "Fahrer, Lane 2");
 }
 
+TEST_F(Sprache, GewaehlteSpracheGiltSofortUndNachDemNeustart) {
+    programm& deutsch = mit_datei("../language-xy/language_m1.txt", {"", "Car", "Driver", "Time", "Laps", "Note"});
+    ASSERT_TRUE(ablage.zeilen_schreiben("language-xy/language_m2.txt", {"", "", "Lane", "Length"}));
+    deutsch.form1.rennart.eingeben("Runden");
+    deutsch.form1.fahrer[0].eingeben("kein Fahrer");
+    deutsch.form1.Command4.klicken();
+    auto& wahl = std::get<auswahl>(deutsch.einstellungsfenster.zeile("sprache").element);
+    EXPECT_EQ(wahl.eintraege(), (zeilen{"Deutsch", "xy"}));
+    wahl.waehlen(1);
+    deutsch.einstellungsfenster.Command1.klicken();
+    const auto pruefen = [](const programm& q) {
+        EXPECT_EQ(q.form1.rennart.text(), "Laps") << "the same choice in another word";
+        EXPECT_EQ(q.txt.titel[0], "Note");
+        EXPECT_EQ(q.form1.spur[2].text(), "Lane 3");
+        EXPECT_EQ(q.form1.Label6.text(), "Einstellungsdatei: einstellungen.ini");
+    };
+    pruefen(deutsch);
+    p = std::make_unique<programm>(maschine.dienste());
+    p->starten();
+    pruefen(*p);
+
+    for (const zeilen& unfug : {zeilen{}, zeilen{"language-weg", "7"}, zeilen{"..", "-1"}}) {
+        ASSERT_TRUE(ablage.zeilen_schreiben("tvk_anzeige.ini", unfug));
+        erscheinung gelesen;
+        erscheinung_laden(ablage, gelesen);
+        EXPECT_EQ(gelesen, erscheinung());
+    }
+}
+
 TEST_F(Sprache, EreignisnamenStehenRueckwaertsInDerDatei) {
     zeilen inhalt(59, "n");
     inhalt[0] = "erster";

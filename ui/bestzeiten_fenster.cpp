@@ -33,7 +33,7 @@ protected:
         maler.setPen(duenn);
         maler.setBrush(farbe_);
         maler.drawRoundedRect(flaeche, 8, 8);
-        maler.setBrush(stil::karte);
+        maler.setBrush(stil::auf_dem_schirm().karte);
         maler.drawRoundedRect(flaeche.adjusted(11, 3, -3, -3), 5, 5);
     }
 

@@ -62,7 +62,7 @@ QWidget* EinstellungenFenster::hardwarewahl() {
     }
     QLabel* hinweis = binder().label(logik_.hardware_hinweis, "hardware_hinweis");
     hinweis->setWordWrap(true);
-    hinweis->setStyleSheet("color: #c41e2a;");
+    hinweis->setProperty("rolle", "warnung");
     aufbau->addWidget(hinweis);
     return kasten;
 }

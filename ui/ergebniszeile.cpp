@@ -75,7 +75,7 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(0);
     TextAnzeige* kopf = binder.anzeige(inhalt.titel, nummeriert("Label_" + inhalt.name), schrift_titel);
-    kopf->setFarbe(stil::schrift_leise);
+    kopf->setFarbrolle(QPalette::PlaceholderText);
     kopf->setAusrichtung(links_mitte);
     TextAnzeige* wert = binder.anzeige(inhalt.wert, nummeriert(inhalt.name), inhalt.entwurf);
     wert->setAusrichtung(links_mitte);
@@ -105,7 +105,7 @@ QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
     teile.zusatz->addWidget(zusatz(logik_.fahrzeug[i], "fahrzeug", binder), 3);
     TextAnzeige* strafe = binder.anzeige(logik_.aus_straflabel[i], nummeriert("aus_straflabel"), schrift_zusatz);
     strafe->setAusrichtung(links_mitte);
-    strafe->setFarbe(stil::akzent);
+    strafe->setFarbrolle(QPalette::Link);
     teile.zusatz->addWidget(strafe, 3);
     return teile.feld;
 }
@@ -126,7 +126,7 @@ QWidget* Ergebniszeile::meterzelle(Binder& binder) {
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     TextAnzeige* titel = binder.anzeige(logik_.meter_label[i], nummeriert("meter_label"), schrift_titel);
-    titel->setFarbe(stil::schrift_leise);
+    titel->setFarbrolle(QPalette::PlaceholderText);
     titel->setAusrichtung(links_mitte);
     QLineEdit* eingabe = binder.zeile(logik_.meter[i], nummeriert("meter"));
     eingabe->setFixedWidth(eingabe_breite_px);
@@ -186,8 +186,9 @@ void Ergebniszeile::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.setRenderHint(QPainter::Antialiasing);
     const QRectF flaeche = QRectF(rect()).adjusted(1, 1, -1, -1);
     const bool sieger = reihe() == 0;
-    maler.setPen(QPen(sieger ? QColor(214, 170, 40) : stil::linie, sieger ? 2 : 1));
-    maler.setBrush(sieger ? QColor(255, 250, 232) : stil::karte);
+    const stil::farbsatz& farben = stil::auf_dem_schirm();
+    maler.setPen(QPen(sieger ? farben.sieger_rand : farben.linie, sieger ? 2 : 1));
+    maler.setBrush(sieger ? farben.sieger : farben.karte);
     maler.drawRoundedRect(flaeche, 8, 8);
     maler.setPen(QPen(QColor(0, 0, 0, 60), 1));
     maler.setBrush(spurfarbe_);

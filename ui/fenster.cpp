@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLibraryInfo>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
@@ -133,6 +136,15 @@ void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
     }
     takt_.ausfuehren();
     fenster->aufschlagen();
+}
+
+void Fensterverwaltung::erscheinen(const erscheinung& wie) {
+    stil::faerben(wie.fenster);
+    const QString datei = "qtbase_" + QString::fromStdString(sprachkuerzel(wie.sprachordner));
+    QApplication::removeTranslator(&qt_texte_);
+    if (qt_texte_.load(datei, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&qt_texte_);
+    }
 }
 
 void Fensterverwaltung::verbergen(fenstername name) {

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QTranslator>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -67,6 +68,7 @@ public:
 
     void zeigen(fenstername name, anzeige_art art) override;
     void verbergen(fenstername name) override;
+    void erscheinen(const erscheinung& wie) override;
     /// A key that is held presses no button again: it was meant for what lay in front of that button. And the second
     /// half of a double click must not hit what lay behind the window that the first half closed.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
@@ -76,6 +78,7 @@ private:
 
     Bildtakt& takt_;
     Bildleser bilder_;
+    QTranslator qt_texte_;      ///< of the colour dialog and the like
     QElapsedTimer seit_druck_;  ///< of a mouse button
     QPointer<QWidget> druck_fenster_;
     std::map<fenstername, Fenster*> fenster_;

@@ -81,7 +81,7 @@ QWidget* Form1Fenster::wartehinweis() {
     QLabel* titel = binder().label(logik_.µwarte_titel, "µwarte_titel");
     titel->setStyleSheet("font-size: 34px; font-weight: bold;");
     QLabel* text = binder().label(logik_.µwarte_text, "µwarte_text");
-    text->setStyleSheet("font-size: 20px; color: #626a78;");
+    stil::leise(text)->setStyleSheet("font-size: 20px;");
     aufbau->addStretch(2);
     aufbau->addWidget(titel, 0, Qt::AlignHCenter);
     aufbau->addSpacing(8);

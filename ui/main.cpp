@@ -1,9 +1,7 @@
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QScreen>
 #include <QStringList>
-#include <QTranslator>
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -61,10 +59,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("Tarvel");
     QApplication::setWindowIcon(programmsymbol());
     QApplication::setQuitOnLastWindowClosed(false);
-    QTranslator qt_texte;  // of the colour dialog and the like
-    if (qt_texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&qt_texte);
-    }
     tarvel::ui::stil::anwenden(anwendung);
 
     const std::filesystem::path ordner(QCoreApplication::applicationDirPath().toStdU16String());

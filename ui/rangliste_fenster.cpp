@@ -29,7 +29,7 @@ RanglisteFenster::RanglisteFenster(rangliste& logik, Fensterverwaltung& verwaltu
     stand_->setFett(true);
     stand_->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     aufbau->addWidget(stand_);
-    kopf_ = binder().label(logik.Label_kopf, "Label_kopf");
+    kopf_ = stil::leise(binder().label(logik.Label_kopf, "Label_kopf"));
     kopf_->setIndent(0);
     kopf_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     aufbau->addWidget(kopf_);
@@ -64,7 +64,7 @@ void RanglisteFenster::skalieren() {
     const double px = std::max(schrift_min_px, std::min(zeilen_->width() / (zeichen * zeichen_je_zeile),
                                                         height() * 0.8 / (zeilen_mindestens * zeilenhoehe)));
     schrift_.setPixelSize(static_cast<int>(px));
-    kopf_->setStyleSheet(QString("font-family: '%1', monospace; font-size: %2px; color: #626a78; padding-left: %3px;")
+    kopf_->setStyleSheet(QString("font-family: '%1', monospace; font-size: %2px; padding-left: %3px;")
                              .arg(schrift_.family())
                              .arg(schrift_.pixelSize())
                              .arg(einzug_px + 2));
@@ -80,8 +80,7 @@ void RanglisteFenster::zeilen_einteilen() {
         zeilen_->viewport()->height() / static_cast<double>(std::max(1, zeilen_->model()->rowCount()));
     const double innen = std::clamp((je_zeile - QFontMetricsF(schrift_).height()) / 2 - 1, px * 0.06, px * 0.4);
     const QString regel = QString(
-                              "QListView { font-family: '%1', monospace; font-size: %2px; font-weight: bold; "
-                              "alternate-background-color: #f2f4f7; } "
+                              "QListView { font-family: '%1', monospace; font-size: %2px; font-weight: bold; } "
                               "QListView::item { padding: %3px %4px; }")
                               .arg(schrift_.family())
                               .arg(schrift_.pixelSize())

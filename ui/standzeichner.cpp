@@ -16,16 +16,14 @@ int luft(const standmass& mass) {
     return std::max(6, mass.gross.pixelSize() / 5);
 }
 
-const QColor gold{255, 246, 214};
-const QColor streifen{244, 246, 249};
-
 }  // namespace
 
 QColor Standzeichner::grund(const QStyleOptionViewItem& option, const QModelIndex& zelle) const {
     if (option.state.testFlag(QStyle::State_Selected)) {
         return stil::akzent;
     }
-    return zelle.row() == 0 && mass_.mit_sieger ? gold : zelle.row() % 2 == 1 ? streifen : stil::karte;
+    const stil::farbsatz& f = stil::auf_dem_schirm();
+    return zelle.row() == 0 && mass_.mit_sieger ? f.sieger : zelle.row() % 2 == 1 ? f.streifen : f.karte;
 }
 
 void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, const QModelIndex& zelle) const {
@@ -39,13 +37,15 @@ void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, c
     QRect oben(feld.left(), feld.top() + (feld.height() - hoehe) / 2, feld.width(), gross.height());
     const bool leer = ausrichtung_ != Qt::AlignLeft && !zelle.data().toString().contains(QRegularExpression("[1-9]"));
     const QColor schrift = stil::schrift_auf(flaeche);
-    maler->setPen(leer ? stil::schrift_gesperrt : schrift);  // what has not been driven stands back
+    maler->setPen(leer ? stil::auf_dem_schirm().schrift_gesperrt : schrift);  // what has not been driven stands back
     maler->setFont(mass_.gross);
     maler->drawText(oben, static_cast<int>(ausrichtung_ | Qt::AlignVCenter | Qt::TextSingleLine),
                     gross.elidedText(zeilen.front(), Qt::ElideRight, feld.width()));
     if (zeilen.size() > 1) {
         const bool markiert = option.state.testFlag(QStyle::State_Selected);
-        maler->setPen(leer ? stil::schrift_gesperrt : markiert ? schrift : stil::schrift_leise);
+        maler->setPen(leer       ? stil::auf_dem_schirm().schrift_gesperrt
+                      : markiert ? schrift
+                                 : stil::auf_dem_schirm().schrift_leise);
         maler->setFont(mass_.klein);
         maler->drawText(QRect(feld.left(), oben.bottom() + 1, feld.width(), klein.height()),
                         static_cast<int>(ausrichtung_ | Qt::AlignVCenter | Qt::TextSingleLine), zeilen.at(1));

@@ -2,7 +2,11 @@
 
 #include <QFont>
 #include <QPalette>
+#ifdef Q_OS_WIN
+#include <QSettings>
+#endif
 #include <QStyleFactory>
+#include <array>
 #include <cmath>
 
 /// The pictures lie in a static library: without this call nobody would register them. Not possible inside a namespace.
@@ -13,50 +17,119 @@ static void bilder_bereitstellen() {
 namespace tarvel::ui::stil {
 namespace {
 
+constexpr const char* palette_des_systems = "palette_des_systems";
+constexpr int halbe_helligkeit = 128;
+
 const char* const regeln = R"(
-QGroupBox { background: #ffffff; border: 1px solid #d0d4db; border-radius: 8px; margin-top: 26px; padding: 8px; }
-QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 4px; top: 3px; color: #c41e2a; }
-QLineEdit, QComboBox { background: #ffffff; border: 1px solid #aab1bd; border-radius: 5px; padding: 3px 7px;
-                       min-height: 24px; selection-background-color: #c41e2a; }
-QLineEdit:focus, QComboBox:focus { border: 2px solid #c41e2a; padding: 2px 6px; }
-QLineEdit:disabled, QComboBox:disabled { background: #eceef1; color: #9aa1ad; }
+QGroupBox { background: @karte; border: 1px solid @linie; border-radius: 8px; margin-top: 26px; padding: 8px; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 4px; top: 3px; color: @akzent; }
+QLineEdit, QComboBox { background: @karte; border: 1px solid @rand; border-radius: 5px; padding: 3px 7px;
+                       min-height: 24px; selection-background-color: @vollakzent; }
+QLineEdit:focus, QComboBox:focus { border: 2px solid @akzent; padding: 2px 6px; }
+QLineEdit:disabled, QComboBox:disabled { background: @grau; color: @gesperrt; }
 QComboBox { combobox-popup: 0; }
 QPushButton { outline: none; }
 QComboBox::drop-down { border: none; width: 26px; }
-QComboBox::down-arrow { image: url(:/bilder/pfeil.png); width: 20px; height: 20px; }
-QPushButton { background: #ffffff; border: 1px solid #aab1bd; border-radius: 6px; padding: 7px 16px; }
+QComboBox::down-arrow { image: url(:/bilder/@pfeil); width: 20px; height: 20px; }
+QPushButton { background: @karte; border: 1px solid @rand; border-radius: 6px; padding: 7px 16px; }
 QPushButton[rolle="schmal"] { padding: 7px 5px; }
-QPushButton:hover { background: #f2f4f7; }
-QPushButton:pressed { background: #e2e5ea; }
-QPushButton:focus { border: 2px solid #c41e2a; padding: 6px 15px; }
+QPushButton:hover { background: @ueber; }
+QPushButton:pressed { background: @gedrueckt; }
+QPushButton:focus { border: 2px solid @akzent; padding: 6px 15px; }
 QPushButton[rolle="schmal"]:focus { padding: 6px 4px; }
-QPushButton:disabled { color: #9aa1ad; background: #eceef1; border-color: #d0d4db; }
-QPushButton[rolle="haupt"] { background: #c41e2a; color: #ffffff; border: 1px solid #9d1721; font-weight: bold; }
+QPushButton:disabled { color: @gesperrt; background: @grau; border-color: @linie; }
+QPushButton[rolle="haupt"] { background: @vollakzent; color: white; border: 1px solid #9d1721; font-weight: bold; }
 QPushButton[rolle="haupt"]:hover { background: #d62a37; }
 QPushButton[rolle="haupt"]:pressed { background: #a51823; }
-QPushButton[rolle="haupt"]:focus { border: 2px solid #1c2028; }
-QPushButton[rolle="haupt"]:disabled { background: #d9a5a9; border-color: #d0d4db; color: #ffffff; }
+QPushButton[rolle="haupt"]:focus { border: 2px solid @schrift; }
+QPushButton[rolle="haupt"]:disabled { background: @blassakzent; border-color: @linie; color: @karte; }
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
-QLabel[rolle="leise"] { color: #626a78; }
+QLabel[rolle="leise"] { color: @leise; }
+QLabel[rolle="warnung"] { color: @akzent; }
 QListView { outline: none; }
 QListView::item { padding: 3px 6px; border: 0px solid transparent; border-radius: 3px; }
-QListView::item:selected { background: #c41e2a; color: #ffffff; }
-QListView { background: #ffffff; border: 1px solid #d0d4db; border-radius: 5px; }
-QListView:focus { border-color: #c41e2a; }
+QListView::item:selected { background: @vollakzent; color: white; }
+QListView { background: @karte; alternate-background-color: @ueber; border: 1px solid @linie; border-radius: 5px; }
+QListView:focus { border-color: @akzent; }
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 12px; }
 QScrollBar:horizontal { height: 12px; }
 QScrollArea > QWidget > QScrollBar:vertical { width: 18px; }
 QAbstractScrollArea::corner { background: transparent; border: none; }
-QScrollBar::handle { background: #aab1bd; border-radius: 4px; }
-QScrollBar::handle:hover { background: #626a78; }
+QScrollBar::handle { background: @rand; border-radius: 4px; }
+QScrollBar::handle:hover { background: @leise; }
 QScrollBar::handle:vertical { min-height: 30px; margin: 2px; }
 QScrollArea > QWidget > QScrollBar::handle:vertical { margin-left: 8px; }
 QScrollBar::handle:horizontal { min-width: 30px; margin: 2px; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
-QToolTip { background: #ffffff; color: #1c2028; border: 1px solid #aab1bd; padding: 3px 6px; }
+QToolTip { background: @karte; color: @schrift; border: 1px solid @rand; padding: 3px 6px; }
 )";
+
+/// What the names in the rules stand for, light and dark. No name is the beginning of another.
+struct regelfarbe {
+    const char* name;
+    const char* hell;
+    const char* dunkel;
+};
+constexpr std::array<regelfarbe, 13> regelfarben{{{"@karte", "#ffffff", "#272b33"},
+                                                  {"@linie", "#d0d4db", "#414753"},
+                                                  {"@rand", "#aab1bd", "#5d6574"},
+                                                  {"@akzent", "#c41e2a", "#ff7a80"},
+                                                  {"@vollakzent", "#c41e2a", "#c41e2a"},
+                                                  {"@blassakzent", "#d9a5a9", "#5c3236"},
+                                                  {"@grau", "#eceef1", "#20242b"},
+                                                  {"@gesperrt", "#9aa1ad", "#727a89"},
+                                                  {"@ueber", "#f2f4f7", "#2f343e"},
+                                                  {"@gedrueckt", "#e2e5ea", "#3a404c"},
+                                                  {"@leise", "#626a78", "#a9b1bf"},
+                                                  {"@schrift", "#1c2028", "#eef0f4"},
+                                                  {"@pfeil", "pfeil.png", "pfeil_hell.png"}}};
+
+const farbsatz helle_farben{akzent,        flaeche,          karte,           linie,           schrift,
+                            schrift_leise, schrift_gesperrt, {244, 246, 249}, {255, 250, 232}, {214, 170, 40}};
+const farbsatz dunkle_farben{{255, 122, 128}, {28, 31, 38},    {39, 43, 51}, {65, 71, 83}, {238, 240, 244},
+                             {169, 177, 191}, {114, 122, 137}, {47, 52, 62}, {66, 57, 24}, {214, 170, 40}};
+
+QString regeln_in(bool dunkel) {
+    QString text = regeln;
+    for (const regelfarbe& farbe : regelfarben) {
+        text.replace(farbe.name, dunkel ? farbe.dunkel : farbe.hell);
+    }
+    return text;
+}
+
+/// Every colour is ours, also where the desktop has another theme.
+QPalette palette_aus(const farbsatz& f) {
+    QPalette palette(f.karte, f.flaeche);
+    palette.setColor(QPalette::Window, f.flaeche);
+    palette.setColor(QPalette::WindowText, f.schrift);
+    palette.setColor(QPalette::Base, f.karte);
+    palette.setColor(QPalette::AlternateBase, f.streifen);
+    palette.setColor(QPalette::Text, f.schrift);
+    palette.setColor(QPalette::Button, f.karte);
+    palette.setColor(QPalette::ButtonText, f.schrift);
+    palette.setColor(QPalette::Highlight, akzent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, f.akzent);
+    palette.setColor(QPalette::LinkVisited, f.akzent);
+    palette.setColor(QPalette::PlaceholderText, f.schrift_leise);
+    for (const QPalette::ColorRole rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, rolle, f.schrift_gesperrt);
+    }
+    return palette;
+}
+
+/// Asked of the style itself: the program's own palette lies over the desktop's.
+bool system_ist_dunkel() {
+#ifdef Q_OS_WIN
+    const QSettings wahl(R"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
+                         QSettings::NativeFormat);
+    return wahl.value("AppsUseLightTheme", 1).toInt() == 0;
+#else
+    return qApp->property(palette_des_systems).value<QPalette>().color(QPalette::Window).lightness() < halbe_helligkeit;
+#endif
+}
 
 const char* const regeln_dunkel =
     "QLabel { color: #f0f2f5; }"
@@ -71,27 +144,26 @@ const char* const regeln_dunkel =
 
 void anwenden(QApplication& anwendung) {
     bilder_bereitstellen();
+    anwendung.setProperty(palette_des_systems, QApplication::palette());
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QFont grundschrift = QApplication::font();
     grundschrift.setPixelSize(15);
     QApplication::setFont(grundschrift);
-    QPalette palette(karte, flaeche);  // every colour is ours, also where the desktop has a dark theme
-    palette.setColor(QPalette::Window, flaeche);
-    palette.setColor(QPalette::WindowText, schrift);
-    palette.setColor(QPalette::Base, karte);
-    palette.setColor(QPalette::Text, schrift);
-    palette.setColor(QPalette::Button, karte);
-    palette.setColor(QPalette::ButtonText, schrift);
-    palette.setColor(QPalette::Highlight, akzent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, akzent);
-    palette.setColor(QPalette::LinkVisited, akzent);
-    palette.setColor(QPalette::PlaceholderText, schrift_leise);
-    for (const QPalette::ColorRole rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, rolle, schrift_gesperrt);
+    faerben(aussehen::hell);
+}
+
+void faerben(aussehen wie) {
+    const bool dunkel = wie == aussehen::dunkel || (wie == aussehen::wie_das_system && system_ist_dunkel());
+    const QString neue_regeln = regeln_in(dunkel);
+    if (qApp->styleSheet() != neue_regeln) {  // costs every widget a look
+        QApplication::setPalette(palette_aus(dunkel ? dunkle_farben : helle_farben));
+        qApp->setStyleSheet(neue_regeln);
     }
-    QApplication::setPalette(palette);
-    anwendung.setStyleSheet(regeln);
+}
+
+const farbsatz& auf_dem_schirm() {
+    return QApplication::palette().color(QPalette::Window).lightness() < halbe_helligkeit ? dunkle_farben
+                                                                                          : helle_farben;
 }
 
 QLabel* leise(QLabel* label) {

@@ -8,11 +8,13 @@
 #include <QPushButton>
 #include <initializer_list>
 
+#include "core/erscheinung.h"
 #include "core/steuerelemente.h"
 
 /// The look of the house in one place.
 namespace tarvel::ui::stil {
 
+// Of paper, and of what is drawn as on paper.
 inline const QColor akzent{196, 30, 42};
 inline const QColor flaeche{244, 245, 247};
 inline const QColor karte{255, 255, 255};
@@ -25,7 +27,18 @@ inline const QColor nachtschrift{58, 62, 70};  ///< on black: for who looks for 
 inline constexpr QMargins fensterrand{16, 12, 16, 12};
 inline constexpr int knopfhoehe = 42;  ///< of the commands at the foot of a window
 
+/// The colours of a window's own drawings, which are light or dark with it.
+struct farbsatz {
+    QColor akzent, flaeche, karte, linie, schrift, schrift_leise, schrift_gesperrt;
+    QColor streifen;  ///< every second row of a table
+    QColor sieger;    ///< the first row, if it has won something
+    QColor sieger_rand;
+};
+const farbsatz& auf_dem_schirm();
+
 void anwenden(QApplication& anwendung);
+/// All windows anew in these colours.
+void faerben(aussehen wie);
 
 /// A caption or a unit that stands back behind what it belongs to. Before the label is shown.
 QLabel* leise(QLabel* label);

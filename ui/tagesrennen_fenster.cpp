@@ -120,7 +120,7 @@ QWidget* TagesrennenFenster::listengruppe() {
     gruppe->setMinimumWidth(listenbreite);
     auto* aufbau = new QVBoxLayout(gruppe);
     aufbau->setSpacing(2);
-    kopf_ = binder().label(logik_.Label_kopf, "Label_kopf");
+    kopf_ = stil::leise(binder().label(logik_.Label_kopf, "Label_kopf"));
     kopf_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     zeilen_ = binder().listenfeld(logik_.ergebnisse, "ergebnisse");
     zeilen_->setAlternatingRowColors(true);
@@ -137,8 +137,8 @@ void TagesrennenFenster::resizeEvent(QResizeEvent* ereignis) {
     const double px = std::clamp(width() * listenanteil / (zeichen * zeichen_je_zeile), 12.0, 22.0);
     const QString art =
         QString("font-family: '%1', monospace; font-size: %2px;").arg(schrift.family()).arg(static_cast<int>(px));
-    kopf_->setStyleSheet(art + " color: #626a78; padding-left: 6px;");
-    zeilen_->setStyleSheet("QListView { " + art + " alternate-background-color: #f2f4f7; }");
+    kopf_->setStyleSheet(art + " padding-left: 6px;");
+    zeilen_->setStyleSheet("QListView { " + art + " }");
 }
 
 QLayout* TagesrennenFenster::fusszeile() {

@@ -75,6 +75,11 @@ void TextAnzeige::setPlakette(bool plakette) {
     }
 }
 
+void TextAnzeige::setFarbrolle(QPalette::ColorRole rolle) {
+    rolle_ = rolle;
+    update();
+}
+
 void TextAnzeige::setRahmen(const QColor& farbe) {
     if (rahmen_ != farbe) {
         rahmen_ = farbe;
@@ -125,7 +130,7 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
         maler.setPen(QPen(rahmen_, breite));
         maler.drawRect(rect().adjusted(1, 1, -2, -2));
     }
-    const QColor farbe = farbe_.isValid() ? farbe_ : palette().color(QPalette::WindowText);
+    const QColor farbe = farbe_.isValid() ? farbe_ : palette().color(rolle_);
     maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
     const double breite = std::max(masse.horizontalAdvance(text), 1.0);
     double faktor = std::min(width() / breite, height() / masse.capHeight());

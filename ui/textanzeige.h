@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPalette>
 #include <QWidget>
 
 class QFontMetricsF;
@@ -22,6 +23,8 @@ public:
     void setZweizeilig();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
+    /// The colour that windows have for this, light or dark as they are.
+    void setFarbrolle(QPalette::ColorRole rolle);
     /// The text stands out of a plate of its colour.
     void setPlakette(bool plakette);
     /// A frame around the place; an invalid colour for none.
@@ -43,6 +46,7 @@ private:
     QString muster_;
     QFont schrift_;
     QColor farbe_;
+    QPalette::ColorRole rolle_ = QPalette::WindowText;
     QColor rahmen_;
     bool plakette_ = false;
     double deckkraft_ = 1;

@@ -117,7 +117,8 @@ QLabel* UartEinstellungenFenster::ereignis(bezeichnung& element, const QString& 
     label->setFixedWidth(ereignis_breite);
     binder().verbinden(element, label, name, [&element, label] {
         label->setText(QString::fromStdString(element.text()));
-        const QColor grund = element.hintergrund() ? stil::farbe_von(*element.hintergrund()) : stil::karte;
+        const QColor grund =
+            element.hintergrund() ? stil::farbe_von(*element.hintergrund()) : stil::auf_dem_schirm().karte;
         label->setStyleSheet(
             QString("background: %1; border: 1px solid #d0d4db; border-radius: 4px; padding: 4px;").arg(grund.name()));
     });
@@ -168,7 +169,7 @@ void UartEinstellungenFenster::chaos_seite(QGridLayout* raster) {
     }
     QLabel* von_hand = binder().label(logik_.Label_von_hand, "Label_von_hand");
     von_hand->setWordWrap(true);
-    von_hand->setStyleSheet("color: #626a78;");
+    stil::leise(von_hand);
     raster->addWidget(von_hand, 4 + platz, 0, 1, 2);
 }
 

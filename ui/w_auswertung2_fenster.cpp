@@ -157,9 +157,7 @@ QWidget* WAuswertung2Fenster::tabelle() {
     zeilen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     zeilen_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     zeilen_->setAlternatingRowColors(true);
-    zeilen_->setStyleSheet(
-        QString("QListView { alternate-background-color: #f2f4f7; } QListView::item { padding: 0px %1px; }")
-            .arg(einzug_px));
+    zeilen_->setStyleSheet(QString("QListView::item { padding: 0px %1px; }").arg(einzug_px));
     zeichner_ = new Ergebniszeichner(logik_, this);
     zeilen_->setItemDelegate(zeichner_);
     QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });

@@ -49,7 +49,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*ereignis*/) override {
         QPainter maler(this);
-        maler.setPen(stil::schrift_leise);
+        maler.setPen(palette().color(QPalette::PlaceholderText));
         maler.setFont(font());
         const QRect feld = rect().adjusted(0, 0, versatz_, 0).translated(einzug_ + 1 - versatz_, 0);
         maler.drawText(feld, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text_);

@@ -66,12 +66,12 @@ WAuswertungFenster::WAuswertungFenster(w_auswertung& logik, const dateien& ablag
 }
 
 QLabel* WAuswertungFenster::kopf(bezeichnung& element, const QString& name, Qt::Alignment ausrichtung) {
-    auto* widget = new QLabel(this);
+    QLabel* widget = stil::leise(new QLabel(this));
     widget->setTextFormat(&element == &logik_.Label_balken ? Qt::RichText : Qt::PlainText);
     widget->setAlignment(ausrichtung | Qt::AlignVCenter);
     binder().verbinden(element, widget, name, [this, &element, widget] {
         widget->setText(QString::fromStdString(element.text()));
-        QString regel = "color: #626a78; padding: 0 6px;";
+        QString regel = "padding: 0 6px;";
         if (element.hintergrund()) {
             const QColor farbe = stil::farbe_von(*element.hintergrund());
             regel = QString(

@@ -229,7 +229,7 @@ QWidget* Wettkampf1Fenster::plankarte() {
     }
     QLabel* hinweis = binder().label(logik_.plan_hinweis, "plan_hinweis");
     hinweis->setWordWrap(true);
-    hinweis->setStyleSheet("color: #c41e2a;");
+    hinweis->setProperty("rolle", "warnung");
     raster->addWidget(hinweis, reihe, 0, 1, 2);
     return kasten;
 }

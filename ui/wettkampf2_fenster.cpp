@@ -46,7 +46,8 @@ Wettkampf2Fenster::Wettkampf2Fenster(wettkampf2& logik, const dateien& ablage, F
     binder().verbinden(logik_.Frame_liste, mitte, "Frame_liste", [this] { skalieren(); });
     aufbau->addWidget(mitte, 4);
     QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
-    fehler->setStyleSheet(QString("color: %1; font-weight: bold;").arg(stil::akzent.name()));
+    fehler->setProperty("rolle", "warnung");
+    fehler->setStyleSheet("font-weight: bold;");
     aufbau->addWidget(fehler);  // below whatever is shown: in the automatic flow no box tells of it
     aufbau->addLayout(fuss());
 }
@@ -104,7 +105,7 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
     kopf->addWidget(gross(logik_.Label_von, "Label_von", schrift_kopf), 1, 1);
     TextAnzeige* warten = gross(logik_.Label_wartezeit, "Label_wartezeit", schrift_nummer);
     warten->setFett(true);
-    warten->setFarbe(stil::akzent);
+    warten->setFarbrolle(QPalette::Link);
     kopf->addWidget(warten, 1, 2);
     kopf->addWidget(gross(logik_.Label_dauer, "Label_dauer", schrift_kopf), 1, 3);
     kopf->addWidget(gross(logik_.label_best, "label_best", schrift_klein * 1.4), 1, 4);

@@ -1,4 +1,4 @@
-// Draws the program's windows in given states: fensterbilder <folder> [<size>] [<scene>...]
+// Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [<scene>...]
 // Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 
@@ -29,8 +29,10 @@ QPixmap aufnehmen(buehne& b, QWidget& fenster) {
     return bild;
 }
 
-bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen) {
+bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen,
+              aussehen wie) {
     buehne b;
+    ui::stil::faerben(wie);
     QWidget& fenster = gewuenscht.zeigen(b);
     bool gut = true;
     for (const QSize& groesse : gewuenscht.eigene_groesse ? std::vector{fenster.size()} : groessen) {
@@ -59,7 +61,7 @@ int main(int argc, char** argv) {
     tarvel::ui::stil::anwenden(anwendung);
     QStringList argumente = QApplication::arguments().mid(1);
     if (argumente.isEmpty()) {
-        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [<Szene>...]\n");
+        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [<Szene>...]\n");
         return 2;
     }
     const QString ordner = argumente.takeFirst();
@@ -69,6 +71,7 @@ int main(int argc, char** argv) {
         groessen = {QSize(masse[0].toInt(), masse[1].toInt())};
         argumente.removeFirst();
     }
+    const tarvel::aussehen wie = argumente.removeAll("dunkel") > 0 ? tarvel::aussehen::dunkel : tarvel::aussehen::hell;
     std::filesystem::create_directories(ordner.toStdU16String());
     bool gut = true;
     const bool alle = argumente.isEmpty();
@@ -78,7 +81,7 @@ int main(int argc, char** argv) {
     }
     for (const auto& szene : szenen) {
         if (alle || argumente.removeAll(szene.name) > 0) {
-            gut = tarvel::zeichnen(szene, ordner, groessen) && gut;
+            gut = tarvel::zeichnen(szene, ordner, groessen, wie) && gut;
         }
     }
     for (const QString& unbekannt : argumente) {
