@@ -1,5 +1,6 @@
 #include "core/bildwahl.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <system_error>
@@ -42,7 +43,9 @@ sprachliste bildwahl::sprache_fbl() {
     texte.ueberschrift("Bild zuordnen").text("Laufwerk", Label_laufwerk).text("Ordner", Label_ordner);
     texte.text("Bilddatei", Label_datei).text("Übernehmen", Command1).text("Abbrechen", Command2);
     texte.text("Die Datei ist kein Bild.", kein_bild_text_);
-    return texte.text("Das Bild konnte nicht kopiert werden.", nicht_kopiert_text_);
+    texte.text("Das Bild konnte nicht kopiert werden.", nicht_kopiert_text_);
+    texte.text("Durchsuchen …", Command_suchen);
+    return texte.tipp("Das Bild mit dem Dateifenster des Systems suchen", Command_suchen);
 }
 
 void bildwahl::oeffnen(auftrag a) {
@@ -82,6 +85,16 @@ void bildwahl::ordner_zeigen(const fs::path& ort) {
         datei.hinzufuegen(name);
     }
     datei_gewaehlt();
+}
+
+void bildwahl::zeigen(const fs::path& bilddatei) {
+    ordner_zeigen(bilddatei.parent_path());
+    const std::string name = pfad_als_utf8(bilddatei.filename());
+    const auto gefunden = std::find(datei.zeilen().begin(), datei.zeilen().end(), name);
+    if (gefunden != datei.zeilen().end()) {
+        datei.markieren(static_cast<int>(gefunden - datei.zeilen().begin()));
+        datei_gewaehlt();
+    }
 }
 
 void bildwahl::ordner_betreten() {

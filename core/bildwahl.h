@@ -35,12 +35,16 @@ public:
     tarvel::liste ordner;  ///< row 0 leads one folder up
     bezeichnung Label_datei;
     tarvel::liste datei;
-    bild vorschau;    ///< its file is a full path
-    befehl Command1;  ///< take it
-    befehl Command2;  ///< cancel
+    bild vorschau;          ///< its file is a full path
+    befehl Command_suchen;  ///< with the file window of the desktop
+    befehl Command1;        ///< take it
+    befehl Command2;        ///< cancel
 
     std::vector<sprachliste> sprachdateien() override { return {sprache_fbl()}; }
     void oeffnen(auftrag a);
+    const std::filesystem::path& ort() const { return ort_; }
+    /// Shows the file's folder, and in it the file; a file that is no picture's by its name is not there.
+    void zeigen(const std::filesystem::path& bilddatei);
     /// Without a picture.
     void schliessen() override;
     /// The texts of the window.

@@ -159,6 +159,9 @@ class auswahl : public eingabe_element {
 public:
     const std::vector<std::string>& eintraege() const { return eintraege_; }
     void eintraege(const std::vector<std::string>& neu) { setzen(eintraege_, neu); }
+    /// Said behind the entries of the open choice, in their order; no part of the text that is chosen.
+    const std::vector<std::string>& zusaetze() const { return zusaetze_; }
+    void zusaetze(const std::vector<std::string>& neu) { setzen(zusaetze_, neu); }
     bool frei() const { return frei_; }
     void frei(bool neu) { setzen(frei_, neu); }
     void eingeben(std::string_view neu) override;
@@ -172,6 +175,7 @@ public:
 
 private:
     std::vector<std::string> eintraege_;
+    std::vector<std::string> zusaetze_;
     int platz_ = -1;
     bool frei_ = false;
 };

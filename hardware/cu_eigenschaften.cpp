@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/portzusatz.h"
 #include "core/text.h"
 #include "core/zeit.h"
 
@@ -114,6 +115,7 @@ void cu_eigenschaften::laden() {
         ports.push_back(com(nummer));
     }
     cbo_cu_comport.eintraege(ports);
+    portzusaetze_zeigen(cbo_cu_comport, ports_);
     cbo_cu_comport.platz(std::clamp(um_.einst.cu.anschluss.cu_modus, 0, cu_comport_max));
     opt_cu_tankautomatik.gesetzt(um_.einst.cu.cu_tankautomatik);
     opt_cu_prgstart.gesetzt(um_.einst.cu.cu_sondermodus);

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/portzusatz.h"
 #include "core/text.h"
 #include "hardware/rc_uhr.h"
 
@@ -119,6 +120,7 @@ void rc_einstellungen::werte_zeigen() {
         ports.push_back("COM" + std::to_string(nummer));
     }
     selComPort.eintraege(ports);
+    portzusaetze_zeigen(selComPort, um_.serienports);
     selComPort.text(um_.einst.rc.anschluss.rc_com_port);
     check_rctank.gesetzt(um_.einst.rc.rc_tank_sensor34);
     check_rcziel.gesetzt(um_.einst.rc.rc_ziel_sensor34);

@@ -12,6 +12,7 @@
 #include "hardware/geraetefenster.h"
 #include "hardware/rc_verbindung.h"
 #include "platform/meldungen.h"
+#include "platform/serienport.h"
 #include "platform/uhr.h"
 #include "platform/zeitgeber.h"
 
@@ -28,6 +29,7 @@ public:
         fensterregister& fenster;
         const plattform::uhr& uhr;
         plattform::zeitgeber_dienst& zeitgeber;
+        const plattform::serienport_dienst& serienports;
         plattform::meldungen& meldungen;
     };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/portzusatz.h"
 #include "core/text.h"
 #include "hardware/at2560.h"
 
@@ -84,6 +85,7 @@ void uart_einstellungen::auswahlen_fuellen() {
         ports.push_back("COM" + std::to_string(nummer));
     }
     port.eintraege(ports);
+    portzusaetze_zeigen(port, um_.serienports);
     const std::string bisher = als_pinliste(profil_.at_is_befehl);
     is_liste.eintraege({std::string(pinliste), bisher});
     is_liste.text(pinliste);

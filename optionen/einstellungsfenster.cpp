@@ -7,6 +7,7 @@
 
 #include "core/bestzeiten.h"
 #include "core/nebendateien.h"
+#include "core/portzusatz.h"
 #include "core/text.h"
 #include "core/zahleneingabe.h"
 
@@ -219,6 +220,9 @@ void einstellungsfenster::werte_zeigen() {
         }
     });
     gruppen_->abgleichen();
+    for (const char* name : {"selComPort", "cu_comport", "uart_port"}) {
+        portzusaetze_zeigen(std::get<auswahl>(zeile(name).element), um_.anschluesse);
+    }
     bestzeiten_zeigen();
     const auto in_kraft = static_cast<std::size_t>(um_.ziel.einst.hardware.modus());
     for (std::size_t nummer = 0; nummer < hardware.size(); ++nummer) {

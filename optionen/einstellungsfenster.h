@@ -21,6 +21,7 @@
 #include "optionen/schemawahl.h"
 #include "platform/klang.h"
 #include "platform/meldungen.h"
+#include "platform/serienport.h"
 
 namespace tarvel {
 
@@ -51,6 +52,7 @@ public:
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         plattform::klang& klang;
+        const plattform::serienport_dienst& anschluesse;
         speichernfenster& dateiwahl;
         bildwahl& bilder;
         optionsfolgen& folgen;

@@ -55,6 +55,7 @@ optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolge
                            p.fenster,
                            p.dienste.meldungen,
                            p.dienste.klang,
+                           p.dienste.serienports,
                            fahrerspeichernfenster,
                            fahrerbild_laden,
                            folgen},

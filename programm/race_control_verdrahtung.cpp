@@ -16,9 +16,9 @@ race_control_verdrahtung::race_control_verdrahtung(const geraete_umgebung& um, m
       box({um.einst, um.txt, um.ereignisse, um.rennen.zeit, alle.rennverbindung(), alle, um.dienste.uhr,
            um.dienste.zeitgeber, um.dienste.meldungen},
           verbindung),
-      rc_einstellungen(
-          {um.einst, um.txt, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.meldungen},
-          verbindung),
+      rc_einstellungen({um.einst, um.txt, um.ablage, um.fenster, um.dienste.uhr, um.dienste.zeitgeber,
+                        um.dienste.serienports, um.dienste.meldungen},
+                       verbindung),
       form1_(um.form1) {
     rc_einstellungen.zugang = this;
     optionen_.aktion_verbinden("rc_einrichten", [this] {

@@ -48,6 +48,22 @@ TEST_F(Optionen, WasDieDateiNichtAnnimmtNimmtAuchDasFensterNicht) {
     EXPECT_EQ(neu.einst.sound_dateien[55], "-") << "an empty line would bring the old sound back";
 }
 
+TEST_F(Optionen, PortlistenSagenWasAngeschlossenIst) {
+    t.maschine.anschluesse.da = {2, 5, 99};
+    t.maschine.anschluesse.bekannt = {{2, {"RS232", "/dev/ttyS1", ""}},
+                                      {5, {"USB 1a86:7523", "ttyUSB0", "USB Serial"}}};
+    fenster.schliessen();
+    oeffnen();
+    auto& ports = element<auswahl>("cu_comport");
+    ASSERT_EQ(ports.zusaetze().size(), ports.eintraege().size());
+    EXPECT_EQ(ports.zusaetze().at(2), "RS232 (/dev/ttyS1)");
+    EXPECT_EQ(ports.zusaetze().at(5), "USB Serial (ttyUSB0)");
+    EXPECT_EQ(ports.zusaetze().at(1), "") << "nothing there";
+    ports.waehlen(5);
+    uebernehmen();
+    EXPECT_EQ(einst.cu.anschluss.cu_modus, 5) << "what stands behind a port is none of its name";
+}
+
 TEST_F(Optionen, WechselschemaJedeSpurNurEinmal) {
     for (const char* text : {"", "1-1", "1-2-3-4-5-6-6", "0-1-2-3-4-5-6", "1-2-3-4-5-6-P-1", "Unfug"}) {
         const auto gezeigt = nach_eingabe("wechsel_schema", text);

@@ -1,5 +1,6 @@
 #include "ui/bildwahl_fenster.h"
 
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -37,8 +38,22 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung,
     aufbau->addLayout(mitte, 1);
 
     QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
-    aufbau->addLayout(stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")}));
+    QPushButton* suchen = binder().knopf(logik.Command_suchen, "Command_suchen");
+    QObject::connect(suchen, &QPushButton::clicked, this, [this, &logik] { bild_suchen(logik); });
+    QHBoxLayout* fuss = stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")});
+    fuss->insertWidget(0, stil::fensterknopf(suchen));
+    aufbau->addLayout(fuss);
     resize(860, 480);
+}
+
+void BildwahlFenster::bild_suchen(bildwahl& logik) {
+    auto* dialog = new QFileDialog(this, windowTitle(), QString::fromStdU16String(logik.ort().u16string()),
+                                   "JPEG, GIF (*.jpg *.jpeg *.gif)");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    QObject::connect(dialog, &QFileDialog::fileSelected, this,
+                     [&logik](const QString& datei) { logik.zeigen(std::filesystem::path(datei.toStdU16String())); });
+    vor_allem_zeigen(*dialog);
 }
 
 }  // namespace tarvel::ui

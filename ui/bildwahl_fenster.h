@@ -9,6 +9,9 @@ namespace tarvel::ui {
 class BildwahlFenster : public Fenster {
 public:
     BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
+
+private:
+    void bild_suchen(bildwahl& logik);
 };
 
 }  // namespace tarvel::ui

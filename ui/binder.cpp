@@ -284,9 +284,14 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
         for (int i = 0; i < widget->count(); ++i) {
             vorhanden << widget->itemText(i);
         }
-        if (vorhanden != eintraege) {
+        QStringList zusaetze;
+        for (const std::string& zusatz : element.zusaetze()) {
+            zusaetze << als_text(zusatz);
+        }
+        if (vorhanden != eintraege || widget->zusaetze() != zusaetze) {
             widget->clear();
             widget->addItems(eintraege);
+            widget->setZusaetze(zusaetze);
             widget->view()->setMinimumWidth(widget->view()->sizeHintForColumn(0) + bildlaufleiste_px);
         }
         const QString text = als_text(element.text());

@@ -1,9 +1,38 @@
 #include "ui/eingabefelder.h"
 
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 #include <utility>
 
 namespace tarvel::ui {
+namespace {
+
+/// Items with what is said behind them.
+class Zusatzzeichner final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& zelle) const override {
+        QStyledItemDelegate::initStyleOption(option, zelle);
+        const QString zusatz = zelle.data(Qt::UserRole).toString();
+        if (!zusatz.isEmpty()) {
+            option->text += "  –  " + zusatz;
+        }
+    }
+};
+
+}  // namespace
+
+void Auswahlfeld::setZusaetze(const QStringList& zusaetze) {
+    if (zusaetze_.isEmpty() && !zusaetze.isEmpty()) {
+        setItemDelegate(new Zusatzzeichner(this));
+    }
+    zusaetze_ = zusaetze;
+    for (int i = 0; i < count(); ++i) {
+        setItemData(i, zusaetze_.value(i));
+    }
+}
 
 bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {
     const bool taste = ereignis->type() == QEvent::KeyPress;

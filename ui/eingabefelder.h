@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QStringList>
 #include <QWheelEvent>
 
 namespace tarvel::ui {
@@ -34,8 +35,15 @@ class Auswahlfeld final : public QComboBox {
 public:
     using QComboBox::QComboBox;
 
+    /// Shown behind the items while the choice is open.
+    const QStringList& zusaetze() const { return zusaetze_; }
+    void setZusaetze(const QStringList& zusaetze);
+
 protected:
     void wheelEvent(QWheelEvent* ereignis) override { ereignis->ignore(); }
+
+private:
+    QStringList zusaetze_;
 };
 
 /// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:
