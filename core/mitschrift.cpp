@@ -249,17 +249,7 @@ std::optional<mitschrift::satz> mitschrift::naechster() const {
     if (ort_ == zeilen_.size() || abweichung_) {
         return std::nullopt;
     }
-    std::string_view zeile = zeilen_[ort_];
-    satz s;
-    s.tiefe = static_cast<int>(std::min(zeile.find_first_not_of('.'), zeile.size()));
-    zeile.remove_prefix(static_cast<std::size_t>(s.tiefe));
-    s.wort = naechstes_wort(zeile);
-    s.schritt = s.tiefe > 0 ? als_zahl(s.wort) : std::nullopt;
-    if (s.schritt) {
-        s.wort = naechstes_wort(zeile);
-    }
-    s.rest = zeile;
-    return s;
+    return zerlegen(zeilen_[ort_]);
 }
 
 void mitschrift::abweichen(std::string stattdessen) {
@@ -271,7 +261,7 @@ void mitschrift::abweichen(std::string stattdessen) {
 
 std::optional<mitschrift::satz> mitschrift::naechste_tat() {
     std::optional<satz> s = naechster();
-    while (s && s->wort == kopf) {
+    while (s && s->ist_kopfzeile()) {
         kopfzeile_lesen(s->rest);
         ++ort_;
         if (bei_kopfzeile) {

@@ -170,13 +170,7 @@ private:
         std::size_t spruenge_anzahl = 0;
     };
 
-    /// One line of a log that is read again.
-    struct satz {
-        int tiefe = 0;
-        std::optional<std::int64_t> schritt;
-        std::string_view wort;
-        std::string_view rest;
-    };
+    using satz = protokollsatz;
 
     static constexpr std::size_t tiefe_max = 32;
 

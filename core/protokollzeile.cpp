@@ -111,6 +111,20 @@ std::optional<std::string_view> protokollleser::zeile() {
     return inhalt;
 }
 
+protokollsatz zerlegen(std::string_view zeile) {
+    protokollsatz s;
+    const std::size_t tiefe = std::min(zeile.find_first_not_of('.'), zeile.size());
+    s.tiefe = static_cast<int>(tiefe);
+    zeile.remove_prefix(tiefe);
+    s.wort = naechstes_wort(zeile);
+    s.schritt = s.tiefe > 0 ? als_zahl(s.wort) : std::nullopt;
+    if (s.schritt) {
+        s.wort = naechstes_wort(zeile);
+    }
+    s.rest = zeile;
+    return s;
+}
+
 std::string_view naechstes_wort(std::string_view& zeile) {
     const std::size_t ende = std::min(zeile.find(' '), zeile.size());
     const std::string_view wort = zeile.substr(0, ende);

@@ -56,6 +56,19 @@ private:
     std::uint16_t kette_ = protokoll_kette_anfang;
 };
 
+/// One line, taken apart. In one of the head, and one about a decision, `rest` begins with what it is about.
+struct protokollsatz {
+    int tiefe = 0;                        ///< lies so deep in others
+    std::optional<std::int64_t> schritt;  ///< at which it came within the doing above
+    std::string_view wort;
+    std::string_view rest;
+
+    /// Only for the reader who comes later.
+    bool ist_kopfzeile() const { return wort == "#"; }
+    bool ist_entscheidung() const { return wort == ">"; }
+};
+protokollsatz zerlegen(std::string_view zeile);
+
 /// Cuts the next word off a line; empty at its end.
 std::string_view naechstes_wort(std::string_view& zeile);
 /// The word as a whole number; none if it is not one.

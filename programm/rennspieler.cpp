@@ -52,24 +52,21 @@ void rennspieler::abtasten() {
     zeit_ms zeit = 0;
     int taten = 0;
     while (const auto gelesen = leser.zeile()) {
-        std::string_view zeile = *gelesen;
-        const bool tat = !zeile.starts_with('.');
-        zeile.remove_prefix(std::min(zeile.find_first_not_of('.'), zeile.size()));
-        const std::string_view wort = naechstes_wort(zeile);
-        if (tat && wort != "#") {
-            zeit = protokoll_stempel(als_zahl(naechstes_wort(zeile)).value_or(zeit));
+        protokollsatz satz = zerlegen(*gelesen);
+        if (satz.tiefe == 0 && !satz.ist_kopfzeile()) {
+            zeit = protokoll_stempel(als_zahl(naechstes_wort(satz.rest)).value_or(zeit));
             ++taten;
-            if (wort == "oeffnen") {
+            if (satz.wort == "oeffnen") {
                 anfang_ = zeit;
             }
-            if (wort != "zumachen") {
+            if (satz.wort != "zumachen") {
                 ende_ = std::max(ende_, zeit);
                 taten_ = taten;
             }
-        } else if (!tat && wort == ">") {
-            const auto art = markenworte.find(naechstes_wort(zeile));
+        } else if (satz.tiefe > 0 && satz.ist_entscheidung()) {
+            const auto art = markenworte.find(naechstes_wort(satz.rest));
             if (art != markenworte.end()) {
-                const std::int64_t spur = ohne_spur(art->first) ? 0 : als_zahl(naechstes_wort(zeile)).value_or(0);
+                const std::int64_t spur = ohne_spur(art->first) ? 0 : als_zahl(naechstes_wort(satz.rest)).value_or(0);
                 marken_.push_back({zeit, art->second, static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
             }
         }

@@ -21,19 +21,14 @@ public:
     explicit standleser(protokollstand& stand) : s_(stand) { s_.fahrer = s_.kopf.param.fahrer_name; }
 
     void zeile(std::string_view text, const ort& davor) {
-        const std::size_t tiefe = std::min(text.find_first_not_of('.'), text.size());
-        text.remove_prefix(tiefe);
-        std::string_view wort = naechstes_wort(text);
-        if (wort == "#") {
-            kopfzeile(text);
-        } else if (wort == ">") {
-            wort = naechstes_wort(text);
-            vermerk(wort, text);
+        protokollsatz satz = zerlegen(text);
+        if (satz.ist_kopfzeile()) {
+            kopfzeile(satz.rest);
+        } else if (satz.ist_entscheidung()) {
+            const std::string_view wort = naechstes_wort(satz.rest);
+            vermerk(wort, satz.rest);
         } else {
-            if (tiefe > 0) {
-                wort = naechstes_wort(text);
-            }
-            tun(wort, text, davor);
+            tun(satz.wort, satz.rest, davor);
         }
     }
     /// The race ends behind that.

@@ -128,16 +128,13 @@ public:
     explicit leser(rennhergang& h) : h_(h) {}
 
     void zeile(std::string_view text) {
-        const std::size_t tiefe = std::min(text.find_first_not_of('.'), text.size());
-        text.remove_prefix(tiefe);
-        std::string_view wort = naechstes_wort(text);
-        if (wort == "#") {
-            kopfzeile(text);
-        } else if (wort == ">") {
-            entscheidung(text);
+        const protokollsatz satz = zerlegen(text);
+        if (satz.ist_kopfzeile()) {
+            kopfzeile(satz.rest);
+        } else if (satz.ist_entscheidung()) {
+            entscheidung(satz.rest);
         } else {
-            wort = tiefe > 0 ? naechstes_wort(text) : wort;  // behind the step
-            tat(wort, text, tiefe == 0);
+            tat(satz.wort, satz.rest, satz.tiefe == 0);
         }
     }
 
