@@ -9,7 +9,10 @@ namespace {
 
 constexpr std::string_view vermerk = ">";
 constexpr std::string_view uhrsprung = "u";
-constexpr zeit_ms lebenszeichen_ms = 200;  // what is cut off is known to have lived until then
+constexpr std::string_view gezaehlt = "gezaehlt";    // behind the time: what has counted on, and how often
+constexpr int laeufe_max = 1000;                     // in a line
+constexpr zeit_ms lebenszeichen_ms = 200;            // what is cut off is known to have lived until then
+constexpr zeit_ms laeufe_ms = 2 * lebenszeichen_ms;  // a look comes sooner, if there is one
 constexpr std::string_view kopf = "#";
 constexpr std::string_view andere_uhr = "Uhr";  // behind that: the times count from there
 
@@ -42,13 +45,18 @@ void mitschrift::geschieht(int eingang, const werte& w) {
     const bool geweckt = std::exchange(e.geweckt, false);
     const zeit_ms jetzt = uhr_();
     zuege_.push_back({.eingang = eingang, .w = w, .beginn = jetzt, .nebenbei = nebenbei_lesen_(), .zeit = jetzt});
-    if (e.art != sorte::blick || geweckt || jetzt - lebenszeichen_ >= lebenszeichen_ms) {
+    const bool zaehlt = e.art == sorte::zaehlung && e.anzahl == 0;
+    if (zaehlt ? laeufe_.offen && jetzt - lebenszeichen_ >= laeufe_ms
+               : e.art != sorte::blick || geweckt || jetzt - lebenszeichen_ >= lebenszeichen_ms) {
         zuege_schreiben();
     }
     if (e.art == sorte::handlung) {
         wecken();
     }
     ausfuehren(eingang, w);
+    if (zaehlt && !zuege_.empty()) {
+        zaehlung_beenden();
+    }
     if (!zuege_.empty()) {  // the log may have been closed within
         nebenbei_ = zuege_.back().steht_da ? nebenbei_lesen_() : nebenbei_;
         zuege_.pop_back();
@@ -73,6 +81,10 @@ void mitschrift::schreiben(protokollsenke& senke, zeit_ms beginn, std::function<
     uhr_ = std::move(uhr);
     zuege_.clear();
     nebenbei_ = {unbekannt};
+    laeufe_.offen = false;
+    for (eintrag& e : eingaenge_) {
+        e.laeufe = 0;
+    }
     wecken();
 }
 
@@ -100,6 +112,7 @@ void mitschrift::kopfzeile(std::string_view text) {
     if (schreibt() && !zuege_.empty()) {
         ausstehend_.emplace_back(text);
     } else if (schreibt()) {
+        laeufe_schreiben();
         schreiber_.beginnen(0).wort(kopf).wort(text);
         anhaengen();
     }
@@ -115,9 +128,45 @@ void mitschrift::ausstehende_schreiben() {
 void mitschrift::zuege_schreiben() {
     for (std::size_t i = 0; i < zuege_.size(); ++i) {
         if (!std::exchange(zuege_[i].steht_da, true)) {
+            if (laeufe_.tiefe == i) {
+                laeufe_schreiben();
+            }
             zug_schreiben(i);
         }
     }
+}
+
+void mitschrift::zaehlung_beenden() {
+    const zug& z = zuege_.back();
+    eintrag& e = eingaenge_[static_cast<std::size_t>(z.eingang)];
+    const std::size_t tiefe = zuege_.size() - 1;
+    if (z.steht_da) {
+        return;
+    }
+    if (z.schritt > 0 || z.merklich || z.nebenbei != nebenbei_lesen_() || e.laeufe == laeufe_max ||
+        (laeufe_.offen && laeufe_.tiefe != tiefe)) {
+        zuege_schreiben();
+    } else {
+        laeufe_ = {true, tiefe, z.beginn};
+        ++e.laeufe;
+    }
+}
+
+void mitschrift::laeufe_schreiben() {
+    if (!std::exchange(laeufe_.offen, false) || laeufe_.tiefe > zuege_.size()) {
+        return;
+    }
+    schreiber_.beginnen(static_cast<int>(laeufe_.tiefe));
+    if (laeufe_.tiefe > 0) {
+        schreiber_.zahl(zuege_[laeufe_.tiefe - 1].tor);
+    }
+    schreiber_.wort(gezaehlt).zahl(laeufe_.zeit - beginn_);
+    for (eintrag& e : eingaenge_) {
+        if (e.laeufe > 0) {
+            schreiber_.wort(e.name).zahl(std::exchange(e.laeufe, 0));
+        }
+    }
+    anhaengen();
 }
 
 void mitschrift::zug_schreiben(std::size_t nummer) {
@@ -148,6 +197,7 @@ void mitschrift::zug_schreiben(std::size_t nummer) {
 
 protokollschreiber& mitschrift::inhalt_beginnen() {
     zuege_schreiben();
+    laeufe_schreiben();
     wecken();  // what one look has found, the others may find, too
     return schreiber_.beginnen(tiefe());
 }
@@ -194,6 +244,10 @@ int mitschrift::tor_oeffnen() {
 }
 
 void mitschrift::tor_schliessen(int vorher) {
+    if (laeufe_.offen && laeufe_.tiefe == zuege_.size()) {  // what comes next is not within that step any more
+        zuege_schreiben();
+        laeufe_schreiben();
+    }
     if (!zuege_.empty()) {
         zuege_.back().tor = vorher;
     }
@@ -293,7 +347,43 @@ bool mitschrift::weiter() {
     return !abweichung_;
 }
 
+bool mitschrift::ist_tat(std::string_view wort) const {
+    return wort == gezaehlt || nummer_.contains(std::string(wort));
+}
+
+void mitschrift::laeufe_ausfuehren(const satz& s) {
+    std::string_view rest = s.rest;
+    const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
+    std::vector<std::pair<int, std::int64_t>> laeufe;
+    bool ganz = zeit.has_value() && zuege_.size() < tiefe_max;
+    while (ganz && !rest.empty()) {
+        const auto gefunden = nummer_.find(std::string(naechstes_wort(rest)));
+        const std::int64_t anzahl = als_zahl(naechstes_wort(rest)).value_or(0);
+        ganz = gefunden != nummer_.end() && anzahl > 0 && anzahl <= laeufe_max &&
+               eingaenge_[static_cast<std::size_t>(gefunden->second)].art == sorte::zaehlung;
+        laeufe.emplace_back(ganz ? gefunden->second : 0, anzahl);
+    }
+    if (!ganz) {
+        abweichen("");
+        return;
+    }
+    ++ort_;
+    zuletzt_ = beginn_ + protokoll_stempel(*zeit);
+    const std::size_t tiefe = zuege_.size();
+    for (auto [eingang, anzahl] : laeufe) {
+        for (; anzahl > 0 && liest() && !abweichung_; --anzahl) {
+            zuege_.push_back({.eingang = eingang, .zeit = zuletzt_, .steht_da = true});
+            ausfuehren(eingang, {});
+            zuege_.resize(std::min(zuege_.size(), tiefe));
+        }
+    }
+}
+
 void mitschrift::satz_ausfuehren(const satz& s) {
+    if (s.wort == gezaehlt) {
+        laeufe_ausfuehren(s);
+        return;
+    }
     const auto gefunden = nummer_.find(std::string(s.wort));
     if (gefunden == nummer_.end() || zuege_.size() == tiefe_max) {
         abweichen("");
@@ -373,7 +463,7 @@ void mitschrift::tor_nachlesen() {
     }
     const int schritt = ++zuege_[nummer].schritt;
     for (std::optional<satz> s = naechster(); s; s = naechster()) {
-        if (s->tiefe != tiefe() || s->schritt != schritt || !nummer_.contains(std::string(s->wort))) {
+        if (s->tiefe != tiefe() || s->schritt != schritt || !ist_tat(s->wort)) {
             return;
         }
         zuege_[nummer].tor = schritt;

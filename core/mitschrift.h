@@ -51,7 +51,7 @@ public:
 
     enum class sorte {
         handlung,
-        zaehlung,  ///< counts on, many times a second; no look needs to look for it
+        zaehlung,  ///< counts on, many times a second; where it does no more than that, only the number is written
         blick      ///< comes again and again, and mostly changes nothing; it looks at what else has happened
     };
 
@@ -106,6 +106,12 @@ public:
 
     /// The clock as the part sees it.
     zeit_ms uhr(zeit_ms echte) { return liest() ? zeit_nachlesen() : zeit_merken(echte); }
+    /// The doing under way moves more than its own count.
+    void mehr_als_gezaehlt() {
+        if (schreibt() && !zuege_.empty() && zuege_.back().tor == 0) {
+            zuege_.back().merklich = true;
+        }
+    }
     /// The answer to a question, which is asked for outside. Written each time, or only if it is another than the last.
     template <class Frage>
     std::int64_t antwort(std::string_view name, Frage fragen) {
@@ -151,6 +157,7 @@ private:
         tat was;
         sorte art = sorte::handlung;
         bool geweckt = false;  ///< something has happened since this look's last one
+        int laeufe = 0;        ///< how often it has counted on since the last line
     };
 
     struct zug {
@@ -165,11 +172,18 @@ private:
         zeit_ms zeit = 0;    ///< as it was read last
         int schritt = 0;
         bool steht_da = false;
+        bool merklich = false;
         int tor = 0;  ///< step of the gate that is open, 0 if none is
         std::array<sprung, 16> spruenge{};
         std::size_t spruenge_anzahl = 0;
     };
 
+    /// What has counted on and is not written yet.
+    struct zaehllauf {
+        bool offen = false;
+        std::size_t tiefe = 0;  ///< within so many doings
+        zeit_ms zeit = 0;       ///< of the last one
+    };
     using satz = protokollsatz;
 
     static constexpr std::size_t tiefe_max = 32;
@@ -183,6 +197,9 @@ private:
     }
     void ausfuehren(int eingang, const werte& w) { eingaenge_[static_cast<std::size_t>(eingang)].was(w); }
     void wecken();
+    /// The doing, which nobody has noticed yet, is at its end: it is one more of its kind, or a line after all.
+    void zaehlung_beenden();
+    void laeufe_schreiben();
     /// The doings under way, as far as they are not written down.
     void zuege_schreiben();
     void ausstehende_schreiben();
@@ -202,6 +219,8 @@ private:
     /// Past the lines that are only for the reader.
     std::optional<satz> naechste_tat();
     void satz_ausfuehren(const satz& s);
+    void laeufe_ausfuehren(const satz& s);
+    bool ist_tat(std::string_view wort) const;
     void abweichen(std::string stattdessen);
     void kopfzeile_lesen(std::string_view rest);
 
@@ -219,6 +238,7 @@ private:
     protokollschreiber schreiber_;
     zeit_ms beginn_ = 0;
     zeit_ms lebenszeichen_ = 0;  ///< when the last doing was written
+    zaehllauf laeufe_;
     std::function<zeit_ms()> uhr_;
 
     std::vector<std::string_view> zeilen_;

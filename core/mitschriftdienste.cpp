@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <string>
+#include <utility>
 
 namespace tarvel {
 
@@ -24,12 +25,15 @@ public:
     void intervall(dauer_ms dauer) override { echter_->intervall(dauer); }
     void an() override {
         an_ = true;
+        dienst_.m.mehr_als_gezaehlt();
         if (!dienst_.m.liest()) {
             echter_->an();
         }
     }
     void aus() override {
-        an_ = false;
+        if (std::exchange(an_, false)) {
+            dienst_.m.mehr_als_gezaehlt();
+        }
         echter_->aus();
     }
     bool laeuft() const override { return an_; }

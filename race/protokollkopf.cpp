@@ -11,7 +11,8 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view kennung = "Tarvel-Rennprotokoll 1";
+constexpr std::string_view kennung = "Tarvel-Rennprotokoll 2";
+constexpr std::string_view kennung_einzeln = "Tarvel-Rennprotokoll 1";  // has a line for each count
 constexpr std::string_view einstellung = "E";
 constexpr std::string_view tasten = "Tasten";
 constexpr std::string_view teil = "Teil";
@@ -99,7 +100,7 @@ std::optional<gelesener_kopf> kopf_lesen(std::span<const std::string_view> zeile
     bool erste = true;
     for (std::string_view rest : zeilen) {
         ++gelesen.zeilen;
-        if (naechstes_wort(rest) != "#" || (erste && rest != kennung)) {
+        if (naechstes_wort(rest) != "#" || (erste && rest != kennung && rest != kennung_einzeln)) {
             return std::nullopt;
         }
         erste = false;

@@ -113,6 +113,37 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
 }
 
+TEST_F(Wiederaufnahme, LangeStrafenFuellenDasProtokollNichtUndGehenDochWeiter) {
+    constexpr std::size_t bytes_je_minute = 5'000'000 / 60;
+    einstellungen& e = t_.p.einst;
+    t_.p.form1.t_aktiv.umschalten();
+    e.tank_inhalt = 1;  // empty after each lap
+    e.tank_straf_option = leer_aktion::stromunterbrechung;
+    e.tank_strafzeit = 40s;
+    t_.starten("Zeit", "10", {1, 2, 3, 4, 5, 6});
+    for (int runde = 0; runde < 5; ++runde) {
+        t_.runde_nach(42000, "123456");
+    }
+    t_.maschine.laufen(30000);
+    ASSERT_TRUE(t_.spur(6).tank_strafe_aktiv);
+    EXPECT_LT(protokoll_von(t_).size(), 4 * bytes_je_minute);
+
+    neustart danach(t_, protokoll_von(t_));
+    danach.p.starten();
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1));
+    for (const int spur : alle_spuren) {
+        const auto verloren = t_.spur(spur).tank_strafzaehler - danach.spur(spur).tank_strafzaehler;
+        EXPECT_TRUE(verloren >= 0ms && verloren <= 200ms) << "the last sign of life is a moment old";
+    }
+    danach.weiter();
+    danach.maschine.laufen(9000);
+    EXPECT_TRUE(danach.spur(6).tank_strafe_aktiv);
+    danach.maschine.laufen(1300);
+    EXPECT_FALSE(danach.spur(6).tank_strafe_aktiv);
+    danach.p.rennen.bahn1.Command4.klicken();
+    EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
+}
+
 TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtWieder) {
     t_.starten("Runden", "2", {1});
     t_.runde_nach(5000, "1");
