@@ -299,7 +299,7 @@ void mitschrift::kopfzeile_lesen(std::string_view rest) {
     }
 }
 
-std::optional<mitschrift::satz> mitschrift::naechster() const {
+std::optional<protokollsatz> mitschrift::naechster() const {
     if (ort_ == zeilen_.size() || abweichung_) {
         return std::nullopt;
     }
@@ -313,8 +313,8 @@ void mitschrift::abweichen(std::string stattdessen) {
     }
 }
 
-std::optional<mitschrift::satz> mitschrift::naechste_tat() {
-    std::optional<satz> s = naechster();
+std::optional<protokollsatz> mitschrift::naechste_tat() {
+    std::optional<protokollsatz> s = naechster();
     while (s && s->ist_kopfzeile()) {
         kopfzeile_lesen(s->rest);
         ++ort_;
@@ -327,7 +327,7 @@ std::optional<mitschrift::satz> mitschrift::naechste_tat() {
 }
 
 std::optional<zeit_ms> mitschrift::naechste_zeit() {
-    std::optional<satz> s = naechste_tat();
+    std::optional<protokollsatz> s = naechste_tat();
     if (!s) {
         return std::nullopt;
     }
@@ -335,7 +335,7 @@ std::optional<zeit_ms> mitschrift::naechste_zeit() {
 }
 
 bool mitschrift::weiter() {
-    const std::optional<satz> s = naechste_tat();
+    const std::optional<protokollsatz> s = naechste_tat();
     if (!s) {
         return false;
     }
@@ -351,7 +351,7 @@ bool mitschrift::ist_tat(std::string_view wort) const {
     return wort == gezaehlt || nummer_.contains(std::string(wort));
 }
 
-void mitschrift::laeufe_ausfuehren(const satz& s) {
+void mitschrift::laeufe_ausfuehren(const protokollsatz& s) {
     std::string_view rest = s.rest;
     const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
     std::vector<std::pair<int, std::int64_t>> laeufe;
@@ -379,7 +379,7 @@ void mitschrift::laeufe_ausfuehren(const satz& s) {
     }
 }
 
-void mitschrift::satz_ausfuehren(const satz& s) {
+void mitschrift::satz_ausfuehren(const protokollsatz& s) {
     if (s.wort == gezaehlt) {
         laeufe_ausfuehren(s);
         return;
@@ -430,7 +430,7 @@ zeit_ms mitschrift::zeit_nachlesen() {
     zug& z = zuege_.back();
     if (z.tor == 0) {
         ++z.schritt;
-        const std::optional<satz> s = naechster();
+        const std::optional<protokollsatz> s = naechster();
         if (s && s->tiefe == tiefe() && s->schritt == z.schritt && s->wort == uhrsprung) {
             z.zeit = beginn_ + protokoll_stempel(als_zahl(s->rest).value_or(0));
             ++ort_;
@@ -445,7 +445,7 @@ std::optional<std::int64_t> mitschrift::antwort_nachlesen(std::string_view name)
     }
     zug& z = zuege_.back();
     ++z.schritt;
-    const std::optional<satz> s = naechster();
+    const std::optional<protokollsatz> s = naechster();
     if (!s || s->tiefe != tiefe() || s->schritt != z.schritt || s->wort != name) {
         return std::nullopt;
     }
@@ -462,7 +462,7 @@ void mitschrift::tor_nachlesen() {
         return;
     }
     const int schritt = ++zuege_[nummer].schritt;
-    for (std::optional<satz> s = naechster(); s; s = naechster()) {
+    for (std::optional<protokollsatz> s = naechster(); s; s = naechster()) {
         if (s->tiefe != tiefe() || s->schritt != schritt || !ist_tat(s->wort)) {
             return;
         }

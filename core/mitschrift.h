@@ -92,7 +92,9 @@ public:
     void lesen(std::vector<std::string_view> zeilen, int erste_zeile, zeit_ms beginn);
     /// The next doing. False at the end of the lines, and at a difference.
     bool weiter();
-    /// When the next doing came, in ms from the beginning of the log; none at the end.
+    /// The next doing as it stands there, behind the lines that are only for the reader; none at the end.
+    std::optional<protokollsatz> naechste_tat();
+    /// When it came, in ms from the beginning of the log.
     std::optional<zeit_ms> naechste_zeit();
     /// Told of each line that is only for the reader, as it is passed.
     std::function<void(std::string_view text)> bei_kopfzeile;
@@ -184,7 +186,6 @@ private:
         std::size_t tiefe = 0;  ///< within so many doings
         zeit_ms zeit = 0;       ///< of the last one
     };
-    using satz = protokollsatz;
 
     static constexpr std::size_t tiefe_max = 32;
 
@@ -215,11 +216,9 @@ private:
     zeit_ms zeit_nachlesen();
     std::optional<std::int64_t> antwort_nachlesen(std::string_view name);
     void tor_nachlesen();
-    std::optional<satz> naechster() const;
-    /// Past the lines that are only for the reader.
-    std::optional<satz> naechste_tat();
-    void satz_ausfuehren(const satz& s);
-    void laeufe_ausfuehren(const satz& s);
+    std::optional<protokollsatz> naechster() const;
+    void satz_ausfuehren(const protokollsatz& s);
+    void laeufe_ausfuehren(const protokollsatz& s);
     bool ist_tat(std::string_view wort) const;
     void abweichen(std::string stattdessen);
     void kopfzeile_lesen(std::string_view rest);

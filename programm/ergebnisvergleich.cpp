@@ -11,14 +11,15 @@
 #include "core/protokollzeile.h"
 #include "core/text.h"
 #include "programm/programm.h"
+#include "programm/wertungsfolge.h"
 #include "results/einzelrennen_datei.h"
+#include "results/ergebnisdatei.h"
 #include "results/wertung.h"
 
 namespace tarvel {
 namespace {
 
 constexpr std::uintmax_t datei_bytes_max = std::uintmax_t{64} * 1024 * 1024;
-constexpr std::string_view korrektur_vermerk = "Korrektur";
 
 std::optional<std::string> bytes_lesen(const std::filesystem::path& datei) {
     if (datei.empty() || !ist_lesbar(datei, datei_bytes_max)) {
@@ -35,15 +36,13 @@ std::string_view zeile_von(std::string_view text, std::size_t beginn) {
 /// Follows a race as it is done again, and makes its results.
 class verfolger {
 public:
-    verfolger(programm& p, std::string_view inhalt, const dateien& ablage) : p_(p), ablage_(ablage) {
+    verfolger(programm& p, std::string_view inhalt, const dateien& ablage)
+        : p_(p), ablage_(ablage), folge_(p.rennen, p.wertung) {
         protokollleser leser(inhalt);
         while (const auto zeile = leser.zeile()) {
-            std::string_view rest = *zeile;
-            const std::string_view wort = naechstes_wort(rest);
-            if (wort == "#" && rest.starts_with(ergebnis_vermerk)) {
-                ++geschrieben_[std::string(rest.substr(ergebnis_vermerk.size()))];
-            } else if (wort != "#" && !wort.starts_with('.')) {
-                taten_.push_back(*zeile);
+            const protokollsatz satz = zerlegen(*zeile);
+            if (satz.ist_kopfzeile() && satz.rest.starts_with(ergebnis_vermerk)) {
+                ++geschrieben_[std::string(satz.rest.substr(ergebnis_vermerk.size()))];
             }
         }
     }
@@ -53,65 +52,19 @@ public:
         if (!ganz) {
             return aus_;
         }
-        mitschrift& protokoll = p_.rennen.protokoll;
-        protokoll.bei_kopfzeile = [this](std::string_view text) { kopfzeile(text); };
-        for (bool weiter = true; weiter; ++tat_) {
-            protokoll.naechste_zeit();  // tells what stands before the next doing
-            const std::optional<spuren<int>> umsetzen = vor_der_tat();
-            weiter = protokoll.weiter();
-            if (umsetzen) {
-                p_.wertung.fahrer_umsetzen(*umsetzen);
-            }
-        }
-        protokoll.bei_kopfzeile = nullptr;
+        folge_.bei_kopfzeile = [this](std::string_view text) { kopfzeile(text); };
         using wie = rennprotokoll::ausgang;
-        aus_.ausgang = protokoll.abweichung() ? wie::anders : *ganz ? wie::ganz : wie::beschaedigt;
+        aus_.ausgang = !folge_.bis_zum_ende() ? wie::anders : *ganz ? wie::ganz : wie::beschaedigt;
         return std::move(aus_);
     }
 
 private:
-    /// The next doing takes the race on from its result: what that is worth is settled before.
-    std::optional<spuren<int>> vor_der_tat() {
-        if (tat_ >= taten_.size()) {
-            return std::nullopt;
-        }
-        std::string_view rest = taten_[tat_];
-        const std::string_view wort = naechstes_wort(rest);
-        if (wort != "umsetzen" && wort != "fortsetzen") {
-            return std::nullopt;
-        }
-        auswerten();
-        if (wort == "fortsetzen") {
-            return std::nullopt;
-        }
-        naechstes_wort(rest);  // the time
-        spuren<int> herkunft;
-        for (const int spur : alle_spuren) {
-            herkunft[spur] =
-                static_cast<int>(std::clamp<std::int64_t>(als_zahl(naechstes_wort(rest)).value_or(0), 0, spuren_max));
-        }
-        return herkunft;
-    }
-
-    void auswerten() {
-        if (!p_.rennen.zustand.fortgesetzt) {
-            p_.wertung.zuruecksetzen();
-        }
-        p_.wertung.auswerten();
-    }
-
     void kopfzeile(std::string_view text) {
-        korrigiert_ = korrigiert_ || text.starts_with(korrektur_vermerk);
         if (!text.starts_with(ergebnis_vermerk)) {
             return;
         }
         const std::string name(text.substr(ergebnis_vermerk.size()));
-        if (--geschrieben_[name] > 0) {
-            return;  // it was written anew later
-        }
-        if (korrigiert_) {
-            aus_.korrigierte.push_back(name);
-        } else {
+        if (--geschrieben_[name] == 0) {  // else it was written anew later
             vergleichen(name);
         }
     }
@@ -124,9 +77,14 @@ private:
         }
         constexpr std::size_t zeilen_max = 1000000;
         constexpr std::size_t zeile_bytes_max = 200000;
-        const auto gelesen = einzelrennen_lesen(
-            ablage_.zeilen_lesen(name, zeilen_max, zeile_bytes_max).value_or(std::vector<std::string>{}));
-        auswerten();
+        const std::vector<std::string> zeilen =
+            ablage_.zeilen_lesen(name, zeilen_max, zeile_bytes_max).value_or(std::vector<std::string>{});
+        p_.wertung.auswerten();
+        if (datei_typ_erkennen(zeilen) == ergebnis_typ::tagesrennen) {
+            im_tag_suchen(name, zeilen);
+            return;
+        }
+        const auto gelesen = einzelrennen_lesen(zeilen);
         const gelesenes_rennen leer{{}, {}, p_.einst.trennzeichen};
         const gelesenes_rennen& worte = gelesen ? *gelesen : leer;  // the file is in its club's language
         std::string gerechnet;
@@ -138,6 +96,18 @@ private:
         } else {
             aus_.anders.push_back(unterschied(name, *datei, gerechnet));
         }
+    }
+
+    /// The file of a day holds the lines of its other races as well.
+    void im_tag_suchen(const std::string& name, const std::vector<std::string>& zeilen) {
+        for (const std::string& zeile : tages_zeilen(p_.wertung.ergebnis(), p_.einst.trennzeichen)) {
+            const std::string geschrieben = von_1252(nach_1252(zeile));
+            if (std::find(zeilen.begin(), zeilen.end(), geschrieben) == zeilen.end()) {
+                aus_.anders.push_back({name, 0, 0, "", geschrieben});
+                return;
+            }
+        }
+        aus_.gleich.push_back(name);
     }
 
     static ergebnisvergleich::unterschied unterschied(const std::string& name, std::string_view datei,
@@ -153,10 +123,8 @@ private:
 
     programm& p_;
     const dateien& ablage_;
-    std::vector<std::string_view> taten_;
+    wertungsfolge folge_;
     std::map<std::string, int> geschrieben_;  ///< how often each file is still to come
-    std::size_t tat_ = 0;
-    bool korrigiert_ = false;
     ergebnisvergleich aus_;
 };
 

@@ -15,7 +15,7 @@ class programm;
 struct ergebnisvergleich {
     struct unterschied {
         std::string datei;  ///< below the program folder
-        int zeile = 0;      ///< from 1
+        int zeile = 0;      ///< from 1; 0 if `gerechnet` is no line of the file of a day
         int spalte = 0;     ///< from 1
         std::string geschrieben;
         std::string gerechnet;
@@ -24,8 +24,7 @@ struct ergebnisvergleich {
     rennprotokoll::ausgang ausgang = rennprotokoll::ausgang::fremd;
     std::vector<std::string> gleich;
     std::vector<unterschied> anders;
-    std::vector<std::string> fehlen;       ///< are there no longer
-    std::vector<std::string> korrigierte;  ///< written when the race director had changed the result: not compared
+    std::vector<std::string> fehlen;  ///< are there no longer
 
     bool gut() const { return ausgang == rennprotokoll::ausgang::ganz && anders.empty(); }
 };

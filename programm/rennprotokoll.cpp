@@ -122,11 +122,6 @@ rennprotokoll::ausgang rennprotokoll::zu_ende() {
     return abweichung() ? ausgang::anders : ausgang::ganz;
 }
 
-rennprotokoll::ausgang rennprotokoll::abspielen(const protokollstand& stand) {
-    bereitlegen(stand);
-    return zu_ende();
-}
-
 bool rennprotokoll::weiterfuehren(const std::string& datei, const protokollstand& stand, dauer_ms seither) {
     dateiname_ = datei;
     datei_ = um_.dienste.anhaenge.oeffnen(um_.ablage.pfad(dateiname_), stand.bytes);

@@ -63,7 +63,7 @@ public:
     /// is foreign, else whether it is whole.
     std::optional<bool> bereitlegen(std::string_view inhalt);
     /// The same of lines behind the head alone, in a program that has been set up by that.
-    ausgang abspielen(const protokollstand& stand);
+    void bereitlegen(const protokollstand& stand);
     /// What has been done again goes on, and its log with it: `seither` ms have passed. False if the log cannot be
     /// kept; the race goes on all the same.
     bool weiterfuehren(const std::string& datei, const protokollstand& stand, dauer_ms seither);
@@ -72,7 +72,6 @@ public:
 
 private:
     void anhaengen(std::string_view zeile) override;
-    void bereitlegen(const protokollstand& stand);
     ausgang zu_ende();
     void kopf_anhaengen(zeit_ms beginn);
 

@@ -10,6 +10,7 @@
 #include "core/protokollfortsetzung.h"
 #include "core/protokollordner.h"
 #include "core/protokollzeile.h"
+#include "programm/wertungsfolge.h"
 
 namespace tarvel {
 namespace {
@@ -165,10 +166,10 @@ dauer_ms wiederaufnahme::vergangen(const protokollstand& stand) const {
     return std::clamp<dauer_ms>(seit_beginn - dauer_ms(stand.dauer), 0ms, ausfall_max);
 }
 
-void wiederaufnahme::fortsetzen(const kandidat& k) {
+bool wiederaufnahme::fortsetzen(const kandidat& k) {
     if (!einrichten(k.stand.kopf) || !eingliedern(k.stand.kopf.teil_von)) {
         melden(um_.txt.wettkampf.nicht_fortsetzbar);
-        return;
+        return false;
     }
     const mitschrift::werte uhrstand = um_.rennen.zeit.stand();
     um_.fenster.stillhalten({fenstername::bahn1, fenstername::Form2, fenstername::k_ampel});
@@ -176,7 +177,8 @@ void wiederaufnahme::fortsetzen(const kandidat& k) {
     const bool fuehren = std::exchange(um_.protokoll.fuehren, false);
     um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
     um_.protokoll.fuehren = fuehren;
-    if (um_.protokoll.abspielen(k.stand) != rennprotokoll::ausgang::ganz) {
+    um_.protokoll.bereitlegen(k.stand);
+    if (!wertungsfolge(um_.rennen, um_.ergebnisse.wertung).bis_zum_ende()) {
         um_.fenster.entladen(fenstername::k_ampel);
         um_.fenster.entladen(fenstername::bahn1);
         um_.rennen.protokoll.aufhoeren();
@@ -185,9 +187,10 @@ void wiederaufnahme::fortsetzen(const kandidat& k) {
         um_.ausgang.ruhezustand();
         um_.ausgang.aufleben();
         melden(um_.txt.wettkampf.nicht_fortsetzbar);
-        return;
+        return false;
     }
     aufwachen(k, uhrstand);
+    return true;
 }
 
 void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrstand) {
@@ -202,7 +205,7 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
     um_.fenster.aufleben();
     if (mit_ergebnis) {
         um_.ausgang.aufleben();
-        um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
+        um_.ergebnisse.auswertung.wieder_oeffnen();
     } else {
         um_.quellen.melden(&messquelle::rennen_bereit);
     }

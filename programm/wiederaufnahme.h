@@ -45,7 +45,7 @@ private:
 
     std::optional<kandidat> lesen(const std::string& name) const;
     std::string frage(const protokollstand& stand) const;
-    void fortsetzen(const kandidat& k);
+    bool fortsetzen(const kandidat& k);
     bool einrichten(const protokollkopf& kopf);
     /// Makes the race part of what it was part of. False if that is no more.
     bool eingliedern(std::string_view kennung);

@@ -68,7 +68,9 @@ void auswertung::laden() {
     texte_lesen();
     ansagen_setzen();
     if (!um_.zustand.fortgesetzt) {
-        u_.stand.zuruecksetzen();
+        if (!wieder_) {
+            u_.stand.zuruecksetzen();
+        }
         anzeige_modus_.fill(anzeige::zeit);
     }
     aktion_nach_bestzeiten_ = aktion::keine;
@@ -76,6 +78,12 @@ void auswertung::laden() {
     bedienung_einrichten();
     bestzeiten_pruefen();
     Command5.fokus_setzen();
+}
+
+void auswertung::wieder_oeffnen() {
+    wieder_ = true;
+    um_.fenster.zeigen(fenstername::auswertung, anzeige_art::modal);
+    wieder_ = false;
 }
 
 void auswertung::entladen() {

@@ -101,6 +101,8 @@ public:
     std::function<hergangsworte()> hergang_in_worten;
     /// Counts late crossings and shows the standing.
     void laden() override;
+    /// Opens with the corrections that this result had before the program's end.
+    void wieder_oeffnen();
     void entladen() override;
     /// A crossing behind the end may still count.
     bool zaehlt_nach() const { return ch_durch3_->laeuft(); }
@@ -240,6 +242,7 @@ private:
     int gewaehlte_spur_ = 0;  ///< whose list the operator has clicked, 0 none
     dauer_s gewartet_{};      ///< of the wait before it goes on by itself
     selbstlauf selbst_;       ///< of the race whose result is shown
+    bool wieder_ = false;     ///< the result has its corrections already
     bool automatik_ = false;  ///< what is being left goes on without the operator
 };
 

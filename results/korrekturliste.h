@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,8 @@ class korrekturliste {
 public:
     /// What was taken back before is gone.
     void anfuegen(korrekturschritt schritt);
+    /// One more in the last step that counts.
+    void ergaenzen(const korrektur& k);
     /// The step that has been taken back, or that counts again; null if there is none.
     const korrekturschritt* zuruecknehmen() { return geltende_ == 0 ? nullptr : &schritte_[--geltende_]; }
     const korrekturschritt* wiederherstellen() {
@@ -29,6 +32,8 @@ public:
         return geltende_ == schritte_.size() ? nullptr : &schritte_[geltende_];
     }
     void leeren();
+    /// The clock of the race counts on from elsewhere, and with it its stamps.
+    void stempel_verschieben(zeit_ms um);
 
     /// The steps that count.
     std::vector<korrekturschritt> geltende() const {
@@ -42,7 +47,21 @@ private:
     std::size_t geltende_ = 0;
 };
 
-/// A line of the race's log about the correction, without its first sign; `wie` says whether it was taken back.
-std::string korrekturzeile(std::string_view wie, const korrektur& k);
+/// A correction as the race's log tells of it.
+struct korrekturvermerk {
+    enum class weise {
+        neu,      ///< begins a step
+        dazu,     ///< belongs to the step that the one before began
+        zurueck,  ///< each correction of a step that is taken back,
+        wieder    ///< or that counts again
+    };
+    weise wie = weise::neu;
+    korrektur was;
+};
+
+/// A line of the log, without its first sign.
+std::string korrekturzeile(const korrekturvermerk& v);
+/// None for any other line. What is added at the end of the laps has no length: that is the lane's.
+std::optional<korrekturvermerk> korrekturzeile_lesen(std::string_view zeile);
 
 }  // namespace tarvel

@@ -46,16 +46,23 @@ bool wertung::korrigieren(const korrekturschritt& schritt) {
     if (passende.empty()) {
         return false;
     }
-    protokollieren("", passende);
+    protokollieren(korrekturvermerk::weise::neu, passende);
     korrekturen_.anfuegen(std::move(passende));
     auswerten();
     return true;
 }
 
+void wertung::ergaenzen(const korrektur& k) {
+    if (tarvel::korrigieren(ergebnis_, k)) {
+        korrekturen_.ergaenzen(k);
+        auswerten();
+    }
+}
+
 bool wertung::zuruecknehmen() {
     const korrekturschritt* weg = korrekturen_.zuruecknehmen();
     if (weg != nullptr) {
-        protokollieren("zurück", {weg->rbegin(), weg->rend()});
+        protokollieren(korrekturvermerk::weise::zurueck, {weg->rbegin(), weg->rend()});
         auswerten();
     }
     return weg != nullptr;
@@ -64,25 +71,31 @@ bool wertung::zuruecknehmen() {
 bool wertung::wiederherstellen() {
     const korrekturschritt* wieder = korrekturen_.wiederherstellen();
     if (wieder != nullptr) {
-        protokollieren("wieder", *wieder);
+        protokollieren(korrekturvermerk::weise::wieder, *wieder);
         auswerten();
     }
     return wieder != nullptr;
 }
 
-void wertung::protokollieren(std::string_view wie, const korrekturschritt& schritt) const {
+void wertung::protokollieren(korrekturvermerk::weise wie, const korrekturschritt& schritt) const {
+    using weise = korrekturvermerk::weise;
     for (const korrektur& k : schritt) {
-        um_.protokoll.kopfzeile(korrekturzeile(wie, k));
+        const bool weitere = wie == weise::neu && &k != &schritt.front();
+        um_.protokoll.kopfzeile(korrekturzeile({weitere ? weise::dazu : wie, k}));
     }
 }
 
 void wertung::festschreiben() {
-    auswerten();
-    for (const korrekturschritt& schritt : korrekturen_.geltende()) {
+    for (const korrekturschritt& schritt : abschliessen()) {
         for (const korrektur& k : schritt) {
             r_.rundenkorrektur.uebernehmen(k);
         }
     }
+}
+
+std::vector<korrekturschritt> wertung::abschliessen() {
+    auswerten();
+    std::vector<korrekturschritt> geltende = korrekturen_.geltende();
     for (const rennergebnis::spur& s : ergebnis_.spuren) {
         meter_fortsetzung& stand = stand_[s.nummer];
         stand = {{}, s.restmeter};
@@ -91,9 +104,12 @@ void wertung::festschreiben() {
         }
     }
     korrekturen_.leeren();
+    return geltende;
 }
 
 void wertung::auswerten() {
+    const zeit_ms start = um_.zustand.start_zeit;
+    korrekturen_.stempel_verschieben(start - std::exchange(start_, start));
     disqualifizierte_streichen();
     meter_auswerten();  // the places may go by the metres
     rennergebnis gefahren = kopf_bilden();

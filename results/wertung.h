@@ -20,12 +20,16 @@ public:
     void fahrer_umsetzen(const spuren<int>& herkunft);
     /// Corrects the result; what does not fit is left out. False if nothing is left.
     bool korrigieren(const korrekturschritt& schritt);
+    /// The correction belongs to the last step.
+    void ergaenzen(const korrektur& k);
     /// The last correction counts no more, or again. False if there is none.
     bool zuruecknehmen();
     bool wiederherstellen();
     const korrekturliste& korrekturen() const { return korrekturen_; }
     /// The race has the corrections from here on, and none can be taken back.
     void festschreiben();
+    /// The same while its log is done again, in which the race gets them. What counted.
+    std::vector<korrekturschritt> abschliessen();
 
     /// Makes the result anew.
     void auswerten();
@@ -40,7 +44,7 @@ private:
         double meter() const { return std::accumulate(runden.begin(), runden.end(), restmeter); }
     };
 
-    void protokollieren(std::string_view wie, const korrekturschritt& schritt) const;
+    void protokollieren(korrekturvermerk::weise wie, const korrekturschritt& schritt) const;
     void disqualifizierte_streichen();
     void meter_auswerten();
     rennergebnis kopf_bilden() const;
@@ -51,6 +55,7 @@ private:
     const renn_umgebung& um_;
     spuren<meter_fortsetzung> stand_;
     korrekturliste korrekturen_;
+    zeit_ms start_ = 0;  ///< of the race, by the clock of the corrections' stamps
     rennergebnis ergebnis_;
 };
 

@@ -144,17 +144,77 @@ TEST_F(Wiederaufnahme, LangeStrafenFuellenDasProtokollNichtUndGehenDochWeiter) {
     EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
 }
 
-TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtWieder) {
-    t_.starten("Runden", "2", {1});
-    t_.runde_nach(5000, "1");
+TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtMitSeinenKorrekturenWieder) {
+    t_.p.einst.aut_speichern = true;
+    t_.starten("Runden", "3", {1, 2});
+    t_.runde_nach(5000, "12");
     t_.runde_nach(6000, "1");
-    t_.runde_nach(7000, "1");
-    ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::auswertung));
-    neustart danach(t_, protokoll_von(t_));
+    t_.runde_nach(7000, "12");
+    t_.runde_nach(8000, "1");
+    t_.bahn().Command4.klicken();
+    auswertung& vorher = t_.p.auswertung;
+    vorher.liste[0].auswaehlen(1);
+    vorher.Command8.klicken();
+    vorher.Command_nachtragen.klicken();
+    vorher.nachtrag.cbo_nachtrag.waehlen(1);
+    vorher.nachtrag.Command_eintragen.klicken();
+    ASSERT_EQ(t_.ergebnis(2).rundenzahl(), 2);
+    vorher.Command6.klicken();
+    vorher.meter[0].eingeben("2,5");
+    vorher.meter[1].eingeben("3");
+    vorher.Command6.klicken();
+    vorher.Command_zurueck.klicken();
+
+    neustart danach(t_, protokoll_von(t_), 700000);
     danach.p.starten();
     ASSERT_EQ(danach.maschine.fragen_gestellt.size(), 1U);
-    EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
+    auswertung& a = danach.p.auswertung;
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(danach.lauf().zustand.konto.runden(1), t_.runden(1));
+    for (const std::size_t i : {0U, 1U}) {
+        EXPECT_EQ(a.liste[i].zeilen(), vorher.liste[i].zeilen());
+        EXPECT_EQ(a.ges_meter[i].text(), vorher.ges_meter[i].text());
+    }
+    a.Command_wieder.klicken();
+    EXPECT_EQ(danach.p.wertung.ergebnis().auf(1)->restmeter, 2.5);
+    EXPECT_EQ(danach.p.wertung.ergebnis().auf(2)->restmeter, 3) << "one step, as it was entered";
+    EXPECT_FALSE(a.Command_wieder.bedienbar());
+    for (int mal = 0; mal < 3; ++mal) {
+        a.Command_zurueck.klicken();
+    }
+    EXPECT_EQ(danach.p.wertung.ergebnis().auf(1)->rundenzahl(), 3);
+    EXPECT_FALSE(a.Command_zurueck.bedienbar());
+    a.Command_wieder.klicken();
+    a.Command_wieder.klicken();
+    EXPECT_EQ(danach.p.wertung.ergebnis().auf(2)->rundenzahl(), 2);
+    a.Command5.klicken();
+    EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
+}
+
+TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavorFuhr) {
+    t_.p.einst.aut_speichern = true;
+    t_.p.form1.lspur[1].eingeben("31");
+    t_.starten("Runden", "2", {1, 2});
+    t_.runde_nach(5000, "12");
+    t_.runde_nach(5000, "12");
+    t_.runde_nach(5000, "1");
+    t_.bahn().Command4.klicken();
+    t_.p.auswertung.neues_ziel.eingeben("4");
+    t_.p.auswertung.Command3.klicken();
+    t_.p.k_ampel.Command1.klicken();
+    t_.maschine.laufen(8000);
+    t_.runde_nach(5000, "12");
+    const std::string protokoll = protokoll_von(t_);
+    t_.bahn().Command4.klicken();
+
+    neustart danach(t_, protokoll);
+    danach.p.starten();
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1));
+    danach.weiter();
+    danach.p.rennen.bahn1.Command4.klicken();
+    for (const std::size_t i : {0U, 1U}) {
+        EXPECT_EQ(danach.p.auswertung.ges_meter[i].text(), t_.p.auswertung.ges_meter[i].text());
+    }
 }
 
 }  // namespace

@@ -80,10 +80,11 @@ void ergebnisse_zeigen(const ergebnisvergleich& v) {
     for (const std::string& name : v.fehlen) {
         std::printf("  %s: nicht mehr da, nicht verglichen\n", name.c_str());
     }
-    for (const std::string& name : v.korrigierte) {
-        std::printf("  %s: nach einer Korrektur geschrieben, nicht verglichen\n", name.c_str());
-    }
     for (const ergebnisvergleich::unterschied& u : v.anders) {
+        if (u.zeile == 0) {
+            std::printf("  %s: darin fehlt \"%s\"\n", u.datei.c_str(), u.gerechnet.c_str());
+            continue;
+        }
         std::printf("  %s, Zeile %d, Spalte %d: geschrieben \"%s\", gerechnet \"%s\"\n", u.datei.c_str(), u.zeile,
                     u.spalte, u.geschrieben.c_str(), u.gerechnet.c_str());
     }
