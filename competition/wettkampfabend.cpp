@@ -46,6 +46,10 @@ bool wettkampfabend::rennen_starten() {
     }
     uebergeben();
     ab_teil_ = uebergabe_.teil;
+    if (abgebrochenes_anbieten()) {
+        return true;
+    }
+    uebergeben();  // one that could not go on has left its own set-up
     automatik_an_ = um_.einst.w_autom;
     von_selbst_ = false;
     unterbrochen_ = false;

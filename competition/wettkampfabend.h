@@ -70,6 +70,8 @@ public:
 
     explicit wettkampfabend(const umgebung& um) : um_(um), automat_(um.zeitgeber, *this) {}
 
+    /// Offers the race that is about to be started, if it was broken off; true if it goes on.
+    std::function<bool()> abgebrochenes_anbieten = [] { return false; };
     /// Told whenever something has changed.
     void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
     const wettkampf& stand() const { return stand_; }

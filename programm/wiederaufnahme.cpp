@@ -124,6 +124,24 @@ void wiederaufnahme::anbieten() {
     um_.dienste.meldungen.zeigen(um_.txt.wettkampf.keines, um_.txt.titel[0]);
 }
 
+bool wiederaufnahme::abgebrochenes_anbieten() {
+    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
+    const std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
+    if (!k || !k->stand.abgebrochen || k->stand.beendet) {
+        return false;
+    }
+    const auto rennen_von = [](std::string_view kennung) {
+        const std::string_view art = naechstes_wort(kennung);
+        return std::pair(art, naechstes_wort(kennung));
+    };
+    const renn_parameter& param = um_.rennen.umgebung.param;
+    bool dieselben = rennen_von(k->stand.kopf.teil_von) == rennen_von(um_.wettkampf.wettkampfabend.kennung());
+    for (const int spur : alle_spuren) {
+        dieselben = dieselben && (!param.spur_aktiv[spur] || param.fahrer_name[spur] == k->stand.fahrer[spur]);
+    }
+    return dieselben && um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0]) && fortsetzen(*k);
+}
+
 bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
     if (um_.datei.festhalten() == kopf.einstellungen) {
         return true;

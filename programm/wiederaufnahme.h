@@ -35,6 +35,9 @@ public:
     void nach_dem_start_anbieten();
     /// One after the other, the newest first.
     void anbieten();
+    /// The race that the evening is about to start, if it was broken off by hand and nothing has been driven since.
+    /// True if it goes on.
+    bool abgebrochenes_anbieten();
 
 private:
     struct kandidat {

@@ -100,6 +100,9 @@ bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const r
         um_.meldungen.zeigen(tagesfehler_, um_.txt.titel[1]);
         return false;
     }
+    if (bei_ergebnis) {
+        bei_ergebnis(datei);
+    }
     return true;
 }
 

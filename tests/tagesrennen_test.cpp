@@ -1,3 +1,5 @@
+#include "core/protokollordner.h"
+#include "programm/rennprotokoll.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -38,6 +40,7 @@ protected:
         t.runde_nach(6000, "1");
         t.bahn().Command4.klicken();
         t.p.auswertung.Command5.klicken();
+        EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
     }
     zeilen inhalt(const char* name) { return t.p.ablage.zeilen_lesen(name, 1000).value_or(zeilen{"none"}); }
 
@@ -68,6 +71,7 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     const std::string anna = "B;Anna; 1;25.00;00:06,000;00:06,000";
     const std::string ben = "9;Ben; 0;0.00;00:00,000;00:00,000";
     EXPECT_EQ(inhalt(samstag), (zeilen{"Tarvel Tagesrennen", anna, ben}));
+    EXPECT_EQ(protokoll_zu_ergebnis(t.p.ablage, t.p.tagesrennen.datei), t.p.rennprotokoll.dateiname());
 
     oeffnen();
     EXPECT_EQ(f.Label_lf_hinweis.text(), "verwende bestehende Datei - Datei bereit");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/plattform/neustart.h"
+#include "tests/wettkampfabend_probe.h"
 
 namespace tarvel {
 namespace {
@@ -214,6 +215,37 @@ TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavor
     danach.p.rennen.bahn1.Command4.klicken();
     for (const std::size_t i : {0U, 1U}) {
         EXPECT_EQ(danach.p.auswertung.ges_meter[i].text(), t_.p.auswertung.ges_meter[i].text());
+    }
+}
+
+using Abgebrochen = test::Abendprobe;
+
+TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    for (const bool weiter : {true, false}) {
+        ASSERT_TRUE(abend.rennen_starten());
+        t.bahn().Command1.klicken();
+        t.runde_nach(6000, "123");
+        t.runde_nach(6000, "123");
+        t.maschine.antwort = true;
+        t.p.rennen.befehle.fenster_schliessen();
+        ASSERT_FALSE(offen(fenstername::bahn1));
+        t.maschine.antwort = weiter;
+        t.maschine.fragen_gestellt.clear();
+        ASSERT_TRUE(abend.rennen_starten());
+        ASSERT_TRUE(offen(fenstername::bahn1));
+        ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+        EXPECT_TRUE(t.maschine.fragen_gestellt.front().text.starts_with("Das Rennen von 14:03 wurde in Runde 2 unter"));
+        if (weiter) {
+            EXPECT_EQ(t.runden(1), 1);
+            gruen();
+            runden_fahren(2);
+            t.p.auswertung.Command5.klicken();
+            EXPECT_EQ(abend.stand().rennen_gefahren(1), rennstatus::gefahren);
+            EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
+        } else {
+            EXPECT_TRUE(t.bahn().Command1.bedienbar()) << "from the start";
+        }
     }
 }
 
