@@ -25,6 +25,7 @@ constexpr std::uintmax_t suche_bytes_max = 8 * protokoll_bytes_max;  // and of a
 
 constexpr std::string_view endung = ".txt";
 constexpr std::string_view zeitmuster = "0000-00-00 00-00-00";  // "0" stands for any digit
+constexpr std::string_view weggelegte = "Weggelegt.txt";        // their names
 constexpr char vor_nummer = '_';                                // behind the "." in the order of names
 constexpr int nummer_max = 9999;
 
@@ -114,6 +115,26 @@ std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_vi
     eingabe.read(inhalt.data(), static_cast<std::streamsize>(bytes_max));
     inhalt.resize(static_cast<std::size_t>(eingabe.gcount()));
     return eingabe.bad() ? std::nullopt : std::optional(std::move(inhalt));
+}
+
+namespace {
+
+std::vector<std::string> weggelegte_lesen(const dateien& ablage) {
+    return ablage.zeilen_lesen(im_ordner(weggelegte), protokolle_max).value_or(std::vector<std::string>{});
+}
+
+}  // namespace
+
+bool protokoll_weggelegt(const dateien& ablage, std::string_view name) {
+    const std::vector<std::string> namen = weggelegte_lesen(ablage);
+    return std::find(namen.begin(), namen.end(), name) != namen.end();
+}
+
+void protokoll_weglegen(const dateien& ablage, const std::string& name) {
+    std::vector<std::string> namen = weggelegte_lesen(ablage);
+    std::erase_if(namen, [&](const std::string& einer) { return einer == name || !ablage.gibt_es(im_ordner(einer)); });
+    namen.push_back(name);
+    ablage.zeilen_schreiben(im_ordner(weggelegte), namen);
 }
 
 void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch) {

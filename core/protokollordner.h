@@ -26,6 +26,10 @@ std::vector<std::string> protokolle_auflisten(const dateien& ablage,
 std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_view name,
                                            std::size_t bytes_max = protokoll_bytes_max);
 
+/// A log that is not asked for any more, though nobody may write to it. It can still be taken up by hand.
+bool protokoll_weggelegt(const dateien& ablage, std::string_view name);
+void protokoll_weglegen(const dateien& ablage, const std::string& name);
+
 /// Deletes the logs that are older than 90 days by their names, and all but the newest 200. Any other file is left
 /// alone, and so are linked folders, linked files and the log `in_gebrauch` (without the folder). After a long time
 /// away, not all goes at once.

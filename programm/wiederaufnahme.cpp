@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t gesucht_max = 20;  // logs that are looked at
 constexpr std::chrono::hours ausfall_max{24};
 constexpr std::string_view abend_kennung = "wettkampf";
+constexpr std::string_view kopie_endung = ".beschaedigt";
 
 using sekunden = std::chrono::sys_seconds;
 
@@ -42,11 +43,13 @@ plattform::datum_uhrzeit datum_lesen(std::string_view text) {
 
 std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string& name) const {
     kandidat k;
+    k.name = name;
     k.datei = std::string(protokoll_ordner) + "\\" + name;
     auto gelesen = protokollfortsetzung::lesen(um_.ablage.pfad(k.datei));
     if (!gelesen) {
         return std::nullopt;
     }
+    k.beschaedigt = gelesen->beschaedigt();
     k.inhalt = std::make_unique<const std::string>(gelesen->inhalt());
     auto stand = protokollstand_lesen(*k.inhalt);
     if (!stand || !stand->fortsetzbar()) {
@@ -85,7 +88,7 @@ std::string wiederaufnahme::frage(const protokollstand& stand) const {
 void wiederaufnahme::nach_dem_start_anbieten() {
     const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
     std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
-    if (k && (k->stand.geschlossen || k->stand.abgebrochen)) {
+    if (k && (k->stand.geschlossen || k->stand.abgebrochen || protokoll_weggelegt(um_.ablage, k->name))) {
         k.reset();  // nobody has lost it
     }
     if (k && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
@@ -214,6 +217,9 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
 void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrstand) {
     const bool mit_ergebnis = um_.fenster.ist_offen(fenstername::auswertung) && um_.rennen.zustand.rennen_beendet;
     const dauer_ms seither = vergangen(k.stand);
+    if (k.beschaedigt) {  // the log goes on in front of what is behind the damage
+        um_.ablage.kopieren(k.datei, k.datei + std::string(kopie_endung));
+    }
     const zeit_ms letzte = um_.rennen.zeit.messzeit_lesen();
     const bool mit_protokoll = um_.protokoll.weiterfuehren(k.datei, k.stand, seither);
     um_.rennen.zeit.stand_setzen(uhrstand);
@@ -235,6 +241,7 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
 void wiederaufnahme::weglegen(const kandidat& k) const {
     const auto ende = protokollfortsetzung::lesen(um_.ablage.pfad(k.datei));
     if (!ende || ende->beschaedigt()) {
+        protokoll_weglegen(um_.ablage, k.name);
         return;
     }
     if (const auto datei = ende->oeffnen(um_.dienste.anhaenge)) {

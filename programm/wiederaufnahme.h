@@ -41,7 +41,9 @@ public:
 
 private:
     struct kandidat {
+        std::string name;
         std::string datei;  ///< below the program folder
+        bool beschaedigt = false;
         std::unique_ptr<const std::string> inhalt;
         protokollstand stand;  ///< its lines lie in `inhalt`
     };

@@ -218,6 +218,30 @@ TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavor
     }
 }
 
+TEST_F(Wiederaufnahme, WasBeschaedigtIstWirdNurEinmalAngebotenUndNichtAngeruehrt) {
+    const std::string name = "Ergebnisse/Protokoll/2026-11-21 14-03-22.txt";
+    const std::string liste = "Ergebnisse/Protokoll/Weggelegt.txt";
+    t_.starten("Zeit", "10", {1});
+    t_.runde_nach(5000, "1");
+    t_.runde_nach(5000, "1");
+    std::string protokoll = protokoll_von(t_);
+    protokoll.insert(protokoll.rfind("\r\n", protokoll.size() - 3) + 2, "x*0000\r\n");
+    neustart danach(t_, protokoll);
+    danach.maschine.antwort = false;
+    danach.p.starten();
+    EXPECT_EQ(danach.maschine.fragen_gestellt.size(), 1U);
+    EXPECT_EQ(danach.maschine.datei_lesen(name), protokoll);
+
+    neustart morgen(t_, protokoll);
+    morgen.maschine.datei_schreiben(liste, danach.maschine.datei_lesen(liste));
+    morgen.p.starten();
+    EXPECT_TRUE(morgen.maschine.fragen_gestellt.empty());
+    morgen.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    morgen.p.form1.command_fortsetzen.klicken();
+    EXPECT_TRUE(morgen.lauf().zustand.chaos_aktiv);
+    EXPECT_EQ(morgen.maschine.datei_lesen(name + ".beschaedigt"), protokoll) << "what is cut off may be whole";
+}
+
 using Abgebrochen = test::Abendprobe;
 
 TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
