@@ -89,7 +89,7 @@ void w_auswertung2::laden() {
     dateien_.clear();
     abdruecke_.clear();
     details_ = {};
-    korrigiert_ = false;
+    korrekturen_ = {};
     Frame_sortieren.sichtbar(false);
     for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
         opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
@@ -102,6 +102,7 @@ void w_auswertung2::laden() {
 void w_auswertung2::entladen() {
     um_.welt.fenster.entladen(fenstername::w_ausw_debug);
     tabelle_.reset();
+    korrekturen_ = {};
     rennen_.reset();
     ansicht_ = {};
     auswertung_schoen.leeren();
@@ -119,7 +120,7 @@ void w_auswertung2::schliessen() {
 }
 
 bool w_auswertung2::darf_verwerfen() {
-    return !korrigiert_ || um_.welt.meldungen.fragen(wort_.verwerfen, um_.welt.txt.titel[0]);
+    return !korrekturen_.ungesichert() || um_.welt.meldungen.fragen(wort_.verwerfen, um_.welt.txt.titel[0]);
 }
 
 void w_auswertung2::datei_zeigen(const std::string& pfad) {
@@ -197,7 +198,7 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
     std::size_t abdruck = 0;
     if (auto neue = tabelle_von(pfad, abdruck)) {
         tabelle_ = std::move(neue);
-        korrigiert_ = false;
+        korrekturen_ = {};
         klassen_vereint_ = false;
         for (haken& kasten : Check1) {
             kasten.gesetzt(true);  // what was left out was so in the file before
@@ -228,6 +229,7 @@ void w_auswertung2::dazu(const std::string& pfad) {
         case hinzufuegen_ergebnis::hinzugefuegt:
             dateien_.push_back(pfad);
             abdruecke_[pfad] = abdruck;
+            korrekturen_.abschliessen();
             tabelle_neu();
     }
 }
@@ -370,6 +372,8 @@ void w_auswertung2::bedienung_einrichten() {
         knopf->aktiviert(frei && da);
     }
     Command18.aktiviert(frei && da && als_tabelle);
+    Command_zurueck.aktiviert(frei && da && korrekturen_.hat_letzte());
+    Command_wieder.aktiviert(frei && da && korrekturen_.hat_naechste());
     Command22.aktiviert(da && frei);
     auswertung_schoen.aktiviert(!korrektur.offen());
     for (std::size_t i = 0; i < Command_blick.size(); ++i) {

@@ -13,6 +13,7 @@
 #include "results/ergebnisworte.h"
 #include "results/fahrervergleich.h"
 #include "results/korrekturrahmen.h"
+#include "results/tabellenverlauf.h"
 #include "results/w_ausw_debug.h"
 
 namespace tarvel {
@@ -60,6 +61,8 @@ public:
     std::array<haken, 3> opt_sortieren_nach;  ///< metres, laps, best lap
     befehl Command20;                         ///< add up the same drivers
     befehl Command18;                         ///< correct the selected line
+    befehl Command_zurueck;                   ///< the last correction counts no more,
+    befehl Command_wieder;                    ///< or again
     bezeichnung korrekturzeile;
     rahmen Frame_klassen;
     std::array<haken, klassen_max> Check1;  ///< one for each class that there is
@@ -150,6 +153,8 @@ private:
     void korrektur_beginnen();
     void korrektur_eintragen();
     void korrektur_beenden();
+    /// One of the corrections has been taken back, or counts again.
+    void korrigiertes_zeigen();
     std::string namensvorschlag() const;
     void speichern_oeffnen(bool auswahl);
     void speichern_schliessen();
@@ -186,8 +191,8 @@ private:
     detailwahl details_;
     blick blick_ = blick::tabelle;
     std::optional<rennergebnis> rennen_;
-    bool nur_auswahl_ = false;      ///< is to be saved
-    bool korrigiert_ = false;       ///< and not saved since
+    bool nur_auswahl_ = false;  ///< is to be saved
+    tabellenverlauf korrekturen_;
     bool klassen_vereint_ = false;  ///< drivers were added up whatever their class
 };
 

@@ -30,6 +30,16 @@ void w_auswertung2::sortierbefehle_verbinden() {
     Command20.bei_klick = [this] { fahrer_addieren(); };
     Command18.bei_klick = [this] { korrektur_beginnen(); };
     auswertung_schoen.bei_doppelklick = [this] { Command18.klicken(); };
+    Command_zurueck.bei_klick = [this] {
+        if (korrekturen_.zuruecknehmen(*tabelle_)) {
+            korrigiertes_zeigen();
+        }
+    };
+    Command_wieder.bei_klick = [this] {
+        if (korrekturen_.wiederherstellen(*tabelle_)) {
+            korrigiertes_zeigen();
+        }
+    };
     korrektur.Command14.bei_klick = [this] { korrektur_eintragen(); };
     korrektur.Command15.bei_klick = [this] { korrektur_beenden(); };
     Command8.bei_klick = [this] {
@@ -101,6 +111,7 @@ void w_auswertung2::fahrer_addieren() {
         hinweisen(wort_.summe_zu_lang);
     }
     tabelle_->gekuerzt = tabelle_->gekuerzt || schon_gekuerzt;
+    korrekturen_.abschliessen();
     if (tabelle_->zeilen.size() > 1) {  // a line alone stays as it is, also in the way its place is written
         sortieren(*tabelle_, sortieren_nach());
     }
@@ -125,7 +136,9 @@ void w_auswertung2::korrektur_eintragen() {
         hinweisen(wort_.falscher_wert);
         return;
     }
-    korrigiert_ = korrigiert_ || eintrag_lesen(*tabelle_, korrektur.zeile()) != eintrag;
+    if (eintrag_lesen(*tabelle_, korrektur.zeile()) != eintrag) {
+        korrekturen_.merken(*tabelle_);
+    }
     eintrag_schreiben(*tabelle_, korrektur.zeile(), *eintrag);
     const int zeile = auswertung_schoen.markiert();
     korrektur.schliessen();
@@ -133,6 +146,14 @@ void w_auswertung2::korrektur_eintragen() {
     tabelle_anzeigen();
     auswertung_schoen.markieren(zeile);
     auswertung_schoen.fokus_setzen();
+}
+
+void w_auswertung2::korrigiertes_zeigen() {
+    const int zeile = auswertung_schoen.markiert();
+    klassen_zeigen();
+    tabelle_anzeigen();
+    rennen_zeigen();
+    auswertung_schoen.markieren(zeile);
 }
 
 void w_auswertung2::korrektur_beenden() {
@@ -227,7 +248,7 @@ void w_auswertung2::speichern() {
     }
     if (!nur_auswahl_) {
         dateien_ = {pfad};
-        korrigiert_ = false;
+        korrekturen_.gesichert();
         datei_nennen();
     }
     ordner_zeigen(ordner_);

@@ -26,7 +26,10 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     korrektur.sprache(texte);
     meldungstexte(texte);
     dateitexte(texte);
-    return texte.text("Protokolle", Command_protokoll);
+    texte.text("Protokolle", Command_protokoll);
+    texte.text("Rückgängig", Command_zurueck).text("Wiederherstellen", Command_wieder);
+    texte.tipp("Nimmt die letzte Korrektur zurück (Strg+Z)", Command_zurueck);
+    return texte.tipp("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", Command_wieder);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {

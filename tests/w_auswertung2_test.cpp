@@ -175,6 +175,45 @@ TEST_F(Ergebnisbetrachter, KorrekturenGehenNichtUngefragtVerloren) {
     EXPECT_FALSE(offen(fenstername::w_auswertung2));
 }
 
+TEST_F(Ergebnisbetrachter, KorrekturenLassenSichZuruecknehmenUndWiederholen) {
+    ablegen("mai.csv", test::tageszeilen(abend));
+    zeigen("mai.csv");
+    EXPECT_FALSE(w.Command_zurueck.bedienbar() || w.Command_wieder.bedienbar());
+    std::vector<textzeilen> staende{w.auswertung_schoen.zeilen()};
+    for (const char* runden : {"9", "9", "11"}) {  // the second changes nothing
+        w.auswertung_schoen.auswaehlen(0);
+        w.Command18.klicken();
+        EXPECT_FALSE(w.Command_zurueck.bedienbar()) << "not within a correction";
+        w.korrektur.aus_runden[0].eingeben(runden);
+        w.korrektur.Command14.klicken();
+        if (w.auswertung_schoen.zeilen() != staende.back()) {
+            staende.push_back(w.auswertung_schoen.zeilen());
+        }
+    }
+    ASSERT_EQ(staende.size(), 3U);
+    w.Command3.klicken();  // another order
+    w.Command_zurueck.klicken();
+    EXPECT_EQ(w.auswertung_schoen.zeilen(), staende[1]);
+    w.Command_zurueck.klicken();
+    EXPECT_EQ(w.auswertung_schoen.zeilen(), staende[0]);
+    EXPECT_FALSE(w.Command_zurueck.bedienbar());
+    speichern_als("gleich.csv");
+    EXPECT_EQ(gelesen("gleich.csv"), gelesen("mai.csv"));
+    w.Command_wieder.klicken();
+    EXPECT_EQ(w.auswertung_schoen.zeilen(), staende[1]);
+    t.maschine.antwort = false;
+    w.Command5.klicken();
+    EXPECT_TRUE(offen(fenstername::w_auswertung2)) << "that is not saved";
+    waehlen("mai.csv");
+    w.Command2.klicken();
+    EXPECT_FALSE(w.Command_zurueck.bedienbar()) << "other lines have come";
+    w.Command5.klicken();
+    EXPECT_TRUE(offen(fenstername::w_auswertung2));
+    t.maschine.antwort = true;
+    w.Command5.klicken();
+    EXPECT_FALSE(offen(fenstername::w_auswertung2));
+}
+
 TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
     auto wettkampf = test::wettkampf_mit(wettkampf_modus::rotation, 3, {1, 2});
     spuren<fahrt> fahrten;
