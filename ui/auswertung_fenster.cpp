@@ -3,13 +3,12 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
-#include <QSet>
-#include <QShortcut>
 #include <algorithm>
 #include <initializer_list>
 #include <utility>
 
 #include "ui/blattausgabe.h"
+#include "ui/korrekturtasten.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -41,7 +40,7 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     logik.drucken = [this] { drucken(); };
     logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
     logik.verlauf_zeichnen = [this] { diagramm_->setInhalt(bildinhalt()); };
-    kuerzel_einrichten();
+    korrekturtasten(this, logik.Command_zurueck, logik.Command_wieder);
     setMinimumSize(760, 420);
     resize(1180, 760);
 }
@@ -90,19 +89,6 @@ QWidget* AuswertungFenster::nachtragsfeld() {
     return feld;
 }
 
-void AuswertungFenster::kuerzel_einrichten() {
-    for (const auto& [tasten, knopf] : {std::pair(QKeySequence::Undo, &logik_.Command_zurueck),
-                                        std::pair(QKeySequence::Redo, &logik_.Command_wieder)}) {
-        QList<QKeySequence> folgen = QKeySequence::keyBindings(tasten);
-        folgen.append(tasten == QKeySequence::Undo ? QKeySequence(Qt::CTRL | Qt::Key_Z)
-                                                   : QKeySequence(Qt::CTRL | Qt::Key_Y));
-        for (const QKeySequence& folge : QSet<QKeySequence>(folgen.begin(), folgen.end())) {
-            auto* kuerzel = new QShortcut(folge, this);
-            QObject::connect(kuerzel, &QShortcut::activated, this, [k = knopf] { k->klicken(); });
-        }
-    }
-}
-
 rundenbild_inhalt AuswertungFenster::bildinhalt() const {
     const einstellungen& einst = logik_.einst();
     return {rundenverlauf_bilden(logik_.ergebnis()), einst.farben_spur, logik_.diagramm, einst.trennzeichen};
@@ -118,14 +104,10 @@ void AuswertungFenster::drucken() {
 }
 
 void AuswertungFenster::pdf_speichern(const dateien& ablage) {
-    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
-    const ergebnisblatt blatt = blatt_bilden();  // as it stands now, whatever happens while the name is chosen
-    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
-                     [this, blatt](const QString& pfad) {
-                         if (!ergebnisblatt_pdf(pfad, blatt)) {
-                             logik_.pdf_misslungen();
-                         }
-                     });
+    ui::pdf_speichern(  // as it stands now, whatever happens while the name is chosen
+        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+        [blatt = blatt_bilden()](const QString& pfad) { return ergebnisblatt_pdf(pfad, blatt); },
+        [this] { logik_.pdf_misslungen(); });
 }
 
 QLayout* AuswertungFenster::korrekturzeile() {

@@ -24,7 +24,6 @@ private:
     QWidget* standfeld(const dateien& ablage);
     QWidget* verlaufsfeld();
     QWidget* nachtragsfeld();
-    void kuerzel_einrichten();
     rundenbild_inhalt bildinhalt() const;
     ergebnisblatt blatt_bilden() const;
     void drucken();

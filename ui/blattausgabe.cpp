@@ -100,14 +100,20 @@ void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::functi
     vor_allem_zeigen(*dialog);
 }
 
-void pdf_datei_fragen(QWidget* eltern, const QString& titel, const QString& vorschlag,
-                      std::function<void(const QString&)> weiter) {
-    auto* dialog = new QFileDialog(eltern, titel, vorschlag, "PDF (*.pdf)");
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag,
+                   std::function<bool(const QString&)> schreiben, std::function<void()> misslungen) {
+    const QString datei = QString::fromStdU16String(vorschlag.u16string());
+    auto* dialog = new QFileDialog(eltern, QString::fromStdString(knopf.text()), datei, "PDF (*.pdf)");
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
-    dialog->selectFile(vorschlag);
-    QObject::connect(dialog, &QFileDialog::fileSelected, eltern, std::move(weiter));
+    dialog->selectFile(datei);
+    QObject::connect(dialog, &QFileDialog::fileSelected, eltern,
+                     [schreiben = std::move(schreiben), misslungen = std::move(misslungen)](const QString& pfad) {
+                         if (!schreiben(pfad)) {
+                             misslungen();
+                         }
+                     });
     vor_allem_zeigen(*dialog);
 }
 

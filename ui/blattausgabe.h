@@ -3,7 +3,10 @@
 #include <QPainter>
 #include <QString>
 #include <QWidget>
+#include <filesystem>
 #include <functional>
+
+#include "core/steuerelemente.h"
 
 /// What all printed sheets have in common: their paper, and the ways on which they leave the program.
 namespace tarvel::ui {
@@ -33,9 +36,10 @@ bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten);
 /// Opens the dialog in which the operator chooses a printer. `bei_fehler` is called if the printer does not begin.
 void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::function<void()>& bei_fehler);
 
-/// Opens the dialog in which he names a file; `weiter` gets its path.
-void pdf_datei_fragen(QWidget* eltern, const QString& titel, const QString& vorschlag,
-                      std::function<void(const QString&)> weiter);
+/// Opens the dialog in which he names a file, as the button says it; `schreiben` gets its path, and `misslungen` is
+/// called if it is false.
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag,
+                   std::function<bool(const QString&)> schreiben, std::function<void()> misslungen);
 
 /// How a text stands on a sheet.
 struct blattschrift {

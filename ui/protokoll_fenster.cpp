@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -86,18 +85,10 @@ void Protokollmodell::neuerInhalt() {
 
 ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
                                    QWidget* eltern)
-    : Fenster(logik, verwaltung, eltern), logik_(logik) {
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins(stil::fensterrand);
-    aufbau->setSpacing(14);
-    aufbau->addWidget(dateispalte());
-    auto* rechts = new QVBoxLayout;
-    rechts->setSpacing(6);
-    TextAnzeige* kopf = binder().anzeige(logik.Label_kopf, "Label_kopf");
-    kopf->setFett(true);
-    kopf->setSchriftPx(18);
-    kopf->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    rechts->addWidget(kopf);
+    : Ablagefenster(logik, verwaltung, eltern), logik_(logik) {
+    const teile t = aufteilen(dateispalte_breite, logik.Label_kopf, "Label_kopf", 18);
+    dateispalte_fuellen(t);
+    QVBoxLayout* rechts = t.rechts;
     rechts->addWidget(stil::leise(binder().label(logik.Label_hinweis, "Label_hinweis")));
     rechts->addLayout(filterzeile());
     rechts->addLayout(artenfeld());
@@ -105,7 +96,6 @@ ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablag
     rechts->addWidget(streifen_);
     rechts->addWidget(tabelle(), 1);
     rechts->addLayout(fusszeile());
-    aufbau->addLayout(rechts, 1);
     logik.inhalt_neu = [this] { inhalt_neu(); };
     logik.wahl_neu = [this] { wahl_zeigen(); };
     logik.ausschnitt_neu = [this] { streifen_->neuerBlick(); };
@@ -116,20 +106,14 @@ ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablag
     inhalt_neu();
 }
 
-QWidget* ProtokollFenster::dateispalte() {
-    auto* feld = new QWidget(this);
-    feld->setFixedWidth(dateispalte_breite);
-    auto* aufbau = new QVBoxLayout(feld);
-    aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->setSpacing(6);
-    aufbau->addWidget(stil::leise(binder().label(logik_.Label_dateien, "Label_dateien")));
+void ProtokollFenster::dateispalte_fuellen(const teile& t) {
+    t.links->addWidget(stil::leise(binder().label(logik_.Label_dateien, "Label_dateien")));
     QListView* liste = binder().listenfeld(logik_.List_dateien, "List_dateien");
     liste->setWordWrap(true);
     liste->setUniformItemSizes(false);
     liste->setTextElideMode(Qt::ElideNone);
-    aufbau->addWidget(liste, 1);
-    binder().verbinden(logik_.Frame_dateien, feld, "Frame_dateien", {});
-    return feld;
+    t.links->addWidget(liste, 1);
+    binder().verbinden(logik_.Frame_dateien, t.spalte, "Frame_dateien", {});
 }
 
 QLayout* ProtokollFenster::filterzeile() {
@@ -224,11 +208,7 @@ void ProtokollFenster::wahl_zeigen() {
 }
 
 void ProtokollFenster::aufschlagen() {
-    if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
-        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
-    }
-    Fenster::aufschlagen();
+    Ablagefenster::aufschlagen();
     tabelle_->setFocus();
 }
 
@@ -277,13 +257,10 @@ void ProtokollFenster::drucken() {
 }
 
 void ProtokollFenster::pdf_speichern(const dateien& ablage) {
-    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
-    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
-                     [this, alle = seiten()](const QString& pfad) {
-                         if (!blatt_als_pdf(pfad, alle)) {
-                             logik_.pdf_misslungen();
-                         }
-                     });
+    ui::pdf_speichern(
+        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+        [alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
+        [this] { logik_.pdf_misslungen(); });
 }
 
 }  // namespace tarvel::ui

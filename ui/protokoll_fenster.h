@@ -3,8 +3,8 @@
 #include <QAbstractTableModel>
 #include <QTableView>
 
+#include "ui/ablagefenster.h"
 #include "ui/blattausgabe.h"
-#include "ui/fenster.h"
 #include "ui/protokollstreifen.h"
 
 namespace tarvel::ui {
@@ -29,7 +29,7 @@ private:
 };
 
 /// The window that explains a race.
-class ProtokollFenster final : public Fenster {
+class ProtokollFenster final : public Ablagefenster {
 public:
     ProtokollFenster(protokollfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
@@ -38,7 +38,7 @@ public:
     blattseiten seiten() const;
 
 private:
-    QWidget* dateispalte();
+    void dateispalte_fuellen(const teile& t);
     QLayout* filterzeile();
     QLayout* artenfeld();
     QTableView* tabelle();

@@ -3,7 +3,6 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGridLayout>
-#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -13,6 +12,7 @@
 #include "results/rundenverlauf.h"
 #include "ui/blattausgabe.h"
 #include "ui/korrekturfeld.h"
+#include "ui/korrekturtasten.h"
 #include "ui/stil.h"
 #include "ui/w_auswertung2_teile.h"
 
@@ -41,18 +41,11 @@ void Ergebniszeichner::initStyleOption(QStyleOptionViewItem* option, const QMode
 
 WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
                                          QWidget* eltern)
-    : Fenster(logik, verwaltung, eltern), logik_(logik) {
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins(stil::fensterrand);
-    aufbau->setSpacing(14);
-    aufbau->addWidget(dateispalte());
-    auto* rechts = new QVBoxLayout;
-    rechts->setSpacing(6);
-    TextAnzeige* datei = binder().anzeige(logik.Label_datei, "Label_datei");
-    datei->setFett(true);
-    datei->setSchriftPx(20);
-    datei->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    rechts->addWidget(datei);
+    : Ablagefenster(logik, verwaltung, eltern), logik_(logik) {
+    const teile t = aufteilen(dateispalte_breite, logik.Label_datei, "Label_datei", 20);
+    dateispalte_ = t.spalte;
+    dateispalte_fuellen(t.links);
+    QVBoxLayout* rechts = t.rechts;
     rechts->addLayout(blickzeile());
     rechts->addLayout(rennzeile());
     rechts->addWidget(tabelle(), 1);
@@ -74,7 +67,7 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
     }
     rechts->addLayout(befehlszeile());
     rechts->addLayout(fusszeile());
-    aufbau->addLayout(rechts, 1);
+    korrekturtasten(this, logik.Command_zurueck, logik.Command_wieder);
     logik.zeichnen = [this] { zeichnen(); };
     logik.drucken = [this] { drucken(); };
     logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
@@ -82,13 +75,7 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
     resize(1180, 760);
 }
 
-QWidget* WAuswertung2Fenster::dateispalte() {
-    auto* feld = new QWidget(this);
-    feld->setFixedWidth(dateispalte_breite);
-    dateispalte_ = feld;
-    auto* aufbau = new QVBoxLayout(feld);
-    aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->setSpacing(6);
+void WAuswertung2Fenster::dateispalte_fuellen(QVBoxLayout* aufbau) {
     QLabel* hinweis = stil::leise(binder().label(logik_.Label1, "Label1"));
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
@@ -116,7 +103,6 @@ QWidget* WAuswertung2Fenster::dateispalte() {
         knoepfe->addWidget(knopf, 1);
     }
     aufbau->addLayout(knoepfe);
-    return feld;
 }
 
 QLayout* WAuswertung2Fenster::blickzeile() {
@@ -238,7 +224,9 @@ QLayout* WAuswertung2Fenster::befehlszeile() {
     for (const auto& [element, name] : {std::pair{&logik_.Command3, "Command3"},
                                         {&logik_.Command22, "Command22"},
                                         {&logik_.Command20, "Command20"},
-                                        {&logik_.Command18, "Command18"}}) {
+                                        {&logik_.Command18, "Command18"},
+                                        {&logik_.Command_zurueck, "Command_zurueck"},
+                                        {&logik_.Command_wieder, "Command_wieder"}}) {
         zeile->addWidget(binder().knopf(*element, name));
     }
     zeile->addStretch(1);
@@ -260,11 +248,7 @@ QLayout* WAuswertung2Fenster::fusszeile() {
 }
 
 void WAuswertung2Fenster::aufschlagen() {
-    if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
-        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
-    }
-    Fenster::aufschlagen();
+    Ablagefenster::aufschlagen();
     skalieren();
 }
 
@@ -358,19 +342,14 @@ void WAuswertung2Fenster::drucken() {
 }
 
 void WAuswertung2Fenster::pdf_speichern(const dateien& ablage) {
-    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
     std::function<bool(const QString&)> schreiben;  // what is shown now, whatever follows meanwhile
     if (logik_.rennen()) {
         schreiben = [blatt = blatt_bilden()](const QString& pfad) { return ergebnisblatt_pdf(pfad, blatt); };
     } else {
         schreiben = [seiten = seiten_bilden()](const QString& pfad) { return blatt_als_pdf(pfad, seiten); };
     }
-    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
-                     [this, schreiben](const QString& pfad) {
-                         if (!schreiben(pfad)) {
-                             logik_.pdf_misslungen();
-                         }
-                     });
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"), schreiben,
+                      [this] { logik_.pdf_misslungen(); });
 }
 
 WAuswDebugFenster::WAuswDebugFenster(w_ausw_debug& logik, Fensterverwaltung& verwaltung, QWidget* eltern)

@@ -5,8 +5,8 @@
 #include <QStyledItemDelegate>
 
 #include "results/w_auswertung2.h"
+#include "ui/ablagefenster.h"
 #include "ui/ergebnisblatt.h"
-#include "ui/fenster.h"
 #include "ui/rundendiagramm.h"
 #include "ui/tabellenblatt.h"
 #include "ui/vergleichsbild.h"
@@ -34,7 +34,7 @@ private:
 };
 
 /// The results viewer: files at the left, the table or a picture of it at the right, and under it what can be done.
-class WAuswertung2Fenster final : public Fenster {
+class WAuswertung2Fenster final : public Ablagefenster {
 public:
     WAuswertung2Fenster(w_auswertung2& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
@@ -44,7 +44,7 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
-    QWidget* dateispalte();
+    void dateispalte_fuellen(QVBoxLayout* aufbau);
     QLayout* blickzeile();
     QLayout* rennzeile();
     QWidget* tabelle();

@@ -174,14 +174,10 @@ void WAuswertungFenster::drucken() {
 }
 
 void WAuswertungFenster::pdf_speichern(const dateien& ablage) {
-    const auto vorschlag = ablage.pfad(logik_.blatt_datei() + ".pdf").u16string();
-    const blattseiten seiten = wettkampfseiten(logik_.blatt());  // as it stands now, whatever follows meanwhile
-    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
-                     [this, seiten](const QString& pfad) {
-                         if (!blatt_als_pdf(pfad, seiten)) {
-                             logik_.pdf_misslungen();
-                         }
-                     });
+    ui::pdf_speichern(  // as it stands now, whatever follows meanwhile
+        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+        [seiten = wettkampfseiten(logik_.blatt())](const QString& pfad) { return blatt_als_pdf(pfad, seiten); },
+        [this] { logik_.pdf_misslungen(); });
 }
 
 void WAuswertungFenster::aufschlagen() {
