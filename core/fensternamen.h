@@ -25,6 +25,7 @@ namespace tarvel {
     F(rc_einstellungen)       \
     F(rundenspeichern)        \
     F(speichernfenster)       \
+    F(urkunden)               \
     F(usbtest)                \
     F(w_auswertung)           \
     F(wettkampf1)             \

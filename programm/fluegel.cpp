@@ -32,12 +32,13 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       beste_zeiten_fenster(
           {p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten, folgen},
           p.dienste.zeitgeber),
-      auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster}),
+      urkunden({fensterwelt(p), p.einst, p.fahrerliste, p.fahrzeugliste}),
+      auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster, urkunden}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
       training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
-      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung}),
+      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung, urkunden}),
       protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}) {
     r.teil_von.wechseln(einzelrennen);
 }

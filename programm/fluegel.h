@@ -21,6 +21,7 @@
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
 #include "results/protokollfenster.h"
+#include "results/urkundenfenster.h"
 #include "results/w_auswertung2.h"
 #include "start/k_ampel.h"
 #include "start/startampel.h"
@@ -51,6 +52,7 @@ struct ergebnisfluegel {
     tarvel::wertung wertung;
     tarvel::rundenspeichern rundenspeichern;
     tarvel::beste_zeiten_fenster beste_zeiten_fenster;
+    tarvel::urkundenfenster urkunden;
     tarvel::auswertung auswertung;
     tarvel::einzelrennen einzelrennen;
     tarvel::tagesrennen tagesrennen;

@@ -92,6 +92,7 @@ void auswertung::entladen() {
         zielsignal_beenden();
     }
     um_.fenster.entladen(fenstername::rundenspeichern);
+    um_.fenster.entladen(fenstername::urkunden);
 }
 
 void auswertung::zeitgeber_aus() {
@@ -109,11 +110,14 @@ void auswertung::zielsignal_beenden() {
     um_.ausgaben.rennende_signal(false);
 }
 
+std::string auswertung::art_und_ziel() const {
+    const rennziel ziel = ergebnis().ziel.value_or(rennziel::runden(0));
+    return (ziel.ist_zeit() ? wort_.zeitrennen : wort_.rundenrennen) + "  ·  " + r_.ansicht.ziel_text(ziel);
+}
+
 std::string auswertung::kopf() const {
     const rennergebnis& e = ergebnis();
-    const rennziel ziel = e.ziel.value_or(rennziel::runden(0));
-    std::string kopf = ziel.ist_zeit() ? wort_.zeitrennen : wort_.rundenrennen;
-    kopf += "  ·  " + r_.ansicht.ziel_text(ziel);
+    std::string kopf = art_und_ziel();
     const auto modus = static_cast<std::size_t>(gueltiger_modus(e.wertung.value_or(sortier_modus::runden)));
     kopf += "  ·  " + wort_.wertung.at(modus - 1);
     if (e.vorzeitig.value_or(false)) {
@@ -275,7 +279,13 @@ void auswertung::nachzaehlen_beenden() {
 bool auswertung::eingabe_offen() const {
     return meter_eingabe_an_ || nachtrag.Frame_nachtrag.sichtbar() ||
            um_.fenster.ist_offen(fenstername::rundenspeichern) ||
-           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster) || um_.fenster.ist_offen(fenstername::wiedergabe);
+           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster) || um_.fenster.ist_offen(fenstername::wiedergabe) ||
+           um_.fenster.ist_offen(fenstername::urkunden);
+}
+
+void auswertung::urkunden_zeigen() {
+    auswertung_anzeigen();
+    u_.urkunden.oeffnen(ergebnis(), art_und_ziel(), blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
 }
 
 bool auswertung::wartezeit_vorbei(const std::string& wort) {

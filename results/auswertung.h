@@ -13,6 +13,7 @@
 #include "results/rundennachtrag.h"
 #include "results/rundenspeichern.h"
 #include "results/rundenverlauf.h"
+#include "results/urkundenfenster.h"
 #include "results/wertung.h"
 
 namespace tarvel {
@@ -30,6 +31,7 @@ public:
         wertung& stand;
         rundenspeichern& speichern;
         beste_zeiten_fenster& bestzeiten;
+        urkundenfenster& urkunden;
     };
 
     explicit auswertung(const umfeld& um);
@@ -83,6 +85,7 @@ public:
     rundennachtrag nachtrag;  ///< in place of the standing
     befehl Command_drucken;
     befehl Command_pdf;
+    befehl Command_urkunden;
     befehl Command_wiedergabe;  ///< the race runs again
     rahmen Frame1;              ///< the two commands that move drivers
     haken spurwechsel;          ///< drivers go to their next lanes; as the operator left it
@@ -124,6 +127,8 @@ public:
     const rennergebnis& ergebnis() const { return u_.stand.ergebnis(); }
     /// What was driven, and when.
     std::string kopf() const;
+    /// Whose evening it is.
+    papierkopf blattkopf() const { return papierkopf_laden(um_.ablage); }
     const std::string& wort_strafzeit() const { return wort_.strafzeit; }
     const einstellungen& einst() const { return um_.einst; }
     /// Suggestion for the file of the page, below the program folder and without an extension.
@@ -177,6 +182,8 @@ private:
     void w_auto5_tick();
     /// Nobody is thrown out of an entry.
     bool eingabe_offen() const;
+    void urkunden_zeigen();
+    std::string art_und_ziel() const;
     /// One second of the wait; true when it is over.
     bool wartezeit_vorbei(const std::string& wort);
     enum class ansicht { stand, verlauf, nachtrag };

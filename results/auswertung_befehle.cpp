@@ -41,6 +41,7 @@ void auswertung::befehle_verbinden() {
     Command_verlauf.bei_klick = [this] { zeigen(Frame_verlauf.sichtbar() ? ansicht::stand : ansicht::verlauf); };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
+    Command_urkunden.bei_klick = [this] { urkunden_zeigen(); };
     Command_wiedergabe.bei_klick = [this] {
         if (wiedergabe_zeigen) {
             selbstlauf_unterbrechen();

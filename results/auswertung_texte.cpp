@@ -57,7 +57,12 @@ sprachliste auswertung::sprache_a() {
     texte.tipp("Das Rennen noch einmal auf dem Rennbildschirm ablaufen lassen", Command_wiedergabe);
     korrekturtexte(texte);
     texte.text("Protokoll", Command_protokoll);
-    return texte.tipp("Was im Rennen geschah, auch die Überfahrten, die nicht zählten", Command_protokoll);
+    texte.tipp("Was im Rennen geschah, auch die Überfahrten, die nicht zählten", Command_protokoll);
+    texte.text("Urkunden", Command_urkunden);
+    texte.tipp(
+        "Eine Urkunde für jeden Fahrer, mit seinem Bild; hier stehen auch die Namen von Verein und Veranstaltung",
+        Command_urkunden);
+    return blatt.nachtragen(texte);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

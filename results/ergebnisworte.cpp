@@ -13,4 +13,8 @@ sprachliste& blatt_worte::eintragen(sprachliste& texte) {
     return texte.text("Meter", meter).text("Abstand", abstand).text("km/h beste / Ø", tempo);
 }
 
+sprachliste& blatt_worte::nachtragen(sprachliste& texte) {
+    return texte.text("Strecke", strecke).text("Rundenzeiten", rundenzeiten);
+}
+
 }  // namespace tarvel

@@ -33,9 +33,13 @@ struct blatt_worte {
     std::string beste;
     std::string nachgetragen;  ///< stands before the number of laps that were added
     std::string tempo;         ///< of the best lap and on average
+    std::string strecke;
+    std::string rundenzeiten;
 
     /// But for the captions that the result window has too: these it sets itself.
     sprachliste& eintragen(sprachliste& texte);
+    /// Those that came later, for the end of the list.
+    sprachliste& nachtragen(sprachliste& texte);
 };
 
 }  // namespace tarvel

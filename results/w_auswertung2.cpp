@@ -79,6 +79,7 @@ void w_auswertung2::befehle_verbinden() {
     debug_.bei_ende = [this] { Command13.text(wort_.debug_auf); };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
+    Command_urkunden.bei_klick = [this] { urkunden_zeigen(); };
 }
 
 void w_auswertung2::laden() {
@@ -101,6 +102,7 @@ void w_auswertung2::laden() {
 
 void w_auswertung2::entladen() {
     um_.welt.fenster.entladen(fenstername::w_ausw_debug);
+    um_.welt.fenster.entladen(fenstername::urkunden);
     tabelle_.reset();
     korrekturen_ = {};
     rennen_.reset();
@@ -316,12 +318,23 @@ void w_auswertung2::blicken(blick neu) {
     bedienung_einrichten();
 }
 
+std::optional<rennergebnis> w_auswertung2::gewaehltes_rennen() const {
+    const auto welches = static_cast<std::size_t>(std::max(cbo_rennen.platz(), 0));
+    return tabelle_ ? rennen_von(*tabelle_, welches, sortieren_nach()) : std::nullopt;
+}
+
+void w_auswertung2::urkunden_zeigen() {
+    if (const auto rennen = gewaehltes_rennen()) {
+        um_.urkunden.oeffnen(*rennen, wort_.art[1], blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
+    } else {
+        hinweisen(wort_.kein_blatt);
+    }
+}
+
 void w_auswertung2::rennen_zeigen() {
     rennen_.reset();
     if (blick_ == blick::blatt || blick_ == blick::verlauf) {
-        rennen_ = tabelle_ ? rennen_von(*tabelle_, static_cast<std::size_t>(std::max(cbo_rennen.platz(), 0)),
-                                        sortieren_nach())
-                           : std::nullopt;
+        rennen_ = gewaehltes_rennen();
         if (!rennen_) {
             hinweisen(wort_.kein_blatt);
             blicken(blick::tabelle);
@@ -386,6 +399,7 @@ void w_auswertung2::bedienung_einrichten() {
     cbo_rennen.sichtbar(Label_rennen.sichtbar());
     Command_drucken.aktiviert(frei && da);
     Command_pdf.aktiviert(frei && da);
+    Command_urkunden.aktiviert(frei && mit_rennen);
     Frame_klassen.sichtbar(Check1.front().sichtbar() && frei);
     korrekturzeile.sichtbar(da && als_tabelle && frei);
 }

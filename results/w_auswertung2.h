@@ -13,7 +13,9 @@
 #include "results/ergebnisworte.h"
 #include "results/fahrervergleich.h"
 #include "results/korrekturrahmen.h"
+#include "results/papierkopf.h"
 #include "results/tabellenverlauf.h"
+#include "results/urkundenfenster.h"
 #include "results/w_ausw_debug.h"
 
 namespace tarvel {
@@ -26,6 +28,7 @@ public:
         fenster_umgebung welt;
         const einstellungen& einst;
         const renneinrichtung& einrichtung;
+        urkundenfenster& urkunden;
     };
     /// What the window shows in its middle.
     enum class blick { tabelle, blatt, verlauf, vergleich };
@@ -48,6 +51,7 @@ public:
     auswahl cbo_rennen;  ///< the race that sheet and chart show
     befehl Command_drucken;
     befehl Command_pdf;
+    befehl Command_urkunden;
     bezeichnung Label_kopf;  ///< over the columns of the list
     liste auswertung_schoen;
     befehl Command10;  ///< details of laps, ...
@@ -104,6 +108,8 @@ public:
     const einstellungen& einst() const { return um_.einst; }
     /// What was driven, and when; over the sheet and the charts.
     std::string kopf() const;
+    /// Whose evening it was.
+    papierkopf blattkopf() const { return papierkopf_laden(um_.welt.ablage); }
     /// Suggestion for the file of the page, below the program folder and without an extension.
     std::string blatt_datei() const;
     void pdf_misslungen() { fehler_melden(wort_.pdf_fehler); }
@@ -175,6 +181,8 @@ private:
     void details_zeigen();
     void blicken(blick neu);
     void rennen_zeigen();
+    std::optional<rennergebnis> gewaehltes_rennen() const;
+    void urkunden_zeigen();
     void bedienung_einrichten();
     void hinweisen(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[0]); }
     void fehler_melden(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[1]); }

@@ -29,7 +29,10 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     texte.text("Protokolle", Command_protokoll);
     texte.text("Rückgängig", Command_zurueck).text("Wiederherstellen", Command_wieder);
     texte.tipp("Nimmt die letzte Korrektur zurück (Strg+Z)", Command_zurueck);
-    return texte.tipp("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", Command_wieder);
+    texte.tipp("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", Command_wieder);
+    texte.text("Urkunden", Command_urkunden);
+    texte.tipp("Eine Urkunde für jeden Fahrer eines Einzelrennens", Command_urkunden);
+    return blatt.nachtragen(texte);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {

@@ -8,6 +8,8 @@
 #include "core/dateien.h"
 #include "core/nebendateien.h"
 #include "hardware/iow_profil.h"
+#include "results/papierkopf.h"
+#include "results/urkundenvorlage.h"
 #include "tests/plattform/testprogramm.h"
 
 int main(int argc, char** argv) {
@@ -26,6 +28,9 @@ int main(int argc, char** argv) {
     geschrieben =
         tarvel::iow_profil_speichern(ziel, t.p.einst.iow.iow_datei, tarvel::iow_werkseinstellung()) && geschrieben;
     geschrieben = tarvel::trennzeichen_speichern(ziel, t.p.einst.trennzeichen) && geschrieben;
+    geschrieben =
+        ziel.zeilen_schreiben(std::string(tarvel::urkunden_ordner) + "\\urkunde.txt", tarvel::eingebaute_vorlage()) &&
+        geschrieben;
     for (const tarvel::sprachliste& sprache : t.p.sprachdateien()) {
         geschrieben = ziel.zeilen_schreiben(sprache.datei(), sprache.deutsche_datei()) && geschrieben;
     }

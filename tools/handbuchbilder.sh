@@ -30,4 +30,5 @@ bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760
 usbtest                  usbtest            1012x690
 druckeranschluss         druckeranschluss   820x520
+urkunden                 urkunden           1024x768
 BILDER

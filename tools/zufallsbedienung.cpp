@@ -121,7 +121,9 @@ void ohne_papier(Fenster& fenster) {
 int bedienen(long anzahl, unsigned saat) {
     constexpr long geduld = 20000;  // actions in which something must open or close
     buehne b;
+    b.o.fenster.alle_machen();  // one that is made later brings its dialogs with it
     ohne_papier(b.p.auswertung);
+    ohne_papier(b.p.ergebnis_fluegel().urkunden);
     ohne_papier(b.p.w_auswertung);
     ohne_papier(b.p.w_auswertung2);
     b.p.form1.beenden = [] {};

@@ -96,7 +96,9 @@ rundenbild_inhalt AuswertungFenster::bildinhalt() const {
 
 ergebnisblatt AuswertungFenster::blatt_bilden() const {
     return ergebnisblatt_bilden(
-        logik_.ergebnis(), {logik_.titel.text(), logik_.kopf(), logik_.wort_strafzeit(), logik_.blatt}, bildinhalt());
+        logik_.ergebnis(),
+        {logik_.titel.text(), logik_.kopf(), logik_.wort_strafzeit(), logik_.blatt, logik_.blattkopf().zeile()},
+        bildinhalt());
 }
 
 void AuswertungFenster::drucken() {
@@ -134,6 +136,7 @@ QLayout* AuswertungFenster::korrekturzeile() {
            {&logik_.Command_wiedergabe, "Command_wiedergabe"},
            {&logik_.Command_drucken, "Command_drucken"},
            {&logik_.Command_pdf, "Command_pdf"},
+           {&logik_.Command_urkunden, "Command_urkunden"},
            {&logik_.Command4, "Command4"}});
     return zeilen;
 }

@@ -77,6 +77,10 @@ Bildleser::~Bildleser() {
     faden_.waitForDone();
 }
 
+QImage Bildleser::gleich_lesen(const fs::path& datei, int kante) {
+    return !datei.empty() && ist_lesbar(datei, bild_bytes_max) ? bild_lesen(datei, kante) : QImage();
+}
+
 int Bildleser::stufe(double kante) {
     const auto* passend = std::find_if(stufen.begin(), stufen.end(), [kante](int s) { return s >= kante; });
     return passend == stufen.end() ? stufen.back() : *passend;

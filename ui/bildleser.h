@@ -27,6 +27,8 @@ public:
     /// Gives `nehmer` the first of the files that is a picture, at most `kante` pixels wide and high, or a null image
     /// if none is. False if that comes later; then only while `empfaenger` lives.
     bool lesen(const Dateien& dateien, int kante, QObject* empfaenger, Nehmer nehmer);
+    /// The picture at once, at most `kante` pixels wide and high; for paper, while no race runs. Null if it is none.
+    static QImage gleich_lesen(const std::filesystem::path& datei, int kante);
     /// The next larger of a few sizes, so that few copies serve every place.
     static int stufe(double kante);
 

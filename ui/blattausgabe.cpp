@@ -23,13 +23,20 @@ constexpr double rand_mm = 10;
 constexpr int pdf_dpi = 300;
 constexpr double kleinste_schrift = 0.62;  // of its size, before a text is cut
 
-QPageLayout seitenformat() {
+QPageLayout seitenformat(const blattseiten& seiten) {
+    if (seiten.urkunde) {
+        QPageLayout randlos({QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()});
+        randlos.setMode(QPageLayout::FullPageMode);
+        return randlos;
+    }
     return {QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(rand_mm, rand_mm, rand_mm, rand_mm),
             QPageLayout::Millimeter};
 }
 
-double skala_von(const QSizeF& flaeche) {
-    return std::min(flaeche.width() / blattmass::breite_min, flaeche.height() / blattmass::hoehe_min);
+double skala_von(const QSizeF& flaeche, const blattseiten& seiten) {
+    return seiten.urkunde
+               ? std::min(flaeche.width() / blattmass::urkunde_breite, flaeche.height() / blattmass::urkunde_hoehe)
+               : std::min(flaeche.width() / blattmass::breite_min, flaeche.height() / blattmass::hoehe_min);
 }
 
 /// The pages from `von` on, up to `bis` if that is above 0; both count from 1.
@@ -39,7 +46,7 @@ bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const blattseiten& seiten, i
         return false;
     }
     const QRectF flaeche(0, 0, geraet.width(), geraet.height());
-    const int anzahl = seiten.anzahl(flaeche.size() / skala_von(flaeche.size()));
+    const int anzahl = seiten.anzahl(flaeche.size() / skala_von(flaeche.size(), seiten));
     const int letzte = bis > 0 ? std::min(bis, anzahl) : anzahl;
     for (int nummer = von; nummer <= letzte; ++nummer) {
         if (nummer > von && !geraet.newPage()) {
@@ -53,7 +60,7 @@ bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const blattseiten& seiten, i
 }  // namespace
 
 void seite_malen(QPainter& maler, const QRectF& flaeche, const blattseiten& seiten, int nummer) {
-    const double skala = skala_von(flaeche.size());
+    const double skala = skala_von(flaeche.size(), seiten);
     maler.save();
     maler.setRenderHint(QPainter::Antialiasing);
     maler.translate(flaeche.topLeft());
@@ -71,7 +78,7 @@ bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten) {
     {
         QPdfWriter schreiber(&datei);
         schreiber.setResolution(pdf_dpi);
-        schreiber.setPageLayout(seitenformat());
+        schreiber.setPageLayout(seitenformat(seiten));
         schreiber.setTitle(seiten.titel);
         schreiber.setCreator(QString::fromStdString(std::string(programm_name) + " " + std::string(programm_version)));
         if (!auf_geraet_zeichnen(schreiber, seiten)) {
@@ -83,7 +90,8 @@ bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten) {
 
 void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::function<void()>& bei_fehler) {
     const auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    drucker->setPageLayout(seitenformat());
+    drucker->setFullPage(seiten.urkunde);
+    drucker->setPageLayout(seitenformat(seiten));
     drucker->setDocName(seiten.titel);
     const int anzahl = seiten.anzahl(QSizeF(blattmass::breite_min, blattmass::hoehe_min));
     auto* dialog = new QPrintDialog(drucker.get(), eltern);
@@ -124,17 +132,22 @@ QFont schrift_mit(double px, bool fett) {
     return schrift;
 }
 
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, QFont schrift,
+               const QColor& farbe) {
+    const double noetig = QFontMetricsF(schrift).horizontalAdvance(inhalt);
+    if (noetig > feld.width()) {
+        const double kleiner = schrift.pixelSize() * std::max(feld.width() / noetig, kleinste_schrift);
+        schrift.setPixelSize(std::max(static_cast<int>(kleiner), 1));
+    }
+    maler.setFont(schrift);
+    maler.setPen(farbe);
+    maler.drawText(feld, static_cast<int>(ausrichtung | Qt::AlignVCenter | Qt::TextSingleLine),
+                   QFontMetricsF(schrift).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
+}
+
 void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
                const blattschrift& art) {
-    QFont gewaehlt = schrift_mit(art.px, art.fett);
-    const double noetig = QFontMetricsF(gewaehlt).horizontalAdvance(inhalt);
-    if (noetig > feld.width()) {
-        gewaehlt = schrift_mit(std::floor(art.px * std::max(feld.width() / noetig, kleinste_schrift)), art.fett);
-    }
-    maler.setFont(gewaehlt);
-    maler.setPen(art.farbe);
-    maler.drawText(feld, static_cast<int>(ausrichtung | Qt::AlignVCenter | Qt::TextSingleLine),
-                   QFontMetricsF(gewaehlt).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
+    blatttext(maler, feld, ausrichtung, inhalt, schrift_mit(art.px, art.fett), art.farbe);
 }
 
 }  // namespace tarvel::ui

@@ -11,19 +11,23 @@
 /// What all printed sheets have in common: their paper, and the ways on which they leave the program.
 namespace tarvel::ui {
 
-/// Pages in landscape that draw themselves.
+/// Pages that draw themselves.
 struct blattseiten {
     QString titel;
     /// How many there are of this size in the sheet's own measure.
     std::function<int(const QSizeF& groesse)> anzahl;
     /// Draws the page with this number, from 0, into its area.
     std::function<void(QPainter& maler, const QSizeF& groesse, int nummer)> zeichnen;
+    /// Upright and to the edges of the paper; else in landscape within its margins.
+    bool urkunde = false;
 };
 
 /// All measures of a sheet are tenths of a millimetre; on paper of another shape the sheet is scaled to fit.
 namespace blattmass {
 inline constexpr double breite_min = 2770;  ///< A4 in landscape within its margins
 inline constexpr double hoehe_min = 1700;
+inline constexpr double urkunde_breite = 2100;  ///< A4 upright
+inline constexpr double urkunde_hoehe = 2970;
 }  // namespace blattmass
 
 /// Paints a page into an area of any device.
@@ -51,5 +55,7 @@ QFont schrift_mit(double px, bool fett);
 /// One line of text that becomes smaller, and at last is cut, where it is too wide.
 void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
                const blattschrift& art);
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, QFont schrift,
+               const QColor& farbe);
 
 }  // namespace tarvel::ui

@@ -15,6 +15,8 @@ namespace {
 // all measures in tenths of a millimetre
 constexpr double schrift_titel = 78;
 constexpr double schrift_kopf = 44;
+constexpr double schrift_verein = 52;
+constexpr double kopf_links = 44;
 constexpr double schrift_spalte = 31;
 constexpr double schrift_wert = 46;
 constexpr double schrift_zusatz = 33;
@@ -59,16 +61,26 @@ void Blattzeichnung::zeichnen() {
     fuss();
 }
 
+double Blattzeichnung::vereinszeile() {
+    if (blatt_.verein.isEmpty()) {
+        return 0;
+    }
+    const double hoch = schrift_verein * 1.35;
+    text({kopf_links, 0, groesse_.width() - kopf_links, hoch}, Qt::AlignLeft, blatt_.verein,
+         {schrift_verein, true, stil::akzent});
+    return hoch;
+}
+
 double Blattzeichnung::kopf() {
-    const double titel = schrift_titel * 1.25;
-    const double zeile = schrift_kopf * 1.4;
-    maler_.fillRect(QRectF(0, 6, 14, titel + zeile - 12), stil::akzent);
-    const double links = 44;
-    text({links, 0, groesse_.width() - links, titel}, Qt::AlignLeft, blatt_.titel,
+    const double oben = vereinszeile();
+    const double titel = oben + schrift_titel * 1.25;
+    const double unten = titel + schrift_kopf * 1.4;
+    maler_.fillRect(QRectF(0, 6, 14, unten - 12), stil::akzent);
+    text({kopf_links, oben, groesse_.width() - kopf_links, titel - oben}, Qt::AlignLeft, blatt_.titel,
          {schrift_titel, true, stil::schrift});
-    text({links, titel, groesse_.width() - links, zeile}, Qt::AlignLeft, blatt_.kopf,
+    text({kopf_links, titel, groesse_.width() - kopf_links, unten - titel}, Qt::AlignLeft, blatt_.kopf,
          {schrift_kopf, false, stil::schrift_leise});
-    return titel + zeile;
+    return unten;
 }
 
 void Blattzeichnung::spalten_messen() {

@@ -21,6 +21,7 @@ private:
         blatttext(maler_, feld, ausrichtung, inhalt, art);
     }
     double kopf();
+    double vereinszeile();
     double tabelle(double oben);
     void tabellenzeile(const ergebnisblatt::zeile& zeile, const QRectF& feld);
     void zelle(const blattzelle& zelle, const QRectF& feld, std::size_t spalte);

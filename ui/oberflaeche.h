@@ -40,6 +40,7 @@
 #include "ui/tx_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
+#include "ui/urkunden_fenster.h"
 #include "ui/usbtest_fenster.h"
 #include "ui/w_auswertung2_fenster.h"
 #include "ui/w_auswertung_fenster.h"
@@ -97,6 +98,7 @@ public:
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     SpaetesFenster<WAuswertung2Fenster> w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
     SpaetesFenster<ProtokollFenster> protokoll{p_.protokollfenster, p_.ablage, fenster, &bahn1};
+    SpaetesFenster<UrkundenFenster> urkunden{p_.ergebnis_fluegel().urkunden, p_.ablage, fenster, &form1};
     SpaetesFenster<WAuswDebugFenster> w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};
     SpaetesFenster<Wettkampf1Fenster> wettkampf1{p_.wettkampf1, p_.ablage, fenster, &form1};
     SpaetesFenster<TagesrennenFenster> tagesrennen{p_.tagesrennen_fenster, fenster, &form1};

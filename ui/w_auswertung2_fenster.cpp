@@ -114,6 +114,7 @@ QLayout* WAuswertung2Fenster::blickzeile() {
     zeile->addStretch(1);
     zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken", "schmal"));
     zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_urkunden, "Command_urkunden", "schmal"));
     return zeile;
 }
 
@@ -296,7 +297,8 @@ void WAuswertung2Fenster::zeichnen() {
 ergebnisblatt WAuswertung2Fenster::blatt_bilden() const {
     const einstellungen& einst = logik_.einst();
     const rennergebnis& rennen = *logik_.rennen();
-    return ergebnisblatt_bilden(rennen, {logik_.titel.text(), logik_.kopf(), {}, logik_.blatt},
+    return ergebnisblatt_bilden(rennen,
+                                {logik_.titel.text(), logik_.kopf(), {}, logik_.blatt, logik_.blattkopf().zeile()},
                                 {rundenverlauf_bilden(rennen), einst.farben_spur, logik_.diagramm, einst.trennzeichen});
 }
 

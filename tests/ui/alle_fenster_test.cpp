@@ -41,7 +41,7 @@ protected:
             std::get<befehl>(t.p.einstellungsfenster.zeile(zeile).element).klicken();
         }
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 35U);
+        ASSERT_EQ(alle.size(), 36U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());

@@ -10,8 +10,10 @@
 #include <QPrinter>
 #include <csignal>
 
+#include "tests/ergebnistabelle_probe.h"
 #include "tests/programm_probe.h"
 #include "ui/rundendiagramm.h"
+#include "ui/urkundenbild.h"
 
 namespace tarvel {
 namespace {
@@ -96,9 +98,13 @@ TEST_F(Ergebnisblatt, ZeigtDenStandInDerFolgeDerPlaetze) {
     EXPECT_EQ(blatt.zeilen[1].zellen[5].zusatz, "Strafzeit: 10 sec");
     EXPECT_EQ(zellen(2), "3.|1|Fahrer 1|Dis.|–|–|–|–|–");
     EXPECT_EQ(blatt.spalten.size(), blatt.zeilen[0].zellen.size());
+    ASSERT_EQ(blatt.rundenspalten.size(), 2U) << "a lane without a counted lap has no lap times";
+    EXPECT_EQ(blatt.rundenspalten[0].zeiten, (std::vector<QString>{"00:06,000", "00:06,000", "00:06,500"}));
+    EXPECT_EQ(blatt.rundenspalten[0].beste, 1U);
+    EXPECT_TRUE(blatt.kopf.endsWith("Strecke 25 m")) << blatt.kopf.toStdString();
 }
 
-TEST_F(Ergebnisblatt, IstImmerEineSeiteUndErsetztDieAlteDateiNurGanz) {
+TEST_F(Ergebnisblatt, EineSeiteFuerDieWandErsetztDieAlteDateiNurGanz) {
     t.starten("Runden", "1", {1, 2, 3, 4, 5, 6});
     t.runde_nach(1000, "123456");
     t.runde_nach(6000, "123456");
@@ -108,7 +114,7 @@ TEST_F(Ergebnisblatt, IstImmerEineSeiteUndErsetztDieAlteDateiNurGanz) {
         const QByteArray pdf = inhalt_von(pfad);
         EXPECT_TRUE(pdf.startsWith("%PDF"));
         EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
-        EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
+        EXPECT_EQ(pdf.count("/Type /Page\n"), 2) << "and one of lap times";
     }
     const QByteArray vorher = inhalt_von(pfad);
     {
@@ -118,6 +124,21 @@ TEST_F(Ergebnisblatt, IstImmerEineSeiteUndErsetztDieAlteDateiNurGanz) {
     EXPECT_EQ(inhalt_von(pfad), vorher);
     EXPECT_FALSE(ui::ergebnisblatt_pdf(pfad + "/darunter.pdf", bilden({}))) << "below a file";
     EXPECT_EQ(QFileInfo(pfad).dir().entryList(QDir::Files).size(), 1) << "nothing is left beside it";
+}
+
+TEST_F(Ergebnisblatt, JederFahrerHatEineUrkundeAufEinerSeite) {
+    const dateien ablage(t.maschine.ordner());
+    const gelesene_vorlage vorlage = vorlage_lesen(eingebaute_vorlage());
+    rennergebnis e = test::rennen_mit({std::string(60, 'W'), "", "Käthe"}, 3, "14:03:22");
+    t.maschine.datei_schreiben("kaputt.jpg", "no picture");
+    std::vector<ui::urkundenbogen> boegen;
+    for (urkunde u : urkunden_bilden(e, {})) {
+        u.fahrerbild = u.spur == 1 ? "kaputt.jpg" : "../../fehlt.jpg";
+        boegen.push_back(ui::bogen_bilden(ablage, vorlage.vorlage, u, Qt::red));
+    }
+    ASSERT_TRUE(ui::blatt_als_pdf(pfad, ui::urkundenseiten("Urkunden", std::move(boegen))));
+    EXPECT_EQ(inhalt_von(pfad).count("/Type /Page\n"), 3);
+    EXPECT_TRUE(inhalt_von(pfad).contains("/MediaBox [0 0 595"));
 }
 
 TEST_F(Ergebnisblatt, DruckenWartetNichtUndHinterlaesstKeinenDialog) {
@@ -130,7 +151,7 @@ TEST_F(Ergebnisblatt, DruckenWartetNichtUndHinterlaesstKeinenDialog) {
     const QString gedruckt = QString::fromStdString((t.maschine.ordner() / "gedruckt.pdf").string());
     dialog->printer()->setOutputFileName(gedruckt);
     emit dialog->accepted(dialog->printer());
-    EXPECT_EQ(inhalt_von(gedruckt).count("/Type /Page\n"), 1);
+    EXPECT_EQ(inhalt_von(gedruckt).count("/Type /Page\n"), 2);
     dialog->reject();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(fenster.findChild<QPrintDialog*>(), nullptr);

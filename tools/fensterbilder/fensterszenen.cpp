@@ -151,6 +151,14 @@ const std::vector<szeneneintrag> alle{
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
          return b.o.auswertung;
      }},
+    {"urkunden",
+     [](buehne& b) -> QWidget& {
+         b.ergebnis("14", {1, 2, 3, 4, 5, 6});
+         b.p.auswertung.Command_urkunden.klicken();
+         b.p.ergebnis_fluegel().urkunden.verein.eingeben("Slotfreunde Nordheide e. V.");
+         b.p.ergebnis_fluegel().urkunden.veranstaltung.eingeben("Kinderpokal 2026, dritter Lauf");
+         return *b.o.urkunden;
+     }},
     {"auswertung_zwei_spuren",
      [](buehne& b) -> QWidget& {
          b.ergebnis("14", {2, 5});
@@ -171,7 +179,7 @@ const std::vector<szeneneintrag> alle{
          b.t.bahn().Command3.klicken();
          b.t.maschine.laufen(10000);
          b.fahren(40000);
-         b.t.bahn().Command4.klicken();
+         b.t.rennende();
          b.t.maschine.laufen(20000);  // no crossing counts any more
          b.p.auswertung.Command_wiedergabe.klicken();
          b.p.wiedergabe.leiste.greifen(95000);

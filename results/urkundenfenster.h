@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/einstellungen.h"
+#include "core/fensterumgebung.h"
+#include "core/namensliste.h"
+#include "core/steuerelemente.h"
+#include "results/urkunde.h"
+
+namespace tarvel {
+
+/// The window in which the certificates of a race are seen, printed and saved. The names of club and event that are
+/// typed here stand on the sheet of a result as well.
+class urkundenfenster final : public fensterlogik {
+public:
+    struct umfeld {
+        fenster_umgebung welt;
+        const einstellungen& einst;
+        const namensliste& fahrer;
+        const namensliste& fahrzeuge;
+    };
+
+    explicit urkundenfenster(const umfeld& um);
+
+    bezeichnung Label_verein;
+    feld verein;
+    bezeichnung Label_veranstaltung;
+    feld veranstaltung;
+    bezeichnung Label_vorlage;
+    auswahl vorlage;  ///< the first one is built in
+    rahmen Frame_fahrer;
+    std::array<haken, spuren_max> fahrer;  ///< in the order of the places; who gets a certificate
+    befehl Command_zurueck;                ///< the one before
+    befehl Command_vor;
+    bezeichnung Label_seite;
+    befehl Command_drucken;
+    befehl Command_pdf;
+    befehl Command_ende;
+
+    /// Print the pages, save them, and bring the picture up to date; filled by the drawing.
+    std::function<void()> drucken;
+    std::function<void()> als_pdf;
+    std::function<void()> zeichnen;
+
+    /// Opens the window. `rennen` says what was driven, `datei` suggests a name, below the program folder and without
+    /// an extension.
+    void oeffnen(const rennergebnis& ergebnis, const std::string& rennen, const std::string& datei);
+
+    std::vector<sprachliste> sprachdateien() override { return {sprache_u()}; }
+    sprachliste sprache_u();
+    void entladen() override;
+
+    /// The certificates of those who are ticked.
+    std::vector<urkunde> gewaehlte() const;
+    /// The one that is shown, null without any.
+    const urkunde* gezeigte() const;
+    const urkundenvorlage& gezeigte_vorlage() const { return vorlage_; }
+    const einstellungen& einst() const { return um_.einst; }
+    const std::string& pdf_datei() const { return datei_; }
+    void pdf_misslungen() { melden(wort_.pdf_fehler); }
+    void druck_misslungen() { melden(wort_.druckfehler); }
+
+private:
+    void kopf_lesen();
+    void neu_bilden();
+    void blaettern(int schritt);
+    void seite_zeigen();
+    void vorlage_waehlen();
+    void vorlage_laden(const std::string& name);
+    void melden(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[1]); }
+
+    umfeld um_;
+    struct {
+        std::string eingebaut, platz, ohne_platz, vorlage_fehlt, vorlage_fehler, schreibfehler, pdf_fehler;
+        std::string druckfehler;
+    } wort_;
+    rennergebnis ergebnis_;
+    urkundenangaben angaben_;
+    papierkopf gespeichert_;
+    std::string datei_;
+    urkundenvorlage vorlage_;
+    std::vector<urkunde> urkunden_;
+    std::size_t seite_ = 0;  ///< of `urkunden_`
+};
+
+}  // namespace tarvel

@@ -1,0 +1,202 @@
+#include "results/urkundenvorlage.h"
+
+#include <algorithm>
+#include <charconv>
+#include <map>
+#include <utility>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+using art = vorlagenelement::art;
+using buendig = vorlagenelement::buendig;
+
+constexpr std::string_view kennzeile = "Tarvel Urkunde";
+constexpr std::size_t elemente_max = 300;
+constexpr double laenge_max_mm = 500;
+
+/// The words of a line one by one.
+class wortleser {
+public:
+    explicit wortleser(std::string_view zeile) : rest_(zeile) {}
+
+    std::string_view wort() {
+        rest_ = gekuerzt(rest_);
+        const std::size_t ende = std::min(rest_.find_first_of(" \t"), rest_.size());
+        const std::string_view gelesen = rest_.substr(0, ende);
+        rest_.remove_prefix(ende);
+        return gelesen;
+    }
+    std::string rest() { return std::string(gekuerzt(rest_)); }
+    bool zu_ende() const { return gekuerzt(rest_).empty(); }
+
+    bool zahl(double& ziel, double min, double max) {
+        std::string text(wort());
+        werte_pruefen2(text);
+        const bool gut = !text.empty() && text.find_first_not_of("-.0123456789") == std::string::npos;
+        ziel = zahl_lesen(text);
+        return gut && ziel >= min && ziel <= max;
+    }
+    /// "#RRGGBB", as in a web page.
+    bool farbton(farbe& ziel) {
+        const std::string_view text = wort();
+        unsigned wert = 0;
+        const char* ende = text.data() + text.size();
+        if (text.size() != 7 || text[0] != '#' || std::from_chars(text.data() + 1, ende, wert, 16).ptr != ende) {
+            return false;
+        }
+        ziel = (wert & 0xFFU) << 16U | (wert & 0xFF00U) | wert >> 16U;
+        return true;
+    }
+
+private:
+    std::string_view rest_;
+};
+
+bool buendig_lesen(wortleser& worte, vorlagenelement& e) {
+    constexpr std::array namen{std::to_array<std::string_view>({"links", "mitte", "rechts"})};
+    const auto gefunden = std::find(namen.begin(), namen.end(), worte.wort());
+    e.an = static_cast<buendig>(gefunden - namen.begin());
+    return gefunden != namen.end();
+}
+
+/// "fett-serifen" and the like.
+bool stil_lesen(std::string_view stil, vorlagenelement& e) {
+    bool egal = false;
+    const std::map<std::string_view, bool*> eigenschaften{
+        {"normal", &egal}, {"fett", &e.fett}, {"kursiv", &e.kursiv}, {"serifen", &e.serifen}};
+    while (!stil.empty()) {
+        const std::size_t ende = std::min(stil.find('-'), stil.size());
+        const auto gefunden = eigenschaften.find(stil.substr(0, ende));
+        if (gefunden == eigenschaften.end()) {
+            return false;
+        }
+        *gefunden->second = true;
+        stil.remove_prefix(std::min(ende + 1, stil.size()));
+    }
+    return true;
+}
+
+/// Calls `text` with what stands outside of braces and `wort` with the number of each word in them; false for a word
+/// that is none.
+template <class Text, class Wort>
+bool zerlegen(std::string_view inhalt, const Text& text, const Wort& wort) {
+    while (!inhalt.empty()) {
+        const std::size_t auf = std::min(inhalt.find('{'), inhalt.size());
+        text(inhalt.substr(0, auf));
+        inhalt.remove_prefix(auf);
+        if (inhalt.empty()) {
+            break;
+        }
+        const std::size_t zu = inhalt.find('}');
+        const auto name = inhalt.substr(1, std::min(zu, inhalt.size()) - 1);
+        const auto gefunden = std::find(urkundenwort_namen.begin(), urkundenwort_namen.end(), name);
+        if (zu == std::string_view::npos || gefunden == urkundenwort_namen.end()) {
+            return false;
+        }
+        wort(static_cast<std::size_t>(gefunden - urkundenwort_namen.begin()));
+        inhalt.remove_prefix(zu + 1);
+    }
+    return true;
+}
+
+bool text_lesen(wortleser& worte, vorlagenelement& e) {
+    if (!worte.zahl(e.mass, 1, 100) || !buendig_lesen(worte, e) || !stil_lesen(worte.wort(), e) ||
+        !worte.farbton(e.farbton)) {
+        return false;
+    }
+    e.inhalt = worte.rest();
+    return zerlegen(
+        e.inhalt, [](std::string_view) {}, [](std::size_t) {});
+}
+
+bool strich_lesen(wortleser& worte, vorlagenelement& e) {
+    return worte.farbton(e.farbton) && worte.zahl(e.mass, 0.05, 20) && worte.zu_ende();
+}
+
+bool bild_lesen(wortleser& worte, vorlagenelement& e) {
+    const std::string_view form = worte.wort();
+    e.rund = form == "rund";
+    if ((!e.rund && form != "eckig") || !worte.farbton(e.farbton) || !worte.zahl(e.mass, 0, 20)) {
+        return false;
+    }
+    e.inhalt = worte.rest();
+    e.zeigt = e.inhalt == "Fahrer"     ? vorlagenelement::motiv::fahrer
+              : e.inhalt == "Fahrzeug" ? vorlagenelement::motiv::fahrzeug
+                                       : vorlagenelement::motiv::datei;
+    return !e.inhalt.empty();
+}
+
+bool nur_farbe_lesen(wortleser& worte, vorlagenelement& e) {
+    return worte.farbton(e.farbton) && worte.zu_ende();
+}
+
+bool nichts_lesen(wortleser& worte, vorlagenelement& /*e*/) {
+    return worte.zu_ende();
+}
+
+struct zeilenart {
+    std::string_view name;
+    art was;
+    bool (*lesen)(wortleser&, vorlagenelement&);  ///< what follows place and size
+};
+constexpr std::array<zeilenart, 8> zeilenarten{{{"Fläche", art::flaeche, nur_farbe_lesen},
+                                                {"Flaeche", art::flaeche, nur_farbe_lesen},
+                                                {"Rahmen", art::rahmen, strich_lesen},
+                                                {"Linie", art::linie, strich_lesen},
+                                                {"Text", art::text, text_lesen},
+                                                {"Bild", art::bild, bild_lesen},
+                                                {"Plakette", art::plakette, nichts_lesen},
+                                                {"Zielflagge", art::zielflagge, nur_farbe_lesen}}};
+
+bool element_lesen(const std::string& zeile, vorlagenelement& e) {
+    wortleser worte(zeile);
+    const std::string_view name = worte.wort();
+    const auto* gefunden =
+        std::find_if(zeilenarten.begin(), zeilenarten.end(), [&](const zeilenart& eine) { return eine.name == name; });
+    if (gefunden == zeilenarten.end()) {
+        return false;
+    }
+    e.was = gefunden->was;
+    return worte.zahl(e.x, -laenge_max_mm, laenge_max_mm) && worte.zahl(e.y, -laenge_max_mm, laenge_max_mm) &&
+           worte.zahl(e.breite, 0, laenge_max_mm) && worte.zahl(e.hoehe, 0, laenge_max_mm) && gefunden->lesen(worte, e);
+}
+
+}  // namespace
+
+gelesene_vorlage vorlage_lesen(const std::vector<std::string>& zeilen) {
+    gelesene_vorlage gelesen;
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        const std::string_view zeile = gekuerzt(zeilen[i]);
+        if (i == 0 && zeile == kennzeile) {
+            continue;
+        }
+        if (i > 0 && (zeile.empty() || zeile.front() == ';')) {
+            continue;
+        }
+        vorlagenelement element;
+        if (i == 0 || gelesen.vorlage.size() == elemente_max || !element_lesen(zeilen[i], element)) {
+            gelesen.fehlerzeile = i + 1;
+            return gelesen;
+        }
+        gelesen.vorlage.push_back(std::move(element));
+    }
+    gelesen.fehlerzeile = gelesen.vorlage.empty() ? std::max<std::size_t>(zeilen.size(), 1) : 0;
+    return gelesen;
+}
+
+std::string eingesetzt(std::string_view inhalt, const urkundenworte& worte) {
+    std::string aus;
+    bool leer = false;
+    zerlegen(
+        inhalt, [&aus](std::string_view text) { aus += text; },
+        [&](std::size_t wort) {
+            aus += worte.at(wort);
+            leer = leer || worte.at(wort).empty();
+        });
+    return leer ? std::string() : aus;
+}
+
+}  // namespace tarvel

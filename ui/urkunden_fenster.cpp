@@ -1,0 +1,117 @@
+#include "ui/urkunden_fenster.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "ui/stil.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr int spalte_links = 330;
+constexpr int vorlage_zeichen = 16;
+
+}  // namespace
+
+UrkundenFenster::UrkundenFenster(urkundenfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
+                                 QWidget* eltern)
+    : Fenster(logik, verwaltung, eltern), logik_(logik), ablage_(ablage) {
+    auto* aufbau = new QHBoxLayout(this);
+    aufbau->setContentsMargins(stil::fensterrand);
+    aufbau->setSpacing(14);
+    auto* links = new QVBoxLayout;
+    links->setSpacing(10);
+    links->addLayout(eingaben());
+    links->addWidget(fahrerfeld());
+    links->addStretch(1);
+    auto* ausgabe = new QHBoxLayout;
+    ausgabe->setSpacing(8);
+    for (QPushButton* knopf : {binder().hauptknopf(logik.Command_pdf, "Command_pdf"),
+                               binder().knopf(logik.Command_drucken, "Command_drucken"),
+                               binder().knopf(logik.Command_ende, "Command_ende")}) {
+        knopf->setMinimumHeight(stil::knopfhoehe);
+        ausgabe->addWidget(knopf);
+    }
+    links->addLayout(ausgabe);
+    aufbau->addLayout(links);
+    auto* rechts = new QVBoxLayout;
+    bild_ = new Urkundenbild(this);
+    bild_->setObjectName("urkunden.bild");
+    bild_->setMinimumSize(300, 420);
+    rechts->addWidget(bild_, 1);
+    auto* blaettern = new QHBoxLayout;
+    blaettern->addStretch(1);
+    blaettern->addWidget(binder().knopf(logik.Command_zurueck, "Command_zurueck", "schmal"));
+    blaettern->addWidget(binder().label(logik.Label_seite, "Label_seite"));
+    blaettern->addWidget(binder().knopf(logik.Command_vor, "Command_vor", "schmal"));
+    blaettern->addStretch(1);
+    rechts->addLayout(blaettern);
+    aufbau->addLayout(rechts, 1);
+    logik.zeichnen = [this] {
+        const urkunde* u = logik_.gezeigte();
+        bild_->setBogen(u == nullptr
+                            ? std::nullopt
+                            : std::optional(bogen_bilden(ablage_, logik_.gezeigte_vorlage(), *u,
+                                                         stil::farbe_von(logik_.einst().farben_spur[u->spur]))));
+    };
+    logik.drucken = [this] { blatt_drucken(this, seiten(), [this] { logik_.druck_misslungen(); }); };
+    logik.als_pdf = [this] { pdf_speichern(); };
+}
+
+QLayout* UrkundenFenster::eingaben() {
+    auto* raster = new QGridLayout;
+    raster->setVerticalSpacing(6);
+    const auto zeile = [&](int reihe, bezeichnung& label, const char* name, QWidget* eingabe) {
+        raster->addWidget(binder().label(label, name), reihe, 0);
+        eingabe->setMinimumWidth(spalte_links - 100);
+        raster->addWidget(eingabe, reihe, 1);
+    };
+    zeile(0, logik_.Label_verein, "Label_verein", binder().zeile(logik_.verein, "verein"));
+    zeile(1, logik_.Label_veranstaltung, "Label_veranstaltung", binder().zeile(logik_.veranstaltung, "veranstaltung"));
+    QComboBox* vorlage = binder().auswahlfeld(logik_.vorlage, "vorlage");
+    vorlage->setMinimumContentsLength(vorlage_zeichen);
+    zeile(2, logik_.Label_vorlage, "Label_vorlage", vorlage);
+    return raster;
+}
+
+QWidget* UrkundenFenster::fahrerfeld() {
+    QGroupBox* kasten = binder().gruppe(logik_.Frame_fahrer, "Frame_fahrer");
+    auto* aufbau = new QVBoxLayout(kasten);
+    aufbau->setSpacing(6);
+    for (std::size_t i = 0; i < logik_.fahrer.size(); ++i) {
+        aufbau->addWidget(binder().kasten(logik_.fahrer.at(i), "fahrer_" + QString::number(i)));
+    }
+    return kasten;
+}
+
+void UrkundenFenster::aufschlagen() {
+    if (!isVisible()) {
+        const QSize platz = screen()->availableGeometry().size();
+        const int hoch = platz.height() * 9 / 10;
+        resize(spalte_links + 80 + hoch * 5 / 7, hoch);
+    }
+    Fenster::aufschlagen();
+}
+
+blattseiten UrkundenFenster::seiten() const {
+    std::vector<urkundenbogen> boegen;
+    for (const urkunde& u : logik_.gewaehlte()) {
+        boegen.push_back(
+            bogen_bilden(ablage_, logik_.gezeigte_vorlage(), u, stil::farbe_von(logik_.einst().farben_spur[u.spur])));
+    }
+    return urkundenseiten(QString::fromStdString(logik_.titel.text()), std::move(boegen));
+}
+
+void UrkundenFenster::pdf_speichern() {
+    const auto vorschlag = ablage_.pfad(logik_.pdf_datei() + ".pdf").u16string();
+    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
+                     [this, alle = seiten()](const QString& pfad) {
+                         if (!blatt_als_pdf(pfad, alle)) {
+                             logik_.pdf_misslungen();
+                         }
+                     });
+}
+
+}  // namespace tarvel::ui

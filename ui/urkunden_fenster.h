@@ -1,0 +1,27 @@
+#pragma once
+
+#include "results/urkundenfenster.h"
+#include "ui/fenster.h"
+#include "ui/urkundenbild.h"
+
+namespace tarvel::ui {
+
+/// The certificates of a race: who gets one, what stands over it, and how it looks.
+class UrkundenFenster : public Fenster {
+public:
+    UrkundenFenster(urkundenfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
+
+    void aufschlagen() override;
+
+private:
+    QLayout* eingaben();
+    QWidget* fahrerfeld();
+    blattseiten seiten() const;
+    void pdf_speichern();
+
+    urkundenfenster& logik_;
+    const dateien& ablage_;
+    Urkundenbild* bild_ = nullptr;
+};
+
+}  // namespace tarvel::ui
