@@ -112,7 +112,9 @@ struct bahn1 {
         std::string prestage;  ///< rows of the drag race's tree
         std::string stage;
         std::string ohne_messung;   ///< asks whether to start without the timing device
-        std::string ohne_ergebnis;  ///< asks whether to stop a race that runs
+        std::string ohne_ergebnis;  ///< what stopping a race that runs means
+        std::string ohne_rest;      ///< and ending it
+        std::string wirklich;       ///< asks whether a command is meant
         std::string ohne_protokoll;
         std::string ohne_ende;  ///< what is driven for, where nothing is
     };

@@ -119,8 +119,10 @@ sprachliste rennansicht::sprache_r() {
                bahn.wort.ohne_messung);
     texte.text("Das Rennen läuft. Wirklich ohne Ergebnis abbrechen?", bahn.wort.ohne_ergebnis);
     texte.text("ohne Ende", bahn.wort.ohne_ende).text("Protokoll", bahn.Command_protokoll);
-    return texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
-                      bahn.wort.ohne_protokoll);
+    texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
+               bahn.wort.ohne_protokoll);
+    texte.text("Wirklich?", bahn.wort.wirklich);
+    return texte.text("Das Rennen läuft. Wirklich mit dem Stand von jetzt beenden?", bahn.wort.ohne_rest);
 }
 
 void rennansicht::oeffnen() {

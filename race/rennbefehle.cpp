@@ -16,14 +16,14 @@ rennbefehle::rennbefehle(const renn_umgebung& um, const teile& t, const tastenbe
     });
     um_.bahn.Command2.bei_klick = protokoll.befehl("abbruch", [this] {
         if (um_.zustand.fortgesetzt) {
-            fenster_schliessen();  // a result is at stake already: it asks
+            abbrechen_wenn_bejaht();
         } else {
             rennen_abbrechen();
         }
     });
     um_.bahn.Command4.bei_klick = protokoll.befehl("ende", [this] { rennen_beenden(); });
     um_.bahn.Command6.bei_klick = protokoll.befehl("einfahren", [this] { t_.ablauf.einfahrzeit_starten(); });
-    schliessen_ = protokoll.befehl("schliessen", [this] { fenster_schliessen_nach_frage(); });
+    schliessen_ = protokoll.befehl("schliessen", [this] { abbrechen_wenn_bejaht(); });
     taste_ = protokoll.eingang("taste", 2, [this](const mitschrift::werte& w) {
         taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(protokoll_stempel(w[1])));
         t_.zaehlung.zaehler_nachfuehren();
@@ -80,18 +80,26 @@ void rennbefehle::rennen_abbrechen() {
 }
 
 void rennbefehle::fenster_schliessen() {
-    schliessen_();
+    if (um_.zustand.rennen_beendet) {
+        schliessen_();
+    } else {
+        um_.bahn.Command2.bei_klick();  // while the light runs the button is not to be pressed
+    }
 }
 
-void rennbefehle::fenster_schliessen_nach_frage() {
+bool rennbefehle::bejaht() {
+    um_.protokoll.tor([] {});
+    return um_.protokoll.antwort("antwort", [] { return 1; }) == 1;
+}
+
+void rennbefehle::abbrechen_wenn_bejaht() {
     if (um_.zustand.rennen_beendet) {
         if (!um_.fenster.ist_offen(fenstername::auswertung)) {
             rennen_abbrechen();
         }
         return;
     }
-    const bool ja = um_.meldungen.fragen(um_.bahn.wort.ohne_ergebnis, um_.txt.titel[0]);
-    if (ja && !um_.zustand.rennen_beendet) {  // it may have come to its end meanwhile
+    if (bejaht() && !um_.zustand.rennen_beendet) {  // it may have come to its end meanwhile
         rennen_abbrechen();
     }
 }

@@ -40,14 +40,16 @@ public:
     std::string nachthinweis() const;
     /// Stops the race without a result.
     void rennen_abbrechen();
-    /// Closing the window means the same, but a race that runs is not lost to a slip of the hand: it asks first.
+    /// Closing the window means the same, and asks where the command of that name asks.
     void fenster_schliessen();
     /// Ends the race by hand: it gets its result from what it has.
     void rennen_beenden();
 
 private:
     bool darf();
-    void fenster_schliessen_nach_frage();
+    /// In a log somebody may have been asked, and have said no.
+    bool bejaht();
+    void abbrechen_wenn_bejaht();
     bool beendet() const override { return um_.zustand.rennen_beendet; }
     void bildschirm_dunkel() override { t_.ansicht.bildschirm_dunkel(); }
     void chaos_taste() override { t_.pause.taste(); }

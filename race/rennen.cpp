@@ -47,7 +47,11 @@ rennen::rennen(const plattform::dienste& echte, const umfeld& um)
       ausfall(umgebung, {zaehlung, chaos}),
       rundenkorrektur(umgebung, sektoren),
       befehle(umgebung, {ablauf, ende, zaehlung, ansicht, tanken, chaos}, um.belegung),
-      fenster(umgebung, {ablauf, ansicht, befehle}) {
+      abbruchfrage(bahn1.Command2, {echte.uhr, echte.zeitgeber, [this] { return !zustand.rennen_beendet; },
+                                    bahn1.wort.wirklich, bahn1.wort.ohne_ergebnis}),
+      endfrage(bahn1.Command4, {echte.uhr, echte.zeitgeber, [this] { return !zustand.rennen_beendet; },
+                                bahn1.wort.wirklich, bahn1.wort.ohne_rest}),
+      fenster(umgebung, {ablauf, ansicht, befehle, abbruchfrage, endfrage}) {
     protokoll.nebenbei(
         [this] {
             return mitschrift::beiwerk{umgebung.ereignisse.messzeit, tanken.getankt_bis()};

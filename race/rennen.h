@@ -9,6 +9,7 @@
 #include "race/fortsetzung.h"
 #include "race/fruehstartstrafe.h"
 #include "race/rennbefehle.h"
+#include "race/rueckfrage.h"
 #include "race/rundenkorrektur.h"
 #include "race/strafen.h"
 
@@ -32,6 +33,8 @@ public:
         rennablauf& ablauf;
         rennansicht& ansicht;
         rennbefehle& befehle;
+        rueckfrage& abbruch;
+        rueckfrage& ende;
     };
 
     rennfenster(const renn_umgebung& um, const teile& t)
@@ -52,6 +55,8 @@ public:
         bahn_.Nachtabschaltung.text(t_.befehle.nachthinweis());
     }
     void entladen() override {
+        t_.abbruch.zuruecknehmen();
+        t_.ende.zuruecknehmen();
         zumachen_();
         if (fuehrung != nullptr) {
             fuehrung->abschliessen();
@@ -115,6 +120,8 @@ struct rennen final : private rennabschluss {
     tarvel::ausfall ausfall;
     tarvel::rundenkorrektur rundenkorrektur;
     rennbefehle befehle;
+    rueckfrage abbruchfrage;
+    rueckfrage endfrage;
     rennfenster fenster;
 
 private:

@@ -208,7 +208,7 @@ TEST_F(At2560, SperrenEndenNachDemStempelWasImmerStillstand) {
         for (const int spur : {1, 3}) {
             EXPECT_LT(a.t.spur(spur).gezaehlt_bei, beginn + ende - 200) << "in it nothing does, whenever it is told";
         }
-        a.t.bahn().Command2.klicken();
+        a.t.rennabbruch();
     }
 }
 
@@ -225,7 +225,7 @@ TEST_F(At2560, WerVorDemFortsetzenUeberDieLinieGeschobenWirdHatNichtsGefahren) {
     ueberfahrt_nach(1000);
     ueberfahrt_nach(9990);
     a.t.maschine.laufen(20000);
-    a.t.bahn().Command4.klicken();
+    a.t.rennende();
     a.t.p.auswertung.neues_ziel.eingeben("5");
     a.t.p.auswertung.Command3.klicken();
     a.t.p.k_ampel.Command1.klicken();

@@ -101,7 +101,7 @@ TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
     EXPECT_EQ(namen(), vorher);
     EXPECT_TRUE(t.bahn().Command1.aktiviert());
     t.bahn().Command1.klicken();
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command2.klicken();
     EXPECT_EQ(namen()[0], vorher[1]) << "two lanes: the drivers change places";
     EXPECT_EQ(namen()[1], vorher[0]);
@@ -156,7 +156,7 @@ TEST_F(Auswertung, FortgesetztesRundenrennenNimmtAllesMit) {
 TEST_F(Auswertung, FortgesetztStehenDiePlaetzeSofortNachDenRunden) {
     a.spurwechsel.gesetzt(false);
     zwei_spuren_fahren("Zeit", "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     for (const int runde : {3, 2}) {
         t.p.wertung.korrigieren({{.was = korrektur::art::geloescht, .spur = 1, .runde = runde}});
     }
@@ -211,7 +211,7 @@ TEST_F(Auswertung, WasGefahrenIstKannNichtDasZielSein) {
 TEST_F(Auswertung, DauerUeber1499MinutenGehtNicht) {
     t.p.form1.stddauer.eingeben("24");
     t.starten("Zeit", "59", {1});
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(a.neues_ziel.text(), "1499") << "held at the limit";
     a.neues_ziel.eingeben("1499,01");
     a.Command3.klicken();
@@ -228,7 +228,7 @@ TEST_F(Auswertung, RennendeVorDemLichtLaesstAllesWieEsWar) {
     a.Command3.klicken();
     t.maschine.laufen(30000);
     t.p.rennen.befehle.taste('1');
-    t.bahn().Command4.klicken();
+    t.rennende();
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_FALSE(offen(fenstername::k_ampel));
     EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, ende);
@@ -267,7 +267,7 @@ TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
     t.einrichten("Runden", "1", {1});
     t.p.rennen.teil_von.wechseln(t.p.intervalltraining);
     t.bahn().Command1.klicken();
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(a.trainingslabel.text(), "Training wird fortgesetzt in:  3   ");
     EXPECT_FALSE(a.Frame1.sichtbar());
     t.maschine.laufen(2000);
@@ -277,7 +277,7 @@ TEST_F(Auswertung, IntervalltrainingGehtVonSelbstWeiter) {
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet) << "the next round has begun";
     t.p.einst.training_weiter = training_weitergang::fortsetzen;
     t.p.einst.nachtrennen_modus = nachtrennen::rennen;
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.maschine.laufen(3000);
     ASSERT_TRUE(offen(fenstername::k_ampel));
     t.maschine.laufen(499);

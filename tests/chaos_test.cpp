@@ -143,7 +143,7 @@ TEST_F(Chaos, SchalterHaeltDiePauseSolangeErAnIst) {
         t.maschine.laufen(2000);
         t.taste("c");
         EXPECT_FALSE(pause());
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -180,7 +180,7 @@ TEST_F(Chaos, StrafeNachZeitOderStrom) {
         t.maschine.laufen(120);
         EXPECT_TRUE(strom(2));
         EXPECT_FALSE(t.spur(2).fruehstart_sperre);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -296,7 +296,7 @@ TEST_F(Chaos, RennendeInDerTankstrafeGibtDieRundeZurueck) {
     t.spur(1).tank_inhalt = 1;
     t.runde_nach(8000, "1");
     ASSERT_EQ(t.runden(1), 0);
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(t.p.auswertung.runden_aus[0].text(), "1");
     t.maschine.sounds.clear();
     t.maschine.laufen(60000);
@@ -331,7 +331,11 @@ TEST_F(Chaos, AbbruchUndEndeInDerPauseLassenNichtsZurueck) {
         fahren();
         t.taste("c");
         t.maschine.laufen(1000);
-        (ende ? t.bahn().Command4 : t.bahn().Command2).klicken();
+        befehl& knopf = ende ? t.bahn().Command4 : t.bahn().Command2;
+        knopf.klicken();
+        t.maschine.laufen(1500);
+        EXPECT_TRUE(pause());
+        knopf.klicken();
         EXPECT_FALSE(pause());
         EXPECT_FALSE(geraet.ist_an(ausgang::chaosanzeige, 0));
         EXPECT_TRUE(strom(1) && strom(2));
@@ -344,7 +348,7 @@ TEST_F(Chaos, AbbruchUndEndeInDerPauseLassenNichtsZurueck) {
         EXPECT_EQ(t.bahn().Command3.text(), "Chaos / Pause");
         EXPECT_EQ(t.p.rennen.zustand.pause_abzug, 0);
         EXPECT_FALSE(t.bahn().yellowframe[1].sichtbar() || t.bahn().ch_strafframe.sichtbar());
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

@@ -240,7 +240,7 @@ TEST_F(ControlUnitRennen, WaehrendDesStartsAbgezogenBeginntDasRennenDochNoch) {
         t.maschine.laufen(15000);
         EXPECT_TRUE(t.bahn().Command4.bedienbar()) << modus;
         EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << modus;
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

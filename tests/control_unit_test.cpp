@@ -194,7 +194,7 @@ TEST_F(ControlUnitRennen, TankStandUndWarnung) {
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "0,00");
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{t.p.einst.sound_dateien[31]});
     status(false, "70>555");
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     starten(t.p.txt.text_runden, "10", {1, 2});
     status(false, "70>555");
     ueberfahrt(1, 1000);
@@ -261,7 +261,7 @@ TEST_F(ControlUnitRennen, RennfensterRichtetEinUndOhnePortBleibtDieTastatur) {
     EXPECT_EQ(geschrieben("J2:1518$"), 1);
     t.maschine.laufen(1000);
     const int im_rennen = geschrieben("?");
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_EQ(geschrieben("=101$"), 2) << "its displays are cleared behind the race";
     t.maschine.laufen(1000);
     EXPECT_LT(geschrieben("?") - im_rennen, im_rennen / 10) << "and it is asked but now and then";

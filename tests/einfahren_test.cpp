@@ -239,7 +239,7 @@ TEST_F(Einfahren, FreieSpurFaehrtNichtMitEin) {
         EXPECT_TRUE(f.labelende.sichtbar());
         f.Command5.klicken();
         t.bahn().Command1.klicken();
-        t.bahn().Command4.klicken();
+        t.rennende();
         t.p.auswertung.Command5.klicken();
     }
     EXPECT_EQ(mit_freiem, 1);

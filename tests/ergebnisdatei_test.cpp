@@ -45,7 +45,7 @@ TEST_F(Ergebnisdatei, EineSpurZweiRunden) {
     t.runde_nach(2172, "1");
     t.runde_nach(8123, "1");
     t.runde_nach(8119, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command6.klicken();
     a.meter[0].eingeben("2,4");
     a.Command6.klicken();
@@ -78,7 +78,7 @@ TEST_F(Ergebnisdatei, MehrereSpurenStehenNebeneinander) {
     t.runde_nach(6000, "1");
     t.spur(3).disqualifiziert = true;
     t.spur(1).strafzeit = 7s;
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command5.klicken();
     const auto zeilen = gespeichert();
     ASSERT_EQ(zeilen.size(), 7U + 3 + 9 + 1 + 3 + 4);
@@ -98,7 +98,7 @@ TEST_F(Ergebnisdatei, MehrereSpurenStehenNebeneinander) {
 TEST_F(Ergebnisdatei, UnterEigenemNamenUndNieUngefragtUeberEinAltes) {
     t.p.einst.aut_speichern = false;
     t.starten("Zeit", "1", {1});
-    t.bahn().Command4.klicken();
+    t.rennende();
     speichernfenster& f = t.p.rundenspeichern;
     const auto speichern = [&](const char* name) {
         a.Command4.klicken();
@@ -125,7 +125,7 @@ TEST_F(Ergebnisdatei, UnterEigenemNamenUndNieUngefragtUeberEinAltes) {
 TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
     const auto fahren = [&] {
         t.starten("Zeit", "1", {1});
-        t.bahn().Command4.klicken();
+        t.rennende();
     };
     for (int rennen = 0; rennen < 2; ++rennen) {
         fahren();
@@ -136,7 +136,7 @@ TEST_F(Ergebnisdatei, ZweiErgebnisseInZehnSekundenUndEinVollerOrdner) {
     fs::remove_all(t.maschine.ordner() / "Ergebnisse");
     t.maschine.datei_schreiben("Ergebnisse", "a file where the folder should be");
     t.starten("Zeit", "1", {2});
-    t.bahn().Command4.klicken();
+    t.rennende();
     const std::string fehler = "Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.";
     for (befehl* weg : {&a.Command1, &a.Command2, &a.Command3, &a.Command5}) {
         t.maschine.meldungen_gezeigt.clear();
@@ -156,7 +156,7 @@ TEST_F(Ergebnisdatei, WasVonHandGesichertIstGehtNichtVerloren) {
     t.starten("Zeit", "1", {1});
     t.runde_nach(1000, "1");
     t.runde_nach(6000, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     const auto von_hand = [&](const char* name) {
         a.Command4.klicken();
         t.p.rundenspeichern.name.eingeben(name);
@@ -178,7 +178,7 @@ TEST_F(Ergebnisdatei, DasLaengsteRennenWirdWiedererkannt) {
     t.starten("Zeit", "1", {1, 4});
     t.runde_nach(1000, "14");
     t.runden_auffuellen(4, 9999);
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command5.klicken();
     const auto zeilen = ergebnis_zeilen_lesen(t.p.ablage, automatisch);
     const auto gelesen = einzelrennen_lesen(zeilen);
@@ -196,7 +196,7 @@ TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
         t.starten("Zeit", "1", {1, 2});
         t.runde_nach(1000, "12");
         t.runde_nach(6000, "1");
-        t.bahn().Command4.klicken();
+        t.rennende();
         a.Command5.klicken();
     }
     const std::string erste = "0;Anna 5 99; 1;25.00;00:06,000;00:06,000";
@@ -205,7 +205,7 @@ TEST_F(Ergebnisdatei, TagesrennenHaengtAnUndSpeichertSonstNichts) {
     EXPECT_FALSE(t.maschine.datei_da(automatisch));
     t.maschine.datei_schreiben(datei, "fremd\r\n");
     t.starten("Zeit", "1", {1});
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command5.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Fehler beim Schreiben in Tages-Datei.");
     EXPECT_EQ(t.maschine.datei_lesen(datei), "fremd\r\n");

@@ -43,7 +43,7 @@ TEST_F(Form1, RenndauerInMinutenUndSekunden) {
         EXPECT_EQ(f.renndauer.text(), danach) << eingabe;
         EXPECT_EQ(t.p.param.renndauer_ms, dauer) << eingabe;
         EXPECT_EQ(t.p.param.renn_ziel, rennziel::zeit(dauer)) << eingabe;
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     };
     pruefen("5,3", "5,30", 330000);
     pruefen("5.05", "5,05", 305000);
@@ -97,7 +97,7 @@ TEST_F(Form1, WasNichtSeinKannWirdGesagtOderGefragt) {
                           "Zeichen, die in keiner Datei stehen können, sind ersetzt:\nŁucja – ?ucja",
                           "Hinweis"}}));
     EXPECT_EQ(t.p.param.fahrer_name[3], "?ucja");
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     t.einrichten("Zeit", "fünf", {1});
     EXPECT_EQ(f.renndauer.text(), "fünf") << "to be mended";
     f.Command5.klicken();
@@ -123,7 +123,7 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
     t.einrichten("Zeit", "5", {1, 5, 6});
     EXPECT_EQ(t.p.param.spuren_anzahl, 1);
     EXPECT_FALSE(f.fahrer[4].aktiviert());
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     t.maschine.bildschirm_groesse = {1280, 720};
     t.einrichten("Zeit", "5", {1, 5, 6});
     EXPECT_EQ(t.p.param.spuren_anzahl, 3);
@@ -135,7 +135,7 @@ TEST_F(Form1, NiedrigerBildschirmSperrtSpurFuenfUndSechsUndZeigtKeinBild) {
 TEST_F(Form1, SpurenDreiUndVierSindZuSolangeIhreSensorenVerliehenSind) {
     t.einrichten("Zeit", "5", {1, 3});
     for (const bool verliehen : {true, false}) {
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
         t.p.einst.rc.rc_tank_sensor34 = verliehen;
         f.leihspuren_sperren();
         EXPECT_NE(f.spur[2].aktiviert() && f.lspur[2].aktiviert(), verliehen);

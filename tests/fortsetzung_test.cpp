@@ -37,13 +37,13 @@ TEST_F(Fortsetzung, UhrZielUndKopfZeigenDieNeueDauer) {
     t.starten("Zeit", "1", {1});
     t.runde_nach(1000, "1");
     t.maschine.laufen(22456);
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.neues_ziel.eingeben("120");
     a.Command3.klicken();
     EXPECT_EQ(t.bahn().uhr1.stunden.text() + ":" + t.bahn().uhr1.minuten.text(), "01:59");
     EXPECT_TRUE(t.bahn().uhr1.stunden.sichtbar());
     EXPECT_EQ(t.bahn().ziel_label.text(), "2 h 0:00 min");
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(a.neues_ziel.text(), "2") << "nothing was driven of it";
     EXPECT_NE(a.kopf_label.text().find("1:00 min"), std::string::npos) << a.kopf_label.text();
     a.neues_ziel.eingeben("2");
@@ -59,7 +59,7 @@ TEST_F(Fortsetzung, WerAmStartDisqualifiziertWurdeBleibtEs) {
     t.spur(2).disqualifiziert = true;  // before it has crossed the line
     t.bahn().zaehler[2].text("Dis.");
     t.runde_nach(1000, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.neues_ziel.eingeben("5");
     a.Command3.klicken();
     EXPECT_EQ(t.bahn().zaehler[1].text() + t.bahn().zaehler[2].text(), "Dis.0") << "changed lanes";
@@ -102,7 +102,7 @@ TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet)
     t.bahn().Command3.klicken();
     t.runde_nach(500, "1");
     t.maschine.laufen(10000);
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(t.ergebnis(1).rundenzahl(), 1);
     EXPECT_NEAR(static_cast<double>(t.ergebnis(1).gesamtzeit), 4500, 2);
     EXPECT_EQ(t.ergebnis(2).rundenzahl(), 0);
@@ -124,7 +124,7 @@ TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     gruen();
     t.runde_nach(500, "1");  // the rest of a lap that began on lane 2
     t.runde_nach(1500, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(t.ergebnis(1).rundenzahl(), 2);
     a.liste[1].auswaehlen(0);
     a.Command8.klicken();
@@ -136,11 +136,11 @@ TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
 
 TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
     t.starten("Runden", "2", {1});
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command3.klicken();
     t.bahn().Command2.klicken();
     EXPECT_TRUE(offen(fenstername::bahn1)) << "the result so far is at stake";
-    t.maschine.antwort = true;
+    t.maschine.laufen(500);
     t.bahn().Command2.klicken();
     EXPECT_TRUE(offen(fenstername::Form1));
     EXPECT_FALSE(offen(fenstername::k_ampel));
@@ -152,7 +152,7 @@ TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
     t.einrichten("Runden", "1", {1});
     t.p.rennen.teil_von.wechseln(t.p.intervalltraining);
     t.bahn().Command1.klicken();
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.neues_ziel.eingeben("0");
     t.maschine.laufen(3000);
     ASSERT_TRUE(offen(fenstername::auswertung)) << "that is no target";
@@ -205,7 +205,7 @@ protected:
             if (eins_von(zustand.chaos_aktiv ? 3000 : 9000)) {
                 t.bahn().Command3.klicken();
             } else if (eins_von(40000)) {
-                t.bahn().Command4.klicken();
+                t.rennende();
             }
         }
         ASSERT_TRUE(offen(fenstername::auswertung));
@@ -279,7 +279,7 @@ TEST_F(FortsetzungModell, RundenBleibenWieSieGefahrenWurden) {
             runde_loeschen();
             fortsetzen();
             if (eins_von(4)) {  // not yet after all
-                t.bahn().Command4.klicken();
+                t.rennende();
                 vergleichen();
                 fortsetzen();
             }

@@ -36,7 +36,7 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     t.p.einst.fruehstart_strafzeit = 5s;
     beginnen(1);
     t.maschine.laufen(gruen_nach + 3000);
-    t.bahn().Command2.klicken();  // in the middle of the penalty: the next one takes its full time all the same
+    t.rennabbruch();  // in the middle of the penalty: the next one takes its full time all the same
     beginnen(1);
     t.maschine.laufen(4000);
     t.p.startampel.taste('3');
@@ -90,7 +90,7 @@ TEST_F(Fruehstart, OhneStromausfallIstDieSperreImErstenRennenSoKurzWieSpaeter) {
             const int bei_gruen = t.runden(2);
             t.runde_nach(t.p.param.min_rundenzeit_ms + 110, "2");
             EXPECT_EQ(t.runden(2), bei_gruen + 1);
-            t.bahn().Command2.klicken();
+            t.rennabbruch();
         }
     }
 }
@@ -118,7 +118,7 @@ TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
         t.runde_nach(6000, "12");
         EXPECT_EQ(t.runden(1), 1);
         EXPECT_EQ(t.runden(2), option == 2 ? -1 : runden_bei_gruen + 1);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -147,7 +147,7 @@ TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
         EXPECT_EQ(rote_am_geraet(), 0) << "the light begins from its first lamp";
         t.maschine.laufen(13000);
         EXPECT_TRUE(rennen_laeuft());
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -181,7 +181,7 @@ TEST_F(Fruehstart, FlankeImGruenenAugenblickIstNochEinFruehstart) {
         EXPECT_EQ(t.runden(1), -1);
         EXPECT_EQ(t.p.startampel.laeuft(), option == 1);
         t.p.startampel.fenster.abbrampel.klicken();
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

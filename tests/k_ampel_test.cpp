@@ -55,7 +55,7 @@ TEST_F(KleineAmpel, BeendetDiePauseErstBeiGruen) {
         EXPECT_EQ(t.p.rennen.zustand.pause_abzug, t.p.rennen.zustand.pause.dauer);
         EXPECT_TRUE(strom(1) && geraet.ist_an(ausgang::ampel_gruen, 0));
         EXPECT_FALSE(strom(2)) << "a lane in a penalty stays without power";
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -64,7 +64,7 @@ TEST_F(KleineAmpel, KnopfBeginntUndAbbruchHaeltDieKetteAn) {
     t.maschine.laufen(5000);
     t.p.k_ampel.Command1.klicken();
     t.maschine.laufen(2000);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::k_ampel));
     geraet.befehle.clear();
     t.maschine.laufen(20000);

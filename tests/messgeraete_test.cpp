@@ -164,7 +164,7 @@ TEST_F(Wiedereingesteckt, InDerPauseZurueckMisstEsWeiterAlsWaereNichtsGewesen) {
         EXPECT_EQ(konto.rundenzeit(1, 1), 8000);
         EXPECT_EQ(konto.rundenzeit(1, 2), (erst_in_der_pause ? 0 : 2000) + 3000 + 4000);
         EXPECT_EQ(konto.rundenzeit(1, 3), 8000);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

@@ -57,7 +57,7 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv || t.bahn().Command_protokoll.sichtbar());
     t.maschine.laufen(100);
     EXPECT_FALSE(offen(fenstername::protokoll));
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command_protokoll.klicken();
     ASSERT_TRUE(offen(fenstername::protokoll));
     EXPECT_FALSE(fenster().Command_weiter.sichtbar());
@@ -66,7 +66,7 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
 
 TEST_F(Protokollfenster, SpurUndArtWaehlenUndDieWahlBleibt) {
     fahren();
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command_protokoll.klicken();
     nur({f::runden, f::abgelehnt});
     EXPECT_EQ(zeilen().size(), 4U);
@@ -84,7 +84,7 @@ TEST_F(Protokollfenster, SpurUndArtWaehlenUndDieWahlBleibt) {
 TEST_F(Protokollfenster, AusschnittBleibtImRennenUndZeigtDieWahl) {
     fahren();
     t.maschine.laufen(60000);
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command_protokoll.klicken();
     const f::zeitraum alles = fenster().ganzes();
     EXPECT_EQ(fenster().ausschnitt(), alles);
@@ -112,7 +112,7 @@ TEST_F(Protokollfenster, WaehltUnterAllenProtokollenAuchBeschaedigten) {
     EXPECT_EQ(fenster().Label_hinweis.text(), "Es gibt noch kein Protokoll.");
     t.p.fenster.entladen(fenstername::protokoll);
     fahren();
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command5.klicken();
     const auto schreiben = [&](const std::string& name, const std::string& inhalt) {
         std::ofstream(t.p.ablage.pfad(std::string(protokoll_ordner) + "\\" + name), std::ios::binary) << inhalt;

@@ -9,7 +9,7 @@ namespace {
 class Rennansicht : public test::ProgrammProbe {
 protected:
     void oeffnen(std::initializer_list<int> lanes) {
-        t.bahn().Command2.klicken();  // a window that is open stays as it is
+        t.rennabbruch();  // a window that is open stays as it is
         t.einrichten("Zeit", "5", lanes);
     }
     const ansicht_inhalt& inhalt() { return t.bahn().ansicht.inhalt(); }
@@ -107,11 +107,11 @@ TEST_F(Rennansicht, AmpelBlinktVorDemRennen) {
     geraet.befehle.clear();
     t.maschine.laufen(5000);
     EXPECT_TRUE(geraet.befehle.empty());
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
 
     t.einrichten("Zeit", "5", {1, 2});
     t.maschine.laufen(500);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_FALSE(geraet.ist_an(ausgang::ampel_gruen, 0)) << "the window has left the light dark";
     geraet.befehle.clear();
     t.maschine.laufen(5000);

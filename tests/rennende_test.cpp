@@ -70,7 +70,7 @@ TEST_F(Rennende, ZweiteRennenImSelbenProgrammBeginnenGanzVonVorn) {
         EXPECT_EQ(t.spur(2).strafzeit, 0s);
         EXPECT_EQ(t.spur(2).pause_abzug, 0);
         EXPECT_EQ(t.p.rennen.zustand.konto.beste(1), 0);
-        t.bahn().Command4.klicken();
+        t.rennende();
         t.p.auswertung.Command5.klicken();
     }
 }
@@ -214,19 +214,67 @@ TEST_F(Rennende, VonHandBeendetGibtGenauEinErgebnis) {
     t.starten("Zeit", "5", {1});
     t.maschine.laufen(1000);
     t.maschine.sounds.clear();
-    t.bahn().Command4.klicken();
-    t.bahn().Command4.klicken();
+    t.rennende();
+    t.rennende();
     EXPECT_TRUE(beendet());
     EXPECT_TRUE(t.p.rennen.zustand.rennabbruch);
     t.maschine.laufen(400000);
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{"sound\\re.wav"});
 }
 
+TEST_F(Rennende, ErstDerZweiteDruckBeendetUndStempelt) {
+    t.starten("Zeit", "5", {1});
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(5000);
+    befehl& ende = t.bahn().Command4;
+    ende.klicken();
+    EXPECT_EQ(ende.text(), "Wirklich? 3");
+    t.maschine.laufen(399);
+    ende.klicken();
+    EXPECT_FALSE(beendet()) << "the second half of a double click";
+    t.runde_nach(1000, "1");
+    EXPECT_EQ(t.runden(1), 1) << "no crossing waits for the answer";
+    EXPECT_EQ(ende.text(), "Wirklich? 2");
+    t.maschine.laufen(1601);
+    EXPECT_EQ(ende.text(), "Rennende") << "nobody has meant it";
+    ende.klicken();
+    EXPECT_FALSE(beendet());
+    t.maschine.laufen(2999);
+    ende.klicken();
+    EXPECT_TRUE(beendet());
+    EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, t.p.rennen.zeit.messzeit_lesen());
+    EXPECT_EQ(ende.text(), "Rennende");
+    EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
+}
+
+TEST_F(Rennende, WasNichtsKostetFragtNichtUndSchliessenFragtWieDerAbbruch) {
+    t.einrichten("Zeit", "5", {1});
+    t.bahn().Command2.klicken();
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1)) << "before the start";
+    t.starten("Zeit", "5", {1});
+    t.p.rennen.befehle.fenster_schliessen();
+    EXPECT_EQ(t.bahn().Command2.text(), "Wirklich? 3");
+    t.maschine.laufen(500);
+    t.p.rennen.befehle.fenster_schliessen();
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(t.maschine.fragen_gestellt.empty());
+    t.starten("Runden", "1", {1});
+    EXPECT_EQ(t.bahn().Command2.text(), "Rennabbruch");
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(5500);
+    t.bahn().Command2.klicken();
+    t.runde_nach(900, "1");
+    EXPECT_TRUE(beendet());
+    EXPECT_EQ(t.bahn().Command2.text(), "Wirklich? 3");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(t.bahn().Command2.text(), "Rennabbruch");
+}
+
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
     t.maschine.laufen(61000);  // in the run-on
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form1));
     EXPECT_EQ(geraet.befehle.back(), (schaltung{ausgang::bahnstrom, 0, true}));

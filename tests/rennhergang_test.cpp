@@ -99,7 +99,7 @@ TEST_F(Rennhergang, VerworfeneUeberfahrtenStehenEinmalDa) {
     t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[2], t.maschine.jetzt() - 2000);  // told late
     t.p.ereignisse.ereignis_melden(art::rundenzaehlung[2], t.p.rennen.zustand.start_zeit - 500);
     t.runde_nach(3000, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     const rennhergang h = hergang_lesen(datei());
     const auto gruende = [&](int spur) {
         std::vector<ablehnung> alle;

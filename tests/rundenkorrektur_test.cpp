@@ -190,7 +190,7 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
     t.runde_nach(1500, "12");
     t.runde_nach(3000, "2");
     t.runde_nach(1000, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     EXPECT_EQ(t.ergebnis(2).platz, 1);
     const rennergebnis gefahren = a.ergebnis();
     a.liste[0].auswaehlen(1);
@@ -256,7 +256,7 @@ TEST_F(KorrekturImFenster, FortgesetztGiltDasKorrigierte) {
                 t.runde_nach(1500, "12");
                 t.runde_nach(1200, "3");
             }
-            t.bahn().Command4.klicken();
+            t.rennende();
             ASSERT_TRUE(offen(fenstername::auswertung));
             for (int mal = 0; mal < 6; ++mal) {
                 const std::size_t i = zufall() % 3;

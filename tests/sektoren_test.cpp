@@ -36,7 +36,7 @@ TEST_F(Sektoren, SektorenErgebenDieRundeAuchOhneDenDritten) {
     t.runde_nach(3000, "1");
     EXPECT_EQ(zeit(2, 2), 4000);
     EXPECT_EQ(zeit(3, 2), 0);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     fahren();
     EXPECT_EQ(zeit(1), 0) << "nothing is left of the race before";
 }

@@ -14,7 +14,7 @@ protected:
 
     Tagesrennen() {
         t.einrichten("Zeit", "1", {1, 2});
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
         fahrer_eintragen("Anna", "Ben");
         t.maschine.meldungen_gezeigt.clear();
     }
@@ -38,7 +38,7 @@ protected:
         t.bahn().Command1.klicken();
         t.runde_nach(1000, "12");
         t.runde_nach(6000, "1");
-        t.bahn().Command4.klicken();
+        t.rennende();
         t.p.auswertung.Command5.klicken();
         EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
     }
@@ -116,7 +116,7 @@ TEST_F(Tagesrennen, KlasseFolgtDemFahrerAufDieAndereSpur) {
     f.Command18.klicken();
     t.bahn().Command1.klicken();
     t.runde_nach(1000, "12");
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command2.klicken();  // anew, on each other's lanes: nothing is added
     EXPECT_EQ(inhalt(samstag).size(), 1U);
     rennen_fahren();

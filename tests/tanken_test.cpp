@@ -38,7 +38,7 @@ TEST_F(Tanken, ErsteUeberfahrtVerbrauchtAuchUndAnzeigenFolgen) {
     EXPECT_DOUBLE_EQ(t.spur(1).tank_inhalt, 60 - verbrauch(7998, 7, 8s));
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "52,00") << "7 litres, and 0.998 of scatter";
     EXPECT_NEAR(t.bahn().tankbalken[0].hoehe(), t.bahn().tank_balkenhoehe * 52.0 / 60, 0.01);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     t.p.einst.tank_inhalt = 100;
     t.starten("Zeit", "5", {1});
     EXPECT_EQ(t.bahn().t_bahn[1].text(), "100");
@@ -78,7 +78,7 @@ TEST_F(Tanken, LeererTankHatVierFolgen) {
         EXPECT_EQ(t.bahn().tankbalken[0].hoehe(), 0);
         EXPECT_TRUE(gespielt("tl1.wav"));
         EXPECT_EQ(gespielt("ds1.wav") > 0, dis);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -205,7 +205,7 @@ TEST_F(Tanken, TanksensorZaehltRunden) {
         t.maschine.laufen(6000);
         t.taste("a");
         EXPECT_EQ(t.runden(1), 1);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

@@ -25,7 +25,7 @@ TEST_F(Tastatur, PersoenlicherChaosknopfWirktNurAlsChaostaste) {
         EXPECT_TRUE(t.p.ereignisse.chaos_fahrer[3] && t.p.rennen.zustand.chaos_aktiv) << knopf;
         EXPECT_FALSE(t.bahn().Nachtabschaltung.sichtbar()) << knopf;
         EXPECT_EQ(t.runden(1), -1) << knopf;
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 
@@ -37,7 +37,7 @@ TEST_F(Tastatur, NachtbildschirmNurImRennen) {
         EXPECT_EQ(nacht.sichtbar(), dunkel);
         t.taste("n");
     }
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_FALSE(nacht.sichtbar()) << "it goes with its window";
     t.taste("n");
     EXPECT_FALSE(nacht.sichtbar());
@@ -70,7 +70,7 @@ TEST_F(Tastatur, JedeTasteInJedemZustandIstUngefaehrlich) {
     alle_tasten();
     t.maschine.laufen(30000);
     alle_tasten();  // the chaos key among them: a pause, or its end
-    t.bahn().Command4.klicken();
+    t.rennende();
     ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     alle_tasten();
     t.p.auswertung.Command5.klicken();

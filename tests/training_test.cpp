@@ -16,7 +16,7 @@ protected:
     /// The fields as typed; the race window is closed again, and its set-up left to the training.
     void aufstellen(const char* rennart, const char* dauer, const std::vector<int>& lanes) {
         t.einrichten(rennart, "3", lanes);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
         ASSERT_TRUE(offen(fenstername::Form1));
         t.p.form1.renndauer.eingeben(dauer);
     }
@@ -63,7 +63,7 @@ TEST_F(Training, NormalFaehrtWasEingestelltIst) {
     EXPECT_EQ(t.p.form1.renndauer.text(), "1,30");
     t.bahn().Command1.klicken();
     t.maschine.laufen(91000);
-    t.bahn().Command4.klicken();
+    t.rennende();
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(t.p.auswertung.Frame1.text(), "Rennen");
     EXPECT_FALSE(t.p.auswertung.trainingslabel.sichtbar());
@@ -86,7 +86,7 @@ TEST_F(Training, DauertrainingHatKeinEndeUndLaesstDieEingabenWieSieSind) {
         EXPECT_EQ(t.p.form1.renndauer.text(), dauer);
         EXPECT_EQ(t.bahn().ziel_label.text(), "ohne Ende");
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
     begonnen(trainingsart::dauer);
     t.bahn().Command1.klicken();
@@ -94,14 +94,14 @@ TEST_F(Training, DauertrainingHatKeinEndeUndLaesstDieEingabenWieSieSind) {
     t.runden_auffuellen(1, 9000);
     t.maschine.laufen(600000);
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
-    t.bahn().Command4.klicken();
+    t.rennende();
     ASSERT_TRUE(offen(fenstername::auswertung));
     t.p.auswertung.Command3.klicken();
     EXPECT_EQ(letzte_meldung(), "Rennmaximum erreicht. Fortsetzung nicht möglich.");
     ASSERT_TRUE(offen(fenstername::auswertung));
     t.p.auswertung.Command1.klicken();  // once more, again without an end
     EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(10000));
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     aufstellen("Runden", "3", {});
     t.p.form1.Command11.klicken();
     EXPECT_FALSE(offen(fenstername::bahn1));
@@ -160,7 +160,7 @@ TEST_F(Training, IntervallAmRennmaximumGibtDieAuswertungFrei) {
     runde(1500);
     t.runden_auffuellen(1, 9998);
     runde(6000);
-    t.bahn().Command4.klicken();
+    t.rennende();
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_FALSE(t.p.auswertung.Frame1.sichtbar());
     t.maschine.laufen(60000);

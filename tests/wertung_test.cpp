@@ -93,7 +93,7 @@ TEST(Wertung, RennenDieVonHandGerechnetSind) {
         if (r.ausgeschieden != 0) {
             t.spur(r.ausgeschieden).disqualifiziert = true;
         }
-        t.bahn().Command4.klicken();
+        t.rennende();
         int platz = 0;
         for (const platz_von_hand& p : r.stand) {
             SCOPED_TRACE(p.spur);
@@ -137,7 +137,7 @@ TEST_F(WertungKorrektur, GeloeschteRundeGehtInDieDavorUndOrdnetNeu) {
     t.runde_nach(2000, "1");
     t.runde_nach(2000, "2");
     t.runde_nach(1500, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command8.klicken();
     EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Bitte zu löschende Runde auswählen.");
     EXPECT_EQ(t.ergebnis(1).platz, 1);
@@ -168,7 +168,7 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     t.runde_nach(1000, "123");
     t.runde_nach(3000, "12");
     t.spur(3).disqualifiziert = true;
-    t.bahn().Command4.klicken();
+    t.rennende();
     a.Command6.klicken();
     EXPECT_EQ(a.Command6.text(), "fertig");
     EXPECT_FALSE(a.Command5.aktiviert());
@@ -211,7 +211,7 @@ TEST_F(WertungKorrektur, AnzeigeDerSektoren) {
     t.maschine.laufen(1999);
     t.p.ereignisse.ereignis_melden(42);
     t.runde_nach(5001, "1");
-    t.bahn().Command4.klicken();
+    t.rennende();
     const char* const zeit = "1.  00:07,000";
     for (const char* dahinter : {"    T1: 02,000", "    S1: 18,00 km/h", "    T1: 02,000    S1: 18,00 km/h", ""}) {
         a.cmd_anzeige[0].klicken();

@@ -24,7 +24,7 @@ protected:
 
     void einrichten(const std::vector<int>& spuren, std::string_view dauer = "5") {
         t.einrichten("Zeit", dauer, spuren);
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
         t.p.form1.Command3.klicken();
         t.maschine.meldungen_gezeigt.clear();
         w.optionen_geschlossen();

@@ -81,7 +81,7 @@ TEST_F(Wettkampfabend, EineRundeVonDerVorigenSpurIstNichtDieBesteDerNeuen) {
         t.maschine.laufen(3000);
     };
     ueberfahrten({5400, 7900, 6900});
-    t.bahn().Command4.klicken();  // while all are on their way
+    t.rennende();  // while all are on their way
     t.p.auswertung.Command5.klicken();
     gruen();
     ueberfahrten({3500, 8900, 8400});
@@ -141,7 +141,7 @@ TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
     ASSERT_TRUE(offen(fenstername::bahn1));
     t.bahn().Command1.klicken();
     t.maschine.laufen(1000);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     EXPECT_FALSE(offen(fenstername::bahn1));
     EXPECT_TRUE(abend.stand().gefahren.empty());
     rennen_fahren();
@@ -154,7 +154,7 @@ TEST_F(Wettkampfabend, EinVorzeitigBeendeterTeilMachtDenNaechstenNichtLaenger) {
     ASSERT_TRUE(abend.rennen_starten());
     t.bahn().Command1.klicken();
     runden_fahren(1);
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command5.klicken();
     EXPECT_EQ(t.p.param.renn_ziel, rennziel::runden(1 + 3));
 }
@@ -193,7 +193,7 @@ TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
     runden_fahren(3);
     t.p.auswertung.Command5.klicken();
     ASSERT_TRUE(offen(fenstername::k_ampel));
-    t.bahn().Command4.klicken();  // ended before it has gone on: the earlier result again
+    t.rennende();  // ended before it has gone on: the earlier result again
     t.maschine.laufen(100);
     ASSERT_TRUE(offen(fenstername::auswertung));
     t.p.auswertung.Command5.klicken();

@@ -42,7 +42,7 @@ TEST_F(Wettkampfautomatik, AbbruchHaeltDenAblaufAnUndEineEingabeIhnAuf) {
     ASSERT_TRUE(abend.rennen_starten());
     t.bahn().Command1.klicken();
     t.maschine.laufen(10000);
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
     t.maschine.laufen(600000);
     EXPECT_FALSE(offen(fenstername::bahn1));
     EXPECT_TRUE(abend.unterbrochen());
@@ -125,7 +125,7 @@ TEST_F(Wettkampfautomatik, NeueBestzeitenHaltenDenAblaufNichtAuf) {
         t.maschine.laufen(6000);
         EXPECT_TRUE(offen(fenstername::bahn1));
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
-        t.bahn().Command2.klicken();
+        t.rennabbruch();
     }
 }
 

@@ -65,7 +65,7 @@ TEST_F(Wiederaufnahme, NachEinemAusfallGehtDasRennenWeiterAlsWaereErEinePause) {
         danach.maschine.laufen(1);
         EXPECT_EQ(konto.rundenzeit(1, runde + 1), 5000);
     }
-    danach.p.rennen.bahn1.Command4.klicken();
+    danach.p.rennen.endfrage.bestaetigen();
     EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(konto.runden(1), 10);
     EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
@@ -93,10 +93,9 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     t_.starten("Zeit", "10", {1});
     t_.runde_nach(5000, "1");
     t_.runde_nach(5000, "1");
-    t_.maschine.antwort = true;
-    t_.maschine.waehrend_frage = [this] { t_.runde_nach(5000, "1"); };
     t_.p.rennen.befehle.fenster_schliessen();
-    t_.maschine.waehrend_frage = {};
+    t_.runde_nach(2500, "1");
+    t_.p.rennen.befehle.fenster_schliessen();
     ASSERT_FALSE(t_.p.fenster.ist_offen(fenstername::bahn1));
 
     t_.maschine.laufen(60000);
@@ -104,13 +103,13 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     t_.p.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1)) << testing::PrintToString(t_.maschine.meldungen_gezeigt);
     EXPECT_TRUE(t_.p.rennen.zustand.chaos_aktiv);
-    EXPECT_EQ(t_.runden(1), 2) << "the lap while the question stood was driven";
+    EXPECT_EQ(t_.runden(1), 2) << "the lap while it asked was driven";
     t_.p.k_ampel.Command1.klicken();
     t_.maschine.laufen(7000);
     EXPECT_FALSE(t_.p.rennen.zustand.chaos_aktiv);
     t_.runde_nach(4000, "1");
     EXPECT_EQ(t_.p.rennen.zustand.konto.rundenzeit(1, 3), 4000);
-    t_.bahn().Command4.klicken();
+    t_.rennende();
     EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
 }
 

@@ -45,6 +45,8 @@ public:
         }
         if (laeuft()) {  // who never refuels may lose every lap that he drives
             t_.bahn().Command4.klicken();
+            t_.maschine.laufen(400 + unter(2500));
+            t_.bahn().Command4.klicken();
         }
         EXPECT_TRUE(t_.p.fenster.ist_offen(fenstername::auswertung));
         EXPECT_FALSE(zustand().chaos_aktiv);
@@ -142,7 +144,7 @@ private:
                 }
             }
         }
-        danach.p.rennen.bahn1.Command4.klicken();
+        danach.p.rennen.endfrage.bestaetigen();
         EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
         EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
     }

@@ -56,13 +56,13 @@ std::string volles_protokoll() {
     t.bahn().Command3.klicken();
     t.maschine.laufen(9000);
     t.runde_nach(2100, "31");
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.neues_ziel.eingeben("2");
     t.p.auswertung.Command3.klicken();
     t.p.k_ampel.Command1.klicken();
     t.maschine.laufen(9000);
     t.runde_nach(2500, "123");
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command5.klicken();
     std::string name = t.p.rennprotokoll.dateiname();
     std::replace(name.begin(), name.end(), '\\', '/');

@@ -35,6 +35,18 @@ void testprogramm::starten(std::string_view rennart, std::string_view dauer, con
     bahn().Command1.klicken();
 }
 
+void testprogramm::rennende() {
+    if (bahn().Command4.bedienbar()) {
+        p.rennen.endfrage.bestaetigen();
+    }
+}
+
+void testprogramm::rennabbruch() {
+    if (bahn().Command2.bedienbar()) {
+        p.rennen.abbruchfrage.bestaetigen();
+    }
+}
+
 void testprogramm::taste(std::string_view zeichen) {
     p.rennen.befehle.taste(ansi_code(zeichen).value_or(0));
     maschine.laufen(1);

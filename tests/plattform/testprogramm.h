@@ -21,6 +21,9 @@ struct testprogramm {
     void einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes);
     /// As above, and presses start.
     void starten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes);
+    /// The race ends by hand, or is stopped, as if the button had been pressed and pressed again.
+    void rennende();
+    void rennabbruch();
     /// A key press in the race window, and the tick that takes it.
     void taste(std::string_view zeichen);
     /// Time passes, then the cars of these lanes cross the line one after the other in one tick.

@@ -33,7 +33,7 @@ protected:
 
 TEST_F(ProtokollImFenster, LeisteUndTabelleZeigenDieselbeWahl) {
     fahren();
-    t.bahn().Command4.klicken();
+    t.rennende();
     t.p.auswertung.Command_protokoll.klicken();
     setzen_lassen();
     auto* tabelle = finde<QTableView>(fenster(), "protokoll.tabelle");
@@ -75,7 +75,7 @@ TEST_F(ProtokollImFenster, DieTastenDesRennensGeltenInDerPauseWeiter) {
 
 TEST_F(ProtokollImFenster, EineStundeIstSofortDa) {
     fahren();
-    t.bahn().Command4.klicken();
+    t.rennende();
     const std::string name = t.p.rennprotokoll.dateiname().substr(protokoll_ordner.size() + 1);
     const std::string kopf = *protokoll_lesen(t.p.ablage, name);
     protokollschreiber s;

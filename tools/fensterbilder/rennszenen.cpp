@@ -149,7 +149,7 @@ void bewegtes_rennen(buehne& b) {
 
 QWidget& protokoll(buehne& b) {
     bewegtes_rennen(b);
-    b.t.bahn().Command4.klicken();
+    b.t.rennende();
     b.p.auswertung.Command_protokoll.klicken();
     const auto& zeilen = b.p.protokollfenster.zeilen();
     for (std::size_t i = zeilen.size(); i-- > 0;) {
