@@ -200,6 +200,8 @@ void auswertung::spur_anzeigen(const rennergebnis::spur& s) {
     zeit_aus[i].text(text::zeit(s, trennzeichen));
     abstandlabel[i].text(text::abstand(ergebnis(), s, trennzeichen));
     abstandlabel[i].sichtbar(!abstandlabel[i].text().empty());
+    rueckstandlabel[i].text(text::rueckstand(ergebnis(), s, blatt.rueckstand, trennzeichen));
+    rueckstandlabel[i].sichtbar(!rueckstandlabel[i].text().empty());
     ges_meter[i].text(text::meter(s));
     kmh_label[i].text(text::tempo(s));
     aus_straflabel[i].text(text::strafe(s, wort_.strafzeit));

@@ -53,6 +53,7 @@ public:
     je_spur<bezeichnung> beste_aus;
     je_spur<bezeichnung> zeit_aus;
     je_spur<bezeichnung> abstandlabel;
+    je_spur<bezeichnung> rueckstandlabel;  ///< the gap as people say it
     je_spur<bezeichnung> kmh_label;
     je_spur<bezeichnung> ges_meter;
     je_spur<bezeichnung> meter_label;

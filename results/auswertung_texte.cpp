@@ -62,7 +62,8 @@ sprachliste auswertung::sprache_a() {
     texte.tipp(
         "Eine Urkunde für jeden Fahrer, mit seinem Bild; hier stehen auch die Namen von Verein und Veranstaltung",
         Command_urkunden);
-    return blatt.nachtragen(texte);
+    blatt.nachtragen(texte);
+    return blatt.rueckstand.eintragen(texte);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

@@ -33,6 +33,50 @@ std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeic
     return (dahinter < 0 ? "- " : "+ ") + zeit_formatieren(std::abs(dahinter), true, trennzeichen);
 }
 
+namespace {
+
+/// "3,214 s", with the minutes in front from one on.
+std::string dauer_gesagt(zeit_ms dauer, const trennzeichen_tabelle& trennzeichen) {
+    constexpr zeit_ms minute = 60000;
+    constexpr zeit_ms zehn_sekunden = 10000;
+    const std::string text = zeit_formatieren(dauer, dauer >= minute, trennzeichen);
+    return text.substr(dauer < zehn_sekunden ? 1 : 0) + (dauer < minute ? " s" : " min");
+}
+
+std::string runden_gesagt(int runden, const rueckstand_worte& wort) {
+    return std::to_string(runden) + " " + (runden == 1 ? wort.runde : wort.runden);
+}
+
+/// What the places go by, within the same lap; empty where there is no difference.
+std::string unterschied(const rennergebnis& ergebnis, const spur& erster, const spur& s, const rueckstand_worte& wort,
+                        const trennzeichen_tabelle& trennzeichen) {
+    constexpr double zentimeter = 0.01;
+    const sortier_modus wertung = ergebnis.wertung.value_or(sortier_modus::runden);
+    if (wertung == sortier_modus::beste && s.beste > erster.beste) {
+        return dauer_gesagt(s.beste - erster.beste, trennzeichen);
+    }
+    if (wertung != sortier_modus::beste && erster.rundenzahl() > s.rundenzahl()) {
+        return runden_gesagt(erster.rundenzahl() - s.rundenzahl(), wort);
+    }
+    if (wertung == sortier_modus::meter && erster.meter - s.meter >= zentimeter) {
+        return zahl_fest(erster.meter - s.meter, ',') + " m";
+    }
+    const zeit_ms dahinter = s.gesamtzeit - erster.gesamtzeit;
+    return dahinter > 0 ? dauer_gesagt(dahinter, trennzeichen) : std::string();
+}
+
+}  // namespace
+
+std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const rueckstand_worte& wort,
+                       const trennzeichen_tabelle& trennzeichen) {
+    const spur* erster = ergebnis.fuehrende();
+    if (erster == nullptr || erster->nummer == s.nummer || s.disqualifiziert) {
+        return {};
+    }
+    const std::string um = unterschied(ergebnis, *erster, s, wort, trennzeichen);
+    return um.empty() ? wort.gleichauf : um + " " + wort.zurueck;
+}
+
 std::string tempo(const spur& s) {
     const auto ueber = [](double meter, zeit_ms dauer) { return zahl_fest(sektor_tempo(meter, dauer), ','); };
     const double in_der_zeit = s.meter - s.restmeter;  // a driver may have come from a lane of another length

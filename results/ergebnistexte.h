@@ -4,6 +4,7 @@
 
 #include "core/zeit.h"
 #include "race/rennergebnis.h"
+#include "results/ergebnisworte.h"
 
 /// How the figures of a result are written in windows and on paper.
 namespace tarvel::ergebnistext {
@@ -19,6 +20,10 @@ std::string zeit(const spur& s, const trennzeichen_tabelle& trennzeichen);
 std::string beste(const spur& s, const trennzeichen_tabelle& trennzeichen);
 /// Total time behind the leader's, "- " for a lane that has the lower time in fewer laps. Empty for the leader.
 std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeichen_tabelle& trennzeichen);
+/// The same as people say it, by what the places go: laps behind in laps, and within a lap the time. Empty for the
+/// leader and for a lane that is out.
+std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const rueckstand_worte& wort,
+                       const trennzeichen_tabelle& trennzeichen);
 /// Speed of the best lap and on average.
 std::string tempo(const spur& s);
 /// Empty without a penalty; `wort` names it.

@@ -20,6 +20,16 @@ struct diagramm_worte {
     sprachliste& eintragen(sprachliste& texte);
 };
 
+/// How people say by how much somebody is behind.
+struct rueckstand_worte {
+    std::string runde;   ///< behind the number one
+    std::string runden;  ///< and any other
+    std::string zurueck;
+    std::string gleichauf;
+
+    sprachliste& eintragen(sprachliste& texte);
+};
+
 /// Words of the printed result.
 struct blatt_worte {
     std::string platz;
@@ -35,6 +45,7 @@ struct blatt_worte {
     std::string tempo;         ///< of the best lap and on average
     std::string strecke;
     std::string rundenzeiten;
+    rueckstand_worte rueckstand;
 
     /// But for the captions that the result window has too: these it sets itself.
     sprachliste& eintragen(sprachliste& texte);

@@ -28,17 +28,19 @@ ergebnisblatt::zeile zeile_bilden(const rennergebnis& ergebnis, const rennergebn
     // what a lane without a lap is behind by, or its best lap of nothing, would only puzzle the reader
     const bool gewertet = s.rundenzahl() > 0 && !s.disqualifiziert;
     const auto zahl = [gewertet](const std::string& figur) { return gewertet ? wort_von(figur) : QString("–"); };
-    return {stil::farbe_von(bild.farben[s.nummer]),
-            gewertet && s.platz == 1,
-            {{QString::number(s.platz.value_or(0)) + ".", {}},
-             {QString::number(s.nummer), {}},
-             {wort_von(s.fahrer), wort_von(s.fahrzeug)},
-             {wort_von(text::runden(s)), nachgetragen(s, beschriftung.wort)},
-             {zahl(text::meter(s)), {}},
-             {zahl(text::zeit(s, trennzeichen)), wort_von(text::strafe(s, beschriftung.strafzeit))},
-             {zahl(text::abstand(ergebnis, s, trennzeichen)), {}},
-             {zahl(text::beste(s, trennzeichen)), {}},
-             {zahl(text::tempo(s)), {}}}};
+    return {
+        stil::farbe_von(bild.farben[s.nummer]),
+        gewertet && s.platz == 1,
+        {{QString::number(s.platz.value_or(0)) + ".", {}},
+         {QString::number(s.nummer), {}},
+         {wort_von(s.fahrer), wort_von(s.fahrzeug)},
+         {wort_von(text::runden(s)), nachgetragen(s, beschriftung.wort)},
+         {zahl(text::meter(s)), {}},
+         {zahl(text::zeit(s, trennzeichen)), wort_von(text::strafe(s, beschriftung.strafzeit))},
+         {zahl(text::abstand(ergebnis, s, trennzeichen)),
+          gewertet ? wort_von(text::rueckstand(ergebnis, s, beschriftung.wort.rueckstand, trennzeichen)) : QString()},
+         {zahl(text::beste(s, trennzeichen)), {}},
+         {zahl(text::tempo(s)), {}}}};
 }
 
 ergebnisblatt::rundenspalte rundenspalte_bilden(const rennergebnis::spur& s, const rundenbild_inhalt& bild) {

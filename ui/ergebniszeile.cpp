@@ -44,7 +44,8 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
-    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder));
+    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 1);
+    zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 1);
     aufbau->addWidget(zeit.feld, 4);
     const zelle_teile beste = zelle({logik.Label_beste[i], logik.beste_aus[i], "beste_aus", schrift_wert}, binder);
     beste.zusatz->addWidget(zusatz(logik.kmh_label[i], "kmh_label", binder));
