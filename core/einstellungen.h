@@ -117,6 +117,7 @@ struct einstellungen {
     bool blinken_an = false;
     bool grosse_zeit = false;
     bool fenstermodus = false;
+    rennbildwahl rennbild;  ///< in a file of its own, beside those of the settings
     sektor_ort sektor_anzeige = sektor_ort::keiner;
     sektor_ort topspeed_anzeige = sektor_ort::keiner;
     bool real_speed = false;

@@ -43,6 +43,15 @@ enum class bestzeit_speicherung { aus, automatisch, manuell };
 /// Where a sector's time or speed shows: in place of the best lap, or of the last one.
 enum class sektor_ort { keiner, klein, gross };
 
+/// What the race window shows beyond the places and times of the lanes.
+struct rennbildwahl {
+    bool worte = true;          ///< each lane says in a word what it is in
+    bool nach_platz = false;    ///< the lanes stand by their places, not by their numbers
+    bool auf_schirm_2 = false;  ///< the race window fills the second screen, the commands stay on the first
+
+    bool operator==(const rennbildwahl&) const = default;
+};
+
 enum class wechselweise { normal = 1, jeder_gegen_jeden = 2, nur_einmal = 3 };
 
 enum class trainingsart { normal, intervall, dauer };

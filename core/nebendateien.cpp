@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view trennzeichen_datei = "trennzeichen.ini";
 constexpr std::string_view gruppen_datei = "tvk_gruppen.ini";
+constexpr std::string_view rennbild_datei = "tvk_rennbild.ini";
 constexpr std::string_view s6_datei = "tvk_s6.ini";
 constexpr std::string_view s6_vorgabe_datei = "tvk_s6_load.ini";
 constexpr std::string_view werbe_datei = "tvk.ini";
@@ -20,6 +21,34 @@ constexpr std::string_view werbe_datei = "tvk.ini";
 constexpr std::string_view wahr = "Wahr";
 constexpr std::string_view falsch = "Falsch";
 constexpr std::array kaesten{&gruppenwahl::feste_gruppen, &gruppenwahl::optimal_verteilen, &gruppenwahl::am_stueck};
+constexpr std::array rennbildkaesten{&rennbildwahl::worte, &rennbildwahl::nach_platz, &rennbildwahl::auf_schirm_2};
+
+/// One "Wahr" or "Falsch" a line. Any other file leaves `ziel`.
+template <class Wahl, std::size_t anzahl>
+void kaesten_laden(const dateien& ablage, std::string_view datei, const std::array<bool Wahl::*, anzahl>& felder,
+                   Wahl& ziel) {
+    const auto zeilen = ablage.zeilen_lesen(datei, anzahl).value_or(std::vector<std::string>{});
+    Wahl neu;
+    if (zeilen.size() < anzahl) {
+        return;
+    }
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        if (zeilen[i] != wahr && zeilen[i] != falsch) {
+            return;
+        }
+        neu.*felder.at(i) = zeilen[i] == wahr;
+    }
+    ziel = neu;
+}
+
+template <class Wahl, std::size_t anzahl>
+bool kaesten_speichern(const dateien& ablage, std::string_view datei, const std::array<bool Wahl::*, anzahl>& felder,
+                       const Wahl& werte) {
+    std::vector<std::string> zeilen;
+    std::transform(felder.begin(), felder.end(), std::back_inserter(zeilen),
+                   [&](const auto kasten) { return std::string(werte.*kasten ? wahr : falsch); });
+    return ablage.zeilen_schreiben(datei, zeilen);
+}
 
 }  // namespace
 
@@ -50,25 +79,19 @@ bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& w
 }
 
 void gruppenwahl_laden(const dateien& ablage, gruppenwahl& ziel) {
-    const auto zeilen = ablage.zeilen_lesen(gruppen_datei, kaesten.size()).value_or(std::vector<std::string>{});
-    gruppenwahl neu;
-    if (zeilen.size() < kaesten.size()) {
-        return;
-    }
-    for (std::size_t i = 0; i < kaesten.size(); ++i) {
-        if (zeilen[i] != wahr && zeilen[i] != falsch) {
-            return;
-        }
-        neu.*kaesten.at(i) = zeilen[i] == wahr;
-    }
-    ziel = neu;
+    kaesten_laden(ablage, gruppen_datei, kaesten, ziel);
 }
 
 bool gruppenwahl_speichern(const dateien& ablage, const gruppenwahl& werte) {
-    std::vector<std::string> zeilen;
-    std::transform(kaesten.begin(), kaesten.end(), std::back_inserter(zeilen),
-                   [&](const auto kasten) { return std::string(werte.*kasten ? wahr : falsch); });
-    return ablage.zeilen_schreiben(gruppen_datei, zeilen);
+    return kaesten_speichern(ablage, gruppen_datei, kaesten, werte);
+}
+
+void rennbildwahl_laden(const dateien& ablage, rennbildwahl& ziel) {
+    kaesten_laden(ablage, rennbild_datei, rennbildkaesten, ziel);
+}
+
+bool rennbildwahl_speichern(const dateien& ablage, const rennbildwahl& werte) {
+    return kaesten_speichern(ablage, rennbild_datei, rennbildkaesten, werte);
 }
 
 void tvk_ini_laden(const dateien& ablage, std::string& ziel) {

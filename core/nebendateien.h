@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/dateien.h"
+#include "core/einstellungswerte.h"
 #include "core/wettkampfmodus.h"
 #include "core/zeit.h"
 
@@ -18,6 +19,10 @@ bool trennzeichen_speichern(const dateien& ablage, const trennzeichen_tabelle& w
 /// leaves `ziel`.
 void gruppenwahl_laden(const dateien& ablage, gruppenwahl& ziel);
 bool gruppenwahl_speichern(const dateien& ablage, const gruppenwahl& werte);
+
+/// `tvk_rennbild.ini`: what the race window shows, likewise.
+void rennbildwahl_laden(const dateien& ablage, rennbildwahl& ziel);
+bool rennbildwahl_speichern(const dateien& ablage, const rennbildwahl& werte);
 
 /// `tvk.ini`: the line of advertising in the race window. A missing or empty file leaves `ziel`.
 void tvk_ini_laden(const dateien& ablage, std::string& ziel);

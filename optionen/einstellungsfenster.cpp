@@ -80,7 +80,8 @@ sprachliste einstellungsfenster::sprache_e() {
     texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
     texte.text("Tarvel 4x4 USB / Digital", text_4x4_);
     texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
-    return texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.", anzeige_fehler_);
+    texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.", anzeige_fehler_);
+    return texte.text("Die Wahl für den Rennbildschirm gilt, konnte aber nicht gespeichert werden.", rennbild_fehler_);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -318,7 +319,13 @@ bool einstellungsfenster::nebendateien_speichern(const einstellungen& vorher) {
             um_.meldungen.zeigen(anzeige_fehler_, um_.txt.titel[1]);
         }
     }
-    return !trennzeichen_fehlen_ && !gruppen_ungesichert_ && !anzeige_ungesichert_;
+    if (rennbild_ungesichert_ || einst.rennbild != vorher.rennbild) {
+        rennbild_ungesichert_ = !rennbildwahl_speichern(um_.ablage, einst.rennbild);
+        if (rennbild_ungesichert_) {
+            um_.meldungen.zeigen(rennbild_fehler_, um_.txt.titel[1]);
+        }
+    }
+    return !trennzeichen_fehlen_ && !gruppen_ungesichert_ && !anzeige_ungesichert_ && !rennbild_ungesichert_;
 }
 
 void einstellungsfenster::Command1_Click() {

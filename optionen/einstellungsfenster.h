@@ -137,6 +137,8 @@ private:
     std::string gruppen_fehler_;
     bool anzeige_ungesichert_ = false;
     std::string anzeige_fehler_;
+    bool rennbild_ungesichert_ = false;
+    std::string rennbild_fehler_;
     std::optional<schemawahl> schema_;  ///< these two once their rows are there
     std::optional<gruppenkaesten> gruppen_;
 };

@@ -125,11 +125,14 @@ optionsseite_zeiger start_ziel() {
                                              wert(&e::aut_speichern))
                                    << kasten({"aut_loeschen", "Automatische Dateien beim Programmstart löschen"},
                                              wert(&e::aut_loeschen));
-    seite->gruppe("Rennbildschirm", 1) << kasten({"darstellung_opt", "Zeilenansicht"}, wert(&e::darstellung_zeile))
-                                       << kasten({"chk_alte_leute", "große Zeitanzeige"}, wert(&e::grosse_zeit))
-                                       << kasten({"Chk_fenstermodus", "Fenstermodus"}, wert(&e::fenstermodus))
-                                       << kasten({"fahrzeugbild_an", "Fahrzeugbilder einblenden"},
-                                                 wert(&e::fahrzeugbild_an));
+    seite->gruppe("Rennbildschirm", 1)
+        << kasten({"darstellung_opt", "Zeilenansicht"}, wert(&e::darstellung_zeile))
+        << kasten({"chk_alte_leute", "große Zeitanzeige"}, wert(&e::grosse_zeit))
+        << kasten({"Chk_fenstermodus", "Fenstermodus"}, wert(&e::fenstermodus))
+        << kasten({"fahrzeugbild_an", "Fahrzeugbilder einblenden"}, wert(&e::fahrzeugbild_an))
+        << kasten({"rennbild_worte", "Pause, Strafe, Ziel in Worten"}, wert(&e::rennbild, &rennbildwahl::worte))
+        << kasten({"rennbild_nach_platz", "Spuren nach Platz geordnet"}, wert(&e::rennbild, &rennbildwahl::nach_platz))
+        << kasten({"rennbild_schirm_2", "auf dem zweiten Bildschirm"}, wert(&e::rennbild, &rennbildwahl::auf_schirm_2));
     return seite;
 }
 

@@ -294,6 +294,7 @@ bool programm::starten() {
     pflege_.standard_setzen();
     trennzeichen_laden(ablage, einst.trennzeichen);
     gruppenwahl_laden(ablage, einst.gruppen);
+    rennbildwahl_laden(ablage, einst.rennbild);
     if (!dienste.prozess.ist_einzige_instanz()) {
         dienste.meldungen.zeigen(txt.meldung[10], programm_name);
         programm_beenden();

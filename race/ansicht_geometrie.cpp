@@ -1,5 +1,8 @@
 #include "race/ansicht_geometrie.h"
 
+#include <iterator>
+#include <vector>
+
 #include "race/spurgeometrie.h"
 
 namespace tarvel {
@@ -27,6 +30,7 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     g[f::uhrframe1].ort = inhalt.licht_der_pause ? uhren.oben(0.5 * kopf.hoehe) : reihe.rest();
     g[f::nachlauflabel].ort = g[f::uhrframe1].ort;
     g[f::uhrframe2].ort = uhren.rest();
+    g[f::restrunden] = g[f::uhrframe2];
     zuschnitt ziel(links.rest());
     if (inhalt.naechstes_rennen) {
         g[f::Label5].ort = ziel.unten(0.36 * kopf.hoehe);
@@ -36,6 +40,7 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     schrift(g[f::uhrframe1], 0.78);
     schrift(g[f::nachlauflabel], 0.62);
     schrift(g[f::uhrframe2], inhalt.licht_der_pause ? 0.78 : 0.36);
+    schrift(g[f::restrunden], 0.5);
     g[f::ziel_label].schrift_px = static_cast<int>(0.32 * kopf.hoehe);
     schrift(g[f::Label_naechstesrennen], 0.8);
     schrift(g[f::Label5], 0.46);  // two lines
@@ -85,6 +90,25 @@ void hinweis_legen(const ansicht_inhalt& inhalt, int breite, double s, ansicht_g
     schrift(g.fenster[f::cu_startframe], 0.6);
 }
 
+/// The word of the pause lies over what does not change meanwhile, or has the place that the blocks have left it. What
+/// is to be done stands in its lower part.
+void pause_legen(const ansicht_inhalt& inhalt, const rechteck& flaeche, const rechteck& frei, ansicht_geometrie& g) {
+    using f = fenster_teil;
+    if (!inhalt.pause) {
+        return;
+    }
+    const auto block = std::find_if(g.block.begin(), g.block.end(), [](const rechteck& r) { return !r.leer(); });
+    if (frei.leer() && block != g.block.end()) {
+        const rechteck& teil = g.unterer_teil;
+        g.pause = {flaeche.x, block->y + teil.y, flaeche.breite, teil.hoehe};
+    } else {
+        g.pause = frei;
+    }
+    zuschnitt stueck(g.pause.innen(0.1 * g.pause.hoehe));
+    g.fenster[f::cu_startframe].ort = stueck.unten(0.36 * g.pause.hoehe);
+    schrift(g.fenster[f::cu_startframe], 0.6);
+}
+
 /// Equal blocks for the chosen lanes, without a hole for the others.
 rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck& flaeche, double luecke,
                        ansicht_geometrie& g) {
@@ -103,7 +127,34 @@ rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck&
     return {0, 0, block.breite, block.hoehe};
 }
 
+/// The lanes that have a block, lowest value first.
+std::vector<int> nach_wert(const ansicht_geometrie& g, const spuren<int>& werte) {
+    std::vector<int> folge;
+    std::copy_if(alle_spuren.begin(), alle_spuren.end(), std::back_inserter(folge),
+                 [&](int spur) { return !g.block[spur].leer(); });
+    std::stable_sort(folge.begin(), folge.end(), [&](int a, int b) { return werte[a] < werte[b]; });
+    return folge;
+}
+
+/// Few lanes have blocks that are nearly as wide as they are high.
+bool ist_doppelspalte(const ansicht_inhalt& inhalt, const rechteck& flaeche, int anzahl) {
+    constexpr double ab = 0.75;
+    return inhalt.art == ansicht_art::spalten && anzahl > 1 && flaeche.breite > ab * anzahl * flaeche.hoehe;
+}
+
 }  // namespace
+
+void bloecke_ordnen(ansicht_geometrie& g, const spuren<int>& ordnung) {
+    spuren<rechteck> geordnet;
+    int von = 0;  // the next block to be given away
+    for (const int stelle : nach_wert(g, ordnung)) {
+        do {
+            ++von;
+        } while (g.block[von].leer());
+        geordnet[stelle] = g.block[von];
+    }
+    g.block = geordnet;
+}
 
 ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, int hoehe) {
     ansicht_geometrie g;
@@ -126,9 +177,16 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     const double fuss = zeilen ? 0.1 * hoehe - 200 * skal_faktor : 1450 * skal_faktor;
     befehle_legen(gezeigt, fenster.unten(fuss), skal_faktor, g.fenster);
 
+    const rechteck flaeche = fenster.rest();
+    const bool doppelt = ist_doppelspalte(inhalt, flaeche, anzahl);
+    const bool ueber_den_bloecken = inhalt.art == ansicht_art::spalten && !doppelt;
+    const rechteck frei = fenster.unten(inhalt.pause && !ueber_den_bloecken ? 0.16 * hoehe : 0);
     const rechteck block = bloecke_legen(inhalt, anzahl, fenster.rest(), 90 * skal_faktor, g);
     double skala = skal_faktor;
-    if (inhalt.art == ansicht_art::spalten) {
+    if (doppelt) {
+        doppelspalte_legen(inhalt, block, skal_faktor, g);
+        skala = 1.4 * skal_faktor;
+    } else if (inhalt.art == ansicht_art::spalten) {
         skala = std::min(static_cast<double>(breite) / anzahl / entwurf::spalte, skal_hoehe);
         spalte_legen(inhalt, block, skala, g);
     } else if (zeilen) {
@@ -143,7 +201,9 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
         einfahrer_legen(inhalt, block, skala, g);
     }
     spur_schriften(g.spur, skala);
+    spur_schriften(g.spur_tafel, skala);
     hinweis_legen(inhalt, breite, skal_faktor, g);
+    pause_legen(inhalt, flaeche, frei, g);
     return g;
 }
 

@@ -36,6 +36,7 @@ struct ansicht_inhalt {
     bool wrpic2 = false;
     bool einfahrzeit = false;       ///< the command that begins the warm-up
     bool naechstes_rennen = false;  ///< who drives next
+    bool pause = false;             ///< the word of the pause
     bool licht_der_pause = false;   ///< stands in the place of the large clock, which moves over the second one
 
     bool operator==(const ansicht_inhalt&) const = default;
@@ -53,6 +54,7 @@ enum class spur_teil : std::size_t {
     Label_platz,
     l_PosAnz,
     ch_strafzeit_hacken,
+    Label_schuld,
     zaehler,
     Image2,
     frame_tank,
@@ -89,7 +91,8 @@ enum class fenster_teil : std::size_t {
     werbe_label,
     Command2,
     wrpic2,
-    cu_startframe,  ///< over the blocks, clear of what a pause wants answered
+    restrunden,     ///< in the place of the second clock
+    cu_startframe,  ///< over the blocks, clear of what a pause wants answered; in a pause below its word
     anzahl
 };
 
@@ -112,10 +115,14 @@ private:
 
 struct ansicht_geometrie {
     plaetze<fenster_teil> fenster;
-    spuren<rechteck> block;   ///< of the chosen lanes, in the order of their numbers
-    plaetze<spur_teil> spur;  ///< from the upper left corner of the block; the same in each of them
-    rechteck streifen;        ///< of the lane's colour along an edge of its block
-    rechteck zaehler_weit;    ///< place of `zaehler` with half its indent
+    spuren<rechteck> block;         ///< of the chosen lanes, in the order of their numbers
+    plaetze<spur_teil> spur;        ///< from the upper left corner of the block; the same in each of them
+    plaetze<spur_teil> spur_tafel;  ///< the same of a lane that says in a word what it is in: `tafel` is for that
+    rechteck tafel;
+    rechteck unterer_teil;  ///< of the block, which the word of a pause may lie over; empty where it has its own place
+    rechteck pause;         ///< of that word, in the window
+    rechteck streifen;      ///< of the lane's colour along an edge of its block
+    rechteck zaehler_weit;  ///< place of `zaehler` with half its indent
     rechteck licht_der_pause;
 };
 

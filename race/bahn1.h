@@ -6,6 +6,7 @@
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
 #include "race/ansicht_geometrie.h"
+#include "race/spurlage.h"
 
 namespace tarvel {
 
@@ -49,6 +50,12 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_rt;         ///< small lights of the lane: lit while visible
     std::array<bild, spuren_max> ampel_ge;
     std::array<bild, spuren_max> ampel_gr;
+
+    spuren<lage_anzeige> lage;         ///< says in a word what the lane is in; hidden while it drives
+    bezeichnung pausendauer;           ///< with the word of the pause, large over all lanes
+    bezeichnung restrunden;            ///< of a lap race, in the place of the second clock
+    bezeichnung Label_restrunden;      ///< its caption
+    spuren<bezeichnung> Label_schuld;  ///< caption of the boxes of the blame
 
     ansicht_wahl ansicht;
     rahmen titel;                     ///< carries the window's title
@@ -117,6 +124,9 @@ struct bahn1 {
         std::string wirklich;       ///< asks whether a command is meant
         std::string ohne_protokoll;
         std::string ohne_ende;  ///< what is driven for, where nothing is
+        std::string rekord;     ///< in front of the record of the track
+        std::string lage;       ///< what a screen reader calls these
+        lageworte lagen;
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -24,6 +24,7 @@ void chaos::strafformular_zeigen() {
     }
     for (const int spur : alle_spuren) {
         um_.bahn.ch_strafzeit_hacken[spur].sichtbar(um_.param.spur_aktiv[spur]);
+        um_.bahn.Label_schuld[spur].sichtbar(um_.param.spur_aktiv[spur]);
     }
     um_.bahn.ch_Text1.laenge_max(4);
     um_.bahn.ch_Text1.text(std::to_string(um_.einst.chaos_strafzeit.count()));
@@ -34,6 +35,9 @@ void chaos::strafformular_schliessen() {
     for (haken& kasten : um_.bahn.ch_strafzeit_hacken) {
         kasten.gesetzt(false);
         kasten.sichtbar(false);
+    }
+    for (bezeichnung& titel : um_.bahn.Label_schuld) {
+        titel.sichtbar(false);
     }
     um_.bahn.ch_strafframe.sichtbar(false);
 }

@@ -21,6 +21,8 @@ public:
     /// The race pauses, and goes on.
     void anhalten();
     void fortsetzen();
+    /// Without power from now on, or from green on.
+    dauer_hs rest() const { return fruehstart_sperrdauer(um_.einst) - verbuesst_; }
     /// The race is over.
     void beenden();
 

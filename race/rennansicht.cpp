@@ -1,6 +1,7 @@
 #include "race/rennansicht.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "core/text.h"
@@ -86,6 +87,7 @@ void rennansicht::ansagen_setzen() {
         ansagen(bahn.l_PosAnz.at(index), bahn.Label_platz[spur].text());
         ansagen(bahn.t_liste.at(index), bahn.wort.rundenliste);
         ansagen(bahn.ch_strafzeit_hacken[spur], bahn.wort.strafzeit);
+        ansagen(bahn.lage[spur], bahn.wort.lage);
     }
     bahn.ch_Text1.ansage(bahn.wort.strafzeit);
 }
@@ -122,7 +124,20 @@ sprachliste rennansicht::sprache_r() {
     texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
                bahn.wort.ohne_protokoll);
     texte.text("Wirklich?", bahn.wort.wirklich);
-    return texte.text("Das Rennen läuft. Wirklich mit dem Stand von jetzt beenden?", bahn.wort.ohne_rest);
+    texte.text("Das Rennen läuft. Wirklich mit dem Stand von jetzt beenden?", bahn.wort.ohne_rest);
+    return lageworte_nennen(texte);
+}
+
+sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
+    bahn1& bahn = um_.bahn;
+    texte.fuer_alle("schuld", bahn.Label_schuld).text("noch Runden", bahn.Label_restrunden);
+    texte.text("Bahnrekord: ", bahn.wort.rekord).text("Lage", bahn.wort.lage);
+    constexpr std::array<const char*, lagen_anzahl> lagen{"",     "PAUSE", "FRÜH\u00ADSTART",      "STRAFE", "BOX",
+                                                          "LEER", "ZIEL",  "DISQUALI\u00ADFIZIERT"};
+    for (std::size_t i = 1; i < lagen.size(); ++i) {
+        texte.text(lagen.at(i), bahn.wort.lagen.at(i));
+    }
+    return texte;
 }
 
 void rennansicht::oeffnen() {
@@ -185,6 +200,10 @@ void rennansicht::ansicht_oeffnen(ansicht_art art) {
     bahn.Label5.text(naechste);
     bahn.ansicht.inhalt(inhalt);
     bahn.Nachtabschaltung.sichtbar(false);
+    const bool rest_zaehlt = um_.ist_rundenrennen() && um_.param.renn_ziel != ziel_ohne_ende;
+    bahn.restrunden.sichtbar(rest_zaehlt);
+    bahn.Label_restrunden.sichtbar(rest_zaehlt);
+    bahn.uhr2.uhrframe.sichtbar(!rest_zaehlt);  // both clocks would show the same
 }
 
 void rennansicht::spur_oeffnen(int spur) {
@@ -250,7 +269,8 @@ void rennansicht::bestzeit_anzeige() {
         bahn.bestzeit_label[spur].sichtbar(zeigen);
     }
     const bestzeit& rekord = um_.bestzeiten.gesamt();
-    bahn.bestzeit_gesamt.text(rekord.leer() ? "" : zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
+    bahn.bestzeit_gesamt.text(
+        rekord.leer() ? "" : bahn.wort.rekord + zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
     bahn.bestzeit_gesamt.sichtbar(um_.einst.beste_modus != bestzeit_speicherung::aus && !rekord.leer());
 }
 
@@ -266,8 +286,8 @@ void rennansicht::farben_setzen() {
         bahn.l_PosAnz.at(feld_index(spur)).schriftfarbe(spurfarbe);
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
-        for (bezeichnung* titel : {&bahn.bestzeit_label[spur], &bahn.Label_platz[spur], &bahn.Label_lrunde[spur],
-                                   &bahn.Label_brunde[spur]}) {
+        for (bezeichnung* titel : {&bahn.bestzeit_label[spur], &bahn.Label_platz[spur], &bahn.Label_schuld[spur],
+                                   &bahn.Label_lrunde[spur], &bahn.Label_brunde[spur]}) {
             titel->schriftfarbe(um_.einst.farben_schrift[2]);
         }
         bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);
@@ -281,9 +301,9 @@ void rennansicht::farben_setzen() {
             teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
-    for (bezeichnung* label :
-         {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label, &bahn.Label_naechstesrennen, &bahn.Label5,
-          &bahn.werbe_label, &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
+    for (bezeichnung* label : {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label,
+                               &bahn.Label_naechstesrennen, &bahn.Label5, &bahn.werbe_label, &bahn.restrunden,
+                               &bahn.Label_restrunden, &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
         label->schriftfarbe(um_.einst.farben_schrift[2]);
     }
 }

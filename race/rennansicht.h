@@ -48,6 +48,7 @@ private:
     void bilder_setzen();
     void texte_setzen();
     void ansagen_setzen();
+    sprachliste& lageworte_nennen(sprachliste& texte);
     /// The best times as they are before the race; they stay during it.
     void bestzeit_anzeige();
 

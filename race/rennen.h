@@ -10,6 +10,7 @@
 #include "race/fruehstartstrafe.h"
 #include "race/rennbefehle.h"
 #include "race/rueckfrage.h"
+#include "race/rennlage.h"
 #include "race/rundenkorrektur.h"
 #include "race/strafen.h"
 
@@ -122,6 +123,7 @@ struct rennen final : private rennabschluss {
     rennbefehle befehle;
     rueckfrage abbruchfrage;
     rueckfrage endfrage;
+    rennlage lage;
     rennfenster fenster;
 
 private:

@@ -1,12 +1,15 @@
 #include "race/spurgeometrie.h"
 
+#include <utility>
+
 namespace tarvel {
 namespace {
 
-using lage = plaetze<spur_teil>;
+using spur_orte = plaetze<spur_teil>;
 using t = spur_teil;
 
 constexpr int schrift_min_px = 8;
+constexpr double titelhoehe = 420;  ///< room of a caption
 
 /// The middle of a place that is higher than its content has use for.
 rechteck mittig(const rechteck& ort, double hoehe_max) {
@@ -22,7 +25,7 @@ void mit_titel(const rechteck& ort, double titel_hoehe, platz& titel, platz& anz
 }
 
 /// The small lights side by side, no larger than fits.
-void ampel_legen(const rechteck& ort, double luecke, lage& g) {
+void ampel_legen(const rechteck& ort, double luecke, spur_orte& g) {
     const double kante = std::min<double>(ort.hoehe, (ort.breite - 2 * luecke) / 3);
     zuschnitt stueck(ort, luecke);
     for (const t lampe : {t::ampel_rt, t::ampel_ge, t::ampel_gr}) {
@@ -30,22 +33,34 @@ void ampel_legen(const rechteck& ort, double luecke, lage& g) {
     }
 }
 
-/// The box that puts the blame for a pause on the lane, at the right end of a place.
-void schuld_legen(const rechteck& ort, lage& g) {
-    const double kante = std::min(ort.hoehe, ort.breite);
-    zuschnitt kasten(zuschnitt(ort).rechts(kante));
-    kasten.oben((ort.hoehe - kante) / 2);
-    g[t::ch_strafzeit_hacken].ort = kasten.oben(kante);
+/// The box that puts the blame for a pause on the lane, below what it is for.
+void schuld_legen(const rechteck& ort, double titel_hoehe, spur_orte& g) {
+    zuschnitt stueck(ort);
+    g[t::Label_schuld].ort = stueck.oben(titel_hoehe);
+    const rechteck& frei = stueck.rest();
+    const int kante = std::min(frei.hoehe, frei.breite);
+    g[t::ch_strafzeit_hacken].ort = {frei.x + (frei.breite - kante) / 2, frei.y + (frei.hoehe - kante) / 2, kante,
+                                     kante};
 }
 
 /// The place, and beside it the box of the blame.
-void platz_legen(const rechteck& ort, double s, double luecke, lage& g) {
+void platz_legen(const rechteck& ort, double s, double luecke, spur_orte& g) {
     zuschnitt stueck(ort, luecke);
-    schuld_legen(stueck.rechts(std::min({0.9 * ort.hoehe, 0.4 * ort.breite, 800 * s})), g);
-    mit_titel(stueck.rest(), 320 * s, g[t::Label_platz], g[t::l_PosAnz]);
+    const double titel = titelhoehe * s;
+    schuld_legen(stueck.rechts(std::min({0.9 * ort.hoehe, 0.5 * ort.breite, 1200 * s})), titel, g);
+    mit_titel(stueck.rest(), titel, g[t::Label_platz], g[t::l_PosAnz]);
 }
 
-void tank_legen(const ansicht_inhalt& inhalt, const rechteck& ort, bool nebeneinander, lage& g) {
+/// Number and lights of the lane over its place.
+void spaltenkopf(const rechteck& ort, double s, double luecke, spur_orte& g) {
+    zuschnitt stapel(ort, luecke);
+    zuschnitt nummer(stapel.oben(450 * s), luecke);
+    g[t::Label_spur].ort = nummer.links(450 * s);
+    ampel_legen(nummer.rest(), luecke, g);
+    platz_legen(stapel.rest(), s, luecke, g);
+}
+
+void tank_legen(const ansicht_inhalt& inhalt, const rechteck& ort, bool nebeneinander, spur_orte& g) {
     if (inhalt.tank == tankanzeige_art::keine) {
         return;
     }
@@ -61,7 +76,7 @@ double bestzeit_hoehe(const ansicht_inhalt& inhalt, double hoehe) {
 }
 
 /// Last lap above the best one, which is the smaller of the two.
-void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, lage& g) {
+void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, spur_orte& g) {
     const rechteck feld = mittig(ort, 0.9 * ort.breite);
     const double teil = feld.hoehe / (inhalt.bestzeit ? 29.0 : 24.0);
     zuschnitt stapel(feld);
@@ -71,7 +86,7 @@ void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, lage& g) 
 }
 
 /// The same side by side.
-void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double luecke, lage& g) {
+void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double luecke, spur_orte& g) {
     zuschnitt reihe(ort, luecke);
     const double teil = ort.hoehe / 14.0;
     mit_titel(reihe.links((ort.breite - luecke) * 0.54), 4 * teil, g[t::Label_lrunde], g[t::lrunde]);
@@ -91,7 +106,7 @@ void zaehler_einruecken(const rechteck& feld, double rueckung, ansicht_geometrie
 }
 
 /// What belongs to the driver of a row; a high one has the tank here.
-void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, lage& g) {
+void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, spur_orte& g) {
     const double luecke = 80 * s;
     zuschnitt stapel(ort, luecke / 2);
     g[t::namenslabel].ort = stapel.oben(std::min(0.42 * ort.hoehe, 1100 * s));
@@ -101,7 +116,7 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
     }
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
     g[t::Label_spur].ort = mitte.links(0.2 * ort.breite);
-    schuld_legen(mitte.rechts(0.2 * ort.breite), g);
+    schuld_legen(mitte.rechts(0.26 * ort.breite), 0.34 * mitte.rest().hoehe, g);
     ampel_legen(mitte.rest(), luecke, g);
 }
 
@@ -120,8 +135,9 @@ void spur_schriften(plaetze<spur_teil>& g, double skala) {
     schrift(g[t::brunde], 0.95, 5.2);
     schrift(g[t::t_bahn], ziffern, 3.3);
     schrift(g[t::straflabel], wort, 8);
-    for (const t text : {t::Label_platz, t::Label_lrunde, t::Label_brunde, t::tanktitel, t::bestzeit_label}) {
-        constexpr double titel_max = 340;
+    for (const t text :
+         {t::Label_platz, t::Label_schuld, t::Label_lrunde, t::Label_brunde, t::tanktitel, t::bestzeit_label}) {
+        constexpr double titel_max = 375;
         schrift(g[text], wort);
         g[text].schrift_px = std::min(g[text].schrift_px, static_cast<int>(titel_max * skala));
     }
@@ -131,10 +147,15 @@ void spur_schriften(plaetze<spur_teil>& g, double skala) {
         std::max(schrift_min_px, static_cast<int>(std::min(listenzeile * skala, g[t::t_liste].ort.breite / liste_em)));
 }
 
+/// The word of a lane's state as high as its counter, where the pictures and the list leave that room.
+double tafelhoehe(const rechteck& frei, double gebraucht, const ansicht_geometrie& ganzes) {
+    return std::clamp<double>(frei.hoehe - gebraucht, 0, ganzes.spur[t::zaehler].ort.hoehe);
+}
+
 /// A column from top to bottom. One that is nearly twice as wide as the design has it shows two things side by side,
 /// and the counter takes what that leaves.
 void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
-    lage& g = ganzes.spur;
+    spur_orte& g = ganzes.spur;
     const double luecke = 60 * s;
     const bool breit = block.breite >= 1.8 * entwurf::spalte * s;
     zuschnitt stapel(block.innen(110 * s), luecke);
@@ -146,32 +167,70 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     if (breit && inhalt.fahrzeugbild) {
         g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.4 * block.breite));
     }
-    zuschnitt neben_bild(bilder.rest(), luecke);
-    zuschnitt nummer(neben_bild.oben(450 * s), luecke);
-    g[t::Label_spur].ort = nummer.links(450 * s);
-    ampel_legen(nummer.rest(), luecke, g);
-    platz_legen(neben_bild.rest(), s, luecke, g);
+    spaltenkopf(bilder.rest(), s, luecke, g);
 
     g[t::straflabel].ort = stapel.unten(500 * s);
     const double bild2 = inhalt.fahrzeugbild && !breit ? 800 * s : 0;
     const double tank = inhalt.tank != tankanzeige_art::keine ? 620 * s : 0;
     const double zeiten = (breit ? 1400 : 2300) * s + bestzeit_hoehe(inhalt, (breit ? 0 : 380) * s);
-    constexpr double liste_min = 1300;
+    const double liste_min = breit ? 1900 : 1300;
     const double frei = stapel.rest().hoehe - bild2 - tank - zeiten - (liste_min + 240) * s;
     g[t::zaehler].ort = stapel.oben(std::clamp(frei, 1900 * s, std::max(1900 * s, 0.5 * block.breite)));
+    ganzes.spur_tafel = g;
+    zuschnitt mit_tafel = stapel;
+    const auto darunter = [&](zuschnitt& rest, spur_orte& orte) {
+        tank_legen(inhalt, rest.oben(tank), true, orte);
+        const rechteck zeitfeld = rest.oben(zeiten);
+        breit ? zeiten_reihen(inhalt, zeitfeld, 4 * luecke, orte) : zeiten_stapeln(inhalt, zeitfeld, orte);
+        orte[t::t_liste].ort = rest.rest();
+    };
     if (bild2 > 0) {
         g[t::Image2].ort = stapel.oben(bild2);
     }
-    tank_legen(inhalt, stapel.oben(tank), true, g);
-    const rechteck zeitfeld = stapel.oben(zeiten);
-    breit ? zeiten_reihen(inhalt, zeitfeld, 4 * luecke, g) : zeiten_stapeln(inhalt, zeitfeld, g);
-    g[t::t_liste].ort = stapel.rest();
+    darunter(stapel, g);
+    const double gebraucht = tank + zeiten + (tank > 0 ? 3 : 2) * luecke;
+    ganzes.tafel = mit_tafel.oben(tafelhoehe(mit_tafel.rest(), gebraucht, ganzes));
+    darunter(mit_tafel, ganzes.spur_tafel);
+    const int oben = ganzes.spur_tafel[t::Label_lrunde].ort.y;
+    ganzes.unterer_teil = {0, oben, block.breite, g[t::straflabel].ort.y - oben};
+}
+
+/// A block that is nearly as wide as it is high has two halves: on the left who drives and his laps, on the right his
+/// times. Everything in it is larger than in a column.
+void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+    spur_orte& g = ganzes.spur;
+    const double h = block.hoehe;
+    const double luecke = 80 * s;
+    zuschnitt stapel(block.innen(110 * s), luecke);
+    ganzes.streifen = stapel.oben(100 * s);
+    g[t::yellowframe].ort = stapel.oben(220 * s);
+    g[t::namenslabel].ort = stapel.oben(0.14 * h);
+    g[t::straflabel].ort = stapel.unten(0.07 * h);
+    tank_legen(inhalt, stapel.unten(inhalt.tank != tankanzeige_art::keine ? 0.09 * h : 0), true, g);
+    zuschnitt haelften(stapel.rest(), 3 * luecke);
+    zuschnitt rechts(haelften.rechts(0.42 * block.breite), luecke);
+    zuschnitt links(haelften.rest(), luecke);
+    const double kopf = 0.22 * h;
+    zuschnitt bilder(links.oben(kopf), luecke);
+    g[t::Image1].ort = bilder.links(std::min(0.8 * kopf, 0.4 * links.rest().breite));
+    spaltenkopf(bilder.rest(), 1.4 * s, luecke, g);
+    g[t::zaehler].ort = links.rest();
+    ganzes.spur_tafel = g;
+    zuschnitt mit_tafel = rechts;
+    const double zeiten = 0.35 * h;
+    if (inhalt.fahrzeugbild) {
+        g[t::Image2].ort = rechts.oben(0.8 * kopf);
+    }
+    zeiten_stapeln(inhalt, rechts.oben(zeiten), g);
+    g[t::t_liste].ort = rechts.rest();
+    ganzes.tafel = mit_tafel.unten(tafelhoehe(mit_tafel.rest(), zeiten + luecke, ganzes));
+    zeiten_stapeln(inhalt, mit_tafel.rest(), ganzes.spur_tafel);
 }
 
 /// A row from left to right; what it shows shares its width. In a high row the picture of the vehicle stands below that
 /// of the driver, and the tank below the name.
 void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
-    lage& g = ganzes.spur;
+    spur_orte& g = ganzes.spur;
     const double hoehe = block.hoehe / s;
     const bool hoch = hoehe > 1.4 * entwurf::zeile;
     constexpr double rand = 300;  // with the stripe and the yellow bar
@@ -199,24 +258,34 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     const rechteck platzfeld = mittig(reihe.links(platzziffer * e), 2.2 * platzziffer * e);
     mit_titel(platzfeld, std::min(0.2 * platzfeld.hoehe, 420 * s), g[t::Label_platz], g[t::l_PosAnz]);
     zaehler_einruecken(reihe.links(zaehler * e), entwurf::zaehler_links * e, ganzes);
+    const auto dahinter = [&](zuschnitt& rest, spur_orte& orte) {
+        if (!hoch) {
+            tank_legen(inhalt, rest.links(tank * e), false, orte);
+        }
+        const rechteck zeitfeld = rest.links(zeiten * e);
+        constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
+        if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
+            zeiten_reihen(inhalt, zeitfeld, 2 * luecke, orte);
+        } else {
+            zeiten_stapeln(inhalt, zeitfeld, orte);
+        }
+    };
+    ganzes.spur_tafel = g;
+    zuschnitt mit_tafel = reihe;
     if (!hoch) {
         g[t::Image2].ort = reihe.links(bild2 * e);
-        tank_legen(inhalt, reihe.links(tank * e), false, g);
     }
-    const rechteck zeitfeld = reihe.links(zeiten * e);
-    constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
-    if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
-        zeiten_reihen(inhalt, zeitfeld, 2 * luecke, g);
-    } else {
-        zeiten_stapeln(inhalt, zeitfeld, g);
-    }
+    dahinter(reihe, g);
     g[t::t_liste].ort = reihe.rest();
+    const double gebraucht = (tank > 0 ? tank * e + 2 * luecke : 0) + zeiten * e + 2 * luecke;
+    ganzes.tafel = mit_tafel.links(mit_tafel.rest().breite - gebraucht);
+    dahinter(mit_tafel, ganzes.spur_tafel);
 }
 
 /// A single lane, and a row that has the height for it: the counter in the middle, what belongs to the driver on its
 /// left, the times on its right.
 void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
-    lage& g = ganzes.spur;
+    spur_orte& g = ganzes.spur;
     const double luecke = 160 * s;
     zuschnitt rest(block.innen(110 * s), luecke);
     ganzes.streifen = rest.oben(110 * s);
@@ -242,6 +311,8 @@ void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double
     g[t::straflabel].ort = mitte.unten(700 * s);
     tank_legen(inhalt, mitte.unten(inhalt.tank != tankanzeige_art::keine ? 1100 * s : 0), true, g);
     zaehler_einruecken(mitte.rest(), inhalt.art == ansicht_art::zeilen ? entwurf::zaehler_links * s : 0, ganzes);
+    ganzes.spur_tafel = g;
+    ganzes.tafel = std::exchange(ganzes.spur_tafel[t::t_liste].ort, {});
 }
 
 }  // namespace tarvel

@@ -16,11 +16,14 @@ inline void schrift(platz& ort, double anteil, double breite_em = 0) {
     ort.schrift_px = std::max(schrift_min_px, static_cast<int>(px));
 }
 
-/// Puts the controls of a lane into its block: a column, a row or the room for one alone. `skala` is in pixels per unit
-/// of the design.
+/// Puts the controls of a lane into its block: a column, a double one, a row or the room for one alone. `skala` is in
+/// pixels per unit of the design.
 void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
+void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
 void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
 void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
+/// The blocks change hands: the first goes to the lane of the lowest value.
+void bloecke_ordnen(ansicht_geometrie& g, const spuren<int>& ordnung);
 /// The fonts in these places.
 void spur_schriften(plaetze<spur_teil>& g, double skala);
 

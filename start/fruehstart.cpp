@@ -99,6 +99,7 @@ void fruehstart::fruehstart_ohne() {
 }
 
 void fruehstart::fruehstart_abbruch() {
+    je_frueher_spur([](int /*spur*/) {});
     for (const int spur : alle_spuren) {
         strafen_.spur_strom_aus(spur);
     }

@@ -140,6 +140,38 @@ void bloecke_pruefen(const ansicht_inhalt& inhalt, const ansicht_geometrie& g, c
     innere_pruefen(fenster, bloecke);
 }
 
+/// The board of a lane's state covers nothing, and leaves what tells the standing where it is.
+void tafel_pruefen(const ansicht_geometrie& g, const rechteck& block) {
+    EXPECT_TRUE(enthaelt(block, g.tafel) && !g.tafel.leer()) << g.tafel;
+    EXPECT_GT(g.tafel.hoehe, block.hoehe / 15) << g.tafel;
+    for (int i = 0; i < static_cast<int>(t::anzahl); ++i) {
+        const auto teil = static_cast<t>(i);
+        const bool innen = teil == t::tanktitel || teil == t::t_bahn || teil == t::tankbalken;
+        EXPECT_FALSE(!innen && schneiden(g.tafel, g.spur_tafel[teil].ort)) << "control " << i << " and " << g.tafel;
+    }
+    for (const t teil : {t::zaehler, t::l_PosAnz, t::namenslabel, t::Image1, t::straflabel}) {
+        EXPECT_EQ(g.spur_tafel[teil].ort, g.spur[teil].ort) << static_cast<int>(teil);
+    }
+}
+
+/// Its word hides neither laps, places, penalties and boxes nor the clock and the commands.
+void pause_pruefen(ansicht_inhalt inhalt, int breite, int hoehe) {
+    inhalt.pause = true;
+    const ansicht_geometrie g = ansicht_aufteilen(inhalt, breite, hoehe);
+    EXPECT_GT(g.pause.hoehe, hoehe / 12);
+    EXPECT_GT(g.pause.breite, breite * 9 / 10);
+    for (const int spur : alle_spuren) {
+        for (const t teil : {t::zaehler, t::l_PosAnz, t::namenslabel, t::straflabel, t::ch_strafzeit_hacken}) {
+            const rechteck& ort = g.spur[teil].ort;
+            EXPECT_FALSE(!g.block[spur].leer() && schneiden(g.pause, ort.verschoben(g.block[spur].x, g.block[spur].y)))
+                << static_cast<int>(teil) << " under " << g.pause;
+        }
+    }
+    for (const f teil : {f::uhrframe1, f::uhrframe2, f::ch_strafframe, f::Frame1}) {
+        EXPECT_FALSE(schneiden(g.pause, g.fenster[teil].ort)) << static_cast<int>(teil);
+    }
+}
+
 TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
     for (const auto& [breite, hoehe] : groessen) {
         for (const ansicht_inhalt& inhalt : alle_ansichten()) {
@@ -152,6 +184,9 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
             const rechteck block{0, 0, g.block[spuren_max].breite, g.block[spuren_max].hoehe};
             bloecke_pruefen(inhalt, g, fenster);
             ohne_ueberdeckung(g.spur, block, {t::tanktitel, t::t_bahn, t::tankbalken});
+            ohne_ueberdeckung(g.spur_tafel, block, {t::tanktitel, t::t_bahn, t::tankbalken});
+            tafel_pruefen(g, block);
+            pause_pruefen(inhalt, breite, hoehe);
             innere_pruefen(g.spur[t::frame_tank].ort,
                            {g.spur[t::tanktitel].ort, g.spur[t::t_bahn].ort, g.spur[t::tankbalken].ort});
             const std::vector<f> befehle{f::Command1, f::Command6,    f::Command3,

@@ -4,7 +4,9 @@
 #include <QIntValidator>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
+#include "race/spurgeometrie.h"
 #include "ui/bildanzeige.h"
 #include "ui/stil.h"
 
@@ -39,6 +41,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
             [&logik](const std::string& datei) { return logik.umgebung.ablage.pfad(datei); }, this));
     }
     strafformular();
+    lagen();
     geraetehinweis();
     befehlszeile();
     geraetealarm();
@@ -67,6 +70,7 @@ void Bahn1Fenster::kopf() {
     teil(f::nachlauflabel) = nachlauf;
     teil(f::uhrframe1) = new Uhranzeige(bahn.uhr1, 1, binder(), this);
     teil(f::uhrframe2) = new Uhranzeige(bahn.uhr2, 2, binder(), this);
+    restrunden();
     const auto pfad = [this](const std::string& datei) { return logik_.umgebung.ablage.pfad(datei); };
     teil(f::logobild) = binder().bildanzeige(bahn.logobild, "logobild", pfad);
     teil(f::wrpic1) = binder().bildanzeige(bahn.wrpic1, "wrpic1", pfad);
@@ -151,6 +155,7 @@ void Bahn1Fenster::hinweis_anordnen() {
     teil(f::cu_startframe)->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
     hinweistext_->setSchriftPx(geometrie.fenster[f::cu_startframe].schrift_px);
     teil(f::cu_startframe)->raise();
+    pause_anordnen();
 }
 
 void Bahn1Fenster::nachtabschaltung() {
@@ -230,7 +235,10 @@ QRect Bahn1Fenster::licht_ort() const {
 ansicht_geometrie Bahn1Fenster::aufteilung() const {
     ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
     inhalt.licht_der_pause = licht_der_pause_;
-    return ansicht_aufteilen(inhalt, width(), height());
+    inhalt.pause = mit_pause_;
+    ansicht_geometrie geometrie = ansicht_aufteilen(inhalt, width(), height());
+    bloecke_ordnen(geometrie, ordnung_);
+    return geometrie;
 }
 
 void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
@@ -241,9 +249,7 @@ void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
 
 void Bahn1Fenster::anordnen() {
     const ansicht_geometrie geometrie = aufteilung();
-    for (Spurblock* block : bloecke_) {
-        block->anordnen(geometrie);
-    }
+    bloecke_anordnen(geometrie, false);
     for (std::size_t i = 0; i < teile_.size(); ++i) {
         const auto name = static_cast<f>(i);
         const platz& ort = geometrie.fenster[name];
@@ -257,6 +263,7 @@ void Bahn1Fenster::anordnen() {
     }
     befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
     protokollknopf_anordnen();
+    restrunden_anordnen();
     hinweis_anordnen();
     alarm_anordnen();
     const platz& formular = geometrie.fenster[f::ch_strafframe];

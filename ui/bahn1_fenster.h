@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <array>
 #include <vector>
 
@@ -25,6 +26,8 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+    void hideEvent(QHideEvent* ereignis) override;
 
 private:
     void kopf();
@@ -35,6 +38,12 @@ private:
     void hinweis_anordnen();
     void geraetealarm();
     void alarm_anordnen();
+    void lagen();
+    void lagen_nachfuehren();
+    void bloecke_anordnen(const ansicht_geometrie& geometrie, bool gleitend);
+    void pause_anordnen();
+    void restrunden();
+    void restrunden_anordnen();
     void nachtabschaltung();
     void nacht_anordnen();
     /// Puts every widget where the layout has it for the window's size.
@@ -53,6 +62,12 @@ private:
     std::vector<TextAnzeige*> formular_;  ///< words of the penalty form
     QLineEdit* sekunden_ = nullptr;
     QPushButton* protokoll_ = nullptr;
+    QTimer lagetakt_;             ///< asks what the lanes are in, while the window is to be seen
+    Lagetafel* pause_ = nullptr;  ///< over all lanes
+    bool mit_pause_ = false;
+    spuren<int> ordnung_{};  ///< of the lanes, as they stand
+    TextAnzeige* rest_titel_ = nullptr;
+    TextAnzeige* rest_zahl_ = nullptr;
     TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
     TextAnzeige* alarm_ = nullptr;  ///< the timing device is gone
     bool licht_der_pause_ = false;

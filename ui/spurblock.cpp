@@ -1,12 +1,14 @@
 #include "ui/spurblock.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "ui/ampelfeld.h"
 #include "ui/bildanzeige.h"
+#include "ui/lagezeichen.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -35,6 +37,7 @@ Spurblock::Spurblock(bahn1& bahn, int spur, Binder& binder,
     rundenliste();
     anzeigen(spur_teil::straflabel, bahn.straflabel[spur], "straflabel" + nummer_)->setFett(true);
     flaeche();
+    lagetafel();
 }
 
 TextAnzeige* Spurblock::anzeigen(spur_teil name, steuerelement& element, const QString& widget_name) {
@@ -68,6 +71,7 @@ void Spurblock::kopf(const std::function<std::filesystem::path(const std::string
         teil(name) =
             new Ampelfeld(lampe, Ampelfeld::art::erlischt, widget_name + QString::number(index_), binder_, pfad, this);
     }
+    anzeigen(spur_teil::Label_schuld, bahn_.Label_schuld[spur_], "Label_schuld" + nummer_)->setFett(true);
     anzeigen(spur_teil::Label_platz, bahn_.Label_platz[spur_], "Label_platz" + nummer_)->setLeise();
     platzziffer();
     teil(spur_teil::ch_strafzeit_hacken) =
@@ -86,8 +90,36 @@ void Spurblock::platzziffer() {
         const bezeichnung& platz = bahn_.l_PosAnz.at(index_);
         anzeige->setText(QString::fromStdString(platz.text()));
         anzeige->setFarbe(stil::farbe_von(platz.schriftfarbe().value_or(0)));
-        anzeige->setPlakette(platz.text() == "1");  // the leader is found at a glance
+        plakette_setzen();
     });
+}
+
+void Spurblock::plakette_setzen() {  // the leader is found at a glance
+    static_cast<TextAnzeige*>(teil(spur_teil::l_PosAnz))->setPlakette(bahn_.lage[spur_].stand().fuehrt);
+}
+
+void Spurblock::lagetafel() {
+    tafel_ = new Lagetafel(this);
+    binder_.verbinden(bahn_.lage[spur_], tafel_, "lage" + nummer_, [this] { lage_zeigen(); });
+}
+
+void Spurblock::lage_zeigen() {
+    const spurlage& stand = bahn_.lage[spur_].stand();
+    const std::string& wort = bahn_.wort.lagen.at(static_cast<std::size_t>(stand.was));
+    tafel_->zeigen({stand.was, QString::fromStdString(ohne_trennstellen(wort)), QString::fromStdString(in_zeilen(wort)),
+                    QString::fromStdString(zahl_von(stand)), stand.stand / 1000.0});
+    plakette_setzen();
+    const bool draussen = stand.was == lage::disqualifiziert;
+    for (const spur_teil name : {spur_teil::namenslabel, spur_teil::l_PosAnz, spur_teil::zaehler, spur_teil::lrunde,
+                                 spur_teil::brunde, spur_teil::straflabel}) {
+        static_cast<TextAnzeige*>(teil(name))->setBlass(draussen);
+    }
+    const bool da = stand.was != lage::faehrt && stand.was != lage::pause;  // that stands over all lanes at once
+    tafel_->setVisible(da);
+    if (std::exchange(mit_tafel_, da) != da) {
+        teile_anordnen();
+    }
+    update();
 }
 
 void Spurblock::zaehler() {
@@ -105,10 +137,11 @@ void Spurblock::zaehler() {
 void Spurblock::zaehler_anordnen() {
     const bezeichnung& runden = bahn_.zaehler[spur_];
     auto* anzeige = static_cast<TextAnzeige*>(teil(spur_teil::zaehler));
-    const rechteck& ort = runden.links() < bahn_.zaehler_links ? zaehler_weit_ : zaehler_ort_.ort;
+    const rechteck& ort =
+        runden.links() < bahn_.zaehler_links ? geometrie_.zaehler_weit : geometrie_.spur[spur_teil::zaehler].ort;
     anzeige->setGeometry(ort.x, ort.y, ort.breite, ort.hoehe);
     const double anteil = runden.schriftgroesse() > 0 ? runden.schriftgroesse() / bahn_.zaehler_schrift : 1;
-    anzeige->setSchriftPx(static_cast<int>(std::lround(zaehler_ort_.schrift_px * anteil)));
+    anzeige->setSchriftPx(static_cast<int>(std::lround(geometrie_.spur[spur_teil::zaehler].schrift_px * anteil)));
 }
 
 void Spurblock::tank() {
@@ -165,17 +198,32 @@ void Spurblock::flaeche() {
     });
 }
 
-void Spurblock::anordnen(const ansicht_geometrie& geometrie) {
+void Spurblock::anordnen(const ansicht_geometrie& geometrie, bool gleitend) {
     const rechteck& block = geometrie.block[spur_];
+    if (gleitend && size() == QSize(block.breite, block.hoehe)) {
+        constexpr int dauer_ms = 600;
+        fahrt_.stop();
+        fahrt_.setDuration(dauer_ms);
+        fahrt_.setEasingCurve(QEasingCurve::InOutCubic);
+        fahrt_.setStartValue(pos());
+        fahrt_.setEndValue(QPoint(block.x, block.y));
+        fahrt_.start();
+        return;
+    }
+    fahrt_.stop();
     setGeometry(block.x, block.y, block.breite, block.hoehe);
-    zaehler_ort_ = geometrie.spur[spur_teil::zaehler];
-    zaehler_weit_ = geometrie.zaehler_weit;
-    streifen_ = geometrie.streifen;
+    geometrie_ = geometrie;
+    teile_anordnen();
+    update();
+}
+
+void Spurblock::teile_anordnen() {
+    const plaetze<spur_teil>& orte = mit_tafel_ ? geometrie_.spur_tafel : geometrie_.spur;
     const QWidget* tankrahmen = teil(spur_teil::frame_tank);
-    const rechteck& tank = geometrie.spur[spur_teil::frame_tank].ort;
+    const rechteck& tank = orte[spur_teil::frame_tank].ort;
     for (std::size_t i = 0; i < teile_.size(); ++i) {
         QWidget* widget = teile_.at(i);
-        const platz& ort = geometrie.spur[static_cast<spur_teil>(i)];
+        const platz& ort = orte[static_cast<spur_teil>(i)];
         const bool im_tank = widget->parentWidget() == tankrahmen;
         widget->setGeometry(ort.ort.x - (im_tank ? tank.x : 0), ort.ort.y - (im_tank ? tank.y : 0), ort.ort.breite,
                             ort.ort.hoehe);
@@ -184,8 +232,10 @@ void Spurblock::anordnen(const ansicht_geometrie& geometrie) {
         }
     }
     zaehler_anordnen();
-    liste_anordnen(geometrie.spur[spur_teil::t_liste]);
-    const int kante = geometrie.spur[spur_teil::ch_strafzeit_hacken].ort.breite;
+    const rechteck& tafel = geometrie_.tafel;
+    tafel_->setGeometry(tafel.x, tafel.y, tafel.breite, tafel.hoehe);
+    liste_anordnen(orte[spur_teil::t_liste]);
+    const int kante = orte[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font
         ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }"
                                 "QCheckBox::indicator:focus { border: 4px solid #c41e2a; }")
@@ -218,12 +268,31 @@ void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.setRenderHint(QPainter::Antialiasing);
     const QRectF rand = QRectF(rect()).adjusted(3, 3, -3, -3);
     const bool im_ziel = randfarbe_.isValid();
+    const lagefarbe farbe = bild_von(bahn_.lage[spur_].stand().was).farbe;
+    if (farbe == lagefarbe::strafe || farbe == lagefarbe::aus) {  // locked or out: barred all round
+        QPainterPath rahmen;
+        rahmen.addRoundedRect(rand, 10, 10);
+        maler.setClipPath(rahmen);
+        schraffieren(maler, rand, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white), Qt::black);
+        maler.setClipping(false);
+        maler.setPen(Qt::NoPen);
+        maler.setBrush(grundfarbe_);
+        maler.drawRect(rand.adjusted(8, 8, -8, -8));
+        streifen_malen(maler);
+        return;
+    }
     maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), im_ziel ? 5 : 1));
     maler.setBrush(grundfarbe_);
     maler.drawRoundedRect(rand, 10, 10);
+    streifen_malen(maler);
+}
+
+void Spurblock::streifen_malen(QPainter& maler) const {
     maler.setPen(Qt::NoPen);
     maler.setBrush(spurfarbe_);
-    maler.drawRoundedRect(QRectF(streifen_.x, streifen_.y, streifen_.breite, streifen_.hoehe), 3, 3);
+    maler.drawRoundedRect(
+        QRectF(geometrie_.streifen.x, geometrie_.streifen.y, geometrie_.streifen.breite, geometrie_.streifen.hoehe), 3,
+        3);
 }
 
 }  // namespace tarvel::ui

@@ -56,6 +56,13 @@ void TextAnzeige::setLeise() {
     update();
 }
 
+void TextAnzeige::setBlass(bool blass) {
+    if (blass_ != blass) {
+        blass_ = blass;
+        update();
+    }
+}
+
 void TextAnzeige::setZweizeilig() {
     zweizeilig_ = true;
     update();
@@ -118,7 +125,8 @@ void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) co
 void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::TextAntialiasing);
-    maler.setOpacity(deckkraft_);
+    constexpr double blass = 0.5;
+    maler.setOpacity(blass_ ? blass : deckkraft_);
     QFont schrift = schrift_;
     QString text = text_;
     const QFontMetricsF masse(schrift);

@@ -19,6 +19,8 @@ public:
     void setFett(bool fett);
     /// Fainter than its colour: a caption, which gives way to what it names.
     void setLeise();
+    /// It counts no more.
+    void setBlass(bool blass);
     /// A text that is too long for its place breaks at a gap, where that leaves it larger.
     void setZweizeilig();
     void setFarbe(const QColor& farbe);
@@ -50,6 +52,7 @@ private:
     QColor rahmen_;
     bool plakette_ = false;
     double deckkraft_ = 1;
+    bool blass_ = false;
     bool zweizeilig_ = false;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };

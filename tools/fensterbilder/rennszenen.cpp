@@ -118,6 +118,57 @@ QWidget& im_ziel(buehne& b) {
     return b.o.bahn1;
 }
 
+/// Each lane in another state, as far as there are lanes for them.
+template <bool zeilen, bool mit_tank, int... spuren>
+QWidget& lagen(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.form1.t_aktiv.gesetzt(mit_tank);
+    b.p.einst.tank_inhalt = 60;
+    b.rundenrennen(40000, "30", {spuren...});
+    int stelle = 0;
+    for (const int spur : {spuren...}) {
+        spur_zustand& zustand = b.t.spur(spur);
+        zustand.strom_aus = true;
+        switch (++stelle) {
+            case 1:
+                zustand.ch_strafe_rest = 10000;
+                break;
+            case 2:
+                zustand.disqualifiziert = true;
+                b.t.bahn().zaehler[spur].text(disqualifiziert_text);
+                break;
+            case 3:
+                zustand.tank_kontakt = true;
+                zustand.tankt_seit = 1;
+                zustand.tank_inhalt = 34;
+                break;
+            case 4:
+                zustand.ziel_erreicht = true;
+                b.t.bahn().bahnshape[spur].randfarbe(farben::rot);
+                break;
+            case 5:
+                zustand.fruehstart_sperre = true;
+                break;
+            default:
+                zustand.tank_strafe_aktiv = true;
+                break;
+        }
+    }
+    return b.o.bahn1;
+}
+
+template <bool zeilen, int... spuren>
+QWidget& pause_kurz(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.rundenrennen(40000, "30", {spuren...});
+    b.t.spur(2).disqualifiziert = true;
+    b.t.bahn().zaehler[2].text(disqualifiziert_text);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(42000);
+    return b.o.bahn1;
+}
+
 void einfahren_zeigen(buehne& b, bool runden, int laenge, std::initializer_list<int> spuren) {
     b.p.einst.w_edauer_runden = runden;
     b.p.einst.w_edauer = laenge;
@@ -228,6 +279,19 @@ const std::vector<szeneneintrag> alle{
          return tanken<>(b);
      }},
     {"rennen_pause", pause_ohne_ampel},
+    {"lagen_sechs", lagen<false, false, 1, 2, 3, 4, 5, 6>},
+    {"lagen_sechs_tank", lagen<false, true, 1, 2, 3, 4, 5, 6>},
+    {"lagen_vier", lagen<false, true, 1, 2, 3, 4>},
+    {"lagen_zwei", lagen<false, true, 2, 5>},
+    {"lagen_zeilen_sechs", lagen<true, true, 1, 2, 3, 4, 5, 6>},
+    {"lagen_zeilen_vier", lagen<true, false, 1, 2, 3, 4>},
+    {"lagen_zeilen_zwei", lagen<true, true, 2, 5>},
+    {"lagen_allein", lagen<false, true, 4>},
+    {"pause_sechs", pause_kurz<false, 1, 2, 3, 4, 5, 6>},
+    {"pause_vier", pause_kurz<false, 1, 2, 3, 4>},
+    {"pause_zwei", pause_kurz<false, 1, 2>},
+    {"pause_zeilen_sechs", pause_kurz<true, 1, 2, 3, 4, 5, 6>},
+    {"pause_zeilen_zwei", pause_kurz<true, 1, 2>},
     {"rennen_pause_taster",
      [](buehne& b) -> QWidget& {
          b.rennen(40000);

@@ -1,0 +1,142 @@
+#include "race/rennlage.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "core/text.h"
+
+namespace tarvel {
+namespace {
+
+/// Begun seconds: the last one counts down to the end.
+int sekunden_auf(zeit_ms rest) {
+    constexpr zeit_ms sekunde = 1000;
+    return static_cast<int>((std::max<zeit_ms>(rest, 1) + sekunde - 1) / sekunde);
+}
+
+}  // namespace
+
+int rennlage::sekunden_bis_strom(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const bool zaehlt = um_.einst.fruehstart_option == fruehstart_aktion::stromunterbrechung;
+    return zustand.strom_aus && zaehlt ? sekunden_auf(dauer_ms(fruehstart_.rest()).count()) : 0;
+}
+
+bool rennlage::tankt(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    return zustand.tankt_seit != 0 && zustand.tank_kontakt && !um_.zustand.chaos_aktiv &&
+           zustand.tank_inhalt < um_.einst.tank_inhalt;
+}
+
+spurlage rennlage::lage_von(int spur) const {
+    constexpr zeit_ms zugabe_ms = 100;  // beyond the seconds that were given
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    if (!um_.param.spur_aktiv[spur]) {
+        return {};
+    }
+    if (zustand.disqualifiziert) {
+        return {lage::disqualifiziert};
+    }
+    if (zustand.ziel_erreicht) {
+        return {lage::ziel, plaetze_.position(feld_index(spur))};
+    }
+    if (um_.zustand.rennen_beendet) {
+        return {};
+    }
+    if (zustand.ch_strafe_rest > 0) {
+        return {lage::strafe, sekunden_auf(zustand.ch_strafe_rest - zugabe_ms)};
+    }
+    if (zustand.tank_strafe_aktiv) {
+        return {lage::leer, sekunden_auf(dauer_ms(um_.einst.tank_strafzeit - zustand.tank_strafzaehler).count())};
+    }
+    if (zustand.fruehstart_sperre) {
+        return {lage::fruehstart, sekunden_bis_strom(spur)};
+    }
+    if (tankt(spur)) {
+        const double anteil = zustand.tank_inhalt / um_.einst.tank_inhalt;
+        return {lage::box, static_cast<int>(zustand.tank_inhalt), static_cast<int>(std::lround(anteil * 1000))};
+    }
+    if (um_.zustand.chaos_aktiv) {
+        return {lage::pause};
+    }
+    const bool leer = um_.param.tank_aktiv && hatte_sprit_[spur] && zustand.tank_inhalt <= 0;
+    return leer ? spurlage{lage::leer} : spurlage{};
+}
+
+int rennlage::fuehrende() const {
+    int erste = 0;
+    for (const int spur : alle_spuren) {
+        const bool dabei = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
+                           um_.zustand.konto.runden(spur) >= 0;
+        if (dabei && (erste == 0 || plaetze_.position(feld_index(spur)) < plaetze_.position(feld_index(erste)))) {
+            erste = spur;
+        }
+    }
+    return erste;
+}
+
+spuren<int> rennlage::ordnung() const {
+    spuren<int> ordnung;
+    for (const int spur : alle_spuren) {
+        ordnung[spur] = um_.einst.rennbild.nach_platz ? plaetze_.position(feld_index(spur)) : spur;
+    }
+    return ordnung;
+}
+
+void rennlage::nachfuehren() {
+    const int erste = fuehrende();
+    for (const int spur : alle_spuren) {
+        hatte_sprit_[spur] =
+            !um_.zustand.rennen_beendet && (hatte_sprit_[spur] || um_.zustand.spur[spur].tank_inhalt > 0);
+        spur_zeigen(spur, erste);
+    }
+    pause_zeigen();
+    restrunden_zeigen();
+}
+
+void rennlage::spur_zeigen(int spur, int fuehrende) {
+    spurlage neu = um_.einst.rennbild.worte ? lage_von(spur) : spurlage{};
+    neu.fuehrt = spur == fuehrende;
+    lage_anzeige& anzeige = um_.bahn.lage[spur];
+    const bool bleibt = anzeige.stand() == neu && anzeige.sichtbar() == (neu.was != lage::faehrt);
+    if (bleibt) {
+        return;
+    }
+    const std::string zahl = zahl_von(neu);
+    const std::string wort = ohne_trennstellen(um_.bahn.wort.lagen.at(static_cast<std::size_t>(neu.was)));
+    anzeige.text(zahl.empty() ? wort : wort + " " + zahl);
+    anzeige.sichtbar(neu.was != lage::faehrt);
+    anzeige.stand(neu);
+}
+
+void rennlage::pause_zeigen() {
+    const bool da = um_.einst.rennbild.worte && um_.zustand.chaos_aktiv && !um_.zustand.rennen_beendet;
+    bezeichnung& dauer = um_.bahn.pausendauer;
+    if (da) {
+        constexpr int minute = 60;
+        const zeit_ms seit = std::max<zeit_ms>(um_.zeit.messzeit_lesen() - um_.zustand.pause.start, 0);
+        const auto sekunden = static_cast<int>(seit / 1000);
+        if (sekunden != pausensekunden_ || dauer.text().empty()) {
+            dauer.text(std::to_string(sekunden / minute) + ":" + ziffern(sekunden % minute, 2));
+            pausensekunden_ = sekunden;
+        }
+    }
+    dauer.sichtbar(da);
+}
+
+void rennlage::restrunden_zeigen() {
+    bezeichnung& rest = um_.bahn.restrunden;
+    if (!rest.sichtbar()) {
+        return;
+    }
+    const int erste = fuehrende();
+    const int gefahren = erste == 0 ? 0 : um_.zustand.konto.runden(erste);
+    const int runden = std::max(um_.param.renn_ziel.runden() - gefahren, 0);
+    if (runden != restrunden_ || rest.text().empty()) {
+        rest.text(std::to_string(runden));
+        restrunden_ = runden;
+    }
+}
+
+}  // namespace tarvel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "race/fruehstartstrafe.h"
+#include "race/positionen.h"
+#include "race/spurlage.h"
+#include "race/umgebung.h"
+
+namespace tarvel {
+
+/// Tells what each lane is in, from the state of the race, and changes nothing of it. The race tick has no part in
+/// this: whoever draws the race asks for it, a few times a second, from outside all that the race's log holds.
+class rennlage {
+public:
+    rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart)
+        : um_(um), plaetze_(plaetze), fruehstart_(fruehstart) {}
+
+    /// Brings the words of the race window up to date.
+    void nachfuehren();
+    spurlage lage_von(int spur) const;
+    /// By what the blocks of the lanes are put in order: their places where that is chosen, else their numbers.
+    spuren<int> ordnung() const;
+
+private:
+    int sekunden_bis_strom(int spur) const;
+    bool tankt(int spur) const;
+    /// The best placed lane that is in the race and has begun to count; 0 for none.
+    int fuehrende() const;
+    void spur_zeigen(int spur, int fuehrende);
+    void pause_zeigen();
+    void restrunden_zeigen();
+
+    renn_umgebung um_;
+    const positionen& plaetze_;
+    const fruehstartstrafe& fruehstart_;
+    spuren<bool> hatte_sprit_{};  ///< in this race: a device may not have told its levels yet
+    int pausensekunden_ = 0;
+    int restrunden_ = 0;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,136 @@
+#include "race/rennlage.h"
+
+#include "tests/startampel_probe.h"
+
+namespace tarvel {
+namespace {
+
+class Rennlage : public test::StartampelProbe {
+protected:
+    Rennlage() { t.p.einst.chaosampel_an = false; }
+    /// What the lane says of itself now; empty while it drives.
+    std::string sagt(int spur) {
+        t.p.rennen.lage.nachfuehren();
+        const lage_anzeige& anzeige = t.bahn().lage[spur];
+        EXPECT_EQ(anzeige.sichtbar(), !anzeige.text().empty());
+        return anzeige.text();
+    }
+    int fuehrt() {
+        t.p.rennen.lage.nachfuehren();
+        int wer = 0;
+        for (const int spur : alle_spuren) {
+            wer += t.bahn().lage[spur].stand().fuehrt ? spur : 0;
+        }
+        return wer;
+    }
+    void fahren(const char* rennart, const char* dauer) {
+        t.starten(rennart, dauer, {1, 2, 3});
+        t.runde_nach(1000, "123");
+    }
+};
+
+TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
+    t.p.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
+    t.p.einst.fruehstart_strafzeit = 5s;
+    beginnen(1);
+    t.maschine.laufen(6000);
+    EXPECT_EQ(sagt(2), "");
+    ampeltaste('2');
+    EXPECT_EQ(sagt(2), "FRÜHSTART 5 s");
+    bis_gruen(6002);
+    t.maschine.laufen(2100);
+    EXPECT_EQ(sagt(2), "FRÜHSTART 3 s");
+    EXPECT_EQ(sagt(1), "");
+    t.maschine.laufen(3000);
+    EXPECT_EQ(sagt(2), "FRÜHSTART") << "drives, and counts nothing yet";
+    t.maschine.laufen(6000);
+    EXPECT_EQ(sagt(2), "");
+    t.bahn().Command2.klicken();
+
+    t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
+    beginnen(1);
+    t.maschine.laufen(6000);
+    ampeltaste('3');
+    EXPECT_EQ(sagt(3), "FRÜHSTART");
+    EXPECT_EQ(sagt(1), "");
+    t.p.startampel.fenster.abbrampel.klicken();
+    EXPECT_EQ(sagt(3), "");
+}
+
+TEST_F(Rennlage, PauseStehtUeberAllenUndDieStrafeDanachZaehltHerunter) {
+    t.p.einst.chaos_strafe_strom = false;
+    fahren("Zeit", "5");
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(3100);
+    EXPECT_EQ(sagt(1), "PAUSE");
+    EXPECT_TRUE(t.bahn().pausendauer.sichtbar());
+    EXPECT_EQ(t.bahn().pausendauer.text(), "0:03");
+    EXPECT_TRUE(t.bahn().Label_schuld[2].sichtbar() && !t.bahn().Label_schuld[4].sichtbar());
+    t.bahn().ch_strafzeit_hacken[2].umschalten();
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(sagt(2), "STRAFE 10 s");
+    EXPECT_EQ(sagt(1), "");
+    EXPECT_FALSE(t.bahn().pausendauer.sichtbar());
+    t.maschine.laufen(4500);
+    EXPECT_EQ(sagt(2), "STRAFE 6 s");
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(65000);
+    EXPECT_EQ(sagt(2), "STRAFE 6 s") << "a penalty stands still in a pause";
+    EXPECT_EQ(t.bahn().pausendauer.text(), "1:05");
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(6000);
+    EXPECT_EQ(sagt(2), "");
+    t.p.einst.rennbild.worte = false;
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(sagt(1), "");
+    EXPECT_FALSE(t.bahn().pausendauer.sichtbar());
+}
+
+TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_wartezeit = {};
+    fahren("Zeit", "5");
+    sagt(1);
+    t.spur(1).tank_inhalt = 30;
+    t.taste("q");
+    t.maschine.laufen(1000);
+    const spurlage vorher = (sagt(1), t.bahn().lage[1].stand());
+    EXPECT_EQ(vorher.was, lage::box);
+    t.maschine.laufen(1000);
+    EXPECT_EQ(sagt(1), "BOX " + std::to_string(vorher.zahl + 10) + " l");
+    EXPECT_GT(t.bahn().lage[1].stand().stand, vorher.stand);
+    t.spur(2).tank_inhalt = 1;
+    t.runde_nach(8000, "2");
+    EXPECT_EQ(sagt(2), "LEER 10 s");
+    t.maschine.laufen(10000);
+    EXPECT_EQ(sagt(2), "LEER") << "has its power back, and no fuel";
+}
+
+TEST_F(Rennlage, ZielHatSeinenPlatzUndWerDraussenIstFuehrtNicht) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::disqualifikation;
+    t.p.einst.zielmodus_erster = false;
+    t.einrichten("Runden", "3", {1, 2, 3});
+    EXPECT_EQ(fuehrt(), 0) << "nobody leads before the start";
+    t.bahn().Command1.klicken();
+    t.runde_nach(1000, "123");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(fuehrt(), 1);
+    EXPECT_EQ(t.bahn().restrunden.text(), "2");
+    t.spur(1).tank_inhalt = 1;
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(sagt(1), "DISQUALIFIZIERT");
+    EXPECT_EQ(t.bahn().l_PosAnz[0].text(), "1") << "keeps its place until it is overtaken";
+    EXPECT_EQ(fuehrt(), 2);
+    EXPECT_EQ(t.bahn().restrunden.text(), "3") << "the leader's";
+    for (int runde = 0; runde < 3; ++runde) {
+        t.runde_nach(8000, "2");
+    }
+    EXPECT_EQ(sagt(2), "ZIEL 1.");
+    EXPECT_EQ(sagt(3), "");
+}
+
+}  // namespace
+}  // namespace tarvel
