@@ -13,17 +13,9 @@ constexpr char startzeichen = ':';
 constexpr char endzeichen = ';';
 constexpr std::size_t folge_max = 250;
 constexpr int gruene_lampe = 6;
-constexpr int lampen_vor_gruen = 3;  // the shortest start
 constexpr int pin_max = 99;
 
 using pins = at2560_pins;
-
-at2560_einstellung passend(at2560_einstellung einst) {
-    if (einst.rennen.wagen.size() > static_cast<std::size_t>(at2560::spuren)) {
-        einst.rennen.wagen.resize(at2560::spuren);
-    }
-    return einst;
-}
 
 std::string nummer_text(const char* vor, int nummer, bool an) {
     return vor + (nummer == 0 ? std::string("alle") : std::to_string(nummer)) + (an ? " an" : " aus");
@@ -31,7 +23,7 @@ std::string nummer_text(const char* vor, int nummer, bool an) {
 
 }  // namespace
 
-at2560::at2560(const at2560_einstellung& einst) : geraet(passend(einst).rennen), einst_(einst) {
+at2560::at2560(const at2560_einstellung& einst) : geraet(einst.rennen, spuren), einst_(einst) {
     ruhezustand();
 }
 

@@ -10,7 +10,7 @@ constexpr std::size_t befehl_max = 32;
 constexpr int lampenzahl = 5;
 constexpr std::size_t status_lang = 19;
 constexpr std::size_t status_kurz = 17;
-constexpr std::uint64_t promille = 1000;
+constexpr std::uint64_t zufallspromille = 1000;
 
 /// A nibble from 0 to 15 on the line: the digits, and behind "9" the characters that follow it.
 char nibblezeichen(unsigned nibble) {
@@ -26,10 +26,7 @@ char summenzeichen(const std::string& satz) {
     return nibblezeichen(summe);
 }
 
-control_unit_einstellung passend(control_unit_einstellung einst, std::size_t wagen_max) {
-    if (einst.rennen.wagen.size() > wagen_max) {
-        einst.rennen.wagen.resize(wagen_max);
-    }
+control_unit_einstellung ausgestattet(control_unit_einstellung einst) {
     for (wagen_einstellung& w : einst.rennen.wagen) {
         if (!einst.mit_sensor) {
             w.sektoren = {-1, -1};
@@ -44,7 +41,7 @@ control_unit_einstellung passend(control_unit_einstellung einst, std::size_t wag
 }  // namespace
 
 control_unit::control_unit(const control_unit_einstellung& einst)
-    : geraet(passend(einst, wagen_max).rennen), einst_(einst), zufall_(einst.rennen.saat) {
+    : geraet(ausgestattet(einst).rennen, wagen_max), einst_(einst), zufall_(einst.rennen.saat) {
     tank_.fill(einst_.tank_voll);
     feld_.strom(0, true);
     if (einst_.rennen.sofort) {
@@ -280,7 +277,7 @@ std::string control_unit::statussatz() const {
 }
 
 void control_unit::mit_vorspann(const std::string& satz) {
-    const std::uint64_t wurf = zufall_() % promille;
+    const std::uint64_t wurf = zufall_() % zufallspromille;
     const bool kurz = zufall_() % 2 == 0;
     std::string bytes;
     if (wurf < static_cast<std::uint64_t>(std::max(einst_.vorspann_promille, 0))) {
@@ -289,7 +286,7 @@ void control_unit::mit_vorspann(const std::string& satz) {
     bytes += satz;
     for (char& zeichen : bytes) {
         if (einst_.stoerung_promille > 0 &&
-            zufall_() % promille < static_cast<std::uint64_t>(einst_.stoerung_promille)) {
+            zufall_() % zufallspromille < static_cast<std::uint64_t>(einst_.stoerung_promille)) {
             zeichen = static_cast<char>(zufall_() & 0xFFU);
         }
     }

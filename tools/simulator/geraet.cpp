@@ -1,9 +1,13 @@
 #include "tools/simulator/geraet.h"
 
+#include <algorithm>
+
 namespace tarvel::simulator {
 
-geraet::geraet(const rennen_einstellung& rennen)
-    : feld_(rennen.wagen, rennen.saat),
+geraet::geraet(const rennen_einstellung& rennen, std::size_t wagen_max)
+    : feld_({rennen.wagen.begin(),
+             rennen.wagen.begin() + static_cast<std::ptrdiff_t>(std::min(rennen.wagen.size(), wagen_max))},
+            rennen.saat),
       uhr_start_(rennen.uhr_start),
       uhr_(rennen.uhr_start),
       gang_ppm_(rennen.gang_ppm) {

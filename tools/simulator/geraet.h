@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -19,11 +20,15 @@ struct rennen_einstellung {
     bool sofort = false;         ///< the cars need no start
 };
 
+/// A start of fewer lamps is none: the shortest has these.
+inline constexpr int lampen_vor_gruen = 3;
+
 /// A timing device on the other end of the line. It has a clock of its own that goes on with `weiter` alone, a
 /// millisecond at a time, so that the size of the caller's steps makes no difference.
 class geraet {
 public:
-    explicit geraet(const rennen_einstellung& rennen);
+    /// Cars beyond `wagen_max` do not drive.
+    geraet(const rennen_einstellung& rennen, std::size_t wagen_max);
     geraet(const geraet&) = delete;
     geraet& operator=(const geraet&) = delete;
     virtual ~geraet() = default;

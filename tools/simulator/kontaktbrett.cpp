@@ -9,18 +9,12 @@ namespace tarvel::simulator {
 namespace {
 
 constexpr zeit_ms bis_auf_weiteres = std::numeric_limits<zeit_ms>::max();
-constexpr int lampen_vor_gruen = 3;  // the shortest start
 constexpr int spuren = 4;
-
-kontaktbrett_einstellung passend(kontaktbrett_einstellung einst) {
-    einst.rennen.wagen.resize(std::min<std::size_t>(einst.rennen.wagen.size(), spuren));
-    return einst;
-}
 
 }  // namespace
 
 kontaktbrett::kontaktbrett(const kontaktbrett_einstellung& einst)
-    : geraet(passend(einst).rennen), einst_(einst), zu_bis_(einst.eingaenge.size(), 0) {
+    : geraet(einst.rennen, spuren), einst_(einst), zu_bis_(einst.eingaenge.size(), 0) {
     for (int wagen = 1; wagen <= feld_.anzahl(); ++wagen) {
         const bool schaltbar = std::any_of(einst_.ausgaenge.begin(), einst_.ausgaenge.end(), [&](const auto& stelle) {
             return stelle.was == klemme::strom && stelle.nummer == wagen;

@@ -8,7 +8,6 @@ namespace {
 constexpr int kontakt = 4;
 constexpr int bahnen_im_kontakt = 4;
 constexpr int lampen_eines_starts = 2;
-constexpr int lampen_vor_gruen = 3;
 constexpr zeit_ms gleichzeitig_ms = 50;  // lamps that are lit together are no countdown
 
 klemme klemme_von(const wagen_ereignis& was) {
@@ -32,16 +31,9 @@ int sensorposition(klemme wo) {
     return wo == klemme::ziel ? 1 : wo == klemme::tank_ein ? tank_ein : wo == klemme::tank_aus ? tank_aus : 0;
 }
 
-m4x4_einstellung passend(m4x4_einstellung einst) {
-    if (einst.rennen.wagen.size() > static_cast<std::size_t>(m4x4::autos)) {
-        einst.rennen.wagen.resize(m4x4::autos);
-    }
-    return einst;
-}
-
 }  // namespace
 
-m4x4::m4x4(const m4x4_einstellung& einst) : geraet(passend(einst).rennen), einst_(einst) {
+m4x4::m4x4(const m4x4_einstellung& einst) : geraet(einst.rennen, autos), einst_(einst) {
     neustart();
 }
 

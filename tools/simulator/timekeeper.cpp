@@ -7,15 +7,7 @@
 namespace tarvel::simulator {
 namespace {
 
-constexpr std::size_t befehl_max = 100;
-constexpr int lampen_vor_gruen = 3;  // the shortest start
-
-rennen_einstellung passend(rennen_einstellung rennen) {
-    if (rennen.wagen.size() > static_cast<std::size_t>(timekeeper::spuren)) {
-        rennen.wagen.resize(timekeeper::spuren);
-    }
-    return rennen;
-}
+constexpr std::size_t tk_befehl_max = 100;
 
 /// The number of the sensor that sees it; 0 where there is none.
 int verdrahtet(const wagen_ereignis& was) {
@@ -45,7 +37,7 @@ std::optional<int> nummer_in(const std::string& text, const std::string& vor, co
 
 }  // namespace
 
-timekeeper::timekeeper(const rennen_einstellung& rennen) : geraet(passend(rennen)), rennen_(rennen) {}
+timekeeper::timekeeper(const rennen_einstellung& rennen) : geraet(rennen, spuren), rennen_(rennen) {}
 
 void timekeeper::verbunden() {
     uhr_neu();
@@ -70,7 +62,7 @@ void timekeeper::empfangen(std::string_view bytes) {
             const std::string text = eingang_.substr(1);
             eingang_.clear();
             befehl(text);
-        } else if (!eingang_.empty() && eingang_.size() < befehl_max) {
+        } else if (!eingang_.empty() && eingang_.size() < tk_befehl_max) {
             eingang_ += c;
         }
     }

@@ -10,16 +10,9 @@ constexpr zeit_ms frage_ms = 200;     // and one that is not yet asks
 constexpr std::int64_t zaehler = 24;  // 4800 ticks in 1000 ms
 constexpr std::int64_t nenner = 5;
 
-rc_box_einstellung passend(rc_box_einstellung einst) {
-    if (einst.rennen.wagen.size() > static_cast<std::size_t>(rc_box::spuren)) {
-        einst.rennen.wagen.resize(rc_box::spuren);
-    }
-    return einst;
-}
-
 }  // namespace
 
-rc_box::rc_box(const rc_box_einstellung& einst) : geraet(passend(einst).rennen), einst_(einst) {
+rc_box::rc_box(const rc_box_einstellung& einst) : geraet(einst.rennen, spuren), einst_(einst) {
     feld_.strom(0, true);
     if (einst_.rennen.sofort) {
         feld_.gruen();
