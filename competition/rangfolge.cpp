@@ -16,11 +16,11 @@ int mehr(std::int64_t vorderer, std::int64_t hinterer) {
     return static_cast<int>(hinterer > vorderer) - static_cast<int>(hinterer < vorderer);
 }
 
-int meter(const fahrt& a, const fahrt& b) {
+int meter_vorn(const fahrt& a, const fahrt& b) {
     return mehr(a.meter, b.meter);
 }
 
-int runden(const fahrt& a, const fahrt& b) {
+int runden_vorn(const fahrt& a, const fahrt& b) {
     return mehr(a.runden, b.runden);
 }
 
@@ -29,22 +29,22 @@ int kuerzer(zeit_ms vorderer, zeit_ms hinterer) {
     return hinterer == 0 && vorderer != 0 ? -1 : mehr(hinterer, vorderer);
 }
 
-int zeit(const fahrt& a, const fahrt& b) {
+int zeit_vorn(const fahrt& a, const fahrt& b) {
     return kuerzer(a.zeit, b.zeit);
 }
 
-int beste(const fahrt& a, const fahrt& b) {
+int beste_vorn(const fahrt& a, const fahrt& b) {
     return kuerzer(a.beste, b.beste);
 }
 
 int beste_zuerst(const fahrt& a, const fahrt& b) {
-    return a.beste == 0 && b.beste != 0 ? 1 : beste(a, b);
+    return a.beste == 0 && b.beste != 0 ? 1 : beste_vorn(a, b);
 }
 
 using schluesselfolge = std::array<schluessel, 4>;
-constexpr schluesselfolge nach_metern{meter, runden, zeit, beste};
-constexpr schluesselfolge nach_runden{runden, meter, zeit, beste};
-constexpr schluesselfolge nach_bester{beste_zuerst, meter, runden, zeit};
+constexpr schluesselfolge nach_metern{meter_vorn, runden_vorn, zeit_vorn, beste_vorn};
+constexpr schluesselfolge nach_runden{runden_vorn, meter_vorn, zeit_vorn, beste_vorn};
+constexpr schluesselfolge nach_bester{beste_zuerst, meter_vorn, runden_vorn, zeit_vorn};
 
 bool geht_vor(const schluesselfolge& folge, const fahrt& hinterer, const fahrt& vorderer) {
     for (const schluessel einer : folge) {

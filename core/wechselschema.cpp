@@ -10,8 +10,8 @@ namespace {
 constexpr std::string_view schema_datei = "Wechselschema.ws";
 constexpr std::string_view trenner = " :  ";
 constexpr std::size_t zeichen_anzahl = 7;
-constexpr std::size_t zeilen_max = 3000;
-constexpr std::size_t name_laenge_max = 60;
+constexpr std::size_t schemazeilen_max = 3000;
+constexpr std::size_t schemaname_laenge_max = 60;
 
 /// Lane or pause of a mark in the file, 0 for any other sign.
 int marke_lesen(char zeichen) {
@@ -82,13 +82,14 @@ std::string wechselschema_anzeige(std::string_view name, const wechsel_folge& fo
 
 std::vector<wechselschema> wechselschemas_lesen(const dateien& ablage, std::string_view ungueltig, bool& gelesen) {
     std::vector<wechselschema> alle{{std::string(wechsel_standard_text), wechsel_standard}};
-    const auto zeilen = ablage.zeilen_lesen(schema_datei, zeilen_max);
+    const auto zeilen = ablage.zeilen_lesen(schema_datei, schemazeilen_max);
     gelesen = zeilen.has_value();
     for (std::size_t i = 0; zeilen && i < zeilen->size(); ++i) {
         const std::string& name = zeilen->at(i);
         if (name.starts_with('#')) {
             const std::string_view marken = i + 1 < zeilen->size() ? std::string_view(zeilen->at(i + 1)) : "";
-            alle.push_back(eintrag_lesen(links(std::string_view(name).substr(1), name_laenge_max), marken, ungueltig));
+            alle.push_back(
+                eintrag_lesen(links(std::string_view(name).substr(1), schemaname_laenge_max), marken, ungueltig));
         }
     }
     return alle;
@@ -106,7 +107,7 @@ schema_ablage wechselschema_speichern(const dateien& ablage, const std::vector<w
     for (std::size_t i = 1; i < folge.size(); ++i) {
         marken += marke(folge.at(i));
     }
-    auto zeilen = ablage.zeilen_lesen(schema_datei, zeilen_max);
+    auto zeilen = ablage.zeilen_lesen(schema_datei, schemazeilen_max);
     if (!zeilen && ablage.gibt_es(schema_datei)) {
         return schema_ablage::nicht_geschrieben;  // what cannot be read must not be written over
     }

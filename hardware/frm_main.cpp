@@ -7,16 +7,16 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t zeilen_max = 400;
+constexpr std::size_t suchzeilen_max = 400;
 constexpr zeit_ms leuchtdauer_ms = 700;
 constexpr farbe lampe_an = 0x30C030;
 constexpr farbe lampe_aus = 0xD8D8D8;
 constexpr std::size_t keine_funktion = 3;
 
 /// What an input can mean, in the order of the choices.
-constexpr std::array<ereignis_art, 46> eingangsarten{0,  16, 15, 14, 13, 34, 35, 32, 30, 28, 26, 36, 38, 31, 29, 27,
-                                                     25, 37, 39, 42, 43, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53, 1,
-                                                     54, 55, 56, 57, 58, 59, 20, 19, 18, 17, 12, 11, 10, 9};
+constexpr std::array<ereignis_art, 46> modul_eingangsarten{
+    0,  16, 15, 14, 13, 34, 35, 32, 30, 28, 26, 36, 38, 31, 29, 27, 25, 37, 39, 42, 43, 44, 45,
+    46, 47, 48, 49, 50, 51, 52, 53, 1,  54, 55, 56, 57, 58, 59, 20, 19, 18, 17, 12, 11, 10, 9};
 
 /// The function of a sensor of a digital track for the car of this lane.
 ereignis_art art_der_funktion(std::size_t funktion, int spur) {
@@ -147,8 +147,8 @@ void frm_main::entladen() {
 
 void frm_main::auswahlen_fuellen() {
     std::vector<std::string> arten;
-    arten.reserve(eingangsarten.size());
-    for (const ereignis_art nummer : eingangsarten) {
+    arten.reserve(modul_eingangsarten.size());
+    for (const ereignis_art nummer : modul_eingangsarten) {
         arten.push_back(um_.txt.ereignis_name.at(static_cast<std::size_t>(nummer)));
     }
     for (std::size_t i = 0; i < eingaenge; ++i) {
@@ -177,8 +177,9 @@ void frm_main::auswahlen_fuellen() {
 void frm_main::werte_zeigen() {
     const modul_4x4_einstellungen& s6 = um_.einst.s6;
     for (std::size_t i = 0; i < eingaenge; ++i) {
-        const auto ort = std::find(eingangsarten.begin(), eingangsarten.end(), s6.s6_eingang.at(i + 1));
-        tx_eingang_liste.at(i).platz(ort == eingangsarten.end() ? -1 : static_cast<int>(ort - eingangsarten.begin()));
+        const auto ort = std::find(modul_eingangsarten.begin(), modul_eingangsarten.end(), s6.s6_eingang.at(i + 1));
+        tx_eingang_liste.at(i).platz(
+            ort == modul_eingangsarten.end() ? -1 : static_cast<int>(ort - modul_eingangsarten.begin()));
     }
     for (std::size_t i = 0; i < sensoren; ++i) {
         std::size_t funktion = 0;
@@ -243,8 +244,8 @@ void frm_main::aufbau_setzen(std::size_t nummer) {
     const aufbau& dieser = aufbauliste.at(nummer);
     if (gewaehlter_modus() == static_cast<std::size_t>(tx_modul::kontakt_modus)) {
         for (std::size_t i = 0; i < eingaenge; ++i) {
-            const auto ort = std::find(eingangsarten.begin(), eingangsarten.end(), dieser.kontakte.at(i));
-            tx_eingang_liste.at(i).platz(static_cast<int>(ort - eingangsarten.begin()));
+            const auto ort = std::find(modul_eingangsarten.begin(), modul_eingangsarten.end(), dieser.kontakte.at(i));
+            tx_eingang_liste.at(i).platz(static_cast<int>(ort - modul_eingangsarten.begin()));
         }
         return;
     }
@@ -265,7 +266,7 @@ void frm_main::notiert(const std::string& zeile) {
     if (!lampentakt_->laeuft()) {
         return;  // nobody looks
     }
-    if (List1.zeilen().size() >= zeilen_max) {
+    if (List1.zeilen().size() >= suchzeilen_max) {
         List1.leeren();
     }
     List1.hinzufuegen(zeile);
@@ -332,7 +333,7 @@ void frm_main::uebernehmen() {
     modul_4x4_einstellungen& s6 = um_.einst.s6;
     for (std::size_t i = 0; i < eingaenge; ++i) {
         if (const int platz = tx_eingang_liste.at(i).platz(); platz >= 0) {
-            s6.s6_eingang.at(i + 1) = eingangsarten.at(static_cast<std::size_t>(platz));
+            s6.s6_eingang.at(i + 1) = modul_eingangsarten.at(static_cast<std::size_t>(platz));
         }
     }
     for (std::size_t i = 0; i < sensoren; ++i) {

@@ -9,8 +9,8 @@
 namespace tarvel {
 namespace {
 
-constexpr int bits_je_port = 8;
-constexpr std::size_t zeile_bytes_max = 200;
+constexpr int profilbits_je_port = 8;
+constexpr std::size_t iow_zeile_bytes_max = 200;
 constexpr int zahl_max = 1000000;  // far beyond any meaning
 
 }  // namespace
@@ -22,7 +22,7 @@ iow_profil iow_werkseinstellung() {
 }
 
 std::optional<iow_profil> iow_profil_laden(const dateien& ablage, std::string_view datei) {
-    const auto zeilen = ablage.zeilen_lesen(datei, iow_bits, zeile_bytes_max);
+    const auto zeilen = ablage.zeilen_lesen(datei, iow_bits, iow_zeile_bytes_max);
     if (!zeilen || zeilen->size() < iow_bits) {
         return std::nullopt;
     }
@@ -46,7 +46,8 @@ iow_belegung belegung_von(const iow_profil& profil) {
     iow_belegung belegung;
     belegung.leeren();
     for (int platz = 0; platz < static_cast<int>(profil.size()); ++platz) {
-        belegung.zuweisen(profil.at(static_cast<std::size_t>(platz)), platz / bits_je_port + 1, platz % bits_je_port);
+        belegung.zuweisen(profil.at(static_cast<std::size_t>(platz)), platz / profilbits_je_port + 1,
+                          platz % profilbits_je_port);
     }
     return belegung;
 }

@@ -12,7 +12,7 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t zeilen_max = 400;
+constexpr std::size_t boxzeilen_max = 400;
 constexpr zeit_ms leuchten_ms = 300;  // a passage takes less than an eye sees
 constexpr zeit_ms still_ms = 2000;    // an active box tells its clock far more often
 constexpr farbe belegt = 0x00C800;
@@ -176,7 +176,7 @@ void rc_einstellungen::rc_geschehen(rc_schritt schritt) {
     } else if (schritt == rc_schritt::bereit) {
         sensoren_leeren();
     }
-    if (List1.zeilen().size() >= zeilen_max) {
+    if (List1.zeilen().size() >= boxzeilen_max) {
         List1.leeren();
     }
     List1.hinzufuegen(text);

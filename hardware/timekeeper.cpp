@@ -14,7 +14,7 @@ constexpr int erste_abgleiche = 6;
 constexpr dauer_ms abgleich_takt{10000};
 constexpr zeit_ms still_ms = 25000;  // two of its answers are missing
 constexpr zeit_ms abfragepause_ms = 100;
-constexpr ereignis_art erster_chaostaster = 54;
+constexpr ereignis_art tk_chaostaster = 54;
 constexpr ereignis_art letzter_chaostaster = 59;
 
 std::string mit_nummer(const std::string& was, int nummer, const char* zustand) {
@@ -221,8 +221,8 @@ bool timekeeper::verarbeiten(const tk::sensor& satz) {
         return false;
     }
     const zeit_ms stempel = stempel_von(satz.zeit);
-    if (art >= erster_chaostaster && art <= letzter_chaostaster) {
-        um_.ereignisse.chaos_knopf(art - erster_chaostaster + 1);
+    if (art >= tk_chaostaster && art <= letzter_chaostaster) {
+        um_.ereignisse.chaos_knopf(art - tk_chaostaster + 1);
         melden(art::chaostaster, stempel);
     } else {
         melden(art, stempel);

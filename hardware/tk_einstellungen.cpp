@@ -12,10 +12,10 @@ namespace {
 using plattform::zeitgeber_art;
 using ausgang = schaltung::ausgang;
 
-constexpr std::size_t zeilen_max = 2000;        // of the log
+constexpr std::size_t datenzeilen_max = 2000;   // of the log
 constexpr std::size_t mitschrift_max = 100000;  // lines
-constexpr zeit_ms leuchtdauer_ms = 500;
-constexpr farbe lampe_an = 0x00C800;
+constexpr zeit_ms tk_leuchtdauer_ms = 500;
+constexpr farbe tk_lampe_an = 0x00C800;
 
 /// The signs of the frame as signs that can be seen.
 std::string lesbar(std::string_view bytes) {
@@ -152,7 +152,7 @@ void tk_einstellungen::entladen() {
 }
 
 void tk_einstellungen::melden(std::string_view zeile) {
-    if (List1.zeilen().size() >= zeilen_max) {
+    if (List1.zeilen().size() >= datenzeilen_max) {
         List1.leeren();
     }
     List1.hinzufuegen(zeile);
@@ -289,8 +289,8 @@ void tk_einstellungen::sensor_zeigen(const tk::sensor& satz) {
     }
     const auto i = static_cast<std::size_t>(satz.tk_sensor - 1);
     kanal& k = kanaele.at(i);
-    k.lampe.hintergrund(lampe_an);
-    leuchtet_bis_.at(i) = uhr_.jetzt() + leuchtdauer_ms;
+    k.lampe.hintergrund(tk_lampe_an);
+    leuchtet_bis_.at(i) = uhr_.jetzt() + tk_leuchtdauer_ms;
     const std::string wer = satz.wagen > 0 ? std::to_string(satz.wagen) + ": " : std::string();
     const zeit_ms seither = letzte_.at(i) ? std::max<zeit_ms>(satz.zeit - *letzte_.at(i), 0) : 0;
     k.ergebnis.text(wer + zeit_formatieren(seither, true, um_.einst.trennzeichen));

@@ -9,9 +9,9 @@ namespace tarvel {
 namespace {
 
 constexpr std::string_view profildateien = "*.iow";
-constexpr std::string_view endung = profildateien.substr(1);
-constexpr std::size_t protokoll_zeilen_max = 400;
-constexpr int name_laenge_max = 60;
+constexpr std::string_view iow_endung = profildateien.substr(1);
+constexpr std::size_t testzeilen_max = 400;
+constexpr int iow_name_laenge_max = 60;
 constexpr int wert_max = 255;
 constexpr std::size_t ports_iow_24 = 2;
 
@@ -39,7 +39,7 @@ usbtest::usbtest(const umgebung& um)
     for (feld& wert : tp) {
         wert.laenge_max(3);
     }
-    iow_profildatei.laenge_max(name_laenge_max);
+    iow_profildatei.laenge_max(iow_name_laenge_max);
     muster.text(std::string(profildateien));
     lesen.bei_klick = [this] { werte_lesen(); };
     setzen.bei_klick = [this] { werte_setzen(); };
@@ -112,7 +112,7 @@ void usbtest::zustand_melden(const std::string& text) {
 }
 
 void usbtest::notieren(std::string_view text) {
-    if (protokoll.zeilen().size() >= protokoll_zeilen_max) {
+    if (protokoll.zeilen().size() >= testzeilen_max) {
         protokoll.leeren();
     }
     protokoll.hinzufuegen(text);
@@ -264,8 +264,8 @@ void usbtest::speichern() {
         iow_profildatei.fokus_setzen();
         return;
     }
-    if (!endet_auf(name, endung)) {
-        name += endung;
+    if (!endet_auf(name, iow_endung)) {
+        name += iow_endung;
     }
     if (!iow_profil_speichern(um_.ablage, name, profil())) {
         um_.meldungen.zeigen(um_.txt.meldung[4], um_.txt.titel[1]);
@@ -289,7 +289,7 @@ void usbtest::profil_gilt(const std::string& name, const std::string& wodurch) {
 
 void usbtest::dateien_zeigen() {
     dateiliste.leeren();
-    for (const std::string& eine : um_.ablage.auflisten("", "", endung)) {
+    for (const std::string& eine : um_.ablage.auflisten("", "", iow_endung)) {
         dateiliste.hinzufuegen(eine);
     }
     dateiliste.markieren(-1);

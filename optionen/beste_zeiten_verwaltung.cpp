@@ -11,7 +11,7 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view endung = ".bst";
+constexpr std::string_view bestzeit_endung = ".bst";
 constexpr int dateiname_laenge_max = 60;
 constexpr int zeit_laenge_max = 12;
 constexpr int datum_laenge_max = 10;
@@ -249,8 +249,8 @@ void beste_zeiten_verwaltung::datei_laden() {
 
 void beste_zeiten_verwaltung::datei_anlegen() {
     std::string name(gekuerzt(von_1252(nach_1252(bestefile_name.text()))));  // as the settings file holds it
-    if (endet_auf(name, endung)) {
-        name.erase(name.size() - endung.size());
+    if (endet_auf(name, bestzeit_endung)) {
+        name.erase(name.size() - bestzeit_endung.size());
     }
     const std::vector<std::string> vorhanden = bestzeit_dateien(um_.ablage);
     const auto gleich = [&](const std::string& datei) { return datei.size() == name.size() && endet_auf(datei, name); };

@@ -13,7 +13,7 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view ordner = "Einstellungen";
+constexpr std::string_view einstellordner = "Einstellungen";
 const std::string vorspann = "Einstellungen\\";
 
 // what a start does, as its file has it
@@ -156,13 +156,13 @@ bool einstellungspflege::speichern(const std::string& pfad) {
 void einstellungspflege::speichern_oeffnen() {
     const auto& worte = um_.ziel.txt.datei_text;
     um_.haupt.vor_dem_speichern_pruefen();  // a field out of its limits would make the file invalid
-    um_.auswahl.oeffnen({true, worte[4], worte[1], worte[0], std::string(ordner), ".ini", einstell_datei_,
+    um_.auswahl.oeffnen({true, worte[4], worte[1], worte[0], std::string(einstellordner), ".ini", einstell_datei_,
                          [this](const std::string& name) { return speichern(vorspann + name); }});
 }
 
 void einstellungspflege::laden_oeffnen() {
     const auto& worte = um_.ziel.txt.datei_text;
-    um_.auswahl.oeffnen({false, worte[5], worte[3], worte[2], std::string(ordner), ".ini", einstell_datei_,
+    um_.auswahl.oeffnen({false, worte[5], worte[3], worte[2], std::string(einstellordner), ".ini", einstell_datei_,
                          [this](const std::string& name) { return aus_menue_laden(name); }});
 }
 

@@ -9,7 +9,7 @@
 namespace tarvel {
 namespace {
 
-using teil = rennergebnis::spur;
+using spurteil = rennergebnis::spur;
 using runde = rennergebnis::runde;
 
 /// How far a lane can come.
@@ -22,7 +22,7 @@ grenze grenze_bilden(const std::optional<rennziel>& ziel, std::optional<zeit_ms>
     return ziel && !ziel->ist_zeit() ? grenze{std::clamp(ziel->runden(), 0, runden_max), {}} : grenze{runden_max, um};
 }
 
-bool loeschen(teil& s, int nummer) {
+bool loeschen(spurteil& s, int nummer) {
     if (nummer < 1 || nummer > s.rundenzahl()) {
         return false;
     }
@@ -43,12 +43,12 @@ bool loeschen(teil& s, int nummer) {
 }
 
 /// Only one crossing counts behind the end of the time: the one that ends the lap then under way.
-bool in_der_zeit(const teil& s, const korrektur& k, const grenze& g) {
+bool in_der_zeit(const spurteil& s, const korrektur& k, const grenze& g) {
     return !g.zeit_um || k.stempel <= *g.zeit_um ||
            std::none_of(s.runden.begin(), s.runden.end(), [&](const runde& r) { return r.stempel > *g.zeit_um; });
 }
 
-bool anhaengen(teil& s, const korrektur& k, const grenze& g) {
+bool anhaengen(spurteil& s, const korrektur& k, const grenze& g) {
     if (k.was != korrektur::art::ueberfahrt || s.runden.empty() || k.zeit <= 0 || s.rundenzahl() >= g.runden ||
         k.stempel <= s.runden.back().stempel) {
         return false;
@@ -57,7 +57,7 @@ bool anhaengen(teil& s, const korrektur& k, const grenze& g) {
     return true;
 }
 
-bool teilen(teil& s, const korrektur& k, const grenze& g) {
+bool teilen(spurteil& s, const korrektur& k, const grenze& g) {
     const auto ganze = s.runden.begin() + k.runde;
     const zeit_ms pause = ganze->pause.value_or(0);
     const bool darin = k.stempel > (ganze - 1)->stempel && k.stempel < ganze->stempel;
@@ -80,7 +80,7 @@ bool teilen(teil& s, const korrektur& k, const grenze& g) {
     return true;
 }
 
-bool nachtragen(teil& s, const korrektur& k, const grenze& g) {
+bool nachtragen(spurteil& s, const korrektur& k, const grenze& g) {
     if (k.runde < 1 || k.runde > s.rundenzahl() + 1 || s.rundenzahl() >= runden_max || !in_der_zeit(s, k, g)) {
         return false;
     }
@@ -88,7 +88,7 @@ bool nachtragen(teil& s, const korrektur& k, const grenze& g) {
 }
 
 /// All that follows from the laps.
-void ableiten(teil& s) {
+void ableiten(spurteil& s) {
     bestensuche suche(!s.runden.empty() && s.runden.front().nachgetragen);
     s.gesamtzeit = dauer_ms(s.strafzeit.value_or(0s)).count();
     s.meter = s.restmeter;
@@ -100,7 +100,7 @@ void ableiten(teil& s) {
     s.beste = suche.beste();
 }
 
-bool spur_korrigieren(teil& s, const korrektur& k, const grenze& g) {
+bool spur_korrigieren(spurteil& s, const korrektur& k, const grenze& g) {
     if (s.disqualifiziert) {
         return false;
     }
@@ -121,7 +121,7 @@ bool spur_korrigieren(teil& s, const korrektur& k, const grenze& g) {
 
 bool korrigieren(rennergebnis& ergebnis, const korrektur& k) {
     const auto s = std::find_if(ergebnis.spuren.begin(), ergebnis.spuren.end(),
-                                [&](const teil& eine) { return eine.nummer == k.spur; });
+                                [&](const spurteil& eine) { return eine.nummer == k.spur; });
     return s != ergebnis.spuren.end() && spur_korrigieren(*s, k, grenze_bilden(ergebnis.ziel, ergebnis.zeit_um));
 }
 

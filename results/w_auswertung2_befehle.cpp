@@ -10,7 +10,7 @@
 namespace tarvel {
 namespace {
 
-constexpr int name_laenge_max = 100;
+constexpr int neuer_name_laenge_max = 100;
 
 }  // namespace
 
@@ -51,7 +51,7 @@ void w_auswertung2::sortierbefehle_verbinden() {
 }
 
 void w_auswertung2::speicherbefehle_verbinden() {
-    Text3.laenge_max(name_laenge_max);
+    Text3.laenge_max(neuer_name_laenge_max);
     Command16.bei_klick = [this] { speichern_oeffnen(false); };
     Command6.bei_klick = [this] { speichern_oeffnen(true); };
     Command17.bei_klick = [this] { speichern(); };

@@ -33,7 +33,7 @@ constexpr int runden = 5;
 constexpr zeit_ms schritt_ms = 60000;  // far more than a busy machine needs for any step but the race
 constexpr zeit_ms rennen_ms = 120000;
 
-void schreiben(const std::string& text) {
+void berichten(const std::string& text) {
     std::printf("%s\n", text.c_str());
     std::fflush(stdout);
 }
@@ -90,7 +90,7 @@ public:
 
     void zeigen() {
         warten("den Simulator", schritt_ms, [this] { return simulator_.bereit(); });
-        schreiben(std::string("Simulator: ") + geraet_.name +
+        berichten(std::string("Simulator: ") + geraet_.name +
                   (geraet_.ist_bibliothek ? std::string() : std::string(" an COM") + simulatorlauf::com));
         p_.starten();
         warten("das Hauptfenster", schritt_ms, [this] { return p_.fenster.ist_offen(fenstername::Form1); });
@@ -147,7 +147,7 @@ private:
             return p_.geraete.verbunden() && p_.form1.inhalt.sichtbar() &&
                    p_.form1.modus_label.text().starts_with(p_.txt.hardware_name.at(geraet_.hardware));
         });
-        schreiben("Verbunden: " + p_.form1.modus_label.text());
+        berichten("Verbunden: " + p_.form1.modus_label.text());
     }
 
     void rennen_einrichten() {
@@ -172,7 +172,7 @@ private:
             o_.bahn1.showNormal();
             o_.bahn1.resize(1920, 1080);
         }
-        schreiben("Rennen über " + std::to_string(runden) + " Runden. Die Startampel läuft …");
+        berichten("Rennen über " + std::to_string(runden) + " Runden. Die Startampel läuft …");
         p_.rennen.bahn1.Command1.klicken();
         warten("Grün", schritt_ms, [this] {  // a race is prepared, and not over any more, before its light
             return !p_.rennen.zustand.rennen_beendet && !p_.rennen.umgebung.ampel_laeuft();
@@ -180,7 +180,7 @@ private:
         if (!geraet_.sieht_ampel) {
             simulator_.los();
         }
-        schreiben("Grün!\n\n  Spur  Fahrer                Runde  Zeit");
+        berichten("Grün!\n\n  Spur  Fahrer                Runde  Zeit");
     }
 
     void fahren() {
@@ -207,7 +207,7 @@ private:
                         .arg(runde, 6)
                         .arg(QString::fromStdString(zeit_formatieren(p_.rennen.zustand.konto.rundenzeit(spur, runde),
                                                                      true, p_.einst.trennzeichen)));
-                schreiben(zeile.toStdString());
+                berichten(zeile.toStdString());
             }
         }
     }
@@ -242,7 +242,7 @@ private:
         if (verglichen < runden) {
             scheitern("Es wurden nur " + std::to_string(verglichen) + " Runden gezählt.");
         }
-        schreiben(
+        berichten(
             "\n" + std::to_string(verglichen) + " Runden gezählt, jede auf " +
             (schlechteste_ == 0 ? "die Tausendstelsekunde" : std::to_string(schlechteste_) + " Tausendstelsekunden") +
             " richtig.");
@@ -259,7 +259,7 @@ private:
         if (!fs::exists(ergebnis) || bild_.empty()) {
             scheitern("Das Ergebnis fehlt: " + ergebnis.string());
         }
-        schreiben("Ergebnis: " + ergebnis.string() + "\nBild:     " + bild_.string());
+        berichten("Ergebnis: " + ergebnis.string() + "\nBild:     " + bild_.string());
     }
 
     const vorfuehrgeraet& geraet_;

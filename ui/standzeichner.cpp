@@ -12,7 +12,7 @@ namespace tarvel::ui {
 namespace {
 
 /// At each side of a cell.
-int luft(const standmass& mass) {
+int zellenluft(const standmass& mass) {
     return std::max(6, mass.gross.pixelSize() / 5);
 }
 
@@ -30,7 +30,7 @@ void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, c
     const QColor flaeche = grund(option, zelle);
     maler->fillRect(option.rect, flaeche);
     const QStringList zeilen = zelle.data().toString().split('\n');
-    const QRect feld = option.rect.adjusted(luft(mass_), 0, -luft(mass_), 0);
+    const QRect feld = option.rect.adjusted(zellenluft(mass_), 0, -zellenluft(mass_), 0);
     const QFontMetrics gross(mass_.gross);
     const QFontMetrics klein(mass_.klein);
     const int hoehe = gross.height() + (zeilen.size() > 1 ? klein.height() : 0);
@@ -65,7 +65,7 @@ int Standzeichner::breite(const QListView& spalte) const {
         breite = std::max({breite, gross.horizontalAdvance(zeilen.front()),
                            zeilen.size() > 1 ? klein.horizontalAdvance(zeilen.at(1)) : 0});
     }
-    return breite + 2 * luft(mass_) + 2;
+    return breite + 2 * zellenluft(mass_) + 2;
 }
 
 void Balkenzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, const QModelIndex& zelle) const {
@@ -76,8 +76,8 @@ void Balkenzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, 
         return;
     }
     const double rand = option.rect.height() * 0.16;
-    balken_malen(*maler, QRectF(option.rect).adjusted(luft(mass()), rand, -luft(mass()), -rand), balken_[zeile],
-                 farben_, {laengster_balken(balken_), mass().gross, stil::schrift_auf(flaeche)});
+    balken_malen(*maler, QRectF(option.rect).adjusted(zellenluft(mass()), rand, -zellenluft(mass()), -rand),
+                 balken_[zeile], farben_, {laengster_balken(balken_), mass().gross, stil::schrift_auf(flaeche)});
 }
 
 }  // namespace tarvel::ui

@@ -24,7 +24,7 @@ constexpr double name_anteil = 0.24;
 constexpr double schrift_anteil_max = 0.021;  // of the width
 constexpr double zahl_anteil = 0.095;
 constexpr double striche = 6;
-const QColor streifen{247, 248, 250};
+const QColor vergleichsstreifen{247, 248, 250};
 const QColor kasten{228, 196, 199};
 
 class Vergleichszeichnung {
@@ -45,7 +45,7 @@ public:
         koepfe();
         for (std::size_t n = von; n < bis; ++n) {
             if ((n - von) % 2 == 1) {
-                maler_.fillRect(QRectF(f_.left(), oben(n - von), f_.width(), zeile_), streifen);
+                maler_.fillRect(QRectF(f_.left(), oben(n - von), f_.width(), zeile_), vergleichsstreifen);
             }
         }
         achse();

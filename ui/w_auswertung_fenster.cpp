@@ -18,8 +18,8 @@ constexpr double klein_anteil = 0.62;  // of the large letters
 constexpr double kopf_anteil = 0.66;
 constexpr double zeile_je_px = 2.1;  // height of a row
 constexpr double dehnung_max = 1.4;  // where there are few
-constexpr int zeilen_mindestens = 8;
-constexpr double schrift_min_px = 14;
+constexpr int standzeilen_mindestens = 8;
+constexpr double standschrift_min_px = 14;
 constexpr double zeilen_anteil = 0.8;         // of the height of the window
 constexpr double schrift_max_anteil = 0.045;  // of the height of the rows together
 constexpr double schieben_anteil = 0.026;     // likewise, where not all columns are in sight anyway
@@ -231,7 +231,7 @@ int WAuswertungFenster::breite_von(const spalte& eine) const {
 
 /// The columns grow with their letters, but for their margins: each step comes closer and none goes too far.
 double WAuswertungFenster::passende_schrift(int platz, int hoehe) {
-    double px = std::max(schrift_min_px, hoehe * schrift_max_anteil);
+    double px = std::max(standschrift_min_px, hoehe * schrift_max_anteil);
     while (true) {
         schriften_setzen(px);
         double breite = 0;
@@ -242,12 +242,12 @@ double WAuswertungFenster::passende_schrift(int platz, int hoehe) {
         if (breite <= frei) {
             return px;
         }
-        if (px <= schrift_min_px) {
+        if (px <= standschrift_min_px) {
             break;
         }
-        px = std::max(schrift_min_px, std::min(px - 0.5, px * frei / breite));
+        px = std::max(standschrift_min_px, std::min(px - 0.5, px * frei / breite));
     }
-    px = std::max(schrift_min_px, hoehe * schieben_anteil);
+    px = std::max(standschrift_min_px, hoehe * schieben_anteil);
     schriften_setzen(px);
     return px;
 }
@@ -265,7 +265,7 @@ void WAuswertungFenster::skalieren() {
 void WAuswertungFenster::zeilen_einteilen() {
     const int hoehe = spalten_.front().zeilen->viewport()->height();
     const double grund = schrift_px_ * zeile_je_px;
-    const int gezeigt = std::clamp(std::max(spalten_.front().zeilen->model()->rowCount(), zeilen_mindestens), 1,
+    const int gezeigt = std::clamp(std::max(spalten_.front().zeilen->model()->rowCount(), standzeilen_mindestens), 1,
                                    std::max(1, static_cast<int>(hoehe / grund)));
     mass_.zeilenhoehe = static_cast<int>(std::clamp(static_cast<double>(hoehe) / gezeigt, grund, grund * dehnung_max));
     mass_.mit_sieger = !logik_.balken().empty() && logik_.balken().front().gesamt > 0;

@@ -17,13 +17,13 @@ constexpr double breite_entwurf = 1000;
 constexpr int fuss_hoehe = 100;   // of the window below the list, and its margins
 constexpr int rand_entwurf = 60;  // pixels of the glance that no line takes
 constexpr double schrift_klein = 21;
-constexpr double schrift_kopf = 46;
+constexpr double schrift_paarung = 46;
 constexpr double schrift_nummer = 58;
 constexpr double schrift_spur = 34;
 constexpr double schrift_fahrer = 56;
 constexpr double schrift_einsetzer = 46;
 constexpr double anteil_blick = 0.6;  // of the window beside the list
-constexpr int schrift_liste_px = 15;
+constexpr int planschrift_px = 15;
 constexpr int fleck_breite = 18;
 
 }  // namespace
@@ -102,12 +102,12 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
     TextAnzeige* nummer = gross(logik_.Label_nr, "Label_nr", schrift_nummer);
     nummer->setFett(true);
     kopf->addWidget(nummer, 1, 0);
-    kopf->addWidget(gross(logik_.Label_von, "Label_von", schrift_kopf), 1, 1);
+    kopf->addWidget(gross(logik_.Label_von, "Label_von", schrift_paarung), 1, 1);
     TextAnzeige* warten = gross(logik_.Label_wartezeit, "Label_wartezeit", schrift_nummer);
     warten->setFett(true);
     warten->setFarbrolle(QPalette::Link);
     kopf->addWidget(warten, 1, 2);
-    kopf->addWidget(gross(logik_.Label_dauer, "Label_dauer", schrift_kopf), 1, 3);
+    kopf->addWidget(gross(logik_.Label_dauer, "Label_dauer", schrift_paarung), 1, 3);
     kopf->addWidget(gross(logik_.label_best, "label_best", schrift_klein * 1.4), 1, 4);
     TextAnzeige* fahrer = gross(logik_.label_fahrer, "label_fahrer", schrift_klein * 1.1);
     fahrer->setZweizeilig();
@@ -215,7 +215,7 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
     liste->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }")
                              .arg(schrift)  // columns stay below each other
-                             .arg(schrift_liste_px));
+                             .arg(planschrift_px));
     aufbau->addWidget(liste, 1);
     return feld;
 }
@@ -281,7 +281,7 @@ void Wettkampf2Fenster::skalieren() {
                                                           [](const form& farbe) { return farbe.sichtbar(); }));
     constexpr double zeilenhoehe = 1.2;
     const double entwurf =
-        zeilenhoehe * (2 * schrift_klein + schrift_kopf + 2 * schrift_einsetzer + zeilen * schrift_fahrer);
+        zeilenhoehe * (2 * schrift_klein + schrift_paarung + 2 * schrift_einsetzer + zeilen * schrift_fahrer);
     const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
     binder().skala(std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4));
 }

@@ -85,7 +85,7 @@ QWidget& tagesrennen_zeigen(buehne& b) {
 
 using m = wettkampf_modus;
 
-const std::vector<szeneneintrag> alle{
+const std::vector<szeneneintrag> alle_abendszenen{
     {"w_auswertung",
      [](buehne& b) -> QWidget& {
          return auswertung_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 5));
@@ -196,7 +196,7 @@ const std::vector<szeneneintrag> alle{
 }  // namespace
 
 const std::vector<szeneneintrag>& abendszenen() {
-    return alle;
+    return alle_abendszenen;
 }
 
 }  // namespace tarvel

@@ -83,7 +83,7 @@ w_auswertung2& wettkampf_zeigen(buehne& b, wettkampf_modus modus, int fahrer, st
 
 using m = wettkampf_modus;
 
-const std::vector<szeneneintrag> alle{
+const std::vector<szeneneintrag> alle_ergebnisszenen{
     {"betrachter_leer",
      [](buehne& b) -> QWidget& {
          b.p.fenster.zeigen(fenstername::w_auswertung2);
@@ -154,7 +154,7 @@ const std::vector<szeneneintrag> alle{
 }  // namespace
 
 const std::vector<szeneneintrag>& ergebnisszenen() {
-    return alle;
+    return alle_ergebnisszenen;
 }
 
 }  // namespace tarvel

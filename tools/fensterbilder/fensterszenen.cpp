@@ -108,7 +108,7 @@ QWidget& wettkampf(buehne& b, int fahrer) {
     return *b.o.wettkampf1;
 }
 
-const std::vector<szeneneintrag> alle{
+const std::vector<szeneneintrag> alle_fensterszenen{
     {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
     {"hauptfenster_control_unit",
      [](buehne& b) -> QWidget& {
@@ -391,7 +391,7 @@ const std::vector<szeneneintrag> alle{
 }  // namespace
 
 const std::vector<szeneneintrag>& fensterszenen() {
-    return alle;
+    return alle_fensterszenen;
 }
 
 }  // namespace tarvel

@@ -224,7 +224,7 @@ QWidget& protokoll_auswahl(buehne& b) {
     return *b.o.protokoll;
 }
 
-const std::vector<szeneneintrag> alle{
+const std::vector<szeneneintrag> alle_rennszenen{
     {"protokoll", protokoll},
     {"protokoll_in_der_pause", protokoll_in_der_pause},
     {"protokoll_auswahl", protokoll_auswahl},
@@ -439,7 +439,7 @@ const std::vector<szeneneintrag> alle{
 }  // namespace
 
 const std::vector<szeneneintrag>& rennszenen() {
-    return alle;
+    return alle_rennszenen;
 }
 
 }  // namespace tarvel
