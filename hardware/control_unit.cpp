@@ -304,7 +304,8 @@ void control_unit::rennen_bereit() {
     rennen_laeuft_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();
-    if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt) {
+    const bool nach_ausfall = um_.rennen.pause();  // then it is told nothing before the director goes on
+    if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt && !nach_ausfall) {
         starttaste();  // stops the cars; the second press starts the light
     }
 }

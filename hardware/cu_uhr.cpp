@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace tarvel {
 namespace {
@@ -158,6 +159,7 @@ cu_uhr::befund cu_uhr::ausrichten(const eingang& neu, zeit_ms stempel) {
         jetzt_.beginnen(neu, stempel);
         jetzt_.letzter = stempel;
     }
+    unbenutzt_ = neu.pause;
     jetzt_.gesehen(neu.ueberfahrt, stempel);
     return im_takt ? befund{stempel, std::nullopt, false} : befund{stempel, stempel - neu.messzeit, true};
 }
@@ -180,6 +182,11 @@ cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
     }
     davor_.reset();
     jetzt_.gesehen(neu.ueberfahrt, stempel);
+    const bool war_unbenutzt = std::exchange(unbenutzt_, unbenutzt_ && neu.pause);
+    if (war_unbenutzt && stempel - jetzt_.lesen(neu.maschine) > streuung_ms) {  // what it was aligned by had waited
+        jetzt_.beginnen(neu, stempel);
+        return {stempel, stempel - neu.messzeit, true};
+    }
     return {stempel, std::nullopt, !neu.pause && jetzt_.folgen(neu, stempel)};
 }
 

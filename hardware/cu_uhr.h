@@ -87,6 +87,7 @@ private:
     stand jetzt_;
     std::optional<stand> davor_;  ///< a jump that no second passage has borne out may be a damaged record
     zeit_ms sprung_ = 0;          ///< of it
+    bool unbenutzt_ = false;      ///< aligned in a pause, and no lap has been stamped by it yet: it may still be moved
 };
 
 }  // namespace tarvel

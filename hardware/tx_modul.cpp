@@ -70,7 +70,7 @@ bool tx_modul::tx_initialisieren(anlass warum) {
     anlass_ = warum;
     auskunft_ = {};
     auskunft_.modus = modus_soll_;
-    suche_seit_ = jetzt;
+    suche_seit_ = suche_zuletzt_ = jetzt;
     alle_versucht_ = false;
     stand_ = stand::sucht;
     takt_->intervall(suchtakt);
@@ -117,7 +117,10 @@ bool tx_modul::port_versuchen(int nummer) {
 }
 
 void tx_modul::suche_tick() {
-    const zeit_ms dauer = um_.uhr.jetzt() - suche_seit_;
+    const zeit_ms jetzt = um_.uhr.jetzt();
+    const zeit_ms still = jetzt - std::exchange(suche_zuletzt_, jetzt) - suchtakt.count();
+    suche_seit_ += std::max<zeit_ms>(still, 0);  // a program that stands still hears no answer
+    const zeit_ms dauer = jetzt - suche_seit_;
     if (dauer >= frist.count()) {
         gescheitert(true);
     } else if (leitung_ != nullptr) {

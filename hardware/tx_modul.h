@@ -131,6 +131,7 @@ private:
     stand stand_ = stand::zu;
     anlass anlass_ = anlass::start;
     zeit_ms suche_seit_ = 0;
+    zeit_ms suche_zuletzt_ = 0;  ///< look
     bool alle_versucht_ = false;
     std::vector<int> fremde_;  ///< ports that were there beside the module's
     bool gewuenscht_ = false;  ///< found once, and not closed since

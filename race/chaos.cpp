@@ -9,6 +9,12 @@ namespace {
 
 constexpr dauer_ms sammeltakt{10};  // of `ch_durch0`
 
+void ausgaben_wecken(const renn_umgebung& um) {
+    if (!um.protokoll.liest()) {  // else that was an earlier outage: they sleep until this one is over
+        um.ausgaben.aufleben();
+    }
+}
+
 }  // namespace
 
 chaos::chaos(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
@@ -293,7 +299,7 @@ void chaos::chaosende_routine() {
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
     const zeit_ms ende = um_.moment_lesen();
     if (std::exchange(zustand.pause.ausfall, false)) {
-        um_.ausgaben.aufleben();
+        ausgaben_wecken(um_);
         um_.quellen.melden(&messquelle::rennen_fortgesetzt);
     }
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
@@ -348,7 +354,7 @@ void chaos::chaos_nachholen() {
 }
 
 void chaos::aufheben() {
-    um_.ausgaben.aufleben();
+    ausgaben_wecken(um_);
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
         const zeit_ms jetzt = um_.zeit.messzeit_lesen();

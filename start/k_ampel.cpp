@@ -105,7 +105,9 @@ void k_ampel::strom_aus() {
 }
 
 void k_ampel::Command1_klick() {
-    um_.ausgaben.aufleben();     // they may have slept since an outage
+    if (!um_.protokoll.liest()) {
+        um_.ausgaben.aufleben();  // they may have slept since an outage
+    }
     um_.ausgaben.ampelnGRoff();  // the rest state's green must not burn beside the reds
     const int vorab = lampe_vor_dem_ersten(um_.einst.start_ampel_modus);
     for (int lampe = 1; lampe <= vorab; ++lampe) {
@@ -118,16 +120,23 @@ void k_ampel::Command1_klick() {
     }
     strom_aus();
     Command1.aktiviert(false);
-    if (geraeteampel* licht = um_.quellen.ampel(); licht != nullptr && licht->rot() && !geraet_taub_) {
-        licht->neustart();
-        geraet_frist_->an();
-        for (std::size_t i = 0; i < schritte; ++i) {
-            lampe_an(i);
-        }
-        cu_ampel_auswertetimer_->an();
-    } else {
+    if (!geraet_uebernimmt()) {
         rot_.front()->an();
     }
+}
+
+bool k_ampel::geraet_uebernimmt() {
+    geraeteampel* licht = um_.quellen.ampel();
+    if (licht == nullptr || !licht->rot() || geraet_taub_) {
+        return false;
+    }
+    licht->neustart();
+    geraet_frist_->an();
+    for (std::size_t i = 0; i < schritte; ++i) {
+        lampe_an(i);
+    }
+    cu_ampel_auswertetimer_->an();
+    return true;
 }
 
 void k_ampel::geraet_tick() {
@@ -159,6 +168,9 @@ void k_ampel::rot_tick(std::size_t schritt) {
         strom_aus();
     }
     rot_.at(schritt)->aus();
+    if (schritt == 0 && geraet_uebernimmt()) {
+        return;  // its cars have only just been stopped: they drove while the program was away
+    }
     lampe_an(schritt);
     um_.ausgaben.ampelnRon(lampe_vor_dem_ersten(um_.einst.start_ampel_modus) + static_cast<int>(schritt) + 1);
     um_.sounds.spielen(sound::ampelschritt);

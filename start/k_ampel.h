@@ -37,6 +37,8 @@ public:
 
 private:
     void Command1_klick();
+    /// The light of a device takes the place of this one, if its cars stand. Whether it does.
+    bool geraet_uebernimmt();
     void strom_aus();
     void lampe_an(std::size_t schritt);
     void rot_tick(std::size_t schritt);
