@@ -43,8 +43,16 @@ urkundenfenster::urkundenfenster(const umfeld& um)
 
 sprachliste urkundenfenster::sprache_u() {
     sprachliste texte("language\\language_u.txt");
-    texte.ueberschrift("Urkunden").text("Urkunden", titel).text("Verein", Label_verein);
-    texte.text("Veranstaltung", Label_veranstaltung).text("Vorlage", Label_vorlage);
+    const auto eingabe = [&texte](std::string_view deutsch, bezeichnung& label, steuerelement& daneben) {
+        texte.text(deutsch, [&label, &daneben](const std::string& neu) {
+            label.text(neu);
+            daneben.ansage(neu);
+        });
+    };
+    texte.ueberschrift("Urkunden").text("Urkunden", titel);
+    eingabe("Verein", Label_verein, verein);
+    eingabe("Veranstaltung", Label_veranstaltung, veranstaltung);
+    eingabe("Vorlage", Label_vorlage, vorlage);
     texte.text("Urkunden für", Frame_fahrer).text("Drucken", Command_drucken);
     texte.text("Als PDF speichern", Command_pdf).text("Schließen", Command_ende);
     texte.tipp("Steht auf den Urkunden und über den Ergebnisblättern", verein);
@@ -65,9 +73,6 @@ void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& r
     datei_ = datei;
     gespeichert_ = papierkopf_laden(um_.welt.ablage);
     angaben_ = {gespeichert_, rennen, wort_.platz, wort_.ohne_platz, um_.einst.trennzeichen};
-    verein.ansage(Label_verein.text());
-    veranstaltung.ansage(Label_veranstaltung.text());
-    vorlage.ansage(Label_vorlage.text());
     Command_zurueck.text("◀");
     Command_vor.text("▶");
     Command_zurueck.ansage(Command_zurueck.tipp());

@@ -318,19 +318,6 @@ void w_auswertung2::blicken(blick neu) {
     bedienung_einrichten();
 }
 
-std::optional<rennergebnis> w_auswertung2::gewaehltes_rennen() const {
-    const auto welches = static_cast<std::size_t>(std::max(cbo_rennen.platz(), 0));
-    return tabelle_ ? rennen_von(*tabelle_, welches, sortieren_nach()) : std::nullopt;
-}
-
-void w_auswertung2::urkunden_zeigen() {
-    if (const auto rennen = gewaehltes_rennen()) {
-        um_.urkunden.oeffnen(*rennen, wort_.art[1], blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
-    } else {
-        hinweisen(wort_.kein_blatt);
-    }
-}
-
 void w_auswertung2::rennen_zeigen() {
     rennen_.reset();
     if (blick_ == blick::blatt || blick_ == blick::verlauf) {

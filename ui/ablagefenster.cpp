@@ -1,6 +1,5 @@
 #include "ui/ablagefenster.h"
 
-#include <QHBoxLayout>
 #include <QScreen>
 
 #include "ui/stil.h"
@@ -24,7 +23,9 @@ Ablagefenster::teile Ablagefenster::aufteilen(int spaltenbreite, bezeichnung& ko
     anzeige->setFett(true);
     anzeige->setSchriftPx(kopf_px);
     anzeige->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    t.rechts->addWidget(anzeige);
+    t.kopfzeile = new QHBoxLayout;
+    t.kopfzeile->addWidget(anzeige, 1);
+    t.rechts->addLayout(t.kopfzeile);
     aufbau->addLayout(t.rechts, 1);
     return t;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "ui/fenster.h"
@@ -17,8 +18,9 @@ public:
 protected:
     struct teile {
         QWidget* spalte = nullptr;
-        QVBoxLayout* links = nullptr;   ///< in it
-        QVBoxLayout* rechts = nullptr;  ///< below the heading
+        QVBoxLayout* links = nullptr;      ///< in it
+        QHBoxLayout* kopfzeile = nullptr;  ///< the heading, and room for commands behind it
+        QVBoxLayout* rechts = nullptr;     ///< below the heading
     };
     teile aufteilen(int spaltenbreite, bezeichnung& kopf, const char* kopfname, int kopf_px);
 };

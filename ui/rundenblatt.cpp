@@ -15,7 +15,8 @@ constexpr double namen_hoch = 52;
 constexpr double zeile_hoch = 42;
 constexpr double fuss_hoch = 50;
 constexpr double nummer_breit = 90;
-constexpr double spalte_breit = 190;
+constexpr double spalte_min = 190;
+constexpr double spalte_max = 300;
 constexpr double luft = 50;  // between two blocks
 constexpr double schrift = 32;
 
@@ -24,10 +25,14 @@ const QColor jede_zweite{247, 248, 250};
 /// How a page is divided.
 struct rundenteilung {
     rundenteilung(const ergebnisblatt& blatt, const QSizeF& groesse)
-        : block_breit(nummer_breit + static_cast<double>(blatt.rundenspalten.size()) * spalte_breit),
-          bloecke(std::max(static_cast<std::size_t>((groesse.width() + luft) / (block_breit + luft)), std::size_t{1})),
-          zeilen(static_cast<std::size_t>(
+        : zeilen(static_cast<std::size_t>(
               std::max((groesse.height() - kopf_hoch - namen_hoch - fuss_hoch) / zeile_hoch, 1.0))) {
+        const auto spalten = static_cast<double>(std::max<std::size_t>(blatt.rundenspalten.size(), 1));
+        const double schmal = nummer_breit + spalten * spalte_min + luft;
+        bloecke = std::max(static_cast<std::size_t>((groesse.width() + luft) / schmal), std::size_t{1});
+        block_breit = (groesse.width() + luft) / static_cast<double>(bloecke) - luft;
+        spalte_breit = std::min((block_breit - nummer_breit) / spalten, spalte_max);
+        block_breit = nummer_breit + spalten * spalte_breit;
         for (const ergebnisblatt::rundenspalte& spalte : blatt.rundenspalten) {
             runden = std::max(runden, spalte.zeiten.size());
         }
@@ -35,13 +40,14 @@ struct rundenteilung {
     std::size_t je_seite() const { return bloecke * zeilen; }
     int seiten() const { return static_cast<int>((runden + je_seite() - 1) / je_seite()); }
 
-    double block_breit;
-    std::size_t bloecke;
     std::size_t zeilen;
+    std::size_t bloecke = 1;
     std::size_t runden = 0;
+    double block_breit = 0;
+    double spalte_breit = 0;
 };
 
-void namen_zeichnen(QPainter& maler, const ergebnisblatt& blatt, double links) {
+void namen_zeichnen(QPainter& maler, const ergebnisblatt& blatt, double links, double spalte_breit) {
     double x = links + nummer_breit;
     for (const ergebnisblatt::rundenspalte& spalte : blatt.rundenspalten) {
         const QRectF feld(x, kopf_hoch, spalte_breit, namen_hoch);
@@ -51,7 +57,8 @@ void namen_zeichnen(QPainter& maler, const ergebnisblatt& blatt, double links) {
     }
 }
 
-void runde_zeichnen(QPainter& maler, const ergebnisblatt& blatt, std::size_t runde, const QRectF& zeile) {
+void runde_zeichnen(QPainter& maler, const ergebnisblatt& blatt, std::size_t runde, const QRectF& zeile,
+                    double spalte_breit) {
     if (runde % 2 == 0) {
         maler.fillRect(zeile, jede_zweite);
     }
@@ -82,10 +89,10 @@ void rundenblatt_zeichnen(QPainter& maler, const ergebnisblatt& blatt, const QSi
     std::size_t runde = static_cast<std::size_t>(nummer) * t.je_seite() + 1;
     for (std::size_t block = 0; block < t.bloecke && runde <= t.runden; ++block) {
         const double links = static_cast<double>(block) * (t.block_breit + luft);
-        namen_zeichnen(maler, blatt, links);
+        namen_zeichnen(maler, blatt, links, t.spalte_breit);
         for (std::size_t zeile = 0; zeile < t.zeilen && runde <= t.runden; ++zeile, ++runde) {
             const double oben = kopf_hoch + namen_hoch + static_cast<double>(zeile) * zeile_hoch;
-            runde_zeichnen(maler, blatt, runde, {links, oben, t.block_breit, zeile_hoch});
+            runde_zeichnen(maler, blatt, runde, {links, oben, t.block_breit, zeile_hoch}, t.spalte_breit);
         }
     }
     const QString fuss = QString::fromStdString(std::string(programm_name)) + "  ·  " + QString::number(nummer + 1) +

@@ -45,6 +45,8 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
     const teile t = aufteilen(dateispalte_breite, logik.Label_datei, "Label_datei", 20);
     dateispalte_ = t.spalte;
     dateispalte_fuellen(t.links);
+    // Beside the other ways to paper it is too wide for a small screen.
+    t.kopfzeile->addWidget(binder().knopf(logik.Command_urkunden, "Command_urkunden", "schmal"));
     QVBoxLayout* rechts = t.rechts;
     rechts->addLayout(blickzeile());
     rechts->addLayout(rennzeile());
@@ -114,7 +116,6 @@ QLayout* WAuswertung2Fenster::blickzeile() {
     zeile->addStretch(1);
     zeile->addWidget(binder().knopf(logik_.Command_drucken, "Command_drucken", "schmal"));
     zeile->addWidget(binder().knopf(logik_.Command_pdf, "Command_pdf", "schmal"));
-    zeile->addWidget(binder().knopf(logik_.Command_urkunden, "Command_urkunden", "schmal"));
     return zeile;
 }
 
