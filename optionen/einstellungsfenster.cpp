@@ -10,6 +10,7 @@
 #include "core/portzusatz.h"
 #include "core/text.h"
 #include "core/zahleneingabe.h"
+#include "optionen/erklaerungen.h"
 
 namespace tarvel {
 namespace {
@@ -98,7 +99,36 @@ std::vector<sprachliste> einstellungsfenster::sprachdateien() {
     std::vector<sprachliste> alle;
     alle.push_back(sprache_e());
     alle.push_back(sprache_e_s());
+    alle.push_back(sprache_e_h());
     return alle;
+}
+
+sprachliste einstellungsfenster::sprache_e_h() {
+    sprachliste texte("language/language_e_h.txt");
+    texte.ueberschrift("Erklärungen");
+    erklaerungen_.resize(erklaerungen().size());
+    for (std::size_t i = 0; i < erklaerungen_.size(); ++i) {
+        texte.text(erklaerungen()[i].deutsch, erklaerungen_[i]);
+    }
+    return texte;
+}
+
+/// The caption explains as well as the control.
+void einstellungsfenster::erklaeren(optionszeile& eine) const {
+    const auto platz = erklaerung_fuer(eine.name);
+    const std::string text = platz ? erklaerungen_.at(*platz) : std::string();
+    eine.beschriftung.tipp(text);
+    std::visit(
+        [&text](auto& element) {
+            using art = std::decay_t<decltype(element)>;
+            if constexpr (std::is_base_of_v<steuerelement, art>) {
+                element.tipp(text);
+            } else if constexpr (std::is_same_v<art, soundfeld>) {
+                element.datei.tipp(text);
+                element.abspielen.tipp(text);
+            }
+        },
+        eine.element);
 }
 
 void einstellungsfenster::laden() {
@@ -132,6 +162,7 @@ void einstellungsfenster::laden() {
             },
             z.element);
     });
+    fuer_alle_zeilen([this](optionszeile& eine) { erklaeren(eine); });
     trennzeichen_fehlen_ = !trennzeichen_laden(um_.ablage, um_.ziel.einst.trennzeichen);
     if (trennzeichen_fehlen_) {
         um_.ziel.einst.trennzeichen = trennzeichen_standard;

@@ -108,6 +108,8 @@ public:
 private:
     sprachliste sprache_e();
     sprachliste sprache_e_s();
+    sprachliste sprache_e_h();
+    void erklaeren(optionszeile& eine) const;
     void seite_zeigen(int nummer);
     void hardware_waehlen(std::size_t nummer);
     void hardware_gruppen_zeigen();
@@ -127,6 +129,7 @@ private:
     std::array<optionsseite_zeiger, seiten_anzahl> seiten_;
     std::vector<std::string> sprachordner_;  ///< in the order of the choice
     std::vector<soundfeld*> sounds_;         ///< in the order of their numbers, from 1 on at index 0
+    std::vector<std::string> erklaerungen_;  ///< as the table of them
     std::string grenzen_titel_;
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;

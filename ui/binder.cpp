@@ -91,7 +91,9 @@ private:
         if (tipp_ != element_.tipp()) {
             tipp_ = element_.tipp();
             const QString tipp = als_text(tipp_);
-            widget_->setToolTip(Qt::mightBeRichText(tipp) ? Qt::convertFromPlainText(tipp) : tipp);
+            constexpr qsizetype eine_zeile = 80;  // only rich text is wrapped
+            const bool umbrechen = tipp.size() > eine_zeile || Qt::mightBeRichText(tipp);
+            widget_->setToolTip(umbrechen ? Qt::convertFromPlainText(tipp) : tipp);
         }
     }
 

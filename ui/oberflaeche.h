@@ -26,6 +26,7 @@
 #include "ui/form1_fenster.h"
 #include "ui/form2_fenster.h"
 #include "ui/frm_main_fenster.h"
+#include "ui/hilfe.h"
 #include "ui/k_ampel_fenster.h"
 #include "ui/protokoll_fenster.h"
 #include "ui/rangliste_fenster.h"
@@ -105,6 +106,7 @@ public:
     SpaetesFenster<BildwahlFenster> bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpaetesFenster<SpeichernFenster> fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     SpaetesFenster<WiedergabeFenster> wiedergabe{p_.wiedergabe, fenster, &form1};
+    Hilfe hilfe{p_.ablage, p_.einst};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel, &einfahren}};
 };
 
