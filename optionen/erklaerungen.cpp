@@ -58,6 +58,14 @@ const std::vector<erklaerung>& erklaerungen() {
          "der Rennbildschirm ist ein Fenster und füllt nicht den ganzen Bildschirm"},
         {"Start-/Zieloptionen", "Fahrzeugbilder einblenden", "fahrzeugbild_an",
          "zeigt neben den Fahrern auch die Autos"},
+        {"Start-/Zieloptionen", "Pause, Strafe, Ziel in Worten", "rennbild_worte",
+         "jede Spur sagt in einem großen Wort, warum sie steht, siehe Der Rennbildschirm. Ab Werk angekreuzt"},
+        {"Start-/Zieloptionen", "Spuren nach Platz geordnet", "rennbild_nach_platz",
+         "der Führende steht vorn, und die Spuren gleiten an ihren Platz; sonst stehen sie nach ihren Nummern"},
+        {"Start-/Zieloptionen", "auf dem zweiten Bildschirm", "rennbild_schirm_2",
+         "der Rennbildschirm füllt den zweiten Schirm, die Befehle des Rennens bleiben auf dem ersten. Ohne zweiten "
+         "Schirm ist alles auf einem. Diese drei Kästen stehen in der Datei tvk_rennbild.ini und gelten für jede "
+         "Einstellungsdatei"},
         {"Wettkampf/Training",
          "Wechselmodus, Freie Slots ausblenden, Centermode, Wettkampf nach jedem Rennen speichern",
          "wechselauswahl dummy_opt opt_centermode w_speichern", "gelten im Wettkampf"},
@@ -178,6 +186,11 @@ const std::vector<erklaerung>& erklaerungen() {
          "die Datei, die bei diesem Ereignis erklingt; der Knopf dahinter spielt sie vor"},
         {"Farben", "Farben", "farben_* farbe_*",
          "Spurfarben überall, Hintergrund und Schrift des Rennbildschirms, ausgeschaltete Lampen der Ampel"},
+        {"Farben", "Sprache", "sprache",
+         "die Texte aller Fenster, sofort und für jede Einstellungsdatei; siehe Eine andere Sprache. Sie steht mit dem "
+         "Aussehen in der Datei tvk_anzeige.ini"},
+        {"Farben", "Hell oder dunkel", "aussehen",
+         "alle Fenster außer dem Rennbildschirm; „wie das System“ richtet sich nach der Arbeitsumgebung"},
         {"Trennzeichen", "Trennzeichen", "trennzeichen_*",
          "zwischen Minuten und Sekunden, vor den Tausendsteln, zwischen den Spalten der Ergebnisdateien. Alte "
          "Ergebnisse passen nur zu den Zeichen, mit denen sie geschrieben sind"},

@@ -105,13 +105,10 @@ blattseiten UrkundenFenster::seiten() const {
 }
 
 void UrkundenFenster::pdf_speichern() {
-    const auto vorschlag = ablage_.pfad(logik_.pdf_datei() + ".pdf").u16string();
-    pdf_datei_fragen(this, QString::fromStdString(logik_.Command_pdf.text()), QString::fromStdU16String(vorschlag),
-                     [this, alle = seiten()](const QString& pfad) {
-                         if (!blatt_als_pdf(pfad, alle)) {
-                             logik_.pdf_misslungen();
-                         }
-                     });
+    ui::pdf_speichern(
+        this, logik_.Command_pdf, ablage_.pfad(logik_.pdf_datei() + ".pdf"),
+        [alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
+        [this] { logik_.pdf_misslungen(); });
 }
 
 }  // namespace tarvel::ui
