@@ -16,6 +16,7 @@ fortsetzung::fortsetzung(const renn_umgebung& um, const teile& t) : um_(um), t_(
     });
     vorbereiten_ = um_.protokoll.eingang("fortsetzen", 1, [this](const mitschrift::werte& w) {
         einrichten(rennziel::aus_zahl(um_.param.renn_ziel.art(), protokoll_stempel(w[0])));
+        um_.fenster.zeigen(fenstername::k_ampel);
     });
 }
 

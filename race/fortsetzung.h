@@ -26,7 +26,7 @@ public:
     void fahrer_umsetzen(const spuren<int>& herkunft);
     /// Time driven up to the end, without pauses and without the run-on.
     zeit_ms gefahren() const;
-    /// All that comes before the light. `neues_ziel` counts from the first start.
+    /// All that comes before the light, which opens. `neues_ziel` counts from the first start.
     void vorbereiten(rennziel neues_ziel) { um_.protokoll.geschieht(vorbereiten_, {neues_ziel.zahl()}); }
     /// The race ends before it has gone on: its result is the earlier one.
     void zuruecknehmen();

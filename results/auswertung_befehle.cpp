@@ -231,7 +231,6 @@ void auswertung::cmd3_fortsetzung() {
     um_.param.spuren_wiederherstellen();  // a place without a driver goes round as well
     wechselschema_anwenden();
     r_.fortsetzung.vorbereiten(ziel);
-    um_.fenster.zeigen(fenstername::k_ampel);
 }
 
 void auswertung::cmd5_fortsetzung() {
