@@ -123,6 +123,13 @@ std::vector<std::string> weggelegte_lesen(const dateien& ablage) {
     return ablage.zeilen_lesen(im_ordner(weggelegte), protokolle_max).value_or(std::vector<std::string>{});
 }
 
+/// The names but for this one, and those of logs that are no more.
+std::vector<std::string> weggelegte_ohne(const dateien& ablage, const std::string& name) {
+    std::vector<std::string> namen = weggelegte_lesen(ablage);
+    std::erase_if(namen, [&](const std::string& einer) { return einer == name || !ablage.gibt_es(im_ordner(einer)); });
+    return namen;
+}
+
 }  // namespace
 
 bool protokoll_weggelegt(const dateien& ablage, std::string_view name) {
@@ -131,10 +138,15 @@ bool protokoll_weggelegt(const dateien& ablage, std::string_view name) {
 }
 
 void protokoll_weglegen(const dateien& ablage, const std::string& name) {
-    std::vector<std::string> namen = weggelegte_lesen(ablage);
-    std::erase_if(namen, [&](const std::string& einer) { return einer == name || !ablage.gibt_es(im_ordner(einer)); });
+    std::vector<std::string> namen = weggelegte_ohne(ablage, name);
     namen.push_back(name);
     ablage.zeilen_schreiben(im_ordner(weggelegte), namen);
+}
+
+void protokoll_hervorholen(const dateien& ablage, const std::string& name) {
+    if (protokoll_weggelegt(ablage, name)) {
+        ablage.zeilen_schreiben(im_ordner(weggelegte), weggelegte_ohne(ablage, name));
+    }
 }
 
 void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit& heute, std::string_view in_gebrauch) {

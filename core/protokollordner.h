@@ -29,6 +29,8 @@ std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_vi
 /// A log that is not asked for any more, though nobody may write to it. It can still be taken up by hand.
 bool protokoll_weggelegt(const dateien& ablage, std::string_view name);
 void protokoll_weglegen(const dateien& ablage, const std::string& name);
+/// It goes on: from here on it is asked for like any other.
+void protokoll_hervorholen(const dateien& ablage, const std::string& name);
 
 /// Deletes the logs that are older than 90 days by their names, and all but the newest 200. Any other file is left
 /// alone, and so are linked folders, linked files and the log `in_gebrauch` (without the folder). After a long time

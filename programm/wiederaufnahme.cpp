@@ -219,6 +219,7 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
     const dauer_ms seither = vergangen(k.stand);
     if (k.beschaedigt) {  // the log goes on in front of what is behind the damage
         um_.ablage.kopieren(k.datei, k.datei + std::string(kopie_endung));
+        protokoll_hervorholen(um_.ablage, k.name);
     }
     const zeit_ms letzte = um_.rennen.zeit.messzeit_lesen();
     const bool mit_protokoll = um_.protokoll.weiterfuehren(k.datei, k.stand, seither);

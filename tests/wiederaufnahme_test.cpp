@@ -239,6 +239,7 @@ TEST_F(Wiederaufnahme, WasBeschaedigtIstWirdNurEinmalAngebotenUndNichtAngeruehrt
     morgen.p.form1.command_fortsetzen.klicken();
     EXPECT_TRUE(morgen.lauf().zustand.chaos_aktiv);
     EXPECT_EQ(morgen.maschine.datei_lesen(name + ".beschaedigt"), protokoll) << "what is cut off may be whole";
+    EXPECT_EQ(morgen.maschine.datei_lesen(liste), "") << "cut off once more, it is asked for again";
 }
 
 using Abgebrochen = test::Abendprobe;
