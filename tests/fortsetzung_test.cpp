@@ -17,6 +17,7 @@ protected:
         t.p.einst.sensor_timeout = 0ms;
         t.p.einst.aut_speichern = false;
         t.p.form1.wertmin.eingeben("1");
+        nur_eingaben = true;
     }
 
     void gruen() {

@@ -12,7 +12,10 @@ namespace {
 
 class Rennhergang : public test::ProgrammProbe {
 protected:
-    Rennhergang() { worte_.eintragen(texte_).deutsch_setzen(); }
+    Rennhergang() {
+        worte_.eintragen(texte_).deutsch_setzen();
+        nur_eingaben = true;
+    }
 
     std::string datei() {
         std::string name = t.p.rennprotokoll.dateiname();

@@ -169,6 +169,7 @@ protected:
         t.p.einst.zielmodus_erster = true;
         t.p.einst.sensor_timeout = 0ms;
         t.p.einst.aut_speichern = true;
+        nur_eingaben = true;
     }
     std::string protokoll() {
         std::string name = t.p.rennprotokoll.dateiname();

@@ -17,6 +17,7 @@ protected:
         t.rennabbruch();
         fahrer_eintragen("Anna", "Ben");
         t.maschine.meldungen_gezeigt.clear();
+        nur_eingaben = true;
     }
 
     void fahrer_eintragen(const char* erster, const char* zweiter) {
@@ -40,7 +41,6 @@ protected:
         t.runde_nach(6000, "1");
         t.rennende();
         t.p.auswertung.Command5.klicken();
-        EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
     }
     zeilen inhalt(const char* name) { return t.p.ablage.zeilen_lesen(name, 1000).value_or(zeilen{"none"}); }
 

@@ -17,6 +17,7 @@ protected:
         t.p.fenster.entladen(fenstername::bahn1);
         t.p.einst.aut_speichern = false;
         t.p.einst.w_einfahren_an = false;
+        nur_eingaben = true;
     }
 
     void beginnen(wettkampf_modus modus, int fahrer, const std::vector<int>& spuren, bool centermode = false) {

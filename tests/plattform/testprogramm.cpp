@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/protokollordner.h"
 #include "core/text.h"
 #include "programm/ergebnisvergleich.h"
 
@@ -66,16 +67,39 @@ void testprogramm::runden_auffuellen(int spur, int bis) {
     }
 }
 
+namespace {
+
+std::string unterschied_von(const ergebnisvergleich& v, const programm& noch_einmal) {
+    if (const auto u = noch_einmal.rennprotokoll.abweichung()) {
+        return "line " + std::to_string(u->zeile) + ": " + u->geschrieben + " / " + u->stattdessen;
+    }
+    if (!v.anders.empty()) {
+        return v.anders.front().datei + ": " + v.anders.front().geschrieben + " / " + v.anders.front().gerechnet;
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string protokolle_nachrechnen(const programm& p) {
+    std::string anders;
+    for (const std::string& name : protokolle_auflisten(p.ablage)) {
+        testprogramm noch_einmal;
+        const ergebnisvergleich v =
+            rennen_vergleichen(noch_einmal.p, protokoll_lesen(p.ablage, name).value_or(""), p.ablage);
+        const std::string u = unterschied_von(v, noch_einmal.p);
+        anders += u.empty() ? "" : name + ", " + u + "\n";
+    }
+    return anders;
+}
+
 std::string nachrechnen(const programm& p, const test_plattform& maschine) {
     std::string name = p.rennprotokoll.dateiname();
     std::replace(name.begin(), name.end(), '\\', '/');
     testprogramm noch_einmal;
     const ergebnisvergleich v = rennen_vergleichen(noch_einmal.p, maschine.datei_lesen(name), p.ablage);
-    if (const auto u = noch_einmal.p.rennprotokoll.abweichung()) {
-        return "line " + std::to_string(u->zeile) + ": " + u->geschrieben + " / " + u->stattdessen;
-    }
-    if (!v.anders.empty()) {
-        return v.anders.front().datei + ": " + v.anders.front().geschrieben + " / " + v.anders.front().gerechnet;
+    if (const std::string u = unterschied_von(v, noch_einmal.p); !u.empty()) {
+        return u;
     }
     if (v.ausgang != rennprotokoll::ausgang::ganz) {
         return "no whole log: " + name;

@@ -46,5 +46,7 @@ struct testprogramm {
 /// Drives the last race of this program again from its log. What comes out otherwise; empty if it is the same race,
 /// lap for lap.
 std::string nachrechnen(const programm& p, const test_plattform& maschine);
+/// The same of each log that this program has written, to its last line and its result files.
+std::string protokolle_nachrechnen(const programm& p);
 
 }  // namespace tarvel::test
