@@ -1,12 +1,21 @@
 #include "race/protokollstand.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/protokollzeile.h"
 #include "race/protokollworte.h"
 
 namespace tarvel {
 namespace {
+
+/// What the race asked: behind these words stands the answer, behind those of doings the time.
+bool ist_antwort(std::string_view wort) {
+    constexpr std::array<std::string_view, 15> worte{"u",       "datum",   "zufall", "antwort",    "darf",
+                                                     "kann",    "ampel",   "rot",    "geraeteuhr", "stand",
+                                                     "starter", "fueller", "faehrt", "strafzeit",  "schuldige"};
+    return std::find(worte.begin(), worte.end(), wort) != worte.end();
+}
 
 /// Where a log can be cut.
 struct ort {
@@ -48,6 +57,9 @@ private:
     void tun(std::string_view wort, std::string_view rest, const ort& davor) {
         if (wort == "antwort") {
             letzte_frage_ = davor;
+            return;
+        }
+        if (ist_antwort(wort)) {
             return;
         }
         s_.dauer = std::max(s_.dauer, als_zahl(naechstes_wort(rest)).value_or(0));
