@@ -110,9 +110,8 @@ void pause_legen(const ansicht_inhalt& inhalt, const rechteck& flaeche, const re
 }
 
 /// Equal blocks for the chosen lanes, without a hole for the others.
-rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck& flaeche, double luecke,
+rechteck bloecke_legen(const ansicht_inhalt& inhalt, int anzahl, const rechteck& flaeche, int abstand,
                        ansicht_geometrie& g) {
-    const int abstand = static_cast<int>(std::lround(luecke));
     const bool zeilen = inhalt.art == ansicht_art::zeilen;
     rechteck block = flaeche;
     int& laenge = zeilen ? block.hoehe : block.breite;
@@ -178,16 +177,19 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     befehle_legen(gezeigt, fenster.unten(fuss), skal_faktor, g.fenster);
 
     const rechteck flaeche = fenster.rest();
+    const int luecke = static_cast<int>(std::lround(90 * skal_faktor));
+    const double spaltenskala = std::min(static_cast<double>(breite) / anzahl / entwurf::spalte, skal_hoehe);
     const bool doppelt = ist_doppelspalte(inhalt, flaeche, anzahl);
-    const bool ueber_den_bloecken = inhalt.art == ansicht_art::spalten && !doppelt;
+    const bool ueber_den_bloecken = inhalt.art == ansicht_art::spalten && !doppelt &&
+                                    !ist_breite_spalte((flaeche.breite - (anzahl - 1) * luecke) / anzahl, spaltenskala);
     const rechteck frei = fenster.unten(inhalt.pause && !ueber_den_bloecken ? 0.16 * hoehe : 0);
-    const rechteck block = bloecke_legen(inhalt, anzahl, fenster.rest(), 90 * skal_faktor, g);
+    const rechteck block = bloecke_legen(inhalt, anzahl, fenster.rest(), luecke, g);
     double skala = skal_faktor;
     if (doppelt) {
         doppelspalte_legen(inhalt, block, skal_faktor, g);
         skala = 1.4 * skal_faktor;
     } else if (inhalt.art == ansicht_art::spalten) {
-        skala = std::min(static_cast<double>(breite) / anzahl / entwurf::spalte, skal_hoehe);
+        skala = spaltenskala;
         spalte_legen(inhalt, block, skala, g);
     } else if (zeilen) {
         constexpr int hoch = 3;

@@ -47,7 +47,7 @@ void schuld_legen(const rechteck& ort, double titel_hoehe, spur_orte& g) {
 void platz_legen(const rechteck& ort, double s, double luecke, spur_orte& g) {
     zuschnitt stueck(ort, luecke);
     const double titel = titelhoehe * s;
-    schuld_legen(stueck.rechts(std::min({0.9 * ort.hoehe, 0.5 * ort.breite, 1200 * s})), titel, g);
+    schuld_legen(stueck.rechts(std::min({1.1 * ort.hoehe, 0.5 * ort.breite, 1300 * s})), titel, g);
     mit_titel(stueck.rest(), titel, g[t::Label_platz], g[t::l_PosAnz]);
 }
 
@@ -116,7 +116,13 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
     }
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
     g[t::Label_spur].ort = mitte.links(0.2 * ort.breite);
-    schuld_legen(mitte.rechts(0.26 * ort.breite), 0.34 * mitte.rest().hoehe, g);
+    zuschnitt schuld(mitte.rechts((hoch ? 0.24 : 0.3) * ort.breite), luecke);
+    if (hoch) {
+        schuld_legen(schuld.rest(), 0.36 * schuld.rest().hoehe, g);
+    } else {
+        g[t::ch_strafzeit_hacken].ort = schuld.rechts(std::min<double>(schuld.rest().hoehe, 0.16 * ort.breite));
+        g[t::Label_schuld].ort = schuld.rest();
+    }
     ampel_legen(mitte.rest(), luecke, g);
 }
 
@@ -152,20 +158,24 @@ double tafelhoehe(const rechteck& frei, double gebraucht, const ansicht_geometri
     return std::clamp<double>(frei.hoehe - gebraucht, 0, ganzes.spur[t::zaehler].ort.hoehe);
 }
 
+bool ist_breite_spalte(int breite, double skala) {
+    return breite >= 1.8 * entwurf::spalte * skala;
+}
+
 /// A column from top to bottom. One that is nearly twice as wide as the design has it shows two things side by side,
 /// and the counter takes what that leaves.
 void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
     spur_orte& g = ganzes.spur;
     const double luecke = 60 * s;
-    const bool breit = block.breite >= 1.8 * entwurf::spalte * s;
+    const bool breit = ist_breite_spalte(block.breite, s);
     zuschnitt stapel(block.innen(110 * s), luecke);
     ganzes.streifen = stapel.oben(100 * s);
     g[t::yellowframe].ort = stapel.oben(220 * s);
     g[t::namenslabel].ort = stapel.oben(860 * s);
     zuschnitt bilder(stapel.oben((breit ? 2000 : 1700) * s), luecke);
-    g[t::Image1].ort = bilder.links((breit ? 1800 : 1100) * s);
+    g[t::Image1].ort = bilder.links((breit ? 1500 : 1100) * s);
     if (breit && inhalt.fahrzeugbild) {
-        g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.4 * block.breite));
+        g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.34 * block.breite));
     }
     spaltenkopf(bilder.rest(), s, luecke, g);
 
@@ -191,8 +201,15 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     const double gebraucht = tank + zeiten + (tank > 0 ? 3 : 2) * luecke;
     ganzes.tafel = mit_tafel.oben(tafelhoehe(mit_tafel.rest(), gebraucht, ganzes));
     darunter(mit_tafel, ganzes.spur_tafel);
+    if (ganzes.spur_tafel[t::t_liste].ort.hoehe < 350 * s) {
+        ganzes.spur_tafel[t::t_liste].ort = {};  // no row is cut through
+    }
+    if (inhalt.pause && !breit) {  // the word of the pause lies over the times, and cuts none of them
+        g = ganzes.spur_tafel;
+        g[t::Image2].ort = bild2 > 0 ? ganzes.tafel : rechteck{};
+    }
     const int oben = ganzes.spur_tafel[t::Label_lrunde].ort.y;
-    ganzes.unterer_teil = {0, oben, block.breite, g[t::straflabel].ort.y - oben};
+    ganzes.unterer_teil = breit ? rechteck{} : rechteck{0, oben, block.breite, g[t::straflabel].ort.y - oben};
 }
 
 /// A block that is nearly as wide as it is high has two halves: on the left who drives and his laps, on the right his
@@ -210,7 +227,7 @@ void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, dou
     zuschnitt haelften(stapel.rest(), 3 * luecke);
     zuschnitt rechts(haelften.rechts(0.42 * block.breite), luecke);
     zuschnitt links(haelften.rest(), luecke);
-    const double kopf = 0.22 * h;
+    const double kopf = 0.27 * h;
     zuschnitt bilder(links.oben(kopf), luecke);
     g[t::Image1].ort = bilder.links(std::min(0.8 * kopf, 0.4 * links.rest().breite));
     spaltenkopf(bilder.rest(), 1.4 * s, luecke, g);
@@ -219,7 +236,7 @@ void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, dou
     zuschnitt mit_tafel = rechts;
     const double zeiten = 0.35 * h;
     if (inhalt.fahrzeugbild) {
-        g[t::Image2].ort = rechts.oben(0.8 * kopf);
+        g[t::Image2].ort = rechts.oben(0.65 * kopf);
     }
     zeiten_stapeln(inhalt, rechts.oben(zeiten), g);
     g[t::t_liste].ort = rechts.rest();
@@ -258,11 +275,11 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     const rechteck platzfeld = mittig(reihe.links(platzziffer * e), 2.2 * platzziffer * e);
     mit_titel(platzfeld, std::min(0.2 * platzfeld.hoehe, 420 * s), g[t::Label_platz], g[t::l_PosAnz]);
     zaehler_einruecken(reihe.links(zaehler * e), entwurf::zaehler_links * e, ganzes);
-    const auto dahinter = [&](zuschnitt& rest, spur_orte& orte) {
+    const auto dahinter = [&](zuschnitt& rest, double fuer_zeiten, spur_orte& orte) {
         if (!hoch) {
             tank_legen(inhalt, rest.links(tank * e), false, orte);
         }
-        const rechteck zeitfeld = rest.links(zeiten * e);
+        const rechteck zeitfeld = rest.links(fuer_zeiten * e);
         constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
         if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
             zeiten_reihen(inhalt, zeitfeld, 2 * luecke, orte);
@@ -275,11 +292,12 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     if (!hoch) {
         g[t::Image2].ort = reihe.links(bild2 * e);
     }
-    dahinter(reihe, g);
+    dahinter(reihe, zeiten, g);
     g[t::t_liste].ort = reihe.rest();
-    const double gebraucht = (tank > 0 ? tank * e + 2 * luecke : 0) + zeiten * e + 2 * luecke;
+    const double zeiten_daneben = hoch ? 0.7 * zeiten : zeiten;
+    const double gebraucht = (tank > 0 ? tank * e + 2 * luecke : 0) + zeiten_daneben * e + 2 * luecke;
     ganzes.tafel = mit_tafel.links(mit_tafel.rest().breite - gebraucht);
-    dahinter(mit_tafel, ganzes.spur_tafel);
+    dahinter(mit_tafel, zeiten_daneben, ganzes.spur_tafel);
 }
 
 /// A single lane, and a row that has the height for it: the counter in the middle, what belongs to the driver on its

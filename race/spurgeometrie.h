@@ -22,6 +22,8 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double sk
 void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
 void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
 void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double skala, ansicht_geometrie& ganzes);
+/// The column shows things side by side.
+bool ist_breite_spalte(int breite, double skala);
 /// The blocks change hands: the first goes to the lane of the lowest value.
 void bloecke_ordnen(ansicht_geometrie& g, const spuren<int>& ordnung);
 /// The fonts in these places.

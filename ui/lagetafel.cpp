@@ -119,8 +119,8 @@ QRectF rand_malen(QPainter& maler, const QRectF& flaeche, lagefarbe farbe) {
     const QRectF oben(flaeche.left(), flaeche.top(), flaeche.width(), dick);
     const QRectF unten = oben.translated(0, flaeche.height() - dick);
     if (farbe == lagefarbe::strafe || farbe == lagefarbe::achtung) {
-        schraffieren(maler, oben, a.grund, Qt::black);
-        schraffieren(maler, unten, a.grund, Qt::black);
+        schraffieren(maler, oben, 1.6 * dick, a.grund, Qt::black);
+        schraffieren(maler, unten, 1.6 * dick, a.grund, Qt::black);
     } else if (farbe == lagefarbe::ziel) {
         karo_malen(maler, oben, a.grund, a.schrift);
         karo_malen(maler, unten, a.grund, a.schrift);

@@ -106,17 +106,16 @@ void lagezeichen_malen(QPainter& maler, const QRectF& platz, lagezeichen zeichen
     maler.restore();
 }
 
-void schraffieren(QPainter& maler, const QRectF& flaeche, const QColor& hell, const QColor& dunkel) {
+void schraffieren(QPainter& maler, const QRectF& flaeche, double breite, const QColor& hell, const QColor& dunkel) {
     maler.save();
     maler.setClipRect(flaeche, Qt::IntersectClip);
     maler.fillRect(flaeche, dunkel);
     maler.setPen(Qt::NoPen);
     maler.setBrush(hell);
     const double h = flaeche.height();
-    const double schritt = std::clamp(1.6 * std::min(h, flaeche.width()), 12.0, 60.0);
-    for (double x = flaeche.left() - h - schritt; x < flaeche.right(); x += 2 * schritt) {
+    for (double x = flaeche.left() - h - breite; x < flaeche.right(); x += 2 * breite) {
         maler.drawPolygon(QPolygonF{QPointF(x, flaeche.bottom()), QPointF(x + h, flaeche.top()),
-                                    QPointF(x + h + schritt, flaeche.top()), QPointF(x + schritt, flaeche.bottom())});
+                                    QPointF(x + h + breite, flaeche.top()), QPointF(x + breite, flaeche.bottom())});
     }
     maler.restore();
 }

@@ -273,11 +273,13 @@ void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
         QPainterPath rahmen;
         rahmen.addRoundedRect(rand, 10, 10);
         maler.setClipPath(rahmen);
-        schraffieren(maler, rand, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white), Qt::black);
+        const double dick = std::clamp(0.012 * height(), 4.0, 8.0);
+        schraffieren(maler, rand, 2 * dick, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white),
+                     Qt::black);
         maler.setClipping(false);
         maler.setPen(Qt::NoPen);
         maler.setBrush(grundfarbe_);
-        maler.drawRect(rand.adjusted(8, 8, -8, -8));
+        maler.drawRect(rand.adjusted(dick, dick, -dick, -dick));
         streifen_malen(maler);
         return;
     }

@@ -58,13 +58,13 @@ void Uhranzeige::anordnen() {
     for (const Teil& t : teile_) {
         breite_em += em(t);
     }
-    constexpr int titel_min_px = 16;
+    constexpr int titel_min_px = 20;
     const int titel = std::min(std::max(height() * 19 / 100, titel_min_px), height() / 3);
     const int px = std::min(schrift_px_, static_cast<int>(width() / breite_em));
     const int hoehe = std::min(px, height() - titel);
     const int oben = (height() - titel - hoehe) / 2;
     titel_->setGeometry(0, oben, width(), titel);
-    titel_->setSchriftPx(titel * 8 / 10);
+    titel_->setSchriftPx(titel * 95 / 100);
     double x = (width() - breite_em * px) / 2;
     for (const Teil& t : teile_) {
         const double breite = em(t) * px;
