@@ -1,5 +1,6 @@
 #include "ui/bahn1_fenster.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QScreen>
@@ -17,6 +18,14 @@ using f = fenster_teil;
 
 constexpr int sekunden_max = 9999;
 constexpr std::array<f, 5> befehle{f::Command1, f::Command6, f::Command3, f::Command4, f::Command2};
+
+/// The second screen, where it is wanted and there is one: that on which the main window is not.
+QScreen* eigener_schirm(const QWidget& fenster, bool auf_dem_zweiten) {
+    const QScreen* erster = fenster.parentWidget() != nullptr ? fenster.parentWidget()->screen() : fenster.screen();
+    const QList<QScreen*> alle = QGuiApplication::screens();
+    const auto zweiter = std::find_if(alle.begin(), alle.end(), [erster](const QScreen* s) { return s != erster; });
+    return auf_dem_zweiten && zweiter != alle.end() ? *zweiter : fenster.screen();
+}
 
 }  // namespace
 
@@ -46,6 +55,11 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     befehlszeile();
     geraetealarm();
     nachtabschaltung();
+    QObject::connect(qApp, &QGuiApplication::screenRemoved, this, [this] {
+        if (isVisible() && logik_.umgebung.einst.rennbild.auf_schirm_2) {  // fills the one that is left
+            QTimer::singleShot(0, this, [this] { schirm_fuellen(); });
+        }
+    });
     setMinimumSize(640, 480);
     resize(1280, 1024);
     binder().verbinden(logik.bahn1.ansicht, unsichtbar(), "ansicht", [this] { anordnen(); });
@@ -205,16 +219,20 @@ void Bahn1Fenster::alarm_anordnen() {
     alarm_->raise();
 }
 
+void Bahn1Fenster::schirm_fuellen() {
+    const QRect schirm = eigener_schirm(*this, logik_.umgebung.einst.rennbild.auf_schirm_2)->availableGeometry();
+    setGeometry(
+        schirm.adjusted(schirm.width() / 16, schirm.height() / 12, -schirm.width() / 16, -schirm.height() / 16));
+    if (logik_.umgebung.einst.fenstermodus) {
+        showNormal();
+    } else {
+        showFullScreen();
+    }
+}
+
 void Bahn1Fenster::aufschlagen() {
     if (!isVisible()) {
-        const QRect schirm = screen()->availableGeometry();
-        setGeometry(
-            schirm.adjusted(schirm.width() / 16, schirm.height() / 12, -schirm.width() / 16, -schirm.height() / 16));
-        if (logik_.umgebung.einst.fenstermodus) {
-            showNormal();
-        } else {
-            showFullScreen();
-        }
+        schirm_fuellen();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     anordnen();

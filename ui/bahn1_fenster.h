@@ -30,6 +30,7 @@ protected:
     void hideEvent(QHideEvent* ereignis) override;
 
 private:
+    void schirm_fuellen();
     void kopf();
     void befehlszeile();
     void strafformular();
