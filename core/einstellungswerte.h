@@ -47,7 +47,7 @@ enum class sektor_ort { keiner, klein, gross };
 struct rennbildwahl {
     bool worte = true;          ///< each lane says in a word what it is in
     bool nach_platz = false;    ///< the lanes stand by their places, not by their numbers
-    bool auf_schirm_2 = false;  ///< the race window fills the second screen, the commands stay on the first
+    bool auf_schirm_2 = false;  ///< the race window fills the second screen, if there is one
 
     bool operator==(const rennbildwahl&) const = default;
 };

@@ -70,7 +70,7 @@ TEST_F(Bestzeiten, GeltenMitDerEinstellungsdateiUndZeigenSichInBeidenFenstern) {
     p.form1.Command1.klicken();
     EXPECT_EQ(bahn.bestzeit_label[3].text(), "Best: 00:08,123");
     EXPECT_EQ(bahn.bestzeit_label[2].text(), "");
-    EXPECT_EQ(bahn.bestzeit_gesamt.text(), "00:08,123   Anna   01.02.2026");
+    EXPECT_EQ(bahn.bestzeit_gesamt.text(), "Bahnrekord: 00:08,123   Anna   01.02.2026");
     p.fenster.entladen(fenstername::bahn1);
     p.einst.beste_modus = bestzeit_speicherung::aus;
     p.form1.beste_zeiten_anzeigen();
