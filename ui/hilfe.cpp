@@ -101,7 +101,7 @@ Handbuch::Handbuch(QString ordner, QWidget* vor) : QTextBrowser(vor), ordner_(st
     setAccessibleName(windowTitle());
     setObjectName("handbuch");
     setOpenLinks(false);
-    setStyleSheet("QTextBrowser { background: white; padding: 12px; }");
+    setStyleSheet("QTextBrowser { background: white; color: #1c2028; padding: 12px; }");
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& verweis) { folgen(verweis); });
     const QSize platz = screen()->availableGeometry().size();
     resize(QSize(bild_breite_max + 80, platz.height() * 17 / 20).boundedTo(platz));
