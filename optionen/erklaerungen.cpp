@@ -63,8 +63,9 @@ const std::vector<erklaerung>& erklaerungen() {
         {"Start-/Zieloptionen", "Spuren nach Platz geordnet", "rennbild_nach_platz",
          "der Führende steht vorn, und die Spuren gleiten an ihren Platz; sonst stehen sie nach ihren Nummern"},
         {"Start-/Zieloptionen", "auf dem zweiten Bildschirm", "rennbild_schirm_2",
-         "der Rennbildschirm füllt den zweiten Schirm, die Befehle des Rennens bleiben auf dem ersten. Ohne zweiten "
-         "Schirm ist alles auf einem. Diese drei Kästen stehen in der Datei tvk_rennbild.ini und gelten für jede "
+         "der Rennbildschirm füllt mit seinen Knöpfen den zweiten Schirm, das Hauptfenster bleibt auf dem ersten. Wird "
+         "er abgezogen oder gibt es keinen, füllt er den ersten. "
+         "Diese drei Kästen stehen in der Datei tvk_rennbild.ini und gelten für jede "
          "Einstellungsdatei"},
         {"Wettkampf/Training",
          "Wechselmodus, Freie Slots ausblenden, Centermode, Wettkampf nach jedem Rennen speichern",

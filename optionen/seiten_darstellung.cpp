@@ -92,14 +92,14 @@ optionsseite_zeiger sounds() {
 
 optionsseite_zeiger farben() {
     auto seite = std::make_unique<optionsseite>("Farben");
-    seite->gruppe("Fenster", 1) << wortliste({"sprache", "Sprache"}, wert(&e::anzeige, &erscheinung::sprachordner), {})
-                                << wahl({"aussehen", "Hell oder dunkel"}, wert(&e::anzeige, &erscheinung::fenster), 0,
-                                        {"hell", "dunkel", "wie das System"});
     optionsgruppe& spuren_gruppe = seite->gruppe("Spuren", 0);
     for (const int spur : alle_spuren) {
         const std::string nummer = std::to_string(spur);
         spuren_gruppe << farbwahl({"farben_spur_" + nummer, "Spur " + nummer}, je_spur(&e::farben_spur, spur));
     }
+    seite->gruppe("Fenster", 0) << wortliste({"sprache", "Sprache"}, wert(&e::anzeige, &erscheinung::sprachordner), {})
+                                << wahl({"aussehen", "Hell oder dunkel"}, wert(&e::anzeige, &erscheinung::fenster), 0,
+                                        {"hell", "dunkel", "wie das System"});
     seite->gruppe("Rennbildschirm", 1)
         << farbwahl({"farben_ampel_1", "Hintergrund"}, element(&e::farben_ampel, 1))
         << farbwahl({"farben_schrift_2", "Schrift"}, element(&e::farben_schrift, 2))

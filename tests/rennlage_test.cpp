@@ -45,7 +45,7 @@ TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
     EXPECT_EQ(sagt(2), "FRÜHSTART") << "drives, and counts nothing yet";
     t.maschine.laufen(6000);
     EXPECT_EQ(sagt(2), "");
-    t.bahn().Command2.klicken();
+    t.rennabbruch();
 
     t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
     beginnen(1);

@@ -142,7 +142,7 @@ TEST_F(Wiederaufnahme, LangeStrafenFuellenDasProtokollNichtUndGehenDochWeiter) {
     EXPECT_TRUE(danach.spur(6).tank_strafe_aktiv);
     danach.maschine.laufen(1300);
     EXPECT_FALSE(danach.spur(6).tank_strafe_aktiv);
-    danach.p.rennen.bahn1.Command4.klicken();
+    danach.p.rennen.endfrage.bestaetigen();
     EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
 }
 
@@ -153,7 +153,7 @@ TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtMitSeinenKorrekturenWieder
     t_.runde_nach(6000, "1");
     t_.runde_nach(7000, "12");
     t_.runde_nach(8000, "1");
-    t_.bahn().Command4.klicken();
+    t_.rennende();
     auswertung& vorher = t_.p.auswertung;
     vorher.liste[0].auswaehlen(1);
     vorher.Command8.klicken();
@@ -200,20 +200,20 @@ TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavor
     t_.runde_nach(5000, "12");
     t_.runde_nach(5000, "12");
     t_.runde_nach(5000, "1");
-    t_.bahn().Command4.klicken();
+    t_.rennende();
     t_.p.auswertung.neues_ziel.eingeben("4");
     t_.p.auswertung.Command3.klicken();
     t_.p.k_ampel.Command1.klicken();
     t_.maschine.laufen(8000);
     t_.runde_nach(5000, "12");
     const std::string protokoll = protokoll_von(t_);
-    t_.bahn().Command4.klicken();
+    t_.rennende();
 
     neustart danach(t_, protokoll);
     danach.p.starten();
     ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1));
     danach.weiter();
-    danach.p.rennen.bahn1.Command4.klicken();
+    danach.p.rennen.endfrage.bestaetigen();
     for (const std::size_t i : {0U, 1U}) {
         EXPECT_EQ(danach.p.auswertung.ges_meter[i].text(), t_.p.auswertung.ges_meter[i].text());
     }
@@ -254,7 +254,7 @@ TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
         t.runde_nach(6000, "123");
         t.runde_nach(6000, "123");
         t.maschine.antwort = true;
-        t.p.rennen.befehle.fenster_schliessen();
+        t.rennabbruch();
         ASSERT_FALSE(offen(fenstername::bahn1));
         t.maschine.antwort = weiter;
         t.maschine.fragen_gestellt.clear();

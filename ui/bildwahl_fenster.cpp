@@ -37,8 +37,8 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung,
     mitte->addWidget(binder().bildfeld(logik.vorschau, "vorschau", vorschaugroesse, pfad_aus_utf8), 0, Qt::AlignTop);
     aufbau->addLayout(mitte, 1);
 
-    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
     QPushButton* suchen = binder().knopf(logik.Command_suchen, "Command_suchen");
+    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
     QObject::connect(suchen, &QPushButton::clicked, this, [this, &logik] { bild_suchen(logik); });
     QHBoxLayout* fuss = stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")});
     fuss->insertWidget(0, stil::fensterknopf(suchen));

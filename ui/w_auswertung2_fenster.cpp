@@ -127,6 +127,8 @@ QLayout* WAuswertung2Fenster::rennzeile() {
     rennen->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     zeile->addWidget(rennen);
     zeile->addStretch(1);
+    zeile->addWidget(binder().knopf(logik_.Command_zurueck, "Command_zurueck", "schmal"));
+    zeile->addWidget(binder().knopf(logik_.Command_wieder, "Command_wieder", "schmal"));
     return zeile;
 }
 
@@ -226,9 +228,7 @@ QLayout* WAuswertung2Fenster::befehlszeile() {
     for (const auto& [element, name] : {std::pair{&logik_.Command3, "Command3"},
                                         {&logik_.Command22, "Command22"},
                                         {&logik_.Command20, "Command20"},
-                                        {&logik_.Command18, "Command18"},
-                                        {&logik_.Command_zurueck, "Command_zurueck"},
-                                        {&logik_.Command_wieder, "Command_wieder"}}) {
+                                        {&logik_.Command18, "Command18"}}) {
         zeile->addWidget(binder().knopf(*element, name));
     }
     zeile->addStretch(1);
