@@ -182,7 +182,8 @@ std::optional<hilfeort> Hilfe::ort(const Fenster& vorn) const {
 bool Hilfe::eventFilter(QObject* ziel, QEvent* ereignis) {
     if (ereignis->type() == QEvent::KeyPress || ereignis->type() == QEvent::ShortcutOverride) {
         const auto& taste = *static_cast<QKeyEvent*>(ereignis);
-        auto* vorn = dynamic_cast<Fenster*>(QApplication::activeWindow());
+        const auto* feld = qobject_cast<QWidget*>(ziel);
+        auto* vorn = feld == nullptr ? nullptr : dynamic_cast<Fenster*>(feld->window());
         if (taste.key() == Qt::Key_F1 && taste.modifiers() == Qt::NoModifier && vorn != nullptr) {
             const auto wohin = ort(*vorn);
             if (wohin && ereignis->type() == QEvent::ShortcutOverride) {
