@@ -9,8 +9,8 @@
 #include "race/fortsetzung.h"
 #include "race/fruehstartstrafe.h"
 #include "race/rennbefehle.h"
-#include "race/rueckfrage.h"
 #include "race/rennlage.h"
+#include "race/rueckfrage.h"
 #include "race/rundenkorrektur.h"
 #include "race/strafen.h"
 
