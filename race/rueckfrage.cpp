@@ -6,7 +6,7 @@ namespace tarvel {
 namespace {
 
 constexpr int frist_s = 3;
-constexpr zeit_ms frist = 1000 * frist_s;
+constexpr zeit_ms frist = zeit_ms{1000} * frist_s;
 constexpr zeit_ms versehen = 400;  // a double click, or a key that bounces
 
 }  // namespace
@@ -29,12 +29,11 @@ rueckfrage::rueckfrage(befehl& knopf, umfeld um)
 
 void rueckfrage::druecken() {
     const zeit_ms her = um_.uhr.jetzt() - seit_;
-    if (!um_.noetig()) {
+    const bool gefragt = fragt() && her < frist;  // a busy machine may have missed the last second's tick
+    if (!um_.noetig() || (gefragt && her >= versehen)) {
         bestaetigen();
-    } else if (!fragt() || her >= frist) {  // a busy machine may have missed the last second's tick
+    } else if (!gefragt) {
         fragen();
-    } else if (her >= versehen) {
-        bestaetigen();
     }
 }
 

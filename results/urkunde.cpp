@@ -79,6 +79,7 @@ std::vector<urkunde> urkunden_bilden(const rennergebnis& ergebnis, const urkunde
     std::vector<rennergebnis::spur> folge = ergebnis.spuren;
     std::stable_sort(folge.begin(), folge.end(), [](const auto& a, const auto& b) { return a.platz < b.platz; });
     std::vector<urkunde> urkunden;
+    urkunden.reserve(folge.size());
     for (const rennergebnis::spur& s : folge) {
         urkunden.push_back(urkunde_fuer(ergebnis, s, angaben));
     }

@@ -24,7 +24,7 @@ fi
 
 # The whole in few joint files of several folders: the headers, most of the work, are read and checked once. Without
 # precompiled headers: this compiler cannot read those of the other. Only what is built here: the other system's files do not compile without its headers.
-cmake --preset debug -B build/stil -DTARVEL_BENCHMARKS=ON -DTARVEL_VORKOMPILIERT=OFF -DTARVEL_VERBUND=ON \
+cmake --preset debug -B build/stil -DTARVEL_BENCHMARKS=OFF -DTARVEL_VORKOMPILIERT=OFF -DTARVEL_VERBUND=ON \
     -DTARVEL_STIL=ON >/dev/null
 
 # The files of a joint one count as headers, so the analyzer looks into those too. It gives up on a function after this

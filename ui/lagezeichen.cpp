@@ -23,7 +23,7 @@ struct Stift {
     }
 };
 
-void balken_malen(const Stift& s) {
+void boxbalken_malen(const Stift& s) {
     s.flaechen(s.farbe);
     s.maler.drawRect(QRectF(-34, -42, 24, 84));
     s.maler.drawRect(QRectF(10, -42, 24, 84));
@@ -92,7 +92,7 @@ void kreuz_malen(const Stift& s) {
 void lagezeichen_malen(QPainter& maler, const QRectF& platz, lagezeichen zeichen, const QColor& farbe,
                        const QColor& grund) {
     using malen = void (*)(const Stift&);
-    static constexpr std::array<malen, 8> alle{nullptr,          balken_malen,      dreieck_malen,    uhr_malen,
+    static constexpr std::array<malen, 8> alle{nullptr,          boxbalken_malen,   dreieck_malen,    uhr_malen,
                                                zapfsaeule_malen, leerer_tank_malen, zielflagge_malen, kreuz_malen};
     const malen eines = alle.at(static_cast<std::size_t>(zeichen));
     if (eines == nullptr) {
@@ -113,7 +113,9 @@ void schraffieren(QPainter& maler, const QRectF& flaeche, double breite, const Q
     maler.setPen(Qt::NoPen);
     maler.setBrush(hell);
     const double h = flaeche.height();
-    for (double x = flaeche.left() - h - breite; x < flaeche.right(); x += 2 * breite) {
+    const int streifen = static_cast<int>(std::ceil((flaeche.width() + h + breite) / (2 * breite)));
+    for (int i = 0; i < streifen; ++i) {
+        const double x = flaeche.left() - h - breite + 2 * breite * i;
         maler.drawPolygon(QPolygonF{QPointF(x, flaeche.bottom()), QPointF(x + h, flaeche.top()),
                                     QPointF(x + h + breite, flaeche.top()), QPointF(x + breite, flaeche.bottom())});
     }

@@ -87,8 +87,9 @@ std::string protokolle_nachrechnen(const programm& p) {
         testprogramm noch_einmal;
         const ergebnisvergleich v =
             rennen_vergleichen(noch_einmal.p, protokoll_lesen(p.ablage, name).value_or(""), p.ablage);
-        const std::string u = unterschied_von(v, noch_einmal.p);
-        anders += u.empty() ? "" : name + ", " + u + "\n";
+        if (const std::string u = unterschied_von(v, noch_einmal.p); !u.empty()) {
+            anders.append(name).append(", ").append(u).append("\n");
+        }
     }
     return anders;
 }
@@ -98,7 +99,7 @@ std::string nachrechnen(const programm& p, const test_plattform& maschine) {
     std::replace(name.begin(), name.end(), '\\', '/');
     testprogramm noch_einmal;
     const ergebnisvergleich v = rennen_vergleichen(noch_einmal.p, maschine.datei_lesen(name), p.ablage);
-    if (const std::string u = unterschied_von(v, noch_einmal.p); !u.empty()) {
+    if (std::string u = unterschied_von(v, noch_einmal.p); !u.empty()) {
         return u;
     }
     if (v.ausgang != rennprotokoll::ausgang::ganz) {
