@@ -44,13 +44,13 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
-    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 1);
-    zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 1);
-    aufbau->addWidget(zeit.feld, 4);
+    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 4);
+    zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 5);
+    aufbau->addWidget(zeit.feld, 7);
     const zelle_teile beste = zelle({logik.Label_beste[i], logik.beste_aus[i], "beste_aus", schrift_wert}, binder);
     beste.zusatz->addWidget(zusatz(logik.kmh_label[i], "kmh_label", binder));
     aufbau->addWidget(beste.feld, 5);
-    aufbau->addWidget(listenspalte(binder), 5);
+    aufbau->addWidget(listenspalte(binder), 4);
 
     binder.verbinden(logik.Frame.at(index_), this, nummeriert("Frame"), [this] {
         spurfarbe_ = stil::farbe_von(logik_.Frame.at(index_).schriftfarbe().value_or(0));

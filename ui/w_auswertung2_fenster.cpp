@@ -46,6 +46,7 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
     dateispalte_ = t.spalte;
     dateispalte_fuellen(t.links);
     // Beside the other ways to paper it is too wide for a small screen.
+    t.kopfzeile->addWidget(binder().knopf(logik.Command_protokoll, "Command_protokoll", "schmal"));
     t.kopfzeile->addWidget(binder().knopf(logik.Command_urkunden, "Command_urkunden", "schmal"));
     QVBoxLayout* rechts = t.rechts;
     rechts->addLayout(blickzeile());
@@ -243,7 +244,6 @@ QLayout* WAuswertung2Fenster::fusszeile() {
     hinweis->setWordWrap(true);
     zeile->addWidget(hinweis, 1);
     zeile->addStretch(0);
-    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_protokoll, "Command_protokoll")));
     zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command16, "Command16")));
     zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command5, "Command5")));
     return zeile;
