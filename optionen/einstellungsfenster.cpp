@@ -329,33 +329,29 @@ void einstellungsfenster::sektoranzeige_trennen() {
     }
 }
 
-/// What has files of its own.
+/// What has files of its own. What could not be kept is tried again the next time.
 bool einstellungsfenster::nebendateien_speichern(const einstellungen& vorher) {
     const einstellungen& einst = um_.ziel.einst;
-    if (trennzeichen_fehlen_ || einst.trennzeichen != vorher.trennzeichen) {
-        trennzeichen_fehlen_ = !trennzeichen_speichern(um_.ablage, einst.trennzeichen);
-        if (trennzeichen_fehlen_) {
-            um_.meldungen.zeigen(um_.txt.meldung[24], um_.txt.titel[1]);
+    const auto sichern = [this](bool& offen, bool geaendert, const auto& schreiben, const std::string& meldung) {
+        if (offen || geaendert) {
+            offen = !schreiben();
+            if (offen) {
+                um_.meldungen.zeigen(meldung, um_.txt.titel[1]);
+            }
         }
-    }
-    if (gruppen_ungesichert_ || einst.gruppen != vorher.gruppen) {
-        gruppen_ungesichert_ = !gruppenwahl_speichern(um_.ablage, einst.gruppen);
-        if (gruppen_ungesichert_) {
-            um_.meldungen.zeigen(gruppen_fehler_, um_.txt.titel[1]);
-        }
-    }
-    if (anzeige_ungesichert_ || einst.anzeige != vorher.anzeige) {
-        anzeige_ungesichert_ = !erscheinung_speichern(um_.ablage, einst.anzeige);
-        if (anzeige_ungesichert_) {
-            um_.meldungen.zeigen(anzeige_fehler_, um_.txt.titel[1]);
-        }
-    }
-    if (rennbild_ungesichert_ || einst.rennbild != vorher.rennbild) {
-        rennbild_ungesichert_ = !rennbildwahl_speichern(um_.ablage, einst.rennbild);
-        if (rennbild_ungesichert_) {
-            um_.meldungen.zeigen(rennbild_fehler_, um_.txt.titel[1]);
-        }
-    }
+    };
+    sichern(
+        trennzeichen_fehlen_, einst.trennzeichen != vorher.trennzeichen,
+        [&] { return trennzeichen_speichern(um_.ablage, einst.trennzeichen); }, um_.txt.meldung[24]);
+    sichern(
+        gruppen_ungesichert_, einst.gruppen != vorher.gruppen,
+        [&] { return gruppenwahl_speichern(um_.ablage, einst.gruppen); }, gruppen_fehler_);
+    sichern(
+        anzeige_ungesichert_, einst.anzeige != vorher.anzeige,
+        [&] { return erscheinung_speichern(um_.ablage, einst.anzeige); }, anzeige_fehler_);
+    sichern(
+        rennbild_ungesichert_, einst.rennbild != vorher.rennbild,
+        [&] { return rennbildwahl_speichern(um_.ablage, einst.rennbild); }, rennbild_fehler_);
     return !trennzeichen_fehlen_ && !gruppen_ungesichert_ && !anzeige_ungesichert_ && !rennbild_ungesichert_;
 }
 
