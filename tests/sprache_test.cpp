@@ -87,7 +87,6 @@ TEST_F(Sprache, GewaehlteSpracheGiltSofortUndNachDemNeustart) {
     programm& deutsch = mit_datei("../language-xy/language_m1.txt", {"", "Car", "Driver", "Time", "Laps", "Note"});
     ASSERT_TRUE(ablage.zeilen_schreiben("language-xy/language_m2.txt", {"", "", "Lane", "Length"}));
     deutsch.form1.rennart.eingeben("Runden");
-    deutsch.form1.fahrer[0].eingeben("kein Fahrer");
     deutsch.form1.Command4.klicken();
     auto& wahl = std::get<auswahl>(deutsch.einstellungsfenster.zeile("sprache").element);
     EXPECT_EQ(wahl.eintraege(), (zeilen{"Deutsch", "xy"}));
