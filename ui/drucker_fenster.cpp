@@ -40,7 +40,7 @@ DruckerFenster::DruckerFenster(drucker_fenster& logik, Fensterverwaltung& verwal
     fuss->addWidget(stil::fensterknopf(binder().hauptknopf(logik.Command3, "Command3")));
     fuss->addWidget(stil::fensterknopf(binder().knopf(logik.Command2, "Command2")));
     aufbau->addLayout(fuss);
-    resize(820, 520);
+    resize(960, 520);
 }
 
 QHBoxLayout* DruckerFenster::kopf(drucker_fenster& logik) {

@@ -12,7 +12,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int rechts_breite = 282;
-constexpr int links_breite = 270;
+constexpr int links_breite = 250;
 constexpr QMargins enger{10, 8, 10, 8};
 
 }  // namespace
@@ -31,7 +31,7 @@ FrmMainFenster::FrmMainFenster(frm_main& logik, const dateien& ablage, Fensterve
     links->addStretch();
     auto* mitte = binder().gruppe(logik_.Frame_eingang, "Frame_eingang");
     auto* eingaenge = new QVBoxLayout(mitte);
-    eingaenge->setContentsMargins(6, 6, 6, 6);
+    eingaenge->setContentsMargins(2, 6, 2, 6);
     eingaenge->addWidget(analoggruppe());
     eingaenge->addWidget(digitalgruppe());
     eingaenge->addStretch();
@@ -70,7 +70,8 @@ QWidget* FrmMainFenster::standardgruppe(const dateien& ablage) {
         raster->addWidget(binder().bildfeld(logik_.Picture1.at(platz), "Picture1_" + QString::number(i), bildgroesse,
                                             [&ablage](const std::string& name) { return ablage.pfad(name); }),
                           2 * i, 0, Qt::AlignHCenter);
-        raster->addWidget(binder().knopf(logik_.Command2.at(platz), "Command2_" + QString::number(i)), 2 * i + 1, 0);
+        raster->addWidget(binder().knopf(logik_.Command2.at(platz), "Command2_" + QString::number(i), "schmal"),
+                          2 * i + 1, 0);
     }
     return kasten;
 }
@@ -85,7 +86,7 @@ void FrmMainFenster::eingangszeile(QGridLayout* raster, int zeile, form& lampe, 
     raster->addWidget(licht, zeile, 0);
     raster->addWidget(binder().label(name, "Label_" + wort + nummer), zeile, 2);
     QComboBox* liste = binder().auswahlfeld(wahl, "tx_" + wort + "_liste" + nummer);
-    liste->setMinimumContentsLength(10);
+    liste->setMinimumContentsLength(13);
     raster->addWidget(liste, zeile, 3);
     raster->setColumnStretch(3, 1);
 }

@@ -164,7 +164,7 @@ QTableView* ProtokollFenster::tabelle() {
     const int em = fontMetrics().height();
     for (const auto& [spalte, breite] : {std::pair{Protokollmodell::zeit, 5 * em},
                                          {Protokollmodell::spur, 3 * em + fleck_px},
-                                         {Protokollmodell::fahrer, 10 * em}}) {
+                                         {Protokollmodell::fahrer, 8 * em}}) {
         tabelle_->setColumnWidth(spalte, breite);
     }
     QObject::connect(tabelle_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -122,16 +122,39 @@ void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) co
     maler.drawRoundedRect(QRectF((width() - breite) / 2, 0, breite, height()), rund, rund);
 }
 
+TextAnzeige::Satz TextAnzeige::gesetzt() const {
+    const QFontMetricsF masse(schrift_);
+    Satz satz{text_, schrift_, Qt::TextSingleLine, false};
+    double faktor = std::min(width() / std::max(masse.horizontalAdvance(text_), 1.0), height() / masse.capHeight());
+    if (faktor < 1 && zweizeilig_) {
+        const QString zeilen = umbrochen(text_, masse);
+        const QSizeF platz = masse.size(0, zeilen);
+        const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
+        constexpr double gewinn = 1.2;  // a little more is not worth a second line
+        if (gebrochen > std::max(gewinn * faktor, kleinste_verkleinerung)) {
+            satz.text = zeilen;
+            faktor = gebrochen;
+            satz.art = 0;
+        }
+    }
+    if (faktor < 1) {
+        satz.schrift.setPixelSize(
+            std::max(6, static_cast<int>(schrift_.pixelSize() * std::max(faktor, kleinste_verkleinerung))));
+    }
+    if (faktor < 1 && satz.art != 0) {
+        satz.text = QFontMetrics(satz.schrift).elidedText(text_, Qt::ElideRight, width());
+        satz.gekuerzt = satz.text != text_;
+    }
+    return satz;
+}
+
 void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::TextAntialiasing);
     constexpr double blass = 0.5;
     maler.setOpacity(blass_ ? blass : deckkraft_);
-    QFont schrift = schrift_;
-    QString text = text_;
-    const QFontMetricsF masse(schrift);
     if (plakette_) {
-        plakette_malen(maler, masse);
+        plakette_malen(maler, QFontMetricsF(schrift_));
     }
     if (rahmen_.isValid()) {
         constexpr int breite = 3;
@@ -140,27 +163,9 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     }
     const QColor farbe = farbe_.isValid() ? farbe_ : palette().color(rolle_);
     maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
-    const double breite = std::max(masse.horizontalAdvance(text), 1.0);
-    double faktor = std::min(width() / breite, height() / masse.capHeight());
-    int art = Qt::TextSingleLine;
-    if (faktor < 1 && zweizeilig_) {
-        const QString zeilen = umbrochen(text, masse);
-        const QSizeF platz = masse.size(0, zeilen);
-        const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
-        constexpr double gewinn = 1.2;  // a little more is not worth a second line
-        if (gebrochen > std::max(gewinn * faktor, kleinste_verkleinerung)) {
-            text = zeilen;
-            faktor = gebrochen;
-            art = 0;
-        }
-    }
-    if (faktor < 1) {
-        schrift.setPixelSize(
-            std::max(6, static_cast<int>(schrift.pixelSize() * std::max(faktor, kleinste_verkleinerung))));
-        text = art == 0 ? text : QFontMetrics(schrift).elidedText(text, Qt::ElideRight, width());
-    }
-    maler.setFont(schrift);
-    maler.drawText(rect(), static_cast<int>(ausrichtung_) | art, text);
+    const Satz satz = gesetzt();
+    maler.setFont(satz.schrift);
+    maler.drawText(rect(), static_cast<int>(ausrichtung_) | satz.art, satz.text);
 }
 
 }  // namespace tarvel::ui

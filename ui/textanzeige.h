@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QPalette>
 #include <QWidget>
 
@@ -34,6 +35,8 @@ public:
     void setAusrichtung(Qt::Alignment ausrichtung);
     /// Takes the width of this text at the given size, whatever is shown.
     void setMusterText(const QString& muster);
+    /// The text has no room even where it is smallest, and ends in "…".
+    bool gekuerzt() const { return gesetzt().gekuerzt; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,6 +45,14 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
+    /// The text as its place shows it.
+    struct Satz {
+        QString text;
+        QFont schrift;
+        int art;  ///< flags of the text's drawing
+        bool gekuerzt;
+    };
+    Satz gesetzt() const;
     void plakette_malen(QPainter& maler, const QFontMetricsF& masse) const;
 
     QString text_;

@@ -10,7 +10,7 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int sensoren_je_spalte = 8;
+constexpr int sensoren_je_spalte = 12;
 constexpr int lampengroesse = 14;
 constexpr int ergebnisbreite = 90;
 constexpr int eingabebreite = 150;
@@ -19,7 +19,7 @@ constexpr int schaltknopf = 72;
 
 QPushButton* schmal(QPushButton* knopf, int breite) {
     knopf->setFixedWidth(breite);
-    knopf->setStyleSheet("padding-left: 2px; padding-right: 2px;");
+    knopf->setStyleSheet("padding-left: 1px; padding-right: 1px;");
     return knopf;
 }
 
@@ -81,7 +81,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);
-        wahl->setStyleSheet("min-height: 22px; padding: 0 2px 0 4px;");
+        wahl->setStyleSheet("min-height: 20px; padding: 0 2px 0 4px;");
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
@@ -129,7 +129,11 @@ QWidget* TimekeeperFenster::firmwaregruppe() {
 QWidget* TimekeeperFenster::protokollgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_log, "Frame_log");
     auto* spalte = new QVBoxLayout(kasten);
-    spalte->addWidget(binder().listenfeld(logik_.List1, "List1"), 1);
+    QListView* liste = binder().listenfeld(logik_.List1, "List1");
+    liste->setUniformItemSizes(false);
+    liste->setWordWrap(true);
+    liste->setResizeMode(QListView::Adjust);
+    spalte->addWidget(liste, 1);
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(binder().label(logik_.Label_command, "Label_command"));
     QLineEdit* eingabe = binder().zeile(logik_.tk_command, "tk-command");

@@ -71,7 +71,7 @@ QWidget* UsbtestFenster::port(std::size_t nummer) {
         QComboBox* funktion = binder().auswahlfeld(logik_.combo_c.at(platz), "combo_c_" + ziffer);
         funktion->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         funktion->setFixedHeight(pinhoehe);
-        funktion->setStyleSheet("QComboBox { padding: 0 2px 0 4px; font-size: 14px; }");
+        funktion->setStyleSheet("QComboBox { padding: 0 2px 0 4px; font-size: 13px; }");
         raster->addWidget(funktion, zeile, 2);
         QCheckBox* ausgang = binder().kasten(logik_.c.at(platz), "c_" + ziffer);
         ausgang->setFixedWidth(kastenbreite);
@@ -138,7 +138,7 @@ QWidget* UsbtestFenster::vorlagen() {
                                binder().knopf(logik_.Command4, "Command4"), binder().knopf(logik_.Command7, "Command7"),
                                binder().knopf(logik_.Command5, "Command5")}) {
         knopf->setMinimumHeight(knopfhoehe);
-        knopf->setStyleSheet("font-size: 14px; padding-left: 4px; padding-right: 4px;");
+        knopf->setStyleSheet("font-size: 13px; padding-left: 4px; padding-right: 4px;");
         aufbau->addWidget(knopf);
     }
     return kasten;

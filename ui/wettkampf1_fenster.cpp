@@ -13,7 +13,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr QSize bildgroesse(132, 99);
-constexpr int rechte_spalte = 250;
+constexpr int rechte_spalte = 256;
 constexpr QSize fleck_groesse(28, 20);
 constexpr int pfeil_px = 12;
 

@@ -15,12 +15,25 @@ testprogramm::testprogramm(const std::filesystem::path& unter) : maschine(unter)
     maschine.meldungen_gezeigt.clear();  // a first start in an empty folder reports what it makes anew
 }
 
+void testprogramm::erscheinen(const erscheinung& wie) {
+    const std::vector<std::string> ordner = sprachordner_finden(p.ablage);
+    const auto gewaehlt = std::find(ordner.begin(), ordner.end(), wie.sprachordner);
+    p.form1.Command4.klicken();
+    auto& optionen = p.einstellungsfenster;
+    std::get<auswahl>(optionen.zeile("sprache").element).waehlen(static_cast<int>(gewaehlt - ordner.begin()));
+    std::get<auswahl>(optionen.zeile("aussehen").element).waehlen(static_cast<int>(wie.fenster));
+    optionen.Command1.klicken();
+}
+
 void testprogramm::einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes) {
     p.einst.start_ampel_modus = ampelwahl::keine;
     if (!mit_bestzeiten) {
         p.einst.beste_modus = bestzeit_speicherung::aus;
     }
-    p.form1.rennart.eingeben(rennart);
+    const auto in_seiner_sprache = [&]() -> std::string_view {
+        return rennart == "Runden" ? p.txt.text_runden : rennart == "Zeit" ? p.txt.text_zeit : rennart;
+    };
+    p.form1.rennart.eingeben(in_seiner_sprache());
     p.form1.renndauer.eingeben(dauer);
     for (const int nummer : alle_spuren) {
         haken& spur = p.form1.spur.at(feld_index(nummer));

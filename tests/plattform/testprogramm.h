@@ -16,6 +16,8 @@ namespace tarvel::test {
 struct testprogramm {
     explicit testprogramm(const std::filesystem::path& unter = std::filesystem::temp_directory_path());
 
+    /// Language and look, as if chosen among the options.
+    void erscheinen(const erscheinung& wie);
     /// Sets up a race without a start light on the main window and opens the race window. `dauer` as typed, race kind
     /// by the entry's text.
     void einrichten(std::string_view rennart, std::string_view dauer, const std::vector<int>& lanes);

@@ -1,9 +1,12 @@
 #include <QAccessible>
 #include <QPushButton>
 #include <QWidget>
+#include <filesystem>
+#include <map>
 
 #include "tests/plattform/vereinswettkampf.h"
 #include "tests/ui/oberflaeche_probe.h"
+#include "tests/ui/textmasse.h"
 
 namespace tarvel {
 namespace {
@@ -172,6 +175,36 @@ TEST_F(AlleFenster, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen(fenstername::bahn1); }, 2000))
         << "the press is shown first";
 }
+
+class AlleTexte : public AlleFenster, public testing::WithParamInterface<const char*> {};
+
+TEST_P(AlleTexte, HabenIhrenPlatz) {
+    constexpr QSize platz(1000, 740);  // of 1024x768, without the window's frame
+    std::filesystem::copy(TARVEL_QUELLEN "/data/language-en", t.maschine.ordner() / "language-en");
+    std::map<const ui::Fenster*, QSize> groesse;  // before the small screen of the tests limits them
+    for (const ui::Fenster* fenster : alle_fenster()) {
+        groesse[fenster] = fenster->size();
+    }
+    t.erscheinen({GetParam(), aussehen::hell});
+    alle_zeigen();
+    const auto pruefen = [&](ui::Fenster& fenster) {
+        fenster.resize(fenster.size().expandedTo(groesse.at(&fenster)).boundedTo(platz));
+        o.takt.ausfuehren();
+        QTest::qWait(20);
+        for (const QString& text : test::beschnittene_texte(fenster)) {
+            ADD_FAILURE() << text.toStdString() << " in " << fenster.width() << "x" << fenster.height();
+        }
+    };
+    for (ui::Fenster* fenster : alle_fenster()) {
+        pruefen(*fenster);
+    }
+    for (int seite = 0; seite < einstellungsfenster::seiten_anzahl; ++seite) {
+        t.p.einstellungsfenster.seitenliste.auswaehlen(seite);
+        pruefen(*o.einstellungen);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Sprachen, AlleTexte, testing::Values("language", "language-en"));
 
 }  // namespace
 }  // namespace tarvel

@@ -31,7 +31,8 @@ zeit_ms streuung(int spur, int runde) {
 
 }  // namespace
 
-buehne::buehne() : p(mit_daten(t)) {
+buehne::buehne(const erscheinung& wie) : p(mit_daten(t)) {
+    t.erscheinen(wie);
     klub_anmelden();
     p.einst.fahrzeugbild_an = true;
     for (const int spur : alle_spuren) {

@@ -12,7 +12,7 @@ namespace tarvel {
 
 /// A program with its windows on a virtual clock, and a club that drives.
 struct buehne {
-    buehne();
+    explicit buehne(const erscheinung& wie = {});
 
     /// Sets up a race on these lanes and opens its window.
     void einrichten(const char* rennart, const char* dauer, std::initializer_list<int> spuren);

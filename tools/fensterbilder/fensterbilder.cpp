@@ -1,6 +1,7 @@
-// Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [<scene>...]
+// Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [englisch] [<scene>...]
 // Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
+// Tells of each text that has no room, and then ends in 1.
 
 #include <QApplication>
 #include <QPainter>
@@ -9,6 +10,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "tests/ui/textmasse.h"
 #include "tools/fensterbilder/szenen.h"
 #include "ui/stil.h"
 
@@ -29,10 +31,18 @@ QPixmap aufnehmen(buehne& b, QWidget& fenster) {
     return bild;
 }
 
+/// A text that is cut is told of.
+bool texte_pruefen(const QWidget& fenster, const QString& szene) {
+    const QStringList beschnitten = test::beschnittene_texte(fenster);
+    for (const QString& text : beschnitten) {
+        std::fprintf(stderr, "%s: %s\n", szene.toUtf8().constData(), text.toUtf8().constData());
+    }
+    return beschnitten.isEmpty();
+}
+
 bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen,
-              aussehen wie) {
-    buehne b;
-    ui::stil::faerben(wie);
+              const erscheinung& wie) {
+    buehne b(wie);
     QWidget& fenster = gewuenscht.zeigen(b);
     bool gut = true;
     for (const QSize& groesse : gewuenscht.eigene_groesse ? std::vector{fenster.size()} : groessen) {
@@ -45,6 +55,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
         const QString datei = ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
         gut = aufnehmen(b, fenster).save(datei) && gut;
+        gut = texte_pruefen(fenster, gewuenscht.name + QString(" ") + masse) && gut;
     }
     return gut;
 }
@@ -61,7 +72,7 @@ int main(int argc, char** argv) {
     tarvel::ui::stil::anwenden(anwendung);
     QStringList argumente = QApplication::arguments().mid(1);
     if (argumente.isEmpty()) {
-        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [<Szene>...]\n");
+        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [englisch] [<Szene>...]\n");
         return 2;
     }
     const QString ordner = argumente.takeFirst();
@@ -71,7 +82,13 @@ int main(int argc, char** argv) {
         groessen = {QSize(masse[0].toInt(), masse[1].toInt())};
         argumente.removeFirst();
     }
-    const tarvel::aussehen wie = argumente.removeAll("dunkel") > 0 ? tarvel::aussehen::dunkel : tarvel::aussehen::hell;
+    tarvel::erscheinung wie;
+    if (argumente.removeAll("dunkel") > 0) {
+        wie.fenster = tarvel::aussehen::dunkel;
+    }
+    if (argumente.removeAll("englisch") > 0) {
+        wie.sprachordner = "language-en";
+    }
     std::filesystem::create_directories(ordner.toStdU16String());
     bool gut = true;
     const bool alle = argumente.isEmpty();
