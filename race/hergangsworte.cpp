@@ -77,7 +77,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                              {tankt, "tankt bei %1 l"},
                              {tank_ende, "tankt nicht mehr bei %1 l"},
                              {ziel, "im Ziel"},
-                             {letzte, "Rennzeit oder Ziel erreicht, Runden werden zu Ende gefahren"},
+                             {letzte, "Zeit oder Ziel erreicht, Runden laufen aus"},
                              {ende, "Ende des Rennens%1"},
                              {taste, "Taste „%1“: %2"},
                              {geraet, "Gerät meldet %1"},

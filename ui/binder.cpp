@@ -354,6 +354,9 @@ QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment
 
 QListView* Binder::protokollfeld(liste& element, const QString& name) {
     QListView* widget = listenfeld(element, name);
+    widget->setUniformItemSizes(false);  // a reason may be longer than the list is wide
+    widget->setWordWrap(true);
+    widget->setResizeMode(QListView::Adjust);
     QObject::connect(widget->model(), &QAbstractItemModel::rowsInserted, widget, &QListView::scrollToBottom,
                      Qt::QueuedConnection);
     return widget;

@@ -92,7 +92,7 @@ QWidget* CuFenster::wagengruppe() {
 QWidget* CuFenster::statusgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_status, "Frame_status");
     auto* spalte = new QVBoxLayout(kasten);
-    spalte->addWidget(binder().listenfeld(logik_.List1, "List1"), 1);
+    spalte->addWidget(binder().protokollfeld(logik_.List1, "List1"), 1);
     spalte->addWidget(binder().kasten(logik_.timer_aus, "timer_aus"));
     auto* befehle = new QHBoxLayout;
     befehle->addWidget(binder().knopf(logik_.Command9, "Command9"));

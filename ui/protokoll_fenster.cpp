@@ -13,7 +13,7 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int dateispalte_breite = 300;
+constexpr int dateispalte_breite = 240;
 constexpr int fleck_px = 12;
 const QColor abgelehnt_grund{253, 234, 236};
 
@@ -164,7 +164,7 @@ QTableView* ProtokollFenster::tabelle() {
     const int em = fontMetrics().height();
     for (const auto& [spalte, breite] : {std::pair{Protokollmodell::zeit, 5 * em},
                                          {Protokollmodell::spur, 3 * em + fleck_px},
-                                         {Protokollmodell::fahrer, 8 * em}}) {
+                                         {Protokollmodell::fahrer, 10 * em}}) {
         tabelle_->setColumnWidth(spalte, breite);
     }
     QObject::connect(tabelle_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

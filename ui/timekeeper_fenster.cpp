@@ -129,11 +129,7 @@ QWidget* TimekeeperFenster::firmwaregruppe() {
 QWidget* TimekeeperFenster::protokollgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_log, "Frame_log");
     auto* spalte = new QVBoxLayout(kasten);
-    QListView* liste = binder().listenfeld(logik_.List1, "List1");
-    liste->setUniformItemSizes(false);
-    liste->setWordWrap(true);
-    liste->setResizeMode(QListView::Adjust);
-    spalte->addWidget(liste, 1);
+    spalte->addWidget(binder().protokollfeld(logik_.List1, "List1"), 1);
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(binder().label(logik_.Label_command, "Label_command"));
     QLineEdit* eingabe = binder().zeile(logik_.tk_command, "tk-command");

@@ -107,9 +107,6 @@ QWidget* UsbtestFenster::meldungen() {
     aufbau->addWidget(stil::leise(binder().label(logik_.Label_protokoll, "Label_protokoll")));
     QListView* liste = binder().protokollfeld(logik_.protokoll, "protokoll");
     liste->setFocusPolicy(Qt::ClickFocus);
-    liste->setUniformItemSizes(false);  // the reasons why there is no board are long
-    liste->setWordWrap(true);
-    liste->setResizeMode(QListView::Adjust);
     aufbau->addWidget(liste, 1);
     return flaeche;
 }

@@ -77,11 +77,13 @@ Textmass mass(const QAbstractButton& knopf) {
     return {knopf.text(), platz, bedarf};
 }
 
-/// Any of the entries may be the chosen one.
+/// Any of the entries may be the chosen one. What can be typed scrolls.
 Textmass mass(const QComboBox& wahl) {
+    if (wahl.isEditable()) {
+        return {};
+    }
     QStyleOptionComboBox lage;
     lage.initFrom(&wahl);
-    lage.editable = wahl.isEditable();
     const QRect platz = wahl.style()->subControlRect(QStyle::CC_ComboBox, &lage, QStyle::SC_ComboBoxEditField, &wahl);
     QString laengster = wahl.currentText();
     for (int i = 0; i < wahl.count(); ++i) {
@@ -184,8 +186,8 @@ QStringList beschnittene_texte(const QWidget& fenster) {
         const QSize rest = sichtbar(*widget, fenster).size();
         const QString name = fenster.objectName() + ": " + widget->metaObject()->className() + " " +
                              widget->objectName() + " \"" + m.text.left(60) + "\" ";
-        constexpr int durchschuss = 2;  // of a line's height, that no letter needs
-        if (m.bedarf.width() > m.platz.width() || m.bedarf.height() > m.platz.height() + durchschuss) {
+        constexpr int luft = 2;  // of a line's height and width, that no letter needs
+        if (m.bedarf.width() > m.platz.width() + luft || m.bedarf.height() > m.platz.height() + luft) {
             alle << name + QString("wants %1x%2, has %3x%4")
                                .arg(m.bedarf.width())
                                .arg(m.bedarf.height())
