@@ -35,18 +35,6 @@ std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeic
 
 namespace {
 
-/// "3,214 s", with the minutes in front from one on.
-std::string dauer_gesagt(zeit_ms dauer, const trennzeichen_tabelle& trennzeichen) {
-    constexpr zeit_ms minute = 60000;
-    constexpr zeit_ms zehn_sekunden = 10000;
-    const std::string text = zeit_formatieren(dauer, dauer >= minute, trennzeichen);
-    return text.substr(dauer < zehn_sekunden ? 1 : 0) + (dauer < minute ? " s" : " min");
-}
-
-std::string runden_gesagt(int runden, const rueckstand_worte& wort) {
-    return std::to_string(runden) + " " + (runden == 1 ? wort.runde : wort.runden);
-}
-
 /// What the places go by, within the same lap; empty where there is no difference.
 std::string unterschied(const rennergebnis& ergebnis, const spur& erster, const spur& s, const rueckstand_worte& wort,
                         const trennzeichen_tabelle& trennzeichen) {

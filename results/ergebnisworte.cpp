@@ -8,11 +8,6 @@ sprachliste& diagramm_worte::eintragen(sprachliste& texte) {
     return texte.text("keine Runde", ohne_runden).text("Es wurde keine Runde gezählt.", leer);
 }
 
-sprachliste& rueckstand_worte::eintragen(sprachliste& texte) {
-    texte.text("Runde", runde).text("Runden", runden);
-    return texte.text("zurück", zurueck).text("gleichauf", gleichauf);
-}
-
 sprachliste& blatt_worte::eintragen(sprachliste& texte) {
     texte.text("Platz", platz).text("Spur", spur).text("Fahrer", fahrer).text("Fahrzeug", fahrzeug);
     return texte.text("Meter", meter).text("Abstand", abstand).text("km/h beste / Ø", tempo);

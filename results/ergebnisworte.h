@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/sprache.h"
+#include "race/rueckstand.h"
 
 namespace tarvel {
 
@@ -16,16 +17,6 @@ struct diagramm_worte {
     std::string lang;          ///< a lap that is longer than the chart is high
     std::string ohne_runden;
     std::string leer;  ///< stands in place of the chart
-
-    sprachliste& eintragen(sprachliste& texte);
-};
-
-/// How people say by how much somebody is behind.
-struct rueckstand_worte {
-    std::string runde;   ///< behind the number one
-    std::string runden;  ///< and any other
-    std::string zurueck;
-    std::string gleichauf;
 
     sprachliste& eintragen(sprachliste& texte);
 };
