@@ -45,6 +45,9 @@ tagesrennen_fenster::tagesrennen_fenster(const umgebung& um)
     for (std::size_t i = 0; i < Text_fahrer.size(); ++i) {
         Text_fahrer.at(i).frei(true);
         Text_fahrer.at(i).laenge_max(namensliste::name_laenge_max);
+        Text_fahrer.at(i).vorschlagen = [this](const std::string& getippt) {
+            return namensvorschlaege(getippt, um_.zuletzt_gefahren.mit_liste(um_.fahrerliste));
+        };
         Text_fahrer.at(i).bei_aenderung = [this, i] { fahrer_geaendert(i); };
         lstb_klasse.at(i).eintraege(alle_klassen);
         lstb_klasse.at(i).bei_aenderung = [this, i] { vorgeschlagen_.at(i) = false; };

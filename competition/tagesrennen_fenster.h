@@ -9,6 +9,7 @@
 #include "competition/tagesrennen_folgen.h"
 #include "core/einstellungen.h"
 #include "core/fensterumgebung.h"
+#include "core/letzte_fahrer.h"
 #include "core/namensliste.h"
 #include "core/renneinrichtung.h"
 #include "core/steuerelemente.h"
@@ -25,6 +26,7 @@ public:
         renneinrichtung& einrichtung;
         einrichtungsansicht& hauptfenster;
         const namensliste& fahrerliste;
+        const letzte_fahrer& zuletzt_gefahren;
         plattform::zeitgeber_dienst& zeitgeber;
         tagesrennen_folgen& folgen;
     };

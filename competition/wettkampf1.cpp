@@ -24,6 +24,9 @@ wettkampf1::wettkampf1(umgebung um)
     Text1.laenge_max(titel_laenge_max);
     auswahl.frei(true);
     auswahl.laenge_max(namensliste::name_laenge_max);
+    auswahl.vorschlagen = [this](const std::string& getippt) {
+        return namensvorschlaege(getippt, um_.zuletzt_gefahren.mit_liste(um_.fahrerliste));
+    };
     auswahl.bei_aenderung = [this] { auswahl_Change(); };
     listen_verbinden();
     befehle_verbinden();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "core/bildwahl.h"
 #include "core/einstellungen.h"
 #include "core/fensterumgebung.h"
+#include "core/letzte_fahrer.h"
 #include "core/renn_parameter.h"
 #include "core/renneinrichtung.h"
 #include "core/speichernfenster.h"
@@ -47,6 +49,7 @@ public:
         renneinrichtung& einrichtung;
         renn_parameter& param;
         const namensliste& fahrerliste;
+        const letzte_fahrer& zuletzt_gefahren;
         speichernfenster& dateiwahl;
         bildwahl& bilder;
         plattform::zufall& zufall;
@@ -127,6 +130,8 @@ public:
     /// The start list written anew, in the order of a qualifying's ranking. Names that may not stand in it are left
     /// out.
     void qualifying_uebernehmen(const std::vector<std::string>& rangfolge);
+    /// A picture file from anywhere on the machine becomes that of the chosen driver.
+    void bild_ablegen(const std::filesystem::path& bild);
     /// There may be other drivers now, and another kind of plan.
     void optionen_geschlossen();
 
@@ -171,6 +176,8 @@ private:
     void laden_beenden(seite& wo, const namensliste& gelesen);
     void bildnamen_zuordnen();
     void bild_neu_zuordnen();
+    /// What a picture for the chosen driver needs; he gets it. None while nobody is chosen.
+    std::optional<bildwahl::auftrag> bildauftrag();
 
     planvorgabe plan_vorgeben() const;
     void plan_zeigen();

@@ -215,20 +215,32 @@ void wettkampf1::bildnamen_zuordnen() {
 }
 
 void wettkampf1::bild_neu_zuordnen() {
+    if (auto auftrag = bildauftrag()) {
+        um_.bilder.oeffnen(std::move(*auftrag));
+    }
+}
+
+void wettkampf1::bild_ablegen(const std::filesystem::path& bild) {
+    if (const auto auftrag = bildauftrag()) {
+        um_.bilder.hereinnehmen(*auftrag, bild);
+    }
+}
+
+std::optional<bildwahl::auftrag> wettkampf1::bildauftrag() {
     seite* wo = markierte_seite();
     if (wo == nullptr) {
-        return;
+        return std::nullopt;
     }
     const namensliste::art& art = um_.fahrerliste.listenart();
     const std::string name = wo->inhalt.eintraege().at(static_cast<std::size_t>(wo->anzeige.markiert())).name;
-    um_.bilder.oeffnen({wort_.bildtitel, art.bildordner, art.standardbild.substr(0, art.standardbild.find('.')), name,
-                        [this, wo, name](const std::string& stamm) {
-                            const auto zeile = wo->inhalt.zeile_von(name);
-                            if (stamm != bildwahl::abgebrochen && zeile) {
-                                wo->inhalt.bild_setzen(*zeile, stamm);
-                                auswahl_folgen();
-                            }
-                        }});
+    return bildwahl::auftrag{wort_.bildtitel, art.bildordner, art.standardbild.substr(0, art.standardbild.find('.')),
+                             name, [this, wo, name](const std::string& stamm) {
+                                 const auto zeile = wo->inhalt.zeile_von(name);
+                                 if (stamm != bildwahl::abgebrochen && zeile) {
+                                     wo->inhalt.bild_setzen(*zeile, stamm);
+                                     auswahl_folgen();
+                                 }
+                             }};
 }
 
 void wettkampf1::qualifying_uebernehmen(const std::vector<std::string>& rangfolge) {

@@ -31,8 +31,12 @@ bool wettkampfspeicher::stand_schreiben(const std::string& pfad, const wettkampf
 }
 
 bool wettkampfspeicher::tabelle_schreiben(const std::string& pfad, const wettkampf& stand) {
-    return um_.ablage.zeilen_schreiben(
+    const bool geschrieben = um_.ablage.zeilen_schreiben(
         pfad, tarvel::tabelle_schreiben(stand, um_.fenster.tabellenworte(), um_.einst.trennzeichen));
+    if (geschrieben && bei_tabelle) {
+        bei_tabelle(pfad, stand);
+    }
+    return geschrieben;
 }
 
 bool wettkampfspeicher::laufenden_sichern(const wettkampf& stand) {

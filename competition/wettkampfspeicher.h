@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "competition/wettkampfabend.h"
@@ -31,6 +32,9 @@ public:
     bool rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) override;
     bool tabelle_sichern(const wettkampf& stand) override;
     void fehler_melden() override { um_.fenster.schreibfehler_melden(); }
+
+    /// The table of a competition stands; below the program folder.
+    std::function<void(const std::string& pfad, const wettkampf& stand)> bei_tabelle;
 
     /// Where an evening lies that was not ended, or that cannot be read.
     std::string laufenden_aufheben();

@@ -3,6 +3,7 @@
 #include "competition/rangfolge.h"
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
+#include "results/ergebniszusammenfassung.h"
 
 namespace tarvel {
 namespace {
@@ -101,6 +102,14 @@ std::vector<std::string> tabelle_schreiben(const wettkampf& w, const wettkampf_w
                                            const trennzeichen_tabelle& trennzeichen) {
     const bool jeder = w.modus == wettkampf_modus::jeder_gegen_jeden;
     return (jeder ? jeder_tabelle_schreiben : wettkampf_tabelle_schreiben)(w, wort, trennzeichen);
+}
+
+std::string wettkampfzusammenfassung(const wettkampf& w) {
+    std::vector<std::string> namen;
+    for (const int platz : fahrer_in_rangfolge(w, w.wertung)) {
+        namen.push_back(w.name(platz));
+    }
+    return w.beginn + "  ·  " + w.wettkampf_name + "  ·  " + platzreihe(namen);
 }
 
 }  // namespace tarvel

@@ -19,4 +19,7 @@ std::vector<std::string> jeder_tabelle_schreiben(const wettkampf& w, const wettk
 std::vector<std::string> tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,
                                            const trennzeichen_tabelle& trennzeichen);
 
+/// The competition in a line, without a word of any language: when, which, and the best of its ranking.
+std::string wettkampfzusammenfassung(const wettkampf& w);
+
 }  // namespace tarvel

@@ -42,7 +42,7 @@ sprachliste bildwahl::sprache_fbl() {
     sprachliste texte("language\\language_fbl.txt");
     texte.ueberschrift("Bild zuordnen").text("Laufwerk", Label_laufwerk).text("Ordner", Label_ordner);
     texte.text("Bilddatei", Label_datei).text("Übernehmen", Command1).text("Abbrechen", Command2);
-    texte.text("Die Datei ist kein Bild.", kein_bild_text_);
+    texte.text("Die Datei ist kein Bild in einem Format, das das Programm liest (JPEG, GIF).", kein_bild_text_);
     texte.text("Das Bild konnte nicht kopiert werden.", nicht_kopiert_text_);
     texte.text("Durchsuchen …", Command_suchen);
     return texte.tipp("Das Bild mit dem Dateifenster des Systems suchen", Command_suchen);
@@ -117,21 +117,33 @@ void bildwahl::uebernehmen() {
     if (datei.markiert() < 0) {
         return;
     }
-    const fs::path quelle = pfad_aus_utf8(vorschau.datei());
-    std::string stamm = als_dateiname(auftrag_.name);
-    if (stamm == auftrag_.standardstamm) {
+    if (const auto stamm = kopieren(auftrag_, pfad_aus_utf8(vorschau.datei()))) {
+        um_.fenster.entladen(fenstername::fahrerbild_laden);
+        auftrag_.fertig(*stamm);
+    }
+}
+
+void bildwahl::hereinnehmen(const auftrag& a, const fs::path& bild) {
+    texte_lesen();
+    if (const auto stamm = kopieren(a, bild)) {
+        a.fertig(*stamm);
+    }
+}
+
+std::optional<std::string> bildwahl::kopieren(const auftrag& a, const fs::path& quelle) {
+    std::string stamm = als_dateiname(a.name);
+    if (stamm == a.standardstamm) {
         stamm += '_';  // the stand-in picture of all others stays
     }
     if (!ist_bild(quelle)) {
         um_.meldungen.zeigen(kein_bild_text_, um_.txt.titel[0]);
-        return;
+        return std::nullopt;
     }
-    if (!um_.ablage.hereinkopieren(quelle, auftrag_.bildordner + "/" + stamm + ".jpg")) {
+    if (!um_.ablage.hereinkopieren(quelle, a.bildordner + "/" + stamm + ".jpg")) {
         um_.meldungen.zeigen(nicht_kopiert_text_, um_.txt.titel[1]);
-        return;
+        return std::nullopt;
     }
-    um_.fenster.entladen(fenstername::fahrerbild_laden);
-    auftrag_.fertig(stamm);
+    return stamm;
 }
 
 void bildwahl::schliessen() {

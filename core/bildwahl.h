@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -42,6 +43,8 @@ public:
 
     std::vector<sprachliste> sprachdateien() override { return {sprache_fbl()}; }
     void oeffnen(auftrag a);
+    /// The same without the window, of a picture that is known already.
+    void hereinnehmen(const auftrag& a, const std::filesystem::path& bild);
     const std::filesystem::path& ort() const { return ort_; }
     /// Shows the file's folder, and in it the file; a file that is no picture's by its name is not there.
     void zeigen(const std::filesystem::path& bilddatei);
@@ -55,6 +58,8 @@ private:
     void ordner_betreten();
     void datei_gewaehlt();
     void uebernehmen();
+    /// Stem of the copy; a message and none if there is none.
+    std::optional<std::string> kopieren(const auftrag& a, const std::filesystem::path& quelle);
 
     fenster_umgebung um_;
     auftrag auftrag_;

@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::string_view anzeige_datei = "tvk_anzeige.ini";
 constexpr std::string_view mit_endung = "language-";
+constexpr std::string_view merken_ja = "Wahr";
+constexpr std::string_view merken_nein = "Falsch";
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 10> bekannte_sprachen{{{"da", "Dansk"},
                                                                                            {"de", "Deutsch"},
@@ -27,7 +29,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> bekannte
 }  // namespace
 
 void erscheinung_laden(const dateien& ablage, erscheinung& ziel) {
-    const auto zeilen = ablage.zeilen_lesen(anzeige_datei, 2).value_or(std::vector<std::string>{});
+    const auto zeilen = ablage.zeilen_lesen(anzeige_datei, 3).value_or(std::vector<std::string>{});
     if (!zeilen.empty()) {
         const std::vector<std::string> ordner = sprachordner_finden(ablage);
         if (std::find(ordner.begin(), ordner.end(), zeilen[0]) != ordner.end()) {
@@ -37,11 +39,15 @@ void erscheinung_laden(const dateien& ablage, erscheinung& ziel) {
     if (zeilen.size() > 1 && zeilen[1].size() == 1 && zeilen[1][0] >= '0' && zeilen[1][0] <= '2') {
         ziel.fenster = static_cast<aussehen>(zeilen[1][0] - '0');
     }
+    if (zeilen.size() > 2 && (zeilen[2] == merken_ja || zeilen[2] == merken_nein)) {
+        ziel.hauptfenster_wie_zuletzt = zeilen[2] == merken_ja;
+    }
 }
 
 bool erscheinung_speichern(const dateien& ablage, const erscheinung& werte) {
     return ablage.zeilen_schreiben(anzeige_datei,
-                                   {werte.sprachordner, std::to_string(static_cast<int>(werte.fenster))});
+                                   {werte.sprachordner, std::to_string(static_cast<int>(werte.fenster)),
+                                    std::string(werte.hauptfenster_wie_zuletzt ? merken_ja : merken_nein)});
 }
 
 std::vector<std::string> sprachordner_finden(const dateien& ablage) {

@@ -6,8 +6,8 @@
 
 #include "core/dateien.h"
 
-/// How the program meets the eye: in which language, and light or dark. It is the machine's, not the race's, so it has
-/// a file of its own and holds for every settings file.
+/// How the program meets the eye: in which language, light or dark, and with which fields. It is the machine's, not the
+/// race's, so it has a file of its own and holds for every settings file.
 namespace tarvel {
 
 enum class aussehen { hell, dunkel, wie_das_system };
@@ -18,11 +18,12 @@ inline constexpr std::string_view sprachordner_standard = "language";
 struct erscheinung {
     std::string sprachordner{sprachordner_standard};
     aussehen fenster = aussehen::hell;
+    bool hauptfenster_wie_zuletzt = false;  ///< its fields at the start are those of the last end
     bool operator==(const erscheinung&) const = default;
 };
 
-/// `tvk_anzeige.ini`: the folder of the language files and the number of the look, one a line. What is missing, or
-/// names nothing that is there, leaves `ziel`.
+/// `tvk_anzeige.ini`: the folder of the language files, the number of the look, and "Wahr" or "Falsch" for the main
+/// window, one a line. What is missing, or names nothing that is there, leaves `ziel`.
 void erscheinung_laden(const dateien& ablage, erscheinung& ziel);
 bool erscheinung_speichern(const dateien& ablage, const erscheinung& werte);
 

@@ -20,6 +20,7 @@ form1::form1(umgebung um)
     timer1_->bei_tick = [this] { timer1_tick(); };
     titel.text(programm_name);
     µwartehinweis.sichtbar(false);
+    Frame_liste.sichtbar(false);
     befehle_verbinden();
     rennart.bei_aenderung = [this] {
         rennart_geaendert();
@@ -34,6 +35,9 @@ form1::form1(umgebung um)
         fahrer[i].frei(true);
         auto_[i].frei(true);
         fahrer[i].laenge_max(namensliste::name_laenge_max);
+        fahrer[i].vorschlagen = [this](const std::string& getippt) {
+            return namensvorschlaege(getippt, um_.zuletzt_gefahren.mit_liste(um_.fahrerliste));
+        };
         auto_[i].laenge_max(namensliste::name_laenge_max);
         lspur[i].laenge_max(8);
     }
@@ -71,6 +75,16 @@ void form1::befehle_verbinden() {
         }
     };
     Command18.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal); };
+    command_liste.bei_klick = [this] {
+        const bool offen = !Frame_liste.sichtbar();
+        for (befehl* daneben : {&Command10, &Command13}) {  // all of it has no room on a small screen
+            daneben->sichtbar(!offen);
+        }
+        Frame_liste.sichtbar(offen);
+        reihe_zeigen();
+        fahrerreihe.fokus_setzen();
+    };
+    fahrerreihe.bei_doppelklick = [this] { gewaehlten_auf_spur(0); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };
 }
 

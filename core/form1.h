@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -8,6 +9,7 @@
 #include "core/einstellungen.h"
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
+#include "core/letzte_fahrer.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/renneinrichtung.h"
@@ -30,6 +32,7 @@ public:
         const dateien& ablage;
         const namensliste& fahrerliste;
         const namensliste& fahrzeugliste;
+        const letzte_fahrer& zuletzt_gefahren;
         const tarvel::bestzeiten& bestzeiten;
         fensterregister& fenster;
         plattform::meldungen& meldungen;
@@ -79,6 +82,10 @@ public:
     std::array<bild, spuren_max> fahrerbild;
     std::array<bild, spuren_max> autobild;
     std::array<bezeichnung, spuren_max> Label_fahrzeug;  ///< best time of the lane
+    befehl command_liste;                                ///< the drivers beside the lanes, in or out
+    rahmen Frame_liste;
+    bezeichnung Label_liste;    ///< what is done with them
+    tarvel::liste fahrerreihe;  ///< who drove lately, then all others of the list
 
     bezeichnung Label6;         ///< settings file in force
     bezeichnung modus_label;    ///< status line: the timing hardware in force
@@ -99,6 +106,7 @@ public:
     befehl Command12;           ///< track power off
     befehl Command13;           ///< take over the pictures of the drivers
     befehl command_fortsetzen;  ///< a race that was cut off goes on
+    befehl command_zuletzt;     ///< the results that were written last
     befehl command_tasten;      ///< key assignment
     befehl command_cu;          ///< window of the Control Unit, while that is the timing hardware
 
@@ -126,6 +134,18 @@ public:
     std::function<void()> fahrzeugbilder_uebernehmen;
     /// A second after the window has appeared: opens timing hardware that is opened with it.
     std::function<void()> messgeraet_oeffnen;
+    /// One of the results that were written last. `da`: its file can still be opened.
+    struct letztes {
+        std::string text;
+        bool da = true;
+    };
+    /// Asked for whenever they are shown, the newest first.
+    std::function<std::vector<letztes>()> letzte_nennen;
+    /// Opens the one with this place in them, from 0.
+    std::function<void(std::size_t)> letztes_oeffnen;
+    /// A picture file from anywhere on the machine becomes that of the driver of the name, or of the vehicle.
+    std::function<void(const std::string& name, const std::filesystem::path& bild)> fahrerbild_ablegen;
+    std::function<void(const std::string& name, const std::filesystem::path& bild)> fahrzeugbild_ablegen;
     /// Chooses the command file of the AT-2560.
     std::function<void()> befehlsdatei_waehlen;
 
@@ -152,12 +172,29 @@ public:
     /// Picture of the vehicle on a lane, if vehicle pictures are wanted.
     void autobild_anzeigen(int nummer);
     void bilder_anzeigen();
+    /// The same where the file of a picture holds another one now.
+    void bilder_neu_laden();
+    /// What its menu shows: `letzte_nennen`, or a row that says that there is nothing yet.
+    std::vector<letztes> letzte_zeilen() const;
+    /// Somebody can drive on the lane: it is not lent to another one.
+    bool spur_frei(int nummer) const { return spur[feld_index(nummer)].aktiviert(); }
+    /// The lanes exchange driver, vehicle and whether they take part. A lane that is lent exchanges nothing.
+    void spuren_tauschen(int eine, int andere);
+    /// The same with the next lane above (-1) or below (1) on which somebody can drive; it is returned, 0 for none.
+    int spur_schieben(int nummer, int richtung);
+    /// The driver goes to the lane, which takes part then.
+    void fahrer_auf_spur(const std::string& name, int nummer);
+    /// The one chosen in the list beside the lanes; lane 0 is the first one that waits for a driver.
+    void gewaehlten_auf_spur(int nummer);
     /// Best time of each lane, with its holder as tip.
     void beste_zeiten_anzeigen();
     /// The tank options beside the tick box that switches fuel on.
     void tankoptionen_zeigen();
     /// What is said in front of the number of pictures taken over.
     const std::string& bilder_text() const { return wort_bilder_; }
+    const std::string& liste_voll_text() const { return wort_liste_voll_; }
+    /// Said of a picture for a lane without a name to go with it.
+    const std::string& ohne_namen_text() const { return wort_ohne_namen_; }
     void modus_anzeigen();
     /// The timing hardware in force has lost its connection, or has it again.
     void messgeraet_getrennt(bool getrennt);
@@ -212,6 +249,9 @@ private:
     bool fahrer_einmalig();
     void befehle_verbinden();
     void fahrer_Change(int nummer);
+    void spuren_zeigen();
+    int wartende_spur() const;
+    void reihe_zeigen();
     void ansagen_setzen();
     void einstellungen_rufen(const std::function<void()>& wohin);
     void timer1_tick();
@@ -233,6 +273,10 @@ private:
     std::string wort_keine_zahl_;
     std::string wort_ersetzt_;
     std::string wort_zwei_spuren_;
+    std::string wort_nicht_mehr_da_;
+    std::string wort_liste_voll_;
+    std::string wort_ohne_namen_;
+    std::string wort_kein_ergebnis_;
     std::string einstell_name_;
     std::string standard_name_;
     bool getrennt_ = false;

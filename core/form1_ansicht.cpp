@@ -54,7 +54,26 @@ sprachliste form1::sprache_m2() {
     texte.text("Fortsetzen", command_fortsetzen);
     texte.tipp("Ein Rennen weiterfahren, das unterbrochen oder abgebrochen wurde", command_fortsetzen);
     texte.text("Training", Command11);
-    return texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
+    texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
+    texte.text("Zuletzt", command_zuletzt).tipp("Die letzten 20 Ergebnisse; wählen öffnet sie", command_zuletzt);
+    texte.text("nicht mehr da", wort_nicht_mehr_da_).text("Noch kein Ergebnis gespeichert", wort_kein_ergebnis_);
+    texte.text("Liste", command_liste);
+    texte.tipp("Die Fahrer neben den Spuren, um sie mit der Maus oder einer Ziffer aufzustellen", command_liste);
+    texte.text("Fahrer aufstellen", Frame_liste).text("Die Liste ist voll.", wort_liste_voll_);
+    texte.text("Das Bild braucht einen Namen: erst einen Fahrer oder ein Fahrzeug eintragen.", wort_ohne_namen_);
+    texte.text("Auf eine Spur ziehen. Oder: 1 bis 6 stellt den gewählten auf diese Spur, Enter auf die nächste freie.",
+               Label_liste);
+    return texte.text(
+        "Auf eine andere Spur ziehen tauscht die Fahrer, ebenso Strg mit Pfeil auf oder ab in ihrer Zeile. "
+        "Eine Bilddatei hierher ziehen gibt ein neues Bild.",
+        [this](const std::string& tipp) {
+            for (const int nummer : alle_spuren) {
+                const std::size_t i = feld_index(nummer);
+                fahrerbild[i].tipp(tipp);
+                autobild[i].tipp(tipp);
+                spurfarbe[i].tipp(tipp);
+            }
+        });
 }
 
 void form1::ansagen_setzen() {
@@ -71,6 +90,7 @@ void form1::ansagen_setzen() {
         auto_[i].ansage(Label_auto.text() + auf_spur);
         Label_fahrzeug[i].ansage(Label_bestzeit.text() + auf_spur);
     }
+    fahrerreihe.ansage(Frame_liste.text());
 }
 
 void form1::laden() {
@@ -123,6 +143,7 @@ void form1::listen_zeigen() {
         fahrer.at(i).eintraege(fahrernamen);
         auto_.at(i).eintraege(fahrzeugnamen);
     }
+    reihe_zeigen();
 }
 
 void form1::fahrerbild_laden(const std::string& name, int nummer) {

@@ -164,6 +164,9 @@ public:
     void zusaetze(const std::vector<std::string>& neu) { setzen(zusaetze_, neu); }
     bool frei() const { return frei_; }
     void frei(bool neu) { setzen(frei_, neu); }
+    /// Of a free choice, what is offered while something is typed; set before the choice is drawn. What is typed stays
+    /// as it is until the operator takes one of them.
+    std::function<std::vector<std::string>(const std::string& getippt)> vorschlagen;
     void eingeben(std::string_view neu) override;
 
     /// Chosen entry from 0, also where two entries read the same; -1 for a text that is no entry.

@@ -192,6 +192,9 @@ const std::vector<erklaerung>& erklaerungen() {
          "Aussehen in der Datei tvk_anzeige.ini"},
         {"Farben", "Hell oder dunkel", "aussehen",
          "alle Fenster außer dem Rennbildschirm; „wie das System“ richtet sich nach der Arbeitsumgebung"},
+        {"Farben", "Hauptfenster wie beim letzten Mal", "hauptfenster_wie_zuletzt",
+         "beim Start stehen im Hauptfenster Rennart, Dauer, Spuren, Fahrer und Fahrzeuge, wie sie beim Beenden waren. "
+         "Sie liegen in der Datei tvk_hauptfenster.ini; die Einstellungsdatei bleibt, wie sie gespeichert wurde"},
         {"Trennzeichen", "Trennzeichen", "trennzeichen_*",
          "zwischen Minuten und Sekunden, vor den Tausendsteln, zwischen den Spalten der Ergebnisdateien. Alte "
          "Ergebnisse passen nur zu den Zeichen, mit denen sie geschrieben sind"},

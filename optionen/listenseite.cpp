@@ -142,18 +142,26 @@ void listenseite::speichern_oeffnen() {
 }
 
 void listenseite::bild_neu_zuordnen() {
-    const int zeile = namen.markiert();
-    if (zeile < 0) {
-        return;
+    if (namen.markiert() >= 0) {
+        um_.bilder.oeffnen(bildauftrag());
     }
-    const std::string& eintrag = kopie_.eintraege().at(static_cast<std::size_t>(zeile)).name;
+}
+
+void listenseite::bild_ablegen(const std::filesystem::path& bild) {
+    if (namen.markiert() >= 0) {
+        um_.bilder.hereinnehmen(bildauftrag(), bild);
+    }
+}
+
+bildwahl::auftrag listenseite::bildauftrag() {
+    const std::string& eintrag = kopie_.eintraege().at(static_cast<std::size_t>(namen.markiert())).name;
     const namensliste::art& bilder = kopie_.listenart();
     const std::string standardstamm = bilder.standardbild.substr(0, bilder.standardbild.find('.'));
-    um_.bilder.oeffnen({bildtitel_text_, bilder.bildordner, standardstamm, eintrag, [this](const std::string& stamm) {
-                            if (stamm != bildwahl::abgebrochen) {
-                                bild_setzen(stamm);
-                            }
-                        }});
+    return {bildtitel_text_, bilder.bildordner, standardstamm, eintrag, [this](const std::string& stamm) {
+                if (stamm != bildwahl::abgebrochen) {
+                    bild_setzen(stamm);
+                }
+            }};
 }
 
 void listenseite::bild_setzen(const std::string& stamm) {

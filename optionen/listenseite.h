@@ -58,6 +58,8 @@ public:
     void texte_nennen(sprachliste& texte);
     /// Shows the program's list.
     void zeigen();
+    /// A picture file from anywhere on the machine becomes that of the selected entry.
+    void bild_ablegen(const std::filesystem::path& bild);
     /// The program takes the page's list, and its file is written if the list has changed. False after a failed write.
     bool uebernehmen();
 
@@ -69,6 +71,8 @@ private:
     void laden_oeffnen();
     void speichern_oeffnen();
     void bild_neu_zuordnen();
+    /// What a picture for the selected entry needs; it gets it.
+    bildwahl::auftrag bildauftrag();
     void bild_setzen(const std::string& stamm);
     void melden(int nummer);
 

@@ -99,7 +99,9 @@ optionsseite_zeiger farben() {
     }
     seite->gruppe("Fenster", 0) << wortliste({"sprache", "Sprache"}, wert(&e::anzeige, &erscheinung::sprachordner), {})
                                 << wahl({"aussehen", "Hell oder dunkel"}, wert(&e::anzeige, &erscheinung::fenster), 0,
-                                        {"hell", "dunkel", "wie das System"});
+                                        {"hell", "dunkel", "wie das System"})
+                                << kasten({"hauptfenster_wie_zuletzt", "Hauptfenster wie beim letzten Mal"},
+                                          wert(&e::anzeige, &erscheinung::hauptfenster_wie_zuletzt));
     seite->gruppe("Rennbildschirm", 1)
         << farbwahl({"farben_ampel_1", "Hintergrund"}, element(&e::farben_ampel, 1))
         << farbwahl({"farben_schrift_2", "Schrift"}, element(&e::farben_schrift, 2))

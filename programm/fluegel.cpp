@@ -70,13 +70,13 @@ wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel&
                       p.dienste.zeitgeber, p.dienste.uhr}),
       wettkampfablauf({p.datei, p.einst, p.einrichtung, p.param, p.txt, p.ablage, p.fenster, p.dienste.meldungen,
                        p.dienste.kalender, p.form1, folgen, umfeld, wettkampfabend, wettkampfspeicher}),
-      wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, o.fahrerspeichernfenster,
-                  o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
+      wettkampf1({fensterwelt(p), p.einst, p.einrichtung, p.param, p.fahrerliste, p.zuletzt_gefahren,
+                  o.fahrerspeichernfenster, o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
       wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf),
       rangliste(fensterwelt(p), p.einst, wettkampfabend),
       w_auswertung(fensterwelt(p), p.einst, wettkampfabend),
-      tagesrennen_fenster(
-          {fensterwelt(p), p.einst, p.einrichtung, p.form1, p.fahrerliste, p.dienste.zeitgeber, tagesfolgen}) {
+      tagesrennen_fenster({fensterwelt(p), p.einst, p.einrichtung, p.form1, p.fahrerliste, p.zuletzt_gefahren,
+                           p.dienste.zeitgeber, tagesfolgen}) {
     wettkampfablauf.vorbereitung = &wettkampf1;
 }
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/hauptfensterdatei.h"
 #include "core/nebendateien.h"
 #include "core/ordner.h"
 #include "core/ordnerblick.h"
@@ -28,8 +29,8 @@ programm::programm(const plattform::dienste& d)
       ausgaben(einst),
       fahrerliste({"Fahrerliste:", std::string(fahrer_bildordner), "nopic.jpg"}),
       fahrzeugliste({"Fahrzeugliste:", std::string(fahrzeug_bildordner), "nocar.gif"}),
-      form1({einst, einrichtung, txt, param, ablage, fahrerliste, fahrzeugliste, bestzeiten, fenster, d.meldungen,
-             d.bildschirm, d.zeitgeber}),
+      form1({einst, einrichtung, txt, param, ablage, fahrerliste, fahrzeugliste, zuletzt_gefahren, bestzeiten, fenster,
+             d.meldungen, d.bildschirm, d.zeitgeber}),
       datei({ablage, {einst, einrichtung, txt}, form1, d.meldungen}),
       start_(std::make_unique<startfluegel>(*this)),
       rennen_(std::make_unique<rennfluegel>(*this)),
@@ -92,6 +93,8 @@ programm::programm(const plattform::dienste& d)
       wiedergabe(*wiedergabe_) {
     rennen.fenster.fuehrung = protokoll_.get();
     hauptfenster_verbinden();
+    bilder_verbinden();
+    zuletzt_verbinden();
     wiedergabe_verbinden();
     protokoll_verbinden();
     einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
@@ -117,14 +120,6 @@ void programm::hauptfenster_verbinden() {
     form1.training_beginnen = [this] { training_beginnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };
-    form1.fahrerbilder_uebernehmen = [this] {
-        const int anzahl = fahrerliste.bilder_uebernehmen(ablage, "nopic");
-        bilder_melden(anzahl, fahrerliste_speichern());
-    };
-    form1.fahrzeugbilder_uebernehmen = [this] {
-        const int anzahl = fahrzeugliste.bilder_uebernehmen(ablage, "");
-        bilder_melden(anzahl, fahrzeugliste_speichern());
-    };
     using f = tarvel::einstellungsfenster;
     form1.einstellungen_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_start_ziel); };
     form1.fahrer_oeffnen = [this] { einstellungsfenster.oeffnen(f::seite_fahrer); };
@@ -136,8 +131,10 @@ void programm::hauptfenster_verbinden() {
 }
 
 void programm::wiedergabe_verbinden() {
-    rundenspeichern.bei_ergebnis = [this](const std::string& pfad) { rennprotokoll.ergebnis_geschrieben(pfad); };
-    rennprotokoll.bei_beginn = [this] { fenster.entladen(fenstername::wiedergabe); };
+    rennprotokoll.bei_beginn = [this] {
+        fenster.entladen(fenstername::wiedergabe);
+        fahrer_merken();
+    };
     wiedergabe.darf = [this] { return ruhe_fuer_wiedergabe(); };
     auswertung.wiedergabe_zeigen = [this] {
         rennprotokoll.sichern();
@@ -273,13 +270,6 @@ void programm::bestzeiten_geaendert() {
     }
 }
 
-void programm::bilder_melden(int anzahl, bool gespeichert) {
-    form1.bilder_anzeigen();
-    if (gespeichert) {
-        dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
-    }
-}
-
 bool programm::starten() {
     ablage.umbenennen("tvk_UART.ini", "tvk_at2560.uart");
     ablage.ordner_anlegen("Ergebnisse\\Bestzeiten");
@@ -306,6 +296,8 @@ bool programm::starten() {
     tvk_ini_laden(ablage, txt.werbetext);
     fahrzeugliste_laden();
     fahrerliste_laden();
+    zuletzt_gefahren.laden(ablage);
+    zuletzt_geschrieben.laden(ablage);
     form1.listen_zeigen();
     datei.bestzeiten = this;  // not for the defaults before the settings are read
     pflege_.nach_dem_start = [this] {
@@ -383,6 +375,11 @@ void programm::einstellungen_geladen(bool im_betrieb) {
     strom_von_hand_aus_ = false;
     geraete.hardware_starten(!im_betrieb);
     if (!im_betrieb) {
+        if (einst.anzeige.hauptfenster_wie_zuletzt) {
+            hauptfenster_laden(ablage, txt, einrichtung);
+            form1.einrichtung_zeigen();
+            form1.bilder_anzeigen();
+        }
         fenster.zeigen(fenstername::Form1);
         fenster.zeigen(fenstername::Form3);
     }
@@ -393,6 +390,7 @@ void programm::programm_beenden() {
         return;
     }
     programm_beendet_ = true;
+    hauptfenster_merken();
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
     geraete.beenden();

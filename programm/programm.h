@@ -11,6 +11,8 @@
 #include "core/einstellungsdatei.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
+#include "core/letzte_ergebnisse.h"
+#include "core/letzte_fahrer.h"
 #include "core/namensliste.h"
 #include "core/renn_parameter.h"
 #include "core/renneinrichtung.h"
@@ -102,6 +104,8 @@ public:
     std::string fahrer_datei = "fahrer.lst";  ///< below the folder of the lists
     std::string fahrzeug_datei = "fahrzeuge.kfz";
     tarvel::bestzeiten bestzeiten;
+    letzte_fahrer zuletzt_gefahren;
+    letzte_ergebnisse zuletzt_geschrieben;
 
     tarvel::form1 form1;
     einstellungsdatei datei;
@@ -167,6 +171,13 @@ private:
     void bestzeiten_laden() override;
     void bestzeiten_geaendert() override;
     void hauptfenster_verbinden();
+    void bilder_verbinden();
+    void zuletzt_verbinden();
+    void zuletzt_oeffnen(std::size_t welches);
+    /// The fields as the next start may want them.
+    void hauptfenster_merken();
+    /// Who is about to drive is offered first the next time.
+    void fahrer_merken();
     void training_beginnen();
     void wiedergabe_verbinden();
     /// No race runs, and none is being prepared.

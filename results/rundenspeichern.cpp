@@ -101,7 +101,7 @@ bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const r
         return false;
     }
     if (bei_ergebnis) {
-        bei_ergebnis(datei);
+        bei_ergebnis(datei, ergebnis);
     }
     return true;
 }
@@ -117,7 +117,7 @@ bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad, const renn
     if (geschrieben) {
         gesichert_ = std::move(inhalt);
         if (bei_ergebnis) {
-            bei_ergebnis(pfad);
+            bei_ergebnis(pfad, ergebnis);
         }
     }
     return geschrieben;

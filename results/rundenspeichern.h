@@ -26,7 +26,7 @@ public:
     /// saved this very result already.
     bool automatisch_speichern(const rennergebnis& ergebnis);
     /// A file with the result of a race stands; below the program folder.
-    std::function<void(const std::string& pfad)> bei_ergebnis;
+    std::function<void(const std::string& pfad, const rennergebnis& ergebnis)> bei_ergebnis;
     /// Writes the result of one of many races. A failure is not shown.
     bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
     /// Opens the window for another file of the results. `schreiben` gets its name; a failure shows its message.

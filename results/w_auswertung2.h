@@ -91,6 +91,9 @@ public:
     /// Opens the window on a file below the program folder; an empty path opens it alone.
     void datei_zeigen(const std::string& pfad);
 
+    /// Of a file of one race, what people know as its result: the sheet.
+    void blatt_zeigen();
+
     void laden() override;
     void entladen() override;
     void schliessen() override;

@@ -272,6 +272,13 @@ std::optional<rennergebnis> w_auswertung2::gewaehltes_rennen() const {
     return tabelle_ ? rennen_von(*tabelle_, welches, sortieren_nach()) : std::nullopt;
 }
 
+void w_auswertung2::blatt_zeigen() {
+    if (Command_blick.at(static_cast<std::size_t>(blick::blatt)).aktiviert() && tabelle_->rennen.size() == 1) {
+        blicken(blick::blatt);
+        Command_blick[0].fokus_setzen();
+    }
+}
+
 void w_auswertung2::urkunden_zeigen() {
     if (const auto rennen = gewaehltes_rennen()) {
         um_.urkunden.oeffnen(*rennen, wort_.art[1], blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));

@@ -142,7 +142,8 @@ TEST_F(Listenseite, BildWirdUnterDemNamenDesEintragsKopiert) {
     EXPECT_FALSE(bilder.Command1.aktiviert());
     bilder.datei.auswaehlen(1);
     bilder.Command1.klicken();
-    EXPECT_EQ(t.maschine.meldungen_gezeigt, (meldungen{{"Die Datei ist kein Bild.", "Hinweis"}}));
+    EXPECT_EQ(t.maschine.meldungen_gezeigt,
+              (meldungen{{"Die Datei ist kein Bild in einem Format, das das Programm liest (JPEG, GIF).", "Hinweis"}}));
     bilder.datei.auswaehlen(0);
     EXPECT_TRUE(pfad_aus_utf8(bilder.vorschau.datei()) == t.maschine.ordner() / "kamera/foto 17.JPG");
     bilder.Command1.klicken();

@@ -67,8 +67,8 @@ protected:
     speichernfenster dateiwahl{welt, fenstername::fahrerspeichernfenster, "language\\language_s2.txt"};
     bildwahl bilder{welt};
     folgen_protokoll folgen;
-    wettkampf1 w{
-        {welt, t.p.einst, t.p.einrichtung, t.p.param, t.p.fahrerliste, dateiwahl, bilder, t.p.dienste.zufall, folgen}};
+    wettkampf1 w{{welt, t.p.einst, t.p.einrichtung, t.p.param, t.p.fahrerliste, t.p.zuletzt_gefahren, dateiwahl, bilder,
+                  t.p.dienste.zufall, folgen}};
 };
 
 TEST_F(Wettkampf1, NamenOhneKommasUndKeinerDoppelt) {

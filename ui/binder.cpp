@@ -2,9 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QColorDialog>
+#include <QCompleter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStringListModel>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
@@ -42,6 +44,27 @@ void kuerzung_sagen(QLineEdit* zeile) {
                                QString("max. %1").arg(zeile->maxLength()), zeile);
         }
     });
+}
+
+/// They stand below the field while something is typed. Tab and Enter leave that as it is, until an arrow key or the
+/// mouse has chosen one of them.
+void vorschlaege_anbieten(QComboBox* widget, const auswahl& element) {
+    if (!element.vorschlagen) {
+        return;
+    }
+    auto* namen = new QStringListModel(widget);
+    auto* ergaenzung = new QCompleter(namen, widget);
+    ergaenzung->setCompletionMode(QCompleter::PopupCompletion);
+    ergaenzung->setFilterMode(Qt::MatchContains);  // lets all of them through: the control has chosen
+    ergaenzung->setCaseSensitivity(Qt::CaseInsensitive);
+    QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, namen, [namen, &element](const QString& getippt) {
+        QStringList liste;
+        for (const std::string& name : element.vorschlagen(getippt.toStdString())) {
+            liste << als_text(name);
+        }
+        namen->setStringList(liste);
+    });
+    widget->setCompleter(ergaenzung);
 }
 
 }  // namespace
@@ -270,10 +293,11 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
         const QSignalBlocker still(widget);
         if (widget->isEditable() != element.frei()) {
             widget->setEditable(element.frei());
+            widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
             if (element.frei()) {
                 kuerzung_sagen(widget->lineEdit());
+                vorschlaege_anbieten(widget, element);
             }
-            widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
         }
         if (element.frei() && element.laenge_max() > 0) {
             widget->lineEdit()->setMaxLength(element.laenge_max());
@@ -303,6 +327,8 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
             widget->setCurrentIndex(widget->findText(text));
             widget->setEditText(text);
             widget->lineEdit()->setCursorPosition(0);
+        } else if (!widget->hasFocus()) {
+            widget->lineEdit()->setCursorPosition(0);  // a long text is read from its beginning
         }
     });
     return widget;

@@ -5,6 +5,7 @@
 
 #include "ui/optionsseite_bauen.h"
 #include "ui/stil.h"
+#include "ui/ziehen.h"
 
 namespace tarvel::ui {
 namespace {
@@ -89,9 +90,10 @@ QWidget* EinstellungenFenster::listenseite_bauen(listenseite& logik, const QStri
     spalten->addLayout(links, 1);
 
     auto* rechts = new QVBoxLayout;
-    rechts->addWidget(binder().bildfeld(logik.vorschau, vorspann + "_vorschau", vorschaugroesse,
-                                        [this](const std::string& datei) { return ablage_.pfad(datei); }),
-                      0, Qt::AlignHCenter);
+    QLabel* vorschau = binder().bildfeld(logik.vorschau, vorspann + "_vorschau", vorschaugroesse,
+                                         [this](const std::string& datei) { return ablage_.pfad(datei); });
+    bild_annehmen(vorschau, [&logik](const std::filesystem::path& bild) { logik.bild_ablegen(bild); });
+    rechts->addWidget(vorschau, 0, Qt::AlignHCenter);
     auto* bildbefehle = new QHBoxLayout;
     bildbefehle->addWidget(binder().knopf(logik.anderes_bild, vorspann == "fahrer" ? "Command40" : "Command41"));
     bildbefehle->addWidget(binder().knopf(logik.kein_bild, vorspann + "_kein_bild"));

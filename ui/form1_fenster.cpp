@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -13,6 +14,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
+constexpr int listenbreite = 210;
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
 
@@ -62,7 +64,11 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     inhalt->setContentsMargins(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
-    inhalt->addWidget(spuren_gruppe(), 3);
+    auto* spuren = new QHBoxLayout;
+    spuren->setSpacing(10);
+    spuren->addWidget(spuren_gruppe(), 1);
+    spuren->addWidget(fahrerliste());
+    inhalt->addLayout(spuren, 3);
     inhalt->addSpacing(4);
     inhalt->addWidget(rennbefehle());
     inhalt->addWidget(werkzeugbefehle());
@@ -151,20 +157,24 @@ QWidget* Form1Fenster::spuren_gruppe() {
     auto* raster = new QGridLayout(gruppe);
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(3);
-    const auto kopf = [&](bezeichnung& element, const QString& name, int spalte, befehl* knopf = nullptr,
-                          const QString& knopfname = {}) {
+    spurzeilen_ = new Spurzeilen(logik_, gruppe);
+    using knoepfe = std::vector<std::pair<befehl*, QString>>;
+    const auto kopf = [&](bezeichnung& element, const QString& name, int spalte, const knoepfe& daneben = {}) {
         auto* zelle = new QHBoxLayout;
         zelle->addWidget(stil::leise(binder().label(element, name)));
-        if (knopf != nullptr) {
-            zelle->addStretch();
-            zelle->addWidget(binder().knopf(*knopf, knopfname));
+        zelle->addStretch();
+        for (const auto& [knopf, knopfname] : daneben) {
+            QPushButton* widget = binder().knopf(*knopf, knopfname);
+            widget->setMinimumWidth(1);  // gives way to the list beside the lanes, before that makes the window grow
+            zelle->addWidget(widget);
         }
         raster->addLayout(zelle, 0, spalte);
     };
     kopf(logik_.label_spurlaenge, "label_spurlaenge", 2);
     kopf(logik_.Label_meter, "Label_meter", 3);
-    kopf(logik_.Label_fahrer, "Label_fahrer", 5, &logik_.Command13, "Command13");
-    kopf(logik_.Label_auto, "Label_auto", 7, &logik_.Command10, "Command10");
+    kopf(logik_.Label_fahrer, "Label_fahrer", 5,
+         {{&logik_.command_liste, "command_liste"}, {&logik_.Command13, "Command13"}});
+    kopf(logik_.Label_auto, "Label_auto", 7, {{&logik_.Command10, "Command10"}});
     kopf(logik_.Label_bestzeit, "Label_bestzeit", 8);
     for (const int spur : alle_spuren) {
         spur_zeile(raster, spur);
@@ -190,22 +200,53 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     QComboBox* fahrer = binder().auswahlfeld(logik_.fahrer.at(i), "fahrer_" + nummer);
     QComboBox* fahrzeug = binder().auswahlfeld(logik_.auto_.at(i), "auto_" + nummer);
     const auto im_ordner = [this](const std::string& datei) { return ablage_.pfad(datei); };
+    QLabel* fahrerbild = binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, im_ordner);
+    QLabel* autobild = binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, im_ordner);
     const std::vector<QWidget*> zeile{
-        fleck,
-        kasten,
-        laenge,
-        nullptr,
-        binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, im_ordner),
-        fahrer,
-        binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, im_ordner),
-        fahrzeug,
-        binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer)};
+        fleck,    kasten,     laenge,
+        nullptr,  fahrerbild, fahrer,
+        autobild, fahrzeug,   binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer)};
     for (std::size_t spalte = 0; spalte < zeile.size(); ++spalte) {
         if (zeile[spalte] != nullptr) {
             raster->addWidget(zeile[spalte], spur, static_cast<int>(spalte), Qt::AlignVCenter);
         }
     }
     tabfolge({kasten, laenge, fahrer, fahrzeug});
+    spurzeilen_->aufnehmen(spur, {{fleck, fahrerbild, autobild},
+                                  {fahrerbild, fahrer},
+                                  {autobild, fahrzeug},
+                                  {kasten, laenge, fahrer, fahrzeug}});
+}
+
+QWidget* Form1Fenster::fahrerliste() {
+    QGroupBox* gruppe = binder().gruppe(logik_.Frame_liste, "Frame_liste");
+    gruppe->setFixedWidth(listenbreite);
+    auto* aufbau = new QVBoxLayout(gruppe);
+    QListView* liste = binder().listenfeld(logik_.fahrerreihe, "fahrerreihe");
+    aufbau->addWidget(liste, 1);
+    QLabel* hinweis = stil::leise(binder().label(logik_.Label_liste, "Label_liste"));
+    hinweis->setWordWrap(true);
+    aufbau->addWidget(hinweis);
+    spurzeilen_->liste_verbinden(liste);
+    return gruppe;
+}
+
+/// The menu is made anew each time: a file may have gone meanwhile.
+QPushButton* Form1Fenster::letzte_ergebnisse() {
+    QPushButton* knopf = hoher_knopf(logik_.command_zuletzt, "command_zuletzt");
+    auto* menue = new QMenu(knopf);
+    QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue] {
+        menue->clear();
+        const auto zeilen = logik_.letzte_zeilen();
+        for (std::size_t i = 0; i < zeilen.size(); ++i) {
+            QString text = QString::fromStdString(zeilen[i].text).replace("&", "&&");
+            text.prepend(i < 9 ? QString("&%1  ").arg(i + 1) : QString());  // a digit opens it
+            QAction* eines = menue->addAction(text, this, [this, i] { logik_.letztes_oeffnen(i); });
+            eines->setEnabled(zeilen[i].da);
+        }
+    });
+    knopf->setMenu(menue);
+    return knopf;
 }
 
 QPushButton* Form1Fenster::hoher_knopf(befehl& element, const QString& name) {
@@ -219,16 +260,17 @@ QWidget* Form1Fenster::rennbefehle() {
     auto* aufbau = new QHBoxLayout(zeile);
     aufbau->setContentsMargins(0, 0, 0, 0);
     QPushButton* rennen = binder().hauptknopf(logik_.Command1, "Command1");
-    rennen->setMinimumSize(190, stil::knopfhoehe);
+    rennen->setMinimumSize(150, stil::knopfhoehe);
     aufbau->addWidget(rennen);
     aufbau->addWidget(hoher_knopf(logik_.Command11, "Command11"));
     aufbau->addWidget(hoher_knopf(logik_.Command3, "Command3"));
     aufbau->addWidget(hoher_knopf(logik_.command17, "command17"));
     aufbau->addWidget(hoher_knopf(logik_.Command18, "Command18"));
+    aufbau->addWidget(letzte_ergebnisse());
     aufbau->addWidget(hoher_knopf(logik_.command_fortsetzen, "command_fortsetzen"));
     aufbau->addStretch();
     QPushButton* ende = hoher_knopf(logik_.Command2, "Command2");
-    ende->setMinimumWidth(110);
+    ende->setMinimumWidth(84);
     aufbau->addWidget(ende);
     return zeile;
 }

@@ -4,6 +4,7 @@
 
 #include "core/form1.h"
 #include "ui/fenster.h"
+#include "ui/spurzeilen.h"
 
 namespace tarvel::ui {
 
@@ -16,6 +17,8 @@ private:
     QWidget* wartehinweis();
     QWidget* rennen_gruppe();
     QWidget* spuren_gruppe();
+    QWidget* fahrerliste();
+    QPushButton* letzte_ergebnisse();
     QWidget* rennbefehle();
     QWidget* werkzeugbefehle();
     QPushButton* hoher_knopf(befehl& element, const QString& name);
@@ -24,6 +27,7 @@ private:
 
     form1& logik_;
     const dateien& ablage_;
+    Spurzeilen* spurzeilen_ = nullptr;
 };
 
 }  // namespace tarvel::ui

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/stil.h"
+#include "ui/ziehen.h"
 
 namespace tarvel::ui {
 namespace {
@@ -171,9 +172,10 @@ QWidget* Wettkampf1Fenster::bildfeld() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_bild, "Frame_bild");
     kasten->setFixedWidth(rechte_spalte);
     QVBoxLayout* aufbau = spalte_in(kasten, 6);
-    aufbau->addWidget(binder().bildfeld(logik_.Image1, "Image1", bildgroesse,
-                                        [this](const std::string& datei) { return ablage_.pfad(datei); }),
-                      0, Qt::AlignHCenter);
+    QLabel* bild = binder().bildfeld(logik_.Image1, "Image1", bildgroesse,
+                                     [this](const std::string& datei) { return ablage_.pfad(datei); });
+    bild_annehmen(bild, [this](const std::filesystem::path& datei) { logik_.bild_ablegen(datei); });
+    aufbau->addWidget(bild, 0, Qt::AlignHCenter);
     QLabel* name = binder().label(logik_.Label_bild, "Label_bild");
     name->setAlignment(Qt::AlignCenter);
     name->setStyleSheet("font-weight: bold;");

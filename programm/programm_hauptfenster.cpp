@@ -1,0 +1,94 @@
+#include "competition/wettkampftabelle.h"
+#include "core/hauptfensterdatei.h"
+#include "core/ordnerblick.h"
+#include "programm/bildablage.h"
+#include "programm/fluegel.h"
+#include "programm/programm.h"
+#include "programm/rennprotokoll.h"
+#include "results/ergebnisdatei.h"
+#include "results/ergebniszusammenfassung.h"
+
+// What the main window has at hand beside the set-up: pictures, the results and the drivers of late, and its own state.
+
+namespace tarvel {
+
+void programm::bilder_verbinden() {
+    form1.fahrerbilder_uebernehmen = [this] {
+        const int anzahl = fahrerliste.bilder_uebernehmen(ablage, "nopic");
+        bilder_melden(anzahl, fahrerliste_speichern());
+    };
+    form1.fahrzeugbilder_uebernehmen = [this] {
+        const int anzahl = fahrzeugliste.bilder_uebernehmen(ablage, "");
+        bilder_melden(anzahl, fahrzeugliste_speichern());
+    };
+    using bildpfad = std::filesystem::path;
+    const bildablage::umgebung um{form1, fahrerbild_laden, txt, dienste.meldungen};
+    form1.fahrerbild_ablegen = [this, um](const std::string& name, const bildpfad& bild) {
+        bildablage(um).ablegen({fahrerliste, txt.kein_fahrer, [this] { return fahrerliste_speichern(); }}, name, bild);
+    };
+    form1.fahrzeugbild_ablegen = [this, um](const std::string& name, const bildpfad& bild) {
+        bildablage(um).ablegen({fahrzeugliste, txt.standardfahrzeug_text, [this] { return fahrzeugliste_speichern(); }},
+                               name, bild);
+    };
+}
+
+void programm::bilder_melden(int anzahl, bool gespeichert) {
+    form1.bilder_anzeigen();
+    if (gespeichert) {
+        dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
+    }
+}
+
+void programm::zuletzt_verbinden() {
+    rundenspeichern.bei_ergebnis = [this](const std::string& pfad, const rennergebnis& ergebnis) {
+        rennprotokoll.ergebnis_geschrieben(pfad);
+        if (!pfad.starts_with(ergebnis_ordner::wettkampf)) {  // a competition is one result, not forty
+            const bool tag = pfad.starts_with(ergebnis_ordner::tagesrennen);
+            zuletzt_geschrieben.merken(ablage,
+                                       {pfad, tag ? tagestext(pfad, ergebnis) : ergebniszusammenfassung(ergebnis)});
+        }
+    };
+    wettkampf_->wettkampfspeicher.bei_tabelle = [this](const std::string& pfad, const wettkampf& stand) {
+        zuletzt_geschrieben.merken(ablage, {pfad, wettkampfzusammenfassung(stand)});
+    };
+    form1.letzte_nennen = [this] {
+        std::vector<tarvel::form1::letztes> alle;
+        for (const letzte_ergebnisse::eintrag& eines : zuletzt_geschrieben.eintraege()) {
+            alle.push_back({eines.text, !letzte_ergebnisse::ort(ablage, eines).empty()});
+        }
+        return alle;
+    };
+    form1.letztes_oeffnen = [this](std::size_t welches) { zuletzt_oeffnen(welches); };
+}
+
+void programm::zuletzt_oeffnen(std::size_t welches) {
+    const auto& alle = zuletzt_geschrieben.eintraege();
+    const std::string ort = welches < alle.size() ? letzte_ergebnisse::ort(ablage, alle[welches]) : std::string();
+    if (!ort.empty()) {
+        w_auswertung2.datei_zeigen(ort);
+        w_auswertung2.blatt_zeigen();
+    }
+}
+
+void programm::fahrer_merken() {
+    if (!rennprotokoll.fuehren) {
+        return;  // what is driven again was driven before
+    }
+    std::vector<std::string> fahrer;
+    for (const int nummer : alle_spuren) {
+        const std::string& name = param.fahrer_name[nummer];
+        if (param.spur_aktiv[nummer] && name != txt.kein_fahrer && !txt.ist_freier_platz(name)) {
+            fahrer.push_back(name);
+        }
+    }
+    zuletzt_gefahren.gefahren(ablage, fahrer);
+}
+
+void programm::hauptfenster_merken() {
+    if (einst.anzeige.hauptfenster_wie_zuletzt) {
+        form1.einrichtung_lesen();
+        hauptfenster_speichern(ablage, txt, einrichtung);
+    }
+}
+
+}  // namespace tarvel
