@@ -254,9 +254,10 @@ void at2560::zeile_melden(int zeile, zeit_ms stempel) {
     } else {
         ereignisse.ereignis_setzen(nummer, stempel);
     }
-    const bool persoenlich = nummer >= erster_chaostaster && name != profil_.at_ereignis.at(vor_dem_chaos);
+    const int fahrer = art::spur_des_fahrertasters(nummer);
+    const bool persoenlich = fahrer != 0 && name != profil_.at_ereignis.at(vor_dem_chaos);
     if (persoenlich) {
-        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
+        ereignisse.chaos_knopf(fahrer);
         ereignisse.ereignis_setzen(art::chaostaster, ereignisse[art::chaostaster].ereignis_zeit);
     }
     if (persoenlich || nummer == art::chaostaster) {

@@ -6,11 +6,9 @@
 namespace tarvel {
 namespace {
 
-constexpr ereignis_art erster_chaostaster = 54;  // of a driver
-
 /// The row that it is told in.
 ereignis_art zeile_von(ereignis_art nummer) {
-    return nummer >= erster_chaostaster ? art::chaostaster : nummer;
+    return art::spur_des_fahrertasters(nummer) != 0 ? art::chaostaster : nummer;
 }
 
 bool ist_ueberfahrt(ereignis_art nummer) {
@@ -53,8 +51,8 @@ void ereignisfolge::uebergeben(const ereignis& eines) {
     if (ist_ueberfahrt(eines.nummer)) {
         ereignisse_.ueberfahrt_melden(eines.nummer, eines.stempel);
     } else {
-        if (eines.nummer >= erster_chaostaster) {
-            ereignisse_.chaos_knopf(eines.nummer - erster_chaostaster + 1);
+        if (const int spur = art::spur_des_fahrertasters(eines.nummer); spur != 0) {
+            ereignisse_.chaos_knopf(spur);
         }
         ereignisse_.ereignis_melden(zeile_von(eines.nummer), eines.stempel);
     }

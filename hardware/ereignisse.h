@@ -32,6 +32,11 @@ inline constexpr spuren<ereignis_art> rundenzaehlung{{16, 15, 14, 13, 34, 35}};
 inline constexpr spuren<ereignis_art> bahnstrom{{24, 23, 22, 21, 40, 41}};
 inline constexpr spuren<ereignis_art> tanken_ein{{32, 30, 28, 26, 36, 38}};
 inline constexpr spuren<ereignis_art> tanken_aus{{31, 29, 27, 25, 37, 39}};
+inline constexpr spuren<ereignis_art> fahrertaster{{54, 55, 56, 57, 58, 59}};
+/// The lane whose driver's chaos button this is; 0 for every other event.
+constexpr int spur_des_fahrertasters(ereignis_art nummer) {
+    return nummer >= fahrertaster[1] && nummer <= fahrertaster[spuren_max] ? nummer - fahrertaster[1] + 1 : 0;
+}
 /// Numbers of the list that a device drives.
 constexpr bool ist_ausgang(ereignis_art nummer) {
     constexpr ereignis_art erste_abschaltung = 21;
@@ -42,8 +47,7 @@ constexpr bool ist_ausgang(ereignis_art nummer) {
 }
 /// And those that it reads.
 constexpr bool ist_eingang(ereignis_art nummer) {
-    constexpr ereignis_art letzte = 59;
-    return nummer >= chaostaster && nummer <= letzte && !ist_ausgang(nummer);
+    return nummer >= chaostaster && nummer <= fahrertaster[spuren_max] && !ist_ausgang(nummer);
 }
 }  // namespace art
 

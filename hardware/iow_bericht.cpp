@@ -1,27 +1,21 @@
 #include "hardware/iow_bericht.h"
 
-#include <cstddef>
+#include "hardware/iow_pins.h"
 
 namespace tarvel {
-namespace {
-
-constexpr int ports = 4;
-constexpr int bits_je_port = 8;
-
-}  // namespace
 
 iow_belegung::iow_belegung() {
-    for (int platz = 0; platz < ports * bits_je_port; ++platz) {
-        zuweisen(platz + 1, platz / bits_je_port + 1, platz % bits_je_port);
+    for (std::size_t pin = 0; pin < iow_bits; ++pin) {
+        zuweisen(static_cast<ereignis_art>(pin + 1), pin);
     }
 }
 
-void iow_belegung::zuweisen(ereignis_art nummer, int port, int bit) {
-    if (nummer < 1 || nummer >= static_cast<int>(stellen_.size()) || port < 1 || port > ports || bit < 0 ||
-        bit >= bits_je_port) {
+void iow_belegung::zuweisen(ereignis_art nummer, std::size_t pin) {
+    if (nummer < 1 || nummer >= static_cast<int>(stellen_.size()) || pin >= iow_bits) {
         return;
     }
-    stellen_.at(static_cast<std::size_t>(nummer)) = {port, static_cast<std::uint8_t>(1U << static_cast<unsigned>(bit))};
+    stellen_.at(static_cast<std::size_t>(nummer)) = {static_cast<int>(pin / iow_bits_je_port) + 1,
+                                                     static_cast<std::uint8_t>(1U << pin % iow_bits_je_port)};
 }
 
 void iow_bericht::schalten(ereignis_art nummer, bool an) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -20,12 +21,12 @@ public:
         std::uint8_t iow_maske = 0;
     };
 
-    /// The factory assignment: numbers 1 to 32 on the 32 bits in order.
+    /// The factory assignment: numbers 1 to 32 on the pins in order.
     iow_belegung();
 
     void leeren() { stellen_ = {}; }
-    /// Numbers outside 1 to 59, ports outside 1 to 4 and bits outside 0 to 7 assign nothing.
-    void zuweisen(ereignis_art nummer, int port, int bit);
+    /// Numbers outside 1 to 59 and pins from 32 on assign nothing.
+    void zuweisen(ereignis_art nummer, std::size_t pin);
     stelle operator[](ereignis_art nummer) const { return stellen_.at(static_cast<std::size_t>(nummer)); }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "hardware/iow_pins.h"
 #include "hardware/rufbinder.h"
 
 namespace tarvel {
@@ -10,7 +11,6 @@ namespace {
 constexpr const char* bibliotheksname = "iowkit";
 constexpr std::uint32_t pipe = 0;  // of the port pins
 constexpr std::size_t bericht_max = 8;
-constexpr unsigned bits_je_port = 8;
 
 }  // namespace
 
@@ -84,11 +84,11 @@ bool iow_platine::lesen(std::uint32_t& linien) const {
     if (!offen() || ruf_.IowKitReadNonBlocking(iow_handle(), pipe, iow_eingang.data(), groesse) != groesse) {
         return false;
     }
-    const std::size_t letzter = std::min<std::size_t>(iow_berichtgroesse_ - 1, ports);
+    const std::size_t letzter = std::min<std::size_t>(iow_berichtgroesse_ - 1, iow_ports);
     std::uint32_t neu = 0;
     for (std::size_t port = 0; port < letzter; ++port) {
         const auto geschlossen = static_cast<std::uint8_t>(~iow_eingang.at(port + 1));
-        neu |= static_cast<std::uint32_t>(geschlossen) << (port * bits_je_port);
+        neu |= static_cast<std::uint32_t>(geschlossen) << (port * iow_bits_je_port);
     }
     linien = neu;
     return true;

@@ -14,7 +14,6 @@ namespace tarvel {
 /// The IO board behind its vendor's library.
 class iow_platine {
 public:
-    static constexpr int ports = 4;
     static constexpr std::size_t geraete_max = 17;
 
     explicit iow_platine(plattform::bibliothek_dienst& dienst) : dienst_(dienst) {}

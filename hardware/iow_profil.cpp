@@ -9,7 +9,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int profilbits_je_port = 8;
 constexpr std::size_t iow_zeile_bytes_max = 200;
 constexpr int zahl_max = 1000000;  // far beyond any meaning
 
@@ -45,9 +44,8 @@ bool iow_profil_speichern(const dateien& ablage, std::string_view datei, const i
 iow_belegung belegung_von(const iow_profil& profil) {
     iow_belegung belegung;
     belegung.leeren();
-    for (int platz = 0; platz < static_cast<int>(profil.size()); ++platz) {
-        belegung.zuweisen(profil.at(static_cast<std::size_t>(platz)), platz / profilbits_je_port + 1,
-                          platz % profilbits_je_port);
+    for (std::size_t pin = 0; pin < profil.size(); ++pin) {
+        belegung.zuweisen(profil.at(pin), pin);
     }
     return belegung;
 }

@@ -7,11 +7,11 @@
 
 #include "core/dateien.h"
 #include "hardware/iow_bericht.h"
+#include "hardware/iow_pins.h"
 #include "hardware/kontaktleser.h"
 
 namespace tarvel {
 
-inline constexpr std::size_t iow_bits = 32;
 /// What each pin of the board means, port 0 bit 0 first; 0 for nothing.
 using iow_profil = std::array<ereignis_art, iow_bits>;
 

@@ -6,14 +6,12 @@
 namespace tarvel {
 namespace {
 
-constexpr ereignis_art erster_chaostaster = 54;  // of a driver
-
 bool steht_in(const spuren<ereignis_art>& arten, ereignis_art nummer) {
     return std::find(arten.begin(), arten.end(), nummer) != arten.end();
 }
 
 bool ist_chaostaster(ereignis_art nummer) {
-    return nummer == art::chaostaster || nummer >= erster_chaostaster;
+    return nummer == art::chaostaster || art::spur_des_fahrertasters(nummer) != 0;
 }
 
 bool ist_tankkontakt(ereignis_art nummer) {
@@ -127,8 +125,8 @@ void kontaktleser::zurueckgekommen(ereignis_art nummer) {
 
 void kontaktleser::chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
-    if (nummer >= erster_chaostaster) {
-        ereignisse.chaos_knopf(nummer - erster_chaostaster + 1);
+    if (const int spur = art::spur_des_fahrertasters(nummer); spur != 0) {
+        ereignisse.chaos_knopf(spur);
     }
     chaos_von_hier_ = chaos_von_hier_ || !ereignisse[art::chaostaster].aktiv;
     ereignisse.ereignis_melden(art::chaostaster, stempel);

@@ -14,8 +14,6 @@ constexpr int erste_abgleiche = 6;
 constexpr dauer_ms abgleich_takt{10000};
 constexpr zeit_ms still_ms = 25000;  // two of its answers are missing
 constexpr zeit_ms abfragepause_ms = 100;
-constexpr ereignis_art tk_chaostaster = 54;
-constexpr ereignis_art letzter_chaostaster = 59;
 
 std::string mit_nummer(const std::string& was, int nummer, const char* zustand) {
     return was + std::to_string(nummer) + zustand;
@@ -216,16 +214,16 @@ bool timekeeper::verarbeiten(const tk::chaostaste& /*satz*/) {
 
 bool timekeeper::verarbeiten(const tk::sensor& satz) {
     gehoert_ = angekommen_;
-    const ereignis_art art = profil_.modus == spurmodus::keiner ? 0 : profil_.art_von(satz);
-    if (art == 0) {
+    const ereignis_art nummer = profil_.modus == spurmodus::keiner ? 0 : profil_.art_von(satz);
+    if (nummer == 0) {
         return false;
     }
     const zeit_ms stempel = stempel_von(satz.zeit);
-    if (art >= tk_chaostaster && art <= letzter_chaostaster) {
-        um_.ereignisse.chaos_knopf(art - tk_chaostaster + 1);
+    if (const int spur = art::spur_des_fahrertasters(nummer); spur != 0) {
+        um_.ereignisse.chaos_knopf(spur);
         melden(art::chaostaster, stempel);
     } else {
-        melden(art, stempel);
+        melden(nummer, stempel);
     }
     return true;
 }

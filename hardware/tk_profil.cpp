@@ -16,7 +16,7 @@ constexpr std::array<spuren<ereignis_art>, 6> je_spur{{art::rundenzaehlung,
                                                        art::tanken_aus,
                                                        {{42, 44, 46, 48, 50, 52}},
                                                        {{43, 45, 47, 49, 51, 53}},
-                                                       {{54, 55, 56, 57, 58, 59}}}};
+                                                       art::fahrertaster}};
 constexpr std::array<ereignis_art, 9> fuer_alle{art::chaostaster, 20, 19, 18, 17, 12, 11, 10, 9};
 
 }  // namespace

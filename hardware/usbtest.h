@@ -14,6 +14,7 @@
 #include "core/texte.h"
 #include "hardware/geraetefenster.h"
 #include "hardware/iow_bericht.h"
+#include "hardware/iow_pins.h"
 #include "hardware/iow_platine.h"
 #include "hardware/iow_profil.h"
 #include "platform/meldungen.h"
@@ -25,8 +26,8 @@ namespace tarvel {
 /// output. While it is open it has the board for itself.
 class usbtest final : public geraetefenster {
 public:
-    static constexpr std::size_t ports = 4;
-    static constexpr std::size_t bits_je_port = 8;
+    static constexpr std::size_t ports = iow_ports;
+    static constexpr std::size_t bits_je_port = iow_bits_je_port;
 
     struct umgebung {
         einstellungen& einst;

@@ -36,9 +36,9 @@ protected:
             EXPECT_EQ(bytes[0], 0);
             return true;
         };
-        a.bericht.belegung.zuweisen(33, 4, 0);
-        a.bericht.belegung.zuweisen(40, 4, 1);
-        a.bericht.belegung.zuweisen(41, 4, 2);
+        a.bericht.belegung.zuweisen(33, 24);
+        a.bericht.belegung.zuweisen(40, 25);
+        a.bericht.belegung.zuweisen(41, 26);
     }
     std::string journal_von(const std::function<void()>& tat) {
         journal.clear();
