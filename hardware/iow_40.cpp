@@ -3,12 +3,19 @@
 #include "hardware/iow_profil.h"
 
 namespace tarvel {
+namespace {
+
+constexpr dauer_ms lebenstakt{50};
+constexpr int takte_je_bericht = 20;  // each second a report shows whether the board is still there
+
+}  // namespace
 
 iow_40::iow_40(const umgebung& um)
     : um_(um),
       platine_(um.bibliotheken),
+      schreiber_(platine_, um.abtaster),
       kontakte_({um.einst, um.ereignisse, um.rennen}, {.taster_sperrt_taste = true}),
-      lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)) {
+      lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, lebenstakt)) {
     lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
 }
 
@@ -38,7 +45,7 @@ bool iow_40::oeffnen() {
 
 void iow_40::nebenher_oeffnen() {
     schliessen();
-    nebenher_ = platine_.iow_oeffnen();
+    nebenher_ = platine_oeffnen();
     if (nebenher_) {
         iow_belegung_laden();
         ausgaben_uebernehmen();
@@ -49,11 +56,21 @@ void iow_40::nebenher_oeffnen() {
 }
 
 void iow_40::ausgaben_uebernehmen() {
-    um_.ausgaben.bericht.senden = [this](std::span<const std::uint8_t> bericht) { return senden(bericht); };
+    um_.ausgaben.bericht.senden = [this](std::span<const std::uint8_t> bericht) { return schreiber_.geben(bericht); };
+}
+
+bool iow_40::platine_oeffnen() {
+    const bool offen = platine_.iow_oeffnen();
+    if (offen) {
+        schreiber_.anfangen();
+        takte_ = 0;
+        erledigt_davor_ = 0;
+    }
+    return offen;
 }
 
 bool iow_40::anfangen() {
-    if (!platine_.iow_oeffnen()) {
+    if (!platine_oeffnen()) {
         return false;
     }
     abtastung_ = um_.abtaster.starten(1ms, [this](zeit_ms jetzt) { blick(jetzt); });
@@ -64,7 +81,9 @@ bool iow_40::anfangen() {
 void iow_40::anhalten() {
     lebenstakt_->aus();
     abtastung_.reset();  // before the board that it reads
+    schreiber_.anhalten();
     platine_.schliessen();
+    haengt_ = false;
     kontakte_.verstummt();
 }
 
@@ -83,15 +102,45 @@ void iow_40::wieder_aufnehmen() {
 }
 
 void iow_40::lebenstakt_tick() {
-    if (nebenher_ && !platine_.offen() && !platine_.iow_oeffnen()) {
+    if (schreiber_.verweigert()) {
+        platine_verloren();
         return;
     }
-    um_.ausgaben.bericht.schreiben();
-    if (!um_.ausgaben.bericht.iow_schreibfehler()) {
+    if (haengt_ && schreiber_.fertig()) {
+        haengen(false);
+    }
+    if (++takte_ < takte_je_bericht) {
         return;
     }
+    takte_ = 0;
+    if (nebenher_ && !platine_.offen() && !platine_oeffnen()) {
+        return;
+    }
+    if (schreiber_.fertig()) {
+        um_.ausgaben.bericht.schreiben();
+    } else if (schreiber_.erledigt() == erledigt_davor_) {
+        haengen(true);
+    }
+    erledigt_davor_ = schreiber_.erledigt();
+}
+
+void iow_40::haengen(bool nun) {
+    if (haengt_ == nun) {
+        return;
+    }
+    haengt_ = nun;
+    if (!nun) {
+        um_.ausgaben.bericht.schreiben();  // there may have been no room for the last one
+    } else if (!nebenher_) {
+        um_.bedienung.verloren();
+    }
+}
+
+void iow_40::platine_verloren() {
     if (nebenher_) {
+        schreiber_.anhalten();
         platine_.schliessen();  // what measures goes on
+        haengt_ = false;
     } else {
         anhalten();
         um_.bedienung.verloren();

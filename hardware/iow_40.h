@@ -9,6 +9,7 @@
 #include "hardware/ausgaben.h"
 #include "hardware/geraetebedienung.h"
 #include "hardware/iow_platine.h"
+#include "hardware/iow_schreiber.h"
 #include "hardware/kontaktleser.h"
 #include "hardware/messgeraet.h"
 #include "platform/abtaster.h"
@@ -49,7 +50,7 @@ public:
     void nebenher_oeffnen();
     void schliessen() override;
     void wieder_aufnehmen() override;
-    bool verbunden() const override { return platine_.offen(); }
+    bool verbunden() const override { return platine_.offen() && !haengt_; }
 
     void abfragen() override { iow_auswerten(); }
     void rennfenster_offen() override { iow_pegel_merken(); }
@@ -62,16 +63,23 @@ private:
     void iow_pegel_merken() { kontakte_.ruhe_merken(); }
     /// By the sampling thread.
     void blick(zeit_ms jetzt);
-    bool senden(std::span<const std::uint8_t> bericht) const { return platine_.schreiben(bericht); }
+    bool platine_oeffnen();
     bool anfangen();
     void anhalten();
     void ausgaben_uebernehmen();
     void lebenstakt_tick();
+    void platine_verloren();
+    /// The board takes no more reports, or does again.
+    void haengen(bool nun);
 
     umgebung um_;
     iow_platine platine_;
+    iow_schreiber schreiber_;
     kontaktleser kontakte_;
     std::unique_ptr<plattform::zeitgeber> lebenstakt_;  ///< a board that takes no report any more is gone
+    int takte_ = 0;                                     ///< of it since the last report of its own
+    std::size_t erledigt_davor_ = 0;                    ///< reports, by then
+    bool haengt_ = false;                               ///< a report has been under way for longer than that
     std::unique_ptr<schnittstelle> abtastung_;          ///< none while the board is closed
     std::uint32_t linien_ = 0;                          ///< of the last report; the sampling thread's own
     bool gewuenscht_ = false;                           ///< open, or to be opened as soon as it is there

@@ -14,7 +14,8 @@ namespace tarvel::plattform {
 class abtaster_dienst : public schnittstelle {
 public:
     /// Calls `blick` about every `abstand` with the reading of the clock, until what it returns is gone; that waits for
-    /// a call under way. `blick` runs beside the program: it touches only what two threads may share, and never waits.
+    /// a call under way. `blick` runs beside the program: it touches only what two threads may share. One that a device
+    /// keeps waiting holds up only itself.
     [[nodiscard]] virtual std::unique_ptr<schnittstelle> starten(dauer_ms abstand,
                                                                  std::function<void(zeit_ms)> blick) = 0;
 };

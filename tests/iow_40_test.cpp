@@ -17,24 +17,47 @@ TEST_F(Iow40, AusgaengeHaltenKeinenEingangUndNurDieZugewiesenenSchalten) {
     brett.produkt = 5377;
     iow_waehlen(profil);
     EXPECT_EQ(brett.laenge, 3U);
-    EXPECT_EQ(brett.ausgang[1], 0xFE) << "the lane has power";
+    EXPECT_EQ(iow_ausgang(1), 0xFE) << "the lane has power";
     t.starten("Runden", "5", {1});
     t.maschine.laufen(3000);
     t.bahn().Command3.klicken();
-    EXPECT_EQ(brett.ausgang[1], 0xFF);
+    EXPECT_EQ(iow_ausgang(1), 0xFF);
     t.p.programm_beenden();
+    EXPECT_EQ(brett.schliessungen, 1);
+    EXPECT_EQ(brett.ausgang[1], 0xFE) << "the last word reaches the board before it closes";
+}
+
+TEST_F(Iow40, EinePlatineDieHaengtHaeltDasRennenNichtAuf) {
+    iow_waehlen();
+    t.starten("Runden", "50", {1});
+    puls(16, 1000);
+    t.maschine.faeden_stehen = true;
+    t.bahn().Command3.klicken();
+    EXPECT_TRUE(pause());
+    t.maschine.laufen(2100);
+    EXPECT_FALSE(t.p.geraete.verbunden()) << "nothing reaches its outputs";
+    t.maschine.laufen(200000);
+    t.taste("1");
+    t.maschine.faeden_stehen = false;
+    EXPECT_EQ(iow_ausgang(3) & 0xF0, 0xF0) << "the pause has cut the power";
+    t.maschine.laufen(60);
+    EXPECT_TRUE(t.p.geraete.verbunden());
+    EXPECT_EQ(brett.schliessungen, 0);
+    brett.steckt = false;
+    t.maschine.laufen(1100);
+    EXPECT_FALSE(t.p.geraete.verbunden());
     EXPECT_EQ(brett.schliessungen, 1);
 }
 
 TEST_F(Iow40, NebenEinemAnderenGeraetSchaltetEsNur) {
     iow_waehlen();
     lpt_waehlen();
-    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0x00) << "the lanes have power";
+    EXPECT_EQ(iow_ausgang(3) & 0xF0, 0x00) << "the lanes have power";
     t.starten("Runden", "5", {1});
     puls(16, 1000);
     EXPECT_EQ(t.runden(1), -1) << "another device measures";
     t.bahn().Command3.klicken();
-    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0xF0);
+    EXPECT_EQ(iow_ausgang(3) & 0xF0, 0xF0);
     t.maschine.laufen(3000);
     t.bahn().Command3.klicken();
     t.maschine.laufen(5000);
@@ -45,10 +68,10 @@ TEST_F(Iow40, NebenEinemAnderenGeraetSchaltetEsNur) {
     brett.steckt = true;
     brett.ausgang = {};
     t.maschine.laufen(1100);
-    EXPECT_EQ(brett.ausgang[3], 0x0F);
+    EXPECT_EQ(iow_ausgang(3), 0x0F);
     t.p.fenster.zeigen(fenstername::usbtest);
     t.p.fenster.entladen(fenstername::usbtest);
-    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0x00) << "the test window gives it back";
+    EXPECT_EQ(iow_ausgang(3) & 0xF0, 0x00) << "the test window gives it back";
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
 }
 
@@ -66,7 +89,7 @@ TEST_F(Iow40, EineAbgezogenePlatineWirdWiederGefunden) {
     brett.ausgang = {};
     t.maschine.laufen(3000);
     EXPECT_TRUE(t.p.geraete.verbunden());
-    EXPECT_EQ(brett.ausgang[3] & 0xF0, 0x00) << "its outputs are as they were";
+    EXPECT_EQ(iow_ausgang(3) & 0xF0, 0x00) << "its outputs are as they were";
     EXPECT_EQ(t.runden(1), 1) << "the car has stood there all the time";
     kontakt(bit(16), false, 4000);
     puls(16, 1000);

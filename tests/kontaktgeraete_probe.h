@@ -19,6 +19,7 @@ namespace tarvel::test {
 class Kontaktgeraet : public testing::Test {
 protected:
     static constexpr int lpt_basis = 0x378;
+    static constexpr zeit_ms iow_schreibtakt = 2;
 
     Kontaktgeraet() {
         brett.eintragen(t.maschine.bibliotheken);
@@ -32,6 +33,12 @@ protected:
         t.p.einst.hardware = {};
         t.p.einst.hardware.hw_iow = true;
         t.p.geraete.hardware_starten(false);
+        t.maschine.laufen(iow_schreibtakt);
+    }
+    /// A byte of the board's outputs, as soon as its thread has written what waits.
+    std::uint8_t iow_ausgang(std::size_t byte) {
+        t.maschine.laufen(iow_schreibtakt);
+        return brett.ausgang.at(byte);
     }
     void lpt_waehlen() {
         t.p.einst.hardware = {};

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cassert>
+#include <chrono>
 #include <cstdint>
 #include <cstring>
+#include <thread>
 
 #include "tests/plattform/test_bibliotheken.h"
 
@@ -50,6 +53,7 @@ public:
     std::array<std::uint8_t, 8> ausgang{};
     std::uint32_t laenge = 0;  ///< of the last report written
     int schliessungen = 0;
+    std::atomic<bool> haengt = false;  ///< a report takes as long as that
 
 private:
     /// The program may have the library open longer than its script.
@@ -68,6 +72,9 @@ private:
         return eines_->gelesen;
     }
     static std::uint32_t schreiben(void* /*handle*/, std::uint32_t /*pipe*/, void* quelle, std::uint32_t laenge) {
+        while (eines_->haengt) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
         eines_->laenge = laenge;
         std::memcpy(eines_->ausgang.data(), quelle, laenge);
         return eines_->steckt ? laenge : 0;

@@ -112,7 +112,11 @@ struct virtueller_abtaster final : schnittstelle {
 
 std::unique_ptr<schnittstelle> test_plattform::starten(dauer_ms abstand, std::function<void(zeit_ms)> blick) {
     auto takt = erzeugen(plattform::zeitgeber_art::abfragend, abstand);
-    takt->bei_tick = [this, blick = std::move(blick)] { blick(jetzt_); };
+    takt->bei_tick = [this, blick = std::move(blick)] {
+        if (!faeden_stehen) {
+            blick(jetzt_);
+        }
+    };
     return std::make_unique<virtueller_abtaster>(std::move(takt));
 }
 

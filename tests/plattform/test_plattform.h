@@ -72,6 +72,7 @@ public:
     test_anhaenge_dienst anhaengedateien;
     plattform::groesse_px bildschirm_groesse{1920, 1080};
     bool erste_instanz = true;
+    bool faeden_stehen = false;    ///< those that look at devices wait for them
     std::string nicht_schreibbar;  ///< name of a file, without its folder, that no writer can replace
     double zufallszahl = 0;        ///< from 0 up to below 1
     int beendet = 0;               ///< how often the process was asked to end

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <QThread>
 #include <fstream>
 #include <vector>
 
@@ -8,9 +9,13 @@
 #include <sys/stat.h>
 #endif
 
+#include "hardware/iow_schreiber.h"
 #include "platform_qt/druckerport.h"
+#include "platform_qt/qt_abtaster.h"
 #include "platform_qt/qt_bibliothek.h"
+#include "platform_qt/qt_dienste.h"
 #include "platform_qt/qt_prozess.h"
+#include "tests/plattform/test_iowkit.h"
 #include "tests/plattform/testprogramm.h"
 #include "ui/oberflaeche.h"
 
@@ -45,6 +50,27 @@ TEST(Bibliothek, WirdNachNamenGeladenUndKenntIhreRufe) {
     ASSERT_NE(version, nullptr);
     EXPECT_STREQ(version(), qVersion());
     EXPECT_EQ(bibliothek->finden("tarvel_gibt_es_nicht"), nullptr);
+}
+
+TEST(Abtaster, EinePlatineDieHaengtHaeltNurIhrenFadenAuf) {
+    test::test_iowkit brett;
+    test::test_bibliotheken bibliotheken;
+    brett.eintragen(bibliotheken);
+    const qt::QtUhr uhr;
+    qt::QtAbtasterDienst dienst(uhr);
+    iow_platine platine(bibliotheken);
+    ASSERT_TRUE(platine.iow_oeffnen());
+    iow_schreiber schreiber(platine, dienst);
+    schreiber.anfangen();
+    brett.haengt = true;
+    for (std::uint8_t wert = 1; wert <= 3; ++wert) {
+        EXPECT_TRUE(schreiber.geben(std::array<std::uint8_t, 2>{0, wert}));
+    }
+    QThread::msleep(50);
+    EXPECT_EQ(schreiber.erledigt(), 0U);
+    brett.haengt = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return schreiber.fertig(); }));
+    EXPECT_EQ(brett.ausgang[1], 3) << "in their order";
 }
 
 std::vector<std::pair<int, int>> geschrieben;
