@@ -42,6 +42,7 @@ namespace tarvel {
     F(w_auswertung2)          \
     F(UART_einstellungen)     \
     F(UART_Profildatei)       \
+    F(UART_probe)             \
     F(timekeeper)             \
     F(Update_form)            \
     F(beste_zeiten_verwaltung)

@@ -20,7 +20,9 @@ std::size_t zeile_fuer(int nummer, bool an) {
     return static_cast<std::size_t>(an ? nummer : nummer + 6);
 }
 
-const std::string& wort_fuer(const at_profil& profil, const schaltung& befehl) {
+}  // namespace
+
+const std::string& at_schaltwort(const at_profil& profil, const schaltung& befehl) {
     using ausgang = schaltung::ausgang;
     constexpr int gruen = 6;
     const std::size_t an_oder_aus = befehl.an ? 1 : 2;
@@ -38,8 +40,6 @@ const std::string& wort_fuer(const at_profil& profil, const schaltung& befehl) {
     }
     return profil.at_rennende.at(an_oder_aus);
 }
-
-}  // namespace
 
 std::string at_port_werte(const at2560_anschluss& anschluss) {
     std::string stopbits = anschluss.uart_stopbits;
@@ -174,7 +174,7 @@ void at2560::rennen_fortgesetzt() {
 }
 
 void at2560::schalten(const schaltung& befehl) {
-    at_senden(wort_fuer(profil_, befehl));
+    at_senden(at_schaltwort(profil_, befehl));
 }
 
 void at2560::empfangen(std::string_view bytes) {
@@ -245,7 +245,6 @@ zeit_ms at2560::stempel_von(zeit_ms geraetezeit) {
 
 void at2560::zeile_melden(int zeile, zeit_ms stempel) {
     constexpr std::size_t vor_dem_chaos = 30;  // a name that stands here too is a sector's, not a button's
-    constexpr ereignis_art erster_chaostaster = 54;
     ereignis_tabelle& ereignisse = um_.ereignisse;
     const ereignis_art nummer = at_art(zeile);
     const std::string& name = profil_.at_ereignis.at(static_cast<std::size_t>(zeile));

@@ -20,6 +20,9 @@ namespace tarvel {
 /// Baud rate, parity, data bits and stop bits of the AT-2560's port as the port wants them.
 std::string at_port_werte(const at2560_anschluss& anschluss);
 
+/// The unit's word for the switching of an output.
+const std::string& at_schaltwort(const at_profil& profil, const schaltung& befehl);
+
 /// After the port opens the unit boots this long, and hears nothing.
 inline constexpr dauer_ms at_bootzeit{3000};
 

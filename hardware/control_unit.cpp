@@ -6,8 +6,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::string_view starttaste_befehl = "T2P$";
-
 constexpr int volle_stufe = 14;           // of the 15 that a tank can tell
 constexpr int durchgaenge_max = 100;      // slow passes without an end of a record
 constexpr zeit_ms verbunden_ms = 1000;    // the unit counts as connected for so long after a record
@@ -106,7 +104,7 @@ geraeteampel* control_unit::ampel() {
 }
 
 void control_unit::starttaste() {
-    leitung_.senden(starttaste_befehl);
+    leitung_.senden(cu::starttaste);
 }
 
 void control_unit::cu_auswertung_tick() {

@@ -1,6 +1,7 @@
 #include "hardware/cu_eigenschaften.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/portzusatz.h"
 #include "core/text.h"
@@ -11,6 +12,9 @@ namespace {
 
 constexpr std::size_t zeilen_max = 2000;  // of the status list
 constexpr farbe in_der_box = 0x00C8FF;
+constexpr farbe startzustand = 0x0000FF;
+constexpr farbe vorbeigefahren = 0x00C800;
+constexpr zeit_ms ueberfahrt_ms = 500;  // a passage takes less than an eye sees
 constexpr farbe frei = 0xC8C8C8;
 constexpr std::string_view proto_datei = "cu_proto.txt";
 constexpr std::string_view keine_zeit = "00:00:000";
@@ -35,13 +39,16 @@ cu_eigenschaften::cu_eigenschaften(const umgebung& um, const plattform::dienste&
       um_(um),
       meldungen_(dienste.meldungen),
       ports_(dienste.serienports),
+      uhr_(dienste.uhr),
       leitung_(dienste),
       Timer1_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
       Timer2_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms)),
-      port_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::zaehlend, 1000ms)) {
+      port_timer_(dienste.zeitgeber.erzeugen(zeitgeber_art::zaehlend, 1000ms)),
+      lampentakt_(dienste.zeitgeber.erzeugen(zeitgeber_art::abfragend, 50ms)) {
     Timer1_->bei_tick = [this] { abfrage_tick(); };
     Timer2_->bei_tick = [this] { auswertung_tick(); };
     port_timer_->bei_tick = [this] { port_tick(); };
+    lampentakt_->bei_tick = [this] { lampen_tick(); };
     Text1.laenge_max(40);
     Text2.laenge_max(2);
     Text3.laenge_max(1);
@@ -67,6 +74,7 @@ void cu_eigenschaften::befehle_verbinden() {
     };
     Command7.bei_klick = [this] { senden(Text1.text()); };
     Command8.bei_klick = [this] { suche_beginnen(); };
+    starttaste.bei_klick = [this] { senden(std::string(cu::starttaste)); };
     Command9.bei_klick = [this] { proto_schreiben(); };
     Command10.bei_klick = [this] { codieren(); };
     Command14.bei_klick = [this] {
@@ -105,7 +113,8 @@ sprachliste cu_eigenschaften::sprache_e_cu() {
     texte.text("keine Control Unit gefunden", wort_.nicht_gefunden);
     texte.text("Statusfenster geschrieben", wort_.geschrieben);
     texte.text("Die Datei konnte nicht geschrieben werden.", wort_.nicht_geschrieben);
-    return texte.text("Überfahrten mit falschem Prüfzeichen verworfen: ", wort_.verworfen);
+    texte.text("Überfahrten mit falschem Prüfzeichen verworfen: ", wort_.verworfen);
+    return texte.text("Startzustand", Label_start).text("Starttaste", starttaste);
 }
 
 void cu_eigenschaften::laden() {
@@ -116,7 +125,8 @@ void cu_eigenschaften::laden() {
     }
     cbo_cu_comport.eintraege(ports);
     portzusaetze_zeigen(cbo_cu_comport, ports_);
-    cbo_cu_comport.platz(std::clamp(um_.einst.cu.anschluss.cu_modus, 0, cu_comport_max));
+    const int port = std::exchange(port_vorgewaehlt, {}).value_or(um_.einst.cu.anschluss.cu_modus);
+    cbo_cu_comport.platz(std::clamp(port, 0, cu_comport_max));
     opt_cu_tankautomatik.gesetzt(um_.einst.cu.cu_tankautomatik);
     opt_cu_prgstart.gesetzt(um_.einst.cu.cu_sondermodus);
     opt_cu_alterRZ.gesetzt(um_.einst.cu.cu_option);
@@ -141,13 +151,14 @@ void cu_eigenschaften::laden() {
     }
     Timer1_->an();
     Timer2_->an();
-    if (um_.einst.cu.anschluss.cu_modus > 0) {
+    lampentakt_->an();
+    if (port > 0) {
         oeffnen();
     }
 }
 
 void cu_eigenschaften::entladen() {
-    for (const auto* zeitgeber : {&Timer1_, &Timer2_, &port_timer_}) {
+    for (const auto* zeitgeber : {&Timer1_, &Timer2_, &port_timer_, &lampentakt_}) {
         (*zeitgeber)->aus();
     }
     prueft_ = 0;
@@ -167,6 +178,15 @@ void cu_eigenschaften::anzeigen_leeren() {
         zeitanzeige[spur].text(keine_zeit);
         tank[spur].text("-");
         Shape1[spur].hintergrund(frei);
+        leuchtet_bis_[spur] = 0;
+    }
+    lampe_start.hintergrund(frei);
+    lampen_tick();
+}
+
+void cu_eigenschaften::lampen_tick() {
+    for (const int spur : alle_spuren) {
+        lampe_wagen[spur].hintergrund(uhr_.jetzt() < leuchtet_bis_[spur] ? vorbeigefahren : frei);
     }
 }
 
@@ -308,10 +328,15 @@ void cu_eigenschaften::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
         verworfene_melden(++verworfen_);
         return;
     }
-    if (ueberfahrt.sensor != 1 || ueberfahrt.fahrzeug > spuren_max) {
+    const int spur = ueberfahrt.fahrzeug;
+    if (spur > spuren_max) {
         return;
     }
-    const int spur = ueberfahrt.fahrzeug;
+    leuchtet_bis_[spur] = uhr_.jetzt() + ueberfahrt_ms;
+    lampen_tick();
+    if (ueberfahrt.sensor != 1) {
+        return;
+    }
     ++runden_[spur];
     rundenanzeige[spur].text(std::to_string(runden_[spur]));
     if (runden_[spur] > 0) {
@@ -321,6 +346,7 @@ void cu_eigenschaften::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
 }
 
 void cu_eigenschaften::verarbeiten(const cu::status& status) {
+    lampe_start.hintergrund(status.startzustand ? startzustand : frei);
     for (const int spur : alle_spuren) {
         tank[spur].text(std::to_string(status.tank[spur]));
         const bool in_box = spur > 1 && (status.boxenbits >> (spur - 2) & 1) != 0;

@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ public:
     befehl Command1;         ///< close the port
     befehl Command2;         ///< open it
     befehl Command8;         ///< look for the unit on all ports
+    bezeichnung Label_start;
+    form lampe_start;   ///< the unit's light is in its start state
+    befehl starttaste;  ///< presses the unit's start key
     rahmen Frame_optionen;
     haken opt_cu_tankautomatik;
     haken opt_cu_prgstart;
@@ -47,6 +51,7 @@ public:
     bezeichnung Label_tank;
     bezeichnung Label_tankgroesse;
     bezeichnung Label_box;
+    spuren<form> lampe_wagen;  ///< lit for a moment when the car has passed a sensor
     spuren<bezeichnung> wagen;
     spuren<bezeichnung> rundenanzeige;
     spuren<bezeichnung> zeitanzeige;
@@ -73,6 +78,9 @@ public:
     befehl Command10;
     befehl Command4;  ///< keeps the options and closes
 
+    /// COM number of the next opening, 0 none, where it is not that of the settings.
+    std::optional<int> port_vorgewaehlt;
+
     void laden() override;
     void entladen() override;
     std::vector<sprachliste> sprachdateien() override { return {sprache_e_cu()}; }
@@ -81,6 +89,7 @@ public:
 private:
     void befehle_verbinden();
     void anzeigen_leeren();
+    void lampen_tick();
     void melden(std::string_view zeile);
     /// A line of the window's own.
     void hinweisen(const std::string& text) { melden(" +++ " + text); }
@@ -107,10 +116,12 @@ private:
     umgebung um_;
     plattform::meldungen& meldungen_;
     const plattform::serienport_dienst& ports_;
+    const plattform::uhr& uhr_;
     cu_leitung leitung_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;      ///< polls
     std::unique_ptr<plattform::zeitgeber> Timer2_;      ///< takes a record
     std::unique_ptr<plattform::zeitgeber> port_timer_;  ///< the next port of the search
+    std::unique_ptr<plattform::zeitgeber> lampentakt_;
 
     std::vector<int> zu_pruefen_;  ///< COM numbers that the search has not tried yet, the next one last
     int prueft_ = 0;               ///< the one that it tries, 0 none
@@ -119,6 +130,7 @@ private:
     int verworfen_ = 0;  ///< damaged passages since the port is open here
     spuren<int> runden_;
     spuren<zeit_ms> stempel_;
+    spuren<zeit_ms> leuchtet_bis_;  ///< machine's clock
 
     bool antwort_erwartet_ = false;  ///< to a command, while nothing polls
 

@@ -67,6 +67,8 @@ private:
 /// The eight characters of a stamp; nothing if one of them is no digit of sixteen.
 std::optional<std::uint32_t> stempel_lesen(std::string_view zeichen);
 
+/// As if somebody had pressed the start key at the unit.
+inline constexpr std::string_view starttaste = "T2P$";
 inline constexpr std::string_view programmierung_ruecksetzen = "J60980$";
 inline constexpr std::string_view anzeigen_ruecksetzen = "=101$";
 /// Sets a value of the controller of lane 1 to 6: `befehl` is 0 to 15, `wert` 0 to 99.

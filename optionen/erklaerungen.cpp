@@ -165,6 +165,9 @@ const std::vector<erklaerung>& erklaerungen() {
          "4x4 USB: was dieser Eingang oder diese Sensorposition bedeutet"},
         {"Messhardware", "Einstellungsdatei, Timekeeper einrichten", "tk_datei tk_einrichten",
          "Timekeeper: welcher Eingang was bedeutet, und sein Test, siehe Timekeeper USB"},
+        {"Messhardware", "Control Unit einrichten und prüfen", "cu_einrichten",
+         "das Fenster der Control Unit: sucht ihren Port, zeigt, was sie meldet, und schickt ihr Befehle, siehe "
+         "Carrera Control Unit"},
         {"Messhardware", "automatische Tankfunktion", "opt_cu_tankautomatik",
          "Control Unit: „Tankfunktion“ im Hauptfenster folgt ihrem Tankschalter"},
         {"Messhardware", "Rennstart über Software", "opt_cu_prgstart",
@@ -178,6 +181,8 @@ const std::vector<erklaerung>& erklaerungen() {
          "uart_datei uart_datei_waehlen uart_einrichten",
          "AT-2560: welches Wort des Geräts was bedeutet; „Zeitmessung einrichten“ fragt die Sensoren ab und schreibt "
          "die Datei neu"},
+        {"Messhardware", "Gerät prüfen", "uart_pruefen",
+         "AT-2560: eine Lampe für jeden Sensor und Taster, und jeder Ausgang von Hand, siehe AT-2560 USB"},
         {"Sounds", "Sounds abspielen", "sound_an", "aus: das Programm ist still"},
         {"Sounds", "'beste Runde' ab Runde", "snd_beste",
          "vorher meldet der Ton keine beste Runde (1 bis 10, sonst 5)"},

@@ -149,6 +149,7 @@ void modul_4x4_seite(optionsseite& seite) {
 void control_unit(optionsseite& seite) {
     optionsgruppe& gruppe = seite.gruppe("Carrera Control Unit", 1);
     gruppe << comport({"cu_comport", "COM-Port"}, wert(&e::cu, &cu::anschluss, &cu_anschluss::cu_modus), comports_max)
+           << aktion({"cu_einrichten", "Control Unit einrichten und prüfen"})
            << kasten({"opt_cu_tankautomatik", "automatische Tankfunktion"}, wert(&e::cu, &cu::cu_tankautomatik))
            << kasten({"opt_cu_prgstart", "Rennstart über Software"}, wert(&e::cu, &cu::cu_sondermodus))
            << kasten({"opt_cu_alterRZ", "Blackbox mit Rundenzähler 30342 verwenden"}, wert(&e::cu, &cu::cu_option));
@@ -169,7 +170,7 @@ void at_2560(optionsseite& seite) {
         << wortliste({"uart_stopbits", "Stoppbits"}, wert(&e::uart, &uart::uart_stopbits), {"1", "1.5", "2"})
         << text({"uart_datei", "Befehlsdatei"}, wert(&e::uart, &uart::uart_datei), 60, 6)
         << aktion({"uart_datei_waehlen", "Befehlsdatei auswählen"})
-        << aktion({"uart_einrichten", "Zeitmessung einrichten"});
+        << aktion({"uart_einrichten", "Zeitmessung einrichten"}) << aktion({"uart_pruefen", "Gerät prüfen"});
 }
 
 }  // namespace

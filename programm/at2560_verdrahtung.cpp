@@ -1,5 +1,6 @@
 #include "programm/at2560_verdrahtung.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -15,9 +16,10 @@ at2560_verdrahtung::at2560_verdrahtung(const geraete_umgebung& um, messgeraete& 
           um.dienste.meldungen, alle.rennverbindung(), alle}),
       uart_einstellungen({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
                           um.dienste.serienports}),
-      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}) {
+      uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}),
+      uart_probe({um.txt, um.ablage, um.fenster}, um.dienste) {
     fenster_verbinden(um);
-    uart_einstellungen.zugang = this;
+    uart_einstellungen.zugang = uart_probe.zugang = this;
     uart_profildatei.gewaehlt = [this](const std::string& name) {
         einst_.uart.uart_datei = name;
         at.profil_wechseln();
@@ -34,6 +36,14 @@ void at2560_verdrahtung::fenster_verbinden(const geraete_umgebung& um) {
                                                 optionen.uart_portwerte_uebernehmen();
                                                 fenster.zeigen(fenstername::UART_einstellungen, anzeige_art::modal);
                                             });
+    um.einstellungsfenster.aktion_verbinden("uart_pruefen", [this, &optionen = um.einstellungsfenster,
+                                                             &fenster = um.fenster] {
+        optionen.uart_portwerte_uebernehmen();
+        uart_probe.anschluss = einst_.uart;
+        uart_probe.anschluss.uart_port = std::max(std::get<auswahl>(optionen.zeile("uart_port").element).platz(), 0);
+        uart_probe.anschluss.uart_datei = std::get<feld>(optionen.zeile("uart_datei").element).text();
+        fenster.zeigen(fenstername::UART_probe, anzeige_art::modal);
+    });
 }
 
 bool at2560_verdrahtung::einstellungen_speichern() {

@@ -22,7 +22,7 @@ public:
 private:
     void geraet_verbinden() override;
     int verworfene_saetze() const override { return cu.verworfene_saetze(); }
-    bool einstellungen_speichern() override { return pflege_.speichern_mit_feldern(); }
+    bool einstellungen_speichern() override;
 };
 
 }  // namespace tarvel

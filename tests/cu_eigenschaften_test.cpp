@@ -74,6 +74,21 @@ TEST_F(CuEigenschaften, DieSucheFindetDasGeraetUndSeinPortWirdBehalten) {
     EXPECT_TRUE(t.p.geraete.verbunden()) << "the race has the port again";
 }
 
+TEST_F(CuEigenschaften, VonDenEinstellungenAusNimmtEsDenPortDerDortSteht) {
+    fenster.schliessen();
+    t.p.form1.Command4.klicken();
+    auto& port = std::get<auswahl>(t.p.einstellungsfenster.zeile("cu_comport").element);
+    port.waehlen(com);
+    std::get<befehl>(t.p.einstellungsfenster.zeile("cu_einrichten").element).klicken();
+    EXPECT_TRUE(gelistet(" +++ COM7 geöffnet"));
+    fenster.cbo_cu_comport.waehlen(3);
+    fenster.Command4.klicken();
+    EXPECT_EQ(port.platz(), 3) << "the page knows what was saved";
+    fenster.port_vorgewaehlt.reset();
+    t.p.fenster.zeigen(fenstername::cu_eigenschaften);
+    EXPECT_EQ(fenster.cbo_cu_comport.platz(), 3);
+}
+
 TEST_F(CuEigenschaften, ZeigtWasDasGeraetSagtUndSendetWasManTippt) {
     verbinden();
     laufen(18000);
@@ -83,6 +98,19 @@ TEST_F(CuEigenschaften, ZeigtWasDasGeraetSagtUndSendetWasManTippt) {
     EXPECT_LT(fenster.List1.zeilen().size(), 40U) << "a status that is repeated is listed once";
     fenster.Command14.klicken();
     EXPECT_EQ(geraet->anzeigewert(), 2);
+    const auto lampe = [&](int wagen) { return fenster.lampe_wagen[wagen].hintergrund(); };
+    bool gesehen = false;
+    for (int n = 0; n < 9000 && !gesehen; ++n) {
+        laufen(1);
+        gesehen = lampe(1) != lampe(6);
+    }
+    EXPECT_TRUE(gesehen) << "a car has passed";
+    laufen(600);
+    EXPECT_EQ(lampe(1), lampe(6));
+    const auto vorher = fenster.lampe_start.hintergrund();
+    fenster.starttaste.klicken();
+    laufen(500);
+    EXPECT_NE(fenster.lampe_start.hintergrund(), vorher);
     fenster.Text2.eingeben("2");
     fenster.Text3.eingeben("6");
     fenster.Text4.eingeben("15");

@@ -55,6 +55,7 @@ const std::map<fenstername, const char*>& kapitel() {
         {f::w_auswertung2, "ergebnisse-ansehen"},
         {f::UART_einstellungen, "at-2560-usb"},
         {f::UART_Profildatei, "at-2560-usb"},
+        {f::UART_probe, "at-2560-usb"},
         {f::timekeeper, "timekeeper-usb"},
         {f::beste_zeiten_verwaltung, "bestzeiten"}};
     return alle;

@@ -8,6 +8,7 @@
 #include "hardware/s6_fragefenster.h"
 #include "hardware/tk_einstellungen.h"
 #include "hardware/uart_einstellungen.h"
+#include "hardware/uart_probe.h"
 #include "hardware/uart_profildatei.h"
 #include "hardware/usbtest.h"
 #include "programm/fluegel.h"
@@ -40,6 +41,7 @@
 #include "ui/timekeeper_fenster.h"
 #include "ui/tx_fenster.h"
 #include "ui/uart_einstellungen_fenster.h"
+#include "ui/uart_probe_fenster.h"
 #include "ui/uart_profildatei_fenster.h"
 #include "ui/urkunden_fenster.h"
 #include "ui/usbtest_fenster.h"
@@ -94,6 +96,7 @@ public:
     SpaetesFenster<S6FrageFenster> s6_frage{p_.geraete.fenster<tarvel::s6_fragefenster>(), fenster, &form1};
     SpaetesFenster<UartProfildateiFenster> uart_profildatei{p_.geraete.fenster<tarvel::uart_profildatei>(), fenster,
                                                             &form1};
+    SpaetesFenster<UartProbeFenster> uart_probe{p_.geraete.fenster<tarvel::uart_probe>(), fenster, &einstellungen};
     SpaetesFenster<Wettkampf2Fenster> wettkampf2{p_.wettkampf2, p_.ablage, fenster, &form1};
     SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};

@@ -40,11 +40,12 @@ protected:
         std::get<befehl>(t.p.einstellungsfenster.zeile("uart_einrichten").element).klicken();
         t.p.geraete.fenster<uart_profildatei>().oeffnen("klub.uart");
         t.p.fenster.zeigen(fenstername::timekeeper);
+        t.p.fenster.zeigen(fenstername::UART_probe);
         for (const char* zeile : {"iow_einrichten", "lpt_einrichten"}) {
             std::get<befehl>(t.p.einstellungsfenster.zeile(zeile).element).klicken();
         }
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 36U);
+        ASSERT_EQ(alle.size(), 37U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());

@@ -50,6 +50,24 @@ QWidget& uart_assistent(buehne& b) {
     return *b.o.uart_einstellungen;
 }
 
+/// The unit at COM3 has booted; sensors and a button have told something, and somebody tries outputs.
+QWidget& uart_probe_fenster(buehne& b) {
+    b.t.maschine.anschluesse.da = {1, 3};
+    at_profil profil;
+    profil.at_ereignis.at(static_cast<std::size_t>(at_zeile::chaos_allgemein)) = "S2";
+    profil.at_ereignis.at(static_cast<std::size_t>(at_zeile::zwischenzeit(1, 1))) = "S22";
+    at_profil_speichern(b.p.ablage, at_standarddatei, profil);
+    optionsseite_zeigen<7>(b);
+    std::get<auswahl>(b.p.einstellungsfenster.zeile("uart_port").element).platz(3);
+    std::get<befehl>(b.p.einstellungsfenster.zeile("uart_pruefen").element).klicken();
+    uart_probe& w = b.p.geraete.von<at2560_verdrahtung>().uart_probe;
+    b.t.maschine.laufen(at_bootzeit.count());
+    w.ampel.at(1).umschalten();
+    w.strom[1].umschalten();
+    b.t.maschine.anschluesse.senden(3, ":S40,812;:S13,1001;:S2,2417;");
+    return *b.o.uart_probe;
+}
+
 /// The options with this hardware chosen.
 template <int nummer>
 QWidget& messhardware(buehne& b) {
@@ -297,6 +315,7 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          return *b.o.uart_profildatei;
      },
      true},
+    {"uart_probe", uart_probe_fenster},
     {"usbtest", usbtest_fenster},
     {"usbtest_oeffnen",
      [](buehne& b) -> QWidget& {
