@@ -4,17 +4,14 @@
 #include <bit>
 #include <cmath>
 
+#include "core/mitschriftworte.h"
+
 namespace tarvel {
 namespace {
 
 constexpr std::string_view vermerk = ">";
-constexpr std::string_view uhrsprung = "u";
-constexpr std::string_view gezaehlt = "gezaehlt";    // behind the time: what has counted on, and how often
-constexpr int laeufe_max = 1000;                     // in a line
 constexpr zeit_ms lebenszeichen_ms = 200;            // what is cut off is known to have lived until then
 constexpr zeit_ms laeufe_ms = 2 * lebenszeichen_ms;  // a look comes sooner, if there is one
-constexpr std::string_view kopf = "#";
-constexpr std::string_view andere_uhr = "Uhr";  // behind that: the times count from there
 
 }  // namespace
 
@@ -97,7 +94,7 @@ void mitschrift::weiterschreiben(protokollsenke& senke, std::uint16_t kette, zei
         anhaengen();
     }
     nachtrag_.clear();
-    kopfzeile(std::string(andere_uhr) + " " + std::to_string(beginn));
+    kopfzeile(std::string(mitschriftwort::andere_uhr) + " " + std::to_string(beginn));
 }
 
 void mitschrift::aufhoeren() {
@@ -113,7 +110,7 @@ void mitschrift::kopfzeile(std::string_view text) {
         ausstehend_.emplace_back(text);
     } else if (schreibt()) {
         laeufe_schreiben();
-        schreiber_.beginnen(0).wort(kopf).wort(text);
+        schreiber_.beginnen(0).wort(mitschriftwort::kopf).wort(text);
         anhaengen();
     }
 }
@@ -143,7 +140,7 @@ void mitschrift::zaehlung_beenden() {
     if (z.steht_da) {
         return;
     }
-    if (z.schritt > 0 || z.merklich || z.nebenbei != nebenbei_lesen_() || e.laeufe == laeufe_max ||
+    if (z.schritt > 0 || z.merklich || z.nebenbei != nebenbei_lesen_() || e.laeufe == mitschriftwort::laeufe_max ||
         (laeufe_.offen && laeufe_.tiefe != tiefe)) {
         zuege_schreiben();
     } else {
@@ -160,7 +157,7 @@ void mitschrift::laeufe_schreiben() {
     if (laeufe_.tiefe > 0) {
         schreiber_.zahl(zuege_[laeufe_.tiefe - 1].tor);
     }
-    schreiber_.wort(gezaehlt).zahl(laeufe_.zeit - beginn_);
+    schreiber_.wort(mitschriftwort::gezaehlt).zahl(laeufe_.zeit - beginn_);
     for (eintrag& e : eingaenge_) {
         if (e.laeufe > 0) {
             schreiber_.wort(e.name).zahl(std::exchange(e.laeufe, 0));
@@ -190,7 +187,7 @@ void mitschrift::zug_schreiben(std::size_t nummer) {
     anhaengen();
     for (std::size_t i = 0; i < z.spruenge_anzahl; ++i) {
         schreiber_.beginnen(static_cast<int>(nummer) + 1);
-        schreiber_.zahl(z.spruenge[i].schritt).wort(uhrsprung).zahl(z.spruenge[i].zeit - beginn_);
+        schreiber_.zahl(z.spruenge[i].schritt).wort(mitschriftwort::uhrsprung).zahl(z.spruenge[i].zeit - beginn_);
         anhaengen();
     }
 }
@@ -214,7 +211,7 @@ zeit_ms mitschrift::zeit_merken(zeit_ms echte) {
     z.zeit = echte;
     if (z.steht_da || z.spruenge_anzahl == z.spruenge.size()) {
         zuege_schreiben();
-        schreiber_.beginnen(tiefe()).zahl(z.schritt).wort(uhrsprung).zahl(echte - beginn_);
+        schreiber_.beginnen(tiefe()).zahl(z.schritt).wort(mitschriftwort::uhrsprung).zahl(echte - beginn_);
         anhaengen();
     } else {
         z.spruenge[z.spruenge_anzahl++] = {z.schritt, echte};
@@ -278,200 +275,6 @@ void mitschrift::vermerken(std::string_view wort, std::initializer_list<std::int
         ++ort_;
     } else {
         abweichen(std::move(jetzt));
-    }
-}
-
-void mitschrift::lesen(std::vector<std::string_view> zeilen, int erste_zeile, zeit_ms beginn) {
-    betrieb_ = betrieb::lesen;
-    zeilen_ = std::move(zeilen);
-    ort_ = 0;
-    erste_zeile_ = erste_zeile;
-    beginn_ = protokoll_stempel(beginn);
-    zuletzt_ = beginn_;
-    abweichung_.reset();
-    nachtrag_.clear();
-    zuege_.clear();
-}
-
-void mitschrift::kopfzeile_lesen(std::string_view rest) {
-    if (naechstes_wort(rest) == andere_uhr) {
-        beginn_ = protokoll_stempel(als_zahl(rest).value_or(beginn_));
-    }
-}
-
-std::optional<protokollsatz> mitschrift::naechster() const {
-    if (ort_ == zeilen_.size() || abweichung_) {
-        return std::nullopt;
-    }
-    return zerlegen(zeilen_[ort_]);
-}
-
-void mitschrift::abweichen(std::string stattdessen) {
-    if (!abweichung_) {
-        abweichung_ = {erste_zeile_ + static_cast<int>(ort_), ort_ < zeilen_.size() ? std::string(zeilen_[ort_]) : "",
-                       std::move(stattdessen)};
-    }
-}
-
-std::optional<protokollsatz> mitschrift::naechste_tat() {
-    std::optional<protokollsatz> s = naechster();
-    while (s && s->ist_kopfzeile()) {
-        kopfzeile_lesen(s->rest);
-        ++ort_;
-        if (bei_kopfzeile) {
-            bei_kopfzeile(s->rest);
-        }
-        s = naechster();
-    }
-    return s;
-}
-
-std::optional<zeit_ms> mitschrift::naechste_zeit() {
-    std::optional<protokollsatz> s = naechste_tat();
-    if (!s) {
-        return std::nullopt;
-    }
-    return protokoll_stempel(als_zahl(naechstes_wort(s->rest)).value_or(0));
-}
-
-bool mitschrift::weiter() {
-    const std::optional<protokollsatz> s = naechste_tat();
-    if (!s) {
-        return false;
-    }
-    if (s->tiefe != 0) {
-        abweichen("");  // nobody has asked for it
-        return false;
-    }
-    satz_ausfuehren(*s);
-    return !abweichung_;
-}
-
-bool mitschrift::ist_tat(std::string_view wort) const {
-    return wort == gezaehlt || nummer_.contains(std::string(wort));
-}
-
-void mitschrift::laeufe_ausfuehren(const protokollsatz& s) {
-    std::string_view rest = s.rest;
-    const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
-    std::vector<std::pair<int, std::int64_t>> laeufe;
-    bool ganz = zeit.has_value() && zuege_.size() < tiefe_max;
-    while (ganz && !rest.empty()) {
-        const auto gefunden = nummer_.find(std::string(naechstes_wort(rest)));
-        const std::int64_t anzahl = als_zahl(naechstes_wort(rest)).value_or(0);
-        ganz = gefunden != nummer_.end() && anzahl > 0 && anzahl <= laeufe_max &&
-               eingaenge_[static_cast<std::size_t>(gefunden->second)].art == sorte::zaehlung;
-        laeufe.emplace_back(ganz ? gefunden->second : 0, anzahl);
-    }
-    if (!ganz) {
-        abweichen("");
-        return;
-    }
-    ++ort_;
-    zuletzt_ = beginn_ + protokoll_stempel(*zeit);
-    const std::size_t tiefe = zuege_.size();
-    for (auto [eingang, anzahl] : laeufe) {
-        for (; anzahl > 0 && liest() && !abweichung_; --anzahl) {
-            zuege_.push_back({.eingang = eingang, .zeit = zuletzt_, .steht_da = true});
-            ausfuehren(eingang, {});
-            zuege_.resize(std::min(zuege_.size(), tiefe));
-        }
-    }
-}
-
-void mitschrift::satz_ausfuehren(const protokollsatz& s) {
-    if (s.wort == gezaehlt) {
-        laeufe_ausfuehren(s);
-        return;
-    }
-    const auto gefunden = nummer_.find(std::string(s.wort));
-    if (gefunden == nummer_.end() || zuege_.size() == tiefe_max) {
-        abweichen("");
-        return;
-    }
-    const eintrag& e = eingaenge_[static_cast<std::size_t>(gefunden->second)];
-    zug z{.eingang = gefunden->second, .steht_da = true};
-    std::string_view rest = s.rest;
-    const std::optional<std::int64_t> zeit = als_zahl(naechstes_wort(rest));
-    bool ganz = zeit.has_value();
-    z.zeit = beginn_ + protokoll_stempel(zeit.value_or(0));
-    for (std::size_t i = 0; i < e.anzahl; ++i) {
-        const std::optional<std::int64_t> wert = als_zahl(naechstes_wort(rest));
-        ganz = ganz && wert;
-        z.w[i] = wert.value_or(0);
-    }
-    if (!rest.empty()) {
-        const std::optional<std::int64_t> erstes = als_zahl(naechstes_wort(rest));
-        const std::optional<std::int64_t> zweites = rest.empty() ? 0 : als_zahl(rest);
-        ganz = ganz && erstes && zweites;
-        if (ganz) {
-            nebenbei_setzen_({protokoll_stempel(*erstes), protokoll_stempel(*zweites)});
-        }
-    }
-    if (!ganz) {
-        abweichen("");
-        return;
-    }
-    ++ort_;
-    zuletzt_ = z.zeit;
-    const std::size_t tiefe = zuege_.size();
-    zuege_.push_back(z);
-    ausfuehren(z.eingang, z.w);
-    if (zuege_.size() > tiefe) {
-        zuletzt_ = std::max(zuletzt_, zuege_.back().zeit);  // another one may have come later within
-        zuege_.resize(tiefe);
-    }
-}
-
-zeit_ms mitschrift::zeit_nachlesen() {
-    if (zuege_.empty()) {
-        return zuletzt_;
-    }
-    zug& z = zuege_.back();
-    if (z.tor == 0) {
-        ++z.schritt;
-        const std::optional<protokollsatz> s = naechster();
-        if (s && s->tiefe == tiefe() && s->schritt == z.schritt && s->wort == uhrsprung) {
-            z.zeit = beginn_ + protokoll_stempel(als_zahl(s->rest).value_or(0));
-            ++ort_;
-        }
-    }
-    return z.zeit;
-}
-
-std::optional<std::int64_t> mitschrift::antwort_nachlesen(std::string_view name) {
-    if (zuege_.empty()) {
-        return std::nullopt;
-    }
-    zug& z = zuege_.back();
-    ++z.schritt;
-    const std::optional<protokollsatz> s = naechster();
-    if (!s || s->tiefe != tiefe() || s->schritt != z.schritt || s->wort != name) {
-        return std::nullopt;
-    }
-    ++ort_;
-    return als_zahl(s->rest);
-}
-
-void mitschrift::tor_nachlesen() {
-    if (zuege_.empty()) {
-        return;
-    }
-    const std::size_t nummer = zuege_.size() - 1;
-    if (zuege_[nummer].tor != 0) {
-        return;
-    }
-    const int schritt = ++zuege_[nummer].schritt;
-    for (std::optional<protokollsatz> s = naechster(); s; s = naechster()) {
-        if (s->tiefe != tiefe() || s->schritt != schritt || !ist_tat(s->wort)) {
-            return;
-        }
-        zuege_[nummer].tor = schritt;
-        satz_ausfuehren(*s);
-        if (zuege_.size() <= nummer) {
-            return;
-        }
-        zuege_[nummer].tor = 0;
     }
 }
 

@@ -164,9 +164,7 @@ QWidget* Form1Fenster::spuren_gruppe() {
         zelle->addWidget(stil::leise(binder().label(element, name)));
         zelle->addStretch();
         for (const auto& [knopf, knopfname] : daneben) {
-            QPushButton* widget = binder().knopf(*knopf, knopfname);
-            widget->setMinimumWidth(1);  // gives way to the list beside the lanes, before that makes the window grow
-            zelle->addWidget(widget);
+            zelle->addWidget(binder().knopf(*knopf, knopfname, "schmal"));
         }
         raster->addLayout(zelle, 0, spalte);
     };

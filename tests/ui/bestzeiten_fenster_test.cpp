@@ -30,6 +30,9 @@ TEST_F(BestzeitenFenster, ZeigtBeimTippenWasGespeichertWird) {
     EXPECT_FALSE(finde<QWidget>(*o.bestzeiten, "beste_zeiten_fenster.Frame_2")->isVisible());
     auto* zeit = finde<QComboBox>(*o.bestzeiten, "beste_zeiten_fenster.beste_combo_0");
     EXPECT_TRUE(gruen("beste_zeiten_fenster.Shape1_0"));
+    o.bestzeiten->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.bestzeiten));
+    zeit->setFocus();
     zeit->lineEdit()->selectAll();
     QTest::keyClicks(zeit->lineEdit(), "00:07,12");
     EXPECT_FALSE(gruen("beste_zeiten_fenster.Shape1_0"));
