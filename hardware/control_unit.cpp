@@ -147,7 +147,7 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
         geraeteuhr_.aufnehmen({ueberfahrt, uhr_.jetzt(), um_.zeit.messzeit_lesen(), luecke_, um_.rennen.pause()});
     uhr_nachstellen(befund);
     if (const ereignis_art nummer = cu_art(ueberfahrt.sensor, ueberfahrt.fahrzeug); nummer != 0) {
-        um_.ereignisse.ueberfahrt_melden(nummer, befund.stempel);
+        um_.ereignisse.ueberfahrt_melden(nummer, befund.ungewiss ? um_.zeit.messzeit_lesen() : befund.stempel);
     }
 }
 

@@ -17,6 +17,8 @@ constexpr zeit_ms spaet_ms = 100;            // later than that is held up
 constexpr zeit_ms dauernd_spaet_ms = 20000;  // unless it always is
 constexpr zeit_ms grob_ab_ms = 10000;        // from here on two passages show how fast the clock runs
 constexpr zeit_ms genau_ab_ms = 60000;       // and from here on well
+constexpr zeit_ms nachzuegler_ms = 500;      // a passage is on the line for no longer
+constexpr zeit_ms kalender_ms = 1000;        // an outage is known to the second
 constexpr double gang_abweichung = 0.01;     // of any clock at most
 constexpr double gang_unsicher = 0.0003;     // of one that has been watched for `genau_ab_ms`
 constexpr double gang_rauschen = 0.000002;   // not worth a change
@@ -37,6 +39,14 @@ zeit_ms cu_uhr::stand::an(const anker& a, zeit_ms maschine) const {
 
 zeit_ms cu_uhr::stand::lesen(zeit_ms maschine) const {
     return std::max(an(fenster, maschine), an(vorher, maschine));
+}
+
+void cu_uhr::stand::heben(zeit_ms um) {
+    umlauf += um;
+    letzter += um;
+    for (anker* a : {&erster, &fenster, &vorher}) {
+        a->stempel += um;
+    }
 }
 
 void cu_uhr::stand::gesehen(const cu::ueberfahrt& u, zeit_ms stempel) {
@@ -128,6 +138,7 @@ void cu_uhr::stand::gang_bestimmen() {
 
 cu_uhr::befund cu_uhr::springen(const eingang& neu, zeit_ms stempel) {
     davor_ = jetzt_;
+    angeschlossen_ = false;
     sprung_ = stempel - neu.messzeit;
     jetzt_.beginnen(neu, stempel);
     jetzt_.je_sensor = {};
@@ -164,7 +175,40 @@ cu_uhr::befund cu_uhr::ausrichten(const eingang& neu, zeit_ms stempel) {
     return im_takt ? befund{stempel, std::nullopt, false} : befund{stempel, stempel - neu.messzeit, true};
 }
 
+/// The stamps of the race are the unit's own again, as they were: what it has kept lies before the outage or in it.
+std::optional<cu_uhr::befund> cu_uhr::fortsetzen(const eingang& neu, zeit_ms stempel) {
+    const zeit_ms frueheste = ausfall_->stempel - nachzuegler_ms;
+    const zeit_ms seither = ((stempel - frueheste) % umlauf_ms + umlauf_ms) % umlauf_ms;
+    const zeit_ms laengstens = neu.maschine - ausfall_->maschine;
+    if (seither > nachzuegler_ms + laengstens + anteil(laengstens, gang_abweichung) + kalender_ms + sprung_ms) {
+        return std::nullopt;
+    }
+    davor_.reset();
+    jetzt_.je_sensor = {};
+    jetzt_.ausrichten = false;
+    jetzt_.heben(frueheste + seither - stempel);
+    stempel = frueheste + seither;
+    const zeit_ms voraus = stempel - jetzt_.lesen(neu.maschine);
+    if (!jetzt_.bekannt || voraus > 0 || -voraus > laengstens + sprung_ms) {  // else it has waited
+        jetzt_.beginnen(neu, stempel);
+        jetzt_.letzter = stempel;
+    }
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    unbenutzt_ = true;
+    angeschlossen_ = true;
+    return befund{stempel, ausfall_->versatz, true};
+}
+
 cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
+    if (ausfall_ && !neu.pause) {
+        ausfall_.reset();
+    }
+    befund b = einordnen(neu);
+    b.ungewiss = ausfall_ && !angeschlossen_;
+    return b;
+}
+
+cu_uhr::befund cu_uhr::einordnen(const eingang& neu) {
     stand weiter = jetzt_;
     const zeit_ms stempel = weiter.durchgehend(neu.ueberfahrt.stempel);
     if (davor_ && !weiter.passt(neu, stempel)) {
@@ -174,9 +218,12 @@ cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
     }
     jetzt_ = weiter;
     if (!jetzt_.bekannt || jetzt_.ausrichten) {
-        return ausrichten(neu, stempel);
+        angeschlossen_ = false;
+        const auto weiter_wie_bisher = ausfall_ ? fortsetzen(neu, stempel) : std::nullopt;
+        return weiter_wie_bisher ? *weiter_wie_bisher : ausrichten(neu, stempel);
     }
-    if (jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke) ||
+    const bool behalten = ausfall_ && angeschlossen_ && stempel >= ausfall_->stempel - nachzuegler_ms;  // any order
+    if ((!behalten && jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke)) ||
         stempel - jetzt_.lesen(neu.maschine) > jetzt_.spiel(neu.maschine)) {
         return springen(neu, stempel);
     }
@@ -185,6 +232,9 @@ cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
     const bool war_unbenutzt = std::exchange(unbenutzt_, unbenutzt_ && neu.pause);
     if (war_unbenutzt && stempel - jetzt_.lesen(neu.maschine) > streuung_ms) {  // what it was aligned by had waited
         jetzt_.beginnen(neu, stempel);
+        if (ausfall_ && angeschlossen_) {
+            return {stempel, std::nullopt, true};  // the stamps stand on it already
+        }
         return {stempel, stempel - neu.messzeit, true};
     }
     return {stempel, std::nullopt, !neu.pause && jetzt_.folgen(neu, stempel)};

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "hardware/cu_protokoll.h"
+#include "hardware/messquelle.h"
 #include "platform/uhr.h"
 
 namespace tarvel {
@@ -27,6 +28,7 @@ public:
         zeit_ms stempel = 0;               ///< of the passage, on a clock without overflows
         std::optional<zeit_ms> versetzen;  ///< the race's clock has nothing to do with the unit's yet: ms between them
         bool nachstellen = false;          ///< `lesen` and `gang` know more than before
+        bool ungewiss = false;             ///< of an outage: nobody knows whether it was before the race's last stamp
     };
 
     befund aufnehmen(const eingang& neu);
@@ -34,9 +36,17 @@ public:
     void vergessen() {
         jetzt_ = {};
         davor_.reset();
+        ausfall_.reset();
     }
     /// A race gets ready: its stamps follow the clock as its first passage shows it.
-    void neu_ausrichten() { jetzt_.ausrichten = true; }
+    void neu_ausrichten() {
+        jetzt_.ausrichten = true;
+        davor_.reset();
+        ausfall_.reset();
+    }
+    /// It goes on behind an outage, in which the unit may have gone on too, and kept what passed. The machine's
+    /// calendar is too coarse to tell which of that the race still had; the unit's own clock is not.
+    void anschliessen(const ausfall_stand& vorher) { ausfall_ = vorher; }
 
     /// What the unit's clock shows at this moment of the machine's.
     zeit_ms lesen(zeit_ms maschine) const { return jetzt_.lesen(maschine); }
@@ -67,6 +77,8 @@ private:
         /// Last stamp of each car at each sensor, 0 none: these come in order.
         std::array<zeit_ms, std::size_t{cu::fahrzeuge_max + 1} * (cu::sensoren_max + 1)> je_sensor{};
 
+        /// All its stamps are later by so much.
+        void heben(zeit_ms um);
         zeit_ms lesen(zeit_ms maschine) const;
         zeit_ms an(const anker& a, zeit_ms maschine) const;
         zeit_ms durchgehend(std::uint32_t stempel);
@@ -81,13 +93,17 @@ private:
     };
 
     befund ausrichten(const eingang& neu, zeit_ms stempel);
+    std::optional<befund> fortsetzen(const eingang& neu, zeit_ms stempel);
+    befund einordnen(const eingang& neu);
     befund springen(const eingang& neu, zeit_ms stempel);
     std::optional<befund> sprung_zuruecknehmen(const eingang& neu);
 
     stand jetzt_;
-    std::optional<stand> davor_;  ///< a jump that no second passage has borne out may be a damaged record
-    zeit_ms sprung_ = 0;          ///< of it
-    bool unbenutzt_ = false;      ///< aligned in a pause, and no lap has been stamped by it yet: it may still be moved
+    std::optional<stand> davor_;            ///< a jump that no second passage has borne out may be a damaged record
+    zeit_ms sprung_ = 0;                    ///< of it
+    std::optional<ausfall_stand> ausfall_;  ///< until the race goes on behind it
+    bool angeschlossen_ = false;            ///< the unit's clock is the one from before it
+    bool unbenutzt_ = false;  ///< aligned in a pause, and no lap has been stamped by it yet: it may still be moved
 };
 
 }  // namespace tarvel

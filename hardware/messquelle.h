@@ -42,6 +42,13 @@ struct faehigkeiten {
     }
 };
 
+/// Where a race stood as its program went away, for a device whose clock has gone on meanwhile.
+struct ausfall_stand {
+    zeit_ms stempel = 0;   ///< the last sign of life, on the clock that the race went by then
+    zeit_ms versatz = 0;   ///< ms by which its stamps would have to move to stand on that clock again
+    zeit_ms maschine = 0;  ///< the machine's clock at that moment, give or take the calendar's second
+};
+
 /// The role that each timing device fills. Devices deliver into the event table; the keyboard is no device. Of what the
 /// race tells, a device overrides what it has a use for.
 class messquelle : public schnittstelle {
@@ -66,6 +73,8 @@ public:
     virtual void einfahren_vorbei() {}
     /// A race is prepared; its light comes next.
     virtual void rennen_bereit() {}
+    /// The one that is ready goes on behind an outage, and stands in its pause.
+    virtual void nach_ausfall(ausfall_stand /*stand*/) {}
     /// The start has been stopped before green.
     virtual void start_abgebrochen() {}
     /// The moment at which the race starts.

@@ -233,6 +233,8 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
         um_.ergebnisse.auswertung.wieder_oeffnen();
     } else {
         um_.quellen.melden(&messquelle::rennen_bereit);
+        um_.quellen.melden(&messquelle::nach_ausfall,
+                           ausfall_stand{letzte, letzte - seit, um_.dienste.uhr.jetzt() - seither.count()});
     }
     if (!mit_protokoll) {
         melden(um_.txt.wettkampf.ohne_protokoll);

@@ -38,6 +38,9 @@ const std::vector<ausfallgeraet>& alle_geraete() {
          []() -> std::unique_ptr<simulator::geraet> {
              simulator::control_unit_einstellung einst;
              einst.rennen = wagen(6, 0xFFFFFFFF - 100000);  // its clock overflows in the race
+             for (simulator::wagen_einstellung& w : einst.rennen.wagen) {
+                 w.rundenzeit = 1600;  // it keeps the laps of the outage
+             }
              return std::make_unique<simulator::control_unit>(einst);
          },
          [](einstellungen& e) {
@@ -128,8 +131,8 @@ protected:
     }
 
     /// The program goes away, and `dauer` ms later the next one is there, with another clock, and asks. With settings
-    /// that were saved it hears the device already while the question stands.
-    void ausfallen(zeit_ms dauer, bool gespeichert) {
+    /// that were saved it hears the device already while the question stands, for `bedenkzeit`.
+    void ausfallen(zeit_ms dauer, zeit_ms bedenkzeit) {
         while (zeit_ - fahrten_.back().second < 150) {  // a moment ago is not on the disk yet
             laufen(1);
         }
@@ -147,12 +150,15 @@ protected:
         spaetere_.push_back(std::make_unique<neustart>(erstes_, protokoll, 5000 + 777777 * zeit_ms(spaetere_.size())));
         neustart& jetzt = *spaetere_.back();
         p_ = &jetzt.p;
-        const auto seither = static_cast<int>((zeit_ - fenster_um_) / 1000) + 14 * 3600 + 3 * 60 + 22;
-        jetzt.maschine.datum_stellen({2026, 11, 21, seither / 3600, seither / 60 % 60, seither % 60});
         anschliessen(jetzt.maschine);
-        if (gespeichert) {
+        kalender_stellen();
+        if (bedenkzeit > 0) {
             p_->ablage.zeilen_schreiben(standard_einstellungen, einstellungen_);
-            jetzt.maschine.waehrend_frage = [this] { laufen(7000); };
+            jetzt.maschine.waehrend_frage = [this, bedenkzeit] {
+                laufen(bedenkzeit);
+                stehen(400);  // until the windows of the race are there
+                kalender_stellen();
+            };
         }
         if (art().startet_neu) {
             geraet_->verbunden();
@@ -221,6 +227,17 @@ protected:
     programm* p_ = &erstes_.p;
 
 private:
+    void kalender_stellen() {
+        const auto seither = static_cast<int>((zeit_ - fenster_um_) / 1000) + 14 * 3600 + 3 * 60 + 22;
+        maschine_->datum_stellen({2026, 11, 21, seither / 3600, seither / 60 % 60, seither % 60});
+    }
+    /// The program does nothing for so long.
+    void stehen(zeit_ms dauer) {
+        for (const zeit_ms bis = zeit_ + dauer; zeit_ < bis;) {
+            geraet_weiter();
+        }
+        maschine_->uhr_stellen(dauer);
+    }
     void anschliessen(test_plattform& maschine) {
         maschine_ = &maschine;
         ftdi_.eintragen(maschine.bibliotheken);
@@ -266,12 +283,14 @@ private:
     std::vector<std::pair<zeit_ms, zeit_ms>> pausen_;
 };
 
-TEST_P(Ausfallrennen, ZweiAusfaelleVerlierenKeineRundeUndVerschiebenKeine) {
+TEST_P(Ausfallrennen, AusfaelleVerlierenKeineRundeUndVerschiebenKeine) {
     starten("4");
     laufen(75300);
-    ASSERT_NO_FATAL_FAILURE(ausfallen(21000, false));
+    ASSERT_NO_FATAL_FAILURE(ausfallen(21000, 0));
     laufen(61700);
-    ASSERT_NO_FATAL_FAILURE(ausfallen(3500, true));
+    ASSERT_NO_FATAL_FAILURE(ausfallen(3500, 7000));
+    laufen(32344);
+    ASSERT_NO_FATAL_FAILURE(ausfallen(3392, 1296));
     laufen(zeit_ms{4} * 60 * 1000);
     ASSERT_TRUE(p_->fenster.ist_offen(fenstername::auswertung));
     vergleichen(4);

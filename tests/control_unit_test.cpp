@@ -1,7 +1,9 @@
 #include <cmath>
 #include <random>
 
+#include "core/nebendateien.h"
 #include "tests/control_unit_probe.h"
+#include "tests/plattform/neustart.h"
 
 namespace tarvel::test {
 namespace {
@@ -237,6 +239,59 @@ TEST_F(ControlUnitRennen, NachDemAbziehenImRennenZaehltWasSieInzwischenGemessenH
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 6500);
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 2), 7500);
     EXPECT_EQ(t.runden(2), 0);
+}
+
+/// Asked again, the unit tells what one car has driven just now before what another has driven in the outage. The
+/// calendar has lost nearly a second of that.
+TEST_F(ControlUnitRennen, WasSieImAusfallBehaltenHatZaehltNicht) {
+    const zeit_ms auf = t.maschine.jetzt();
+    t.p.form1.wertmin.eingeben("0,1");
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    zeit_ms uhr = 500000 - t.maschine.jetzt();
+    for (const zeit_ms danach : {8000, 200}) {
+        ueberfahrt(1, static_cast<std::uint32_t>(uhr + t.maschine.jetzt()));
+        ueberfahrt(2, static_cast<std::uint32_t>(uhr + t.maschine.jetzt()));
+        t.maschine.laufen(danach);
+    }
+    while ((t.maschine.jetzt() - auf + 1400) % 1000 != 0) {
+        t.maschine.laufen(1);
+    }
+    const auto sekunden = static_cast<int>(22 + (t.maschine.jetzt() - auf + 1400) / 1000);
+    const zeit_ms weg = uhr + t.maschine.jetzt();
+    const zeit_ms gefahren = weg - t.p.rennen.zustand.konto.stempel(2, 1);
+
+    neustart danach(t, protokoll_von(t));
+    test_anschluesse& leitung = danach.maschine.anschluesse;
+    uhr = weg + 1700 - danach.maschine.jetzt();
+    danach.p.ablage.zeilen_schreiben(standard_einstellungen, t.p.datei.festhalten());
+    danach.maschine.datum_stellen({2026, 11, 21, 14, 3 + sekunden / 60, sekunden % 60});
+    leitung.da = {com};
+    leitung.geraet = [&](int /*nummer*/, std::string_view bytes) {
+        if (bytes == "\"?\r") {
+            leitung.senden(com, wartend.empty() ? letzter_status : wartend.front());
+            wartend.erase(wartend.begin(), wartend.begin() + (wartend.empty() ? 0 : 1));
+        }
+    };
+    const auto wagen_2 = [&](zeit_ms um) { return passage(2, static_cast<std::uint32_t>(um)); };
+    danach.maschine.waehrend_frage = [&] {
+        wartend = {passage(1, static_cast<std::uint32_t>(uhr + danach.maschine.jetzt()))};
+        danach.maschine.laufen(250);
+        danach.maschine.uhr_stellen(300);  // the windows of the race are made
+        wartend = {wagen_2(weg + 500), wagen_2(weg + 1300)};
+    };
+    danach.p.starten();
+    danach.maschine.laufen(500);
+    ASSERT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    danach.weiter();
+    ASSERT_FALSE(danach.lauf().zustand.chaos_aktiv);
+    danach.maschine.laufen(7000);
+    const rundenkonto& konto = danach.lauf().zustand.konto;
+    EXPECT_EQ(konto.runden(2), 1);
+    wartend = {wagen_2(uhr + danach.maschine.jetzt())};
+    danach.maschine.laufen(10);
+    ASSERT_EQ(konto.runden(2), 2);
+    EXPECT_NEAR(static_cast<double>(konto.rundenzeit(2, 2)), static_cast<double>(7000 + gefahren), 220)
+        << "as driven before the outage and behind it; the last sign of life is a moment old";
 }
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
