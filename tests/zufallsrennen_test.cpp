@@ -300,7 +300,9 @@ private:
         }
         EXPECT_EQ(runde, v.runden + 1);
         if (v.gesperrt) {  // only the lap that the empty tank had held back may come now
-            const bool eben_frei = v.sperre && !s.fruehstart_sperre;  // its end and the crossing in one millisecond
+            // its end and the crossing in one millisecond, or before the timer that counts in steps has told so
+            const bool eben_frei =
+                v.sperre && (!s.fruehstart_sperre || s.sperre.bis <= zustand().konto.stempel(nummer, runde));
             EXPECT_TRUE(!s.tank_strafe_aktiv || s.tank_strafzaehler <= dauer_hs(1)) << "or the next one has begun";
             EXPECT_TRUE(eben_frei ||
                         (t_.p.param.tank_aktiv && t_.p.einst.tank_straf_option == leer_aktion::stromunterbrechung));
