@@ -15,7 +15,6 @@ constexpr farbe in_der_box = 0x00C8FF;
 constexpr farbe startzustand = 0x0000FF;
 constexpr farbe vorbeigefahren = 0x00C800;
 constexpr zeit_ms ueberfahrt_ms = 500;  // a passage takes less than an eye sees
-constexpr farbe frei = 0xC8C8C8;
 constexpr std::string_view proto_datei = "cu_proto.txt";
 constexpr std::string_view keine_zeit = "00:00:000";
 
@@ -177,16 +176,17 @@ void cu_eigenschaften::anzeigen_leeren() {
         rundenanzeige[spur].text("0");
         zeitanzeige[spur].text(keine_zeit);
         tank[spur].text("-");
-        Shape1[spur].hintergrund(frei);
+        Shape1[spur].hintergrund({});
         leuchtet_bis_[spur] = 0;
     }
-    lampe_start.hintergrund(frei);
+    lampe_start.hintergrund({});
     lampen_tick();
 }
 
 void cu_eigenschaften::lampen_tick() {
     for (const int spur : alle_spuren) {
-        lampe_wagen[spur].hintergrund(uhr_.jetzt() < leuchtet_bis_[spur] ? vorbeigefahren : frei);
+        lampe_wagen[spur].hintergrund(uhr_.jetzt() < leuchtet_bis_[spur] ? std::optional(vorbeigefahren)
+                                                                         : std::nullopt);
     }
 }
 
@@ -346,11 +346,11 @@ void cu_eigenschaften::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
 }
 
 void cu_eigenschaften::verarbeiten(const cu::status& status) {
-    lampe_start.hintergrund(status.startzustand ? startzustand : frei);
+    lampe_start.hintergrund(status.startzustand ? std::optional(startzustand) : std::nullopt);
     for (const int spur : alle_spuren) {
         tank[spur].text(std::to_string(status.tank[spur]));
         const bool in_box = spur > 1 && (status.boxenbits >> (spur - 2) & 1) != 0;
-        Shape1[spur].hintergrund(in_box ? in_der_box : frei);
+        Shape1[spur].hintergrund(in_box ? std::optional(in_der_box) : std::nullopt);
     }
 }
 

@@ -10,7 +10,6 @@ namespace {
 constexpr std::size_t suchzeilen_max = 400;
 constexpr zeit_ms leuchtdauer_ms = 700;
 constexpr farbe lampe_an = 0x30C030;
-constexpr farbe lampe_aus = 0xD8D8D8;
 constexpr std::size_t keine_funktion = 3;
 
 /// What an input can mean, in the order of the choices.
@@ -318,7 +317,7 @@ void frm_main::aufleuchten(std::size_t platz) {
 void frm_main::lampen_tick() {
     for (std::size_t platz = 0; platz < leuchtet_bis_.size(); ++platz) {
         if (uhr_.jetzt() >= leuchtet_bis_.at(platz)) {
-            lampe(platz).hintergrund(lampe_aus);
+            lampe(platz).hintergrund({});
         }
     }
 }

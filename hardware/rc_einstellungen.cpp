@@ -16,7 +16,6 @@ constexpr std::size_t boxzeilen_max = 400;
 constexpr zeit_ms leuchten_ms = 300;  // a passage takes less than an eye sees
 constexpr zeit_ms still_ms = 2000;    // an active box tells its clock far more often
 constexpr farbe belegt = 0x00C800;
-constexpr farbe frei = 0xC8C8C8;
 constexpr std::string_view keine_zeit = "00:00:00.000";
 constexpr std::string_view kein_stempel = "000000";
 constexpr int erste_art = 13;  // of the lap sensors of lanes 4 to 1
@@ -149,7 +148,7 @@ void rc_einstellungen::sensoren_leeren() {
     steht_ = {};
     leuchtet_bis_ = {};
     for (sensorzeile& eine : sensoren) {
-        eine.SensorLED.hintergrund(frei);
+        eine.SensorLED.hintergrund({});
         eine.SensorTime.text(keine_zeit);
         eine.SensorTimeStamp.text(kein_stempel);
         eine.anzahl.text("0");
@@ -202,7 +201,7 @@ void rc_einstellungen::rc_meldet(const rc_kontakt& kontakt) {
 void rc_einstellungen::rc_akt_tick() {
     for (std::size_t i = 0; i < sensoren.size(); ++i) {
         if (!steht_.at(i) && um_.uhr.jetzt() >= leuchtet_bis_.at(i)) {
-            sensoren.at(i).SensorLED.hintergrund(frei);
+            sensoren.at(i).SensorLED.hintergrund({});
         }
     }
     if (!verbindung_.bereit()) {

@@ -300,7 +300,7 @@ void tk_einstellungen::sensor_zeigen(const tk::sensor& satz) {
 void tk_einstellungen::lampen_loeschen() {
     for (std::size_t i = 0; i < kanaele.size(); ++i) {
         if (leuchtet_bis_.at(i) <= uhr_.jetzt()) {
-            kanaele.at(i).lampe.hintergrund(lampe_aus);
+            kanaele.at(i).lampe.hintergrund({});
         }
     }
 }

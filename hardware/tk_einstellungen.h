@@ -82,7 +82,6 @@ private:
     static constexpr std::size_t gruen = 5;  ///< places of the lamps behind the red ones
     static constexpr std::size_t gelb = 6;
     static constexpr std::size_t rennende = 7;
-    static constexpr farbe lampe_aus = 0xC8C8C8;
 
     /// What a box has sent since a lane's file was opened.
     struct mitschrift {

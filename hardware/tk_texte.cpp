@@ -62,7 +62,7 @@ void tk_einstellungen::ansagen() {
         k.sensorart.eintraege(arten);
         k.sensorart.ansage(Frame_sensoren.text() + " " + k.sensornum.text());
         k.ergebnis.text("");
-        k.lampe.hintergrund(lampe_aus);
+        k.lampe.hintergrund({});
     }
 }
 

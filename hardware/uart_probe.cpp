@@ -14,7 +14,6 @@ constexpr std::size_t probezeilen_max = 400;
 constexpr std::size_t probezeile_breite = 80;
 constexpr zeit_ms probe_leuchtdauer_ms = 700;
 constexpr farbe probe_lampe_an = 0x30C030;
-constexpr farbe probe_lampe_aus = 0xC8C8C8;
 constexpr int rote = 5;
 
 }  // namespace
@@ -154,7 +153,7 @@ void uart_probe::kanaele_zeigen() {
     for (std::size_t i = 0; i < kanaele.size(); ++i) {
         const std::string& name = profil_.at_ereignis.at(i + 1);
         kanaele.at(i).ereignis.text(name.empty() || name == at_nicht_belegt ? "–" : name);
-        kanaele.at(i).lampe.hintergrund(probe_lampe_aus);
+        kanaele.at(i).lampe.hintergrund({});
     }
     leuchtet_bis_ = {};
 }
@@ -282,7 +281,7 @@ void uart_probe::ereignis_zeigen(const at_meldung& meldung) {
 void uart_probe::lampen_tick() {
     for (std::size_t i = 0; i < kanaele.size(); ++i) {
         if (uhr_.jetzt() >= leuchtet_bis_.at(i)) {
-            kanaele.at(i).lampe.hintergrund(probe_lampe_aus);
+            kanaele.at(i).lampe.hintergrund({});
         }
     }
 }

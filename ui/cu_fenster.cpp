@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "hardware/cu_eigenschaften.h"
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -44,20 +45,12 @@ QWidget* CuFenster::portgruppe() {
     raster->addWidget(binder().knopf(logik_.Command2, "Command2"), 1, 1);
     raster->addWidget(binder().knopf(logik_.Command1, "Command1"), 1, 2);
     auto* start = new QHBoxLayout;
-    start->addWidget(lampe(logik_.lampe_start, "lampe_start"));
+    start->addWidget(lampe(binder(), logik_.lampe_start, "lampe_start"));
     start->addWidget(binder().label(logik_.Label_start, "Label_start"));
     start->addStretch();
     raster->addLayout(start, 2, 0, 1, 2);
     raster->addWidget(binder().knopf(logik_.starttaste, "starttaste"), 2, 2);
     return kasten;
-}
-
-QLabel* CuFenster::lampe(form& licht, const QString& name) {
-    auto* fleck = new QLabel(this);
-    fleck->setFixedSize(18, 18);
-    binder().verbinden(licht, fleck, name,
-                       [&licht, fleck] { stil::fleck_faerben(fleck, licht.hintergrund().value_or(0)); });
-    return fleck;
 }
 
 QWidget* CuFenster::optionengruppe() {
@@ -86,13 +79,13 @@ QWidget* CuFenster::wagengruppe() {
         const QString nummer = "_" + QString::number(spur);
         auto* auto_nummer = new QHBoxLayout;
         auto_nummer->setSpacing(8);
-        auto_nummer->addWidget(lampe(logik_.lampe_wagen[spur], "lampe_wagen" + nummer));
+        auto_nummer->addWidget(lampe(binder(), logik_.lampe_wagen[spur], "lampe_wagen" + nummer));
         auto_nummer->addWidget(binder().label(logik_.wagen[spur], "wagen" + nummer), 1);
         raster->addLayout(auto_nummer, spur, 0);
         raster->addWidget(binder().label(logik_.rundenanzeige[spur], "rundenanzeige" + nummer), spur, 1);
         raster->addWidget(binder().label(logik_.zeitanzeige[spur], "zeitanzeige" + nummer), spur, 2);
         raster->addWidget(binder().label(logik_.tank[spur], "tank" + nummer), spur, 3);
-        raster->addWidget(lampe(logik_.Shape1[spur], "Shape1" + nummer), spur, 4);
+        raster->addWidget(lampe(binder(), logik_.Shape1[spur], "Shape1" + nummer), spur, 4);
         QComboBox* groesse = binder().auswahlfeld(logik_.cbo_cu_tankgroesse[spur], "cbo_cu_tankgroesse" + nummer);
         groesse->setMinimumContentsLength(2);
         groesse->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

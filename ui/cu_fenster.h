@@ -2,12 +2,9 @@
 
 #include "ui/fenster.h"
 
-class QLabel;
-
 namespace tarvel {
 class cu_eigenschaften;
-class form;
-}  // namespace tarvel
+}
 
 namespace tarvel::ui {
 
@@ -23,7 +20,6 @@ private:
     QWidget* statusgruppe();
     QWidget* befehlsgruppe();
     QWidget* codiergruppe();
-    QLabel* lampe(form& licht, const QString& name);
 
     cu_eigenschaften& logik_;
 };

@@ -6,6 +6,7 @@
 
 #include "core/dateien.h"
 #include "hardware/frm_main.h"
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -76,14 +77,10 @@ QWidget* FrmMainFenster::standardgruppe(const dateien& ablage) {
     return kasten;
 }
 
-void FrmMainFenster::eingangszeile(QGridLayout* raster, int zeile, form& lampe, bezeichnung& name, auswahl& wahl,
+void FrmMainFenster::eingangszeile(QGridLayout* raster, int zeile, form& licht, bezeichnung& name, auswahl& wahl,
                                    const QString& wort) {
     const QString nummer = "_" + QString::number(zeile);
-    auto* licht = new QLabel(this);
-    licht->setFixedSize(18, 18);
-    binder().verbinden(lampe, licht, "lampe_" + wort + nummer,
-                       [&lampe, licht] { stil::fleck_faerben(licht, lampe.hintergrund().value_or(0)); });
-    raster->addWidget(licht, zeile, 0);
+    raster->addWidget(lampe(binder(), licht, "lampe_" + wort + nummer), zeile, 0);
     raster->addWidget(binder().label(name, "Label_" + wort + nummer), zeile, 2);
     QComboBox* liste = binder().auswahlfeld(wahl, "tx_" + wort + "_liste" + nummer);
     liste->setMinimumContentsLength(13);

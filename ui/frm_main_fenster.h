@@ -24,7 +24,7 @@ private:
     QWidget* standardgruppe(const dateien& ablage);
     QWidget* ausgangsgruppe();
     QWidget* meldungsgruppe();
-    void eingangszeile(QGridLayout* raster, int zeile, form& lampe, bezeichnung& name, auswahl& wahl,
+    void eingangszeile(QGridLayout* raster, int zeile, form& licht, bezeichnung& name, auswahl& wahl,
                        const QString& wort);
 
     frm_main& logik_;

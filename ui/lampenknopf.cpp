@@ -18,10 +18,13 @@ Lampenknopf::Lampenknopf(const QColor& farbe, bool schaltet, QWidget* eltern) : 
 
 void Lampenknopf::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
-    lampe_malen(maler, QRectF(rect()).adjusted(2, 2, -2, -2), farbe_, isChecked());
+    const QRectF rund = QRectF(rect()).adjusted(2, 2, -2, -2);
+    lampe_malen(maler, rund, farbe_, isChecked());
+    maler.setPen(stil::auf_dem_schirm().schrift_leise);  // one that is out is seen in a dark window too
+    maler.setBrush(Qt::NoBrush);
+    maler.drawEllipse(rund.adjusted(0.5, 0.5, -0.5, -0.5));
     if (hasFocus()) {
         maler.setPen(stil::akzent);
-        maler.setBrush(Qt::NoBrush);
         maler.drawRoundedRect(rect().adjusted(0, 0, -1, -1), 4, 4);
     }
 }
@@ -37,6 +40,20 @@ Lampenknopf* lampe(Binder& binder, haken& element, const QString& name, bool sch
     }
     binder.verbinden(element, knopf, name, [&element, knopf] { knopf->setChecked(element.gesetzt()); });
     return knopf;
+}
+
+QLabel* lampe(Binder& binder, form& element, const QString& name, int kante) {
+    auto* fleck = new QLabel;
+    fleck->setProperty("rolle", "lampe");
+    fleck->setFixedSize(kante, kante);
+    binder.verbinden(element, fleck, name, [&element, fleck] {
+        if (const auto farbe = element.hintergrund()) {
+            stil::fleck_faerben(fleck, *farbe);
+        } else {
+            fleck->setStyleSheet({});  // as the window is, light or dark
+        }
+    });
+    return fleck;
 }
 
 }  // namespace tarvel::ui

@@ -24,4 +24,7 @@ private:
 /// With `schaltet` the operator turns the control over.
 Lampenknopf* lampe(Binder& binder, haken& element, const QString& name, bool schaltet);
 
+/// A patch of this size that is lit in the colour of its control; without one it is out.
+QLabel* lampe(Binder& binder, form& element, const QString& name, int kante = 18);
+
 }  // namespace tarvel::ui

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "hardware/rc_einstellungen.h"
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -62,15 +63,10 @@ QWidget* RcFenster::sensorgruppe() {
     int zeile = 0;
     for (auto& eine : logik_.sensoren) {
         const QString nummer = "_" + QString::number(++zeile);
-        auto* lampe = new QLabel(kasten);
-        lampe->setFixedSize(lampe_px, lampe_px);
-        binder().verbinden(eine.SensorLED, lampe, "SensorLED" + nummer, [&licht = eine.SensorLED, lampe] {
-            stil::fleck_faerben(lampe, licht.hintergrund().value_or(0));
-        });
         QComboBox* spur = binder().auswahlfeld(eine.selSpur, "selSpur" + nummer);
         spur->setMinimumWidth(spalte_px);
         raster->addWidget(binder().label(eine.name, "sensor" + nummer), zeile, 0);
-        raster->addWidget(lampe, zeile, 1);
+        raster->addWidget(lampe(binder(), eine.SensorLED, "SensorLED" + nummer, lampe_px), zeile, 1);
         raster->addWidget(spur, zeile, 2);
         raster->addWidget(binder().label(eine.SensorTime, "SensorTime" + nummer), zeile, 3);
         raster->addWidget(binder().label(eine.SensorTimeStamp, "SensorTimeStamp" + nummer), zeile, 4);

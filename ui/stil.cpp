@@ -46,6 +46,7 @@ QPushButton[rolle="haupt"]:disabled { background: @blassakzent; border-color: @l
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
 QLabel[rolle="leise"] { color: @leise; }
 QLabel[rolle="warnung"] { color: @akzent; }
+QLabel[rolle="lampe"] { background: @linie; border: 1px solid @rand; border-radius: 4px; }
 QListView { outline: none; }
 QListView::item { padding: 3px 6px; border: 0px solid transparent; border-radius: 3px; }
 QListView::item:selected { background: @vollakzent; color: white; }

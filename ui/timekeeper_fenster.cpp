@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "hardware/tk_einstellungen.h"
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -73,11 +74,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         }
         auto& k = logik_.kanaele.at(i);
         const QString nummer = "_" + QString::number(i + 1);
-        auto* lampe = new QLabel(kasten);
-        lampe->setFixedSize(lampengroesse, lampengroesse);
-        binder().verbinden(k.lampe, lampe, "lampe" + nummer,
-                           [&k, lampe] { stil::fleck_faerben(lampe, k.lampe.hintergrund().value_or(0)); });
-        raster->addWidget(lampe, reihe, 0);
+        raster->addWidget(lampe(binder(), k.lampe, "lampe" + nummer, lampengroesse), reihe, 0);
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -42,12 +43,8 @@ UartProbeFenster::UartProbeFenster(uart_probe& logik, Fensterverwaltung& verwalt
 QHBoxLayout* UartProbeFenster::kanal(int zeile) {
     auto& eine = logik_.kanaele.at(static_cast<std::size_t>(zeile) - 1);
     const QString nummer = "_" + QString::number(zeile);
-    auto* lampe = new QLabel(this);
-    lampe->setFixedSize(probelampe, probelampe);
-    binder().verbinden(eine.lampe, lampe, "lampe" + nummer,
-                       [&eine, lampe] { stil::fleck_faerben(lampe, eine.lampe.hintergrund().value_or(0)); });
     auto* reihe = new QHBoxLayout;
-    reihe->addWidget(lampe);
+    reihe->addWidget(lampe(binder(), eine.lampe, "lampe" + nummer, probelampe));
     reihe->addWidget(binder().label(eine.ereignis, "ereignis" + nummer), 1);
     return reihe;
 }
