@@ -27,7 +27,11 @@ einstellungsfenster::einstellungsfenster(umgebung um, listen l)
       fahrzeugseite({um.ablage, um.txt, um.meldungen, um.dateiwahl, um.bilder},
                     {l.fahrzeuge, l.fahrzeug_datei, um.txt.standardfahrzeug_text, ".kfz", "Fahrzeugverwaltung",
                      "Fahrzeugliste voll.", "neues Fahrzeugbild zuordnen", 6, 7, 2}),
-      um_(um) {
+      um_(um),
+      nebendateien_{nebendatei::mit<&einstellungen::trennzeichen, trennzeichen_speichern>(),
+                    nebendatei::mit<&einstellungen::gruppen, gruppenwahl_speichern>(),
+                    nebendatei::mit<&einstellungen::anzeige, erscheinung_speichern>(),
+                    nebendatei::mit<&einstellungen::rennbild, rennbildwahl_speichern>()} {
     seiten_[seite_start_ziel] = optionsseiten::start_ziel();
     seiten_[seite_wettkampf] = optionsseiten::wettkampf_training();
     seiten_[seite_tanken] = optionsseiten::tanken_chaos();
@@ -80,9 +84,11 @@ sprachliste einstellungsfenster::sprache_e() {
     texte.text("Hier steht keine Zahl.", keine_zahl_);
     texte.text("Dieses Gerät kann das Programm noch nicht ansprechen. Die Tastatur zählt.", hardware_hinweis);
     texte.text("Tarvel 4x4 USB / Digital", text_4x4_);
-    texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", gruppen_fehler_);
-    texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.", anzeige_fehler_);
-    return texte.text("Die Wahl für den Rennbildschirm gilt, konnte aber nicht gespeichert werden.", rennbild_fehler_);
+    texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", nebendateien_[datei_gruppen].fehler);
+    texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.",
+               nebendateien_[datei_anzeige].fehler);
+    return texte.text("Die Wahl für den Rennbildschirm gilt, konnte aber nicht gespeichert werden.",
+                      nebendateien_[datei_rennbild].fehler);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -163,8 +169,10 @@ void einstellungsfenster::laden() {
             z.element);
     });
     fuer_alle_zeilen([this](optionszeile& eine) { erklaeren(eine); });
-    trennzeichen_fehlen_ = !trennzeichen_laden(um_.ablage, um_.ziel.einst.trennzeichen);
-    if (trennzeichen_fehlen_) {
+    nebendatei& trennzeichen = nebendateien_[datei_trennzeichen];
+    trennzeichen.fehler = um_.txt.meldung[24];
+    trennzeichen.offen = !trennzeichen_laden(um_.ablage, um_.ziel.einst.trennzeichen);
+    if (trennzeichen.offen) {
         um_.ziel.einst.trennzeichen = trennzeichen_standard;
         um_.meldungen.zeigen(um_.txt.meldung[25], um_.txt.titel[1]);
     }
@@ -329,30 +337,19 @@ void einstellungsfenster::sektoranzeige_trennen() {
     }
 }
 
-/// What has files of its own. What could not be kept is tried again the next time.
+/// What could not be kept is tried again the next time.
 bool einstellungsfenster::nebendateien_speichern(const einstellungen& vorher) {
-    const einstellungen& einst = um_.ziel.einst;
-    const auto sichern = [this](bool& offen, bool geaendert, const auto& schreiben, const std::string& meldung) {
-        if (offen || geaendert) {
-            offen = !schreiben();
-            if (offen) {
-                um_.meldungen.zeigen(meldung, um_.txt.titel[1]);
-            }
+    bool gut = true;
+    for (nebendatei& eine : nebendateien_) {
+        if (eine.offen || !eine.gleich(um_.ziel.einst, vorher)) {
+            eine.offen = !eine.schreiben(um_.ablage, um_.ziel.einst);
         }
-    };
-    sichern(
-        trennzeichen_fehlen_, einst.trennzeichen != vorher.trennzeichen,
-        [&] { return trennzeichen_speichern(um_.ablage, einst.trennzeichen); }, um_.txt.meldung[24]);
-    sichern(
-        gruppen_ungesichert_, einst.gruppen != vorher.gruppen,
-        [&] { return gruppenwahl_speichern(um_.ablage, einst.gruppen); }, gruppen_fehler_);
-    sichern(
-        anzeige_ungesichert_, einst.anzeige != vorher.anzeige,
-        [&] { return erscheinung_speichern(um_.ablage, einst.anzeige); }, anzeige_fehler_);
-    sichern(
-        rennbild_ungesichert_, einst.rennbild != vorher.rennbild,
-        [&] { return rennbildwahl_speichern(um_.ablage, einst.rennbild); }, rennbild_fehler_);
-    return !trennzeichen_fehlen_ && !gruppen_ungesichert_ && !anzeige_ungesichert_ && !rennbild_ungesichert_;
+        if (eine.offen) {
+            um_.meldungen.zeigen(eine.fehler, um_.txt.titel[1]);
+        }
+        gut = gut && !eine.offen;
+    }
+    return gut;
 }
 
 void einstellungsfenster::Command1_Click() {
@@ -371,57 +368,6 @@ void einstellungsfenster::Command1_Click() {
         um_.fenster.entladen(fenstername::einstellungen);
     } else {
         werte_zeigen();
-    }
-}
-
-void einstellungsfenster::sprachwahl_verbinden() {
-    optionszeile& eine = zeile("sprache");
-    auto* wahl = &std::get<auswahl>(eine.element);
-    eine.zeigen = [this, wahl](const einstellungs_ziel& z) {
-        sprachordner_ = sprachordner_finden(um_.ablage);
-        std::vector<std::string> namen;
-        std::transform(sprachordner_.begin(), sprachordner_.end(), std::back_inserter(namen), sprachname);
-        wahl->eintraege(namen);
-        const auto jetzt = std::find(sprachordner_.begin(), sprachordner_.end(), z.einst.anzeige.sprachordner);
-        wahl->platz(jetzt == sprachordner_.end() ? -1 : static_cast<int>(jetzt - sprachordner_.begin()));
-        // Empty places and drivers have names of the language: during an evening they are all of one.
-        constexpr std::array am_abend{fenstername::wettkampf1, fenstername::wettkampf2, fenstername::w_auswertung,
-                                      fenstername::Tagesrennen};
-        wahl->aktiviert(std::none_of(am_abend.begin(), am_abend.end(),
-                                     [this](fenstername name) { return um_.fenster.ist_offen(name); }));
-    };
-    eine.uebernehmen = [this, wahl](const einstellungs_ziel& z, const auto&) {
-        if (wahl->platz() >= 0) {
-            z.einst.anzeige.sprachordner = sprachordner_.at(static_cast<std::size_t>(wahl->platz()));
-        }
-    };
-}
-
-void einstellungsfenster::sounds_verbinden() {
-    for (int nummer = 1; nummer <= sounds_max; ++nummer) {
-        auto& sound = std::get<soundfeld>(zeile("sound_dateien_" + std::to_string(nummer)).element);
-        sounds_.push_back(&sound);
-        sound.abspielen.text("▶");
-        sound.abspielen.bei_klick = [this, &sound] { um_.klang.spielen(sound.datei.text()); };
-        sound.datei.bei_aenderung = [this, &sound] {
-            sound.abspielen.aktiviert(um_.ablage.gibt_es(sound.datei.text()));
-        };
-    }
-}
-
-void einstellungsfenster::sounds_auffrischen() {
-    std::string ordner(gekuerzt(std::get<feld>(zeile("sound_ordner").element).text()));
-    if (ordner.empty()) {
-        ordner = "sound";
-    }
-    const std::string davor = ordner + "\\";
-    std::vector<std::string> vorhanden;
-    for (const std::string& datei : um_.ablage.auflisten(ordner, "", ".wav")) {
-        vorhanden.push_back(davor + datei);
-    }
-    for (soundfeld* sound : sounds_) {
-        sound->datei.eintraege(vorhanden);
-        sound->datei.bei_aenderung();
     }
 }
 

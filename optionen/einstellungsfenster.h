@@ -127,6 +127,29 @@ private:
 
     umgebung um_;
     std::array<optionsseite_zeiger, seiten_anzahl> seiten_;
+    /// A small file beside that of the settings, with an option's value.
+    struct nebendatei {
+        bool (*gleich)(const einstellungen& eine, const einstellungen& andere);
+        bool (*schreiben)(const dateien& ablage, const einstellungen& einst);
+        std::string fehler;  ///< said when it could not be written
+        bool offen = false;  ///< it could not be read or written, and is written the next time
+
+        template <auto Wert, auto Schreiben>
+        static nebendatei mit() {
+            return {[](const einstellungen& eine, const einstellungen& andere) { return eine.*Wert == andere.*Wert; },
+                    [](const dateien& ablage, const einstellungen& einst) { return Schreiben(ablage, einst.*Wert); },
+                    {},
+                    false};
+        }
+    };
+    enum nebendatei_nummer : std::size_t {
+        datei_trennzeichen,
+        datei_gruppen,
+        datei_anzeige,
+        datei_rennbild,
+        nebendateien_anzahl
+    };
+
     std::vector<std::string> sprachordner_;  ///< in the order of the choice
     std::vector<soundfeld*> sounds_;         ///< in the order of their numbers, from 1 on at index 0
     std::vector<std::string> erklaerungen_;  ///< as the table of them
@@ -134,14 +157,8 @@ private:
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;
     std::string keine_zahl_;
-    std::string text_4x4_;              ///< of its tick box; elsewhere it has its short name
-    bool trennzeichen_fehlen_ = false;  ///< their file could not be read, and is written anew
-    bool gruppen_ungesichert_ = false;
-    std::string gruppen_fehler_;
-    bool anzeige_ungesichert_ = false;
-    std::string anzeige_fehler_;
-    bool rennbild_ungesichert_ = false;
-    std::string rennbild_fehler_;
+    std::string text_4x4_;  ///< of its tick box; elsewhere it has its short name
+    std::array<nebendatei, nebendateien_anzahl> nebendateien_;
     std::optional<schemawahl> schema_;  ///< these two once their rows are there
     std::optional<gruppenkaesten> gruppen_;
 };
