@@ -24,8 +24,13 @@ void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
 
 }  // namespace
 
-w_auswertung::w_auswertung(const fenster_umgebung& um, const einstellungen& einst, wettkampfabend& abend)
-    : fensterlogik(um.fenster, um.ablage, fenstername::w_auswertung), um_(um), einst_(einst), abend_(abend) {
+w_auswertung::w_auswertung(const fenster_umgebung& um, const einstellungen& einst, wettkampfabend& abend,
+                           urkundenfenster& urkunden)
+    : fensterlogik(um.fenster, um.ablage, fenstername::w_auswertung),
+      um_(um),
+      einst_(einst),
+      abend_(abend),
+      urkunden_(urkunden) {
     abend_.ansicht_anmelden(*this);
     befehle_verbinden();
 }
@@ -36,6 +41,7 @@ void w_auswertung::befehle_verbinden() {
     Command_schliessen.bei_klick = [this] { schliessen(); };
     weitergeben(Command_drucken, drucken);
     weitergeben(Command_pdf, als_pdf);
+    Command_urkunden.bei_klick = [this] { urkunden_zeigen(); };
     for (liste* einer : listen()) {
         einer->bei_auswahl = [this, einer] { auswaehlen(einer->markiert()); };
     }
@@ -55,7 +61,9 @@ sprachliste w_auswertung::sprache_w3() {
     texte.text("Runden je Spur", Label_balken);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
-    return blattwort_.eintragen(texte);
+    blattwort_.eintragen(texte);
+    texte.text("Urkunden", Command_urkunden);
+    return texte.tipp("Eine Urkunde für jeden Fahrer nach der Rangliste", Command_urkunden);
 }
 
 std::vector<liste*> w_auswertung::listen() {
@@ -92,6 +100,7 @@ void w_auswertung::stand_zeigen() {
     Label_stand.text(aktiv ? w.wettkampf_name + "  –  " + blattwort_.stand_von(w) : wort_.kein_wettkampf);
     Command_drucken.aktiviert(aktiv);
     Command_pdf.aktiviert(aktiv);
+    Command_urkunden.aktiviert(aktiv);
     fahrer_ = aktiv ? fahrer_in_rangfolge(w, w.wertung) : std::vector<int>{};
     zeilen_zeigen();
     balken_zeigen();
@@ -185,6 +194,24 @@ void w_auswertung::blaettern_zeigen() {
 
 wettkampfblatt w_auswertung::blatt() const {
     return wettkampfblatt_bilden(abend_.stand(), blattwort_, einst_.farben_spur, einst_.trennzeichen);
+}
+
+void w_auswertung::urkunden_zeigen() {
+    const wettkampf& w = abend_.stand();
+    const auto staende = w.staende();
+    std::vector<tabellenplatz> plaetze;
+    for (const int platz : fahrer_in_rangfolge(w, w.wertung)) {
+        const fahrt& alles = staende.at(static_cast<std::size_t>(platz - 1)).auf.front();
+        plaetze.push_back({static_cast<int>(plaetze.size()) + 1,
+                           w.name(platz),
+                           {},
+                           alles.runden,
+                           als_meter(alles.meter),
+                           alles.beste,
+                           alles.zeit});
+    }
+    urkunden_.oeffnen(std::move(plaetze), w.beginn, w.wettkampf_name,
+                      blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
 }
 
 std::string w_auswertung::blatt_datei() const {

@@ -10,6 +10,7 @@
 #include "core/fensterlogik.h"
 #include "core/fensterumgebung.h"
 #include "core/steuerelemente.h"
+#include "results/urkundenfenster.h"
 
 namespace tarvel {
 
@@ -17,7 +18,8 @@ namespace tarvel {
 /// belong together. The columns of `je` are the lanes from 1 on, or the heats where each meets each.
 class w_auswertung final : public fensterlogik, private abendansicht {
 public:
-    w_auswertung(const fenster_umgebung& um, const einstellungen& einst, wettkampfabend& abend);
+    w_auswertung(const fenster_umgebung& um, const einstellungen& einst, wettkampfabend& abend,
+                 urkundenfenster& urkunden);
 
     static constexpr std::size_t je_max = jeder_zeile::heats_max;
 
@@ -39,6 +41,7 @@ public:
     befehl Command2;    ///< and to those behind
     befehl Command_drucken;
     befehl Command_pdf;
+    befehl Command_urkunden;  ///< of the standing as it is
     befehl Command_schliessen;
 
     /// Print the standing or save it as pages; filled by the drawing.
@@ -78,11 +81,13 @@ private:
     void balken_zeigen();
     void auswaehlen(int zeile);
     void blaettern(int seiten);
+    void urkunden_zeigen();
     void blaettern_zeigen();
 
     fenster_umgebung um_;
     const einstellungen& einst_;
     wettkampfabend& abend_;
+    urkundenfenster& urkunden_;
     worte wort_;
     wettkampfblatt_worte blattwort_;
     std::vector<wettkampf_balken> balken_;

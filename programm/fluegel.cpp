@@ -74,7 +74,7 @@ wettkampffluegel::wettkampffluegel(programm& p, rennfluegel& r, ergebnisfluegel&
                   o.fahrerspeichernfenster, o.fahrerbild_laden, p.dienste.zufall, wettkampfablauf}),
       wettkampf2(fensterwelt(p), p.einst, p.param, p.fahrerliste, wettkampfabend, wettkampfablauf),
       rangliste(fensterwelt(p), p.einst, wettkampfabend),
-      w_auswertung(fensterwelt(p), p.einst, wettkampfabend),
+      w_auswertung(fensterwelt(p), p.einst, wettkampfabend, e.urkunden),
       tagesrennen_fenster({fensterwelt(p), p.einst, p.einrichtung, p.form1, p.fahrerliste, p.zuletzt_gefahren,
                            p.dienste.zeitgeber, tagesfolgen}) {
     wettkampfablauf.vorbereitung = &wettkampf1;

@@ -40,6 +40,24 @@ std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment) {
     return stempel;
 }
 
+std::string datum_im_namen(std::string_view pfad) {
+    constexpr std::size_t tag = 8;
+    constexpr std::size_t uhrzeit = 5;
+    const auto ziffern_an = [&pfad](std::size_t ab, std::size_t anzahl) {
+        return pfad.substr(ab, anzahl).find_first_not_of("0123456789") == std::string_view::npos;
+    };
+    for (std::size_t strich = pfad.find('-', tag); strich != std::string_view::npos;
+         strich = pfad.find('-', strich + 1)) {
+        const std::size_t ab = strich - tag;
+        const bool ganz = strich + uhrzeit < pfad.size() && ziffern_an(ab, tag) && ziffern_an(strich + 1, uhrzeit);
+        if (ganz && (ab == 0 || !ziffern_an(ab - 1, 1))) {
+            const std::string t(pfad.substr(ab, tag));
+            return t.substr(0, 2) + "." + t.substr(2, 2) + "." + t.substr(4);
+        }
+    }
+    return {};
+}
+
 std::string ohne_trenner(std::string text, const std::string& trenner) {
     const std::string ersatz = trenner == " " ? "_" : " ";
     std::size_t stelle = text.find(trenner);

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "results/ergebnissortierung.h"
 #include "results/ergebnistexte.h"
+#include "results/fahrer_addieren.h"
 
 namespace tarvel {
 namespace {
@@ -29,27 +31,35 @@ double laenge_von(const rennergebnis::spur& s) {
     return zahl_lesen(text);
 }
 
-urkunde urkunde_fuer(const rennergebnis& ergebnis, const rennergebnis::spur& s, const urkundenangaben& angaben) {
+/// What every certificate says, of whatever it is.
+urkunde urkunde_mit(int platz, std::string_view datum, std::string_view fahrer, std::size_t teilnehmer,
+                    const urkundenangaben& angaben) {
     urkunde u;
-    u.spur = s.nummer;
-    const bool gewertet = s.rundenzahl() > 0 && !s.disqualifiziert;
-    u.platz = gewertet ? s.platz.value_or(0) : 0;
-    const auto setzen = [&u](urkundenwort w, std::string text) {
-        u.worte.at(static_cast<std::size_t>(w)) = std::move(text);
-    };
+    u.platz = platz;
     using w = urkundenwort;
-    setzen(w::verein, angaben.kopf.verein);
-    setzen(w::veranstaltung, angaben.kopf.veranstaltung);
-    setzen(w::rennen, angaben.rennen);
-    setzen(w::datum, ergebnis.datum);
-    setzen(w::fahrer, s.fahrer);
+    u.setzen(w::verein, angaben.kopf.verein);
+    u.setzen(w::veranstaltung, angaben.kopf.veranstaltung);
+    u.setzen(w::rennen, angaben.rennen);
+    u.setzen(w::datum, datum);
+    u.setzen(w::fahrer, fahrer);
+    u.setzen(w::platz, platz > 0 ? std::to_string(platz) : "");
+    u.setzen(w::platzwort, platz > 0 ? std::to_string(platz) + ". " + angaben.platz : angaben.ohne_platz);
+    u.setzen(w::teilnehmer, std::to_string(teilnehmer));
+    return u;
+}
+
+urkunde urkunde_fuer(const rennergebnis& ergebnis, const rennergebnis::spur& s, const urkundenangaben& angaben) {
+    const bool gewertet = s.rundenzahl() > 0 && !s.disqualifiziert;
+    urkunde u =
+        urkunde_mit(gewertet ? s.platz.value_or(0) : 0, ergebnis.datum, s.fahrer, ergebnis.spuren.size(), angaben);
+    u.spur = s.nummer;
+    const auto setzen = [&u](urkundenwort w, std::string_view text) { u.setzen(w, text); };
+    using w = urkundenwort;
     setzen(w::fahrzeug, s.fahrzeug);
-    setzen(w::platz, u.platz > 0 ? std::to_string(u.platz) : std::string());
-    setzen(w::platzwort, u.platz > 0 ? std::to_string(u.platz) + ". " + angaben.platz : angaben.ohne_platz);
-    setzen(w::teilnehmer, std::to_string(ergebnis.spuren.size()));
+    setzen(w::klasse, s.klasse);
     setzen(w::spur, std::to_string(s.nummer));
     setzen(w::strecke, laenge_von(s) > 0 ? meter_kurz(laenge_von(s)) : std::string());
-    setzen(w::runden, s.disqualifiziert ? std::string("–") : std::to_string(s.rundenzahl()));
+    setzen(w::runden, s.disqualifiziert ? "–" : std::to_string(s.rundenzahl()));
     if (gewertet) {
         setzen(w::meter, ergebnistext::meter(s));
         setzen(w::gesamtzeit, ergebnistext::zeit(s, angaben.trennzeichen));
@@ -84,6 +94,58 @@ std::vector<urkunde> urkunden_bilden(const rennergebnis& ergebnis, const urkunde
         urkunden.push_back(urkunde_fuer(ergebnis, s, angaben));
     }
     return urkunden;
+}
+
+std::vector<urkunde> urkunden_bilden(const std::vector<tabellenplatz>& plaetze, const std::string& datum,
+                                     const urkundenangaben& angaben) {
+    using w = urkundenwort;
+    std::vector<urkunde> urkunden;
+    urkunden.reserve(plaetze.size());
+    for (const tabellenplatz& p : plaetze) {
+        const auto in_klasse = std::count_if(plaetze.begin(), plaetze.end(),
+                                             [&p](const tabellenplatz& einer) { return einer.klasse == p.klasse; });
+        urkunde u =
+            urkunde_mit(p.runden > 0 ? p.platz : 0, datum, p.fahrer, static_cast<std::size_t>(in_klasse), angaben);
+        if (!p.klasse.empty()) {
+            u.setzen(w::klasse, p.klasse);
+            u.setzen(w::rennen, angaben.rennen + "  ·  " + angaben.klasse + " " + p.klasse);
+        }
+        u.setzen(w::runden, std::to_string(p.runden));
+        u.setzen(w::meter, p.meter > 0 ? zahl_fest(p.meter, ',') + " m" : "");
+        u.setzen(w::beste, rundenzeit(p.beste, angaben.trennzeichen));
+        u.setzen(w::gesamtzeit, p.gesamtzeit > 0 ? ergebniszeit(p.gesamtzeit, angaben.trennzeichen) : "");
+        urkunden.push_back(std::move(u));
+    }
+    return urkunden;
+}
+
+std::vector<tabellenplatz> plaetze_von(const ergebnistabelle& tabelle, sortier_modus nach,
+                                       const std::set<std::string>& ohne_klassen) {
+    ergebnistabelle summe = tabelle;
+    const bool laeufe = summe.typ == ergebnis_typ::tagesrennen && !summe.addiert;  // its lines are races, not drivers
+    if (laeufe) {
+        gleiche_fahrer_addieren(summe, true);
+    }
+    if (laeufe || summe.typ == ergebnis_typ::jeder_gegen_jeden) {  // whose file has the order of the start list
+        sortieren(summe, nach);
+    }
+    std::vector<tabellenplatz> plaetze;
+    for (const ergebniszeile& zeile : summe.zeilen) {
+        const auto fahrer = zeile.ergebnis ? fahrerzeile_von(summe, zeile) : std::nullopt;
+        if (!fahrer) {
+            continue;
+        }
+        const auto& [felder, spalten] = *fahrer;
+        const zeilenwerte werte = werte_von(felder, spalten, summe.trennzeichen);
+        const std::string klasse = spalten.klasse && felder[*spalten.klasse] != "0" ? felder[*spalten.klasse] : "";
+        if (spalten.klasse && ohne_klassen.contains(felder[*spalten.klasse])) {
+            continue;
+        }
+        const auto im_feld = spalten.platz ? static_cast<int>(ganzzahl_lesen(felder[*spalten.platz], 0, 99999)) : 0;
+        plaetze.push_back({zeile.platz > 0 ? zeile.platz : im_feld, felder[spalten.name], klasse, werte.runden,
+                           werte.meter, werte.beste, werte.gesamtzeit});
+    }
+    return plaetze;
 }
 
 }  // namespace tarvel

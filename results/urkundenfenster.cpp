@@ -19,6 +19,16 @@ std::string eigenes_bild(const namensliste& namen, const dateien& ablage, const 
     return datei == art.bildordner + "/" + art.standardbild ? std::string() : datei;
 }
 
+/// Tables of competitions hold no more of a name.
+std::string ganzer_name(const namensliste& namen, const std::string& name) {
+    constexpr std::size_t geschrieben = 15;
+    const auto& alle = namen.eintraege();
+    const auto beginnt = [&name](const listeneintrag& e) { return e.name.starts_with(name); };
+    const auto erster = std::find_if(alle.begin(), alle.end(), beginnt);
+    const bool einer = erster != alle.end() && std::none_of(erster + 1, alle.end(), beginnt);
+    return laenge(name) == geschrieben && einer ? erster->name : name;
+}
+
 }  // namespace
 
 urkundenfenster::urkundenfenster(const umfeld& um)
@@ -31,9 +41,14 @@ urkundenfenster::urkundenfenster(const umfeld& um)
         };
     }
     vorlage.bei_aenderung = [this] { vorlage_waehlen(); };
-    for (haken& einer : fahrer) {
-        einer.bei_aenderung = [this] { seite_zeigen(); };
-    }
+    fahrer.bei_auswahl = [this] {
+        seite_ = static_cast<std::size_t>(std::max(fahrer.markiert(), 0));
+        seite_zeigen();
+    };
+    fahrer.bei_doppelklick = [this] { markierten_umschalten(); };
+    dabei.bei_aenderung = [this] { markierten_umschalten(); };
+    Command_alle.bei_klick = [this] { alle_waehlen(true); };
+    Command_keiner.bei_klick = [this] { alle_waehlen(false); };
     Command_zurueck.bei_klick = [this] { blaettern(-1); };
     Command_vor.bei_klick = [this] { blaettern(1); };
     weitergeben(Command_drucken, drucken);
@@ -57,26 +72,50 @@ sprachliste urkundenfenster::sprache_u() {
     texte.text("Als PDF speichern", Command_pdf).text("Schließen", Command_ende);
     texte.tipp("Steht auf den Urkunden und über den Ergebnisblättern", verein);
     texte.tipp("Steht auf den Urkunden und über den Ergebnisblättern", veranstaltung);
-    texte.tipp("Die Dateien im Ordner Urkunden; wie eine Vorlage aussieht, steht in urkunde.txt", vorlage);
+    texte.tipp(
+        "Die Dateien im Ordner Urkunden; wie eine Vorlage aussieht, steht in urkunde.txt. Jede Sprache merkt sich "
+        "ihre.",
+        vorlage);
     texte.tipp("Vorige Urkunde", Command_zurueck).tipp("Nächste Urkunde", Command_vor);
     texte.text("eingebaut", wort_.eingebaut).text("Platz", wort_.platz).text("Teilgenommen", wort_.ohne_platz);
     texte.text("Die Vorlage ist nicht lesbar. Die eingebaute tritt an ihre Stelle.", wort_.vorlage_fehlt);
     texte.text("Die Vorlage hat einen Fehler, und die eingebaute tritt an ihre Stelle. Zeile:", wort_.vorlage_fehler);
     texte.text("Die Namen von Verein und Veranstaltung konnten nicht gespeichert werden.", wort_.schreibfehler);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
-    return texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
+    texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
+    texte.text("bekommt eine Urkunde", dabei).text("alle", Command_alle).text("keiner", Command_keiner);
+    texte.tipp("Enter oder ein Doppelklick gibt oder nimmt die Urkunde", fahrer);
+    texte.text("Klasse", wort_.klasse).text("URKUNDE", titel_.urkunde).text("Runden", titel_.runden);
+    texte.text("beste Runde", titel_.beste).text("Gesamtzeit", titel_.gesamtzeit).text("Datum", titel_.datum);
+    return texte.text("Rennleitung", titel_.rennleitung);
 }
 
 void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& rennen, const std::string& datei) {
+    bilden_ = [ergebnis](const urkundenangaben& angaben) { return urkunden_bilden(ergebnis, angaben); };
+    aufschlagen(rennen, datei);
+}
+
+void urkundenfenster::oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen,
+                              const std::string& datei) {
+    for (tabellenplatz& einer : plaetze) {
+        einer.fahrer = ganzer_name(um_.fahrer, einer.fahrer);
+    }
+    bilden_ = [plaetze = std::move(plaetze), datum](const urkundenangaben& angaben) {
+        return urkunden_bilden(plaetze, datum, angaben);
+    };
+    aufschlagen(rennen, datei);
+}
+
+void urkundenfenster::aufschlagen(const std::string& rennen, const std::string& datei) {
     um_.welt.fenster.laden(kennung());
-    ergebnis_ = ergebnis;
     datei_ = datei;
-    gespeichert_ = papierkopf_laden(um_.welt.ablage);
-    angaben_ = {gespeichert_, rennen, wort_.platz, wort_.ohne_platz, um_.einst.trennzeichen};
+    gespeichert_ = papierkopf_laden(um_.welt.ablage, um_.einst.anzeige.sprachordner);
+    angaben_ = {gespeichert_, rennen, wort_.platz, wort_.ohne_platz, um_.einst.trennzeichen, wort_.klasse};
     Command_zurueck.text("◀");
     Command_vor.text("▶");
     Command_zurueck.ansage(Command_zurueck.tipp());
     Command_vor.ansage(Command_vor.tipp());
+    fahrer.ansage(Frame_fahrer.text());
     verein.text(gespeichert_.verein);
     veranstaltung.text(gespeichert_.veranstaltung);
     std::vector<std::string> vorlagen = um_.welt.ablage.auflisten(urkunden_ordner, "", ".txt");
@@ -84,23 +123,42 @@ void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& r
     vorlage.eintraege(vorlagen);
     seite_ = 0;
     neu_bilden();
-    for (std::size_t i = 0; i < fahrer.size(); ++i) {
-        const bool da = i < urkunden_.size();
-        fahrer.at(i).sichtbar(da);
-        fahrer.at(i).gesetzt(da && urkunden_[i].platz > 0);
-        fahrer.at(i).text(da ? urkunden_[i].wort(urkundenwort::platzwort) + "  ·  " +
-                                   urkunden_[i].wort(urkundenwort::fahrer)
-                             : std::string());
-    }
+    gewaehlt_.assign(urkunden_.size(), false);
+    std::transform(urkunden_.begin(), urkunden_.end(), gewaehlt_.begin(), [](const urkunde& u) { return u.platz > 0; });
+    zeilen_schreiben();
     um_.welt.fenster.zeigen(kennung(), anzeige_art::modal);
     vorlage_laden(gespeichert_.vorlage);
     seite_zeigen();
     Command_pdf.fokus_setzen();
 }
 
+void urkundenfenster::zeilen_schreiben() {
+    fahrer.leeren();
+    for (std::size_t i = 0; i < urkunden_.size(); ++i) {
+        fahrer.hinzufuegen((gewaehlt_[i] ? "✓  " : "–  ") + urkunden_[i].wort(urkundenwort::platzwort) + "  ·  " +
+                           urkunden_[i].wort(urkundenwort::fahrer));
+    }
+    fahrer.markieren(static_cast<int>(seite_));
+}
+
+void urkundenfenster::markierten_umschalten() {
+    if (seite_ < gewaehlt_.size()) {
+        gewaehlt_[seite_] = !gewaehlt_[seite_];
+        zeilen_schreiben();
+        seite_zeigen();
+    }
+}
+
+void urkundenfenster::alle_waehlen(bool an) {
+    gewaehlt_.assign(urkunden_.size(), an);
+    zeilen_schreiben();
+    seite_zeigen();
+}
+
 /// What was typed is kept for the next race.
 void urkundenfenster::entladen() {
-    if (angaben_.kopf != gespeichert_ && !papierkopf_speichern(um_.welt.ablage, angaben_.kopf)) {
+    if (angaben_.kopf != gespeichert_ &&
+        !papierkopf_speichern(um_.welt.ablage, angaben_.kopf, um_.einst.anzeige.sprachordner)) {
         melden(wort_.schreibfehler);
     }
     gespeichert_ = angaben_.kopf;
@@ -112,7 +170,7 @@ void urkundenfenster::kopf_lesen() {
 }
 
 void urkundenfenster::neu_bilden() {
-    urkunden_ = urkunden_bilden(ergebnis_, angaben_);
+    urkunden_ = bilden_(angaben_);
     for (urkunde& u : urkunden_) {
         u.fahrerbild = eigenes_bild(um_.fahrer, um_.welt.ablage, u.wort(urkundenwort::fahrer));
         u.fahrzeugbild = eigenes_bild(um_.fahrzeuge, um_.welt.ablage, u.wort(urkundenwort::fahrzeug));
@@ -123,7 +181,7 @@ void urkundenfenster::neu_bilden() {
 std::vector<urkunde> urkundenfenster::gewaehlte() const {
     std::vector<urkunde> alle;
     for (std::size_t i = 0; i < urkunden_.size(); ++i) {
-        if (fahrer.at(i).gesetzt()) {
+        if (i < gewaehlt_.size() && gewaehlt_[i]) {
             alle.push_back(urkunden_[i]);
         }
     }
@@ -150,6 +208,9 @@ void urkundenfenster::seite_zeigen() {
     for (befehl* knopf : {&Command_zurueck, &Command_vor}) {
         knopf->aktiviert(urkunden_.size() > 1);
     }
+    fahrer.markieren(static_cast<int>(seite_));
+    dabei.aktiviert(u != nullptr);
+    dabei.gesetzt(seite_ < gewaehlt_.size() && gewaehlt_[seite_]);
     if (zeichnen) {
         zeichnen();
     }
@@ -172,7 +233,7 @@ void urkundenfenster::vorlage_laden(const std::string& name) {
         }
     }
     const bool eigene = !name.empty() && gelesen.fehlerzeile == 0;
-    vorlage_ = eigene ? std::move(gelesen.vorlage) : vorlage_lesen(eingebaute_vorlage()).vorlage;
+    vorlage_ = eigene ? std::move(gelesen.vorlage) : vorlage_lesen(eingebaute_vorlage(titel_)).vorlage;
     if (eigene || name.empty()) {  // one that cannot be read today is asked for again tomorrow
         angaben_.kopf.vorlage = name;
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -33,8 +32,11 @@ public:
     bezeichnung Label_vorlage;
     auswahl vorlage;  ///< the first one is built in
     rahmen Frame_fahrer;
-    std::array<haken, spuren_max> fahrer;  ///< in the order of the places; who gets a certificate
-    befehl Command_zurueck;                ///< the one before
+    liste fahrer;            ///< in the order of the places; who gets a certificate has a mark. The selected one shows.
+    haken dabei;             ///< the selected one gets one
+    befehl Command_alle;     ///< all of them do
+    befehl Command_keiner;   ///< none does
+    befehl Command_zurueck;  ///< the one before
     befehl Command_vor;
     bezeichnung Label_seite;
     befehl Command_drucken;
@@ -49,6 +51,10 @@ public:
     /// Opens the window. `rennen` says what was driven, `datei` suggests a name, below the program folder and without
     /// an extension.
     void oeffnen(const rennergebnis& ergebnis, const std::string& rennen, const std::string& datei);
+    /// The same for the table of a competition or a day. A name that a file has cut is whole again if only one of the
+    /// drivers' list can be meant.
+    void oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen,
+                 const std::string& datei);
 
     std::vector<sprachliste> sprachdateien() override { return {sprache_u()}; }
     sprachliste sprache_u();
@@ -65,8 +71,14 @@ public:
     void druck_misslungen() { melden(wort_.druckfehler); }
 
 private:
+    void aufschlagen(const std::string& rennen, const std::string& datei);
+    void waehlbar_machen();
     void kopf_lesen();
     void neu_bilden();
+    /// The row of the list says if its driver gets one.
+    void zeilen_schreiben();
+    void markierten_umschalten();
+    void alle_waehlen(bool an);
     void blaettern(int schritt);
     void seite_zeigen();
     void vorlage_waehlen();
@@ -76,15 +88,17 @@ private:
     umfeld um_;
     struct {
         std::string eingebaut, platz, ohne_platz, vorlage_fehlt, vorlage_fehler, schreibfehler, pdf_fehler;
-        std::string druckfehler;
+        std::string druckfehler, klasse;
     } wort_;
-    rennergebnis ergebnis_;
+    vorlagentitel titel_;  ///< of the built-in template
+    std::function<std::vector<urkunde>(const urkundenangaben&)> bilden_;
     urkundenangaben angaben_;
     papierkopf gespeichert_;
     std::string datei_;
     urkundenvorlage vorlage_;
     std::vector<urkunde> urkunden_;
-    std::size_t seite_ = 0;  ///< of `urkunden_`
+    std::vector<bool> gewaehlt_;  ///< which of them are made
+    std::size_t seite_ = 0;       ///< of `urkunden_`
 };
 
 }  // namespace tarvel

@@ -13,7 +13,7 @@ namespace {
 using art = vorlagenelement::art;
 using buendig = vorlagenelement::buendig;
 
-constexpr std::string_view kennzeile = "Tarvel Urkunde";
+constexpr std::array<std::string_view, 2> kennzeilen{"Tarvel Urkunde", "Tarvel Certificate"};
 constexpr std::size_t elemente_max = 300;
 constexpr double laenge_max_mm = 500;
 
@@ -56,17 +56,23 @@ private:
 };
 
 bool buendig_lesen(wortleser& worte, vorlagenelement& e) {
-    constexpr std::array namen{std::to_array<std::string_view>({"links", "mitte", "rechts"})};
-    const auto gefunden = std::find(namen.begin(), namen.end(), worte.wort());
-    e.an = static_cast<buendig>(gefunden - namen.begin());
-    return gefunden != namen.end();
+    static const std::map<std::string_view, buendig> namen{{"links", buendig::links},   {"mitte", buendig::mitte},
+                                                           {"rechts", buendig::rechts}, {"left", buendig::links},
+                                                           {"center", buendig::mitte},  {"right", buendig::rechts}};
+    const auto gefunden = namen.find(worte.wort());
+    if (gefunden == namen.end()) {
+        return false;
+    }
+    e.an = gefunden->second;
+    return true;
 }
 
 /// "fett-serifen" and the like.
 bool stil_lesen(std::string_view stil, vorlagenelement& e) {
     bool egal = false;
     const std::map<std::string_view, bool*> eigenschaften{
-        {"normal", &egal}, {"fett", &e.fett}, {"kursiv", &e.kursiv}, {"serifen", &e.serifen}};
+        {"normal", &egal}, {"fett", &e.fett},     {"kursiv", &e.kursiv}, {"serifen", &e.serifen},
+        {"bold", &e.fett}, {"italic", &e.kursiv}, {"serif", &e.serifen}};
     while (!stil.empty()) {
         const std::size_t ende = std::min(stil.find('-'), stil.size());
         const auto gefunden = eigenschaften.find(stil.substr(0, ende));
@@ -77,6 +83,16 @@ bool stil_lesen(std::string_view stil, vorlagenelement& e) {
         stil.remove_prefix(std::min(ende + 1, stil.size()));
     }
     return true;
+}
+
+std::optional<std::size_t> wort_von(std::string_view name) {
+    for (const auto* namen : {&urkundenwort_namen, &urkundenwort_englisch}) {
+        const auto gefunden = std::find(namen->begin(), namen->end(), name);
+        if (gefunden != namen->end()) {
+            return static_cast<std::size_t>(gefunden - namen->begin());
+        }
+    }
+    return std::nullopt;
 }
 
 /// Calls `text` with what stands outside of braces and `wort` with the number of each word in them; false for a word
@@ -92,11 +108,11 @@ bool zerlegen(std::string_view inhalt, const Text& text, const Wort& wort) {
         }
         const std::size_t zu = inhalt.find('}');
         const auto name = inhalt.substr(1, std::min(zu, inhalt.size()) - 1);
-        const auto gefunden = std::find(urkundenwort_namen.begin(), urkundenwort_namen.end(), name);
-        if (zu == std::string_view::npos || gefunden == urkundenwort_namen.end()) {
+        const auto welches = wort_von(name);
+        if (zu == std::string_view::npos || !welches) {
             return false;
         }
-        wort(static_cast<std::size_t>(gefunden - urkundenwort_namen.begin()));
+        wort(*welches);
         inhalt.remove_prefix(zu + 1);
     }
     return true;
@@ -107,9 +123,9 @@ bool text_lesen(wortleser& worte, vorlagenelement& e) {
         !worte.farbton(e.farbton)) {
         return false;
     }
-    e.inhalt = worte.rest();
     return zerlegen(
-        e.inhalt, [](std::string_view) {}, [](std::size_t) {});
+        worte.rest(), [&e](std::string_view text) { e.inhalt += text; },
+        [&e](std::size_t wort) { e.inhalt += "{" + std::string(urkundenwort_namen.at(wort)) + "}"; });
 }
 
 bool strich_lesen(wortleser& worte, vorlagenelement& e) {
@@ -118,15 +134,21 @@ bool strich_lesen(wortleser& worte, vorlagenelement& e) {
 
 bool bild_lesen(wortleser& worte, vorlagenelement& e) {
     const std::string_view form = worte.wort();
-    e.rund = form == "rund";
-    if ((!e.rund && form != "eckig") || !worte.farbton(e.farbton) || !worte.zahl(e.mass, 0, 20)) {
+    e.rund = form == "rund" || form == "round";
+    if ((!e.rund && form != "eckig" && form != "square") || !worte.farbton(e.farbton) || !worte.zahl(e.mass, 0, 20)) {
         return false;
     }
     e.inhalt = worte.rest();
-    e.zeigt = e.inhalt == "Fahrer"     ? vorlagenelement::motiv::fahrer
-              : e.inhalt == "Fahrzeug" ? vorlagenelement::motiv::fahrzeug
-                                       : vorlagenelement::motiv::datei;
-    return !e.inhalt.empty();
+    if (e.inhalt == "Fahrer" || e.inhalt == "Driver") {
+        e.zeigt = vorlagenelement::motiv::fahrer;
+        e.inhalt.clear();
+    } else if (e.inhalt == "Fahrzeug" || e.inhalt == "Car") {
+        e.zeigt = vorlagenelement::motiv::fahrzeug;
+        e.inhalt.clear();
+    } else {
+        e.zeigt = vorlagenelement::motiv::datei;
+    }
+    return e.zeigt != vorlagenelement::motiv::datei || !e.inhalt.empty();
 }
 
 bool nur_farbe_lesen(wortleser& worte, vorlagenelement& e) {
@@ -142,14 +164,20 @@ struct zeilenart {
     art was;
     bool (*lesen)(wortleser&, vorlagenelement&);  ///< what follows place and size
 };
-constexpr std::array<zeilenart, 8> zeilenarten{{{"Fläche", art::flaeche, nur_farbe_lesen},
-                                                {"Flaeche", art::flaeche, nur_farbe_lesen},
-                                                {"Rahmen", art::rahmen, strich_lesen},
-                                                {"Linie", art::linie, strich_lesen},
-                                                {"Text", art::text, text_lesen},
-                                                {"Bild", art::bild, bild_lesen},
-                                                {"Plakette", art::plakette, nichts_lesen},
-                                                {"Zielflagge", art::zielflagge, nur_farbe_lesen}}};
+constexpr std::array<zeilenart, 14> zeilenarten{{{"Fläche", art::flaeche, nur_farbe_lesen},
+                                                 {"Flaeche", art::flaeche, nur_farbe_lesen},
+                                                 {"Rahmen", art::rahmen, strich_lesen},
+                                                 {"Linie", art::linie, strich_lesen},
+                                                 {"Text", art::text, text_lesen},
+                                                 {"Bild", art::bild, bild_lesen},
+                                                 {"Plakette", art::plakette, nichts_lesen},
+                                                 {"Zielflagge", art::zielflagge, nur_farbe_lesen},
+                                                 {"Area", art::flaeche, nur_farbe_lesen},
+                                                 {"Frame", art::rahmen, strich_lesen},
+                                                 {"Line", art::linie, strich_lesen},
+                                                 {"Picture", art::bild, bild_lesen},
+                                                 {"Badge", art::plakette, nichts_lesen},
+                                                 {"Flag", art::zielflagge, nur_farbe_lesen}}};
 
 bool element_lesen(const std::string& zeile, vorlagenelement& e) {
     wortleser worte(zeile);
@@ -170,7 +198,7 @@ gelesene_vorlage vorlage_lesen(const std::vector<std::string>& zeilen) {
     gelesene_vorlage gelesen;
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
         const std::string_view zeile = gekuerzt(zeilen[i]);
-        if (i == 0 && zeile == kennzeile) {
+        if (i == 0 && std::find(kennzeilen.begin(), kennzeilen.end(), zeile) != kennzeilen.end()) {
             continue;
         }
         if (i > 0 && (zeile.empty() || zeile.front() == ';')) {

@@ -22,6 +22,7 @@ enum class urkundenwort : std::size_t {
     platz,
     platzwort,
     teilnehmer,
+    klasse,
     spur,
     strecke,
     runden,
@@ -31,8 +32,13 @@ enum class urkundenwort : std::size_t {
     tempo
 };
 inline constexpr std::array urkundenwort_namen{std::to_array<std::string_view>(
-    {"Verein", "Veranstaltung", "Rennen", "Datum", "Fahrer", "Fahrzeug", "Platz", "Platzwort", "Teilnehmer", "Spur",
-     "Strecke", "Runden", "Meter", "Gesamtzeit", "BesteRunde", "Tempo"})};
+    {"Verein", "Veranstaltung", "Rennen", "Datum", "Fahrer", "Fahrzeug", "Platz", "Platzwort", "Teilnehmer", "Klasse",
+     "Spur", "Strecke", "Runden", "Meter", "Gesamtzeit", "BesteRunde", "Tempo"})};
+/// The same for who writes his template in English.
+inline constexpr std::array urkundenwort_englisch{std::to_array<std::string_view>(
+    {"Club", "Event", "Race", "Date", "Driver", "Car", "Place", "PlaceWord", "Participants", "Class", "Lane", "Track",
+     "Laps", "Metres", "TotalTime", "BestLap", "Speed"})};
+static_assert(urkundenwort_englisch.size() == urkundenwort_namen.size());
 using urkundenworte = std::array<std::string, urkundenwort_namen.size()>;
 
 /// One thing on the page. Lengths are millimetres from the upper left corner of an A4 page.
@@ -54,7 +60,9 @@ struct vorlagenelement {
     bool serifen = false;
     buendig an = buendig::links;
     motiv zeigt = motiv::fahrer;
-    std::string inhalt;  ///< text with words in braces, or the file of a picture
+    std::string inhalt;  ///< text with words in braces by their German names, or the file of a picture
+
+    bool operator==(const vorlagenelement&) const = default;
 };
 
 using urkundenvorlage = std::vector<vorlagenelement>;
@@ -64,10 +72,20 @@ struct gelesene_vorlage {
     std::size_t fehlerzeile = 0;  ///< the first line that is none, from 1; 0 for a template without a fault
 };
 
-/// Reads the lines of a template. One with a fault is not to be used.
+/// Reads the lines of a template, in German words or in English ones. One with a fault is not to be used.
 gelesene_vorlage vorlage_lesen(const std::vector<std::string>& zeilen);
-/// The lines of the template that the program comes with.
-const std::vector<std::string>& eingebaute_vorlage();
+
+/// What the template that the program comes with says by itself.
+struct vorlagentitel {
+    std::string urkunde = "URKUNDE";
+    std::string runden = "Runden";
+    std::string beste = "beste Runde";
+    std::string gesamtzeit = "Gesamtzeit";
+    std::string datum = "Datum";
+    std::string rennleitung = "Rennleitung";
+};
+/// Its lines.
+std::vector<std::string> eingebaute_vorlage(const vorlagentitel& titel = {});
 
 /// The text with its words in place; empty if one of them is, so that no caption stands beside nothing.
 std::string eingesetzt(std::string_view inhalt, const urkundenworte& worte);

@@ -386,7 +386,7 @@ void w_auswertung2::bedienung_einrichten() {
     cbo_rennen.sichtbar(Label_rennen.sichtbar());
     Command_drucken.aktiviert(frei && da);
     Command_pdf.aktiviert(frei && da);
-    Command_urkunden.aktiviert(frei && mit_rennen);
+    Command_urkunden.aktiviert(frei && (mit_rennen || (da && tabelle_->typ != ergebnis_typ::einzelrennen)));
     Frame_klassen.sichtbar(Check1.front().sichtbar() && frei);
     korrekturzeile.sichtbar(da && als_tabelle && frei);
 }

@@ -3,6 +3,7 @@
 #include "results/urkundenfenster.h"
 #include "results/w_auswertung2.h"
 #include "tests/ergebnistabelle_probe.h"
+#include "tests/plattform/vereinswettkampf.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -43,7 +44,7 @@ TEST(Urkunde, SagtWasDasErgebnisSagt) {
     e.spuren[2].platz = 3;
     e.spuren[2].disqualifiziert = true;
     const auto alle =
-        urkunden_bilden(e, {{"SRC Nord", "Pokal", {}}, "Rennen", "Platz", "dabei", trennzeichen_standard});
+        urkunden_bilden(e, {{"SRC Nord", "Pokal", {}}, "Rennen", "Platz", "dabei", trennzeichen_standard, {}});
     ASSERT_EQ(alle.size(), 3U);
     EXPECT_EQ(alle[0].wort(w::fahrer), "Ben");
     EXPECT_EQ(alle[0].wort(w::platzwort), "1. Platz");
@@ -78,14 +79,18 @@ TEST_F(Urkundenfenster, WerOhneRundeIstBekommtNurAufWunschEine) {
     ASSERT_EQ(u.gewaehlte().size(), 2U);
     EXPECT_EQ(u.gewaehlte()[0].wort(w::fahrer), "Fahrer 1");
     EXPECT_EQ(u.gewaehlte()[0].wort(w::rennen), "Rundenrennen  ·  1 Runden");
-    u.fahrer[2].umschalten();
-    EXPECT_EQ(u.gewaehlte().size(), 3U);
-    for (int i = 0; i < 3; ++i) {
-        u.fahrer.at(static_cast<std::size_t>(i)).umschalten();
-    }
-    EXPECT_FALSE(u.Command_pdf.bedienbar());
     u.Command_zurueck.klicken();
     EXPECT_EQ(u.gezeigte()->wort(w::fahrer), "Fahrer 3") << "from the first back to the last";
+    EXPECT_EQ(u.fahrer.markiert(), 2);
+    u.dabei.umschalten();
+    EXPECT_EQ(u.gewaehlte().size(), 3U);
+    u.fahrer.doppelklicken(0);
+    EXPECT_EQ(u.gewaehlte().size(), 2U);
+    EXPECT_FALSE(u.dabei.gesetzt());
+    u.Command_keiner.klicken();
+    EXPECT_FALSE(u.Command_pdf.bedienbar());
+    u.Command_alle.klicken();
+    EXPECT_EQ(u.gewaehlte().size(), 3U);
     a.Command5.klicken();
     EXPECT_FALSE(offen(fenstername::urkunden)) << "goes with its result";
 }
@@ -139,10 +144,80 @@ TEST_F(Urkundenfenster, AuchFuerEinRennenAusEinerDatei) {
     EXPECT_FALSE(offen(fenstername::urkunden));
 }
 
-TEST(Urkundenvorlage, DieMitgelieferteIstDieEingebaute) {
+TEST_F(Urkundenfenster, JederFahrerDesTagesBekommtEineInSeinerKlasse) {
+    const std::string datei = "Ergebnisse\\Tagesrennen\\pokal-21112026-14032.csv";
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben(
+        datei, {"Tarvel Tagesrennen", "A;Anna; 5;125.00;00:05,100;00:26,000", "B;Ben; 7;175.00;00:04,100;00:31,000",
+                "A;Carl; 8;200.00;00:06,100;00:52,000", "A;Anna; 5;125.00;00:04,900;00:25,000"}));
+    auto& v = t.p.w_auswertung2;
+    v.datei_zeigen(datei);
+    v.Command_urkunden.klicken();
+    const auto alle = u.gewaehlte();
+    ASSERT_EQ(alle.size(), 3U);
+    EXPECT_EQ(alle[0].wort(w::fahrer) + ", " + alle[0].wort(w::platzwort), "Anna, 1. Platz");
+    EXPECT_EQ(alle[0].wort(w::runden) + ", " + alle[0].wort(w::beste), "10, 4,900 s") << "her two races together";
+    EXPECT_TRUE(alle[0].wort(w::rennen).ends_with("  ·  Klasse A")) << alle[0].wort(w::rennen);
+    EXPECT_EQ(alle[0].wort(w::datum), "21.11.2026");
+    EXPECT_EQ(alle[1].wort(w::platz) + "/" + alle[1].wort(w::teilnehmer), "2/2");
+    EXPECT_EQ(alle[2].wort(w::fahrer) + ", " + alle[2].wort(w::platzwort), "Ben, 1. Platz");
+    EXPECT_EQ(alle[2].spur, 0);
+    EXPECT_EQ(v.File1.zeilen().size(), 1U);
+    EXPECT_TRUE(v.Label_datei.text().find("4 ") != std::string::npos) << "the table itself is as it was";
+}
+
+TEST_F(Urkundenfenster, DerWettkampfHatDiePlaetzeDerRanglisteUndGanzeNamen) {
+    wettkampf neu = test::vereinswettkampf::neu(wettkampf_modus::rotation, 3, {1, 2});
+    neu.teilnehmer[1] = "Maximiliane Musterfrau";
+    t.p.fahrerliste.hinzufuegen("Maximiliane Musterfrau");
+    t.p.wettkampfabend.beginnen(neu);
+    t.p.wettkampfabend.aendern([](wettkampf& stand) {
+        const auto feld = stand.plan.feld(1);
+        spuren<fahrt> fahrten;
+        for (const int spur : alle_spuren) {
+            fahrten[spur] = {feld[spur] == 2 ? 9 : 5, 60000, 10000, feld[spur] == 2 ? 5123 : 7000};
+        }
+        return stand.ergebnis_eintragen(fahrten);
+    });
+    t.p.fenster.zeigen(fenstername::w_auswertung);
+    t.p.w_auswertung.Command_urkunden.klicken();
+    ASSERT_EQ(u.gewaehlte().size(), 2U) << "who has not driven yet gets one only on demand";
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::fahrer), "Maximiliane Musterfrau");
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::beste) + u.gewaehlte()[0].wort(w::platzwort), "5,123 s1. Platz");
+    u.schliessen();
+    t.p.wettkampf2.Command10.klicken();
+    t.p.rundenspeichern.Command1.klicken();
+    ASSERT_EQ(t.p.zuletzt_geschrieben.eintraege().size(), 1U);
+    t.p.w_auswertung2.datei_zeigen(t.p.zuletzt_geschrieben.eintraege()[0].pfad);
+    t.p.w_auswertung2.Command_urkunden.klicken();
+    ASSERT_FALSE(u.gewaehlte().empty());
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::fahrer), "Maximiliane Musterfrau") << "the file has 15 characters of her";
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::rennen), neu.wettkampf_name);
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::datum), "21.11.2026");
+}
+
+TEST(Papierkopf, JedeSpracheHatIhreVorlage) {
+    const test::test_plattform maschine;
+    const dateien ablage{maschine.ordner()};
+    ASSERT_TRUE(papierkopf_speichern(ablage, {"Klub", "Abend", "unsere.txt"}));
+    ASSERT_TRUE(papierkopf_speichern(ablage, {"Klub", "Cup", "ours.txt"}, "language-en"));
+    ASSERT_TRUE(papierkopf_speichern(ablage, {"Klub", "Cup", "notre.txt"}, "language-fr"));
+    EXPECT_EQ(papierkopf_laden(ablage), (papierkopf{"Klub", "Cup", "unsere.txt"}));
+    EXPECT_EQ(papierkopf_laden(ablage, "language-en").vorlage, "ours.txt");
+    EXPECT_EQ(papierkopf_laden(ablage, "language-fr").vorlage, "notre.txt");
+    EXPECT_EQ(papierkopf_laden(ablage, "language-da").vorlage, "");
+}
+
+TEST(Urkundenvorlage, DieMitgeliefertenSindDieEingebaute) {
     const dateien mitgeliefert{std::filesystem::path(TARVEL_QUELLEN) / "data"};
     EXPECT_EQ(mitgeliefert.zeilen_lesen("Urkunden\\urkunde.txt", 1000), eingebaute_vorlage())
         << "run tools/grunddateien";
+    const auto englisch = mitgeliefert.zeilen_lesen("Urkunden\\certificate.txt", 1000);
+    ASSERT_TRUE(englisch);
+    EXPECT_EQ(
+        vorlage_lesen(*englisch).vorlage,
+        vorlage_lesen(eingebaute_vorlage({"CERTIFICATE", "Laps", "Best lap", "Total time", "Date", "Race director"}))
+            .vorlage)
+        << "in English words";
 }
 
 }  // namespace

@@ -24,8 +24,7 @@ UrkundenFenster::UrkundenFenster(urkundenfenster& logik, const dateien& ablage, 
     auto* links = new QVBoxLayout;
     links->setSpacing(10);
     links->addLayout(eingaben());
-    links->addWidget(fahrerfeld());
-    links->addStretch(1);
+    links->addWidget(fahrerfeld(), 1);
     auto* ausgabe = new QHBoxLayout;
     ausgabe->setSpacing(8);
     for (QPushButton* knopf : {binder().hauptknopf(logik.Command_pdf, "Command_pdf"),
@@ -51,10 +50,7 @@ UrkundenFenster::UrkundenFenster(urkundenfenster& logik, const dateien& ablage, 
     aufbau->addLayout(rechts, 1);
     logik.zeichnen = [this] {
         const urkunde* u = logik_.gezeigte();
-        bild_->setBogen(u == nullptr
-                            ? std::nullopt
-                            : std::optional(bogen_bilden(ablage_, logik_.gezeigte_vorlage(), *u,
-                                                         stil::farbe_von(logik_.einst().farben_spur[u->spur]))));
+        bild_->setBogen(u == nullptr ? std::nullopt : std::optional(bogen(*u)));
     };
     logik.drucken = [this] { blatt_drucken(this, seiten(), [this] { logik_.druck_misslungen(); }); };
     logik.als_pdf = [this] { pdf_speichern(); };
@@ -80,10 +76,19 @@ QWidget* UrkundenFenster::fahrerfeld() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_fahrer, "Frame_fahrer");
     auto* aufbau = new QVBoxLayout(kasten);
     aufbau->setSpacing(6);
-    for (std::size_t i = 0; i < logik_.fahrer.size(); ++i) {
-        aufbau->addWidget(binder().kasten(logik_.fahrer.at(i), "fahrer_" + QString::number(i)));
-    }
+    aufbau->addWidget(binder().listenfeld(logik_.fahrer, "fahrer"), 1);
+    auto* unten = new QHBoxLayout;
+    unten->addWidget(binder().kasten(logik_.dabei, "dabei"), 1);
+    unten->addWidget(binder().knopf(logik_.Command_alle, "Command_alle", "schmal"));
+    unten->addWidget(binder().knopf(logik_.Command_keiner, "Command_keiner", "schmal"));
+    aufbau->addLayout(unten);
     return kasten;
+}
+
+/// One of many races has no lane whose colour it could have.
+urkundenbogen UrkundenFenster::bogen(const urkunde& u) const {
+    const QColor farbton = u.spur > 0 ? stil::farbe_von(logik_.einst().farben_spur[u.spur]) : stil::akzent;
+    return bogen_bilden(ablage_, logik_.gezeigte_vorlage(), u, farbton);
 }
 
 void UrkundenFenster::aufschlagen() {
@@ -98,8 +103,7 @@ void UrkundenFenster::aufschlagen() {
 blattseiten UrkundenFenster::seiten() const {
     std::vector<urkundenbogen> boegen;
     for (const urkunde& u : logik_.gewaehlte()) {
-        boegen.push_back(
-            bogen_bilden(ablage_, logik_.gezeigte_vorlage(), u, stil::farbe_von(logik_.einst().farben_spur[u.spur])));
+        boegen.push_back(bogen(u));
     }
     return urkundenseiten(QString::fromStdString(logik_.titel.text()), std::move(boegen));
 }

@@ -6,7 +6,7 @@
 
 namespace tarvel::ui {
 
-/// The certificates of a race: who gets one, what stands over it, and how it looks.
+/// Certificates: who gets one, what stands over it, and how it looks.
 class UrkundenFenster : public Fenster {
 public:
     UrkundenFenster(urkundenfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
@@ -16,6 +16,7 @@ public:
 private:
     QLayout* eingaben();
     QWidget* fahrerfeld();
+    urkundenbogen bogen(const urkunde& u) const;
     blattseiten seiten() const;
     void pdf_speichern();
 

@@ -155,6 +155,7 @@ QLayout* WAuswertungFenster::knopfzeile() {
         zeile->addWidget(stil::fensterknopf(binder().knopf(*element, name)));
     }
     zeile->addStretch();
+    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_urkunden, "Command_urkunden")));
     zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_drucken, "Command_drucken")));
     zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_pdf, "Command_pdf")));
     zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command_schliessen, "Command_schliessen")));

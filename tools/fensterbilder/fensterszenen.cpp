@@ -169,6 +169,22 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
          return b.o.auswertung;
      }},
+    {"hauptfenster_liste",
+     [](buehne& b) -> QWidget& {
+         b.p.zuletzt_gefahren.gefahren(b.p.ablage, {"Jonas", "Käthe", "Oma Inge"});
+         b.p.form1.command_liste.klicken();
+         return b.o.form1;
+     }},
+    {"urkunden_tag",
+     [](buehne& b) -> QWidget& {
+         std::vector<tabellenplatz> plaetze;
+         for (const char* wer : {"Anna", "Ben", "Carl-Friedrich von Gauß", "Dora", "Emil", "Frieda", "Gustav"}) {
+             const int n = static_cast<int>(plaetze.size());
+             plaetze.push_back({n + 1, wer, "A", 120 - 3 * n, 3000.0 - 75 * n, 6500 + 120 * n, 840000 + 9000 * n});
+         }
+         b.p.ergebnis_fluegel().urkunden.oeffnen(plaetze, "21.11.2026", "Tagesrennen", "Ergebnisse\\tag");
+         return *b.o.urkunden;
+     }},
     {"urkunden",
      [](buehne& b) -> QWidget& {
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
