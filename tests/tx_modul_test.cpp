@@ -133,6 +133,9 @@ TEST_F(TxModul, EsWirdAnJedemPortGesuchtUndDannZuerstAnSeinem) {
         EXPECT_EQ(t.maschine.datei_lesen("tvk_4x4.ini"), "\"V1.2\"\r\nFalsch\r\n5\r\n");
         EXPECT_EQ(gesendet(2).empty(), !meldet_sich) << "the second time it is where it was";
     }
+    t.maschine.datei_schreiben("tvk_4x4.ini", "\"V1.2\"\r\nFalsch\r\n2\r\n");
+    waehlen(modul_4x4::modus_2);
+    EXPECT_TRUE(tx.modul.verbunden()) << "something else is where it was";
 }
 
 TEST_F(TxModul, OhneModulGehtEsOhneWeiter) {
@@ -207,6 +210,7 @@ TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
     EXPECT_EQ(rundenzahl_nach_ueberfahrt(), 1);
     t.p.ausgaben.relais_on(2);
     gesendet();
+    gesendet(2);
     const std::vector<std::function<void(bool)>> stoerungen{
         [&](bool da) { antwortet = da; },
         [&](bool da) {
@@ -227,6 +231,10 @@ TEST_F(TxModul, WerSchweigtOderAbgezogenWirdIstWegUndKommtWieder) {
         const int bisher = t.runden(1);
         EXPECT_EQ(rundenzahl_nach_ueberfahrt(), bisher + 1);
     }
+    EXPECT_EQ(gesendet(2), "") << "the device beside it is left alone";
+    sagt("TRAXIUM-USB\r");
+    const std::string bytes = gesendet();
+    EXPECT_GT(bytes.rfind('b'), bytes.find("ABCD")) << "it has begun anew, with its outputs at rest: " << bytes;
     EXPECT_TRUE(t.p.einst.hardware.hw_4x4());
 }
 
@@ -270,6 +278,10 @@ TEST_F(TxModul, EinModusDenEsVerpasstHatWirdNochmalsGesetzt) {
     sagt("MODUS\rmod4\r");
     t.maschine.laufen(1000);
     EXPECT_EQ(gesendet(), "<");
+    tx.modul.tx_modus_setzen(2);
+    sagt("MODUS\r");
+    t.maschine.laufen(1000);
+    EXPECT_EQ(gesendet(), "02<02");
 }
 
 TEST_F(TxModul, DieListeNenntPortsUndIhreEreignisse) {
@@ -325,6 +337,16 @@ TEST_F(TxModul, DasFensterZeigtJedenEingangUndSchaltetJedenAusgang) {
     EXPECT_TRUE(tx.modul.verbunden());
     EXPECT_EQ(t.p.einst.hardware.hw_4x4_modus, modul_4x4::modus_1);
     EXPECT_EQ(t.p.einst.s6.s6_eingang_modus[6][3], art::tanken_ein[6]) << "the options show what the window has set";
+    t.p.fenster.zeigen(fenstername::frmMain);
+    w.optModus[3].umschalten();
+    gesendet();
+    w.Command4.klicken();
+    EXPECT_TRUE(gesendet().starts_with("01")) << "the race has its mode back";
+    t.p.fenster.zeigen(fenstername::frmMain);
+    w.optModus[2].umschalten();
+    w.Command3.klicken();
+    EXPECT_EQ(t.p.einst.hardware.hw_4x4_modus, modul_4x4::modus_2) << "of the module in force it holds at once";
+    EXPECT_TRUE(tx.modul.verbunden());
 }
 
 TEST_F(TxModul, WechselZwischenAnalogUndDigitalBietetDenNeustartAn) {
