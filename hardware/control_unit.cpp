@@ -147,8 +147,14 @@ void control_unit::verarbeiten(const cu::ueberfahrt& ueberfahrt) {
         geraeteuhr_.aufnehmen({ueberfahrt, uhr_.jetzt(), um_.zeit.messzeit_lesen(), luecke_, um_.rennen.pause()});
     uhr_nachstellen(befund);
     if (const ereignis_art nummer = cu_art(ueberfahrt.sensor, ueberfahrt.fahrzeug); nummer != 0) {
-        um_.ereignisse.ueberfahrt_melden(nummer, befund.ungewiss ? um_.zeit.messzeit_lesen() : befund.stempel);
+        um_.ereignisse.ueberfahrt_melden(nummer, befund.im_ausfall ? in_der_pause() : befund.stempel);
     }
+}
+
+/// A stamp of the pause that is, or was the last.
+zeit_ms control_unit::in_der_pause() const {
+    constexpr zeit_ms davor_ms = 200;  // behind which nobody could mean a car that has just been let go
+    return um_.rennen.pause() ? um_.zeit.messzeit_lesen() : um_.ereignisse.gilt_ab - davor_ms;
 }
 
 void control_unit::uhr_nachstellen(const cu_uhr::befund& befund) {
@@ -170,6 +176,7 @@ void control_unit::uhr_nachstellen(const cu_uhr::befund& befund) {
 }
 
 void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
+    geraeteuhr_.nichts_wartet();
     const bool eben_bereit = !std::exchange(zaehlerbox_bereit_, zaehler.bereit) && zaehler.bereit;
     if (eben_bereit && cu_alter_rz_start_->laeuft() && um_.rennen.rennen_ruht()) {
         cu_alter_rz_start_->aus();
@@ -178,6 +185,7 @@ void control_unit::verarbeiten(const cu::rundenzaehler& zaehler) {
 }
 
 void control_unit::verarbeiten(const cu::status& status) {
+    geraeteuhr_.nichts_wartet();
     // A status has no sum, and a damaged one must not stop the race: it takes two. After a silence any is news. Where
     // damage is known by the passages' sums it must not prepare, start or resume one either, nor drain a tank.
     const bool wiederholt = std::exchange(letzter_status_, status) == status;

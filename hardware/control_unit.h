@@ -85,6 +85,7 @@ private:
     void verarbeiten(const cu::ueberfahrt& ueberfahrt);
     void verarbeiten(const cu::status& status);
     void verarbeiten(const cu::rundenzaehler& zaehler);
+    zeit_ms in_der_pause() const;
     void uhr_nachstellen(const cu_uhr::befund& befund);
     void cu_tank_auswerten(const cu::status& status);
     void startzustand_auswerten(bool steht);

@@ -200,11 +200,11 @@ std::optional<cu_uhr::befund> cu_uhr::fortsetzen(const eingang& neu, zeit_ms ste
 }
 
 cu_uhr::befund cu_uhr::aufnehmen(const eingang& neu) {
-    if (ausfall_ && !neu.pause) {
+    if (ausfall_ && !neu.pause && !staut_) {
         ausfall_.reset();
     }
     befund b = einordnen(neu);
-    b.ungewiss = ausfall_ && !angeschlossen_;
+    b.im_ausfall = ausfall_ && (!angeschlossen_ || (staut_ && b.stempel >= ausfall_->stempel));
     return b;
 }
 
@@ -219,8 +219,12 @@ cu_uhr::befund cu_uhr::einordnen(const eingang& neu) {
     jetzt_ = weiter;
     if (!jetzt_.bekannt || jetzt_.ausrichten) {
         angeschlossen_ = false;
-        const auto weiter_wie_bisher = ausfall_ ? fortsetzen(neu, stempel) : std::nullopt;
+        const auto weiter_wie_bisher = ausfall_ && neu.pause ? fortsetzen(neu, stempel) : std::nullopt;
         return weiter_wie_bisher ? *weiter_wie_bisher : ausrichten(neu, stempel);
+    }
+    if (ausfall_ && staut_ && !neu.pause) {  // it shows nothing of the clock
+        jetzt_.gesehen(neu.ueberfahrt, stempel);
+        return {stempel, std::nullopt, false};
     }
     const bool behalten = ausfall_ && angeschlossen_ && stempel >= ausfall_->stempel - nachzuegler_ms;  // any order
     if ((!behalten && jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke)) ||

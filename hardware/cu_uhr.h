@@ -28,7 +28,7 @@ public:
         zeit_ms stempel = 0;               ///< of the passage, on a clock without overflows
         std::optional<zeit_ms> versetzen;  ///< the race's clock has nothing to do with the unit's yet: ms between them
         bool nachstellen = false;          ///< `lesen` and `gang` know more than before
-        bool ungewiss = false;             ///< of an outage: nobody knows whether it was before the race's last stamp
+        bool im_ausfall = false;           ///< the unit has kept it, and it was not before the outage for sure
     };
 
     befund aufnehmen(const eingang& neu);
@@ -46,7 +46,12 @@ public:
     }
     /// It goes on behind an outage, in which the unit may have gone on too, and kept what passed. The machine's
     /// calendar is too coarse to tell which of that the race still had; the unit's own clock is not.
-    void anschliessen(const ausfall_stand& vorher) { ausfall_ = vorher; }
+    void anschliessen(const ausfall_stand& vorher) {
+        ausfall_ = vorher;
+        staut_ = true;
+    }
+    /// The unit had no passage to tell: what comes from now on has just happened.
+    void nichts_wartet() { staut_ = false; }
 
     /// What the unit's clock shows at this moment of the machine's.
     zeit_ms lesen(zeit_ms maschine) const { return jetzt_.lesen(maschine); }
@@ -102,6 +107,7 @@ private:
     std::optional<stand> davor_;            ///< a jump that no second passage has borne out may be a damaged record
     zeit_ms sprung_ = 0;                    ///< of it
     std::optional<ausfall_stand> ausfall_;  ///< until the race goes on behind it
+    bool staut_ = false;                    ///< what the unit has kept in it comes first, in whatever order
     bool angeschlossen_ = false;            ///< the unit's clock is the one from before it
     bool unbenutzt_ = false;  ///< aligned in a pause, and no lap has been stamped by it yet: it may still be moved
 };
