@@ -143,6 +143,9 @@ void mitschrift::zaehlung_beenden() {
     if (z.schritt > 0 || z.merklich || z.nebenbei != nebenbei_lesen_() || e.laeufe == mitschriftwort::laeufe_max ||
         (laeufe_.offen && laeufe_.tiefe != tiefe)) {
         zuege_schreiben();
+        if (zuege_.back().merklich) {
+            wecken();  // a penalty that is over gives a lap back, say, which the next look finds
+        }
     } else {
         laeufe_ = {true, tiefe, z.beginn};
         ++e.laeufe;

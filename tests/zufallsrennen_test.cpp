@@ -360,7 +360,8 @@ private:
 };
 
 TEST(Zufallsrennen, ImmerGiltWasImmerGeltenMuss) {
-    const unsigned erste = test::aus_umgebung("TARVEL_SAAT", 1);
+    constexpr unsigned ab = 1760;  // the race of 1770 is led by a lap that an empty tank had held back
+    const unsigned erste = test::aus_umgebung("TARVEL_SAAT", ab);
     const unsigned anzahl = test::aus_umgebung("TARVEL_RENNEN", 25);
     for (unsigned saat = erste; saat < erste + anzahl && !testing::Test::HasFailure(); ++saat) {
         SCOPED_TRACE("TARVEL_SAAT=" + std::to_string(saat));
