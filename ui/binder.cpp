@@ -192,8 +192,15 @@ QPushButton* Binder::knopf(befehl& element, const QString& name, const char* rol
                                  : kuerzel_.vergeben(widget, als_text(element.text()));
         if (widget->text() != text) {
             widget->setText(text);
+            kuerzel_.nachtragen(widget);
         }
     });
+    return widget;
+}
+
+QPushButton* Binder::knopf_mit_rueckfrage(befehl& element, const QString& name) {
+    QPushButton* widget = knopf(element, name);
+    kuerzel_.festhalten(widget);
     return widget;
 }
 

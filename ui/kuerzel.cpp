@@ -1,5 +1,6 @@
 #include "ui/kuerzel.h"
 
+#include <QKeySequence>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -11,49 +12,111 @@ bool taugt(QChar zeichen) {
     return klein >= u'a' && klein <= u'z';
 }
 
-}  // namespace
-
-bool Kuerzel::ist_frei(QChar buchstabe, const QAbstractButton* fuer) const {
-    return std::none_of(vergeben_.begin(), vergeben_.end(), [&](const auto& eintrag) {
-        return eintrag.first != fuer && eintrag.second == buchstabe.toLower();
-    });
+bool beginnt_ein_wort(const QString& text, QChar buchstabe) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i].toLower() == buchstabe && (i == 0 || !text[i - 1].isLetter())) {
+            return true;
+        }
+    }
+    return false;
 }
 
-qsizetype Kuerzel::platz_suchen(const QAbstractButton* knopf, const QString& text) const {
-    const auto alt = vergeben_.find(knopf);
-    const qsizetype behalten = alt == vergeben_.end() ? -1 : text.indexOf(alt->second, 0, Qt::CaseInsensitive);
+QString beschriftung(const QString& text, QChar buchstabe) {
+    qsizetype platz = buchstabe.isNull() ? -1 : text.indexOf(buchstabe, 0, Qt::CaseInsensitive);
+    for (qsizetype i = platz; i > 0 && i < text.size(); ++i) {
+        if (text[i].toLower() == buchstabe && !text[i - 1].isLetter()) {
+            platz = i;  // where a word begins with it
+            break;
+        }
+    }
+    QString fertig;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (i == platz) {
+            fertig += '&';
+        }
+        fertig += text[i];
+        if (text[i] == '&') {
+            fertig += '&';  // stands for itself
+        }
+    }
+    return fertig;
+}
+
+}  // namespace
+
+QAbstractButton* Kuerzel::besitzer(QChar buchstabe) const {
+    const auto gefunden = std::find_if(knoepfe_.begin(), knoepfe_.end(),
+                                       [&](const auto& eintrag) { return eintrag.second.buchstabe == buchstabe; });
+    return gefunden == knoepfe_.end() ? nullptr : gefunden->first;
+}
+
+qsizetype Kuerzel::platz_suchen(QAbstractButton* knopf, const Eintrag& eintrag) const {
+    const QString& text = eintrag.text;
+    const qsizetype behalten =
+        eintrag.buchstabe.isNull() ? -1 : text.indexOf(eintrag.buchstabe, 0, Qt::CaseInsensitive);
     if (behalten >= 0) {
         return behalten;
     }
     for (const bool wortanfang : {true, false}) {
         for (qsizetype i = 0; i < text.size(); ++i) {
             const bool am_anfang = i == 0 || !text[i - 1].isLetter();
-            if ((am_anfang || !wortanfang) && taugt(text[i]) && ist_frei(text[i], knopf)) {
-                return i;
+            if ((am_anfang || !wortanfang) && taugt(text[i])) {
+                const QAbstractButton* wer = besitzer(text[i].toLower());
+                if (wer == nullptr || wer == knopf) {
+                    return i;
+                }
             }
         }
     }
     return -1;
 }
 
-QString Kuerzel::vergeben(const QAbstractButton* knopf, const QString& text) {
-    const qsizetype platz = platz_suchen(knopf, text);
-    QString beschriftung;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (i == platz) {
-            beschriftung += '&';
+/// Who has the letter looks for another, which may drive out a third, and so on.
+bool Kuerzel::verdraengen(QAbstractButton* knopf, bool auch_anfaenge, std::set<QChar>& versucht) {
+    Eintrag& eintrag = knoepfe_[knopf];
+    for (const QChar zeichen : eintrag.text) {
+        const QChar buchstabe = zeichen.toLower();
+        if (!taugt(zeichen) || !versucht.insert(buchstabe).second) {
+            continue;
         }
-        beschriftung += text[i];
-        if (text[i] == '&') {
-            beschriftung += '&';  // stands for itself
+        QAbstractButton* wer = besitzer(buchstabe);
+        const bool fest = wer != nullptr && !auch_anfaenge && beginnt_ein_wort(knoepfe_[wer].text, buchstabe);
+        if (wer == nullptr || (!fest && verdraengen(wer, auch_anfaenge, versucht))) {
+            eintrag.buchstabe = buchstabe;
+            knopf->setText(beschriftung(eintrag.text, buchstabe));
+            return true;
         }
     }
+    return false;
+}
+
+QString Kuerzel::vergeben(QAbstractButton* knopf, const QString& text) {
+    Eintrag& eintrag = knoepfe_[knopf];
+    eintrag.text = text;
+    if (eintrag.bleibt && !eintrag.buchstabe.isNull()) {
+        return beschriftung(text, eintrag.buchstabe);
+    }
+    const qsizetype platz = platz_suchen(knopf, eintrag);
     if (platz >= 0) {
-        vergeben_[knopf] = text[platz].toLower();
+        eintrag.buchstabe = text[platz].toLower();
+    } else if (eintrag.buchstabe.isNull()) {  // no letter moves about with captions that come and go
+        for (const bool auch_anfaenge : {false, true}) {
+            std::set<QChar> versucht;
+            if (verdraengen(knopf, auch_anfaenge, versucht)) {
+                break;
+            }
+        }
     } else {
-        vergeben_.erase(knopf);
+        eintrag.buchstabe = {};
     }
-    return beschriftung;
+    return beschriftung(text, eintrag.buchstabe);
+}
+
+void Kuerzel::nachtragen(QAbstractButton* knopf) const {
+    const auto eintrag = knoepfe_.find(knopf);
+    if (eintrag != knoepfe_.end() && eintrag->second.bleibt && knopf->shortcut().isEmpty()) {
+        knopf->setShortcut(QKeySequence(QString("Alt+%1").arg(eintrag->second.buchstabe.toUpper())));
+    }
 }
 
 }  // namespace tarvel::ui

@@ -163,6 +163,9 @@ TEST_F(AlleFenster, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
         EXPECT_GE(kuerzel.size(), fenster == &o.form1 ? 10 : 0);
         EXPECT_EQ(kuerzel.removeDuplicates(), 0) << fenster->objectName().toStdString();
     }
+    for (const char* name : {"Form1.Command11", "Form1.command_liste", "Form1.command_zuletzt"}) {
+        EXPECT_TRUE(finde<QPushButton>(o.form1, name)->text().contains('&')) << "another has made room: " << name;
+    }
     t.p.fenster.entladen(fenstername::speichernfenster);
     t.p.form1.Command1.text("J && B");
     o.takt.ausfuehren();

@@ -1,6 +1,10 @@
+#include <QCompleter>
+#include <QDropEvent>
 #include <QListView>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
+#include <QUrl>
 #include <chrono>
 #include <map>
 
@@ -293,6 +297,75 @@ TEST_F(Oberflaeche, TausendRundenVerschiebenKeineSpalte) {
                                       {"auswertung.zeit_aus_0", "auswertung.zeit_aus_1"}}) {
         EXPECT_EQ(links(oben), links(unten)) << oben;
     }
+}
+
+TEST_F(Oberflaeche, EinBildAufDemFahrerUndEineSpurAufDerAnderen) {
+    auto* gruppe = finde<QWidget>(o.form1, "Form1.Frame_spuren");
+    const auto fallen = [&](const char* worauf, const QMimeData& daten) {
+        auto* ziel = finde<QWidget>(o.form1, worauf);
+        const QPoint hier = ziel->mapTo(gruppe, ziel->rect().center());
+        QDragEnterEvent kommt(hier, Qt::CopyAction | Qt::MoveAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(gruppe, &kommt);
+        QDropEvent faellt(QPointF(hier), Qt::CopyAction | Qt::MoveAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(gruppe, &faellt);
+        QTest::qWait(20);
+        return faellt.isAccepted();
+    };
+    t.maschine.datei_schreiben("foto.jpg", "\xFF\xD8\xFF\xE0 Bild");
+    QMimeData datei;
+    datei.setUrls({QUrl::fromLocalFile(QString::fromStdString((t.maschine.ordner() / "foto.jpg").string()))});
+    EXPECT_TRUE(fallen("Form1.fahrer_1", datei));
+    EXPECT_TRUE(t.maschine.datei_da("pictures/Fahrer 2.jpg"));
+    EXPECT_FALSE(fallen("Form1.Label_fahrer", datei)) << "nobody's";
+    ui::Zuglast last;
+    last.spur = 1;
+    EXPECT_TRUE(fallen("Form1.lspur_1", *last.als_daten()));
+    EXPECT_EQ(t.p.form1.fahrer[0].text() + t.p.form1.fahrer[1].text(), "Fahrer 2Fahrer 1");
+    EXPECT_FALSE(fallen("Form1.lspur_0", *last.als_daten())) << "on itself";
+}
+
+TEST_F(Oberflaeche, DieTasteVonRennendeGiltAuchFuerDieRueckfrage) {
+    t.starten("Zeit", "5", {1});
+    t.runde_nach(1000, "1");
+    o.takt.ausfuehren();
+    o.bahn1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));
+    const QString davor = finde<QPushButton>(o.bahn1, "bahn1.Command4")->text();
+    const char buchstabe = davor.at(davor.indexOf('&') + 1).toLower().toLatin1();
+    for (int druck = 1; druck <= 2; ++druck) {
+        QTest::keyClick(&o.bahn1, buchstabe, Qt::AltModifier);
+        QTest::qWait(250);  // the press is shown first
+        t.maschine.laufen(1000);
+        o.takt.ausfuehren();
+    }
+    EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
+}
+
+TEST_F(Oberflaeche, DieListeDerFahrerMachtDasFensterNichtBreiter) {
+    o.form1.resize(985, 700);
+    QTest::qWait(50);
+    klick(o.form1, "Form1.command_liste");
+    o.takt.ausfuehren();
+    QTest::qWait(50);
+    EXPECT_TRUE(finde<QWidget>(o.form1, "Form1.fahrerreihe")->isVisible());
+    EXPECT_GT(finde<QWidget>(o.form1, "Form1.Frame_liste")->width(), 100);
+    EXPECT_EQ(o.form1.width(), 985) << "as wide as a small screen";
+}
+
+TEST_F(Oberflaeche, NamenWerdenAngebotenUndNieUngefragtEingesetzt) {
+    auto* fahrer = finde<QComboBox>(o.form1, "Form1.fahrer_0");
+    const auto tippen_und = [&](const char* text, std::initializer_list<Qt::Key> tasten) {
+        fahrer->setFocus();
+        fahrer->lineEdit()->selectAll();
+        QTest::keyClicks(fahrer, text);
+        for (const Qt::Key taste : tasten) {
+            QWidget* offen = fahrer->completer()->popup();
+            QTest::keyClick(offen->isVisible() ? offen : fahrer, taste);
+        }
+        return t.p.form1.fahrer[0].text();
+    };
+    EXPECT_EQ(tippen_und("Fahr", {Qt::Key_Tab}), "Fahr");
+    EXPECT_EQ(tippen_und("fahr", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}), "Fahrer 2");
 }
 
 }  // namespace
