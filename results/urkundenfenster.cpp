@@ -68,7 +68,11 @@ sprachliste urkundenfenster::sprache_u() {
     eingabe("Verein", Label_verein, verein);
     eingabe("Veranstaltung", Label_veranstaltung, veranstaltung);
     eingabe("Vorlage", Label_vorlage, vorlage);
-    texte.text("Urkunden für", Frame_fahrer).text("Drucken", Command_drucken);
+    texte.text("Urkunden für", [this](const std::string& neu) {
+        Frame_fahrer.text(neu);
+        fahrer.ansage(neu);
+    });
+    texte.text("Drucken", Command_drucken);
     texte.text("Als PDF speichern", Command_pdf).text("Schließen", Command_ende);
     texte.tipp("Steht auf den Urkunden und über den Ergebnisblättern", verein);
     texte.tipp("Steht auf den Urkunden und über den Ergebnisblättern", veranstaltung);
@@ -115,7 +119,6 @@ void urkundenfenster::aufschlagen(const std::string& rennen, const std::string& 
     Command_vor.text("▶");
     Command_zurueck.ansage(Command_zurueck.tipp());
     Command_vor.ansage(Command_vor.tipp());
-    fahrer.ansage(Frame_fahrer.text());
     verein.text(gespeichert_.verein);
     veranstaltung.text(gespeichert_.veranstaltung);
     std::vector<std::string> vorlagen = um_.welt.ablage.auflisten(urkunden_ordner, "", ".txt");

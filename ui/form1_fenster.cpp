@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "ui/eingabefelder.h"
@@ -217,8 +218,16 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
 }
 
 QWidget* Form1Fenster::fahrerliste() {
-    QGroupBox* gruppe = binder().gruppe(logik_.Frame_liste, "Frame_liste");
-    gruppe->setFixedWidth(listenbreite);
+    auto* gruppe = new QGroupBox(this);
+    gruppe->setFixedWidth(0);
+    binder().verbinden(logik_.Frame_liste, gruppe, "Frame_liste", [this, gruppe] {
+        gruppe->setTitle(QString::fromStdString(logik_.Frame_liste.text()));
+        if (!logik_.Frame_liste.sichtbar()) {
+            gruppe->setFixedWidth(0);
+        } else {  // once the lanes have drawn together: both at full width would make the window grow
+            QTimer::singleShot(0, gruppe, [gruppe] { gruppe->setFixedWidth(listenbreite); });
+        }
+    });
     auto* aufbau = new QVBoxLayout(gruppe);
     QListView* liste = binder().listenfeld(logik_.fahrerreihe, "fahrerreihe");
     aufbau->addWidget(liste, 1);
