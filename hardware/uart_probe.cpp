@@ -103,7 +103,7 @@ sprachliste uart_probe::sprache() {
     texte.text("Das Gerät startet …", wort_.startet).text("Port geöffnet, Gerät ansprechbar!", wort_.bereit);
     texte.text("Auf der Seite „Messhardware“ ist kein COM-Port gewählt", wort_.kein_port);
     texte.text("kann nicht geöffnet werden", wort_.nicht_da).text("Die Verbindung ist weg", wort_.verloren);
-    texte.text("steht nicht in der Befehlsdatei", wort_.unbekannt).text("Spur", wort_.spur);
+    texte.text("nicht zugeordnet", wort_.unbekannt).text("Spur", wort_.spur);
     return texte.text("Soundsensor", wort_.soundsensor);
 }
 

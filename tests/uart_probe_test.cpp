@@ -42,8 +42,7 @@ TEST_F(UartProbe, JedesEreignisHatSeineLampeUndJederAusgangSeinenHaken) {
     EXPECT_TRUE(leuchtet(at_zeile::rundenzaehlung(1)));
     EXPECT_TRUE(leuchtet(at_zeile::chaos_allgemein));
     EXPECT_FALSE(leuchtet(at_zeile::rundenzaehlung(5))) << "no word is none";
-    EXPECT_NE(w.protokoll.zeilen().at(w.protokoll.zeilen().size() - 2).find("nicht in der Befehlsdatei"),
-              std::string::npos);
+    EXPECT_NE(w.protokoll.zeilen().at(w.protokoll.zeilen().size() - 2).find("nicht zugeordnet"), std::string::npos);
     t.maschine.laufen(800);
     EXPECT_FALSE(leuchtet(at_zeile::rundenzaehlung(1)));
     w.ampel[4].umschalten();

@@ -30,5 +30,6 @@ bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760
 usbtest                  usbtest            1012x690
 druckeranschluss         druckeranschluss   820x520
+uart_probe               at2560_pruefen     1000x720
 urkunden                 urkunden           1024x768
 BILDER

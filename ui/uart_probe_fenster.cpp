@@ -37,7 +37,7 @@ UartProbeFenster::UartProbeFenster(uart_probe& logik, Fensterverwaltung& verwalt
     unten->addWidget(meldungsgruppe(), 1);
     aufbau->addLayout(unten, 1);
     aufbau->addLayout(stil::knopfzeile({stil::fensterknopf(binder().hauptknopf(logik.Command1, "Command1"))}));
-    resize(980, 700);
+    resize(1000, 720);
 }
 
 QHBoxLayout* UartProbeFenster::kanal(int zeile) {
@@ -110,6 +110,9 @@ QWidget* UartProbeFenster::meldungsgruppe() {
     auto* spalte = new QVBoxLayout(kasten);
     QListView* liste = binder().protokollfeld(logik_.protokoll, "protokoll");
     liste->setFocusPolicy(Qt::ClickFocus);
+    liste->setUniformItemSizes(false);  // some of its lines are long
+    liste->setWordWrap(true);
+    liste->setResizeMode(QListView::Adjust);
     spalte->addWidget(liste, 1);
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(binder().label(logik_.Label_befehl, "Label_befehl"));
