@@ -77,6 +77,20 @@ TEST_F(RaceControl, AbgezogenUndWiederDaKostetKeineZeit) {
     }
 }
 
+TEST(RcUhr, EineBoxDieAusWarBeginntNeuAuchWennSieSchonWeiterZaehltAlsZuvor) {
+    constexpr std::uint32_t ticks_je_sekunde = 4800;
+    rc_uhr uhr;
+    EXPECT_TRUE(uhr.lesen(2 * ticks_je_sekunde, 100000, 100000).versetzen);
+    EXPECT_FALSE(uhr.lesen(3 * ticks_je_sekunde, 101000, 3000).versetzen);
+    uhr.wieder_da();
+    const rc_uhr::befund befund = uhr.lesen(4 * ticks_je_sekunde, 161000, 63000);
+    EXPECT_EQ(befund.stempel, 4000);
+    EXPECT_EQ(befund.versetzen, 4000 - 63000) << "else its next laps would be of a minute ago";
+    EXPECT_FALSE(uhr.lesen(5 * ticks_je_sekunde, 168000, 11000).versetzen) << "that one was held up";
+    uhr.wieder_da();
+    EXPECT_FALSE(uhr.lesen(64 * ticks_je_sekunde, 221000, 64000).versetzen) << "only the cable was out";
+}
+
 TEST_F(RaceControl, WasWartenMussteHatDieZeitDerBox) {
     box_hinstellen(vier_wagen());
     verbinden();
