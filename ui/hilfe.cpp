@@ -6,12 +6,14 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 #include <algorithm>
 #include <map>
 #include <utility>
 
+#include "core/erscheinung.h"
 #include "optionen/erklaerungen.h"
 
 namespace tarvel::ui {
@@ -65,22 +67,35 @@ const std::map<fenstername, const char*>& kapitel() {
 hilfeort option_im_fokus(const QWidget& fenster) {
     const QWidget* fokus = fenster.focusWidget();
     const QString name = fokus != nullptr ? fokus->objectName().section('.', -1) : QString();
-    const auto platz = erklaerung_fuer(name.toStdString());
-    if (name.isEmpty() || !platz) {
-        return {einstellungsliste, {}, {}};
+    const auto platz = name.isEmpty() ? std::nullopt : erklaerung_fuer(name.toStdString());
+    return {einstellungsliste, {}, platz ? static_cast<int>(*platz) : -1};
+}
+
+/// None if the page is missing.
+std::optional<QString> seite_lesen(const QString& name) {
+    QFile datei(name);
+    return datei.open(QIODevice::ReadOnly) ? std::optional(QString::fromUtf8(datei.readAll())) : std::nullopt;
+}
+
+/// The anchors of a page's headings, in their order.
+QStringList anker_der_seite(const QString& seite) {
+    QStringList anker;
+    for (const QString& zeile : seite.split('\n')) {
+        if (zeile.startsWith('#')) {
+            anker << anker_von(zeile.section(' ', 1));
+        }
     }
-    const std::string_view titel = erklaerungen()[*platz].titel;
-    return {einstellungsliste, {}, QString::fromUtf8(titel.data(), static_cast<qsizetype>(titel.size()))};
+    return anker;
 }
 
 }  // namespace
 
 hilfeort hilfe_zu(fenstername fenster) {
     if (fenster == fenstername::einstellungen) {
-        return {einstellungsliste, {}, {}};
+        return {einstellungsliste, {}};
     }
     const auto gefunden = kapitel().find(fenster);
-    return {handbuchdatei, gefunden == kapitel().end() ? QString() : QString(gefunden->second), {}};
+    return {handbuchdatei, gefunden == kapitel().end() ? QString() : QString(gefunden->second)};
 }
 
 QString anker_von(const QString& ueberschrift) {
@@ -95,11 +110,10 @@ QString anker_von(const QString& ueberschrift) {
     return anker;
 }
 
-Handbuch::Handbuch(QString ordner, QWidget* vor) : QTextBrowser(vor), ordner_(std::move(ordner)) {
+Handbuch::Handbuch(QString ordner, QString sprache, QWidget* vor)
+    : QTextBrowser(vor), ordner_(std::move(ordner)), sprache_(std::move(sprache)) {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle("Handbuch");
-    setAccessibleName(windowTitle());
     setObjectName("handbuch");
     setOpenLinks(false);
     setStyleSheet("QTextBrowser { background: white; color: #1c2028; padding: 12px; }");
@@ -110,13 +124,7 @@ Handbuch::Handbuch(QString ordner, QWidget* vor) : QTextBrowser(vor), ordner_(st
 
 void Handbuch::aufschlagen(const hilfeort& ort) {
     if (datei_ != ort.datei) {
-        QFile datei(ordner_ + "/" + ort.datei);
-        if (datei.open(QIODevice::ReadOnly)) {
-            setMarkdown(QString::fromUtf8(datei.readAll()));
-        } else {
-            setPlainText("Das Handbuch fehlt: " + datei.fileName());
-        }
-        datei_ = ort.datei;
+        laden(ort.datei);
     }
     show();
     raise();
@@ -124,32 +132,63 @@ void Handbuch::aufschlagen(const hilfeort& ort) {
     hinrollen(ort);
 }
 
+void Handbuch::laden(const QString& datei) {
+    datei_ = datei;
+    seiten_ordner_ = ordner_ + "/" + sprache_;
+    if (!QFile::exists(seiten_ordner_ + "/" + datei)) {
+        seiten_ordner_ = ordner_;
+    }
+    const auto seite = seite_lesen(seiten_ordner_ + "/" + datei);
+    if (seite) {
+        setMarkdown(*seite);
+    } else {
+        setPlainText("Das Handbuch fehlt: " + seiten_ordner_ + "/" + datei);
+    }
+    anker_ = anker_der_seite(seite.value_or(QString()));
+    setWindowTitle(document()->begin().text());
+    setAccessibleName(windowTitle());
+}
+
 void Handbuch::hinrollen(const hilfeort& ort) {
-    QTextBlock ziel = document()->begin();
-    for (QTextBlock block = document()->begin(); block.isValid() && !ort.anker.isEmpty(); block = block.next()) {
-        if (block.blockFormat().headingLevel() > 0 && anker_von(block.text()) == ort.anker) {
-            ziel = block;
-            break;
-        }
-    }
-    for (QTextBlock block = ziel; block.isValid() && !ort.zeile.isEmpty(); block = block.next()) {
-        if (block.text() == ort.zeile) {
-            ziel = block;
-            break;
-        }
-    }
-    QTextCursor marke(ziel);
-    if (!ort.zeile.isEmpty()) {
-        marke.setPosition(ziel.position() + ziel.length() - 1, QTextCursor::KeepAnchor);
-    }
+    QTextCursor marke = ort.zeile >= 0 ? tabellenzeile(ort.zeile) : QTextCursor(ueberschrift(ort.anker));
     setTextCursor(marke);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(QTextCursor(ziel)).top() - 20);
+    marke.setPosition(marke.anchor());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(marke).top() - 20);
+}
+
+/// The heading of this anchor, or the one in the place where the German page has it; else the beginning.
+QTextBlock Handbuch::ueberschrift(const QString& anker) const {
+    qsizetype platz = anker_.indexOf(anker);
+    if (platz < 0) {
+        platz = anker_der_seite(seite_lesen(ordner_ + "/" + datei_).value_or(QString())).indexOf(anker);
+    }
+    for (QTextBlock block = document()->begin(); block.isValid() && platz >= 0; block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0 && platz-- == 0) {
+            return block;
+        }
+    }
+    return document()->begin();
+}
+
+/// What the row begins with, marked.
+QTextCursor Handbuch::tabellenzeile(int zeile) const {
+    for (const QTextFrame* rahmen : document()->rootFrame()->childFrames()) {
+        const auto* tabelle = qobject_cast<const QTextTable*>(rahmen);
+        const int zeilen = tabelle == nullptr ? 0 : tabelle->rows() - 1;
+        if (zeile < zeilen) {
+            QTextCursor marke = tabelle->cellAt(zeile + 1, 0).firstCursorPosition();
+            marke.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            return marke;
+        }
+        zeile -= zeilen;
+    }
+    return QTextCursor(document()->begin());
 }
 
 void Handbuch::folgen(const QUrl& verweis) {
     const QString datei = verweis.path().isEmpty() ? datei_ : verweis.path();
     if (verweis.scheme().isEmpty() && (datei == handbuchdatei || datei == einstellungsliste)) {
-        aufschlagen({datei, verweis.fragment(QUrl::FullyDecoded), {}});
+        aufschlagen({datei, verweis.fragment(QUrl::FullyDecoded)});
     }
 }
 
@@ -157,7 +196,7 @@ QVariant Handbuch::loadResource(int art, const QUrl& name) {
     if (art != QTextDocument::ImageResource || !name.scheme().isEmpty()) {
         return {};  // nothing comes from a network
     }
-    QImage bild(ordner_ + "/" + name.path());
+    QImage bild(seiten_ordner_ + "/" + name.path());
     return bild.width() > bild_breite_max ? bild.scaledToWidth(bild_breite_max, Qt::SmoothTransformation) : bild;
 }
 
@@ -192,9 +231,11 @@ bool Hilfe::eventFilter(QObject* ziel, QEvent* ereignis) {
                 return true;
             }
             if (wohin && !taste.isAutoRepeat()) {
-                if (handbuch_ == nullptr || handbuch_->parentWidget() != vorn) {
+                const QString sprache = QString::fromStdString(sprachkuerzel(einst_.anzeige.sprachordner));
+                if (handbuch_ == nullptr || handbuch_->parentWidget() != vorn || handbuch_->sprache() != sprache) {
                     delete handbuch_;  // a window that takes all input takes it from one of another window as well
-                    handbuch_ = new Handbuch(QString::fromStdU16String(ablage_.pfad("Hilfe").u16string()), vorn);
+                    handbuch_ =
+                        new Handbuch(QString::fromStdU16String(ablage_.pfad("Hilfe").u16string()), sprache, vorn);
                 }
                 handbuch_->aufschlagen(*wohin);
                 return true;
