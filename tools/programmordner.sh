@@ -26,8 +26,9 @@ mkdir -p Tarvel/Werkzeuge/Bibliotheken
 for bibliothek in "${bibliotheken[@]}"; do
     find build/release/tools -name "lib$bibliothek.so" -exec cp -f --remove-destination {} Tarvel/Werkzeuge/Bibliotheken/ \;
 done
-mkdir -p Tarvel/Hilfe
+mkdir -p Tarvel/Hilfe/en
 cp -f --remove-destination docs/Handbuch.md docs/Einstellungen.md docs/*.png Tarvel/Hilfe/ # what F1 shows
+cp -f --remove-destination docs/en/*.md Tarvel/Hilfe/en/ # with the same pictures
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
         if [ -e "Tarvel/$datei" ]; then
