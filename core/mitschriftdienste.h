@@ -57,6 +57,9 @@ private:
 
     struct meldungen final : plattform::meldungen {
         meldungen(mitschrift& protokoll, plattform::meldungen& dienst) : m(protokoll), echte(dienst) {}
+        void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override {
+            echte.knoepfe_beschriften(ja, nein, ausweg);
+        }
         void zeigen(std::string_view text, std::string_view titel) override;
         bool fragen(std::string_view text, std::string_view titel) override;
         plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;

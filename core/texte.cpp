@@ -170,8 +170,9 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Es gibt kein Rennen, das fortgesetzt werden kann.", wettkampf.keines);
     gruppe.text("Dieses Rennen lässt sich nicht fortsetzen: Sein Protokoll ist beschädigt oder passt nicht mehr.",
                 wettkampf.nicht_fortsetzbar);
-    return gruppe.text("Das Rennen geht weiter, aber sein Protokoll lässt sich nicht mehr schreiben.",
-                       wettkampf.ohne_protokoll);
+    gruppe.text("Das Rennen geht weiter, aber sein Protokoll lässt sich nicht mehr schreiben.",
+                wettkampf.ohne_protokoll);
+    return gruppe.text("Ja", ja).text("Nein", nein).text("Das Handbuch fehlt:", handbuch_fehlt);
 }
 
 sprachliste texte::sprache_tx1() {

@@ -32,6 +32,9 @@ struct texte {
     std::array<std::string, 2> titel;
     std::array<std::string, 28> meldung;  ///< index 1 to 27
     std::array<std::string, 12> datei_text;
+    static constexpr std::size_t abbrechen = 10;  ///< the place of that word among them
+    std::string ja, nein;
+    std::string handbuch_fehlt;  ///< before the name of the file
 
     std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";

@@ -11,6 +11,8 @@ enum class dreifache_antwort { ja, nein, abbrechen };
 /// Message boxes. They return when the operator has closed the box; timers go on ticking meanwhile.
 class meldungen : public schnittstelle {
 public:
+    /// What stands on the buttons from now on; at first it is German.
+    virtual void knoepfe_beschriften(std::string_view /*ja*/, std::string_view /*nein*/, std::string_view /*ausweg*/) {}
     virtual void zeigen(std::string_view text, std::string_view titel) = 0;
     /// A question with yes and no; closing the box means no.
     virtual bool fragen(std::string_view text, std::string_view titel) = 0;

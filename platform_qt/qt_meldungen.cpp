@@ -12,22 +12,29 @@ QString als_text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+}  // namespace
+
+void QtMeldungen::knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) {
+    ja_ = als_text(ja);
+    nein_ = als_text(nein);
+    ausweg_ = als_text(ausweg);
+}
+
 /// Closing the box means no, or takes the way out where there is one.
-plattform::dreifache_antwort frage_stellen(std::string_view text, std::string_view titel, const char* ausweg) {
+plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::string_view titel,
+                                                  bool mit_ausweg) const {
     QMessageBox box(QMessageBox::Question, als_text(titel), als_text(text), QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setObjectName("frage");
     box.setTextFormat(Qt::PlainText);
-    const QPushButton* ja = box.addButton("Ja", QMessageBox::YesRole);
-    QPushButton* nein = box.addButton("Nein", QMessageBox::NoRole);
+    const QPushButton* ja = box.addButton(ja_, QMessageBox::YesRole);
+    QPushButton* nein = box.addButton(nein_, QMessageBox::NoRole);
     box.setDefaultButton(nein);
-    box.setEscapeButton(ausweg == nullptr ? nein : box.addButton(ausweg, QMessageBox::RejectRole));
+    box.setEscapeButton(mit_ausweg ? box.addButton(ausweg_, QMessageBox::RejectRole) : nein);
     box.exec();
     using antwort = plattform::dreifache_antwort;
     return box.clickedButton() == ja ? antwort::ja : box.clickedButton() == nein ? antwort::nein : antwort::abbrechen;
 }
-
-}  // namespace
 
 void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
     QMessageBox box(QMessageBox::Warning, als_text(titel), als_text(text), QMessageBox::Ok,
@@ -38,11 +45,11 @@ void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
 }
 
 bool QtMeldungen::fragen(std::string_view text, std::string_view titel) {
-    return frage_stellen(text, titel, nullptr) == plattform::dreifache_antwort::ja;
+    return stellen(text, titel, false) == plattform::dreifache_antwort::ja;
 }
 
 plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
-    return frage_stellen(text, titel, "Abbrechen");
+    return stellen(text, titel, true);
 }
 
 }  // namespace tarvel::qt

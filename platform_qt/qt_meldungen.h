@@ -1,14 +1,24 @@
 #pragma once
 
+#include <QString>
+
 #include "platform/meldungen.h"
 
 namespace tarvel::qt {
 
 class QtMeldungen final : public plattform::meldungen {
 public:
+    void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
+
+private:
+    plattform::dreifache_antwort stellen(std::string_view text, std::string_view titel, bool mit_ausweg) const;
+
+    QString ja_ = "Ja";
+    QString nein_ = "Nein";
+    QString ausweg_ = "Abbrechen";
 };
 
 }  // namespace tarvel::qt

@@ -110,8 +110,8 @@ QString anker_von(const QString& ueberschrift) {
     return anker;
 }
 
-Handbuch::Handbuch(QString ordner, QString sprache, QWidget* vor)
-    : QTextBrowser(vor), ordner_(std::move(ordner)), sprache_(std::move(sprache)) {
+Handbuch::Handbuch(QString ordner, QString sprache, QString fehlt, QWidget* vor)
+    : QTextBrowser(vor), ordner_(std::move(ordner)), sprache_(std::move(sprache)), fehlt_(std::move(fehlt)) {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("handbuch");
@@ -142,7 +142,7 @@ void Handbuch::laden(const QString& datei) {
     if (seite) {
         setMarkdown(*seite);
     } else {
-        setPlainText("Das Handbuch fehlt: " + seiten_ordner_ + "/" + datei);
+        setPlainText(fehlt_ + " " + seiten_ordner_ + "/" + datei);
     }
     anker_ = anker_der_seite(seite.value_or(QString()));
     setWindowTitle(document()->begin().text());
@@ -208,7 +208,8 @@ void Handbuch::keyPressEvent(QKeyEvent* ereignis) {
     }
 }
 
-Hilfe::Hilfe(const dateien& ablage, const einstellungen& einst) : ablage_(ablage), einst_(einst) {
+Hilfe::Hilfe(const dateien& ablage, const einstellungen& einst, const texte& txt)
+    : ablage_(ablage), einst_(einst), txt_(txt) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 

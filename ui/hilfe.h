@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "core/einstellungen.h"
+#include "core/texte.h"
 #include "ui/fenster.h"
 
 namespace tarvel::ui {
@@ -31,7 +32,8 @@ QString anker_von(const QString& ueberschrift);
 /// German ones; one without pages shows the German.
 class Handbuch final : public QTextBrowser {
 public:
-    Handbuch(QString ordner, QString sprache, QWidget* vor);
+    /// `fehlt` is said, with the name of the file, where a page is missing.
+    Handbuch(QString ordner, QString sprache, QString fehlt, QWidget* vor);
 
     void aufschlagen(const hilfeort& ort);
     const QString& sprache() const { return sprache_; }
@@ -47,8 +49,9 @@ private:
     QTextBlock ueberschrift(const QString& anker) const;
     QTextCursor tabellenzeile(int zeile) const;
 
-    QString ordner_;         ///< of the German pages
-    QString sprache_;        ///< its letters, as in the name of its folder
+    QString ordner_;   ///< of the German pages
+    QString sprache_;  ///< its letters, as in the name of its folder
+    QString fehlt_;
     QString datei_;          ///< that is open
     QString seiten_ordner_;  ///< that it is from; its pictures are named from there
     QStringList anker_;      ///< of its headings, in their order
@@ -58,7 +61,7 @@ private:
 /// has that key.
 class Hilfe final : public QObject {
 public:
-    Hilfe(const dateien& ablage, const einstellungen& einst);
+    Hilfe(const dateien& ablage, const einstellungen& einst, const texte& txt);
 
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
     Handbuch* handbuch() const { return handbuch_; }
@@ -69,6 +72,7 @@ private:
 
     const dateien& ablage_;
     const einstellungen& einst_;
+    const texte& txt_;
     QPointer<Handbuch> handbuch_;
 };
 

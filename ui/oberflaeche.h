@@ -109,7 +109,7 @@ public:
     SpaetesFenster<BildwahlFenster> bildwahl{p_.fahrerbild_laden, fenster, &einstellungen};
     SpaetesFenster<SpeichernFenster> fahrerspeichern{p_.fahrerspeichernfenster, fenster, &einstellungen};
     SpaetesFenster<WiedergabeFenster> wiedergabe{p_.wiedergabe, fenster, &form1};
-    Hilfe hilfe{p_.ablage, p_.einst};
+    Hilfe hilfe{p_.ablage, p_.einst, p_.txt};
     Tastenfaenger tasten{p_, {&bahn1, &form2, &k_ampel, &einfahren}};
 };
 

@@ -61,6 +61,7 @@ public:
 
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
+    std::string knoepfe_der_fragen;
     bool antwort = false;  ///< to every question
     plattform::dreifache_antwort antwort_mit_ausweg = plattform::dreifache_antwort::abbrechen;
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
@@ -83,6 +84,9 @@ private:
     std::unique_ptr<plattform::zeitgeber> erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) override;
     std::unique_ptr<schnittstelle> starten(dauer_ms abstand, std::function<void(zeit_ms)> blick) override;
     void zeigen(std::string_view text, std::string_view titel) override;
+    void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override {
+        knoepfe_der_fragen = std::string(ja) + "/" + std::string(nein) + "/" + std::string(ausweg);
+    }
     bool fragen(std::string_view text, std::string_view titel) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
     void bereitstellen(std::string_view /*datei*/) override {}

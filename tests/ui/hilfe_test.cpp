@@ -172,6 +172,7 @@ TEST_F(HilfeTest, F1SprichtDieSpracheDerFenster) {
     ASSERT_NE(o.hilfe.handbuch(), nullptr);
     EXPECT_EQ(oben(), "The main window");
     EXPECT_EQ(o.hilfe.handbuch()->windowTitle(), "Handbook");
+    EXPECT_EQ(t.maschine.knoepfe_der_fragen, "Yes/No/Cancel") << "which the handbook names";
     emit o.hilfe.handbuch()->anchorClicked(QUrl("Einstellungen.md"));
     EXPECT_EQ(oben(), "All settings");
     o.hilfe.handbuch()->aufschlagen({"Einstellungen.md", {}, static_cast<int>(*erklaerung_fuer("blinken_an"))});
