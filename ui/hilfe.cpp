@@ -88,6 +88,32 @@ QStringList anker_der_seite(const QString& seite) {
     return anker;
 }
 
+/// Gives headings and cells room to breathe, which a page by itself has none of.
+void auflockern(QTextDocument& seite) {
+    QTextCursor marke(&seite);
+    marke.beginEditBlock();
+    for (QTextBlock block = seite.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0) {
+            QTextBlockFormat form;
+            form.setTopMargin(24);
+            form.setBottomMargin(8);
+            marke.setPosition(block.position());
+            marke.mergeBlockFormat(form);
+        }
+    }
+    marke.endEditBlock();
+    for (QTextFrame* rahmen : seite.rootFrame()->childFrames()) {
+        if (auto* tabelle = qobject_cast<QTextTable*>(rahmen)) {
+            QTextTableFormat form = tabelle->format();
+            form.setCellPadding(5);
+            form.setBorderCollapse(true);
+            form.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            form.setBorderBrush(QColor(0xd0, 0xd4, 0xdc));
+            tabelle->setFormat(form);
+        }
+    }
+}
+
 }  // namespace
 
 hilfeort hilfe_zu(fenstername fenster) {
@@ -141,6 +167,7 @@ void Handbuch::laden(const QString& datei) {
     const auto seite = seite_lesen(seiten_ordner_ + "/" + datei);
     if (seite) {
         setMarkdown(*seite);
+        auflockern(*document());
     } else {
         setPlainText(fehlt_ + " " + seiten_ordner_ + "/" + datei);
     }
