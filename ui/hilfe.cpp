@@ -262,8 +262,8 @@ bool Hilfe::eventFilter(QObject* ziel, QEvent* ereignis) {
                 const QString sprache = QString::fromStdString(sprachkuerzel(einst_.anzeige.sprachordner));
                 if (handbuch_ == nullptr || handbuch_->parentWidget() != vorn || handbuch_->sprache() != sprache) {
                     delete handbuch_;  // a window that takes all input takes it from one of another window as well
-                    handbuch_ =
-                        new Handbuch(QString::fromStdU16String(ablage_.pfad("Hilfe").u16string()), sprache, vorn);
+                    handbuch_ = new Handbuch(QString::fromStdU16String(ablage_.pfad("Hilfe").u16string()), sprache,
+                                             QString::fromStdString(txt_.handbuch_fehlt), vorn);
                 }
                 handbuch_->aufschlagen(*wohin);
                 return true;
