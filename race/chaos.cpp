@@ -135,6 +135,8 @@ void chaos::nach_ausfall(zeit_ms seit) {
     sammeln_beenden();  // whoever rolled over the line meanwhile was seen by nobody
     um_.zustand.pause.ausfall = true;
     um_.zustand.pause.schalter_stand = false;  // nobody knows how the switch stands now
+    um_.zustand.pause.geraet_rot = false;      // nor whether the device's cars have been let go meanwhile
+    um_.zustand.pause.neustart_verlangt = 0;
     um_.ereignisse[art::chaostaster].aktiv = false;
     um_.zeitgeber.chaos_schalter_at2560->aus();
     gelb_zeigen(false);

@@ -294,6 +294,22 @@ TEST_F(ControlUnitRennen, WasSieImAusfallBehaltenHatZaehltNicht) {
         << "as driven before the outage and behind it; the last sign of life is a moment old";
 }
 
+TEST_F(ControlUnitRennen, NachEinemAusfallGehtEsAuchDannNichtVonSelbstWeiterWennIhreWagenSchonFahren) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 500000);
+    t.taste("c");
+    status(true);
+    t.maschine.laufen(3000);
+    neustart danach(t, protokoll_von(t));
+    test_anschluesse& leitung = danach.maschine.anschluesse;
+    leitung.da = {com};
+    status(false);
+    leitung.geraet = [&](int /*nummer*/, std::string_view /*bytes*/) { leitung.senden(com, letzter_status); };
+    danach.p.starten();
+    danach.maschine.laufen(5000);
+    EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv);
+}
+
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
     lebt = false;
     t.p.einst.cu.cu_tankautomatik = true;
