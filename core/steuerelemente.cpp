@@ -7,6 +7,16 @@
 
 namespace tarvel {
 
+void steuerelement::nicht_mehr_beobachten(const steuer_beobachter& wer) {
+    steuer_beobachter** platz = &beobachter_;
+    while (*platz != nullptr && *platz != &wer) {
+        platz = &(*platz)->naechster_;
+    }
+    if (*platz != nullptr) {
+        *platz = wer.naechster_;
+    }
+}
+
 void steuerelement::text_setzen(std::string& ziel, std::string_view neu) {
     if (ziel == neu) {
         return;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// The controls of a window as values: what a window's logic sets and reads, and what its drawing shows.
@@ -21,11 +22,15 @@ namespace farben {
 inline constexpr farbe rot = 0x0000FF;
 }  // namespace farben
 
-/// Told of each change of a control, from within the setter: it may only take a note.
+/// Told of each change of its control, from within the setter: it may only take a note.
 class steuer_beobachter {
 public:
     virtual ~steuer_beobachter() = default;
     virtual void geaendert() = 0;
+
+private:
+    friend class steuerelement;
+    steuer_beobachter* naechster_ = nullptr;  ///< of the same control
 };
 
 class steuerelement {
@@ -35,7 +40,9 @@ public:
     steuerelement& operator=(const steuerelement&) = delete;
     virtual ~steuerelement() = default;
 
-    void beobachten(steuer_beobachter* beobachter) { beobachter_ = beobachter; }
+    /// Several windows may show the same control. The one that came last is told first.
+    void beobachten(steuer_beobachter& wer) { wer.naechster_ = std::exchange(beobachter_, &wer); }
+    void nicht_mehr_beobachten(const steuer_beobachter& wer);
 
     const std::string& text() const { return text_; }
     void text(std::string_view neu);
@@ -77,8 +84,8 @@ protected:
     }
     void text_setzen(std::string& ziel, std::string_view neu);
     void melden() const {
-        if (beobachter_ != nullptr) {
-            beobachter_->geaendert();
+        for (steuer_beobachter* einer = beobachter_; einer != nullptr; einer = einer->naechster_) {
+            einer->geaendert();
         }
     }
 

@@ -13,9 +13,12 @@ TEST(Steuerelemente, NurEineAenderungMeldetSich) {
     struct : steuer_beobachter {
         int mal = 0;
         void geaendert() override { ++mal; }
-    } beobachter;
+    } beobachter, zweiter, dritter;
     bezeichnung label;
-    label.beobachten(&beobachter);
+    for (auto* einer : {&beobachter, &zweiter, &dritter}) {
+        label.beobachten(*einer);
+    }
+    label.nicht_mehr_beobachten(zweiter);
     label.text("00");
     label.text("00");
     label.schriftfarbe(farben::rot);
@@ -23,6 +26,8 @@ TEST(Steuerelemente, NurEineAenderungMeldetSich) {
     label.sichtbar(true);
     label.schriftgroesse(0);
     EXPECT_EQ(beobachter.mal, 2);
+    EXPECT_EQ(dritter.mal, 2) << "in a second window";
+    EXPECT_EQ(zweiter.mal, 0);
 }
 
 TEST(Steuerelemente, GesperrtesOderVerborgenesNimmtNichtsAn) {

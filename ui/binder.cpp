@@ -71,15 +71,15 @@ void vorschlaege_anbieten(QComboBox* widget, const auswahl& element) {
 
 class Binder::Bindung final : public steuer_beobachter, public Abgleich {
 public:
-    Bindung(Bildtakt& takt, steuerelement& element, QWidget* widget, std::function<void()> abgleich)
-        : takt_(takt), element_(element), widget_(widget), abgleich_(std::move(abgleich)) {
-        element_.beobachten(this);
+    Bindung(Bildtakt& takt, steuerelement& element, QWidget* widget, bool nebenher, std::function<void()> abgleich)
+        : takt_(takt), element_(element), widget_(widget), nebenher_(nebenher), abgleich_(std::move(abgleich)) {
+        element_.beobachten(*this);
         abgleichen();
     }
     Bindung(const Bindung&) = delete;
     Bindung& operator=(const Bindung&) = delete;
     ~Bindung() override {
-        element_.beobachten(nullptr);
+        element_.nicht_mehr_beobachten(*this);
         takt_.vergessen(this);
     }
 
@@ -97,7 +97,7 @@ public:
         if (abgleich_) {
             abgleich_();
         }
-        if (element_.fokuswunsch_abholen()) {
+        if ((!nebenher_ || widget_->isVisible()) && element_.fokuswunsch_abholen()) {
             widget_->setFocus(Qt::OtherFocusReason);
             if (auto* zeile = qobject_cast<QLineEdit*>(widget_)) {
                 zeile->selectAll();  // what is typed next replaces the old text
@@ -123,6 +123,7 @@ private:
     Bildtakt& takt_;
     steuerelement& element_;
     QWidget* widget_;
+    bool nebenher_;
     std::function<void()> abgleich_;
     std::string ansage_;
     std::string tipp_;
@@ -136,7 +137,7 @@ Binder::~Binder() = default;
 
 void Binder::verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich) {
     widget->setObjectName(fenster_ + "." + name);
-    bindungen_.push_back(std::make_unique<Bindung>(takt_, element, widget, std::move(abgleich)));
+    bindungen_.push_back(std::make_unique<Bindung>(takt_, element, widget, nebenher_, std::move(abgleich)));
 }
 
 void Binder::skala(double px_je_einheit) {

@@ -30,6 +30,10 @@ public:
     Binder& operator=(const Binder&) = delete;
     ~Binder();
 
+    /// From here on, controls are bound that another window has too. Only while its widget is to be seen here does one
+    /// take the focus.
+    void nebenher() { nebenher_ = true; }
+
     QLabel* label(bezeichnung& element, const QString& name);
     /// A large display with a font of `entwurf` design units.
     TextAnzeige* anzeige(steuerelement& element, const QString& name, double entwurf);
@@ -78,6 +82,7 @@ private:
     QString fenster_;
     QWidget* eltern_;  ///< of each new widget, until a layout takes it
     double skala_ = 1;
+    bool nebenher_ = false;
     Kuerzel kuerzel_;
     std::vector<std::unique_ptr<Bindung>> bindungen_;
     std::vector<std::function<void()>> schriften_;
