@@ -17,6 +17,8 @@ public:
     void setText(const QString& text);
     QString text() const { return text_; }
     void setSchriftPx(int px);
+    /// Of the font that it is shown in.
+    int schriftPx() const { return gesetzt().schrift.pixelSize(); }
     void setFett(bool fett);
     /// Fainter than its colour: a caption, which gives way to what it names.
     void setLeise();
