@@ -52,16 +52,26 @@ void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s,
     using f = fenster_teil;
     const double luecke = 150 * s;
     zuschnitt alles(fuss, luecke);
+    if (inhalt.befehle_woanders) {
+        g[f::bestzeit_gesamt].ort = alles.links(0.6 * fuss.breite);
+        g[f::ch_strafframe].ort = alles.rechts(0);
+        g[f::werbe_label].ort = alles.rest();
+        schrift(g[f::werbe_label], 0.7);
+        schrift(g[f::bestzeit_gesamt], 0.72);
+        return;
+    }
     g[f::wrpic2].ort = alles.rechts(inhalt.wrpic2 ? 1.6 * fuss.hoehe : 0);
     zuschnitt zeilen(alles.rest(), 40 * s);
     zuschnitt zeile(zeilen.oben(0.38 * fuss.hoehe), 2 * luecke);
-    g[f::bestzeit_gesamt].ort = zeile.links(0.4 * zeile.rest().breite);
+    g[f::bestzeit_gesamt].ort = zeile.links(0.44 * zeile.rest().breite);
     g[f::ch_strafframe].ort = zeile.rest();
     g[f::Frame1].ort = zeilen.rest();
     zuschnitt reihe({0, 0, zeilen.rest().breite, zeilen.rest().hoehe}, luecke);
-    constexpr double knopf = 3150;
+    constexpr double knopf = 3450;
+    constexpr double langer_knopf = 4700;
     for (const f befehl : {f::Command1, f::Command6, f::Command3, f::Command4}) {
-        g[befehl].ort = reihe.links(befehl != f::Command6 || inhalt.einfahrzeit ? knopf * s : 0);
+        const double breite = befehl != f::Command6 ? knopf : inhalt.einfahrzeit ? langer_knopf : 0;
+        g[befehl].ort = reihe.links(breite * s);
     }
     g[f::Command2].ort = reihe.rechts(knopf * s);
     g[f::werbe_label].ort = reihe.rest();
@@ -69,8 +79,8 @@ void befehle_legen(const ansicht_inhalt& inhalt, const rechteck& fuss, double s,
         schrift(g[befehl], 0.48);
     }
     schrift(g[f::werbe_label], 0.5);
-    schrift(g[f::ch_strafframe], 0.68);
-    schrift(g[f::bestzeit_gesamt], 0.68);
+    schrift(g[f::ch_strafframe], 0.72);
+    schrift(g[f::bestzeit_gesamt], 0.72);
 }
 
 /// Across the lower end of the blocks, beside the boxes of the blame and above the line that goes with them.
@@ -157,6 +167,7 @@ void bloecke_ordnen(ansicht_geometrie& g, const spuren<int>& ordnung) {
 
 ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, int hoehe) {
     ansicht_geometrie g;
+    g.lesbar_px = lesbar_px(hoehe);
     ansicht_inhalt gezeigt = inhalt;
     const bool zeilen = inhalt.art == ansicht_art::zeilen;
     gezeigt.wrpic2 = inhalt.wrpic2 && !(zeilen && hoehe <= wrpic2_hoehe_px);
@@ -173,7 +184,9 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
 
     zuschnitt fenster(rechteck{0, 0, breite, hoehe}.innen(110 * skal_faktor), 90 * skal_faktor);
     uhr_anordnen(gezeigt, fenster.oben(2250 * uhr), uhr, g);
-    const double fuss = zeilen ? 0.1 * hoehe - 200 * skal_faktor : 1450 * skal_faktor;
+    const double fuss = inhalt.befehle_woanders ? 560 * skal_faktor
+                        : zeilen                ? 0.1 * hoehe - 200 * skal_faktor
+                                                : 1450 * skal_faktor;
     befehle_legen(gezeigt, fenster.unten(fuss), skal_faktor, g.fenster);
 
     const rechteck flaeche = fenster.rest();
@@ -202,8 +215,8 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     } else {
         einfahrer_legen(inhalt, block, skala, g);
     }
-    spur_schriften(g.spur, skala);
-    spur_schriften(g.spur_tafel, skala);
+    spur_schriften(g.spur, skala, g.lesbar_px);
+    spur_schriften(g.spur_tafel, skala, g.lesbar_px);
     hinweis_legen(inhalt, breite, skal_faktor, g);
     pause_legen(inhalt, flaeche, frei, g);
     return g;

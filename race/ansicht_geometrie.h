@@ -37,6 +37,7 @@ struct ansicht_inhalt {
     bool einfahrzeit = false;       ///< the command that begins the warm-up
     bool naechstes_rennen = false;  ///< who drives next
     bool pause = false;             ///< the word of the pause
+    bool befehle_woanders = false;  ///< another window has the commands, and asks whose fault a pause was
     bool licht_der_pause = false;   ///< stands in the place of the large clock, which moves over the second one
 
     bool operator==(const ansicht_inhalt&) const = default;
@@ -68,6 +69,7 @@ enum class spur_teil : std::size_t {
     bestzeit_label,
     t_liste,
     straflabel,
+    rueckstand,
     anzahl
 };
 
@@ -114,6 +116,7 @@ private:
 };
 
 struct ansicht_geometrie {
+    int lesbar_px = 0;  ///< no font of what matters in a race is smaller, where its place has the room
     plaetze<fenster_teil> fenster;
     spuren<rechteck> block;         ///< of the chosen lanes, in the order of their numbers
     plaetze<spur_teil> spur;        ///< from the upper left corner of the block; the same in each of them

@@ -6,6 +6,7 @@
 #include "core/spuren.h"
 #include "core/steuerelemente.h"
 #include "race/ansicht_geometrie.h"
+#include "race/rueckstand.h"
 #include "race/spurlage.h"
 
 namespace tarvel {
@@ -52,6 +53,7 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_gr;
 
     spuren<lage_anzeige> lage;         ///< says in a word what the lane is in; hidden while it drives
+    spuren<bezeichnung> rueckstand;    ///< behind the leader, as people say it; hidden where there is nothing to say
     bezeichnung pausendauer;           ///< with the word of the pause, large over all lanes
     bezeichnung restrunden;            ///< of a lap race, in the place of the second clock
     bezeichnung Label_restrunden;      ///< its caption
@@ -127,6 +129,8 @@ struct bahn1 {
         std::string rekord;     ///< in front of the record of the track
         std::string lage;       ///< what a screen reader calls these
         lageworte lagen;
+        std::string rueckstand;  ///< likewise
+        rueckstand_worte zurueck;
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

@@ -88,6 +88,7 @@ void rennansicht::ansagen_setzen() {
         ansagen(bahn.t_liste.at(index), bahn.wort.rundenliste);
         ansagen(bahn.ch_strafzeit_hacken[spur], bahn.wort.strafzeit);
         ansagen(bahn.lage[spur], bahn.wort.lage);
+        ansagen(bahn.rueckstand[spur], bahn.wort.rueckstand);
     }
     bahn.ch_Text1.ansage(bahn.wort.strafzeit);
 }
@@ -137,7 +138,7 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     for (std::size_t i = 1; i < lagen.size(); ++i) {
         texte.text(lagen.at(i), bahn.wort.lagen.at(i));
     }
-    return texte;
+    return bahn.wort.zurueck.eintragen(texte.text("Rückstand", bahn.wort.rueckstand));
 }
 
 void rennansicht::oeffnen() {
@@ -287,7 +288,7 @@ void rennansicht::farben_setzen() {
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.straflabel[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         for (bezeichnung* titel : {&bahn.bestzeit_label[spur], &bahn.Label_platz[spur], &bahn.Label_schuld[spur],
-                                   &bahn.Label_lrunde[spur], &bahn.Label_brunde[spur]}) {
+                                   &bahn.Label_lrunde[spur], &bahn.Label_brunde[spur], &bahn.rueckstand[spur]}) {
             titel->schriftfarbe(um_.einst.farben_schrift[2]);
         }
         bahn.t_liste.at(feld_index(spur)).schriftfarbe(um_.einst.farben_schrift[2]);

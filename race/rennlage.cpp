@@ -17,6 +17,13 @@ int sekunden_auf(zeit_ms rest) {
 
 }  // namespace
 
+rennlage::rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart)
+    : um_(um), plaetze_(plaetze), fruehstart_(fruehstart) {
+    for (bezeichnung& label : um_.bahn.rueckstand) {
+        label.sichtbar(false);
+    }
+}
+
 int rennlage::sekunden_bis_strom(int spur) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     const bool zaehlt = um_.einst.fruehstart_option == fruehstart_aktion::stromunterbrechung;
@@ -90,6 +97,7 @@ void rennlage::nachfuehren() {
         hatte_sprit_[spur] =
             !um_.zustand.rennen_beendet && (hatte_sprit_[spur] || um_.zustand.spur[spur].tank_inhalt > 0);
         spur_zeigen(spur, erste);
+        rueckstand_zeigen(spur, erste);
     }
     pause_zeigen();
     restrunden_zeigen();
@@ -108,6 +116,30 @@ void rennlage::spur_zeigen(int spur, int fuehrende) {
     anzeige.text(zahl.empty() ? wort : wort + " " + zahl);
     anzeige.sichtbar(neu.was != lage::faehrt);
     anzeige.stand(neu);
+}
+
+void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
+    const rundenkonto& konto = um_.zustand.konto;
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const bool zeigt = um_.param.spur_aktiv[spur] && !zustand.disqualifiziert && fuehrende != 0 && fuehrende != spur;
+    rueckstandsgrund neu;
+    if (zeigt) {
+        neu = {fuehrende,
+               konto.runden(spur),
+               konto.runden(fuehrende),
+               konto.stempel(spur, konto.runden(spur)),
+               konto.stempel(fuehrende, konto.runden(spur)),
+               um_.zustand.rennen_beendet || zustand.ziel_erreicht};
+    }
+    if (neu == rueckstandsgrund_[spur]) {
+        return;
+    }
+    rueckstandsgrund_[spur] = neu;
+    bezeichnung& label = um_.bahn.rueckstand[spur];
+    label.text(zeigt ? rueckstand_gesagt(rueckstand_an_der_linie(konto, spur, fuehrende, neu.gewertet),
+                                         um_.bahn.wort.zurueck, um_.einst.trennzeichen)
+                     : std::string());
+    label.sichtbar(!label.text().empty());
 }
 
 void rennlage::pause_zeigen() {

@@ -2,6 +2,7 @@
 
 #include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
+#include "race/rueckstand.h"
 #include "race/spurlage.h"
 #include "race/umgebung.h"
 
@@ -11,8 +12,7 @@ namespace tarvel {
 /// this: whoever draws the race asks for it, a few times a second, from outside all that the race's log holds.
 class rennlage {
 public:
-    rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart)
-        : um_(um), plaetze_(plaetze), fruehstart_(fruehstart) {}
+    rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart);
 
     /// Brings the words of the race window up to date.
     void nachfuehren();
@@ -26,6 +26,8 @@ private:
     /// The best placed lane that is in the race and has begun to count; 0 for none.
     int fuehrende() const;
     void spur_zeigen(int spur, int fuehrende);
+    /// Behind the lane that leads, 0 for none.
+    void rueckstand_zeigen(int spur, int fuehrende);
     void pause_zeigen();
     void restrunden_zeigen();
 
@@ -33,6 +35,18 @@ private:
     const positionen& plaetze_;
     const fruehstartstrafe& fruehstart_;
     spuren<bool> hatte_sprit_{};  ///< in this race: a device may not have told its levels yet
+    /// All that the gap of a lane follows from.
+    struct rueckstandsgrund {
+        int fuehrende = 0;
+        int seine = 0;
+        int ihre = 0;
+        zeit_ms stempel = 0;  ///< of its last crossing
+        zeit_ms vorn = 0;     ///< and of the leader's in that lap
+        bool gewertet = false;
+
+        bool operator==(const rueckstandsgrund&) const = default;
+    };
+    spuren<rueckstandsgrund> rueckstandsgrund_{};  ///< of what is shown
     int pausensekunden_ = 0;
     int restrunden_ = 0;
 };

@@ -1,6 +1,32 @@
 #include "race/rueckstand.h"
 
+#include <algorithm>
+
+#include "race/rundenkonto.h"
+
 namespace tarvel {
+namespace {
+
+/// When the lane had so many laps, on a clock that stands in the pauses. 0 without a stamp.
+zeit_ms rennzeit_bei(const rundenkonto& konto, int spur, int runden) {
+    zeit_ms zeit = konto.stempel(spur, runden);
+    for (int zeile = 0; zeit != 0 && zeile <= runden; ++zeile) {
+        zeit -= konto.pause(spur, zeile);
+    }
+    return zeit;
+}
+
+/// Laps that `fuehrende` had when `spur` came over the line last.
+int runden_damals(const rundenkonto& konto, int fuehrende, int spur) {
+    const int seine = konto.runden(spur);
+    int damals = konto.runden(fuehrende);
+    while (damals > seine && konto.stempel(fuehrende, damals) > konto.stempel(spur, seine)) {
+        --damals;
+    }
+    return damals;
+}
+
+}  // namespace
 
 sprachliste& rueckstand_worte::eintragen(sprachliste& texte) {
     texte.text("Runde", runde).text("Runden", runden);
@@ -16,6 +42,36 @@ std::string dauer_gesagt(zeit_ms dauer, const trennzeichen_tabelle& trennzeichen
 
 std::string runden_gesagt(int runden, const rueckstand_worte& wort) {
     return std::to_string(runden) + " " + (runden == 1 ? wort.runde : wort.runden);
+}
+
+rueckstand rueckstand_an_der_linie(const rundenkonto& konto, int spur, int fuehrende, bool gewertet) {
+    const int seine = konto.runden(spur);
+    const int ihre = konto.runden(fuehrende);
+    if (seine < 0 || gewertet) {
+        const int runden = std::max(ihre, 0) - std::max(seine, 0);
+        if (runden > 0 || seine < 0) {
+            return {std::max(runden, 0), 0, runden > 0};
+        }
+    }
+    const int runden = std::max(runden_damals(konto, fuehrende, spur) - seine, ihre - seine - 1);
+    if (runden > 0) {
+        return {runden, 0, true};
+    }
+    const zeit_ms vorn = rennzeit_bei(konto, fuehrende, seine);
+    const zeit_ms hinten = rennzeit_bei(konto, spur, seine);
+    const bool gemessen = vorn != 0 && hinten != 0 && hinten >= vorn;  // not yet where it was ahead the last time
+    return {0, gemessen ? hinten - vorn : 0, gemessen};
+}
+
+std::string rueckstand_gesagt(const rueckstand& r, const rueckstand_worte& wort,
+                              const trennzeichen_tabelle& trennzeichen) {
+    if (!r.bekannt) {
+        return {};
+    }
+    if (r.runden > 0) {
+        return runden_gesagt(r.runden, wort) + " " + wort.zurueck;
+    }
+    return r.dauer > 0 ? "+" + dauer_gesagt(r.dauer, trennzeichen) : wort.gleichauf;
 }
 
 }  // namespace tarvel

@@ -108,6 +108,53 @@ TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
     EXPECT_EQ(sagt(2), "LEER") << "has its power back, and no fuel";
 }
 
+TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {
+    t.p.einst.zielmodus_erster = false;
+    const auto zurueck = [&](int spur) {
+        t.p.rennen.lage.nachfuehren();
+        const bezeichnung& label = t.bahn().rueckstand[spur];
+        EXPECT_EQ(label.sichtbar(), !label.text().empty());
+        return label.text();
+    };
+    t.starten("Runden", "5", {1, 2, 3});
+    EXPECT_EQ(zurueck(2), "");
+    t.runde_nach(1000, "1");
+    t.runde_nach(300, "2");
+    EXPECT_EQ(zurueck(1), "");
+    EXPECT_EQ(zurueck(2), "+0,300 s");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(zurueck(2), "+0,300 s") << "no lap behind before it has been lapped";
+    EXPECT_EQ(zurueck(3), "1 Runde zurück") << "has not even begun";
+    t.p.rennen.plaetze.positionen_tauschen(0, 1);
+    EXPECT_EQ(zurueck(1), "") << "was ahead when both were measured";
+    t.p.rennen.plaetze.positionen_tauschen(0, 1);
+    t.p.einst.chaosampel_an = false;
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(20000);
+    t.bahn().Command3.klicken();
+    t.runde_nach(2314, "2");
+    EXPECT_EQ(zurueck(2), "+2,314 s") << "a pause is nobody's";
+    t.runde_nach(6000, "1");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(zurueck(2), "1 Runde zurück");
+    t.runde_nach(100, "2");
+    EXPECT_EQ(zurueck(2), "1 Runde zurück");
+    t.runde_nach(7900, "1");
+    t.runde_nach(8000, "1");
+    EXPECT_EQ(sagt(1), "ZIEL 1.");
+    EXPECT_EQ(zurueck(2), "2 Runden zurück");
+    t.runde_nach(100, "2");
+    EXPECT_EQ(zurueck(2), "2 Runden zurück");
+    t.runde_nach(8000, "2");
+    EXPECT_EQ(zurueck(2), "1 Runde zurück");
+    t.runde_nach(53500, "2");
+    EXPECT_EQ(zurueck(2), "+01:01,600 min");
+    t.spur(2).disqualifiziert = true;
+    EXPECT_EQ(zurueck(2), "");
+    t.rennende();
+    EXPECT_EQ(zurueck(3), "5 Runden zurück");
+}
+
 TEST_F(Rennlage, ZielHatSeinenPlatzUndWerDraussenIstFuehrtNicht) {
     t.p.form1.t_aktiv.umschalten();
     t.p.einst.tank_straf_option = leer_aktion::disqualifikation;

@@ -1,0 +1,161 @@
+// A row of the race window, one for each lane.
+#include <array>
+#include <cstddef>
+
+#include "race/blockteile.h"
+#include "race/spurgeometrie.h"
+
+namespace tarvel {
+
+using namespace blockteile;
+
+namespace {
+
+using t = spur_teil;
+
+/// What belongs to the driver of a row; a high one has the tank here.
+void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, ansicht_geometrie& ganzes) {
+    spur_orte& g = ganzes.spur;
+    const double luecke = 80 * s;
+    const int lesbar = ganzes.lesbar_px;
+    zuschnitt stapel(ort, luecke / 2);
+    g[t::namenslabel].ort = stapel.oben(std::min(0.42 * ort.hoehe, 1100 * s));
+    g[t::straflabel].ort = stapel.unten(titelplatz(std::min(0.22 * ort.hoehe, 600 * s), lesbar));
+    if (hoch) {
+        tank_legen(inhalt, stapel.unten(700 * s), true, lesbar, g);
+    }
+    zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
+    g[t::Label_spur].ort = mitte.links(std::max((hoch ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
+    if (hoch) {
+        const rechteck schuld = mitte.rechts(std::max(0.24 * ort.breite, 3.8 * lesbar));
+        schuld_legen(schuld, titelplatz(0.36 * schuld.hoehe, lesbar), g);
+        ampel_legen(mitte.rest(), luecke, g);
+    } else {
+        const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);
+        const double wunsch = kante + luecke + 3.8 * lesbar;  // "schuld"
+        const rechteck frei = mitte.rest();
+        const double lampen = std::min(3.0 * frei.hoehe + 2 * luecke, 0.5 * frei.breite);
+        ampel_legen(mitte.links(std::max(frei.breite - wunsch - 2 * luecke, lampen)), luecke, g);
+        zuschnitt schuld(mitte.rest(), luecke);
+        g[t::ch_strafzeit_hacken].ort = schuld.rechts(kante);
+        g[t::Label_schuld].ort = schuld.rest();
+    }
+}
+
+/// A piece of a row: its share of the width, and what its texts need of it.
+struct zeilenstueck {
+    double gewicht = 0;
+    double mindestens = 0;
+};
+
+/// How wide the pieces are together as wide as the row. What the texts need goes first, up to a part of the row that
+/// leaves the rest its room.
+template <std::size_t anzahl>
+std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze) {
+    constexpr double texte_hoechstens = 0.7;
+    double gebraucht = 1;
+    for (const zeilenstueck& stueck : stuecke) {
+        gebraucht += stueck.mindestens;
+    }
+    const double gewaehrt = std::min(1.0, texte_hoechstens * ganze / gebraucht);
+    std::array<double, anzahl> breiten{};
+    std::array<bool, anzahl> fest{};
+    for (bool neu = true; neu;) {
+        neu = false;
+        double rest = ganze;
+        double gewichte = 0;
+        for (std::size_t i = 0; i < anzahl; ++i) {
+            rest -= fest.at(i) ? breiten.at(i) : 0;
+            gewichte += fest.at(i) ? 0 : stuecke.at(i).gewicht;
+        }
+        for (std::size_t i = 0; i < anzahl; ++i) {
+            if (!fest.at(i)) {
+                const double mindestens = gewaehrt * stuecke.at(i).mindestens;
+                breiten.at(i) = std::max(rest * stuecke.at(i).gewicht / gewichte, mindestens);
+                fest.at(i) = breiten.at(i) == mindestens && mindestens > 0;
+                neu = neu || fest.at(i);
+            }
+        }
+    }
+    return breiten;
+}
+
+/// The pieces of a row, from left to right.
+struct zeilenteil {
+    enum platz : std::size_t { bild, fahrer, platzziffer, abstand, zaehler, bild2, tank, zeiten, liste, anzahl };
+};
+using z = zeilenteil;
+
+constexpr double fahrer_em = 11.6;  ///< number, lights and the box of the blame
+constexpr double abstand_em = 5.5;  ///< "12 Runden"
+constexpr double zeiten_em = 13.8;  ///< two captions
+constexpr double zeiten_em_mit_bestzeit = 16;
+
+/// The pieces of a row; `hoehe` in units of the design.
+std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, double hoehe, int lesbar) {
+    std::array<zeilenstueck, z::anzahl> stuecke;
+    stuecke[z::bild] = {hoch ? 2300 : 0.8 * hoehe};
+    stuecke[z::fahrer] = {hoch ? 5400.0 : 3900.0, fahrer_em * lesbar};
+    stuecke[z::platzziffer] = {1150};
+    stuecke[z::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850), rueckstand_hoehe(inhalt, abstand_em * lesbar)};
+    stuecke[z::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
+    stuecke[z::bild2] = {inhalt.fahrzeugbild && !hoch ? 1900.0 : 0};
+    if (!hoch && inhalt.tank != tankanzeige_art::keine) {
+        stuecke[z::tank] = {inhalt.tank == tankanzeige_art::balken ? 1200.0 : 1900.0, tanktitel_em * lesbar};
+    }
+    const double texte = (inhalt.bestzeit ? zeiten_em_mit_bestzeit : zeiten_em) * lesbar;
+    stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, hoch ? 0 : texte};
+    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, liste_em * lesbar};
+    return stuecke;
+}
+
+}  // namespace
+
+/// A row from left to right; what it shows shares its width. In a high row the picture of the vehicle stands below that
+/// of the driver, and the tank below the name.
+void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+    spur_orte& g = ganzes.spur;
+    const int lesbar = ganzes.lesbar_px;
+    const double hoehe = block.hoehe / s;
+    const bool hoch = hoehe > 1.4 * entwurf::zeile;
+    const double luecke = 80 * s;
+    zuschnitt reihe(block.innen(80 * s), 2 * luecke);
+    ganzes.streifen = reihe.links(140 * s);
+    g[t::yellowframe].ort = reihe.links(280 * s);
+    const auto breite = zeile_teilen(zeilenstuecke(inhalt, hoch, hoehe, lesbar), reihe.rest().breite - 16 * luecke);
+
+    zuschnitt bilder(reihe.links(breite[z::bild]), luecke);
+    g[t::Image2].ort = bilder.unten(inhalt.fahrzeugbild && hoch ? 0.4 * block.hoehe : 0);
+    g[t::Image1].ort = bilder.rest();
+    zeile_fahrer(inhalt, reihe.links(breite[z::fahrer]), hoch, s, ganzes);
+    const rechteck platzfeld = mittig(reihe.links(breite[z::platzziffer]), 2.2 * breite[z::platzziffer]);
+    mit_titel(platzfeld, titelplatz(std::min(0.2 * platzfeld.hoehe, 420 * s), lesbar), g[t::Label_platz],
+              g[t::l_PosAnz]);
+    g[t::rueckstand].ort = reihe.links(breite[z::abstand]);
+    zaehler_einruecken(reihe.links(breite[z::zaehler]), entwurf::zaehler_links * s, ganzes);
+    const auto dahinter = [&](zuschnitt& rest, double fuer_zeiten, spur_orte& orte) {
+        if (!hoch) {
+            tank_legen(inhalt, rest.links(breite[z::tank]), false, lesbar, orte);
+        }
+        const rechteck zeitfeld = rest.links(fuer_zeiten);
+        constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
+        if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
+            zeiten_reihen(inhalt, zeitfeld, 2 * luecke, lesbar, orte);
+        } else {
+            zeiten_stapeln(inhalt, zeitfeld, orte);
+        }
+    };
+    ganzes.spur_tafel = g;
+    zuschnitt mit_tafel = reihe;
+    if (!hoch) {
+        g[t::Image2].ort = reihe.links(breite[z::bild2]);
+    }
+    dahinter(reihe, breite[z::zeiten], g);
+    g[t::t_liste].ort = reihe.rest();
+    const double zeiten_daneben = (hoch ? 0.7 : 1) * breite[z::zeiten];
+    const double gebraucht = (breite[z::tank] > 0 ? breite[z::tank] + 2 * luecke : 0) + zeiten_daneben + 4 * luecke;
+    ganzes.tafel = mit_tafel.links(mit_tafel.rest().breite - gebraucht);
+    dahinter(mit_tafel, zeiten_daneben, ganzes.spur_tafel);
+}
+
+}  // namespace tarvel
