@@ -234,6 +234,27 @@ TEST_F(Optionen, TrennzeichenDateiWirdGemeldetUndNurNachAenderungGeschrieben) {
     EXPECT_EQ(t.maschine.datei_lesen("trennzeichen.ini"), "58,44,59\r\n");
 }
 
+TEST_F(Optionen, WahlFuerDenRennbildschirmGiltFuerJedeEinstellungsdatei) {
+    uebernehmen();
+    const std::vector<std::string> vorher = t.p.datei.schreiben();
+    for (const char* name : {"rennbild_worte", "rennbild_schirm_2"}) {
+        kreuzen(name);
+    }
+    uebernehmen();
+    const rennbildwahl gewaehlt{false, false, true};
+    EXPECT_EQ(einst.rennbild, gewaehlt);
+    EXPECT_EQ(t.p.datei.schreiben(), vorher) << "in a file of its own";
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(neu.einst.rennbild, gewaehlt);
+    for (const char* inhalt : {"", "Falsch\r\nFalsch", "Falsch\r\n1\r\nWahr\r\n"}) {
+        t.maschine.datei_schreiben("tvk_rennbild.ini", inhalt);
+        programm ohne(t.maschine.dienste());
+        ohne.starten();
+        EXPECT_EQ(ohne.einst.rennbild, rennbildwahl{}) << inhalt;
+    }
+}
+
 TEST_F(Optionen, SpeichertInDieGeltendeDatei) {
     t.p.form1.Command5.klicken();
     t.p.speichernfenster.name.eingeben("klub");
