@@ -76,11 +76,7 @@ void form1::befehle_verbinden() {
     };
     Command18.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung2, anzeige_art::modal); };
     command_liste.bei_klick = [this] {
-        const bool offen = !Frame_liste.sichtbar();
-        for (befehl* daneben : {&Command10, &Command13}) {  // all of it has no room on a small screen
-            daneben->sichtbar(!offen);
-        }
-        Frame_liste.sichtbar(offen);
+        Frame_liste.sichtbar(!Frame_liste.sichtbar());
         reihe_zeigen();
         fahrerreihe.fokus_setzen();
     };

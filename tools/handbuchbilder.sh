@@ -19,6 +19,7 @@ done <<'BILDER'
 rennen                   rennen             1280x800
 rennen_zeilen            rennen_zeilen      1280x800
 hauptfenster             hauptfenster       1024x768
+hauptfenster_liste       fahrerliste        1024x768
 startampel_im_rennen     startampel         1280x800
 einstellungen_start      einstellungen      1180x800
 auswertung               auswertung         1280x900

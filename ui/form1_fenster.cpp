@@ -168,12 +168,22 @@ QWidget* Form1Fenster::spuren_gruppe() {
             zelle->addWidget(binder().knopf(*knopf, knopfname, "schmal"));
         }
         raster->addLayout(zelle, 0, spalte);
+        return zelle;
+    };
+    /// Gives its room to the list of drivers while that is open.
+    const auto weichend = [&](QHBoxLayout* zelle, befehl& knopf, const QString& name) {
+        auto* huelle = new QWidget(this);
+        auto* innen = new QHBoxLayout(huelle);
+        innen->setContentsMargins(0, 0, 0, 0);
+        innen->addWidget(binder().knopf(knopf, name, "schmal"));
+        zelle->addWidget(huelle);
+        weichen_der_liste_.push_back(huelle);
     };
     kopf(logik_.label_spurlaenge, "label_spurlaenge", 2);
     kopf(logik_.Label_meter, "Label_meter", 3);
-    kopf(logik_.Label_fahrer, "Label_fahrer", 5,
-         {{&logik_.command_liste, "command_liste"}, {&logik_.Command13, "Command13"}});
-    kopf(logik_.Label_auto, "Label_auto", 7, {{&logik_.Command10, "Command10"}});
+    weichend(kopf(logik_.Label_fahrer, "Label_fahrer", 5, {{&logik_.command_liste, "command_liste"}}), logik_.Command13,
+             "Command13");
+    weichend(kopf(logik_.Label_auto, "Label_auto", 7), logik_.Command10, "Command10");
     kopf(logik_.Label_bestzeit, "Label_bestzeit", 8);
     for (const int spur : alle_spuren) {
         spur_zeile(raster, spur);
@@ -222,10 +232,20 @@ QWidget* Form1Fenster::fahrerliste() {
     gruppe->setFixedWidth(0);
     binder().verbinden(logik_.Frame_liste, gruppe, "Frame_liste", [this, gruppe] {
         gruppe->setTitle(QString::fromStdString(logik_.Frame_liste.text()));
-        if (!logik_.Frame_liste.sichtbar()) {
-            gruppe->setFixedWidth(0);
-        } else {  // once the lanes have drawn together: both at full width would make the window grow
-            QTimer::singleShot(0, gruppe, [gruppe] { gruppe->setFixedWidth(listenbreite); });
+        const bool offen = logik_.Frame_liste.sichtbar();
+        const auto platz_machen = [this, offen] {
+            for (QWidget* weichend : weichen_der_liste_) {
+                weichend->setVisible(!offen);
+            }
+        };
+        const auto breite_geben = [gruppe, offen] { gruppe->setFixedWidth(offen ? listenbreite : 0); };
+        // one after the other, with what follows in the layout between them: both at once would make the window grow
+        if (offen) {
+            platz_machen();
+            QTimer::singleShot(0, gruppe, breite_geben);
+        } else {
+            breite_geben();
+            QTimer::singleShot(0, gruppe, platz_machen);
         }
     });
     auto* aufbau = new QVBoxLayout(gruppe);

@@ -28,6 +28,7 @@ private:
     form1& logik_;
     const dateien& ablage_;
     Spurzeilen* spurzeilen_ = nullptr;
+    std::vector<QWidget*> weichen_der_liste_;  ///< while the list of drivers is open
 };
 
 }  // namespace tarvel::ui
