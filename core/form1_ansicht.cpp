@@ -5,6 +5,30 @@
 #include "core/zeit.h"
 
 namespace tarvel {
+namespace {
+
+/// How drivers come to the lanes.
+sprachliste& aufstellung_nennen(sprachliste& texte, form1& f, std::string& voll, std::string& ohne_namen) {
+    texte.text("Liste", f.command_liste);
+    texte.tipp("Die Fahrer neben den Spuren, um sie mit der Maus oder einer Ziffer aufzustellen", f.command_liste);
+    texte.text("Fahrer aufstellen", f.Frame_liste).text("Die Liste ist voll.", voll);
+    texte.text("Das Bild braucht einen Namen: erst einen Fahrer oder ein Fahrzeug eintragen.", ohne_namen);
+    texte.text("Auf eine Spur ziehen. Oder: 1 bis 6 stellt den gewählten auf diese Spur, Enter auf die nächste freie.",
+               f.Label_liste);
+    return texte.text(
+        "Auf eine andere Spur ziehen tauscht die Fahrer, ebenso Strg mit Pfeil auf oder ab in ihrer Zeile. "
+        "Eine Bilddatei hierher ziehen gibt ein neues Bild.",
+        [&f](const std::string& tipp) {
+            for (const int nummer : alle_spuren) {
+                const std::size_t i = feld_index(nummer);
+                f.fahrerbild[i].tipp(tipp);
+                f.autobild[i].tipp(tipp);
+                f.spurfarbe[i].tipp(tipp);
+            }
+        });
+}
+
+}  // namespace
 
 sprachliste form1::sprache_m2() {
     sprachliste texte("language/language_m2.txt");
@@ -57,23 +81,7 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
     texte.text("Zuletzt", command_zuletzt).tipp("Die letzten 20 Ergebnisse; wählen öffnet sie", command_zuletzt);
     texte.text("nicht mehr da", wort_nicht_mehr_da_).text("Noch kein Ergebnis gespeichert", wort_kein_ergebnis_);
-    texte.text("Liste", command_liste);
-    texte.tipp("Die Fahrer neben den Spuren, um sie mit der Maus oder einer Ziffer aufzustellen", command_liste);
-    texte.text("Fahrer aufstellen", Frame_liste).text("Die Liste ist voll.", wort_liste_voll_);
-    texte.text("Das Bild braucht einen Namen: erst einen Fahrer oder ein Fahrzeug eintragen.", wort_ohne_namen_);
-    texte.text("Auf eine Spur ziehen. Oder: 1 bis 6 stellt den gewählten auf diese Spur, Enter auf die nächste freie.",
-               Label_liste);
-    return texte.text(
-        "Auf eine andere Spur ziehen tauscht die Fahrer, ebenso Strg mit Pfeil auf oder ab in ihrer Zeile. "
-        "Eine Bilddatei hierher ziehen gibt ein neues Bild.",
-        [this](const std::string& tipp) {
-            for (const int nummer : alle_spuren) {
-                const std::size_t i = feld_index(nummer);
-                fahrerbild[i].tipp(tipp);
-                autobild[i].tipp(tipp);
-                spurfarbe[i].tipp(tipp);
-            }
-        });
+    return aufstellung_nennen(texte, *this, wort_liste_voll_, wort_ohne_namen_);
 }
 
 void form1::ansagen_setzen() {
