@@ -43,8 +43,12 @@ TEST_F(UartProbe, JedesEreignisHatSeineLampeUndJederAusgangSeinenHaken) {
     EXPECT_TRUE(leuchtet(at_zeile::chaos_allgemein));
     EXPECT_FALSE(leuchtet(at_zeile::rundenzaehlung(5))) << "no word is none";
     EXPECT_NE(w.protokoll.zeilen().at(w.protokoll.zeilen().size() - 2).find("nicht zugeordnet"), std::string::npos);
-    t.maschine.laufen(800);
+    t.maschine.laufen(500);
+    EXPECT_TRUE(leuchtet(at_zeile::rundenzaehlung(1)));
+    t.maschine.laufen(300);
     EXPECT_FALSE(leuchtet(at_zeile::rundenzaehlung(1)));
+    w.senden.klicken();
+    EXPECT_EQ(gesendet(), "") << "nothing is no command";
     w.ampel[4].umschalten();
     w.ampel[5].umschalten();
     w.strom[6].umschalten();
@@ -69,7 +73,9 @@ TEST_F(UartProbe, EinGeraetDasFehltStartetOderGehtIstZuSehen) {
     oeffnen();
     t.maschine.laufen(at_bootzeit.count());
     w.ampel[0].umschalten();
+    gesendet();
     w.zuruecksetzen.klicken();
+    EXPECT_EQ(gesendet(), ":R;\r");
     EXPECT_FALSE(w.ampel[0].gesetzt()) << "its outputs are at rest";
     EXPECT_FALSE(w.ampel[0].bedienbar());
     t.maschine.anschluesse.abziehen(3);
