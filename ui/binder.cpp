@@ -116,7 +116,7 @@ private:
             const QString tipp = als_text(tipp_);
             constexpr qsizetype eine_zeile = 80;  // only rich text is wrapped
             const bool umbrechen = tipp.size() > eine_zeile || Qt::mightBeRichText(tipp);
-            widget_->setToolTip(umbrechen ? Qt::convertFromPlainText(tipp) : tipp);
+            widget_->setToolTip(umbrechen ? Qt::convertFromPlainText(tipp, Qt::WhiteSpaceNormal) : tipp);
         }
     }
 

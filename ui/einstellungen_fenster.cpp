@@ -29,7 +29,10 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
     mitte->addWidget(seiten);
     auto* stapel = new QVBoxLayout;
     for (int nummer = 0; nummer < einstellungsfenster::seiten_anzahl; ++nummer) {
-        QWidget* eine = seite(nummer);
+        auto* eine = new QWidget(this);  // shown and hidden by the page's control alone, whatever its title does
+        auto* inhalt = new QVBoxLayout(eine);
+        inhalt->setContentsMargins(0, 0, 0, 0);
+        inhalt->addWidget(seite(nummer));
         binder().verbinden(logik.seitenrahmen.at(static_cast<std::size_t>(nummer)), eine,
                            "seite_" + QString::number(nummer), {});
         stapel->addWidget(eine);

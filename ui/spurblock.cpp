@@ -239,7 +239,7 @@ void Spurblock::teile_anordnen() {
     const int kante = orte[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font
         ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }"
-                                "QCheckBox::indicator:focus { border: 4px solid #c41e2a; }")
+                                "QCheckBox:focus { border: 3px solid #c41e2a; border-radius: 4px; }")
                             .arg(kante * 4 / 5)
                             .arg(std::max(kante - 6, 8)));
 }

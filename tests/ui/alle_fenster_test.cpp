@@ -208,6 +208,28 @@ TEST_P(AlleTexte, HabenIhrenPlatz) {
     }
 }
 
+TEST_F(AlleFenster, WechselnDieSpracheUndDasFensterBleibtWieEsIst) {
+    std::filesystem::copy(TARVEL_QUELLEN "/data/language-en", t.maschine.ordner() / "language-en");
+    const auto sichtbare_seiten = [this] {
+        t.p.form1.Command4.klicken();
+        o.takt.ausfuehren();
+        QTest::qWait(20);
+        int anzahl = 0;
+        for (int nummer = 0; nummer < einstellungsfenster::seiten_anzahl; ++nummer) {
+            const QString name = "einstellungen.seite_" + QString::number(nummer);
+            anzahl += o.einstellungen->findChild<QWidget*>(name)->isVisible() ? 1 : 0;
+        }
+        t.p.einstellungsfenster.Command2.klicken();
+        return anzahl;
+    };
+    ASSERT_EQ(sichtbare_seiten(), 1);
+    for (const char* sprache : {"language-en", "language"}) {
+        t.erscheinen({sprache, aussehen::dunkel});
+        EXPECT_EQ(sichtbare_seiten(), 1) << sprache;
+        EXPECT_LE(o.einstellungen->minimumSizeHint().height(), 740);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Sprachen, AlleTexte, testing::Values("language", "language-en"));
 
 }  // namespace
