@@ -136,6 +136,10 @@ void programm::wiedergabe_verbinden() {
         fahrer_merken();
     };
     wiedergabe.darf = [this] { return ruhe_fuer_wiedergabe(); };
+    wiedergabe.ausstatten = [this](programm& spiel) {  // whose pictures are whose
+        spiel.fahrerliste = fahrerliste;
+        spiel.fahrzeugliste = fahrzeugliste;
+    };
     auswertung.wiedergabe_zeigen = [this] {
         rennprotokoll.sichern();
         wiedergabe.zeigen(rennprotokoll.dateiname());

@@ -39,8 +39,9 @@ struct rennspieler::spiel {
     programm p;
 };
 
-rennspieler::rennspieler(std::filesystem::path programmordner, std::string inhalt)
-    : ordner_(std::move(programmordner)), inhalt_(std::move(inhalt)) {
+rennspieler::rennspieler(std::filesystem::path programmordner, std::string inhalt,
+                         std::function<void(programm&)> ausstatten)
+    : ordner_(std::move(programmordner)), inhalt_(std::move(inhalt)), ausstatten_(std::move(ausstatten)) {
     abtasten();
     von_vorn();
 }
@@ -79,6 +80,9 @@ void rennspieler::von_vorn() {
         alt_ = std::move(spiel_);
     }
     spiel_ = std::make_unique<spiel>(ordner_);
+    if (ausstatten_) {
+        ausstatten_(spiel_->p);
+    }
     const std::optional<bool> ganz = spiel_->p.rennprotokoll.bereitlegen(inhalt_);
     wie_ = !ganz ? gueltigkeit::fremd : *ganz ? gueltigkeit::ganz : gueltigkeit::beschaedigt;
     abgewichen_ = false;
@@ -93,6 +97,10 @@ void rennspieler::alten_vergessen() {
 
 rennen& rennspieler::rennen() {
     return spiel_->p.rennen;
+}
+
+programm& rennspieler::im_programm() {
+    return spiel_->p;
 }
 
 bool rennspieler::vor(zeit_ms bis, int hoechstens) {

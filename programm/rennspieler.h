@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,6 +10,8 @@
 #include "race/rennen.h"
 
 namespace tarvel {
+
+class programm;
 
 /// Plays a race again from its log, in a program of its own on a machine on which nothing happens by itself: it reads
 /// the program folder and changes nothing anywhere. All times are ms from the beginning of the log.
@@ -28,8 +31,10 @@ public:
         fremd         ///< of another version, or no log: plays nothing
     };
 
-    /// A race from the bytes of its log. It stands where the race window opened.
-    rennspieler(std::filesystem::path programmordner, std::string inhalt);
+    /// A race from the bytes of its log. It stands where the race window opened. `ausstatten` gives its program what no
+    /// log holds.
+    rennspieler(std::filesystem::path programmordner, std::string inhalt,
+                std::function<void(programm&)> ausstatten = {});
     rennspieler(const rennspieler&) = delete;
     rennspieler& operator=(const rennspieler&) = delete;
     ~rennspieler();
@@ -53,6 +58,8 @@ public:
     void alten_vergessen();
     /// The race as it is at this moment.
     tarvel::rennen& rennen();
+    /// And the program that it is in.
+    programm& im_programm();
 
 private:
     struct spiel;
@@ -62,6 +69,7 @@ private:
 
     std::filesystem::path ordner_;
     std::string inhalt_;
+    std::function<void(programm&)> ausstatten_;
     gueltigkeit wie_ = gueltigkeit::fremd;
     bool abgewichen_ = false;
     zeit_ms anfang_ = 0;

@@ -97,7 +97,7 @@ void wiedergabe::zeigen(const std::string& protokoll) {
         um_.meldungen.zeigen(wort_.unlesbar, um_.txt.titel[1]);
         return;
     }
-    auto neuer = std::make_unique<rennspieler>(u_.programmordner, std::move(*inhalt));
+    auto neuer = std::make_unique<rennspieler>(u_.programmordner, std::move(*inhalt), ausstatten);
     if (neuer->wie() == rennspieler::gueltigkeit::fremd) {
         um_.meldungen.zeigen(wort_.fremd, um_.txt.titel[1]);
         return;
@@ -203,7 +203,7 @@ void wiedergabe::weiter_springen() {
 void wiedergabe::neu_zeichnen() {
     neues_spiel_ = false;
     if (zeichnen) {
-        zeichnen(&spieler_->rennen());
+        zeichnen(&spieler_->im_programm());
     }
     spieler_->alten_vergessen();
 }

@@ -73,8 +73,10 @@ public:
 
     /// No race runs, and none is being prepared.
     std::function<bool()> darf = [] { return true; };
-    /// The race is there anew: draw it. Null: it goes.
-    std::function<void(rennen*)> zeichnen;
+    /// Gives the program of the replay what no log holds.
+    std::function<void(programm&)> ausstatten;
+    /// The race is there anew, in this program: draw it. Null: it goes, and the last one is still there.
+    std::function<void(programm*)> zeichnen;
 
     void laden() override;
     void entladen() override;

@@ -80,14 +80,27 @@ void AmpelFenster::masse_setzen(const QRect& platz, const QRect& eigener) {
     skalieren(kante);
 }
 
+QRect AmpelFenster::platz_des_rennens() const {
+    if (!isWindow()) {
+        return parentWidget()->rect();
+    }
+    return parentWidget()->isVisible() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
+}
+
+QRect AmpelFenster::im_rennen(const QRect& auf_dem_schirm) const {
+    return isWindow() || auf_dem_schirm.isEmpty()
+               ? auf_dem_schirm
+               : QRect(parentWidget()->mapFromGlobal(auf_dem_schirm.topLeft()), auf_dem_schirm.size());
+}
+
 void AmpelFenster::anordnen() {
-    const QRect platz = parentWidget()->isVisible() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
-    const QRect eigener = eigener_platz();
+    const QRect platz = platz_des_rennens();
+    const QRect eigener = im_rennen(eigener_platz());
     masse_setzen(platz, eigener);
     if (nacht_.sichtbar()) {
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        setGeometry(parentWidget()->screen()->geometry());
+        setGeometry(isWindow() ? parentWidget()->screen()->geometry() : platz);
         return;
     }
     for (QWidget* teil : findChildren<QWidget*>()) {  // lamps have come and gone since the last start

@@ -49,6 +49,10 @@ private:
     void masse_setzen(const QRect& platz, const QRect& eigener);
     void hinstellen(const QRect& platz, const QRect& eigener);
     int reihen() const;
+    /// The race window that it stands over, and in it the place on the screen that is its own, as it counts its places:
+    /// a light that is no window of its own lies in that window.
+    QRect platz_des_rennens() const;
+    QRect im_rennen(const QRect& auf_dem_schirm) const;
 
     rahmen& nacht_;
     const Bahn1Fenster& bahn_;

@@ -134,12 +134,12 @@ WiedergabeFenster::WiedergabeFenster(wiedergabe& logik, Fensterverwaltung& verwa
     unten->addLayout(befehlszeile());
     aufbau->addLayout(unten);
     resize(1280, 960);
-    logik.zeichnen = [this](rennen* r) { rennen_zeichnen(r); };
+    logik.zeichnen = [this](programm* p) { rennen_zeichnen(p); };
 }
 
 WiedergabeFenster::~WiedergabeFenster() {
     logik_.zeichnen = nullptr;
-    delete bahn_;
+    rennen_zeichnen(nullptr);
 }
 
 QLayout* WiedergabeFenster::befehlszeile() {
@@ -160,11 +160,42 @@ QLayout* WiedergabeFenster::befehlszeile() {
     return zeile;
 }
 
-void WiedergabeFenster::rennen_zeichnen(rennen* r) {
+void WiedergabeFenster::Lichtschalter::zeigen(fenstername name, anzeige_art art) {
+    if (name == fenstername::Form2 || name == fenstername::k_ampel) {
+        fenster_.zeigen(name, art);
+    }
+}
+
+void WiedergabeFenster::Lichtschalter::verbergen(fenstername name) {
+    if (name == fenstername::Form2 || name == fenstername::k_ampel) {
+        fenster_.verbergen(name);
+    }
+}
+
+void WiedergabeFenster::lichter_zeichnen() {
+    programm& p = *gezeichnet_;
+    for (QWidget* licht : {static_cast<QWidget*>(new Form2Fenster(p.startampel, p.einst, p.ablage, innen_, bahn_)),
+                           static_cast<QWidget*>(new KAmpelFenster(p.k_ampel, p.einst, p.ablage, innen_, bahn_))}) {
+        licht->setParent(bahn_, Qt::Widget);
+        licht->setEnabled(false);
+    }
+    p.fenster.anzeigen_auf(&lichter_);
+    for (const fenstername licht : {fenstername::Form2, fenstername::k_ampel}) {
+        if (p.fenster.ist_offen(licht)) {
+            lichter_.zeigen(licht, anzeige_art::frei);
+        }
+    }
+}
+
+void WiedergabeFenster::rennen_zeichnen(programm* p) {
+    if (gezeichnet_ != nullptr) {
+        gezeichnet_->fenster.anzeigen_auf(nullptr);
+    }
+    gezeichnet_ = p;
     Bahn1Fenster* vorher = bahn_;
     bahn_ = nullptr;
-    if (r != nullptr) {
-        bahn_ = new Bahn1Fenster(*r, innen_, this);
+    if (p != nullptr) {
+        bahn_ = new Bahn1Fenster(p->rennen, innen_, this);
         bahn_->setParent(flaeche_, Qt::Widget);
         bahn_->setAttribute(Qt::WA_TransparentForMouseEvents);
         bahn_->setAutoFillBackground(true);
@@ -175,7 +206,11 @@ void WiedergabeFenster::rennen_zeichnen(rennen* r) {
         }
         flaeche_->layout()->addWidget(bahn_);
         innen_.takt().ausfuehren();
+        for (const char* kasten : {"bahn1.Frame1", "bahn1.ch_strafframe"}) {
+            bahn_->findChild<QWidget*>(kasten)->setEnabled(false);  // and all in it, so that they look like it
+        }
         bahn_->show();
+        lichter_zeichnen();
     }
     delete vorher;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "programm/programm.h"
 #include "programm/wiedergabe.h"
 #include "ui/bahn1_fenster.h"
-#include "ui/fenster.h"
+#include "ui/form2_fenster.h"
+#include "ui/k_ampel_fenster.h"
 
 namespace tarvel::ui {
 
@@ -43,13 +45,27 @@ public:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
+    /// Of that program's windows the lights come and go by themselves; they lie over its race.
+    class Lichtschalter final : public fensteranzeige {
+    public:
+        explicit Lichtschalter(Fensterverwaltung& fenster) : fenster_(fenster) {}
+        void zeigen(fenstername name, anzeige_art art) override;
+        void verbergen(fenstername name) override;
+
+    private:
+        Fensterverwaltung& fenster_;
+    };
+
     QLayout* befehlszeile();
     /// The race of a program of its own: no key and no button of it does anything.
-    void rennen_zeichnen(rennen* r);
+    void rennen_zeichnen(programm* p);
+    void lichter_zeichnen();
 
     wiedergabe& logik_;
-    Fensterverwaltung innen_;  ///< of that program's windows
+    Fensterverwaltung innen_;
+    Lichtschalter lichter_{innen_};
     QWidget* flaeche_ = nullptr;
+    programm* gezeichnet_ = nullptr;
     Bahn1Fenster* bahn_ = nullptr;
 };
 

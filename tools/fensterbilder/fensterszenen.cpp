@@ -220,6 +220,22 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.t.maschine.laufen(100);
          return *b.o.wiedergabe;
      }},
+    {"wiedergabe_ampel",
+     [](buehne& b) -> QWidget& {
+         b.einrichten("Runden", "20", {1, 2, 3, 4});
+         b.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+         b.p.fenster.neu_laden(fenstername::bahn1);  // a race keeps the settings that it began with
+         b.t.bahn().Command1.klicken();
+         b.t.maschine.laufen(12000);
+         b.fahren(20000);
+         b.t.bahn().Command3.klicken();
+         b.t.maschine.laufen(5000);
+         b.t.rennende();
+         b.p.auswertung.Command_wiedergabe.klicken();
+         b.p.wiedergabe.leiste.greifen(5500);
+         b.t.maschine.laufen(100);
+         return *b.o.wiedergabe;
+     }},
     {"auswertung_nachtragen",
      [](buehne& b) -> QWidget& {
          b.p.form1.wertmin.eingeben("5");
