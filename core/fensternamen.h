@@ -20,6 +20,7 @@ namespace tarvel {
     F(Form2)                  \
     F(Form3)                  \
     F(k_ampel)                \
+    F(leitstand)              \
     F(protokoll)              \
     F(rangliste)              \
     F(rc_einstellungen)       \

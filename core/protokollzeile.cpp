@@ -111,6 +111,11 @@ std::optional<std::string_view> protokollleser::zeile() {
     return inhalt;
 }
 
+std::string_view ohne_summe(std::string_view geschrieben) {
+    const std::size_t dahinter = summe_zeichen + zeilenende.size();
+    return geschrieben.substr(0, geschrieben.size() - std::min(geschrieben.size(), dahinter));
+}
+
 protokollsatz zerlegen(std::string_view zeile) {
     protokollsatz s;
     const std::size_t tiefe = std::min(zeile.find_first_not_of('.'), zeile.size());

@@ -56,6 +56,9 @@ private:
     std::uint16_t kette_ = protokoll_kette_anfang;
 };
 
+/// A line as it was written, without its sum.
+std::string_view ohne_summe(std::string_view geschrieben);
+
 /// One line, taken apart. In one of the head, and one about a decision, `rest` begins with what it is about.
 struct protokollsatz {
     int tiefe = 0;                        ///< lies so deep in others

@@ -63,8 +63,8 @@ const std::vector<erklaerung>& erklaerungen() {
         {"Start-/Zieloptionen", "Spuren nach Platz geordnet", "rennbild_nach_platz",
          "der Führende steht vorn, und die Spuren gleiten an ihren Platz; sonst stehen sie nach ihren Nummern"},
         {"Start-/Zieloptionen", "auf dem zweiten Bildschirm", "rennbild_schirm_2",
-         "der Rennbildschirm füllt mit seinen Knöpfen den zweiten Schirm, das Hauptfenster bleibt auf dem ersten. Wird "
-         "er abgezogen oder gibt es keinen, füllt er den ersten. "
+         "der Rennbildschirm füllt den zweiten Schirm; auf dem ersten liegt das Fenster „Rennleitung“ mit Uhr, Spuren, "
+         "Knöpfen und dem, was geschah. Wird er abgezogen oder gibt es keinen, steht wie sonst alles auf dem ersten. "
          "Diese drei Kästen stehen in der Datei tvk_rennbild.ini und gelten für jede "
          "Einstellungsdatei"},
         {"Wettkampf/Training",

@@ -39,7 +39,8 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
       w_auswertung2({fensterwelt(p), p.einst, p.einrichtung, urkunden}),
-      protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}) {
+      protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}),
+      leitstand({p.ablage, p.fenster, r, protokollfenster, p.dienste.zeitgeber}) {
     r.teil_von.wechseln(einzelrennen);
 }
 

@@ -20,6 +20,7 @@
 #include "race/rennen.h"
 #include "results/auswertung.h"
 #include "results/beste_zeiten_fenster.h"
+#include "results/leitstand.h"
 #include "results/protokollfenster.h"
 #include "results/urkundenfenster.h"
 #include "results/w_auswertung2.h"
@@ -60,6 +61,7 @@ struct ergebnisfluegel {
     tarvel::intervalltraining intervalltraining;
     tarvel::w_auswertung2 w_auswertung2;
     tarvel::protokollfenster protokollfenster;
+    tarvel::leitstand leitstand;
 };
 
 struct optionsfluegel {

@@ -40,6 +40,9 @@ void rennprotokoll::kopf_anhaengen(zeit_ms beginn) {
 
 void rennprotokoll::anhaengen(std::string_view zeile) {
     datei_->anhaengen(zeile);
+    if (mitleser_ != nullptr) {
+        mitleser_->anhaengen(zeile);
+    }
 }
 
 void rennprotokoll::abschliessen() {

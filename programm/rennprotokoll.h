@@ -39,6 +39,7 @@ public:
     /// Tells if the log could not be kept to its end.
     void abschliessen() override;
     std::string bisher() override;
+    void mitlesen(protokollsenke* wer) override { mitleser_ = wer; }
     /// Deletes the logs that nobody needs any more.
     void aufraeumen() const;
     /// A new log begins.
@@ -77,6 +78,7 @@ private:
 
     umgebung um_;
     std::unique_ptr<plattform::anhaengedatei> datei_;
+    protokollsenke* mitleser_ = nullptr;
     std::string dateiname_;
     bool gewarnt_ = false;  ///< has told of a log that could not be kept
 };

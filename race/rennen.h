@@ -25,6 +25,8 @@ public:
     virtual void abschliessen() = 0;
     /// The whole lines of the log so far; empty without one.
     virtual std::string bisher() { return {}; }
+    /// Each further line goes there too, as it is written; null for nowhere.
+    virtual void mitlesen(protokollsenke* /*wer*/) {}
 };
 
 /// The race window as the register sees it.

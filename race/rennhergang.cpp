@@ -123,9 +123,11 @@ private:
     spuren<geschehen*> tank_{};
 };
 
-class leser {
+}  // namespace
+
+class hergangsleser {
 public:
-    explicit leser(rennhergang& h) : h_(h) {}
+    explicit hergangsleser(rennhergang& h) : h_(h) {}
 
     void zeile(std::string_view text) {
         const protokollsatz satz = zerlegen(text);
@@ -141,17 +143,8 @@ public:
     /// When each thing was, and how long it lasted.
     void abschliessen() {
         h_.hat_gruen = gruen_.has_value();
-        const start beginn = gruen_.value_or(start{});
         for (geschehen& g : h_.alle) {
-            const bool gestempelt = h_.hat_gruen && g.stempel != geschehen::keine &&
-                                    g.stempel - beginn.stempel > -beginn.zeit - uhr_fremd_ms;
-            g.seit_gruen = gestempelt ? g.stempel - beginn.stempel : g.zeit - beginn.zeit;
-            if (bis_stempel(g)) {
-                g.bis = g.wert - beginn.stempel;
-            }
-            if (g.stempel != geschehen::keine) {
-                g.stempel += verschoben_;
-            }
+            zeit_setzen(g);
         }
         std::stable_sort(h_.alle.begin(), h_.alle.end(),
                          [](const geschehen& a, const geschehen& b) { return a.seit_gruen < b.seit_gruen; });
@@ -160,6 +153,20 @@ public:
             d.ansehen(g);
         }
         d.abschliessen(h_.dauer());
+    }
+
+    /// When it was, as far as the green light is known.
+    void zeit_setzen(geschehen& g) const {
+        const start beginn = gruen_.value_or(start{});
+        const bool gestempelt = gruen_.has_value() && g.stempel != geschehen::keine &&
+                                g.stempel - beginn.stempel > -beginn.zeit - uhr_fremd_ms;
+        g.seit_gruen = gestempelt ? g.stempel - beginn.stempel : g.zeit - beginn.zeit;
+        if (bis_stempel(g)) {
+            g.bis = g.wert - beginn.stempel;
+        }
+        if (g.stempel != geschehen::keine) {
+            g.stempel += verschoben_;
+        }
     }
 
 private:
@@ -302,6 +309,8 @@ private:
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 
+namespace {
+
 /// Reads up to the end of the head.
 std::optional<protokollkopf> kopf_aus(protokollleser& zeilen) {
     constexpr std::size_t zeilen_max = 20'000;
@@ -342,13 +351,39 @@ rennhergang hergang_lesen(std::string_view inhalt) {
     if (!h.kopf) {
         return h;
     }
-    leser l(h);
+    hergangsleser l(h);
     for (auto zeile = zeilen.zeile(); zeile && h.alle.size() < alle_max; zeile = zeilen.zeile()) {
         l.zeile(*zeile);
     }
     h.ganz = zeilen.vollstaendig();
     l.abschliessen();
     return h;
+}
+
+hergangsmitleser::hergangsmitleser(std::string_view bisher) {
+    protokollleser zeilen(bisher);
+    hergang_.kopf = kopf_aus(zeilen);
+    if (!hergang_.kopf) {
+        return;
+    }
+    leser_ = std::make_unique<hergangsleser>(hergang_);
+    for (auto eine = zeilen.zeile(); eine; eine = zeilen.zeile()) {
+        leser_->zeile(*eine);
+    }
+}
+
+hergangsmitleser::~hergangsmitleser() = default;
+
+void hergangsmitleser::zeile(std::string_view geschrieben) {
+    if (leser_ != nullptr && hergang_.alle.size() < alle_max) {
+        leser_->zeile(ohne_summe(geschrieben));
+    }
+}
+
+geschehen hergangsmitleser::an(std::size_t nummer) const {
+    geschehen g = hergang_.alle.at(nummer);
+    leser_->zeit_setzen(g);
+    return g;
 }
 
 }  // namespace tarvel

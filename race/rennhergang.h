@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -85,5 +86,27 @@ std::optional<protokollkopf> hergang_kopf(std::string_view anfang);
 
 /// Bears any bytes; what is behind a damaged line is left out.
 rennhergang hergang_lesen(std::string_view inhalt);
+
+class hergangsleser;
+
+/// Reads a log while it grows.
+class hergangsmitleser {
+public:
+    /// From what there is so far.
+    explicit hergangsmitleser(std::string_view bisher);
+    ~hergangsmitleser();
+    hergangsmitleser(const hergangsmitleser&) = delete;
+    hergangsmitleser& operator=(const hergangsmitleser&) = delete;
+
+    /// The next line, as it is written.
+    void zeile(std::string_view geschrieben);
+    /// What has happened, in the order in which it was told; numbered from 0.
+    std::size_t anzahl() const { return hergang_.alle.size(); }
+    geschehen an(std::size_t nummer) const;
+
+private:
+    rennhergang hergang_;
+    std::unique_ptr<hergangsleser> leser_;  ///< null for a log that cannot be read
+};
 
 }  // namespace tarvel

@@ -67,6 +67,19 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
     const rennhergang h = hergang_lesen(datei());
     ASSERT_TRUE(h.kopf && h.ganz);
     const std::vector<vorgang> ohne{vorgang::taste, vorgang::platz, vorgang::ende, vorgang::letzte};
+    const std::string ganz = datei();
+    const std::size_t mitten_drin = ganz.find("\r\n", ganz.size() * 3 / 4) + 2;
+    hergangsmitleser live(ganz.substr(0, mitten_drin));
+    for (std::size_t von_hier = mitten_drin; von_hier < ganz.size();) {
+        const std::size_t bis = ganz.find("\r\n", von_hier) + 2;
+        live.zeile(ganz.substr(von_hier, bis - von_hier));
+        von_hier = bis;
+    }
+    rennhergang erzaehlt;
+    for (std::size_t i = 0; i < live.anzahl(); ++i) {
+        erzaehlt.alle.push_back(live.an(i));
+    }
+    EXPECT_EQ(von(erzaehlt, 1), von(h, 1)) << "read while it is written";
     EXPECT_EQ(von(h, 1, ohne),
               (std::vector<std::string>{"0:00,998 erste Überfahrt nach 0,998 s, ab hier wird gezählt",
                                         "0:04,212 zu schnell: 3,214 s, gezählt wird ab 5,300 s",

@@ -20,6 +20,7 @@ rennen                   rennen             1280x800
 rennen_zeilen            rennen_zeilen      1280x800
 hauptfenster             hauptfenster       1024x768
 hauptfenster_liste       fahrerliste        1024x768
+rennleitung              rennleitung        960x720
 startampel_im_rennen     startampel         1280x800
 einstellungen_start      einstellungen      1180x800
 auswertung               auswertung         1280x900

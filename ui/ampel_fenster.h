@@ -16,6 +16,11 @@ namespace tarvel::ui {
 class AmpelFenster : public Fenster {
 public:
     void aufschlagen() override;
+    /// Its race window has moved.
+    void nachruecken() {
+        anordnen();
+        raise();
+    }
 
 protected:
     struct umfeld {

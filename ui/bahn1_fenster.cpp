@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIntValidator>
-#include <QScreen>
 #include <algorithm>
 #include <utility>
 
@@ -18,14 +17,6 @@ using f = fenster_teil;
 
 constexpr int sekunden_max = 9999;
 constexpr std::array<f, 5> befehle{f::Command1, f::Command6, f::Command3, f::Command4, f::Command2};
-
-/// The second screen, where it is wanted and there is one: that on which the main window is not.
-QScreen* eigener_schirm(const QWidget& fenster, bool auf_dem_zweiten) {
-    const QScreen* erster = fenster.parentWidget() != nullptr ? fenster.parentWidget()->screen() : fenster.screen();
-    const QList<QScreen*> alle = QGuiApplication::screens();
-    const auto zweiter = std::find_if(alle.begin(), alle.end(), [erster](const QScreen* s) { return s != erster; });
-    return auf_dem_zweiten && zweiter != alle.end() ? *zweiter : fenster.screen();
-}
 
 }  // namespace
 
@@ -55,11 +46,14 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     befehlszeile();
     geraetealarm();
     nachtabschaltung();
-    QObject::connect(qApp, &QGuiApplication::screenRemoved, this, [this] {
-        if (isVisible() && logik_.umgebung.einst.rennbild.auf_schirm_2) {  // fills the one that is left
-            QTimer::singleShot(0, this, [this] { schirm_fuellen(); });
+    umzug_.setSingleShot(true);
+    QObject::connect(&umzug_, &QTimer::timeout, this, [this] {
+        if (bei_umzug && isVisible()) {
+            bei_umzug();
         }
     });
+    QObject::connect(qApp, &QGuiApplication::screenRemoved, this, [this] { neu_verteilen(); });
+    QObject::connect(qApp, &QGuiApplication::screenAdded, this, [this] { neu_verteilen(); });
     setMinimumSize(640, 480);
     resize(1280, 1024);
     binder().verbinden(logik.bahn1.ansicht, unsichtbar(), "ansicht", [this] { anordnen(); });
@@ -115,7 +109,7 @@ void Bahn1Fenster::befehlszeile() {
     protokoll_ = binder().knopf_ohne_kuerzel(bahn.Command_protokoll, "Command_protokoll");
     protokoll_->setParent(zeile);
     setTabOrder(vorher, protokoll_);
-    binder().verbinden(bahn.Frame1, zeile, "Frame1", {});
+    binder().verbinden(bahn.Frame1, zeile, "Frame1", [this] { befehle_zeigen(); });
 }
 
 void Bahn1Fenster::strafformular() {
@@ -142,7 +136,7 @@ void Bahn1Fenster::strafformular() {
     }
     formular_ = {vorn, haken, mitte, hinten};
     zeile->addStretch();
-    binder().verbinden(bahn.ch_strafframe, kasten, "ch_strafframe", {});
+    binder().verbinden(bahn.ch_strafframe, kasten, "ch_strafframe", [this] { befehle_zeigen(); });
 }
 
 void Bahn1Fenster::geraetehinweis() {
@@ -189,9 +183,8 @@ void Bahn1Fenster::nachtabschaltung() {
 }
 
 void Bahn1Fenster::nacht_anordnen() {
-    constexpr int zeilen = 45;
     nacht_->setGeometry(rect());
-    nacht_->setSchriftPx(height() / zeilen);
+    nacht_->setSchriftPx(lesbar_px(height()));
 }
 
 QString Bahn1Fenster::nachthinweis() const {
@@ -219,27 +212,6 @@ void Bahn1Fenster::alarm_anordnen() {
     alarm_->raise();
 }
 
-void Bahn1Fenster::schirm_fuellen() {
-    const QRect schirm = eigener_schirm(*this, logik_.umgebung.einst.rennbild.auf_schirm_2)->availableGeometry();
-    setGeometry(
-        schirm.adjusted(schirm.width() / 16, schirm.height() / 12, -schirm.width() / 16, -schirm.height() / 16));
-    if (logik_.umgebung.einst.fenstermodus) {
-        showNormal();
-    } else {
-        showFullScreen();
-    }
-}
-
-void Bahn1Fenster::aufschlagen() {
-    if (!isVisible()) {
-        schirm_fuellen();
-    }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    anordnen();
-    raise();
-    activateWindow();
-}
-
 void Bahn1Fenster::licht_der_pause(bool da) {
     licht_der_pause_ = da && logik_.umgebung.ist_zeitrennen();  // else both clocks show the same
     anordnen();
@@ -254,6 +226,7 @@ ansicht_geometrie Bahn1Fenster::aufteilung() const {
     ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
     inhalt.licht_der_pause = licht_der_pause_;
     inhalt.pause = mit_pause_;
+    inhalt.befehle_woanders = befehle_woanders_;
     ansicht_geometrie geometrie = ansicht_aufteilen(inhalt, width(), height());
     bloecke_ordnen(geometrie, ordnung_);
     return geometrie;
@@ -263,6 +236,7 @@ void Bahn1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     nacht_anordnen();
     anordnen();
+    umgezogen();
 }
 
 void Bahn1Fenster::anordnen() {
@@ -279,13 +253,15 @@ void Bahn1Fenster::anordnen() {
             uhr->setSchriftPx(ort.schrift_px);
         }
     }
-    befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
-    protokollknopf_anordnen();
+    if (!befehle_woanders_) {
+        befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
+        protokollknopf_anordnen();
+        const platz& formular = geometrie.fenster[f::ch_strafframe];
+        formular_beschriften(formular.schrift_px, formular.ort);
+    }
     restrunden_anordnen();
     hinweis_anordnen();
     alarm_anordnen();
-    const platz& formular = geometrie.fenster[f::ch_strafframe];
-    formular_beschriften(formular.schrift_px, formular.ort);
     update();  // between the blocks the last layout may still be seen
 }
 

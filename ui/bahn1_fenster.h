@@ -21,16 +21,25 @@ public:
     void licht_der_pause(bool da);
     /// Its place on the screen.
     QRect licht_ort() const;
+    /// It has another place or size: what lies in front of it goes with it.
+    std::function<void()> bei_umzug;
     /// How the dark screen gets bright again.
     QString nachthinweis() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
+    void moveEvent(QMoveEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
     void hideEvent(QHideEvent* ereignis) override;
 
 private:
+    /// Fills its screen. On a second one, the commands are on the first.
     void schirm_fuellen();
+    /// A screen has gone or come: fills the one that is left, or has come.
+    void neu_verteilen();
+    void umgezogen();
+    void befehle_verlegen(bool woanders);
+    void befehle_zeigen();
     void kopf();
     void befehlszeile();
     void strafformular();
@@ -72,6 +81,8 @@ private:
     TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows
     TextAnzeige* alarm_ = nullptr;  ///< the timing device is gone
     bool licht_der_pause_ = false;
+    QTimer umzug_;
+    bool befehle_woanders_ = false;       ///< in the director's window
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };
 

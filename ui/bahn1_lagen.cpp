@@ -1,4 +1,5 @@
 // What the race and its lanes are in, on the race window.
+#include <QHideEvent>
 #include <utility>
 
 #include "race/spurgeometrie.h"
@@ -73,6 +74,9 @@ void Bahn1Fenster::showEvent(QShowEvent* ereignis) {
 
 void Bahn1Fenster::hideEvent(QHideEvent* ereignis) {
     lagetakt_.stop();
+    if (!ereignis->spontaneous()) {
+        logik_.umgebung.fenster.entladen(fenstername::leitstand);
+    }
     Fenster::hideEvent(ereignis);
 }
 

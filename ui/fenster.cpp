@@ -83,7 +83,8 @@ void Fenster::keyPressEvent(QKeyEvent* ereignis) {
 void Fenster::zentrieren() {
     constexpr int rahmen_px = 40;  // title bar and edges of the desktop
     constexpr int seiten_px = 12;
-    const QRect platz = screen()->availableGeometry();
+    const QWidget* vorn = QApplication::activeWindow();  // there is whoever has asked for this one
+    const QRect platz = (vorn != nullptr && vorn != this ? vorn->screen() : screen())->availableGeometry();
     const QSize gewuenscht = size().expandedTo(minimumSizeHint());
     resize(gewuenscht.boundedTo({platz.width() - seiten_px, platz.height() - rahmen_px}));
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));

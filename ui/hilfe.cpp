@@ -35,6 +35,7 @@ const std::map<fenstername, const char*>& kapitel() {
         {f::fahrerspeichernfenster, "fahrer-fahrzeuge-und-ihre-bilder"},
         {f::Form2, "startampel-und-frühstart"},
         {f::k_ampel, "chaos-die-pause"},
+        {f::leitstand, "der-rennbildschirm"},
         {f::protokoll, "das-protokoll-eines-rennens"},
         {f::rangliste, "der-wettkampfabend"},
         {f::rc_einstellungen, "race-control"},

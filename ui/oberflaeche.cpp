@@ -12,10 +12,21 @@ Oberflaeche::Oberflaeche(programm& p) : p_(p) {
             p.startampel.schliessen();
         }
     };
-    bahn1.bei_aktivierung = [this] {  // a light belongs in front, however its race window was reached
+    bahn1.bei_aktivierung = [this, &p] {
+        if (p.fenster.ist_offen(fenstername::leitstand)) {  // who clicks on the other screen goes on typing here
+            leitstand->activateWindow();
+        }
+        // a light belongs in front, however its race window was reached
         for (Fenster* ampel : {static_cast<Fenster*>(&form2), static_cast<Fenster*>(&k_ampel)}) {
             if (ampel->isVisible()) {
                 ampel->raise();
+            }
+        }
+    };
+    bahn1.bei_umzug = [this] {
+        for (AmpelFenster* ampel : {static_cast<AmpelFenster*>(&form2), static_cast<AmpelFenster*>(&k_ampel)}) {
+            if (ampel->isVisible()) {
+                ampel->nachruecken();
             }
         }
     };

@@ -29,6 +29,7 @@
 #include "ui/frm_main_fenster.h"
 #include "ui/hilfe.h"
 #include "ui/k_ampel_fenster.h"
+#include "ui/leitstand_fenster.h"
 #include "ui/protokoll_fenster.h"
 #include "ui/rangliste_fenster.h"
 #include "ui/rc_fenster.h"
@@ -101,6 +102,7 @@ public:
     SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     SpaetesFenster<WAuswertung2Fenster> w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
+    SpaetesFenster<LeitstandFenster> leitstand{p_.ergebnis_fluegel().leitstand, fenster, &bahn1};
     SpaetesFenster<ProtokollFenster> protokoll{p_.protokollfenster, p_.ablage, fenster, &bahn1};
     SpaetesFenster<UrkundenFenster> urkunden{p_.ergebnis_fluegel().urkunden, p_.ablage, fenster, &form1};
     SpaetesFenster<WAuswDebugFenster> w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};

@@ -13,6 +13,7 @@
 
 #include "core/text.h"
 #include "programm/fluegel.h"
+#include "ui/leitstand_fenster.h"
 
 namespace tarvel::ui {
 namespace {
@@ -84,7 +85,7 @@ bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
 
 bool Tastenfaenger::ist_rennfenster(const QWidget* vorn) const {
     return vorn == fenster_.bahn1 || vorn == fenster_.startampel || vorn == fenster_.k_ampel ||
-           vorn == fenster_.einfahren;
+           vorn == fenster_.einfahren || dynamic_cast<const LeitstandFenster*>(vorn) != nullptr;
 }
 
 bool Tastenfaenger::fuer_startampel(const QWidget* vorn) const {

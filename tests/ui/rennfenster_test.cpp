@@ -1,8 +1,16 @@
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
-#include <map>
+#include <QScreen>
+#include <array>
+#include <string>
+#include <vector>
 
 #include "tests/plattform/vereinsabend.h"
 #include "tests/ui/oberflaeche_probe.h"
+#include "ui/ampelfeld.h"
+#include "ui/tankbalken.h"
 
 namespace tarvel {
 namespace {
@@ -51,6 +59,104 @@ TEST_F(Rennfenster, AllesStehtWoDieAufteilungEsHat) {
     steht("bahn1.zaehler_2", soll().zaehler_weit);
 }
 
+TEST_F(Rennfenster, SpurenGleitenAnIhrenPlatzUndZurueck) {
+    t.p.einst.rennbild.nach_platz = true;
+    for (const bool zeilen : {false, true}) {
+        t.p.einst.darstellung_zeile = zeilen;
+        t.einrichten("Zeit", "5", {1, 2, 3, 4, 5, 6});
+        groesse(1280, 800);
+        const ansicht_geometrie ziele = soll();
+        const auto ort = [&](int spur) {
+            return finde<QWidget>(o.bahn1, ("bahn1.bahnshape_" + std::to_string(spur)).c_str())->pos();
+        };
+        const auto platz = [&](int nummer) { return QPoint(ziele.block[nummer].x, ziele.block[nummer].y); };
+        const auto stehen = [&](const std::array<int, spuren_max>& folge) {
+            int nummer = 0;
+            return std::all_of(folge.begin(), folge.end(), [&](int spur) { return ort(spur) == platz(++nummer); });
+        };
+        EXPECT_TRUE(stehen({1, 2, 3, 4, 5, 6})) << "as they begin";
+        t.bahn().Command1.klicken();
+        t.runde_nach(1000, "123456");
+        t.runde_nach(8000, "6");
+        const QPoint vorher = ort(6);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ort(6) != vorher && ort(6) != platz(1); })) << "on its way";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return stehen({6, 2, 3, 4, 5, 1}); }));
+        t.runde_nach(100, "3");
+        t.runde_nach(8000, "3");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return stehen({3, 6, 2, 4, 5, 1}); }));
+        groesse(1024, 768);
+        EXPECT_EQ(ort(3), QPoint(soll().block[1].x, soll().block[1].y)) << "in a window of another size at once";
+        t.p.einst.rennbild.nach_platz = false;
+        groesse(1280, 800);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return stehen({1, 2, 3, 4, 5, 6}); }));
+        t.p.einst.rennbild.nach_platz = true;
+        t.rennabbruch();
+    }
+}
+
+constexpr int nichts_zu_lesen = 10000;
+
+/// Whatever is to be read of the widget is at least so high.
+int schrifthoehe(const QWidget& widget) {
+    if (const auto* text = dynamic_cast<const ui::TextAnzeige*>(&widget)) {
+        return text->text().isEmpty() ? nichts_zu_lesen : text->schriftPx();
+    }
+    if (dynamic_cast<const ui::Ampelfeld*>(&widget) != nullptr ||
+        dynamic_cast<const ui::Tankbalken*>(&widget) != nullptr || qobject_cast<const QCheckBox*>(&widget) != nullptr) {
+        return widget.height();
+    }
+    const bool mit_schrift = qobject_cast<const QListView*>(&widget) != nullptr ||
+                             qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+                             qobject_cast<const QPushButton*>(&widget) != nullptr;
+    return mit_schrift ? widget.font().pixelSize() : nichts_zu_lesen;
+}
+
+TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
+    constexpr int hoehe = 800;
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.fahrzeugbild_an = true;
+    t.mit_bestzeiten = true;
+    for (const int spur : alle_spuren) {
+        t.p.bestzeiten.einfuegen(spur, {6900, "Anna", "Viper", "12.09.2026"});
+    }
+    t.p.form1.t_aktiv.umschalten();
+    const auto pruefen = [&](const char* wann) {
+        groesse(1280, hoehe);
+        for (const QWidget* widget : o.bahn1.findChildren<QWidget*>()) {
+            if (widget->isVisible()) {
+                EXPECT_GE(45 * schrifthoehe(*widget), hoehe) << wann << ": " << widget->objectName().toStdString();
+            }
+        }
+    };
+    for (int muster = 0; muster < 2 * 2 * spuren_max; ++muster) {
+        const int anzahl = muster % spuren_max + 1;
+        t.p.einst.darstellung_zeile = muster / spuren_max % 2 == 1;
+        t.p.einst.tankanzeige_grafisch = muster / spuren_max > 1;
+        std::vector<int> lanes;
+        while (static_cast<int>(lanes.size()) < anzahl) {
+            lanes.push_back(static_cast<int>(lanes.size()) + 1);
+        }
+        SCOPED_TRACE(testing::Message() << anzahl << " lanes, rows " << t.p.einst.darstellung_zeile);
+        t.starten("Runden", "50", lanes);
+        t.runde_nach(1000, "1");
+        t.runde_nach(200, "23456");
+        t.runde_nach(8000, "1");
+        t.runde_nach(8000, "1");
+        t.runde_nach(8000, "3456");
+        for (const int spur : lanes) {
+            t.p.rennen.strafen.zeitstrafe(spur, 10s);
+        }
+        pruefen("race");
+        t.bahn().Command3.klicken();
+        t.maschine.laufen(3000);
+        pruefen("pause");
+        t.rennabbruch();
+        if (HasFailure()) {
+            return;  // the first is enough to go by
+        }
+    }
+}
+
 TEST_F(Rennfenster, UhrMitStundenBleibtInIhremPlatz) {
     t.einrichten("Zeit", "5", {2});
     groesse(1024, 768);
@@ -89,6 +195,68 @@ TEST_F(Rennfenster, BeimEinfahrenZaehltDieTasteUndEscBeendetEs) {
     EXPECT_EQ(t.runden(2), -1);
     o.takt.ausfuehren();
     EXPECT_EQ(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1")) << "the race is next";
+}
+
+TEST_F(Rennfenster, AufDemZweitenSchirmOhneKnoepfeDieAufDemErstenLiegen) {
+    t.p.einst.rennbild.auf_schirm_2 = true;
+    t.p.einst.chaosampel_an = false;
+    t.p.form1.wertmin.eingeben("5,2");
+    for (int rennen = 0; rennen < 2; ++rennen) {
+        t.einrichten("Zeit", "5", {1, 2});
+        o.takt.ausfuehren();
+        const QList<QScreen*> schirme = QGuiApplication::screens();
+        ASSERT_EQ(schirme.size(), 2);
+        EXPECT_EQ(o.bahn1.screen(), schirme[1]);
+        QWidget& leitung = *o.leitstand;
+        ASSERT_TRUE(leitung.isVisible());
+        EXPECT_EQ(leitung.screen(), schirme[0]);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&leitung));
+        for (const char* name : {"bahn1.Command1", "bahn1.Command2", "bahn1.Command3", "bahn1.Command4"}) {
+            EXPECT_FALSE(finde<QWidget>(o.bahn1, name)->isVisible()) << name;
+        }
+        const rechteck block = soll().block[1];
+        EXPECT_GT(finde<QWidget>(o.bahn1, "bahn1.bahnshape_1")->height(), block.hoehe) << "has their room";
+        klick(leitung, "leitstand.Command1");
+        t.runde_nach(1000, "1");
+        if (rennen == 0) {
+            taste(leitung, '2');
+            t.maschine.laufen(1);
+        } else {
+            t.taste("2");
+        }
+        EXPECT_EQ(t.runden(2), 0);
+        t.runde_nach(3214, "1");
+        t.runde_nach(5000, "2");
+        EXPECT_EQ(anzeige(leitung, "leitstand.zaehler_2"), "1");
+        EXPECT_EQ(anzeige(o.bahn1, "bahn1.zaehler_2"), "1");
+        t.maschine.laufen(200);
+        ASSERT_FALSE(t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().empty());
+        EXPECT_NE(
+            t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front().find("Spur 1 Fahrer 1:  zu schnell: 3,2"),
+            std::string::npos)
+            << t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front();
+        klick(leitung, "leitstand.Command3");
+        t.maschine.laufen(3000);
+        o.takt.ausfuehren();
+        klick(leitung, "leitstand.ch_strafzeit_hacken_2");
+        o.takt.ausfuehren();
+        EXPECT_TRUE(finde<QCheckBox>(o.bahn1, "bahn1.ch_strafzeit_hacken_2")->isChecked());
+        EXPECT_FALSE(finde<QWidget>(o.bahn1, "bahn1.ch_strafframe")->isVisible());
+        tippen(leitung, "leitstand.ch_Text1", "7");
+        klick(leitung, "leitstand.Command3");
+        EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+        t.maschine.laufen(300);
+        EXPECT_NE(t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front().find("Spur 2"), std::string::npos);
+        leitung.close();
+        EXPECT_TRUE(leitung.isVisible() && t.p.rennen.abbruchfrage.fragt()) << "means the race, and asks";
+        t.rennabbruch();
+        EXPECT_FALSE(leitung.isVisible() || o.bahn1.isVisible());
+    }
+    t.p.einst.rennbild.auf_schirm_2 = false;
+    t.einrichten("Zeit", "5", {1, 2});
+    o.takt.ausfuehren();
+    EXPECT_FALSE(o.leitstand->isVisible());
+    EXPECT_TRUE(finde<QWidget>(o.bahn1, "bahn1.Command2")->isVisible());
 }
 
 TEST_F(Rennfenster, FenstermodusStattVollbild) {

@@ -260,6 +260,26 @@ const std::vector<szeneneintrag> alle_rennszenen{
          b.rennen(64000);
          return b.o.bahn1;
      }},
+    {"rennleitung",
+     [](buehne& b) -> QWidget& {
+         pause_ohne_ampel(b);
+         b.t.bahn().ch_strafzeit_hacken[2].umschalten();
+         b.t.bahn().Command3.klicken();
+         b.fahren(9000);
+         b.t.runde_nach(700, "4");
+         b.fahren(2000);
+         b.p.fenster.zeigen(fenstername::leitstand);
+         b.t.maschine.laufen(400);
+         return *b.o.leitstand;
+     }},
+    {"rennen_nach_platz",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.rennbild.nach_platz = true;
+         b.rennen(40000);
+         b.t.runde_nach(3000, "5");
+         b.t.runde_nach(3000, "5");
+         return b.o.bahn1;
+     }},
     {"rennen_drei_spuren",
      [](buehne& b) -> QWidget& {
          b.p.einst.grosse_zeit = true;

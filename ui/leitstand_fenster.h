@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "results/leitstand.h"
+#include "ui/fenster.h"
+#include "ui/uhranzeige.h"
+
+namespace tarvel::ui {
+
+/// The director's window beside a race window that fills another screen: its clock, its lanes in short and its
+/// commands, bound a second time, and the log.
+class LeitstandFenster : public Fenster {
+public:
+    /// `bahn` is the race window.
+    LeitstandFenster(leitstand& logik, Fensterverwaltung& verwaltung, QWidget* bahn);
+
+    void aufschlagen() override;
+
+private:
+    void kopf(QVBoxLayout& aufbau);
+    void hinweise(QVBoxLayout& aufbau);
+    void spuren(QVBoxLayout& aufbau);
+    QHBoxLayout* reihe(QWidget* zeile);
+    QWidget* spaltentitel();
+    QWidget* spur(int nummer);
+    void strafformular(QVBoxLayout& aufbau);
+    void verlauf(QVBoxLayout& aufbau);
+    void befehlszeile(QVBoxLayout& aufbau);
+
+    leitstand& logik_;
+    bahn1& bahn_;
+};
+
+}  // namespace tarvel::ui
