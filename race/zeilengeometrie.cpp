@@ -34,7 +34,7 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
         const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);
         const double wunsch = kante + luecke + 3.8 * lesbar;  // "schuld"
         const rechteck frei = mitte.rest();
-        const double lampen = std::min(3.0 * frei.hoehe + 2 * luecke, 0.56 * frei.breite);
+        const double lampen = std::min(3 * std::min<double>(frei.hoehe, 1.2 * lesbar) + 2 * luecke, 0.56 * frei.breite);
         ampel_legen(mitte.links(std::max(frei.breite - wunsch - 2 * luecke, lampen)), luecke, g);
         zuschnitt schuld(mitte.rest(), luecke);
         g[t::ch_strafzeit_hacken].ort = schuld.rechts(kante);
@@ -52,7 +52,7 @@ struct zeilenstueck {
 /// leaves the rest its room.
 template <std::size_t anzahl>
 std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze) {
-    constexpr double texte_hoechstens = 0.7;
+    constexpr double texte_hoechstens = 0.8;
     double gebraucht = 1;
     for (const zeilenstueck& stueck : stuecke) {
         gebraucht += stueck.mindestens;
@@ -86,17 +86,20 @@ struct zeilenteil {
 };
 using z = zeilenteil;
 
-constexpr double fahrer_em = 11.6;  ///< number, lights and the box of the blame
+constexpr double fahrer_em = 12.8;  ///< number, lights and the box of the blame
 constexpr double abstand_em = 5.5;  ///< "12 Runden"
 constexpr double zeiten_em = 13.8;  ///< two captions
 constexpr double zeiten_em_mit_bestzeit = 16;
+constexpr double nebeneinander_ab = 2.4;  ///< of its height: there both times are larger side by side
 
-/// The pieces of a row; `hoehe` in units of the design.
-std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, double hoehe, int lesbar) {
+/// The pieces of a row.
+std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, const rechteck& block,
+                                                  double s, int lesbar) {
+    const double hoehe = block.hoehe / s;
     std::array<zeilenstueck, z::anzahl> stuecke;
     stuecke[z::bild] = {hoch ? 2300 : 0.8 * hoehe};
     stuecke[z::fahrer] = {hoch ? 5400.0 : 3900.0, fahrer_em * lesbar};
-    stuecke[z::platzziffer] = {1150};
+    stuecke[z::platzziffer] = {1150, 3.0 * lesbar};
     stuecke[z::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850), rueckstand_hoehe(inhalt, abstand_em * lesbar)};
     stuecke[z::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
     stuecke[z::bild2] = {inhalt.fahrzeugbild && !hoch ? 1900.0 : 0};
@@ -104,8 +107,9 @@ std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, 
         stuecke[z::tank] = {inhalt.tank == tankanzeige_art::balken ? 1200.0 : 1900.0, tanktitel_em * lesbar};
     }
     const double texte = (inhalt.bestzeit ? zeiten_em_mit_bestzeit : zeiten_em) * lesbar;
-    stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, hoch ? 0 : texte};
-    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, liste_em * lesbar};
+    const bool untereinander = texte < nebeneinander_ab * block.hoehe;
+    stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, untereinander ? texte / 2 : texte};
+    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 0.6) * lesbar};
     return stuecke;
 }
 
@@ -122,7 +126,7 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     zuschnitt reihe(block.innen(80 * s), 2 * luecke);
     ganzes.streifen = reihe.links(140 * s);
     g[t::yellowframe].ort = reihe.links(280 * s);
-    const auto breite = zeile_teilen(zeilenstuecke(inhalt, hoch, hoehe, lesbar), reihe.rest().breite - 16 * luecke);
+    const auto breite = zeile_teilen(zeilenstuecke(inhalt, hoch, block, s, lesbar), reihe.rest().breite - 16 * luecke);
 
     zuschnitt bilder(reihe.links(breite[z::bild]), luecke);
     g[t::Image2].ort = bilder.unten(inhalt.fahrzeugbild && hoch ? 0.4 * block.hoehe : 0);
@@ -138,7 +142,6 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
             tank_legen(inhalt, rest.links(breite[z::tank]), false, lesbar, orte);
         }
         const rechteck zeitfeld = rest.links(fuer_zeiten);
-        constexpr double nebeneinander_ab = 2.4;  // of its height: there both times are larger side by side
         if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
             zeiten_reihen(inhalt, zeitfeld, 2 * luecke, lesbar, orte);
         } else {
