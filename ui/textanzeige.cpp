@@ -143,7 +143,7 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
     }
     if (faktor < 1 && satz.art != 0) {
         satz.text = QFontMetrics(satz.schrift).elidedText(text_, Qt::ElideRight, width());
-        satz.gekuerzt = satz.text != text_;
+        satz.gekuerzt = satz.text != text_ || QFontMetricsF(satz.schrift).capHeight() > height() + 1;
     }
     return satz;
 }

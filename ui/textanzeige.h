@@ -37,7 +37,7 @@ public:
     void setAusrichtung(Qt::Alignment ausrichtung);
     /// Takes the width of this text at the given size, whatever is shown.
     void setMusterText(const QString& muster);
-    /// The text has no room even where it is smallest, and ends in "…".
+    /// The text has no room even where it is smallest: it ends in "…", or is cut above and below.
     bool gekuerzt() const { return gesetzt().gekuerzt; }
 
     QSize sizeHint() const override;

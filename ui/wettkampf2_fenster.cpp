@@ -117,6 +117,8 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
         kopf->setColumnStretch(spalte++, breite);
     }
     kopf->setRowStretch(1, 1);
+    constexpr int lesbar = 44;  // also when there is little else to share the height with
+    kopf->setRowMinimumHeight(1, lesbar);
     return kopf;
 }
 

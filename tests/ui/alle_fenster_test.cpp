@@ -45,7 +45,7 @@ protected:
             std::get<befehl>(t.p.einstellungsfenster.zeile(zeile).element).klicken();
         }
         const std::vector<ui::Fenster*> alle = alle_fenster();
-        ASSERT_EQ(alle.size(), 37U);
+        ASSERT_EQ(alle.size(), 38U);
         t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 5, {1, 2, 3}));
         for (const ui::Fenster* fenster : alle) {
             t.p.fenster.zeigen(fenster->kennung());
