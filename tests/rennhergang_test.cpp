@@ -82,7 +82,7 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
     }
     std::stable_sort(erzaehlt.alle.begin(), erzaehlt.alle.end(),
                      [](const geschehen& a, const geschehen& b) { return a.seit_gruen < b.seit_gruen; });
-    EXPECT_EQ(von(erzaehlt, 1), von(h, 1)) << "read while it is written, in the order of that";
+    EXPECT_EQ(von(erzaehlt, 1), von(h, 1)) << "read while it is written";
     EXPECT_EQ(von(h, 1, ohne),
               (std::vector<std::string>{"0:00,998 erste Überfahrt nach 0,998 s, ab hier wird gezählt",
                                         "0:04,212 zu schnell: 3,214 s, gezählt wird ab 5,300 s",
