@@ -137,7 +137,7 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     mit_titel(platzfeld, titelplatz(std::min(0.2 * platzfeld.hoehe, 420 * s), lesbar), g[t::Label_platz],
               g[t::l_PosAnz]);
     g[t::rueckstand].ort = reihe.links(breite[z::abstand]);
-    zaehler_einruecken(reihe.links(breite[z::zaehler]), std::min(entwurf::zaehler_links * s, 0.2 * breite[z::zaehler]),
+    zaehler_einruecken(reihe.links(breite[z::zaehler]), std::min(entwurf::zaehler_links * s, 0.1 * breite[z::zaehler]),
                        ganzes);
     const auto dahinter = [&](zuschnitt& rest, double fuer_zeiten, spur_orte& orte) {
         if (!hoch) {
