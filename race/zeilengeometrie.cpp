@@ -34,7 +34,7 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
         const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);
         const double wunsch = kante + luecke + 3.8 * lesbar;  // "schuld"
         const rechteck frei = mitte.rest();
-        const double lampen = std::min(3 * std::min<double>(frei.hoehe, 1.2 * lesbar) + 2 * luecke, 0.56 * frei.breite);
+        const double lampen = std::min(3 * std::min<double>(frei.hoehe, 1.2 * lesbar) + 2 * luecke, 0.62 * frei.breite);
         ampel_legen(mitte.links(std::max(frei.breite - wunsch - 2 * luecke, lampen)), luecke, g);
         zuschnitt schuld(mitte.rest(), luecke);
         g[t::ch_strafzeit_hacken].ort = schuld.rechts(kante);
