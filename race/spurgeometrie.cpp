@@ -43,7 +43,6 @@ void spur_schriften(plaetze<spur_teil>& g, double skala, int lesbar_px) {
     schrift(g[t::l_PosAnz], 1.08, 0.8);     // with an edge for the leader's plate
     g[t::l_PosAnz].schrift_px = std::min(g[t::l_PosAnz].schrift_px, g[t::zaehler].schrift_px * 6 / 10);
     schrift(g[t::lrunde], ziffern, 4.1);  // "00,000"
-    g[t::lrunde].schrift_px = std::min(g[t::lrunde].schrift_px, g[t::zaehler].schrift_px * 3 / 4);
     schrift(g[t::brunde], 0.95, 5.2);
     schrift(g[t::t_bahn], ziffern, 3.3);
     schrift(g[t::straflabel], wort, 8);
