@@ -12,7 +12,7 @@ trap 'rm -rf "$ablage"' EXIT
 
 # scene, picture, size
 while read -r szene bild groesse; do
-    build/debug/tests/ui/fensterbilder "$ablage" "$groesse" "$szene" 2>/dev/null
+    build/debug/tests/ui/fensterbilder "$ablage" "$groesse" "$szene" 2>/dev/null || true # tells of texts without room as well
     # few colours are enough for windows, and keep the repository small
     convert "$ablage/$szene.png" -strip +dither -colors 128 "PNG8:docs/$bild.png"
 done <<'BILDER'
@@ -31,7 +31,7 @@ wettkampf_vorbereiten    wettkampf          1180x800
 bestzeiten               bestzeiten         1000x560
 bestzeitverwaltung       bestzeitverwaltung 1180x760
 usbtest                  usbtest            1012x690
-druckeranschluss         druckeranschluss   820x520
+druckeranschluss         druckeranschluss   960x520
 uart_probe               at2560_pruefen     1000x720
 urkunden                 urkunden           1024x768
 BILDER
