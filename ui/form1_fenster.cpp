@@ -15,7 +15,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
-constexpr int listenbreite = 210;
+constexpr int listenbreite = 230;
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
 

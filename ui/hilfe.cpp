@@ -202,7 +202,10 @@ QTextBlock Handbuch::ueberschrift(const QString& anker) const {
 QTextCursor Handbuch::tabellenzeile(int zeile) const {
     for (const QTextFrame* rahmen : document()->rootFrame()->childFrames()) {
         const auto* tabelle = qobject_cast<const QTextTable*>(rahmen);
-        const int zeilen = tabelle == nullptr ? 0 : tabelle->rows() - 1;
+        if (tabelle == nullptr) {
+            continue;
+        }
+        const int zeilen = tabelle->rows() - 1;
         if (zeile < zeilen) {
             QTextCursor marke = tabelle->cellAt(zeile + 1, 0).firstCursorPosition();
             marke.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);

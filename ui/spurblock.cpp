@@ -59,7 +59,7 @@ void Spurblock::kopf(const std::function<std::filesystem::path(const std::string
 
     TextAnzeige* schild = anzeigen(spur_teil::Label_spur, bahn_.Label_spur[spur_], "Label_spur" + nummer_);
     schild->setFett(true);
-    schild->setAutoFillBackground(true);
+    schild->setAttribute(Qt::WA_StyledBackground);
     TextAnzeige* fahrer = anzeigen(spur_teil::namenslabel, bahn_.namenslabel[spur_], "namenslabel" + nummer_);
     fahrer->setFett(true);
     fahrer->setZweizeilig();
@@ -189,9 +189,8 @@ void Spurblock::flaeche() {
         randfarbe_ = shape.randfarbe() ? stil::farbe_von(*shape.randfarbe()) : QColor();
         spurfarbe_ = stil::farbe_von(shape.schriftfarbe().value_or(0));
         QWidget* schild = teil(spur_teil::Label_spur);
-        QPalette farben = schild->palette();
-        farben.setColor(QPalette::Window, spurfarbe_);
-        schild->setPalette(farben);
+        // Not by its palette: in a window with a style sheet of its own that is not its own any more.
+        schild->setStyleSheet(QString(".QWidget { background: %1; }").arg(spurfarbe_.name()));
         static_cast<TextAnzeige*>(schild)->setFarbe(stil::schrift_auf(spurfarbe_));
         grundfarbe_ = stil::farbe_von(shape.hintergrund().value_or(0));
         static_cast<Tankbalken*>(teil(spur_teil::tankbalken))->setGrund(grundfarbe_);

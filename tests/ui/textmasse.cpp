@@ -116,7 +116,8 @@ Textmass mass(const QHeaderView& kopf) {
 Textmass mass(const QAbstractItemView& ansicht) {
     const auto* zeilen = qobject_cast<const QListView*>(&ansicht);
     const bool rollt = ansicht.horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff && zeilen != nullptr;
-    const bool eigene_zeichnung = typeid(*ansicht.itemDelegate()) != typeid(QStyledItemDelegate);
+    const QAbstractItemDelegate& zeichnung = *ansicht.itemDelegate();
+    const bool eigene_zeichnung = typeid(zeichnung) != typeid(QStyledItemDelegate);
     if (ansicht.model() == nullptr || rollt || eigene_zeichnung || (zeilen != nullptr && zeilen->wordWrap())) {
         return {};
     }
