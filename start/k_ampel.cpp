@@ -33,12 +33,7 @@ k_ampel::k_ampel(rennen& r, plattform::zeitgeber_dienst& zeitgeber)
     cu_ampel_auswertetimer_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, 1ms);
     cu_ampel_auswertetimer_->bei_tick = [this] { geraet_tick(); };
     geraet_frist_ = zeitgeber.erzeugen(zeitgeber_art::abfragend, dauer_ms(geraeteampel::laengste_ms));
-    geraet_frist_->bei_tick = [this] {  // deaf to its start key, or stopped there: the next click goes without it
-        geraet_frist_->aus();
-        cu_ampel_auswertetimer_->aus();
-        geraet_taub_ = true;
-        Command1.aktiviert(true);
-    };
+    geraet_frist_->bei_tick = [this] { geraet_frist_tick(); };
     training_autotimer_ = zeitgeber.erzeugen(zeitgeber_art::zaehlend, automatik_nach);
     training_autotimer_->bei_tick = [this] {
         training_autotimer_->aus();
@@ -132,11 +127,25 @@ bool k_ampel::geraet_uebernimmt() {
     }
     licht->neustart();
     geraet_frist_->an();
+    geraet_nochmals_ = true;
     for (std::size_t i = 0; i < schritte; ++i) {
         lampe_an(i);
     }
     cu_ampel_auswertetimer_->an();
     return true;
+}
+
+void k_ampel::geraet_frist_tick() {
+    geraeteampel* licht = um_.quellen.ampel();
+    if (geraet_nochmals_ && licht != nullptr && licht->rot()) {
+        geraet_nochmals_ = false;
+        licht->neustart();  // its light may have run already, since before an outage: then the first press stopped it
+        return;
+    }
+    geraet_frist_->aus();  // deaf to its start key: the next click goes without it
+    cu_ampel_auswertetimer_->aus();
+    geraet_taub_ = true;
+    Command1.aktiviert(true);
 }
 
 void k_ampel::geraet_tick() {

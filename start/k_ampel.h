@@ -44,11 +44,13 @@ private:
     void rot_tick(std::size_t schritt);
     void gruen_tick();
     void geraet_tick();
+    void geraet_frist_tick();
     void k_ampel_bild(std::size_t nummer, const char* name);
     void zeitgeber_aus();
 
     rennen& r_;
     const renn_umgebung& um_;
+    bool geraet_nochmals_ = false;  ///< its start key may be pressed once more
     bool geraet_taub_ = false;  ///< the device has not answered the start key with its light
     bool k_reihe2_ = false;     ///< the second row lights red with the first
     std::array<std::unique_ptr<plattform::zeitgeber>, schritte> rot_;  ///< Timer1, Timer4, Timer5

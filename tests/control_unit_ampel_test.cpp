@@ -202,6 +202,30 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
 }
 
+TEST_F(ControlUnitRennen, EineAmpelDieSchonLiefWirdNachDerFristNochEinmalGestartet) {
+    t.p.einst.chaosampel_an = true;
+    starten(t.p.txt.text_runden, "10", {1});
+    t.taste("c");
+    status(true);
+    t.taste("c");
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::k_ampel));
+    const int bis_hier = geschrieben("T2P$");
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(14000);
+    EXPECT_EQ(geschrieben("T2P$"), bis_hier + 1) << "this press may have stopped it";
+    t.maschine.laufen(14000);
+    EXPECT_EQ(geschrieben("T2P$"), bis_hier + 2);
+    EXPECT_FALSE(t.p.k_ampel.Command1.aktiviert());
+    t.maschine.laufen(3000);
+    EXPECT_TRUE(t.p.k_ampel.Command1.aktiviert()) << "deaf";
+    EXPECT_EQ(geschrieben("T2P$"), bis_hier + 2);
+    status(false);
+    t.maschine.laufen(100);
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(7100);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+}
+
 TEST_F(ControlUnitRennen, EinGeraetOhneStromUeberlaesstPauseUndAmpelDemProgramm) {
     starten(t.p.txt.text_runden, "10", {1});
     ASSERT_FALSE(t.bahn().Command3.bedienbar());
