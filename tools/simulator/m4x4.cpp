@@ -1,6 +1,7 @@
 #include "tools/simulator/m4x4.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvel::simulator {
 namespace {
@@ -42,8 +43,10 @@ void m4x4::neustart() {
     modus_ = 0;
     modus_folgt_ = false;
     feld_.strom(0, einst_.strom_invers);
-    if (einst_.rennen.sofort && !faehrt_) {
-        losfahren();
+    lampen_gesehen_ = 0;
+    const bool unterbrochen = std::exchange(gestartet_, false);
+    if (unterbrochen || (einst_.rennen.sofort && !faehrt_)) {
+        losfahren();  // who waited for a light that will never end goes as soon as there is power
     }
 }
 
