@@ -10,6 +10,7 @@
 #include "core/protokollfortsetzung.h"
 #include "core/protokollordner.h"
 #include "core/protokollzeile.h"
+#include "programm/messgeraete.h"
 #include "programm/wertungsfolge.h"
 
 namespace tarvel {
@@ -192,6 +193,7 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
         melden(um_.txt.wettkampf.nicht_fortsetzbar);
         return false;
     }
+    um_.hardware.nachholen();  // right behind the start they may wait yet, and the race window asks for them
     const mitschrift::werte uhrstand = um_.rennen.zeit.stand();
     um_.fenster.stillhalten({fenstername::bahn1, fenstername::Form2, fenstername::k_ampel});
     um_.ausgang.stillhalten();

@@ -10,6 +10,8 @@
 
 namespace tarvel {
 
+class messgeraete;
+
 /// Races that were cut off: by an outage, or by the director himself, who wants it back.
 class wiederaufnahme {
 public:
@@ -26,6 +28,7 @@ public:
         wettkampffluegel& wettkampf;
         rennprotokoll& protokoll;
         rennverbindung& geraete;
+        messgeraete& hardware;
         plattform::dienste dienste;
     };
 

@@ -152,9 +152,11 @@ protected:
         p_ = &jetzt.p;
         anschliessen(jetzt.maschine);
         kalender_stellen();
+        std::size_t davor = 0;  // messages
         if (bedenkzeit > 0) {
             p_->ablage.zeilen_schreiben(standard_einstellungen, einstellungen_);
-            jetzt.maschine.waehrend_frage = [this, bedenkzeit] {
+            jetzt.maschine.waehrend_frage = [this, bedenkzeit, &davor] {
+                davor = maschine_->meldungen_gezeigt.size();
                 laufen(bedenkzeit);
                 stehen(400);  // until the windows of the race are there
                 kalender_stellen();
@@ -168,6 +170,9 @@ protected:
         ASSERT_TRUE(p_->fenster.ist_offen(fenstername::bahn1))
             << testing::PrintToString(jetzt.maschine.meldungen_gezeigt);
         ASSERT_TRUE(p_->geraete.verbunden());
+        if (bedenkzeit > 0) {
+            EXPECT_EQ(jetzt.maschine.meldungen_gezeigt.size(), davor) << jetzt.maschine.meldungen_gezeigt.back().text;
+        }
         ASSERT_TRUE(p_->rennen.zustand.chaos_aktiv);
         p_->k_ampel.Command1.klicken();
         for (int ms = 0; ms < 20000 && p_->rennen.zustand.chaos_aktiv; ++ms) {
@@ -291,6 +296,8 @@ TEST_P(Ausfallrennen, AusfaelleVerlierenKeineRundeUndVerschiebenKeine) {
     ASSERT_NO_FATAL_FAILURE(ausfallen(3500, 7000));
     laufen(32344);
     ASSERT_NO_FATAL_FAILURE(ausfallen(3392, 1296));
+    laufen(21100);
+    ASSERT_NO_FATAL_FAILURE(ausfallen(2500, 90));
     laufen(zeit_ms{4} * 60 * 1000);
     ASSERT_TRUE(p_->fenster.ist_offen(fenstername::auswertung));
     vergleichen(4);
