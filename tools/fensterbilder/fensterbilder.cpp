@@ -17,7 +17,7 @@
 namespace tarvel {
 namespace {
 
-const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 1024}, {1920, 1080}, {3840, 2160}};
+const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 800}, {1920, 1080}, {3840, 2160}};
 
 /// The window, and the light that stands in front of it.
 QPixmap aufnehmen(buehne& b, QWidget& fenster) {
