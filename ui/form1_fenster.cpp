@@ -15,7 +15,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
-constexpr int listenbreite = 230;
+constexpr int listenbreite = 240;
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
 
@@ -170,29 +170,29 @@ QWidget* Form1Fenster::spuren_gruppe() {
         raster->addLayout(zelle, 0, spalte);
         return zelle;
     };
-    /// Gives its room to the list of drivers while that is open.
-    const auto weichend = [&](QHBoxLayout* zelle, befehl& knopf, const QString& name) {
-        auto* huelle = new QWidget(this);
-        auto* innen = new QHBoxLayout(huelle);
-        innen->setContentsMargins(0, 0, 0, 0);
-        innen->addWidget(binder().knopf(knopf, name, "schmal"));
-        zelle->addWidget(huelle);
-        weichen_der_liste_.push_back(huelle);
-    };
     kopf(logik_.label_spurlaenge, "label_spurlaenge", 2);
     kopf(logik_.Label_meter, "Label_meter", 3);
-    weichend(kopf(logik_.Label_fahrer, "Label_fahrer", 5, {{&logik_.command_liste, "command_liste"}}), logik_.Command13,
-             "Command13");
-    weichend(kopf(logik_.Label_auto, "Label_auto", 7), logik_.Command10, "Command10");
-    kopf(logik_.Label_bestzeit, "Label_bestzeit", 8);
+    kopf(logik_.Label_fahrer, "Label_fahrer", 5, {{&logik_.command_liste, "command_liste"}})
+        ->addWidget(weichend(binder().knopf(logik_.Command13, "Command13", "schmal")));
+    kopf(logik_.Label_auto, "Label_auto", 7)
+        ->addWidget(weichend(binder().knopf(logik_.Command10, "Command10", "schmal")));
+    raster->addWidget(weichend(stil::leise(binder().label(logik_.Label_bestzeit, "Label_bestzeit"))), 0, 8);
     for (const int spur : alle_spuren) {
         spur_zeile(raster, spur);
         raster->setRowStretch(spur, 1);
     }
-    raster->setColumnStretch(5, 3);
+    raster->setColumnStretch(5, 4);  // people have longer names
     raster->setColumnStretch(7, 3);
-    raster->setColumnMinimumWidth(8, 76);
     return gruppe;
+}
+
+QWidget* Form1Fenster::weichend(QWidget* inhalt) {
+    auto* huelle = new QWidget(this);  // for its logic shows and hides what is in it
+    auto* innen = new QHBoxLayout(huelle);
+    innen->setContentsMargins(0, 0, 0, 0);
+    innen->addWidget(inhalt);
+    weichen_der_liste_.push_back(huelle);
+    return huelle;
 }
 
 void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
@@ -211,10 +211,10 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     const auto im_ordner = [this](const std::string& datei) { return ablage_.pfad(datei); };
     QLabel* fahrerbild = binder().bildfeld(logik_.fahrerbild.at(i), "fahrerbild_" + nummer, bildgroesse, im_ordner);
     QLabel* autobild = binder().bildfeld(logik_.autobild.at(i), "autobild_" + nummer, bildgroesse, im_ordner);
+    QLabel* bestzeit = binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer);
+    bestzeit->setMinimumWidth(76);
     const std::vector<QWidget*> zeile{
-        fleck,    kasten,     laenge,
-        nullptr,  fahrerbild, fahrer,
-        autobild, fahrzeug,   binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer)};
+        fleck, kasten, laenge, nullptr, fahrerbild, fahrer, weichend(autobild), fahrzeug, weichend(bestzeit)};
     for (std::size_t spalte = 0; spalte < zeile.size(); ++spalte) {
         if (zeile[spalte] != nullptr) {
             raster->addWidget(zeile[spalte], spur, static_cast<int>(spalte), Qt::AlignVCenter);

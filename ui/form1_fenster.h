@@ -23,12 +23,14 @@ private:
     QWidget* werkzeugbefehle();
     QPushButton* hoher_knopf(befehl& element, const QString& name);
     QWidget* statuszeile();
+    /// What gives its room to the list of drivers while that is open.
+    QWidget* weichend(QWidget* inhalt);
     void spur_zeile(QGridLayout* raster, int spur);
 
     form1& logik_;
     const dateien& ablage_;
     Spurzeilen* spurzeilen_ = nullptr;
-    std::vector<QWidget*> weichen_der_liste_;  ///< while the list of drivers is open
+    std::vector<QWidget*> weichen_der_liste_;
 };
 
 }  // namespace tarvel::ui
