@@ -4,10 +4,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
-
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/text.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -23,7 +23,9 @@ constexpr double schrift_spur = 34;
 constexpr double schrift_fahrer = 56;
 constexpr double schrift_einsetzer = 46;
 constexpr double anteil_blick = 0.6;  // of the window beside the list
-constexpr int planschrift_px = 15;
+constexpr double planschrift_px = 15;
+constexpr double planschrift_min_px = 10;  // of many lanes; what still has no room is scrolled to
+constexpr int planrand_px = 24;            // beside the columns, with the bar that scrolls
 constexpr int fleck_breite = 18;
 
 }  // namespace
@@ -117,8 +119,10 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
         kopf->setColumnStretch(spalte++, breite);
     }
     kopf->setRowStretch(1, 1);
-    constexpr int lesbar = 44;  // also when there is little else to share the height with
-    kopf->setRowMinimumHeight(1, lesbar);
+    constexpr int titel_px = 16;  // both also when there is little height to share
+    constexpr int wert_px = 44;
+    kopf->setRowMinimumHeight(0, titel_px);
+    kopf->setRowMinimumHeight(1, wert_px);
     return kopf;
 }
 
@@ -213,13 +217,28 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     kopf->addStretch(1);
     kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
     aufbau->addLayout(kopf);
-    QListView* liste = binder().listenfeld(logik_.List1, "List1");
-    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    liste->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }")
-                             .arg(schrift)  // columns stay below each other
-                             .arg(planschrift_px));
-    aufbau->addWidget(liste, 1);
+    plan_ = binder().listenfeld(logik_.List1, "List1");
+    plan_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    QObject::connect(plan_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
+    aufbau->addWidget(plan_, 1);
     return feld;
+}
+
+/// The columns of the races stay below each other, and are as large as all of them have room.
+void Wettkampf2Fenster::plan_skalieren(double skala) {
+    std::size_t zeichen = 1;
+    for (const std::string& zeile : logik_.List1.zeilen()) {
+        zeichen = std::max(zeichen, laenge(zeile));
+    }
+    constexpr int probe_px = 100;
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(probe_px);
+    const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px * static_cast<double>(zeichen);
+    const double px =
+        std::clamp((plan_->width() - planrand_px) / je_px, planschrift_min_px, planschrift_px * std::max(skala, 1.0));
+    plan_->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }")
+                             .arg(schrift.family())
+                             .arg(static_cast<int>(px)));
 }
 
 QLayout* Wettkampf2Fenster::rennbefehle() {
@@ -285,7 +304,11 @@ void Wettkampf2Fenster::skalieren() {
     const double entwurf =
         zeilenhoehe * (2 * schrift_klein + schrift_paarung + 2 * schrift_einsetzer + zeilen * schrift_fahrer);
     const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
-    binder().skala(std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4));
+    const double skala = std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4);
+    binder().skala(skala);
+    if (plan_ != nullptr) {
+        plan_skalieren(skala);
+    }
 }
 
 }  // namespace tarvel::ui

@@ -4,6 +4,7 @@
 #include "ui/fenster.h"
 
 class QGridLayout;
+class QListView;
 
 namespace tarvel::ui {
 
@@ -29,9 +30,11 @@ private:
     QLayout* rennbefehle();
     QLayout* fuss();
     void skalieren();
+    void plan_skalieren(double skala);
 
     wettkampf2& logik_;
     const dateien& ablage_;
+    QListView* plan_ = nullptr;
 };
 
 }  // namespace tarvel::ui
