@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "ui/stil.h"
@@ -174,11 +175,19 @@ void WiedergabeFenster::Lichtschalter::verbergen(fenstername name) {
 
 void WiedergabeFenster::lichter_zeichnen() {
     programm& p = *gezeichnet_;
-    for (QWidget* licht : {static_cast<QWidget*>(new Form2Fenster(p.startampel, p.einst, p.ablage, innen_, bahn_)),
-                           static_cast<QWidget*>(new KAmpelFenster(p.k_ampel, p.einst, p.ablage, innen_, bahn_))}) {
+    const std::array<AmpelFenster*, 2> lichter{new Form2Fenster(p.startampel, p.einst, p.ablage, innen_, bahn_),
+                                               new KAmpelFenster(p.k_ampel, p.einst, p.ablage, innen_, bahn_)};
+    for (AmpelFenster* licht : lichter) {
         licht->setParent(bahn_, Qt::Widget);
         licht->setEnabled(false);
     }
+    bahn_->bei_umzug = [lichter] {
+        for (AmpelFenster* licht : lichter) {
+            if (licht->isVisible()) {
+                licht->nachruecken();
+            }
+        }
+    };
     p.fenster.anzeigen_auf(&lichter_);
     for (const fenstername licht : {fenstername::Form2, fenstername::k_ampel}) {
         if (p.fenster.ist_offen(licht)) {
