@@ -29,7 +29,9 @@ BildwahlFenster::BildwahlFenster(bildwahl& logik, Fensterverwaltung& verwaltung,
     const auto spalte = [&](bezeichnung& titel, tarvel::liste& liste, const QString& name) {
         auto* paar = new QVBoxLayout;
         paar->addWidget(binder().label(titel, "Label_" + name));
-        paar->addWidget(binder().listenfeld(liste, name), 1);
+        QListView* zeilen = binder().listenfeld(liste, name);
+        zeilen->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // a file has the name that it has
+        paar->addWidget(zeilen, 1);
         mitte->addLayout(paar, 1);
     };
     spalte(logik.Label_ordner, logik.ordner, "ordner");

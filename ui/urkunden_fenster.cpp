@@ -10,7 +10,8 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int spalte_links = 330;
+constexpr int spalte_links = 390;  // place and long name in one line
+constexpr int kasten_px = 18;      // of the box around it
 constexpr int vorlage_zeichen = 16;
 
 }  // namespace
@@ -76,7 +77,10 @@ QWidget* UrkundenFenster::fahrerfeld() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_fahrer, "Frame_fahrer");
     auto* aufbau = new QVBoxLayout(kasten);
     aufbau->setSpacing(6);
-    aufbau->addWidget(binder().listenfeld(logik_.fahrer, "fahrer"), 1);
+    QListView* liste = binder().listenfeld(logik_.fahrer, "fahrer");
+    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    liste->setMinimumWidth(spalte_links - 2 * kasten_px);
+    aufbau->addWidget(liste, 1);
     auto* unten = new QHBoxLayout;
     unten->addWidget(binder().kasten(logik_.dabei, "dabei"), 1);
     unten->addWidget(binder().knopf(logik_.Command_alle, "Command_alle", "schmal"));

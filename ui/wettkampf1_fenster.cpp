@@ -58,7 +58,7 @@ Wettkampf1Fenster::Wettkampf1Fenster(wettkampf1& logik, const dateien& ablage, F
     aufbau->addWidget(titelzeile());
     auto* mitte = new QHBoxLayout;
     mitte->setSpacing(10);
-    mitte->addWidget(gesamtspalte(), 4);
+    mitte->addWidget(gesamtspalte(), 5);
     mitte->addWidget(zwischenspalte());
     mitte->addWidget(startspalte(), 6);
     auto* rechts = new QVBoxLayout;
