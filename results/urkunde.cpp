@@ -31,6 +31,13 @@ double laenge_von(const rennergebnis::spur& s) {
     return zahl_lesen(text);
 }
 
+/// "3. Platz"; in a language that says it the other way round a # in its word stands for the number: "Place 3".
+std::string platz_gesagt(int platz, const std::string& wort) {
+    const std::string nummer = std::to_string(platz);
+    const std::size_t stelle = wort.find('#');
+    return stelle == std::string::npos ? nummer + ". " + wort : std::string(wort).replace(stelle, 1, nummer);
+}
+
 /// What every certificate says, of whatever it is.
 urkunde urkunde_mit(int platz, std::string_view datum, std::string_view fahrer, std::size_t teilnehmer,
                     const urkundenangaben& angaben) {
@@ -43,7 +50,7 @@ urkunde urkunde_mit(int platz, std::string_view datum, std::string_view fahrer, 
     u.setzen(w::datum, datum);
     u.setzen(w::fahrer, fahrer);
     u.setzen(w::platz, platz > 0 ? std::to_string(platz) : "");
-    u.setzen(w::platzwort, platz > 0 ? std::to_string(platz) + ". " + angaben.platz : angaben.ohne_platz);
+    u.setzen(w::platzwort, platz > 0 ? platz_gesagt(platz, angaben.platz) : angaben.ohne_platz);
     u.setzen(w::teilnehmer, std::to_string(teilnehmer));
     return u;
 }

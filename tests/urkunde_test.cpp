@@ -56,6 +56,8 @@ TEST(Urkunde, SagtWasDasErgebnisSagt) {
     EXPECT_EQ(alle[2].platz, 0);
     EXPECT_EQ(alle[2].wort(w::beste), "") << "a lap that does not count is none";
     EXPECT_EQ(streckenlaenge(e), "10 – 10,5 m");
+    const auto englisch = urkunden_bilden(e, {{}, "Race", "Place #", "Took part", trennzeichen_standard, {}});
+    EXPECT_EQ(englisch.at(0).wort(w::platzwort), "Place 1");
 }
 
 class Urkundenfenster : public test::ProgrammProbe {
