@@ -20,6 +20,19 @@ std::size_t zeile_fuer(int nummer, bool an) {
     return static_cast<std::size_t>(an ? nummer : nummer + 6);
 }
 
+constexpr unsigned ganze_bahn = 1;
+
+/// The lane of an event's row, as a bit.
+unsigned betroffene_der_zeile(int zeile) {
+    constexpr int erste_ohne_spur = at_zeile::chaos_allgemein;
+    if (zeile >= erste_ohne_spur) {
+        return ganze_bahn;
+    }
+    const bool ziel = zeile <= at_zeile::rundenzaehlung(spuren_max);
+    const int spur = ziel ? zeile : (zeile - at_zeile::tanken_ein(1)) / 2 % spuren_max + 1;
+    return 1U << static_cast<unsigned>(spur);
+}
+
 }  // namespace
 
 const std::string& at_schaltwort(const at_profil& profil, const schaltung& befehl) {
@@ -180,9 +193,9 @@ void at2560::schalten(const schaltung& befehl) {
 void at2560::empfangen(std::string_view bytes) {
     constexpr zeit_ms abfragepause_ms = 100;
     empfang_.anhaengen(bytes);
-    // One sequence a tick in a race, so that the race sees each of them. But the clock is still to be fetched before
-    // it, and in a pause nobody asks while the unit repeats that its chaos switch is on. A race that runs and has not
-    // asked for long has stood still, and will ask.
+    // In a race each tick takes what it can tell apart, so that the race sees all of it. But the clock is still to be
+    // fetched before it, and in a pause nobody asks while the unit repeats that its chaos switch is on. A race that
+    // runs and has not asked for long has stood still, and will ask.
     const bool rennen_fragt = im_rennen_ && um_.rennen.rennen_laeuft();
     const bool ungefragt = !rennen_fragt && um_.uhr.jetzt() - letzte_abfrage_ > abfragepause_ms;
     while ((at_zeitversatz_ == 0 || ungefragt) && µC_neuer_befehl()) {
@@ -190,11 +203,32 @@ void at2560::empfangen(std::string_view bytes) {
     }
 }
 
+/// Six cars may cross at once, and ticks of a busy machine are rare: nothing waits for one of its own but what speaks
+/// of the same lane.
 void at2560::abfragen() {
     letzte_abfrage_ = um_.uhr.jetzt();
-    if (µC_neuer_befehl()) {
+    unsigned schon = 0;
+    while (µC_neuer_befehl()) {
+        const unsigned dieser = betroffene();
+        const bool allein = ((schon | dieser) & ganze_bahn) != 0;
+        if (schon != 0 && (allein || (schon & dieser) != 0)) {
+            empfang_.zuruecklegen();
+            return;
+        }
+        schon |= dieser;
         µC_wert_zerlegen();
     }
+}
+
+unsigned at2560::betroffene() const {
+    const auto meldung = empfang_.meldung(profil_);
+    unsigned alle = 0;
+    for (int zeile = 1; meldung && zeile <= at_ereignisse_max; ++zeile) {
+        if (profil_.at_ereignis.at(static_cast<std::size_t>(zeile)) == meldung->ereignis) {
+            alle |= betroffene_der_zeile(zeile);
+        }
+    }
+    return alle;
 }
 
 void at2560::µC_wert_zerlegen() {

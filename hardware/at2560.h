@@ -83,6 +83,8 @@ private:
     zeit_ms stempel_von(zeit_ms geraetezeit);
     bool µC_neuer_befehl() { return empfang_.µC_neuer_befehl(profil_); }
     void µC_wert_zerlegen();
+    /// The lanes that the event at hand speaks of, a bit each; bit 0: it is for all of them.
+    unsigned betroffene() const;
     void ereignis_melden(const at_meldung& meldung);
     void zeile_melden(int zeile, zeit_ms stempel);
     void tmr_µportopen_tick();

@@ -1,5 +1,7 @@
 #include "hardware/at2560_empfang.h"
 
+#include <utility>
+
 #include "core/text.h"
 
 namespace tarvel {
@@ -24,6 +26,9 @@ bool at_empfang::anhaengen(std::string_view bytes) {
 }
 
 bool at_empfang::µC_neuer_befehl(const at_profil& profil) {
+    if (std::exchange(zurueckgelegt_, false)) {
+        return true;
+    }
     at_befehl_.clear();
     if (at_empfang_.empty()) {  // the usual case, a thousand times a second
         return false;

@@ -25,10 +25,15 @@ public:
 
     /// False if older bytes had to go for these.
     bool anhaengen(std::string_view bytes);
-    void leeren() { at_empfang_.clear(); }
+    void leeren() {
+        at_empfang_.clear();
+        zurueckgelegt_ = false;
+    }
 
     /// Takes the next whole sequence out of the buffer as `at_befehl`. False, and none, if there is none yet.
     bool µC_neuer_befehl(const at_profil& profil);
+    /// The next one that is taken out is this one again.
+    void zuruecklegen() { zurueckgelegt_ = true; }
     /// The event of `at_befehl`; none in a sequence without a time code.
     std::optional<at_meldung> meldung(const at_profil& profil) const;
     const std::string& at_befehl() const { return at_befehl_; }
@@ -36,6 +41,7 @@ public:
 private:
     std::string at_empfang_;
     std::string at_befehl_;
+    bool zurueckgelegt_ = false;
 };
 
 }  // namespace tarvel
