@@ -62,10 +62,9 @@ bool bis_stempel(const geschehen& g) {
 }
 
 int spur_des_ereignisses(std::int64_t art) {
-    constexpr ereignis_art erster_chaostaster = 54;
     for (const int spur : alle_spuren) {
         if (art == art::rundenzaehlung[spur] || art == art::tanken_ein[spur] || art == art::tanken_aus[spur] ||
-            art == erster_chaostaster + spur - 1 ||
+            art == art::fahrertaster[spur] ||
             (art >= erste_zwischenzeit && art < erste_zwischenzeit + sektorsensoren_max &&
              (art - erste_zwischenzeit) / 2 + 1 == spur)) {
             return spur;
