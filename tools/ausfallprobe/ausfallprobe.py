@@ -27,6 +27,7 @@ QUELLEN = pathlib.Path(__file__).resolve().parents[2]
 ALT_MS = 100  # what is older must be on the disk
 RAND_MS = 150  # around the beginning and the end of a pause a crossing may belong to either side
 NAHE_MS = 400  # a busy machine may hear of a crossing here before it is told of it there
+FRUEH_MS = (100, 900)  # a start is that young in a probe of starts
 GESTAUT_MS = 8000  # and may have stood still for so long
 ZU_LANGE_S = 120
 
@@ -87,6 +88,7 @@ def protokoll_lesen(datei):
 class Rennen:
     def __init__(self, art, nummer, wahl, zufall):
         bau, self.hoechstens = wahl.bau, wahl.je_rennen
+        self.wann = FRUEH_MS if wahl.frueh else (100, 7000)  # ms behind a start
         self.geraet, self.art, self.zufall = GERAETE[art], art, zufall
         self.werkzeuge = bau / "tools"
         self.ordner = pathlib.Path(tempfile.mkdtemp(prefix=f"tarvel-ausfall-{art}-{nummer}-"))
@@ -160,12 +162,12 @@ class Rennen:
                              stderr=subprocess.DEVNULL)
         leitung = Leitung(p, self.programm_sagt)
         darf_enden = self.zahlen["toetungen"] >= self.hoechstens
-        frueh = self.zufall.random() < 0.15 and not darf_enden
+        frueh = self.zufall.random() < 0.15 and not darf_enden and self.wann != FRUEH_MS
         ende = self.gestartet + self.zufall.uniform(100, 9000) if frueh else None
         fertig = False
         while (ende is None or jetzt() < ende) and not fertig:
             if ende is None and self.faehrt() and not darf_enden:
-                ende = jetzt() + self.zufall.uniform(100, 7000)
+                ende = jetzt() + self.zufall.uniform(*self.wann)
             if jetzt() - self.gestartet > ZU_LANGE_S * 1000:
                 self.fehler.append("comes to nothing")
                 break
@@ -173,7 +175,7 @@ class Rennen:
                 self.fehler.append(f"ended by itself: {p.returncode}")
                 break
             try:
-                fertig = "gespeichert" in self.ereignisse.get(timeout=0.1)
+                fertig = "gespeichert" in self.ereignisse.get(timeout=0.1 if ende is None else 0.02)
             except queue.Empty:
                 pass
         while fertig and b"# Ergebnis" not in self.protokoll().read_bytes() and jetzt() - self.gestartet < 150000:
@@ -357,6 +359,7 @@ def main():
     p.add_argument("--je-rennen", type=int, default=1000, help="dann fährt es ungestört zu Ende")
     p.add_argument("--saat", type=int, default=1)
     p.add_argument("--geraete", type=lambda s: s.split(","), default=list(GERAETE))
+    p.add_argument("--frueh", action="store_true", help="nur kurz nach Grün")
     p.add_argument("--behalten", action="store_true", help="die Programmordner bleiben")
     p.add_argument("--bau", type=lambda s: pathlib.Path(s).resolve(), default=QUELLEN / "build" / "release")
     return Probe(p.parse_args()).laufen()
