@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "hardware/ereignisse.h"
@@ -115,6 +116,20 @@ void buehne::rundenrennen(zeit_ms gefahren, const char* runden, std::initializer
     einrichten("Runden", runden, spuren);
     t.bahn().Command1.klicken();
     fahren(gefahren);
+}
+
+void buehne::control_unit_anschliessen() {
+    constexpr int com = 7;
+    t.maschine.anschluesse.da = {com};
+    p.einst.hardware = {};
+    p.einst.hardware.hw_cu = true;
+    p.einst.cu.anschluss.cu_modus = com;
+    p.einst.cu.cu_sondermodus = false;
+    t.maschine.anschluesse.geraet = [this](int nummer, std::string_view /*bytes*/) {
+        const bool steht = p.rennen.zustand.chaos_aktiv;
+        t.maschine.anschluesse.senden(nummer, steht ? "?:77777700100000000$" : "?:77777700000000000$");
+    };
+    p.geraete.hardware_starten(false);
 }
 
 }  // namespace tarvel

@@ -24,6 +24,9 @@ struct buehne {
     /// A whole race to its result.
     void ergebnis(const char* runden, std::initializer_list<int> spuren) { rundenrennen(150000, runden, spuren); }
 
+    /// A Control Unit, at rest or in its pause as the race is.
+    void control_unit_anschliessen();
+
     test::testprogramm t;
     programm& p;
     test::vereinsabend abend{p};

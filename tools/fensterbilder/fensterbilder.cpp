@@ -93,7 +93,8 @@ int main(int argc, char** argv) {
     bool gut = true;
     const bool alle = argumente.isEmpty();
     std::vector<tarvel::szeneneintrag> szenen = tarvel::fensterszenen();
-    for (const auto* weitere : {&tarvel::rennszenen(), &tarvel::abendszenen(), &tarvel::ergebnisszenen()}) {
+    for (const auto* weitere :
+         {&tarvel::rennszenen(), &tarvel::lagenszenen(), &tarvel::abendszenen(), &tarvel::ergebnisszenen()}) {
         szenen.insert(szenen.end(), weitere->begin(), weitere->end());
     }
     for (const auto& szene : szenen) {

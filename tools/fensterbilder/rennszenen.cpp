@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <utility>
 
 #include "results/protokollfenster.h"
@@ -19,24 +18,15 @@ QWidget& ampel(buehne& b) {
     return b.o.form2;
 }
 
-QWidget& pause(buehne& b, std::initializer_list<int> spuren = {1, 2, 3, 4, 5, 6}) {
-    b.rennen(40000, spuren);
-    b.t.bahn().Command3.klicken();
-    b.t.maschine.laufen(3000);
-    return b.o.bahn1;
-}
-
-/// Without the light.
-QWidget& pause_ohne_ampel(buehne& b) {
-    b.p.einst.chaosampel_an = false;
-    return pause(b);
-}
-
+/// The same in front of its race.
 template <bool zeilen, int... spuren>
-QWidget& pause_mit_tank(buehne& b) {
+QWidget& ampel_im_rennen(buehne& b) {
     b.p.einst.darstellung_zeile = zeilen;
-    b.p.form1.t_aktiv.gesetzt(true);
-    return pause(b, {spuren...});
+    b.einrichten("Runden", "20", {spuren...});
+    b.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    b.t.bahn().Command1.klicken();
+    b.t.maschine.laufen(5500);
+    return b.o.bahn1;
 }
 
 template <zeit_ms gefahren = 31000>
@@ -57,42 +47,6 @@ void sektoren_messen(buehne& b) {
     }
 }
 
-/// One lane that pauses, in the view of its own.
-QWidget& pause_allein(buehne& b) {
-    b.p.einst.chaosampel_an = false;
-    b.rundenrennen(40000, "30", {3});
-    b.t.bahn().Command3.klicken();
-    b.t.maschine.laufen(3000);
-    return b.o.bahn1;
-}
-
-void control_unit_anschliessen(buehne& b) {
-    constexpr int com = 7;
-    b.t.maschine.anschluesse.da = {com};
-    b.p.einst.hardware = {};
-    b.p.einst.hardware.hw_cu = true;
-    b.p.einst.cu.anschluss.cu_modus = com;
-    b.p.einst.cu.cu_sondermodus = false;
-    b.t.maschine.anschluesse.geraet = [&b](int nummer, std::string_view /*bytes*/) {
-        const bool steht = b.p.rennen.zustand.chaos_aktiv;
-        b.t.maschine.anschluesse.senden(nummer, steht ? "?:77777700100000000$" : "?:77777700000000000$");
-    };
-    b.p.geraete.hardware_starten(false);
-}
-
-/// The pause of a device that is continued at its own key.
-template <bool zeilen, int... spuren>
-QWidget& control_unit_pause(buehne& b) {
-    b.p.einst.darstellung_zeile = zeilen;
-    b.p.einst.chaosampel_an = false;
-    b.rennen(40000, {spuren...});
-    control_unit_anschliessen(b);
-    b.t.maschine.laufen(100);
-    b.t.bahn().Command3.klicken();
-    b.t.maschine.laufen(3000);
-    return b.o.bahn1;
-}
-
 /// Counters of two, three and four digits.
 template <bool zeilen>
 QWidget& tausend_runden(buehne& b) {
@@ -102,70 +56,6 @@ QWidget& tausend_runden(buehne& b) {
         b.t.runden_auffuellen(spur, runden);
     }
     b.fahren(16000);
-    return b.o.bahn1;
-}
-
-/// Some lanes are home, one is out.
-template <bool zeilen>
-QWidget& im_ziel(buehne& b) {
-    b.p.einst.darstellung_zeile = zeilen;
-    b.p.einst.zielmodus_erster = false;
-    b.rundenrennen(37200, "5", {1, 2, 3, 4, 5, 6});
-    b.t.spur(6).disqualifiziert = true;
-    b.t.bahn().zaehler[6].text(disqualifiziert_text);
-    b.p.rennen.strafen.spur_strom_aus(6);
-    b.t.maschine.laufen(20);
-    return b.o.bahn1;
-}
-
-/// Each lane in another state, as far as there are lanes for them.
-template <bool zeilen, bool mit_tank, int... spuren>
-QWidget& lagen(buehne& b) {
-    b.p.einst.darstellung_zeile = zeilen;
-    b.p.form1.t_aktiv.gesetzt(mit_tank);
-    b.p.einst.tank_inhalt = 60;
-    b.rundenrennen(40000, "30", {spuren...});
-    int stelle = 0;
-    for (const int spur : {spuren...}) {
-        spur_zustand& zustand = b.t.spur(spur);
-        zustand.strom_aus = true;
-        switch (++stelle) {
-            case 1:
-                zustand.ch_strafe_rest = 10000;
-                break;
-            case 2:
-                zustand.disqualifiziert = true;
-                b.t.bahn().zaehler[spur].text(disqualifiziert_text);
-                break;
-            case 3:
-                zustand.tank_kontakt = true;
-                zustand.tankt_seit = 1;
-                zustand.tank_inhalt = 34;
-                break;
-            case 4:
-                zustand.ziel_erreicht = true;
-                b.t.bahn().bahnshape[spur].randfarbe(farben::rot);
-                break;
-            case 5:
-                zustand.fruehstart_sperre = true;
-                break;
-            default:
-                zustand.tank_strafe_aktiv = true;
-                break;
-        }
-    }
-    return b.o.bahn1;
-}
-
-template <bool zeilen, int... spuren>
-QWidget& pause_kurz(buehne& b) {
-    b.p.einst.darstellung_zeile = zeilen;
-    b.p.einst.chaosampel_an = false;
-    b.rundenrennen(40000, "30", {spuren...});
-    b.t.spur(2).disqualifiziert = true;
-    b.t.bahn().zaehler[2].text(disqualifiziert_text);
-    b.t.bahn().Command3.klicken();
-    b.t.maschine.laufen(42000);
     return b.o.bahn1;
 }
 
@@ -211,12 +101,6 @@ QWidget& protokoll(buehne& b) {
     return *b.o.protokoll;
 }
 
-QWidget& protokoll_in_der_pause(buehne& b) {
-    pause_ohne_ampel(b);
-    b.t.bahn().Command_protokoll.klicken();
-    return *b.o.protokoll;
-}
-
 QWidget& protokoll_auswahl(buehne& b) {
     b.rundenrennen(40000, "5", {1, 2});
     b.p.auswertung.Command5.klicken();
@@ -226,7 +110,6 @@ QWidget& protokoll_auswahl(buehne& b) {
 
 const std::vector<szeneneintrag> alle_rennszenen{
     {"protokoll", protokoll},
-    {"protokoll_in_der_pause", protokoll_in_der_pause},
     {"protokoll_auswahl", protokoll_auswahl},
     {"rennen_vor_dem_start",
      [](buehne& b) -> QWidget& {
@@ -260,18 +143,6 @@ const std::vector<szeneneintrag> alle_rennszenen{
          b.rennen(64000);
          return b.o.bahn1;
      }},
-    {"rennleitung",
-     [](buehne& b) -> QWidget& {
-         pause_ohne_ampel(b);
-         b.t.bahn().ch_strafzeit_hacken[2].umschalten();
-         b.t.bahn().Command3.klicken();
-         b.fahren(9000);
-         b.t.runde_nach(700, "4");
-         b.fahren(2000);
-         b.p.fenster.zeigen(fenstername::leitstand);
-         b.t.maschine.laufen(400);
-         return *b.o.leitstand;
-     }},
     {"rennen_nach_platz",
      [](buehne& b) -> QWidget& {
          b.p.einst.rennbild.nach_platz = true;
@@ -298,44 +169,12 @@ const std::vector<szeneneintrag> alle_rennszenen{
          b.p.einst.darstellung_zeile = true;
          return tanken<>(b);
      }},
-    {"rennen_pause", pause_ohne_ampel},
-    {"lagen_sechs", lagen<false, false, 1, 2, 3, 4, 5, 6>},
-    {"lagen_sechs_tank", lagen<false, true, 1, 2, 3, 4, 5, 6>},
-    {"lagen_vier", lagen<false, true, 1, 2, 3, 4>},
-    {"lagen_zwei", lagen<false, true, 2, 5>},
-    {"lagen_zeilen_sechs", lagen<true, true, 1, 2, 3, 4, 5, 6>},
-    {"lagen_zeilen_vier", lagen<true, false, 1, 2, 3, 4>},
-    {"lagen_zeilen_zwei", lagen<true, true, 2, 5>},
-    {"lagen_allein", lagen<false, true, 4>},
-    {"pause_sechs", pause_kurz<false, 1, 2, 3, 4, 5, 6>},
-    {"pause_vier", pause_kurz<false, 1, 2, 3, 4>},
-    {"pause_zwei", pause_kurz<false, 1, 2>},
-    {"pause_zeilen_sechs", pause_kurz<true, 1, 2, 3, 4, 5, 6>},
-    {"pause_zeilen_zwei", pause_kurz<true, 1, 2>},
-    {"rennen_pause_taster",
-     [](buehne& b) -> QWidget& {
-         b.rennen(40000);
-         b.p.ereignisse.chaos_fahrer[3] = true;
-         b.t.bahn().Command3.klicken();
-         b.t.maschine.laufen(3000);
-         return b.o.bahn1;
-     }},
     {"rennen_nacht",
      [](buehne& b) -> QWidget& {
          b.rennen(40000);
          b.t.taste("n");
          return b.o.bahn1;
      }},
-    {"rennen_pause_ampel", pause_mit_tank<false, 1, 2, 3, 4, 5, 6>},
-    {"rennen_pause_ampel_vier_spuren", pause_mit_tank<false, 1, 2, 3, 4>},
-    {"rennen_pause_ampel_zwei_spuren", pause_mit_tank<false, 2, 5>},
-    {"rennen_pause_ampel_zeilen", pause_mit_tank<true, 1, 2, 3, 4, 5, 6>},
-    {"rennen_pause_zeilen",
-     [](buehne& b) -> QWidget& {
-         b.p.einst.darstellung_zeile = true;
-         return pause_ohne_ampel(b);
-     }},
-    {"rennen_pause_eine_spur", pause_allein},
     {"rennen_sektoren",
      [](buehne& b) -> QWidget& {
          sektoren_messen(b);
@@ -394,11 +233,10 @@ const std::vector<szeneneintrag> alle_rennszenen{
          return b.o.bahn1;
      }},
     {"startampel", ampel, true},
-    {"startampel_im_rennen",
-     [](buehne& b) -> QWidget& {
-         ampel(b);
-         return b.o.bahn1;
-     }},
+    {"startampel_im_rennen", ampel_im_rennen<false, 1, 2, 3>},
+    {"startampel_im_rennen_sechs", ampel_im_rennen<false, 1, 2, 3, 4, 5, 6>},
+    {"startampel_im_rennen_zeilen", ampel_im_rennen<true, 1, 2, 3, 4, 5, 6>},
+    {"startampel_im_rennen_zwei_zeilen", ampel_im_rennen<true, 2, 5>},
     {"kleine_ampel",
      [](buehne& b) -> QWidget& {
          b.ergebnis("8", {1, 2, 3});
@@ -413,14 +251,11 @@ const std::vector<szeneneintrag> alle_rennszenen{
      }},
     {"rennen_control_unit_start",
      [](buehne& b) -> QWidget& {
-         control_unit_anschliessen(b);
+         b.control_unit_anschliessen();
          b.einrichten("Runden", "20", {1, 2, 3, 4, 5, 6});
          b.t.bahn().Command1.klicken();
          return b.o.bahn1;
      }},
-    {"rennen_control_unit_pause", control_unit_pause<false, 1, 2, 3, 4, 5, 6>},
-    {"rennen_control_unit_pause_zeilen", control_unit_pause<true, 1, 2, 3, 4, 5, 6>},
-    {"rennen_control_unit_pause_allein", control_unit_pause<false, 4>},
     {"rennen_geraet_fehlt",
      [](buehne& b) -> QWidget& {
          b.rennen(31000);
@@ -429,8 +264,6 @@ const std::vector<szeneneintrag> alle_rennszenen{
      }},
     {"rennen_tausend_runden", tausend_runden<false>},
     {"rennen_tausend_runden_zeilen", tausend_runden<true>},
-    {"rennen_im_ziel", im_ziel<false>},
-    {"rennen_im_ziel_zeilen", im_ziel<true>},
     {"rennen_helle_farben",
      [](buehne& b) -> QWidget& {
          b.p.einst.farben_ampel[1] = 0xF0F0F0;

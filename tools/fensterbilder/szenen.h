@@ -14,8 +14,10 @@ struct szeneneintrag {
     bool eigene_groesse = false;  ///< the window is as large as it wants to be
 };
 
-/// The race, its lights and its pauses.
+/// The race and its lights.
 const std::vector<szeneneintrag>& rennszenen();
+/// What its lanes are in, and its pauses.
+const std::vector<szeneneintrag>& lagenszenen();
 /// The evening of many races.
 const std::vector<szeneneintrag>& abendszenen();
 /// The viewer of result files.

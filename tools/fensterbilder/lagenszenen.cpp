@@ -1,0 +1,190 @@
+// What the lanes are in, and pauses.
+#include <initializer_list>
+
+#include "tools/fensterbilder/szenen.h"
+
+namespace tarvel {
+namespace {
+
+QWidget& pause(buehne& b, std::initializer_list<int> spuren = {1, 2, 3, 4, 5, 6}) {
+    b.rennen(40000, spuren);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
+/// Without the light.
+QWidget& pause_ohne_ampel(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    return pause(b);
+}
+
+template <bool zeilen, int... spuren>
+QWidget& pause_mit_tank(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.form1.t_aktiv.gesetzt(true);
+    return pause(b, {spuren...});
+}
+
+/// One lane that pauses, in the view of its own.
+QWidget& pause_allein(buehne& b) {
+    b.p.einst.chaosampel_an = false;
+    b.rundenrennen(40000, "30", {3});
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
+/// The pause of a device that is continued at its own key.
+template <bool zeilen, int... spuren>
+QWidget& control_unit_pause(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.rennen(40000, {spuren...});
+    b.control_unit_anschliessen();
+    b.t.maschine.laufen(100);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
+/// Some lanes are home, one is out.
+template <bool zeilen>
+QWidget& im_ziel(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.zielmodus_erster = false;
+    b.rundenrennen(37200, "5", {1, 2, 3, 4, 5, 6});
+    b.t.spur(6).disqualifiziert = true;
+    b.t.bahn().zaehler[6].text(disqualifiziert_text);
+    b.p.rennen.strafen.spur_strom_aus(6);
+    b.t.maschine.laufen(20);
+    return b.o.bahn1;
+}
+
+/// Each lane in another state, as far as there are lanes for them.
+template <bool zeilen, bool mit_tank, int... spuren>
+QWidget& lagen(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.form1.t_aktiv.gesetzt(mit_tank);
+    b.p.einst.tank_inhalt = 60;
+    b.rundenrennen(40000, "30", {spuren...});
+    int stelle = 0;
+    for (const int spur : {spuren...}) {
+        spur_zustand& zustand = b.t.spur(spur);
+        zustand.strom_aus = true;
+        switch (++stelle) {
+            case 1:
+                zustand.ch_strafe_rest = 10000;
+                break;
+            case 2:
+                zustand.disqualifiziert = true;
+                b.t.bahn().zaehler[spur].text(disqualifiziert_text);
+                break;
+            case 3:
+                zustand.tank_kontakt = true;
+                zustand.tankt_seit = 1;
+                zustand.tank_inhalt = 34;
+                break;
+            case 4:
+                zustand.ziel_erreicht = true;
+                b.t.bahn().bahnshape[spur].randfarbe(farben::rot);
+                break;
+            case 5:
+                zustand.fruehstart_sperre = true;
+                break;
+            default:
+                zustand.tank_strafe_aktiv = true;
+                break;
+        }
+    }
+    return b.o.bahn1;
+}
+
+template <bool zeilen, int... spuren>
+QWidget& pause_kurz(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.rundenrennen(40000, "30", {spuren...});
+    b.t.spur(2).disqualifiziert = true;
+    b.t.bahn().zaehler[2].text(disqualifiziert_text);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(42000);
+    return b.o.bahn1;
+}
+
+QWidget& protokoll_in_der_pause(buehne& b) {
+    pause_ohne_ampel(b);
+    b.t.bahn().Command_protokoll.klicken();
+    return *b.o.protokoll;
+}
+
+const std::vector<szeneneintrag> alle_lagenszenen{
+    {"protokoll_in_der_pause", protokoll_in_der_pause},
+    {"rennleitung",
+     [](buehne& b) -> QWidget& {
+         pause_ohne_ampel(b);
+         b.t.bahn().ch_strafzeit_hacken[2].umschalten();
+         b.t.bahn().Command3.klicken();
+         b.fahren(9000);
+         b.t.runde_nach(700, "4");
+         b.fahren(2000);
+         b.p.fenster.zeigen(fenstername::leitstand);
+         b.t.maschine.laufen(400);
+         return *b.o.leitstand;
+     }},
+    {"rennen_pause", pause_ohne_ampel},
+    {"lagen_sechs", lagen<false, false, 1, 2, 3, 4, 5, 6>},
+    {"lagen_sechs_tank", lagen<false, true, 1, 2, 3, 4, 5, 6>},
+    {"lagen_fuenf", lagen<false, false, 1, 2, 3, 4, 5>},
+    {"lagen_drei", lagen<false, true, 1, 2, 3>},
+    {"lagen_vier", lagen<false, true, 1, 2, 3, 4>},
+    {"lagen_zwei", lagen<false, true, 2, 5>},
+    {"lagen_zeilen_sechs", lagen<true, true, 1, 2, 3, 4, 5, 6>},
+    {"lagen_zeilen_fuenf", lagen<true, true, 1, 2, 3, 4, 5>},
+    {"lagen_zeilen_drei", lagen<true, true, 1, 2, 3>},
+    {"lagen_zeilen_allein", lagen<true, true, 4>},
+    {"lagen_zeilen_vier", lagen<true, false, 1, 2, 3, 4>},
+    {"lagen_zeilen_zwei", lagen<true, true, 2, 5>},
+    {"lagen_allein", lagen<false, true, 4>},
+    {"pause_sechs", pause_kurz<false, 1, 2, 3, 4, 5, 6>},
+    {"pause_fuenf", pause_kurz<false, 1, 2, 3, 4, 5>},
+    {"pause_drei", pause_kurz<false, 1, 2, 3>},
+    {"pause_vier", pause_kurz<false, 1, 2, 3, 4>},
+    {"pause_zwei", pause_kurz<false, 1, 2>},
+    {"pause_zeilen_sechs", pause_kurz<true, 1, 2, 3, 4, 5, 6>},
+    {"pause_zeilen_fuenf", pause_kurz<true, 1, 2, 3, 4, 5>},
+    {"pause_zeilen_vier", pause_kurz<true, 1, 2, 3, 4>},
+    {"pause_zeilen_drei", pause_kurz<true, 1, 2, 3>},
+    {"pause_zeilen_zwei", pause_kurz<true, 1, 2>},
+    {"rennen_pause_taster",
+     [](buehne& b) -> QWidget& {
+         b.rennen(40000);
+         b.p.ereignisse.chaos_fahrer[3] = true;
+         b.t.bahn().Command3.klicken();
+         b.t.maschine.laufen(3000);
+         return b.o.bahn1;
+     }},
+    {"rennen_pause_ampel", pause_mit_tank<false, 1, 2, 3, 4, 5, 6>},
+    {"rennen_pause_ampel_vier_spuren", pause_mit_tank<false, 1, 2, 3, 4>},
+    {"rennen_pause_ampel_zwei_spuren", pause_mit_tank<false, 2, 5>},
+    {"rennen_pause_ampel_zeilen", pause_mit_tank<true, 1, 2, 3, 4, 5, 6>},
+    {"rennen_pause_zeilen",
+     [](buehne& b) -> QWidget& {
+         b.p.einst.darstellung_zeile = true;
+         return pause_ohne_ampel(b);
+     }},
+    {"rennen_pause_eine_spur", pause_allein},
+    {"rennen_control_unit_pause", control_unit_pause<false, 1, 2, 3, 4, 5, 6>},
+    {"rennen_control_unit_pause_zeilen", control_unit_pause<true, 1, 2, 3, 4, 5, 6>},
+    {"rennen_control_unit_pause_allein", control_unit_pause<false, 4>},
+    {"rennen_im_ziel", im_ziel<false>},
+    {"rennen_im_ziel_zeilen", im_ziel<true>},
+};
+
+}  // namespace
+
+const std::vector<szeneneintrag>& lagenszenen() {
+    return alle_lagenszenen;
+}
+
+}  // namespace tarvel
