@@ -130,6 +130,7 @@ void control_unit::satz_verarbeiten(const std::string& satz) {
     const zeit_ms still = geantwortet_ == 0 ? 0 : jetzt - geantwortet_;
     geantwortet_ = jetzt;
     if (still > ohne_luecke_ms) {
+        geraeteuhr_.wieder_zu_hoeren();
         luecke_ = jetzt < luecke_bis_ ? std::max(luecke_, still) : still;
         luecke_bis_ = std::max(luecke_bis_, jetzt + std::min(luecke_, stau_max_ms) + nach_luecke_ms);
     } else if (jetzt >= luecke_bis_) {
@@ -165,7 +166,8 @@ void control_unit::uhr_nachstellen(const cu_uhr::befund& befund) {
     const zeit_ms stand = geraeteuhr_.lesen(uhr_.jetzt());
     if (befund.versetzen) {
         um_.zeit.stellen(stand, gang);
-        um_.rennen.stempel_verschieben(*befund.versetzen);
+        befund.nur_die_uhr ? um_.rennen.uhr_nachruecken(*befund.versetzen)
+                           : um_.rennen.stempel_verschieben(*befund.versetzen);
     } else {
         um_.zeit.nachstellen(stand, gang);
     }

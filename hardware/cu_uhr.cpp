@@ -9,19 +9,20 @@ namespace tarvel {
 namespace {
 
 constexpr zeit_ms umlauf_ms = zeit_ms{1} << 32;
-constexpr zeit_ms sprung_ms = 2000;          // no clock is that far ahead of itself, or behind what it has told
-constexpr zeit_ms fenster_ms = 5000;         // the fastest passage of so long stands for all of them
-constexpr zeit_ms verwandt_ms = 10000;       // two of those that are so near are compared
-constexpr zeit_ms streuung_ms = 20;          // between passages that nothing holds up
-constexpr zeit_ms spaet_ms = 100;            // later than that is held up
-constexpr zeit_ms dauernd_spaet_ms = 20000;  // unless it always is
-constexpr zeit_ms grob_ab_ms = 10000;        // from here on two passages show how fast the clock runs
-constexpr zeit_ms genau_ab_ms = 60000;       // and from here on well
-constexpr zeit_ms nachzuegler_ms = 500;      // a passage is on the line for no longer
-constexpr zeit_ms kalender_ms = 1000;        // an outage is known to the second
-constexpr double gang_abweichung = 0.01;     // of any clock at most
-constexpr double gang_unsicher = 0.0003;     // of one that has been watched for `genau_ab_ms`
-constexpr double gang_rauschen = 0.000002;   // not worth a change
+constexpr zeit_ms sprung_ms = 2000;           // no clock is that far ahead of itself, or behind what it has told
+constexpr zeit_ms fenster_ms = 5000;          // the fastest passage of so long stands for all of them
+constexpr zeit_ms verwandt_ms = 10000;        // two of those that are so near are compared
+constexpr zeit_ms streuung_ms = 20;           // between passages that nothing holds up
+constexpr zeit_ms spaet_ms = 100;             // later than that is held up
+constexpr zeit_ms dauernd_spaet_ms = 20000;   // unless it always is
+constexpr zeit_ms grob_ab_ms = 10000;         // from here on two passages show how fast the clock runs
+constexpr zeit_ms genau_ab_ms = 60000;        // and from here on well
+constexpr zeit_ms nachzuegler_ms = 500;       // a passage is on the line for no longer
+constexpr zeit_ms rueckstand_max_ms = 60000;  // nothing keeps more of them than that
+constexpr zeit_ms kalender_ms = 1000;         // an outage is known to the second
+constexpr double gang_abweichung = 0.01;      // of any clock at most
+constexpr double gang_unsicher = 0.0003;      // of one that has been watched for `genau_ab_ms`
+constexpr double gang_rauschen = 0.000002;    // not worth a change
 
 zeit_ms anteil(zeit_ms dauer, double teil) {
     return std::llround(static_cast<double>(dauer) * teil);
@@ -73,6 +74,10 @@ zeit_ms cu_uhr::stand::spiel(zeit_ms maschine) const {
     return sprung_ms + nachsicht + anteil(maschine - genommen, gang_abweichung);
 }
 
+zeit_ms cu_uhr::stand::hoechstens_voraus(zeit_ms maschine) const {
+    return streuung_ms + anteil(maschine - genommen, gang_abweichung);
+}
+
 bool cu_uhr::stand::passt(const eingang& neu, zeit_ms stempel) const {
     const zeit_ms voraus = stempel - lesen(neu.maschine);
     const zeit_ms grenze = spiel(neu.maschine);
@@ -100,7 +105,7 @@ bool cu_uhr::stand::folgen(const eingang& neu, zeit_ms stempel) {
         beginnen(neu, stempel);
         return true;
     }
-    if (voraus > streuung_ms + anteil(still, gang_abweichung)) {  // what the clock was set by had been held up
+    if (voraus > hoechstens_voraus(neu.maschine)) {  // what the clock was set by had been held up
         beginnen(neu, stempel);
         return true;
     }
@@ -147,6 +152,23 @@ cu_uhr::befund cu_uhr::springen(const eingang& neu, zeit_ms stempel) {
     return {stempel, sprung_, true};
 }
 
+/// What tells of the clock had waited longer and longer, and does so no more. The unit's stamps know nothing of that.
+cu_uhr::befund cu_uhr::aufholen(const eingang& neu, zeit_ms stempel) {
+    davor_ = jetzt_;
+    sprung_ = 0;
+    jetzt_.beginnen(neu, stempel);
+    jetzt_.gesehen(neu.ueberfahrt, stempel);
+    return {stempel, std::nullopt, true};
+}
+
+/// The race stands on a clock that is behind by as long as the passage had waited which it was aligned by.
+cu_uhr::befund cu_uhr::nachruecken(const eingang& neu, zeit_ms stempel) {
+    jetzt_.beginnen(neu, stempel);
+    befund b{stempel, stempel - neu.messzeit, true};
+    b.nur_die_uhr = true;
+    return b;
+}
+
 std::optional<cu_uhr::befund> cu_uhr::sprung_zuruecknehmen(const eingang& neu) {
     stand vorher = *davor_;
     const zeit_ms stempel = vorher.durchgehend(neu.ueberfahrt.stempel);
@@ -171,6 +193,7 @@ cu_uhr::befund cu_uhr::ausrichten(const eingang& neu, zeit_ms stempel) {
         jetzt_.letzter = stempel;
     }
     unbenutzt_ = neu.pause;
+    vorlaeufig_ = !im_takt && !neu.pause && neu.luecke > 0 && wartet_;
     jetzt_.gesehen(neu.ueberfahrt, stempel);
     return im_takt ? befund{stempel, std::nullopt, false} : befund{stempel, stempel - neu.messzeit, true};
 }
@@ -195,6 +218,7 @@ std::optional<cu_uhr::befund> cu_uhr::fortsetzen(const eingang& neu, zeit_ms ste
     }
     jetzt_.gesehen(neu.ueberfahrt, stempel);
     unbenutzt_ = true;
+    vorlaeufig_ = false;
     angeschlossen_ = true;
     return befund{stempel, ausfall_->versatz, true};
 }
@@ -227,19 +251,26 @@ cu_uhr::befund cu_uhr::einordnen(const eingang& neu) {
         return {stempel, std::nullopt, false};
     }
     const bool behalten = ausfall_ && angeschlossen_ && stempel >= ausfall_->stempel - nachzuegler_ms;  // any order
-    if ((!behalten && jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke)) ||
-        stempel - jetzt_.lesen(neu.maschine) > jetzt_.spiel(neu.maschine)) {
+    const zeit_ms voraus = stempel - jetzt_.lesen(neu.maschine);
+    if ((!behalten && jetzt_.zurueck(neu.ueberfahrt, stempel, neu.luecke)) || voraus > rueckstand_max_ms) {
         return springen(neu, stempel);
+    }
+    if (voraus > jetzt_.spiel(neu.maschine)) {
+        return aufholen(neu, stempel);
     }
     davor_.reset();
     jetzt_.gesehen(neu.ueberfahrt, stempel);
     const bool war_unbenutzt = std::exchange(unbenutzt_, unbenutzt_ && neu.pause);
-    if (war_unbenutzt && stempel - jetzt_.lesen(neu.maschine) > streuung_ms) {  // what it was aligned by had waited
+    if (war_unbenutzt && voraus > streuung_ms) {  // what it was aligned by had waited
         jetzt_.beginnen(neu, stempel);
         if (ausfall_ && angeschlossen_) {
             return {stempel, std::nullopt, true};  // the stamps stand on it already
         }
         return {stempel, stempel - neu.messzeit, true};
+    }
+    const bool war_vorlaeufig = std::exchange(vorlaeufig_, vorlaeufig_ && (wartet_ || neu.pause));
+    if (war_vorlaeufig && !neu.pause && voraus > jetzt_.hoechstens_voraus(neu.maschine)) {
+        return nachruecken(neu, stempel);
     }
     return {stempel, std::nullopt, !neu.pause && jetzt_.folgen(neu, stempel)};
 }

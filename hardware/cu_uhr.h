@@ -29,6 +29,7 @@ public:
         std::optional<zeit_ms> versetzen;  ///< the race's clock has nothing to do with the unit's yet: ms between them
         bool nachstellen = false;          ///< `lesen` and `gang` know more than before
         bool im_ausfall = false;           ///< the unit has kept it, and it was not before the outage for sure
+        bool nur_die_uhr = false;          ///< what has been stamped by the unit is not to be moved
     };
 
     befund aufnehmen(const eingang& neu);
@@ -50,8 +51,10 @@ public:
         ausfall_ = vorher;
         staut_ = true;
     }
-    /// The unit had no passage to tell: what comes from now on has just happened.
-    void nichts_wartet() { staut_ = false; }
+    /// The unit has not been heard for a while: what it tells now has perhaps waited.
+    void wieder_zu_hoeren() { wartet_ = true; }
+    /// It had no passage to tell: what comes from now on has just happened.
+    void nichts_wartet() { staut_ = wartet_ = false; }
 
     /// What the unit's clock shows at this moment of the machine's.
     zeit_ms lesen(zeit_ms maschine) const { return jetzt_.lesen(maschine); }
@@ -91,6 +94,8 @@ private:
         void gesehen(const cu::ueberfahrt& u, zeit_ms stempel);
         /// How far the reading may be off after the time without a passage.
         zeit_ms spiel(zeit_ms maschine) const;
+        /// And how far ahead of it a passage may be that tells no more of the clock than what it was set by.
+        zeit_ms hoechstens_voraus(zeit_ms maschine) const;
         bool passt(const eingang& neu, zeit_ms stempel) const;
         void beginnen(const eingang& neu, zeit_ms stempel);
         bool folgen(const eingang& neu, zeit_ms stempel);
@@ -101,6 +106,8 @@ private:
     std::optional<befund> fortsetzen(const eingang& neu, zeit_ms stempel);
     befund einordnen(const eingang& neu);
     befund springen(const eingang& neu, zeit_ms stempel);
+    befund aufholen(const eingang& neu, zeit_ms stempel);
+    befund nachruecken(const eingang& neu, zeit_ms stempel);
     std::optional<befund> sprung_zuruecknehmen(const eingang& neu);
 
     stand jetzt_;
@@ -109,6 +116,8 @@ private:
     std::optional<ausfall_stand> ausfall_;  ///< until the race goes on behind it
     bool staut_ = false;                    ///< what the unit has kept in it comes first, in whatever order
     bool angeschlossen_ = false;            ///< the unit's clock is the one from before it
+    bool wartet_ = false;                   ///< it may still tell what passed while nobody heard it
+    bool vorlaeufig_ = false;               ///< aligned by one that had waited; those behind it know better
     bool unbenutzt_ = false;  ///< aligned in a pause, and no lap has been stamped by it yet: it may still be moved
 };
 

@@ -212,6 +212,18 @@ void ereignis_tabelle::ruhe_herstellen() {
 }
 
 void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
+    uhr_nachruecken(um);
+    for (schlange& s : schlangen_) {
+        for (schlange::ueberfahrt& u : s.wartende) {
+            u.stempel += um;
+        }
+    }
+    for (ereignis_zeile& zeile : zeilen_) {
+        zeile.ereignis_zeit += um;
+    }
+}
+
+void ereignis_tabelle::uhr_nachruecken(zeit_ms um) {
     messzeit += um;
     gilt_ab += gilt_ab == std::numeric_limits<zeit_ms>::min() ? 0 : um;
     if (steht_seit_) {
@@ -220,14 +232,6 @@ void ereignis_tabelle::stempel_verschieben(zeit_ms um) {
     for (pause& p : pausen_) {
         p.von += um;
         p.bis += um;
-    }
-    for (schlange& s : schlangen_) {
-        for (schlange::ueberfahrt& u : s.wartende) {
-            u.stempel += um;
-        }
-    }
-    for (ereignis_zeile& zeile : zeilen_) {
-        zeile.ereignis_zeit += um;
     }
 }
 

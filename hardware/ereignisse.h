@@ -116,6 +116,8 @@ public:
     void ruhe_herstellen();
     /// All stamps move by `um` ms.
     void stempel_verschieben(zeit_ms um);
+    /// All but those of crossings, which the clock itself has stamped.
+    void uhr_nachruecken(zeit_ms um);
     /// Forgets waiting crossings of all lanes, but in a pause not those from before it.
     void rundenzaehlung_leeren();
     /// The same with the sector sensors.

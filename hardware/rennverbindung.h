@@ -17,6 +17,8 @@ public:
     virtual void rennen_vorbereiten() = 0;
     /// All stamps so far move by so many ms.
     virtual void stempel_verschieben(zeit_ms um) = 0;
+    /// The same, but the crossings have the device's stamps already.
+    virtual void uhr_nachruecken(zeit_ms um) = 0;
     /// The clock that pauses have been measured on runs `faktor` times as fast as was thought: the laps that they are
     /// still to come off get the better measure.
     virtual void pausen_nachmessen(double faktor) = 0;

@@ -20,6 +20,10 @@ geraete_im_rennen::geraete_im_rennen(tarvel::rennen& r, tarvel::form1& form1, co
         r_.zustand.stempel_verschieben(protokoll_stempel(w[0]));
         r_.umgebung.ereignisse.stempel_verschieben(protokoll_stempel(w[0]));
     });
+    nachruecken_ = r_.protokoll.eingang("nachruecken", 1, [this](const werte& w) {
+        r_.zustand.uhr_nachruecken(protokoll_stempel(w[0]));
+        r_.umgebung.ereignisse.uhr_nachruecken(protokoll_stempel(w[0]));
+    });
     nachmessen_ = r_.protokoll.eingang(
         "nachmessen", 1, [this](const werte& w) { r_.zustand.pausen_nachmessen(protokoll_bruch(w[0], 1)); });
     verlassen_ =

@@ -19,6 +19,7 @@ public:
     bool pause() const override { return r_.zustand.chaos_aktiv; }
     void rennen_vorbereiten() override { r_.bahn1.Command1.klicken(); }
     void stempel_verschieben(zeit_ms um) override { r_.protokoll.geschieht(verschieben_, {um}); }
+    void uhr_nachruecken(zeit_ms um) override { r_.protokoll.geschieht(nachruecken_, {um}); }
     void pausen_nachmessen(double faktor) override;
     void tankflanken_auswerten() override { tankflanken_auswerten_(); }
     void tankkontakt_verlassen(int spur) override { r_.protokoll.geschieht(verlassen_, {spur}); }
@@ -35,6 +36,7 @@ private:
     const fensterregister& fenster_;
     std::function<void()> tankflanken_auswerten_;
     int verschieben_;  ///< numbers of the doings
+    int nachruecken_;
     int nachmessen_;
     int verlassen_;
     int fuellstand_;

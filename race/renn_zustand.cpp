@@ -1,27 +1,51 @@
 #include "race/renn_zustand.h"
 
 #include <cmath>
+#include <initializer_list>
 
 namespace tarvel {
 
-void renn_zustand::stempel_verschieben(zeit_ms um) {
-    const auto verschieben = [um](zeit_ms& stempel) {
-        if (stempel != 0) {  // 0 is none
-            stempel += um;
+namespace {
+
+void verschieben(std::initializer_list<zeit_ms*> alle, zeit_ms um) {
+    for (zeit_ms* stempel : alle) {
+        if (*stempel != 0) {  // 0 is none
+            *stempel += um;
         }
-    };
+    }
+}
+
+/// What no crossing has stamped.
+void eigene_verschieben(renn_zustand& z, zeit_ms um) {
+    for (spur_zustand& s : z.spur) {
+        verschieben({&s.tankt_seit, &s.sperre.von, &s.sperre.bis, &s.tank_sperre.von, &s.tank_sperre.bis,
+                     &s.tank_halt.von, &s.tank_halt.bis},
+                    um);
+    }
+    verschieben({&z.start_zeit, &z.renn_ende_zeit, &z.renn_ende_stempel, &z.pause.start, &z.pause.schalter_zuletzt,
+                 &z.pause.neustart_verlangt},
+                um);
+}
+
+}  // namespace
+
+void renn_zustand::stempel_verschieben(zeit_ms um) {
     konto.stempel_verschieben(um);
     for (spur_zustand& s : spur) {
-        for (zeit_ms* stempel : {&s.start_zeit, &s.gezaehlt_bei, &s.tankt_seit, &s.ch_durchfahrt_zeit, &s.sperre.von,
-                                 &s.sperre.bis, &s.tank_sperre.von, &s.tank_sperre.bis, &s.tank_halt.von,
-                                 &s.tank_halt.bis, &s.prellen_bis, &s.verworfen_bei}) {
-            verschieben(*stempel);
+        verschieben({&s.start_zeit, &s.gezaehlt_bei, &s.ch_durchfahrt_zeit, &s.prellen_bis, &s.verworfen_bei}, um);
+    }
+    eigene_verschieben(*this, um);
+}
+
+void renn_zustand::uhr_nachruecken(zeit_ms um) {
+    for (const int nummer : alle_spuren) {
+        spur_zustand& s = spur[nummer];
+        s.start_zeit += s.start_zeit == start_zeit ? um : 0;  // else a crossing has begun the first lap
+        if (konto.runden(nummer) < 0 && konto.stempel(nummer, 0) != 0) {
+            konto.start_stempeln(nummer, konto.stempel(nummer, 0) + um);
         }
     }
-    for (zeit_ms* stempel : {&start_zeit, &renn_ende_zeit, &renn_ende_stempel, &pause.start, &pause.schalter_zuletzt,
-                             &pause.neustart_verlangt}) {
-        verschieben(*stempel);
-    }
+    eigene_verschieben(*this, um);
 }
 
 void renn_zustand::pausen_nachmessen(double faktor) {

@@ -110,6 +110,8 @@ struct renn_zustand {
 
     /// The clock that stamps have been taken from turns out to be `um` ms behind.
     void stempel_verschieben(zeit_ms um);
+    /// The same, but the crossings are right: they were stamped by the clock itself.
+    void uhr_nachruecken(zeit_ms um);
 
     /// Pauses were measured on a clock that runs `faktor` times as fast as was thought.
     void pausen_nachmessen(double faktor);

@@ -249,8 +249,8 @@ private:
     void tat(std::string_view name, std::string_view rest, bool aussen) {
         const auto* const befehl = std::find(std::begin(hergang_befehle), std::end(hergang_befehle), name);
         const bool ist_befehl = befehl != std::end(hergang_befehle);
-        constexpr std::array<std::string_view, 8> bekannte{"ereignis", "jetzt",      "ueberfahrt",  "taste",
-                                                           "u",        "ampeltaste", "verschieben", "verloren"};
+        constexpr std::array<std::string_view, 9> bekannte{"ereignis",   "jetzt",       "ueberfahrt",  "taste",   "u",
+                                                           "ampeltaste", "verschieben", "nachruecken", "verloren"};
         if (!aussen && !ist_befehl && std::find(bekannte.begin(), bekannte.end(), name) == bekannte.end()) {
             return;
         }
@@ -264,11 +264,27 @@ private:
         } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
             geraet(zahl(rest).value_or(-1));
         } else if (name == "verschieben") {
-            verschoben_ = std::clamp(verschoben_ + zahl(rest).value_or(0), -zahl_max, zahl_max);
+            verschieben(zahl(rest).value_or(0));
+        } else if (name == "nachruecken") {
+            nachruecken(zahl(rest).value_or(0));
         } else if (name == "taste" || name == "ampeltaste") {
             taste(zahl(rest).value_or(0));
         } else if (name == "verloren") {
             anhaengen(vorgang::verloren, 0);
+        }
+    }
+
+    void verschieben(zeit_ms um) { verschoben_ = std::clamp(verschoben_ + um, -zahl_max, zahl_max); }
+
+    /// What crossings have been stamped with is right already.
+    void nachruecken(zeit_ms um) {
+        constexpr int so_oft_hoechstens = 1000;  // in a log that nobody has damaged it is a few times
+        if (++nachgerueckt_ > so_oft_hoechstens) {
+            return;
+        }
+        verschieben(um);
+        for (geschehen& g : h_.alle) {
+            g.stempel -= g.spur != 0 && g.stempel != geschehen::keine ? um : 0;
         }
     }
 
@@ -304,6 +320,7 @@ private:
     std::optional<zeit_ms> stempel_der_tat_;
     std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
     zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
+    int nachgerueckt_ = 0;        ///< so often without the crossings
     spuren<bool> nach_pause_{};   ///< the lane's last penalty was that of a pause
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };

@@ -230,6 +230,7 @@ protected:
     std::vector<std::unique_ptr<neustart>> spaetere_;
     test_plattform* maschine_ = &erstes_.maschine;
     programm* p_ = &erstes_.p;
+    zeit_ms zeit_ = 0;  ///< goes on, whatever the programs' clocks do
 
 private:
     void kalender_stellen() {
@@ -280,7 +281,6 @@ private:
 
     std::vector<std::string> einstellungen_;
     std::string leitung_;
-    zeit_ms zeit_ = 0;  ///< goes on, whatever the programs' clocks do
     zeit_ms fenster_um_ = 0;
     bool los_ = false;
     std::size_t gesehen_ = 0;
@@ -302,6 +302,37 @@ TEST_P(Ausfallrennen, AusfaelleVerlierenKeineRundeUndVerschiebenKeine) {
     ASSERT_TRUE(p_->fenster.ist_offen(fenstername::auswertung));
     vergleichen(4);
 }
+
+class AbgezogenImLicht : public Ausfallrennen {};
+
+/// The unit goes on with its light and its cars, the race begins by a light of the program's own. Of the unit's clock
+/// nothing is known before it tells what it has kept, one car after the other.
+TEST_P(AbgezogenImLicht, JedeRundeHatIhreZeitUndDasRennenSeineDauer) {
+    const auto& einheit = dynamic_cast<const simulator::control_unit&>(*geraet_);
+    starten("2");
+    for (int ms = 0; ms < 20000 && einheit.lampen() == 0; ++ms) {
+        laufen(1);
+    }
+    ASSERT_GT(einheit.lampen(), 0);
+    maschine_->anschluesse.abziehen(com_der_leitung);
+    zeit_ms gruen = 0;
+    for (int ms = 0; ms < 20000; ++ms) {
+        laufen(1);
+        gruen = gruen == 0 && !p_->rennen.umgebung.ampel_laeuft() ? zeit_ : gruen;
+    }
+    ASSERT_GT(gruen, 0);
+    maschine_->anschluesse.da = {com_der_leitung};
+    zeit_ms ende = 0;
+    for (int ms = 0; ms < 200000 && !p_->fenster.ist_offen(fenstername::auswertung); ++ms) {
+        laufen(1);
+        ende = ende == 0 && p_->rennen.zustand.rennen_beendet ? zeit_ : ende;
+    }
+    EXPECT_NEAR(static_cast<double>(ende - gruen), 120000, 50);
+    vergleichen(2);
+}
+
+INSTANTIATE_TEST_SUITE_P(, AbgezogenImLicht, testing::Values(alle_geraete().front()),
+                         [](const auto& fall) { return std::string(fall.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(, Ausfallrennen, testing::ValuesIn(alle_geraete()),
                          [](const auto& fall) { return std::string(fall.param.name); });

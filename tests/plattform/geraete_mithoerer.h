@@ -22,6 +22,7 @@ public:
     bool pause() const override { return rennen_.pause(); }
     void rennen_vorbereiten() override { rennen_.rennen_vorbereiten(); }
     void stempel_verschieben(zeit_ms um) override { rennen_.stempel_verschieben(um); }
+    void uhr_nachruecken(zeit_ms um) override { rennen_.uhr_nachruecken(um); }
     void pausen_nachmessen(double faktor) override { rennen_.pausen_nachmessen(faktor); }
     void tankflanken_auswerten() override {
         ++gemeldet;
