@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "core/protokollzeile.h"
@@ -52,11 +53,16 @@ void rennspieler::abtasten() {
     protokollleser leser(inhalt_);
     zeit_ms zeit = 0;
     int taten = 0;
+    std::optional<zeit_ms> weg_seit;
     while (const auto gelesen = leser.zeile()) {
         protokollsatz satz = zerlegen(*gelesen);
         if (satz.tiefe == 0 && !satz.ist_kopfzeile()) {
             zeit = protokoll_stempel(als_zahl(naechstes_wort(satz.rest)).value_or(zeit));
             ++taten;
+            if (weg_seit) {
+                abwesenheiten_.push_back({*weg_seit, zeit});
+                weg_seit.reset();
+            }
             if (satz.wort == "oeffnen") {
                 anfang_ = zeit;
             }
@@ -64,15 +70,27 @@ void rennspieler::abtasten() {
                 ende_ = std::max(ende_, zeit);
                 taten_ = taten;
             }
+        } else if (satz.ist_kopfzeile() && naechstes_wort(satz.rest) == "Uhr") {
+            weg_seit = zeit;
         } else if (satz.tiefe > 0 && satz.ist_entscheidung()) {
-            const auto art = markenworte.find(naechstes_wort(satz.rest));
-            if (art != markenworte.end()) {
-                const std::int64_t spur = ohne_spur(art->first) ? 0 : als_zahl(naechstes_wort(satz.rest)).value_or(0);
-                marken_.push_back({zeit, art->second, static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
-            }
+            merken(zeit, satz.rest);
         }
     }
     std::stable_sort(marken_.begin(), marken_.end(), [](const marke& a, const marke& b) { return a.bei < b.bei; });
+}
+
+/// What was decided then, if it is something to jump to.
+void rennspieler::merken(zeit_ms zeit, std::string_view entscheidung) {
+    const auto art = markenworte.find(naechstes_wort(entscheidung));
+    if (art == markenworte.end()) {
+        return;
+    }
+    const std::int64_t spur = ohne_spur(art->first) ? 0 : als_zahl(naechstes_wort(entscheidung)).value_or(0);
+    // behind an outage the race has stood since that began
+    const bool vom_ausfall =
+        art->first == vermerk::pause && !abwesenheiten_.empty() && abwesenheiten_.back().wieder_da == zeit;
+    marken_.push_back({vom_ausfall ? abwesenheiten_.back().weg : zeit, art->second,
+                       static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
 }
 
 void rennspieler::von_vorn() {
@@ -108,6 +126,9 @@ bool rennspieler::vor(zeit_ms bis, int hoechstens) {
         return true;
     }
     mitschrift& protokoll = rennen().protokoll;
+    for (const abwesenheit& a : abwesenheiten_) {
+        bis = bis > a.weg && bis < a.wieder_da ? a.wieder_da : bis;
+    }
     bis = std::clamp(bis, stelle_, ende_);
     for (int getan = 0; getan_ < taten_ && !abgewichen_; ++getan) {
         const std::optional<zeit_ms> zeit = protokoll.naechste_zeit();

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/zeit.h"
@@ -51,7 +52,8 @@ public:
     zeit_ms naechste_marke(zeit_ms stelle) const;
     zeit_ms vorige_marke(zeit_ms stelle) const;
 
-    /// All up to this moment happens. Stops after `hoechstens` doings; false if it has not come that far.
+    /// All up to this moment happens; what lies in an outage is its end. Stops after `hoechstens` doings; false if it
+    /// has not come that far.
     bool vor(zeit_ms bis, int hoechstens);
     /// Stands at the beginning again, as another program. The one before lives until `alten_vergessen`.
     void von_vorn();
@@ -63,8 +65,14 @@ public:
 
 private:
     struct spiel;
+    /// The program was away from its last doing to the first behind that.
+    struct abwesenheit {
+        zeit_ms weg = 0;
+        zeit_ms wieder_da = 0;
+    };
 
     void abtasten();
+    void merken(zeit_ms zeit, std::string_view entscheidung);
     void uhr_zeigen();
 
     std::filesystem::path ordner_;
@@ -78,6 +86,7 @@ private:
     int taten_ = 0;  ///< that are to be done: what closes the window is not
     int getan_ = 0;
     std::vector<marke> marken_;
+    std::vector<abwesenheit> abwesenheiten_;
     std::unique_ptr<spiel> alt_;
     std::unique_ptr<spiel> spiel_;
 };

@@ -6,6 +6,7 @@
 #include "core/protokollordner.h"
 #include "programm/ergebnisvergleich.h"
 #include "programm/wiedergabe.h"
+#include "tests/plattform/neustart.h"
 #include "tests/programm_probe.h"
 
 namespace tarvel {
@@ -130,6 +131,32 @@ TEST_F(Wiedergabe, LaeuftMitSeinemTempoUndHaeltAmEnde) {
     w.zeigen(name);
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::wiedergabe));
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
+}
+
+TEST_F(Wiedergabe, ImAusfallStehtDasRennen) {
+    t.p.einst.zielmodus_erster = true;
+    t.starten("Runden", "4", {1, 2});
+    t.runde_nach(6000, "12");
+    t.runde_nach(6100, "12");
+    t.maschine.laufen(2000);
+    test::neustart spaeter(t, test::protokoll_von(t));
+    spaeter.maschine.datum_stellen({2026, 11, 21, 14, 23, 22});
+    spaeter.p.starten();
+    spaeter.maschine.laufen(3000);
+    spaeter.weiter();
+    ASSERT_FALSE(spaeter.lauf().zustand.chaos_aktiv);
+    rennspieler s(spaeter.maschine.ordner(),
+                  spaeter.maschine.datei_lesen(mit_schraegstrich(spaeter.p.rennprotokoll.dateiname())));
+    ASSERT_EQ(s.wie(), rennspieler::gueltigkeit::ganz);
+    const auto pause = std::find_if(s.marken().begin(), s.marken().end(),
+                                    [](const auto& m) { return m.was == rennspieler::marke::sorte::pause; });
+    ASSERT_NE(pause, s.marken().end());
+    EXPECT_NEAR(static_cast<double>(pause->bei - s.anfang()), 14100, 500) << "from when it went away";
+    s.vor(pause->bei, 1000000);
+    EXPECT_FALSE(s.rennen().zustand.chaos_aktiv);
+    s.vor(pause->bei + 10, 1000000);
+    EXPECT_TRUE(s.rennen().zustand.chaos_aktiv) << "nobody waits for an hour without power";
+    EXPECT_GT(s.stelle(), pause->bei + 60000);
 }
 
 TEST_F(Wiedergabe, BeschaedigtesLaeuftSoWeitEsGutIstUndFremdesGarNicht) {
