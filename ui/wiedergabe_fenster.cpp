@@ -17,6 +17,12 @@ namespace {
 constexpr int rand_px = 8;
 constexpr zeit_ms pfeil_ms = 5000;  // what an arrow key goes
 constexpr zeit_ms seite_ms = 60000;
+constexpr std::array<const char*, 2> knopfkaesten{"bahn1.Frame1", "bahn1.ch_strafframe"};
+
+bool ist_knopfkasten(const QObject& objekt) {
+    return std::any_of(knopfkaesten.begin(), knopfkaesten.end(),
+                       [&](const char* name) { return objekt.objectName() == name; });
+}
 
 }  // namespace
 
@@ -215,7 +221,7 @@ void WiedergabeFenster::rennen_zeichnen(programm* p) {
         }
         flaeche_->layout()->addWidget(bahn_);
         innen_.takt().ausfuehren();
-        for (const char* kasten : {"bahn1.Frame1", "bahn1.ch_strafframe"}) {
+        for (const char* kasten : knopfkaesten) {
             bahn_->findChild<QWidget*>(kasten)->setEnabled(false);  // and all in it, so that they look like it
         }
         bahn_->show();
@@ -225,6 +231,9 @@ void WiedergabeFenster::rennen_zeichnen(programm* p) {
 }
 
 bool WiedergabeFenster::eventFilter(QObject* ziel, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::EnabledChange && ist_knopfkasten(*ziel)) {
+        static_cast<QWidget*>(ziel)->setEnabled(false);  // the race has told it otherwise
+    }
     return ereignis->type() == QEvent::Shortcut || Fenster::eventFilter(ziel, ereignis);
 }
 

@@ -8,6 +8,7 @@
 #include "core/protokollordner.h"
 #include "core/protokollzeile.h"
 #include "programm/rennprotokoll.h"
+#include "programm/wiedergabe.h"
 #include "tests/ui/oberflaeche_probe.h"
 
 namespace tarvel {
@@ -71,6 +72,37 @@ TEST_F(ProtokollImFenster, DieTastenDesRennensGeltenInDerPauseWeiter) {
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
     setzen_lassen();
     EXPECT_FALSE(fenster().isVisible());
+}
+
+TEST_F(ProtokollImFenster, DieWiedergabeFolgtDemZeigerUndIhrRennenNimmtKeinenBefehl) {
+    fahren();
+    t.rennende();
+    t.maschine.laufen(20000);  // no crossing counts any more
+    setzen_lassen();
+    klick(o.auswertung, "auswertung.Command_wiedergabe");
+    setzen_lassen();
+    QWidget& w = *o.wiedergabe;
+    ASSERT_TRUE(w.isVisible());
+    auto* leiste = finde<QWidget>(w, "wiedergabe.leiste");
+    const auto zeigen = [&](double teil) {
+        QTest::mouseClick(leiste, Qt::LeftButton, {}, QPoint(static_cast<int>(leiste->width() * teil), 20));
+        t.maschine.laufen(200);
+        setzen_lassen();
+    };
+    for (const bool vor : {true, false, true}) {
+        zeigen(vor ? 0.9 : 0.1);
+        EXPECT_EQ(anzeige(w, "bahn1.zaehler_1"), vor ? "1" : "0");
+        for (const char* knopf : {"bahn1.Command3", "bahn1.Command4", "bahn1.Command2"}) {
+            EXPECT_FALSE(finde<QAbstractButton>(w, knopf)->isEnabled()) << knopf << vor;
+        }
+    }
+    taste(w, 'c');
+    QTest::keyClick(&w, Qt::Key_C, Qt::AltModifier);
+    t.maschine.laufen(200);
+    EXPECT_FALSE(t.p.wiedergabe.spieler()->rennen().zustand.chaos_aktiv);
+    QTest::keyClick(leiste, Qt::Key_Home);
+    t.maschine.laufen(200);
+    EXPECT_EQ(t.p.wiedergabe.spieler()->stelle(), t.p.wiedergabe.spieler()->anfang());
 }
 
 TEST_F(ProtokollImFenster, EineStundeIstSofortDa) {
