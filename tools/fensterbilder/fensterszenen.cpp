@@ -216,7 +216,7 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.t.rennende();
          b.t.maschine.laufen(20000);  // no crossing counts any more
          b.p.auswertung.Command_wiedergabe.klicken();
-         b.p.wiedergabe.leiste.greifen(95000);
+         b.p.wiedergabe.leiste.greifen(34500);
          b.t.maschine.laufen(100);
          return *b.o.wiedergabe;
      }},
