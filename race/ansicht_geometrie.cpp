@@ -114,7 +114,7 @@ void pause_legen(const ansicht_inhalt& inhalt, const rechteck& flaeche, const re
     } else {
         g.pause = frei;
     }
-    zuschnitt stueck(g.pause.innen(0.1 * g.pause.hoehe));
+    zuschnitt stueck(g.pause);
     g.fenster[f::cu_startframe].ort = stueck.unten(0.36 * g.pause.hoehe);
     schrift(g.fenster[f::cu_startframe], 0.6);
 }
@@ -195,7 +195,9 @@ ansicht_geometrie ansicht_aufteilen(const ansicht_inhalt& inhalt, int breite, in
     const bool doppelt = ist_doppelspalte(inhalt, flaeche, anzahl);
     const bool ueber_den_bloecken = inhalt.art == ansicht_art::spalten && !doppelt &&
                                     !ist_breite_spalte((flaeche.breite - (anzahl - 1) * luecke) / anzahl, spaltenskala);
-    const rechteck frei = fenster.unten(inhalt.pause && !ueber_den_bloecken ? 0.16 * hoehe : 0);
+    constexpr int viele_zeilen = 5;  // need what a word can spare
+    const double wort = (zeilen && anzahl >= viele_zeilen ? 0.11 : 0.16) * hoehe;
+    const rechteck frei = fenster.unten(inhalt.pause && !ueber_den_bloecken ? wort : 0);
     const rechteck block = bloecke_legen(inhalt, anzahl, fenster.rest(), luecke, g);
     double skala = skal_faktor;
     if (doppelt) {

@@ -63,10 +63,10 @@ double bestzeit_hoehe(const ansicht_inhalt& inhalt, double hoehe) {
 
 void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, spur_orte& g) {
     const rechteck feld = mittig(ort, 0.9 * ort.breite);
-    const double teil = feld.hoehe / (inhalt.bestzeit ? 29.0 : 24.0);
+    const double teil = feld.hoehe / (inhalt.bestzeit ? 29.5 : 24.5);
     zuschnitt stapel(feld);
     mit_titel(stapel.oben(13.5 * teil), 5 * teil, g[t::Label_lrunde], g[t::lrunde]);
-    mit_titel(stapel.oben(10.5 * teil), 5 * teil, g[t::Label_brunde], g[t::brunde]);
+    mit_titel(stapel.oben(11 * teil), 5 * teil, g[t::Label_brunde], g[t::brunde]);
     g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 5 * teil));
 }
 

@@ -79,7 +79,8 @@ zuschnitt spalte_rahmen(const ansicht_inhalt& inhalt, const rechteck& block, dou
     ganzes.streifen = stapel.oben(100 * s);
     g[t::yellowframe].ort = stapel.oben(220 * s);
     g[t::namenslabel].ort = stapel.oben(860 * s);
-    zuschnitt bilder(stapel.oben((breit ? 2000 : 1700) * s), luecke);
+    const double bildhoehe = !breit ? 1700 : inhalt.pause ? 1600 : 2000;
+    zuschnitt bilder(stapel.oben(bildhoehe * s), luecke);
     g[t::Image1].ort = bilder.links((breit ? 1500 : 1100) * s);
     if (breit && inhalt.fahrzeugbild) {
         g[t::Image2].ort = bilder.rechts(std::min(2700 * s, 0.24 * block.breite));
@@ -103,9 +104,11 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     const double bestzeile = (breit ? 0 : 380) * s;
     const double zeiten = (breit ? 1500 : 2300) * s + bestzeit_hoehe(inhalt, bestzeile);
     const double rueckstand = rueckstand_hoehe(inhalt, (breit ? 700 : 540) * s);
-    const double liste_min = breit ? 1900 : 1300;
+    const bool knapp = breit && inhalt.pause;  // the word of the pause has taken room, and a board needs some
+    const double liste_min = knapp ? 750 : breit ? 1900 : 1300;
+    const double zaehler_min = (knapp ? 1050 : 1900) * s;
     const double frei = stapel.rest().hoehe - bild2 - tank - zeiten - rueckstand - (liste_min + 300) * s;
-    g[t::zaehler].ort = stapel.oben(std::clamp(frei, 1900 * s, std::max(1900 * s, 0.5 * block.breite)));
+    g[t::zaehler].ort = stapel.oben(std::clamp(frei, zaehler_min, std::max(zaehler_min, 0.5 * block.breite)));
     g[t::rueckstand].ort = stapel.oben(rueckstand);
     ganzes.spur_tafel = g;
     zuschnitt mit_tafel = stapel;
@@ -125,8 +128,14 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     const double gebraucht = tank + zeiten_daneben + (tank > 0 ? 3 : 2) * luecke;
     ganzes.tafel = mit_tafel.oben(tafelhoehe(mit_tafel.rest(), gebraucht, ganzes));
     darunter(neben_tafel, zeiten_daneben, mit_tafel, ganzes.spur_tafel);
-    if (ganzes.spur_tafel[t::t_liste].ort.hoehe < 350 * s) {
-        ganzes.spur_tafel[t::t_liste].ort = {};  // no row is cut through
+    const auto ohne_stummel = [&](spur_orte& orte) {  // no row is cut through, nor smaller than can be read
+        if (orte[t::t_liste].ort.hoehe < std::max(350 * s, 1.3 * ganzes.lesbar_px)) {
+            orte[t::t_liste].ort = {};
+        }
+    };
+    ohne_stummel(ganzes.spur_tafel);
+    if (knapp) {
+        ohne_stummel(g);
     }
     if (inhalt.pause && !breit) {  // the word of the pause lies over the times, and cuts none of them
         g = ganzes.spur_tafel;

@@ -1,4 +1,5 @@
 // A row of the race window, one for each lane.
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -13,26 +14,33 @@ namespace {
 
 using t = spur_teil;
 
+constexpr double schuld_em = 3.8;  ///< "schuld"
+
 /// What belongs to the driver of a row; a high one has the tank here.
 void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, ansicht_geometrie& ganzes) {
     spur_orte& g = ganzes.spur;
     const double luecke = 80 * s;
     const int lesbar = ganzes.lesbar_px;
+    const bool schuld_hier = hoch || !inhalt.pause;
+    const double tank = hoch && inhalt.tank != tankanzeige_art::keine ? 700 * s : 0;
+    const double strafe = titelplatz(std::min(0.22 * ort.hoehe, 600 * s), lesbar);
+    const double wort = titelplatz(0, lesbar);
+    const double bleibt = ort.hoehe - strafe - tank - (hoch ? wort : lesbar) - 2 * luecke;
     zuschnitt stapel(ort, luecke / 2);
-    g[t::namenslabel].ort = stapel.oben(std::min(0.42 * ort.hoehe, 1100 * s));
-    g[t::straflabel].ort = stapel.unten(titelplatz(std::min(0.22 * ort.hoehe, 600 * s), lesbar));
-    if (hoch) {
-        tank_legen(inhalt, stapel.unten(700 * s), true, lesbar, g);
-    }
+    g[t::namenslabel].ort = stapel.oben(std::min({0.42 * ort.hoehe, 1100 * s, std::max(bleibt, wort)}));
+    g[t::straflabel].ort = stapel.unten(strafe);
+    tank_legen(inhalt, stapel.unten(tank), true, lesbar, g);
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
     g[t::Label_spur].ort = mitte.links(std::max((hoch ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
-    if (hoch) {
-        const rechteck schuld = mitte.rechts(std::max(0.24 * ort.breite, 3.8 * lesbar));
+    if (hoch && mitte.rest().hoehe > 2.5 * lesbar) {
+        const rechteck schuld = mitte.rechts(std::max(0.24 * ort.breite, schuld_em * lesbar));
         schuld_legen(schuld, titelplatz(0.36 * schuld.hoehe, lesbar), g);
+        ampel_legen(mitte.rest(), luecke, g);
+    } else if (!schuld_hier) {
         ampel_legen(mitte.rest(), luecke, g);
     } else {
         const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);
-        const double wunsch = kante + luecke + 3.8 * lesbar;  // "schuld"
+        const double wunsch = kante + luecke + schuld_em * lesbar;
         const rechteck frei = mitte.rest();
         const double lampen = std::min(3 * std::min<double>(frei.hoehe, 1.2 * lesbar) + 2 * luecke, 0.62 * frei.breite);
         ampel_legen(mitte.links(std::max(frei.breite - wunsch - 2 * luecke, lampen)), luecke, g);
@@ -83,7 +91,19 @@ std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& 
 
 /// The pieces of a row, from left to right.
 struct zeilenteil {
-    enum platz : std::size_t { bild, fahrer, platzziffer, abstand, zaehler, bild2, tank, zeiten, liste, anzahl };
+    enum platz : std::size_t {
+        bild,
+        fahrer,
+        platzziffer,
+        abstand,
+        zaehler,
+        schuld,
+        bild2,
+        tank,
+        zeiten,
+        liste,
+        anzahl
+    };
 };
 using z = zeilenteil;
 
@@ -91,7 +111,14 @@ constexpr double fahrer_em = 12.8;  ///< number, lights and the box of the blame
 constexpr double abstand_em = 5.5;  ///< "12 Runden"
 constexpr double zeiten_em = 13.8;  ///< two captions
 constexpr double zeiten_em_mit_bestzeit = 16;
+constexpr double zeiten_em_knapp = 12;
 constexpr double nebeneinander_ab = 2.4;  ///< of its height: there both times are larger side by side
+
+/// One time below the other could not be read.
+bool ist_niedrig(const ansicht_inhalt& inhalt, const rechteck& block, int lesbar) {
+    const double ab_em = inhalt.bestzeit ? 6.5 : 5.4;
+    return block.hoehe < ab_em * lesbar;
+}
 
 /// The pieces of a row.
 std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, const rechteck& block,
@@ -103,12 +130,14 @@ std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, 
     stuecke[z::platzziffer] = {1150, 3.0 * lesbar};
     stuecke[z::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850), rueckstand_hoehe(inhalt, abstand_em * lesbar)};
     stuecke[z::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
-    stuecke[z::bild2] = {inhalt.fahrzeugbild && !hoch ? 1900.0 : 0};
+    const bool mit_schuld = inhalt.pause && !hoch;
+    stuecke[z::schuld] = {mit_schuld ? 1900.0 : 0, mit_schuld ? schuld_em * lesbar : 0};
+    stuecke[z::bild2] = {inhalt.fahrzeugbild && !hoch && !mit_schuld ? 1900.0 : 0};
     if (!hoch && inhalt.tank != tankanzeige_art::keine) {
         stuecke[z::tank] = {inhalt.tank == tankanzeige_art::balken ? 1200.0 : 1900.0, tanktitel_em * lesbar};
     }
     const double texte = (inhalt.bestzeit ? zeiten_em_mit_bestzeit : zeiten_em) * lesbar;
-    const bool untereinander = texte < nebeneinander_ab * block.hoehe;
+    const bool untereinander = texte < nebeneinander_ab * block.hoehe && !ist_niedrig(inhalt, block, lesbar);
     stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, untereinander ? texte / 2 : texte};
     stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 0.6) * lesbar};
     return stuecke;
@@ -117,10 +146,14 @@ std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, 
 }  // namespace
 
 /// A row from left to right; what it shows shares its width. In a high row the picture of the vehicle stands below that
-/// of the driver, and the tank below the name.
-void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
+/// of the driver, and the tank below the name. In a pause a low one has the box of the blame in place of the vehicle.
+void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
     spur_orte& g = ganzes.spur;
     const int lesbar = ganzes.lesbar_px;
+    ansicht_inhalt inhalt = ganzer_inhalt;
+    if (inhalt.pause && ist_niedrig(inhalt, block, lesbar)) {
+        inhalt.bestzeit = false;  // of before the race: it gives way
+    }
     const double hoehe = block.hoehe / s;
     const bool hoch = hoehe > 1.4 * entwurf::zeile;
     const double luecke = 80 * s;
@@ -139,12 +172,17 @@ void zeile_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s, 
     g[t::rueckstand].ort = reihe.links(breite[z::abstand]);
     zaehler_einruecken(reihe.links(breite[z::zaehler]), std::min(entwurf::zaehler_links * s, 0.1 * breite[z::zaehler]),
                        ganzes);
+    if (breite[z::schuld] > 0) {
+        const rechteck schuld = reihe.links(breite[z::schuld]);
+        schuld_legen(schuld, titelplatz(0.3 * schuld.hoehe, lesbar), g);
+    }
     const auto dahinter = [&](zuschnitt& rest, double fuer_zeiten, spur_orte& orte) {
         if (!hoch) {
             tank_legen(inhalt, rest.links(breite[z::tank]), false, lesbar, orte);
         }
         const rechteck zeitfeld = rest.links(fuer_zeiten);
-        if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe) {
+        if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe ||
+            (ist_niedrig(inhalt, block, lesbar) && zeitfeld.breite > zeiten_em_knapp * lesbar)) {
             zeiten_reihen(inhalt, zeitfeld, 2 * luecke, lesbar, orte);
         } else {
             zeiten_stapeln(inhalt, zeitfeld, orte);

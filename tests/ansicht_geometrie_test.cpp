@@ -18,7 +18,8 @@ namespace {
 using t = spur_teil;
 using f = fenster_teil;
 
-constexpr std::pair<int, int> groessen[] = {{800, 600}, {1024, 768}, {1280, 1024}, {1920, 1080}, {3840, 2160}};
+constexpr std::pair<int, int> groessen[] = {{800, 600},   {1024, 768},  {1280, 800},
+                                            {1280, 1024}, {1920, 1080}, {3840, 2160}};
 
 bool enthaelt(const rechteck& aussen, const rechteck& r) {
     return r.x >= aussen.x && r.y >= aussen.y && r.rechts() <= aussen.rechts() && r.unten() <= aussen.unten();
@@ -160,6 +161,15 @@ void pause_pruefen(ansicht_inhalt inhalt, int breite, int hoehe) {
     const ansicht_geometrie g = ansicht_aufteilen(inhalt, breite, hoehe);
     EXPECT_GT(g.pause.hoehe, hoehe / 12);
     EXPECT_GT(g.pause.breite, breite * 9 / 10);
+    const bool gibt_es = inhalt.art != ansicht_art::spalten || inhalt.spur_aktiv[spuren_max - 1];
+    EXPECT_TRUE(!gibt_es || g.tafel.hoehe > hoehe / 32) << g.tafel << ": some lane may be out";
+    const bool schmal = 10 * breite < 16 * hoehe;  // six rows are too wide for such a screen
+    for (const t teil : {t::zaehler, t::namenslabel, t::Label_spur, t::l_PosAnz, t::lrunde, t::brunde, t::rueckstand,
+                         t::straflabel, t::Label_schuld}) {
+        const platz& ort = g.spur[teil];
+        EXPECT_TRUE(schmal || ort.ort.leer() || ort.schrift_px >= g.lesbar_px)
+            << static_cast<int>(teil) << ": " << ort.schrift_px << " in " << ort.ort;
+    }
     for (const int spur : alle_spuren) {
         for (const t teil : {t::zaehler, t::l_PosAnz, t::namenslabel, t::straflabel, t::ch_strafzeit_hacken}) {
             const rechteck& ort = g.spur[teil].ort;
@@ -198,6 +208,34 @@ TEST(AnsichtGeometrie, NichtsUeberdecktSichUndAllesIstImFenster) {
                            [&](f befehl) { return g.fenster[befehl].ort; });
             innere_pruefen({0, 0, frame.breite, frame.hoehe}, orte);
             lesbar(inhalt, g, block);
+            if (testing::Test::HasFailure()) {
+                return;  // the first is enough to go by
+            }
+        }
+    }
+}
+
+TEST(AnsichtGeometrie, OhneBefehleHabenDieSpurenDerenPlatz) {
+    for (const auto& [breite, hoehe] : groessen) {
+        for (ansicht_inhalt inhalt : alle_ansichten()) {
+            SCOPED_TRACE(testing::Message() << breite << "x" << hoehe << ", view " << static_cast<int>(inhalt.art)
+                                            << ", from lane " << erste_spur(inhalt));
+            const int mit_befehlen = ansicht_aufteilen(inhalt, breite, hoehe).block[spuren_max].hoehe;
+            inhalt.befehle_woanders = true;
+            const ansicht_geometrie g = ansicht_aufteilen(inhalt, breite, hoehe);
+            const rechteck fenster{0, 0, breite, hoehe};
+            const rechteck block{0, 0, g.block[spuren_max].breite, g.block[spuren_max].hoehe};
+            EXPECT_GT(block.hoehe, mit_befehlen);
+            bloecke_pruefen(inhalt, g, fenster);
+            ohne_ueberdeckung(g.fenster, fenster, {});
+            ohne_ueberdeckung(g.spur, block, {t::tanktitel, t::t_bahn, t::tankbalken});
+            tafel_pruefen(g, block);
+            pause_pruefen(inhalt, breite, hoehe);
+            lesbar(inhalt, g, block);
+            EXPECT_FALSE(g.fenster[f::bestzeit_gesamt].ort.leer() || g.fenster[f::werbe_label].ort.leer());
+            for (const f teil : {f::Frame1, f::Command1, f::Command2, f::Command3, f::Command4, f::ch_strafframe}) {
+                EXPECT_TRUE(g.fenster[teil].ort.leer()) << static_cast<int>(teil);
+            }
             if (testing::Test::HasFailure()) {
                 return;  // the first is enough to go by
             }
