@@ -42,7 +42,7 @@ QPushButton[rolle="haupt"] { background: @vollakzent; color: white; border: 1px 
 QPushButton[rolle="haupt"]:hover { background: #d62a37; }
 QPushButton[rolle="haupt"]:pressed { background: #a51823; }
 QPushButton[rolle="haupt"]:focus { border: 2px solid @schrift; }
-QPushButton[rolle="haupt"]:disabled { background: @blassakzent; border-color: @linie; color: @karte; }
+QPushButton[rolle="haupt"]:disabled { background: @blassakzent; border-color: @linie; color: @blassschrift; }
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
 QLabel[rolle="leise"] { color: @leise; }
 QLabel[rolle="warnung"] { color: @akzent; }
@@ -73,12 +73,13 @@ struct regelfarbe {
     const char* hell;
     const char* dunkel;
 };
-constexpr std::array<regelfarbe, 13> regelfarben{{{"@karte", "#ffffff", "#272b33"},
+constexpr std::array<regelfarbe, 14> regelfarben{{{"@karte", "#ffffff", "#272b33"},
                                                   {"@linie", "#d0d4db", "#414753"},
                                                   {"@rand", "#aab1bd", "#5d6574"},
                                                   {"@akzent", "#c41e2a", "#ff7a80"},
                                                   {"@vollakzent", "#c41e2a", "#c41e2a"},
                                                   {"@blassakzent", "#d9a5a9", "#5c3236"},
+                                                  {"@blassschrift", "#ffffff", "#b3969a"},
                                                   {"@grau", "#eceef1", "#20242b"},
                                                   {"@gesperrt", "#9aa1ad", "#727a89"},
                                                   {"@ueber", "#f2f4f7", "#2f343e"},
@@ -92,15 +93,20 @@ const farbsatz helle_farben{akzent,        flaeche,          karte,           li
 const farbsatz dunkle_farben{{255, 122, 128}, {28, 31, 38},    {39, 43, 51}, {65, 71, 83}, {238, 240, 244},
                              {169, 177, 191}, {114, 122, 137}, {47, 52, 62}, {66, 57, 24}, {214, 170, 40}};
 
-/// The style draws the edge of an empty box darker than its window, which on a dark one nobody sees.
-const char* const leere_kaesten = R"(
-QCheckBox::indicator:unchecked { width: 12px; height: 12px; border: 1px solid @leise; border-radius: 2px; }
-QCheckBox::indicator:unchecked:disabled { border-color: @rand; }
-QRadioButton::indicator:unchecked { width: 11px; height: 11px; border: 1px solid @leise; border-radius: 6px; }
+/// The style draws the edge of a box darker than its window, which on a dark one nobody sees.
+const char* const kaesten = R"(
+QCheckBox::indicator { width: 12px; height: 12px; border: 1px solid @leise; border-radius: 2px; }
+QCheckBox::indicator:checked { image: url(:/bilder/haken_hell.png); }
+QCheckBox::indicator:disabled { border-color: @rand; }
+QCheckBox::indicator:checked:disabled { background: @rand; }
+QRadioButton::indicator { width: 11px; height: 11px; border: 1px solid @leise; border-radius: 6px; }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+                                  stop: 0 @schrift, stop: 0.5 @schrift, stop: 0.65 transparent); }
+QRadioButton::indicator:disabled { border-color: @rand; }
 )";
 
 QString regeln_in(bool dunkel) {
-    QString text = QString(regeln) + (dunkel ? leere_kaesten : "");
+    QString text = QString(regeln) + (dunkel ? kaesten : "");
     for (const regelfarbe& farbe : regelfarben) {
         text.replace(farbe.name, dunkel ? farbe.dunkel : farbe.hell);
     }
