@@ -147,7 +147,7 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(4);
     liste_ = binder.listenfeld(logik_.liste.at(i), nummeriert("liste"));
-    liste_->setMinimumSize(130, 50);
+    liste_->setMinimumHeight(50);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     aufbau->addWidget(liste_, 1);
     auto* knoepfe = new QVBoxLayout;
@@ -172,6 +172,8 @@ void Ergebniszeile::skalieren(double skala) {
     QFont schrift = liste_->font();
     schrift.setPixelSize(std::max(12, static_cast<int>(std::lround(schrift_liste * skala))));
     liste_->setFont(schrift);
+    constexpr int rollbalken_px = 34;  // and what the list keeps free around a line
+    liste_->setMinimumWidth(QFontMetrics(schrift).horizontalAdvance("00.  00:00,000") + rollbalken_px);
     const int kante = static_cast<int>(std::lround(bild_kante * std::max(skala, 1.0)));
     layout()->setSpacing(static_cast<int>(std::lround(abstand * std::max(skala, 1.0))));
     for (QWidget* bild : bilder_) {

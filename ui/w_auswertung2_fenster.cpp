@@ -257,6 +257,7 @@ void WAuswertung2Fenster::aufschlagen() {
 void WAuswertung2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     dateispalte_->setFixedWidth(std::clamp(width() * 25 / 100, dateispalte_breite, dateispalte_breite_max));
+    layout()->activate();  // the letters go by the room that this leaves
     skalieren();
 }
 
