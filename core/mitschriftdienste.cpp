@@ -108,6 +108,12 @@ bool mitschriftdienste::meldungen::fragen(std::string_view text, std::string_vie
     return m.antwort("antwort", [&] { return ja ? 1 : 0; }) == 1;
 }
 
+bool mitschriftdienste::meldungen::anbieten(std::string_view text, std::string_view titel) {
+    bool ja = false;
+    m.tor([&] { ja = echte.anbieten(text, titel); });
+    return m.antwort("antwort", [&] { return ja ? 1 : 0; }) == 1;
+}
+
 plattform::dreifache_antwort mitschriftdienste::meldungen::fragen_mit_ausweg(std::string_view text,
                                                                              std::string_view titel) {
     plattform::dreifache_antwort gewaehlt = plattform::dreifache_antwort::abbrechen;

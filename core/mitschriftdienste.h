@@ -62,6 +62,7 @@ private:
         }
         void zeigen(std::string_view text, std::string_view titel) override;
         bool fragen(std::string_view text, std::string_view titel) override;
+        bool anbieten(std::string_view text, std::string_view titel) override;
         plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
         mitschrift& m;
         plattform::meldungen& echte;

@@ -16,6 +16,8 @@ public:
     virtual void zeigen(std::string_view text, std::string_view titel) = 0;
     /// A question with yes and no; closing the box means no.
     virtual bool fragen(std::string_view text, std::string_view titel) = 0;
+    /// The same where nothing is lost by a yes: Enter takes it. Closing the box means no.
+    virtual bool anbieten(std::string_view text, std::string_view titel) { return fragen(text, titel); }
     /// With a way out; closing the box takes it.
     virtual dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) = 0;
 };

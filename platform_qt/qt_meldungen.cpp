@@ -21,16 +21,15 @@ void QtMeldungen::knoepfe_beschriften(std::string_view ja, std::string_view nein
 }
 
 /// Closing the box means no, or takes the way out where there is one.
-plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::string_view titel,
-                                                  bool mit_ausweg) const {
+plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::string_view titel, art wie) const {
     QMessageBox box(QMessageBox::Question, als_text(titel), als_text(text), QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setObjectName("frage");
     box.setTextFormat(Qt::PlainText);
-    const QPushButton* ja = box.addButton(ja_, QMessageBox::YesRole);
+    QPushButton* ja = box.addButton(ja_, QMessageBox::YesRole);
     QPushButton* nein = box.addButton(nein_, QMessageBox::NoRole);
-    box.setDefaultButton(nein);
-    box.setEscapeButton(mit_ausweg ? box.addButton(ausweg_, QMessageBox::RejectRole) : nein);
+    box.setDefaultButton(wie.ja_vorn ? ja : nein);
+    box.setEscapeButton(wie.mit_ausweg ? box.addButton(ausweg_, QMessageBox::RejectRole) : nein);
     box.exec();
     using antwort = plattform::dreifache_antwort;
     return box.clickedButton() == ja ? antwort::ja : box.clickedButton() == nein ? antwort::nein : antwort::abbrechen;
@@ -45,11 +44,15 @@ void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
 }
 
 bool QtMeldungen::fragen(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, false) == plattform::dreifache_antwort::ja;
+    return stellen(text, titel, {}) == plattform::dreifache_antwort::ja;
+}
+
+bool QtMeldungen::anbieten(std::string_view text, std::string_view titel) {
+    return stellen(text, titel, {.ja_vorn = true}) == plattform::dreifache_antwort::ja;
 }
 
 plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, true);
+    return stellen(text, titel, {.mit_ausweg = true});
 }
 
 }  // namespace tarvel::qt

@@ -11,10 +11,16 @@ public:
     void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override;
     void zeigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel) override;
+    bool anbieten(std::string_view text, std::string_view titel) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
 
 private:
-    plattform::dreifache_antwort stellen(std::string_view text, std::string_view titel, bool mit_ausweg) const;
+    /// What Enter presses, and whether there is a way out.
+    struct art {
+        bool ja_vorn = false;
+        bool mit_ausweg = false;
+    };
+    plattform::dreifache_antwort stellen(std::string_view text, std::string_view titel, art wie) const;
 
     QString ja_ = "Ja";
     QString nein_ = "Nein";

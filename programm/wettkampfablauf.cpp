@@ -104,9 +104,9 @@ bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
                                          version_melden::nein);
     const auto& wort = um_.txt.wettkampf;
     const bool fortsetzen =
-        gelesen && um_.meldungen.fragen(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
-                                            gelesen->beginn + " " + wort.nicht_beendet + rennen,
-                                        um_.txt.titel[0]);
+        gelesen && um_.meldungen.anbieten(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
+                                              gelesen->beginn + " " + wort.nicht_beendet + rennen,
+                                          um_.txt.titel[0]);
     const auto wie = um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
     const bool gut = gelesen && (!fortsetzen || laden(pfad, wie));
     if (gut && fortsetzen) {

@@ -100,7 +100,7 @@ void wiederaufnahme::nach_dem_start_anbieten() {
         }
         return;
     }
-    if (k && um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0])) {
+    if (k && um_.dienste.meldungen.anbieten(frage(k->stand), um_.txt.titel[0])) {
         fortsetzen(*k);
         return;
     }

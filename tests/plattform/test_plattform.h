@@ -62,6 +62,7 @@ public:
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
     std::string knoepfe_der_fragen;
+    int angebote = 0;      ///< of them: Enter says yes
     bool antwort = false;  ///< to every question
     plattform::dreifache_antwort antwort_mit_ausweg = plattform::dreifache_antwort::abbrechen;
     std::function<void()> waehrend_meldung;  ///< what happens while a message box is open
@@ -88,6 +89,10 @@ private:
         knoepfe_der_fragen = std::string(ja) + "/" + std::string(nein) + "/" + std::string(ausweg);
     }
     bool fragen(std::string_view text, std::string_view titel) override;
+    bool anbieten(std::string_view text, std::string_view titel) override {
+        ++angebote;
+        return fragen(text, titel);
+    }
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
     void bereitstellen(std::string_view /*datei*/) override {}
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }

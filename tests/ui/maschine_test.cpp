@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <fstream>
 #include <vector>
 
@@ -14,6 +16,7 @@
 #include "platform_qt/qt_abtaster.h"
 #include "platform_qt/qt_bibliothek.h"
 #include "platform_qt/qt_dienste.h"
+#include "platform_qt/qt_meldungen.h"
 #include "platform_qt/qt_prozess.h"
 #include "tests/plattform/test_iowkit.h"
 #include "tests/plattform/testprogramm.h"
@@ -40,6 +43,17 @@ TEST(Druckerport, PortdateiLiestUndSchreibtDasByteAnDerAdresse) {
     EXPECT_FALSE(maschine.datei_da("fehlt"));
 }
 #endif
+
+TEST(Meldungen, EnterSagtNeinAberEinAngebotNimmtEsAn) {
+    qt::QtMeldungen meldungen;
+    const auto mit_taste = [&](Qt::Key taste, auto stellen) {
+        QTimer::singleShot(0, qApp, [taste] { QTest::keyClick(QApplication::activeModalWidget(), taste); });
+        return (meldungen.*stellen)("Weiter?", "Hinweis");
+    };
+    EXPECT_FALSE(mit_taste(Qt::Key_Return, &qt::QtMeldungen::fragen));
+    EXPECT_TRUE(mit_taste(Qt::Key_Return, &qt::QtMeldungen::anbieten));
+    EXPECT_FALSE(mit_taste(Qt::Key_Escape, &qt::QtMeldungen::anbieten));
+}
 
 TEST(Bibliothek, WirdNachNamenGeladenUndKenntIhreRufe) {
     qt::QtBibliothekDienst dienst;
