@@ -172,7 +172,7 @@ public:
     bool frei() const { return frei_; }
     void frei(bool neu) { setzen(frei_, neu); }
     /// Of a free choice, what is offered while something is typed; set before the choice is drawn. What is typed stays
-    /// as it is until the operator takes one of them.
+    /// as it is until the operator takes one of them, or the one that is left.
     std::function<std::vector<std::string>(const std::string& getippt)> vorschlagen;
     void eingeben(std::string_view neu) override;
 

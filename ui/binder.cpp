@@ -2,11 +2,9 @@
 
 #include <QAbstractItemView>
 #include <QColorDialog>
-#include <QCompleter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
-#include <QStringListModel>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
@@ -16,6 +14,7 @@
 #include "core/dateien.h"
 #include "ui/eingabefelder.h"
 #include "ui/listenmodell.h"
+#include "ui/namensergaenzung.h"
 #include "ui/stil.h"
 #include "ui/umbruchkasten.h"
 
@@ -44,27 +43,6 @@ void kuerzung_sagen(QLineEdit* zeile) {
                                QString("max. %1").arg(zeile->maxLength()), zeile);
         }
     });
-}
-
-/// They stand below the field while something is typed. Tab and Enter leave that as it is, until an arrow key or the
-/// mouse has chosen one of them.
-void vorschlaege_anbieten(QComboBox* widget, const auswahl& element) {
-    if (!element.vorschlagen) {
-        return;
-    }
-    auto* namen = new QStringListModel(widget);
-    auto* ergaenzung = new QCompleter(namen, widget);
-    ergaenzung->setCompletionMode(QCompleter::PopupCompletion);
-    ergaenzung->setFilterMode(Qt::MatchContains);  // lets all of them through: the control has chosen
-    ergaenzung->setCaseSensitivity(Qt::CaseInsensitive);
-    QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, namen, [namen, &element](const QString& getippt) {
-        QStringList liste;
-        for (const std::string& name : element.vorschlagen(getippt.toStdString())) {
-            liste << als_text(name);
-        }
-        namen->setStringList(liste);
-    });
-    widget->setCompleter(ergaenzung);
 }
 
 }  // namespace
@@ -304,7 +282,7 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
             widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
             if (element.frei()) {
                 kuerzung_sagen(widget->lineEdit());
-                vorschlaege_anbieten(widget, element);
+                Namensergaenzung::anbieten(*widget, element);
             }
         }
         if (element.frei() && element.laenge_max() > 0) {

@@ -1,6 +1,5 @@
 #include "ui/tagesrennen_fenster.h"
 
-#include <QCompleter>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QHBoxLayout>
@@ -89,9 +88,6 @@ void TagesrennenFenster::spurzeile(QGridLayout* raster, std::size_t i) {
     raster->addWidget(fleck, reihe, 0);
     raster->addWidget(binder().label(logik_.Label_spur.at(i), "Label_spur_" + nummer), reihe, 1);
     QComboBox* fahrer = binder().auswahlfeld(logik_.Text_fahrer.at(i), "Text_fahrer_" + nummer);
-    auto* ergaenzung = new QCompleter(fahrer->model(), fahrer);
-    ergaenzung->setCaseSensitivity(Qt::CaseInsensitive);
-    fahrer->setCompleter(ergaenzung);
     raster->addWidget(fahrer, reihe, 2);
     QComboBox* klasse = binder().auswahlfeld(logik_.lstb_klasse.at(i), "lstb_klasse_" + nummer);
     klasse->setFixedWidth(klassenbreite);

@@ -1,6 +1,5 @@
 #include "ui/wettkampf1_fenster.h"
 
-#include <QCompleter>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -143,10 +142,6 @@ QWidget* Wettkampf1Fenster::namenszeile() {
     QHBoxLayout* aufbau = zeile_in(zeile);
     aufbau->addWidget(binder().label(logik_.Label_name, "Label_name"));
     QComboBox* name = binder().auswahlfeld(logik_.auswahl, "auswahl");
-    auto* ergaenzung = new QCompleter(name->model(), name);
-    ergaenzung->setCaseSensitivity(Qt::CaseInsensitive);
-    ergaenzung->setFilterMode(Qt::MatchContains);  // who knows the family name alone finds the driver
-    name->setCompleter(ergaenzung);
     QObject::connect(
         name->lineEdit(), &QLineEdit::returnPressed, name, [this] { logik_.Command1.klicken(); },
         Qt::QueuedConnection);  // a name that is chosen with this key comes into the field after it

@@ -367,7 +367,15 @@ TEST_F(Oberflaeche, NamenWerdenAngebotenUndNieUngefragtEingesetzt) {
         }
         return t.p.form1.fahrer[0].text();
     };
-    EXPECT_EQ(tippen_und("Fahr", {Qt::Key_Tab}), "Fahr");
+    EXPECT_EQ(tippen_und("Fahr", {Qt::Key_Tab}), "Fahr") << "several begin so";
+    EXPECT_EQ(tippen_und("fahr", {Qt::Key_Return}), "fahr");
+    t.p.zuletzt_gefahren.gefahren(t.p.ablage, {"Maximilian Muster"});  // in no list
+    EXPECT_EQ(tippen_und("mus", {Qt::Key_Return}), "Maximilian Muster") << "the one that is left";
+    EXPECT_EQ(tippen_und("mus", {Qt::Key_Down, Qt::Key_Return}), "Maximilian Muster");
+    EXPECT_EQ(tippen_und("max", {Qt::Key_Tab}), "Maximilian Muster");
+    EXPECT_FALSE(fahrer->hasFocus() || fahrer->lineEdit()->hasFocus()) << "on to the next field";
+    EXPECT_EQ(tippen_und("max", {Qt::Key_Escape, Qt::Key_Return}), "max");
+    EXPECT_EQ(tippen_und("max", {Qt::Key_Backspace}), "ma") << "nothing is put in before it is chosen";
     EXPECT_EQ(tippen_und("fahr", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}), "Fahrer 2");
 }
 
