@@ -172,7 +172,10 @@ sprachliste texte::sprache_m1() {
                 wettkampf.nicht_fortsetzbar);
     gruppe.text("Das Rennen geht weiter, aber sein Protokoll lässt sich nicht mehr schreiben.",
                 wettkampf.ohne_protokoll);
-    return gruppe.text("Ja", ja).text("Nein", nein).text("Das Handbuch fehlt:", handbuch_fehlt);
+    gruppe.text("Ja", ja).text("Nein", nein).text("Das Handbuch fehlt:", handbuch_fehlt);
+    gruppe.text("Die PDF-Datei ist gespeichert:", papierdatei.gespeichert).text("Öffnen", papierdatei.oeffnen);
+    gruppe.text("Ordner zeigen", papierdatei.ordner).text("Schließen", papierdatei.schliessen);
+    return gruppe.text("Auf diesem Rechner ist kein Programm dafür eingerichtet.", papierdatei.kein_programm);
 }
 
 sprachliste texte::sprache_tx1() {

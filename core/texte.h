@@ -35,6 +35,9 @@ struct texte {
     static constexpr std::size_t abbrechen = 10;  ///< the place of that word among them
     std::string ja, nein;
     std::string handbuch_fehlt;  ///< before the name of the file
+    struct dateiworte {
+        std::string gespeichert, oeffnen, ordner, kein_programm, schliessen;
+    } papierdatei;  ///< said of a page that has been saved
 
     std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";

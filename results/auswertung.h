@@ -134,6 +134,7 @@ public:
     const einstellungen& einst() const { return um_.einst; }
     /// Suggestion for the file of the page, below the program folder and without an extension.
     std::string blatt_datei() const;
+    const texte::dateiworte& papierdatei() const { return um_.txt.papierdatei; }
     void pdf_misslungen() { um_.meldungen.zeigen(wort_.pdf_fehler, um_.txt.titel[1]); }
     void druck_misslungen() { um_.meldungen.zeigen(wort_.druckfehler, um_.txt.titel[1]); }
 

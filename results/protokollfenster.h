@@ -115,6 +115,7 @@ public:
     std::string kopf() const { return Label_kopf.text(); }
     /// Suggestion for the file of the pages, below the program folder and without an extension.
     std::string blatt_datei() const;
+    const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
     void pdf_misslungen() { fehler_melden(wort_.pdf_fehler); }
     void druck_misslungen() { fehler_melden(wort_.druckfehler); }
 

@@ -67,6 +67,7 @@ public:
     const urkundenvorlage& gezeigte_vorlage() const { return vorlage_; }
     const einstellungen& einst() const { return um_.einst; }
     const std::string& pdf_datei() const { return datei_; }
+    const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
     void pdf_misslungen() { melden(wort_.pdf_fehler); }
     void druck_misslungen() { melden(wort_.druckfehler); }
 

@@ -117,6 +117,7 @@ public:
     std::string blatt_datei() const;
     void pdf_misslungen() { fehler_melden(wort_.pdf_fehler); }
     void druck_misslungen() { fehler_melden(wort_.druckfehler); }
+    const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
 
     diagramm_worte diagramm;
     blatt_worte blatt;

@@ -1,13 +1,17 @@
 #include "ui/blattausgabe.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QMessageBox>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QSaveFile>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -55,6 +59,34 @@ bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const blattseiten& seiten, i
         seite_malen(maler, flaeche, seiten, nummer - 1);
     }
     return maler.end();
+}
+
+/// The box goes on being there until somebody closes it; it waits for nobody.
+void gespeichert_melden(QWidget* eltern, const QString& pfad, const texte::dateiworte& worte) {
+    const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
+    auto* box = new QMessageBox(QMessageBox::Information, QString::fromUtf8(programm_name.data()),
+                                text(worte.gespeichert), QMessageBox::NoButton, eltern);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setObjectName("gespeichert");
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(QDir::toNativeSeparators(pfad));
+    const auto zeigen = [box, text, worte](const QString& was) {
+        if (!QDesktopServices::openUrl(QUrl::fromLocalFile(was))) {
+            box->setText(text(worte.kein_programm));
+        }
+    };
+    const auto knopf = [box, text](const std::string& beschriftung, auto tun) {
+        QPushButton* neuer = box->addButton(text(beschriftung), QMessageBox::ActionRole);
+        QObject::disconnect(neuer, &QPushButton::clicked, nullptr,
+                            nullptr);  // what it opens may not be there; the place of the file stays to be read
+        QObject::connect(neuer, &QPushButton::clicked, box, tun);
+    };
+    knopf(worte.oeffnen, [zeigen, pfad] { zeigen(pfad); });
+    knopf(worte.ordner, [zeigen, pfad] { zeigen(QFileInfo(pfad).path()); });
+    QPushButton* zu = box->addButton(text(worte.schliessen), QMessageBox::AcceptRole);
+    box->setDefaultButton(zu);
+    box->setEscapeButton(zu);
+    vor_allem_zeigen(*box);
 }
 
 }  // namespace
@@ -108,8 +140,7 @@ void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::functi
     vor_allem_zeigen(*dialog);
 }
 
-void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag,
-                   std::function<bool(const QString&)> schreiben, std::function<void()> misslungen) {
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag, pdf_auftrag auftrag) {
     const QString datei = QString::fromStdU16String(vorschlag.u16string());
     auto* dialog = new QFileDialog(eltern, QString::fromStdString(knopf.text()), datei, "PDF (*.pdf)");
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -117,9 +148,11 @@ void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::
     dialog->setDefaultSuffix("pdf");
     dialog->selectFile(datei);
     QObject::connect(dialog, &QFileDialog::fileSelected, eltern,
-                     [schreiben = std::move(schreiben), misslungen = std::move(misslungen)](const QString& pfad) {
-                         if (!schreiben(pfad)) {
-                             misslungen();
+                     [eltern, auftrag = std::move(auftrag)](const QString& pfad) {
+                         if (auftrag.schreiben(pfad)) {
+                             gespeichert_melden(eltern, pfad, auftrag.worte);
+                         } else {
+                             auftrag.misslungen();
                          }
                      });
     vor_allem_zeigen(*dialog);

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "core/steuerelemente.h"
+#include "core/texte.h"
 
 /// What all printed sheets have in common: their paper, and the ways on which they leave the program.
 namespace tarvel::ui {
@@ -40,10 +41,14 @@ bool blatt_als_pdf(const QString& pfad, const blattseiten& seiten);
 /// Opens the dialog in which the operator chooses a printer. `bei_fehler` is called if the printer does not begin.
 void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::function<void()>& bei_fehler);
 
-/// Opens the dialog in which he names a file, as the button says it; `schreiben` gets its path, and `misslungen` is
-/// called if it is false.
-void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag,
-                   std::function<bool(const QString&)> schreiben, std::function<void()> misslungen);
+/// What saves a page, and what is said then.
+struct pdf_auftrag {
+    std::function<bool(const QString& pfad)> schreiben;
+    std::function<void()> misslungen;  ///< called if that is false
+    texte::dateiworte worte;
+};
+/// Opens the dialog in which he names a file, as the button says it. Then he is told where it lies, and may open it.
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag, pdf_auftrag auftrag);
 
 /// How a text stands on a sheet.
 struct blattschrift {

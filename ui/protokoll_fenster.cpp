@@ -257,10 +257,9 @@ void ProtokollFenster::drucken() {
 }
 
 void ProtokollFenster::pdf_speichern(const dateien& ablage) {
-    ui::pdf_speichern(
-        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
-        [alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
-        [this] { logik_.pdf_misslungen(); });
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+                      {[alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
+                       [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }
 
 }  // namespace tarvel::ui

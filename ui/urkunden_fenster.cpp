@@ -113,10 +113,9 @@ blattseiten UrkundenFenster::seiten() const {
 }
 
 void UrkundenFenster::pdf_speichern() {
-    ui::pdf_speichern(
-        this, logik_.Command_pdf, ablage_.pfad(logik_.pdf_datei() + ".pdf"),
-        [alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
-        [this] { logik_.pdf_misslungen(); });
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage_.pfad(logik_.pdf_datei() + ".pdf"),
+                      {[alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
+                       [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }
 
 }  // namespace tarvel::ui

@@ -352,8 +352,8 @@ void WAuswertung2Fenster::pdf_speichern(const dateien& ablage) {
     } else {
         schreiben = [seiten = seiten_bilden()](const QString& pfad) { return blatt_als_pdf(pfad, seiten); };
     }
-    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"), schreiben,
-                      [this] { logik_.pdf_misslungen(); });
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+                      {schreiben, [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }
 
 WAuswDebugFenster::WAuswDebugFenster(w_ausw_debug& logik, Fensterverwaltung& verwaltung, QWidget* eltern)

@@ -177,8 +177,8 @@ void WAuswertungFenster::drucken() {
 void WAuswertungFenster::pdf_speichern(const dateien& ablage) {
     ui::pdf_speichern(  // as it stands now, whatever follows meanwhile
         this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
-        [seiten = wettkampfseiten(logik_.blatt())](const QString& pfad) { return blatt_als_pdf(pfad, seiten); },
-        [this] { logik_.pdf_misslungen(); });
+        {[seiten = wettkampfseiten(logik_.blatt())](const QString& pfad) { return blatt_als_pdf(pfad, seiten); },
+         [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }
 
 void WAuswertungFenster::aufschlagen() {

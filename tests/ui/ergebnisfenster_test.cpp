@@ -1,6 +1,11 @@
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QListView>
+#include <QMessageBox>
 #include <QScrollBar>
+#include <QTextBrowser>
 
 #include "results/w_auswertung2.h"
 #include "tests/ergebnistabelle_probe.h"
@@ -13,6 +18,15 @@ namespace tarvel {
 namespace {
 
 const std::string datei = "Ergebnisse\\Tagesrennen\\mai.csv";
+
+/// In place of the desktop's programs.
+class Oeffner final : public QTextBrowser {
+public:
+    QList<QUrl> geoeffnet;
+
+protected:
+    void doSetSource(const QUrl& was, QTextDocument::ResourceType /*art*/) override { geoeffnet << was; }
+};
 
 class Ergebnisfenster : public test::OberflaecheProbe {
 protected:
@@ -66,6 +80,32 @@ TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.w_ausw_debug));
     setzen_lassen();
     EXPECT_EQ(QApplication::activeWindow(), &*o.w_ausw_debug);
+}
+
+TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
+    zeigen(3);
+    klick(fenster, "w_auswertung2.Command_pdf");
+    auto* wahl = fenster.findChild<QFileDialog*>();
+    ASSERT_NE(wahl, nullptr);
+    const QString pfad = QString::fromStdString((t.maschine.ordner() / "Seite.pdf").string());
+    emit wahl->fileSelected(pfad);
+    wahl->close();
+    auto* box = fenster.findChild<QMessageBox*>("gespeichert");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), QDir::toNativeSeparators(pfad));
+    EXPECT_TRUE(QFile::exists(pfad));
+    Oeffner desktop;
+    QDesktopServices::setUrlHandler("file", &desktop, "setSource");
+    for (const char* text : {"Öffnen", "Ordner zeigen", "Schließen"}) {
+        const auto knoepfe = box->buttons();
+        const auto knopf =
+            std::find_if(knoepfe.begin(), knoepfe.end(), [&](const auto* k) { return k->text() == text; });
+        ASSERT_TRUE(knopf != knoepfe.end() && box->isVisible()) << text;
+        (*knopf)->click();
+    }
+    QDesktopServices::unsetUrlHandler("file");
+    EXPECT_EQ(desktop.geoeffnet, (QList{QUrl::fromLocalFile(pfad), QUrl::fromLocalFile(QFileInfo(pfad).path())}));
+    EXPECT_FALSE(box->isVisible());
 }
 
 TEST_F(Ergebnisfenster, SeitenFuerDieWandVerlierenNiemand) {
