@@ -109,6 +109,12 @@ void fensterregister::sprache_gewechselt() {
     }
 }
 
+bool fensterregister::sprache_wechselbar() const {
+    constexpr std::array am_abend{fenstername::wettkampf1, fenstername::wettkampf2, fenstername::w_auswertung,
+                                  fenstername::Tagesrennen};
+    return std::none_of(am_abend.begin(), am_abend.end(), [this](fenstername name) { return ist_offen(name); });
+}
+
 void fensterregister::alle_entladen() {
     for (std::size_t i = 0; i < fenster_.size(); ++i) {
         entladen(static_cast<fenstername>(i));

@@ -48,6 +48,8 @@ public:
     /// Loaded and on the screen.
     bool ist_offen(fenstername name) const { return an(name).offen; }
     void sprache_gewechselt();
+    /// Empty places and drivers have names of the language: during an evening they are all of one.
+    bool sprache_wechselbar() const;
     void erscheinen(const erscheinung& wie) {
         if (anzeige_ != nullptr) {
             anzeige_->erscheinen(wie);

@@ -27,6 +27,13 @@ form1::form1(umgebung um)
         renndauer.fokus_setzen();
     };
     t_aktiv.bei_aenderung = [this] { tankoptionen_zeigen(); };
+    felder_merken.bei_aenderung = [this] {
+        if (erscheinen) {
+            erscheinung neu = um_.einst.anzeige;
+            neu.hauptfenster_wie_zuletzt = felder_merken.gesetzt();
+            erscheinen(neu);
+        }
+    };
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
         spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };

@@ -7,6 +7,7 @@
 
 #include "core/bestzeiten.h"
 #include "core/einstellungen.h"
+#include "core/erscheinung.h"
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "core/letzte_fahrer.h"
@@ -109,6 +110,9 @@ public:
     befehl command_zuletzt;     ///< the results that were written last
     befehl command_tasten;      ///< key assignment
     befehl command_cu;          ///< window of the Control Unit, while that is the timing hardware
+    befehl command_sprache;     ///< the languages that there are, called as the one in force calls itself
+    befehl command_aussehen;    ///< light or dark, likewise
+    haken felder_merken;        ///< the next start shows the fields as they are at the end
 
     /// The race is set up: a race of its own begins with it.
     std::function<void()> einzelrennen_beginnen;
@@ -146,6 +150,18 @@ public:
     /// A picture file from anywhere on the machine becomes that of the driver of the name, or of the vehicle.
     std::function<void(const std::string& name, const std::filesystem::path& bild)> fahrerbild_ablegen;
     std::function<void(const std::string& name, const std::filesystem::path& bild)> fahrzeugbild_ablegen;
+    /// How the program is to meet the eye from now on.
+    std::function<void(const erscheinung&)> erscheinen;
+    /// What a menu offers, and the place of what holds.
+    struct auswahlmenue {
+        std::vector<std::string> zeilen;
+        std::size_t gewaehlt = 0;
+    };
+    auswahlmenue sprachen() const;
+    auswahlmenue aussehensarten() const;
+    void sprache_waehlen(std::size_t welche);
+    void aussehen_waehlen(std::size_t welches);
+    void erscheinung_zeigen();
     /// Chooses the command file of the AT-2560.
     std::function<void()> befehlsdatei_waehlen;
 
@@ -277,6 +293,7 @@ private:
     std::string wort_liste_voll_;
     std::string wort_ohne_namen_;
     std::string wort_kein_ergebnis_;
+    std::array<std::string, 3> wort_aussehen_;  ///< by its number
     std::string einstell_name_;
     std::string standard_name_;
     bool getrennt_ = false;

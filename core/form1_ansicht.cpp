@@ -81,7 +81,15 @@ sprachliste form1::sprache_m2() {
     texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
     texte.text("Zuletzt", command_zuletzt).tipp("Die letzten 20 Ergebnisse; wählen öffnet sie", command_zuletzt);
     texte.text("nicht mehr da", wort_nicht_mehr_da_).text("Noch kein Ergebnis gespeichert", wort_kein_ergebnis_);
-    return aufstellung_nennen(texte, *this, wort_liste_voll_, wort_ohne_namen_);
+    aufstellung_nennen(texte, *this, wort_liste_voll_, wort_ohne_namen_);
+    texte.tipp("Sprache der Fenster und des Handbuchs (language)", command_sprache);
+    texte.text("Hell", wort_aussehen_[0]).text("Dunkel", wort_aussehen_[1]).text("Wie das System", wort_aussehen_[2]);
+    texte.tipp("Fenster hell oder dunkel; der Rennbildschirm hat seine eigenen Farben", command_aussehen);
+    texte.text("Felder merken", felder_merken);
+    return texte.tipp(
+        "Beim nächsten Start stehen alle Felder dieses Fensters wieder so da wie beim Beenden. Ohne Haken stehen sie "
+        "wie in der Einstellungsdatei.",
+        felder_merken);
 }
 
 void form1::ansagen_setzen() {
@@ -105,6 +113,7 @@ void form1::laden() {
     version_label.text("V " + std::string(programm_version));
     texte_lesen();
     ansagen_setzen();
+    erscheinung_zeigen();
     tankoptionen_zeigen();
     constexpr std::array<std::string_view, 2> startbilder{"tvkpic1.jpg", "tvkpic2.jpg"};
     for (std::size_t i = 0; i < startbilder.size(); ++i) {
@@ -122,6 +131,7 @@ void form1::sprache_gewechselt() {
     const std::string bisher_niemand = um_.txt.kein_fahrer;
     texte_lesen();
     ansagen_setzen();
+    erscheinung_zeigen();
     tankoptionen_zeigen();
     const int art = rennart.platz();  // the word in the field is that of the language before
     rennart.eintraege({um_.txt.text_zeit, um_.txt.text_runden});

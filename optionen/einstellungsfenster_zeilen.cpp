@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <string>
 
@@ -20,11 +19,7 @@ void einstellungsfenster::sprachwahl_verbinden() {
         wahl->eintraege(namen);
         const auto jetzt = std::find(sprachordner_.begin(), sprachordner_.end(), z.einst.anzeige.sprachordner);
         wahl->platz(jetzt == sprachordner_.end() ? -1 : static_cast<int>(jetzt - sprachordner_.begin()));
-        // Empty places and drivers have names of the language: during an evening they are all of one.
-        constexpr std::array am_abend{fenstername::wettkampf1, fenstername::wettkampf2, fenstername::w_auswertung,
-                                      fenstername::Tagesrennen};
-        wahl->aktiviert(std::none_of(am_abend.begin(), am_abend.end(),
-                                     [this](fenstername name) { return um_.fenster.ist_offen(name); }));
+        wahl->aktiviert(um_.fenster.sprache_wechselbar());
     };
     eine.uebernehmen = [this, wahl](const einstellungs_ziel& z, const auto&) {
         if (wahl->platz() >= 0) {

@@ -227,6 +227,7 @@ void programm::einstellungen_uebernommen(const einstellungen& vorher) {
     }
     if (einst.anzeige != vorher.anzeige) {
         fenster.erscheinen(einst.anzeige);
+        form1.erscheinung_zeigen();
     }
     form1.listen_zeigen();
     form1.farben_einstellen();

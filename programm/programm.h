@@ -176,6 +176,7 @@ private:
     void zuletzt_oeffnen(std::size_t welches);
     /// The fields as the next start may want them.
     void hauptfenster_merken();
+    void erscheinung_waehlen(const erscheinung& neu);
     /// Who is about to drive is offered first the next time.
     void fahrer_merken();
     void training_beginnen();

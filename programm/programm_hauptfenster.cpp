@@ -40,6 +40,7 @@ void programm::bilder_melden(int anzahl, bool gespeichert) {
 }
 
 void programm::zuletzt_verbinden() {
+    form1.erscheinen = [this](const erscheinung& neu) { erscheinung_waehlen(neu); };
     rundenspeichern.bei_ergebnis = [this](const std::string& pfad, const rennergebnis& ergebnis) {
         rennprotokoll.ergebnis_geschrieben(pfad);
         if (!pfad.starts_with(ergebnis_ordner::wettkampf)) {  // a competition is one result, not forty
@@ -82,6 +83,16 @@ void programm::fahrer_merken() {
         }
     }
     zuletzt_gefahren.gefahren(ablage, fahrer);
+}
+
+/// Chosen in the main window, in force at once.
+void programm::erscheinung_waehlen(const erscheinung& neu) {
+    const einstellungen vorher = einst;
+    einst.anzeige = neu;
+    einstellungen_uebernommen(vorher);
+    if (!erscheinung_speichern(ablage, neu)) {
+        dienste.meldungen.zeigen(txt.meldung[4], txt.titel[1]);
+    }
 }
 
 void programm::hauptfenster_merken() {

@@ -169,8 +169,8 @@ TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
     neu_starten();
     EXPECT_NE(zweites->form1.fahrer[1].text(), "Gast") << "nobody asked for it";
     const std::string einstellungen = t.maschine.datei_lesen("Einstellungen/einstellungen.ini");
-    zweites->einst.anzeige.hauptfenster_wie_zuletzt = true;
-    ASSERT_TRUE(erscheinung_speichern(zweites->ablage, zweites->einst.anzeige));
+    EXPECT_FALSE(zweites->form1.felder_merken.gesetzt());
+    zweites->form1.felder_merken.umschalten();
     umstellen(*zweites);
     zweites->programm_beenden();
     programm drittes(t.maschine.dienste());
@@ -178,7 +178,28 @@ TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
     EXPECT_EQ(drittes.form1.rennart.text() + drittes.form1.renndauer.text(), "Runden17");
     EXPECT_EQ(drittes.form1.fahrer[1].text(), "Gast");
     EXPECT_EQ(drittes.form1.lspur[1].text(), "12.5");
+    EXPECT_TRUE(drittes.form1.felder_merken.gesetzt());
     EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), einstellungen);
+}
+
+TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
+    t.maschine.datei_schreiben("language-en/language_m2.txt", "x\r\nx\r\n\"Lane\"\r\n");
+    EXPECT_EQ(f.command_sprache.text() + f.command_aussehen.text(), "DeutschHell");
+    EXPECT_EQ(f.sprachen().zeilen, (namen{"Deutsch", "English"}));
+    f.command17.klicken();
+    f.sprache_waehlen(1);
+    EXPECT_EQ(f.command_sprache.text(), "Deutsch") << "an evening is of one language";
+    t.p.tagesrennen_fenster.schliessen();
+    f.sprache_waehlen(1);
+    f.aussehen_waehlen(1);
+    EXPECT_EQ(f.command_sprache.text() + f.command_aussehen.text(), "EnglishDunkel");
+    EXPECT_EQ(f.spur[0].text(), "Lane 1");
+    neu_starten();
+    EXPECT_EQ(zweites->form1.sprachen().gewaehlt, 1U);
+    EXPECT_EQ(zweites->form1.aussehensarten().gewaehlt, 1U);
+    t.maschine.nicht_schreibbar = "tvk_anzeige.ini";
+    zweites->form1.aussehen_waehlen(0);
+    EXPECT_EQ(letzte_meldung(), t.p.txt.meldung[4]) << "in force, but not kept";
 }
 
 TEST(Hauptfensterdatei, WasBeschaedigtIstBleibtWieEsWar) {

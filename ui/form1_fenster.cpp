@@ -276,6 +276,26 @@ QPushButton* Form1Fenster::letzte_ergebnisse() {
     return knopf;
 }
 
+/// The menu is made anew each time: there may be other languages by then.
+QPushButton* Form1Fenster::menueknopf(befehl& element, const QString& name,
+                                      form1::auswahlmenue (form1::*zeilen)() const,
+                                      void (form1::*waehlen)(std::size_t)) {
+    QPushButton* knopf = binder().knopf(element, name, "schmal");
+    auto* menue = new QMenu(knopf);
+    QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue, zeilen, waehlen] {
+        menue->clear();
+        const form1::auswahlmenue inhalt = (logik_.*zeilen)();
+        for (std::size_t i = 0; i < inhalt.zeilen.size(); ++i) {
+            QAction* eine = menue->addAction(QString::fromStdString(inhalt.zeilen[i]), this,
+                                             [this, waehlen, i] { (logik_.*waehlen)(i); });
+            eine->setCheckable(true);
+            eine->setChecked(i == inhalt.gewaehlt);
+        }
+    });
+    knopf->setMenu(menue);
+    return knopf;
+}
+
 QPushButton* Form1Fenster::hoher_knopf(befehl& element, const QString& name) {
     QPushButton* knopf = binder().knopf(element, name);
     knopf->setMinimumHeight(stil::knopfhoehe);
@@ -330,6 +350,11 @@ QWidget* Form1Fenster::statuszeile() {
     datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     datei->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     aufbau->addWidget(datei, 1);
+    aufbau->addWidget(binder().kasten(logik_.felder_merken, "felder_merken"), 0, Qt::AlignVCenter);
+    aufbau->addSpacing(8);
+    aufbau->addWidget(
+        menueknopf(logik_.command_aussehen, "command_aussehen", &form1::aussehensarten, &form1::aussehen_waehlen));
+    aufbau->addWidget(menueknopf(logik_.command_sprache, "command_sprache", &form1::sprachen, &form1::sprache_waehlen));
     return zeile;
 }
 

@@ -21,6 +21,8 @@ private:
     QPushButton* letzte_ergebnisse();
     QWidget* rennbefehle();
     QWidget* werkzeugbefehle();
+    QPushButton* menueknopf(befehl& element, const QString& name, form1::auswahlmenue (form1::*zeilen)() const,
+                            void (form1::*waehlen)(std::size_t));
     QPushButton* hoher_knopf(befehl& element, const QString& name);
     QWidget* statuszeile();
     /// What gives its room to the list of drivers while that is open.
