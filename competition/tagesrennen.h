@@ -14,6 +14,9 @@ public:
     std::string datei;  ///< below the program folder
 
     std::string kennung() const override { return "tagesrennen " + datei; }
+    /// The next race of the day is set up there, and there its standing is seen.
+    fenstername zurueck() const override { return fenstername::Tagesrennen; }
+    anzeige_art zurueck_als() const override { return anzeige_art::modal; }
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override {
         return wie == weitergang::verlassen ? um_.speichern.tages_ergebnis_schreiben(datei, ergebnis)
                                             : einzelrennen::uebernehmen(ergebnis, wie);

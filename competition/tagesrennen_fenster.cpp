@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <string_view>
+#include <utility>
 
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
@@ -82,6 +83,9 @@ sprachliste tagesrennen_fenster::sprache_lf() {
                wort_.nicht_gesichert);
     texte.tipp("Einzelrennen auf den ausgewählten Spuren; das Ergebnis kommt beim Verlassen in die Datei", Command18);
     texte.tipp("Die Datei des Tages sortieren, addieren und drucken", Command1);
+    texte.tipp_fuer_alle("Was die Klassen bedeuten, mit eigenen Worten. Die graue Erklärung weicht dem Getippten.",
+                         klassen_text);
+    fuehrung_.eintragen(texte);
     return texte.tipp("Jeder Fahrer gehört zu einer Klasse. Die Auswertung führt jede Klasse für sich.", Check1);
 }
 
@@ -196,6 +200,14 @@ void tagesrennen_fenster::datei_pruefen() {
         zeilen_ = tageszeilen_lesen(um_.welt.ablage, dateiname(), um_.einst.trennzeichen);
     }
     zeilen_zeigen();
+    fuehrung_zeigen(bereit);
+}
+
+void tagesrennen_fenster::fuehrung_zeigen(bool bereit) {
+    auto zeilen =
+        bereit ? um_.welt.ablage.zeilen_lesen(tagesdatei_pfad(dateiname()), ergebnistabelle::zeilen_max) : std::nullopt;
+    const auto tabelle = zeilen ? ergebnistabelle_lesen(std::move(*zeilen), um_.einst.trennzeichen) : std::nullopt;
+    Label_fuehrung.text(tabelle ? fuehrung_.zeile(tagesfuehrung(*tabelle, um_.einst.auswertung_nach)) : std::string());
 }
 
 void tagesrennen_fenster::zeilen_zeigen() {

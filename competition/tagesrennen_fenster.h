@@ -14,6 +14,7 @@
 #include "core/renneinrichtung.h"
 #include "core/steuerelemente.h"
 #include "platform/zeitgeber.h"
+#include "results/tagesfuehrung.h"
 
 namespace tarvel {
 
@@ -53,8 +54,9 @@ public:
     std::array<feld, klassenzeilen> klassen_text;
 
     rahmen Frame_liste;
-    bezeichnung Label_kopf;  ///< heads of the columns, each above its place in the lines
-    liste ergebnisse;        ///< of the day, the last race at the bottom
+    bezeichnung Label_kopf;      ///< heads of the columns, each above its place in the lines
+    liste ergebnisse;            ///< of the day, the last race at the bottom
+    bezeichnung Label_fuehrung;  ///< who leads the day
 
     befehl Command18;  ///< begins the race
     befehl Command1;   ///< looks at the day's file
@@ -66,6 +68,8 @@ public:
     void entladen() override;
     /// Reads the file of the day: it may have changed meanwhile.
     void datei_pruefen();
+    /// The line on what the classes stand for still says how it is used.
+    bool vorbelegt(std::size_t i) const { return klassen_text.at(i).text() == wort_.klassen_text.at(i); }
 
 private:
     struct worte {
@@ -82,6 +86,7 @@ private:
     void spuren_zeigen();
     void datei_geaendert();
     void zeilen_zeigen();
+    void fuehrung_zeigen(bool bereit);
     /// What the day's file knows of the driver; his class is the one he had last.
     void bisher_zeigen(std::size_t i);
     void fahrer_geaendert(std::size_t i);
@@ -99,6 +104,7 @@ private:
     std::array<bool, spuren_max> vorgeschlagen_{};  ///< the class comes from the file, nobody has chosen it
     tagesparameter gesichert_;
     worte wort_;
+    fuehrungsworte fuehrung_;
 };
 
 }  // namespace tarvel

@@ -76,7 +76,7 @@ void rennbefehle::rennen_abbrechen() {
     um_.param.einrichtung_wiederherstellen();
     um_.teil_von.melden(&veranstaltung::abgebrochen);
     um_.fenster.entladen(fenstername::bahn1);
-    um_.fenster.zeigen(um_.teil_von->zurueck());
+    um_.fenster.zeigen(um_.teil_von->zurueck(), um_.teil_von->zurueck_als());
 }
 
 void rennbefehle::fenster_schliessen() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/fensternamen.h"
+#include "core/fensterregister.h"
 #include "core/mitschrift.h"
 #include "core/rennziel.h"
 #include "core/spuren.h"
@@ -82,6 +83,7 @@ public:
     virtual bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) = 0;
     /// Window to which a race leads that has been left or broken off.
     virtual fenstername zurueck() const { return fenstername::Form1; }
+    virtual anzeige_art zurueck_als() const { return anzeige_art::frei; }
 };
 
 /// The one that the race is part of now. It must outlive the race.

@@ -240,7 +240,7 @@ void auswertung::cmd5_fortsetzung() {
     rennen_verlassen();
     um_.param.einrichtung_wiederherstellen();
     um_.fenster.entladen(fenstername::bahn1);
-    um_.fenster.zeigen(um_.teil_von->zurueck());
+    um_.fenster.zeigen(um_.teil_von->zurueck(), um_.teil_von->zurueck_als());
 }
 
 }  // namespace tarvel

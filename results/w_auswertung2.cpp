@@ -266,6 +266,7 @@ void w_auswertung2::tabelle_anzeigen() {
     }
     fuellen(auswertung_schoen, zeilen);
     datei_nennen();
+    fuehrung_nennen();
     if (um_.welt.fenster.ist_offen(fenstername::w_ausw_debug)) {
         debug_.zeilen_zeigen(tabelle_ ? tabelle_->alle_zeilen() : std::vector<std::string>{});
     }
@@ -290,6 +291,14 @@ void w_auswertung2::datei_nennen() {
         text += "  ·  " + (klassen_vereint_ ? wort_.addiert_alle : wort_.addiert);
     }
     Label_datei.text(text);
+}
+
+/// A day's file holds a line for each race; who reads it wants to know the winner.
+void w_auswertung2::fuehrung_nennen() {
+    const auto wer =
+        tabelle_ && !tabelle_->addiert ? tagesfuehrung(*tabelle_, sortieren_nach()) : std::vector<tagesfuehrender>{};
+    Label_fuehrung.sichtbar(!wer.empty());
+    Label_fuehrung.text(fuehrung_.zeile(wer) + ".  " + wort_.alle_plaetze);
 }
 
 void w_auswertung2::details_umschalten(std::size_t welche) {

@@ -15,6 +15,7 @@
 #include "results/korrekturrahmen.h"
 #include "results/papierkopf.h"
 #include "results/tabellenverlauf.h"
+#include "results/tagesfuehrung.h"
 #include "results/urkundenfenster.h"
 #include "results/w_ausw_debug.h"
 
@@ -52,7 +53,8 @@ public:
     befehl Command_drucken;
     befehl Command_pdf;
     befehl Command_urkunden;
-    bezeichnung Label_kopf;  ///< over the columns of the list
+    bezeichnung Label_fuehrung;  ///< who leads a day race whose drivers are not added up yet
+    bezeichnung Label_kopf;      ///< over the columns of the list
     liste auswertung_schoen;
     befehl Command10;  ///< details of laps, ...
     befehl command9;   ///< of metres, ...
@@ -115,9 +117,9 @@ public:
     papierkopf blattkopf() const { return papierkopf_laden(um_.welt.ablage); }
     /// Suggestion for the file of the page, below the program folder and without an extension.
     std::string blatt_datei() const;
+    const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
     void pdf_misslungen() { fehler_melden(wort_.pdf_fehler); }
     void druck_misslungen() { fehler_melden(wort_.druckfehler); }
-    const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
 
     diagramm_worte diagramm;
     blatt_worte blatt;
@@ -131,7 +133,7 @@ private:
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
         std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
-        std::string debug_auf, debug_zu;
+        std::string debug_auf, debug_zu, alle_plaetze;
         std::array<std::string, 3> wertung;
         std::array<std::array<std::string, 2>, 3> details;  ///< in, out
         std::array<std::string, 5> art;                     ///< by the kind of file
@@ -179,6 +181,7 @@ private:
     void tabelle_anzeigen();
     /// Over the table: what is in memory.
     void datei_nennen();
+    void fuehrung_nennen();
     void klassen_zeigen();
     std::set<std::string> ausgelassene_klassen() const;
     void details_umschalten(std::size_t welche);
@@ -195,6 +198,7 @@ private:
     w_ausw_debug debug_;
     worte wort_;
     ansicht_worte ansicht_wort_;
+    fuehrungsworte fuehrung_;
     std::string ordner_;                            ///< below the program folder
     std::vector<std::string> dateien_;              ///< in memory, with their folders
     std::map<std::string, std::size_t> abdruecke_;  ///< of the files as they were opened or saved last

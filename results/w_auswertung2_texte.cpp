@@ -32,6 +32,8 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     texte.tipp("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", Command_wieder);
     texte.text("Urkunden", Command_urkunden);
     texte.tipp("Eine Urkunde für jeden Fahrer eines Einzelrennens", Command_urkunden);
+    fuehrung_.eintragen(texte);
+    texte.text("„gleiche Fahrer addieren“ zeigt alle Plätze.", wort_.alle_plaetze);
     blatt.nachtragen(texte);
     return blatt.rueckstand.eintragen(texte);
 }

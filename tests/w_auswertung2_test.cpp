@@ -57,6 +57,8 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     w.Command2.klicken();  // to nothing
     EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
     EXPECT_EQ(namen(), "  A   B   C   A ") << "as they were driven";
+    EXPECT_TRUE(w.Label_fuehrung.text().starts_with("In Führung: A Anna, 10 Runden  ·  B Ben, 9 Runden.  „gleiche"))
+        << w.Label_fuehrung.text() << ": all that each has driven";
     waehlen("kaputt.csv");
     w.Command4.klicken();
     EXPECT_EQ(letzte_meldung(), "Dateifehler, Ergebnisse können nicht angezeigt werden!");
@@ -105,6 +107,7 @@ TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
         EXPECT_EQ(t.maschine.fragen_gestellt.back(),
                   (test::test_plattform::meldung{"Klasse in den Vergleich einbeziehen?", "Vergleichsmethode wählen"}));
         EXPECT_EQ(namen(), mit_klasse ? "1.A 2.C 1.A 2.B " : "1.A 2.C 1.B ");
+        EXPECT_FALSE(w.Label_fuehrung.sichtbar()) << "the places say it";
         EXPECT_EQ(w.Label_datei.text().find("ohne Klassen") == std::string::npos, mit_klasse);
     }
     EXPECT_NE(w.auswertung_schoen.zeilen().front().find("1:00:22,000"), std::string::npos);

@@ -44,7 +44,7 @@ QPushButton[rolle="haupt"]:pressed { background: #a51823; }
 QPushButton[rolle="haupt"]:focus { border: 2px solid @schrift; }
 QPushButton[rolle="haupt"]:disabled { background: @blassakzent; border-color: @linie; color: @blassschrift; }
 QCheckBox, QRadioButton { spacing: 8px; padding: 2px 0; }
-QLabel[rolle="leise"] { color: @leise; }
+QLabel[rolle="leise"], QLineEdit[rolle="leise"] { color: @leise; }
 QLabel[rolle="warnung"] { color: @akzent; }
 QLabel[rolle="lampe"] { background: @linie; border: 1px solid @rand; border-radius: 4px; }
 QListView { outline: none; }

@@ -3,8 +3,13 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QHBoxLayout>
+#include <QLineEdit>
+#include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "ui/stil.h"
 
@@ -15,6 +20,36 @@ constexpr int klassenbreite = 66;
 constexpr int listenbreite = 480;
 constexpr int zeichen_je_zeile = 61;   // and the room beside it
 constexpr double listenanteil = 0.49;  // of the window's width
+
+/// A line that is filled with what belongs there: grey, and what is typed takes its place.
+class Erklaerung final : public QObject {
+public:
+    Erklaerung(QLineEdit* zeile, std::function<bool()> noch_da)
+        : QObject(zeile), zeile_(zeile), noch_da_(std::move(noch_da)) {
+        zeile->installEventFilter(this);
+        QObject::connect(zeile, &QLineEdit::textChanged, this, [this] { faerben(); });
+        faerben();
+    }
+
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override {
+        if (ereignis->type() == QEvent::FocusIn && noch_da_()) {
+            QTimer::singleShot(0, zeile_, &QLineEdit::selectAll);  // a click sets its cursor first
+        }
+        return QObject::eventFilter(ziel, ereignis);
+    }
+
+private:
+    void faerben() {
+        const QString rolle = noch_da_() ? "leise" : "";
+        if (zeile_->property("rolle").toString() != rolle) {
+            zeile_->setProperty("rolle", rolle);
+            zeile_->style()->polish(zeile_);
+        }
+    }
+
+    QLineEdit* zeile_;
+    std::function<bool()> noch_da_;
+};
 
 }  // namespace
 
@@ -106,7 +141,9 @@ QWidget* TagesrennenFenster::klassengruppe() {
     auto* aufbau = new QVBoxLayout(gruppe);
     aufbau->setSpacing(2);
     for (std::size_t i = 0; i < logik_.klassen_text.size(); ++i) {
-        aufbau->addWidget(binder().zeile(logik_.klassen_text.at(i), "klassen_text_" + QString::number(i)));
+        QLineEdit* zeile = binder().zeile(logik_.klassen_text.at(i), "klassen_text_" + QString::number(i));
+        aufbau->addWidget(zeile);
+        new Erklaerung(zeile, [this, i] { return logik_.vorbelegt(i); });
     }
     return gruppe;
 }
@@ -122,6 +159,10 @@ QWidget* TagesrennenFenster::listengruppe() {
     zeilen_->setAlternatingRowColors(true);
     aufbau->addWidget(kopf_);
     aufbau->addWidget(zeilen_, 1);
+    QLabel* fuehrung = binder().label(logik_.Label_fuehrung, "Label_fuehrung");
+    fuehrung->setStyleSheet("font-weight: bold;");
+    fuehrung->setWordWrap(true);
+    aufbau->addWidget(fuehrung);
     return gruppe;
 }
 

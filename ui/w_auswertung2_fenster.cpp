@@ -138,6 +138,10 @@ QWidget* WAuswertung2Fenster::tabelle() {
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(3);
+    QLabel* fuehrung = binder().label(logik_.Label_fuehrung, "Label_fuehrung");
+    fuehrung->setStyleSheet("font-weight: bold;");
+    fuehrung->setWordWrap(true);
+    aufbau->addWidget(fuehrung);
     kopf_ = new Tabellenkopf(einzug_px + zellrand_px, this);
     binder().verbinden(logik_.Label_kopf, kopf_, "Label_kopf", [this] {
         kopf_->setText(QString::fromStdString(logik_.Label_kopf.text()));

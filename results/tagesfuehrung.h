@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/sprache.h"
+#include "results/ergebnistabelle.h"
+
+namespace tarvel {
+
+/// Who leads a day race when all that each driver has driven is added up.
+struct tagesfuehrender {
+    std::string klasse;  ///< empty without classes
+    std::string name;
+    std::int64_t runden = 0;
+};
+
+/// One for each class, in their order; nobody who has not driven a lap. Empty for a table of another kind.
+std::vector<tagesfuehrender> tagesfuehrung(ergebnistabelle tabelle, sortier_modus nach);
+
+/// How it is said in a line: "In Führung: Anna, 24 Runden", with its class in front of the name.
+struct fuehrungsworte {
+    std::string in_fuehrung, runde, runden;
+
+    void eintragen(sprachliste& texte);
+    /// Empty without anybody; of many classes the first ones.
+    std::string zeile(const std::vector<tagesfuehrender>& wer) const;
+};
+
+}  // namespace tarvel
