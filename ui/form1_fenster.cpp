@@ -278,16 +278,16 @@ QPushButton* Form1Fenster::letzte_ergebnisse() {
 
 /// The menu is made anew each time: there may be other languages by then.
 QPushButton* Form1Fenster::menueknopf(befehl& element, const QString& name,
-                                      form1::auswahlmenue (form1::*zeilen)() const,
-                                      void (form1::*waehlen)(std::size_t)) {
+                                      const std::function<form1::auswahlmenue()>& zeilen,
+                                      const std::function<void(std::size_t)>& waehlen) {
     QPushButton* knopf = binder().knopf(element, name, "schmal");
     auto* menue = new QMenu(knopf);
     QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue, zeilen, waehlen] {
         menue->clear();
-        const form1::auswahlmenue inhalt = (logik_.*zeilen)();
+        const form1::auswahlmenue inhalt = zeilen();
         for (std::size_t i = 0; i < inhalt.zeilen.size(); ++i) {
-            QAction* eine = menue->addAction(QString::fromStdString(inhalt.zeilen[i]), this,
-                                             [this, waehlen, i] { (logik_.*waehlen)(i); });
+            QAction* eine =
+                menue->addAction(QString::fromStdString(inhalt.zeilen[i]), this, [waehlen, i] { waehlen(i); });
             eine->setCheckable(true);
             eine->setChecked(i == inhalt.gewaehlt);
         }
@@ -352,9 +352,12 @@ QWidget* Form1Fenster::statuszeile() {
     aufbau->addWidget(datei, 1);
     aufbau->addWidget(binder().kasten(logik_.felder_merken, "felder_merken"), 0, Qt::AlignVCenter);
     aufbau->addSpacing(8);
-    aufbau->addWidget(
-        menueknopf(logik_.command_aussehen, "command_aussehen", &form1::aussehensarten, &form1::aussehen_waehlen));
-    aufbau->addWidget(menueknopf(logik_.command_sprache, "command_sprache", &form1::sprachen, &form1::sprache_waehlen));
+    aufbau->addWidget(menueknopf(
+        logik_.command_aussehen, "command_aussehen", [this] { return logik_.aussehensarten(); },
+        [this](std::size_t i) { logik_.aussehen_waehlen(i); }));
+    aufbau->addWidget(menueknopf(
+        logik_.command_sprache, "command_sprache", [this] { return logik_.sprachen(); },
+        [this](std::size_t i) { logik_.sprache_waehlen(i); }));
     return zeile;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QGridLayout>
+#include <functional>
 
 #include "core/form1.h"
 #include "ui/fenster.h"
@@ -21,8 +22,8 @@ private:
     QPushButton* letzte_ergebnisse();
     QWidget* rennbefehle();
     QWidget* werkzeugbefehle();
-    QPushButton* menueknopf(befehl& element, const QString& name, form1::auswahlmenue (form1::*zeilen)() const,
-                            void (form1::*waehlen)(std::size_t));
+    QPushButton* menueknopf(befehl& element, const QString& name, const std::function<form1::auswahlmenue()>& zeilen,
+                            const std::function<void(std::size_t)>& waehlen);
     QPushButton* hoher_knopf(befehl& element, const QString& name);
     QWidget* statuszeile();
     /// What gives its room to the list of drivers while that is open.
