@@ -51,8 +51,8 @@ private:
     rennen& r_;
     const renn_umgebung& um_;
     bool geraet_nochmals_ = false;  ///< its start key may be pressed once more
-    bool geraet_taub_ = false;  ///< the device has not answered the start key with its light
-    bool k_reihe2_ = false;     ///< the second row lights red with the first
+    bool geraet_taub_ = false;      ///< the device has not answered the start key with its light
+    bool k_reihe2_ = false;         ///< the second row lights red with the first
     std::array<std::unique_ptr<plattform::zeitgeber>, schritte> rot_;  ///< Timer1, Timer4, Timer5
     std::unique_ptr<plattform::zeitgeber> Timer2_;                     ///< green
     std::unique_ptr<plattform::zeitgeber> cu_ampel_auswertetimer_;     ///< follows the light of a device in its place
