@@ -16,6 +16,8 @@ namespace {
 
 using sorte = rennspieler::marke::sorte;
 
+constexpr zeit_ms nachspann_ms = 5000;  // behind the last decision the result window may stay open for an hour
+
 const std::map<std::string_view, sorte> markenworte{
     {vermerk::gruen, sorte::sonst},      {vermerk::fruehstart, sorte::sonst}, {vermerk::runde, sorte::runde},
     {vermerk::abgelehnt, sorte::sonst},  {vermerk::pause, sorte::pause},      {vermerk::weiter, sorte::pause},
@@ -54,6 +56,12 @@ void rennspieler::abtasten() {
     zeit_ms zeit = 0;
     int taten = 0;
     std::optional<zeit_ms> weg_seit;
+    std::optional<zeit_ms> entschieden;  // when the race last decided anything
+    bool im_rennen = true;
+    const auto bis_hierher = [&] {
+        ende_ = std::max(ende_, zeit);
+        taten_ = taten;
+    };
     while (const auto gelesen = leser.zeile()) {
         protokollsatz satz = zerlegen(*gelesen);
         if (satz.tiefe == 0 && !satz.ist_kopfzeile()) {
@@ -66,14 +74,18 @@ void rennspieler::abtasten() {
             if (satz.wort == "oeffnen") {
                 anfang_ = zeit;
             }
-            if (satz.wort != "zumachen") {
-                ende_ = std::max(ende_, zeit);
-                taten_ = taten;
+            im_rennen = satz.wort != "zumachen" && satz.wort != "korrektur";
+            if (im_rennen && (!entschieden || zeit <= *entschieden + nachspann_ms)) {
+                bis_hierher();
             }
         } else if (satz.ist_kopfzeile() && naechstes_wort(satz.rest) == "Uhr") {
             weg_seit = zeit;
         } else if (satz.tiefe > 0 && satz.ist_entscheidung()) {
             merken(zeit, satz.rest);
+            if (im_rennen) {
+                entschieden = zeit;
+                bis_hierher();
+            }
         }
     }
     std::stable_sort(marken_.begin(), marken_.end(), [](const marke& a, const marke& b) { return a.bei < b.bei; });

@@ -43,7 +43,7 @@ public:
     gueltigkeit wie() const { return wie_; }
     /// The race has taken another way than it is written, and stands still there.
     bool abgewichen() const { return abgewichen_; }
-    /// The race window opened then, and nothing happened after that.
+    /// The race window opened then, and nothing was decided after that.
     zeit_ms anfang() const { return anfang_; }
     zeit_ms ende() const { return ende_; }
     zeit_ms stelle() const { return stelle_; }
