@@ -3,7 +3,10 @@
 namespace tarvel {
 
 ausfall::ausfall(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
-    ausfall_ = um_.protokoll.eingang("ausfall", 1, [this](const mitschrift::werte& w) { eintreten(w[0]); });
+    ausfall_ = um_.protokoll.eingang("ausfall", 1, [this](const mitschrift::werte& w) {
+        eintreten(w[0]);
+        um_.quellen.kann();  // told here, and not where only a window asks that stays shut while the log is read
+    });
 }
 
 void ausfall::eintreten(zeit_ms stempel) {

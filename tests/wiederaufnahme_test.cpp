@@ -194,6 +194,28 @@ TEST_F(Wiederaufnahme, EinErgebnisDasNochOffenWarKommtMitSeinenKorrekturenWieder
     EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
 }
 
+TEST_F(Wiederaufnahme, AuchNachEinemAusfallImRennenKommtSeinErgebnisWieder) {
+    t_.starten("Runden", "9", {1, 2});
+    t_.runde_nach(5000, "12");
+    t_.runde_nach(6000, "12");
+    neustart danach(t_, protokoll_von(t_), 700000);
+    danach.p.starten();
+    danach.weiter();
+    danach.maschine.laufen(6000);
+    danach.p.rennen.befehle.taste('1');
+    danach.maschine.laufen(10);
+    danach.p.rennen.endfrage.bestaetigen();
+    danach.maschine.laufen(20000);
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::auswertung));
+    std::string datei = danach.p.rennprotokoll.dateiname();
+    std::replace(datei.begin(), datei.end(), '\\', '/');
+    neustart noch_einmal(t_, danach.maschine.datei_lesen(datei), 30000);
+    noch_einmal.p.starten();
+    ASSERT_TRUE(noch_einmal.p.fenster.ist_offen(fenstername::auswertung))
+        << testing::PrintToString(noch_einmal.maschine.meldungen_gezeigt);
+    EXPECT_EQ(noch_einmal.lauf().zustand.konto.runden(1), 2);
+}
+
 TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavorFuhr) {
     t_.p.einst.aut_speichern = true;
     t_.p.form1.lspur[1].eingeben("31");
