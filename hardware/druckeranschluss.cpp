@@ -3,17 +3,28 @@
 namespace tarvel {
 
 druckeranschluss::druckeranschluss(const umgebung& um)
-    : um_(um), kontakte_({um.einst, um.ereignisse, um.rennen}, {.tankt_nur_auf_kontakt = true}), register_{um.port} {}
+    : um_(um), kontakte_({um.einst, um.ereignisse, um.rennen}, {.tankt_nur_auf_kontakt = true}) {
+    neuer_port();
+}
+
+void druckeranschluss::neuer_port() {
+    const std::uint8_t zustand = port_ != nullptr ? port_->lpt_pin_zustand.load() : 0;
+    port_ = std::make_shared<offener_port>(lpt::registersatz{um_.port, um_.einst.lpt.anschluss.lpt_adresse});
+    port_->lpt_pin_zustand = zustand;
+}
 
 bool druckeranschluss::oeffnen() {
     schliessen();
-    register_.lpt_basis = um_.einst.lpt.anschluss.lpt_adresse;
+    neuer_port();
     zuordnen();
     grundstellung(false);
-    const std::optional<std::uint8_t> stand = register_.lesen(lpt::status);
-    da_ = stand.has_value();
+    const std::optional<std::uint8_t> stand = port_->registersatz.lesen(lpt::status);
+    port_->da = stand.has_value();
+    port_->abgetastet = true;
     kontakte_.beginnen(lpt::aktive_linien(stand.value_or(lpt::in_ruhe)));
-    abtastung_ = um_.abtaster.starten(1ms, [this](zeit_ms jetzt) { lpt_abtasten(jetzt); });
+    abtastung_ = um_.abtaster.starten(1ms, [port = port_, proben = kontakte_.neuer_abtaster()](zeit_ms jetzt) {
+        port->lpt_abtasten(jetzt, *proben);
+    });
     return true;
 }
 
@@ -21,9 +32,28 @@ void druckeranschluss::schliessen() {
     if (abtastung_ == nullptr) {
         return;
     }
+    neuer_port();
     abtastung_.reset();
-    register_.schreiben(lpt_pin_zustand_);  // the last switching
     kontakte_.verstummt();
+}
+
+druckeranschluss::offener_port::~offener_port() {
+    if (abgetastet) {
+        registersatz.schreiben(lpt_pin_zustand);
+    }
+}
+
+void druckeranschluss::offener_port::lpt_abtasten(zeit_ms jetzt, kontaktproben& proben) {
+    registersatz.schreiben(lpt_pin_zustand);  // anything on the machine may have written there
+    const std::optional<std::uint8_t> stand = registersatz.lesen(lpt::status);
+    da = stand.has_value();
+    if (stand) {
+        proben.gesehen(jetzt, lpt::aktive_linien(*stand));
+    }
+}
+
+void druckeranschluss::lpt_schalten(ereignis_art nummer, bool an) {
+    port_->lpt_pin_zustand = mit(port_->lpt_pin_zustand, nummer, an);
 }
 
 void druckeranschluss::zuordnen() {
@@ -32,15 +62,6 @@ void druckeranschluss::zuordnen() {
         lpt_eingang_art.at(i) = um_.einst.lpt.lpt_eingang.at(i + 1);
     }
     kontakte_.zuordnen(lpt_eingang_art);
-}
-
-void druckeranschluss::lpt_abtasten(zeit_ms jetzt) {
-    register_.schreiben(lpt_pin_zustand_);  // anything on the machine may have written there
-    const std::optional<std::uint8_t> stand = register_.lesen(lpt::status);
-    da_ = stand.has_value();
-    if (stand) {
-        kontakte_.gesehen(jetzt, lpt::aktive_linien(*stand));
-    }
 }
 
 std::uint8_t druckeranschluss::mit(std::uint8_t zustand, ereignis_art nummer, bool an) const {
@@ -68,7 +89,7 @@ void druckeranschluss::grundstellung(bool tankausgang) {
             neu = mit(neu, art::bahnstrom[spur], true);
         }
     }
-    lpt_pin_zustand_ = neu;  // at once: what stays on must not blink
+    port_->lpt_pin_zustand = neu;  // at once: what stays on must not blink
 }
 
 void druckeranschluss::lpt_bereit() {

@@ -39,7 +39,7 @@ public:
     /// The supply of a tank is off until a race window opens.
     bool oeffnen() override;
     void schliessen() override;
-    bool verbunden() const override { return abtastung_ != nullptr && da_; }
+    bool verbunden() const override { return abtastung_ != nullptr && port_->da; }
 
     void abfragen() override { lpt_auswerten(); }
     void rennfenster_offen() override { lpt_bereit(); }
@@ -53,24 +53,37 @@ public:
     void lpt_an(ereignis_art nummer) { lpt_schalten(nummer, true); }
     void lpt_aus(ereignis_art nummer) { lpt_schalten(nummer, false); }
     /// What the data register has to show.
-    std::uint8_t lpt_pin_zustand() const { return lpt_pin_zustand_; }
+    std::uint8_t lpt_pin_zustand() const { return port_->lpt_pin_zustand; }
 
 private:
-    void lpt_schalten(ereignis_art nummer, bool an) { lpt_pin_zustand_ = mit(lpt_pin_zustand_, nummer, an); }
+    /// The port while it is sampled: who lets go of it last switches for the last time.
+    struct offener_port {
+        explicit offener_port(lpt::registersatz r) : registersatz(r) {}
+        offener_port(const offener_port&) = delete;
+        offener_port& operator=(const offener_port&) = delete;
+        ~offener_port();
+
+        /// By the sampling thread: the outputs as they have to be, and a look at the inputs.
+        void lpt_abtasten(zeit_ms jetzt, kontaktproben& proben);
+
+        lpt::registersatz registersatz;
+        std::atomic<std::uint8_t> lpt_pin_zustand = 0;
+        std::atomic<bool> da = false;  ///< there is a port
+        bool abgetastet = false;
+    };
+
+    void lpt_schalten(ereignis_art nummer, bool an);
     std::uint8_t mit(std::uint8_t zustand, ereignis_art nummer, bool an) const;
     /// Every output at rest, but those that are active there; with the supply of a tank or without.
     void grundstellung(bool tankausgang);
     void lpt_bereit();
-    /// By the sampling thread: the outputs as they have to be, and a look at the inputs.
-    void lpt_abtasten(zeit_ms jetzt);
+    void neuer_port();
     void lpt_auswerten() { kontakte_.auswerten(); }
     void zuordnen();
 
     umgebung um_;
     kontaktleser kontakte_;
-    lpt::registersatz register_;
-    std::atomic<std::uint8_t> lpt_pin_zustand_ = 0;
-    std::atomic<bool> da_ = false;  ///< there is a port
+    std::shared_ptr<offener_port> port_;
     std::unique_ptr<schnittstelle> abtastung_;
 };
 

@@ -8,8 +8,7 @@
 #include "core/texte.h"
 #include "hardware/ausgaben.h"
 #include "hardware/geraetebedienung.h"
-#include "hardware/iow_platine.h"
-#include "hardware/iow_schreiber.h"
+#include "hardware/iow_leitung.h"
 #include "hardware/kontaktleser.h"
 #include "hardware/messgeraet.h"
 #include "platform/abtaster.h"
@@ -43,6 +42,9 @@ public:
     iow_40& operator=(const iow_40&) = delete;
     ~iow_40() override { schliessen(); }
 
+    /// Its vendor's library; the window of its pins is to use the same.
+    const std::shared_ptr<iow_bibliothek>& bibliothek() const { return bibliothek_; }
+
     hardware_art welches() const override { return hardware_art::iow_40; }
     /// Reads the profile of the settings and opens the first board. Without a board the operator's side knows.
     bool oeffnen() override;
@@ -50,7 +52,7 @@ public:
     void nebenher_oeffnen();
     void schliessen() override;
     void wieder_aufnehmen() override;
-    bool verbunden() const override { return platine_.offen() && !haengt_; }
+    bool verbunden() const override { return leitung_.offen() && !leitung_.haengt(); }
 
     void abfragen() override { iow_auswerten(); }
     void rennfenster_offen() override { iow_pegel_merken(); }
@@ -61,27 +63,17 @@ private:
     void iow_belegung_laden();
     void iow_auswerten();
     void iow_pegel_merken() { kontakte_.ruhe_merken(); }
-    /// By the sampling thread.
-    void blick(zeit_ms jetzt);
-    bool platine_oeffnen();
     bool anfangen();
     void anhalten();
     void ausgaben_uebernehmen();
     void lebenstakt_tick();
     void platine_verloren();
-    /// The board takes no more reports, or does again.
-    void haengen(bool nun);
 
     umgebung um_;
-    iow_platine platine_;
-    iow_schreiber schreiber_;
+    std::shared_ptr<iow_bibliothek> bibliothek_;
+    iow_leitung leitung_;
     kontaktleser kontakte_;
     std::unique_ptr<plattform::zeitgeber> lebenstakt_;  ///< a board that takes no report any more is gone
-    int takte_ = 0;                                     ///< of it since the last report of its own
-    std::size_t erledigt_davor_ = 0;                    ///< reports, by then
-    bool haengt_ = false;                               ///< a report has been under way for longer than that
-    std::unique_ptr<schnittstelle> abtastung_;          ///< none while the board is closed
-    std::uint32_t linien_ = 0;                          ///< of the last report; the sampling thread's own
     bool gewuenscht_ = false;                           ///< open, or to be opened as soon as it is there
     bool nebenher_ = false;                             ///< the same, but another device measures
 };

@@ -3,76 +3,50 @@
 #include <algorithm>
 
 #include "hardware/iow_pins.h"
-#include "hardware/rufbinder.h"
 
 namespace tarvel {
 namespace {
 
-constexpr const char* bibliotheksname = "iowkit";
 constexpr std::uint32_t pipe = 0;  // of the port pins
 constexpr std::size_t bericht_max = 8;
 
 }  // namespace
 
-bool iow_platine::bibliothek_laden() {
-    if (bibliothek_ != nullptr) {
-        return true;
-    }
-    auto neue = dienst_.laden(bibliotheksname);
-    if (neue == nullptr) {
-        es_fehlt_ = bibliotheksname;
-        return false;
-    }
-    rufbinder finden(*neue);
-    finden(ruf_.IowKitOpenDevice, "IowKitOpenDevice");
-    finden(ruf_.IowKitCloseDevice, "IowKitCloseDevice");
-    finden(ruf_.IowKitGetNumDevs, "IowKitGetNumDevs");
-    finden(ruf_.IowKitGetDeviceHandle, "IowKitGetDeviceHandle");
-    finden(ruf_.IowKitGetProductId, "IowKitGetProductId");
-    finden(ruf_.IowKitGetSerialNumber, "IowKitGetSerialNumber");
-    finden(ruf_.IowKitReadNonBlocking, "IowKitReadNonBlocking");
-    finden(ruf_.IowKitWrite, "IowKitWrite");
-    es_fehlt_ = finden.fehlt();
-    if (!es_fehlt_.empty()) {
-        return false;
-    }
-    bibliothek_ = std::move(neue);
-    return true;
-}
-
 bool iow_platine::iow_oeffnen() {
     schliessen();
-    if (!bibliothek_laden()) {
+    if (!bibliothek_->laden() || bibliothek_->belegt()) {
         return false;
     }
-    const handle erstes = ruf_.IowKitOpenDevice();
+    const handle erstes = ruf().IowKitOpenDevice();
     if (erstes == nullptr) {
-        ruf_.IowKitCloseDevice(erstes);
+        ruf().IowKitCloseDevice(erstes);
         return false;
     }
-    const std::size_t anzahl = std::min<std::size_t>(ruf_.IowKitGetNumDevs(), geraete_max);
+    const std::size_t anzahl = std::min<std::size_t>(ruf().IowKitGetNumDevs(), geraete_max);
     for (std::size_t i = 0; i < anzahl; ++i) {
-        iow_handle_.at(i) = ruf_.IowKitGetDeviceHandle(static_cast<std::uint32_t>(i + 1));
+        iow_handle_.at(i) = ruf().IowKitGetDeviceHandle(static_cast<std::uint32_t>(i + 1));
     }
     if (iow_handle_.front() == nullptr) {
         iow_handle_.front() = erstes;
     }
     std::array<char, 64> seriennummer{};  // some boards answer nothing else before they were asked for it
-    ruf_.IowKitGetSerialNumber(iow_handle(), seriennummer.data());
+    ruf().IowKitGetSerialNumber(iow_handle(), seriennummer.data());
     iow_typ_lesen();
+    bibliothek_->belegen(true);
     return true;
 }
 
 void iow_platine::iow_typ_lesen() {
     constexpr std::uint32_t iow_24 = 5377;
     constexpr std::uint32_t iow_56 = 5379;
-    const std::uint32_t produkt = ruf_.IowKitGetProductId(iow_handle());
+    const std::uint32_t produkt = ruf().IowKitGetProductId(iow_handle());
     iow_berichtgroesse_ = produkt == iow_24 ? 3 : produkt == iow_56 ? bericht_max : 5;
 }
 
 void iow_platine::schliessen() {
     if (offen()) {
-        ruf_.IowKitCloseDevice(iow_handle());
+        ruf().IowKitCloseDevice(iow_handle());
+        bibliothek_->belegen(false);
     }
     iow_handle_ = {};
     iow_berichtgroesse_ = 0;
@@ -81,7 +55,7 @@ void iow_platine::schliessen() {
 bool iow_platine::lesen(std::uint32_t& linien) const {
     std::array<std::uint8_t, bericht_max> iow_eingang{};
     const auto groesse = static_cast<std::uint32_t>(iow_berichtgroesse_);
-    if (!offen() || ruf_.IowKitReadNonBlocking(iow_handle(), pipe, iow_eingang.data(), groesse) != groesse) {
+    if (!offen() || ruf().IowKitReadNonBlocking(iow_handle(), pipe, iow_eingang.data(), groesse) != groesse) {
         return false;
     }
     const std::size_t letzter = std::min<std::size_t>(iow_berichtgroesse_ - 1, iow_ports);
@@ -99,8 +73,8 @@ bool iow_platine::schreiben(std::span<const std::uint8_t> iow_ausgang) const {
     bytes.fill(255);
     std::copy_n(iow_ausgang.begin(), std::min(iow_ausgang.size(), bytes.size()), bytes.begin());
     bytes.front() = 0;
-    return offen() && ruf_.IowKitWrite(iow_handle(), pipe, bytes.data(),
-                                       static_cast<std::uint32_t>(iow_berichtgroesse_)) == iow_berichtgroesse_;
+    return offen() && ruf().IowKitWrite(iow_handle(), pipe, bytes.data(),
+                                        static_cast<std::uint32_t>(iow_berichtgroesse_)) == iow_berichtgroesse_;
 }
 
 }  // namespace tarvel

@@ -26,22 +26,24 @@ bool zaehlt_runden(ereignis_art nummer, rundenzaehlung_auf modus) {
 
 }  // namespace
 
-void kontaktleser::gesehen(zeit_ms stempel, std::uint32_t linien) {
-    linien_ = linien;  // before the change itself: who forgets what waits knows this
-    if (linien != gegeben_ && proben_.geben({stempel, linien})) {
-        gegeben_ = linien;
-    }
-}
-
 void kontaktleser::beginnen(std::uint32_t linien) {
-    linien_ = gegeben_ = linien;
+    proben_ = std::make_shared<kontaktproben>(linien);
     ruhe_merken();
 }
 
+std::shared_ptr<kontaktproben> kontaktleser::neuer_abtaster() {
+    const std::shared_ptr<kontaktproben> alte =
+        std::exchange(proben_, std::make_shared<kontaktproben>(wartet_ ? wartet_->linien : stand_));
+    while (const auto p = alte->nehmen()) {
+        proben_->gesehen(p->stempel, p->linien);
+    }
+    return proben_;
+}
+
 void kontaktleser::ruhe_merken() {
-    proben_.leeren();
+    proben_->leeren();
     wartet_.reset();
-    stand_ = linien_;
+    stand_ = proben_->linien();
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         if (art::ist_eingang(arten_.at(linie))) {
             um_.ereignisse.ruhe_lernen(arten_.at(linie), (stand_ >> linie & 1U) != 0);
@@ -57,7 +59,7 @@ bool kontaktleser::von_ruhe_weg(std::size_t linie, std::uint32_t linien) const {
     return art::ist_eingang(nummer) && ((linien >> linie & 1U) != 0) != um_.ereignisse[nummer].pegel_ruhe;
 }
 
-bool kontaktleser::zu_frueh(const probe& p) const {
+bool kontaktleser::zu_frueh(const kontaktprobe& p) const {
     if (!um_.rennen.rennen_laeuft()) {
         return false;
     }
@@ -73,7 +75,7 @@ bool kontaktleser::zu_frueh(const probe& p) const {
 
 void kontaktleser::auswerten() {
     bool neues = false;
-    while (wartet_ || (wartet_ = proben_.nehmen())) {
+    while (wartet_ || (wartet_ = proben_->nehmen())) {
         if (!gewartet_ && zu_frueh(*wartet_)) {
             gewartet_ = true;
             break;
@@ -88,7 +90,7 @@ void kontaktleser::auswerten() {
     tankkontakte_freigeben();
 }
 
-void kontaktleser::uebernehmen(const probe& p) {
+void kontaktleser::uebernehmen(const kontaktprobe& p) {
     const std::uint32_t vorher = std::exchange(stand_, p.linien);
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         const bool weg = von_ruhe_weg(linie, p.linien);

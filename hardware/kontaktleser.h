@@ -1,15 +1,15 @@
 #pragma once
 
 #include <array>
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "core/einstellungen.h"
 #include "hardware/ereignisse.h"
+#include "hardware/kontaktproben.h"
 #include "hardware/rennverbindung.h"
-#include "hardware/uebergabe.h"
 
 namespace tarvel {
 
@@ -35,13 +35,12 @@ public:
 
     kontaktleser(const umgebung& um, eigenheit art) : um_(um), eigenheit_(art) {}
 
-    /// By the thread that samples: the lines that are active now, a bit each.
-    void gesehen(zeit_ms stempel, std::uint32_t linien);
-
     /// Outputs among them are passed over.
     void zuordnen(const linienzuordnung& arten) { arten_ = arten; }
     /// Before the device is sampled for the first time.
     void beginnen(std::uint32_t linien);
+    /// For the thread that samples from now on, after one that may still be at it and whose looks count no more.
+    std::shared_ptr<kontaktproben> neuer_abtaster();
     /// What the lines are now is their rest; what has waited is forgotten.
     void ruhe_merken();
     /// Delivers what has come since the last time.
@@ -50,15 +49,10 @@ public:
     void verstummt();
 
 private:
-    struct probe {
-        zeit_ms stempel = 0;
-        std::uint32_t linien = 0;
-    };
-
     bool von_ruhe_weg(std::size_t linie, std::uint32_t linien) const;
     /// A lap of this sample would take the place of one that the race has still to count.
-    bool zu_frueh(const probe& p) const;
-    void uebernehmen(const probe& p);
+    bool zu_frueh(const kontaktprobe& p) const;
+    void uebernehmen(const kontaktprobe& p);
     void weggegangen(ereignis_art nummer, zeit_ms stempel);
     void zurueckgekommen(ereignis_art nummer);
     void chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel);
@@ -70,11 +64,9 @@ private:
     umgebung um_;
     eigenheit eigenheit_;
     linienzuordnung arten_{};
-    uebergabe<probe, 1024> proben_;
-    std::atomic<std::uint32_t> linien_ = 0;  ///< as they are
-    std::uint32_t gegeben_ = 0;              ///< as they were handed over last; the sampling thread's own
-    std::uint32_t stand_ = 0;                ///< as the race knows them
-    std::optional<probe> wartet_;
+    std::shared_ptr<kontaktproben> proben_ = std::make_shared<kontaktproben>(0);
+    std::uint32_t stand_ = 0;  ///< the lines as the race knows them
+    std::optional<kontaktprobe> wartet_;
     bool gewartet_ = false;
     bool chaos_von_hier_ = false;  ///< the chaos that waits, or runs, is of a button here
     spuren<bool> tank_frei_{};     ///< has left its tank contact, and the race does not know yet

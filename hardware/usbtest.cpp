@@ -1,6 +1,7 @@
 #include "hardware/usbtest.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/ordnerblick.h"
 #include "core/text.h"
@@ -28,8 +29,8 @@ usbtest::usbtest(const umgebung& um)
     : geraetefenster(um.fenster, um.ablage, fenstername::usbtest),
       um_(um),
       Timer1_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 5ms)),
-      lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 1000ms)),
-      platine_(um.bibliotheken) {
+      lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, iow_leitung::nachsehen_alle)),
+      leitung_(um.bibliothek, um.abtaster) {
     Timer1_->bei_tick = [this] { takt_tick(); };
     lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
@@ -86,24 +87,36 @@ void usbtest::entladen() {
     Timer1_->aus();
     lebenstakt_->aus();
     ruecksetzen();
-    platine_.schliessen();
+    leitung_.schliessen();
     geraet_zurueckgeben();
 }
 
 void usbtest::verbinden(bool auch_ohne_melden) {
-    if (platine_.iow_oeffnen()) {
-        constexpr std::size_t iow_24 = 3;
-        constexpr std::size_t iow_56 = 8;
-        const std::size_t groesse = platine_.iow_berichtgroesse();
-        zustand_melden(wort_.verbunden + " IO-Warrior " + (groesse == iow_24 ? "24" : groesse == iow_56 ? "56" : "40"));
+    auto neue = std::make_shared<kontaktproben>(0);
+    if (leitung_.oeffnen(neue)) {
+        proben_ = std::move(neue);
+        linien_ = 0;
+        verbunden_melden();
         ruecksetzen();
         Timer1_->an();
     } else if (auch_ohne_melden) {
-        const std::string& fehlt = platine_.es_fehlt();
-        zustand_melden(fehlt.empty()       ? wort_.keine_box
-                       : fehlt == "iowkit" ? wort_.ohne_bibliothek
-                                           : wort_.ohne_ruf + " " + fehlt);
+        zustand_melden(hindernis());
     }
+}
+
+void usbtest::verbunden_melden() {
+    constexpr std::size_t iow_24 = 3;
+    constexpr std::size_t iow_56 = 8;
+    const std::size_t groesse = leitung_.iow_berichtgroesse();
+    zustand_melden(wort_.verbunden + " IO-Warrior " + (groesse == iow_24 ? "24" : groesse == iow_56 ? "56" : "40"));
+}
+
+std::string usbtest::hindernis() const {
+    const std::string& fehlt = leitung_.bibliothek().es_fehlt();
+    if (!fehlt.empty()) {
+        return fehlt == "iowkit" ? wort_.ohne_bibliothek : wort_.ohne_ruf + " " + fehlt;
+    }
+    return leitung_.bibliothek().belegt() ? wort_.haengt : wort_.keine_box;
 }
 
 void usbtest::zustand_melden(const std::string& text) {
@@ -119,12 +132,8 @@ void usbtest::notieren(std::string_view text) {
 }
 
 void usbtest::takt_tick() {
-    constexpr int berichte_max = 16;
-    for (int n = 0; n < berichte_max; ++n) {
-        const std::uint32_t vorher = linien_;
-        if (!platine_.lesen(linien_)) {
-            break;
-        }
+    while (const auto probe = proben_->nehmen()) {
+        const std::uint32_t vorher = std::exchange(linien_, probe->linien);
         kontakte_notieren(linien_ & ~vorher);
     }
     lampen_zeigen();
@@ -147,14 +156,28 @@ void usbtest::kontakte_notieren(std::uint32_t geschlossene) {
 }
 
 void usbtest::lebenstakt_tick() {
-    if (!platine_.offen()) {
-        verbinden(false);
-        return;
-    }
-    if (!ausgaenge_schreiben()) {
-        platine_.schliessen();
-        linien_ = 0;
-        zustand_melden(wort_.getrennt);
+    using befund = iow_leitung::befund;
+    switch (leitung_.nachsehen()) {
+        case befund::nichts:
+            return;
+        case befund::abgezogen:
+            leitung_.schliessen();
+            linien_ = 0;
+            zustand_melden(wort_.getrennt);
+            return;
+        case befund::haengt:
+            zustand_melden(wort_.haengt);
+            return;
+        case befund::nimmt_wieder:
+            verbunden_melden();
+            ausgaenge_schreiben();
+            return;
+        case befund::faellig:
+            if (leitung_.offen()) {
+                ausgaenge_schreiben();
+            } else {
+                verbinden(false);
+            }
     }
 }
 
@@ -191,7 +214,7 @@ void usbtest::zuordnung_geaendert() {
     ruecksetzen();  // what was an output may be an input now, which nothing may hold
 }
 
-bool usbtest::ausgaenge_schreiben() {
+void usbtest::ausgaenge_schreiben() {
     iow_bericht::bytes iow_ausgang = iow_bericht::in_ruhe;
     for (std::size_t platz = 0; platz < iow_bits; ++platz) {
         if (c.at(platz).gesetzt()) {
@@ -199,7 +222,7 @@ bool usbtest::ausgaenge_schreiben() {
         }
     }
     lampen_zeigen();
-    return platine_.schreiben(iow_ausgang);
+    leitung_.schreiben(iow_ausgang);
 }
 
 void usbtest::werte_lesen() {

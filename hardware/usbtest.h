@@ -14,8 +14,8 @@
 #include "core/texte.h"
 #include "hardware/geraetefenster.h"
 #include "hardware/iow_bericht.h"
+#include "hardware/iow_leitung.h"
 #include "hardware/iow_pins.h"
-#include "hardware/iow_platine.h"
 #include "hardware/iow_profil.h"
 #include "platform/meldungen.h"
 #include "platform/zeitgeber.h"
@@ -36,7 +36,8 @@ public:
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         plattform::zeitgeber_dienst& zeitgeber;
-        plattform::bibliothek_dienst& bibliotheken;
+        plattform::abtaster_dienst& abtaster;
+        std::shared_ptr<iow_bibliothek> bibliothek;
     };
 
     explicit usbtest(const umgebung& um);
@@ -84,6 +85,7 @@ private:
         std::string keine_box;
         std::string verbunden;
         std::string getrennt;
+        std::string haengt;
         std::string doppelt;
         std::string wert;
         std::string lampe;
@@ -98,6 +100,9 @@ private:
 
     static std::string pin_name(std::size_t platz);
     void verbinden(bool auch_ohne_melden);
+    void verbunden_melden();
+    /// Why there is no board.
+    std::string hindernis() const;
     void zustand_melden(const std::string& text);
     void notieren(std::string_view text);
     void takt_tick();
@@ -110,8 +115,8 @@ private:
     iow_profil profil() const;
     void profil_zeigen(const iow_profil& neu, std::size_t sichtbare_ports);
     void zuordnung_geaendert();
-    /// Holds the pins of the outputs that are ticked, and no others. False without a board.
-    bool ausgaenge_schreiben();
+    /// Holds the pins of the outputs that are ticked, and no others.
+    void ausgaenge_schreiben();
     void werte_lesen();
     void werte_setzen();
     void ruecksetzen();
@@ -129,10 +134,10 @@ private:
 
     umgebung um_;
     std::unique_ptr<plattform::zeitgeber> Timer1_;
-    std::unique_ptr<plattform::zeitgeber>
-        lebenstakt_;  ///< looks each second whether the board is still, or again, there
-    iow_platine platine_;
-    std::uint32_t linien_ = 0;  ///< closed contacts as last heard of
+    std::unique_ptr<plattform::zeitgeber> lebenstakt_;  ///< looks whether the board is still, or again, there
+    iow_leitung leitung_;
+    std::shared_ptr<kontaktproben> proben_ = std::make_shared<kontaktproben>(0);  ///< of the board that is open
+    std::uint32_t linien_ = 0;                                                    ///< closed contacts as last heard of
     worte wort_;
 };
 

@@ -28,7 +28,8 @@ sprachliste usbtest::sprache() {
     texte.text("Dieser Dateiname ist nicht zulässig.", wort_.name);
     texte.text("angehalten, weiter mit „lesen“", wort_.angehalten);
     texte.text("läuft weiter", wort_.weiter);
-    return texte.text("gespeichert", wort_.gespeichert).text("geladen", wort_.geladen);
+    texte.text("gespeichert", wort_.gespeichert).text("geladen", wort_.geladen);
+    return texte.text("Das Modul nimmt nichts mehr an, bitte aus- und wieder einstecken.", wort_.haengt);
 }
 
 void usbtest::ansagen_setzen() {

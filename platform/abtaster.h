@@ -15,7 +15,8 @@ class abtaster_dienst : public schnittstelle {
 public:
     /// Calls `blick` about every `abstand` with the reading of the clock, until what it returns is gone; that waits for
     /// a call under way. `blick` runs beside the program: it touches only what two threads may share. One that a device
-    /// keeps waiting holds up only itself.
+    /// keeps waiting holds up only itself; at the end it is waited for a moment, and then left behind. So `blick` owns
+    /// what it touches, and lets go of it beside the program, with its last call.
     [[nodiscard]] virtual std::unique_ptr<schnittstelle> starten(dauer_ms abstand,
                                                                  std::function<void(zeit_ms)> blick) = 0;
 };

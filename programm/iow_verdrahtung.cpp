@@ -13,8 +13,8 @@ iow_verdrahtung::iow_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
     : geraet_mit_fenster(um, alle),
       iow({um.einst, um.txt, um.ablage, um.ereignisse, um.ausgaben, um.dienste.zeitgeber, um.dienste.abtaster,
            um.dienste.bibliotheken, um.dienste.meldungen, alle.rennverbindung(), alle}),
-      usbtest({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
-               um.dienste.bibliotheken}) {
+      usbtest({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber, um.dienste.abtaster,
+               iow.bibliothek()}) {
     usbtest.zugang = this;
     um.einstellungsfenster.aktion_verbinden(
         "iow_einrichten", [&fenster = um.fenster] { fenster.zeigen(fenstername::usbtest, anzeige_art::modal); });

@@ -115,16 +115,50 @@ TEST_F(Iow40, OhnePlatineOderBibliothekBleibtDieTastatur) {
     t.maschine.bibliotheken.da["iowkit"].erase("IowKitWrite");
     iow_waehlen();
     EXPECT_TRUE(t.p.einst.hardware.hw_iow) << "the library is still loaded";
+}
+
+TEST_F(Iow40, DerFehlendeRufStehtImFenster) {
+    t.maschine.bibliotheken.da["iowkit"].erase("IowKitWrite");
+    iow_waehlen();
+    EXPECT_EQ(gemeldet(), t.p.txt.meldung[1]);
     t.p.fenster.zeigen(fenstername::usbtest);
-    EXPECT_NE(t.p.geraete.von<iow_verdrahtung>().usbtest.zustand.text().find("IowKitWrite"), std::string::npos);
+    const usbtest& w = t.p.geraete.von<iow_verdrahtung>().usbtest;
+    EXPECT_NE(w.zustand.text().find("IowKitWrite"), std::string::npos);
+    EXPECT_NE(w.protokoll.zeilen().back().find("IowKitWrite"), std::string::npos);
+}
+
+TEST_F(Iow40, EinePlatineDieHaengtHaeltIhrFensterNichtAuf) {
+    iow_waehlen();
+    usbtest& w = t.p.geraete.von<iow_verdrahtung>().usbtest;
+    t.p.fenster.zeigen(fenstername::usbtest);
+    t.maschine.laufen(1100);
+    t.maschine.faeden_stehen = true;
+    w.c[23].umschalten();
+    t.maschine.laufen(3100);
+    EXPECT_NE(w.zustand.text().find("nimmt nichts mehr an"), std::string::npos);
+    w.Command6.klicken();
+    EXPECT_EQ(brett.schliessungen, 1) << "the race's own; this one is left behind";
+    EXPECT_EQ(gemeldet(), t.p.txt.meldung[1]) << "for the race there is none now";
+    t.p.fenster.zeigen(fenstername::usbtest);
+    EXPECT_NE(w.zustand.text().find("nimmt nichts mehr an"), std::string::npos);
+    t.maschine.faeden_stehen = false;
+    t.maschine.laufen(1100);
+    EXPECT_EQ(brett.schliessungen, 2);
+    EXPECT_NE(w.zustand.text().find("IO-Warrior 40"), std::string::npos);
+    EXPECT_EQ(brett.ausgang[3], 0xFF);
 }
 
 TEST_F(Iow40, WasDieBibliothekAuchSagtIstKeinAbsturz) {
     iow_waehlen();
     t.starten("Runden", "50", {1, 2, 3, 4});
-    brett.gelesen = 4;
+    for (const std::uint32_t bytes : {0U, 1U, 2U, 3U, 4U, 6U, 8U, 0xFFFFFFFFU}) {
+        brett.gelesen = bytes;
+        puls(16, 1000);
+        EXPECT_EQ(t.runden(1), -1) << "a report that is cut is none";
+    }
+    brett.gelesen = 5;
     puls(16, 1000);
-    EXPECT_EQ(t.runden(1), -1) << "half a report is none";
+    EXPECT_EQ(t.runden(1), 0);
     std::mt19937 zufall(7);
     for (int n = 0; n < 20000; ++n) {
         brett.kontakte = static_cast<std::uint32_t>(zufall());
@@ -166,12 +200,12 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     EXPECT_NE(w.protokoll.zeilen().back().find("Rundenzählung 1"), std::string::npos);
     EXPECT_FALSE(w.c[15].sichtbar());
     w.c[7].umschalten();
-    EXPECT_EQ(brett.ausgang[1], 0x7F);
+    EXPECT_EQ(iow_ausgang(1), 0x7F);
     w.tp[0].eingeben("0");
     w.setzen.klicken();
-    EXPECT_EQ(brett.ausgang[1], 0x01) << "the button on pin 0 is not held by an output";
+    EXPECT_EQ(iow_ausgang(1), 0x01) << "the button on pin 0 is not held by an output";
     w.Command5.klicken();
-    EXPECT_EQ(brett.ausgang[1], 0xFF);
+    EXPECT_EQ(iow_ausgang(1), 0xFF);
     kontakt(bit(15), true, 50);
     EXPECT_FALSE(w.lampe[14].gesetzt()) << "the lamps stand still";
     w.lesen.klicken();
@@ -192,7 +226,7 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     EXPECT_EQ(w.combo_c[2].platz(), 3);
     w.combo_c[0].waehlen(24);
     w.c[0].umschalten();
-    EXPECT_EQ(brett.ausgang[1], 0xFE) << "that pin, although another one has the same meaning";
+    EXPECT_EQ(iow_ausgang(1), 0xFE) << "that pin, although another one has the same meaning";
     w.Command8.klicken();
     const auto& dateien = w.dateiliste.zeilen();
     w.dateiliste.auswaehlen(

@@ -35,12 +35,13 @@ TEST_F(Kontaktleser, EineSchleifeDieStehtKostetKeineRundeUndKeineZeit) {
     kontaktleser leser({t.p.einst, t.p.ereignisse, t.p.geraete.rennverbindung()}, {});
     leser.zuordnen(linien_von(iow_werkseinstellung()));
     leser.ruhe_merken();
+    const std::shared_ptr<kontaktproben> proben = leser.neuer_abtaster();
     const zeit_ms null = t.maschine.jetzt();
     const auto von_bis = [&](ereignis_art nummer, zeit_ms bei) {
-        leser.gesehen(null + bei, bit(nummer));
-        leser.gesehen(null + bei + 2, 0);
-        leser.gesehen(null + bei + 4, bit(nummer));  // it bounces
-        leser.gesehen(null + bei + 6, 0);
+        proben->gesehen(null + bei, bit(nummer));
+        proben->gesehen(null + bei + 2, 0);
+        proben->gesehen(null + bei + 4, bit(nummer));  // it bounces
+        proben->gesehen(null + bei + 6, 0);
     };
     von_bis(16, 100);
     von_bis(15, 101);
@@ -56,8 +57,8 @@ TEST_F(Kontaktleser, EineSchleifeDieStehtKostetKeineRundeUndKeineZeit) {
     EXPECT_EQ(rundenzeit(1, 1), 3000);
     EXPECT_EQ(rundenzeit(1, 2), 3101);
     EXPECT_EQ(rundenzeit(2, 1), 3232);
-    leser.gesehen(null + 6310, bit(1));
-    leser.gesehen(null + 6400, 0);
+    proben->gesehen(null + 6310, bit(1));
+    proben->gesehen(null + 6400, 0);
     leser.auswerten();
     t.maschine.laufen(1);
     EXPECT_TRUE(pause()) << "a button that was pressed and released meanwhile";

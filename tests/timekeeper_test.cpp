@@ -272,6 +272,19 @@ TEST_F(Timekeeper, AmEndeStehtDieBahnInRuheUndWerNichtsNimmtHaeltNichtAuf) {
     EXPECT_FALSE(ftdi.offen);
 }
 
+TEST_F(Timekeeper, EinTreiberDerHaengtHaeltDenWechselDesGeraetsNichtAuf) {
+    bereit();
+    gesendet();
+    t.maschine.faeden_stehen = true;
+    t.p.ausgaben.chaos_an();
+    t.p.einst.hardware = {};
+    t.p.geraete.hardware_starten(false);
+    EXPECT_TRUE(ftdi.offen && ftdi.gesendet.empty()) << "it is left behind";
+    t.maschine.faeden_stehen = false;
+    EXPECT_NE(gesendet().find("ampelnGEon"), std::string::npos) << "as it comes back it writes what waits";
+    EXPECT_FALSE(ftdi.offen);
+}
+
 TEST_F(Timekeeper, WasNichtGehtNenntDieMeldungUndDieTastaturZaehlt) {
     struct fall {
         const char* ruf;

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "hardware/ftd2xx.h"
@@ -93,8 +94,9 @@ void race_control_pruefen(dll_dienst& dienst) {
 }
 
 void platine_pruefen(dll_dienst& dienst) {
-    iow_platine platine(dienst);
-    fordern(platine.iow_oeffnen() && platine.es_fehlt().empty(), "iowkit has every call, and a board");
+    const auto bibliothek = std::make_shared<iow_bibliothek>(dienst);
+    iow_platine platine(bibliothek);
+    fordern(platine.iow_oeffnen() && bibliothek->es_fehlt().empty(), "iowkit has every call, and a board");
     fordern(platine.iow_berichtgroesse() == 5, "an IO-Warrior 40");
     fordern(platine.offen() && platine.schreiben(std::array<std::uint8_t, 5>{0, 255, 255, 255, 255}),
             "that is written");

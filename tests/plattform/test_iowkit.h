@@ -52,7 +52,7 @@ public:
     std::uint32_t gemeldet = 0;  ///< as last read
     std::array<std::uint8_t, 8> ausgang{};
     std::uint32_t laenge = 0;  ///< of the last report written
-    int schliessungen = 0;
+    std::atomic<int> schliessungen = 0;
     std::atomic<bool> haengt = false;  ///< a report takes as long as that
 
 private:

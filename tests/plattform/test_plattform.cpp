@@ -79,6 +79,9 @@ plattform::dienste test_plattform::dienste() {
 
 void test_plattform::laufen(zeit_ms dauer) {
     const zeit_ms ende = jetzt_ + dauer;
+    if (!faeden_stehen) {
+        haengende_.clear();
+    }
     while (true) {
         virtueller_zeitgeber* naechster = nullptr;
         for (virtueller_zeitgeber* zeitgeber : laufende_) {
@@ -101,11 +104,23 @@ std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitge
 
 namespace {
 
-/// Looks as the clock moves: between two looks nothing else happens.
+/// Looks as the clock moves: between two looks nothing else happens. One that hangs at its end is left behind.
 struct virtueller_abtaster final : schnittstelle {
-    explicit virtueller_abtaster(std::unique_ptr<plattform::zeitgeber> wecker) : takt(std::move(wecker)) { takt->an(); }
+    virtueller_abtaster(std::unique_ptr<plattform::zeitgeber> wecker, const bool& steht,
+                        std::vector<std::unique_ptr<plattform::zeitgeber>>& haengende)
+        : takt(std::move(wecker)), faeden_stehen(steht), zurueckgelassene(haengende) {
+        takt->an();
+    }
+    ~virtueller_abtaster() override {
+        takt->aus();
+        if (faeden_stehen) {
+            zurueckgelassene.push_back(std::move(takt));
+        }
+    }
 
     std::unique_ptr<plattform::zeitgeber> takt;
+    const bool& faeden_stehen;
+    std::vector<std::unique_ptr<plattform::zeitgeber>>& zurueckgelassene;
 };
 
 }  // namespace
@@ -117,7 +132,7 @@ std::unique_ptr<schnittstelle> test_plattform::starten(dauer_ms abstand, std::fu
             blick(jetzt_);
         }
     };
-    return std::make_unique<virtueller_abtaster>(std::move(takt));
+    return std::make_unique<virtueller_abtaster>(std::move(takt), faeden_stehen, haengende_);
 }
 
 void test_plattform::zeigen(std::string_view text, std::string_view titel) {

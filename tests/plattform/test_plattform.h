@@ -111,6 +111,7 @@ private:
     feste_uhrzeit kalender_;
     zeit_ms jetzt_ = 1000000;
     std::vector<virtueller_zeitgeber*> laufende_;
+    std::vector<std::unique_ptr<plattform::zeitgeber>> haengende_;  ///< of threads that nobody waits for any more
     std::filesystem::path ordner_;
 };
 

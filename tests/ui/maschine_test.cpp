@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #endif
 
-#include "hardware/iow_schreiber.h"
+#include "hardware/iow_leitung.h"
 #include "platform_qt/druckerport.h"
 #include "platform_qt/qt_abtaster.h"
 #include "platform_qt/qt_bibliothek.h"
@@ -66,25 +66,70 @@ TEST(Bibliothek, WirdNachNamenGeladenUndKenntIhreRufe) {
     EXPECT_EQ(bibliothek->finden("tarvel_gibt_es_nicht"), nullptr);
 }
 
-TEST(Abtaster, EinePlatineDieHaengtHaeltNurIhrenFadenAuf) {
+struct HaengendePlatine : testing::Test {
+    HaengendePlatine() { brett.eintragen(bibliotheken); }
+    ~HaengendePlatine() override { brett.haengt = false; }
+    bool fertig(int schliessungen) {
+        return QTest::qWaitFor([&] { return brett.schliessungen == schliessungen; });
+    }
+
     test::test_iowkit brett;
     test::test_bibliotheken bibliotheken;
-    brett.eintragen(bibliotheken);
-    const qt::QtUhr uhr;
+    qt::QtUhr uhr;
+};
+
+TEST_F(HaengendePlatine, HaeltNurIhrenFadenAuf) {
     qt::QtAbtasterDienst dienst(uhr);
-    iow_platine platine(bibliotheken);
-    ASSERT_TRUE(platine.iow_oeffnen());
-    iow_schreiber schreiber(platine, dienst);
-    schreiber.anfangen();
+    const auto bibliothek = std::make_shared<iow_bibliothek>(bibliotheken);
+    iow_leitung leitung(bibliothek, dienst);
+    ASSERT_TRUE(leitung.oeffnen(nullptr));
     brett.haengt = true;
     for (std::uint8_t wert = 1; wert <= 3; ++wert) {
-        EXPECT_TRUE(schreiber.geben(std::array<std::uint8_t, 2>{0, wert}));
+        EXPECT_TRUE(leitung.schreiben(std::array<std::uint8_t, 2>{0, wert}));
     }
     QThread::msleep(50);
-    EXPECT_EQ(schreiber.erledigt(), 0U);
+    EXPECT_EQ(brett.ausgang[1], 0);
     brett.haengt = false;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return schreiber.fertig(); }));
+    leitung.schliessen();
+    EXPECT_EQ(brett.schliessungen, 1) << "it is waited for";
     EXPECT_EQ(brett.ausgang[1], 3) << "in their order";
+}
+
+/// The operator closes its window, or takes another device: that must not wait for it.
+TEST_F(HaengendePlatine, WirdBeimSchliessenZurueckgelassen) {
+    qt::QtAbtasterDienst dienst(uhr);
+    const auto bibliothek = std::make_shared<iow_bibliothek>(bibliotheken);
+    auto leitung = std::make_unique<iow_leitung>(bibliothek, dienst);
+    ASSERT_TRUE(leitung->oeffnen(std::make_shared<kontaktproben>(0)));
+    brett.haengt = true;
+    EXPECT_TRUE(leitung->schreiben(std::array<std::uint8_t, 2>{0, 1}));
+    EXPECT_TRUE(leitung->schreiben(std::array<std::uint8_t, 2>{0, 2}));
+    QThread::msleep(20);
+    const zeit_ms vorher = uhr.jetzt();
+    leitung.reset();
+    EXPECT_LT(uhr.jetzt() - vorher, 500);
+    EXPECT_EQ(brett.schliessungen, 0);
+    iow_leitung andere(bibliothek, dienst);
+    EXPECT_FALSE(andere.oeffnen(nullptr)) << "nobody else hangs in it too";
+    brett.haengt = false;
+    EXPECT_TRUE(fertig(1));
+    EXPECT_EQ(brett.ausgang[1], 2) << "the last word";
+    EXPECT_TRUE(andere.oeffnen(nullptr));
+}
+
+TEST_F(HaengendePlatine, HaeltAuchDasEndeNichtAuf) {
+    const zeit_ms vorher = uhr.jetzt();
+    {
+        qt::QtAbtasterDienst dienst(uhr);
+        iow_leitung leitung(std::make_shared<iow_bibliothek>(bibliotheken), dienst);
+        ASSERT_TRUE(leitung.oeffnen(nullptr));
+        brett.haengt = true;
+        EXPECT_TRUE(leitung.schreiben(std::array<std::uint8_t, 2>{0, 1}));
+        QThread::msleep(20);
+    }
+    EXPECT_LT(uhr.jetzt() - vorher, 3000);
+    brett.haengt = false;
+    EXPECT_TRUE(fertig(1)) << "were the process still there";
 }
 
 std::vector<std::pair<int, int>> geschrieben;
