@@ -140,7 +140,6 @@ void einstellungsfenster::erklaeren(optionszeile& eine) const {
 void einstellungsfenster::laden() {
     uart_gesichert();
     texte_lesen();
-    um_.txt.sprache_usb2_laden(um_.ablage);
     seitenliste.leeren();
     for (int nummer = 0; nummer < seiten_anzahl; ++nummer) {
         const optionsseite* seite = zeilenseite(nummer);

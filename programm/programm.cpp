@@ -324,6 +324,7 @@ void programm::gemeinsame_texte_laden() {
     ablage.sprache_aus(einst.anzeige.sprachordner);
     txt.sprache_m1_laden(ablage);
     txt.sprache_tx1_laden(ablage);
+    txt.sprache_usb2_laden(ablage);
     dienste.meldungen.knoepfe_beschriften(txt.ja, txt.nein, txt.datei_text[texte::abbrechen]);
     eingebaute_namen_setzen();
 }
