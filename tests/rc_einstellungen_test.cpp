@@ -92,5 +92,25 @@ TEST_F(RaceControl, DasFensterZeigtSchritteUndSensorenUndBehaeltDieSpuren) {
     EXPECT_FALSE(t.maschine.anschluesse.offen(com));
 }
 
+/// No call carries them to the box.
+TEST_F(RaceControl, WasDieBoxNichtErreichtBleibtGrauUndGespeichert) {
+    race_control_einstellungen& rc = t.p.einst.rc;
+    rc.rc_level = 77;
+    rc.rc_delay_ms = 33;
+    rc.rc_post_ms = 5;
+    rc.rc_rev_zz = true;
+    auto& optionen = t.p.einstellungsfenster;
+    optionen.oeffnen(einstellungsfenster::seite_hardware);
+    for (const char* name : {"selLevel", "selDelayMS", "selPostMS", "rc_wert"}) {
+        EXPECT_FALSE(std::get<feld>(optionen.zeile(name).element).aktiviert()) << name;
+    }
+    for (const char* name : {"cbxRevZZ", "cbxRevSZ", "rc_schalter"}) {
+        EXPECT_FALSE(std::get<haken>(optionen.zeile(name).element).aktiviert()) << name;
+    }
+    EXPECT_FALSE(std::get<auswahl>(optionen.zeile("rc_mod1").element).aktiviert());
+    optionen.Command1.klicken();
+    EXPECT_TRUE(rc.rc_level == 77 && rc.rc_delay_ms == 33 && rc.rc_post_ms == 5 && rc.rc_rev_zz);
+}
+
 }  // namespace
 }  // namespace tarvel::test

@@ -313,7 +313,7 @@ TEST_F(Simulatorrennen, Modul4x4DreissigMinutenAufKontakten) {
     EXPECT_GT(t.p.rennen.sektoren.sektorzeit(1, 1, 2), 0);
 }
 
-TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {
+TEST_F(Simulatorrennen, Modul4x4DreissigMinutenDigital) {
     simulator::m4x4_einstellung einst;
     einst.rennen.wagen.resize(6);
     zeit_ms anfahrt = 400;
@@ -323,10 +323,10 @@ TEST_F(Simulatorrennen, Modul4x4ZehnMinutenDigital) {
     }
     genauigkeit = 9;  // three of its lines at once, at the rate of its port
     modul_4x4_anschliessen(einst, modul_4x4::modus_1);
-    starten("10");
-    laufen(zeit_ms{12} * 60 * 1000);
+    starten("30");
+    laufen(zeit_ms{34} * 60 * 1000);
     EXPECT_GT(pausen.size(), 1U);
-    vergleichen(10);
+    vergleichen(30);
 }
 
 }  // namespace

@@ -379,6 +379,7 @@ TEST_F(TxModul, DerStartFragtNachDemModusSolangeEsSoEingestelltIst) {
     for (const fall& f :
          std::vector<fall>{{[](auto& w) { w.Option1[0].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_4},
                            {[](auto& w) { w.Option1[1].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_3},
+                           {[](auto& w) { w.Option1[2].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_2},
                            {[](auto& w) { w.Option1[3].umschalten(), w.Command1.klicken(); }, modul_4x4::modus_1},
                            {[](auto& w) { w.Option1[4].umschalten(), w.Command1.klicken(); }, modul_4x4::aus},
                            {[](auto& w) { w.schliessen(); }, modul_4x4::aus}}) {
