@@ -314,6 +314,7 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
           timekeeper_hoeren}},
         {"iow_datei", iow_datei()},
         {"iow", iow_berichte()},
+        {"lpt", {{std::string("\xc0\x80\x40\x07\x20\xa0\x88\x80", 8)}, lpt_hoeren}},
         {"modul4x4",
          {{"TRAXIUM-USB\rTXUSB_OK\rV1.2\rMODUS\rmod1\r1?\r4:\r0>\r", "V2.0\rmod4\r1?\r8?\rRC2Long\rRC2\rmod9\r"},
           modul4x4_hoeren}},

@@ -79,6 +79,7 @@ bool tk_datei_lesen(werkbank& bank, const std::string& bytes);
 bool timekeeper_hoeren(werkbank& bank, const std::string& bytes);
 dateiart iow_datei();
 dateiart iow_berichte();
+bool lpt_hoeren(werkbank& bank, const std::string& bytes);
 dateiart rennprotokoll_datei();
 bool race_control_hoeren(werkbank& bank, const std::string& bytes);
 bool modul4x4_hoeren(werkbank& bank, const std::string& bytes);
