@@ -9,6 +9,7 @@
 
 #include "platform_qt/feines_wecken.h"
 #include "platform_qt/qt_dienste.h"
+#include "programm/iow_verdrahtung.h"
 #include "tests/plattform/testprogramm.h"
 #include "tools/simulator/anschluss.h"
 #include "tools/simulator/at2560.h"
@@ -227,11 +228,15 @@ TEST_F(Geraeterennen, At2560) {
 
 /// A library that stands in for a vendor's, beside the program, which loads it itself.
 struct Bibliotheksrennen : Geraeterennen {
-    /// `hoechstens` ms may a lap be off.
-    void fahren_mit(const std::filesystem::path& datei, bool messhardware::*geraet, zeit_ms hoechstens) {
+    /// Puts it there; its name.
+    QString hinlegen(const std::filesystem::path& datei) const {
         const std::filesystem::path hier = maschine.ordner() / datei.filename();
         copy_file(datei, hier);
-        QLibrary bibliothek(QString::fromStdU16String(hier.u16string()));
+        return QString::fromStdU16String(hier.u16string());
+    }
+    /// `hoechstens` ms may a lap be off.
+    void fahren_mit(const std::filesystem::path& datei, bool messhardware::*geraet, zeit_ms hoechstens) {
+        QLibrary bibliothek(hinlegen(datei));
         auto* const einstellen = reinterpret_cast<void (*)(const char*)>(bibliothek.resolve("SimulatorEinstellen"));
         auto* const runden = reinterpret_cast<int (*)(int, int*, int)>(bibliothek.resolve("SimulatorRunden"));
         ASSERT_TRUE(einstellen != nullptr && runden != nullptr) << bibliothek.errorString().toStdString();
@@ -243,23 +248,25 @@ struct Bibliotheksrennen : Geraeterennen {
         p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
         schleife_aufhalten();
         fahren();
-        int alle = 0;
-        zeit_ms abweichung = 0;
+        std::vector<zeit_ms> abweichungen;
         for (const int spur : {1, 2, 3, 4}) {
             std::array<int, 1000> wahr{};
             const int gefahren = runden(spur, wahr.data(), static_cast<int>(wahr.size()));
             ASSERT_GT(p.rennen.zustand.konto.runden(spur), dauer_s() / 3);
             ASSERT_LE(p.rennen.zustand.konto.runden(spur), gefahren);
-            for (int runde = 1; runde <= p.rennen.zustand.konto.runden(spur); ++runde, ++alle) {
+            for (int runde = 1; runde <= p.rennen.zustand.konto.runden(spur); ++runde) {
                 const zeit_ms gemessen = p.rennen.zustand.konto.rundenzeit(spur, runde);
-                abweichung = std::max(abweichung, std::abs(gemessen - wahr.at(static_cast<std::size_t>(runde) - 1)));
+                abweichungen.push_back(std::abs(gemessen - wahr.at(static_cast<std::size_t>(runde) - 1)));
             }
         }
-        EXPECT_LE(abweichung, hoechstens);
+        std::sort(abweichungen.begin(), abweichungen.end());
+        EXPECT_LE(abweichungen.back(), hoechstens);
         if (hoechstens > 0) {
             stempel_sind_nicht_von_der_schleife();
         }
-        std::printf("%d Runden in %d s, jede auf %d ms\n", alle, dauer_s(), static_cast<int>(abweichung));
+        const auto bis_zwei = std::upper_bound(abweichungen.begin(), abweichungen.end(), 2) - abweichungen.begin();
+        std::printf("%d Runden in %d s, jede auf %d ms, %d auf 2 ms\n", static_cast<int>(abweichungen.size()),
+                    dauer_s(), static_cast<int>(abweichungen.back()), static_cast<int>(bis_zwei));
     }
 };
 
@@ -269,6 +276,35 @@ TEST_F(Bibliotheksrennen, Timekeeper) {
 
 TEST_F(Bibliotheksrennen, Iow40) {
     fahren_mit(TARVEL_IOWKIT, &messhardware::hw_iow, nicht_die_schleife);
+}
+
+/// A board that hangs in a call: the operator closes its window, and would wait for ever.
+TEST_F(Bibliotheksrennen, EineHaengendePlatineHaeltWederIhrFensterNochDenWechselAuf) {
+    QLibrary bibliothek(hinlegen(TARVEL_IOWKIT));
+    auto* const haengen = reinterpret_cast<void (*)(int)>(bibliothek.resolve("SimulatorHaengen"));
+    ASSERT_TRUE(haengen != nullptr) << bibliothek.errorString().toStdString();
+    p.einst.hardware.hw_iow = true;
+    p.geraete.hardware_starten(false);
+    ASSERT_TRUE(p.geraete.verbunden());
+    usbtest& w = p.geraete.von<iow_verdrahtung>().usbtest;
+    const auto zustand = [&](const char* text) {
+        return QTest::qWaitFor([&] { return w.zustand.text().find(text) != std::string::npos; }, 20000);
+    };
+    p.fenster.zeigen(fenstername::usbtest);
+    ASSERT_TRUE(zustand("IO-Warrior 40"));
+    haengen(1);
+    w.c.at(7).umschalten();
+    EXPECT_TRUE(zustand("nimmt nichts mehr an"));
+    constexpr zeit_ms nicht_fuer_immer = 3000;  // on a busy machine
+    const zeit_ms vorher = uhr.jetzt();
+    w.Command6.klicken();
+    p.einst.hardware = {};
+    p.geraete.hardware_starten(false);
+    p.fenster.zeigen(fenstername::usbtest);
+    EXPECT_LT(uhr.jetzt() - vorher, nicht_fuer_immer);
+    EXPECT_TRUE(zustand("nimmt nichts mehr an"));
+    haengen(0);
+    EXPECT_TRUE(zustand("IO-Warrior 40")) << "it is back";
 }
 
 TEST_F(Bibliotheksrennen, Druckeranschluss) {

@@ -1,9 +1,12 @@
 // Stands in for the library of the IO board, with a track behind it.
 
+#include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <deque>
+#include <thread>
 
 #include "tools/simulator/bibliotheken/rufe.h"
 #include "tools/simulator/brettlauf.h"
@@ -25,6 +28,8 @@ struct platine {
         }
     }
 };
+
+std::atomic<bool> haengt = false;
 
 platine& die_platine() {
     static platine eine;
@@ -89,6 +94,9 @@ TARVEL_RUF std::uint32_t IowKitReadNonBlocking(void* geraet, std::uint32_t pipe,
 
 /// An output that is switched changes its pin, and that is reported like a contact.
 TARVEL_RUF std::uint32_t IowKitWrite(void* geraet, std::uint32_t pipe, void* quelle, std::uint32_t laenge) {
+    while (haengt) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
     if (geraet == nullptr || pipe != 0 || laenge < bericht_groesse) {
         return 0;
     }
@@ -111,6 +119,11 @@ TARVEL_RUF std::uint32_t IowKitWrite(void* geraet, std::uint32_t pipe, void* que
 
 TARVEL_RUF void SimulatorEinstellen(const char* optionen) {
     die_platine().lauf.einstellen(optionen, true);
+}
+
+/// Whoever writes to the board waits until it no longer hangs.
+TARVEL_RUF void SimulatorHaengen(int nun) {
+    haengt = nun != 0;
 }
 
 TARVEL_RUF void SimulatorStecken(int steckt) {
