@@ -1,5 +1,6 @@
 #include <QPainter>
 #include <QWidget>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -57,9 +58,10 @@ protected:
     void paintEvent(QPaintEvent* /*ereignis*/) override {
         QPainter maler(this);
         maler.fillRect(rect(), Qt::white);
+        constexpr double quer = 277.0 / 190;
         const double rand = height() * 0.045;
-        const double hoch = height() - 2 * rand;
-        ui::seite_malen(maler, {rand, rand, hoch * 277 / 190, hoch}, seiten_, nummer_);
+        const double hoch = std::min(height() - 2 * rand, (width() - 2 * rand) / quer);
+        ui::seite_malen(maler, {rand, rand, hoch * quer, hoch}, seiten_, nummer_);
     }
 
 private:

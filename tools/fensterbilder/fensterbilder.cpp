@@ -1,16 +1,20 @@
 // Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [englisch] [<scene>...]
 // Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
-// Tells of each text that has no room, and then ends in 1.
+// A window that is as large as it wants to be opens on a screen of the first of these sizes.
+// Tells of each text that has no room, of widgets on top of one another and of a window that is larger than the size,
+// and then ends in 1.
 
 #include <QApplication>
 #include <QPainter>
+#include <QTemporaryFile>
 #include <QTest>
 #include <cstdio>
 #include <filesystem>
 #include <vector>
 
 #include "tests/ui/textmasse.h"
+#include "tests/ui/ueberdeckung.h"
 #include "tools/fensterbilder/szenen.h"
 #include "ui/stil.h"
 
@@ -31,13 +35,16 @@ QPixmap aufnehmen(buehne& b, QWidget& fenster) {
     return bild;
 }
 
-/// A text that is cut is told of.
-bool texte_pruefen(const QWidget& fenster, const QString& szene) {
-    const QStringList beschnitten = test::beschnittene_texte(fenster);
-    for (const QString& text : beschnitten) {
+/// What is wrong with it is told.
+bool pruefen(const QWidget& fenster, const QString& szene, const QSize& groesse) {
+    QStringList fehler = test::beschnittene_texte(fenster) + test::ueberdeckte_widgets(fenster);
+    if (fenster.width() > groesse.width() || fenster.height() > groesse.height()) {
+        fehler << QString("larger: %1x%2").arg(fenster.width()).arg(fenster.height());
+    }
+    for (const QString& text : fehler) {
         std::fprintf(stderr, "%s: %s\n", szene.toUtf8().constData(), text.toUtf8().constData());
     }
-    return beschnitten.isEmpty();
+    return fehler.isEmpty();
 }
 
 bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen,
@@ -55,7 +62,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
         const QString datei = ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
         gut = aufnehmen(b, fenster).save(datei) && gut;
-        gut = texte_pruefen(fenster, gewuenscht.name + QString(" ") + masse) && gut;
+        gut = pruefen(fenster, gewuenscht.name + QString(" ") + masse, groesse) && gut;
     }
     return gut;
 }
@@ -63,48 +70,83 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
 }  // namespace
 }  // namespace tarvel
 
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+namespace tarvel {
+namespace {
+
+struct Auftrag {
+    QString ordner;
+    std::vector<QSize> groessen = uebliche_groessen;
+    erscheinung wie;
+    QStringList szenen;  ///< none for all
+};
+
+Auftrag auftrag_lesen(QStringList argumente) {
+    Auftrag a;
+    a.ordner = argumente.takeFirst();
+    const QStringList masse = argumente.isEmpty() ? QStringList() : argumente.front().split('x');
+    if (masse.size() == 2 && masse[0].toInt() > 0 && masse[1].toInt() > 0) {
+        a.groessen = {QSize(masse[0].toInt(), masse[1].toInt())};
+        argumente.removeFirst();
     }
-    QApplication anwendung(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    tarvel::ui::stil::anwenden(anwendung);
-    QStringList argumente = QApplication::arguments().mid(1);
+    if (argumente.removeAll("dunkel") > 0) {
+        a.wie.fenster = aussehen::dunkel;
+    }
+    if (argumente.removeAll("englisch") > 0) {
+        a.wie.sprachordner = "language-en";
+    }
+    a.szenen = argumente;
+    return a;
+}
+
+bool ausfuehren(Auftrag a) {
+    std::filesystem::create_directories(a.ordner.toStdU16String());
+    bool gut = true;
+    const bool alle = a.szenen.isEmpty();
+    std::vector<szeneneintrag> szenen = fensterszenen();
+    for (const auto* weitere : {&rennszenen(), &lagenszenen(), &abendszenen(), &ergebnisszenen(), &randszenen()}) {
+        szenen.insert(szenen.end(), weitere->begin(), weitere->end());
+    }
+    for (const auto& szene : szenen) {
+        if (alle || a.szenen.removeAll(szene.name) > 0) {
+            gut = zeichnen(szene, a.ordner, a.groessen, a.wie) && gut;
+        }
+    }
+    for (const QString& unbekannt : a.szenen) {
+        std::fprintf(stderr, "keine Szene: %s\n", unbekannt.toUtf8().constData());
+        gut = false;
+    }
+    return gut;
+}
+
+/// The description of a screen without a display, for Qt to read.
+QByteArray schirm(const QSize& groesse) {
+    return QString(R"({"screens": [{"name": "1", "x": 0, "y": 0, "width": %1, "height": %2,)"
+                   R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+        .arg(groesse.width())
+        .arg(groesse.height())
+        .toUtf8();
+}
+
+}  // namespace
+}  // namespace tarvel
+
+int main(int argc, char** argv) {
+    const QStringList argumente(argv + 1, argv + argc);
     if (argumente.isEmpty()) {
         std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [englisch] [<Szene>...]\n");
         return 2;
     }
-    const QString ordner = argumente.takeFirst();
-    std::vector<QSize> groessen = tarvel::uebliche_groessen;
-    const QStringList masse = argumente.isEmpty() ? QStringList() : argumente.front().split('x');
-    if (masse.size() == 2 && masse[0].toInt() > 0 && masse[1].toInt() > 0) {
-        groessen = {QSize(masse[0].toInt(), masse[1].toInt())};
-        argumente.removeFirst();
-    }
-    tarvel::erscheinung wie;
-    if (argumente.removeAll("dunkel") > 0) {
-        wie.fenster = tarvel::aussehen::dunkel;
-    }
-    if (argumente.removeAll("englisch") > 0) {
-        wie.sprachordner = "language-en";
-    }
-    std::filesystem::create_directories(ordner.toStdU16String());
-    bool gut = true;
-    const bool alle = argumente.isEmpty();
-    std::vector<tarvel::szeneneintrag> szenen = tarvel::fensterszenen();
-    for (const auto* weitere :
-         {&tarvel::rennszenen(), &tarvel::lagenszenen(), &tarvel::abendszenen(), &tarvel::ergebnisszenen()}) {
-        szenen.insert(szenen.end(), weitere->begin(), weitere->end());
-    }
-    for (const auto& szene : szenen) {
-        if (alle || argumente.removeAll(szene.name) > 0) {
-            gut = tarvel::zeichnen(szene, ordner, groessen, wie) && gut;
+    const tarvel::Auftrag auftrag = tarvel::auftrag_lesen(argumente);
+    QTemporaryFile beschreibung;
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        if (!beschreibung.open() || beschreibung.write(tarvel::schirm(auftrag.groessen.front())) < 0 ||
+            !beschreibung.flush()) {
+            return 1;
         }
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + beschreibung.fileName().toUtf8());
     }
-    for (const QString& unbekannt : argumente) {
-        std::fprintf(stderr, "keine Szene: %s\n", unbekannt.toUtf8().constData());
-        gut = false;
-    }
-    return gut ? 0 : 1;
+    QApplication anwendung(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    tarvel::ui::stil::anwenden(anwendung);
+    return tarvel::ausfuehren(auftrag) ? 0 : 1;
 }

@@ -413,6 +413,7 @@ const std::vector<szeneneintrag> alle_fensterszenen{
      true},
     {"programmstart",
      [](buehne& b) -> QWidget& {
+         b.p.fenster.entladen(fenstername::Update_form);  // it stays until its time is over
          b.p.fenster.zeigen(fenstername::Update_form);
          return b.o.update_form;
      },

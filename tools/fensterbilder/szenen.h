@@ -22,6 +22,8 @@ const std::vector<szeneneintrag>& lagenszenen();
 const std::vector<szeneneintrag>& abendszenen();
 /// The viewer of result files.
 const std::vector<szeneneintrag>& ergebnisszenen();
+/// Long names, empty lists, questions: what a club brings that no example has.
+const std::vector<szeneneintrag>& randszenen();
 /// All other windows.
 const std::vector<szeneneintrag>& fensterszenen();
 
