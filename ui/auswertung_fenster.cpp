@@ -74,7 +74,7 @@ QWidget* AuswertungFenster::nachtragsfeld() {
     oben->setSpacing(8);
     oben->addWidget(binder().label(n.Label_nachtrag_spur, "Label_nachtrag_spur"));
     QComboBox* spur = binder().auswahlfeld(n.cbo_nachtrag, "cbo_nachtrag");
-    spur->setMinimumContentsLength(24);  // the name of a driver, and his lane
+    spur->setMinimumContentsLength(36);  // the name of a driver, and his lane
     oben->addWidget(spur);
     oben->addStretch(1);
     aufbau->addLayout(oben);

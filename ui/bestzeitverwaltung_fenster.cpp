@@ -77,6 +77,7 @@ QWidget* BestzeitverwaltungFenster::moduszeile() {
     aufbau->addWidget(binder().label(logik_.bestlabel1, "bestlabel1"));
     QLabel* rekord = binder().label(logik_.bestlabel2, "bestlabel2");
     rekord->setStyleSheet("font-weight: bold;");
+    rekord->setWordWrap(true);
     rekord->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     aufbau->addWidget(rekord, 1);
     return zeile;

@@ -25,7 +25,7 @@ namespace {
 
 constexpr double rand_mm = 10;
 constexpr int pdf_dpi = 300;
-constexpr double kleinste_schrift = 0.62;  // of its size, before a text is cut
+constexpr double kleinste_schrift = 0.45;  // of its size, before a text is cut
 
 QPageLayout seitenformat(const blattseiten& seiten) {
     if (seiten.urkunde) {

@@ -39,7 +39,7 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     platz->setFett(true);
     aufbau->addWidget(platz);
     bilder(ablage, binder, *aufbau);
-    aufbau->addWidget(fahrerzelle(binder), 6);
+    aufbau->addWidget(fahrerzelle(binder), 7);
     aufbau->addWidget(rundenzelle(binder), 4);
     aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
@@ -81,6 +81,7 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     TextAnzeige* wert = binder.anzeige(inhalt.wert, nummeriert(inhalt.name), inhalt.entwurf);
     wert->setAusrichtung(links_mitte);
     wert->setFett(true);
+    wert->setZweizeilig();  // a long name, whose letters were too small to read in one line
     auto* darunter = new QHBoxLayout;
     darunter->setSpacing(8);
     aufbau->addStretch();

@@ -174,6 +174,7 @@ QWidget* Wettkampf1Fenster::bildfeld() {
     QLabel* name = binder().label(logik_.Label_bild, "Label_bild");
     name->setAlignment(Qt::AlignCenter);
     name->setStyleSheet("font-weight: bold;");
+    name->setWordWrap(true);
     name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     aufbau->addWidget(name);
     aufbau->addWidget(binder().knopf(logik_.Command24, "Command24", "schmal"));
