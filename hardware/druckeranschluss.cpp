@@ -8,9 +8,7 @@ druckeranschluss::druckeranschluss(const umgebung& um)
 }
 
 void druckeranschluss::neuer_port() {
-    const std::uint8_t zustand = port_ != nullptr ? port_->lpt_pin_zustand.load() : 0;
     port_ = std::make_shared<offener_port>(lpt::registersatz{um_.port, um_.einst.lpt.anschluss.lpt_adresse});
-    port_->lpt_pin_zustand = zustand;
 }
 
 bool druckeranschluss::oeffnen() {

@@ -52,8 +52,6 @@ public:
     /// Switches the output of this number; 0 are all eight. Of two with the same number the last one.
     void lpt_an(ereignis_art nummer) { lpt_schalten(nummer, true); }
     void lpt_aus(ereignis_art nummer) { lpt_schalten(nummer, false); }
-    /// What the data register has to show.
-    std::uint8_t lpt_pin_zustand() const { return port_->lpt_pin_zustand; }
 
 private:
     /// The port while it is sampled: who lets go of it last switches for the last time.
@@ -67,8 +65,8 @@ private:
         void lpt_abtasten(zeit_ms jetzt, kontaktproben& proben);
 
         lpt::registersatz registersatz;
-        std::atomic<std::uint8_t> lpt_pin_zustand = 0;
-        std::atomic<bool> da = false;  ///< there is a port
+        std::atomic<std::uint8_t> lpt_pin_zustand = 0;  ///< what the data register has to show
+        std::atomic<bool> da = false;                   ///< there is a port
         bool abgetastet = false;
     };
 

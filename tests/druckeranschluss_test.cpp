@@ -32,8 +32,10 @@ TEST_F(Druckeranschluss, DruckeranschlussSchaltetSeineLinien) {
     lpt().erase(lpt_basis + lpt::status);
     t.maschine.laufen(2);
     EXPECT_FALSE(t.p.geraete.verbunden()) << "a machine without the port";
+    lpt()[lpt_basis] = 0x55;
     t.p.einst.hardware = {};
     t.p.geraete.hardware_starten(false);
+    EXPECT_NE(lpt()[lpt_basis], 0x55) << "the last word reaches the port";
     lpt()[lpt_basis] = 3;
     t.maschine.laufen(2);
     EXPECT_EQ(lpt()[lpt_basis], 3) << "another device is chosen: nothing writes there";

@@ -234,9 +234,12 @@ TEST_F(Iow40, UsbtestPrueftSchaltetUndSpeichert) {
     w.Command10.klicken();
     EXPECT_EQ(t.p.einst.iow.iow_datei, "tvk_usb.iow") << "it is in force";
     EXPECT_EQ(w.combo_c[0].platz(), 1);
+    kontakt(bit(16), true, 50);
+    EXPECT_TRUE(w.lampe[15].gesetzt());
     brett.steckt = false;
     t.maschine.laufen(1100);
     EXPECT_NE(w.protokoll.zeilen().back().find("abgezogen"), std::string::npos);
+    EXPECT_FALSE(w.lampe[15].gesetzt());
     brett.steckt = true;
     t.maschine.laufen(1100);
     w.Command6.klicken();
