@@ -39,6 +39,7 @@ void fortsetzung::umsetzen(const spuren<int>& herkunft) {
         if (von == 0) {
             continue;
         }
+        um_.zustand.umgesetzt = true;
         um_.param.fahrer_name[spur] = namen[von];
         um_.param.klasse[spur] = klassen[von];
         if (um_.einst.fahrzeug_wechseln) {
@@ -151,6 +152,8 @@ void fortsetzung::weiterfahren() {
     um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.fortsetzung_wartet = false;
+    zustand.umgesetzt = false;
+    zustand.konto.teil_beginnen();
     um_.ereignisse.messzeit = fortsetz_zeit;
     um_.ereignisse.gelten_lassen(fortsetz_zeit, zeitsperre::seit_immer);  // before, the lane was another driver's
     zustand.strafreste_ab(fortsetz_zeit);

@@ -100,6 +100,7 @@ struct renn_zustand {
     bool rennen_beendet = true;
     bool fortgesetzt = false;         ///< the race goes on from an earlier result
     bool fortsetzung_wartet = false;  ///< and its light has not gone green yet
+    bool umgesetzt = false;           ///< drivers stand on their next lanes and have not driven there yet
     bool chaos_aktiv = false;         ///< the race is paused
     pausen_zustand pause;
     bool ende_eingeleitet = false;  ///< guards against a second reason to end

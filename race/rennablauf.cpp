@@ -65,6 +65,8 @@ void rennablauf::rennen_zuruecksetzen() {
     zustand.pause_abzug = 0;
     zustand.fortgesetzt = false;
     zustand.fortsetzung_wartet = false;
+    zustand.umgesetzt = false;
+    zustand.konto.von_vorn();
     zustand.fuehrungsrunden = 0;
     t_.fruehstart.zuruecksetzen();
     t_.ende.zuruecksetzen();

@@ -25,6 +25,8 @@ struct rennergebnis {
         zeit_ms stempel = 0;                           ///< of the crossing that closes it; 0 in a result that was read
         double meter = 0;                              ///< length of its lane; likewise
         bool nachgetragen = false;                     ///< that crossing was added by the race director
+        bool angefangen = false;                       ///< a part of it was driven before the race went on
+        int teil = 0;                                  ///< how often the race had gone on when it was closed
 
         bool operator==(const runde&) const = default;
     };
@@ -69,6 +71,7 @@ struct rennergebnis {
     std::string uhrzeit;
     bool tanken = false;
     std::array<bool, sektoren_max> gemessen{};  ///< sectors 1 to 3
+    int teil = 0;                               ///< how often the race has gone on
     int rundenzeilen = 0;      ///< rows of the table of laps; a lane that has left the race may have had the most
     std::vector<spur> spuren;  ///< that were in the race, in the order of their numbers
 

@@ -15,14 +15,16 @@ void rundenkonto::leeren(int spur) {
 
 void rundenkonto::zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause) {
     assert(runden(spur) < runden_max);
-    speicher_.setzen(spur, laufende(spur), rundenzeit, stempel, pause);
+    const bool angefangen = laufende(spur) > 0 && laufende(spur) <= vor_fortsetzung(spur);
+    speicher_.setzen(spur, laufende(spur), {rundenzeit, stempel, pause, false, angefangen, teil_});
     ++spur_[spur].runden;
     speicher_.leeren(spur, laufende(spur));
 }
 
 bool rundenkonto::beste_werten(int spur, zeit_ms zeit) {
     spur_konto& konto = spur_[spur];
-    const bool halbe_runde = speicher_.nachgetragen(spur, konto.runden - 1);  // began with a crossing nobody measured
+    const bool halbe_runde =
+        speicher_.auf(spur, konto.runden - 1).nachgetragen;  // began with a crossing nobody measured
     if (halbe_runde || (zeit >= konto.beste && konto.runden != 1)) {
         return false;
     }
@@ -59,16 +61,19 @@ void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
         return;
     }
     const int zeile = laufende(spur);
-    speicher_.setzen(spur, zeile, rundenzeit(spur, zeile) + zuschlag, stempel(spur, zeile) + zuschlag,
-                     pause(spur, zeile), speicher_.nachgetragen(spur, zeile));
+    rundenspeicher::runde zurueck = speicher_.auf(spur, zeile);
+    zurueck.zeit += zuschlag;
+    zurueck.stempel += zuschlag;
+    speicher_.setzen(spur, zeile, zurueck);
     ++spur_[spur].runden;
 }
 
 void rundenkonto::letzten_stempel_verschieben(int spur, zeit_ms um) {
     const int zeile = runden(spur);
     if (zeile >= 0) {
-        speicher_.setzen(spur, zeile, rundenzeit(spur, zeile), stempel(spur, zeile) + um, pause(spur, zeile),
-                         speicher_.nachgetragen(spur, zeile));
+        rundenspeicher::runde letzte = speicher_.auf(spur, zeile);
+        letzte.stempel += um;
+        speicher_.setzen(spur, zeile, letzte);
     }
 }
 
@@ -77,7 +82,7 @@ void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>
     const rennergebnis::runde dahinter = runde(spur, laufende(spur));
     int zeile = 0;
     const auto eintragen = [&](const rennergebnis::runde& r) {
-        speicher_.setzen(spur, zeile++, r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen);
+        speicher_.setzen(spur, zeile++, {r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen, r.angefangen, r.teil});
     };
     std::for_each(runden.begin(), runden.end(), eintragen);
     const int vorher = std::exchange(konto.runden, zeile - 1);
@@ -90,9 +95,9 @@ void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>
 }
 
 void rundenkonto::beste_suchen(int spur) {
-    bestensuche suche(speicher_.nachgetragen(spur, 0));
+    bestensuche suche(speicher_.auf(spur, 0).nachgetragen);
     for (int zeile = 1; zeile <= runden(spur); ++zeile) {
-        suche.runde(rundenzeit(spur, zeile), speicher_.nachgetragen(spur, zeile));
+        suche.runde(rundenzeit(spur, zeile), speicher_.auf(spur, zeile).nachgetragen);
     }
     spur_[spur].beste = suche.beste();
 }

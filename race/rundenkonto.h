@@ -18,25 +18,29 @@ public:
     int laufende(int spur) const { return spur_[spur].runden + 1; }
     /// Laps up to this one were driven, in whole or in part, before the race went on.
     int vor_fortsetzung(int spur) const { return spur_[spur].vor_fortsetzung; }
+    /// How often the race has gone on.
+    int teil() const { return teil_; }
     /// Best lap in ms, 0 until there is one.
     zeit_ms beste(int spur) const { return spur_[spur].beste; }
     /// A lap is held back that will be given back.
     bool haelt_zurueck(int spur) const { return spur_[spur].zurueckgehalten; }
 
     /// Rows as in `rundenspeicher`.
-    zeit_ms rundenzeit(int spur, int zeile) const { return speicher_.rundenzeit(spur, zeile); }
-    zeit_ms stempel(int spur, int zeile) const { return speicher_.stempel(spur, zeile); }
-    zeit_ms pause(int spur, int zeile) const { return speicher_.pause(spur, zeile); }
+    zeit_ms rundenzeit(int spur, int zeile) const { return speicher_.auf(spur, zeile).zeit; }
+    zeit_ms stempel(int spur, int zeile) const { return speicher_.auf(spur, zeile).stempel; }
+    zeit_ms pause(int spur, int zeile) const { return speicher_.auf(spur, zeile).pause; }
     /// The row as a result has it, without sectors and metres.
     rennergebnis::runde runde(int spur, int zeile) const {
-        return {rundenzeit(spur, zeile), {}, pause(spur, zeile),
-                stempel(spur, zeile),    0,  speicher_.nachgetragen(spur, zeile)};
+        const rundenspeicher::runde r = speicher_.auf(spur, zeile);
+        return {r.zeit, {}, r.pause, r.stempel, 0, r.nachgetragen, r.angefangen, r.teil};
     }
 
+    /// A new race begins with its first part.
+    void von_vorn() { teil_ = 0; }
     /// For a new race: no crossing yet.
     void leeren(int spur);
     /// The stamp from which the lane's first lap is timed until a crossing starts the count.
-    void start_stempeln(int spur, zeit_ms stempel) { speicher_.setzen(spur, 0, 0, stempel); }
+    void start_stempeln(int spur, zeit_ms stempel) { speicher_.setzen(spur, 0, {0, stempel}); }
     /// Counts a crossing. Nobody counts beyond `runden_max`.
     void zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause);
     /// The lane's last lap counts as `zeit`. True if that is its best one now; the first lap always is.
@@ -57,6 +61,8 @@ public:
 
     /// The race goes on. `unterwegs`: the lane has driven a part of the lap that it is in.
     void fortsetzen(int spur, bool unterwegs);
+    /// Green: what is counted from here on belongs to the next part.
+    void teil_beginnen() { ++teil_; }
     /// Lane i takes the laps of lane `herkunft[i]`; 0 leaves it as it is.
     void fahrer_umsetzen(const spuren<int>& herkunft);
     /// The crossing that was counted last was `um` ms later than it was stamped.
@@ -75,6 +81,7 @@ private:
     void beste_suchen(int spur);
 
     spuren<spur_konto> spur_;
+    int teil_ = 0;
     rundenspeicher speicher_;
 };
 

@@ -16,10 +16,12 @@ using runde = rennergebnis::runde;
 struct grenze {
     int runden = runden_max;
     std::optional<zeit_ms> zeit_um;
+    int teil = 0;  ///< of the race, to which a lap behind the last belongs
 };
 
-grenze grenze_bilden(const std::optional<rennziel>& ziel, std::optional<zeit_ms> um) {
-    return ziel && !ziel->ist_zeit() ? grenze{std::clamp(ziel->runden(), 0, runden_max), {}} : grenze{runden_max, um};
+grenze grenze_bilden(const std::optional<rennziel>& ziel, std::optional<zeit_ms> um, int teil) {
+    return ziel && !ziel->ist_zeit() ? grenze{std::clamp(ziel->runden(), 0, runden_max), {}, teil}
+                                     : grenze{runden_max, um, teil};
 }
 
 bool loeschen(spurteil& s, int nummer) {
@@ -53,7 +55,8 @@ bool anhaengen(spurteil& s, const korrektur& k, const grenze& g) {
         k.stempel <= s.runden.back().stempel) {
         return false;
     }
-    s.runden.push_back({k.zeit, {}, k.pause, k.stempel, k.meter, true});
+    const bool angefangen = s.rundenzahl() < s.vor_fortsetzung.value_or(0);
+    s.runden.push_back({k.zeit, {}, k.pause, k.stempel, k.meter, true, angefangen, g.teil});
     return true;
 }
 
@@ -67,7 +70,7 @@ bool teilen(spurteil& s, const korrektur& k, const grenze& g) {
     ganze->zeit -= k.zeit;
     ganze->pause = pause - k.pause;
     ganze->sektoren = {};  // nobody knows on which side of the crossing they were
-    s.runden.insert(ganze, {k.zeit, {}, k.pause, k.stempel, ganze->meter, true});
+    s.runden.insert(ganze, {k.zeit, {}, k.pause, k.stempel, ganze->meter, true, ganze->angefangen, ganze->teil});
     if (s.vor_fortsetzung && k.runde <= *s.vor_fortsetzung) {
         ++*s.vor_fortsetzung;
     }
@@ -122,7 +125,8 @@ bool spur_korrigieren(spurteil& s, const korrektur& k, const grenze& g) {
 bool korrigieren(rennergebnis& ergebnis, const korrektur& k) {
     const auto s = std::find_if(ergebnis.spuren.begin(), ergebnis.spuren.end(),
                                 [&](const spurteil& eine) { return eine.nummer == k.spur; });
-    return s != ergebnis.spuren.end() && spur_korrigieren(*s, k, grenze_bilden(ergebnis.ziel, ergebnis.zeit_um));
+    return s != ergebnis.spuren.end() &&
+           spur_korrigieren(*s, k, grenze_bilden(ergebnis.ziel, ergebnis.zeit_um, ergebnis.teil));
 }
 
 std::optional<zeit_ms> zeit_um(const renn_umgebung& um) {
@@ -158,7 +162,7 @@ void rundenkorrektur::eintragen(const korrektur& k) {
         s.runden.back().sektoren = sektor_.zeile(k.spur, zeile);
     }
     const int vorher = s.rundenzahl();
-    if (spur_korrigieren(s, k, grenze_bilden(um_.param.renn_ziel, zeit_um(um_)))) {
+    if (spur_korrigieren(s, k, grenze_bilden(um_.param.renn_ziel, zeit_um(um_), konto.teil()))) {
         const bool am_ende = k.traegt_nach() && k.runde > vorher;
         if (am_ende) {
             zeit_ms& frei = um_.zustand.spur[k.spur].pause_abzug;

@@ -17,15 +17,19 @@ class rundenspeicher {
 public:
     rundenspeicher() : zeilen_(zeilen_anzahl) {}
 
-    zeit_ms rundenzeit(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).rundenzeit[spur] : 0; }
-    zeit_ms stempel(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).stempel[spur] : 0; }
-    /// Pause that has come off the lap time: it comes off the time of whatever lap takes this one in.
-    zeit_ms pause(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile).pause[spur] : 0; }
-    /// The crossing that closes the lap was added later.
-    bool nachgetragen(int spur, int zeile) const { return gibt_es(zeile) && an(zeile).nachgetragen[spur]; }
-    void setzen(int spur, int zeile, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause = 0, bool nachgetragen = false);
-    void leeren(int spur, int zeile) { setzen(spur, zeile, 0, 0); }
-    void zeile_kopieren(int spur, int von, int nach);
+    struct runde {
+        zeit_ms zeit = 0;
+        zeit_ms stempel = 0;
+        zeit_ms pause = 0;          ///< has come off `zeit`: it comes off the time of whatever lap takes this one in
+        bool nachgetragen = false;  ///< the crossing that closes the lap was added later
+        bool angefangen = false;    ///< a part of it was driven before the race went on
+        int teil = 0;               ///< how often the race had gone on when it was closed
+    };
+
+    runde auf(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile)[spur] : runde{}; }
+    void setzen(int spur, int zeile, const runde& neu);
+    void leeren(int spur, int zeile) { setzen(spur, zeile, {}); }
+    void zeile_kopieren(int spur, int von, int nach) { setzen(spur, nach, auf(spur, von)); }
     /// Rows 0 to `letzte` of a lane of another store.
     void spur_uebernehmen(int spur, const rundenspeicher& quelle, int quellspur, int letzte);
 
@@ -35,12 +39,7 @@ public:
 private:
     static constexpr int zeilen_anzahl = runden_max + 2;
 
-    struct eintrag {
-        spuren<zeit_ms> rundenzeit;
-        spuren<zeit_ms> stempel;
-        spuren<zeit_ms> pause;
-        spuren<bool> nachgetragen;
-    };
+    using eintrag = spuren<runde>;
 
     static bool gibt_es(int zeile) { return zeile >= 0 && zeile < zeilen_anzahl; }
     const eintrag& an(int zeile) const { return zeilen_[static_cast<std::size_t>(zeile)]; }

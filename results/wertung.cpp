@@ -127,6 +127,7 @@ rennergebnis wertung::kopf_bilden() const {
     rennergebnis neu;
     neu.ziel = um_.param.renn_ziel;
     neu.zeit_um = zeit_um(um_);
+    neu.teil = um_.zustand.konto.teil();
     neu.wertung = um_.param.auswertung_nach_rennen;
     neu.vorzeitig = um_.zustand.rennabbruch;
     const std::string& ende = um_.zustand.rennen_ende_uhrzeit;
