@@ -52,12 +52,16 @@ bool wettkampf::ende_pruefen() const {
 }
 
 renn_uebergabe wettkampf::uebergabe() const {
+    return uebergabe(fortsetzung_nummer(aktuelles_rennen) + 1);
+}
+
+renn_uebergabe wettkampf::uebergabe(int teil) const {
     renn_uebergabe neu;
     if (aktuelles_rennen > rennen_gesamt() || rennen_gefahren(aktuelles_rennen) == rennstatus::gefahren) {
         return neu;
     }
     neu.rennen = aktuelles_rennen;
-    neu.teil = fortsetzung_nummer(aktuelles_rennen) + 1;
+    neu.teil = teil;
     neu.spur_fahrer = plan.feld(neu.rennen, neu.teil);
     for (const int spur : alle_spuren) {
         const int wer = neu.spur_fahrer[spur];

@@ -39,9 +39,23 @@ struct fahrt {
 
 /// Within what a file of the competition holds.
 fahrt begrenzt(const fahrt& wert);
-/// What the race gives each lane. Of a race that went on with its drivers on other lanes, the part since then:
-/// `gebucht` is what the lane's driver has got for the parts before.
-spuren<fahrt> fahrten_aus(const rennergebnis& ergebnis, const spuren<fahrt>& gebucht = {});
+
+/// What the race itself has given a driver for a part of it, whatever the director has made of that in the books.
+struct gutschrift {
+    fahrt gefahren;  ///< its laps alone
+    zeit_ms strafe = 0;
+    zentimeter restmeter = 0;
+
+    fahrt gesamt() const;
+    bool operator==(const gutschrift&) const = default;
+};
+
+/// The parts of a race that a result has.
+struct rennteile {
+    int ab = 1;   ///< with which it was started
+    int bis = 1;  ///< driven last
+    int auf = 1;  ///< on whose lanes the drivers stand
+};
 
 /// What a driver has in all his races. Lane 0 is the total.
 struct fahrer_stand {
@@ -72,6 +86,7 @@ struct gefahrener_teil {
     int rennen = 0;
     int teil = 1;
     spuren<fahrt> fahrten;
+    std::optional<spuren<gutschrift>> aus_rennen = {};  ///< of one of several parts
 
     bool operator==(const gefahrener_teil&) const = default;
 };
@@ -131,9 +146,8 @@ struct wettkampf {
     bool ende_pruefen() const;
     /// For the current race, its next part.
     renn_uebergabe uebergabe() const;
-    /// For `fahrten_aus`: what the drivers, each on his lane of the current race's next part, have got in this race
-    /// from part `ab_teil` on, with which it was started.
-    spuren<fahrt> gebucht(int ab_teil) const;
+    /// For any part of it.
+    renn_uebergabe uebergabe(int teil) const;
     /// Null if not driven.
     const spuren<fahrt>* ergebnis(int rennen, int teil = 1) const;
 
@@ -146,6 +160,9 @@ struct wettkampf {
 
     /// The result of the current race, or of its next part. Fillers get nothing. False if it has been driven.
     bool ergebnis_eintragen(const spuren<fahrt>& fahrten);
+    /// All that a race which may have gone on has given its drivers: parts that are in the books get what has been
+    /// corrected of them since, those that are not come into them. False if the current race has been driven.
+    bool ergebnis_eintragen(const rennergebnis& ergebnis, const rennteile& teile);
     /// The current race if it is open, else the next one, round the list; when only postponed ones are left, they are
     /// open again. False at the end.
     bool naechstes_offenes_rennen();
@@ -165,6 +182,10 @@ struct wettkampf {
     bool operator==(const wettkampf&) const = default;
 
 private:
+    gefahrener_teil* teil_von(int rennen, int teil);
+    /// `gebucht_bis`: the part up to which the books had come.
+    void fahrer_buchen(const rennergebnis& ergebnis, const rennergebnis::spur& s, int wer, const rennteile& teile,
+                       int gebucht_bis);
     fahrt* fahrt_von(int rennen, int teil, int spur);
     int naechstes(int ab, rennstatus status) const;
 };

@@ -64,15 +64,20 @@ bool wettkampf::zurueckstellen(int rennen) {
     return true;
 }
 
+gefahrener_teil* wettkampf::teil_von(int rennen, int teil) {
+    const auto dort = std::find_if(gefahren.begin(), gefahren.end(), [&](const gefahrener_teil& einer) {
+        return einer.rennen == rennen && einer.teil == teil;
+    });
+    return dort == gefahren.end() ? nullptr : &*dort;
+}
+
 fahrt* wettkampf::fahrt_von(int rennen, int teil, int spur) {
     if (spur < 1 || spur > spuren_max) {
         return nullptr;
     }
     const int wer = plan.feld(rennen, teil)[spur];
-    const auto dort = std::find_if(gefahren.begin(), gefahren.end(), [&](const gefahrener_teil& einer) {
-        return einer.rennen == rennen && einer.teil == teil;
-    });
-    return wer == 0 || ist_fueller(wer) || dort == gefahren.end() ? nullptr : &dort->fahrten[spur];
+    gefahrener_teil* const dort = teil_von(rennen, teil);
+    return wer == 0 || ist_fueller(wer) || dort == nullptr ? nullptr : &dort->fahrten[spur];
 }
 
 bool wettkampf::runden_aendern(int rennen, int teil, int spur, int runden, double spurlaenge) {

@@ -14,15 +14,6 @@ zeit_ms bessere(zeit_ms eine, zeit_ms andere) {
     return eine == 0 || (andere > 0 && andere < eine) ? andere : eine;
 }
 
-/// The best of the laps behind the first `davor`. Laps of no time are none.
-zeit_ms beste_nach(const rennergebnis::spur& s, int davor) {
-    zeit_ms beste = 0;
-    for (int runde = davor + 1; runde <= s.rundenzahl(); ++runde) {
-        beste = bessere(beste, s.runden.at(static_cast<std::size_t>(runde)).zeit);
-    }
-    return beste;
-}
-
 }  // namespace
 
 zentimeter zentimeter_aus(double meter) {
@@ -47,18 +38,6 @@ fahrt begrenzt(const fahrt& wert) {
             std::clamp<zentimeter>(wert.meter, 0, meter_grenze), std::clamp<zeit_ms>(wert.beste, 0, zeit_grenze)};
 }
 
-spuren<fahrt> fahrten_aus(const rennergebnis& ergebnis, const spuren<fahrt>& gebucht) {
-    spuren<fahrt> neu;
-    for (const rennergebnis::spur& s : ergebnis.spuren) {
-        const fahrt& davor = gebucht[s.nummer];
-        // a lap that was begun on the former lane says nothing of this one
-        const int ab = std::max(davor.runden, s.vor_fortsetzung.value_or(0));
-        neu[s.nummer] = begrenzt({s.rundenzahl() - davor.runden, s.gesamtzeit - davor.zeit,
-                                  zentimeter_aus(s.meter) - davor.meter, ab == 0 ? s.beste : beste_nach(s, ab)});
-    }
-    return neu;
-}
-
 bool wettkampf::ergebnis_eintragen(const spuren<fahrt>& fahrten) {
     const renn_uebergabe dran = uebergabe();
     if (dran.rennen == 0) {
@@ -71,24 +50,6 @@ bool wettkampf::ergebnis_eintragen(const spuren<fahrt>& fahrten) {
     gefahren.push_back(neu);
     zurueckgestellte.erase(dran.rennen);
     return true;
-}
-
-spuren<fahrt> wettkampf::gebucht(int ab_teil) const {
-    const renn_uebergabe dran = uebergabe();
-    spuren<fahrt> summe;
-    for (int teil = ab_teil; teil < dran.teil; ++teil) {
-        const spuren<fahrt>* const davor = ergebnis(dran.rennen, teil);
-        const startfeld feld = plan.feld(dran.rennen, teil);
-        for (const int spur : alle_spuren) {
-            const int wer = dran.spur_fahrer[spur];
-            const auto* const seine =
-                std::find_if(alle_spuren.begin(), alle_spuren.end(), [&](int dort) { return feld[dort] == wer; });
-            if (davor != nullptr && wer != 0 && seine != alle_spuren.end()) {
-                summe[spur] += (*davor)[*seine];
-            }
-        }
-    }
-    return summe;
 }
 
 std::vector<fahrer_stand> wettkampf::staende() const {

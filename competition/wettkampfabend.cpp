@@ -45,11 +45,12 @@ bool wettkampfabend::rennen_starten() {
         return false;
     }
     uebergeben();
-    ab_teil_ = uebergabe_.teil;
+    ab_teil_ = gefahren_ = uebergabe_.teil;
     if (abgebrochenes_anbieten()) {
         return true;
     }
     uebergeben();  // one that could not go on has left its own set-up
+    ab_teil_ = gefahren_ = uebergabe_.teil;
     automatik_an_ = um_.einst.w_autom;
     von_selbst_ = false;
     unterbrochen_ = false;
@@ -76,6 +77,13 @@ bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil) {
     ergebnis_da_ = false;
     zeigen();
     return true;
+}
+
+bool wettkampfabend::wiederaufgenommen(int fortsetzungen, bool umgesetzt) {
+    const int gebucht = stand_.fortsetzung_nummer(uebergabe_.rennen);
+    gefahren_ = ab_teil_ + fortsetzungen;
+    uebergabe_ = stand_.uebergabe(gefahren_ + (umgesetzt ? 1 : 0));
+    return ab_teil_ <= gebucht + 1 && gebucht <= gefahren_ && uebergabe_.teil <= stand_.plan.teile;
 }
 
 void wettkampfabend::uebergeben() {
@@ -125,7 +133,7 @@ std::string wettkampfabend::naechste_fahrer() const {
 
 void wettkampfabend::begonnen() {
     automat_.aus();
-    teil_gebucht_ = false;
+    gefahren_ = uebergabe_.teil;
     if (ergebnis_da_) {
         stand_.renndauern.back() = um_.uhr.jetzt() - start_;
     }
@@ -153,8 +161,8 @@ selbstlauf wettkampfabend::danach() const {
 }
 
 void wettkampfabend::buchen(const rennergebnis& ergebnis) {
-    if (!teil_gebucht_ && stand_.aktuelles_rennen == uebergabe_.rennen) {
-        stand_.ergebnis_eintragen(fahrten_aus(ergebnis, stand_.gebucht(ab_teil_)));
+    if (stand_.aktuelles_rennen == uebergabe_.rennen) {
+        stand_.ergebnis_eintragen(ergebnis, {ab_teil_, gefahren_, uebergabe_.teil});
     }
 }
 
@@ -162,11 +170,7 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
     switch (wie) {
         case weitergang::wiederholen:
         case weitergang::neu_starten:
-            teil_gebucht_ = false;
-            stand_.wiederholen(uebergabe_.rennen);
-            uebergeben();
-            ab_teil_ = uebergabe_.teil;
-            gesichert(sichern());
+            neu_beginnen();
             break;
         case weitergang::fortsetzen:
             teil_abschliessen(ergebnis);
@@ -179,13 +183,22 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
     return true;
 }
 
+void wettkampfabend::neu_beginnen() {
+    stand_.wiederholen(uebergabe_.rennen);
+    uebergeben();
+    ab_teil_ = gefahren_ = uebergabe_.teil;
+    gesichert(sichern());
+}
+
 void wettkampfabend::teil_abschliessen(const rennergebnis& ergebnis) {
+    const bool schon_gesichert = teil_gebucht();
     buchen(ergebnis);
     // the rest of the race may be driven another day
-    bool alles = teil_gebucht_ || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, uebergabe_.teil, ergebnis);
-    // who has come back from the light without going on stands on his next lane already
-    wechsel_ = std::exchange(teil_gebucht_, true) ? spuren<int>{} : stand_.plan.herkunft;
+    bool alles = schon_gesichert || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, gefahren_, ergebnis);
+    const int stehen_auf = uebergabe_.teil;
     uebergabe_ = stand_.uebergabe();
+    // who has come back from the light without going on stands on his next lane already
+    wechsel_ = uebergabe_.teil == stehen_auf ? spuren<int>{} : stand_.plan.herkunft;
     alles = sichern() && alles;
     gesichert(alles);
 }
@@ -196,7 +209,7 @@ void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
     stand_.renndauern.push_back(um_.uhr.jetzt() - start_);
     ergebnis_da_ = true;
     stand_.naechstes_offenes_rennen();
-    bool alles = um_.ablage.rennen_sichern(stand_, rennen, uebergabe_.teil, ergebnis);
+    bool alles = um_.ablage.rennen_sichern(stand_, rennen, gefahren_, ergebnis);
     alles = sichern() && alles;
     alles = um_.ablage.zwischenstand_sichern(stand_) && alles;
     if (stand_.ende_pruefen()) {

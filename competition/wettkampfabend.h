@@ -87,6 +87,9 @@ public:
     /// The race window is to go on where an outage has left this race, which was started with that part. False if the
     /// evening has come elsewhere.
     bool rennen_wiederaufnehmen(int rennen, int ab_teil);
+    /// It has come to where it was: it had gone on so often, and perhaps its drivers stand on the lanes of the next
+    /// part. False if the books cannot be of that race: they have parts that it lacks, or lack some that it has not.
+    bool wiederaufgenommen(int fortsetzungen, bool umgesetzt);
     /// What the director changes: keeps it and shows it, if `was` says true.
     bool aendern(const std::function<bool(wettkampf&)>& was);
 
@@ -115,14 +118,14 @@ public:
     void begonnen() override;
     std::optional<dauer_ms> nach_einfahren() const override;
     void einfahren_beendet() override;
-    void weitergefahren() override { teil_gebucht_ = false; }
+    void weitergefahren() override { gefahren_ = uebergabe_.teil; }
     void abgebrochen() override;
     bool mit_spurwechsel() const override { return false; }
     std::optional<spuren<int>> fester_wechsel() const override { return wechsel_; }
     std::optional<rennziel> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
     bool mit_eigener_datei() const override { return false; }
     ausweg weg_hinaus() const override {
-        return teil_gebucht_ || weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter;
+        return gefahren_ < uebergabe_.teil || weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter;
     }
     selbstlauf danach() const override;
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
@@ -142,7 +145,10 @@ private:
     }
     bool mit_einfahrzeit() const { return um_.einst.w_einfahren_an && um_.fenster.gibt_es(fenstername::einfahren); }
     void uebergeben();
+    /// The part that was driven last is in the books.
+    bool teil_gebucht() const { return stand_.fortsetzung_nummer(uebergabe_.rennen) >= gefahren_; }
     void buchen(const rennergebnis& ergebnis);
+    void neu_beginnen();
     void teil_abschliessen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();
@@ -156,10 +162,10 @@ private:
     rennautomat automat_;
     std::vector<abendansicht*> ansichten_;
     wettkampf stand_;
-    renn_uebergabe uebergabe_;   ///< of the race that is being driven
-    int ab_teil_ = 1;            ///< the part with which it was started
-    spuren<int> wechsel_;        ///< into the next part, per lane the one that its driver comes from
-    bool teil_gebucht_ = false;  ///< its result is in the books, and it has not gone on since
+    renn_uebergabe uebergabe_;  ///< of the race that is being driven, for the part on whose lanes the drivers stand
+    int ab_teil_ = 1;           ///< the part with which it was started
+    spuren<int> wechsel_;       ///< into the next part, per lane the one that its driver comes from
+    int gefahren_ = 1;          ///< the part that has been driven last, or is being driven
     bool aktiv_ = false;
     bool automatik_an_ = false;
     bool von_selbst_ = false;  ///< the next part begins without anybody

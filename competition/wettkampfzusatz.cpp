@@ -5,6 +5,7 @@
 
 #include "core/einstellungszeile.h"
 #include "core/text.h"
+#include "race/rundenspeicher.h"
 
 namespace tarvel {
 namespace {
@@ -14,6 +15,8 @@ constexpr std::string_view zusatz_kopf = "[Wettkampfzusatz 1]";
 constexpr std::string_view kopf_anfang = "[Wettkampfzusatz ";
 constexpr std::string_view zusatz_ende = "[Zusatzende]";
 constexpr std::int64_t laenge_max = 999999999;
+constexpr std::int64_t gutschrift_max = 1000000000000;
+constexpr std::size_t gutschrift_werte = 6;
 
 using werte = std::vector<std::string_view>;
 
@@ -29,6 +32,15 @@ std::string teil_zeile(const gefahrener_teil& einer) {
     std::string zeile = reihe("Fahrt", {einer.rennen, einer.teil});
     for (const fahrt& eine : einer.fahrten) {
         zeile += "," + zahl_mit_platz(eine.zeit) + ", " + zahl_fest(als_meter(eine.meter), '.');
+    }
+    return zeile;
+}
+
+std::string gutschrift_zeile(const gefahrener_teil& einer, const spuren<gutschrift>& aus_rennen) {
+    std::string zeile = reihe("Gutschrift", {einer.rennen, einer.teil});
+    for (const gutschrift& g : aus_rennen) {
+        zeile +=
+            reihe("", {g.gefahren.runden, g.gefahren.zeit, g.gefahren.meter, g.gefahren.beste, g.strafe, g.restmeter});
     }
     return zeile;
 }
@@ -107,6 +119,25 @@ bool fahrt_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/
     return true;
 }
 
+/// Stands behind the line of its part.
+bool gutschrift_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/) {
+    if (z.gefahren.empty() || zahl_zwischen(w[1], 1, tabelle_max) != z.gefahren.back().rennen ||
+        zahl_zwischen(w[2], 1, spuren_max) != z.gefahren.back().teil) {
+        return false;
+    }
+    std::size_t stelle = 3;
+    const auto zahl = [&] { return ganzzahl_lesen(w[stelle++], -gutschrift_max, gutschrift_max); };
+    for (gutschrift& g : z.gefahren.back().aus_rennen.emplace()) {
+        g.gefahren.runden = static_cast<int>(std::clamp<std::int64_t>(zahl(), 0, runden_max));
+        g.gefahren.zeit = zahl();
+        g.gefahren.meter = zahl();
+        g.gefahren.beste = zahl();
+        g.strafe = zahl();
+        g.restmeter = zahl();
+    }
+    return true;
+}
+
 bool renndauer_lesen(wettkampf_zusatz& z, const werte& w, std::string_view /*zeile*/) {
     z.renndauern.push_back(ganzzahl_lesen(w[1], 0, laenge_max));
     return true;
@@ -117,7 +148,7 @@ struct zeilenart {
     std::size_t werte;  ///< at least, with the name
     zeilenleser lesen;
 };
-constexpr std::array<zeilenart, 10> zeilenarten{{
+constexpr std::array<zeilenart, 11> zeilenarten{{
     {"Art", 2, art_lesen},
     {"Teile", 2, teile_lesen},
     {"Herkunft", 1 + spuren_max, herkunft_lesen},
@@ -127,6 +158,7 @@ constexpr std::array<zeilenart, 10> zeilenarten{{
     {"Beginn", 2, beginn_lesen},
     {"Platz", 4, platz_lesen},
     {"Fahrt", 3 + 2 * spuren_max, fahrt_lesen},
+    {"Gutschrift", 3 + gutschrift_werte* spuren_max, gutschrift_lesen},
     {"Renndauer", 2, renndauer_lesen},
 }};
 
@@ -173,7 +205,12 @@ std::vector<std::string> zusatz_zeilen(const wettkampf& w) {
         const std::string bild = i < w.bilder.size() ? als_zeile(w.bilder[i]) : "";
         zeilen.push_back(reihe("Platz", {platz.fahrer, platz.fueller}) + "," + bild);
     }
-    std::transform(w.gefahren.begin(), w.gefahren.end(), std::back_inserter(zeilen), teil_zeile);
+    for (const gefahrener_teil& einer : w.gefahren) {
+        zeilen.push_back(teil_zeile(einer));
+        if (einer.aus_rennen) {
+            zeilen.push_back(gutschrift_zeile(einer, *einer.aus_rennen));
+        }
+    }
     for (const zeit_ms dauer : w.renndauern) {
         zeilen.push_back(reihe("Renndauer", {dauer}));
     }

@@ -182,6 +182,12 @@ bool wiederaufnahme::eingliedern(std::string_view kennung) {
     return true;
 }
 
+bool wiederaufnahme::im_abend_richtig(std::string_view kennung) {
+    const renn_zustand& zustand = um_.rennen.zustand;
+    return !kennung.starts_with(abend_kennung) ||
+           um_.wettkampf.wettkampfabend.wiederaufgenommen(zustand.konto.teil(), zustand.umgesetzt);
+}
+
 dauer_ms wiederaufnahme::vergangen(const protokollstand& stand) const {
     const sekunden beginn = als_zeitpunkt(datum_lesen(stand.kopf.zeitpunkt));
     const dauer_ms seit_beginn = als_zeitpunkt(um_.dienste.kalender.jetzt()) - beginn;
@@ -201,7 +207,7 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
     um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
     um_.protokoll.fuehren = fuehren;
     um_.protokoll.bereitlegen(k.stand);
-    if (!wertungsfolge(um_.rennen, um_.ergebnisse.wertung).bis_zum_ende()) {
+    if (!wertungsfolge(um_.rennen, um_.ergebnisse.wertung).bis_zum_ende() || !im_abend_richtig(k.stand.kopf.teil_von)) {
         um_.fenster.entladen(fenstername::k_ampel);
         um_.fenster.entladen(fenstername::bahn1);
         um_.rennen.protokoll.aufhoeren();

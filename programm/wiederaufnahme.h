@@ -57,6 +57,8 @@ private:
     bool einrichten(const protokollkopf& kopf);
     /// Makes the race part of what it was part of. False if that is no more.
     bool eingliedern(std::string_view kennung);
+    /// The books of the evening, if it is part of one, are those of a race that has come so far.
+    bool im_abend_richtig(std::string_view kennung);
     /// Since the last line of the log, by the calendar.
     dauer_ms vergangen(const protokollstand& stand) const;
     void aufwachen(const kandidat& k, const mitschrift::werte& uhrstand);

@@ -160,14 +160,18 @@ TEST(Wettkampf, TeileEinesRennensBekommenNurIhrEigenes) {
         return s;
     };
     e.spuren = {spur(1, {500, 6000, 7000}, 20.5), spur(2, {500, 8000}, 10)};
-    w.ergebnis_eintragen(fahrten_aus(e, w.gebucht(1)));
+    w.ergebnis_eintragen(e, {1, 1, 1});
     EXPECT_EQ(w.rennen_gefahren(1), rennstatus::offen);
     const renn_uebergabe dran = w.uebergabe();
     EXPECT_EQ(dran.teil, 2);
     EXPECT_EQ(dran.spur_fahrer[1], 2);
     e.spuren = {spur(1, {500, 8000, 7500, 9000}, 30), spur(2, {500, 6000, 7000, 6500}, 32.25)};
-    e.spuren[0].vor_fortsetzung = 2;  // was under way when the cars changed lanes
-    w.ergebnis_eintragen(fahrten_aus(e, w.gebucht(1)));
+    e.teil = 1;
+    for (const auto& [lane, lap] : {std::pair(0, 2), {0, 3}, {1, 3}}) {
+        e.spuren.at(static_cast<std::size_t>(lane)).runden.at(static_cast<std::size_t>(lap)).teil = 1;
+    }
+    e.spuren[0].runden[2].angefangen = true;  // was under way when the cars changed lanes
+    w.ergebnis_eintragen(e, {1, 2, 2});
     EXPECT_TRUE(w.ende_pruefen());
     const auto staende = w.staende();
     EXPECT_EQ(staende[0].auf[1], (fahrt{2, 13000, 2050, 6000}));

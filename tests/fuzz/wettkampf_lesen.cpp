@@ -22,7 +22,8 @@ void zu_ende_fahren(wettkampf w) {
     const int teile = w.rennen_gesamt() * w.plan.teile;
     for (int teil = 0; w.naechstes_offenes_rennen(); ++teil) {
         fordern(teil < teile && abend_blicken(w).noch > 0, "the evening has no end");
-        fordern(w.ergebnis_eintragen(w.gebucht(1)), "an open race takes no result");
+        fordern(w.ergebnis_eintragen(rennergebnis{}, {1, w.uebergabe().teil, w.uebergabe().teil}),
+                "an open race takes no result");
     }
     fordern(w.ende_pruefen() && w.uebergabe().rennen == 0, "the evening is over but has not ended");
     const auto fahrer = fahrer_in_rangfolge(w, w.wertung).size();
