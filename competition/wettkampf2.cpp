@@ -283,7 +283,7 @@ bool wettkampf2::fragen(const std::string& text, const std::string& ueberschrift
 
 void wettkampf2::wiederholen() {
     const int rennen = gewaehltes();
-    if (fragen(wort_.wiederholen, wort_.wiederholen_titel)) {
+    if (wiederholen_fragen()) {
         abend_.aendern([rennen](wettkampf& w) { return w.wiederholen(rennen); });
     }
 }

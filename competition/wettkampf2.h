@@ -105,6 +105,8 @@ public:
     bool escape_schliesst() const override { return false; }
     /// No evening runs, or all its races are driven, or the director says so.
     bool darf_enden();
+    /// Asks whether the results of a race may be lost.
+    bool wiederholen_fragen() { return fragen(wort_.wiederholen, wort_.wiederholen_titel); }
 
 private:
     enum class feldgruppe { blick, aushang, runden, namen };

@@ -166,11 +166,15 @@ void wettkampfabend::buchen(const rennergebnis& ergebnis) {
     }
 }
 
+bool wettkampfabend::darf_wiederholen() const {
+    return stand_.fortsetzung_nummer(uebergabe_.rennen) == 0 || wiederholen_fragen();
+}
+
 bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
     switch (wie) {
         case weitergang::wiederholen:
         case weitergang::neu_starten:
-            neu_beginnen();
+            neu_beginnen(ergebnis);
             break;
         case weitergang::fortsetzen:
             teil_abschliessen(ergebnis);
@@ -183,11 +187,13 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
     return true;
 }
 
-void wettkampfabend::neu_beginnen() {
+void wettkampfabend::neu_beginnen(const rennergebnis& ergebnis) {
+    bool alles = teil_gebucht() || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, gefahren_, ergebnis);
     stand_.wiederholen(uebergabe_.rennen);
     uebergeben();
     ab_teil_ = gefahren_ = uebergabe_.teil;
-    gesichert(sichern());
+    alles = sichern() && alles;
+    gesichert(alles);
 }
 
 void wettkampfabend::teil_abschliessen(const rennergebnis& ergebnis) {

@@ -72,6 +72,8 @@ public:
 
     /// Offers the race that is about to be started, if it was broken off; true if it goes on.
     std::function<bool()> abgebrochenes_anbieten = [] { return false; };
+    /// Asks whether results in the books may be lost.
+    std::function<bool()> wiederholen_fragen = [] { return true; };
     /// Told whenever something has changed.
     void ansicht_anmelden(abendansicht& ansicht) { ansichten_.push_back(&ansicht); }
     const wettkampf& stand() const { return stand_; }
@@ -128,6 +130,7 @@ public:
         return gefahren_ < uebergabe_.teil || weiterer_teil() ? ausweg::fortsetzen : ausweg::weiter;
     }
     selbstlauf danach() const override;
+    bool darf_wiederholen() const override;
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
     fenstername zurueck() const override { return fenstername::wettkampf2; }
 
@@ -148,7 +151,7 @@ private:
     /// The part that was driven last is in the books.
     bool teil_gebucht() const { return stand_.fortsetzung_nummer(uebergabe_.rennen) >= gefahren_; }
     void buchen(const rennergebnis& ergebnis);
-    void neu_beginnen();
+    void neu_beginnen(const rennergebnis& ergebnis);
     void teil_abschliessen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();

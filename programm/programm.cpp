@@ -118,6 +118,7 @@ void programm::hauptfenster_verbinden() {
     form1.wettkampf_beginnen = [this] { wettkampf1.oeffnen(); };
     form1.rennen_fortsetzen = [this] { wiederaufnahme_->anbieten(); };
     wettkampfabend.abgebrochenes_anbieten = [this] { return wiederaufnahme_->abgebrochenes_anbieten(); };
+    wettkampfabend.wiederholen_fragen = [this] { return wettkampf2.wiederholen_fragen(); };
     form1.training_beginnen = [this] { training_beginnen(); };
     form1.bahnstrom_ein = [this] { bahnstrom_von_hand(true); };
     form1.bahnstrom_aus = [this] { bahnstrom_von_hand(false); };

@@ -79,6 +79,8 @@ public:
     virtual bool mit_eigener_datei() const { return true; }
     virtual ausweg weg_hinaus() const { return ausweg::hauptmenue; }
     virtual selbstlauf danach() const { return {}; }
+    /// Repeating the race loses nothing but its result, or that is meant.
+    virtual bool darf_wiederholen() const { return true; }
     /// Takes the result of the race. False, and told, if it could not be kept.
     virtual bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) = 0;
     /// Window to which a race leads that has been left or broken off.

@@ -14,7 +14,12 @@ constexpr int eingabe_laenge_max = 8;
 }  // namespace
 
 void auswertung::befehle_verbinden() {
-    Command1.bei_klick = [this] { bestzeiten_vor(aktion::wiederholen); };
+    Command1.bei_klick = [this] {
+        selbstlauf_unterbrechen();  // nothing goes on while it asks
+        if (um_.teil_von->darf_wiederholen()) {
+            bestzeiten_vor(aktion::wiederholen);
+        }
+    };
     Command2.bei_klick = [this] { bestzeiten_vor(aktion::neu_starten); };
     Command3.bei_klick = [this] {
         rennziel ziel;

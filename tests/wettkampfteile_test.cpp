@@ -216,5 +216,35 @@ TEST_F(Wettkampfteile, WasImErgebnisBerichtigtWirdGiltInDemTeilInDemEsGefahrenWu
     EXPECT_EQ(gebucht(3, auf(3)), fahrt{});
 }
 
+TEST_F(Wettkampfteile, WiederholenSichertDasErgebnisUndFragtWennGebuchteTeileVerlorenGehen) {
+    t.p.einst.aut_speichern = true;
+    const auto dateien = [this] {
+        return t.p.ablage.auflisten("Ergebnisse\\Wettkampf", "Vereinsabend-", ".csv").size();
+    };
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    ersten_teil_fahren();
+    t.maschine.fragen_gestellt.clear();
+    t.p.auswertung.Command1.klicken();
+    EXPECT_TRUE(t.maschine.fragen_gestellt.empty()) << "nothing is in the books";
+    EXPECT_EQ(dateien(), 1U);
+    ASSERT_TRUE(offen(fenstername::bahn1));
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    weiter();
+    gruen_geben();
+    ueberfahren(3);
+    t.maschine.antwort = false;
+    t.maschine.fragen_gestellt.clear();
+    t.p.auswertung.Command1.klicken();
+    ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    EXPECT_EQ(t.maschine.fragen_gestellt.front().titel, "Alle gefahrenen Runden gehen verloren.");
+    EXPECT_TRUE(offen(fenstername::auswertung));
+    EXPECT_EQ(buch().fortsetzung_nummer(1), 1);
+    t.maschine.antwort = true;
+    t.p.auswertung.Command1.klicken();
+    EXPECT_EQ(buch().fortsetzung_nummer(1), 0);
+    EXPECT_EQ(dateien(), 3U);
+}
+
 }  // namespace
 }  // namespace tarvel
