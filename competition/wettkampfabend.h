@@ -107,8 +107,10 @@ public:
     bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
     dauer_s wartezeit() const { return automat_.rest(); }
 
+    /// Tells this evening from another one.
+    std::string abendname() const { return stand_.beginn + " " + stand_.wettkampf_name; }
     std::string kennung() const override {
-        return "wettkampf " + std::to_string(uebergabe_.rennen) + " " + std::to_string(ab_teil_);
+        return "wettkampf " + std::to_string(uebergabe_.rennen) + " " + std::to_string(ab_teil_) + " " + abendname();
     }
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }

@@ -55,10 +55,9 @@ programm::programm(const plattform::dienste& d)
                                                               rennen_->rennen, pflege_})),
       protokoll_(std::make_unique<tarvel::rennprotokoll>(
           tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, ablage, txt, d})),
-      wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(
-          tarvel::wiederaufnahme::umgebung{datei, *this, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen,
-                                           *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), *geraete_,
-                                           d})),
+      wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(tarvel::wiederaufnahme::umgebung{
+          datei, einst, *this, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen, *ergebnisse_, *wettkampf_,
+          *protokoll_, geraete_->rennverbindung(), *geraete_, d})),
       wiedergabe_(std::make_unique<tarvel::wiedergabe>(
           tarvel::wiedergabe::umfeld{{ablage, txt, fenster, d.meldungen}, d.uhr, d.zeitgeber, d.programmordner})),
       form3(start_->form3),

@@ -21,6 +21,43 @@ constexpr std::chrono::hours ausfall_max{24};
 constexpr std::string_view abend_kennung = "wettkampf";
 constexpr std::string_view kopie_endung = ".beschaedigt";
 
+/// What tells a race of an evening from all others.
+struct abendrennen {
+    std::string_view art;
+    int rennen = 0;
+    int ab_teil = 1;
+    std::string_view abend;  ///< empty in older logs
+};
+
+abendrennen abendrennen_lesen(std::string_view kennung) {
+    abendrennen gelesen;
+    gelesen.art = naechstes_wort(kennung);
+    gelesen.rennen = static_cast<int>(als_zahl(naechstes_wort(kennung)).value_or(0));
+    gelesen.ab_teil = static_cast<int>(als_zahl(naechstes_wort(kennung)).value_or(1));
+    gelesen.abend = kennung;
+    return gelesen;
+}
+
+/// What the director may have switched since, and what no race depends on.
+struct zwischendurch {
+    bool w_autom;
+    bool w_speichern;
+    bool aut_speichern;
+    bool aut_loeschen;
+
+    explicit zwischendurch(const einstellungen& e)
+        : w_autom(e.w_autom),
+          w_speichern(e.w_speichern),
+          aut_speichern(e.aut_speichern),
+          aut_loeschen(e.aut_loeschen) {}
+    void behalten(einstellungen& e) const {
+        e.w_autom = w_autom;
+        e.w_speichern = w_speichern;
+        e.aut_speichern = aut_speichern;
+        e.aut_loeschen = aut_loeschen;
+    }
+};
+
 using sekunden = std::chrono::sys_seconds;
 
 sekunden als_zeitpunkt(const plattform::datum_uhrzeit& d) {
@@ -93,15 +130,16 @@ void wiederaufnahme::nach_dem_start_anbieten() {
         k.reset();  // nobody has lost it
     }
     if (k && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
-        if (um_.wettkampf.wettkampfablauf.unterbrochenen_anbieten("\n\n" + frage(k->stand))) {
-            fortsetzen(*k);
-        } else {
+        const bool will = um_.wettkampf.wettkampfablauf.unterbrochenen_anbieten("\n\n" + frage(k->stand));
+        if (!will || !fortsetzen(*k)) {
             weglegen(*k);
         }
         return;
     }
     if (k && um_.dienste.meldungen.anbieten(frage(k->stand), um_.txt.titel[0])) {
-        fortsetzen(*k);
+        if (!fortsetzen(*k)) {
+            weglegen(*k);
+        }
         return;
     }
     if (k) {
@@ -134,12 +172,12 @@ bool wiederaufnahme::abgebrochenes_anbieten() {
     if (!k || !k->stand.abgebrochen || k->stand.beendet) {
         return false;
     }
-    const auto rennen_von = [](std::string_view kennung) {
-        const std::string_view art = naechstes_wort(kennung);
-        return std::pair(art, naechstes_wort(kennung));
-    };
+    const std::string kennung = um_.wettkampf.wettkampfabend.kennung();
+    const abendrennen dran = abendrennen_lesen(kennung);
+    const abendrennen damals = abendrennen_lesen(k->stand.kopf.teil_von);
     const renn_parameter& param = um_.rennen.umgebung.param;
-    bool dieselben = rennen_von(k->stand.kopf.teil_von) == rennen_von(um_.wettkampf.wettkampfabend.kennung());
+    bool dieselben =
+        damals.art == dran.art && damals.rennen == dran.rennen && (damals.abend.empty() || damals.abend == dran.abend);
     for (const int spur : alle_spuren) {
         dieselben = dieselben && (!param.spur_aktiv[spur] || param.fahrer_name[spur] == k->stand.fahrer[spur]);
     }
@@ -155,7 +193,9 @@ bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
     if (um_.datei.fehler_laden()) {
         return false;
     }
+    const zwischendurch seither(um_.einst);
     um_.datei.einstellungen_uebernehmen({});
+    seither.behalten(um_.einst);
     um_.folgen.einstellungen_geladen(true);
     return true;
 }
@@ -164,10 +204,10 @@ bool wiederaufnahme::eingliedern(std::string_view kennung) {
     std::string_view rest = kennung;
     const std::string_view art = naechstes_wort(rest);
     if (art == abend_kennung) {
-        const auto rennen = als_zahl(naechstes_wort(rest)).value_or(0);
-        const auto teil = als_zahl(rest).value_or(1);
-        return um_.wettkampf.wettkampfabend.wettkampf_aktiv() &&
-               um_.wettkampf.wettkampfabend.rennen_wiederaufnehmen(static_cast<int>(rennen), static_cast<int>(teil));
+        wettkampfabend& abend = um_.wettkampf.wettkampfabend;
+        const abendrennen dort = abendrennen_lesen(kennung);
+        return abend.wettkampf_aktiv() && (dort.abend.empty() || dort.abend == abend.abendname()) &&
+               abend.rennen_wiederaufnehmen(dort.rennen, dort.ab_teil);
     }
     ergebnisfluegel& e = um_.ergebnisse;
     if (art == "tagesrennen") {

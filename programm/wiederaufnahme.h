@@ -17,6 +17,7 @@ class wiederaufnahme {
 public:
     struct umgebung {
         einstellungsdatei& datei;
+        einstellungen& einst;
         einstellungsfolgen& folgen;
         fensterregister& fenster;
         ausgaben& ausgang;

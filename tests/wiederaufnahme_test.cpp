@@ -298,5 +298,61 @@ TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
     }
 }
 
+TEST_F(Abgebrochen, WasDerRennleiterInzwischenUmgestelltHatBleibt) {
+    t.p.einst.w_autom = true;
+    t.p.einst.w_speichern = false;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    t.runde_nach(6000, "123");
+    t.maschine.antwort = true;
+    t.rennabbruch();
+    abend.automatik_umschalten();
+    t.p.einst.w_speichern = true;
+    t.p.einst.aut_speichern = true;
+    ASSERT_TRUE(abend.rennen_starten());
+    ASSERT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_FALSE(t.p.einst.w_autom);
+    EXPECT_TRUE(t.p.einst.w_speichern && t.p.einst.aut_speichern);
+}
+
+TEST_F(Abgebrochen, EinAndererAbendBietetEsNichtAn) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    t.runde_nach(6000, "123");
+    t.maschine.antwort = true;
+    t.rennabbruch();
+    abend.beenden();
+    wettkampf anderer = test::wettkampf_mit(wettkampf_modus::rotation, 3, {1, 2, 3});
+    anderer.wettkampf_name = "Finale";
+    abend.beginnen(std::move(anderer));
+    t.maschine.fragen_gestellt.clear();
+    ASSERT_TRUE(abend.rennen_starten());
+    EXPECT_TRUE(t.maschine.fragen_gestellt.empty());
+    EXPECT_TRUE(t.bahn().Command1.bedienbar()) << "from the start";
+}
+
+TEST_F(Abgebrochen, EinRennenDasSchonGebuchtIstWirdNurEinmalAngeboten) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(3);
+    const std::string protokoll = protokoll_von(t);
+    t.p.auswertung.Command5.klicken();
+    ASSERT_EQ(abend.stand().aktuelles_rennen, 2);
+    std::string name = t.p.rennprotokoll.dateiname();
+    std::replace(name.begin(), name.end(), '\\', '/');
+    t.maschine.datei_schreiben(name, protokoll);  // the program has ended in between
+    t.maschine.antwort = true;
+    for (const std::size_t gemeldet : {1U, 0U}) {
+        t.maschine.meldungen_gezeigt.clear();
+        programm neu(t.maschine.dienste());
+        neu.starten();
+        EXPECT_EQ(neu.wettkampfabend.stand().aktuelles_rennen, 2);
+        EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), gemeldet) << letzte_meldung();
+    }
+}
+
 }  // namespace
 }  // namespace tarvel
