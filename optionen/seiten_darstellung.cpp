@@ -41,6 +41,12 @@ optionszeile_zeiger trennzeichen_zeile(const std::string& name, const std::strin
     return zeile;
 }
 
+/// A file of results could not be told into its columns again.
+bool spalten_verwechselbar(const einstellungs_ziel& z) {
+    const trennzeichen_tabelle& t = z.einst.trennzeichen;
+    return t[2] == t[0] || t[2] == t[1] || t[2].find_first_of("0123456789.- ") != std::string::npos;
+}
+
 }  // namespace
 
 std::vector<std::string> sound_ereignisse() {
@@ -118,7 +124,11 @@ optionsseite_zeiger trennzeichen() {
     auto seite = std::make_unique<optionsseite>("Trennzeichen");
     seite->gruppe("Zeiten", 0) << trennzeichen_zeile("trennzeichen_0", "Stunden, Minuten, Sekunden", 0)
                                << trennzeichen_zeile("trennzeichen_1", "Sekunden, Tausendstel", 1);
-    seite->gruppe("Ergebnisdateien (csv)", 0) << trennzeichen_zeile("trennzeichen_2", "Spalten", 2);
+    seite->gruppe("Ergebnisdateien (csv)", 0)
+        << mit_warnung(trennzeichen_zeile("trennzeichen_2", "Spalten", 2),
+                       "Das Trennzeichen der Spalten steht auch in Zeiten oder Zahlen: Ergebnisdateien, die so "
+                       "geschrieben werden, lassen sich nicht wieder lesen.",
+                       spalten_verwechselbar);
     return seite;
 }
 

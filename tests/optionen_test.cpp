@@ -156,7 +156,11 @@ void aendern(optionszeile& zeile) {
     } else if (auto* eingabe = std::get_if<feld>(&zeile.element)) {
         const std::string alt = eingabe->text();
         const bool zahl = !alt.empty() && alt.find_first_not_of("0123456789,") == std::string::npos;
-        eingabe->text(zeile.name.starts_with("trennzeichen") ? "#" : !zahl ? alt + "x" : alt == "3" ? "4" : "3");
+        const std::string zeichen{'#', '%', '&'};
+        eingabe->text(zeile.name.starts_with("trennzeichen") ? zeichen.substr(zeile.name.back() - '0', 1)
+                      : !zahl                                ? alt + "x"
+                      : alt == "3"                           ? "4"
+                                                             : "3");
     } else if (auto* liste = std::get_if<auswahl>(&zeile.element)) {
         liste->platz((liste->platz() + 1) % static_cast<int>(liste->eintraege().size()));
     } else if (auto* farbe_element = std::get_if<farbfeld>(&zeile.element)) {
@@ -211,7 +215,19 @@ TEST_F(Optionen, JederWertWirdGeaendertBehaltenUndWiedergeladen) {
     neu.geraete.von<tx_verdrahtung>().s6_fragefenster.schliessen();  // it asks now, and the settings hold
     EXPECT_EQ(t.maschine.meldungen_gezeigt, meldungen{});
     EXPECT_EQ(neu.datei.schreiben(), nachher);
-    EXPECT_EQ(neu.einst.trennzeichen, (trennzeichen_tabelle{"#", "#", "#"}));
+    EXPECT_EQ(neu.einst.trennzeichen, (trennzeichen_tabelle{"#", "%", "&"}));
+}
+
+TEST_F(Optionen, WerDieSpaltenMitEinemZeichenDerZeitenTrenntWirdGewarnt) {
+    for (const auto& [sekunden, spalten, gewarnt] :
+         {std::tuple(",", ",", true), {",", ".", true}, {",", ";", false}, {";", ";", true}}) {
+        tippen("trennzeichen_1", sekunden);
+        tippen("trennzeichen_2", spalten);
+        t.maschine.meldungen_gezeigt.clear();
+        uebernehmen();
+        EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), gewarnt ? 1U : 0U) << sekunden << spalten;
+        EXPECT_EQ(t.p.einst.trennzeichen[2], spalten) << "as typed";
+    }
 }
 
 TEST_F(Optionen, TrennzeichenDateiWirdGemeldetUndNurNachAenderungGeschrieben) {
