@@ -96,8 +96,8 @@ TEST_F(RaceControl, DasFensterZeigtSchritteUndSensorenUndBehaeltDieSpuren) {
 TEST_F(RaceControl, WasDieBoxNichtErreichtBleibtGrauUndGespeichert) {
     race_control_einstellungen& rc = t.p.einst.rc;
     rc.rc_level = 77;
-    rc.rc_delay_ms = 33;
-    rc.rc_post_ms = 5;
+    rc.rc_delay_ms = dauer_ms(33);
+    rc.rc_post_ms = dauer_ms(5);
     rc.rc_rev_zz = true;
     auto& optionen = t.p.einstellungsfenster;
     optionen.oeffnen(einstellungsfenster::seite_hardware);
@@ -109,7 +109,8 @@ TEST_F(RaceControl, WasDieBoxNichtErreichtBleibtGrauUndGespeichert) {
     }
     EXPECT_FALSE(std::get<auswahl>(optionen.zeile("rc_mod1").element).aktiviert());
     optionen.Command1.klicken();
-    EXPECT_TRUE(rc.rc_level == 77 && rc.rc_delay_ms == 33 && rc.rc_post_ms == 5 && rc.rc_rev_zz);
+    EXPECT_TRUE(rc.rc_level == 77 && rc.rc_delay_ms == dauer_ms(33) &&
+                rc.rc_post_ms == dauer_ms(5) && rc.rc_rev_zz);
 }
 
 }  // namespace
