@@ -151,6 +151,7 @@ void fortsetzung::weiterfahren() {
     zustand.unterbrechung_abziehen(fortsetz_zeit - zustand.renn_ende_stempel);
     um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
+    zustand.pausen_bis_ende.reset();
     zustand.fortsetzung_wartet = false;
     zustand.umgesetzt = false;
     zustand.konto.teil_beginnen();

@@ -53,6 +53,9 @@ void renn_zustand::pausen_nachmessen(double faktor) {
         gemessen = std::llround(static_cast<double>(gemessen) * faktor);
     };
     messen(pause_abzug);
+    if (pausen_bis_ende) {
+        messen(*pausen_bis_ende);
+    }
     messen(pause.dauer);
     for (const int nummer : alle_spuren) {
         spur_zustand& s = spur[nummer];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "core/spuren.h"
@@ -89,8 +90,10 @@ struct renn_zustand {
     spuren<spur_zustand> spur;
     rundenkonto konto;  ///< the laps
 
-    zeit_ms start_zeit = 0;         ///< stamp of the race start
-    zeit_ms pause_abzug = 0;        ///< sum of the pauses; moves the end of the race, not its start
+    zeit_ms start_zeit = 0;   ///< stamp of the race start
+    zeit_ms pause_abzug = 0;  ///< sum of the pauses; moves the end of the race, not its start
+    /// That sum as the race was over, for a run-on or for good.
+    std::optional<zeit_ms> pausen_bis_ende = {};
     zeit_ms renn_ende_zeit = 0;     ///< `start_zeit` + duration
     zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
     int fuehrungsrunden = 0;        ///< most laps that any lane has reached
@@ -123,6 +126,9 @@ struct renn_zustand {
             s.sperre.bis = s.ch_strafe_rest > 0 ? stempel + s.ch_strafe_rest : s.sperre.bis;
         }
     }
+
+    /// What has been paused since the race was over.
+    zeit_ms pausen_im_nachlauf() const { return pause_abzug - pausen_bis_ende.value_or(pause_abzug); }
 
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {

@@ -63,6 +63,7 @@ void rennablauf::rennen_zuruecksetzen() {
         zustand.konto.leeren(spur);
     }
     zustand.pause_abzug = 0;
+    zustand.pausen_bis_ende.reset();
     zustand.fortgesetzt = false;
     zustand.fortsetzung_wartet = false;
     zustand.umgesetzt = false;

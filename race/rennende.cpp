@@ -85,9 +85,10 @@ void rennende::rennende_einleiten() {
         return;
     }
     zustand.ende_eingeleitet = true;
+    zustand.pausen_bis_ende = zustand.pause_abzug;
     ende_stempeln();
-    if (um_.ist_zeitrennen()) {  // a machine that stood still finds it late
-        zustand.renn_ende_stempel = std::min(zustand.renn_ende_stempel, zustand.renn_ende_zeit + zustand.pause_abzug);
+    if (um_.ist_zeitrennen()) {
+        zeit_ist_um();
     }
     um_.protokoll.vermerken(vermerk::letzte, {zustand.renn_ende_stempel});
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
@@ -99,6 +100,19 @@ void rennende::rennende_einleiten() {
         nachlauf_zeit_starten();
     } else {
         rennende_ablauf();
+    }
+}
+
+void rennende::zeit_ist_um() {
+    renn_zustand& zustand = um_.zustand;
+    const zeit_ms ende = zustand.renn_ende_zeit + zustand.pause_abzug;
+    zustand.renn_ende_stempel = std::min(zustand.renn_ende_stempel, ende);
+    for (const int spur : alle_spuren) {  // a machine that stood still finds it late: who has come since is home
+        const spur_zustand& eine = zustand.spur[spur];
+        const bool danach = eine.gezaehlt_bei >= ende && eine.pause_im_stempel == 0;  // else it came before a pause
+        if (danach && !um_.einst.zielmodus_erster && !eine.ziel_erreicht) {
+            spur_ziel_setzen(spur);
+        }
     }
 }
 

@@ -42,6 +42,8 @@ private:
     bool am_ziel(int spur) const;
     bool ist_zu_ende() const;
     bool alle_fertig() const;
+    /// The end of a time race has been found.
+    void zeit_ist_um();
     void nachlauf_zeit_starten();
     void nachlauf_runden_starten();
 

@@ -130,7 +130,10 @@ bool korrigieren(rennergebnis& ergebnis, const korrektur& k) {
 }
 
 std::optional<zeit_ms> zeit_um(const renn_umgebung& um) {
-    return um.ist_zeitrennen() ? std::optional(um.zustand.renn_ende_zeit + um.zustand.pause_abzug) : std::nullopt;
+    const renn_zustand& zustand = um.zustand;
+    return um.ist_zeitrennen()
+               ? std::optional(zustand.renn_ende_zeit + zustand.pausen_bis_ende.value_or(zustand.pause_abzug))
+               : std::nullopt;
 }
 
 rundenkorrektur::rundenkorrektur(const renn_umgebung& um, sektoren& sektor) : um_(um), sektor_(sektor) {

@@ -121,8 +121,10 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereig
     um_.protokoll.vermerken(vermerk::runde, {spur, konto.runden(spur), zeit, stempel});
     // Told late, a crossing from before the end is no finish. Also with the account full the car can still come home.
     constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment earlier
-    const bool nach_dem_ende = stempel >= um_.zustand.renn_ende_stempel - takt_ms;
-    if (um_.zeitgeber.nachlauftimer1->laeuft() && nach_dem_ende) {
+    const bool nachlauf = um_.zeitgeber.nachlauftimer1->laeuft();
+    const zeit_ms gestanden = nachlauf ? um_.zustand.pausen_im_nachlauf() : 0;  // has moved this one, but not the end
+    const bool nach_dem_ende = stempel - gestanden >= um_.zustand.renn_ende_stempel - takt_ms;
+    if (nachlauf && nach_dem_ende) {
         t_.ende.spur_ziel_setzen(spur);
     } else if (um_.zustand.rennen_beendet && (nach_dem_ende || t_.ende.hat_das_ziel(spur))) {
         zustand.ziel_erreicht = true;  // the lap that the end has cut short, and no further one

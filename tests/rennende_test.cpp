@@ -126,6 +126,40 @@ TEST_F(Rennende, ZeitrennenLetzterImZielGibtJedemNochEineUeberfahrt) {
     EXPECT_FALSE(t.p.rennen.zeitgeber.renntimer->laeuft());
 }
 
+TEST_F(Rennende, WasSpaetGesagtWirdZaehltFuerDenAugenblickInDemEsGeschah) {
+    t.p.einst.zielmodus_erster = false;
+    t.p.einst.sensor_timeout = 0ms;
+    t.p.einst.chaosampel_an = false;
+    t.starten("Zeit", "1", {1, 2, 3});
+    const zeit_ms null = t.p.rennen.zustand.start_zeit + 60000;
+    t.runde_nach(1000, "123");
+    t.maschine.laufen(58900);
+    t.maschine.uhr_stellen(300);  // the loop stands still
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[1], null + 50);
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[2], null - 50);
+    t.maschine.laufen(2);
+    EXPECT_TRUE(t.spur(1).ziel_erreicht) << "that was its last crossing";
+    EXPECT_FALSE(strom(1));
+    EXPECT_FALSE(t.spur(2).ziel_erreicht);
+    t.maschine.laufen(4000);
+    t.taste("c");
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[3], null - 40);
+    t.maschine.laufen(4000);
+    t.taste("c");
+    ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    t.maschine.laufen(10);
+    EXPECT_EQ(t.runden(3), 1);
+    EXPECT_FALSE(t.spur(3).ziel_erreicht) << "the line was slow, the car was not";
+    EXPECT_FALSE(beendet());
+    t.runde_nach(4000, "123");
+    EXPECT_TRUE(beendet());
+    for (const int spur : {1, 2, 3}) {
+        EXPECT_EQ(t.runden(spur), spur == 1 ? 1 : 2);
+    }
+    EXPECT_EQ(t.p.wertung.ergebnis().zeit_um, null) << "no pause of the run-on moves it";
+    EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
+}
+
 TEST_F(Rennende, NachlaufDauertHoechstensZweiMinuten) {
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
