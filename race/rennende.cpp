@@ -178,8 +178,11 @@ void rennende::rennende_ablauf() {
         uhr_.tausendstel_auf_null();
     }
     um_.sounds.spielen(sound::rennen_beendet);
+    const bool wieder_zurueck = zustand.fortsetzung_wartet;
     abschluss->laufendes_beenden();
-    zustand.rennen_ende_uhrzeit = uhrzeit_text(um_.kalender.jetzt());
+    if (const std::string jetzt = uhrzeit_text(um_.kalender.jetzt()); !wieder_zurueck) {
+        zustand.rennen_ende_uhrzeit = jetzt;
+    }
     ausgaben_endzustand();
     um_.fenster.entladen(fenstername::Form2);  // a very short race ends before its start light goes
     zustand.rennen_beendet = true;

@@ -147,6 +147,44 @@ TEST_F(Fortsetzung, AbbruchVorGruenFragt) {
     EXPECT_FALSE(offen(fenstername::k_ampel));
 }
 
+TEST_F(Fortsetzung, WerVorGruenEndetHatDasErgebnisVonVorher) {
+    t.p.einst.zielmodus_erster = false;
+    t.starten("Zeit", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(64000, "1");
+    t.taste("c");
+    t.maschine.laufen(4000);
+    t.bahn().Command3.klicken();
+    gruen();
+    t.runde_nach(5000, "2");
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    const rennergebnis vorher = t.p.wertung.ergebnis();
+    const zeit_ms gefahren = t.p.rennen.fortsetzung.gefahren();
+    EXPECT_EQ(vorher.zeit_um, zustand.start_zeit + 60000);
+    for (int mal = 0; mal < 2; ++mal) {
+        t.maschine.datum_stellen({2026, 11, 21, 15, mal, 0});
+        a.neues_ziel.eingeben("5");
+        a.Command3.klicken();
+        t.maschine.laufen(60000);
+        t.rennende();
+        ASSERT_TRUE(offen(fenstername::auswertung));
+        const rennergebnis& danach = t.p.wertung.ergebnis();
+        EXPECT_EQ(danach.zeit_um, vorher.zeit_um);
+        EXPECT_EQ(danach.datum + danach.uhrzeit, vorher.datum + vorher.uhrzeit);
+        EXPECT_EQ(t.p.rennen.fortsetzung.gefahren(), gefahren);
+    }
+    a.neues_ziel.eingeben("2");
+    a.Command3.klicken();
+    gruen();
+    t.maschine.laufen(59990);
+    EXPECT_FALSE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
+    t.maschine.laufen(20);
+    EXPECT_TRUE(t.p.rennen.zeitgeber.nachlauftimer1->laeuft());
+    const zeit_ms um = t.maschine.jetzt();
+    t.rennende();
+    EXPECT_NEAR(static_cast<double>(*t.p.wertung.ergebnis().zeit_um), static_cast<double>(um), 20);
+}
+
 TEST_F(Fortsetzung, SelbststartBleibtNichtLiegen) {
     t.p.einst.training_wechseldauer = 3s;
     t.p.einst.training_weiter = training_weitergang::fortsetzen;
