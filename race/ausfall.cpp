@@ -20,6 +20,7 @@ void ausfall::eintreten(zeit_ms stempel) {
     }
     if (!um_.zustand.chaos_aktiv) {
         um_.ereignisse.messzeit = stempel;
+        t_.pause.chaos_nachholen();
         t_.zaehlung.runden_auswerten();  // what had come in counts
     }
     t_.pause.nach_ausfall(stempel);

@@ -42,6 +42,8 @@ public:
     /// Begins a pause, or ends the one that is.
     void chaos_umschalten();
     void chaosende_routine();
+    /// The crossings of the pause's beginning count now, if they have not yet.
+    void chaos_nachholen();
     /// The program was away from this stamp on: the race stands still since then, and goes on by the small light.
     void nach_ausfall(zeit_ms seit);
     /// The race ends in its pause: nothing of the pause stays.
@@ -79,7 +81,6 @@ private:
     void sammeln_beenden();
     void ch_durch0_tick();
     void chaostimer2_tick();
-    void chaos_nachholen();
     void straftimer_ch_tick(int spur);
     void chaos_schalter_at2560_tick();
 

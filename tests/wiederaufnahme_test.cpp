@@ -74,6 +74,34 @@ TEST_F(Wiederaufnahme, NachEinemAusfallGehtDasRennenWeiterAlsWaereErEinePause) {
     EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
 }
 
+TEST_F(Wiederaufnahme, UeberfahrtImBeginnDerPauseUeberlebtDenAusfallGleichNachIhr) {
+    t_.p.einst.sensor_timeout = 2000ms;
+    t_.p.einst.chaosampel_an = false;
+    t_.starten("Runden", "10", {1, 2});
+    t_.runde_nach(1000, "12");
+    t_.maschine.laufen(4000);
+    t_.taste("c");
+    t_.runde_nach(500, "1");
+    t_.maschine.laufen(5000);
+    t_.taste("c");
+    t_.maschine.laufen(450);
+    ASSERT_FALSE(t_.p.rennen.zustand.chaos_aktiv);
+    ASSERT_EQ(t_.runden(1), 0);
+
+    neustart danach(t_, protokoll_von(t_));
+    danach.p.starten();
+    ASSERT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    danach.weiter();
+    danach.maschine.laufen(2000);
+    danach.p.rennen.befehle.taste('1');
+    danach.maschine.laufen(600);
+    const rundenkonto& konto = danach.lauf().zustand.konto;
+    ASSERT_EQ(konto.runden(1), 2);
+    EXPECT_NEAR(static_cast<double>(konto.rundenzeit(1, 1)), 4500, 5);
+    danach.p.rennen.endfrage.bestaetigen();
+    EXPECT_EQ(test::nachrechnen(danach.p, danach.maschine), "");
+}
+
 TEST_F(Wiederaufnahme, WerNichtWillWirdNichtNochEinmalGefragtUndKannEsSpaeter) {
     t_.starten("Zeit", "10", {1});
     t_.runde_nach(5000, "1");
