@@ -8,7 +8,7 @@ iow_40::iow_40(const umgebung& um)
     : um_(um),
       bibliothek_(std::make_shared<iow_bibliothek>(um.bibliotheken)),
       leitung_(bibliothek_, um.abtaster),
-      kontakte_({um.einst, um.ereignisse, um.rennen}, {.taster_sperrt_taste = true}),
+      kontakte_({um.einst, um.ereignisse, um.rennen}, {.taster_sperrt_taste = true, .schalter_zu_ist_an = true}),
       lebenstakt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, iow_leitung::nachsehen_alle)) {
     lebenstakt_->bei_tick = [this] { lebenstakt_tick(); };
 }

@@ -44,13 +44,17 @@ void kontaktleser::ruhe_merken() {
     proben_->leeren();
     wartet_.reset();
     stand_ = proben_->linien();
-    for (std::size_t linie = 0; linie < linien_max; ++linie) {
-        if (art::ist_eingang(arten_.at(linie))) {
-            um_.ereignisse.ruhe_lernen(arten_.at(linie), (stand_ >> linie & 1U) != 0);
-        }
-    }
     chaos_von_hier_ = false;
     tank_frei_.fuellen(false);
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        const ereignis_art nummer = arten_.at(linie);
+        if (art::ist_eingang(nummer)) {
+            const bool offen_ist_ruhe =
+                eigenheit_.schalter_zu_ist_an && um_.einst.chaos_schalter && nummer == art::chaostaster;
+            um_.ereignisse.ruhe_lernen(nummer, !offen_ist_ruhe && (stand_ >> linie & 1U) != 0);
+        }
+    }
+    schalter_wartet_ = chaostaster_gehalten();
     um_.ereignisse.chaos_taster(false);
 }
 
@@ -84,6 +88,7 @@ void kontaktleser::auswerten() {
         uebernehmen(*std::exchange(wartet_, std::nullopt));
         neues = true;
     }
+    schalter_nachmelden();
     if (tankkontakte_halten() || neues) {
         um_.rennen.tankflanken_auswerten();
     }
@@ -131,19 +136,42 @@ void kontaktleser::chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel) {
         ereignisse.chaos_knopf(spur);
     }
     chaos_von_hier_ = chaos_von_hier_ || !ereignisse[art::chaostaster].aktiv;
+    schalter_wartet_ = !um_.rennen.rennen_laeuft() || stempel < ereignisse.gilt_ab;
     ereignisse.ereignis_melden(art::chaostaster, stempel);
     ereignisse.chaos_taster(um_.einst.chaos_schalter || eigenheit_.taster_sperrt_taste);
 }
 
-void kontaktleser::chaostaster_losgelassen() {
+bool kontaktleser::chaostaster_gehalten() const {
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         if (ist_chaostaster(arten_.at(linie)) && von_ruhe_weg(linie, stand_)) {
-            return;  // another one is held
+            return true;
         }
     }
+    return false;
+}
+
+void kontaktleser::chaostaster_losgelassen() {
+    if (chaostaster_gehalten()) {
+        return;  // another one is
+    }
+    schalter_wartet_ = false;
     um_.ereignisse.chaos_taster(false);
     if (std::exchange(chaos_von_hier_, false) && um_.einst.chaos_schalter) {
         um_.ereignisse.ereignis_weg(art::chaostaster);
+    }
+}
+
+void kontaktleser::schalter_nachmelden() {
+    constexpr zeit_ms lauf_ms = 2 * prellen_ms;  // by then the race has forgotten the switch of the pause before
+    const ereignis_tabelle& ereignisse = um_.ereignisse;
+    if (!schalter_wartet_ || !um_.einst.chaos_schalter || !um_.rennen.rennen_laeuft() ||
+        ereignisse.messzeit < ereignisse.gilt_ab + lauf_ms) {
+        return;
+    }
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        if (ist_chaostaster(arten_.at(linie)) && von_ruhe_weg(linie, stand_)) {
+            chaostaster_gedrueckt(arten_.at(linie), ereignisse.messzeit);
+        }
     }
 }
 

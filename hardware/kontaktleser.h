@@ -16,7 +16,8 @@ namespace tarvel {
 /// What the plain contacts on the lines of an interface say. The thread that samples them hands over each change with
 /// its stamp; the race takes them later, and loses neither an edge nor its time. A lap, sector, sound or chaos contact
 /// counts once each time it leaves its rest level; a tank contact counts for as long as it is away from it. The rest
-/// level is the one that a line has as the race gets ready.
+/// level is the one that a line has as the race gets ready. A chaos switch that was turned on while no race could see
+/// it counts as soon as one runs, if it is still on then.
 class kontaktleser {
 public:
     static constexpr std::size_t linien_max = 32;
@@ -31,6 +32,7 @@ public:
     struct eigenheit {
         bool taster_sperrt_taste = false;    ///< a chaos button that is held locks the key, also where it is no switch
         bool tankt_nur_auf_kontakt = false;  ///< on one contact, also with a contact for the end of it
+        bool schalter_zu_ist_an = false;     ///< a chaos switch is on if it is closed, also as the race gets ready
     };
 
     kontaktleser(const umgebung& um, eigenheit art) : um_(um), eigenheit_(art) {}
@@ -43,6 +45,8 @@ public:
     std::shared_ptr<kontaktproben> neuer_abtaster();
     /// What the lines are now is their rest; what has waited is forgotten.
     void ruhe_merken();
+    /// It goes on behind a break in which nobody has followed the switch.
+    void rennen_fortgesetzt() { schalter_wartet_ = chaostaster_gehalten(); }
     /// Delivers what has come since the last time.
     void auswerten();
     /// The device is gone: nothing is held any more.
@@ -57,6 +61,8 @@ private:
     void zurueckgekommen(ereignis_art nummer);
     void chaostaster_gedrueckt(ereignis_art nummer, zeit_ms stempel);
     void chaostaster_losgelassen();
+    bool chaostaster_gehalten() const;
+    void schalter_nachmelden();
     /// True if one of them is held.
     bool tankkontakte_halten();
     void tankkontakte_freigeben();
@@ -68,8 +74,9 @@ private:
     std::uint32_t stand_ = 0;  ///< the lines as the race knows them
     std::optional<kontaktprobe> wartet_;
     bool gewartet_ = false;
-    bool chaos_von_hier_ = false;  ///< the chaos that waits, or runs, is of a button here
-    spuren<bool> tank_frei_{};     ///< has left its tank contact, and the race does not know yet
+    bool chaos_von_hier_ = false;   ///< the chaos that waits, or runs, is of a button here
+    bool schalter_wartet_ = false;  ///< the switch is on, and no race has seen it
+    spuren<bool> tank_frei_{};      ///< has left its tank contact, and the race does not know yet
 };
 
 }  // namespace tarvel

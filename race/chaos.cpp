@@ -81,7 +81,7 @@ void chaos::pruefen() {
     const bool frei = !um_.zeitgeber.chaostimer->laeuft();
     if (um_.einst.chaos_schalter) {
         schalter_verfolgen();
-        if (frei && taster.aktiv && !schalter_stand) {
+        if (frei && taster.aktiv && !schalter_stand && !um_.zustand.chaos_aktiv) {  // it ends no pause
             schalter_stand = true;
             chaos_umschalten();
         }

@@ -1,6 +1,7 @@
 #include "hardware/kontaktleser.h"
 
 #include "tests/kontaktgeraete_probe.h"
+#include "tests/plattform/neustart.h"
 
 namespace tarvel::test {
 namespace {
@@ -115,6 +116,109 @@ TEST_F(Kontaktleser, TankenEndetMitDemKontaktOderMitSeinemZweiten) {
     const double am_ende = t.spur(2).tank_inhalt;
     t.maschine.laufen(1000);
     EXPECT_EQ(t.spur(2).tank_inhalt, am_ende);
+}
+
+/// However a race came to go on with the switch turned on meanwhile: it does not drive against the switch.
+TEST_F(Kontaktleser, EinSchalterDerInDerPauseAnGehtHaeltDasRennenWiederAn) {
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.chaos_schalter = true;
+    const auto schalten = [&](bool an) { kontakt(bit(1), an, 100); };
+    for (const int timeout : {0, 2000, 10000}) {
+        SCOPED_TRACE(timeout);
+        t.p.einst.sensor_timeout = dauer_ms(timeout);
+        iow_waehlen();
+        t.starten("Runden", "50", {1, 2});
+        t.maschine.laufen(5000);
+        for (const bool mit_taste : {false, true}) {
+            SCOPED_TRACE(mit_taste);
+            const auto pausieren = [&] { mit_taste ? t.taste("c") : t.bahn().Command3.klicken(); };
+            pausieren();
+            ASSERT_TRUE(pause());
+            t.maschine.laufen(4000);
+            schalten(true);
+            t.maschine.laufen(1000);
+            ASSERT_TRUE(pause());
+            schalten(false);  // on and off within the pause says nothing
+            schalten(true);
+            t.bahn().Command3.klicken();
+            ASSERT_FALSE(pause());
+            t.maschine.laufen(3000);
+            EXPECT_TRUE(pause());
+            t.maschine.laufen(3000);
+            t.bahn().Command3.klicken();
+            t.maschine.laufen(8000);
+            EXPECT_FALSE(pause()) << "the director has the last word on it";
+            schalten(false);
+            t.maschine.laufen(1000);
+            EXPECT_FALSE(pause());
+            pausieren();
+            t.maschine.laufen(4000);
+            schalten(true);
+            t.bahn().Command3.klicken();
+            schalten(false);
+            t.maschine.laufen(8000);
+            EXPECT_FALSE(pause()) << "turned off before it could stop anybody";
+        }
+        t.rennabbruch();
+    }
+}
+
+TEST_F(Kontaktleser, EinSchalterDerAmKleinenLichtAnGehtHaeltDasRennenAn) {
+    t.p.einst.chaosampel_an = true;
+    t.p.einst.chaos_schalter = true;
+    iow_waehlen();
+    t.starten("Runden", "50", {1, 2});
+    t.maschine.laufen(5000);
+    kontakt(bit(1), true, 4000);
+    ASSERT_TRUE(pause());
+    kontakt(bit(1), false, 2000);  // its light has begun
+    kontakt(bit(1), true, 6000);
+    ASSERT_FALSE(pause());
+    t.maschine.laufen(2000);
+    EXPECT_TRUE(pause());
+    kontakt(bit(1), false, 12000);
+    ASSERT_FALSE(pause());
+    for (const bool schon_im_rennen : {false, true}) {
+        SCOPED_TRACE(schon_im_rennen);
+        kontakt(bit(1), schon_im_rennen, 1000);
+        EXPECT_EQ(pause(), schon_im_rennen);
+        t.rennende();
+        ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
+        t.p.auswertung.neues_ziel.eingeben("60");
+        t.p.auswertung.Command3.klicken();
+        t.p.k_ampel.Command1.klicken();
+        kontakt(bit(1), true, 3 * 1500 + 2500);
+        t.maschine.laufen(300);
+        EXPECT_TRUE(pause());
+        t.maschine.laufen(3000);
+        kontakt(bit(1), false, 12000);
+        EXPECT_FALSE(pause());
+    }
+    t.rennende();
+    EXPECT_EQ(nachrechnen(t.p, t.maschine), "");
+}
+
+TEST_F(Kontaktleser, EinSchalterDerVorDemStartAnIstHaeltIhnAn) {
+    t.p.einst.chaosampel_an = false;
+    iow_waehlen();
+    kontakt(bit(1), true);
+    t.p.einst.chaos_schalter = true;
+    t.starten("Runden", "50", {1, 2});
+    t.maschine.laufen(500);
+    EXPECT_TRUE(pause());
+    t.maschine.laufen(3000);
+    kontakt(bit(1), false, 3000);
+    EXPECT_FALSE(pause());
+    t.maschine.laufen(3000);
+    kontakt(bit(1), true, 100);
+    EXPECT_TRUE(pause());
+    t.rennabbruch();
+    t.p.einst.chaos_schalter = false;
+    t.starten("Runden", "50", {1, 2});
+    t.maschine.laufen(500);
+    EXPECT_FALSE(pause()) << "a button that opens as it is pressed";
+    kontakt(bit(1), false, 100);
+    EXPECT_TRUE(pause());
 }
 
 }  // namespace
