@@ -1,6 +1,7 @@
 #include "race/rennende.h"
 
 #include <algorithm>
+#include <string>
 
 #include "core/zeit.h"
 
