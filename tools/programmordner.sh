@@ -28,7 +28,7 @@ for bibliothek in "${bibliotheken[@]}"; do
 done
 mkdir -p Tarvel/Hilfe/en
 cp -f --remove-destination docs/Handbuch.md docs/Einstellungen.md docs/*.png Tarvel/Hilfe/ # what F1 shows
-cp -f --remove-destination docs/en/*.md Tarvel/Hilfe/en/ # with the same pictures
+cp -f --remove-destination docs/en/*.md docs/en/*.png Tarvel/Hilfe/en/
 if [ -d data ]; then
     (cd data && find . -type f -print0) | while IFS= read -r -d '' datei; do
         if [ -e "Tarvel/$datei" ]; then

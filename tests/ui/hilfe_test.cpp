@@ -112,9 +112,14 @@ TEST_F(HilfeTest, JedeEinstellungIstErklaertUndImHandbuchStehtDasselbe) {
 
 TEST_F(HilfeTest, AlleSprachenHabenDieselbenKapitelUndJederVerweisEinZiel) {
     static const QRegularExpression verweis("\\]\\((\\w+\\.md)?#([^)]+)\\)");
+    static const QRegularExpression bild("!\\[[^\\]]*\\]\\(([^)]+)\\)");
     for (const std::string datei : {"Handbuch.md", "Einstellungen.md"}) {
         EXPECT_EQ(geruest("en/" + datei).toStdString(), geruest(datei).toStdString());
         for (const auto& [sprache, ordner] : ordner_der_sprache) {
+            for (auto treffer = bild.globalMatch(zeilen_von(ordner + datei).join('\n')); treffer.hasNext();) {
+                const std::string name = treffer.next().captured(1).toStdString();
+                EXPECT_TRUE(fs::exists(t.maschine.ordner() / "Hilfe" / ordner / name)) << ordner << name;
+            }
             for (auto treffer = verweis.globalMatch(zeilen_von(ordner + datei).join('\n')); treffer.hasNext();) {
                 const auto einer = treffer.next();
                 const std::string seite = einer.captured(1).isEmpty() ? datei : einer.captured(1).toStdString();
