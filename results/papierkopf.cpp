@@ -27,7 +27,7 @@ std::size_t vorlagenzeile(const std::vector<std::string>& zeilen, std::string_vi
     while (platz < zeilen.size() && !zeilen[platz].starts_with(anfang)) {
         ++platz;
     }
-    return platz;
+    return std::min(platz, papierzeilen_max - 1);  // the last place of a file that is full
 }
 
 }  // namespace
@@ -41,8 +41,10 @@ papierkopf papierkopf_laden(const dateien& ablage, std::string_view sprachordner
     const std::size_t platz = vorlagenzeile(zeilen, sprachordner);
     const std::string gleich = std::string(sprachordner) + "=";
     papierkopf kopf{zeilen[0], zeilen[1], {}};
-    if (platz < zeilen.size()) {
-        kopf.vorlage = platz < zeilen_der_datei ? zeilen[platz] : zeilen[platz].substr(gleich.size());
+    if (platz < zeilen_der_datei) {
+        kopf.vorlage = zeilen[platz];
+    } else if (platz < zeilen.size() && zeilen[platz].starts_with(gleich)) {
+        kopf.vorlage = zeilen[platz].substr(gleich.size());
     }
     return kopf;
 }

@@ -209,6 +209,21 @@ TEST(Papierkopf, JedeSpracheHatIhreVorlage) {
     EXPECT_EQ(papierkopf_laden(ablage, "language-da").vorlage, "");
 }
 
+TEST(Papierkopf, WasBeschaedigtIstLaesstDenRest) {
+    const test::test_plattform maschine;
+    const dateien ablage{maschine.ordner()};
+    maschine.datei_schreiben("Urkunden/papier.ini", "Klub");
+    EXPECT_EQ(papierkopf_laden(ablage, "language-en"), (papierkopf{"Klub", "", ""}));
+    std::string voll = "Klub\r\nAbend\r\n\r\n\r\nlanguage-en\r\n=\r\n";
+    for (int zeile = 0; zeile < 60; ++zeile) {
+        voll += "M\xFCll\x1A\r\n";
+    }
+    maschine.datei_schreiben("Urkunden/papier.ini", voll);
+    EXPECT_EQ(papierkopf_laden(ablage, "language-en"), (papierkopf{"Klub", "Abend", ""}));
+    ASSERT_TRUE(papierkopf_speichern(ablage, {"Klub", "Cup", "ours.txt"}, "language-en"));
+    EXPECT_EQ(papierkopf_laden(ablage, "language-en").vorlage, "ours.txt") << "also behind a file that is full";
+}
+
 TEST(Urkundenvorlage, DieMitgeliefertenSindDieEingebaute) {
     const dateien mitgeliefert{std::filesystem::path(TARVEL_QUELLEN) / "data"};
     EXPECT_EQ(mitgeliefert.zeilen_lesen("Urkunden\\urkunde.txt", 1000), eingebaute_vorlage())
