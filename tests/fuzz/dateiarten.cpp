@@ -251,7 +251,7 @@ void fordern(bool erfuellt, const char* was) {
 std::map<std::string, dateiart> dateiarten(werkbank& bank) {
     const std::vector<std::string> zeilen = bank.t.p.datei.schreiben();
     const std::string einstellungen = als_bytes(zeilen);
-    return {
+    std::map<std::string, dateiart> arten{
         {"einstellungen", {{einstellungen, alte_einstellungen(zeilen)}, einstellungen_lesen}},
         {"wettkampfdatei",
          {{"Wettkampfdatei: Vereinsmeister\r\n" + einstellungen + "Teilnehmer\r\n 2 \r\n"}, wettkampfdatei_lesen}},
@@ -322,6 +322,8 @@ std::map<std::string, dateiart> dateiarten(werkbank& bank) {
          {{"\x83\x84\x60\x09\x20\x30\x09\x21\x40\x50\x22\x0F\x0F\x23\x20\x20", "\x60\x0E\x20\x92\x21\x0A\x70\x88\x22"},
           race_control_hoeren}},
     };
+    arten.merge(gedaechtnisdateien());
+    return arten;
 }
 
 }  // namespace tarvel::test

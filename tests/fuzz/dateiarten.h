@@ -81,6 +81,7 @@ dateiart iow_datei();
 dateiart iow_berichte();
 bool lpt_hoeren(werkbank& bank, const std::string& bytes);
 dateiart rennprotokoll_datei();
+std::map<std::string, dateiart> gedaechtnisdateien();
 bool race_control_hoeren(werkbank& bank, const std::string& bytes);
 bool modul4x4_hoeren(werkbank& bank, const std::string& bytes);
 
