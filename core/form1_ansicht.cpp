@@ -1,4 +1,5 @@
 #include <string>
+#include <vector>
 
 #include "core/form1.h"
 #include "core/text.h"
@@ -129,6 +130,7 @@ void form1::laden() {
 
 void form1::sprache_gewechselt() {
     const std::string bisher_niemand = um_.txt.kein_fahrer;
+    const std::vector<std::string> bisherige = auto_[0].eintraege();  // the first one is the standard one
     texte_lesen();
     ansagen_setzen();
     erscheinung_zeigen();
@@ -139,6 +141,11 @@ void form1::sprache_gewechselt() {
     for (auswahl& wer : fahrer) {
         if (wer.text() == bisher_niemand) {
             wer.text(um_.txt.kein_fahrer);
+        }
+    }
+    for (auswahl& womit : auto_) {
+        if (!bisherige.empty() && womit.text() == bisherige.front()) {
+            womit.text(um_.txt.standardfahrzeug_text);
         }
     }
     listen_zeigen();

@@ -184,6 +184,7 @@ TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
 
 TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     t.maschine.datei_schreiben("language-en/language_m2.txt", "x\r\nx\r\n\"Lane\"\r\n");
+    t.maschine.datei_schreiben("language-en/language_m1.txt", "x\r\nStandard car\r\n");
     EXPECT_EQ(f.command_sprache.text() + f.command_aussehen.text(), "DeutschHell");
     EXPECT_EQ(f.sprachen().zeilen, (namen{"Deutsch", "English"}));
     f.command17.klicken();
@@ -193,7 +194,7 @@ TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     f.sprache_waehlen(1);
     f.aussehen_waehlen(1);
     EXPECT_EQ(f.command_sprache.text() + f.command_aussehen.text(), "EnglishDunkel");
-    EXPECT_EQ(f.spur[0].text(), "Lane 1");
+    EXPECT_EQ(f.spur[0].text() + f.auto_[0].text(), "Lane 1Standard car");
     neu_starten();
     EXPECT_EQ(zweites->form1.sprachen().gewaehlt, 1U);
     EXPECT_EQ(zweites->form1.aussehensarten().gewaehlt, 1U);
