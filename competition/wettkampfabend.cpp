@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/text.h"
+
 namespace tarvel {
 namespace {
 
@@ -107,6 +109,10 @@ bool wettkampfabend::aendern(const std::function<bool(wettkampf&)>& was) {
     gesichert(sichern());
     zeigen();
     return true;
+}
+
+std::string wettkampfabend::abendname() const {
+    return von_1252(nach_1252(stand_.beginn + " " + stand_.wettkampf_name));
 }
 
 starter wettkampfabend::wer_startet() const {

@@ -107,8 +107,8 @@ public:
     bool wartet_auf_rennen() const { return automat_.wartet_auf_rennen(); }
     dauer_s wartezeit() const { return automat_.rest(); }
 
-    /// Tells this evening from another one.
-    std::string abendname() const { return stand_.beginn + " " + stand_.wettkampf_name; }
+    /// Tells this evening from another one, in the characters that its file has as well.
+    std::string abendname() const;
     std::string kennung() const override {
         return "wettkampf " + std::to_string(uebergabe_.rennen) + " " + std::to_string(ab_teil_) + " " + abendname();
     }
