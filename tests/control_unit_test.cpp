@@ -66,6 +66,22 @@ TEST_F(ControlUnitRennen, NachEinemNeubeginnStimmenDieRundenAllerWagen) {
     }
 }
 
+/// A machine that is too busy falls behind what the unit has to tell, for long, and then has time again.
+TEST_F(ControlUnitRennen, EinRueckstandDerAufgeholtWirdVerkuerztKeineRunde) {
+    starten(t.p.txt.text_runden, "10", {1});
+    ueberfahrt(1, 900000);
+    t.maschine.laufen(3000);
+    for (const std::uint32_t spaet : {906000U, 913000U, 920000U, 927000U}) {
+        t.maschine.laufen(spaet == 906000U ? 5997 : 6997);
+        ueberfahrt(1, spaet);
+    }
+    t.maschine.laufen(6997);
+    ueberfahrt(1, 937000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 4), 7000);
+    EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 5), 10000);
+    EXPECT_NEAR(static_cast<double>(t.p.rennen.zeit.messzeit_lesen()), 937000, 20);
+}
+
 TEST_F(ControlUnitRennen, EineUeberfahrtZuBeginnDerPauseHatIhrenStempelUndDiePauseDieUhrDesGeraets) {
     t.p.einst.sensor_timeout = 2s;
     starten(t.p.txt.text_runden, "10", {1, 2});
