@@ -217,7 +217,8 @@ TEST_F(Timekeeper, AbgezogenImRennenUndWiederEingestecktZaehltEsWeiter) {
     EXPECT_FALSE(t.bahn().geraetealarm.sichtbar());
     const std::string befehle = gesendet();
     EXPECT_NE(befehle.find("activate,timest_start,mode1,"), std::string::npos);
-    EXPECT_GT(befehle.find("relais2off,"), befehle.find("activate,")) << befehle;
+    const std::size_t relais = befehle.find("relais2off,");
+    EXPECT_TRUE(relais != std::string::npos && relais > befehle.find("activate,")) << befehle;
     zeit_sagen(300);  // its clock has begun anew
     ueberfahrt(1500);
     ueberfahrt(8000);
@@ -226,6 +227,17 @@ TEST_F(Timekeeper, AbgezogenImRennenUndWiederEingestecktZaehltEsWeiter) {
     EXPECT_NEAR(static_cast<double>(t.p.rennen.zustand.konto.rundenzeit(1, 2)), 3000 + 3500 + 110 + 1500, 5);
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 3), 8000);
     EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+}
+
+TEST_F(Timekeeper, EineZeitantwortSetztDenZaehlerDerStempelZurueck) {
+    bereit();
+    zeitbasis& zeit = t.p.rennen.zeit;
+    for (int mal = 0; mal < 4; ++mal) {
+        zeit.ereignis_zeit_lesen();
+    }
+    sagt("|" + std::to_string(geraetezeit() + 1) + ">");
+    const zeit_ms jetzt = zeit.messzeit_lesen();
+    EXPECT_EQ(zeit.ereignis_zeit_lesen(), jetzt + 1);
 }
 
 TEST_F(Timekeeper, EinGeraetDasNurAblehntFaehrtNeuHoch) {
