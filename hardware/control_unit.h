@@ -59,7 +59,10 @@ public:
     void einfahren_beginnt() override;
     void einfahren_vorbei() override;
     void rennen_bereit() override;
-    void nach_ausfall(ausfall_stand stand) override { geraeteuhr_.anschliessen(stand); }
+    void nach_ausfall(ausfall_stand stand) override {
+        rennen_bereit();
+        geraeteuhr_.anschliessen(stand);
+    }
     void start_abgebrochen() override;
     void rennstart() override;
     void rennen_fortgesetzt() override { rennstart(); }

@@ -45,6 +45,7 @@ public:
     void rennfenster_offen() override { lpt_bereit(); }
     void einfahren_beginnt() override;
     void rennen_bereit() override;
+    void nach_ausfall(ausfall_stand /*stand*/) override { kontakte_.nach_ausfall(); }
     void rennen_fortgesetzt() override { kontakte_.rennen_fortgesetzt(); }
     void schalten(const schaltung& befehl) override;
     /// On from here, as long as the device is in force.

@@ -58,6 +58,7 @@ public:
     void rennfenster_offen() override { iow_pegel_merken(); }
     void einfahren_beginnt() override { iow_pegel_merken(); }
     void rennen_bereit() override { iow_pegel_merken(); }
+    void nach_ausfall(ausfall_stand /*stand*/) override { kontakte_.nach_ausfall(); }
     void rennen_fortgesetzt() override { kontakte_.rennen_fortgesetzt(); }
 
 private:

@@ -40,12 +40,17 @@ std::shared_ptr<kontaktproben> kontaktleser::neuer_abtaster() {
     return proben_;
 }
 
-void kontaktleser::ruhe_merken() {
+void kontaktleser::von_neuem() {
     proben_->leeren();
     wartet_.reset();
     stand_ = proben_->linien();
     chaos_von_hier_ = false;
+    nach_ausfall_ = false;
     tank_frei_.fuellen(false);
+}
+
+void kontaktleser::ruhe_merken() {
+    von_neuem();
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         const ereignis_art nummer = arten_.at(linie);
         if (art::ist_eingang(nummer)) {
@@ -54,6 +59,13 @@ void kontaktleser::ruhe_merken() {
             um_.ereignisse.ruhe_lernen(nummer, !offen_ist_ruhe && (stand_ >> linie & 1U) != 0);
         }
     }
+    schalter_wartet_ = chaostaster_gehalten();
+    um_.ereignisse.chaos_taster(false);
+}
+
+void kontaktleser::nach_ausfall() {
+    von_neuem();
+    nach_ausfall_ = true;
     schalter_wartet_ = chaostaster_gehalten();
     um_.ereignisse.chaos_taster(false);
 }
@@ -89,6 +101,9 @@ void kontaktleser::auswerten() {
         neues = true;
     }
     schalter_nachmelden();
+    if (std::exchange(nach_ausfall_, false)) {
+        tankkontakte_nachsehen();
+    }
     if (tankkontakte_halten() || neues) {
         um_.rennen.tankflanken_auswerten();
     }
@@ -171,6 +186,14 @@ void kontaktleser::schalter_nachmelden() {
     for (std::size_t linie = 0; linie < linien_max; ++linie) {
         if (ist_chaostaster(arten_.at(linie)) && von_ruhe_weg(linie, stand_)) {
             chaostaster_gedrueckt(arten_.at(linie), ereignisse.messzeit);
+        }
+    }
+}
+
+void kontaktleser::tankkontakte_nachsehen() {
+    for (std::size_t linie = 0; linie < linien_max; ++linie) {
+        if (ist_tankkontakt(arten_.at(linie)) && !von_ruhe_weg(linie, stand_)) {
+            zurueckgekommen(arten_.at(linie));
         }
     }
 }

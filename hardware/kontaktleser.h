@@ -45,6 +45,8 @@ public:
     std::shared_ptr<kontaktproben> neuer_abtaster();
     /// What the lines are now is their rest; what has waited is forgotten.
     void ruhe_merken();
+    /// The race stands in a pause since an outage, and has its rest levels from its log; what waits is forgotten.
+    void nach_ausfall();
     /// It goes on behind a break in which nobody has followed the switch.
     void rennen_fortgesetzt() { schalter_wartet_ = chaostaster_gehalten(); }
     /// Delivers what has come since the last time.
@@ -53,6 +55,7 @@ public:
     void verstummt();
 
 private:
+    void von_neuem();
     bool von_ruhe_weg(std::size_t linie, std::uint32_t linien) const;
     /// A lap of this sample would take the place of one that the race has still to count.
     bool zu_frueh(const kontaktprobe& p) const;
@@ -63,6 +66,8 @@ private:
     void chaostaster_losgelassen();
     bool chaostaster_gehalten() const;
     void schalter_nachmelden();
+    /// A car that has been taken off its tank contact during an outage must not refuel on.
+    void tankkontakte_nachsehen();
     /// True if one of them is held.
     bool tankkontakte_halten();
     void tankkontakte_freigeben();
@@ -76,6 +81,7 @@ private:
     bool gewartet_ = false;
     bool chaos_von_hier_ = false;   ///< the chaos that waits, or runs, is of a button here
     bool schalter_wartet_ = false;  ///< the switch is on, and no race has seen it
+    bool nach_ausfall_ = false;     ///< and nothing has been delivered yet
     spuren<bool> tank_frei_{};      ///< has left its tank contact, and the race does not know yet
 };
 

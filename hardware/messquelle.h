@@ -73,8 +73,8 @@ public:
     virtual void einfahren_vorbei() {}
     /// A race is prepared; its light comes next.
     virtual void rennen_bereit() {}
-    /// The one that is ready goes on behind an outage, and stands in its pause.
-    virtual void nach_ausfall(ausfall_stand /*stand*/) {}
+    /// In place of that: one goes on behind an outage, and stands in its pause.
+    virtual void nach_ausfall(ausfall_stand /*stand*/) { rennen_bereit(); }
     /// The start has been stopped before green.
     virtual void start_abgebrochen() {}
     /// The moment at which the race starts.

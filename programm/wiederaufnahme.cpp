@@ -280,7 +280,6 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
         um_.ausgang.aufleben();
         um_.ergebnisse.auswertung.wieder_oeffnen();
     } else {
-        um_.quellen.melden(&messquelle::rennen_bereit);
         um_.quellen.melden(&messquelle::nach_ausfall,
                            ausfall_stand{letzte, letzte - seit, um_.dienste.uhr.jetzt() - seither.count()});
     }

@@ -118,6 +118,54 @@ TEST_F(Kontaktleser, TankenEndetMitDemKontaktOderMitSeinemZweiten) {
     EXPECT_EQ(t.spur(2).tank_inhalt, am_ende);
 }
 
+/// What stood away from rest as the program went away still does, and is no new rest.
+TEST_F(Kontaktleser, NachEinemAusfallGiltDieRuheVomRennstart) {
+    constexpr unsigned ziel = 64 | 128;
+    constexpr unsigned tank_1 = 32;
+    constexpr unsigned tank_2 = 16;
+    constexpr unsigned schalter = 8;
+    const auto linien = [](test_plattform& maschine, unsigned bits) {
+        maschine.druckerport.register_werte[lpt_basis + lpt::status] = static_cast<std::uint8_t>(lpt::in_ruhe ^ bits);
+    };
+    t.p.einst.lpt.lpt_eingang = {0, 16, 15, 32, 30, 1};
+    t.p.einst.tank_inhalt = 100;
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.chaos_schalter = true;
+    t.p.form1.t_aktiv.gesetzt(true);
+    lpt_waehlen();
+    t.starten("Runden", "50", {1, 2});
+    for (int runde = 0; runde < 5; ++runde) {
+        linien(t.maschine, ziel);
+        t.maschine.laufen(5);
+        linien(t.maschine, 0);
+        t.maschine.laufen(2000);
+    }
+    linien(t.maschine, tank_1 | tank_2);
+    t.maschine.laufen(3000);
+
+    neustart danach(t, protokoll_von(t));
+    danach.maschine.druckerport.register_werte[lpt_basis] = 0;
+    linien(danach.maschine, tank_1 | schalter);  // lane 2 has been carried away, and somebody has turned the switch on
+    danach.p.starten();
+    ASSERT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    danach.weiter();
+    ASSERT_FALSE(danach.lauf().zustand.chaos_aktiv);
+    const spuren<double> davor{{danach.spur(1).tank_inhalt, danach.spur(2).tank_inhalt}};
+    danach.maschine.laufen(2000);
+    EXPECT_GT(danach.spur(1).tank_inhalt, davor[1] + 15) << "still in the pit";
+    EXPECT_DOUBLE_EQ(danach.spur(2).tank_inhalt, davor[2]);
+    danach.maschine.laufen(1000);
+    EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv) << "the switch is on";
+    linien(danach.maschine, 0);
+    danach.maschine.laufen(5000);
+    ASSERT_FALSE(danach.lauf().zustand.chaos_aktiv);
+    const double stand = danach.spur(1).tank_inhalt;
+    danach.maschine.laufen(1000);
+    EXPECT_DOUBLE_EQ(danach.spur(1).tank_inhalt, stand) << "it drives";
+    danach.p.rennen.endfrage.bestaetigen();
+    EXPECT_EQ(nachrechnen(danach.p, danach.maschine), "");
+}
+
 /// However a race came to go on with the switch turned on meanwhile: it does not drive against the switch.
 TEST_F(Kontaktleser, EinSchalterDerInDerPauseAnGehtHaeltDasRennenWiederAn) {
     t.p.einst.chaosampel_an = false;
