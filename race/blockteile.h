@@ -11,6 +11,7 @@ inline constexpr double titelhoehe = 420;    ///< room of a caption
 inline constexpr double wortanteil = 0.82;   ///< of the height of a place, for the font of a word in it
 inline constexpr double liste_em = 7.6;      ///< "9999. 00,000"
 inline constexpr double tanktitel_em = 5.9;  ///< "Tankinhalt"
+inline constexpr double schuld_em = 3.8;     ///< "schuld"
 
 /// Room of a caption that can be read.
 double titelplatz(double gewuenscht, int lesbar_px);

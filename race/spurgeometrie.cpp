@@ -18,7 +18,8 @@ constexpr int schrift_min_px = 8;
 void platz_legen(const rechteck& ort, double s, double luecke, int lesbar_px, spur_orte& g) {
     zuschnitt stueck(ort, luecke);
     const double titel = titelplatz(titelhoehe * s, lesbar_px);
-    schuld_legen(stueck.rechts(std::min({1.1 * ort.hoehe, 0.5 * ort.breite, 1300 * s})), titel, g);
+    const double wort = std::max(std::min(1.1 * ort.hoehe, 1300 * s), schuld_em * lesbar_px);
+    schuld_legen(stueck.rechts(std::min(wort, 0.5 * ort.breite)), titel, g);
     mit_titel(stueck.rest(), titel, g[t::Label_platz], g[t::l_PosAnz]);
 }
 

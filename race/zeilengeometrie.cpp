@@ -14,8 +14,6 @@ namespace {
 
 using t = spur_teil;
 
-constexpr double schuld_em = 3.8;  ///< "schuld"
-
 /// What belongs to the driver of a row; a high one has the tank here.
 void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, double s, ansicht_geometrie& ganzes) {
     spur_orte& g = ganzes.spur;
