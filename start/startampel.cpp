@@ -68,6 +68,8 @@ startampel::startampel(rennen& r, einstellungen& einst, plattform::zeitgeber_die
     for (const int spur : alle_spuren) {
         stw_[spur] = kette(1ms, [this, spur] { strom_tick(spur); });
     }
+    fenster.Label_fruehstart.sichtbar(false);
+    fenster.abbrampel.sichtbar(false);
     fenster.abbrampel.bei_klick = um_.protokoll.befehl("ampel_abbrechen", [this] { abbrampel_klick(); });
     taste_ = um_.protokoll.eingang("ampeltaste", 2, [this](const mitschrift::werte& w) {
         taste_auswerten(static_cast<int>(w[0]), w[1] < 0 ? std::nullopt : std::optional(w[1]));
@@ -113,6 +115,7 @@ void startampel::texte_setzen() {
     fenster.Label1.text(um_.txt.meldung[17]);
     fenster.Label1.sichtbar(false);
     fenster.Label_fruehstart.sichtbar(false);
+    fenster.abbrampel.sichtbar(true);
     fenster.abbrampel.text(um_.txt.meldung[18]);
     fenster.abbrampel.aktiviert(true);
 }
@@ -343,6 +346,8 @@ void startampel::entladen() {
     zeitgeber_aus();
     ampelaus_timer_->aus();
     um_.bahn.cu_startframe.sichtbar(false);
+    fenster.Label_fruehstart.sichtbar(false);  // another window may show both
+    fenster.abbrampel.sichtbar(false);
     for (const auto& unterbrechung : stw_) {
         unterbrechung->aus();
     }

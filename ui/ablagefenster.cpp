@@ -32,7 +32,7 @@ Ablagefenster::teile Ablagefenster::aufteilen(int spaltenbreite, bezeichnung& ko
 
 void Ablagefenster::aufschlagen() {
     if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
+        const QSize platz = schirm_des_leiters()->availableGeometry().size();
         resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
     }
     Fenster::aufschlagen();

@@ -182,7 +182,7 @@ QWidget* AuswertungFenster::spurwechselfeld() {
 
 void AuswertungFenster::aufschlagen() {
     if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
+        const QSize platz = schirm_des_leiters()->availableGeometry().size();
         resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
     }
     Fenster::aufschlagen();

@@ -80,11 +80,22 @@ void Fenster::keyPressEvent(QKeyEvent* ereignis) {
     }
 }
 
+QScreen* Fenster::schirm_des_leiters() const {
+    const QWidget* wer = QApplication::activeWindow();
+    if (wer != nullptr && wer != this) {
+        return wer->screen();
+    }
+    const QWidget* haupt = this;  // another program has the keys: the main window is never on the public's screen
+    while (haupt->parentWidget() != nullptr) {
+        haupt = haupt->parentWidget();
+    }
+    return haupt->screen();
+}
+
 void Fenster::zentrieren() {
     constexpr int rahmen_px = 40;  // title bar and edges of the desktop
     constexpr int seiten_px = 12;
-    const QWidget* vorn = QApplication::activeWindow();  // there is whoever has asked for this one
-    const QRect platz = (vorn != nullptr && vorn != this ? vorn->screen() : screen())->availableGeometry();
+    const QRect platz = schirm_des_leiters()->availableGeometry();
     const QSize gewuenscht = size().expandedTo(minimumSizeHint());
     resize(gewuenscht.boundedTo({platz.width() - seiten_px, platz.height() - rahmen_px}));
     move(platz.center() - rect().center() - QPoint(0, rahmen_px / 4));

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QScreen>
 #include <QTranslator>
 #include <QWidget>
 #include <functional>
@@ -41,6 +42,8 @@ protected:
     void closeEvent(QCloseEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void zentrieren();
+    /// The screen that it comes up on: where whoever has asked for it sits.
+    QScreen* schirm_des_leiters() const;
 
 private:
     /// A window or box that waits for an answer comes in front again, when this one has been clicked at.

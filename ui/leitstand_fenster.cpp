@@ -249,10 +249,16 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
     zeile->setSpacing(12);
     for (QPushButton* knopf :
          {binder().hauptknopf(bahn_.Command1, "Command1"), binder().hauptknopf(bahn_.Command6, "Command6"),
-          binder().knopf(bahn_.Command3, "Command3"), binder().knopf(bahn_.Command4, "Command4"),
+          binder().knopf(bahn_.Command3, "Command3"), binder().knopf_mit_rueckfrage(bahn_.Command4, "Command4"),
           binder().knopf_ohne_kuerzel(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }
+    form2& ampel = logik_.die_ampel();
+    zeile->addWidget(binder().knopf(ampel.abbrampel, "abbrampel"));
+    TextAnzeige* zu_frueh = gross(binder().anzeige(ampel.Label_fruehstart, "Label_fruehstart"), schrift_px, true);
+    zu_frueh->setFarbe(gelb_der_lage);
+    zu_frueh->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    zeile->addWidget(zu_frueh, 1);
     zeile->addStretch();
     zeile->addWidget(binder().knopf_ohne_kuerzel(bahn_.Command2, "Command2"));
     binder().verbinden(bahn_.Frame1, kasten, "Frame1", {});

@@ -75,7 +75,7 @@ bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
     }
     if (fenster_.einfahren->isVisible()) {
         p_.einfahren.taste(*code, alter(ereignis));
-    } else if (fuer_startampel(vorn)) {
+    } else if (fuer_startampel()) {
         p_.startampel.taste(*code, alter(ereignis));
     } else {
         p_.rennen.befehle.taste(*code, alter(ereignis));
@@ -88,12 +88,12 @@ bool Tastenfaenger::ist_rennfenster(const QWidget* vorn) const {
            vorn == fenster_.einfahren || dynamic_cast<const LeitstandFenster*>(vorn) != nullptr;
 }
 
-bool Tastenfaenger::fuer_startampel(const QWidget* vorn) const {
-    return vorn == fenster_.startampel || (!ist_rennfenster(vorn) && fenster_.startampel->isVisible());
+bool Tastenfaenger::fuer_startampel() const {
+    return p_.startampel.laeuft();
 }
 
 bool Tastenfaenger::gilt(const QWidget* vorn, int code) const {
-    const bool belegt = fuer_startampel(vorn) ? p_.startampel.ist_belegt(code) : p_.rennen.befehle.ist_belegt(code);
+    const bool belegt = fuer_startampel() ? p_.startampel.ist_belegt(code) : p_.rennen.befehle.ist_belegt(code);
     if (!belegt || ist_rennfenster(vorn)) {
         return belegt;
     }

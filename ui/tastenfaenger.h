@@ -28,8 +28,8 @@ private:
     bool nehmen(const QWidget* vorn, const QKeyEvent& ereignis);
     /// Before a race and behind it only its own windows take keys, and late crossings are waited for.
     bool gilt(const QWidget* vorn, int code) const;
-    /// The start light takes the key, not the race.
-    bool fuer_startampel(const QWidget* vorn) const;
+    /// The start light takes the key, not the race: wherever it is typed, and whether the light is to be seen or not.
+    bool fuer_startampel() const;
     bool ist_rennfenster(const QWidget* vorn) const;
 
     programm& p_;

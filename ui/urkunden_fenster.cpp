@@ -97,7 +97,7 @@ urkundenbogen UrkundenFenster::bogen(const urkunde& u) const {
 
 void UrkundenFenster::aufschlagen() {
     if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
+        const QSize platz = schirm_des_leiters()->availableGeometry().size();
         const int hoch = platz.height() * 9 / 10;
         resize(spalte_links + 80 + hoch * 5 / 7, hoch);
     }

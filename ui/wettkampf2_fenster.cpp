@@ -285,7 +285,7 @@ QLayout* Wettkampf2Fenster::fuss() {
 
 void Wettkampf2Fenster::aufschlagen() {
     if (!isVisible()) {
-        const QSize platz = screen()->availableGeometry().size();
+        const QSize platz = schirm_des_leiters()->availableGeometry().size();
         resize(platz.width() * 19 / 20, platz.height() * 19 / 20);
     }
     Fenster::aufschlagen();
