@@ -1,6 +1,8 @@
 #include "ui/ampel_fenster.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -23,7 +25,6 @@ AmpelFenster::AmpelFenster(fensterlogik& logik, rahmen& nacht, const umfeld& um)
     : Fenster(logik, um.verwaltung, um.bahn),
       nacht_(nacht),
       bahn_(*um.bahn),
-      einst_(um.einst),
       ablage_(um.ablage),
       aufbau_(new QVBoxLayout(this)) {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);  // a dialog stays in front of its race window
@@ -117,13 +118,13 @@ void AmpelFenster::anordnen() {
 
 void AmpelFenster::hinstellen(const QRect& platz, const QRect& eigener) {
     QRect ziel(QPoint(0, 0), size());
-    if (eigener.isEmpty()) {
-        // below the names, the counters and the times of the columns; above the middle in the rows
-        const double hoehe = einst_.darstellung_zeile ? 0.35 : 0.6;
+    const QRect frei = eigener.isEmpty() ? im_rennen(bahn_.neben_den_namen()) : eigener;
+    if (frei.isEmpty()) {  // below the clock and the names of the columns
+        constexpr double hoehe = 0.6;
         ziel.moveCenter({platz.center().x(), platz.top() + static_cast<int>(platz.height() * hoehe)});
         ziel.moveBottom(std::min(ziel.bottom(), platz.bottom() - 8));
     } else {
-        ziel.moveCenter(eigener.center());
+        ziel.moveCenter(frei.center());
     }
     ziel.translate(verschiebung_);
     ziel.moveRight(std::min(ziel.right(), platz.right()));
@@ -145,6 +146,19 @@ void AmpelFenster::mouseMoveEvent(QMouseEvent* ereignis) {
     verschiebung_ += ort - griff_;
     move(pos() + ort - griff_);
     griff_ = ort;
+}
+
+void AmpelFenster::keyPressEvent(QKeyEvent* ereignis) {
+    const QList<QAbstractButton*> knoepfe = bahn_.findChildren<QAbstractButton*>();
+    const auto gemeint = std::find_if(knoepfe.begin(), knoepfe.end(), [&](const QAbstractButton* knopf) {
+        return knopf->isVisible() && knopf->isEnabled() && !knopf->shortcut().isEmpty() &&
+               knopf->shortcut() == QKeySequence(ereignis->keyCombination());
+    });
+    if (gemeint != knoepfe.end()) {
+        (*gemeint)->animateClick();
+    } else {
+        Fenster::keyPressEvent(ereignis);
+    }
 }
 
 void AmpelFenster::aufschlagen() {

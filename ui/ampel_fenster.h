@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "core/dateien.h"
-#include "core/einstellungen.h"
 #include "ui/ampelfeld.h"
 #include "ui/bahn1_fenster.h"
 
@@ -24,7 +23,6 @@ public:
 
 protected:
     struct umfeld {
-        const einstellungen& einst;
         const dateien& ablage;
         Fensterverwaltung& verwaltung;
         Bahn1Fenster* bahn;
@@ -49,6 +47,8 @@ protected:
     /// The light can be drawn to another place and comes up there again.
     void mousePressEvent(QMouseEvent* ereignis) override;
     void mouseMoveEvent(QMouseEvent* ereignis) override;
+    /// The letters of the commands behind it hold as well.
+    void keyPressEvent(QKeyEvent* ereignis) override;
 
 private:
     void masse_setzen(const QRect& platz, const QRect& eigener);
@@ -61,7 +61,6 @@ private:
 
     rahmen& nacht_;
     const Bahn1Fenster& bahn_;
-    const einstellungen& einst_;
     const dateien& ablage_;
     QVBoxLayout* aufbau_;
     std::vector<Ampelfeld*> lampen_;

@@ -109,6 +109,7 @@ void Bahn1Fenster::befehlszeile() {
     }
     protokoll_ = binder().knopf_ohne_kuerzel(bahn.Command_protokoll, "Command_protokoll");
     protokoll_->setParent(zeile);
+    protokoll_->installEventFilter(this);
     setTabOrder(vorher, protokoll_);
     binder().verbinden(bahn.Frame1, zeile, "Frame1", [this] { befehle_zeigen(); });
 }
@@ -223,6 +224,17 @@ QRect Bahn1Fenster::licht_ort() const {
     return {mapToGlobal(QPoint(ort.x, ort.y)), QSize(ort.breite, ort.hoehe)};
 }
 
+QRect Bahn1Fenster::neben_den_namen() const {
+    const ansicht_geometrie g = aufteilung();
+    QRect alle;
+    for (const rechteck& block : g.block) {
+        alle |= QRect(block.x, block.y, block.breite, block.hoehe);
+    }
+    alle.setLeft(alle.left() + g.spur[spur_teil::namenslabel].ort.rechts());
+    const bool zeilen = logik_.bahn1.zeilenansicht() && alle.width() > width() / 2;  // a single one has it on top
+    return zeilen && isVisible() ? QRect(mapToGlobal(alle.topLeft()), alle.size()) : QRect();
+}
+
 ansicht_geometrie Bahn1Fenster::aufteilung() const {
     ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
     inhalt.licht_der_pause = licht_der_pause_;
@@ -256,7 +268,7 @@ void Bahn1Fenster::anordnen() {
     }
     if (!befehle_woanders_) {
         befehle_beschriften(geometrie.fenster[f::Command1].schrift_px);
-        protokollknopf_anordnen();
+        protokollknopf_anordnen(geometrie.fenster[f::werbe_label].ort);
         const platz& formular = geometrie.fenster[f::ch_strafframe];
         formular_beschriften(formular.schrift_px, formular.ort);
     }
@@ -266,15 +278,26 @@ void Bahn1Fenster::anordnen() {
     update();  // between the blocks the last layout may still be seen
 }
 
-void Bahn1Fenster::protokollknopf_anordnen() {
-    const QRect frei = teil(f::werbe_label)->geometry();
+void Bahn1Fenster::protokollknopf_anordnen(const rechteck& werbung) {
     const QRect befehl = teil(f::Command3)->geometry();
-    const bool daneben = frei.width() >= befehl.width() / 2;
-    const QRect& ort = daneben ? frei : teil(f::Command1)->geometry();  // which nobody can give in a pause
-    const bool schmal = ort.width() < 5 * befehl.width() / 2;           // half of a text in the place would look broken
-    protokoll_->setGeometry(ort.x(), befehl.y(), schmal ? ort.width() : befehl.width(), befehl.height());
+    const int weiter = teil(f::Command4)->x() - befehl.x();
+    const bool daneben = werbung.breite > weiter + befehl.width();
+    const int x = daneben ? werbung.x : teil(f::Command1)->x();  // a start that nobody can give in a pause
+    protokoll_->setGeometry(x, befehl.y(), befehl.width(), befehl.height());
     protokoll_->setFont(teil(f::Command3)->font());
     protokoll_->raise();
+    const int weg = daneben && !protokoll_->isHidden() ? weiter : 0;
+    constexpr int schmal = 2;  // of its height, there is nothing to be read
+    const int breite = werbung.breite > schmal * werbung.hoehe ? werbung.breite - weg : 0;
+    teil(f::werbe_label)->setGeometry(werbung.x + weg, werbung.y, breite, werbung.hoehe);
+}
+
+bool Bahn1Fenster::eventFilter(QObject* ziel, QEvent* ereignis) {
+    const bool kommt_oder_geht = ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent;
+    if (ziel == protokoll_ && kommt_oder_geht && !befehle_woanders_) {
+        protokollknopf_anordnen(aufteilung().fenster[f::werbe_label].ort);
+    }
+    return Fenster::eventFilter(ziel, ereignis);
 }
 
 void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
@@ -296,26 +319,27 @@ void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
 
 void Bahn1Fenster::befehle_beschriften(int schrift_px) {
     // one size for all, small enough for the longest caption: a pause changes captions, and nothing else may change
-    const bahn1::worte& wort = logik_.bahn1.wort;
-    QStringList texte;
-    for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
-        texte << QString::fromStdString(*text);
-    }
-    for (const f name : befehle) {
-        if (teil(name)->width() > 0) {
-            texte << static_cast<QPushButton*>(teil(name))->text();
-        }
-    }
     constexpr int rand_px = 20;
-    const int platz_px = std::max(teil(f::Command1)->width() - rand_px, 1);
+    const bahn1::worte& wort = logik_.bahn1.wort;
     QFont schrift = teil(f::Command1)->font();
     schrift.setBold(true);
     schrift.setPixelSize(schrift_px);
-    int breite = platz_px;
-    for (const QString& text : texte) {
-        breite = std::max(breite, QFontMetrics(schrift).horizontalAdvance(text));
+    const QFontMetrics masse(schrift);
+    double anteil = 1;
+    const auto passend = [&](f name, const QString& text) {
+        const double platz = std::max(teil(name)->width() - rand_px, 1);
+        anteil = std::min(anteil, platz / std::max(masse.horizontalAdvance(text), 1));
+    };
+    for (const std::string* text : {&wort.pause, &wort.pause_wieder, &wort.weiter}) {
+        passend(f::Command3, QString::fromStdString(*text));
     }
-    schrift.setPixelSize(std::max(8, schrift_px * platz_px / breite));
+    for (const f name : befehle) {
+        if (teil(name)->width() > 0) {
+            passend(name, static_cast<QPushButton*>(teil(name))->text());
+        }
+    }
+    constexpr int kleinste_px = 8;
+    schrift.setPixelSize(std::max(kleinste_px, static_cast<int>(schrift_px * anteil)));
     schrift.setBold(false);
     for (const f name : befehle) {
         teil(name)->setFont(schrift);

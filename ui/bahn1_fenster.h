@@ -21,6 +21,8 @@ public:
     void licht_der_pause(bool da);
     /// Its place on the screen.
     QRect licht_ort() const;
+    /// Likewise what the names of the rows leave free of the lanes; empty in columns.
+    QRect neben_den_namen() const;
     /// It has another place or size: what lies in front of it goes with it.
     std::function<void()> bei_umzug;
     /// How the dark screen gets bright again.
@@ -31,6 +33,7 @@ protected:
     void moveEvent(QMoveEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
     void hideEvent(QHideEvent* ereignis) override;
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
     /// Fills its screen. On a second one, the commands are on the first.
@@ -61,8 +64,8 @@ private:
     ansicht_geometrie aufteilung() const;
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
-    /// In a pause beside the other commands.
-    void protokollknopf_anordnen();
+    /// In a pause beside the other commands, and the club's line gives way to it.
+    void protokollknopf_anordnen(const rechteck& werbung);
     QWidget*& teil(fenster_teil name) { return teile_.at(static_cast<std::size_t>(name)); }
     QWidget* teil(fenster_teil name) const { return teile_.at(static_cast<std::size_t>(name)); }
 

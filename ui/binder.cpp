@@ -185,10 +185,18 @@ QPushButton* Binder::knopf_mit_rueckfrage(befehl& element, const QString& name) 
 
 QPushButton* Binder::knopf_ohne_kuerzel(befehl& element, const QString& name) {
     QPushButton* widget = knopf(element, name);
-    widget->setProperty("ohne_kuerzel", true);
-    kuerzel_.freigeben(widget);
-    widget->setText(als_text(element.text()));
+    mit_kuerzel(widget, element, false);
     return widget;
+}
+
+void Binder::mit_kuerzel(QPushButton* knopf, const befehl& element, bool ja) {
+    knopf->setProperty("ohne_kuerzel", !ja);
+    if (ja) {
+        knopf->setText(kuerzel_.vergeben(knopf, als_text(element.text())));
+    } else {
+        kuerzel_.freigeben(knopf);
+        knopf->setText(als_text(element.text()));
+    }
 }
 
 QGroupBox* Binder::gruppe(rahmen& element, const QString& name) {

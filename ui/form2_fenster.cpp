@@ -27,9 +27,8 @@ private:
 
 }  // namespace
 
-Form2Fenster::Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage,
-                           Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
-    : AmpelFenster(logik, logik.fenster.Nachtabschaltung, {einst, ablage, verwaltung, bahn}), logik_(logik) {
+Form2Fenster::Form2Fenster(startampel& logik, const dateien& ablage, Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
+    : AmpelFenster(logik, logik.fenster.Nachtabschaltung, {ablage, verwaltung, bahn}), logik_(logik) {
     constexpr int je_reihe = 5;
     aufbau()->addStretch();
     aufbau()->addWidget(lampenkasten(logik.fenster.ampelbild, je_reihe, "ampelbild"), 0, Qt::AlignHCenter);

@@ -10,8 +10,7 @@ namespace tarvel::ui {
 /// The light that begins a race.
 class Form2Fenster : public AmpelFenster {
 public:
-    Form2Fenster(startampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
-                 Bahn1Fenster* bahn);
+    Form2Fenster(startampel& logik, const dateien& ablage, Fensterverwaltung& verwaltung, Bahn1Fenster* bahn);
 
     void aufschlagen() override;
 

@@ -7,9 +7,8 @@
 
 namespace tarvel::ui {
 
-KAmpelFenster::KAmpelFenster(k_ampel& logik, const einstellungen& einst, const dateien& ablage,
-                             Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
-    : AmpelFenster(logik, logik.k_nachtabschaltung, {einst, ablage, verwaltung, bahn}),
+KAmpelFenster::KAmpelFenster(k_ampel& logik, const dateien& ablage, Fensterverwaltung& verwaltung, Bahn1Fenster* bahn)
+    : AmpelFenster(logik, logik.k_nachtabschaltung, {ablage, verwaltung, bahn}),
       logik_(logik),
       bahn_(bahn),
       knopf_(binder().knopf(logik.Command1, "Command1")) {
@@ -47,6 +46,7 @@ void KAmpelFenster::aufschlagen() {
     const bool pause = logik_.in_pause();
     setAttribute(Qt::WA_ShowWithoutActivating, pause);
     knopf_->setFocusPolicy(pause ? Qt::NoFocus : Qt::StrongFocus);  // a click counts though the focus goes back
+    binder().mit_kuerzel(knopf_, logik_.Command1, !pause);
     bahn_->licht_der_pause(pause);
     anordnen();
     show();

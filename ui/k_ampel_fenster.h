@@ -10,8 +10,7 @@ namespace tarvel::ui {
 /// standing nor the boxes of the penalties, and leaves the keyboard to the race window.
 class KAmpelFenster : public AmpelFenster {
 public:
-    KAmpelFenster(k_ampel& logik, const einstellungen& einst, const dateien& ablage, Fensterverwaltung& verwaltung,
-                  Bahn1Fenster* bahn);
+    KAmpelFenster(k_ampel& logik, const dateien& ablage, Fensterverwaltung& verwaltung, Bahn1Fenster* bahn);
 
     void aufschlagen() override;
 

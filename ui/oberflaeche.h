@@ -73,8 +73,8 @@ public:
     Form1Fenster form1{p_.form1, p_.ablage, fenster};
     Form3Fenster form3{p_.form3, p_.ablage, fenster, &form1};
     Bahn1Fenster bahn1{p_.rennen, fenster, &form1};
-    Form2Fenster form2{p_.startampel, p_.einst, p_.ablage, fenster, &bahn1};
-    KAmpelFenster k_ampel{p_.k_ampel, p_.einst, p_.ablage, fenster, &bahn1};
+    Form2Fenster form2{p_.startampel, p_.ablage, fenster, &bahn1};
+    KAmpelFenster k_ampel{p_.k_ampel, p_.ablage, fenster, &bahn1};
     EinfahrenFenster einfahren{p_.einfahren, fenster, &bahn1};
     AuswertungFenster auswertung{p_.auswertung, p_.ablage, fenster, &bahn1};
     SpaetesFenster<SpeichernFenster> rundenspeichern{p_.rundenspeichern, fenster, &auswertung};

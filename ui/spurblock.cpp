@@ -231,6 +231,7 @@ void Spurblock::teile_anordnen() {
             text->setSchriftPx(ort.schrift_px);
         }
     }
+    static_cast<TextAnzeige*>(teil(spur_teil::namenslabel))->setMindestPx(geometrie_.lesbar_px);
     zaehler_anordnen();
     const rechteck& tafel = geometrie_.tafel;
     tafel_->setGeometry(tafel.x, tafel.y, tafel.breite, tafel.hoehe);

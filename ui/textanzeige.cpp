@@ -45,6 +45,13 @@ void TextAnzeige::setSchriftPx(int px) {
     update();
 }
 
+void TextAnzeige::setMindestPx(int px) {
+    if (mindest_px_ != px) {
+        mindest_px_ = px;
+        update();
+    }
+}
+
 void TextAnzeige::setFett(bool fett) {
     schrift_.setBold(fett);
     updateGeometry();
@@ -126,20 +133,26 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
     const QFontMetricsF masse(schrift_);
     Satz satz{text_, schrift_, Qt::TextSingleLine, false};
     double faktor = std::min(width() / std::max(masse.horizontalAdvance(text_), 1.0), height() / masse.capHeight());
+    const double kleinster = std::max(kleinste_verkleinerung, std::min(1.0, 1.0 * mindest_px_ / schrift_.pixelSize()));
     if (faktor < 1 && zweizeilig_) {
         const QString zeilen = umbrochen(text_, masse);
         const QSizeF platz = masse.size(0, zeilen);
         const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
         constexpr double gewinn = 1.2;  // a little more is not worth a second line
-        if (gebrochen > std::max(gewinn * faktor, kleinste_verkleinerung)) {
+        if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : gewinn * faktor)) {
             satz.text = zeilen;
             faktor = gebrochen;
             satz.art = 0;
         }
     }
     if (faktor < 1) {
-        satz.schrift.setPixelSize(
-            std::max(6, static_cast<int>(schrift_.pixelSize() * std::max(faktor, kleinste_verkleinerung))));
+        const auto px = static_cast<int>(schrift_.pixelSize() * std::max(faktor, kleinster));
+        satz.schrift.setPixelSize(std::max({px, std::min(mindest_px_, schrift_.pixelSize()), 6}));
+        if (mindest_px_ > 0 && faktor < kleinster) {
+            constexpr int engste_prozent = 75;
+            const double breite = std::max(QFontMetricsF(satz.schrift).horizontalAdvance(text_), 1.0);
+            satz.schrift.setStretch(std::clamp(static_cast<int>(100 * width() / breite), engste_prozent, 100));
+        }
     }
     if (faktor < 1 && satz.art != 0) {
         satz.text = QFontMetrics(satz.schrift).elidedText(text_, Qt::ElideRight, width());

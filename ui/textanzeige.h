@@ -17,6 +17,9 @@ public:
     void setText(const QString& text);
     QString text() const { return text_; }
     void setSchriftPx(int px);
+    /// It does not shrink below this: its letters become narrower, and at last it ends in "…". 0 for a part of its
+    /// font.
+    void setMindestPx(int px);
     /// Of the font that it is shown in.
     int schriftPx() const { return gesetzt().schrift.pixelSize(); }
     void setFett(bool fett);
@@ -67,6 +70,7 @@ private:
     double deckkraft_ = 1;
     bool blass_ = false;
     bool zweizeilig_ = false;
+    int mindest_px_ = 0;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };
 

@@ -181,8 +181,8 @@ void WiedergabeFenster::Lichtschalter::verbergen(fenstername name) {
 
 void WiedergabeFenster::lichter_zeichnen() {
     programm& p = *gezeichnet_;
-    const std::array<AmpelFenster*, 2> lichter{new Form2Fenster(p.startampel, p.einst, p.ablage, innen_, bahn_),
-                                               new KAmpelFenster(p.k_ampel, p.einst, p.ablage, innen_, bahn_)};
+    const std::array<AmpelFenster*, 2> lichter{new Form2Fenster(p.startampel, p.ablage, innen_, bahn_),
+                                               new KAmpelFenster(p.k_ampel, p.ablage, innen_, bahn_)};
     for (AmpelFenster* licht : lichter) {
         licht->setParent(bahn_, Qt::Widget);
         licht->setEnabled(false);
@@ -239,7 +239,7 @@ bool WiedergabeFenster::eventFilter(QObject* ziel, QEvent* ereignis) {
 
 void WiedergabeFenster::aufschlagen() {
     if (!isVisible()) {
-        const QRect schirm = screen()->availableGeometry();
+        const QRect schirm = schirm_des_leiters()->availableGeometry();
         resize(schirm.width() * 7 / 8, schirm.height() * 7 / 8);
     }
     Fenster::aufschlagen();

@@ -1,9 +1,12 @@
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -120,7 +123,9 @@ TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
         t.p.bestzeiten.einfuegen(spur, {6900, "Anna", "Viper", "12.09.2026"});
     }
     t.p.form1.t_aktiv.umschalten();
+    t.p.form1.fahrer[3].eingeben("Maximilian-Alexander Oberstaufenbacher");
     const auto pruefen = [&](const char* wann) {
+        t.p.rennen.lage.nachfuehren();
         groesse(1280, hoehe);
         for (const QWidget* widget : o.bahn1.findChildren<QWidget*>()) {
             if (widget->isVisible()) {
@@ -154,6 +159,98 @@ TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
         if (HasFailure()) {
             return;  // the first is enough to go by
         }
+    }
+}
+
+TEST_F(Rennfenster, ProtokollknopfDerPauseVerdecktNichts) {
+    t.p.einst.chaosampel_an = false;
+    t.p.txt.werbetext = "Slotcarclub Beispielstadt – Training jeden Dienstag ab 19 Uhr";
+    t.starten("Zeit", "5", {1, 2});
+    for (const auto& [breite, hoehe] : {std::pair(1024, 768), {1920, 1080}}) {
+        groesse(breite, hoehe);
+        auto* knopf = finde<QWidget>(o.bahn1, "bahn1.Command_protokoll");
+        auto* zeile = finde<QWidget>(o.bahn1, "bahn1.werbe_label");
+        const QRect vorher = zeile->geometry();
+        t.maschine.laufen(3000);
+        t.bahn().Command3.klicken();
+        o.takt.ausfuehren();
+        EXPECT_TRUE(knopf->isVisible());
+        for (const char* name : {"bahn1.werbe_label", "bahn1.Command2", "bahn1.Command3", "bahn1.Command4"}) {
+            EXPECT_FALSE(knopf->geometry().intersects(finde<QWidget>(o.bahn1, name)->geometry())) << name;
+        }
+        EXPECT_GE(zeile->width(), vorher.width() / 2);
+        t.maschine.laufen(3000);
+        t.bahn().Command3.klicken();
+        o.takt.ausfuehren();
+        EXPECT_EQ(zeile->geometry(), vorher);
+    }
+}
+
+/// The letter that presses the button together with Alt; null for none.
+QChar buchstabe_von(const QPushButton& knopf) {
+    const QString text = QString(knopf.text()).remove("&&");
+    const qsizetype platz = text.indexOf('&');
+    return platz < 0 ? QChar() : text.at(platz + 1).toLower();
+}
+
+/// No button that can be pressed shows a letter that does not press it, whichever of these windows has the keys.
+TEST_F(Rennfenster, JederGezeigteBuchstabeGilt) {
+    const auto alle_gelten = [&](const char* wann) {
+        o.takt.ausfuehren();
+        QTest::qWait(100);
+        QWidget* vorn = QApplication::activeWindow();
+        ASSERT_NE(vorn, nullptr) << wann;
+        std::vector<QPushButton*> knoepfe;
+        for (const ui::Fenster* fenster : std::initializer_list<ui::Fenster*>{
+                 &o.bahn1, &o.form2, &o.k_ampel, vorn == &*o.leitstand ? &*o.leitstand : nullptr}) {
+            for (QPushButton* knopf :
+                 fenster == nullptr ? QList<QPushButton*>() : fenster->findChildren<QPushButton*>()) {
+                if (knopf->isVisible() && knopf->isEnabled() && !buchstabe_von(*knopf).isNull()) {
+                    knoepfe.push_back(knopf);
+                }
+            }
+        }
+        std::vector<std::unique_ptr<QSignalBlocker>> ohne_folgen;
+        for (QPushButton* knopf : knoepfe) {
+            ohne_folgen.push_back(std::make_unique<QSignalBlocker>(knopf));
+            QWidget* empfaenger = vorn->focusWidget() != nullptr ? vorn->focusWidget() : vorn;
+            QTest::keyClick(empfaenger, buchstabe_von(*knopf).toLatin1(), Qt::AltModifier);
+            EXPECT_TRUE(knopf->isDown()) << wann << ": " << knopf->text().toStdString() << " of "
+                                         << knopf->objectName().toStdString() << " in "
+                                         << vorn->objectName().toStdString();
+        }
+        QTest::qWait(150);  // until they are up again
+    };
+    for (const bool zwei_schirme : {false, true}) {
+        t.p.einst.rennbild.auf_schirm_2 = zwei_schirme;
+        t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+        t.einrichten("Zeit", "5", {1, 2});
+        alle_gelten("before the start");
+        t.bahn().Command1.klicken();
+        t.maschine.laufen(4000);
+        alle_gelten("lights");
+        t.maschine.laufen(12000);
+        t.runde_nach(1000, "12");
+        alle_gelten("race");
+        t.bahn().Command4.klicken();
+        alle_gelten("asked back");
+        t.maschine.laufen(4000);
+        for (const bool mit_ampel : {true, false}) {
+            t.p.einst.chaosampel_an = mit_ampel;
+            t.bahn().Command3.klicken();
+            t.maschine.laufen(3000);
+            EXPECT_EQ(o.k_ampel.isVisible(), mit_ampel);
+            alle_gelten(mit_ampel ? "pause with a light" : "pause");
+            t.bahn().Command3.klicken();
+            t.maschine.laufen(2000);
+            alle_gelten("on again");
+            t.maschine.laufen(10000);
+        }
+        t.rennende();
+        t.p.auswertung.cmd3_fortsetzung();
+        EXPECT_TRUE(o.k_ampel.isVisible());
+        alle_gelten("race goes on");
+        t.rennabbruch();
     }
 }
 
@@ -257,6 +354,52 @@ TEST_F(Rennfenster, AufDemZweitenSchirmOhneKnoepfeDieAufDemErstenLiegen) {
     o.takt.ausfuehren();
     EXPECT_FALSE(o.leitstand->isVisible());
     EXPECT_TRUE(finde<QWidget>(o.bahn1, "bahn1.Command2")->isVisible());
+}
+
+TEST_F(Rennfenster, WasDerLeiterBrauchtKommtAufSeinenSchirm) {
+    t.p.einst.rennbild.auf_schirm_2 = true;
+    t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
+    t.einrichten("Zeit", "5", {1, 2});
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    QScreen* seiner = QGuiApplication::screens().front();
+    auto* startabbruch = finde<QPushButton>(*o.leitstand, "leitstand.abbrampel");
+    for (const bool zu_frueh : {false, true}) {
+        t.bahn().Command1.klicken();
+        t.maschine.laufen(4000);
+        o.takt.ausfuehren();
+        EXPECT_NE(o.form2.screen(), seiner) << "all see the light";
+        EXPECT_TRUE(startabbruch->isVisible());
+        for (const bool dunkel : {true, false}) {
+            taste(*o.leitstand, 'n');
+            EXPECT_EQ(t.p.startampel.fenster.Nachtabschaltung.sichtbar(), dunkel);
+        }
+        if (zu_frueh) {
+            t.taste("2");
+            t.maschine.laufen(2);
+            EXPECT_EQ(anzeige(*o.leitstand, "leitstand.Label_fruehstart"), "Frühstart: Spur 2");
+        }
+        QTest::mouseClick(startabbruch, Qt::LeftButton);
+        o.takt.ausfuehren();
+        EXPECT_FALSE(t.p.startampel.laeuft() || o.form2.isVisible() || startabbruch->isVisible());
+        EXPECT_FALSE(finde<QWidget>(*o.leitstand, "leitstand.Label_fruehstart")->isVisible());
+    }
+    t.p.einst.start_ampel_modus = ampelwahl::keine;
+    for (const bool mit_tasten : {true, false}) {
+        t.bahn().Command1.klicken();
+        t.maschine.laufen(3000);
+        o.takt.ausfuehren();
+        o.leitstand->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.leitstand));
+        if (!mit_tasten) {  // another program has them
+            QApplication::setActiveWindow(nullptr);
+        }
+        t.rennende();
+        EXPECT_EQ(o.auswertung.screen(), seiner) << mit_tasten;
+        EXPECT_LE(o.auswertung.width(), seiner->size().width());
+        t.p.auswertung.Command5.klicken();
+        t.einrichten("Zeit", "5", {1, 2});
+        o.takt.ausfuehren();
+    }
 }
 
 TEST_F(Rennfenster, FenstermodusStattVollbild) {
