@@ -125,7 +125,6 @@ TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
     t.p.form1.t_aktiv.umschalten();
     t.p.form1.fahrer[3].eingeben("Maximilian-Alexander Oberstaufenbacher");
     const auto pruefen = [&](const char* wann) {
-        t.p.rennen.lage.nachfuehren();
         groesse(1280, hoehe);
         for (const QWidget* widget : o.bahn1.findChildren<QWidget*>()) {
             if (widget->isVisible()) {
