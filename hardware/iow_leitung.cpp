@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 #include "hardware/iow_bericht.h"
 #include "hardware/iow_platine.h"
+#include "hardware/uebergabe.h"
 
 namespace tarvel {
 namespace {

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <utility>
 
 #include "hardware/iow_bibliothek.h"
 #include "hardware/kontaktproben.h"
