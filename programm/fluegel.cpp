@@ -26,22 +26,22 @@ rennfluegel::rennfluegel(programm& p)
     rennen.chaos.neustart_ampel = &k_ampel;
 }
 
-ergebnisfluegel::ergebnisfluegel(programm& p, rennfluegel& rf, bestzeitfolgen& folgen)
-    : wertung(rf.rennen),
+ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
+    : wertung(r),
       rundenspeichern(p.einst.trennzeichen, p.dienste.kalender, fensterwelt(p)),
       beste_zeiten_fenster(
           {p.einst, p.txt, p.ablage, p.fenster, p.dienste.meldungen, p.dienste.kalender, p.bestzeiten, folgen},
           p.dienste.zeitgeber),
       urkunden({fensterwelt(p), p.einst, p.fahrerliste, p.fahrzeugliste}),
-      auswertung({rf.rennen, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster, urkunden}),
+      auswertung({r, p.einst, p.dienste.zeitgeber, wertung, rundenspeichern, beste_zeiten_fenster, urkunden}),
       einzelrennen(rennwelt(p, rundenspeichern)),
       tagesrennen(rennwelt(p, rundenspeichern)),
       training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
       w_auswertung2({fensterwelt(p), p.einst, p.einrichtung, urkunden}),
-      protokollfenster({fensterwelt(p), p.einst, rf.rennen, p.dienste.zeitgeber}),
-      leitstand({p.ablage, p.fenster, rf.rennen, protokollfenster, p.dienste.zeitgeber, rf.startampel}) {
-    rf.rennen.teil_von.wechseln(einzelrennen);
+      protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}),
+      leitstand({p.ablage, p.fenster, r, protokollfenster, p.dienste.zeitgeber}) {
+    r.teil_von.wechseln(einzelrennen);
 }
 
 optionsfluegel::optionsfluegel(programm& p, optionsfolgen& folgen, bestzeitfolgen& bestzeiten)

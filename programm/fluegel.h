@@ -48,7 +48,7 @@ struct rennfluegel {
 };
 
 struct ergebnisfluegel {
-    ergebnisfluegel(programm& p, rennfluegel& r, bestzeitfolgen& folgen);
+    ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen);
 
     tarvel::wertung wertung;
     tarvel::rundenspeichern rundenspeichern;

@@ -34,7 +34,7 @@ programm::programm(const plattform::dienste& d)
       datei({ablage, {einst, einrichtung, txt}, form1, d.meldungen}),
       start_(std::make_unique<startfluegel>(*this)),
       rennen_(std::make_unique<rennfluegel>(*this)),
-      ergebnisse_(std::make_unique<ergebnisfluegel>(*this, *rennen_, static_cast<bestzeitfolgen&>(*this))),
+      ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
       optionen_(std::make_unique<optionsfluegel>(*this, static_cast<optionsfolgen&>(*this),
                                                  static_cast<bestzeitfolgen&>(*this))),
       wettkampf_(std::make_unique<wettkampffluegel>(

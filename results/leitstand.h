@@ -11,7 +11,6 @@
 #include "race/rennen.h"
 #include "race/rennhergang.h"
 #include "results/protokollfenster.h"
-#include "start/startampel.h"
 
 namespace tarvel {
 
@@ -25,7 +24,6 @@ public:
         rennen& r;
         protokollfenster& protokoll;
         plattform::zeitgeber_dienst& zeitgeber;
-        startampel& ampel;
     };
 
     explicit leitstand(const umfeld& um);
@@ -46,8 +44,6 @@ public:
     sprachliste sprache_ls();
 
     rennen& das_rennen() { return um_.r; }
-    /// The start light is on the other screen.
-    form2& die_ampel() { return um_.ampel.fenster; }
 
 private:
     void anhaengen(std::string_view zeile) override;

@@ -61,8 +61,8 @@ void grund_geben(QWidget* widget, const QColor& farbe) {
 
 }  // namespace
 
-LeitstandFenster::LeitstandFenster(leitstand& logik, Fensterverwaltung& verwaltung, QWidget* bahn)
-    : Fenster(logik, verwaltung, bahn), logik_(logik), bahn_(logik.das_rennen().bahn1) {
+LeitstandFenster::LeitstandFenster(leitstand& logik, form2& ampel, Fensterverwaltung& verwaltung, QWidget* bahn)
+    : Fenster(logik, verwaltung, bahn), logik_(logik), bahn_(logik.das_rennen().bahn1), ampel_(ampel) {
     setStyleSheet(stil::dunkle_regeln("padding: 0px 10px; min-height: 40px;") + leitstand_regeln);
     binder().nebenher();
     auto* grund = new QWidget(this);  // stands for the whole area, takes no room itself
@@ -253,9 +253,8 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
           binder().knopf_ohne_kuerzel(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }
-    form2& ampel = logik_.die_ampel();
-    zeile->addWidget(binder().knopf(ampel.abbrampel, "abbrampel"));
-    TextAnzeige* zu_frueh = gross(binder().anzeige(ampel.Label_fruehstart, "Label_fruehstart"), schrift_px, true);
+    zeile->addWidget(binder().knopf(ampel_.abbrampel, "abbrampel"));
+    TextAnzeige* zu_frueh = gross(binder().anzeige(ampel_.Label_fruehstart, "Label_fruehstart"), schrift_px, true);
     zu_frueh->setFarbe(gelb_der_lage);
     zu_frueh->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     zeile->addWidget(zu_frueh, 1);

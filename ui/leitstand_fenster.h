@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "results/leitstand.h"
+#include "start/form2.h"
 #include "ui/fenster.h"
 #include "ui/uhranzeige.h"
 
@@ -13,8 +14,8 @@ namespace tarvel::ui {
 /// commands, bound a second time, and the log.
 class LeitstandFenster : public Fenster {
 public:
-    /// `bahn` is the race window.
-    LeitstandFenster(leitstand& logik, Fensterverwaltung& verwaltung, QWidget* bahn);
+    /// `bahn` is the race window. The start light is on the other screen, as that is.
+    LeitstandFenster(leitstand& logik, form2& ampel, Fensterverwaltung& verwaltung, QWidget* bahn);
 
     void aufschlagen() override;
 
@@ -31,6 +32,7 @@ private:
 
     leitstand& logik_;
     bahn1& bahn_;
+    form2& ampel_;
 };
 
 }  // namespace tarvel::ui

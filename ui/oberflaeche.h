@@ -102,7 +102,7 @@ public:
     SpaetesFenster<RanglisteFenster> rangliste{p_.rangliste, fenster, &wettkampf2};
     SpaetesFenster<WAuswertungFenster> w_auswertung{p_.w_auswertung, p_.ablage, fenster, &wettkampf2};
     SpaetesFenster<WAuswertung2Fenster> w_auswertung2{p_.w_auswertung2, p_.ablage, fenster, &form1};
-    SpaetesFenster<LeitstandFenster> leitstand{p_.ergebnis_fluegel().leitstand, fenster, &bahn1};
+    SpaetesFenster<LeitstandFenster> leitstand{p_.ergebnis_fluegel().leitstand, p_.startampel.fenster, fenster, &bahn1};
     SpaetesFenster<ProtokollFenster> protokoll{p_.protokollfenster, p_.ablage, fenster, &bahn1};
     SpaetesFenster<UrkundenFenster> urkunden{p_.ergebnis_fluegel().urkunden, p_.ablage, fenster, &form1};
     SpaetesFenster<WAuswDebugFenster> w_ausw_debug{p_.w_auswertung2.debug(), fenster, &w_auswertung2};

@@ -30,10 +30,11 @@ public:
               [&logik, &verwaltung, eltern] { return std::make_unique<F>(logik, verwaltung, fenster_von(eltern)); }) {
         verwaltung.vormerken(logik.kennung(), [this] { zeiger(); });
     }
-    template <class Logik, class Eltern>
-    SpaetesFenster(Logik& logik, const dateien& ablage, Fensterverwaltung& verwaltung, Eltern* eltern)
-        : machen_([&logik, &ablage, &verwaltung, eltern] {
-              return std::make_unique<F>(logik, ablage, verwaltung, fenster_von(eltern));
+    /// `dazu`: what else it takes, such as the files.
+    template <class Logik, class Dazu, class Eltern>
+    SpaetesFenster(Logik& logik, Dazu& dazu, Fensterverwaltung& verwaltung, Eltern* eltern)
+        : machen_([&logik, &dazu, &verwaltung, eltern] {
+              return std::make_unique<F>(logik, dazu, verwaltung, fenster_von(eltern));
           }) {
         verwaltung.vormerken(logik.kennung(), [this] { zeiger(); });
     }
