@@ -76,6 +76,10 @@ void auswertung::laden() {
     aktion_nach_bestzeiten_ = aktion::keine;
     auswertung_anzeigen();
     bedienung_einrichten();
+    if (ch_durch3_->laeuft() && selbst_.was == schritt::keiner) {
+        trainingslabel.text(wort_.zaehlt_noch);
+        trainingslabel.sichtbar(true);
+    }
     bestzeiten_pruefen();
     Command5.fokus_setzen();
 }
@@ -274,6 +278,9 @@ void auswertung::nachzaehlen() {
 }
 
 void auswertung::nachzaehlen_beenden() {
+    if (ch_durch3_->laeuft() && selbst_.was == schritt::keiner) {
+        trainingslabel.sichtbar(false);
+    }
     ch_durch3_->aus();
     ch_durch4_->aus();
 }
