@@ -282,6 +282,7 @@ void wiederaufnahme::aufwachen(const kandidat& k, const mitschrift::werte& uhrst
     } else {
         um_.quellen.melden(&messquelle::nach_ausfall,
                            ausfall_stand{letzte, letzte - seit, um_.dienste.uhr.jetzt() - seither.count()});
+        um_.rennen.bahn1.Command3.fokus_setzen();
     }
     if (!mit_protokoll) {
         melden(um_.txt.wettkampf.ohne_protokoll);

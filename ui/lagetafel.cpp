@@ -162,8 +162,8 @@ void Lagetafel::paintEvent(QPaintEvent* /*ereignis*/) {
         zeichen({innen.left(), innen.top(), kante, kante});
         innen.setLeft(innen.left() + kante + luecke);
         const double zahl = inhalt_.zahl.isEmpty() ? 0 : std::min(0.38 * innen.width(), 1.9 * kante);
-        schreiben(maler, {innen.right() - zahl, innen.top(), zahl, innen.height()}, {inhalt_.zahl});
-        innen.setRight(innen.right() - (zahl > 0 ? zahl + 2 * luecke : 0));
+        schreiben(maler, {innen.right() - zahl, innen.top(), zahl - luecke, innen.height()}, {inhalt_.zahl});
+        innen.setRight(innen.right() - (zahl > 0 ? zahl + 4 * luecke : 0));
         wort_schreiben(maler, innen, inhalt_);
         return;
     }

@@ -1,6 +1,7 @@
 #include "ui/protokoll_fenster.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,7 +16,16 @@ namespace {
 
 constexpr int dateispalte_breite = 240;
 constexpr int fleck_px = 12;
-const QColor abgelehnt_grund{253, 234, 236};
+/// A refused crossing stands out, on light and on dark ground.
+struct Auszeichnung {
+    QColor grund;
+    QColor schrift;
+};
+
+Auszeichnung abgelehnt_farben() {
+    const bool dunkel = QGuiApplication::palette().base().color().lightness() < 128;
+    return dunkel ? Auszeichnung{{74, 32, 38}, {255, 176, 180}} : Auszeichnung{{253, 234, 236}, stil::akzent};
+}
 
 }  // namespace
 
@@ -57,9 +67,9 @@ QVariant Protokollmodell::data(const QModelIndex& zelle, int rolle) const {
             return fleck;
         }
         case Qt::BackgroundRole:
-            return abgelehnt ? QVariant(abgelehnt_grund) : QVariant();
+            return abgelehnt ? QVariant(abgelehnt_farben().grund) : QVariant();
         case Qt::ForegroundRole:
-            return abgelehnt ? QVariant(stil::akzent) : QVariant();
+            return abgelehnt ? QVariant(abgelehnt_farben().schrift) : QVariant();
         default:
             return {};
     }

@@ -281,6 +281,7 @@ QSize Protokollstreifen::minimumSizeHint() const {
 void Protokollstreifen::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
+    maler.fillRect(rect(), stil::karte);  // as on paper, as all charts
     streifen_malen(maler, rect(), inhalt_, schriftPx());
     if (hasFocus()) {
         maler.setPen(QPen(stil::akzent, 1));
