@@ -109,8 +109,7 @@ TEST_F(RaceControl, WasDieBoxNichtErreichtBleibtGrauUndGespeichert) {
     }
     EXPECT_FALSE(std::get<auswahl>(optionen.zeile("rc_mod1").element).aktiviert());
     optionen.Command1.klicken();
-    EXPECT_TRUE(rc.rc_level == 77 && rc.rc_delay_ms == dauer_ms(33) &&
-                rc.rc_post_ms == dauer_ms(5) && rc.rc_rev_zz);
+    EXPECT_TRUE(rc.rc_level == 77 && rc.rc_delay_ms == dauer_ms(33) && rc.rc_post_ms == dauer_ms(5) && rc.rc_rev_zz);
 }
 
 }  // namespace
