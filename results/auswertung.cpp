@@ -76,10 +76,7 @@ void auswertung::laden() {
     aktion_nach_bestzeiten_ = aktion::keine;
     auswertung_anzeigen();
     bedienung_einrichten();
-    if (ch_durch3_->laeuft() && selbst_.was == schritt::keiner) {
-        trainingslabel.text(wort_.zaehlt_noch);
-        trainingslabel.sichtbar(true);
-    }
+    Label_vorlaeufig.sichtbar(ch_durch3_->laeuft());
     bestzeiten_pruefen();
     Command5.fokus_setzen();
 }
@@ -278,9 +275,7 @@ void auswertung::nachzaehlen() {
 }
 
 void auswertung::nachzaehlen_beenden() {
-    if (ch_durch3_->laeuft() && selbst_.was == schritt::keiner) {
-        trainingslabel.sichtbar(false);
-    }
+    Label_vorlaeufig.sichtbar(false);
     ch_durch3_->aus();
     ch_durch4_->aus();
 }

@@ -94,7 +94,8 @@ public:
     bezeichnung Label_bis;      ///< new target of a race that goes on
     feld neues_ziel;            ///< laps, or minutes and seconds as on the main window
     bezeichnung ziel_einheit;
-    bezeichnung trainingslabel;  ///< counts down to what goes on by itself; or that the result may still change
+    bezeichnung trainingslabel;    ///< counts down to the next round of a training
+    bezeichnung Label_vorlaeufig;  ///< crossings behind the end are still taken: the result may change
 
     /// Print the standing or save it as a page, and bring the chart up to date; filled by the drawing.
     std::function<void()> drucken;
@@ -159,7 +160,6 @@ private:
         std::string abstand;     ///< explains the gap to the leader
         std::string gesamtzeit;  ///< and what the total time is
         std::string zurueck, wieder, nachgetragen, geteilt, nachtrag_waehlen, hinter_dem_ziel;
-        std::string zaehlt_noch;  ///< while crossings behind the end are still taken
         std::string keine_zahl, zu_viele_meter, trotzdem;
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };

@@ -63,7 +63,7 @@ sprachliste auswertung::sprache_a() {
         "Eine Urkunde für jeden Fahrer, mit seinem Bild; hier stehen auch die Namen von Verein und Veranstaltung",
         Command_urkunden);
     blatt.nachtragen(texte);
-    return blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", wort_.zaehlt_noch);
+    return blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", Label_vorlaeufig);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

@@ -256,7 +256,9 @@ TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
     EXPECT_EQ(t.ergebnis(1).rundenzahl(), 3) << "is home";
     EXPECT_EQ(a.runden_aus[1].text(), "3");
     EXPECT_EQ(t.ergebnis(1).platz, 1);
+    EXPECT_TRUE(a.Label_vorlaeufig.sichtbar());
     t.maschine.laufen(2000);
+    EXPECT_FALSE(a.Label_vorlaeufig.sichtbar());
     EXPECT_TRUE(t.spur(2).ziel_erreicht);
 }
 

@@ -153,6 +153,7 @@ QLayout* AuswertungFenster::wegezeile() {
     TextAnzeige* training = binder().anzeige(logik_.trainingslabel, "trainingslabel", 30);
     training->setFett(true);
     zeile->addWidget(training, 1);
+    zeile->addWidget(binder().anzeige(logik_.Label_vorlaeufig, "Label_vorlaeufig", 20), 1);
     zeile->addWidget(binder().knopf(logik_.Command7, "Command7"), 0, Qt::AlignBottom);
     zeile->addStretch(1);
     zeile->addWidget(gross(binder().hauptknopf(logik_.Command5, "Command5"), 160), 0, Qt::AlignBottom);
