@@ -49,7 +49,7 @@ struct iow_leitung::brett {
 iow_leitung::iow_leitung(std::shared_ptr<iow_bibliothek> bibliothek, plattform::abtaster_dienst& abtaster)
     : bibliothek_(std::move(bibliothek)), abtaster_(abtaster) {}
 
-bool iow_leitung::oeffnen(std::shared_ptr<kontaktproben> proben) {
+bool iow_leitung::oeffnen(const std::shared_ptr<kontaktproben>& proben) {
     schliessen();
     auto neues = std::make_shared<brett>(bibliothek_);
     if (!neues->platine.iow_oeffnen()) {

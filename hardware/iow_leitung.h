@@ -35,7 +35,7 @@ public:
 
     /// False if the machine has no library or no board, or if that is still busy with somebody else. Who only switches
     /// gives no `proben`.
-    bool oeffnen(std::shared_ptr<kontaktproben> proben);
+    bool oeffnen(const std::shared_ptr<kontaktproben>& proben);
     /// What still waits is written, until the board refuses one. Waits for that, but not for a board that hangs: this
     /// one is left to its threads, and closed as soon as they come back.
     void schliessen();

@@ -157,10 +157,11 @@ void aendern(optionszeile& zeile) {
         const std::string alt = eingabe->text();
         const bool zahl = !alt.empty() && alt.find_first_not_of("0123456789,") == std::string::npos;
         const std::string zeichen{'#', '%', '&'};
-        eingabe->text(zeile.name.starts_with("trennzeichen") ? zeichen.substr(zeile.name.back() - '0', 1)
-                      : !zahl                                ? alt + "x"
-                      : alt == "3"                           ? "4"
-                                                             : "3");
+        eingabe->text(zeile.name.starts_with("trennzeichen")
+                          ? zeichen.substr(static_cast<std::size_t>(zeile.name.back() - '0'), 1)
+                      : !zahl      ? alt + "x"
+                      : alt == "3" ? "4"
+                                   : "3");
     } else if (auto* liste = std::get_if<auswahl>(&zeile.element)) {
         liste->platz((liste->platz() + 1) % static_cast<int>(liste->eintraege().size()));
     } else if (auto* farbe_element = std::get_if<farbfeld>(&zeile.element)) {
