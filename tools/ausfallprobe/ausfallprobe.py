@@ -116,6 +116,8 @@ class Rennen:
                              XDG_CACHE_HOME=str(self.ordner / "cache"))
 
     def simulator_sagt(self, um, zeile):
+        with (self.ordner / "geraet.txt").open("a") as mit:
+            mit.write(f"{um:.0f} {zeile}\n")
         if runde := re.match(r"Wagen (\d)  Runde \d+ +(\d+),(\d{3}) s", zeile):
             self.fahrten.append((um, int(runde[1]), int(runde[2]) * 1000 + int(runde[3])))
         elif erste := re.match(r"Wagen (\d)  erste", zeile):
