@@ -242,6 +242,16 @@ bool ereignisse_abholen(programm& p, const std::function<void(ereignis_art, cons
     return gehoert;
 }
 
+bool kontakte_abfragen(werkbank& bank, messquelle& geraet) {
+    programm& p = bank.t.p;
+    const zeit_ms jetzt = p.ereignisse.messzeit = bank.t.maschine.jetzt();
+    geraet.abfragen();
+    return ereignisse_abholen(p, [&](ereignis_art nummer, const ereignis_zeile& zeile) {
+        fordern(art::ist_eingang(nummer), "an event of an output");
+        fordern(zeile.ereignis_zeit == jetzt, "an event of another moment");
+    });
+}
+
 void fordern(bool erfuellt, const char* was) {
     if (!erfuellt) {
         throw std::logic_error(was);

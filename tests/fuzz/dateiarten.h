@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/dateien.h"
+#include "hardware/messquelle.h"
 #include "tests/plattform/testprogramm.h"
 
 namespace tarvel::test {
@@ -45,6 +46,8 @@ bool ist_eine_zeile(const std::string& text);
 void in_stuecken(std::string_view bytes, const std::function<void(std::string_view)>& hoeren);
 /// What the devices have delivered is taken, and looked at first. False if it is nothing.
 bool ereignisse_abholen(programm& p, const std::function<void(ereignis_art, const ereignis_zeile&)>& pruefen);
+/// The same for a device of contacts, which is asked now: inputs only, with the stamp of this moment.
+bool kontakte_abfragen(werkbank& bank, messquelle& geraet);
 
 /// Lets the program read a file of these bytes and holds what it made of it against what must be true of any file.
 /// Tells whether the file was accepted; throws when something is wrong.

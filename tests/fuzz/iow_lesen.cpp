@@ -47,13 +47,7 @@ bool iow_hoeren(werkbank& bank, const std::string& bytes) {
         brett.gelesen = byte(0) < 64 ? byte(0) * 0x01010101U : static_cast<std::uint32_t>(bericht);
         brett.kontakte = byte(1) | byte(2) << 8U | byte(3) << 16U | byte(4) << 24U;
         bank.t.maschine.laufen(1);
-        const zeit_ms jetzt = p.ereignisse.messzeit = bank.t.maschine.jetzt();
-        geraet.abfragen();
-        const bool etwas = ereignisse_abholen(p, [&](ereignis_art nummer, const ereignis_zeile& zeile) {
-            fordern(art::ist_eingang(nummer), "an event of an output");
-            fordern(zeile.ereignis_zeit == jetzt, "an event of another moment");
-        });
-        gehoert = gehoert || etwas;
+        gehoert = kontakte_abfragen(bank, geraet) || gehoert;
     }
     return gehoert;
 }

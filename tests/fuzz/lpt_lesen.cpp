@@ -29,13 +29,7 @@ bool lpt_hoeren(werkbank& bank, const std::string& bytes) {
         }
         bank.t.maschine.laufen(1);
         fordern(geraet.verbunden() == da, "a port that is not there is said to be");
-        const zeit_ms jetzt = p.ereignisse.messzeit = bank.t.maschine.jetzt();
-        geraet.abfragen();
-        const bool etwas = ereignisse_abholen(p, [&](ereignis_art nummer, const ereignis_zeile& zeile) {
-            fordern(art::ist_eingang(nummer), "an event of an output");
-            fordern(zeile.ereignis_zeit == jetzt, "an event of another moment");
-        });
-        gehoert = gehoert || etwas;
+        gehoert = kontakte_abfragen(bank, geraet) || gehoert;
     }
     return gehoert;
 }
