@@ -295,7 +295,17 @@ TEST_F(Wiederaufnahme, WasBeschaedigtIstWirdNurEinmalAngebotenUndNichtAngeruehrt
     EXPECT_EQ(morgen.maschine.datei_lesen(liste), "") << "cut off once more, it is asked for again";
 }
 
-using Abgebrochen = test::Abendprobe;
+/// An evening whose first race is broken off after a crossing of everybody.
+struct Abgebrochen : test::Abendprobe {
+    void anfahren_und_abbrechen() {
+        beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+        ASSERT_TRUE(abend.rennen_starten());
+        t.bahn().Command1.klicken();
+        t.runde_nach(6000, "123");
+        t.maschine.antwort = true;
+        t.rennabbruch();
+    }
+};
 
 TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
@@ -329,12 +339,7 @@ TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
 TEST_F(Abgebrochen, WasDerRennleiterInzwischenUmgestelltHatBleibt) {
     t.p.einst.w_autom = true;
     t.p.einst.w_speichern = false;
-    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-    ASSERT_TRUE(abend.rennen_starten());
-    t.bahn().Command1.klicken();
-    t.runde_nach(6000, "123");
-    t.maschine.antwort = true;
-    t.rennabbruch();
+    anfahren_und_abbrechen();
     abend.automatik_umschalten();
     t.p.einst.w_speichern = true;
     t.p.einst.aut_speichern = true;
@@ -345,12 +350,7 @@ TEST_F(Abgebrochen, WasDerRennleiterInzwischenUmgestelltHatBleibt) {
 }
 
 TEST_F(Abgebrochen, EinAndererAbendBietetEsNichtAn) {
-    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
-    ASSERT_TRUE(abend.rennen_starten());
-    t.bahn().Command1.klicken();
-    t.runde_nach(6000, "123");
-    t.maschine.antwort = true;
-    t.rennabbruch();
+    anfahren_und_abbrechen();
     abend.beenden();
     wettkampf anderer = test::wettkampf_mit(wettkampf_modus::rotation, 3, {1, 2, 3});
     anderer.wettkampf_name = "Finale";
