@@ -134,6 +134,12 @@ void form1::spur_geaendert(std::size_t index) {
     auto_[index].aktiviert(an);
 }
 
+void form1::felder_nach_spuren() {
+    for (std::size_t i = 0; i < spur.size(); ++i) {
+        spur_geaendert(i);
+    }
+}
+
 renn_art form1::gewaehlte_art() const {
     return rennart.text() == um_.txt.text_runden ? renn_art::runden : renn_art::zeit;
 }

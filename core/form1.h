@@ -229,6 +229,9 @@ public:
 
     void einrichtung_lesen() override;
     void einrichtung_zeigen() override;
+    /// Locks the fields of all lanes that do not take part, as their ticks do. A settings file that is loaded leaves
+    /// those of lanes 1 to 4 open.
+    void felder_nach_spuren();
     /// Brings every field within its limits, silently.
     void werte_pruefen();
     /// The same, and the scale, which a settings file refuses beyond its limits.

@@ -197,6 +197,7 @@ bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
     um_.datei.einstellungen_uebernehmen({});
     seither.behalten(um_.einst);
     um_.folgen.einstellungen_geladen(true);
+    um_.haupt.felder_nach_spuren();
     return true;
 }
 

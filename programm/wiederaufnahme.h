@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/form1.h"
 #include "hardware/rennverbindung.h"
 #include "programm/fluegel.h"
 #include "programm/rennprotokoll.h"
@@ -19,6 +20,7 @@ public:
         einstellungsdatei& datei;
         einstellungen& einst;
         einstellungsfolgen& folgen;
+        form1& haupt;
         fensterregister& fenster;
         ausgaben& ausgang;
         const messquellen& quellen;

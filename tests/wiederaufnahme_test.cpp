@@ -44,6 +44,7 @@ TEST_F(Wiederaufnahme, NachEinemAusfallGehtDasRennenWeiterAlsWaereErEinePause) {
         << testing::PrintToString(danach.maschine.meldungen_gezeigt);
     EXPECT_TRUE(danach.p.fenster.ist_offen(fenstername::k_ampel));
     EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    EXPECT_FALSE(danach.p.form1.spur[3].gesetzt() || danach.p.form1.fahrer[3].aktiviert());
     const zeit_ms weg = danach.maschine.jetzt() - danach.lauf().zustand.pause.start;
     EXPECT_NEAR(static_cast<double>(weg), (26 * 60 + 38) * 1000 - 18400, 5000) << "since the last sign of life";
     const rundenkonto& konto = danach.lauf().zustand.konto;
