@@ -87,10 +87,14 @@ sprachliste form1::sprache_m2() {
     texte.text("Hell", wort_aussehen_[0]).text("Dunkel", wort_aussehen_[1]).text("Wie das System", wort_aussehen_[2]);
     texte.tipp("Fenster hell oder dunkel; der Rennbildschirm hat seine eigenen Farben", command_aussehen);
     texte.text("Felder merken", felder_merken);
-    return texte.tipp(
+    texte.tipp(
         "Beim nächsten Start stehen alle Felder dieses Fensters wieder so da wie beim Beenden. Ohne Haken stehen sie "
         "wie in der Einstellungsdatei.",
         felder_merken);
+    return texte.tipp(
+        "Eine kürzere Runde zählt nicht. Außer im Wettkampf kommt eine Zehntelsekunde dazu: mit 5 zählt eine Runde ab "
+        "5,1 Sekunden.",
+        wertmin);
 }
 
 void form1::ansagen_setzen() {
