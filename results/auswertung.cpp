@@ -169,6 +169,8 @@ void auswertung::auswertung_anzeigen() {
     gewaehlte_spur_ = 0;
     u_.stand.auswerten();
     kopf_label.text(kopf());
+    Label_ab_gruen.text(ergebnistext::ab_gruen(ergebnis(), blatt.ab_gruen));
+    Label_ab_gruen.sichtbar(!Label_ab_gruen.text().empty());
     for (const int spur : alle_spuren) {
         const rennergebnis::spur* s = ergebnis().auf(spur);
         Frame[feld_index(spur)].sichtbar(s != nullptr);

@@ -65,23 +65,24 @@ public:
     je_spur<befehl> cmd_rd_inc;       ///< deletes the selected lap
     je_spur<befehl> cmd_rd_add;       ///< selects the next lap
 
-    bezeichnung kopf_label;     ///< what was driven, and when
-    rahmen Frame_stand;         ///< the lanes, and in their place
-    rahmen Frame_verlauf;       ///< the chart
-    befehl Command1;            ///< repeats the race
-    befehl Command2;            ///< starts a race with the drivers on their next lanes
-    befehl Command3;            ///< goes on, likewise
-    befehl Command4;            ///< saves under a name
-    befehl Command5;            ///< back to the main window
-    befehl Command6;            ///< begins and ends the entry of metres
-    befehl Command7;            ///< the competition waits
-    befehl Command8;            ///< deletes the selected lap
-    befehl Command9;            ///< best times
-    befehl Command10;           ///< evaluates anew
-    befehl Command_verlauf;     ///< chart or standing
-    befehl Command_protokoll;   ///< what happened, and when
-    befehl Command_nachtragen;  ///< opens the frame in which a lap is added
-    befehl Command_zurueck;     ///< the last correction, or the last that was taken back
+    bezeichnung kopf_label;      ///< what was driven, and when
+    bezeichnung Label_ab_gruen;  ///< the order from the green light, where that is another
+    rahmen Frame_stand;          ///< the lanes, and in their place
+    rahmen Frame_verlauf;        ///< the chart
+    befehl Command1;             ///< repeats the race
+    befehl Command2;             ///< starts a race with the drivers on their next lanes
+    befehl Command3;             ///< goes on, likewise
+    befehl Command4;             ///< saves under a name
+    befehl Command5;             ///< back to the main window
+    befehl Command6;             ///< begins and ends the entry of metres
+    befehl Command7;             ///< the competition waits
+    befehl Command8;             ///< deletes the selected lap
+    befehl Command9;             ///< best times
+    befehl Command10;            ///< evaluates anew
+    befehl Command_verlauf;      ///< chart or standing
+    befehl Command_protokoll;    ///< what happened, and when
+    befehl Command_nachtragen;   ///< opens the frame in which a lap is added
+    befehl Command_zurueck;      ///< the last correction, or the last that was taken back
     befehl Command_wieder;
     rundennachtrag nachtrag;  ///< in place of the standing
     befehl Command_drucken;

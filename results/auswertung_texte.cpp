@@ -63,7 +63,8 @@ sprachliste auswertung::sprache_a() {
         "Eine Urkunde für jeden Fahrer, mit seinem Bild; hier stehen auch die Namen von Verein und Veranstaltung",
         Command_urkunden);
     blatt.nachtragen(texte);
-    return blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", Label_vorlaeufig);
+    blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", Label_vorlaeufig);
+    return blatt.ab_gruen_nennen(texte);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

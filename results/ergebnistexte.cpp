@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "core/texte.h"
 #include "race/sektoren.h"
+#include "results/platzierung.h"
 
 namespace tarvel::ergebnistext {
 
@@ -69,6 +70,14 @@ std::string tempo(const spur& s) {
     const auto ueber = [](double meter, zeit_ms dauer) { return zahl_fest(sektor_tempo(meter, dauer), ','); };
     const double in_der_zeit = s.meter - s.restmeter;  // a driver may have come from a lane of another length
     return ueber(zahl_lesen(s.laenge), s.beste) + " / " + ueber(in_der_zeit, s.gesamtzeit) + " km/h";
+}
+
+std::string ab_gruen(const rennergebnis& ergebnis, const std::string& wort) {
+    std::string text;
+    for (const auto& [platz, spur] : anders_ab_gruen(ergebnis)) {
+        text += (text.empty() ? wort + " " : ", ") + std::to_string(platz) + ". " + ergebnis.auf(spur)->fahrer;
+    }
+    return text;
 }
 
 std::string strafe(const spur& s, const std::string& wort) {

@@ -26,6 +26,9 @@ std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const ruecks
                        const trennzeichen_tabelle& trennzeichen);
 /// Speed of the best lap and on average.
 std::string tempo(const spur& s);
+/// The order from the green light, where it is another than the standing: who was first over the line by eye may be
+/// second by his laps. Empty else.
+std::string ab_gruen(const rennergebnis& ergebnis, const std::string& wort);
 /// Empty without a penalty; `wort` names it.
 std::string strafe(const spur& s, const std::string& wort);
 

@@ -17,4 +17,8 @@ sprachliste& blatt_worte::nachtragen(sprachliste& texte) {
     return texte.text("Strecke", strecke).text("Rundenzeiten", rundenzeiten);
 }
 
+sprachliste& blatt_worte::ab_gruen_nennen(sprachliste& texte) {
+    return texte.text("Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge:", ab_gruen);
+}
+
 }  // namespace tarvel

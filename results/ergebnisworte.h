@@ -36,12 +36,14 @@ struct blatt_worte {
     std::string tempo;         ///< of the best lap and on average
     std::string strecke;
     std::string rundenzeiten;
+    std::string ab_gruen;  ///< in front of the order from the green light
     rueckstand_worte rueckstand;
 
     /// But for the captions that the result window has too: these it sets itself.
     sprachliste& eintragen(sprachliste& texte);
     /// Those that came later, for the end of the list.
     sprachliste& nachtragen(sprachliste& texte);
+    sprachliste& ab_gruen_nennen(sprachliste& texte);
 };
 
 }  // namespace tarvel

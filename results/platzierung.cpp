@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <compare>
+#include <limits>
 #include <utility>
 
 #include "core/text.h"
@@ -55,6 +56,42 @@ platz_werte werte_von(const rennergebnis::spur& spur, sortier_modus modus) {
     return {true, runden, meter, spur.gesamtzeit, ohne_beste ? beste_inaktiv : std::min(spur.beste, beste_inaktiv)};
 }
 
+bool gewertet(const rennergebnis::spur& s) {
+    return s.rundenzahl() > 0 && !s.disqualifiziert;
+}
+
+/// How long each lane took from the first one's first crossing to its own, pauses taken off. A result that was read has
+/// no stamps, and the way from the green light.
+spuren<zeit_ms> anlaufzeiten(const rennergebnis& ergebnis) {
+    const bool mit_stempel = std::all_of(ergebnis.spuren.begin(), ergebnis.spuren.end(),
+                                         [](const auto& s) { return !gewertet(s) || s.runden.front().stempel != 0; });
+    spuren<zeit_ms> anlauf{};
+    zeit_ms frueheste = std::numeric_limits<zeit_ms>::max();
+    for (const rennergebnis::spur& s : ergebnis.spuren) {
+        if (gewertet(s)) {
+            const rennergebnis::runde& erste = s.runden.front();
+            anlauf[s.nummer] = mit_stempel ? erste.stempel - erste.pause.value_or(0) : erste.zeit;
+            frueheste = std::min(frueheste, anlauf[s.nummer]);
+        }
+    }
+    for (const rennergebnis::spur& s : ergebnis.spuren) {
+        anlauf[s.nummer] -= gewertet(s) ? frueheste : 0;
+    }
+    return anlauf;
+}
+
+/// Lanes in the order of the standing, their total times longer by `zuschlag`.
+spuren<int> folge_bilden(const rennergebnis& ergebnis, const spuren<zeit_ms>& zuschlag) {
+    const sortier_modus modus = gueltiger_modus(ergebnis.wertung.value_or(sortier_modus::runden));
+    spuren<platz_werte> werte;
+    werte.fuellen(werte_inaktiv);
+    for (const rennergebnis::spur& spur : ergebnis.spuren) {
+        werte[spur.nummer] = werte_von(spur, modus);
+        werte[spur.nummer].gesamtzeit += zuschlag[spur.nummer];
+    }
+    return rang_folge_bilden(werte, modus);
+}
+
 }  // namespace
 
 sortier_modus gueltiger_modus(sortier_modus modus) {
@@ -85,16 +122,22 @@ spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus mo
 }
 
 void platzieren(rennergebnis& ergebnis) {
-    const sortier_modus modus = gueltiger_modus(ergebnis.wertung.value_or(sortier_modus::runden));
-    spuren<platz_werte> werte;
-    werte.fuellen(werte_inaktiv);
-    for (const rennergebnis::spur& spur : ergebnis.spuren) {
-        werte[spur.nummer] = werte_von(spur, modus);
-    }
-    const spuren<int> folge = rang_folge_bilden(werte, modus);
+    const spuren<int> folge = folge_bilden(ergebnis, {});
     for (rennergebnis::spur& spur : ergebnis.spuren) {
         spur.platz = static_cast<int>(std::find(folge.begin(), folge.end(), spur.nummer) - folge.begin()) + 1;
     }
+}
+
+std::vector<platz_ab_gruen> anders_ab_gruen(const rennergebnis& ergebnis) {
+    const spuren<int> folge = folge_bilden(ergebnis, anlaufzeiten(ergebnis));
+    std::vector<platz_ab_gruen> andere;
+    for (int platz = 1; platz <= spuren_max; ++platz) {
+        const rennergebnis::spur* s = ergebnis.auf(folge[platz]);
+        if (s != nullptr && gewertet(*s) && s->platz != platz) {
+            andere.push_back({platz, s->nummer});
+        }
+    }
+    return andere;
 }
 
 }  // namespace tarvel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "core/spuren.h"
 #include "race/rennergebnis.h"
 
@@ -25,5 +27,17 @@ spuren<int> rang_folge_bilden(const spuren<platz_werte>& werte, sortier_modus mo
 
 /// Gives each lane of the result its place, by what the result goes by; without that by laps.
 void platzieren(rennergebnis& ergebnis);
+
+/// A lane that would have another place if its way to its first crossing counted as well: the order that the line has
+/// seen.
+struct platz_ab_gruen {
+    int platz = 0;
+    int spur = 0;
+
+    bool operator==(const platz_ab_gruen&) const = default;
+};
+
+/// By place. Empty as long as both orders are the same.
+std::vector<platz_ab_gruen> anders_ab_gruen(const rennergebnis& ergebnis);
 
 }  // namespace tarvel

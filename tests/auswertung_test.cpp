@@ -73,6 +73,39 @@ TEST_F(Auswertung, AbstandIstEineReineZeitdifferenz) {
     EXPECT_FALSE(a.Frame[2].sichtbar());
 }
 
+TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
+    t.starten("Runden", "3", {1, 2, 3});
+    t.runde_nach(1000, "1");
+    t.runde_nach(1000, "23");
+    t.runde_nach(5500, "1");
+    t.p.einst.chaosampel_an = false;
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(30000);
+    t.bahn().Command3.klicken();
+    t.runde_nach(500, "2");
+    t.runde_nach(6000, "12");
+    t.runde_nach(100, "3");
+    t.rennende();
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
+    EXPECT_EQ(t.ergebnis(3).platz, 3);
+    EXPECT_FALSE(a.Label_ab_gruen.sichtbar()) << "both have come to the line together";
+    a.Command1.klicken();
+
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(12000);
+    t.runde_nach(1000, "1");
+    t.runde_nach(1000, "23");
+    t.runde_nach(5500, "1");
+    t.runde_nach(200, "2");
+    t.runde_nach(100, "3");
+    t.rennende();
+    EXPECT_EQ(t.ergebnis(2).platz, 1) << "5.7 s from its own first crossing";
+    EXPECT_TRUE(a.Label_ab_gruen.sichtbar());
+    EXPECT_EQ(a.Label_ab_gruen.text(),
+              "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1. Fahrer 1, "
+              "2. Fahrer 2, 3. Fahrer 3");
+}
+
 TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
     t.starten("Zeit", "1", {1});
     t.maschine.laufen(60001);

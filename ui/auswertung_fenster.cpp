@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QScreen>
 #include <algorithm>
 #include <initializer_list>
@@ -32,6 +33,9 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     kopf->setSchriftPx(20);
     kopf->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     aufbau->addWidget(kopf);
+    QLabel* ab_gruen = binder().label(logik.Label_ab_gruen, "Label_ab_gruen");
+    ab_gruen->setWordWrap(true);
+    aufbau->addWidget(ab_gruen);
     aufbau->addWidget(standfeld(ablage), 1);
     aufbau->addWidget(verlaufsfeld(), 1);
     aufbau->addWidget(nachtragsfeld(), 1);

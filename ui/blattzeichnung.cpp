@@ -55,7 +55,7 @@ const QColor streifen{247, 248, 250};
 void Blattzeichnung::zeichnen() {
     spalten_messen();
     const double unten = groesse_.height() - zeile_fuss - abstand;
-    const double oben = tabelle(kopf() + abstand) + 1.5 * abstand;
+    const double oben = ab_gruen(tabelle(kopf() + abstand)) + 1.5 * abstand;
     // on a tall page the chart is no tower
     diagramm({0, oben, groesse_.width(), std::min(unten - oben, groesse_.width() * 0.75)});
     fuss();
@@ -123,6 +123,16 @@ double Blattzeichnung::tabelle(double oben) {
     maler_.setPen(QPen(stil::schrift_leise, 3));
     maler_.drawLine(QPointF(0, y), QPointF(groesse_.width(), y));
     return y;
+}
+
+double Blattzeichnung::ab_gruen(double oben) {
+    if (blatt_.ab_gruen.isEmpty()) {
+        return oben;
+    }
+    const double hoch = schrift_zusatz * 1.6;
+    text(QRectF(0, oben, groesse_.width(), hoch).adjusted(luft_spalte / 2, 0, -luft_spalte / 2, 0), Qt::AlignLeft,
+         blatt_.ab_gruen, {schrift_zusatz, false, stil::schrift_leise});
+    return oben + hoch;
 }
 
 void Blattzeichnung::tabellenzeile(const ergebnisblatt::zeile& zeile, const QRectF& feld) {

@@ -23,6 +23,7 @@ private:
     double kopf();
     double vereinszeile();
     double tabelle(double oben);
+    double ab_gruen(double oben);
     void tabellenzeile(const ergebnisblatt::zeile& zeile, const QRectF& feld);
     void zelle(const blattzelle& zelle, const QRectF& feld, std::size_t spalte);
     void spalten_messen();

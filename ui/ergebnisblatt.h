@@ -42,6 +42,7 @@ struct ergebnisblatt {
     std::vector<rundenspalte> rundenspalten;  ///< in the order of the places; empty without a lap
     std::vector<QString> spalten;  ///< captions: place, lane, driver, laps, metres, total time, gap, best lap, speeds
     std::vector<zeile> zeilen;     ///< in the order of the places
+    QString ab_gruen;              ///< stands below them; may be empty
     rundenbild_inhalt bild;
 };
 

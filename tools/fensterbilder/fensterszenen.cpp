@@ -169,6 +169,17 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
          return b.o.auswertung;
      }},
+    {"auswertung_ab_gruen",  // who came over the line first is last by his laps
+     [](buehne& b) -> QWidget& {
+         b.einrichten("Runden", "30", {1, 2, 3, 4, 5, 6});
+         b.t.bahn().Command1.klicken();
+         b.t.runde_nach(1000, "1");
+         b.t.runde_nach(1000, "23456");
+         b.t.runde_nach(6500, "1");
+         b.t.runde_nach(100, "23456");
+         b.t.rennende();
+         return b.o.auswertung;
+     }},
     {"hauptfenster_liste",
      [](buehne& b) -> QWidget& {
          b.p.zuletzt_gefahren.gefahren(b.p.ablage, {"Jonas", "Käthe", "Oma Inge"});
