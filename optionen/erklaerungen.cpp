@@ -59,7 +59,8 @@ const std::vector<erklaerung>& erklaerungen() {
         {"Start-/Zieloptionen", "Fahrzeugbilder einblenden", "fahrzeugbild_an",
          "zeigt neben den Fahrern auch die Autos"},
         {"Start-/Zieloptionen", "Pause, Strafe, Ziel in Worten", "rennbild_worte",
-         "jede Spur sagt in einem großen Wort, warum sie steht, siehe Der Rennbildschirm. Ab Werk angekreuzt"},
+         "jede Spur sagt in einem großen Wort, warum sie steht, und kurz, warum eine Überfahrt nicht zählte, siehe Der "
+         "Rennbildschirm. Ab Werk angekreuzt"},
         {"Start-/Zieloptionen", "Spuren nach Platz geordnet", "rennbild_nach_platz",
          "der Führende steht vorn, und die Spuren gleiten an ihren Platz; sonst stehen sie nach ihren Nummern"},
         {"Start-/Zieloptionen", "auf dem zweiten Bildschirm", "rennbild_schirm_2",

@@ -53,6 +53,7 @@ struct bahn1 {
     std::array<bild, spuren_max> ampel_gr;
 
     spuren<lage_anzeige> lage;         ///< says in a word what the lane is in; hidden while it drives
+    spuren<hinweis_anzeige> hinweis;   ///< at its foot: why a crossing did not count just now, or that a lap waits
     spuren<bezeichnung> rueckstand;    ///< behind the leader, as people say it; hidden where there is nothing to say
     bezeichnung pausendauer;           ///< with the word of the pause, large over all lanes
     bezeichnung restrunden;            ///< of a lap race, in the place of the second clock
@@ -130,6 +131,11 @@ struct bahn1 {
         std::string lage;       ///< what a screen reader calls these
         lageworte lagen;
         std::string rueckstand;  ///< likewise
+        std::string hinweis;
+        std::string zu_kurz;  ///< in front of the time of the lap
+        std::string noch_in_der_box;
+        std::string vor_gruen;
+        std::string runde_wartet;  ///< counts behind a penalty
         rueckstand_worte zurueck;
     };
     worte wort;  ///< of the window's language, for texts that are put together

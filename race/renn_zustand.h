@@ -8,6 +8,7 @@
 #include "hardware/ereignisse.h"
 #include "platform/dauer.h"
 #include "platform/uhr.h"
+#include "race/protokollworte.h"
 #include "race/rundenkonto.h"
 
 namespace tarvel {
@@ -27,6 +28,13 @@ struct zeitsperre {
     bool gilt(zeit_ms stempel, bool verschoben, bool laeuft) const {
         return bis == 0 ? laeuft : stempel >= von && (verschoben ? laeuft : stempel < bis);
     }
+};
+
+/// A crossing that was not counted.
+struct letzte_ablehnung {
+    zeit_ms stempel = zeitsperre::seit_immer;
+    ablehnung grund{};
+    zeit_ms zeit = 0;  ///< of the lap that was too short
 };
 
 struct spur_zustand {
@@ -54,6 +62,7 @@ struct spur_zustand {
     zeit_ms ch_durchfahrt_zeit = 0;                  ///< stamp of that
     zeit_ms ch_strafe_rest = 0;                      ///< power penalty of a pause still to serve
     sensorsperre sensor_sperre = sensorsperre::unbestimmt;
+    letzte_ablehnung abgelehnt;  ///< the last one, but for a contact that bounces; only to be shown
 
     /// The crossing falls in a penalty of a false start or a pause.
     bool gesperrt(const ereignis_zeile& ueberfahrt) const {

@@ -89,6 +89,7 @@ void rennansicht::ansagen_setzen() {
         ansagen(bahn.ch_strafzeit_hacken[spur], bahn.wort.strafzeit);
         ansagen(bahn.lage[spur], bahn.wort.lage);
         ansagen(bahn.rueckstand[spur], bahn.wort.rueckstand);
+        ansagen(bahn.hinweis[spur], bahn.wort.hinweis);
     }
     bahn.ch_Text1.ansage(bahn.wort.strafzeit);
 }
@@ -138,7 +139,10 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     for (std::size_t i = 1; i < lagen.size(); ++i) {
         texte.text(lagen.at(i), bahn.wort.lagen.at(i));
     }
-    return bahn.wort.zurueck.eintragen(texte.text("Rückstand", bahn.wort.rueckstand));
+    bahn.wort.zurueck.eintragen(texte.text("Rückstand", bahn.wort.rueckstand));
+    texte.text("Hinweis", bahn.wort.hinweis).text("zu kurz", bahn.wort.zu_kurz);
+    texte.text("noch in der Box", bahn.wort.noch_in_der_box).text("vor Grün", bahn.wort.vor_gruen);
+    return texte.text("Runde wartet", bahn.wort.runde_wartet);
 }
 
 void rennansicht::oeffnen() {

@@ -1,6 +1,7 @@
 #include "race/rennlage.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -21,6 +22,9 @@ rennlage::rennlage(const renn_umgebung& um, const positionen& plaetze, const fru
     : um_(um), plaetze_(plaetze), fruehstart_(fruehstart) {
     for (bezeichnung& label : um_.bahn.rueckstand) {
         label.sichtbar(false);
+    }
+    for (hinweis_anzeige& hinweis : um_.bahn.hinweis) {
+        hinweis.sichtbar(false);
     }
 }
 
@@ -98,6 +102,7 @@ void rennlage::nachfuehren() {
             !um_.zustand.rennen_beendet && (hatte_sprit_[spur] || um_.zustand.spur[spur].tank_inhalt > 0);
         spur_zeigen(spur, erste);
         rueckstand_zeigen(spur, erste);
+        hinweis_zeigen(spur);
     }
     pause_zeigen();
     restrunden_zeigen();
@@ -140,6 +145,52 @@ void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
                                          um_.bahn.wort.zurueck, um_.einst.trennzeichen)
                      : std::string());
     label.sichtbar(!label.text().empty());
+}
+
+/// Of a crossing that did not count, only where nothing that the lane is in says it already.
+rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
+    constexpr zeit_ms dauer_ms = 2000;
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const lage was = um_.bahn.lage[spur].stand().was;
+    if (was == lage::leer && zustand.tank_strafe_aktiv) {
+        return {um_.zustand.konto.haelt_zurueck(spur) ? spurhinweis::runde_wartet : spurhinweis::keiner};
+    }
+    const letzte_ablehnung& letzte = zustand.abgelehnt;
+    const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
+    const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer;
+    const bool eben = seither >= 0 && seither < dauer_ms && letzte.stempel > zustand.gezaehlt_bei;
+    if (!frei || !eben || um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
+        return {};
+    }
+    constexpr std::array gesagt{ablehnung::zu_schnell, ablehnung::volltanken, ablehnung::vor_dem_start};
+    const bool wird_gesagt = std::find(gesagt.begin(), gesagt.end(), letzte.grund) != gesagt.end();
+    return wird_gesagt ? hinweisgrund{spurhinweis::ungezaehlt, letzte.grund, letzte.zeit} : hinweisgrund();
+}
+
+std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
+    const bahn1::worte& wort = um_.bahn.wort;
+    if (g.was == spurhinweis::runde_wartet) {
+        return wort.runde_wartet;
+    }
+    if (g.grund == ablehnung::zu_schnell) {
+        return wort.zu_kurz + " " + dauer_gesagt(std::max<zeit_ms>(g.zeit, 0), um_.einst.trennzeichen);
+    }
+    return g.grund == ablehnung::volltanken ? wort.noch_in_der_box : wort.vor_gruen;
+}
+
+void rennlage::hinweis_zeigen(int spur) {
+    const hinweisgrund neu = hinweis_von(spur);
+    if (neu == hinweisgrund_[spur]) {
+        return;
+    }
+    hinweisgrund_[spur] = neu;
+    hinweis_anzeige& hinweis = um_.bahn.hinweis[spur];
+    const bool da = neu.was != spurhinweis::keiner;
+    if (da) {
+        hinweis.text(hinweis_gesagt(neu));
+        hinweis.art(neu.was);
+    }
+    hinweis.sichtbar(da);
 }
 
 void rennlage::pause_zeigen() {

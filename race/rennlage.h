@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
 #include "race/rueckstand.h"
@@ -28,6 +30,7 @@ private:
     void spur_zeigen(int spur, int fuehrende);
     /// Behind the lane that leads, 0 for none.
     void rueckstand_zeigen(int spur, int fuehrende);
+    void hinweis_zeigen(int spur);
     void pause_zeigen();
     void restrunden_zeigen();
 
@@ -47,6 +50,17 @@ private:
         bool operator==(const rueckstandsgrund&) const = default;
     };
     spuren<rueckstandsgrund> rueckstandsgrund_{};  ///< of what is shown
+    /// Likewise.
+    struct hinweisgrund {
+        spurhinweis was = spurhinweis::keiner;
+        ablehnung grund{};
+        zeit_ms zeit = 0;
+
+        bool operator==(const hinweisgrund&) const = default;
+    };
+    hinweisgrund hinweis_von(int spur) const;
+    std::string hinweis_gesagt(const hinweisgrund& g) const;
+    spuren<hinweisgrund> hinweisgrund_{};
     int pausensekunden_ = 0;
     int restrunden_ = 0;
 };

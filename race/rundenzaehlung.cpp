@@ -88,6 +88,9 @@ std::optional<rundenzaehlung::hindernis> rundenzaehlung::hindernis_von(int spur,
 
 void rundenzaehlung::ablehnen(int spur, zeit_ms stempel, const hindernis& h) const {
     um_.protokoll.vermerken(vermerk::abgelehnt, {spur, static_cast<int>(h.grund), stempel, h.wert, h.grenze});
+    if (h.grund != ablehnung::prellen) {
+        um_.zustand.spur[spur].abgelehnt = {stempel, h.grund, h.wert};
+    }
 }
 
 void rundenzaehlung::verworfen(int spur, zeit_ms stempel, verwurf wie) {

@@ -29,6 +29,18 @@ const lagebild& bild_von(lage was) {
     return bilder.at(static_cast<std::size_t>(was));
 }
 
+lagezeichen zeichen_von(spurhinweis was) {
+    switch (was) {
+        case spurhinweis::ungezaehlt:
+            return lagezeichen::durchgestrichen;
+        case spurhinweis::runde_wartet:
+            return lagezeichen::uhr;
+        case spurhinweis::keiner:
+            break;
+    }
+    return lagezeichen::keines;
+}
+
 std::string zahl_von(const spurlage& l) {
     if (l.was == lage::box) {
         return std::to_string(l.zahl) + " l";

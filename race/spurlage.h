@@ -12,14 +12,18 @@ namespace tarvel {
 enum class lage : std::size_t { faehrt, pause, fruehstart, strafe, box, leer, ziel, disqualifiziert };
 inline constexpr std::size_t lagen_anzahl = 8;
 
+/// What a lane says beside that, for a moment or while it waits.
+enum class spurhinweis { keiner, ungezaehlt, runde_wartet };
+
 /// How its word looks. The colour alone never tells: each has a mark of its own, and lanes have colours too.
 enum class lagefarbe { keine, achtung, strafe, box, leer, ziel, aus };
-enum class lagezeichen { keines, balken, dreieck, uhr, zapfsaeule, leerer_tank, zielflagge, kreuz };
+enum class lagezeichen { keines, balken, dreieck, uhr, zapfsaeule, leerer_tank, zielflagge, kreuz, durchgestrichen };
 struct lagebild {
     lagefarbe farbe;
     lagezeichen zeichen;
 };
 const lagebild& bild_von(lage was);
+lagezeichen zeichen_von(spurhinweis was);
 
 /// A lane's state for the race window.
 struct spurlage {
@@ -42,6 +46,16 @@ public:
 
 private:
     spurlage stand_;
+};
+
+/// The text is the word, and hidden where there is none.
+class hinweis_anzeige : public steuerelement {
+public:
+    spurhinweis art() const { return art_; }
+    void art(spurhinweis neu) { setzen(art_, neu); }
+
+private:
+    spurhinweis art_ = spurhinweis::keiner;
 };
 
 /// The words, index is the state. A soft hyphen shows where a word may be broken.

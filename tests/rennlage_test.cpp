@@ -15,6 +15,12 @@ protected:
         EXPECT_EQ(anzeige.sichtbar(), !anzeige.text().empty());
         return anzeige.text();
     }
+    /// And at its foot.
+    std::string hinweis(int spur) {
+        t.p.rennen.lage.nachfuehren();
+        const hinweis_anzeige& anzeige = t.bahn().hinweis[spur];
+        return anzeige.sichtbar() ? anzeige.text() : "";
+    }
     int fuehrt() {
         t.p.rennen.lage.nachfuehren();
         int wer = 0;
@@ -104,8 +110,31 @@ TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
     t.spur(2).tank_inhalt = 1;
     t.runde_nach(8000, "2");
     EXPECT_EQ(sagt(2), "LEER 10 s");
+    EXPECT_EQ(hinweis(2), "Runde wartet");
     t.maschine.laufen(10000);
     EXPECT_EQ(sagt(2), "LEER") << "has its power back, and no fuel";
+    EXPECT_EQ(hinweis(2), "");
+}
+
+TEST_F(Rennlage, WasNichtZaehltSagtWarumUndNurEinenAugenblick) {
+    t.p.form1.wertmin.eingeben("3");
+    fahren("Zeit", "5");
+    EXPECT_EQ(hinweis(1), "");
+    t.runde_nach(853, "1");
+    EXPECT_EQ(hinweis(1), "zu kurz 0,853 s");
+    EXPECT_EQ(hinweis(2), "");
+    t.maschine.laufen(1900);
+    EXPECT_EQ(hinweis(1), "zu kurz 0,853 s");
+    t.runde_nach(300, "2");
+    EXPECT_EQ(hinweis(1), "");
+    EXPECT_EQ(hinweis(2), "zu kurz 3,053 s");
+    t.runde_nach(100, "2");
+    EXPECT_EQ(t.runden(2), 1);
+    EXPECT_EQ(hinweis(2), "") << "now it has counted";
+    t.runde_nach(500, "2");
+    EXPECT_EQ(hinweis(2), "zu kurz 0,500 s");
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(hinweis(2), "") << "the pause says enough";
 }
 
 TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {

@@ -87,13 +87,20 @@ void kreuz_malen(const Stift& s) {
     s.maler.drawLine(QPointF(18, -18), QPointF(-18, 18));
 }
 
+void durchgestrichen_malen(const Stift& s) {
+    s.linien(13);
+    s.maler.drawEllipse(QPointF(0, 0), 38, 38);
+    s.maler.drawLine(QPointF(-27, 27), QPointF(27, -27));
+}
+
 }  // namespace
 
 void lagezeichen_malen(QPainter& maler, const QRectF& platz, lagezeichen zeichen, const QColor& farbe,
                        const QColor& grund) {
     using malen = void (*)(const Stift&);
-    static constexpr std::array<malen, 8> alle{nullptr,          boxbalken_malen,   dreieck_malen,    uhr_malen,
-                                               zapfsaeule_malen, leerer_tank_malen, zielflagge_malen, kreuz_malen};
+    static constexpr std::array<malen, 9> alle{nullptr,          boxbalken_malen,  dreieck_malen,
+                                               uhr_malen,        zapfsaeule_malen, leerer_tank_malen,
+                                               zielflagge_malen, kreuz_malen,      durchgestrichen_malen};
     const malen eines = alle.at(static_cast<std::size_t>(zeichen));
     if (eines == nullptr) {
         return;

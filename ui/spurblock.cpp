@@ -39,6 +39,7 @@ Spurblock::Spurblock(bahn1& bahn, int spur, Binder& binder,
     anzeigen(spur_teil::rueckstand, bahn.rueckstand[spur], "rueckstand" + nummer_)->setZweizeilig();
     flaeche();
     lagetafel();
+    hinweisschild();
 }
 
 TextAnzeige* Spurblock::anzeigen(spur_teil name, steuerelement& element, const QString& widget_name) {
@@ -102,6 +103,13 @@ void Spurblock::plakette_setzen() {  // the leader is found at a glance
 void Spurblock::lagetafel() {
     tafel_ = new Lagetafel(this);
     binder_.verbinden(bahn_.lage[spur_], tafel_, "lage" + nummer_, [this] { lage_zeigen(); });
+}
+
+void Spurblock::hinweisschild() {
+    schild_ = new Hinweisschild(this);
+    hinweis_anzeige& hinweis = bahn_.hinweis[spur_];
+    binder_.verbinden(hinweis, schild_, "hinweis" + nummer_,
+                      [this, &hinweis] { schild_->zeigen(QString::fromStdString(hinweis.text()), hinweis.art()); });
 }
 
 void Spurblock::lage_zeigen() {
@@ -235,6 +243,9 @@ void Spurblock::teile_anordnen() {
     zaehler_anordnen();
     const rechteck& tafel = geometrie_.tafel;
     tafel_->setGeometry(tafel.x, tafel.y, tafel.breite, tafel.hoehe);
+    const platz& fuss = orte[spur_teil::straflabel];
+    schild_->setGeometry(fuss.ort.x, fuss.ort.y, fuss.ort.breite, fuss.ort.hoehe);
+    schild_->setSchriftPx(fuss.ort.hoehe * 3 / 4);
     liste_anordnen(orte[spur_teil::t_liste]);
     const int kante = orte[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font

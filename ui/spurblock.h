@@ -8,6 +8,7 @@
 
 #include "race/bahn1.h"
 #include "ui/binder.h"
+#include "ui/hinweisschild.h"
 #include "ui/lagetafel.h"
 #include "ui/tankbalken.h"
 
@@ -32,6 +33,7 @@ private:
     void platzziffer();
     void plakette_setzen();
     void lagetafel();
+    void hinweisschild();
     /// What the lane is in has changed: makes room for its board, or takes it back.
     void lage_zeigen();
     void teile_anordnen();
@@ -52,6 +54,7 @@ private:
     std::array<QWidget*, static_cast<std::size_t>(spur_teil::anzahl)> teile_{};
     QPropertyAnimation fahrt_{this, "pos"};
     Lagetafel* tafel_ = nullptr;
+    Hinweisschild* schild_ = nullptr;
     bool mit_tafel_ = false;
     ansicht_geometrie geometrie_;
     QColor spurfarbe_;

@@ -100,6 +100,26 @@ QWidget& lagen(buehne& b) {
     return b.o.bahn1;
 }
 
+/// Crossings that have just not counted, and on even lanes a lap that waits behind an empty tank.
+template <bool zeilen, int... spuren>
+QWidget& hinweise(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.form1.t_aktiv.gesetzt(true);
+    b.rundenrennen(40000, "30", {spuren...});
+    for (const int spur : {spuren...}) {
+        spur_zustand& zustand = b.t.spur(spur);
+        if (spur % 2 == 0) {
+            zustand.tank_strafe_aktiv = true;
+            b.p.rennen.zustand.konto.zurueckhalten(spur);
+        } else {
+            const ablehnung grund = spur == 3 ? ablehnung::volltanken : ablehnung::zu_schnell;
+            zustand.abgelehnt = {b.p.rennen.zeit.messzeit_lesen(), grund, 853};
+            zustand.gezaehlt_bei = 0;
+        }
+    }
+    return b.o.bahn1;
+}
+
 template <bool zeilen, int... spuren>
 QWidget& pause_kurz(buehne& b) {
     b.p.einst.darstellung_zeile = zeilen;
@@ -145,6 +165,12 @@ const std::vector<szeneneintrag> alle_lagenszenen{
     {"lagen_zeilen_allein", lagen<true, true, 4>},
     {"lagen_zeilen_vier", lagen<true, false, 1, 2, 3, 4>},
     {"lagen_zeilen_zwei", lagen<true, true, 2, 5>},
+    {"hinweise_sechs", hinweise<false, 1, 2, 3, 4, 5, 6>},
+    {"hinweise_drei", hinweise<false, 1, 2, 3>},
+    {"hinweise_zwei", hinweise<false, 1, 2>},
+    {"hinweise_allein", hinweise<false, 1>},
+    {"hinweise_zeilen_sechs", hinweise<true, 1, 2, 3, 4, 5, 6>},
+    {"hinweise_zeilen_zwei", hinweise<true, 1, 2>},
     {"lagen_allein", lagen<false, true, 4>},
     {"pause_sechs", pause_kurz<false, 1, 2, 3, 4, 5, 6>},
     {"pause_fuenf", pause_kurz<false, 1, 2, 3, 4, 5>},
