@@ -15,6 +15,8 @@ namespace tarvel {
 class pausenampel : public schnittstelle {
 public:
     virtual void pause_beenden() = 0;
+    /// It has begun, and nobody can call it back.
+    virtual bool laeuft() const = 0;
 };
 
 /// The pause: a driver or the race director halts the race, the power goes off and the clock stands still. The paused
@@ -39,6 +41,10 @@ public:
     void pruefen() override;
     /// The chaos key: like the button, and in place of a switch it turns the switch over.
     void taste();
+    /// The light that ends the pause is under way.
+    bool geht_gleich_weiter() const {
+        return um_.zustand.chaos_aktiv && neustart_ampel != nullptr && neustart_ampel->laeuft();
+    }
     /// Begins a pause, or ends the one that is.
     void chaos_umschalten();
     void chaosende_routine();

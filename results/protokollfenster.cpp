@@ -67,7 +67,8 @@ protokollfenster::protokollfenster(const umfeld& um)
         Check_gruppe.at(g).gesetzt(true);
     }
     pausentimer_->bei_tick = [this] {
-        if (!um_.r.zustand.chaos_aktiv) {  // whoever drives wants to see the race
+        // whoever drives wants to see the race, and before that its light
+        if (!um_.r.zustand.chaos_aktiv || um_.r.chaos.geht_gleich_weiter()) {
             um_.welt.fenster.entladen(fenstername::protokoll);
         }
     };
@@ -143,6 +144,9 @@ void protokollfenster::oeffnen(anzeige_art art) {
 }
 
 void protokollfenster::zeigen(const std::string& datei) {
+    if (um_.r.chaos.geht_gleich_weiter()) {
+        return;
+    }
     const std::size_t ordner = datei.rfind('\\');
     const std::string name = ordner == std::string::npos ? datei : datei.substr(ordner + 1);
     if (name.empty()) {

@@ -76,6 +76,10 @@ void k_ampel::pause_beenden() {
     beginnen();
 }
 
+bool k_ampel::laeuft() const {
+    return um_.fenster.ist_offen(kennung()) && !Command1.aktiviert();
+}
+
 void k_ampel::entladen() {
     um_.protokoll.tor([this] { um_.teil_von->von_selbst_starten(false); });
     zeitgeber_aus();

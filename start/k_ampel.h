@@ -32,6 +32,7 @@ public:
     void beginnen() { Command1.klicken(); }
     /// The same behind a pause, also if its window is not there yet.
     void pause_beenden() override;
+    bool laeuft() const override;
     /// The race behind the light pauses: its window keeps the keys.
     bool in_pause() const { return um_.zustand.chaos_aktiv; }
 
