@@ -118,7 +118,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
     for (std::size_t i = 0; i < std::size(befehle); ++i) {
         texte.text(befehle[i], befehle_[static_cast<int>(i)]);
     }
-    return texte;
+    return texte.text(", Runde %1 zählt erst nach der Strafe", runde_wartet_);
 }
 
 std::string hergangsworte::dauer(zeit_ms zeit) const {
@@ -160,7 +160,8 @@ std::string hergangsworte::von(const geschehen& g) const {
         case vorgang::strafe:
             return ersetzt(g.nummer == 1 ? ohne_strom_ : vorlage, {std::to_string(g.wert)});
         case vorgang::leer:
-            return ersetzt(vorlage, {gesucht(leer_, static_cast<int>(g.nummer))});
+            return ersetzt(vorlage, {gesucht(leer_, static_cast<int>(g.nummer))}) +
+                   (g.wert > 0 ? ersetzt(runde_wartet_, {std::to_string(g.wert)}) : "");
         case vorgang::tankt:
         case vorgang::tank_ende:
             return ersetzt(vorlage, {zahl_fest(static_cast<double>(g.nummer) / 100, komma)});

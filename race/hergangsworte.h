@@ -29,7 +29,7 @@ private:
     std::map<ablehnung, std::string> gruende_;
     std::map<int, std::string> leer_;
     std::map<int, std::string> befehle_;
-    std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_;
+    std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_, runde_wartet_;
 };
 
 }  // namespace tarvel

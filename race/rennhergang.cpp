@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <numeric>
 #include <utility>
 
+#include "core/einstellungswerte.h"
 #include "core/protokollzeile.h"
 #include "core/spuren.h"
 #include "hardware/ereignisse.h"
@@ -240,6 +242,10 @@ private:
             nach_pause_[g.spur] = false;
         } else if (g.was == vorgang::strafe && g.nummer == 1) {
             nach_pause_[g.spur] = true;
+        } else if (g.was == vorgang::runde) {
+            letzte_runde_[g.spur] = g.nummer;
+        } else if (g.was == vorgang::leer && g.nummer == static_cast<int>(leer_aktion::stromunterbrechung)) {
+            g.wert = letzte_runde_[g.spur];
         } else if (g.ist_abgelehnt()) {
             g.nach_pause = nach_pause_[g.spur];
         }
@@ -322,6 +328,7 @@ private:
     zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
     int nachgerueckt_ = 0;        ///< so often without the crossings
     spuren<bool> nach_pause_{};   ///< the lane's last penalty was that of a pause
+    spuren<std::int64_t> letzte_runde_{};
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 
@@ -349,6 +356,12 @@ std::vector<geschehen> rennhergang::abgelehnte(int spur) const {
     std::copy_if(alle.begin(), alle.end(), std::back_inserter(treffer),
                  [spur](const geschehen& g) { return g.ist_abgelehnt() && (spur == 0 || g.spur == spur); });
     return treffer;
+}
+
+zeit_ms rennhergang::pausen() const {
+    return std::accumulate(alle.begin(), alle.end(), zeit_ms{0}, [](zeit_ms summe, const geschehen& g) {
+        return summe + (g.was == vorgang::weiter ? g.wert : 0);
+    });
 }
 
 zeit_ms rennhergang::dauer() const {

@@ -29,7 +29,7 @@ enum class vorgang {
     strafe,  ///< `wert` in s; `nummer` is 1 if they are without power
     strom_aus,
     strom_an,
-    leer,  ///< `nummer` of the `leer_aktion`
+    leer,  ///< `nummer` of the `leer_aktion`; `wert` is the lap that waits for the end of its penalty, 0 for none
     voll,
     tankt,  ///< `nummer` of hundredths of a litre at the beginning
     tank_ende,
@@ -77,6 +77,8 @@ struct rennhergang {
 
     /// Refused crossings of the lane, or of all with 0.
     std::vector<geschehen> abgelehnte(int spur) const;
+    /// How long the pauses were that have ended.
+    zeit_ms pausen() const;
     /// The last moment that anything is known of, from the green light.
     zeit_ms dauer() const;
 };

@@ -116,7 +116,7 @@ void leitstand::zeigen() {
 
 sprachliste leitstand::sprache_ls() {
     sprachliste texte("language\\language_ls.txt", sprachliste::form::zeilen);
-    texte.text("Rennleitung", titel).text("Was geschah, das Neueste zuerst", Label_verlauf);
+    texte.text("Rennleitung", titel).text("Was geschah, das Neueste zuerst (Zeit ab Grün, mit Pausen)", Label_verlauf);
     return texte.text("auch jede Runde", Check_runden);
 }
 

@@ -232,8 +232,11 @@ std::string protokollfenster::hinweis() const {
         return name_.empty() ? wort_.keine : wort_.unlesbar;
     }
     const std::size_t anzahl = hergang_.abgelehnte(0).size();
-    const std::string gezaehlt = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, std::to_string(anzahl));
-    return hergang_.ganz ? gezaehlt : gezaehlt + "  " + wort_.beschaedigt;
+    std::string text = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, std::to_string(anzahl));
+    if (const zeit_ms pausen = hergang_.pausen(); pausen > 0) {
+        text += "  " + eingesetzt(wort_.mit_pausen, hergang_zeit(pausen, 0, worte_.komma));
+    }
+    return hergang_.ganz ? text : text + "  " + wort_.beschaedigt;
 }
 
 void protokollfenster::filtern() {
@@ -346,7 +349,7 @@ sprachliste protokollfenster::sprache_pr() {
     texte.text("Größer", Command_groesser).text("Kleiner", Command_kleiner).text("Alles", Command_ganz);
     texte.text("Drucken", Command_drucken).text("Als PDF speichern", Command_pdf);
     texte.text("Wiedergabe", Command_wiedergabe).text("Schließen", Command_schliessen);
-    texte.text("Zeit", wort_.spalten[0]).text("Spur", wort_.spalten[1]).text("Fahrer", wort_.spalten[2]);
+    texte.text("ab Grün", wort_.spalten[0]).text("Spur", wort_.spalten[1]).text("Fahrer", wort_.spalten[2]);
     texte.text("Was geschah", wort_.spalten[3]);
     texte.text("Rennen über %1 Runden", wort_.rundenrennen).text("Zeitrennen über %1", wort_.zeitrennen);
     texte.text("Rennen ohne Ende", wort_.ohne_ende);
@@ -357,7 +360,9 @@ sprachliste protokollfenster::sprache_pr() {
     texte.text("Zu diesem Rennen gibt es kein Protokoll.", wort_.kein_protokoll);
     texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
-    return worte_.eintragen(texte);
+    worte_.eintragen(texte);
+    texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
+    return texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
 }
 
 }  // namespace tarvel

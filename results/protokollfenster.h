@@ -91,6 +91,8 @@ public:
     bool faehrt(int spur) const;
     const einstellungen& einst() const { return um_.einst; }
     const std::array<std::string, 4>& spalten() const { return wort_.spalten; }
+    /// From when on the times of the first column count.
+    const std::string& zeit_tipp() const { return wort_.zeit_tipp; }
 
     /// The chosen row of the table, -1 none.
     int gewaehlt() const { return gewaehlt_; }
@@ -123,7 +125,7 @@ private:
     struct worte {
         std::string alle_spuren, spur, rundenrennen, zeitrennen, ohne_ende, unlesbar, beschaedigt, keine, einer,
             mehrere;
-        std::string pdf_fehler, druckfehler, kein_protokoll;
+        std::string pdf_fehler, druckfehler, kein_protokoll, mit_pausen, zeit_tipp;
         std::array<std::string, 4> spalten;  ///< of the table
     };
 

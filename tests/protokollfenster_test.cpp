@@ -64,6 +64,38 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
     EXPECT_TRUE(offen(fenstername::auswertung));
 }
 
+TEST_F(Protokollfenster, GibtDerAmpelDenBlickFreiUndNenntDieZeitDerPause) {
+    fahren();
+    t.p.einst.chaosampel_an = true;
+    t.taste("c");
+    t.maschine.laufen(3000);
+    t.bahn().Command_protokoll.klicken();
+    fenster().Command_weiter.klicken();
+    t.maschine.laufen(100);
+    EXPECT_FALSE(offen(fenstername::protokoll));
+    EXPECT_TRUE(offen(fenstername::k_ampel) && t.p.rennen.zustand.chaos_aktiv);
+    t.bahn().Command_protokoll.klicken();
+    EXPECT_FALSE(offen(fenstername::protokoll));
+    t.maschine.laufen(10000);
+    t.rennende();
+    t.p.auswertung.Command_protokoll.klicken();
+    EXPECT_EQ(fenster().Label_hinweis.text(),
+              "1 Überfahrt nicht gezählt.  Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen 0:10 "
+              "still.");
+}
+
+TEST_F(Protokollfenster, SagtDassEineRundeAufDieTankstrafeWartet) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    fahren();
+    t.spur(2).tank_inhalt = 1;
+    t.runde_nach(1000, "2");
+    t.rennende();
+    t.p.auswertung.Command_protokoll.klicken();
+    nur({f::tanken});
+    EXPECT_EQ(zeilen().front(), "2 Tank leer: Strom aus, Runde 1 zählt erst nach der Strafe");
+}
+
 TEST_F(Protokollfenster, SpurUndArtWaehlenUndDieWahlBleibt) {
     fahren();
     t.rennende();

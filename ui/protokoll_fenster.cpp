@@ -82,6 +82,9 @@ QVariant Protokollmodell::headerData(int abschnitt, Qt::Orientation richtung, in
     if (rolle == Qt::TextAlignmentRole) {
         return static_cast<int>((abschnitt == zeit ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
+    if (rolle == Qt::ToolTipRole && abschnitt == zeit) {
+        return QString::fromStdString(logik_.zeit_tipp());
+    }
     return rolle == Qt::DisplayRole
                ? QVariant(QString::fromStdString(logik_.spalten().at(static_cast<std::size_t>(abschnitt))))
                : QVariant();
