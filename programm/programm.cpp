@@ -157,7 +157,9 @@ void programm::protokoll_verbinden() {
         rennprotokoll.sichern();
         protokollfenster.zeigen(rennprotokoll.dateiname());
     };
-    protokollfenster.wiedergeben = [this](const std::string& protokoll) { wiedergabe.zeigen(protokoll); };
+    protokollfenster.wiedergeben = [this](const std::string& protokoll, std::optional<zeit_ms> ab) {
+        wiedergabe.zeigen(protokoll, ab);
+    };
     auswertung.hergang_in_worten = [this] { return protokollfenster.in_worten(); };
     rennen.bahn1.Command_protokoll.bei_klick = dieses;
     auswertung.Command_protokoll.bei_klick = dieses;

@@ -73,6 +73,7 @@ void rennspieler::abtasten() {
             }
             if (satz.wort == "oeffnen") {
                 anfang_ = zeit;
+                ereignet_ = zeit;
             }
             im_rennen = satz.wort != "zumachen" && satz.wort != "korrektur";
             if (im_rennen && (!entschieden || zeit <= *entschieden + nachspann_ms)) {
@@ -101,8 +102,36 @@ void rennspieler::merken(zeit_ms zeit, std::string_view entscheidung) {
     // behind an outage the race has stood since that began
     const bool vom_ausfall =
         art->first == vermerk::pause && !abwesenheiten_.empty() && abwesenheiten_.back().wieder_da == zeit;
+    stillstand_merken(zeit, art->first);
     marken_.push_back({vom_ausfall ? abwesenheiten_.back().weg : zeit, art->second,
                        static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
+}
+
+/// It is shown how the standstill begins, and the light that ends it.
+void rennspieler::stillstand_merken(zeit_ms bis, std::string_view ende) {
+    constexpr zeit_ms beginn_ms = 3000;
+    constexpr zeit_ms mindestens_ms = 10000;
+    constexpr zeit_ms startampel_ms = 15000;
+    constexpr zeit_ms kleine_ampel_ms = 9000;
+    const zeit_ms licht = ende == vermerk::gruen    ? startampel_ms
+                          : ende == vermerk::weiter ? kleine_ampel_ms
+                                                    : beginn_ms;
+    const stillstand s{ereignet_ + beginn_ms, bis - licht};
+    if (steht_ && s.bis - s.von >= mindestens_ms) {
+        stillstaende_.push_back(s);
+    }
+    ereignet_ = bis;
+    if (ende == vermerk::gruen || ende == vermerk::weiter) {
+        steht_ = false;
+    } else if (ende == vermerk::pause || ende == vermerk::ende) {
+        steht_ = true;
+    }
+}
+
+zeit_ms rennspieler::nach_stillstand(zeit_ms stelle) const {
+    const auto darin = std::find_if(stillstaende_.begin(), stillstaende_.end(),
+                                    [&](const stillstand& s) { return stelle >= s.von && stelle < s.bis; });
+    return darin == stillstaende_.end() ? stelle : darin->bis;
 }
 
 void rennspieler::von_vorn() {

@@ -50,6 +50,8 @@ public:
     const std::vector<marke>& marken() const { return marken_; }
     /// The next mark behind `stelle`, the last one before it; none leaves it at the end or the beginning.
     zeit_ms naechste_marke(zeit_ms stelle) const;
+    /// Where nobody drives and nothing happens for long, the moment at which that is nearly over; else `stelle`.
+    zeit_ms nach_stillstand(zeit_ms stelle) const;
     zeit_ms vorige_marke(zeit_ms stelle) const;
 
     /// All up to this moment happens; what lies in an outage is its end. Stops after `hoechstens` doings; false if it
@@ -73,6 +75,7 @@ private:
 
     void abtasten();
     void merken(zeit_ms zeit, std::string_view entscheidung);
+    void stillstand_merken(zeit_ms bis, std::string_view ende);
     void uhr_zeigen();
 
     std::filesystem::path ordner_;
@@ -87,6 +90,13 @@ private:
     int getan_ = 0;
     std::vector<marke> marken_;
     std::vector<abwesenheit> abwesenheiten_;
+    struct stillstand {
+        zeit_ms von = 0;
+        zeit_ms bis = 0;
+    };
+    std::vector<stillstand> stillstaende_;
+    bool steht_ = true;     ///< while the log is looked through: nobody drives
+    zeit_ms ereignet_ = 0;  ///< and when the last thing happened
     std::unique_ptr<spiel> alt_;
     std::unique_ptr<spiel> spiel_;
 };

@@ -15,6 +15,8 @@ constexpr std::uintmax_t bytes_max = std::uintmax_t{64} * 1024 * 1024;
 constexpr dauer_ms takt{10};
 constexpr zeit_ms schritt_max = 250;  // what a busy machine has missed is not made up for
 constexpr int taten_je_takt = 4000;   // of a jump, so that the window stays alive
+constexpr zeit_ms vorlauf_ms = 2000;  // whoever wants to see a moment wants to see it come
+constexpr zeit_ms sprungwort_ms = 3000;
 
 std::string zeit_text(zeit_ms zeit) {
     const zeit_teile t = zeit_zerlegen(std::max<zeit_ms>(zeit, 0));
@@ -82,10 +84,11 @@ sprachliste wiedergabe::sprache() {
     texte.text("Das ist kein Rennprotokoll, oder eine andere Version von Tarvel hat es geschrieben.", wort_.fremd);
     texte.text("Das Protokoll ist beschädigt: Das Rennen läuft bis dahin, wo es noch gut ist.", wort_.beschaedigt);
     texte.text("Hier läuft das Rennen anders, als es im Protokoll steht.", wort_.abgewichen);
-    return texte.text("Springe …", wort_.springt);
+    texte.text("Springe …", wort_.springt).text("mit Ampel und Pausen", wort_.ganze_laenge);
+    return texte.text("Stillstand von %1 übersprungen", wort_.uebersprungen);
 }
 
-void wiedergabe::zeigen(const std::string& protokoll) {
+void wiedergabe::zeigen(const std::string& protokoll, std::optional<zeit_ms> ab) {
     texte_lesen();
     if (!darf()) {
         um_.meldungen.zeigen(wort_.rennen_laeuft, um_.txt.titel[0]);
@@ -110,6 +113,9 @@ void wiedergabe::zeigen(const std::string& protokoll) {
     um_.fenster.zeigen(fenstername::wiedergabe, anzeige_art::modal);
     neu_zeichnen();
     takt_->an();
+    if (ab) {
+        springen(*ab - vorlauf_ms);
+    }
     stand_zeigen();
 }
 
@@ -123,6 +129,7 @@ void wiedergabe::entladen() {
     spielt_ = false;
     ziel_.reset();
     neues_spiel_ = false;
+    uebersprungen_ = {};
     if (zeichnen) {
         zeichnen(nullptr);
     }
@@ -178,12 +185,20 @@ void wiedergabe::tick() {
     if (ziel_) {
         weiter_springen();
     } else if (spielt_) {
-        const bool da = spieler_->vor(spieler_->stelle() + vergangen * schnelle(), taten_je_takt);
-        if (da && spieler_->stelle() >= spieler_->ende()) {
-            spielen(false);
-        }
+        weiterspielen(vergangen);
     }
     stand_zeigen();
+}
+
+void wiedergabe::weiterspielen(zeit_ms vergangen) {
+    const zeit_ms ziel = spieler_->stelle() + vergangen * schnelle();
+    const zeit_ms dahinter = spieler_->nach_stillstand(ziel);
+    if (dahinter != ziel) {
+        uebersprungen_ = {dahinter - ziel, zuletzt_ + sprungwort_ms};
+    }
+    if (spieler_->vor(dahinter, taten_je_takt) && spieler_->stelle() >= spieler_->ende()) {
+        spielen(false);
+    }
 }
 
 void wiedergabe::weiter_springen() {
@@ -210,8 +225,18 @@ void wiedergabe::neu_zeichnen() {
 
 void wiedergabe::stand_zeigen() {
     const zeit_ms anfang = spieler_->anfang();
-    Label_zeit.text(ziel_ ? wort_.springt
-                          : zeit_text(spieler_->stelle() - anfang) + " / " + zeit_text(spieler_->ende() - anfang));
+    if (ziel_) {
+        Label_zeit.text(wort_.springt);
+    } else if (zuletzt_ < uebersprungen_.zeigen_bis) {
+        std::string text = wort_.uebersprungen;
+        if (const std::size_t ort = text.find("%1"); ort != std::string::npos) {
+            text.replace(ort, 2, zeit_text(uebersprungen_.dauer));
+        }
+        Label_zeit.text(text);
+    } else {
+        Label_zeit.text(zeit_text(spieler_->stelle() - anfang) + " / " + zeit_text(spieler_->ende() - anfang) + " " +
+                        wort_.ganze_laenge);
+    }
     leiste.stelle(ziel_.value_or(spieler_->stelle()));
     if (spieler_->abgewichen()) {
         hinweis.text(wort_.abgewichen);

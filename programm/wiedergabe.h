@@ -67,9 +67,10 @@ public:
     bezeichnung Label_zeit;
     bezeichnung hinweis;  ///< what is wrong with the log
 
-    /// Opens the window with the race of this log; its name is below the program folder. A log that cannot be played
-    /// shows its message, and so does a race that is under way.
-    void zeigen(const std::string& protokoll);
+    /// Opens the window with the race of this log; its name is below the program folder. It stands at the beginning, or
+    /// shortly before the moment `ab`, in ms from the beginning of the log. A log that cannot be played shows its
+    /// message, and so does a race that is under way.
+    void zeigen(const std::string& protokoll, std::optional<zeit_ms> ab = {});
 
     /// No race runs, and none is being prepared.
     std::function<bool()> darf = [] { return true; };
@@ -89,7 +90,8 @@ public:
 
 private:
     struct worte {
-        std::string spielen, anhalten, rennen_laeuft, unlesbar, fremd, beschaedigt, abgewichen, springt;
+        std::string spielen, anhalten, rennen_laeuft, unlesbar, fremd, beschaedigt, abgewichen, springt, ganze_laenge,
+            uebersprungen;
     };
 
     void spielen_klick();
@@ -97,6 +99,7 @@ private:
     void spielen(bool an);
     void springen(zeit_ms ziel);
     void tick();
+    void weiterspielen(zeit_ms vergangen);
     /// On the way to a moment that was asked for, a stretch at a time.
     void weiter_springen();
     void neu_zeichnen();
@@ -112,6 +115,10 @@ private:
     bool neues_spiel_ = false;     ///< the race stands in another program than the one that is drawn
     bool spielt_ = false;
     zeit_ms zuletzt_ = 0;  ///< the clock at the last tick
+    struct {
+        zeit_ms dauer = 0;
+        zeit_ms zeigen_bis = 0;  ///< by the clock
+    } uebersprungen_;
 };
 
 }  // namespace tarvel

@@ -105,7 +105,9 @@ void protokollfenster::befehle_verbinden() {
     };
     Command_wiedergabe.bei_klick = [this] {
         if (wiedergeben) {
-            wiedergeben(std::string(protokoll_ordner) + "\\" + name_);
+            const bool da = gewaehlt_ >= 0;
+            wiedergeben(std::string(protokoll_ordner) + "\\" + name_,
+                        da ? std::optional(zeile(static_cast<std::size_t>(gewaehlt_)).zeit) : std::nullopt);
         }
     };
     Command_weiter.bei_klick = [this] { um_.r.bahn1.Command3.klicken(); };

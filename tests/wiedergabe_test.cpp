@@ -137,6 +137,39 @@ TEST_F(Wiedergabe, LaeuftMitSeinemTempoUndHaeltAmEnde) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U);
 }
 
+TEST_F(Wiedergabe, BeginntVorDerGewaehltenZeileUndUebergehtNurWasSteht) {
+    t.p.einst.chaosampel_an = false;
+    t.starten("Zeit", "2", {1, 2});
+    t.runde_nach(6000, "12");
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(100000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(30000);  // nobody comes over the line, and the clock runs
+    t.rennende();
+    t.p.auswertung.Command_protokoll.klicken();
+    protokollfenster& protokoll = t.p.protokollfenster;
+    int zeile = 0;
+    while (protokoll.zeile(static_cast<std::size_t>(zeile)).was != vorgang::pause) {
+        ++zeile;
+    }
+    protokoll.waehlen(zeile);
+    protokoll.Command_wiedergabe.klicken();
+    tarvel::wiedergabe& w = t.p.wiedergabe;
+    t.maschine.laufen(50);
+    const zeit_ms pause = protokoll.zeile(static_cast<std::size_t>(zeile)).zeit;
+    EXPECT_EQ(w.spieler()->stelle(), pause - 2000);
+    w.Command_spielen.klicken();
+    t.maschine.laufen(4900);
+    EXPECT_TRUE(w.spieler()->stelle() < pause + 3000);
+    t.maschine.laufen(200);
+    EXPECT_NEAR(static_cast<double>(w.spieler()->stelle()), static_cast<double>(pause) + 100000 - 9000, 200);
+    EXPECT_EQ(w.Label_zeit.text(), "Stillstand von 0:01:28 übersprungen");
+    const zeit_ms danach = w.spieler()->stelle();
+    t.maschine.laufen(20000);
+    EXPECT_NEAR(static_cast<double>(w.spieler()->stelle() - danach), 20000, 100);
+    EXPECT_NE(w.Label_zeit.text().find("mit Ampel und Pausen"), std::string::npos);
+}
+
 TEST_F(Wiedergabe, ImAusfallStehtDasRennen) {
     t.p.einst.zielmodus_erster = true;
     t.starten("Runden", "4", {1, 2});
