@@ -105,7 +105,7 @@ void protokollfenster::befehle_verbinden() {
     };
     Command_wiedergabe.bei_klick = [this] {
         if (wiedergeben) {
-            const bool da = gewaehlt_ >= 0;
+            const bool da = gewaehlt_ > 0;  // the first is where a table begins by itself
             wiedergeben(std::string(protokoll_ordner) + "\\" + name_,
                         da ? std::optional(zeile(static_cast<std::size_t>(gewaehlt_)).zeit) : std::nullopt);
         }

@@ -65,8 +65,8 @@ public:
     std::function<void()> ausschnitt_neu;
     std::function<void()> drucken;
     std::function<void()> als_pdf;
-    /// Plays the race of this log again, shortly before the moment of the chosen row if there is one; without it there
-    /// is no such command.
+    /// Plays the race of this log again, shortly before the moment of the chosen row if there is one but the first;
+    /// without it there is no such command.
     std::function<void(const std::string& datei, std::optional<zeit_ms> ab)> wiedergeben;
 
     /// Opens the window on one log, by its name below the program folder. In a pause the race goes before it: the
