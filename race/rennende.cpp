@@ -111,7 +111,9 @@ void rennende::zeit_ist_um() {
     for (const int spur : alle_spuren) {  // a machine that stood still finds it late: who has come since is home
         const spur_zustand& eine = zustand.spur[spur];
         const bool danach = eine.gezaehlt_bei >= ende && eine.pause_im_stempel == 0;  // else it came before a pause
-        if (danach && !um_.einst.zielmodus_erster && !eine.ziel_erreicht) {
+        if (danach && !eine.ziel_erreicht && um_.einst.zielmodus_erster) {
+            um_.zustand.spur[spur].ziel_erreicht = true;  // the lap that the end has cut short, and no further one
+        } else if (danach && !eine.ziel_erreicht) {
             spur_ziel_setzen(spur);
         }
     }

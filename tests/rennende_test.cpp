@@ -304,6 +304,24 @@ TEST_F(Rennende, WasNichtsKostetFragtNichtUndSchliessenFragtWieDerAbbruch) {
     EXPECT_EQ(t.bahn().Command2.text(), "Rennabbruch");
 }
 
+TEST_F(Rennende, AuchSpaetGesagtSchneidetDasEndeNurEineRundeAb) {
+    t.p.einst.zielmodus_erster = true;
+    t.p.einst.sensor_timeout = 10000ms;
+    t.p.einst.chaosampel_an = false;
+    t.starten("Zeit", "1", {1, 2});
+    const zeit_ms null = t.p.rennen.zustand.start_zeit + 60000;
+    t.runde_nach(1000, "12");
+    t.maschine.laufen(58900);
+    t.maschine.uhr_stellen(300);  // the loop stands still
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[1], null + 50);
+    t.maschine.laufen(2);
+    ASSERT_TRUE(beendet());
+    t.runde_nach(6000, "12");
+    EXPECT_EQ(t.runden(1), 1) << "its crossing behind zero has been";
+    EXPECT_EQ(t.runden(2), 1);
+    EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
+}
+
 TEST_F(Rennende, AbbruchGehtOhneErgebnisZurueck) {
     t.p.einst.zielmodus_erster = false;
     t.starten("Zeit", "1", {1, 2});
