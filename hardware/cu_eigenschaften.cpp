@@ -124,11 +124,12 @@ void cu_eigenschaften::laden() {
     }
     cbo_cu_comport.eintraege(ports);
     portzusaetze_zeigen(cbo_cu_comport, ports_);
-    const int port = std::exchange(port_vorgewaehlt, {}).value_or(um_.einst.cu.anschluss.cu_modus);
+    const control_unit_einstellungen gezeigt = std::exchange(vorgewaehlt, {}).value_or(um_.einst.cu);
+    const int port = gezeigt.anschluss.cu_modus;
     cbo_cu_comport.platz(std::clamp(port, 0, cu_comport_max));
-    opt_cu_tankautomatik.gesetzt(um_.einst.cu.cu_tankautomatik);
-    opt_cu_prgstart.gesetzt(um_.einst.cu.cu_sondermodus);
-    opt_cu_alterRZ.gesetzt(um_.einst.cu.cu_option);
+    opt_cu_tankautomatik.gesetzt(gezeigt.cu_tankautomatik);
+    opt_cu_prgstart.gesetzt(gezeigt.cu_sondermodus);
+    opt_cu_alterRZ.gesetzt(gezeigt.cu_option);
     timer_aus.gesetzt(false);
     std::vector<std::string> groessen;
     for (int wert = 0; wert <= 15; ++wert) {
@@ -137,7 +138,7 @@ void cu_eigenschaften::laden() {
     for (const int spur : alle_spuren) {
         wagen[spur].text(std::to_string(spur));
         cbo_cu_tankgroesse[spur].eintraege(groessen);
-        cbo_cu_tankgroesse[spur].platz(um_.einst.cu.cu_spur_wert[spur]);
+        cbo_cu_tankgroesse[spur].platz(gezeigt.cu_spur_wert[spur]);
         cbo_cu_tankgroesse[spur].ansage(Label_tankgroesse.text() + " " + std::to_string(spur));
     }
     Text1.ansage(Label_befehl.text());

@@ -78,8 +78,8 @@ public:
     befehl Command10;
     befehl Command4;  ///< keeps the options and closes
 
-    /// COM number of the next opening, 0 none, where it is not that of the settings.
-    std::optional<int> port_vorgewaehlt;
+    /// What the next opening shows, where it is not what the settings say.
+    std::optional<control_unit_einstellungen> vorgewaehlt;
 
     void laden() override;
     void entladen() override;

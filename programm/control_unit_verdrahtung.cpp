@@ -1,8 +1,14 @@
 #include "programm/control_unit_verdrahtung.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
+#include "core/protokollzeile.h"
+#include "core/spuren.h"
 #include "optionen/einstellungsfenster.h"
 #include "programm/messgeraete.h"
 #include "race/rennen.h"
@@ -18,10 +24,29 @@ control_unit_verdrahtung::control_unit_verdrahtung(const geraete_umgebung& um, m
         fenster.zeigen(fenstername::cu_eigenschaften, anzeige_art::modal);
     };
     optionen_.aktion_verbinden("cu_einrichten", [this, &fenster = um.fenster] {
-        cu_eigenschaften.port_vorgewaehlt = std::get<auswahl>(optionen_.zeile("cu_comport").element).platz();
+        cu_eigenschaften.vorgewaehlt = wie_die_seite_zeigt();
         fenster.zeigen(fenstername::cu_eigenschaften, anzeige_art::modal);
     });
     cu_eigenschaften.zugang = this;
+}
+
+control_unit_einstellungen control_unit_verdrahtung::wie_die_seite_zeigt() {
+    const auto gesetzt = [this](std::string_view name) {
+        return std::get<haken>(optionen_.zeile(name).element).gesetzt();
+    };
+    control_unit_einstellungen gezeigt = einst_.cu;
+    gezeigt.anschluss.cu_modus = std::max(std::get<auswahl>(optionen_.zeile("cu_comport").element).platz(), 0);
+    gezeigt.cu_tankautomatik = gesetzt("opt_cu_tankautomatik");
+    gezeigt.cu_sondermodus = gesetzt("opt_cu_prgstart");
+    gezeigt.cu_option = gesetzt("opt_cu_alterRZ");
+    for (const int spur : alle_spuren) {
+        const std::string getippt =
+            std::get<feld>(optionen_.zeile("cu_spur_wert_" + std::to_string(spur)).element).text();
+        const std::optional<std::int64_t> wert = als_zahl(getippt);
+        gezeigt.cu_spur_wert[spur] =
+            wert && *wert >= 0 && *wert <= 15 ? static_cast<int>(*wert) : einst_.cu.cu_spur_wert[spur];
+    }
+    return gezeigt;
 }
 
 bool control_unit_verdrahtung::einstellungen_speichern() {

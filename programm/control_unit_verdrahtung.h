@@ -23,6 +23,8 @@ private:
     void geraet_verbinden() override;
     int verworfene_saetze() const override { return cu.verworfene_saetze(); }
     bool einstellungen_speichern() override;
+    /// What its options page shows, saved or not.
+    control_unit_einstellungen wie_die_seite_zeigt();
 };
 
 }  // namespace tarvel

@@ -74,17 +74,23 @@ TEST_F(CuEigenschaften, DieSucheFindetDasGeraetUndSeinPortWirdBehalten) {
     EXPECT_TRUE(t.p.geraete.verbunden()) << "the race has the port again";
 }
 
-TEST_F(CuEigenschaften, VonDenEinstellungenAusNimmtEsDenPortDerDortSteht) {
+TEST_F(CuEigenschaften, VonDenEinstellungenAusNimmtEsWasDortSteht) {
     fenster.schliessen();
     t.p.form1.Command4.klicken();
     auto& port = std::get<auswahl>(t.p.einstellungsfenster.zeile("cu_comport").element);
     port.waehlen(com);
+    auto& tank = std::get<haken>(t.p.einstellungsfenster.zeile("opt_cu_tankautomatik").element);
+    auto& groesse = std::get<feld>(t.p.einstellungsfenster.zeile("cu_spur_wert_2").element);
+    tank.umschalten();
+    groesse.eingeben("9");
+    const bool tankt = tank.gesetzt();
     std::get<befehl>(t.p.einstellungsfenster.zeile("cu_einrichten").element).klicken();
     EXPECT_TRUE(gelistet(" +++ COM7 geöffnet"));
     fenster.cbo_cu_comport.waehlen(3);
     fenster.Command4.klicken();
     EXPECT_EQ(port.platz(), 3) << "the page knows what was saved";
-    fenster.port_vorgewaehlt.reset();
+    EXPECT_EQ(tank.gesetzt(), tankt) << "what had only been ticked so far is saved with it";
+    EXPECT_EQ(groesse.text(), "9");
     t.p.fenster.zeigen(fenstername::cu_eigenschaften);
     EXPECT_EQ(fenster.cbo_cu_comport.platz(), 3);
 }
