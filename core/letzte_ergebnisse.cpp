@@ -24,8 +24,9 @@ void letzte_ergebnisse::laden(const dateien& ablage) {
 }
 
 void letzte_ergebnisse::merken(const dateien& ablage, const eintrag& neu) {
-    std::erase_if(eintraege_, [&neu](const eintrag& e) { return e.pfad == neu.pfad || e.text == neu.text; });
-    eintraege_.insert(eintraege_.begin(), {neu.pfad, std::string(links(neu.text, text_zeichen_max))});
+    const std::string_view text = links(neu.text, text_zeichen_max);
+    std::erase_if(eintraege_, [&](const eintrag& e) { return e.pfad == neu.pfad || e.text == text; });
+    eintraege_.insert(eintraege_.begin(), {neu.pfad, std::string(text)});
     eintraege_.resize(std::min(eintraege_.size(), anzahl_max));
     std::vector<std::string> zeilen;
     for (const eintrag& e : eintraege_) {
