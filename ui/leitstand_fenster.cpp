@@ -216,6 +216,8 @@ void LeitstandFenster::strafformular(QVBoxLayout& aufbau) {
     sekunden->setAlignment(Qt::AlignRight);
     sekunden->setFixedWidth(5 * schrift_px);
     sekunden->setValidator(new QIntValidator(0, sekunden_hoechstens, sekunden));
+    QObject::connect(sekunden, &QLineEdit::returnPressed, this,
+                     [this] { weiter_->setFocus(); });  // the next Enter goes on
     const auto text = [this](bezeichnung& element, const char* name) { return binder().anzeige(element, name); };
     for (QWidget* stueck : {static_cast<QWidget*>(text(bahn_.ch_Label1, "ch_Label1")), static_cast<QWidget*>(haken),
                             static_cast<QWidget*>(text(bahn_.ch_Label2, "ch_Label2")), static_cast<QWidget*>(sekunden),
@@ -247,9 +249,10 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
     zeile->setSpacing(12);
+    weiter_ = binder().knopf(bahn_.Command3, "Command3");
     for (QPushButton* knopf :
-         {binder().hauptknopf(bahn_.Command1, "Command1"), binder().hauptknopf(bahn_.Command6, "Command6"),
-          binder().knopf(bahn_.Command3, "Command3"), binder().knopf_mit_rueckfrage(bahn_.Command4, "Command4"),
+         {binder().hauptknopf(bahn_.Command1, "Command1"), binder().hauptknopf(bahn_.Command6, "Command6"), weiter_,
+          binder().knopf_mit_rueckfrage(bahn_.Command4, "Command4"),
           binder().knopf_ohne_kuerzel(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }

@@ -33,6 +33,7 @@ private:
     leitstand& logik_;
     bahn1& bahn_;
     form2& ampel_;
+    QPushButton* weiter_ = nullptr;  ///< pauses, and goes on
 };
 
 }  // namespace tarvel::ui
