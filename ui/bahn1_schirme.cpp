@@ -45,7 +45,7 @@ void Bahn1Fenster::schirm_fuellen() {
 }
 
 void Bahn1Fenster::neu_verteilen() {
-    if (!isVisible() || !logik_.umgebung.einst.rennbild.auf_schirm_2) {
+    if (!isWindow() || !isVisible() || !logik_.umgebung.einst.rennbild.auf_schirm_2) {
         return;
     }
     QTimer::singleShot(0, this, [this] {  // the desktop has not done with the screens yet
