@@ -392,6 +392,7 @@ void programm::einstellungen_geladen(bool im_betrieb) {
             form1.bilder_anzeigen();
         }
         fenster.zeigen(fenstername::Form1);
+        hauptfenster_gilt_ = true;
         fenster.zeigen(fenstername::Form3);
     }
 }

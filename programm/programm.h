@@ -203,6 +203,7 @@ private:
 
     std::string bestzeiten_datei_;  ///< last one that was asked for
     bool strom_von_hand_aus_ = false;
+    bool hauptfenster_gilt_ = false;  ///< shows what was set up, not what it is made with
     bool programm_beendet_ = false;
 };
 

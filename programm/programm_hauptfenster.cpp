@@ -96,7 +96,7 @@ void programm::erscheinung_waehlen(const erscheinung& neu) {
 }
 
 void programm::hauptfenster_merken() {
-    if (einst.anzeige.hauptfenster_wie_zuletzt) {
+    if (hauptfenster_gilt_ && einst.anzeige.hauptfenster_wie_zuletzt) {
         form1.einrichtung_lesen();
         hauptfenster_speichern(ablage, txt, einrichtung);
     }

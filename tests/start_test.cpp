@@ -57,8 +57,12 @@ TEST(Start, ZweiteInstanzMeldetSichUndRuehrtNichtsAn) {
     maschine.erste_instanz = false;
     maschine.datei_schreiben("auto-1.csv", "alt");
     maschine.datei_schreiben("tvk_taste.ini", "unsinn");
+    const std::string felder = "Runden=Wahr\r\nDauer=17\r\nSpur1.Fahrer=Anna\r\n";
+    maschine.datei_schreiben("tvk_hauptfenster.ini", felder);
+    maschine.datei_schreiben("tvk_anzeige.ini", "language\r\n0\r\nWahr\r\n");
     programm p(maschine.dienste());
     EXPECT_FALSE(p.starten());
+    EXPECT_EQ(maschine.datei_lesen("tvk_hauptfenster.ini"), felder) << "its own fields are those of nobody";
     ASSERT_EQ(maschine.meldungen_gezeigt.size(), 1U);
     EXPECT_EQ(maschine.meldungen_gezeigt[0].text, "Programm ist bereits gestartet");
     EXPECT_EQ(maschine.meldungen_gezeigt[0].titel, "Tarvel");
