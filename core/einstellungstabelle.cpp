@@ -79,13 +79,26 @@ einstellungszeile sound(int nummer, std::size_t mindestens) {
                        mindestens);
 }
 
+/// A word of the language stands in the file as it is in the program: read in another language it is no name.
+void wort_statt_name(einstellungszeile& zeile, std::string_view eingebaut, std::string texte::*wort) {
+    zeile.laden = [davor = zeile.laden, eingebaut, wort](const ziel& a, const std::string& text) {
+        davor(a, text == eingebaut ? a.txt.*wort : text);
+    };
+    zeile.schreiben = [davor = zeile.schreiben, eingebaut, wort](const ziel& a) {
+        const std::string text = davor(a);
+        return text == a.txt.*wort ? std::string(eingebaut) : text;
+    };
+}
+
 /// Title, four values and a blank line of a lane. The default names are those of the language.
 void fahrer_block(tabelle& t, int spur) {
     using bahn = renneinrichtung::spur;
     einstellungszeile fahrer = zeile::eingabe(einrichtung(spur, &bahn::fahrer), "");
     fahrer.standard_aus_texten = [spur](const texte& txt) { return txt.fahrer_standard[spur]; };
+    wort_statt_name(fahrer, "kein Fahrer", &texte::kein_fahrer);
     einstellungszeile fahrzeug = zeile::eingabe(einrichtung(spur, &bahn::fahrzeug), "");
     fahrzeug.standard_aus_texten = [](const texte& txt) { return txt.standardfahrzeug_text; };
+    wort_statt_name(fahrzeug, "Standardfahrzeug", &texte::standardfahrzeug_text);
     t << zeile::titel("[Fahrer" + std::to_string(spur) + "]", true)
       << zeile::kasten(einrichtung(spur, &bahn::dabei), spur <= 4, false, nur_eines_von({"0", "1"}))
       << zeile::zahleneingabe(einrichtung(spur, &bahn::laenge), "25", ablehnen_ausser(1, 10000)) << std::move(fahrer)

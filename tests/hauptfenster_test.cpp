@@ -156,6 +156,10 @@ TEST(LetzteErgebnisse, ZwanzigJedesEinmalUndWasUnlesbarIstFehlt) {
     gelesen.laden(ablage);
     ASSERT_EQ(gelesen.eintraege().size(), 1U);
     EXPECT_EQ(gelesen.eintraege()[0].pfad, "a.csv");
+    for (const char* name : {"selbst.csv", "eigen.csv"}) {
+        gelesen.merken(ablage, {name, std::string(300, 'x')});
+    }
+    EXPECT_EQ(gelesen.eintraege().size(), 2U) << "one race, kept by itself and by hand";
 }
 
 TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
@@ -198,6 +202,7 @@ TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     neu_starten();
     EXPECT_EQ(zweites->form1.sprachen().gewaehlt, 1U);
     EXPECT_EQ(zweites->form1.aussehensarten().gewaehlt, 1U);
+    EXPECT_EQ(zweites->form1.auto_[0].text(), "Standard car") << "its word was saved in another language";
     t.maschine.nicht_schreibbar = "tvk_anzeige.ini";
     zweites->form1.aussehen_waehlen(0);
     EXPECT_EQ(letzte_meldung(), t.p.txt.meldung[4]) << "in force, but not kept";
