@@ -148,7 +148,7 @@ void rennablauf::freigeben_nach_einfahrzeit() {
 void rennablauf::start_abgebrochen() {
     um_.zustand.rennen_beendet = true;
     um_.bahn.Nachtabschaltung.sichtbar(false);
-    t_.ansicht.anzeigen_leeren();
+    rennen_zuruecksetzen();  // what a false start has brought is over with the start
     vor_dem_start();
     t_.blinken.beginnen();
     um_.bahn.Frame1.fokus_setzen();  // a second press of the key that stopped the start must not begin another
@@ -163,7 +163,8 @@ void rennablauf::rennen_starten() {
 void rennablauf::befehle_freigeben() {
     um_.bahn.Command2.aktiviert(true);
     // a device that is started at its own key is paused there too
-    um_.bahn.Command3.aktiviert(um_.quellen.ampel() == nullptr || !um_.quellen.kann().start_am_geraet);
+    um_.bahn.Command3.aktiviert(um_.zustand.chaos_aktiv || um_.quellen.ampel() == nullptr ||
+                                !um_.quellen.kann().start_am_geraet);
     um_.bahn.Command4.aktiviert(true);
 }
 

@@ -148,11 +148,15 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
 void rennansicht::oeffnen() {
     if (um_.einst.darstellung_zeile) {
         zeilenansicht_oeffnen();
-    } else if (um_.param.spuren_anzahl >= 2) {
+    } else if (std::count_if(alle_spuren.begin(), alle_spuren.end(), [this](int spur) { return zu_sehen(spur); }) > 1) {
         spaltenansicht_oeffnen();
     } else {
         einfahrer_ansicht_oeffnen();
     }
+}
+
+bool rennansicht::zu_sehen(int spur) const {
+    return um_.param.spur_aktiv[spur] || um_.teil_von->leer_gezeigt(spur);
 }
 
 void rennansicht::zeilenansicht_oeffnen() {
@@ -184,7 +188,7 @@ void rennansicht::ansicht_oeffnen(ansicht_art art) {
     ansicht_inhalt inhalt;
     inhalt.art = art;
     for (const int spur : alle_spuren) {
-        inhalt.spur_aktiv[spur] = um_.param.spur_aktiv[spur] || um_.teil_von->leer_gezeigt(spur);
+        inhalt.spur_aktiv[spur] = zu_sehen(spur);
     }
     if (um_.param.tank_aktiv) {
         inhalt.tank = um_.einst.tankanzeige_grafisch ? tankanzeige_art::balken : tankanzeige_art::zahl;

@@ -20,6 +20,8 @@ public:
     void oeffnen();
     /// Captions, and one row, one column or the whole room for each lane in the race; the controls of the other lanes
     /// are hidden.
+    /// It has a block: it drives, or is shown empty.
+    bool zu_sehen(int spur) const;
     void zeilenansicht_oeffnen();
     void spaltenansicht_oeffnen();
     void einfahrer_ansicht_oeffnen();

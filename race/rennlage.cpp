@@ -77,6 +77,9 @@ spurlage rennlage::lage_von(int spur) const {
 
 int rennlage::fuehrende() const {
     int erste = 0;
+    if (um_.ampel_laeuft()) {  // who has jumped the light leads nothing
+        return erste;
+    }
     for (const int spur : alle_spuren) {
         const bool dabei = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
                            um_.zustand.konto.runden(spur) >= 0;
@@ -90,7 +93,8 @@ int rennlage::fuehrende() const {
 spuren<int> rennlage::ordnung() const {
     spuren<int> ordnung;
     for (const int spur : alle_spuren) {
-        ordnung[spur] = um_.einst.rennbild.nach_platz ? plaetze_.position(feld_index(spur)) : spur;
+        const int platz = um_.einst.rennbild.nach_platz ? plaetze_.position(feld_index(spur)) : 0;
+        ordnung[spur] = platz > 0 ? platz : spuren_max + spur;  // who has no place, as an empty lane, comes last
     }
     return ordnung;
 }

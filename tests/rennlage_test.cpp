@@ -61,6 +61,24 @@ TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
     EXPECT_EQ(sagt(1), "");
     t.p.startampel.fenster.abbrampel.klicken();
     EXPECT_EQ(sagt(3), "");
+    t.rennabbruch();
+
+    t.p.einst.fruehstart_option = fruehstart_aktion::disqualifikation;
+    beginnen(1);
+    t.maschine.laufen(6000);
+    ampeltaste('3');
+    EXPECT_EQ(sagt(3), "DISQUALIFIZIERT");
+    t.p.startampel.fenster.abbrampel.klicken();
+    EXPECT_EQ(sagt(3), "") << "of a start that has not been";
+    t.rennabbruch();
+
+    t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
+    beginnen(1);
+    t.maschine.laufen(6000);
+    ampeltaste('3');
+    EXPECT_EQ(fuehrt(), 0) << "in the red light nobody leads";
+    t.p.startampel.fenster.abbrampel.klicken();
+    EXPECT_EQ(fuehrt(), 0);
 }
 
 TEST_F(Rennlage, PauseStehtUeberAllenUndDieStrafeDanachZaehltHerunter) {

@@ -101,11 +101,17 @@ TEST_F(Wettkampfabend, EineRundeVonDerVorigenSpurIstNichtDieBesteDerNeuen) {
 TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
     for (const bool ausblenden : {false, true}) {
         t.p.einst.freie_slots = ausblenden;
+        t.p.einst.rennbild.nach_platz = true;
         beginnen(wettkampf_modus::gruppen, 3, {1, 2});
         int mit_freiem = 0;
         for (int rennen = 1; rennen <= 4; ++rennen) {
             ASSERT_TRUE(abend.rennen_starten());
             const renn_uebergabe dran = abend.stand().uebergabe();
+            const bool allein = dran.fueller[1] || dran.fueller[2];
+            EXPECT_EQ(t.bahn().ansicht.inhalt().art,
+                      allein && ausblenden ? ansicht_art::einfahrer : ansicht_art::spalten);
+            const spuren<int> ordnung = t.p.rennen.lage.ordnung();
+            EXPECT_EQ(ordnung[1] < ordnung[2], !dran.fueller[1]) << "the empty lane comes last";
             for (const int spur : {1, 2}) {
                 mit_freiem += dran.fueller[spur] ? 1 : 0;
                 EXPECT_EQ(t.p.param.spur_aktiv[spur], !dran.fueller[spur]);
