@@ -172,6 +172,7 @@ void wiedergabe::springen(zeit_ms ziel) {
     if (spieler_ == nullptr) {
         return;
     }
+    uebersprungen_ = {};
     ziel_ = std::clamp(ziel, spieler_->anfang(), spieler_->ende());
     leiste.stelle(*ziel_);
 }
@@ -193,8 +194,8 @@ void wiedergabe::tick() {
 void wiedergabe::weiterspielen(zeit_ms vergangen) {
     const zeit_ms ziel = spieler_->stelle() + vergangen * schnelle();
     const zeit_ms dahinter = spieler_->nach_stillstand(ziel);
-    if (dahinter != ziel) {
-        uebersprungen_ = {dahinter - ziel, zuletzt_ + sprungwort_ms};
+    if (dahinter != ziel && dahinter != uebersprungen_.bis) {  // the way there may take several ticks
+        uebersprungen_ = {dahinter, dahinter - ziel, zuletzt_ + sprungwort_ms};
     }
     if (spieler_->vor(dahinter, taten_je_takt) && spieler_->stelle() >= spieler_->ende()) {
         spielen(false);

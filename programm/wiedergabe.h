@@ -116,6 +116,7 @@ private:
     bool spielt_ = false;
     zeit_ms zuletzt_ = 0;  ///< the clock at the last tick
     struct {
+        zeit_ms bis = 0;
         zeit_ms dauer = 0;
         zeit_ms zeigen_bis = 0;  ///< by the clock
     } uebersprungen_;

@@ -153,7 +153,7 @@ void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
 
 /// Of a crossing that did not count, only where nothing that the lane is in says it already.
 rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
-    constexpr zeit_ms dauer_ms = 2000;
+    constexpr zeit_ms gesagt_ms = 2000;
     const spur_zustand& zustand = um_.zustand.spur[spur];
     const lage was = um_.bahn.lage[spur].stand().was;
     if (was == lage::leer && zustand.tank_strafe_aktiv) {
@@ -162,7 +162,7 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
     const letzte_ablehnung& letzte = zustand.abgelehnt;
     const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
     const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer;
-    const bool eben = seither >= 0 && seither < dauer_ms && letzte.stempel > zustand.gezaehlt_bei;
+    const bool eben = seither >= 0 && seither < gesagt_ms && letzte.stempel > zustand.gezaehlt_bei;
     if (!frei || !eben || um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
         return {};
     }

@@ -133,7 +133,7 @@ std::vector<platz_ab_gruen> anders_ab_gruen(const rennergebnis& ergebnis) {
     std::vector<platz_ab_gruen> andere;
     for (int platz = 1; platz <= spuren_max; ++platz) {
         const rennergebnis::spur* s = ergebnis.auf(folge[platz]);
-        if (s != nullptr && gewertet(*s) && s->platz != platz) {
+        if (s != nullptr && gewertet(*s) && s->platz.value_or(platz) != platz) {
             andere.push_back({platz, s->nummer});
         }
     }
