@@ -90,6 +90,8 @@ void rennende::rennende_einleiten() {
     ende_stempeln();
     if (um_.ist_zeitrennen()) {
         zeit_ist_um();
+    } else if (um_.einst.runde_beenden) {
+        sieg_stempeln();
     }
     um_.protokoll.vermerken(vermerk::letzte, {zustand.renn_ende_stempel});
     if (um_.ist_rundenrennen() && um_.einst.runde_beenden) {
@@ -125,9 +127,20 @@ void rennende::nachlauf_zeit_starten() {
     um_.zeitgeber.nachlauftimer1->an();
 }
 
+void rennende::sieg_stempeln() {
+    renn_zustand& zustand = um_.zustand;
+    for (const int spur : alle_spuren) {
+        if (am_ziel(spur) && !zustand.spur[spur].disqualifiziert && zustand.spur[spur].pause_im_stempel == 0) {
+            zustand.renn_ende_stempel = std::min(zustand.renn_ende_stempel, zustand.spur[spur].gezaehlt_bei);
+        }
+    }
+}
+
 void rennende::nachlauf_runden_starten() {
     for (const int spur : alle_spuren) {
-        if (um_.zustand.konto.runden(spur) == um_.param.renn_ziel.runden() && !um_.zustand.spur[spur].ziel_erreicht) {
+        const spur_zustand& eine = um_.zustand.spur[spur];  // told in one look, some have come behind the winner
+        const bool danach = eine.gezaehlt_bei > um_.zustand.renn_ende_stempel && eine.pause_im_stempel == 0;
+        if ((danach || um_.zustand.konto.runden(spur) == um_.param.renn_ziel.runden()) && !eine.ziel_erreicht) {
             spur_ziel_setzen(spur);
         }
     }

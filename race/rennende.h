@@ -45,6 +45,8 @@ private:
     /// The end of a time race has been found.
     void zeit_ist_um();
     void nachlauf_zeit_starten();
+    /// A lap race was over with the crossing that won it, whenever that was told.
+    void sieg_stempeln();
     void nachlauf_runden_starten();
 
     renn_umgebung um_;

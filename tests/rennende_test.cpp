@@ -222,6 +222,30 @@ TEST_F(Rennende, AktuelleRundeBeendenLaesstJedenAusfahren) {
     EXPECT_TRUE(beendet());
 }
 
+TEST_F(Rennende, WerNachDemSiegerKamFaehrtAuchSpaetGesagtKeineRundeMehr) {
+    t.p.einst.runde_beenden = true;
+    t.p.einst.chaosampel_an = false;
+    t.starten("Runden", "2", {1, 2, 3, 4});
+    t.runde_nach(1000, "1234");
+    t.runde_nach(6000, "1");
+    t.maschine.laufen(6000);
+    const zeit_ms sieg = t.p.rennen.zeit.messzeit_lesen();
+    t.maschine.uhr_stellen(60);  // the loop stands still
+    for (const auto& [spur, nach] : {std::pair(1, 0), {2, 20}}) {
+        t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[spur], sieg + nach);
+    }
+    t.maschine.laufen(5);
+    EXPECT_EQ(t.p.rennen.zustand.renn_ende_stempel, sieg);
+    EXPECT_TRUE(t.spur(2).ziel_erreicht) << "told in the same look";
+    for (const auto& [spur, nach] : {std::pair(3, 30), {4, -30}}) {
+        t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[spur], sieg + nach);
+    }
+    t.maschine.laufen(5);
+    EXPECT_TRUE(t.spur(3).ziel_erreicht) << "told behind the end";
+    EXPECT_FALSE(t.spur(4).ziel_erreicht) << "before the winner: one lap more";
+    EXPECT_EQ(t.runden(4), 1);
+}
+
 TEST_F(Rennende, EineAbgeschalteteSpurRuehrtSichAuchNachDemFortsetzenNicht) {
     t.p.einst.runde_beenden = true;
     t.starten("Runden", "2", {1});
