@@ -15,6 +15,10 @@ constexpr int adresse_max = 0xFFFF - 2;
 
 }  // namespace
 
+bool portadresse_gilt(int adresse) {
+    return adresse >= adresse_min && adresse <= adresse_max;
+}
+
 std::string portadresse_text(int adresse) {
     std::array<char, 8> ziffern{};
     const auto ende = std::to_chars(ziffern.begin(), ziffern.end(), static_cast<unsigned>(adresse), hexadezimal).ptr;
@@ -29,7 +33,7 @@ std::optional<int> portadresse_lesen(std::string_view text) {
     int adresse = 0;
     const char* const ende = text.data() + text.size();
     const auto [bis, fehler] = std::from_chars(text.data(), ende, adresse, hexadezimal);
-    const bool gut = fehler == std::errc() && bis == ende && adresse >= adresse_min && adresse <= adresse_max;
+    const bool gut = fehler == std::errc() && bis == ende && portadresse_gilt(adresse);
     return gut ? std::optional(adresse) : std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "core/portadresse.h"
 #include "platform/druckerport.h"
 
 /// The printer port's registers and pins.
@@ -20,8 +21,15 @@ struct registersatz {
     plattform::druckerport& port;
     int lpt_basis = 888;
 
-    std::optional<std::uint8_t> lesen(int platz) const { return port.lesen(lpt_basis + platz); }
-    void schreiben(std::uint8_t ausgaenge) const { port.schreiben(lpt_basis + lpt_offset, ausgaenge); }
+    /// A settings file can name any address: where no port can be, none is there.
+    std::optional<std::uint8_t> lesen(int platz) const {
+        return portadresse_gilt(lpt_basis) ? port.lesen(lpt_basis + platz) : std::nullopt;
+    }
+    void schreiben(std::uint8_t ausgaenge) const {
+        if (portadresse_gilt(lpt_basis)) {
+            port.schreiben(lpt_basis + lpt_offset, ausgaenge);
+        }
+    }
 };
 
 struct eingangspin {
