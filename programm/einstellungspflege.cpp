@@ -108,13 +108,14 @@ void einstellungspflege::modusfrage_vormerken() {
 
 void einstellungspflege::laden(bool im_betrieb) {
     einstellungsdatei& datei = um_.datei;
+    const std::optional<modul_4x4> modus = std::exchange(hw_4x4_modus_start_, std::nullopt);  // of this file alone
     const bool da = um_.ablage.gibt_es(einstell_datei_);
     datei.einstellungsdatei_einlesen(einstell_datei_);
     if (!datei.fehler_laden()) {
         datei.einstellungsdatei_pruefen();
     }
     if (!datei.fehler_laden()) {
-        datei.einstellungen_uebernehmen(std::exchange(hw_4x4_modus_start_, std::nullopt));
+        datei.einstellungen_uebernehmen(modus);
     }
     einstell_datei_ = einstellungsname(einstell_datei_);
     name_zeigen();
