@@ -133,7 +133,7 @@ std::optional<wettkampf> wettkampf_laden(einstellungsdatei& einstellungen, std::
                                          const texte& txt, einstellungen_aus_datei wie, version_melden melden) {
     einstellungen.einstellungsdatei_einlesen(datei, true, melden);
     if (!einstellungen.fehler_laden()) {
-        einstellungen.einstellungsdatei_pruefen();
+        einstellungen.einstellungsdatei_pruefen(pruefweise::festgehaltenes);
     }
     if (einstellungen.fehler_laden()) {
         return std::nullopt;

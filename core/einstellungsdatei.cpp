@@ -73,10 +73,12 @@ void einstellungsdatei::wahrheitswoerter_uebersetzen() {
     }
 }
 
-void einstellungsdatei::einstellungsdatei_pruefen() {
+void einstellungsdatei::einstellungsdatei_pruefen(pruefweise wie) {
     const auto& tabelle = einstellungstabelle();
     for (int z = 1; z <= z::letzte_gelesene; ++z) {
-        if (tabelle[platz(z)].pruefen && tabelle[platz(z)].pruefen(zeilen_, z) == zeilen_urteil::abgelehnt) {
+        const einstellungszeile& eine = tabelle[platz(z)];
+        const bool abgelehnt = eine.pruefen && eine.pruefen(zeilen_, z) == zeilen_urteil::abgelehnt;
+        if (abgelehnt && !(eine.gilt_wie_es_galt && wie == pruefweise::festgehaltenes)) {
             fehler_laden_ = true;
         }
     }

@@ -16,6 +16,9 @@ namespace tarvel {
 /// Whether reading a file of another version says so.
 enum class version_melden { ja, nein };
 
+/// What is checked: a settings file, or what was in force as a race or an evening was written down.
+enum class pruefweise { einstellungen, festgehaltenes };
+
 /// A settings file in its three stages: read, check, take over. No setting changes before the third.
 class einstellungsdatei {
 public:
@@ -40,7 +43,7 @@ public:
     void einlesen(const std::vector<std::string>& inhalt, std::size_t erste = 0,
                   version_melden melden = version_melden::nein);
     /// Second stage: refuses the file or mends single lines.
-    void einstellungsdatei_pruefen();
+    void einstellungsdatei_pruefen(pruefweise wie = pruefweise::einstellungen);
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`.
     void einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x4_modus_start);
     /// Asked in the middle of taking over, as soon as it is known which best times are wanted; null before the start

@@ -167,6 +167,8 @@ einstellungszeile gruppenzeile(einstellungszeile neu) {
 }
 
 void rennen(tabelle& t) {  // Z 25 to Z 64
+    einstellungszeile tank_strafzeit = zeile::ganzzahl(wert(&e::tank_strafzeit), 1000, ablehnen_ausser(1, 6000));
+    tank_strafzeit.gilt_wie_es_galt = true;  // the options allow 0, and say that a settings file does not
     t << zeile::titel("[allgemein]", true) << zeile::eingabe(einrichtung(&re::massstab), "43", ablehnen_ausser(1, 500))
       << zeile::eingabe(einrichtung(&re::stunden), "0")
       << zeile::zahleneingabe(einrichtung(&re::dauer), "5", ablehnen_ausser(0, 9999)) << rennart()
@@ -178,8 +180,8 @@ void rennen(tabelle& t) {  // Z 25 to Z 64
       << zeile::ganzzahl(wert(&e::tank_inhalt), 60, ablehnen_ausser(1, 100))
       << zeile::ganzzahl(wert(&e::tank_verbrauch), 7, ablehnen_ausser(1, 30))
       << zeile::ganzzahl(wert(&e::tank_rundenzeit), 8, ablehnen_ausser(1, 300))
-      << zeile::ganzzahl(wert(&e::tank_wartezeit), 100, ablehnen_ausser(0, 6000))
-      << zeile::ganzzahl(wert(&e::tank_strafzeit), 1000, ablehnen_ausser(1, 6000)) << zeile::leer();
+      << zeile::ganzzahl(wert(&e::tank_wartezeit), 100, ablehnen_ausser(0, 6000)) << std::move(tank_strafzeit)
+      << zeile::leer();
     t << zeile::titel("[Fruehstart]", true) << zeile::ganzzahl(wert(&e::fruehstart_option), 3, ablehnen_ausser(0, 5))
       << zeile::ganzzahl(wert(&e::fruehstart_strafzeit), 500, ablehnen_ausser(0, 30000)) << zeile::leer();
     t << zeile::titel("[Startoptionen]", true) << zeile::ganzzahl(wert(&e::start_option), 1, ablehnen_ausser(1, 3))

@@ -195,8 +195,11 @@ einstellungszeile text(const zugriff<std::string>& ziel, std::string_view standa
 }
 
 einstellungszeile eingabe(const zugriff<std::string>& ziel, std::string_view standard, pruefung::art pruefen) {
-    return {std::move(pruefen), [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e) = zeile; },
-            [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e)); }, std::string(standard)};
+    einstellungszeile neu{std::move(pruefen),
+                          [ziel](const einstellungs_ziel& e, const std::string& zeile) { ziel(e) = zeile; },
+                          [ziel](const einstellungs_ziel& e) { return als_zeile(ziel(e)); }, std::string(standard)};
+    neu.gilt_wie_es_galt = true;  // anything can be typed into a field
+    return neu;
 }
 
 einstellungszeile zahleneingabe(const zugriff<std::string>& ziel, std::string_view standard, pruefung::art pruefen) {

@@ -35,6 +35,8 @@ struct einstellungszeile {
     std::function<std::string(const texte&)> standard_aus_texten = {};
     /// Sets the default directly where taking the line over could not.
     std::function<void(const einstellungs_ziel&)> standard_setzen = {};
+    /// A race can be driven with what a settings file may not say here: what was in force is then no damage.
+    bool gilt_wie_es_galt = false;
 };
 
 namespace pruefung {

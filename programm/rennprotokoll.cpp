@@ -92,7 +92,7 @@ std::optional<bool> rennprotokoll::bereitlegen(std::string_view inhalt) {
     }
     stand.kopf = std::move(gelesen->kopf);
     um_.datei.einlesen(stand.kopf.einstellungen);
-    um_.datei.einstellungsdatei_pruefen();
+    um_.datei.einstellungsdatei_pruefen(pruefweise::festgehaltenes);
     if (um_.datei.fehler_laden()) {
         return std::nullopt;
     }
