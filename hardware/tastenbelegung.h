@@ -49,6 +49,8 @@ public:
     bool tastenbelegung_laden(const dateien& ablage);
     bool tastenbelegung_speichern(const dateien& ablage) const;
 
+    bool operator==(const tastenbelegung&) const = default;
+
 private:
     std::array<int, zeile_max + 1> tasten_{};
 };

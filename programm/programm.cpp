@@ -56,8 +56,8 @@ programm::programm(const plattform::dienste& d)
       protokoll_(std::make_unique<tarvel::rennprotokoll>(
           tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, ablage, txt, d})),
       wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(tarvel::wiederaufnahme::umgebung{
-          datei, einst, *this, form1, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen, *ergebnisse_,
-          *wettkampf_, *protokoll_, geraete_->rennverbindung(), *geraete_, d})),
+          datei, einst, belegung, einrichtung, *this, form1, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen,
+          *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), *geraete_, d})),
       wiedergabe_(std::make_unique<tarvel::wiedergabe>(
           tarvel::wiedergabe::umfeld{{ablage, txt, fenster, d.meldungen}, d.uhr, d.zeitgeber, d.programmordner})),
       form3(start_->form3),

@@ -79,6 +79,33 @@ plattform::datum_uhrzeit datum_lesen(std::string_view text) {
 
 }  // namespace
 
+wiederaufnahme::wiederaufnahme(const umgebung& um)
+    : um_(um), takt_(um.dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 200ms)) {
+    takt_->bei_tick = [this] {
+        const auto offen = [this](fenstername name) { return um_.fenster.ist_offen(name); };
+        if (!offen(fenstername::bahn1) && !offen(fenstername::auswertung)) {
+            zurueckstellen();
+        }
+    };
+}
+
+void wiederaufnahme::zurueckstellen() {
+    takt_->aus();
+    const vorher alt = *std::exchange(vorher_, std::nullopt);
+    const zwischendurch seither(um_.einst);
+    const erscheinung anzeige = um_.einst.anzeige;
+    um_.einst = alt.einst;
+    um_.einst.anzeige = anzeige;
+    seither.behalten(um_.einst);
+    um_.belegung = alt.belegung;
+    if (alt.einrichtung) {
+        um_.einrichtung = *alt.einrichtung;
+        um_.haupt.einrichtung_zeigen();
+        um_.haupt.felder_nach_spuren();
+    }
+    um_.folgen.einstellungen_geladen(true);
+}
+
 std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string& name) const {
     kandidat k;
     k.name = name;
@@ -124,6 +151,7 @@ std::string wiederaufnahme::frage(const protokollstand& stand) const {
 }
 
 void wiederaufnahme::nach_dem_start_anbieten() {
+    nach_dem_start_ = true;
     const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
     std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
     if (k && (k->stand.geschlossen || k->stand.abgebrochen || protokoll_weggelegt(um_.ablage, k->name))) {
@@ -149,6 +177,7 @@ void wiederaufnahme::nach_dem_start_anbieten() {
 }
 
 void wiederaufnahme::anbieten() {
+    nach_dem_start_ = false;
     using antwort = plattform::dreifache_antwort;
     for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
         const std::optional<kandidat> k = lesen(name);
@@ -167,6 +196,7 @@ void wiederaufnahme::anbieten() {
 }
 
 bool wiederaufnahme::abgebrochenes_anbieten() {
+    nach_dem_start_ = false;
     const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
     const std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
     if (!k || !k->stand.abgebrochen || k->stand.beendet) {
@@ -189,7 +219,7 @@ bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
         return true;
     }
     um_.datei.einlesen(kopf.einstellungen);
-    um_.datei.einstellungsdatei_pruefen();
+    um_.datei.einstellungsdatei_pruefen(pruefweise::festgehaltenes);
     if (um_.datei.fehler_laden()) {
         return false;
     }
@@ -236,6 +266,24 @@ dauer_ms wiederaufnahme::vergangen(const protokollstand& stand) const {
 }
 
 bool wiederaufnahme::fortsetzen(const kandidat& k) {
+    um_.haupt.einrichtung_lesen();
+    const protokollkopf& kopf = k.stand.kopf;
+    if (um_.datei.festhalten() == kopf.einstellungen && um_.belegung == kopf.belegung) {
+        return aufnehmen(k);
+    }
+    if (!vorher_) {
+        const bool alleine = nach_dem_start_ && !kopf.teil_von.starts_with(abend_kennung);
+        vorher_ = {um_.einst, um_.belegung, alleine ? std::nullopt : std::optional(um_.einrichtung)};
+    }
+    if (!aufnehmen(k)) {
+        zurueckstellen();
+        return false;
+    }
+    takt_->an();
+    return true;
+}
+
+bool wiederaufnahme::aufnehmen(const kandidat& k) {
     if (!einrichten(k.stand.kopf) || !eingliedern(k.stand.kopf.teil_von)) {
         melden(um_.txt.wettkampf.nicht_fortsetzbar);
         return false;

@@ -19,6 +19,8 @@ public:
     struct umgebung {
         einstellungsdatei& datei;
         einstellungen& einst;
+        tastenbelegung& belegung;
+        renneinrichtung& einrichtung;
         einstellungsfolgen& folgen;
         form1& haupt;
         fensterregister& fenster;
@@ -35,7 +37,7 @@ public:
         plattform::dienste dienste;
     };
 
-    explicit wiederaufnahme(const umgebung& um) : um_(um) {}
+    explicit wiederaufnahme(const umgebung& um);
 
     /// The last race, if the program before has not come to its end, and the evening that it is part of.
     void nach_dem_start_anbieten();
@@ -54,10 +56,20 @@ private:
         protokollstand stand;  ///< its lines lie in `inhalt`
     };
 
+    /// What was in force before a race came back with what it had begun with.
+    struct vorher {
+        einstellungen einst;
+        tastenbelegung belegung;
+        std::optional<renneinrichtung> einrichtung;  ///< none: that of the race is what the director had typed last
+    };
+
     std::optional<kandidat> lesen(const std::string& name) const;
     std::string frage(const protokollstand& stand) const;
     bool fortsetzen(const kandidat& k);
+    bool aufnehmen(const kandidat& k);
     bool einrichten(const protokollkopf& kopf);
+    /// Back to what was in force before, once the race is over and its windows are closed.
+    void zurueckstellen();
     /// Makes the race part of what it was part of. False if that is no more.
     bool eingliedern(std::string_view kennung);
     /// The books of the evening, if it is part of one, are those of a race that has come so far.
@@ -70,6 +82,9 @@ private:
     void melden(const std::string& text) const { um_.dienste.meldungen.zeigen(text, um_.txt.titel[1]); }
 
     umgebung um_;
+    bool nach_dem_start_ = false;
+    std::optional<vorher> vorher_;
+    std::unique_ptr<plattform::zeitgeber> takt_;
 };
 
 }  // namespace tarvel

@@ -145,6 +145,47 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
 }
 
+TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
+    t_.starten("Runden", "10", {1, 2});
+    t_.runde_nach(4000, "12");
+    t_.runde_nach(4000, "1");
+    t_.rennabbruch();
+    t_.p.einst.tank_inhalt = 44;
+    t_.p.belegung.taste(1, 200);
+    t_.p.form1.fahrer[0].eingeben("Gast");
+    t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t_.p.form1.command_fortsetzen.klicken();
+    ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_NE(t_.p.einst.tank_inhalt, 44) << "the race goes on with what it began with";
+    EXPECT_NE(t_.p.belegung.taste(1), 200);
+    t_.p.k_ampel.Command1.klicken();
+    t_.maschine.laufen(8000);
+    t_.rennende();
+    EXPECT_NE(t_.p.einst.tank_inhalt, 44);
+    t_.p.auswertung.Command1.klicken();
+    t_.maschine.laufen(1000);
+    EXPECT_NE(t_.p.einst.tank_inhalt, 44) << "the same race once more";
+    t_.rennabbruch();
+    t_.maschine.laufen(1000);
+    EXPECT_EQ(t_.p.einst.tank_inhalt, 44);
+    EXPECT_EQ(t_.p.belegung.taste(1), 200);
+    EXPECT_EQ(t_.p.form1.fahrer[0].text(), "Gast");
+}
+
+TEST_F(Wiederaufnahme, WasEineEinstellungsdateiNichtSagenDarfHaeltKeinRennenAuf) {
+    t_.p.einst.tank_strafzeit = {};
+    t_.p.form1.massstab.eingeben("600");
+    t_.starten("Runden", "10", {1, 2});
+    t_.runde_nach(4000, "12");
+    t_.runde_nach(4000, "1");
+    EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
+    neustart danach(t_, protokoll_von(t_));
+    danach.p.starten();
+    ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_EQ(danach.lauf().zustand.konto.runden(1), 1);
+    EXPECT_EQ(danach.p.einst.tank_strafzeit.count(), 0);
+}
+
 TEST_F(Wiederaufnahme, LangeStrafenFuellenDasProtokollNichtUndGehenDochWeiter) {
     constexpr std::size_t bytes_je_minute = 5'000'000 / 60;
     einstellungen& e = t_.p.einst;
