@@ -129,6 +129,13 @@ class befehl : public steuerelement {
 public:
     std::function<void()> bei_klick;
     void klicken();
+
+    /// What it asks back before it is given: shown over its caption, larger. Empty while it asks nothing.
+    const std::string& frage() const { return frage_; }
+    void frage(std::string_view neu) { text_setzen(frage_, neu); }
+
+private:
+    std::string frage_;
 };
 
 /// A control that the operator types into.

@@ -125,7 +125,7 @@ sprachliste rennansicht::sprache_r() {
     texte.text("ohne Ende", bahn.wort.ohne_ende).text("Protokoll", bahn.Command_protokoll);
     texte.text("Das Protokoll des Rennens ist nicht ganz geschrieben. Ist die Platte voll oder gesperrt?",
                bahn.wort.ohne_protokoll);
-    texte.text("Wirklich?", bahn.wort.wirklich);
+    texte.text("Wirklich? Noch einmal drücken", bahn.wort.wirklich);
     texte.text("Das Rennen läuft. Wirklich mit dem Stand von jetzt beenden?", bahn.wort.ohne_rest);
     return lageworte_nennen(texte);
 }

@@ -46,7 +46,6 @@ void rueckfrage::fragen() {
     zuruecknehmen();
     seit_ = um_.uhr.jetzt();
     rest_ = frist_s;
-    text_ = knopf_.text();
     tipp_ = knopf_.tipp();
     knopf_.tipp(um_.tipp);
     rest_zeigen();
@@ -54,13 +53,13 @@ void rueckfrage::fragen() {
 }
 
 void rueckfrage::rest_zeigen() {
-    knopf_.text(um_.wort + " " + std::to_string(rest_));
+    knopf_.frage(um_.wort + " " + std::to_string(rest_));
 }
 
 void rueckfrage::zuruecknehmen() {
     if (fragt()) {
         sekunden_->aus();
-        knopf_.text(text_);
+        knopf_.frage({});
         knopf_.tipp(tipp_);
     }
 }

@@ -10,9 +10,9 @@
 
 namespace tarvel {
 
-/// A command that no slip of the hand may give. While there is something to lose, its first press only asks, in the
-/// place of its caption; a second one within three seconds gives it, at the moment of that press. What comes within
-/// 0.4 seconds of the first is a slip and does nothing. The race goes on meanwhile, and its log knows the command only.
+/// A command that no slip of the hand may give. While there is something to lose, its first press only asks; a second
+/// one within three seconds gives it, at the moment of that press. What comes within 0.4 seconds of the first is a slip
+/// and does nothing. The race goes on meanwhile, and its log knows the command only.
 class rueckfrage {
 public:
     struct umfeld {
@@ -46,8 +46,7 @@ private:
     std::unique_ptr<plattform::zeitgeber> sekunden_;
     zeit_ms seit_ = 0;  ///< of the first press
     int rest_ = 0;      ///< seconds
-    std::string text_;  ///< of the button before
-    std::string tipp_;
+    std::string tipp_;  ///< of the button before
 };
 
 }  // namespace tarvel

@@ -94,7 +94,7 @@ void Bahn1Fenster::befehlszeile() {
     teil(f::Command1) = binder().hauptknopf(bahn.Command1, "Command1");
     teil(f::Command6) = binder().hauptknopf(bahn.Command6, "Command6");
     teil(f::Command3) = binder().knopf(bahn.Command3, "Command3");
-    teil(f::Command4) = binder().knopf_mit_rueckfrage(bahn.Command4, "Command4");
+    teil(f::Command4) = binder().knopf(bahn.Command4, "Command4");
     teil(f::Command2) = binder().knopf_ohne_kuerzel(bahn.Command2, "Command2");
     TextAnzeige* werbung = binder().anzeige(bahn.werbe_label, "werbe_label");
     werbung->setLeise();

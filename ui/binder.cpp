@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QColorDialog>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -13,6 +14,7 @@
 
 #include "core/dateien.h"
 #include "ui/eingabefelder.h"
+#include "ui/frageknopf.h"
 #include "ui/listenmodell.h"
 #include "ui/namensergaenzung.h"
 #include "ui/stil.h"
@@ -165,21 +167,21 @@ QPushButton* Binder::knopf(befehl& element, const QString& name, const char* rol
     }
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element] { element.klicken(); });
-    verbinden(element, widget, name, [this, &element, widget] {
+    QPointer<Frageknopf> frage;  // most commands never ask
+    verbinden(element, widget, name, [this, &element, widget, frage]() mutable {
         const QString text = widget->property("ohne_kuerzel").toBool()
                                  ? als_text(element.text())
                                  : kuerzel_.vergeben(widget, als_text(element.text()));
         if (widget->text() != text) {
             widget->setText(text);
-            kuerzel_.nachtragen(widget);
+        }
+        if (frage == nullptr && !element.frage().empty()) {
+            frage = new Frageknopf(element, *widget);
+        }
+        if (frage != nullptr) {
+            frage->fragen(als_text(element.frage()));
         }
     });
-    return widget;
-}
-
-QPushButton* Binder::knopf_mit_rueckfrage(befehl& element, const QString& name) {
-    QPushButton* widget = knopf(element, name);
-    kuerzel_.festhalten(widget);
     return widget;
 }
 

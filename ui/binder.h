@@ -59,8 +59,6 @@ public:
     QPushButton* knopf_ohne_kuerzel(befehl& element, const QString& name);
     /// The button has a letter, or has none while its window leaves the keys to another.
     void mit_kuerzel(QPushButton* knopf, const befehl& element, bool ja);
-    /// For a command whose caption asks back: the letter of its first caption presses it the second time as well.
-    QPushButton* knopf_mit_rueckfrage(befehl& element, const QString& name);
     /// The command that a window is there for.
     QPushButton* hauptknopf(befehl& element, const QString& name) { return knopf(element, name, "haupt"); }
     QLineEdit* zeile(feld& element, const QString& name);

@@ -1,6 +1,5 @@
 #include "ui/kuerzel.h"
 
-#include <QKeySequence>
 #include <algorithm>
 
 namespace tarvel::ui {
@@ -93,9 +92,6 @@ bool Kuerzel::verdraengen(QAbstractButton* knopf, bool auch_anfaenge, std::set<Q
 QString Kuerzel::vergeben(QAbstractButton* knopf, const QString& text) {
     Eintrag& eintrag = knoepfe_[knopf];
     eintrag.text = text;
-    if (eintrag.bleibt && !eintrag.buchstabe.isNull()) {
-        return beschriftung(text, eintrag.buchstabe);
-    }
     const qsizetype platz = platz_suchen(knopf, eintrag);
     if (platz >= 0) {
         eintrag.buchstabe = text[platz].toLower();
@@ -110,13 +106,6 @@ QString Kuerzel::vergeben(QAbstractButton* knopf, const QString& text) {
         eintrag.buchstabe = {};
     }
     return beschriftung(text, eintrag.buchstabe);
-}
-
-void Kuerzel::nachtragen(QAbstractButton* knopf) const {
-    const auto eintrag = knoepfe_.find(knopf);
-    if (eintrag != knoepfe_.end() && eintrag->second.bleibt && knopf->shortcut().isEmpty()) {
-        knopf->setShortcut(QKeySequence(QString("Alt+%1").arg(eintrag->second.buchstabe.toUpper())));
-    }
 }
 
 }  // namespace tarvel::ui

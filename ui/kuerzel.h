@@ -15,16 +15,11 @@ public:
     /// The caption as Qt wants it, with "&" before the letter. A button keeps its letter while its caption has it.
     QString vergeben(QAbstractButton* knopf, const QString& text);
     void freigeben(QAbstractButton* knopf) { knoepfe_.erase(knopf); }
-    /// The button keeps its letter under captions that do not have it.
-    void festhalten(QAbstractButton* knopf) { knoepfe_[knopf].bleibt = true; }
-    /// To be called behind a new caption: one without its letter has cost the button its key.
-    void nachtragen(QAbstractButton* knopf) const;
 
 private:
     struct Eintrag {
         QString text;
         QChar buchstabe;  ///< null for none
-        bool bleibt = false;
     };
 
     QAbstractButton* besitzer(QChar buchstabe) const;

@@ -355,6 +355,48 @@ TEST_F(Rennfenster, AufDemZweitenSchirmOhneKnoepfeDieAufDemErstenLiegen) {
     EXPECT_TRUE(finde<QWidget>(o.bahn1, "bahn1.Command2")->isVisible());
 }
 
+TEST_F(Rennfenster, DieRueckfrageWaechstAusIhremKnopfUndVerdecktKeinenAnderen) {
+    for (const bool zweiter_schirm : {false, true}) {
+        t.p.einst.rennbild.auf_schirm_2 = zweiter_schirm;
+        t.p.einst.chaosampel_an = false;
+        t.starten("Zeit", "5", {1, 2});
+        t.bahn().Command3.klicken();  // with the seconds of the penalty above the commands
+        t.maschine.laufen(3000);
+        o.takt.ausfuehren();
+        QWidget& fenster = zweiter_schirm ? static_cast<QWidget&>(*o.leitstand) : o.bahn1;
+        const auto ort = [&](const QWidget* w) { return QRect(w->mapTo(&fenster, QPoint()), w->size()); };
+        for (const char* name : {"Command4", "Command2"}) {
+            const QString voll = fenster.objectName() + "." + name;
+            auto* knopf = finde<QPushButton>(fenster, qUtf8Printable(voll));
+            std::vector<std::pair<QWidget*, QRect>> andere;
+            for (QWidget* w : fenster.findChildren<QWidget*>()) {
+                const bool bedienbar = w->inherits("QAbstractButton") || w->inherits("QLineEdit");
+                if (bedienbar && w->isVisible() && w != knopf) {
+                    andere.emplace_back(w, ort(w));
+                }
+            }
+            const QRect vorher = ort(knopf);
+            QTest::mouseClick(knopf, Qt::LeftButton);
+            o.takt.ausfuehren();
+            auto* frage = finde<QPushButton>(fenster, qUtf8Printable(voll + "_frage"));
+            ASSERT_TRUE(frage->isVisible());
+            EXPECT_TRUE(ort(frage).contains(vorher) &&
+                        frage->width() * frage->height() * 2 > 3 * knopf->width() * knopf->height());
+            EXPECT_EQ(ort(knopf), vorher);
+            for (const auto& [w, platz] : andere) {
+                EXPECT_EQ(ort(w), platz) << w->objectName().toStdString();
+                EXPECT_FALSE(ort(frage).intersects(platz)) << w->objectName().toStdString();
+            }
+            t.maschine.laufen(name == std::string("Command4") ? 3000 : 500);
+            o.takt.ausfuehren();
+            EXPECT_EQ(frage->isVisible(), name == std::string("Command2")) << "nobody has meant the other";
+        }
+        QTest::mouseClick(finde<QPushButton>(fenster, qUtf8Printable(fenster.objectName() + ".Command2_frage")),
+                          Qt::LeftButton);
+        EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
+    }
+}
+
 TEST_F(Rennfenster, WasDerLeiterBrauchtKommtAufSeinenSchirm) {
     t.p.einst.rennbild.auf_schirm_2 = true;
     t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
