@@ -228,8 +228,8 @@ void programm::einstellungen_uebernommen(const einstellungen& vorher) {
         fenster.sprache_gewechselt();
     }
     if (einst.anzeige != vorher.anzeige) {
-        fenster.erscheinen(einst.anzeige);
         form1.erscheinung_zeigen();
+        fenster.erscheinen(einst.anzeige);
     }
     form1.listen_zeigen();
     form1.farben_einstellen();

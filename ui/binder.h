@@ -71,6 +71,9 @@ public:
     /// Any other widget: visible and enabled follow the control, `abgleich` brings the rest up to date.
     void verbinden(steuerelement& element, QWidget* widget, const QString& name, std::function<void()> abgleich);
 
+    /// Deals the letters of the commands anew; see there.
+    void kuerzel_verteilen() { kuerzel_.neu_verteilen(); }
+
     /// Pixels per design unit for all displays of the window.
     void skala(double px_je_einheit);
 

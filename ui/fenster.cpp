@@ -147,6 +147,9 @@ void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
         fenster->vor_sein_fenster_stellen();
     }
     takt_.ausfuehren();
+    if (!fenster->isVisible()) {
+        fenster->kuerzel_verteilen();
+    }
     fenster->aufschlagen();
 }
 
@@ -156,6 +159,12 @@ void Fensterverwaltung::erscheinen(const erscheinung& wie) {
     QApplication::removeTranslator(&qt_texte_);
     if (qt_texte_.load(datei, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&qt_texte_);
+    }
+    takt_.ausfuehren();  // the captions of the language first
+    for (const auto& [name, fenster] : fenster_) {
+        if (fenster->isVisible()) {
+            fenster->kuerzel_verteilen();
+        }
     }
 }
 

@@ -27,6 +27,8 @@ public:
     fenstername kennung() const { return logik_.kennung(); }
     /// Places the window on its screen and shows it.
     virtual void aufschlagen();
+    /// The letters of its commands, by the captions that they have now.
+    void kuerzel_verteilen() { binder_.kuerzel_verteilen(); }
     /// In front of its parent or, while that is hidden, of the window that it is opened from.
     void vor_sein_fenster_stellen();
     /// That window: there the keys go when this one is hidden; null for nowhere.

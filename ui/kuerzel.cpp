@@ -43,13 +43,19 @@ QString beschriftung(const QString& text, QChar buchstabe) {
 
 }  // namespace
 
-QAbstractButton* Kuerzel::besitzer(QChar buchstabe) const {
-    const auto gefunden = std::find_if(knoepfe_.begin(), knoepfe_.end(),
-                                       [&](const auto& eintrag) { return eintrag.second.buchstabe == buchstabe; });
-    return gefunden == knoepfe_.end() ? nullptr : gefunden->first;
+Kuerzel::Eintrag& Kuerzel::eintrag(QAbstractButton* knopf) {
+    const auto da =
+        std::find_if(eintraege_.begin(), eintraege_.end(), [knopf](const auto& e) { return e.knopf == knopf; });
+    return da != eintraege_.end() ? *da : eintraege_.emplace_back(Eintrag{knopf, {}});
 }
 
-qsizetype Kuerzel::platz_suchen(QAbstractButton* knopf, const Eintrag& eintrag) const {
+Kuerzel::Eintrag* Kuerzel::besitzer(QChar buchstabe) {
+    const auto da = std::find_if(eintraege_.begin(), eintraege_.end(),
+                                 [buchstabe](const auto& e) { return e.buchstabe == buchstabe; });
+    return da == eintraege_.end() ? nullptr : &*da;
+}
+
+qsizetype Kuerzel::platz_suchen(const Eintrag& eintrag) {
     const QString& text = eintrag.text;
     const qsizetype behalten =
         eintrag.buchstabe.isNull() ? -1 : text.indexOf(eintrag.buchstabe, 0, Qt::CaseInsensitive);
@@ -60,8 +66,8 @@ qsizetype Kuerzel::platz_suchen(QAbstractButton* knopf, const Eintrag& eintrag) 
         for (qsizetype i = 0; i < text.size(); ++i) {
             const bool am_anfang = i == 0 || !text[i - 1].isLetter();
             if ((am_anfang || !wortanfang) && taugt(text[i])) {
-                const QAbstractButton* wer = besitzer(text[i].toLower());
-                if (wer == nullptr || wer == knopf) {
+                const Eintrag* wer = besitzer(text[i].toLower());
+                if (wer == nullptr || wer == &eintrag) {
                     return i;
                 }
             }
@@ -71,41 +77,68 @@ qsizetype Kuerzel::platz_suchen(QAbstractButton* knopf, const Eintrag& eintrag) 
 }
 
 /// Who has the letter looks for another, which may drive out a third, and so on.
-bool Kuerzel::verdraengen(QAbstractButton* knopf, bool auch_anfaenge, std::set<QChar>& versucht) {
-    Eintrag& eintrag = knoepfe_[knopf];
+bool Kuerzel::verdraengen(Eintrag& eintrag, bool auch_anfaenge, std::set<QChar>& versucht) {
     for (const QChar zeichen : eintrag.text) {
         const QChar buchstabe = zeichen.toLower();
         if (!taugt(zeichen) || !versucht.insert(buchstabe).second) {
             continue;
         }
-        QAbstractButton* wer = besitzer(buchstabe);
-        const bool fest = wer != nullptr && !auch_anfaenge && beginnt_ein_wort(knoepfe_[wer].text, buchstabe);
-        if (wer == nullptr || (!fest && verdraengen(wer, auch_anfaenge, versucht))) {
+        Eintrag* wer = besitzer(buchstabe);
+        const bool fest = wer != nullptr && !auch_anfaenge && beginnt_ein_wort(wer->text, buchstabe);
+        if (wer == nullptr || (!fest && verdraengen(*wer, auch_anfaenge, versucht))) {
             eintrag.buchstabe = buchstabe;
-            knopf->setText(beschriftung(eintrag.text, buchstabe));
+            eintrag.knopf->setText(beschriftung(eintrag.text, buchstabe));
             return true;
         }
     }
     return false;
 }
 
-QString Kuerzel::vergeben(QAbstractButton* knopf, const QString& text) {
-    Eintrag& eintrag = knoepfe_[knopf];
-    eintrag.text = text;
-    const qsizetype platz = platz_suchen(knopf, eintrag);
+void Kuerzel::zuteilen(Eintrag& eintrag) {
+    const qsizetype platz = platz_suchen(eintrag);
     if (platz >= 0) {
-        eintrag.buchstabe = text[platz].toLower();
+        eintrag.buchstabe = eintrag.text[platz].toLower();
     } else if (eintrag.buchstabe.isNull()) {  // no letter moves about with captions that come and go
         for (const bool auch_anfaenge : {false, true}) {
             std::set<QChar> versucht;
-            if (verdraengen(knopf, auch_anfaenge, versucht)) {
+            if (verdraengen(eintrag, auch_anfaenge, versucht)) {
                 break;
             }
         }
     } else {
         eintrag.buchstabe = {};
     }
-    return beschriftung(text, eintrag.buchstabe);
+}
+
+QString Kuerzel::vergeben(QAbstractButton* knopf, const QString& text) {
+    Eintrag& neu = eintrag(knopf);
+    neu.text = text;
+    neu.teilt = true;
+    zuteilen(neu);
+    return beschriftung(text, neu.buchstabe);
+}
+
+void Kuerzel::freigeben(QAbstractButton* knopf) {
+    Eintrag& frei = eintrag(knopf);
+    frei.teilt = false;
+    frei.buchstabe = {};
+}
+
+void Kuerzel::neu_verteilen() {
+    for (Eintrag& eintrag : eintraege_) {
+        eintrag.buchstabe = {};
+    }
+    for (Eintrag& eintrag : eintraege_) {
+        if (eintrag.teilt) {
+            zuteilen(eintrag);
+        }
+    }
+    for (const Eintrag& eintrag : eintraege_) {
+        const QString text = beschriftung(eintrag.text, eintrag.buchstabe);
+        if (eintrag.teilt && eintrag.knopf->text() != text) {
+            eintrag.knopf->setText(text);
+        }
+    }
 }
 
 }  // namespace tarvel::ui

@@ -2,8 +2,8 @@
 
 #include <QAbstractButton>
 #include <QString>
-#include <map>
 #include <set>
+#include <vector>
 
 namespace tarvel::ui {
 
@@ -14,20 +14,28 @@ class Kuerzel {
 public:
     /// The caption as Qt wants it, with "&" before the letter. A button keeps its letter while its caption has it.
     QString vergeben(QAbstractButton* knopf, const QString& text);
-    void freigeben(QAbstractButton* knopf) { knoepfe_.erase(knopf); }
+    /// The button has no letter until it is given one again.
+    void freigeben(QAbstractButton* knopf);
+    /// Deals all of them anew. They go by the captions and the order of the buttons alone, whatever was there before: a
+    /// language has the same letters however it was come to.
+    void neu_verteilen();
 
 private:
     struct Eintrag {
+        QAbstractButton* knopf;
         QString text;
-        QChar buchstabe;  ///< null for none
+        bool teilt = true;     ///< takes part
+        QChar buchstabe = {};  ///< null for none
     };
 
-    QAbstractButton* besitzer(QChar buchstabe) const;
-    qsizetype platz_suchen(QAbstractButton* knopf, const Eintrag& eintrag) const;
+    Eintrag& eintrag(QAbstractButton* knopf);
+    Eintrag* besitzer(QChar buchstabe);
+    qsizetype platz_suchen(const Eintrag& eintrag);
+    void zuteilen(Eintrag& eintrag);
     /// `auch_anfaenge`: even from who has the first letter of a word of his.
-    bool verdraengen(QAbstractButton* knopf, bool auch_anfaenge, std::set<QChar>& versucht);
+    bool verdraengen(Eintrag& eintrag, bool auch_anfaenge, std::set<QChar>& versucht);
 
-    std::map<QAbstractButton*, Eintrag> knoepfe_;
+    std::vector<Eintrag> eintraege_;  ///< in the order of the buttons
 };
 
 }  // namespace tarvel::ui

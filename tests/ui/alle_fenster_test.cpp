@@ -180,6 +180,31 @@ TEST_F(AlleFenster, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
         << "the press is shown first";
 }
 
+TEST_F(AlleFenster, EineSpracheHatIhreKuerzelWieAuchImmerManZuIhrKommt) {
+    std::filesystem::copy(TARVEL_QUELLEN "/data/language-en", t.maschine.ordner() / "language-en");
+    const auto beschriftungen = [this] {
+        std::string alle;
+        for (const QPushButton* knopf : o.form1.findChildren<QPushButton*>()) {
+            alle += knopf->window() == &o.form1 ? knopf->text().toStdString() + ", " : "";
+        }
+        return alle;
+    };
+    const std::string deutsch = beschriftungen();
+    t.erscheinen({"language-en", aussehen::hell});
+    const std::string englisch = beschriftungen();
+    EXPECT_NE(englisch, deutsch);
+    t.p.fenster.verbergen(fenstername::Form1);
+    t.p.fenster.zeigen(fenstername::Form1);
+    EXPECT_EQ(beschriftungen(), englisch) << "as the next start has them";
+    t.erscheinen({"language", aussehen::hell});
+    EXPECT_EQ(beschriftungen(), deutsch);
+    o.form1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
+    const QString auswertung = finde<QPushButton>(o.form1, "Form1.Command18")->text();
+    QTest::keyClick(&o.form1, auswertung.at(auswertung.indexOf('&') + 1).toLower().toLatin1(), Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen(fenstername::w_auswertung2); }, 2000));
+}
+
 class AlleTexte : public AlleFenster, public testing::WithParamInterface<const char*> {};
 
 TEST_P(AlleTexte, HabenIhrenPlatz) {
