@@ -13,6 +13,8 @@ namespace {
 
 constexpr int sensoren_je_spalte = 12;
 constexpr int lampengroesse = 14;
+constexpr int zeilenhoehe = 20;
+constexpr int rahmenhoehe = 62;  // of a group around its content, which it does not ask for by itself
 constexpr int ergebnisbreite = 90;
 constexpr int eingabebreite = 150;
 constexpr int schmaler_knopf = 57;
@@ -62,6 +64,7 @@ QWidget* TimekeeperFenster::modusgruppe() {
 
 QWidget* TimekeeperFenster::sensorgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_sensoren, "Frame_sensoren");
+    kasten->setMinimumHeight(sensoren_je_spalte * (zeilenhoehe + 1) + rahmenhoehe);
     auto* spalten = new QHBoxLayout(kasten);
     QGridLayout* raster = nullptr;
     for (std::size_t i = 0; i < logik_.kanaele.size(); ++i) {
@@ -78,7 +81,8 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);
-        wahl->setStyleSheet("min-height: 20px; padding: 0 2px 0 4px;");
+        wahl->setStyleSheet("min-height: 0; padding: 0 2px 0 4px;");
+        wahl->setFixedHeight(zeilenhoehe);  // twelve of them below each other, on a small screen too
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);

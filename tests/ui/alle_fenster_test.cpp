@@ -7,6 +7,7 @@
 #include "tests/plattform/vereinswettkampf.h"
 #include "tests/ui/oberflaeche_probe.h"
 #include "tests/ui/textmasse.h"
+#include "tests/ui/ueberdeckung.h"
 
 namespace tarvel {
 namespace {
@@ -227,6 +228,7 @@ TEST_P(AlleTexte, HabenIhrenPlatz) {
     for (ui::Fenster* fenster : alle_fenster()) {
         pruefen(*fenster);
     }
+    EXPECT_EQ(test::ueberdeckte_widgets(*o.timekeeper).join("; ").toStdString(), "") << "24 choices close together";
     for (int seite = 0; seite < einstellungsfenster::seiten_anzahl; ++seite) {
         t.p.einstellungsfenster.seitenliste.auswaehlen(seite);
         pruefen(*o.einstellungen);
