@@ -11,6 +11,7 @@ namespace {
 
 constexpr int feldbreite = 84;
 constexpr int schmalste_auswahl = 110;
+constexpr int spaltenbreite_max = 640;      // on a wide screen a field stays beside its caption
 constexpr std::size_t langer_eintrag = 17;  // characters; such a choice stands under its caption
 
 }  // namespace
@@ -47,6 +48,7 @@ QWidget* OptionsseiteBauen::seite(optionsseite& inhalt, QWidget* vorneweg) {
     for (QVBoxLayout* spalte : aufbau) {
         spalte->addStretch();
     }
+    flaeche->setMaximumWidth(std::max(anzahl, 2) * spaltenbreite_max);
     rollen->setWidget(flaeche);
     return rollen;
 }

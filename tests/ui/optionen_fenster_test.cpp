@@ -48,6 +48,14 @@ TEST_F(OptionenFenster, TastaturFuehrtDurchAlleSeitenUndNichtsIstAbgeschnitten) 
         EXPECT_EQ(gezeigt, nummer == f::seite_fahrer || nummer == f::seite_fahrzeuge ? 0 : 1) << titel.toStdString();
         QTest::keyClick(seiten, Qt::Key_Down);
     }
+    constexpr int lesbar_px = 1400;
+    o.einstellungen->resize(3800, 2000);
+    t.p.einstellungsfenster.seitenliste.auswaehlen(0);
+    o.takt.ausfuehren();
+    QCoreApplication::processEvents();
+    for (QScrollArea* flaeche : o.einstellungen->findChildren<QScrollArea*>()) {
+        EXPECT_TRUE(!flaeche->isVisible() || flaeche->widget()->width() <= lesbar_px) << "from caption to field";
+    }
 }
 
 TEST_F(OptionenFenster, WasMitMausUndTastenGeaendertWirdBleibt) {
