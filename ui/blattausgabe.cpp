@@ -165,17 +165,25 @@ QFont schrift_mit(double px, bool fett) {
     return schrift;
 }
 
-void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, QFont schrift,
-               const QColor& farbe) {
-    const double noetig = QFontMetricsF(schrift).horizontalAdvance(inhalt);
-    if (noetig > feld.width()) {
-        const double kleiner = schrift.pixelSize() * std::max(feld.width() / noetig, kleinste_schrift);
-        schrift.setPixelSize(std::max(static_cast<int>(kleiner), 1));
+QFont eingepasst(QFont schrift, const QString& inhalt, double platz) {
+    const auto breite = [&] { return QFontMetricsF(schrift).horizontalAdvance(inhalt); };
+    const int kleinste = std::max(static_cast<int>(schrift.pixelSize() * kleinste_schrift), 1);
+    if (const double noetig = breite(); noetig > platz) {
+        schrift.setPixelSize(std::max(static_cast<int>(schrift.pixelSize() * platz / noetig), kleinste));
     }
-    maler.setFont(schrift);
+    while (breite() > platz && schrift.pixelSize() > kleinste) {  // letters do not shrink by quite as much
+        schrift.setPixelSize(schrift.pixelSize() - 1);
+    }
+    return schrift;
+}
+
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
+               const QFont& schrift, const QColor& farbe) {
+    const QFont passende = eingepasst(schrift, inhalt, feld.width());
+    maler.setFont(passende);
     maler.setPen(farbe);
     maler.drawText(feld, static_cast<int>(ausrichtung | Qt::AlignVCenter | Qt::TextSingleLine),
-                   QFontMetricsF(schrift).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
+                   QFontMetricsF(passende).elidedText(inhalt, Qt::ElideMiddle, feld.width()));
 }
 
 void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,

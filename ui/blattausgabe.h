@@ -60,7 +60,9 @@ QFont schrift_mit(double px, bool fett);
 /// One line of text that becomes smaller, and at last is cut, where it is too wide.
 void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
                const blattschrift& art);
-void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt, QFont schrift,
-               const QColor& farbe);
+void blatttext(QPainter& maler, const QRectF& feld, Qt::Alignment ausrichtung, const QString& inhalt,
+               const QFont& schrift, const QColor& farbe);
+/// The same font, smaller where the text is wider than its place.
+QFont eingepasst(QFont schrift, const QString& inhalt, double platz);
 
 }  // namespace tarvel::ui

@@ -76,6 +76,18 @@ protected:
     QString pfad = QString::fromStdString((t.maschine.ordner() / "Blatt" / "Blatt.pdf").string());
 };
 
+TEST_F(Ergebnisblatt, LangerTextWirdKleinerStattGekuerzt) {
+    for (const char* text : {"Kinder- und Jugendpokal 2026, dritter Wertungslauf", "Maximilian-Alexander Wörgötter"}) {
+        for (int px = 40; px <= 110; ++px) {
+            QFont schrift = ui::schrift_mit(px, false);
+            schrift.setItalic(px % 2 == 0);
+            const double platz = QFontMetricsF(schrift).horizontalAdvance(text) * (0.5 + px % 10 * 0.05);
+            const QFontMetricsF masse(ui::eingepasst(schrift, text, platz));
+            EXPECT_LE(masse.horizontalAdvance(text), platz) << text << " in " << px;
+        }
+    }
+}
+
 TEST_F(Ergebnisblatt, ZeigtDenStandInDerFolgeDerPlaetze) {
     t.starten("Zeit", "1", {1, 2, 4});
     t.runde_nach(1000, "124");
