@@ -245,6 +245,9 @@ void wettkampf2::beste_zeigen() {
     label_best.text(keine ? std::string(keine_beste)
                           : zeit_formatieren(beste.beste_runde_ms, true, einst_.trennzeichen));
     label_fahrer.text(keine ? "( Fahrername )" : abend_.stand().name(beste.beste_runde_fahrer));
+    for (bezeichnung* anzeige : {&Label1, &label_best, &label_fahrer}) {
+        anzeige->sichtbar(!keine);  // nobody takes the stand-ins for a time
+    }
 }
 
 void wettkampf2::befehle_zeigen() {

@@ -34,6 +34,13 @@ TEST_F(Wettkampf2, DerLeiterBestimmtWelchesRennenKommt) {
     EXPECT_EQ(stand().rennen_gefahren(2), rennstatus::offen);
 }
 
+TEST_F(Wettkampf2, SchnellsteRundeStehtErstDaWennEsEineGibt) {
+    EXPECT_TRUE(w.label_best.sichtbar() && w.label_fahrer.sichtbar());
+    t.p.wettkampfabend.beginnen(test::vereinswettkampf::neu(wettkampf_modus::rotation, 4, {1, 3}));
+    EXPECT_EQ(w.label_best.text(), "99 : 99 , 999");
+    EXPECT_FALSE(w.label_best.sichtbar() || w.label_fahrer.sichtbar() || w.Label1.sichtbar());
+}
+
 TEST_F(Wettkampf2, SagtWerWoAlsNaechsterFaehrtUndWerZeitHat) {
     wettkampf neu = test::vereinswettkampf::neu(wettkampf_modus::gruppen, 19, {2, 4});
     t.p.wettkampfabend.beginnen(std::move(neu));
