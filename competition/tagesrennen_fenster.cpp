@@ -86,7 +86,8 @@ sprachliste tagesrennen_fenster::sprache_lf() {
     texte.tipp_fuer_alle("Was die Klassen bedeuten, mit eigenen Worten. Die graue Erklärung weicht dem Getippten.",
                          klassen_text);
     fuehrung_.eintragen(texte);
-    return texte.tipp("Jeder Fahrer gehört zu einer Klasse. Die Auswertung führt jede Klasse für sich.", Check1);
+    texte.tipp("Jeder Fahrer gehört zu einer Klasse. Die Auswertung führt jede Klasse für sich.", Check1);
+    return texte.text("Rennen, beste Runde", wort_.ein_rennen);
 }
 
 void tagesrennen_fenster::laden() {
@@ -240,7 +241,8 @@ void tagesrennen_fenster::bisher_zeigen(std::size_t i) {
         }
     }
     Label_bisher.at(i).text(rennen == 0 ? ""
-                                        : wort_.bisher + " " + std::to_string(rennen) + " " + wort_.rennen + " " +
+                                        : wort_.bisher + " " + std::to_string(rennen) + " " +
+                                              (rennen == 1 ? wort_.ein_rennen : wort_.rennen) + " " +
                                               (beste.empty() ? "–" : beste));
     if (letzte != nullptr && lstb_klasse.at(i).platz() < 0) {
         const auto& klassen = lstb_klasse.at(i).eintraege();

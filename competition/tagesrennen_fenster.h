@@ -74,7 +74,7 @@ public:
 private:
     struct worte {
         std::string pruefe, neu, angelegt, bereit, unbrauchbar, name_fehlt, klasse_fehlt, nicht_gesichert;
-        std::string klasse, name, runden, meter, beste, gesamtzeit, spur, bisher, rennen;
+        std::string klasse, name, runden, meter, beste, gesamtzeit, spur, bisher, rennen, ein_rennen;
         std::array<std::string, klassenzeilen> klassen_text;
     };
 
