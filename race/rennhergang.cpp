@@ -185,8 +185,16 @@ private:
         return gelesen && *gelesen >= -zahl_max && *gelesen <= zahl_max ? gelesen : std::nullopt;
     }
 
+    static spuren<int> wie_begonnen() {
+        spuren<int> jeder;
+        for (const int spur : alle_spuren) {
+            jeder[spur] = spur;
+        }
+        return jeder;
+    }
+
     geschehen& anhaengen(vorgang was, int spur) {
-        h_.alle.push_back({.was = was, .spur = spur, .zeit = zeit_});
+        h_.alle.push_back({.was = was, .spur = spur, .fahrer = spur == 0 ? 0 : fahrer_[spur], .zeit = zeit_});
         return h_.alle.back();
     }
 
@@ -211,6 +219,7 @@ private:
                 return;
             }
             g.spur = static_cast<int>(spur);
+            g.fahrer = fahrer_[g.spur];
         }
         for (const ort platz : form->zahlen) {
             if (platz == nullptr) {
@@ -267,6 +276,9 @@ private:
         stempel_der_tat_.reset();
         if (ist_befehl) {
             anhaengen(vorgang::befehl, 0).nummer = std::distance(std::begin(hergang_befehle), befehl);
+            if (name == "umsetzen") {
+                umsetzen(rest);
+            }
         } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
             geraet(zahl(rest).value_or(-1));
         } else if (name == "verschieben") {
@@ -277,6 +289,14 @@ private:
             taste(zahl(rest).value_or(0));
         } else if (name == "verloren") {
             anhaengen(vorgang::verloren, 0);
+        }
+    }
+
+    void umsetzen(std::string_view rest) {
+        const spuren<int> vorher = fahrer_;
+        for (const int spur : alle_spuren) {
+            const std::int64_t von = zahl(rest).value_or(0);
+            fahrer_[spur] = von >= 1 && von <= spuren_max ? vorher[static_cast<int>(von)] : fahrer_[spur];
         }
     }
 
@@ -327,7 +347,8 @@ private:
     std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
     zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
     int nachgerueckt_ = 0;        ///< so often without the crossings
-    spuren<bool> nach_pause_{};   ///< the lane's last penalty was that of a pause
+    spuren<int> fahrer_ = wie_begonnen();
+    spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
@@ -350,6 +371,10 @@ std::optional<protokollkopf> kopf_aus(protokollleser& zeilen) {
 }
 
 }  // namespace
+
+std::string rennhergang::fahrername(const geschehen& g) const {
+    return kopf && g.fahrer > 0 && kopf->param.spur_aktiv[g.fahrer] ? kopf->param.fahrer_name[g.fahrer] : "";
+}
 
 std::vector<geschehen> rennhergang::abgelehnte(int spur) const {
     std::vector<geschehen> treffer;

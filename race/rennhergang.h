@@ -54,6 +54,7 @@ struct geschehen {
 
     vorgang was{};
     int spur = 0;             ///< 0: all
+    int fahrer = 0;           ///< the lane on which its driver began the race: drivers change lanes
     zeit_ms zeit = 0;         ///< ms from the moment the race window opened
     zeit_ms stempel = keine;  ///< of the race's clock, as the stamps of the laps
     zeit_ms seit_gruen = 0;   ///< ms from the green light; negative before it
@@ -75,6 +76,8 @@ struct rennhergang {
     bool ganz = false;                  ///< read to the last byte; else up to a line that is torn or damaged
     bool hat_gruen = false;             ///< without a start, times count from the opening of the window
 
+    /// Who drove on the lane then; empty for all, and where nobody did.
+    std::string fahrername(const geschehen& g) const;
     /// Refused crossings of the lane, or of all with 0.
     std::vector<geschehen> abgelehnte(int spur) const;
     /// How long the pauses were that have ended.
@@ -105,6 +108,7 @@ public:
     /// What has happened, in the order in which it was told; numbered from 0.
     std::size_t anzahl() const { return hergang_.alle.size(); }
     geschehen an(std::size_t nummer) const;
+    std::string fahrername(const geschehen& g) const { return hergang_.fahrername(g); }
 
 private:
     rennhergang hergang_;

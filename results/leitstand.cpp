@@ -96,7 +96,7 @@ bool leitstand::gehoert_dazu(const geschehen& g) const {
 std::string leitstand::in_worten(const geschehen& g) const {
     std::string wer;
     if (g.spur != 0) {
-        wer = spur_ + " " + std::to_string(g.spur) + " " + um_.r.umgebung.param.fahrer_name[g.spur] + ":  ";
+        wer = spur_ + " " + std::to_string(g.spur) + " " + hergang_->fahrername(g) + ":  ";
     }
     return hergang_zeit(g.seit_gruen, 3, worte_.komma) + "   " + wer + worte_.von(g);
 }

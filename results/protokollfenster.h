@@ -89,6 +89,8 @@ public:
     std::string zeit_von(const geschehen& g) const { return hergang_zeit(g.seit_gruen, 3, worte_.komma); }
     std::string worte_von(const geschehen& g) const { return worte_.von(g); }
     std::string fahrer(int spur) const;
+    /// Who drove there as it happened.
+    std::string fahrername(const geschehen& g) const { return hergang_.fahrername(g); }
     bool faehrt(int spur) const;
     const einstellungen& einst() const { return um_.einst; }
     const std::array<std::string, 4>& spalten() const { return wort_.spalten; }

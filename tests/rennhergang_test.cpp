@@ -151,6 +151,22 @@ TEST_F(Rennhergang, GruendeInWorten) {
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
 
+TEST_F(Rennhergang, JedesGehoertDemDerDamalsDortFuhr) {
+    t.starten("Runden", "3", {1, 2, 3});
+    inhalt_ = datei();
+    const rennhergang h = hergang_lesen(protokoll(
+        {"t0 500", ".> Gruen 10000", ".> Runde 1 1 5000 15000", "umsetzen 9000 3 1 2 4 5 6", ".> Runde 1 2 5000 20000",
+         "umsetzen 9500 3 1 2 4 5 6", ".> Runde 1 3 5000 25000", ".> Runde 4 1 5000 26000"}));
+    std::vector<std::string> wer;
+    for (const geschehen& g : h.alle) {
+        if (g.was == vorgang::runde) {
+            wer.push_back(h.fahrername(g));
+        }
+    }
+    const auto& namen = t.p.param.fahrer_name;
+    EXPECT_EQ(wer, (std::vector<std::string>{namen[1], namen[3], namen[2], ""}));
+}
+
 TEST_F(Rennhergang, ErtraegtJedenInhalt) {
     t.starten("Runden", "3", {1, 2});
     t.runde_nach(6000, "12");
@@ -167,7 +183,7 @@ TEST_F(Rennhergang, ErtraegtJedenInhalt) {
         "9223372036854775807", "-9223372036854775808", "1125899906842624", "-1", "x", ""};
     const std::vector<std::string> worte{".> Runde",    ".> Abgelehnt", ".> Pause",   ".> Gruen",  ".> Weiter",
                                          ".> Tankt",    "verschieben",  "taste",      ".u",        ".4 ereignis",
-                                         ".> StromAus", "...",          "ueberfahrt", ".> Sektor", "# Korrektur"};
+                                         ".> StromAus", "...",          "ueberfahrt", ".> Sektor", "umsetzen 1"};
     for (int i = 0; i < 1000; ++i) {
         std::vector<std::string> zeilen;
         for (int n = 0; n < 12; ++n) {
@@ -182,6 +198,7 @@ TEST_F(Rennhergang, ErtraegtJedenInhalt) {
         for (const geschehen& g : h.alle) {
             EXPECT_TRUE(g.spur >= 0 && g.spur <= spuren_max);
             worte_.von(g);
+            h.fahrername(g);
             hergang_zeit(g.seit_gruen, 3, ',');
         }
     }

@@ -37,7 +37,7 @@ QString Protokollmodell::text(std::size_t zeile, spalte welche) const {
         case spur:
             return g.spur == 0 ? "" : QString::number(g.spur);
         case fahrer:
-            return QString::fromStdString(logik_.fahrer(g.spur));
+            return QString::fromStdString(logik_.fahrername(g));
         default:
             return QString::fromStdString(logik_.worte_von(g));
     }
