@@ -3,7 +3,6 @@
 #include "competition/rangfolge.h"
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
-#include "results/ergebniszusammenfassung.h"
 
 namespace tarvel {
 namespace {
@@ -104,12 +103,16 @@ std::vector<std::string> tabelle_schreiben(const wettkampf& w, const wettkampf_w
     return (jeder ? jeder_tabelle_schreiben : wettkampf_tabelle_schreiben)(w, wort, trennzeichen);
 }
 
-std::string wettkampfzusammenfassung(const wettkampf& w) {
-    std::vector<std::string> namen;
-    for (const int platz : fahrer_in_rangfolge(w, w.wertung)) {
-        namen.push_back(w.name(platz));
+ergebnisangabe angabe_von(const wettkampf& w) {
+    ergebnisangabe angabe{w.beginn, ergebnisangabe::art::wettkampf, w.wettkampf_name, 0, {}};
+    const std::vector<int> folge = fahrer_in_rangfolge(w, w.wertung);
+    for (const int platz : folge) {
+        angabe.fahrer.push_back(w.name(platz));
     }
-    return w.beginn + "  ·  " + w.wettkampf_name + "  ·  " + platzreihe(namen);
+    if (!folge.empty()) {
+        angabe.runden = w.staende().at(static_cast<std::size_t>(folge.front() - 1)).fahrer_runden(0);
+    }
+    return angabe;
 }
 
 }  // namespace tarvel

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "competition/wettkampf.h"
+#include "core/letzte_ergebnisse.h"
 #include "core/zeit.h"
 #include "results/tabellenworte.h"
 
@@ -19,7 +20,7 @@ std::vector<std::string> jeder_tabelle_schreiben(const wettkampf& w, const wettk
 std::vector<std::string> tabelle_schreiben(const wettkampf& w, const wettkampf_worte& wort,
                                            const trennzeichen_tabelle& trennzeichen);
 
-/// The competition in a line, without a word of any language: when, which, and the best of its ranking.
-std::string wettkampfzusammenfassung(const wettkampf& w);
+/// For the menu of the last results: when, which, and the best of its ranking.
+ergebnisangabe angabe_von(const wettkampf& w);
 
 }  // namespace tarvel

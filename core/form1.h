@@ -140,8 +140,9 @@ public:
     std::function<void()> messgeraet_oeffnen;
     /// One of the results that were written last. `da`: its file can still be opened.
     struct letztes {
-        std::string text;
+        std::string text;  ///< as `letzte_ergebnisse` has it; in `letzte_zeilen` in words
         bool da = true;
+        bool automatisch = false;  ///< nobody has given its file a name
     };
     /// Asked for whenever they are shown, the newest first.
     std::function<std::vector<letztes>()> letzte_nennen;
@@ -271,6 +272,8 @@ private:
     void spuren_zeigen();
     int wartende_spur() const;
     void reihe_zeigen();
+    /// A result as people say it.
+    std::string in_worten(const letztes& eines) const;
     void ansagen_setzen();
     void einstellungen_rufen(const std::function<void()>& wohin);
     void timer1_tick();
@@ -296,6 +299,12 @@ private:
     std::string wort_liste_voll_;
     std::string wort_ohne_namen_;
     std::string wort_kein_ergebnis_;
+    std::string wort_zeitrennen_;
+    std::string wort_rundenrennen_;
+    std::string wort_sieger_;
+    std::string wort_fuehrung_;
+    std::string wort_runde_;
+    std::string wort_automatisch_;
     std::array<std::string, 3> wort_aussehen_;  ///< by its number
     std::string einstell_name_;
     std::string standard_name_;

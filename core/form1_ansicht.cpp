@@ -91,10 +91,14 @@ sprachliste form1::sprache_m2() {
         "Beim nächsten Start stehen alle Felder dieses Fensters wieder so da wie beim Beenden. Ohne Haken stehen sie "
         "wie in der Einstellungsdatei.",
         felder_merken);
-    return texte.tipp(
+    texte.tipp(
         "Eine kürzere Runde zählt nicht. Außer im Wettkampf kommt eine Zehntelsekunde dazu: mit 5 zählt eine Runde ab "
         "5,1 Sekunden.",
         wertmin);
+    texte.text("Zeitrennen", wort_zeitrennen_).text("Rundenrennen", wort_rundenrennen_).text("Sieger:", wort_sieger_);
+    return texte.text("In Führung:", wort_fuehrung_)
+        .text("Runde", wort_runde_)
+        .text("automatisch gesichert", wort_automatisch_);
 }
 
 void form1::ansagen_setzen() {

@@ -1,12 +1,25 @@
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "core/form1.h"
+#include "core/letzte_ergebnisse.h"
 #include "core/spurbesetzung.h"
 
 // Drivers come to the lanes, and change from one to another.
 
 namespace tarvel {
+namespace {
+
+/// "21.11.2026 14:03:22" without its end.
+std::string ohne_sekunden(std::string wann) {
+    if (std::count(wann.begin(), wann.end(), ':') == 2) {
+        wann.erase(wann.rfind(':'));
+    }
+    return wann;
+}
+
+}  // namespace
 
 /// What the record says of the lanes, with all that follows from it in their rows.
 void form1::spuren_zeigen() {
@@ -83,12 +96,38 @@ void form1::reihe_zeigen() {
     fahrerreihe.markieren(0);
 }
 
+std::string form1::in_worten(const letztes& eines) const {
+    constexpr std::string_view dazwischen = "  ·  ";
+    std::string text = eines.text;
+    if (const auto angabe = ergebnisangabe::aus_zeile(eines.text)) {
+        using art = ergebnisangabe::art;
+        const bool tag = angabe->was == art::tagesrennen;
+        text = ohne_sekunden(angabe->wann).append(dazwischen);
+        text += tag                              ? command17.text()
+                : angabe->was == art::wettkampf  ? Command3.text()
+                : angabe->was == art::zeitrennen ? wort_zeitrennen_
+                                                 : wort_rundenrennen_;
+        text += angabe->name.empty() ? std::string() : " " + angabe->name;
+        for (std::size_t i = 0; i < angabe->fahrer.size(); ++i) {
+            const bool sieger = i == 0 && angabe->runden > 0;
+            const bool weitere = i == ergebnisangabe::genannte_max;  // have no place there
+            text.append(i == 0 ? dazwischen : "  ");
+            text += sieger ? (tag ? wort_fuehrung_ : wort_sieger_) + " " : weitere ? "" : std::to_string(i + 1) + ". ";
+            text += angabe->fahrer[i];
+            if (sieger) {
+                text +=
+                    ", " + std::to_string(angabe->runden) + " " + (angabe->runden == 1 ? wort_runde_ : wort_runden_);
+            }
+        }
+    }
+    text += eines.automatisch ? std::string(dazwischen) + wort_automatisch_ : std::string();
+    return eines.da ? text : text + " – " + wort_nicht_mehr_da_;
+}
+
 std::vector<form1::letztes> form1::letzte_zeilen() const {
     std::vector<letztes> alle = letzte_nennen ? letzte_nennen() : std::vector<letztes>{};
     for (letztes& eines : alle) {
-        if (!eines.da) {
-            eines.text += " – " + wort_nicht_mehr_da_;
-        }
+        eines.text = in_worten(eines);
     }
     if (alle.empty()) {
         alle.push_back({wort_kein_ergebnis_, false});

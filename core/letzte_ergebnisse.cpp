@@ -10,8 +10,37 @@ namespace {
 
 constexpr std::string_view zuletzt_datei = "tvk_zuletzt.ini";
 constexpr std::size_t text_zeichen_max = 200;
+constexpr char trenner = '\t';  // which nobody can type into a name
+constexpr std::size_t felder_min = 4;
 
 }  // namespace
+
+std::string ergebnisangabe::zeile() const {
+    std::string text = wann + trenner + static_cast<char>(was) + trenner + name + trenner + std::to_string(runden);
+    for (std::size_t i = 0; i < std::min(fahrer.size(), genannte_max); ++i) {
+        text += trenner + fahrer[i];
+    }
+    return fahrer.size() > genannte_max ? text + trenner + "…" : text;
+}
+
+std::optional<ergebnisangabe> ergebnisangabe::aus_zeile(std::string_view zeile) {
+    std::vector<std::string> felder{{}};
+    for (const char c : zeile) {
+        if (c == trenner) {
+            felder.emplace_back();
+        } else {
+            felder.back() += c;
+        }
+    }
+    if (felder.size() < felder_min || felder[1].size() != 1 ||
+        std::string_view("ZRTW").find(felder[1]) == std::string_view::npos) {
+        return std::nullopt;
+    }
+    ergebnisangabe angabe{felder[0], static_cast<art>(felder[1].front()), felder[2], 0, {}};
+    angabe.runden = static_cast<int>(ganzzahl_lesen(felder[3], 0, 1000000));
+    angabe.fahrer.assign(felder.begin() + felder_min, felder.end());
+    return angabe;
+}
 
 void letzte_ergebnisse::laden(const dateien& ablage) {
     eintraege_.clear();

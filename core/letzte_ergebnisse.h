@@ -1,11 +1,30 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/dateien.h"
 
 namespace tarvel {
+
+/// What a result is, without a word of any language.
+struct ergebnisangabe {
+    enum class art : char { zeitrennen = 'Z', rundenrennen = 'R', tagesrennen = 'T', wettkampf = 'W' };
+    static constexpr std::size_t genannte_max = 3;
+
+    std::string wann;
+    art was = art::rundenrennen;
+    std::string name;                 ///< of the competition or of the day's file
+    int runden = 0;                   ///< of the first; 0 for a first who has won nothing
+    std::vector<std::string> fahrer;  ///< by their places; more than `genannte_max` are left out
+
+    /// As one line of a file.
+    std::string zeile() const;
+    /// None for a line of another kind.
+    static std::optional<ergebnisangabe> aus_zeile(std::string_view zeile);
+};
 
 /// The results that were written last, the newest first: `tvk_zuletzt.ini`, two lines for each, its file below the
 /// program folder and what it is.
@@ -15,7 +34,7 @@ public:
 
     struct eintrag {
         std::string pfad;
-        std::string text;  ///< when and who, without a word of any language
+        std::string text;  ///< the line of an `ergebnisangabe`; or, from an older program, when and who
         bool operator==(const eintrag&) const = default;
     };
 

@@ -7,6 +7,7 @@
 #include "programm/rennprotokoll.h"
 #include "results/ergebnisdatei.h"
 #include "results/ergebniszusammenfassung.h"
+#include "results/tagesfuehrung.h"
 
 // What the main window has at hand beside the set-up: pictures, the results and the drivers of late, and its own state.
 
@@ -43,19 +44,24 @@ void programm::zuletzt_verbinden() {
     form1.erscheinen = [this](const erscheinung& neu) { erscheinung_waehlen(neu); };
     rundenspeichern.bei_ergebnis = [this](const std::string& pfad, const rennergebnis& ergebnis) {
         rennprotokoll.ergebnis_geschrieben(pfad);
-        if (!pfad.starts_with(ergebnis_ordner::wettkampf)) {  // a competition is one result, not forty
-            const bool tag = pfad.starts_with(ergebnis_ordner::tagesrennen);
-            zuletzt_geschrieben.merken(ablage,
-                                       {pfad, tag ? tagestext(pfad, ergebnis) : ergebniszusammenfassung(ergebnis)});
+        if (pfad.starts_with(ergebnis_ordner::tagesrennen)) {
+            const auto zeilen =
+                ablage.zeilen_lesen(pfad, ergebnistabelle::zeilen_max).value_or(std::vector<std::string>{});
+            const auto tag = ergebnistabelle_lesen(zeilen, einst.trennzeichen);
+            const auto vorn = tag ? tagesfuehrung(*tag, einst.auswertung_nach) : std::vector<tagesfuehrender>{};
+            zuletzt_geschrieben.merken(ablage, {pfad, tagesangabe(pfad, ergebnis.datum, vorn).zeile()});
+        } else if (!pfad.starts_with(ergebnis_ordner::wettkampf)) {  // a competition is one result, not forty
+            zuletzt_geschrieben.merken(ablage, {pfad, angabe_von(ergebnis).zeile()});
         }
     };
     wettkampf_->wettkampfspeicher.bei_tabelle = [this](const std::string& pfad, const wettkampf& stand) {
-        zuletzt_geschrieben.merken(ablage, {pfad, wettkampfzusammenfassung(stand)});
+        zuletzt_geschrieben.merken(ablage, {pfad, angabe_von(stand).zeile()});
     };
     form1.letzte_nennen = [this] {
         std::vector<tarvel::form1::letztes> alle;
         for (const letzte_ergebnisse::eintrag& eines : zuletzt_geschrieben.eintraege()) {
-            alle.push_back({eines.text, !letzte_ergebnisse::ort(ablage, eines).empty()});
+            alle.push_back({eines.text, !letzte_ergebnisse::ort(ablage, eines).empty(),
+                            eines.pfad.starts_with(ergebnis_ordner::auto_einzelrennen)});
         }
         return alle;
     };

@@ -121,7 +121,8 @@ TEST_F(Hauptfenster, DasLetzteErgebnisOeffnetSichAlsBlattAuchAusDemPapierkorb) {
     lauf_fahren();
     t.p.auswertung.Command5.klicken();
     ASSERT_EQ(t.p.zuletzt_geschrieben.eintraege().size(), 1U);
-    EXPECT_TRUE(f.letzte_zeilen().front().text.ends_with("1. Fahrer 1  2. Fahrer 2")) << f.letzte_zeilen().front().text;
+    EXPECT_EQ(f.letzte_zeilen().front().text,
+              "21.11.2026 14:03  ·  Rundenrennen  ·  Sieger: Fahrer 1, 1 Runde  2. Fahrer 2  ·  automatisch gesichert");
     neu_starten();  // what was saved by itself is tidied away
     ASSERT_TRUE(zweites->form1.letzte_zeilen().front().da);
     zweites->form1.letztes_oeffnen(0);
@@ -133,6 +134,25 @@ TEST_F(Hauptfenster, DasLetzteErgebnisOeffnetSichAlsBlattAuchAusDemPapierkorb) {
     zweites->form1.letztes_oeffnen(0);
     zweites->form1.letztes_oeffnen(7);
     EXPECT_FALSE(zweites->fenster.ist_offen(fenstername::w_auswertung2));
+}
+
+TEST_F(Hauptfenster, LetzteErgebnisseSagenWasUndWer) {
+    using art = ergebnisangabe::art;
+    const auto sagen = [this](const std::string& text) {
+        f.letzte_nennen = [text] { return std::vector<form1::letztes>{{text, true, false}}; };
+        return f.letzte_zeilen().front().text;
+    };
+    const auto gesagt = [&](const ergebnisangabe& angabe) { return sagen(angabe.zeile()); };
+    EXPECT_EQ(gesagt({"21.11.2026 14:03:22", art::wettkampf, "Pokal", 84, {"Anna", "Ben", "Cem", "Dora"}}),
+              "21.11.2026 14:03  ·  Wettkampf Pokal  ·  Sieger: Anna, 84 Runden  2. Ben  3. Cem  …");
+    EXPECT_EQ(gesagt({"21.11.2026", art::tagesrennen, "Samstag", 12, {"Anna"}}),
+              "21.11.2026  ·  Tagesrennen Samstag  ·  In Führung: Anna, 12 Runden");
+    EXPECT_EQ(gesagt({"21.11.2026", art::tagesrennen, "Samstag", 0, {}}), "21.11.2026  ·  Tagesrennen Samstag");
+    EXPECT_EQ(gesagt({"21.11.2026 14:03", art::zeitrennen, "", 0, {"Anna", "Ben"}}),
+              "21.11.2026 14:03  ·  Zeitrennen  ·  1. Anna  2. Ben")
+        << "nobody has won";
+    EXPECT_EQ(sagen("21.11.2026 14:03:22  ·  1. Anna  2. Ben"), "21.11.2026 14:03:22  ·  1. Anna  2. Ben")
+        << "written by an older program";
 }
 
 TEST(LetzteErgebnisse, ZwanzigJedesEinmalUndWasUnlesbarIstFehlt) {
