@@ -82,11 +82,9 @@ private:
 
     void spalten_waehlen() {
         const bool rennen = t_.typ == ergebnis_typ::einzelrennen;
-        spalten_.push_back({wort_.platz, erstes_feld, true, [](const ergebniszeile& zeile, const fahrerzeile& fahrer) {
-                                return fahrer.spalten.platz ? fahrer.felder[*fahrer.spalten.platz]
-                                       : zeile.platz > 0    ? std::to_string(zeile.platz) + "."
-                                                            : std::string();
-                            }});
+        if (hat_plaetze()) {
+            platzspalte();
+        }
         spalten_.push_back(
             {wort_.name, zweites_feld, true, [](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
                  return fahrer.felder[fahrer.spalten.name];
@@ -100,6 +98,21 @@ private:
             rennspalten();
         }
         wertespalten();
+    }
+
+    /// A day's file and races side by side have places only when they are sorted.
+    bool hat_plaetze() const {
+        return std::any_of(fahrer_.begin(), fahrer_.end(), [this](const auto& paar) {
+            return paar.second.spalten.platz || t_.zeilen[paar.first].platz > 0;
+        });
+    }
+
+    void platzspalte() {
+        spalten_.push_back({wort_.platz, erstes_feld, true, [](const ergebniszeile& zeile, const fahrerzeile& fahrer) {
+                                return fahrer.spalten.platz ? fahrer.felder[*fahrer.spalten.platz]
+                                       : zeile.platz > 0    ? std::to_string(zeile.platz) + "."
+                                                            : std::string();
+                            }});
     }
 
     bool mehrere_rennen() const { return t_.rennen.size() > 1 && !t_.addiert; }

@@ -40,7 +40,7 @@ std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment) {
     return stempel;
 }
 
-std::string datum_im_namen(std::string_view pfad) {
+std::string zeitpunkt_im_namen(std::string_view pfad) {
     constexpr std::size_t tag = 8;
     constexpr std::size_t uhrzeit = 5;
     const auto ziffern_an = [&pfad](std::size_t ab, std::size_t anzahl) {
@@ -52,10 +52,17 @@ std::string datum_im_namen(std::string_view pfad) {
         const bool ganz = strich + uhrzeit < pfad.size() && ziffern_an(ab, tag) && ziffern_an(strich + 1, uhrzeit);
         if (ganz && (ab == 0 || !ziffern_an(ab - 1, 1))) {
             const std::string t(pfad.substr(ab, tag));
-            return t.substr(0, 2) + "." + t.substr(2, 2) + "." + t.substr(4);
+            const std::string u(pfad.substr(strich + 1, uhrzeit));
+            return t.substr(0, 2) + "." + t.substr(2, 2) + "." + t.substr(4) + " " + u.substr(0, 2) + ":" +
+                   u.substr(2, 2);
         }
     }
     return {};
+}
+
+std::string datum_im_namen(std::string_view pfad) {
+    const std::string wann = zeitpunkt_im_namen(pfad);
+    return wann.substr(0, wann.find(' '));
 }
 
 std::string ohne_trenner(std::string text, const std::string& trenner) {

@@ -33,7 +33,9 @@ ergebnis_typ datei_typ_erkennen(const std::vector<std::string>& zeilen);
 /// Name of a result file: date and time without their separators and without the last digit of the seconds.
 std::string ergebnis_stempel(const plattform::datum_uhrzeit& moment);
 
-/// The date in the name of such a file, wherever it lies: "21.11.2026"; empty without one.
+/// The time in the name of such a file, wherever it lies: "21.11.2026 14:03"; empty without one.
+std::string zeitpunkt_im_namen(std::string_view pfad);
+/// Its date alone.
 std::string datum_im_namen(std::string_view pfad);
 
 /// A separator within a name would move the columns.

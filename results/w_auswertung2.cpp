@@ -138,7 +138,7 @@ void w_auswertung2::datei_zeigen(const std::string& pfad) {
 
 void w_auswertung2::ordner_zeigen(const std::string& ordner) {
     ordner_ = ordner;
-    Label_ordner.text(ordner_);
+    ordner_nennen();
     const ordnerblick darin = ordner_ansehen(um_.welt.ablage.pfad(ordner_), {".csv"});
     std::vector<std::string> ziele = darin.ordner;
     if (ordner_ != wurzel) {
@@ -202,6 +202,7 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
         tabelle_ = std::move(neue);
         korrekturen_ = {};
         klassen_vereint_ = false;
+        sortiert_ = false;
         for (haken& kasten : Check1) {
             kasten.gesetzt(true);  // what was left out was so in the file before
         }
@@ -231,6 +232,7 @@ void w_auswertung2::dazu(const std::string& pfad) {
         case hinzufuegen_ergebnis::hinzugefuegt:
             dateien_.push_back(pfad);
             abdruecke_[pfad] = abdruck;
+            sortiert_ = false;
             korrekturen_.abschliessen();
             tabelle_neu();
     }
@@ -258,6 +260,7 @@ void w_auswertung2::tabelle_neu() {
 
 void w_auswertung2::tabelle_anzeigen() {
     details_.ohne_klassen = ausgelassene_klassen();
+    rennplaetze_eintragen();
     ansicht_ = tabelle_ ? ergebnisansicht_bilden(*tabelle_, ansicht_wort_, details_) : ergebnisansicht{};
     Label_kopf.text(ansicht_.kopf.text);
     std::vector<std::string> zeilen;
@@ -272,33 +275,6 @@ void w_auswertung2::tabelle_anzeigen() {
     }
     details_zeigen();
     bedienung_einrichten();
-}
-
-void w_auswertung2::datei_nennen() {
-    if (!tabelle_) {
-        Label_datei.text(wort_.keine_tabelle);
-        return;
-    }
-    const auto eintraege = std::count_if(ansicht_.zeilen.begin(), ansicht_.zeilen.end(),
-                                         [](const auto& zeile) { return zeile.ergebnis.has_value(); });
-    std::string text = name_von(dateien_.front());
-    if (const std::size_t mehr = dateien_.size() - 1; mehr > 0) {
-        text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
-    }
-    text += "  ·  " + wort_.art.at(static_cast<std::size_t>(tabelle_->typ)) + "  ·  " + std::to_string(eintraege) +
-            " " + wort_.eintraege;
-    if (tabelle_->addiert) {
-        text += "  ·  " + (klassen_vereint_ ? wort_.addiert_alle : wort_.addiert);
-    }
-    Label_datei.text(text);
-}
-
-/// A day's file holds a line for each race; who reads it wants to know the winner.
-void w_auswertung2::fuehrung_nennen() {
-    const auto wer =
-        tabelle_ && !tabelle_->addiert ? tagesfuehrung(*tabelle_, sortieren_nach()) : std::vector<tagesfuehrender>{};
-    Label_fuehrung.sichtbar(!wer.empty());
-    Label_fuehrung.text(fuehrung_.zeile(wer) + ".  " + wort_.alle_plaetze);
 }
 
 void w_auswertung2::details_umschalten(std::size_t welche) {

@@ -104,6 +104,8 @@ public:
 
     w_ausw_debug& debug() { return debug_; }
     blick gezeigt() const { return blick_; }
+    /// How people call the file of a result: one that was saved by itself by its time.
+    std::string anzeigename(std::string_view pfad) const;
     /// The row of the list is a head.
     bool ist_kopf(std::size_t zeile) const { return zeile < ansicht_.zeilen.size() && ansicht_.zeilen[zeile].kopf; }
     const std::optional<rennergebnis>& rennen() const { return rennen_; }
@@ -133,7 +135,7 @@ private:
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
         std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
-        std::string debug_auf, debug_zu, alle_plaetze;
+        std::string debug_auf, debug_zu, alle_plaetze, automatisch;
         std::array<std::string, 3> wertung;
         std::array<std::array<std::string, 2>, 3> details;  ///< in, out
         std::array<std::string, 5> art;                     ///< by the kind of file
@@ -181,7 +183,9 @@ private:
     void tabelle_anzeigen();
     /// Over the table: what is in memory.
     void datei_nennen();
+    void ordner_nennen();
     void fuehrung_nennen();
+    void rennplaetze_eintragen();
     void klassen_zeigen();
     std::set<std::string> ausgelassene_klassen() const;
     void details_umschalten(std::size_t welche);
@@ -210,6 +214,7 @@ private:
     bool nur_auswahl_ = false;  ///< is to be saved
     tabellenverlauf korrekturen_;
     bool klassen_vereint_ = false;  ///< drivers were added up whatever their class
+    bool sortiert_ = false;         ///< the places are those of the last sorting
 };
 
 }  // namespace tarvel

@@ -97,6 +97,7 @@ void w_auswertung2::neu_sortieren() {
         return;
     }
     sortieren(*tabelle_, sortieren_nach());
+    sortiert_ = true;
     tabelle_anzeigen();
     rennen_zeigen();
 }
@@ -114,6 +115,7 @@ void w_auswertung2::fahrer_addieren() {
     korrekturen_.abschliessen();
     if (tabelle_->zeilen.size() > 1) {  // a line alone stays as it is, also in the way its place is written
         sortieren(*tabelle_, sortieren_nach());
+        sortiert_ = true;
     }
     tabelle_neu();
 }

@@ -32,8 +32,9 @@ protected:
     }
     std::string namen() const {
         std::string alle;
+        const std::size_t name = w.Label_kopf.text().starts_with("Pl.") ? 5 : 0;
         for (const std::string& zeile : w.auswertung_schoen.zeilen()) {
-            alle += zeile.size() > 5 ? zeile.substr(0, 2) + zeile.substr(5, 1) + " " : "| ";
+            alle += zeile.size() > 5 ? (name > 0 ? zeile.substr(0, 2) : "") + zeile.substr(name, 1) + " " : "| ";
         }
         return alle;
     }
@@ -56,13 +57,13 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     waehlen("mai.csv");
     w.Command2.klicken();  // to nothing
     EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
-    EXPECT_EQ(namen(), "  A   B   C   A ") << "as they were driven";
+    EXPECT_EQ(namen(), "A B C A ") << "as they were driven";
     EXPECT_TRUE(w.Label_fuehrung.text().starts_with("In Führung: A Anna, 10 Runden  ·  B Ben, 9 Runden.  „gleiche"))
         << w.Label_fuehrung.text() << ": all that each has driven";
     waehlen("kaputt.csv");
     w.Command4.klicken();
     EXPECT_EQ(letzte_meldung(), "Dateifehler, Ergebnisse können nicht angezeigt werden!");
-    EXPECT_EQ(namen(), "  A   B   C   A ");
+    EXPECT_EQ(namen(), "A B C A ");
     w.Dir1.doppelklicken(0);
     EXPECT_EQ(w.Label_ordner.text(), "Ergebnisse");
     EXPECT_NE(w.Dir1.zeilen().front(), "..") << "no way out of the results";
@@ -92,7 +93,7 @@ TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
     w.Check1[0].umschalten();
     w.Command1.klicken();
     zeigen("mai.csv");
-    EXPECT_EQ(namen(), "  A   B   C   A ") << "classes are left out of one file";
+    EXPECT_EQ(namen(), "A B C A ") << "classes are left out of one file, and a place comes with sorting";
 }
 
 TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
@@ -120,7 +121,7 @@ TEST_F(Ergebnisbetrachter, AndereArtWirdNichtHinzugefuegt) {
     waehlen("rennen.csv");
     w.Command2.klicken();
     EXPECT_EQ(letzte_meldung(), "Ergebnisse anderen Typs können nicht hinzugefügt werden!");
-    EXPECT_EQ(namen(), "  A   B   C   A ");
+    EXPECT_EQ(namen(), "A B C A ");
 }
 
 TEST_F(Ergebnisbetrachter, KorrekturOhneAenderungLaesstDieDateiByteFuerByte) {
@@ -171,7 +172,7 @@ TEST_F(Ergebnisbetrachter, KorrekturenGehenNichtUngefragtVerloren) {
     w.Command5.klicken();
     zeigen("mai.csv");
     EXPECT_EQ(t.maschine.fragen_gestellt.size(), 2U);
-    EXPECT_EQ(w.auswertung_schoen.zeilen().front().substr(5, 9), "Anna-Lena");
+    EXPECT_EQ(w.auswertung_schoen.zeilen().front().substr(0, 9), "Anna-Lena");
     EXPECT_EQ(w.Check1[2].text(), "C");
     t.maschine.antwort = true;
     w.Command5.klicken();
@@ -336,6 +337,26 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     w.Command20.klicken();
     EXPECT_FALSE(w.Command_blick[1].aktiviert()) << "sums are no race";
     EXPECT_NE(w.Label_datei.text().find("gleiche Fahrer addiert"), std::string::npos) << "nothing about classes";
+}
+
+TEST_F(Ergebnisbetrachter, EinRennenHatSeinePlaetzeUndEinAutomatischesSeineZeit) {
+    rennergebnis lauf = test::rennen_mit({"Anna", "Ben"}, 3, "14:00:00");
+    lauf.spuren[0].meter += 50;  // on a longer lane, and later
+    lauf.spuren[0].gesamtzeit += 2000;
+    const std::string ordner = "Ergebnisse\\Papierkorb\\";
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben(ordner + "auto-21112026-14032.csv", test::rennzeilen(lauf)));
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben(ordner + "auto-nur so.csv", test::rennzeilen(lauf)));
+    w.datei_zeigen(ordner + "auto-21112026-14032.csv");
+    EXPECT_EQ(namen(), "2.A 1.B ") << "those of the race, which counts the time";
+    EXPECT_TRUE(w.Label_datei.text().starts_with("21.11.2026 14:03, automatisch gesichert  ·  Einzelrennen"));
+    EXPECT_EQ(w.Label_ordner.text(), "automatisch gesichert") << "nobody has thrown it away";
+    EXPECT_EQ(w.File1.zeilen().front(), "auto-21112026-14032.csv");
+    w.Command3.klicken();
+    EXPECT_EQ(namen(), "1.A 2.B ") << "the table counts the metres";
+    waehlen("auto-nur so.csv");
+    w.Command2.klicken();
+    EXPECT_EQ(namen(), "A B A B ") << "two races have no places yet";
+    EXPECT_EQ(w.anzeigename("auto-nur so.csv"), "auto-nur so.csv");
 }
 
 TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {

@@ -1,5 +1,6 @@
 #include "ui/w_auswertung2_fenster.h"
 
+#include <QAction>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGridLayout>
@@ -96,7 +97,9 @@ void WAuswertung2Fenster::dateispalte_fuellen(QVBoxLayout* aufbau) {
     dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     dateien->setUniformItemSizes(false);  // the longest name says how far to scroll
-    dateien->setItemDelegate(new Dateinamen(dateien));
+    dateien->setItemDelegate(new Dateinamen(
+        [this](const QString& datei) { return QString::fromStdString(logik_.anzeigename(datei.toStdString())); },
+        dateien));
     aufbau->addWidget(dateien, 1);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(8);
@@ -155,6 +158,7 @@ QWidget* WAuswertung2Fenster::tabelle() {
     zeilen_->setStyleSheet(QString("QListView::item { padding: 0px %1px; }").arg(einzug_px));
     zeichner_ = new Ergebniszeichner(logik_, this);
     zeilen_->setItemDelegate(zeichner_);
+    speicherzeilen_im_menue();
     QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
     QObject::connect(zeilen_->horizontalScrollBar(), &QScrollBar::valueChanged, kopf_, &Tabellenkopf::setVersatz);
     aufbau->addWidget(zeilen_, 1);
@@ -167,6 +171,19 @@ QWidget* WAuswertung2Fenster::tabelle() {
     aufbau->addLayout(unten);
     binder().verbinden(logik_.Frame_blick[0], feld, "Frame_blick_0", {});
     return feld;
+}
+
+/// The lines in memory are for who looks for a fault: behind the right mouse button.
+void WAuswertung2Fenster::speicherzeilen_im_menue() {
+    auto* punkt = new QAction(zeilen_);
+    punkt->setObjectName("w_auswertung2.Command13_menue");
+    QObject::connect(punkt, &QAction::triggered, this, [this] { logik_.Command13.klicken(); });
+    zeilen_->addAction(punkt);
+    zeilen_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* traeger = new QWidget(this);  // stands for it among the widgets, takes no room
+    traeger->resize(0, 0);
+    binder().verbinden(logik_.Command13, traeger, "Command13",
+                       [this, punkt] { punkt->setText(QString::fromStdString(logik_.Command13.text())); });
 }
 
 QWidget* WAuswertung2Fenster::klassenfeld() {
@@ -243,7 +260,6 @@ QLayout* WAuswertung2Fenster::befehlszeile() {
 QLayout* WAuswertung2Fenster::fusszeile() {
     auto* zeile = new QHBoxLayout;
     zeile->setSpacing(8);
-    zeile->addWidget(binder().knopf(logik_.Command13, "Command13", "schmal"), 0, Qt::AlignBottom);
     QLabel* hinweis = stil::leise(binder().label(logik_.korrekturzeile, "korrekturzeile"));
     hinweis->setWordWrap(true);
     zeile->addWidget(hinweis, 1);

@@ -48,6 +48,7 @@ private:
     QLayout* blickzeile();
     QLayout* rennzeile();
     QWidget* tabelle();
+    void speicherzeilen_im_menue();
     QWidget* klassenfeld();
     QWidget* sortierfeld();
     QWidget* speicherfeld();

@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <QWidget>
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -15,17 +16,28 @@
 
 namespace tarvel::ui {
 
-/// The names of files: one that is wider than its list is told whole under the pointer.
+/// The names of files as people call them. Under the pointer the file itself, if its name reads otherwise or is wider
+/// than its list.
 class Dateinamen final : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    Dateinamen(std::function<QString(const QString&)> anzeigename, QObject* eltern)
+        : QStyledItemDelegate(eltern), anzeigename_(std::move(anzeigename)) {}
+
+    QString displayText(const QVariant& wert, const QLocale& /*gebiet*/) const override {
+        return anzeigename_(wert.toString());
+    }
 
     bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* liste, const QStyleOptionViewItem& option,
                    const QModelIndex& zelle) override {
         const bool abgeschnitten = sizeHint(option, zelle).width() > liste->viewport()->width();
-        QToolTip::showText(ereignis->globalPos(), abgeschnitten ? zelle.data().toString() : QString(), liste);
+        const QString datei = zelle.data().toString();
+        const bool sagen = abgeschnitten || anzeigename_(datei) != datei;
+        QToolTip::showText(ereignis->globalPos(), sagen ? datei : QString(), liste);
         return true;
     }
+
+private:
+    std::function<QString(const QString&)> anzeigename_;
 };
 
 /// The captions over the columns of a list: it moves sideways with them.

@@ -76,7 +76,7 @@ TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
 TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
     zeigen(3);
     ASSERT_TRUE(fenster.isModal() && QTest::qWaitForWindowActive(&fenster));
-    klick(fenster, "w_auswertung2.Command13");
+    finde<QAction>(fenster, "w_auswertung2.Command13_menue")->trigger();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.w_ausw_debug));
     setzen_lassen();
     EXPECT_EQ(QApplication::activeWindow(), &*o.w_ausw_debug);
