@@ -64,7 +64,9 @@ sprachliste auswertung::sprache_a() {
         Command_urkunden);
     blatt.nachtragen(texte);
     blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", Label_vorlaeufig);
-    return blatt.ab_gruen_nennen(texte);
+    blatt.ab_gruen_nennen(texte);
+    texte.fuer_alle("Sektoren", cmd_anzeige).fuer_alle("nächste", cmd_rd_add);
+    return texte.fuer_alle("löschen", cmd_rd_inc);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {
@@ -115,9 +117,6 @@ void auswertung::ansagen_setzen() {
         abstandlabel[i].tipp(wort_.abstand);
         zeit_aus[i].tipp(wort_.gesamtzeit);
         Label_zeit[i].tipp(wort_.gesamtzeit);
-        cmd_anzeige[i].text("…");
-        cmd_rd_add[i].text("▼");
-        cmd_rd_inc[i].text("✕");
     }
     nachtrag.cbo_nachtrag.ansage(nachtrag.Label_nachtrag_spur.text());
     nachtrag.angebote.ansage(nachtrag.Label_nachtrag.text());

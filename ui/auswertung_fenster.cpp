@@ -153,14 +153,18 @@ QLayout* AuswertungFenster::wegezeile() {
         knopf->setMinimumSize(breite, stil::knopfhoehe);
         return knopf;
     };
-    zeile->addWidget(gross(binder().knopf(logik_.Command1, "Command1"), 170), 0, Qt::AlignBottom);
     TextAnzeige* training = binder().anzeige(logik_.trainingslabel, "trainingslabel", 30);
     training->setFett(true);
     zeile->addWidget(training, 1);
     zeile->addWidget(binder().anzeige(logik_.Label_vorlaeufig, "Label_vorlaeufig", 20), 1);
     zeile->addWidget(binder().knopf(logik_.Command7, "Command7"), 0, Qt::AlignBottom);
     zeile->addStretch(1);
-    zeile->addWidget(gross(binder().hauptknopf(logik_.Command5, "Command5"), 160), 0, Qt::AlignBottom);
+    auto* rechts = new QVBoxLayout;  // beside each other they would be too wide for a small screen
+    rechts->setSpacing(6);
+    rechts->addStretch(1);
+    rechts->addWidget(gross(binder().knopf(logik_.Command1, "Command1"), 170));
+    rechts->addWidget(gross(binder().hauptknopf(logik_.Command5, "Command5"), 170));
+    zeile->addLayout(rechts);
     return zeile;
 }
 
@@ -188,7 +192,8 @@ QWidget* AuswertungFenster::spurwechselfeld() {
 void AuswertungFenster::aufschlagen() {
     if (!isVisible()) {
         const QSize platz = schirm_des_leiters()->availableGeometry().size();
-        resize(platz.width() * 19 / 20, platz.height() * 9 / 10);
+        constexpr QSize ganz(1240, 900);  // a smaller screen has no room to give away
+        resize(QSize(platz.width() * 19 / 20, platz.height() * 9 / 10).expandedTo(platz.boundedTo(ganz)));
     }
     Fenster::aufschlagen();
     skalieren();

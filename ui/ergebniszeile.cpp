@@ -14,13 +14,14 @@ namespace {
 // font sizes in pixels at scale 1
 constexpr double schrift_platz = 46;
 constexpr double schrift_name = 28;
-constexpr double schrift_wert = 28;
-constexpr double schrift_zusatz = 15;
-constexpr double schrift_titel = 13;
-constexpr double schrift_liste = 16;
+constexpr double schrift_wert = 29;
+constexpr double schrift_zusatz = 18;
+constexpr double schrift_titel = 17;
+constexpr double schrift_liste = 17;
+constexpr double schrift_knopf = 15;
 
 constexpr int eingabe_breite_px = 80;
-constexpr int knopf_breite_px = 34;
+constexpr int knopfrand_px = 12;
 constexpr double bild_kante = 60;
 constexpr int abstand = 12;
 
@@ -84,11 +85,12 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     wert->setZweizeilig();  // a long name, whose letters were too small to read in one line
     auto* darunter = new QHBoxLayout;
     darunter->setSpacing(8);
-    aufbau->addStretch();
+    werte_.push_back(wert);
+    aufbau->addStretch(1);
     aufbau->addWidget(kopf);
-    aufbau->addWidget(wert);
+    aufbau->addWidget(wert, 4);
     aufbau->addLayout(darunter);
-    aufbau->addStretch();
+    aufbau->addStretch(1);
     return {feld, darunter};
 }
 
@@ -154,8 +156,8 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     auto* knoepfe = new QVBoxLayout;
     knoepfe->setSpacing(2);
     const auto knopf = [&](befehl& element, const QString& name) {
-        QPushButton* widget = binder.knopf(element, nummeriert(name));
-        widget->setFixedWidth(knopf_breite_px);
+        QPushButton* widget = binder.knopf_ohne_kuerzel(element, nummeriert(name));  // there are too many of them
+        knoepfe_.push_back(widget);
         widget->setMinimumHeight(20);
         widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
         widget->setStyleSheet("padding: 0;");
@@ -175,13 +177,33 @@ void Ergebniszeile::skalieren(double skala) {
     liste_->setFont(schrift);
     constexpr int rollbalken_px = 34;  // and what the list keeps free around a line
     liste_->setMinimumWidth(QFontMetrics(schrift).horizontalAdvance("00.  00:00,000") + rollbalken_px);
-    const int kante = static_cast<int>(std::lround(bild_kante * std::max(skala, 1.0)));
-    layout()->setSpacing(static_cast<int>(std::lround(abstand * std::max(skala, 1.0))));
+    knoepfe_skalieren(skala);
+    constexpr double zwei_zeilen = 1.7;  // of smaller letters, for a long name
+    for (QWidget* wert : werte_) {
+        wert->setMaximumHeight(static_cast<int>(std::lround(schrift_wert * zwei_zeilen * skala)));
+    }
+    const int kante = static_cast<int>(std::lround(bild_kante * skala));
+    layout()->setSpacing(static_cast<int>(std::lround(abstand * skala)));
     for (QWidget* bild : bilder_) {
         bild->setFixedSize(kante, kante);
         QSizePolicy platz_halten = bild->sizePolicy();  // a row without it keeps its columns under those of the others
         platz_halten.setRetainSizeWhenHidden(bild == bilder_.front() || logik_.einst().fahrzeugbild_an);
         bild->setSizePolicy(platz_halten);
+    }
+}
+
+/// As wide as the longest of their captions, in every row the same.
+void Ergebniszeile::knoepfe_skalieren(double skala) {
+    constexpr int kleinste_px = 12;
+    int breite = 0;
+    for (QPushButton* knopf : knoepfe_) {
+        QFont schrift = knopf->font();
+        schrift.setPixelSize(std::max(kleinste_px, static_cast<int>(std::lround(schrift_knopf * skala))));
+        knopf->setFont(schrift);
+        breite = std::max(breite, QFontMetrics(schrift).horizontalAdvance(knopf->text()) + knopfrand_px);
+    }
+    for (QPushButton* knopf : knoepfe_) {
+        knopf->setFixedWidth(breite);
     }
 }
 

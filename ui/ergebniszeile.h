@@ -45,6 +45,7 @@ private:
     QWidget* rundenzelle(Binder& binder);
     QWidget* meterzelle(Binder& binder);
     QWidget* listenspalte(Binder& binder);
+    void knoepfe_skalieren(double skala);
     void bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau);
     QString nummeriert(const QString& name) const { return name + "_" + QString::number(index_); }
 
@@ -52,6 +53,8 @@ private:
     std::size_t index_;
     QListView* liste_ = nullptr;
     std::vector<QWidget*> bilder_;
+    std::vector<QWidget*> werte_;        ///< the figures and the name
+    std::vector<QPushButton*> knoepfe_;  ///< beside the list
     QLineEdit* meterfeld_ = nullptr;
     QColor spurfarbe_;
 };
