@@ -1,7 +1,11 @@
 #include "ui/eingabefelder.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <utility>
 
 namespace tarvel::ui {
@@ -32,6 +36,20 @@ void Auswahlfeld::setZusaetze(const QStringList& zusaetze) {
     for (int i = 0; i < count(); ++i) {
         setItemData(i, zusaetze_.value(i));
     }
+}
+
+bool Auswahlfeld::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        QStyleOptionComboBox aussehen;
+        initStyleOption(&aussehen);
+        const int platz =
+            style()->subControlRect(QStyle::CC_ComboBox, &aussehen, QStyle::SC_ComboBoxEditField, this).width();
+        const bool abgeschnitten = fontMetrics().horizontalAdvance(currentText()) > platz;
+        QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(), abgeschnitten ? currentText() : QString(),
+                           this);
+        return true;
+    }
+    return QComboBox::event(ereignis);
 }
 
 bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {

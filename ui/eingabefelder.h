@@ -30,7 +30,8 @@ private:
     }
 };
 
-/// The wheel scrolls the page and never turns a choice on the way.
+/// The wheel scrolls the page and never turns a choice on the way. A text that is wider than its field is told whole
+/// under the pointer.
 class Auswahlfeld final : public QComboBox {
 public:
     using QComboBox::QComboBox;
@@ -40,6 +41,7 @@ public:
     void setZusaetze(const QStringList& zusaetze);
 
 protected:
+    bool event(QEvent* ereignis) override;
     void wheelEvent(QWheelEvent* ereignis) override { ereignis->ignore(); }
 
 private:

@@ -170,8 +170,8 @@ QWidget* Form1Fenster::spuren_gruppe() {
         raster->addLayout(zelle, 0, spalte);
         return zelle;
     };
-    kopf(logik_.label_spurlaenge, "label_spurlaenge", 2);
-    kopf(logik_.Label_meter, "Label_meter", 3);
+    raster->addWidget(weichend(stil::leise(binder().label(logik_.label_spurlaenge, "label_spurlaenge"))), 0, 2);
+    raster->addWidget(weichend(stil::leise(binder().label(logik_.Label_meter, "Label_meter"))), 0, 3);
     kopf(logik_.Label_fahrer, "Label_fahrer", 5, {{&logik_.command_liste, "command_liste"}})
         ->addWidget(weichend(binder().knopf(logik_.Command13, "Command13", "schmal")));
     kopf(logik_.Label_auto, "Label_auto", 7)
@@ -214,7 +214,7 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     QLabel* bestzeit = binder().label(logik_.Label_fahrzeug.at(i), "Label_fahrzeug_" + nummer);
     bestzeit->setMinimumWidth(76);
     const std::vector<QWidget*> zeile{
-        fleck, kasten, laenge, nullptr, fahrerbild, fahrer, weichend(autobild), fahrzeug, weichend(bestzeit)};
+        fleck, kasten, weichend(laenge), nullptr, fahrerbild, fahrer, weichend(autobild), fahrzeug, weichend(bestzeit)};
     for (std::size_t spalte = 0; spalte < zeile.size(); ++spalte) {
         if (zeile[spalte] != nullptr) {
             raster->addWidget(zeile[spalte], spur, static_cast<int>(spalte), Qt::AlignVCenter);
