@@ -33,7 +33,7 @@ void uhr_anordnen(const ansicht_inhalt& inhalt, const rechteck& kopf, double uhr
     g[f::restrunden] = g[f::uhrframe2];
     zuschnitt ziel(links.rest());
     if (inhalt.naechstes_rennen) {
-        g[f::Label5].ort = ziel.unten(0.36 * kopf.hoehe);
+        g[f::Label5].ort = ziel.unten(0.4 * kopf.hoehe);
         g[f::Label_naechstesrennen].ort = ziel.unten(0.22 * kopf.hoehe);
     }
     g[f::ziel_label].ort = ziel.rest();

@@ -61,13 +61,20 @@ double bestzeit_hoehe(const ansicht_inhalt& inhalt, double hoehe) {
     return inhalt.bestzeit ? hoehe : 0;
 }
 
-void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, spur_orte& g) {
-    const rechteck feld = mittig(ort, 0.9 * ort.breite);
-    const double teil = feld.hoehe / (inhalt.bestzeit ? 29.5 : 24.5);
+void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, int lesbar_px, spur_orte& g) {
+    constexpr double letzte = 8.5;
+    constexpr double beste = 6;
+    const int titelzahl = inhalt.bestzeit ? 3 : 2;
+    const rechteck feld = mittig(ort, std::max(0.9 * ort.breite, (inhalt.bestzeit ? 7.0 : 6.0) * lesbar_px));
+    const double anteil = 5 / (letzte + beste + 5 * titelzahl) * feld.hoehe;
+    constexpr double strecken = 1.16;  // further, and a caption were larger than the best lap
+    const double lesbar = titelplatz(0, lesbar_px);
+    const double titel = lesbar <= strecken * anteil ? std::max(anteil, lesbar) : anteil;
+    const double ziffern = (feld.hoehe - titelzahl * titel) / (letzte + beste);
     zuschnitt stapel(feld);
-    mit_titel(stapel.oben(13.5 * teil), 5 * teil, g[t::Label_lrunde], g[t::lrunde]);
-    mit_titel(stapel.oben(11 * teil), 5 * teil, g[t::Label_brunde], g[t::brunde]);
-    g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, 5 * teil));
+    mit_titel(stapel.oben(titel + letzte * ziffern), titel, g[t::Label_lrunde], g[t::lrunde]);
+    mit_titel(stapel.oben(titel + beste * ziffern), titel, g[t::Label_brunde], g[t::brunde]);
+    g[t::bestzeit_label].ort = stapel.oben(bestzeit_hoehe(inhalt, titel));
 }
 
 void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double luecke, int lesbar_px, spur_orte& g) {

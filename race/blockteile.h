@@ -30,7 +30,7 @@ void ampel_legen(const rechteck& ort, double luecke, spur_orte& g);
 void schuld_legen(const rechteck& ort, double titel_hoehe, spur_orte& g);
 void tank_legen(const ansicht_inhalt& inhalt, const rechteck& ort, bool nebeneinander, int lesbar_px, spur_orte& g);
 /// Last lap above the best one, which is the smaller of the two.
-void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, spur_orte& g);
+void zeiten_stapeln(const ansicht_inhalt& inhalt, const rechteck& ort, int lesbar_px, spur_orte& g);
 /// The same side by side.
 void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double luecke, int lesbar_px, spur_orte& g);
 /// The counter of a row stands indented; with four digits it moves into half of that.

@@ -116,7 +116,8 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     const auto darunter = [&](const ansicht_inhalt& was, double hoehe, zuschnitt& rest, spur_orte& orte) {
         tank_legen(was, rest.oben(tank), true, ganzes.lesbar_px, orte);
         const rechteck zeitfeld = rest.oben(hoehe);
-        breit ? zeiten_reihen(was, zeitfeld, 4 * luecke, ganzes.lesbar_px, orte) : zeiten_stapeln(was, zeitfeld, orte);
+        breit ? zeiten_reihen(was, zeitfeld, 4 * luecke, ganzes.lesbar_px, orte)
+              : zeiten_stapeln(was, zeitfeld, ganzes.lesbar_px, orte);
         orte[t::t_liste].ort = rest.rest();
     };
     if (bild2 > 0) {
@@ -173,10 +174,10 @@ void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, dou
     if (inhalt.fahrzeugbild) {
         g[t::Image2].ort = rechts.oben(0.65 * kopf);
     }
-    zeiten_stapeln(inhalt, rechts.oben(zeiten), g);
+    zeiten_stapeln(inhalt, rechts.oben(zeiten), ganzes.lesbar_px, g);
     g[t::t_liste].ort = rechts.rest();
     ganzes.tafel = mit_tafel.unten(tafelhoehe(mit_tafel.rest(), zeiten + luecke, ganzes));
-    zeiten_stapeln(inhalt, mit_tafel.rest(), ganzes.spur_tafel);
+    zeiten_stapeln(inhalt, mit_tafel.rest(), ganzes.lesbar_px, ganzes.spur_tafel);
 }
 
 /// A single lane, and a row that has the height for it: the counter in the middle, what belongs to the driver on its
@@ -201,7 +202,7 @@ void einfahrer_legen(const ansicht_inhalt& inhalt, const rechteck& block, double
     platz_legen(links.rest(), s, luecke, ganzes.lesbar_px, g);
 
     zuschnitt rechts(rest.rechts(seite), luecke);
-    zeiten_stapeln(inhalt, rechts.oben(3600 * s), g);
+    zeiten_stapeln(inhalt, rechts.oben(3600 * s), ganzes.lesbar_px, g);
     g[t::t_liste].ort = rechts.rest();
 
     zuschnitt mitte(rest.rest(), luecke);

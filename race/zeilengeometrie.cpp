@@ -114,7 +114,7 @@ constexpr double nebeneinander_ab = 2.4;  ///< of its height: there both times a
 
 /// One time below the other could not be read.
 bool ist_niedrig(const ansicht_inhalt& inhalt, const rechteck& block, int lesbar) {
-    const double ab_em = inhalt.bestzeit ? 6.5 : 5.4;
+    const double ab_em = inhalt.bestzeit ? 6.8 : 5.6;
     return block.hoehe < ab_em * lesbar;
 }
 
@@ -183,7 +183,7 @@ void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, dou
             (ist_niedrig(inhalt, block, lesbar) && zeitfeld.breite > zeiten_em_knapp * lesbar)) {
             zeiten_reihen(inhalt, zeitfeld, 2 * luecke, lesbar, orte);
         } else {
-            zeiten_stapeln(inhalt, zeitfeld, orte);
+            zeiten_stapeln(inhalt, zeitfeld, lesbar, orte);
         }
     };
     ganzes.spur_tafel = g;
@@ -193,7 +193,8 @@ void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, dou
     }
     dahinter(reihe, breite[z::zeiten], g);
     g[t::t_liste].ort = reihe.rest();
-    const double zeiten_daneben = (hoch ? 0.7 : 1) * breite[z::zeiten];
+    const double zeiten_knapp = std::max(0.7 * breite[z::zeiten], zeiten_em_mit_bestzeit / 2 * lesbar);
+    const double zeiten_daneben = hoch ? std::min(zeiten_knapp, breite[z::zeiten]) : breite[z::zeiten];
     const double gebraucht = (breite[z::tank] > 0 ? breite[z::tank] + 2 * luecke : 0) + zeiten_daneben + 4 * luecke;
     ganzes.tafel = mit_tafel.links(mit_tafel.rest().breite - gebraucht);
     dahinter(mit_tafel, zeiten_daneben, ganzes.spur_tafel);
