@@ -239,7 +239,11 @@ void Spurblock::teile_anordnen() {
             text->setSchriftPx(ort.schrift_px);
         }
     }
-    static_cast<TextAnzeige*>(teil(spur_teil::namenslabel))->setMindestPx(geometrie_.lesbar_px);
+    auto* name = static_cast<TextAnzeige*>(teil(spur_teil::namenslabel));
+    name->setMindestPx(geometrie_.lesbar_px);
+    const bool ist_zeile =
+        geometrie_.streifen.hoehe > geometrie_.streifen.breite;  // number and lights begin on the left
+    name->setAusrichtung((ist_zeile ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
     zaehler_anordnen();
     const rechteck& tafel = geometrie_.tafel;
     tafel_->setGeometry(tafel.x, tafel.y, tafel.breite, tafel.hoehe);
@@ -282,16 +286,18 @@ void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
     const bool im_ziel = randfarbe_.isValid();
     const lagefarbe farbe = bild_von(bahn_.lage[spur_].stand().was).farbe;
     if (farbe == lagefarbe::strafe || farbe == lagefarbe::aus) {  // locked or out: barred all round
+        const QRectF ganz(rect());
         QPainterPath rahmen;
-        rahmen.addRoundedRect(rand, 10, 10);
+        rahmen.addRoundedRect(ganz, 10, 10);
         maler.setClipPath(rahmen);
-        const double dick = std::clamp(0.012 * height(), 4.0, 8.0);
-        schraffieren(maler, rand, 2 * dick, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white),
+        const double neben_texten = std::max(geometrie_.streifen.x, 3);
+        const double dick = std::min(std::clamp(0.012 * height(), 4.0, 8.0), neben_texten);
+        schraffieren(maler, ganz, 2 * dick, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white),
                      Qt::black);
         maler.setClipping(false);
         maler.setPen(Qt::NoPen);
         maler.setBrush(grundfarbe_);
-        maler.drawRect(rand.adjusted(dick, dick, -dick, -dick));
+        maler.drawRect(ganz.adjusted(dick, dick, -dick, -dick));
         streifen_malen(maler);
         return;
     }
