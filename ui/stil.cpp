@@ -191,6 +191,11 @@ QPushButton* fensterknopf(QPushButton* knopf) {
     return knopf;
 }
 
+void nimmt_den_rest(QAbstractItemView* liste, int mindestens) {
+    liste->setSizePolicy(liste->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+    liste->setMinimumHeight(mindestens);
+}
+
 QHBoxLayout* knopfzeile(std::initializer_list<QPushButton*> knoepfe) {
     auto* zeile = new QHBoxLayout;
     zeile->addStretch();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QColor>
 #include <QHBoxLayout>
@@ -44,6 +45,9 @@ void faerben(aussehen wie);
 QLabel* leise(QLabel* label);
 /// A command that ends or leaves its window: all of these have one size.
 QPushButton* fensterknopf(QPushButton* knopf);
+/// A list as high as the rest of its window, which is at least this: by itself it would have others squeezed, where a
+/// text beside it breaks into lines.
+void nimmt_den_rest(QAbstractItemView* liste, int mindestens);
 /// The foot of a window: these commands, in this order, at its right end.
 QHBoxLayout* knopfzeile(std::initializer_list<QPushButton*> knoepfe);
 /// The small patch in the colour of a lane.

@@ -12,6 +12,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int sensoren_je_spalte = 12;
+constexpr int zeilenhoehe = 22;  ///< of a choice
 constexpr int lampengroesse = 14;
 constexpr int zeilenhoehe = 20;
 constexpr int rahmenhoehe = 62;  // of a group around its content, which it does not ask for by itself
@@ -85,6 +86,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         wahl->setFixedHeight(zeilenhoehe);  // twelve of them below each other, on a small screen too
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
+        raster->setRowMinimumHeight(reihe, zeilenhoehe);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
         ergebnis->setFixedWidth(ergebnisbreite);
         raster->addWidget(ergebnis, reihe, 3);
@@ -130,7 +132,10 @@ QWidget* TimekeeperFenster::firmwaregruppe() {
 QWidget* TimekeeperFenster::protokollgruppe() {
     QGroupBox* kasten = binder().gruppe(logik_.Frame_log, "Frame_log");
     auto* spalte = new QVBoxLayout(kasten);
-    spalte->addWidget(binder().protokollfeld(logik_.List1, "List1"), 1);
+    QListView* protokoll = binder().protokollfeld(logik_.List1, "List1");
+    constexpr int drei_zeilen = 72;
+    stil::nimmt_den_rest(protokoll, drei_zeilen);
+    spalte->addWidget(protokoll, 1);
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(binder().label(logik_.Label_command, "Label_command"));
     QLineEdit* eingabe = binder().zeile(logik_.tk_command, "tk-command");

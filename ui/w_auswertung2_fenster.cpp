@@ -161,6 +161,8 @@ QWidget* WAuswertung2Fenster::tabelle() {
     speicherzeilen_im_menue();
     QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
     QObject::connect(zeilen_->horizontalScrollBar(), &QScrollBar::valueChanged, kopf_, &Tabellenkopf::setVersatz);
+    constexpr int vier_zeilen = 92;
+    stil::nimmt_den_rest(zeilen_, vier_zeilen);
     aufbau->addWidget(zeilen_, 1);
     auto* unten = new QHBoxLayout;
     unten->setSpacing(4);
