@@ -143,8 +143,11 @@ Textmass mass(const QLineEdit& zeile) {
             QSize(einzeilig(zeile, text).width(), 1)};
 }
 
-/// It shrinks with its place, but nobody reads letters of less than this.
+/// It shrinks with its place, but nobody reads letters of less than this. One that is given no place is not shown.
 Textmass mass(const ui::TextAnzeige& anzeige) {
+    if (anzeige.size().isEmpty()) {
+        return {};
+    }
     constexpr int lesbar_px = 9;
     const bool gut = !anzeige.gekuerzt() && anzeige.schriftPx() >= lesbar_px;
     return {anzeige.text(), anzeige.size(), gut ? QSize() : anzeige.size() + QSize(lesbar_px, 0)};

@@ -46,11 +46,21 @@ QString name(const QWidget& widget) {
     return widget.objectName().isEmpty() ? QString(widget.metaObject()->className()) : widget.objectName();
 }
 
+/// What is meant to hide what is behind it: the dark, the alarm of a device, a button in the place of another.
+bool soll_verdecken(const QWidget& widget) {
+    const QStringList diese{"bahn1.Nachtabschaltung", "bahn1.geraetealarm", "bahn1.Command_protokoll"};
+    return diese.contains(widget.objectName());
+}
+
 /// Something stands in front of the whole rest, with a ground of its own.
 bool liegt_davor(const QWidget& vorn, const QWidget& hinten) {
+    if (soll_verdecken(vorn)) {
+        return true;
+    }
     for (const QWidget* um = vorn.parentWidget(); um != nullptr && !um->isAncestorOf(&hinten);
          um = um->parentWidget()) {
-        if (um->autoFillBackground() || um->testAttribute(Qt::WA_StyledBackground)) {
+        if (um->autoFillBackground() || um->testAttribute(Qt::WA_StyledBackground) ||
+            dynamic_cast<const ui::Fenster*>(um) != nullptr) {
             return true;
         }
     }
