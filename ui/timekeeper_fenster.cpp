@@ -12,7 +12,6 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int sensoren_je_spalte = 12;
-constexpr int zeilenhoehe = 22;  ///< of a choice
 constexpr int lampengroesse = 14;
 constexpr int zeilenhoehe = 20;
 constexpr int rahmenhoehe = 62;  // of a group around its content, which it does not ask for by itself
@@ -86,7 +85,6 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         wahl->setFixedHeight(zeilenhoehe);  // twelve of them below each other, on a small screen too
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
-        raster->setRowMinimumHeight(reihe, zeilenhoehe);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
         ergebnis->setFixedWidth(ergebnisbreite);
         raster->addWidget(ergebnis, reihe, 3);
