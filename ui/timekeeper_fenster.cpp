@@ -11,11 +11,11 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int sensoren_je_spalte = 12;
+constexpr int sensoren_je_spalte = 8;
 constexpr int lampengroesse = 14;
-constexpr int zeilenhoehe = 20;
+constexpr int zeilenhoehe = 22;
 constexpr int rahmenhoehe = 62;  // of a group around its content, which it does not ask for by itself
-constexpr int ergebnisbreite = 90;
+constexpr int ergebnisbreite = 80;
 constexpr int eingabebreite = 150;
 constexpr int schmaler_knopf = 57;
 constexpr int schaltknopf = 72;
@@ -72,6 +72,7 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         if (reihe == 0) {
             raster = new QGridLayout;
             raster->setVerticalSpacing(1);
+            raster->setHorizontalSpacing(4);
             raster->setColumnStretch(2, 1);
             spalten->addLayout(raster, 1);
         }
@@ -81,8 +82,10 @@ QWidget* TimekeeperFenster::sensorgruppe() {
         raster->addWidget(binder().label(k.sensornum, "sensornum" + nummer), reihe, 1);
         QComboBox* wahl = binder().auswahlfeld(k.sensorart, "sensorart" + nummer);
         wahl->setMinimumContentsLength(10);
-        wahl->setStyleSheet("min-height: 0; padding: 0 2px 0 4px;");
-        wahl->setFixedHeight(zeilenhoehe);  // twelve of them below each other, on a small screen too
+        wahl->setStyleSheet(
+            "QComboBox { font-size: 13px; min-height: 0; padding: 0 2px 0 4px; } QComboBox::drop-down { width: 20px; "
+            "}");
+        wahl->setFixedHeight(zeilenhoehe);  // all of them on a small screen too
         wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         raster->addWidget(wahl, reihe, 2);
         QLabel* ergebnis = binder().label(k.ergebnis, "ergebnis" + nummer);
