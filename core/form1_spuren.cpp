@@ -5,6 +5,7 @@
 #include "core/form1.h"
 #include "core/letzte_ergebnisse.h"
 #include "core/spurbesetzung.h"
+#include "core/text.h"
 
 // Drivers come to the lanes, and change from one to another.
 
@@ -98,6 +99,7 @@ void form1::reihe_zeigen() {
 
 std::string form1::in_worten(const letztes& eines) const {
     constexpr std::string_view dazwischen = "  ·  ";
+    constexpr std::size_t zeichen_max = 80;  // more of them are wider than a small screen
     std::string text = eines.text;
     if (const auto angabe = ergebnisangabe::aus_zeile(eines.text)) {
         using art = ergebnisangabe::art;
@@ -110,6 +112,10 @@ std::string form1::in_worten(const letztes& eines) const {
         text += angabe->name.empty() ? std::string() : " " + angabe->name;
         for (std::size_t i = 0; i < angabe->fahrer.size(); ++i) {
             const bool sieger = i == 0 && angabe->runden > 0;
+            if (i > 0 && laenge(text) + laenge(angabe->fahrer[i]) > zeichen_max) {
+                text += "  …";
+                break;
+            }
             const bool weitere = i == ergebnisangabe::genannte_max;  // have no place there
             text.append(i == 0 ? dazwischen : "  ");
             text += sieger ? (tag ? wort_fuehrung_ : wort_sieger_) + " " : weitere ? "" : std::to_string(i + 1) + ". ";

@@ -145,6 +145,8 @@ TEST_F(Hauptfenster, LetzteErgebnisseSagenWasUndWer) {
     const auto gesagt = [&](const ergebnisangabe& angabe) { return sagen(angabe.zeile()); };
     EXPECT_EQ(gesagt({"21.11.2026 14:03:22", art::wettkampf, "Pokal", 84, {"Anna", "Ben", "Cem", "Dora"}}),
               "21.11.2026 14:03  ·  Wettkampf Pokal  ·  Sieger: Anna, 84 Runden  2. Ben  3. Cem  …");
+    EXPECT_TRUE(gesagt({"21.11.2026", art::zeitrennen, "", 9, {"Anna", std::string(30, 'B'), "Cem"}}).ends_with("…"))
+        << "wider than the screen";
     EXPECT_EQ(gesagt({"21.11.2026", art::tagesrennen, "Samstag", 12, {"Anna"}}),
               "21.11.2026  ·  Tagesrennen Samstag  ·  In Führung: Anna, 12 Runden");
     EXPECT_EQ(gesagt({"21.11.2026", art::tagesrennen, "Samstag", 0, {}}), "21.11.2026  ·  Tagesrennen Samstag");
