@@ -16,7 +16,7 @@ namespace tarvel {
 std::string w_auswertung2::anzeigename(std::string_view pfad) const {
     const std::string_view name = pfad.substr(pfad.find_last_of("\\/") + 1);
     const std::string wann = name.starts_with("auto-") ? zeitpunkt_im_namen(name) : std::string();
-    return wann.empty() ? std::string(name) : wann + ", " + wort_.automatisch;
+    return wann.empty() ? std::string(name) : wann;
 }
 
 /// Nobody is to think that a result has been thrown away.
@@ -49,6 +49,7 @@ void w_auswertung2::datei_nennen() {
     const auto eintraege = std::count_if(ansicht_.zeilen.begin(), ansicht_.zeilen.end(),
                                          [](const auto& zeile) { return zeile.ergebnis.has_value(); });
     std::string text = anzeigename(dateien_.front());
+    text += dateien_.front().ends_with(text) ? std::string() : ", " + wort_.automatisch;
     if (const std::size_t mehr = dateien_.size() - 1; mehr > 0) {
         text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
     }

@@ -350,7 +350,7 @@ TEST_F(Ergebnisbetrachter, EinRennenHatSeinePlaetzeUndEinAutomatischesSeineZeit)
     EXPECT_EQ(namen(), "2.A 1.B ") << "those of the race, which counts the time";
     EXPECT_TRUE(w.Label_datei.text().starts_with("21.11.2026 14:03, automatisch gesichert  ·  Einzelrennen"));
     EXPECT_EQ(w.Label_ordner.text(), "automatisch gesichert") << "nobody has thrown it away";
-    EXPECT_EQ(w.File1.zeilen().front(), "auto-21112026-14032.csv");
+    EXPECT_EQ(w.anzeigename(w.File1.zeilen().front()), "21.11.2026 14:03");
     w.Command3.klicken();
     EXPECT_EQ(namen(), "1.A 2.B ") << "the table counts the metres";
     waehlen("auto-nur so.csv");

@@ -253,7 +253,7 @@ QLayout* WAuswertung2Fenster::befehlszeile() {
                                         {&logik_.Command22, "Command22"},
                                         {&logik_.Command20, "Command20"},
                                         {&logik_.Command18, "Command18"}}) {
-        zeile->addWidget(binder().knopf(*element, name));
+        zeile->addWidget(binder().knopf(*element, name, "schmal"));  // else too wide for a small screen
     }
     zeile->addStretch(1);
     return zeile;
