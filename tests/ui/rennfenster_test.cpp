@@ -129,11 +129,6 @@ TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
             t.p.rennen.strafen.zeitstrafe(spur, 10s);
         }
         pruefen("race");
-        for (const int spur : lanes) {
-            t.spur(spur).ch_strafe_rest = 9000;
-        }
-        t.maschine.laufen(20);
-        pruefen("race in words");
         t.bahn().Command3.klicken();
         t.maschine.laufen(3000);
         pruefen("pause");
