@@ -22,7 +22,7 @@ class wettkampfablage : public schnittstelle {
 public:
     /// What the program needs to take up the evening after its end, whenever that comes.
     virtual bool laufenden_sichern(const wettkampf& stand) = 0;
-    /// The evening has been ended: there is nothing to take up. One that is not `fertig` stays where it can be loaded.
+    /// The evening has been ended. One that is not `fertig` stays, to be taken up another day.
     virtual void laufenden_weglegen(bool fertig) = 0;
     /// A dated file of the state, if the settings want it.
     virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;

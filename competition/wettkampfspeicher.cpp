@@ -1,5 +1,7 @@
 #include "competition/wettkampfspeicher.h"
 
+#include <algorithm>
+
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampftabelle.h"
 #include "core/ordner.h"
@@ -10,6 +12,19 @@ namespace {
 
 const std::string ordner = std::string(ergebnis_ordner::wettkampf) + "\\";
 const std::string zwischenordner = std::string(ergebnis_ordner::wettkampf_zwischenstand) + "\\";
+constexpr std::string_view unbeendet = "nicht beendet ";
+constexpr std::string_view abend_endung = ".wtk";
+
+/// The day in the name behind that beginning, as text that sorts by time: 21112026-14032 is 20261121-14032.
+std::string zeitfolge(const std::string& name) {
+    const std::string stempel = name.substr(std::min(unbeendet.size(), name.size()));
+    constexpr std::size_t tag = 2;
+    constexpr std::size_t monat = 4;
+    constexpr std::size_t jahr = 8;
+    return stempel.size() < jahr ? stempel
+                                 : stempel.substr(monat, jahr - monat) + stempel.substr(tag, monat - tag) +
+                                       stempel.substr(0, tag) + stempel.substr(jahr);
+}
 
 }  // namespace
 
@@ -46,15 +61,34 @@ bool wettkampfspeicher::laufenden_sichern(const wettkampf& stand) {
 void wettkampfspeicher::laufenden_weglegen(bool fertig) {
     if (fertig) {
         um_.ablage.loeschen(laufender_wettkampf);
-    } else {
-        laufenden_aufheben();
     }
 }
 
 std::string wettkampfspeicher::laufenden_aufheben() {
-    std::string neu = freier_pfad(ordner + "nicht beendet " + ergebnis_stempel(um_.kalender.jetzt()), ".wtk");
+    std::string neu = freier_pfad(ordner + std::string(unbeendet) + ergebnis_stempel(um_.kalender.jetzt()),
+                                  std::string(abend_endung));
     um_.ablage.umbenennen(laufender_wettkampf, neu);
     return neu;
+}
+
+std::vector<std::string> wettkampfspeicher::unbeendete() const {
+    std::vector<std::string> namen = um_.ablage.auflisten(ergebnis_ordner::wettkampf, unbeendet, abend_endung);
+    std::stable_sort(namen.begin(), namen.end(),
+                     [](const std::string& a, const std::string& b) { return zeitfolge(a) > zeitfolge(b); });
+    std::vector<std::string> pfade;
+    if (um_.ablage.gibt_es(laufender_wettkampf)) {
+        pfade.emplace_back(laufender_wettkampf);
+    }
+    for (const std::string& name : namen) {
+        pfade.push_back(ordner + name);
+    }
+    return pfade;
+}
+
+void wettkampfspeicher::uebernommen(const std::string& pfad) const {
+    if (pfad.starts_with(ordner + std::string(unbeendet))) {
+        um_.ablage.loeschen(pfad);
+    }
 }
 
 bool wettkampfspeicher::zwischenstand_sichern(const wettkampf& stand) {
@@ -74,18 +108,18 @@ bool wettkampfspeicher::tabelle_sichern(const wettkampf& stand) {
 }
 
 void wettkampfspeicher::stand_speichern_unter(const wettkampf& stand) {
-    um_.fenster.oeffnen(stamm(stand), ergebnis_ordner::wettkampf, ".wtk",
+    um_.fenster.oeffnen({stamm(stand), ergebnis_ordner::wettkampf, abend_endung, um_.txt.wettkampf.stand_speichern},
                         [this, &stand](const std::string& name) { return stand_schreiben(ordner + name, stand); });
 }
 
 void wettkampfspeicher::tabelle_speichern_unter(const wettkampf& stand) {
-    um_.fenster.oeffnen(stamm(stand), ergebnis_ordner::wettkampf, ".csv",
+    um_.fenster.oeffnen({stamm(stand), ergebnis_ordner::wettkampf, ".csv"},
                         [this, &stand](const std::string& name) { return tabelle_schreiben(ordner + name, stand); });
 }
 
 void wettkampfspeicher::laden_von(std::function<bool(const std::string& pfad)> laden) {
     dateiauftrag auftrag;
-    auftrag.titel = um_.txt.datei_text[5];
+    auftrag.titel = um_.txt.wettkampf.laden;
     auftrag.ueberschrift = um_.txt.datei_text[3];
     auftrag.knopf = um_.txt.datei_text[2];
     auftrag.ordner = ergebnis_ordner::wettkampf_zwischenstand;

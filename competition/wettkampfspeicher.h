@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "competition/wettkampfabend.h"
 #include "core/einstellungsdatei.h"
@@ -38,6 +40,10 @@ public:
 
     /// Where an evening lies that was not ended, or that cannot be read.
     std::string laufenden_aufheben();
+    /// The evenings that were not ended, the last one first.
+    std::vector<std::string> unbeendete() const;
+    /// This evening goes on from here as the one that runs: what the file had of it is there now.
+    void uebernommen(const std::string& pfad) const;
     /// Open the window in which a file is chosen. The competition must outlive it.
     void stand_speichern_unter(const wettkampf& stand);
     void tabelle_speichern_unter(const wettkampf& stand);

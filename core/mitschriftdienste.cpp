@@ -122,6 +122,10 @@ plattform::dreifache_antwort mitschriftdienste::meldungen::fragen_mit_ausweg(std
         m.antwort("antwort", [&] { return static_cast<std::int64_t>(gewaehlt); }));
 }
 
+void mitschriftdienste::meldungen::mitteilen(std::string_view text) {
+    m.tor([&] { echte.mitteilen(text); });
+}
+
 void mitschriftdienste::klang::spielen(std::string_view datei) {
     if (!m.liest()) {
         echte.spielen(datei);

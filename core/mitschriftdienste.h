@@ -64,6 +64,7 @@ private:
         bool fragen(std::string_view text, std::string_view titel) override;
         bool anbieten(std::string_view text, std::string_view titel) override;
         plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
+        void mitteilen(std::string_view text) override;
         mitschrift& m;
         plattform::meldungen& echte;
     };

@@ -105,6 +105,9 @@ void speichernfenster::ausfuehren() {
     }
     if (auftrag_.laden_von ? auftrag_.laden_von(pfad) : auftrag_.ausfuehren(datei)) {
         um_.fenster.entladen(kennung());
+        if (auftrag_.speichern) {
+            um_.meldungen.mitteilen(um_.txt.gespeichert + " " + pfad);
+        }
     }
 }
 

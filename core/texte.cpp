@@ -175,7 +175,11 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Ja", ja).text("Nein", nein).text("Das Handbuch fehlt:", handbuch_fehlt);
     gruppe.text("Die PDF-Datei ist gespeichert:", papierdatei.gespeichert).text("Öffnen", papierdatei.oeffnen);
     gruppe.text("Ordner zeigen", papierdatei.ordner).text("Schließen", papierdatei.schliessen);
-    return gruppe.text("Auf diesem Rechner ist kein Programm dafür eingerichtet.", papierdatei.kein_programm);
+    gruppe.text("Auf diesem Rechner ist kein Programm dafür eingerichtet.", papierdatei.kein_programm);
+    gruppe.text("Wettkampf laden", wettkampf.laden).text("Stand des Wettkampfs speichern", wettkampf.stand_speichern);
+    gruppe.text("Gespeichert:", gespeichert);
+    gruppe.text("Ein weiteres Rennen zum Fortsetzen gibt es nicht.", wettkampf.kein_weiteres);
+    return gruppe.text("Runde", text_runde);
 }
 
 sprachliste texte::sprache_tx1() {

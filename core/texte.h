@@ -29,12 +29,17 @@ struct texte {
 
     std::string text_zeit;  ///< the kinds of race; always compared with these two, never with a literal
     std::string text_runden;
+    std::string text_runde;  ///< one of them
+    std::string runden(int anzahl) const {
+        return std::to_string(anzahl) + " " + (anzahl == 1 ? text_runde : text_runden);
+    }
     std::array<std::string, 2> titel;
     std::array<std::string, 28> meldung;  ///< index 1 to 27
     std::array<std::string, 12> datei_text;
     static constexpr std::size_t abbrechen = 10;  ///< the place of that word among them
     std::string ja, nein;
     std::string handbuch_fehlt;  ///< before the name of the file
+    std::string gespeichert;     ///< likewise
     struct dateiworte {
         std::string gespeichert, oeffnen, ordner, kein_programm, schliessen;
     } papierdatei;  ///< said of a page that has been saved
@@ -53,9 +58,9 @@ struct texte {
     std::array<std::string, 5> spurmodus_name;  ///< track modes of a digital-capable device
     std::string nicht_aktiv_text;
     struct {
-        std::string einstellungen_uebernehmen, ladefehler;
+        std::string laden, stand_speichern, einstellungen_uebernehmen, ladefehler;
         std::string das_rennen, in_runde, unterbrochen, gefahren;  ///< a race that was cut off
-        std::string keines, nicht_fortsetzbar, ohne_protokoll;
+        std::string keines, kein_weiteres, nicht_fortsetzbar, ohne_protokoll;
         std::string der_wettkampf, vom, nicht_beendet;  ///< an evening that was cut off, around its name and day
     } wettkampf;
     std::array<std::string, 20> tx_text;  ///< of the 4x4 USB module

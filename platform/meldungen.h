@@ -20,6 +20,12 @@ public:
     virtual bool anbieten(std::string_view text, std::string_view titel) { return fragen(text, titel); }
     /// With a way out; closing the box takes it.
     virtual dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) = 0;
+    /// The same where nothing is lost by a yes: Enter takes it.
+    virtual dreifache_antwort anbieten_mit_ausweg(std::string_view text, std::string_view titel) {
+        return fragen_mit_ausweg(text, titel);
+    }
+    /// Says for some seconds that something is done. Waits for nobody, and takes no key from anybody.
+    virtual void mitteilen(std::string_view /*text*/) {}
 };
 
 }  // namespace tarvel::plattform

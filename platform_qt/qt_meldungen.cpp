@@ -1,8 +1,11 @@
 #include "platform_qt/qt_meldungen.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QTimer>
 
 namespace tarvel::qt {
 
@@ -10,6 +13,11 @@ namespace {
 
 QString als_text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// Its first letter presses the button, alone or with the Alt key.
+QString mit_kuerzel(const QString& wort) {
+    return "&" + QString(wort).replace("&", "&&");
 }
 
 }  // namespace
@@ -26,10 +34,10 @@ plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::st
                     QApplication::activeWindow());
     box.setObjectName("frage");
     box.setTextFormat(Qt::PlainText);
-    QPushButton* ja = box.addButton(ja_, QMessageBox::YesRole);
-    QPushButton* nein = box.addButton(nein_, QMessageBox::NoRole);
+    QPushButton* ja = box.addButton(mit_kuerzel(ja_), QMessageBox::YesRole);
+    QPushButton* nein = box.addButton(mit_kuerzel(nein_), QMessageBox::NoRole);
     box.setDefaultButton(wie.ja_vorn ? ja : nein);
-    box.setEscapeButton(wie.mit_ausweg ? box.addButton(ausweg_, QMessageBox::RejectRole) : nein);
+    box.setEscapeButton(wie.mit_ausweg ? box.addButton(mit_kuerzel(ausweg_), QMessageBox::RejectRole) : nein);
     box.exec();
     using antwort = plattform::dreifache_antwort;
     return box.clickedButton() == ja ? antwort::ja : box.clickedButton() == nein ? antwort::nein : antwort::abbrechen;
@@ -53,6 +61,29 @@ bool QtMeldungen::anbieten(std::string_view text, std::string_view titel) {
 
 plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
     return stellen(text, titel, {.mit_ausweg = true});
+}
+
+plattform::dreifache_antwort QtMeldungen::anbieten_mit_ausweg(std::string_view text, std::string_view titel) {
+    return stellen(text, titel, {.ja_vorn = true, .mit_ausweg = true});
+}
+
+void QtMeldungen::mitteilen(std::string_view text) {
+    constexpr int dauer_ms = 4000;
+    auto* zettel = new QLabel(
+        als_text(text), nullptr,
+        Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput);
+    zettel->setObjectName("mitteilung");
+    zettel->setTextFormat(Qt::PlainText);
+    zettel->setAttribute(Qt::WA_ShowWithoutActivating);
+    zettel->setAttribute(Qt::WA_DeleteOnClose);
+    zettel->setStyleSheet("background: #1c2028; color: white; padding: 12px 20px; font-weight: bold;");
+    zettel->ensurePolished();  // else it is measured without its bold letters
+    zettel->adjustSize();
+    const QWidget* fenster = QApplication::activeWindow();
+    const QRect wo = fenster != nullptr ? fenster->frameGeometry() : QApplication::primaryScreen()->availableGeometry();
+    zettel->move(wo.center() - zettel->rect().center());  // clear of the commands at the window's foot
+    zettel->show();
+    QTimer::singleShot(dauer_ms, zettel, &QWidget::close);
 }
 
 }  // namespace tarvel::qt

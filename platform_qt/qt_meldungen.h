@@ -13,6 +13,8 @@ public:
     bool fragen(std::string_view text, std::string_view titel) override;
     bool anbieten(std::string_view text, std::string_view titel) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
+    plattform::dreifache_antwort anbieten_mit_ausweg(std::string_view text, std::string_view titel) override;
+    void mitteilen(std::string_view text) override;
 
 private:
     /// What Enter presses, and whether there is a way out.

@@ -23,9 +23,15 @@ void wettkampfablauf::beginnen(const wettkampfvorgabe& vorgabe) {
     eroeffnen(std::move(*neu));
 }
 
-void wettkampfablauf::eroeffnen(wettkampf neu) {
+void wettkampfablauf::eroeffnen(wettkampf neu, const std::string& aus) {
     um_.haupt.wettkampf_laeuft(true);
+    if (aus != laufender_wettkampf && um_.ablage.gibt_es(laufender_wettkampf)) {
+        um_.speicher.laufenden_aufheben();  // another one, that was not ended
+    }
     um_.abend.beginnen(std::move(neu));
+    if (!um_.abend.nicht_gesichert()) {
+        um_.speicher.uebernommen(aus);
+    }
     um_.fenster.verbergen(fenstername::wettkampf1);
     um_.fenster.zeigen(fenstername::wettkampf2);
 }
@@ -34,7 +40,8 @@ void wettkampfablauf::laden() {
     using antwort = plattform::dreifache_antwort;
     antwort uebernehmen = antwort::nein;
     if (!um_.einst.hardware.hw_cu) {  // that unit's settings are those of the track here
-        uebernehmen = um_.meldungen.fragen_mit_ausweg(um_.txt.wettkampf.einstellungen_uebernehmen, um_.txt.titel[0]);
+        uebernehmen =
+            um_.meldungen.fragen_mit_ausweg(um_.txt.wettkampf.einstellungen_uebernehmen, um_.txt.wettkampf.laden);
     }
     if (uebernehmen == antwort::abbrechen) {
         return;
@@ -63,7 +70,7 @@ bool wettkampfablauf::laden(const std::string& pfad, einstellungen_aus_datei wie
     }
     um_.einrichtung = um_.datei.einrichtung();  // its files are written from what the main window shows
     um_.haupt.einrichtung_zeigen();
-    eroeffnen(std::move(*gelesen));
+    eroeffnen(std::move(*gelesen), pfad);
     return true;
 }
 
@@ -95,6 +102,27 @@ void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::str
     }
 }
 
+std::string wettkampfablauf::frage(const wettkampf& w) const {
+    const auto& wort = um_.txt.wettkampf;
+    return wort.der_wettkampf + " " + w.wettkampf_name + " " + wort.vom + " " + w.beginn + " " + wort.nicht_beendet;
+}
+
+std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() {
+    for (const std::string& pfad : um_.speicher.unbeendete()) {
+        const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt,
+                                             einstellungen_aus_datei::lassen, version_melden::nein);
+        if (!gelesen) {
+            continue;
+        }
+        const auto will = um_.meldungen.anbieten_mit_ausweg(frage(*gelesen), um_.txt.titel[0]);
+        if (will == plattform::dreifache_antwort::ja && !laden(pfad, eigene_einstellungen())) {
+            um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + pfad, um_.txt.titel[1]);
+        }
+        return will;
+    }
+    return std::nullopt;
+}
+
 bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     if (!um_.ablage.gibt_es(laufender_wettkampf)) {
         return false;
@@ -102,13 +130,8 @@ bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     const std::string pfad(laufender_wettkampf);
     const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
                                          version_melden::nein);
-    const auto& wort = um_.txt.wettkampf;
-    const bool fortsetzen =
-        gelesen && um_.meldungen.anbieten(wort.der_wettkampf + " " + gelesen->wettkampf_name + " " + wort.vom + " " +
-                                              gelesen->beginn + " " + wort.nicht_beendet + rennen,
-                                          um_.txt.titel[0]);
-    const auto wie = um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
-    const bool gut = gelesen && (!fortsetzen || laden(pfad, wie));
+    const bool fortsetzen = gelesen && um_.meldungen.anbieten(frage(*gelesen) + rennen, um_.txt.titel[0]);
+    const bool gut = gelesen && (!fortsetzen || laden(pfad, eigene_einstellungen()));
     if (gut && fortsetzen) {
         return true;
     }

@@ -42,6 +42,8 @@ public:
     /// An evening that the end of the program has cut off is offered to go on. `rennen` tells of its race that was cut
     /// off with it. True if it goes on.
     bool unterbrochenen_anbieten(const std::string& rennen = {});
+    /// The last evening that was not ended, whenever that was. None if there is none; after a yes it goes on.
+    std::optional<plattform::dreifache_antwort> letzten_anbieten();
 
     void beginnen(const wettkampfvorgabe& vorgabe) override;
     void laden() override;
@@ -55,7 +57,14 @@ private:
     bool laden(const std::string& pfad, einstellungen_aus_datei wie);
     /// Hands the race over as the file last read has it set up. False, and nothing, if nobody can drive that.
     bool rennen_der_datei_uebergeben(const wettkampf& gelesen);
-    void eroeffnen(wettkampf neu);
+    /// `aus` is the file it goes on from, if it is not a new one.
+    void eroeffnen(wettkampf neu, const std::string& aus = {});
+    std::string frage(const wettkampf& w) const;
+    /// The settings of an evening that is taken up again are its own, but of a device whose settings are those of the
+    /// track here.
+    einstellungen_aus_datei eigene_einstellungen() const {
+        return um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
+    }
 
     umgebung um_;
 };

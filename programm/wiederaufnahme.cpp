@@ -144,8 +144,7 @@ std::string wiederaufnahme::frage(const protokollstand& stand) const {
     std::stable_sort(dabei.begin(), dabei.end(), [&](int a, int b) { return stand.runden[a] > stand.runden[b]; });
     text += "\n";
     for (const int spur : dabei) {
-        text += "\n" + stand.fahrer[spur] + ": " + std::to_string(std::max(stand.runden[spur], 0)) + " " +
-                um_.txt.text_runden;
+        text += "\n" + stand.fahrer[spur] + ": " + um_.txt.runden(std::max(stand.runden[spur], 0));
     }
     return text;
 }
@@ -179,12 +178,18 @@ void wiederaufnahme::nach_dem_start_anbieten() {
 void wiederaufnahme::anbieten() {
     nach_dem_start_ = false;
     using antwort = plattform::dreifache_antwort;
+    const std::optional<antwort> abend = um_.wettkampf.wettkampfablauf.letzten_anbieten();
+    if (abend && *abend != antwort::nein) {
+        return;
+    }
+    bool eines = abend.has_value();
     for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
         const std::optional<kandidat> k = lesen(name);
         if (!k || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
             continue;  // that one waits in its evening
         }
-        const antwort will = um_.dienste.meldungen.fragen_mit_ausweg(frage(k->stand), um_.txt.titel[0]);
+        eines = true;
+        const antwort will = um_.dienste.meldungen.anbieten_mit_ausweg(frage(k->stand), um_.txt.titel[0]);
         if (will == antwort::ja) {
             fortsetzen(*k);
         }
@@ -192,7 +197,8 @@ void wiederaufnahme::anbieten() {
             return;
         }
     }
-    um_.dienste.meldungen.zeigen(um_.txt.wettkampf.keines, um_.txt.titel[0]);
+    const auto& wort = um_.txt.wettkampf;
+    um_.dienste.meldungen.zeigen(eines ? wort.kein_weiteres : wort.keines, um_.txt.titel[0]);
 }
 
 bool wiederaufnahme::abgebrochenes_anbieten() {

@@ -41,7 +41,7 @@ public:
 
     /// The last race, if the program before has not come to its end, and the evening that it is part of.
     void nach_dem_start_anbieten();
-    /// One after the other, the newest first.
+    /// The last evening that was not ended, then race after race, the newest first.
     void anbieten();
     /// The race that the evening is about to start, if it was broken off by hand and nothing has been driven since.
     /// True if it goes on.

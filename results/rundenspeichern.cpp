@@ -41,24 +41,23 @@ std::string rundenspeichern::stempel() const {
 }
 
 void rundenspeichern::oeffnen(const rennergebnis& ergebnis) {
-    oeffnen(stempel(), ergebnis_ordner::einzelrennen, endung, [this, &ergebnis](const std::string& gewaehlt) {
+    oeffnen({stempel(), ergebnis_ordner::einzelrennen, endung}, [this, &ergebnis](const std::string& gewaehlt) {
         return einzelrennen_schreiben(std::string(ergebnis_ordner::einzelrennen) + "\\" + gewaehlt, ergebnis);
     });
 }
 
-void rundenspeichern::oeffnen(const std::string& vorschlag, std::string_view ordner, std::string_view mit_endung,
-                              std::function<bool(const std::string& name)> schreiben) {
+void rundenspeichern::oeffnen(const ergebnisziel& ziel, std::function<bool(const std::string& name)> schreiben) {
     um_.fenster.laden(fenstername::rundenspeichern);
     dateiauftrag auftrag;
     auftrag.speichern = true;
-    auftrag.titel = titel_;
+    auftrag.titel = ziel.titel.empty() ? titel_ : ziel.titel;
     auftrag.ueberschrift = um_.txt.datei_text[1];
     auftrag.knopf = um_.txt.datei_text[0];
-    auftrag.ordner = ordner;
-    auftrag.endung = mit_endung;
+    auftrag.ordner = ziel.ordner;
+    auftrag.endung = ziel.endung;
     auftrag.andere_endung_bleibt = true;
     auftrag.name_fehlt = name_fehlt_;
-    auftrag.vorschlag = vorschlag + std::string(mit_endung);
+    auftrag.vorschlag = ziel.vorschlag + std::string(ziel.endung);
     auftrag.ausfuehren = [this, schreiben = std::move(schreiben)](const std::string& gewaehlt) {
         return schreiben(gewaehlt) || schreibfehler_melden();
     };

@@ -29,9 +29,14 @@ public:
     std::function<void(const std::string& pfad, const rennergebnis& ergebnis)> bei_ergebnis;
     /// Writes the result of one of many races. A failure is not shown.
     bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
+    struct ergebnisziel {
+        std::string vorschlag;  ///< of its name, without the ending
+        std::string_view ordner;
+        std::string_view endung;
+        std::string titel = {};  ///< of the window, if not that of results
+    };
     /// Opens the window for another file of the results. `schreiben` gets its name; a failure shows its message.
-    void oeffnen(const std::string& vorschlag, std::string_view ordner, std::string_view endung,
-                 std::function<bool(const std::string& name)> schreiben);
+    void oeffnen(const ergebnisziel& ziel, std::function<bool(const std::string& name)> schreiben);
     /// The words of a competition's table.
     const wettkampf_worte& tabellenworte();
     /// Always false.
