@@ -144,8 +144,8 @@ void wettkampf1::listen_schreiben(const seite& wo, int zeile) {
         auswahlliste.hinzufuegen(std::to_string(i + 1) + "   " + start_.eintraege()[i].name);
     }
     wo.anzeige.markieren(zeile);
-    label_anzahl.text(std::to_string(gesamt_.anzahl()) + " " + wort_.fahrer);
-    label_anzahl2.text(std::to_string(start_.anzahl()) + " " + wort_.fahrer);
+    label_anzahl.text(anzahl_text(gesamt_.anzahl()));
+    label_anzahl2.text(anzahl_text(start_.anzahl()));
     auswahl_folgen();
     plan_zeigen();
 }

@@ -196,6 +196,7 @@ private:
     struct worte {
         std::string titel_standard;
         std::string fahrer;
+        std::string ein_fahrer;
         std::string voll;
         std::string gesamt_voll;
         std::string enthalten;
@@ -215,7 +216,6 @@ private:
         std::array<std::string, wettkampf_modus_max + 1> modus;  ///< index from 1
         std::string teile;
         std::string keine;
-        std::string runden;
         std::string stunden;
         std::string minuten;
     };
@@ -225,6 +225,10 @@ private:
     teilnehmerliste start_;
     seite links_;
     seite rechts_;
+    std::string anzahl_text(std::size_t fahrer) const {
+        return std::to_string(fahrer) + " " + (fahrer == 1 ? wort_.ein_fahrer : wort_.fahrer);
+    }
+
     std::vector<listeneintrag> bekannte_;  ///< the driver list as it was looked at last
     worte wort_;
 };

@@ -56,9 +56,8 @@ void wettkampf1::plan_zeigen() {
     }
     plan_wert[plan_art].text(wort_.modus.at(static_cast<std::size_t>(vorgabe.modus)));
     plan_wert[plan_spuren].text(std::to_string(std::count(vorgabe.aktiv.begin(), vorgabe.aktiv.end(), true)));
-    plan_wert[plan_laenge].text(um_.param.ist_zeitrennen()
-                                    ? dauer_text(um_.param.renndauer_ms)
-                                    : std::to_string(um_.param.renn_laenge.runden()) + " " + wort_.runden);
+    plan_wert[plan_laenge].text(um_.param.ist_zeitrennen() ? dauer_text(um_.param.renndauer_ms)
+                                                           : um_.welt.txt.runden(um_.param.renn_laenge.runden()));
     if (mangel == planmangel::keiner) {
         planwerte_zeigen(rennplan_erstellen(vorgabe));
     } else {

@@ -77,7 +77,7 @@ sprachliste wettkampf1::sprache_w1() {
     for (std::size_t i = 0; i < modi.size(); ++i) {
         texte.text(modi.at(i), wort_.modus.at(i + 1));
     }
-    texte.text("Teile", wort_.teile).text("keine", wort_.keine).text("Runden", wort_.runden).text("h", wort_.stunden);
+    texte.text("Teile", wort_.teile).text("keine", wort_.keine).ueberschrift("Runden").text("h", wort_.stunden);
     texte.text("min", wort_.minuten).text("Fahrer", wort_.fahrer).text("Fahrerliste voll.", wort_.gesamt_voll);
     texte.text("ist der Name eines Platzes ohne Fahrer. Bitte einen anderen wählen.", wort_.platzhalter);
     texte.text("Zeichen, die in keiner Datei stehen können, sind ersetzt:", wort_.ersetzt);
@@ -89,7 +89,7 @@ sprachliste wettkampf1::sprache_w1() {
     texte.text("So viele Fahrer haben auf diesen Spuren höchstens Platz:", wort_.passen_nicht);
     texte.text("Ohne diese Fahrer beginnen?", wort_.fallen_heraus);
     tipps_nennen(texte, *this);
-    return texte;
+    return texte.text("Fahrer", wort_.ein_fahrer);
 }
 
 void wettkampf1::ansagen_setzen() {

@@ -237,6 +237,26 @@ void wettkampf2::liste_zeigen() {
         List1.hinzufuegen(rennzeile(rennen));
     }
     List1.markieren(vorher < 0 ? w.aktuelles_rennen - 1 : vorher);
+    zeichen_erklaeren();
+}
+
+void wettkampf2::zeichen_erklaeren() {
+    const wettkampf& w = abend_.stand();
+    std::array<bool, 3> da{};
+    for (int rennen = 1; rennen <= w.rennen_gesamt(); ++rennen) {
+        const rennstatus status = w.rennen_gefahren(rennen);
+        da[0] |= status == rennstatus::gefahren;
+        da[1] |= status == rennstatus::zurueckgestellt;
+        da[2] |= status == rennstatus::offen && w.fortsetzung_nummer(rennen) > 0;
+    }
+    const std::array<const std::string*, 3> worte{&wort_.gefahren, &wort_.zurueckgestellt, &wort_.teile_gefahren};
+    std::string text;
+    for (std::size_t i = 0; i < da.size(); ++i) {
+        if (da.at(i)) {
+            text += (text.empty() ? "" : ",  ") + *worte.at(i);
+        }
+    }
+    Label_zeichen.text(text);
 }
 
 void wettkampf2::beste_zeigen() {
@@ -261,10 +281,20 @@ void wettkampf2::befehle_zeigen() {
     Command8.aktiviert(rennen > 0 && w.fortsetzung_nummer(rennen) > 0);
     Command9.aktiviert(rennen > 0 && !gefahren);
     Command13.aktiviert(rennen > 0 && w.fortsetzung_nummer(rennen) > 0);
+    automatik_zeigen();
+}
+
+/// The words on the button tell how it is now, and so does the lamp beside it.
+void wettkampf2::automatik_zeigen() {
+    constexpr farbe gruen = 0x3CA01E;
+    constexpr farbe gelb = 0x28BEFF;
     const bool unterbrochen = einst_.w_autom && !abend_.automatik_an() && abend_.unterbrochen();
     Command4.text(!einst_.w_autom ? wort_.automatik_aus
                   : unterbrochen  ? wort_.automatik_unterbrochen
                                   : wort_.automatik_ein);
+    Command4.tipp(einst_.w_autom ? wort_.ist_ein : wort_.ist_aus);
+    automatiklampe.sichtbar(Command4.sichtbar());
+    automatiklampe.hintergrund(!einst_.w_autom ? std::nullopt : std::optional(unterbrochen ? gelb : gruen));
 }
 
 void wettkampf2::rennen_gewaehlt() {

@@ -59,13 +59,15 @@ public:
     bezeichnung Label_fehler;  ///< the state could not be kept
     rahmen Frame_liste;        ///< the list and what is done in it; away while the glance has the window to itself
     bezeichnung Label_liste;   ///< columns of the list
-    liste List1;               ///< row n - 1 is race n
-    haken opt_reihenfolge;     ///< a race that is selected comes next
+    bezeichnung Label_zeichen;
+    liste List1;            ///< row n - 1 is race n
+    haken opt_reihenfolge;  ///< a race that is selected comes next
 
-    befehl Command1;   ///< save the state
-    befehl Command2;   ///< start the race
-    befehl Command3;   ///< totals
-    befehl Command4;   ///< automatic flow
+    befehl Command1;  ///< save the state
+    befehl Command2;  ///< start the race
+    befehl Command3;  ///< totals
+    befehl Command4;  ///< automatic flow
+    form automatiklampe;
     befehl Command5;   ///< end of the evening
     befehl Command6;   ///< ranking
     befehl Command7;   ///< list of drivers
@@ -120,6 +122,7 @@ private:
         std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, einsetzer,
             sieger, liste, gruppenliste, aushang, rennliste;
         std::string wiederholen, wiederholen_titel, ende_frage;
+        std::string ist_ein, ist_aus, gefahren, zurueckgestellt, teile_gefahren;
         std::string name_leer, name_vergeben, name_fueller, keine_zahl;
     };
 
@@ -136,6 +139,9 @@ private:
     void liste_zeigen();
     void beste_zeigen();
     void befehle_zeigen();
+    void automatik_zeigen();
+    /// What the marks in the list mean that are there.
+    void zeichen_erklaeren();
     std::string rennzeile(int rennen) const;
     /// Driven, postponed, or how many of its parts are driven.
     std::string rennmarke(int rennen) const;

@@ -24,7 +24,10 @@ sprachliste wettkampf2::sprache_w2() {
     texte.text("neuen Fahrernamen eingeben:", Label_neuer_name);
     texte.text("Ausgewähltes Rennen wiederholen?", wort_.wiederholen);
     texte.text("Alle gefahrenen Runden gehen verloren.", wort_.wiederholen_titel);
-    texte.text("Der Wettkampf ist noch nicht beendet. Wirklich beenden?", wort_.ende_frage);
+    texte.text(
+        "Der Wettkampf ist noch nicht beendet. Wirklich beenden? Sein Stand bleibt gespeichert: Der nächste Start "
+        "und „Fortsetzen“ im Hauptfenster bieten ihn wieder an.",
+        wort_.ende_frage);
     texte.text("Als Nächste an die Bahn:", Label_danach).text("Einsetzer:", wort_.einsetzer);
     texte.text("Der Wettkampf dauert noch etwa", Label_noch).text("Std.", wort_.stunden);
     texte.text("Min.", wort_.minuten).text("Start in Sekunden:", Label_warten);
@@ -42,9 +45,15 @@ sprachliste wettkampf2::sprache_w2() {
     texte.tipp("Das markierte Rennen wird noch einmal gefahren; seine Runden gehen verloren", Command8);
     texte.tipp("Das markierte Rennen wird gefahren, wenn alle anderen gefahren sind", Command9);
     texte.tipp("Das Rennen, das in der Liste markiert wird, ist das nächste", opt_reihenfolge);
-    texte.tipp("Die Rennen folgen von selbst aufeinander", Command4);
+    texte.text("Ist eingeschaltet: Die Rennen folgen von selbst aufeinander. Drücken schaltet aus.", wort_.ist_ein);
     texte.text("Aushang", wort_.aushang).text("Rennliste", wort_.rennliste);
-    return texte.tipp("Ohne die Liste der Rennen: so groß, dass man es von der Bahn aus liest", Command_aushang);
+    texte.tipp("Ohne die Liste der Rennen: so groß, dass man es von der Bahn aus liest", Command_aushang);
+    texte.text("Ist ausgeschaltet. Drücken schaltet ein: Die Rennen folgen dann von selbst aufeinander.",
+               wort_.ist_aus);
+    texte.tipp("Runden und Meter eines Fahrers im markierten Rennen ändern", Command13);
+    texte.tipp("Einem Fahrer einen anderen Namen geben, in allen Rennen", Command14);
+    texte.text("X = gefahren", wort_.gefahren).text("Z = zurückgestellt", wort_.zurueckgestellt);
+    return texte.text("1/4 = ein Teil von vieren gefahren", wort_.teile_gefahren);
 }
 
 }  // namespace tarvel

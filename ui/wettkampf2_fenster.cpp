@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "ui/lampenknopf.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -214,12 +215,16 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     aufbau->setSpacing(4);
     auto* kopf = new QHBoxLayout;
     kopf->addWidget(binder().label(logik_.Label_liste, "Label_liste"));
-    kopf->addStretch(1);
+    kopf->addSpacing(16);
+    QLabel* zeichen = stil::leise(binder().label(logik_.Label_zeichen, "Label_zeichen"));
+    zeichen->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // it does not widen the window
+    kopf->addWidget(zeichen, 1);
     kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
     aufbau->addLayout(kopf);
     plan_ = binder().listenfeld(logik_.List1, "List1");
     plan_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     QObject::connect(plan_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
+    plan_->installEventFilter(this);
     aufbau->addWidget(plan_, 1);
     return feld;
 }
@@ -250,7 +255,11 @@ QLayout* Wettkampf2Fenster::rennbefehle() {
     spalte->addWidget(binder().knopf(logik_.Command13, "Command13"));
     spalte->addWidget(binder().knopf(logik_.Command14, "Command14"));
     spalte->addStretch(1);
-    spalte->addWidget(binder().knopf(logik_.Command4, "Command4", "schmal"));
+    auto* automatik = new QHBoxLayout;
+    automatik->setSpacing(6);
+    automatik->addWidget(lampe(binder(), logik_.automatiklampe, "automatiklampe"));
+    automatik->addWidget(binder().knopf(logik_.Command4, "Command4", "schmal"), 1);
+    spalte->addLayout(automatik);
     return spalte;
 }
 
@@ -294,6 +303,14 @@ void Wettkampf2Fenster::aufschlagen() {
 void Wettkampf2Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     skalieren();
+}
+
+/// The list gets its width when the window is laid out, which is behind the window's own change of size.
+bool Wettkampf2Fenster::eventFilter(QObject* wer, QEvent* ereignis) {
+    if (wer == plan_ && ereignis->type() == QEvent::Resize) {
+        skalieren();
+    }
+    return Fenster::eventFilter(wer, ereignis);
 }
 
 /// Letters as large as the lanes of the evening leave room for.

@@ -17,6 +17,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
+    bool eventFilter(QObject* wer, QEvent* ereignis) override;
 
 private:
     QWidget* blickfeld();
