@@ -11,6 +11,7 @@ public:
 
     std::string kennung() const override { return "training"; }
     bool mit_spurwechsel() const override { return false; }
+    bool zur_uebung() const override { return true; }
 };
 
 }  // namespace tarvel

@@ -137,6 +137,7 @@ struct bahn1 {
         std::string vor_gruen;
         std::string runde_wartet;  ///< counts behind a penalty
         rueckstand_worte zurueck;
+        std::array<std::string, 3> training;  ///< its kinds
     };
     worte wort;  ///< of the window's language, for texts that are put together
 

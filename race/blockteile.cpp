@@ -81,7 +81,9 @@ void zeiten_reihen(const ansicht_inhalt& inhalt, const rechteck& ort, double lue
     zuschnitt reihe(ort, luecke);
     const double titel = titelplatz(ort.hoehe * 4 / 14.0, lesbar_px);
     const double links = inhalt.bestzeit ? 0.46 : 0.5;  // the best time of the lane is a long text
-    mit_titel(reihe.links((ort.breite - luecke) * links), titel, g[t::Label_lrunde], g[t::lrunde]);
+    zuschnitt neben(reihe.links((ort.breite - luecke) * links));
+    neben.unten(bestzeit_hoehe(inhalt, titel));  // both times stand in one line
+    mit_titel(neben.rest(), titel, g[t::Label_lrunde], g[t::lrunde]);
     zuschnitt rechts(reihe.rest());
     g[t::bestzeit_label].ort = rechts.unten(bestzeit_hoehe(inhalt, titel));
     mit_titel(rechts.rest(), titel, g[t::Label_brunde], g[t::brunde]);

@@ -57,10 +57,20 @@ void rennansicht::geraetealarm_setzen(const std::string& text) {
     alarm.sichtbar(!text.empty());
 }
 
+void rennansicht::ziel_zeigen() {
+    const std::string ziel = ziel_text(um_.param.renn_ziel);
+    if (um_.teil_von->zur_uebung()) {
+        const std::string& training = um_.bahn.wort.training.at(static_cast<std::size_t>(um_.einst.training_art));
+        um_.bahn.titel.text(training);
+        um_.bahn.ziel_label.text(training + " · " + ziel);
+    } else {
+        um_.bahn.ziel_label.text(ziel);
+    }
+}
+
 std::string rennansicht::ziel_text(const rennziel& ziel) const {
     if (!ziel.ist_zeit()) {
-        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende
-                                      : std::to_string(ziel.runden()) + " " + um_.txt.text_runden;
+        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende : um_.txt.runden(ziel.runden());
     }
     const bahn1& bahn = um_.bahn;
     const zeit_teile dauer = zeit_zerlegen(ziel.ms());
@@ -142,7 +152,12 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     bahn.wort.zurueck.eintragen(texte.text("Rückstand", bahn.wort.rueckstand));
     texte.text("Hinweis", bahn.wort.hinweis).text("zu kurz", bahn.wort.zu_kurz);
     texte.text("noch in der Box", bahn.wort.noch_in_der_box).text("vor Grün", bahn.wort.vor_gruen);
-    return texte.text("Runde wartet", bahn.wort.runde_wartet);
+    texte.text("Runde wartet", bahn.wort.runde_wartet);
+    constexpr std::array<const char*, 3> trainings{"normales Training", "Intervaltraining", "Dauertraining"};
+    for (std::size_t i = 0; i < trainings.size(); ++i) {
+        texte.text(trainings.at(i), bahn.wort.training.at(i));
+    }
+    return texte;
 }
 
 void rennansicht::oeffnen() {

@@ -31,7 +31,7 @@ public:
     /// The timing device is gone: says so with a sound, large, until `text` is empty.
     void geraetealarm_setzen(const std::string& text);
     std::string ziel_text(const rennziel& ziel) const;
-    void ziel_zeigen() { um_.bahn.ziel_label.text(ziel_text(um_.param.renn_ziel)); }
+    void ziel_zeigen();
     /// Counters, times and lists as before the first crossing.
     void anzeigen_leeren();
     /// The same with what the lanes have, for a race that goes on.

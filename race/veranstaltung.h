@@ -50,6 +50,8 @@ public:
     virtual void von_selbst_starten(bool /*an*/) {}
     /// Races come by themselves: no message may wait for somebody.
     virtual bool ohne_bediener() const { return false; }
+    /// Practice: the race window says so, that nobody takes it for a race.
+    virtual bool zur_uebung() const { return false; }
     /// The lane has no driver; its place only fills the race up.
     virtual bool ist_fueller(int spur) const = 0;
     /// A filler's lane is in the race all the same, when it begins or goes on.

@@ -61,6 +61,7 @@ TEST_F(Training, NormalFaehrtWasEingestelltIst) {
     begonnen(trainingsart::normal);
     EXPECT_EQ(t.p.param.renn_ziel, rennziel::zeit(90000));
     EXPECT_EQ(t.p.form1.renndauer.text(), "1,30");
+    EXPECT_EQ(t.bahn().ziel_label.text(), "normales Training · 1:30 min");
     t.bahn().Command1.klicken();
     t.maschine.laufen(91000);
     t.rennende();
@@ -84,7 +85,7 @@ TEST_F(Training, DauertrainingHatKeinEndeUndLaesstDieEingabenWieSieSind) {
         EXPECT_EQ(t.p.param.min_rundenzeit_ms, 5100);
         EXPECT_EQ(t.p.form1.rennart.text(), rennart);
         EXPECT_EQ(t.p.form1.renndauer.text(), dauer);
-        EXPECT_EQ(t.bahn().ziel_label.text(), "ohne Ende");
+        EXPECT_EQ(t.bahn().ziel_label.text(), "Dauertraining · ohne Ende");
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
         t.rennabbruch();
     }

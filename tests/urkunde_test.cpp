@@ -80,7 +80,7 @@ TEST_F(Urkundenfenster, WerOhneRundeIstBekommtNurAufWunschEine) {
     ASSERT_TRUE(offen(fenstername::urkunden));
     ASSERT_EQ(u.gewaehlte().size(), 2U);
     EXPECT_EQ(u.gewaehlte()[0].wort(w::fahrer), "Fahrer 1");
-    EXPECT_EQ(u.gewaehlte()[0].wort(w::rennen), "Rundenrennen  ·  1 Runden");
+    EXPECT_EQ(u.gewaehlte()[0].wort(w::rennen), "Rundenrennen  ·  1 Runde");
     u.Command_zurueck.klicken();
     EXPECT_EQ(u.gezeigte()->wort(w::fahrer), "Fahrer 3") << "from the first back to the last";
     EXPECT_EQ(u.fahrer.markiert(), 2);
