@@ -227,6 +227,7 @@ void auswertung::rundenliste_schreiben(const rennergebnis::spur& s) {
     for (std::size_t runde = 1; runde < s.runden.size(); ++runde) {
         liste.at(feld_index(s.nummer)).hinzufuegen(rundenzeile(s, runde));
     }
+    liste.at(feld_index(s.nummer)).tipp(s.nachgetragene() > 0 ? "+ = " + wort_.nachgetragen : std::string());
 }
 
 std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t runde) const {
@@ -251,7 +252,7 @@ std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t run
         }
     }
     if (s.runden[runde].nachgetragen) {
-        zeile += " + " + wort_.nachgetragen;
+        zeile += " +";
     } else if (!s.gemessen(runde)) {
         zeile += " (" + wort_.geteilt + ")";
     }

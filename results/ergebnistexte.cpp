@@ -63,6 +63,10 @@ std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const ruecks
         return {};
     }
     const std::string um = unterschied(ergebnis, *erster, s, wort, trennzeichen);
+    if (const zeit_ms dahinter = s.gesamtzeit - erster->gesamtzeit;
+        dahinter > 0 && um == dauer_gesagt(dahinter, trennzeichen)) {
+        return {};
+    }
     return um.empty() ? wort.gleichauf : um + " " + wort.zurueck;
 }
 

@@ -21,7 +21,7 @@ std::string beste(const spur& s, const trennzeichen_tabelle& trennzeichen);
 /// Total time behind the leader's, "- " for a lane that has the lower time in fewer laps. Empty for the leader.
 std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeichen_tabelle& trennzeichen);
 /// The same as people say it, by what the places go: laps behind in laps, and within a lap the time. Empty for the
-/// leader and for a lane that is out.
+/// leader, for a lane that is out, and where it would be `abstand` once more.
 std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const rueckstand_worte& wort,
                        const trennzeichen_tabelle& trennzeichen);
 /// Speed of the best lap and on average.

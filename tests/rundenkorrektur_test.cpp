@@ -202,8 +202,8 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
               "00:01,500");
     EXPECT_EQ(a.nachtrag.angebote.markiert(), 0);
     klick(a.nachtrag.Command_eintragen);
-    EXPECT_EQ(a.liste[0].zeilen(), (std::vector<std::string>{"1.  00:03,000", "2.  00:01,500 + nachgetragen",
-                                                             "3.  00:01,500 (Rest)", "4.  00:04,000"}));
+    EXPECT_EQ(a.liste[0].zeilen(),
+              (std::vector<std::string>{"1.  00:03,000", "2.  00:01,500 +", "3.  00:01,500 (Rest)", "4.  00:04,000"}));
     EXPECT_EQ(t.ergebnis(1).platz, 1);
     EXPECT_EQ(t.ergebnis(1).beste, 3000) << "an added crossing makes no best lap";
     EXPECT_EQ(a.ges_meter[0].text(), "100,00 m");
