@@ -287,6 +287,7 @@ private:
     std::string wort_runden_;
     std::string wort_einstellungsdatei_;
     std::string wort_bilder_;
+    std::string wort_bestzeit_;
     std::string wort_liter_;
     std::string wort_verbrauch_;
     std::string wort_standarddatei_;

@@ -40,7 +40,7 @@ sprachliste form1::sprache_m2() {
             spur[feld_index(nummer)].text(wort + " " + std::to_string(nummer));
         }
     });
-    texte.text("Spurlänge", label_spurlaenge).text("Bestzeit", Label_bestzeit).text("Bahnstrom", Label7);
+    texte.text("Spurlänge", label_spurlaenge).text("Bestzeit", wort_bestzeit_).text("Bahnstrom", Label7);
     texte.text("Einstellungsdatei: ", wort_einstellungsdatei_).text("Maßstab 1/", Label2).text("Stunden", Label8);
     texte.text("Minuten", wort_minuten_).ueberschrift("Zeit").text("Runden", wort_runden_);
     texte.text("Rundenzeiten kleiner", Label9).text("sec verwerfen", Label10).text("Tankfunktion", t_aktiv);
@@ -77,7 +77,8 @@ sprachliste form1::sprache_m2() {
     texte.text("Auswertung", Command18);
     texte.tipp("Gespeicherte Ergebnisse ansehen, sortieren, addieren, vergleichen und drucken", Command18);
     texte.text("Fortsetzen", command_fortsetzen);
-    texte.tipp("Ein Rennen weiterfahren, das unterbrochen oder abgebrochen wurde", command_fortsetzen);
+    texte.tipp("Einen Wettkampf oder ein Rennen weiterfahren, das unterbrochen oder abgebrochen wurde",
+               command_fortsetzen);
     texte.text("Training", Command11);
     texte.tipp("Fahren nach der Trainingsart, die bei den Einstellungen gewählt ist", Command11);
     texte.text("Zuletzt", command_zuletzt).tipp("Die letzten 20 Ergebnisse; wählen öffnet sie", command_zuletzt);
@@ -96,9 +97,15 @@ sprachliste form1::sprache_m2() {
         "5,1 Sekunden.",
         wertmin);
     texte.text("Zeitrennen", wort_zeitrennen_).text("Rundenrennen", wort_rundenrennen_).text("Sieger:", wort_sieger_);
-    return texte.text("In Führung:", wort_fuehrung_)
-        .text("Runde", wort_runde_)
-        .text("automatisch gesichert", wort_automatisch_);
+    texte.text("In Führung:", wort_fuehrung_).text("Runde", wort_runde_);
+    texte.text("automatisch gesichert", wort_automatisch_);
+    texte.text("der Spur", [this](const std::string& wort) { Label_bestzeit.text(wort_bestzeit_ + " " + wort); });
+    texte.tipp("Die schnellste Runde, die auf dieser Spur je gefahren wurde; wer es war, steht am Mauszeiger",
+               Label_bestzeit);
+    return texte.tipp(
+        "Der Verbrauch gilt für eine Runde in der Durchschnittszeit der Einstellungen. Schneller kostet mehr: in der "
+        "halben Zeit gut das Doppelte, und so viel kostet auch die erste Überfahrt nach dem Start.",
+        tank_label);
 }
 
 void form1::ansagen_setzen() {
