@@ -86,6 +86,14 @@ void bestzeiten::setzen(int zeile, int spur, const bestzeit& neu) {
     gesamt_bilden();
 }
 
+void bestzeiten::streichen(int zeile, int spur) {
+    rangliste& rang = spuren_[spur];
+    const auto weg = rang.begin() + static_cast<std::ptrdiff_t>(platz(zeile));
+    std::move(weg + 1, rang.end(), weg);
+    rang.back() = {};
+    gesamt_bilden();
+}
+
 void bestzeiten::sortieren() {
     for (rangliste& rang : spuren_) {
         std::stable_sort(rang.begin(), rang.end(), [](const bestzeit& a, const bestzeit& b) { return a.ms < b.ms; });

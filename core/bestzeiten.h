@@ -59,6 +59,8 @@ public:
     /// The new time goes on top of the lane, the tenth drops out. A time that is none changes nothing.
     void einfuegen(int spur, bestzeit neu);
     void setzen(int zeile, int spur, const bestzeit& neu);
+    /// Takes it out; those behind it move up.
+    void streichen(int zeile, int spur);
     /// The fastest first, the empty ones last.
     void sortieren();
     void leeren() { *this = {}; }

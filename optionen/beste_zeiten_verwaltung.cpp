@@ -92,7 +92,11 @@ sprachliste beste_zeiten_verwaltung::sprache_bt() {
     texte.text("Bitte Dateinamen eingeben.", wort_.name_fehlt);
     texte.text("Der Dateiname enthält ein unzulässiges Zeichen.", wort_.zeichen).text("Die Datei", wort_.die_datei);
     texte.text("ist bereits vorhanden.", wort_.schon_da);
-    return texte.text("Die Änderungen verwerfen und das Fenster schließen?", wort_.verwerfen);
+    texte.text("Die Änderungen verwerfen und das Fenster schließen?", wort_.verwerfen);
+    texte.text("Diese Bestzeit aus der Liste löschen?", wort_.eintrag_loeschen);
+    texte.tipp("Die Felder in die markierte Zeile schreiben", Command34);
+    texte.tipp("Die markierte Bestzeit aus der Liste löschen", Command29);
+    return texte.tipp("Alle Bestzeiten aller Spuren löschen", Command35);
 }
 
 void beste_zeiten_verwaltung::laden() {
@@ -221,8 +225,14 @@ void beste_zeiten_verwaltung::eintrag_loeschen() {
         melden(wort_.nichts_gewaehlt);
         return;
     }
-    kopie_.setzen(bestefile_list.at(feld_index(spur_)).markiert() + 1, spur_, {});
-    geaendert();
+    const int zeile = bestefile_list.at(feld_index(spur_)).markiert() + 1;
+    const bestzeit& weg = kopie_.eintrag(zeile, spur_);
+    if (weg.leer() ||
+        um_.meldungen.fragen(wort_.eintrag_loeschen + "\n\n" + zeit_text(weg.ms) + "  " + weg.name + "  " + weg.datum,
+                             Command29.text())) {
+        kopie_.streichen(zeile, spur_);
+        geaendert();
+    }
 }
 
 void beste_zeiten_verwaltung::alle_loeschen() {

@@ -74,6 +74,7 @@ private:
         std::string zeit_unlesbar;
         std::string nichts_gewaehlt;
         std::string wirklich_loeschen;
+        std::string eintrag_loeschen;
         std::string name_fehlt;
         std::string zeichen;
         std::string die_datei;

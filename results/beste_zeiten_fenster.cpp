@@ -99,7 +99,9 @@ sprachliste beste_zeiten_fenster::sprache_best() {
     texte.text("Spur", wort_spur_).text("Fahrer", Label_kopf[0]).text("Fahrzeug", Label_kopf[1]);
     texte.text("Rundenzeit", Label_kopf[2]).text("Bisher", Label_kopf[3]);
     texte.text("speichern", Command1).text("Abbrechen", wort_abbrechen_);
-    return texte.text("Eingangswerte", Command3);
+    texte.text("Eingangswerte", Command3);
+    return texte.text("Grün heißt: der Kreis mit dem Haken, ganz rechts. Der Rahmen hat die Farbe der Spur.",
+                      Label_gruen);
 }
 
 void beste_zeiten_fenster::laden() {

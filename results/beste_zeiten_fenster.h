@@ -52,6 +52,7 @@ public:
     beste_zeiten_fenster(umgebung um, plattform::zeitgeber_dienst& zeitgeber);
 
     bezeichnung Label1;                     ///< what to do
+    bezeichnung Label_gruen;                ///< what is green then
     std::array<bezeichnung, 4> Label_kopf;  ///< captions of the columns: driver, vehicle, lap, stored best
     std::array<rahmen, spuren_max> Frame;   ///< all of a lane, in its colour
     std::array<haken, spuren_max> spur_chk;

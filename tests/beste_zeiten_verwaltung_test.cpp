@@ -55,8 +55,13 @@ TEST_F(BesteZeitenVerwaltung, KorrekturenGeltenSortiertNachDemSchliessen) {
     EXPECT_EQ(spur(2).markiert(), -1) << "one line of all";
     EXPECT_EQ(aendern("0:59,999"), meldungen{});
     spur(2).auswaehlen(0);
+    const auto vorher = spur(2).zeilen();
     v.Command29.klicken();
-    EXPECT_EQ(spur(2).zeilen()[0], "–");
+    EXPECT_EQ(spur(2).zeilen(), vorher) << "it asks first";
+    t.maschine.antwort = true;
+    v.Command29.klicken();
+    t.maschine.antwort = false;
+    EXPECT_EQ(spur(2).zeilen()[0], vorher[1]) << "no hole";
     EXPECT_EQ(t.p.bestzeiten.beste(2), 8000) << "not yet";
 
     v.Command1.klicken();

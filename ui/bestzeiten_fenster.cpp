@@ -67,6 +67,9 @@ BestzeitenFenster::BestzeitenFenster(beste_zeiten_fenster& logik, Fensterverwalt
     QLabel* hinweis = binder().label(logik.Label1, "Label1");
     hinweis->setWordWrap(true);
     aufbau->addWidget(hinweis);
+    QLabel* gruen = stil::leise(binder().label(logik.Label_gruen, "Label_gruen"));
+    gruen->setWordWrap(true);
+    aufbau->addWidget(gruen);
     aufbau->addWidget(kopfzeile());
     for (const int spur : alle_spuren) {
         aufbau->addWidget(spurblock(spur));
