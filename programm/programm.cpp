@@ -163,7 +163,17 @@ void programm::protokoll_verbinden() {
     auswertung.hergang_in_worten = [this] { return protokollfenster.in_worten(); };
     rennen.bahn1.Command_protokoll.bei_klick = dieses;
     auswertung.Command_protokoll.bei_klick = dieses;
-    w_auswertung2.Command_protokoll.bei_klick = [this] { protokollfenster.auswahl_zeigen(); };
+    w_auswertung2.Command_protokoll.bei_klick = [this] { protokoll_zum_ergebnis_zeigen(); };
+}
+
+/// The one whose result is shown, if there is one; a table of many races has none of its own.
+void programm::protokoll_zum_ergebnis_zeigen() {
+    const auto gezeigtes = w_auswertung2.gezeigtes_rennen();
+    const auto protokoll = gezeigtes ? protokoll_zu_ergebnis(ablage, *gezeigtes) : std::nullopt;
+    if (gezeigtes && !protokoll) {
+        dienste.meldungen.zeigen(protokollfenster.ohne_protokoll(), txt.titel[0]);
+    }
+    protokollfenster.auswahl_zeigen(protokoll.value_or(""));
 }
 
 bool programm::messgeraet_da() const {

@@ -184,6 +184,7 @@ private:
     /// No race runs, and none is being prepared.
     bool ruhe_fuer_wiedergabe() const;
     void protokoll_verbinden();
+    void protokoll_zum_ergebnis_zeigen();
     void bahnstrom_von_hand(bool an) override;
     bool messgeraet_da() const override;
     void fahrerverwaltung_oeffnen() override;

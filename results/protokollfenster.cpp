@@ -160,10 +160,21 @@ void protokollfenster::zeigen(const std::string& datei) {
     datei_lesen(name);
 }
 
-void protokollfenster::auswahl_zeigen() {
+void protokollfenster::auswahl_zeigen(std::string_view zuerst) {
     oeffnen(anzeige_art::modal);
     Frame_dateien.sichtbar(true);
     dateien_auflisten();
+    const auto eines = std::find_if(namen_.begin(), namen_.end(), [&](const std::string& name) {
+        return zuerst == std::string(protokoll_ordner) + "\\" + name;
+    });
+    if (eines != namen_.end() && eines != namen_.begin()) {
+        List_dateien.auswaehlen(static_cast<int>(eines - namen_.begin()));
+    }
+}
+
+const std::string& protokollfenster::ohne_protokoll() {
+    texte_lesen();
+    return wort_.kein_protokoll;
 }
 
 void protokollfenster::dateien_auflisten() {

@@ -72,8 +72,10 @@ public:
     /// Opens the window on one log, by its name below the program folder. In a pause the race goes before it: the
     /// window is not modal, and closes with the pause.
     void zeigen(const std::string& datei);
-    /// Opens it with all logs to choose from.
-    void auswahl_zeigen();
+    /// Opens it with all logs to choose from, at first on the named one or the newest.
+    void auswahl_zeigen(std::string_view zuerst = {});
+    /// What is said of a result that no log is left of.
+    const std::string& ohne_protokoll();
 
     void laden() override;
     void entladen() override;

@@ -330,6 +330,11 @@ std::string w_auswertung2::kopf() const {
     return wort_.rennen + " " + rennen_->datum + " " + rennen_->uhrzeit + "  ·  " + wort_.wertung.at(wertung);
 }
 
+std::optional<std::string> w_auswertung2::gezeigtes_rennen() const {
+    const bool eines = tabelle_ && tabelle_->typ == ergebnis_typ::einzelrennen && dateien_.size() == 1;
+    return eines ? std::optional(dateien_.front()) : std::nullopt;
+}
+
 std::string w_auswertung2::blatt_datei() const {
     if (dateien_.empty()) {
         return std::string(wurzel) + "\\" + wort_.titel;

@@ -92,6 +92,8 @@ public:
 
     /// Opens the window on a file below the program folder; an empty path opens it alone.
     void datei_zeigen(const std::string& pfad);
+    /// The file whose one race is shown, below the program folder; none for a table of many races.
+    std::optional<std::string> gezeigtes_rennen() const;
 
     /// Of a file of one race, what people know as its result: the sheet.
     void blatt_zeigen();
@@ -135,7 +137,7 @@ private:
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
         std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
         std::string keine_tabelle, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
-        std::string debug_auf, debug_zu, alle_plaetze, automatisch;
+        std::string debug_auf, debug_zu, alle_plaetze, automatisch, ohne_klasse;
         std::array<std::string, 3> wertung;
         std::array<std::array<std::string, 2>, 3> details;  ///< in, out
         std::array<std::string, 5> art;                     ///< by the kind of file
@@ -213,8 +215,9 @@ private:
     std::optional<rennergebnis> rennen_;
     bool nur_auswahl_ = false;  ///< is to be saved
     tabellenverlauf korrekturen_;
-    bool klassen_vereint_ = false;  ///< drivers were added up whatever their class
-    bool sortiert_ = false;         ///< the places are those of the last sorting
+    std::array<std::string, klassen_max> klassen_;  ///< of the boxes, as the file has them
+    bool klassen_vereint_ = false;                  ///< drivers were added up whatever their class
+    bool sortiert_ = false;                         ///< the places are those of the last sorting
 };
 
 }  // namespace tarvel

@@ -11,6 +11,7 @@ namespace tarvel {
 namespace {
 
 constexpr int neuer_name_laenge_max = 100;
+constexpr std::string_view keine_klasse = "0";  // as the file has it
 
 }  // namespace
 
@@ -70,20 +71,25 @@ sortier_modus w_auswertung2::sortieren_nach() const {
 /// New classes are shown; those that were left out stay out.
 void w_auswertung2::klassen_zeigen() {
     const std::set<std::string> ohne = ausgelassene_klassen();
-    const std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
+    std::vector<std::string> klassen = tabelle_ ? klassen_von(*tabelle_) : std::vector<std::string>{};
+    if (klassen == std::vector{std::string(keine_klasse)}) {
+        klassen.clear();  // nobody has one: nothing to choose
+    }
     for (std::size_t i = 0; i < klassen_max; ++i) {
         haken& kasten = Check1.at(i);
+        std::string& klasse = klassen_.at(i);
+        klasse = i < klassen.size() ? klassen[i] : std::string();
         kasten.sichtbar(i < klassen.size());
-        kasten.text(i < klassen.size() ? klassen[i] : std::string());
-        kasten.gesetzt(i < klassen.size() && !ohne.contains(klassen[i]));
+        kasten.text(klasse == keine_klasse ? wort_.ohne_klasse : klasse);
+        kasten.gesetzt(i < klassen.size() && !ohne.contains(klasse));
     }
 }
 
 std::set<std::string> w_auswertung2::ausgelassene_klassen() const {
     std::set<std::string> ohne;
-    for (const haken& kasten : Check1) {
-        if (kasten.sichtbar() && !kasten.gesetzt() && !kasten.text().empty()) {
-            ohne.insert(kasten.text());
+    for (std::size_t i = 0; i < klassen_max; ++i) {
+        if (Check1.at(i).sichtbar() && !Check1.at(i).gesetzt() && !klassen_.at(i).empty()) {
+            ohne.insert(klassen_.at(i));
         }
     }
     return ohne;
@@ -173,8 +179,8 @@ std::string w_auswertung2::namensvorschlag() const {
         return name;
     }
     std::string klassen = "-";
-    for (const haken& kasten : Check1) {
-        klassen += details_.ohne_klassen.contains(kasten.text()) ? std::string() : kasten.text();
+    for (const std::string& klasse : klassen_) {
+        klassen += details_.ohne_klassen.contains(klasse) ? std::string() : klasse;
     }
     return name.insert(name.size() - (endet_auf(name, ".csv") ? 4 : 0), als_dateiname(klassen));
 }
@@ -257,6 +263,7 @@ void w_auswertung2::speichern() {
     const auto& namen = File1.zeilen();
     File1.markieren(static_cast<int>(std::find(namen.begin(), namen.end(), name) - namen.begin()));
     speichern_schliessen();
+    um_.welt.meldungen.mitteilen(um_.welt.txt.gespeichert + " " + pfad);
 }
 
 void w_auswertung2::debug_umschalten() {

@@ -217,6 +217,19 @@ TEST_F(Wiedergabe, BeschaedigtesLaeuftSoWeitEsGutIstUndFremdesGarNicht) {
     }
 }
 
+TEST_F(Wiedergabe, ZumGezeigtenErgebnisOeffnetSichSeinProtokollUndNichtDasNeueste) {
+    fahren();
+    ergebnis_verlassen();
+    t.maschine.datum_stellen({2026, 11, 22, 10, 0, 0});
+    fahren();
+    ergebnis_verlassen();
+    const auto dateien = t.p.ablage.auflisten("Ergebnisse\\auto-Einzelrennen", "", "");
+    ASSERT_EQ(dateien.size(), 2U);
+    t.p.w_auswertung2.datei_zeigen("Ergebnisse\\auto-Einzelrennen\\" + dateien.front());
+    t.p.w_auswertung2.Command_protokoll.klicken();
+    EXPECT_EQ(t.p.protokollfenster.List_dateien.markiert(), 1);
+}
+
 TEST_F(Wiedergabe, EinErgebnisRechnetSichAusSeinemProtokollNach) {
     const std::string name = fahren();
     ergebnis_verlassen();
