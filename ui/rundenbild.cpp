@@ -31,12 +31,19 @@ QPen stift(const QColor& farbe, double breite) {
 }  // namespace
 
 Rundenbild::Rundenbild() : symbole_(new Rundensymbole(*this)), legende_(new Rundenlegende(this)) {
-    setBackgroundBrush(stil::karte);
+    setBackgroundBrush(auf_.grund);
     setBackgroundPen(Qt::NoPen);
     setBackgroundRoundness(8);
     layout()->setContentsMargins(0, 0, 0, 0);
     legend()->hide();
     setLocalizeNumbers(true);
+}
+
+void Rundenbild::setFarben(const diagrammfarben& farben) {
+    auf_ = farben;
+    setBackgroundBrush(auf_.grund);
+    symbole_->setFarben(auf_);
+    legende_->setFarben(auf_);
 }
 
 void Rundenbild::setInhalt(rundenbild_inhalt inhalt) {
@@ -88,10 +95,10 @@ void Rundenbild::achsen_bauen() {
     for (QValueAxis* achse : {x_, y_}) {
         achse->setTickType(QValueAxis::TicksDynamic);
         achse->setTickAnchor(0);
-        achse->setLabelsColor(stil::schrift);
-        achse->setTitleBrush(stil::schrift_leise);
-        achse->setLinePenColor(stil::schrift_leise);
-        achse->setGridLineColor(QColor(228, 231, 236));
+        achse->setLabelsColor(auf_.schrift);
+        achse->setTitleBrush(auf_.leise);
+        achse->setLinePenColor(auf_.leise);
+        achse->setGridLineColor(auf_.gitter);
     }
     addAxis(x_, Qt::AlignBottom);
     addAxis(y_, Qt::AlignLeft);
@@ -127,8 +134,8 @@ void Rundenbild::spur_bauen(const spur_verlauf& lauf, std::vector<rundensymbol>&
         return reihe;
     };
     const double breite = dicht ? 1.4 : 2.6;
-    if (zu_hell(farbe)) {
-        linie(stift(randfarbe(farbe), breite + (dicht ? 1.2 : 2)));
+    if (const auto rand = rand_auf(auf_.grund, farbe)) {
+        linie(stift(*rand, breite + (dicht ? 1.2 : 2)));
     }
     bezug_ = linie(stift(farbe, breite));
 
@@ -179,7 +186,7 @@ void Rundenbild::legende_bauen(const std::vector<rundensymbol>& symbole) {
          {symbolform::lang, inhalt_.wort.lang}}};
     for (const auto& [was, wort] : zeichen) {
         if (std::any_of(symbole.begin(), symbole.end(), [f = was](const rundensymbol& s) { return s.was == f; })) {
-            eintraege.push_back({QString::fromStdString(wort), {}, stil::schrift_leise, was});
+            eintraege.push_back({QString::fromStdString(wort), {}, auf_.leise, was});
         }
     }
     legende_->setEintraege(std::move(eintraege));

@@ -27,6 +27,8 @@ public:
     Rundenbild();
 
     void setInhalt(rundenbild_inhalt inhalt);
+    /// Before the content is set; at first it is as on paper.
+    void setFarben(const diagrammfarben& farben);
     const rundenbild_inhalt& inhalt() const { return inhalt_; }
     /// Size in pixels of the chart; its font goes by it, up to the given number of pixels.
     void setGroesse(const QSizeF& groesse, double schrift_max = 26);
@@ -46,6 +48,7 @@ private:
     QColor spurfarbe(int spur) const;
 
     rundenbild_inhalt inhalt_;
+    diagrammfarben auf_ = diagrammfarben_von(true);
     Rundensymbole* symbole_;  ///< belongs to the chart, as do the others
     Rundenlegende* legende_;
     QValueAxis* x_ = nullptr;  ///< null while there is nothing to show

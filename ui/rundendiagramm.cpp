@@ -4,8 +4,6 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-#include "ui/stil.h"
-
 namespace tarvel::ui {
 
 // the view takes it along: one made without a chart makes its own, which setChart() would leave behind
@@ -20,9 +18,18 @@ Rundendiagramm::Rundendiagramm(Rundenbild* bild, QWidget* eltern) : QChartView(b
 }
 
 void Rundendiagramm::setInhalt(rundenbild_inhalt inhalt) {
+    bild_->setFarben(diagrammfarben_von(false));
     bild_->setInhalt(std::move(inhalt));
     setAccessibleName(QString::fromStdString(bild_->inhalt().wort.achse_zeit));
     setAccessibleDescription(bild_->beschreibung());
+}
+
+void Rundendiagramm::changeEvent(QEvent* ereignis) {
+    QChartView::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::PaletteChange && bild_ != nullptr) {
+        bild_->setFarben(diagrammfarben_von(false));
+        bild_->setInhalt(rundenbild_inhalt(bild_->inhalt()));
+    }
 }
 
 void Rundendiagramm::resizeEvent(QResizeEvent* ereignis) {

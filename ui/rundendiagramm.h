@@ -20,11 +20,12 @@ public:
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
     bool viewportEvent(QEvent* ereignis) override;
+    void changeEvent(QEvent* ereignis) override;
 
 private:
     Rundendiagramm(Rundenbild* bild, QWidget* eltern);
 
-    Rundenbild* bild_;  ///< belongs to the view
+    Rundenbild* bild_ = nullptr;  ///< belongs to the view
 };
 
 }  // namespace tarvel::ui

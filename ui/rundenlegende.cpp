@@ -4,8 +4,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "ui/stil.h"
-
 namespace tarvel::ui {
 namespace {
 
@@ -68,17 +66,17 @@ void Rundenlegende::paint(QPainter* maler, const QStyleOptionGraphicsItem* /*opt
         const QColor& farbe = eintraege_[i].farbe;
         const QPointF mitte(feld.left() + hoehe * zeichenbreite / 2.4, feld.center().y());
         if (eintraege_[i].symbol) {
-            symbol_zeichnen(*maler, *eintraege_[i].symbol, mitte, schrift_.pixelSize() * 0.42, farbe);
+            symbol_zeichnen(*maler, {*eintraege_[i].symbol, mitte, schrift_.pixelSize() * 0.42}, farbe, farben_);
         } else {
             const QPointF halb(hoehe * 0.5, 0);
-            if (zu_hell(farbe)) {
-                maler->setPen(QPen(randfarbe(farbe), hoehe * 0.32, Qt::SolidLine, Qt::RoundCap));
+            if (const auto rand = rand_auf(farben_.grund, farbe)) {
+                maler->setPen(QPen(*rand, hoehe * 0.32, Qt::SolidLine, Qt::RoundCap));
                 maler->drawLine(mitte - halb, mitte + halb);
             }
             maler->setPen(QPen(farbe, hoehe * 0.2, Qt::SolidLine, Qt::RoundCap));
             maler->drawLine(mitte - halb, mitte + halb);
         }
-        maler->setPen(stil::schrift);
+        maler->setPen(farben_.schrift);
         maler->drawText(feld.adjusted(hoehe * zeichenbreite, 0, hoehe, 0), Qt::AlignLeft | Qt::AlignVCenter,
                         plaetze_[i].text);
     }

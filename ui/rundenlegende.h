@@ -23,6 +23,7 @@ class Rundenlegende final : public QGraphicsItem {
 public:
     explicit Rundenlegende(QGraphicsItem* eltern) : QGraphicsItem(eltern) {}
 
+    void setFarben(const diagrammfarben& farben) { farben_ = farben; }
     void setEintraege(std::vector<legendeneintrag> eintraege);
     /// Lays the entries out; afterwards `hoehe` holds.
     void ordnen(double breite, const QFont& schrift);
@@ -40,6 +41,7 @@ private:
     std::vector<legendeneintrag> eintraege_;
     std::vector<platz> plaetze_;  ///< of the entries, in their order
     QFont schrift_;
+    diagrammfarben farben_ = diagrammfarben_von(true);
     double breite_ = 0;
     double hoehe_ = 0;
 };

@@ -11,30 +11,51 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int ebene = 20;           // over lines and axes
-constexpr double kontrast_min = 2;  // against white
+constexpr double kontrast_min = 2;  // against the ground
 
 /// Share of a colour's part in its brightness, which grows faster than its number.
 double anteil(double teil) {
     return std::pow(teil, 2.2);
 }
 
+double helligkeit(const QColor& farbe) {
+    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
+}
+
+double kontrast(const QColor& a, const QColor& b) {
+    const auto [dunkler, heller] = std::minmax(helligkeit(a), helligkeit(b));
+    return (heller + 0.05) / (dunkler + 0.05);
+}
+
 }  // namespace
 
+diagrammfarben diagrammfarben_von(bool papier) {
+    const stil::farbsatz& f = papier ? stil::auf_papier() : stil::auf_dem_schirm();
+    const bool hell = &f == &stil::auf_papier();
+    return {f.karte, f.schrift, f.schrift_leise, hell ? QColor(228, 231, 236) : f.linie};
+}
+
 bool zu_hell(const QColor& farbe) {
-    const double helligkeit =
-        0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
-    return 1.05 / (helligkeit + 0.05) < kontrast_min;
+    return kontrast(Qt::white, farbe) < kontrast_min;
 }
 
 QColor randfarbe(const QColor& farbe) {
     return farbe.darker(220);
 }
 
-void symbol_zeichnen(QPainter& maler, symbolform was, const QPointF& mitte, double radius, const QColor& farbe) {
-    const QColor rand = zu_hell(farbe) ? randfarbe(farbe) : farbe;
+std::optional<QColor> rand_auf(const QColor& grund, const QColor& farbe) {
+    if (kontrast(grund, farbe) >= kontrast_min) {
+        return std::nullopt;
+    }
+    return helligkeit(grund) > helligkeit(Qt::gray) ? randfarbe(farbe) : QColor(Qt::lightGray);
+}
+
+void symbol_zeichnen(QPainter& maler, const symbolmass& symbol, const QColor& farbe, const diagrammfarben& auf) {
+    const auto& [was, mitte, radius] = symbol;
+    const QColor rand = rand_auf(auf.grund, farbe).value_or(farbe);
     const QPointF rechts(radius, 0);
     const QPointF unten(0, radius);
-    maler.setPen(QPen(stil::schrift, radius / 5));
+    maler.setPen(QPen(auf.schrift, radius / 5));
     maler.setBrush(farbe);
     switch (was) {
         case symbolform::punkt:
@@ -43,7 +64,7 @@ void symbol_zeichnen(QPainter& maler, symbolform was, const QPointF& mitte, doub
             break;
         case symbolform::pause:
             maler.setPen(QPen(rand, radius / 3));
-            maler.setBrush(stil::karte);
+            maler.setBrush(auf.grund);
             maler.drawPolygon(QPolygonF({mitte - unten, mitte + rechts, mitte + unten, mitte - rechts}));
             break;
         case symbolform::nachgetragen:
@@ -76,6 +97,11 @@ void Rundensymbole::setHinweis(const QString& hinweis) {
     update();
 }
 
+void Rundensymbole::setFarben(const diagrammfarben& farben) {
+    farben_ = farben;
+    update();
+}
+
 void Rundensymbole::setSchrift(const QFont& schrift) {
     schrift_ = schrift;
     update();
@@ -101,13 +127,13 @@ void Rundensymbole::paint(QPainter* maler, const QStyleOptionGraphicsItem* /*opt
         QFont gross = schrift_;
         gross.setPixelSize(gross.pixelSize() * 3 / 2);
         maler->setFont(gross);
-        maler->setPen(stil::schrift_leise);
+        maler->setPen(farben_.leise);
         maler->drawText(bild_.rect(), Qt::AlignCenter | Qt::TextWordWrap, hinweis_);
     }
     maler->setFont(schrift_);
     std::vector<QRectF> belegt;
     for (const rundensymbol& symbol : symbole_) {
-        symbol_zeichnen(*maler, symbol.was, stelle(symbol), radius(symbol.was), symbol.farbe);
+        symbol_zeichnen(*maler, {symbol.was, stelle(symbol), radius(symbol.was)}, symbol.farbe, farben_);
         if (symbol.was != symbolform::punkt) {
             const QPointF ecke(radius(symbol.was), radius(symbol.was));
             belegt.emplace_back(stelle(symbol) - ecke, stelle(symbol) + ecke);
@@ -141,13 +167,15 @@ void Rundensymbole::text_setzen(QPainter& maler, const rundensymbol& symbol, std
                 std::any_of(belegt.begin(), belegt.end(), [&](const QRectF& da) { return da.intersects(feld); })) {
                 continue;
             }
-            maler.setPen(QPen(zu_hell(symbol.farbe) ? randfarbe(symbol.farbe) : symbol.farbe, 1.5));
+            maler.setPen(QPen(rand_auf(farben_.grund, symbol.farbe).value_or(symbol.farbe), 1.5));
             if (ring > 0) {
                 maler.drawLine(mitte, feld.center());
             }
-            maler.setBrush(QColor(255, 255, 255, 225));
+            QColor schleier = farben_.grund;
+            schleier.setAlpha(225);
+            maler.setBrush(schleier);
             maler.drawRoundedRect(feld, feld.height() / 4, feld.height() / 4);
-            maler.setPen(stil::schrift);
+            maler.setPen(farben_.schrift);
             maler.drawText(feld, Qt::AlignCenter, symbol.text);
             belegt.push_back(feld);
             return;

@@ -3,9 +3,17 @@
 #include <QGraphicsItem>
 #include <QtCharts/QAbstractSeries>
 #include <QtCharts/QChart>
+#include <optional>
 #include <vector>
 
 namespace tarvel::ui {
+
+/// The ground of a chart and what is written on it.
+struct diagrammfarben {
+    QColor grund, schrift, leise, gitter;
+};
+/// Of paper, or of the windows as they are now.
+diagrammfarben diagrammfarben_von(bool papier);
 
 /// In the order in which they are drawn: a best lap with a pause shows both.
 enum class symbolform { punkt, lang, nachgetragen, beste, pause };
@@ -29,6 +37,7 @@ public:
     /// Stands in the middle, in place of lines.
     void setHinweis(const QString& hinweis);
     void setSchrift(const QFont& schrift);
+    void setFarben(const diagrammfarben& farben);
 
     QRectF boundingRect() const override;
     void paint(QPainter* maler, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
@@ -44,13 +53,21 @@ private:
     std::vector<rundensymbol> symbole_;
     QString hinweis_;
     QFont schrift_;
+    diagrammfarben farben_ = diagrammfarben_von(true);
 };
 
 /// A lane's colour needs an edge to be seen on white.
 bool zu_hell(const QColor& farbe);
 /// That edge.
 QColor randfarbe(const QColor& farbe);
-/// One symbol, `radius` is half its width.
-void symbol_zeichnen(QPainter& maler, symbolform was, const QPointF& mitte, double radius, const QColor& farbe);
+/// The edge with which a lane's colour is seen on that ground; none if it needs none.
+std::optional<QColor> rand_auf(const QColor& grund, const QColor& farbe);
+/// A symbol of a chart: `radius` is half its width.
+struct symbolmass {
+    symbolform was;
+    QPointF mitte;
+    double radius;
+};
+void symbol_zeichnen(QPainter& maler, const symbolmass& symbol, const QColor& farbe, const diagrammfarben& auf);
 
 }  // namespace tarvel::ui

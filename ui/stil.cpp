@@ -180,6 +180,10 @@ const farbsatz& auf_dem_schirm() {
                                                                                           : helle_farben;
 }
 
+const farbsatz& auf_papier() {
+    return helle_farben;
+}
+
 QLabel* leise(QLabel* label) {
     label->setProperty("rolle", "leise");
     return label;

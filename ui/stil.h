@@ -36,6 +36,7 @@ struct farbsatz {
     QColor sieger_rand;
 };
 const farbsatz& auf_dem_schirm();
+const farbsatz& auf_papier();
 
 void anwenden(QApplication& anwendung);
 /// All windows anew in these colours.
