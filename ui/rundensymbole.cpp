@@ -23,7 +23,7 @@ double helligkeit(const QColor& farbe) {
 }
 
 double kontrast(const QColor& a, const QColor& b) {
-    const auto [dunkler, heller] = std::minmax(helligkeit(a), helligkeit(b));
+    const auto [dunkler, heller] = std::minmax({helligkeit(a), helligkeit(b)});  // by value
     return (heller + 0.05) / (dunkler + 0.05);
 }
 
