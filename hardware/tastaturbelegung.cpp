@@ -1,6 +1,7 @@
 #include "hardware/tastaturbelegung.h"
 
 #include <map>
+#include <optional>
 
 #include "core/spuren.h"
 #include "core/text.h"
@@ -23,8 +24,9 @@ int feldcode(const std::string& zeichen) {
 
 tastaturbelegung::tastaturbelegung(umgebung um)
     : fensterlogik(um.fenster, um.ablage, fenstername::Tastaturbelegung), um_(um) {
-    for (feld& zeichen : taste) {
-        zeichen.laenge_max(1);
+    for (std::size_t nummer = 0; nummer < taste.size(); ++nummer) {
+        taste.at(nummer).laenge_max(1);
+        taste.at(nummer).bei_aenderung = [this, nummer] { getippt(nummer); };
     }
     Command1.bei_klick = [this] { uebernehmen(); };
     Command2.bei_klick = [this] { um_.fenster.entladen(fenstername::Tastaturbelegung); };
@@ -36,6 +38,7 @@ tastaturbelegung::tastaturbelegung(umgebung um)
     Command3.bei_klick = [vorbelegen] { vorbelegen(belegung_stufe::standard); };
     Command4.bei_klick = [vorbelegen] { vorbelegen(belegung_stufe::alle); };
     Command5.bei_klick = [this] {
+        hinweis.text(wort_hinweis_);
         for (feld& zeichen : taste) {
             zeichen.text("");
         }
@@ -53,7 +56,10 @@ sprachliste tastaturbelegung::sprache_e_tast() {
     texte.ueberschrift("Tastaturbelegung").text("Tastaturbelegung", titel);
     texte.text(
         "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld hat keine Taste.",
-        hinweis);
+        [this](const std::string& neu) {
+            wort_hinweis_ = neu;
+            hinweis.text(neu);
+        });
     for (const int spur : alle_spuren) {
         std::string rahmentext = "Spur " + std::to_string(spur);
         rahmentext += "/Auto " + std::to_string(spur);
@@ -83,6 +89,8 @@ void tastaturbelegung::zeile_benennen(std::string_view name, const std::string& 
 }
 
 void tastaturbelegung::anzeigen(const tastenbelegung& belegung) {
+    getippt_.fill(0);
+    hinweis.text(wort_hinweis_);
     for (const tastenzeile& zeile : tastenzeilen()) {
         const int code = belegung.taste(zeile.zeile);
         taste.at(static_cast<std::size_t>(zeile.zeile))
@@ -90,20 +98,42 @@ void tastaturbelegung::anzeigen(const tastenbelegung& belegung) {
     }
 }
 
-bool tastaturbelegung::pruefen() {
-    std::map<int, const feld*> vergeben;
+std::optional<tastaturbelegung::fehler> tastaturbelegung::fehler_suchen() const {
+    std::map<int, std::size_t> vergeben;
     for (const tastenzeile& zeile : tastenzeilen()) {
-        feld& zeichen = taste.at(static_cast<std::size_t>(zeile.zeile));
-        const int code = feldcode(zeichen.text());
-        const auto [erstes, neu] = vergeben.try_emplace(code, &zeichen);
-        if (code == 0 || (code != tastenbelegung::keine_taste && !neu)) {
-            hinweis.text(zeichen.text() + " – " + (neu ? "" : erstes->second->ansage() + ", ") + zeichen.ansage());
-            um_.meldungen.zeigen(code == 0 ? ungueltig_text_ : doppelt_text_, um_.txt.titel[1]);
-            zeichen.fokus_setzen();
-            return false;
+        const auto nummer = static_cast<std::size_t>(zeile.zeile);
+        const int code = feldcode(taste.at(nummer).text());
+        const auto [erstes, neu] = vergeben.try_emplace(code, nummer);
+        if (code == 0) {
+            return fehler{0, nummer};
+        }
+        if (code != tastenbelegung::keine_taste && !neu) {
+            return fehler{erstes->second, nummer};
         }
     }
-    return true;
+    return std::nullopt;
+}
+
+void tastaturbelegung::getippt(std::size_t nummer) {
+    getippt_.at(nummer) = ++anschlaege_;
+    if (hinweis.text() != wort_hinweis_ && !fehler_suchen()) {
+        hinweis.text(wort_hinweis_);
+    }
+}
+
+bool tastaturbelegung::pruefen() {
+    const std::optional<fehler> falsch = fehler_suchen();
+    if (!falsch) {
+        return true;
+    }
+    const feld& eines = taste.at(falsch->nummer);
+    const bool doppelt = falsch->erste > 0;
+    hinweis.text(eines.text() + " – " + (doppelt ? taste.at(falsch->erste).ansage() + ", " : "") + eines.ansage());
+    um_.meldungen.zeigen(doppelt ? doppelt_text_ : ungueltig_text_, um_.txt.titel[1]);
+    // the one that was typed last is the one that was meant to change
+    const bool das_erste = doppelt && getippt_.at(falsch->erste) > getippt_.at(falsch->nummer);
+    taste.at(das_erste ? falsch->erste : falsch->nummer).fokus_setzen();
+    return false;
 }
 
 void tastaturbelegung::uebernehmen() {

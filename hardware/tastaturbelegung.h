@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,10 +46,20 @@ public:
 private:
     void anzeigen(const tastenbelegung& belegung);
     void zeile_benennen(std::string_view name, const std::string& neu);
+    /// Two rows with the same key, or in `nummer` one with a character that no key can be.
+    struct fehler {
+        std::size_t erste;  ///< 0 for none
+        std::size_t nummer;
+    };
+    std::optional<fehler> fehler_suchen() const;
+    void getippt(std::size_t nummer);
     bool pruefen();
     void uebernehmen();
 
     umgebung um_;
+    std::array<int, tastenbelegung::zeile_max + 1> getippt_{};  ///< when each row was typed into, counted; 0 for never
+    int anschlaege_ = 0;
+    std::string wort_hinweis_;
     std::string doppelt_text_;
     std::string ungueltig_text_;
 };

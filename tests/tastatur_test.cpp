@@ -139,6 +139,14 @@ TEST_F(Tastatur, FensterWeistDoppelteUndUngueltigeZeichenAb) {
     t.p.tastaturbelegung.Command1.klicken();
     EXPECT_EQ(letzte_meldung(), "Felder doppelt belegt!!!");
     EXPECT_EQ(t.p.tastaturbelegung.hinweis.text(), "1 – Spur 1/Auto 1: Rundenzählung, Spur 2/Auto 2: Rundenzählung");
+    EXPECT_TRUE(taste(15).fokuswunsch_abholen());
+    taste(15).eingeben("2");
+    EXPECT_TRUE(t.p.tastaturbelegung.hinweis.text().starts_with("Je Feld")) << "the conflict has gone, and its note";
+    taste(16).eingeben("2");
+    t.p.tastaturbelegung.Command1.klicken();
+    EXPECT_TRUE(taste(16).fokuswunsch_abholen()) << "the one that was typed last";
+    EXPECT_FALSE(taste(15).fokuswunsch_abholen());
+    taste(16).eingeben("1");
     taste(15).eingeben("漢");
     t.p.tastaturbelegung.Command1.klicken();
     EXPECT_EQ(letzte_meldung(), "Ungültiges Zeichen!!!");
