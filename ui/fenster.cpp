@@ -1,10 +1,13 @@
 #include "ui/fenster.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -21,6 +24,17 @@ bool gehoert_zu(const QWidget* fenster, const QWidget* offen) {
         fenster = fenster->parentWidget();
     }
     return fenster == offen;
+}
+
+/// Ctrl and Alt together are AltGr.
+bool tippt_etwas(const QKeyEvent& taste) {
+    return !taste.modifiers().testFlag(Qt::ControlModifier) && !taste.modifiers().testFlag(Qt::KeypadModifier) &&
+           !taste.text().isEmpty() && taste.text().front().isPrint();
+}
+
+bool nimmt_zeichen(const QObject* ziel) {
+    return qobject_cast<const QLineEdit*>(ziel) != nullptr || qobject_cast<const QComboBox*>(ziel) != nullptr ||
+           qobject_cast<const QAbstractItemView*>(ziel) != nullptr;
 }
 
 }  // namespace
@@ -182,13 +196,46 @@ void Fensterverwaltung::verbergen(fenstername name) {
     }
 }
 
+bool Fensterverwaltung::taste_schlucken(QObject* ziel, QKeyEvent& taste) {
+    const bool gehalten = tastenhalt_.gehalten(taste);
+    if (taste.type() == QEvent::KeyRelease && taste.key() == Qt::Key_Alt) {
+        seit_schluss_.invalidate();
+    }
+    if (taste.type() == QEvent::ShortcutOverride && gehalten) {
+        taste.accept();  // no letter of a button: what it types into a field is still typed
+        return true;
+    }
+    if (taste.type() != QEvent::KeyPress || !ziel->isWidgetType()) {
+        return false;
+    }
+    if (gehalten && (taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter || taste.key() == Qt::Key_Escape)) {
+        return true;
+    }
+    if (gehalten && taste.key() == Qt::Key_Space && qobject_cast<QAbstractButton*>(ziel) != nullptr) {
+        return true;
+    }
+    return taste.modifiers().testFlag(Qt::AltModifier) && tippt_etwas(taste) && nimmt_zeichen(ziel);
+}
+
+bool Fensterverwaltung::schliesst_gehalten(const QEvent& ereignis) {
+    if (!ereignis.spontaneous()) {
+        return false;
+    }
+    constexpr qint64 erste_wiederholung_ms = 1100;  // the longest that a keyboard takes to its first repeat
+    const bool eben = seit_schluss_.isValid() && seit_schluss_.elapsed() < erste_wiederholung_ms;
+    seit_schluss_.start();
+    return eben && QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
+}
+
 bool Fensterverwaltung::eventFilter(QObject* ziel, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(ziel) != nullptr) {
-        const auto* taste = static_cast<QKeyEvent*>(ereignis);
-        if (taste->isAutoRepeat() &&
-            (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter || taste->key() == Qt::Key_Space)) {
-            return true;
-        }
+    const bool taste = ereignis->type() == QEvent::KeyPress || ereignis->type() == QEvent::KeyRelease ||
+                       ereignis->type() == QEvent::ShortcutOverride;
+    if (taste && taste_schlucken(ziel, *static_cast<QKeyEvent*>(ereignis))) {
+        return true;
+    }
+    if (ereignis->type() == QEvent::Close && ziel->isWidgetType() && schliesst_gehalten(*ereignis)) {
+        ereignis->ignore();
+        return true;
     }
     const bool druck = ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick;
     if (druck && ziel->isWidgetType()) {

@@ -13,6 +13,7 @@
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
 #include "ui/binder.h"
+#include "ui/tastenhalt.h"
 
 namespace tarvel::ui {
 
@@ -74,17 +75,24 @@ public:
     void zeigen(fenstername name, anzeige_art art) override;
     void verbergen(fenstername name) override;
     void erscheinen(const erscheinung& wie) override;
-    /// A key that is held presses no button again: it was meant for what lay in front of that button. And the second
-    /// half of a double click must not hit what lay behind the window that the first half closed.
+    /// A key that is held gives no command again: it was meant once, and for what lay in front of that command. A
+    /// letter with Alt is one of a command, also where no command has it, and types nothing. And the second half of a
+    /// double click must not hit what lay behind the window that the first half closed.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
+    bool taste_schlucken(QObject* ziel, QKeyEvent& taste);
+    /// Alt+F4 is still held: the desktop keeps the keys to itself, and asks again and again to close what lies in
+    /// front.
+    bool schliesst_gehalten(const QEvent& ereignis);
     void bereitstellen(fenstername name);
 
     Bildtakt& takt_;
     Bildleser bilder_;
-    QTranslator qt_texte_;      ///< of the colour dialog and the like
-    QElapsedTimer seit_druck_;  ///< of a mouse button
+    QTranslator qt_texte_;  ///< of the colour dialog and the like
+    Tastenhalt tastenhalt_;
+    QElapsedTimer seit_schluss_;  ///< since the desktop has last asked to close a window
+    QElapsedTimer seit_druck_;    ///< of a mouse button
     QPointer<QWidget> druck_fenster_;
     std::map<fenstername, Fenster*> fenster_;
     std::map<fenstername, std::function<void()>> noch_zu_machen_;

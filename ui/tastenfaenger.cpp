@@ -52,25 +52,27 @@ Tastenfaenger::Tastenfaenger(programm& p, const Rennfenster& fenster) : p_(p), f
 }
 
 bool Tastenfaenger::eventFilter(QObject* ziel, QEvent* ereignis) {
+    const bool taste = ereignis->type() == QEvent::KeyPress || ereignis->type() == QEvent::KeyRelease;
+    const bool gehalten = taste && tastenhalt_.gehalten(*static_cast<QKeyEvent*>(ereignis));
     const QWidget* vorn = QApplication::activeWindow();
     if (ereignis->type() == QEvent::KeyPress && vorn != nullptr && QApplication::activePopupWidget() == nullptr) {
         // The first receiver only: an ignored key travels on to the parents, and would count again there.
         const QWidget* empfaenger = vorn->focusWidget() != nullptr ? vorn->focusWidget() : vorn;
         if (ziel == empfaenger && !nimmt_text(empfaenger)) {
-            return nehmen(vorn, *static_cast<QKeyEvent*>(ereignis));
+            return nehmen(vorn, *static_cast<QKeyEvent*>(ereignis), gehalten);
         }
     }
     return QObject::eventFilter(ziel, ereignis);
 }
 
-bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis) {
+bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten) {
     const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
     const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
     const auto code = ansi_code(ereignis.text().toStdString());
     if (!code || strg != alt || !gilt(vorn, *code) || beantwortet(vorn, ereignis)) {  // both together are AltGr
         return false;
     }
-    if (ereignis.isAutoRepeat()) {
+    if (gehalten) {
         return true;
     }
     if (fenster_.einfahren->isVisible()) {

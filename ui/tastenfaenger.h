@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "programm/programm.h"
+#include "ui/tastenhalt.h"
 
 class QKeyEvent;
 class QWidget;
@@ -25,7 +26,7 @@ public:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
-    bool nehmen(const QWidget* vorn, const QKeyEvent& ereignis);
+    bool nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten);
     /// Before a race and behind it only its own windows take keys, and late crossings are waited for.
     bool gilt(const QWidget* vorn, int code) const;
     /// The start light takes the key, not the race: wherever it is typed, and whether the light is to be seen or not.
@@ -34,6 +35,7 @@ private:
 
     programm& p_;
     Rennfenster fenster_;
+    Tastenhalt tastenhalt_;
 };
 
 }  // namespace tarvel::ui

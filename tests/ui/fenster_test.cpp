@@ -341,6 +341,42 @@ TEST_F(Oberflaeche, DieTasteVonRennendeGiltAuchFuerDieRueckfrage) {
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
 }
 
+TEST_F(Oberflaeche, GehalteneTasteBestaetigtKeineRueckfrage) {
+    t.p.einst.start_ampel_modus = ampelwahl::keine;
+    t.starten("Zeit", "5", {1});
+    o.takt.ausfuehren();
+    o.bahn1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));
+    auto* abbruch = finde<QPushButton>(o.bahn1, "bahn1.Command2");
+    const auto enter = [&](QEvent::Type art, quint64 wann) {
+        QKeyEvent taste(art, Qt::Key_Return, Qt::NoModifier, "\r");  // a busy program is not told that it is a repeat
+        taste.setTimestamp(wann);
+        QCoreApplication::sendEvent(abbruch, &taste);
+        t.maschine.laufen(500);
+    };
+    enter(QEvent::KeyPress, 1000);
+    for (const quint64 wann : {1700, 1740, 1780}) {
+        enter(QEvent::KeyRelease, wann);
+        enter(QEvent::KeyPress, wann);
+    }
+    EXPECT_TRUE(o.bahn1.isVisible());
+    enter(QEvent::KeyRelease, 2500);
+    t.maschine.laufen(3000);  // the question has gone
+    const QString text = finde<QPushButton>(o.bahn1, "bahn1.Command4")->text();
+    const QChar ende = text.at(text.indexOf('&') + 1).toUpper();
+    QTest::simulateEvent(&o.bahn1, true, ende.unicode(), Qt::AltModifier, ende.toLower(), false);
+    for (int mal = 0; mal < 4; ++mal) {
+        QTest::qWait(150);
+        t.maschine.laufen(500);
+        QTest::simulateEvent(&o.bahn1, true, ende.unicode(), Qt::AltModifier, ende.toLower(), true);
+    }
+    EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
+    enter(QEvent::KeyPress, 9000);
+    enter(QEvent::KeyRelease, 9050);
+    enter(QEvent::KeyPress, 9200);
+    EXPECT_FALSE(o.bahn1.isVisible()) << "pressed twice it goes";
+}
+
 TEST_F(Oberflaeche, DieListeDerFahrerMachtDasFensterNichtBreiter) {
     o.form1.resize(985, 700);
     QTest::qWait(50);
