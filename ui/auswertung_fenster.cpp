@@ -210,10 +210,12 @@ void AuswertungFenster::ordnen() {
         reihen_->addWidget(zeile, 1);
     }
     std::vector<QWidget*> ziele;  // who enters metres goes down their column
-    for (const auto ziel_von : {&Ergebniszeile::meterfeld, &Ergebniszeile::rundenliste}) {
-        for (const Ergebniszeile* zeile : folge) {
-            ziele.push_back((zeile->*ziel_von)());
-        }
+    for (const Ergebniszeile* zeile : folge) {
+        ziele.push_back(zeile->meterfeld());
+    }
+    for (const Ergebniszeile* zeile : folge) {
+        ziele.push_back(zeile->rundenliste());
+        ziele.insert(ziele.end(), zeile->knoepfe().begin(), zeile->knoepfe().end());
     }
     for (std::size_t i = 1; i < ziele.size(); ++i) {
         setTabOrder(ziele[i - 1], ziele[i]);

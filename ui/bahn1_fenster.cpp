@@ -107,7 +107,7 @@ void Bahn1Fenster::befehlszeile() {
         }
         vorher = teil(name);
     }
-    protokoll_ = binder().knopf_ohne_kuerzel(bahn.Command_protokoll, "Command_protokoll");
+    protokoll_ = binder().knopf(bahn.Command_protokoll, "Command_protokoll");
     protokoll_->setParent(zeile);
     protokoll_->installEventFilter(this);
     setTabOrder(vorher, protokoll_);

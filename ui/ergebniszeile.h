@@ -21,6 +21,7 @@ public:
     /// What the Tab key reaches in the row.
     QWidget* meterfeld() const { return meterfeld_; }
     QWidget* rundenliste() const { return liste_; }
+    const std::vector<QPushButton*>& knoepfe() const { return knoepfe_; }
     /// Called when the row has changed.
     std::function<void()> bei_umzug;
 

@@ -252,8 +252,7 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
     weiter_ = binder().knopf(bahn_.Command3, "Command3");
     for (QPushButton* knopf :
          {binder().hauptknopf(bahn_.Command1, "Command1"), binder().hauptknopf(bahn_.Command6, "Command6"), weiter_,
-          binder().knopf(bahn_.Command4, "Command4"),
-          binder().knopf_ohne_kuerzel(bahn_.Command_protokoll, "Command_protokoll")}) {
+          binder().knopf(bahn_.Command4, "Command4"), binder().knopf(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }
     zeile->addWidget(binder().knopf(ampel_.abbrampel, "abbrampel"));

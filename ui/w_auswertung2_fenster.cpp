@@ -58,6 +58,9 @@ WAuswertung2Fenster::WAuswertung2Fenster(w_auswertung2& logik, const dateien& ab
     vergleich_ = new Vergleichsbild(this);
     auto* rollfeld = new QScrollArea(this);
     rollfeld->setFrameShape(QFrame::NoFrame);
+    rollfeld->setStyleSheet(
+        "QScrollArea { border: 2px solid transparent; }"
+        "QScrollArea:focus { border: 2px solid #c41e2a; }");  // the arrow keys scroll it
     rollfeld->setWidgetResizable(true);
     rollfeld->setWidget(vergleich_);
     const std::array<QWidget*, 3> bilder{blatt_, verlauf_, rollfeld};
