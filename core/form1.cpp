@@ -45,6 +45,9 @@ form1::form1(umgebung um)
         fahrer[i].vorschlagen = [this](const std::string& getippt) {
             return namensvorschlaege(getippt, um_.zuletzt_gefahren.mit_liste(um_.fahrerliste));
         };
+        auto_[i].vorschlagen = [this, i](const std::string& getippt) {
+            return namensvorschlaege(getippt, auto_[i].eintraege());
+        };
         auto_[i].laenge_max(namensliste::name_laenge_max);
         lspur[i].laenge_max(8);
     }
@@ -85,7 +88,11 @@ void form1::befehle_verbinden() {
     command_liste.bei_klick = [this] {
         Frame_liste.sichtbar(!Frame_liste.sichtbar());
         reihe_zeigen();
-        fahrerreihe.fokus_setzen();
+        if (Frame_liste.sichtbar()) {
+            fahrerreihe.fokus_setzen();
+        } else {
+            command_liste.fokus_setzen();  // the keys of a list that has gone would reach nobody
+        }
     };
     fahrerreihe.bei_doppelklick = [this] { gewaehlten_auf_spur(0); };
     command_tasten.bei_klick = [this] { um_.fenster.zeigen(fenstername::Tastaturbelegung, anzeige_art::modal); };

@@ -64,6 +64,7 @@ TEST_F(Hauptfenster, WerGeradeFuhrWirdZuerstAngebotenAuchNachDemNeustart) {
     EXPECT_EQ(f.fahrer[1].vorschlagen("fahrer").front(), "Fahrer 3");
     neu_starten();
     EXPECT_EQ(zweites->form1.fahrer[1].vorschlagen("GA"), namen{"Gast"});
+    EXPECT_EQ(f.auto_[1].vorschlagen("standardf"), namen{"Standardfahrzeug"});
     t.maschine.datei_schreiben("tvk_fahrer.ini", std::string("\0\xFF\nGast\r\n\r\nGast\r\n", 17));
     zweites->zuletzt_gefahren.laden(zweites->ablage);
     EXPECT_EQ(std::count(zweites->zuletzt_gefahren.namen().begin(), zweites->zuletzt_gefahren.namen().end(), "Gast"),

@@ -37,6 +37,15 @@ void text_nachfuehren(Widget* widget, const steuerelement& element) {
     }
 }
 
+/// To set it anew, though it is the same, takes the caret to the end of what is being typed.
+void laenge_nachfuehren(QLineEdit* zeile, const eingabe_element& element) {
+    constexpr int ohne_grenze = 32767;
+    const int laenge = element.laenge_max() > 0 ? element.laenge_max() : ohne_grenze;
+    if (zeile->maxLength() != laenge) {
+        zeile->setMaxLength(laenge);
+    }
+}
+
 /// What is too long for a field is not swallowed unsaid.
 void kuerzung_sagen(QLineEdit* zeile) {
     QObject::connect(zeile, &QLineEdit::inputRejected, zeile, [zeile] {
@@ -79,7 +88,8 @@ public:
         }
         if ((!nebenher_ || widget_->isVisible()) && element_.fokuswunsch_abholen()) {
             widget_->setFocus(Qt::OtherFocusReason);
-            if (auto* zeile = qobject_cast<QLineEdit*>(widget_)) {
+            const auto* wahl = qobject_cast<QComboBox*>(widget_);
+            if (auto* zeile = wahl != nullptr ? wahl->lineEdit() : qobject_cast<QLineEdit*>(widget_)) {
                 zeile->selectAll();  // what is typed next replaces the old text
             }
         }
@@ -222,7 +232,7 @@ QRadioButton* Binder::wahlknopf(haken& element, const QString& name) {
 }
 
 QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
-    auto* widget = new QPushButton(eltern_);
+    auto* widget = new Farbknopf(eltern_);
     widget->setAutoDefault(true);
     QObject::connect(widget, &QPushButton::clicked, widget, [&element, widget] {
         auto* dialog = new QColorDialog(stil::farbe_von(element.wert()), widget->window());
@@ -231,12 +241,7 @@ QPushButton* Binder::farbknopf(farbfeld& element, const QString& name) {
                          [&element](const QColor& gewaehlt) { element.waehlen(stil::zahl_von(gewaehlt)); });
         dialog->open();
     });
-    verbinden(element, widget, name, [&element, widget] {
-        const QColor gewaehlt = stil::farbe_von(element.wert());
-        const QString schrift = stil::schrift_auf(gewaehlt).name();
-        widget->setText(gewaehlt.name());
-        widget->setStyleSheet(QString("QPushButton { background: %1; color: %2; }").arg(gewaehlt.name(), schrift));
-    });
+    verbinden(element, widget, name, [&element, widget] { widget->setFarbe(stil::farbe_von(element.wert())); });
     return widget;
 }
 
@@ -252,7 +257,7 @@ QLineEdit* Binder::zeile(feld& element, const QString& name) {
     QObject::connect(widget, &QLineEdit::textEdited, widget,
                      [&element](const QString& text) { element.eingeben(text.toStdString()); });
     verbinden(element, widget, name, [&element, widget] {
-        widget->setMaxLength(element.laenge_max() > 0 ? element.laenge_max() : 32767);
+        laenge_nachfuehren(widget, element);
         text_nachfuehren(widget, element);
         if (!widget->hasFocus()) {
             widget->setCursorPosition(0);  // a long text is read from its beginning
@@ -295,8 +300,8 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
                 Namensergaenzung::anbieten(*widget, element);
             }
         }
-        if (element.frei() && element.laenge_max() > 0) {
-            widget->lineEdit()->setMaxLength(element.laenge_max());
+        if (element.frei()) {
+            laenge_nachfuehren(widget->lineEdit(), element);
         }
         QStringList eintraege;
         for (const std::string& eintrag : element.eintraege()) {
@@ -331,7 +336,7 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
 }
 
 QListView* Binder::listenfeld(liste& element, const QString& name, Qt::Alignment ausrichtung) {
-    auto* widget = new QListView(eltern_);
+    auto* widget = new Listenfeld(eltern_);
     widget->setUniformItemSizes(true);
     widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,12 +1,18 @@
 #include "ui/eingabefelder.h"
 
 #include <QHelpEvent>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <utility>
+
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
@@ -50,6 +56,39 @@ bool Auswahlfeld::event(QEvent* ereignis) {
         return true;
     }
     return QComboBox::event(ereignis);
+}
+
+void nur_zahlen_annehmen(QLineEdit* feld) {
+    feld->setValidator(new QRegularExpressionValidator(QRegularExpression("[-+]?[0-9.,]*"), feld));
+}
+
+void Farbknopf::setFarbe(const QColor& farbe) {
+    farbe_ = farbe;
+    setText(farbe.name());
+    setStyleSheet(
+        QString("QPushButton { background: %1; color: %2; }").arg(farbe.name(), stil::schrift_auf(farbe).name()));
+}
+
+void Farbknopf::paintEvent(QPaintEvent* ereignis) {
+    QPushButton::paintEvent(ereignis);
+    if (hasFocus()) {
+        constexpr double ring_px = 3;
+        QPainter maler(this);
+        maler.setRenderHint(QPainter::Antialiasing);
+        maler.setPen(QPen(stil::schrift_auf(farbe_), ring_px));
+        maler.drawRoundedRect(QRectF(rect()).adjusted(ring_px + 1, ring_px + 1, -ring_px - 1, -ring_px - 1), 4, 4);
+    }
+}
+
+void Listenfeld::keyPressEvent(QKeyEvent* ereignis) {
+    const bool pfeil = ereignis->key() == Qt::Key_Down || ereignis->key() == Qt::Key_Up;
+    const bool waehlbar = selectionMode() != NoSelection && !selectionModel()->hasSelection();
+    if (pfeil && waehlbar && currentIndex().isValid()) {
+        selectionModel()->setCurrentIndex(currentIndex(), QItemSelectionModel::ClearAndSelect);
+        scrollTo(currentIndex());
+    } else {
+        QListView::keyPressEvent(ereignis);
+    }
 }
 
 bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {

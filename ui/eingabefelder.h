@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QColor>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
 #include <QStringList>
 #include <QWheelEvent>
 
@@ -46,6 +49,31 @@ protected:
 
 private:
     QStringList zusaetze_;
+};
+
+/// Only digits, a sign, comma and point can be typed; what the logic sets is shown as it is.
+void nur_zahlen_annehmen(QLineEdit* feld);
+
+/// A button in a colour of the user's: the focus is a ring inside it, in what is seen on that colour.
+class Farbknopf final : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+    void setFarbe(const QColor& farbe);
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QColor farbe_;
+};
+
+/// The focus alone chooses no row: the first arrow key chooses the one that it stands on, and not the one behind it.
+class Listenfeld final : public QListView {
+public:
+    using QListView::QListView;
+
+protected:
+    void keyPressEvent(QKeyEvent* ereignis) override;
 };
 
 /// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:

@@ -18,6 +18,9 @@ constexpr QSize vorschaugroesse(280, 210);
 EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dateien& ablage,
                                            Fensterverwaltung& verwaltung, QWidget* eltern)
     : Fenster(logik, verwaltung, eltern), logik_(logik), ablage_(ablage) {
+    // The first to be made are sure of a letter: there are more commands on the pages than letters.
+    uebernehmen_ = binder().hauptknopf(logik.Command1, "Command1");
+    QPushButton* abbrechen = binder().knopf(logik.Command2, "Command2");
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(10);
@@ -40,8 +43,9 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
     mitte->addLayout(stapel, 1);
     aufbau->addLayout(mitte, 1);
 
-    QPushButton* uebernehmen = binder().hauptknopf(logik.Command1, "Command1");
-    aufbau->addLayout(stil::knopfzeile({uebernehmen, binder().knopf(logik.Command2, "Command2")}));
+    aufbau->addLayout(stil::knopfzeile({uebernehmen_, abbrechen}));
+    setTabOrder(previousInFocusChain(), uebernehmen_);
+    setTabOrder(uebernehmen_, abbrechen);
     resize(1200, 820);
 }
 
@@ -52,9 +56,9 @@ QWidget* EinstellungenFenster::seite(int nummer) {
         case einstellungsfenster::seite_fahrzeuge:
             return listenseite_bauen(logik_.fahrzeugseite, "fahrzeug");
         case einstellungsfenster::seite_hardware:
-            return OptionsseiteBauen(binder(), this).seite(*logik_.zeilenseite(nummer), hardwarewahl());
+            return OptionsseiteBauen(binder(), this, uebernehmen_).seite(*logik_.zeilenseite(nummer), hardwarewahl());
         default:
-            return OptionsseiteBauen(binder(), this).seite(*logik_.zeilenseite(nummer));
+            return OptionsseiteBauen(binder(), this, uebernehmen_).seite(*logik_.zeilenseite(nummer));
     }
 }
 

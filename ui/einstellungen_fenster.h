@@ -18,6 +18,7 @@ private:
 
     einstellungsfenster& logik_;
     const dateien& ablage_;
+    QPushButton* uebernehmen_ = nullptr;
 };
 
 }  // namespace tarvel::ui

@@ -161,7 +161,6 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
         widget->setMinimumHeight(20);
         widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
         widget->setStyleSheet("padding: 0;");
-        knoepfe_.push_back(widget);
         knoepfe->addWidget(widget);
     };
     knopf(logik_.cmd_anzeige[i], "cmd_anzeige");

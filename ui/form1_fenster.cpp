@@ -20,6 +20,7 @@ constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
 
 void schmal(QLineEdit* feld) {
+    nur_zahlen_annehmen(feld);
     feld->setFixedWidth(feldbreite);
     feld->setAlignment(Qt::AlignRight);
 }

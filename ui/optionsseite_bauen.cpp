@@ -4,12 +4,14 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "ui/eingabefelder.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 84;
+constexpr int zahlenfeld_laenge = 8;  // characters; no row for words has as many
 constexpr int schmalste_auswahl = 110;
 constexpr int spaltenbreite_max = 640;      // on a wide screen a field stays beside its caption
 constexpr std::size_t langer_eintrag = 17;  // characters; such a choice stands under its caption
@@ -111,6 +113,10 @@ void OptionsseiteBauen::zeile(optionszeile& inhalt, QWidget* traeger, int platz)
 void OptionsseiteBauen::eingabefeld(optionszeile& inhalt, feld& eingabe, QGridLayout* raster, int platz) {
     const QString name = QString::fromStdString(inhalt.name);
     QLineEdit* widget = binder_.zeile(eingabe, name);
+    QObject::connect(widget, &QLineEdit::returnPressed, weiter_, [ziel = weiter_] { ziel->setFocus(); });
+    if (inhalt.nur_zahlen || eingabe.laenge_max() == zahlenfeld_laenge) {
+        nur_zahlen_annehmen(widget);
+    }
     QLabel* einheit = stil::leise(binder_.label(inhalt.einheit, name + "_Einheit"));
     einheit->setWordWrap(true);
     if (eingabe.laenge_max() > 0 && eingabe.laenge_max() <= 8) {

@@ -12,7 +12,9 @@ namespace tarvel::ui {
 /// Lays out the rows of one page of the options window: groups in columns, in each row caption, control and unit.
 class OptionsseiteBauen {
 public:
-    OptionsseiteBauen(Binder& binder, QWidget* eltern) : binder_(binder), eltern_(eltern) {}
+    /// Behind a value, the Enter key leads to `weiter`.
+    OptionsseiteBauen(Binder& binder, QWidget* eltern, QWidget* weiter)
+        : binder_(binder), eltern_(eltern), weiter_(weiter) {}
 
     /// `vorneweg` stands on top of the first column; it may be null.
     QWidget* seite(optionsseite& inhalt, QWidget* vorneweg = nullptr);
@@ -24,6 +26,7 @@ private:
 
     Binder& binder_;
     QWidget* eltern_;
+    QWidget* weiter_;
 };
 
 }  // namespace tarvel::ui

@@ -377,6 +377,52 @@ TEST_F(Oberflaeche, GehalteneTasteBestaetigtKeineRueckfrage) {
     EXPECT_FALSE(o.bahn1.isVisible()) << "pressed twice it goes";
 }
 
+TEST_F(Oberflaeche, WerMittenImFeldTipptBleibtDort) {
+    o.form1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
+    auto* fahrer = finde<QComboBox>(o.form1, "Form1.fahrer_0");
+    const auto tippen_bei = [&](QWidget* feld, const char* zeichen) {
+        feld->setFocus();
+        QTest::keyClick(feld, Qt::Key_Home);
+        for (const char* z = zeichen; *z != 0; ++z) {
+            QTest::keyClick(feld, *z);
+            o.takt.ausfuehren();
+        }
+        QTest::keyClick(feld, Qt::Key_Delete);
+        o.takt.ausfuehren();
+    };
+    tippen_bei(fahrer, "ABC");
+    EXPECT_EQ(t.p.form1.fahrer[0].text(), "ABCahrer 1");
+    auto* laenge = finde<QLineEdit>(o.form1, "Form1.lspur_0");
+    tippen_bei(laenge, "13");
+    EXPECT_EQ(t.p.form1.lspur[0].text(), "135");
+    QTest::keyClick(laenge, 'o', Qt::AltModifier);
+    QTest::keyClick(laenge, 'm');
+    EXPECT_EQ(t.p.form1.lspur[0].text(), "135") << "a number has no letters";
+    QTest::keyClick(fahrer, 'q', Qt::AltModifier);
+    EXPECT_EQ(t.p.form1.fahrer[0].text(), "ABCahrer 1") << "Alt types nothing";
+
+    t.p.form1.fahrer[0].fokus_setzen();
+    o.takt.ausfuehren();
+    EXPECT_EQ(fahrer->lineEdit()->selectedText(), "ABCahrer 1");
+}
+
+TEST_F(Oberflaeche, ErsterPfeilWaehltDieErsteZeile) {
+    klick(o.form1, "Form1.Command7");
+    o.takt.ausfuehren();
+    t.p.speichernfenster.dateiliste.leeren();
+    for (const char* datei : {"eins", "zwei"}) {
+        t.p.speichernfenster.dateiliste.hinzufuegen(datei);
+    }
+    o.takt.ausfuehren();
+    auto* dateien = finde<QListView>(*o.speichern, "speichernfenster.dateiliste");
+    dateien->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(dateien, Qt::Key_Down);
+    EXPECT_EQ(t.p.speichernfenster.name.text(), "eins");
+    QTest::keyClick(dateien, Qt::Key_Down);
+    EXPECT_EQ(t.p.speichernfenster.name.text(), "zwei");
+}
+
 TEST_F(Oberflaeche, DieListeDerFahrerMachtDasFensterNichtBreiter) {
     o.form1.resize(985, 700);
     QTest::qWait(50);
@@ -388,6 +434,8 @@ TEST_F(Oberflaeche, DieListeDerFahrerMachtDasFensterNichtBreiter) {
         EXPECT_EQ(finde<QWidget>(o.form1, "Form1.Command10")->isVisible(), !offen);
         EXPECT_EQ(finde<QWidget>(o.form1, "Form1.Frame_liste")->width() > 100, offen);
         EXPECT_EQ(o.form1.width(), 985) << "as wide as a small screen";
+        EXPECT_NE(o.form1.focusWidget(), nullptr);
+        EXPECT_EQ(finde<QWidget>(o.form1, "Form1.command_liste")->hasFocus(), !offen);
     }
 }
 
