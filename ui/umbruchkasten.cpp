@@ -42,6 +42,19 @@ int UmbruchKasten::heightForWidth(int breite) const {
     return std::max(textflaeche(breite).height(), kasten) + 2 * rand + 2;
 }
 
+/// Of a box that stands alone the focus is seen as far as the box.
+void UmbruchKasten::ring_malen(QPainter& maler, const QRect& kasten) const {
+    constexpr int dick = 6;
+    constexpr int halbe_helligkeit = 128;
+    const bool dunkel = window()->palette().color(QPalette::Window).lightness() < halbe_helligkeit;
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(dunkel ? QColor(255, 214, 10) : palette().color(QPalette::Highlight));
+    maler.drawRoundedRect(kasten.adjusted(-dick, -dick, dick, dick).intersected(rect()), 4, 4);
+    maler.restore();
+}
+
 void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     QStylePainter maler(this);
     QStyleOptionButton stand;
@@ -50,6 +63,14 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     kasten.rect = QRect(rand, 0, style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
                         style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this));
     kasten.rect.moveTop(rand + (fontMetrics().height() - kasten.rect.height()) / 2);
+    if (text().isEmpty()) {
+        kasten.rect.moveCenter(rect().center());
+        if (hasFocus()) {
+            ring_malen(maler, kasten.rect);
+        }
+        maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
+        return;
+    }
     maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
     const QRect schrift = rect().adjusted(einzug() + rand, rand, 0, -rand);
     maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, palette(), isEnabled(), text(),

@@ -21,6 +21,7 @@ protected:
 private:
     QRect textflaeche(int breite) const;
     int einzug() const;
+    void ring_malen(QPainter& maler, const QRect& kasten) const;
 };
 
 }  // namespace tarvel::ui
