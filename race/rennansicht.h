@@ -20,8 +20,6 @@ public:
     void oeffnen();
     /// Captions, and one row, one column or the whole room for each lane in the race; the controls of the other lanes
     /// are hidden.
-    /// It has a block: it drives, or is shown empty.
-    bool zu_sehen(int spur) const;
     void zeilenansicht_oeffnen();
     void spaltenansicht_oeffnen();
     void einfahrer_ansicht_oeffnen();
@@ -45,6 +43,8 @@ public:
     sprachliste sprache_r();
 
 private:
+    /// It has a block: it drives, or is shown empty.
+    bool zu_sehen(int spur) const;
     void ansicht_oeffnen(ansicht_art art);
     void spur_oeffnen(int spur);
     void bilder_setzen();

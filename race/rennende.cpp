@@ -90,7 +90,7 @@ void rennende::rennende_einleiten() {
     ende_stempeln();
     if (um_.ist_zeitrennen()) {
         zeit_ist_um();
-    } else if (um_.einst.runde_beenden) {
+    } else if (um_.einst.runde_beenden && um_.einst.zielmodus_erster) {
         sieg_stempeln();
     }
     um_.protokoll.vermerken(vermerk::letzte, {zustand.renn_ende_stempel});
