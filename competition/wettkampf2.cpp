@@ -249,11 +249,11 @@ void wettkampf2::zeichen_erklaeren() {
         da[1] |= status == rennstatus::zurueckgestellt;
         da[2] |= status == rennstatus::offen && w.fortsetzung_nummer(rennen) > 0;
     }
-    const std::array<const std::string*, 3> worte{&wort_.gefahren, &wort_.zurueckgestellt, &wort_.teile_gefahren};
+    const std::array<const std::string*, 3> zeichen{&wort_.gefahren, &wort_.zurueckgestellt, &wort_.teile_gefahren};
     std::string text;
     for (std::size_t i = 0; i < da.size(); ++i) {
         if (da.at(i)) {
-            text += (text.empty() ? "" : ",  ") + *worte.at(i);
+            text += (text.empty() ? "" : ",  ") + *zeichen.at(i);
         }
     }
     Label_zeichen.text(text);

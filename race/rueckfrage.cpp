@@ -53,7 +53,7 @@ void rueckfrage::fragen() {
 }
 
 void rueckfrage::rest_zeigen() {
-    knopf_.frage(um_.wort + " " + std::to_string(rest_));
+    knopf_.frage(um_.wort + " (" + std::to_string(rest_) + " s)");
 }
 
 void rueckfrage::zuruecknehmen() {

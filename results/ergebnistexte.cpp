@@ -78,8 +78,8 @@ std::string tempo(const spur& s) {
 
 std::string ab_gruen(const rennergebnis& ergebnis, const std::string& wort) {
     std::string text;
-    for (const auto& [platz, spur] : anders_ab_gruen(ergebnis)) {
-        text += (text.empty() ? wort + " " : ", ") + std::to_string(platz) + ". " + ergebnis.auf(spur)->fahrer;
+    for (const auto& [platz, nummer] : anders_ab_gruen(ergebnis)) {
+        text += (text.empty() ? wort + " " : ", ") + std::to_string(platz) + ". " + ergebnis.auf(nummer)->fahrer;
     }
     return text;
 }

@@ -246,8 +246,8 @@ std::string protokollfenster::hinweis() const {
     }
     const std::size_t anzahl = hergang_.abgelehnte(0).size();
     std::string text = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, std::to_string(anzahl));
-    if (const zeit_ms pausen = hergang_.pausen(); pausen > 0) {
-        text += "  " + eingesetzt(wort_.mit_pausen, hergang_zeit(pausen, 0, worte_.komma));
+    if (const zeit_ms gestanden = hergang_.pausen(); gestanden > 0) {
+        text += "  " + eingesetzt(wort_.mit_pausen, hergang_zeit(gestanden, 0, worte_.komma));
     }
     return hergang_.ganz ? text : text + "  " + wort_.beschaedigt;
 }

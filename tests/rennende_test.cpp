@@ -286,13 +286,13 @@ TEST_F(Rennende, ErstDerZweiteDruckBeendetUndStempelt) {
     t.maschine.laufen(5000);
     befehl& ende = t.bahn().Command4;
     ende.klicken();
-    EXPECT_EQ(ende.frage(), "Wirklich? Noch einmal drücken 3");
+    EXPECT_EQ(ende.frage(), "Wirklich? Noch einmal drücken (3 s)");
     t.maschine.laufen(399);
     ende.klicken();
     EXPECT_FALSE(beendet()) << "the second half of a double click";
     t.runde_nach(1000, "1");
     EXPECT_EQ(t.runden(1), 1) << "no crossing waits for the answer";
-    EXPECT_EQ(ende.frage(), "Wirklich? Noch einmal drücken 2");
+    EXPECT_EQ(ende.frage(), "Wirklich? Noch einmal drücken (2 s)");
     t.maschine.laufen(1601);
     EXPECT_EQ(ende.frage(), "") << "nobody has meant it";
     ende.klicken();
@@ -311,7 +311,7 @@ TEST_F(Rennende, WasNichtsKostetFragtNichtUndSchliessenFragtWieDerAbbruch) {
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1)) << "before the start";
     t.starten("Zeit", "5", {1});
     t.p.rennen.befehle.fenster_schliessen();
-    EXPECT_EQ(t.bahn().Command2.frage(), "Wirklich? Noch einmal drücken 3");
+    EXPECT_EQ(t.bahn().Command2.frage(), "Wirklich? Noch einmal drücken (3 s)");
     t.maschine.laufen(500);
     t.p.rennen.befehle.fenster_schliessen();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::bahn1));
@@ -323,7 +323,7 @@ TEST_F(Rennende, WasNichtsKostetFragtNichtUndSchliessenFragtWieDerAbbruch) {
     t.bahn().Command2.klicken();
     t.runde_nach(900, "1");
     EXPECT_TRUE(beendet());
-    EXPECT_EQ(t.bahn().Command2.frage(), "Wirklich? Noch einmal drücken 3");
+    EXPECT_EQ(t.bahn().Command2.frage(), "Wirklich? Noch einmal drücken (3 s)");
     t.maschine.laufen(1000);
     EXPECT_EQ(t.bahn().Command2.frage(), "");
 }

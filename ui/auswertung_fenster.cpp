@@ -209,7 +209,9 @@ void AuswertungFenster::ordnen() {
     for (Ergebniszeile* zeile : folge) {
         reihen_->addWidget(zeile, 1);
     }
+    constexpr std::size_t je_zeile = 5;
     std::vector<QWidget*> ziele;  // who enters metres goes down their column
+    ziele.reserve(folge.size() * je_zeile);
     for (const Ergebniszeile* zeile : folge) {
         ziele.push_back(zeile->meterfeld());
     }

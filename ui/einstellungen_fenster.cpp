@@ -43,9 +43,12 @@ EinstellungenFenster::EinstellungenFenster(einstellungsfenster& logik, const dat
     mitte->addLayout(stapel, 1);
     aufbau->addLayout(mitte, 1);
 
+    for (QPushButton* knopf : {uebernehmen_, abbrechen}) {  // Tab comes to them last
+        knopf->setParent(nullptr);
+        knopf->setParent(this);
+        knopf->show();
+    }
     aufbau->addLayout(stil::knopfzeile({uebernehmen_, abbrechen}));
-    setTabOrder(previousInFocusChain(), uebernehmen_);
-    setTabOrder(uebernehmen_, abbrechen);
     resize(1200, 820);
 }
 

@@ -282,6 +282,7 @@ QPushButton* Form1Fenster::menueknopf(befehl& element, const QString& name,
                                       const std::function<form1::auswahlmenue()>& zeilen,
                                       const std::function<void(std::size_t)>& waehlen) {
     QPushButton* knopf = binder().knopf(element, name, "schmal");
+    binder().mit_kuerzel(knopf, element, false);  // its caption is what was chosen: the letters of others stay
     auto* menue = new QMenu(knopf);
     QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue, zeilen, waehlen] {
         menue->clear();

@@ -355,7 +355,7 @@ TEST_F(Oberflaeche, GehalteneTasteBestaetigtKeineRueckfrage) {
         t.maschine.laufen(500);
     };
     enter(QEvent::KeyPress, 1000);
-    for (const quint64 wann : {1700, 1740, 1780}) {
+    for (const quint64 wann : {1700U, 1740U, 1780U}) {
         enter(QEvent::KeyRelease, wann);
         enter(QEvent::KeyPress, wann);
     }
