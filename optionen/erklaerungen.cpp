@@ -98,8 +98,7 @@ const std::vector<erklaerung>& erklaerungen() {
         {"Tanken / Chaos", "Tankinhalt", "t_inhalt_w", "Liter (1 bis 100)"},
         {"Tanken / Chaos", "Benzinverbrauch", "t_verbrauch_w",
          "Liter je Runde (1 bis 30) in der Durchschnittszeit; schneller kostet mehr, höchstens gut das Doppelte, und "
-         "so "
-         "viel kostet auch die erste Überfahrt"},
+         "so viel kostet auch die erste Überfahrt"},
         {"Tanken / Chaos", "Durchschn. Rundenzeit", "t_rundenzeit_w",
          "die Runde, die genau diesen Verbrauch hat, in Sekunden (1 bis 300)"},
         {"Tanken / Chaos", "Tankwarnung bei", "t_warnung",
