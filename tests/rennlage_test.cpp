@@ -53,24 +53,18 @@ TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
     EXPECT_EQ(sagt(2), "");
     t.rennabbruch();
 
-    t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
-    beginnen(1);
-    t.maschine.laufen(6000);
-    ampeltaste('3');
-    EXPECT_EQ(sagt(3), "FRÜHSTART");
-    EXPECT_EQ(sagt(1), "");
-    t.p.startampel.fenster.abbrampel.klicken();
-    EXPECT_EQ(sagt(3), "");
-    t.rennabbruch();
-
-    t.p.einst.fruehstart_option = fruehstart_aktion::disqualifikation;
-    beginnen(1);
-    t.maschine.laufen(6000);
-    ampeltaste('3');
-    EXPECT_EQ(sagt(3), "DISQUALIFIZIERT");
-    t.p.startampel.fenster.abbrampel.klicken();
-    EXPECT_EQ(sagt(3), "") << "of a start that has not been";
-    t.rennabbruch();
+    for (const auto& [aktion, wort] : {std::pair(fruehstart_aktion::startabbruch, "FRÜHSTART"),
+                                       {fruehstart_aktion::disqualifikation, "DISQUALIFIZIERT"}}) {
+        t.p.einst.fruehstart_option = aktion;
+        beginnen(1);
+        t.maschine.laufen(6000);
+        ampeltaste('3');
+        EXPECT_EQ(sagt(3), wort);
+        EXPECT_EQ(sagt(1), "");
+        t.p.startampel.fenster.abbrampel.klicken();
+        EXPECT_EQ(sagt(3), "") << "of a start that has not been";
+        t.rennabbruch();
+    }
 
     t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
     beginnen(1);
