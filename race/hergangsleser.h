@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "core/spuren.h"
+#include "hardware/ereignisse.h"
+#include "race/rennhergang.h"
+
+namespace tarvel {
+
+/// Turns the lines of a log, one after the other, into what happened. The head of `h` has been read.
+class hergangsleser {
+public:
+    explicit hergangsleser(rennhergang& h);
+
+    void zeile(std::string_view text);
+    /// When each thing was; puts them in order of time.
+    void zeiten_setzen();
+    /// When it was, as far as the green light is known.
+    void zeit_setzen(geschehen& g) const;
+
+private:
+    struct start {
+        zeit_ms stempel = 0;
+        zeit_ms zeit = 0;
+    };
+    struct wiederholung {
+        std::optional<std::size_t> platz;
+        zeit_ms zeit = 0;
+    };
+
+    static std::optional<std::int64_t> zahl(std::string_view& rest);
+    geschehen& anhaengen(vorgang was, int spur);
+    void kopfzeile(std::string_view text);
+    void entscheidung(std::string_view text);
+    void einordnen(geschehen& g);
+    /// `aussen`: it does not lie in another, where answers look alike.
+    void tat(std::string_view name, std::string_view rest, bool aussen);
+    void umsetzen(std::string_view rest);
+    void verschieben(zeit_ms um);
+    /// What crossings have been stamped with is right already.
+    void nachruecken(zeit_ms um);
+    void taste(std::int64_t code);
+    void geraet(std::int64_t art);
+
+    rennhergang& h_;
+    zeit_ms zeit_ = 0;
+    std::optional<zeit_ms> stempel_der_tat_;
+    std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
+    zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
+    int nachgerueckt_ = 0;        ///< so often without the crossings
+    spuren<int> fahrer_{};
+    spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
+    spuren<std::int64_t> letzte_runde_{};
+    std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
+};
+
+}  // namespace tarvel
