@@ -36,7 +36,8 @@ Spurblock::Spurblock(bahn1& bahn, int spur, Binder& binder,
     anzeigen(spur_teil::bestzeit_label, bahn.bestzeit_label[spur], "bestzeit_label" + nummer_)->setLeise();
     rundenliste();
     anzeigen(spur_teil::straflabel, bahn.straflabel[spur], "straflabel" + nummer_)->setFett(true);
-    anzeigen(spur_teil::rueckstand, bahn.rueckstand[spur], "rueckstand" + nummer_)->setZweizeilig();
+    constexpr int mit_tausenden = 3;  // of laps: a narrow place has a line for each word
+    anzeigen(spur_teil::rueckstand, bahn.rueckstand[spur], "rueckstand" + nummer_)->setMehrzeilig(mit_tausenden);
     flaeche();
     lagetafel();
     hinweisschild();

@@ -11,13 +11,13 @@ namespace {
 
 constexpr double kleinste_verkleinerung = 0.4;
 
-/// Broken between two words where the longer line is shortest. A single word stays whole.
-QString umbrochen(const QString& text, const QFontMetricsF& masse) {
+/// Broken between words into so many lines at most, where the longest line is shortest. A single word stays whole.
+QString umbrochen(const QString& text, const QFontMetricsF& masse, int zeilen) {
     QString bester = text;
-    for (qsizetype luecke = text.indexOf(' '); luecke > 0; luecke = text.indexOf(' ', luecke + 1)) {
-        const QString zeilen = QString(text).replace(luecke, 1, '\n');
-        if (masse.size(0, zeilen).width() < masse.size(0, bester).width()) {
-            bester = zeilen;
+    for (qsizetype luecke = text.indexOf(' '); zeilen > 1 && luecke > 0; luecke = text.indexOf(' ', luecke + 1)) {
+        const QString neu = text.left(luecke) + '\n' + umbrochen(text.mid(luecke + 1), masse, zeilen - 1);
+        if (masse.size(0, neu).width() < masse.size(0, bester).width()) {
+            bester = neu;
         }
     }
     return bester;
@@ -70,8 +70,8 @@ void TextAnzeige::setBlass(bool blass) {
     }
 }
 
-void TextAnzeige::setZweizeilig() {
-    zweizeilig_ = true;
+void TextAnzeige::setMehrzeilig(int hoechstens) {
+    zeilen_ = hoechstens;
     update();
 }
 
@@ -134,11 +134,11 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
     Satz satz{text_, schrift_, Qt::TextSingleLine, false};
     double faktor = std::min(width() / std::max(masse.horizontalAdvance(text_), 1.0), height() / masse.capHeight());
     const double kleinster = std::max(kleinste_verkleinerung, std::min(1.0, 1.0 * mindest_px_ / schrift_.pixelSize()));
-    if (faktor < 1 && zweizeilig_) {
-        const QString zeilen = umbrochen(text_, masse);
+    for (int anzahl = 2; faktor < 1 && anzahl <= zeilen_; ++anzahl) {
+        const QString zeilen = umbrochen(text_, masse, anzahl);
         const QSizeF platz = masse.size(0, zeilen);
         const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
-        constexpr double gewinn = 1.2;  // a little more is not worth a second line
+        constexpr double gewinn = 1.2;  // a little more is not worth another line
         if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : gewinn * faktor)) {
             satz.text = zeilen;
             faktor = gebrochen;

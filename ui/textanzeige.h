@@ -27,8 +27,9 @@ public:
     void setLeise();
     /// It counts no more.
     void setBlass(bool blass);
-    /// A text that is too long for its place breaks at a gap, where that leaves it larger.
-    void setZweizeilig();
+    /// A text that is too long for its place breaks at gaps, where that leaves it larger.
+    void setMehrzeilig(int hoechstens);
+    void setZweizeilig() { setMehrzeilig(2); }
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
     /// The colour that windows have for this, light or dark as they are.
@@ -69,7 +70,7 @@ private:
     bool plakette_ = false;
     double deckkraft_ = 1;
     bool blass_ = false;
-    bool zweizeilig_ = false;
+    int zeilen_ = 1;
     int mindest_px_ = 0;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };
