@@ -115,6 +115,8 @@ struct bahn1 {
         std::string fortsetzen;
         std::string startampel;
         std::string fruehstart;
+        /// What it costs; index is the action, "%1" are seconds.
+        std::array<std::string, 6> fruehstart_folgen;
         std::string bestzeit;  ///< in front of the time
         std::string cu_start;  ///< what is to do at the device, for the start
         std::string cu_pause;  ///< and in a pause

@@ -128,6 +128,11 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     for (std::size_t i = 0; i < trainings.size(); ++i) {
         texte.text(trainings.at(i), bahn.wort.training.at(i));
     }
+    constexpr std::array<const char*, 6> folgen{"ohne Strafe",     "Start wird wiederholt", "disqualifiziert",
+                                                "%1 s ohne Strom", "1 Runde Abzug",         "%1 s Zeitstrafe"};
+    for (std::size_t i = 0; i < folgen.size(); ++i) {
+        texte.text(folgen.at(i), bahn.wort.fruehstart_folgen.at(i));
+    }
     return texte;
 }
 

@@ -16,7 +16,7 @@ struct form2 {
     bezeichnung Label_stage;
     rahmen Nachtabschaltung;       ///< black ground over the whole screen; the lamps stay in sight
     bezeichnung Label1;            ///< the start is stopped by a false start
-    bezeichnung Label_fruehstart;  ///< lanes that moved too early
+    bezeichnung Label_fruehstart;  ///< who moved too early, and what it costs
     befehl abbrampel;              ///< stops the start, or closes the light of a stopped one
 };
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "start/fruehstartansage.h"
+
 namespace tarvel {
 namespace {
 
@@ -268,14 +270,11 @@ void startampel::fruehstart_tick() {
 }
 
 void startampel::fruehstart_zeigen() {
-    std::string nummern;
+    spuren<bool> zu_frueh;
     for (const int spur : alle_spuren) {
-        if (fruehstart_.erkannt(spur)) {
-            nummern += nummern.empty() ? " " : ", ";
-            nummern += std::to_string(spur);
-        }
+        zu_frueh[spur] = fruehstart_.erkannt(spur);
     }
-    fenster.Label_fruehstart.text(um_.bahn.wort.fruehstart + ": " + um_.bahn.wort.spur + nummern);
+    fenster.Label_fruehstart.text(fruehstart_gesagt(um_, zu_frueh));
     fenster.Label_fruehstart.sichtbar(true);
 }
 

@@ -5,7 +5,18 @@
 namespace tarvel {
 namespace {
 
-class Fruehstart : public test::StartampelProbe {};
+class Fruehstart : public test::StartampelProbe {
+protected:
+    /// What the light says of it; its lines break only where it has plain blanks.
+    std::string gesagt(bool mit_umbruch = false) {
+        std::string text = t.p.startampel.fenster.Label_fruehstart.text();
+        constexpr std::string_view fest = "\u00A0";
+        for (auto ort = text.find(fest); ort != std::string::npos; ort = text.find(fest)) {
+            text.replace(ort, fest.size(), mit_umbruch ? "_" : " ");
+        }
+        return text;
+    }
+};
 
 TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
     t.p.einst.fruehstart_option = fruehstart_aktion::zeitstrafe;
@@ -19,7 +30,7 @@ TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
     EXPECT_EQ(t.bahn().straflabel[2].text(), "Strafzeit: 7 sec");
     EXPECT_TRUE(t.bahn().straflabel[2].sichtbar());
     EXPECT_EQ(t.maschine.sounds.back(), "sound\\fs2.wav");
-    EXPECT_EQ(t.p.startampel.fenster.Label_fruehstart.text(), "Frühstart: Spur 2");
+    EXPECT_EQ(gesagt(), "Frühstart: Spur 2 · Fahrer 2 — 7 s Zeitstrafe");
     ampeltaste('2');
     EXPECT_EQ(t.spur(2).strafzeit, 7s) << "a second false start costs nothing more";
     EXPECT_EQ(gespielt("fs2.wav"), 1);
@@ -27,7 +38,7 @@ TEST_F(Fruehstart, FruehstartWirdImNaechstenTaktBemerktUndAngesagt) {
     t.p.ereignisse.ereignis_melden(29);  // a tank contact of the same lane, and one of a lane that is not in the race
     t.p.ereignisse.ereignis_melden(36);
     t.maschine.laufen(1);
-    EXPECT_EQ(t.p.startampel.fenster.Label_fruehstart.text(), "Frühstart: Spur 2, 5");
+    EXPECT_EQ(gesagt(true), "Frühstart: Spur_2_·_Fahrer_2, 5 —_7_s_Zeitstrafe");
     EXPECT_FALSE(t.bahn().straflabel[5].sichtbar()) << "no notice on a column that is not shown";
 }
 
@@ -41,6 +52,7 @@ TEST_F(Fruehstart, StromunterbrechungDauertVonGruenAn) {
     t.maschine.laufen(4000);
     t.p.startampel.taste('3');
     t.maschine.laufen(2);
+    EXPECT_EQ(gesagt(), "Frühstart: Spur 3 · Fahrer 3 — 5 s ohne Strom");
     EXPECT_FALSE(strom(3));
     EXPECT_TRUE(strom(1));
     EXPECT_TRUE(t.bahn().ampel_rt[2].sichtbar());
@@ -96,14 +108,18 @@ TEST_F(Fruehstart, OhneStromausfallIstDieSperreImErstenRennenSoKurzWieSpaeter) {
 }
 
 TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
-    for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler] :
-         {std::tuple(0, 0, 0, true, "0"), {2, -1, 0, false, "Dis."}, {4, -1, 0, true, "0"}, {5, -1, 10, true, "0"}}) {
+    for (const auto& [option, runden_bei_gruen, strafzeit, mit_strom, zaehler, folge] :
+         {std::tuple(0, 0, 0, true, "0", "ohne Strafe"),
+          {2, -1, 0, false, "Dis.", "disqualifiziert"},
+          {4, -1, 0, true, "0", "1 Runde Abzug"},
+          {5, -1, 10, true, "0", "10 s Zeitstrafe"}}) {
         SCOPED_TRACE(option);
         t.p.einst.fruehstart_option = fruehstart_aktion(option);
         t.p.einst.fruehstart_strafzeit = 3s;
         beginnen(3);
         t.maschine.laufen(5000);
         ampeltaste('2');
+        EXPECT_EQ(gesagt(), std::string("Frühstart: Spur 2 · Fahrer 2 — ") + folge);
         t.maschine.laufen(2000 + 5 * 1500 - 5002);
         ASSERT_TRUE(rennen_laeuft());
         EXPECT_EQ(t.runden(2), runden_bei_gruen);
@@ -122,6 +138,21 @@ TEST_F(Fruehstart, JedeAndereAktionTrifftNurIhreSpur) {
     }
 }
 
+TEST_F(Fruehstart, VieleLangeNamenHabenAlleIhrenPlatz) {
+    t.p.einst.fruehstart_option = fruehstart_aktion::runde_abzug;
+    beginnen(1, {1, 2, 3, 4, 5, 6});
+    t.p.param.fahrer_name.fuellen("Ümit Ärger-Öztürk von und zu Ü");
+    t.maschine.laufen(5000);
+    ampeltaste('6');
+    EXPECT_EQ(gesagt(), "Frühstart: Spur 6 · Ümit Ärger-Öztürk von und zu Ü — 1 Runde Abzug");
+    for (const char spur : {'1', '2', '3', '4', '5'}) {
+        ampeltaste(spur);
+    }
+    EXPECT_EQ(gesagt(),
+              "Frühstart: Spur 1 · Ümit Ärger…, 2 · Ümit Ärger…, 3 · Ümit Ärger…, 4 · Ümit Ärger…, 5 · Ümit Ärger…, "
+              "6 · Ümit Ärger… — 1 Runde Abzug");
+}
+
 TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
     t.p.einst.fruehstart_option = fruehstart_aktion::startabbruch;
     for (const int modus : {1, 7}) {
@@ -132,6 +163,7 @@ TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {
         EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2)) << "a hidden light comes out";
         EXPECT_TRUE(t.p.startampel.fenster.Label1.sichtbar());
         EXPECT_EQ(t.p.startampel.fenster.Label1.text(), "Rennabbruch: Frühstart");
+        EXPECT_EQ(gesagt(), "Frühstart: Spur 1 · Fahrer 1 — Start wird wiederholt");
         EXPECT_EQ(t.p.startampel.fenster.abbrampel.text(), "OK");
         EXPECT_FALSE(strom(1) || strom(3));
         t.maschine.laufen(60000);

@@ -58,6 +58,10 @@ QWidget* AmpelFenster::lampenkasten(std::span<bild> lampen, int je_reihe, const 
     return kasten;
 }
 
+int AmpelFenster::schrift_px(int kante) {
+    return std::clamp(kante / 5, 14, 40);
+}
+
 int AmpelFenster::reihen() const {
     const auto an = std::count_if(lampen_.begin(), lampen_.end(), [](const Ampelfeld* l) { return !l->isHidden(); });
     return std::max(static_cast<int>(an) / je_reihe_, 1);
@@ -75,7 +79,7 @@ void AmpelFenster::masse_setzen(const QRect& platz, const QRect& eigener) {
     }
     for (QWidget* text : texte_) {
         QFont schrift = text->font();
-        schrift.setPixelSize(std::clamp((schmal ? hoehe : kante) / 5, 14, 40));
+        schrift.setPixelSize(schrift_px(schmal ? hoehe : kante));
         text->setFont(schrift);
     }
     skalieren(kante);

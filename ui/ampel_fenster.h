@@ -38,6 +38,8 @@ protected:
     /// A widget whose font goes with the size of the lamps.
     void text_aufnehmen(QWidget* widget) { texte_.push_back(widget); }
     void anordnen();
+    /// Of the texts, beside lamps of this size in pixels.
+    static int schrift_px(int kante);
     /// Sizes what the window has beside lamps and texts, for lamps of this size in pixels.
     virtual void skalieren(int /*kante*/) {}
     /// Where the light stands instead of its usual place, on the screen; empty for there. It is as high as that, with

@@ -47,15 +47,24 @@ QWidget* Form2Fenster::hinweise() {
     zeilen->setSpacing(2);
     QLabel* abbruch = binder().label(logik_.fenster.Label1, "Label1");
     abbruch->setStyleSheet("color: #ff5a4a;");
-    QLabel* spuren = binder().label(logik_.fenster.Label_fruehstart, "Label_fruehstart");
-    spuren->setStyleSheet("color: #ffc83c;");
-    for (QLabel* text : {abbruch, spuren}) {
-        text->setAlignment(Qt::AlignCenter);
+    abbruch->setAlignment(Qt::AlignCenter);
+    text_aufnehmen(abbruch);
+    zu_frueh_ = new TextAnzeige(kasten);
+    zu_frueh_->setFarbe(QColor(255, 200, 60));
+    zu_frueh_->setFett(true);
+    zu_frueh_->setZweizeilig();
+    bezeichnung& fruehstart = logik_.fenster.Label_fruehstart;
+    binder().verbinden(fruehstart, zu_frueh_, "Label_fruehstart", [this, &fruehstart] {
+        zu_frueh_->setText(QString::fromStdString(fruehstart.text()));
+        if (isVisible()) {
+            anordnen();  // names need more room than a few lamps
+        }
+    });
+    for (QWidget* text : {static_cast<QWidget*>(abbruch), static_cast<QWidget*>(zu_frueh_)}) {
         QSizePolicy haelt_platz = text->sizePolicy();
         haelt_platz.setRetainSizeWhenHidden(true);
         text->setSizePolicy(haelt_platz);
-        zeilen->addWidget(text);
-        text_aufnehmen(text);
+        zeilen->addWidget(text, 0, Qt::AlignHCenter);
     }
     return kasten;
 }
@@ -105,6 +114,10 @@ void Form2Fenster::skalieren(int kante) {
     for (QWidget* baumlicht : lichter_) {
         baumlicht->setFixedSize(rund, rund);
     }
+    constexpr int lampen_breit = 5;  // as the widest light is
+    zu_frueh_->setSchriftPx(schrift_px(kante));
+    const int zeile = zu_frueh_->sizeHint().height();
+    zu_frueh_->setFixedSize(logik_.fenster.Label_fruehstart.sichtbar() ? lampen_breit * kante : 1, 2 * zeile);
 }
 
 }  // namespace tarvel::ui

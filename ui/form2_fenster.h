@@ -4,6 +4,7 @@
 
 #include "start/startampel.h"
 #include "ui/ampel_fenster.h"
+#include "ui/textanzeige.h"
 
 namespace tarvel::ui {
 
@@ -24,6 +25,7 @@ private:
 
     startampel& logik_;
     std::vector<QWidget*> lichter_;
+    TextAnzeige* zu_frueh_ = nullptr;
 };
 
 }  // namespace tarvel::ui

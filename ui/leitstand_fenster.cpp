@@ -258,6 +258,8 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
     zeile->addWidget(binder().knopf(ampel_.abbrampel, "abbrampel"));
     TextAnzeige* zu_frueh = gross(binder().anzeige(ampel_.Label_fruehstart, "Label_fruehstart"), schrift_px, true);
     zu_frueh->setFarbe(gelb_der_lage);
+    zu_frueh->setZweizeilig();
+    zu_frueh->setMinimumHeight(kasten_px + schrift_px);
     zu_frueh->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     zeile->addWidget(zu_frueh, 1);
     zeile->addStretch();

@@ -29,6 +29,20 @@ QWidget& ampel_im_rennen(buehne& b) {
     return b.o.bahn1;
 }
 
+/// Some have moved too early, one of them with a long name.
+template <fruehstart_aktion aktion, bool zeilen = false>
+QWidget& zu_frueh(buehne& b, const char* spuren) {
+    b.p.einst.fruehstart_option = aktion;
+    b.p.einst.fruehstart_strafzeit = 5s;
+    b.p.einst.fruehstart_schritte = 5s;
+    ampel_im_rennen<zeilen, 1, 2, 3, 4, 5, 6>(b);
+    b.p.param.fahrer_name[2] = "Maximiliane Freifrau von Straß";
+    for (const char* spur = spuren; *spur != '\0'; ++spur) {
+        b.t.taste({spur, 1});
+    }
+    return b.o.bahn1;
+}
+
 template <zeit_ms gefahren = 31000>
 QWidget& tanken(buehne& b) {
     b.p.form1.t_aktiv.gesetzt(true);
@@ -287,6 +301,17 @@ const std::vector<szeneneintrag> alle_rennszenen{
          return b.o.form2;
      },
      true},
+    {"fruehstart_strom", [](buehne& b) -> QWidget& { return zu_frueh<fruehstart_aktion::stromunterbrechung>(b, "2"); }},
+    {"fruehstart_zeitstrafe_zeilen",
+     [](buehne& b) -> QWidget& { return zu_frueh<fruehstart_aktion::zeitstrafe, true>(b, "24"); }},
+    {"fruehstart_rennleitung",
+     [](buehne& b) -> QWidget& {
+         zu_frueh<fruehstart_aktion::zeitstrafe>(b, "24");
+         b.p.fenster.zeigen(fenstername::leitstand);
+         b.t.maschine.laufen(400);
+         return *b.o.leitstand;
+     }},
+    {"fruehstart_alle", [](buehne& b) -> QWidget& { return zu_frueh<fruehstart_aktion::runde_abzug>(b, "123456"); }},
 };
 
 }  // namespace
