@@ -137,6 +137,7 @@ struct bahn1 {
         std::string zu_kurz;  ///< in front of the time of the lap
         std::string noch_in_der_box;
         std::string vor_gruen;
+        std::string in_der_pause;
         std::string runde_wartet;  ///< counts behind a penalty
         rueckstand_worte zurueck;
         std::array<std::string, 3> training;  ///< its kinds

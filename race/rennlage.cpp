@@ -151,6 +151,17 @@ void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
     label.sichtbar(!label.text().empty());
 }
 
+/// One in a pause waits there to be forgotten; a contact that bounces behind one that counts is none.
+letzte_ablehnung rennlage::zuletzt_abgelehnt(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    const ereignis_tabelle& ereignisse = um_.ereignisse;
+    const ereignis_zeile& wartet = ereignisse[art::rundenzaehlung[spur]];
+    const bool in_der_pause = um_.zustand.chaos_aktiv && !um_.zeitgeber.ch_durch0->laeuft() && wartet.aktiv &&
+                              !wartet.vorgemerkt && wartet.ereignis_zeit >= um_.zustand.pause.start &&
+                              wartet.ereignis_zeit - zustand.verworfen_bei >= prellen_ms;
+    return in_der_pause ? letzte_ablehnung{wartet.ereignis_zeit, ablehnung::pause} : zustand.abgelehnt;
+}
+
 /// Of a crossing that did not count, only where nothing that the lane is in says it already.
 rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
     constexpr zeit_ms gesagt_ms = 2000;
@@ -159,14 +170,16 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
     if (was == lage::leer && zustand.tank_strafe_aktiv) {
         return {um_.zustand.konto.haelt_zurueck(spur) ? spurhinweis::runde_wartet : spurhinweis::keiner};
     }
-    const letzte_ablehnung& letzte = zustand.abgelehnt;
+    const letzte_ablehnung letzte = zuletzt_abgelehnt(spur);
     const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
-    const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer;
+    const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer ||
+                      (was == lage::pause && letzte.grund == ablehnung::pause);
     const bool eben = seither >= 0 && seither < gesagt_ms && letzte.stempel > zustand.gezaehlt_bei;
     if (!frei || !eben || um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
         return {};
     }
-    constexpr std::array gesagt{ablehnung::zu_schnell, ablehnung::volltanken, ablehnung::vor_dem_start};
+    constexpr std::array gesagt{ablehnung::zu_schnell, ablehnung::volltanken, ablehnung::vor_dem_start,
+                                ablehnung::pause};
     const bool wird_gesagt = std::find(gesagt.begin(), gesagt.end(), letzte.grund) != gesagt.end();
     return wird_gesagt ? hinweisgrund{spurhinweis::ungezaehlt, letzte.grund, letzte.zeit} : hinweisgrund();
 }
@@ -178,6 +191,9 @@ std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     }
     if (g.grund == ablehnung::zu_schnell) {
         return wort.zu_kurz + " " + dauer_gesagt(std::max<zeit_ms>(g.zeit, 0), um_.einst.trennzeichen);
+    }
+    if (g.grund == ablehnung::pause) {
+        return wort.in_der_pause;
     }
     return g.grund == ablehnung::volltanken ? wort.noch_in_der_box : wort.vor_gruen;
 }

@@ -149,6 +149,35 @@ TEST_F(Rennlage, WasNichtZaehltSagtWarumUndNurEinenAugenblick) {
     EXPECT_EQ(hinweis(2), "") << "the pause says enough";
 }
 
+TEST_F(Rennlage, UeberfahrtInDerPauseSagtDassSieNichtZaehlt) {
+    t.p.einst.sensor_timeout = 500ms;
+    const auto rollt = [this](char spur) {
+        t.p.rennen.befehle.taste(spur, 0);
+        t.maschine.laufen(20);
+    };
+    fahren("Zeit", "5");
+    t.maschine.laufen(8000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(100);
+    rollt('1');
+    rollt('1');  // bounces
+    t.maschine.laufen(600);
+    EXPECT_EQ(hinweis(1), "") << "counts behind the pause";
+    rollt('2');
+    EXPECT_EQ(hinweis(2), "in der Pause");
+    EXPECT_EQ(hinweis(3), "");
+    t.maschine.laufen(2000);
+    EXPECT_EQ(hinweis(2), "") << "said for a moment";
+    rollt('3');
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(hinweis(3), "in der Pause") << "and as long where the race has gone on";
+    t.maschine.laufen(1000);
+    EXPECT_EQ(hinweis(3), "");
+    EXPECT_EQ(t.runden(1), 1);
+    EXPECT_EQ(t.runden(2), 0);
+}
+
 TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {
     t.p.einst.zielmodus_erster = false;
     const auto zurueck = [&](int spur) {

@@ -120,6 +120,21 @@ QWidget& hinweise(buehne& b) {
     return b.o.bahn1;
 }
 
+/// In a pause two cars roll over the line.
+template <bool zeilen, int... spuren>
+QWidget& pause_mit_ueberfahrten(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.rundenrennen(40000, "30", {spuren...});
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(12000);
+    for (const char taste : {'1', '2'}) {
+        b.p.rennen.befehle.taste(taste, 0);
+    }
+    b.t.maschine.laufen(1);
+    return b.o.bahn1;
+}
+
 template <bool zeilen, int... spuren>
 QWidget& pause_kurz(buehne& b) {
     b.p.einst.darstellung_zeile = zeilen;
@@ -182,6 +197,11 @@ const std::vector<szeneneintrag> alle_lagenszenen{
     {"pause_zeilen_vier", pause_kurz<true, 1, 2, 3, 4>},
     {"pause_zeilen_drei", pause_kurz<true, 1, 2, 3>},
     {"pause_zeilen_zwei", pause_kurz<true, 1, 2>},
+    {"pause_hinweis_sechs", pause_mit_ueberfahrten<false, 1, 2, 3, 4, 5, 6>},
+    {"pause_hinweis_drei", pause_mit_ueberfahrten<false, 1, 2, 3>},
+    {"pause_hinweis_zwei", pause_mit_ueberfahrten<false, 1, 2>},
+    {"pause_hinweis_zeilen_sechs", pause_mit_ueberfahrten<true, 1, 2, 3, 4, 5, 6>},
+    {"pause_hinweis_zeilen_zwei", pause_mit_ueberfahrten<true, 1, 2>},
     {"rennen_pause_taster",
      [](buehne& b) -> QWidget& {
          b.rennen(40000);
