@@ -68,6 +68,7 @@ struct bahn1 {
     spuren<bezeichnung> Label_brunde;
     spuren<bezeichnung> bestzeit_label;  ///< best time of the lane before the race; hidden if there is none
     bezeichnung bestzeit_gesamt;         ///< the record of the track, with its holder
+    bezeichnung ergebnisfolge;           ///< in its place behind the end: the order of the result, where it is another
 
     form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven

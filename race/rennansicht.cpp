@@ -173,7 +173,15 @@ void rennansicht::bestzeit_anzeige() {
     const bestzeit& rekord = um_.bestzeiten.gesamt();
     bahn.bestzeit_gesamt.text(
         rekord.leer() ? "" : bahn.wort.rekord + zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
-    bahn.bestzeit_gesamt.sichtbar(um_.einst.beste_modus != bestzeit_speicherung::aus && !rekord.leer());
+    ergebnis_nennen("");
+}
+
+void rennansicht::ergebnis_nennen(const std::string& folge) {
+    bahn1& bahn = um_.bahn;
+    bahn.ergebnisfolge.text(folge);
+    bahn.ergebnisfolge.sichtbar(!folge.empty());
+    const bool mit_rekord = um_.einst.beste_modus != bestzeit_speicherung::aus && !bahn.bestzeit_gesamt.text().empty();
+    bahn.bestzeit_gesamt.sichtbar(mit_rekord && folge.empty());
 }
 
 void rennansicht::farben_setzen() {
@@ -203,7 +211,7 @@ void rennansicht::farben_setzen() {
             teil->schriftfarbe(um_.einst.farben_schrift[2]);
         }
     }
-    for (bezeichnung* label : {&bahn.bestzeit_gesamt, &bahn.nachlauflabel, &bahn.ziel_label,
+    for (bezeichnung* label : {&bahn.bestzeit_gesamt, &bahn.ergebnisfolge, &bahn.nachlauflabel, &bahn.ziel_label,
                                &bahn.Label_naechstesrennen, &bahn.Label5, &bahn.werbe_label, &bahn.restrunden,
                                &bahn.Label_restrunden, &bahn.ch_Label1, &bahn.ch_Label2, &bahn.ch_Label3}) {
         label->schriftfarbe(um_.einst.farben_schrift[2]);

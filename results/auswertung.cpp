@@ -89,6 +89,7 @@ void auswertung::wieder_oeffnen() {
 
 void auswertung::entladen() {
     zeitgeber_aus();
+    r_.ansicht.ergebnis_nennen("");
     if (zieltimer_->laeuft()) {
         zielsignal_beenden();
     }
@@ -169,8 +170,9 @@ void auswertung::auswertung_anzeigen() {
     gewaehlte_spur_ = 0;
     u_.stand.auswerten();
     kopf_label.text(kopf());
-    Label_ab_gruen.text(ergebnistext::ab_gruen(ergebnis(), blatt.ab_gruen));
+    Label_ab_gruen.text(ergebnistext::ab_gruen(ergebnis(), blatt));
     Label_ab_gruen.sichtbar(!Label_ab_gruen.text().empty());
+    folge_auf_der_bahn_nennen();
     for (const int spur : alle_spuren) {
         const rennergebnis::spur* s = ergebnis().auf(spur);
         Frame[feld_index(spur)].sichtbar(s != nullptr);
@@ -186,6 +188,16 @@ void auswertung::auswertung_anzeigen() {
         nachtrag_fuellen(nachtrag.spur(), nachtrag.runde());
     }
     verlauf_nachfuehren();
+}
+
+void auswertung::folge_auf_der_bahn_nennen() {
+    spuren<int> auf_der_bahn;
+    for (const int spur : alle_spuren) {
+        auf_der_bahn[spur] = r_.plaetze.position(feld_index(spur));
+    }
+    const bool ab_erster = !anders_ab_gruen(ergebnis()).empty();
+    const std::string& wort = ab_erster ? wort_.folge_ab_erster : wort_.folge;
+    r_.ansicht.ergebnis_nennen(ergebnistext::anders_auf_der_bahn(ergebnis(), auf_der_bahn, wort));
 }
 
 void auswertung::spur_anzeigen(const rennergebnis::spur& s) {

@@ -162,6 +162,8 @@ private:
         std::string gesamtzeit;  ///< and what the total time is
         std::string zurueck, wieder, nachgetragen, geteilt, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
+        std::string folge;                   ///< in front of the order that the race window does not show
+        std::string folge_ab_erster;         ///< the same where it is the own first crossing that makes it
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
     };
 
@@ -172,6 +174,8 @@ private:
     void ansagen_setzen();
     void bedienung_einrichten();
     void ziel_vorschlagen();
+    /// To those who look at the race window.
+    void folge_auf_der_bahn_nennen();
     void spur_anzeigen(const rennergebnis::spur& s);
     void bilder_anzeigen(const rennergebnis::spur& s);
     void rundenliste_schreiben(const rennergebnis::spur& s);

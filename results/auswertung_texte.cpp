@@ -66,7 +66,9 @@ sprachliste auswertung::sprache_a() {
     blatt.rueckstand.eintragen(texte).text("Überfahrten zählen noch mit", Label_vorlaeufig);
     blatt.ab_gruen_nennen(texte);
     texte.fuer_alle("Sektoren", cmd_anzeige).fuer_alle("nächste", cmd_rd_add);
-    return texte.fuer_alle("löschen", cmd_rd_inc);
+    texte.fuer_alle("löschen", cmd_rd_inc);
+    blatt.fruehstart_nennen(texte).text("Ergebnis:", wort_.folge);
+    return texte.text("Ergebnis ab eigener erster Überfahrt:", wort_.folge_ab_erster);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

@@ -1,5 +1,6 @@
 #include "results/ergebnistexte.h"
 
+#include <array>
 #include <cstdlib>
 
 #include "core/text.h"
@@ -76,10 +77,43 @@ std::string tempo(const spur& s) {
     return ueber(zahl_lesen(s.laenge), s.beste) + " / " + ueber(in_der_zeit, s.gesamtzeit) + " km/h";
 }
 
-std::string ab_gruen(const rennergebnis& ergebnis, const std::string& wort) {
-    std::string text;
+namespace {
+
+void aufzaehlen(std::string& text, const std::string& wort, const std::string& eines) {
+    text += (text.empty() ? wort + " " : ", ") + eines;
+}
+
+std::string mit_platz(int platz, const spur& s) {
+    return std::to_string(platz) + ".\u00A0" + s.fahrer;  // a line may end between two names
+}
+
+}  // namespace
+
+std::string ab_gruen(const rennergebnis& ergebnis, const blatt_worte& wort) {
+    std::string folge;
     for (const auto& [platz, nummer] : anders_ab_gruen(ergebnis)) {
-        text += (text.empty() ? wort + " " : ", ") + std::to_string(platz) + ". " + ergebnis.auf(nummer)->fahrer;
+        aufzaehlen(folge, wort.ab_gruen, mit_platz(platz, *ergebnis.auf(nummer)));
+    }
+    std::string zu_frueh;
+    for (const int nummer : gezaehlt_ab_gruen(ergebnis)) {
+        aufzaehlen(zu_frueh, wort.nach_fruehstart, ergebnis.auf(nummer)->fahrer);
+    }
+    return folge + (folge.empty() || zu_frueh.empty() ? "" : "\n") + zu_frueh;
+}
+
+std::string anders_auf_der_bahn(const rennergebnis& ergebnis, const spuren<int>& auf_der_bahn,
+                                const std::string& wort) {
+    std::array<const spur*, spuren_max> nach_platz{};
+    for (const spur& s : ergebnis.spuren) {
+        if (s.rundenzahl() > 0 && !s.disqualifiziert && s.platz != auf_der_bahn[s.nummer]) {
+            nach_platz.at(feld_index(*s.platz)) = &s;
+        }
+    }
+    std::string text;
+    for (const spur* s : nach_platz) {
+        if (s != nullptr) {
+            aufzaehlen(text, wort, mit_platz(*s->platz, *s));
+        }
     }
     return text;
 }

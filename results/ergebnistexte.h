@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/spuren.h"
 #include "core/zeit.h"
 #include "race/rennergebnis.h"
 #include "results/ergebnisworte.h"
@@ -27,8 +28,10 @@ std::string rueckstand(const rennergebnis& ergebnis, const spur& s, const ruecks
 /// Speed of the best lap and on average.
 std::string tempo(const spur& s);
 /// The order from the green light, where it is another than the standing: who was first over the line by eye may be
-/// second by his laps. Empty else.
-std::string ab_gruen(const rennergebnis& ergebnis, const std::string& wort);
+/// second by his laps. On another line, whose time runs from there all the same. Empty else.
+std::string ab_gruen(const rennergebnis& ergebnis, const blatt_worte& wort);
+/// The places of the standing that the race window, by `auf_der_bahn`, shows otherwise; behind `wort`, or empty.
+std::string anders_auf_der_bahn(const rennergebnis& ergebnis, const spuren<int>& auf_der_bahn, const std::string& wort);
 /// Empty without a penalty; `wort` names it.
 std::string strafe(const spur& s, const std::string& wort);
 

@@ -21,4 +21,8 @@ sprachliste& blatt_worte::ab_gruen_nennen(sprachliste& texte) {
     return texte.text("Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge:", ab_gruen);
 }
 
+sprachliste& blatt_worte::fruehstart_nennen(sprachliste& texte) {
+    return texte.text("Nach einem Frühstart zählt die Zeit schon ab Grün:", nach_fruehstart);
+}
+
 }  // namespace tarvel

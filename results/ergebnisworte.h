@@ -36,7 +36,8 @@ struct blatt_worte {
     std::string tempo;         ///< of the best lap and on average
     std::string strecke;
     std::string rundenzeiten;
-    std::string ab_gruen;  ///< in front of the order from the green light
+    std::string ab_gruen;         ///< in front of the order from the green light
+    std::string nach_fruehstart;  ///< in front of those whose time runs from there
     rueckstand_worte rueckstand;
 
     /// But for the captions that the result window has too: these it sets itself.
@@ -44,6 +45,7 @@ struct blatt_worte {
     /// Those that came later, for the end of the list.
     sprachliste& nachtragen(sprachliste& texte);
     sprachliste& ab_gruen_nennen(sprachliste& texte);
+    sprachliste& fruehstart_nennen(sprachliste& texte);
 };
 
 }  // namespace tarvel

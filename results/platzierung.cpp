@@ -140,4 +140,17 @@ std::vector<platz_ab_gruen> anders_ab_gruen(const rennergebnis& ergebnis) {
     return andere;
 }
 
+std::vector<int> gezaehlt_ab_gruen(const rennergebnis& ergebnis) {
+    std::vector<int> gezaehlte;
+    bool andere = false;
+    for (const rennergebnis::spur& s : ergebnis.spuren) {
+        if (gewertet(s) && s.runden.front().zeit > 0) {
+            andere = true;
+        } else if (gewertet(s) && !s.runden.front().nachgetragen) {
+            gezaehlte.push_back(s.nummer);
+        }
+    }
+    return andere ? gezaehlte : std::vector<int>();
+}
+
 }  // namespace tarvel

@@ -40,4 +40,8 @@ struct platz_ab_gruen {
 /// By place. Empty as long as both orders are the same.
 std::vector<platz_ab_gruen> anders_ab_gruen(const rennergebnis& ergebnis);
 
+/// Lanes whose first crossing was a false start that counted: their first lap, and with it their total time, runs from
+/// the green light. Empty where it does so for nobody or for all.
+std::vector<int> gezaehlt_ab_gruen(const rennergebnis& ergebnis);
+
 }  // namespace tarvel

@@ -89,6 +89,7 @@ TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
     EXPECT_EQ(t.ergebnis(2).platz, 1);
     EXPECT_EQ(t.ergebnis(3).platz, 3);
     EXPECT_FALSE(a.Label_ab_gruen.sichtbar()) << "both have come to the line together";
+    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 1");
     a.Command1.klicken();
 
     t.bahn().Command1.klicken();
@@ -102,8 +103,33 @@ TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
     EXPECT_EQ(t.ergebnis(2).platz, 1) << "5.7 s from its own first crossing";
     EXPECT_TRUE(a.Label_ab_gruen.sichtbar());
     EXPECT_EQ(a.Label_ab_gruen.text(),
-              "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1. Fahrer 1, "
-              "2. Fahrer 2, 3. Fahrer 3");
+              "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1.\u00A0Fahrer 1, "
+              "2.\u00A0Fahrer 2, 3.\u00A0Fahrer 3");
+    EXPECT_EQ(t.bahn().ergebnisfolge.text(),
+              "Ergebnis ab eigener erster Überfahrt: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 3, 3.\u00A0Fahrer 1");
+    EXPECT_TRUE(t.bahn().ergebnisfolge.sichtbar());
+    a.Command1.klicken();
+    EXPECT_FALSE(t.bahn().ergebnisfolge.sichtbar());
+}
+
+TEST_F(Auswertung, StrafeAenderDieFolgeAufDerBahnUndFruehstartDieZeit) {
+    t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
+    t.einrichten("Runden", "2", {1, 2, 3});
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    t.bahn().Command1.klicken();
+    t.maschine.laufen(5000);
+    t.p.startampel.taste('3');
+    t.maschine.laufen(6000);
+    ASSERT_EQ(t.runden(3), 0);
+    t.runde_nach(1000, "12");
+    t.runde_nach(6000, "123");
+    t.spur(1).strafzeit = 5s;
+    t.runde_nach(6000, "1");
+    t.runde_nach(1000, "23");
+    t.rennende();
+    EXPECT_EQ(t.ergebnis(2).platz, 1);
+    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer 2, 3.\u00A0Fahrer 1");
+    EXPECT_EQ(a.Label_ab_gruen.text(), "Nach einem Frühstart zählt die Zeit schon ab Grün: Fahrer 3");
 }
 
 TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {

@@ -17,6 +17,7 @@ namespace {
 
 constexpr double zeile_entwurf_px = 104;  // height of a row at scale 1
 constexpr double breite_entwurf_px = 1240;
+constexpr double schrift_ueber_dem_stand = 16;
 constexpr double skala_max = 3;  // of a wall screen
 constexpr int zeilenabstand_px = 5;
 constexpr int zielfeld_breite_px = 80;
@@ -29,13 +30,12 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand.left(), 8, stil::fensterrand.right(), stil::fensterrand.bottom());
     aufbau->setSpacing(6);
-    TextAnzeige* kopf = binder().anzeige(logik.kopf_label, "kopf_label");
-    kopf->setSchriftPx(20);
-    kopf->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
-    aufbau->addWidget(kopf);
-    QLabel* ab_gruen = binder().label(logik.Label_ab_gruen, "Label_ab_gruen");
-    ab_gruen->setWordWrap(true);
-    aufbau->addWidget(ab_gruen);
+    kopf_ = binder().anzeige(logik.kopf_label, "kopf_label");
+    kopf_->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    aufbau->addWidget(kopf_);
+    ab_gruen_ = binder().label(logik.Label_ab_gruen, "Label_ab_gruen");
+    ab_gruen_->setWordWrap(true);
+    aufbau->addWidget(ab_gruen_);
     aufbau->addWidget(standfeld(ablage), 1);
     aufbau->addWidget(verlaufsfeld(), 1);
     aufbau->addWidget(nachtragsfeld(), 1);
@@ -227,6 +227,11 @@ void AuswertungFenster::ordnen() {
 
 void AuswertungFenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
+    const int gross = static_cast<int>(schrift_ueber_dem_stand * width() / breite_entwurf_px);
+    kopf_->setSchriftPx(std::max(gross, 20));
+    QFont schrift = ab_gruen_->font();
+    schrift.setPixelSize(std::max(gross, 15));
+    ab_gruen_->setFont(schrift);
     skalieren();
 }
 

@@ -35,6 +35,8 @@ private:
     void skalieren();
 
     auswertung& logik_;
+    TextAnzeige* kopf_ = nullptr;
+    QLabel* ab_gruen_ = nullptr;
     Rundendiagramm* diagramm_ = nullptr;
     QWidget* stand_ = nullptr;
     QVBoxLayout* reihen_ = nullptr;

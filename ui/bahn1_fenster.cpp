@@ -273,6 +273,7 @@ void Bahn1Fenster::anordnen() {
         formular_beschriften(formular.schrift_px, formular.ort);
     }
     restrunden_anordnen();
+    folge_anordnen(geometrie.fenster);
     hinweis_anordnen();
     alarm_anordnen();
     update();  // between the blocks the last layout may still be seen

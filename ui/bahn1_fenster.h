@@ -61,6 +61,7 @@ private:
     void nacht_anordnen();
     /// Puts every widget where the layout has it for the window's size.
     void anordnen();
+    void folge_anordnen(const plaetze<fenster_teil>& orte);
     ansicht_geometrie aufteilung() const;
     void befehle_beschriften(int schrift_px);
     void formular_beschriften(int schrift_px, const rechteck& ort);
@@ -78,7 +79,8 @@ private:
     QTimer lagetakt_;             ///< asks what the lanes are in, while the window is to be seen
     Lagetafel* pause_ = nullptr;  ///< over all lanes
     bool mit_pause_ = false;
-    spuren<int> ordnung_{};  ///< of the lanes, as they stand
+    spuren<int> ordnung_{};         ///< of the lanes, as they stand
+    TextAnzeige* folge_ = nullptr;  ///< order of the result
     TextAnzeige* rest_titel_ = nullptr;
     TextAnzeige* rest_zahl_ = nullptr;
     TextAnzeige* nacht_ = nullptr;  ///< black, but for a hint that hardly shows

@@ -46,9 +46,19 @@ void Bahn1Fenster::lagen() {
             anordnen();
         }
     });
+    folge_ = binder().anzeige(logik_.bahn1.ergebnisfolge, "ergebnisfolge");
+    folge_->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     constexpr int lagetakt_ms = 50;
     lagetakt_.setInterval(lagetakt_ms);
     QObject::connect(&lagetakt_, &QTimer::timeout, this, [this] { lagen_nachfuehren(); });
+}
+
+void Bahn1Fenster::folge_anordnen(const plaetze<fenster_teil>& orte) {
+    const rechteck& rekord = orte[f::bestzeit_gesamt].ort;
+    const int rechts = befehle_woanders_ ? rekord.rechts() : orte[f::ch_strafframe].ort.rechts();
+    folge_->setGeometry(rekord.x, rekord.y, rechts - rekord.x, rekord.hoehe);
+    folge_->setSchriftPx(orte[f::bestzeit_gesamt].schrift_px);
+    folge_->setMindestPx(lesbar_px(height()));
 }
 
 void Bahn1Fenster::lagen_nachfuehren() {

@@ -126,13 +126,13 @@ double Blattzeichnung::tabelle(double oben) {
 }
 
 double Blattzeichnung::ab_gruen(double oben) {
-    if (blatt_.ab_gruen.isEmpty()) {
-        return oben;
-    }
     const double hoch = schrift_zusatz * 1.6;
-    text(QRectF(0, oben, groesse_.width(), hoch).adjusted(luft_spalte / 2, 0, -luft_spalte / 2, 0), Qt::AlignLeft,
-         blatt_.ab_gruen, {schrift_zusatz, false, stil::schrift_leise});
-    return oben + hoch;
+    for (const QString& zeile : blatt_.ab_gruen.split('\n', Qt::SkipEmptyParts)) {
+        text(QRectF(0, oben, groesse_.width(), hoch).adjusted(luft_spalte / 2, 0, -luft_spalte / 2, 0), Qt::AlignLeft,
+             zeile, {schrift_zusatz, false, stil::schrift_leise});
+        oben += hoch;
+    }
+    return oben;
 }
 
 void Blattzeichnung::tabellenzeile(const ergebnisblatt::zeile& zeile, const QRectF& feld) {

@@ -81,7 +81,7 @@ ergebnisblatt ergebnisblatt_bilden(const rennergebnis& ergebnis, const blatt_bes
         blatt.kopf += "  ·  " + wort_von(wort.strecke + " " + strecke);
     }
     blatt.rundentitel = wort_von(wort.rundenzeiten);
-    blatt.ab_gruen = wort_von(ergebnistext::ab_gruen(ergebnis, wort.ab_gruen));
+    blatt.ab_gruen = wort_von(ergebnistext::ab_gruen(ergebnis, wort));
     blatt.bild = std::move(bild);
     blatt.spalten = {
         wort_von(wort.platz),   wort_von(wort.spur),  wort_von(wort.fahrer) + " / " + wort_von(wort.fahrzeug),

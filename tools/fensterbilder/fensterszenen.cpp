@@ -180,6 +180,35 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.t.rennende();
          return b.o.auswertung;
      }},
+    {"rennen_ergebnis_anders",  // as the hall sees it behind the result
+     [](buehne& b) -> QWidget& {
+         b.p.einst.rennbild.auf_schirm_2 = true;  // where there is one
+         b.einrichten("Runden", "30", {1, 2, 4, 5, 6});
+         b.t.bahn().Command1.klicken();
+         b.t.runde_nach(1000, "1");
+         b.t.runde_nach(1000, "2456");
+         b.t.runde_nach(6500, "1");
+         b.t.runde_nach(100, "2456");
+         b.t.rennende();
+         return b.o.bahn1;
+     }},
+    {"auswertung_fruehstart",  // the same, and the time of one runs from the green light
+     [](buehne& b) -> QWidget& {
+         b.p.einst.fruehstart_option = fruehstart_aktion::ohne;
+         b.einrichten("Runden", "1", {1, 2, 3, 4, 5, 6});
+         b.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+         b.t.bahn().Command1.klicken();
+         b.t.maschine.laufen(5500);
+         b.t.taste("3");
+         b.t.maschine.laufen(6000);
+         b.t.runde_nach(1000, "1");
+         b.t.runde_nach(1000, "2456");
+         b.t.runde_nach(5500, "1");
+         b.t.runde_nach(100, "23456");
+         b.t.rennende();
+         b.t.maschine.laufen(20000);  // no crossing counts any more
+         return b.o.auswertung;
+     }},
     {"hauptfenster_liste",
      [](buehne& b) -> QWidget& {
          b.p.zuletzt_gefahren.gefahren(b.p.ablage, {"Jonas", "Käthe", "Oma Inge"});
