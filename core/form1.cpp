@@ -21,6 +21,7 @@ form1::form1(umgebung um)
     titel.text(programm_name);
     µwartehinweis.sichtbar(false);
     Frame_liste.sichtbar(false);
+    command_wieder.sichtbar(false);
     befehle_verbinden();
     rennart.bei_aenderung = [this] {
         rennart_geaendert();
@@ -37,8 +38,14 @@ form1::form1(umgebung um)
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
         spur[i].bei_aenderung = [this, i] { spur_geaendert(i); };
-        fahrer[i].bei_aenderung = [this, nummer] { fahrer_Change(nummer); };
-        auto_[i].bei_aenderung = [this, nummer] { autobild_anzeigen(nummer); };
+        fahrer[i].bei_aenderung = [this, nummer] {
+            letztes_mal_vergessen();
+            fahrer_Change(nummer);
+        };
+        auto_[i].bei_aenderung = [this, nummer] {
+            letztes_mal_vergessen();
+            autobild_anzeigen(nummer);
+        };
         fahrer[i].frei(true);
         auto_[i].frei(true);
         fahrer[i].laenge_max(namensliste::name_laenge_max);
@@ -67,6 +74,7 @@ void form1::befehle_verbinden() {
     Command1.bei_klick = [this] { Command1_Click(); };
     Command3.bei_klick = [this] { Command3_Click(); };
     Command11.bei_klick = [this] { Command11_Click(); };
+    command_wieder.bei_klick = [this] { letztes_mal_nehmen(); };
     weitergeben(Command2, beenden);
     weitergeben(Command5, einstellungen_speichern);
     weitergeben(Command6, bahnstrom_ein);
@@ -194,6 +202,7 @@ void form1::einrichtung_zeigen() {
     }
     rennart_geaendert();
     spuren_nach_laden();
+    letztes_mal_zeigen();
 }
 
 void form1::werte_pruefen() {
@@ -317,7 +326,11 @@ bool form1::uebergeben(rennumfang umfang) {
 }
 
 bool form1::einzelrennen_einrichten(rennumfang umfang) {
-    return uebergeben(umfang) && fahrer_einmalig();
+    if (!uebergeben(umfang) || !fahrer_einmalig()) {
+        return false;
+    }
+    letztes_mal_vergessen();
+    return true;
 }
 
 void form1::Command1_Click() {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "core/bestzeiten.h"
 #include "core/einstellungen.h"
@@ -113,6 +114,7 @@ public:
     befehl command_sprache;     ///< the languages that there are, called as the one in force calls itself
     befehl command_aussehen;    ///< light or dark, likewise
     haken felder_merken;        ///< the next start shows the fields as they are at the end
+    befehl command_wieder;      ///< the fields as they were at the last end, while that is offered
 
     /// The race is set up: a race of its own begins with it.
     std::function<void()> einzelrennen_beginnen;
@@ -163,6 +165,12 @@ public:
     void sprache_waehlen(std::size_t welche);
     void aussehen_waehlen(std::size_t welches);
     void erscheinung_zeigen();
+    /// Offers the fields of the last end until a driver or a vehicle is typed or a race is set up; not while its
+    /// drivers stand on their lanes already.
+    void letztes_mal_anbieten(const renneinrichtung& felder);
+    /// Neither taken nor passed over yet: it must not be lost.
+    bool letztes_mal_offen() const { return letztes_mal_.has_value(); }
+    void letztes_mal_vergessen();
     /// Chooses the command file of the AT-2560.
     std::function<void()> befehlsdatei_waehlen;
 
@@ -270,6 +278,8 @@ private:
     void befehle_verbinden();
     void fahrer_Change(int nummer);
     void spuren_zeigen();
+    void letztes_mal_zeigen();
+    void letztes_mal_nehmen();
     int wartende_spur() const;
     void reihe_zeigen();
     /// A result as people say it.
@@ -306,6 +316,8 @@ private:
     std::string wort_fuehrung_;
     std::string wort_runde_;
     std::string wort_automatisch_;
+    std::string wort_letztes_mal_;
+    std::optional<renneinrichtung> letztes_mal_;
     std::array<std::string, 3> wort_aussehen_;  ///< by its number
     std::string einstell_name_;
     std::string standard_name_;

@@ -102,10 +102,14 @@ sprachliste form1::sprache_m2() {
     texte.text("der Spur", [this](const std::string& wort) { Label_bestzeit.text(wort_bestzeit_ + " " + wort); });
     texte.tipp("Die schnellste Runde, die auf dieser Spur je gefahren wurde; wer es war, steht am Mauszeiger",
                Label_bestzeit);
-    return texte.tipp(
+    texte.tipp(
         "Der Verbrauch gilt für eine Runde in der Durchschnittszeit der Einstellungen. Schneller kostet mehr: in der "
         "halben Zeit gut das Doppelte, und so viel kostet auch die erste Überfahrt nach dem Start.",
         tank_label);
+    texte.text("Wie beim letzten Mal:", wort_letztes_mal_);
+    return texte.tipp(
+        "Trägt Rennart, Dauer, Spuren, Fahrer und Fahrzeuge so ein, wie sie standen, als das Programm zuletzt lief",
+        command_wieder);
 }
 
 void form1::ansagen_setzen() {
@@ -158,6 +162,7 @@ void form1::sprache_gewechselt() {
             wer.text(um_.txt.kein_fahrer);
         }
     }
+    letztes_mal_zeigen();
     for (auswahl& womit : auto_) {
         if (!bisherige.empty() && womit.text() == bisherige.front()) {
             womit.text(um_.txt.standardfahrzeug_text);

@@ -24,6 +24,7 @@ std::string ohne_sekunden(std::string wann) {
 
 /// What the record says of the lanes, with all that follows from it in their rows.
 void form1::spuren_zeigen() {
+    letztes_mal_vergessen();
     for (const int nummer : alle_spuren) {
         const std::size_t i = feld_index(nummer);
         const renneinrichtung::spur& s = um_.einrichtung.bahn[nummer];

@@ -176,6 +176,7 @@ bool einstellungspflege::aus_menue_laden(const std::string& name) {
         return false;
     }
     einstell_datei_ = pfad;
+    um_.haupt.letztes_mal_vergessen();  // the operator has chosen others
     laden(true);
     return true;
 }

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "core/hauptfensterdatei.h"
 #include "core/nebendateien.h"
 #include "core/ordner.h"
 #include "core/ordnerblick.h"
@@ -134,7 +133,10 @@ void programm::hauptfenster_verbinden() {
 void programm::wiedergabe_verbinden() {
     rennprotokoll.bei_beginn = [this] {
         fenster.entladen(fenstername::wiedergabe);
-        fahrer_merken();
+        if (rennprotokoll.fuehren) {  // what is driven again was driven before
+            fahrer_merken();
+            hauptfenster_merken();  // an outage in the race does not cost them
+        }
     };
     wiedergabe.darf = [this] { return ruhe_fuer_wiedergabe(); };
     wiedergabe.ausstatten = [this](programm& spiel) {  // whose pictures are whose
@@ -395,12 +397,7 @@ void programm::einstellungen_geladen(bool im_betrieb) {
     strom_von_hand_aus_ = false;
     geraete.hardware_starten(!im_betrieb);
     if (!im_betrieb) {
-        if (einst.anzeige.hauptfenster_wie_zuletzt) {
-            hauptfenster_laden(ablage, txt, einrichtung);
-            form1.einrichtung_zeigen();
-            form1.felder_nach_spuren();
-            form1.bilder_anzeigen();
-        }
+        hauptfenster_wie_zuletzt();
         fenster.zeigen(fenstername::Form1);
         hauptfenster_gilt_ = true;
         fenster.zeigen(fenstername::Form3);

@@ -176,6 +176,8 @@ private:
     void zuletzt_oeffnen(std::size_t welches);
     /// The fields as the next start may want them.
     void hauptfenster_merken();
+    /// The fields as the last end left them, or the offer to have them so.
+    void hauptfenster_wie_zuletzt();
     void erscheinung_waehlen(const erscheinung& neu);
     /// Who is about to drive is offered first the next time.
     void fahrer_merken();

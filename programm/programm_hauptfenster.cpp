@@ -78,9 +78,6 @@ void programm::zuletzt_oeffnen(std::size_t welches) {
 }
 
 void programm::fahrer_merken() {
-    if (!rennprotokoll.fuehren) {
-        return;  // what is driven again was driven before
-    }
     std::vector<std::string> fahrer;
     for (const int nummer : alle_spuren) {
         const std::string& name = param.fahrer_name[nummer];
@@ -101,8 +98,23 @@ void programm::erscheinung_waehlen(const erscheinung& neu) {
     }
 }
 
+void programm::hauptfenster_wie_zuletzt() {
+    renneinrichtung felder = einrichtung;
+    hauptfenster_laden(ablage, txt, felder);
+    if (!einst.anzeige.hauptfenster_wie_zuletzt) {
+        form1.letztes_mal_anbieten(felder);
+        return;
+    }
+    einrichtung = felder;
+    form1.einrichtung_zeigen();
+    form1.felder_nach_spuren();
+    form1.bilder_anzeigen();
+}
+
+/// Always, for only the next start knows whether they are wanted.
 void programm::hauptfenster_merken() {
-    if (hauptfenster_gilt_ && einst.anzeige.hauptfenster_wie_zuletzt) {
+    const bool noch_angeboten = form1.letztes_mal_offen() && !einst.anzeige.hauptfenster_wie_zuletzt;
+    if (hauptfenster_gilt_ && !noch_angeboten) {
         form1.einrichtung_lesen();
         hauptfenster_speichern(ablage, txt, einrichtung);
     }

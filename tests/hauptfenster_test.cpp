@@ -209,6 +209,50 @@ TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
     EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), einstellungen);
 }
 
+TEST_F(Hauptfenster, FahrerVomLetztenMalWerdenAngebotenUndGehenUngefragtNichtVerloren) {
+    f.rennart.eingeben("Runden");
+    f.spur[3].umschalten();
+    f.fahrer[0].eingeben("Anna");
+    f.fahrer[1].eingeben("Jörg von der langen Geraden am Ende");
+    neu_starten();
+    const auto neu = [this] {
+        zweites->programm_beenden();
+        zweites = std::make_unique<programm>(t.maschine.dienste());
+        zweites->starten();
+        return &zweites->form1;
+    };
+    const form1* haupt = neu();  // who only looked in has lost nothing
+    EXPECT_EQ(haupt->fahrer[0].text(), "Fahrer 1");
+    EXPECT_TRUE(haupt->command_wieder.bedienbar());
+    EXPECT_EQ(haupt->command_wieder.text(), "Wie beim letzten Mal: Anna, Jörg von der langen Geraden am Ende, …");
+    zweites->form1.command_wieder.klicken();
+    EXPECT_FALSE(haupt->command_wieder.sichtbar());
+    EXPECT_EQ(haupt->rennart.text() + haupt->fahrer[0].text(), "RundenAnna");
+    EXPECT_FALSE(haupt->spur[3].gesetzt() || haupt->fahrer[3].aktiviert());
+    haupt = neu();
+    EXPECT_TRUE(haupt->command_wieder.sichtbar());
+    zweites->form1.fahrer[2].eingeben("C");
+    EXPECT_FALSE(haupt->command_wieder.sichtbar()) << "somebody sets up another race";
+    zweites->form1.fahrer[2].eingeben("Fahrer 3");
+    haupt = neu();
+    EXPECT_FALSE(haupt->command_wieder.sichtbar()) << "as in the settings file";
+}
+
+TEST_F(Hauptfenster, EinRennbeginnMerktDieFahrerUndNimmtDasAngebotWeg) {
+    f.fahrer[0].eingeben("Anna");
+    neu_starten();
+    zweites->form1.Command3.klicken();
+    EXPECT_TRUE(zweites->form1.command_wieder.sichtbar()) << "a competition has drivers of its own";
+    zweites->wettkampf1.Command4.klicken();
+    zweites->form1.Command1.klicken();
+    EXPECT_FALSE(zweites->form1.command_wieder.sichtbar());
+    zweites->rennen.bahn1.Command1.klicken();
+    programm nach_dem_ausfall(t.maschine.dienste());
+    t.maschine.antwort = false;
+    nach_dem_ausfall.starten();
+    EXPECT_FALSE(nach_dem_ausfall.form1.command_wieder.sichtbar()) << "those of the race that was begun";
+}
+
 TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     t.maschine.datei_schreiben("language-en/language_m2.txt", "x\r\nx\r\n\"Lane\"\r\n");
     t.maschine.datei_schreiben("language-en/language_m1.txt", "x\r\nStandard car\r\n");

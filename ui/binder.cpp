@@ -266,11 +266,14 @@ QLineEdit* Binder::zeile(feld& element, const QString& name) {
     return widget;
 }
 
-QCheckBox* Binder::kasten(haken& element, const QString& name) {
+QCheckBox* Binder::kasten(haken& element, const QString& name, bool buchstabe) {
     auto* widget = new UmbruchKasten(eltern_);
     QObject::connect(widget, &QCheckBox::clicked, widget, [&element] { element.umschalten(); });
-    verbinden(element, widget, name, [&element, widget] {
-        text_nachfuehren(widget, element);
+    verbinden(element, widget, name, [this, &element, widget, buchstabe] {
+        const QString text = buchstabe ? kuerzel_.vergeben(widget, als_text(element.text())) : als_text(element.text());
+        if (widget->text() != text) {
+            widget->setText(text);
+        }
         widget->setChecked(element.gesetzt());
     });
     return widget;

@@ -62,7 +62,8 @@ public:
     /// The command that a window is there for.
     QPushButton* hauptknopf(befehl& element, const QString& name) { return knopf(element, name, "haupt"); }
     QLineEdit* zeile(feld& element, const QString& name);
-    QCheckBox* kasten(haken& element, const QString& name);
+    /// `buchstabe`: ticked with a letter too, as a button is pressed.
+    QCheckBox* kasten(haken& element, const QString& name, bool buchstabe = false);
     QComboBox* auswahlfeld(auswahl& element, const QString& name);
     QListView* listenfeld(liste& element, const QString& name,
                           Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter);

@@ -66,10 +66,11 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     inhalt->setContentsMargins(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
-    auto* spuren = new QHBoxLayout;
+    auto* spuren = new QGridLayout;
     spuren->setSpacing(10);
-    spuren->addWidget(spuren_gruppe(), 1);
-    spuren->addWidget(fahrerliste());
+    spuren->setColumnStretch(0, 1);
+    spuren->addWidget(spuren_gruppe(), 0, 0);
+    spuren->addWidget(fahrerliste(), 0, 1);
     inhalt->addLayout(spuren, 3);
     inhalt->addSpacing(4);
     inhalt->addWidget(rennbefehle());
@@ -77,6 +78,10 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     inhalt->addWidget(statuszeile());
     aufbau->addWidget(flaeche, 5);
     aufbau->addWidget(wartehinweis(), 5);
+    // Beside the title, where it takes no room; made last, for it comes and goes and takes no letter from others.
+    QPushButton* letztes_mal = binder().knopf(logik.command_wieder, "command_wieder", "zeile");
+    spuren->addWidget(letztes_mal, 0, 0, Qt::AlignTop | Qt::AlignRight);
+    tabfolge({findChild<QWidget*>("Form1.wertmin"), letztes_mal, findChild<QWidget*>("Form1.command_liste")});
     auto* hilfe = new QShortcut(Qt::Key_F1, this);
     QObject::connect(hilfe, &QShortcut::activated, this, [this] { logik_.taste_F1(); });
     resize(980, 700);
@@ -352,7 +357,7 @@ QWidget* Form1Fenster::statuszeile() {
     datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long name does not widen the window
     datei->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     aufbau->addWidget(datei, 1);
-    aufbau->addWidget(binder().kasten(logik_.felder_merken, "felder_merken"), 0, Qt::AlignVCenter);
+    aufbau->addWidget(binder().kasten(logik_.felder_merken, "felder_merken", true), 0, Qt::AlignVCenter);
     aufbau->addSpacing(8);
     aufbau->addWidget(menueknopf(
         logik_.command_aussehen, "command_aussehen", [this] { return logik_.aussehensarten(); },

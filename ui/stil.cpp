@@ -33,10 +33,12 @@ QComboBox::drop-down { border: none; width: 26px; }
 QComboBox::down-arrow { image: url(:/bilder/@pfeil); width: 20px; height: 20px; }
 QPushButton { background: @karte; border: 1px solid @rand; border-radius: 6px; padding: 7px 16px; }
 QPushButton[rolle="schmal"] { padding: 7px 5px; }
+QPushButton[rolle="zeile"] { padding: 2px 10px; }
 QPushButton:hover { background: @ueber; }
 QPushButton:pressed { background: @gedrueckt; }
 QPushButton:focus { border: 2px solid @akzent; padding: 6px 15px; }
 QPushButton[rolle="schmal"]:focus { padding: 6px 4px; }
+QPushButton[rolle="zeile"]:focus { padding: 1px 9px; }
 QPushButton:disabled { color: @gesperrt; background: @grau; border-color: @linie; }
 QPushButton[rolle="haupt"] { background: @vollakzent; color: white; border: 1px solid #9d1721; font-weight: bold; }
 QPushButton[rolle="haupt"]:hover { background: #d62a37; }

@@ -25,7 +25,8 @@ int UmbruchKasten::einzug() const {
 
 QRect UmbruchKasten::textflaeche(int breite) const {
     const int platz = std::max(breite - einzug() - rand, schmalste_zeile);
-    return fontMetrics().boundingRect(QRect(0, 0, platz, unendlich), Qt::AlignLeft | Qt::TextWordWrap, text());
+    return fontMetrics().boundingRect(QRect(0, 0, platz, unendlich),
+                                      Qt::AlignLeft | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
 }
 
 QSize UmbruchKasten::sizeHint() const {
@@ -73,8 +74,8 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     }
     maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
     const QRect schrift = rect().adjusted(einzug() + rand, rand, 0, -rand);
-    maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, palette(), isEnabled(), text(),
-                       QPalette::WindowText);
+    maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
+                       isEnabled(), text(), QPalette::WindowText);
     if (hasFocus()) {
         QStyleOptionFocusRect rahmen;
         rahmen.initFrom(this);

@@ -128,6 +128,14 @@ QWidget& wettkampf(buehne& b, int fahrer) {
 
 const std::vector<szeneneintrag> alle_fensterszenen{
     {"hauptfenster", [](buehne& b) -> QWidget& { return b.o.form1; }},
+    {"hauptfenster_angebot",
+     [](buehne& b) -> QWidget& {
+         renneinrichtung zuletzt = b.p.einrichtung;
+         zuletzt.bahn[1].fahrer = "Anna";
+         zuletzt.bahn[2].fahrer = "Carl-Friedrich von Gauß";
+         b.p.form1.letztes_mal_anbieten(zuletzt);
+         return b.o.form1;
+     }},
     {"hauptfenster_control_unit",
      [](buehne& b) -> QWidget& {
          b.p.einst.hardware.hw_cu = true;
