@@ -102,22 +102,25 @@ void mitschriftdienste::meldungen::zeigen(std::string_view text, std::string_vie
     m.tor([&] { echte.zeigen(text, titel); });
 }
 
-bool mitschriftdienste::meldungen::fragen(std::string_view text, std::string_view titel) {
+bool mitschriftdienste::meldungen::fragen(std::string_view text, std::string_view titel,
+                                          const plattform::antwortworte& worte) {
     bool ja = false;
-    m.tor([&] { ja = echte.fragen(text, titel); });
+    m.tor([&] { ja = echte.fragen(text, titel, worte); });
     return m.antwort("antwort", [&] { return ja ? 1 : 0; }) == 1;
 }
 
-bool mitschriftdienste::meldungen::anbieten(std::string_view text, std::string_view titel) {
+bool mitschriftdienste::meldungen::anbieten(std::string_view text, std::string_view titel,
+                                            const plattform::antwortworte& worte) {
     bool ja = false;
-    m.tor([&] { ja = echte.anbieten(text, titel); });
+    m.tor([&] { ja = echte.anbieten(text, titel, worte); });
     return m.antwort("antwort", [&] { return ja ? 1 : 0; }) == 1;
 }
 
 plattform::dreifache_antwort mitschriftdienste::meldungen::fragen_mit_ausweg(std::string_view text,
-                                                                             std::string_view titel) {
+                                                                             std::string_view titel,
+                                                                             const plattform::antwortworte& worte) {
     plattform::dreifache_antwort gewaehlt = plattform::dreifache_antwort::abbrechen;
-    m.tor([&] { gewaehlt = echte.fragen_mit_ausweg(text, titel); });
+    m.tor([&] { gewaehlt = echte.fragen_mit_ausweg(text, titel, worte); });
     return static_cast<plattform::dreifache_antwort>(
         m.antwort("antwort", [&] { return static_cast<std::int64_t>(gewaehlt); }));
 }

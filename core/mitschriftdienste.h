@@ -61,9 +61,10 @@ private:
             echte.knoepfe_beschriften(ja, nein, ausweg);
         }
         void zeigen(std::string_view text, std::string_view titel) override;
-        bool fragen(std::string_view text, std::string_view titel) override;
-        bool anbieten(std::string_view text, std::string_view titel) override;
-        plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
+        bool fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
+        bool anbieten(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
+        plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,
+                                                       const plattform::antwortworte& worte) override;
         void mitteilen(std::string_view text) override;
         mitschrift& m;
         plattform::meldungen& echte;

@@ -36,8 +36,12 @@ private:
     };
     struct meldungen final : plattform::meldungen {
         void zeigen(std::string_view /*text*/, std::string_view /*titel*/) override {}
-        bool fragen(std::string_view /*text*/, std::string_view /*titel*/) override { return false; }
-        plattform::dreifache_antwort fragen_mit_ausweg(std::string_view /*text*/, std::string_view /*titel*/) override {
+        bool fragen(std::string_view /*text*/, std::string_view /*titel*/,
+                    const plattform::antwortworte& /*worte*/) override {
+            return false;
+        }
+        plattform::dreifache_antwort fragen_mit_ausweg(std::string_view /*text*/, std::string_view /*titel*/,
+                                                       const plattform::antwortworte& /*worte*/) override {
             return plattform::dreifache_antwort::abbrechen;
         }
     };

@@ -29,13 +29,15 @@ void QtMeldungen::knoepfe_beschriften(std::string_view ja, std::string_view nein
 }
 
 /// Closing the box means no, or takes the way out where there is one.
-plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::string_view titel, art wie) const {
+plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::string_view titel, const art& wie) const {
     QMessageBox box(QMessageBox::Question, als_text(titel), als_text(text), QMessageBox::NoButton,
                     QApplication::activeWindow());
     box.setObjectName("frage");
     box.setTextFormat(Qt::PlainText);
-    QPushButton* ja = box.addButton(mit_kuerzel(ja_), QMessageBox::YesRole);
-    QPushButton* nein = box.addButton(mit_kuerzel(nein_), QMessageBox::NoRole);
+    QPushButton* ja =
+        box.addButton(mit_kuerzel(wie.worte.ja.empty() ? ja_ : als_text(wie.worte.ja)), QMessageBox::YesRole);
+    QPushButton* nein =
+        box.addButton(mit_kuerzel(wie.worte.nein.empty() ? nein_ : als_text(wie.worte.nein)), QMessageBox::NoRole);
     box.setDefaultButton(wie.ja_vorn ? ja : nein);
     box.setEscapeButton(wie.mit_ausweg ? box.addButton(mit_kuerzel(ausweg_), QMessageBox::RejectRole) : nein);
     box.exec();
@@ -51,20 +53,22 @@ void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
     box.exec();
 }
 
-bool QtMeldungen::fragen(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, {}) == plattform::dreifache_antwort::ja;
+bool QtMeldungen::fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) {
+    return stellen(text, titel, {.worte = worte}) == plattform::dreifache_antwort::ja;
 }
 
-bool QtMeldungen::anbieten(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, {.ja_vorn = true}) == plattform::dreifache_antwort::ja;
+bool QtMeldungen::anbieten(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) {
+    return stellen(text, titel, {.worte = worte, .ja_vorn = true}) == plattform::dreifache_antwort::ja;
 }
 
-plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, {.mit_ausweg = true});
+plattform::dreifache_antwort QtMeldungen::fragen_mit_ausweg(std::string_view text, std::string_view titel,
+                                                            const plattform::antwortworte& worte) {
+    return stellen(text, titel, {.worte = worte, .mit_ausweg = true});
 }
 
-plattform::dreifache_antwort QtMeldungen::anbieten_mit_ausweg(std::string_view text, std::string_view titel) {
-    return stellen(text, titel, {.ja_vorn = true, .mit_ausweg = true});
+plattform::dreifache_antwort QtMeldungen::anbieten_mit_ausweg(std::string_view text, std::string_view titel,
+                                                              const plattform::antwortworte& worte) {
+    return stellen(text, titel, {.worte = worte, .ja_vorn = true, .mit_ausweg = true});
 }
 
 void QtMeldungen::mitteilen(std::string_view text) {

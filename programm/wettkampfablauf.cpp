@@ -114,7 +114,8 @@ std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() 
         if (!gelesen) {
             continue;
         }
-        const auto will = um_.meldungen.anbieten_mit_ausweg(frage(*gelesen), um_.txt.titel[0]);
+        const auto will = um_.meldungen.anbieten_mit_ausweg(
+            frage(*gelesen), um_.txt.titel[0], {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.naechstes});
         if (will == plattform::dreifache_antwort::ja && !laden(pfad, eigene_einstellungen())) {
             um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + pfad, um_.txt.titel[1]);
         }
@@ -130,7 +131,9 @@ bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     const std::string pfad(laufender_wettkampf);
     const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt, einstellungen_aus_datei::lassen,
                                          version_melden::nein);
-    const bool fortsetzen = gelesen && um_.meldungen.anbieten(frage(*gelesen) + rennen, um_.txt.titel[0]);
+    const bool fortsetzen =
+        gelesen && um_.meldungen.anbieten(frage(*gelesen) + rennen, um_.txt.titel[0],
+                                          {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.spaeter});
     const bool gut = gelesen && (!fortsetzen || laden(pfad, eigene_einstellungen()));
     if (gut && fortsetzen) {
         return true;

@@ -149,6 +149,10 @@ std::string wiederaufnahme::frage(const protokollstand& stand) const {
     return text;
 }
 
+plattform::antwortworte wiederaufnahme::antworten(const protokollstand& stand, std::string_view nein) const {
+    return {stand.beendet ? um_.txt.papierdatei.oeffnen : um_.txt.wettkampf.weiterfahren, nein};
+}
+
 void wiederaufnahme::nach_dem_start_anbieten() {
     nach_dem_start_ = true;
     const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
@@ -163,7 +167,8 @@ void wiederaufnahme::nach_dem_start_anbieten() {
         }
         return;
     }
-    if (k && um_.dienste.meldungen.anbieten(frage(k->stand), um_.txt.titel[0])) {
+    const auto& wort = um_.txt.wettkampf;
+    if (k && um_.dienste.meldungen.anbieten(frage(k->stand), um_.txt.titel[0], antworten(k->stand, wort.spaeter))) {
         if (!fortsetzen(*k)) {
             weglegen(*k);
         }
@@ -182,6 +187,7 @@ void wiederaufnahme::anbieten() {
     if (abend && *abend != antwort::nein) {
         return;
     }
+    const auto& wort = um_.txt.wettkampf;
     bool eines = abend.has_value();
     for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
         const std::optional<kandidat> k = lesen(name);
@@ -189,7 +195,8 @@ void wiederaufnahme::anbieten() {
             continue;  // that one waits in its evening
         }
         eines = true;
-        const antwort will = um_.dienste.meldungen.anbieten_mit_ausweg(frage(k->stand), um_.txt.titel[0]);
+        const antwort will = um_.dienste.meldungen.anbieten_mit_ausweg(frage(k->stand), um_.txt.titel[0],
+                                                                       antworten(k->stand, wort.naechstes));
         if (will == antwort::ja) {
             fortsetzen(*k);
         }
@@ -197,7 +204,6 @@ void wiederaufnahme::anbieten() {
             return;
         }
     }
-    const auto& wort = um_.txt.wettkampf;
     um_.dienste.meldungen.zeigen(eines ? wort.kein_weiteres : wort.keines, um_.txt.titel[0]);
 }
 
@@ -217,7 +223,10 @@ bool wiederaufnahme::abgebrochenes_anbieten() {
     for (const int spur : alle_spuren) {
         dieselben = dieselben && (!param.spur_aktiv[spur] || param.fahrer_name[spur] == k->stand.fahrer[spur]);
     }
-    return dieselben && um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0]) && fortsetzen(*k);
+    return dieselben &&
+           um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0],
+                                        antworten(k->stand, um_.txt.wettkampf.von_vorn)) &&
+           fortsetzen(*k);
 }
 
 bool wiederaufnahme::einrichten(const protokollkopf& kopf) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/form1.h"
 #include "hardware/rennverbindung.h"
@@ -65,6 +66,8 @@ private:
 
     std::optional<kandidat> lesen(const std::string& name) const;
     std::string frage(const protokollstand& stand) const;
+    /// What stands on its buttons; `nein` is what follows if it is not taken.
+    plattform::antwortworte antworten(const protokollstand& stand, std::string_view nein) const;
     bool fortsetzen(const kandidat& k);
     bool aufnehmen(const kandidat& k);
     bool einrichten(const protokollkopf& kopf);

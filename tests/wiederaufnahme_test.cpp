@@ -38,6 +38,7 @@ TEST_F(Wiederaufnahme, NachEinemAusfallGehtDasRennenWeiterAlsWaereErEinePause) {
 
     ASSERT_EQ(danach.maschine.fragen_gestellt.size(), 1U);
     EXPECT_EQ(danach.maschine.angebote, 1) << "whoever presses Enter goes on";
+    EXPECT_EQ(danach.maschine.antworten_der_frage, "Weiterfahren/Später");
     const std::string& frage = danach.maschine.fragen_gestellt.front().text;
     EXPECT_TRUE(frage.starts_with("Das Rennen von 14:03 wurde in Runde 4 unterbrochen. Fortsetzen?\n")) << frage;
     ASSERT_TRUE(danach.p.fenster.ist_offen(fenstername::bahn1))

@@ -42,11 +42,12 @@ void berichten(const std::string& text) {
 class meldungsschreiber final : public plattform::meldungen {
 public:
     void zeigen(std::string_view text, std::string_view /*titel*/) override { gemeldet += std::string(text) + "\n"; }
-    bool fragen(std::string_view text, std::string_view titel) override {
+    bool fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& /*worte*/) override {
         zeigen(text, titel);
         return false;
     }
-    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override {
+    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,
+                                                   const plattform::antwortworte& /*worte*/) override {
         zeigen(text, titel);
         return plattform::dreifache_antwort::abbrechen;
     }

@@ -142,16 +142,19 @@ void test_plattform::zeigen(std::string_view text, std::string_view titel) {
     }
 }
 
-bool test_plattform::fragen(std::string_view text, std::string_view titel) {
+bool test_plattform::fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) {
     fragen_gestellt.push_back({std::string(text), std::string(titel)});
+    antworten_der_frage = std::string(worte.ja) + "/" + std::string(worte.nein);
     if (waehrend_frage) {
         waehrend_frage();
     }
     return antwort;
 }
 
-plattform::dreifache_antwort test_plattform::fragen_mit_ausweg(std::string_view text, std::string_view titel) {
+plattform::dreifache_antwort test_plattform::fragen_mit_ausweg(std::string_view text, std::string_view titel,
+                                                               const plattform::antwortworte& worte) {
     fragen_gestellt.push_back({std::string(text), std::string(titel)});
+    antworten_der_frage = std::string(worte.ja) + "/" + std::string(worte.nein);
     return antwort_mit_ausweg;
 }
 

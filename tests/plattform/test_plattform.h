@@ -61,6 +61,7 @@ public:
 
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
+    std::string antworten_der_frage;  ///< words of its own on the buttons of the last one, "yes/no"
     std::string knoepfe_der_fragen;
     int angebote = 0;      ///< of them: Enter says yes
     bool antwort = false;  ///< to every question
@@ -88,12 +89,13 @@ private:
     void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override {
         knoepfe_der_fragen = std::string(ja) + "/" + std::string(nein) + "/" + std::string(ausweg);
     }
-    bool fragen(std::string_view text, std::string_view titel) override;
-    bool anbieten(std::string_view text, std::string_view titel) override {
+    bool fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
+    bool anbieten(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override {
         ++angebote;
-        return fragen(text, titel);
+        return fragen(text, titel, worte);
     }
-    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel) override;
+    plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,
+                                                   const plattform::antwortworte& worte) override;
     void bereitstellen(std::string_view /*datei*/) override {}
     void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
     bool ist_einzige_instanz() override { return erste_instanz; }

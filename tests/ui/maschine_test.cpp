@@ -48,11 +48,12 @@ TEST(Meldungen, EnterSagtNeinAberEinAngebotNimmtEsAn) {
     qt::QtMeldungen meldungen;
     const auto mit_taste = [&](Qt::Key taste, auto stellen) {
         QTimer::singleShot(0, qApp, [taste] { QTest::keyClick(QApplication::activeModalWidget(), taste); });
-        return (meldungen.*stellen)("Weiter?", "Hinweis");
+        return (meldungen.*stellen)("Weiter?", "Hinweis", {"Weiterfahren", "Später"});
     };
     EXPECT_FALSE(mit_taste(Qt::Key_Return, &qt::QtMeldungen::fragen));
     EXPECT_TRUE(mit_taste(Qt::Key_Return, &qt::QtMeldungen::anbieten));
     EXPECT_FALSE(mit_taste(Qt::Key_Escape, &qt::QtMeldungen::anbieten));
+    EXPECT_TRUE(mit_taste(Qt::Key_W, &qt::QtMeldungen::fragen)) << "its words are those of this question";
 }
 
 TEST(Bibliothek, WirdNachNamenGeladenUndKenntIhreRufe) {

@@ -257,9 +257,9 @@ const std::vector<szeneneintrag> alle_randszenen{
     {"frage",
      [](buehne& b) -> QWidget& {
          return box_zeigen(b, [](qt::QtMeldungen& meldungen, const texte& txt) {
-             meldungen.fragen_mit_ausweg(txt.wettkampf.das_rennen + " 21.11.2026-14:03 " + txt.wettkampf.in_runde +
-                                             " 12 " + txt.wettkampf.unterbrochen,
-                                         txt.titel[0]);
+             meldungen.anbieten_mit_ausweg(txt.wettkampf.das_rennen + " 21.11.2026-14:03 " + txt.wettkampf.in_runde +
+                                               " 12 " + txt.wettkampf.unterbrochen,
+                                           txt.titel[0], {txt.wettkampf.weiterfahren, txt.wettkampf.naechstes});
          });
      },
      true},
