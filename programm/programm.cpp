@@ -1,6 +1,7 @@
 #include "programm/programm.h"
 
-#include <utility>
+#include <string>
+#include <string_view>
 
 #include "core/nebendateien.h"
 #include "core/ordner.h"
@@ -18,7 +19,6 @@ namespace {
 
 constexpr std::string_view fahrer_bildordner = "pictures";
 constexpr std::string_view fahrzeug_bildordner = "slotcars";
-const std::string listenordner = "Listen\\";
 
 }  // namespace
 
@@ -332,58 +332,6 @@ bool programm::starten() {
         pflege_.start_fortsetzen({});
     }
     return true;
-}
-
-void programm::gemeinsame_texte_laden() {
-    ablage.sprache_aus(einst.anzeige.sprachordner);
-    txt.sprache_m1_laden(ablage);
-    txt.sprache_tx1_laden(ablage);
-    txt.sprache_usb2_laden(ablage);
-    dienste.meldungen.knoepfe_beschriften(txt.ja, txt.nein, txt.datei_text[texte::abbrechen]);
-    eingebaute_namen_setzen();
-}
-
-void programm::eingebaute_namen_setzen() {
-    fahrerliste.eingebaut({txt.fahrer_standard.begin(), txt.fahrer_standard.end()});
-    fahrzeugliste.eingebaut(txt.fahrzeuge_standard);
-}
-
-std::vector<sprachliste> programm::sprachdateien() {
-    std::vector<sprachliste> alle = txt.alle_gruppen();
-    for (sprachliste& texte : fenster.sprachdateien()) {
-        alle.push_back(std::move(texte));
-    }
-    return alle;
-}
-
-void programm::fahrzeugliste_laden() {
-    if (!fahrzeugliste.laden(ablage, listenordner + fahrzeug_datei)) {
-        dienste.meldungen.zeigen(txt.meldung[7], txt.titel[1]);
-        fahrzeugliste_speichern();
-    }
-}
-
-void programm::fahrerliste_laden() {
-    if (!fahrerliste.laden(ablage, listenordner + fahrer_datei)) {
-        dienste.meldungen.zeigen(txt.meldung[8], txt.titel[1]);
-        fahrerliste_speichern();
-    }
-}
-
-bool programm::fahrzeugliste_speichern() {
-    const bool geschrieben = fahrzeugliste.speichern(ablage, listenordner + fahrzeug_datei);
-    if (!geschrieben) {
-        dienste.meldungen.zeigen(txt.meldung[2], txt.titel[1]);
-    }
-    return geschrieben;
-}
-
-bool programm::fahrerliste_speichern() {
-    const bool geschrieben = fahrerliste.speichern(ablage, listenordner + fahrer_datei);
-    if (!geschrieben) {
-        dienste.meldungen.zeigen(txt.meldung[3], txt.titel[1]);
-    }
-    return geschrieben;
 }
 
 void programm::einstellungen_geladen(bool im_betrieb) {
