@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "core/text.h"
 #include "ui/lampenknopf.h"
@@ -120,10 +121,9 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
         kopf->setColumnStretch(spalte++, breite);
     }
     kopf->setRowStretch(1, 1);
-    constexpr int titel_px = 16;  // both also when there is little height to share
-    constexpr int wert_px = 44;
-    kopf->setRowMinimumHeight(0, titel_px);
+    constexpr int wert_px = 44;  // also when there is little height to share
     kopf->setRowMinimumHeight(1, wert_px);
+    kopf_ = kopf;
     return kopf;
 }
 
@@ -162,6 +162,9 @@ QWidget* Wettkampf2Fenster::rundenfeld() {
     aufbau->addLayout(wahl, 3);
     auto* werte = new QGridLayout;
     werte->setHorizontalSpacing(10);
+    werte->setVerticalSpacing(3);  // six lanes, and the list below, on a small screen
+    werte->setColumnStretch(1, 2);
+    werte->setColumnStretch(2, 5);
     werte->addWidget(stil::leise(binder().label(logik_.Label_runden, "Label_runden")), 0, 1);
     QLabel* meter = stil::leise(binder().label(logik_.Label_meter, "Label_meter"));
     meter->setWordWrap(true);
@@ -323,6 +326,9 @@ void Wettkampf2Fenster::skalieren() {
     const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
     const double skala = std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4);
     binder().skala(skala);
+    if (kopf_ != nullptr) {
+        kopf_->setRowMinimumHeight(0, static_cast<int>(std::lround(schrift_klein * skala * zeilenhoehe)));
+    }
     if (plan_ != nullptr) {
         plan_skalieren(skala);
     }

@@ -35,6 +35,7 @@ private:
 
     wettkampf2& logik_;
     const dateien& ablage_;
+    QGridLayout* kopf_ = nullptr;
     QListView* plan_ = nullptr;
 };
 
