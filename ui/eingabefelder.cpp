@@ -91,6 +91,17 @@ void Listenfeld::keyPressEvent(QKeyEvent* ereignis) {
     }
 }
 
+bool Listenfeld::viewportEvent(QEvent* ereignis) {
+    if (ereignis->type() != QEvent::ToolTip || textElideMode() == Qt::ElideNone) {
+        return QListView::viewportEvent(ereignis);
+    }
+    const auto* hilfe = static_cast<QHelpEvent*>(ereignis);
+    const QModelIndex zeile = indexAt(hilfe->pos());
+    const bool abgeschnitten = zeile.isValid() && sizeHintForIndex(zeile).width() > visualRect(zeile).width();
+    QToolTip::showText(hilfe->globalPos(), abgeschnitten ? zeile.data().toString() : toolTip(), this);
+    return true;
+}
+
 bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {
     const bool taste = ereignis->type() == QEvent::KeyPress;
     if (ziel == wahl_ && (taste || ereignis->type() == QEvent::MouseButtonPress)) {

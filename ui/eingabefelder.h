@@ -68,12 +68,14 @@ private:
 };
 
 /// The focus alone chooses no row: the first arrow key chooses the one that it stands on, and not the one behind it.
+/// A row that is cut off with dots is told whole under the pointer.
 class Listenfeld final : public QListView {
 public:
     using QListView::QListView;
 
 protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
+    bool viewportEvent(QEvent* ereignis) override;
 };
 
 /// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:

@@ -1,7 +1,9 @@
 #include "ui/textanzeige.h"
 
 #include <QFontMetricsF>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "ui/stil.h"
@@ -159,6 +161,14 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
         satz.gekuerzt = satz.text != text_ || QFontMetricsF(satz.schrift).capHeight() > height() + 1;
     }
     return satz;
+}
+
+bool TextAnzeige::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(), gekuerzt() ? text_ : QString(), this);
+        return true;
+    }
+    return QWidget::event(ereignis);
 }
 
 void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {

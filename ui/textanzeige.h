@@ -48,6 +48,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* ereignis) override;  ///< what is cut off is told whole under the pointer
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
