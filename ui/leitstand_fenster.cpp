@@ -249,10 +249,11 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
     zeile->setSpacing(12);
+    start_ = binder().hauptknopf(bahn_.Command1, "Command1");
+    einfahren_ = binder().hauptknopf(bahn_.Command6, "Command6");
     weiter_ = binder().knopf(bahn_.Command3, "Command3");
-    for (QPushButton* knopf :
-         {binder().hauptknopf(bahn_.Command1, "Command1"), binder().hauptknopf(bahn_.Command6, "Command6"), weiter_,
-          binder().knopf(bahn_.Command4, "Command4"), binder().knopf(bahn_.Command_protokoll, "Command_protokoll")}) {
+    for (QPushButton* knopf : {start_, einfahren_, weiter_, binder().knopf(bahn_.Command4, "Command4"),
+                               binder().knopf(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }
     zeile->addWidget(binder().knopf(ampel_.abbrampel, "abbrampel"));
@@ -269,7 +270,8 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
 }
 
 void LeitstandFenster::aufschlagen() {
-    if (!isVisible()) {
+    const bool war_zu = !isVisible();
+    if (war_zu) {
         const QWidget* haupt = parentWidget()->parentWidget() != nullptr ? parentWidget()->parentWidget() : this;
         const QRect platz = haupt->screen()->availableGeometry();
         const QSize groesse = uebliche_groesse.boundedTo(platz.size());
@@ -277,6 +279,10 @@ void LeitstandFenster::aufschlagen() {
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
+    if (war_zu) {  // the race window had the wish for the focus while this one was not there yet
+        QPushButton* erster = einfahren_->isVisible() ? einfahren_ : start_;
+        erster->setFocus(Qt::OtherFocusReason);
+    }
     raise();
     activateWindow();
 }

@@ -33,6 +33,8 @@ private:
     leitstand& logik_;
     bahn1& bahn_;
     form2& ampel_;
+    QPushButton* start_ = nullptr;
+    QPushButton* einfahren_ = nullptr;
     QPushButton* weiter_ = nullptr;  ///< pauses, and goes on
 };
 

@@ -285,6 +285,7 @@ TEST_F(Rennfenster, AufDemZweitenSchirmOhneKnoepfeDieAufDemErstenLiegen) {
         ASSERT_TRUE(leitung.isVisible());
         EXPECT_EQ(leitung.screen(), schirme[0]);
         ASSERT_TRUE(QTest::qWaitForWindowActive(&leitung));
+        EXPECT_EQ(leitung.focusWidget(), finde<QWidget>(leitung, "leitstand.Command1")) << "Enter starts";
         for (const char* name : {"bahn1.Command1", "bahn1.Command2", "bahn1.Command3", "bahn1.Command4"}) {
             EXPECT_FALSE(finde<QWidget>(o.bahn1, name)->isVisible()) << name;
         }
