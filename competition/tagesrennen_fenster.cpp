@@ -87,7 +87,14 @@ sprachliste tagesrennen_fenster::sprache_lf() {
                          klassen_text);
     fuehrung_.eintragen(texte);
     texte.tipp("Jeder Fahrer gehört zu einer Klasse. Die Auswertung führt jede Klasse für sich.", Check1);
-    return texte.text("Rennen, beste Runde", wort_.ein_rennen);
+    texte.text("Rennen, beste Runde", wort_.ein_rennen);
+    return texte.text(
+        "Alle Rennen des Tages stehen in einer Datei. Gibt es sie schon, kommen die neuen hinten dazu, und die alten "
+        "bleiben. Lässt sie sich nicht öffnen, ist sie keine eines Tagesrennens: dann bitte einen anderen Namen.",
+        [this](const std::string& tipp) {
+            text_lf_datei.tipp(tipp);
+            Label_lf_hinweis.tipp(tipp);
+        });
 }
 
 void tagesrennen_fenster::laden() {
@@ -167,6 +174,7 @@ void tagesrennen_fenster::klassen_geaendert() {
     for (std::size_t i = 0; i < lstb_klasse.size(); ++i) {
         lstb_klasse.at(i).aktiviert(Check1.gesetzt() && faehrt(i));
     }
+    Frame_klassen.sichtbar(Check1.gesetzt());  // who has no classes need not read of them
 }
 
 void tagesrennen_fenster::datei_geaendert() {

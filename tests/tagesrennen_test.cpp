@@ -150,6 +150,7 @@ TEST_F(Tagesrennen, AngabenBleibenBisZumNaechstenTag) {
     EXPECT_EQ(f.klassen_text[2].text(), "auch nach einem Programmstart noch verfügbar. Z.B.:");
     datei("Samstag.csv");
     f.Check1.umschalten();
+    EXPECT_TRUE(f.Frame_klassen.sichtbar());
     f.klassen_text[4].eingeben("A bis 12 Jahre, B über 12");
     f.Command20.klicken();
     EXPECT_EQ(inhalt("Tagesrennen.ini"),

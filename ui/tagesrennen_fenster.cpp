@@ -142,6 +142,7 @@ QWidget* TagesrennenFenster::klassengruppe() {
     aufbau->setSpacing(2);
     for (std::size_t i = 0; i < logik_.klassen_text.size(); ++i) {
         QLineEdit* zeile = binder().zeile(logik_.klassen_text.at(i), "klassen_text_" + QString::number(i));
+        zeile->setStyleSheet("font-size: 13px;");  // the lines that stand there at first have their room
         aufbau->addWidget(zeile);
         new Erklaerung(zeile, [this, i] { return logik_.vorbelegt(i); });
     }
