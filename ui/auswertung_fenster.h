@@ -16,6 +16,7 @@ public:
     AuswertungFenster(auswertung& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
+    bool kommt_ungerufen() const override { return true; }
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;

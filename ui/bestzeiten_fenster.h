@@ -11,6 +11,7 @@ public:
     BestzeitenFenster(beste_zeiten_fenster& logik, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
+    bool kommt_ungerufen() const override { return true; }
 
 private:
     QWidget* kopfzeile();

@@ -163,6 +163,11 @@ void Fensterverwaltung::zeigen(fenstername name, anzeige_art art) {
     takt_.ausfuehren();
     if (!fenster->isVisible()) {
         fenster->kuerzel_verteilen();
+        if (fenster->kommt_ungerufen()) {
+            ungerufen_ = fenster;
+            seit_ungerufen_.start();
+            seit_getippt_.start();
+        }
     }
     fenster->aufschlagen();
 }
@@ -196,10 +201,31 @@ void Fensterverwaltung::verbergen(fenstername name) {
     }
 }
 
+bool Fensterverwaltung::galt_anderem(bool getippt) {
+    constexpr qint64 pause_ms = 500;
+    constexpr qint64 laengstens_ms = 2000;
+    if (ungerufen_ == nullptr || QApplication::activeWindow() != ungerufen_) {
+        return false;
+    }
+    if (seit_getippt_.elapsed() > pause_ms || seit_ungerufen_.elapsed() > laengstens_ms) {
+        ungerufen_ = nullptr;
+        return false;
+    }
+    if (getippt) {
+        seit_getippt_.start();
+    }
+    return true;
+}
+
 bool Fensterverwaltung::taste_schlucken(QObject* ziel, QKeyEvent& taste) {
     const bool gehalten = tastenhalt_.gehalten(taste);
     if (taste.type() == QEvent::KeyRelease && taste.key() == Qt::Key_Alt) {
         seit_schluss_.invalidate();
+    }
+    const bool druck = taste.type() == QEvent::ShortcutOverride || taste.type() == QEvent::KeyPress;
+    if (druck && galt_anderem(taste.type() == QEvent::KeyPress)) {
+        taste.accept();
+        return true;
     }
     if (taste.type() == QEvent::ShortcutOverride && gehalten) {
         taste.accept();  // no letter of a button: what it types into a field is still typed
@@ -246,6 +272,7 @@ bool Fensterverwaltung::eventFilter(QObject* ziel, QEvent* ereignis) {
         }
         seit_druck_.start();
         druck_fenster_ = fenster;
+        ungerufen_ = fenster == ungerufen_ ? nullptr : ungerufen_.data();  // somebody is at work in it
     }
     return QObject::eventFilter(ziel, ereignis);
 }

@@ -30,6 +30,8 @@ public:
     virtual void aufschlagen();
     /// The letters of its commands, by the captions that they have now.
     void kuerzel_verteilen() { binder_.kuerzel_verteilen(); }
+    /// It comes when a race ends, not when somebody asks for it: he may be typing, or pressing a key of the race.
+    virtual bool kommt_ungerufen() const { return false; }
     /// In front of its parent or, while that is hidden, of the window that it is opened from.
     void vor_sein_fenster_stellen();
     /// That window: there the keys go when this one is hidden; null for nowhere.
@@ -77,7 +79,8 @@ public:
     void erscheinen(const erscheinung& wie) override;
     /// A key that is held gives no command again: it was meant once, and for what lay in front of that command. A
     /// letter with Alt is one of a command, also where no command has it, and types nothing. And the second half of a
-    /// double click must not hit what lay behind the window that the first half closed.
+    /// double click must not hit what lay behind the window that the first half closed. In a window that comes unasked
+    /// no key does anything until the fingers that were busy elsewhere have paused.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
@@ -85,14 +88,18 @@ private:
     /// Alt+F4 is still held: the desktop keeps the keys to itself, and asks again and again to close what lies in
     /// front.
     bool schliesst_gehalten(const QEvent& ereignis);
+    bool galt_anderem(bool getippt);
     void bereitstellen(fenstername name);
 
     Bildtakt& takt_;
     Bildleser bilder_;
     QTranslator qt_texte_;  ///< of the colour dialog and the like
     Tastenhalt tastenhalt_;
-    QElapsedTimer seit_schluss_;  ///< since the desktop has last asked to close a window
-    QElapsedTimer seit_druck_;    ///< of a mouse button
+    QElapsedTimer seit_schluss_;   ///< since the desktop has last asked to close a window
+    QElapsedTimer seit_druck_;     ///< of a mouse button
+    QPointer<QWidget> ungerufen_;  ///< came up, and nobody has paused since
+    QElapsedTimer seit_ungerufen_;
+    QElapsedTimer seit_getippt_;
     QPointer<QWidget> druck_fenster_;
     std::map<fenstername, Fenster*> fenster_;
     std::map<fenstername, std::function<void()>> noch_zu_machen_;

@@ -32,6 +32,10 @@ TEST_F(BestzeitenFenster, ZeigtBeimTippenWasGespeichertWird) {
     EXPECT_TRUE(gruen("beste_zeiten_fenster.Shape1_0"));
     o.bestzeiten->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&*o.bestzeiten));
+    QTest::keyClick(finde<QWidget>(*o.bestzeiten, "beste_zeiten_fenster.Command1"), Qt::Key_Return);
+    EXPECT_TRUE(o.bestzeiten->isVisible()) << "it was meant for what lay in front before";
+    constexpr int pause_ms = 600;
+    QTest::qWait(pause_ms);
     zeit->setFocus();
     zeit->lineEdit()->selectAll();
     QTest::keyClicks(zeit->lineEdit(), "00:07,12");
