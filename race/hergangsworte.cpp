@@ -87,7 +87,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                                {ablehnung::disqualifiziert, "disqualifiziert"},
                                {ablehnung::sperre, "Sperre nach Frühstart"},
                                {ablehnung::volltanken, "hält nach dem Volltanken"},
-                               {ablehnung::zu_schnell, "zu schnell: %1, gezählt wird ab %2"},
+                               {ablehnung::zu_schnell, "zu kurz: %1, gezählt wird ab %2"},
                                {ablehnung::tankstrafe, "Tankstrafe"},
                                {ablehnung::im_ziel, "im Ziel"},
                                {ablehnung::prellen, "Kontakt prellt"},

@@ -15,7 +15,7 @@ std::string hergang_zeit(zeit_ms zeit, int stellen, char komma);
 struct hergangsworte {
     sprachliste& eintragen(sprachliste& texte);
 
-    /// "Runde 12: 5,432 s", "zu schnell: 3,214 s, gezählt wird ab 5,100 s".
+    /// "Runde 12: 5,432 s", "zu kurz: 3,214 s, gezählt wird ab 5,100 s".
     std::string von(const geschehen& g) const;
 
     char komma = ',';

@@ -50,7 +50,7 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
     EXPECT_TRUE(fenster().Command_weiter.sichtbar());
     EXPECT_EQ(fenster().Label_hinweis.text(), "1 Überfahrt nicht gezählt.");
     nur({f::abgelehnt, f::pausen});
-    EXPECT_EQ(zeilen(), (std::vector<std::string>{"1 zu schnell: 1,000 s, gezählt wird ab 5,100 s", "0 Pause"}));
+    EXPECT_EQ(zeilen(), (std::vector<std::string>{"1 zu kurz: 1,000 s, gezählt wird ab 5,100 s", "0 Pause"}));
     t.maschine.laufen(4000);
     EXPECT_TRUE(offen(fenstername::protokoll));
     fenster().Command_weiter.klicken();

@@ -85,7 +85,7 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
     EXPECT_EQ(von(erzaehlt, 1), von(h, 1)) << "read while it is written";
     EXPECT_EQ(von(h, 1, ohne),
               (std::vector<std::string>{"0:00,998 erste Überfahrt nach 0,998 s, ab hier wird gezählt",
-                                        "0:04,212 zu schnell: 3,214 s, gezählt wird ab 5,300 s",
+                                        "0:04,212 zu kurz: 3,214 s, gezählt wird ab 5,300 s",
                                         "0:07,212 Runde 1: 6,214 s", "0:19,213 Runde 2: 7,001 s", "0:19,213 im Ziel"}));
     const auto pause = std::find_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause; });
     ASSERT_NE(pause, h.alle.end());

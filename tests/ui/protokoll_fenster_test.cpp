@@ -43,7 +43,7 @@ TEST_F(ProtokollImFenster, LeisteUndTabelleZeigenDieselbeWahl) {
     QTest::mouseClick(leiste, Qt::LeftButton, {}, leiste->ortVon(1, kreuz.seit_gruen).toPoint());
     ASSERT_TRUE(tabelle->currentIndex().isValid());
     EXPECT_EQ(tabelle->currentIndex().siblingAtColumn(ui::Protokollmodell::was).data().toString(),
-              "zu schnell: 1,000 s, gezählt wird ab 5,100 s");
+              "zu kurz: 1,000 s, gezählt wird ab 5,100 s");
     const QPointF mitte = leiste->ortVon(1, kreuz.seit_gruen);
     const auto vorher = logik().ausschnitt().dauer();
     QWheelEvent rad(mitte, leiste->mapToGlobal(mitte), {}, {0, 600}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,

@@ -306,9 +306,8 @@ TEST_F(Rennfenster, AufDemZweitenSchirmOhneKnoepfeDieAufDemErstenLiegen) {
         EXPECT_EQ(anzeige(o.bahn1, "bahn1.zaehler_2"), "1");
         t.maschine.laufen(200);
         ASSERT_FALSE(t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().empty());
-        EXPECT_NE(
-            t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front().find("Spur 1 Fahrer 1:  zu schnell: 3,2"),
-            std::string::npos)
+        EXPECT_NE(t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front().find("Spur 1 Fahrer 1:  zu kurz: 3,2"),
+                  std::string::npos)
             << t.p.ergebnis_fluegel().leitstand.List_verlauf.zeilen().front();
         klick(leitung, "leitstand.Command3");
         t.maschine.laufen(3000);
