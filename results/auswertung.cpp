@@ -221,8 +221,8 @@ void auswertung::spur_anzeigen(const rennergebnis::spur& s) {
     kmh_label[i].text(text::tempo(s));
     aus_straflabel[i].text(text::strafe(s, wort_.strafzeit));
     aus_straflabel[i].sichtbar(!aus_straflabel[i].text().empty());
-    tankinhalt[i].sichtbar(ergebnis().tanken);
-    tankinhalt[i].text(wort_.tankinhalt + ": " + tank_text(s.tankinhalt.value_or(0)) + " l");
+    Frame_tank[i].sichtbar(ergebnis().tanken);
+    tankinhalt[i].text(tank_text(s.tankinhalt.value_or(0)) + " l");
     rundenliste_schreiben(s);
 }
 

@@ -49,6 +49,7 @@ public:
     je_spur<bezeichnung> Label_runden;
     je_spur<bezeichnung> Label_zeit;
     je_spur<bezeichnung> Label_beste;
+    je_spur<bezeichnung> Label_tank;
     je_spur<bezeichnung> runden_aus;
     je_spur<bezeichnung> beste_aus;
     je_spur<bezeichnung> zeit_aus;
@@ -59,7 +60,8 @@ public:
     je_spur<bezeichnung> meter_label;
     je_spur<feld> meter;  ///< metres beyond the last lap
     je_spur<bezeichnung> aus_straflabel;
-    je_spur<bezeichnung> tankinhalt;  ///< caption and litres
+    je_spur<rahmen> Frame_tank;       ///< only where it counts
+    je_spur<bezeichnung> tankinhalt;  ///< litres
     je_spur<tarvel::liste> liste;     ///< row n - 1 holds lap n
     je_spur<befehl> cmd_anzeige;      ///< what the list shows of a lap
     je_spur<befehl> cmd_rd_inc;       ///< deletes the selected lap
@@ -153,7 +155,7 @@ private:
     enum class aktion { keine, wiederholen, neu_starten, fortsetzen, hauptmenue };
 
     struct worte {
-        std::string zeitrennen, rundenrennen, vorzeitig, spur, rundenliste, strafzeit, tankinhalt;
+        std::string zeitrennen, rundenrennen, vorzeitig, spur, rundenliste, strafzeit;
         std::string tempo;  ///< names the two speeds
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, weiter_in, verlust;

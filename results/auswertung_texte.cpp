@@ -35,7 +35,7 @@ sprachliste auswertung::sprache_a() {
     texte.text("Sektoren nicht aktiviert - Anzeigeänderung nicht möglich.", wort_.keine_sektoren);
     texte.text("Rennmaximum erreicht. Fortsetzung nicht möglich.", wort_.maximum);
     texte.text("Runden/Zeitmaximum erreicht. Fortsetzung nicht möglich.", wort_.maximum_titel);
-    texte.text("Training wird fortgesetzt in:", wort_.training).text("Tankinhalt", wort_.tankinhalt);
+    texte.text("Training wird fortgesetzt in:", wort_.training).fuer_alle("Tankinhalt", Label_tank);
     texte.text("Rundenverlauf", wort_.verlauf).text("Platzierung", wort_.stand).text("Drucken", Command_drucken);
     texte.text("Als PDF speichern", Command_pdf).text("bis", Label_bis);
     texte.text("Runden insgesamt", wort_.runden).text("Minuten insgesamt", wort_.minuten);
@@ -111,6 +111,7 @@ void auswertung::ansagen_setzen() {
         ansagen(beste_aus[i], Label_beste[i].text());
         ansagen(liste[i], wort_.rundenliste);
         ansagen(meter[i], wort_.restmeter);
+        ansagen(tankinhalt[i], Label_tank[i].text());
         for (befehl* knopf : {&cmd_anzeige[i], &cmd_rd_add[i], &cmd_rd_inc[i]}) {
             ansagen(*knopf, knopf->tipp());
         }

@@ -57,6 +57,7 @@ QWidget* AuswertungFenster::standfeld(const dateien& ablage) {
     for (const int spur : alle_spuren) {
         auto* zeile = new Ergebniszeile(logik_, spur, ablage, binder(), this);
         zeile->bei_umzug = [this] { ordnen(); };
+        zeile->bei_runden = [this] { skalieren(); };
         zeilen_.push_back(zeile);
         reihen_->addWidget(zeile, 1);
     }
@@ -125,8 +126,8 @@ QLayout* AuswertungFenster::korrekturzeile() {
         for (const auto& [element, name] : knoepfe) {
             neue->addWidget(binder().knopf(*element, name, "schmal"));
         }
-        neue->addStretch(1);
         zeilen->addLayout(neue);
+        return neue;
     };
     zeile({{&logik_.Command6, "Command6"},
            {&logik_.Command8, "Command8"},
@@ -134,14 +135,19 @@ QLayout* AuswertungFenster::korrekturzeile() {
            {&logik_.Command_zurueck, "Command_zurueck"},
            {&logik_.Command_wieder, "Command_wieder"},
            {&logik_.Command10, "Command10"},
-           {&logik_.Command9, "Command9"}});
-    zeile({{&logik_.Command_verlauf, "Command_verlauf"},
-           {&logik_.Command_protokoll, "Command_protokoll"},
-           {&logik_.Command_wiedergabe, "Command_wiedergabe"},
-           {&logik_.Command_drucken, "Command_drucken"},
-           {&logik_.Command_pdf, "Command_pdf"},
-           {&logik_.Command_urkunden, "Command_urkunden"},
-           {&logik_.Command4, "Command4"}});
+           {&logik_.Command9, "Command9"}})
+        ->addStretch(1);
+    auto* wege = zeile({{&logik_.Command_verlauf, "Command_verlauf"},
+                        {&logik_.Command_protokoll, "Command_protokoll"},
+                        {&logik_.Command_wiedergabe, "Command_wiedergabe"},
+                        {&logik_.Command_drucken, "Command_drucken"},
+                        {&logik_.Command_pdf, "Command_pdf"},
+                        {&logik_.Command_urkunden, "Command_urkunden"},
+                        {&logik_.Command4, "Command4"}});
+    TextAnzeige* vorlaeufig = binder().anzeige(logik_.Label_vorlaeufig, "Label_vorlaeufig", 20);
+    vorlaeufig->setAusrichtung(Qt::AlignRight | Qt::AlignVCenter);
+    wege->addStretch(0);
+    wege->addWidget(vorlaeufig, 1);
     return zeilen;
 }
 
@@ -156,7 +162,6 @@ QLayout* AuswertungFenster::wegezeile() {
     TextAnzeige* training = binder().anzeige(logik_.trainingslabel, "trainingslabel", 30);
     training->setFett(true);
     zeile->addWidget(training, 1);
-    zeile->addWidget(binder().anzeige(logik_.Label_vorlaeufig, "Label_vorlaeufig", 20), 1);
     zeile->addWidget(binder().knopf(logik_.Command7, "Command7"), 0, Qt::AlignBottom);
     zeile->addStretch(1);
     auto* rechts = new QVBoxLayout;  // beside each other they would be too wide for a small screen
@@ -242,8 +247,13 @@ void AuswertungFenster::skalieren() {
         stand_->height() / static_cast<double>(std::max<std::ptrdiff_t>(gezeigt, 1)) - zeilenabstand_px;
     const double skala = std::clamp(std::min(je_zeile / zeile_entwurf_px, width() / breite_entwurf_px), 0.6, skala_max);
     binder().skala(skala);
+    QString laengste;
+    for (const Ergebniszeile* zeile : zeilen_) {
+        const QString seine = zeile->laengste_runde();
+        laengste = seine.size() > laengste.size() ? seine : laengste;
+    }
     for (Ergebniszeile* zeile : zeilen_) {
-        zeile->skalieren(skala);
+        zeile->skalieren(skala, laengste);
     }
 }
 

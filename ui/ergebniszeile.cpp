@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/text.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -41,9 +42,13 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     aufbau->addWidget(platz);
     bilder(ablage, binder, *aufbau);
     aufbau->addWidget(fahrerzelle(binder), 7);
-    aufbau->addWidget(rundenzelle(binder), 4);
+    aufbau->addWidget(rundenzelle(binder), 3);
     aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
+    QWidget* tank = zelle({logik.Label_tank[i], logik.tankinhalt[i], "tankinhalt", schrift_wert}, binder).feld;
+    binder.verbinden(logik.Frame_tank.at(i), tank, nummeriert("Frame_tank"), {});
+    aufbau->addWidget(tank, 3);
+    tankzelle_ = tank;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
     zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 4);
     zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 5);
@@ -83,15 +88,18 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     wert->setAusrichtung(links_mitte);
     wert->setFett(true);
     wert->setZweizeilig();  // a long name, whose letters were too small to read in one line
+    auto* darueber = new QHBoxLayout;
     auto* darunter = new QHBoxLayout;
+    darueber->setSpacing(8);
     darunter->setSpacing(8);
+    darueber->addWidget(kopf, 1);
     werte_.push_back(wert);
     aufbau->addStretch(1);
-    aufbau->addWidget(kopf);
+    aufbau->addLayout(darueber);
     aufbau->addWidget(wert, 4);
     aufbau->addLayout(darunter);
     aufbau->addStretch(1);
-    return {feld, darunter};
+    return {feld, darueber, darunter};
 }
 
 TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, Binder& binder) {
@@ -106,21 +114,19 @@ TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, 
 QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {
     const std::size_t i = index_;
     const zelle_teile teile = zelle({logik_.Label_spur[i], logik_.fahrer[i], "fahrer", schrift_name}, binder);
-    teile.zusatz->addWidget(zusatz(logik_.fahrzeug[i], "fahrzeug", binder), 3);
-    TextAnzeige* strafe = binder.anzeige(logik_.aus_straflabel[i], nummeriert("aus_straflabel"), schrift_zusatz);
+    teile.zusatz->addWidget(zusatz(logik_.fahrzeug[i], "fahrzeug", binder));
+    TextAnzeige* strafe = binder.anzeige(logik_.aus_straflabel[i], nummeriert("aus_straflabel"), schrift_titel);
     strafe->setAusrichtung(links_mitte);
     strafe->setFarbrolle(QPalette::Link);
-    teile.zusatz->addWidget(strafe, 3);
+    teile.kopf->setStretch(0, 2);
+    teile.kopf->addWidget(strafe, 5);
     return teile.feld;
 }
 
 QWidget* Ergebniszeile::rundenzelle(Binder& binder) {
     const std::size_t i = index_;
     const zelle_teile teile = zelle({logik_.Label_runden[i], logik_.runden_aus[i], "runden_aus", schrift_wert}, binder);
-    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder), 2);
-    TextAnzeige* tank = binder.anzeige(logik_.tankinhalt[i], nummeriert("tankinhalt"), schrift_zusatz);
-    tank->setAusrichtung(links_mitte);
-    teile.zusatz->addWidget(tank, 3);
+    teile.zusatz->addWidget(zusatz(logik_.ges_meter[i], "ges_meter", binder));
     return teile.feld;
 }
 
@@ -152,6 +158,11 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     liste_ = binder.listenfeld(logik_.liste.at(i), nummeriert("liste"));
     liste_->setMinimumHeight(50);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    QObject::connect(liste_->model(), &QAbstractItemModel::modelReset, this, [this] {
+        if (bei_runden) {
+            bei_runden();
+        }
+    });
     aufbau->addWidget(liste_, 1);
     auto* knoepfe = new QVBoxLayout;
     knoepfe->setSpacing(2);
@@ -170,14 +181,27 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     return spalte;
 }
 
-void Ergebniszeile::skalieren(double skala) {
+QString Ergebniszeile::laengste_runde() const {
+    const auto& zeilen = logik_.liste.at(index_).zeilen();
+    const auto laengste = std::max_element(zeilen.begin(), zeilen.end(),
+                                           [](const auto& a, const auto& b) { return laenge(a) < laenge(b); });
+    return laengste == zeilen.end() ? QString() : QString::fromStdString(*laengste);
+}
+
+void Ergebniszeile::skalieren(double skala, const QString& laengste_runde) {
     QFont schrift = liste_->font();
     schrift.setPixelSize(std::max(12, static_cast<int>(std::lround(schrift_liste * skala))));
     liste_->setFont(schrift);
     constexpr int rollbalken_px = 34;  // and what the list keeps free around a line
-    liste_->setMinimumWidth(QFontMetrics(schrift).horizontalAdvance("00.  00:00,000") + rollbalken_px);
+    const QFontMetrics masse(schrift);
+    const int breite = std::clamp(masse.horizontalAdvance(laengste_runde), masse.horizontalAdvance("00.  00:00,000"),
+                                  masse.horizontalAdvance("000.  00:00,000 (Rest)"));  // sectors are scrolled
+    liste_->setMinimumWidth(breite + rollbalken_px);
     knoepfe_skalieren(skala);
-    constexpr double zwei_zeilen = 1.7;  // of smaller letters, for a long name
+    QFont darunter = font();
+    darunter.setPixelSize(std::max(static_cast<int>(std::lround(schrift_zusatz * skala)), 1));
+    tankzelle_->setContentsMargins(0, 0, 0, QFontMetrics(darunter).height());  // its figure in line with the others
+    constexpr double zwei_zeilen = 1.7;                                        // of smaller letters, for a long name
     for (QWidget* wert : werte_) {
         wert->setMaximumHeight(static_cast<int>(std::lround(schrift_wert * zwei_zeilen * skala)));
     }

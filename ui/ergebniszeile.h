@@ -17,19 +17,23 @@ public:
     /// Row of the window, from 0.
     int reihe() const { return logik_.Frame.at(index_).reihe(); }
     bool gezeigt() const { return logik_.Frame.at(index_).sichtbar(); }
-    void skalieren(double skala);
+    /// The lists of all rows are as wide as this line needs.
+    void skalieren(double skala, const QString& laengste_runde);
+    QString laengste_runde() const;
     /// What the Tab key reaches in the row.
     QWidget* meterfeld() const { return meterfeld_; }
     QWidget* rundenliste() const { return liste_; }
     const std::vector<QPushButton*>& knoepfe() const { return knoepfe_; }
     /// Called when the row has changed.
     std::function<void()> bei_umzug;
+    /// Called when its list has other laps.
+    std::function<void()> bei_runden;
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    /// One figure of the row with its caption above, and what goes under it.
+    /// One figure of the row with its caption above, and what goes beside that and under it.
     struct zelle_inhalt {
         steuerelement& titel;
         steuerelement& wert;
@@ -38,7 +42,8 @@ private:
     };
     struct zelle_teile {
         QWidget* feld;
-        QHBoxLayout* zusatz;
+        QHBoxLayout* kopf;    ///< room behind the caption
+        QHBoxLayout* zusatz;  ///< and under the figure
     };
     zelle_teile zelle(const zelle_inhalt& inhalt, Binder& binder);
     TextAnzeige* zusatz(steuerelement& element, const QString& name, Binder& binder);
@@ -57,6 +62,7 @@ private:
     std::vector<QWidget*> werte_;        ///< the figures and the name
     std::vector<QPushButton*> knoepfe_;  ///< beside the list
     QLineEdit* meterfeld_ = nullptr;
+    QWidget* tankzelle_ = nullptr;
     QColor spurfarbe_;
 };
 

@@ -82,6 +82,21 @@ TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
     EXPECT_EQ(QApplication::activeWindow(), &*o.w_ausw_debug);
 }
 
+TEST_F(Ergebnisfenster, DieRundenlistenHabenPlatzFuerNachgetrageneRunden) {
+    t.starten("Runden", "9", {1, 2});
+    for (const zeit_ms dauer : {1000, 6000, 12000}) {
+        t.runde_nach(dauer, "12");
+    }
+    t.rennende();
+    t.p.auswertung.liste[0].auswaehlen(1);
+    t.p.auswertung.Command_nachtragen.klicken();
+    t.p.auswertung.nachtrag.Command_eintragen.klicken();
+    setzen_lassen();
+    auto* liste = finde<QListView>(o.auswertung, "auswertung.liste_0");
+    ASSERT_TRUE(liste->model()->index(1, 0).data().toString().endsWith("+"));
+    EXPECT_EQ(liste->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
     zeigen(3);
     klick(fenster, "w_auswertung2.Command_pdf");

@@ -177,6 +177,14 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          b.ergebnis("14", {1, 2, 3, 4, 5, 6});
          return b.o.auswertung;
      }},
+    {"auswertung_tanken",
+     [](buehne& b) -> QWidget& {
+         b.p.form1.t_aktiv.umschalten();
+         b.p.einst.tank_straf_option = leer_aktion::zeitstrafe;
+         b.rennen(95000);
+         b.t.rennende();
+         return b.o.auswertung;
+     }},
     {"auswertung_ab_gruen",  // who came over the line first is last by his laps
      [](buehne& b) -> QWidget& {
          b.einrichten("Runden", "30", {1, 2, 3, 4, 5, 6});
