@@ -101,6 +101,18 @@ zeit_ms rennhergang::dauer() const {
     return alle.empty() ? 0 : alle.back().seit_gruen;
 }
 
+zeit_ms rennhergang::gefahren_bis() const {
+    std::optional<zeit_ms> bis;
+    for (const geschehen& g : alle) {
+        if (g.was == vorgang::gruen) {
+            bis.reset();  // it goes on
+        } else if (g.was == vorgang::ende || (bis && (g.was == vorgang::runde || g.was == vorgang::ziel))) {
+            bis = g.seit_gruen;
+        }
+    }
+    return bis.value_or(dauer());
+}
+
 std::optional<protokollkopf> hergang_kopf(std::string_view anfang) {
     protokollleser zeilen(anfang);
     return kopf_aus(zeilen);

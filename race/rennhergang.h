@@ -84,6 +84,8 @@ struct rennhergang {
     zeit_ms pausen() const;
     /// The last moment that anything is known of, from the green light.
     zeit_ms dauer() const;
+    /// Up to here it was driven: to the end of the race and what was counted behind it. Without an end, as `dauer`.
+    zeit_ms gefahren_bis() const;
 };
 
 /// The head alone, from the first bytes of a log.

@@ -305,7 +305,7 @@ int protokollfenster::naechste_zeile(int spur, zeit_ms zeit, zeit_ms hoechstens)
 
 protokollfenster::zeitraum protokollfenster::ganzes() const {
     constexpr zeit_ms rand_teil = 40;
-    const zeit_ms dauer = std::max<zeit_ms>(hergang_.dauer(), ausschnitt_min_ms);
+    const zeit_ms dauer = std::max<zeit_ms>(hergang_.gefahren_bis(), ausschnitt_min_ms);
     const zeit_ms erstes = hergang_.alle.empty() ? 0 : hergang_.alle.front().seit_gruen;
     return {std::clamp<zeit_ms>(erstes, -dauer / rand_teil, 0), dauer + dauer / rand_teil};
 }

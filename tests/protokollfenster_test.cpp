@@ -117,8 +117,14 @@ TEST_F(Protokollfenster, AusschnittBleibtImRennenUndZeigtDieWahl) {
     fahren();
     t.maschine.laufen(60000);
     t.rennende();
+    t.maschine.laufen(600000);  // they look at it, and somebody still has his car on the track
+    t.taste("1");
+    t.p.auswertung.liste[0].auswaehlen(0);
+    t.p.auswertung.Command8.klicken();
     t.p.auswertung.Command_protokoll.klicken();
     const f::zeitraum alles = fenster().ganzes();
+    EXPECT_GT(fenster().hergang().dauer(), 600000);
+    EXPECT_LT(alles.bis, 75000) << "the race was over";
     EXPECT_EQ(fenster().ausschnitt(), alles);
     fenster().zoomen(2, 5000);
     EXPECT_EQ(fenster().ausschnitt(), alles);

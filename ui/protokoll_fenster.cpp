@@ -248,12 +248,14 @@ blattseiten ProtokollFenster::seiten() const {
     const auto bild = [inhalt, blatt](QPainter& maler, const QSizeF& groesse) {
         constexpr double kopf_hoehe = 175;  // all measures in tenths of a millimetre
         constexpr double zeile_hoehe_max = 220;
+        constexpr double schrift = 38;
         blatttext(maler, {0, 0, groesse.width(), 85}, Qt::AlignLeft, blatt.titel, {78, true, stil::schrift});
         blatttext(maler, {0, 90, groesse.width(), 55}, Qt::AlignLeft, blatt.kopf, {44, false, stil::schrift_leise});
         const double hoehe =
             std::min(groesse.height() - kopf_hoehe,
-                     70 + zeile_hoehe_max * static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1)));
-        streifen_malen(maler, {0, kopf_hoehe, groesse.width(), hoehe}, inhalt, 38);
+                     70 + inhalt.legende.hoehe(schrift) +
+                         zeile_hoehe_max * static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1)));
+        streifen_malen(maler, {0, kopf_hoehe, groesse.width(), hoehe}, inhalt, schrift);
     };
     return {windowTitle(), [liste](const QSizeF& groesse) { return 1 + liste.anzahl(groesse); },
             [liste, bild](QPainter& maler, const QSizeF& groesse, int nummer) {

@@ -17,16 +17,14 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double namen_em = 10;  // width of the names
-const QColor pausenfarbe{255, 236, 150};
-const QColor tankfarbe{70, 130, 200};
-const QColor strafenfarbe{150, 80, 170};
 
 /// Where everything is.
 class feldmass {
 public:
     feldmass(const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
         : inhalt_(inhalt),
-          feld_(flaeche.adjusted(namen_em * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px, -0.3 * schrift_px)),
+          feld_(flaeche.adjusted(namen_em * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px,
+                                 -0.3 * schrift_px - inhalt.legende.hoehe(schrift_px))),
           zeile_(feld_.height() / static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1))) {}
 
     const QRectF& feld() const { return feld_; }
@@ -73,13 +71,17 @@ public:
         grund();
         maler_.save();
         maler_.setClipRect(mass_.feld().adjusted(-1, -1, 1, 1));
-        balken(vorgang::pause, pausenfarbe, 0, 1);
+        balken(streifenzeichen::pause);
         linien();
-        balken(vorgang::strom_aus, strafenfarbe, 0.72, 0.16);
-        balken(vorgang::tankt, tankfarbe, 0.72, 0.16);
+        balken(streifenzeichen::stromlos);
+        balken(streifenzeichen::tankt);
         marken();
         wahl();
         maler_.restore();
+        inhalt_.legende.malen(
+            maler_,
+            {mass_.feld().left(), mass_.feld().bottom() + 0.2 * px_, mass_.feld().width(), inhalt_.legende.hoehe(px_)},
+            px_);
     }
 
 private:
@@ -141,16 +143,14 @@ private:
         }
     }
 
-    /// `oben` and `hoehe` in parts of the row.
-    void balken(vorgang was, const QColor& farbe, double oben, double hoehe) {
+    void balken(streifenzeichen z) {
         for (const geschehen& g : inhalt_.geschehnisse) {
-            if (g.was == was && g.bis != geschehen::keine && sichtbar(g)) {
-                const QRectF zeile = mass_.zeile_von(g.spur);
+            if (zeichen_von(g) == z && g.bis != geschehen::keine && sichtbar(g)) {
+                QRectF feld = balkenfeld(z, mass_.zeile_von(g.spur));
                 const double x = std::max(mass_.x(g.seit_gruen), mass_.feld().left());
-                const double bis = std::min(mass_.x(g.bis), mass_.feld().right());
-                maler_.fillRect(
-                    QRectF(x, zeile.top() + oben * zeile.height(), std::max(bis - x, px_ / 8), hoehe * zeile.height()),
-                    farbe);
+                feld.setLeft(x);
+                feld.setRight(std::max(std::min(mass_.x(g.bis), mass_.feld().right()), x + px_ / 8));
+                maler_.fillRect(feld, farbe_von(z));
             }
         }
     }
@@ -158,47 +158,16 @@ private:
     void marken() {
         std::map<std::pair<int, bool>, double> zuletzt;  // by lane, and refused or not
         for (const geschehen& g : inhalt_.geschehnisse) {
-            const bool kreuz = g.ist_abgelehnt();
-            const bool strich = g.was == vorgang::runde;
-            if (g.spur == 0 ? !ganze_hoehe(g.was)
-                            : !(kreuz || strich || g.was == vorgang::ziel || g.was == vorgang::fruehstart ||
-                                g.was == vorgang::strafe)) {
+            const auto z = zeichen_von(g);
+            if (!z || ist_balken(*z) || !sichtbar(g) || mass_.zeile_von(g.spur).isEmpty()) {
                 continue;
             }
             const double x = mass_.x(g.seit_gruen);
-            const auto vorher = zuletzt.find({g.spur, kreuz});
-            if (!sichtbar(g) || (vorher != zuletzt.end() && x - vorher->second < px_ / 12)) {
-                continue;
+            const auto vorher = zuletzt.find({g.spur, g.ist_abgelehnt()});
+            if (vorher == zuletzt.end() || x - vorher->second >= px_ / 12) {
+                zuletzt[{g.spur, g.ist_abgelehnt()}] = x;
+                marke_malen(maler_, *z, mass_.zeile_von(g.spur), x, px_);
             }
-            zuletzt[{g.spur, kreuz}] = x;
-            marke(g, x);
-        }
-    }
-
-    static bool ganze_hoehe(vorgang was) { return was == vorgang::gruen || was == vorgang::ende; }
-
-    void marke(const geschehen& g, double x) {
-        const QRectF zeile = mass_.zeile_von(g.spur);
-        if (zeile.isEmpty()) {
-            return;
-        }
-        const double r = std::min(0.3 * px_, 0.3 * zeile.height());
-        if (g.spur == 0) {
-            maler_.setPen(QPen(g.was == vorgang::gruen ? QColor(20, 140, 60) : stil::schrift, px_ / 6));
-            maler_.drawLine(QPointF(x, zeile.top()), QPointF(x, zeile.bottom()));
-        } else if (g.ist_abgelehnt()) {
-            maler_.setPen(QPen(stil::akzent, px_ / 6));
-            const QPointF m = zeile.center();
-            maler_.drawLine(QPointF(x - r, m.y() - r), QPointF(x + r, m.y() + r));
-            maler_.drawLine(QPointF(x - r, m.y() + r), QPointF(x + r, m.y() - r));
-        } else if (g.was == vorgang::runde) {
-            maler_.setPen(QPen(stil::schrift, px_ / 10));
-            maler_.drawLine(QPointF(x, zeile.top() + 0.2 * zeile.height()),
-                            QPointF(x, zeile.top() + 0.66 * zeile.height()));
-        } else {
-            maler_.setPen(Qt::NoPen);
-            maler_.setBrush(g.was == vorgang::ziel ? stil::schrift : strafenfarbe);
-            maler_.drawEllipse(QPointF(x, zeile.top() + 0.8 * zeile.height()), r, r);
         }
     }
 
@@ -238,6 +207,7 @@ streifeninhalt streifeninhalt_bilden(const protokollfenster& logik) {
     for (std::size_t i = 0; i < logik.zeilen().size(); ++i) {
         inhalt.geschehnisse.push_back(logik.zeile(i));
     }
+    inhalt.legende = legende_bilden(logik);
     inhalt.zeitraum = logik.ausschnitt();
     inhalt.gewaehlt = logik.gewaehlt();
     return inhalt;
@@ -271,7 +241,7 @@ double Protokollstreifen::schriftPx() const {
 
 QSize Protokollstreifen::sizeHint() const {
     const int zeilen = static_cast<int>(std::max<std::size_t>(inhalt_.zeilen.size(), 2));
-    return {600, static_cast<int>(schriftPx() * (2 + 2.1 * zeilen))};
+    return {600, static_cast<int>(schriftPx() * (2 + 2.1 * zeilen) + inhalt_.legende.hoehe(schriftPx()))};
 }
 
 QSize Protokollstreifen::minimumSizeHint() const {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "results/protokollfenster.h"
+#include "ui/streifenzeichen.h"
 
 namespace tarvel::ui {
 
@@ -17,6 +18,7 @@ struct streifeninhalt {
     };
     std::vector<zeile> zeilen;
     std::vector<geschehen> geschehnisse;  ///< in order of time
+    streifenlegende legende;
     protokollfenster::zeitraum zeitraum;
     int gewaehlt = -1;  ///< of the happenings
 };
