@@ -22,6 +22,7 @@ Ablagefenster::teile Ablagefenster::aufteilen(int spaltenbreite, bezeichnung& ko
     TextAnzeige* anzeige = binder().anzeige(kopf, kopfname);
     anzeige->setFett(true);
     anzeige->setSchriftPx(kopf_px);
+    anzeige->setZweizeilig();
     anzeige->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     t.kopfzeile = new QHBoxLayout;
     t.kopfzeile->addWidget(anzeige, 1);

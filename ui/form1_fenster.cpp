@@ -269,13 +269,20 @@ QPushButton* Form1Fenster::letzte_ergebnisse() {
     QPushButton* knopf = hoher_knopf(logik_.command_zuletzt, "command_zuletzt");
     auto* menue = new QMenu(knopf);
     QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue] {
+        constexpr int rand_px = 110;  // of the menu, and the digit
         menue->clear();
+        menue->setToolTipsVisible(false);
+        const int platz = screen()->availableGeometry().width() - rand_px;
         const auto zeilen = logik_.letzte_zeilen();
         for (std::size_t i = 0; i < zeilen.size(); ++i) {
-            QString text = QString::fromStdString(zeilen[i].text).replace("&", "&&");
-            text.prepend(i < 9 ? QString("&%1  ").arg(i + 1) : QString());  // a digit opens it
+            const QString ganz = QString::fromStdString(zeilen[i].text);
+            const QString passend = menue->fontMetrics().elidedText(ganz, Qt::ElideMiddle, platz);
+            QString text = passend;
+            text.replace("&", "&&").prepend(i < 9 ? QString("&%1  ").arg(i + 1) : QString());  // a digit opens it
             QAction* eines = menue->addAction(text, this, [this, i] { logik_.letztes_oeffnen(i); });
             eines->setEnabled(zeilen[i].da);
+            eines->setToolTip(ganz);
+            menue->setToolTipsVisible(menue->toolTipsVisible() || passend != ganz);
         }
     });
     knopf->setMenu(menue);

@@ -97,9 +97,7 @@ void WAuswertung2Fenster::dateispalte_fuellen(QVBoxLayout* aufbau) {
     unterordner->setFixedHeight(ordner_zeilen * fontMetrics().height() * 5 / 4);
     aufbau->addWidget(unterordner);
     QListView* dateien = binder().listenfeld(logik_.File1, "File1");
-    dateien->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    dateien->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    dateien->setUniformItemSizes(false);  // the longest name says how far to scroll
+    dateien->setTextElideMode(Qt::ElideMiddle);
     dateien->setItemDelegate(new Dateinamen(
         [this](const QString& datei) { return QString::fromStdString(logik_.anzeigename(datei.toStdString())); },
         dateien));

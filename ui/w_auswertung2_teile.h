@@ -27,9 +27,14 @@ public:
         return anzeigename_(wert.toString());
     }
 
+    /// No wider than its list: the ends of long names tell them apart, and the middle is left out.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& zelle) const override {
+        return {0, QStyledItemDelegate::sizeHint(option, zelle).height()};
+    }
+
     bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* liste, const QStyleOptionViewItem& option,
                    const QModelIndex& zelle) override {
-        const bool abgeschnitten = sizeHint(option, zelle).width() > liste->viewport()->width();
+        const bool abgeschnitten = QStyledItemDelegate::sizeHint(option, zelle).width() > liste->viewport()->width();
         const QString datei = zelle.data().toString();
         const bool sagen = abgeschnitten || anzeigename_(datei) != datei;
         QToolTip::showText(ereignis->globalPos(), sagen ? datei : QString(), liste);
