@@ -10,6 +10,8 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int spur_breite = 92;
+constexpr int name_breite = 284;  // thirty letters; of a vehicle fewer, for a small screen
+constexpr int fahrzeug_breite = 244;
 constexpr int zeit_breite = 136;
 constexpr int alt_breite = 92;
 constexpr int zeichen_groesse = 26;
@@ -50,6 +52,8 @@ QHBoxLayout* spalten(QWidget* traeger, const std::vector<QWidget*>& zellen) {
     for (std::size_t i = 0; i < zellen.size(); ++i) {
         if (breiten.at(i) > 0) {
             zellen[i]->setFixedWidth(breiten.at(i));
+        } else {
+            zellen[i]->setMinimumWidth(i == 1 ? name_breite : fahrzeug_breite);
         }
         const bool kasten = i == 0;  // its text would begin at the upper edge
         aufbau->addWidget(zellen[i], breiten.at(i) > 0 ? 0 : 1, kasten ? Qt::AlignVCenter : Qt::Alignment());

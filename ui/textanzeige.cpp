@@ -13,7 +13,8 @@ namespace {
 
 constexpr double kleinste_verkleinerung = 0.4;
 
-/// Broken between words into so many lines at most, where the longest line is shortest. A single word stays whole.
+}  // namespace
+
 QString umbrochen(const QString& text, const QFontMetricsF& masse, int zeilen) {
     QString bester = text;
     for (qsizetype luecke = text.indexOf(' '); zeilen > 1 && luecke > 0; luecke = text.indexOf(' ', luecke + 1)) {
@@ -24,8 +25,6 @@ QString umbrochen(const QString& text, const QFontMetricsF& masse, int zeilen) {
     }
     return bester;
 }
-
-}  // namespace
 
 TextAnzeige::TextAnzeige(QWidget* eltern) : QWidget(eltern), schrift_(font()) {}
 

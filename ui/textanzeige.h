@@ -8,6 +8,9 @@ class QFontMetricsF;
 
 namespace tarvel::ui {
 
+/// Broken between words into so many lines at most, where the longest line is shortest. A single word stays whole.
+QString umbrochen(const QString& text, const QFontMetricsF& masse, int zeilen);
+
 /// One line of text that fills its place: it shrinks rather than push its neighbours, and a change of the text repaints
 /// this widget alone. Cut with "…" if it would become too small to read.
 class TextAnzeige : public QWidget {

@@ -10,6 +10,7 @@
 #include "core/texte.h"
 #include "ui/stil.h"
 #include "ui/teilung.h"
+#include "ui/textanzeige.h"
 
 namespace tarvel::ui {
 namespace {
@@ -79,6 +80,31 @@ private:
                   {std::min(zeile_ * groesse, f_.width() * schrift_anteil_max), fett, farbe});
     }
 
+    /// A long one takes two lines, for its letters would be too small in one.
+    void name(const QRectF& feld, const QString& inhalt) {
+        constexpr double einzeilig = 0.46;
+        constexpr double zweizeilig = 0.38;
+        const double px = std::min(zeile_ * einzeilig, f_.width() * schrift_anteil_max);
+        const QFontMetricsF masse(schrift_mit(px, true));
+        if (masse.horizontalAdvance(inhalt) <= feld.width()) {
+            blatttext(maler_, feld, Qt::AlignLeft, inhalt, {px, true, stil::schrift});
+            return;
+        }
+        const QStringList zeilen = umbrochen(inhalt, masse, 2).split('\n');
+        double passend = std::min(px, zeile_ * zweizeilig);
+        for (const QString& zeile : zeilen) {
+            passend =
+                std::min<double>(passend, eingepasst(schrift_mit(passend, true), zeile, feld.width()).pixelSize());
+        }
+        const double hoehe = 1.1 * passend;
+        double y = feld.center().y() - hoehe * static_cast<double>(zeilen.size()) / 2;
+        for (const QString& zeile : zeilen) {
+            blatttext(maler_, {feld.left(), y, feld.width(), hoehe}, Qt::AlignLeft, zeile,
+                      {passend, true, stil::schrift});
+            y += hoehe;
+        }
+    }
+
     QRectF zahlfeld(int spalte, double y) const {
         return {f_.right() - (4 - spalte) * zahl_breite_, y, zahl_breite_ - zeile_ * 0.15, zeile_};
     }
@@ -110,8 +136,8 @@ private:
     }
 
     void zeile(const fahrerstreuung& fahrer, double y, std::size_t nummer) {
-        text({f_.left() + zeile_ * 0.2, y, f_.width() * name_anteil - zeile_ * 0.2, zeile_}, Qt::AlignLeft,
-             QString::number(nummer + 1) + ".  " + QString::fromStdString(fahrer.name), true, stil::schrift);
+        name({f_.left() + zeile_ * 0.2, y, f_.width() * name_anteil - zeile_ * 0.2, zeile_},
+             QString::number(nummer + 1) + ".  " + QString::fromStdString(fahrer.name));
         marke(fahrer, y);
         const auto zeit = [this](zeit_ms dauer) {
             return QString::fromStdString(zeit_formatieren(dauer, dauer >= 60000, i_.trennzeichen));
