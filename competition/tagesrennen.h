@@ -14,6 +14,10 @@ public:
     std::string datei;  ///< below the program folder
 
     std::string kennung() const override { return "tagesrennen " + datei; }
+    std::string anlass(const anlassworte& wort) const override {
+        const std::string name = datei.substr(datei.find_last_of('\\') + 1);
+        return wort.tagesrennen + " " + name.substr(0, name.rfind('.'));
+    }
     /// The next race of the day is set up there, and there its standing is seen.
     fenstername zurueck() const override { return fenstername::Tagesrennen; }
     anzeige_art zurueck_als() const override { return anzeige_art::modal; }

@@ -122,6 +122,11 @@ starter wettkampfabend::wer_startet() const {
     return mit_einfahrzeit() ? starter::einfahrzeit : starter::bediener;
 }
 
+std::string wettkampfabend::anlass(const anlassworte& wort) const {
+    const std::string name = stand_.wettkampf_name.empty() ? std::string() : " " + stand_.wettkampf_name;
+    return wort.wettkampf + name + ", " + wort.rennen + " " + std::to_string(uebergabe_.rennen);
+}
+
 std::string wettkampfabend::naechste_fahrer() const {
     const int rennen = stand_.folgendes_rennen();
     if (rennen == 0) {

@@ -112,6 +112,7 @@ public:
     std::string kennung() const override {
         return "wettkampf " + std::to_string(uebergabe_.rennen) + " " + std::to_string(ab_teil_) + " " + abendname();
     }
+    std::string anlass(const anlassworte& wort) const override;
     starter wer_startet() const override;
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
     bool ohne_bediener() const override { return automatik_an_; }

@@ -39,12 +39,19 @@ struct selbstlauf {
 /// What becomes of the race whose result is taken.
 enum class weitergang { wiederholen, neu_starten, fortsetzen, verlassen };
 
+/// Words for what a race is part of.
+struct anlassworte {
+    std::string training, tagesrennen, wettkampf, rennen;
+};
+
 /// What a race is part of: a race of its own, a training, the list of a day, an evening of many races. The race and its
 /// result window ask it what is allowed and where they lead, and nothing else tells the kinds of evening apart.
 class veranstaltung : public schnittstelle {
 public:
     /// Its kind, and what else it takes to find it again after an outage.
     virtual std::string kennung() const = 0;
+    /// The same as people say it; empty for a race of its own.
+    virtual std::string anlass(const anlassworte& /*wort*/) const { return {}; }
     virtual starter wer_startet() const { return starter::bediener; }
     /// The result window goes on by itself, and so must the start that follows; false once it has.
     virtual void von_selbst_starten(bool /*an*/) {}

@@ -119,7 +119,8 @@ std::string auswertung::art_und_ziel() const {
 
 std::string auswertung::kopf() const {
     const rennergebnis& e = ergebnis();
-    std::string kopf = art_und_ziel();
+    const std::string anlass = um_.teil_von->anlass(anlass_);
+    std::string kopf = anlass.empty() ? art_und_ziel() : anlass + "  ·  " + art_und_ziel();
     const auto modus = static_cast<std::size_t>(gueltiger_modus(e.wertung.value_or(sortier_modus::runden)));
     kopf += "  ·  " + wort_.wertung.at(modus - 1);
     if (e.vorzeitig.value_or(false)) {

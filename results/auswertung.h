@@ -160,6 +160,7 @@ private:
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, weiter_in, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
+        std::string ergebnis;    ///< names its page
         std::string abstand;     ///< explains the gap to the leader
         std::string gesamtzeit;  ///< and what the total time is
         std::string zurueck, wieder, nachgetragen, geteilt, nachtrag_waehlen, hinter_dem_ziel;
@@ -246,6 +247,7 @@ private:
     const renn_umgebung& um_;
     umfeld u_;
     worte wort_;
+    anlassworte anlass_;
     std::unique_ptr<plattform::zeitgeber> zieltimer_;  ///< ends the signal at the race end
     std::unique_ptr<plattform::zeitgeber> ch_durch3_;  ///< counts late crossings
     std::unique_ptr<plattform::zeitgeber> ch_durch4_;  ///< and ends that

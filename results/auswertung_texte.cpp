@@ -68,7 +68,10 @@ sprachliste auswertung::sprache_a() {
     texte.fuer_alle("Sektoren", cmd_anzeige).fuer_alle("nächste", cmd_rd_add);
     texte.fuer_alle("löschen", cmd_rd_inc);
     blatt.fruehstart_nennen(texte).text("Ergebnis:", wort_.folge);
-    return texte.text("Ergebnis ab eigener erster Überfahrt:", wort_.folge_ab_erster);
+    texte.text("Ergebnis ab eigener erster Überfahrt:", wort_.folge_ab_erster);
+    texte.text("Training", anlass_.training).text("Tagesrennen", anlass_.tagesrennen);
+    texte.text("Wettkampf", anlass_.wettkampf);
+    return texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {
@@ -109,9 +112,9 @@ void auswertung::ansagen_setzen() {
         ansagen(runden_aus[i], Label_runden[i].text());
         ansagen(zeit_aus[i], Label_zeit[i].text());
         ansagen(beste_aus[i], Label_beste[i].text());
+        ansagen(tankinhalt[i], Label_tank[i].text());
         ansagen(liste[i], wort_.rundenliste);
         ansagen(meter[i], wort_.restmeter);
-        ansagen(tankinhalt[i], Label_tank[i].text());
         for (befehl* knopf : {&cmd_anzeige[i], &cmd_rd_add[i], &cmd_rd_inc[i]}) {
             ansagen(*knopf, knopf->tipp());
         }

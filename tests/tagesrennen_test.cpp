@@ -68,6 +68,7 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     EXPECT_FALSE(offen(fenstername::Tagesrennen));
     EXPECT_EQ(t.bahn().namenslabel[1].text(), "Anna") << "the class is no part of the name";
     rennen_fahren();
+    EXPECT_TRUE(t.p.auswertung.kopf().starts_with("Tagesrennen Samstag  ·  "));
     const std::string anna = "B;Anna; 1;25.00;00:06,000;00:06,000";
     const std::string ben = "9;Ben; 0;0.00;00:00,000;00:00,000";
     EXPECT_EQ(inhalt(samstag), (zeilen{"Tarvel Tagesrennen", anna, ben}));

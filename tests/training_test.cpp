@@ -67,6 +67,7 @@ TEST_F(Training, NormalFaehrtWasEingestelltIst) {
     t.rennende();
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(t.p.auswertung.Frame1.text(), "Rennen");
+    EXPECT_TRUE(t.p.auswertung.kopf_label.text().starts_with("Training  ·  Zeitrennen"));
     EXPECT_FALSE(t.p.auswertung.trainingslabel.sichtbar());
     verlassen();
     aufstellen("Runden", "0", {1, 2});

@@ -48,6 +48,8 @@ TEST_F(Wettkampfabend, CentermodeFaehrtAlleTeileInEinemRennenUndBuchtJedenFuerSi
         runden_fahren(teil == 1 ? 3 : 2);  // a continued lap goes on
         ASSERT_TRUE(offen(fenstername::auswertung));
         EXPECT_EQ(t.p.auswertung.Command5.text(), "Weiter");
+        EXPECT_TRUE(t.p.auswertung.kopf_label.text().starts_with("Wettkampf " + abend.stand().wettkampf_name +
+                                                                 ", Rennen 1  ·  "));
         t.p.auswertung.Command5.klicken();
         EXPECT_EQ(abend.stand().fortsetzung_nummer(1), teil);
         const std::string ende = teil < 3 ? "-Rennen1-Teil" + std::to_string(teil) + ".csv" : "-Rennen1.csv";
