@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "competition/rangfolge.h"
-#include "core/dateien.h"
 #include "core/weitergeben.h"
+#include "results/ergebnisdatei.h"
+#include "results/papiername.h"
 
 namespace tarvel {
 namespace {
-
-constexpr std::string_view wettkampf_ordner = "Ergebnisse\\Wettkampf\\";
 
 /// Who has scrolled down stays there while nothing changes.
 void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
@@ -210,14 +209,13 @@ void w_auswertung::urkunden_zeigen() {
                            alles.beste,
                            alles.zeit});
     }
-    urkunden_.oeffnen(std::move(plaetze), w.beginn, w.wettkampf_name,
-                      blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
+    urkunden_.oeffnen(std::move(plaetze), w.beginn, w.wettkampf_name);
 }
 
 std::string w_auswertung::blatt_datei() const {
     const wettkampf& w = abend_.stand();
-    const std::string name = w.beginn.empty() ? w.wettkampf_name : w.wettkampf_name + "-" + w.beginn;
-    return std::string(wettkampf_ordner) + als_dateiname(name.empty() ? wort_.titel : name);
+    return papiername(ergebnis_ordner::wettkampf, {w.beginn, {}},
+                      w.wettkampf_name.empty() ? wort_.titel : wort_.titel + " " + w.wettkampf_name);
 }
 
 }  // namespace tarvel

@@ -8,6 +8,7 @@
 #include "core/zeit.h"
 #include "results/ergebnisdatei.h"
 #include "results/ergebnistexte.h"
+#include "results/papiername.h"
 #include "results/platzierung.h"
 
 namespace tarvel {
@@ -305,7 +306,7 @@ bool auswertung::eingabe_offen() const {
 
 void auswertung::urkunden_zeigen() {
     auswertung_anzeigen();
-    u_.urkunden.oeffnen(ergebnis(), art_und_ziel(), blatt_datei() + "-" + als_dateiname(Command_urkunden.text()));
+    u_.urkunden.oeffnen(ergebnis(), art_und_ziel());
 }
 
 bool auswertung::wartezeit_vorbei(const std::string& wort) {
@@ -356,7 +357,9 @@ void auswertung::verlauf_nachfuehren() {
 }
 
 std::string auswertung::blatt_datei() const {
-    return std::string(ergebnis_ordner::einzelrennen) + "\\" + ergebnis_stempel(um_.kalender.jetzt());
+    const std::string anlass = um_.teil_von->anlass(anlass_);
+    return papiername(ergebnis_ordner::einzelrennen, {ergebnis().datum, ergebnis().uhrzeit},
+                      anlass.empty() ? wort_.ergebnis : wort_.ergebnis + " " + anlass);
 }
 
 }  // namespace tarvel

@@ -6,6 +6,7 @@
 #include "core/protokollordner.h"
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
+#include "results/papiername.h"
 
 namespace tarvel {
 namespace {
@@ -342,7 +343,7 @@ void protokollfenster::schieben(zeit_ms um) {
 }
 
 std::string protokollfenster::blatt_datei() const {
-    return std::string(ergebnis_ordner::einzelrennen) + "\\Protokoll " + name_.substr(0, name_.rfind('.'));
+    return papiername(ergebnis_ordner::einzelrennen, {}, name_.substr(0, name_.rfind('.')) + " " + titel.text());
 }
 
 hergangsworte protokollfenster::in_worten() {

@@ -5,6 +5,8 @@
 #include "core/fensterregister.h"
 #include "core/text.h"
 #include "core/weitergeben.h"
+#include "results/ergebnisdatei.h"
+#include "results/papiername.h"
 
 namespace tarvel {
 namespace {
@@ -91,28 +93,35 @@ sprachliste urkundenfenster::sprache_u() {
     texte.tipp("Enter oder ein Doppelklick gibt oder nimmt die Urkunde", fahrer);
     texte.text("Klasse", wort_.klasse).text("URKUNDE", titel_.urkunde).text("Runden", titel_.runden);
     texte.text("beste Runde", titel_.beste).text("Gesamtzeit", titel_.gesamtzeit).text("Datum", titel_.datum);
-    return texte.text("Rennleitung", titel_.rennleitung);
+    return texte.text("Rennleitung", titel_.rennleitung).text("Urkunde", wort_.urkunde);
 }
 
-void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& rennen, const std::string& datei) {
+void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& rennen) {
     bilden_ = [ergebnis](const urkundenangaben& angaben) { return urkunden_bilden(ergebnis, angaben); };
-    aufschlagen(rennen, datei);
+    aufschlagen(rennen, ergebnis.datum);
 }
 
-void urkundenfenster::oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen,
-                              const std::string& datei) {
+void urkundenfenster::oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen) {
     for (tabellenplatz& einer : plaetze) {
         einer.fahrer = ganzer_name(um_.fahrer, einer.fahrer);
     }
     bilden_ = [plaetze = std::move(plaetze), datum](const urkundenangaben& angaben) {
         return urkunden_bilden(plaetze, datum, angaben);
     };
-    aufschlagen(rennen, datei);
+    aufschlagen(rennen, datum);
 }
 
-void urkundenfenster::aufschlagen(const std::string& rennen, const std::string& datei) {
+std::string urkundenfenster::pdf_datei() const {
+    const std::vector<urkunde> alle = gewaehlte();
+    const bool eine = alle.size() == 1;
+    const std::string wessen = eine ? alle.front().wort(urkundenwort::fahrer) : angaben_.kopf.veranstaltung;
+    const std::string was = eine ? wort_.urkunde : titel.text();
+    return papiername(ergebnis_ordner::einzelrennen, {datum_, {}}, wessen.empty() ? was : was + " " + wessen);
+}
+
+void urkundenfenster::aufschlagen(const std::string& rennen, const std::string& datum) {
     um_.welt.fenster.laden(kennung());
-    datei_ = datei;
+    datum_ = datum;
     gespeichert_ = papierkopf_laden(um_.welt.ablage, um_.einst.anzeige.sprachordner);
     angaben_ = {gespeichert_, rennen, wort_.platz, wort_.ohne_platz, um_.einst.trennzeichen, wort_.klasse};
     Command_zurueck.text("◀");

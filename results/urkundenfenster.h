@@ -48,13 +48,11 @@ public:
     std::function<void()> als_pdf;
     std::function<void()> zeichnen;
 
-    /// Opens the window. `rennen` says what was driven, `datei` suggests a name, below the program folder and without
-    /// an extension.
-    void oeffnen(const rennergebnis& ergebnis, const std::string& rennen, const std::string& datei);
+    /// Opens the window. `rennen` says what was driven.
+    void oeffnen(const rennergebnis& ergebnis, const std::string& rennen);
     /// The same for the table of a competition or a day. A name that a file has cut is whole again if only one of the
     /// drivers' list can be meant.
-    void oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen,
-                 const std::string& datei);
+    void oeffnen(std::vector<tabellenplatz> plaetze, const std::string& datum, const std::string& rennen);
 
     std::vector<sprachliste> sprachdateien() override { return {sprache_u()}; }
     sprachliste sprache_u();
@@ -66,13 +64,14 @@ public:
     const urkunde* gezeigte() const;
     const urkundenvorlage& gezeigte_vorlage() const { return vorlage_; }
     const einstellungen& einst() const { return um_.einst; }
-    const std::string& pdf_datei() const { return datei_; }
+    /// Suggestion for their file, below the program folder and without an extension.
+    std::string pdf_datei() const;
     const texte::dateiworte& papierdatei() const { return um_.welt.txt.papierdatei; }
     void pdf_misslungen() { melden(wort_.pdf_fehler); }
     void druck_misslungen() { melden(wort_.druckfehler); }
 
 private:
-    void aufschlagen(const std::string& rennen, const std::string& datei);
+    void aufschlagen(const std::string& rennen, const std::string& datum);
     void waehlbar_machen();
     void kopf_lesen();
     void neu_bilden();
@@ -89,13 +88,13 @@ private:
     umfeld um_;
     struct {
         std::string eingebaut, platz, ohne_platz, vorlage_fehlt, vorlage_fehler, schreibfehler, pdf_fehler;
-        std::string druckfehler, klasse;
+        std::string druckfehler, klasse, urkunde;
     } wort_;
     vorlagentitel titel_;  ///< of the built-in template
     std::function<std::vector<urkunde>(const urkundenangaben&)> bilden_;
     urkundenangaben angaben_;
     papierkopf gespeichert_;
-    std::string datei_;
+    std::string datum_;  ///< of the race
     urkundenvorlage vorlage_;
     std::vector<urkunde> urkunden_;
     std::vector<bool> gewaehlt_;  ///< which of them are made

@@ -5,6 +5,8 @@
 #include "core/ordnerblick.h"
 #include "core/text.h"
 #include "core/weitergeben.h"
+#include "results/ergebnisdatei.h"
+#include "results/papiername.h"
 
 namespace tarvel {
 namespace {
@@ -340,13 +342,19 @@ std::string w_auswertung2::blatt_datei() const {
         return std::string(wurzel) + "\\" + wort_.titel;
     }
     const std::string& erste = dateien_.front();
-    std::string stamm = endet_auf(erste, ".csv") ? erste.substr(0, erste.size() - 4) : erste;
-    if (blick_ == blick::vergleich) {
-        stamm += "-" + als_dateiname(vergleichswort.titel);
-    } else if (blick_ != blick::tabelle && cbo_rennen.platz() > 0) {
-        stamm += "-" + std::to_string(cbo_rennen.platz() + 1);
+    const std::size_t name_ab = erste.find_last_of("\\/") + 1;
+    const blick gedruckt = blick_ == blick::verlauf ? blick::blatt : blick_;
+    std::string was = Command_blick.at(static_cast<std::size_t>(gedruckt)).text();
+    if (gedruckt == blick::blatt && cbo_rennen.platz() > 0) {
+        was += " " + std::to_string(cbo_rennen.platz() + 1);
     }
-    return stamm;
+    if (const std::string wann = anzeigename(erste); !erste.ends_with(wann)) {  // nobody has given it a name
+        const std::size_t luecke = wann.find(' ');
+        return papiername(ergebnis_ordner::einzelrennen, {wann.substr(0, luecke), wann.substr(luecke + 1)}, was);
+    }
+    const std::string name = erste.substr(name_ab);
+    return papiername(erste.substr(0, name_ab - 1), {},
+                      (endet_auf(name, ".csv") ? name.substr(0, name.size() - 4) : name) + " " + was);
 }
 
 void w_auswertung2::bedienung_einrichten() {

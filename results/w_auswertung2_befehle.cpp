@@ -289,14 +289,13 @@ void w_auswertung2::blatt_zeigen() {
 }
 
 void w_auswertung2::urkunden_zeigen() {
-    const std::string urkundendatei = blatt_datei() + "-" + als_dateiname(Command_urkunden.text());
     if (tabelle_->typ != ergebnis_typ::einzelrennen) {
         const std::string& art = wort_.art.at(static_cast<std::size_t>(tabelle_->typ));
         const bool wettkampf = tabelle_->typ != ergebnis_typ::tagesrennen && !tabelle_->kopf.empty();
         um_.urkunden.oeffnen(plaetze_von(*tabelle_, sortieren_nach(), details_.ohne_klassen),
-                             datum_im_namen(dateien_.front()), wettkampf ? tabelle_->kopf.front() : art, urkundendatei);
+                             datum_im_namen(dateien_.front()), wettkampf ? tabelle_->kopf.front() : art);
     } else if (const auto rennen = gewaehltes_rennen()) {
-        um_.urkunden.oeffnen(*rennen, wort_.art[1], urkundendatei);
+        um_.urkunden.oeffnen(*rennen, wort_.art[1]);
     } else {
         hinweisen(wort_.kein_blatt);
     }

@@ -141,7 +141,10 @@ TEST_F(Urkundenfenster, AuchFuerEinRennenAusEinerDatei) {
     t.p.w_auswertung2.Command_urkunden.klicken();
     ASSERT_EQ(u.gewaehlte().size(), 2U);
     EXPECT_EQ(u.gewaehlte()[0].wort(w::fahrer), "Anna");
-    EXPECT_EQ(u.pdf_datei(), "Ergebnisse\\Einzelrennen\\lauf-Urkunden");
+    u.veranstaltung.eingeben("Pokal 1/26");
+    EXPECT_EQ(u.pdf_datei(), "Ergebnisse\\Einzelrennen\\2026-11-21 Urkunden Pokal 1_26");
+    u.dabei.umschalten();
+    EXPECT_EQ(u.pdf_datei(), "Ergebnisse\\Einzelrennen\\2026-11-21 Urkunde Ben");
     t.p.w_auswertung2.schliessen();
     EXPECT_FALSE(offen(fenstername::urkunden));
 }

@@ -112,7 +112,7 @@ void AuswertungFenster::drucken() {
 
 void AuswertungFenster::pdf_speichern(const dateien& ablage) {
     ui::pdf_speichern(  // as it stands now, whatever happens while the name is chosen
-        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+        this, logik_.Command_pdf, ablage, logik_.blatt_datei(),
         {[blatt = blatt_bilden()](const QString& pfad) { return ergebnisblatt_pdf(pfad, blatt); },
          [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }

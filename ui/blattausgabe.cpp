@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "core/texte.h"
+#include "results/papiername.h"
 #include "ui/fenster.h"
 
 namespace tarvel::ui {
@@ -140,16 +141,19 @@ void blatt_drucken(QWidget* eltern, const blattseiten& seiten, const std::functi
     vor_allem_zeigen(*dialog);
 }
 
-void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag, pdf_auftrag auftrag) {
-    const QString datei = QString::fromStdU16String(vorschlag.u16string());
-    auto* dialog = new QFileDialog(eltern, QString::fromStdString(knopf.text()), datei, "PDF (*.pdf)");
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const dateien& ablage, const std::string& name,
+                   pdf_auftrag auftrag) {
+    const QString datei = QString::fromStdU16String(papierdatei_vorschlagen(ablage, name, ".pdf").u16string());
+    const QString titel = QString::fromStdString(knopf.text()) + ": " + QFileInfo(datei).completeBaseName();
+    auto* dialog = new QFileDialog(eltern, titel, datei, "PDF (*.pdf)");
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
     dialog->selectFile(datei);
     QObject::connect(dialog, &QFileDialog::fileSelected, eltern,
-                     [eltern, auftrag = std::move(auftrag)](const QString& pfad) {
+                     [eltern, &ablage, auftrag = std::move(auftrag)](const QString& pfad) {
                          if (auftrag.schreiben(pfad)) {
+                             papierordner_merken(ablage, pfad.toStdU16String());
                              gespeichert_melden(eltern, pfad, auftrag.worte);
                          } else {
                              auftrag.misslungen();

@@ -3,9 +3,10 @@
 #include <QPainter>
 #include <QString>
 #include <QWidget>
-#include <filesystem>
 #include <functional>
+#include <string>
 
+#include "core/dateien.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
 
@@ -47,8 +48,10 @@ struct pdf_auftrag {
     std::function<void()> misslungen;  ///< called if that is false
     texte::dateiworte worte;
 };
-/// Opens the dialog in which he names a file, as the button says it. Then he is told where it lies, and may open it.
-void pdf_speichern(QWidget* eltern, const befehl& knopf, const std::filesystem::path& vorschlag, pdf_auftrag auftrag);
+/// Opens the dialog in which he names a file, as the button says it; `name` is a suggestion, below the program folder
+/// and without an extension. Then he is told where it lies, and may open it.
+void pdf_speichern(QWidget* eltern, const befehl& knopf, const dateien& ablage, const std::string& name,
+                   pdf_auftrag auftrag);
 
 /// How a text stands on a sheet.
 struct blattschrift {

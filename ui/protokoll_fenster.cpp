@@ -272,7 +272,7 @@ void ProtokollFenster::drucken() {
 }
 
 void ProtokollFenster::pdf_speichern(const dateien& ablage) {
-    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage, logik_.blatt_datei(),
                       {[alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
                        [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }

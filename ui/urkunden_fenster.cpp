@@ -113,7 +113,7 @@ blattseiten UrkundenFenster::seiten() const {
 }
 
 void UrkundenFenster::pdf_speichern() {
-    ui::pdf_speichern(this, logik_.Command_pdf, ablage_.pfad(logik_.pdf_datei() + ".pdf"),
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage_, logik_.pdf_datei(),
                       {[alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
                        [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }

@@ -375,7 +375,7 @@ void WAuswertung2Fenster::pdf_speichern(const dateien& ablage) {
     } else {
         schreiben = [seiten = seiten_bilden()](const QString& pfad) { return blatt_als_pdf(pfad, seiten); };
     }
-    ui::pdf_speichern(this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+    ui::pdf_speichern(this, logik_.Command_pdf, ablage, logik_.blatt_datei(),
                       {schreiben, [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }
 

@@ -176,7 +176,7 @@ void WAuswertungFenster::drucken() {
 
 void WAuswertungFenster::pdf_speichern(const dateien& ablage) {
     ui::pdf_speichern(  // as it stands now, whatever follows meanwhile
-        this, logik_.Command_pdf, ablage.pfad(logik_.blatt_datei() + ".pdf"),
+        this, logik_.Command_pdf, ablage, logik_.blatt_datei(),
         {[seiten = wettkampfseiten(logik_.blatt())](const QString& pfad) { return blatt_als_pdf(pfad, seiten); },
          [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
 }

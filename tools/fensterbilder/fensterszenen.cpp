@@ -238,7 +238,7 @@ const std::vector<szeneneintrag> alle_fensterszenen{
              const int n = static_cast<int>(plaetze.size());
              plaetze.push_back({n + 1, wer, "A", 120 - 3 * n, 3000.0 - 75 * n, 6500 + 120 * n, 840000 + 9000 * n});
          }
-         b.p.ergebnis_fluegel().urkunden.oeffnen(plaetze, "21.11.2026", "Tagesrennen", "Ergebnisse\\tag");
+         b.p.ergebnis_fluegel().urkunden.oeffnen(plaetze, "21.11.2026", "Tagesrennen");
          return *b.o.urkunden;
      }},
     {"urkunden",

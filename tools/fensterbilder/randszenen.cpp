@@ -244,7 +244,7 @@ const std::vector<szeneneintrag> alle_randszenen{
      }},
     {"leer_urkunden",
      [](buehne& b) -> QWidget& {
-         b.p.ergebnis_fluegel().urkunden.oeffnen({}, "21.11.2026", "Tagesrennen", "Ergebnisse\\tag");
+         b.p.ergebnis_fluegel().urkunden.oeffnen({}, "21.11.2026", "Tagesrennen");
          return *b.o.urkunden;
      }},
     {"leer_auswertung",
