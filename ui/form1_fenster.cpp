@@ -10,6 +10,7 @@
 #include "ui/eingabefelder.h"
 #include "ui/stil.h"
 #include "ui/streckenbild.h"
+#include "ui/umbruchkasten.h"
 
 namespace tarvel::ui {
 namespace {
@@ -227,6 +228,11 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
         }
     }
     tabfolge({kasten, laenge, fahrer, fahrzeug});
+    static_cast<UmbruchKasten*>(kasten)->setZiffernTaste();
+    auto* sprung = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + spur)), this);
+    QObject::connect(sprung, &QShortcut::activated, this, [kasten, fahrer] {
+        (fahrer->isEnabled() ? static_cast<QWidget*>(fahrer) : kasten)->setFocus(Qt::ShortcutFocusReason);
+    });
     spurzeilen_->aufnehmen(spur, {{fleck, fahrerbild, autobild},
                                   {fahrerbild, fahrer},
                                   {autobild, fahrzeug},

@@ -20,8 +20,10 @@ bool beginnt_ein_wort(const QString& text, QChar buchstabe) {
     return false;
 }
 
+/// A letter that the text has not stands behind it.
 QString beschriftung(const QString& text, QChar buchstabe) {
     qsizetype platz = buchstabe.isNull() ? -1 : text.indexOf(buchstabe, 0, Qt::CaseInsensitive);
+    const bool dahinter = !buchstabe.isNull() && platz < 0;
     for (qsizetype i = platz; i > 0 && i < text.size(); ++i) {
         if (text[i].toLower() == buchstabe && !text[i - 1].isLetter()) {
             platz = i;  // where a word begins with it
@@ -38,7 +40,7 @@ QString beschriftung(const QString& text, QChar buchstabe) {
             fertig += '&';  // stands for itself
         }
     }
-    return fertig;
+    return dahinter ? fertig + QString(" (&%1)").arg(buchstabe.toUpper()) : fertig;
 }
 
 }  // namespace
@@ -105,8 +107,6 @@ void Kuerzel::zuteilen(Eintrag& eintrag) {
                 break;
             }
         }
-    } else {
-        eintrag.buchstabe = {};
     }
 }
 

@@ -9,7 +9,8 @@ namespace tarvel::ui {
 
 /// Gives each button of a window a letter that presses it together with the Alt key: the first letter of a word of its
 /// caption that no other button has, else any letter of the caption. A button that has had none so far and finds none
-/// free gets another's, if that one has a letter to go to.
+/// free gets another's, if that one has a letter to go to. Where a new caption has neither its letter nor a free one,
+/// the letter stays and stands behind it, in brackets.
 class Kuerzel {
 public:
     /// The caption as Qt wants it, with "&" before the letter. A button keeps its letter while its caption has it.

@@ -43,6 +43,11 @@ int UmbruchKasten::heightForWidth(int breite) const {
     return std::max(textflaeche(breite).height(), kasten) + 2 * rand + 2;
 }
 
+QString UmbruchKasten::gezeigt() const {
+    const bool unterstreichen = ziffer_ && !text().isEmpty() && text().back().isDigit();
+    return unterstreichen ? text().insert(text().size() - 1, '&') : text();
+}
+
 /// Of a box that stands alone the focus is seen as far as the box.
 void UmbruchKasten::ring_malen(QPainter& maler, const QRect& kasten) const {
     constexpr int dick = 6;
@@ -75,7 +80,7 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
     const QRect schrift = rect().adjusted(einzug() + rand, rand, 0, -rand);
     maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
-                       isEnabled(), text(), QPalette::WindowText);
+                       isEnabled(), gezeigt(), QPalette::WindowText);
     if (hasFocus()) {
         QStyleOptionFocusRect rahmen;
         rahmen.initFrom(this);

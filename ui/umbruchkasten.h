@@ -13,6 +13,8 @@ public:
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int breite) const override;
+    /// The digit that its text ends in is underlined: the window has a key for it, which does not press the box.
+    void setZiffernTaste() { ziffer_ = true; }
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -22,6 +24,9 @@ private:
     QRect textflaeche(int breite) const;
     int einzug() const;
     void ring_malen(QPainter& maler, const QRect& kasten) const;
+    QString gezeigt() const;
+
+    bool ziffer_ = false;
 };
 
 }  // namespace tarvel::ui

@@ -172,6 +172,9 @@ TEST_F(AlleFenster, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
     o.takt.ausfuehren();
     auto* knopf = finde<QPushButton>(o.form1, "Form1.Command1");
     EXPECT_EQ(QString(knopf->text()).remove("&&"), "&J  B") << "an ampersand of the text is no mark";
+    t.p.form1.Command1.text("7");
+    o.takt.ausfuehren();
+    EXPECT_EQ(knopf->text(), "7 (&J)") << "it keeps its letter";
     t.p.form1.Command1.text("Einzelrennen");
     o.takt.ausfuehren();
     o.form1.activateWindow();
@@ -201,6 +204,9 @@ TEST_F(AlleFenster, EineSpracheHatIhreKuerzelWieAuchImmerManZuIhrKommt) {
     EXPECT_EQ(beschriftungen(), deutsch);
     o.form1.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
+    QTest::keyClick(&o.form1, Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(o.form1.focusWidget(), finde<QWidget>(o.form1, "Form1.fahrer_1"));
+    EXPECT_TRUE(t.p.form1.spur[1].gesetzt()) << "the key does not press the box";
     const QString auswertung = finde<QPushButton>(o.form1, "Form1.Command18")->text();
     QTest::keyClick(&o.form1, auswertung.at(auswertung.indexOf('&') + 1).toLower().toLatin1(), Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return t.p.fenster.ist_offen(fenstername::w_auswertung2); }, 2000));
