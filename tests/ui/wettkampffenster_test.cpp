@@ -80,6 +80,21 @@ TEST_F(Wettkampffenster, GesichertWirdVorDemFensterDasManSieht) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&*o.wettkampf2)) << "its keys work again";
 }
 
+TEST_F(Wettkampffenster, KorrekturenVonSechsSpurenPassenAufEinenKleinenSchirm) {
+    wettkampf w = test::vereinswettkampf::neu(m::rotation, 9, {1, 2, 3, 4, 5, 6});
+    test::vereinswettkampf::fahren(w, 2);
+    abend.beginnen(std::move(w));
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    t.p.wettkampf2.List1.auswaehlen(0);
+    t.p.wettkampf2.Command13.klicken();
+    ASSERT_TRUE(t.p.wettkampf2.Frame_runden.sichtbar());
+    setzen_lassen();
+    constexpr int ohne_rahmen = 768 - 30;
+    o.wettkampf2->resize(1000, ohne_rahmen);
+    setzen_lassen();
+    EXPECT_LE(o.wettkampf2->height(), ohne_rahmen);
+}
+
 TEST_F(Wettkampffenster, BlattVerliertKeineZeile) {
     const QString pfad = QString::fromStdString((t.maschine.ordner() / "Ergebnisse" / "Blatt.pdf").string());
     for (const auto& [modus, fahrer] : {std::pair{m::gruppen, 99}, {m::jeder_gegen_jeden, 10}, {m::rotation, 2}}) {

@@ -155,7 +155,7 @@ const std::vector<szeneneintrag> alle_abendszenen{
      }},
     {"wettkampf2_runden",
      [](buehne& b) -> QWidget& {
-         QWidget& fenster = wettkampf2_zeigen(b, gefahren(m::rotation, 7, {1, 2, 3, 4}, 3));
+         QWidget& fenster = wettkampf2_zeigen(b, gefahren(m::rotation, 9, {1, 2, 3, 4, 5, 6}, 3));
          b.p.wettkampf2.List1.auswaehlen(1);
          b.p.wettkampf2.Command13.klicken();
          b.p.wettkampf2.rundenliste.auswaehlen(2);
