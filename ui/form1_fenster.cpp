@@ -275,7 +275,7 @@ QPushButton* Form1Fenster::letzte_ergebnisse() {
     QPushButton* knopf = hoher_knopf(logik_.command_zuletzt, "command_zuletzt");
     auto* menue = new QMenu(knopf);
     QObject::connect(menue, &QMenu::aboutToShow, menue, [this, menue] {
-        constexpr int rand_px = 110;  // of the menu, and the digit
+        constexpr int rand_px = 64;  // of the menu, and the digit
         menue->clear();
         menue->setToolTipsVisible(false);
         const int platz = screen()->availableGeometry().width() - rand_px;
