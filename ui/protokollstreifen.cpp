@@ -129,7 +129,9 @@ private:
             const double x = mass_.x(t);
             maler_.setPen(QPen(stil::linie, px_ / 14));
             maler_.drawLine(QPointF(x, mass_.feld().top()), QPointF(x, mass_.feld().bottom()));
-            blatttext(maler_, {x - 3 * px_, flaeche_.top(), 6 * px_, 1.5 * px_}, Qt::AlignHCenter,
+            QRectF platz(x - 3 * px_, flaeche_.top(), 6 * px_, 1.5 * px_);
+            platz.moveRight(std::min(platz.right(), flaeche_.right() + 1.6 * px_));  // the letters stay on the sheet
+            blatttext(maler_, platz, Qt::AlignHCenter,
                       QString::fromStdString(hergang_zeit(t, schritt < 1000 ? 1 : 0, ',')),
                       {0.85 * px_, false, stil::schrift_leise});
         }
