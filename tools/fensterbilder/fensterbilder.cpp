@@ -111,7 +111,8 @@ bool ausfuehren(Auftrag a) {
     bool gut = true;
     const bool alle = a.szenen.isEmpty();
     std::vector<szeneneintrag> szenen = fensterszenen();
-    for (const auto* weitere : {&rennszenen(), &lagenszenen(), &abendszenen(), &ergebnisszenen(), &randszenen()}) {
+    for (const auto* weitere :
+         {&rennszenen(), &lagenszenen(), &abendszenen(), &auswertungsszenen(), &ergebnisszenen(), &randszenen()}) {
         szenen.insert(szenen.end(), weitere->begin(), weitere->end());
     }
     for (const auto& szene : szenen) {

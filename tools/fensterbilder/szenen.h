@@ -20,6 +20,8 @@ const std::vector<szeneneintrag>& rennszenen();
 const std::vector<szeneneintrag>& lagenszenen();
 /// The evening of many races.
 const std::vector<szeneneintrag>& abendszenen();
+/// What follows a race: its result, certificates, best times, the race once more.
+const std::vector<szeneneintrag>& auswertungsszenen();
 /// The viewer of result files.
 const std::vector<szeneneintrag>& ergebnisszenen();
 /// Long names, empty lists, questions: what a club brings that no example has.
