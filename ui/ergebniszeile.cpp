@@ -21,7 +21,7 @@ constexpr double schrift_titel = 17;
 constexpr double schrift_liste = 17;
 constexpr double schrift_knopf = 15;
 
-constexpr int eingabe_breite_px = 80;
+constexpr int eingabe_breite_px = 110;
 constexpr int knopfrand_px = 12;
 constexpr double bild_kante = 60;
 constexpr int abstand = 12;
