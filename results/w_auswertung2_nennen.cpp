@@ -54,7 +54,7 @@ void w_auswertung2::datei_nennen() {
         text += " + " + (mehr == 1 ? wort_.eine_weitere : std::to_string(mehr) + " " + wort_.weitere);
     }
     text += "  ·  " + wort_.art.at(static_cast<std::size_t>(tabelle_->typ)) + "  ·  " + std::to_string(eintraege) +
-            " " + wort_.eintraege;
+            " " + (eintraege == 1 ? wort_.eintrag : wort_.eintraege);
     if (tabelle_->addiert) {
         text += "  ·  " + (klassen_vereint_ ? wort_.addiert_alle : wort_.addiert);
     }

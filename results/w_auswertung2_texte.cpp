@@ -36,7 +36,8 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     texte.text("„gleiche Fahrer addieren“ zeigt alle Plätze.", wort_.alle_plaetze);
     blatt.nachtragen(texte);
     blatt.ab_gruen_nennen(blatt.rueckstand.eintragen(texte)).text("automatisch gesichert", wort_.automatisch);
-    return blatt.fruehstart_nennen(texte.text("ohne Klasse", wort_.ohne_klasse));
+    blatt.fruehstart_nennen(texte.text("ohne Klasse", wort_.ohne_klasse));
+    return texte.text("Eintrag", wort_.eintrag);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {
