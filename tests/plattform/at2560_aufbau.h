@@ -9,6 +9,15 @@
 
 namespace tarvel::test {
 
+/// A firmware with an event of its own on every row.
+inline at_profil alles_belegt() {
+    at_profil p;
+    for (std::size_t zeile = 1; zeile < p.at_ereignis.size(); ++zeile) {
+        p.at_ereignis.at(zeile) = "e" + std::to_string(zeile);
+    }
+    return p;
+}
+
 /// A program with an AT-2560 at COM3, put together as the program does it.
 struct at2560_aufbau {
     at2560_aufbau() {
