@@ -153,7 +153,7 @@ void protokollfenster::zeigen(const std::string& datei) {
     const std::size_t ordner = datei.rfind('\\');
     const std::string name = ordner == std::string::npos ? datei : datei.substr(ordner + 1);
     if (name.empty()) {
-        fehler_melden(wort_.kein_protokoll);
+        fehler_melden(ohne_protokoll());
         return;
     }
     oeffnen(um_.r.zustand.chaos_aktiv ? anzeige_art::frei : anzeige_art::modal);

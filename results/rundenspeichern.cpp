@@ -106,6 +106,7 @@ bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const r
 }
 
 bool rundenspeichern::schreibfehler_melden() {
+    texte_lesen();  // perhaps nothing has been saved yet
     um_.meldungen.zeigen(schreibfehler_, um_.txt.titel[1]);
     return false;
 }
