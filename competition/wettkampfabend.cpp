@@ -267,7 +267,7 @@ void wettkampfabend::einfahren_beendet() {
 bool wettkampfabend::darf_warten() const {
     const auto offen = [this](fenstername fenster) { return um_.fenster.ist_offen(fenster); };
     // a race window without its device asks, and nobody may be there
-    return um_.strecke.messgeraet_da() && !offen(fenstername::einstellungen) && !offen(fenstername::rundenspeichern) &&
+    return um_.strecke.messgeraet_da() && !um_.fenster.beschaeftigt({fenstername::Form5}) &&
            std::none_of(ansichten_.begin(), ansichten_.end(),
                         [](const abendansicht* ansicht) { return ansicht->beschaeftigt(); });
 }

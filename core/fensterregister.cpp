@@ -46,6 +46,16 @@ void fensterregister::aufleben() {
     }
 }
 
+bool fensterregister::beschaeftigt(std::initializer_list<fenstername> ausser) const {
+    for (std::size_t i = 0; i < fenster_.size(); ++i) {
+        const bool davor = fenster_.at(i).offen && fenster_.at(i).art == anzeige_art::modal;
+        if (davor && std::find(ausser.begin(), ausser.end(), static_cast<fenstername>(i)) == ausser.end()) {
+            return true;
+        }
+    }
+    return anzeige_ != nullptr && anzeige_->fragt();
+}
+
 void fensterregister::laden(fenstername name) {
     fenster& f = an(name);
     if (nur_gezaehlt(name)) {

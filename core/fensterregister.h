@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
 #include <optional>
 #include <vector>
 
@@ -24,6 +25,8 @@ public:
     /// Shows the window, or brings it to the front if it is on the screen.
     virtual void zeigen(fenstername name, anzeige_art art) = 0;
     virtual void verbergen(fenstername name) = 0;
+    /// A box or a dialog of the desktop waits for somebody.
+    virtual bool fragt() const { return false; }
     /// In this language, as far as the desktop's own windows speak it, and light or dark.
     virtual void erscheinen(const erscheinung& /*wie*/) {}
 };
@@ -47,6 +50,8 @@ public:
     void neu_laden(fenstername name);
     /// Loaded and on the screen.
     bool ist_offen(fenstername name) const { return an(name).offen; }
+    /// Somebody is at work: a modal window is open that is none of these, or a box, or a dialog of the desktop.
+    bool beschaeftigt(std::initializer_list<fenstername> ausser) const;
     void sprache_gewechselt();
     /// Empty places and drivers have names of the language: during an evening they are all of one.
     bool sprache_wechselbar() const;

@@ -164,7 +164,7 @@ void programm::protokoll_verbinden() {
     };
     auswertung.hergang_in_worten = [this] { return protokollfenster.in_worten(); };
     rennen.bahn1.Command_protokoll.bei_klick = dieses;
-    auswertung.Command_protokoll.bei_klick = dieses;
+    auswertung.protokoll_zeigen = dieses;
     w_auswertung2.Command_protokoll.bei_klick = [this] { protokoll_zum_ergebnis_zeigen(); };
 }
 

@@ -299,9 +299,7 @@ void auswertung::nachzaehlen_beenden() {
 
 bool auswertung::eingabe_offen() const {
     return meter_eingabe_an_ || nachtrag.Frame_nachtrag.sichtbar() ||
-           um_.fenster.ist_offen(fenstername::rundenspeichern) ||
-           um_.fenster.ist_offen(fenstername::beste_zeiten_fenster) || um_.fenster.ist_offen(fenstername::wiedergabe) ||
-           um_.fenster.ist_offen(fenstername::urkunden);
+           um_.fenster.beschaeftigt({fenstername::bahn1, fenstername::auswertung, fenstername::Form5});
 }
 
 void auswertung::urkunden_zeigen() {

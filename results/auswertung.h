@@ -104,7 +104,9 @@ public:
     std::function<void()> drucken;
     std::function<void()> als_pdf;
     std::function<void()> verlauf_zeichnen;
-    std::function<void()> wiedergabe_zeigen;  ///< null without a log
+    /// The log of the race, and the race again; null without one.
+    std::function<void()> protokoll_zeigen;
+    std::function<void()> wiedergabe_zeigen;
     /// How the window "Protokoll" says what happened.
     std::function<hergangsworte()> hergang_in_worten;
     /// Counts late crossings and shows the standing.
@@ -191,7 +193,8 @@ private:
     void nachzaehlen_beenden();
     void training_tick();
     void w_auto5_tick();
-    /// Nobody is thrown out of an entry.
+    /// Nobody is thrown out of an entry, or of a window in front of this one. A device that comes back tells so
+    /// whether somebody is there or not.
     bool eingabe_offen() const;
     void urkunden_zeigen();
     std::string art_und_ziel() const;

@@ -3,7 +3,6 @@
 #include "core/renndauer.h"
 #include "core/text.h"
 #include "core/wechselschema.h"
-#include "core/weitergeben.h"
 #include "results/auswertung.h"
 
 namespace tarvel {
@@ -44,15 +43,19 @@ void auswertung::befehle_verbinden() {
     nachtrag.eintragen = [this](const korrektur& k) { runde_nachtragen(k); };
     nachtrag.ohne_wahl = [this] { um_.meldungen.zeigen(wort_.nachtrag_waehlen, um_.txt.titel[0]); };
     Command_verlauf.bei_klick = [this] { zeigen(Frame_verlauf.sichtbar() ? ansicht::stand : ansicht::verlauf); };
-    weitergeben(Command_drucken, drucken);
-    weitergeben(Command_pdf, als_pdf);
     Command_urkunden.bei_klick = [this] { urkunden_zeigen(); };
-    Command_wiedergabe.bei_klick = [this] {
-        if (wiedergabe_zeigen) {
-            selbstlauf_unterbrechen();
-            wiedergabe_zeigen();
-        }
+    const auto in_ruhe = [this](befehl& knopf, const std::function<void()>& wohin) {
+        knopf.bei_klick = [this, &wohin] {
+            if (wohin) {
+                selbstlauf_unterbrechen();
+                wohin();
+            }
+        };
     };
+    in_ruhe(Command_protokoll, protokoll_zeigen);
+    in_ruhe(Command_drucken, drucken);
+    in_ruhe(Command_pdf, als_pdf);
+    in_ruhe(Command_wiedergabe, wiedergabe_zeigen);
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
     neues_ziel.laenge_max(eingabe_laenge_max);
 }

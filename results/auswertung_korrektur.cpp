@@ -40,13 +40,16 @@ void auswertung::meter_eingabe(bool an) {
     meter_eingabe_an_ = an;
     Command6.text(an ? wort_.fertig : wort_.meter_eingeben);
     for (befehl* knopf : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command7, &Command8, &Command10,
-                          &Command_verlauf, &Command_drucken, &Command_pdf, &Command_nachtragen, &Command_wiedergabe}) {
+                          &Command_verlauf, &Command_protokoll, &Command_drucken, &Command_pdf, &Command_urkunden,
+                          &Command_nachtragen, &Command_wiedergabe}) {
         knopf->aktiviert(!an);
     }
     Command9.aktiviert(!an && um_.einst.beste_modus != bestzeit_speicherung::aus);
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
-        cmd_rd_inc[i].aktiviert(!an);
+        for (befehl* knopf : {&cmd_anzeige[i], &cmd_rd_add[i], &cmd_rd_inc[i]}) {
+            knopf->aktiviert(!an);
+        }
         meter[i].sichtbar(an && um_.param.spur_aktiv[spur]);
         const rennergebnis::spur* s = ergebnis().auf(spur);
         const double bisher = s == nullptr ? 0 : s->restmeter;  // what is typed now comes on top

@@ -171,7 +171,9 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     t.rennende();
     a.Command6.klicken();
     EXPECT_EQ(a.Command6.text(), "fertig");
-    EXPECT_FALSE(a.Command5.aktiviert());
+    for (const befehl* anderer : {&a.Command5, &a.Command_urkunden, &a.Command_protokoll, &a.cmd_anzeige[0]}) {
+        EXPECT_FALSE(anderer->aktiviert());
+    }
     EXPECT_FALSE(a.meter[3].sichtbar());
     a.meter[1].eingeben("2,455");
     a.meter[2].eingeben("99");

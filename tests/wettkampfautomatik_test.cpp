@@ -129,5 +129,48 @@ TEST_F(Wettkampfautomatik, NeueBestzeitenHaltenDenAblaufNichtAuf) {
     }
 }
 
+TEST_F(Wettkampfautomatik, WerEtwasVorSichHatWirdNichtHinausgeworfen) {
+    struct schreibtisch final : fensteranzeige {
+        bool dialog = false;
+        void zeigen(fenstername /*name*/, anzeige_art /*art*/) override {}
+        void verbergen(fenstername /*name*/) override {}
+        bool fragt() const override { return dialog; }
+    } desktop;
+    t.p.fenster.anzeigen_auf(&desktop);
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 5s;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    for (const bool im_ergebnis : {true, false}) {
+        ASSERT_TRUE(abend.rennen_starten());
+        t.maschine.laufen(4000);
+        runden_fahren(3);
+        t.maschine.laufen(im_ergebnis ? 1000 : 8000);
+        const fenstername wartet = im_ergebnis ? fenstername::auswertung : fenstername::bahn1;
+        for (const fenstername vorn : {fenstername::protokoll, fenstername::urkunden, fenstername::einstellungen}) {
+            t.p.fenster.zeigen(vorn, anzeige_art::modal);
+            t.maschine.laufen(60000);
+            EXPECT_EQ(offen(wartet), im_ergebnis) << text_von(vorn);
+            t.p.fenster.entladen(vorn);
+        }
+        desktop.dialog = true;
+        t.maschine.laufen(60000);
+        EXPECT_EQ(offen(wartet), im_ergebnis) << "a dialog of the desktop";
+        desktop.dialog = false;
+        t.maschine.laufen(8000);
+        EXPECT_EQ(offen(wartet), !im_ergebnis);
+        abend.automatik_umschalten();
+        abend.automatik_umschalten();
+    }
+    t.rennabbruch();
+    ASSERT_TRUE(abend.rennen_starten());
+    t.maschine.laufen(4000);
+    runden_fahren(3);
+    t.p.auswertung.Command_protokoll.klicken();
+    t.p.fenster.entladen(fenstername::protokoll);
+    t.maschine.laufen(60000);
+    EXPECT_TRUE(offen(fenstername::auswertung)) << "who looks into the log takes over";
+    t.p.fenster.anzeigen_auf(nullptr);
+}
+
 }  // namespace
 }  // namespace tarvel

@@ -201,6 +201,10 @@ void Fensterverwaltung::verbergen(fenstername name) {
     }
 }
 
+bool Fensterverwaltung::fragt() const {
+    return qobject_cast<const QDialog*>(QApplication::activeModalWidget()) != nullptr;  // the program's own are none
+}
+
 bool Fensterverwaltung::galt_anderem(bool getippt) {
     constexpr qint64 pause_ms = 500;
     constexpr qint64 laengstens_ms = 2000;

@@ -76,6 +76,7 @@ public:
 
     void zeigen(fenstername name, anzeige_art art) override;
     void verbergen(fenstername name) override;
+    bool fragt() const override;
     void erscheinen(const erscheinung& wie) override;
     /// A key that is held gives no command again: it was meant once, and for what lay in front of that command. A
     /// letter with Alt is one of a command, also where no command has it, and types nothing. And the second half of a
