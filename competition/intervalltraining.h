@@ -12,6 +12,7 @@ public:
     std::string kennung() const override { return "intervalltraining"; }
     starter wer_startet() const override { return von_selbst_ ? starter::ablauf : starter::bediener; }
     void von_selbst_starten(bool an) override { von_selbst_ = an; }
+    bool ohne_bediener() const override { return von_selbst_; }
     selbstlauf danach() const override;
 
 private:

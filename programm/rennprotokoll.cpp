@@ -53,7 +53,8 @@ void rennprotokoll::abschliessen() {
     um_.rennen.protokoll.aufhoeren();
     const bool ganz = datei_ != nullptr && !datei_->gescheitert();
     datei_.reset();
-    if (!ganz && !std::exchange(gewarnt_, true)) {
+    const bool hier = !um_.rennen.teil_von->ohne_bediener();  // else the next race would begin behind the box
+    if (!ganz && hier && !std::exchange(gewarnt_, true)) {
         um_.dienste.meldungen.zeigen(um_.rennen.bahn1.wort.ohne_protokoll, um_.txt.titel[1]);
     }
 }

@@ -36,7 +36,7 @@ public:
     bool fuehren = true;  ///< off: races leave no log
 
     void beginnen() override;
-    /// Tells if the log could not be kept to its end.
+    /// Tells if the log could not be kept to its end, once somebody is there.
     void abschliessen() override;
     std::string bisher() override;
     void mitlesen(protokollsenke* wer) override { mitleser_ = wer; }

@@ -129,6 +129,23 @@ TEST_F(Wettkampfautomatik, NeueBestzeitenHaltenDenAblaufNichtAuf) {
     }
 }
 
+TEST_F(Wettkampfautomatik, EinProtokollDasNichtGanzIstHaeltKeinRennenAuf) {
+    nur_eingaben = false;  // the logs cannot be whole
+    t.p.einst.w_autom = true;
+    t.p.einst.w_zeit1 = 5s;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    t.maschine.anhaengedateien.platz = 1000;
+    ASSERT_TRUE(abend.rennen_starten());
+    t.maschine.laufen(4000);
+    runden_fahren(3);
+    t.maschine.laufen(14000);
+    EXPECT_TRUE(offen(fenstername::bahn1));
+    EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
+    t.rennabbruch();
+    ASSERT_EQ(t.maschine.meldungen_gezeigt.size(), 1U) << "behind the first race that somebody leads";
+    EXPECT_TRUE(letzte_meldung().starts_with("Das Protokoll des Rennens ist nicht ganz geschrieben."));
+}
+
 TEST_F(Wettkampfautomatik, WerEtwasVorSichHatWirdNichtHinausgeworfen) {
     struct schreibtisch final : fensteranzeige {
         bool dialog = false;
