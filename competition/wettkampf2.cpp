@@ -327,7 +327,29 @@ void wettkampf2::zurückstellen() {
 }
 
 bool wettkampf2::darf_enden() {
-    return !abend_.wettkampf_aktiv() || abend_.stand().ende_pruefen() || fragen(wort_.ende_frage, titel.text());
+    if (!abend_.wettkampf_aktiv()) {
+        return true;
+    }
+    if (!abend_.nachsichern()) {
+        return fragen(wort_.verlust_frage, titel.text());
+    }
+    if (abend_.stand().ende_pruefen()) {
+        return true;
+    }
+    return abend_.stand().gefahren.empty() ? behalten_fragen() : fragen(wort_.ende_frage, titel.text());
+}
+
+/// Of an evening of which there is its preparation alone, which may have been work, or a mistake.
+bool wettkampf2::behalten_fragen() {
+    using antwort = plattform::dreifache_antwort;
+    fragt_ = true;
+    const antwort will =
+        um_.meldungen.anbieten_mit_ausweg(wort_.behalten_frage, titel.text(), {wort_.behalten, wort_.verwerfen});
+    fragt_ = false;
+    if (will == antwort::nein) {
+        abend_.verwerfen();
+    }
+    return will != antwort::abbrechen;
 }
 
 void wettkampf2::wettkampf_beenden() {

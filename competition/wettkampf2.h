@@ -105,7 +105,7 @@ public:
     void laden() override;
     void schliessen() override { Command5.klicken(); }
     bool escape_schliesst() const override { return false; }
-    /// No evening runs, or all its races are driven, or the director says so.
+    /// No evening runs, or all its races are driven and kept, or the director says so.
     bool darf_enden();
     /// Asks whether the results of a race may be lost.
     bool wiederholen_fragen() { return fragen(wort_.wiederholen, wort_.wiederholen_titel); }
@@ -121,7 +121,7 @@ private:
         std::string titel, spur, rennen, von, stunden, minuten, ende;
         std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, einsetzer,
             sieger, liste, gruppenliste, aushang, rennliste;
-        std::string wiederholen, wiederholen_titel, ende_frage;
+        std::string wiederholen, wiederholen_titel, ende_frage, verlust_frage, behalten_frage, behalten, verwerfen;
         std::string ist_ein, ist_aus, gefahren, zurueckgestellt, teile_gefahren;
         std::string name_leer, name_vergeben, name_fueller, keine_zahl;
     };
@@ -130,6 +130,7 @@ private:
     void wartezeit_zeigen() override;
     bool beschaeftigt() const override { return offen_ == feldgruppe::runden || offen_ == feldgruppe::namen || fragt_; }
     bool fragen(const std::string& text, const std::string& ueberschrift);
+    bool behalten_fragen();
     void befehle_verbinden();
     void felder_zeigen(feldgruppe welche);
 

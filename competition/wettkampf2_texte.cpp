@@ -53,7 +53,16 @@ sprachliste wettkampf2::sprache_w2() {
     texte.tipp("Runden und Meter eines Fahrers im markierten Rennen ändern", Command13);
     texte.tipp("Einem Fahrer einen anderen Namen geben, in allen Rennen", Command14);
     texte.text("X = gefahren", wort_.gefahren).text("Z = zurückgestellt", wort_.zurueckgestellt);
-    return texte.text("1/4 = ein Teil von vieren gefahren", wort_.teile_gefahren);
+    texte.text("1/4 = ein Teil von vieren gefahren", wort_.teile_gefahren);
+    texte.text(
+        "Der Stand des Wettkampfs lässt sich nicht speichern. Was seit dem letzten Speichern gefahren wurde, geht mit "
+        "dem Ende verloren. Trotzdem beenden?",
+        wort_.verlust_frage);
+    texte.text(
+        "Noch ist kein Rennen gewertet. Den Wettkampf behalten? Dann bieten ihn der nächste Start und „Fortsetzen“ im "
+        "Hauptfenster wieder an.",
+        wort_.behalten_frage);
+    return texte.text("Behalten", wort_.behalten).text("Verwerfen", wort_.verwerfen);
 }
 
 }  // namespace tarvel

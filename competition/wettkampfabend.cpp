@@ -15,6 +15,7 @@ constexpr dauer_s einfahren_zuschlag{1};  // of the wait after the warm-up
 
 void wettkampfabend::beginnen(wettkampf neu) {
     stand_ = std::move(neu);
+    ungesichert_.clear();
     stand_.zwischenstand_an = um_.einst.w_speichern;
     aktiv_ = true;
     automatik_an_ = false;
@@ -39,6 +40,14 @@ void wettkampfabend::beenden() {
     }
     um_.ablage.laufenden_weglegen(fertig && !nicht_gesichert_);
     zeigen();
+}
+
+bool wettkampfabend::nachsichern() {
+    if (nicht_gesichert_) {
+        nicht_gesichert_ = !sichern();
+        zeigen();
+    }
+    return !nicht_gesichert_;
 }
 
 bool wettkampfabend::rennen_starten() {
@@ -177,6 +186,10 @@ void wettkampfabend::buchen(const rennergebnis& ergebnis) {
     }
 }
 
+void wettkampfabend::ergebnis_vormerken(const rennergebnis& ergebnis) {
+    ungesichert_.push_back({uebergabe_.rennen, gefahren_, ergebnis});
+}
+
 bool wettkampfabend::darf_wiederholen() const {
     return stand_.fortsetzung_nummer(uebergabe_.rennen) == 0 || wiederholen_fragen();
 }
@@ -199,35 +212,34 @@ bool wettkampfabend::uebernehmen(const rennergebnis& ergebnis, weitergang wie) {
 }
 
 void wettkampfabend::neu_beginnen(const rennergebnis& ergebnis) {
-    bool alles = teil_gebucht() || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, gefahren_, ergebnis);
+    if (!teil_gebucht()) {
+        ergebnis_vormerken(ergebnis);
+    }
     stand_.wiederholen(uebergabe_.rennen);
     uebergeben();
     ab_teil_ = gefahren_ = uebergabe_.teil;
-    alles = sichern() && alles;
-    gesichert(alles);
+    gesichert(sichern());
 }
 
 void wettkampfabend::teil_abschliessen(const rennergebnis& ergebnis) {
-    const bool schon_gesichert = teil_gebucht();
+    if (!teil_gebucht()) {
+        ergebnis_vormerken(ergebnis);  // the rest of the race may be driven another day
+    }
     buchen(ergebnis);
-    // the rest of the race may be driven another day
-    bool alles = schon_gesichert || um_.ablage.rennen_sichern(stand_, uebergabe_.rennen, gefahren_, ergebnis);
     const int stehen_auf = uebergabe_.teil;
     uebergabe_ = stand_.uebergabe();
     // who has come back from the light without going on stands on his next lane already
     wechsel_ = uebergabe_.teil == stehen_auf ? spuren<int>{} : stand_.plan.herkunft;
-    alles = sichern() && alles;
-    gesichert(alles);
+    gesichert(sichern());
 }
 
 void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
-    const int rennen = uebergabe_.rennen;
+    ergebnis_vormerken(ergebnis);
     buchen(ergebnis);
     stand_.renndauern.push_back(um_.uhr.jetzt() - start_);
     ergebnis_da_ = true;
     stand_.naechstes_offenes_rennen();
-    bool alles = um_.ablage.rennen_sichern(stand_, rennen, gefahren_, ergebnis);
-    alles = sichern() && alles;
+    bool alles = sichern();
     alles = um_.ablage.zwischenstand_sichern(stand_) && alles;
     if (stand_.ende_pruefen()) {
         alles = tabelle_sichern() && alles;
@@ -236,6 +248,16 @@ void wettkampfabend::nächstes_rennen(const rennergebnis& ergebnis) {
         automat_.auf_naechstes_rennen(um_.einst.w_zeit1);
     }
     gesichert(alles);
+}
+
+bool wettkampfabend::sichern() {
+    const bool stand = um_.ablage.laufenden_sichern(stand_);
+    std::erase_if(ungesichert_,
+                  [this](const abendergebnis& eines) { return um_.ablage.rennen_sichern(stand_, eines); });
+    for (abendergebnis& eines : ungesichert_) {
+        eines.sein_protokoll = false;  // by the next try there may be another one
+    }
+    return stand && ungesichert_.empty();
 }
 
 bool wettkampfabend::tabelle_sichern() {
@@ -265,7 +287,6 @@ void wettkampfabend::einfahren_beendet() {
 }
 
 bool wettkampfabend::darf_warten() const {
-    const auto offen = [this](fenstername fenster) { return um_.fenster.ist_offen(fenster); };
     // a race window without its device asks, and nobody may be there
     return um_.strecke.messgeraet_da() && !um_.fenster.beschaeftigt({fenstername::Form5}) &&
            std::none_of(ansichten_.begin(), ansichten_.end(),

@@ -12,10 +12,19 @@
 #include "core/texte.h"
 #include "platform/uhr.h"
 #include "race/bahn1.h"
+#include "race/rennergebnis.h"
 #include "race/veranstaltung.h"
 #include "results/einzelrennen.h"
 
 namespace tarvel {
+
+/// Of a race of the evening, on its way to its own file.
+struct abendergebnis {
+    int rennen = 0;
+    int teil = 1;  ///< up to which it has been driven
+    rennergebnis ergebnis;
+    bool sein_protokoll = true;  ///< the log that is being kept is that of this race
+};
 
 /// Where the evening is kept. A file that could not be written is false.
 class wettkampfablage : public schnittstelle {
@@ -26,8 +35,8 @@ public:
     virtual void laufenden_weglegen(bool fertig) = 0;
     /// A dated file of the state, if the settings want it.
     virtual bool zwischenstand_sichern(const wettkampf& stand) = 0;
-    /// The race's own file, likewise; of one that goes on, what has been driven up to this part.
-    virtual bool rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) = 0;
+    /// The race's own file, likewise.
+    virtual bool rennen_sichern(const wettkampf& stand, const abendergebnis& eines) = 0;
     /// The table of the whole competition.
     virtual bool tabelle_sichern(const wettkampf& stand) = 0;
     /// A file could not be written: tells the operator.
@@ -84,6 +93,10 @@ public:
     void beginnen(wettkampf neu);
     /// The evening is over. What has been driven is kept where it has been saved.
     void beenden();
+    /// Keeps what could not be kept so far. False if that fails again: it would be lost with the evening.
+    bool nachsichern();
+    /// Nobody is to be asked for this evening again.
+    void verwerfen() { um_.ablage.laufenden_weglegen(true); }
     /// Opens the race window on the current race. False if none is left.
     bool rennen_starten();
     /// The race window is to go on where an outage has left this race, which was started with that part. False if the
@@ -154,13 +167,15 @@ private:
     /// The part that was driven last is in the books.
     bool teil_gebucht() const { return stand_.fortsetzung_nummer(uebergabe_.rennen) >= gefahren_; }
     void buchen(const rennergebnis& ergebnis);
+    void ergebnis_vormerken(const rennergebnis& ergebnis);
     void neu_beginnen(const rennergebnis& ergebnis);
     void teil_abschliessen(const rennergebnis& ergebnis);
     void nächstes_rennen(const rennergebnis& ergebnis);
     void am_start_warten();
     /// Tells of a failure, but while nobody may be there.
     void gesichert(bool alles);
-    bool sichern() { return um_.ablage.laufenden_sichern(stand_); }
+    /// The state, and the results that have no file yet.
+    bool sichern();
     bool tabelle_sichern();
     void zeigen();
 
@@ -168,6 +183,7 @@ private:
     rennautomat automat_;
     std::vector<abendansicht*> ansichten_;
     wettkampf stand_;
+    std::vector<abendergebnis> ungesichert_;  ///< those without a file yet
     renn_uebergabe uebergabe_;  ///< of the race that is being driven, for the part on whose lanes the drivers stand
     int ab_teil_ = 1;           ///< the part with which it was started
     spuren<int> wechsel_;       ///< into the next part, per lane the one that its driver comes from

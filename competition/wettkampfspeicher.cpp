@@ -95,12 +95,13 @@ bool wettkampfspeicher::zwischenstand_sichern(const wettkampf& stand) {
     return !um_.einst.w_speichern || stand_schreiben(freier_pfad(zwischenordner + stamm(stand), ".wta"), stand);
 }
 
-bool wettkampfspeicher::rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) {
-    std::string anfang = ordner + stamm(stand) + "-Rennen" + std::to_string(rennen);
-    if (teil < stand.plan.teile) {
-        anfang += "-Teil" + std::to_string(teil);
+bool wettkampfspeicher::rennen_sichern(const wettkampf& stand, const abendergebnis& eines) {
+    std::string anfang = ordner + stamm(stand) + "-Rennen" + std::to_string(eines.rennen);
+    if (eines.teil < stand.plan.teile) {
+        anfang += "-Teil" + std::to_string(eines.teil);
     }
-    return !um_.einst.aut_speichern || um_.fenster.rennen_schreiben(freier_pfad(anfang, ".csv"), ergebnis);
+    return !um_.einst.aut_speichern ||
+           um_.fenster.rennen_schreiben(freier_pfad(anfang, ".csv"), eines.ergebnis, eines.sein_protokoll);
 }
 
 bool wettkampfspeicher::tabelle_sichern(const wettkampf& stand) {

@@ -31,7 +31,7 @@ public:
     bool laufenden_sichern(const wettkampf& stand) override;
     void laufenden_weglegen(bool fertig) override;
     bool zwischenstand_sichern(const wettkampf& stand) override;
-    bool rennen_sichern(const wettkampf& stand, int rennen, int teil, const rennergebnis& ergebnis) override;
+    bool rennen_sichern(const wettkampf& stand, const abendergebnis& eines) override;
     bool tabelle_sichern(const wettkampf& stand) override;
     void fehler_melden() override { um_.fenster.schreibfehler_melden(); }
 

@@ -64,9 +64,9 @@ void rundenspeichern::oeffnen(const ergebnisziel& ziel, std::function<bool(const
     speichernfenster::oeffnen(std::move(auftrag));
 }
 
-bool rundenspeichern::rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis) {
+bool rundenspeichern::rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis, bool melden) {
     texte_lesen();
-    return einzelrennen_schreiben(pfad, ergebnis);
+    return einzelrennen_schreiben(pfad, ergebnis, melden);
 }
 
 const wettkampf_worte& rundenspeichern::tabellenworte() {
@@ -111,12 +111,12 @@ bool rundenspeichern::schreibfehler_melden() {
     return false;
 }
 
-bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis) {
+bool rundenspeichern::einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis, bool melden) {
     auto inhalt = zeilen(ergebnis);
     const bool geschrieben = um_.ablage.zeilen_schreiben(pfad, inhalt);
     if (geschrieben) {
         gesichert_ = std::move(inhalt);
-        if (bei_ergebnis) {
+        if (melden && bei_ergebnis) {
             bei_ergebnis(pfad, ergebnis);
         }
     }

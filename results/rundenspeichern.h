@@ -27,8 +27,8 @@ public:
     bool automatisch_speichern(const rennergebnis& ergebnis);
     /// A file with the result of a race stands; below the program folder.
     std::function<void(const std::string& pfad, const rennergebnis& ergebnis)> bei_ergebnis;
-    /// Writes the result of one of many races. A failure is not shown.
-    bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
+    /// Writes the result of one of many races; `melden`: tells `bei_ergebnis`. A failure is not shown.
+    bool rennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis, bool melden);
     struct ergebnisziel {
         std::string vorschlag;  ///< of its name, without the ending
         std::string_view ordner;
@@ -48,7 +48,7 @@ private:
     std::vector<std::string> zeilen(const rennergebnis& ergebnis) const {
         return einzelrennen_zeilen(ergebnis, wort_, trennzeichen_);
     }
-    bool einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis);
+    bool einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis, bool melden = true);
     std::string stempel() const;
 
     const trennzeichen_tabelle& trennzeichen_;

@@ -6,6 +6,7 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
+#include "core/protokollordner.h"
 #include "results/ergebnisdatei.h"
 #include "results/rundenspeichern.h"
 #include "tests/wettkampfabend_probe.h"
@@ -192,6 +193,50 @@ TEST_F(Wettkampfabend, WasNachDemLetztenRennenBerichtigtWirdStehtInDerTabelle) {
                tabelle_schreiben(abend.stand(), {}, t.p.einst.trennzeichen);
     }));
     EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf));
+}
+
+TEST_F(Wettkampfabend, WasNichtGesichertIstWirdNachgeholtOderNichtVersprochen) {
+    const auto frage_beginnt = [&](std::string_view wie) {
+        t.p.wettkampf2.Command5.klicken();
+        return t.maschine.fragen_gestellt.back().text.starts_with(wie) && abend.wettkampf_aktiv();
+    };
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    t.maschine.nicht_schreibbar = "laufend.wtk";
+    rennen_fahren();
+    EXPECT_EQ(letzte_meldung(), "Fehler beim Schreiben der Datei. Rennergebnisse wurden nicht gespeichert.");
+    EXPECT_TRUE(frage_beginnt("Der Stand des Wettkampfs lässt sich nicht speichern."));
+    t.maschine.nicht_schreibbar.clear();
+    EXPECT_TRUE(frage_beginnt("Der Wettkampf ist noch nicht beendet."));
+    const auto gelesen = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt, einstellungen_aus_datei::lassen,
+                                         version_melden::nein);
+    ASSERT_TRUE(gelesen);
+    EXPECT_EQ(*gelesen, abend.stand());
+
+    t.p.einst.aut_speichern = true;
+    const std::string stamm = "Vereinsabend-" + ergebnis_stempel(t.maschine.dienste().kalender.jetzt()) + "-Rennen";
+    t.maschine.nicht_schreibbar = stamm + "2.csv";
+    rennen_fahren();
+    EXPECT_TRUE(abend.nicht_gesichert());
+    t.maschine.nicht_schreibbar = stamm + "3.csv";
+    rennen_fahren();
+    const std::string zweites = "Ergebnisse\\Wettkampf\\" + stamm + "2.csv";
+    EXPECT_TRUE(t.p.ablage.gibt_es(zweites));
+    EXPECT_FALSE(protokoll_zu_ergebnis(t.p.ablage, zweites)) << "the log of the third race is not its";
+    EXPECT_TRUE(frage_beginnt("Der Stand des Wettkampfs lässt sich nicht speichern.")) << "though all are driven";
+}
+
+TEST_F(Wettkampfabend, OhneErgebnisBleibtErNurWennErSoll) {
+    using antwort = plattform::dreifache_antwort;
+    for (const antwort was : {antwort::abbrechen, antwort::ja, antwort::nein}) {
+        beginnen(wettkampf_modus::rotation, 3, {1, 2});
+        t.p.fenster.zeigen(fenstername::wettkampf2);
+        t.maschine.antwort_mit_ausweg = was;
+        t.p.wettkampf2.Command5.klicken();
+        EXPECT_EQ(abend.wettkampf_aktiv(), was == antwort::abbrechen);
+        EXPECT_EQ(t.p.ablage.gibt_es(laufender_wettkampf), was != antwort::nein);
+    }
+    EXPECT_EQ(t.maschine.antworten_der_frage, "Behalten/Verwerfen");
 }
 
 TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
