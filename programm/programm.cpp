@@ -96,7 +96,10 @@ programm::programm(const plattform::dienste& d)
     zuletzt_verbinden();
     wiedergabe_verbinden();
     protokoll_verbinden();
-    einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] { beste_zeiten_verwaltung.oeffnen(); });
+    einstellungsfenster.aktion_verbinden("bestzeiten_verwalten", [this] {
+        beste_zeiten_fenster.nachsichern();
+        beste_zeiten_verwaltung.oeffnen();
+    });
 }
 
 programm::~programm() {
@@ -272,6 +275,7 @@ void programm::hardware_starten() {
 }
 
 void programm::bestzeiten_laden() {
+    beste_zeiten_fenster.nachsichern();
     bestzeiten_datei_ = einst.beste_datei;
     const bool geladen = bestzeiten.laden(ablage, bestzeiten_datei_);
     if (pflege_.erststart() && !ablage.gibt_es(bestzeit_pfad(bestzeiten_datei_))) {
@@ -358,6 +362,7 @@ void programm::programm_beenden() {
     }
     programm_beendet_ = true;
     hauptfenster_merken();
+    beste_zeiten_fenster.nachsichern();
     ausgaben.bericht.ruhe();
     ausgaben.ruhezustand();
     geraete.beenden();

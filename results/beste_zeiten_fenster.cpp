@@ -244,17 +244,22 @@ void beste_zeiten_fenster::speichern(bool bediener_da) {
             neu.einfuegen(spur, {neue_zeit(spur), btext_name[i].text(), btext_kfz[i].text(), heute});
         }
     }
-    if (!neu.speichern(um_.ablage, um_.einst.beste_datei)) {
-        if (bediener_da) {
-            um_.meldungen.zeigen(um_.txt.meldung[21], um_.txt.titel[1]);  // all entries stay, for another attempt
-        } else {
-            schliessen();
-        }
+    const bool geschrieben = neu.speichern(um_.ablage, um_.einst.beste_datei);
+    if (!geschrieben && bediener_da) {
+        um_.meldungen.zeigen(um_.txt.meldung[21], um_.txt.titel[1]);  // all entries stay, for another attempt
         return;
     }
+    ungesichert_ = geschrieben ? std::string() : um_.einst.beste_datei;
     um_.bestzeiten = neu;
     um_.folgen.bestzeiten_geaendert();
     schliessen();
+}
+
+void beste_zeiten_fenster::nachsichern() {
+    const std::string datei = std::exchange(ungesichert_, {});
+    if (!datei.empty() && !um_.bestzeiten.speichern(um_.ablage, datei)) {
+        um_.meldungen.zeigen(um_.txt.meldung[21], um_.txt.titel[1]);
+    }
 }
 
 }  // namespace tarvel

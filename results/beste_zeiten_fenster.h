@@ -78,6 +78,8 @@ public:
     /// The texts of the window.
     sprachliste sprache_best();
 
+    /// What could not be saved while nobody was there is in the table, and gets another try; a failure is told.
+    void nachsichern();
     /// The lane's value would be saved now.
     bool wird_gespeichert(int spur) const;
 
@@ -89,7 +91,7 @@ private:
     void warten();
     void wartezeit_zeigen();
     void timer1_tick();
-    /// A failure is told, or nobody is there and the window closes.
+    /// A failure is told, or nobody is there and the window closes; then the table alone has the new times.
     void speichern(bool bediener_da);
     zeit_ms neue_zeit(int spur) const;
 
@@ -99,6 +101,7 @@ private:
     std::function<void()> danach_;
     std::string wort_spur_;
     std::string wort_abbrechen_;
+    std::string ungesichert_;  ///< best-time file that lacks what the table has; empty for none
     bool von_selbst_ = false;
     dauer_s rest_{};  ///< of the wait that runs
 };

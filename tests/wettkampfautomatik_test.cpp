@@ -127,6 +127,12 @@ TEST_F(Wettkampfautomatik, NeueBestzeitenHaltenDenAblaufNichtAuf) {
         EXPECT_TRUE(t.maschine.meldungen_gezeigt.empty());
         t.rennabbruch();
     }
+    EXPECT_LT(t.p.bestzeiten.beste(1), keine_bestzeit) << "what could not be written is not lost";
+    t.maschine.nicht_schreibbar.clear();
+    t.p.programm_beenden();
+    bestzeiten auf_der_platte;
+    ASSERT_TRUE(auf_der_platte.laden(t.p.ablage, t.p.einst.beste_datei));
+    EXPECT_EQ(auf_der_platte, t.p.bestzeiten);
 }
 
 TEST_F(Wettkampfautomatik, EinProtokollDasNichtGanzIstHaeltKeinRennenAuf) {
