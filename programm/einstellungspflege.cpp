@@ -144,13 +144,17 @@ bool einstellungspflege::speichern_mit_feldern() {
 
 bool einstellungspflege::speichern(const std::string& pfad) {
     um_.datei.einstellungen_speichern(pfad);
-    const bool gut = !um_.datei.fehler_laden();
+    bool gut = !um_.datei.fehler_laden();
     if (gut) {
         einstell_datei_ = einstellungsname(pfad);
         modusfrage_vormerken();
     }
     name_zeigen();
-    um_.belegung.tastenbelegung_speichern(um_.ablage);
+    const bool mit_tasten = um_.belegung.tastenbelegung_speichern(um_.ablage);
+    if (gut && !mit_tasten) {
+        um_.meldungen.zeigen(um_.ziel.txt.meldung[4], um_.ziel.txt.titel[1]);
+        gut = false;
+    }
     return gut;
 }
 
