@@ -86,6 +86,13 @@ bool einstellungen::hardware_anders_als(const einstellungen& andere) const {
                         [&](const hardwarezeile& eine) { return eine.gleich_erreicht(*this, andere); });
 }
 
+void einstellungen::nebendateien_behalten(const einstellungen& andere) {
+    gruppen = andere.gruppen;
+    anzeige = andere.anzeige;
+    rennbild = andere.rennbild;
+    trennzeichen = andere.trennzeichen;
+}
+
 void einstellungen::folgen_ableiten() {
     ampel_takt = start_ampel_modus == ampelwahl::dragrace ? 500ms : 1500ms;
     sektor_an[0] = std::any_of(sektor_an.begin() + 1, sektor_an.end(), [](bool an) { return an; });

@@ -137,13 +137,15 @@ struct einstellungen {
     std::string sound_ordner;
     std::array<std::string, sounds_max + 1> sound_dateien;  ///< index 1 to 64, empty for no sound
 
-    /// The timing hardware has to be started anew after a change from `andere`: another device, or one that is reached
-    /// by another way.
     /// Its sensor serves another lane: nobody drives on it.
     bool spur_verliehen(int spur) const {
         return (spur == 3 || spur == 4) && (rc.rc_ziel_sensor34 || rc.rc_tank_sensor34);
     }
+    /// The timing hardware has to be started anew after a change from `andere`: another device, or one that is reached
+    /// by another way.
     bool hardware_anders_als(const einstellungen& andere) const;
+    /// What has a file of its own is as in `andere`: it does not change with the settings file.
+    void nebendateien_behalten(const einstellungen& andere);
     /// Brings the values up to date that follow from others; none of them stands in a file.
     void folgen_ableiten();
     dauer_ms ampel_takt{1500};  ///< last step of the start light

@@ -102,6 +102,25 @@ void einstellungsdatei::einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x
     um_.ansicht.einrichtung_zeigen();
 }
 
+void einstellungsdatei::aenderungen_uebernehmen(const std::vector<std::string>& in_kraft,
+                                                const std::vector<std::string>& neu) {
+    if (in_kraft == neu) {
+        return;
+    }
+    einlesen(neu);
+    const auto& tabelle = einstellungstabelle();
+    for (int z = 1; z <= z::letzte_gelesene; ++z) {
+        const std::size_t i = platz(z) + 1;  // the line behind the header is blank
+        if (tabelle[platz(z)].laden && in_kraft.at(i) != neu.at(i)) {
+            tabelle[platz(z)].laden(um_.ziel, zeile(z));
+        }
+    }
+    hardware_folgen({});
+    wechselschema_uebernehmen();
+    cu_spuren_uebernehmen();
+    um_.ziel.einst.folgen_ableiten();
+}
+
 renneinrichtung einstellungsdatei::einrichtung() const {
     einstellungen uebrige;
     renneinrichtung neu;
@@ -197,8 +216,8 @@ std::vector<std::string> einstellungsdatei::schreiben_fuer_wettkampf(std::string
     return inhalt;
 }
 
-void einstellungsdatei::einstellungen_speichern(std::string_view datei) {
-    fehler_laden_ = !um_.ablage.zeilen_schreiben(datei, schreiben());
+void einstellungsdatei::einstellungen_speichern(std::string_view datei, const std::vector<std::string>& inhalt) {
+    fehler_laden_ = !um_.ablage.zeilen_schreiben(datei, inhalt);
     if (fehler_laden_) {
         um_.meldungen.zeigen(um_.ziel.txt.meldung[4], um_.ziel.txt.titel[1]);
     }

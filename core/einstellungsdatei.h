@@ -46,6 +46,8 @@ public:
     void einstellungsdatei_pruefen(pruefweise wie = pruefweise::einstellungen);
     /// Third stage. A start that asks for a mode of the 4x4 module gives it in `hw_4x4_modus_start`.
     void einstellungen_uebernehmen(std::optional<modul_4x4> hw_4x4_modus_start);
+    /// Takes over what `neu` says otherwise than `in_kraft`; both as `festhalten` gives them.
+    void aenderungen_uebernehmen(const std::vector<std::string>& in_kraft, const std::vector<std::string>& neu);
     /// Asked in the middle of taking over, as soon as it is known which best times are wanted; null before the start
     /// has come to them.
     bestzeitfolgen* bestzeiten = nullptr;
@@ -67,7 +69,8 @@ public:
     /// The settings as a competition file begins with them; its own data follow behind.
     std::vector<std::string> schreiben_fuer_wettkampf(std::string_view wettkampf) const;
     /// A failure shows its message and leaves the old file.
-    void einstellungen_speichern(std::string_view datei);
+    void einstellungen_speichern(std::string_view datei) { einstellungen_speichern(datei, schreiben()); }
+    void einstellungen_speichern(std::string_view datei, const std::vector<std::string>& inhalt);
 
 private:
     bool version_pruefen(std::string_view kopf, version_melden melden);

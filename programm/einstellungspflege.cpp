@@ -9,6 +9,7 @@
 #include "core/ordnerblick.h"
 #include "core/speichernfenster.h"
 #include "core/text.h"
+#include "programm/einstellungsruecklage.h"
 
 namespace tarvel {
 namespace {
@@ -143,7 +144,7 @@ bool einstellungspflege::speichern_mit_feldern() {
 }
 
 bool einstellungspflege::speichern(const std::string& pfad) {
-    um_.datei.einstellungen_speichern(pfad);
+    um_.datei.einstellungen_speichern(pfad, um_.ruecklage.fuer_die_datei(um_.datei.schreiben()));
     bool gut = !um_.datei.fehler_laden();
     if (gut) {
         einstell_datei_ = einstellungsname(pfad);

@@ -11,6 +11,7 @@
 
 namespace tarvel {
 
+class einstellungsruecklage;
 class fensterregister;
 class form1;
 class speichernfenster;
@@ -20,6 +21,9 @@ class einstellungsfolgen : public schnittstelle {
 public:
     /// `im_betrieb`: the operator has loaded them, not the start.
     virtual void einstellungen_geladen(bool im_betrieb) = 0;
+    /// Others than `vorher` are in force in the middle of the work, for a race or an evening, or no longer. A device
+    /// that is reached as before stays as it is.
+    virtual void einstellungen_gewechselt(const einstellungen& vorher) = 0;
 };
 
 /// The care of the settings file: which one is in force, its loading and saving, and the defaults in its place. The
@@ -35,6 +39,7 @@ public:
         fensterregister& fenster;
         plattform::meldungen& meldungen;
         speichernfenster& auswahl;
+        const einstellungsruecklage& ruecklage;
         einstellungsfolgen& folgen;
     };
 

@@ -31,6 +31,7 @@ programm::programm(const plattform::dienste& d)
       form1({einst, einrichtung, txt, param, ablage, fahrerliste, fahrzeugliste, zuletzt_gefahren, bestzeiten, fenster,
              d.meldungen, d.bildschirm, d.zeitgeber}),
       datei({ablage, {einst, einrichtung, txt}, form1, d.meldungen}),
+      einstellungsruecklage({datei, einst, einrichtung, belegung, form1, fenster, *this, d.zeitgeber}),
       start_(std::make_unique<startfluegel>(*this)),
       rennen_(std::make_unique<rennfluegel>(*this)),
       ergebnisse_(std::make_unique<ergebnisfluegel>(*this, rennen_->rennen, static_cast<bestzeitfolgen&>(*this))),
@@ -47,6 +48,7 @@ programm::programm(const plattform::dienste& d)
                fenster,
                d.meldungen,
                optionen_->speichernfenster,
+               einstellungsruecklage,
                *this},
               pfad_als_utf8(d.programmordner)),
       geraete_(std::make_unique<messgeraete>(geraete_umgebung{d, einst, txt, ablage, ereignisse, quellen, ausgaben,
@@ -55,8 +57,8 @@ programm::programm(const plattform::dienste& d)
       protokoll_(std::make_unique<tarvel::rennprotokoll>(
           tarvel::rennprotokoll::umgebung{rennen_->rennen, param, belegung, ereignisse, datei, ablage, txt, d})),
       wiederaufnahme_(std::make_unique<tarvel::wiederaufnahme>(tarvel::wiederaufnahme::umgebung{
-          datei, einst, belegung, einrichtung, *this, form1, fenster, ausgaben, quellen, ablage, txt, rennen_->rennen,
-          *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), *geraete_, d})),
+          datei, einst, belegung, einstellungsruecklage, *this, form1, fenster, ausgaben, quellen, ablage, txt,
+          rennen_->rennen, *ergebnisse_, *wettkampf_, *protokoll_, geraete_->rennverbindung(), *geraete_, d})),
       wiedergabe_(std::make_unique<tarvel::wiedergabe>(
           tarvel::wiedergabe::umfeld{{ablage, txt, fenster, d.meldungen}, d.uhr, d.zeitgeber, d.programmordner})),
       form3(start_->form3),
@@ -353,6 +355,13 @@ void programm::einstellungen_geladen(bool im_betrieb) {
         fenster.zeigen(fenstername::Form1);
         hauptfenster_gilt_ = true;
         fenster.zeigen(fenstername::Form3);
+    }
+}
+
+void programm::einstellungen_gewechselt(const einstellungen& vorher) {
+    einstellungen_uebernommen(vorher);
+    if (einst.hardware_anders_als(vorher)) {
+        hardware_starten();
     }
 }
 

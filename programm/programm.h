@@ -24,6 +24,7 @@
 #include "optionen/optionsfolgen.h"
 #include "platform/dienste.h"
 #include "programm/einstellungspflege.h"
+#include "programm/einstellungsruecklage.h"
 #include "programm/wettkampfumfeld.h"
 
 namespace tarvel {
@@ -110,6 +111,8 @@ public:
     tarvel::form1 form1;
     einstellungsdatei datei;
 
+    tarvel::einstellungsruecklage einstellungsruecklage;
+
 private:
     std::unique_ptr<startfluegel> start_;
     std::unique_ptr<rennfluegel> rennen_;
@@ -164,6 +167,7 @@ public:
 
 private:
     void einstellungen_geladen(bool im_betrieb) override;
+    void einstellungen_gewechselt(const einstellungen& vorher) override;
     bool einstellungen_speichern() override;
     void einstellungen_uebernommen(const einstellungen& vorher) override;
     void optionen_geschlossen() override;

@@ -79,33 +79,6 @@ plattform::datum_uhrzeit datum_lesen(std::string_view text) {
 
 }  // namespace
 
-wiederaufnahme::wiederaufnahme(const umgebung& um)
-    : um_(um), takt_(um.dienste.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, 200ms)) {
-    takt_->bei_tick = [this] {
-        const auto offen = [this](fenstername name) { return um_.fenster.ist_offen(name); };
-        if (!offen(fenstername::bahn1) && !offen(fenstername::auswertung)) {
-            zurueckstellen();
-        }
-    };
-}
-
-void wiederaufnahme::zurueckstellen() {
-    takt_->aus();
-    const vorher alt = *std::exchange(vorher_, std::nullopt);
-    const zwischendurch seither(um_.einst);
-    const erscheinung anzeige = um_.einst.anzeige;
-    um_.einst = alt.einst;
-    um_.einst.anzeige = anzeige;
-    seither.behalten(um_.einst);
-    um_.belegung = alt.belegung;
-    if (alt.einrichtung) {
-        um_.einrichtung = *alt.einrichtung;
-        um_.haupt.einrichtung_zeigen();
-        um_.haupt.felder_nach_spuren();
-    }
-    um_.folgen.einstellungen_geladen(true);
-}
-
 std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string& name) const {
     kandidat k;
     k.name = name;
@@ -238,10 +211,10 @@ bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
     if (um_.datei.fehler_laden()) {
         return false;
     }
-    const zwischendurch seither(um_.einst);
+    const einstellungen vorher = um_.einst;
     um_.datei.einstellungen_uebernehmen({});
-    seither.behalten(um_.einst);
-    um_.folgen.einstellungen_geladen(true);
+    zwischendurch(vorher).behalten(um_.einst);
+    um_.folgen.einstellungen_gewechselt(vorher);
     um_.haupt.felder_nach_spuren();
     return true;
 }
@@ -286,16 +259,10 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
     if (um_.datei.festhalten() == kopf.einstellungen && um_.belegung == kopf.belegung) {
         return aufnehmen(k);
     }
-    if (!vorher_) {
-        const bool alleine = nach_dem_start_ && !kopf.teil_von.starts_with(abend_kennung);
-        vorher_ = {um_.einst, um_.belegung, alleine ? std::nullopt : std::optional(um_.einrichtung)};
-    }
-    if (!aufnehmen(k)) {
-        zurueckstellen();
-        return false;
-    }
-    takt_->an();
-    return true;
+    const bool alleine = nach_dem_start_ && !kopf.teil_von.starts_with(abend_kennung);
+    using felder = einstellungsruecklage::felder;
+    return um_.ruecklage.solange({fenstername::bahn1, fenstername::auswertung},
+                                 alleine ? felder::bleiben : felder::zurueck, [&] { return aufnehmen(k); });
 }
 
 bool wiederaufnahme::aufnehmen(const kandidat& k) {

@@ -7,6 +7,7 @@
 
 #include "core/form1.h"
 #include "hardware/rennverbindung.h"
+#include "programm/einstellungsruecklage.h"
 #include "programm/fluegel.h"
 #include "programm/rennprotokoll.h"
 
@@ -20,8 +21,8 @@ public:
     struct umgebung {
         einstellungsdatei& datei;
         einstellungen& einst;
-        tastenbelegung& belegung;
-        renneinrichtung& einrichtung;
+        const tastenbelegung& belegung;
+        einstellungsruecklage& ruecklage;
         einstellungsfolgen& folgen;
         form1& haupt;
         fensterregister& fenster;
@@ -38,7 +39,7 @@ public:
         plattform::dienste dienste;
     };
 
-    explicit wiederaufnahme(const umgebung& um);
+    explicit wiederaufnahme(const umgebung& um) : um_(um) {}
 
     /// The last race, if the program before has not come to its end, and the evening that it is part of.
     void nach_dem_start_anbieten();
@@ -57,13 +58,6 @@ private:
         protokollstand stand;  ///< its lines lie in `inhalt`
     };
 
-    /// What was in force before a race came back with what it had begun with.
-    struct vorher {
-        einstellungen einst;
-        tastenbelegung belegung;
-        std::optional<renneinrichtung> einrichtung;  ///< none: that of the race is what the director had typed last
-    };
-
     std::optional<kandidat> lesen(const std::string& name) const;
     std::string frage(const protokollstand& stand) const;
     /// What stands on its buttons; `nein` is what follows if it is not taken.
@@ -71,8 +65,6 @@ private:
     bool fortsetzen(const kandidat& k);
     bool aufnehmen(const kandidat& k);
     bool einrichten(const protokollkopf& kopf);
-    /// Back to what was in force before, once the race is over and its windows are closed.
-    void zurueckstellen();
     /// Makes the race part of what it was part of. False if that is no more.
     bool eingliedern(std::string_view kennung);
     /// The books of the evening, if it is part of one, are those of a race that has come so far.
@@ -86,8 +78,6 @@ private:
 
     umgebung um_;
     bool nach_dem_start_ = false;
-    std::optional<vorher> vorher_;
-    std::unique_ptr<plattform::zeitgeber> takt_;
 };
 
 }  // namespace tarvel

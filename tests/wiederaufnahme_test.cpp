@@ -147,6 +147,13 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
 }
 
 TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
+    const dateien& ablage = t_.p.ablage;
+    tarvel::bestzeiten beste;
+    beste.einfuegen(1, {2000, "Anna", "", ""});
+    beste.speichern(ablage, "Holzbahn");
+    beste.einfuegen(1, {1000, "Ben", "", ""});
+    beste.speichern(ablage, "Clubbahn");
+    t_.p.einst.beste_datei = "Holzbahn";
     t_.starten("Runden", "10", {1, 2});
     t_.runde_nach(4000, "12");
     t_.runde_nach(4000, "1");
@@ -154,11 +161,17 @@ TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
     t_.p.einst.tank_inhalt = 44;
     t_.p.belegung.taste(1, 200);
     t_.p.form1.fahrer[0].eingeben("Gast");
+    t_.p.einst.beste_datei = "Clubbahn";
+    t_.p.einst.rc.rc_ziel_sensor34 = true;
     t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
     t_.p.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_NE(t_.p.einst.tank_inhalt, 44) << "the race goes on with what it began with";
     EXPECT_NE(t_.p.belegung.taste(1), 200);
+    EXPECT_EQ(t_.p.bestzeiten.gesamt().name, "Anna");
+    EXPECT_TRUE(t_.p.form1.spur_frei(3));
+    t_.p.einst.sound_an = !t_.p.einst.sound_an;  // switched meanwhile
+    const bool ton = t_.p.einst.sound_an;
     t_.p.k_ampel.Command1.klicken();
     t_.maschine.laufen(8000);
     t_.rennende();
@@ -171,6 +184,9 @@ TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
     EXPECT_EQ(t_.p.einst.tank_inhalt, 44);
     EXPECT_EQ(t_.p.belegung.taste(1), 200);
     EXPECT_EQ(t_.p.form1.fahrer[0].text(), "Gast");
+    EXPECT_EQ(t_.p.bestzeiten.gesamt().name, "Ben") << "the next best time would write over the club's";
+    EXPECT_FALSE(t_.p.form1.spur_frei(3));
+    EXPECT_EQ(t_.p.einst.sound_an, ton);
 }
 
 TEST_F(Wiederaufnahme, WasEineEinstellungsdateiNichtSagenDarfHaeltKeinRennenAuf) {
