@@ -56,7 +56,9 @@ faehigkeiten control_unit::kann() const {
 bool control_unit::oeffnen() {
     schliessen();
     gewuenscht_ = true;
-    if (!leitung_.oeffnen(um_.einst.cu.anschluss.cu_modus)) {
+    const int anschluss = um_.einst.cu.anschluss.cu_modus;
+    stand_verbraucht_ = std::exchange(anschluss_, anschluss) == anschluss && stand_verbraucht_;
+    if (!leitung_.oeffnen(anschluss)) {
         return false;
     }
     geoeffnet_ = uhr_.jetzt();
@@ -92,7 +94,6 @@ void control_unit::schliessen() {
     pausengang_ = 1;
     luecke_ = 0;
     cu_startzustand_ = start::unbekannt;
-    stand_verbraucht_ = false;
 }
 
 bool control_unit::antwortet() const {
@@ -221,7 +222,7 @@ void control_unit::startzustand_auswerten(bool steht) {
     const start vorher = std::exchange(cu_startzustand_, steht ? start::steht : start::faehrt);
     if (!steht) {
         neustart_wartet_ = false;
-        stand_verbraucht_ = stand_verbraucht_ && vorher != start::steht;  // it may only just be asked to stop
+        stand_verbraucht_ = stand_verbraucht_ && vorher == start::faehrt;  // it may only just be asked to stop
         cu_chaos_durch_box_ = false;
         return;
     }
@@ -255,7 +256,7 @@ void control_unit::rennfenster_offen() {
     cu_chaos_durch_box_ = false;
     zaehlerbox_bereit_ = false;
     gezeigte_tankgroesse_ = 0;
-    stand_verbraucht_ = stand_verbraucht_ && im_startzustand();
+    stand_verbraucht_ = stand_verbraucht_ && cu_startzustand_ != start::faehrt;
     if (!leitung_.offen() && !oeffnen()) {  // it may have been unplugged since, and plugged in again
         um_.bedienung.port_fehlt(um_.txt.meldung[14]);
         return;

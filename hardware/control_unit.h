@@ -128,6 +128,7 @@ private:
     bool rennen_laeuft_ = false;     ///< between its start and its end
     bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
     bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start
+    int anschluss_ = 0;              ///< port that was opened last: another one has another unit
     bool zaehlerbox_bereit_ = false;
     bool cu_chaos_durch_box_ = false;
 };

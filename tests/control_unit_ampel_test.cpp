@@ -109,6 +109,14 @@ TEST_F(ControlUnitRennen, DieStarttasteAmGeraetBereitetDasRennenVorUndSeinEndeNi
     t.p.auswertung.Command2.klicken();
     status(true);
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2)) << "nobody has pressed for a new race";
+    t.rennabbruch();
+    t.p.geraete.hardware_starten(false);  // it is asked anew, and stands as it stood
+    t.einrichten(t.p.txt.text_runden, "2", {1});
+    status(true);
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
+    status(false);
+    status(true);
+    EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::Form2)) << "now somebody has";
 }
 
 TEST_F(ControlUnitRennen, EinFortgesetztesRennenHaeltAnWennDasGeraetAnhaelt) {
