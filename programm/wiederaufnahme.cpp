@@ -90,11 +90,21 @@ std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string&
     k.beschaedigt = gelesen->beschaedigt();
     k.inhalt = std::make_unique<const std::string>(gelesen->inhalt());
     auto stand = protokollstand_lesen(*k.inhalt);
-    if (!stand || !stand->fortsetzbar()) {
+    if (!stand) {
         return std::nullopt;
     }
     k.stand = std::move(*stand);
     return k;
+}
+
+std::optional<wiederaufnahme::kandidat> wiederaufnahme::letztes_abendrennen() const {
+    for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
+        std::optional<kandidat> k = lesen(name);
+        if (k && k->stand.gestartet && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+            return k;
+        }
+    }
+    return std::nullopt;
 }
 
 std::string wiederaufnahme::frage(const protokollstand& stand) const {
@@ -130,7 +140,8 @@ void wiederaufnahme::nach_dem_start_anbieten() {
     nach_dem_start_ = true;
     const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
     std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
-    if (k && (k->stand.geschlossen || k->stand.abgebrochen || protokoll_weggelegt(um_.ablage, k->name))) {
+    if (k && (!k->stand.fortsetzbar() || k->stand.geschlossen || k->stand.abgebrochen ||
+              protokoll_weggelegt(um_.ablage, k->name))) {
         k.reset();  // nobody has lost it
     }
     if (k && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
@@ -164,7 +175,7 @@ void wiederaufnahme::anbieten() {
     bool eines = abend.has_value();
     for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
         const std::optional<kandidat> k = lesen(name);
-        if (!k || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+        if (!k || !k->stand.fortsetzbar() || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
             continue;  // that one waits in its evening
         }
         eines = true;
@@ -182,9 +193,8 @@ void wiederaufnahme::anbieten() {
 
 bool wiederaufnahme::abgebrochenes_anbieten() {
     nach_dem_start_ = false;
-    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, 1);
-    const std::optional<kandidat> k = namen.empty() ? std::nullopt : lesen(namen.front());
-    if (!k || !k->stand.abgebrochen || k->stand.beendet) {
+    const std::optional<kandidat> k = letztes_abendrennen();
+    if (!k || !k->stand.fortsetzbar()) {
         return false;
     }
     const std::string kennung = um_.wettkampf.wettkampfabend.kennung();

@@ -45,8 +45,8 @@ public:
     void nach_dem_start_anbieten();
     /// The last evening that was not ended, then race after race, the newest first.
     void anbieten();
-    /// The race that the evening is about to start, if it was broken off by hand and nothing has been driven since.
-    /// True if it goes on.
+    /// The race that the evening is about to start, if it was broken off, or put away as the program started, and the
+    /// evening has driven nothing since. True if it goes on.
     bool abgebrochenes_anbieten();
 
 private:
@@ -59,6 +59,8 @@ private:
     };
 
     std::optional<kandidat> lesen(const std::string& name) const;
+    /// The race of an evening that has seen its green light last.
+    std::optional<kandidat> letztes_abendrennen() const;
     std::string frage(const protokollstand& stand) const;
     /// What stands on its buttons; `nein` is what follows if it is not taken.
     plattform::antwortworte antworten(const protokollstand& stand, std::string_view nein) const;

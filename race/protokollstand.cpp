@@ -47,7 +47,7 @@ private:
     void kopfzeile(std::string_view rest) {
         const std::string_view wort = naechstes_wort(rest);
         if (wort == "Uhr") {  // it has gone on
-            s_.geschlossen = s_.abgebrochen = false;
+            s_.geschlossen = s_.verlassen = s_.abgebrochen = false;
             schnitt_.reset();
         } else if (wort == protokoll_geschlossen) {
             s_.geschlossen = true;
@@ -66,7 +66,7 @@ private:
         if (wort == "abbruch" || wort == "schliessen") {
             letzte_frage_ = davor;
         } else if (wort == "zumachen") {
-            s_.geschlossen = true;
+            s_.geschlossen = s_.verlassen = true;
             schnitt_ = s_.beendet || schnitt_ ? schnitt_ : davor;
         } else if (wort == "start") {
             s_.gestartet = s_.beendet = false;

@@ -19,6 +19,7 @@ struct protokollstand {
     bool beendet = false;      ///< it has its result
     bool abgebrochen = false;  ///< broken off by hand
     bool geschlossen = false;  ///< the race window was closed, or nobody wants it back for now
+    bool verlassen = false;    ///< the race window was closed: a result that there was is where it belongs
     zeit_ms dauer = 0;         ///< since the window opened, up to the last line
     spuren<std::string> fahrer;
     spuren<int> runden{};
@@ -29,7 +30,7 @@ struct protokollstand {
     std::uint16_t kette = 0;  ///< sum of that line
     int erste_zeile = 1;      ///< number of the first one in the log
 
-    bool fortsetzbar() const { return gestartet && !(beendet && geschlossen); }
+    bool fortsetzbar() const { return gestartet && !(beendet && verlassen); }
     /// Most laps that a lane has.
     int fuehrungsrunden() const;
 };

@@ -420,6 +420,47 @@ TEST_F(Abgebrochen, EinAndererAbendBietetEsNichtAn) {
     EXPECT_TRUE(t.bahn().Command1.bedienbar()) << "from the start";
 }
 
+TEST_F(Abgebrochen, AuchEinRennfensterOhneGruenDazwischenNimmtEsNicht) {
+    anfahren_und_abbrechen();
+    t.maschine.antwort = false;
+    ASSERT_TRUE(abend.rennen_starten());  // from the start, but then not yet after all
+    t.maschine.antwort = true;
+    t.rennabbruch();
+    ASSERT_FALSE(offen(fenstername::bahn1));
+    t.p.form1.Command1.klicken();  // somebody tries the track
+    t.bahn().Command1.klicken();
+    t.rennabbruch();
+    ASSERT_TRUE(abend.rennen_starten());
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+}
+
+/// The outage comes in the race, or in its result.
+class Weggelegt : public Abgebrochen, public testing::WithParamInterface<bool> {};
+INSTANTIATE_TEST_SUITE_P(RennenOderErgebnis, Weggelegt, testing::Bool());
+
+TEST_P(Weggelegt, WartetInSeinemAbend) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    runden_fahren(GetParam() ? 3 : 1);
+    ASSERT_EQ(offen(fenstername::auswertung), GetParam());
+    t.p.rennprotokoll.sichern();
+    t.maschine.antwort = false;
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    ASSERT_FALSE(neu.wettkampfabend.wettkampf_aktiv());
+    t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    neu.form1.command_fortsetzen.klicken();
+    ASSERT_TRUE(neu.wettkampfabend.rennen_starten());
+    EXPECT_EQ(neu.rennen.zustand.konto.runden(1), GetParam() ? 3 : 1);
+    ASSERT_EQ(neu.fenster.ist_offen(fenstername::auswertung), GetParam());
+    if (GetParam()) {
+        neu.auswertung.Command5.klicken();
+        EXPECT_EQ(neu.wettkampfabend.stand().rennen_gefahren(1), rennstatus::gefahren);
+    }
+}
+
 TEST_F(Abgebrochen, EinRennenDasSchonGebuchtIstWirdNurEinmalAngeboten) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
     ASSERT_TRUE(abend.rennen_starten());
