@@ -66,6 +66,8 @@ public:
     sprachliste sprache_lf();
     void laden() override;
     void entladen() override;
+    /// Shows the lanes and drivers that are set up on the main window.
+    void spuren_zeigen();
     /// Reads the file of the day: it may have changed meanwhile.
     void datei_pruefen();
     /// The line on what the classes stand for still says how it is used.
@@ -83,7 +85,6 @@ private:
     tagesparameter parameter() const;
     void parameter_zeigen();
     void parameter_sichern(const tagesparameter& werte);
-    void spuren_zeigen();
     void datei_geaendert();
     void zeilen_zeigen();
     void fuehrung_zeigen(bool bereit);

@@ -363,6 +363,9 @@ void programm::einstellungen_gewechselt(const einstellungen& vorher) {
     if (einst.hardware_anders_als(vorher)) {
         hardware_starten();
     }
+    if (fenster.ist_offen(fenstername::Tagesrennen)) {  // it has opened on the set-up of the race that is over
+        tagesrennen_fenster.spuren_zeigen();
+    }
 }
 
 void programm::programm_beenden() {

@@ -126,6 +126,28 @@ TEST_F(Tagesrennen, KlasseFolgtDemFahrerAufDieAndereSpur) {
     EXPECT_EQ(inhalt(samstag).at(2).substr(0, 7), "A;Anna;");
 }
 
+TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichtetIst) {
+    oeffnen();
+    datei("Samstag");
+    f.Command18.klicken();
+    t.bahn().Command1.klicken();
+    t.runde_nach(1000, "12");
+    t.rennabbruch();
+    t.p.fenster.entladen(fenstername::Tagesrennen);
+    t.p.form1.spur[4].umschalten();
+    t.p.form1.fahrer[4].eingeben("Gast");
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t.p.form1.command_fortsetzen.klicken();
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(8000);
+    t.rennende();
+    t.p.auswertung.Command5.klicken();
+    ASSERT_TRUE(offen(fenstername::Tagesrennen));
+    t.maschine.laufen(300);
+    EXPECT_TRUE(f.Text_fahrer[4].aktiviert());
+    EXPECT_EQ(f.Text_fahrer[4].text(), "Gast");
+}
+
 TEST_F(Tagesrennen, FremdeDateiUndUnmoeglicherNameWerdenNichtBenutzt) {
     t.maschine.datei_schreiben(samstag, "fremd\r\n");
     oeffnen();
