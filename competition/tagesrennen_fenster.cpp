@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -123,7 +124,7 @@ tagesparameter tagesrennen_fenster::parameter() const {
 }
 
 void tagesrennen_fenster::parameter_zeigen() {
-    const auto gelesen = tagesparameter_laden(um_.welt.ablage);
+    const auto gelesen = ungeschrieben_ ? std::optional(gesichert_) : tagesparameter_laden(um_.welt.ablage);
     const tagesparameter werte = gelesen.value_or(tagesparameter{{}, false, wort_.klassen_text});
     text_lf_datei.text(werte.name);
     Check1.gesetzt(werte.klassen);
@@ -136,7 +137,8 @@ void tagesrennen_fenster::parameter_zeigen() {
 
 void tagesrennen_fenster::parameter_sichern(const tagesparameter& werte) {
     gesichert_ = werte;
-    if (!tagesparameter_speichern(um_.welt.ablage, werte)) {
+    ungeschrieben_ = !tagesparameter_speichern(um_.welt.ablage, werte);
+    if (ungeschrieben_) {
         um_.welt.meldungen.zeigen(wort_.nicht_gesichert, um_.welt.txt.titel[1]);
     }
 }

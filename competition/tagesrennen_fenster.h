@@ -104,6 +104,7 @@ private:
     std::vector<tageszeile> zeilen_;                ///< of the file that stands in the field
     std::array<bool, spuren_max> vorgeschlagen_{};  ///< the class comes from the file, nobody has chosen it
     tagesparameter gesichert_;
+    bool ungeschrieben_ = false;  ///< no file has them, but until the end of the program they hold
     worte wort_;
     fuehrungsworte fuehrung_;
 };

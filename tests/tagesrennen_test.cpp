@@ -187,6 +187,16 @@ TEST_F(Tagesrennen, AngabenBleibenBisZumNaechstenTag) {
     EXPECT_TRUE(f.Check1.gesetzt());
     EXPECT_EQ(f.klassen_text[4].text(), "A bis 12 Jahre, B über 12");
     f.Command20.klicken();
+    t.maschine.nicht_schreibbar = "Tagesrennen.ini";
+    oeffnen();
+    datei("Sonntag");
+    f.Command20.klicken();
+    EXPECT_TRUE(letzte_meldung().ends_with("Die Angaben gelten nur bis zum Programmende."));
+    oeffnen();
+    EXPECT_EQ(f.text_lf_datei.text(), "Sonntag");
+    t.maschine.nicht_schreibbar.clear();
+    datei("Montag");
+    f.Command20.klicken();
     t.maschine.datei_schreiben("Tagesrennen.ini", "Tarvel Parameter-Datei für das Tagesrennen\r\nkurz\r\n");
     oeffnen();
     EXPECT_EQ(f.text_lf_datei.text(), "");
