@@ -73,7 +73,7 @@ bool wettkampfabend::rennen_starten() {
     return true;
 }
 
-bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil) {
+bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil, dauer_ms bisher) {
     automat_.aus();
     if (stand_.uebergabe().rennen != rennen) {
         return false;
@@ -84,7 +84,7 @@ bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil) {
     von_selbst_ = false;
     unterbrochen_ = false;
     um_.teil_von.wechseln(*this);
-    start_ = um_.uhr.jetzt();
+    start_ = um_.uhr.jetzt() - bisher.count();
     ergebnis_da_ = false;
     zeigen();
     return true;

@@ -229,14 +229,15 @@ bool wiederaufnahme::einrichten(const protokollkopf& kopf) {
     return true;
 }
 
-bool wiederaufnahme::eingliedern(std::string_view kennung) {
+bool wiederaufnahme::eingliedern(const protokollstand& stand) {
+    const std::string_view kennung = stand.kopf.teil_von;
     std::string_view rest = kennung;
     const std::string_view art = naechstes_wort(rest);
     if (art == abend_kennung) {
         wettkampfabend& abend = um_.wettkampf.wettkampfabend;
         const abendrennen dort = abendrennen_lesen(kennung);
         return abend.wettkampf_aktiv() && (dort.abend.empty() || dort.abend == abend.abendname()) &&
-               abend.rennen_wiederaufnehmen(dort.rennen, dort.ab_teil);
+               abend.rennen_wiederaufnehmen(dort.rennen, dort.ab_teil, dauer_ms(stand.dauer));
     }
     ergebnisfluegel& e = um_.ergebnisse;
     if (art == "tagesrennen") {
@@ -276,7 +277,7 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
 }
 
 bool wiederaufnahme::aufnehmen(const kandidat& k) {
-    if (!einrichten(k.stand.kopf) || !eingliedern(k.stand.kopf.teil_von)) {
+    if (!einrichten(k.stand.kopf) || !eingliedern(k.stand)) {
         melden(um_.txt.wettkampf.nicht_fortsetzbar);
         return false;
     }

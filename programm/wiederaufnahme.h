@@ -68,7 +68,7 @@ private:
     bool aufnehmen(const kandidat& k);
     bool einrichten(const protokollkopf& kopf);
     /// Makes the race part of what it was part of. False if that is no more.
-    bool eingliedern(std::string_view kennung);
+    bool eingliedern(const protokollstand& stand);
     /// The books of the evening, if it is part of one, are those of a race that has come so far.
     bool im_abend_richtig(std::string_view kennung);
     /// Since the last line of the log, by the calendar.

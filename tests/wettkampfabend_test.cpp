@@ -263,6 +263,7 @@ TEST_F(Wettkampfabend, MitDemAbendGehtAuchSeinAbgeschnittenesRennenWeiter) {
     rennen_fahren();
     ASSERT_TRUE(abend.rennen_starten());
     t.bahn().Command1.klicken();
+    const zeit_ms beginn = t.maschine.jetzt();
     runden_fahren(1);
     const spuren<std::string> fahrer = t.p.param.fahrer_name;
     t.p.rennen.protokoll.aufhoeren();  // the power goes
@@ -291,7 +292,10 @@ TEST_F(Wettkampfabend, MitDemAbendGehtAuchSeinAbgeschnittenesRennenWeiter) {
     ASSERT_TRUE(neu.fenster.ist_offen(fenstername::auswertung));
     neu.auswertung.Command5.klicken();
     EXPECT_EQ(neu.wettkampfabend.stand().aktuelles_rennen, 3);
-    EXPECT_EQ(neu.wettkampfabend.stand().renndauern.size(), 2U);
+    const auto& dauern = neu.wettkampfabend.stand().renndauern;
+    ASSERT_EQ(dauern.size(), 2U);
+    EXPECT_NEAR(static_cast<double>(dauern.back()), static_cast<double>(t.maschine.jetzt() - beginn), 500)
+        << "before the outage it has lasted as well";
 }
 
 TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
