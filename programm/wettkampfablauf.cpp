@@ -64,14 +64,23 @@ bool wettkampfablauf::laden(const std::string& pfad, einstellungen_aus_datei wie
         return false;
     }
     if (wie == einstellungen_aus_datei::uebernehmen) {
+        const einstellungen vorher = um_.einst;
         um_.datei.einstellungen_uebernehmen(std::nullopt);
-        um_.folgen.einstellungen_geladen(true);
+        um_.folgen.einstellungen_gewechselt(vorher);
         rennen_der_datei_uebergeben(*gelesen);  // lent lanes and the way of judging are those of the file now
     }
     um_.einrichtung = um_.datei.einrichtung();  // its files are written from what the main window shows
     um_.haupt.einrichtung_zeigen();
     eroeffnen(std::move(*gelesen), pfad);
     return true;
+}
+
+bool wettkampfablauf::wieder_aufnehmen(const std::string& pfad, einstellungsruecklage::felder wie) {
+    const auto eigene =
+        um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
+    return um_.ruecklage.solange(
+        {fenstername::wettkampf1, fenstername::wettkampf2, fenstername::bahn1, fenstername::auswertung}, wie,
+        [&] { return laden(pfad, eigene); });
 }
 
 bool wettkampfablauf::rennen_der_datei_uebergeben(const wettkampf& gelesen) {
@@ -108,6 +117,7 @@ std::string wettkampfablauf::frage(const wettkampf& w) const {
 }
 
 std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() {
+    using felder = einstellungsruecklage::felder;
     for (const std::string& pfad : um_.speicher.unbeendete()) {
         const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt,
                                              einstellungen_aus_datei::lassen, version_melden::nein);
@@ -116,7 +126,7 @@ std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() 
         }
         const auto will = um_.meldungen.anbieten_mit_ausweg(
             frage(*gelesen), um_.txt.titel[0], {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.naechstes});
-        if (will == plattform::dreifache_antwort::ja && !laden(pfad, eigene_einstellungen())) {
+        if (will == plattform::dreifache_antwort::ja && !wieder_aufnehmen(pfad, felder::zurueck)) {
             um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + pfad, um_.txt.titel[1]);
         }
         return will;
@@ -134,7 +144,7 @@ bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     const bool fortsetzen =
         gelesen && um_.meldungen.anbieten(frage(*gelesen) + rennen, um_.txt.titel[0],
                                           {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.spaeter});
-    const bool gut = gelesen && (!fortsetzen || laden(pfad, eigene_einstellungen()));
+    const bool gut = gelesen && (!fortsetzen || wieder_aufnehmen(pfad, einstellungsruecklage::felder::bleiben));
     if (gut && fortsetzen) {
         return true;
     }

@@ -12,6 +12,7 @@
 #include "core/einstellungsdatei.h"
 #include "core/form1.h"
 #include "programm/einstellungspflege.h"
+#include "programm/einstellungsruecklage.h"
 #include "programm/wettkampfumfeld.h"
 
 namespace tarvel {
@@ -30,6 +31,7 @@ public:
         plattform::meldungen& meldungen;
         const plattform::kalender& kalender;
         form1& haupt;
+        einstellungsruecklage& ruecklage;
         einstellungsfolgen& folgen;
         wettkampfumfeld& umfeld;
         wettkampfabend& abend;
@@ -60,11 +62,9 @@ private:
     /// `aus` is the file it goes on from, if it is not a new one.
     void eroeffnen(wettkampf neu, const std::string& aus = {});
     std::string frage(const wettkampf& w) const;
-    /// The settings of an evening that is taken up again are its own, but of a device whose settings are those of the
-    /// track here.
-    einstellungen_aus_datei eigene_einstellungen() const {
-        return um_.einst.hardware.hw_cu ? einstellungen_aus_datei::lassen : einstellungen_aus_datei::uebernehmen;
-    }
+    /// The settings of an evening that is taken up again are its own as long as it lasts, but of a device whose
+    /// settings are those of the track here.
+    bool wieder_aufnehmen(const std::string& pfad, einstellungsruecklage::felder wie);
 
     umgebung um_;
 };

@@ -6,7 +6,10 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "competition/wettkampftabelle.h"
+#include "core/einstellungstabelle.h"
+#include "core/nebendateien.h"
 #include "core/protokollordner.h"
+#include "core/text.h"
 #include "results/ergebnisdatei.h"
 #include "results/rundenspeichern.h"
 #include "tests/wettkampfabend_probe.h"
@@ -356,6 +359,38 @@ TEST_F(Wettkampfabend, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
     EXPECT_EQ(anderer.rundenspeichern.name.text(), liegen.front());
     anderer.rundenspeichern.Command1.klicken();
     EXPECT_EQ(anderer.wettkampfabend.stand(), vorher) << "an answer given too fast has lost nothing";
+}
+
+TEST_F(Wettkampfabend, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
+    t.p.einst.tank_inhalt = 44;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    t.maschine.antwort = false;
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    const int sonst = neu.einst.tank_inhalt;
+    ASSERT_NE(sonst, 44);
+    neu.form1.fahrer[0].eingeben("Gast");
+    t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    neu.form1.command_fortsetzen.klicken();
+    EXPECT_EQ(neu.einst.tank_inhalt, 44);
+    neu.wettkampf2.Command7.klicken();  // a driver comes late, and the operator is at the options
+    std::get<haken>(neu.einstellungsfenster.zeile("sound_an").element).umschalten();
+    neu.einstellungsfenster.Command1.klicken();
+    const bool ton = neu.einst.sound_an;
+    const auto in_der_datei = [&] {
+        neu.datei.einstellungsdatei_einlesen(standard_einstellungen);
+        return neu.datei.zeilen().at(z::tank_inhalt);
+    };
+    EXPECT_EQ(ganzzahl_lesen(in_der_datei(), 0, 999), sonst) << "the next start has nothing to do with the evening";
+    t.maschine.laufen(1000);
+    EXPECT_EQ(neu.einst.tank_inhalt, 44);
+    neu.wettkampf2.Command5.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(neu.einst.tank_inhalt, sonst);
+    EXPECT_EQ(neu.einst.sound_an, ton);
+    EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
 }
 
 TEST_F(Wettkampfabend, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
