@@ -1,5 +1,6 @@
 #include <cmath>
 #include <random>
+#include <utility>
 
 #include "core/nebendateien.h"
 #include "tests/control_unit_probe.h"
@@ -324,6 +325,23 @@ TEST_F(ControlUnitRennen, NachEinemAusfallGehtEsAuchDannNichtVonSelbstWeiterWenn
     danach.p.starten();
     danach.maschine.laufen(5000);
     EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv);
+}
+
+TEST_F(ControlUnitRennen, EinWiederaufgenommenesRennenOeffnetSeinenPortNichtNeu) {
+    starten(t.p.txt.text_runden, "10", {1, 2});
+    ueberfahrt(1, 500000);
+    t.rennabbruch();
+    const int damals = std::exchange(t.p.einst.tank_inhalt, 44);
+    t.maschine.anschluesse.werte.clear();
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t.p.form1.command_fortsetzen.klicken();
+    ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_EQ(t.p.einst.tank_inhalt, damals);
+    t.rennende();
+    t.p.auswertung.Command5.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(t.p.einst.tank_inhalt, 44);
+    EXPECT_TRUE(t.maschine.anschluesse.werte.empty());
 }
 
 TEST_F(ControlUnitRennen, VorDemRennenFolgtDieTankfunktionDemGeraet) {
