@@ -1,0 +1,172 @@
+#include "competition/wettkampf1.h"
+#include "competition/wettkampf2.h"
+#include "competition/wettkampfabend.h"
+#include "competition/wettkampfdatei.h"
+#include "competition/wettkampfspeicher.h"
+#include "core/einstellungstabelle.h"
+#include "core/nebendateien.h"
+#include "core/text.h"
+#include "results/rundenspeichern.h"
+#include "tests/wettkampfabend_probe.h"
+
+namespace tarvel {
+namespace {
+
+/// An evening that comes back: behind an outage, ended early, or from its file.
+using Wettkampfrueckkehr = test::Abendprobe;
+
+TEST_F(Wettkampfrueckkehr, MitDemAbendGehtAuchSeinAbgeschnittenesRennenWeiter) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    ASSERT_TRUE(abend.rennen_starten());
+    t.bahn().Command1.klicken();
+    const zeit_ms beginn = t.maschine.jetzt();
+    runden_fahren(1);
+    const spuren<std::string> fahrer = t.p.param.fahrer_name;
+    t.p.rennen.protokoll.aufhoeren();  // the power goes
+    t.p.rennen.zeitgeber.alle_aus();
+
+    t.maschine.antwort = true;
+    t.maschine.fragen_gestellt.clear();
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U) << "one question for both";
+    EXPECT_NE(t.maschine.fragen_gestellt.front().text.find("wurde in Runde 2 unterbrochen"), std::string::npos);
+    ASSERT_TRUE(neu.fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(neu.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(neu.param.fahrer_name, fahrer);
+    neu.k_ampel.Command1.klicken();
+    t.maschine.laufen(7000);
+    for (int runde = 2; runde <= 3; ++runde) {
+        t.maschine.laufen(5500);
+        for (const int spur : alle_spuren) {
+            if (neu.param.spur_aktiv[spur]) {
+                neu.rennen.befehle.taste('0' + spur);
+                t.maschine.laufen(150);
+            }
+        }
+    }
+    ASSERT_TRUE(neu.fenster.ist_offen(fenstername::auswertung));
+    neu.auswertung.Command5.klicken();
+    EXPECT_EQ(neu.wettkampfabend.stand().aktuelles_rennen, 3);
+    const auto& dauern = neu.wettkampfabend.stand().renndauern;
+    ASSERT_EQ(dauern.size(), 2U);
+    EXPECT_NEAR(static_cast<double>(dauern.back()), static_cast<double>(t.maschine.jetzt() - beginn), 500)
+        << "before the outage it has lasted as well";
+}
+
+TEST_F(Wettkampfrueckkehr, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    const wettkampf vorher = abend.stand();
+    t.maschine.antwort = true;
+    {
+        programm neu(t.maschine.dienste());
+        neu.starten();
+        ASSERT_FALSE(t.maschine.fragen_gestellt.empty());
+        EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
+                  "Der Wettkampf Vereinsabend vom " + vorher.beginn + " wurde nicht beendet. Fortsetzen?");
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf2));
+        EXPECT_EQ(neu.wettkampfabend.stand(), vorher);
+        EXPECT_EQ(neu.param.renn_laenge, rennziel::runden(3));
+        EXPECT_EQ(neu.param.min_rundenzeit_ms, 5000) << "no margin in a competition";
+        EXPECT_FALSE(neu.form1.Command1.bedienbar() && neu.form1.inhalt.aktiviert());
+        neu.einst.hardware.hw_uart = true;
+        neu.form1.taste_F1();
+        EXPECT_FALSE(neu.fenster.ist_offen(fenstername::UART_Profildatei)) << "nobody sets the device up meanwhile";
+        neu.einst.hardware.hw_uart = false;
+        t.maschine.antwort = false;
+        neu.form1.schliessen();
+        EXPECT_TRUE(
+            t.maschine.fragen_gestellt.back().text.starts_with("Der Wettkampf ist noch nicht beendet. Wirklich"));
+        EXPECT_EQ(t.maschine.beendet, 0);
+        t.maschine.antwort = true;
+        neu.wettkampf2.Command5.klicken();
+        EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
+        EXPECT_TRUE(neu.form1.inhalt.aktiviert());
+        EXPECT_TRUE(neu.ablage.gibt_es(laufender_wettkampf)) << "the next start offers it again";
+        t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+        neu.form1.command_fortsetzen.klicken();
+        EXPECT_EQ(neu.wettkampfabend.stand(), vorher) << "and so does this program";
+        neu.wettkampf2.Command5.klicken();
+        neu.form1.Command3.klicken();
+        neu.wettkampf1.Command17.klicken();
+        neu.wettkampf1.Command3.klicken();
+        ASSERT_NE(neu.wettkampfabend.stand(), vorher);
+        const auto liegen = neu.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk");
+        EXPECT_EQ(liegen.size(), 1U) << "another evening does not write over it";
+    }
+    abend.aendern([](wettkampf&) { return true; });
+    t.p.ablage.kopieren(laufender_wettkampf, "Ergebnisse\\Wettkampf-Zwischenstand\\Abend.wta");
+    t.maschine.antwort = false;
+    programm anderer(t.maschine.dienste());
+    anderer.starten();
+    EXPECT_FALSE(anderer.wettkampfabend.wettkampf_aktiv());
+    EXPECT_FALSE(anderer.ablage.gibt_es(laufender_wettkampf)) << "not asked a second time";
+    const auto liegen = anderer.ablage.auflisten("Ergebnisse\\Wettkampf", "nicht beendet ", ".wtk");
+    ASSERT_EQ(liegen.size(), 2U);
+    EXPECT_TRUE(anderer.ablage.gibt_es("Ergebnisse\\Papierkorb\\Abend.wta"));
+    anderer.form1.Command3.klicken();
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
+    anderer.wettkampf1.Command9.klicken();
+    anderer.rundenspeichern.dateiliste.auswaehlen(0);
+    EXPECT_EQ(anderer.rundenspeichern.name.text(), liegen.front());
+    anderer.rundenspeichern.Command1.klicken();
+    EXPECT_EQ(anderer.wettkampfabend.stand(), vorher) << "an answer given too fast has lost nothing";
+}
+
+TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
+    t.p.einst.tank_inhalt = 44;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    t.maschine.antwort = false;
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    const int sonst = neu.einst.tank_inhalt;
+    ASSERT_NE(sonst, 44);
+    neu.form1.fahrer[0].eingeben("Gast");
+    t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    neu.form1.command_fortsetzen.klicken();
+    EXPECT_EQ(neu.einst.tank_inhalt, 44);
+    neu.wettkampf2.Command7.klicken();  // a driver comes late, and the operator is at the options
+    std::get<haken>(neu.einstellungsfenster.zeile("sound_an").element).umschalten();
+    neu.einstellungsfenster.Command1.klicken();
+    const bool ton = neu.einst.sound_an;
+    const auto in_der_datei = [&] {
+        neu.datei.einstellungsdatei_einlesen(standard_einstellungen);
+        return neu.datei.zeilen().at(z::tank_inhalt);
+    };
+    EXPECT_EQ(ganzzahl_lesen(in_der_datei(), 0, 999), sonst) << "the next start has nothing to do with the evening";
+    t.maschine.laufen(1000);
+    EXPECT_EQ(neu.einst.tank_inhalt, 44);
+    neu.wettkampf2.Command5.klicken();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(neu.einst.tank_inhalt, sonst);
+    EXPECT_EQ(neu.einst.sound_an, ton);
+    EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
+}
+
+TEST_F(Wettkampfrueckkehr, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
+    beginnen(wettkampf_modus::rotation, 4, {1, 2});
+    rennen_fahren();
+    const zeit_ms ohne_pause = abend.stand().renndauern.front();
+    t.maschine.laufen(60000);
+    rennen_fahren();
+    EXPECT_GE(abend.stand().renndauern.front(), ohne_pause + 60000);
+    EXPECT_LT(abend.stand().renndauern.front(), ohne_pause + 61000);
+    const auto noch = abend.blick().dauert_noch;
+    ASSERT_TRUE(noch);
+    EXPECT_EQ(*noch / 2, (abend.stand().renndauern.front() + abend.stand().renndauern.back()) / 2) << "two races more";
+    auto gelesen = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt, einstellungen_aus_datei::lassen,
+                                   version_melden::nein);
+    ASSERT_TRUE(gelesen);
+    t.maschine.laufen(3600000);
+    abend.beginnen(std::move(*gelesen));
+    EXPECT_EQ(abend.blick().dauert_noch, noch);
+    rennen_fahren();
+    EXPECT_LT(abend.blick().dauert_noch, *noch) << "the time until it was taken up again is no race";
+}
+
+}  // namespace
+}  // namespace tarvel
