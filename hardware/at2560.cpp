@@ -65,7 +65,7 @@ at2560::at2560(const umgebung& um)
     : um_(um),
       MSComm2_(um.serienports.erzeugen()),
       tmr_µportopen_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, at_bootzeit)) {
-    MSComm2_->bei_empfang = [this](std::string_view bytes, zeit_ms /*stempel*/) { empfangen(bytes); };
+    MSComm2_->bei_empfang = [this](std::string_view bytes, zeit_ms stempel) { empfangen(bytes, stempel); };
     MSComm2_->bei_verlust = [this] { verloren_melden(); };
     tmr_µportopen_->bei_tick = [this] { tmr_µportopen_tick(); };
 }
@@ -121,6 +121,7 @@ void at2560::wieder_aufnehmen() {
 void at2560::schliessen() {
     gewuenscht_ = false;
     port_schliessen();
+    geraeteuhr_.vergessen();
 }
 
 void at2560::port_schliessen() {
@@ -137,6 +138,7 @@ void at2560::uhr_vergessen() {
     at_zeitversatz_ = 0;
     versatz_davor_ = 0;
     letzte_zeit_ = 0;
+    geraeteuhr_.neu_beginnen();
 }
 
 void at2560::verloren_melden() {
@@ -190,9 +192,10 @@ void at2560::schalten(const schaltung& befehl) {
     at_senden(at_schaltwort(profil_, befehl));
 }
 
-void at2560::empfangen(std::string_view bytes) {
+void at2560::empfangen(std::string_view bytes, zeit_ms stempel) {
     constexpr zeit_ms abfragepause_ms = 100;
     empfang_.anhaengen(bytes);
+    angekommen_ = stempel;
     // In a race each tick takes what it can tell apart, so that the race sees all of it. But the clock is still to be
     // fetched before it, and in a pause nobody asks while the unit repeats that its chaos switch is on. A race that
     // runs and has not asked for long has stood still, and will ask.
@@ -234,8 +237,10 @@ unsigned at2560::betroffene() const {
 void at2560::µC_wert_zerlegen() {
     const auto meldung = empfang_.meldung(profil_);
     if (meldung && meldung->ereignis == profil_.at_zeit_anfordern) {
+        uhr_nachstellen(meldung->zeit);
         if (at_zeitversatz_ == 0) {
-            at_zeitversatz_ = um_.uhr.jetzt() - meldung->zeit;
+            at_zeitversatz_ = bei_ankunft().messzeit - meldung->zeit;
+            geraeteuhr_.festmachen(bei_ankunft());
         }
         return;
     }
@@ -245,6 +250,25 @@ void at2560::µC_wert_zerlegen() {
     um_.rennen.tankflanken_auswerten();
 }
 
+/// The clocks as what is being taken was there.
+at_uhr::moment at2560::bei_ankunft() const {
+    return {angekommen_, um_.zeit.messzeit_lesen() - (um_.uhr.jetzt() - angekommen_)};
+}
+
+void at2560::uhr_nachstellen(zeit_ms geraetezeit) {
+    geraeteuhr_.gehoert(bei_ankunft(), geraetezeit);
+    if (!im_rennen_ || um_.rennen.pause()) {  // what has been measured of it must not change underneath
+        return;
+    }
+    const double gang = um_.zeit.gang();
+    if (const auto neu = geraeteuhr_.nachzustellen({um_.uhr.jetzt(), um_.zeit.messzeit_lesen()}, gang)) {
+        um_.zeit.nachstellen(neu->stand, neu->gang);
+        if (neu->gang != gang) {
+            um_.rennen.pausen_nachmessen(neu->gang / gang);
+        }
+    }
+}
+
 void at2560::ereignis_melden(const at_meldung& meldung) {
     ereignis_tabelle& ereignisse = um_.ereignisse;
     if (ereignisse[art::chaostaster].aktiv && um_.rennen.pause()) {
@@ -252,6 +276,9 @@ void at2560::ereignis_melden(const at_meldung& meldung) {
     }
     if (meldung.ereignis.empty() || meldung.ereignis == at_nicht_belegt) {
         return;
+    }
+    if (betroffene() != 0) {  // what nobody knows may have a number that is no time
+        uhr_nachstellen(meldung.zeit);
     }
     const zeit_ms stempel = at_zeitversatz_ != 0 ? stempel_von(meldung.zeit) : ereignisse.messzeit;
     for (int zeile = 1; zeile <= at_ereignisse_max; ++zeile) {
@@ -264,7 +291,7 @@ void at2560::ereignis_melden(const at_meldung& meldung) {
 zeit_ms at2560::stempel_von(zeit_ms geraetezeit) {
     constexpr zeit_ms umlauf = zeit_ms{1} << 32;
     constexpr zeit_ms unordnung_ms = 2000;  // no event is told so long after a later one
-    const zeit_ms jetzt = um_.uhr.jetzt();
+    const zeit_ms jetzt = um_.zeit.messzeit_lesen();
     const auto abstand = [&](zeit_ms versatz) { return std::abs(jetzt - geraetezeit - versatz); };
     if (const zeit_ms davor = std::exchange(versatz_davor_, 0);
         davor != 0 && abstand(davor) < abstand(at_zeitversatz_)) {

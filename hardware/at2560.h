@@ -7,10 +7,12 @@
 #include "core/einstellungen.h"
 #include "core/texte.h"
 #include "hardware/at2560_empfang.h"
+#include "hardware/at_uhr.h"
 #include "hardware/ereignisse.h"
 #include "hardware/geraetebedienung.h"
 #include "hardware/messgeraet.h"
 #include "hardware/rennverbindung.h"
+#include "hardware/zeitbasis.h"
 #include "platform/meldungen.h"
 #include "platform/serienport.h"
 #include "platform/zeitgeber.h"
@@ -26,8 +28,8 @@ const std::string& at_schaltwort(const at_profil& profil, const schaltung& befeh
 /// After the port opens the unit boots this long, and hears nothing.
 inline constexpr dauer_ms at_bootzeit{3000};
 
-/// The timing unit AT-2560 USB. Its events carry the time of its own clock, which each race fetches anew; until it is
-/// known they are stamped with `messzeit`.
+/// The timing unit AT-2560 USB. Its events carry the time of its own clock, which each race fetches anew, and which the
+/// race's clock is kept in step with; until it is known they are stamped with `messzeit`.
 class at2560 final : public messgeraet {
 public:
     struct umgebung {
@@ -35,6 +37,7 @@ public:
         const texte& txt;
         const dateien& ablage;
         ereignis_tabelle& ereignisse;
+        zeitbasis& zeit;
         const plattform::uhr& uhr;
         plattform::zeitgeber_dienst& zeitgeber;
         plattform::serienport_dienst& serienports;
@@ -76,10 +79,12 @@ public:
 
 private:
     bool µC_MSCOMM_settings_setzen();
-    void empfangen(std::string_view bytes);
+    void empfangen(std::string_view bytes, zeit_ms stempel);
     void port_schliessen();
     void verloren_melden();
     void uhr_vergessen();
+    at_uhr::moment bei_ankunft() const;
+    void uhr_nachstellen(zeit_ms geraetezeit);
     zeit_ms stempel_von(zeit_ms geraetezeit);
     bool µC_neuer_befehl() { return empfang_.µC_neuer_befehl(profil_); }
     void µC_wert_zerlegen();
@@ -94,9 +99,11 @@ private:
     std::unique_ptr<plattform::zeitgeber> tmr_µportopen_;
     at_profil profil_;
     at_empfang empfang_;
+    zeit_ms angekommen_ = 0;  ///< machine's clock: the last bytes were there
+    at_uhr geraeteuhr_;
     zeit_ms letzte_zeit_ = 0;     ///< of the last event on the unit's clock
     zeit_ms versatz_davor_ = 0;   ///< before the clock began anew, until the next event bears that out; 0 none
-    zeit_ms at_zeitversatz_ = 0;  ///< what the machine's counter is ahead of the unit's clock; 0 until it is known
+    zeit_ms at_zeitversatz_ = 0;  ///< what the race's clock is ahead of the unit's; 0 until it is known
     zeit_ms letzte_abfrage_ = 0;
     bool im_rennen_ = false;   ///< between its start and its end
     bool gewuenscht_ = false;  ///< open, or to be opened as soon as it is there

@@ -31,6 +31,8 @@ public:
     /// That clock turns out to stand at `geraetezeit` now, and to run `gang` ms in each of the machine's. The reading
     /// does not go back for it: it waits.
     void nachstellen(zeit_ms geraetezeit, double gang) { tun(eingang::nachstellen, geraetezeit, gang); }
+    /// Its milliseconds in one of the machine's.
+    double gang() const { return gang_; }
     /// A device has told its time: stamps that differ begin anew.
     void zaehler_zuruecksetzen() { tun(eingang::zaehler, 0, 0); }
     /// The device's clock stands for itself, until it is released: nothing is added to its stamps.

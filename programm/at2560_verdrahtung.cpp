@@ -12,8 +12,8 @@ namespace tarvel {
 
 at2560_verdrahtung::at2560_verdrahtung(const geraete_umgebung& um, messgeraete& alle)
     : geraet_mit_fenster(um, alle),
-      at({um.einst, um.txt, um.ablage, um.ereignisse, um.dienste.uhr, um.dienste.zeitgeber, um.dienste.serienports,
-          um.dienste.meldungen, alle.rennverbindung(), alle}),
+      at({um.einst, um.txt, um.ablage, um.ereignisse, um.rennen.zeit, um.dienste.uhr, um.dienste.zeitgeber,
+          um.dienste.serienports, um.dienste.meldungen, alle.rennverbindung(), alle}),
       uart_einstellungen({um.einst, um.txt, um.ablage, um.fenster, um.dienste.meldungen, um.dienste.zeitgeber,
                           um.dienste.serienports}),
       uart_profildatei({um.ablage, um.txt, um.fenster, um.dienste.meldungen}),

@@ -281,6 +281,75 @@ TEST_F(At2560, VersatzWirdJeRennenEinmalGeholt) {
     EXPECT_EQ(meldet("1500"), jetzt() + 500);
 }
 
+/// A small board's clock is wrong by seconds in half an hour. What lies beside a pause or the end by the machine's
+/// clock must lie there by the unit's.
+TEST_F(At2560, DieUhrDesRennensGehtMitDerDesGeraets) {
+    a.t.p.einst.zielmodus_erster = false;
+    a.t.p.einst.chaosampel_an = false;
+    a.t.p.form1.wertmin.eingeben("1");
+    a.oeffnen();
+    for (const double gang : {0.985, 1.0, 1.005}) {
+        SCOPED_TRACE(gang);
+        a.geraet.oeffnen();  // nobody knows this clock yet
+        a.t.p.rennen.zeit.freigeben();
+        a.t.maschine.laufen(at_bootzeit.count());
+        a.t.starten("Zeit", "30", {1, 2, 3, 4});
+        const zeit_ms beginn = jetzt();
+        const auto auf_der_uhr = [&](zeit_ms wann) {
+            return 50000 + std::llround(static_cast<double>(wann - beginn) * gang);
+        };
+        const auto faehrt = [&](int spur, zeit_ms wann) {
+            const std::array<const char*, 4> sensor{":S13,", ":S11,", ":S9,", ":S7,"};
+            a.sagt(sensor.at(feld_index(spur)) + std::to_string(auf_der_uhr(wann)) + ";");
+            a.t.maschine.laufen(2);
+        };
+        a.sagt(":T,50000;");
+        int nummer = 0;
+        const auto fahren = [&](zeit_ms dauer) {
+            for (const zeit_ms bis = jetzt() + dauer; jetzt() < bis; ++nummer) {
+                a.t.maschine.laufen(1498);
+                faehrt(nummer % 4 + 1, jetzt() - nummer * 7 % 13);
+            }
+        };
+        fahren(zeit_ms{10} * 60 * 1000);
+        const std::array<int, 2> vorher{a.t.runden(1), a.t.runden(2)};
+        a.t.bahn().Command3.klicken();
+        const zeit_ms pause_ab = jetzt();
+        a.t.maschine.laufen(120000);
+        a.t.bahn().Command3.klicken();
+        const zeit_ms weiter = jetzt();
+        a.t.maschine.laufen(8);
+        faehrt(1, weiter - 150);
+        a.t.maschine.laufen(145);
+        faehrt(2, weiter + 150);
+        EXPECT_EQ(a.t.runden(1), vorher[0]) << "in the pause";
+        EXPECT_EQ(a.t.runden(2), vorher[1] + 1) << "behind it";
+        const zeit_ms pause = auf_der_uhr(weiter) - auf_der_uhr(pause_ab);
+        a.t.maschine.laufen(6000);
+        fahren(zeit_ms{18} * 60 * 1000);
+        while (!a.t.p.rennen.zeitgeber.nachlauftimer1->laeuft()) {
+            a.t.maschine.laufen(1);
+        }
+        const zeit_ms ende = jetzt();
+        EXPECT_NEAR(static_cast<double>(auf_der_uhr(ende) - auf_der_uhr(beginn) - pause), 30.0 * 60 * 1000, 25);
+        faehrt(3, ende - 150);
+        EXPECT_FALSE(a.t.spur(3).ziel_erreicht) << "it still has to drive its lap";
+        a.t.maschine.laufen(150);
+        faehrt(4, ende + 150);
+        EXPECT_TRUE(a.t.spur(4).ziel_erreicht);
+        const rundenkonto& konto = a.t.p.rennen.zustand.konto;
+        for (int runde = 1; runde <= a.t.runden(1); ++runde) {
+            const zeit_ms uhr = konto.stempel(1, runde) - konto.stempel(1, runde - 1) - konto.pause(1, runde);
+            EXPECT_EQ(rundenzeit(1, runde), uhr);
+            EXPECT_NEAR(static_cast<double>(uhr), runde == vorher[0] + 1 ? 12000 * gang : 6000 * gang,
+                        runde == vorher[0] + 1 ? 9000 : 30);
+        }
+        EXPECT_EQ(a.t.p.rennen.zeit.gang() == 1, gang == 1) << "a clock that is right is left alone";
+        EXPECT_EQ(test::nachrechnen(a.t.p, a.t.maschine), "");
+        a.t.p.fenster.entladen(fenstername::bahn1);
+    }
+}
+
 TEST_F(At2560, FruehstartWirdErkannt) {
     at_profil p;
     p.at_ereignis.at(at_zeile::tanken_ein(1)) = "e7";

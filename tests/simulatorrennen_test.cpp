@@ -62,6 +62,22 @@ struct Simulatorrennen : testing::Test {
         t.p.einst.cu.cu_sondermodus = true;
         anschliessen(std::make_unique<simulator::control_unit>(einst));
     }
+    void at2560_anschliessen(int gang_ppm) {
+        simulator::at2560_einstellung einst;
+        einst.rennen.wagen.resize(6);
+        einst.rennen.saat = 5;
+        einst.rennen.uhr_start = 123456789;
+        einst.rennen.gang_ppm = gang_ppm;
+        einst.bootzeit = 1500;
+        zeichen_je_ms = 6;
+        t.maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
+        t.p.einst.hardware = {};
+        t.p.einst.hardware.hw_uart = true;
+        t.p.einst.uart.uart_port = com_der_leitung;
+        anschliessen(std::make_unique<simulator::at2560>(einst));
+        geraet->verbunden();
+        laufen(4000);
+    }
     void pause_machen(zeit_ms dauer) {
         t.bahn().Command3.klicken();
         laufen(dauer);
@@ -207,21 +223,27 @@ TEST_F(Simulatorrennen, EinVerfaelschterSatzFehltUndVerschiebtNichts) {
 }
 
 TEST_F(Simulatorrennen, At2560DreissigMinuten) {
-    simulator::at2560_einstellung einst;
-    einst.rennen.wagen.resize(6);
-    einst.rennen.saat = 5;
-    einst.rennen.uhr_start = 123456789;
-    einst.bootzeit = 1500;
-    zeichen_je_ms = 6;
-    t.maschine.datei_schreiben("tvk_at2560.uart", simulator::at2560_profil());
-    t.p.einst.hardware = {};
-    t.p.einst.hardware.hw_uart = true;
-    t.p.einst.uart.uart_port = com_der_leitung;
-    anschliessen(std::make_unique<simulator::at2560>(einst));
-    geraet->verbunden();
-    laufen(4000);
+    at2560_anschliessen(0);
     rennen_fahren("30");
     vergleichen(30);
+}
+
+TEST_F(Simulatorrennen, EineSchiefeUhrEinesAt2560VerschiebtKeineRunde) {
+    for (const int gang_ppm : {-15000, 5000}) {
+        at2560_anschliessen(gang_ppm);
+        starten("8");
+        laufen(35000);  // nothing is known of its clock yet
+        pause_machen(300000);
+        laufen(60000);
+        for (const zeit_ms dauer : {300, 2300, 7000}) {
+            leitung_stockt(dauer);
+            laufen(15000);
+        }
+        pause_machen(300000);
+        laufen(zeit_ms{8} * 60 * 1000);
+        vergleichen(8);
+        rennen_verlassen();
+    }
 }
 
 struct ftdi_kabel {

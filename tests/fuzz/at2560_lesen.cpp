@@ -26,8 +26,8 @@ bool at2560_hoeren(werkbank& bank, const std::string& bytes) {
     const plattform::dienste d = bank.t.maschine.dienste();
     geraete_mithoerer gesagt(p.geraete);
     gesagt.ereignisse_weitersagen = false;
-    at2560 geraet(
-        {p.einst, p.txt, p.ablage, p.ereignisse, d.uhr, d.zeitgeber, d.serienports, d.meldungen, gesagt, gesagt});
+    at2560 geraet({p.einst, p.txt, p.ablage, p.ereignisse, p.rennen.zeit, d.uhr, d.zeitgeber, d.serienports,
+                   d.meldungen, gesagt, gesagt});
     fordern(geraet.oeffnen(), "the port is closed");
     in_stuecken(bytes, [&](std::string_view stueck) {
         bank.t.maschine.anschluesse.senden(3, stueck);

@@ -45,7 +45,7 @@ struct at2560_aufbau {
     testprogramm t;
     geraete_mithoerer gesagt{t.p.geraete};
     plattform::dienste maschine = t.maschine.dienste();
-    at2560 geraet{{t.p.einst, t.p.txt, t.p.ablage, t.p.ereignisse, maschine.uhr, maschine.zeitgeber,
+    at2560 geraet{{t.p.einst, t.p.txt, t.p.ablage, t.p.ereignisse, t.p.rennen.zeit, maschine.uhr, maschine.zeitgeber,
                    maschine.serienports, maschine.meldungen, gesagt, gesagt}};
 };
 
