@@ -144,11 +144,23 @@ void tk_einstellungen::laden() {
 }
 
 void tk_einstellungen::entladen() {
+    alles_aus();
     debug_beenden();
     Timer1_->aus();
     lampen_->aus();
     leitung_.schliessen();
     geraet_zurueckgeben();
+}
+
+/// What was switched on to be looked at does not stay on.
+void tk_einstellungen::alles_aus() {
+    const auto ausschalten = [](haken& einer) {
+        if (einer.gesetzt()) {
+            einer.umschalten();
+        }
+    };
+    std::for_each(ampel_check.begin(), ampel_check.end(), ausschalten);
+    std::for_each(relais_check.begin(), relais_check.end(), ausschalten);
 }
 
 void tk_einstellungen::melden(std::string_view zeile) {

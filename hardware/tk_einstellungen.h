@@ -92,6 +92,7 @@ private:
     void befehle_verbinden();
     void ausgaenge_verbinden();
     void ansagen();
+    void alles_aus();
     void melden(std::string_view zeile);
     void senden(const std::string& text);
     void erledigt(const tk_befehl& befehl);

@@ -395,6 +395,7 @@ TEST_F(Timekeeper, DasFensterProbiertSchreibtMitUndSpeichert) {
     f.tk_datei.eingeben("klub");
     f.Speichern.klicken();
     EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::timekeeper));
+    EXPECT_NE(gesendet().find("ampelnGRoff,relais4off,"), std::string::npos) << "nothing stays on";
     EXPECT_EQ(t.p.einst.tk.tk_datei, "klub");
     EXPECT_EQ(geraet().profil().tk_sensor_art[13], 34);
     EXPECT_EQ(geraet().profil().modus, spurmodus::digital_143) << "the device is in force again";
