@@ -27,7 +27,7 @@ fahrt rundensumme(const rennergebnis::spur& s, int teil) {
         if (!suche || (suche->beste() == 0 && !s.runden[i - 1].nachgetragen)) {  // a lap of no time is none
             suche.emplace(s.runden[i - 1].nachgetragen);
         }
-        suche->runde(r.zeit, r.nachgetragen);
+        suche->runde(r);
     }
     summe.meter = zentimeter_aus(meter);
     summe.beste = suche ? suche->beste() : 0;

@@ -22,6 +22,9 @@ void ausfall::eintreten(zeit_ms stempel) {
         um_.ereignisse.messzeit = stempel;
         t_.pause.chaos_nachholen();
         t_.zaehlung.runden_auswerten();  // what had come in counts
+        for (const int spur : alle_spuren) {
+            um_.zustand.konto.ausgefallen(spur, stempel);
+        }
     }
     t_.pause.nach_ausfall(stempel);
 }

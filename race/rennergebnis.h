@@ -27,6 +27,7 @@ struct rennergebnis {
         bool nachgetragen = false;                     ///< that crossing was added by the race director
         bool angefangen = false;                       ///< a part of it was driven before the race went on
         int teil = 0;                                  ///< how often the race had gone on when it was closed
+        bool ausfall = false;  ///< the program was away in it, and the car perhaps drove on: `zeit` says little
 
         bool operator==(const runde&) const = default;
     };
@@ -51,10 +52,10 @@ struct rennergebnis {
         std::optional<int> vor_fortsetzung = {};  ///< laps up to this one were driven before the race went on
 
         bool operator==(const spur&) const = default;
-        /// Both crossings of lap 1 to the last were measured: none was added.
-        bool gemessen(std::size_t runde) const {
-            return !runden[runde].nachgetragen && !runden[runde - 1].nachgetragen;
-        }
+        /// One crossing of lap 1 to the last was added: it is a part of what was measured.
+        bool geteilt(std::size_t runde) const { return runden[runde].nachgetragen || runden[runde - 1].nachgetragen; }
+        /// All of it was measured.
+        bool gemessen(std::size_t runde) const { return !geteilt(runde) && !runden[runde].ausfall; }
         int nachgetragene() const {
             return static_cast<int>(
                 std::count_if(runden.begin(), runden.end(), [](const auto& r) { return r.nachgetragen; }));

@@ -2,30 +2,48 @@
 
 #include <algorithm>
 #include <cassert>
+#include <limits>
 #include <utility>
 
 #include "race/bestensuche.h"
 
 namespace tarvel {
+namespace {
+
+constexpr zeit_ms vor_allen_ms = std::numeric_limits<zeit_ms>::min() / 2;
+
+}  // namespace
 
 void rundenkonto::leeren(int spur) {
     spur_[spur] = {};
     speicher_.leeren(spur, 0);
 }
 
-void rundenkonto::zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause) {
+void rundenkonto::zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause, zeit_ms verschoben) {
     assert(runden(spur) < runden_max);
+    spur_konto& konto = spur_[spur];
     const bool angefangen = laufende(spur) > 0 && laufende(spur) <= vor_fortsetzung(spur);
-    speicher_.setzen(spur, laufende(spur), {rundenzeit, stempel, pause, false, angefangen, teil_});
-    ++spur_[spur].runden;
+    // a device may have kept a crossing from before the program was away: that is in the next lap then
+    const bool danach = konto.ausfall_bei && stempel - verschoben >= *konto.ausfall_bei;
+    const bool ausfall = danach || (konto.zurueckgehalten && speicher_.auf(spur, laufende(spur)).ausfall);
+    speicher_.setzen(spur, laufende(spur), {rundenzeit, stempel, pause, false, angefangen, teil_, ausfall});
+    if (danach) {
+        konto.ausfall_bei.reset();
+    }
+    ++konto.runden;
     speicher_.leeren(spur, laufende(spur));
 }
 
 bool rundenkonto::beste_werten(int spur, zeit_ms zeit) {
     spur_konto& konto = spur_[spur];
-    const bool halbe_runde =
-        speicher_.auf(spur, konto.runden - 1).nachgetragen;  // began with a crossing nobody measured
-    if (halbe_runde || (zeit >= konto.beste && konto.runden != 1)) {
+    if (!bestenfaehig(spur, konto.runden)) {
+        return false;
+    }
+    bool erste = konto.runden == 1 || konto.beste == 0;
+    for (int zeile = 1; erste && zeile < konto.runden; ++zeile) {
+        erste = !bestenfaehig(spur, zeile);
+    }
+    if (zeit >= konto.beste && !erste) {
         return false;
     }
     konto.beste = zeit;
@@ -37,13 +55,16 @@ zeit_ms rundenkonto::abziehen(int spur) {
     if (konto.runden == 0) {
         return 0;  // nothing to take off; a lap that is held back stays as it is
     }
-    const zeit_ms frei = konto.runden > 0 ? pause(spur, konto.runden) : 0;
+    const rundenspeicher::runde weg = konto.runden > 0 ? speicher_.auf(spur, konto.runden) : rundenspeicher::runde{};
+    if (weg.ausfall) {  // the lap that takes it in was driven in that time, too
+        konto.ausfall_bei = vor_allen_ms;
+    }
     --konto.runden;
     konto.vor_fortsetzung = std::min(konto.vor_fortsetzung, std::max(konto.runden, 0) + 1);
     speicher_.zeile_kopieren(spur, laufende(spur) + 1, laufende(spur));  // a lap that is held back moves up
     speicher_.leeren(spur, laufende(spur) + 1);
     beste_suchen(spur);
-    return frei;
+    return weg.pause;
 }
 
 zeit_ms rundenkonto::zurueckhalten(int spur) {
@@ -82,7 +103,8 @@ void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>
     const rennergebnis::runde dahinter = runde(spur, laufende(spur));
     int zeile = 0;
     const auto eintragen = [&](const rennergebnis::runde& r) {
-        speicher_.setzen(spur, zeile++, {r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen, r.angefangen, r.teil});
+        speicher_.setzen(spur, zeile++,
+                         {r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen, r.angefangen, r.teil, r.ausfall});
     };
     std::for_each(runden.begin(), runden.end(), eintragen);
     const int vorher = std::exchange(konto.runden, zeile - 1);
@@ -97,13 +119,23 @@ void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>
 void rundenkonto::beste_suchen(int spur) {
     bestensuche suche(speicher_.auf(spur, 0).nachgetragen);
     for (int zeile = 1; zeile <= runden(spur); ++zeile) {
-        suche.runde(rundenzeit(spur, zeile), speicher_.auf(spur, zeile).nachgetragen);
+        suche.runde(speicher_.auf(spur, zeile));
     }
     spur_[spur].beste = suche.beste();
 }
 
 void rundenkonto::fortsetzen(int spur, bool unterwegs) {
     spur_[spur].vor_fortsetzung = std::max(unterwegs ? laufende(spur) : runden(spur), 0);
+    if (!unterwegs) {
+        spur_[spur].ausfall_bei.reset();
+    }
+}
+
+void rundenkonto::stempel_verschieben(zeit_ms um) {
+    speicher_.stempel_verschieben(um);
+    for (spur_konto& konto : spur_) {
+        konto.ausfall_bei = konto.ausfall_bei ? std::optional(*konto.ausfall_bei + um) : std::nullopt;
+    }
 }
 
 void rundenkonto::fahrer_umsetzen(const spuren<int>& herkunft) {

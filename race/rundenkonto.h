@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "core/spuren.h"
@@ -32,7 +33,7 @@ public:
     /// The row as a result has it, without sectors and metres.
     rennergebnis::runde runde(int spur, int zeile) const {
         const rundenspeicher::runde r = speicher_.auf(spur, zeile);
-        return {r.zeit, {}, r.pause, r.stempel, 0, r.nachgetragen, r.angefangen, r.teil};
+        return {r.zeit, {}, r.pause, r.stempel, 0, r.nachgetragen, r.angefangen, r.teil, r.ausfall};
     }
 
     /// A new race begins with its first part.
@@ -41,8 +42,11 @@ public:
     void leeren(int spur);
     /// The stamp from which the lane's first lap is timed until a crossing starts the count.
     void start_stempeln(int spur, zeit_ms stempel) { speicher_.setzen(spur, 0, {0, stempel}); }
-    /// Counts a crossing. Nobody counts beyond `runden_max`.
-    void zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause);
+    /// Counts a crossing. Nobody counts beyond `runden_max`. `verschoben`: so much earlier than its stamp it was
+    /// driven.
+    void zaehlen(int spur, zeit_ms rundenzeit, zeit_ms stempel, zeit_ms pause, zeit_ms verschoben = 0);
+    /// The program has been away since `stempel`, in the lap that the lane was in.
+    void ausgefallen(int spur, zeit_ms stempel) { spur_[spur].ausfall_bei = stempel; }
     /// The lane's last lap counts as `zeit`. True if that is its best one now; the first lap always is.
     bool beste_werten(int spur, zeit_ms zeit);
 
@@ -68,7 +72,7 @@ public:
     /// The crossing that was counted last was `um` ms later than it was stamped.
     void letzten_stempel_verschieben(int spur, zeit_ms um);
     /// All stamps move by `um` ms.
-    void stempel_verschieben(zeit_ms um) { speicher_.stempel_verschieben(um); }
+    void stempel_verschieben(zeit_ms um);
 
 private:
     struct spur_konto {
@@ -76,7 +80,13 @@ private:
         int vor_fortsetzung = 0;
         zeit_ms beste = 0;
         bool zurueckgehalten = false;
+        std::optional<zeit_ms> ausfall_bei;  ///< the program was away in the lap that it is in
     };
+
+    /// So long as no crossing shows otherwise, the lap is one that can be the best.
+    bool bestenfaehig(int spur, int zeile) const {
+        return !speicher_.auf(spur, zeile).ausfall && !speicher_.auf(spur, zeile - 1).nachgetragen;
+    }
 
     void beste_suchen(int spur);
 

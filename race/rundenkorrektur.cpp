@@ -34,6 +34,7 @@ bool loeschen(spurteil& s, int nummer) {
     davor.pause = davor.pause.value_or(0) + weg->pause.value_or(0);
     davor.stempel = weg->stempel;
     davor.nachgetragen = weg->nachgetragen;
+    davor.ausfall = davor.ausfall || weg->ausfall;
     for (std::size_t i = 0; i < davor.sektoren.size(); ++i) {
         davor.sektoren.at(i) += weg->sektoren.at(i);
     }
@@ -70,7 +71,8 @@ bool teilen(spurteil& s, const korrektur& k, const grenze& g) {
     ganze->zeit -= k.zeit;
     ganze->pause = pause - k.pause;
     ganze->sektoren = {};  // nobody knows on which side of the crossing they were
-    s.runden.insert(ganze, {k.zeit, {}, k.pause, k.stempel, ganze->meter, true, ganze->angefangen, ganze->teil});
+    s.runden.insert(
+        ganze, {k.zeit, {}, k.pause, k.stempel, ganze->meter, true, ganze->angefangen, ganze->teil, ganze->ausfall});
     if (s.vor_fortsetzung && k.runde <= *s.vor_fortsetzung) {
         ++*s.vor_fortsetzung;
     }
@@ -96,7 +98,7 @@ void ableiten(spurteil& s) {
     s.gesamtzeit = dauer_ms(s.strafzeit.value_or(0s)).count();
     s.meter = s.restmeter;
     for (std::size_t i = 1; i < s.runden.size(); ++i) {
-        suche.runde(s.runden[i].zeit, s.runden[i].nachgetragen);
+        suche.runde(s.runden[i]);
         s.gesamtzeit += s.runden[i].zeit;
         s.meter += s.runden[i].meter;
     }

@@ -24,6 +24,7 @@ public:
         bool nachgetragen = false;  ///< the crossing that closes the lap was added later
         bool angefangen = false;    ///< a part of it was driven before the race went on
         int teil = 0;               ///< how often the race had gone on when it was closed
+        bool ausfall = false;       ///< the program was away in it, and the car perhaps drove on: `zeit` says little
     };
 
     runde auf(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile)[spur] : runde{}; }

@@ -119,7 +119,7 @@ void rundenzaehlung::zaehlen(int spur, zeit_ms zeit, const ereignis_zeile& ereig
     if (!voll) {
         zeit = std::max<zeit_ms>(zeit - zustand.pause_abzug, 0);
         t_.sektor.letzten_sektor_speichern(spur, konto.laufende(spur), stempel, zustand.pause_abzug);
-        konto.zaehlen(spur, zeit, stempel, std::exchange(zustand.pause_abzug, 0));
+        konto.zaehlen(spur, zeit, stempel, std::exchange(zustand.pause_abzug, 0), ereignis.verschoben);
     }
     um_.protokoll.vermerken(vermerk::runde, {spur, konto.runden(spur), zeit, stempel});
     // Told late, a crossing from before the end is no finish. Also with the account full the car can still come home.

@@ -267,8 +267,10 @@ std::string auswertung::rundenzeile(const rennergebnis::spur& s, std::size_t run
     }
     if (s.runden[runde].nachgetragen) {
         zeile += " +";
-    } else if (!s.gemessen(runde)) {
+    } else if (s.geteilt(runde)) {
         zeile += " (" + wort_.geteilt + ")";
+    } else if (s.runden[runde].ausfall) {
+        zeile += " (" + wort_.ausfall + ")";
     }
     return zeile;
 }

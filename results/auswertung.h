@@ -165,7 +165,7 @@ private:
         std::string ergebnis;    ///< names its page
         std::string abstand;     ///< explains the gap to the leader
         std::string gesamtzeit;  ///< and what the total time is
-        std::string zurueck, wieder, nachgetragen, geteilt, nachtrag_waehlen, hinter_dem_ziel;
+        std::string zurueck, wieder, nachgetragen, geteilt, ausfall, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
         std::string folge;                   ///< in front of the order that the race window does not show
         std::string folge_ab_erster;         ///< the same where it is the own first crossing that makes it

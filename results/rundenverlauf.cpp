@@ -16,7 +16,7 @@ std::vector<verlaufsrunde> runden_lesen(const rennergebnis::spur& spur) {
     for (std::size_t i = 1; i < spur.runden.size(); ++i) {
         if (spur.runden[i].zeit > 0) {
             runden.push_back(
-                {static_cast<int>(i), spur.runden[i].zeit, spur.runden[i].pause.value_or(0), !spur.gemessen(i)});
+                {static_cast<int>(i), spur.runden[i].zeit, spur.runden[i].pause.value_or(0), spur.geteilt(i)});
         }
     }
     return runden;

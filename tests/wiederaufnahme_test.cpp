@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "results/beste_zeiten_fenster.h"
 #include "tests/plattform/neustart.h"
 #include "tests/wettkampfabend_probe.h"
 
@@ -301,6 +302,69 @@ TEST_F(Wiederaufnahme, AuchNachEinemAusfallImRennenKommtSeinErgebnisWieder) {
     ASSERT_TRUE(noch_einmal.p.fenster.ist_offen(fenstername::auswertung))
         << testing::PrintToString(noch_einmal.maschine.meldungen_gezeigt);
     EXPECT_EQ(noch_einmal.lauf().zustand.konto.runden(1), 2);
+}
+
+/// The cars drove on while nobody counted: what is left of that lap may be far shorter than any.
+TEST_F(Wiederaufnahme, DieRundeInDerDasProgrammWegWarIstKeineBeste) {
+    t_.starten("Runden", "12", {1, 2});
+    t_.runde_nach(4000, "12");
+    t_.runde_nach(5000, "1");
+    t_.maschine.laufen(700);
+
+    const auto tasten = [](neustart& n, const std::string& welche) {
+        for (const char taste : welche) {
+            n.p.rennen.befehle.taste(taste);
+        }
+        n.maschine.laufen(1);
+    };
+    neustart danach(t_, protokoll_von(t_));
+    danach.p.starten();
+    danach.weiter();
+    danach.maschine.laufen(1500);
+    tasten(danach, "12");
+    const rundenkonto& konto = danach.lauf().zustand.konto;
+    EXPECT_LT(konto.rundenzeit(1, 2), 2500) << "it counts as it is";
+    EXPECT_EQ(konto.beste(1), 5000);
+    EXPECT_EQ(konto.beste(2), 0);
+    danach.maschine.laufen(7999);
+    tasten(danach, "12");
+    EXPECT_EQ(konto.beste(1), 5000);
+    EXPECT_EQ(konto.beste(2), 8000) << "the first that was measured";
+    danach.maschine.laufen(500);
+
+    std::string datei = danach.p.rennprotokoll.dateiname();
+    std::replace(datei.begin(), datei.end(), '\\', '/');
+    neustart noch_einmal(t_, danach.maschine.datei_lesen(datei), 30000);
+    noch_einmal.p.starten();
+    ASSERT_EQ(noch_einmal.lauf().zustand.konto.beste(2), 8000);
+    noch_einmal.weiter();
+    noch_einmal.maschine.laufen(1500);
+    tasten(noch_einmal, "12");
+    noch_einmal.maschine.laufen(6999);
+    tasten(noch_einmal, "12");
+    noch_einmal.maschine.laufen(300);
+    noch_einmal.p.rennen.endfrage.bestaetigen();
+    auswertung& a = noch_einmal.p.auswertung;
+    const auto angebot = [&](int spur) { return bestzeit_angebote(noch_einmal.p.wertung.ergebnis())[spur].runden; };
+    EXPECT_EQ(angebot(1), (std::vector<zeit_ms>{5000, 8000, 7000}));
+    EXPECT_EQ(angebot(2), (std::vector<zeit_ms>{8000, 7000}));
+    EXPECT_EQ(noch_einmal.p.wertung.ergebnis().auf(2)->beste, 7000);
+    EXPECT_TRUE(a.liste[1].zeilen()[0].ends_with(" (Ausfall)"));
+
+    a.liste[1].auswaehlen(3);  // the 7000 becomes a part of the lap before
+    a.Command8.klicken();
+    EXPECT_EQ(noch_einmal.p.wertung.ergebnis().auf(2)->beste, 8000);
+    a.neues_ziel.eingeben("20");
+    a.Command3.klicken();  // the drivers change lanes
+    noch_einmal.weiter();
+    tasten(noch_einmal, "12");
+    noch_einmal.maschine.laufen(8999);
+    tasten(noch_einmal, "12");
+    noch_einmal.p.rennen.endfrage.bestaetigen();
+    EXPECT_EQ(noch_einmal.p.wertung.ergebnis().auf(1)->beste, 8000);
+    EXPECT_EQ(noch_einmal.lauf().zustand.konto.beste(1), 8000);
+    a.Command5.klicken();
+    EXPECT_EQ(test::nachrechnen(noch_einmal.p, noch_einmal.maschine), "");
 }
 
 TEST_F(Wiederaufnahme, NachEinemSpurwechselBleibtJedemFahrerWasErAufDerSpurDavorFuhr) {
