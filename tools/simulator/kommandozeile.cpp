@@ -158,7 +158,7 @@ void gemeinsame_optionen(kommandozeile& zeile, int spuren_max, flotte& wagen, re
                [&](std::int64_t n) { rennen.saat = static_cast<std::uint64_t>(n); });
     zeile.zahl("--uhr", "MS", 0, UINT32_MAX, "Stand der Geräteuhr am Anfang (0)",
                [&](std::int64_t n) { rennen.uhr_start = n; });
-    zeile.zahl("--gang", "PPM", -10000, 10000, "so viele Millionstel geht die Geräteuhr vor (0)",
+    zeile.zahl("--gang", "PPM", -20000, 20000, "so viele Millionstel geht die Geräteuhr vor (0)",
                [&](std::int64_t n) { rennen.gang_ppm = static_cast<int>(n); });
     zeile.zahl("--dauer", "SEKUNDEN", 0, tag_s, "danach endet der Simulator, sonst mit Strg+C",
                [&](std::int64_t n) { lauf.dauer_s = static_cast<int>(n); });
