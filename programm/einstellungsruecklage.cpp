@@ -25,6 +25,11 @@ bool einstellungsruecklage::solange(std::vector<fenstername> offen, felder wie, 
     return true;
 }
 
+void einstellungsruecklage::aufgeben() {
+    schichten_.clear();
+    takt_->aus();
+}
+
 /// The lines that waited, and over them those that have been changed meanwhile.
 std::vector<std::string> einstellungsruecklage::ueberlagert(const schicht& unten, std::vector<std::string> zeilen) {
     const std::vector<std::string>& davor = unten.davor.zeilen;

@@ -37,6 +37,10 @@ public:
     /// `holen` brings others into force. They go as soon as none of these windows is open any more, or at once if it
     /// says false, which is passed on.
     bool solange(std::vector<fenstername> offen, felder wie, const std::function<bool()>& holen);
+    /// The windows may have closed just now.
+    void abgelaufene_zurueckstellen();
+    /// What is in force now stays: the operator himself has loaded it.
+    void aufgeben();
     /// The same lines as a settings file is to hold them: without what is in force for now only.
     std::vector<std::string> fuer_die_datei(std::vector<std::string> in_kraft) const;
 
@@ -56,7 +60,6 @@ private:
 
     stand in_kraft() const { return {um_.datei.festhalten(), um_.belegung}; }
     static std::vector<std::string> ueberlagert(const schicht& unten, std::vector<std::string> zeilen);
-    void abgelaufene_zurueckstellen();
     void zurueckstellen();
 
     umgebung um_;

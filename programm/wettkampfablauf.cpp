@@ -50,6 +50,9 @@ void wettkampfablauf::laden() {
         uebernehmen == antwort::ja ? einstellungen_aus_datei::uebernehmen : einstellungen_aus_datei::lassen;
     um_.speicher.laden_von([this, wie](const std::string& pfad) {
         if (laden(pfad, wie)) {
+            if (wie == einstellungen_aus_datei::uebernehmen) {
+                um_.ruecklage.aufgeben();
+            }
             return true;
         }
         um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler, um_.txt.titel[1]);
@@ -107,6 +110,7 @@ void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::str
         um_.fenster.zeigen(fenstername::wettkampf1, anzeige_art::modal);
     } else {
         um_.fenster.entladen(fenstername::wettkampf1);
+        um_.ruecklage.abgelaufene_zurueckstellen();
         um_.fenster.zeigen(fenstername::Form1);
     }
 }

@@ -141,7 +141,6 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     t.maschine.laufen(1000);
     EXPECT_EQ(neu.einst.tank_inhalt, 44);
     neu.wettkampf2.Command5.klicken();
-    t.maschine.laufen(1000);
     EXPECT_EQ(neu.einst.tank_inhalt, sonst);
     EXPECT_EQ(neu.einst.sound_an, ton);
     EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
