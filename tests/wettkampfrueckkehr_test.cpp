@@ -146,6 +146,34 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
 }
 
+TEST_F(Wettkampfrueckkehr, DasFinaleHatDieEinstellungenSeinesQualifyings) {
+    t.p.einst.tank_inhalt = 44;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    abend.aendern([](wettkampf& w) { return w.qualifying_an = true; });
+    t.maschine.antwort = true;
+    for (const bool geladen : {false, true}) {
+        programm neu(t.maschine.dienste());
+        neu.starten();
+        ASSERT_TRUE(neu.wettkampfabend.wettkampf_aktiv());
+        t.p.ablage.kopieren(laufender_wettkampf, "Ergebnisse\\Wettkampf-Zwischenstand\\Abend.wta");
+        neu.wettkampf2.Command5.klicken();
+        ASSERT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf1));
+        t.maschine.laufen(1000);
+        EXPECT_EQ(neu.einst.tank_inhalt, 44);
+        if (geladen) {
+            t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+            neu.wettkampf1.Command9.klicken();
+            neu.rundenspeichern.dateiliste.auswaehlen(0);
+            neu.rundenspeichern.Command1.klicken();
+            ASSERT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf2));
+            neu.wettkampf2.Command5.klicken();
+        }
+        neu.wettkampf1.Command4.klicken();
+        t.maschine.laufen(1000);
+        EXPECT_EQ(neu.einst.tank_inhalt == 44, geladen) << "as the operator has loaded them, or those from before";
+    }
+}
+
 TEST_F(Wettkampfrueckkehr, DasTempoDesAbendsHatSeinePausenUndUeberlebtDasProgramm) {
     beginnen(wettkampf_modus::rotation, 4, {1, 2});
     rennen_fahren();
