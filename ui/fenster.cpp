@@ -227,7 +227,7 @@ bool Fensterverwaltung::taste_schlucken(QObject* ziel, QKeyEvent& taste) {
         seit_schluss_.invalidate();
     }
     const bool druck = taste.type() == QEvent::ShortcutOverride || taste.type() == QEvent::KeyPress;
-    if (druck && galt_anderem(taste.type() == QEvent::KeyPress)) {
+    if (druck && galt_anderem(taste.type() == QEvent::KeyPress) && !(gehoert_dem_rennen && gehoert_dem_rennen(taste))) {
         taste.accept();
         return true;
     }

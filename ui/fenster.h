@@ -81,8 +81,9 @@ public:
     /// A key that is held gives no command again: it was meant once, and for what lay in front of that command. A
     /// letter with Alt is one of a command, also where no command has it, and types nothing. And the second half of a
     /// double click must not hit what lay behind the window that the first half closed. In a window that comes unasked
-    /// no key does anything until the fingers that were busy elsewhere have paused.
+    /// no key does anything until the fingers that were busy elsewhere have paused, but for those of the race.
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+    std::function<bool(const QKeyEvent& taste)> gehoert_dem_rennen;
 
 private:
     bool taste_schlucken(QObject* ziel, QKeyEvent& taste);

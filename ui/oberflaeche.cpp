@@ -6,6 +6,7 @@ namespace tarvel::ui {
 
 Oberflaeche::Oberflaeche(programm& p) : p_(p) {
     p.fenster.anzeigen_auf(&fenster);
+    fenster.gehoert_dem_rennen = [this](const QKeyEvent& taste) { return tasten.gehoert_dem_rennen(taste); };
     QCoreApplication::instance()->installEventFilter(&fenster);
     bahn1.bei_escape = [&p] {  // for a light that is not on the screen
         if (p.startampel.laeuft()) {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <optional>
 
 #include "core/text.h"
 #include "programm/fluegel.h"
@@ -21,6 +22,10 @@ namespace {
 bool nimmt_text(const QWidget* widget) {
     return qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QComboBox*>(widget) != nullptr ||
            qobject_cast<const QAbstractSpinBox*>(widget) != nullptr;
+}
+
+const QWidget* empfaenger_in(const QWidget* fenster) {
+    return fenster->focusWidget() != nullptr ? fenster->focusWidget() : fenster;
 }
 
 /// A message box takes the underlined letters of its buttons without Alt.
@@ -57,7 +62,7 @@ bool Tastenfaenger::eventFilter(QObject* ziel, QEvent* ereignis) {
     const QWidget* vorn = QApplication::activeWindow();
     if (ereignis->type() == QEvent::KeyPress && vorn != nullptr && QApplication::activePopupWidget() == nullptr) {
         // The first receiver only: an ignored key travels on to the parents, and would count again there.
-        const QWidget* empfaenger = vorn->focusWidget() != nullptr ? vorn->focusWidget() : vorn;
+        const QWidget* empfaenger = empfaenger_in(vorn);
         if (ziel == empfaenger && !nimmt_text(empfaenger)) {
             return nehmen(vorn, *static_cast<QKeyEvent*>(ereignis), gehalten);
         }
@@ -65,11 +70,25 @@ bool Tastenfaenger::eventFilter(QObject* ziel, QEvent* ereignis) {
     return QObject::eventFilter(ziel, ereignis);
 }
 
-bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten) {
+bool Tastenfaenger::gehoert_dem_rennen(const QKeyEvent& ereignis) const {
+    const QWidget* vorn = QApplication::activeWindow();
+    return vorn != nullptr && QApplication::activePopupWidget() == nullptr && !nimmt_text(empfaenger_in(vorn)) &&
+           code_fuer(vorn, ereignis);
+}
+
+std::optional<int> Tastenfaenger::code_fuer(const QWidget* vorn, const QKeyEvent& ereignis) const {
     const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
     const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
     const auto code = ansi_code(ereignis.text().toStdString());
     if (!code || strg != alt || !gilt(vorn, *code) || beantwortet(vorn, ereignis)) {  // both together are AltGr
+        return std::nullopt;
+    }
+    return *code;
+}
+
+bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten) {
+    const std::optional<int> code = code_fuer(vorn, ereignis);
+    if (!code) {
         return false;
     }
     if (gehalten) {

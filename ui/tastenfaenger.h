@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 
 #include "programm/programm.h"
 #include "ui/tastenhalt.h"
@@ -24,8 +25,12 @@ public:
     Tastenfaenger(programm& p, const Rennfenster& fenster);
 
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+    /// The key means something to the race where it is typed now: nobody else may keep it back.
+    bool gehoert_dem_rennen(const QKeyEvent& ereignis) const;
 
 private:
+    /// What the race knows it by; none if it is not for the race.
+    std::optional<int> code_fuer(const QWidget* vorn, const QKeyEvent& ereignis) const;
     bool nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten);
     /// Before a race and behind it only its own windows take keys, and late crossings are waited for.
     bool gilt(const QWidget* vorn, int code) const;

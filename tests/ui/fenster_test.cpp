@@ -89,6 +89,21 @@ TEST_F(Oberflaeche, MeldungHaeltKeineUeberfahrtZurueck) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !meldung.isVisible(); }));
 }
 
+TEST_F(Oberflaeche, WerGleichNachDemSiegerKommtZaehltAuchInDasErgebnisDasGeradeAufgeht) {
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(7000, "1");
+    t.maschine.laufen(200);
+    ASSERT_TRUE(o.auswertung.isVisible());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.auswertung));
+    ASSERT_EQ(t.runden(2), 0);
+    QTest::keyClick(o.auswertung.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(o.auswertung.isVisible()) << "it was meant for the race";
+    QTest::keyClick(o.auswertung.focusWidget(), '2');
+    t.maschine.laufen(1000);
+    EXPECT_EQ(t.runden(2), 1);
+}
+
 TEST_F(Oberflaeche, ZweiterDruckAufDieStarttasteBrichtNichtsAb) {
     t.einrichten("Zeit", "5", {1});
     o.takt.ausfuehren();
