@@ -121,8 +121,6 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
         kopf->setColumnStretch(spalte++, breite);
     }
     kopf->setRowStretch(1, 1);
-    constexpr int wert_px = 44;  // also when there is little height to share
-    kopf->setRowMinimumHeight(1, wert_px);
     kopf_ = kopf;
     return kopf;
 }
@@ -327,7 +325,9 @@ void Wettkampf2Fenster::skalieren() {
     const double skala = std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4);
     binder().skala(skala);
     if (kopf_ != nullptr) {
+        constexpr double wert_px = 44;  // also when there is little height to share
         kopf_->setRowMinimumHeight(0, static_cast<int>(std::lround(schrift_klein * skala * zeilenhoehe)));
+        kopf_->setRowMinimumHeight(1, static_cast<int>(std::lround(std::max(wert_px, schrift_nummer * skala))));
     }
     if (plan_ != nullptr) {
         plan_skalieren(skala);
