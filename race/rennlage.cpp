@@ -34,10 +34,11 @@ int rennlage::sekunden_bis_strom(int spur) const {
     return zustand.strom_aus && zaehlt ? sekunden_auf(dauer_ms(fruehstart_.rest()).count()) : 0;
 }
 
-bool rennlage::tankt(int spur) const {
+/// In a pause nothing flows, but who stands on his contact then refuels as soon as it ends: nobody is to wonder why.
+bool rennlage::in_der_box(int spur) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return zustand.tankt_seit != 0 && zustand.tank_kontakt && !um_.zustand.chaos_aktiv &&
-           zustand.tank_inhalt < um_.einst.tank_inhalt;
+    const bool tankt = zustand.tankt_seit != 0 || um_.zustand.chaos_aktiv;
+    return tankt && zustand.tank_kontakt && zustand.tank_inhalt < um_.einst.tank_inhalt;
 }
 
 spurlage rennlage::lage_von(int spur) const {
@@ -64,7 +65,7 @@ spurlage rennlage::lage_von(int spur) const {
     if (zustand.fruehstart_sperre) {
         return {lage::fruehstart, sekunden_bis_strom(spur)};
     }
-    if (tankt(spur)) {
+    if (in_der_box(spur)) {
         const double anteil = zustand.tank_inhalt / um_.einst.tank_inhalt;
         return {lage::box, static_cast<int>(zustand.tank_inhalt), static_cast<int>(std::lround(anteil * 1000))};
     }

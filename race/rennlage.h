@@ -24,7 +24,7 @@ public:
 
 private:
     int sekunden_bis_strom(int spur) const;
-    bool tankt(int spur) const;
+    bool in_der_box(int spur) const;
     /// The best placed lane that is in the race and has begun to count; 0 for none.
     int fuehrende() const;
     void spur_zeigen(int spur, int fuehrende);

@@ -132,6 +132,20 @@ TEST_F(Rennlage, WasNichtZaehltSagtWarumUndNurEinenAugenblick) {
     t.p.form1.wertmin.eingeben("3");
     fahren("Zeit", "5");
     EXPECT_EQ(hinweis(1), "");
+TEST_F(Rennlage, WerInDerPauseAufDenKontaktKommtStehtGleichInDerBox) {
+    t.p.form1.t_aktiv.umschalten();
+    fahren("Zeit", "5");
+    t.spur(2).tank_inhalt = 30;
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(2000);
+    EXPECT_EQ(sagt(2), "PAUSE");
+    t.taste("w");
+    EXPECT_EQ(sagt(2), "BOX 30 l");
+    t.maschine.laufen(3000);
+    EXPECT_EQ(sagt(2), "BOX 30 l") << "in a pause nothing flows";
+    EXPECT_EQ(sagt(1), "PAUSE");
+}
+
     t.runde_nach(853, "1");
     EXPECT_EQ(hinweis(1), "zu kurz 0,853 s");
     EXPECT_EQ(hinweis(2), "");
