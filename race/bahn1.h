@@ -139,7 +139,8 @@ struct bahn1 {
         std::string noch_in_der_box;
         std::string vor_gruen;
         std::string in_der_pause;
-        std::string runde_wartet;  ///< counts behind a penalty
+        std::string noch_ohne_strom;  ///< serves the penalty of its empty tank
+        std::string runde_wartet;     ///< counts behind a penalty
         rueckstand_worte zurueck;
         std::array<std::string, 3> training;  ///< its kinds
     };

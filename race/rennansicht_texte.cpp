@@ -133,8 +133,7 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     for (std::size_t i = 0; i < folgen.size(); ++i) {
         texte.text(folgen.at(i), bahn.wort.fruehstart_folgen.at(i));
     }
-    texte.text("in der Pause", bahn.wort.in_der_pause);
-    return texte;
+    return texte.text("in der Pause", bahn.wort.in_der_pause).text("noch ohne Strom", bahn.wort.noch_ohne_strom);
 }
 
 }  // namespace tarvel

@@ -163,19 +163,25 @@ letzte_ablehnung rennlage::zuletzt_abgelehnt(int spur) const {
     return in_der_pause ? letzte_ablehnung{wartet.ereignis_zeit, ablehnung::pause} : zustand.abgelehnt;
 }
 
+bool rennlage::eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const {
+    constexpr zeit_ms gesagt_ms = 2000;
+    const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
+    return seither >= 0 && seither < gesagt_ms && letzte.stempel > um_.zustand.spur[spur].gezaehlt_bei;
+}
+
 /// Of a crossing that did not count, only where nothing that the lane is in says it already.
 rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
-    constexpr zeit_ms gesagt_ms = 2000;
-    const spur_zustand& zustand = um_.zustand.spur[spur];
     const lage was = um_.bahn.lage[spur].stand().was;
-    if (was == lage::leer && zustand.tank_strafe_aktiv) {
+    const letzte_ablehnung letzte = zuletzt_abgelehnt(spur);
+    const bool eben = eben_abgelehnt(spur, letzte);
+    if (was == lage::leer && um_.zustand.spur[spur].tank_strafe_aktiv) {
+        if (eben && letzte.grund == ablehnung::tankstrafe) {
+            return {spurhinweis::ungezaehlt, letzte.grund};
+        }
         return {um_.zustand.konto.haelt_zurueck(spur) ? spurhinweis::runde_wartet : spurhinweis::keiner};
     }
-    const letzte_ablehnung letzte = zuletzt_abgelehnt(spur);
-    const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
     const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer ||
                       (was == lage::pause && letzte.grund == ablehnung::pause);
-    const bool eben = seither >= 0 && seither < gesagt_ms && letzte.stempel > zustand.gezaehlt_bei;
     if (!frei || !eben || um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
         return {};
     }
@@ -195,6 +201,9 @@ std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     }
     if (g.grund == ablehnung::pause) {
         return wort.in_der_pause;
+    }
+    if (g.grund == ablehnung::tankstrafe) {
+        return wort.noch_ohne_strom;
     }
     return g.grund == ablehnung::volltanken ? wort.noch_in_der_box : wort.vor_gruen;
 }

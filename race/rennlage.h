@@ -59,6 +59,7 @@ private:
         bool operator==(const hinweisgrund&) const = default;
     };
     letzte_ablehnung zuletzt_abgelehnt(int spur) const;
+    bool eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const;
     hinweisgrund hinweis_von(int spur) const;
     std::string hinweis_gesagt(const hinweisgrund& g) const;
     spuren<hinweisgrund> hinweisgrund_{};
