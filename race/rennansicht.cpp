@@ -168,6 +168,8 @@ void rennansicht::bestzeit_anzeige() {
         const bool zeigen =
             um_.param.spur_aktiv[spur] && um_.einst.beste_modus != bestzeit_speicherung::aus && !beste.leer();
         bahn.bestzeit_label[spur].text(zeigen ? bahn.wort.bestzeit + zeit(beste) : std::string());
+        bahn.bestzeit_label[spur].tipp(  // it stands under one driver, and may be another's
+            zeigen ? beste.name + "   " + beste.fahrzeug + "   " + beste.datum : std::string());
         bahn.bestzeit_label[spur].sichtbar(zeigen);
     }
     const bestzeit& rekord = um_.bestzeiten.gesamt();

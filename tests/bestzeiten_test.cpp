@@ -69,6 +69,7 @@ TEST_F(Bestzeiten, GeltenMitDerEinstellungsdateiUndZeigenSichInBeidenFenstern) {
     const bahn1& bahn = p.rennen.bahn1;
     p.form1.Command1.klicken();
     EXPECT_EQ(bahn.bestzeit_label[3].text(), "Best: 00:08,123");
+    EXPECT_EQ(bahn.bestzeit_label[3].tipp(), "Anna   Viper   01.02.2026");
     EXPECT_EQ(bahn.bestzeit_label[2].text(), "");
     EXPECT_EQ(bahn.bestzeit_gesamt.text(), "Bahnrekord: 00:08,123   Anna   01.02.2026");
     p.fenster.entladen(fenstername::bahn1);
