@@ -73,7 +73,7 @@ int spur_des_ereignisses(std::int64_t art) {
 
 }  // namespace
 
-hergangsleser::hergangsleser(rennhergang& h) : h_(h) {
+hergangsleser::hergangsleser(rennhergang& h) : h_(h), ziel_(h.kopf->param.renn_ziel.zahl()) {
     for (const int spur : alle_spuren) {
         fahrer_[spur] = spur;
     }
@@ -179,9 +179,14 @@ void hergangsleser::einordnen(geschehen& g) {
         letzte_runde_[g.spur] = g.nummer;
     } else if (g.was == vorgang::leer && g.nummer == static_cast<int>(leer_aktion::stromunterbrechung)) {
         g.wert = letzte_runde_[g.spur];
+        g.grenze = ist_letzte(g.wert) ? 1 : 0;
     } else if (g.ist_abgelehnt()) {
         g.nach_pause = nach_pause_[g.spur];
     }
+}
+
+bool hergangsleser::ist_letzte(std::int64_t runde) const {
+    return !h_.kopf->param.ist_zeitrennen() && runde == ziel_;
 }
 
 void hergangsleser::tat(std::string_view name, std::string_view rest, bool aussen) {
@@ -201,6 +206,8 @@ void hergangsleser::tat(std::string_view name, std::string_view rest, bool ausse
         anhaengen(vorgang::befehl, 0).nummer = std::distance(std::begin(hergang_befehle), befehl);
         if (name == "umsetzen") {
             umsetzen(rest);
+        } else if (name == "fortsetzen") {
+            ziel_ = zahl(rest).value_or(ziel_);
         }
     } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
         geraet(zahl(rest).value_or(-1));

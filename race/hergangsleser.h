@@ -41,6 +41,7 @@ private:
     /// `aussen`: it does not lie in another, where answers look alike.
     void tat(std::string_view name, std::string_view rest, bool aussen);
     void umsetzen(std::string_view rest);
+    bool ist_letzte(std::int64_t runde) const;
     void verschieben(zeit_ms um);
     /// What crossings have been stamped with is right already.
     void nachruecken(zeit_ms um);
@@ -53,6 +54,7 @@ private:
     std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
     zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
     int nachgerueckt_ = 0;        ///< so often without the crossings
+    std::int64_t ziel_ = 0;       ///< what the race goes for
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};

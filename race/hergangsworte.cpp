@@ -121,6 +121,10 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
     return texte.text(", Runde %1 zählt erst nach der Strafe", runde_wartet_);
 }
 
+sprachliste& hergangsworte::nachtragen(sprachliste& texte) {
+    return texte.text(" und wird um sie länger", und_laenger_);
+}
+
 std::string hergangsworte::dauer(zeit_ms zeit) const {
     constexpr zeit_ms minute_ms = 60 * sekunde_ms;
     return std::abs(zeit) < minute_ms ? sekunden_text(std::max<zeit_ms>(zeit, 0), 3, komma) + " s"
@@ -161,7 +165,8 @@ std::string hergangsworte::von(const geschehen& g) const {
             return ersetzt(g.nummer == 1 ? ohne_strom_ : vorlage, {std::to_string(g.wert)});
         case vorgang::leer:
             return ersetzt(vorlage, {gesucht(leer_, static_cast<int>(g.nummer))}) +
-                   (g.wert > 0 ? ersetzt(runde_wartet_, {std::to_string(g.wert)}) : "");
+                   (g.wert > 0 ? ersetzt(runde_wartet_, {std::to_string(g.wert)}) : "") +
+                   (g.grenze > 0 ? und_laenger_ : "");
         case vorgang::tankt:
         case vorgang::tank_ende:
             return ersetzt(vorlage, {zahl_fest(static_cast<double>(g.nummer) / 100, komma)});

@@ -14,6 +14,8 @@ std::string hergang_zeit(zeit_ms zeit, int stellen, char komma);
 /// What happened, in words that a race director uses.
 struct hergangsworte {
     sprachliste& eintragen(sprachliste& texte);
+    /// What came later, for the end of the list.
+    sprachliste& nachtragen(sprachliste& texte);
 
     /// "Runde 12: 5,432 s", "zu kurz: 3,214 s, gezählt wird ab 5,100 s".
     std::string von(const geschehen& g) const;
@@ -29,7 +31,8 @@ private:
     std::map<ablehnung, std::string> gruende_;
     std::map<int, std::string> leer_;
     std::map<int, std::string> befehle_;
-    std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_, runde_wartet_;
+    std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_, runde_wartet_,
+        und_laenger_;
 };
 
 }  // namespace tarvel

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,6 +29,7 @@ struct rennergebnis {
         bool angefangen = false;                       ///< a part of it was driven before the race went on
         int teil = 0;                                  ///< how often the race had gone on when it was closed
         bool ausfall = false;  ///< the program was away in it, and the car perhaps drove on: `zeit` says little
+        zeit_ms zuschlag = 0;  ///< of the penalty of an empty tank; is in `zeit`. 0 in a result that was read
 
         bool operator==(const runde&) const = default;
     };
@@ -59,6 +61,11 @@ struct rennergebnis {
         int nachgetragene() const {
             return static_cast<int>(
                 std::count_if(runden.begin(), runden.end(), [](const auto& r) { return r.nachgetragen; }));
+        }
+        /// What an empty tank has added to the laps.
+        zeit_ms zuschlag() const {
+            return std::accumulate(runden.begin(), runden.end(), zeit_ms{0},
+                                   [](zeit_ms summe, const runde& r) { return summe + r.zuschlag; });
         }
         int rundenzahl() const { return runden.empty() ? 0 : static_cast<int>(runden.size()) - 1; }
     };

@@ -29,7 +29,8 @@ enum class vorgang {
     strafe,  ///< `wert` in s; `nummer` is 1 if they are without power
     strom_aus,
     strom_an,
-    leer,  ///< `nummer` of the `leer_aktion`; `wert` is the lap that waits for the end of its penalty, 0 for none
+    leer,  ///< `nummer` of the `leer_aktion`; `wert` is the lap that waits for the end of its penalty, 0 for none;
+           ///< `grenze` is 1 if it is the last, which the penalty makes longer
     voll,
     tankt,  ///< `nummer` of hundredths of a litre at the beginning
     tank_ende,

@@ -85,6 +85,7 @@ void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
     rundenspeicher::runde zurueck = speicher_.auf(spur, zeile);
     zurueck.zeit += zuschlag;
     zurueck.stempel += zuschlag;
+    zurueck.zuschlag = zuschlag;
     speicher_.setzen(spur, zeile, zurueck);
     ++spur_[spur].runden;
 }
@@ -103,8 +104,9 @@ void rundenkonto::runden_setzen(int spur, const std::vector<rennergebnis::runde>
     const rennergebnis::runde dahinter = runde(spur, laufende(spur));
     int zeile = 0;
     const auto eintragen = [&](const rennergebnis::runde& r) {
-        speicher_.setzen(spur, zeile++,
-                         {r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen, r.angefangen, r.teil, r.ausfall});
+        speicher_.setzen(
+            spur, zeile++,
+            {r.zeit, r.stempel, r.pause.value_or(0), r.nachgetragen, r.angefangen, r.teil, r.ausfall, r.zuschlag});
     };
     std::for_each(runden.begin(), runden.end(), eintragen);
     const int vorher = std::exchange(konto.runden, zeile - 1);

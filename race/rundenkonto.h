@@ -33,7 +33,7 @@ public:
     /// The row as a result has it, without sectors and metres.
     rennergebnis::runde runde(int spur, int zeile) const {
         const rundenspeicher::runde r = speicher_.auf(spur, zeile);
-        return {r.zeit, {}, r.pause, r.stempel, 0, r.nachgetragen, r.angefangen, r.teil, r.ausfall};
+        return {r.zeit, {}, r.pause, r.stempel, 0, r.nachgetragen, r.angefangen, r.teil, r.ausfall, r.zuschlag};
     }
 
     /// A new race begins with its first part.

@@ -34,6 +34,7 @@ bool loeschen(spurteil& s, int nummer) {
     davor.pause = davor.pause.value_or(0) + weg->pause.value_or(0);
     davor.stempel = weg->stempel;
     davor.nachgetragen = weg->nachgetragen;
+    davor.zuschlag += weg->zuschlag;
     davor.ausfall = davor.ausfall || weg->ausfall;
     for (std::size_t i = 0; i < davor.sektoren.size(); ++i) {
         davor.sektoren.at(i) += weg->sektoren.at(i);

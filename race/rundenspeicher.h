@@ -25,6 +25,7 @@ public:
         bool angefangen = false;    ///< a part of it was driven before the race went on
         int teil = 0;               ///< how often the race had gone on when it was closed
         bool ausfall = false;       ///< the program was away in it, and the car perhaps drove on: `zeit` says little
+        zeit_ms zuschlag = 0;       ///< of the penalty of an empty tank; is in `zeit`
     };
 
     runde auf(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile)[spur] : runde{}; }

@@ -221,7 +221,7 @@ void auswertung::spur_anzeigen(const rennergebnis::spur& s) {
     rueckstandlabel[i].sichtbar(!rueckstandlabel[i].text().empty());
     ges_meter[i].text(text::meter(s));
     kmh_label[i].text(text::tempo(s));
-    aus_straflabel[i].text(text::strafe(s, wort_.strafzeit));
+    aus_straflabel[i].text(text::strafe(s, wort_.strafzeit, blatt.tank_leer, trennzeichen));
     aus_straflabel[i].sichtbar(!aus_straflabel[i].text().empty());
     Frame_tank[i].sichtbar(ergebnis().tanken);
     tankinhalt[i].text(tank_text(s.tankinhalt.value_or(0)) + " l");

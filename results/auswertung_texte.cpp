@@ -71,7 +71,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Ergebnis ab eigener erster Überfahrt:", wort_.folge_ab_erster);
     texte.text("Training", anlass_.training).text("Tagesrennen", anlass_.tagesrennen);
     texte.text("Wettkampf", anlass_.wettkampf);
-    return texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
+    texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
+    return texte.text("Tank leer", blatt.tank_leer);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

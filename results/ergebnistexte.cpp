@@ -118,8 +118,18 @@ std::string anders_auf_der_bahn(const rennergebnis& ergebnis, const spuren<int>&
     return text;
 }
 
-std::string strafe(const spur& s, const std::string& wort) {
-    return s.strafzeit.value_or(0s) > 0s ? wort + ": " + std::to_string(s.strafzeit->count()) + " sec" : std::string();
+std::string strafe(const spur& s, const std::string& wort, const std::string& tank_leer,
+                   const trennzeichen_tabelle& trennzeichen) {
+    std::string text;
+    if (s.strafzeit.value_or(0s) > 0s) {
+        text = wort + ": " + std::to_string(s.strafzeit->count()) + " sec";
+    }
+    if (const zeit_ms zuschlag = s.zuschlag(); zuschlag > 0) {
+        const char komma = trennzeichen[1].empty() ? ',' : trennzeichen[1].front();
+        const std::string sekunden = zahl_text(static_cast<double>(zuschlag) / 1000, komma);
+        text += (text.empty() ? "" : ", ") + tank_leer + ": +" + sekunden + " s";
+    }
+    return text;
 }
 
 }  // namespace tarvel::ergebnistext

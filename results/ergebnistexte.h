@@ -32,7 +32,8 @@ std::string tempo(const spur& s);
 std::string ab_gruen(const rennergebnis& ergebnis, const blatt_worte& wort);
 /// The places of the standing that the race window, by `auf_der_bahn`, shows otherwise; behind `wort`, or empty.
 std::string anders_auf_der_bahn(const rennergebnis& ergebnis, const spuren<int>& auf_der_bahn, const std::string& wort);
-/// Empty without a penalty; `wort` names it.
-std::string strafe(const spur& s, const std::string& wort);
+/// Empty without a penalty; the words name it, and what an empty tank has added to a lap.
+std::string strafe(const spur& s, const std::string& wort, const std::string& tank_leer,
+                   const trennzeichen_tabelle& trennzeichen);
 
 }  // namespace tarvel::ergebnistext

@@ -38,6 +38,7 @@ struct blatt_worte {
     std::string rundenzeiten;
     std::string ab_gruen;         ///< in front of the order from the green light
     std::string nach_fruehstart;  ///< in front of those whose time runs from there
+    std::string tank_leer;        ///< in front of what it has added to the last lap
     rueckstand_worte rueckstand;
 
     /// But for the captions that the result window has too: these it sets itself.

@@ -376,7 +376,8 @@ sprachliste protokollfenster::sprache_pr() {
     texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
     worte_.eintragen(texte);
     texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
-    return texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
+    texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
+    return worte_.nachtragen(texte);
 }
 
 }  // namespace tarvel

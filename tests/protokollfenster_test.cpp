@@ -94,6 +94,21 @@ TEST_F(Protokollfenster, SagtDassEineRundeAufDieTankstrafeWartet) {
     t.p.auswertung.Command_protokoll.klicken();
     nur({f::tanken});
     EXPECT_EQ(zeilen().front(), "2 Tank leer: Strom aus, Runde 1 zählt erst nach der Strafe");
+    EXPECT_EQ(t.p.auswertung.aus_straflabel[1].text(), "");
+}
+
+TEST_F(Protokollfenster, SagtDassDieTankstrafeDieLetzteRundeLaengerMacht) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "2");
+    t.spur(2).tank_inhalt = 1;
+    t.runde_nach(8000, "2");
+    t.maschine.laufen(20000);
+    ASSERT_TRUE(offen(fenstername::auswertung));
+    t.p.auswertung.Command_protokoll.klicken();
+    nur({f::tanken});
+    EXPECT_EQ(zeilen().front(), "2 Tank leer: Strom aus, Runde 1 zählt erst nach der Strafe und wird um sie länger");
 }
 
 TEST_F(Protokollfenster, SpurUndArtWaehlenUndDieWahlBleibt) {

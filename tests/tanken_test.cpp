@@ -141,6 +141,7 @@ TEST_F(Tanken, StrafeInDerLetztenRundeVerlaengertSie) {
     t.maschine.laufen(5001);
     EXPECT_TRUE(t.p.fenster.ist_offen(fenstername::auswertung));
     EXPECT_EQ(t.p.rennen.zustand.konto.rundenzeit(1, 1), 13000);
+    EXPECT_EQ(t.p.auswertung.aus_straflabel[0].text(), "Tank leer: +5 s");
 }
 
 TEST_F(Tanken, LeerVorDerErstenRundeSchenktKeine) {
