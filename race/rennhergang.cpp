@@ -19,9 +19,11 @@ class dauern {
 public:
     void ansehen(geschehen& g) {
         const bool alles = g.was == vorgang::ende || g.was == vorgang::gruen;
+        // a false start has its lane without power beyond the green light
+        const bool alle_mit_strom = (alles && g.seit_gruen != 0) || g.ist_befehl("ampel_abbrechen");
         for (const int spur : alle_spuren) {
             const bool seine = spur == g.spur;
-            if (alles || (seine && (g.was == vorgang::strom_an || g.was == vorgang::ziel))) {
+            if (alle_mit_strom || (seine && (g.was == vorgang::strom_an || g.was == vorgang::ziel))) {
                 schliessen(strom_[spur], g.seit_gruen);
             }
             if (alles || g.was == vorgang::pause || (seine && endet_tanken(g.was))) {
@@ -79,6 +81,11 @@ std::optional<protokollkopf> kopf_aus(protokollleser& zeilen) {
 }
 
 }  // namespace
+
+bool geschehen::ist_befehl(std::string_view name) const {
+    return was == vorgang::befehl && nummer >= 0 && static_cast<std::size_t>(nummer) < std::size(hergang_befehle) &&
+           hergang_befehle[static_cast<std::size_t>(nummer)] == name;
+}
 
 std::string rennhergang::fahrername(const geschehen& g) const {
     return kopf && g.fahrer > 0 && kopf->param.spur_aktiv[g.fahrer] ? kopf->param.fahrer_name[g.fahrer] : "";

@@ -68,6 +68,8 @@ struct geschehen {
 
     ablehnung grund() const { return static_cast<ablehnung>(nummer); }
     bool ist_abgelehnt() const { return was == vorgang::abgelehnt; }
+    /// The command of this name.
+    bool ist_befehl(std::string_view name) const;
 };
 
 /// What happened in a race, read from its log.

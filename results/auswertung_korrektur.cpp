@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 #include "core/text.h"
 #include "core/zahleneingabe.h"
@@ -9,12 +8,6 @@
 
 namespace tarvel {
 namespace {
-
-bool ist_umzug(const geschehen& g) {
-    constexpr std::string_view umzug = "umsetzen";
-    return g.nummer >= 0 && static_cast<std::size_t>(g.nummer) < std::size(hergang_befehle) &&
-           hergang_befehle[static_cast<std::size_t>(g.nummer)] == umzug;
-}
 
 /// The others were no lap, whoever decides about it.
 bool kann_runde_sein(ablehnung grund) {
@@ -186,7 +179,7 @@ offene_runden auswertung::offene_runden_lesen() const {
     const hergangsworte in_worten = hergang_in_worten ? hergang_in_worten() : hergangsworte();
     offene_runden offen;
     for (const geschehen& g : hergang.alle) {
-        if (g.was == vorgang::befehl && ist_umzug(g)) {
+        if (g.ist_befehl("umsetzen")) {
             offen.ueberfahrten.clear();  // were of other drivers
         } else if (g.was == vorgang::weiter) {
             offen.pausen.push_back({g.stempel - g.wert, g.stempel});

@@ -151,6 +151,21 @@ TEST_F(Rennhergang, GruendeInWorten) {
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
 
+TEST_F(Rennhergang, StromlosBisErWiederkommt) {
+    t.starten("Runden", "9", {1, 2});
+    inhalt_ = datei();
+    const rennhergang h = hergang_lesen(protokoll(
+        {"t0 100", ".> StromAus 1", "ampel_abbrechen 300", "t0 500", ".> StromAus 2", "t0 600", ".> Gruen 10000",
+         "t0 5600", ".> StromAn 2", "t0 6600", ".> StromAus 1", "t0 9600", ".> Ende 19000 0"}));
+    std::vector<zeit_ms> bis;
+    for (const geschehen& g : h.alle) {
+        if (g.was == vorgang::strom_aus) {
+            bis.push_back(g.bis);
+        }
+    }
+    EXPECT_EQ(bis, (std::vector<zeit_ms>{-300, 5000, 9000})) << "an aborted light, a false start, the end";
+}
+
 TEST_F(Rennhergang, JedesGehoertDemDerDamalsDortFuhr) {
     t.starten("Runden", "3", {1, 2, 3});
     inhalt_ = datei();
