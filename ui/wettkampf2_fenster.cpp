@@ -16,8 +16,8 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double breite_entwurf = 1000;
-constexpr int fuss_hoehe = 100;   // of the window below the list, and its margins
-constexpr int rand_entwurf = 60;  // pixels of the glance that no line takes
+constexpr int fuss_hoehe = 100;    // of the window below the list, and its margins
+constexpr int rand_entwurf = 100;  // pixels of the glance that no line takes
 constexpr double schrift_klein = 21;
 constexpr double schrift_paarung = 46;
 constexpr double schrift_nummer = 58;
