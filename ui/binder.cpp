@@ -17,6 +17,7 @@
 #include "ui/frageknopf.h"
 #include "ui/listenmodell.h"
 #include "ui/namensergaenzung.h"
+#include "ui/namenszeile.h"
 #include "ui/stil.h"
 #include "ui/umbruchkasten.h"
 
@@ -296,7 +297,11 @@ QComboBox* Binder::auswahlfeld(auswahl& element, const QString& name) {
     verbinden(element, widget, name, [&element, widget] {
         const QSignalBlocker still(widget);
         if (widget->isEditable() != element.frei()) {
-            widget->setEditable(element.frei());
+            if (element.frei()) {
+                widget->setLineEdit(new Namenszeile(widget));
+            } else {
+                widget->setEditable(false);
+            }
             widget->setCompleter(nullptr);  // a name stays as it is typed, also where an entry begins with it
             if (element.frei()) {
                 kuerzung_sagen(widget->lineEdit());
