@@ -120,7 +120,9 @@ std::string wettkampfablauf::frage(const wettkampf& w) const {
     return wort.der_wettkampf + " " + w.wettkampf_name + " " + wort.vom + " " + w.beginn + " " + wort.nicht_beendet;
 }
 
-std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() {
+std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten(bool noch_eines) {
+    using antwort = plattform::dreifache_antwort;
+    const auto& wort = um_.txt.wettkampf;
     using felder = einstellungsruecklage::felder;
     for (const std::string& pfad : um_.speicher.unbeendete()) {
         const auto gelesen = wettkampf_laden(um_.datei, pfad, um_.einst.gruppen, um_.txt,
@@ -128,10 +130,15 @@ std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten() 
         if (!gelesen) {
             continue;
         }
-        const auto will = um_.meldungen.anbieten_mit_ausweg(
-            frage(*gelesen), um_.txt.titel[0], {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.naechstes});
-        if (will == plattform::dreifache_antwort::ja && !wieder_aufnehmen(pfad, felder::zurueck)) {
-            um_.meldungen.zeigen(um_.txt.wettkampf.ladefehler + "\n" + pfad, um_.txt.titel[1]);
+        antwort will = antwort::abbrechen;
+        if (noch_eines) {
+            will = um_.meldungen.anbieten_mit_ausweg(frage(*gelesen), um_.txt.titel[0],
+                                                     {wort.weiterfahren, wort.naechstes});
+        } else if (um_.meldungen.anbieten(frage(*gelesen), um_.txt.titel[0], {wort.weiterfahren, wort.spaeter})) {
+            will = antwort::ja;
+        }
+        if (will == antwort::ja && !wieder_aufnehmen(pfad, felder::zurueck)) {
+            um_.meldungen.zeigen(wort.ladefehler + "\n" + pfad, um_.txt.titel[1]);
         }
         return will;
     }

@@ -44,8 +44,9 @@ public:
     /// An evening that the end of the program has cut off is offered to go on. `rennen` tells of its race that was cut
     /// off with it. True if it goes on.
     bool unterbrochenen_anbieten(const std::string& rennen = {});
-    /// The last evening that was not ended, whenever that was. None if there is none; after a yes it goes on.
-    std::optional<plattform::dreifache_antwort> letzten_anbieten();
+    /// The last evening that was not ended, whenever that was. None if there is none; after a yes it goes on, and a no
+    /// is for what is to be shown after it, if there is something.
+    std::optional<plattform::dreifache_antwort> letzten_anbieten(bool noch_eines);
 
     void beginnen(const wettkampfvorgabe& vorgabe) override;
     void laden() override;

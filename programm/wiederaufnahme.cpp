@@ -167,28 +167,47 @@ void wiederaufnahme::nach_dem_start_anbieten() {
 void wiederaufnahme::anbieten() {
     nach_dem_start_ = false;
     using antwort = plattform::dreifache_antwort;
-    const std::optional<antwort> abend = um_.wettkampf.wettkampfablauf.letzten_anbieten();
+    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, gesucht_max);
+    auto stelle = namen.begin();
+    std::optional<kandidat> k = naechstes_von(stelle, namen.end());
+    const std::optional<antwort> abend = um_.wettkampf.wettkampfablauf.letzten_anbieten(k.has_value());
     if (abend && *abend != antwort::nein) {
         return;
     }
-    const auto& wort = um_.txt.wettkampf;
-    bool eines = abend.has_value();
-    for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
-        const std::optional<kandidat> k = lesen(name);
-        if (!k || !k->stand.fortsetzbar() || k->stand.kopf.teil_von.starts_with(abend_kennung)) {
-            continue;  // that one waits in its evening
-        }
-        eines = true;
-        const antwort will = um_.dienste.meldungen.anbieten_mit_ausweg(frage(k->stand), um_.txt.titel[0],
-                                                                       antworten(k->stand, wort.naechstes));
+    if (!k) {
+        um_.dienste.meldungen.zeigen(um_.txt.wettkampf.keines, um_.txt.titel[0]);
+    }
+    while (k) {
+        std::optional<kandidat> danach = naechstes_von(stelle, namen.end());
+        const antwort will = einzeln_anbieten(*k, danach.has_value());
         if (will == antwort::ja) {
             fortsetzen(*k);
         }
         if (will != antwort::nein) {
             return;
         }
+        k = std::move(danach);
     }
-    um_.dienste.meldungen.zeigen(eines ? wort.kein_weiteres : wort.keines, um_.txt.titel[0]);
+}
+
+std::optional<wiederaufnahme::kandidat> wiederaufnahme::naechstes_von(namensstelle& stelle, namensstelle ende) const {
+    while (stelle != ende) {
+        std::optional<kandidat> k = lesen(*stelle++);
+        if (k && k->stand.fortsetzbar() && !k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+            return k;  // those of an evening wait there
+        }
+    }
+    return std::nullopt;
+}
+
+plattform::dreifache_antwort wiederaufnahme::einzeln_anbieten(const kandidat& k, bool noch_eines) const {
+    const auto& wort = um_.txt.wettkampf;
+    plattform::meldungen& meldungen = um_.dienste.meldungen;
+    if (noch_eines) {
+        return meldungen.anbieten_mit_ausweg(frage(k.stand), um_.txt.titel[0], antworten(k.stand, wort.naechstes));
+    }
+    const bool will = meldungen.anbieten(frage(k.stand), um_.txt.titel[0], antworten(k.stand, wort.spaeter));
+    return will ? plattform::dreifache_antwort::ja : plattform::dreifache_antwort::abbrechen;
 }
 
 bool wiederaufnahme::abgebrochenes_anbieten() {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/form1.h"
 #include "hardware/rennverbindung.h"
@@ -58,7 +59,13 @@ private:
         protokollstand stand;  ///< its lines lie in `inhalt`
     };
 
+    using namensstelle = std::vector<std::string>::const_iterator;
+
     std::optional<kandidat> lesen(const std::string& name) const;
+    /// The first of these logs whose race can go on by itself; `stelle` is behind it then.
+    std::optional<kandidat> naechstes_von(namensstelle& stelle, namensstelle ende) const;
+    /// Says no only if another one is to be shown.
+    plattform::dreifache_antwort einzeln_anbieten(const kandidat& k, bool noch_eines) const;
     /// The race of an evening that has seen its green light last.
     std::optional<kandidat> letztes_abendrennen() const;
     std::string frage(const protokollstand& stand) const;

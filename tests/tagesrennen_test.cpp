@@ -136,7 +136,7 @@ TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichte
     t.p.fenster.entladen(fenstername::Tagesrennen);
     t.p.form1.spur[4].umschalten();
     t.p.form1.fahrer[4].eingeben("Gast");
-    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t.maschine.antwort = true;
     t.p.form1.command_fortsetzen.klicken();
     t.p.k_ampel.Command1.klicken();
     t.maschine.laufen(8000);

@@ -85,7 +85,6 @@ TEST_F(Wettkampfrueckkehr, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter)
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::Form1));
         EXPECT_TRUE(neu.form1.inhalt.aktiviert());
         EXPECT_TRUE(neu.ablage.gibt_es(laufender_wettkampf)) << "the next start offers it again";
-        t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
         neu.form1.command_fortsetzen.klicken();
         EXPECT_EQ(neu.wettkampfabend.stand(), vorher) << "and so does this program";
         neu.wettkampf2.Command5.klicken();
@@ -126,7 +125,6 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     ASSERT_NE(sonst, 44);
     neu.form1.fahrer[0].eingeben("Gast");
     t.maschine.antwort = true;
-    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
     neu.form1.command_fortsetzen.klicken();
     EXPECT_EQ(neu.einst.tank_inhalt, 44);
     neu.wettkampf2.Command7.klicken();  // a driver comes late, and the operator is at the options

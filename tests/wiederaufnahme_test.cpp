@@ -117,7 +117,7 @@ TEST_F(Wiederaufnahme, WerNichtWillWirdNichtNochEinmalGefragtUndKannEsSpaeter) {
     neustart morgen(t_, danach.maschine.datei_lesen("Ergebnisse/Protokoll/2026-11-21 14-03-22.txt"));
     morgen.p.starten();
     EXPECT_TRUE(morgen.maschine.fragen_gestellt.empty());
-    morgen.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    morgen.maschine.antwort = true;
     morgen.p.form1.command_fortsetzen.klicken();
     EXPECT_TRUE(morgen.lauf().zustand.chaos_aktiv);
     EXPECT_EQ(morgen.lauf().zustand.konto.runden(1), 1);
@@ -133,7 +133,7 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     ASSERT_FALSE(t_.p.fenster.ist_offen(fenstername::bahn1));
 
     t_.maschine.laufen(60000);
-    t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t_.maschine.antwort = true;
     t_.p.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1)) << testing::PrintToString(t_.maschine.meldungen_gezeigt);
     EXPECT_TRUE(t_.p.rennen.zustand.chaos_aktiv);
@@ -145,6 +145,24 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     EXPECT_EQ(t_.p.rennen.zustand.konto.rundenzeit(1, 3), 4000);
     t_.rennende();
     EXPECT_EQ(test::nachrechnen(t_.p, t_.maschine), "");
+}
+
+TEST_F(Wiederaufnahme, DasNaechsteWirdNurGezeigtWoEsEinesGibt) {
+    for (const bool zweites : {false, true}) {
+        t_.maschine.antwort = true;
+        t_.starten("Zeit", "10", {1});
+        t_.runde_nach(5000, "1");
+        t_.rennabbruch();
+        t_.maschine.laufen(2000);
+        t_.maschine.fragen_gestellt.clear();
+        t_.maschine.meldungen_gezeigt.clear();
+        t_.maschine.antwort = false;
+        t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;
+        t_.p.form1.command_fortsetzen.klicken();
+        EXPECT_EQ(t_.maschine.fragen_gestellt.size(), zweites ? 2U : 1U);
+        EXPECT_TRUE(t_.maschine.antworten_der_frage.ends_with("/Später")) << t_.maschine.antworten_der_frage;
+        EXPECT_TRUE(t_.maschine.meldungen_gezeigt.empty()) << "no dead end";
+    }
 }
 
 TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
@@ -164,7 +182,7 @@ TEST_F(Wiederaufnahme, WasInzwischenEingestelltWurdeGiltNachDemRennenWieder) {
     t_.p.form1.fahrer[0].eingeben("Gast");
     t_.p.einst.beste_datei = "Clubbahn";
     t_.p.einst.rc.rc_ziel_sensor34 = true;
-    t_.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t_.maschine.antwort = true;
     t_.p.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(t_.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_NE(t_.p.einst.tank_inhalt, 44) << "the race goes on with what it began with";
@@ -411,7 +429,7 @@ TEST_F(Wiederaufnahme, WasBeschaedigtIstWirdNurEinmalAngebotenUndNichtAngeruehrt
     morgen.maschine.datei_schreiben(liste, danach.maschine.datei_lesen(liste));
     morgen.p.starten();
     EXPECT_TRUE(morgen.maschine.fragen_gestellt.empty());
-    morgen.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    morgen.maschine.antwort = true;
     morgen.p.form1.command_fortsetzen.klicken();
     EXPECT_TRUE(morgen.lauf().zustand.chaos_aktiv);
     EXPECT_EQ(morgen.maschine.datei_lesen(name + ".beschaedigt"), protokoll) << "what is cut off may be whole";
@@ -514,7 +532,6 @@ TEST_P(Weggelegt, WartetInSeinemAbend) {
     neu.starten();
     ASSERT_FALSE(neu.wettkampfabend.wettkampf_aktiv());
     t.maschine.antwort = true;
-    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
     neu.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(neu.wettkampfabend.rennen_starten());
     EXPECT_EQ(neu.rennen.zustand.konto.runden(1), GetParam() ? 3 : 1);
