@@ -72,7 +72,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Training", anlass_.training).text("Tagesrennen", anlass_.tagesrennen);
     texte.text("Wettkampf", anlass_.wettkampf);
     texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
-    return texte.text("Tank leer", blatt.tank_leer);
+    texte.text("Tank leer", blatt.tank_leer);
+    return texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {
