@@ -93,7 +93,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                                {ablehnung::prellen, "Kontakt prellt"},
                                {ablehnung::pause, "Pause"},
                                {ablehnung::vor_dem_start, "vor dem Start"}});
-    texte.text("Sperre nach der Pause", sperre_pause_).text(" bis %1 s", bis_);
+    texte.text("Sperre nach der Pause", sperre_pause_).text(" bis %1", bis_);
     texte.text("erste Überfahrt nach %1, ab hier wird gezählt", anlauf_).text(" von Hand", abgebrochen_);
     texte.text("Strafe: %1 s ohne Strom", ohne_strom_).text(" (%1-mal)", mehrmals_).text("ohne Bedeutung", unbelegt_);
     eintragen_alle<int>(texte, leer_,
@@ -135,7 +135,7 @@ std::string hergangsworte::ablehnung_von(const geschehen& g) const {
     const bool nach_pause = g.nach_pause && g.grund() == ablehnung::sperre;
     const std::string grund = nach_pause ? sperre_pause_ : gesucht(gruende_, g.grund());
     const bool mit_bis = g.bis != geschehen::keine && g.grund() != ablehnung::prellen;
-    const std::string bis = mit_bis ? ersetzt(bis_, {sekunden_text(std::max<zeit_ms>(g.bis, 0), 1, komma)}) : "";
+    const std::string bis = mit_bis ? ersetzt(bis_, {hergang_zeit(std::max<zeit_ms>(g.bis, 0), 1, komma)}) : "";
     return ersetzt(grund, {dauer(g.wert), dauer(g.grenze)}) + bis;
 }
 

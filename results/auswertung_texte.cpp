@@ -73,7 +73,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Wettkampf", anlass_.wettkampf);
     texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
     texte.text("Tank leer", blatt.tank_leer);
-    return texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
+    texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
+    return nachtrag.ohne_pausen_nennen(texte);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

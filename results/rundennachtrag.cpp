@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "race/hergangsworte.h"
+
 namespace tarvel {
 namespace {
 
@@ -107,6 +109,16 @@ void rundennachtrag::fuellen(const rennergebnis& ergebnis, offene_runden offen, 
     spur_zeigen(runde);
 }
 
+/// As the log tells it, and as the race's clock, which stands in a pause, would have: nobody has seen the other one.
+std::string rundennachtrag::moment(const abgelehnte_ueberfahrt& u) const {
+    const char komma = trennzeichen_[1].empty() ? ',' : trennzeichen_[1].front();
+    const zeit_ms gestanden = pause_zwischen(offen_.pausen, u.stempel - u.seit_gruen, u.stempel);
+    const std::string im_protokoll = hergang_zeit(u.seit_gruen, 3, komma);
+    return gestanden == 0
+               ? im_protokoll
+               : im_protokoll + " (" + wort_.ohne_pausen + " " + hergang_zeit(u.seit_gruen - gestanden, 3, komma) + ")";
+}
+
 void rundennachtrag::anbieten(const korrektur& k, const rennergebnis::spur& s, const std::string& was) {
     std::string zeile = wort_.runde + " " + std::to_string(k.runde) + ":  " + was + "  →  " + zeit(k.zeit);
     if (k.runde <= s.rundenzahl()) {
@@ -130,7 +142,7 @@ void rundennachtrag::spur_zeigen(int runde) {
         probe.zeit_um = ergebnis_.zeit_um;
         probe.spuren = {*s};
         if (k && korrigieren(probe, *k)) {
-            anbieten(*k, *s, wort_.ueberfahrt + " " + zeit(u.seit_gruen) + ", " + u.grund);
+            anbieten(*k, *s, wort_.ueberfahrt + " " + moment(u) + ", " + u.grund);
         }
     }
     const std::size_t ueberfahrten = moeglich_.size();

@@ -65,11 +65,14 @@ public:
     const std::string& wort_runde() const { return wort_.runde; }
 
     void sprache(sprachliste& texte);
+    /// Behind all others: a file of texts from before has no such line.
+    sprachliste& ohne_pausen_nennen(sprachliste& texte) { return texte.text("ohne Pausen", wort_.ohne_pausen); }
 
 private:
     std::optional<korrektur> gewaehlt() const;
     void spur_zeigen(int runde);
     void anbieten(const korrektur& k, const rennergebnis::spur& s, const std::string& was);
+    std::string moment(const abgelehnte_ueberfahrt& u) const;
     std::string zeit(zeit_ms dauer) const { return zeit_formatieren(dauer, true, trennzeichen_); }
 
     rennergebnis ergebnis_;
@@ -79,7 +82,7 @@ private:
     int spur_ = 0;
     std::vector<korrektur> moeglich_;  ///< one per row of the list
     struct {
-        std::string spur, runde, ueberfahrt, teilen;
+        std::string spur, runde, ueberfahrt, ohne_pausen, teilen;
     } wort_;
 };
 

@@ -143,10 +143,10 @@ TEST_F(Rennhergang, GruendeInWorten) {
                    "verschieben 8000 -500", "t0 9000", ".> Runde 2 12 5432 18500", "ereignis 9100 16 1",
                    "ereignis 9200 16 1", "ereignis 9900 16 1", "# Korrektur Spur 1"}));
     EXPECT_EQ(von(h, 1), (std::vector<std::string>{
-                             "-0:01,000 Frühstart", "0:02,000 Sperre nach Frühstart bis 12,4 s",
-                             "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 13,4 s",
+                             "-0:01,000 Frühstart", "0:02,000 Sperre nach Frühstart bis 0:12,4",
+                             "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 0:13,4",
                              "0:08,600 Gerät meldet Rundenzählung (2-mal)", "0:09,400 Gerät meldet Rundenzählung"}));
-    EXPECT_EQ(von(h, 2), (std::vector<std::string>{"0:04,000 Tankstrafe bis 21,0 s", "0:05,000 im Ziel",
+    EXPECT_EQ(von(h, 2), (std::vector<std::string>{"0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel",
                                                    "0:06,000 Pause", "0:07,000 ", "0:09,000 Runde 12: 5,432 s"}));
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }

@@ -198,7 +198,7 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
     klick(a.Command_nachtragen);
     ASSERT_TRUE(a.nachtrag.Frame_nachtrag.sichtbar());
     EXPECT_EQ(a.nachtrag.angebote.zeilen().front(),
-              "Runde 2:  Überfahrt bei 00:05,498, zu kurz: 1,500 s, gezählt wird ab 2,100 s  →  00:01,500 + "
+              "Runde 2:  Überfahrt bei 0:05,498, zu kurz: 1,500 s, gezählt wird ab 2,100 s  →  00:01,500 + "
               "00:01,500");
     EXPECT_EQ(a.nachtrag.angebote.markiert(), 0);
     klick(a.nachtrag.Command_eintragen);
