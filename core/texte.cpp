@@ -178,7 +178,6 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Auf diesem Rechner ist kein Programm dafür eingerichtet.", papierdatei.kein_programm);
     gruppe.text("Wettkampf laden", wettkampf.laden).text("Stand des Wettkampfs speichern", wettkampf.stand_speichern);
     gruppe.text("Gespeichert:", gespeichert);
-    gruppe.text("Ein weiteres Rennen zum Fortsetzen gibt es nicht.", wettkampf.kein_weiteres);
     gruppe.text("Runde", text_runde);
     gruppe.text("Weiterfahren", wettkampf.weiterfahren).text("Später", wettkampf.spaeter);
     return gruppe.text("Nächstes zeigen", wettkampf.naechstes).text("Neu starten", wettkampf.von_vorn);

@@ -61,7 +61,7 @@ struct texte {
         std::string laden, stand_speichern, einstellungen_uebernehmen, ladefehler;
         std::string das_rennen, in_runde, unterbrochen, gefahren;  ///< a race that was cut off
         std::string weiterfahren, spaeter, naechstes, von_vorn;    ///< answers
-        std::string keines, kein_weiteres, nicht_fortsetzbar, ohne_protokoll;
+        std::string keines, nicht_fortsetzbar, ohne_protokoll;
         std::string der_wettkampf, vom, nicht_beendet;  ///< an evening that was cut off, around its name and day
     } wettkampf;
     std::array<std::string, 20> tx_text;  ///< of the 4x4 USB module
