@@ -42,8 +42,8 @@ std::vector<std::string> einstellungsruecklage::ueberlagert(const schicht& unten
 }
 
 std::vector<std::string> einstellungsruecklage::fuer_die_datei(std::vector<std::string> in_kraft) const {
-    for (auto schicht = schichten_.rbegin(); schicht != schichten_.rend(); ++schicht) {
-        in_kraft = ueberlagert(*schicht, std::move(in_kraft));
+    for (auto unten = schichten_.rbegin(); unten != schichten_.rend(); ++unten) {
+        in_kraft = ueberlagert(*unten, std::move(in_kraft));
     }
     return in_kraft;
 }
