@@ -333,7 +333,7 @@ TEST_F(ControlUnitRennen, EinWiederaufgenommenesRennenOeffnetSeinenPortNichtNeu)
     t.rennabbruch();
     const int damals = std::exchange(t.p.einst.tank_inhalt, 44);
     t.maschine.anschluesse.werte.clear();
-    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
+    t.maschine.antwort = true;
     t.p.form1.command_fortsetzen.klicken();
     ASSERT_TRUE(t.p.fenster.ist_offen(fenstername::bahn1));
     EXPECT_EQ(t.p.einst.tank_inhalt, damals);

@@ -149,6 +149,7 @@ TEST_F(Wettkampfrueckkehr, DasFinaleHatDieEinstellungenSeinesQualifyings) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2});
     abend.aendern([](wettkampf& w) { return w.qualifying_an = true; });
     t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;  // the evening is kept, its settings are taken
     for (const bool geladen : {false, true}) {
         programm neu(t.maschine.dienste());
         neu.starten();
@@ -159,7 +160,6 @@ TEST_F(Wettkampfrueckkehr, DasFinaleHatDieEinstellungenSeinesQualifyings) {
         t.maschine.laufen(1000);
         EXPECT_EQ(neu.einst.tank_inhalt, 44);
         if (geladen) {
-            t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
             neu.wettkampf1.Command9.klicken();
             neu.rundenspeichern.dateiliste.auswaehlen(0);
             neu.rundenspeichern.Command1.klicken();
