@@ -28,11 +28,16 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
     g[t::namenslabel].ort = stapel.oben(std::min({0.42 * ort.hoehe, 1100 * s, std::max(bleibt, wort)}));
     g[t::straflabel].ort = stapel.unten(strafe);
     tank_legen(inhalt, stapel.unten(tank), true, lesbar, g);
+    const bool schuld_oben = hoch && mittig(stapel.rest(), 900 * s).hoehe > 2.5 * lesbar;
+    if (schuld_oben) {  // the box has more of the height than the lights, and is found from afar
+        zuschnitt quer(stapel.rest(), 2 * luecke);
+        const rechteck schuld = mittig(quer.rechts(std::max(0.24 * ort.breite, schuld_em * lesbar)), 1500 * s);
+        schuld_legen(schuld, titelplatz(0.3 * schuld.hoehe, lesbar), g);
+        stapel = quer;
+    }
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
     g[t::Label_spur].ort = mitte.links(std::max((hoch ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
-    if (hoch && mitte.rest().hoehe > 2.5 * lesbar) {
-        const rechteck schuld = mitte.rechts(std::max(0.24 * ort.breite, schuld_em * lesbar));
-        schuld_legen(schuld, titelplatz(0.36 * schuld.hoehe, lesbar), g);
+    if (schuld_oben) {
         ampel_legen(mitte.rest(), luecke, g);
     } else if (!schuld_hier) {
         ampel_legen(mitte.rest(), luecke, g);

@@ -48,15 +48,32 @@ QString UmbruchKasten::gezeigt() const {
     return unterstreichen ? text().insert(text().size() - 1, '&') : text();
 }
 
+bool UmbruchKasten::auf_dunklem_grund() const {
+    constexpr int halbe_helligkeit = 128;
+    return window()->palette().color(QPalette::Window).lightness() < halbe_helligkeit;
+}
+
+/// The edge that the style draws is lost from afar, and a large box is to be found from there.
+void UmbruchKasten::rand_malen(QPainter& maler, const QRect& kasten) const {
+    constexpr int gross = 20;
+    if (kasten.width() < gross) {
+        return;
+    }
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(QPen(auf_dunklem_grund() ? QColor(225, 228, 234) : QColor(60, 64, 72), kasten.width() / 16.0 + 1));
+    maler.setBrush(Qt::NoBrush);
+    maler.drawRoundedRect(kasten.adjusted(1, 1, -1, -1), 3, 3);
+    maler.restore();
+}
+
 /// Of a box that stands alone the focus is seen as far as the box.
 void UmbruchKasten::ring_malen(QPainter& maler, const QRect& kasten) const {
     constexpr int dick = 6;
-    constexpr int halbe_helligkeit = 128;
-    const bool dunkel = window()->palette().color(QPalette::Window).lightness() < halbe_helligkeit;
     maler.save();
     maler.setRenderHint(QPainter::Antialiasing);
     maler.setPen(Qt::NoPen);
-    maler.setBrush(dunkel ? QColor(255, 214, 10) : palette().color(QPalette::Highlight));
+    maler.setBrush(auf_dunklem_grund() ? QColor(255, 214, 10) : palette().color(QPalette::Highlight));
     maler.drawRoundedRect(kasten.adjusted(-dick, -dick, dick, dick).intersected(rect()), 4, 4);
     maler.restore();
 }
@@ -75,6 +92,7 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
             ring_malen(maler, kasten.rect);
         }
         maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
+        rand_malen(maler, kasten.rect);
         return;
     }
     maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);

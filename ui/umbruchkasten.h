@@ -23,6 +23,8 @@ protected:
 private:
     QRect textflaeche(int breite) const;
     int einzug() const;
+    bool auf_dunklem_grund() const;
+    void rand_malen(QPainter& maler, const QRect& kasten) const;
     void ring_malen(QPainter& maler, const QRect& kasten) const;
     QString gezeigt() const;
 
