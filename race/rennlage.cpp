@@ -152,6 +152,17 @@ void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
     label.sichtbar(!label.text().empty());
 }
 
+/// Of one from the beginning of a pause, which counts behind it.
+zeit_ms rennlage::wartende_runde(int spur) const {
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    return zustand.ch_durchfahrt_zeit - std::max(zustand.gezaehlt_bei, zustand.start_zeit) - zustand.pause_abzug;
+}
+
+bool rennlage::wartende_zu_kurz(int spur) const {
+    return um_.zustand.spur[spur].ch_durchfahrt && um_.zustand.konto.runden(spur) >= 0 &&
+           wartende_runde(spur) < um_.param.min_rundenzeit_ms;
+}
+
 /// One in a pause waits there to be forgotten; a contact that bounces behind one that counts is none.
 letzte_ablehnung rennlage::zuletzt_abgelehnt(int spur) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
@@ -160,7 +171,12 @@ letzte_ablehnung rennlage::zuletzt_abgelehnt(int spur) const {
     const bool in_der_pause = um_.zustand.chaos_aktiv && !um_.zeitgeber.ch_durch0->laeuft() && wartet.aktiv &&
                               !wartet.vorgemerkt && wartet.ereignis_zeit >= um_.zustand.pause.start &&
                               wartet.ereignis_zeit - zustand.verworfen_bei >= prellen_ms;
-    return in_der_pause ? letzte_ablehnung{wartet.ereignis_zeit, ablehnung::pause} : zustand.abgelehnt;
+    if (in_der_pause) {
+        return {wartet.ereignis_zeit, ablehnung::pause};
+    }
+    return wartende_zu_kurz(spur)
+               ? letzte_ablehnung{zustand.ch_durchfahrt_zeit, ablehnung::zu_schnell, wartende_runde(spur)}
+               : zustand.abgelehnt;
 }
 
 bool rennlage::eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const {
@@ -169,7 +185,12 @@ bool rennlage::eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const {
     return seither >= 0 && seither < gesagt_ms && letzte.stempel > um_.zustand.spur[spur].gezaehlt_bei;
 }
 
-/// Of a crossing that did not count, only where nothing that the lane is in says it already.
+bool rennlage::wird_gesagt(ablehnung grund) {
+    return grund == ablehnung::zu_schnell || grund == ablehnung::volltanken || grund == ablehnung::vor_dem_start ||
+           grund == ablehnung::pause;
+}
+
+/// Of a crossing that did not count, or not yet, only where nothing that the lane is in says it already.
 rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
     const lage was = um_.bahn.lage[spur].stand().was;
     const letzte_ablehnung letzte = zuletzt_abgelehnt(spur);
@@ -180,15 +201,17 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
         }
         return {um_.zustand.konto.haelt_zurueck(spur) ? spurhinweis::runde_wartet : spurhinweis::keiner};
     }
-    const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer ||
-                      (was == lage::pause && letzte.grund == ablehnung::pause);
-    if (!frei || !eben || um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
+    if (um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
         return {};
     }
-    constexpr std::array gesagt{ablehnung::zu_schnell, ablehnung::volltanken, ablehnung::vor_dem_start,
-                                ablehnung::pause};
-    const bool wird_gesagt = std::find(gesagt.begin(), gesagt.end(), letzte.grund) != gesagt.end();
-    return wird_gesagt ? hinweisgrund{spurhinweis::ungezaehlt, letzte.grund, letzte.zeit} : hinweisgrund();
+    const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer;
+    const bool pausiert = was == lage::pause;
+    const bool in_ihr = letzte.stempel >= um_.zustand.pause.start;  // what was before it, the pause says enough of
+    if (eben && (frei || (pausiert && in_ihr)) && wird_gesagt(letzte.grund)) {
+        return {spurhinweis::ungezaehlt, letzte.grund, letzte.zeit};
+    }
+    const bool wartet = um_.zustand.spur[spur].ch_durchfahrt && !wartende_zu_kurz(spur);
+    return {wartet && (frei || pausiert) ? spurhinweis::runde_wartet : spurhinweis::keiner};
 }
 
 std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {

@@ -58,8 +58,11 @@ private:
 
         bool operator==(const hinweisgrund&) const = default;
     };
+    zeit_ms wartende_runde(int spur) const;
+    bool wartende_zu_kurz(int spur) const;
     letzte_ablehnung zuletzt_abgelehnt(int spur) const;
     bool eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const;
+    static bool wird_gesagt(ablehnung grund);
     hinweisgrund hinweis_von(int spur) const;
     std::string hinweis_gesagt(const hinweisgrund& g) const;
     spuren<hinweisgrund> hinweisgrund_{};
