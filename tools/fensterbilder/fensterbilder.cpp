@@ -1,5 +1,6 @@
-// Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [englisch] [<scene>...]
+// Draws the program's windows in given states: fensterbilder <folder> [<size>] [dunkel] [weiss] [englisch] [<scene>...]
 // Without a screen, unless QT_QPA_PLATFORM names one: the theme of a desktop only shows there.
+// With weiss the race is driven on a white screen.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 // A window that is as large as it wants to be opens on a screen of the first of these sizes.
 // Tells of each text that has no room, of widgets on top of one another, of a window that is larger than the size and,
@@ -25,6 +26,14 @@ namespace {
 
 const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 800}, {1920, 1080}, {3840, 2160}};
 constexpr QSize rennbildschirm(1280, 800);  ///< on this one the letters of the race window are measured
+
+struct Auftrag {
+    QString ordner;
+    std::vector<QSize> groessen = uebliche_groessen;
+    erscheinung wie;
+    bool weiss = false;
+    QStringList szenen;  ///< none for all
+};
 
 /// The window, and the light that stands in front of it.
 QPixmap aufnehmen(buehne& b, QWidget& fenster) {
@@ -53,9 +62,13 @@ bool pruefen(const QWidget& fenster, const QString& szene, const QSize& groesse)
     return fehler.isEmpty();
 }
 
-bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std::vector<QSize>& groessen,
-              const erscheinung& wie) {
-    buehne b(wie);
+bool zeichnen(const szeneneintrag& gewuenscht, const Auftrag& a) {
+    const std::vector<QSize>& groessen = a.groessen;
+    buehne b(a.wie);
+    if (a.weiss) {
+        b.p.einst.farben_ampel[1] = 0xFFFFFF;
+        b.p.einst.farben_schrift[2] = 0x000000;
+    }
     QWidget& fenster = gewuenscht.zeigen(b);
     bool gut = true;
     for (const QSize& groesse : gewuenscht.eigene_groesse ? std::vector{fenster.size()} : groessen) {
@@ -65,7 +78,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
         b.o.takt.ausfuehren();
         QTest::qWait(60);
         const QString masse = QString("%1x%2").arg(groesse.width()).arg(groesse.height());
-        const QString datei = ordner + "/" + gewuenscht.name +
+        const QString datei = a.ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
         gut = aufnehmen(b, fenster).save(datei) && gut;
         gut = pruefen(fenster, gewuenscht.name + QString(" ") + masse,
@@ -81,13 +94,6 @@ bool zeichnen(const szeneneintrag& gewuenscht, const QString& ordner, const std:
 namespace tarvel {
 namespace {
 
-struct Auftrag {
-    QString ordner;
-    std::vector<QSize> groessen = uebliche_groessen;
-    erscheinung wie;
-    QStringList szenen;  ///< none for all
-};
-
 Auftrag auftrag_lesen(QStringList argumente) {
     Auftrag a;
     a.ordner = argumente.takeFirst();
@@ -102,6 +108,7 @@ Auftrag auftrag_lesen(QStringList argumente) {
     if (argumente.removeAll("englisch") > 0) {
         a.wie.sprachordner = "language-en";
     }
+    a.weiss = argumente.removeAll("weiss") > 0;
     a.szenen = argumente;
     return a;
 }
@@ -117,7 +124,7 @@ bool ausfuehren(Auftrag a) {
     }
     for (const auto& szene : szenen) {
         if (alle || a.szenen.removeAll(szene.name) > 0) {
-            gut = zeichnen(szene, a.ordner, a.groessen, a.wie) && gut;
+            gut = zeichnen(szene, a) && gut;
         }
     }
     for (const QString& unbekannt : a.szenen) {
@@ -143,7 +150,7 @@ QByteArray schirm(const QSize& groesse) {
 int main(int argc, char** argv) {
     const QStringList argumente(argv + 1, argv + argc);
     if (argumente.isEmpty()) {
-        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [englisch] [<Szene>...]\n");
+        std::fprintf(stderr, "fensterbilder <Ordner> [<Breite>x<Hoehe>] [dunkel] [weiss] [englisch] [<Szene>...]\n");
         return 2;
     }
     const tarvel::Auftrag auftrag = tarvel::auftrag_lesen(argumente);
