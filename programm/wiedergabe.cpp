@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "core/platzhalter.h"
 #include "core/text.h"
 #include "core/texte.h"
 
@@ -229,11 +230,7 @@ void wiedergabe::stand_zeigen() {
     if (ziel_) {
         Label_zeit.text(wort_.springt);
     } else if (zuletzt_ < uebersprungen_.zeigen_bis) {
-        std::string text = wort_.uebersprungen;
-        if (const std::size_t ort = text.find("%1"); ort != std::string::npos) {
-            text.replace(ort, 2, zeit_text(uebersprungen_.dauer));
-        }
-        Label_zeit.text(text);
+        Label_zeit.text(eingesetzt(wort_.uebersprungen, {zeit_text(uebersprungen_.dauer)}));
     } else {
         Label_zeit.text(zeit_text(spieler_->stelle() - anfang) + " / " + zeit_text(spieler_->ende() - anfang) + " " +
                         wort_.ganze_laenge);

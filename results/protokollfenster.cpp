@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/platzhalter.h"
 #include "core/protokollordner.h"
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
@@ -14,11 +15,6 @@ namespace {
 constexpr std::size_t kopf_bytes_max = std::size_t{128} * 1024;
 constexpr zeit_ms ausschnitt_min_ms = 1000;
 constexpr double zoom_schritt = 2;
-
-std::string eingesetzt(std::string text, const std::string& wert) {
-    const std::size_t ort = text.find("%1");
-    return ort == std::string::npos ? text : text.replace(ort, 2, wert);
-}
 
 }  // namespace
 
@@ -228,9 +224,9 @@ std::string protokollfenster::beschreibung(const protokollkopf& kopf) const {
     if (ziel == ziel_ohne_ende) {
         text += wort_.ohne_ende;
     } else if (ziel.ist_zeit()) {
-        text += eingesetzt(wort_.zeitrennen, hergang_zeit(std::clamp<zeit_ms>(ziel.ms(), 0, 360'000'000), 0, ','));
+        text += eingesetzt(wort_.zeitrennen, {hergang_zeit(std::clamp<zeit_ms>(ziel.ms(), 0, 360'000'000), 0, ',')});
     } else {
-        text += eingesetzt(wort_.rundenrennen, std::to_string(ziel.runden()));
+        text += eingesetzt(wort_.rundenrennen, {std::to_string(ziel.runden())});
     }
     std::string namen;
     for (const int spur : alle_spuren) {
@@ -246,9 +242,9 @@ std::string protokollfenster::hinweis() const {
         return name_.empty() ? wort_.keine : wort_.unlesbar;
     }
     const std::size_t anzahl = hergang_.abgelehnte(0).size();
-    std::string text = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, std::to_string(anzahl));
+    std::string text = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, {std::to_string(anzahl)});
     if (const zeit_ms gestanden = hergang_.pausen(); gestanden > 0) {
-        text += "  " + eingesetzt(wort_.mit_pausen, hergang_zeit(gestanden, 0, worte_.komma));
+        text += "  " + eingesetzt(wort_.mit_pausen, {hergang_zeit(gestanden, 0, worte_.komma)});
     }
     return hergang_.ganz ? text : text + "  " + wort_.beschaedigt;
 }

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 
+#include "core/platzhalter.h"
 #include "core/text.h"
 #include "race/fruehstartstrafe.h"
 
@@ -36,11 +37,8 @@ std::string folge_gesagt(const renn_umgebung& um) {
             zeitstrafe ? genau(um.einst.fruehstart_schritte).count() : genau(fruehstart_sperrdauer(um.einst)).count(),
             komma);
     };
-    std::string folge = um.bahn.wort.fruehstart_folgen.at(static_cast<std::size_t>(um.einst.fruehstart_option));
-    if (const std::size_t ort = folge.find("%1"); ort != std::string::npos) {
-        folge.replace(ort, 2, sekunden());
-    }
-    return folge;
+    return eingesetzt(um.bahn.wort.fruehstart_folgen.at(static_cast<std::size_t>(um.einst.fruehstart_option)),
+                      {sekunden()});
 }
 
 }  // namespace
