@@ -7,23 +7,14 @@
 #include <utility>
 
 #include "core/einstellungswerte.h"
+#include "core/platzhalter.h"
 #include "core/text.h"
+#include "hardware/tastenbelegung.h"
 
 namespace tarvel {
 namespace {
 
 constexpr zeit_ms sekunde_ms = 1000;
-
-std::string ersetzt(std::string text, std::initializer_list<std::string> werte) {
-    char nummer = '1';
-    for (const std::string& wert : werte) {
-        if (const std::size_t ort = text.find({'%', nummer}); ort != std::string::npos) {
-            text.replace(ort, 2, wert);
-        }
-        ++nummer;
-    }
-    return text;
-}
 
 /// Seconds with so many decimals, cut as laps are.
 std::string sekunden_text(zeit_ms zeit, int stellen, char komma) {
@@ -122,7 +113,13 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
 }
 
 sprachliste& hergangsworte::nachtragen(sprachliste& texte) {
-    return texte.text(" und wird um sie länger", und_laenger_);
+    texte.text(" und wird um sie länger", und_laenger_);
+    for (const tastenzeile& zeile : tastenzeilen()) {
+        if (zeile.spur <= 1) {  // the rows of a lane have the same names on every lane
+            texte.text(zeile.name, bedeutungen_[zeile.name]);
+        }
+    }
+    return texte;
 }
 
 std::string hergangsworte::dauer(zeit_ms zeit) const {
@@ -135,18 +132,22 @@ std::string hergangsworte::ablehnung_von(const geschehen& g) const {
     const bool nach_pause = g.nach_pause && g.grund() == ablehnung::sperre;
     const std::string grund = nach_pause ? sperre_pause_ : gesucht(gruende_, g.grund());
     const bool mit_bis = g.bis != geschehen::keine && g.grund() != ablehnung::prellen;
-    const std::string bis = mit_bis ? ersetzt(bis_, {hergang_zeit(std::max<zeit_ms>(g.bis, 0), 1, komma)}) : "";
-    return ersetzt(grund, {dauer(g.wert), dauer(g.grenze)}) + bis;
+    const std::string bis = mit_bis ? eingesetzt(bis_, {hergang_zeit(std::max<zeit_ms>(g.bis, 0), 1, komma)}) : "";
+    return eingesetzt(grund, {dauer(g.wert), dauer(g.grenze)}) + bis;
+}
+
+std::string hergangsworte::bedeutung(std::int64_t zeile, const std::string& sonst) const {
+    const std::vector<tastenzeile>& zeilen = tastenzeilen();
+    const auto treffer =
+        std::find_if(zeilen.begin(), zeilen.end(), [zeile](const tastenzeile& t) { return t.zeile == zeile; });
+    return treffer == zeilen.end() ? sonst : gesucht(bedeutungen_, treffer->name);
 }
 
 std::string hergangsworte::taste_von(const geschehen& g) const {
-    const std::vector<tastenzeile>& zeilen = tastenzeilen();
-    const auto zeile =
-        std::find_if(zeilen.begin(), zeilen.end(), [&](const tastenzeile& t) { return t.zeile == g.wert; });
     const bool druckbar = g.nummer > erstes_druckbares && g.nummer <= 255;
-    return ersetzt(vorlagen_.at(vorgang::taste),
-                   {druckbar ? ansi_zeichen(static_cast<int>(g.nummer)) : std::to_string(g.nummer),
-                    zeile == zeilen.end() ? unbelegt_ : std::string(zeile->name)});
+    return eingesetzt(
+        vorlagen_.at(vorgang::taste),
+        {druckbar ? ansi_zeichen(static_cast<int>(g.nummer)) : std::to_string(g.nummer), bedeutung(g.wert, unbelegt_)});
 }
 
 std::string hergangsworte::von(const geschehen& g) const {
@@ -154,39 +155,35 @@ std::string hergangsworte::von(const geschehen& g) const {
     const std::string nummer = std::to_string(g.nummer);
     switch (g.was) {
         case vorgang::runde:
-            return g.nummer == 0 ? ersetzt(anlauf_, {dauer(g.wert)}) : ersetzt(vorlage, {nummer, dauer(g.wert)});
+            return g.nummer == 0 ? eingesetzt(anlauf_, {dauer(g.wert)}) : eingesetzt(vorlage, {nummer, dauer(g.wert)});
         case vorgang::sektor:
-            return ersetzt(vorlage, {nummer, dauer(g.wert)});
+            return eingesetzt(vorlage, {nummer, dauer(g.wert)});
         case vorgang::abgelehnt:
             return ablehnung_von(g);
         case vorgang::weiter:
-            return ersetzt(vorlage, {dauer(g.wert)});
+            return eingesetzt(vorlage, {dauer(g.wert)});
         case vorgang::strafe:
-            return ersetzt(g.nummer == 1 ? ohne_strom_ : vorlage, {std::to_string(g.wert)});
+            return eingesetzt(g.nummer == 1 ? ohne_strom_ : vorlage, {std::to_string(g.wert)});
         case vorgang::leer:
-            return ersetzt(vorlage, {gesucht(leer_, static_cast<int>(g.nummer))}) +
-                   (g.wert > 0 ? ersetzt(runde_wartet_, {std::to_string(g.wert)}) : "") +
+            return eingesetzt(vorlage, {gesucht(leer_, static_cast<int>(g.nummer))}) +
+                   (g.wert > 0 ? eingesetzt(runde_wartet_, {std::to_string(g.wert)}) : "") +
                    (g.grenze > 0 ? und_laenger_ : "");
         case vorgang::tankt:
         case vorgang::tank_ende:
-            return ersetzt(vorlage, {zahl_fest(static_cast<double>(g.nummer) / 100, komma)});
+            return eingesetzt(vorlage, {zahl_fest(static_cast<double>(g.nummer) / 100, komma)});
         case vorgang::ende:
-            return ersetzt(vorlage, {g.nummer == 1 ? abgebrochen_ : ""});
+            return eingesetzt(vorlage, {g.nummer == 1 ? abgebrochen_ : ""});
         case vorgang::befehl:
             return gesucht(befehle_, static_cast<int>(g.nummer));
         case vorgang::taste:
             return taste_von(g);
-        case vorgang::geraet: {
-            const std::vector<tastenzeile>& zeilen = tastenzeilen();  // they follow the events' numbers
-            const auto zeile =
-                std::find_if(zeilen.begin(), zeilen.end(), [&](const tastenzeile& t) { return t.zeile == g.nummer; });
-            return ersetzt(vorlage, {zeile == zeilen.end() ? nummer : std::string(zeile->name)}) +
-                   (g.wert > 1 ? ersetzt(mehrmals_, {std::to_string(g.wert)}) : "");
-        }
+        case vorgang::geraet:
+            return eingesetzt(vorlage, {bedeutung(g.nummer, nummer)}) +
+                   (g.wert > 1 ? eingesetzt(mehrmals_, {std::to_string(g.wert)}) : "");
         case vorgang::korrektur:
             return g.text;
         default:
-            return ersetzt(vorlage, {nummer});
+            return eingesetzt(vorlage, {nummer});
     }
 }
 

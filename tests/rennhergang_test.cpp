@@ -14,7 +14,8 @@ namespace {
 class Rennhergang : public test::ProgrammProbe {
 protected:
     Rennhergang() {
-        worte_.eintragen(texte_).deutsch_setzen();
+        worte_.eintragen(texte_);
+        worte_.nachtragen(texte_).deutsch_setzen();
         nur_eingaben = true;
     }
 
