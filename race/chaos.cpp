@@ -360,7 +360,8 @@ void chaos::aufheben() {
     if (um_.zustand.chaos_aktiv) {
         um_.ausgaben.chaos_aus();
         const zeit_ms jetzt = um_.zeit.messzeit_lesen();
-        um_.zustand.pause.dauer = jetzt - um_.zustand.pause.start;
+        const zeit_ms ende = um_.zustand.renn_ende_stempel;  // what goes on from it counts the rest as its own break
+        um_.zustand.pause.dauer = (ende >= um_.zustand.pause.start ? ende : jetzt) - um_.zustand.pause.start;
         um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
         um_.ereignisse.strecke_leeren();
         um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);

@@ -111,6 +111,22 @@ TEST_F(Fortsetzung, UeberfahrtImBeginnDerPauseZaehltAuchWennDasRennenInIhrEndet)
     EXPECT_FALSE(zustand.chaos_aktiv) << "no pause behind the result";
 }
 
+TEST_F(Fortsetzung, EndeInDerPauseGehtAufDieMillisekundeWeiter) {
+    t.p.einst.sound_an = true;
+    t.starten("Zeit", "5", {1});
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(4000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(10000);
+    t.maschine.klang_haelt_auf = 25;
+    t.rennende();
+    t.maschine.klang_haelt_auf = 0;
+    a.Command3.klicken();
+    gruen();
+    t.runde_nach(1000, "1");
+    EXPECT_NEAR(static_cast<double>(zustand.konto.rundenzeit(1, 1)), 4000 + 1000, 4);
+}
+
 TEST_F(Fortsetzung, RundeUeberDenWechselIstKeineBestzeit) {
     t.mit_bestzeiten = true;
     t.p.einst.beste_modus = bestzeit_speicherung::manuell;

@@ -95,7 +95,7 @@ void test_plattform::laufen(zeit_ms dauer) {
         jetzt_ = std::max(jetzt_, naechster->faellig);
         naechster->feuern();
     }
-    jetzt_ = ende;
+    jetzt_ = std::max(jetzt_, ende);
 }
 
 std::unique_ptr<plattform::zeitgeber> test_plattform::erzeugen(plattform::zeitgeber_art art, dauer_ms intervall) {

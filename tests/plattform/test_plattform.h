@@ -77,6 +77,7 @@ public:
     bool erste_instanz = true;
     bool faeden_stehen = false;    ///< those that look at devices wait for them
     std::string nicht_schreibbar;  ///< name of a file, without its folder, that no writer can replace
+    zeit_ms klang_haelt_auf = 0;   ///< each sound keeps the program for so long
     double zufallszahl = 0;        ///< from 0 up to below 1
     int beendet = 0;               ///< how often the process was asked to end
 
@@ -97,7 +98,10 @@ private:
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,
                                                    const plattform::antwortworte& worte) override;
     void bereitstellen(std::string_view /*datei*/) override {}
-    void spielen(std::string_view datei) override { sounds.emplace_back(datei); }
+    void spielen(std::string_view datei) override {
+        sounds.emplace_back(datei);
+        jetzt_ += klang_haelt_auf;
+    }
     bool ist_einzige_instanz() override { return erste_instanz; }
     void beenden() override { ++beendet; }
     double bruchteil() override { return zufallszahl; }
