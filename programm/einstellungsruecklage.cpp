@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "race/fruehstartstrafe.h"
+
 namespace tarvel {
 
 using namespace std::chrono_literals;
@@ -21,6 +23,7 @@ bool einstellungsruecklage::solange(std::vector<fenstername> offen, felder wie, 
         return false;
     }
     schichten_.back().danach = in_kraft();
+    schichten_.back().nach_einem_start = nach_einem_start();
     takt_->an();
     return true;
 }
@@ -30,11 +33,19 @@ void einstellungsruecklage::aufgeben() {
     takt_->aus();
 }
 
+/// The start light writes one of the settings itself: that is no change by the operator.
+std::vector<std::string> einstellungsruecklage::nach_einem_start() {
+    const dauer_hs bisher = std::exchange(um_.einst.fruehstart_strafzeit, fruehstart_sperrdauer(um_.einst));
+    std::vector<std::string> zeilen = um_.datei.festhalten();
+    um_.einst.fruehstart_strafzeit = bisher;
+    return zeilen;
+}
+
 /// The lines that waited, and over them those that have been changed meanwhile.
 std::vector<std::string> einstellungsruecklage::ueberlagert(const schicht& unten, std::vector<std::string> zeilen) {
     const std::vector<std::string>& davor = unten.davor.zeilen;
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
-        if (!unten.danach || zeilen[i] == unten.danach->zeilen.at(i)) {
+        if (!unten.danach || zeilen[i] == unten.danach->zeilen.at(i) || zeilen[i] == unten.nach_einem_start.at(i)) {
             zeilen[i] = davor.at(i);
         }
     }

@@ -56,9 +56,11 @@ private:
         std::vector<fenstername> offen;
         felder wie = felder::zurueck;
         std::optional<stand> danach = std::nullopt;  ///< none while the others are only coming
+        std::vector<std::string> nach_einem_start = {};
     };
 
     stand in_kraft() const { return {um_.datei.festhalten(), um_.belegung}; }
+    std::vector<std::string> nach_einem_start();
     static std::vector<std::string> ueberlagert(const schicht& unten, std::vector<std::string> zeilen);
     void zurueckstellen();
 
