@@ -159,11 +159,6 @@ void lauf_setzen(rennblock& block, const ergebnistabelle::lauf& lauf, const std:
     blockfeld_setzen(block, blockreihe::spur, 2, lauf.uhrzeit, trenner);
 }
 
-std::int64_t spurnummer(const ergebniszeile& zeile, const std::string& trenner) {
-    const std::string name = blockfeld(zeile.block, blockreihe::spur, 0, trenner);
-    return ergebnisrunden_lesen(std::string_view(name).substr(name.find_last_not_of("0123456789") + 1));
-}
-
 /// Rows in which no lane has anything left.
 void leere_reihen_streichen(ergebnistabelle& t) {
     const std::string leer = leerer_block(t.trennzeichen[2]);
@@ -175,6 +170,11 @@ void leere_reihen_streichen(ergebnistabelle& t) {
 }
 
 }  // namespace
+
+std::int64_t spurnummer(const ergebniszeile& zeile, const std::string& trenner) {
+    const std::string name = blockfeld(zeile.block, blockreihe::spur, 0, trenner);
+    return ergebnisrunden_lesen(std::string_view(name).substr(name.find_last_not_of("0123456789") + 1));
+}
 
 std::size_t ergebnistabelle::umfang() const {
     if (typ == ergebnis_typ::einzelrennen) {

@@ -58,6 +58,9 @@ struct fahrerzeile {
 };
 std::optional<fahrerzeile> fahrerzeile_von(const ergebnistabelle& tabelle, const ergebniszeile& zeile);
 
+/// The lane that a driver of a single race had; 0 if his block does not say.
+std::int64_t spurnummer(const ergebniszeile& zeile, const std::string& trenner);
+
 /// The lines of one of the single races as its own file.
 std::vector<std::string> rennen_zeilen(const ergebnistabelle& tabelle, std::size_t rennen);
 

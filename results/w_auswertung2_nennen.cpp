@@ -32,12 +32,11 @@ void w_auswertung2::rennplaetze_eintragen() {
         return;
     }
     const auto rennen = rennen_von(*tabelle_, 0, sortieren_nach());
-    std::size_t i = 0;
-    for (ergebniszeile& zeile : tabelle_->zeilen) {
-        if (zeile.ergebnis) {
-            zeile.platz = rennen && i < rennen->spuren.size() ? rennen->spuren[i].platz.value_or(0) : 0;
-            ++i;
-        }
+    for (ergebniszeile& zeile : tabelle_->zeilen) {  // saved sorted, they do not stand in the order of their lanes
+        const auto nummer = zeile.ergebnis && rennen ? spurnummer(zeile, tabelle_->trennzeichen[2]) : 0;
+        const rennergebnis::spur* spur =
+            nummer >= 1 && nummer <= spuren_max ? rennen->auf(static_cast<int>(nummer)) : nullptr;
+        zeile.platz = spur != nullptr ? spur->platz.value_or(0) : 0;
     }
 }
 

@@ -357,6 +357,16 @@ TEST_F(Ergebnisbetrachter, EinRennenHatSeinePlaetzeUndEinAutomatischesSeineZeit)
     w.Command2.klicken();
     EXPECT_EQ(namen(), "A B A B ") << "two races have no places yet";
     EXPECT_EQ(w.anzeigename("auto-nur so.csv"), "auto-nur so.csv");
+    rennergebnis zu_dritt = test::rennen_mit({"Anna", "Ben", "Cem"}, 3, "15:00:00");
+    zu_dritt.spuren[0].runden.resize(3);
+    zu_dritt.spuren[1].runden.resize(2);
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben(ordner + "drei.csv", test::rennzeilen(zu_dritt)));
+    w.datei_zeigen(ordner + "drei.csv");
+    EXPECT_EQ(namen(), "2.A 3.B 1.C ");
+    w.Command3.klicken();
+    speichern_als("sortiert");
+    w.datei_zeigen(ordner + "sortiert.csv");
+    EXPECT_EQ(namen(), "1.C 2.A 3.B ") << "each his own, in whatever order they stand";
 }
 
 TEST_F(Ergebnisbetrachter, DetailsUndDebugfensterGehenEinUndAus) {
