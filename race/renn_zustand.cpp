@@ -41,10 +41,13 @@ void renn_zustand::uhr_nachruecken(zeit_ms um) {
     for (const int nummer : alle_spuren) {
         spur_zustand& s = spur[nummer];
         s.start_zeit += s.start_zeit == start_zeit ? um : 0;  // else a crossing has begun the first lap
-        if (konto.runden(nummer) < 0 && konto.stempel(nummer, 0) != 0) {
-            konto.start_stempeln(nummer, konto.stempel(nummer, 0) + um);
+        const zeit_ms erste_ab = konto.stempel(nummer, 0);
+        const bool von_der_ampel = konto.runden(nummer) < 0 || erste_ab == start_zeit;  // a false start counts from 0
+        if (erste_ab != 0 && von_der_ampel) {
+            konto.start_stempeln(nummer, erste_ab + um);
         }
     }
+    konto.ausfaelle_verschieben(um);
     eigene_verschieben(*this, um);
 }
 

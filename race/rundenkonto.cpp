@@ -135,6 +135,10 @@ void rundenkonto::fortsetzen(int spur, bool unterwegs) {
 
 void rundenkonto::stempel_verschieben(zeit_ms um) {
     speicher_.stempel_verschieben(um);
+    ausfaelle_verschieben(um);
+}
+
+void rundenkonto::ausfaelle_verschieben(zeit_ms um) {
     for (spur_konto& konto : spur_) {
         konto.ausfall_bei = konto.ausfall_bei ? std::optional(*konto.ausfall_bei + um) : std::nullopt;
     }

@@ -73,6 +73,8 @@ public:
     void letzten_stempel_verschieben(int spur, zeit_ms um);
     /// All stamps move by `um` ms.
     void stempel_verschieben(zeit_ms um);
+    /// Only those from which on the program has been away: no crossing has stamped them.
+    void ausfaelle_verschieben(zeit_ms um);
 
 private:
     struct spur_konto {
