@@ -344,7 +344,9 @@ void startampel::entladen() {
     }
     zeitgeber_aus();
     ampelaus_timer_->aus();
-    um_.bahn.cu_startframe.sichtbar(false);
+    if (!um_.zustand.chaos_aktiv) {  // else it says who has asked for that pause, or what is to do at the device
+        um_.bahn.cu_startframe.sichtbar(false);
+    }
     fenster.Label_fruehstart.sichtbar(false);  // another window may show both
     fenster.abbrampel.sichtbar(false);
     for (const auto& unterbrechung : stw_) {

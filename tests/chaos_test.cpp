@@ -372,5 +372,21 @@ TEST_F(Chaos, PersoenlicherKnopfNenntDenFahrerFuerEineWeile) {
     EXPECT_FALSE(t.bahn().cu_startframe.sichtbar());
 }
 
+TEST_F(Chaos, WerGleichNachGruenDrueckteBleibtZuLesenWennDieAmpelGeht) {
+    t.p.belegung.vorbelegen(belegung_stufe::alle);
+    t.einrichten("Zeit", "5", {1, 2});
+    t.p.einst.start_ampel_modus = ampelwahl::fuenf_rot_gruen;
+    t.bahn().Command1.klicken();
+    while (!t.p.rennen.zustand.start_zeit) {
+        t.maschine.laufen(100);
+    }
+    t.maschine.laufen(500);
+    t.taste("x");
+    ASSERT_TRUE(pause());
+    t.maschine.laufen(3000);
+    EXPECT_FALSE(t.p.fenster.ist_offen(fenstername::Form2));
+    EXPECT_TRUE(t.bahn().cu_startframe.sichtbar());
+}
+
 }  // namespace
 }  // namespace tarvel
