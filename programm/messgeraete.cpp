@@ -158,10 +158,11 @@ void messgeraete::anzeigetakt_tick() {
 }
 
 bool messgeraete::trotzdem_starten() {
-    if (!anzeigetakt_->laeuft() || getrennt_seit_ < alarm_nach || !getrennt() || std::exchange(gewarnt_, true)) {
+    if (!anzeigetakt_->laeuft() || getrennt_seit_ < alarm_nach || !getrennt() || gewarnt_) {
         return true;
     }
-    return um_.dienste.meldungen.fragen(um_.rennen.bahn1.wort.ohne_messung, um_.txt.titel[0]);
+    gewarnt_ = um_.dienste.meldungen.fragen(um_.rennen.bahn1.wort.ohne_messung, um_.txt.titel[0]);
+    return gewarnt_;
 }
 
 void messgeraete::verbindung_anzeigen() {

@@ -210,7 +210,7 @@ TEST_F(Wiedereingesteckt, NachDemEinfahrenWartetDerStartAufDasGeraet) {
     EXPECT_EQ(gesendet().find(":P01;"), std::string::npos) << "the start gives the power back";
 }
 
-TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
+TEST_F(Wiedereingesteckt, VorDemStartWirdGefragt) {
     einschalten(&messhardware::hw_cu);
     t.einrichten("Runden", "20", {1});
     t.maschine.anschluesse.abziehen(com_am_stecker);
@@ -218,9 +218,10 @@ TEST_F(Wiedereingesteckt, VorDemStartWirdEinmalGefragt) {
     t.bahn().Command1.klicken();
     EXPECT_TRUE(t.p.rennen.zustand.rennen_beendet);
     EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    t.maschine.antwort = true;
     t.bahn().Command1.klicken();
     EXPECT_FALSE(t.p.rennen.zustand.rennen_beendet);
-    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+    EXPECT_EQ(t.maschine.fragen_gestellt.size(), 2U) << "no is no answer to the next press";
 }
 
 TEST_F(Wiedereingesteckt, WasWaehrendDerFrageVonSelbstBeginntBeginntNichtNocheinmal) {
