@@ -339,6 +339,12 @@ bool wettkampf2::darf_enden() {
     return abend_.stand().gefahren.empty() ? behalten_fragen() : fragen(wort_.ende_frage, titel.text());
 }
 
+void wettkampf2::fertigen_beenden() {
+    if (abend_.wettkampf_aktiv() && abend_.stand().ende_pruefen() && !abend_.stand().qualifying_an) {
+        abend_.beenden();
+    }
+}
+
 /// Of an evening of which there is its preparation alone, which may have been work, or a mistake.
 bool wettkampf2::behalten_fragen() {
     using antwort = plattform::dreifache_antwort;

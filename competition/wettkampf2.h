@@ -107,6 +107,9 @@ public:
     bool escape_schliesst() const override { return false; }
     /// No evening runs, or all its races are driven and kept, or the director says so.
     bool darf_enden();
+    /// The program ends: an evening of which all races are driven is not to be offered at the next start. A qualifying
+    /// is, for its final.
+    void fertigen_beenden();
     /// Asks whether the results of a race may be lost.
     bool wiederholen_fragen() { return fragen(wort_.wiederholen, wort_.wiederholen_titel); }
 

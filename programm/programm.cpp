@@ -113,6 +113,7 @@ void programm::hauptfenster_verbinden() {
     form1.einstellungen_laden = [this] { pflege_.laden_oeffnen(); };
     form1.beenden = [this] {
         if (wettkampf2.darf_enden()) {
+            wettkampf2.fertigen_beenden();
             programm_beenden();
         }
     };

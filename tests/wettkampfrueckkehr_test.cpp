@@ -114,13 +114,28 @@ TEST_F(Wettkampfrueckkehr, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter)
     EXPECT_EQ(anderer.wettkampfabend.stand(), vorher) << "an answer given too fast has lost nothing";
 }
 
+TEST_F(Wettkampfrueckkehr, GefahrenerAbendWirdNichtNochEinmalAngeboten) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    while (!abend.stand().ende_pruefen()) {
+        rennen_fahren();
+    }
+    ASSERT_TRUE(t.p.ablage.gibt_es(laufender_wettkampf));
+    t.p.form1.schliessen();
+    EXPECT_EQ(t.maschine.beendet, 1);
+    EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf));
+}
+
 TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     t.p.einst.tank_inhalt = 44;
+    t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
     beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    t.p.einst.fruehstart_strafzeit = 5s;
     rennen_fahren();
     t.maschine.antwort = false;
     programm neu(t.maschine.dienste());
     neu.starten();
+    neu.einst.fruehstart_option = fruehstart_aktion::stromunterbrechung;
+    neu.einst.fruehstart_strafzeit = 3s;
     const int sonst = neu.einst.tank_inhalt;
     ASSERT_NE(sonst, 44);
     neu.form1.fahrer[0].eingeben("Gast");
@@ -138,8 +153,11 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     EXPECT_EQ(ganzzahl_lesen(in_der_datei(), 0, 999), sonst) << "the next start has nothing to do with the evening";
     t.maschine.laufen(1000);
     EXPECT_EQ(neu.einst.tank_inhalt, 44);
+    neu.startampel.entladen();  // leaves another power cut behind, for the evening alone
+    EXPECT_EQ(neu.einst.fruehstart_strafzeit, dauer_hs(10));
     neu.wettkampf2.Command5.klicken();
     EXPECT_EQ(neu.einst.tank_inhalt, sonst);
+    EXPECT_EQ(neu.einst.fruehstart_strafzeit, 3s);
     EXPECT_EQ(neu.einst.sound_an, ton);
     EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
 }
