@@ -80,7 +80,7 @@ bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil, dauer_ms bi
     }
     uebergeben();
     ab_teil_ = ab_teil;
-    automatik_an_ = false;  // nobody may be there yet
+    automatik_an_ = um_.einst.w_autom;  // somebody has said that it goes on, and ends its pause
     von_selbst_ = false;
     unterbrochen_ = false;
     um_.teil_von.wechseln(*this);

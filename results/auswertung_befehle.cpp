@@ -47,7 +47,7 @@ void auswertung::befehle_verbinden() {
     const auto in_ruhe = [this](befehl& knopf, const std::function<void()>& wohin) {
         knopf.bei_klick = [this, &wohin] {
             if (wohin) {
-                selbstlauf_unterbrechen();
+                gewartet_ = 0s;  // it waits, and counts from the beginning then
                 wohin();
             }
         };
