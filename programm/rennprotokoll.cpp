@@ -40,8 +40,8 @@ void rennprotokoll::kopf_anhaengen(zeit_ms beginn) {
 
 void rennprotokoll::anhaengen(std::string_view zeile) {
     datei_->anhaengen(zeile);
-    if (mitleser_ != nullptr) {
-        mitleser_->anhaengen(zeile);
+    for (protokollsenke* mitleser : mitleser_) {
+        mitleser->anhaengen(zeile);
     }
 }
 

@@ -39,7 +39,8 @@ public:
     /// Tells if the log could not be kept to its end, once somebody is there.
     void abschliessen() override;
     std::string bisher() override;
-    void mitlesen(protokollsenke* wer) override { mitleser_ = wer; }
+    void mitlesen(protokollsenke& wer) override { mitleser_.push_back(&wer); }
+    void nicht_mehr_mitlesen(protokollsenke& wer) override { std::erase(mitleser_, &wer); }
     /// Deletes the logs that nobody needs any more.
     void aufraeumen() const;
     /// A new log begins.
@@ -78,7 +79,7 @@ private:
 
     umgebung um_;
     std::unique_ptr<plattform::anhaengedatei> datei_;
-    protokollsenke* mitleser_ = nullptr;
+    std::vector<protokollsenke*> mitleser_;
     std::string dateiname_;
     bool gewarnt_ = false;  ///< has told of a log that could not be kept
 };

@@ -25,8 +25,9 @@ public:
     virtual void abschliessen() = 0;
     /// The whole lines of the log so far; empty without one.
     virtual std::string bisher() { return {}; }
-    /// Each further line goes there too, as it is written; null for nowhere.
-    virtual void mitlesen(protokollsenke* /*wer*/) {}
+    /// Each further line goes there too, as it is written.
+    virtual void mitlesen(protokollsenke& /*wer*/) {}
+    virtual void nicht_mehr_mitlesen(protokollsenke& /*wer*/) {}
 };
 
 /// The race window as the register sees it.

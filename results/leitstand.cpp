@@ -4,7 +4,6 @@ namespace tarvel {
 namespace {
 
 constexpr std::size_t zeilen_max = 60;
-constexpr std::size_t vorrat_bytes = std::size_t{256} * 1024;  // of a second, and the race tick allocates nothing
 constexpr int blick_ms = 200;
 
 }  // namespace
@@ -12,15 +11,14 @@ constexpr int blick_ms = 200;
 leitstand::leitstand(const umfeld& um)
     : fensterlogik(um.fenster, um.ablage, fenstername::leitstand),
       um_(um),
-      takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(blick_ms))) {
-    takt_->bei_tick = [this] { nachlesen(); };
+      takt_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(blick_ms))),
+      mithoerer_(um.r) {
+    takt_->bei_tick = [this] {
+        if (mithoerer_.nachlesen()) {
+            zeigen();
+        }
+    };
     Check_runden.bei_aenderung = [this] { zeigen(); };
-}
-
-leitstand::~leitstand() {
-    if (um_.r.fenster.fuehrung != nullptr) {
-        um_.r.fenster.fuehrung->mitlesen(nullptr);
-    }
 }
 
 void leitstand::laden() {
@@ -28,54 +26,15 @@ void leitstand::laden() {
     worte_ = um_.protokoll.in_worten();
     spur_ = um_.r.bahn1.wort.spur;
     List_verlauf.ansage(Label_verlauf.text());
-    neu_.reserve(vorrat_bytes);
-    von_vorn_lesen();
-    if (um_.r.fenster.fuehrung != nullptr) {
-        um_.r.fenster.fuehrung->mitlesen(this);
-    }
+    mithoerer_.beginnen();
+    zeigen();
     takt_->an();
 }
 
 void leitstand::entladen() {
     takt_->aus();
-    if (um_.r.fenster.fuehrung != nullptr) {
-        um_.r.fenster.fuehrung->mitlesen(nullptr);
-    }
-    hergang_.reset();
+    mithoerer_.aufhoeren();
     List_verlauf.leeren();
-}
-
-void leitstand::anhaengen(std::string_view zeile) {
-    constexpr std::string_view kopf_zu_ende = "# Anfang";  // of another log: a race begins anew
-    zu_viel_ = zu_viel_ || neu_.size() + zeile.size() > neu_.capacity() || zeile.starts_with(kopf_zu_ende);
-    if (!zu_viel_) {
-        neu_ += zeile;
-    }
-}
-
-void leitstand::von_vorn_lesen() {
-    neu_.clear();
-    zu_viel_ = false;
-    protokollfuehrung* fuehrung = um_.r.fenster.fuehrung;
-    hergang_ = std::make_unique<hergangsmitleser>(fuehrung == nullptr ? std::string() : fuehrung->bisher());
-    zeigen();
-}
-
-void leitstand::nachlesen() {
-    if (zu_viel_) {
-        von_vorn_lesen();
-        return;
-    }
-    constexpr std::string_view zeilenende = "\r\n";
-    std::string_view rest = neu_;
-    for (std::size_t ende = rest.find(zeilenende); ende != std::string_view::npos; ende = rest.find(zeilenende)) {
-        hergang_->zeile(rest.substr(0, ende + zeilenende.size()));
-        rest.remove_prefix(ende + zeilenende.size());
-    }
-    neu_.clear();
-    if (hergang_->anzahl() != gezeigt_bis_) {
-        zeigen();
-    }
 }
 
 bool leitstand::gehoert_dazu(const geschehen& g) const {
@@ -96,17 +55,17 @@ bool leitstand::gehoert_dazu(const geschehen& g) const {
 std::string leitstand::in_worten(const geschehen& g) const {
     std::string wer;
     if (g.spur != 0) {
-        wer = spur_ + " " + std::to_string(g.spur) + " " + hergang_->fahrername(g) + ":  ";
+        wer = spur_ + " " + std::to_string(g.spur) + " " + mithoerer_.hergang()->fahrername(g) + ":  ";
     }
     return hergang_zeit(g.seit_gruen, 3, worte_.komma) + "   " + wer + worte_.von(g);
 }
 
 void leitstand::zeigen() {
-    gezeigt_bis_ = hergang_ == nullptr ? 0 : hergang_->anzahl();
+    const hergangsmitleser* hergang = mithoerer_.hergang();
     List_verlauf.leeren();
     std::size_t zeilen = 0;
-    for (std::size_t i = gezeigt_bis_; i-- > 0 && zeilen < zeilen_max;) {
-        const geschehen g = hergang_->an(i);
+    for (std::size_t i = hergang == nullptr ? 0 : hergang->anzahl(); i-- > 0 && zeilen < zeilen_max;) {
+        const geschehen g = hergang->an(i);
         if (gehoert_dazu(g)) {
             List_verlauf.hinzufuegen(in_worten(g));
             ++zeilen;

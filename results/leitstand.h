@@ -2,21 +2,20 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/fensterlogik.h"
-#include "core/mitschrift.h"
 #include "race/hergangsworte.h"
 #include "race/rennen.h"
 #include "race/rennhergang.h"
 #include "results/protokollfenster.h"
+#include "results/protokollmithoerer.h"
 
 namespace tarvel {
 
 /// What the race director has before him while the race window fills another screen: what the log says, in words. The
 /// commands beside that are those of the race window.
-class leitstand final : public fensterlogik, private protokollsenke {
+class leitstand final : public fensterlogik {
 public:
     struct umfeld {
         const dateien& ablage;
@@ -27,9 +26,6 @@ public:
     };
 
     explicit leitstand(const umfeld& um);
-    leitstand(const leitstand&) = delete;
-    leitstand& operator=(const leitstand&) = delete;
-    ~leitstand() override;
 
     bezeichnung Label_verlauf;
     liste List_verlauf;  ///< the newest first
@@ -46,9 +42,6 @@ public:
     rennen& das_rennen() { return um_.r; }
 
 private:
-    void anhaengen(std::string_view zeile) override;
-    void von_vorn_lesen();
-    void nachlesen();
     bool gehoert_dazu(const geschehen& g) const;
     std::string in_worten(const geschehen& g) const;
     void zeigen();
@@ -57,10 +50,7 @@ private:
     hergangsworte worte_;
     std::string spur_;  ///< the word
     std::unique_ptr<plattform::zeitgeber> takt_;
-    std::unique_ptr<hergangsmitleser> hergang_;
-    std::string neu_;              ///< lines that have come since the last look
-    bool zu_viel_ = false;         ///< more than there was room for, or another log
-    std::size_t gezeigt_bis_ = 0;  ///< of what has happened
+    protokollmithoerer mithoerer_;
 };
 
 }  // namespace tarvel
