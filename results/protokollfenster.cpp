@@ -373,7 +373,7 @@ sprachliste protokollfenster::sprache_pr() {
     worte_.eintragen(texte);
     texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
     texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
-    return worte_.nachtragen(texte);
+    return korrektur_.eintragen(worte_.nachtragen(texte));
 }
 
 }  // namespace tarvel

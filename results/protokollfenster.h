@@ -13,6 +13,7 @@
 #include "race/hergangsworte.h"
 #include "race/rennen.h"
 #include "race/rennhergang.h"
+#include "results/korrekturworte.h"
 
 namespace tarvel {
 
@@ -89,7 +90,9 @@ public:
     const std::vector<std::size_t>& zeilen() const { return zeilen_; }
     const geschehen& zeile(std::size_t nummer) const { return hergang_.alle[zeilen_.at(nummer)]; }
     std::string zeit_von(const geschehen& g) const { return hergang_zeit(g.seit_gruen, 3, worte_.komma); }
-    std::string worte_von(const geschehen& g) const { return worte_.von(g); }
+    std::string worte_von(const geschehen& g) const {
+        return g.was == vorgang::korrektur ? korrektur_.von(g.text, worte_) : worte_.von(g);
+    }
     std::string fahrer(int spur) const;
     /// Who drove there as it happened.
     std::string fahrername(const geschehen& g) const { return hergang_.fahrername(g); }
@@ -147,6 +150,7 @@ private:
     umfeld um_;
     worte wort_;
     hergangsworte worte_;
+    korrekturworte korrektur_;
     std::unique_ptr<plattform::zeitgeber> pausentimer_;
     std::vector<std::string> namen_;  ///< of the logs in the list
     std::string name_;                ///< of the log that is shown, without its folder

@@ -1,6 +1,7 @@
 #include "race/rundenkorrektur.h"
 
 #include <random>
+#include <set>
 
 #include "programm/rennprotokoll.h"
 #include "results/korrekturliste.h"
@@ -235,6 +236,17 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
                               "# Korrektur zurück Spur 2 Runde 1 gelöscht", "# Korrektur wieder Spur 2 Restmeter 3"}) {
         EXPECT_NE(protokoll().find(zeile), std::string::npos) << zeile;
     }
+    a.Command_protokoll.klicken();
+    std::set<std::string> erzaehlt;
+    for (const geschehen& g : t.p.protokollfenster.hergang().alle) {
+        erzaehlt.insert(t.p.protokollfenster.worte_von(g));
+    }
+    for (const char* satz :
+         {"Korrektur: Spur 1, Runde 2: Überfahrt nachgetragen (1,500 s)",
+          "Korrektur zurückgenommen: Spur 2, Runde 1 gelöscht", "Korrektur gilt wieder: Spur 2, Restmeter 3"}) {
+        EXPECT_TRUE(erzaehlt.contains(satz)) << satz;
+    }
+    t.p.protokollfenster.Command_schliessen.klicken();
     a.Command5.klicken();
     const auto dateien_da = t.p.ablage.auflisten("Ergebnisse\\auto-Einzelrennen", "auto-", ".csv");
     ASSERT_EQ(dateien_da.size(), 1U);
