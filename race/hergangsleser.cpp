@@ -91,6 +91,11 @@ void hergangsleser::zeile(std::string_view text) {
 }
 
 void hergangsleser::zeiten_setzen() {
+    for (std::optional<offene>& o : offen_) {
+        if (o) {
+            h_.alle.push_back(std::move(o->was));
+        }
+    }
     h_.hat_gruen = gruen_.has_value();
     for (geschehen& g : h_.alle) {
         zeit_setzen(g);
@@ -166,6 +171,7 @@ void hergangsleser::einordnen(geschehen& g) {
     } else if (stempel_der_tat_) {  // what follows from a crossing that was told late happened with it
         g.stempel = *stempel_der_tat_;
     }
+    entschieden(g);
     if (bis_stempel(g)) {
         g.wert -= verschoben_;
     }
@@ -182,6 +188,34 @@ void hergangsleser::einordnen(geschehen& g) {
         g.grenze = ist_letzte(g.wert) ? 1 : 0;
     } else if (g.ist_abgelehnt()) {
         g.nach_pause = nach_pause_[g.spur];
+    }
+}
+
+void hergangsleser::erzaehlt(int spur, zeit_ms stempel) {
+    const bool spaet = stempel != geschehen::keine && pause_seit_ && stempel < *pause_seit_;
+    if (!pause_seit_ || spaet || !h_.kopf->param.spur_aktiv[spur]) {
+        return;
+    }
+    geschehen g{.was = vorgang::abgelehnt, .spur = spur, .fahrer = fahrer_[spur], .zeit = zeit_, .stempel = stempel};
+    g.nummer = static_cast<int>(ablehnung::pause);
+    const std::optional<offene>& davor = offen_[spur];
+    if (!davor || zeit_ - davor->was.zeit >= prellen_ms) {
+        offen_[spur] = {std::move(g), taten_};
+    }
+}
+
+/// What is decided while a crossing is told is about the one before it.
+void hergangsleser::entschieden(const geschehen& g) {
+    if (g.was == vorgang::pause) {
+        pause_seit_ = g.stempel;
+    } else if (g.was == vorgang::weiter || g.was == vorgang::gruen || g.was == vorgang::ende) {
+        pause_seit_.reset();
+        offen_.fuellen({});
+    } else if (g.was == vorgang::runde || g.was == vorgang::durchfahrt || g.ist_abgelehnt()) {
+        std::optional<offene>& o = offen_[g.spur];
+        if (o && (o->tat != taten_ || o->was.stempel == g.stempel)) {
+            o.reset();
+        }
     }
 }
 
@@ -202,6 +236,7 @@ void hergangsleser::tat(std::string_view name, std::string_view rest, bool ausse
         return;
     }
     stempel_der_tat_.reset();
+    ++taten_;
     if (ist_befehl) {
         anhaengen(vorgang::befehl, 0).nummer = std::distance(std::begin(hergang_befehle), befehl);
         if (name == "umsetzen") {
@@ -210,7 +245,14 @@ void hergangsleser::tat(std::string_view name, std::string_view rest, bool ausse
             ziel_ = zahl(rest).value_or(ziel_);
         }
     } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
-        geraet(zahl(rest).value_or(-1));
+        const std::int64_t was = zahl(rest).value_or(-1);
+        geraet(was);
+        const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), was);
+        if (lauf != art::rundenzaehlung.end()) {
+            const std::optional<std::int64_t> gestempelt = zahl(rest);
+            erzaehlt(static_cast<int>(lauf - art::rundenzaehlung.begin()) + 1,
+                     gestempelt ? *gestempelt - verschoben_ : geschehen::keine);
+        }
     } else if (name == "verschieben") {
         verschieben(zahl(rest).value_or(0));
     } else if (name == "nachruecken") {
@@ -254,6 +296,9 @@ void hergangsleser::taste(std::int64_t code) {
     geschehen& g = anhaengen(vorgang::taste, belegt ? treffer->spur : 0);
     g.nummer = code;
     g.wert = belegt ? treffer->zeile : 0;
+    if (belegt && treffer->spur != 0 && treffer->zeile == art::rundenzaehlung[treffer->spur]) {
+        erzaehlt(treffer->spur, geschehen::keine);
+    }
 }
 
 void hergangsleser::geraet(std::int64_t art) {

@@ -18,7 +18,8 @@ public:
     explicit hergangsleser(rennhergang& h);
 
     void zeile(std::string_view text);
-    /// When each thing was; puts them in order of time.
+    /// When each thing was; puts them in order of time. A pause that lasts to the end of the log refuses what was told
+    /// in it: the race notes that only with the next crossing of the lane, or with the end of the pause.
     void zeiten_setzen();
     /// When it was, as far as the green light is known.
     void zeit_setzen(geschehen& g) const;
@@ -47,6 +48,9 @@ private:
     void nachruecken(zeit_ms um);
     void taste(std::int64_t code);
     void geraet(std::int64_t art);
+    /// A crossing of the lane was told; its stamp may be unknown.
+    void erzaehlt(int spur, zeit_ms stempel);
+    void entschieden(const geschehen& g);
 
     rennhergang& h_;
     zeit_ms zeit_ = 0;
@@ -54,7 +58,15 @@ private:
     std::optional<start> gruen_;  ///< its stamp, like all until the end, by the clock as the log began
     zeit_ms verschoben_ = 0;      ///< what the clock has been moved by since
     int nachgerueckt_ = 0;        ///< so often without the crossings
-    std::int64_t ziel_ = 0;       ///< what the race goes for
+    /// A crossing that nothing has been decided about yet, and the doing that told it.
+    struct offene {
+        geschehen was;
+        int tat = 0;
+    };
+    spuren<std::optional<offene>> offen_{};
+    std::optional<zeit_ms> pause_seit_;
+    int taten_ = 0;
+    std::int64_t ziel_ = 0;  ///< what the race goes for
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};

@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-#include "core/platzhalter.h"
 #include "core/protokollordner.h"
 #include "core/text.h"
-#include "results/ergebnisdatei.h"
-#include "results/papiername.h"
 
 namespace tarvel {
 namespace {
@@ -15,6 +13,7 @@ namespace {
 constexpr std::size_t kopf_bytes_max = std::size_t{128} * 1024;
 constexpr zeit_ms ausschnitt_min_ms = 1000;
 constexpr double zoom_schritt = 2;
+constexpr int blick_ms = 200;
 
 }  // namespace
 
@@ -59,7 +58,9 @@ protokollfenster::gruppe protokollfenster::gruppe_von(vorgang was) {
 protokollfenster::protokollfenster(const umfeld& um)
     : fensterlogik(um.welt.fenster, um.welt.ablage, fenstername::protokoll),
       um_(um),
-      pausentimer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(50))) {
+      pausentimer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(50))),
+      blicktimer_(um.zeitgeber.erzeugen(plattform::zeitgeber_art::abfragend, dauer_ms(blick_ms))),
+      mithoerer_(um.r) {
     for (const gruppe g : {runden, abgelehnt, start_ziel, pausen, strafen, gruppe::tanken}) {
         Check_gruppe.at(g).gesetzt(true);
     }
@@ -67,6 +68,11 @@ protokollfenster::protokollfenster(const umfeld& um)
         // whoever drives wants to see the race, and before that its light
         if (!um_.r.zustand.chaos_aktiv || um_.r.chaos.geht_gleich_weiter()) {
             um_.welt.fenster.entladen(fenstername::protokoll);
+        }
+    };
+    blicktimer_->bei_tick = [this] {
+        if (mithoerer_.nachlesen()) {
+            nachgekommenes_zeigen();
         }
     };
     befehle_verbinden();
@@ -124,6 +130,8 @@ void protokollfenster::laden() {
 
 void protokollfenster::entladen() {
     pausentimer_->aus();
+    blicktimer_->aus();
+    mithoerer_.aufhoeren();
     hergang_ = {};
     zeilen_ = {};
     gewaehlt_ = -1;
@@ -154,6 +162,10 @@ void protokollfenster::zeigen(const std::string& datei) {
     }
     oeffnen(um_.r.zustand.chaos_aktiv ? anzeige_art::frei : anzeige_art::modal);
     Frame_dateien.sichtbar(false);
+    if (um_.r.zustand.chaos_aktiv) {
+        mithoerer_.beginnen();
+        blicktimer_->an();
+    }
     datei_lesen(name);
 }
 
@@ -191,9 +203,19 @@ void protokollfenster::dateien_auflisten() {
 
 void protokollfenster::datei_lesen(const std::string& name) {
     name_ = name;
-    const std::string inhalt = name.empty() ? "" : protokoll_lesen(um_.welt.ablage, name).value_or("");
+    if (!mithoerer_.inhalt().empty()) {
+        inhalt_zeigen(mithoerer_.inhalt());
+    } else {
+        inhalt_zeigen(name.empty() ? "" : protokoll_lesen(um_.welt.ablage, name).value_or(""));
+    }
+    if (um_.r.zustand.chaos_aktiv) {
+        waehlen(static_cast<int>(zeilen_.size()) - 1);  // whoever asks in a pause asks about what was just now
+    }
+}
+
+void protokollfenster::inhalt_zeigen(std::string_view inhalt) {
     hergang_ = hergang_lesen(inhalt);
-    Label_kopf.text(hergang_.kopf ? beschreibung(*hergang_.kopf) : name);
+    Label_kopf.text(hergang_.kopf ? beschreibung(*hergang_.kopf) : name_);
     std::vector<std::string> auswahl{wort_.alle_spuren};
     for (const int spur : alle_spuren) {
         auswahl.push_back(wort_.spur + " " + std::to_string(spur) + (fahrer(spur).empty() ? "" : " – " + fahrer(spur)));
@@ -205,8 +227,25 @@ void protokollfenster::datei_lesen(const std::string& name) {
     gewaehlt_ = -1;
     filtern();
     Label_hinweis.text(hinweis());
-    if (um_.r.zustand.chaos_aktiv) {
-        waehlen(static_cast<int>(zeilen_.size()) - 1);  // whoever asks in a pause asks about what was just now
+}
+
+void protokollfenster::nachgekommenes_zeigen() {
+    const bool das_letzte = gewaehlt_ + 1 == static_cast<int>(zeilen_.size());
+    const bool alles = ausschnitt_ == ganzes();
+    const std::vector<geschehen> vorher = std::exchange(hergang_, hergang_lesen(mithoerer_.inhalt())).alle;
+    std::size_t wahl = hergang_.alle.size();
+    if (const std::size_t alte = gewaehltes(); alte < vorher.size()) {  // what was told late may stand before it now
+        const auto dasselbe = [&alt = vorher[alte]](const geschehen& g) {
+            return g.was == alt.was && g.spur == alt.spur && g.zeit == alt.zeit && g.nummer == alt.nummer;
+        };
+        const auto da = std::find_if(hergang_.alle.begin(), hergang_.alle.end(), dasselbe);
+        wahl = static_cast<std::size_t>(da - hergang_.alle.begin());
+    }
+    ausschnitt_ = alles ? ganzes() : ausschnitt_;
+    filtern(wahl);
+    Label_hinweis.text(hinweis());
+    if (das_letzte) {
+        waehlen(static_cast<int>(zeilen_.size()) - 1);
     }
 }
 
@@ -218,48 +257,19 @@ bool protokollfenster::faehrt(int spur) const {
     return spur > 0 && hergang_.kopf && hergang_.kopf->param.spur_aktiv[spur];
 }
 
-std::string protokollfenster::beschreibung(const protokollkopf& kopf) const {
-    const rennziel ziel = kopf.param.renn_ziel;
-    std::string text = std::string(links(kopf.zeitpunkt, std::string_view("21.11.2026-14:03").size())) + "  ";
-    if (ziel == ziel_ohne_ende) {
-        text += wort_.ohne_ende;
-    } else if (ziel.ist_zeit()) {
-        text += eingesetzt(wort_.zeitrennen, {hergang_zeit(std::clamp<zeit_ms>(ziel.ms(), 0, 360'000'000), 0, ',')});
-    } else {
-        text += eingesetzt(wort_.rundenrennen, {std::to_string(ziel.runden())});
-    }
-    std::string namen;
-    for (const int spur : alle_spuren) {
-        if (kopf.param.spur_aktiv[spur]) {
-            namen += (namen.empty() ? ": " : ", ") + kopf.param.fahrer_name[spur];
-        }
-    }
-    return text + namen;
+std::size_t protokollfenster::gewaehltes() const {
+    const bool da = gewaehlt_ >= 0 && static_cast<std::size_t>(gewaehlt_) < zeilen_.size();
+    return da ? zeilen_[static_cast<std::size_t>(gewaehlt_)] : std::string::npos;
 }
 
-std::string protokollfenster::hinweis() const {
-    if (!hergang_.kopf) {
-        return name_.empty() ? wort_.keine : wort_.unlesbar;
-    }
-    const std::size_t anzahl = hergang_.abgelehnte(0).size();
-    std::string text = anzahl == 1 ? wort_.einer : eingesetzt(wort_.mehrere, {std::to_string(anzahl)});
-    if (const zeit_ms gestanden = hergang_.pausen(); gestanden > 0) {
-        text += "  " + eingesetzt(wort_.mit_pausen, {hergang_zeit(gestanden, 0, worte_.komma)});
-    }
-    return hergang_.ganz ? text : text + "  " + wort_.beschaedigt;
-}
-
-void protokollfenster::filtern() {
-    const std::size_t vorher = gewaehlt_ >= 0 && static_cast<std::size_t>(gewaehlt_) < zeilen_.size()
-                                   ? zeilen_[static_cast<std::size_t>(gewaehlt_)]
-                                   : hergang_.alle.size();
+void protokollfenster::filtern(std::size_t gewaehltes) {
     const int spur = std::max(cbo_spur.platz(), 0);
     zeilen_.clear();
     gewaehlt_ = -1;
     for (std::size_t i = 0; i < hergang_.alle.size(); ++i) {
         const geschehen& g = hergang_.alle[i];
         if (Check_gruppe.at(gruppe_von(g.was)).gesetzt() && (spur == 0 || g.spur == 0 || g.spur == spur)) {
-            gewaehlt_ = i == vorher ? static_cast<int>(zeilen_.size()) : gewaehlt_;
+            gewaehlt_ = i == gewaehltes ? static_cast<int>(zeilen_.size()) : gewaehlt_;
             zeilen_.push_back(i);
         }
     }
@@ -336,44 +346,6 @@ void protokollfenster::schieben(zeit_ms um) {
     const zeit_ms weit = ganzes().dauer();
     um = std::clamp(um, -weit, weit);
     ausschnitt_setzen({ausschnitt_.von + um, ausschnitt_.bis + um});
-}
-
-std::string protokollfenster::blatt_datei() const {
-    return papiername(ergebnis_ordner::einzelrennen, {}, name_.substr(0, name_.rfind('.')) + " " + titel.text());
-}
-
-hergangsworte protokollfenster::in_worten() {
-    texte_lesen();
-    return worte_;
-}
-
-sprachliste protokollfenster::sprache_pr() {
-    sprachliste texte("language\\language_pr.txt", sprachliste::form::zeilen);
-    texte.text("Protokoll", titel).text("Rennen, das neueste zuerst", Label_dateien);
-    texte.text("Spur", Label_spur).text("alle Spuren", wort_.alle_spuren).text("Spur", wort_.spur);
-    texte.text("Runden", Check_gruppe[runden]).text("Abgelehnt", Check_gruppe[abgelehnt]);
-    texte.text("Start und Ziel", Check_gruppe[start_ziel]).text("Pausen", Check_gruppe[pausen]);
-    texte.text("Strafen", Check_gruppe[strafen]).text("Tanken", Check_gruppe[gruppe::tanken]);
-    texte.text("Plätze, Sektoren", Check_gruppe[plaetze]).text("Befehle, Tasten", Check_gruppe[befehle]);
-    texte.text("Geräte", Check_gruppe[geraete]);
-    texte.text("Größer", Command_groesser).text("Kleiner", Command_kleiner).text("Alles", Command_ganz);
-    texte.text("Drucken", Command_drucken).text("Als PDF speichern", Command_pdf);
-    texte.text("Wiedergabe", Command_wiedergabe).text("Schließen", Command_schliessen);
-    texte.text("ab Grün", wort_.spalten[0]).text("Spur", wort_.spalten[1]).text("Fahrer", wort_.spalten[2]);
-    texte.text("Was geschah", wort_.spalten[3]);
-    texte.text("Rennen über %1 Runden", wort_.rundenrennen).text("Zeitrennen über %1", wort_.zeitrennen);
-    texte.text("Rennen ohne Ende", wort_.ohne_ende);
-    texte.text("Dieses Protokoll ist nicht lesbar oder aus einer anderen Version.", wort_.unlesbar);
-    texte.text("Ein Teil am Ende ist beschädigt; gezeigt wird, was davor steht.", wort_.beschaedigt);
-    texte.text("Es gibt noch kein Protokoll.", wort_.keine).text("1 Überfahrt nicht gezählt.", wort_.einer);
-    texte.text("%1 Überfahrten nicht gezählt.", wort_.mehrere);
-    texte.text("Zu diesem Rennen gibt es kein Protokoll.", wort_.kein_protokoll);
-    texte.text("Die PDF-Datei konnte nicht geschrieben werden.", wort_.pdf_fehler);
-    texte.text("Der Drucker nimmt die Seite nicht an.", wort_.druckfehler);
-    worte_.eintragen(texte);
-    texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
-    texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
-    return korrektur_.eintragen(worte_.nachtragen(texte));
 }
 
 }  // namespace tarvel

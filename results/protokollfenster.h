@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/einstellungen.h"
@@ -14,6 +15,7 @@
 #include "race/rennen.h"
 #include "race/rennhergang.h"
 #include "results/korrekturworte.h"
+#include "results/protokollmithoerer.h"
 
 namespace tarvel {
 
@@ -71,7 +73,7 @@ public:
     std::function<void(const std::string& datei, std::optional<zeit_ms> ab)> wiedergeben;
 
     /// Opens the window on one log, by its name below the program folder. In a pause the race goes before it: the
-    /// window is not modal, and closes with the pause.
+    /// window is not modal, shows what still comes, and closes with the pause.
     void zeigen(const std::string& datei);
     /// Opens it with all logs to choose from, at first on the named one or the newest.
     void auswahl_zeigen(std::string_view zuerst = {});
@@ -131,8 +133,8 @@ public:
 
 private:
     struct worte {
-        std::string alle_spuren, spur, rundenrennen, zeitrennen, ohne_ende, unlesbar, beschaedigt, keine, einer,
-            mehrere;
+        std::string alle_spuren, spur, rundenrennen, zeitrennen, ohne_ende, unlesbar, beschaedigt, keine,
+            einer, mehrere;
         std::string pdf_fehler, druckfehler, kein_protokoll, mit_pausen, zeit_tipp;
         std::array<std::string, 4> spalten;  ///< of the table
     };
@@ -141,7 +143,14 @@ private:
     void oeffnen(anzeige_art art);
     void dateien_auflisten();
     void datei_lesen(const std::string& name);
-    void filtern();
+    void inhalt_zeigen(std::string_view inhalt);
+    /// What has come to the log since, while the window is open in a pause.
+    void nachgekommenes_zeigen();
+    /// Shows what is ticked; of that, `gewaehltes` of all happenings stays chosen.
+    void filtern(std::size_t gewaehltes);
+    void filtern() { filtern(gewaehltes()); }
+    /// The place of the chosen row in all happenings; behind their end for none.
+    std::size_t gewaehltes() const;
     void ausschnitt_setzen(zeitraum neu);
     std::string beschreibung(const protokollkopf& kopf) const;
     std::string hinweis() const;
@@ -152,6 +161,8 @@ private:
     hergangsworte worte_;
     korrekturworte korrektur_;
     std::unique_ptr<plattform::zeitgeber> pausentimer_;
+    std::unique_ptr<plattform::zeitgeber> blicktimer_;  ///< in a pause: what has come since
+    protokollmithoerer mithoerer_;
     std::vector<std::string> namen_;  ///< of the logs in the list
     std::string name_;                ///< of the log that is shown, without its folder
     rennhergang hergang_;

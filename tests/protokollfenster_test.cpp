@@ -52,6 +52,17 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
     nur({f::abgelehnt, f::pausen});
     EXPECT_EQ(zeilen(), (std::vector<std::string>{"1 zu kurz: 1,000 s, gezählt wird ab 5,100 s", "0 Pause"}));
     t.maschine.laufen(4000);
+    fenster().waehlen(1);
+    t.runde_nach(0, "2");
+    t.maschine.laufen(300);
+    EXPECT_EQ(zeilen().back(), "2 Pause") << "what comes while it is open, though the race has still to note it";
+    EXPECT_EQ(fenster().Label_hinweis.text(), "2 Überfahrten nicht gezählt.");
+    EXPECT_EQ(fenster().gewaehlt(), 2) << "the last row was chosen, and is again";
+    fenster().waehlen(0);
+    t.runde_nach(1000, "1");
+    t.maschine.laufen(300);
+    EXPECT_EQ(zeilen().size(), 4U);
+    EXPECT_EQ(fenster().gewaehlt(), 0) << "who looks at another row goes on looking at it";
     EXPECT_TRUE(offen(fenstername::protokoll));
     fenster().Command_weiter.klicken();
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv || t.bahn().Command_protokoll.sichtbar());
