@@ -167,6 +167,7 @@ private:
         std::string gesamtzeit;  ///< and what the total time is
         std::string zurueck, wieder, nachgetragen, geteilt, ausfall, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
+        std::string plaetze_stimmen, plaetze_neu;
         std::string folge;                   ///< in front of the order that the race window does not show
         std::string folge_ab_erster;         ///< the same where it is the own first crossing that makes it
         std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
@@ -174,6 +175,7 @@ private:
 
     void befehle_verbinden();
     void spurbefehle_verbinden(std::size_t i);
+    void platzierung_pruefen();
     void tipps_eintragen(sprachliste& texte);
     void korrekturtexte(sprachliste& texte);
     void ansagen_setzen();

@@ -35,7 +35,7 @@ void auswertung::befehle_verbinden() {
     Command7.bei_klick = [this] { selbstlauf_unterbrechen(); };
     Command8.bei_klick = [this] { runde_loeschen(); };
     Command9.bei_klick = [this] { bestzeiten_oeffnen(aktion::keine); };
-    Command10.bei_klick = [this] { auswertung_anzeigen(); };
+    Command10.bei_klick = [this] { platzierung_pruefen(); };
     Command_nachtragen.bei_klick = [this] { nachtrag_oeffnen(); };
     Command_zurueck.bei_klick = [this] { korrektur_zuruecknehmen(); };
     Command_wieder.bei_klick = [this] { korrektur_wiederherstellen(); };
@@ -58,6 +58,13 @@ void auswertung::befehle_verbinden() {
     in_ruhe(Command_wiedergabe, wiedergabe_zeigen);
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
     neues_ziel.laenge_max(eingabe_laenge_max);
+}
+
+/// Most often nothing changes, and whoever has pressed wonders.
+void auswertung::platzierung_pruefen() {
+    const rennergebnis vorher = ergebnis();
+    auswertung_anzeigen();
+    um_.meldungen.zeigen(ergebnis() == vorher ? wort_.plaetze_stimmen : wort_.plaetze_neu, um_.txt.titel[0]);
 }
 
 void auswertung::spurbefehle_verbinden(std::size_t i) {

@@ -74,7 +74,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);
     texte.text("Tank leer", blatt.tank_leer);
     texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
-    return nachtrag.ohne_pausen_nennen(texte);
+    nachtrag.ohne_pausen_nennen(texte).text("Geprüft: Die Plätze stimmen.", wort_.plaetze_stimmen);
+    return texte.text("Geprüft: Die Plätze haben sich geändert.", wort_.plaetze_neu);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

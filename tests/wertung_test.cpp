@@ -183,6 +183,7 @@ TEST_F(WertungKorrektur, MeterEntscheidenUndGehenAnAusgeschiedenenVorbei) {
     EXPECT_EQ(t.ergebnis(2).platz, 1);
     a.Command10.klicken();
     EXPECT_EQ(a.ges_meter[1].text(), "27,46 m") << "counts once";
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.back().text, "Geprüft: Die Plätze stimmen.");
     a.Command6.klicken();
     a.meter[1].eingeben("viel");
     a.Command6.klicken();
