@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <utility>
 
+#include "core/dateien.h"
 #include "core/text.h"
 #include "results/ergebnisdatei.h"
 
@@ -89,13 +91,14 @@ sprachliste tagesrennen_fenster::sprache_lf() {
     fuehrung_.eintragen(texte);
     texte.tipp("Jeder Fahrer gehört zu einer Klasse. Die Auswertung führt jede Klasse für sich.", Check1);
     texte.text("Rennen, beste Runde", wort_.ein_rennen);
-    return texte.text(
+    texte.text(
         "Alle Rennen des Tages stehen in einer Datei. Gibt es sie schon, kommen die neuen hinten dazu, und die alten "
         "bleiben. Lässt sie sich nicht öffnen, ist sie keine eines Tagesrennens: dann bitte einen anderen Namen.",
         [this](const std::string& tipp) {
             text_lf_datei.tipp(tipp);
             Label_lf_hinweis.tipp(tipp);
         });
+    return texte.text("Das geht in keinem Dateinamen:", wort_.zeichen);
 }
 
 void tagesrennen_fenster::laden() {
@@ -203,7 +206,7 @@ void tagesrennen_fenster::datei_pruefen() {
     } else if (zustand == tagesdatei_zustand::neu) {
         Label_lf_hinweis.text(wort_.neu);
     } else {
-        Label_lf_hinweis.text(bereit ? wort_.bereit : wort_.unbrauchbar);
+        Label_lf_hinweis.text(bereit ? wort_.bereit : warum_unbrauchbar());
     }
     Command1.aktiviert(bereit);
     zeilen_.clear();
@@ -212,6 +215,14 @@ void tagesrennen_fenster::datei_pruefen() {
     }
     zeilen_zeigen();
     fuehrung_zeigen(bereit);
+}
+
+std::string tagesrennen_fenster::warum_unbrauchbar() const {
+    const std::string name = dateiname();
+    const std::string moeglich = als_dateiname(name);         // of the same length
+    const std::ptrdiff_t ab = name.starts_with('.') ? 1 : 0;  // further behind it may stand
+    const auto erstes = std::mismatch(name.begin() + ab, name.end(), moeglich.begin() + ab).first;
+    return erstes == name.end() ? wort_.unbrauchbar : wort_.zeichen + " " + *erstes;
 }
 
 void tagesrennen_fenster::fuehrung_zeigen(bool bereit) {
@@ -295,8 +306,8 @@ bool tagesrennen_fenster::datei_bereitstellen() {
         Label_lf_hinweis.text(angelegt ? wort_.angelegt : wort_.bereit);
         Command1.aktiviert(true);
     } else {
-        Label_lf_hinweis.text(wort_.unbrauchbar);
-        ablehnen(wort_.unbrauchbar, text_lf_datei);
+        Label_lf_hinweis.text(warum_unbrauchbar());
+        ablehnen(warum_unbrauchbar(), text_lf_datei);
     }
     return bereit;
 }

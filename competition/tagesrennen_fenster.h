@@ -75,7 +75,7 @@ public:
 
 private:
     struct worte {
-        std::string pruefe, neu, angelegt, bereit, unbrauchbar, name_fehlt, klasse_fehlt, nicht_gesichert;
+        std::string pruefe, neu, angelegt, bereit, unbrauchbar, zeichen, name_fehlt, klasse_fehlt, nicht_gesichert;
         std::string klasse, name, runden, meter, beste, gesamtzeit, spur, bisher, rennen, ein_rennen;
         std::array<std::string, klassenzeilen> klassen_text;
     };
@@ -86,6 +86,8 @@ private:
     void parameter_zeigen();
     void parameter_sichern(const tagesparameter& werte);
     void datei_geaendert();
+    /// Why the file cannot be used: its name, or what is in it.
+    std::string warum_unbrauchbar() const;
     void zeilen_zeigen();
     void fuehrung_zeigen(bool bereit);
     /// What the day's file knows of the driver; his class is the one he had last.

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "core/protokollordner.h"
 #include "programm/rennprotokoll.h"
 #include "tests/programm_probe.h"
@@ -151,12 +153,17 @@ TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichte
 TEST_F(Tagesrennen, FremdeDateiUndUnmoeglicherNameWerdenNichtBenutzt) {
     t.maschine.datei_schreiben(samstag, "fremd\r\n");
     oeffnen();
-    for (const char* name : {"Samstag", "..\\Samstag", "a/b", ".csv"}) {
+    const std::string kein_name = "Das geht in keinem Dateinamen: ";
+    const std::string keine_tagesdatei = "Fehler beim Öffnen der Datei.";
+    for (const auto& [name, warum] : {std::pair("Samstag", keine_tagesdatei),
+                                      {"..\\Samstag", kein_name + "\\"},
+                                      {"a/b", kein_name + "/"},
+                                      {".csv", keine_tagesdatei}}) {
         datei(name);
-        EXPECT_EQ(f.Label_lf_hinweis.text(), "Fehler beim Öffnen der Datei.") << name;
+        EXPECT_EQ(f.Label_lf_hinweis.text(), warum) << name;
         EXPECT_FALSE(f.Command1.aktiviert()) << name;
         f.Command18.klicken();
-        EXPECT_EQ(letzte_meldung(), "Fehler beim Öffnen der Datei.") << name;
+        EXPECT_EQ(letzte_meldung(), warum) << name;
         EXPECT_TRUE(offen(fenstername::Tagesrennen)) << name;
     }
     datei("");
