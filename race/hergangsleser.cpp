@@ -1,12 +1,14 @@
 #include "race/hergangsleser.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <string_view>
 #include <utility>
 
 #include "core/einstellungswerte.h"
 #include "core/protokollzeile.h"
+#include "core/text.h"
 
 namespace tarvel {
 namespace {
@@ -85,8 +87,19 @@ void hergangsleser::zeile(std::string_view text) {
         kopfzeile(satz.rest);
     } else if (satz.ist_entscheidung()) {
         entscheidung(satz.rest);
+    } else if (satz.tiefe > 0 && satz.wort == "datum") {
+        std::string_view rest = satz.rest;
+        datum(zahl(rest).value_or(0));
     } else {
         tat(satz.wort, satz.rest, satz.tiefe == 0);
+    }
+}
+
+void hergangsleser::datum(std::int64_t antwort) {
+    if (std::exchange(endet_, false)) {
+        const std::int64_t uhrzeit = std::abs(antwort) % 1'000'000;
+        h_.ende =
+            ziffern(uhrzeit / 10'000, 2) + ":" + ziffern(uhrzeit / 100 % 100, 2) + ":" + ziffern(uhrzeit % 100, 2);
     }
 }
 
@@ -181,6 +194,8 @@ void hergangsleser::einordnen(geschehen& g) {
         nach_pause_[g.spur] = false;
     } else if (g.was == vorgang::strafe && g.nummer == 1) {
         nach_pause_[g.spur] = true;
+    } else if (g.was == vorgang::ende) {
+        endet_ = true;
     } else if (g.was == vorgang::runde) {
         letzte_runde_[g.spur] = g.nummer;
     } else if (g.was == vorgang::leer && g.nummer == static_cast<int>(leer_aktion::stromunterbrechung)) {

@@ -42,6 +42,7 @@ private:
     /// `aussen`: it does not lie in another, where answers look alike.
     void tat(std::string_view name, std::string_view rest, bool aussen);
     void umsetzen(std::string_view rest);
+    void datum(std::int64_t antwort);
     bool ist_letzte(std::int64_t runde) const;
     void verschieben(zeit_ms um);
     /// What crossings have been stamped with is right already.
@@ -67,6 +68,7 @@ private:
     std::optional<zeit_ms> pause_seit_;
     int taten_ = 0;
     std::int64_t ziel_ = 0;  ///< what the race goes for
+    bool endet_ = false;     ///< the next time of day is that of the end
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};

@@ -77,6 +77,7 @@ struct rennhergang {
     std::optional<protokollkopf> kopf;  ///< none: no log, or of another version
     std::vector<geschehen> alle;        ///< in order of time
     bool ganz = false;                  ///< read to the last byte; else up to a line that is torn or damaged
+    std::string ende;                   ///< time of day as its result has it, "14:12:34"; empty if it has none
     bool hat_gruen = false;             ///< without a start, times count from the opening of the window
 
     /// Who drove on the lane then; empty for all, and where nobody did.

@@ -127,7 +127,7 @@ std::string auswertung::kopf() const {
     if (e.vorzeitig.value_or(false)) {
         kopf += "  ·  " + wort_.vorzeitig;
     }
-    return kopf + "  ·  " + e.datum + " " + e.uhrzeit;
+    return kopf + "  ·  " + e.datum + ", " + wort_.ende + " " + e.uhrzeit;
 }
 
 void auswertung::bedienung_einrichten() {

@@ -192,7 +192,7 @@ void protokollfenster::dateien_auflisten() {
     for (const std::string& name : namen_) {
         const std::string anfang = protokoll_lesen(um_.welt.ablage, name, kopf_bytes_max).value_or("");
         const std::optional<protokollkopf> kopf = hergang_kopf(anfang);
-        List_dateien.hinzufuegen(kopf ? beschreibung(*kopf) : name);
+        List_dateien.hinzufuegen(kopf ? beschreibung(*kopf, {}) : name);
     }
     if (namen_.empty()) {
         datei_lesen("");
@@ -215,7 +215,7 @@ void protokollfenster::datei_lesen(const std::string& name) {
 
 void protokollfenster::inhalt_zeigen(std::string_view inhalt) {
     hergang_ = hergang_lesen(inhalt);
-    Label_kopf.text(hergang_.kopf ? beschreibung(*hergang_.kopf) : name_);
+    Label_kopf.text(hergang_.kopf ? beschreibung(*hergang_.kopf, hergang_.ende) : name_);
     std::vector<std::string> auswahl{wort_.alle_spuren};
     for (const int spur : alle_spuren) {
         auswahl.push_back(wort_.spur + " " + std::to_string(spur) + (fahrer(spur).empty() ? "" : " – " + fahrer(spur)));

@@ -133,9 +133,9 @@ public:
 
 private:
     struct worte {
-        std::string alle_spuren, spur, rundenrennen, zeitrennen, ohne_ende, unlesbar, beschaedigt, keine,
+        std::string alle_spuren, spur, rundenrennen, eine_runde, zeitrennen, ohne_ende, unlesbar, beschaedigt, keine,
             einer, mehrere;
-        std::string pdf_fehler, druckfehler, kein_protokoll, mit_pausen, zeit_tipp;
+        std::string pdf_fehler, druckfehler, kein_protokoll, mit_pausen, zeit_tipp, ab, von_bis;
         std::array<std::string, 4> spalten;  ///< of the table
     };
 
@@ -152,7 +152,8 @@ private:
     /// The place of the chosen row in all happenings; behind their end for none.
     std::size_t gewaehltes() const;
     void ausschnitt_setzen(zeitraum neu);
-    std::string beschreibung(const protokollkopf& kopf) const;
+    /// Which race, and when: from the opening of its window on, to its end if that is known.
+    std::string beschreibung(const protokollkopf& kopf, std::string_view ende) const;
     std::string hinweis() const;
     void fehler_melden(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[1]); }
 

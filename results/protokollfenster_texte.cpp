@@ -13,15 +13,22 @@
 
 namespace tarvel {
 
-std::string protokollfenster::beschreibung(const protokollkopf& kopf) const {
+std::string protokollfenster::beschreibung(const protokollkopf& kopf, std::string_view ende) const {
+    constexpr std::size_t stunde_minute = 5;
+    std::string_view zeitpunkt = kopf.zeitpunkt;  // "21.11.2026-14:03:22"
+    const std::size_t strich = std::min(zeitpunkt.find('-'), zeitpunkt.size());
+    std::string text = std::string(zeitpunkt.substr(0, strich)) + "  ";
+    zeitpunkt.remove_prefix(std::min(strich + 1, zeitpunkt.size()));
+    text += eingesetzt(ende.empty() ? wort_.ab : wort_.von_bis,
+                       {std::string(links(zeitpunkt, stunde_minute)), std::string(links(ende, stunde_minute))}) +
+            "  ";
     const rennziel ziel = kopf.param.renn_ziel;
-    std::string text = std::string(links(kopf.zeitpunkt, std::string_view("21.11.2026-14:03").size())) + "  ";
     if (ziel == ziel_ohne_ende) {
         text += wort_.ohne_ende;
     } else if (ziel.ist_zeit()) {
         text += eingesetzt(wort_.zeitrennen, {hergang_zeit(std::clamp<zeit_ms>(ziel.ms(), 0, 360'000'000), 0, ',')});
     } else {
-        text += eingesetzt(wort_.rundenrennen, {std::to_string(ziel.runden())});
+        text += ziel.runden() == 1 ? wort_.eine_runde : eingesetzt(wort_.rundenrennen, {std::to_string(ziel.runden())});
     }
     std::string namen;
     for (const int spur : alle_spuren) {
@@ -79,7 +86,8 @@ sprachliste protokollfenster::sprache_pr() {
     worte_.eintragen(texte);
     texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
     texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
-    return korrektur_.eintragen(worte_.nachtragen(texte));
+    korrektur_.eintragen(worte_.nachtragen(texte)).text("Rennen über 1 Runde", wort_.eine_runde);
+    return texte.text("ab %1", wort_.ab).text("%1 bis %2", wort_.von_bis);
 }
 
 }  // namespace tarvel

@@ -329,7 +329,8 @@ std::string w_auswertung2::kopf() const {
         return Label_datei.text();
     }
     const auto wertung = static_cast<std::size_t>(rennen_->wertung.value_or(sortier_modus::runden)) - 1;
-    return wort_.rennen + " " + rennen_->datum + " " + rennen_->uhrzeit + "  ·  " + wort_.wertung.at(wertung);
+    return wort_.rennen + " " + rennen_->datum + ", " + wort_.ende + " " + rennen_->uhrzeit + "  ·  " +
+           wort_.wertung.at(wertung);
 }
 
 std::optional<std::string> w_auswertung2::gezeigtes_rennen() const {

@@ -136,7 +136,7 @@ private:
         std::string titel, keine_datei, dateifehler, anderer_typ, nicht_sortierbar, klasse_fragen, klasse_titel;
         std::string eintrag_waehlen, falscher_wert, schreibfehler, name_fehlt, zeichen, ueberschreiben, veraendert;
         std::string verwerfen, zu_lang, summe_zu_lang, nicht_ueber, zu_viele, kein_blatt, pdf_fehler, druckfehler;
-        std::string keine_tabelle, eintrag, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
+        std::string keine_tabelle, ende, eintrag, eintraege, eine_weitere, weitere, addiert, addiert_alle, rennen;
         std::string debug_auf, debug_zu, alle_plaetze, automatisch, ohne_klasse;
         std::array<std::string, 3> wertung;
         std::array<std::array<std::string, 2>, 3> details;  ///< in, out

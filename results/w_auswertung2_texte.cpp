@@ -37,7 +37,7 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     blatt.nachtragen(texte);
     blatt.ab_gruen_nennen(blatt.rueckstand.eintragen(texte)).text("automatisch gesichert", wort_.automatisch);
     blatt.fruehstart_nennen(texte.text("ohne Klasse", wort_.ohne_klasse));
-    return texte.text("Eintrag", wort_.eintrag);
+    return texte.text("Eintrag", wort_.eintrag).text("Ende", wort_.ende);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {

@@ -327,9 +327,10 @@ TEST_F(Ergebnisbetrachter, ZeigtRennenAlsBlattUndVerlauf) {
     EXPECT_EQ(w.rennen()->spuren.at(0).fahrer, "Cem");
     EXPECT_EQ(w.rennen()->spuren.at(0).platz, 1);
     w.opt_sortieren_nach[0].umschalten();
-    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Runden") << "as long as the places are those";
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026, Ende 15:00:00  ·  gewertet nach Runden")
+        << "as long as the places are those";
     w.Command3.klicken();
-    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026 15:00:00  ·  gewertet nach Metern");
+    EXPECT_EQ(w.kopf(), "Rennen 21.11.2026, Ende 15:00:00  ·  gewertet nach Metern");
     EXPECT_EQ(w.blatt_datei(), "Ergebnisse\\Tagesrennen\\eins Ergebnisblatt 2");
     w.Command_blick[3].klicken();
     EXPECT_EQ(w.vergleich().size(), 3U);
