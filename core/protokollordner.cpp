@@ -105,7 +105,8 @@ std::vector<std::string> protokolle_auflisten(const dateien& ablage, std::size_t
 std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_view name, std::size_t bytes_max) {
     const fs::path datei = ablage.pfad(im_ordner(name));
     std::ifstream eingabe;
-    if (ist_lesbar(datei, protokoll_bytes_max)) {
+    const bool ganz = bytes_max >= protokoll_bytes_max;
+    if (ist_lesbar(datei, ganz ? protokoll_bytes_max : std::numeric_limits<std::uintmax_t>::max())) {
         eingabe.open(datei, std::ios::binary);
     }
     if (!eingabe.is_open()) {

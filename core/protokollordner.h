@@ -22,7 +22,7 @@ std::string neuer_protokollname(const dateien& ablage, const plattform::datum_uh
 /// The names of the logs, without the folder, the newest first; so many at most.
 std::vector<std::string> protokolle_auflisten(const dateien& ablage,
                                               std::size_t anzahl = std::numeric_limits<std::size_t>::max());
-/// The bytes of a log; none if it cannot be read. `bytes_max`: only its beginning, up to that.
+/// The bytes of a log; none if it cannot be read. `bytes_max`: only its beginning, up to that, however long it is.
 std::optional<std::string> protokoll_lesen(const dateien& ablage, std::string_view name,
                                            std::size_t bytes_max = protokoll_bytes_max);
 

@@ -16,7 +16,7 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t gesucht_max = 20;  // logs that are looked at
+constexpr std::size_t kopf_bytes = std::size_t{16} * 1024;  // of a log, with what its race is part of
 constexpr std::chrono::hours ausfall_max{24};
 constexpr std::string_view abend_kennung = "wettkampf";
 constexpr std::string_view kopie_endung = ".beschaedigt";
@@ -97,10 +97,20 @@ std::optional<wiederaufnahme::kandidat> wiederaufnahme::lesen(const std::string&
     return k;
 }
 
+std::string wiederaufnahme::teil_von(const std::string& name) const {
+    return std::string(teil_von_lesen(protokoll_lesen(um_.ablage, name, kopf_bytes).value_or("")));
+}
+
 std::optional<wiederaufnahme::kandidat> wiederaufnahme::letztes_abendrennen() const {
-    for (const std::string& name : protokolle_auflisten(um_.ablage, gesucht_max)) {
+    for (const std::string& name : protokolle_auflisten(um_.ablage)) {
+        const std::string kennung = teil_von(name);
+        const abendrennen dort = abendrennen_lesen(kennung);
+        const bool von_hier = dort.abend.empty() || dort.abend == um_.wettkampf.wettkampfabend.abendname();
+        if (dort.art != abend_kennung || !von_hier) {
+            continue;  // what other evenings have driven since takes nothing from this one
+        }
         std::optional<kandidat> k = lesen(name);
-        if (k && k->stand.gestartet && k->stand.kopf.teil_von.starts_with(abend_kennung)) {
+        if (k && k->stand.gestartet) {
             return k;
         }
     }
@@ -167,7 +177,7 @@ void wiederaufnahme::nach_dem_start_anbieten() {
 void wiederaufnahme::anbieten() {
     nach_dem_start_ = false;
     using antwort = plattform::dreifache_antwort;
-    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage, gesucht_max);
+    const std::vector<std::string> namen = protokolle_auflisten(um_.ablage);
     auto stelle = namen.begin();
     std::optional<kandidat> k = naechstes_von(stelle, namen.end());
     const std::optional<antwort> abend = um_.wettkampf.wettkampfablauf.letzten_anbieten(k.has_value());
@@ -192,9 +202,13 @@ void wiederaufnahme::anbieten() {
 
 std::optional<wiederaufnahme::kandidat> wiederaufnahme::naechstes_von(namensstelle& stelle, namensstelle ende) const {
     while (stelle != ende) {
-        std::optional<kandidat> k = lesen(*stelle++);
-        if (k && k->stand.fortsetzbar() && !k->stand.kopf.teil_von.starts_with(abend_kennung)) {
-            return k;  // those of an evening wait there
+        const std::string& name = *stelle++;
+        if (teil_von(name).starts_with(abend_kennung)) {
+            continue;  // those of an evening wait there
+        }
+        std::optional<kandidat> k = lesen(name);
+        if (k && k->stand.fortsetzbar()) {
+            return k;
         }
     }
     return std::nullopt;

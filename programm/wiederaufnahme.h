@@ -62,11 +62,13 @@ private:
     using namensstelle = std::vector<std::string>::const_iterator;
 
     std::optional<kandidat> lesen(const std::string& name) const;
+    /// What the race of the log is part of, from its head alone: there may be hundreds of logs.
+    std::string teil_von(const std::string& name) const;
     /// The first of these logs whose race can go on by itself; `stelle` is behind it then.
     std::optional<kandidat> naechstes_von(namensstelle& stelle, namensstelle ende) const;
     /// Says no only if another one is to be shown.
     plattform::dreifache_antwort einzeln_anbieten(const kandidat& k, bool noch_eines) const;
-    /// The race of an evening that has seen its green light last.
+    /// The race of the evening that goes on which has seen its green light last.
     std::optional<kandidat> letztes_abendrennen() const;
     std::string frage(const protokollstand& stand) const;
     /// What stands on its buttons; `nein` is what follows if it is not taken.

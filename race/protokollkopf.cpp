@@ -129,4 +129,18 @@ std::optional<gelesener_kopf> kopf_lesen(std::span<const std::string_view> zeile
     return std::nullopt;
 }
 
+std::string_view teil_von_lesen(std::string_view anfang) {
+    protokollleser leser(anfang);
+    while (const auto zeile = leser.zeile()) {
+        std::string_view rest = *zeile;
+        if (naechstes_wort(rest) != "#") {
+            break;
+        }
+        if (naechstes_wort(rest) == teil) {
+            return rest;
+        }
+    }
+    return {};
+}
+
 }  // namespace tarvel

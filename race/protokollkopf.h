@@ -31,5 +31,7 @@ struct gelesener_kopf {
     std::size_t zeilen = 0;
 };
 std::optional<gelesener_kopf> kopf_lesen(std::span<const std::string_view> zeilen);
+/// What the race is part of, from the beginning of its log, which may end within the head. Empty if it does not say.
+std::string_view teil_von_lesen(std::string_view anfang);
 
 }  // namespace tarvel

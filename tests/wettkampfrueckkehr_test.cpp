@@ -6,6 +6,7 @@
 #include "core/einstellungstabelle.h"
 #include "core/nebendateien.h"
 #include "core/text.h"
+#include "programm/rennprotokoll.h"
 #include "results/rundenspeichern.h"
 #include "tests/wettkampfabend_probe.h"
 
@@ -160,6 +161,45 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     EXPECT_EQ(neu.einst.fruehstart_strafzeit, 3s);
     EXPECT_EQ(neu.einst.sound_an, ton);
     EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
+}
+
+TEST_F(Wettkampfrueckkehr, WasEinAndererAbendFuhrNimmtIhmSeinAbgebrochenesRennenNicht) {
+    nur_eingaben = false;  // copies are driven by nobody
+    const auto abbrechen = [this] {
+        t.bahn().Command1.klicken();
+        runden_fahren(1);
+        t.rennabbruch();
+    };
+    t.maschine.antwort = true;
+    t.p.form1.Command1.klicken();
+    abbrechen();
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten());
+    abbrechen();
+    const wettkampf unterwegs = abend.stand();
+    abend.beenden();
+
+    wettkampf anderer = test::wettkampf_mit(wettkampf_modus::rotation, 3, {1, 2, 3});
+    anderer.wettkampf_name = "Finale";
+    anderer.rennlaenge = unterwegs.rennlaenge;
+    abend.beginnen(std::move(anderer));
+    rennen_fahren();
+    for (int lauf = 10; lauf < 35; ++lauf) {
+        t.p.ablage.kopieren(t.p.rennprotokoll.dateiname(),
+                            "Ergebnisse\\Protokoll\\2026-11-22 00-00-" + std::to_string(lauf) + ".txt");
+    }
+    abend.beenden();
+
+    abend.beginnen(unterwegs);
+    ASSERT_TRUE(abend.rennen_starten());
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    EXPECT_EQ(t.runden(1), 1);
+    t.rennabbruch();
+    abend.beenden();
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;  // not the evening
+    t.p.form1.command_fortsetzen.klicken();
+    EXPECT_TRUE(offen(fenstername::bahn1));
+    EXPECT_EQ(t.p.rennen.teil_von->kennung(), "einzelrennen");
 }
 
 TEST_F(Wettkampfrueckkehr, DasFinaleHatDieEinstellungenSeinesQualifyings) {
