@@ -59,6 +59,12 @@ std::vector<std::string> einstellungsruecklage::fuer_die_datei(std::vector<std::
     return in_kraft;
 }
 
+const renneinrichtung& einstellungsruecklage::eigene_einrichtung() const {
+    const auto unterste = std::find_if(schichten_.begin(), schichten_.end(),
+                                       [](const schicht& eine) { return eine.wie == felder::zurueck; });
+    return unterste == schichten_.end() ? um_.einrichtung : unterste->einrichtung;
+}
+
 void einstellungsruecklage::abgelaufene_zurueckstellen() {
     const auto offen = [this](fenstername name) { return um_.fenster.ist_offen(name); };
     while (!schichten_.empty() && schichten_.back().danach &&

@@ -43,6 +43,8 @@ public:
     void aufgeben();
     /// The same lines as a settings file is to hold them: without what is in force for now only.
     std::vector<std::string> fuer_die_datei(std::vector<std::string> in_kraft) const;
+    /// The set-up that will stand on the main window when nothing is lent any more.
+    const renneinrichtung& eigene_einrichtung() const;
 
 private:
     struct stand {

@@ -116,7 +116,7 @@ void programm::hauptfenster_merken() {
     const bool noch_angeboten = form1.letztes_mal_offen() && !einst.anzeige.hauptfenster_wie_zuletzt;
     if (hauptfenster_gilt_ && !noch_angeboten) {
         form1.einrichtung_lesen();
-        hauptfenster_speichern(ablage, txt, einrichtung);
+        hauptfenster_speichern(ablage, txt, einstellungsruecklage.eigene_einrichtung());  // not those lent by a race
     }
 }
 

@@ -4,6 +4,7 @@
 #include "competition/wettkampfdatei.h"
 #include "competition/wettkampfspeicher.h"
 #include "core/einstellungstabelle.h"
+#include "core/hauptfensterdatei.h"
 #include "core/nebendateien.h"
 #include "core/text.h"
 #include "programm/rennprotokoll.h"
@@ -161,6 +162,29 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     EXPECT_EQ(neu.einst.fruehstart_strafzeit, 3s);
     EXPECT_EQ(neu.einst.sound_an, ton);
     EXPECT_EQ(neu.form1.fahrer[0].text(), "Gast");
+}
+
+TEST_F(Wettkampfrueckkehr, WasImHauptfensterStandUeberlebtIhn) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    rennen_fahren();
+    t.maschine.antwort = false;
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    neu.form1.fahrer[0].eingeben("Gast");
+    neu.form1.renndauer.eingeben("7");
+    const auto gemerkt = [&neu] {
+        renneinrichtung felder;
+        hauptfenster_laden(neu.ablage, neu.txt, felder);
+        return felder.bahn[1].fahrer + felder.dauer;
+    };
+    t.maschine.antwort = true;
+    neu.form1.command_fortsetzen.klicken();
+    ASSERT_NE(neu.form1.fahrer[0].text(), "Gast");
+    ASSERT_TRUE(neu.wettkampfabend.rennen_starten());
+    EXPECT_EQ(gemerkt(), "Gast7");
+    neu.ablage.loeschen("tvk_hauptfenster.ini");
+    neu.programm_beenden();
+    EXPECT_EQ(gemerkt(), "Gast7");
 }
 
 TEST_F(Wettkampfrueckkehr, WasEinAndererAbendFuhrNimmtIhmSeinAbgebrochenesRennenNicht) {
