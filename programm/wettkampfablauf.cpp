@@ -155,7 +155,10 @@ bool wettkampfablauf::unterbrochenen_anbieten(const std::string& rennen) {
     const bool fortsetzen =
         gelesen && um_.meldungen.anbieten(frage(*gelesen) + rennen, um_.txt.titel[0],
                                           {um_.txt.wettkampf.weiterfahren, um_.txt.wettkampf.spaeter});
-    const bool gut = gelesen && (!fortsetzen || wieder_aufnehmen(pfad, einstellungsruecklage::felder::bleiben));
+    using felder = einstellungsruecklage::felder;
+    const bool stehen_da = um_.einst.anzeige.hauptfenster_wie_zuletzt;  // those of the director
+    const auto wie = stehen_da ? felder::zurueck : felder::bleiben;
+    const bool gut = gelesen && (!fortsetzen || wieder_aufnehmen(pfad, wie));
     if (gut && fortsetzen) {
         return true;
     }

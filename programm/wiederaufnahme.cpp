@@ -305,8 +305,10 @@ bool wiederaufnahme::fortsetzen(const kandidat& k) {
     }
     const bool alleine = nach_dem_start_ && !kopf.teil_von.starts_with(abend_kennung);
     using felder = einstellungsruecklage::felder;
+    const bool stehen_da = um_.einst.anzeige.hauptfenster_wie_zuletzt;  // those of the director
+    const bool bleiben = alleine && !stehen_da;
     return um_.ruecklage.solange({fenstername::bahn1, fenstername::auswertung},
-                                 alleine ? felder::bleiben : felder::zurueck, [&] { return aufnehmen(k); });
+                                 bleiben ? felder::bleiben : felder::zurueck, [&] { return aufnehmen(k); });
 }
 
 bool wiederaufnahme::aufnehmen(const kandidat& k) {

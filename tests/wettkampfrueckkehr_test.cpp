@@ -172,6 +172,7 @@ TEST_F(Wettkampfrueckkehr, WasImHauptfensterStandUeberlebtIhn) {
     neu.starten();
     neu.form1.fahrer[0].eingeben("Gast");
     neu.form1.renndauer.eingeben("7");
+    neu.form1.felder_merken.umschalten();
     const auto gemerkt = [&neu] {
         renneinrichtung felder;
         hauptfenster_laden(neu.ablage, neu.txt, felder);
@@ -185,6 +186,12 @@ TEST_F(Wettkampfrueckkehr, WasImHauptfensterStandUeberlebtIhn) {
     neu.ablage.loeschen("tvk_hauptfenster.ini");
     neu.programm_beenden();
     EXPECT_EQ(gemerkt(), "Gast7");
+
+    programm danach(t.maschine.dienste());
+    danach.starten();
+    ASSERT_TRUE(danach.wettkampfabend.wettkampf_aktiv());
+    danach.wettkampf2.Command5.klicken();
+    EXPECT_EQ(danach.form1.fahrer[0].text() + danach.form1.renndauer.text(), "Gast7");
 }
 
 TEST_F(Wettkampfrueckkehr, WasEinAndererAbendFuhrNimmtIhmSeinAbgebrochenesRennenNicht) {
