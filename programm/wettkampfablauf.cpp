@@ -20,6 +20,7 @@ void wettkampfablauf::beginnen(const wettkampfvorgabe& vorgabe) {
     neu->rennlaenge = um_.param.renn_laenge.zahl();
     neu->qualifying_an = vorgabe.qualifying;
     neu->wertung = vorgabe.qualifying ? sortier_modus::beste : um_.param.auswertung_nach_rennen;
+    um_.haupt.letztes_mal_vergessen();  // its races keep the fields as they were set up for it
     eroeffnen(std::move(*neu));
 }
 
@@ -50,6 +51,7 @@ void wettkampfablauf::laden() {
         uebernehmen == antwort::ja ? einstellungen_aus_datei::uebernehmen : einstellungen_aus_datei::lassen;
     um_.speicher.laden_von([this, wie](const std::string& pfad) {
         if (laden(pfad, wie)) {
+            um_.haupt.letztes_mal_vergessen();
             if (wie == einstellungen_aus_datei::uebernehmen) {
                 um_.ruecklage.aufgeben();
             }

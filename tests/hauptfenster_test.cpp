@@ -253,6 +253,20 @@ TEST_F(Hauptfenster, EinRennbeginnMerktDieFahrerUndNimmtDasAngebotWeg) {
     EXPECT_FALSE(nach_dem_ausfall.form1.command_wieder.sichtbar()) << "those of the race that was begun";
 }
 
+TEST_F(Hauptfenster, EinWettkampfMerktDieFelderMitDenenErBegannUndNimmtDasAngebotWeg) {
+    f.fahrer[0].eingeben("Anna");
+    neu_starten();
+    zweites->form1.renndauer.eingeben("7");
+    zweites->form1.Command3.klicken();
+    zweites->wettkampf1.Command17.klicken();
+    zweites->wettkampf1.Command3.klicken();
+    EXPECT_FALSE(zweites->form1.command_wieder.sichtbar());
+    ASSERT_TRUE(zweites->wettkampfabend.rennen_starten());
+    renneinrichtung felder;
+    hauptfenster_laden(zweites->ablage, zweites->txt, felder);
+    EXPECT_EQ(felder.dauer, "7");
+}
+
 TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     t.maschine.datei_schreiben("language-en/language_m2.txt", "x\r\nx\r\n\"Lane\"\r\n");
     t.maschine.datei_schreiben("language-en/language_m1.txt", "x\r\nStandard car\r\n");
