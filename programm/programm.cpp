@@ -366,6 +366,7 @@ void programm::einstellungen_gewechselt(const einstellungen& vorher) {
     }
     if (fenster.ist_offen(fenstername::Tagesrennen)) {  // it has opened on the set-up of the race that is over
         tagesrennen_fenster.spuren_zeigen();
+        tagesrennen_fenster.datei_pruefen();  // and on its drivers, whose classes it proposes
     }
 }
 

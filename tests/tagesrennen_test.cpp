@@ -131,11 +131,17 @@ TEST_F(Tagesrennen, KlasseFolgtDemFahrerAufDieAndereSpur) {
 TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichtetIst) {
     oeffnen();
     datei("Samstag");
+    f.Check1.umschalten();
+    klasse(0, "A");
+    klasse(1, "B");
+    f.Command18.klicken();
+    rennen_fahren();
     f.Command18.klicken();
     t.bahn().Command1.klicken();
     t.runde_nach(1000, "12");
     t.rennabbruch();
     t.p.fenster.entladen(fenstername::Tagesrennen);
+    fahrer_eintragen("Ben", "");
     t.p.form1.spur[4].umschalten();
     t.p.form1.fahrer[4].eingeben("Gast");
     t.maschine.antwort = true;
@@ -148,6 +154,9 @@ TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichte
     t.maschine.laufen(300);
     EXPECT_TRUE(f.Text_fahrer[4].aktiviert());
     EXPECT_EQ(f.Text_fahrer[4].text(), "Gast");
+    EXPECT_EQ(f.Text_fahrer[0].text() + f.lstb_klasse[0].text(), "BenB");
+    EXPECT_EQ(f.Label_bisher[0].text(), "bisher 2 Rennen, beste Runde –");
+    EXPECT_EQ(f.Label_bisher[1].text() + f.Label_bisher[4].text(), "");
 }
 
 TEST_F(Tagesrennen, FremdeDateiUndUnmoeglicherNameWerdenNichtBenutzt) {
