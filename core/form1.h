@@ -279,6 +279,8 @@ private:
     void fahrer_Change(int nummer);
     void spuren_zeigen();
     void letztes_mal_zeigen();
+    /// The words of the language before that stood in it.
+    void letztes_mal_uebersetzen(std::string_view niemand, std::string_view standardfahrzeug);
     void letztes_mal_nehmen();
     int wartende_spur() const;
     void reihe_zeigen();

@@ -162,12 +162,12 @@ void form1::sprache_gewechselt() {
             wer.text(um_.txt.kein_fahrer);
         }
     }
-    letztes_mal_zeigen();
     for (auswahl& womit : auto_) {
         if (!bisherige.empty() && womit.text() == bisherige.front()) {
             womit.text(um_.txt.standardfahrzeug_text);
         }
     }
+    letztes_mal_uebersetzen(bisher_niemand, bisherige.empty() ? "" : bisherige.front());
     listen_zeigen();
     rennart_geaendert();
     modus_anzeigen();

@@ -48,6 +48,18 @@ void form1::letztes_mal_zeigen() {
     command_wieder.sichtbar(andere);
 }
 
+void form1::letztes_mal_uebersetzen(std::string_view niemand, std::string_view standardfahrzeug) {
+    for (const int nummer : alle_spuren) {
+        if (letztes_mal_ && letztes_mal_->bahn[nummer].fahrer == niemand) {
+            letztes_mal_->bahn[nummer].fahrer = um_.txt.kein_fahrer;
+        }
+        if (letztes_mal_ && letztes_mal_->bahn[nummer].fahrzeug == standardfahrzeug) {
+            letztes_mal_->bahn[nummer].fahrzeug = um_.txt.standardfahrzeug_text;
+        }
+    }
+    letztes_mal_zeigen();
+}
+
 void form1::letztes_mal_nehmen() {
     if (const auto felder = std::exchange(letztes_mal_, std::nullopt)) {
         um_.einrichtung = *felder;

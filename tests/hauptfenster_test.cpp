@@ -267,6 +267,22 @@ TEST_F(Hauptfenster, EinWettkampfMerktDieFelderMitDenenErBegannUndNimmtDasAngebo
     EXPECT_EQ(felder.dauer, "7");
 }
 
+TEST_F(Hauptfenster, DasAngebotFolgtDerSprache) {
+    std::string worte;
+    for (int zeile = 1; zeile < 48; ++zeile) {
+        worte += "x\r\n";
+    }
+    t.maschine.datei_schreiben("language-en/language_m2.txt", worte + "nobody\r\n");
+    t.maschine.datei_schreiben("language-en/language_m1.txt", "x\r\nStandard car\r\n");
+    f.fahrer[0].eingeben("Anna");
+    f.fahrer[1].eingeben("kein Fahrer");
+    neu_starten();
+    zweites->form1.sprache_waehlen(1);
+    EXPECT_EQ(zweites->form1.command_wieder.text(), "Wie beim letzten Mal: Anna, Fahrer 3, Fahrer 4");
+    zweites->form1.command_wieder.klicken();
+    EXPECT_EQ(zweites->form1.fahrer[1].text() + ", " + zweites->form1.auto_[0].text(), "nobody, Standard car");
+}
+
 TEST_F(Hauptfenster, SpracheUndAussehenSindZurHandUndBleiben) {
     t.maschine.datei_schreiben("language-en/language_m2.txt", "x\r\nx\r\n\"Lane\"\r\n");
     t.maschine.datei_schreiben("language-en/language_m1.txt", "x\r\nStandard car\r\n");
