@@ -1,8 +1,11 @@
 #include "programm/einstellungspflege.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
+#include <vector>
 
+#include "core/einstellungstabelle.h"
 #include "core/fensterregister.h"
 #include "core/form1.h"
 #include "core/nebendateien.h"
@@ -25,6 +28,12 @@ constexpr std::string_view neustart_zustand = "2";
 std::string mit_rueckstrichen(std::string text) {
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;
+}
+
+/// The start is to ask for the mode of the 4x4 module, by the lines of a settings file.
+bool fragt_nach_modus(const std::vector<std::string>& datei) {
+    constexpr std::size_t hinter_dem_kopf = 1;  // a blank line
+    return datei.at(z::s6_option + hinter_dem_kopf) == datei.at(z::wahr_wort + hinter_dem_kopf);
 }
 
 }  // namespace
@@ -87,17 +96,17 @@ void einstellungspflege::start_fortsetzen(std::optional<modul_4x4> modus) {
 
 bool einstellungspflege::neustart_vormerken(modul_4x4 modus, bool aktuelle) {
     const std::string datei = aktuelle ? vorspann + einstell_datei_ : std::string(standard_einstellungen);
-    const std::string_view danach = um_.ziel.einst.s6.s6_option ? frage_zustand : ruhe_zustand;
+    const bool fragt = fragt_nach_modus(um_.ruecklage.fuer_die_datei(um_.datei.festhalten()));
+    const std::string_view danach = fragt ? frage_zustand : ruhe_zustand;
     return s6_vorgabe_speichern(um_.ablage, datei) &&
            s6_speichern(um_.ablage, {std::string(neustart_zustand), std::to_string(static_cast<int>(modus)), datei,
                                      std::string(danach), ""});
 }
 
-/// The start file asks for the mode as long as the settings want it.
-void einstellungspflege::modusfrage_vormerken() {
+/// The start file asks for the mode as long as the settings file wants it.
+void einstellungspflege::modusfrage_vormerken(bool soll) {
     s6_start start = s6_laden(um_.ablage);
     const bool fragt = start.zustand == frage_zustand;
-    const bool soll = um_.ziel.einst.s6.s6_option;
     if (soll) {
         s6_vorgabe_speichern(um_.ablage, vorspann + einstell_datei_);
     }
@@ -144,11 +153,12 @@ bool einstellungspflege::speichern_mit_feldern() {
 }
 
 bool einstellungspflege::speichern(const std::string& pfad) {
-    um_.datei.einstellungen_speichern(pfad, um_.ruecklage.fuer_die_datei(um_.datei.schreiben()));
+    const std::vector<std::string> inhalt = um_.ruecklage.fuer_die_datei(um_.datei.schreiben());
+    um_.datei.einstellungen_speichern(pfad, inhalt);
     bool gut = !um_.datei.fehler_laden();
     if (gut) {
         einstell_datei_ = einstellungsname(pfad);
-        modusfrage_vormerken();
+        modusfrage_vormerken(fragt_nach_modus(inhalt));
     }
     name_zeigen();
     const bool mit_tasten = um_.belegung.tastenbelegung_speichern(um_.ablage);

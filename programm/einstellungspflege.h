@@ -75,7 +75,7 @@ private:
     bool speichern(const std::string& pfad);
     bool aus_menue_laden(const std::string& name);
     void name_zeigen();
-    void modusfrage_vormerken();
+    void modusfrage_vormerken(bool soll);
     /// The file's name below the settings folder.
     std::string einstellungsname(std::string_view pfad) const;
 

@@ -130,6 +130,7 @@ TEST_F(Wettkampfrueckkehr, GefahrenerAbendWirdNichtNochEinmalAngeboten) {
 TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
     t.p.einst.tank_inhalt = 44;
     t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
+    t.p.einst.s6.s6_option = true;
     beginnen(wettkampf_modus::rotation, 3, {1, 2});
     t.p.einst.fruehstart_strafzeit = 5s;
     rennen_fahren();
@@ -153,6 +154,7 @@ TEST_F(Wettkampfrueckkehr, SeineEinstellungenGeltenNurBisZuSeinemEnde) {
         return neu.datei.zeilen().at(z::tank_inhalt);
     };
     EXPECT_EQ(ganzzahl_lesen(in_der_datei(), 0, 999), sonst) << "the next start has nothing to do with the evening";
+    EXPECT_NE(s6_laden(neu.ablage).zustand, "1") << "and asks for no mode";
     t.maschine.laufen(1000);
     EXPECT_EQ(neu.einst.tank_inhalt, 44);
     neu.startampel.entladen();  // leaves another power cut behind, for the evening alone
