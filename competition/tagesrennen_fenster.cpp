@@ -335,8 +335,6 @@ void tagesrennen_fenster::starten() {
         }
     }
     um_.hauptfenster.einrichtung_zeigen();
-    um_.hauptfenster.felder_nach_spuren();
-    um_.hauptfenster.bilder_anzeigen();
     if (datei_bereitstellen()) {
         parameter_sichern(parameter());
         schliessen();

@@ -211,6 +211,8 @@ void programm::rennen_beginnen(veranstaltung& teil_von) {
 }
 
 void programm::tagesrennen_beginnen(const tagesauftrag& auftrag) {
+    form1.felder_nach_spuren();  // other drivers than before may stand there
+    form1.bilder_anzeigen();
     if (form1.einzelrennen_einrichten()) {
         param.klasse = auftrag.klassen;
         tagesrennen.datei = auftrag.datei;
