@@ -111,17 +111,23 @@ std::vector<int> fahrer_in_rangfolge(const wettkampf& w, sortier_modus wertung) 
     return plaetze;
 }
 
+namensspalten rangspalten(const wettkampf& w) {
+    constexpr std::size_t hinter_dem_platz = 4;
+    return {{hinter_dem_platz}, namensbreite(w.teilnehmer, listenname_breite), listenname_breite};
+}
+
 std::vector<std::string> rangschreiben(const wettkampf& w, sortier_modus wertung,
                                        const trennzeichen_tabelle& trennzeichen) {
     constexpr int zweistellig = 10;
     const auto staende = w.staende();
+    const std::size_t breite = rangspalten(w).breite;
     std::vector<std::string> zeilen;
     int rang = 0;
     for (const int platz : fahrer_in_rangfolge(w, wertung)) {
         const fahrt& stand = staende.at(static_cast<std::size_t>(platz - 1)).auf.front();
         ++rang;
         std::string zeile = std::to_string(rang) + (rang >= zweistellig ? ". " : ".  ");
-        zeile += aufgefuellt(links(w.name(platz), listenname_breite), listenname_breite);
+        zeile += eingepasst(w.name(platz), breite);
         zeile += "   " + aufgefuellt(std::to_string(stand.runden), 6) + aufgefuellt(meter_text(stand.meter), 9);
         zeile += zeit_formatieren(wertung == sortier_modus::beste ? stand.beste : stand.zeit, true, trennzeichen);
         zeilen.push_back(std::move(zeile));
@@ -140,7 +146,7 @@ std::vector<auswertung_zeile> w_auswertung_schreiben(const wettkampf& w, sortier
         const fahrt& gesamt = staende.at(stelle).auf.front();
         auswertung_zeile zeile;
         zeile.platz = gekappt(std::to_string(zeilen.size() + 1) + ".", 4);
-        zeile.name = gekappt(w.name(platz), 18);
+        zeile.name = w.name(platz);
         zeile.runden = gekappt(std::to_string(gesamt.runden), 8);
         zeile.meter = gekappt(meter_text(gesamt.meter), 8);
         for (const fahrt& eine : einzelne(w, staende.at(stelle), heats.at(stelle))) {

@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "competition/wettkampf.h"
+#include "core/namensspalten.h"
 #include "core/zeit.h"
 
 namespace tarvel {
 
-/// So many characters of a name have room in lists and tables.
+/// So many characters of a name have room in the table of the file, and at least in lists.
 inline constexpr std::size_t listenname_breite = 15;
 
 /// Places of the start list, the best first, by each way of judging. All are in them, fillers too.
@@ -29,11 +30,13 @@ ranglisten rangfolge_berechnen(std::span<const fahrer_stand> staende);
 /// Real drivers alone, in the order of the ranking.
 std::vector<int> fahrer_in_rangfolge(const wettkampf& w, sortier_modus wertung);
 
+/// Of the names in the lines of `rangliste`.
+namensspalten rangspalten(const wettkampf& w);
 /// The lines of `rangliste`: place, name, laps, metres and total time, or the best lap where that is what counts.
 std::vector<std::string> rangschreiben(const wettkampf& w, sortier_modus wertung,
                                        const trennzeichen_tabelle& trennzeichen);
 
-/// A row of `w_auswertung`, cut to the widths of its columns.
+/// A row of `w_auswertung`; figures are cut to the widths of their columns.
 struct auswertung_zeile {
     struct einzeln {
         std::string runden;

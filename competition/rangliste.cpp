@@ -54,6 +54,7 @@ void rangliste::stand_zeigen() {
     // what is no way of judging goes by laps
     const bool gueltig = w.wertung >= sortier_modus::meter && w.wertung <= sortier_modus::beste;
     cbo_sortierung.platz(static_cast<int>(gueltig ? w.wertung : sortier_modus::runden) - 1);
+    spalten = rangspalten(w);
     Label_kopf.text(kopfzeile());
     List_name.ansage(Label_kopf.text());
     const auto zeilen = rangschreiben(w, w.wertung, einst_.trennzeichen);
@@ -77,7 +78,7 @@ std::string rangliste::kopfzeile() const {
         kopf += aufgefuellt(links(wort, breite - 1), breite);
     };
     spalte(wort_.nummer, 4);
-    spalte(wort_.name, 18);
+    spalte(wort_.name, spalten.breite + 3);
     spalte(wort_.runden, 6);
     spalte(wort_.meter, 9);
     return kopf + (abend_.stand().wertung == sortier_modus::beste ? wort_.beste : wort_.zeit);

@@ -7,6 +7,7 @@
 #include "competition/wettkampfabend.h"
 #include "core/fensterlogik.h"
 #include "core/fensterumgebung.h"
+#include "core/namensspalten.h"
 #include "core/steuerelemente.h"
 
 namespace tarvel {
@@ -21,7 +22,8 @@ public:
     auswahl cbo_sortierung;
     bezeichnung Label_kopf;  ///< heads of the columns, each above its place in the lines
     liste List_name;
-    befehl Command1;  ///< closes the window
+    namensspalten spalten;  ///< of its lines and their heads
+    befehl Command1;        ///< closes the window
 
     std::vector<sprachliste> sprachdateien() override { return {sprache_rl()}; }
     sprachliste sprache_rl();

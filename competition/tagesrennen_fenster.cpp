@@ -19,15 +19,9 @@ using namespace std::chrono_literals;
 constexpr dauer_ms getippt_nach = 400ms;
 constexpr int dateiname_max = 80;
 constexpr std::string_view klassen_zeichen = "ABCDEFGHIJKLMNOPQRSTUVWXYZ123456789";
-constexpr std::array<std::size_t, 5> spaltenbreiten{4, 17, 8, 9, 11};
-
-std::string spalten(const std::array<std::string, spaltenbreiten.size()>& felder, std::string_view letztes) {
-    std::string zeile;
-    for (std::size_t i = 0; i < felder.size(); ++i) {
-        zeile += aufgefuellt(links(felder.at(i), spaltenbreiten.at(i) - 1), spaltenbreiten.at(i));
-    }
-    return zeile + std::string(letztes);
-}
+constexpr std::size_t klassenbreite = 4;
+constexpr std::size_t name_mindestens = 15;
+constexpr std::size_t hinter_dem_namen = 2;
 
 }  // namespace
 
@@ -105,7 +99,6 @@ void tagesrennen_fenster::laden() {
     texte_lesen();
     text_lf_datei.ansage(Label17.text());
     ergebnisse.ansage(Frame_liste.text());
-    Label_kopf.text(spalten({wort_.klasse, wort_.name, wort_.runden, wort_.meter, wort_.beste}, wort_.gesamtzeit));
     parameter_zeigen();
     spuren_zeigen();
     datei_pruefen();
@@ -232,13 +225,30 @@ void tagesrennen_fenster::fuehrung_zeigen(bool bereit) {
     Label_fuehrung.text(tabelle ? fuehrung_.zeile(tagesfuehrung(*tabelle, um_.einst.auswertung_nach)) : std::string());
 }
 
+std::string tagesrennen_fenster::zeile(const tageszeile& z) const {
+    std::string text = aufgefuellt(links(z.klasse, klassenbreite - 1), klassenbreite);
+    text += eingepasst(z.name, spalten.breite).append(hinter_dem_namen, ' ');
+    constexpr std::array<std::size_t, 3> breiten{8, 9, 11};
+    const std::array<const std::string*, 3> werte{&z.runden, &z.meter, &z.beste};
+    for (std::size_t i = 0; i < werte.size(); ++i) {
+        text += aufgefuellt(links(*werte.at(i), breiten.at(i) - 1), breiten.at(i));
+    }
+    return text + z.gesamtzeit;
+}
+
 void tagesrennen_fenster::zeilen_zeigen() {
+    std::vector<std::string> namen(zeilen_.size());
+    std::transform(zeilen_.begin(), zeilen_.end(), namen.begin(), [](const tageszeile& z) { return z.name; });
+    spalten = {{klassenbreite}, namensbreite(namen, name_mindestens), name_mindestens};
+    Label_kopf.text(zeile({wort_.klasse, wort_.name, wort_.runden, wort_.meter, wort_.beste, wort_.gesamtzeit}));
     ergebnisse.leeren();
     for (const tageszeile& z : zeilen_) {
-        std::string meter = z.meter;
-        std::replace(meter.begin(), meter.end(), '.', ',');  // as everywhere on the screen
-        ergebnisse.hinzufuegen(
-            spalten({z.klasse == "0" ? "" : z.klasse, z.name, z.runden, meter, z.beste}, z.gesamtzeit));
+        tageszeile gezeigt = z;
+        std::replace(gezeigt.meter.begin(), gezeigt.meter.end(), '.', ',');  // as everywhere on the screen
+        if (z.klasse == "0") {
+            gezeigt.klasse.clear();
+        }
+        ergebnisse.hinzufuegen(zeile(gezeigt));
     }
     ergebnisse.markieren(static_cast<int>(zeilen_.size()) - 1);
     for (std::size_t i = 0; i < Text_fahrer.size(); ++i) {

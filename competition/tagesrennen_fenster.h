@@ -11,6 +11,7 @@
 #include "core/fensterumgebung.h"
 #include "core/letzte_fahrer.h"
 #include "core/namensliste.h"
+#include "core/namensspalten.h"
 #include "core/renneinrichtung.h"
 #include "core/steuerelemente.h"
 #include "platform/zeitgeber.h"
@@ -56,6 +57,7 @@ public:
     rahmen Frame_liste;
     bezeichnung Label_kopf;      ///< heads of the columns, each above its place in the lines
     liste ergebnisse;            ///< of the day, the last race at the bottom
+    namensspalten spalten;       ///< of its lines and their heads
     bezeichnung Label_fuehrung;  ///< who leads the day
 
     befehl Command18;  ///< begins the race
@@ -88,6 +90,7 @@ private:
     void datei_geaendert();
     /// Why the file cannot be used: its name, or what is in it.
     std::string warum_unbrauchbar() const;
+    std::string zeile(const tageszeile& z) const;
     void zeilen_zeigen();
     void fuehrung_zeigen(bool bereit);
     /// What the day's file knows of the driver; his class is the one he had last.

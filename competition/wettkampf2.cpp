@@ -9,8 +9,9 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t namensbreite = 15;
+constexpr std::size_t namensbreite_min = 15;
 constexpr std::size_t markenbreite = 6;
+constexpr std::size_t vor_den_namen = 5 + markenbreite;
 constexpr std::string_view zwischen_namen = "   ";
 constexpr std::size_t einsetzer_zeichen_max = 72;  // more have no room in letters that the track can read
 constexpr std::string_view keine_beste = "99 : 99 , 999";
@@ -19,12 +20,6 @@ bool in_gruppen(wettkampf_modus modus) {
     using m = wettkampf_modus;
     return modus != m::rotation && modus != m::jeder_gegen_jeden && modus != m::schema_rotation &&
            modus != m::schema_gleichmaessig;
-}
-
-std::string aufgefuellt(std::string_view name) {
-    std::string spalte(links(name, namensbreite));
-    spalte.append(namensbreite - laenge(spalte), ' ');
-    return spalte;
 }
 
 }  // namespace
@@ -221,15 +216,27 @@ std::string wettkampf2::rennzeile(int rennen) const {
     zeile += "  " + marke + std::string(markenbreite - std::min(marke.size(), markenbreite), ' ');
     for (const int spur : alle_spuren) {
         if (w.spur_aktiv[spur]) {
-            zeile += aufgefuellt(w.name(w.plan.feld(rennen)[spur]));
+            zeile += eingepasst(w.name(w.plan.feld(rennen)[spur]), planspalten.breite);
             zeile += zwischen_namen;
         }
     }
     return zeile + marke;
 }
 
+void wettkampf2::spalten_legen() {
+    const wettkampf& w = abend_.stand();
+    planspalten = {{}, namensbreite(w.teilnehmer, namensbreite_min), namensbreite_min};
+    for (const int spur : alle_spuren) {
+        if (w.spur_aktiv[spur]) {
+            const std::size_t je_spalte = planspalten.breite + zwischen_namen.size();
+            planspalten.ab.push_back(vor_den_namen + planspalten.ab.size() * je_spalte);
+        }
+    }
+}
+
 void wettkampf2::liste_zeigen() {
     const wettkampf& w = abend_.stand();
+    spalten_legen();
     const int vorher = w.aktuelles_rennen == gezeigtes_rennen_ ? List1.markiert() : -1;
     gezeigtes_rennen_ = w.aktuelles_rennen;
     List1.leeren();

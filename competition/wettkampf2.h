@@ -10,6 +10,7 @@
 #include "core/fensterlogik.h"
 #include "core/fensterumgebung.h"
 #include "core/namensliste.h"
+#include "core/namensspalten.h"
 #include "core/steuerelemente.h"
 
 namespace tarvel {
@@ -60,8 +61,9 @@ public:
     rahmen Frame_liste;        ///< the list and what is done in it; away while the glance has the window to itself
     bezeichnung Label_liste;   ///< columns of the list
     bezeichnung Label_zeichen;
-    liste List1;            ///< row n - 1 is race n
-    haken opt_reihenfolge;  ///< a race that is selected comes next
+    liste List1;                ///< row n - 1 is race n
+    namensspalten planspalten;  ///< of its rows
+    haken opt_reihenfolge;      ///< a race that is selected comes next
 
     befehl Command1;  ///< save the state
     befehl Command2;  ///< start the race
@@ -140,6 +142,7 @@ private:
     void blick_zeigen();
     void spuren_zeigen(const abendblick& blick);
     std::string einsetzer_text(const std::vector<std::string>& namen) const;
+    void spalten_legen();
     void liste_zeigen();
     void beste_zeigen();
     void befehle_zeigen();

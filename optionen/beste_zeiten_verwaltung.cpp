@@ -15,7 +15,8 @@ constexpr std::string_view bestzeit_endung = ".bst";
 constexpr int dateiname_laenge_max = 60;
 constexpr int zeit_laenge_max = 12;
 constexpr int datum_laenge_max = 10;
-constexpr std::size_t name_spalte = 15;  // characters of a name in the lists
+constexpr std::size_t name_mindestens = 15;  // characters in the lists
+constexpr std::string_view zwischen_spalten = "  ";
 
 /// "01:02,345", "1:2.345" or without minutes "62,345"; the thousandths have three digits. None for any other text.
 std::optional<zeit_ms> zeit_lesen(std::string_view text) {
@@ -42,13 +43,6 @@ std::optional<zeit_ms> zeit_lesen(std::string_view text) {
         return std::nullopt;
     }
     return teile[0] * 60000 + teile[1] * 1000 + teile[2];
-}
-
-/// Cut or filled with blanks to the width of a column.
-std::string spalte(std::string_view text, std::size_t breite) {
-    std::string inhalt(links(text, breite));
-    inhalt.append(breite - laenge(inhalt), ' ');
-    return inhalt;
 }
 
 }  // namespace
@@ -142,17 +136,24 @@ void beste_zeiten_verwaltung::datei_zeigen() {
 
 void beste_zeiten_verwaltung::liste_fuellen(int spur) {
     liste& zeilen = bestefile_list.at(feld_index(spur));
+    namensspalten& spalten = namen.at(feld_index(spur));
+    std::vector<std::string> alle;
+    for (int zeile = 1; zeile <= bestzeiten::zeilen_anzahl; ++zeile) {
+        alle.push_back(kopie_.eintrag(zeile, spur).name);
+    }
+    spalten = {{laenge(zeit_text(0)) + zwischen_spalten.size()}, namensbreite(alle, name_mindestens), name_mindestens};
     zeilen.leeren();
     for (int zeile = 1; zeile <= bestzeiten::zeilen_anzahl; ++zeile) {
-        zeilen.hinzufuegen(listenzeile(kopie_.eintrag(zeile, spur)));
+        zeilen.hinzufuegen(listenzeile(kopie_.eintrag(zeile, spur), spalten.breite));
     }
 }
 
-std::string beste_zeiten_verwaltung::listenzeile(const bestzeit& eintrag) const {
+std::string beste_zeiten_verwaltung::listenzeile(const bestzeit& eintrag, std::size_t breite) const {
     if (eintrag.leer()) {
         return "–";
     }
-    return zeit_text(eintrag.ms) + "  " + spalte(eintrag.name, name_spalte) + "  " + eintrag.datum;
+    const std::string dazwischen(zwischen_spalten);
+    return zeit_text(eintrag.ms) + dazwischen + eingepasst(eintrag.name, breite) + dazwischen + eintrag.datum;
 }
 
 void beste_zeiten_verwaltung::felder_leeren() {

@@ -7,6 +7,7 @@
 #include "core/einstellungen.h"
 #include "core/fensterlogik.h"
 #include "core/fensterregister.h"
+#include "core/namensspalten.h"
 #include "core/sprache.h"
 #include "core/steuerelemente.h"
 #include "core/texte.h"
@@ -45,6 +46,7 @@ public:
 
     std::array<bezeichnung, spuren_max> Label_spur;
     std::array<liste, spuren_max> bestefile_list;  ///< row n holds place n + 1: time, name, date
+    std::array<namensspalten, spuren_max> namen;   ///< of their rows
     bezeichnung bestlabel1;
     bezeichnung bestlabel2;  ///< the record of the track
 
@@ -85,7 +87,7 @@ private:
     void befehle_verbinden();
     void datei_zeigen();
     void liste_fuellen(int spur);
-    std::string listenzeile(const bestzeit& eintrag) const;
+    std::string listenzeile(const bestzeit& eintrag, std::size_t breite) const;
     void felder_leeren();
     void eintrag_waehlen(int spur);
     void rekord_zeigen();

@@ -10,8 +10,9 @@ namespace tarvel {
 namespace {
 
 constexpr std::size_t erstes_feld = 5;
-constexpr std::size_t zweites_feld = 20;
-constexpr std::size_t rundenspalte = 11;  // of the table of laps
+constexpr std::size_t vor_den_runden = 8;
+constexpr std::size_t name_mindestens = 18;
+constexpr std::size_t rundenspalte_min = 11;  // of the table of laps
 constexpr const char* nichts = "–";
 
 std::string linksbuendig(std::string_view text, std::size_t breite) {
@@ -45,7 +46,12 @@ public:
 
     ergebnisansicht bilden() {
         spalten_waehlen();
+        if (namen_.breite > name_mindestens) {
+            figuren_zusammenruecken();
+        }
         ergebnisansicht ansicht;
+        ansicht.namen = namen_;
+        ansicht.namen.zeilen = fahrer_.size();
         ansicht.kopf = {reihe([](const spalte& s) { return s.kopf; }), true};
         for (const auto& [nummer, fahrer] : fahrer_) {
             const ergebniszeile& zeile = t_.zeilen[nummer];
@@ -59,6 +65,18 @@ public:
     }
 
 private:
+    /// What their columns have to spare, long names need.
+    void figuren_zusammenruecken() {
+        constexpr std::size_t abstand = 2;
+        for (spalte& s : spalten_) {
+            std::size_t noetig = laenge(s.kopf);
+            for (const auto& [nummer, fahrer] : fahrer_) {
+                noetig = std::max(noetig, laenge(s.zelle(t_.zeilen[nummer], fahrer)));
+            }
+            s.breite = s.text ? s.breite : std::min(s.breite, noetig + abstand);
+        }
+    }
+
     bool ausgeblendet(const fahrerzeile& fahrer) const {
         const auto& klasse = fahrer.spalten.klasse;
         return klasse && wahl_.ohne_klassen.contains(fahrer.felder[*klasse]);
@@ -85,10 +103,18 @@ private:
         if (hat_plaetze()) {
             platzspalte();
         }
-        spalten_.push_back(
-            {wort_.name, zweites_feld, true, [](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
-                 return fahrer.felder[fahrer.spalten.name];
-             }});
+        constexpr std::size_t hinter_dem_namen = 2;
+        std::vector<std::string> namen;
+        for (const auto& [nummer, fahrer] : fahrer_) {
+            namen.push_back(fahrer.felder[fahrer.spalten.name]);
+        }
+        const std::size_t davor = spalten_.empty() ? 0 : spalten_.front().breite;
+        laengster_name_ = namensbreite(namen, 0);
+        namen_ = {{davor}, std::max(laengster_name_, name_mindestens), name_mindestens};
+        spalten_.push_back({wort_.name, namen_.breite + hinter_dem_namen, true,
+                            [breite = namen_.breite](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                                return eingepasst(fahrer.felder[fahrer.spalten.name], breite);
+                            }});
         if (t_.typ == ergebnis_typ::tagesrennen) {
             spalten_.push_back({wort_.klasse, 7, true, [](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
                                     return fahrer.felder[*fahrer.spalten.klasse];
@@ -208,14 +234,23 @@ private:
         });
     }
 
+    /// As wide as the names, but all of them no wider than the lines above.
+    std::size_t rundenspalte(const ergebnisansicht& ansicht) const {
+        const std::size_t platz = laenge(ansicht.kopf.text) - std::min(laenge(ansicht.kopf.text), vor_den_runden);
+        return std::clamp(platz / std::max<std::size_t>(fahrer_.size(), 1), rundenspalte_min,
+                          std::max(rundenspalte_min, laengster_name_ + 2));
+    }
+
     void rundentabelle(ergebnisansicht& ansicht) const {
         constexpr std::size_t erste = 5;
-        std::string kopf = linksbuendig(wort_.runde, erstes_feld + 3);
-        std::string rennen = linksbuendig(wort_.rennen, erstes_feld + 3);
+        const std::size_t je_fahrer = rundenspalte(ansicht);
+        std::string kopf = linksbuendig(wort_.runde, vor_den_runden);
+        std::string rennen = linksbuendig(wort_.rennen, vor_den_runden);
         std::size_t reihen = 0;
         for (const auto& [nummer, fahrer] : fahrer_) {
-            rennen += rechtsbuendig(std::to_string(t_.zeilen[nummer].rennen + 1), rundenspalte);
-            kopf += rechtsbuendig(links(fahrer.felder[fahrer.spalten.name], rundenspalte - 2), rundenspalte);
+            rennen += rechtsbuendig(std::to_string(t_.zeilen[nummer].rennen + 1), je_fahrer);
+            const std::string& name = fahrer.felder[fahrer.spalten.name];
+            kopf += rechtsbuendig(gekuerzt(eingepasst(name, je_fahrer - 2)), je_fahrer);
             reihen = std::max(reihen, fahrer.felder.size() - erste);
         }
         ansicht.zeilen.push_back({});
@@ -224,11 +259,11 @@ private:
         }
         ansicht.zeilen.push_back({std::move(kopf), true});
         for (std::size_t runde = 0; runde < reihen; ++runde) {
-            std::string text = linksbuendig(runde == 0 ? wort_.start : std::to_string(runde) + ".", erstes_feld + 3);
+            std::string text = linksbuendig(runde == 0 ? wort_.start : std::to_string(runde) + ".", vor_den_runden);
             bool leer = true;
             for (const auto& [nummer, fahrer] : fahrer_) {
                 const bool da = erste + runde < fahrer.felder.size() && !fahrer.felder[erste + runde].empty();
-                text += rechtsbuendig(da ? zeit(fahrer.felder[erste + runde]) : std::string(), rundenspalte);
+                text += rechtsbuendig(da ? zeit(fahrer.felder[erste + runde]) : std::string(), je_fahrer);
                 leer = leer && !da;
             }
             if (!leer) {
@@ -242,6 +277,8 @@ private:
     const detailwahl& wahl_;
     std::vector<std::pair<std::size_t, fahrerzeile>> fahrer_;  ///< with their places in the table
     std::vector<spalte> spalten_;
+    namensspalten namen_;
+    std::size_t laengster_name_ = 0;
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "core/namensspalten.h"
 #include "results/ergebnistabelle.h"
 
 namespace tarvel {
@@ -31,6 +32,7 @@ struct ergebnisansicht {
 
     zeile kopf;  ///< of the columns
     std::vector<zeile> zeilen;
+    namensspalten namen;  ///< of the drivers' lines and the heads
 };
 
 ergebnisansicht ergebnisansicht_bilden(const ergebnistabelle& tabelle, const ansicht_worte& wort,

@@ -110,6 +110,7 @@ public:
     std::string anzeigename(std::string_view pfad) const;
     /// The row of the list is a head.
     bool ist_kopf(std::size_t zeile) const { return zeile < ansicht_.zeilen.size() && ansicht_.zeilen[zeile].kopf; }
+    const namensspalten& namen() const { return ansicht_.namen; }
     const std::optional<rennergebnis>& rennen() const { return rennen_; }
     std::vector<fahrerstreuung> vergleich() const;
     /// What its times are.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/namensspalten.h"
 #include "core/zeit.h"
 
 namespace tarvel {
@@ -28,6 +29,20 @@ TEST(Text, ZeichenstattBytes) {
     EXPECT_EQ(links("Mü", 5), "Mü");
     EXPECT_EQ(gekuerzt("\t Käfer \t"), "Käfer");
     EXPECT_EQ(gekuerzt("   "), "");
+}
+
+TEST(Text, NamensspaltenWerdenGleichVielSchmaler) {
+    EXPECT_EQ(namensbreite({"Jörg", std::string(50, 'x')}, 15), 40U) << "a file may hold anything";
+    EXPECT_EQ(namensbreite({"Jörg"}, 15), 15U);
+    EXPECT_EQ(eingepasst("Jörg", 6) + "|" + eingepasst("Jörg", 3), "Jörg  |Jö…");
+    const namensspalten zwei{{4, 12}, 6, 3, 1};
+    const std::string zeile = "1.  Märten  Ida     12";
+    EXPECT_EQ(passende_breite(zwei, laenge(zeile), 22), 6U);
+    EXPECT_EQ(passende_breite(zwei, laenge(zeile), 19), 4U) << "half a letter is none";
+    EXPECT_EQ(passende_breite(zwei, laenge(zeile), 2), 3U);
+    EXPECT_EQ(mit_schmalen_namen(zeile, zwei, 4), "1.  Mär…  Ida   12");
+    EXPECT_EQ(gekuerzte_namen(zeile, zwei, 4), "Märten");
+    EXPECT_EQ(mit_schmalen_namen("–", zwei, 3) + gekuerzte_namen("–", zwei, 3), "–");
 }
 
 TEST(Text, Windows1252HinUndZurueckAuchAusKaputtemUtf8) {

@@ -3,9 +3,12 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
+#include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -13,6 +16,8 @@ namespace {
 
 constexpr int spalten_anzahl = 3;
 constexpr int schrift_liste_px = 13;
+constexpr int zeilenrand_px = 32;  // beside the columns, with the bar that scrolls
+constexpr int breite_max = 1460;   // of the window: names are whole
 constexpr int knopfhoehe = 36;
 constexpr QSize fleck_groesse(30, 14);
 
@@ -109,8 +114,35 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
                                   "QListView::item { padding: 0px 3px; }")                        // each other
                               .arg(schrift)
                               .arg(schrift_liste_px));
+    listen_.at(i) = zeilen;
+    QObject::connect(zeilen->model(), &QAbstractItemModel::modelReset, this, [this, i] { einpassen(i); });
+    zeilen->installEventFilter(this);
     aufbau->addWidget(zeilen, 1);
     return feld;
+}
+
+/// The lists get their width when the window is laid out, which is behind the window's own change of size.
+bool BestzeitverwaltungFenster::eventFilter(QObject* wer, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::Resize) {
+        for (std::size_t i = 0; i < listen_.size(); ++i) {
+            if (listen_[i] == wer) {
+                einpassen(i);
+            }
+        }
+    }
+    return Fenster::eventFilter(wer, ereignis);
+}
+
+void BestzeitverwaltungFenster::einpassen(std::size_t i) {
+    namen_einpassen(*listen_.at(i), logik_.bestefile_list.at(i), logik_.namen.at(i),
+                    {static_cast<double>(listen_.at(i)->width() - zeilenrand_px), schrift_liste_px, schrift_liste_px});
+}
+
+void BestzeitverwaltungFenster::aufschlagen() {
+    if (!isVisible()) {
+        resize(std::clamp(schirm_des_leiters()->availableGeometry().width() * 19 / 20, width(), breite_max), height());
+    }
+    Fenster::aufschlagen();
 }
 
 QWidget* BestzeitverwaltungFenster::korrektur() {

@@ -10,7 +10,28 @@ QVariant ListenModell::data(const QModelIndex& zeile, int rolle) const {
     if (rolle == Qt::TextAlignmentRole) {
         return static_cast<int>(ausrichtung_);
     }
-    return rolle == Qt::DisplayRole ? QVariant(QString::fromStdString(quelle_.zeilen()[nummer])) : QVariant();
+    const std::string& ganze = quelle_.zeilen()[nummer];
+    const bool schmal = breite_ < namen_.breite && nummer < namen_.zeilen;
+    switch (rolle) {
+        case Qt::DisplayRole:
+            return QString::fromStdString(schmal ? mit_schmalen_namen(ganze, namen_, breite_) : ganze);
+        case Qt::AccessibleTextRole:
+            return schmal ? QVariant(QString::fromStdString(ganze)) : QVariant();
+        case Qt::ToolTipRole:
+            return schmal ? QVariant(QString::fromStdString(gekuerzte_namen(ganze, namen_, breite_))) : QVariant();
+        default:
+            return {};
+    }
+}
+
+void ListenModell::setNamen(const namensspalten& namen, std::size_t breite) {
+    if (namen_ != namen || breite_ != breite) {
+        namen_ = namen;
+        breite_ = breite;
+        if (anzahl_ > 0) {
+            emit dataChanged(index(0), index(anzahl_ - 1));
+        }
+    }
 }
 
 void ListenModell::abgleichen() {

@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 
+#include "core/namensspalten.h"
 #include "core/steuerelemente.h"
 
 namespace tarvel::ui {
@@ -15,10 +16,16 @@ public:
     QVariant data(const QModelIndex& zeile, int rolle) const override;
     void abgleichen();
     void setAusrichtung(Qt::Alignment ausrichtung) { ausrichtung_ = ausrichtung; }
+    /// The rows have such columns, drawn in this width. A name that is not whole there is told under the pointer.
+    void setNamen(const namensspalten& namen, std::size_t breite);
+    std::size_t namensbreite() const { return breite_; }
+    const namensspalten& namen() const { return namen_; }
 
 private:
     const liste& quelle_;
     Qt::Alignment ausrichtung_ = Qt::AlignLeft | Qt::AlignVCenter;
+    namensspalten namen_;
+    std::size_t breite_ = 0;
     int anzahl_ = 0;
     unsigned stand_ = 0;
 };

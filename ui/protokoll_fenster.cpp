@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/text.h"
+#include "core/namensspalten.h"
 #include "ui/stil.h"
 #include "ui/tabellenblatt.h"
 
@@ -55,7 +55,7 @@ QVariant Protokollmodell::data(const QModelIndex& zelle, int rolle) const {
         case Qt::DisplayRole:
             return text(zeile, welche);
         case Qt::ToolTipRole:
-            return welche == was ? text(zeile, welche) : QVariant();
+            return welche == was || welche == fahrer ? text(zeile, welche) : QVariant();
         case Qt::TextAlignmentRole:
             return static_cast<int>((welche == zeit ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
         case Qt::DecorationRole: {
@@ -175,9 +175,8 @@ QTableView* ProtokollFenster::tabelle() {
     tabelle_->horizontalHeader()->setHighlightSections(false);
     tabelle_->horizontalHeader()->setStretchLastSection(true);
     const int em = fontMetrics().height();
-    for (const auto& [spalte, breite] : {std::pair{Protokollmodell::zeit, 5 * em},
-                                         {Protokollmodell::spur, 3 * em + fleck_px},
-                                         {Protokollmodell::fahrer, 10 * em}}) {
+    for (const auto& [spalte, breite] :
+         {std::pair{Protokollmodell::zeit, 5 * em}, {Protokollmodell::spur, 3 * em + fleck_px}}) {
         tabelle_->setColumnWidth(spalte, breite);
     }
     QObject::connect(tabelle_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -199,8 +198,21 @@ QLayout* ProtokollFenster::fusszeile() {
     return zeile;
 }
 
+/// Whole names; what happened keeps the larger part.
+void ProtokollFenster::namensspalte_legen() {
+    constexpr int zellrand_px = 12;
+    const int em = fontMetrics().height();
+    int breite = 10 * em;
+    for (const int spur : alle_spuren) {
+        const QString name = QString::fromStdString(logik_.fahrer(spur));
+        breite = std::max(breite, tabelle_->fontMetrics().horizontalAdvance(name) + zellrand_px);
+    }
+    tabelle_->setColumnWidth(Protokollmodell::fahrer, std::min(breite, 18 * em));
+}
+
 void ProtokollFenster::inhalt_neu() {
     modell_->neuerInhalt();
+    namensspalte_legen();
     tabelle_->setAccessibleName(windowTitle());
     streifen_->setAccessibleName(windowTitle());
     streifen_->neuerInhalt();
@@ -232,8 +244,15 @@ blattseiten ProtokollFenster::seiten() const {
         return alles;
     }();
     tabellenblatt blatt{windowTitle(), QString::fromStdString(logik_.kopf()), {}, {}};
-    const auto zeile = [](const QString& zeit, const QString& spur, const QString& fahrer, const QString& was) {
-        return zeit.rightJustified(12) + "  " + spur.leftJustified(5) + fahrer.left(20).leftJustified(22) + was;
+    std::vector<std::string> namen;
+    for (const int spur : alle_spuren) {
+        namen.push_back(logik_.fahrer(spur));
+    }
+    constexpr std::size_t name_mindestens = 20;
+    const std::size_t breite = namensbreite(namen, name_mindestens);
+    const auto zeile = [breite](const QString& zeit, const QString& spur, const QString& fahrer, const QString& was) {
+        return zeit.rightJustified(12) + "  " + spur.leftJustified(5) +
+               QString::fromStdString(tarvel::eingepasst(fahrer.toStdString(), breite)) + "  " + was;
     };
     const auto& kopf = logik_.spalten();
     const auto wort = [&](std::size_t i) { return QString::fromStdString(kopf.at(i)); };

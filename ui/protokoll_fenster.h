@@ -43,6 +43,7 @@ private:
     QLayout* artenfeld();
     QTableView* tabelle();
     QLayout* fusszeile();
+    void namensspalte_legen();
     void inhalt_neu();
     void wahl_zeigen();
     void drucken();

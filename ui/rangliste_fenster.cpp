@@ -7,21 +7,23 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
 namespace {
 
-constexpr int zeichen_je_zeile = 48;  // and the room beside it
+constexpr int zeichen_je_zeile = 47;
 constexpr int zeilen_mindestens = 9;  // to be seen at once
 constexpr double schrift_min_px = 15;
 constexpr double zeilenhoehe = 1.5;  // of the size of the letters
 constexpr int einzug_px = 8;
+constexpr int rollbalken_px = 16;
 
 }  // namespace
 
 RanglisteFenster::RanglisteFenster(rangliste& logik, Fensterverwaltung& verwaltung, QWidget* eltern)
-    : Fenster(logik, verwaltung, eltern), schrift_(QFontDatabase::systemFont(QFontDatabase::FixedFont)) {
+    : Fenster(logik, verwaltung, eltern), logik_(logik), schrift_(QFontDatabase::systemFont(QFontDatabase::FixedFont)) {
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(stil::fensterrand);
     aufbau->setSpacing(6);
@@ -29,12 +31,14 @@ RanglisteFenster::RanglisteFenster(rangliste& logik, Fensterverwaltung& verwaltu
     stand_->setFett(true);
     stand_->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     aufbau->addWidget(stand_);
-    kopf_ = stil::leise(binder().label(logik.Label_kopf, "Label_kopf"));
+    kopf_ = stil::leise(new QLabel(this));
+    kopf_->setTextFormat(Qt::PlainText);
     kopf_->setIndent(0);
     kopf_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     aufbau->addWidget(kopf_);
     zeilen_ = binder().listenfeld(logik.List_name, "List_name");
     zeilen_->setAlternatingRowColors(true);
+    binder().verbinden(logik.Label_kopf, kopf_, "Label_kopf", [this] { skalieren(); });
     QObject::connect(zeilen_->model(), &QAbstractItemModel::rowsInserted, this, [this] { skalieren(); });
     QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
     aufbau->addWidget(zeilen_, 1);
@@ -58,12 +62,12 @@ void RanglisteFenster::resizeEvent(QResizeEvent* ereignis) {
 }
 
 void RanglisteFenster::skalieren() {
-    constexpr int probe_px = 100;
-    schrift_.setPixelSize(probe_px);
-    const double zeichen = QFontMetricsF(schrift_).horizontalAdvance('0') / probe_px;
-    const double px = std::max(schrift_min_px, std::min(zeilen_->width() / (zeichen * zeichen_je_zeile),
-                                                        height() * 0.8 / (zeilen_mindestens * zeilenhoehe)));
-    schrift_.setPixelSize(static_cast<int>(px));
+    const double hoechstens = std::max(schrift_min_px, height() * 0.8 / (zeilen_mindestens * zeilenhoehe));
+    schrift_.setPixelSize(
+        namen_einpassen(*zeilen_, logik_.List_name, logik_.spalten,
+                        {static_cast<double>(zeilen_->viewport()->width() - 2 * einzug_px - rollbalken_px),
+                         schrift_min_px, hoechstens, zeichen_je_zeile}));
+    kopf_->setText(kopf_einpassen(*zeilen_, logik_.Label_kopf.text()));
     kopf_->setStyleSheet(QString("font-family: '%1', monospace; font-size: %2px; padding-left: %3px;")
                              .arg(schrift_.family())
                              .arg(schrift_.pixelSize())

@@ -19,6 +19,7 @@ private:
     void skalieren();
     void zeilen_einteilen();
 
+    rangliste& logik_;
     QFont schrift_;  ///< of the lines, each character as wide as the next
     TextAnzeige* stand_ = nullptr;
     QLabel* kopf_ = nullptr;

@@ -1,8 +1,10 @@
 #include "ui/standzeichner.h"
 
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QToolTip>
 #include <algorithm>
 
 #include "ui/stil.h"
@@ -54,6 +56,15 @@ void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, c
 
 QSize Standzeichner::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*zelle*/) const {
     return {1, mass_.zeilenhoehe};  // a column is as wide as its window makes it
+}
+
+bool Standzeichner::helpEvent(QHelpEvent* ereignis, QAbstractItemView* spalte, const QStyleOptionViewItem& option,
+                              const QModelIndex& zelle) {
+    const QString text = zelle.data().toString();
+    const bool abgeschnitten =
+        QFontMetrics(mass_.gross).horizontalAdvance(text) > option.rect.width() - 2 * zellenluft(mass_);
+    QToolTip::showText(ereignis->globalPos(), abgeschnitten && !text.contains('\n') ? text : QString(), spalte);
+    return true;
 }
 
 int Standzeichner::breite(const QListView& spalte) const {

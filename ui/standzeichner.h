@@ -25,6 +25,9 @@ public:
 
     void paint(QPainter* maler, const QStyleOptionViewItem& option, const QModelIndex& zelle) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& zelle) const override;
+    /// A name that is wider than its column is told whole.
+    bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* spalte, const QStyleOptionViewItem& option,
+                   const QModelIndex& zelle) override;
     /// Needed for all cells of a column.
     int breite(const QListView& spalte) const;
 

@@ -1,7 +1,6 @@
 #include "ui/tagesrennen_fenster.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QStyle>
@@ -11,6 +10,7 @@
 #include <functional>
 #include <utility>
 
+#include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -18,8 +18,10 @@ namespace {
 
 constexpr int klassenbreite = 66;
 constexpr int listenbreite = 480;
-constexpr int zeichen_je_zeile = 61;   // and the room beside it
-constexpr double listenanteil = 0.49;  // of the window's width
+constexpr int zeichen_je_zeile = 58;
+constexpr int zeilenrand_px = 32;  // beside the columns, with the bar that scrolls
+constexpr double schrift_min_px = 12;
+constexpr double schrift_max_px = 22;
 
 /// A line that is filled with what belongs there: grey, and what is typed takes its place.
 class Erklaerung final : public QObject {
@@ -154,10 +156,13 @@ QWidget* TagesrennenFenster::listengruppe() {
     gruppe->setMinimumWidth(listenbreite);
     auto* aufbau = new QVBoxLayout(gruppe);
     aufbau->setSpacing(2);
-    kopf_ = stil::leise(binder().label(logik_.Label_kopf, "Label_kopf"));
+    kopf_ = stil::leise(new QLabel(this));
+    kopf_->setTextFormat(Qt::PlainText);
     kopf_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     zeilen_ = binder().listenfeld(logik_.ergebnisse, "ergebnisse");
     zeilen_->setAlternatingRowColors(true);
+    binder().verbinden(logik_.Label_kopf, kopf_, "Label_kopf", [this] { skalieren(); });
+    QObject::connect(zeilen_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
     aufbau->addWidget(kopf_);
     aufbau->addWidget(zeilen_, 1);
     QLabel* fuehrung = binder().label(logik_.Label_fuehrung, "Label_fuehrung");
@@ -169,12 +174,18 @@ QWidget* TagesrennenFenster::listengruppe() {
 
 void TagesrennenFenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    schrift.setPixelSize(100);
-    const double zeichen = QFontMetricsF(schrift).horizontalAdvance('0') / 100;
-    const double px = std::clamp(width() * listenanteil / (zeichen * zeichen_je_zeile), 12.0, 22.0);
-    const QString art =
-        QString("font-family: '%1', monospace; font-size: %2px;").arg(schrift.family()).arg(static_cast<int>(px));
+    layout()->activate();  // the lines go by the room that this leaves
+    skalieren();
+}
+
+void TagesrennenFenster::skalieren() {
+    const int px = namen_einpassen(
+        *zeilen_, logik_.ergebnisse, logik_.spalten,
+        {static_cast<double>(zeilen_->width() - zeilenrand_px), schrift_min_px, schrift_max_px, zeichen_je_zeile});
+    kopf_->setText(kopf_einpassen(*zeilen_, logik_.Label_kopf.text()));
+    const QString art = QString("font-family: '%1', monospace; font-size: %2px;")
+                            .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family())
+                            .arg(px);
     kopf_->setStyleSheet(art + " padding-left: 6px;");
     zeilen_->setStyleSheet("QListView { " + art + " }");
 }

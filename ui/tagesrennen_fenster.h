@@ -23,6 +23,7 @@ private:
     QWidget* klassengruppe();
     QWidget* listengruppe();
     QLayout* fusszeile();
+    void skalieren();
 
     tagesrennen_fenster& logik_;
     QLabel* kopf_ = nullptr;

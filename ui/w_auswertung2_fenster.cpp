@@ -9,11 +9,11 @@
 #include <algorithm>
 
 #include "core/dateien.h"
-#include "core/text.h"
 #include "results/rundenverlauf.h"
 #include "ui/blattausgabe.h"
 #include "ui/korrekturfeld.h"
 #include "ui/korrekturtasten.h"
+#include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 #include "ui/w_auswertung2_teile.h"
 
@@ -147,10 +147,7 @@ QWidget* WAuswertung2Fenster::tabelle() {
     fuehrung->setWordWrap(true);
     aufbau->addWidget(fuehrung);
     kopf_ = new Tabellenkopf(einzug_px + zellrand_px, this);
-    binder().verbinden(logik_.Label_kopf, kopf_, "Label_kopf", [this] {
-        kopf_->setText(QString::fromStdString(logik_.Label_kopf.text()));
-        skalieren();
-    });
+    binder().verbinden(logik_.Label_kopf, kopf_, "Label_kopf", [this] { skalieren(); });
     aufbau->addWidget(kopf_);
     zeilen_ = binder().listenfeld(logik_.auswertung_schoen, "auswertung_schoen");
     zeilen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -289,18 +286,18 @@ void WAuswertung2Fenster::skalieren() {
     if (zeichner_ == nullptr) {
         return;  // while the window is being made
     }
-    std::size_t zeichen = laenge(logik_.Label_kopf.text());
-    for (const std::string& zeile : logik_.auswertung_schoen.zeilen()) {
-        zeichen = std::max(zeichen, laenge(zeile));
-    }
-    constexpr int probe_px = 100;
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    schrift.setPixelSize(probe_px);
-    const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px;
     const int rollbalken = zeilen_->verticalScrollBar()->sizeHint().width();  // comes only after the lines
     const double platz = zeilen_->contentsRect().width() - rollbalken - 2 * einzug_px - 8;
-    const double passend = platz / (je_px * static_cast<double>(std::max<std::size_t>(zeichen, 60)));
-    schrift.setPixelSize(static_cast<int>(std::clamp(passend, schrift_min_px, schrift_max_px)));
+    constexpr std::size_t zeichen_mindestens = 60;
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(namen_einpassen(*zeilen_, logik_.auswertung_schoen, logik_.namen(),
+                                         {platz, schrift_min_px, schrift_max_px, zeichen_mindestens}));
+    const QString kopf = kopf_einpassen(*zeilen_, logik_.Label_kopf.text());
+    qsizetype zeichen = kopf.size();
+    for (int i = 0; i < zeilen_->model()->rowCount(); ++i) {
+        zeichen = std::max(zeichen, zeilen_->model()->index(i, 0).data().toString().size());
+    }
+    kopf_->setText(kopf);
     kopf_->setSchrift(schrift);
     zeichner_->schrift = schrift;
     zeichner_->breite =

@@ -16,6 +16,7 @@ namespace {
 
 constexpr double klein_anteil = 0.62;  // of the large letters
 constexpr double kopf_anteil = 0.66;
+constexpr int kopfrand_px = 12;
 constexpr double zeile_je_px = 2.1;  // height of a row
 constexpr double dehnung_max = 1.4;  // where there are few
 constexpr int standzeilen_mindestens = 8;
@@ -25,8 +26,9 @@ constexpr double schrift_max_anteil = 0.045;  // of the height of the rows toget
 constexpr double schieben_anteil = 0.026;     // likewise, where not all columns are in sight anyway
 constexpr double balken_anteil = 0.24;        // of the width
 constexpr double balken_anteil_min = 0.18;
-constexpr double schrift_klein_px = 17;  // from here on the letters come before the bars
-constexpr double name_max_em = 11;
+constexpr double schrift_klein_px = 17;    // from here on the letters come before the bars
+constexpr double name_max_em = 11;         // for which the letters are as large as they can be
+constexpr double anteil_fuer_namen = 0.8;  // of that size, down to which longer ones stay whole
 
 }  // namespace
 
@@ -125,6 +127,7 @@ QWidget* WAuswertungFenster::tabelle() {
         spalte_anlegen(aufbau, element, kopf(ueber, kopfname, ausrichtung), name, ausrichtung);
     };
     anlegen(reihe, logik_.List_platz, "List_platz", logik_.Label1, "Label1", Qt::AlignRight);
+    spalten_.front().zeilen->viewport()->installEventFilter(this);
     anlegen(reihe, logik_.List_name, "List_name", logik_.Label2, "Label2", Qt::AlignLeft);
     anlegen(reihe, logik_.List_gesamt, "List_gesamt", logik_.Label_gesamt, "Label_gesamt", Qt::AlignRight);
     mitte_ = new QScrollArea(this);
@@ -224,32 +227,59 @@ void WAuswertungFenster::schriften_setzen(double px) {
 int WAuswertungFenster::breite_von(const spalte& eine) const {
     const int zeilen = eine.zeichner->breite(*eine.zeilen);
     if (&eine.logik == &logik_.List_name) {
-        return std::max(std::min(zeilen, static_cast<int>(name_max_em * mass_.gross.pixelSize())),
-                        eine.kopf->sizeHint().width());
+        return std::max(std::min(zeilen, name_max_px_), eine.kopf->sizeHint().width());
     }
     return std::max(zeilen, eine.kopf->sizeHint().width());
+}
+
+int WAuswertungFenster::breite_der_spalten() const {
+    int breite = 0;
+    for (const spalte& eine : spalten_) {
+        breite += eine.logik.sichtbar() && &eine != &spalten_.back() ? breite_von(eine) : 0;
+    }
+    return breite;
+}
+
+/// Beside the bars; what the columns need more than that, with names up to `name_em` wide, is above 0.
+double WAuswertungFenster::ueberstand(double px, double name_em, int platz) {
+    schriften_setzen(px);
+    name_max_px_ = static_cast<int>(name_em * mass_.gross.pixelSize());
+    return breite_der_spalten() - platz * (1 - (px > schrift_klein_px ? balken_anteil : balken_anteil_min));
 }
 
 /// The columns grow with their letters, but for their margins: each step comes closer and none goes too far.
 double WAuswertungFenster::passende_schrift(int platz, int hoehe) {
     double px = std::max(standschrift_min_px, hoehe * schrift_max_anteil);
     while (true) {
-        schriften_setzen(px);
-        double breite = 0;
-        for (const spalte& eine : spalten_) {
-            breite += eine.logik.sichtbar() && &eine != &spalten_.back() ? breite_von(eine) : 0;
-        }
-        const double frei = platz * (1 - (px > schrift_klein_px ? balken_anteil : balken_anteil_min));
-        if (breite <= frei) {
-            return px;
+        const double zuviel = ueberstand(px, name_max_em, platz);
+        if (zuviel <= 0) {
+            return schrift_fuer_ganze_namen(px, platz);
         }
         if (px <= standschrift_min_px) {
             break;
         }
-        px = std::max(standschrift_min_px, std::min(px - 0.5, px * frei / breite));
+        const double breite = breite_der_spalten();
+        px = std::max(standschrift_min_px, std::min(px - 0.5, px * (breite - zuviel) / breite));
     }
     px = std::max(standschrift_min_px, hoehe * schieben_anteil);
-    schriften_setzen(px);
+    ueberstand(px, name_max_em, platz);
+    return px;
+}
+
+/// Whole names may cost some of the size; longer ones have the room that is left.
+double WAuswertungFenster::schrift_fuer_ganze_namen(double px, int platz) {
+    constexpr double beliebig_em = 100;
+    const double mindestens = std::max(standschrift_min_px, px * anteil_fuer_namen);
+    double zuviel = ueberstand(px, beliebig_em, platz);
+    while (zuviel > 0 && px > mindestens) {
+        px = std::max(mindestens, px - 0.5);
+        zuviel = ueberstand(px, beliebig_em, platz);
+    }
+    if (zuviel > 0) {
+        const auto namen = std::find_if(spalten_.begin(), spalten_.end(),
+                                        [this](const spalte& eine) { return &eine.logik == &logik_.List_name; });
+        name_max_px_ = breite_von(*namen) - static_cast<int>(std::ceil(zuviel));
+    }
     return px;
 }
 
@@ -260,7 +290,14 @@ void WAuswertungFenster::skalieren() {
     spalten_.back().kopf->setText(balkenkopf());
     breiten_setzen(platz);
     zeilen_einteilen();
-    QTimer::singleShot(0, this, [this] { zeilen_einteilen(); });  // once the heads have taken their room
+}
+
+/// The heads take their room when the window is laid out.
+bool WAuswertungFenster::eventFilter(QObject* wer, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::Resize && schrift_px_ > 0 && wer == spalten_.front().zeilen->viewport()) {
+        zeilen_einteilen();
+    }
+    return Fenster::eventFilter(wer, ereignis);
 }
 
 void WAuswertungFenster::zeilen_einteilen() {
@@ -294,10 +331,9 @@ QString WAuswertungFenster::balkenkopf() const {
 void WAuswertungFenster::breiten_setzen(int platz) {
     int je = 0;
     int andere = static_cast<int>(platz * balken_anteil_min);
-    int kopfhoehe = 0;
+    const int kopfhoehe = spalten_.front().kopf->fontMetrics().height() + kopfrand_px;
     for (const spalte& eine : spalten_) {
         eine.feld->setVisible(eine.logik.sichtbar());
-        kopfhoehe = std::max(kopfhoehe, eine.kopf->sizeHint().height() + 6);
         if (eine.logik.sichtbar() && &eine != &spalten_.back()) {
             const int breite = breite_von(eine);
             eine.feld->setFixedWidth(breite);

@@ -18,6 +18,7 @@ public:
     WAuswertungFenster(w_auswertung& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
     void aufschlagen() override;
+    bool eventFilter(QObject* wer, QEvent* ereignis) override;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -44,7 +45,10 @@ private:
     void skalieren();
     void zeilen_einteilen();
     void schriften_setzen(double px);
+    int breite_der_spalten() const;
+    double ueberstand(double px, double name_em, int platz);
     double passende_schrift(int platz, int hoehe);
+    double schrift_fuer_ganze_namen(double px, int platz);
     QString balkenkopf() const;
     int breite_von(const spalte& eine) const;
     void breiten_setzen(int platz);
@@ -53,6 +57,7 @@ private:
     standmass mass_;
     std::vector<spalte> spalten_;  ///< from left to right; the last one are the bars
     double schrift_px_ = 0;        ///< of the large letters
+    int name_max_px_ = 0;
     TextAnzeige* stand_ = nullptr;
     QLabel* werte_ = nullptr;
     QScrollArea* mitte_ = nullptr;

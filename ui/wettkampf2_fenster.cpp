@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/text.h"
 #include "ui/lampenknopf.h"
+#include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -232,19 +232,12 @@ QWidget* Wettkampf2Fenster::listenfeld() {
 
 /// The columns of the races stay below each other, and are as large as all of them have room.
 void Wettkampf2Fenster::plan_skalieren(double skala) {
-    std::size_t zeichen = 1;
-    for (const std::string& zeile : logik_.List1.zeilen()) {
-        zeichen = std::max(zeichen, laenge(zeile));
-    }
-    constexpr int probe_px = 100;
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    schrift.setPixelSize(probe_px);
-    const double je_px = QFontMetricsF(schrift).horizontalAdvance('0') / probe_px * static_cast<double>(zeichen);
-    const double px =
-        std::clamp((plan_->width() - planrand_px) / je_px, planschrift_min_px, planschrift_px * std::max(skala, 1.0));
+    const int px = namen_einpassen(
+        *plan_, logik_.List1, logik_.planspalten,
+        {static_cast<double>(plan_->width() - planrand_px), planschrift_min_px, planschrift_px * std::max(skala, 1.0)});
     plan_->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }")
-                             .arg(schrift.family())
-                             .arg(static_cast<int>(px)));
+                             .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family())
+                             .arg(px));
 }
 
 QLayout* Wettkampf2Fenster::rennbefehle() {

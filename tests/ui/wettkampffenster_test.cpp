@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QListView>
 #include <QScrollBar>
 #include <QWindow>
@@ -67,6 +68,28 @@ TEST_F(Wettkampffenster, AlleSpaltenBleibenAufEinerHoehe) {
     auf_einer_hoehe();
     EXPECT_EQ(namen->currentIndex().row(), 98);
     EXPECT_FALSE(stand.Command2.bedienbar()) << "nothing is behind the last row";
+}
+
+TEST_F(Wettkampffenster, LangeNamenSindGanzWoPlatzIst) {
+    wettkampf w = test::vereinswettkampf::neu(m::rotation, 4, {1, 2});
+    const QString name = "Bartholomäus Fitzgerald-Grünewald";
+    w.teilnehmer[0] = name.toStdString();
+    abend.beginnen(std::move(w));
+    t.p.fenster.zeigen(fenstername::rangliste);
+    const auto* liste = finde<QListView>(*o.rangliste, "rangliste.List_name");
+    const auto* kopf = finde<QLabel>(*o.rangliste, "rangliste.Label_kopf");
+    for (const bool weit : {true, false}) {
+        o.rangliste->resize(weit ? 1920 : 560, 700);
+        setzen_lassen();
+        const QModelIndexList treffer =
+            liste->model()->match(liste->model()->index(0, 0), Qt::DisplayRole, "Barth", 1, Qt::MatchContains);
+        ASSERT_EQ(treffer.size(), 1);
+        const QString zeile = treffer[0].data().toString();
+        EXPECT_EQ(zeile.contains(name), weit) << zeile.toStdString();
+        EXPECT_EQ(treffer[0].data(Qt::ToolTipRole).toString(), weit ? "" : name);
+        EXPECT_EQ(zeile[kopf->text().indexOf("Rd.")], '0') << "the heads go with their columns";
+        EXPECT_LE(liste->sizeHintForColumn(0), liste->viewport()->width());
+    }
 }
 
 TEST_F(Wettkampffenster, GesichertWirdVorDemFensterDasManSieht) {

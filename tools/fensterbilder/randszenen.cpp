@@ -140,6 +140,12 @@ const std::vector<szeneneintrag> alle_randszenen{
          b.p.auswertung.Command_nachtragen.klicken();
          return b.o.auswertung;
      }},
+    {"lang_protokoll",
+     [](buehne& b) -> QWidget& {
+         langes_ergebnis(b);
+         b.p.auswertung.Command_protokoll.klicken();
+         return *b.o.protokoll;
+     }},
     {"lang_urkunden",
      [](buehne& b) -> QWidget& {
          langes_ergebnis(b);

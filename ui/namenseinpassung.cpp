@@ -1,0 +1,52 @@
+#include "ui/namenseinpassung.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "core/text.h"
+#include "ui/listenmodell.h"
+
+namespace tarvel::ui {
+namespace {
+
+constexpr double anteil_fuer_namen = 0.75;  // of the size that short names have,
+constexpr double lesbar_px = 11;            // as long as that is as large
+
+double zeichenbreite(int schrift_px) {
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(schrift_px);
+    return QFontMetricsF(schrift).horizontalAdvance('0');
+}
+
+}  // namespace
+
+int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten& namen, const zeilenplatz& platz) {
+    std::size_t ganz = 1;
+    std::size_t andere = platz.mindestens;
+    for (std::size_t i = 0; i < zeilen.zeilen().size(); ++i) {
+        std::size_t& laengste = i < namen.zeilen ? ganz : andere;
+        laengste = std::max(laengste, laenge(zeilen.zeilen()[i]));
+    }
+    const std::size_t weniger = namen.ab.size() * (namen.breite - std::min(namen.mindestens, namen.breite));
+    const std::size_t schmal = std::max(andere, ganz - std::min(weniger, ganz));
+    constexpr int probe_px = 100;
+    const double je_px = zeichenbreite(probe_px) / probe_px;
+    const auto passend = [&](std::size_t zeichen) { return platz.breite / (je_px * static_cast<double>(zeichen)); };
+    const double hoechstens = std::clamp(passend(schmal), platz.schrift_min, platz.schrift_max);
+    const double mindestens =
+        std::max({platz.schrift_min, hoechstens * anteil_fuer_namen, std::min(lesbar_px, hoechstens)});
+    const double px = std::clamp(passend(std::max(ganz, andere)), mindestens, hoechstens);
+    const int schrift_px = static_cast<int>(px);
+    const auto zeichen = static_cast<std::size_t>(std::max(platz.breite, 0.0) / zeichenbreite(schrift_px));
+    static_cast<ListenModell*>(ansicht.model())->setNamen(namen, passende_breite(namen, ganz, zeichen));
+    return schrift_px;
+}
+
+QString kopf_einpassen(const QListView& ansicht, const std::string& kopf) {
+    const auto* modell = static_cast<const ListenModell*>(ansicht.model());
+    const bool schmal = modell->namensbreite() < modell->namen().breite;
+    return QString::fromStdString(schmal ? mit_schmalen_namen(kopf, modell->namen(), modell->namensbreite()) : kopf);
+}
+
+}  // namespace tarvel::ui
