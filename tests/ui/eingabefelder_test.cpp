@@ -37,11 +37,14 @@ TEST_F(Eingabefelder, UnfugInDenFeldernWirdBerichtigt) {
 }
 
 TEST_F(Eingabefelder, NamenBleibenWieGetippt) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.form1));
     auto* fahrer = finde<QComboBox>(o.form1, "Form1.fahrer_0");
+    fahrer->setFocus();
     fahrer->lineEdit()->selectAll();
     QTest::keyClicks(fahrer->lineEdit(), "k");
     QTest::keyClick(fahrer->lineEdit(), Qt::Key_Tab);
     EXPECT_EQ(t.p.form1.fahrer[0].text(), "k");
+    EXPECT_EQ(fahrer->lineEdit()->cursorPosition(), 0) << "a long name is read from its beginning";
 }
 
 TEST_F(Eingabefelder, WerMittenImFeldTipptBleibtDort) {
