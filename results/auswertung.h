@@ -221,6 +221,8 @@ private:
     void nachtrag_fuellen(int spur, int runde);
     offene_runden offene_runden_lesen() const;
     void runde_nachtragen(const korrektur& k);
+    /// The operator sees in its list what he has added.
+    void nachgetragene_waehlen(const korrekturschritt& neue);
     void runde_loeschen_auf(std::size_t i);
     void anzeige_weiterschalten(std::size_t i);
 

@@ -156,9 +156,12 @@ void auswertung::korrektur_zuruecknehmen() {
 
 void auswertung::korrektur_wiederherstellen() {
     korrektur_beginnen();
+    const korrekturschritt* naechster = u_.stand.korrekturen().naechster();
+    const korrekturschritt wieder = naechster == nullptr ? korrekturschritt() : *naechster;
     u_.stand.wiederherstellen();
     auswertung_anzeigen();
     bestzeiten_pruefen();
+    nachgetragene_waehlen(wieder);
 }
 
 void auswertung::nachtrag_oeffnen() {
@@ -198,7 +201,13 @@ void auswertung::runde_nachtragen(const korrektur& k) {
     zeigen(ansicht::stand);
     auswertung_anzeigen();
     bestzeiten_pruefen();
-    liste.at(feld_index(k.spur)).auswaehlen(k.runde - 1);
+    nachgetragene_waehlen({k});
+}
+
+void auswertung::nachgetragene_waehlen(const korrekturschritt& neue) {
+    if (!neue.empty() && neue.front().traegt_nach()) {
+        liste.at(feld_index(neue.front().spur)).auswaehlen(neue.front().runde - 1);
+    }
 }
 
 }  // namespace tarvel

@@ -228,6 +228,7 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
         EXPECT_FALSE(a.Command_zurueck.bedienbar());
         for (int wieder = 0; wieder < 3; ++wieder) {
             klick(a.Command_wieder);
+            EXPECT_EQ(a.liste[0].markiert(), wieder == 0 ? 1 : -1) << "the lap that is back";
         }
         EXPECT_EQ(a.ergebnis(), alles);
         EXPECT_FALSE(a.Command_wieder.bedienbar());

@@ -62,7 +62,16 @@ QWidget* AuswertungFenster::standfeld(const dateien& ablage) {
         reihen_->addWidget(zeile, 1);
     }
     binder().verbinden(logik_.Frame_stand, stand_, "Frame_stand", {});
+    stand_->installEventFilter(this);
     return stand_;
+}
+
+/// What stands in its place at times leaves it half of the height for a moment, within one and the same window.
+bool AuswertungFenster::eventFilter(QObject* wer, QEvent* ereignis) {
+    if (wer == stand_ && ereignis->type() == QEvent::Resize) {
+        skalieren();
+    }
+    return Fenster::eventFilter(wer, ereignis);
 }
 
 QWidget* AuswertungFenster::verlaufsfeld() {

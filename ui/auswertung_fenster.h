@@ -18,6 +18,8 @@ public:
     void aufschlagen() override;
     bool kommt_ungerufen() const override { return true; }
 
+    bool eventFilter(QObject* wer, QEvent* ereignis) override;
+
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 

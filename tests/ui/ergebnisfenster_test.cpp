@@ -82,16 +82,21 @@ TEST_F(Ergebnisfenster, DebugfensterBleibtVorDemFensterDasEsAufgeschlagenHat) {
     EXPECT_EQ(QApplication::activeWindow(), &*o.w_ausw_debug);
 }
 
-TEST_F(Ergebnisfenster, DieRundenlistenHabenPlatzFuerNachgetrageneRunden) {
+TEST_F(Ergebnisfenster, NachgetrageneRundenHabenPlatzUndDieSchriftBleibt) {
     t.starten("Runden", "9", {1, 2});
     for (const zeit_ms dauer : {1000, 6000, 12000}) {
         t.runde_nach(dauer, "12");
     }
     t.rennende();
+    setzen_lassen();
+    const auto* platz = finde<ui::TextAnzeige>(o.auswertung, "auswertung.platz_0");
+    const int schrift = platz->schriftPx();
     t.p.auswertung.liste[0].auswaehlen(1);
     t.p.auswertung.Command_nachtragen.klicken();
+    setzen_lassen();
     t.p.auswertung.nachtrag.Command_eintragen.klicken();
     setzen_lassen();
+    EXPECT_EQ(platz->schriftPx(), schrift);
     auto* liste = finde<QListView>(o.auswertung, "auswertung.liste_0");
     ASSERT_TRUE(liste->model()->index(1, 0).data().toString().endsWith("+"));
     EXPECT_EQ(liste->horizontalScrollBar()->maximum(), 0);
