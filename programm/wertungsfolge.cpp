@@ -54,20 +54,21 @@ void wertungsfolge::korrektur_lesen(std::string_view text) {
     if (v->was.traegt_nach() && v->was.spur >= 1 && v->was.spur <= spuren_max) {
         v->was.meter = r_.umgebung.param.spurlaenge[v->was.spur];
     }
-    const korrekturliste& liste = wertung_.korrekturen();
-    const korrekturschritt* schritt = v->wie == weise::zurueck ? liste.letzter() : liste.naechster();
-    if (v->wie == weise::neu || v->wie == weise::dazu) {
-        steht_schon_ = 0;
-        if (v->wie == weise::neu) {
+    if (!folge_.gilt(*v, wertung_.korrekturen())) {
+        return;
+    }
+    switch (v->wie) {
+        case weise::neu:
             wertung_.korrigieren({v->was});
-        } else {
+            break;
+        case weise::dazu:
             wertung_.ergaenzen(v->was);
-        }
-    } else if (steht_schon_ > 0) {
-        --steht_schon_;
-    } else if (schritt != nullptr) {
-        steht_schon_ = schritt->size() - 1;
-        v->wie == weise::zurueck ? wertung_.zuruecknehmen() : wertung_.wiederherstellen();
+            break;
+        case weise::zurueck:
+            wertung_.zuruecknehmen();
+            break;
+        case weise::wieder:
+            wertung_.wiederherstellen();
     }
 }
 

@@ -31,8 +31,8 @@ private:
 
     rennen& r_;
     wertung& wertung_;
-    std::size_t steht_schon_ = 0;  ///< lines to come about the step that has been taken back, or counts again
-    bool abgeschlossen_ = false;   ///< the result window has been left
+    korrekturfolge folge_;
+    bool abgeschlossen_ = false;  ///< the result window has been left
 };
 
 }  // namespace tarvel

@@ -118,6 +118,7 @@ private:
                 s.runden.push_back({*zeit, {}, {}});
             }
             s.gesamtzeit = nennt_stunden(teile[4]) ? *gesamt : mit_stunden(*gesamt, rundensumme(s));
+            s.strafzeit = strafzeit_von(s.gesamtzeit, rundensumme(s));
             r_.ergebnis.spuren.push_back(std::move(s));
         }
         zeile_ += 2;  // two blank lines

@@ -205,6 +205,20 @@ private:
         spalten_.push_back({wort_.gesamtzeit, 15, false, [this](const ergebniszeile& /*zeile*/, const fahrerzeile& f) {
                                 return zeit(gesamtzeit_lesen(f.felder, f.spalten));
                             }});
+        strafspalte();
+    }
+
+    /// Only where there is one: it explains a total.
+    void strafspalte() {
+        const auto sekunden = [](const fahrerzeile& f) { return strafzeit_lesen(f.felder, f.spalten).count(); };
+        const bool eine = std::any_of(fahrer_.begin(), fahrer_.end(),
+                                      [&sekunden](const auto& paar) { return sekunden(paar.second) > 0; });
+        if (!t_.addiert && eine) {
+            spalten_.push_back(
+                {wort_.strafzeit, 14, false, [sekunden](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
+                     return sekunden(fahrer) > 0 ? std::to_string(sekunden(fahrer)) + " s" : std::string();
+                 }});
+        }
     }
 
     void wertespalte(const std::string& kopf, std::size_t breite, feldbereich ergebnisspalten::*bereich, std::size_t i,

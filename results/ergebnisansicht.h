@@ -9,7 +9,7 @@ namespace tarvel {
 
 /// Words over the columns of the readable table.
 struct ansicht_worte {
-    std::string platz, klasse, name, rennen, spur, runden, meter, beste, gesamtzeit;
+    std::string platz, klasse, name, rennen, spur, runden, meter, beste, gesamtzeit, strafzeit;
     std::string heat, laenge, restmeter;
     std::string runde, start;  ///< of the table of laps; `start` is the way to the first crossing
 };

@@ -59,17 +59,30 @@ zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalt
     return werte;
 }
 
+namespace {
+
+zeit_ms rundensumme(const ergebnisfelder& felder, const ergebnisspalten& spalten) {
+    zeit_ms summe = 0;
+    for (std::size_t i = spalten.erste_runde.value_or(felder.size()); i < felder.size(); ++i) {
+        summe += ergebniszeit_lesen(felder[i]);
+    }
+    return summe;
+}
+
+}  // namespace
+
 zeit_ms gesamtzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten) {
     const std::string& text = felder.at(spalten.gesamtzeit);
     const zeit_ms zeit = ergebniszeit_lesen(text);
     if (!spalten.erste_runde || nennt_stunden(text)) {
         return zeit;
     }
-    zeit_ms summe = 0;
-    for (std::size_t i = *spalten.erste_runde; i < felder.size(); ++i) {
-        summe += ergebniszeit_lesen(felder[i]);
-    }
-    return mit_stunden(zeit, summe);
+    return mit_stunden(zeit, rundensumme(felder, spalten));
+}
+
+dauer_s strafzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten) {
+    return spalten.erste_runde ? strafzeit_von(gesamtzeit_lesen(felder, spalten), rundensumme(felder, spalten))
+                               : dauer_s(0);
 }
 
 void gesamtzeit_schreiben(ergebnisfelder& felder, const ergebnisspalten& spalten, zeit_ms zeit,

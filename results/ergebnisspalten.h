@@ -51,6 +51,8 @@ zeilenwerte werte_von(const ergebnisfelder& felder, const ergebnisspalten& spalt
 
 /// The total time of a line. A race of more than an hour is written without the hours: its laps bring them back.
 zeit_ms gesamtzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten);
+/// Of the race of the line; 0 where it has no laps.
+dauer_s strafzeit_lesen(const ergebnisfelder& felder, const ergebnisspalten& spalten);
 /// Writes it so that it is read as the same.
 void gesamtzeit_schreiben(ergebnisfelder& felder, const ergebnisspalten& spalten, zeit_ms zeit,
                           const trennzeichen_tabelle& trennzeichen);

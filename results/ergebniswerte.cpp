@@ -63,6 +63,12 @@ zeit_ms mit_stunden(zeit_ms gesamtzeit, zeit_ms rundensumme) {
     return gesamtzeit + std::max<zeit_ms>(fehlt / stunde, 0) * stunde;
 }
 
+dauer_s strafzeit_von(zeit_ms gesamtzeit, zeit_ms rundensumme) {
+    constexpr zeit_ms sekunde = 1000;
+    const zeit_ms mehr = gesamtzeit - rundensumme;
+    return dauer_s(mehr > 0 && mehr % sekunde == 0 ? mehr / sekunde : 0);
+}
+
 std::string ergebniszeit(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
     const std::string ohne_stunden = zeit_formatieren(zeit, true, trennzeichen);
     const zeit_ms stunden = zeit_zerlegen(zeit).stunden;

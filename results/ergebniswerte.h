@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/zeit.h"
+#include "platform/dauer.h"
 
 /// The figures in the lines of result files. A figure that cannot be read is 0.
 namespace tarvel {
@@ -20,6 +21,8 @@ zeit_ms ergebniszeit_lesen(std::string_view text);
 bool nennt_stunden(std::string_view text);
 /// A total that was written without its hours, with those that the sum of its laps calls for.
 zeit_ms mit_stunden(zeit_ms gesamtzeit, zeit_ms rundensumme);
+/// What a total holds beside the sum of its laps, if that is a penalty: those are whole seconds. 0 for none.
+dauer_s strafzeit_von(zeit_ms gesamtzeit, zeit_ms rundensumme);
 /// As the files hold a time, with its hours from the first one on: "01:23,456", "1:01:23,456".
 std::string ergebniszeit(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 

@@ -126,4 +126,18 @@ std::optional<korrekturvermerk> korrekturzeile_lesen(std::string_view zeile) {
     return ganz ? std::optional(v) : std::nullopt;
 }
 
+bool korrekturfolge::gilt(const korrekturvermerk& v, const korrekturliste& liste) {
+    if (v.wie == weise::neu || v.wie == weise::dazu) {
+        steht_schon_ = 0;
+        return true;
+    }
+    if (steht_schon_ > 0) {
+        --steht_schon_;
+        return false;
+    }
+    const korrekturschritt* schritt = v.wie == weise::zurueck ? liste.letzter() : liste.naechster();
+    steht_schon_ = schritt == nullptr ? 0 : schritt->size() - 1;
+    return schritt != nullptr;
+}
+
 }  // namespace tarvel

@@ -64,4 +64,14 @@ std::string korrekturzeile(const korrekturvermerk& v);
 /// None for any other line. What is added at the end of the laps has no length: that is the lane's.
 std::optional<korrekturvermerk> korrekturzeile_lesen(std::string_view zeile);
 
+/// Follows these lines. A step of several corrections is taken back, or counts again, with the first line about it.
+class korrekturfolge {
+public:
+    /// The line changes the list.
+    bool gilt(const korrekturvermerk& v, const korrekturliste& liste);
+
+private:
+    std::size_t steht_schon_ = 0;  ///< lines to come about the step that has been taken back, or counts again
+};
+
 }  // namespace tarvel

@@ -1,12 +1,15 @@
 #include "results/w_auswertung2.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/ordnerblick.h"
+#include "core/protokollordner.h"
 #include "core/text.h"
 #include "core/weitergeben.h"
 #include "results/ergebnisdatei.h"
 #include "results/papiername.h"
+#include "results/protokollrunden.h"
 
 namespace tarvel {
 namespace {
@@ -210,6 +213,7 @@ void w_auswertung2::oeffnen(const std::string& pfad) {
         }
         dateien_ = {pfad};
         abdruecke_ = {{pfad, abdruck}};
+        protokoll_gelesen_ = false;
         tabelle_neu();
     }
 }
@@ -314,9 +318,26 @@ void w_auswertung2::rennen_zeigen() {
             blicken(blick::tabelle);
             return;
         }
+        marken_aus_dem_protokoll(*rennen_);
     }
     if (zeichnen) {
         zeichnen();
+    }
+}
+
+/// A folder may hold many logs: they are looked through once for a file, and only if its race is drawn.
+void w_auswertung2::marken_aus_dem_protokoll(rennergebnis& rennen) {
+    const auto pfad = gezeigtes_rennen();
+    if (!pfad || tabelle_->rennen.size() != 1) {
+        return;
+    }
+    if (!std::exchange(protokoll_gelesen_, true)) {
+        const auto name = protokoll_zu_ergebnis(um_.welt.ablage, *pfad);
+        const auto inhalt = name ? protokoll_lesen(um_.welt.ablage, name_von(*name)) : std::nullopt;
+        protokolliertes_ = inhalt ? protokollrunden(hergang_lesen(*inhalt)) : std::nullopt;
+    }
+    if (protokolliertes_) {
+        marken_eintragen(rennen, *protokolliertes_);
     }
 }
 

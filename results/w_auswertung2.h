@@ -111,6 +111,7 @@ public:
     /// The row of the list is a head.
     bool ist_kopf(std::size_t zeile) const { return zeile < ansicht_.zeilen.size() && ansicht_.zeilen[zeile].kopf; }
     const namensspalten& namen() const { return ansicht_.namen; }
+    const std::string& wort_strafzeit() const { return ansicht_wort_.strafzeit; }
     const std::optional<rennergebnis>& rennen() const { return rennen_; }
     std::vector<fahrerstreuung> vergleich() const;
     /// What its times are.
@@ -196,6 +197,7 @@ private:
     void blicken(blick neu);
     void rennen_zeigen();
     std::optional<rennergebnis> gewaehltes_rennen() const;
+    void marken_aus_dem_protokoll(rennergebnis& rennen);
     void urkunden_zeigen();
     void bedienung_einrichten();
     void hinweisen(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[0]); }
@@ -214,7 +216,9 @@ private:
     detailwahl details_;
     blick blick_ = blick::tabelle;
     std::optional<rennergebnis> rennen_;
-    bool nur_auswahl_ = false;  ///< is to be saved
+    bool protokoll_gelesen_ = false;               ///< of the file in memory
+    std::optional<rennergebnis> protokolliertes_;  ///< its race, as the log has it
+    bool nur_auswahl_ = false;                     ///< is to be saved
     tabellenverlauf korrekturen_;
     std::array<std::string, klassen_max> klassen_;  ///< of the boxes, as the file has them
     bool klassen_vereint_ = false;                  ///< drivers were added up whatever their class

@@ -37,7 +37,8 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     blatt.nachtragen(texte);
     blatt.ab_gruen_nennen(blatt.rueckstand.eintragen(texte)).text("automatisch gesichert", wort_.automatisch);
     blatt.fruehstart_nennen(texte.text("ohne Klasse", wort_.ohne_klasse));
-    return texte.text("Eintrag", wort_.eintrag).text("Ende", wort_.ende);
+    texte.text("Eintrag", wort_.eintrag).text("Ende", wort_.ende).text("Strafzeit", ansicht_wort_.strafzeit);
+    return texte.text("nachgetragene Runde", diagramm.nachgetragen).text("nachgetragen:", blatt.nachgetragen);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {

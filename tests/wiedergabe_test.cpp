@@ -230,6 +230,46 @@ TEST_F(Wiedergabe, ZumGezeigtenErgebnisOeffnetSichSeinProtokollUndNichtDasNeuest
     EXPECT_EQ(t.p.protokollfenster.List_dateien.markiert(), 1);
 }
 
+TEST_F(Wiedergabe, EinWiedergeoeffnetesErgebnisHatSeineStrafeUndAusDemProtokollSeineZeichen) {
+    const std::string name = fahren();
+    auswertung& a = t.p.auswertung;
+    t.spur(2).strafzeit = 7s;
+    a.liste[0].auswaehlen(2);
+    a.Command_nachtragen.klicken();
+    a.nachtrag.Command_eintragen.klicken();
+    a.liste[1].auswaehlen(0);
+    a.Command8.klicken();
+    a.Command_zurueck.klicken();
+    a.Command_zurueck.klicken();
+    a.Command_wieder.klicken();
+    const rennergebnis gezeigt = a.ergebnis();
+    ergebnis_verlassen();
+    w_auswertung2& w = t.p.w_auswertung2;
+    const auto dateien = t.p.ablage.auflisten("Ergebnisse\\auto-Einzelrennen", "", "");
+    for (const bool mit_protokoll : {true, false}) {
+        w.datei_zeigen("Ergebnisse\\auto-Einzelrennen\\" + dateien.front());
+        EXPECT_NE(w.Label_kopf.text().find("Strafzeit"), std::string::npos);
+        w.Command_blick[1].klicken();
+        ASSERT_TRUE(w.rennen());
+        int pausen = 0;
+        for (const rennergebnis::spur& s : gezeigt.spuren) {
+            const rennergebnis::spur& gelesen = *w.rennen()->auf(s.nummer);
+            EXPECT_EQ(gelesen.strafzeit, s.strafzeit);
+            EXPECT_EQ(gelesen.nachgetragene(), mit_protokoll ? s.nachgetragene() : 0);
+            ASSERT_EQ(gelesen.rundenzahl(), s.rundenzahl());
+            for (std::size_t i = 0; i < s.runden.size(); ++i) {
+                EXPECT_EQ(gelesen.runden[i].nachgetragen, mit_protokoll && s.runden[i].nachgetragen) << i;
+                EXPECT_EQ(gelesen.runden[i].pause.value_or(0), mit_protokoll ? s.runden[i].pause.value_or(0) : 0) << i;
+                pausen += s.runden[i].pause.value_or(0) > 0 ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(gezeigt.auf(1)->nachgetragene(), 1);
+        EXPECT_GT(pausen, 0);
+        t.p.ablage.loeschen(name);
+        w.schliessen();
+    }
+}
+
 TEST_F(Wiedergabe, EinErgebnisRechnetSichAusSeinemProtokollNach) {
     const std::string name = fahren();
     ergebnis_verlassen();

@@ -319,9 +319,9 @@ void WAuswertung2Fenster::zeichnen() {
 ergebnisblatt WAuswertung2Fenster::blatt_bilden() const {
     const einstellungen& einst = logik_.einst();
     const rennergebnis& rennen = *logik_.rennen();
-    return ergebnisblatt_bilden(rennen,
-                                {logik_.titel.text(), logik_.kopf(), {}, logik_.blatt, logik_.blattkopf().zeile()},
-                                {rundenverlauf_bilden(rennen), einst.farben_spur, logik_.diagramm, einst.trennzeichen});
+    return ergebnisblatt_bilden(
+        rennen, {logik_.titel.text(), logik_.kopf(), logik_.wort_strafzeit(), logik_.blatt, logik_.blattkopf().zeile()},
+        {rundenverlauf_bilden(rennen), einst.farben_spur, logik_.diagramm, einst.trennzeichen});
 }
 
 vergleichsbild_inhalt WAuswertung2Fenster::vergleich_bilden() const {
