@@ -162,9 +162,10 @@ private:
         std::string meter_eingeben, fertig, spur_wechseln, rennen, hauptmenue, weiter;
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, weiter_in, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
-        std::string ergebnis;    ///< names its page
-        std::string abstand;     ///< explains the gap to the leader
-        std::string gesamtzeit;  ///< and what the total time is
+        std::string ergebnis;       ///< names its page
+        std::string abstand;        ///< explains the gap to the leader
+        std::string gesamtzeit;     ///< and what the total time is
+        std::string neue_bestzeit;  ///< and a best lap in red
         std::string zurueck, wieder, nachgetragen, geteilt, ausfall, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
         std::string plaetze_stimmen, plaetze_neu;

@@ -15,6 +15,7 @@ void auswertung::bestzeiten_pruefen() {
         neue_bestzeit_ = neue_bestzeit_ || neu;
         beste_blink_timer_[i]->aus();
         beste_aus[i].schriftfarbe(std::nullopt);
+        beste_aus[i].tipp(neu ? wort_.neue_bestzeit + "\n" + wort_.tempo : wort_.tempo);
         if (neu) {
             beste_blink_timer_[i]->an();
         }

@@ -75,8 +75,8 @@ sprachliste auswertung::sprache_a() {
     texte.text("Tank leer", blatt.tank_leer);
     texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
     nachtrag.ohne_pausen_nennen(texte).text("Geprüft: Die Plätze stimmen.", wort_.plaetze_stimmen);
-    texte.text("Geprüft: Die Plätze haben sich geändert.", wort_.plaetze_neu);
-    return texte.text("Ende", wort_.ende);
+    texte.text("Geprüft: Die Plätze haben sich geändert.", wort_.plaetze_neu).text("Ende", wort_.ende);
+    return texte.text("Rot: schneller als die Bestzeit, die für diese Spur gespeichert ist", wort_.neue_bestzeit);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

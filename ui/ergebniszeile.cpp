@@ -46,14 +46,20 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     aufbau->addWidget(meterzelle(binder));
     const std::size_t i = index_;
     QWidget* tank = zelle({logik.Label_tank[i], logik.tankinhalt[i], "tankinhalt", schrift_wert}, binder).feld;
-    binder.verbinden(logik.Frame_tank.at(i), tank, nummeriert("Frame_tank"), {});
     aufbau->addWidget(tank, 3);
     tankzelle_ = tank;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
     zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 4);
     zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 5);
-    aufbau->addWidget(zeit.feld, 7);
+    constexpr int zeit_anteil = 7;
+    aufbau->addWidget(zeit.feld, zeit_anteil);
+    rahmen& mit_tank = logik.Frame_tank.at(i);
+    binder.verbinden(mit_tank, tank, nummeriert("Frame_tank"), [aufbau, &mit_tank, feld = zeit.feld] {
+        constexpr int neben_dem_tank = 9;  // the words under the time stay readable on a small screen
+        aufbau->setStretchFactor(feld, mit_tank.sichtbar() ? neben_dem_tank : zeit_anteil);
+    });
     const zelle_teile beste = zelle({logik.Label_beste[i], logik.beste_aus[i], "beste_aus", schrift_wert}, binder);
+    beste.wert->setRotrolle(QPalette::Link);
     beste.zusatz->addWidget(zusatz(logik.kmh_label[i], "kmh_label", binder));
     aufbau->addWidget(beste.feld, 5);
     aufbau->addWidget(listenspalte(binder), 4);
@@ -99,7 +105,7 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     aufbau->addWidget(wert, 4);
     aufbau->addLayout(darunter);
     aufbau->addStretch(1);
-    return {feld, darueber, darunter};
+    return {feld, darueber, darunter, wert};
 }
 
 TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, Binder& binder) {

@@ -44,6 +44,7 @@ private:
         QWidget* feld;
         QHBoxLayout* kopf;    ///< room behind the caption
         QHBoxLayout* zusatz;  ///< and under the figure
+        TextAnzeige* wert;
     };
     zelle_teile zelle(const zelle_inhalt& inhalt, Binder& binder);
     TextAnzeige* zusatz(steuerelement& element, const QString& name, Binder& binder);

@@ -183,7 +183,8 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
         maler.setPen(QPen(rahmen_, breite));
         maler.drawRect(rect().adjusted(1, 1, -2, -2));
     }
-    const QColor farbe = farbe_.isValid() ? farbe_ : palette().color(rolle_);
+    const bool rot = rotrolle_ != QPalette::NoRole && farbe_ == stil::farbe_von(farben::rot);
+    const QColor farbe = rot ? palette().color(rotrolle_) : farbe_.isValid() ? farbe_ : palette().color(rolle_);
     maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
     const Satz satz = gesetzt();
     maler.setFont(satz.schrift);

@@ -39,6 +39,8 @@ public:
     void setFarbrolle(QPalette::ColorRole rolle);
     /// The text stands out of a plate of its colour.
     void setPlakette(bool plakette);
+    /// What its control calls red is this one of them, which is seen on their grounds.
+    void setRotrolle(QPalette::ColorRole rolle) { rotrolle_ = rolle; }
     /// A frame around the place; an invalid colour for none.
     void setRahmen(const QColor& farbe);
     void setAusrichtung(Qt::Alignment ausrichtung);
@@ -70,6 +72,7 @@ private:
     QFont schrift_;
     QColor farbe_;
     QPalette::ColorRole rolle_ = QPalette::WindowText;
+    QPalette::ColorRole rotrolle_ = QPalette::NoRole;
     QColor rahmen_;
     bool plakette_ = false;
     double deckkraft_ = 1;
