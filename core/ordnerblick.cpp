@@ -69,6 +69,14 @@ ordnerblick ordner_ansehen(const fs::path& ort, const std::vector<std::string>& 
     return blick;
 }
 
+std::optional<std::chrono::seconds> dateialter(const fs::path& datei) {
+    std::error_code fehler;
+    const auto geaendert = fs::last_write_time(datei, fehler);
+    return fehler ? std::nullopt
+                  : std::optional(
+                        std::chrono::duration_cast<std::chrono::seconds>(fs::file_time_type::clock::now() - geaendert));
+}
+
 std::vector<std::string> laufwerke() {
     std::vector<std::string> wurzeln;
     std::error_code fehler;

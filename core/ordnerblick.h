@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +17,9 @@ struct ordnerblick {
 
 /// A folder that cannot be read holds nothing. At most 5000 names of each kind.
 ordnerblick ordner_ansehen(const std::filesystem::path& ort, const std::vector<std::string>& endungen);
+
+/// How long ago the file was changed last; none without such a file.
+std::optional<std::chrono::seconds> dateialter(const std::filesystem::path& datei);
 
 /// The roots of the machine's file systems: drives, or the one root.
 std::vector<std::string> laufwerke();

@@ -38,7 +38,7 @@ ergebnisfluegel::ergebnisfluegel(programm& p, rennen& r, bestzeitfolgen& folgen)
       tagesrennen(rennwelt(p, rundenspeichern)),
       training(rennwelt(p, rundenspeichern)),
       intervalltraining(rennwelt(p, rundenspeichern)),
-      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung, urkunden}),
+      w_auswertung2({fensterwelt(p), p.einst, p.einrichtung, p.dienste.kalender, urkunden}),
       protokollfenster({fensterwelt(p), p.einst, r, p.dienste.zeitgeber}),
       leitstand({p.ablage, p.fenster, r, protokollfenster, p.dienste.zeitgeber}) {
     r.teil_von.wechseln(einzelrennen);

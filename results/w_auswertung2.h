@@ -9,6 +9,7 @@
 #include "core/einstellungen.h"
 #include "core/fensterlogik.h"
 #include "core/fensterumgebung.h"
+#include "platform/kalender.h"
 #include "results/ergebnisansicht.h"
 #include "results/ergebnisworte.h"
 #include "results/fahrervergleich.h"
@@ -29,6 +30,7 @@ public:
         fenster_umgebung welt;
         const einstellungen& einst;
         const renneinrichtung& einrichtung;
+        const plattform::kalender& kalender;
         urkundenfenster& urkunden;
     };
     /// What the window shows in its middle.
@@ -199,6 +201,8 @@ private:
     std::optional<rennergebnis> gewaehltes_rennen() const;
     void marken_aus_dem_protokoll(rennergebnis& rennen);
     void urkunden_zeigen();
+    /// As its name says; without that, the day on which it was written last.
+    std::string tag_der_datei() const;
     void bedienung_einrichten();
     void hinweisen(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[0]); }
     void fehler_melden(const std::string& text) { um_.welt.meldungen.zeigen(text, um_.welt.txt.titel[1]); }

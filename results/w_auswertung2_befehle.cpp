@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "core/ordnerblick.h"
 #include "core/text.h"
+#include "core/zeit.h"
 #include "results/ergebnissortierung.h"
 #include "results/fahrer_addieren.h"
 #include "results/w_auswertung2.h"
@@ -288,12 +290,27 @@ void w_auswertung2::blatt_zeigen() {
     }
 }
 
+std::string w_auswertung2::tag_der_datei() const {
+    using namespace std::chrono;
+    const std::string datum = datum_im_namen(dateien_.front());
+    if (!datum.empty()) {
+        return datum;
+    }
+    const plattform::datum_uhrzeit jetzt = um_.kalender.jetzt();
+    const sys_seconds heute = sys_days(year(jetzt.jahr) / jetzt.monat / jetzt.tag) + hours(jetzt.stunde) +
+                              minutes(jetzt.minute) + seconds(jetzt.sekunde);
+    const sys_seconds geschrieben = heute - dateialter(um_.welt.ablage.pfad(dateien_.front())).value_or(0s);
+    const year_month_day tag(floor<days>(geschrieben));
+    return datum_text(
+        {static_cast<int>(tag.year()), static_cast<int>(unsigned{tag.month()}), static_cast<int>(unsigned{tag.day()})});
+}
+
 void w_auswertung2::urkunden_zeigen() {
     if (tabelle_->typ != ergebnis_typ::einzelrennen) {
         const std::string& art = wort_.art.at(static_cast<std::size_t>(tabelle_->typ));
         const bool wettkampf = tabelle_->typ != ergebnis_typ::tagesrennen && !tabelle_->kopf.empty();
-        um_.urkunden.oeffnen(plaetze_von(*tabelle_, sortieren_nach(), details_.ohne_klassen),
-                             datum_im_namen(dateien_.front()), wettkampf ? tabelle_->kopf.front() : art);
+        um_.urkunden.oeffnen(plaetze_von(*tabelle_, sortieren_nach(), details_.ohne_klassen), tag_der_datei(),
+                             wettkampf ? tabelle_->kopf.front() : art);
     } else if (const auto rennen = gewaehltes_rennen()) {
         um_.urkunden.oeffnen(*rennen, wort_.art[1]);
     } else {

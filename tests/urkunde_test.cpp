@@ -1,5 +1,8 @@
 #include "results/urkunde.h"
 
+#include <chrono>
+#include <filesystem>
+
 #include "results/urkundenfenster.h"
 #include "results/w_auswertung2.h"
 #include "tests/ergebnistabelle_probe.h"
@@ -168,6 +171,14 @@ TEST_F(Urkundenfenster, JederFahrerDesTagesBekommtEineInSeinerKlasse) {
     EXPECT_EQ(alle[2].spur, 0);
     EXPECT_EQ(v.File1.zeilen().size(), 1U);
     EXPECT_TRUE(v.Label_datei.text().find("4 ") != std::string::npos) << "the table itself is as it was";
+    u.schliessen();
+    const std::string ohne_tag = "Ergebnisse\\Tagesrennen\\Samstag.csv";
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben(ohne_tag, {"Tarvel Tagesrennen", "0;Anna; 5;125.00;00:05,100;00:26,000"}));
+    std::filesystem::last_write_time(t.p.ablage.pfad(ohne_tag),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(24));
+    v.datei_zeigen(ohne_tag);
+    v.Command_urkunden.klicken();
+    EXPECT_EQ(u.gewaehlte().at(0).wort(w::datum), "20.11.2026") << "when it was driven";
 }
 
 TEST_F(Urkundenfenster, DerWettkampfHatDiePlaetzeDerRanglisteUndGanzeNamen) {
