@@ -120,7 +120,8 @@ QLabel* UartEinstellungenFenster::ereignis(bezeichnung& element, const QString& 
         const QColor grund =
             element.hintergrund() ? stil::farbe_von(*element.hintergrund()) : stil::auf_dem_schirm().karte;
         label->setStyleSheet(
-            QString("background: %1; border: 1px solid #d0d4db; border-radius: 4px; padding: 4px;").arg(grund.name()));
+            QString("background: %1; color: %2; border: 1px solid #d0d4db; border-radius: 4px; padding: 4px;")
+                .arg(grund.name(), stil::schrift_auf(grund).name()));
     });
     return label;
 }
