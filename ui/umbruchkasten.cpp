@@ -85,7 +85,8 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     QStyleOptionButton kasten = stand;
     kasten.rect = QRect(rand, 0, style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
                         style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this));
-    kasten.rect.moveTop(rand + (fontMetrics().height() - kasten.rect.height()) / 2);
+    const int mehr = kasten.rect.height() - fontMetrics().height();  // a box that is higher than a line of its text
+    kasten.rect.moveTop(rand + std::max(-mehr / 2, 0));
     if (text().isEmpty()) {
         kasten.rect.moveCenter(rect().center());
         if (hasFocus()) {
@@ -96,7 +97,7 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
         return;
     }
     maler.drawPrimitive(QStyle::PE_IndicatorCheckBox, kasten);
-    const QRect schrift = rect().adjusted(einzug() + rand, rand, 0, -rand);
+    const QRect schrift = rect().adjusted(einzug() + rand, rand + std::max(mehr / 2, 0), 0, -rand);
     maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
                        isEnabled(), gezeigt(), QPalette::WindowText);
     if (hasFocus()) {
