@@ -204,12 +204,13 @@ void Bahn1Fenster::geraetealarm() {
     alarm_->setFett(true);
     alarm_->setFarbe(Qt::white);
     alarm_->setRahmen(Qt::white);
-    alarm_->setZweizeilig();
+    constexpr int zeilen = 3;
+    alarm_->setMehrzeilig(zeilen);
 }
 
-void Bahn1Fenster::alarm_anordnen() {
-    // between the counters and the lap times of the columns: the race goes on with the keys
-    alarm_->setGeometry(width() / 50, height() * 48 / 100, width() * 48 / 50, height() * 11 / 100);
+void Bahn1Fenster::alarm_anordnen(const rechteck& uhren) {
+    // over what is driven for, which everybody knows: the race goes on with the keys, and laps and times are looked at
+    alarm_->setGeometry(uhren.y, uhren.y, uhren.x - 2 * uhren.y, uhren.hoehe);
     alarm_->setSchriftPx(height() / 14);
     alarm_->raise();
 }
@@ -275,7 +276,7 @@ void Bahn1Fenster::anordnen() {
     restrunden_anordnen();
     folge_anordnen(geometrie.fenster);
     hinweis_anordnen();
-    alarm_anordnen();
+    alarm_anordnen(geometrie.licht_der_pause);
     update();  // between the blocks the last layout may still be seen
 }
 

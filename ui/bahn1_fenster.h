@@ -50,7 +50,7 @@ private:
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();
     void geraetealarm();
-    void alarm_anordnen();
+    void alarm_anordnen(const rechteck& uhren);
     void lagen();
     void lagen_nachfuehren();
     void bloecke_anordnen(const ansicht_geometrie& geometrie, bool gleitend);
