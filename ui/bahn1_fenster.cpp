@@ -117,11 +117,10 @@ void Bahn1Fenster::befehlszeile() {
 void Bahn1Fenster::strafformular() {
     bahn1& bahn = logik_.bahn1;
     auto* kasten = new QWidget(this);
-    kasten->setStyleSheet(stil::dunkle_regeln("padding: 0px 4px; min-height: 0px;"));
+    kasten->setStyleSheet(stil::dunkle_regeln("padding: 0px 4px; min-height: 0px;") + stil::dunkle_eingaben());
     teil(f::ch_strafframe) = kasten;
     auto* zeile = new QHBoxLayout(kasten);
     zeile->setContentsMargins(0, 0, 0, 0);
-    zeile->setSpacing(4);
     TextAnzeige* vorn = binder().anzeige(bahn.ch_Label1, "ch_Label1");
     auto* haken = new TextAnzeige(kasten);
     haken->setText(QString::fromUtf8("\u2611"));
@@ -304,10 +303,11 @@ bool Bahn1Fenster::eventFilter(QObject* ziel, QEvent* ereignis) {
 
 void Bahn1Fenster::formular_beschriften(int schrift_px, const rechteck& ort) {
     constexpr int kleinste_px = 8;
-    const QLayout* zeile = teil(f::ch_strafframe)->layout();
+    QLayout* zeile = teil(f::ch_strafframe)->layout();
     int px = schrift_px + 1;
     do {
         --px;
+        zeile->setSpacing(px / 4 + 1);  // a blank between the words
         for (TextAnzeige* stueck : formular_) {
             stueck->setSchriftPx(px);
             stueck->setFarbe(formular_.front()->farbe());  // the tick between the words has none of its own

@@ -63,7 +63,8 @@ void grund_geben(QWidget* widget, const QColor& farbe) {
 
 LeitstandFenster::LeitstandFenster(leitstand& logik, form2& ampel, Fensterverwaltung& verwaltung, QWidget* bahn)
     : Fenster(logik, verwaltung, bahn), logik_(logik), bahn_(logik.das_rennen().bahn1), ampel_(ampel) {
-    setStyleSheet(stil::dunkle_regeln("padding: 0px 10px; min-height: 40px;") + leitstand_regeln);
+    setStyleSheet(stil::dunkle_regeln("padding: 0px 10px; min-height: 40px;") + stil::dunkle_eingaben() +
+                  leitstand_regeln);
     binder().nebenher();
     auto* grund = new QWidget(this);  // stands for the whole area, takes no room itself
     grund->setAttribute(Qt::WA_TransparentForMouseEvents);

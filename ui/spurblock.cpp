@@ -254,7 +254,8 @@ void Spurblock::teile_anordnen() {
     liste_anordnen(orte[spur_teil::t_liste]);
     const int kante = orte[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font
-        ->setStyleSheet(QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }")
+        ->setStyleSheet(stil::dunkle_eingaben() +
+                        QString("QCheckBox { font-size: %1px; } QCheckBox::indicator { width: %2px; height: %2px; }")
                             .arg(kante * 4 / 5)
                             .arg(std::max(kante - 10, 8)));
 }

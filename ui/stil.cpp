@@ -107,12 +107,22 @@ QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, 
 QRadioButton::indicator:disabled { border-color: @rand; }
 )";
 
-QString regeln_in(bool dunkel) {
-    QString text = QString(regeln) + (dunkel ? kaesten : "");
+const char* const eingaben_dunkel = R"(
+QCheckBox::indicator { background: @karte; }
+QLineEdit { background: @karte; color: @schrift; border: 1px solid @rand; }
+QLineEdit:focus { border: 2px solid #ffffff; }
+QLineEdit:disabled { background: @grau; color: @gesperrt; }
+)";
+
+QString gefaerbt(QString text, bool dunkel) {
     for (const regelfarbe& farbe : regelfarben) {
         text.replace(farbe.name, dunkel ? farbe.dunkel : farbe.hell);
     }
     return text;
+}
+
+QString regeln_in(bool dunkel) {
+    return gefaerbt(QString(regeln) + (dunkel ? kaesten : ""), dunkel);
 }
 
 /// Every colour is ours, also where the desktop has another theme.
@@ -218,6 +228,10 @@ void fleck_faerben(QLabel* fleck, farbe spurfarbe) {
 
 QString dunkle_regeln(const char* innen) {
     return QString(regeln_dunkel).arg(innen);
+}
+
+QString dunkle_eingaben() {
+    return gefaerbt(QString(kaesten) + eingaben_dunkel, true);
 }
 
 QColor titelfarbe(const QColor& farbton, const QColor& grund) {

@@ -55,6 +55,8 @@ QHBoxLayout* knopfzeile(std::initializer_list<QPushButton*> knoepfe);
 void fleck_faerben(QLabel* fleck, farbe spurfarbe);
 /// Labels and commands on a dark ground; `innen` is the padding of the commands.
 QString dunkle_regeln(const char* innen);
+/// Boxes and lines to write in, on a ground that is dark in the light look too.
+QString dunkle_eingaben();
 
 /// A caption in this colour on that ground: on a dark one, as light as small letters need it.
 QColor titelfarbe(const QColor& farbton, const QColor& grund);
