@@ -139,6 +139,7 @@ void form1::rennart_geaendert() {
     const bool zeitrennen = gewaehlte_art() == renn_art::zeit;
     Label19.text(zeitrennen ? wort_minuten_ : wort_runden_);
     stddauer.aktiviert(zeitrennen);
+    stddauer.sichtbar(zeitrennen);
     Label8.sichtbar(zeitrennen);
 }
 

@@ -148,13 +148,13 @@ TEST_F(Form1, SpurenDreiUndVierSindZuSolangeIhreSensorenVerliehenSind) {
 TEST_F(Form1, RennartUndTankhakenStellenDieFelderUm) {
     f.rennart.eingeben("Runden");
     EXPECT_EQ(f.Label19.text(), "Runden");
-    EXPECT_FALSE(f.stddauer.aktiviert());
+    EXPECT_FALSE(f.stddauer.aktiviert() || f.stddauer.sichtbar());
     EXPECT_FALSE(f.Label8.sichtbar());
     f.rennart.text("Unfug");
     f.rennart_geaendert();
     EXPECT_EQ(f.rennart.text(), "Zeit");
     EXPECT_EQ(f.Label19.text(), "Minuten");
-    EXPECT_TRUE(f.stddauer.aktiviert());
+    EXPECT_TRUE(f.stddauer.aktiviert() && f.stddauer.sichtbar());
     EXPECT_FALSE(f.tank_label.sichtbar());
     f.t_aktiv.umschalten();
     EXPECT_EQ(f.tank_label.text(), "60 Liter, 7 Liter je Runde");

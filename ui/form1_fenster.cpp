@@ -125,11 +125,19 @@ QWidget* Form1Fenster::rennen_gruppe() {
     raster->setColumnMinimumWidth(2, 24);
     raster->addWidget(binder().label(logik_.dauerlabel, "dauerlabel"), 0, 3);
     auto* dauer_zeile = new QHBoxLayout;
-    dauer_zeile->addWidget(stunden);
-    dauer_zeile->addWidget(binder().label(logik_.Label8, "Label8"));
+    QLabel* stundenwort = binder().label(logik_.Label8, "Label8");
+    for (QWidget* nur_der_zeit : {static_cast<QWidget*>(stunden), static_cast<QWidget*>(stundenwort)}) {
+        QSizePolicy bleibt = nur_der_zeit->sizePolicy();  // nothing jumps as the kind of race changes
+        bleibt.setRetainSizeWhenHidden(true);
+        nur_der_zeit->setSizePolicy(bleibt);
+        dauer_zeile->addWidget(nur_der_zeit);
+    }
     dauer_zeile->addSpacing(8);
     dauer_zeile->addWidget(dauer);
-    dauer_zeile->addWidget(binder().label(logik_.Label19, "Label19"));
+    QLabel* einheit = binder().label(logik_.Label19, "Label19");
+    constexpr int minuten_oder_runden = 9;  // letters
+    einheit->setMinimumWidth(minuten_oder_runden * einheit->fontMetrics().averageCharWidth());
+    dauer_zeile->addWidget(einheit);
     dauer_zeile->addStretch();
     raster->addLayout(dauer_zeile, 0, 4);
 
