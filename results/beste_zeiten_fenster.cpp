@@ -98,7 +98,7 @@ sprachliste beste_zeiten_fenster::sprache_best() {
     texte.text("Korrekturen bitte direkt eintragen oder auswählen. Bei grün wird der Wert gespeichert.", Label1);
     texte.text("Spur", wort_spur_).text("Fahrer", Label_kopf[0]).text("Fahrzeug", Label_kopf[1]);
     texte.text("Rundenzeit", Label_kopf[2]).text("Bisher", Label_kopf[3]);
-    texte.text("speichern", Command1).text("Abbrechen", wort_abbrechen_);
+    texte.text("speichern", wort_speichern_).text("Abbrechen", Command2);
     texte.text("Eingangswerte", Command3);
     return texte.text("Grün heißt: der Kreis mit dem Haken, ganz rechts. Der Rahmen hat die Farbe der Spur.",
                       Label_gruen);
@@ -106,7 +106,7 @@ sprachliste beste_zeiten_fenster::sprache_best() {
 
 void beste_zeiten_fenster::laden() {
     texte_lesen();
-    Command2.text(wort_abbrechen_);
+    Command1.text(wort_speichern_);
     for (const int spur : alle_spuren) {
         const std::size_t i = feld_index(spur);
         spur_chk[i].text(wort_spur_ + " " + std::to_string(spur));
@@ -155,7 +155,7 @@ void beste_zeiten_fenster::warten() {
 
 void beste_zeiten_fenster::wartezeit_zeigen() {
     if (!automatisch()) {
-        Command2.text(wort_abbrechen_ + "  " + std::to_string(rest_.count()));
+        Command1.text(wort_speichern_ + "  " + std::to_string(rest_.count()));
     }
 }
 
@@ -165,12 +165,7 @@ void beste_zeiten_fenster::timer1_tick() {
     if (rest_ > 0s) {
         return;
     }
-    timer1_->aus();
-    if (automatisch()) {
-        speichern(!von_selbst_);
-    } else {
-        schliessen();
-    }
+    speichern(!von_selbst_);  // whoever was not there can take one out later, but drive none again
 }
 
 void beste_zeiten_fenster::schliessen() {

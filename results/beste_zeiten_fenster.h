@@ -67,8 +67,8 @@ public:
 
     /// Opens the window, and runs `danach` once when it is closed, however that is. With best times switched off
     /// nothing opens and `danach` runs at once. A window that is unloaded from elsewhere forgets it. One that comes
-    /// `von_selbst` may find nobody: it closes, unsaved if it is the operator who saves, unless somebody is at work in
-    /// it, and no message holds it up.
+    /// `von_selbst` may find nobody: after a while it saves, also where it is the operator who does that, and no
+    /// message holds it up.
     void oeffnen(const spuren<spur_angebot>& angebote, std::function<void()> danach, bool von_selbst = false);
     /// Closes without saving.
     void schliessen() override;
@@ -96,11 +96,11 @@ private:
     zeit_ms neue_zeit(int spur) const;
 
     umgebung um_;
-    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< saves by itself where that is wanted, or closes
+    std::unique_ptr<plattform::zeitgeber> timer1_;  ///< saves by itself where that is wanted, or nobody is there
     spuren<spur_angebot> angebote_;
     std::function<void()> danach_;
     std::string wort_spur_;
-    std::string wort_abbrechen_;
+    std::string wort_speichern_;
     std::string ungesichert_;  ///< best-time file that lacks what the table has; empty for none
     bool von_selbst_ = false;
     dauer_s rest_{};  ///< of the wait that runs
