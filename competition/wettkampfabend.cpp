@@ -57,8 +57,9 @@ bool wettkampfabend::rennen_starten() {
     }
     uebergeben();
     ab_teil_ = gefahren_ = uebergabe_.teil;
-    if (abgebrochenes_anbieten()) {
-        return true;
+    const plattform::dreifache_antwort weiter = abgebrochenes_anbieten();
+    if (weiter != plattform::dreifache_antwort::nein) {
+        return weiter == plattform::dreifache_antwort::ja;
     }
     uebergeben();  // one that could not go on has left its own set-up
     ab_teil_ = gefahren_ = uebergabe_.teil;

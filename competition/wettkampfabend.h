@@ -79,8 +79,10 @@ public:
 
     explicit wettkampfabend(const umgebung& um) : um_(um), automat_(um.zeitgeber, *this) {}
 
-    /// Offers the race that is about to be started, if it was broken off; true if it goes on.
-    std::function<bool()> abgebrochenes_anbieten = [] { return false; };
+    /// Offers the race that is about to be started, if it was broken off: it goes on, starts anew, or neither yet.
+    std::function<plattform::dreifache_antwort()> abgebrochenes_anbieten = [] {
+        return plattform::dreifache_antwort::nein;
+    };
     /// Asks whether results in the books may be lost.
     std::function<bool()> wiederholen_fragen = [] { return true; };
     /// Told whenever something has changed.

@@ -224,11 +224,12 @@ plattform::dreifache_antwort wiederaufnahme::einzeln_anbieten(const kandidat& k,
     return will ? plattform::dreifache_antwort::ja : plattform::dreifache_antwort::abbrechen;
 }
 
-bool wiederaufnahme::abgebrochenes_anbieten() {
+plattform::dreifache_antwort wiederaufnahme::abgebrochenes_anbieten() {
+    using antwort = plattform::dreifache_antwort;
     nach_dem_start_ = false;
     const std::optional<kandidat> k = letztes_abendrennen();
     if (!k || !k->stand.fortsetzbar()) {
-        return false;
+        return antwort::nein;
     }
     const std::string kennung = um_.wettkampf.wettkampfabend.kennung();
     const abendrennen dran = abendrennen_lesen(kennung);
@@ -239,10 +240,12 @@ bool wiederaufnahme::abgebrochenes_anbieten() {
     for (const int spur : alle_spuren) {
         dieselben = dieselben && (!param.spur_aktiv[spur] || param.fahrer_name[spur] == k->stand.fahrer[spur]);
     }
-    return dieselben &&
-           um_.dienste.meldungen.fragen(frage(k->stand), um_.txt.titel[0],
-                                        antworten(k->stand, um_.txt.wettkampf.von_vorn)) &&
-           fortsetzen(*k);
+    if (!dieselben) {
+        return antwort::nein;
+    }
+    const antwort will = um_.dienste.meldungen.anbieten_mit_ausweg(frage(k->stand), um_.txt.titel[0],
+                                                                   antworten(k->stand, um_.txt.wettkampf.von_vorn));
+    return will == antwort::ja && !fortsetzen(*k) ? antwort::nein : will;
 }
 
 bool wiederaufnahme::einrichten(const protokollkopf& kopf) {

@@ -47,8 +47,8 @@ public:
     /// The last evening that was not ended, then race after race, the newest first.
     void anbieten();
     /// The race that the evening is about to start, if it was broken off, or put away as the program started, and the
-    /// evening has driven nothing since. True if it goes on.
-    bool abgebrochenes_anbieten();
+    /// evening has driven nothing since. A no is for a start from the beginning.
+    plattform::dreifache_antwort abgebrochenes_anbieten();
 
 private:
     struct kandidat {

@@ -13,12 +13,14 @@ using test::protokoll_von;
 
 /// An evening whose first race is broken off after a crossing of everybody.
 struct Abgebrochen : test::Abendprobe {
+    using antwort = plattform::dreifache_antwort;
     void anfahren_und_abbrechen() {
         beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
         ASSERT_TRUE(abend.rennen_starten());
         t.bahn().Command1.klicken();
         t.runde_nach(6000, "123");
         t.maschine.antwort = true;
+        t.maschine.antwort_mit_ausweg = antwort::ja;
         t.rennabbruch();
     }
 };
@@ -33,11 +35,14 @@ TEST_F(Abgebrochen, DerAbendBietetSeinRennenWiederAn) {
         t.maschine.antwort = true;
         t.rennabbruch();
         ASSERT_FALSE(offen(fenstername::bahn1));
-        t.maschine.antwort = weiter;
         t.maschine.fragen_gestellt.clear();
+        t.maschine.antwort_mit_ausweg = antwort::abbrechen;
+        EXPECT_FALSE(abend.rennen_starten());
+        EXPECT_FALSE(offen(fenstername::bahn1)) << "nothing is decided yet";
+        t.maschine.antwort_mit_ausweg = weiter ? antwort::ja : antwort::nein;
         ASSERT_TRUE(abend.rennen_starten());
         ASSERT_TRUE(offen(fenstername::bahn1));
-        ASSERT_EQ(t.maschine.fragen_gestellt.size(), 1U);
+        ASSERT_EQ(t.maschine.fragen_gestellt.size(), 2U);
         EXPECT_TRUE(t.maschine.fragen_gestellt.front().text.starts_with("Das Rennen von 14:03 wurde in Runde 2 unter"));
         if (weiter) {
             EXPECT_EQ(t.runden(1), 1);
@@ -79,9 +84,9 @@ TEST_F(Abgebrochen, EinAndererAbendBietetEsNichtAn) {
 
 TEST_F(Abgebrochen, AuchEinRennfensterOhneGruenDazwischenNimmtEsNicht) {
     anfahren_und_abbrechen();
-    t.maschine.antwort = false;
+    t.maschine.antwort_mit_ausweg = antwort::nein;
     ASSERT_TRUE(abend.rennen_starten());  // from the start, but then not yet after all
-    t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = antwort::ja;
     t.rennabbruch();
     ASSERT_FALSE(offen(fenstername::bahn1));
     t.p.form1.Command1.klicken();  // somebody tries the track
@@ -108,6 +113,7 @@ TEST_P(Weggelegt, WartetInSeinemAbend) {
     ASSERT_FALSE(neu.wettkampfabend.wettkampf_aktiv());
     t.maschine.antwort = true;
     neu.form1.command_fortsetzen.klicken();
+    t.maschine.antwort_mit_ausweg = antwort::ja;
     ASSERT_TRUE(neu.wettkampfabend.rennen_starten());
     EXPECT_EQ(neu.rennen.zustand.konto.runden(1), GetParam() ? 3 : 1);
     ASSERT_EQ(neu.fenster.ist_offen(fenstername::auswertung), GetParam());

@@ -153,6 +153,7 @@ TEST_F(Wettkampfabend, WiederholenUndAbbrechenBuchenNichts) {
     t.rennabbruch();
     EXPECT_FALSE(offen(fenstername::bahn1));
     EXPECT_TRUE(abend.stand().gefahren.empty());
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;  // from the start
     rennen_fahren();
     EXPECT_EQ(abend.stand().gefahren.size(), 1U);
     EXPECT_EQ(abend.stand().aktuelles_rennen, 2);
@@ -259,6 +260,7 @@ TEST_F(Wettkampfabend, EinZurueckgenommenerTeilWirdNichtZweimalGebucht) {
 }
 
 TEST_F(Wettkampfabend, NachJedemRennenNeuGeladenGibtDieselbeTabelle) {
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;  // not those of the table before
     for (int art = 1; art <= wettkampf_modus_max; ++art) {
         const auto modus = static_cast<wettkampf_modus>(art);
         const bool geteilt = modus == wettkampf_modus::am_stueck;

@@ -162,7 +162,7 @@ TEST_P(WettkampfteileAbgebrochen, WasInDerTabelleBerichtigtWirdBleibtWennDasRenn
     weiter();
     gruen_geben();
     ueberfahren(1);
-    t.maschine.antwort = true;
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
     t.rennabbruch();
     ASSERT_TRUE(abend.aendern([](wettkampf& w) { return w.runden_aendern(1, 1, 1, 5, 25); }));
     if (GetParam()) {
