@@ -16,6 +16,7 @@ inline constexpr int tank_inhalt = 36;
 inline constexpr int wahr_wort = 114;  ///< the words that the writing system used for true and false
 inline constexpr int falsch_wort = 115;
 inline constexpr int s6_option = 180;
+inline constexpr int chaos_schalter = 240;
 inline constexpr int vor_den_bestzeiten = 254;  ///< behind it the best times are read
 inline constexpr int schema_name = 323;
 inline constexpr int schema_erste = 324;   ///< seven numbers

@@ -68,7 +68,8 @@ struct bahn1 {
     spuren<bezeichnung> Label_brunde;
     spuren<bezeichnung> bestzeit_label;  ///< best time of the lane before the race; hidden if there is none
     bezeichnung bestzeit_gesamt;         ///< the record of the track, with its holder
-    bezeichnung ergebnisfolge;           ///< in its place behind the end: the order of the result, where it is another
+    bezeichnung ergebnisfolge;           ///< in its place behind the end: the order of the result, where it is another;
+                                         ///< and for a moment why no pause begins
 
     form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
@@ -110,8 +111,9 @@ struct bahn1 {
         std::string runden;
         std::string rundenliste;
         std::string strafzeit;
-        std::string pause;         ///< of the command that begins one, before the first
-        std::string pause_wieder;  ///< and after it
+        std::string pause;           ///< of the command that begins one, before the first
+        std::string pause_wieder;    ///< and after it
+        std::string pause_gesperrt;  ///< asked for too soon behind the last one
         std::string weiter;
         std::string fortsetzen;
         std::string startampel;

@@ -54,6 +54,8 @@ void chaos::befehl_klick() {
             um_.ereignisse.chaos_fahrer.fuellen(false);  // the race director himself
         }
         chaos_umschalten();
+    } else if (!um_.zustand.rennen_beendet && !um_.zustand.chaos_aktiv) {
+        um_.zustand.pause.zu_frueh_verlangt = um_.ereignisse.messzeit;
     }
 }
 
@@ -90,6 +92,7 @@ void chaos::pruefen() {
         chaos_umschalten();
     } else if (std::exchange(taster.aktiv, false) && !um_.zustand.chaos_aktiv) {
         um_.ereignisse.chaos_fahrer.fuellen(false);  // dropped: the next pause may be another's
+        um_.zustand.pause.zu_frueh_verlangt = um_.ereignisse.messzeit;
     }
 }
 

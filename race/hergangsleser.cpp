@@ -6,9 +6,11 @@
 #include <string_view>
 #include <utility>
 
+#include "core/einstellungstabelle.h"
 #include "core/einstellungswerte.h"
 #include "core/protokollzeile.h"
 #include "core/text.h"
+#include "race/zeitgeber.h"
 
 namespace tarvel {
 namespace {
@@ -61,6 +63,10 @@ bool bis_stempel(const geschehen& g) {
     return g.ist_abgelehnt() && g.wert != 0 && std::find(gruende.begin(), gruende.end(), g.grund()) != gruende.end();
 }
 
+bool ist_wahr(const std::vector<std::string>& einstellungen, std::size_t zeile) {
+    return zeile < einstellungen.size() && einstellungen[zeile] == einstellungen[z::wahr_wort];
+}
+
 int spur_des_ereignisses(std::int64_t art) {
     for (const int spur : alle_spuren) {
         if (art == art::rundenzaehlung[spur] || art == art::tanken_ein[spur] || art == art::tanken_aus[spur] ||
@@ -75,7 +81,8 @@ int spur_des_ereignisses(std::int64_t art) {
 
 }  // namespace
 
-hergangsleser::hergangsleser(rennhergang& h) : h_(h), ziel_(h.kopf->param.renn_ziel.zahl()) {
+hergangsleser::hergangsleser(rennhergang& h)
+    : h_(h), ziel_(h.kopf->param.renn_ziel.zahl()), schalter_(ist_wahr(h.kopf->einstellungen, z::chaos_schalter)) {
     for (const int spur : alle_spuren) {
         fahrer_[spur] = spur;
     }
@@ -190,6 +197,10 @@ void hergangsleser::einordnen(geschehen& g) {
     }
     if (g.was == vorgang::gruen && !gruen_) {
         gruen_ = {g.stempel, zeit_};
+    } else if (g.was == vorgang::pause || g.was == vorgang::ende) {
+        weiter_.reset();
+    } else if (g.was == vorgang::weiter) {
+        weiter_ = g.zeit;
     } else if (g.was == vorgang::fruehstart) {
         nach_pause_[g.spur] = false;
     } else if (g.was == vorgang::strafe && g.nummer == 1) {
@@ -258,6 +269,8 @@ void hergangsleser::tat(std::string_view name, std::string_view rest, bool ausse
             umsetzen(rest);
         } else if (name == "fortsetzen") {
             ziel_ = zahl(rest).value_or(ziel_);
+        } else if (name == "pause") {
+            pause_verlangt(true);
         }
     } else if (name == "ereignis" || name == "jetzt" || name == "ueberfahrt") {
         const std::int64_t was = zahl(rest).value_or(-1);
@@ -313,6 +326,16 @@ void hergangsleser::taste(std::int64_t code) {
     g.wert = belegt ? treffer->zeile : 0;
     if (belegt && treffer->spur != 0 && treffer->zeile == art::rundenzaehlung[treffer->spur]) {
         erzaehlt(treffer->spur, geschehen::keine);
+    } else if (g.wert == tastenbelegung::zeile_chaos || art::spur_des_fahrertasters(static_cast<int>(g.wert)) != 0) {
+        pause_verlangt(false);
+    }
+}
+
+void hergangsleser::pause_verlangt(bool befehl) {
+    constexpr zeit_ms takt_ms = 10;  // the tick that has let one in may have come a moment earlier
+    const bool gesperrt = weiter_ && zeit_ - *weiter_ < dauer_ms(pausensperre).count() - takt_ms;
+    if (gesperrt && (befehl || !schalter_) && std::exchange(verlangt_, zeit_) != zeit_) {
+        anhaengen(vorgang::pause_verlangt, 0);
     }
 }
 
@@ -328,6 +351,9 @@ void hergangsleser::geraet(std::int64_t art) {
         geschehen& g = anhaengen(vorgang::geraet, spur_des_ereignisses(art));
         g.nummer = art;
         g.wert = 1;
+        if (art == art::chaostaster) {
+            pause_verlangt(false);
+        }
     }
     w.zeit = zeit_;
 }

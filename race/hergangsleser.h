@@ -48,6 +48,8 @@ private:
     /// What crossings have been stamped with is right already.
     void nachruecken(zeit_ms um);
     void taste(std::int64_t code);
+    /// A pause was asked for, by the command, or by a button of which a switch takes the place.
+    void pause_verlangt(bool befehl);
     void geraet(std::int64_t art);
     /// A crossing of the lane was told; its stamp may be unknown.
     void erzaehlt(int spur, zeit_ms stempel);
@@ -72,6 +74,9 @@ private:
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};
+    bool schalter_ = false;            ///< the chaos input is a switch
+    std::optional<zeit_ms> weiter_;    ///< when the last pause ended, while the race goes on
+    std::optional<zeit_ms> verlangt_;  ///< when another was asked for last
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 

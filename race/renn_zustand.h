@@ -92,6 +92,8 @@ struct pausen_zustand {
     bool ausfall = false;           ///< the program was away: it ends by the small light, whatever the settings say
     bool geraet_rot = false;        ///< the light of the device has been red in this pause
     zeit_ms neustart_verlangt = 0;  ///< stamp at which that light was asked for, 0 not yet
+    /// Stamp at which another one was asked for too soon behind it; only to be shown.
+    zeit_ms zu_frueh_verlangt = zeitsperre::seit_immer;
 };
 
 /// The record of the running race. Reset at each race.

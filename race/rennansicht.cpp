@@ -175,10 +175,10 @@ void rennansicht::bestzeit_anzeige() {
     const bestzeit& rekord = um_.bestzeiten.gesamt();
     bahn.bestzeit_gesamt.text(
         rekord.leer() ? "" : bahn.wort.rekord + zeit(rekord) + "   " + rekord.name + "   " + rekord.datum);
-    ergebnis_nennen("");
+    in_der_rekordzeile("");
 }
 
-void rennansicht::ergebnis_nennen(const std::string& folge) {
+void rennansicht::in_der_rekordzeile(const std::string& folge) {
     bahn1& bahn = um_.bahn;
     bahn.ergebnisfolge.text(folge);
     bahn.ergebnisfolge.sichtbar(!folge.empty());

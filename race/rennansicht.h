@@ -29,7 +29,7 @@ public:
     /// The timing device is gone: says so with a sound, large, until `text` is empty.
     void geraetealarm_setzen(const std::string& text);
     /// The order that the result has, where the lanes show another, in the place of the record. Empty for none.
-    void ergebnis_nennen(const std::string& folge);
+    void in_der_rekordzeile(const std::string& folge);
     std::string ziel_text(const rennziel& ziel) const;
     void ziel_zeigen();
     /// Counters, times and lists as before the first crossing.

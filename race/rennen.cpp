@@ -51,7 +51,7 @@ rennen::rennen(const plattform::dienste& echte, const umfeld& um)
                                     bahn1.wort.wirklich, bahn1.wort.ohne_ergebnis}),
       endfrage(bahn1.Command4, {echte.uhr, echte.zeitgeber, [this] { return !zustand.rennen_beendet; },
                                 bahn1.wort.wirklich, bahn1.wort.ohne_rest}),
-      lage(umgebung, plaetze, fruehstartstrafe),
+      lage(umgebung, {plaetze, fruehstartstrafe, ansicht}),
       fenster(umgebung, {ablauf, ansicht, befehle, abbruchfrage, endfrage}) {
     protokoll.nebenbei(
         [this] {

@@ -26,7 +26,8 @@ enum class vorgang {
     weiter,      ///< `wert`: length of the pause
     durchfahrt,  ///< rolled over the line as the pause began
     schalter,
-    strafe,  ///< `wert` in s; `nummer` is 1 if they are without power
+    pause_verlangt,  ///< too soon behind the last one
+    strafe,          ///< `wert` in s; `nummer` is 1 if they are without power
     strom_aus,
     strom_an,
     leer,  ///< `nummer` of the `leer_aktion`; `wert` is the lap that waits for the end of its penalty, 0 for none;

@@ -4,11 +4,14 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "core/text.h"
 
 namespace tarvel {
 namespace {
+
+constexpr zeit_ms gesagt_ms = 2000;  // what is said for a moment
 
 /// Begun seconds: the last one counts down to the end.
 int sekunden_auf(zeit_ms rest) {
@@ -18,8 +21,7 @@ int sekunden_auf(zeit_ms rest) {
 
 }  // namespace
 
-rennlage::rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart)
-    : um_(um), plaetze_(plaetze), fruehstart_(fruehstart) {
+rennlage::rennlage(const renn_umgebung& um, const teile& t) : um_(um), t_(t) {
     for (bezeichnung& label : um_.bahn.rueckstand) {
         label.sichtbar(false);
     }
@@ -31,7 +33,7 @@ rennlage::rennlage(const renn_umgebung& um, const positionen& plaetze, const fru
 int rennlage::sekunden_bis_strom(int spur) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
     const bool zaehlt = um_.einst.fruehstart_option == fruehstart_aktion::stromunterbrechung;
-    return zustand.strom_aus && zaehlt ? sekunden_auf(dauer_ms(fruehstart_.rest()).count()) : 0;
+    return zustand.strom_aus && zaehlt ? sekunden_auf(dauer_ms(t_.fruehstart.rest()).count()) : 0;
 }
 
 /// In a pause nothing flows, but who stands on his contact then refuels as soon as it ends: nobody is to wonder why.
@@ -51,7 +53,7 @@ spurlage rennlage::lage_von(int spur) const {
         return {lage::disqualifiziert};
     }
     if (zustand.ziel_erreicht) {
-        return {lage::ziel, plaetze_.position(feld_index(spur))};
+        return {lage::ziel, t_.plaetze.position(feld_index(spur))};
     }
     if (um_.zustand.rennen_beendet) {
         return {};
@@ -84,7 +86,7 @@ int rennlage::fuehrende() const {
     for (const int spur : alle_spuren) {
         const bool dabei = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
                            um_.zustand.konto.runden(spur) >= 0;
-        if (dabei && (erste == 0 || plaetze_.position(feld_index(spur)) < plaetze_.position(feld_index(erste)))) {
+        if (dabei && (erste == 0 || t_.plaetze.position(feld_index(spur)) < t_.plaetze.position(feld_index(erste)))) {
             erste = spur;
         }
     }
@@ -94,7 +96,7 @@ int rennlage::fuehrende() const {
 spuren<int> rennlage::ordnung() const {
     spuren<int> ordnung;
     for (const int spur : alle_spuren) {
-        const int platz = um_.einst.rennbild.nach_platz ? plaetze_.position(feld_index(spur)) : 0;
+        const int platz = um_.einst.rennbild.nach_platz ? t_.plaetze.position(feld_index(spur)) : 0;
         ordnung[spur] = platz > 0 ? platz : spuren_max + spur;  // who has no place, as an empty lane, comes last
     }
     return ordnung;
@@ -110,6 +112,7 @@ void rennlage::nachfuehren() {
         hinweis_zeigen(spur);
     }
     pause_zeigen();
+    sperre_zeigen();
     restrunden_zeigen();
 }
 
@@ -180,7 +183,6 @@ letzte_ablehnung rennlage::zuletzt_abgelehnt(int spur) const {
 }
 
 bool rennlage::eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const {
-    constexpr zeit_ms gesagt_ms = 2000;
     const zeit_ms seither = um_.zeit.messzeit_lesen() - letzte.stempel;
     return seither >= 0 && seither < gesagt_ms && letzte.stempel > um_.zustand.spur[spur].gezaehlt_bei;
 }
@@ -259,6 +261,15 @@ void rennlage::pause_zeigen() {
         }
     }
     dauer.sichtbar(da);
+}
+
+void rennlage::sperre_zeigen() {
+    const zeit_ms seither = um_.zeit.messzeit_lesen() - um_.zustand.pause.zu_frueh_verlangt;
+    const bool da = um_.einst.rennbild.worte && seither >= 0 && seither < gesagt_ms && !um_.zustand.chaos_aktiv &&
+                    !um_.zustand.rennen_beendet;
+    if (std::exchange(sperre_gezeigt_, da) != da && !um_.zustand.rennen_beendet) {  // then the result stands there
+        t_.ansicht.in_der_rekordzeile(da ? um_.bahn.wort.pause_gesperrt : std::string());
+    }
 }
 
 void rennlage::restrunden_zeigen() {

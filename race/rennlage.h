@@ -4,6 +4,7 @@
 
 #include "race/fruehstartstrafe.h"
 #include "race/positionen.h"
+#include "race/rennansicht.h"
 #include "race/rueckstand.h"
 #include "race/spurlage.h"
 #include "race/umgebung.h"
@@ -14,7 +15,13 @@ namespace tarvel {
 /// this: whoever draws the race asks for it, a few times a second, from outside all that the race's log holds.
 class rennlage {
 public:
-    rennlage(const renn_umgebung& um, const positionen& plaetze, const fruehstartstrafe& fruehstart);
+    struct teile {
+        const positionen& plaetze;
+        const fruehstartstrafe& fruehstart;
+        rennansicht& ansicht;
+    };
+
+    rennlage(const renn_umgebung& um, const teile& t);
 
     /// Brings the words of the race window up to date.
     void nachfuehren();
@@ -32,11 +39,12 @@ private:
     void rueckstand_zeigen(int spur, int fuehrende);
     void hinweis_zeigen(int spur);
     void pause_zeigen();
+    /// Who asks for another pause right behind one is told why none begins.
+    void sperre_zeigen();
     void restrunden_zeigen();
 
     renn_umgebung um_;
-    const positionen& plaetze_;
-    const fruehstartstrafe& fruehstart_;
+    teile t_;
     spuren<bool> hatte_sprit_{};  ///< in this race: a device may not have told its levels yet
     /// All that the gap of a lane follows from.
     struct rueckstandsgrund {
@@ -67,6 +75,7 @@ private:
     std::string hinweis_gesagt(const hinweisgrund& g) const;
     spuren<hinweisgrund> hinweisgrund_{};
     int pausensekunden_ = 0;
+    bool sperre_gezeigt_ = false;
     int restrunden_ = 0;
 };
 

@@ -21,7 +21,7 @@ rennzeitgeber::rennzeitgeber(plattform::zeitgeber_dienst& dienst)
       renntimer3(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
       blinktimer(dienst.erzeugen(zeitgeber_art::abfragend, 500ms)),
       nachlauftimer1(dienst.erzeugen(zeitgeber_art::zaehlend, 60000ms)),
-      chaostimer(einmalig(dienst, 2500ms)),
+      chaostimer(einmalig(dienst, pausensperre)),
       chaosende_timer(einmalig(dienst, 1500ms)),
       chaostimer2(dienst.erzeugen(zeitgeber_art::abfragend, 1ms)),
       ch_durch0(dienst.erzeugen(zeitgeber_art::zaehlend, 10ms)),

@@ -10,6 +10,8 @@
 namespace tarvel {
 
 inline constexpr int soundsensoren_max = 8;
+/// So long behind the beginning or the end of a pause nothing triggers another one.
+inline constexpr dauer_ms pausensperre{2500};
 
 /// The timers of the race window.
 struct rennzeitgeber {
@@ -20,7 +22,7 @@ struct rennzeitgeber {
     std::unique_ptr<plattform::zeitgeber> renntimer3;  ///< samples the devices
     std::unique_ptr<plattform::zeitgeber> blinktimer;  ///< flashes the start light before the race
     std::unique_ptr<plattform::zeitgeber> nachlauftimer1;
-    std::unique_ptr<plattform::zeitgeber> chaostimer;       ///< no other trigger right after a pause has begun
+    std::unique_ptr<plattform::zeitgeber> chaostimer;       ///< no other trigger right after a pause has begun or ended
     std::unique_ptr<plattform::zeitgeber> chaosende_timer;  ///< nor right after it has ended
     std::unique_ptr<plattform::zeitgeber> chaostimer2;      ///< looks at the inputs during a pause
     std::unique_ptr<plattform::zeitgeber> ch_durch0;        ///< collects crossings at the beginning of a pause

@@ -90,7 +90,7 @@ void auswertung::wieder_oeffnen() {
 
 void auswertung::entladen() {
     zeitgeber_aus();
-    r_.ansicht.ergebnis_nennen("");
+    r_.ansicht.in_der_rekordzeile("");
     if (zieltimer_->laeuft()) {
         zielsignal_beenden();
     }
@@ -199,7 +199,7 @@ void auswertung::folge_auf_der_bahn_nennen() {
     }
     const bool ab_erster = !anders_ab_gruen(ergebnis()).empty();
     const std::string& wort = ab_erster ? wort_.folge_ab_erster : wort_.folge;
-    r_.ansicht.ergebnis_nennen(ergebnistext::anders_auf_der_bahn(ergebnis(), auf_der_bahn, wort));
+    r_.ansicht.in_der_rekordzeile(ergebnistext::anders_auf_der_bahn(ergebnis(), auf_der_bahn, wort));
 }
 
 void auswertung::spur_anzeigen(const rennergebnis::spur& s) {

@@ -30,6 +30,7 @@ protokollfenster::gruppe protokollfenster::gruppe_von(vorgang was) {
         case pause:
         case weiter:
         case schalter:
+        case pause_verlangt:
             return pausen;
         case fruehstart:
         case strafe:

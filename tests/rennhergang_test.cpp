@@ -118,9 +118,14 @@ TEST_F(Rennhergang, VerworfeneUeberfahrtenStehenEinmalDa) {
     t.bahn().Command3.klicken();
     t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[2], t.maschine.jetzt() - 2000);  // told late
     t.p.ereignisse.ereignis_melden(art::rundenzaehlung[2], t.p.rennen.zustand.start_zeit - 500);
-    t.runde_nach(3000, "1");
+    druck(600, "c");
+    t.maschine.laufen(20);
+    t.bahn().Command3.klicken();
+    t.runde_nach(2400, "1");
     t.rennende();
     const rennhergang h = hergang_lesen(datei());
+    EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause_verlangt; }), 2);
+    EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause; }), 1);
     const auto gruende = [&](int spur) {
         std::vector<ablehnung> alle;
         for (const geschehen& g : h.abgelehnte(spur)) {

@@ -202,6 +202,40 @@ TEST_F(Rennlage, UeberfahrtInDerPauseSagtDassSieNichtZaehlt) {
     EXPECT_EQ(t.runden(2), 1);
 }
 
+TEST_F(Rennlage, WerGleichWiederPauseVerlangtErfaehrtWarumKeineKommt) {
+    t.p.einst.chaosampel_an = false;
+    fahren("Zeit", "5");
+    const auto gesagt = [this] {
+        t.p.rennen.lage.nachfuehren();
+        return t.bahn().ergebnisfolge.sichtbar() ? t.bahn().ergebnisfolge.text() : "";
+    };
+    const auto druecken = [this](bool taste) {
+        if (taste) {
+            t.taste("c");
+        } else {
+            t.bahn().Command3.klicken();
+        }
+        t.maschine.laufen(20);
+    };
+    for (const bool taste : {true, false}) {
+        t.maschine.laufen(3000);
+        druecken(taste);
+        ASSERT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+        druecken(taste);
+        EXPECT_EQ(gesagt(), "") << "the same hand once more";
+        t.maschine.laufen(3000);
+        druecken(taste);
+        ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+        EXPECT_EQ(gesagt(), "");
+        t.maschine.laufen(600);
+        druecken(taste);
+        EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+        EXPECT_EQ(gesagt(), "Neue Pause erst 2,5 s nach „Weiter“");
+        t.maschine.laufen(2000);
+        EXPECT_EQ(gesagt(), "");
+    }
+}
+
 TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {
     t.p.einst.zielmodus_erster = false;
     const auto zurueck = [&](int spur) {
