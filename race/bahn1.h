@@ -127,6 +127,7 @@ struct bahn1 {
         std::string prestage;  ///< rows of the drag race's tree
         std::string stage;
         std::string ohne_messung;   ///< asks whether to start without the timing device
+        std::string zurueckholen;   ///< how a race that was broken off by mistake is driven on
         std::string ohne_ergebnis;  ///< what stopping a race that runs means
         std::string ohne_rest;      ///< and ending it
         std::string wirklich;       ///< asks whether a command is meant

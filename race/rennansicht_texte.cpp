@@ -134,7 +134,8 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
         texte.text(folgen.at(i), bahn.wort.fruehstart_folgen.at(i));
     }
     texte.text("in der Pause", bahn.wort.in_der_pause).text("noch ohne Strom", bahn.wort.noch_ohne_strom);
-    return texte.text("Neue Pause erst 2,5 s nach „Weiter“", bahn.wort.pause_gesperrt);
+    texte.text("Neue Pause erst 2,5 s nach „Weiter“", bahn.wort.pause_gesperrt);
+    return texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
 }
 
 }  // namespace tarvel

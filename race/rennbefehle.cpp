@@ -65,6 +65,7 @@ void rennbefehle::taste(int code, std::optional<zeit_ms> alter) {
 }
 
 void rennbefehle::rennen_abbrechen() {
+    const bool gefahren = !um_.zustand.rennen_beendet && !um_.ampel_laeuft();
     um_.protokoll.vermerken(vermerk::abbruch);
     um_.fenster.entladen(fenstername::Form2);
     um_.fenster.entladen(fenstername::auswertung);
@@ -75,6 +76,9 @@ void rennbefehle::rennen_abbrechen() {
     um_.zustand.rennabbruch = true;
     um_.param.einrichtung_wiederherstellen();
     um_.teil_von.melden(&veranstaltung::abgebrochen);
+    if (gefahren && um_.teil_von->zurueck() == fenstername::Form1 && !um_.teil_von->zur_uebung()) {
+        um_.meldungen.mitteilen(um_.bahn.wort.zurueckholen);  // an evening offers it by itself
+    }
     um_.fenster.entladen(fenstername::bahn1);
     um_.fenster.zeigen(um_.teil_von->zurueck(), um_.teil_von->zurueck_als());
 }

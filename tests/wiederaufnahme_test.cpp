@@ -121,6 +121,8 @@ TEST_F(Wiederaufnahme, EinAbbruchWirdVomHauptfensterAusZurueckgenommen) {
     t_.runde_nach(2500, "1");
     t_.p.rennen.befehle.fenster_schliessen();
     ASSERT_FALSE(t_.p.fenster.ist_offen(fenstername::bahn1));
+    ASSERT_EQ(t_.maschine.mitgeteilt.size(), 1U);
+    EXPECT_EQ(t_.maschine.mitgeteilt.back(), "Rennen abgebrochen. „Fortsetzen“ holt es zurück.");
 
     t_.maschine.laufen(60000);
     t_.maschine.antwort = true;

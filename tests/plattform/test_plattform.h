@@ -61,6 +61,7 @@ public:
 
     std::vector<meldung> meldungen_gezeigt;
     std::vector<meldung> fragen_gestellt;
+    std::vector<std::string> mitgeteilt;
     std::string antworten_der_frage;  ///< words of its own on the buttons of the last one, "yes/no"
     std::string knoepfe_der_fragen;
     int angebote = 0;      ///< of them: Enter says yes
@@ -97,6 +98,7 @@ private:
     }
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,
                                                    const plattform::antwortworte& worte) override;
+    void mitteilen(std::string_view text) override { mitgeteilt.emplace_back(text); }
     void bereitstellen(std::string_view /*datei*/) override {}
     void spielen(std::string_view datei) override {
         sounds.emplace_back(datei);
