@@ -17,7 +17,7 @@ std::string protokollfenster::beschreibung(const protokollkopf& kopf, std::strin
     constexpr std::size_t stunde_minute = 5;
     std::string_view zeitpunkt = kopf.zeitpunkt;  // "21.11.2026-14:03:22"
     const std::size_t strich = std::min(zeitpunkt.find('-'), zeitpunkt.size());
-    std::string text = std::string(zeitpunkt.substr(0, strich)) + "  ";
+    std::string text = std::string(zeitpunkt.substr(0, strich)) + " ";
     zeitpunkt.remove_prefix(std::min(strich + 1, zeitpunkt.size()));
     text += eingesetzt(ende.empty() ? wort_.ab : wort_.von_bis,
                        {std::string(links(zeitpunkt, stunde_minute)), std::string(links(ende, stunde_minute))}) +

@@ -188,14 +188,14 @@ TEST_F(Protokollfenster, WaehltUnterAllenProtokollenAuchBeschaedigten) {
     schreiben("2026-11-23 10-00-00.txt", "etwas anderes");
     t.p.w_auswertung2.Command_protokoll.klicken();
     ASSERT_EQ(fenster().List_dateien.zeilen().size(), 3U);
-    EXPECT_TRUE(fenster().List_dateien.zeilen()[2].starts_with("21.11.2026  ab 14:03  Rennen über 9 Runden: "));
+    EXPECT_TRUE(fenster().List_dateien.zeilen()[2].starts_with("21.11.2026 ab 14:03  Rennen über 9 Runden: "));
     EXPECT_EQ(fenster().Label_hinweis.text(), "Dieses Protokoll ist nicht lesbar oder aus einer anderen Version.");
     fenster().List_dateien.auswaehlen(1);
     EXPECT_NE(fenster().Label_hinweis.text().find("beschädigt"), std::string::npos);
     EXPECT_FALSE(zeilen().empty());
     fenster().List_dateien.auswaehlen(2);
     EXPECT_EQ(fenster().Label_hinweis.text(), "1 Überfahrt nicht gezählt.");
-    EXPECT_TRUE(fenster().Label_kopf.text().starts_with("21.11.2026  14:03 bis 14:05  Rennen über 9 Runden: "))
+    EXPECT_TRUE(fenster().Label_kopf.text().starts_with("21.11.2026 14:03 bis 14:05  Rennen über 9 Runden: "))
         << "the end is what its result names: " << fenster().Label_kopf.text();
 }
 
