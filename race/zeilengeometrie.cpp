@@ -25,7 +25,8 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
     const double wort = titelplatz(0, lesbar);
     const double bleibt = ort.hoehe - strafe - tank - (hoch ? wort : lesbar) - 2 * luecke;
     zuschnitt stapel(ort, luecke / 2);
-    g[t::namenslabel].ort = stapel.oben(std::min({0.42 * ort.hoehe, 1100 * s, std::max(bleibt, wort)}));
+    g[t::namenslabel].ort =
+        stapel.oben(std::min({(tank > 0 ? 0.32 : 0.42) * ort.hoehe, 1100 * s, std::max(bleibt, wort)}));
     g[t::straflabel].ort = stapel.unten(strafe);
     tank_legen(inhalt, stapel.unten(tank), true, lesbar, g);
     const bool schuld_oben = hoch && mittig(stapel.rest(), 900 * s).hoehe > 2.5 * lesbar;
