@@ -124,7 +124,7 @@ TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
     EXPECT_EQ(sagt(2), "LEER 10 s");
     EXPECT_EQ(hinweis(2), "Runde wartet");
     t.runde_nach(4000, "2");
-    EXPECT_EQ(hinweis(2), "noch ohne Strom") << "this one counts neither now nor then";
+    EXPECT_EQ(hinweis(2), "ohne Strom") << "this one counts neither now nor then";
     t.maschine.laufen(2000);
     EXPECT_EQ(hinweis(2), "Runde wartet");
     t.maschine.laufen(4000);
