@@ -27,7 +27,8 @@ const std::vector<erklaerung>& erklaerungen() {
          "der letzte Schritt vor Grün dauert immer gleich lang oder jedes Mal anders"},
         {"Start-/Zieloptionen", "Startzeiten je Spur bei Sensor", "start_zeit_sensor",
          "die Rundenliste beginnt mit Runde 0, dem Weg zur ersten Überfahrt: angekreuzt ist sie null, sonst die Zeit "
-         "seit Grün. Die Gesamtzeit beginnt in beiden Fällen mit der ersten Überfahrt der Spur"},
+         "seit Grün. Die Gesamtzeit beginnt in beiden Fällen mit der ersten Überfahrt der Spur, deshalb kann das "
+         "Ergebnis anders lauten als die Folge an der Ziellinie"},
         {"Start-/Zieloptionen", "Blinken vor Rennbeginn", "blinken_an",
          "die echte Ampel wechselt vor dem Rennen zwischen Rot und Grün, damit jeder sieht, dass die Bahn bereit ist"},
         {"Start-/Zieloptionen", "Nachtrennen, Nachtampel", "nachtrennen nachtampel",

@@ -68,7 +68,7 @@ sprachliste auswertung::sprache_a() {
     texte.fuer_alle("Sektoren", cmd_anzeige).fuer_alle("nächste", cmd_rd_add);
     texte.fuer_alle("löschen", cmd_rd_inc);
     blatt.fruehstart_nennen(texte).text("Ergebnis:", wort_.folge);
-    texte.text("Ergebnis ab eigener erster Überfahrt:", wort_.folge_ab_erster);
+    texte.text("Gewertet ab der eigenen ersten Überfahrt:", wort_.folge_ab_erster);
     texte.text("Training", anlass_.training).text("Tagesrennen", anlass_.tagesrennen);
     texte.text("Wettkampf", anlass_.wettkampf);
     texte.text("Rennen", anlass_.rennen).text("Ergebnis", wort_.ergebnis);

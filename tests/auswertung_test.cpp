@@ -106,7 +106,7 @@ TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
               "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1.\u00A0Fahrer 1, "
               "2.\u00A0Fahrer 2, 3.\u00A0Fahrer 3");
     EXPECT_EQ(t.bahn().ergebnisfolge.text(),
-              "Ergebnis ab eigener erster Überfahrt: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 3, 3.\u00A0Fahrer 1");
+              "Gewertet ab der eigenen ersten Überfahrt: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 3, 3.\u00A0Fahrer 1");
     EXPECT_TRUE(t.bahn().ergebnisfolge.sichtbar());
     a.Command1.klicken();
     EXPECT_FALSE(t.bahn().ergebnisfolge.sichtbar());

@@ -48,6 +48,7 @@ void Bahn1Fenster::lagen() {
     });
     folge_ = binder().anzeige(logik_.bahn1.ergebnisfolge, "ergebnisfolge");
     folge_->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
+    folge_->setFett(true);  // it contradicts what stands large over it
     constexpr int lagetakt_ms = 50;
     lagetakt_.setInterval(lagetakt_ms);
     QObject::connect(&lagetakt_, &QTimer::timeout, this, [this] { lagen_nachfuehren(); });
