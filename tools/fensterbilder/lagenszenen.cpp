@@ -1,5 +1,7 @@
 // What the lanes are in, and pauses.
+#include <algorithm>
 #include <initializer_list>
+#include <string>
 
 #include "tools/fensterbilder/szenen.h"
 
@@ -135,6 +137,72 @@ QWidget& pause_mit_ueberfahrten(buehne& b) {
     return b.o.bahn1;
 }
 
+/// Right behind its beginning: a lap that waits, one that was too short, and a car on its tank contact.
+template <bool zeilen, int... spuren>
+QWidget& pause_am_anfang(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.p.form1.t_aktiv.gesetzt(true);
+    b.p.einst.tank_inhalt = 60;
+    b.rundenrennen(40000, "30", {spuren...});
+    b.t.maschine.laufen(6000);
+    b.t.taste("2");
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(200);
+    b.p.rennen.befehle.taste('1', 0);
+    b.p.rennen.befehle.taste('2', 0);
+    const int letzte = std::max({spuren...});
+    b.t.spur(letzte).tank_kontakt = true;
+    b.t.spur(letzte).tank_inhalt = 30;
+    b.t.maschine.laufen(20);
+    return b.o.bahn1;
+}
+
+/// A crossing in the penalty of an empty tank, and another pause asked for too soon.
+template <bool zeilen, int... spuren>
+QWidget& ohne_strom(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.p.einst.chaosampel_an = false;
+    b.p.form1.t_aktiv.gesetzt(true);
+    b.rundenrennen(40000, "30", {spuren...});
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(3000);
+    b.t.bahn().Command3.klicken();
+    b.t.maschine.laufen(600);
+    b.t.bahn().Command3.klicken();
+    b.t.spur(1).tank_strafe_aktiv = true;
+    b.t.spur(1).strom_aus = true;
+    b.t.spur(1).abgelehnt = {b.p.rennen.zeit.messzeit_lesen(), ablehnung::tankstrafe, 0};
+    b.t.spur(1).gezaehlt_bei = 0;
+    return b.o.bahn1;
+}
+
+/// The winner of the line is not the winner of the result: the others have begun later.
+template <bool zeilen, int... spuren>
+QWidget& andere_folge(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.einrichten("Runden", "3", {spuren...});
+    b.t.bahn().Command1.klicken();
+    b.t.runde_nach(12000, "1");
+    b.t.maschine.laufen(700);
+    for (const int spur : {spuren...}) {
+        if (spur != 1) {
+            b.t.runde_nach(60, std::to_string(spur));
+        }
+    }
+    for (int runde = 1; runde <= 3; ++runde) {
+        b.t.runde_nach(6000, "1");
+        b.t.maschine.laufen(200);
+        for (const int spur : {spuren...}) {
+            if (spur != 1 && (runde < 3 || spur < 4)) {
+                b.t.runde_nach(60, std::to_string(spur));
+            }
+        }
+    }
+    b.t.maschine.laufen(3000);
+    return b.o.bahn1;
+}
+
 template <bool zeilen, int... spuren>
 QWidget& pause_kurz(buehne& b) {
     b.p.einst.darstellung_zeile = zeilen;
@@ -202,6 +270,16 @@ const std::vector<szeneneintrag> alle_lagenszenen{
     {"pause_hinweis_zwei", pause_mit_ueberfahrten<false, 1, 2>},
     {"pause_hinweis_zeilen_sechs", pause_mit_ueberfahrten<true, 1, 2, 3, 4, 5, 6>},
     {"pause_hinweis_zeilen_zwei", pause_mit_ueberfahrten<true, 1, 2>},
+    {"pause_am_anfang_sechs", pause_am_anfang<false, 1, 2, 3, 4, 5, 6>},
+    {"pause_am_anfang_zwei", pause_am_anfang<false, 1, 2>},
+    {"pause_am_anfang_zeilen_sechs", pause_am_anfang<true, 1, 2, 3, 4, 5, 6>},
+    {"pause_am_anfang_zeilen_zwei", pause_am_anfang<true, 1, 2>},
+    {"ohne_strom_sechs", ohne_strom<false, 1, 2, 3, 4, 5, 6>},
+    {"ohne_strom_zwei", ohne_strom<false, 1, 2>},
+    {"ohne_strom_zeilen_sechs", ohne_strom<true, 1, 2, 3, 4, 5, 6>},
+    {"andere_folge_sechs", andere_folge<false, 1, 2, 3, 4, 5, 6>},
+    {"andere_folge_zwei", andere_folge<false, 1, 2>},
+    {"andere_folge_zeilen_zwei", andere_folge<true, 1, 2>},
     {"rennen_pause_taster",
      [](buehne& b) -> QWidget& {
          b.rennen(40000);
