@@ -283,8 +283,11 @@ void Spurblock::liste_anordnen(const platz& ort) {
 void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
-    const QRectF rand = QRectF(rect()).adjusted(3, 3, -3, -3);
+    constexpr double rahmen_anteil = 0.0065;  // of the window's height: it is seen from afar
     const bool im_ziel = randfarbe_.isValid();
+    const double strich = im_ziel ? std::max(rahmen_anteil * window()->height(), 5.0) : 1;
+    const double innen = std::max(3.0, strich / 2);
+    const QRectF rand = QRectF(rect()).adjusted(innen, innen, -innen, -innen);
     const lagefarbe farbe = bild_von(bahn_.lage[spur_].stand().was).farbe;
     if (farbe == lagefarbe::strafe || farbe == lagefarbe::aus) {  // locked or out: barred all round
         const QRectF ganz(rect());
@@ -292,7 +295,7 @@ void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
         rahmen.addRoundedRect(ganz, 10, 10);
         maler.setClipPath(rahmen);
         const double neben_texten = std::max(geometrie_.streifen.x, 3);
-        const double dick = std::min(std::clamp(0.012 * height(), 4.0, 8.0), neben_texten);
+        const double dick = std::min(std::max(rahmen_anteil * window()->height(), 4.0), neben_texten);
         schraffieren(maler, ganz, 2 * dick, farbe == lagefarbe::aus ? QColor(110, 114, 122) : QColor(Qt::white),
                      Qt::black);
         maler.setClipping(false);
@@ -302,7 +305,7 @@ void Spurblock::paintEvent(QPaintEvent* /*ereignis*/) {
         streifen_malen(maler);
         return;
     }
-    maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), im_ziel ? 5 : 1));
+    maler.setPen(QPen(im_ziel ? randfarbe_ : QColor(52, 56, 64), strich));
     maler.setBrush(grundfarbe_);
     maler.drawRoundedRect(rand, 10, 10);
     streifen_malen(maler);
