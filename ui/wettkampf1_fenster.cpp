@@ -16,19 +16,20 @@ constexpr QSize bildgroesse(132, 99);
 constexpr int rechte_spalte = 256;
 constexpr QSize fleck_groesse(28, 20);
 constexpr int pfeil_px = 12;
+constexpr int pfeil_abstand_px = 5;  // from the word
 
 /// A triangle that points to the list where a driver goes.
 QIcon pfeil(bool nach_rechts) {
     constexpr int scharf = 3;  // on a fine screen
-    QPixmap flaeche(pfeil_px * scharf, pfeil_px * scharf);
+    QPixmap flaeche((pfeil_px + pfeil_abstand_px) * scharf, pfeil_px * scharf);
     flaeche.setDevicePixelRatio(scharf);
     flaeche.fill(Qt::transparent);
     QPainter maler(&flaeche);
     maler.setRenderHint(QPainter::Antialiasing);
     maler.setPen(Qt::NoPen);
     maler.setBrush(stil::akzent);
-    const double spitze = nach_rechts ? pfeil_px - 1 : 1;
-    const double hinten = pfeil_px - spitze;
+    const double spitze = nach_rechts ? pfeil_abstand_px + pfeil_px - 1 : 1;
+    const double hinten = nach_rechts ? pfeil_abstand_px + 1 : pfeil_px - 1;
     maler.drawPolygon(QPolygonF({{hinten, 1}, {spitze, pfeil_px / 2.0}, {hinten, pfeil_px - 1.0}}));
     return flaeche;
 }
@@ -113,7 +114,7 @@ QHBoxLayout* Wettkampf1Fenster::knopfreihe(const std::vector<std::pair<befehl*, 
 QPushButton* Wettkampf1Fenster::pfeilknopf(befehl& element, const QString& name, bool nach_rechts) {
     QPushButton* knopf = binder().knopf(element, name, "schmal");
     knopf->setIcon(pfeil(nach_rechts));
-    knopf->setIconSize({pfeil_px, pfeil_px});
+    knopf->setIconSize({pfeil_px + pfeil_abstand_px, pfeil_px});
     knopf->setLayoutDirection(nach_rechts ? Qt::RightToLeft : Qt::LeftToRight);  // the arrow at its own side
     return knopf;
 }
