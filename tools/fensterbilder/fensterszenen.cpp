@@ -204,12 +204,6 @@ const std::vector<szeneneintrag> alle_fensterszenen{
          return *b.o.tastatur;
      },
      true},
-    {"einstellungen_noch_nicht",
-     [](buehne& b) -> QWidget& {
-         optionsseite_zeigen<einstellungsfenster::seite_hardware>(b);
-         b.p.einstellungsfenster.hardware.at(1).umschalten();
-         return *b.o.einstellungen;
-     }},
     {"uart_port", uart_assistent<uart_einstellungen::seite_port>},
     {"uart_anzahl", uart_assistent<uart_einstellungen::seite_anzahl>},
     {"uart_sensoren", uart_assistent<uart_einstellungen::seite_sensoren>},

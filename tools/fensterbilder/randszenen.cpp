@@ -7,6 +7,7 @@
 
 #include "competition/rangliste.h"
 #include "competition/w_auswertung.h"
+#include "core/text.h"
 #include "platform_qt/qt_meldungen.h"
 #include "results/w_auswertung2.h"
 #include "tests/ergebnistabelle_probe.h"
@@ -228,7 +229,7 @@ const std::vector<szeneneintrag> alle_randszenen{
          for (const char* wer : lange_namen) {
              tag += std::string("A;") + wer + "; 12;125.40;00:08,123;01:42,004\r\n";
          }
-         b.t.maschine.datei_schreiben("Ergebnisse/Tagesrennen/Samstag.csv", tag);
+         b.t.maschine.datei_schreiben("Ergebnisse/Tagesrennen/Samstag.csv", nach_1252(tag));
          b.p.form1.command17.klicken();
          b.p.tagesrennen_fenster.text_lf_datei.eingeben("Samstag");
          b.p.tagesrennen_fenster.Check1.umschalten();

@@ -1,3 +1,4 @@
+#include <QTest>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -163,6 +164,10 @@ const std::vector<szeneneintrag> alle_rennszenen{
          b.rennen(40000);
          b.t.runde_nach(3000, "5");
          b.t.runde_nach(3000, "5");
+         b.o.takt.ausfuehren();
+         b.o.bahn1.showNormal();
+         constexpr int umgestellt_ms = 1000;
+         QTest::qWait(umgestellt_ms);
          return b.o.bahn1;
      }},
     {"rennen_drei_spuren",
@@ -260,7 +265,8 @@ const std::vector<szeneneintrag> alle_rennszenen{
      true},
     {"rennen_mit_stunden",
      [](buehne& b) -> QWidget& {
-         b.rundenrennen(64000, "90", {1, 2, 3});
+         b.p.form1.stddauer.eingeben("2");
+         b.rennen(64000, {1, 2, 3});
          return b.o.bahn1;
      }},
     {"rennen_control_unit_start",
