@@ -140,8 +140,12 @@ void wettkampf1::listen_schreiben(const seite& wo, int zeile) {
         rennliste.hinzufuegen(eintrag.name);
     }
     auswahlliste.leeren();
+    constexpr std::size_t zweistellig = 10;
+    const std::string ziffernbreite = "\u2007";
     for (std::size_t i = 0; i < start_.anzahl(); ++i) {
-        auswahlliste.hinzufuegen(std::to_string(i + 1) + "   " + start_.eintraege()[i].name);
+        const bool einruecken = i + 1 < zweistellig && start_.anzahl() >= zweistellig;  // names begin below each other
+        auswahlliste.hinzufuegen((einruecken ? ziffernbreite : "") + std::to_string(i + 1) + "   " +
+                                 start_.eintraege()[i].name);
     }
     wo.anzeige.markieren(zeile);
     label_anzahl.text(anzahl_text(gesamt_.anzahl()));
