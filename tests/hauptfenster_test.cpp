@@ -1,5 +1,6 @@
 #include "core/hauptfensterdatei.h"
 #include "core/spurbesetzung.h"
+#include "programm/rennprotokoll.h"
 #include "tests/ergebnistabelle_probe.h"
 #include "tests/programm_probe.h"
 
@@ -207,6 +208,27 @@ TEST_F(Hauptfenster, AufWunschStehtEsWieBeimEndeUndDieEinstellungsdateiBleibt) {
     EXPECT_EQ(drittes.form1.lspur[1].text(), "12.5");
     EXPECT_TRUE(drittes.form1.felder_merken.gesetzt());
     EXPECT_EQ(t.maschine.datei_lesen("Einstellungen/einstellungen.ini"), einstellungen);
+}
+
+TEST_F(Hauptfenster, EinRennenDasZweimalAbgeschnittenWurdeLaesstStehenWasGetipptWar) {
+    t.starten("Runden", "10", {1, 2});
+    t.runde_nach(4000, "12");
+    t.rennabbruch();
+    f.fahrer[0].eingeben("Gast");
+    f.renndauer.eingeben("7");
+    f.felder_merken.umschalten();
+    neu_starten();
+    t.maschine.antwort = true;
+    zweites->form1.command_fortsetzen.klicken();
+    zweites->rennprotokoll.sichern();
+    zweites.reset();  // the power goes
+    programm drittes(t.maschine.dienste());
+    drittes.starten();
+    ASSERT_TRUE(drittes.rennen.zustand.chaos_aktiv);
+    ASSERT_EQ(drittes.form1.fahrer[0].text() + drittes.form1.renndauer.text(), "Fahrer 110");
+    drittes.rennen.abbruchfrage.bestaetigen();
+    t.maschine.laufen(1000);
+    EXPECT_EQ(drittes.form1.fahrer[0].text() + drittes.form1.renndauer.text(), "Gast7");
 }
 
 TEST_F(Hauptfenster, FahrerVomLetztenMalWerdenAngebotenUndGehenUngefragtNichtVerloren) {
