@@ -195,25 +195,56 @@ void hergangsleser::einordnen(geschehen& g) {
     if (bis_stempel(g)) {
         g.wert -= verschoben_;
     }
-    if (g.was == vorgang::gruen && !gruen_) {
-        gruen_ = {g.stempel, zeit_};
-    } else if (g.was == vorgang::pause || g.was == vorgang::ende) {
-        weiter_.reset();
-    } else if (g.was == vorgang::weiter) {
-        weiter_ = g.zeit;
-    } else if (g.was == vorgang::fruehstart) {
-        nach_pause_[g.spur] = false;
-    } else if (g.was == vorgang::strafe && g.nummer == 1) {
+    if (g.ist_abgelehnt()) {
+        g.nach_pause = nach_pause_[g.spur];
+    }
+    switch (g.was) {
+        case vorgang::gruen:
+            gruen_ = gruen_.value_or(start{g.stempel, zeit_});
+            break;
+        case vorgang::pause:
+            weiter_.reset();
+            break;
+        case vorgang::weiter:
+            weiter_ = g.zeit;
+            break;
+        case vorgang::fruehstart:
+            nach_pause_[g.spur] = false;
+            break;
+        case vorgang::strafe:
+            strafe(g);
+            break;
+        case vorgang::runde:
+            letzte_runde_[g.spur] = g.nummer;
+            g.grenze = g.nummer > 0 ? zeitstrafe_[g.fahrer] : 0;
+            g.nach_ende = zu_ende_;
+            break;
+        case vorgang::leer:
+            leer(g);
+            break;
+        case vorgang::ende:
+            weiter_.reset();
+            endet_ = true;
+            zu_ende_ = true;
+            break;
+        default:
+            break;
+    }
+}
+
+/// Seconds without power, or on the total and as thousandths on each later lap.
+void hergangsleser::strafe(const geschehen& g) {
+    if (g.nummer == 1) {
         nach_pause_[g.spur] = true;
-    } else if (g.was == vorgang::ende) {
-        endet_ = true;
-    } else if (g.was == vorgang::runde) {
-        letzte_runde_[g.spur] = g.nummer;
-    } else if (g.was == vorgang::leer && g.nummer == static_cast<int>(leer_aktion::stromunterbrechung)) {
+    } else {
+        zeitstrafe_[g.fahrer] += g.wert;
+    }
+}
+
+void hergangsleser::leer(geschehen& g) const {
+    if (g.nummer == static_cast<int>(leer_aktion::stromunterbrechung)) {
         g.wert = letzte_runde_[g.spur];
         g.grenze = ist_letzte(g.wert) ? 1 : 0;
-    } else if (g.ist_abgelehnt()) {
-        g.nach_pause = nach_pause_[g.spur];
     }
 }
 
@@ -252,6 +283,10 @@ bool hergangsleser::ist_letzte(std::int64_t runde) const {
 void hergangsleser::tat(std::string_view name, std::string_view rest, bool aussen) {
     const auto* const befehl = std::find(std::begin(hergang_befehle), std::end(hergang_befehle), name);
     const bool ist_befehl = befehl != std::end(hergang_befehle);
+    if (name == "start") {
+        zeitstrafe_ = {};
+    }
+    zu_ende_ = zu_ende_ && name != "fortsetzen" && name != "start";
     constexpr std::array<std::string_view, 9> bekannte{"ereignis",   "jetzt",       "ueberfahrt",  "taste",   "u",
                                                        "ampeltaste", "verschieben", "nachruecken", "verloren"};
     if (!aussen && !ist_befehl && std::find(bekannte.begin(), bekannte.end(), name) == bekannte.end()) {

@@ -39,6 +39,8 @@ private:
     void kopfzeile(std::string_view text);
     void entscheidung(std::string_view text);
     void einordnen(geschehen& g);
+    void strafe(const geschehen& g);
+    void leer(geschehen& g) const;
     /// `aussen`: it does not lie in another, where answers look alike.
     void tat(std::string_view name, std::string_view rest, bool aussen);
     void umsetzen(std::string_view rest);
@@ -77,6 +79,8 @@ private:
     bool schalter_ = false;            ///< the chaos input is a switch
     std::optional<zeit_ms> weiter_;    ///< when the last pause ended, while the race goes on
     std::optional<zeit_ms> verlangt_;  ///< when another was asked for last
+    spuren<std::int64_t> zeitstrafe_{};  ///< of the driver in s, index as `geschehen::fahrer`; ms are added to each lap
+    bool zu_ende_ = false;               ///< what is counted now came behind the end
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 

@@ -115,6 +115,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
 sprachliste& hergangsworte::nachtragen(sprachliste& texte) {
     texte.text(" und wird um sie länger", und_laenger_);
     texte.text("Pause verlangt, aber sie geht erst 2,5 s nach „Weiter“ wieder", vorlagen_[vorgang::pause_verlangt]);
+    texte.text(", davon %1 für die Zeitstrafe", mit_zeitstrafe_).text(", noch nach dem Ende gezählt", nach_ende_);
     for (const tastenzeile& zeile : tastenzeilen()) {
         if (zeile.spur <= 1) {  // the rows of a lane have the same names on every lane
             texte.text(zeile.name, bedeutungen_[zeile.name]);
@@ -151,12 +152,19 @@ std::string hergangsworte::taste_von(const geschehen& g) const {
         {druckbar ? ansi_zeichen(static_cast<int>(g.nummer)) : std::to_string(g.nummer), bedeutung(g.wert, unbelegt_)});
 }
 
+std::string hergangsworte::runde_von(const geschehen& g) const {
+    const std::string zeit = dauer(g.wert);
+    return (g.nummer == 0 ? eingesetzt(anlauf_, {zeit})
+                          : eingesetzt(vorlagen_.at(vorgang::runde), {std::to_string(g.nummer), zeit})) +
+           (g.grenze > 0 ? eingesetzt(mit_zeitstrafe_, {dauer(g.grenze)}) : "") + (g.nach_ende ? nach_ende_ : "");
+}
+
 std::string hergangsworte::von(const geschehen& g) const {
     const std::string vorlage = gesucht(vorlagen_, g.was);
     const std::string nummer = std::to_string(g.nummer);
     switch (g.was) {
         case vorgang::runde:
-            return g.nummer == 0 ? eingesetzt(anlauf_, {dauer(g.wert)}) : eingesetzt(vorlage, {nummer, dauer(g.wert)});
+            return runde_von(g);
         case vorgang::sektor:
             return eingesetzt(vorlage, {nummer, dauer(g.wert)});
         case vorgang::abgelehnt:

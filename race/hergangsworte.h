@@ -28,6 +28,7 @@ struct hergangsworte {
 
 private:
     std::string ablehnung_von(const geschehen& g) const;
+    std::string runde_von(const geschehen& g) const;
     std::string taste_von(const geschehen& g) const;
     /// What a row of the key assignment means, or a device's event: they share their numbers. `sonst` for none.
     std::string bedeutung(std::int64_t zeile, const std::string& sonst) const;
@@ -38,7 +39,7 @@ private:
     std::map<int, std::string> befehle_;
     std::map<std::string_view, std::string> bedeutungen_;  ///< by the names of `tastenzeilen`
     std::string bis_, sperre_pause_, anlauf_, abgebrochen_, ohne_strom_, mehrmals_, unbelegt_, runde_wartet_,
-        und_laenger_;
+        und_laenger_, mit_zeitstrafe_, nach_ende_;
 };
 
 }  // namespace tarvel

@@ -134,9 +134,10 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     for (std::size_t i = 0; i < folgen.size(); ++i) {
         texte.text(folgen.at(i), bahn.wort.fruehstart_folgen.at(i));
     }
-    texte.text("in der Pause", bahn.wort.in_der_pause).text("ohne Strom", bahn.wort.noch_ohne_strom);
+    texte.text("zählt nicht", bahn.wort.in_der_pause).text("ohne Strom", bahn.wort.noch_ohne_strom);
     texte.text("Neue Pause erst 2,5 s nach „Weiter“", bahn.wort.pause_gesperrt);
-    return texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
+    texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
+    return texte.text("noch gesperrt", bahn.wort.noch_gesperrt).text("mit Strafe", bahn.wort.mit_strafe);
 }
 
 }  // namespace tarvel

@@ -17,7 +17,7 @@ namespace tarvel {
 enum class vorgang {
     gruen,
     fruehstart,
-    runde,      ///< `nummer` of the lap, its time is `wert`
+    runde,      ///< `nummer` of the lap, its time is `wert`; of it `grenze` is added for the driver's time penalty
     abgelehnt,  ///< `grund()`; `wert` and `grenze` for a crossing that was too fast
     abzug,      ///< `nummer` of laps that are left
     sektor,     ///< `nummer`, its time is `wert`
@@ -65,6 +65,7 @@ struct geschehen {
     std::int64_t wert = 0;
     std::int64_t grenze = 0;
     bool nach_pause = false;  ///< the lock that refused the crossing was the penalty of a pause
+    bool nach_ende = false;   ///< the lap was counted behind the end of the race
     std::string text{};
 
     ablehnung grund() const { return static_cast<ablehnung>(nummer); }

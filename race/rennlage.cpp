@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -189,7 +190,16 @@ bool rennlage::eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const {
 
 bool rennlage::wird_gesagt(ablehnung grund) {
     return grund == ablehnung::zu_schnell || grund == ablehnung::volltanken || grund == ablehnung::vor_dem_start ||
-           grund == ablehnung::pause;
+           grund == ablehnung::pause || grund == ablehnung::sperre;
+}
+
+/// The lap that had waited is shown with the time that its lane stood still.
+bool rennlage::eben_verbuesst(int spur) const {
+    constexpr zeit_ms gesagt_ms = 3000;
+    const spur_zustand& zustand = um_.zustand.spur[spur];
+    return !zustand.tank_strafe_aktiv && zustand.tank_sperre.bis != 0 &&
+           zustand.tank_sperre.von == zustand.gezaehlt_bei && um_.zustand.konto.runden(spur) > 0 &&
+           std::abs(um_.zeit.messzeit_lesen() - zustand.tank_sperre.bis) < gesagt_ms;
 }
 
 /// Of a crossing that did not count, or not yet, only where nothing that the lane is in says it already.
@@ -206,11 +216,17 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
     if (um_.zustand.rennen_beendet || !um_.einst.rennbild.worte) {
         return {};
     }
+    if (eben && letzte.grund == ablehnung::sperre && (was == lage::fruehstart || was == lage::strafe)) {
+        return {spurhinweis::ungezaehlt, letzte.grund};
+    }
     const bool frei = was == lage::faehrt || was == lage::box || was == lage::leer;
     const bool pausiert = was == lage::pause;
     const bool in_ihr = letzte.stempel >= um_.zustand.pause.start;  // what was before it, the pause says enough of
     if (eben && (frei || (pausiert && in_ihr)) && wird_gesagt(letzte.grund)) {
         return {spurhinweis::ungezaehlt, letzte.grund, letzte.zeit};
+    }
+    if (frei && eben_verbuesst(spur)) {
+        return {spurhinweis::runde_wartet, ablehnung::tankstrafe};
     }
     const bool wartet = um_.zustand.spur[spur].ch_durchfahrt && !wartende_zu_kurz(spur);
     return {wartet && (frei || pausiert) ? spurhinweis::runde_wartet : spurhinweis::keiner};
@@ -219,7 +235,10 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
 std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     const bahn1::worte& wort = um_.bahn.wort;
     if (g.was == spurhinweis::runde_wartet) {
-        return wort.runde_wartet;
+        return g.grund == ablehnung::tankstrafe ? wort.mit_strafe : wort.runde_wartet;
+    }
+    if (g.grund == ablehnung::sperre) {
+        return wort.noch_gesperrt;
     }
     if (g.grund == ablehnung::zu_schnell) {
         return wort.zu_kurz + " " + dauer_gesagt(std::max<zeit_ms>(g.zeit, 0), um_.einst.trennzeichen);

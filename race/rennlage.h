@@ -70,6 +70,7 @@ private:
     bool wartende_zu_kurz(int spur) const;
     letzte_ablehnung zuletzt_abgelehnt(int spur) const;
     bool eben_abgelehnt(int spur, const letzte_ablehnung& letzte) const;
+    bool eben_verbuesst(int spur) const;
     static bool wird_gesagt(ablehnung grund);
     hinweisgrund hinweis_von(int spur) const;
     std::string hinweis_gesagt(const hinweisgrund& g) const;

@@ -49,6 +49,8 @@ TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
     EXPECT_EQ(sagt(1), "");
     t.maschine.laufen(3000);
     EXPECT_EQ(sagt(2), "FRÜHSTART") << "drives, and counts nothing yet";
+    t.taste("2");
+    EXPECT_EQ(hinweis(2), "noch gesperrt");
     t.maschine.laufen(6000);
     EXPECT_EQ(sagt(2), "");
     t.rennabbruch();
@@ -129,6 +131,8 @@ TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
     EXPECT_EQ(hinweis(2), "Runde wartet");
     t.maschine.laufen(4000);
     EXPECT_EQ(sagt(2), "LEER") << "has its power back, and no fuel";
+    EXPECT_EQ(hinweis(2), "mit Strafe") << "the lap is shown longer than it was";
+    t.maschine.laufen(3000);
     EXPECT_EQ(hinweis(2), "");
 }
 
@@ -187,14 +191,14 @@ TEST_F(Rennlage, UeberfahrtInDerPauseSagtDassSieNichtZaehlt) {
     t.maschine.laufen(600);
     EXPECT_EQ(hinweis(1), "Runde wartet") << "counts behind the pause";
     rollt('2');
-    EXPECT_EQ(hinweis(2), "in der Pause");
+    EXPECT_EQ(hinweis(2), "zählt nicht");
     EXPECT_EQ(hinweis(3), "");
     t.maschine.laufen(2000);
     EXPECT_EQ(hinweis(2), "") << "said for a moment";
     rollt('3');
     t.bahn().Command3.klicken();
     t.maschine.laufen(1000);
-    EXPECT_EQ(hinweis(3), "in der Pause") << "and as long where the race has gone on";
+    EXPECT_EQ(hinweis(3), "zählt nicht") << "and as long where the race has gone on";
     EXPECT_EQ(hinweis(1), "") << "now it has";
     t.maschine.laufen(1000);
     EXPECT_EQ(hinweis(3), "");

@@ -191,10 +191,14 @@ TEST_F(Wettkampfautomatik, WerEtwasVorSichHatWirdNichtHinausgeworfen) {
     ASSERT_TRUE(abend.rennen_starten());
     t.maschine.laufen(4000);
     runden_fahren(3);
+    t.maschine.laufen(8000);
     t.p.auswertung.Command_protokoll.klicken();
-    t.p.fenster.entladen(fenstername::protokoll);
     t.maschine.laufen(60000);
-    EXPECT_TRUE(offen(fenstername::auswertung)) << "who looks into the log takes over";
+    t.p.fenster.entladen(fenstername::protokoll);
+    t.maschine.laufen(8000);
+    EXPECT_TRUE(offen(fenstername::auswertung)) << "who has looked into the log has his time again";
+    t.maschine.laufen(8000);
+    EXPECT_FALSE(offen(fenstername::auswertung));
     t.p.fenster.anzeigen_auf(nullptr);
 }
 
