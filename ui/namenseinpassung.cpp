@@ -43,6 +43,18 @@ int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten
     return schrift_px;
 }
 
+std::size_t laengste_zeile(const QListView& ansicht, const liste& zeilen) {
+    const auto* modell = static_cast<const ListenModell*>(ansicht.model());
+    const namensspalten& namen = modell->namen();
+    const std::size_t weniger = namen.ab.size() * (namen.breite - modell->namensbreite());
+    std::size_t laengste = 0;
+    for (std::size_t i = 0; i < zeilen.zeilen().size(); ++i) {
+        const std::size_t ganz = laenge(zeilen.zeilen()[i]);
+        laengste = std::max(laengste, ganz - (i < namen.zeilen ? std::min(weniger, ganz) : 0));
+    }
+    return laengste;
+}
+
 QString kopf_einpassen(const QListView& ansicht, const std::string& kopf) {
     const auto* modell = static_cast<const ListenModell*>(ansicht.model());
     const bool schmal = modell->namensbreite() < modell->namen().breite;

@@ -20,6 +20,9 @@ struct zeilenplatz {
 /// names may cost some of the size that short ones have; names that are longer are cut, and whole under the pointer.
 int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten& namen, const zeilenplatz& platz);
 
+/// Characters of its longest row as it is drawn.
+std::size_t laengste_zeile(const QListView& ansicht, const liste& zeilen);
+
 /// The captions over the columns of such a list.
 QString kopf_einpassen(const QListView& ansicht, const std::string& kopf);
 

@@ -293,10 +293,8 @@ void WAuswertung2Fenster::skalieren() {
     schrift.setPixelSize(namen_einpassen(*zeilen_, logik_.auswertung_schoen, logik_.namen(),
                                          {platz, schrift_min_px, schrift_max_px, zeichen_mindestens}));
     const QString kopf = kopf_einpassen(*zeilen_, logik_.Label_kopf.text());
-    qsizetype zeichen = kopf.size();
-    for (int i = 0; i < zeilen_->model()->rowCount(); ++i) {
-        zeichen = std::max(zeichen, zeilen_->model()->index(i, 0).data().toString().size());
-    }
+    const std::size_t zeichen =
+        std::max(static_cast<std::size_t>(kopf.size()), laengste_zeile(*zeilen_, logik_.auswertung_schoen));
     kopf_->setText(kopf);
     kopf_->setSchrift(schrift);
     zeichner_->schrift = schrift;
