@@ -117,17 +117,16 @@ namensspalten rangspalten(const wettkampf& w) {
 }
 
 std::vector<std::string> rangschreiben(const wettkampf& w, sortier_modus wertung,
-                                       const trennzeichen_tabelle& trennzeichen) {
+                                       const trennzeichen_tabelle& trennzeichen, std::size_t namen) {
     constexpr int zweistellig = 10;
     const auto staende = w.staende();
-    const std::size_t breite = rangspalten(w).breite;
     std::vector<std::string> zeilen;
     int rang = 0;
     for (const int platz : fahrer_in_rangfolge(w, wertung)) {
         const fahrt& stand = staende.at(static_cast<std::size_t>(platz - 1)).auf.front();
         ++rang;
         std::string zeile = std::to_string(rang) + (rang >= zweistellig ? ". " : ".  ");
-        zeile += eingepasst(w.name(platz), breite);
+        zeile += aufgefuellt(links(w.name(platz), namen), namen);
         zeile += "   " + aufgefuellt(std::to_string(stand.runden), 6) + aufgefuellt(meter_text(stand.meter), 9);
         zeile += zeit_formatieren(wertung == sortier_modus::beste ? stand.beste : stand.zeit, true, trennzeichen);
         zeilen.push_back(std::move(zeile));
@@ -146,7 +145,8 @@ std::vector<auswertung_zeile> w_auswertung_schreiben(const wettkampf& w, sortier
         const fahrt& gesamt = staende.at(stelle).auf.front();
         auswertung_zeile zeile;
         zeile.platz = gekappt(std::to_string(zeilen.size() + 1) + ".", 4);
-        zeile.name = w.name(platz);
+        zeile.ganzer_name = w.name(platz);
+        zeile.name = gekappt(zeile.ganzer_name, 18);
         zeile.runden = gekappt(std::to_string(gesamt.runden), 8);
         zeile.meter = gekappt(meter_text(gesamt.meter), 8);
         for (const fahrt& eine : einzelne(w, staende.at(stelle), heats.at(stelle))) {

@@ -57,14 +57,8 @@ void rangliste::stand_zeigen() {
     spalten = rangspalten(w);
     Label_kopf.text(kopfzeile());
     List_name.ansage(Label_kopf.text());
-    const auto zeilen = rangschreiben(w, w.wertung, einst_.trennzeichen);
-    if (zeilen == List_name.zeilen()) {
-        return;  // who has scrolled down stays there
-    }
-    List_name.leeren();
-    for (const std::string& zeile : zeilen) {
-        List_name.hinzufuegen(zeile);
-    }
+    List_name.zeilen(rangschreiben(w, w.wertung, einst_.trennzeichen),
+                     rangschreiben(w, w.wertung, einst_.trennzeichen, spalten.breite));
 }
 
 void rangliste::ordnung_gewaehlt() {

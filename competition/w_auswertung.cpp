@@ -8,20 +8,6 @@
 #include "results/papiername.h"
 
 namespace tarvel {
-namespace {
-
-/// Who has scrolled down stays there while nothing changes.
-void fuellen(liste& ziel, const std::vector<std::string>& zeilen) {
-    if (ziel.zeilen() == zeilen) {
-        return;
-    }
-    ziel.leeren();
-    for (const std::string& zeile : zeilen) {
-        ziel.hinzufuegen(zeile);
-    }
-}
-
-}  // namespace
 
 w_auswertung::w_auswertung(const fenster_umgebung& um, const einstellungen& einst, wettkampfabend& abend,
                            urkundenfenster& urkunden)
@@ -130,19 +116,20 @@ void w_auswertung::zeilen_zeigen() {
         fahrer_.empty() ? std::vector<auswertung_zeile>{} : w_auswertung_schreiben(w, w.wertung, einst_.trennzeichen);
     const std::size_t spalten = zeilen.empty() ? 0 : std::min(zeilen.front().je.size(), je_max);
     koepfe_zeigen(spalten);
-    const auto spalte = [&zeilen](liste& ziel, const auto& text) {
+    const auto spalte = [&zeilen](const auto& text) {
         std::vector<std::string> texte(zeilen.size());
         std::transform(zeilen.begin(), zeilen.end(), texte.begin(), text);
-        fuellen(ziel, texte);
+        return texte;
     };
     using z = auswertung_zeile;
-    spalte(List_platz, [](const z& zeile) { return zeile.platz; });
-    spalte(List_name, [](const z& zeile) { return zeile.name; });
-    spalte(List_gesamt, [](const z& zeile) { return zeile.runden + "\n" + zeile.meter + " m"; });
+    List_platz.zeilen(spalte([](const z& zeile) { return zeile.platz; }));
+    List_name.zeilen(spalte([](const z& zeile) { return zeile.name; }),
+                     spalte([](const z& zeile) { return zeile.ganzer_name; }));
+    List_gesamt.zeilen(spalte([](const z& zeile) { return zeile.runden + "\n" + zeile.meter + " m"; }));
     for (std::size_t i = 0; i < spalten; ++i) {
-        spalte(List_je[i], [i](const z& zeile) { return zeile.je[i].runden + "\n" + zeile.je[i].beste; });
+        List_je[i].zeilen(spalte([i](const z& zeile) { return zeile.je[i].runden + "\n" + zeile.je[i].beste; }));
     }
-    spalte(List_zeit, [](const z& zeile) { return zeile.gesamtzeit; });
+    List_zeit.zeilen(spalte([](const z& zeile) { return zeile.gesamtzeit; }));
 }
 
 void w_auswertung::balken_zeigen() {
@@ -159,7 +146,7 @@ void w_auswertung::balken_zeigen() {
         }
         zeilen.push_back(ansage + blattwort_.gesamt + ": " + std::to_string(einer.gesamt));
     }
-    fuellen(List_balken, zeilen);
+    List_balken.zeilen(zeilen);
 }
 
 void w_auswertung::auswaehlen(int zeile) {

@@ -107,6 +107,17 @@ void auswahl::waehlen(int neu) {
     }
 }
 
+void liste::zeilen(std::vector<std::string> neu, std::vector<std::string> gezeigt) {
+    if (neu == zeilen_ && gezeigt == gezeigt_) {
+        return;
+    }
+    zeilen_ = std::move(neu);
+    gezeigt_ = std::move(gezeigt);
+    markiert_ = -1;
+    ++stand_;
+    melden();
+}
+
 void liste::hinzufuegen(std::string_view zeile) {
     zeilen_.emplace_back(zeile);
     melden();
@@ -117,6 +128,7 @@ void liste::leeren() {
         return;
     }
     zeilen_.clear();
+    gezeigt_.clear();
     markiert_ = -1;
     ++stand_;
     melden();
@@ -127,6 +139,7 @@ void liste::letzte_entfernen() {
         return;
     }
     zeilen_.pop_back();
+    gezeigt_.resize(std::min(gezeigt_.size(), zeilen_.size()));
     markiert_ = std::min(markiert_, static_cast<int>(zeilen_.size()) - 1);
     ++stand_;
     melden();

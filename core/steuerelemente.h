@@ -201,6 +201,12 @@ private:
 class liste : public steuerelement {
 public:
     const std::vector<std::string>& zeilen() const { return zeilen_; }
+    /// All at once; nothing happens if they are the same. `gezeigt` has whole what the rows themselves hold cut.
+    void zeilen(std::vector<std::string> neu, std::vector<std::string> gezeigt = {});
+    /// What is drawn for the row, counted from 0.
+    const std::string& gezeigt(std::size_t zeile) const {
+        return zeile < gezeigt_.size() ? gezeigt_[zeile] : zeilen_[zeile];
+    }
     void hinzufuegen(std::string_view zeile);
     void leeren();
     void letzte_entfernen();
@@ -222,6 +228,7 @@ public:
 
 private:
     std::vector<std::string> zeilen_;
+    std::vector<std::string> gezeigt_;  ///< of the first rows, the others show themselves
     int markiert_ = -1;
     unsigned stand_ = 0;
 };

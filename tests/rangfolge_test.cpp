@@ -68,15 +68,17 @@ TEST(Rangfolge, ListeZeilenUndBalken) {
     w.naechstes_offenes_rennen();
     w.ergebnis_eintragen({{fahrt{1, 9000, 1050, 7999}}});
     EXPECT_EQ(rangschreiben(w, sortier_modus::meter, trennzeichen_standard),
-              (std::vector<std::string>{"1.  Fahrer 2              3     31,50    00:24,000",
-                                        "2.  Käthe Meyer-Schulze   3     31,50    00:25,000",
-                                        "3.  Fahrer 3              1     10,50    00:09,000"}))
+              (std::vector<std::string>{"1.  Fahrer 2          3     31,50    00:24,000",
+                                        "2.  Käthe Meyer-Sch   3     31,50    00:25,000",
+                                        "3.  Fahrer 3          1     10,50    00:09,000"}))
         << "and no filler";
     EXPECT_EQ(rangschreiben(w, sortier_modus::beste, trennzeichen_standard).front(),
-              "1.  Fahrer 3              1     10,50    00:07,999");
+              "1.  Fahrer 3          1     10,50    00:07,999");
+    EXPECT_EQ(rangschreiben(w, sortier_modus::meter, trennzeichen_standard, rangspalten(w).breite).at(1),
+              "2.  Käthe Meyer-Schulze   3     31,50    00:25,000");
     const auto zeilen = w_auswertung_schreiben(w, sortier_modus::runden, trennzeichen_standard);
     ASSERT_EQ(zeilen.size(), 3U);
-    EXPECT_EQ(zeilen[1].name, "Käthe Meyer-Schulze");
+    EXPECT_EQ(zeilen[1].name + ", " + zeilen[1].ganzer_name, "Käthe Meyer-Schulz, Käthe Meyer-Schulze");
     EXPECT_EQ(zeilen[1].platz + zeilen[1].runden + zeilen[1].meter, "2.331,50");
     EXPECT_EQ(zeilen[0].je.at(1).runden + " " + zeilen[0].je.at(1).beste, "3 00:08,000");
     EXPECT_EQ(balken(w, sortier_modus::meter).at(1).runden[1], 3);

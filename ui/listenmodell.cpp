@@ -10,7 +10,7 @@ QVariant ListenModell::data(const QModelIndex& zeile, int rolle) const {
     if (rolle == Qt::TextAlignmentRole) {
         return static_cast<int>(ausrichtung_);
     }
-    const std::string& ganze = quelle_.zeilen()[nummer];
+    const std::string& ganze = quelle_.gezeigt(nummer);
     const bool schmal = breite_ < namen_.breite && nummer < namen_.zeilen;
     switch (rolle) {
         case Qt::DisplayRole:

@@ -26,7 +26,7 @@ int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten
     std::size_t andere = platz.mindestens;
     for (std::size_t i = 0; i < zeilen.zeilen().size(); ++i) {
         std::size_t& laengste = i < namen.zeilen ? ganz : andere;
-        laengste = std::max(laengste, laenge(zeilen.zeilen()[i]));
+        laengste = std::max(laengste, laenge(zeilen.gezeigt(i)));
     }
     const std::size_t weniger = namen.ab.size() * (namen.breite - std::min(namen.mindestens, namen.breite));
     const std::size_t schmal = std::max(andere, ganz - std::min(weniger, ganz));
@@ -49,7 +49,7 @@ std::size_t laengste_zeile(const QListView& ansicht, const liste& zeilen) {
     const std::size_t weniger = namen.ab.size() * (namen.breite - modell->namensbreite());
     std::size_t laengste = 0;
     for (std::size_t i = 0; i < zeilen.zeilen().size(); ++i) {
-        const std::size_t ganz = laenge(zeilen.zeilen()[i]);
+        const std::size_t ganz = laenge(zeilen.gezeigt(i));
         laengste = std::max(laengste, ganz - (i < namen.zeilen ? std::min(weniger, ganz) : 0));
     }
     return laengste;
