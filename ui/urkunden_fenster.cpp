@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/stil.h"
 
@@ -80,6 +81,7 @@ QWidget* UrkundenFenster::fahrerfeld() {
     QListView* liste = binder().listenfeld(logik_.fahrer, "fahrer");
     liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     liste->setMinimumWidth(spalte_links - 2 * kasten_px);
+    liste_ = liste;
     aufbau->addWidget(liste, 1);
     auto* unten = new QHBoxLayout;
     unten->addWidget(binder().kasten(logik_.dabei, "dabei"), 1);
@@ -102,6 +104,12 @@ void UrkundenFenster::aufschlagen() {
         resize(spalte_links + 80 + hoch * 5 / 7, hoch);
     }
     Fenster::aufschlagen();
+}
+
+/// Names have a quarter of a large window.
+void UrkundenFenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    liste_->setMinimumWidth(std::max(spalte_links, width() / 4) - 2 * kasten_px);
 }
 
 blattseiten UrkundenFenster::seiten() const {

@@ -13,6 +13,9 @@ public:
 
     void aufschlagen() override;
 
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
     QLayout* eingaben();
     QWidget* fahrerfeld();
@@ -22,6 +25,7 @@ private:
 
     urkundenfenster& logik_;
     const dateien& ablage_;
+    QListView* liste_ = nullptr;
     Urkundenbild* bild_ = nullptr;
 };
 
