@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/eingabefelder.h"
 #include "ui/stil.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int feldbreite = 74;
 constexpr int listenbreite = 240;
+constexpr QMargins inhaltsrand(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
 
@@ -42,6 +44,7 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     aufbau->setSpacing(0);
 
     auto* kopf = new Streckenbild(this);
+    kopf_ = kopf;
     binder().verbinden(logik.startbild, kopf, "startbild", {});
     kopf->setMinimumHeight(84);
     auto* unterzeile = new QWidget(this);
@@ -64,7 +67,8 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     auto* flaeche = new QWidget(this);
     binder().verbinden(logik.inhalt, flaeche, "inhalt", {});
     auto* inhalt = new QVBoxLayout(flaeche);
-    inhalt->setContentsMargins(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
+    inhalt_ = inhalt;
+    inhalt_->setContentsMargins(inhaltsrand);
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
     auto* spuren = new QGridLayout;
@@ -86,6 +90,13 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     auto* hilfe = new QShortcut(Qt::Key_F1, this);
     QObject::connect(hilfe, &QShortcut::activated, this, [this] { logik_.taste_F1(); });
     resize(980, 700);
+}
+
+void Form1Fenster::resizeEvent(QResizeEvent* ereignis) {
+    constexpr int kopfhoehe = 310;  // of a large screen; a larger one has better use for its height
+    Fenster::resizeEvent(ereignis);
+    kopf_->setMaximumHeight(std::max(kopfhoehe, height() * 15 / 100));
+    inhalt_->setContentsMargins(stil::zusammenhaltend(size(), inhaltsrand));
 }
 
 QWidget* Form1Fenster::wartehinweis() {

@@ -14,6 +14,9 @@ class Form1Fenster : public Fenster {
 public:
     Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltung& verwaltung);
 
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
     QWidget* wartehinweis();
     QWidget* rennen_gruppe();
@@ -32,6 +35,8 @@ private:
 
     form1& logik_;
     const dateien& ablage_;
+    QWidget* kopf_ = nullptr;    ///< the picture above all
+    QLayout* inhalt_ = nullptr;  ///< of all below it
     Spurzeilen* spurzeilen_ = nullptr;
     std::vector<QWidget*> weichen_der_liste_;
 };

@@ -6,6 +6,7 @@
 #include <QSettings>
 #endif
 #include <QStyleFactory>
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -194,6 +195,12 @@ const farbsatz& auf_dem_schirm() {
 
 const farbsatz& auf_papier() {
     return helle_farben;
+}
+
+QMargins zusammenhaltend(const QSize& fenster, const QMargins& rand) {
+    constexpr QSize genug(1920, 1200);
+    const int seite = std::max(fenster.width() - genug.width(), 0) / 2;
+    return rand + QMargins(seite, 0, seite, std::max(fenster.height() - genug.height(), 0));
 }
 
 QLabel* leise(QLabel* label) {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMargins>
 #include <QPushButton>
+#include <QSize>
 #include <initializer_list>
 
 #include "core/erscheinung.h"
@@ -42,6 +43,9 @@ void anwenden(QApplication& anwendung);
 /// All windows anew in these colours.
 void faerben(aussehen wie);
 
+/// These margins, and beyond a large screen's size more at the right, the left and below: what belongs together stays
+/// so.
+QMargins zusammenhaltend(const QSize& fenster, const QMargins& rand);
 /// A caption or a unit that stands back behind what it belongs to. Before the label is shown.
 QLabel* leise(QLabel* label);
 /// A command that ends or leaves its window: all of these have one size.

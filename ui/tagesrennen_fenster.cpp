@@ -174,6 +174,7 @@ QWidget* TagesrennenFenster::listengruppe() {
 
 void TagesrennenFenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
+    layout()->setContentsMargins(stil::zusammenhaltend(size(), stil::fensterrand));
     layout()->activate();  // the lines go by the room that this leaves
     skalieren();
 }
