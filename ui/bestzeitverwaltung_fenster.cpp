@@ -1,6 +1,7 @@
 #include "ui/bestzeitverwaltung_fenster.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -15,7 +16,8 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int spalten_anzahl = 3;
-constexpr int schrift_liste_px = 13;
+constexpr int schrift_min_px = 13;
+constexpr double schrift_max_px = 44;
 constexpr int zeilenrand_px = 32;  // beside the columns, with the bar that scrolls
 constexpr int breite_max = 1460;   // of the window: names are whole
 constexpr int knopfhoehe = 36;
@@ -109,13 +111,8 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
     kopf->addWidget(titel, 1);
     aufbau->addLayout(kopf);
     QListView* zeilen = binder().listenfeld(logik_.bestefile_list.at(i), "bestefile_list_" + QString::number(i));
-    const QString schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    zeilen->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
-                                  "QListView::item { padding: 0px 3px; }")                        // each other
-                              .arg(schrift)
-                              .arg(schrift_liste_px));
     listen_.at(i) = zeilen;
-    QObject::connect(zeilen->model(), &QAbstractItemModel::modelReset, this, [this, i] { einpassen(i); });
+    QObject::connect(zeilen->model(), &QAbstractItemModel::modelReset, this, [this] { einpassen(); });
     zeilen->installEventFilter(this);
     aufbau->addWidget(zeilen, 1);
     return feld;
@@ -123,19 +120,42 @@ QWidget* BestzeitverwaltungFenster::spurliste(int spur) {
 
 /// The lists get their width when the window is laid out, which is behind the window's own change of size.
 bool BestzeitverwaltungFenster::eventFilter(QObject* wer, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::Resize) {
-        for (std::size_t i = 0; i < listen_.size(); ++i) {
-            if (listen_[i] == wer) {
-                einpassen(i);
-            }
-        }
+    if (ereignis->type() == QEvent::Resize && std::find(listen_.begin(), listen_.end(), wer) != listen_.end()) {
+        einpassen();
     }
     return Fenster::eventFilter(wer, ereignis);
 }
 
-void BestzeitverwaltungFenster::einpassen(std::size_t i) {
-    namen_einpassen(*listen_.at(i), logik_.bestefile_list.at(i), logik_.namen.at(i),
-                    {static_cast<double>(listen_.at(i)->width() - zeilenrand_px), schrift_liste_px, schrift_liste_px});
+/// All lists have letters of one size: as large as there is room for the rows, and for their names.
+void BestzeitverwaltungFenster::einpassen() {
+    std::size_t reihen = 1;
+    for (const liste& eine : logik_.bestefile_list) {
+        reihen = std::max(reihen, eine.zeilen().size());
+    }
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    schrift.setPixelSize(100);
+    const double je_px = QFontMetricsF(schrift).height() / schrift.pixelSize();
+    const double hoehe = listen_.front()->height() / (je_px * static_cast<double>(reihen + 1));
+    const auto groesse = [this](double mindestens, double hoechstens) {
+        int px = static_cast<int>(hoechstens);
+        for (std::size_t i = 0; i < listen_.size(); ++i) {
+            const double breite = listen_.at(i)->width() - zeilenrand_px;
+            px = std::min(px, namen_einpassen(*listen_.at(i), logik_.bestefile_list.at(i), logik_.namen.at(i),
+                                              {breite, mindestens, hoechstens}));
+        }
+        return px;
+    };
+    const int px = groesse(schrift_min_px, std::clamp<double>(hoehe, schrift_min_px, schrift_max_px));
+    groesse(px, px);
+    const QString regel = QString("QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
+                                  "QListView::item { padding: 0px 3px; }")                        // each other
+                              .arg(schrift.family())
+                              .arg(px);
+    for (QListView* zeilen : listen_) {
+        if (zeilen->styleSheet() != regel) {
+            zeilen->setStyleSheet(regel);
+        }
+    }
 }
 
 void BestzeitverwaltungFenster::aufschlagen() {

@@ -20,7 +20,7 @@ private:
     QWidget* moduszeile();
     QWidget* spurliste(int spur);
     QWidget* korrektur();
-    void einpassen(std::size_t i);
+    void einpassen();
 
     beste_zeiten_verwaltung& logik_;
     std::array<QListView*, spuren_max> listen_{};
