@@ -172,7 +172,8 @@ void doppelspalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, dou
     zuschnitt mit_tafel = rechts;
     const double zeiten = 0.35 * h;
     if (inhalt.fahrzeugbild) {
-        g[t::Image2].ort = rechts.oben(0.65 * kopf);
+        const double zeile = 1.3 * ganzes.lesbar_px;  // of the list below, which is not to be cut to nothing
+        g[t::Image2].ort = rechts.oben(std::min(0.65 * kopf, rechts.rest().hoehe - zeiten - zeile - 2 * luecke));
     }
     zeiten_stapeln(inhalt, rechts.oben(zeiten), ganzes.lesbar_px, g);
     g[t::t_liste].ort = rechts.rest();
