@@ -59,7 +59,7 @@ QWidget* AmpelFenster::lampenkasten(std::span<bild> lampen, int je_reihe, const 
 }
 
 int AmpelFenster::schrift_px(int kante) {
-    return std::clamp(kante / 5, 14, 80);
+    return std::max(kante / 5, 14);
 }
 
 int AmpelFenster::reihen() const {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "race/spurgeometrie.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -58,17 +59,17 @@ void Uhranzeige::anordnen() {
     for (const Teil& t : teile_) {
         breite_em += em(t);
     }
-    constexpr int titel_min_px = 20;
-    const int titel = std::min(std::max(height() * 19 / 100, titel_min_px), height() / 3);
-    const int px = std::min(schrift_px_, static_cast<int>(width() / breite_em));
-    const int hoehe = std::min(px, height() - titel);
-    const int oben = (height() - titel - hoehe) / 2;
+    const int lesbar = lesbar_px(window()->height());
+    const int titel = std::min(std::max(height() * 19 / 100, lesbar + 2), height() / 3);
+    const int hoehe_max = height() - titel;  // with the comma: below it may be the title of another clock
+    const int px = std::min({schrift_px_, static_cast<int>(width() / breite_em), hoehe_max});
+    const int oben = (height() - titel - px) / 2;
     titel_->setGeometry(0, oben, width(), titel);
-    titel_->setSchriftPx(titel * 95 / 100);
+    titel_->setSchriftPx(std::min(std::max(titel * 95 / 100, lesbar), titel));
     double x = (width() - breite_em * px) / 2;
     for (const Teil& t : teile_) {
         const double breite = em(t) * px;
-        t.anzeige->setGeometry(static_cast<int>(x), oben + titel, static_cast<int>(std::ceil(breite)), hoehe);
+        t.anzeige->setGeometry(static_cast<int>(x), oben + titel, static_cast<int>(std::ceil(breite)), px);
         t.anzeige->setSchriftPx(px);
         x += breite;
     }

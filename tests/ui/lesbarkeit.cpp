@@ -1,6 +1,7 @@
 #include "tests/ui/lesbarkeit.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
@@ -23,6 +24,9 @@ int schrifthoehe(const QWidget& widget) {
         dynamic_cast<const ui::Tankbalken*>(&widget) != nullptr || qobject_cast<const QCheckBox*>(&widget) != nullptr) {
         return widget.height();
     }
+    if (const auto* text = qobject_cast<const QLabel*>(&widget)) {
+        return text->text().isEmpty() ? nichts_zu_lesen : text->font().pixelSize();
+    }
     const bool mit_schrift = qobject_cast<const QListView*>(&widget) != nullptr ||
                              qobject_cast<const QLineEdit*>(&widget) != nullptr ||
                              qobject_cast<const QPushButton*>(&widget) != nullptr;
@@ -31,15 +35,15 @@ int schrifthoehe(const QWidget& widget) {
 
 }  // namespace
 
-QStringList zu_niedrige_schriften(const QWidget& rennfenster) {
+QStringList zu_niedrige_schriften(const QWidget& fenster, int hoehe_des_rennens) {
     constexpr int teil = 45;
     QStringList alle;
-    for (const QWidget* widget : rennfenster.findChildren<QWidget*>()) {
+    for (const QWidget* widget : fenster.findChildren<QWidget*>()) {
         const int hoehe = schrifthoehe(*widget);
         const bool zaehlt_im_rennen = widget->objectName() != "bahn1.werbe_label";
-        if (zaehlt_im_rennen && widget->window() == &rennfenster && widget->isVisible() && !widget->size().isEmpty() &&
-            teil * hoehe < rennfenster.height()) {
-            alle << QString("%1 is %2 high in %3").arg(widget->objectName()).arg(hoehe).arg(rennfenster.height());
+        if (zaehlt_im_rennen && widget->window() == &fenster && widget->isVisible() && !widget->size().isEmpty() &&
+            teil * hoehe < hoehe_des_rennens) {
+            alle << QString("%1 is %2 high in %3").arg(widget->objectName()).arg(hoehe).arg(hoehe_des_rennens);
         }
     }
     return alle;

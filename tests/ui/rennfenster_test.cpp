@@ -105,7 +105,7 @@ TEST_F(Rennfenster, NichtsWasImRennenZaehltIstZuKleinZumLesen) {
     t.p.form1.fahrer[3].eingeben("Maximilian-Alexander Oberstaufenbacher");
     const auto pruefen = [&](const char* wann) {
         groesse(1280, 800);
-        for (const QString& text : test::zu_niedrige_schriften(o.bahn1)) {
+        for (const QString& text : test::zu_niedrige_schriften(o.bahn1, o.bahn1.height())) {
             ADD_FAILURE() << wann << ": " << text.toStdString();
         }
     };

@@ -3,8 +3,8 @@
 // With weiss the race is driven on a white screen.
 // A size is written as 1024x768; without one, each scene is drawn in all of the usual ones. Without scenes, all.
 // A window that is as large as it wants to be opens on a screen of the first of these sizes.
-// Tells of each text that has no room, of widgets on top of one another, of a window that is larger than the size and,
-// at 1280x800, of what the race window shows too low to be read; and then ends in 1.
+// Tells of each text that has no room, of widgets on top of one another, of a window that is larger than the size and
+// from 1280x800 on of what the race window and its light show too low to be read; and then ends in 1.
 
 #include <QApplication>
 #include <QPainter>
@@ -25,7 +25,14 @@ namespace tarvel {
 namespace {
 
 const std::vector<QSize> uebliche_groessen{{1024, 768}, {1280, 800}, {1920, 1080}, {3840, 2160}};
-constexpr QSize rennbildschirm(1280, 800);  ///< on this one the letters of the race window are measured
+constexpr QSize rennbildschirm(1280, 800);  ///< from this one on the letters of the race window are measured
+
+/// Those that stand in front of the race.
+std::vector<ui::Fenster*> lichter(buehne& b) {
+    std::vector<ui::Fenster*> alle{&b.o.form2, &b.o.k_ampel};
+    std::erase_if(alle, [](const ui::Fenster* ampel) { return !ampel->isVisible(); });
+    return alle;
+}
 
 struct Auftrag {
     QString ordner;
@@ -38,20 +45,21 @@ struct Auftrag {
 /// The window, and the light that stands in front of it.
 QPixmap aufnehmen(buehne& b, QWidget& fenster) {
     QPixmap bild = fenster.grab();
-    for (ui::Fenster* ampel : {static_cast<ui::Fenster*>(&b.o.form2), static_cast<ui::Fenster*>(&b.o.k_ampel)}) {
-        if (&fenster == &b.o.bahn1 && ampel->isVisible()) {
-            ampel->aufschlagen();  // again, for the window has another size now
-            QPainter(&bild).drawPixmap(ampel->pos() - fenster.pos(), ampel->grab());
-        }
+    for (ui::Fenster* ampel : &fenster == &b.o.bahn1 ? lichter(b) : std::vector<ui::Fenster*>()) {
+        ampel->aufschlagen();  // again, for the window has another size now
+        QPainter(&bild).drawPixmap(ampel->pos() - fenster.pos(), ampel->grab());
     }
     return bild;
 }
 
 /// What is wrong with it is told.
-bool pruefen(const QWidget& fenster, const QString& szene, const QSize& groesse) {
+bool pruefen(buehne& b, const QWidget& fenster, const QString& szene, const QSize& groesse) {
     QStringList fehler = test::beschnittene_texte(fenster) + test::ueberdeckte_widgets(fenster);
-    if (groesse == rennbildschirm && fenster.objectName() == "bahn1") {
-        fehler += test::zu_niedrige_schriften(fenster);
+    if (&fenster == &b.o.bahn1 && groesse.height() >= rennbildschirm.height()) {
+        fehler += test::zu_niedrige_schriften(fenster, fenster.height());
+        for (const QWidget* ampel : lichter(b)) {
+            fehler += test::beschnittene_texte(*ampel) + test::zu_niedrige_schriften(*ampel, fenster.height());
+        }
     }
     if (fenster.width() > groesse.width() || fenster.height() > groesse.height()) {
         fehler << QString("larger: %1x%2").arg(fenster.width()).arg(fenster.height());
@@ -81,7 +89,7 @@ bool zeichnen(const szeneneintrag& gewuenscht, const Auftrag& a) {
         const QString datei = a.ordner + "/" + gewuenscht.name +
                               (gewuenscht.eigene_groesse || groessen.size() == 1 ? QString() : "_" + masse) + ".png";
         gut = aufnehmen(b, fenster).save(datei) && gut;
-        gut = pruefen(fenster, gewuenscht.name + QString(" ") + masse,
+        gut = pruefen(b, fenster, gewuenscht.name + QString(" ") + masse,
                       gewuenscht.eigene_groesse ? fenster.size() : groesse) &&
               gut;
     }
