@@ -25,18 +25,18 @@ constexpr double name_anteil = 0.24;
 constexpr double schrift_anteil_max = 0.021;  // of the width
 constexpr double zahl_anteil = 0.095;
 constexpr double striche = 6;
-const QColor vergleichsstreifen{247, 248, 250};
-const QColor kasten{228, 196, 199};
 
 class Vergleichszeichnung {
 public:
-    Vergleichszeichnung(QPainter& maler, const QRectF& flaeche, const vergleichsbild_inhalt& inhalt, double zeile)
-        : maler_(maler), f_(flaeche), i_(inhalt), zeile_(zeile) {
+    Vergleichszeichnung(QPainter& maler, const QRectF& flaeche, const vergleichsbild_inhalt& inhalt, double zeile,
+                        const stil::farbsatz& farben)
+        : maler_(maler), f_(flaeche), i_(inhalt), zeile_(zeile), farben_(farben) {
         zahl_breite_ = f_.width() * zahl_anteil;
         const double links = f_.left() + f_.width() * name_anteil;
         feld_ = QRectF(QPointF(links + zeile_ / 2, f_.top() + kopfzeilen * zeile_),
                        QPointF(f_.right() - 4 * zahl_breite_ - zeile_ / 2, f_.bottom() - achszeilen * zeile_));
         skala_messen();
+        namen_messen();
     }
 
     void zeichnen(std::size_t von) {
@@ -46,7 +46,7 @@ public:
         koepfe();
         for (std::size_t n = von; n < bis; ++n) {
             if ((n - von) % 2 == 1) {
-                maler_.fillRect(QRectF(f_.left(), oben(n - von), f_.width(), zeile_), vergleichsstreifen);
+                maler_.fillRect(QRectF(f_.left(), oben(n - von), f_.width(), zeile_), farben_.streifen);
             }
         }
         achse();
@@ -80,29 +80,63 @@ private:
                   {std::min(zeile_ * groesse, f_.width() * schrift_anteil_max), fett, farbe});
     }
 
-    /// A long one takes two lines, for its letters would be too small in one.
-    void name(const QRectF& feld, const QString& inhalt) {
+    /// Of the number before a name.
+    double nummer_em() const {
+        constexpr std::size_t zweistellig = 10;
+        return i_.fahrer.size() < zweistellig ? 1.5 : 2.2;
+    }
+
+    double namensbreite() const { return f_.width() * name_anteil - zeile_ * 0.2 - nummer_em() * name_px_; }
+
+    /// All names have one size. Where it is too large for one of them, that takes two lines, for its letters would be
+    /// too small in one.
+    void namen_messen() {
         constexpr double einzeilig = 0.46;
         constexpr double zweizeilig = 0.38;
         const double px = std::min(zeile_ * einzeilig, f_.width() * schrift_anteil_max);
+        name_px_ = px;
+        for (const fahrerstreuung& fahrer : i_.fahrer) {
+            const QStringList zeilen = namenszeilen(QString::fromStdString(fahrer.name), px);
+            double passend = zeilen.size() > 1 ? std::min(px, zeile_ * zweizeilig) : px;
+            for (const QString& zeile : zeilen) {
+                passend = std::min<double>(passend,
+                                           eingepasst(schrift_mit(passend, true), zeile, namensbreite()).pixelSize());
+            }
+            name_px_ = std::min(name_px_, passend);
+        }
+    }
+
+    QStringList namenszeilen(const QString& ganz, double px) const {
         const QFontMetricsF masse(schrift_mit(px, true));
-        if (masse.horizontalAdvance(inhalt) <= feld.width()) {
-            blatttext(maler_, feld, Qt::AlignLeft, inhalt, {px, true, stil::schrift});
-            return;
-        }
-        const QStringList zeilen = umbrochen(inhalt, masse, 2).split('\n');
-        double passend = std::min(px, zeile_ * zweizeilig);
-        for (const QString& zeile : zeilen) {
-            passend =
-                std::min<double>(passend, eingepasst(schrift_mit(passend, true), zeile, feld.width()).pixelSize());
-        }
-        const double hoehe = 1.1 * passend;
+        return masse.horizontalAdvance(ganz) <= namensbreite() ? QStringList(ganz)
+                                                               : umbrochen(ganz, masse, 2).split('\n');
+    }
+
+    /// The second line of a long one begins below the name, not below its number.
+    void name(const QRectF& feld, std::size_t nummer, const QString& ganz) {
+        const blattschrift art{name_px_, true, farben_.schrift};
+        const QStringList zeilen = namenszeilen(ganz, name_px_);
+        const double hoehe = 1.1 * name_px_;
         double y = feld.center().y() - hoehe * static_cast<double>(zeilen.size()) / 2;
+        blatttext(maler_, {feld.left(), y, nummer_em() * name_px_, hoehe}, Qt::AlignLeft, QString::number(nummer) + ".",
+                  art);
         for (const QString& zeile : zeilen) {
-            blatttext(maler_, {feld.left(), y, feld.width(), hoehe}, Qt::AlignLeft, zeile,
-                      {passend, true, stil::schrift});
+            blatttext(maler_, {feld.left() + nummer_em() * name_px_, y, namensbreite(), hoehe}, Qt::AlignLeft, zeile,
+                      art);
             y += hoehe;
         }
+    }
+
+    /// The accent, faint.
+    QColor kastenfarbe() const {
+        constexpr double anteil = 0.3;
+        const auto gemischt = [](int vorn, int hinten) {
+            return static_cast<int>(std::lround(anteil * vorn + (1 - anteil) * hinten));
+        };
+        const QColor& vorn = farben_.akzent;
+        const QColor& hinten = farben_.karte;
+        return {gemischt(vorn.red(), hinten.red()), gemischt(vorn.green(), hinten.green()),
+                gemischt(vorn.blue(), hinten.blue())};
     }
 
     QRectF zahlfeld(int spalte, double y) const {
@@ -113,39 +147,39 @@ private:
         const std::array<QString, 4> worte{i_.beste, i_.median, i_.streuung, i_.zeiten};
         for (int spalte = 0; spalte < 4; ++spalte) {
             text(zahlfeld(spalte, f_.top() + 0.1 * zeile_), Qt::AlignRight, worte.at(static_cast<std::size_t>(spalte)),
-                 false, stil::schrift_leise, 0.4);
+                 false, farben_.schrift_leise, 0.4);
         }
     }
 
     void achse() {
         const QLocale sprache = i_.trennzeichen[1] == "." ? QLocale::c() : QLocale(QLocale::German);
         const int stellen = schritt_ < 10 ? 3 : schritt_ < 100 ? 2 : schritt_ < 1000 ? 1 : 0;
-        maler_.setPen(QPen(stil::linie, std::max(1.0, zeile_ / 34)));
+        maler_.setPen(QPen(farben_.linie, std::max(1.0, zeile_ / 34)));
         const int anzahl = static_cast<int>(std::lround((bis_ - von_) / schritt_));
         for (int i = 0; i <= anzahl; ++i) {
             const double wert = von_ + i * schritt_;
             const double hier = x(wert);
-            maler_.setPen(QPen(stil::linie, std::max(1.0, zeile_ / 34)));
+            maler_.setPen(QPen(farben_.linie, std::max(1.0, zeile_ / 34)));
             maler_.drawLine(QPointF(hier, feld_.top()), QPointF(hier, feld_.bottom() + zeile_ * 0.15));
             text({hier - 2 * zeile_, feld_.bottom() + zeile_ * 0.15, 4 * zeile_, zeile_ * 0.7}, Qt::AlignHCenter,
-                 sprache.toString(wert / 1000, 'f', stellen), false, stil::schrift_leise, 0.4);
+                 sprache.toString(wert / 1000, 'f', stellen), false, farben_.schrift_leise, 0.4);
         }
         const double halb = feld_.center().x() - f_.left();  // as wide as it can be in the middle of the axis
         text({f_.left(), feld_.bottom() + zeile_ * 0.75, 2 * halb, zeile_ * 0.8}, Qt::AlignHCenter, i_.achse, false,
-             stil::schrift_leise, 0.4);
+             farben_.schrift_leise, 0.4);
     }
 
     void zeile(const fahrerstreuung& fahrer, double y, std::size_t nummer) {
-        name({f_.left() + zeile_ * 0.2, y, f_.width() * name_anteil - zeile_ * 0.2, zeile_},
-             QString::number(nummer + 1) + ".  " + QString::fromStdString(fahrer.name));
+        name({f_.left() + zeile_ * 0.2, y, f_.width() * name_anteil - zeile_ * 0.2, zeile_}, nummer + 1,
+             QString::fromStdString(fahrer.name));
         marke(fahrer, y);
         const auto zeit = [this](zeit_ms dauer) {
             return QString::fromStdString(zeit_formatieren(dauer, dauer >= 60000, i_.trennzeichen));
         };
-        text(zahlfeld(0, y), Qt::AlignRight, zeit(fahrer.beste), true, stil::schrift);
-        text(zahlfeld(1, y), Qt::AlignRight, zeit(fahrer.median), true, stil::schrift);
-        text(zahlfeld(2, y), Qt::AlignRight, zeit(fahrer.streuung()), false, stil::schrift);
-        text(zahlfeld(3, y), Qt::AlignRight, QString::number(fahrer.anzahl), false, stil::schrift_leise);
+        text(zahlfeld(0, y), Qt::AlignRight, zeit(fahrer.beste), true, farben_.schrift);
+        text(zahlfeld(1, y), Qt::AlignRight, zeit(fahrer.median), true, farben_.schrift);
+        text(zahlfeld(2, y), Qt::AlignRight, zeit(fahrer.streuung()), false, farben_.schrift);
+        text(zahlfeld(3, y), Qt::AlignRight, QString::number(fahrer.anzahl), false, farben_.schrift_leise);
     }
 
     void marke(const fahrerstreuung& fahrer, double y) {
@@ -153,16 +187,16 @@ private:
         const double halb = zeile_ * 0.26;
         const double strich = std::max(1.5, zeile_ / 17);
         const auto wo = [this](zeit_ms zeit) { return x(static_cast<double>(zeit)); };
-        maler_.setPen(QPen(stil::schrift_leise, strich * 0.7));
+        maler_.setPen(QPen(farben_.schrift_leise, strich * 0.7));
         maler_.drawLine(QPointF(wo(fahrer.beste), mitte), QPointF(wo(fahrer.laengste_uebliche), mitte));
         for (const zeit_ms ende : {fahrer.beste, fahrer.laengste_uebliche}) {
             maler_.drawLine(QPointF(wo(ende), mitte - halb / 2), QPointF(wo(ende), mitte + halb / 2));
         }
         const QRectF haelfte(QPointF(wo(fahrer.viertel), mitte - halb), QPointF(wo(fahrer.dreiviertel), mitte + halb));
-        maler_.setPen(QPen(stil::akzent, strich * 0.5));
-        maler_.setBrush(kasten);
+        maler_.setPen(QPen(farben_.akzent, strich * 0.5));
+        maler_.setBrush(kastenfarbe());
         maler_.drawRect(haelfte);
-        maler_.setPen(QPen(stil::akzent, strich * 1.6, Qt::SolidLine, Qt::FlatCap));
+        maler_.setPen(QPen(farben_.akzent, strich * 1.6, Qt::SolidLine, Qt::FlatCap));
         maler_.drawLine(QPointF(wo(fahrer.median), mitte - halb), QPointF(wo(fahrer.median), mitte + halb));
     }
 
@@ -170,6 +204,8 @@ private:
     QRectF f_;
     const vergleichsbild_inhalt& i_;
     double zeile_;
+    const stil::farbsatz& farben_;
+    double name_px_ = 0;
     double zahl_breite_ = 0;
     QRectF feld_;  ///< of the marks
     double von_ = 0;
@@ -186,8 +222,8 @@ void seite_zeichnen(QPainter& maler, const QSizeF& groesse, const vergleichsbild
     blatttext(maler, {0, 0, groesse.width(), 90}, Qt::AlignLeft, inhalt.titel, {78, true, stil::schrift});
     blatttext(maler, {0, 95, groesse.width(), 60}, Qt::AlignLeft, inhalt.kopf, {44, false, stil::schrift_leise});
     const QRectF flaeche(0, kopf_blatt, groesse.width(), groesse.height() - kopf_blatt - fuss_blatt);
-    vergleich_zeichnen(maler, flaeche, inhalt, static_cast<std::size_t>(nummer) * zeilen_je_seite(groesse),
-                       zeile_blatt);
+    vergleich_zeichnen(maler, flaeche, inhalt, static_cast<std::size_t>(nummer) * zeilen_je_seite(groesse), zeile_blatt,
+                       stil::auf_papier());
     blatttext(maler, {0, groesse.height() - fuss_blatt, groesse.width(), fuss_blatt}, Qt::AlignRight,
               QString::fromStdString(std::string(programm_name) + " " + std::string(programm_version)),
               {26, false, stil::schrift_leise});
@@ -196,12 +232,12 @@ void seite_zeichnen(QPainter& maler, const QSizeF& groesse, const vergleichsbild
 }  // namespace
 
 void vergleich_zeichnen(QPainter& maler, const QRectF& flaeche, const vergleichsbild_inhalt& inhalt, std::size_t von,
-                        double zeilenhoehe) {
+                        double zeilenhoehe, const stil::farbsatz& farben) {
     if (inhalt.fahrer.empty()) {
-        blatttext(maler, flaeche, Qt::AlignCenter, inhalt.leer, {zeilenhoehe / 2, false, stil::schrift_leise});
+        blatttext(maler, flaeche, Qt::AlignCenter, inhalt.leer, {zeilenhoehe / 2, false, farben.schrift_leise});
         return;
     }
-    Vergleichszeichnung(maler, flaeche, inhalt, zeilenhoehe).zeichnen(von);
+    Vergleichszeichnung(maler, flaeche, inhalt, zeilenhoehe, farben).zeichnen(von);
 }
 
 blattseiten vergleichsseiten(const vergleichsbild_inhalt& inhalt) {
@@ -236,12 +272,15 @@ void Vergleichsbild::setInhalt(vergleichsbild_inhalt inhalt) {
 void Vergleichsbild::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
-    maler.fillRect(rect(), stil::karte);
+    const stil::farbsatz& farben = stil::auf_dem_schirm();
+    maler.fillRect(rect(), farben.karte);
     const QRectF flaeche = QRectF(rect()).adjusted(12, 8, -12, -8);
     // few rows stand wider apart
     const double zeilen =
         static_cast<double>(std::max<std::size_t>(inhalt_.fahrer.size(), 1)) + kopfzeilen + achszeilen;
-    vergleich_zeichnen(maler, flaeche, inhalt_, 0, std::clamp(flaeche.height() / zeilen, zeile_px, zeile_px * 1.5));
+    constexpr double breite_je_zeile = 28;  // a large window has large letters
+    const double zeile_max = std::max(zeile_px * 1.5, flaeche.width() / breite_je_zeile);
+    vergleich_zeichnen(maler, flaeche, inhalt_, 0, std::clamp(flaeche.height() / zeilen, zeile_px, zeile_max), farben);
 }
 
 }  // namespace tarvel::ui

@@ -7,6 +7,7 @@
 #include "core/zeit.h"
 #include "results/fahrervergleich.h"
 #include "ui/blattausgabe.h"
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 
@@ -28,7 +29,7 @@ struct vergleichsbild_inhalt {
 /// median, and the figures beside it. Draws the drivers from `von` on, as many as the area holds in rows of this
 /// height.
 void vergleich_zeichnen(QPainter& maler, const QRectF& flaeche, const vergleichsbild_inhalt& inhalt, std::size_t von,
-                        double zeilenhoehe);
+                        double zeilenhoehe, const stil::farbsatz& farben);
 
 /// The same as pages.
 blattseiten vergleichsseiten(const vergleichsbild_inhalt& inhalt);
