@@ -29,6 +29,7 @@ constexpr double planschrift_px = 15;
 constexpr double planschrift_min_px = 10;  // of many lanes; what still has no room is scrolled to
 constexpr int planrand_px = 24;            // beside the columns, with the bar that scrolls
 constexpr int fleck_breite = 18;
+constexpr int spalte_danach = 5;  // behind one that keeps the names apart
 
 }  // namespace
 
@@ -65,26 +66,28 @@ QWidget* Wettkampf2Fenster::blickfeld() {
     spuren->setHorizontalSpacing(12);
     spuren->setVerticalSpacing(4);
     spuren->addWidget(klein(logik_.Label_jetzt, "Label_jetzt"), 0, 3);
-    spuren->addWidget(klein(logik_.Label_danach, "Label_danach"), 0, 4);
+    spuren->addWidget(klein(logik_.Label_danach, "Label_danach"), 0, spalte_danach);
     for (const int spur : alle_spuren) {
         spurzeile(*spuren, spur);
     }
     spuren->setColumnStretch(1, 3);
     spuren->setColumnStretch(2, 2);
     spuren->setColumnStretch(3, 18);
-    spuren->setColumnStretch(4, 17);
+    spuren->setColumnStretch(spalte_danach, 17);
     spuren->addWidget(klein(logik_.Label_einsetzer, "Label_einsetzer"), spuren_max + 1, 0, 1, 3);
     TextAnzeige* einsetzer = gross(logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", schrift_einsetzer);
     einsetzer->setZweizeilig();
-    spuren->addWidget(einsetzer, spuren_max + 1, 3, 1, 2);
+    spuren->addWidget(einsetzer, spuren_max + 1, 3, 1, 3);
     spuren->setRowStretch(spuren_max + 1, 7);
     aufbau->addLayout(spuren, 31);
+    spuren_ = spuren;
     return feld;
 }
 
 TextAnzeige* Wettkampf2Fenster::klein(bezeichnung& element, const QString& name) {
     TextAnzeige* anzeige = gross(element, name, schrift_klein);
     anzeige->setLeise();
+    kleine_.emplace_back(anzeige, schrift_klein);
     return anzeige;
 }
 
@@ -113,7 +116,9 @@ QLayout* Wettkampf2Fenster::kopfzeile() {
     kopf->addWidget(warten, 1, 2);
     kopf->addWidget(gross(logik_.Label_dauer, "Label_dauer", schrift_paarung), 1, 3);
     kopf->addWidget(gross(logik_.label_best, "label_best", schrift_klein * 1.4), 1, 4);
-    TextAnzeige* fahrer = gross(logik_.label_fahrer, "label_fahrer", schrift_klein * 1.1);
+    constexpr double schrift_bester = schrift_klein * 1.1;
+    TextAnzeige* fahrer = gross(logik_.label_fahrer, "label_fahrer", schrift_bester);
+    kleine_.emplace_back(fahrer, schrift_bester);
     fahrer->setZweizeilig();
     kopf->addWidget(fahrer, 1, 5);
     int spalte = 0;
@@ -147,7 +152,7 @@ void Wettkampf2Fenster::spurzeile(QGridLayout& zeilen, int spur) {
     zeilen.addWidget(name, spur, 3);
     TextAnzeige* danach = gross(logik_.Label_danach_b.at(i), "Label_danach_b" + nummer, schrift_fahrer);
     danach->setZweizeilig();
-    zeilen.addWidget(danach, spur, 4);
+    zeilen.addWidget(danach, spur, spalte_danach);
 }
 
 QWidget* Wettkampf2Fenster::rundenfeld() {
@@ -317,9 +322,17 @@ void Wettkampf2Fenster::skalieren() {
     const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
     const double skala = std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4);
     binder().skala(skala);
+    constexpr double klein_min_px = 13;
+    for (const auto& [anzeige, entwurfsschrift] : kleine_) {
+        anzeige->setSchriftPx(static_cast<int>(std::lround(std::max(klein_min_px, entwurfsschrift * skala))));
+    }
+    if (spuren_ != nullptr) {
+        spuren_->setColumnMinimumWidth(spalte_danach - 1, static_cast<int>(std::lround(schrift_fahrer * skala)));
+    }
     if (kopf_ != nullptr) {
         constexpr double wert_px = 44;  // also when there is little height to share
-        kopf_->setRowMinimumHeight(0, static_cast<int>(std::lround(schrift_klein * skala * zeilenhoehe)));
+        kopf_->setRowMinimumHeight(
+            0, static_cast<int>(std::lround(std::max(klein_min_px, schrift_klein * skala) * zeilenhoehe)));
         kopf_->setRowMinimumHeight(1, static_cast<int>(std::lround(std::max(wert_px, schrift_nummer * skala))));
     }
     if (plan_ != nullptr) {

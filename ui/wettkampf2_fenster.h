@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "competition/wettkampf2.h"
 #include "ui/fenster.h"
 
@@ -36,6 +39,8 @@ private:
     wettkampf2& logik_;
     const dateien& ablage_;
     QGridLayout* kopf_ = nullptr;
+    QGridLayout* spuren_ = nullptr;
+    std::vector<std::pair<TextAnzeige*, double>> kleine_;  ///< never too small to be read, with their font at scale 1
     QListView* plan_ = nullptr;
 };
 
