@@ -180,7 +180,8 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Gespeichert:", gespeichert);
     gruppe.text("Runde", text_runde);
     gruppe.text("Weiterfahren", wettkampf.weiterfahren).text("Später", wettkampf.spaeter);
-    return gruppe.text("Nächstes zeigen", wettkampf.naechstes).text("Neu starten", wettkampf.von_vorn);
+    gruppe.text("Nächstes zeigen", wettkampf.naechstes).text("Neu starten", wettkampf.von_vorn);
+    return gruppe.text("Runden", text_mehrere);
 }
 
 sprachliste texte::sprache_tx1() {

@@ -29,9 +29,10 @@ struct texte {
 
     std::string text_zeit;  ///< the kinds of race; always compared with these two, never with a literal
     std::string text_runden;
-    std::string text_runde;  ///< one of them
+    std::string text_runde;    ///< behind the number one
+    std::string text_mehrere;  ///< and behind any other
     std::string runden(int anzahl) const {
-        return std::to_string(anzahl) + " " + (anzahl == 1 ? text_runde : text_runden);
+        return std::to_string(anzahl) + " " + (anzahl == 1 ? text_runde : text_mehrere);
     }
     std::array<std::string, 2> titel;
     std::array<std::string, 28> meldung;  ///< index 1 to 27

@@ -5,7 +5,6 @@
 #include "core/text.h"
 #include "core/zeit.h"
 #include "race/rennansicht.h"
-#include "race/rueckstand.h"
 
 namespace tarvel {
 namespace {
@@ -42,7 +41,7 @@ void rennansicht::ziel_zeigen() {
 
 std::string rennansicht::ziel_text(const rennziel& ziel) const {
     if (!ziel.ist_zeit()) {
-        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende : runden_gesagt(ziel.runden(), um_.bahn.wort.zurueck);
+        return ziel == ziel_ohne_ende ? um_.bahn.wort.ohne_ende : um_.txt.runden(ziel.runden());
     }
     const bahn1& bahn = um_.bahn;
     const zeit_teile dauer = zeit_zerlegen(ziel.ms());
