@@ -35,8 +35,7 @@ namensspalten rangspalten(const wettkampf& w);
 /// The lines of `rangliste`: place, name, laps, metres and total time, or the best lap where that is what counts. So
 /// many characters of a name are in them.
 std::vector<std::string> rangschreiben(const wettkampf& w, sortier_modus wertung,
-                                       const trennzeichen_tabelle& trennzeichen,
-                                       std::size_t namen = listenname_breite);
+                                       const trennzeichen_tabelle& trennzeichen, std::size_t namen = listenname_breite);
 
 /// A row of `w_auswertung`, cut to the widths of its columns.
 struct auswertung_zeile {
@@ -47,7 +46,7 @@ struct auswertung_zeile {
     std::string platz;
     std::string name;
     std::string ganzer_name;  ///< not cut
-    std::string runden;  ///< of all races
+    std::string runden;       ///< of all races
     std::string meter;
     std::vector<einzeln> je;  ///< of each lane from 1 to 6, or of each heat where each meets each
     std::string gesamtzeit;

@@ -123,8 +123,8 @@ const std::vector<erklaerung>& erklaerungen() {
         {"Tanken / Chaos", "Chaosschalter statt Taster", "chaos_schalter",
          "die Pause dauert, solange der Schalter gedrückt ist"},
         {"Tanken / Chaos", "Strafe des Verursachers, Strafzeit bei Chaos", "chaos_strafe_strom e_ch_strafzeit",
-         "was der Verursacher zahlt; eine Zeitstrafe kommt am Ende dazu, und jede seiner Runden danach wird um so viele "
-         "Tausendstel länger; unter 0 fragt niemand"},
+         "was der Verursacher zahlt; eine Zeitstrafe kommt am Ende dazu, und jede seiner Runden danach wird um so "
+         "viele Tausendstel länger; unter 0 fragt niemand"},
         {"Sektoren/Topspeed", "Messen, Länge", "sektor_an_* sektor_laenge_*",
          "Sensor in Gebrauch, und die Länge des Sektors auf jeder Spur in Metern. Sektor 3 ist der letzte, bis zur "
          "Linie"},

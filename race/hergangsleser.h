@@ -76,9 +76,9 @@ private:
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause
     spuren<std::int64_t> letzte_runde_{};
-    bool schalter_ = false;            ///< the chaos input is a switch
-    std::optional<zeit_ms> weiter_;    ///< when the last pause ended, while the race goes on
-    std::optional<zeit_ms> verlangt_;  ///< when another was asked for last
+    bool schalter_ = false;              ///< the chaos input is a switch
+    std::optional<zeit_ms> weiter_;      ///< when the last pause ended, while the race goes on
+    std::optional<zeit_ms> verlangt_;    ///< when another was asked for last
     spuren<std::int64_t> zeitstrafe_{};  ///< of the driver in s, index as `geschehen::fahrer`; ms are added to each lap
     bool zu_ende_ = false;               ///< what is counted now came behind the end
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};

@@ -195,11 +195,11 @@ bool rennlage::wird_gesagt(ablehnung grund) {
 
 /// The lap that had waited is shown with the time that its lane stood still.
 bool rennlage::eben_verbuesst(int spur) const {
-    constexpr zeit_ms gesagt_ms = 3000;
+    constexpr zeit_ms anzeige_ms = 3000;
     const spur_zustand& zustand = um_.zustand.spur[spur];
     return !zustand.tank_strafe_aktiv && zustand.tank_sperre.bis != 0 &&
            zustand.tank_sperre.von == zustand.gezaehlt_bei && um_.zustand.konto.runden(spur) > 0 &&
-           std::abs(um_.zeit.messzeit_lesen() - zustand.tank_sperre.bis) < gesagt_ms;
+           std::abs(um_.zeit.messzeit_lesen() - zustand.tank_sperre.bis) < anzeige_ms;
 }
 
 /// Of a crossing that did not count, or not yet, only where nothing that the lane is in says it already.

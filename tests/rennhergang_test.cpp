@@ -142,23 +142,39 @@ TEST_F(Rennhergang, VerworfeneUeberfahrtenStehenEinmalDa) {
 TEST_F(Rennhergang, GruendeInWorten) {
     t.starten("Runden", "9", {1, 2});
     inhalt_ = datei();
-    const rennhergang h = hergang_lesen(
-        protokoll({"t0 500", ".> Gruen 10000", ".> Fruehstart 1 9000", "t0 3000", ".> Abgelehnt 1 3 12000 22400 0",
-                   ".> Strafe 1 5 1", ".> Abgelehnt 1 3 13000 23400 0", ".> Abgelehnt 2 6 14000 31000 0",
-                   ".> Abgelehnt 2 7 15000 0 0", ".> Abgelehnt 2 9 16000 0 0", ".> Abgelehnt 2 99 17000 0 0",
-                   "verschieben 8000 -500", "t0 9000", ".> Runde 2 12 5432 18500", "ereignis 9100 16 1",
-                   "ereignis 9200 16 1", "ereignis 9900 16 1", ".> Strafe 2 10 0", ".> Runde 2 13 5010 24010",
-                   ".> Ende 25000 1", ".> Runde 2 14 5010 29020", "t0 30000", "# Korrektur Spur 1"}));
+    const rennhergang h = hergang_lesen(protokoll({"t0 500",
+                                                   ".> Gruen 10000",
+                                                   ".> Fruehstart 1 9000",
+                                                   "t0 3000",
+                                                   ".> Abgelehnt 1 3 12000 22400 0",
+                                                   ".> Strafe 1 5 1",
+                                                   ".> Abgelehnt 1 3 13000 23400 0",
+                                                   ".> Abgelehnt 2 6 14000 31000 0",
+                                                   ".> Abgelehnt 2 7 15000 0 0",
+                                                   ".> Abgelehnt 2 9 16000 0 0",
+                                                   ".> Abgelehnt 2 99 17000 0 0",
+                                                   "verschieben 8000 -500",
+                                                   "t0 9000",
+                                                   ".> Runde 2 12 5432 18500",
+                                                   "ereignis 9100 16 1",
+                                                   "ereignis 9200 16 1",
+                                                   "ereignis 9900 16 1",
+                                                   ".> Strafe 2 10 0",
+                                                   ".> Runde 2 13 5010 24010",
+                                                   ".> Ende 25000 1",
+                                                   ".> Runde 2 14 5010 29020",
+                                                   "t0 30000",
+                                                   "# Korrektur Spur 1"}));
     EXPECT_EQ(von(h, 1), (std::vector<std::string>{
                              "-0:01,000 Frühstart", "0:02,000 Sperre nach Frühstart bis 0:12,4",
                              "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 0:13,4",
                              "0:08,600 Gerät meldet Rundenzählung (2-mal)", "0:09,400 Gerät meldet Rundenzählung"}));
-    EXPECT_EQ(von(h, 2), (std::vector<std::string>{"0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel",
-                                                   "0:06,000 Pause", "0:07,000 ", "0:09,000 Runde 12: 5,432 s",
-                                                   "0:09,400 Zeitstrafe: 10 s",
-                                                   "0:14,510 Runde 13: 5,010 s, davon 0,010 s für die Zeitstrafe",
-                                                   "0:19,520 Runde 14: 5,010 s, davon 0,010 s für die Zeitstrafe"
-                                                   ", noch nach dem Ende gezählt"}));
+    EXPECT_EQ(von(h, 2),
+              (std::vector<std::string>{"0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel", "0:06,000 Pause",
+                                        "0:07,000 ", "0:09,000 Runde 12: 5,432 s", "0:09,400 Zeitstrafe: 10 s",
+                                        "0:14,510 Runde 13: 5,010 s, davon 0,010 s für die Zeitstrafe",
+                                        "0:19,520 Runde 14: 5,010 s, davon 0,010 s für die Zeitstrafe"
+                                        ", noch nach dem Ende gezählt"}));
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
 

@@ -147,8 +147,9 @@ void BestzeitverwaltungFenster::einpassen() {
     };
     const int px = groesse(schrift_min_px, std::clamp<double>(hoehe, schrift_min_px, schrift_max_px));
     groesse(px, px);
-    const QString regel = QString("QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
-                                  "QListView::item { padding: 0px 3px; }")                        // each other
+    const QString regel = QString(
+                              "QListView { font-family: '%1', monospace; font-size: %2px; }"  // columns stay below
+                              "QListView::item { padding: 0px 3px; }")                        // each other
                               .arg(schrift.family())
                               .arg(px);
     for (QListView* zeilen : listen_) {
