@@ -191,11 +191,11 @@ TEST_F(Wettkampfautomatik, WerEtwasVorSichHatWirdNichtHinausgeworfen) {
     ASSERT_TRUE(abend.rennen_starten());
     t.maschine.laufen(4000);
     runden_fahren(3);
-    t.maschine.laufen(8000);
+    t.maschine.laufen(4000);
     t.p.auswertung.Command_protokoll.klicken();
     t.maschine.laufen(60000);
     t.p.fenster.entladen(fenstername::protokoll);
-    t.maschine.laufen(8000);
+    t.maschine.laufen(5000);
     EXPECT_TRUE(offen(fenstername::auswertung)) << "who has looked into the log has his time again";
     t.maschine.laufen(8000);
     EXPECT_FALSE(offen(fenstername::auswertung));

@@ -224,6 +224,7 @@ TEST_F(Wettkampfrueckkehr, WasEinAndererAbendFuhrNimmtIhmSeinAbgebrochenesRennen
     abend.beenden();
 
     abend.beginnen(unterwegs);
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::ja;
     ASSERT_TRUE(abend.rennen_starten());
     EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
     EXPECT_EQ(t.runden(1), 1);
