@@ -327,11 +327,7 @@ bool form1::uebergeben(rennumfang umfang) {
 }
 
 bool form1::einzelrennen_einrichten(rennumfang umfang) {
-    if (!uebergeben(umfang) || !fahrer_einmalig()) {
-        return false;
-    }
-    letztes_mal_vergessen();
-    return true;
+    return uebergeben(umfang) && fahrer_einmalig();
 }
 
 void form1::Command1_Click() {

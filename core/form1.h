@@ -165,7 +165,7 @@ public:
     void sprache_waehlen(std::size_t welche);
     void aussehen_waehlen(std::size_t welches);
     void erscheinung_zeigen();
-    /// Offers the fields of the last end until a driver or a vehicle is typed, a race is set up or a competition
+    /// Offers the fields of the last end until a driver or a vehicle is typed, a race starts or a competition
     /// begins; not while its drivers stand on their lanes already.
     void letztes_mal_anbieten(const renneinrichtung& felder);
     /// Neither taken nor passed over yet: it must not be lost.

@@ -107,7 +107,8 @@ const std::vector<erklaerung>& erklaerungen() {
          "Liter)"},
         {"Tanken / Chaos", "Grafische Tankanzeige", "tankanz_art", "ein Balken statt der Zahl"},
         {"Tanken / Chaos", "Aktion bei leerem Tank, Strafzeit", "t_straf_combo t_strafzeit",
-         "siehe Tanken (Strafzeit 0 bis 60 Sekunden; 0 macht die Datei ungültig, davor wird gewarnt)"},
+         "siehe Tanken. Bei „Stromunterbrechung“ steht die Runde im Rennen mit der Strafe da, im Ergebnis ohne sie "
+         "(Strafzeit 0 bis 60 Sekunden; 0 macht die Datei ungültig, davor wird gewarnt)"},
         {"Tanken / Chaos", "Tanken", "tank_art",
          "auf einem Kontakt oder zwischen 2 Kontakten: wie die Tankstelle der Bahn gebaut ist"},
         {"Tanken / Chaos", "Wartezeit bis Tankbeginn", "t_wartezeit",

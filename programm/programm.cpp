@@ -1,5 +1,6 @@
 #include "programm/programm.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -144,6 +145,16 @@ void programm::wiedergabe_verbinden() {
             hauptfenster_merken();  // an outage in the race does not cost them
         }
     };
+    const std::initializer_list<tarvel::einzelrennen*> eigene{&einzelrennen, &tagesrennen, &training,
+                                                              &intervalltraining};
+    for (tarvel::einzelrennen* eines : eigene) {
+        eines->bei_start = [this] {  // who has only looked at the race window may want them still
+            if (rennprotokoll.fuehren && form1.letztes_mal_offen()) {
+                form1.letztes_mal_vergessen();
+                hauptfenster_merken();
+            }
+        };
+    }
     wiedergabe.darf = [this] { return ruhe_fuer_wiedergabe(); };
     wiedergabe.ausstatten = [this](programm& spiel) {  // whose pictures are whose
         spiel.fahrerliste = fahrerliste;

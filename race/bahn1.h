@@ -143,6 +143,7 @@ struct bahn1 {
         std::string vor_gruen;
         std::string in_der_pause;
         std::string noch_ohne_strom;  ///< serves the penalty of its empty tank
+        std::string erst_ab;          ///< in front of the time from which laps count
         std::string noch_gesperrt;    ///< behind a false start, or a pause's penalty
         std::string mit_strafe;       ///< the lap that was just shown
         std::string runde_wartet;     ///< counts behind a penalty

@@ -115,7 +115,8 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
 sprachliste& hergangsworte::nachtragen(sprachliste& texte) {
     texte.text(" und wird um sie länger", und_laenger_);
     texte.text("Pause verlangt, aber sie geht erst 2,5 s nach „Weiter“ wieder", vorlagen_[vorgang::pause_verlangt]);
-    texte.text(", davon %1 für die Zeitstrafe", mit_zeitstrafe_).text(", noch nach dem Ende gezählt", nach_ende_);
+    texte.text(", darin %1 Zuschlag (1 ms je Sekunde Zeitstrafe)", mit_zeitstrafe_)
+        .text(", noch nach dem Ende gezählt", nach_ende_);
     for (const tastenzeile& zeile : tastenzeilen()) {
         if (zeile.spur <= 1) {  // the rows of a lane have the same names on every lane
             texte.text(zeile.name, bedeutungen_[zeile.name]);

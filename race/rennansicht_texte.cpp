@@ -136,7 +136,9 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     texte.text("zählt nicht", bahn.wort.in_der_pause).text("ohne Strom", bahn.wort.noch_ohne_strom);
     texte.text("Neue Pause erst 2,5 s nach „Weiter“", bahn.wort.pause_gesperrt);
     texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
-    return texte.text("noch gesperrt", bahn.wort.noch_gesperrt).text("mit Strafe", bahn.wort.mit_strafe);
+    return texte.text("noch gesperrt", bahn.wort.noch_gesperrt)
+        .text("mit Strafe", bahn.wort.mit_strafe)
+        .text("erst ab", bahn.wort.erst_ab);
 }
 
 }  // namespace tarvel

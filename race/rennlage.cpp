@@ -13,6 +13,7 @@ namespace tarvel {
 namespace {
 
 constexpr zeit_ms gesagt_ms = 2000;  // what is said for a moment
+constexpr zeit_ms knapp_ms = 200;    // below what counts, which may lie above what was typed
 
 /// Begun seconds: the last one counts down to the end.
 int sekunden_auf(zeit_ms rest) {
@@ -239,6 +240,10 @@ std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     }
     if (g.grund == ablehnung::sperre) {
         return wort.noch_gesperrt;
+    }
+    const zeit_ms ab = um_.param.min_rundenzeit_ms;
+    if (g.grund == ablehnung::zu_schnell && g.zeit >= ab - knapp_ms) {
+        return wort.erst_ab + " " + dauer_gesagt(ab, um_.einst.trennzeichen);
     }
     if (g.grund == ablehnung::zu_schnell) {
         return wort.zu_kurz + " " + dauer_gesagt(std::max<zeit_ms>(g.zeit, 0), um_.einst.trennzeichen);

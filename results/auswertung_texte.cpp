@@ -88,7 +88,7 @@ void auswertung::korrekturtexte(sprachliste& texte) {
         Command_nachtragen);
     texte.text("Nimmt die letzte Korrektur zurück (Strg+Z)", wort_.zurueck);
     texte.text("Trägt die zurückgenommene Korrektur wieder ein (Strg+Y)", wort_.wieder);
-    texte.text("nachgetragen", wort_.nachgetragen).text("Rest", wort_.geteilt).text("Unterbrechung", wort_.ausfall);
+    texte.text("nachgetragen", wort_.nachgetragen).text("Rest", wort_.geteilt).text("Neustart", wort_.ausfall);
     texte.text("Bitte auswählen, was nachgetragen werden soll.", wort_.nachtrag_waehlen);
     texte.text("Das geht nicht: Diese Runde läge hinter dem Ziel.", wort_.hinter_dem_ziel);
     texte.text("nachgetragene Runde", diagramm.nachgetragen).text("nachgetragen:", blatt.nachgetragen);

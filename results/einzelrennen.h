@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "core/einstellungen.h"
 #include "core/renn_parameter.h"
 #include "core/texte.h"
@@ -28,6 +30,14 @@ public:
     bool fueller_fahren(bool fortgesetzt) const override { return !fortgesetzt || um_.einst.freie_slots; }
     std::optional<rennziel> fortsetzbar_bis() const override { return renn_maximum(um_.param); }
     bool uebernehmen(const rennergebnis& ergebnis, weitergang wie) override;
+    void begonnen() override {
+        if (bei_start) {
+            bei_start();
+        }
+    }
+
+    /// Somebody has pressed start.
+    std::function<void()> bei_start;
 
 protected:
     umgebung um_;

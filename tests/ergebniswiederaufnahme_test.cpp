@@ -127,7 +127,7 @@ TEST_F(Wiederaufnahme, DieRundeInDerDasProgrammWegWarIstKeineBeste) {
     EXPECT_EQ(angebot(1), (std::vector<zeit_ms>{5000, 8000, 7000}));
     EXPECT_EQ(angebot(2), (std::vector<zeit_ms>{8000, 7000}));
     EXPECT_EQ(noch_einmal.p.wertung.ergebnis().auf(2)->beste, 7000);
-    EXPECT_TRUE(a.liste[1].zeilen()[0].ends_with(" (Unterbrechung)"));
+    EXPECT_TRUE(a.liste[1].zeilen()[0].ends_with(" (Neustart)"));
 
     a.liste[1].auswaehlen(3);  // the 7000 becomes a part of the lap before
     a.Command8.klicken();

@@ -267,8 +267,11 @@ TEST_F(Hauptfenster, EinRennbeginnMerktDieFahrerUndNimmtDasAngebotWeg) {
     EXPECT_TRUE(zweites->form1.command_wieder.sichtbar()) << "a competition has drivers of its own";
     zweites->wettkampf1.Command4.klicken();
     zweites->form1.Command1.klicken();
-    EXPECT_FALSE(zweites->form1.command_wieder.sichtbar());
+    zweites->rennen.befehle.fenster_schliessen();
+    EXPECT_TRUE(zweites->form1.command_wieder.sichtbar()) << "only looked at";
+    zweites->form1.Command1.klicken();
     zweites->rennen.bahn1.Command1.klicken();
+    EXPECT_FALSE(zweites->form1.command_wieder.sichtbar());
     programm nach_dem_ausfall(t.maschine.dienste());
     t.maschine.antwort = false;
     nach_dem_ausfall.starten();

@@ -170,12 +170,14 @@ TEST_F(Rennhergang, GruendeInWorten) {
                              "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 0:13,4",
                              "0:08,600 Gerät meldet Rundenzählung (2-mal)", "0:09,400 Gerät meldet Rundenzählung"}));
     std::vector<std::string> zweite = von(h, 2);
-    EXPECT_EQ(zweite.back(),
-              "0:19,520 Runde 14: 5,010 s, davon 0,010 s für die Zeitstrafe, noch nach dem Ende gezählt");
+    EXPECT_EQ(
+        zweite.back(),
+        "0:19,520 Runde 14: 5,010 s, darin 0,010 s Zuschlag (1 ms je Sekunde Zeitstrafe), noch nach dem Ende gezählt");
     zweite.pop_back();
-    EXPECT_EQ(zweite, (std::vector<std::string>{"0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel", "0:06,000 Pause",
-                                                "0:07,000 ", "0:09,000 Runde 12: 5,432 s", "0:09,400 Zeitstrafe: 10 s",
-                                                "0:14,510 Runde 13: 5,010 s, davon 0,010 s für die Zeitstrafe"}));
+    EXPECT_EQ(zweite, (std::vector<std::string>{
+                          "0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel", "0:06,000 Pause", "0:07,000 ",
+                          "0:09,000 Runde 12: 5,432 s", "0:09,400 Zeitstrafe: 10 s",
+                          "0:14,510 Runde 13: 5,010 s, darin 0,010 s Zuschlag (1 ms je Sekunde Zeitstrafe)"}));
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
 
