@@ -112,7 +112,7 @@ void w_auswertung2::neu_sortieren() {
 
 void w_auswertung2::fahrer_addieren() {
     const bool mit_klasse = tabelle_->typ == ergebnis_typ::tagesrennen &&
-                            um_.welt.meldungen.fragen(wort_.klasse_fragen, wort_.klasse_titel);
+                            um_.welt.meldungen.anbieten(wort_.klasse_fragen, wort_.klasse_titel);
     const bool schon_gekuerzt = std::exchange(tabelle_->gekuerzt, false);
     gleiche_fahrer_addieren(*tabelle_, mit_klasse);
     klassen_vereint_ = klassen_vereint_ || (tabelle_->typ == ergebnis_typ::tagesrennen && !mit_klasse);

@@ -107,6 +107,7 @@ TEST_F(Ergebnisbetrachter, AddiertFahrerMitUndOhneKlasse) {
         w.Command20.klicken();
         EXPECT_EQ(t.maschine.fragen_gestellt.back(),
                   (test::test_plattform::meldung{"Klasse in den Vergleich einbeziehen?", "Vergleichsmethode wählen"}));
+        EXPECT_EQ(t.maschine.angebote, mit_klasse ? 1 : 2) << "Enter leaves the classes apart";
         EXPECT_EQ(namen(), mit_klasse ? "1.A 2.C 1.A 2.B " : "1.A 2.C 1.B ");
         EXPECT_FALSE(w.Label_fuehrung.sichtbar()) << "the places say it";
         EXPECT_EQ(w.Label_datei.text().find("ohne Klassen") == std::string::npos, mit_klasse);
