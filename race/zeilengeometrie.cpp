@@ -38,9 +38,7 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
     }
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
     g[t::Label_spur].ort = mitte.links(std::max((hoch ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
-    if (schuld_oben) {
-        ampel_legen(mitte.rest(), luecke, g);
-    } else if (!schuld_hier) {
+    if (schuld_oben || !schuld_hier) {
         ampel_legen(mitte.rest(), luecke, g);
     } else {
         const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);

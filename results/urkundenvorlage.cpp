@@ -10,7 +10,7 @@
 namespace tarvel {
 namespace {
 
-using art = vorlagenelement::art;
+using elementart = vorlagenelement::art;
 using buendig = vorlagenelement::buendig;
 
 constexpr std::array<std::string_view, 2> kennzeilen{"Tarvel Urkunde", "Tarvel Certificate"};
@@ -98,7 +98,7 @@ std::optional<std::size_t> wort_von(std::string_view name) {
 /// Calls `text` with what stands outside of braces and `wort` with the number of each word in them; false for a word
 /// that is none.
 template <class Text, class Wort>
-bool zerlegen(std::string_view inhalt, const Text& text, const Wort& wort) {
+bool vorlage_zerlegen(std::string_view inhalt, const Text& text, const Wort& wort) {
     while (!inhalt.empty()) {
         const std::size_t auf = std::min(inhalt.find('{'), inhalt.size());
         text(inhalt.substr(0, auf));
@@ -123,7 +123,7 @@ bool text_lesen(wortleser& worte, vorlagenelement& e) {
         !worte.farbton(e.farbton)) {
         return false;
     }
-    return zerlegen(
+    return vorlage_zerlegen(
         worte.rest(), [&e](std::string_view text) { e.inhalt += text; },
         [&e](std::size_t wort) { e.inhalt += "{" + std::string(urkundenwort_namen.at(wort)) + "}"; });
 }
@@ -161,23 +161,23 @@ bool nichts_lesen(wortleser& worte, vorlagenelement& /*e*/) {
 
 struct zeilenart {
     std::string_view name;
-    art was;
+    elementart was;
     bool (*lesen)(wortleser&, vorlagenelement&);  ///< what follows place and size
 };
-constexpr std::array<zeilenart, 14> zeilenarten{{{"Fläche", art::flaeche, nur_farbe_lesen},
-                                                 {"Flaeche", art::flaeche, nur_farbe_lesen},
-                                                 {"Rahmen", art::rahmen, strich_lesen},
-                                                 {"Linie", art::linie, strich_lesen},
-                                                 {"Text", art::text, text_lesen},
-                                                 {"Bild", art::bild, bild_lesen},
-                                                 {"Plakette", art::plakette, nichts_lesen},
-                                                 {"Zielflagge", art::zielflagge, nur_farbe_lesen},
-                                                 {"Area", art::flaeche, nur_farbe_lesen},
-                                                 {"Frame", art::rahmen, strich_lesen},
-                                                 {"Line", art::linie, strich_lesen},
-                                                 {"Picture", art::bild, bild_lesen},
-                                                 {"Badge", art::plakette, nichts_lesen},
-                                                 {"Flag", art::zielflagge, nur_farbe_lesen}}};
+constexpr std::array<zeilenart, 14> zeilenarten{{{"Fläche", elementart::flaeche, nur_farbe_lesen},
+                                                 {"Flaeche", elementart::flaeche, nur_farbe_lesen},
+                                                 {"Rahmen", elementart::rahmen, strich_lesen},
+                                                 {"Linie", elementart::linie, strich_lesen},
+                                                 {"Text", elementart::text, text_lesen},
+                                                 {"Bild", elementart::bild, bild_lesen},
+                                                 {"Plakette", elementart::plakette, nichts_lesen},
+                                                 {"Zielflagge", elementart::zielflagge, nur_farbe_lesen},
+                                                 {"Area", elementart::flaeche, nur_farbe_lesen},
+                                                 {"Frame", elementart::rahmen, strich_lesen},
+                                                 {"Line", elementart::linie, strich_lesen},
+                                                 {"Picture", elementart::bild, bild_lesen},
+                                                 {"Badge", elementart::plakette, nichts_lesen},
+                                                 {"Flag", elementart::zielflagge, nur_farbe_lesen}}};
 
 bool element_lesen(const std::string& zeile, vorlagenelement& e) {
     wortleser worte(zeile);
@@ -218,7 +218,7 @@ gelesene_vorlage vorlage_lesen(const std::vector<std::string>& zeilen) {
 std::string eingesetzt(std::string_view inhalt, const urkundenworte& worte) {
     std::string aus;
     bool leer = false;
-    zerlegen(
+    vorlage_zerlegen(
         inhalt, [&aus](std::string_view text) { aus += text; },
         [&](std::size_t wort) {
             aus += worte.at(wort);

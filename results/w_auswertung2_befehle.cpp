@@ -292,7 +292,7 @@ void w_auswertung2::blatt_zeigen() {
 
 std::string w_auswertung2::tag_der_datei() const {
     using namespace std::chrono;
-    const std::string datum = datum_im_namen(dateien_.front());
+    std::string datum = datum_im_namen(dateien_.front());
     if (!datum.empty()) {
         return datum;
     }

@@ -203,6 +203,7 @@ void Bahn1Fenster::geraetealarm() {
     alarm_->setFett(true);
     alarm_->setFarbe(Qt::white);
     alarm_->setRahmen(Qt::white);
+    alarm_->setContentsMargins(12, 6, 12, 6);  // clear of the frame
     constexpr int zeilen = 3;
     alarm_->setMehrzeilig(zeilen);
 }

@@ -11,7 +11,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double anteil_fuer_namen = 0.75;  // of the size that short names have,
-constexpr double lesbar_px = 11;            // as long as that is as large
+constexpr double namen_lesbar_px = 11;      // as long as that is as large
 
 double zeichenbreite(int schrift_px) {
     QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -22,7 +22,7 @@ double zeichenbreite(int schrift_px) {
 }  // namespace
 
 int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten& namen, const zeilenplatz& platz) {
-    std::size_t ganz = 1;
+    std::size_t ganz = std::max<std::size_t>(platz.kopf, 1);
     std::size_t andere = platz.mindestens;
     for (std::size_t i = 0; i < zeilen.zeilen().size(); ++i) {
         std::size_t& laengste = i < namen.zeilen ? ganz : andere;
@@ -35,7 +35,7 @@ int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten
     const auto passend = [&](std::size_t zeichen) { return platz.breite / (je_px * static_cast<double>(zeichen)); };
     const double hoechstens = std::clamp(passend(schmal), platz.schrift_min, platz.schrift_max);
     const double mindestens =
-        std::max({platz.schrift_min, hoechstens * anteil_fuer_namen, std::min(lesbar_px, hoechstens)});
+        std::max({platz.schrift_min, hoechstens * anteil_fuer_namen, std::min(namen_lesbar_px, hoechstens)});
     const double px = std::clamp(passend(std::max(ganz, andere)), mindestens, hoechstens);
     const int schrift_px = static_cast<int>(px);
     const auto zeichen = static_cast<std::size_t>(std::max(platz.breite, 0.0) / zeichenbreite(schrift_px));

@@ -14,6 +14,7 @@ struct zeilenplatz {
     double schrift_min = 1;  ///< size of the letters, in pixels
     double schrift_max = 1;
     std::size_t mindestens = 1;  ///< each row counts as so many characters, so that few do not stand too large
+    std::size_t kopf = 0;        ///< characters of the captions over them
 };
 
 /// Draws the names in the rows of the list as wide as there is room, and returns the size of the letters for it. Whole

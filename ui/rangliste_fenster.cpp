@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/text.h"
 #include "ui/namenseinpassung.h"
 #include "ui/stil.h"
 
@@ -66,7 +67,7 @@ void RanglisteFenster::skalieren() {
     schrift_.setPixelSize(
         namen_einpassen(*zeilen_, logik_.List_name, logik_.spalten,
                         {static_cast<double>(zeilen_->viewport()->width() - 2 * einzug_px - rollbalken_px),
-                         schrift_min_px, hoechstens, zeichen_je_zeile}));
+                         schrift_min_px, hoechstens, zeichen_je_zeile, laenge(logik_.Label_kopf.text())}));
     kopf_->setText(kopf_einpassen(*zeilen_, logik_.Label_kopf.text()));
     kopf_->setStyleSheet(QString("font-family: '%1', monospace; font-size: %2px; padding-left: %3px;")
                              .arg(schrift_.family())

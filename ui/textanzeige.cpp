@@ -132,13 +132,15 @@ void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) co
 
 TextAnzeige::Satz TextAnzeige::gesetzt() const {
     const QFontMetricsF masse(schrift_);
+    const int breite = contentsRect().width();
+    const int hoehe = contentsRect().height();
     Satz satz{text_, schrift_, Qt::TextSingleLine, false};
-    double faktor = std::min(width() / std::max(masse.horizontalAdvance(text_), 1.0), height() / masse.capHeight());
+    double faktor = std::min(breite / std::max(masse.horizontalAdvance(text_), 1.0), hoehe / masse.capHeight());
     const double kleinster = std::max(kleinste_verkleinerung, std::min(1.0, 1.0 * mindest_px_ / schrift_.pixelSize()));
     for (int anzahl = 2; faktor < 1 && anzahl <= zeilen_; ++anzahl) {
         const QString zeilen = umbrochen(text_, masse, anzahl);
         const QSizeF platz = masse.size(0, zeilen);
-        const double gebrochen = std::min({1.0, width() / platz.width(), height() / platz.height()});
+        const double gebrochen = std::min({1.0, breite / platz.width(), hoehe / platz.height()});
         constexpr double gewinn = 1.2;  // a little more is not worth another line
         if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : gewinn * faktor)) {
             satz.text = zeilen;
@@ -151,13 +153,13 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
         satz.schrift.setPixelSize(std::max({px, std::min(mindest_px_, schrift_.pixelSize()), 6}));
         if (mindest_px_ > 0 && faktor < kleinster) {
             constexpr int engste_prozent = 75;
-            const double breite = std::max(QFontMetricsF(satz.schrift).horizontalAdvance(text_), 1.0);
-            satz.schrift.setStretch(std::clamp(static_cast<int>(100 * width() / breite), engste_prozent, 100));
+            const double noetig = std::max(QFontMetricsF(satz.schrift).horizontalAdvance(text_), 1.0);
+            satz.schrift.setStretch(std::clamp(static_cast<int>(100 * breite / noetig), engste_prozent, 100));
         }
     }
     if (faktor < 1 && satz.art != 0) {
-        satz.text = QFontMetrics(satz.schrift).elidedText(text_, Qt::ElideRight, width());
-        satz.gekuerzt = satz.text != text_ || QFontMetricsF(satz.schrift).capHeight() > height() + 1;
+        satz.text = QFontMetrics(satz.schrift).elidedText(text_, Qt::ElideRight, breite);
+        satz.gekuerzt = satz.text != text_ || QFontMetricsF(satz.schrift).capHeight() > hoehe + 1;
     }
     return satz;
 }
@@ -188,7 +190,7 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
     const Satz satz = gesetzt();
     maler.setFont(satz.schrift);
-    maler.drawText(rect(), static_cast<int>(ausrichtung_) | satz.art, satz.text);
+    maler.drawText(contentsRect(), static_cast<int>(ausrichtung_) | satz.art, satz.text);
 }
 
 }  // namespace tarvel::ui
