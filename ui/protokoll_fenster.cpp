@@ -245,6 +245,7 @@ blattseiten ProtokollFenster::seiten() const {
     }();
     tabellenblatt blatt{windowTitle(), QString::fromStdString(logik_.kopf()), {}, {}};
     std::vector<std::string> namen;
+    namen.reserve(spuren_max);
     for (const int spur : alle_spuren) {
         namen.push_back(logik_.fahrer(spur));
     }
