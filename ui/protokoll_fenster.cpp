@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -225,6 +226,8 @@ void ProtokollFenster::wahl_zeigen() {
         tabelle_->selectionModel()->setCurrentIndex(zelle,
                                                     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         tabelle_->scrollTo(zelle);
+        // once more when all above it have taken their room
+        QTimer::singleShot(0, tabelle_, [this] { tabelle_->scrollTo(tabelle_->currentIndex()); });
     } else {
         tabelle_->selectionModel()->clear();
     }
