@@ -237,7 +237,8 @@ void hergangsleser::strafe(const geschehen& g) {
     if (g.nummer == 1) {
         nach_pause_[g.spur] = true;
     } else {
-        zeitstrafe_[g.fahrer] += g.wert;
+        constexpr std::int64_t hoechstens_s = 1'000'000;  // whatever a log says, their sum is a number
+        zeitstrafe_[g.fahrer] += std::clamp<std::int64_t>(g.wert, 0, hoechstens_s);
     }
 }
 
