@@ -26,6 +26,11 @@ void steuerelement::text_setzen(std::string& ziel, std::string_view neu) {
 }
 
 void steuerelement::text(std::string_view neu) {
+    text(neu, {});
+}
+
+void steuerelement::text(std::string_view neu, std::string_view davor) {
+    text_setzen(davor_, davor);
     text_setzen(text_, neu);
 }
 
@@ -118,7 +123,11 @@ void liste::zeilen(std::vector<std::string> neu, std::vector<std::string> gezeig
     melden();
 }
 
-void liste::hinzufuegen(std::string_view zeile) {
+void liste::hinzufuegen(std::string_view zeile, std::string_view gezeigt) {
+    if (!gezeigt.empty() && gezeigt != zeile) {
+        gezeigt_.insert(gezeigt_.end(), zeilen_.begin() + static_cast<std::ptrdiff_t>(gezeigt_.size()), zeilen_.end());
+        gezeigt_.emplace_back(gezeigt);
+    }
     zeilen_.emplace_back(zeile);
     melden();
 }

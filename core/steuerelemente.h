@@ -46,6 +46,9 @@ public:
 
     const std::string& text() const { return text_; }
     void text(std::string_view neu);
+    /// Drawn in front of `text` until that is set anew: the minutes of a lap, which its short form leaves out.
+    const std::string& davor() const { return davor_; }
+    void text(std::string_view neu, std::string_view davor);
     bool sichtbar() const { return sichtbar_; }
     void sichtbar(bool neu) { setzen(sichtbar_, neu); }
     bool aktiviert() const { return aktiviert_; }
@@ -92,6 +95,7 @@ protected:
 private:
     steuer_beobachter* beobachter_ = nullptr;
     std::string text_;
+    std::string davor_;
     std::string tipp_;
     std::string ansage_;
     std::optional<farbe> schriftfarbe_;
@@ -207,7 +211,8 @@ public:
     const std::string& gezeigt(std::size_t zeile) const {
         return zeile < gezeigt_.size() ? gezeigt_[zeile] : zeilen_[zeile];
     }
-    void hinzufuegen(std::string_view zeile);
+    /// `gezeigt` is drawn in its place, if there is one.
+    void hinzufuegen(std::string_view zeile, std::string_view gezeigt = {});
     void leeren();
     void letzte_entfernen();
     /// Makes room, so that rows up to this number are added without an allocation.

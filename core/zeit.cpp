@@ -20,6 +20,11 @@ std::string zeit_formatieren(zeit_ms zeit, bool lang, const trennzeichen_tabelle
     return text;
 }
 
+std::string minuten_davor(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
+    constexpr zeit_ms minute = 60000;
+    return zeit < minute ? std::string() : std::to_string(zeit / minute) + trennzeichen[0];
+}
+
 std::string datum_text(const plattform::datum_uhrzeit& moment) {
     return ziffern(moment.tag, 2) + "." + ziffern(moment.monat, 2) + "." + ziffern(moment.jahr, 4);
 }

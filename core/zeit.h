@@ -25,6 +25,8 @@ inline const trennzeichen_tabelle trennzeichen_standard{":", ",", ";"};
 /// Long: minutes, seconds, thousandths ("01:23,456"), hours dropped. Short: seconds and thousandths only ("23,456"), so
 /// a lap of 65 s shows as "05,000". Negative durations count as 0.
 std::string zeit_formatieren(zeit_ms zeit, bool lang, const trennzeichen_tabelle& trennzeichen);
+/// What the short form leaves out: "1:", or nothing below a minute.
+std::string minuten_davor(zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 
 /// "21.11.2026".
 std::string datum_text(const plattform::datum_uhrzeit& moment);

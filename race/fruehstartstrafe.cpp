@@ -1,6 +1,7 @@
 #include "race/fruehstartstrafe.h"
 
 #include "core/zeit.h"
+#include "race/rundenanzeige.h"
 
 namespace tarvel {
 
@@ -64,7 +65,7 @@ bool fruehstartstrafe::gesperrt(int spur) const {
 void fruehstartstrafe::nullzeile_eintragen(int spur) {
     liste& runden = um_.bahn.t_liste.at(feld_index(spur));
     if (runden.sichtbar()) {
-        runden.hinzufuegen(" 0. " + zeit_formatieren(0, false, um_.einst.trennzeichen));
+        kurz_auflisten(runden, 0, 0, um_.einst.trennzeichen);
         runden.markieren(0);
     }
 }

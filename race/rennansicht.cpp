@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/zeit.h"
+#include "race/rundenanzeige.h"
 
 namespace tarvel {
 namespace {
@@ -246,7 +247,7 @@ void rennansicht::anzeigen_leeren() {
 void rennansicht::stand_zeigen() {
     bahn1& bahn = um_.bahn;
     const rundenkonto& konto = um_.zustand.konto;
-    const auto kurz = [this](zeit_ms zeit) { return zeit_formatieren(zeit, false, um_.einst.trennzeichen); };
+    const trennzeichen_tabelle& trennzeichen = um_.einst.trennzeichen;
     for (const int spur : alle_spuren) {
         const int runden = konto.runden(spur);
         const bool disqualifiziert = um_.zustand.spur[spur].disqualifiziert;
@@ -267,12 +268,12 @@ void rennansicht::stand_zeigen() {
             zaehler_verkleinern(bahn, spur, 1000);
         }
         if (runden > 0) {
-            bahn.lrunde[spur].text(kurz(konto.rundenzeit(spur, runden)));
-            bahn.brunde[spur].text(kurz(konto.beste(spur)));
+            kurz_zeigen(bahn.lrunde[spur], konto.rundenzeit(spur, runden), trennzeichen);
+            kurz_zeigen(bahn.brunde[spur], konto.beste(spur), trennzeichen);
         }
         liste& rundenliste = bahn.t_liste.at(feld_index(spur));
         for (int runde = 0; rundenliste.sichtbar() && runde <= runden; ++runde) {
-            rundenliste.hinzufuegen(" " + std::to_string(runde) + ". " + kurz(konto.rundenzeit(spur, runde)));
+            kurz_auflisten(rundenliste, runde, konto.rundenzeit(spur, runde), trennzeichen);
         }
         rundenliste.markieren(runden);
     }

@@ -1,8 +1,15 @@
 #pragma once
 
+#include "core/steuerelemente.h"
+#include "core/zeit.h"
 #include "race/umgebung.h"
 
 namespace tarvel {
+
+/// "23,456", and from a minute on with the minutes drawn in front of that.
+void kurz_zeigen(steuerelement& label, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
+/// The same as a row of a lane's laps.
+void kurz_auflisten(liste& zeilen, int runde, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 
 /// What the race window and the loudspeaker tell of a lap that is complete.
 class rundenanzeige {

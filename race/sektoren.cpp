@@ -18,11 +18,11 @@ constexpr ereignis_art art_von(int spur, int sensor) {
     return erste_zwischenzeit + sensoren_je_spur * (spur - 1) + sensor - 1;
 }
 
-void anzeigen_in(bahn1& bahn, int spur, sektor_ort ort, const std::string& text) {
+void anzeigen_in(bahn1& bahn, int spur, sektor_ort ort, const std::string& text, const std::string& davor = {}) {
     if (ort == sektor_ort::klein) {
-        bahn.brunde[spur].text(text);
+        bahn.brunde[spur].text(text, davor);
     } else if (ort == sektor_ort::gross) {
-        bahn.lrunde[spur].text(text);
+        bahn.lrunde[spur].text(text, davor);
     }
 }
 
@@ -132,7 +132,8 @@ void sektoren::fahrer_umsetzen(const spuren<int>& herkunft) {
 }
 
 void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
-    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen));
+    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen),
+                minuten_davor(zeit, um_.einst.trennzeichen));
     std::string text = sektor_tempo_text(um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur], zeit,
                                          um_.einst.real_speed ? std::optional(um_.param.massstab) : std::nullopt);
     if (text.empty()) {

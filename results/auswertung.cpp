@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "core/zeit.h"
+#include "race/rundenanzeige.h"
 #include "results/ergebnisdatei.h"
 #include "results/ergebnistexte.h"
 #include "results/papiername.h"
@@ -213,7 +214,7 @@ void auswertung::spur_anzeigen(const rennergebnis::spur& s) {
     fahrzeug[i].text(s.fahrzeug);
     bilder_anzeigen(s);
     runden_aus[i].text(text::runden(s));
-    beste_aus[i].text(text::beste(s, trennzeichen));
+    kurz_zeigen(beste_aus[i], s.beste, trennzeichen);
     zeit_aus[i].text(text::zeit(s, trennzeichen));
     abstandlabel[i].text(text::abstand(ergebnis(), s, trennzeichen));
     abstandlabel[i].sichtbar(!abstandlabel[i].text().empty());

@@ -23,7 +23,7 @@ std::string zeit(const spur& s, const trennzeichen_tabelle& trennzeichen) {
 }
 
 std::string beste(const spur& s, const trennzeichen_tabelle& trennzeichen) {
-    return zeit_formatieren(s.beste, false, trennzeichen);
+    return minuten_davor(s.beste, trennzeichen) + zeit_formatieren(s.beste, false, trennzeichen);
 }
 
 std::string abstand(const rennergebnis& ergebnis, const spur& s, const trennzeichen_tabelle& trennzeichen) {

@@ -44,6 +44,21 @@ TEST_F(Rundenzaehlung, ZaehltRundenZeitenUndBesteRundeJeSpur) {
     EXPECT_EQ(t.p.rennen.zustand.fuehrungsrunden, 3);
 }
 
+TEST_F(Rundenzaehlung, MinutenStehenVorDerKurzenZeit) {
+    const auto gezeigt = [](const bezeichnung& label) { return label.davor() + label.text(); };
+    t.runde_nach(1000, "1");
+    t.runde_nach(61322, "1");
+    EXPECT_EQ(t.bahn().lrunde[1].text(), "01,322");
+    EXPECT_EQ(gezeigt(t.bahn().lrunde[1]), "1:01,322");
+    EXPECT_EQ(gezeigt(t.bahn().brunde[1]), "1:01,322");
+    t.runde_nach(9000, "1");
+    EXPECT_EQ(gezeigt(t.bahn().lrunde[1]), "09,000");
+    EXPECT_EQ(gezeigt(t.bahn().brunde[1]), "09,000");
+    const class liste& zeilen = t.bahn().t_liste[0];
+    EXPECT_EQ(zeilen.gezeigt(1), " 1. 1:01,322");
+    EXPECT_EQ(zeilen.gezeigt(2), " 2. 09,000");
+}
+
 TEST_F(Rundenzaehlung, DieKuerzesteRundeIstDieEingegebeneUndEineZehntelsekunde) {
     ASSERT_EQ(t.p.form1.wertmin.text(), "5");
     t.runde_nach(1000, "1");

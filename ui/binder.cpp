@@ -152,7 +152,7 @@ TextAnzeige* Binder::anzeige(steuerelement& element, const QString& name) {
     auto* widget = new TextAnzeige(eltern_);
     std::optional<QColor> eigene;  // while the control has set another
     verbinden(element, widget, name, [&element, widget, eigene]() mutable {
-        widget->setText(als_text(element.text()));
+        widget->setText(als_text(element.davor() + element.text()));
         if (element.schriftfarbe()) {
             eigene = eigene.value_or(widget->farbe());
             widget->setFarbe(stil::farbe_von(*element.schriftfarbe()));
