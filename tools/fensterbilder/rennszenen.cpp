@@ -74,6 +74,20 @@ QWidget& tausend_runden(buehne& b) {
     return b.o.bahn1;
 }
 
+/// Laps of more than a minute.
+template <bool zeilen>
+QWidget& lange_runden(buehne& b) {
+    b.p.einst.darstellung_zeile = zeilen;
+    b.einrichten("Runden", "20", {1, 2, 3, 4, 5, 6});
+    b.t.bahn().Command1.klicken();
+    b.t.runde_nach(1000, "123456");
+    for (const char* spur : {"1", "2", "3", "4", "5", "6"}) {
+        b.t.runde_nach(spur[0] == '1' ? 61322 : 1200, spur);
+    }
+    b.t.runde_nach(58007, "1");
+    return b.o.bahn1;
+}
+
 void einfahren_zeigen(buehne& b, bool runden, int laenge, std::initializer_list<int> spuren) {
     b.p.einst.w_edauer_runden = runden;
     b.p.einst.w_edauer = laenge;
@@ -269,6 +283,8 @@ const std::vector<szeneneintrag> alle_rennszenen{
          b.rennen(64000, {1, 2, 3});
          return b.o.bahn1;
      }},
+    {"rennen_mit_langen_runden", lange_runden<false>},
+    {"rennen_mit_langen_runden_zeilen", lange_runden<true>},
     {"rennen_control_unit_start",
      [](buehne& b) -> QWidget& {
          b.control_unit_anschliessen();
