@@ -69,7 +69,8 @@ struct bahn1 {
     spuren<bezeichnung> bestzeit_label;  ///< best time of the lane before the race; hidden if there is none
     bezeichnung bestzeit_gesamt;         ///< the record of the track, with its holder
     bezeichnung ergebnisfolge;           ///< in its place behind the end: the order of the result, where it is another;
-                                         ///< and for a moment why no pause begins
+                                         ///< while they drive, who is ahead by the time that counts where
+                                         ///< another leads; and for a moment why no pause begins
 
     form hintergrund;     ///< behind everything
     rennuhr_felder uhr1;  ///< main clock: time left, in a lap race time driven
@@ -147,6 +148,7 @@ struct bahn1 {
         std::string noch_gesperrt;    ///< behind a false start, or a pause's penalty
         std::string mit_strafe;       ///< the lap that was just shown
         std::string runde_wartet;     ///< counts behind a penalty
+        std::string nach_zeit_vorn;   ///< in front of the driver
         rueckstand_worte zurueck;
         std::array<std::string, 3> training;  ///< its kinds
     };

@@ -138,7 +138,8 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
     return texte.text("noch gesperrt", bahn.wort.noch_gesperrt)
         .text("mit Strafe", bahn.wort.mit_strafe)
-        .text("erst ab", bahn.wort.erst_ab);
+        .text("erst ab", bahn.wort.erst_ab)
+        .text("Nach gewerteter Zeit vorn:", bahn.wort.nach_zeit_vorn);
 }
 
 }  // namespace tarvel

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "race/zeitfuehrung.h"
 
 namespace tarvel {
 namespace {
@@ -114,7 +115,7 @@ void rennlage::nachfuehren() {
         hinweis_zeigen(spur);
     }
     pause_zeigen();
-    sperre_zeigen();
+    rekordzeile_zeigen(erste);
     restrunden_zeigen();
 }
 
@@ -287,13 +288,47 @@ void rennlage::pause_zeigen() {
     dauer.sichtbar(da);
 }
 
-void rennlage::sperre_zeigen() {
+bool rennlage::pause_eben_verweigert() const {
     const zeit_ms seither = um_.zeit.messzeit_lesen() - um_.zustand.pause.zu_frueh_verlangt;
-    const bool da = um_.einst.rennbild.worte && seither >= 0 && seither < gesagt_ms && !um_.zustand.chaos_aktiv &&
-                    !um_.zustand.rennen_beendet;
-    if (std::exchange(sperre_gezeigt_, da) != da && !um_.zustand.rennen_beendet) {  // then the result stands there
-        t_.ansicht.in_der_rekordzeile(da ? um_.bahn.wort.pause_gesperrt : std::string());
+    return seither >= 0 && seither < gesagt_ms && !um_.zustand.chaos_aktiv;
+}
+
+/// Once more only where a lap or a penalty has come since: the times are added up from the first lap on.
+int rennlage::vorn_nach_zeit_neben(int fuehrende) {
+    zeitgrund neu{fuehrende, {}, {}, {}, {}};
+    for (const int spur : alle_spuren) {
+        const spur_zustand& zustand = um_.zustand.spur[spur];
+        neu.dabei[spur] = um_.param.spur_aktiv[spur] && !zustand.disqualifiziert;
+        neu.runden[spur] = um_.zustand.konto.runden(spur);
+        neu.stempel[spur] = um_.zustand.konto.stempel(spur, neu.runden[spur]);
+        neu.strafe[spur] = dauer_ms(zustand.strafzeit).count();
     }
+    if (neu != zeitgrund_) {
+        zeitgrund_ = neu;
+        vorn_ = um_.param.auswertung_nach_rennen == sortier_modus::runden
+                    ? vorn_nach_zeit(um_.zustand.konto, fuehrende, neu.dabei, neu.strafe)
+                    : 0;
+    }
+    return vorn_;
+}
+
+void rennlage::rekordzeile_zeigen(int fuehrende) {
+    if (um_.zustand.rennen_beendet) {  // then the result stands there
+        rekordzeile_ = {};
+        return;
+    }
+    zeilengrund neu;
+    if (um_.einst.rennbild.worte) {
+        neu = {pause_eben_verweigert(), vorn_nach_zeit_neben(fuehrende)};
+    }
+    if (neu == rekordzeile_) {
+        return;
+    }
+    rekordzeile_ = neu;
+    const bahn1::worte& wort = um_.bahn.wort;
+    const std::string vorn =
+        neu.vorn == 0 ? std::string() : wort.nach_zeit_vorn + " " + um_.bahn.namenslabel[neu.vorn].text();
+    t_.ansicht.in_der_rekordzeile(neu.pause_verweigert ? wort.pause_gesperrt : vorn);
 }
 
 void rennlage::restrunden_zeigen() {

@@ -40,7 +40,9 @@ private:
     void hinweis_zeigen(int spur);
     void pause_zeigen();
     /// Who asks for another pause right behind one is told why none begins.
-    void sperre_zeigen();
+    bool pause_eben_verweigert() const;
+    int vorn_nach_zeit_neben(int fuehrende);
+    void rekordzeile_zeigen(int fuehrende);
     void restrunden_zeigen();
 
     renn_umgebung um_;
@@ -76,7 +78,26 @@ private:
     std::string hinweis_gesagt(const hinweisgrund& g) const;
     spuren<hinweisgrund> hinweisgrund_{};
     int pausensekunden_ = 0;
-    bool sperre_gezeigt_ = false;
+    /// Likewise.
+    struct zeilengrund {
+        bool pause_verweigert = false;
+        int vorn = 0;  ///< by the time that counts, while another leads over the line
+
+        bool operator==(const zeilengrund&) const = default;
+    };
+    zeilengrund rekordzeile_;
+    /// All that `vorn_` follows from.
+    struct zeitgrund {
+        int fuehrende = 0;
+        spuren<bool> dabei{};
+        spuren<int> runden{};
+        spuren<zeit_ms> stempel{};
+        spuren<zeit_ms> strafe{};
+
+        bool operator==(const zeitgrund&) const = default;
+    };
+    zeitgrund zeitgrund_;
+    int vorn_ = 0;
     int restrunden_ = 0;
 };
 

@@ -311,5 +311,37 @@ TEST_F(Rennlage, ZielHatSeinenPlatzUndWerDraussenIstFuehrtNicht) {
     EXPECT_EQ(sagt(3), "");
 }
 
+TEST_F(Rennlage, WerNachGewerteterZeitVornIstStehtDaSolangeEinAndererFuehrt) {
+    const auto gesagt = [this] {
+        t.p.rennen.lage.nachfuehren();
+        return t.bahn().ergebnisfolge.sichtbar() ? t.bahn().ergebnisfolge.text() : "";
+    };
+    t.starten("Runden", "9", {1, 2, 3});
+    t.runde_nach(1000, "1");
+    t.runde_nach(600, "2");
+    t.runde_nach(100, "3");
+    t.runde_nach(7000, "1");
+    EXPECT_EQ(gesagt(), "") << "nobody else has a lap";
+    t.runde_nach(200, "2");
+    EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 2");
+    t.runde_nach(100, "3");
+    EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 2") << "no further ahead than the second";
+    t.runde_nach(7000, "1");
+    EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 2") << "compared at the lap that both have";
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(300);
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(gesagt(), "Neue Pause erst 2,5 s nach „Weiter“");
+    t.maschine.laufen(2500);
+    EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 2");
+    t.runde_nach(5000, "1");
+    EXPECT_EQ(gesagt(), "") << "lapped";
+    t.runde_nach(400, "2");
+    t.p.rennen.zustand.spur[2].strafzeit = 5s;
+    EXPECT_EQ(gesagt(), "") << "a penalty counts with it";
+}
+
 }  // namespace
 }  // namespace tarvel
