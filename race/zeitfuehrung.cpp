@@ -22,12 +22,13 @@ int vorn_nach_zeit(const rundenkonto& konto, int fuehrende, const spuren<bool>& 
     zeit_ms vorsprung = 0;
     for (const int spur : alle_spuren) {
         const int gemeinsam = fuehrende == 0 ? 0 : std::min(konto.runden(spur), konto.runden(fuehrende));
-        const bool in_der_runde = gemeinsam > 0 && konto.runden(fuehrende) - konto.runden(spur) <= 1;
+        const bool in_der_runde = gemeinsam > 0 && konto.runden(fuehrende) - konto.runden(spur) <= 1 &&
+                                  konto.stempel(fuehrende, gemeinsam) <= konto.stempel(spur, gemeinsam);
         if (!dabei[spur] || spur == fuehrende || !in_der_runde) {
             continue;
         }
-        const zeit_ms seiner = zeit_bis(konto, fuehrende, gemeinsam) + strafe[fuehrende] -
-                               zeit_bis(konto, spur, gemeinsam) - strafe[spur];
+        const zeit_ms seiner =
+            zeit_bis(konto, fuehrende, gemeinsam) + strafe[fuehrende] - zeit_bis(konto, spur, gemeinsam) - strafe[spur];
         if (seiner > vorsprung) {
             vorsprung = seiner;
             vorn = spur;

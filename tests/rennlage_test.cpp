@@ -336,11 +336,20 @@ TEST_F(Rennlage, WerNachGewerteterZeitVornIstStehtDaSolangeEinAndererFuehrt) {
     EXPECT_EQ(gesagt(), "Neue Pause erst 2,5 s nach „Weiter“");
     t.maschine.laufen(2500);
     EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 2");
-    t.runde_nach(5000, "1");
-    EXPECT_EQ(gesagt(), "") << "lapped";
-    t.runde_nach(400, "2");
     t.p.rennen.zustand.spur[2].strafzeit = 5s;
-    EXPECT_EQ(gesagt(), "") << "a penalty counts with it";
+    EXPECT_EQ(gesagt(), "Nach gewerteter Zeit vorn: Fahrer 3") << "a penalty counts with it";
+    t.runde_nach(5000, "1");
+    EXPECT_EQ(gesagt(), "") << "they have been lapped";
+}
+
+TEST_F(Rennlage, EinUeberholterIstNichtNachZeitVorn) {
+    fahren("Runden", "9");
+    t.runde_nach(7000, "1");
+    t.runde_nach(500, "2");
+    t.runde_nach(6000, "2");
+    t.p.rennen.lage.nachfuehren();
+    EXPECT_EQ(fuehrt(), 2);
+    EXPECT_FALSE(t.bahn().ergebnisfolge.sichtbar());
 }
 
 }  // namespace
