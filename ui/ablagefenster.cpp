@@ -22,7 +22,9 @@ Ablagefenster::teile Ablagefenster::aufteilen(int spaltenbreite, bezeichnung& ko
     TextAnzeige* anzeige = binder().anzeige(kopf, kopfname);
     anzeige->setFett(true);
     anzeige->setSchriftPx(kopf_px);
-    anzeige->setZweizeilig();
+    constexpr int zeilen = 3;  // six long names
+    anzeige->setMehrzeilig(zeilen);
+    anzeige->setHoeheNachText();
     anzeige->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     t.kopfzeile = new QHBoxLayout;
     t.kopfzeile->addWidget(anzeige, 1);

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/stil.h"
 
@@ -12,6 +13,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double kleinste_verkleinerung = 0.4;
+constexpr double gewinn = 1.2;  // a little larger is not worth another line
 
 }  // namespace
 
@@ -34,6 +36,9 @@ void TextAnzeige::setText(const QString& text) {
     }
     text_ = text;
     setAccessibleDescription(text);
+    if (sizePolicy().hasHeightForWidth()) {
+        updateGeometry();
+    }
     update();
 }
 
@@ -74,6 +79,13 @@ void TextAnzeige::setBlass(bool blass) {
 void TextAnzeige::setMehrzeilig(int hoechstens) {
     zeilen_ = hoechstens;
     update();
+}
+
+void TextAnzeige::setHoeheNachText() {
+    QSizePolicy wie = sizePolicy();
+    wie.setHeightForWidth(true);
+    wie.setVerticalPolicy(QSizePolicy::Minimum);
+    setSizePolicy(wie);
 }
 
 void TextAnzeige::setFarbe(const QColor& farbe) {
@@ -121,6 +133,15 @@ QSize TextAnzeige::minimumSizeHint() const {
     return {1, 1};
 }
 
+int TextAnzeige::heightForWidth(int breite) const {
+    const QFontMetricsF masse(schrift_);
+    QSizeF platz = masse.size(0, text_);
+    for (int anzahl = 2; platz.width() > gewinn * breite && anzahl <= zeilen_; ++anzahl) {
+        platz = masse.size(0, umbrochen(text_, masse, anzahl));
+    }
+    return static_cast<int>(std::ceil(platz.height()));
+}
+
 void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) const {
     const double breite = std::clamp(masse.horizontalAdvance(text_) + height() * 0.6, 0.0, width() * 1.0);
     const double rund = std::min<double>(breite, height()) / 6;
@@ -141,7 +162,6 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
         const QString zeilen = umbrochen(text_, masse, anzahl);
         const QSizeF platz = masse.size(0, zeilen);
         const double gebrochen = std::min({1.0, breite / platz.width(), hoehe / platz.height()});
-        constexpr double gewinn = 1.2;  // a little more is not worth another line
         if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : gewinn * faktor)) {
             satz.text = zeilen;
             faktor = gebrochen;

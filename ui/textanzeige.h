@@ -33,6 +33,8 @@ public:
     /// A text that is too long for its place breaks at gaps, where that leaves it larger.
     void setMehrzeilig(int hoechstens);
     void setZweizeilig() { setMehrzeilig(2); }
+    /// A layout gives it as many lines as it breaks into.
+    void setHoeheNachText();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
     /// The colour that windows have for this, light or dark as they are.
@@ -51,6 +53,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int breite) const override;
 
 protected:
     bool event(QEvent* ereignis) override;  ///< what is cut off is told whole under the pointer
