@@ -278,7 +278,7 @@ blattseiten ProtokollFenster::seiten() const {
             std::min(groesse.height() - kopf_hoehe,
                      70 + inhalt.legende.hoehe(schrift) +
                          zeile_hoehe_max * static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1)));
-        streifen_malen(maler, {0, kopf_hoehe, groesse.width(), hoehe}, inhalt, schrift);
+        streifen_malen(maler, {0, kopf_hoehe, groesse.width(), hoehe}, inhalt, schrift, stil::auf_papier());
     };
     return {windowTitle(), [liste](const QSizeF& groesse) { return 1 + liste.anzahl(groesse); },
             [liste, bild](QPainter& maler, const QSizeF& groesse, int nummer) {

@@ -64,8 +64,14 @@ private:
 /// Paints one strip. Marks that would cover each other are painted once.
 class streifenmaler {
 public:
-    streifenmaler(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
-        : maler_(maler), flaeche_(flaeche), inhalt_(inhalt), px_(schrift_px), mass_(flaeche, inhalt, schrift_px) {}
+    streifenmaler(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px,
+                  const stil::farbsatz& farben)
+        : maler_(maler),
+          flaeche_(flaeche),
+          inhalt_(inhalt),
+          px_(schrift_px),
+          farben_(farben),
+          mass_(flaeche, inhalt, schrift_px) {}
 
     void malen() {
         grund();
@@ -81,7 +87,7 @@ public:
         inhalt_.legende.malen(
             maler_,
             {mass_.feld().left(), mass_.feld().bottom() + 0.2 * px_, mass_.feld().width(), inhalt_.legende.hoehe(px_)},
-            px_);
+            px_, farben_);
     }
 
 private:
@@ -92,7 +98,7 @@ private:
     }
 
     void grund() {
-        maler_.fillRect(mass_.feld(), stil::karte);
+        maler_.fillRect(mass_.feld(), farben_.karte);
         for (std::size_t i = 0; i < inhalt_.zeilen.size(); ++i) {
             const streifeninhalt::zeile& z = inhalt_.zeilen[i];
             const QRectF zeile = mass_.zeile(i);
@@ -101,7 +107,7 @@ private:
             const double breite = (namen_em - 1) * px_ - 8;
             const QFont schrift = schrift_mit(px_, false);
             maler_.setFont(schrift);
-            maler_.setPen(stil::schrift);
+            maler_.setPen(farben_.schrift);
             maler_.drawText(QRectF(flaeche_.left() + px_ + 4, zeile.top(), breite, zeile.height()),
                             static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine),
                             QFontMetricsF(schrift).elidedText(z.name, Qt::ElideRight, breite));
@@ -121,24 +127,24 @@ private:
             }
         }
         const zeit_ms von = inhalt_.zeitraum.von;
-        maler_.setPen(QPen(stil::linie, px_ / 14));
+        maler_.setPen(QPen(farben_.linie, px_ / 14));
         for (zeit_ms t = von / schritt * schritt; t <= inhalt_.zeitraum.bis; t += schritt) {
             if (t < von) {
                 continue;
             }
             const double x = mass_.x(t);
-            maler_.setPen(QPen(stil::linie, px_ / 14));
+            maler_.setPen(QPen(farben_.linie, px_ / 14));
             maler_.drawLine(QPointF(x, mass_.feld().top()), QPointF(x, mass_.feld().bottom()));
             QRectF platz(x - 3 * px_, flaeche_.top(), 6 * px_, 1.5 * px_);
             platz.moveRight(std::min(platz.right(), flaeche_.right() + 1.6 * px_));  // the letters stay on the sheet
             blatttext(maler_, platz, Qt::AlignHCenter,
                       QString::fromStdString(hergang_zeit(t, schritt < 1000 ? 1 : 0, ',')),
-                      {0.85 * px_, false, stil::schrift_leise});
+                      {0.85 * px_, false, farben_.schrift_leise});
         }
     }
 
     void linien() {
-        maler_.setPen(QPen(stil::linie, px_ / 10));
+        maler_.setPen(QPen(farben_.linie, px_ / 10));
         for (std::size_t i = 0; i <= inhalt_.zeilen.size(); ++i) {
             const double y = mass_.zeile(i).top();
             maler_.drawLine(QPointF(mass_.feld().left(), y), QPointF(mass_.feld().right(), y));
@@ -152,7 +158,7 @@ private:
                 const double x = std::max(mass_.x(g.seit_gruen), mass_.feld().left());
                 feld.setLeft(x);
                 feld.setRight(std::max(std::min(mass_.x(g.bis), mass_.feld().right()), x + px_ / 8));
-                maler_.fillRect(feld, farbe_von(z));
+                maler_.fillRect(feld, farbe_von(z, farben_));
             }
         }
     }
@@ -168,7 +174,7 @@ private:
             const auto vorher = zuletzt.find({g.spur, g.ist_abgelehnt()});
             if (vorher == zuletzt.end() || x - vorher->second >= px_ / 12) {
                 zuletzt[{g.spur, g.ist_abgelehnt()}] = x;
-                marke_malen(maler_, *z, mass_.zeile_von(g.spur), x, px_);
+                marke_malen(maler_, *z, farbe_von(*z, farben_), mass_.zeile_von(g.spur), x, px_);
             }
         }
     }
@@ -180,10 +186,10 @@ private:
         const geschehen& g = inhalt_.geschehnisse[static_cast<std::size_t>(inhalt_.gewaehlt)];
         const QRectF zeile = mass_.zeile_von(g.spur);
         const double x = mass_.x(g.seit_gruen);
-        QColor hell = stil::akzent;
+        QColor hell = farben_.akzent;
         hell.setAlpha(60);
         maler_.fillRect(QRectF(x - 0.4 * px_, zeile.top(), 0.8 * px_, zeile.height()), hell);
-        maler_.setPen(QPen(stil::akzent, px_ / 10));
+        maler_.setPen(QPen(farben_.akzent, px_ / 10));
         maler_.setBrush(Qt::NoBrush);
         maler_.drawRect(QRectF(x - 0.4 * px_, zeile.top(), 0.8 * px_, zeile.height()));
     }
@@ -192,6 +198,7 @@ private:
     QRectF flaeche_;
     const streifeninhalt& inhalt_;
     double px_;
+    const stil::farbsatz& farben_;
     feldmass mass_;
 };
 
@@ -215,8 +222,9 @@ streifeninhalt streifeninhalt_bilden(const protokollfenster& logik) {
     return inhalt;
 }
 
-void streifen_malen(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px) {
-    streifenmaler(maler, flaeche, inhalt, schrift_px).malen();
+void streifen_malen(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px,
+                    const stil::farbsatz& farben) {
+    streifenmaler(maler, flaeche, inhalt, schrift_px, farben).malen();
 }
 
 Protokollstreifen::Protokollstreifen(protokollfenster& logik, QWidget* eltern) : QWidget(eltern), logik_(logik) {
@@ -253,10 +261,11 @@ QSize Protokollstreifen::minimumSizeHint() const {
 void Protokollstreifen::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
-    maler.fillRect(rect(), stil::karte);  // as on paper, as all charts
-    streifen_malen(maler, rect(), inhalt_, schriftPx());
+    const stil::farbsatz& farben = stil::auf_dem_schirm();
+    maler.fillRect(rect(), farben.karte);
+    streifen_malen(maler, rect(), inhalt_, schriftPx(), farben);
     if (hasFocus()) {
-        maler.setPen(QPen(stil::akzent, 1));
+        maler.setPen(QPen(farben.akzent, 1));
         maler.setBrush(Qt::NoBrush);
         maler.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     }

@@ -25,7 +25,8 @@ struct streifeninhalt {
 
 streifeninhalt streifeninhalt_bilden(const protokollfenster& logik);
 /// `schrift_px` is the height of its letters, from which all other measures follow.
-void streifen_malen(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px);
+void streifen_malen(QPainter& maler, const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px,
+                    const stil::farbsatz& farben);
 
 /// The strip in the window: the wheel zooms, dragging moves, a click chooses.
 class Protokollstreifen final : public QWidget {

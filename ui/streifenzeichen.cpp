@@ -11,10 +11,15 @@
 namespace tarvel::ui {
 namespace {
 
-const QColor startfarbe{20, 140, 60};
-const QColor pausenfarbe{255, 236, 150};
-const QColor tankfarbe{70, 130, 200};
-const QColor strafenfarbe{150, 80, 170};
+/// On paper and in a light window, and in a dark one.
+struct zeichenfarbe {
+    QColor hell;
+    QColor dunkel;
+};
+const zeichenfarbe startfarbe{{20, 140, 60}, {70, 200, 110}};
+const zeichenfarbe pausenfarbe{{255, 236, 150}, {104, 88, 26}};
+const zeichenfarbe tankfarbe{{70, 130, 200}, {100, 160, 230}};
+const zeichenfarbe strafenfarbe{{150, 80, 170}, {200, 140, 222}};
 
 std::string zeichenwort(const protokollfenster& logik, streifenzeichen z) {
     const auto gruppe = [&logik](protokollfenster::gruppe g) { return logik.Check_gruppe.at(g).text(); };
@@ -86,46 +91,48 @@ QRectF balkenfeld(streifenzeichen z, const QRectF& zeile) {
                : QRectF(zeile.left(), zeile.top() + oben * zeile.height(), zeile.width(), hoehe * zeile.height());
 }
 
-QColor farbe_von(streifenzeichen z) {
+QColor farbe_von(streifenzeichen z, const stil::farbsatz& farben) {
+    const bool hell = &farben == &stil::auf_papier();
+    const auto eine = [hell](const zeichenfarbe& f) { return hell ? f.hell : f.dunkel; };
     switch (z) {
         case streifenzeichen::gruen:
-            return startfarbe;
+            return eine(startfarbe);
         case streifenzeichen::abgelehnt:
-            return stil::akzent;
+            return farben.akzent;
         case streifenzeichen::strafe:
         case streifenzeichen::stromlos:
-            return strafenfarbe;
+            return eine(strafenfarbe);
         case streifenzeichen::tankt:
-            return tankfarbe;
+            return eine(tankfarbe);
         case streifenzeichen::pause:
-            return pausenfarbe;
+            return eine(pausenfarbe);
         default:
-            return stil::schrift;
+            return farben.schrift;
     }
 }
 
-void marke_malen(QPainter& maler, streifenzeichen z, const QRectF& zeile, double x, double px) {
+void marke_malen(QPainter& maler, streifenzeichen z, const QColor& farbe, const QRectF& zeile, double x, double px) {
     const double r = std::min(0.3 * px, 0.3 * zeile.height());
     const double y = zeile.center().y();
     switch (z) {
         case streifenzeichen::gruen:
         case streifenzeichen::ende:
-            maler.setPen(QPen(farbe_von(z), px / 6));
+            maler.setPen(QPen(farbe, px / 6));
             maler.drawLine(QPointF(x, zeile.top()), QPointF(x, zeile.bottom()));
             break;
         case streifenzeichen::abgelehnt:
-            maler.setPen(QPen(farbe_von(z), px / 6));
+            maler.setPen(QPen(farbe, px / 6));
             maler.drawLine(QPointF(x - r, y - r), QPointF(x + r, y + r));
             maler.drawLine(QPointF(x - r, y + r), QPointF(x + r, y - r));
             break;
         case streifenzeichen::runde:
-            maler.setPen(QPen(farbe_von(z), px / 10));
+            maler.setPen(QPen(farbe, px / 10));
             maler.drawLine(QPointF(x, zeile.top() + 0.2 * zeile.height()),
                            QPointF(x, zeile.top() + 0.66 * zeile.height()));
             break;
         default:
             maler.setPen(Qt::NoPen);
-            maler.setBrush(farbe_von(z));
+            maler.setBrush(farbe);
             maler.drawEllipse(QPointF(x, zeile.top() + 0.8 * zeile.height()), r, r);
     }
 }
@@ -146,7 +153,7 @@ streifenlegende legende_bilden(const protokollfenster& logik) {
     return legende;
 }
 
-void streifenlegende::malen(QPainter& maler, const QRectF& feld, double px) const {
+void streifenlegende::malen(QPainter& maler, const QRectF& feld, double px, const stil::farbsatz& farben) const {
     constexpr double zeichen_em = 1.2;
     constexpr double luecke_em = 0.4;
     constexpr double abstand_em = 1.3;
@@ -163,21 +170,22 @@ void streifenlegende::malen(QPainter& maler, const QRectF& feld, double px) cons
     const QFontMetricsF masse(schrift_mit(schrift_px, false));
     double x = feld.left();
     for (const eintrag& e : eintraege) {
+        const QColor farbe = farbe_von(e.zeichen, farben);
         const QRectF zeichenfeld(x, feld.center().y() - 0.6 * schrift_px, zeichen_em * schrift_px, 1.2 * schrift_px);
         if (e.zeichen == streifenzeichen::pause) {
-            maler.fillRect(zeichenfeld, farbe_von(e.zeichen));
+            maler.fillRect(zeichenfeld, farbe);
         } else if (ist_balken(e.zeichen)) {
             const double dick = 0.35 * schrift_px;
-            maler.fillRect(QRectF(x, feld.center().y() - dick / 2, zeichenfeld.width(), dick), farbe_von(e.zeichen));
+            maler.fillRect(QRectF(x, feld.center().y() - dick / 2, zeichenfeld.width(), dick), farbe);
         } else {
             const bool punkt = e.zeichen == streifenzeichen::ziel || e.zeichen == streifenzeichen::strafe;
-            marke_malen(maler, e.zeichen, zeichenfeld.translated(0, punkt ? -0.3 * zeichenfeld.height() : 0),
+            marke_malen(maler, e.zeichen, farbe, zeichenfeld.translated(0, punkt ? -0.3 * zeichenfeld.height() : 0),
                         zeichenfeld.center().x(), schrift_px);
         }
         const double wortbreite = masse.horizontalAdvance(e.wort);
         x = zeichenfeld.right() + luecke_em * schrift_px;
         blatttext(maler, {x, feld.top(), wortbreite + 1, feld.height()}, Qt::AlignLeft, e.wort,
-                  {schrift_px, false, stil::schrift_leise});
+                  {schrift_px, false, farben.schrift_leise});
         x += wortbreite + abstand_em * schrift_px;
     }
 }

@@ -9,6 +9,7 @@
 
 #include "race/rennhergang.h"
 #include "results/protokollfenster.h"
+#include "ui/stil.h"
 
 namespace tarvel::ui {
 
@@ -26,9 +27,10 @@ std::optional<streifenzeichen> zeichen_von(const geschehen& g);
 bool ist_balken(streifenzeichen z);
 /// The part of a lane's row, or of all rows for a pause, that such a bar takes.
 QRectF balkenfeld(streifenzeichen z, const QRectF& zeile);
-QColor farbe_von(streifenzeichen z);
-/// A mark at `x` of the row; `px` is the height of the letters beside it.
-void marke_malen(QPainter& maler, streifenzeichen z, const QRectF& zeile, double x, double px);
+/// In the colours of the window, or of paper.
+QColor farbe_von(streifenzeichen z, const stil::farbsatz& farben);
+/// A mark at `x` of the row, in the colour `farbe`; `px` is the height of the letters beside it.
+void marke_malen(QPainter& maler, streifenzeichen z, const QColor& farbe, const QRectF& zeile, double x, double px);
 
 /// What is what, for who does not know the strip: only what there is to see.
 struct streifenlegende {
@@ -40,7 +42,7 @@ struct streifenlegende {
 
     static constexpr double hoehe_em = 1.5;
     double hoehe(double px) const { return eintraege.empty() ? 0 : hoehe_em * px; }
-    void malen(QPainter& maler, const QRectF& feld, double px) const;
+    void malen(QPainter& maler, const QRectF& feld, double px, const stil::farbsatz& farben) const;
 };
 streifenlegende legende_bilden(const protokollfenster& logik);
 
