@@ -3,6 +3,8 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QListView>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -16,6 +18,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int dateispalte_breite = 240;
+constexpr int dateispalte_breite_max = 420;
 constexpr int fleck_px = 12;
 /// A refused crossing stands out, on light and on dark ground.
 struct Auszeichnung {
@@ -27,6 +30,22 @@ Auszeichnung abgelehnt_farben() {
     const bool dunkel = QGuiApplication::palette().base().color().lightness() < 128;
     return dunkel ? Auszeichnung{{74, 32, 38}, {255, 176, 180}} : Auszeichnung{{253, 234, 236}, stil::akzent};
 }
+
+/// Each row has as many lines as its names need.
+class Umbruchzeilen final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& wie, const QModelIndex& zeile) const override {
+        constexpr QMargins rand(9, 4, 9, 4);  // around the letters
+        constexpr int zeilen_max = 10;        // a damaged log may hold any name
+        const int breite = static_cast<const QListView*>(wie.widget)->viewport()->width();
+        const QRect platz = QRect(0, 0, breite, zeilen_max * wie.fontMetrics.lineSpacing());
+        const QRect text = wie.fontMetrics.boundingRect(platz.marginsRemoved(QMargins(rand.left(), 0, rand.right(), 0)),
+                                                        Qt::TextWordWrap, zeile.data().toString());
+        return {breite, std::min(text.height(), platz.height()) + rand.top() + rand.bottom()};
+    }
+};
 
 }  // namespace
 
@@ -126,6 +145,9 @@ void ProtokollFenster::dateispalte_fuellen(const teile& t) {
     liste->setWordWrap(true);
     liste->setUniformItemSizes(false);
     liste->setTextElideMode(Qt::ElideNone);
+    liste->setItemDelegate(new Umbruchzeilen(liste));
+    liste->setResizeMode(QListView::Adjust);
+    dateispalte_ = t.spalte;
     t.links->addWidget(liste, 1);
     binder().verbinden(logik_.Frame_dateien, t.spalte, "Frame_dateien", {});
 }
@@ -233,6 +255,11 @@ void ProtokollFenster::wahl_zeigen() {
     }
     tabelle_->viewport()->update();
     streifen_->neuerBlick();
+}
+
+void ProtokollFenster::resizeEvent(QResizeEvent* ereignis) {
+    Ablagefenster::resizeEvent(ereignis);
+    dateispalte_->setFixedWidth(std::clamp(width() * 22 / 100, dateispalte_breite, dateispalte_breite_max));
 }
 
 void ProtokollFenster::aufschlagen() {

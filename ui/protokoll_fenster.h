@@ -37,6 +37,9 @@ public:
     /// Pages with the strip, and the table as it is filtered.
     blattseiten seiten() const;
 
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
     void dateispalte_fuellen(const teile& t);
     QLayout* filterzeile();
@@ -50,6 +53,7 @@ private:
     void pdf_speichern(const dateien& ablage);
 
     protokollfenster& logik_;
+    QWidget* dateispalte_ = nullptr;
     Protokollstreifen* streifen_ = nullptr;
     Protokollmodell* modell_ = nullptr;
     QTableView* tabelle_ = nullptr;
