@@ -17,7 +17,9 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int feldbreite = 74;
-constexpr int listenbreite = 240;
+constexpr int listenbreite_min = 240;
+constexpr int listenbreite_max = 340;
+constexpr int listenabstand = 10;
 constexpr QMargins inhaltsrand(stil::fensterrand.left(), 4, stil::fensterrand.right(), stil::fensterrand.bottom());
 constexpr QSize bildgroesse(52, 36);
 constexpr QSize eigenes_bild_groesse(140, 80);
@@ -72,7 +74,8 @@ Form1Fenster::Form1Fenster(form1& logik, const dateien& ablage, Fensterverwaltun
     inhalt->setSpacing(6);
     inhalt->addWidget(rennen_gruppe());
     auto* spuren = new QGridLayout;
-    spuren->setSpacing(10);
+    spuren_ = spuren;
+    spuren->setSpacing(0);
     spuren->setColumnStretch(0, 1);
     spuren->addWidget(spuren_gruppe(), 0, 0);
     spuren->addWidget(fahrerliste(), 0, 1);
@@ -97,6 +100,14 @@ void Form1Fenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
     kopf_->setMaximumHeight(std::max(kopfhoehe, height() * 15 / 100));
     inhalt_->setContentsMargins(stil::zusammenhaltend(size(), inhaltsrand));
+    if (fahrerliste_->width() > 0) {
+        fahrerliste_->setFixedWidth(listenbreite());
+    }
+}
+
+int Form1Fenster::listenbreite() const {
+    constexpr int fuer_die_spuren = 980;
+    return std::clamp(width() - fuer_die_spuren, listenbreite_min, listenbreite_max);
 }
 
 QWidget* Form1Fenster::wartehinweis() {
@@ -182,7 +193,7 @@ QWidget* Form1Fenster::rennen_gruppe() {
 QWidget* Form1Fenster::spuren_gruppe() {
     QGroupBox* gruppe = binder().gruppe(logik_.Frame_spuren, "Frame_spuren");
     auto* raster = new QGridLayout(gruppe);
-    raster->setHorizontalSpacing(10);
+    raster->setHorizontalSpacing(8);
     raster->setVerticalSpacing(3);
     spurzeilen_ = new Spurzeilen(logik_, gruppe);
     using knoepfe = std::vector<std::pair<befehl*, QString>>;
@@ -260,6 +271,7 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
 
 QWidget* Form1Fenster::fahrerliste() {
     auto* gruppe = new QGroupBox(this);
+    fahrerliste_ = gruppe;
     gruppe->setFixedWidth(0);
     binder().verbinden(logik_.Frame_liste, gruppe, "Frame_liste", [this, gruppe] {
         gruppe->setTitle(QString::fromStdString(logik_.Frame_liste.text()));
@@ -269,7 +281,10 @@ QWidget* Form1Fenster::fahrerliste() {
                 weichend->setVisible(!offen);
             }
         };
-        const auto breite_geben = [gruppe, offen] { gruppe->setFixedWidth(offen ? listenbreite : 0); };
+        const auto breite_geben = [this, gruppe, offen] {
+            gruppe->setFixedWidth(offen ? listenbreite() : 0);
+            spuren_->setHorizontalSpacing(offen ? listenabstand : 0);
+        };
         // one after the other, with what follows in the layout between them: both at once would make the window grow
         if (offen) {
             platz_machen();
@@ -281,6 +296,7 @@ QWidget* Form1Fenster::fahrerliste() {
     });
     auto* aufbau = new QVBoxLayout(gruppe);
     QListView* liste = binder().listenfeld(logik_.fahrerreihe, "fahrerreihe");
+    liste->setTextElideMode(Qt::ElideRight);
     aufbau->addWidget(liste, 1);
     QLabel* hinweis = stil::leise(binder().label(logik_.Label_liste, "Label_liste"));
     hinweis->setWordWrap(true);
@@ -390,7 +406,6 @@ QWidget* Form1Fenster::statuszeile() {
     datei->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     aufbau->addWidget(datei, 1);
     aufbau->addWidget(binder().kasten(logik_.felder_merken, "felder_merken", true), 0, Qt::AlignVCenter);
-    aufbau->addSpacing(8);
     aufbau->addWidget(menueknopf(
         logik_.command_aussehen, "command_aussehen", [this] { return logik_.aussehensarten(); },
         [this](std::size_t i) { logik_.aussehen_waehlen(i); }));

@@ -31,12 +31,15 @@ private:
     QWidget* statuszeile();
     /// What gives its room to the list of drivers while that is open.
     QWidget* weichend(QWidget* inhalt);
+    int listenbreite() const;
     void spur_zeile(QGridLayout* raster, int spur);
 
     form1& logik_;
     const dateien& ablage_;
     QWidget* kopf_ = nullptr;    ///< the picture above all
     QLayout* inhalt_ = nullptr;  ///< of all below it
+    QGridLayout* spuren_ = nullptr;
+    QWidget* fahrerliste_ = nullptr;
     Spurzeilen* spurzeilen_ = nullptr;
     std::vector<QWidget*> weichen_der_liste_;
 };
