@@ -63,12 +63,14 @@ struct zeilenstueck {
 template <std::size_t anzahl>
 std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze) {
     constexpr double passt = 0.85;
+    constexpr double texte_noch = 0.7;  // more, and the laps of few lanes were smaller than those of many
     constexpr double texte_hoechstens = 0.55;
     double gebraucht = 1;
     for (const zeilenstueck& stueck : stuecke) {
         gebraucht += stueck.mindestens;
     }
-    const double gewaehrt = gebraucht < passt * ganze ? 1.0 : texte_hoechstens * ganze / gebraucht;
+    const double gewaehrt = gebraucht < passt * ganze ? std::min(1.0, texte_noch * ganze / gebraucht)
+                                                      : texte_hoechstens * ganze / gebraucht;
     std::array<double, anzahl> breiten{};
     std::array<bool, anzahl> fest{};
     for (bool neu = true; neu;) {
