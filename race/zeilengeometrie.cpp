@@ -29,19 +29,20 @@ void zeile_fahrer(const ansicht_inhalt& inhalt, const rechteck& ort, bool hoch, 
         stapel.oben(std::min({(tank > 0 ? 0.32 : 0.42) * ort.hoehe, 1100 * s, std::max(bleibt, wort)}));
     g[t::straflabel].ort = stapel.unten(strafe);
     tank_legen(inhalt, stapel.unten(tank), true, lesbar, g);
-    const bool schuld_oben = hoch && mittig(stapel.rest(), 900 * s).hoehe > 2.5 * lesbar;
+    constexpr double schuld_hoehe = 1500;
+    const bool schuld_oben = hoch && mittig(stapel.rest(), schuld_hoehe * s).hoehe > 3.2 * lesbar;
     if (schuld_oben) {  // the box has more of the height than the lights, and is found from afar
         zuschnitt quer(stapel.rest(), 2 * luecke);
-        const rechteck schuld = mittig(quer.rechts(std::max(0.24 * ort.breite, schuld_em * lesbar)), 1500 * s);
+        const rechteck schuld = mittig(quer.rechts(std::max(0.24 * ort.breite, schuld_em * lesbar)), schuld_hoehe * s);
         schuld_legen(schuld, titelplatz(0.3 * schuld.hoehe, lesbar), g);
         stapel = quer;
     }
     zuschnitt mitte(mittig(stapel.rest(), 900 * s), 2 * luecke);
-    g[t::Label_spur].ort = mitte.links(std::max((hoch ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
+    g[t::Label_spur].ort = mitte.links(std::max((schuld_oben ? 0.2 : 0.14) * ort.breite, 1.6 * lesbar));
     if (schuld_oben || !schuld_hier) {
         ampel_legen(mitte.rest(), luecke, g);
     } else {
-        const double kante = std::min<double>(mitte.rest().hoehe, 1.4 * lesbar);
+        const double kante = std::min<double>(mitte.rest().hoehe, (hoch ? 2.0 : 1.4) * lesbar);
         const double wunsch = kante + luecke + schuld_em * lesbar;
         const rechteck frei = mitte.rest();
         const double lampen = std::min(3 * std::min<double>(frei.hoehe, 1.2 * lesbar) + 2 * luecke, 0.62 * frei.breite);
