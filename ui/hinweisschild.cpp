@@ -1,6 +1,7 @@
 #include "ui/hinweisschild.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/lagezeichen.h"
 
@@ -26,7 +27,7 @@ void Hinweisschild::zeigen(const QString& text, spurhinweis was) {
 }
 
 void Hinweisschild::resizeEvent(QResizeEvent* /*ereignis*/) {
-    text_->setGeometry(rect().adjusted(height() * 9 / 10, 0, -2, 0));
+    text_->setGeometry(rect().adjusted(height() * 9 / 10, 0, -std::max(height() / 5, 4), 0));
 }
 
 void Hinweisschild::paintEvent(QPaintEvent* /*ereignis*/) {
