@@ -75,9 +75,9 @@ QWidget* Wettkampf2Fenster::blickfeld() {
     spuren->setColumnStretch(3, 18);
     spuren->setColumnStretch(spalte_danach, 17);
     spuren->addWidget(klein(logik_.Label_einsetzer, "Label_einsetzer"), spuren_max + 1, 0, 1, 3);
-    TextAnzeige* einsetzer = gross(logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", schrift_einsetzer);
-    einsetzer->setZweizeilig();
-    spuren->addWidget(einsetzer, spuren_max + 1, 3, 1, 3);
+    einsetzer_ = gross(logik_.Label_einsetzer_fahrer, "Label_einsetzer_fahrer", schrift_einsetzer);
+    einsetzer_->setZweizeilig();
+    spuren->addWidget(einsetzer_, spuren_max + 1, 3, 1, 3);
     spuren->setRowStretch(spuren_max + 1, 7);
     aufbau->addLayout(spuren, 31);
     spuren_ = spuren;
@@ -149,6 +149,8 @@ void Wettkampf2Fenster::spurzeile(QGridLayout& zeilen, int spur) {
     TextAnzeige* name = gross(logik_.Label_b.at(i), "Label_b" + nummer, schrift_fahrer);
     name->setFett(true);
     name->setZweizeilig();
+    name->installEventFilter(this);
+    fahrer_.push_back(name);
     zeilen.addWidget(name, spur, 3);
     TextAnzeige* danach = gross(logik_.Label_danach_b.at(i), "Label_danach_b" + nummer, schrift_fahrer);
     danach->setZweizeilig();
@@ -309,7 +311,19 @@ bool Wettkampf2Fenster::eventFilter(QObject* wer, QEvent* ereignis) {
     if (wer == plan_ && ereignis->type() == QEvent::Resize) {
         skalieren();
     }
+    if (ereignis->type() == QEvent::Paint && wer != plan_) {
+        einsetzer_angleichen();
+    }
     return Fenster::eventFilter(wer, ereignis);
+}
+
+/// Who drives is never smaller than who puts cars back. How small a long name is drawn shows when it has its place.
+void Wettkampf2Fenster::einsetzer_angleichen() {
+    auto px = static_cast<int>(std::lround(schrift_einsetzer * skala_));
+    for (const TextAnzeige* name : fahrer_) {
+        px = name->isVisible() && !name->text().isEmpty() ? std::min(px, name->schriftPx()) : px;
+    }
+    einsetzer_->setSchriftPx(px);
 }
 
 /// Letters as large as the lanes of the evening leave room for.
@@ -321,6 +335,7 @@ void Wettkampf2Fenster::skalieren() {
         zeilenhoehe * (2 * schrift_klein + schrift_paarung + 2 * schrift_einsetzer + zeilen * schrift_fahrer);
     const double hoehe = (height() - fuss_hoehe) * (logik_.Frame_liste.sichtbar() ? anteil_blick : 1);
     const double skala = std::clamp(std::min(width() / breite_entwurf, (hoehe - rand_entwurf) / entwurf), 0.3, 2.4);
+    skala_ = skala;
     binder().skala(skala);
     constexpr double klein_min_px = 13;
     for (const auto& [anzeige, entwurfsschrift] : kleine_) {

@@ -35,6 +35,7 @@ private:
     QLayout* fuss();
     void skalieren();
     void plan_skalieren(double skala);
+    void einsetzer_angleichen();
 
     wettkampf2& logik_;
     const dateien& ablage_;
@@ -42,6 +43,9 @@ private:
     QGridLayout* spuren_ = nullptr;
     std::vector<std::pair<TextAnzeige*, double>> kleine_;  ///< never too small to be read, with their font at scale 1
     QListView* plan_ = nullptr;
+    std::vector<TextAnzeige*> fahrer_;
+    TextAnzeige* einsetzer_ = nullptr;
+    double skala_ = 1;
 };
 
 }  // namespace tarvel::ui
