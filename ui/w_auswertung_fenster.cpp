@@ -328,6 +328,24 @@ QString WAuswertungFenster::balkenkopf() const {
     return text;
 }
 
+/// Of those that are scrolled through none is cut, where there is room for one.
+int WAuswertungFenster::ganze_spalten(int platz) {
+    int breite = 0;
+    int schritt = 1;
+    for (const spalte& eine : spalten_) {
+        if (eine.je && eine.logik.sichtbar()) {
+            const int mit_dieser = breite + breite_von(eine);
+            schritt = std::max(schritt, mit_dieser - breite);
+            if (mit_dieser > platz) {
+                break;
+            }
+            breite = mit_dieser;
+        }
+    }
+    schieber_->setSingleStep(schritt);
+    return breite > 0 ? breite : platz;
+}
+
 void WAuswertungFenster::breiten_setzen(int platz) {
     int je = 0;
     int andere = static_cast<int>(platz * balken_anteil_min);
@@ -344,7 +362,7 @@ void WAuswertungFenster::breiten_setzen(int platz) {
         eine.kopf->setFixedHeight(kopfhoehe);
     }
     mitte_->widget()->setMinimumWidth(je);
-    mitte_->setFixedWidth(std::clamp(platz - andere, std::min(je, platz / 5), std::max(je, 0)));
+    mitte_->setFixedWidth(ganze_spalten(std::clamp(platz - andere, std::min(je, platz / 5), std::max(je, 0))));
 }
 
 }  // namespace tarvel::ui

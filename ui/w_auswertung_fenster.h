@@ -51,6 +51,7 @@ private:
     double schrift_fuer_ganze_namen(double px, int platz);
     QString balkenkopf() const;
     int breite_von(const spalte& eine) const;
+    int ganze_spalten(int platz);
     void breiten_setzen(int platz);
 
     w_auswertung& logik_;
