@@ -211,7 +211,7 @@ void wettkampf1::bildnamen_zuordnen() {
         inhalt->bilder_von(alle);
     }
     auswahl_folgen();
-    melden(wort_.bilder + std::to_string(anzahl));
+    um_.welt.meldungen.bestaetigen(wort_.bilder + std::to_string(anzahl), um_.welt.txt.titel[0]);
 }
 
 void wettkampf1::bild_neu_zuordnen() {

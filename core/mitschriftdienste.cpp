@@ -102,6 +102,10 @@ void mitschriftdienste::meldungen::zeigen(std::string_view text, std::string_vie
     m.tor([&] { echte.zeigen(text, titel); });
 }
 
+void mitschriftdienste::meldungen::bestaetigen(std::string_view text, std::string_view titel) {
+    m.tor([&] { echte.bestaetigen(text, titel); });
+}
+
 bool mitschriftdienste::meldungen::fragen(std::string_view text, std::string_view titel,
                                           const plattform::antwortworte& worte) {
     bool ja = false;

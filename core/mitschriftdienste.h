@@ -61,6 +61,7 @@ private:
             echte.knoepfe_beschriften(ja, nein, ausweg);
         }
         void zeigen(std::string_view text, std::string_view titel) override;
+        void bestaetigen(std::string_view text, std::string_view titel) override;
         bool fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
         bool anbieten(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
         plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,

@@ -20,6 +20,8 @@ public:
     /// What stands on the buttons from now on; at first it is German.
     virtual void knoepfe_beschriften(std::string_view /*ja*/, std::string_view /*nein*/, std::string_view /*ausweg*/) {}
     virtual void zeigen(std::string_view text, std::string_view titel) = 0;
+    /// The same of what has gone well: nothing warns.
+    virtual void bestaetigen(std::string_view text, std::string_view titel) { zeigen(text, titel); }
     /// A question with yes and no; closing the box means no.
     virtual bool fragen(std::string_view text, std::string_view titel, const antwortworte& worte = {}) = 0;
     /// The same where nothing is lost by a yes: Enter takes it. Closing the box means no.

@@ -20,6 +20,13 @@ QString mit_kuerzel(const QString& wort) {
     return "&" + QString(wort).replace("&", "&&");
 }
 
+void kasten_zeigen(QMessageBox::Icon zeichen, std::string_view text, std::string_view titel) {
+    QMessageBox box(zeichen, als_text(titel), als_text(text), QMessageBox::Ok, QApplication::activeWindow());
+    box.setObjectName("meldung");
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 }  // namespace
 
 void QtMeldungen::knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) {
@@ -46,11 +53,11 @@ plattform::dreifache_antwort QtMeldungen::stellen(std::string_view text, std::st
 }
 
 void QtMeldungen::zeigen(std::string_view text, std::string_view titel) {
-    QMessageBox box(QMessageBox::Warning, als_text(titel), als_text(text), QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setObjectName("meldung");
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    kasten_zeigen(QMessageBox::Warning, text, titel);
+}
+
+void QtMeldungen::bestaetigen(std::string_view text, std::string_view titel) {
+    kasten_zeigen(QMessageBox::Information, text, titel);
 }
 
 bool QtMeldungen::fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) {

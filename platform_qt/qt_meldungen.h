@@ -10,6 +10,7 @@ class QtMeldungen final : public plattform::meldungen {
 public:
     void knoepfe_beschriften(std::string_view ja, std::string_view nein, std::string_view ausweg) override;
     void zeigen(std::string_view text, std::string_view titel) override;
+    void bestaetigen(std::string_view text, std::string_view titel) override;
     bool fragen(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
     bool anbieten(std::string_view text, std::string_view titel, const plattform::antwortworte& worte) override;
     plattform::dreifache_antwort fragen_mit_ausweg(std::string_view text, std::string_view titel,

@@ -36,7 +36,7 @@ void programm::bilder_verbinden() {
 void programm::bilder_melden(int anzahl, bool gespeichert) {
     form1.bilder_anzeigen();
     if (gespeichert) {
-        dienste.meldungen.zeigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
+        dienste.meldungen.bestaetigen(form1.bilder_text() + std::to_string(anzahl), txt.titel[0]);
     }
 }
 

@@ -64,7 +64,7 @@ void auswertung::befehle_verbinden() {
 void auswertung::platzierung_pruefen() {
     const rennergebnis vorher = ergebnis();
     auswertung_anzeigen();
-    um_.meldungen.zeigen(ergebnis() == vorher ? wort_.plaetze_stimmen : wort_.plaetze_neu, um_.txt.titel[0]);
+    um_.meldungen.bestaetigen(ergebnis() == vorher ? wort_.plaetze_stimmen : wort_.plaetze_neu, um_.txt.titel[0]);
 }
 
 void auswertung::spurbefehle_verbinden(std::size_t i) {
