@@ -18,10 +18,12 @@ namespace {
 
 constexpr int klassenbreite = 66;
 constexpr int listenbreite = 480;
+constexpr int fahrer_hoehe_max = 900;  // so that what has been driven stands by its driver
 constexpr int zeichen_je_zeile = 58;
 constexpr int zeilenrand_px = 32;  // beside the columns, with the bar that scrolls
 constexpr double schrift_min_px = 12;
 constexpr double schrift_max_px = 22;
+constexpr double schrift_anteil = 0.014;  // of the height of a window that is higher
 
 /// A line that is filled with what belongs there: grey, and what is typed takes its place.
 class Erklaerung final : public QObject {
@@ -66,7 +68,10 @@ TagesrennenFenster::TagesrennenFenster(tagesrennen_fenster& logik, Fensterverwal
     auto* links = new QVBoxLayout;
     links->setSpacing(8);
     links->addWidget(dateigruppe());
-    links->addWidget(fahrergruppe(), 1);
+    QWidget* fahrer = fahrergruppe();
+    fahrer->setMaximumHeight(fahrer_hoehe_max);
+    links->addWidget(fahrer, 1);
+    links->addStretch();
     mitte->addLayout(links, 4);
     auto* rechts = new QVBoxLayout;
     rechts->setSpacing(8);
@@ -174,15 +179,16 @@ QWidget* TagesrennenFenster::listengruppe() {
 
 void TagesrennenFenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    layout()->setContentsMargins(stil::zusammenhaltend(size(), stil::fensterrand));
+    const QMargins seiten = stil::zusammenhaltend(size(), stil::fensterrand);
+    layout()->setContentsMargins(seiten.left(), stil::fensterrand.top(), seiten.right(), stil::fensterrand.bottom());
     layout()->activate();  // the lines go by the room that this leaves
     skalieren();
 }
 
 void TagesrennenFenster::skalieren() {
-    const int px = namen_einpassen(
-        *zeilen_, logik_.ergebnisse, logik_.spalten,
-        {static_cast<double>(zeilen_->width() - zeilenrand_px), schrift_min_px, schrift_max_px, zeichen_je_zeile});
+    const int px = namen_einpassen(*zeilen_, logik_.ergebnisse, logik_.spalten,
+                                   {static_cast<double>(zeilen_->width() - zeilenrand_px), schrift_min_px,
+                                    std::max(schrift_max_px, height() * schrift_anteil), zeichen_je_zeile});
     kopf_->setText(kopf_einpassen(*zeilen_, logik_.Label_kopf.text()));
     const QString art = QString("font-family: '%1', monospace; font-size: %2px;")
                             .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family())

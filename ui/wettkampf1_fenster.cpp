@@ -1,10 +1,12 @@
 #include "ui/wettkampf1_fenster.h"
 
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPixmap>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/stil.h"
 #include "ui/ziehen.h"
@@ -90,7 +92,20 @@ QListView* Wettkampf1Fenster::namensfeld(liste& element, const QString& name) {
     QListView* namen = binder().listenfeld(element, name);
     namen->setMinimumWidth(mindestbreite);
     namen->setTextElideMode(Qt::ElideRight);  // below the picture stands the whole name
+    namen_.push_back(namen);
     return namen;
+}
+
+/// On a large screen the names are read by those who stand around it.
+void Wettkampf1Fenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    constexpr int zeilen = 80;
+    constexpr int schrift_max_px = 26;
+    QFont schrift = font();
+    schrift.setPixelSize(std::clamp(height() / zeilen, QFontInfo(schrift).pixelSize(), schrift_max_px));
+    for (QListView* namen : namen_) {
+        namen->setFont(schrift);
+    }
 }
 
 QWidget* Wettkampf1Fenster::gesamtspalte() {

@@ -14,6 +14,9 @@ class Wettkampf1Fenster : public Fenster {
 public:
     Wettkampf1Fenster(wettkampf1& logik, const dateien& ablage, Fensterverwaltung& verwaltung, QWidget* eltern);
 
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
     QWidget* titelzeile();
     QWidget* gesamtspalte();
@@ -31,6 +34,7 @@ private:
 
     wettkampf1& logik_;
     const dateien& ablage_;
+    std::vector<QListView*> namen_;
 };
 
 }  // namespace tarvel::ui
