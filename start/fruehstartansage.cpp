@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <utility>
+#include <vector>
 
 #include "core/platzhalter.h"
 #include "core/text.h"
@@ -20,10 +22,20 @@ std::string unzertrennt(std::string text) {
     return text;
 }
 
-/// So that all of them find room.
-std::string name_gesagt(const std::string& name, std::size_t so_viele) {
-    constexpr std::size_t zusammen_hoechstens = 66;
-    const std::size_t hoechstens = zusammen_hoechstens / so_viele;
+/// So many characters each so that all of them find room. What short names leave is for the long ones.
+std::size_t namenslaenge(std::vector<std::size_t> laengen) {
+    constexpr std::size_t zusammen_hoechstens = 110;
+    std::sort(laengen.begin(), laengen.end());
+    std::size_t frei = zusammen_hoechstens;
+    std::size_t anteil = frei;
+    for (std::size_t i = 0; i < laengen.size(); ++i) {
+        anteil = frei / (laengen.size() - i);
+        frei -= std::min(laengen[i], anteil);
+    }
+    return anteil;
+}
+
+std::string name_gesagt(const std::string& name, std::size_t hoechstens) {
     return laenge(name) <= hoechstens ? name : std::string(gekuerzt(links(name, hoechstens - 1))) + "…";
 }
 
@@ -45,8 +57,13 @@ std::string folge_gesagt(const renn_umgebung& um) {
 
 std::string fruehstart_gesagt(const renn_umgebung& um, const spuren<bool>& zu_frueh) {
     const auto mit_fahrer = [&](int spur) { return um.param.spur_aktiv[spur] && !um.param.fahrer_name[spur].empty(); };
-    const auto so_viele = static_cast<std::size_t>(
-        std::count_if(alle_spuren.begin(), alle_spuren.end(), [&](int spur) { return zu_frueh[spur]; }));
+    std::vector<std::size_t> laengen;
+    for (const int spur : alle_spuren) {
+        if (zu_frueh[spur] && mit_fahrer(spur)) {
+            laengen.push_back(laenge(um.param.fahrer_name[spur]));
+        }
+    }
+    const std::size_t hoechstens = namenslaenge(std::move(laengen));
     bool trifft_jemanden = um.einst.fruehstart_option == fruehstart_aktion::startabbruch;
     std::string text;
     for (const int spur : alle_spuren) {
@@ -56,7 +73,7 @@ std::string fruehstart_gesagt(const renn_umgebung& um, const spuren<bool>& zu_fr
         text += text.empty() ? um.bahn.wort.fruehstart + ": " + unzertrennt(um.bahn.wort.spur) + fest : ", ";
         text += std::to_string(spur);
         if (mit_fahrer(spur)) {
-            text += unzertrennt(" · " + name_gesagt(um.param.fahrer_name[spur], so_viele));
+            text += unzertrennt(" · " + name_gesagt(um.param.fahrer_name[spur], hoechstens));
         }
         trifft_jemanden = trifft_jemanden || um.param.spur_aktiv[spur];
     }

@@ -145,12 +145,16 @@ TEST_F(Fruehstart, VieleLangeNamenHabenAlleIhrenPlatz) {
     t.maschine.laufen(5000);
     ampeltaste('6');
     EXPECT_EQ(gesagt(), "Frühstart: Spur 6 · Ümit Ärger-Öztürk von und zu Ü — 1 Runde Abzug");
+    for (const int spur : {2, 4, 6}) {
+        t.p.param.fahrer_name[spur] = "Zoë";
+    }
     for (const char spur : {'1', '2', '3', '4', '5'}) {
         ampeltaste(spur);
     }
     EXPECT_EQ(gesagt(),
-              "Frühstart: Spur 1 · Ümit Ärger…, 2 · Ümit Ärger…, 3 · Ümit Ärger…, 4 · Ümit Ärger…, 5 · Ümit Ärger…, "
-              "6 · Ümit Ärger… — 1 Runde Abzug");
+              "Frühstart: Spur 1 · Ümit Ärger-Öztürk von und zu Ü, 2 · Zoë, 3 · Ümit Ärger-Öztürk von und zu Ü, "
+              "4 · Zoë, 5 · Ümit Ärger-Öztürk von und zu Ü, 6 · Zoë — 1 Runde Abzug")
+        << "the short ones leave it room";
 }
 
 TEST_F(Fruehstart, FruehstartBrichtDenStartAb) {

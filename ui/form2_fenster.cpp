@@ -52,7 +52,8 @@ QWidget* Form2Fenster::hinweise() {
     zu_frueh_ = new TextAnzeige(kasten);
     zu_frueh_->setFarbe(QColor(255, 200, 60));
     zu_frueh_->setFett(true);
-    zu_frueh_->setZweizeilig();
+    constexpr int fuer_sechs_lange_namen = 3;
+    zu_frueh_->setMehrzeilig(fuer_sechs_lange_namen);
     bezeichnung& fruehstart = logik_.fenster.Label_fruehstart;
     binder().verbinden(fruehstart, zu_frueh_, "Label_fruehstart", [this, &fruehstart] {
         zu_frueh_->setText(QString::fromStdString(fruehstart.text()));
@@ -116,6 +117,7 @@ void Form2Fenster::skalieren(int kante) {
     }
     constexpr int lampen_breit = 5;  // as the widest light is
     zu_frueh_->setSchriftPx(schrift_px(kante));
+    zu_frueh_->setMindestPx(schrift_px(kante) * 3 / 5);  // three lines of it take the height of two
     const int zeile = zu_frueh_->sizeHint().height();
     zu_frueh_->setFixedSize(logik_.fenster.Label_fruehstart.sichtbar() ? lampen_breit * kante : 1, 2 * zeile);
 }
