@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QListView>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBrowser>
 
@@ -64,6 +65,13 @@ TEST_F(Ergebnisfenster, KorrigiertUndSpeichertMitMausUndTasten) {
     klick(fenster, "w_auswertung2.Command14");
     setzen_lassen();
     EXPECT_EQ(liste->verticalScrollBar()->value(), 5000) << "who corrects stays where he is";
+    finde<QPushButton>(fenster, "w_auswertung2.Command_zurueck")->setFocus();
+    for (const char* partner : {"w_auswertung2.Command_wieder", "w_auswertung2.Command_zurueck"}) {
+        setzen_lassen();
+        QTest::keyClick(fenster.focusWidget(), Qt::Key_Space);
+        setzen_lassen();
+        EXPECT_EQ(fenster.focusWidget()->objectName(), partner);
+    }
     klick(fenster, "w_auswertung2.Command16");
     setzen_lassen();
     tippen(fenster, "w_auswertung2.Text3", "juni");
