@@ -1,10 +1,12 @@
 #include "programm/rennspieler.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <utility>
 
+#include "core/mitschrift.h"
 #include "core/protokollzeile.h"
 #include "platform/stille_maschine.h"
 #include "programm/programm.h"
@@ -87,6 +89,10 @@ void rennspieler::abtasten() {
                 entschieden = zeit;
                 bis_hierher();
             }
+        } else if (satz.tiefe > 0 && !urteile_.empty() && satz.wort == "schuldige") {
+            urteile_.back().schuldige = als_zahl(naechstes_wort(satz.rest)).value_or(0);
+        } else if (satz.tiefe > 0 && !urteile_.empty() && satz.wort == "strafzeit") {
+            urteile_.back().sekunden = protokoll_bruch(als_zahl(naechstes_wort(satz.rest)).value_or(0), 0);
         }
     }
     std::stable_sort(marken_.begin(), marken_.end(), [](const marke& a, const marke& b) { return a.bei < b.bei; });
@@ -103,6 +109,9 @@ void rennspieler::merken(zeit_ms zeit, std::string_view entscheidung) {
     const bool vom_ausfall =
         art->first == vermerk::pause && !abwesenheiten_.empty() && abwesenheiten_.back().wieder_da == zeit;
     stillstand_merken(zeit, art->first);
+    if (art->first == vermerk::pause) {
+        urteile_.push_back({zeit});
+    }
     marken_.push_back({vom_ausfall ? abwesenheiten_.back().weg : zeit, art->second,
                        static_cast<int>(std::clamp<std::int64_t>(spur, 0, spuren_max))});
 }
@@ -189,7 +198,24 @@ bool rennspieler::vor(zeit_ms bis, int hoechstens) {
         stelle_ = bis;
         uhr_zeigen();
     }
+    schuldige_zeigen();
     return true;
+}
+
+/// Throughout the pause: when the director has ticked a box no log holds.
+void rennspieler::schuldige_zeigen() {
+    const auto jetzt =
+        std::find_if(urteile_.rbegin(), urteile_.rend(), [this](const urteil& u) { return u.pause_seit <= stelle_; });
+    bahn1& bahn = rennen().bahn1;
+    if (jetzt == urteile_.rend() || !rennen().zustand.chaos_aktiv || !bahn.ch_strafframe.sichtbar()) {
+        return;
+    }
+    for (const int spur : alle_spuren) {
+        bahn.ch_strafzeit_hacken[spur].gesetzt((jetzt->schuldige >> spur & 1) != 0);
+    }
+    if (jetzt->sekunden) {
+        bahn.ch_Text1.text(std::to_string(std::llround(*jetzt->sekunden)));
+    }
 }
 
 void rennspieler::uhr_zeigen() {

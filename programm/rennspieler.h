@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,6 +78,7 @@ private:
     void abtasten();
     void merken(zeit_ms zeit, std::string_view entscheidung);
     void stillstand_merken(zeit_ms bis, std::string_view ende);
+    void schuldige_zeigen();
     void uhr_zeigen();
 
     std::filesystem::path ordner_;
@@ -95,6 +98,13 @@ private:
         zeit_ms bis = 0;
     };
     std::vector<stillstand> stillstaende_;
+    /// Whom a pause was blamed on. The log has it where the pause ends.
+    struct urteil {
+        zeit_ms pause_seit = 0;
+        std::int64_t schuldige = 0;  ///< a bit for each lane, as its number
+        std::optional<double> sekunden{};
+    };
+    std::vector<urteil> urteile_;
     bool steht_ = true;     ///< while the log is looked through: nobody drives
     zeit_ms ereignet_ = 0;  ///< and when the last thing happened
     std::unique_ptr<spiel> alt_;

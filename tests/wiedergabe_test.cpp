@@ -94,6 +94,40 @@ TEST_F(Wiedergabe, SpringenHinUndZurueckZeigtDasselbe) {
     EXPECT_NE(einer.rennen().bahn1.uhr1.sekunden.text(), "00") << "the clock runs between two happenings";
 }
 
+TEST_F(Wiedergabe, EinePauseZeigtWerSchuldWar) {
+    t.p.einst.chaos_strafzeit = 3s;
+    t.starten("Zeit", "2", {1, 2});
+    std::vector<zeit_ms> mitten;
+    const zeit_ms beginn = t.p.rennen.protokoll.beginn();
+    for (const int schuldiger : {2, 0, 1}) {
+        t.runde_nach(6000, "12");
+        t.bahn().Command3.klicken();
+        t.maschine.laufen(7000);
+        mitten.push_back(t.maschine.jetzt() - beginn);
+        if (schuldiger > 0) {
+            t.bahn().ch_strafzeit_hacken[schuldiger].umschalten();
+            t.bahn().ch_Text1.eingeben("8");
+        }
+        t.bahn().Command3.klicken();
+        t.maschine.laufen(10000);
+    }
+    rennspieler s(t.maschine.ordner(), inhalt(t.p.rennprotokoll.dateiname()));
+    const bahn1& bahn = s.rennen().bahn1;
+    const auto haken = [&bahn] {
+        return std::pair(bahn.ch_strafzeit_hacken[1].gesetzt(), bahn.ch_strafzeit_hacken[2].gesetzt());
+    };
+    s.vor(mitten[0], 1000000);
+    EXPECT_EQ(haken(), std::pair(false, true));
+    EXPECT_EQ(bahn.ch_Text1.text(), "8");
+    s.vor(mitten[1] - 10000, 1000000);
+    EXPECT_EQ(haken(), std::pair(false, false)) << "the race goes on";
+    s.vor(mitten[1], 1000000);
+    EXPECT_EQ(haken(), std::pair(false, false));
+    s.vor(mitten[2], 1000000);
+    EXPECT_EQ(haken(), std::pair(true, false));
+    EXPECT_FALSE(s.abgewichen());
+}
+
 TEST_F(Wiedergabe, LaeuftMitSeinemTempoUndHaeltAmEnde) {
     const std::string name = fahren();
     ergebnis_verlassen();
