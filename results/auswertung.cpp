@@ -137,6 +137,7 @@ void auswertung::bedienung_einrichten() {
     const bool ohne_spurwechsel = um_.quellen.kann().feste_wagen || !v->mit_spurwechsel();
     const bool allein = v->weg_hinaus() == ausweg::hauptmenue;
     Command5.text(allein ? wort_.hauptmenue : wort_.weiter);
+    Command5.tipp(allein && v->zurueck() != fenstername::Form1 ? wort_.zum_tagesrennen : "");
     Command7.sichtbar(selbst_.was == schritt::ausweg);
     Command4.sichtbar(v->mit_eigener_datei());
     Command1.sichtbar(!geht_von_selbst_weiter());

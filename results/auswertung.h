@@ -169,6 +169,7 @@ private:
         std::string zurueck, wieder, nachgetragen, geteilt, ausfall, nachtrag_waehlen, hinter_dem_ziel;
         std::string keine_zahl, zu_viele_meter, trotzdem;
         std::string plaetze_stimmen, plaetze_neu;
+        std::string zum_tagesrennen;         ///< explains where the way out leads in the list of a day
         std::string ende;                    ///< in front of the time of day
         std::string folge;                   ///< in front of the order that the race window does not show
         std::string folge_ab_erster;         ///< the same where it is the own first crossing that makes it

@@ -76,7 +76,9 @@ sprachliste auswertung::sprache_a() {
     texte.tipp("Berechnet die Plätze neu. Stimmen sie schon, ändert sich nichts.", Command10);
     nachtrag.ohne_pausen_nennen(texte).text("Geprüft: Die Plätze stimmen.", wort_.plaetze_stimmen);
     texte.text("Geprüft: Die Plätze haben sich geändert.", wort_.plaetze_neu).text("Ende", wort_.ende);
-    return texte.text("Rot: schneller als die Bestzeit, die für diese Spur gespeichert ist", wort_.neue_bestzeit);
+    texte.text("Rot: schneller als die Bestzeit, die für diese Spur gespeichert ist", wort_.neue_bestzeit);
+    return texte.text("Kommt in die Tagesdatei; zurück zum Tagesrennen, von dort führt „Beenden“ ins Hauptmenü",
+                      wort_.zum_tagesrennen);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {
