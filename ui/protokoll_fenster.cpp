@@ -197,11 +197,7 @@ QTableView* ProtokollFenster::tabelle() {
     tabelle_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     tabelle_->horizontalHeader()->setHighlightSections(false);
     tabelle_->horizontalHeader()->setStretchLastSection(true);
-    const int em = fontMetrics().height();
-    for (const auto& [spalte, breite] :
-         {std::pair{Protokollmodell::zeit, 5 * em}, {Protokollmodell::spur, 3 * em + fleck_px}}) {
-        tabelle_->setColumnWidth(spalte, breite);
-    }
+    tabelle_->setColumnWidth(Protokollmodell::spur, 3 * fontMetrics().height() + fleck_px);
     QObject::connect(tabelle_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& neu) {
                          if (neu.isValid()) {
@@ -222,7 +218,7 @@ QLayout* ProtokollFenster::fusszeile() {
 }
 
 /// Whole names; what happened keeps the larger part.
-void ProtokollFenster::namensspalte_legen() {
+void ProtokollFenster::spalten_legen() {
     constexpr int zellrand_px = 12;
     const int em = fontMetrics().height();
     int breite = 10 * em;
@@ -231,11 +227,14 @@ void ProtokollFenster::namensspalte_legen() {
         breite = std::max(breite, tabelle_->fontMetrics().horizontalAdvance(name) + zellrand_px);
     }
     tabelle_->setColumnWidth(Protokollmodell::fahrer, std::min(breite, 18 * em));
+    const QString zeittitel = QString::fromStdString(logik_.spalten().at(Protokollmodell::zeit));
+    tabelle_->setColumnWidth(Protokollmodell::zeit,
+                             std::max(5 * em, tabelle_->fontMetrics().horizontalAdvance(zeittitel) + 2 * zellrand_px));
 }
 
 void ProtokollFenster::inhalt_neu() {
     modell_->neuerInhalt();
-    namensspalte_legen();
+    spalten_legen();
     tabelle_->setAccessibleName(windowTitle());
     streifen_->setAccessibleName(windowTitle());
     streifen_->neuerInhalt();

@@ -46,7 +46,7 @@ private:
     QLayout* artenfeld();
     QTableView* tabelle();
     QLayout* fusszeile();
-    void namensspalte_legen();
+    void spalten_legen();
     void inhalt_neu();
     void wahl_zeigen();
     void drucken();

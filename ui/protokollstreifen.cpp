@@ -16,14 +16,16 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr double namen_em = 10;  // width of the names
+// width of the names
+constexpr double namen_em_min = 10;
+constexpr double namen_em_max = 16;
 
 /// Where everything is.
 class feldmass {
 public:
     feldmass(const QRectF& flaeche, const streifeninhalt& inhalt, double schrift_px)
         : inhalt_(inhalt),
-          feld_(flaeche.adjusted(namen_em * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px,
+          feld_(flaeche.adjusted(inhalt.namen_em * schrift_px, 1.7 * schrift_px, -0.6 * schrift_px,
                                  -0.3 * schrift_px - inhalt.legende.hoehe(schrift_px))),
           zeile_(feld_.height() / static_cast<double>(std::max<std::size_t>(inhalt.zeilen.size(), 1))) {}
 
@@ -104,7 +106,7 @@ private:
             const QRectF zeile = mass_.zeile(i);
             const double fleck = 0.7 * px_;
             maler_.fillRect(QRectF(flaeche_.left() + 2, zeile.center().y() - fleck / 2, fleck, fleck), z.farbe);
-            const double breite = (namen_em - 1) * px_ - 8;
+            const double breite = (inhalt_.namen_em - 1) * px_ - 8;
             const QFont schrift = schrift_mit(px_, false);
             maler_.setFont(schrift);
             maler_.setPen(farben_.schrift);
@@ -205,11 +207,17 @@ private:
 }  // namespace
 
 streifeninhalt streifeninhalt_bilden(const protokollfenster& logik) {
+    constexpr double probe_px = 100;
+    constexpr double fleck_em = 2;
+    const QFontMetricsF masse(schrift_mit(probe_px, false));
     streifeninhalt inhalt;
+    inhalt.namen_em = namen_em_min;
     for (const int spur : alle_spuren) {
         if (logik.faehrt(spur)) {
             inhalt.zeilen.push_back({spur, QString::number(spur) + "  " + QString::fromStdString(logik.fahrer(spur)),
                                      stil::farbe_von(logik.einst().farben_spur[spur])});
+            const double breite = masse.horizontalAdvance(inhalt.zeilen.back().name) / probe_px + fleck_em;
+            inhalt.namen_em = std::clamp(breite, inhalt.namen_em, namen_em_max);
         }
     }
     inhalt.geschehnisse.reserve(logik.zeilen().size());

@@ -17,6 +17,7 @@ struct streifeninhalt {
         QColor farbe;
     };
     std::vector<zeile> zeilen;
+    double namen_em = 0;                  ///< width of the names, in heights of the letters
     std::vector<geschehen> geschehnisse;  ///< in order of time
     streifenlegende legende;
     protokollfenster::zeitraum zeitraum;
