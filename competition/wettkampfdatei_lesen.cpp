@@ -164,8 +164,8 @@ private:
     }
 
     /// Stands behind what all fillers are called.
-    int fuellernummer(std::string_view name) const {
-        return zahl_zwischen(name.substr(annahme_.txt.frei_text.size()), 1, tabelle_max).value_or(1);
+    static int fuellernummer(std::string_view name) {
+        return zahl_zwischen(name.substr(name.rfind(' ') + 1), 1, tabelle_max).value_or(1);
     }
 
     int platz_von(const std::string& name) const {

@@ -1,5 +1,6 @@
 #include "core/texte.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace tarvel {
@@ -140,6 +141,11 @@ std::vector<sprachliste> texte::alle_gruppen() {
     return {sprache_m1(), sprache_tx1(), sprache_usb2()};
 }
 
+bool texte::ist_freier_platz(std::string_view name) const {
+    const auto heisst = [name](const std::string& wort) { return name == wort || name.starts_with(wort + " "); };
+    return heisst(frei_text) || std::any_of(frei_anderswo.begin(), frei_anderswo.end(), heisst);
+}
+
 sprachliste texte::sprache_m1() {
     sprachliste gruppe("language\\language_m1.txt", sprachliste::form::zeilen);
     gruppe.ueberschrift("Gemeinsame Texte").text("Standardfahrzeug", standardfahrzeug_text);
@@ -181,7 +187,12 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Runde", text_runde);
     gruppe.text("Weiterfahren", wettkampf.weiterfahren).text("Später", wettkampf.spaeter);
     gruppe.text("Nächstes zeigen", wettkampf.naechstes).text("Neu starten", wettkampf.von_vorn);
-    return gruppe.text("Runden", text_mehrere);
+    gruppe.text("Runden", text_mehrere);
+    return gruppe.text("frei", [this](const std::string& wort) {
+        frei_text = wort;
+        std::erase(frei_text, ',');  // names of an evening have none
+        frei_text = frei_text.empty() ? "frei" : frei_text;
+    });
 }
 
 sprachliste texte::sprache_tx1() {

@@ -47,10 +47,10 @@ struct texte {
 
     std::string werbetext = "w w w . t a r v e l . e x a m p l e";  ///< a line shown in the race window
     std::string kein_fahrer = "kein Fahrer";
-    std::string frei_text = "frei";  ///< name of a place without a driver, perhaps with a number behind it
-    bool ist_freier_platz(std::string_view name) const {
-        return name == frei_text || name.starts_with(frei_text + " ");
-    }
+    std::string frei_text;  ///< name of a place without a driver, perhaps with a number behind it
+    /// That name in every other language of the program: an evening planned in one of them may go on in this one.
+    std::vector<std::string> frei_anderswo;
+    bool ist_freier_platz(std::string_view name) const;
     spuren<std::string> fahrer_standard;
     std::string standardfahrzeug_text;
     std::vector<std::string> fahrzeuge_standard{"Formel 1",       "Porsche GT3", "Peugeot 206", "Peugeot 307",

@@ -11,11 +11,24 @@ namespace {
 
 const std::string listenordner = "Listen\\";
 
+/// What a place without a driver is called in each language that there is.
+std::vector<std::string> worte_freier_plaetze(dateien ablage) {
+    std::vector<std::string> worte;
+    for (const std::string& ordner : sprachordner_finden(ablage)) {
+        texte sprache;
+        ablage.sprache_aus(ordner);
+        sprache.sprache_m1_laden(ablage);
+        worte.push_back(sprache.frei_text);
+    }
+    return worte;
+}
+
 }  // namespace
 
 void programm::gemeinsame_texte_laden() {
     ablage.sprache_aus(einst.anzeige.sprachordner);
     txt.sprache_m1_laden(ablage);
+    txt.frei_anderswo = worte_freier_plaetze(ablage);
     txt.sprache_tx1_laden(ablage);
     txt.sprache_usb2_laden(ablage);
     dienste.meldungen.knoepfe_beschriften(txt.ja, txt.nein, txt.datei_text[texte::abbrechen]);

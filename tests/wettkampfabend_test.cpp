@@ -129,6 +129,51 @@ TEST_F(Wettkampfabend, FreieSpurFaehrtNichtMitUndZeigtSichNurWennErwuenscht) {
     }
 }
 
+TEST_F(Wettkampfabend, InEinerAnderenSpracheKenntErSeineFreienPlaetzeWeiter) {
+    std::filesystem::copy(std::filesystem::path(TARVEL_QUELLEN) / "data/language-en",
+                          t.maschine.ordner() / "language-en");
+    t.maschine.antwort_mit_ausweg = plattform::dreifache_antwort::nein;  // not those of the table before
+    t.maschine.antwort = true;
+    const auto hinaus = [this] {
+        t.p.fenster.zeigen(fenstername::wettkampf2);
+        t.p.wettkampf2.Command5.klicken();
+        t.p.form1.wettkampf_laeuft(false);
+    };
+    for (const bool englisch : {false, true}) {
+        const auto sprechen = [this](bool jetzt_englisch) {
+            t.erscheinen({jetzt_englisch ? "language-en" : "language", aussehen::hell});
+            EXPECT_EQ(t.p.txt.frei_text, jetzt_englisch ? "free" : "frei");
+        };
+        sprechen(englisch);
+        planvorgabe vorgabe{wettkampf_modus::gruppen, 0, {}, wechsel_standard, false};
+        vorgabe.aktiv[1] = vorgabe.aktiv[2] = true;
+        abend.beginnen(
+            wettkampf_beginnen(vorgabe, std::vector<std::string>{"Anna", "Ben", "Carl"}, "", t.p.txt).value());
+        EXPECT_EQ(abend.stand().teilnehmer.back(), englisch ? "free 1" : "frei 1");
+        rennen_fahren();
+        hinaus();
+        sprechen(!englisch);
+        auto weiter = wettkampf_laden(t.p.datei, laufender_wettkampf, {}, t.p.txt, einstellungen_aus_datei::lassen);
+        ASSERT_TRUE(weiter);
+        abend.beginnen(std::move(*weiter));
+        while (!abend.stand().ende_pruefen()) {
+            rennen_fahren();
+        }
+        const wettkampf& w = abend.stand();
+        auto alt = wettkampf_zeilen(w, t.p.einst.trennzeichen);  // an old file tells them by their names alone
+        alt.erase(std::find(alt.begin(), alt.end(), "[Wettkampfzusatz 1]"), alt.end());
+        const auto gelesen = wettkampf_lesen(alt, {t.p.txt, w.modus, wechsel_standard, "Wahr"});
+        ASSERT_TRUE(gelesen);
+        EXPECT_EQ(gelesen->plan, w.plan);
+        for (const wettkampf* einer : {&w, &*gelesen}) {
+            EXPECT_EQ(einer->staende().back().fahrer_runden(0), 0);
+            EXPECT_EQ(fahrer_in_rangfolge(*einer, sortier_modus::runden).size(), 3U);
+        }
+        EXPECT_EQ(name_pruefen(w.teilnehmer.back(), t.p.txt), namensmangel::wie_fueller);
+        hinaus();
+    }
+}
+
 TEST_F(Wettkampfabend, GesichertWirdNachDemRennenUndNieDarin) {
     beginnen(wettkampf_modus::rotation, 3, {1, 2});
     ASSERT_TRUE(abend.rennen_starten());
