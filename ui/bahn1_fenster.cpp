@@ -153,6 +153,7 @@ void Bahn1Fenster::geraetehinweis() {
     hinweistext_->setFarbe(Qt::black);
     hinweistext_->setZweizeilig();
     auto* zeile = new QHBoxLayout(hinweis);
+    zeile->setContentsMargins(12, 1, 12, 1);  // a low line needs its height for the letters
     zeile->addWidget(hinweistext_);
     binder().verbinden(bahn.cu_startframe, hinweis, "cu_startframe", [this] { hinweis_anordnen(); });
 }
