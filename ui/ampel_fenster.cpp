@@ -67,13 +67,13 @@ int AmpelFenster::reihen() const {
     return std::max(static_cast<int>(an) / je_reihe_, 1);
 }
 
-void AmpelFenster::masse_setzen(const QRect& platz, const QRect& eigener) {
+void AmpelFenster::masse_setzen(const QRect& platz, const QRect& eigener, double anteil) {
     const bool schmal = !eigener.isEmpty();
     aufbau_->setDirection(schmal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     aufbau_->setContentsMargins(schmal ? rand_schmal : rand_frei);
     const int hoehe = eigener.height() - rand_schmal.top() - rand_schmal.bottom();
     const int kante = schmal ? std::min(hoehe / reihen(), eigener.width() / (2 * je_reihe_))
-                             : std::min(platz.width() / 8, platz.height() / 5);
+                             : static_cast<int>(anteil * std::min(platz.width() / 8, platz.height() / 5));
     for (Ampelfeld* lampe : lampen_) {
         lampe->setFixedSize(kante, kante);
     }
@@ -98,6 +98,26 @@ QRect AmpelFenster::im_rennen(const QRect& auf_dem_schirm) const {
                : QRect(parentWidget()->mapFromGlobal(auf_dem_schirm.topLeft()), auf_dem_schirm.size());
 }
 
+QRect AmpelFenster::unter_den_namen(const QRect& platz) const {
+    constexpr int rand_unten = 8;
+    QRect unten = platz.adjusted(0, 0, 0, -rand_unten);
+    if (const QRect frei = im_rennen(bahn_.unter_den_namen()); !frei.isEmpty() && bahn_.neben_den_namen().isEmpty()) {
+        unten.setTop(std::max(unten.top(), frei.top()));
+    }
+    return unten;
+}
+
+void AmpelFenster::neu_auslegen() {
+    for (QWidget* teil : findChildren<QWidget*>()) {  // lamps have come and gone since the last start
+        if (teil->layout() != nullptr) {
+            teil->layout()->invalidate();
+            teil->layout()->activate();
+        }
+    }
+    layout()->invalidate();
+    layout()->activate();
+}
+
 void AmpelFenster::anordnen() {
     const QRect platz = platz_des_rennens();
     const QRect eigener = im_rennen(eigener_platz());
@@ -108,14 +128,12 @@ void AmpelFenster::anordnen() {
         setGeometry(isWindow() ? parentWidget()->screen()->geometry() : platz);
         return;
     }
-    for (QWidget* teil : findChildren<QWidget*>()) {  // lamps have come and gone since the last start
-        if (teil->layout() != nullptr) {
-            teil->layout()->invalidate();
-            teil->layout()->activate();
-        }
+    neu_auslegen();
+    const int frei = unter_den_namen(platz).height();
+    if (eigener.isEmpty() && sizeHint().height() > frei) {
+        masse_setzen(platz, eigener, 1.0 * frei / sizeHint().height());
+        neu_auslegen();
     }
-    layout()->invalidate();
-    layout()->activate();
     setFixedSize(eigener.isEmpty() ? sizeHint() : sizeHint().expandedTo(eigener.size()));
     hinstellen(platz, eigener);
 }
@@ -125,8 +143,10 @@ void AmpelFenster::hinstellen(const QRect& platz, const QRect& eigener) {
     const QRect frei = eigener.isEmpty() ? im_rennen(bahn_.neben_den_namen()) : eigener;
     if (frei.isEmpty()) {  // below the clock and the names of the columns
         constexpr double hoehe = 0.6;
+        const QRect unten = unter_den_namen(platz);
         ziel.moveCenter({platz.center().x(), platz.top() + static_cast<int>(platz.height() * hoehe)});
-        ziel.moveBottom(std::min(ziel.bottom(), platz.bottom() - 8));
+        ziel.moveTop(std::max(ziel.top(), unten.top()));
+        ziel.moveBottom(std::min(ziel.bottom(), unten.bottom()));
     } else {
         ziel.moveCenter(frei.center());
     }

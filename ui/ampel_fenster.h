@@ -53,8 +53,12 @@ protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
 
 private:
-    void masse_setzen(const QRect& platz, const QRect& eigener);
+    /// `anteil`: of the size that the place would give the lamps.
+    void masse_setzen(const QRect& platz, const QRect& eigener, double anteil = 1);
+    void neu_auslegen();
     void hinstellen(const QRect& platz, const QRect& eigener);
+    /// Of the place, what is below the names of the columns.
+    QRect unter_den_namen(const QRect& platz) const;
     int reihen() const;
     /// The race window that it stands over, and in it the place on the screen that is its own, as it counts its places:
     /// a light that is no window of its own lies in that window.

@@ -237,6 +237,16 @@ QRect Bahn1Fenster::neben_den_namen() const {
     return zeilen && isVisible() ? QRect(mapToGlobal(alle.topLeft()), alle.size()) : QRect();
 }
 
+QRect Bahn1Fenster::unter_den_namen() const {
+    const ansicht_geometrie g = aufteilung();
+    const auto block = std::find_if(g.block.begin(), g.block.end(), [](const rechteck& r) { return !r.leer(); });
+    if (block == g.block.end() || !isVisible()) {
+        return {};
+    }
+    const int oben = block->y + g.spur[spur_teil::namenslabel].ort.unten();
+    return {mapToGlobal(QPoint(0, oben)), QSize(width(), height() - oben)};
+}
+
 ansicht_geometrie Bahn1Fenster::aufteilung() const {
     ansicht_inhalt inhalt = logik_.bahn1.ansicht.inhalt();
     inhalt.licht_der_pause = licht_der_pause_;

@@ -23,6 +23,8 @@ public:
     QRect licht_ort() const;
     /// Likewise what the names of the rows leave free of the lanes; empty in columns.
     QRect neben_den_namen() const;
+    /// Likewise what is below the names, as columns and a single lane have them.
+    QRect unter_den_namen() const;
     /// It has another place or size: what lies in front of it goes with it.
     std::function<void()> bei_umzug;
     /// How the dark screen gets bright again.

@@ -93,7 +93,7 @@ void Bahn1Fenster::moveEvent(QMoveEvent* ereignis) {
 
 void Bahn1Fenster::umgezogen() {
     constexpr int ruhe_ms = 250;  // the desktop tells places and sizes one after the other
-    umzug_.start(ruhe_ms);
+    umzug_.start(isWindow() ? ruhe_ms : 0);
 }
 
 }  // namespace tarvel::ui
