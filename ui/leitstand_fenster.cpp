@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "ui/stil.h"
 
@@ -46,10 +47,12 @@ void einreihen(QHBoxLayout& reihe, TextAnzeige* anzeige, const Spalte& wie) {
     reihe.addWidget(anzeige, wie.anteil);
 }
 
-TextAnzeige* gross(TextAnzeige* anzeige, int px, bool fett) {
-    anzeige->setSchriftPx(px);
-    anzeige->setFett(fett);
-    return anzeige;
+/// Of a widget of the desktop.
+void schrift_setzen(QWidget* widget, double skala) {
+    constexpr int grundschrift_px = 15;
+    QFont schrift = widget->font();
+    schrift.setPixelSize(static_cast<int>(grundschrift_px * skala));
+    widget->setFont(schrift);
 }
 
 void grund_geben(QWidget* widget, const QColor& farbe) {
@@ -91,6 +94,28 @@ LeitstandFenster::LeitstandFenster(leitstand& logik, form2& ampel, Fensterverwal
     resize(uebliche_groesse);
 }
 
+TextAnzeige* LeitstandFenster::gross(TextAnzeige* anzeige, int px, bool fett) {
+    anzeige->setFett(fett);
+    waechst([anzeige, px](double skala) { anzeige->setSchriftPx(static_cast<int>(px * skala)); });
+    return anzeige;
+}
+
+void LeitstandFenster::waechst(std::function<void(double skala)> was) {
+    was(1);
+    wachsende_.push_back(std::move(was));
+}
+
+void LeitstandFenster::resizeEvent(QResizeEvent* ereignis) {
+    Fenster::resizeEvent(ereignis);
+    const double skala =
+        std::max(1.0, std::min(1.0 * width() / uebliche_groesse.width(), 1.0 * height() / uebliche_groesse.height()));
+    if (std::exchange(skala_, skala) != skala) {
+        for (const auto& was : wachsende_) {
+            was(skala);
+        }
+    }
+}
+
 void LeitstandFenster::kopf(QVBoxLayout& aufbau) {
     constexpr int uhrhoehe_px = 92;
     auto* zeile = new QHBoxLayout;
@@ -98,15 +123,18 @@ void LeitstandFenster::kopf(QVBoxLayout& aufbau) {
     ziel->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     ziel->setZweizeilig();
     auto* uhr = new Uhranzeige(bahn_.uhr1, 1, binder(), this);
-    uhr->setFixedHeight(uhrhoehe_px);
-    uhr->setSchriftPx(uhrhoehe_px * 3 / 4);
+    waechst([uhr](double skala) {
+        const int hoehe = static_cast<int>(uhrhoehe_px * skala);
+        uhr->setFixedHeight(hoehe);
+        uhr->setSchriftPx(hoehe * 3 / 4);
+    });
     TextAnzeige* pause = gross(binder().anzeige(bahn_.pausendauer, "pausendauer"), 44, true);
     pause->setFarbe(gelb_der_lage);
     zeile->addWidget(ziel, 2);
     zeile->addWidget(uhr, 5);
     zeile->addWidget(pause, 2);
     for (TextAnzeige* text : {ziel, pause}) {
-        text->setMinimumHeight(uhrhoehe_px / 2);
+        waechst([text](double skala) { text->setMinimumHeight(static_cast<int>(uhrhoehe_px * skala / 2)); });
         QSizePolicy haelt_platz = text->sizePolicy();
         haelt_platz.setRetainSizeWhenHidden(true);
         text->setSizePolicy(haelt_platz);
@@ -123,8 +151,10 @@ void LeitstandFenster::hinweise(QVBoxLayout& aufbau) {
     TextAnzeige* geraet = gross(binder().anzeige(bahn_.cu_startlabel, "cu_startlabel"), schrift_px, true);
     geraet->setFarbe(Qt::black);
     geraet->setZweizeilig();
-    geraet->setMinimumHeight(2 * spurhoehe_px);
-    alarm->setMinimumHeight(spurhoehe_px);
+    waechst([geraet, alarm](double skala) {
+        geraet->setMinimumHeight(static_cast<int>(2 * spurhoehe_px * skala));
+        alarm->setMinimumHeight(static_cast<int>(spurhoehe_px * skala));
+    });
     auto* zeile = new QHBoxLayout(rahmen);
     zeile->addWidget(geraet);
     binder().verbinden(bahn_.cu_startframe, rahmen, "cu_startframe", {});
@@ -143,7 +173,7 @@ void LeitstandFenster::spuren(QVBoxLayout& aufbau) {
 }
 
 QHBoxLayout* LeitstandFenster::reihe(QWidget* zeile) {
-    zeile->setFixedHeight(spurhoehe_px);
+    waechst([zeile](double skala) { zeile->setFixedHeight(static_cast<int>(spurhoehe_px * skala)); });
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
     reihe->setSpacing(12);
@@ -161,7 +191,8 @@ QWidget* LeitstandFenster::spaltentitel() {
         einreihen(*titel, alle.at(i), spalten.at(i));
     }
     auto* ueber_den_kaesten = new QWidget(zeile);
-    ueber_den_kaesten->setFixedWidth(kasten_px);
+    waechst(
+        [ueber_den_kaesten](double skala) { ueber_den_kaesten->setFixedWidth(static_cast<int>(kasten_px * skala)); });
     titel->addWidget(ueber_den_kaesten);
     binder().verbinden(bahn_.Label_platz[1], zeile, "Label_platz_1", [this, alle] {
         alle[spalte_platz]->setText(QString::fromStdString(bahn_.Label_platz[1].text()));
@@ -195,7 +226,7 @@ QWidget* LeitstandFenster::spur(int nummer) {
     QSizePolicy bleibt = haken->sizePolicy();
     bleibt.setRetainSizeWhenHidden(true);
     haken->setSizePolicy(bleibt);
-    haken->setFixedWidth(kasten_px);
+    waechst([haken](double skala) { haken->setFixedWidth(static_cast<int>(kasten_px * skala)); });
     teile->addWidget(haken, 0, Qt::AlignVCenter);
     binder().verbinden(bahn_.bahnshape[nummer], zeile, "bahnshape" + kennung, [this, schild, nummer] {
         const QColor farbe = stil::farbe_von(bahn_.bahnshape[nummer].schriftfarbe().value_or(0));
@@ -215,7 +246,10 @@ void LeitstandFenster::strafformular(QVBoxLayout& aufbau) {
     haken->setFarbe(Qt::white);
     QLineEdit* sekunden = binder().zeile(bahn_.ch_Text1, "ch_Text1");
     sekunden->setAlignment(Qt::AlignRight);
-    sekunden->setFixedWidth(5 * schrift_px);
+    waechst([sekunden](double skala) {
+        schrift_setzen(sekunden, skala);
+        sekunden->setFixedWidth(static_cast<int>(5 * schrift_px * skala));
+    });
     sekunden->setValidator(new QIntValidator(0, sekunden_hoechstens, sekunden));
     QObject::connect(sekunden, &QLineEdit::returnPressed, this,
                      [this] { weiter_->setFocus(); });  // the next Enter goes on
@@ -235,9 +269,17 @@ void LeitstandFenster::strafformular(QVBoxLayout& aufbau) {
 
 void LeitstandFenster::verlauf(QVBoxLayout& aufbau) {
     auto* zeile = new QHBoxLayout;
-    zeile->addWidget(binder().label(logik_.Label_verlauf, "Label_verlauf"), 1);
-    zeile->addWidget(binder().kasten(logik_.Check_runden, "Check_runden"));
+    QLabel* titel = binder().label(logik_.Label_verlauf, "Label_verlauf");
+    QCheckBox* runden = binder().kasten(logik_.Check_runden, "Check_runden");
+    zeile->addWidget(titel, 1);
+    zeile->addWidget(runden);
     QListView* liste = binder().listenfeld(logik_.List_verlauf, "List_verlauf");
+    waechst([titel, runden, liste](double skala) {
+        for (QWidget* text : {static_cast<QWidget*>(titel), static_cast<QWidget*>(runden)}) {
+            schrift_setzen(text, skala);
+        }
+        schrift_setzen(liste, skala);
+    });
     liste->setSelectionMode(QAbstractItemView::NoSelection);
     liste->setFocusPolicy(Qt::NoFocus);
     liste->setMinimumHeight(3 * spurhoehe_px);
@@ -257,15 +299,20 @@ void LeitstandFenster::befehlszeile(QVBoxLayout& aufbau) {
                                binder().knopf(bahn_.Command_protokoll, "Command_protokoll")}) {
         zeile->addWidget(knopf);
     }
-    zeile->addWidget(binder().knopf(ampel_.abbrampel, "abbrampel"));
+    QPushButton* startabbruch = binder().knopf(ampel_.abbrampel, "abbrampel");
+    zeile->addWidget(startabbruch);
     TextAnzeige* zu_frueh = gross(binder().anzeige(ampel_.Label_fruehstart, "Label_fruehstart"), schrift_px, true);
     zu_frueh->setFarbe(gelb_der_lage);
     zu_frueh->setZweizeilig();
-    zu_frueh->setMinimumHeight(kasten_px + schrift_px);
+    waechst(
+        [zu_frueh](double skala) { zu_frueh->setMinimumHeight(static_cast<int>((kasten_px + schrift_px) * skala)); });
     zu_frueh->setAusrichtung(Qt::AlignLeft | Qt::AlignVCenter);
     zeile->addWidget(zu_frueh, 1);
     zeile->addStretch();
     zeile->addWidget(binder().knopf_ohne_kuerzel(bahn_.Command2, "Command2"));
+    for (QPushButton* knopf : kasten->findChildren<QPushButton*>()) {
+        waechst([knopf](double skala) { schrift_setzen(knopf, skala); });
+    }
     binder().verbinden(bahn_.Frame1, kasten, "Frame1", {});
     aufbau.addWidget(kasten);
 }

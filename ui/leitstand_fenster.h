@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <functional>
+#include <vector>
 
 #include "results/leitstand.h"
 #include "start/form2.h"
@@ -19,7 +21,13 @@ public:
 
     void aufschlagen() override;
 
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
 private:
+    /// Sized anew with the window, from its usual size on.
+    void waechst(std::function<void(double skala)> was);
+    TextAnzeige* gross(TextAnzeige* anzeige, int px, bool fett);
     void kopf(QVBoxLayout& aufbau);
     void hinweise(QVBoxLayout& aufbau);
     void spuren(QVBoxLayout& aufbau);
@@ -30,6 +38,8 @@ private:
     void verlauf(QVBoxLayout& aufbau);
     void befehlszeile(QVBoxLayout& aufbau);
 
+    std::vector<std::function<void(double skala)>> wachsende_;
+    double skala_ = 1;
     leitstand& logik_;
     bahn1& bahn_;
     form2& ampel_;
