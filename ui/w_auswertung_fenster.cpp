@@ -1,6 +1,8 @@
 #include "ui/w_auswertung_fenster.h"
 
+#include <QFocusEvent>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -104,9 +106,10 @@ void WAuswertungFenster::spalte_anlegen(QHBoxLayout* aufbau, liste& element, QLa
     zeilen->setItemDelegate(zeichner);
     zeilen->setStyleSheet(
         "QListView { border: none; border-top: 2px solid #aab1bd; border-radius: 0; }"
-        "QListView:focus { border-top-color: #c41e2a; }");
+        "QListView[mit_tasten=\"true\"]:focus { border-top-color: #c41e2a; }");
     zeilen->setVerticalScrollBarPolicy(balken ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     zeilen->setFocusPolicy(&element == &logik_.List_name ? Qt::StrongFocus : Qt::ClickFocus);  // one way through a row
+    zeilen->installEventFilter(this);
     QObject::connect(zeilen->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int n) { gleich_rollen(n); });
     QObject::connect(zeilen->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren_vormerken(); });
     QObject::connect(zeilen->model(), &QAbstractItemModel::rowsInserted, this, [this] { skalieren_vormerken(); });
@@ -297,7 +300,24 @@ bool WAuswertungFenster::eventFilter(QObject* wer, QEvent* ereignis) {
     if (ereignis->type() == QEvent::Resize && schrift_px_ > 0 && wer == spalten_.front().zeilen->viewport()) {
         zeilen_einteilen();
     }
+    if (ereignis->type() == QEvent::FocusIn) {
+        const Qt::FocusReason grund = static_cast<QFocusEvent*>(ereignis)->reason();
+        tasten_zeigen(wer, grund == Qt::TabFocusReason || grund == Qt::BacktabFocusReason);
+    } else if (ereignis->type() == QEvent::KeyPress) {
+        tasten_zeigen(wer, true);
+    }
     return Fenster::eventFilter(wer, ereignis);
+}
+
+/// Under the head of a single column the mark of the focus would look like that of an order: only who uses the keys
+/// has it.
+void WAuswertungFenster::tasten_zeigen(QObject* wer, bool mit_tasten) {
+    auto* zeilen = qobject_cast<QListView*>(wer);
+    if (zeilen != nullptr && zeilen->property("mit_tasten").toBool() != mit_tasten) {
+        zeilen->setProperty("mit_tasten", mit_tasten);
+        zeilen->style()->unpolish(zeilen);
+        zeilen->style()->polish(zeilen);
+    }
 }
 
 void WAuswertungFenster::zeilen_einteilen() {

@@ -24,6 +24,7 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
+    static void tasten_zeigen(QObject* wer, bool mit_tasten);
     struct spalte {
         const liste& logik;
         QWidget* feld;
