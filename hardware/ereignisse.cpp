@@ -95,15 +95,22 @@ void ereignis_tabelle::ausfuehren(eingang was, const mitschrift::werte& w) {
     }
 }
 
-void ereignis_tabelle::setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben) {
+void ereignis_tabelle::setzen(ereignis_art nummer, zeit_ms stempel) {
     if (steht_seit_) {  // no tick has taken what was there
         zeile_verwerfen(nummer);
     }
     ereignis_zeile& zeile = (*this)[nummer];
     zeile.ereignis_zeit = stempel;
-    zeile.verschoben = verschoben;
+    zeile.verschoben = 0;
     zeile.aktiv = true;
     zeile.vorgemerkt = false;
+    zeile.spaet_moeglich = false;
+}
+
+void ereignis_tabelle::ueberfahrt_setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben) {
+    setzen(nummer, stempel);
+    (*this)[nummer].verschoben = verschoben;
+    (*this)[nummer].spaet_moeglich = true;
 }
 
 void ereignis_tabelle::verwerfen(ereignis_art nummer, zeit_ms stempel, verwurf grund) const {
@@ -145,7 +152,7 @@ void ereignis_tabelle::ueberfahrt_aufnehmen(ereignis_art nummer, zeit_ms stempel
     ereignis_zeile& zeile = (*this)[nummer];
     const auto lauf = std::find(art::rundenzaehlung.begin(), art::rundenzaehlung.end(), nummer);
     if (lauf == art::rundenzaehlung.end() || !steht_seit_ || stempel >= *steht_seit_) {
-        setzen(nummer, stempel, verschoben);
+        ueberfahrt_setzen(nummer, stempel, verschoben);
         return;
     }
     schlange& wartende = schlangen_[static_cast<int>(lauf - art::rundenzaehlung.begin()) + 1];
@@ -181,6 +188,7 @@ bool ereignis_tabelle::vorlassen(int spur) {
         zeile.aktiv = true;
         zeile.ereignis_zeit = erste.stempel;
         zeile.verschoben = erste.verschoben;
+        zeile.spaet_moeglich = true;
     }
     return zeile.aktiv;
 }
@@ -264,6 +272,7 @@ void ereignis_tabelle::spuren_3_4_mitzaehlen() {
             erster.aktiv = true;
             erster.ereignis_zeit = zweiter.ereignis_zeit;
             erster.verschoben = zweiter.verschoben;
+            erster.spaet_moeglich = zweiter.spaet_moeglich;
         }
         schlange& wartende = schlangen_[spur + 2];
         for (const schlange::ueberfahrt& u : std::span(wartende.wartende).first(wartende.anzahl)) {

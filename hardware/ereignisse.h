@@ -63,8 +63,9 @@ struct ereignis_zeile {
     bool pegel = false;       ///< level read in this poll
     bool pegel_ruhe = false;  ///< rest level of the line, taken when the race gets ready
     zeit_ms ereignis_zeit = 0;
-    zeit_ms verschoben = 0;   ///< of that, to behind the pause that it lies before
-    bool vorgemerkt = false;  ///< the race has taken note of it, though it still waits
+    zeit_ms verschoben = 0;       ///< of that, to behind the pause that it lies before
+    bool vorgemerkt = false;      ///< the race has taken note of it, though it still waits
+    bool spaet_moeglich = false;  ///< stamped by a device that may tell it late, so by nothing that was read here
 };
 
 /// Why a crossing is forgotten before the race has counted.
@@ -158,7 +159,8 @@ private:
 
     void tun(eingang was, std::int64_t erstes, std::int64_t zweites = 0);
     void ausfuehren(eingang was, const mitschrift::werte& w);
-    void setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben = 0);
+    void setzen(ereignis_art nummer, zeit_ms stempel);
+    void ueberfahrt_setzen(ereignis_art nummer, zeit_ms stempel, zeit_ms verschoben);
     void verwerfen(ereignis_art nummer, zeit_ms stempel, verwurf grund) const;
     /// What waits in the row is forgotten.
     void zeile_verwerfen(ereignis_art nummer);

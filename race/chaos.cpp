@@ -247,7 +247,8 @@ void chaos::durchfahrten_merken() {
         ereignis_zeile& ereignis = um_.ereignisse[art::rundenzaehlung[spur]];
         if (ereignis.aktiv && !zustand.ch_durchfahrt) {
             zustand.ch_durchfahrt = true;
-            const bool selbst_gestempelt = ereignis.ereignis_zeit != um_.ereignisse.messzeit;  // else as the race stood
+            const bool selbst_gestempelt =  // else as the race stood
+                ereignis.spaet_moeglich || ereignis.ereignis_zeit != um_.ereignisse.messzeit;
             zustand.ch_durchfahrt_zeit = selbst_gestempelt ? std::min(ereignis.ereignis_zeit, jetzt) : jetzt;
             zustand.verworfen_bei = ereignis.ereignis_zeit;  // what bounces behind it is not another one
             ereignis.vorgemerkt = true;
@@ -367,7 +368,7 @@ void chaos::aufheben() {
         um_.zustand.pause.dauer = (ende >= um_.zustand.pause.start ? ende : jetzt) - um_.zustand.pause.start;
         um_.zustand.unterbrechung_abziehen(um_.zustand.pause.dauer);
         um_.ereignisse.strecke_leeren();
-        um_.ereignisse.gelten_lassen(jetzt, um_.zustand.pause.start);
+        um_.ereignisse.gelten_lassen(um_.zustand.pause.start + um_.zustand.pause.dauer, um_.zustand.pause.start);
         kleine_ampeln(kleines_licht::gruen);
     }
     chaos_nachholen();

@@ -289,6 +289,36 @@ TEST_F(Chaos, SchalterDerAnBleibtBeginntKeineZweitePause) {
     EXPECT_TRUE(pause()) << "let go and pressed again";
 }
 
+TEST_F(Chaos, WasErstInDerPauseGesagtWirdHatSeineZeitAuchWennSieDasRennenBeendet) {
+    t.p.einst.sensor_timeout = 2s;
+    t.p.einst.sound_an = true;
+    t.p.form1.wertmin.eingeben("3");
+    fahren();
+    const zeit_ms anfang = t.p.rennen.zustand.konto.stempel(1, 0);
+    t.maschine.laufen(6000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(4000);
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[1], anfang + 5000);
+    t.maschine.klang_haelt_auf = 60;
+    t.rennende();
+    EXPECT_EQ(rundenzeit(1, 1), 5000);
+}
+
+TEST_F(Chaos, DerStempelDesLetztenTaktesVorDerPauseIstKeinTastendruck) {
+    t.p.einst.sensor_timeout = 1s;
+    fahren();
+    t.maschine.laufen(6000);
+    const zeit_ms stempel = t.p.ereignisse.messzeit;
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(300);
+    t.p.ereignisse.ueberfahrt_melden(art::rundenzaehlung[1], stempel);
+    t.maschine.laufen(5000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1000);
+    ASSERT_EQ(t.runden(1), 1);
+    EXPECT_EQ(rundenzeit(1, 1), stempel - t.p.rennen.zustand.konto.stempel(1, 0));
+}
+
 TEST_F(Chaos, RennendeInDerTankstrafeGibtDieRundeZurueck) {
     t.p.form1.t_aktiv.umschalten();
     t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
