@@ -29,6 +29,15 @@ void eigene_verschieben(renn_zustand& z, zeit_ms um) {
 
 }  // namespace
 
+zeit_ms renn_zustand::rundenbeginn(int nummer) const {
+    for (int zeile = konto.runden(nummer); zeile >= 0; --zeile) {
+        if (const zeit_ms stempel = konto.stempel(nummer, zeile); stempel != 0) {
+            return stempel;
+        }
+    }
+    return spur[nummer].start_zeit;
+}
+
 void renn_zustand::stempel_verschieben(zeit_ms um) {
     konto.stempel_verschieben(um);
     for (spur_zustand& s : spur) {

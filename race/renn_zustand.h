@@ -141,6 +141,9 @@ struct renn_zustand {
     /// What has been paused since the race was over.
     zeit_ms pausen_im_nachlauf() const { return pause_abzug - pausen_bis_ende.value_or(pause_abzug); }
 
+    /// Stamp from which the lap is timed that the lane is in.
+    zeit_ms rundenbeginn(int nummer) const;
+
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {
         pause_abzug += dauer;

@@ -161,7 +161,9 @@ void rennlage::rueckstand_zeigen(int spur, int fuehrende) {
 /// Of one from the beginning of a pause, which counts behind it.
 zeit_ms rennlage::wartende_runde(int spur) const {
     const spur_zustand& zustand = um_.zustand.spur[spur];
-    return zustand.ch_durchfahrt_zeit - std::max(zustand.gezaehlt_bei, zustand.start_zeit) - zustand.pause_abzug;
+    const zeit_ms nachgerueckt = um_.zustand.chaos_aktiv ? 0 : um_.zustand.pause.dauer;  // as it will be in a moment
+    return zustand.ch_durchfahrt_zeit + nachgerueckt - um_.zustand.rundenbeginn(spur) + zustand.strafzuschlag() -
+           zustand.pause_abzug;
 }
 
 bool rennlage::wartende_zu_kurz(int spur) const {

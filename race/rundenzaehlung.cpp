@@ -41,13 +41,7 @@ zeit_ms rundenzaehlung::rundenzeit_messen(int spur, const ereignis_zeile& ereign
     spur_zustand& zustand = um_.zustand.spur[spur];
     const rundenkonto& konto = um_.zustand.konto;
     if (konto.runden(spur) >= 0 && !zustand.gesperrt(ereignis)) {
-        for (int zeile = konto.runden(spur); zeile >= 0; --zeile) {
-            const zeit_ms vorher = konto.stempel(spur, zeile);
-            if (vorher != 0) {
-                return stempel - vorher + zustand.strafzuschlag();
-            }
-        }
-        return stempel - zustand.start_zeit + zustand.strafzuschlag();
+        return stempel - um_.zustand.rundenbeginn(spur) + zustand.strafzuschlag();
     }
     if (um_.einst.start_zeit_sensor && konto.runden(spur) == -1) {
         zustand.start_zeit = stempel;

@@ -206,6 +206,31 @@ TEST_F(Rennlage, UeberfahrtInDerPauseSagtDassSieNichtZaehlt) {
     EXPECT_EQ(t.runden(2), 1);
 }
 
+TEST_F(Rennlage, WasHinterDerPauseZaehltIstNichtZuKurz) {
+    t.p.einst.sensor_timeout = 2s;
+    t.p.form1.wertmin.eingeben("3");
+    fahren("Zeit", "5");
+    t.maschine.laufen(3500);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(1200);
+    t.p.rennen.befehle.taste('1', 0);
+    t.maschine.laufen(3000);
+    t.bahn().Command3.klicken();
+    EXPECT_EQ(hinweis(1), "Runde wartet");
+    t.maschine.laufen(400);
+    EXPECT_EQ(hinweis(1), "Runde wartet") << "the pause is off the lap, and comes on to its crossing";
+    t.maschine.laufen(300);
+    EXPECT_EQ(t.runden(1), 1);
+    t.runde_nach(5000, "1");
+    t.p.rennen.zaehlung.runde_abziehen(1);
+    t.maschine.laufen(1000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(200);
+    t.p.rennen.befehle.taste('1', 0);
+    t.maschine.laufen(20);
+    EXPECT_EQ(hinweis(1), "Runde wartet") << "it takes in the lap that was taken off";
+}
+
 TEST_F(Rennlage, WerGleichWiederPauseVerlangtErfaehrtWarumKeineKommt) {
     t.p.einst.chaosampel_an = false;
     fahren("Zeit", "5");
