@@ -64,7 +64,9 @@ bool bis_stempel(const geschehen& g) {
 }
 
 bool ist_wahr(const std::vector<std::string>& einstellungen, std::size_t zeile) {
-    return zeile < einstellungen.size() && einstellungen[zeile] == einstellungen[z::wahr_wort];
+    constexpr std::size_t hinter_dem_kopf = 1;  // a blank line
+    return zeile + hinter_dem_kopf < einstellungen.size() &&
+           einstellungen[zeile + hinter_dem_kopf] == einstellungen[z::wahr_wort + hinter_dem_kopf];
 }
 
 int spur_des_ereignisses(std::int64_t art) {

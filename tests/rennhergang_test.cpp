@@ -96,6 +96,29 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
     EXPECT_TRUE(h.abgelehnte(2).empty());
 }
 
+TEST_F(Rennhergang, EinSchalterVerlangtKeineZweitePause) {
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.chaos_schalter = true;
+    t.starten("Zeit", "5", {1, 2});
+    const auto an = [this](int ms) {  // a device repeats the switch with each poll
+        for (; ms > 0; --ms) {
+            t.p.ereignisse.ereignis_melden(art::chaostaster);
+            t.maschine.laufen(1);
+        }
+        t.p.ereignisse.ereignis_weg(art::chaostaster);
+    };
+    t.maschine.laufen(3000);
+    an(4000);
+    t.maschine.laufen(600);
+    ASSERT_FALSE(t.p.rennen.zustand.chaos_aktiv);
+    an(3000);
+    ASSERT_TRUE(t.p.rennen.zustand.chaos_aktiv) << "as soon as the lock is over";
+    t.rennende();
+    const rennhergang h = hergang_lesen(datei());
+    EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause; }), 2);
+    EXPECT_TRUE(std::none_of(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause_verlangt; }));
+}
+
 TEST_F(Rennhergang, VerworfeneUeberfahrtenStehenEinmalDa) {
     t.p.einst.chaosampel_an = false;
     t.p.einst.sensor_timeout = 1000ms;
