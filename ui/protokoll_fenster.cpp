@@ -17,8 +17,8 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr int dateispalte_breite = 240;
-constexpr int dateispalte_breite_max = 420;
+constexpr int logspalte_breite = 240;
+constexpr int logspalte_breite_max = 420;
 constexpr int fleck_px = 12;
 /// A refused crossing stands out, on light and on dark ground.
 struct Auszeichnung {
@@ -119,7 +119,7 @@ void Protokollmodell::neuerInhalt() {
 ProtokollFenster::ProtokollFenster(protokollfenster& logik, const dateien& ablage, Fensterverwaltung& verwaltung,
                                    QWidget* eltern)
     : Ablagefenster(logik, verwaltung, eltern), logik_(logik) {
-    const teile t = aufteilen(dateispalte_breite, logik.Label_kopf, "Label_kopf", 18);
+    const teile t = aufteilen(logspalte_breite, logik.Label_kopf, "Label_kopf", 18);
     dateispalte_fuellen(t);
     QVBoxLayout* rechts = t.rechts;
     rechts->addWidget(stil::leise(binder().label(logik.Label_hinweis, "Label_hinweis")));
@@ -258,7 +258,7 @@ void ProtokollFenster::wahl_zeigen() {
 
 void ProtokollFenster::resizeEvent(QResizeEvent* ereignis) {
     Ablagefenster::resizeEvent(ereignis);
-    dateispalte_->setFixedWidth(std::clamp(width() * 22 / 100, dateispalte_breite, dateispalte_breite_max));
+    dateispalte_->setFixedWidth(std::clamp(width() * 22 / 100, logspalte_breite, logspalte_breite_max));
 }
 
 void ProtokollFenster::aufschlagen() {

@@ -13,7 +13,7 @@ namespace tarvel::ui {
 namespace {
 
 constexpr double kleinste_verkleinerung = 0.4;
-constexpr double gewinn = 1.2;  // a little larger is not worth another line
+constexpr double zeilengewinn = 1.2;  // a little larger is not worth another line
 
 }  // namespace
 
@@ -136,7 +136,7 @@ QSize TextAnzeige::minimumSizeHint() const {
 int TextAnzeige::heightForWidth(int breite) const {
     const QFontMetricsF masse(schrift_);
     QSizeF platz = masse.size(0, text_);
-    for (int anzahl = 2; platz.width() > gewinn * breite && anzahl <= zeilen_; ++anzahl) {
+    for (int anzahl = 2; platz.width() > zeilengewinn * breite && anzahl <= zeilen_; ++anzahl) {
         platz = masse.size(0, umbrochen(text_, masse, anzahl));
     }
     return static_cast<int>(std::ceil(platz.height()));
@@ -162,7 +162,7 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
         const QString zeilen = umbrochen(text_, masse, anzahl);
         const QSizeF platz = masse.size(0, zeilen);
         const double gebrochen = std::min({1.0, breite / platz.width(), hoehe / platz.height()});
-        if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : gewinn * faktor)) {
+        if (gebrochen >= kleinster && gebrochen > (faktor < kleinster ? 0 : zeilengewinn * faktor)) {
             satz.text = zeilen;
             faktor = gebrochen;
             satz.art = 0;
