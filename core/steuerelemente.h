@@ -216,7 +216,10 @@ public:
     void leeren();
     void letzte_entfernen();
     /// Makes room, so that rows up to this number are added without an allocation.
-    void vormerken(std::size_t anzahl) { zeilen_.reserve(anzahl); }
+    void vormerken(std::size_t anzahl) {
+        zeilen_.reserve(anzahl);
+        gezeigt_.reserve(anzahl);
+    }
 
     /// Selected row, -1 for none. A row that does not exist selects the nearest one.
     int markiert() const { return markiert_; }

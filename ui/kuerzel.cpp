@@ -64,14 +64,22 @@ qsizetype Kuerzel::platz_suchen(const Eintrag& eintrag) {
     if (behalten >= 0) {
         return behalten;
     }
-    for (const bool wortanfang : {true, false}) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
+    const auto frei_bis = [&](qsizetype ende, bool wortanfang) -> qsizetype {
+        for (qsizetype i = 0; i < ende; ++i) {
             const bool am_anfang = i == 0 || !text[i - 1].isLetter();
             if ((am_anfang || !wortanfang) && taugt(text[i])) {
                 const Eintrag* wer = besitzer(text[i].toLower());
                 if (wer == nullptr || wer == &eintrag) {
                     return i;
                 }
+            }
+        }
+        return -1;
+    };
+    for (const qsizetype ende : {text.indexOf(u':'), text.size()}) {  // behind it stand names
+        for (const bool wortanfang : {true, false}) {
+            if (const qsizetype frei = frei_bis(ende, wortanfang); frei >= 0) {
+                return frei;
             }
         }
     }
