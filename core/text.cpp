@@ -96,6 +96,14 @@ std::string aufgefuellt(std::string_view text, std::size_t breite) {
     return std::string(text) + std::string(breite - std::min(breite, laenge(text)), ' ');
 }
 
+std::string unteilbar(std::string_view text) {
+    std::string fest;
+    for (const char zeichen : text) {
+        fest += zeichen == ' ' ? "\u00A0" : std::string(1, zeichen);
+    }
+    return fest;
+}
+
 std::string_view gekuerzt(std::string_view text) {
     const auto anfang = text.find_first_not_of(" \t");
     if (anfang == std::string_view::npos) {

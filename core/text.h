@@ -19,6 +19,9 @@ std::string_view mitte(std::string_view text, std::size_t ab, std::size_t anzahl
 /// With blanks behind it up to `breite` characters; what is longer stays.
 std::string aufgefuellt(std::string_view text, std::size_t breite);
 
+/// With blanks at which no line breaks.
+std::string unteilbar(std::string_view text);
+
 /// Without blanks and tabs at both ends.
 std::string_view gekuerzt(std::string_view text);
 

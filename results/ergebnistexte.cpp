@@ -84,7 +84,7 @@ void aufzaehlen(std::string& text, const std::string& wort, const std::string& e
 }
 
 std::string mit_platz(int platz, const spur& s) {
-    return std::to_string(platz) + ".\u00A0" + s.fahrer;  // a line may end between two names
+    return unteilbar(std::to_string(platz) + ". " + s.fahrer);  // a line may end between two names
 }
 
 }  // namespace
@@ -96,7 +96,7 @@ std::string ab_gruen(const rennergebnis& ergebnis, const blatt_worte& wort) {
     }
     std::string zu_frueh;
     for (const int nummer : gezaehlt_ab_gruen(ergebnis)) {
-        aufzaehlen(zu_frueh, wort.nach_fruehstart, ergebnis.auf(nummer)->fahrer);
+        aufzaehlen(zu_frueh, wort.nach_fruehstart, unteilbar(ergebnis.auf(nummer)->fahrer));
     }
     return folge + (folge.empty() || zu_frueh.empty() ? "" : "\n") + zu_frueh;
 }

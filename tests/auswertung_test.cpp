@@ -89,7 +89,7 @@ TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
     EXPECT_EQ(t.ergebnis(2).platz, 1);
     EXPECT_EQ(t.ergebnis(3).platz, 3);
     EXPECT_FALSE(a.Label_ab_gruen.sichtbar()) << "both have come to the line together";
-    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 1");
+    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer\u00A02, 2.\u00A0Fahrer\u00A01");
     a.Command1.klicken();
 
     t.bahn().Command1.klicken();
@@ -103,10 +103,11 @@ TEST_F(Auswertung, WerAnDerLinieVornWarStehtDaWennDieWertungEsAndersSieht) {
     EXPECT_EQ(t.ergebnis(2).platz, 1) << "5.7 s from its own first crossing";
     EXPECT_TRUE(a.Label_ab_gruen.sichtbar());
     EXPECT_EQ(a.Label_ab_gruen.text(),
-              "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1.\u00A0Fahrer 1, "
-              "2.\u00A0Fahrer 2, 3.\u00A0Fahrer 3");
+              "Die Zeit zählt ab der eigenen ersten Überfahrt; ab Grün gezählt wäre die Folge: 1.\u00A0Fahrer\u00A01, "
+              "2.\u00A0Fahrer\u00A02, 3.\u00A0Fahrer\u00A03");
     EXPECT_EQ(t.bahn().ergebnisfolge.text(),
-              "Gewertet ab der eigenen ersten Überfahrt: 1.\u00A0Fahrer 2, 2.\u00A0Fahrer 3, 3.\u00A0Fahrer 1");
+              "Gewertet ab der eigenen ersten Überfahrt: 1.\u00A0Fahrer\u00A02, 2.\u00A0Fahrer\u00A03, "
+              "3.\u00A0Fahrer\u00A01");
     EXPECT_TRUE(t.bahn().ergebnisfolge.sichtbar());
     a.Command1.klicken();
     EXPECT_FALSE(t.bahn().ergebnisfolge.sichtbar());
@@ -128,8 +129,8 @@ TEST_F(Auswertung, StrafeAenderDieFolgeAufDerBahnUndFruehstartDieZeit) {
     t.runde_nach(1000, "23");
     t.rennende();
     EXPECT_EQ(t.ergebnis(2).platz, 1);
-    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer 2, 3.\u00A0Fahrer 1");
-    EXPECT_EQ(a.Label_ab_gruen.text(), "Nach einem Frühstart zählt die Zeit schon ab Grün: Fahrer 3");
+    EXPECT_EQ(t.bahn().ergebnisfolge.text(), "Ergebnis: 1.\u00A0Fahrer\u00A02, 3.\u00A0Fahrer\u00A01");
+    EXPECT_EQ(a.Label_ab_gruen.text(), "Nach einem Frühstart zählt die Zeit schon ab Grün: Fahrer\u00A03");
 }
 
 TEST_F(Auswertung, HauptmenueRaeumtDasRennenAb) {
