@@ -4,7 +4,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
+#include <climits>
 #include <initializer_list>
 #include <utility>
 
@@ -263,6 +265,22 @@ void AuswertungFenster::skalieren() {
     }
     for (Ergebniszeile* zeile : zeilen_) {
         zeile->skalieren(skala, laengste);
+    }
+    if (!std::exchange(vorgemerkt_, true)) {
+        QTimer::singleShot(0, this, [this] {  // the sizes go by the room that the lines get
+            vorgemerkt_ = false;
+            abstaende_angleichen();
+        });
+    }
+}
+
+void AuswertungFenster::abstaende_angleichen() {
+    int px = INT_MAX;
+    for (const Ergebniszeile* zeile : zeilen_) {
+        px = zeile->gezeigt() ? std::min(px, zeile->abstandsschrift()) : px;
+    }
+    for (Ergebniszeile* zeile : zeilen_) {
+        zeile->abstandsschrift_setzen(px);
     }
 }
 

@@ -36,6 +36,7 @@ private:
     QWidget* spurwechselfeld();
     void ordnen();
     void skalieren();
+    void abstaende_angleichen();
 
     auswertung& logik_;
     TextAnzeige* kopf_ = nullptr;
@@ -44,6 +45,7 @@ private:
     QWidget* stand_ = nullptr;
     QVBoxLayout* reihen_ = nullptr;
     std::vector<Ergebniszeile*> zeilen_;
+    bool vorgemerkt_ = false;  ///< the sizes of what stands under the times
 };
 
 }  // namespace tarvel::ui

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <utility>
 
@@ -49,8 +50,10 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     aufbau->addWidget(tank, 3);
     tankzelle_ = tank;
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
-    zeit.zusatz->addWidget(zusatz(logik.abstandlabel[i], "abstandlabel", binder), 4);
-    zeit.zusatz->addWidget(zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder), 5);
+    abstaende_ = {zusatz(logik.abstandlabel[i], "abstandlabel", binder),
+                  zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder)};
+    zeit.zusatz->addWidget(abstaende_[0], 4);
+    zeit.zusatz->addWidget(abstaende_[1], 5);
     constexpr int zeit_anteil = 7;
     aufbau->addWidget(zeit.feld, zeit_anteil);
     rahmen& mit_tank = logik.Frame_tank.at(i);
@@ -115,6 +118,20 @@ TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, 
     platz_halten.setRetainSizeWhenHidden(true);
     anzeige->setSizePolicy(platz_halten);
     return anzeige;
+}
+
+int Ergebniszeile::abstandsschrift() const {
+    int px = INT_MAX;
+    for (const TextAnzeige* einer : abstaende_) {
+        px = einer->isVisible() && !einer->text().isEmpty() ? std::min(px, einer->schriftPx()) : px;
+    }
+    return px;
+}
+
+void Ergebniszeile::abstandsschrift_setzen(int px) {
+    for (TextAnzeige* einer : abstaende_) {
+        einer->setSchriftPx(px);
+    }
 }
 
 QWidget* Ergebniszeile::fahrerzelle(Binder& binder) {

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QWidget>
+#include <array>
 #include <vector>
 
 #include "results/auswertung.h"
@@ -20,6 +21,9 @@ public:
     /// The lists of all rows are as wide as this line needs.
     void skalieren(double skala, const QString& laengste_runde);
     QString laengste_runde() const;
+    /// What stands under the time is in one size in all rows: that which the longest needs.
+    int abstandsschrift() const;
+    void abstandsschrift_setzen(int px);
     /// What the Tab key reaches in the row.
     QWidget* meterfeld() const { return meterfeld_; }
     QWidget* rundenliste() const { return liste_; }
@@ -60,8 +64,9 @@ private:
     std::size_t index_;
     QListView* liste_ = nullptr;
     std::vector<QWidget*> bilder_;
-    std::vector<QWidget*> werte_;        ///< the figures and the name
-    std::vector<QPushButton*> knoepfe_;  ///< beside the list
+    std::vector<QWidget*> werte_;              ///< the figures and the name
+    std::vector<QPushButton*> knoepfe_;        ///< beside the list
+    std::array<TextAnzeige*, 2> abstaende_{};  ///< in time, and in laps
     QLineEdit* meterfeld_ = nullptr;
     QWidget* tankzelle_ = nullptr;
     QColor spurfarbe_;
