@@ -108,7 +108,7 @@ wettkampfblatt::tabelle Blattbildner::heats(int von, int bis) const {
 }
 
 wettkampfblatt::tabelle Blattbildner::rennplan() const {
-    wettkampfblatt::tabelle t{wort_.rennplan, {}, {{wort_.rennen, 0, true}}, {}};
+    wettkampfblatt::tabelle t{wort_.rennplan, {}, {{wort_.spalte_rennen, 0, true}}, {}};
     for (const int spur : alle_spuren) {
         if (w_.spur_aktiv[spur]) {
             t.spalten.push_back({wort_.spur + " " + std::to_string(spur), spur});
@@ -133,7 +133,10 @@ wettkampfblatt::tabelle Blattbildner::rennplan() const {
 sprachliste& wettkampfblatt_worte::eintragen(sprachliste& texte) {
     texte.text("Runden", runden).text("Meter", meter).text("beste Runde", beste).text("Gesamtzeit", gesamtzeit);
     texte.text("gesamt", gesamt).text("Spur", spur).text("Heat", heat).text("Rangliste", rangliste);
-    texte.text("Einzelergebnisse", einzeln).text("Rennplan", rennplan).text("Rennen", rennen);
+    texte.text("Einzelergebnisse", einzeln)
+        .text("Rennplan", rennplan)
+        .text("Rennen", rennen)
+        .text("Rennen", spalte_rennen);
     texte.text("gefahren", gefahren).text("Seite", seite).text("nach", nach).text("von", von);
     texte.text("Runden · Meter, darunter beste Runde · Zeit", zeichenfolge);
     texte.text("Wertung nach Metern", wertung[0]).text("Wertung nach Runden", wertung[1]);

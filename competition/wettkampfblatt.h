@@ -15,7 +15,7 @@ namespace tarvel {
 /// Words of the printed standing.
 struct wettkampfblatt_worte {
     std::string nummer, name, runden, meter, beste, gesamtzeit, gesamt, spur, heat;
-    std::string rangliste, einzeln, rennplan, rennen, gefahren, seite, nach, von, zeichenfolge;
+    std::string rangliste, einzeln, rennplan, rennen, spalte_rennen, gefahren, seite, nach, von, zeichenfolge;
     std::array<std::string, 3> wertung;  ///< by metres, laps, best lap
 
     sprachliste& eintragen(sprachliste& texte);
