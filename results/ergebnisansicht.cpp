@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <utility>
+#include <vector>
 
 #include "core/text.h"
 
@@ -109,8 +111,7 @@ private:
             namen.push_back(fahrer.felder[fahrer.spalten.name]);
         }
         const std::size_t davor = spalten_.empty() ? 0 : spalten_.front().breite;
-        laengster_name_ = namensbreite(namen, 0);
-        namen_ = {{davor}, std::max(laengster_name_, name_mindestens), name_mindestens};
+        namen_ = {{davor}, namensbreite(namen, name_mindestens), name_mindestens};
         spalten_.push_back({wort_.name, namen_.breite + hinter_dem_namen, true,
                             [breite = namen_.breite](const ergebniszeile& /*zeile*/, const fahrerzeile& fahrer) {
                                 return eingepasst(fahrer.felder[fahrer.spalten.name], breite);
@@ -248,23 +249,35 @@ private:
         });
     }
 
-    /// As wide as the names, but all of them no wider than the lines above.
-    std::size_t rundenspalte(const ergebnisansicht& ansicht) const {
-        const std::size_t platz = laenge(ansicht.kopf.text) - std::min(laenge(ansicht.kopf.text), vor_den_runden);
-        return std::clamp(platz / std::max<std::size_t>(fahrer_.size(), 1), rundenspalte_min,
-                          std::max(rundenspalte_min, laengster_name_ + 2));
+    /// As wide as the names, but all of them no wider than the lines above: short ones get their room first.
+    std::vector<std::size_t> rundenspalten(const ergebnisansicht& ansicht) const {
+        std::vector<std::size_t> breiten(fahrer_.size(), rundenspalte_min);
+        const std::size_t vergeben = vor_den_runden + fahrer_.size() * rundenspalte_min;
+        std::size_t rest = laenge(ansicht.kopf.text) - std::min(laenge(ansicht.kopf.text), vergeben);
+        std::multimap<std::size_t, std::size_t> wuensche;
+        for (std::size_t i = 0; i < fahrer_.size(); ++i) {
+            const fahrerzeile& fahrer = fahrer_[i].second;
+            wuensche.emplace(std::max(laenge(fahrer.felder[fahrer.spalten.name]) + 2, rundenspalte_min), i);
+        }
+        for (const auto& [wunsch, i] : wuensche) {
+            const std::size_t mehr = std::min(wunsch - rundenspalte_min, rest);
+            breiten[i] += mehr;
+            rest -= mehr;
+        }
+        return breiten;
     }
 
     void rundentabelle(ergebnisansicht& ansicht) const {
         constexpr std::size_t erste = 5;
-        const std::size_t je_fahrer = rundenspalte(ansicht);
+        const std::vector<std::size_t> breiten = rundenspalten(ansicht);
         std::string kopf = linksbuendig(wort_.runde, vor_den_runden);
         std::string rennen = linksbuendig(wort_.rennen, vor_den_runden);
         std::size_t reihen = 0;
-        for (const auto& [nummer, fahrer] : fahrer_) {
-            rennen += rechtsbuendig(std::to_string(t_.zeilen[nummer].rennen + 1), je_fahrer);
+        for (std::size_t i = 0; i < fahrer_.size(); ++i) {
+            const auto& [nummer, fahrer] = fahrer_[i];
+            rennen += rechtsbuendig(std::to_string(t_.zeilen[nummer].rennen + 1), breiten[i]);
             const std::string& name = fahrer.felder[fahrer.spalten.name];
-            kopf += rechtsbuendig(gekuerzt(eingepasst(name, je_fahrer - 2)), je_fahrer);
+            kopf += rechtsbuendig(gekuerzt(eingepasst(name, breiten[i] - 2)), breiten[i]);
             reihen = std::max(reihen, fahrer.felder.size() - erste);
         }
         ansicht.zeilen.push_back({});
@@ -275,9 +288,10 @@ private:
         for (std::size_t runde = 0; runde < reihen; ++runde) {
             std::string text = linksbuendig(runde == 0 ? wort_.start : std::to_string(runde) + ".", vor_den_runden);
             bool leer = true;
-            for (const auto& [nummer, fahrer] : fahrer_) {
-                const bool da = erste + runde < fahrer.felder.size() && !fahrer.felder[erste + runde].empty();
-                text += rechtsbuendig(da ? zeit(fahrer.felder[erste + runde]) : std::string(), je_fahrer);
+            for (std::size_t i = 0; i < fahrer_.size(); ++i) {
+                const ergebnisfelder& felder = fahrer_[i].second.felder;
+                const bool da = erste + runde < felder.size() && !felder[erste + runde].empty();
+                text += rechtsbuendig(da ? zeit(felder[erste + runde]) : std::string(), breiten[i]);
                 leer = leer && !da;
             }
             if (!leer) {
@@ -292,7 +306,6 @@ private:
     std::vector<std::pair<std::size_t, fahrerzeile>> fahrer_;  ///< with their places in the table
     std::vector<spalte> spalten_;
     namensspalten namen_;
-    std::size_t laengster_name_ = 0;
 };
 
 }  // namespace
