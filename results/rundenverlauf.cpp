@@ -58,12 +58,18 @@ int letzte_runde(const rundenverlauf& verlauf) {
 }
 
 zeitspanne uebliche_zeiten(const rundenverlauf& verlauf) {
+    const bool nur_nachgetragene = std::all_of(verlauf.begin(), verlauf.end(), [](const spur_verlauf& lauf) {
+        return std::all_of(lauf.runden.begin(), lauf.runden.end(),
+                           [](const verlaufsrunde& r) { return r.nachgetragen; });
+    });
     std::vector<zeit_ms> alle;
     zeit_ms grenze = 0;
     for (const spur_verlauf& lauf : verlauf) {
         std::vector<zeit_ms> zeiten;
         for (const verlaufsrunde& runde : lauf.runden) {
-            zeiten.push_back(runde.zeit);
+            if (!runde.nachgetragen || nur_nachgetragene) {
+                zeiten.push_back(runde.zeit);
+            }
         }
         alle.insert(alle.end(), zeiten.begin(), zeiten.end());
         if (zeiten.size() >= aussagekraeftig) {

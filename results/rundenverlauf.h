@@ -42,7 +42,8 @@ struct zeitspanne {
 };
 
 /// From the fastest lap to the slowest that is one of the usual laps of a lane: a car that lay beside the track for a
-/// minute does not flatten all other laps. Laps above `bis` are to be shown at the edge. Both ends are 0 without a lap.
+/// minute does not flatten all other laps, nor does one that was added, of which two make a lap. What is outside is to
+/// be shown at the edge. Both ends are 0 without a lap.
 zeitspanne uebliche_zeiten(const rundenverlauf& verlauf);
 
 /// No more laps than a chart can tell apart: of each group of neighbours the fastest and the slowest, so that the line

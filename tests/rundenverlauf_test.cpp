@@ -54,6 +54,13 @@ TEST(Rundenverlauf, EinAutoNebenDerBahnDruecktDieAnderenNichtFlach) {
     EXPECT_EQ(bis({lauf(1, {62000})}), 62000);
     EXPECT_EQ(bis({lauf(1, {})}), 0);
     EXPECT_EQ(uebliche_zeiten({lauf(1, {8000, 8100, 7900}), lauf(2, {})}).von, 7900);
+    spur_verlauf geteilt = lauf(1, {8000, 8100, 3950, 3950});
+    for (const std::size_t i : {2U, 3U}) {
+        geteilt.runden[i].nachgetragen = true;
+    }
+    EXPECT_EQ(uebliche_zeiten({geteilt}).von, 8000) << "nobody has driven the halves of a lap";
+    geteilt.runden.erase(geteilt.runden.begin(), geteilt.runden.begin() + 2);
+    EXPECT_EQ(uebliche_zeiten({geteilt}).bis, 3950) << "there are no others";
 }
 
 TEST(Rundenverlauf, AusgeduenntBleibtDerUmriss) {

@@ -109,7 +109,7 @@ QColor Rundenbild::spurfarbe(int spur) const {
 }
 
 QPointF Rundenbild::wert(const verlaufsrunde& runde) const {
-    return {static_cast<double>(runde.runde), std::min(sekunden(runde.zeit), y_->max())};
+    return {static_cast<double>(runde.runde), std::clamp(sekunden(runde.zeit), y_->min(), y_->max())};
 }
 
 QString Rundenbild::zeit_text(zeit_ms zeit) const {
@@ -162,7 +162,8 @@ void Rundenbild::spur_bauen(const spur_verlauf& lauf, std::vector<rundensymbol>&
         symbole.push_back({symbolform::pause, wert(runde), farbe, {}});
     }
     for (const verlaufsrunde& runde : ausgeduennt(nachgetragene, symbole_je_spur)) {
-        symbole.push_back({symbolform::nachgetragen, wert(runde), farbe, {}});
+        const bool kurz = sekunden(runde.zeit) < y_->min();  // half of a lap, where its crossing was missed
+        symbole.push_back({symbolform::nachgetragen, wert(runde), farbe, kurz ? zeit_text(runde.zeit) : QString()});
     }
     for (const verlaufsrunde& runde : ausgeduennt(lange, symbole_je_spur)) {
         symbole.push_back({symbolform::lang, wert(runde), farbe, zeit_text(runde.zeit)});
