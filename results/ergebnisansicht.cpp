@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/text.h"
+#include "results/ergebnissortierung.h"
 
 namespace tarvel {
 namespace {
@@ -134,8 +135,20 @@ private:
         });
     }
 
+    /// A round robin's file numbers its drivers as they stand in the start list, until they are sorted.
+    bool nummern_sind_plaetze() const {
+        if (t_.typ != ergebnis_typ::jeder_gegen_jeden) {
+            return true;
+        }
+        ergebnistabelle sortiert = t_;
+        sortieren(sortiert, sortier_modus::runden);
+        return std::equal(sortiert.zeilen.begin(), sortiert.zeilen.end(), t_.zeilen.begin(),
+                          [](const ergebniszeile& a, const ergebniszeile& b) { return a.text == b.text; });
+    }
+
     void platzspalte() {
-        spalten_.push_back({wort_.platz, erstes_feld, true, [](const ergebniszeile& zeile, const fahrerzeile& fahrer) {
+        const std::string& kopf = nummern_sind_plaetze() ? wort_.platz : wort_.nummer;
+        spalten_.push_back({kopf, erstes_feld, true, [](const ergebniszeile& zeile, const fahrerzeile& fahrer) {
                                 return fahrer.spalten.platz ? fahrer.felder[*fahrer.spalten.platz]
                                        : zeile.platz > 0    ? std::to_string(zeile.platz) + "."
                                                             : std::string();

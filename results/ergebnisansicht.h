@@ -11,6 +11,7 @@ namespace tarvel {
 struct ansicht_worte {
     std::string platz, klasse, name, rennen, spur, runden, meter, beste, gesamtzeit, strafzeit;
     std::string heat, laenge, restmeter;
+    std::string nummer;        ///< over numbers that are no places
     std::string runde, start;  ///< of the table of laps; `start` is the way to the first crossing
 };
 

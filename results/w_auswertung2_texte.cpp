@@ -38,7 +38,8 @@ sprachliste w_auswertung2::sprache_w_ausw() {
     blatt.ab_gruen_nennen(blatt.rueckstand.eintragen(texte)).text("automatisch gesichert", wort_.automatisch);
     blatt.fruehstart_nennen(texte.text("ohne Klasse", wort_.ohne_klasse));
     texte.text("Eintrag", wort_.eintrag).text("Ende", wort_.ende).text("Strafzeit", ansicht_wort_.strafzeit);
-    return texte.text("nachgetragene Runde", diagramm.nachgetragen).text("nachgetragen:", blatt.nachgetragen);
+    texte.text("nachgetragene Runde", diagramm.nachgetragen).text("nachgetragen:", blatt.nachgetragen);
+    return texte.text("Nr.", ansicht_wort_.nummer);
 }
 
 void w_auswertung2::meldungstexte(sprachliste& texte) {
