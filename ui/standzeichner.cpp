@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "ui/stil.h"
+#include "ui/textanzeige.h"
 #include "ui/wettkampfbalken.h"
 
 namespace tarvel::ui {
@@ -28,6 +29,39 @@ QColor Standzeichner::grund(const QStyleOptionViewItem& option, const QModelInde
     return zelle.row() == 0 && mass_.mit_sieger ? f.sieger : zelle.row() % 2 == 1 ? f.streifen : f.karte;
 }
 
+Standzeichner::Satz Standzeichner::name_setzen(const QString& name, const QSize& platz) const {
+    constexpr int lesbar_px = 11;
+    Satz satz{{name}, mass_.gross, QFontMetrics(mass_.gross).horizontalAdvance(name) <= platz.width()};
+    if (satz.ganz || !name.contains(' ')) {
+        return satz;
+    }
+    satz.zeilen = umbrochen(name, QFontMetricsF(mass_.gross), 2).split('\n');
+    const auto passt = [&](const QFontMetrics& masse) {
+        return std::all_of(satz.zeilen.begin(), satz.zeilen.end(),
+                           [&](const QString& zeile) { return masse.horizontalAdvance(zeile) <= platz.width(); });
+    };
+    const auto hoch = [&](const QFontMetrics& masse) { return 2 * masse.height() > platz.height(); };
+    while (satz.schrift.pixelSize() > lesbar_px &&
+           (hoch(QFontMetrics(satz.schrift)) || !passt(QFontMetrics(satz.schrift)))) {
+        satz.schrift.setPixelSize(satz.schrift.pixelSize() - 1);
+    }
+    satz.ganz = passt(QFontMetrics(satz.schrift));
+    return satz;
+}
+
+void Standzeichner::name_malen(QPainter& maler, const QString& name, const QRect& feld) const {
+    const Satz satz = name_setzen(name, feld.size());
+    const QFontMetrics masse(satz.schrift);
+    QRect zeile(feld.left(), feld.top() + (feld.height() - static_cast<int>(satz.zeilen.size()) * masse.height()) / 2,
+                feld.width(), masse.height());
+    maler.setFont(satz.schrift);
+    for (const QString& text : satz.zeilen) {
+        maler.drawText(zeile, static_cast<int>(ausrichtung_ | Qt::AlignVCenter | Qt::TextSingleLine),
+                       masse.elidedText(text, Qt::ElideRight, feld.width()));
+        zeile.translate(0, masse.height());
+    }
+}
+
 void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, const QModelIndex& zelle) const {
     const QColor flaeche = grund(option, zelle);
     maler->fillRect(option.rect, flaeche);
@@ -40,6 +74,10 @@ void Standzeichner::paint(QPainter* maler, const QStyleOptionViewItem& option, c
     const bool leer = ausrichtung_ != Qt::AlignLeft && !zelle.data().toString().contains(QRegularExpression("[1-9]"));
     const QColor schrift = stil::schrift_auf(flaeche);
     maler->setPen(leer ? stil::auf_dem_schirm().schrift_gesperrt : schrift);  // what has not been driven stands back
+    if (ausrichtung_ == Qt::AlignLeft) {
+        name_malen(*maler, zeilen.front(), feld);
+        return;
+    }
     maler->setFont(mass_.gross);
     maler->drawText(oben, static_cast<int>(ausrichtung_ | Qt::AlignVCenter | Qt::TextSingleLine),
                     gross.elidedText(zeilen.front(), Qt::ElideRight, feld.width()));
@@ -61,9 +99,9 @@ QSize Standzeichner::sizeHint(const QStyleOptionViewItem& /*option*/, const QMod
 bool Standzeichner::helpEvent(QHelpEvent* ereignis, QAbstractItemView* spalte, const QStyleOptionViewItem& option,
                               const QModelIndex& zelle) {
     const QString text = zelle.data().toString();
-    const bool abgeschnitten =
-        QFontMetrics(mass_.gross).horizontalAdvance(text) > option.rect.width() - 2 * zellenluft(mass_);
-    QToolTip::showText(ereignis->globalPos(), abgeschnitten && !text.contains('\n') ? text : QString(), spalte);
+    const QSize feld = option.rect.adjusted(zellenluft(mass_), 0, -zellenluft(mass_), 0).size();
+    const bool abgeschnitten = !text.contains('\n') && !name_setzen(text, feld).ganz;
+    QToolTip::showText(ereignis->globalPos(), abgeschnitten ? text : QString(), spalte);
     return true;
 }
 

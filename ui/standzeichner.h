@@ -36,6 +36,15 @@ protected:
     QColor grund(const QStyleOptionViewItem& option, const QModelIndex& zelle) const;
 
 private:
+    /// A name that is too wide for one line has the two that the other cells have.
+    struct Satz {
+        QStringList zeilen;
+        QFont schrift;
+        bool ganz;
+    };
+    Satz name_setzen(const QString& name, const QSize& platz) const;
+    void name_malen(QPainter& maler, const QString& name, const QRect& feld) const;
+
     const standmass& mass_;
     Qt::Alignment ausrichtung_;
 };
