@@ -222,7 +222,9 @@ void tagesrennen_fenster::fuehrung_zeigen(bool bereit) {
     auto zeilen =
         bereit ? um_.welt.ablage.zeilen_lesen(tagesdatei_pfad(dateiname()), ergebnistabelle::zeilen_max) : std::nullopt;
     const auto tabelle = zeilen ? ergebnistabelle_lesen(std::move(*zeilen), um_.einst.trennzeichen) : std::nullopt;
-    Label_fuehrung.text(tabelle ? fuehrung_.zeile(tagesfuehrung(*tabelle, um_.einst.auswertung_nach)) : std::string());
+    Label_fuehrung.text(tabelle
+                            ? fuehrung_.zeile(tagesfuehrung(*tabelle, um_.einst.auswertung_nach), Label_klasse.text())
+                            : std::string());
 }
 
 std::string tagesrennen_fenster::zeile(const tageszeile& z) const {

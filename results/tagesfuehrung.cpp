@@ -40,11 +40,11 @@ void fuehrungsworte::eintragen(sprachliste& texte) {
     texte.text("In Führung:", in_fuehrung).text("Runde", runde).text("Runden", runden);
 }
 
-std::string fuehrungsworte::zeile(const std::vector<tagesfuehrender>& wer) const {
+std::string fuehrungsworte::zeile(const std::vector<tagesfuehrender>& wer, const std::string& klasse) const {
     std::string text;
     for (std::size_t i = 0; i < std::min(wer.size(), klassen_in_der_zeile); ++i) {
         text += i == 0 ? in_fuehrung + " " : "  ·  ";
-        text += wer[i].klasse.empty() ? std::string() : wer[i].klasse + " ";
+        text += wer[i].klasse.empty() ? std::string() : klasse + "\u00a0" + wer[i].klasse + ": ";
         text += wer[i].name + ", " + std::to_string(wer[i].runden) + " " + (wer[i].runden == 1 ? runde : runden);
     }
     return wer.size() > klassen_in_der_zeile ? text + "  ·  …" : text;

@@ -65,7 +65,7 @@ void w_auswertung2::fuehrung_nennen() {
     const auto wer =
         tabelle_ && !tabelle_->addiert ? tagesfuehrung(*tabelle_, sortieren_nach()) : std::vector<tagesfuehrender>{};
     Label_fuehrung.sichtbar(!wer.empty());
-    Label_fuehrung.text(fuehrung_.zeile(wer) + ".  " + wort_.alle_plaetze);
+    Label_fuehrung.text(fuehrung_.zeile(wer, ansicht_wort_.klasse) + ".  " + wort_.alle_plaetze);
 }
 
 }  // namespace tarvel

@@ -77,7 +77,7 @@ TEST_F(Tagesrennen, DreiRennenMitKlassenKommenUntereinander) {
     EXPECT_EQ(protokoll_zu_ergebnis(t.p.ablage, t.p.tagesrennen.datei), t.p.rennprotokoll.dateiname());
 
     ASSERT_TRUE(offen(fenstername::Tagesrennen)) << "the next race of the day is set up here";
-    EXPECT_EQ(f.Label_fuehrung.text(), "In Führung: B Anna, 1 Runde") << "in class 9 nobody has a lap";
+    EXPECT_EQ(f.Label_fuehrung.text(), "In Führung: Klasse\u00a0B: Anna, 1 Runde") << "in class 9 nobody has a lap";
     EXPECT_EQ(f.Label_lf_hinweis.text(), "verwende bestehende Datei - Datei bereit");
     EXPECT_EQ(f.ergebnisse.zeilen(), (zeilen{"B   Anna             1       25,00    00:06,000  00:06,000",
                                              "9   Ben              0       0,00     00:00,000  00:00,000"}));

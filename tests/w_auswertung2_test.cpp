@@ -58,7 +58,8 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     w.Command2.klicken();  // to nothing
     EXPECT_EQ(w.Label_datei.text(), "mai.csv  ·  Tagesrennen  ·  4 Einträge");
     EXPECT_EQ(namen(), "A B C A ") << "as they were driven";
-    EXPECT_TRUE(w.Label_fuehrung.text().starts_with("In Führung: A Anna, 10 Runden  ·  B Ben, 9 Runden.  „gleiche"))
+    EXPECT_TRUE(w.Label_fuehrung.text().starts_with(
+        "In Führung: Klasse\u00a0A: Anna, 10 Runden  ·  Klasse\u00a0B: Ben, 9 Runden.  „gleiche"))
         << w.Label_fuehrung.text() << ": all that each has driven";
     waehlen("kaputt.csv");
     w.Command4.klicken();
@@ -241,6 +242,19 @@ TEST_F(Ergebnisbetrachter, KorrekturEinesWettkampfsFolgtDenSpuren) {
     const auto felder = felder_teilen(gelesen("neu.csv").at(2), ";");
     EXPECT_EQ((textzeilen{felder[2], felder[3], felder[9], felder[10], felder[16], felder[22]}),
               (textzeilen{"14", "14", "175", "175", "00:08,001", "01:38,765"}));
+}
+
+TEST_F(Ergebnisbetrachter, StartnummernHeissenNichtPlatz) {
+    auto runde = test::wettkampf_mit(wettkampf_modus::jeder_gegen_jeden, 2, {1, 2});
+    spuren<fahrt> fahrten;
+    fahrten[1] = {7, 98765, 0, 8001};
+    fahrten[2] = {12, 98765, 0, 8001};
+    runde.ergebnis_eintragen(fahrten);
+    ablegen("runde.csv", tabelle_schreiben(runde, {}, trennzeichen_standard));
+    zeigen("runde.csv");
+    EXPECT_TRUE(w.Label_kopf.text().starts_with("Nr.")) << "the second has won";
+    w.Command3.klicken();
+    EXPECT_TRUE(w.Label_kopf.text().starts_with("Pl."));
 }
 
 TEST_F(Ergebnisbetrachter, EineZeileAlleinAendertSichBeimAddierenNicht) {
