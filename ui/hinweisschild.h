@@ -13,14 +13,18 @@ public:
     explicit Hinweisschild(QWidget* eltern);
 
     void zeigen(const QString& text, spurhinweis was);
-    void setSchriftPx(int px) { text_->setSchriftPx(px); }
+    /// Narrower letters come before ones that are smaller than `mindest_px`.
+    void setSchriftPx(int px, int mindest_px);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
+    void einpassen();
+
     TextAnzeige* text_;
+    int mindest_px_ = 0;
     spurhinweis was_ = spurhinweis::keiner;
 };
 

@@ -250,7 +250,8 @@ void Spurblock::teile_anordnen() {
     tafel_->setGeometry(tafel.x, tafel.y, tafel.breite, tafel.hoehe);
     const platz& fuss = orte[spur_teil::straflabel];
     schild_->setGeometry(fuss.ort.x, fuss.ort.y, fuss.ort.breite, fuss.ort.hoehe);
-    schild_->setSchriftPx(std::max(fuss.ort.hoehe * 3 / 4, std::min(geometrie_.lesbar_px, fuss.ort.hoehe)));
+    const int lesbar = std::min(geometrie_.lesbar_px, fuss.ort.hoehe);
+    schild_->setSchriftPx(std::max(fuss.ort.hoehe * 3 / 4, lesbar), lesbar);
     liste_anordnen(orte[spur_teil::t_liste]);
     const int kante = orte[spur_teil::ch_strafzeit_hacken].ort.breite;
     teil(spur_teil::ch_strafzeit_hacken)  // the box stands as high as a line of its font

@@ -153,6 +153,7 @@ void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) co
 
 TextAnzeige::Satz TextAnzeige::gesetzt() const {
     const QFontMetricsF masse(schrift_);
+    const auto breite_in = [this](const QFont& schrift) { return QFontMetricsF(schrift).horizontalAdvance(text_); };
     const int breite = contentsRect().width();
     const int hoehe = contentsRect().height();
     Satz satz{text_, schrift_, Qt::TextSingleLine, false};
@@ -171,10 +172,13 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
     if (faktor < 1) {
         const auto px = static_cast<int>(schrift_.pixelSize() * std::max(faktor, kleinster));
         satz.schrift.setPixelSize(std::max({px, std::min(mindest_px_, schrift_.pixelSize()), 6}));
-        if (mindest_px_ > 0 && faktor < kleinster) {
+        if (const double noetig = breite_in(satz.schrift); mindest_px_ > 0 && satz.art != 0 && noetig > breite) {
             constexpr int engste_prozent = 75;
-            const double noetig = std::max(QFontMetricsF(satz.schrift).horizontalAdvance(text_), 1.0);
-            satz.schrift.setStretch(std::clamp(static_cast<int>(100 * breite / noetig), engste_prozent, 100));
+            int prozent = std::clamp(static_cast<int>(100 * breite / noetig), engste_prozent, 100);
+            satz.schrift.setStretch(prozent);
+            while (prozent > engste_prozent && breite_in(satz.schrift) > breite) {  // they get narrower in steps
+                satz.schrift.setStretch(--prozent);
+            }
         }
     }
     if (faktor < 1 && satz.art != 0) {
