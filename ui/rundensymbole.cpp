@@ -13,20 +13,6 @@ namespace {
 constexpr int ebene = 20;           // over lines and axes
 constexpr double kontrast_min = 2;  // against the ground
 
-/// Share of a colour's part in its brightness, which grows faster than its number.
-double anteil(double teil) {
-    return std::pow(teil, 2.2);
-}
-
-double helligkeit(const QColor& farbe) {
-    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
-}
-
-double kontrast(const QColor& a, const QColor& b) {
-    const auto [dunkler, heller] = std::minmax({helligkeit(a), helligkeit(b)});  // by value
-    return (heller + 0.05) / (dunkler + 0.05);
-}
-
 }  // namespace
 
 diagrammfarben diagrammfarben_von(bool papier) {
@@ -36,7 +22,7 @@ diagrammfarben diagrammfarben_von(bool papier) {
 }
 
 bool zu_hell(const QColor& farbe) {
-    return kontrast(Qt::white, farbe) < kontrast_min;
+    return stil::kontrast(Qt::white, farbe) < kontrast_min;
 }
 
 QColor randfarbe(const QColor& farbe) {
@@ -44,10 +30,10 @@ QColor randfarbe(const QColor& farbe) {
 }
 
 std::optional<QColor> rand_auf(const QColor& grund, const QColor& farbe) {
-    if (kontrast(grund, farbe) >= kontrast_min) {
+    if (stil::kontrast(grund, farbe) >= kontrast_min) {
         return std::nullopt;
     }
-    return helligkeit(grund) > helligkeit(Qt::gray) ? randfarbe(farbe) : QColor(Qt::lightGray);
+    return stil::helligkeit(grund) > stil::helligkeit(Qt::gray) ? randfarbe(farbe) : QColor(Qt::lightGray);
 }
 
 void symbol_zeichnen(QPainter& maler, const symbolmass& symbol, const QColor& farbe, const diagrammfarben& auf) {

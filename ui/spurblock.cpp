@@ -203,6 +203,12 @@ void Spurblock::flaeche() {
         static_cast<TextAnzeige*>(schild)->setFarbe(stil::schrift_auf(spurfarbe_));
         grundfarbe_ = stil::farbe_von(shape.hintergrund().value_or(0));
         static_cast<Tankbalken*>(teil(spur_teil::tankbalken))->setGrund(grundfarbe_);
+        for (QWidget* widget : teile_) {
+            auto* text = dynamic_cast<TextAnzeige*>(widget);
+            if (text != nullptr && text != teil(spur_teil::Label_spur)) {  // that stands on the lane's colour
+                text->setGrund(grundfarbe_);
+            }
+        }
         update();
     });
 }

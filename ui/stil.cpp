@@ -253,6 +253,23 @@ QColor titelfarbe(const QColor& farbton, const QColor& grund) {
     return {mischen(farbton.red()), mischen(farbton.green()), mischen(farbton.blue())};
 }
 
+double helligkeit(const QColor& farbe) {
+    const auto anteil = [](double teil) { return std::pow(teil, 2.2); };  // brightness grows faster than its number
+    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
+}
+
+double kontrast(const QColor& a, const QColor& b) {
+    const auto [dunkler, heller] = std::minmax({helligkeit(a), helligkeit(b)});  // by value
+    return (heller + 0.05) / (dunkler + 0.05);
+}
+
+QColor auf_hellem_grund(const QColor& farbton, const QColor& grund) {
+    constexpr double kontrast_min = 2;
+    constexpr int dunkler = 220;
+    const bool hell = grund.isValid() && grund.lightness() > halbe_helligkeit;
+    return hell && kontrast(farbton, grund) < kontrast_min ? farbton.darker(dunkler) : farbton;
+}
+
 QColor schrift_auf(const QColor& grund) {
     constexpr int mittelgrau = 120;
     return qGray(grund.rgb()) > mittelgrau ? schrift : QColor(Qt::white);

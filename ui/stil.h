@@ -64,6 +64,12 @@ QString dunkle_eingaben();
 
 /// A caption in this colour on that ground: on a dark one, as light as small letters need it.
 QColor titelfarbe(const QColor& farbton, const QColor& grund);
+/// Of a colour as the eye has it, from 0 to 1.
+double helligkeit(const QColor& farbe);
+/// From 1 to 21.
+double kontrast(const QColor& a, const QColor& b);
+/// Letters in this colour on a ground that may be as light: hardly seen there, they are darker.
+QColor auf_hellem_grund(const QColor& farbton, const QColor& grund);
 /// Letters on a ground of this colour.
 QColor schrift_auf(const QColor& grund);
 

@@ -114,6 +114,13 @@ void TextAnzeige::setRahmen(const QColor& farbe) {
     }
 }
 
+void TextAnzeige::setGrund(const QColor& grund) {
+    if (grund_ != grund) {
+        grund_ = grund;
+        update();
+    }
+}
+
 void TextAnzeige::setAusrichtung(Qt::Alignment ausrichtung) {
     ausrichtung_ = ausrichtung;
     update();
@@ -211,7 +218,7 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     }
     const bool rot = rotrolle_ != QPalette::NoRole && farbe_ == stil::farbe_von(farben::rot);
     const QColor farbe = rot ? palette().color(rotrolle_) : farbe_.isValid() ? farbe_ : palette().color(rolle_);
-    maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : farbe);
+    maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : stil::auf_hellem_grund(farbe, grund_));
     const Satz satz = gesetzt();
     maler.setFont(satz.schrift);
     maler.drawText(contentsRect(), static_cast<int>(ausrichtung_) | satz.art, satz.text);

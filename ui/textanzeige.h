@@ -37,6 +37,8 @@ public:
     void setHoeheNachText();
     void setFarbe(const QColor& farbe);
     QColor farbe() const { return farbe_; }
+    /// What it stands on: where that is light, no colour is as light.
+    void setGrund(const QColor& grund);
     /// The colour that windows have for this, light or dark as they are.
     void setFarbrolle(QPalette::ColorRole rolle);
     /// The text stands out of a plate of its colour.
@@ -77,6 +79,7 @@ private:
     QPalette::ColorRole rolle_ = QPalette::WindowText;
     QPalette::ColorRole rotrolle_ = QPalette::NoRole;
     QColor rahmen_;
+    QColor grund_;
     bool plakette_ = false;
     double deckkraft_ = 1;
     bool blass_ = false;
