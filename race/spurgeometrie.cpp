@@ -71,6 +71,19 @@ bool ist_breite_spalte(int breite, double skala) {
 
 namespace {
 
+/// In the place of a board: the vehicle as in the race, and the last lap, which the word of a pause would hide.
+void letzte_runde_legen(double bild, double luecke, ansicht_geometrie& ganzes) {
+    zuschnitt feld(ganzes.tafel, luecke);
+    const double titel = titelplatz(0, ganzes.lesbar_px);
+    if (ganzes.tafel.hoehe < bild + luecke + 2.2 * titel) {
+        ganzes.spur[t::Image2].ort = bild > 0 ? ganzes.tafel : rechteck{};
+        return;
+    }
+    ganzes.spur[t::Image2].ort = feld.oben(bild);
+    feld.unten(0.05 * ganzes.tafel.hoehe);  // the comma hangs below its place
+    mit_titel(feld.rest(), titel, ganzes.spur[t::Label_lrunde], ganzes.spur[t::lrunde]);
+}
+
 /// Who drives in a column, his place, and below all the penalty; what is between is left.
 zuschnitt spalte_rahmen(const ansicht_inhalt& inhalt, const rechteck& block, double s, ansicht_geometrie& ganzes) {
     spur_orte& g = ganzes.spur;
@@ -141,7 +154,7 @@ void spalte_legen(const ansicht_inhalt& inhalt, const rechteck& block, double s,
     }
     if (inhalt.pause && !breit) {  // the word of the pause lies over the times, and cuts none of them
         g = ganzes.spur_tafel;
-        g[t::Image2].ort = bild2 > 0 ? ganzes.tafel : rechteck{};
+        letzte_runde_legen(bild2, luecke, ganzes);
     }
     const int oben = ganzes.spur_tafel[t::Label_lrunde].ort.y;
     ganzes.unterer_teil = breit ? rechteck{} : rechteck{0, oben, block.breite, g[t::straflabel].ort.y - oben};
