@@ -106,10 +106,13 @@ void UrkundenFenster::aufschlagen() {
     Fenster::aufschlagen();
 }
 
-/// Names have a quarter of a large window.
+/// Names have a quarter of a large window, and in a smaller one what the sheet leaves.
 void UrkundenFenster::resizeEvent(QResizeEvent* ereignis) {
     Fenster::resizeEvent(ereignis);
-    liste_->setMinimumWidth(std::max(spalte_links, width() / 4) - 2 * kasten_px);
+    constexpr int lange_namen = 460;
+    const int neben_dem_bogen = width() - height() * 5 / 7 - 80;
+    liste_->setMinimumWidth(std::max({spalte_links, width() / 4, std::min(lange_namen, neben_dem_bogen)}) -
+                            2 * kasten_px);
 }
 
 blattseiten UrkundenFenster::seiten() const {
