@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "ui/eingabefelder.h"
@@ -13,7 +14,8 @@ namespace {
 constexpr int feldbreite = 84;
 constexpr int zahlenfeld_laenge = 8;  // characters; no row for words has as many
 constexpr int schmalste_auswahl = 110;
-constexpr int spaltenbreite_max = 640;      // on a wide screen a field stays beside its caption
+constexpr int spaltenbreite_max = 640;  // on a wide screen a field stays beside its caption
+constexpr int spaltenabstand = 14;
 constexpr std::size_t langer_eintrag = 17;  // characters; such a choice stands under its caption
 
 }  // namespace
@@ -26,7 +28,7 @@ QWidget* OptionsseiteBauen::seite(optionsseite& inhalt, QWidget* vorneweg) {
     auto* flaeche = new QWidget;
     auto* spalten = new QHBoxLayout(flaeche);
     spalten->setContentsMargins(0, 0, 0, 0);
-    spalten->setSpacing(14);
+    spalten->setSpacing(spaltenabstand);
     int anzahl = 1;
     for (const auto& eine : inhalt.gruppen) {
         anzahl = std::max(anzahl, eine->spalte + 1);
@@ -50,7 +52,9 @@ QWidget* OptionsseiteBauen::seite(optionsseite& inhalt, QWidget* vorneweg) {
     for (QVBoxLayout* spalte : aufbau) {
         spalte->addStretch();
     }
-    flaeche->setMaximumWidth(std::max(anzahl, 2) * spaltenbreite_max);
+    const int breite = std::max(anzahl, 2) * spaltenbreite_max;
+    flaeche->setMaximumWidth(breite);
+    rollen->setMaximumWidth(breite + spaltenabstand + rollen->verticalScrollBar()->sizeHint().width());
     rollen->setWidget(flaeche);
     return rollen;
 }
