@@ -223,6 +223,9 @@ void Ergebniszeile::skalieren(double skala, const QString& laengste_runde) {
     knoepfe_skalieren(skala);
     QFont darunter = font();
     darunter.setPixelSize(std::max(static_cast<int>(std::lround(schrift_zusatz * skala)), 1));
+    for (TextAnzeige* einer : abstaende_) {
+        einer->setMinimumHeight(QFontMetrics(darunter).height());  // in smaller letters the line is as high
+    }
     tankzelle_->setContentsMargins(0, 0, 0, QFontMetrics(darunter).height());  // its figure in line with the others
     constexpr double zwei_zeilen = 1.7;                                        // of smaller letters, for a long name
     for (QWidget* wert : werte_) {
