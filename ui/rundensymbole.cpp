@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "ui/stil.h"
 
