@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
+#include <QResizeEvent>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
@@ -100,6 +101,32 @@ bool Listenfeld::viewportEvent(QEvent* ereignis) {
     const bool abgeschnitten = zeile.isValid() && sizeHintForIndex(zeile).width() > visualRect(zeile).width();
     QToolTip::showText(hilfe->globalPos(), abgeschnitten ? zeile.data().toString() : toolTip(), this);
     return true;
+}
+
+/// What was marked before the list had its height stands at its end, and what is above it was out of sight.
+void Listenfeld::resizeEvent(QResizeEvent* ereignis) {
+    QListView::resizeEvent(ereignis);
+    const QModelIndexList gewaehlt =
+        selectionModel() != nullptr ? selectionModel()->selectedIndexes() : QModelIndexList();
+    if (!gewaehlt.isEmpty() && ereignis->size().height() > ereignis->oldSize().height()) {
+        scrollToTop();
+        scrollTo(gewaehlt.front());
+    }
+}
+
+void Listenfeld::setGanzeZeilen() {
+    ganze_zeilen_ = true;
+    updateGeometries();
+}
+
+void Listenfeld::updateGeometries() {
+    const int zeile = ganze_zeilen_ ? sizeHintForRow(0) : 0;
+    const int hoehe = viewport()->height() + rest_px_;
+    const int rest = zeile > 0 && hoehe > zeile ? hoehe % zeile : 0;
+    if (std::exchange(rest_px_, rest) != rest) {
+        setViewportMargins(0, 0, 0, rest);
+    }
+    QListView::updateGeometries();
 }
 
 bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {

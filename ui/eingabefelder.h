@@ -73,9 +73,18 @@ class Listenfeld final : public QListView {
 public:
     using QListView::QListView;
 
+    /// No line is cut at its end.
+    void setGanzeZeilen();
+
 protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
     bool viewportEvent(QEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void updateGeometries() override;
+
+private:
+    bool ganze_zeilen_ = false;
+    int rest_px_ = 0;  ///< below the last whole line
 };
 
 /// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:
