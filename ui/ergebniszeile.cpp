@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "ui/eingabefelder.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -22,7 +23,9 @@ constexpr double schrift_titel = 17;
 constexpr double schrift_liste = 17;
 constexpr double schrift_knopf = 15;
 
+constexpr double schrift_eingabe = 20;
 constexpr int eingabe_breite_px = 110;
+constexpr double eingabe_breite = 124;  // at scale 1
 constexpr int knopfrand_px = 12;
 constexpr double bild_kante = 60;
 constexpr int abstand = 12;
@@ -181,6 +184,7 @@ QWidget* Ergebniszeile::listenspalte(Binder& binder) {
     liste_ = binder.listenfeld(logik_.liste.at(i), nummeriert("liste"));
     liste_->setMinimumHeight(50);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    static_cast<Listenfeld*>(liste_)->setGanzeZeilen();
     QObject::connect(liste_->model(), &QAbstractItemModel::modelReset, this, [this] {
         if (bei_runden) {
             bei_runden();
@@ -221,6 +225,7 @@ void Ergebniszeile::skalieren(double skala, const QString& laengste_runde) {
                                   masse.horizontalAdvance("000.  00:00,000 (Rest)"));  // sectors are scrolled
     liste_->setMinimumWidth(breite + rollbalken_px);
     knoepfe_skalieren(skala);
+    meterfeld_skalieren(skala);
     QFont darunter = font();
     darunter.setPixelSize(std::max(static_cast<int>(std::lround(schrift_zusatz * skala)), 1));
     for (TextAnzeige* einer : abstaende_) {
@@ -239,6 +244,13 @@ void Ergebniszeile::skalieren(double skala, const QString& laengste_runde) {
         platz_halten.setRetainSizeWhenHidden(bild == bilder_.front() || logik_.einst().fahrzeugbild_an);
         bild->setSizePolicy(platz_halten);
     }
+}
+
+void Ergebniszeile::meterfeld_skalieren(double skala) {
+    meterfeld_->setFixedWidth(std::max(eingabe_breite_px, static_cast<int>(std::lround(eingabe_breite * skala))));
+    QFont schrift = meterfeld_->font();
+    schrift.setPixelSize(std::max(font().pixelSize(), static_cast<int>(std::lround(schrift_eingabe * skala))));
+    meterfeld_->setFont(schrift);
 }
 
 /// As wide as the longest of their captions, in every row the same.

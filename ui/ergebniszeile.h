@@ -57,6 +57,7 @@ private:
     QWidget* meterzelle(Binder& binder);
     QWidget* listenspalte(Binder& binder);
     void knoepfe_skalieren(double skala);
+    void meterfeld_skalieren(double skala);
     void bilder(const dateien& ablage, Binder& binder, QHBoxLayout& aufbau);
     QString nummeriert(const QString& name) const { return name + "_" + QString::number(index_); }
 
