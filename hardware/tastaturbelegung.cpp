@@ -55,7 +55,8 @@ sprachliste tastaturbelegung::sprache_e_tast() {
     sprachliste texte("language/language_e_tast.txt");
     texte.ueberschrift("Tastaturbelegung").text("Tastaturbelegung", titel);
     texte.text(
-        "Je Feld ein Zeichen. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld hat keine Taste.",
+        "Je Feld ein Zeichen, nicht die Leertaste. Groß- und Kleinbuchstaben sind verschiedene Tasten, ein leeres Feld "
+        "hat keine Taste.",
         [this](const std::string& neu) {
             wort_hinweis_ = neu;
             hinweis.text(neu);
@@ -116,6 +117,9 @@ std::optional<tastaturbelegung::fehler> tastaturbelegung::fehler_suchen() const 
 
 void tastaturbelegung::getippt(std::size_t nummer) {
     getippt_.at(nummer) = ++anschlaege_;
+    if (gekuerzt(taste.at(nummer).text()).empty()) {
+        taste.at(nummer).text("");  // a blank is no key, and is not to look like one that is there
+    }
     if (hinweis.text() != wort_hinweis_ && !fehler_suchen()) {
         hinweis.text(wort_hinweis_);
     }
