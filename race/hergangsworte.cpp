@@ -82,7 +82,7 @@ sprachliste& hergangsworte::eintragen(sprachliste& texte) {
                                {ablehnung::tankstrafe, "Tankstrafe"},
                                {ablehnung::im_ziel, "im Ziel"},
                                {ablehnung::prellen, "Kontakt prellt"},
-                               {ablehnung::pause, "Pause"},
+                               {ablehnung::pause, "nicht gezählt: Pause"},
                                {ablehnung::vor_dem_start, "vor dem Start"}});
     texte.text("Sperre nach der Pause", sperre_pause_).text(" bis %1", bis_);
     texte.text("erste Überfahrt nach %1, ab hier wird gezählt", anlauf_).text(" von Hand", abgebrochen_);

@@ -55,7 +55,8 @@ TEST_F(Protokollfenster, InDerPauseOeffnetEsUndGehtMitIhrZu) {
     fenster().waehlen(1);
     t.runde_nach(0, "2");
     t.maschine.laufen(300);
-    EXPECT_EQ(zeilen().back(), "2 Pause") << "what comes while it is open, though the race has still to note it";
+    EXPECT_EQ(zeilen().back(), "2 nicht gezählt: Pause")
+        << "what comes while it is open, though the race has still to note it";
     EXPECT_EQ(fenster().Label_hinweis.text(), "2 Überfahrten nicht gezählt.");
     EXPECT_EQ(fenster().gewaehlt(), 2) << "the last row was chosen, and is again";
     fenster().waehlen(0);

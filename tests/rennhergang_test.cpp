@@ -198,8 +198,8 @@ TEST_F(Rennhergang, GruendeInWorten) {
         "0:19,520 Runde 14: 5,010 s, darin 0,010 s Zuschlag (1 ms je Sekunde Zeitstrafe), noch nach dem Ende gezählt");
     zweite.pop_back();
     EXPECT_EQ(zweite, (std::vector<std::string>{
-                          "0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel", "0:06,000 Pause", "0:07,000 ",
-                          "0:09,000 Runde 12: 5,432 s", "0:09,400 Zeitstrafe: 10 s",
+                          "0:04,000 Tankstrafe bis 0:21,0", "0:05,000 im Ziel", "0:06,000 nicht gezählt: Pause",
+                          "0:07,000 ", "0:09,000 Runde 12: 5,432 s", "0:09,400 Zeitstrafe: 10 s",
                           "0:14,510 Runde 13: 5,010 s, darin 0,010 s Zuschlag (1 ms je Sekunde Zeitstrafe)"}));
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
