@@ -87,8 +87,9 @@ sprachliste einstellungsfenster::sprache_e() {
     texte.text("Die Wahl der Gruppen gilt, konnte aber nicht gespeichert werden.", nebendateien_[datei_gruppen].fehler);
     texte.text("Sprache und Aussehen gelten, konnten aber nicht gespeichert werden.",
                nebendateien_[datei_anzeige].fehler);
-    return texte.text("Die Wahl für den Rennbildschirm gilt, konnte aber nicht gespeichert werden.",
-                      nebendateien_[datei_rennbild].fehler);
+    texte.text("Die Wahl für den Rennbildschirm gilt, konnte aber nicht gespeichert werden.",
+               nebendateien_[datei_rennbild].fehler);
+    return texte.text("Die Änderungen der Liste sind nicht übernommen. Verwerfen?", verwerfen_);
 }
 
 sprachliste einstellungsfenster::sprache_e_s() {
@@ -285,7 +286,20 @@ void einstellungsfenster::zeilen_zeigen(std::span<const std::string_view> namen)
     }
 }
 
+bool einstellungsfenster::listen_aufgeben() {
+    std::string namen;
+    for (const listenseite* seite : {&fahrerseite, &fahrzeugseite}) {
+        if (seite->ungesichert()) {
+            namen += (namen.empty() ? "" : ", ") + seite->titel.text();
+        }
+    }
+    return namen.empty() || um_.meldungen.fragen(namen + ": " + verwerfen_, um_.txt.titel[0]);
+}
+
 void einstellungsfenster::schliessen() {
+    if (!listen_aufgeben()) {
+        return;
+    }
     einstellungen& einst = um_.ziel.einst;
     const bool geaendert = einst.uart != uart_vorher_;
     einst.uart = uart_vorher_;

@@ -122,6 +122,8 @@ private:
     void zeile_uebernehmen(optionszeile& eine);
     void sektoranzeige_trennen();
     bool nebendateien_speichern(const einstellungen& vorher);
+    /// What is on the pages of the lists may go, if need be after a question.
+    bool listen_aufgeben();
     void Command1_Click();
     void fuer_alle_zeilen(const std::function<void(optionszeile&)>& tun);
 
@@ -157,6 +159,7 @@ private:
     std::string alte_bleibt_;
     at2560_anschluss uart_vorher_;
     std::string keine_zahl_;
+    std::string verwerfen_;
     std::string text_4x4_;  ///< of its tick box; elsewhere it has its short name
     std::array<nebendatei, nebendateien_anzahl> nebendateien_;
     std::optional<schemawahl> schema_;  ///< these two once their rows are there

@@ -186,4 +186,8 @@ bool listenseite::uebernehmen() {
     return !nicht_geschrieben_;
 }
 
+bool listenseite::ungesichert() const {
+    return kopie_.eintraege() != art_.liste.eintraege() || !gekuerzt(name.text()).empty();
+}
+
 }  // namespace tarvel

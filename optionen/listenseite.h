@@ -62,6 +62,8 @@ public:
     void bild_ablegen(const std::filesystem::path& bild);
     /// The program takes the page's list, and its file is written if the list has changed. False after a failed write.
     bool uebernehmen();
+    /// There is something on the page that the program has not taken, a name that is still typed included.
+    bool ungesichert() const;
 
 private:
     void befehle_verbinden();

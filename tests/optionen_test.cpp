@@ -81,8 +81,16 @@ TEST_F(Optionen, AbbrechenAendertNichts) {
     const auto vorher = t.p.datei.schreiben();
     tippen("t_inhalt_w", "99");
     fenster.hardware[3].umschalten();
-    fenster.fahrerseite.alle_loeschen.klicken();
+    fenster.fahrerseite.name.eingeben("Berta");
     fenster.Command2.klicken();
+    EXPECT_TRUE(offen()) << "the answer was no";
+    EXPECT_EQ(fenster.fahrerseite.name.text(), "Berta");
+    fenster.fahrzeugseite.namen.auswaehlen(0);
+    fenster.fahrzeugseite.entfernen.klicken();
+    t.maschine.antwort = true;
+    fenster.Command2.klicken();
+    EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
+              "Fahrerverwaltung, Fahrzeugverwaltung: Die Änderungen der Liste sind nicht übernommen. Verwerfen?");
     EXPECT_FALSE(offen());
     EXPECT_EQ(t.p.datei.schreiben(), vorher);
     oeffnen();
