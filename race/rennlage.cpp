@@ -321,7 +321,8 @@ void rennlage::rekordzeile_zeigen(int fuehrende) {
     }
     zeilengrund neu;
     if (um_.einst.rennbild.worte) {
-        neu = {pause_eben_verweigert(), vorn_nach_zeit_neben(fuehrende)};
+        const int vorn = vorn_nach_zeit_neben(fuehrende);
+        neu = {pause_eben_verweigert(), um_.zustand.chaos_aktiv ? 0 : vorn};  // in a pause more stands in this line
     }
     if (neu == rekordzeile_) {
         return;

@@ -62,9 +62,9 @@ struct zeilenstueck {
 /// How wide the pieces are together as wide as the row. What the texts need goes first, up to a part of the row that
 /// leaves the rest its room.
 template <std::size_t anzahl>
-std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze) {
+std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze, bool hoch) {
     constexpr double passt = 0.85;
-    constexpr double texte_noch = 0.7;  // more, and the laps of few lanes were smaller than those of many
+    const double texte_noch = hoch ? 0.7 : passt;  // more, and the laps of few lanes were smaller than those of many
     constexpr double texte_hoechstens = 0.55;
     double gebraucht = 1;
     for (const zeilenstueck& stueck : stuecke) {
@@ -165,7 +165,8 @@ void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, dou
     zuschnitt reihe(block.innen(80 * s), 2 * luecke);
     ganzes.streifen = reihe.links(140 * s);
     g[t::yellowframe].ort = reihe.links(280 * s);
-    const auto breite = zeile_teilen(zeilenstuecke(inhalt, hoch, block, s, lesbar), reihe.rest().breite - 16 * luecke);
+    const auto breite =
+        zeile_teilen(zeilenstuecke(inhalt, hoch, block, s, lesbar), reihe.rest().breite - 16 * luecke, hoch);
 
     zuschnitt bilder(reihe.links(breite[z::bild]), luecke);
     g[t::Image2].ort = bilder.unten(inhalt.fahrzeugbild && hoch ? 0.4 * block.hoehe : 0);
