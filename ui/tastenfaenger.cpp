@@ -40,6 +40,16 @@ bool beantwortet(const QWidget* vorn, const QKeyEvent& ereignis) {
     });
 }
 
+/// A letter in the case that Caps Lock has taken from it; none for what was typed as it was meant.
+std::optional<int> ohne_feststelltaste(const QKeyEvent& ereignis) {
+    const QString text = ereignis.text();
+    const bool umschalt = ereignis.modifiers().testFlag(Qt::ShiftModifier);
+    if (text.size() != 1 || !(umschalt ? text.front().isLower() : text.front().isUpper())) {
+        return std::nullopt;
+    }
+    return ansi_code((umschalt ? text.toUpper() : text.toLower()).toStdString());
+}
+
 /// Milliseconds since the key was pressed: while the program is busy, keys wait. The window system stamps them by the
 /// machine's counter; a stamp of another clock says nothing.
 zeit_ms alter(const QKeyEvent& ereignis) {
@@ -79,11 +89,15 @@ bool Tastenfaenger::gehoert_dem_rennen(const QKeyEvent& ereignis) const {
 std::optional<int> Tastenfaenger::code_fuer(const QWidget* vorn, const QKeyEvent& ereignis) const {
     const bool strg = ereignis.modifiers().testFlag(Qt::ControlModifier);
     const bool alt = ereignis.modifiers().testFlag(Qt::AltModifier);
-    const auto code = ansi_code(ereignis.text().toStdString());
-    if (!code || strg != alt || !gilt(vorn, *code) || beantwortet(vorn, ereignis)) {  // both together are AltGr
+    if (strg != alt || beantwortet(vorn, ereignis)) {  // both together are AltGr
         return std::nullopt;
     }
-    return *code;
+    for (const auto code : {ansi_code(ereignis.text().toStdString()), ohne_feststelltaste(ereignis)}) {
+        if (code && gilt(vorn, *code)) {
+            return code;
+        }
+    }
+    return std::nullopt;
 }
 
 bool Tastenfaenger::nehmen(const QWidget* vorn, const QKeyEvent& ereignis, bool gehalten) {

@@ -64,6 +64,22 @@ TEST_F(Oberflaeche, TasteZaehltEinmalUndGehaltenGarNichtNoch) {
     EXPECT_EQ(t.runden(1), 4);
 }
 
+TEST_F(Oberflaeche, DieFeststelltasteHaeltKeinePauseAuf) {
+    t.starten("Zeit", "5", {1, 2});
+    t.maschine.laufen(3000);
+    o.bahn1.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&o.bahn1));
+    QTest::keyClick(&o.bahn1, 'C', Qt::ShiftModifier);
+    t.maschine.laufen(10);
+    EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv) << "typed so on purpose it is another key";
+    taste(o.bahn1, 'C');
+    t.maschine.laufen(10);
+    EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
+    t.p.belegung.taste(16, 'Q');
+    taste(o.bahn1, 'Q');
+    EXPECT_TRUE(t.p.ereignisse[16].aktiv) << "one that has a meaning itself keeps it";
+}
+
 TEST_F(Oberflaeche, MeldungHaeltKeineUeberfahrtZurueck) {
     using namespace std::chrono;
     t.starten("Zeit", "5", {1, 2});
