@@ -99,6 +99,15 @@ void Bahn1Fenster::befehlszeile() {
     TextAnzeige* werbung = binder().anzeige(bahn.werbe_label, "werbe_label");
     werbung->setLeise();
     teil(f::werbe_label) = werbung;
+    zeile->installEventFilter(this);
+    constexpr int zweiter_druck_ms = 800;
+    startfokus_.setSingleShot(true);
+    startfokus_.setInterval(zweiter_druck_ms);
+    QObject::connect(&startfokus_, &QTimer::timeout, this, [this] {
+        if (focusWidget() == teil(f::Frame1) && teil(f::Command1)->isEnabled()) {
+            teil(f::Command1)->setFocus(Qt::OtherFocusReason);
+        }
+    });
     QWidget* vorher = nullptr;
     for (const f name : {f::Command1, f::Command6, f::Command3, f::Command4, f::werbe_label, f::Command2}) {
         teil(name)->setParent(zeile);
@@ -307,6 +316,9 @@ void Bahn1Fenster::protokollknopf_anordnen(const rechteck& werbung) {
 
 bool Bahn1Fenster::eventFilter(QObject* ziel, QEvent* ereignis) {
     const bool kommt_oder_geht = ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent;
+    if (ziel == teil(f::Frame1) && ereignis->type() == QEvent::FocusIn) {
+        startfokus_.start();
+    }
     if (ziel == protokoll_ && kommt_oder_geht && !befehle_woanders_) {
         protokollknopf_anordnen(aufteilung().fenster[f::werbe_label].ort);
     }

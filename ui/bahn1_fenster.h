@@ -89,6 +89,7 @@ private:
     TextAnzeige* alarm_ = nullptr;  ///< the timing device is gone
     bool licht_der_pause_ = false;
     QTimer umzug_;
+    QTimer startfokus_;  ///< behind a start that was stopped: a second press of that key is none of "Rennstart"
     bool befehle_woanders_ = false;       ///< in the director's window
     TextAnzeige* hinweistext_ = nullptr;  ///< what is to do at the device
 };

@@ -152,7 +152,8 @@ TEST_F(Oberflaeche, StartampelNimmtTastenUndGibtSieZurueck) {
     EXPECT_FALSE(o.form2.isVisible());
     EXPECT_TRUE(QTest::qWaitForWindowActive(&o.bahn1)) << "keys reach the race window again";
     o.takt.ausfuehren();
-    EXPECT_NE(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1"));
+    EXPECT_NE(o.bahn1.focusWidget(), finde<QWidget>(o.bahn1, "bahn1.Command1")) << "not for a second press of that key";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return o.bahn1.focusWidget() == finde<QWidget>(o.bahn1, "bahn1.Command1"); }));
 
     t.p.einst.start_ampel_modus = ampelwahl::nur_lampen_fuenf;
     t.bahn().Command1.klicken();
