@@ -202,6 +202,7 @@ void auswertung::runde_nachtragen(const korrektur& k) {
     auswertung_anzeigen();
     bestzeiten_pruefen();
     nachgetragene_waehlen({k});
+    Command_zurueck.fokus_setzen();  // what took the lap is gone from the screen
 }
 
 void auswertung::nachgetragene_waehlen(const korrekturschritt& neue) {
