@@ -135,17 +135,28 @@ bool Weitersprung::eventFilter(QObject* ziel, QEvent* ereignis) {
         mit_tasten_ = taste;
     } else if (ziel == feld_ && ereignis->type() == QEvent::FocusIn) {
         gesprungen_ = mit_tasten_ && static_cast<QFocusEvent*>(ereignis)->reason() == Qt::OtherFocusReason;
-    } else if (ziel == feld_ && taste && std::exchange(gesprungen_, false) &&
-               static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Tab) {
-        QWidget* naechstes = wahl_->nextInFocusChain();
-        while (naechstes != feld_ &&
-               !(naechstes->isEnabled() && naechstes->focusPolicy() & Qt::TabFocus && naechstes->isVisible())) {
-            naechstes = naechstes->nextInFocusChain();
-        }
-        naechstes->setFocus(Qt::TabFocusReason);
-        return true;
+    } else if (ziel == feld_ && taste && std::exchange(gesprungen_, false)) {
+        return weiter(*static_cast<QKeyEvent*>(ereignis));
     }
     return QObject::eventFilter(ziel, ereignis);
+}
+
+bool Weitersprung::weiter(QKeyEvent& taste) {
+    if (taste.key() == Qt::Key_Up || taste.key() == Qt::Key_Down) {
+        gesprungen_ = true;
+        QCoreApplication::sendEvent(wahl_, &taste);
+        return true;
+    }
+    if (taste.key() != Qt::Key_Tab) {
+        return false;
+    }
+    QWidget* naechstes = wahl_->nextInFocusChain();
+    while (naechstes != feld_ &&
+           !(naechstes->isEnabled() && naechstes->focusPolicy() & Qt::TabFocus && naechstes->isVisible())) {
+        naechstes = naechstes->nextInFocusChain();
+    }
+    naechstes->setFocus(Qt::TabFocusReason);
+    return true;
 }
 
 }  // namespace tarvel::ui

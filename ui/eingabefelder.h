@@ -88,7 +88,7 @@ private:
 };
 
 /// A choice whose change moves the focus on to a field. Who steps through the choice by keyboard has not left it yet:
-/// the next Tab goes to what follows the choice, and not to what follows that field.
+/// the arrow keys step on, and the next Tab goes to what follows the choice, and not to what follows that field.
 class Weitersprung final : public QObject {
 public:
     Weitersprung(QWidget* wahl, QWidget* feld) : QObject(feld), wahl_(wahl), feld_(feld) {
@@ -99,6 +99,9 @@ public:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
+    /// The first key in the field; true if it was not meant for it.
+    bool weiter(QKeyEvent& taste);
+
     QWidget* wahl_;
     QWidget* feld_;
     bool mit_tasten_ = false;  ///< the choice was last touched by keyboard

@@ -22,6 +22,11 @@ TEST_F(Eingabefelder, NachDerRennartGehtTabZumNaechstenFeld) {
         QTest::keyClick(dauer, Qt::Key_Tab);
         EXPECT_TRUE(finde<QLineEdit>(o.form1, danach)->hasFocus()) << danach;
     }
+    rennart->setFocus();
+    QTest::keyClick(rennart, Qt::Key_Down);
+    o.takt.ausfuehren();
+    QTest::keyClick(dauer, Qt::Key_Up);
+    EXPECT_EQ(t.p.form1.rennart.text(), "Zeit") << "the arrow keys step on";
 }
 
 TEST_F(Eingabefelder, UnfugInDenFeldernWirdBerichtigt) {
