@@ -262,6 +262,9 @@ void Form1Fenster::spur_zeile(QGridLayout* raster, int spur) {
     auto* sprung = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + spur)), this);
     QObject::connect(sprung, &QShortcut::activated, this, [kasten, fahrer] {
         (fahrer->isEnabled() ? static_cast<QWidget*>(fahrer) : kasten)->setFocus(Qt::ShortcutFocusReason);
+        if (fahrer->hasFocus()) {
+            fahrer->lineEdit()->selectAll();  // also for who was there already
+        }
     });
     spurzeilen_->aufnehmen(spur, {{fleck, fahrerbild, autobild},
                                   {fahrerbild, fahrer},
