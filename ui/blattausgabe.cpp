@@ -20,6 +20,7 @@
 #include "core/texte.h"
 #include "results/papiername.h"
 #include "ui/fenster.h"
+#include "ui/kuerzel.h"
 
 namespace tarvel::ui {
 namespace {
@@ -76,15 +77,21 @@ void gespeichert_melden(QWidget* eltern, const QString& pfad, const texte::datei
             box->setText(text(worte.kein_programm));
         }
     };
-    const auto knopf = [box, text](const std::string& beschriftung, auto tun) {
-        QPushButton* neuer = box->addButton(text(beschriftung), QMessageBox::ActionRole);
+    Kuerzel kuerzel;
+    const auto neuer_knopf = [&](const std::string& beschriftung, QMessageBox::ButtonRole rolle) {
+        QPushButton* neuer = box->addButton(text(beschriftung), rolle);
+        neuer->setText(kuerzel.vergeben(neuer, text(beschriftung)));
+        return neuer;
+    };
+    const auto knopf = [&](const std::string& beschriftung, auto tun) {
+        QPushButton* neuer = neuer_knopf(beschriftung, QMessageBox::ActionRole);
         QObject::disconnect(neuer, &QPushButton::clicked, nullptr,
                             nullptr);  // what it opens may not be there; the place of the file stays to be read
         QObject::connect(neuer, &QPushButton::clicked, box, tun);
     };
     knopf(worte.oeffnen, [zeigen, pfad] { zeigen(pfad); });
     knopf(worte.ordner, [zeigen, pfad] { zeigen(QFileInfo(pfad).path()); });
-    QPushButton* zu = box->addButton(text(worte.schliessen), QMessageBox::AcceptRole);
+    QPushButton* zu = neuer_knopf(worte.schliessen, QMessageBox::AcceptRole);
     box->setDefaultButton(zu);
     box->setEscapeButton(zu);
     vor_allem_zeigen(*box);

@@ -125,7 +125,7 @@ TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
     EXPECT_TRUE(o.fenster.fragt());
     Oeffner desktop;
     QDesktopServices::setUrlHandler("file", &desktop, "setSource");
-    for (const char* text : {"Öffnen", "Ordner zeigen", "Schließen"}) {
+    for (const char* text : {"Ö&ffnen", "&Ordner zeigen", "&Schließen"}) {
         const auto knoepfe = box->buttons();
         const auto knopf =
             std::find_if(knoepfe.begin(), knoepfe.end(), [&](const auto* k) { return k->text() == text; });
