@@ -84,11 +84,21 @@ void Farbknopf::paintEvent(QPaintEvent* ereignis) {
 void Listenfeld::keyPressEvent(QKeyEvent* ereignis) {
     const bool pfeil = ereignis->key() == Qt::Key_Down || ereignis->key() == Qt::Key_Up;
     const bool waehlbar = selectionMode() != NoSelection && !selectionModel()->hasSelection();
-    if (pfeil && waehlbar && currentIndex().isValid()) {
+    if (waehlbar && ereignis->key() == Qt::Key_End) {
+        setCurrentIndex(model()->index(model()->rowCount() - 1, 0));  // without a current row it would be the first
+    } else if (pfeil && waehlbar && currentIndex().isValid()) {
         selectionModel()->setCurrentIndex(currentIndex(), QItemSelectionModel::ClearAndSelect);
         scrollTo(currentIndex());
     } else {
         QListView::keyPressEvent(ereignis);
+    }
+}
+
+void Listenfeld::focusInEvent(QFocusEvent* ereignis) {
+    QListView::focusInEvent(ereignis);
+    const bool maus = ereignis->reason() == Qt::MouseFocusReason || ereignis->reason() == Qt::PopupFocusReason;
+    if (property(fokus_waehlt).toBool() && !maus && !selectionModel()->hasSelection()) {
+        setCurrentIndex(model()->index(0, 0));
     }
 }
 

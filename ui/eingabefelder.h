@@ -75,8 +75,11 @@ public:
 
     /// No line is cut at its end.
     void setGanzeZeilen();
+    /// Property of a list in which a chosen row does nothing yet: the keyboard comes to its first row.
+    static constexpr const char* fokus_waehlt = "fokus_waehlt";
 
 protected:
+    void focusInEvent(QFocusEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     bool viewportEvent(QEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;

@@ -11,6 +11,7 @@
 #include "core/dateien.h"
 #include "results/rundenverlauf.h"
 #include "ui/blattausgabe.h"
+#include "ui/eingabefelder.h"
 #include "ui/korrekturfeld.h"
 #include "ui/korrekturtasten.h"
 #include "ui/namenseinpassung.h"
@@ -101,6 +102,9 @@ void WAuswertung2Fenster::dateispalte_fuellen(QVBoxLayout* aufbau) {
     dateien->setItemDelegate(new Dateinamen(
         [this](const QString& datei) { return QString::fromStdString(logik_.anzeigename(datei.toStdString())); },
         dateien));
+    for (QListView* liste : {unterordner, dateien}) {
+        liste->setProperty(Listenfeld::fokus_waehlt, true);
+    }
     aufbau->addWidget(dateien, 1);
     auto* knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(8);
