@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
@@ -45,6 +46,7 @@ Bahn1Fenster::Bahn1Fenster(rennen& logik, Fensterverwaltung& verwaltung, QWidget
     lagen();
     geraetehinweis();
     befehlszeile();
+    schuldtasten();
     geraetealarm();
     nachtabschaltung();
     umzug_.setSingleShot(true);
@@ -121,6 +123,15 @@ void Bahn1Fenster::befehlszeile() {
     protokoll_->installEventFilter(this);
     setTabOrder(vorher, protokoll_);
     binder().verbinden(bahn.Frame1, zeile, "Frame1", [this] { befehle_zeigen(); });
+}
+
+void Bahn1Fenster::schuldtasten() {
+    for (const int spur : alle_spuren) {
+        auto* taste = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + spur)), this);
+        taste->setAutoRepeat(false);
+        QObject::connect(taste, &QShortcut::activated, this,
+                         [&kasten = logik_.bahn1.ch_strafzeit_hacken[spur]] { kasten.umschalten(); });
+    }
 }
 
 void Bahn1Fenster::strafformular() {

@@ -48,6 +48,8 @@ private:
     void kopf();
     void befehlszeile();
     void strafformular();
+    /// In a pause Alt and the number of a lane say that it is to blame; the number alone counts its laps.
+    void schuldtasten();
     void geraetehinweis();
     /// At the start, when the start light covers the blocks, over the clock; in a pause the small light may be there.
     void hinweis_anordnen();

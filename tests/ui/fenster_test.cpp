@@ -191,6 +191,9 @@ TEST_F(Oberflaeche, PauseVerschiebtKeinenKnopfUndDasFeldNimmtZiffern) {
     EXPECT_EQ(t.bahn().ch_Text1.text(), "21") << "what is typed there is no key of the race";
     klick(o.bahn1, "bahn1.ch_strafzeit_hacken_2");
     EXPECT_TRUE(t.bahn().ch_strafzeit_hacken[2].gesetzt());
+    QTest::keyClick(&o.bahn1, Qt::Key_2, Qt::AltModifier);
+    QTest::keyClick(&o.bahn1, Qt::Key_1, Qt::AltModifier);
+    EXPECT_TRUE(t.bahn().ch_strafzeit_hacken[1].gesetzt() && !t.bahn().ch_strafzeit_hacken[2].gesetzt());
 }
 
 TEST_F(Oberflaeche, StartampelHatNachJedemWechselIhreGroesse) {
