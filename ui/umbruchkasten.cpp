@@ -4,6 +4,8 @@
 #include <QStylePainter>
 #include <algorithm>
 
+#include "ui/stil.h"
+
 namespace tarvel::ui {
 namespace {
 
@@ -101,10 +103,10 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
                        isEnabled(), gezeigt(), QPalette::WindowText);
     if (hasFocus()) {
-        QStyleOptionFocusRect rahmen;
-        rahmen.initFrom(this);
-        rahmen.rect = schrift.adjusted(-3, -1, 0, 1);
-        maler.drawPrimitive(QStyle::PE_FrameFocusRect, rahmen);
+        const QRectF rahmen(schrift.adjusted(-3, -1, 0, 1).intersected(rect()));
+        maler.setRenderHint(QPainter::Antialiasing);
+        maler.setPen(QPen(stil::auf_dem_schirm().akzent, 2));  // as that of a button
+        maler.drawRoundedRect(rahmen.adjusted(1, 1, -1, -1), 4, 4);
     }
 }
 
