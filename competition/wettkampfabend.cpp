@@ -74,28 +74,31 @@ bool wettkampfabend::rennen_starten() {
     return true;
 }
 
-bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil, dauer_ms bisher) {
+bool wettkampfabend::rennen_wiederaufnehmen(int rennen, int ab_teil) {
     automat_.aus();
     if (stand_.uebergabe().rennen != rennen) {
         return false;
     }
     uebergeben();
     ab_teil_ = ab_teil;
-    automatik_an_ = um_.einst.w_autom;  // somebody has said that it goes on, and ends its pause
     von_selbst_ = false;
-    unterbrochen_ = false;
     um_.teil_von.wechseln(*this);
+    return true;
+}
+
+bool wettkampfabend::wiederaufgenommen(int fortsetzungen, bool umgesetzt, dauer_ms bisher) {
+    const int gebucht = stand_.fortsetzung_nummer(uebergabe_.rennen);
+    gefahren_ = ab_teil_ + fortsetzungen;
+    uebergabe_ = stand_.uebergabe(gefahren_ + (umgesetzt ? 1 : 0));
+    if (ab_teil_ > gebucht + 1 || gebucht > gefahren_ || uebergabe_.teil > stand_.plan.teile) {
+        return false;
+    }
+    automatik_an_ = um_.einst.w_autom;  // somebody has said that it goes on, and ends its pause
+    unterbrochen_ = false;
     start_ = um_.uhr.jetzt() - bisher.count();
     ergebnis_da_ = false;
     zeigen();
     return true;
-}
-
-bool wettkampfabend::wiederaufgenommen(int fortsetzungen, bool umgesetzt) {
-    const int gebucht = stand_.fortsetzung_nummer(uebergabe_.rennen);
-    gefahren_ = ab_teil_ + fortsetzungen;
-    uebergabe_ = stand_.uebergabe(gefahren_ + (umgesetzt ? 1 : 0));
-    return ab_teil_ <= gebucht + 1 && gebucht <= gefahren_ && uebergabe_.teil <= stand_.plan.teile;
 }
 
 void wettkampfabend::uebergeben() {

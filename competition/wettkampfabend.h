@@ -101,12 +101,13 @@ public:
     void verwerfen() { um_.ablage.laufenden_weglegen(true); }
     /// Opens the race window on the current race. False if none is left.
     bool rennen_starten();
-    /// The race window is to go on where an outage has left this race, which was started with that part and has taken
-    /// so long up to there. False if the evening has come elsewhere.
-    bool rennen_wiederaufnehmen(int rennen, int ab_teil, dauer_ms bisher);
-    /// It has come to where it was: it had gone on so often, and perhaps its drivers stand on the lanes of the next
-    /// part. False if the books cannot be of that race: they have parts that it lacks, or lack some that it has not.
-    bool wiederaufgenommen(int fortsetzungen, bool umgesetzt);
+    /// The race window is to go on where an outage has left this race, which was started with that part. False if the
+    /// evening has come elsewhere.
+    bool rennen_wiederaufnehmen(int rennen, int ab_teil);
+    /// It has come to where it was: it had gone on so often, perhaps its drivers stand on the lanes of the next part,
+    /// and it has taken so long. False if the books cannot be of that race: they have parts that it lacks, or lack some
+    /// that it has not.
+    bool wiederaufgenommen(int fortsetzungen, bool umgesetzt, dauer_ms bisher);
     /// What the director changes: keeps it and shows it, if `was` says true.
     bool aendern(const std::function<bool(wettkampf&)>& was);
 

@@ -273,7 +273,7 @@ bool wiederaufnahme::eingliedern(const protokollstand& stand) {
         wettkampfabend& abend = um_.wettkampf.wettkampfabend;
         const abendrennen dort = abendrennen_lesen(kennung);
         return abend.wettkampf_aktiv() && (dort.abend.empty() || dort.abend == abend.abendname()) &&
-               abend.rennen_wiederaufnehmen(dort.rennen, dort.ab_teil, dauer_ms(stand.dauer));
+               abend.rennen_wiederaufnehmen(dort.rennen, dort.ab_teil);
     }
     ergebnisfluegel& e = um_.ergebnisse;
     if (art == "tagesrennen") {
@@ -288,10 +288,11 @@ bool wiederaufnahme::eingliedern(const protokollstand& stand) {
     return true;
 }
 
-bool wiederaufnahme::im_abend_richtig(std::string_view kennung) {
+bool wiederaufnahme::im_abend_richtig(const protokollstand& stand) {
     const renn_zustand& zustand = um_.rennen.zustand;
-    return !kennung.starts_with(abend_kennung) ||
-           um_.wettkampf.wettkampfabend.wiederaufgenommen(zustand.konto.teil(), zustand.umgesetzt);
+    return !stand.kopf.teil_von.starts_with(abend_kennung) ||
+           um_.wettkampf.wettkampfabend.wiederaufgenommen(zustand.konto.teil(), zustand.umgesetzt,
+                                                          dauer_ms(stand.dauer));
 }
 
 dauer_ms wiederaufnahme::vergangen(const protokollstand& stand) const {
@@ -327,11 +328,11 @@ bool wiederaufnahme::aufnehmen(const kandidat& k) {
     um_.fenster.zeigen(fenstername::bahn1, anzeige_art::modal);
     um_.protokoll.fuehren = fuehren;
     um_.protokoll.bereitlegen(k.stand);
-    if (!wertungsfolge(um_.rennen, um_.ergebnisse.wertung).bis_zum_ende() || !im_abend_richtig(k.stand.kopf.teil_von)) {
+    if (!wertungsfolge(um_.rennen, um_.ergebnisse.wertung).bis_zum_ende() || !im_abend_richtig(k.stand)) {
         um_.fenster.entladen(fenstername::k_ampel);
         um_.fenster.entladen(fenstername::bahn1);
         um_.rennen.protokoll.aufhoeren();
-        um_.rennen.zeit.freigeben();
+        um_.rennen.zeit.stand_setzen(uhrstand);  // the devices are open, and set it only as they open
         um_.fenster.aufleben();
         um_.ausgang.ruhezustand();
         um_.ausgang.aufleben();

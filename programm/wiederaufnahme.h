@@ -79,7 +79,7 @@ private:
     /// Makes the race part of what it was part of. False if that is no more.
     bool eingliedern(const protokollstand& stand);
     /// The books of the evening, if it is part of one, are those of a race that has come so far.
-    bool im_abend_richtig(std::string_view kennung);
+    bool im_abend_richtig(const protokollstand& stand);
     /// Since the last line of the log, by the calendar.
     dauer_ms vergangen(const protokollstand& stand) const;
     void aufwachen(const kandidat& k, const mitschrift::werte& uhrstand);

@@ -109,6 +109,7 @@ protected:
         p_->einst.zielmodus_erster = true;
         p_->fenster.neu_laden(fenstername::bahn1);  // a race keeps the settings that it began with
         fenster_um_ = zeit_;
+        los_ = false;
         einstellungen_ = p_->datei.festhalten();
         laufen(500);
         erstes_.bahn().Command1.klicken();
@@ -132,7 +133,7 @@ protected:
 
     /// The program goes away, and `dauer` ms later the next one is there, with another clock, and asks. With settings
     /// that were saved it hears the device already while the question stands, for `bedenkzeit`.
-    void ausfallen(zeit_ms dauer, zeit_ms bedenkzeit) {
+    void ausgefallen_stehen(zeit_ms dauer, zeit_ms bedenkzeit) {
         while (zeit_ - fahrten_.back().second < 150) {  // a moment ago is not on the disk yet
             laufen(1);
         }
@@ -174,12 +175,17 @@ protected:
             EXPECT_EQ(jetzt.maschine.meldungen_gezeigt.size(), davor) << jetzt.maschine.meldungen_gezeigt.back().text;
         }
         ASSERT_TRUE(p_->rennen.zustand.chaos_aktiv);
+        pausen_.emplace_back(von, zeit_);
+    }
+
+    void ausfallen(zeit_ms dauer, zeit_ms bedenkzeit) {
+        ASSERT_NO_FATAL_FAILURE(ausgefallen_stehen(dauer, bedenkzeit));
         p_->k_ampel.Command1.klicken();
         for (int ms = 0; ms < 20000 && p_->rennen.zustand.chaos_aktiv; ++ms) {
             laufen(1);
         }
         ASSERT_FALSE(p_->rennen.zustand.chaos_aktiv);
-        pausen_.emplace_back(von, zeit_);
+        pausen_.back().second = zeit_;
     }
 
     /// Every lap is counted once, and takes as long as it was driven. What an outage takes off is the same for all.
@@ -302,6 +308,32 @@ TEST_P(Ausfallrennen, AusfaelleVerlierenKeineRundeUndVerschiebenKeine) {
     ASSERT_TRUE(p_->fenster.ist_offen(fenstername::auswertung));
     vergleichen(4);
 }
+
+class UhrDesGeraets : public Ausfallrennen {};
+
+TEST_P(UhrDesGeraets, HinterEinemNichtFortsetzbarenRennenZaehltDasNaechste) {
+    starten("4");
+    laufen(30000);
+    std::string name = p_->rennprotokoll.dateiname();
+    std::replace(name.begin(), name.end(), '\\', '/');
+    p_->rennen.abbruchfrage.bestaetigen();
+    laufen(500);
+    maschine_->datei_schreiben(name, mit_anderer_runde(maschine_->datei_lesen(name)));
+    maschine_->antwort = true;
+    p_->form1.command_fortsetzen.klicken();
+    ASSERT_FALSE(maschine_->meldungen_gezeigt.empty());
+    ASSERT_EQ(maschine_->meldungen_gezeigt.back().text, p_->txt.wettkampf.nicht_fortsetzbar);
+    starten("1");
+    laufen(80000);
+    ASSERT_TRUE(p_->fenster.ist_offen(fenstername::auswertung));
+    for (int spur = 1; spur <= art().spuren; ++spur) {
+        EXPECT_GT(p_->rennen.zustand.konto.runden(spur), 5);
+    }
+    EXPECT_EQ(nachrechnen(*p_, *maschine_), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(, UhrDesGeraets, testing::Values(alle_geraete()[2], alle_geraete()[3]),
+                         [](const auto& fall) { return std::string(fall.param.name); });
 
 class AbgezogenImLicht : public Ausfallrennen {};
 
