@@ -62,6 +62,7 @@ public:
     void nach_ausfall(ausfall_stand stand) override {
         rennen_bereit();
         geraeteuhr_.anschliessen(stand);
+        rennen_laeuft_ = true;  // it has been started, and its end is the end of one
     }
     void start_abgebrochen() override;
     void rennstart() override;

@@ -335,6 +335,33 @@ TEST_P(UhrDesGeraets, HinterEinemNichtFortsetzbarenRennenZaehltDasNaechste) {
 INSTANTIATE_TEST_SUITE_P(, UhrDesGeraets, testing::Values(alle_geraete()[2], alle_geraete()[3]),
                          [](const auto& fall) { return std::string(fall.param.name); });
 
+class AmStartknopf : public Ausfallrennen {};
+
+/// Who ends or breaks off a race that stands in the pause of an outage has pressed no start key.
+TEST_P(AmStartknopf, HinterEinemEndeImAusfallBeginntDasNaechsteRennenNichtVonSelbst) {
+    using stand = simulator::control_unit::zustand;
+    const auto& einheit = dynamic_cast<const simulator::control_unit&>(*geraet_);
+    starten("4");
+    laufen(40000);
+    ASSERT_NO_FATAL_FAILURE(ausgefallen_stehen(5000, 50));
+    ASSERT_EQ(einheit.stand(), stand::laeuft);
+    p_->rennen.abbruchfrage.bestaetigen();
+    laufen(3000);
+    EXPECT_EQ(einheit.stand(), stand::angehalten);
+    p_->form1.Command1.klicken();
+    laufen(3000);
+    ASSERT_TRUE(p_->fenster.ist_offen(fenstername::bahn1));
+    EXPECT_TRUE(p_->rennen.zustand.rennen_beendet && p_->rennen.bahn1.Command1.bedienbar());
+    EXPECT_EQ(einheit.stand(), stand::angehalten);
+    p_->rennen.bahn1.Command1.klicken();
+    laufen(20000);
+    EXPECT_FALSE(p_->rennen.zustand.rennen_beendet);
+    EXPECT_EQ(einheit.stand(), stand::laeuft);
+}
+
+INSTANTIATE_TEST_SUITE_P(, AmStartknopf, testing::Values(alle_geraete().front()),
+                         [](const auto& fall) { return std::string(fall.param.name); });
+
 class AbgezogenImLicht : public Ausfallrennen {};
 
 /// The unit goes on with its light and its cars, the race begins by a light of the program's own. Of the unit's clock
