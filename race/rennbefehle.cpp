@@ -76,7 +76,7 @@ void rennbefehle::rennen_abbrechen() {
     um_.zustand.rennabbruch = true;
     um_.param.einrichtung_wiederherstellen();
     um_.teil_von.melden(&veranstaltung::abgebrochen);
-    if (gefahren && um_.teil_von->zurueck() == fenstername::Form1 && !um_.teil_von->zur_uebung()) {
+    if (gefahren && um_.teil_von->zurueck() != fenstername::wettkampf2 && !um_.teil_von->zur_uebung()) {
         um_.meldungen.mitteilen(um_.bahn.wort.zurueckholen);  // an evening offers it by itself
     }
     um_.fenster.entladen(fenstername::bahn1);

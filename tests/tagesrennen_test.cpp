@@ -140,6 +140,8 @@ TEST_F(Tagesrennen, NachEinemWiederaufgenommenenRennenZeigtEsWasJetztEingerichte
     t.bahn().Command1.klicken();
     t.runde_nach(1000, "12");
     t.rennabbruch();
+    ASSERT_EQ(t.maschine.mitgeteilt.size(), 1U);
+    EXPECT_EQ(t.maschine.mitgeteilt.back(), "Rennen abgebrochen. „Fortsetzen“ holt es zurück.");
     t.p.fenster.entladen(fenstername::Tagesrennen);
     fahrer_eintragen("Ben", "");
     t.p.form1.spur[4].umschalten();
