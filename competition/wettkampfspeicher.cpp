@@ -109,8 +109,9 @@ bool wettkampfspeicher::tabelle_sichern(const wettkampf& stand) {
 }
 
 void wettkampfspeicher::stand_speichern_unter(const wettkampf& stand) {
-    um_.fenster.oeffnen({stamm(stand), ergebnis_ordner::wettkampf, abend_endung, um_.txt.wettkampf.stand_speichern},
-                        [this, &stand](const std::string& name) { return stand_schreiben(ordner + name, stand); });
+    um_.fenster.oeffnen(
+        {stamm(stand), ergebnis_ordner::wettkampf, abend_endung, um_.txt.wettkampf.stand_speichern, true},
+        [this, &stand](const std::string& name) { return stand_schreiben(ordner + name, stand); });
 }
 
 void wettkampfspeicher::tabelle_speichern_unter(const wettkampf& stand) {

@@ -33,7 +33,9 @@ sprachliste rundenspeichern::sprache() {
     texte.text("Fehler beim Schreiben in Tages-Datei.", tagesfehler_);
     texte.text("Name", tabelle_.name).text("Runden", tabelle_.runden).text("Einzelrunden", tabelle_.einzelrunden);
     texte.text("Meter", tabelle_.meter).text("beste Runde", tabelle_.beste_runde);
-    return texte.text("Gesamtzeit", tabelle_.gesamtzeit);
+    texte.text("Gesamtzeit", tabelle_.gesamtzeit);
+    return texte.text("Fehler beim Schreiben der datei. Die Einstellungen wurden nicht gespeichert.",
+                      einstellungsfehler_);
 }
 
 std::string rundenspeichern::stempel() const {
@@ -58,8 +60,9 @@ void rundenspeichern::oeffnen(const ergebnisziel& ziel, std::function<bool(const
     auftrag.andere_endung_bleibt = true;
     auftrag.name_fehlt = name_fehlt_;
     auftrag.vorschlag = ziel.vorschlag + std::string(ziel.endung);
-    auftrag.ausfuehren = [this, schreiben = std::move(schreiben)](const std::string& gewaehlt) {
-        return schreiben(gewaehlt) || schreibfehler_melden();
+    const std::string& fehler = ziel.einstellungen ? einstellungsfehler_ : schreibfehler_;
+    auftrag.ausfuehren = [this, &fehler, schreiben = std::move(schreiben)](const std::string& gewaehlt) {
+        return schreiben(gewaehlt) || fehler_zeigen(fehler);
     };
     speichernfenster::oeffnen(std::move(auftrag));
 }
@@ -107,7 +110,11 @@ bool rundenspeichern::tages_ergebnis_schreiben(const std::string& datei, const r
 
 bool rundenspeichern::schreibfehler_melden() {
     texte_lesen();  // perhaps nothing has been saved yet
-    um_.meldungen.zeigen(schreibfehler_, um_.txt.titel[1]);
+    return fehler_zeigen(schreibfehler_);
+}
+
+bool rundenspeichern::fehler_zeigen(const std::string& text) {
+    um_.meldungen.zeigen(text, um_.txt.titel[1]);
     return false;
 }
 

@@ -33,7 +33,8 @@ public:
         std::string vorschlag;  ///< of its name, without the ending
         std::string_view ordner;
         std::string_view endung;
-        std::string titel = {};  ///< of the window, if not that of results
+        std::string titel = {};      ///< of the window, if not that of results
+        bool einstellungen = false;  ///< the file holds settings, and a failure speaks of these
     };
     /// Opens the window for another file of the results. `schreiben` gets its name; a failure shows its message.
     void oeffnen(const ergebnisziel& ziel, std::function<bool(const std::string& name)> schreiben);
@@ -48,6 +49,7 @@ private:
     std::vector<std::string> zeilen(const rennergebnis& ergebnis) const {
         return einzelrennen_zeilen(ergebnis, wort_, trennzeichen_);
     }
+    bool fehler_zeigen(const std::string& text);
     bool einzelrennen_schreiben(const std::string& pfad, const rennergebnis& ergebnis, bool melden = true);
     std::string stempel() const;
 
@@ -58,6 +60,7 @@ private:
     std::string titel_;
     std::string name_fehlt_;
     std::string schreibfehler_;
+    std::string einstellungsfehler_;
     std::string tagesfehler_;
     std::vector<std::string> gesichert_;  ///< the result that was written last
 };

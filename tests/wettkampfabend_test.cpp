@@ -241,6 +241,20 @@ TEST_F(Wettkampfabend, WasNachDemLetztenRennenBerichtigtWirdStehtInDerTabelle) {
     EXPECT_FALSE(t.p.ablage.gibt_es(laufender_wettkampf));
 }
 
+TEST_F(Wettkampfabend, WerDenStandNichtSpeichernKannErfaehrtWasFehlt) {
+    beginnen(wettkampf_modus::rotation, 3, {1, 2});
+    t.p.fenster.zeigen(fenstername::wettkampf2);
+    for (const auto& [klick, was] : {std::pair{&t.p.wettkampf2.Command1, "datei. Die Einstellungen wurden"},
+                                     std::pair{&t.p.wettkampf2.Command10, "Datei. Rennergebnisse wurden"}}) {
+        klick->klicken();
+        t.maschine.nicht_schreibbar = "Pokal";
+        t.p.rundenspeichern.name.eingeben("Pokal");
+        t.p.rundenspeichern.Command1.klicken();
+        EXPECT_EQ(letzte_meldung(), "Fehler beim Schreiben der " + std::string(was) + " nicht gespeichert.");
+        t.p.fenster.entladen(fenstername::rundenspeichern);
+    }
+}
+
 TEST_F(Wettkampfabend, WasNichtGesichertIstWirdNachgeholtOderNichtVersprochen) {
     const auto frage_beginnt = [&](std::string_view wie) {
         t.p.wettkampf2.Command5.klicken();
