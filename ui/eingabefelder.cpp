@@ -118,10 +118,20 @@ void Listenfeld::resizeEvent(QResizeEvent* ereignis) {
     QListView::resizeEvent(ereignis);
     const QModelIndexList gewaehlt =
         selectionModel() != nullptr ? selectionModel()->selectedIndexes() : QModelIndexList();
-    if (!gewaehlt.isEmpty() && ereignis->size().height() > ereignis->oldSize().height()) {
+    if (ungesehen_ && !gewaehlt.isEmpty() && ereignis->size().height() > ereignis->oldSize().height()) {
         scrollToTop();
         scrollTo(gewaehlt.front());
     }
+}
+
+void Listenfeld::showEvent(QShowEvent* ereignis) {
+    ungesehen_ = true;
+    QListView::showEvent(ereignis);
+}
+
+void Listenfeld::paintEvent(QPaintEvent* ereignis) {
+    ungesehen_ = false;
+    QListView::paintEvent(ereignis);
 }
 
 void Listenfeld::setGanzeZeilen() {

@@ -83,9 +83,12 @@ protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
     bool viewportEvent(QEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+    void paintEvent(QPaintEvent* ereignis) override;
     void updateGeometries() override;
 
 private:
+    bool ungesehen_ = true;  ///< since it was shown: its place is still being laid out
     bool ganze_zeilen_ = false;
     int rest_px_ = 0;  ///< below the last whole line
 };
