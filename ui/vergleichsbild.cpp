@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <utility>
 
 #include "core/texte.h"
@@ -66,11 +67,24 @@ private:
             von = std::min(von, fahrer.beste);
             bis = std::max(bis, fahrer.laengste_uebliche);
         }
-        const double spanne = std::max(static_cast<double>(bis - von), 100.0);
-        schritt_ = teilung(spanne / striche);
-        von_ = std::floor((static_cast<double>(von) - spanne * 0.03) / schritt_) * schritt_;
-        bis_ = std::ceil((static_cast<double>(bis) + spanne * 0.03) / schritt_) * schritt_;
+        constexpr double rand_ms = 5;  // at least, for laps that are all the same
+        const double rand = std::max(static_cast<double>(bis - von) * 0.03, rand_ms);
+        von_ = static_cast<double>(von) - rand;
+        bis_ = static_cast<double>(bis) + rand;
+        const QFontMetricsF masse(schrift_mit(achsschrift_px(), false));
+        schritt_ = teilung((bis_ - von_) / striche);
+        while (schritt_ < bis_ - von_ && masse.horizontalAdvance(achszahl(bis_) + " ") > x(von_ + schritt_) - x(von_)) {
+            schritt_ = teilung(1.5 * schritt_);
+        }
     }
+
+    QString achszahl(double zeit) const {
+        const QLocale sprache = i_.trennzeichen[1] == "." ? QLocale::c() : QLocale(QLocale::German);
+        const int stellen = schritt_ < 10 ? 3 : schritt_ < 100 ? 2 : schritt_ < 1000 ? 1 : 0;
+        return sprache.toString(zeit / 1000, 'f', stellen);
+    }
+
+    double achsschrift_px() const { return std::min(zeile_ * 0.4, f_.width() * schrift_anteil_max); }
 
     double x(double zeit) const { return feld_.left() + feld_.width() * (zeit - von_) / (bis_ - von_); }
 
@@ -152,17 +166,16 @@ private:
     }
 
     void achse() {
-        const QLocale sprache = i_.trennzeichen[1] == "." ? QLocale::c() : QLocale(QLocale::German);
-        const int stellen = schritt_ < 10 ? 3 : schritt_ < 100 ? 2 : schritt_ < 1000 ? 1 : 0;
         maler_.setPen(QPen(farben_.linie, std::max(1.0, zeile_ / 34)));
-        const int anzahl = static_cast<int>(std::lround((bis_ - von_) / schritt_));
-        for (int i = 0; i <= anzahl; ++i) {
-            const double wert = von_ + i * schritt_;
+        const auto erster = static_cast<std::int64_t>(std::ceil(von_ / schritt_));
+        const auto letzter = static_cast<std::int64_t>(std::floor(bis_ / schritt_));
+        for (std::int64_t i = erster; i <= letzter; ++i) {
+            const double wert = static_cast<double>(i) * schritt_;
             const double hier = x(wert);
             maler_.setPen(QPen(farben_.linie, std::max(1.0, zeile_ / 34)));
             maler_.drawLine(QPointF(hier, feld_.top()), QPointF(hier, feld_.bottom() + zeile_ * 0.15));
             text({hier - 2 * zeile_, feld_.bottom() + zeile_ * 0.15, 4 * zeile_, zeile_ * 0.7}, Qt::AlignHCenter,
-                 sprache.toString(wert / 1000, 'f', stellen), false, farben_.schrift_leise, 0.4);
+                 achszahl(wert), false, farben_.schrift_leise, 0.4);
         }
         const double halb = feld_.center().x() - f_.left();  // as wide as it can be in the middle of the axis
         text({f_.left(), feld_.bottom() + zeile_ * 0.75, 2 * halb, zeile_ * 0.8}, Qt::AlignHCenter, i_.achse, false,
