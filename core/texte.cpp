@@ -168,7 +168,7 @@ sprachliste texte::sprache_m1() {
     gruppe.text("Kann nicht activiert werden.", nicht_aktiv_text);
     gruppe.text("Programmeinstellungen aus Datei übernehmen?", wettkampf.einstellungen_uebernehmen);
     gruppe.text("Fehler  beim Laden der Datei. Die Einstellungen wurden nicht geladen.", wettkampf.ladefehler);
-    gruppe.text("Der Wettkampf", wettkampf.der_wettkampf).text("vom", wettkampf.vom);
+    gruppe.text("Der Wettkampf „%1“", wettkampf.der_wettkampf).text("vom", wettkampf.vom);
     gruppe.text("wurde nicht beendet. Fortsetzen?", wettkampf.nicht_beendet);
     gruppe.text("Das Rennen von", wettkampf.das_rennen).text("wurde in Runde", wettkampf.in_runde);
     gruppe.text("unterbrochen. Fortsetzen?", wettkampf.unterbrochen);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/platzhalter.h"
 #include "core/zeit.h"
 
 namespace tarvel {
@@ -119,7 +120,8 @@ void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::str
 
 std::string wettkampfablauf::frage(const wettkampf& w) const {
     const auto& wort = um_.txt.wettkampf;
-    return wort.der_wettkampf + " " + w.wettkampf_name + " " + wort.vom + " " + w.beginn + " " + wort.nicht_beendet;
+    return eingesetzt(wort.der_wettkampf, {w.wettkampf_name}) + " " + wort.vom + " " + w.beginn + " " +
+           wort.nicht_beendet;
 }
 
 std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten(bool noch_eines) {

@@ -67,7 +67,7 @@ TEST_F(Wettkampfrueckkehr, AbgeschnittenerAbendWirdAngebotenUndGehtGleichWeiter)
         neu.starten();
         ASSERT_FALSE(t.maschine.fragen_gestellt.empty());
         EXPECT_EQ(t.maschine.fragen_gestellt.back().text,
-                  "Der Wettkampf Vereinsabend vom " + vorher.beginn + " wurde nicht beendet. Fortsetzen?");
+                  "Der Wettkampf „Vereinsabend“ vom " + vorher.beginn + " wurde nicht beendet. Fortsetzen?");
         EXPECT_TRUE(neu.fenster.ist_offen(fenstername::wettkampf2));
         EXPECT_EQ(neu.wettkampfabend.stand(), vorher);
         EXPECT_EQ(neu.param.renn_laenge, rennziel::runden(3));
