@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStringList>
 #include <QWheelEvent>
+#include <utility>
 
 namespace tarvel::ui {
 
@@ -15,14 +16,21 @@ class Eingabezeile final : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
 
+    /// Property of a field whose text is mostly replaced: the first click into it marks all of it.
+    static constexpr const char* als_ganzes = "als_ganzes";
+
 protected:
     void focusInEvent(QFocusEvent* ereignis) override {
         QLineEdit::focusInEvent(ereignis);
         ersetzbar_machen();
+        erster_klick_ = ereignis->reason() == Qt::MouseFocusReason && property(als_ganzes).toBool();
     }
     void mouseReleaseEvent(QMouseEvent* ereignis) override {
         QLineEdit::mouseReleaseEvent(ereignis);
         ersetzbar_machen();
+        if (std::exchange(erster_klick_, false) && !hasSelectedText()) {
+            selectAll();
+        }
     }
 
 private:
@@ -31,6 +39,8 @@ private:
             selectAll();
         }
     }
+
+    bool erster_klick_ = false;
 };
 
 /// The wheel scrolls the page and never turns a choice on the way. A text that is wider than its field is told whole

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/eingabefelder.h"
 #include "ui/stil.h"
 #include "ui/ziehen.h"
 
@@ -82,6 +83,7 @@ QWidget* Wettkampf1Fenster::titelzeile() {
     QHBoxLayout* aufbau = zeile_in(zeile);
     aufbau->addWidget(binder().label(logik_.Label_titel, "Label_titel"));
     QLineEdit* titel = binder().zeile(logik_.Text1, "Text1");
+    titel->setProperty(Eingabezeile::als_ganzes, true);
     titel->setStyleSheet("font-size: 20px; font-weight: bold;");
     aufbau->addWidget(titel, 1);
     return zeile;
