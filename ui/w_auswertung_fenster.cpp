@@ -157,14 +157,18 @@ QWidget* WAuswertungFenster::tabelle() {
 QLayout* WAuswertungFenster::knopfzeile() {
     auto* zeile = new QHBoxLayout;
     zeile->setSpacing(8);
+    const auto anfuegen = [zeile](QPushButton* knopf) {
+        knopf->setMinimumHeight(stil::knopfhoehe);  // and as wide as its caption: there are many of them
+        zeile->addWidget(knopf);
+    };
     for (auto [element, name] : {std::pair{&logik_.Command1, "Command1"}, {&logik_.Command2, "Command2"}}) {
-        zeile->addWidget(stil::fensterknopf(binder().knopf(*element, name)));
+        anfuegen(binder().knopf(*element, name));
     }
     zeile->addStretch();
-    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_urkunden, "Command_urkunden")));
-    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_drucken, "Command_drucken")));
-    zeile->addWidget(stil::fensterknopf(binder().knopf(logik_.Command_pdf, "Command_pdf")));
-    zeile->addWidget(stil::fensterknopf(binder().hauptknopf(logik_.Command_schliessen, "Command_schliessen")));
+    anfuegen(binder().knopf(logik_.Command_urkunden, "Command_urkunden"));
+    anfuegen(binder().knopf(logik_.Command_drucken, "Command_drucken"));
+    anfuegen(binder().knopf(logik_.Command_pdf, "Command_pdf"));
+    anfuegen(binder().hauptknopf(logik_.Command_schliessen, "Command_schliessen"));
     return zeile;
 }
 
