@@ -241,6 +241,7 @@ void at2560::µC_wert_zerlegen() {
         if (at_zeitversatz_ == 0) {
             at_zeitversatz_ = bei_ankunft().messzeit - meldung->zeit;
             geraeteuhr_.festmachen(bei_ankunft());
+            um_.rennen.pausen_festhalten(bei_ankunft().messzeit);
         }
         return;
     }

@@ -169,6 +169,9 @@ void control_unit::uhr_nachstellen(const cu_uhr::befund& befund) {
         um_.zeit.stellen(stand, gang);
         befund.nur_die_uhr ? um_.rennen.uhr_nachruecken(*befund.versetzen)
                            : um_.rennen.stempel_verschieben(*befund.versetzen);
+        if (nach_ausfall_) {  // which the calendar has measured, or this clock itself
+            um_.rennen.pausen_festhalten(befund.stempel);
+        }
     } else {
         um_.zeit.nachstellen(stand, gang);
     }
@@ -311,6 +314,7 @@ void control_unit::rennen_bereit() {
     geraeteuhr_.neu_ausrichten();
     gezeigte_tankgroesse_ = 0;
     rennen_laeuft_ = false;
+    nach_ausfall_ = false;
     neustart_wartet_ = false;
     cu_ende_timer_->aus();
     const bool nach_ausfall = um_.rennen.pause();  // then it is told nothing before the director goes on

@@ -62,6 +62,7 @@ public:
     void nach_ausfall(ausfall_stand stand) override {
         rennen_bereit();
         geraeteuhr_.anschliessen(stand);
+        nach_ausfall_ = true;
         rennen_laeuft_ = true;  // it has been started, and its end is the end of one
     }
     void start_abgebrochen() override;
@@ -127,6 +128,7 @@ private:
     bool gewuenscht_ = false;        ///< open, or to be opened as soon as it is there
     bool im_rennfenster_ = false;    ///< the race window is open
     bool rennen_laeuft_ = false;     ///< between its start and its end
+    bool nach_ausfall_ = false;      ///< the race has gone on behind one
     bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
     bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start
     int anschluss_ = 0;              ///< port that was opened last: another one has another unit

@@ -22,6 +22,8 @@ public:
     /// The clock that pauses have been measured on runs `faktor` times as fast as was thought: the laps that they are
     /// still to come off get the better measure.
     virtual void pausen_nachmessen(double faktor) = 0;
+    /// The device's clock has been found anew at this stamp: what was paused before is not measured again.
+    virtual void pausen_festhalten(zeit_ms stempel) = 0;
     /// Events have reached the table: the fuel simulation looks at them at once.
     virtual void tankflanken_auswerten() = 0;
     /// The lane's car has left its tank contact: where one contact is all there is, it refuels no longer.

@@ -26,6 +26,8 @@ geraete_im_rennen::geraete_im_rennen(tarvel::rennen& r, tarvel::form1& form1, co
     });
     nachmessen_ = r_.protokoll.eingang(
         "nachmessen", 1, [this](const werte& w) { r_.zustand.pausen_nachmessen(protokoll_bruch(w[0], 1)); });
+    festhalten_ = r_.protokoll.eingang(
+        "festhalten", 1, [this](const werte& w) { r_.zustand.pausen_festhalten(protokoll_stempel(w[0])); });
     verlassen_ =
         r_.protokoll.eingang("verlassen", 1, [this](const werte& w) { r_.tanken.kontakt_verlassen(als_spur(w[0])); });
     fuellstand_ = r_.protokoll.eingang("fuellstand", 4, [this](const werte& w) {
@@ -41,6 +43,12 @@ bool geraete_im_rennen::rennen_ruht() const {
 
 void geraete_im_rennen::pausen_nachmessen(double faktor) {
     r_.protokoll.geschieht(nachmessen_, {std::bit_cast<std::int64_t>(faktor)});
+}
+
+void geraete_im_rennen::pausen_festhalten(zeit_ms stempel) {
+    if (!r_.zustand.rennen_beendet && (r_.zustand.chaos_aktiv || r_.zustand.pause_abzug != 0)) {
+        r_.protokoll.geschieht(festhalten_, {stempel});
+    }
 }
 
 void geraete_im_rennen::tankflanken_ansehen() {

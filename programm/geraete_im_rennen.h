@@ -21,6 +21,7 @@ public:
     void stempel_verschieben(zeit_ms um) override { r_.protokoll.geschieht(verschieben_, {um}); }
     void uhr_nachruecken(zeit_ms um) override { r_.protokoll.geschieht(nachruecken_, {um}); }
     void pausen_nachmessen(double faktor) override;
+    void pausen_festhalten(zeit_ms stempel) override;
     void tankflanken_auswerten() override { tankflanken_auswerten_(); }
     void tankkontakt_verlassen(int spur) override { r_.protokoll.geschieht(verlassen_, {spur}); }
     void fuellstand(int spur, int stufe, int stufen, bool neu) override {
@@ -38,6 +39,7 @@ private:
     int verschieben_;  ///< numbers of the doings
     int nachruecken_;
     int nachmessen_;
+    int festhalten_;
     int verlassen_;
     int fuellstand_;
 };

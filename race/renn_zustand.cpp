@@ -1,7 +1,9 @@
 #include "race/renn_zustand.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 
 namespace tarvel {
 
@@ -61,12 +63,18 @@ void renn_zustand::uhr_nachruecken(zeit_ms um) {
 }
 
 void renn_zustand::pausen_nachmessen(double faktor) {
-    const auto messen = [faktor](zeit_ms& gemessen) {
-        gemessen = std::llround(static_cast<double>(gemessen) * faktor);
+    const zeit_ms messbar = std::max<zeit_ms>(pausen_messbar.value_or(std::numeric_limits<zeit_ms>::max()), 0);
+    const zeit_ms fest = std::max<zeit_ms>(pause_abzug - messbar, 0);
+    const auto ab_messen = [faktor](zeit_ms& gemessen, zeit_ms ab) {
+        gemessen = ab + std::llround(static_cast<double>(gemessen - ab) * faktor);
     };
-    messen(pause_abzug);
+    const auto messen = [&](zeit_ms& gemessen) { ab_messen(gemessen, std::max<zeit_ms>(gemessen - messbar, 0)); };
+    ab_messen(pause_abzug, fest);
     if (pausen_bis_ende) {
-        messen(*pausen_bis_ende);
+        ab_messen(*pausen_bis_ende, std::min(fest, *pausen_bis_ende));
+    }
+    if (pausen_messbar && *pausen_messbar > 0) {
+        ab_messen(*pausen_messbar, 0);
     }
     messen(pause.dauer);
     for (const int nummer : alle_spuren) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <string>
@@ -105,6 +106,9 @@ struct renn_zustand {
     zeit_ms pause_abzug = 0;  ///< sum of the pauses; moves the end of the race, not its start
     /// That sum as the race was over, for a run-on or for good.
     std::optional<zeit_ms> pausen_bis_ende = {};
+    /// Of that sum, what a better knowledge of the clock still changes: the last so many ms; none is all of it. Below 0
+    /// in a pause whose first so many ms it leaves alone.
+    std::optional<zeit_ms> pausen_messbar = {};
     zeit_ms renn_ende_zeit = 0;     ///< `start_zeit` + duration
     zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
     int fuehrungsrunden = 0;        ///< most laps that any lane has reached
@@ -130,6 +134,11 @@ struct renn_zustand {
 
     /// Pauses were measured on a clock that runs `faktor` times as fast as was thought.
     void pausen_nachmessen(double faktor);
+    /// But not what lies before this stamp, at which that clock was found anew.
+    void pausen_festhalten(zeit_ms stempel) {
+        const zeit_ms dahinter = pause.start + (chaos_aktiv ? 0 : pause.dauer) - stempel;
+        pausen_messbar = chaos_aktiv ? std::min<zeit_ms>(dahinter, 0) : std::clamp<zeit_ms>(dahinter, 0, pause_abzug);
+    }
 
     /// What is left of the penalties of pauses is served from this stamp on.
     void strafreste_ab(zeit_ms stempel) {
@@ -147,6 +156,9 @@ struct renn_zustand {
     /// Time in which the race stood still: moves its end, and comes off the lap that each lane is in.
     void unterbrechung_abziehen(zeit_ms dauer) {
         pause_abzug += dauer;
+        if (pausen_messbar) {
+            *pausen_messbar += dauer;
+        }
         for (spur_zustand& s : spur) {
             s.pause_abzug += dauer;
             s.tankt_seit = 0;  // nobody refuels meanwhile

@@ -335,6 +335,55 @@ TEST_P(UhrDesGeraets, HinterEinemNichtFortsetzbarenRennenZaehltDasNaechste) {
 INSTANTIATE_TEST_SUITE_P(, UhrDesGeraets, testing::Values(alle_geraete()[2], alle_geraete()[3]),
                          [](const auto& fall) { return std::string(fall.param.name); });
 
+template <class Einstellung>
+simulator::rennen_einstellung schnell_gehend(Einstellung einst) {
+    einst.rennen = wagen(6, 123456789);
+    einst.rennen.gang_ppm = 3000;
+    return einst.rennen;
+}
+
+std::vector<ausfallgeraet> schnell_gehende_uhren() {
+    std::vector<ausfallgeraet> alle{alle_geraete()[0], alle_geraete()[1]};
+    alle[0].bauen = []() -> std::unique_ptr<simulator::geraet> {
+        simulator::control_unit_einstellung einst;
+        einst.rennen = schnell_gehend(einst);
+        return std::make_unique<simulator::control_unit>(einst);
+    };
+    alle[1].bauen = []() -> std::unique_ptr<simulator::geraet> {
+        simulator::at2560_einstellung einst;
+        einst.rennen = schnell_gehend(einst);
+        einst.bootzeit = 1500;
+        return std::make_unique<simulator::at2560>(einst);
+    };
+    return alle;
+}
+
+class UhrNachAusfall : public Ausfallrennen {};
+
+/// How fast the unit's clock runs is known only a while behind it; the calendar has measured the outage.
+TEST_P(UhrNachAusfall, DerAusfallWirdNichtMitDerUhrDesGeraetsNachgemessen) {
+    starten("4");
+    laufen(40000);
+    ASSERT_NO_FATAL_FAILURE(ausfallen(300000, 0));
+    const renn_zustand& zustand = p_->rennen.zustand;
+    const zeit_ms pause = zustand.pause_abzug;
+    laufen(70000);
+    EXPECT_NEAR(p_->rennen.zeit.gang(), 1.003, 0.0005);
+    EXPECT_NEAR(static_cast<double>(zustand.pause_abzug), static_cast<double>(pause), 60);
+    const zeit_ms vorher = zustand.pause_abzug;
+    p_->rennen.bahn1.Command3.klicken();
+    laufen(20000);
+    p_->k_ampel.Command1.klicken();
+    laufen(15000);
+    ASSERT_FALSE(zustand.chaos_aktiv);
+    EXPECT_GT(zustand.pause_abzug - vorher, 20000);
+    EXPECT_LT(zustand.pause_abzug - vorher, 36000);
+    EXPECT_EQ(nachrechnen(*p_, *maschine_), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(, UhrNachAusfall, testing::ValuesIn(schnell_gehende_uhren()),
+                         [](const auto& fall) { return std::string(fall.param.name); });
+
 class AmStartknopf : public Ausfallrennen {};
 
 /// Who ends or breaks off a race that stands in the pause of an outage has pressed no start key.

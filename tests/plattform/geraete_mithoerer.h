@@ -24,6 +24,7 @@ public:
     void stempel_verschieben(zeit_ms um) override { rennen_.stempel_verschieben(um); }
     void uhr_nachruecken(zeit_ms um) override { rennen_.uhr_nachruecken(um); }
     void pausen_nachmessen(double faktor) override { rennen_.pausen_nachmessen(faktor); }
+    void pausen_festhalten(zeit_ms stempel) override { rennen_.pausen_festhalten(stempel); }
     void tankflanken_auswerten() override {
         ++gemeldet;
         if (ereignisse_weitersagen) {
