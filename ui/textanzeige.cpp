@@ -58,6 +58,13 @@ void TextAnzeige::setMindestPx(int px) {
     }
 }
 
+void TextAnzeige::setHoechstPx(int px) {
+    if (hoechst_px_ != px) {
+        hoechst_px_ = px;
+        update();
+    }
+}
+
 void TextAnzeige::setFett(bool fett) {
     schrift_.setBold(fett);
     updateGeometry();
@@ -158,14 +165,18 @@ void TextAnzeige::plakette_malen(QPainter& maler, const QFontMetricsF& masse) co
     maler.drawRoundedRect(QRectF((width() - breite) / 2, 0, breite, height()), rund, rund);
 }
 
-TextAnzeige::Satz TextAnzeige::gesetzt() const {
-    const QFontMetricsF masse(schrift_);
+TextAnzeige::Satz TextAnzeige::gesetzt(int hoechst_px) const {
+    QFont grund = schrift_;
+    if (hoechst_px > 0) {
+        grund.setPixelSize(std::min(hoechst_px, grund.pixelSize()));
+    }
+    const QFontMetricsF masse(grund);
     const auto breite_in = [this](const QFont& schrift) { return QFontMetricsF(schrift).horizontalAdvance(text_); };
     const int breite = contentsRect().width();
     const int hoehe = contentsRect().height();
-    Satz satz{text_, schrift_, Qt::TextSingleLine, false};
+    Satz satz{text_, grund, Qt::TextSingleLine, false};
     double faktor = std::min(breite / std::max(masse.horizontalAdvance(text_), 1.0), hoehe / masse.capHeight());
-    const double kleinster = std::max(kleinste_verkleinerung, std::min(1.0, 1.0 * mindest_px_ / schrift_.pixelSize()));
+    const double kleinster = std::max(kleinste_verkleinerung, std::min(1.0, 1.0 * mindest_px_ / grund.pixelSize()));
     for (int anzahl = 2; faktor < 1 && anzahl <= zeilen_; ++anzahl) {
         const QString zeilen = umbrochen(text_, masse, anzahl);
         const QSizeF platz = masse.size(0, zeilen);
@@ -177,8 +188,8 @@ TextAnzeige::Satz TextAnzeige::gesetzt() const {
         }
     }
     if (faktor < 1) {
-        const auto px = static_cast<int>(schrift_.pixelSize() * std::max(faktor, kleinster));
-        satz.schrift.setPixelSize(std::max({px, std::min(mindest_px_, schrift_.pixelSize()), 6}));
+        const auto px = static_cast<int>(grund.pixelSize() * std::max(faktor, kleinster));
+        satz.schrift.setPixelSize(std::max({px, std::min(mindest_px_, grund.pixelSize()), 6}));
         if (const double noetig = breite_in(satz.schrift); mindest_px_ > 0 && satz.art != 0 && noetig > breite) {
             constexpr int engste_prozent = 75;
             int prozent = std::clamp(static_cast<int>(100 * breite / noetig), engste_prozent, 100);
@@ -219,7 +230,7 @@ void TextAnzeige::paintEvent(QPaintEvent* /*ereignis*/) {
     const bool rot = rotrolle_ != QPalette::NoRole && farbe_ == stil::farbe_von(farben::rot);
     const QColor farbe = rot ? palette().color(rotrolle_) : farbe_.isValid() ? farbe_ : palette().color(rolle_);
     maler.setPen(plakette_ ? stil::schrift_auf(farbe_) : stil::auf_hellem_grund(farbe, grund_));
-    const Satz satz = gesetzt();
+    const Satz satz = gesetzt(hoechst_px_);
     maler.setFont(satz.schrift);
     maler.drawText(contentsRect(), static_cast<int>(ausrichtung_) | satz.art, satz.text);
 }

@@ -24,7 +24,11 @@ public:
     /// font.
     void setMindestPx(int px);
     /// Of the font that it is shown in.
-    int schriftPx() const { return gesetzt().schrift.pixelSize(); }
+    int schriftPx() const { return gesetzt(hoechst_px_).schrift.pixelSize(); }
+    /// The same where it may be no larger than so many pixels.
+    int schriftPx(int hoechstens) const { return gesetzt(hoechstens).schrift.pixelSize(); }
+    /// Drawn no larger than this, in a place for its own size; 0 for no limit.
+    void setHoechstPx(int px);
     void setFett(bool fett);
     /// Fainter than its colour: a caption, which gives way to what it names.
     void setLeise();
@@ -51,7 +55,7 @@ public:
     /// Takes the width of this text at the given size, whatever is shown.
     void setMusterText(const QString& muster);
     /// The text has no room even where it is smallest: it ends in "…", or is cut above and below.
-    bool gekuerzt() const { return gesetzt().gekuerzt; }
+    bool gekuerzt() const { return gesetzt(hoechst_px_).gekuerzt; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -69,7 +73,7 @@ private:
         int art;  ///< flags of the text's drawing
         bool gekuerzt;
     };
-    Satz gesetzt() const;
+    Satz gesetzt(int hoechst_px) const;
     void plakette_malen(QPainter& maler, const QFontMetricsF& masse) const;
 
     QString text_;
@@ -85,6 +89,7 @@ private:
     bool blass_ = false;
     int zeilen_ = 1;
     int mindest_px_ = 0;
+    int hoechst_px_ = 0;
     Qt::Alignment ausrichtung_ = Qt::AlignCenter;
 };
 

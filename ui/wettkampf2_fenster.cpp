@@ -154,6 +154,8 @@ void Wettkampf2Fenster::spurzeile(QGridLayout& zeilen, int spur) {
     zeilen.addWidget(name, spur, 3);
     TextAnzeige* danach = gross(logik_.Label_danach_b.at(i), "Label_danach_b" + nummer, schrift_fahrer);
     danach->setZweizeilig();
+    danach->installEventFilter(this);
+    fahrer_.push_back(danach);
     zeilen.addWidget(danach, spur, spalte_danach);
 }
 
@@ -312,18 +314,24 @@ bool Wettkampf2Fenster::eventFilter(QObject* wer, QEvent* ereignis) {
         skalieren();
     }
     if (ereignis->type() == QEvent::Paint && wer != plan_) {
-        einsetzer_angleichen();
+        schriften_angleichen();
     }
     return Fenster::eventFilter(wer, ereignis);
 }
 
-/// Who drives is never smaller than who puts cars back. How small a long name is drawn shows when it has its place.
-void Wettkampf2Fenster::einsetzer_angleichen() {
-    auto px = static_cast<int>(std::lround(schrift_einsetzer * skala_));
-    for (const TextAnzeige* name : fahrer_) {
-        px = name->isVisible() && !name->text().isEmpty() ? std::min(px, name->schriftPx()) : px;
+/// All names in one size, and who puts cars back no larger. How small a long name is drawn shows when it has its place.
+void Wettkampf2Fenster::schriften_angleichen() {
+    auto px = static_cast<int>(std::lround(schrift_fahrer * skala_));
+    for (int vorher = 0; vorher != px;) {  // what breaks into lines in large letters may be smaller in one line
+        vorher = px;
+        for (const TextAnzeige* name : fahrer_) {
+            px = name->isVisible() && !name->text().isEmpty() ? std::min(px, name->schriftPx(vorher)) : px;
+        }
     }
-    einsetzer_->setSchriftPx(px);
+    for (TextAnzeige* name : fahrer_) {
+        name->setHoechstPx(px);
+    }
+    einsetzer_->setSchriftPx(std::min(px, static_cast<int>(std::lround(schrift_einsetzer * skala_))));
 }
 
 /// Letters as large as the lanes of the evening leave room for.

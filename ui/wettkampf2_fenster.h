@@ -35,7 +35,7 @@ private:
     QLayout* fuss();
     void skalieren();
     void plan_skalieren(double skala);
-    void einsetzer_angleichen();
+    void schriften_angleichen();
 
     wettkampf2& logik_;
     const dateien& ablage_;
