@@ -77,8 +77,9 @@ sprachliste auswertung::sprache_a() {
     nachtrag.ohne_pausen_nennen(texte).text("Geprüft: Die Plätze stimmen.", wort_.plaetze_stimmen);
     texte.text("Geprüft: Die Plätze haben sich geändert.", wort_.plaetze_neu).text("Ende", wort_.ende);
     texte.text("Rot: schneller als die Bestzeit, die für diese Spur gespeichert ist", wort_.neue_bestzeit);
-    return texte.text("Kommt in die Tagesdatei; zurück zum Tagesrennen, von dort führt „Beenden“ ins Hauptmenü",
-                      wort_.zum_tagesrennen);
+    texte.text("Kommt in die Tagesdatei; zurück zum Tagesrennen, von dort führt „Beenden“ ins Hauptmenü",
+               wort_.zum_tagesrennen);
+    return nachtrag.ziel_nennen(texte);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {
@@ -132,7 +133,6 @@ void auswertung::ansagen_setzen() {
         Label_zeit[i].tipp(wort_.gesamtzeit);
     }
     nachtrag.cbo_nachtrag.ansage(nachtrag.Label_nachtrag_spur.text());
-    nachtrag.angebote.ansage(nachtrag.Label_nachtrag.text());
     neues_ziel.ansage(Command3.text() + " " + Label_bis.text());
 }
 

@@ -85,7 +85,7 @@ std::optional<korrektur> rundennachtrag::gewaehlt() const {
 void rundennachtrag::sprache(sprachliste& texte) {
     texte.text("Runde nachtragen auf", Label_nachtrag_spur).text("Spur", wort_.spur);
     texte.text("Nicht gezählte Überfahrten mit ihrem Grund, darunter alle Runden, in denen eine Überfahrt fehlen kann",
-               Label_nachtrag);
+               wort_.was);
     texte.text("Nachtragen", Command_eintragen).text("Abbrechen", Command_abbrechen).text("Runde", wort_.runde);
     texte.text("Überfahrt bei", wort_.ueberfahrt).text("teilen in", wort_.teilen);
 }
@@ -132,6 +132,10 @@ void rundennachtrag::spur_zeigen(int runde) {
     angebote.leeren();
     moeglich_.clear();
     const rennergebnis::spur* s = ergebnis_.auf(spur_);
+    const bool war_im_ziel =
+        s != nullptr && ergebnis_.ziel && !ergebnis_.ziel->ist_zeit() && s->rundenzahl() >= ergebnis_.ziel->runden();
+    Label_nachtrag.text(war_im_ziel ? wort_.was + ". " + wort_.war_im_ziel : wort_.was);
+    angebote.ansage(Label_nachtrag.text());
     if (s == nullptr || s->disqualifiziert) {
         return;
     }

@@ -67,6 +67,10 @@ public:
     void sprache(sprachliste& texte);
     /// Behind all others: a file of texts from before has no such line.
     sprachliste& ohne_pausen_nennen(sprachliste& texte) { return texte.text("ohne Pausen", wort_.ohne_pausen); }
+    sprachliste& ziel_nennen(sprachliste& texte) {
+        return texte.text("Mit einer Runde mehr war dieser Fahrer früher im Ziel: seine letzte Runde fällt weg.",
+                          wort_.war_im_ziel);
+    }
 
 private:
     std::optional<korrektur> gewaehlt() const;
@@ -83,6 +87,8 @@ private:
     std::vector<korrektur> moeglich_;  ///< one per row of the list
     struct {
         std::string spur, runde, ueberfahrt, ohne_pausen, teilen;
+        std::string was;          ///< the list shows
+        std::string war_im_ziel;  ///< of a lane that has all its laps
     } wort_;
 };
 

@@ -184,6 +184,25 @@ protected:
     auswertung& a = t.p.auswertung;
 };
 
+TEST_F(KorrekturImFenster, WerAlleRundenHatErfaehrtDassDieLetzteWegfaellt) {
+    t.starten("Runden", "2", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(1500, "1");  // too fast
+    t.runde_nach(1500, "12");
+    t.runde_nach(3000, "1");
+    t.rennende();
+    ASSERT_EQ(t.ergebnis(1).rundenzahl(), 2);
+    klick(a.Command_nachtragen);
+    const std::string weg = "seine letzte Runde fällt weg.";
+    a.nachtrag.cbo_nachtrag.waehlen(1);
+    EXPECT_FALSE(a.nachtrag.Label_nachtrag.text().ends_with(weg));
+    a.nachtrag.cbo_nachtrag.waehlen(0);
+    EXPECT_TRUE(a.nachtrag.Label_nachtrag.text().ends_with(weg));
+    klick(a.nachtrag.Command_eintragen);
+    EXPECT_EQ(t.ergebnis(1).rundenzahl(), 2);
+    EXPECT_EQ(t.ergebnis(1).gesamtzeit, 3000);
+}
+
 TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
     t.starten("Runden", "5", {1, 2});
     t.runde_nach(1000, "12");

@@ -94,7 +94,9 @@ QWidget* AuswertungFenster::nachtragsfeld() {
     oben->addWidget(spur);
     oben->addStretch(1);
     aufbau->addLayout(oben);
-    aufbau->addWidget(stil::leise(binder().label(n.Label_nachtrag, "Label_nachtrag")));
+    QLabel* was = stil::leise(binder().label(n.Label_nachtrag, "Label_nachtrag"));
+    was->setWordWrap(true);
+    aufbau->addWidget(was);
     aufbau->addWidget(binder().listenfeld(n.angebote, "angebote"), 1);
     auto* unten = new QHBoxLayout;
     unten->setSpacing(8);
