@@ -132,7 +132,7 @@ void auswertung::ansagen_setzen() {
         zeit_aus[i].tipp(wort_.gesamtzeit);
         Label_zeit[i].tipp(wort_.gesamtzeit);
     }
-    nachtrag.cbo_nachtrag.ansage(nachtrag.Label_nachtrag_spur.text());
+    nachtrag.ansagen();
     neues_ziel.ansage(Command3.text() + " " + Label_bis.text());
 }
 

@@ -90,6 +90,12 @@ void rundennachtrag::sprache(sprachliste& texte) {
     texte.text("Überfahrt bei", wort_.ueberfahrt).text("teilen in", wort_.teilen);
 }
 
+void rundennachtrag::ansagen() {
+    cbo_nachtrag.ansage(Label_nachtrag_spur.text());
+    Label_nachtrag.text(wort_.was);
+    angebote.ansage(wort_.was);
+}
+
 void rundennachtrag::fuellen(const rennergebnis& ergebnis, offene_runden offen, const spuren<double>& laengen,
                              const trennzeichen_tabelle& trennzeichen, int spur, int runde) {
     ergebnis_ = ergebnis;
@@ -135,7 +141,6 @@ void rundennachtrag::spur_zeigen(int runde) {
     const bool war_im_ziel =
         s != nullptr && ergebnis_.ziel && !ergebnis_.ziel->ist_zeit() && s->rundenzahl() >= ergebnis_.ziel->runden();
     Label_nachtrag.text(war_im_ziel ? wort_.was + ". " + wort_.war_im_ziel : wort_.was);
-    angebote.ansage(Label_nachtrag.text());
     if (s == nullptr || s->disqualifiziert) {
         return;
     }

@@ -65,6 +65,8 @@ public:
     const std::string& wort_runde() const { return wort_.runde; }
 
     void sprache(sprachliste& texte);
+    /// With the texts of the window's language.
+    void ansagen();
     /// Behind all others: a file of texts from before has no such line.
     sprachliste& ohne_pausen_nennen(sprachliste& texte) { return texte.text("ohne Pausen", wort_.ohne_pausen); }
     sprachliste& ziel_nennen(sprachliste& texte) {
