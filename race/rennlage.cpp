@@ -295,6 +295,12 @@ bool rennlage::pause_eben_verweigert() const {
     return seither >= 0 && seither < gesagt_ms && !um_.zustand.chaos_aktiv;
 }
 
+/// Who has driven all the laps first has won already where the race is over with that.
+bool rennlage::zeit_entscheidet() const {
+    const bool erster_gewinnt = um_.ist_rundenrennen() && um_.einst.zielmodus_erster && !um_.einst.runde_beenden;
+    return um_.param.auswertung_nach_rennen == sortier_modus::runden && !erster_gewinnt;
+}
+
 /// Once more only where a lap or a penalty has come since: the times are added up from the first lap on.
 int rennlage::vorn_nach_zeit_neben(int fuehrende) {
     zeitgrund neu{fuehrende, {}, {}, {}, {}};
@@ -307,9 +313,7 @@ int rennlage::vorn_nach_zeit_neben(int fuehrende) {
     }
     if (neu != zeitgrund_) {
         zeitgrund_ = neu;
-        vorn_ = um_.param.auswertung_nach_rennen == sortier_modus::runden
-                    ? vorn_nach_zeit(um_.zustand.konto, fuehrende, neu.dabei, neu.strafe)
-                    : 0;
+        vorn_ = zeit_entscheidet() ? vorn_nach_zeit(um_.zustand.konto, fuehrende, neu.dabei, neu.strafe) : 0;
     }
     return vorn_;
 }

@@ -41,6 +41,7 @@ private:
     void pause_zeigen();
     /// Who asks for another pause right behind one is told why none begins.
     bool pause_eben_verweigert() const;
+    bool zeit_entscheidet() const;
     int vorn_nach_zeit_neben(int fuehrende);
     void rekordzeile_zeigen(int fuehrende);
     void restrunden_zeigen();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "race/rueckstand.h"
 #include "race/rundenkonto.h"
 
 namespace tarvel {
@@ -21,10 +22,12 @@ int vorn_nach_zeit(const rundenkonto& konto, int fuehrende, const spuren<bool>& 
     int vorn = 0;
     zeit_ms vorsprung = 0;
     for (const int spur : alle_spuren) {
-        const int gemeinsam = fuehrende == 0 ? 0 : std::min(konto.runden(spur), konto.runden(fuehrende));
-        const bool in_der_runde = gemeinsam > 0 && konto.runden(fuehrende) - konto.runden(spur) <= 1 &&
-                                  konto.stempel(fuehrende, gemeinsam) <= konto.stempel(spur, gemeinsam);
-        if (!dabei[spur] || spur == fuehrende || !in_der_runde) {
+        if (fuehrende == 0 || !dabei[spur] || spur == fuehrende) {
+            continue;
+        }
+        const int gemeinsam = std::min(konto.runden(spur), konto.runden(fuehrende));
+        const rueckstand an_der_linie = rueckstand_an_der_linie(konto, spur, fuehrende, false);
+        if (gemeinsam <= 0 || !an_der_linie.bekannt || an_der_linie.runden > 0) {
             continue;
         }
         const zeit_ms seiner =

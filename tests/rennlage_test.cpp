@@ -341,6 +341,7 @@ TEST_F(Rennlage, WerNachGewerteterZeitVornIstStehtDaSolangeEinAndererFuehrt) {
         t.p.rennen.lage.nachfuehren();
         return t.bahn().ergebnisfolge.sichtbar() ? t.bahn().ergebnisfolge.text() : "";
     };
+    t.p.einst.zielmodus_erster = false;
     t.starten("Runden", "9", {1, 2, 3});
     t.runde_nach(1000, "1");
     t.runde_nach(600, "2");
@@ -367,7 +368,37 @@ TEST_F(Rennlage, WerNachGewerteterZeitVornIstStehtDaSolangeEinAndererFuehrt) {
     EXPECT_EQ(gesagt(), "") << "they have been lapped";
 }
 
+TEST_F(Rennlage, WerUeberrundetIstIstNichtNachZeitVorn) {
+    const auto gesagt = [this] {
+        t.p.rennen.lage.nachfuehren();
+        return t.bahn().ergebnisfolge.sichtbar();
+    };
+    t.p.einst.zielmodus_erster = false;
+    t.starten("Runden", "9", {1, 2});
+    t.runde_nach(1000, "1");
+    t.runde_nach(6200, "1");
+    t.runde_nach(1000, "2");  // came late, and is fast
+    t.runde_nach(5400, "1");
+    t.runde_nach(500, "2");
+    EXPECT_FALSE(gesagt()) << "ahead by time, but a lap behind over the line";
+}
+
+TEST_F(Rennlage, WoDerErsteAmZielGewinntSagtDieZeitNichts) {
+    for (const bool erster : {false, true}) {
+        t.p.einst.zielmodus_erster = erster;
+        t.starten("Runden", "9", {1, 2});
+        t.runde_nach(1000, "1");
+        t.runde_nach(600, "2");
+        t.runde_nach(7000, "1");
+        t.runde_nach(200, "2");
+        t.p.rennen.lage.nachfuehren();
+        EXPECT_EQ(t.bahn().ergebnisfolge.sichtbar(), !erster);
+        t.rennabbruch();
+    }
+}
+
 TEST_F(Rennlage, EinUeberholterIstNichtNachZeitVorn) {
+    t.p.einst.zielmodus_erster = false;
     fahren("Runden", "9");
     t.runde_nach(7000, "1");
     t.runde_nach(500, "2");
