@@ -63,7 +63,8 @@ void renn_zustand::uhr_nachruecken(zeit_ms um) {
 }
 
 void renn_zustand::pausen_nachmessen(double faktor) {
-    const zeit_ms messbar = std::max<zeit_ms>(pausen_messbar.value_or(std::numeric_limits<zeit_ms>::max()), 0);
+    constexpr zeit_ms alles = std::numeric_limits<zeit_ms>::max() / 2;  // more, and a pause below 0 would overflow
+    const zeit_ms messbar = std::max<zeit_ms>(pausen_messbar.value_or(alles), 0);
     const zeit_ms fest = std::max<zeit_ms>(pause_abzug - messbar, 0);
     const auto ab_messen = [faktor](zeit_ms& gemessen, zeit_ms ab) {
         gemessen = ab + std::llround(static_cast<double>(gemessen - ab) * faktor);
@@ -85,6 +86,12 @@ void renn_zustand::pausen_nachmessen(double faktor) {
         s.gezaehlt_bei += s.pause_im_stempel - vorher;
         konto.letzten_stempel_verschieben(nummer, s.pause_im_stempel - vorher);
     }
+}
+
+void renn_zustand::pausen_festhalten(zeit_ms stempel) {
+    const zeit_ms dahinter = pause.start + (chaos_aktiv ? 0 : pause.dauer) - stempel;
+    pausen_messbar = chaos_aktiv ? std::min<zeit_ms>(dahinter, 0)
+                                 : std::clamp<zeit_ms>(dahinter, 0, std::max<zeit_ms>(pause_abzug, 0));
 }
 
 }  // namespace tarvel

@@ -135,10 +135,7 @@ struct renn_zustand {
     /// Pauses were measured on a clock that runs `faktor` times as fast as was thought.
     void pausen_nachmessen(double faktor);
     /// But not what lies before this stamp, at which that clock was found anew.
-    void pausen_festhalten(zeit_ms stempel) {
-        const zeit_ms dahinter = pause.start + (chaos_aktiv ? 0 : pause.dauer) - stempel;
-        pausen_messbar = chaos_aktiv ? std::min<zeit_ms>(dahinter, 0) : std::clamp<zeit_ms>(dahinter, 0, pause_abzug);
-    }
+    void pausen_festhalten(zeit_ms stempel);
 
     /// What is left of the penalties of pauses is served from this stamp on.
     void strafreste_ab(zeit_ms stempel) {

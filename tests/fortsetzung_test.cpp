@@ -345,5 +345,17 @@ TEST_F(FortsetzungModell, RundenBleibenWieSieGefahrenWurden) {
     }
 }
 
+/// One who came home behind the end goes on with less than no pause; it is hardly longer on a slower clock.
+TEST(Rennzustand, EinePauseUnterNullBleibtBeimNachmessen) {
+    renn_zustand zustand;
+    zustand.pause_abzug = 10000;
+    zustand.pause.dauer = 10000;
+    zustand.spur[1].pause_abzug = -700;
+    zustand.pausen_nachmessen(0.9985);
+    EXPECT_NEAR(zustand.spur[1].pause_abzug, -700, 2);
+    EXPECT_EQ(zustand.pause_abzug, 9985);
+    EXPECT_EQ(zustand.pause.dauer, 9985);
+}
+
 }  // namespace
 }  // namespace tarvel
