@@ -126,14 +126,14 @@ TextAnzeige* Ergebniszeile::zusatz(steuerelement& element, const QString& name, 
 int Ergebniszeile::abstandsschrift() const {
     int px = INT_MAX;
     for (const TextAnzeige* einer : abstaende_) {
-        px = einer->isVisible() && !einer->text().isEmpty() ? std::min(px, einer->schriftPx()) : px;
+        px = einer->isVisible() && !einer->text().isEmpty() ? std::min(px, einer->schriftPx(0)) : px;
     }
     return px;
 }
 
 void Ergebniszeile::abstandsschrift_setzen(int px) {
     for (TextAnzeige* einer : abstaende_) {
-        einer->setSchriftPx(px);
+        einer->setHoechstPx(px);
     }
 }
 
