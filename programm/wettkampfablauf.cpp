@@ -120,8 +120,10 @@ void wettkampfablauf::wettkampf_beendet(const std::optional<std::vector<std::str
 
 std::string wettkampfablauf::frage(const wettkampf& w) const {
     const auto& wort = um_.txt.wettkampf;
-    return eingesetzt(wort.der_wettkampf, {w.wettkampf_name}) + " " + wort.vom + " " + w.beginn + " " +
-           wort.nicht_beendet;
+    const bool mit_stelle = wort.der_wettkampf.find("%1") != std::string::npos;  // not in an older language file
+    return (mit_stelle ? eingesetzt(wort.der_wettkampf, {w.wettkampf_name})
+                       : wort.der_wettkampf + " " + w.wettkampf_name) +
+           " " + wort.vom + " " + w.beginn + " " + wort.nicht_beendet;
 }
 
 std::optional<plattform::dreifache_antwort> wettkampfablauf::letzten_anbieten(bool noch_eines) {
