@@ -149,6 +149,8 @@ void fortsetzung::weiterfahren() {
     renn_zustand& zustand = um_.zustand;
     const zeit_ms fortsetz_zeit = um_.moment_lesen();  // as the end was read
     zustand.unterbrechung_abziehen(fortsetz_zeit - zustand.renn_ende_stempel);
+    zustand.unterbrechungen.push_back(
+        {zustand.renn_ende_stempel, fortsetz_zeit, daheim_, fortsetz_zeit - zustand.start_zeit - zustand.pause_abzug});
     um_.param.renndauer_ms = um_.param.renndauer_rest_ms;
     zustand.renn_ende_zeit = fortsetz_zeit + um_.param.renndauer_rest_ms - zustand.pause_abzug;
     zustand.pausen_bis_ende.reset();

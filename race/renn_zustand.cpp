@@ -27,6 +27,9 @@ void eigene_verschieben(renn_zustand& z, zeit_ms um) {
     verschieben({&z.start_zeit, &z.renn_ende_zeit, &z.renn_ende_stempel, &z.pause.start, &z.pause.schalter_zuletzt,
                  &z.pause.neustart_verlangt},
                 um);
+    for (rennpause& p : z.unterbrechungen) {
+        verschieben({&p.von, &p.bis}, um);
+    }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/spuren.h"
 #include "hardware/ereignisse.h"
@@ -97,6 +98,15 @@ struct pausen_zustand {
     zeit_ms zu_frueh_verlangt = zeitsperre::seit_immer;
 };
 
+/// A pause of the race, or the break between its end and the light with which it went on, by its stamps.
+struct rennpause {
+    zeit_ms von = 0;
+    zeit_ms bis = 0;
+    // of a break
+    spuren<bool> daheim = {};               ///< for these lanes it began with their last crossing
+    std::optional<zeit_ms> uhr_stand = {};  ///< on the race's clock, as it went on
+};
+
 /// The record of the running race. Reset at each race.
 struct renn_zustand {
     spuren<spur_zustand> spur;
@@ -109,12 +119,13 @@ struct renn_zustand {
     /// Of that sum, what a better knowledge of the clock still changes: the last so many ms; none is all of it. Below 0
     /// in a pause whose first so many ms it leaves alone.
     std::optional<zeit_ms> pausen_messbar = {};
-    zeit_ms renn_ende_zeit = 0;     ///< `start_zeit` + duration
-    zeit_ms renn_ende_stempel = 0;  ///< stamp at the moment the race was ended
-    int fuehrungsrunden = 0;        ///< most laps that any lane has reached
-    int nachlauf_minuten = 0;       ///< minutes of the run-on so far
-    dauer_ms ampel_takt{1500};      ///< last step of the start light, for this start
-    int ziele_anzahl = 0;           ///< lanes that are home, unused ones included
+    zeit_ms renn_ende_zeit = 0;                   ///< `start_zeit` + duration
+    zeit_ms renn_ende_stempel = 0;                ///< stamp at the moment the race was ended
+    std::vector<rennpause> unterbrechungen = {};  ///< the breaks
+    int fuehrungsrunden = 0;                      ///< most laps that any lane has reached
+    int nachlauf_minuten = 0;                     ///< minutes of the run-on so far
+    dauer_ms ampel_takt{1500};                    ///< last step of the start light, for this start
+    int ziele_anzahl = 0;                         ///< lanes that are home, unused ones included
     bool rennen_beendet = true;
     bool fortgesetzt = false;         ///< the race goes on from an earlier result
     bool fortsetzung_wartet = false;  ///< and its light has not gone green yet

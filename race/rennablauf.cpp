@@ -65,6 +65,7 @@ void rennablauf::rennen_zuruecksetzen() {
     zustand.pause_abzug = 0;
     zustand.pausen_bis_ende.reset();
     zustand.pausen_messbar.reset();
+    zustand.unterbrechungen.clear();
     zustand.fortgesetzt = false;
     zustand.fortsetzung_wartet = false;
     zustand.umgesetzt = false;

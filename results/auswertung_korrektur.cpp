@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "core/text.h"
 #include "core/zahleneingabe.h"
@@ -181,11 +182,19 @@ offene_runden auswertung::offene_runden_lesen() const {
         hergang_lesen(r_.fenster.fuehrung == nullptr ? std::string() : r_.fenster.fuehrung->bisher());
     const hergangsworte in_worten = hergang_in_worten ? hergang_in_worten() : hergangsworte();
     offene_runden offen;
+    offen.pausen = um_.zustand.unterbrechungen;
+    std::optional<zeit_ms> pause_seit;
     for (const geschehen& g : hergang.alle) {
         if (g.ist_befehl("umsetzen")) {
             offen.ueberfahrten.clear();  // were of other drivers
+        } else if (g.was == vorgang::pause) {
+            pause_seit = g.stempel;
         } else if (g.was == vorgang::weiter) {
             offen.pausen.push_back({g.stempel - g.wert, g.stempel});
+            pause_seit.reset();
+        } else if (g.was == vorgang::ende && pause_seit) {
+            offen.pausen.push_back({*pause_seit, g.stempel});
+            pause_seit.reset();
         } else if (g.ist_abgelehnt() && kann_runde_sein(g.grund())) {
             offen.ueberfahrten.push_back({g.spur, g.stempel, g.seit_gruen, in_worten.von(g)});
         }

@@ -17,6 +17,15 @@ zeit_ms pause_zwischen(const std::vector<rennpause>& pausen, zeit_ms von, zeit_m
     return summe;
 }
 
+/// Where the lane's lap began that it was in at the stamp: at its last crossing, or with the light behind that.
+zeit_ms rundenbeginn(int spur, const std::vector<rennpause>& pausen, zeit_ms letzte, zeit_ms stempel) {
+    zeit_ms beginn = letzte;
+    for (const rennpause& p : pausen) {
+        beginn = p.daheim[spur] && p.bis <= stempel ? std::max(beginn, p.bis) : beginn;
+    }
+    return beginn;
+}
+
 }  // namespace
 
 std::optional<korrektur> ueberfahrt_nachtragen(const rennergebnis::spur& s, const abgelehnte_ueberfahrt& u,
@@ -28,7 +37,8 @@ std::optional<korrektur> ueberfahrt_nachtragen(const rennergebnis::spur& s, cons
     }
     const zeit_ms von = (dahinter - 1)->stempel;
     const bool am_ende = dahinter == s.runden.end();
-    zeit_ms pause = pause_zwischen(pausen, von, u.stempel);
+    const zeit_ms beginn = rundenbeginn(s.nummer, pausen, von, u.stempel);
+    zeit_ms pause = beginn - von + pause_zwischen(pausen, beginn, u.stempel);
     if (!am_ende) {
         pause = std::min(pause, dahinter->pause.value_or(0));
         if (u.stempel - von - pause >= dahinter->zeit) {
@@ -118,11 +128,19 @@ void rundennachtrag::fuellen(const rennergebnis& ergebnis, offene_runden offen, 
 /// As the log tells it, and as the race's clock, which stands in a pause, would have: nobody has seen the other one.
 std::string rundennachtrag::moment(const abgelehnte_ueberfahrt& u) const {
     const char komma = trennzeichen_[1].empty() ? ',' : trennzeichen_[1].front();
-    const zeit_ms gestanden = pause_zwischen(offen_.pausen, u.stempel - u.seit_gruen, u.stempel);
+    const zeit_ms stand = uhr_stand(u);
     const std::string im_protokoll = hergang_zeit(u.seit_gruen, 3, komma);
-    return gestanden == 0
-               ? im_protokoll
-               : im_protokoll + " (" + wort_.ohne_pausen + " " + hergang_zeit(u.seit_gruen - gestanden, 3, komma) + ")";
+    return stand == u.seit_gruen ? im_protokoll
+                                 : im_protokoll + " (" + wort_.ohne_pausen + " " + hergang_zeit(stand, 3, komma) + ")";
+}
+
+zeit_ms rundennachtrag::uhr_stand(const abgelehnte_ueberfahrt& u) const {
+    rennpause zuletzt{.bis = u.stempel - u.seit_gruen};
+    for (const rennpause& p : offen_.pausen) {
+        zuletzt = p.uhr_stand && p.bis <= u.stempel ? p : zuletzt;
+    }
+    return zuletzt.uhr_stand.value_or(0) + u.stempel - zuletzt.bis -
+           pause_zwischen(offen_.pausen, zuletzt.bis, u.stempel);
 }
 
 void rundennachtrag::anbieten(const korrektur& k, const rennergebnis::spur& s, const std::string& was) {

@@ -19,16 +19,10 @@ struct abgelehnte_ueberfahrt {
     std::string grund;
 };
 
-/// A pause of the race, by its stamps.
-struct rennpause {
-    zeit_ms von = 0;
-    zeit_ms bis = 0;
-};
-
 /// What the log of the race knows of the laps that could have been counted.
 struct offene_runden {
     std::vector<abgelehnte_ueberfahrt> ueberfahrten;  ///< in order of time
-    std::vector<rennpause> pausen;
+    std::vector<rennpause> pausen;                    ///< and the breaks
 };
 
 /// The crossing as a lap that is added to the lane; none if it lies before the lane's first one, or cannot be a lap.
@@ -79,6 +73,7 @@ private:
     void spur_zeigen(int runde);
     void anbieten(const korrektur& k, const rennergebnis::spur& s, const std::string& was);
     std::string moment(const abgelehnte_ueberfahrt& u) const;
+    zeit_ms uhr_stand(const abgelehnte_ueberfahrt& u) const;
     std::string zeit(zeit_ms dauer) const { return zeit_formatieren(dauer, true, trennzeichen_); }
 
     rennergebnis ergebnis_;

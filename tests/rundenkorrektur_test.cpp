@@ -277,6 +277,40 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
     EXPECT_EQ(test::nachrechnen(t.p, t.maschine), "");
 }
 
+TEST_F(KorrekturImFenster, HinterDemFortsetzenZaehltWasDasRennenGezaehltHaette) {
+    a.spurwechsel.gesetzt(false);
+    t.starten("Runden", "2", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(2500, "1");
+    t.runde_nach(2300, "2");
+    t.runde_nach(200, "1");
+    t.maschine.laufen(60000);
+    a.neues_ziel.eingeben("9");
+    a.Command3.klicken();
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(7100);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(10000);
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(7000);
+    t.runde_nach(700, "12");  // too fast: lane 2 had been under way for 200 ms, lane 1 was home
+    t.bahn().Command3.klicken();
+    t.maschine.laufen(3000);
+    t.rennende();
+    a.neues_ziel.eingeben("20");
+    a.Command3.klicken();  // nobody comes round any more
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(7100);
+    t.rennende();
+    klick(a.Command_nachtragen);
+    for (const auto& [spur, zeit] : {std::pair(2, std::string("1,000")), std::pair(1, std::string("0,799"))}) {
+        a.nachtrag.cbo_nachtrag.waehlen(spur - 1);
+        const std::string angeboten = a.nachtrag.angebote.zeilen().front();
+        EXPECT_NE(angeboten.find("(ohne Pausen 0:06,798), zu kurz: " + zeit + " s"), std::string::npos) << angeboten;
+        EXPECT_TRUE(angeboten.ends_with("→  00:0" + zeit)) << angeboten;
+    }
+}
+
 TEST_F(KorrekturImFenster, FortgesetztGiltDasKorrigierte) {
     std::mt19937 zufall(3);
     a.spurwechsel.gesetzt(false);
