@@ -96,6 +96,25 @@ TEST_F(Abgebrochen, AuchEinRennfensterOhneGruenDazwischenNimmtEsNicht) {
     EXPECT_TRUE(t.p.rennen.zustand.chaos_aktiv);
 }
 
+TEST_F(Abgebrochen, WasNichtMehrGehtSetztAuchDenAblaufNichtFort) {
+    t.p.einst.w_autom = true;
+    beginnen(wettkampf_modus::rotation, 3, {1, 2, 3});
+    ASSERT_TRUE(abend.rennen_starten() && abend.automatik_an());
+    t.bahn().Command1.klicken();
+    runden_fahren(1);
+    t.p.rennprotokoll.sichern();
+    std::string name = t.p.rennprotokoll.dateiname();
+    std::replace(name.begin(), name.end(), '\\', '/');
+    t.maschine.datei_schreiben(name, test::mit_anderer_runde(protokoll_von(t)));
+    nur_eingaben = false;
+    t.maschine.antwort = true;
+    programm neu(t.maschine.dienste());
+    neu.starten();
+    EXPECT_EQ(letzte_meldung(), neu.txt.wettkampf.nicht_fortsetzbar);
+    ASSERT_TRUE(neu.wettkampfabend.wettkampf_aktiv());
+    EXPECT_FALSE(neu.wettkampfabend.automatik_an()) << "nobody has started its race";
+}
+
 /// The outage comes in the race, or in its result.
 class Weggelegt : public Abgebrochen, public testing::WithParamInterface<bool> {};
 INSTANTIATE_TEST_SUITE_P(RennenOderErgebnis, Weggelegt, testing::Bool());
