@@ -13,6 +13,7 @@ constexpr zeit_ms ampel_still_ms = 3000;  // and a race waits for its light this
 constexpr zeit_ms ohne_luecke_ms = 200;   // between two records of a unit that answers
 constexpr zeit_ms nach_luecke_ms = 1000;  // what has waited comes in the time that it waited, and a little
 constexpr zeit_ms stau_max_ms = 60000;    // and no buffer holds more
+constexpr zeit_ms gehorcht_ms = 1000;     // on a slow line its statuses show so late that its cars have been stopped
 
 /// What a car's passage at a sensor means; cars 7 and 8 have no lane.
 ereignis_art cu_art(int sensor, int fahrzeug) {
@@ -42,9 +43,8 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     cu_tankentscheidung_->bei_tick = [this] { cu_tankentscheidung_tick(); };
     cu_alter_rz_start_->bei_tick = [this] { cu_alter_rz_start_tick(); };
     cu_ende_timer_->bei_tick = [this] {
-        cu_ende_timer_->aus();
-        if (!im_startzustand()) {
-            starttaste();
+        if (im_startzustand() || anhalten()) {
+            cu_ende_timer_->aus();
         }
     };
 }
@@ -106,6 +106,16 @@ geraeteampel* control_unit::ampel() {
 
 void control_unit::starttaste() {
     leitung_.senden(cu::starttaste);
+}
+
+bool control_unit::anhalten() {
+    const zeit_ms jetzt = uhr_.jetzt();
+    if (angehalten_ && jetzt - *angehalten_ < gehorcht_ms) {
+        return false;
+    }
+    angehalten_ = jetzt;
+    starttaste();
+    return true;
 }
 
 void control_unit::cu_auswertung_tick() {
@@ -229,6 +239,7 @@ void control_unit::startzustand_auswerten(bool steht) {
         cu_chaos_durch_box_ = false;
         return;
     }
+    angehalten_.reset();
     if (um_.einst.cu.cu_sondermodus && !stand_verbraucht_ && um_.rennen.rennen_ruht()) {
         um_.rennen.rennen_vorbereiten();
     }
@@ -319,7 +330,7 @@ void control_unit::rennen_bereit() {
     cu_ende_timer_->aus();
     const bool nach_ausfall = um_.rennen.pause();  // then it is told nothing before the director goes on
     if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt && !nach_ausfall) {
-        starttaste();  // stops the cars; the second press starts the light
+        anhalten();  // the second press starts the light
     }
 }
 
@@ -380,7 +391,7 @@ void control_unit::cu_werte_senden(int spur, int platz) {
 void control_unit::schalten(const schaltung& befehl) {
     // its cars know no track power: what stops them in a pause is its start key
     if (befehl.was == schaltung::ausgang::chaosanzeige && befehl.an && cu_startzustand_ == start::faehrt) {
-        starttaste();
+        anhalten();
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/renn_parameter.h"
@@ -95,6 +96,8 @@ private:
     void cu_tank_auswerten(const cu::status& status);
     void startzustand_auswerten(bool steht);
     void starttaste();
+    /// Presses it, unless that has only just been done: another press would let the cars go. True if it has.
+    bool anhalten();
     /// Somebody has pressed the start key already: a reset would throw him out.
     bool cu_nicht_zuruecksetzen() const { return im_startzustand() && !stand_verbraucht_; }
     void rennbetrieb(bool an);
@@ -125,13 +128,14 @@ private:
     int gezeigte_tankgroesse_ = 0;  ///< litres that the levels were told for; 0: they are to be told again
     spuren<bool> cu_boxenstatus_;
     start cu_startzustand_ = start::unbekannt;
-    bool gewuenscht_ = false;        ///< open, or to be opened as soon as it is there
-    bool im_rennfenster_ = false;    ///< the race window is open
-    bool rennen_laeuft_ = false;     ///< between its start and its end
-    bool nach_ausfall_ = false;      ///< the race has gone on behind one
-    bool neustart_wartet_ = false;   ///< the start key was pressed, the unit's light runs
-    bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start
-    int anschluss_ = 0;              ///< port that was opened last: another one has another unit
+    std::optional<zeit_ms> angehalten_;  ///< when the start key was pressed to stop the cars, until a status shows it
+    bool gewuenscht_ = false;            ///< open, or to be opened as soon as it is there
+    bool im_rennfenster_ = false;        ///< the race window is open
+    bool rennen_laeuft_ = false;         ///< between its start and its end
+    bool nach_ausfall_ = false;          ///< the race has gone on behind one
+    bool neustart_wartet_ = false;       ///< the start key was pressed, the unit's light runs
+    bool stand_verbraucht_ = false;      ///< the start state is one that prepares no race: it has ended one, or a start
+    int anschluss_ = 0;                  ///< port that was opened last: another one has another unit
     bool zaehlerbox_bereit_ = false;
     bool cu_chaos_durch_box_ = false;
 };

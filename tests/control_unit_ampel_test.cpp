@@ -210,6 +210,23 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
 }
 
+TEST_F(ControlUnitRennen, AufEinerLangsamenLeitungHaeltKeinZweiterDruckAn) {
+    for (const bool gehoert : {true, false}) {
+        starten(t.p.txt.text_runden, "10", {1});
+        const int vorher = geschrieben("T2P$");
+        t.taste("c");
+        t.p.rennen.befehle.rennen_beenden();
+        t.maschine.laufen(500);
+        EXPECT_EQ(geschrieben("T2P$"), vorher + 1) << "another one would let the cars go";
+        if (gehoert) {
+            status(true);
+        }
+        t.maschine.laufen(3000);
+        EXPECT_EQ(geschrieben("T2P$"), vorher + (gehoert ? 1 : 2)) << "the cars stand";
+        t.p.auswertung.Command5.klicken();
+    }
+}
+
 TEST_F(ControlUnitRennen, EineAmpelDieSchonLiefWirdNachDerFristNochEinmalGestartet) {
     t.p.einst.chaosampel_an = true;
     starten(t.p.txt.text_runden, "10", {1});
