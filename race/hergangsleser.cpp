@@ -184,6 +184,19 @@ void hergangsleser::entscheidung(std::string_view text) {
     }
     einordnen(g);
     h_.alle.push_back(std::move(g));
+    ankunft(h_.alle.back());
+}
+
+/// Behind the end the race notes no finish any more: there it is the lap that the end has cut short, or that reaches
+/// the target.
+void hergangsleser::ankunft(const geschehen& runde) {
+    constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment later
+    if (!runde.nach_ende || (runde.stempel < ende_stempel_ - takt_ms && !ist_letzte(runde.nummer))) {
+        return;
+    }
+    geschehen angekommen{.was = vorgang::ziel, .spur = runde.spur, .fahrer = runde.fahrer, .zeit = runde.zeit};
+    angekommen.stempel = runde.stempel;
+    h_.alle.push_back(std::move(angekommen));
 }
 
 void hergangsleser::einordnen(geschehen& g) {
@@ -228,6 +241,7 @@ void hergangsleser::einordnen(geschehen& g) {
             weiter_.reset();
             endet_ = true;
             zu_ende_ = true;
+            ende_stempel_ = g.stempel;
             break;
         default:
             break;

@@ -39,6 +39,7 @@ private:
     void kopfzeile(std::string_view text);
     void entscheidung(std::string_view text);
     void einordnen(geschehen& g);
+    void ankunft(const geschehen& runde);
     void strafe(const geschehen& g);
     void leer(geschehen& g) const;
     /// `aussen`: it does not lie in another, where answers look alike.
@@ -81,6 +82,7 @@ private:
     std::optional<zeit_ms> verlangt_;    ///< when another was asked for last
     spuren<std::int64_t> zeitstrafe_{};  ///< of the driver in s, index as `geschehen::fahrer`; ms are added to each lap
     bool zu_ende_ = false;               ///< what is counted now came behind the end
+    zeit_ms ende_stempel_ = 0;           ///< of that
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 

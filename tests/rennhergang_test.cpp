@@ -193,6 +193,8 @@ TEST_F(Rennhergang, GruendeInWorten) {
                              "0:02,000 Strafe: 5 s ohne Strom", "0:03,000 Sperre nach der Pause bis 0:13,4",
                              "0:08,600 Gerät meldet Rundenzählung (2-mal)", "0:09,400 Gerät meldet Rundenzählung"}));
     std::vector<std::string> zweite = von(h, 2);
+    EXPECT_EQ(zweite.back(), "0:19,520 im Ziel");
+    zweite.pop_back();
     EXPECT_EQ(
         zweite.back(),
         "0:19,520 Runde 14: 5,010 s, darin 0,010 s Zuschlag (1 ms je Sekunde Zeitstrafe), noch nach dem Ende gezählt");
