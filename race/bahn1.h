@@ -121,6 +121,10 @@ struct bahn1 {
         std::string fruehstart;
         /// What it costs; index is the action, "%1" are seconds.
         std::array<std::string, 6> fruehstart_folgen;
+        std::string letzte_runde;  ///< captions of the displays of a lane's times
+        std::string beste_runde;
+        std::string sektor;  ///< in front of its number
+        std::string topspeed;
         std::string bestzeit;  ///< in front of the time
         std::string cu_start;  ///< what is to do at the device, for the start
         std::string cu_pause;  ///< and in a pause

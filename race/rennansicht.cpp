@@ -237,6 +237,8 @@ void rennansicht::anzeigen_leeren() {
         bahn.zaehler[spur].schriftfarbe(um_.einst.farben_schrift[2]);
         bahn.lrunde[spur].text(leere_zeit);
         bahn.brunde[spur].text(leere_zeit);
+        bahn.Label_lrunde[spur].text(bahn.wort.letzte_runde);
+        bahn.Label_brunde[spur].text(bahn.wort.beste_runde);
         bahn.straflabel[spur].sichtbar(false);
         bahn.t_liste.at(feld_index(spur)).leeren();
         bahn.bahnshape[spur].randfarbe(std::nullopt);
@@ -268,8 +270,8 @@ void rennansicht::stand_zeigen() {
             zaehler_verkleinern(bahn, spur, 1000);
         }
         if (runden > 0) {
-            kurz_zeigen(bahn.lrunde[spur], konto.rundenzeit(spur, runden), trennzeichen);
-            kurz_zeigen(bahn.brunde[spur], konto.beste(spur), trennzeichen);
+            letzte_runde_zeigen(bahn, spur, konto.rundenzeit(spur, runden), trennzeichen);
+            beste_runde_zeigen(bahn, spur, konto.beste(spur), trennzeichen);
         }
         liste& rundenliste = bahn.t_liste.at(feld_index(spur));
         for (int runde = 0; rundenliste.sichtbar() && runde <= runden; ++runde) {

@@ -53,6 +53,8 @@ std::string rennansicht::ziel_text(const rennziel& ziel) const {
 
 void rennansicht::ansagen_setzen() {
     bahn1& bahn = um_.bahn;
+    bahn.wort.letzte_runde = bahn.Label_lrunde[1].text();  // sectors may take their place
+    bahn.wort.beste_runde = bahn.Label_brunde[1].text();
     for (const int spur : alle_spuren) {
         const std::size_t index = feld_index(spur);
         const auto ansagen = [&](steuerelement& element, const std::string& was) {
@@ -139,7 +141,9 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     return texte.text("noch gesperrt", bahn.wort.noch_gesperrt)
         .text("mit Strafe", bahn.wort.mit_strafe)
         .text("erst ab", bahn.wort.erst_ab)
-        .text("Nach gewerteter Zeit vorn:", bahn.wort.nach_zeit_vorn);
+        .text("Nach gewerteter Zeit vorn:", bahn.wort.nach_zeit_vorn)
+        .text("Sektor", bahn.wort.sektor)
+        .text("Topspeed", bahn.wort.topspeed);
 }
 
 }  // namespace tarvel

@@ -10,6 +10,16 @@ void kurz_zeigen(steuerelement& label, zeit_ms zeit, const trennzeichen_tabelle&
     label.text(zeit_formatieren(zeit, false, trennzeichen), minuten_davor(zeit, trennzeichen));
 }
 
+void letzte_runde_zeigen(bahn1& bahn, int spur, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
+    kurz_zeigen(bahn.lrunde[spur], zeit, trennzeichen);
+    bahn.Label_lrunde[spur].text(bahn.wort.letzte_runde);
+}
+
+void beste_runde_zeigen(bahn1& bahn, int spur, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
+    kurz_zeigen(bahn.brunde[spur], zeit, trennzeichen);
+    bahn.Label_brunde[spur].text(bahn.wort.beste_runde);
+}
+
 void kurz_auflisten(liste& zeilen, int runde, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen) {
     const std::string nummer = " " + std::to_string(runde) + ". ";
     const std::string kurz = zeit_formatieren(zeit, false, trennzeichen);
@@ -24,7 +34,7 @@ void rundenanzeige::runde_melden(int spur, zeit_ms zeit) {
         if (konto.beste_werten(spur, konto.rundenzeit(spur, runde)) && runde > um_.einst.snd_beste_runde) {
             um_.sounds.spielen(sound::beste_runde + spur);
         }
-        kurz_zeigen(um_.bahn.lrunde[spur], zeit, um_.einst.trennzeichen);
+        letzte_runde_zeigen(um_.bahn, spur, zeit, um_.einst.trennzeichen);
         beste_zeigen(spur);
     }
     liste& runden = um_.bahn.t_liste.at(feld_index(spur));
@@ -35,7 +45,7 @@ void rundenanzeige::runde_melden(int spur, zeit_ms zeit) {
 }
 
 void rundenanzeige::beste_zeigen(int spur) {
-    kurz_zeigen(um_.bahn.brunde[spur], um_.zustand.konto.beste(spur), um_.einst.trennzeichen);
+    beste_runde_zeigen(um_.bahn, spur, um_.zustand.konto.beste(spur), um_.einst.trennzeichen);
 }
 
 }  // namespace tarvel

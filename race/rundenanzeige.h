@@ -8,6 +8,9 @@ namespace tarvel {
 
 /// "23,456", and from a minute on with the minutes drawn in front of that.
 void kurz_zeigen(steuerelement& label, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
+/// The lane's last or best lap in its display, which says so: a sector may have stood there.
+void letzte_runde_zeigen(bahn1& bahn, int spur, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
+void beste_runde_zeigen(bahn1& bahn, int spur, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 /// The same as a row of a lane's laps.
 void kurz_auflisten(liste& zeilen, int runde, zeit_ms zeit, const trennzeichen_tabelle& trennzeichen);
 

@@ -18,11 +18,14 @@ constexpr ereignis_art art_von(int spur, int sensor) {
     return erste_zwischenzeit + sensoren_je_spur * (spur - 1) + sensor - 1;
 }
 
-void anzeigen_in(bahn1& bahn, int spur, sektor_ort ort, const std::string& text, const std::string& davor = {}) {
+void anzeigen_in(bahn1& bahn, int spur, sektor_ort ort, const std::string& was, const std::string& text,
+                 const std::string& davor = {}) {
     if (ort == sektor_ort::klein) {
         bahn.brunde[spur].text(text, davor);
+        bahn.Label_brunde[spur].text(was);
     } else if (ort == sektor_ort::gross) {
         bahn.lrunde[spur].text(text, davor);
+        bahn.Label_lrunde[spur].text(was);
     }
 }
 
@@ -132,15 +135,15 @@ void sektoren::fahrer_umsetzen(const spuren<int>& herkunft) {
 }
 
 void sektoren::anzeigen(int spur, int sektor, zeit_ms zeit) {
-    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, zeit_formatieren(zeit, false, um_.einst.trennzeichen),
-                minuten_davor(zeit, um_.einst.trennzeichen));
+    anzeigen_in(um_.bahn, spur, um_.einst.sektor_anzeige, um_.bahn.wort.sektor + " " + std::to_string(sektor),
+                zeit_formatieren(zeit, false, um_.einst.trennzeichen), minuten_davor(zeit, um_.einst.trennzeichen));
     std::string text = sektor_tempo_text(um_.einst.sektor_laenge.at(static_cast<std::size_t>(sektor))[spur], zeit,
                                          um_.einst.real_speed ? std::optional(um_.param.massstab) : std::nullopt);
     if (text.empty()) {
         return;
     }
     text += um_.bahn.zeilenansicht() ? " k" : " k/h";
-    anzeigen_in(um_.bahn, spur, um_.einst.topspeed_anzeige, text);
+    anzeigen_in(um_.bahn, spur, um_.einst.topspeed_anzeige, um_.bahn.wort.topspeed, text);
 }
 
 void sektoren::letzten_sektor_speichern(int spur, int zeile, zeit_ms stempel, zeit_ms pause) {

@@ -22,6 +22,7 @@ TEST_F(Sektoren, SektorenErgebenDieRundeAuchOhneDenDritten) {
     fahren();
     t.runde_nach(3000, "u");
     EXPECT_EQ(t.bahn().lrunde[1].text(), "03,000");
+    EXPECT_EQ(t.bahn().Label_lrunde[1].text() + ", " + t.bahn().Label_brunde[1].text(), "Sektor 1, beste Runde");
     EXPECT_EQ(t.bahn().brunde[1].text(), "00:00:000");
     EXPECT_EQ(t.maschine.sounds, std::vector<std::string>{"sound\\sd.wav"});
     t.runde_nach(2500, "j");
@@ -30,6 +31,7 @@ TEST_F(Sektoren, SektorenErgebenDieRundeAuchOhneDenDritten) {
     EXPECT_EQ(zeit(2), 2500);
     EXPECT_EQ(zeit(3), 2000);
     EXPECT_EQ(t.bahn().lrunde[1].text(), "07,500") << "the lap takes its place back";
+    EXPECT_EQ(t.bahn().Label_lrunde[1].text(), "letzte Runde");
     t.p.einst.sektor_an = {true, true, false, false};
     t.runde_nach(3000, "u");
     t.runde_nach(1000, "j");
@@ -83,6 +85,7 @@ TEST_F(Sektoren, TempoNachLaengeUndMassstab) {
     t.p.einst.sektor_laenge[2][1] = "0";
     t.runde_nach(1600, "u");
     EXPECT_EQ(t.bahn().brunde[1].text(), "11,25 k/h");
+    EXPECT_EQ(t.bahn().Label_brunde[1].text(), "Topspeed");
     EXPECT_EQ(t.bahn().lrunde[1].text(), "01,600");
     t.runde_nach(1600, "j");
     EXPECT_EQ(t.bahn().brunde[1].text(), "0,00 k/h");
