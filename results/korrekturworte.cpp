@@ -11,7 +11,8 @@ namespace tarvel {
 
 sprachliste& korrekturworte::eintragen(sprachliste& texte) {
     texte.text("Korrektur: %1", neu_).text("Korrektur zurückgenommen: %1", zurueck_);
-    texte.text("Korrektur gilt wieder: %1", wieder_).text("Spur %1, Runde %2 gelöscht", arten_[0]);
+    texte.text("Korrektur gilt wieder: %1", wieder_)
+        .text("Spur %1, Runde %2 gelöscht (ihre Zeit zählt zur Runde davor)", arten_[0]);
     texte.text("Spur %1, Runde %2: Überfahrt nachgetragen (%3)", arten_[1]);
     return texte.text("Spur %1, Runde %2 geteilt (%3)", arten_[2]).text("Spur %1, Restmeter %2", arten_[3]);
 }
