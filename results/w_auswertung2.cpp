@@ -379,36 +379,4 @@ std::string w_auswertung2::blatt_datei() const {
                       (endet_auf(name, ".csv") ? name.substr(0, name.size() - 4) : name) + " " + was);
 }
 
-void w_auswertung2::bedienung_einrichten() {
-    const bool frei = !korrektur.offen() && !Frame7.sichtbar();
-    const bool da = tabelle_.has_value();
-    const bool mit_rennen = da && tabelle_->typ == ergebnis_typ::einzelrennen && !tabelle_->addiert;
-    const bool als_tabelle = blick_ == blick::tabelle;
-    for (steuerelement* element : std::initializer_list<steuerelement*>{&Command19[0], &Command19[1], &Command19[2],
-                                                                        &Dir1, &File1, &Command4, &Command2}) {
-        element->aktiviert(frei);
-    }
-    for (befehl* knopf : {&Command3, &Command20, &Command16}) {
-        knopf->aktiviert(frei && da);
-    }
-    Command18.aktiviert(frei && da && als_tabelle);
-    Command_zurueck.aktiviert(frei && da && korrekturen_.hat_letzte());
-    Command_wieder.aktiviert(frei && da && korrekturen_.hat_naechste());
-    Command22.aktiviert(da && frei);
-    auswertung_schoen.aktiviert(!korrektur.offen());
-    for (std::size_t i = 0; i < Command_blick.size(); ++i) {
-        const auto ziel = static_cast<blick>(i);
-        const bool moeglich = ziel == blick::tabelle || (ziel == blick::vergleich ? da : mit_rennen);
-        Command_blick.at(i).aktiviert(frei && moeglich && blick_ != ziel);
-    }
-    const bool ein_rennen = blick_ == blick::blatt || blick_ == blick::verlauf;
-    Label_rennen.sichtbar(ein_rennen && cbo_rennen.eintraege().size() > 1);
-    cbo_rennen.sichtbar(Label_rennen.sichtbar());
-    Command_drucken.aktiviert(frei && da);
-    Command_pdf.aktiviert(frei && da);
-    Command_urkunden.aktiviert(frei && (mit_rennen || (da && tabelle_->typ != ergebnis_typ::einzelrennen)));
-    Frame_klassen.sichtbar(Check1.front().sichtbar() && frei);
-    korrekturzeile.sichtbar(da && als_tabelle && frei);
-}
-
 }  // namespace tarvel
