@@ -121,6 +121,39 @@ TEST_F(Tanken, StromstrafeGibtDieRundeZurueck) {
     EXPECT_EQ(t.runden(1), 2) << "empty again: the next lap is taken at once";
 }
 
+TEST_F(Tanken, StromstrafeRuhtInDerPause) {
+    t.p.einst.chaosampel_an = false;
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    t.p.einst.tank_strafzeit = 10s;
+    fahren(1);
+    t.runde_nach(8000, "1");
+    ASSERT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.maschine.laufen(4000);
+    t.taste("c");
+    t.maschine.laufen(30000);
+    EXPECT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.taste("c");
+    EXPECT_FALSE(strom(1));
+    t.maschine.laufen(5900);
+    EXPECT_TRUE(t.spur(1).tank_strafe_aktiv);
+    t.maschine.laufen(200);
+    EXPECT_FALSE(t.spur(1).tank_strafe_aktiv);
+    EXPECT_TRUE(strom(1));
+}
+
+TEST_F(Tanken, RennendeInDerStromstrafeGibtDieRundeZurueck) {
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    fahren(1);
+    t.runde_nach(8000, "1");
+    ASSERT_EQ(t.runden(1), 0);
+    t.rennende();
+    EXPECT_EQ(t.p.auswertung.runden_aus[0].text(), "1");
+    t.maschine.sounds.clear();
+    t.maschine.laufen(60000);
+    EXPECT_EQ(t.runden(1), 1) << "nothing changes behind the result";
+    EXPECT_TRUE(t.maschine.sounds.empty());
+}
+
 TEST_F(Tanken, StrafeInRundeEinsVerschlechtertDieBesteNicht) {
     t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
     t.p.einst.tank_strafzeit = 10s;
