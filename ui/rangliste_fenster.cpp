@@ -15,7 +15,8 @@ namespace tarvel::ui {
 namespace {
 
 constexpr int zeichen_je_zeile = 47;
-constexpr int zeilen_mindestens = 9;  // to be seen at once
+constexpr int zeilen_mindestens = 9;  // to be seen at once,
+constexpr int zeilen_viele = 16;      // and where there are as many drivers
 constexpr double schrift_min_px = 15;
 constexpr double zeilenhoehe = 1.5;  // of the size of the letters
 constexpr int einzug_px = 8;
@@ -63,7 +64,8 @@ void RanglisteFenster::resizeEvent(QResizeEvent* ereignis) {
 }
 
 void RanglisteFenster::skalieren() {
-    const double hoechstens = std::max(schrift_min_px, height() * 0.8 / (zeilen_mindestens * zeilenhoehe));
+    const int zeilen = std::clamp(zeilen_->model()->rowCount(), zeilen_mindestens, zeilen_viele);
+    const double hoechstens = std::max(schrift_min_px, height() * 0.8 / (zeilen * zeilenhoehe));
     schrift_.setPixelSize(
         namen_einpassen(*zeilen_, logik_.List_name, logik_.spalten,
                         {static_cast<double>(zeilen_->viewport()->width() - 2 * einzug_px - rollbalken_px),
@@ -78,19 +80,22 @@ void RanglisteFenster::skalieren() {
     QTimer::singleShot(0, this, [this] { zeilen_einteilen(); });  // once the head has taken its room
 }
 
-/// Few rows stand wider apart.
+/// Few rows stand wider apart; of many, none is cut at the lower edge.
 void RanglisteFenster::zeilen_einteilen() {
+    constexpr double innen_min = 0.12;  // of the size of the letters, above and below together
+    constexpr double innen_max = 0.8;
     const double px = schrift_.pixelSize();
-    const double je_zeile =
-        zeilen_->viewport()->height() / static_cast<double>(std::max(1, zeilen_->model()->rowCount()));
-    const double innen = std::clamp((je_zeile - QFontMetricsF(schrift_).height()) / 2 - 1, px * 0.06, px * 0.4);
+    const double schrift = QFontMetricsF(schrift_).height();
+    const double hoehe = zeilen_->viewport()->height();
+    const int ganze = std::max(1, static_cast<int>(hoehe / (schrift + px * innen_min)));
+    const double je_zeile = hoehe / std::clamp(zeilen_->model()->rowCount(), 1, ganze);
     const QString regel = QString(
                               "QListView { font-family: '%1', monospace; font-size: %2px; font-weight: bold; } "
-                              "QListView::item { padding: %3px %4px; }")
+                              "QListView::item { padding: 0px %3px; height: %4px; }")
                               .arg(schrift_.family())
                               .arg(schrift_.pixelSize())
-                              .arg(static_cast<int>(innen))
-                              .arg(einzug_px);
+                              .arg(einzug_px)
+                              .arg(static_cast<int>(std::min(je_zeile, schrift + px * innen_max)));
     if (zeilen_->styleSheet() != regel) {
         zeilen_->setStyleSheet(regel);
     }
