@@ -25,6 +25,7 @@ constexpr int standzeilen_mindestens = 8;
 constexpr double standschrift_min_px = 14;
 constexpr double zeilen_anteil = 0.8;         // of the height of the window
 constexpr double schrift_max_anteil = 0.045;  // of the height of the rows together
+constexpr int zeilen_viele = 16;              // to be seen at once, where there are as many
 constexpr double schieben_anteil = 0.026;     // likewise, where not all columns are in sight anyway
 constexpr double balken_anteil = 0.24;        // of the width
 constexpr double balken_anteil_min = 0.18;
@@ -256,7 +257,8 @@ double WAuswertungFenster::ueberstand(double px, double name_em, int platz) {
 
 /// The columns grow with their letters, but for their margins: each step comes closer and none goes too far.
 double WAuswertungFenster::passende_schrift(int platz, int hoehe) {
-    double px = std::max(standschrift_min_px, hoehe * schrift_max_anteil);
+    const int zeilen = std::clamp(spalten_.front().zeilen->model()->rowCount(), 1, zeilen_viele);
+    double px = std::max(standschrift_min_px, hoehe * std::min(schrift_max_anteil, 1 / (zeilen * zeile_je_px)));
     while (true) {
         const double zuviel = ueberstand(px, name_max_em, platz);
         if (zuviel <= 0) {
