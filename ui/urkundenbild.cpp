@@ -128,7 +128,8 @@ private:
         verlauf.setColorAt(0, b_.spurfarbe.lighter(125));
         verlauf.setColorAt(1, b_.spurfarbe.darker(130));
         m_.fillRect(feld, verlauf);
-        blatttext(m_, feld.adjusted(feld.width() / 8, 0, -feld.width() / 8, 0), Qt::AlignHCenter, buchstaben,
+        const double rand = feld.width() / 4.5;  // wide ones do not go under the rosette
+        blatttext(m_, feld.adjusted(rand, 0, -rand, 0), Qt::AlignHCenter, buchstaben,
                   {feld.height() * 0.45, true, stil::schrift_auf(b_.spurfarbe)});
     }
 
