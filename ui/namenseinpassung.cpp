@@ -10,8 +10,7 @@
 namespace tarvel::ui {
 namespace {
 
-constexpr double anteil_fuer_namen = 0.75;  // of the size that short names have,
-constexpr double namen_lesbar_px = 11;      // as long as that is as large
+constexpr double namen_lesbar_px = 11;  // no whole name makes the letters smaller
 
 double zeichenbreite(int schrift_px) {
     QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -35,7 +34,7 @@ int namen_einpassen(QListView& ansicht, const liste& zeilen, const namensspalten
     const auto passend = [&](std::size_t zeichen) { return platz.breite / (je_px * static_cast<double>(zeichen)); };
     const double hoechstens = std::clamp(passend(schmal), platz.schrift_min, platz.schrift_max);
     const double mindestens =
-        std::max({platz.schrift_min, hoechstens * anteil_fuer_namen, std::min(namen_lesbar_px, hoechstens)});
+        std::max({platz.schrift_min, hoechstens * platz.anteil_fuer_namen, std::min(namen_lesbar_px, hoechstens)});
     const double px = std::clamp(passend(std::max(ganz, andere)), mindestens, hoechstens);
     const int schrift_px = static_cast<int>(px);
     const auto zeichen = static_cast<std::size_t>(std::max(platz.breite, 0.0) / zeichenbreite(schrift_px));

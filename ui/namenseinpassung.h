@@ -13,8 +13,9 @@ struct zeilenplatz {
     double breite = 0;       ///< in pixels
     double schrift_min = 1;  ///< size of the letters, in pixels
     double schrift_max = 1;
-    std::size_t mindestens = 1;  ///< each row counts as so many characters, so that few do not stand too large
-    std::size_t kopf = 0;        ///< characters of the captions over them
+    std::size_t mindestens = 1;       ///< each row counts as so many characters, so that few do not stand too large
+    std::size_t kopf = 0;             ///< characters of the captions over them
+    double anteil_fuer_namen = 0.75;  ///< of the size that short names have: down to it longer ones stay whole
 };
 
 /// Draws the names in the rows of the list as wide as there is room, and returns the size of the letters for it. Whole

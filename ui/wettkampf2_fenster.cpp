@@ -27,7 +27,10 @@ constexpr double schrift_einsetzer = 46;
 constexpr double anteil_blick = 0.6;  // of the window beside the list
 constexpr double planschrift_px = 15;
 constexpr double planschrift_min_px = 10;  // of many lanes; what still has no room is scrolled to
-constexpr int planrand_px = 24;            // beside the columns, with the bar that scrolls
+constexpr int planhoehe_min = 190;
+constexpr int planzeilen_min = 9;   // as many races are in sight,
+constexpr int planzeilen_max = 14;  // and where there are more of them, so many
+constexpr int planrand_px = 24;     // beside the columns, with the bar that scrolls
 constexpr int fleck_breite = 18;
 constexpr int spalte_danach = 5;  // behind one that keeps the names apart
 
@@ -42,14 +45,7 @@ Wettkampf2Fenster::Wettkampf2Fenster(wettkampf2& logik, const dateien& ablage, F
     for (QWidget* feld : {blickfeld(), rundenfeld(), namenfeld()}) {  // one of them at a time
         aufbau->addWidget(feld, 6);
     }
-    auto* mitte = new QWidget(this);
-    auto* liste = new QHBoxLayout(mitte);
-    liste->setContentsMargins(0, 0, 0, 0);
-    liste->setSpacing(12);
-    liste->addWidget(listenfeld(), 1);
-    liste->addLayout(rennbefehle());
-    binder().verbinden(logik_.Frame_liste, mitte, "Frame_liste", [this] { skalieren(); });
-    aufbau->addWidget(mitte, 4);
+    aufbau->addWidget(listenfeld(), 4);
     QLabel* fehler = binder().label(logik_.Label_fehler, "Label_fehler");
     fehler->setProperty("rolle", "warnung");
     fehler->setStyleSheet("font-weight: bold;");
@@ -218,32 +214,46 @@ QWidget* Wettkampf2Fenster::namenfeld() {
     return feld;
 }
 
+/// The list is as wide as it can be: six names stand in a row.
 QWidget* Wettkampf2Fenster::listenfeld() {
     auto* feld = new QWidget(this);
     auto* aufbau = new QVBoxLayout(feld);
     aufbau->setContentsMargins(0, 0, 0, 0);
     aufbau->setSpacing(4);
     auto* kopf = new QHBoxLayout;
+    kopf->setSpacing(6);
     kopf->addWidget(binder().label(logik_.Label_liste, "Label_liste"));
-    kopf->addSpacing(16);
+    kopf->addSpacing(10);
     QLabel* zeichen = stil::leise(binder().label(logik_.Label_zeichen, "Label_zeichen"));
     zeichen->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // it does not widen the window
     kopf->addWidget(zeichen, 1);
-    kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"));
+    kopf->addWidget(binder().kasten(logik_.opt_reihenfolge, "opt_reihenfolge"), 0, Qt::AlignVCenter);
+    kopf->addSpacing(16);
+    kopf->addWidget(lampe(binder(), logik_.automatiklampe, "automatiklampe"));
+    kopf->addWidget(binder().knopf(logik_.Command4, "Command4", "schmal"));
     aufbau->addLayout(kopf);
     plan_ = binder().listenfeld(logik_.List1, "List1");
     plan_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     QObject::connect(plan_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
+    plan_->setMinimumHeight(planhoehe_min);
     plan_->installEventFilter(this);
-    aufbau->addWidget(plan_, 1);
+    auto* unten = new QHBoxLayout;
+    unten->setSpacing(12);
+    unten->addWidget(plan_, 1);
+    unten->addLayout(rennbefehle());
+    aufbau->addLayout(unten, 1);
+    binder().verbinden(logik_.Frame_liste, feld, "Frame_liste", [this] { skalieren(); });
     return feld;
 }
 
-/// The columns of the races stay below each other, and are as large as all of them have room.
-void Wettkampf2Fenster::plan_skalieren(double skala) {
-    const int px = namen_einpassen(
-        *plan_, logik_.List1, logik_.planspalten,
-        {static_cast<double>(plan_->width() - planrand_px), planschrift_min_px, planschrift_px * std::max(skala, 1.0)});
+/// The columns of the races stay below each other, as large as the list is wide and some rows of it are in sight.
+void Wettkampf2Fenster::plan_skalieren() {
+    constexpr double zeile_je_px = 1.6;
+    const int zeilen = std::clamp(plan_->model()->rowCount(), planzeilen_min, planzeilen_max);
+    const double hoechstens = std::max(planschrift_px, plan_->height() / (zeilen * zeile_je_px));
+    zeilenplatz platz{static_cast<double>(plan_->width() - planrand_px), planschrift_min_px, hoechstens};
+    platz.anteil_fuer_namen = 0.5;  // a name that is whole is worth more than large letters
+    const int px = namen_einpassen(*plan_, logik_.List1, logik_.planspalten, platz);
     plan_->setStyleSheet(QString("QListView { font-family: '%1', monospace; font-size: %2px; }")
                              .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family())
                              .arg(px));
@@ -252,17 +262,11 @@ void Wettkampf2Fenster::plan_skalieren(double skala) {
 QLayout* Wettkampf2Fenster::rennbefehle() {
     auto* spalte = new QVBoxLayout;
     spalte->setSpacing(6);
-    spalte->addSpacing(28);  // beside the list, not its caption
     spalte->addWidget(binder().knopf(logik_.Command8, "Command8"));
     spalte->addWidget(binder().knopf(logik_.Command9, "Command9"));
     spalte->addWidget(binder().knopf(logik_.Command13, "Command13"));
     spalte->addWidget(binder().knopf(logik_.Command14, "Command14"));
     spalte->addStretch(1);
-    auto* automatik = new QHBoxLayout;
-    automatik->setSpacing(6);
-    automatik->addWidget(lampe(binder(), logik_.automatiklampe, "automatiklampe"));
-    automatik->addWidget(binder().knopf(logik_.Command4, "Command4", "schmal"), 1);
-    spalte->addLayout(automatik);
     return spalte;
 }
 
@@ -359,7 +363,7 @@ void Wettkampf2Fenster::skalieren() {
         kopf_->setRowMinimumHeight(1, static_cast<int>(std::lround(std::max(wert_px, schrift_nummer * skala))));
     }
     if (plan_ != nullptr) {
-        plan_skalieren(skala);
+        plan_skalieren();
     }
 }
 

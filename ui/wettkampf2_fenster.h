@@ -34,7 +34,7 @@ private:
     QLayout* rennbefehle();
     QLayout* fuss();
     void skalieren();
-    void plan_skalieren(double skala);
+    void plan_skalieren();
     void schriften_angleichen();
 
     wettkampf2& logik_;
