@@ -199,6 +199,7 @@ QWidget* Form1Fenster::spuren_gruppe() {
     using knoepfe = std::vector<std::pair<befehl*, QString>>;
     const auto kopf = [&](bezeichnung& element, const QString& name, int spalte, const knoepfe& daneben = {}) {
         auto* zelle = new QHBoxLayout;
+        zelle->setSpacing(4);
         zelle->addWidget(stil::leise(binder().label(element, name)));
         zelle->addStretch();
         for (const auto& [knopf, knopfname] : daneben) {
