@@ -93,7 +93,9 @@ sprachliste urkundenfenster::sprache_u() {
     texte.tipp("Enter oder ein Doppelklick gibt oder nimmt die Urkunde", fahrer);
     texte.text("Klasse", wort_.klasse).text("URKUNDE", titel_.urkunde).text("Runden", titel_.runden);
     texte.text("beste Runde", titel_.beste).text("Gesamtzeit", titel_.gesamtzeit).text("Datum", titel_.datum);
-    return texte.text("Rennleitung", titel_.rennleitung).text("Urkunde", wort_.urkunde);
+    return texte.text("Rennleitung", titel_.rennleitung)
+        .text("Urkunde", wort_.urkunde)
+        .text("Es gibt kein Ergebnis, für das jemand eine Urkunde bekommt.", Label_keine);
 }
 
 void urkundenfenster::oeffnen(const rennergebnis& ergebnis, const std::string& rennen) {
@@ -222,6 +224,10 @@ void urkundenfenster::seite_zeigen() {
     }
     fahrer.markieren(static_cast<int>(seite_));
     dabei.aktiviert(u != nullptr);
+    for (befehl* knopf : {&Command_alle, &Command_keiner}) {
+        knopf->aktiviert(u != nullptr);
+    }
+    Label_keine.sichtbar(u == nullptr);
     dabei.gesetzt(seite_ < gewaehlt_.size() && gewaehlt_[seite_]);
     if (zeichnen) {
         zeichnen();

@@ -39,6 +39,7 @@ public:
     befehl Command_zurueck;  ///< the one before
     befehl Command_vor;
     bezeichnung Label_seite;
+    bezeichnung Label_keine;  ///< in the place of the sheet, where nobody has a result
     befehl Command_drucken;
     befehl Command_pdf;
     befehl Command_ende;

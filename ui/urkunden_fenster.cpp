@@ -41,6 +41,11 @@ UrkundenFenster::UrkundenFenster(urkundenfenster& logik, const dateien& ablage, 
     bild_ = new Urkundenbild(this);
     bild_->setObjectName("urkunden.bild");
     bild_->setMinimumSize(300, 420);
+    auto* leeres_blatt = new QVBoxLayout(bild_);
+    QLabel* keine = binder().label(logik.Label_keine, "Label_keine");
+    keine->setWordWrap(true);
+    keine->setAlignment(Qt::AlignCenter);
+    leeres_blatt->addWidget(keine);
     rechts->addWidget(bild_, 1);
     auto* blaettern = new QHBoxLayout;
     blaettern->addStretch(1);
