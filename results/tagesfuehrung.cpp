@@ -33,6 +33,7 @@ std::vector<tagesfuehrender> tagesfuehrung(ergebnistabelle tabelle, sortier_modu
             alle.push_back({klasse == ohne_klasse ? std::string() : klasse, felder[spalten.name], runden});
         }
     }
+    std::stable_partition(alle.begin(), alle.end(), [](const tagesfuehrender& wer) { return !wer.klasse.empty(); });
     return alle;
 }
 
