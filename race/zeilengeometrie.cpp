@@ -65,7 +65,7 @@ template <std::size_t anzahl>
 std::array<double, anzahl> zeile_teilen(const std::array<zeilenstueck, anzahl>& stuecke, double ganze, bool hoch) {
     constexpr double passt = 0.85;
     const double texte_noch = hoch ? 0.7 : passt;  // more, and the laps of few lanes were smaller than those of many
-    constexpr double texte_hoechstens = 0.55;
+    constexpr double texte_hoechstens = 0.6;
     double gebraucht = 1;
     for (const zeilenstueck& stueck : stuecke) {
         gebraucht += stueck.mindestens;
@@ -112,7 +112,7 @@ struct zeilenteil {
 };
 using z = zeilenteil;
 
-constexpr double fahrer_em = 12.8;  ///< number, lights and the box of the blame
+constexpr double fahrer_em = 13.6;  ///< a name, number, lights and the box of the blame
 constexpr double abstand_em = 5.5;  ///< "12 Runden"
 constexpr double zeiten_em = 13.8;  ///< two captions
 constexpr double zeiten_em_mit_bestzeit = 16;
@@ -131,7 +131,7 @@ std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, 
     const double hoehe = block.hoehe / s;
     std::array<zeilenstueck, z::anzahl> stuecke;
     stuecke[z::bild] = {hoch ? 2300 : 0.8 * hoehe};
-    stuecke[z::fahrer] = {hoch ? 5400.0 : 3900.0, fahrer_em * lesbar};
+    stuecke[z::fahrer] = {hoch ? 5400.0 : 5000.0, fahrer_em * lesbar};
     stuecke[z::platzziffer] = {1150, 3.0 * lesbar};
     stuecke[z::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850), rueckstand_hoehe(inhalt, abstand_em * lesbar)};
     stuecke[z::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
@@ -144,7 +144,7 @@ std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, 
     const double texte = (inhalt.bestzeit ? zeiten_em_mit_bestzeit : zeiten_em) * lesbar;
     const bool untereinander = texte < nebeneinander_ab * block.hoehe && !ist_niedrig(inhalt, block, lesbar);
     stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, untereinander ? texte / 2 : texte};
-    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 0.6) * lesbar};
+    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 2.0) * lesbar};
     return stuecke;
 }
 
