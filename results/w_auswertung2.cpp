@@ -100,7 +100,11 @@ void w_auswertung2::laden() {
     for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
         opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
     }
-    ordner_zeigen(std::string(sprungziele.front()));
+    const auto leer = [this](std::string_view ordner) {
+        return ordner_ansehen(um_.welt.ablage.pfad(std::string(ordner)), {".csv"}).dateien.empty();
+    };
+    const bool nur_automatische = leer(sprungziele.front()) && !leer(ergebnis_ordner::auto_einzelrennen);
+    ordner_zeigen(std::string(nur_automatische ? ergebnis_ordner::auto_einzelrennen : sprungziele.front()));
     tabelle_neu();
     File1.fokus_setzen();
 }
