@@ -76,6 +76,19 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
     EXPECT_NE(w.Dir1.zeilen().front(), "..") << "no way out of the results";
 }
 
+TEST_F(Ergebnisbetrachter, ZeigtAutomatischeNurWoNichtsGespeichertIst) {
+    const auto oeffnen = [this] {
+        t.p.form1.Command18.klicken();
+        const textzeilen dateien = w.File1.zeilen();
+        w.schliessen();
+        return dateien;
+    };
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\auto-Einzelrennen\\auto-1.csv", {"x"}));
+    EXPECT_EQ(oeffnen(), textzeilen{"auto-1.csv"});
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\Einzelrennen\\Finale.csv", {"x"}));
+    EXPECT_EQ(oeffnen(), textzeilen{"Finale.csv"});
+}
+
 TEST_F(Ergebnisbetrachter, SortiertJedeKlasseUndZeigtDieGewaehlten) {
     tag_ablegen("mai.csv", abend);
     zeigen("mai.csv");
