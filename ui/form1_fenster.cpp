@@ -193,7 +193,7 @@ QWidget* Form1Fenster::rennen_gruppe() {
 QWidget* Form1Fenster::spuren_gruppe() {
     QGroupBox* gruppe = binder().gruppe(logik_.Frame_spuren, "Frame_spuren");
     auto* raster = new QGridLayout(gruppe);
-    raster->setHorizontalSpacing(8);
+    raster->setHorizontalSpacing(6);
     raster->setVerticalSpacing(3);
     spurzeilen_ = new Spurzeilen(logik_, gruppe);
     using knoepfe = std::vector<std::pair<befehl*, QString>>;
