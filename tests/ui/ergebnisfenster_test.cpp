@@ -110,6 +110,33 @@ TEST_F(Ergebnisfenster, NachgetrageneRundenHabenPlatzUndDieSchriftBleibt) {
     EXPECT_EQ(liste->horizontalScrollBar()->maximum(), 0);
 }
 
+/// The gap of one who comes home behind the end: none stood there when the sizes were taken.
+TEST_F(Ergebnisfenster, AbstandDerErstSpaeterDaIstHatDieUeblicheSchrift) {
+    t.starten("Runden", "3", {1, 2});
+    t.runde_nach(1000, "12");
+    t.runde_nach(8000, "1");
+    t.runde_nach(500, "2");
+    t.rennende();
+    setzen_lassen();
+    ASSERT_TRUE(o.auswertung.isVisible());
+    const auto* abstand = finde<ui::TextAnzeige>(o.auswertung, "auswertung.abstandlabel_1");
+    ASSERT_TRUE(abstand->isVisible());
+    const int sonst = abstand->schriftPx();
+    const auto alle_zeigen = [&](bool an) {
+        for (const int i : {0, 1}) {
+            t.p.auswertung.abstandlabel.at(i).sichtbar(an);
+            t.p.auswertung.rueckstandlabel.at(i).sichtbar(an);
+        }
+        o.takt.ausfuehren();
+        o.auswertung.resize(o.auswertung.width() + 1, o.auswertung.height());
+        QTest::qWait(60);
+    };
+    alle_zeigen(false);
+    t.p.auswertung.abstandlabel.at(1).sichtbar(true);
+    setzen_lassen();
+    EXPECT_NEAR(abstand->schriftPx(), sonst, 1);
+}
+
 TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
     zeigen(3);
     klick(fenster, "w_auswertung2.Command_pdf");
