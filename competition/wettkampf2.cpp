@@ -55,17 +55,34 @@ void wettkampf2::befehle_verbinden() {
     Command10.bei_klick = [this] { folgen_.tabelle_speichern_unter(); };
     Command11.bei_klick = [this] { folgen_.bahnstrom(true); };
     Command12.bei_klick = [this] { folgen_.bahnstrom(false); };
-    Command13.bei_klick = [this] { felder_zeigen(feldgruppe::runden); };
-    Command14.bei_klick = [this] { felder_zeigen(feldgruppe::namen); };
+    Command13.bei_klick = [this] {
+        korrektur_uebernehmen();
+        rundenliste.leeren();  // so that the first choice leads on to its fields, also of who was chosen last
+        felder_zeigen(feldgruppe::runden);
+    };
+    Command14.bei_klick = [this] {
+        korrektur_uebernehmen();
+        felder_zeigen(feldgruppe::namen);
+    };
     Command_uebernehmen.bei_klick = [this] { korrektur_uebernehmen(); };
-    Command_runden_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
+    Command_runden_fertig.bei_klick = [this] {
+        if (korrektur_uebernehmen()) {
+            felder_zeigen(feldgruppe::blick);
+        }
+    };
     Command_aushang.bei_klick = [this] {
         felder_zeigen(offen_ == feldgruppe::aushang ? feldgruppe::blick : feldgruppe::aushang);
     };
     Command_umbenennen.bei_klick = [this] { umbenennen(); };
     Command_namen_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
-    List1.bei_auswahl = [this] { rennen_gewaehlt(); };
-    rundenliste.bei_auswahl = [this] { korrekturfelder_zeigen(); };
+    List1.bei_auswahl = [this] {
+        korrektur_uebernehmen();
+        rennen_gewaehlt();
+    };
+    rundenliste.bei_auswahl = [this] {
+        korrektur_uebernehmen();
+        korrekturfelder_zeigen();
+    };
     aendernliste.bei_auswahl = [this] {
         neuer_name.text(abend_.stand().name(umbenennbar_.at(static_cast<std::size_t>(aendernliste.markiert()))));
     };

@@ -122,6 +122,13 @@ private:
         int teil = 1;
         int spur = 0;
     };
+    /// What the fields of one held as they were shown.
+    struct korrekturstand {
+        int rennen = 0;
+        korrekturzeile zeile;
+        std::string runden;
+        std::string meter;
+    };
     struct worte {
         std::string titel, spur, rennen, von, stunden, minuten, ende;
         std::string automatik_ein, automatik_aus, automatik_unterbrochen, teil, niemand, und, weitere, einsetzer,
@@ -163,7 +170,8 @@ private:
 
     void korrektur_zeigen();
     void korrekturfelder_zeigen();
-    void korrektur_uebernehmen();
+    /// What has been typed is stored; false, with a message, if it is no number.
+    bool korrektur_uebernehmen();
     void namen_zeigen();
     void umbenennen();
 
@@ -175,6 +183,7 @@ private:
     wettkampf2_folgen& folgen_;
     worte wort_;
     std::vector<korrekturzeile> korrigierbar_;  ///< the rows of `rundenliste`
+    std::optional<korrekturstand> korrigiert_;  ///< nothing while no result can be changed
     std::vector<int> umbenennbar_;              ///< places of the rows of `aendernliste`
     feldgruppe offen_ = feldgruppe::blick;
     int gezeigtes_rennen_ = 0;  ///< the current one when the list was drawn last

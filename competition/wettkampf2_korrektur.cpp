@@ -56,25 +56,33 @@ void wettkampf2::korrekturfelder_zeigen() {
         anz_meter[i].text(zeigen ? meter_als_text((*ergebnis)[spur].meter) : "");
     }
     Command_uebernehmen.aktiviert(ergebnis != nullptr);
+    korrigiert_.reset();
     if (ergebnis != nullptr) {
-        anz_runden[feld_index(gewaehlt.spur)].fokus_setzen();
+        const std::size_t i = feld_index(gewaehlt.spur);
+        korrigiert_ = {gewaehltes(), gewaehlt, anz_runden[i].text(), anz_meter[i].text()};
+        anz_runden[i].fokus_setzen();
     }
 }
 
-void wettkampf2::korrektur_uebernehmen() {
-    if (rundenliste.markiert() < 0) {
-        return;
+bool wettkampf2::korrektur_uebernehmen() {
+    if (!korrigiert_) {
+        return true;
     }
-    const korrekturzeile gewaehlt = korrigierbar_.at(static_cast<std::size_t>(rundenliste.markiert()));
-    const int rennen = gewaehltes();
+    const korrekturzeile gewaehlt = korrigiert_->zeile;
+    const int rennen = korrigiert_->rennen;
     const std::size_t i = feld_index(gewaehlt.spur);
+    if (anz_runden[i].text() == korrigiert_->runden && anz_meter[i].text() == korrigiert_->meter) {
+        return true;
+    }
     for (feld* eingabe : {&anz_runden[i], &anz_meter[i]}) {
         if (!ist_zahl(eingabe->text())) {
             um_.meldungen.zeigen(eingabe->ansage() + ": " + wort_.keine_zahl, um_.txt.titel[1]);
             eingabe->fokus_setzen();
-            return;
+            return false;
         }
     }
+    korrigiert_->runden = anz_runden[i].text();
+    korrigiert_->meter = anz_meter[i].text();
     const fahrt bisher = (*abend_.stand().ergebnis(rennen, gewaehlt.teil))[gewaehlt.spur];
     const int runden = static_cast<int>(ganzzahl_lesen(anz_runden[i].text(), 0, 99999));
     std::string meter = anz_meter[i].text();
@@ -89,6 +97,7 @@ void wettkampf2::korrektur_uebernehmen() {
         }
         return runden != bisher.runden || meter_getippt;
     });
+    return true;
 }
 
 void wettkampf2::namen_zeigen() {

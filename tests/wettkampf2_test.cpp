@@ -74,6 +74,18 @@ TEST_F(Wettkampf2, RundenMeterUndNamenWerdenBerichtigt) {
     w.Command_uebernehmen.klicken();
     EXPECT_NE(letzte_meldung().find("Hier steht keine Zahl."), std::string::npos);
     EXPECT_EQ((*stand().ergebnis(1))[3].runden, 7);
+    w.Command_runden_fertig.klicken();
+    EXPECT_TRUE(w.Frame_runden.sichtbar());
+    w.anz_meter[2].eingeben("99");
+    w.Command_runden_fertig.klicken();  // what was typed is not lost
+    EXPECT_FALSE(w.Frame_runden.sichtbar());
+    EXPECT_EQ((*stand().ergebnis(1))[3], (fahrt{9, vorher.zeit, 9900, vorher.beste}));
+    w.Command13.klicken();
+    w.rundenliste.auswaehlen(1);
+    w.anz_runden[2].eingeben("8");
+    w.rundenliste.auswaehlen(0);
+    EXPECT_EQ((*stand().ergebnis(1))[3].runden, 8);
+    EXPECT_EQ(w.rundenliste.markiert(), 0);
     w.Command14.klicken();
     w.aendernliste.auswaehlen(1);
     w.neuer_name.eingeben("Anna");
