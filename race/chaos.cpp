@@ -304,8 +304,8 @@ void chaos::chaosende_routine() {
     renn_zustand& zustand = um_.zustand;
     um_.zeitgeber.tm_chausloeser_falsch_setzen->an();
     const zeit_ms ende = um_.moment_lesen();
-    if (std::exchange(zustand.pause.ausfall, false)) {
-        ausgaben_wecken(um_);
+    const bool nach_ausfall = std::exchange(zustand.pause.ausfall, false);
+    if (nach_ausfall) {
         um_.quellen.melden(&messquelle::rennen_fortgesetzt);
     }
     um_.ereignisse[art::chaostaster].ereignis_zeit = ende;
@@ -316,6 +316,9 @@ void chaos::chaosende_routine() {
     zustand.unterbrechung_abziehen(zustand.pause.dauer);
     um_.sounds.spielen(sound::pause_endet);
     um_.ausgaben.chaos_aus();
+    if (nach_ausfall) {
+        ausgaben_wecken(um_);  // only now: a sign of the pause would stop cars that have just been let go
+    }
     unverbuesste_abschalten();
     t_.strafe.strom_wiederherstellen();
     strafen_verteilen();

@@ -156,6 +156,12 @@ TEST_F(ControlUnitRennen, NachEinemAusfallGehtEsAuchDannNichtVonSelbstWeiterWenn
     danach.p.starten();
     danach.maschine.laufen(5000);
     EXPECT_TRUE(danach.lauf().zustand.chaos_aktiv);
+    status(true);  // somebody stops them, and starts the light, at the unit
+    danach.maschine.laufen(3000);
+    status(false);
+    danach.maschine.laufen(3000);
+    EXPECT_FALSE(danach.lauf().zustand.chaos_aktiv);
+    EXPECT_EQ(leitung.geschrieben[com].find("T2P$"), std::string::npos) << "nothing stops the cars at green";
 }
 
 TEST_F(ControlUnitRennen, EinWiederaufgenommenesRennenOeffnetSeinenPortNichtNeu) {
