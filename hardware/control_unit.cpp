@@ -43,7 +43,9 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     cu_tankentscheidung_->bei_tick = [this] { cu_tankentscheidung_tick(); };
     cu_alter_rz_start_->bei_tick = [this] { cu_alter_rz_start_tick(); };
     cu_ende_timer_->bei_tick = [this] {
-        if (im_startzustand() || anhalten()) {
+        const bool licht = neustart_wartet_;  // its own green would let the cars go behind the end
+        if ((im_startzustand() && !licht) || anhalten()) {
+            neustart_wartet_ = false;
             cu_ende_timer_->aus();
         }
     };

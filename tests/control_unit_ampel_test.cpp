@@ -210,6 +210,20 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
 }
 
+TEST_F(ControlUnitRennen, WerImLichtNachDerPauseBeendetLaesstKeineWagenLos) {
+    t.p.einst.chaosampel_an = false;
+    starten(t.p.txt.text_runden, "10", {1});
+    t.taste("c");
+    status(true);
+    t.maschine.laufen(3000);
+    t.taste("c");
+    t.maschine.laufen(1000);
+    ASSERT_EQ(geschrieben("T2P$"), 2) << "its light";
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(3000);
+    EXPECT_EQ(geschrieben("T2P$"), 3) << "stops it";
+}
+
 TEST_F(ControlUnitRennen, AufEinerLangsamenLeitungHaeltKeinZweiterDruckAn) {
     for (const bool gehoert : {true, false}) {
         starten(t.p.txt.text_runden, "10", {1});
