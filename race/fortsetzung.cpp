@@ -52,6 +52,12 @@ void fortsetzung::umsetzen(const spuren<int>& herkunft) {
         zustand.sensor_sperre = sperre;
         zustand.tank_inhalt = tank_inhalt;  // a tank that the device has itself is the car's, and stays with it
     }
+    for (rennpause& p : um_.zustand.unterbrechungen) {
+        const spuren<bool> daheim = p.daheim;
+        for (const int spur : alle_spuren) {
+            p.daheim[spur] = daheim[herkunft[spur] == 0 ? spur : herkunft[spur]];
+        }
+    }
     um_.zustand.konto.fahrer_umsetzen(herkunft);
     t_.sektor.fahrer_umsetzen(herkunft);
     t_.plaetze.fahrer_umsetzen(herkunft);
