@@ -191,7 +191,8 @@ void hergangsleser::entscheidung(std::string_view text) {
 /// the target.
 void hergangsleser::ankunft(const geschehen& runde) {
     constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment later
-    if (!runde.nach_ende || (runde.stempel < ende_stempel_ - takt_ms && !ist_letzte(runde.nummer))) {
+    const bool angebrochen = runde.stempel >= ende_stempel_ - takt_ms && !ende_in_pause_;
+    if (!runde.nach_ende || !(angebrochen || ist_letzte(runde.nummer))) {
         return;
     }
     geschehen angekommen{.was = vorgang::ziel, .spur = runde.spur, .fahrer = runde.fahrer, .zeit = runde.zeit};
@@ -219,8 +220,10 @@ void hergangsleser::einordnen(geschehen& g) {
             break;
         case vorgang::pause:
             weiter_.reset();
+            pause_offen_ = true;
             break;
         case vorgang::weiter:
+            pause_offen_ = false;
             weiter_ = g.zeit;
             break;
         case vorgang::fruehstart:
@@ -242,6 +245,7 @@ void hergangsleser::einordnen(geschehen& g) {
             endet_ = true;
             zu_ende_ = true;
             ende_stempel_ = g.stempel;
+            ende_in_pause_ = pause_offen_;
             break;
         default:
             break;
