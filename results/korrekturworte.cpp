@@ -17,6 +17,10 @@ sprachliste& korrekturworte::eintragen(sprachliste& texte) {
     return texte.text("Spur %1, Runde %2 geteilt (%3)", arten_[2]).text("Spur %1, Restmeter %2", arten_[3]);
 }
 
+sprachliste& korrekturworte::nachtragen(sprachliste& texte) {
+    return texte.text("Spur %1, Runde 1 gelöscht (ihre Zeit zählt nicht mehr)", erste_);
+}
+
 std::string korrekturworte::von(const std::string& zeile, const hergangsworte& worte) const {
     const std::optional<korrekturvermerk> v = korrekturzeile_lesen(zeile);
     if (!v) {
@@ -24,8 +28,9 @@ std::string korrekturworte::von(const std::string& zeile, const hergangsworte& w
     }
     const korrektur& k = v->was;
     const bool meter = k.was == korrektur::art::restmeter;
+    const bool erste = k.was == korrektur::art::geloescht && k.runde == 1;  // what lies before it is in no total
     const std::string was =
-        eingesetzt(arten_.at(static_cast<std::size_t>(k.was) - 1),
+        eingesetzt(erste ? erste_ : arten_.at(static_cast<std::size_t>(k.was) - 1),
                    {std::to_string(k.spur), meter ? zahl_text(k.meter, worte.komma) : std::to_string(k.runde),
                     worte.dauer(k.zeit)});
     using weise = korrekturvermerk::weise;

@@ -87,7 +87,8 @@ sprachliste protokollfenster::sprache_pr() {
     texte.text("Die Zeiten gehen vom Grün an weiter; die Rennuhr stand in Pausen %1 still.", wort_.mit_pausen);
     texte.text("Zeit seit Grün, mit Pausen. Die Rennuhr steht in einer Pause still.", wort_.zeit_tipp);
     korrektur_.eintragen(worte_.nachtragen(texte)).text("Rennen über 1 Runde", wort_.eine_runde);
-    return texte.text("ab %1", wort_.ab).text("%1 bis %2", wort_.von_bis);
+    texte.text("ab %1", wort_.ab).text("%1 bis %2", wort_.von_bis);
+    return korrektur_.nachtragen(texte);
 }
 
 }  // namespace tarvel

@@ -262,7 +262,7 @@ TEST_F(KorrekturImFenster, AbgelehnteUeberfahrtZaehltDochUndAllesFolgt) {
         erzaehlt.insert(t.p.protokollfenster.worte_von(g));
     }
     for (const char* satz : {"Korrektur: Spur 1, Runde 2: Überfahrt nachgetragen (1,500 s)",
-                             "Korrektur zurückgenommen: Spur 2, Runde 1 gelöscht (ihre Zeit zählt zur Runde davor)",
+                             "Korrektur zurückgenommen: Spur 2, Runde 1 gelöscht (ihre Zeit zählt nicht mehr)",
                              "Korrektur gilt wieder: Spur 2, Restmeter 3"}) {
         EXPECT_TRUE(erzaehlt.contains(satz)) << satz;
     }
