@@ -101,7 +101,8 @@ void w_auswertung2::laden() {
         opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
     }
     const auto leer = [this](std::string_view ordner) {
-        return ordner_ansehen(um_.welt.ablage.pfad(std::string(ordner)), {".csv"}).dateien.empty();
+        const ordnerblick da = ordner_ansehen(um_.welt.ablage.pfad(std::string(ordner)), {".csv"});
+        return da.dateien.empty() && da.ordner.empty();
     };
     const bool nur_automatische = leer(sprungziele.front()) && !leer(ergebnis_ordner::auto_einzelrennen);
     ordner_zeigen(std::string(nur_automatische ? ergebnis_ordner::auto_einzelrennen : sprungziele.front()));
