@@ -5,6 +5,7 @@
 #include <QPainterPathStroker>
 #include <array>
 
+#include "ui/blattausgabe.h"
 #include "ui/stil.h"
 
 namespace tarvel::ui {
@@ -99,9 +100,10 @@ void Streckenbild::paintEvent(QPaintEvent* /*ereignis*/) {
     schrift.setPixelSize(std::max(11, static_cast<int>(height() * 0.115)));
     schrift.setBold(false);
     schrift.setItalic(false);
-    maler.setFont(schrift);
-    maler.setPen(QColor(205, 210, 220));
     const QRect darunter(links.left() + 2, links.bottom() + 2, width(), static_cast<int>(height() * 0.25));
+    constexpr double fahrbahn_ab = 0.55;  // of the width, where this line runs
+    maler.setFont(eingepasst(schrift, unterzeile_, width() * fahrbahn_ab - darunter.left()));
+    maler.setPen(QColor(205, 210, 220));
     maler.drawText(darunter, Qt::AlignLeft | Qt::AlignTop, unterzeile_);
 }
 
