@@ -46,6 +46,11 @@ AuswertungFenster::AuswertungFenster(auswertung& logik, const dateien& ablage, F
     logik.drucken = [this] { drucken(); };
     logik.als_pdf = [this, &ablage] { pdf_speichern(ablage); };
     logik.verlauf_zeichnen = [this] { diagramm_->setInhalt(bildinhalt()); };
+    bei_escape = [&n = logik.nachtrag] {  // the result itself is not left so easily
+        if (n.Frame_nachtrag.sichtbar()) {
+            n.Command_abbrechen.klicken();
+        }
+    };
     korrekturtasten(this, logik.Command_zurueck, logik.Command_wieder);
     setMinimumSize(760, 420);
     resize(1180, 760);

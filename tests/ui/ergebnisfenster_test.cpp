@@ -108,6 +108,15 @@ TEST_F(Ergebnisfenster, NachgetrageneRundenHabenPlatzUndDieSchriftBleibt) {
     auto* liste = finde<QListView>(o.auswertung, "auswertung.liste_0");
     ASSERT_TRUE(liste->model()->index(1, 0).data().toString().endsWith("+"));
     EXPECT_EQ(liste->horizontalScrollBar()->maximum(), 0);
+    QTest::mouseClick(finde<QPushButton>(o.auswertung, "auswertung.Command_nachtragen"), Qt::LeftButton);
+    setzen_lassen();
+    ASSERT_TRUE(t.p.auswertung.nachtrag.Frame_nachtrag.sichtbar());
+    for ([[maybe_unused]] const int nochmal : {1, 2}) {  // leaves the frame, never the result
+        QTest::keyClick(finde<QListView>(o.auswertung, "auswertung.angebote"), Qt::Key_Escape);
+        setzen_lassen();
+        EXPECT_FALSE(t.p.auswertung.nachtrag.Frame_nachtrag.sichtbar());
+        EXPECT_TRUE(o.auswertung.isVisible());
+    }
 }
 
 /// The gap of one who comes home behind the end: none stood there when the sizes were taken.
