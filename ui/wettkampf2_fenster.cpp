@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/eingabefelder.h"
 #include "ui/lampenknopf.h"
 #include "ui/namenseinpassung.h"
 #include "ui/stil.h"
@@ -235,6 +236,7 @@ QWidget* Wettkampf2Fenster::listenfeld() {
     plan_ = binder().listenfeld(logik_.List1, "List1");
     plan_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     QObject::connect(plan_->model(), &QAbstractItemModel::modelReset, this, [this] { skalieren(); });
+    static_cast<Listenfeld*>(plan_)->setGanzeZeilen();
     plan_->setMinimumHeight(planhoehe_min);
     plan_->installEventFilter(this);
     auto* unten = new QHBoxLayout;
