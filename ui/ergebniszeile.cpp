@@ -29,6 +29,7 @@ constexpr double eingabe_breite = 124;  // at scale 1
 constexpr int knopfrand_px = 12;
 constexpr double bild_kante = 60;
 constexpr int abstand = 12;
+constexpr int abstand_darunter = 8;
 
 constexpr auto links_mitte = Qt::AlignLeft | Qt::AlignVCenter;
 
@@ -55,6 +56,7 @@ Ergebniszeile::Ergebniszeile(auswertung& logik, int spur, const dateien& ablage,
     const zelle_teile zeit = zelle({logik.Label_zeit[i], logik.zeit_aus[i], "zeit_aus", schrift_wert}, binder);
     abstaende_ = {zusatz(logik.abstandlabel[i], "abstandlabel", binder),
                   zusatz(logik.rueckstandlabel[i], "rueckstandlabel", binder)};
+    unter_der_zeit_ = zeit.zusatz;
     zeit.zusatz->addWidget(abstaende_[0], 4);
     zeit.zusatz->addWidget(abstaende_[1], 5);
     constexpr int zeit_anteil = 7;
@@ -102,8 +104,8 @@ Ergebniszeile::zelle_teile Ergebniszeile::zelle(const zelle_inhalt& inhalt, Bind
     wert->setZweizeilig();  // a long name, whose letters were too small to read in one line
     auto* darueber = new QHBoxLayout;
     auto* darunter = new QHBoxLayout;
-    darueber->setSpacing(8);
-    darunter->setSpacing(8);
+    darueber->setSpacing(abstand_darunter);
+    darunter->setSpacing(abstand_darunter);
     darueber->addWidget(kopf, 1);
     werte_.push_back(wert);
     aufbau->addStretch(1);
@@ -238,6 +240,7 @@ void Ergebniszeile::skalieren(double skala, const QString& laengste_runde) {
     }
     const int kante = static_cast<int>(std::lround(bild_kante * skala));
     layout()->setSpacing(static_cast<int>(std::lround(abstand * skala)));
+    unter_der_zeit_->setSpacing(std::max(abstand_darunter, static_cast<int>(std::lround(abstand_darunter * skala))));
     for (QWidget* bild : bilder_) {
         bild->setFixedSize(kante, kante);
         QSizePolicy platz_halten = bild->sizePolicy();  // a row without it keeps its columns under those of the others

@@ -68,6 +68,7 @@ private:
     std::vector<QWidget*> werte_;              ///< the figures and the name
     std::vector<QPushButton*> knoepfe_;        ///< beside the list
     std::array<TextAnzeige*, 2> abstaende_{};  ///< in time, and in laps
+    QHBoxLayout* unter_der_zeit_ = nullptr;    ///< where they stand
     QLineEdit* meterfeld_ = nullptr;
     QWidget* tankzelle_ = nullptr;
     QColor spurfarbe_;
