@@ -64,14 +64,16 @@ bool auf_geraet_zeichnen(QPagedPaintDevice& geraet, const blattseiten& seiten, i
 }
 
 /// The box goes on being there until somebody closes it; it waits for nobody.
-void gespeichert_melden(QWidget* eltern, const QString& pfad, const texte::dateiworte& worte) {
+void gespeichert_melden(QWidget* eltern, const QString& pfad, const pdf_auftrag& auftrag) {
+    const texte::dateiworte& worte = auftrag.worte;
     const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
     auto* box = new QMessageBox(QMessageBox::Information, QString::fromUtf8(programm_name.data()),
                                 text(worte.gespeichert), QMessageBox::NoButton, eltern);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setObjectName("gespeichert");
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(QDir::toNativeSeparators(pfad));
+    const QString ort = QDir::toNativeSeparators(pfad);
+    box->setInformativeText(auftrag.inhalt.isEmpty() ? ort : ort + "\n\n" + auftrag.inhalt);
     const auto zeigen = [box, text, worte](const QString& was) {
         if (!QDesktopServices::openUrl(QUrl::fromLocalFile(was))) {
             box->setText(text(worte.kein_programm));
@@ -161,7 +163,7 @@ void pdf_speichern(QWidget* eltern, const befehl& knopf, const dateien& ablage, 
                      [eltern, &ablage, auftrag = std::move(auftrag)](const QString& pfad) {
                          if (auftrag.schreiben(pfad)) {
                              papierordner_merken(ablage, pfad.toStdU16String());
-                             gespeichert_melden(eltern, pfad, auftrag.worte);
+                             gespeichert_melden(eltern, pfad, auftrag);
                          } else {
                              auftrag.misslungen();
                          }

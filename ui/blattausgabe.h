@@ -47,6 +47,7 @@ struct pdf_auftrag {
     std::function<bool(const QString& pfad)> schreiben;
     std::function<void()> misslungen;  ///< called if that is false
     texte::dateiworte worte;
+    QString inhalt = {};  ///< what the file holds, where the operator cannot know it; said below its place
 };
 /// Opens the dialog in which he names a file, as the button says it; `name` is a suggestion, below the program folder
 /// and without an extension. Then he is told where it lies, and may open it.

@@ -129,9 +129,11 @@ blattseiten UrkundenFenster::seiten() const {
 }
 
 void UrkundenFenster::pdf_speichern() {
+    const QString anzahl =
+        QString("%1: %2").arg(QString::fromStdString(logik_.titel.text())).arg(logik_.gewaehlte().size());
     ui::pdf_speichern(this, logik_.Command_pdf, ablage_, logik_.pdf_datei(),
                       {[alle = seiten()](const QString& pfad) { return blatt_als_pdf(pfad, alle); },
-                       [this] { logik_.pdf_misslungen(); }, logik_.papierdatei()});
+                       [this] { logik_.pdf_misslungen(); }, logik_.papierdatei(), anzahl});
 }
 
 }  // namespace tarvel::ui

@@ -41,6 +41,17 @@ protected:
         o.takt.ausfuehren();
         QTest::qWait(60);
     }
+    /// What is said when the file stands.
+    QMessageBox* als_pdf(QWidget& von, const char* knopf, const QString& pfad) {
+        klick(von, knopf);
+        auto* wahl = von.findChild<QFileDialog*>();
+        if (wahl == nullptr) {
+            return nullptr;
+        }
+        emit wahl->fileSelected(pfad);
+        wahl->close();
+        return von.findChild<QMessageBox*>("gespeichert");
+    }
     qsizetype pdf_seiten(const ui::blattseiten& seiten) {
         const QString pfad = QString::fromStdString((t.maschine.ordner() / "Blatt.pdf").string());
         EXPECT_TRUE(ui::blatt_als_pdf(pfad, seiten));
@@ -148,13 +159,8 @@ TEST_F(Ergebnisfenster, AbstandDerErstSpaeterDaIstHatDieUeblicheSchrift) {
 
 TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
     zeigen(3);
-    klick(fenster, "w_auswertung2.Command_pdf");
-    auto* wahl = fenster.findChild<QFileDialog*>();
-    ASSERT_NE(wahl, nullptr);
     const QString pfad = QString::fromStdString((t.maschine.ordner() / "Seite.pdf").string());
-    emit wahl->fileSelected(pfad);
-    wahl->close();
-    auto* box = fenster.findChild<QMessageBox*>("gespeichert");
+    QMessageBox* box = als_pdf(fenster, "w_auswertung2.Command_pdf", pfad);
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->informativeText(), QDir::toNativeSeparators(pfad));
     EXPECT_TRUE(QFile::exists(pfad));
@@ -171,6 +177,17 @@ TEST_F(Ergebnisfenster, NachDemSpeichernStehtDaWoDieSeiteLiegt) {
     QDesktopServices::unsetUrlHandler("file");
     EXPECT_EQ(desktop.geoeffnet, (QList{QUrl::fromLocalFile(pfad), QUrl::fromLocalFile(QFileInfo(pfad).path())}));
     EXPECT_FALSE(box->isVisible() || o.fenster.fragt());
+}
+
+TEST_F(Ergebnisfenster, GespeicherteUrkundenSindGezaehlt) {
+    t.p.ergebnis_fluegel().urkunden.oeffnen(test::rennen_mit({"Anna", "Ben", "Carla"}, 3, "14:03:22"), "Einzelrennen");
+    t.p.ergebnis_fluegel().urkunden.Command_alle.klicken();
+    t.p.ergebnis_fluegel().urkunden.dabei.umschalten();
+    setzen_lassen();
+    const QString pfad = QString::fromStdString((t.maschine.ordner() / "Urkunden.pdf").string());
+    const QMessageBox* box = als_pdf(*o.urkunden, "urkunden.Command_pdf", pfad);
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->informativeText().endsWith("Urkunden: 2")) << box->informativeText().toStdString();
 }
 
 TEST_F(Ergebnisfenster, SeitenFuerDieWandVerlierenNiemand) {
