@@ -140,7 +140,7 @@ QWidget* BestzeitenFenster::zeichen(int spur) {
 
 void BestzeitenFenster::aufschlagen() {
     if (!isVisible()) {
-        constexpr int ganze_namen = 1140;  // where the screen has room for them
+        constexpr int ganze_namen = 1140;          // where the screen has room for them
         resize(ganze_namen, sizeHint().height());  // as many lanes as there are
     }
     Fenster::aufschlagen();
