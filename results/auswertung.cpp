@@ -296,7 +296,7 @@ void auswertung::nachzaehlen() {
 }
 
 void auswertung::nachzaehlen_beenden() {
-    Label_vorlaeufig.sichtbar(false);
+    Label_vorlaeufig.text(wort_.endgueltig);  // whoever rolls home now sees why his lap is missing
     ch_durch3_->aus();
     ch_durch4_->aus();
 }

@@ -98,7 +98,7 @@ public:
     feld neues_ziel;            ///< laps, or minutes and seconds as on the main window
     bezeichnung ziel_einheit;
     bezeichnung trainingslabel;    ///< counts down to the next round of a training
-    bezeichnung Label_vorlaeufig;  ///< crossings behind the end are still taken: the result may change
+    bezeichnung Label_vorlaeufig;  ///< crossings behind the end are still taken, and the result may change; or no more
 
     /// Print the standing or save it as a page, and bring the chart up to date; filled by the drawing.
     std::function<void()> drucken;
@@ -163,6 +163,7 @@ private:
         std::string runde_waehlen, keine_sektoren, maximum, maximum_titel, training, weiter_in, verlust;
         std::string minuten, runden, verlauf, stand, minuten_hinweis, pdf_fehler, druckfehler, restmeter;
         std::string ergebnis;       ///< names its page
+        std::string endgueltig;     ///< crossings behind the end are taken no more
         std::string abstand;        ///< explains the gap to the leader
         std::string gesamtzeit;     ///< and what the total time is
         std::string neue_bestzeit;  ///< and a best lap in red
@@ -184,6 +185,7 @@ private:
     void ansagen_setzen();
     void bedienung_einrichten();
     void ziel_vorschlagen();
+    void ziel_einheit_zeigen();
     /// To those who look at the race window.
     void folge_auf_der_bahn_nennen();
     void spur_anzeigen(const rennergebnis::spur& s);

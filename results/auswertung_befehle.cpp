@@ -58,6 +58,7 @@ void auswertung::befehle_verbinden() {
     in_ruhe(Command_wiedergabe, wiedergabe_zeigen);
     tauschfahrzeug.bei_aenderung = [this] { u_.einst.fahrzeug_wechseln = tauschfahrzeug.gesetzt(); };
     neues_ziel.laenge_max(eingabe_laenge_max);
+    neues_ziel.bei_aenderung = [this] { ziel_einheit_zeigen(); };
 }
 
 /// Most often nothing changes, and whoever has pressed wonders.
@@ -184,7 +185,19 @@ void auswertung::ziel_vorschlagen() {
     const rennziel ziel = std::min(um_.param.renn_ziel + um_.param.renn_laenge, ziel_max());
     neues_ziel.text(zeitrennen ? renndauer_aus_ms(ziel.ms()).text() : std::to_string(ziel.runden()));
     neues_ziel.tipp(zeitrennen ? wort_.minuten_hinweis : "");
-    ziel_einheit.text(zeitrennen ? wort_.minuten : wort_.runden);
+    ziel_einheit_zeigen();
+}
+
+/// What has been typed behind the comma are seconds, and few expect it.
+void auswertung::ziel_einheit_zeigen() {
+    if (!um_.ist_zeitrennen()) {
+        ziel_einheit.text(wort_.runden);
+        return;
+    }
+    const bool mit_sekunden = neues_ziel.text().find_first_of(".,") != std::string::npos;
+    const renndauer_angabe dauer = renndauer_lesen(neues_ziel.text());
+    const std::string gelesen = std::to_string(dauer.minuten) + ":" + ziffern(dauer.sekunden, 2);
+    ziel_einheit.text(wort_.minuten + (mit_sekunden ? " (" + gelesen + ")" : ""));
 }
 
 rennziel auswertung::naechstes_ziel() const {

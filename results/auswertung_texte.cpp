@@ -79,7 +79,7 @@ sprachliste auswertung::sprache_a() {
     texte.text("Rot: schneller als die Bestzeit, die für diese Spur gespeichert ist", wort_.neue_bestzeit);
     texte.text("Kommt in die Tagesdatei; zurück zum Tagesrennen, von dort führt „Beenden“ ins Hauptmenü",
                wort_.zum_tagesrennen);
-    return nachtrag.ziel_nennen(texte);
+    return nachtrag.ziel_nennen(texte).text("Überfahrten zählen nicht mehr", wort_.endgueltig);
 }
 
 void auswertung::korrekturtexte(sprachliste& texte) {

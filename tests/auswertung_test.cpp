@@ -230,6 +230,7 @@ TEST_F(Auswertung, FortgesetztesZeitrennenLaeuftAufDieNeueDauer) {
     ASSERT_TRUE(offen(fenstername::auswertung));
     EXPECT_EQ(a.neues_ziel.text(), "2");
     a.neues_ziel.eingeben("1,30");
+    EXPECT_EQ(a.ziel_einheit.text(), "Minuten insgesamt (1:30)");
     a.spurwechsel.umschalten();
     const zeit_ms letzte = t.p.rennen.zustand.konto.stempel(1, 3);
     const zeit_ms rest_der_runde = t.p.rennen.zustand.renn_ende_stempel - letzte;
@@ -316,9 +317,10 @@ TEST_F(Auswertung, SpaeteUeberfahrtZaehltEinmal) {
     EXPECT_EQ(t.ergebnis(1).rundenzahl(), 3) << "is home";
     EXPECT_EQ(a.runden_aus[1].text(), "3");
     EXPECT_EQ(t.ergebnis(1).platz, 1);
-    EXPECT_TRUE(a.Label_vorlaeufig.sichtbar());
+    EXPECT_EQ(a.Label_vorlaeufig.text(), "Überfahrten zählen noch mit");
     t.maschine.laufen(2000);
-    EXPECT_FALSE(a.Label_vorlaeufig.sichtbar());
+    EXPECT_EQ(a.Label_vorlaeufig.text(), "Überfahrten zählen nicht mehr");
+    EXPECT_TRUE(a.Label_vorlaeufig.sichtbar());
     EXPECT_TRUE(t.spur(2).ziel_erreicht);
 }
 
