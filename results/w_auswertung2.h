@@ -189,6 +189,8 @@ private:
     void tabelle_anzeigen();
     /// Over the table: what is in memory.
     void datei_nennen();
+    /// Files of the folder in sight go with time; what is saved is kept elsewhere.
+    bool automatischer_ordner() const;
     void ordner_nennen();
     void fuehrung_nennen();
     void rennplaetze_eintragen();

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <chrono>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 #include "core/ordnerblick.h"
@@ -178,6 +179,9 @@ void w_auswertung2::korrektur_beenden() {
 std::string w_auswertung2::namensvorschlag() const {
     const std::string& erste = dateien_.front();
     std::string name = erste.substr(erste.find_last_of("\\/") + 1);
+    if (constexpr std::string_view von_selbst = "auto-"; automatischer_ordner() && name.starts_with(von_selbst)) {
+        name.erase(0, von_selbst.size());
+    }
     if (!nur_auswahl_) {
         return name;
     }
@@ -245,7 +249,8 @@ void w_auswertung2::speichern() {
         return;
     }
     name += endet_auf(name, ".csv") ? "" : ".csv";
-    const std::string pfad = ordner_ + "\\" + name;
+    const std::string ordner(automatischer_ordner() ? ergebnis_ordner::einzelrennen : std::string_view(ordner_));
+    const std::string pfad = ordner + "\\" + name;
     if (!darf_schreiben(pfad)) {
         Text3.fokus_setzen();
         return;
@@ -262,7 +267,7 @@ void w_auswertung2::speichern() {
         korrekturen_.gesichert();
         datei_nennen();
     }
-    ordner_zeigen(ordner_);
+    ordner_zeigen(ordner);
     const auto& namen = File1.zeilen();
     File1.markieren(static_cast<int>(std::find(namen.begin(), namen.end(), name) - namen.begin()));
     speichern_schliessen();

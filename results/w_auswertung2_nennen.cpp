@@ -19,9 +19,13 @@ std::string w_auswertung2::anzeigename(std::string_view pfad) const {
     return wann.empty() ? std::string(name) : wann;
 }
 
+bool w_auswertung2::automatischer_ordner() const {
+    return ordner_ == papierkorb || ordner_ == ergebnis_ordner::auto_einzelrennen;
+}
+
 /// Nobody is to think that a result has been thrown away.
 void w_auswertung2::ordner_nennen() {
-    const bool automatisch = ordner_ == papierkorb || ordner_ == ergebnis_ordner::auto_einzelrennen;
+    const bool automatisch = automatischer_ordner();
     Label_ordner.text(automatisch ? wort_.automatisch : ordner_);
     Label_ordner.tipp(automatisch ? ordner_ : std::string());
 }

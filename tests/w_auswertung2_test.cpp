@@ -373,6 +373,9 @@ TEST_F(Ergebnisbetrachter, EinRennenHatSeinePlaetzeUndEinAutomatischesSeineZeit)
     EXPECT_TRUE(w.Label_datei.text().starts_with("21.11.2026 14:03, automatisch gesichert  ·  Einzelrennen"));
     EXPECT_EQ(w.Label_ordner.text(), "automatisch gesichert") << "nobody has thrown it away";
     EXPECT_EQ(w.anzeigename(w.File1.zeilen().front()), "21.11.2026 14:03");
+    w.Command16.klicken();
+    EXPECT_EQ(w.Text3.text(), "21112026-14032.csv");
+    w.Command12.klicken();
     w.Command3.klicken();
     EXPECT_EQ(namen(), "1.A 2.B ") << "the table counts the metres";
     waehlen("auto-nur so.csv");
@@ -387,7 +390,8 @@ TEST_F(Ergebnisbetrachter, EinRennenHatSeinePlaetzeUndEinAutomatischesSeineZeit)
     EXPECT_EQ(namen(), "2.A 3.B 1.C ");
     w.Command3.klicken();
     speichern_als("sortiert");
-    w.datei_zeigen(ordner + "sortiert.csv");
+    EXPECT_FALSE(t.p.ablage.gibt_es(ordner + "sortiert.csv")) << "there it would go with time";
+    w.datei_zeigen("Ergebnisse\\Einzelrennen\\sortiert.csv");
     EXPECT_EQ(namen(), "1.C 2.A 3.B ") << "each his own, in whatever order they stand";
 }
 
