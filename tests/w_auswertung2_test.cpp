@@ -79,7 +79,7 @@ TEST_F(Ergebnisbetrachter, OeffnetWasGewaehltIst) {
 TEST_F(Ergebnisbetrachter, ZeigtAutomatischeNurWoNichtsGespeichertIst) {
     const auto oeffnen = [this] {
         t.p.form1.Command18.klicken();
-        const textzeilen dateien = w.File1.zeilen();
+        textzeilen dateien = w.File1.zeilen();
         w.schliessen();
         return dateien;
     };
