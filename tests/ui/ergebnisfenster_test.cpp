@@ -143,7 +143,7 @@ TEST_F(Ergebnisfenster, AbstandDerErstSpaeterDaIstHatDieUeblicheSchrift) {
     ASSERT_TRUE(abstand->isVisible());
     const int sonst = abstand->schriftPx();
     const auto alle_zeigen = [&](bool an) {
-        for (const std::size_t i : {0, 1}) {
+        for (const std::size_t i : {std::size_t{0}, std::size_t{1}}) {
             t.p.auswertung.abstandlabel.at(i).sichtbar(an);
             t.p.auswertung.rueckstandlabel.at(i).sichtbar(an);
         }
