@@ -245,7 +245,7 @@ void hergangsleser::einordnen(geschehen& g) {
             endet_ = true;
             zu_ende_ = true;
             ende_stempel_ = g.stempel;
-            ende_in_pause_ = pause_offen_;
+            ende_in_pause_ = std::exchange(pause_offen_, false);  // a part that follows begins without it
             break;
         default:
             break;
