@@ -59,7 +59,8 @@ rueckstand rueckstand_an_der_linie(const rundenkonto& konto, int spur, int fuehr
     }
     const zeit_ms vorn = rennzeit_bei(konto, fuehrende, seine);
     const zeit_ms hinten = rennzeit_bei(konto, spur, seine);
-    const bool gemessen = vorn != 0 && hinten != 0 && hinten >= vorn;  // not yet where it was ahead the last time
+    const bool von_gruen = seine == 0 && hinten == vorn;  // false starters are counted from the light alike
+    const bool gemessen = vorn != 0 && hinten != 0 && hinten >= vorn && !von_gruen;  // else ahead the last time
     return {0, gemessen ? hinten - vorn : 0, gemessen};
 }
 

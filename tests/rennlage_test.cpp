@@ -312,6 +312,19 @@ TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {
     EXPECT_EQ(zurueck(3), "5 Runden zurück");
 }
 
+TEST_F(Rennlage, ZweiVonGruenGezaehlteSindNichtGleichauf) {
+    t.p.einst.fruehstart_option = fruehstart_aktion::ohne;
+    beginnen(1);
+    t.maschine.laufen(6000);
+    ampeltaste('1');
+    ampeltaste('2');
+    bis_gruen(6004);
+    ASSERT_EQ(t.p.rennen.zustand.konto.stempel(2, 0), t.p.rennen.zustand.konto.stempel(1, 0));
+    t.runde_nach(8000, "1");
+    t.p.rennen.lage.nachfuehren();
+    EXPECT_EQ(t.bahn().rueckstand[2].text(), "");
+}
+
 TEST_F(Rennlage, ZielHatSeinenPlatzUndWerDraussenIstFuehrtNicht) {
     t.p.form1.t_aktiv.umschalten();
     t.p.einst.tank_straf_option = leer_aktion::disqualifikation;
