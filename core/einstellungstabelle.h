@@ -13,6 +13,8 @@ inline constexpr std::string_view einstellungs_kopf = "Tarvel Version ";
 
 namespace z {
 inline constexpr int tank_inhalt = 36;
+inline constexpr int zielmodus_erster = 48;
+inline constexpr int runde_beenden = 63;
 inline constexpr int wahr_wort = 114;  ///< the words that the writing system used for true and false
 inline constexpr int falsch_wort = 115;
 inline constexpr int s6_option = 180;

@@ -85,6 +85,8 @@ int spur_des_ereignisses(std::int64_t art) {
 
 hergangsleser::hergangsleser(rennhergang& h)
     : h_(h), ziel_(h.kopf->param.renn_ziel.zahl()), schalter_(ist_wahr(h.kopf->einstellungen, z::chaos_schalter)) {
+    nachlauf_ = h.kopf->param.ist_zeitrennen() ? !ist_wahr(h.kopf->einstellungen, z::zielmodus_erster)
+                                               : ist_wahr(h.kopf->einstellungen, z::runde_beenden);
     for (const int spur : alle_spuren) {
         fahrer_[spur] = spur;
     }
@@ -160,7 +162,7 @@ void hergangsleser::entscheidung(std::string_view text) {
     const std::string_view wort = naechstes_wort(text);
     const auto form =
         std::find_if(vermerkformen.begin(), vermerkformen.end(), [&](const vermerkform& f) { return f.wort == wort; });
-    if (form == vermerkformen.end()) {
+    if (form == vermerkformen.end() || (form->was == vorgang::letzte && !nachlauf_)) {
         return;
     }
     geschehen g{.was = form->was, .zeit = zeit_};

@@ -73,6 +73,7 @@ private:
     std::optional<zeit_ms> pause_seit_;
     int taten_ = 0;
     std::int64_t ziel_ = 0;  ///< what the race goes for
+    bool nachlauf_ = false;  ///< at its end it waits for the laps that are being driven
     bool endet_ = false;     ///< the next time of day is that of the end
     spuren<int> fahrer_{};
     spuren<bool> nach_pause_{};  ///< the lane's last penalty was that of a pause

@@ -68,7 +68,7 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
     t.maschine.laufen(100);
     const rennhergang h = hergang_lesen(datei());
     ASSERT_TRUE(h.kopf && h.ganz);
-    const std::vector<vorgang> ohne{vorgang::taste, vorgang::platz, vorgang::ende, vorgang::letzte};
+    const std::vector<vorgang> ohne{vorgang::taste, vorgang::platz, vorgang::ende};
     const std::string ganz = datei();
     const std::size_t mitten_drin = ganz.find("\r\n", ganz.size() * 3 / 4) + 2;
     hergangsmitleser live(ganz.substr(0, mitten_drin));
@@ -88,12 +88,25 @@ TEST_F(Rennhergang, EinRennenErzaehltSich) {
               (std::vector<std::string>{"0:00,998 erste Überfahrt nach 0,998 s, ab hier wird gezählt",
                                         "0:04,212 zu kurz: 3,214 s, gezählt wird ab 5,300 s",
                                         "0:07,212 Runde 1: 6,214 s", "0:19,213 Runde 2: 7,001 s", "0:19,213 im Ziel"}));
+    EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::letzte; }), 0)
+        << "the winner's end is that of all";
     const auto pause = std::find_if(h.alle.begin(), h.alle.end(), [](auto& g) { return g.was == vorgang::pause; });
     ASSERT_NE(pause, h.alle.end());
     EXPECT_EQ(pause->bis - pause->seit_gruen, 5000);
     ASSERT_EQ(h.abgelehnte(1).size(), 1U);
     EXPECT_EQ(h.abgelehnte(1)[0].stempel - t.p.rennen.zustand.start_zeit, 4212);
     EXPECT_TRUE(h.abgelehnte(2).empty());
+}
+
+TEST_F(Rennhergang, WoGewartetWirdLaufenRundenAus) {
+    t.p.form1.wertmin.eingeben("1");
+    t.p.einst.runde_beenden = true;
+    t.starten("Runden", "1", {1, 2});
+    t.runde_nach(1000, "1");
+    t.runde_nach(3000, "1");
+    const rennhergang h = hergang_lesen(datei());
+    const auto auslauf = [](const geschehen& g) { return g.was == vorgang::letzte; };
+    EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), auslauf), 1);
 }
 
 TEST_F(Rennhergang, EinSchalterVerlangtKeineZweitePause) {
