@@ -43,8 +43,7 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     cu_tankentscheidung_->bei_tick = [this] { cu_tankentscheidung_tick(); };
     cu_alter_rz_start_->bei_tick = [this] { cu_alter_rz_start_tick(); };
     cu_ende_timer_->bei_tick = [this] {
-        const bool licht = neustart_wartet_;  // its own green would let the cars go behind the end
-        if ((im_startzustand() && !licht) || anhalten()) {
+        if ((im_startzustand() && !im_licht()) || anhalten()) {
             neustart_wartet_ = false;
             cu_ende_timer_->aus();
         }
@@ -118,6 +117,10 @@ bool control_unit::anhalten() {
     angehalten_ = jetzt;
     starttaste();
     return true;
+}
+
+bool control_unit::im_licht() const {
+    return neustart_wartet_ && uhr_.jetzt() - neustart_bei_ <= laengste_ms;
 }
 
 void control_unit::cu_auswertung_tick() {
@@ -303,6 +306,10 @@ void control_unit::cu_alter_rz_start_tick() {
 void control_unit::rennfenster_zu() {
     im_rennfenster_ = false;
     cu_ende_timer_->aus();
+    if (im_licht()) {
+        starttaste();
+    }
+    neustart_wartet_ = false;
     if (leitung_.offen()) {
         if (!cu_nicht_zuruecksetzen()) {
             leitung_.senden(cu::anzeigen_ruecksetzen);
@@ -350,6 +357,7 @@ void control_unit::abbrechen() {
 
 void control_unit::neustart() {
     neustart_wartet_ = true;
+    neustart_bei_ = uhr_.jetzt();
     starttaste();
 }
 
@@ -365,7 +373,7 @@ void control_unit::rennstart() {
 }
 
 void control_unit::rennende() {
-    if (rennen_laeuft_) {
+    if (rennen_laeuft_ || im_licht()) {
         rennen_laeuft_ = false;
         stand_verbraucht_ = true;
         cu_ende_timer_->an();

@@ -98,6 +98,8 @@ private:
     void starttaste();
     /// Presses it, unless that has only just been done: another press would let the cars go. True if it has.
     bool anhalten();
+    /// Its light of a pause's end runs: its green would let the cars go, also behind the end of the race.
+    bool im_licht() const;
     /// Somebody has pressed the start key already: a reset would throw him out.
     bool cu_nicht_zuruecksetzen() const { return im_startzustand() && !stand_verbraucht_; }
     void rennbetrieb(bool an);
@@ -133,7 +135,8 @@ private:
     bool im_rennfenster_ = false;        ///< the race window is open
     bool rennen_laeuft_ = false;         ///< between its start and its end
     bool nach_ausfall_ = false;          ///< the race has gone on behind one
-    bool neustart_wartet_ = false;       ///< the start key was pressed, the unit's light runs
+    bool neustart_wartet_ = false;       ///< the start key was pressed for the light of a pause's end
+    zeit_ms neustart_bei_ = 0;           ///< then
     bool stand_verbraucht_ = false;      ///< the start state is one that prepares no race: it has ended one, or a start
     int anschluss_ = 0;                  ///< port that was opened last: another one has another unit
     bool zaehlerbox_bereit_ = false;

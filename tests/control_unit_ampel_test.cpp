@@ -210,18 +210,50 @@ TEST_F(ControlUnitRennen, PauseMitDerTasteHaeltDasGeraetAnUndWartetAufSeinGruen)
     EXPECT_FALSE(t.p.rennen.zustand.chaos_aktiv);
 }
 
-TEST_F(ControlUnitRennen, WerImLichtNachDerPauseBeendetLaesstKeineWagenLos) {
+TEST_F(ControlUnitRennen, WerImLichtNachDerPauseAufhoertLaesstKeineWagenLos) {
+    t.p.einst.chaosampel_an = false;
+    const auto ins_licht = [this] {
+        starten(t.p.txt.text_runden, "10", {1});
+        t.taste("c");
+        status(true);
+        t.maschine.laufen(3000);
+        t.taste("c");
+        t.maschine.laufen(1000);
+        return geschrieben("T2P$");
+    };
+    const auto vorher = ins_licht();
+    t.p.rennen.befehle.rennen_abbrechen();
+    t.maschine.laufen(3000);
+    EXPECT_EQ(geschrieben("T2P$"), vorher + 1) << "stops it as the race window closes";
+    ins_licht();
+    const auto im_licht = geschrieben("T2P$");
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(3000);
+    EXPECT_EQ(geschrieben("T2P$"), im_licht + 1) << "and behind its end";
+    t.p.auswertung.cmd3_fortsetzung();
+    t.p.k_ampel.Command1.klicken();
+    t.maschine.laufen(1000);
+    ASSERT_EQ(geschrieben("T2P$"), im_licht + 2);
+    t.p.rennen.befehle.rennen_beenden();
+    t.maschine.laufen(3000);
+    EXPECT_EQ(geschrieben("T2P$"), im_licht + 3) << "as behind the end before it went on";
+}
+
+TEST_F(ControlUnitRennen, EinLichtDasEinAndererAngehaltenHatWirdAmEndeNichtGestartet) {
     t.p.einst.chaosampel_an = false;
     starten(t.p.txt.text_runden, "10", {1});
     t.taste("c");
     status(true);
     t.maschine.laufen(3000);
     t.taste("c");
-    t.maschine.laufen(1000);
-    ASSERT_EQ(geschrieben("T2P$"), 2) << "its light";
+    for (int sekunde = 0; sekunde < 16; ++sekunde) {
+        t.maschine.laufen(1000);
+        status(true);
+    }
+    const auto vorher = geschrieben("T2P$");
     t.p.rennen.befehle.rennen_beenden();
     t.maschine.laufen(3000);
-    EXPECT_EQ(geschrieben("T2P$"), 3) << "stops it";
+    EXPECT_EQ(geschrieben("T2P$"), vorher);
 }
 
 TEST_F(ControlUnitRennen, AufEinerLangsamenLeitungHaeltKeinZweiterDruckAn) {
