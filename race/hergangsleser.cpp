@@ -193,8 +193,12 @@ void hergangsleser::entscheidung(std::string_view text) {
 /// the target.
 void hergangsleser::ankunft(const geschehen& runde) {
     constexpr zeit_ms takt_ms = 1;  // the tick that ended the race may have read its clock a moment later
-    const bool angebrochen = runde.stempel >= ende_stempel_ - takt_ms && !ende_in_pause_;
-    if (!runde.nach_ende || !(angebrochen || ist_letzte(runde.nummer))) {
+    if (!runde.nach_ende) {
+        return;
+    }
+    const bool rollte = std::exchange(gerollt_[runde.spur], false);
+    const bool angebrochen = runde.stempel >= ende_stempel_ - takt_ms && !rollte;
+    if (!angebrochen && !ist_letzte(runde.nummer)) {
         return;
     }
     geschehen angekommen{.was = vorgang::ziel, .spur = runde.spur, .fahrer = runde.fahrer, .zeit = runde.zeit};
@@ -219,13 +223,16 @@ void hergangsleser::einordnen(geschehen& g) {
     switch (g.was) {
         case vorgang::gruen:
             gruen_ = gruen_.value_or(start{g.stempel, zeit_});
+            gerollt_.fuellen(false);
             break;
         case vorgang::pause:
             weiter_.reset();
-            pause_offen_ = true;
+            break;
+        case vorgang::durchfahrt:
+            gerollt_[g.spur] = true;
             break;
         case vorgang::weiter:
-            pause_offen_ = false;
+            gerollt_.fuellen(false);
             weiter_ = g.zeit;
             break;
         case vorgang::fruehstart:
@@ -247,7 +254,6 @@ void hergangsleser::einordnen(geschehen& g) {
             endet_ = true;
             zu_ende_ = true;
             ende_stempel_ = g.stempel;
-            ende_in_pause_ = std::exchange(pause_offen_, false);  // a part that follows begins without it
             break;
         default:
             break;

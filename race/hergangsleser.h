@@ -84,8 +84,7 @@ private:
     spuren<std::int64_t> zeitstrafe_{};  ///< of the driver in s, index as `geschehen::fahrer`; ms are added to each lap
     bool zu_ende_ = false;               ///< what is counted now came behind the end
     zeit_ms ende_stempel_ = 0;           ///< of that
-    bool pause_offen_ = false;
-    bool ende_in_pause_ = false;  ///< who was rolling over the line as it began is not home
+    spuren<bool> gerollt_{};             ///< over the line as the pause began: behind an end in it that one is not home
     std::array<wiederholung, ereignis_tabelle::zeilen_anzahl> zuletzt_{};
 };
 

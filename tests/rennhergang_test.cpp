@@ -219,6 +219,21 @@ TEST_F(Rennhergang, GruendeInWorten) {
     EXPECT_EQ(h.alle.back().text, "Korrektur Spur 1");
 }
 
+TEST_F(Rennhergang, WerImAnfangDerPauseRollteIstHinterDemEndeNichtImZiel) {
+    t.starten("Runden", "9", {1, 2});
+    inhalt_ = datei();
+    const rennhergang h = hergang_lesen(
+        protokoll({"t0 500", ".> Gruen 10000", ".> Pause 15000", ".> Durchfahrt 1 15200", ".> Ende 16000 0",
+                   ".> Runde 1 1 5000 16000", ".> Runde 1 2 600 16600", ".> Runde 2 1 6000 16300"}));
+    std::vector<int> im_ziel;
+    for (const geschehen& g : h.alle) {
+        if (g.was == vorgang::ziel) {
+            im_ziel.push_back(g.spur);
+        }
+    }
+    EXPECT_EQ(im_ziel, (std::vector<int>{2, 1})) << "each with a crossing behind it";
+}
+
 TEST_F(Rennhergang, StromlosBisErWiederkommt) {
     t.starten("Runden", "9", {1, 2});
     inhalt_ = datei();
