@@ -34,6 +34,7 @@ private:
         zeit_ms zeit = 0;
     };
 
+    static constexpr std::int64_t zahl_max = std::int64_t{1} << 50;  ///< sums of a few of them stay numbers
     static std::optional<std::int64_t> zahl(std::string_view& rest);
     geschehen& anhaengen(vorgang was, int spur);
     void kopfzeile(std::string_view text);
