@@ -24,7 +24,7 @@ constexpr double schrift_liste = 17;
 constexpr double schrift_knopf = 15;
 
 constexpr double schrift_eingabe = 20;
-constexpr int eingabe_breite_px = 110;
+constexpr int eingabe_breite_px = 84;
 constexpr double eingabe_breite = 124;  // at scale 1
 constexpr int knopfrand_px = 12;
 constexpr double bild_kante = 60;
