@@ -239,7 +239,9 @@ rennlage::hinweisgrund rennlage::hinweis_von(int spur) const {
 std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     const bahn1::worte& wort = um_.bahn.wort;
     if (g.was == spurhinweis::runde_wartet) {
-        return g.grund == ablehnung::tankstrafe ? wort.mit_strafe : wort.runde_wartet;
+        const auto sekunden = std::chrono::duration_cast<dauer_s>(um_.einst.tank_strafzeit).count();
+        return g.grund == ablehnung::tankstrafe ? "+" + std::to_string(sekunden) + " " + wort.s_strafe
+                                                : wort.runde_wartet;
     }
     if (g.grund == ablehnung::sperre) {
         return wort.noch_gesperrt;

@@ -131,7 +131,7 @@ TEST_F(Rennlage, TankZeigtWieErSteigtUndWerLeerIst) {
     EXPECT_EQ(hinweis(2), "Runde wartet");
     t.maschine.laufen(4000);
     EXPECT_EQ(sagt(2), "LEER") << "has its power back, and no fuel";
-    EXPECT_EQ(hinweis(2), "mit Strafe") << "the lap is shown longer than it was";
+    EXPECT_EQ(hinweis(2), "+10 s Strafe") << "the lap is shown longer than it was";
     t.maschine.laufen(3000);
     EXPECT_EQ(hinweis(2), "");
 }

@@ -324,7 +324,9 @@ QPushButton* Form1Fenster::letzte_ergebnisse() {
             const QString passend = menue->fontMetrics().elidedText(ganz, Qt::ElideMiddle, platz);
             QString text = passend;
             text.replace("&", "&&").prepend(i < 9 ? QString("&%1  ").arg(i + 1) : QString());  // a digit opens it
-            QAction* eines = menue->addAction(text, this, [this, i] { logik_.letztes_oeffnen(i); });
+            QAction* eines = menue->addAction(text);
+            QObject::connect(  // behind the menu: its button stays pressed as long as it is not done
+                eines, &QAction::triggered, this, [this, i] { logik_.letztes_oeffnen(i); }, Qt::QueuedConnection);
             eines->setEnabled(zeilen[i].da);
             eines->setToolTip(ganz);
             menue->setToolTipsVisible(menue->toolTipsVisible() || passend != ganz);
