@@ -55,21 +55,13 @@ void wettkampf2::befehle_verbinden() {
     Command10.bei_klick = [this] { folgen_.tabelle_speichern_unter(); };
     Command11.bei_klick = [this] { folgen_.bahnstrom(true); };
     Command12.bei_klick = [this] { folgen_.bahnstrom(false); };
-    Command13.bei_klick = [this] {
-        korrektur_uebernehmen();
+    nach_korrektur(Command13, [this] {
         rundenliste.leeren();  // so that the first choice leads on to its fields, also of who was chosen last
         felder_zeigen(feldgruppe::runden);
-    };
-    Command14.bei_klick = [this] {
-        korrektur_uebernehmen();
-        felder_zeigen(feldgruppe::namen);
-    };
+    });
+    nach_korrektur(Command14, [this] { felder_zeigen(feldgruppe::namen); });
     Command_uebernehmen.bei_klick = [this] { korrektur_uebernehmen(); };
-    Command_runden_fertig.bei_klick = [this] {
-        if (korrektur_uebernehmen()) {
-            felder_zeigen(feldgruppe::blick);
-        }
-    };
+    nach_korrektur(Command_runden_fertig, [this] { felder_zeigen(feldgruppe::blick); });
     Command_aushang.bei_klick = [this] {
         felder_zeigen(offen_ == feldgruppe::aushang ? feldgruppe::blick : feldgruppe::aushang);
     };
@@ -120,6 +112,7 @@ void wettkampf2::felder_zeigen(feldgruppe welche) {
     Command_aushang.aktiviert(Frame_blick.sichtbar());
     Frame_runden.sichtbar(welche == feldgruppe::runden);
     aendernframe.sichtbar(welche == feldgruppe::namen);
+    korrigiert_.reset();  // nobody is asked for what is out of sight
     if (welche == feldgruppe::runden) {
         korrektur_zeigen();
     } else if (welche == feldgruppe::namen) {

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "competition/wettkampf2.h"
 #include "core/text.h"
@@ -98,6 +100,14 @@ bool wettkampf2::korrektur_uebernehmen() {
         return runden != bisher.runden || meter_getippt;
     });
     return true;
+}
+
+void wettkampf2::nach_korrektur(befehl& knopf, std::function<void()> tun) {
+    knopf.bei_klick = [this, tun = std::move(tun)] {
+        if (korrektur_uebernehmen()) {
+            tun();
+        }
+    };
 }
 
 void wettkampf2::namen_zeigen() {

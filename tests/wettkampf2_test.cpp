@@ -98,6 +98,20 @@ TEST_F(Wettkampf2, RundenMeterUndNamenWerdenBerichtigt) {
     EXPECT_NE(w.List1.zeilen().at(0).find("Berta"), std::string::npos);
 }
 
+TEST_F(Wettkampf2, KeineZahlInDenRundenHaeltNurFestSolangeSieZuSehenIst) {
+    w.List1.auswaehlen(0);
+    w.Command13.klicken();
+    w.rundenliste.auswaehlen(1);
+    w.anz_runden[2].eingeben("");
+    w.Command14.klicken();
+    EXPECT_EQ(letzte_meldung(), "Runden, Spur 3: Hier steht keine Zahl.");
+    EXPECT_TRUE(w.Frame_runden.sichtbar() && !w.aendernframe.sichtbar());
+    t.p.fenster.neu_laden(fenstername::wettkampf2);
+    EXPECT_FALSE(w.Frame_runden.sichtbar());
+    w.List1.auswaehlen(1);
+    EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U) << "nobody can mend it there";
+}
+
 TEST_F(Wettkampf2, AbgeschnitteneDateiAendertNichts) {
     t.p.einst.w_zeit1 = 77s;
     t.p.wettkampfabend.aendern([](wettkampf&) { return true; });
