@@ -43,16 +43,16 @@ wettkampf2::wettkampf2(const fenster_umgebung& um, const einstellungen& einst, c
 }
 
 void wettkampf2::befehle_verbinden() {
-    Command1.bei_klick = [this] { folgen_.stand_speichern_unter(); };
-    Command2.bei_klick = [this] { abend_.rennen_starten(); };
+    nach_korrektur(Command1, [this] { folgen_.stand_speichern_unter(); });
+    nach_korrektur(Command2, [this] { abend_.rennen_starten(); });
     Command3.bei_klick = [this] { um_.fenster.zeigen(fenstername::w_auswertung); };
-    Command4.bei_klick = [this] { abend_.automatik_umschalten(); };
+    nach_korrektur(Command4, [this] { abend_.automatik_umschalten(); });
     Command5.bei_klick = [this] { wettkampf_beenden(); };
     Command6.bei_klick = [this] { um_.fenster.zeigen(fenstername::rangliste); };
-    Command7.bei_klick = [this] { folgen_.fahrerverwaltung_oeffnen(); };
-    Command8.bei_klick = [this] { wiederholen(); };
-    Command9.bei_klick = [this] { zurückstellen(); };
-    Command10.bei_klick = [this] { folgen_.tabelle_speichern_unter(); };
+    nach_korrektur(Command7, [this] { folgen_.fahrerverwaltung_oeffnen(); });
+    nach_korrektur(Command8, [this] { wiederholen(); });
+    nach_korrektur(Command9, [this] { zurückstellen(); });
+    nach_korrektur(Command10, [this] { folgen_.tabelle_speichern_unter(); });
     Command11.bei_klick = [this] { folgen_.bahnstrom(true); };
     Command12.bei_klick = [this] { folgen_.bahnstrom(false); };
     nach_korrektur(Command13, [this] {
@@ -346,6 +346,10 @@ void wettkampf2::zurückstellen() {
 bool wettkampf2::darf_enden() {
     if (!abend_.wettkampf_aktiv()) {
         return true;
+    }
+    if (!korrektur_uebernehmen()) {
+        korrekturfelder_zeigen();  // as it is stored: who closes once more is not held up again
+        return false;
     }
     if (!abend_.nachsichern()) {
         return fragen(wort_.verlust_frage, titel.text());

@@ -107,7 +107,8 @@ public:
     void laden() override;
     void schliessen() override { Command5.klicken(); }
     bool escape_schliesst() const override { return false; }
-    /// No evening runs, or all its races are driven and kept, or the director says so.
+    /// No evening runs, or all its races are driven and kept, or the director says so. What has been typed is stored
+    /// first; if it is no number it goes with a message, and the evening stays.
     bool darf_enden();
     /// The program ends: an evening of which all races are driven is not to be offered at the next start. A qualifying
     /// is, for its final.

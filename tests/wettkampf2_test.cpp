@@ -112,6 +112,34 @@ TEST_F(Wettkampf2, KeineZahlInDenRundenHaeltNurFestSolangeSieZuSehenIst) {
     EXPECT_EQ(t.maschine.meldungen_gezeigt.size(), 1U) << "nobody can mend it there";
 }
 
+TEST_F(Wettkampf2, GetippteRundenGehenMitKeinemBefehlVerloren) {
+    int runden = 100;
+    const auto tippen = [&](const std::string& text) {
+        w.List1.auswaehlen(0);
+        w.Command13.klicken();
+        w.rundenliste.auswaehlen(1);
+        w.anz_runden[2].eingeben(text);
+        t.maschine.meldungen_gezeigt.clear();
+        t.maschine.fragen_gestellt.clear();
+    };
+    t.maschine.antwort = false;
+    for (befehl* knopf : {&w.Command4, &w.Command5, &w.Command8, &w.Command2}) {
+        tippen("");
+        knopf->klicken();
+        EXPECT_EQ(letzte_meldung(), "Runden, Spur 3: Hier steht keine Zahl.");
+        EXPECT_TRUE(t.maschine.fragen_gestellt.empty() && !offen(fenstername::bahn1) && !t.p.einst.w_autom);
+        if (knopf == &w.Command5) {
+            knopf->klicken();
+            EXPECT_EQ(t.maschine.fragen_gestellt.size(), 1U) << "nobody is locked in";
+        }
+        tippen(std::to_string(++runden));
+        knopf->klicken();
+        EXPECT_EQ((*stand().ergebnis(1))[3].runden, runden);
+        t.p.einst.w_autom = false;
+    }
+    EXPECT_TRUE(offen(fenstername::bahn1));
+}
+
 TEST_F(Wettkampf2, AbgeschnitteneDateiAendertNichts) {
     t.p.einst.w_zeit1 = 77s;
     t.p.wettkampfabend.aendern([](wettkampf&) { return true; });
