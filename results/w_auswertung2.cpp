@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/ordner.h"
 #include "core/ordnerblick.h"
 #include "core/protokollordner.h"
 #include "core/text.h"
@@ -100,12 +101,13 @@ void w_auswertung2::laden() {
     for (std::size_t i = 0; i < opt_sortieren_nach.size(); ++i) {
         opt_sortieren_nach.at(i).gesetzt(static_cast<int>(um_.einst.auswertung_nach) == static_cast<int>(i) + 1);
     }
-    const auto leer = [this](std::string_view ordner) {
+    const auto etwas_da = [this](std::string_view ordner) {
         const ordnerblick da = ordner_ansehen(um_.welt.ablage.pfad(std::string(ordner)), {".csv"});
-        return da.dateien.empty() && da.ordner.empty();
+        return !da.dateien.empty() || !da.ordner.empty();
     };
-    const bool nur_automatische = leer(sprungziele.front()) && !leer(ergebnis_ordner::auto_einzelrennen);
-    ordner_zeigen(std::string(nur_automatische ? ergebnis_ordner::auto_einzelrennen : sprungziele.front()));
+    constexpr std::array der_reihe_nach{ergebnis_ordner::einzelrennen, ergebnis_ordner::auto_einzelrennen, papierkorb};
+    const auto* const erster = std::find_if(der_reihe_nach.begin(), der_reihe_nach.end(), etwas_da);
+    ordner_zeigen(std::string(erster == der_reihe_nach.end() ? der_reihe_nach.front() : *erster));
     tabelle_neu();
     File1.fokus_setzen();
 }

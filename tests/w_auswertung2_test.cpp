@@ -83,6 +83,9 @@ TEST_F(Ergebnisbetrachter, ZeigtAutomatischeNurWoNichtsGespeichertIst) {
         w.schliessen();
         return dateien;
     };
+    ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\Papierkorb\\auto-0.csv", {"x"}));
+    EXPECT_EQ(oeffnen(), textzeilen{"auto-0.csv"}) << "moved there as the program started";
+    EXPECT_EQ(w.Label_ordner.text(), "automatisch gesichert");
     ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\auto-Einzelrennen\\auto-1.csv", {"x"}));
     EXPECT_EQ(oeffnen(), textzeilen{"auto-1.csv"});
     ASSERT_TRUE(t.p.ablage.zeilen_schreiben("Ergebnisse\\Einzelrennen\\Finale.csv", {"x"}));
