@@ -33,15 +33,19 @@ bool ist_ziffer(char zeichen) {
     return zeichen >= '0' && zeichen <= '9';
 }
 
+bool hat_muster(std::string_view muster, std::string_view text) {
+    return std::equal(muster.begin(), muster.end(), text.begin(), text.end(),
+                      [](char soll, char ist) { return soll == '0' ? ist_ziffer(ist) : ist == soll; });
+}
+
 bool ist_protokollname(std::string_view name) {
     if (name.size() < zeitmuster.size() + endung.size() || !name.ends_with(endung)) {
         return false;
     }
     const std::string_view nummer = name.substr(zeitmuster.size(), name.size() - zeitmuster.size() - endung.size());
-    const bool mit_zeit = std::equal(zeitmuster.begin(), zeitmuster.end(), name.begin(),
-                                     [](char soll, char ist) { return soll == '0' ? ist_ziffer(ist) : ist == soll; });
-    return mit_zeit && (nummer.empty() || (nummer.size() > 1 && nummer.front() == vor_nummer &&
-                                           std::all_of(nummer.begin() + 1, nummer.end(), ist_ziffer)));
+    return hat_muster(zeitmuster, name.substr(0, zeitmuster.size())) &&
+           (nummer.empty() || (nummer.size() > 1 && nummer.front() == vor_nummer &&
+                               std::all_of(nummer.begin() + 1, nummer.end(), ist_ziffer)));
 }
 
 std::string tag_text(std::chrono::year_month_day tag) {
@@ -166,11 +170,32 @@ void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit
     }
 }
 
-std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis) {
+namespace {
+
+/// The answer of the calendar, as a log has it; empty if that is no time.
+std::string im_protokoll(const rennende_angabe& ende) {
+    constexpr std::string_view datumsmuster = "00.00.0000";
+    constexpr std::string_view uhrzeitmuster = "00:00:00";
+    if (!hat_muster(datumsmuster, ende.datum) || !hat_muster(uhrzeitmuster, ende.uhrzeit)) {
+        return {};
+    }
+    const std::string tag(ende.datum);
+    const std::string zeit(ende.uhrzeit);
+    return "datum " + tag.substr(6, 4) + tag.substr(3, 2) + tag.substr(0, 2) + zeit.substr(0, 2) + zeit.substr(3, 2) +
+           zeit.substr(6, 2) + "*";
+}
+
+}  // namespace
+
+std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis,
+                                                 const rennende_angabe& ende) {
     std::string name(ergebnis);
     std::replace(name.begin(), name.end(), '/', '\\');
-    const std::string gesucht = "\n# " + std::string(ergebnis_vermerk) + name + "*";
+    const std::string vermerk = "\n# " + std::string(ergebnis_vermerk) + name + "*";
+    const std::string endzeit = im_protokoll(ende);
     std::vector<std::string> namen = protokolle(ablage.pfad(protokoll_ordner));
+    std::optional<std::string> mit_ende;
+    std::optional<std::string> mit_namen;
     std::uintmax_t gelesen = 0;
     for (auto protokoll = namen.rbegin(); protokoll != namen.rend() && gelesen < suche_bytes_max; ++protokoll) {
         const fs::path datei = ablage.pfad(im_ordner(*protokoll));
@@ -180,11 +205,19 @@ std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::str
         std::ifstream strom(datei, std::ios::binary);
         const std::string inhalt{std::istreambuf_iterator<char>(strom), {}};
         gelesen += inhalt.size();
-        if (inhalt.find(gesucht) != std::string::npos) {
+        const bool genannt = inhalt.find(vermerk) != std::string::npos;
+        const bool endet = endzeit.empty() || inhalt.find(endzeit) != std::string::npos;
+        if (genannt && endet) {
             return im_ordner(*protokoll);
         }
+        if (genannt && !mit_namen) {
+            mit_namen = im_ordner(*protokoll);
+        }
+        if (endet && !endzeit.empty() && !mit_ende) {
+            mit_ende = im_ordner(*protokoll);
+        }
     }
-    return std::nullopt;
+    return mit_ende ? mit_ende : mit_namen;
 }
 
 }  // namespace tarvel

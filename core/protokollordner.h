@@ -40,8 +40,16 @@ void protokolle_aufraeumen(const dateien& ablage, const plattform::datum_uhrzeit
 /// What a log says where a result was written to a file, before its name below the program folder.
 inline constexpr std::string_view ergebnis_vermerk = "Ergebnis ";
 
+/// When a race ended, as its result has it: "21.11.2026" and "20:14:03". Empty if that is not known.
+struct rennende_angabe {
+    std::string_view datum;
+    std::string_view uhrzeit;
+};
+
 /// The newest log, by its name below the program folder, of which that file holds a result; none if there is none in
-/// what is worth searching.
-std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis);
+/// what is worth searching. The file may have been moved, renamed or written over with another race: a log that knows
+/// the end of the race comes before one that knows the file alone.
+std::optional<std::string> protokoll_zu_ergebnis(const dateien& ablage, std::string_view ergebnis,
+                                                 const rennende_angabe& ende = {});
 
 }  // namespace tarvel

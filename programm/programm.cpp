@@ -7,7 +7,6 @@
 #include "core/nebendateien.h"
 #include "core/ordner.h"
 #include "core/ordnerblick.h"
-#include "core/protokollordner.h"
 #include "programm/fluegel.h"
 #include "programm/messgeraete.h"
 #include "programm/rennprotokoll.h"
@@ -187,9 +186,8 @@ void programm::protokoll_verbinden() {
 
 /// The one whose result is shown, if there is one; a table of many races has none of its own.
 void programm::protokoll_zum_ergebnis_zeigen() {
-    const auto gezeigtes = w_auswertung2.gezeigtes_rennen();
-    const auto protokoll = gezeigtes ? protokoll_zu_ergebnis(ablage, *gezeigtes) : std::nullopt;
-    if (gezeigtes && !protokoll) {
+    const auto protokoll = w_auswertung2.gezeigtes_protokoll();
+    if (w_auswertung2.gezeigtes_rennen() && !protokoll) {
         dienste.meldungen.zeigen(protokollfenster.ohne_protokoll(), txt.titel[0]);
     }
     protokollfenster.auswahl_zeigen(protokoll.value_or(""));

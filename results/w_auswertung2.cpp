@@ -334,12 +334,11 @@ void w_auswertung2::rennen_zeigen() {
 
 /// A folder may hold many logs: they are looked through once for a file, and only if its race is drawn.
 void w_auswertung2::marken_aus_dem_protokoll(rennergebnis& rennen) {
-    const auto pfad = gezeigtes_rennen();
-    if (!pfad || tabelle_->rennen.size() != 1) {
+    if (!gezeigtes_rennen() || tabelle_->rennen.size() != 1) {
         return;
     }
     if (!std::exchange(protokoll_gelesen_, true)) {
-        const auto name = protokoll_zu_ergebnis(um_.welt.ablage, *pfad);
+        const auto name = gezeigtes_protokoll();
         const auto inhalt = name ? protokoll_lesen(um_.welt.ablage, name_von(*name)) : std::nullopt;
         protokolliertes_ = inhalt ? protokollrunden(hergang_lesen(*inhalt)) : std::nullopt;
     }
@@ -364,6 +363,16 @@ std::string w_auswertung2::kopf() const {
 std::optional<std::string> w_auswertung2::gezeigtes_rennen() const {
     const bool eines = tabelle_ && tabelle_->typ == ergebnis_typ::einzelrennen && dateien_.size() == 1;
     return eines ? std::optional(dateien_.front()) : std::nullopt;
+}
+
+std::optional<std::string> w_auswertung2::gezeigtes_protokoll() const {
+    const auto pfad = gezeigtes_rennen();
+    if (!pfad) {
+        return std::nullopt;
+    }
+    const bool allein = tabelle_->rennen.size() == 1;
+    const ergebnistabelle::lauf wann = allein ? tabelle_->rennen.front() : ergebnistabelle::lauf{};
+    return protokoll_zu_ergebnis(um_.welt.ablage, *pfad, {wann.datum, wann.uhrzeit});
 }
 
 std::string w_auswertung2::blatt_datei() const {

@@ -96,6 +96,8 @@ public:
     void datei_zeigen(const std::string& pfad);
     /// The file whose one race is shown, below the program folder; none for a table of many races.
     std::optional<std::string> gezeigtes_rennen() const;
+    /// Its log, likewise; none if there is none of it.
+    std::optional<std::string> gezeigtes_protokoll() const;
 
     /// Of a file of one race, what people know as its result: the sheet.
     void blatt_zeigen();

@@ -259,9 +259,24 @@ TEST_F(Wiedergabe, ZumGezeigtenErgebnisOeffnetSichSeinProtokollUndNichtDasNeuest
     ergebnis_verlassen();
     const auto dateien = t.p.ablage.auflisten("Ergebnisse\\auto-Einzelrennen", "", "");
     ASSERT_EQ(dateien.size(), 2U);
-    t.p.w_auswertung2.datei_zeigen("Ergebnisse\\auto-Einzelrennen\\" + dateien.front());
-    t.p.w_auswertung2.Command_protokoll.klicken();
-    EXPECT_EQ(t.p.protokollfenster.List_dateien.markiert(), 1);
+    const auto protokoll_von = [this](const std::string& datei) {
+        w_auswertung2& w = t.p.w_auswertung2;
+        w.datei_zeigen(datei);
+        t.p.protokollfenster.List_dateien.markieren(-1);
+        w.Command_protokoll.klicken();
+        const int zeile = t.p.protokollfenster.List_dateien.markiert();
+        t.p.protokollfenster.schliessen();
+        w.schliessen();
+        return zeile;
+    };
+    const std::string von_selbst = "Ergebnisse\\auto-Einzelrennen\\";
+    EXPECT_EQ(protokoll_von(von_selbst + dateien.front()), 1);
+    const std::string weg = "Ergebnisse\\Papierkorb\\" + dateien.front();
+    ASSERT_TRUE(t.p.ablage.kopieren(von_selbst + dateien.front(), weg));
+    EXPECT_EQ(protokoll_von(weg), 1) << "moved";
+    const std::string andere = von_selbst + dateien.back();
+    ASSERT_TRUE(t.p.ablage.loeschen(andere) && t.p.ablage.kopieren(weg, andere));
+    EXPECT_EQ(protokoll_von(andere), 1) << "written over another race";
 }
 
 TEST_F(Wiedergabe, EinWiedergeoeffnetesErgebnisHatSeineStrafeUndAusDemProtokollSeineZeichen) {
