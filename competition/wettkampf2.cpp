@@ -61,12 +61,12 @@ void wettkampf2::befehle_verbinden() {
     });
     nach_korrektur(Command14, [this] { felder_zeigen(feldgruppe::namen); });
     Command_uebernehmen.bei_klick = [this] { korrektur_uebernehmen(); };
-    nach_korrektur(Command_runden_fertig, [this] { felder_zeigen(feldgruppe::blick); });
+    nach_korrektur(Command_runden_fertig, [this] { zum_naechsten_rennen(); });
     Command_aushang.bei_klick = [this] {
         felder_zeigen(offen_ == feldgruppe::aushang ? feldgruppe::blick : feldgruppe::aushang);
     };
     Command_umbenennen.bei_klick = [this] { umbenennen(); };
-    Command_namen_fertig.bei_klick = [this] { felder_zeigen(feldgruppe::blick); };
+    Command_namen_fertig.bei_klick = [this] { zum_naechsten_rennen(); };
     List1.bei_auswahl = [this] {
         korrektur_uebernehmen();
         rennen_gewaehlt();
@@ -98,9 +98,17 @@ void wettkampf2::laden() {
     neuer_name.ansage(Label_neuer_name.text());
     opt_reihenfolge.gesetzt(false);
     felder_zeigen(feldgruppe::blick);
-    gezeigtes_rennen_ = 0;
     stand_zeigen();
-    Command2.fokus_setzen();
+    zum_naechsten_rennen();
+}
+
+/// It is what is marked and begun next, whichever was looked at or corrected.
+void wettkampf2::zum_naechsten_rennen() {
+    felder_zeigen(feldgruppe::blick);
+    gezeigtes_rennen_ = 0;
+    liste_zeigen();
+    befehle_zeigen();
+    (Command2.sichtbar() ? Command2 : Command3).fokus_setzen();
 }
 
 void wettkampf2::felder_zeigen(feldgruppe welche) {
@@ -292,6 +300,9 @@ void wettkampf2::befehle_zeigen() {
     const bool ende = w.ende_pruefen();
     const int rennen = gewaehltes();
     const bool gefahren = rennen > 0 && w.rennen_gefahren(rennen) == rennstatus::gefahren;
+    if (ende && Command2.sichtbar()) {
+        Command3.fokus_setzen();  // else it falls to whatever lies behind the button that goes
+    }
     Command2.sichtbar(!ende);
     Command9.sichtbar(!ende);
     Command4.sichtbar(!ende);

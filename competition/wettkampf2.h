@@ -173,6 +173,7 @@ private:
     void korrekturfelder_zeigen();
     /// What has been typed is stored; false, with a message, if it is no number.
     bool korrektur_uebernehmen();
+    void zum_naechsten_rennen();
     /// What the button does comes behind that, and not at all if it fails.
     void nach_korrektur(befehl& knopf, std::function<void()> tun);
     void namen_zeigen();

@@ -79,6 +79,8 @@ TEST_F(Wettkampf2, RundenMeterUndNamenWerdenBerichtigt) {
     w.anz_meter[2].eingeben("99");
     w.Command_runden_fertig.klicken();  // what was typed is not lost
     EXPECT_FALSE(w.Frame_runden.sichtbar());
+    EXPECT_EQ(w.List1.markiert(), stand().aktuelles_rennen - 1) << "which comes next";
+    w.List1.auswaehlen(0);
     EXPECT_EQ((*stand().ergebnis(1))[3], (fahrt{9, vorher.zeit, 9900, vorher.beste}));
     w.Command13.klicken();
     w.rundenliste.auswaehlen(1);
