@@ -110,7 +110,7 @@ struct zeilenteil {
         anzahl
     };
 };
-using z = zeilenteil;
+using teil = zeilenteil;
 
 constexpr double fahrer_em = 13.6;  ///< a name, number, lights and the box of the blame
 constexpr double abstand_em = 5.5;  ///< "12 Runden"
@@ -126,25 +126,26 @@ bool ist_niedrig(const ansicht_inhalt& inhalt, const rechteck& block, int lesbar
 }
 
 /// The pieces of a row.
-std::array<zeilenstueck, z::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, const rechteck& block,
-                                                  double s, int lesbar) {
+std::array<zeilenstueck, teil::anzahl> zeilenstuecke(const ansicht_inhalt& inhalt, bool hoch, const rechteck& block,
+                                                     double s, int lesbar) {
     const double hoehe = block.hoehe / s;
-    std::array<zeilenstueck, z::anzahl> stuecke;
-    stuecke[z::bild] = {hoch ? 2300 : 0.8 * hoehe};
-    stuecke[z::fahrer] = {hoch ? 5400.0 : 5000.0, fahrer_em * lesbar};
-    stuecke[z::platzziffer] = {1150, 3.0 * lesbar};
-    stuecke[z::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850), rueckstand_hoehe(inhalt, abstand_em * lesbar)};
-    stuecke[z::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
+    std::array<zeilenstueck, teil::anzahl> stuecke;
+    stuecke[teil::bild] = {hoch ? 2300 : 0.8 * hoehe};
+    stuecke[teil::fahrer] = {hoch ? 5400.0 : 5000.0, fahrer_em * lesbar};
+    stuecke[teil::platzziffer] = {1150, 3.0 * lesbar};
+    stuecke[teil::abstand] = {rueckstand_hoehe(inhalt, hoch ? 2500 : 1850),
+                              rueckstand_hoehe(inhalt, abstand_em * lesbar)};
+    stuecke[teil::zaehler] = {std::clamp(1.9 * hoehe, 3900.0, 8200.0)};
     const bool mit_schuld = inhalt.pause && !hoch;
-    stuecke[z::schuld] = {mit_schuld ? 1900.0 : 0, mit_schuld ? schuld_em * lesbar : 0};
-    stuecke[z::bild2] = {inhalt.fahrzeugbild && !hoch && !mit_schuld ? 1900.0 : 0};
+    stuecke[teil::schuld] = {mit_schuld ? 1900.0 : 0, mit_schuld ? schuld_em * lesbar : 0};
+    stuecke[teil::bild2] = {inhalt.fahrzeugbild && !hoch && !mit_schuld ? 1900.0 : 0};
     if (!hoch && inhalt.tank != tankanzeige_art::keine) {
-        stuecke[z::tank] = {inhalt.tank == tankanzeige_art::balken ? 1200.0 : 1900.0, tanktitel_em * lesbar};
+        stuecke[teil::tank] = {inhalt.tank == tankanzeige_art::balken ? 1200.0 : 1900.0, tanktitel_em * lesbar};
     }
     const double texte = (inhalt.bestzeit ? zeiten_em_mit_bestzeit : zeiten_em) * lesbar;
     const bool untereinander = texte < nebeneinander_ab * block.hoehe && !ist_niedrig(inhalt, block, lesbar);
-    stuecke[z::zeiten] = {hoch ? 4300.0 : 3500.0, untereinander ? texte / 2 : texte};
-    stuecke[z::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 2.0) * lesbar};
+    stuecke[teil::zeiten] = {hoch ? 4300.0 : 3500.0, untereinander ? texte / 2 : texte};
+    stuecke[teil::liste] = {hoch ? 2700.0 : 2100.0, (liste_em + 2.0) * lesbar};
     return stuecke;
 }
 
@@ -168,23 +169,23 @@ void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, dou
     const auto breite =
         zeile_teilen(zeilenstuecke(inhalt, hoch, block, s, lesbar), reihe.rest().breite - 16 * luecke, hoch);
 
-    zuschnitt bilder(reihe.links(breite[z::bild]), luecke);
+    zuschnitt bilder(reihe.links(breite[teil::bild]), luecke);
     g[t::Image2].ort = bilder.unten(inhalt.fahrzeugbild && hoch ? 0.4 * block.hoehe : 0);
     g[t::Image1].ort = bilder.rest();
-    zeile_fahrer(inhalt, reihe.links(breite[z::fahrer]), hoch, s, ganzes);
-    const rechteck platzfeld = mittig(reihe.links(breite[z::platzziffer]), 2.2 * breite[z::platzziffer]);
+    zeile_fahrer(inhalt, reihe.links(breite[teil::fahrer]), hoch, s, ganzes);
+    const rechteck platzfeld = mittig(reihe.links(breite[teil::platzziffer]), 2.2 * breite[teil::platzziffer]);
     mit_titel(platzfeld, titelplatz(std::min(0.2 * platzfeld.hoehe, 420 * s), lesbar), g[t::Label_platz],
               g[t::l_PosAnz]);
-    g[t::rueckstand].ort = reihe.links(breite[z::abstand]);
-    zaehler_einruecken(reihe.links(breite[z::zaehler]), std::min(entwurf::zaehler_links * s, 0.1 * breite[z::zaehler]),
-                       ganzes);
-    if (breite[z::schuld] > 0) {
-        const rechteck schuld = reihe.links(breite[z::schuld]);
+    g[t::rueckstand].ort = reihe.links(breite[teil::abstand]);
+    zaehler_einruecken(reihe.links(breite[teil::zaehler]),
+                       std::min(entwurf::zaehler_links * s, 0.1 * breite[teil::zaehler]), ganzes);
+    if (breite[teil::schuld] > 0) {
+        const rechteck schuld = reihe.links(breite[teil::schuld]);
         schuld_legen(schuld, titelplatz(0.3 * schuld.hoehe, lesbar), g);
     }
     const auto dahinter = [&](zuschnitt& rest, double fuer_zeiten, spur_orte& orte) {
         if (!hoch) {
-            tank_legen(inhalt, rest.links(breite[z::tank]), false, lesbar, orte);
+            tank_legen(inhalt, rest.links(breite[teil::tank]), false, lesbar, orte);
         }
         const rechteck zeitfeld = rest.links(fuer_zeiten);
         if (zeitfeld.breite > nebeneinander_ab * zeitfeld.hoehe ||
@@ -197,13 +198,14 @@ void zeile_legen(const ansicht_inhalt& ganzer_inhalt, const rechteck& block, dou
     ganzes.spur_tafel = g;
     zuschnitt mit_tafel = reihe;
     if (!hoch) {
-        g[t::Image2].ort = reihe.links(breite[z::bild2]);
+        g[t::Image2].ort = reihe.links(breite[teil::bild2]);
     }
-    dahinter(reihe, breite[z::zeiten], g);
+    dahinter(reihe, breite[teil::zeiten], g);
     g[t::t_liste].ort = reihe.rest();
-    const double zeiten_knapp = std::max(0.7 * breite[z::zeiten], zeiten_em_mit_bestzeit / 2 * lesbar);
-    const double zeiten_daneben = hoch ? std::min(zeiten_knapp, breite[z::zeiten]) : breite[z::zeiten];
-    const double gebraucht = (breite[z::tank] > 0 ? breite[z::tank] + 2 * luecke : 0) + zeiten_daneben + 4 * luecke;
+    const double zeiten_knapp = std::max(0.7 * breite[teil::zeiten], zeiten_em_mit_bestzeit / 2 * lesbar);
+    const double zeiten_daneben = hoch ? std::min(zeiten_knapp, breite[teil::zeiten]) : breite[teil::zeiten];
+    const double gebraucht =
+        (breite[teil::tank] > 0 ? breite[teil::tank] + 2 * luecke : 0) + zeiten_daneben + 4 * luecke;
     ganzes.tafel = mit_tafel.links(mit_tafel.rest().breite - gebraucht);
     dahinter(mit_tafel, zeiten_daneben, ganzes.spur_tafel);
 }
