@@ -162,6 +162,7 @@ TEST_F(Auswertung, WiederholenUndNeuStartenOeffnenEinFrischesRennen) {
     EXPECT_TRUE(t.bahn().Command1.aktiviert());
     t.bahn().Command1.klicken();
     t.rennende();
+    EXPECT_NE(a.kopf_label.text().find("vorzeitig beendet"), std::string::npos);
     a.Command2.klicken();
     EXPECT_EQ(namen()[0], vorher[1]) << "two lanes: the drivers change places";
     EXPECT_EQ(namen()[1], vorher[0]);
