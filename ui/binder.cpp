@@ -64,7 +64,10 @@ public:
     Bindung(Bildtakt& takt, steuerelement& element, QWidget* widget, bool nebenher, std::function<void()> abgleich)
         : takt_(takt), element_(element), widget_(widget), nebenher_(nebenher), abgleich_(std::move(abgleich)) {
         element_.beobachten(*this);
-        abgleichen();
+        werte_nachfuehren();
+        if (fokus_nachfuehren()) {
+            element_.fokus_setzen();  // once more when the window stands: a frame that takes the widget in loses it
+        }
     }
     Bindung(const Bindung&) = delete;
     Bindung& operator=(const Bindung&) = delete;
@@ -81,22 +84,33 @@ public:
 
     void abgleichen() override {
         vorgemerkt_ = false;
+        werte_nachfuehren();
+        fokus_nachfuehren();
+    }
+
+private:
+    void werte_nachfuehren() {
         widget_->setEnabled(element_.aktiviert());
         widget_->setVisible(element_.sichtbar());
         hinweise_nachfuehren();
         if (abgleich_) {
             abgleich_();
         }
-        if ((!nebenher_ || widget_->isVisible()) && element_.fokuswunsch_abholen()) {
-            widget_->setFocus(Qt::OtherFocusReason);
-            const auto* wahl = qobject_cast<QComboBox*>(widget_);
-            if (auto* zeile = wahl != nullptr ? wahl->lineEdit() : qobject_cast<QLineEdit*>(widget_)) {
-                zeile->selectAll();  // what is typed next replaces the old text
-            }
-        }
     }
 
-private:
+    /// True if it was to have the focus.
+    bool fokus_nachfuehren() {
+        if ((nebenher_ && !widget_->isVisible()) || !element_.fokuswunsch_abholen()) {
+            return false;
+        }
+        widget_->setFocus(Qt::OtherFocusReason);
+        const auto* wahl = qobject_cast<QComboBox*>(widget_);
+        if (auto* zeile = wahl != nullptr ? wahl->lineEdit() : qobject_cast<QLineEdit*>(widget_)) {
+            zeile->selectAll();  // what is typed next replaces the old text
+        }
+        return true;
+    }
+
     void hinweise_nachfuehren() {  // they hardly ever change, and a clock comes here with every frame
         if (ansage_ != element_.ansage()) {
             ansage_ = element_.ansage();

@@ -185,6 +185,15 @@ TEST_F(AlleFenster, KnoepfeHabenJeFensterVerschiedeneKuerzel) {
         << "the press is shown first";
 }
 
+TEST_F(AlleFenster, AuchEinFensterDasEbenGemachtWurdeHatSeinenFokus) {
+    t.maschine.datei_schreiben("Ergebnisse/Einzelrennen/Sonntag.csv", "");
+    t.p.fenster.zeigen(fenstername::w_auswertung2);
+    QTest::qWait(60);
+    o.takt.ausfuehren();
+    ASSERT_NE(o.w_auswertung2->focusWidget(), nullptr);
+    EXPECT_EQ(o.w_auswertung2->focusWidget()->objectName(), "w_auswertung2.File1");
+}
+
 TEST_F(AlleFenster, EineSpracheHatIhreKuerzelWieAuchImmerManZuIhrKommt) {
     std::filesystem::copy(TARVEL_QUELLEN "/data/language-en", t.maschine.ordner() / "language-en");
     const auto beschriftungen = [this] {
