@@ -109,6 +109,19 @@ TEST_F(Rennhergang, WoGewartetWirdLaufenRundenAus) {
     EXPECT_EQ(std::count_if(h.alle.begin(), h.alle.end(), auslauf), 1);
 }
 
+TEST_F(Rennhergang, WoDerErsteDieZeitBeendetLaeuftNichtsAus) {
+    t.p.einst.zielmodus_erster = true;
+    t.p.einst.fahrzeug_wechseln = false;
+    t.starten("Zeit", "1", {1, 2});
+    t.maschine.laufen(61000);
+    const rennhergang h = hergang_lesen(datei());
+    const auto mit = [&](vorgang was) {
+        return std::count_if(h.alle.begin(), h.alle.end(), [was](const geschehen& g) { return g.was == was; });
+    };
+    EXPECT_EQ(mit(vorgang::ende), 1);
+    EXPECT_EQ(mit(vorgang::letzte), 0);
+}
+
 TEST_F(Rennhergang, EinSchalterVerlangtKeineZweitePause) {
     t.p.einst.chaosampel_an = false;
     t.p.einst.chaos_schalter = true;
