@@ -97,8 +97,6 @@ void wettkampf2::laden() {
     aendernliste.ansage(Label_namenwahl.text());
     neuer_name.ansage(Label_neuer_name.text());
     opt_reihenfolge.gesetzt(false);
-    felder_zeigen(feldgruppe::blick);
-    stand_zeigen();
     zum_naechsten_rennen();
 }
 
@@ -106,8 +104,7 @@ void wettkampf2::laden() {
 void wettkampf2::zum_naechsten_rennen() {
     felder_zeigen(feldgruppe::blick);
     gezeigtes_rennen_ = 0;
-    liste_zeigen();
-    befehle_zeigen();
+    stand_zeigen();
     (Command2.sichtbar() ? Command2 : Command3).fokus_setzen();
 }
 
