@@ -44,7 +44,7 @@ control_unit::control_unit(const umgebung& um, const plattform::dienste& dienste
     cu_alter_rz_start_->bei_tick = [this] { cu_alter_rz_start_tick(); };
     cu_ende_timer_->bei_tick = [this] {
         if ((im_startzustand() && !im_licht()) || anhalten()) {
-            neustart_wartet_ = false;
+            neustart_seit_.reset();
             cu_ende_timer_->aus();
         }
     };
@@ -120,7 +120,7 @@ bool control_unit::anhalten() {
 }
 
 bool control_unit::im_licht() const {
-    return neustart_wartet_ && uhr_.jetzt() - neustart_bei_ <= laengste_ms;
+    return neustart_seit_ && uhr_.jetzt() - *neustart_seit_ <= laengste_ms;
 }
 
 void control_unit::cu_auswertung_tick() {
@@ -239,7 +239,7 @@ void control_unit::cu_tank_auswerten(const cu::status& status) {
 void control_unit::startzustand_auswerten(bool steht) {
     const start vorher = std::exchange(cu_startzustand_, steht ? start::steht : start::faehrt);
     if (!steht) {
-        neustart_wartet_ = false;
+        neustart_seit_.reset();
         stand_verbraucht_ = stand_verbraucht_ && vorher == start::faehrt;  // it may only just be asked to stop
         cu_chaos_durch_box_ = false;
         return;
@@ -248,7 +248,7 @@ void control_unit::startzustand_auswerten(bool steht) {
     if (um_.einst.cu.cu_sondermodus && !stand_verbraucht_ && um_.rennen.rennen_ruht()) {
         um_.rennen.rennen_vorbereiten();
     }
-    if (rennen_laeuft_ && !neustart_wartet_ && um_.rennen.rennen_laeuft()) {
+    if (rennen_laeuft_ && !neustart_seit_ && um_.rennen.rennen_laeuft()) {
         cu_chaos_durch_box_ = true;
         um_.ereignisse.ereignis_melden(art::chaostaster);
     }
@@ -271,7 +271,7 @@ void control_unit::rennbetrieb(bool an) {
 void control_unit::rennfenster_offen() {
     im_rennfenster_ = true;
     rennen_laeuft_ = false;
-    neustart_wartet_ = false;
+    neustart_seit_.reset();
     cu_chaos_durch_box_ = false;
     zaehlerbox_bereit_ = false;
     gezeigte_tankgroesse_ = 0;
@@ -309,7 +309,7 @@ void control_unit::rennfenster_zu() {
     if (im_licht()) {
         starttaste();
     }
-    neustart_wartet_ = false;
+    neustart_seit_.reset();
     if (leitung_.offen()) {
         if (!cu_nicht_zuruecksetzen()) {
             leitung_.senden(cu::anzeigen_ruecksetzen);
@@ -335,7 +335,7 @@ void control_unit::rennen_bereit() {
     gezeigte_tankgroesse_ = 0;
     rennen_laeuft_ = false;
     nach_ausfall_ = false;
-    neustart_wartet_ = false;
+    neustart_seit_.reset();
     cu_ende_timer_->aus();
     const bool nach_ausfall = um_.rennen.pause();  // then it is told nothing before the director goes on
     if (um_.einst.cu.cu_sondermodus && cu_startzustand_ == start::faehrt && !nach_ausfall) {
@@ -356,8 +356,7 @@ void control_unit::abbrechen() {
 }
 
 void control_unit::neustart() {
-    neustart_wartet_ = true;
-    neustart_bei_ = uhr_.jetzt();
+    neustart_seit_ = uhr_.jetzt();
     starttaste();
 }
 

@@ -135,10 +135,9 @@ private:
     bool im_rennfenster_ = false;        ///< the race window is open
     bool rennen_laeuft_ = false;         ///< between its start and its end
     bool nach_ausfall_ = false;          ///< the race has gone on behind one
-    bool neustart_wartet_ = false;       ///< the start key was pressed for the light of a pause's end
-    zeit_ms neustart_bei_ = 0;           ///< then
-    bool stand_verbraucht_ = false;      ///< the start state is one that prepares no race: it has ended one, or a start
-    int anschluss_ = 0;                  ///< port that was opened last: another one has another unit
+    std::optional<zeit_ms> neustart_seit_;  ///< when the start key was pressed for the light of a pause's end
+    bool stand_verbraucht_ = false;  ///< the start state is one that prepares no race: it has ended one, or a start
+    int anschluss_ = 0;              ///< port that was opened last: another one has another unit
     bool zaehlerbox_bereit_ = false;
     bool cu_chaos_durch_box_ = false;
 };
