@@ -150,7 +150,7 @@ struct bahn1 {
         std::string noch_ohne_strom;  ///< serves the penalty of its empty tank
         std::string erst_ab;          ///< in front of the time from which laps count
         std::string noch_gesperrt;    ///< behind a false start, or a pause's penalty
-        std::string s_strafe;         ///< in the lap that was just shown, behind their number
+        std::string sekunden_strafe;  ///< in the lap that was just shown, behind their number
         std::string runde_wartet;     ///< counts behind a penalty
         std::string nach_zeit_vorn;   ///< in front of the driver
         rueckstand_worte zurueck;

@@ -139,7 +139,7 @@ sprachliste& rennansicht::lageworte_nennen(sprachliste& texte) {
     texte.text("Neue Pause erst 2,5 s nach „Weiter“", bahn.wort.pause_gesperrt);
     texte.text("Rennen abgebrochen. „Fortsetzen“ holt es zurück.", bahn.wort.zurueckholen);
     return texte.text("noch gesperrt", bahn.wort.noch_gesperrt)
-        .text("s Strafe", bahn.wort.s_strafe)
+        .text("s Strafe", bahn.wort.sekunden_strafe)
         .text("erst ab", bahn.wort.erst_ab)
         .text("Nach gewerteter Zeit vorn:", bahn.wort.nach_zeit_vorn)
         .text("Sektor", bahn.wort.sektor)

@@ -240,7 +240,7 @@ std::string rennlage::hinweis_gesagt(const hinweisgrund& g) const {
     const bahn1::worte& wort = um_.bahn.wort;
     if (g.was == spurhinweis::runde_wartet) {
         const auto sekunden = std::chrono::duration_cast<dauer_s>(um_.einst.tank_strafzeit).count();
-        return g.grund == ablehnung::tankstrafe ? "+" + std::to_string(sekunden) + " " + wort.s_strafe
+        return g.grund == ablehnung::tankstrafe ? "+" + std::to_string(sekunden) + " " + wort.sekunden_strafe
                                                 : wort.runde_wartet;
     }
     if (g.grund == ablehnung::sperre) {
