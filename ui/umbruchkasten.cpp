@@ -103,7 +103,7 @@ void UmbruchKasten::paintEvent(QPaintEvent* /*ereignis*/) {
     maler.drawItemText(schrift, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
                        isEnabled(), gezeigt(), QPalette::WindowText);
     if (hasFocus()) {
-        const QRectF rahmen(schrift.adjusted(-3, -1, 0, 1).intersected(rect()));
+        const QRectF rahmen(schrift.adjusted(-5, -1, 0, 1).intersected(rect()));
         maler.setRenderHint(QPainter::Antialiasing);
         maler.setPen(QPen(stil::auf_dem_schirm().akzent, 2));  // as that of a button
         maler.drawRoundedRect(rahmen.adjusted(1, 1, -1, -1), 4, 4);
