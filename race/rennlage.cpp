@@ -83,12 +83,14 @@ spurlage rennlage::lage_von(int spur) const {
 
 int rennlage::fuehrende() const {
     int erste = 0;
-    if (um_.ampel_laeuft()) {  // who has jumped the light leads nothing
+    if (um_.ampel_laeuft()) {
         return erste;
     }
+    const rundenkonto& konto = um_.zustand.konto;
     for (const int spur : alle_spuren) {
+        const bool vom_licht = konto.runden(spur) == 0 && konto.stempel(spur, 0) == um_.zustand.start_zeit;
         const bool dabei = um_.param.spur_aktiv[spur] && !um_.zustand.spur[spur].disqualifiziert &&
-                           um_.zustand.konto.runden(spur) >= 0;
+                           konto.runden(spur) >= 0 && !vom_licht;
         if (dabei && (erste == 0 || t_.plaetze.position(feld_index(spur)) < t_.plaetze.position(feld_index(erste)))) {
             erste = spur;
         }

@@ -7,9 +7,15 @@
 namespace tarvel {
 namespace {
 
-/// When the lane had so many laps, on a clock that stands in the pauses. 0 without a stamp.
+/// When the lane was given so many laps, which is what the places go by. 0 without a stamp.
+zeit_ms gezaehlt_bei(const rundenkonto& konto, int spur, int runden) {
+    const zeit_ms stempel = konto.stempel(spur, runden);
+    return stempel == 0 ? 0 : stempel + konto.gewartet(spur, runden);
+}
+
+/// The same on a clock that stands in the pauses.
 zeit_ms rennzeit_bei(const rundenkonto& konto, int spur, int runden) {
-    zeit_ms zeit = konto.stempel(spur, runden);
+    zeit_ms zeit = gezaehlt_bei(konto, spur, runden);
     for (int zeile = 0; zeit != 0 && zeile <= runden; ++zeile) {
         zeit -= konto.pause(spur, zeile);
     }
@@ -20,7 +26,7 @@ zeit_ms rennzeit_bei(const rundenkonto& konto, int spur, int runden) {
 int runden_damals(const rundenkonto& konto, int fuehrende, int spur) {
     const int seine = konto.runden(spur);
     int damals = konto.runden(fuehrende);
-    while (damals > seine && konto.stempel(fuehrende, damals) > konto.stempel(spur, seine)) {
+    while (damals > seine && gezaehlt_bei(konto, fuehrende, damals) > gezaehlt_bei(konto, spur, seine)) {
         --damals;
     }
     return damals;

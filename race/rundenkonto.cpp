@@ -77,7 +77,7 @@ zeit_ms rundenkonto::zurueckhalten(int spur) {
     return frei;
 }
 
-void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
+void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag, zeit_ms gewartet) {
     if (!std::exchange(spur_[spur].zurueckgehalten, false)) {
         return;
     }
@@ -86,6 +86,7 @@ void rundenkonto::zurueckgeben(int spur, zeit_ms zuschlag) {
     zurueck.zeit += zuschlag;
     zurueck.stempel += zuschlag;
     zurueck.zuschlag = zuschlag;
+    zurueck.gewartet = std::max<zeit_ms>(gewartet - zuschlag, 0);
     speicher_.setzen(spur, zeile, zurueck);
     ++spur_[spur].runden;
 }

@@ -55,8 +55,10 @@ public:
     zeit_ms abziehen(int spur);
     /// As `abziehen`, for a lane that has a lap, but the lap is kept to be given back.
     zeit_ms zurueckhalten(int spur);
-    /// The lap that is held back counts again, `zuschlag` ms longer. Nothing without one.
-    void zurueckgeben(int spur, zeit_ms zuschlag);
+    /// How much later than its crossing a lap that was held back has counted.
+    zeit_ms gewartet(int spur, int zeile) const { return speicher_.auf(spur, zeile).gewartet; }
+    /// The lap that is held back counts again, `zuschlag` ms longer, after `gewartet` ms. Nothing without one.
+    void zurueckgeben(int spur, zeit_ms zuschlag, zeit_ms gewartet);
     /// The lane has had these laps, row 0 first; those up to lap `vor_fortsetzung` before the race went on. A lap that
     /// is held back is still the one behind.
     void runden_setzen(int spur, const std::vector<rennergebnis::runde>& runden, int vor_fortsetzung);

@@ -26,6 +26,7 @@ public:
         int teil = 0;               ///< how often the race had gone on when it was closed
         bool ausfall = false;       ///< the program was away in it, and the car perhaps drove on: `zeit` says little
         zeit_ms zuschlag = 0;       ///< of the penalty of an empty tank; is in `zeit`
+        zeit_ms gewartet = 0;       ///< counted so much later than its crossing, which is what `stempel` says
     };
 
     runde auf(int spur, int zeile) const { return gibt_es(zeile) ? an(zeile)[spur] : runde{}; }

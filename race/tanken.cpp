@@ -331,7 +331,7 @@ void tanken::beenden() {
         zustand.tank_sperre.bis = std::min(zustand.tank_sperre.bis, um_.zeit.messzeit_lesen());
         if (um_.zustand.konto.haelt_zurueck(spur)) {
             zustand.ziel_erreicht = letzte_runde(spur) || zustand.ziel_erreicht;
-            runde_zurueckgeben(spur);
+            runde_zurueckgeben(spur, 0);
         }
     }
 }
@@ -340,9 +340,9 @@ bool tanken::letzte_runde(int spur) const {
     return um_.ist_rundenrennen() && um_.zustand.konto.laufende(spur) == um_.param.renn_ziel.runden();
 }
 
-void tanken::runde_zurueckgeben(int spur) {
+void tanken::runde_zurueckgeben(int spur, zeit_ms gewartet) {
     rundenkonto& konto = um_.zustand.konto;
-    konto.zurueckgeben(spur, letzte_runde(spur) ? dauer_ms(um_.einst.tank_strafzeit).count() : 0);
+    konto.zurueckgeben(spur, letzte_runde(spur) ? dauer_ms(um_.einst.tank_strafzeit).count() : 0, gewartet);
     um_.bahn.zaehler[spur].text(std::to_string(konto.runden(spur)));
 }
 
@@ -379,7 +379,7 @@ void tanken::strafe_beenden(int spur) {
     if (!konto.haelt_zurueck(spur)) {  // the tank was empty before the first lap
         return;
     }
-    runde_zurueckgeben(spur);
+    runde_zurueckgeben(spur, dauer_ms(um_.einst.tank_strafzeit).count());
     const int runde = konto.runden(spur);
     const zeit_ms zeit =
         um_.ereignisse.messzeit - konto.stempel(spur, runde - 1) + zustand.strafzuschlag() - zustand.pause_abzug;

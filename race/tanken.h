@@ -48,7 +48,7 @@ private:
     /// A lap of the lane is gone; `pause` of it comes off the lap that takes it in.
     void runde_genommen(int spur, zeit_ms pause);
     /// A lap that is held back counts again.
-    void runde_zurueckgeben(int spur);
+    void runde_zurueckgeben(int spur, zeit_ms gewartet);
     void fuellstand_zeigen(int spur);
     void tankfarbe(int spur, farbe neu);
 

@@ -49,10 +49,18 @@ TEST_F(Rennlage, FruehstartZaehltSeineSekundenBisZumStrom) {
     EXPECT_EQ(sagt(1), "");
     t.maschine.laufen(3000);
     EXPECT_EQ(sagt(2), "FRÜHSTART") << "drives, and counts nothing yet";
+    EXPECT_EQ(fuehrt(), 0);
     t.taste("2");
     EXPECT_EQ(hinweis(2), "noch gesperrt");
+    t.taste("3");
+    EXPECT_EQ(fuehrt(), 3) << "who is counted from the light leads nothing";
+    EXPECT_EQ(t.bahn().l_PosAnz[1].text(), "1");
+    EXPECT_EQ(t.bahn().rueckstand[2].text(), "");
     t.maschine.laufen(6000);
     EXPECT_EQ(sagt(2), "");
+    EXPECT_EQ(fuehrt(), 3);
+    t.taste("2");
+    EXPECT_EQ(fuehrt(), 2) << "before he has a lap of his own";
     t.rennabbruch();
 
     for (const auto& [aktion, wort] : {std::pair(fruehstart_aktion::startabbruch, "FRÜHSTART"),
@@ -310,6 +318,23 @@ TEST_F(Rennlage, RueckstandIstWieManIhnSagt) {
     EXPECT_EQ(zurueck(2), "");
     t.rennende();
     EXPECT_EQ(zurueck(3), "5 Runden zurück");
+}
+
+TEST_F(Rennlage, NachLeeremTankGehtDerRueckstandWieDiePlaetze) {
+    t.p.form1.t_aktiv.umschalten();
+    t.p.einst.tank_straf_option = leer_aktion::stromunterbrechung;
+    fahren("Zeit", "5");
+    t.spur(1).tank_inhalt = 1;
+    t.spur(3).tank_inhalt = 1;
+    t.runde_nach(8000, "1");
+    t.runde_nach(1200, "3");
+    t.runde_nach(6800, "2");
+    t.maschine.laufen(4000);
+    t.p.rennen.lage.nachfuehren();
+    EXPECT_EQ(fuehrt(), 2) << "the laps of the others have waited";
+    EXPECT_EQ(t.bahn().l_PosAnz[0].text() + t.bahn().l_PosAnz[2].text(), "23");
+    EXPECT_EQ(t.bahn().rueckstand[1].text(), "+2,000 s");
+    EXPECT_EQ(t.bahn().rueckstand[3].text(), "+3,200 s");
 }
 
 TEST_F(Rennlage, ZweiVonGruenGezaehlteSindNichtGleichauf) {
